@@ -1,0 +1,50 @@
+# Settings that every target of the project shares.
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Kind of build" FORCE)
+endif()
+
+include(GNUInstallDirs)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# One place for everything that runs or is loaded at run time, so that the board finds its plug-ins in the build tree.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(GLIOLOLOK_PLUGIN_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/gliololok/shapes")
+set(GLIOLOLOK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/gliololok/shapes")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
+                                    "${CCACHE_PROGRAM}")
+endif()
+
+if(GLIOLOLOK_SANITIZE)
+    add_compile_options(-fsanitize=${GLIOLOLOK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${GLIOLOLOK_SANITIZE})
+endif()
+
+# gliololok_own_code(<target>): our warnings for our own code, and the shared precompiled header.
+function(gliololok_own_code target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align
+                                             -Wno-overloaded-virtual)
+    if(GLIOLOLOK_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                                                 QT_DEPRECATED_WARNINGS)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # ccache needs this to reuse objects built with a precompiled header.
+        target_compile_options(${target} PRIVATE -fpch-preprocess)
+    endif()
+    target_precompile_headers(${target} PRIVATE <QtCore/QtCore> <QtGui/QPainter> <QtGui/QPainterPath>
+                                                <QtWidgets/QGraphicsItem>)
+endfunction()

@@ -1,0 +1,19 @@
+# What `cmake --install` gives: headers, the CMake package and the pkg-config file. Targets install themselves where
+# they are defined, into the export set "gliololok".
+
+include(CMakePackageConfigHelpers)
+
+set(GLIOLOLOK_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/gliololok")
+configure_package_config_file("${CMAKE_CURRENT_SOURCE_DIR}/cmake/gliololokConfig.cmake.in"
+                              "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
+                              INSTALL_DESTINATION "${GLIOLOLOK_CMAKE_DIR}"
+                              PATH_VARS GLIOLOLOK_PLUGIN_INSTALL_DIR)
+write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/gliololokConfigVersion.cmake"
+                                 COMPATIBILITY SameMajorVersion)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
+              "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfigVersion.cmake"
+        DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
+install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
+
+configure_file("${CMAKE_CURRENT_SOURCE_DIR}/packaging/gliololok.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,0 +1,22 @@
+#pragma once
+
+/// The actions that a press on a page object can start, which are at the same time the handles that offer them.
+class CObjAction
+{
+public:
+    enum ACT_Def {
+        ACT_None = 0,
+        ACT_Move = 1,
+        ACT_ResizeTopLeft = 21,
+        ACT_ResizeTop = 22,
+        ACT_ResizeTopRight = 23,
+        ACT_ResizeLeft = 24,
+        ACT_ResizeRight = 25,
+        ACT_ResizeBottomLeft = 26,
+        ACT_ResizeBottom = 27,
+        ACT_ResizeBottomRight = 28,
+        ACT_Rotate = 29,
+        ACT_MirrorHorizontal = 30,
+        ACT_MirrorVertical = 31
+    };
+};

@@ -1,0 +1,196 @@
+#pragma once
+
+#include <framework/cobjaction.h>
+#include <framework/cpagebgprop.h>
+#include <framework/framework_global.h>
+#include <framework/operationtype.h>
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QList>
+#include <QtCore/QMap>
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtGui/QBrush>
+#include <QtGui/QPainterPath>
+#include <QtGui/QPen>
+
+#include <memory>
+
+class CPSRootObjectPrivate;
+class IPsPage;
+class QDataStream;
+class QGraphicsItem;
+class QGraphicsView;
+class QPainter;
+
+/// The page-object half of every object on a page: what selection, handles, undo, recording, panels and persistence
+/// of the host work with. The graphics-item half is CBaseObject's other base.
+///
+/// Virtual operations are also the seams at which tests and hosts step in. Unless said otherwise, operations that
+/// return bool answer whether the object knew what was asked.
+class FRAMEWORK_EXPORT CPSRootObject
+{
+public:
+    /// Reasons for notifyObjPropertyChanged().
+    enum Notification { SizeChanged = 105, AppearanceChanged = 1002 };
+
+    virtual ~CPSRootObject();
+    CPSRootObject(const CPSRootObject &) = delete;
+    CPSRootObject &operator=(const CPSRootObject &) = delete;
+
+    /// Name given by the user; empty for none.
+    virtual QString getObjName();
+
+    /// Paints the object's content in item coordinates; a null painter asks for the off-screen picture to be made
+    /// anew. Called in the owning thread, or in another thread with a painter.
+    virtual void OnQPainterDraw(QPainter *painter);
+    /// Brackets all painting of content. Saves the painter's state and applies the object's mirroring about the
+    /// client rectangle's centre. An inactive painter is left alone, silently.
+    virtual void beginPaint(QPainter *painter);
+    virtual void endPaint(QPainter *painter);
+    /// Drops cached pictures of the page layers that show the object; `reason` 2 says that only editing aids changed.
+    virtual void clearLayerEffectCache(int reason);
+
+    virtual bool canDo(OperationType operation);
+    virtual bool save(QDataStream &out);
+    virtual bool load(QDataStream &in);
+    virtual bool saveJson(QJsonObject &object);
+    virtual bool loadJson(QJsonObject &object);
+
+    /// Takes `size` (item units) as the client size. `flag` asks for a playback record of the change, `redraw` for
+    /// the graphics item to be updated at once. A size that is not finite is ignored.
+    virtual void setSize(QSizeF size, bool flag, bool redraw);
+    /// Tells the host that the region path (item coordinates) is new; `item` is the graphics item to update, null
+    /// for the object's own.
+    virtual void regenRegionShape(QGraphicsItem *item);
+
+    virtual bool SavePropertyForPlayback(QDataStream &out);
+    virtual bool LoadPropertyForPlayback(QDataStream &in);
+    /// Replays one recorded action (RecordAction()) of the host's own kinds.
+    virtual bool DoPlaybackActionEx(int actionId, QDataStream &in);
+    virtual bool getAllAttributes(QMap<QString, QVariant> &map);
+    virtual bool setAllAttributes(const QMap<QString, QVariant> &map, bool flag);
+    virtual bool GetAttribute(int id, QDataStream &out);
+    virtual bool SetAttribute(int id, QDataStream &in, bool record);
+    virtual bool GetSpecialProperty(int id, QDataStream &out);
+    virtual bool SetSpecialProperty(int id, QDataStream &in, bool record);
+    /// Shows the object's own menu; `where` is a host-defined pointer.
+    virtual void PopupObjectMenu(void *where);
+    /// Whether `scenePos` (scene coordinates) lies on one of the enabled handles of the selected object; `action` is
+    /// then what it starts.
+    virtual bool CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action);
+    /// Takes a copy of the fill and makes the fill brush of it. A fill that only names a colour (solid), and the same
+    /// colour and opacity that the object already has, keeps a present picture, pattern or gradient. `record` asks
+    /// for a playback record. Null is ignored. Never paints before it returns.
+    virtual void setFillProp(CPageBgProp *prop, bool record);
+    virtual bool GetSettingJson(QString &out);
+    virtual bool SetSettingJson(const QString &json, bool record, bool undo);
+    /// Called after something other than the host changed the client rectangle.
+    virtual void updateRectChanged();
+
+    virtual bool isVisible() const;
+    /// What kind of object this is, as a localisation key ("IDS_..."): shown in lists, hints and to screen readers.
+    virtual QString kindName() const = 0;
+    virtual void setLocked(bool locked);
+    virtual bool isLocked() const;
+
+    /// @name Seams: what an object tells its host
+    /// @{
+    /// Takes one step for the playback record: an action id and its payload, which is copied. Null is ignored.
+    virtual void RecordAction(int actionId, QByteArray *data);
+    /// Something about the object changed (see Notification); `value` is host-defined text.
+    virtual void notifyObjPropertyChanged(int id, const QString &value);
+    /// The end of creation; `byUser` is true only for the last step of drawing the object with the mouse.
+    virtual void onCreateFinished(bool byUser);
+    /// Recomputes bounding rectangle, handles and scene after the client rectangle changed. `item` is the graphics
+    /// item, null for the object's own; `redraw` asks for an update of the item.
+    virtual void updateAfterObjRectChanged(QGraphicsItem *item, bool redraw);
+    /// The page that the object stands on; null when on none.
+    virtual IPsPage *GetPage() const;
+    /// @}
+
+    void SetPage(IPsPage *page);
+
+    /// @name Place and size
+    /// @{
+    /// Client rectangle, item coordinates. The host keeps its top-left at (0, 0) and moves the item instead.
+    QRectF getClientRect() const { return clientRect; }
+    /// Position of the item's origin, scene coordinates.
+    QPointF getPos() const;
+    /// Moves the item's origin to `pos` (scene coordinates); `record` asks for a playback record.
+    void setPos(QPointF pos, bool record);
+    /// Sets the rotation to `degrees` and moves the item so that `center` (item coordinates of the unrotated object)
+    /// comes to lie where the unrotated object has it; `record` asks for a playback record.
+    void setRotateByPoint(double degrees, QPointF center, bool record);
+    bool isMirrored() const { return mirrorHorizontal; }
+    bool isFlipped() const { return mirrorVertical; }
+    /// Mirrors the content about the client rectangle's vertical (`horizontal`) and horizontal (`vertical`) axis.
+    void setMirror(bool horizontal, bool vertical, bool record);
+    /// Schedules a repaint of the object's graphics item.
+    void update();
+    /// @}
+
+    /// Scene units to screen pixels of the view that edits the object's document (1 before there is one).
+    double getCurZoomRate() const;
+    /// The first view of the list that is visible; null when none is.
+    static QGraphicsView *FindFirstVisibleView(QList<QGraphicsView *> &views);
+
+    void setHandlesDisable(CObjAction::ACT_Def handle, bool disable);
+    bool isHandleDisabled(CObjAction::ACT_Def handle) const;
+
+    /// Host pen colour; `notify` asks for a notification and a playback record.
+    void setMyPenColor(QColor color, bool notify);
+    QPen getMyPen() const { return myPen; }
+    CPageBgProp *getFillProp() const { return fillProp; }
+    /// The brush made of the fill property; no brush while the fill is disabled.
+    QBrush getHostFillBrush() const { return fillBrush; }
+    /// Region for selection, hit tests and clipping, item coordinates; null until it is first made.
+    const QPainterPath *getRegionPath() const { return regionPath; }
+    QList<int> getAttributeIds() const { return attributeIds; }
+    bool isCreateFinished() const { return createFinished; }
+
+    /// A host-defined sub kind of the object, 0 at first.
+    void setSubType(int subType);
+    int getSubType() const;
+
+    /// @name Controls of a settings panel
+    /// Each gives one control as a JSON object whose members belong to the host's panel. References are read only.
+    /// @{
+    QJsonObject GetSettingJsonComboBox(QString &id, QString &title, int index, QList<QString> &icons,
+                                       QList<QString> &texts);
+    QJsonObject GetSettingJsonColorPicker(QString &id, QString &title, QString &color);
+    QJsonObject GetSettingJsonInput(QString &id, QString &title, QString &value, QString &type, QString &minimum,
+                                    QString &maximum, QString &unit);
+    QJsonObject GetSettingJsonSwitch(QString &id, QString &title, bool on);
+    QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum, QString &maximum,
+                                     QString &step, QString &unit);
+    QJsonObject GetSettingJsonCommond(QString &id, QString &title, QString &command);
+    /// Reads a panel's answer, an object of id and value, into `values`. False, with `values` untouched, when the
+    /// text is no such object.
+    bool ParseSettingJson(const QString &json, QMap<QString, QString> &values);
+    /// @}
+
+protected:
+    CPSRootObject(IPsPage *page, QGraphicsItem *item);
+
+    QString objName;
+    /// Set once the object's creation is finished; until then the object itself follows the creating drag.
+    bool createFinished = true;
+    QList<int> attributeIds;
+    QRectF clientRect;
+    /// The drag rectangle, item coordinates: where a creating drag began and where it is.
+    QPointF dragStart;
+    QPointF dragEnd;
+    QPen myPen;
+    CPageBgProp *fillProp; ///< owned
+    QBrush fillBrush;
+    QPainterPath *regionPath = nullptr; ///< owned
+    bool mirrorHorizontal = false;
+    bool mirrorVertical = false;
+
+private:
+    friend class CPSRootObjectPrivate;
+    std::unique_ptr<CPSRootObjectPrivate> d;
+};

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <svgbase/qzesvgstructurenode.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QVector>
+#include <QtGui/QBrush>
+#include <QtGui/QColor>
+
+#include <functional>
+
+class QPainter;
+
+/// A loaded SVG document: the root structure node, document-wide styling, and drawing.
+class SVGBASE_EXPORT QZeSvgTinyDocument : public QZeSvgStructureNode
+{
+public:
+    /// Something that parsing or drawing had to say. Line and column count from 1; 0 where there is no place.
+    struct Message {
+        enum Severity { Warning, Error };
+        Severity severity = Warning;
+        QString text;
+        qint64 line = 0;
+        qint64 column = 0;
+        QString elementId;
+    };
+
+    /// What the last draw() was asked to do.
+    struct DrawRecord {
+        QRectF target;
+        float scale = 0;
+        bool viewFlag = false;
+    };
+
+    /// Parses UTF-8 SVG text into a new document that the caller owns. Null when the text is not well-formed XML with
+    /// an "svg" root or exceeds a limit of the library; `messages`, when given, then says why and where.
+    static QZeSvgTinyDocument *load(const QByteArray &text, QVector<Message> *messages = nullptr);
+    ~QZeSvgTinyDocument() override;
+
+    /// What parsing had to say about a document that could be loaded.
+    QVector<Message> messages() const;
+
+    /// The node with that id, control points and definitions included; null when there is none. The first in
+    /// document order where an id stands twice.
+    QZeSvgNode *namedNode(const QString &id) const;
+
+    /// The visible part, document units. While the stored one is null (width and height both 0), the transformed
+    /// bounds are computed, stored as the view box and returned.
+    QRectF viewBox() const;
+    void setViewBox(const QRectF &box);
+
+    /// Stores a function that draw() calls with its painter, before the first node is drawn and with the painter in
+    /// document units. An empty function takes it away.
+    void setCallback(const std::function<void(QPainter *)> &callback);
+
+    /// @name Document-wide styling
+    /// Setters reach every node whose stroke (or fill) is enabled. Getters give what was last set, else the value of
+    /// the first such node in document order that has one (control points, whose flags are off, aside), else the
+    /// initial values: black, solid, 1, no brush.
+    /// @{
+    void setAllStrokeColor(QColor color);
+    void setAllStrokeStyle(Qt::PenStyle style);
+    void setAllStrokeWidth(double width);
+    void setAllFillBrush(const QBrush &brush);
+    QColor getAllStrokeColor() const;
+    Qt::PenStyle getAllStrokeStyle() const;
+    double getAllStrokeWidth() const;
+    QBrush getAllFillBrush() const;
+    /// @}
+
+    /// Draws the document with its view box stretched over `target` (painter units, no regard for aspect ratio),
+    /// magnified by `scale` about the target's centre. Control points (ids "control_1", "control_2", ...) are drawn
+    /// above everything else, with their own template style and counter-scaled about their centres so that they look
+    /// square, and only while `viewFlag` is set and the selection state is 1. An empty target or view box draws
+    /// nothing. The painter's state is the same afterwards.
+    void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
+
+    /// 1 while the shape is selected, else 0.
+    int selectionState() const;
+    void setSelectionState(int state);
+    /// Asks the next draw() to settle pending changes before it draws; draw() clears the flag.
+    bool isBeforeDraw() const;
+    void setBeforeDraw(bool on);
+    DrawRecord lastDraw() const;
+
+    /// @name Animation
+    /// @{
+    /// Whether the document contains animation elements, running or not.
+    bool animated() const;
+    void startAnimate();
+    void stopAnimate();
+    /// @}
+
+private:
+    explicit QZeSvgTinyDocument(std::unique_ptr<QZeSvgNodePrivate> record);
+    friend class QZeSvgNodePrivate;
+};
