@@ -1,0 +1,62 @@
+# Functions that run and test share. Sourced by bash with the repository root in $root.
+
+jobs=$(nproc)
+
+say() { printf '\n== %s\n' "$*"; }
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# packages_of GROUP...: the packages of these groups, one per line.
+packages_of() {
+    local group
+    for group in "$@"; do
+        sed -n "s/^$group: *//p" "$root/scripts/packages.txt" | tr ' ' '\n'
+    done | sort -u
+}
+
+is_installed() {
+    [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# as_root COMMAND...: runs it directly for root, through sudo for anybody else.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# install_packages GROUP...: installs what is missing of these groups, and says so.
+install_packages() {
+    if ! command -v apt-get >/dev/null; then
+        say "This is no Debian system: nothing is installed. Needed are: $(packages_of "$@" | tr '\n' ' ')"
+        return
+    fi
+    local package missing=()
+    for package in $(packages_of "$@"); do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+
+    say "Installing ${missing[*]}"
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        fail "Neither root nor sudo. Please have these installed: apt-get install ${missing[*]}"
+    fi
+    as_root apt-get update -q || fail "apt-get update failed."
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" ||
+        fail "apt-get could not install the packages."
+}
+
+# build PRESET [TARGET...]: configures and builds; without targets, everything.
+build() {
+    local preset=$1
+    shift
+    say "Configuring the $preset build in build/$preset"
+    (cd "$root" && cmake --preset "$preset") || fail "The $preset build could not be configured."
+    say "Building ($jobs jobs)"
+    cmake --build "$root/build/$preset" --parallel "$jobs" ${1:+--target "$@"} || fail "The $preset build failed."
+}
