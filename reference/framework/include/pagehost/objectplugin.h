@@ -10,7 +10,8 @@ class CBaseObject;
 namespace pagehost {
 
 /// One kind of page object that a plug-in offers.
-struct ObjectKind {
+struct ObjectKind
+{
     QString id;      ///< stable and unique, kept in documents; letters, digits and '.' ("shapes.arrow")
     QString nameKey; ///< localisation key of the name shown in the palette
     QString group;   ///< localisation key of the palette group
@@ -34,8 +35,8 @@ public:
     virtual QVector<ObjectKind> objectKinds() const = 0;
     /// A new object of that kind in the creating state, owned by the caller; null for an unknown id.
     virtual CBaseObject *createObject(const QString &kindId) const = 0;
-    /// The plug-in's texts in a language ("en", "de", ...); empty for a language that it does not have. English must
-    /// be there.
+    /// The plug-in's texts in a language ("en", "de", ...); empty for a language that it does not have. English
+    /// must be there.
     virtual TextTable texts(const QString &language) const = 0;
 };
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <pagehost/geometrysnapshot.h>
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+class CBaseObject;
+class CPageBgProp;
+
+/// Undoable changes. Each function is one step on the process-wide stack (CUndoRedo), already applied when it
+/// returns, with a localisation key as its text. A call that would change nothing leaves no step and returns false
+/// or null. Objects and pages that a step refers to stay alive as long as the step does.
+namespace pagehost {
+
+class Document;
+class Page;
+
+/// Adds objects on top, in the order given, and selects them.
+FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects);
+/// Removes those of the objects that are on the page; undo puts each back at its place in stacking order.
+FRAMEWORK_EXPORT bool removeObjects(Page *page, const QVector<CBaseObject *> &objects);
+
+enum class StackingMove { ToFront, Forward, Backward, ToBack };
+/// Moves the objects in stacking order; they keep their order among themselves. Forward and Backward pass one
+/// object that is not among them.
+FRAMEWORK_EXPORT bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move);
+
+/// Makes a step of what happened since the snapshots were taken; the change itself is already there. `textKey` is
+/// the step's localisation key.
+FRAMEWORK_EXPORT bool pushGeometryChange(const QVector<GeometrySnapshot> &before, const QString &textKey);
+/// Moves objects by `delta` (scene units). Locked objects stay.
+FRAMEWORK_EXPORT bool moveObjects(const QVector<CBaseObject *> &objects, const QPointF &delta);
+/// Turns each object about its own centre by `degrees`, clockwise on screen. Locked objects stay.
+FRAMEWORK_EXPORT bool rotateObjects(const QVector<CBaseObject *> &objects, double degrees);
+/// Resizes an object, its top-left corner staying where it is on the page; the object may keep its aspect ratio.
+FRAMEWORK_EXPORT bool resizeObject(CBaseObject *object, const QSizeF &size);
+/// Mirrors each object about its own centre: left to right (`horizontally`) or top to bottom.
+FRAMEWORK_EXPORT bool mirrorObjects(const QVector<CBaseObject *> &objects, bool horizontally);
+FRAMEWORK_EXPORT bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked);
+
+FRAMEWORK_EXPORT bool setPageBackground(Page *page, const CPageBgProp &background);
+/// Fills objects with any fill, pictures and gradients included; plain colours go through pagehost/style.h.
+FRAMEWORK_EXPORT bool setObjectsFill(const QVector<CBaseObject *> &objects, const CPageBgProp &fill);
+
+/// Adds an empty page of this size at `index` and makes it current.
+FRAMEWORK_EXPORT Page *addPage(Document *document, int index, const QSizeF &size);
+/// Never removes the last page.
+FRAMEWORK_EXPORT bool removePage(Document *document, int index);
+FRAMEWORK_EXPORT bool movePage(Document *document, int from, int to);
+
+} // namespace pagehost

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QPointF>
+#include <QtCore/QString>
+
+class CBaseObject;
+class QGraphicsSceneMouseEvent;
+
+namespace pagehost {
+
+class ObjectRegistry;
+class PageScene;
+
+/// Draws one new object with the mouse.
+///
+/// The object sees one press at its own (0, 0), moves, and one release, and always grows to the right and down: the
+/// tool moves the item so that the corner where the drag began stays put, whatever direction the user drags. A
+/// click makes an object of its default size with its top-left corner at the click. Shift keeps the drag square.
+/// The result is one undo step, and the new object is the selection.
+class FRAMEWORK_EXPORT CreationTool : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The registry must outlive the tool.
+    explicit CreationTool(const ObjectRegistry *registry, QObject *parent = nullptr);
+    /// Cancels.
+    ~CreationTool() override;
+
+    /// Waits for a press on `scene` to draw an object of this kind. False, and nothing waits, when the registry
+    /// does not know the kind. What was waiting before is cancelled.
+    bool begin(PageScene *scene, const QString &kindId);
+    /// Waiting for a press, or drawing.
+    bool isActive() const { return m_scene != nullptr; }
+    /// Between press and release.
+    bool isDrawing() const { return m_object != nullptr; }
+    QString kindId() const { return m_kindId; }
+    /// Removes the unfinished object without a trace and stops waiting; nothing when not active.
+    void cancel();
+
+    /// @name The mouse, as the scene hands it on; true when the tool took the event
+    /// @{
+    bool press(QGraphicsSceneMouseEvent *event);
+    bool move(QGraphicsSceneMouseEvent *event);
+    bool release(QGraphicsSceneMouseEvent *event);
+    /// @}
+
+    /// Makes an object of the kind at its default size with its top-left at `scenePos` as one undo step, as a click
+    /// would; null when the kind is unknown. For keyboards and drops from a palette.
+    CBaseObject *createAt(PageScene *scene, const QString &kindId, const QPointF &scenePos);
+
+Q_SIGNALS:
+    /// The object stands on the page and its undo step on the stack; the tool waits no longer.
+    void created(CBaseObject *object);
+    void cancelled();
+
+private:
+    void sendToObject(int eventType, const QGraphicsSceneMouseEvent *event);
+    QPointF dragPoint(const QGraphicsSceneMouseEvent *event) const;
+    void keepStartCorner();
+    void stop();
+
+    const ObjectRegistry *m_registry;
+    PageScene *m_scene = nullptr;
+    QString m_kindId;
+    CBaseObject *m_object = nullptr;
+    QPointF m_start; ///< scene coordinates
+    QPointF m_end;   ///< scene coordinates
+    bool m_dragged = false;
+};
+
+} // namespace pagehost

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <pagehost/objectplugin.h>
+
+#include <framework/framework_global.h>
+#include <framework/ilocalize.h>
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace pagehost {
+
+/// Texts by key in several languages. Has the texts of the library and of this host in English and German from the
+/// start; applications and plug-ins add theirs.
+class FRAMEWORK_EXPORT Localizer : public ILocalize
+{
+public:
+    /// Starts in English.
+    Localizer();
+
+    /// The text in the current language, else the English one. A key that no table has gives its own words instead
+    /// ("IDS_LINE_WIDTH" reads "Line width"), since users must never see a raw key; text that is no key stays as it
+    /// is.
+    QString text(const QString &key) const override;
+    bool hasText(const QString &language, const QString &key) const;
+
+    /// A language code such as "en" or "de_AT"; the part before "_" counts when the whole has no table. English
+    /// when neither has.
+    void setLanguage(const QString &language);
+    QString language() const { return m_language; }
+    /// Codes in alphabetical order.
+    QStringList languages() const { return m_tables.keys(); }
+    /// Later texts win over earlier ones of the same key.
+    void addTexts(const QString &language, const TextTable &texts);
+
+private:
+    QMap<QString, TextTable> m_tables; ///< by language
+    QString m_language;
+};
+
+/// Shows the localisation keys of a list in the user's language: for QUndoView, whose rows are commands' texts.
+class FRAMEWORK_EXPORT LocalizedDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// The localizer must outlive the delegate.
+    explicit LocalizedDelegate(const ILocalize *localizer, QObject *parent = nullptr);
+    QString displayText(const QVariant &value, const QLocale &locale) const override;
+
+private:
+    const ILocalize *m_localizer;
+};
+
+} // namespace pagehost

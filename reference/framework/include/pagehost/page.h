@@ -1,0 +1,107 @@
+#pragma once
+
+#include <pagehost/document.h>
+
+#include <framework/cpagebgprop.h>
+#include <framework/framework_global.h>
+#include <framework/ipspage.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QRectF>
+#include <QtCore/QTimer>
+#include <QtCore/QVector>
+
+#include <memory>
+
+class CBaseObject;
+
+namespace pagehost {
+
+class PageScene;
+
+/// One page: its size, its background and its objects, bottom to top, shown by a scene whose rectangle is the page.
+///
+/// The operations here change the page at once and leave no undo step; pagehost/commands.h has the undoable ones.
+class FRAMEWORK_EXPORT Page : public QObject, public IPsPage
+{
+    Q_OBJECT
+
+public:
+    /// `size` in scene units. `document` may be null for a page that stands alone; documents make their own pages.
+    explicit Page(Document *document, const QSizeF &size = Document::defaultPageSize(), QObject *parent = nullptr);
+    /// Deletes its objects, those that are only retained too.
+    ~Page() override;
+
+    Document *document() const override { return m_document; }
+    /// Never null; owned by the page.
+    PageScene *scene() const { return m_scene.get(); }
+    QSizeF size() const { return m_size; }
+    /// (0, 0) to size(), scene units.
+    QRectF rect() const { return {QPointF(0, 0), m_size}; }
+    /// Sizes that are not finite or not above 0 are ignored.
+    void setSize(const QSizeF &size);
+    /// Opaque white after construction.
+    const CPageBgProp &background() const { return m_background; }
+    void setBackground(const CPageBgProp &background);
+
+    /// Objects in stacking order, the bottom one first.
+    QVector<CBaseObject *> objects() const { return m_objects; }
+    int objectCount() const { return m_objects.size(); }
+    /// Position in stacking order; -1 for an object that is not on the page.
+    int indexOf(const CBaseObject *object) const;
+    bool contains(const CBaseObject *object) const { return indexOf(object) >= 0; }
+    /// The selected objects in stacking order.
+    QVector<CBaseObject *> selectedObjects() const;
+    /// Selects exactly these; objects of other pages are passed over.
+    void select(const QVector<CBaseObject *> &objects);
+    /// The topmost visible object whose shape contains `scenePos` (scene coordinates); null when none does.
+    CBaseObject *objectAt(const QPointF &scenePos) const;
+
+    /// Puts an object on the page and takes it over. `index` is its place in stacking order, -1 the top. An object
+    /// that is on the page already is left alone; one of another page must be removed there first.
+    void addObject(CBaseObject *object, int index = -1);
+    /// Takes an object off the page, unselected. It stays alive while retained, else it is deleted when control
+    /// returns to the event loop. Gives the place it had in stacking order, -1 when it was not on the page.
+    int removeObject(CBaseObject *object);
+    /// Gives the object the place `index` (brought into the range) in stacking order.
+    void moveObject(CBaseObject *object, int index);
+    /// Puts the page's objects into this order, which must hold the same objects; else nothing changes.
+    bool setStackingOrder(const QVector<CBaseObject *> &objects);
+
+    /// Keeps an object alive off the page until the matching release(): undo steps and lessons hold plain pointers.
+    void retain(CBaseObject *object);
+    void release(CBaseObject *object);
+
+    /// Counts up with every change of what the page shows.
+    quint64 revision() const { return m_revision; }
+    /// Called by objects and commands after a change of what the page shows.
+    void noteChange();
+
+Q_SIGNALS:
+    void objectAdded(CBaseObject *object);
+    void objectRemoved(CBaseObject *object);
+    void stackingChanged();
+    void backgroundChanged();
+    void sizeChanged(const QSizeF &size);
+    void selectionChanged();
+    /// Something that the page shows has changed; at most once per turn of the event loop.
+    void contentChanged();
+    /// A notification of an object (CPSRootObject::notifyObjPropertyChanged), at once.
+    void objectPropertyChanged(CBaseObject *object, int id, const QString &value);
+
+private:
+    void renumber(int from);
+    void dropIfUnused(CBaseObject *object);
+
+    Document *m_document;
+    QSizeF m_size;
+    CPageBgProp m_background;
+    std::unique_ptr<PageScene> m_scene;
+    QVector<CBaseObject *> m_objects;
+    QVector<CBaseObject *> m_outside; ///< owned objects that are off the page
+    QHash<CBaseObject *, int> m_retained;
+    QTimer m_changeTimer;
+    quint64 m_revision = 0;
+};
+
+} // namespace pagehost

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QByteArray>
+
+class CPSRootObject;
+
+namespace pagehost {
+
+/// Action ids of what this host records itself. Payloads are QDataStream values in the default version.
+enum HostAction : int {
+    ActionMoved = 101,     ///< QPointF: the new position, scene coordinates
+    ActionResized = 102,   ///< QSizeF: the size asked for, item units
+    ActionRotated = 103,   ///< double: degrees; QPointF: the position afterwards, scene coordinates
+    ActionMirrored = 104,  ///< bool: left to right; bool: top to bottom
+    ActionFilled = 105,    ///< the fill as CPageBgProp::save() writes it
+    ActionPenColored = 106 ///< QColor
+};
+
+/// Takes what page objects record (CPSRootObject::RecordAction) while users edit them.
+class FRAMEWORK_EXPORT ActionSink
+{
+public:
+    virtual ~ActionSink() = default;
+    /// One step of `object`, at once, in the GUI thread. HostAction numbers are this host's, all others the
+    /// object's.
+    virtual void actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload) = 0;
+};
+
+/// Sets the one sink of the process and gives the one before; null for none. The caller keeps owning it.
+FRAMEWORK_EXPORT ActionSink *setActionSink(ActionSink *sink);
+FRAMEWORK_EXPORT ActionSink *actionSink();
+
+/// Replays one recorded action: this host's own kinds through the base class, all others through the object.
+FRAMEWORK_EXPORT bool replayAction(CPSRootObject *object, int actionId, const QByteArray &payload);
+
+} // namespace pagehost

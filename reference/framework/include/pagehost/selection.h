@@ -1,0 +1,34 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QVector>
+
+class CBaseObject;
+
+/// What a user does with the selected objects of a page. Each change is one undo step; false means that there was
+/// nothing to do.
+namespace pagehost {
+
+class ObjectRegistry;
+class Page;
+
+/// Moves the selected objects by `delta` (scene units).
+FRAMEWORK_EXPORT bool nudgeSelection(Page *page, const QPointF &delta);
+/// Deletes the selected objects; locked ones stay.
+FRAMEWORK_EXPORT bool deleteSelection(Page *page);
+/// Copies the selected objects by saving each and loading it into a new object of its kind, `offset` (scene units)
+/// away, on top and selected. Objects whose kind the registry does not know are passed over. Gives the copies.
+FRAMEWORK_EXPORT QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry,
+                                                           const QPointF &offset = {20, 20});
+FRAMEWORK_EXPORT void selectAll(Page *page);
+/// Bounding rectangle of objects with rotation, scene coordinates; null for none.
+FRAMEWORK_EXPORT QRectF boundsOf(const QVector<CBaseObject *> &objects);
+
+/// A new object like `object`: same kind, same saved state, on no page. Null when the kind is unknown or the object
+/// could not be saved or loaded. The caller owns it.
+FRAMEWORK_EXPORT CBaseObject *cloneObject(CBaseObject *object, const ObjectRegistry *registry);
+
+} // namespace pagehost

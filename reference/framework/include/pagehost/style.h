@@ -1,0 +1,46 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QVector>
+#include <QtGui/QBrush>
+#include <QtGui/QColor>
+
+class CBaseObject;
+
+/// Pen and fill of objects through the host base classes alone (CPSRootObject::SetAttribute and GetAttribute).
+/// Every setter is one undo step, whatever the number of objects, and is recorded for playback; false means that no
+/// object took the value.
+namespace pagehost {
+
+/// Property ids of pen and fill.
+enum StyleProperty : int {
+    PenColorProperty = 5002,
+    PenStyleProperty = 5003,
+    PenWidthProperty = 5004,
+    FillProperty = 5005
+};
+
+FRAMEWORK_EXPORT bool setPenColor(const QVector<CBaseObject *> &objects, const QColor &color);
+FRAMEWORK_EXPORT bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style);
+/// Whole units from 1.
+FRAMEWORK_EXPORT bool setPenWidth(const QVector<CBaseObject *> &objects, int width);
+/// A colour with alpha 0 is "no fill".
+FRAMEWORK_EXPORT bool setFill(const QVector<CBaseObject *> &objects, const QColor &color);
+
+/// What an object says about its pen and fill. Each value comes with a flag that tells whether the object has it.
+struct ObjectStyle
+{
+    bool hasPenColor = false;
+    QColor penColor;
+    bool hasPenStyle = false;
+    Qt::PenStyle penStyle = Qt::SolidLine;
+    bool hasPenWidth = false;
+    int penWidth = 1;
+    int maxPenWidth = 1; ///< largest width that the object offers
+    bool hasFill = false;
+    QBrush fill;
+};
+FRAMEWORK_EXPORT ObjectStyle styleOf(CBaseObject *object);
+
+} // namespace pagehost

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QSize>
+#include <QtCore/QThreadPool>
+#include <QtCore/QTimer>
+#include <QtGui/QImage>
+
+#include <memory>
+#include <vector>
+
+namespace pagehost {
+
+class Page;
+class ThumbnailJob;
+
+/// Pictures of whole pages, painted by worker threads from the pictures that objects keep of themselves.
+///
+/// An object that paints in another thread reads its own rectangle and picture, and nothing may change these
+/// meanwhile. So workers run only in short windows in which the GUI thread waits for them: between windows objects
+/// may be resized and deleted freely, and no lock is held while an object paints in the GUI thread.
+class FRAMEWORK_EXPORT ThumbnailPainter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ThumbnailPainter(QObject *parent = nullptr);
+    ~ThumbnailPainter() override;
+
+    /// Asks for a picture of the page that fits into `size` (pixels), at the page's aspect ratio. A page that is
+    /// already waiting waits on with the new size; one that changes while it is being painted is begun anew.
+    void request(Page *page, const QSize &size);
+    bool isIdle() const { return m_jobs.empty(); }
+    /// Paints everything that waits before it returns.
+    void finish();
+    /// Threads that paint at the same time; at first as many as the machine has cores, at most 4.
+    void setWorkerCount(int count);
+
+Q_SIGNALS:
+    /// In the GUI thread.
+    void ready(pagehost::Page *page, const QImage &picture);
+
+private:
+    void paintWindow(int milliseconds);
+    void startChangedAnew();
+    void deliverFinished();
+
+    QThreadPool m_workers;
+    QTimer m_timer;
+    std::vector<std::unique_ptr<ThumbnailJob>> m_jobs;
+};
+
+} // namespace pagehost
