@@ -38,14 +38,15 @@ SVGOBJ_EXPORT double toDouble(const QChar *&str);
 
 /// The core of a vector shape: its SVG document, control points, and everything that the user does to them.
 ///
-/// A concrete shape derives, supplies a template (getSVG()) and a type number (getSVGType()), sets mode flags in its
-/// constructor and calls loadSVG() once. Most operations need that document. Two coordinate systems meet here:
+/// A concrete shape derives, supplies a template (getSVG()) and a type number (getSVGType()), sets mode flags in
+/// its constructor and calls loadSVG() once. Most operations need that document. Two coordinate systems meet here:
 /// object coordinates (the page object's item coordinates, origin at its top-left) and document units (those of the
 /// template's view box, which is stretched over the object).
 class SVGOBJ_EXPORT CSVGBase
 {
 public:
-    /// `owner` is the page object that will own this core; its zoom rate is read here. Without an owner the zoom is 1.
+    /// `owner` is the page object that will own this core; its zoom rate is read here. Without an owner the zoom
+    /// is 1.
     explicit CSVGBase(CSVGObj *owner);
     CSVGBase(const CSVGBase &) = delete;
     CSVGBase &operator=(const CSVGBase &) = delete;
@@ -84,9 +85,9 @@ public:
     virtual bool mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event);
     virtual void keyPressEvent(QKeyEvent *event);
 
-    /// Loads the template (once), finds the control points and builds the property items; `initGlobals` asks for the
-    /// shape's initial values first. True when the shape has a document afterwards. A template that does not parse
-    /// is replaced by an empty 20 × 20 document.
+    /// Loads the template (once), finds the control points and builds the property items; `initGlobals` asks for
+    /// the shape's initial values first. True when the shape has a document afterwards. A template that does not
+    /// parse is replaced by an empty 20 × 20 document.
     virtual bool loadSVG(bool initGlobals);
     /// The template's SVG text; empty here.
     virtual QString getSVG();
@@ -145,7 +146,8 @@ public:
     /// Writes the bare value of one property; false, with nothing written, for an unknown id.
     virtual bool getInnerProperty(int propId, QDataStream &out);
     /// Reads and applies the bare value of one property, with an undo step when `addUndo` is set. With `record` the
-    /// value of the pen width is a list index (one less than the width). False, with nothing read, for an unknown id.
+    /// value of the pen width is a list index (one less than the width). False, with nothing read, for an unknown
+    /// id.
     virtual bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo);
     /// Rebuilds the property items: the shape's own first, then the common ones that its flags enable.
     virtual void initPropItems();
@@ -155,7 +157,8 @@ public:
     virtual QString getPropName(int propId);
     /// Hook: set the shape's initial values; loadSVG(true) calls it just before the property items are built.
     virtual void initGlobalPropValues();
-    /// Hook, after the pen width changed the control points to `size` pixels. Here: updateAllControlPoints(true, true).
+    /// Hook, after the pen width changed the control points to `size` pixels. Here: updateAllControlPoints(true,
+    /// true).
     virtual void updateAfterPenWidthChanged(int size);
     /// Hook: veto a control point's move to `pos` (top-left, document units).
     virtual bool CanMoveControlPoint(QZeSvgNode *node, QPointF pos);
@@ -280,15 +283,15 @@ public:
 
 protected:
     // The order of the members is part of the binary interface.
-    IDocument *belongDoc = nullptr;          ///< found lazily by getBelongDoc(); not owned
-    CSVGObj *owner;                          ///< not owned
-    QZeSvgTinyDocument *document = nullptr;  ///< owned
-    QPointF lastMousePos;                    ///< press position of a control-point drag, object coordinates
+    IDocument *belongDoc = nullptr;           ///< found lazily by getBelongDoc(); not owned
+    CSVGObj *owner;                           ///< not owned
+    QZeSvgTinyDocument *document = nullptr;   ///< owned
+    QPointF lastMousePos;                     ///< press position of a control-point drag, object coordinates
     QZeSvgNode *activeControlPoint = nullptr; ///< the control point being dragged
     bool flipHorizontal = false;
     bool flipVertical = false;
-    QPointF dragStartPos;           ///< top-left of the active control point when its drag began, document units
-    QZeSvgNode **controlPoints;     ///< 32 entries; entry i is "control_{i + 1}"
+    QPointF dragStartPos;       ///< top-left of the active control point when its drag began, document units
+    QZeSvgNode **controlPoints; ///< 32 entries; entry i is "control_{i + 1}"
     quint32 controlPointCount = 0;
     QVector<CSVGPropItem *> propItems; ///< owned
     bool propPenEnabled = true;
@@ -306,7 +309,7 @@ protected:
     bool keepAspectRatio = true;
     bool rawControlPoints = false; ///< control points follow the pen width and are stored as they stand
     bool externallyFilled = false;
-    double zoomRate; ///< pixels per scene unit when control points were last sized
+    double zoomRate;                 ///< pixels per scene unit when control points were last sized
     CSVGAnimate *animator = nullptr; ///< owned
     bool updateFinished = true;      ///< false between press and release
     int savedPenStyleIndex = 0;
@@ -315,10 +318,15 @@ protected:
 
 private:
     friend class CSVGObj;
-    bool isEditingBlocked();
+    friend class CSVGAnimate;
     void discoverControlPoints();
-    QZeSvgNode *hitControlPoint(QPointF svgPos, bool last);
+    bool isEditingBlocked();
+    void beginDrag(QZeSvgNode *node, QPointF pressPos);
     bool resolveViewFlag(QPainter *painter, bool toCache);
     void followZoom();
     float storedDrawScale(float scale);
+    void resizeControlPoints(int size);
+    QZeSvgNode *storedControlPoint(quint32 number);
+    void placeStoredControlPoint(QZeSvgNode *node, QPointF pos);
+    void takeFillOfOwner();
 };

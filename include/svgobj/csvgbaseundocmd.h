@@ -14,8 +14,8 @@ class QZeSvgNode;
 
 /// One undoable change of a shape: a control point that moved, or a property that got another value.
 ///
-/// Undo and redo replay the old or new value through CSVGBase::DoPlaybackActionEx, as playback of a lesson does. The
-/// shape and the node are not owned and must outlive the command.
+/// Undo and redo replay the old or new value through CSVGBase::DoPlaybackActionEx, as playback of a lesson does.
+/// The shape and the node are not owned and must outlive the command.
 class SVGOBJ_EXPORT CSVGBaseUndoCmd : public CWbUndoCmd
 {
 public:

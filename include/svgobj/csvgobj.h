@@ -36,8 +36,9 @@ public:
     bool load(QDataStream &in) override;
     bool saveJson(QJsonObject &object) override;
     bool loadJson(QJsonObject &object) override;
-    /// Applies a requested size (item units): never below the core's minimum, at the kept aspect ratio, and passed on
-    /// to a core that rewrites its drawing. `forceOutline` rebuilds the outline of such a core whatever its type.
+    /// Applies a requested size (item units): never below the core's minimum, at the kept aspect ratio, and passed
+    /// on to a core that rewrites its drawing. `forceOutline` rebuilds the outline of such a core whatever its
+    /// type.
     void setSize(QSizeF size, bool flag, bool forceOutline) override;
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void regenRegionShape(QGraphicsItem *item) override;
@@ -58,7 +59,8 @@ public:
     bool SetSettingJson(const QString &json, bool record, bool undo) override;
     void updateRectChanged() override;
 
-    /// Puts a new shape core for the given shape type into svgBase. The library passes false and ignores the result.
+    /// Puts a new shape core for the given shape type into svgBase. The library passes false and ignores the
+    /// result.
     virtual bool createSVGBase(int type, bool flag) = 0;
 
     /// Takes a final size (item units) over: client rectangle, host, off-screen picture, notification.
@@ -90,8 +92,8 @@ public:
     QJsonObject GetSettingJsonInput(QString &id, QString &title, QString &value, QString &type, QString &minimum,
                                     QString &maximum, QString &unit);
     QJsonObject GetSettingJsonSwitch(QString &id, QString &title, bool on);
-    QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum, QString &maximum,
-                                     QString &step, QString &unit);
+    QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum,
+                                     QString &maximum, QString &step, QString &unit);
     QJsonObject GetSettingJsonCommond(QString &id, QString &title, QString &command);
     bool ParseSettingJson(const QString &json, QMap<QString, QString> &values);
     /// @}

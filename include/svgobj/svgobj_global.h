@@ -12,7 +12,7 @@
 
 /// Ids of the properties that every shape may offer to the host's panels.
 enum PropId : int {
-    PROP_SVG_NONE = 0, ///< never a property; what a lookup gives when nothing matches
+    PROP_SVG_NONE = 0,       ///< never a property; what a lookup gives when nothing matches
     PROP_SVG_DRAWSCALE = 26, ///< double, shapes of type 26 only: item units per drawn unit
     PROP_SVG_PENCOLOR = 5002,
     PROP_SVG_PENSTYLE = 5003,

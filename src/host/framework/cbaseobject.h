@@ -11,8 +11,8 @@
 class FRAMEWORK_EXPORT CBaseObject : public QGraphicsTextItem, public CPSRootObject
 {
 public:
-    /// `kind` is the host's number for the kind of object, kept for the host's own lists; `selectable` makes the item
-    /// one that a user can select and move.
+    /// `kind` is the host's number for the kind of object, kept for the host's own lists; `selectable` makes the
+    /// item one that a user can select and move.
     CBaseObject(int kind, bool selectable, QGraphicsItem *parent, IPsPage *page);
     ~CBaseObject() override;
 

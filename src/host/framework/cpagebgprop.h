@@ -56,8 +56,9 @@ public:
     /// gradient fills.
     bool needCreatBrush(const QRectF &rect) const;
     /// The brush that fills `rect`: no brush for a disabled fill, else one whose colour() is fillColor() with
-    /// opacity() as its alpha whatever the type. A picture is a texture stretched over `rect` only when `forTexture`
-    /// is set; otherwise a picture fill gives a solid brush for code that cannot draw the picture itself.
+    /// opacity() as its alpha whatever the type. A picture is a texture stretched over `rect` only when
+    /// `forTexture` is set; otherwise a picture fill gives a solid brush for code that cannot draw the picture
+    /// itself.
     QBrush createBrushByProp(const QRectF &rect, bool forTexture) const;
 
     bool operator==(const CPageBgProp &other) const;

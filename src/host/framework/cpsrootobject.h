@@ -50,7 +50,8 @@ public:
     /// client rectangle's centre. An inactive painter is left alone, silently.
     virtual void beginPaint(QPainter *painter);
     virtual void endPaint(QPainter *painter);
-    /// Drops cached pictures of the page layers that show the object; `reason` 2 says that only editing aids changed.
+    /// Drops cached pictures of the page layers that show the object; `reason` 2 says that only editing aids
+    /// changed.
     virtual void clearLayerEffectCache(int reason);
 
     virtual bool canDo(OperationType operation);
@@ -78,12 +79,12 @@ public:
     virtual bool SetSpecialProperty(int id, QDataStream &in, bool record);
     /// Shows the object's own menu; `where` is a host-defined pointer.
     virtual void PopupObjectMenu(void *where);
-    /// Whether `scenePos` (scene coordinates) lies on one of the enabled handles of the selected object; `action` is
-    /// then what it starts.
+    /// Whether `scenePos` (scene coordinates) lies on one of the enabled handles of the selected object; `action`
+    /// is then what it starts.
     virtual bool CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action);
-    /// Takes a copy of the fill and makes the fill brush of it. A fill that only names a colour (solid), and the same
-    /// colour and opacity that the object already has, keeps a present picture, pattern or gradient. `record` asks
-    /// for a playback record. Null is ignored. Never paints before it returns.
+    /// Takes a copy of the fill and makes the fill brush of it. A fill that only names a colour (solid), and the
+    /// same colour and opacity that the object already has, keeps a present picture, pattern or gradient. `record`
+    /// asks for a playback record. Null is ignored. Never paints before it returns.
     virtual void setFillProp(CPageBgProp *prop, bool record);
     virtual bool GetSettingJson(QString &out);
     virtual bool SetSettingJson(const QString &json, bool record, bool undo);
@@ -121,8 +122,8 @@ public:
     QPointF getPos() const;
     /// Moves the item's origin to `pos` (scene coordinates); `record` asks for a playback record.
     void setPos(QPointF pos, bool record);
-    /// Sets the rotation to `degrees` and moves the item so that `center` (item coordinates of the unrotated object)
-    /// comes to lie where the unrotated object has it; `record` asks for a playback record.
+    /// Sets the rotation to `degrees` and moves the item so that `center` (item coordinates of the unrotated
+    /// object) comes to lie where the unrotated object has it; `record` asks for a playback record.
     void setRotateByPoint(double degrees, QPointF center, bool record);
     bool isMirrored() const { return mirrorHorizontal; }
     bool isFlipped() const { return mirrorVertical; }
@@ -164,8 +165,8 @@ public:
     QJsonObject GetSettingJsonInput(QString &id, QString &title, QString &value, QString &type, QString &minimum,
                                     QString &maximum, QString &unit);
     QJsonObject GetSettingJsonSwitch(QString &id, QString &title, bool on);
-    QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum, QString &maximum,
-                                     QString &step, QString &unit);
+    QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum,
+                                     QString &maximum, QString &step, QString &unit);
     QJsonObject GetSettingJsonCommond(QString &id, QString &title, QString &command);
     /// Reads a panel's answer, an object of id and value, into `values`. False, with `values` untouched, when the
     /// text is no such object.

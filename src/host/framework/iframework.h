@@ -20,8 +20,8 @@ public:
     /// The document that the user works on; may be null only before the first one is made, and never while anything
     /// paints.
     virtual IDocument *currentDocument() = 0;
-    /// Opens a grouped undo step: commands pushed until the matching endUndoGroup() undo and redo together under the
-    /// localisation key `titleKey`. Groups nest.
+    /// Opens a grouped undo step: commands pushed until the matching endUndoGroup() undo and redo together under
+    /// the localisation key `titleKey`. Groups nest.
     virtual void beginUndoGroup(const QString &titleKey) = 0;
     /// Closes the group. A group that stayed empty leaves no step behind.
     virtual void endUndoGroup() = 0;
@@ -29,5 +29,6 @@ public:
 
 /// The process-wide framework object; never null.
 FRAMEWORK_EXPORT IFramework *GetFramework();
-/// Replaces it and returns the one before; null brings the library's own back. The caller keeps owning what it sets.
+/// Replaces it and returns the one before; null brings the library's own back. The caller keeps owning what it
+/// sets.
 FRAMEWORK_EXPORT IFramework *SetFramework(IFramework *framework);

@@ -76,8 +76,8 @@ public:
     /// grammar does not accept is kept as text and has the effect that the same text has in a template.
     void setAttribute(const QString &name, const QString &value);
     /// Sets one of "x", "y", "width", "height", "rx", "ry" (and any other numeric attribute) in the node's own user
-    /// units. For a circle or an ellipse "x" and "y" are the corner of its bounding box, "width", "height", "rx" and
-    /// "ry" size it with that corner fixed. The bounds follow at once. A value that is not finite is ignored.
+    /// units. For a circle or an ellipse "x" and "y" are the corner of its bounding box, "width", "height", "rx"
+    /// and "ry" size it with that corner fixed. The bounds follow at once. A value that is not finite is ignored.
     void setNumericAttribute(const QString &name, double value);
 
     /// Bounding rectangle of the geometry, document units, without the stroke; empty for a node without geometry.

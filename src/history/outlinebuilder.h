@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtGui/QPainterPath>
+
+class QZeSvgStructureNode;
+
+/// Outlines of a template's items and how they come to lie in an object.
+namespace OutlineBuilder {
+
+/// Adds the outlines (document units) of the node's visible children to `path`, in document order, into groups.
+void addChildren(const QZeSvgStructureNode *node, QPainterPath *path);
+
+/// `outline` (document units) moved from the view box into the client rectangle (item coordinates), never mirrored.
+QPainterPath mapped(const QPainterPath &outline, const QRectF &viewBox, const QRectF &clientRect);
+
+/// The area that a pen of `width` covers along `path`, with round caps and mitred joins.
+QPainterPath stroked(const QPainterPath &path, double width);
+
+} // namespace OutlineBuilder

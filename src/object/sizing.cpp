@@ -1,0 +1,63 @@
+// The size that a page object really gets.
+
+#include <svgobj/csvgbase.h>
+#include <svgobj/csvgobj.h>
+
+#include "object/sizerules.h"
+#include "shape/constants.h"
+#include "shape/shapetype.h"
+
+namespace {
+
+constexpr QSizeF minimumWithoutCore(1.0, 1.0);
+constexpr QSizeF defaultWithoutCore(30, 30);
+
+} // namespace
+
+void CSVGObj::setSize(QSizeF size, bool flag, bool forceOutline)
+{
+    const QSizeF oldSize = clientRect.size();
+    if (!svgBase) {
+        setSize2(size, flag);
+        return;
+    }
+    validateSize(size);
+    if (svgBase->keepAspectRatio)
+        size = limitSize(size, baseSize);
+    if (!svgBase->resizeRewritesSVG) {
+        setSize2(size, flag);
+        return;
+    }
+    if (!sameLength(size.width(), oldSize.width()) || !sameLength(size.height(), oldSize.height()))
+        svgBase->setSize(oldSize, size);
+    if (isHostFilled(svgBase->getSVGType()) || forceOutline)
+        svgBase->updateOutlineRegion();
+    setSize2(size, flag);
+}
+
+void CSVGObj::setSize2(QSizeF size, bool flag)
+{
+    dragStart = clientRect.topLeft();
+    dragEnd = dragStart + QPointF(size.width(), size.height());
+    // Recomputed from the two points, as everything that reads them will.
+    baseSize = QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y());
+    clientRect.setSize(baseSize);
+    CBaseObject::setSize(size, flag, true);
+    OnQPainterDraw(nullptr);
+    notifyObjPropertyChanged(SizeChanged, QString());
+}
+
+void CSVGObj::validateSize(QSizeF &size)
+{
+    size = SizeRules::raised(size, svgBase ? svgBase->getMinimizeSize() : minimumWithoutCore);
+}
+
+QSizeF CSVGObj::getDefaultSize()
+{
+    return svgBase ? svgBase->getDefaultSVGSize() : defaultWithoutCore;
+}
+
+QSizeF CSVGObj::limitSize(QSizeF size, QSizeF ratio)
+{
+    return SizeRules::withAspect(size, ratio);
+}

@@ -1,0 +1,17 @@
+#include "render/cachepicture.h"
+
+namespace {
+
+constexpr double maxPixels = double(1 << 28);
+
+} // namespace
+
+QImage emptyCachePicture(QSizeF size)
+{
+    const bool possible = size.width() >= 1 && size.height() >= 1 && size.width() * size.height() <= maxPixels;
+    if (!possible)
+        return QImage();
+    QImage picture(int(size.width()), int(size.height()), QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    return picture;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "shape/constants.h"
+
+#include <QtCore/QString>
+
+class QZeSvgNode;
+
+/// The id of control point `number`, counted from 1.
+inline QString controlPointId(quint32 number)
+{
+    return QStringLiteral("%1_%2").arg(QStringLiteral("control")).arg(number);
+}
+
+/// Calls `action` with each control point of the table in index order. A count beyond the table ends at the table,
+/// and an entry without a node is skipped.
+template<typename Action> void forEachControlPoint(QZeSvgNode *const *table, quint32 count, Action action)
+{
+    const quint32 end = qMin(count, maxControlPoints);
+    for (quint32 i = 0; i < end; ++i) {
+        if (table[i])
+            action(table[i]);
+    }
+}
