@@ -1,0 +1,12 @@
+#pragma once
+
+#include <kit/singleshapeplugin.h>
+
+class FlaskPlugin : public shapekit::SingleShapePlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PAGEHOST_OBJECTPLUGIN_IID)
+
+public:
+    FlaskPlugin();
+};
