@@ -20,6 +20,8 @@ bool CSVGBase::LoadPropertyForPlayback(QDataStream &in)
 
 bool CSVGBase::DoPlaybackActionEx(int actionId, QDataStream &in)
 {
+    if (!document)
+        return false;
     if (actionId == ACT_SVG_CONTROLPOINT) {
         QZeSvgNode *node = document->namedNode(decodeValue<QString>(in));
         if (!node)

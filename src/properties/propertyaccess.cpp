@@ -7,8 +7,6 @@
 #include "properties/penstyle.h"
 #include "properties/valuecodec.h"
 
-#include <limits>
-
 namespace {
 
 /// A stream that holds just one value, for setInnerProperty().
@@ -42,6 +40,8 @@ CSVGBaseUndoCmd *appliedCommand(CSVGBase *shape, ActionId actionId)
 
 bool CSVGBase::getInnerProperty(int propId, QDataStream &out)
 {
+    if (!document)
+        return false;
     switch (propId) {
     case PROP_SVG_PENCOLOR:
         out << getPenColor();
@@ -63,6 +63,8 @@ bool CSVGBase::getInnerProperty(int propId, QDataStream &out)
 // Each command takes the old value and is pushed before the new one is applied.
 bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
 {
+    if (!document)
+        return false;
     switch (propId) {
     case PROP_SVG_PENCOLOR: {
         const QColor color = decodeValue<QColor>(in);
@@ -87,8 +89,8 @@ bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool a
     case PROP_SVG_PENWIDTH: {
         qint32 width = decodeValue<qint32>(in);
         // Intended: a panel, which records, sends the index in the list of widths; replay and undo send the width.
-        if (record && width < std::numeric_limits<qint32>::max())
-            ++width;
+        if (record)
+            width = qint32(quint32(width) + 1u); // the largest one wraps
         if (addUndo) {
             CSVGBaseUndoCmd *command = appliedCommand(this, ACT_SVG_PENWIDTH);
             command->setInt(getPenWidth(), width);
