@@ -1,0 +1,112 @@
+// The style of a shape as a map.
+
+#include <support/shapefixture.h>
+
+#include <QtTest/QtTest>
+
+using namespace support;
+
+class TestAttributeMap : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theMapHoldsTheFourValuesWhateverTheFlags();
+    void aMapGivenBackSetsNoPen();
+    void theSameStyleChangesNothing();
+    void aColourBecomesASolidFill();
+    void anEmptyMapChangesNothing();
+    void severalChangesRepaintOnce();
+    void nothingIsRecorded();
+    void valuesOfTheWrongTypeConvert();
+
+private:
+    using Map = QMap<QString, QVariant>;
+    std::unique_ptr<ShapeFixture> fixture;
+};
+
+void TestAttributeMap::init()
+{
+    fixture = std::make_unique<ShapeFixture>(twoPointTemplate());
+    fixture->load();
+    fixture->shape->setPenColor(Qt::red, false);
+    fixture->shape->setPenStyle(Qt::DashLine, false);
+    fixture->shape->setPenWidth(3, false);
+    fixture->shape->updateBrush(QBrush(Qt::blue, Qt::Dense1Pattern));
+    recording::clear();
+}
+
+void TestAttributeMap::cleanup()
+{
+    fixture.reset();
+}
+
+void TestAttributeMap::theMapHoldsTheFourValuesWhateverTheFlags()
+{
+    Map map{{"other", 1}};
+    QVERIFY(fixture->shape->getAllAttributes(map));
+    QCOMPARE(map.size(), 5);
+    QCOMPARE(map["pen_width"], QVariant(3));
+    QCOMPARE(map["pen_color"].value<QColor>(), QColor(Qt::red));
+    QCOMPARE(map["pen_style"], QVariant(int(Qt::DashLine)));
+    QCOMPARE(map["fill_color"].value<QBrush>(), QBrush(Qt::blue, Qt::Dense1Pattern));
+}
+
+void TestAttributeMap::aMapGivenBackSetsNoPen()
+{
+    Map map;
+    fixture->shape->getAllAttributes(map);
+    recording::clear();
+    fixture->shape->setAllAttributes(map, true);
+    QCOMPARE(recording::count("setPenWidth") + recording::count("setPenColor") + recording::count("setPenStyle"),
+             0);
+}
+
+void TestAttributeMap::theSameStyleChangesNothing()
+{
+    QVERIFY(!fixture->shape->setAllAttributes(Map{{"pen_style", int(Qt::DashLine)}}, true));
+    QCOMPARE(recording::count("OnQPainterDraw"), 0);
+}
+
+void TestAttributeMap::aColourBecomesASolidFill()
+{
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QColor(Qt::green)}}, false));
+    QCOMPARE(fixture->shape->document->getAllFillBrush(), QBrush(QColor(Qt::green)));
+}
+
+void TestAttributeMap::anEmptyMapChangesNothing()
+{
+    QVERIFY(!fixture->shape->setAllAttributes(Map(), true));
+    QCOMPARE(recording::count("OnQPainterDraw"), 0);
+}
+
+void TestAttributeMap::severalChangesRepaintOnce()
+{
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"pen_width", 5}, {"pen_color", QColor(Qt::green)}}, false));
+    QCOMPARE(fixture->shape->getPenWidth(), 5);
+    QCOMPARE(fixture->shape->getPenColor(), QColor(Qt::green));
+    QCOMPARE(recording::calls("object", "notifyObjPropertyChanged").size(), 1);
+}
+
+void TestAttributeMap::nothingIsRecorded()
+{
+    fixture->shape->setAllAttributes(
+        Map{{"pen_width", 5}, {"pen_color", QColor(Qt::green)}, {"pen_style", 1}, {"fill_color", QColor(Qt::red)}},
+        true);
+    QCOMPARE(recording::count("RecordAction"), 0);
+    QCOMPARE(recording::count("push"), 0);
+}
+
+void TestAttributeMap::valuesOfTheWrongTypeConvert()
+{
+    fixture->shape->setAllAttributes(Map{{"pen_width", "7"}, {"pen_style", "no number"}, {"pen_color", 1.5}},
+                                     false);
+    QCOMPARE(fixture->shape->getPenWidth(), 7);
+    QCOMPARE(fixture->shape->getPenStyle(), Qt::NoPen);
+    QVERIFY(!fixture->shape->getPenColor().isValid());
+}
+
+QTEST_MAIN(TestAttributeMap)
+#include "test_attributemap.moc"

@@ -1,0 +1,202 @@
+// The state of a shape core as members of a JSON object.
+
+#include <support/shapefixture.h>
+
+#include <QtCore/QJsonObject>
+#include <QtTest/QtTest>
+
+using namespace support;
+
+class TestJson : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDefaultShapeSavesThePointsAndItsPenColour();
+    void everyEnabledPenValueIsSaved();
+    void aHalfTransparentPenComesBack();
+    void anInvalidPenSavesAsOpaqueBlack();
+    void aRawShapeSavesAndRestoresItsViewBox();
+    void aMissingViewBoxIsNull();
+    void aMissingCountLoadsNoPoint();
+    void aMissingPenWidthIsZero();
+    void aMissingCoordinateIsZero();
+    void missingPointsAreCloned();
+    void keysThatWereAskedForAreLeftBehindAsNull();
+    void coloursThatAreNoneAreInvalidWithoutAWarning();
+    void theFillComesFromThePageObject();
+};
+
+void TestJson::aDefaultShapeSavesThePointsAndItsPenColour()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->setPenColor(QColor(1, 2, 3), false);
+    QJsonObject object;
+    QVERIFY(fixture.shape->saveJson(object));
+    const QJsonObject expected{{"SVG_ControlCount", 2},
+                               {"SVG_PosX_1", 10.0},
+                               {"SVG_PosY_1", 20.0},
+                               {"SVG_PosX_2", 60.0},
+                               {"SVG_PosY_2", 30.0},
+                               {"SVG_PropFillEnabled", false},
+                               {"SVG_PropPenEnabled", true},
+                               {"SVG_PenColor", "#ff010203"},
+                               {"SVG_PropPenStyleEnabled", false},
+                               {"SVG_PropPenWidthEnabled", false}};
+    QCOMPARE(object, expected);
+}
+
+void TestJson::everyEnabledPenValueIsSaved()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 10 10"), QString()));
+    fixture.shape->propFillEnabled = true;
+    fixture.shape->propPenEnabled = false;
+    fixture.shape->propPenStyleEnabled = true;
+    fixture.shape->propPenWidthEnabled = true;
+    fixture.load();
+    fixture.shape->setPenStyle(Qt::DotLine, false);
+    fixture.shape->setPenWidth(5, false);
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    const QJsonObject expected{{"SVG_ControlCount", 0},
+                               {"SVG_PropFillEnabled", true},
+                               {"SVG_PropPenEnabled", false},
+                               {"SVG_PropPenStyleEnabled", true},
+                               {"SVG_PenStyle", 3},
+                               {"SVG_PropPenWidthEnabled", true},
+                               {"SVG_PenWidth", 5}};
+    QCOMPARE(object, expected);
+}
+
+void TestJson::aHalfTransparentPenComesBack()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->setPenColor(QColor(255, 0, 0, 128), false);
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    QCOMPARE(object["SVG_PenColor"].toString(), QStringLiteral("#80ff0000"));
+    fixture.shape->setPenColor(Qt::blue, false);
+    QVERIFY(fixture.shape->loadJson(object));
+    QCOMPARE(fixture.shape->getPenColor().alpha(), 128);
+    QCOMPARE(fixture.shape->getPenColor().red(), 255);
+}
+
+void TestJson::anInvalidPenSavesAsOpaqueBlack()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->setPenColor(QColor(), false);
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    QCOMPARE(object["SVG_PenColor"].toString(), QStringLiteral("#ff000000"));
+}
+
+void TestJson::aRawShapeSavesAndRestoresItsViewBox()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.shape->rawControlPoints = true;
+    fixture.load();
+    fixture.shape->document->setViewBox(QRectF(1, 2, 3, 4));
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    fixture.shape->document->setViewBox(QRectF(0, 0, 9, 9));
+    object["SVG_PosX_1"] = 77.0;
+    recording::clear();
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->document->viewBox(), QRectF(1, 2, 3, 4));
+    QCOMPARE(fixture.shape->pointRect(1).topLeft(), QPointF(77, 20));
+    QCOMPARE(recording::count("shape", "updateSVG"), 0);
+    QCOMPARE(recording::lastArguments("shape", "updateAllControlPoints"), QVariantList({false, false}));
+}
+
+void TestJson::aMissingViewBoxIsNull()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.shape->rawControlPoints = true;
+    fixture.load();
+    QJsonObject object;
+    fixture.shape->loadJson(object);
+    QCOMPARE(recording::lastArguments("document", "setViewBox"), QVariantList({QRectF()}));
+}
+
+void TestJson::aMissingCountLoadsNoPoint()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PosX_1", 5.0}, {"SVG_PosY_1", 5.0}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->controlPointCount, 0u);
+    QCOMPARE(fixture.shape->point(1)->boundingRect().topLeft(), QPointF(10, 20));
+}
+
+void TestJson::aMissingPenWidthIsZero()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropPenWidthEnabled", true}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(recording::lastArguments("shape", "setPenWidth"), QVariantList({0, false}));
+}
+
+void TestJson::aMissingCoordinateIsZero()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", 2}, {"SVG_PosX_1", 1.0}, {"SVG_PosY_1", 2.0}, {"SVG_PosY_2", 3.0}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->pointRect(1).topLeft(), QPointF(1, 2));
+    QCOMPARE(fixture.shape->pointRect(2).topLeft(), QPointF(0, 3));
+}
+
+void TestJson::missingPointsAreCloned()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", 2}, {"SVG_PosX_2", 1.0}, {"SVG_PosY_2", 2.0}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->pointRect(2), QRectF(1, 2, 8, 8));
+    QCOMPARE(fixture.shape->node(QStringLiteral("control_2")), fixture.shape->point(2));
+}
+
+void TestJson::keysThatWereAskedForAreLeftBehindAsNull()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object;
+    fixture.shape->loadJson(object);
+    const QJsonObject expected{{"SVG_ControlCount", QJsonValue::Null},
+                               {"SVG_PropFillEnabled", QJsonValue::Null},
+                               {"SVG_PropPenEnabled", QJsonValue::Null},
+                               {"SVG_PropPenStyleEnabled", QJsonValue::Null},
+                               {"SVG_PropPenWidthEnabled", QJsonValue::Null}};
+    QCOMPARE(object, expected);
+}
+
+void TestJson::coloursThatAreNoneAreInvalidWithoutAWarning()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropPenEnabled", true}, {"SVG_PenColor", "no colour"}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(recording::count("document", "setAllStrokeColor"), 1);
+    QVERIFY(!fixture.shape->getPenColor().isValid());
+    object["SVG_PenColor"] = QStringLiteral("#f00");
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->getPenColor(), QColor(Qt::red));
+}
+
+void TestJson::theFillComesFromThePageObject()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.object.fillProp->setFillEnable(true);
+    fixture.object.fillProp->setFillColor(QColor(10, 20, 30));
+    QJsonObject object;
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->document->getAllFillBrush(), QBrush(QColor(10, 20, 30)));
+}
+
+QTEST_MAIN(TestJson)
+#include "test_json.moc"
