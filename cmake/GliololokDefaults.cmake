@@ -21,6 +21,9 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(GLIOLOLOK_PLUGIN_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/gliololok/shapes")
 set(GLIOLOLOK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/gliololok/shapes")
 
+# Installed programs and libraries find each other wherever the prefix is.
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
