@@ -4,6 +4,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
+#include <QtCore/QRectF>
 #include <QtCore/QString>
 
 class CBaseObject;
@@ -58,8 +59,10 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    void sendToObject(int eventType, const QGraphicsSceneMouseEvent *event);
-    QPointF dragPoint(const QGraphicsSceneMouseEvent *event) const;
+    bool follow(const QGraphicsSceneMouseEvent &event);
+    QRectF dragRect() const;
+    void sendToObject(int eventType, const QGraphicsSceneMouseEvent &event);
+    void sizeFinishedObject(int eventType);
     void keepStartCorner();
     void stop();
 

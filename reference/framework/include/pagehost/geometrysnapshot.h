@@ -24,8 +24,9 @@ public:
     GeometrySnapshot(CBaseObject *object, Content content);
 
     CBaseObject *object() const { return m_object; }
-    QPointF pos() const { return m_pos; }          ///< scene coordinates
-    QSizeF size() const { return m_size; }         ///< item units
+    QPointF pos() const { return m_pos; }  ///< scene coordinates
+    QSizeF size() const { return m_size; } ///< item units
+    bool hasContent() const { return m_hasContent; }
     double rotation() const { return m_rotation; } ///< degrees
     bool isMirrored() const { return m_mirrored; }
     bool isFlipped() const { return m_flipped; }

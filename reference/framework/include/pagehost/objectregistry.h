@@ -9,11 +9,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
-#include <memory>
-#include <vector>
-
 class CBaseObject;
-class QPluginLoader;
 
 namespace pagehost {
 
@@ -61,7 +57,8 @@ public:
 
 private:
     PluginReport add(ObjectPlugin *plugin, PluginReport report);
-    QString textProblem(const ObjectPlugin &plugin, const ObjectKind &kind) const;
+    QString kindProblem(const ObjectKind &kind, const TextTable &english) const;
+    bool hasLoaded(const QString &file) const;
     void mergeTexts(const ObjectPlugin &plugin);
 
     Localizer *m_localizer;

@@ -4,10 +4,10 @@
 #include <framework/framework_global.h>
 
 #include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QTimer>
 #include <QtGui/QCursor>
 #include <QtWidgets/QGraphicsScene>
-
-#include <memory>
 
 class CBaseObject;
 
@@ -69,6 +69,8 @@ public:
 
     /// Repaints frames and handles after an object changed place or size. Objects call it themselves.
     void updateOverlay();
+    /// Ends whatever runs with an object that is about to leave the page.
+    void forget(CBaseObject *object);
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
@@ -83,13 +85,17 @@ private:
     void pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event);
     void deliver(QGraphicsSceneMouseEvent *event) const;
     void setHover(const Grip &grip);
+    bool isEditable() const;
+    void repaintOverlay();
+    void zoomChanged();
 
     Page *m_page;
     CreationTool *m_tool = nullptr;
     Grip m_hover;
     Grip m_drag;
     QPointF m_pressPos; ///< scene coordinates
-    QRectF m_overlay;   ///< what the overlay covered last, scene coordinates
+    QTimer m_overlayTimer;
+    QRectF m_overlay; ///< what the overlay covered last, scene coordinates
 };
 
 } // namespace pagehost

@@ -2,9 +2,7 @@
 
 #include <framework/framework_global.h>
 
-#include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtCore/QPointer>
 #include <QtCore/QSize>
 #include <QtCore/QThreadPool>
 #include <QtCore/QTimer>
@@ -46,7 +44,7 @@ Q_SIGNALS:
 
 private:
     void paintWindow(int milliseconds);
-    void startChangedAnew();
+    void dropOrphans();
     void deliverFinished();
 
     QThreadPool m_workers;

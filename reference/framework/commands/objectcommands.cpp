@@ -1,0 +1,178 @@
+#include <pagehost/commands.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/cundoredo.h>
+
+#include <commands/pagecommand.h>
+#include <pagehost/page.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace pagehost {
+
+namespace {
+
+/// The objects that are on the page, in stacking order, each once.
+QVector<CBaseObject *> onPage(const Page &page, const QVector<CBaseObject *> &objects)
+{
+    QVector<CBaseObject *> found;
+    const QVector<CBaseObject *> all = page.objects();
+    std::copy_if(all.begin(), all.end(), std::back_inserter(found),
+                 [&](CBaseObject *object) { return objects.contains(object); });
+    return found;
+}
+
+class AddObjectsCommand : public PageCommand
+{
+public:
+    AddObjectsCommand(Page *page, const QVector<CBaseObject *> &objects)
+        : PageCommand(page, objects, QStringLiteral("IDS_UNDO_ADD_OBJECTS"))
+        , m_first(page->objectCount())
+    {
+    }
+
+    void undo() override
+    {
+        for (CBaseObject *object : objects()) {
+            page()->removeObject(object);
+        }
+    }
+
+protected:
+    void apply() override
+    {
+        int index = m_first;
+        for (CBaseObject *object : objects()) {
+            page()->addObject(object, index++);
+        }
+        page()->select(objects());
+    }
+
+private:
+    int m_first; ///< place of the first object in stacking order
+};
+
+class RemoveObjectsCommand : public PageCommand
+{
+public:
+    /// `objects` in stacking order.
+    RemoveObjectsCommand(Page *page, const QVector<CBaseObject *> &objects)
+        : PageCommand(page, objects, QStringLiteral("IDS_UNDO_REMOVE_OBJECTS"))
+    {
+        for (CBaseObject *object : objects) {
+            m_places.append(page->indexOf(object));
+        }
+    }
+
+    void undo() override
+    {
+        for (int i = 0; i < objects().size(); ++i) {
+            page()->addObject(objects()[i], m_places[i]);
+        }
+        page()->select(objects());
+    }
+
+protected:
+    void apply() override
+    {
+        for (CBaseObject *object : objects()) {
+            page()->removeObject(object);
+        }
+    }
+
+private:
+    QVector<int> m_places;
+};
+
+class StackingCommand : public PageCommand
+{
+public:
+    StackingCommand(Page *page, const QVector<CBaseObject *> &order)
+        : PageCommand(page, page->objects(), QStringLiteral("IDS_UNDO_STACKING"))
+        , m_order(order)
+    {
+    }
+
+    void undo() override { page()->setStackingOrder(objects()); }
+
+protected:
+    void apply() override { page()->setStackingOrder(m_order); }
+
+private:
+    QVector<CBaseObject *> m_order;
+};
+
+using ObjectTest = std::function<bool(CBaseObject *)>;
+
+/// Lets every moving object that stands below one that does not move change places with it, from the top down.
+void passForward(QVector<CBaseObject *> &order, const ObjectTest &isMoving)
+{
+    for (int i = order.size() - 2; i >= 0; --i) {
+        if (isMoving(order[i]) && !isMoving(order[i + 1])) {
+            order.swapItemsAt(i, i + 1);
+        }
+    }
+}
+
+QVector<CBaseObject *> restacked(QVector<CBaseObject *> order, StackingMove move, const ObjectTest &isMoving)
+{
+    const auto stays = [&](CBaseObject *object) { return !isMoving(object); };
+    switch (move) {
+    case StackingMove::ToFront:
+        std::stable_partition(order.begin(), order.end(), stays);
+        break;
+    case StackingMove::ToBack:
+        std::stable_partition(order.begin(), order.end(), isMoving);
+        break;
+    case StackingMove::Forward:
+        passForward(order, isMoving);
+        break;
+    case StackingMove::Backward:
+        std::reverse(order.begin(), order.end());
+        passForward(order, isMoving);
+        std::reverse(order.begin(), order.end());
+        break;
+    }
+    return order;
+}
+
+} // namespace
+
+bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
+{
+    QVector<CBaseObject *> added;
+    for (CBaseObject *object : objects) {
+        if (object && !page->contains(object) && !added.contains(object)) {
+            added.append(object);
+        }
+    }
+    if (added.isEmpty()) {
+        return false;
+    }
+    CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added));
+    return true;
+}
+
+bool removeObjects(Page *page, const QVector<CBaseObject *> &objects)
+{
+    const QVector<CBaseObject *> removed = onPage(*page, objects);
+    if (removed.isEmpty()) {
+        return false;
+    }
+    CUndoRedo::GetInstance()->push(new RemoveObjectsCommand(page, removed));
+    return true;
+}
+
+bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move)
+{
+    const auto isMoving = [&](CBaseObject *object) { return objects.contains(object); };
+    const QVector<CBaseObject *> order = restacked(page->objects(), move, isMoving);
+    if (order == page->objects()) {
+        return false;
+    }
+    CUndoRedo::GetInstance()->push(new StackingCommand(page, order));
+    return true;
+}
+
+} // namespace pagehost

@@ -1,0 +1,94 @@
+#include <framework/cbaseobject.h>
+
+#include <host/gripdrag.h>
+#include <host/handlelayout.h>
+#include <host/rootobjectprivate.h>
+
+#include <QtWidgets/QGraphicsScene>
+#include <QtWidgets/QGraphicsSceneMouseEvent>
+
+namespace {
+
+bool extendsSelection(const QGraphicsSceneMouseEvent &event)
+{
+    return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+}
+
+bool isOnlySelected(const CBaseObject &object)
+{
+    return object.isSelected() && object.scene() && object.scene()->selectedItems().size() == 1;
+}
+
+} // namespace
+
+void CPSRootObject::setHandlesDisable(CObjAction::ACT_Def handle, bool disable)
+{
+    if (disable) {
+        d->disabledHandles.insert(handle);
+    } else {
+        d->disabledHandles.remove(handle);
+    }
+}
+
+bool CPSRootObject::isHandleDisabled(CObjAction::ACT_Def handle) const
+{
+    return d->disabledHandles.contains(handle);
+}
+
+bool CPSRootObject::CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action)
+{
+    const CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
+    if (!item || !isOnlySelected(*item) || isLocked() || CPSRootObjectPrivate::isEditingBlocked(*this)) {
+        return false;
+    }
+    const HandleLayout layout(clientRect, getCurZoomRate());
+    const CObjAction::ACT_Def hit = layout.hit(item->mapFromScene(scenePos), CPSRootObjectPrivate::handles(*this));
+    if (hit == CObjAction::ACT_None) {
+        return false;
+    }
+    action = hit;
+    return true;
+}
+
+void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*this);
+    host.drag.reset();
+    if (event->button() != Qt::LeftButton || !scene() || !(flags() & ItemIsSelectable)) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    const bool blocked = CPSRootObjectPrivate::isEditingBlocked(*this);
+    CObjAction::ACT_Def action = CObjAction::ACT_None;
+    if (isSelected() && CheckHitTestHandlers(event->scenePos(), action)) {
+        if (action != CObjAction::ACT_None) {
+            host.drag = std::make_unique<GripDrag>(*this, action, *event, false);
+        }
+        return;
+    }
+    if (extendsSelection(*event)) {
+        setSelected(!isSelected());
+    } else if (!isSelected()) {
+        scene()->clearSelection();
+        setSelected(true);
+    }
+    if (isSelected() && !blocked) {
+        host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, !extendsSelection(*event));
+    }
+}
+
+void CBaseObject::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (GripDrag *drag = CPSRootObjectPrivate::of(*this).drag.get()) {
+        drag->moveTo(*event);
+    }
+}
+
+void CBaseObject::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    const std::unique_ptr<GripDrag> drag = std::move(CPSRootObjectPrivate::of(*this).drag);
+    if (drag) {
+        drag->finish(*event);
+    }
+}

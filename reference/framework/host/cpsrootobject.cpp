@@ -1,0 +1,211 @@
+#include <host/payload.h>
+#include <host/rootobjectprivate.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/idocument.h>
+#include <framework/iframework.h>
+
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+#include <pagehost/recorder.h>
+
+#include <host/gripdrag.h>
+
+#include <QtCore/QDataStream>
+#include <QtGui/QPainter>
+#include <QtWidgets/QGraphicsView>
+
+CPSRootObjectPrivate::CPSRootObjectPrivate() = default;
+CPSRootObjectPrivate::~CPSRootObjectPrivate() = default;
+
+CPSRootObject::CPSRootObject(IPsPage *page, QGraphicsItem *item)
+    : attributeIds({2001, 2002, 2003, 2004, 2010, 2011, 2012, 2013, 2014, 2015, 2050, 2051})
+    , fillProp(new CPageBgProp(page))
+    , d(std::make_unique<CPSRootObjectPrivate>())
+{
+    d->page = page;
+    d->item = item;
+}
+
+CPSRootObject::~CPSRootObject()
+{
+    delete fillProp;
+    delete regionPath;
+}
+
+QString CPSRootObject::getObjName()
+{
+    return objName;
+}
+
+void CPSRootObject::OnQPainterDraw(QPainter *painter)
+{
+    if (!painter) {
+        return;
+    }
+    beginPaint(painter);
+    painter->fillRect(clientRect, fillBrush);
+    endPaint(painter);
+}
+
+void CPSRootObject::beginPaint(QPainter *painter)
+{
+    if (!painter || !painter->isActive()) {
+        return;
+    }
+    painter->save();
+    if (!mirrorHorizontal && !mirrorVertical) {
+        return;
+    }
+    const QPointF center = clientRect.center();
+    painter->translate(center);
+    painter->scale(mirrorHorizontal ? -1 : 1, mirrorVertical ? -1 : 1);
+    painter->translate(-center);
+}
+
+void CPSRootObject::endPaint(QPainter *painter)
+{
+    if (painter && painter->isActive()) {
+        painter->restore();
+    }
+}
+
+void CPSRootObject::clearLayerEffectCache(int)
+{
+    update();
+}
+
+bool CPSRootObject::canDo(OperationType operation)
+{
+    switch (operation) {
+    case OperationSelect:
+    case OperationMove:
+    case OperationResize:
+    case OperationRotate:
+    case OperationMirror:
+    case OperationDelete:
+    case OperationCopy:
+    case OperationCut:
+    case OperationDuplicate:
+    case OperationReorder:
+    case OperationLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CPSRootObject::PopupObjectMenu(void *) {}
+
+bool CPSRootObject::isVisible() const
+{
+    return d->item && d->item->isVisible();
+}
+
+void CPSRootObject::setLocked(bool locked)
+{
+    d->locked = locked;
+    if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
+        scene->updateOverlay();
+    }
+}
+
+bool CPSRootObject::isLocked() const
+{
+    return d->locked;
+}
+
+void CPSRootObject::RecordAction(int actionId, QByteArray *data)
+{
+    pagehost::ActionSink *sink = pagehost::actionSink();
+    if (sink && data) {
+        sink->actionRecorded(this, actionId, *data);
+    }
+}
+
+void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
+{
+    pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
+    if (!page) {
+        return;
+    }
+    page->noteChange();
+    Q_EMIT page->objectPropertyChanged(CPSRootObjectPrivate::baseObject(*this), id, value);
+}
+
+void CPSRootObject::onCreateFinished(bool)
+{
+    CPSRootObjectPrivate::noteChange(*this);
+}
+
+void CPSRootObject::updateAfterObjRectChanged(QGraphicsItem *, bool redraw)
+{
+    CPSRootObjectPrivate::refreshBounds(*this);
+    CPSRootObjectPrivate::noteChange(*this);
+    if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
+        scene->updateOverlay();
+    }
+    if (redraw) {
+        update();
+    }
+}
+
+IPsPage *CPSRootObject::GetPage() const
+{
+    return d->page;
+}
+
+void CPSRootObject::SetPage(IPsPage *page)
+{
+    d->page = page;
+}
+
+void CPSRootObject::regenRegionShape(QGraphicsItem *)
+{
+    CPSRootObjectPrivate::refreshBounds(*this);
+}
+
+void CPSRootObject::update()
+{
+    if (d->item) {
+        d->item->update();
+    }
+}
+
+double CPSRootObject::getCurZoomRate() const
+{
+    const IDocument *document = CPSRootObjectPrivate::documentOf(*this);
+    return document ? document->zoomRate() : 1;
+}
+
+QGraphicsView *CPSRootObject::FindFirstVisibleView(QList<QGraphicsView *> &views)
+{
+    for (QGraphicsView *view : qAsConst(views)) {
+        if (view && view->isVisible()) {
+            return view;
+        }
+    }
+    return nullptr;
+}
+
+void CPSRootObject::setMyPenColor(QColor color, bool notify)
+{
+    myPen.setColor(color);
+    update();
+    if (!notify) {
+        return;
+    }
+    QByteArray payload = payloadOf(color);
+    RecordAction(pagehost::ActionPenColored, &payload);
+    notifyObjPropertyChanged(AppearanceChanged, QString());
+}
+
+void CPSRootObject::setSubType(int subType)
+{
+    d->subType = subType;
+}
+
+int CPSRootObject::getSubType() const
+{
+    return d->subType;
+}

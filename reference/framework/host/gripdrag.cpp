@@ -1,0 +1,167 @@
+#include <host/gripdrag.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/commands.h>
+#include <pagehost/page.h>
+
+#include <host/handlelayout.h>
+#include <host/rootobjectprivate.h>
+
+#include <QtWidgets/QGraphicsScene>
+#include <QtWidgets/QGraphicsSceneMouseEvent>
+
+#include <cmath>
+
+using pagehost::GeometrySnapshot;
+
+namespace {
+
+constexpr double dragThresholdPixels = 3;
+constexpr double rotationStep = 15;
+constexpr double smallestSide = 1;
+constexpr double radiansToDegrees = 180 / 3.14159265358979323846;
+
+QVector<CBaseObject *> movableSelection(CBaseObject &object)
+{
+    QVector<CBaseObject *> objects;
+    const QList<QGraphicsItem *> selected = object.scene()->selectedItems();
+    for (QGraphicsItem *item : selected) {
+        auto *other = dynamic_cast<CBaseObject *>(item);
+        if (other && !other->isLocked() && other->canDo(OperationMove)) {
+            objects.append(other);
+        }
+    }
+    return objects;
+}
+
+QString textKeyOf(CObjAction::ACT_Def action)
+{
+    if (HandleLayout::isResize(action)) {
+        return QStringLiteral("IDS_UNDO_RESIZE");
+    }
+    switch (action) {
+    case CObjAction::ACT_Rotate:
+        return QStringLiteral("IDS_UNDO_ROTATE");
+    case CObjAction::ACT_MirrorHorizontal:
+    case CObjAction::ACT_MirrorVertical:
+        return QStringLiteral("IDS_UNDO_MIRROR");
+    default:
+        return QStringLiteral("IDS_UNDO_MOVE");
+    }
+}
+
+double angleOf(const QPointF &vector)
+{
+    return std::atan2(vector.y(), vector.x()) * radiansToDegrees;
+}
+
+/// The corner or side of a client rectangle of this size that a handle leaves where it is, item coordinates.
+QPointF fixedPoint(CObjAction::ACT_Def handle, const QSizeF &size)
+{
+    const QPointF side(HandleLayout::side(handle));
+    return {size.width() * (1 - side.x()) / 2, size.height() * (1 - side.y()) / 2};
+}
+
+} // namespace
+
+GripDrag::GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
+                   bool selectsAlone)
+    : m_object(object)
+    , m_action(action)
+    , m_press(press.scenePos())
+    , m_threshold(action == CObjAction::ACT_Move ? dragThresholdPixels / object.getCurZoomRate() : 0)
+    , m_selectsAlone(selectsAlone)
+{
+    if (action == CObjAction::ACT_Move) {
+        m_before = pagehost::takeSnapshots(movableSelection(object), GeometrySnapshot::PlaceOnly);
+    } else {
+        const bool isResize = HandleLayout::isResize(action);
+        m_before.append({&object, isResize ? GeometrySnapshot::WithContent : GeometrySnapshot::PlaceOnly});
+    }
+}
+
+void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
+{
+    const QPointF away = event.scenePos() - m_press;
+    if (!m_moved && std::hypot(away.x(), away.y()) < m_threshold) {
+        return;
+    }
+    m_moved = true;
+    if (m_action == CObjAction::ACT_Move) {
+        moveSelection(event.scenePos());
+    } else if (HandleLayout::isResize(m_action)) {
+        resize(event.scenePos());
+    } else if (m_action == CObjAction::ACT_Rotate) {
+        rotate(event.scenePos(), event.modifiers().testFlag(Qt::ShiftModifier));
+    }
+}
+
+void GripDrag::finish(const QGraphicsSceneMouseEvent &event)
+{
+    if (m_moved) {
+        moveTo(event);
+    }
+    if (m_action == CObjAction::ACT_MirrorHorizontal || m_action == CObjAction::ACT_MirrorVertical) {
+        mirrorIfStillOnHandle(event.scenePos());
+    }
+    if (!m_moved && m_selectsAlone) {
+        selectOnlyObject();
+    }
+    pagehost::pushGeometryChange(m_before, textKeyOf(m_action));
+}
+
+void GripDrag::cancel()
+{
+    for (const GeometrySnapshot &snapshot : qAsConst(m_before)) {
+        snapshot.restore();
+    }
+}
+
+void GripDrag::moveSelection(const QPointF &scenePos)
+{
+    for (const GeometrySnapshot &snapshot : qAsConst(m_before)) {
+        snapshot.object()->CPSRootObject::setPos(snapshot.pos() + (scenePos - m_press), true);
+    }
+}
+
+void GripDrag::resize(const QPointF &scenePos)
+{
+    const QPointF way = rotated(scenePos - m_press, -start().rotation());
+    const QPointF side(HandleLayout::side(m_action));
+    const QSizeF wanted(start().size().width() + side.x() * way.x(), start().size().height() + side.y() * way.y());
+    m_object.setSize(wanted.expandedTo({smallestSide, smallestSide}), true, false);
+
+    // Only now is it known what size the object made of it.
+    const QPointF shift =
+        fixedPoint(m_action, start().size()) - fixedPoint(m_action, m_object.getClientRect().size());
+    m_object.CPSRootObject::setPos(start().pos() + rotated(shift, start().rotation()), true);
+}
+
+void GripDrag::rotate(const QPointF &scenePos, bool inSteps)
+{
+    const QRectF rect(QPointF(0, 0), start().size());
+    const QPointF center = start().pos() + rotated(rect.center(), start().rotation());
+    const double turned = angleOf(scenePos - center) - angleOf(m_press - center);
+    double degrees = normalizedDegrees(start().rotation() + turned);
+    if (inSteps) {
+        degrees = normalizedDegrees(std::round(degrees / rotationStep) * rotationStep);
+    }
+    m_object.setRotateByPoint(degrees, rect.center(), true);
+}
+
+void GripDrag::mirrorIfStillOnHandle(const QPointF &scenePos)
+{
+    CObjAction::ACT_Def under = CObjAction::ACT_None;
+    if (!m_object.CheckHitTestHandlers(scenePos, under) || under != m_action) {
+        return;
+    }
+    const bool horizontally = m_action == CObjAction::ACT_MirrorHorizontal;
+    m_object.setMirror(m_object.isMirrored() != horizontally, m_object.isFlipped() == horizontally, true);
+}
+
+void GripDrag::selectOnlyObject()
+{
+    m_object.scene()->clearSelection();
+    m_object.setSelected(true);
+}

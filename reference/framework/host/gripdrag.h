@@ -1,0 +1,44 @@
+#pragma once
+
+#include <framework/cobjaction.h>
+
+#include <pagehost/geometrysnapshot.h>
+
+#include <QtCore/QPointF>
+#include <QtCore/QVector>
+
+class CBaseObject;
+class QGraphicsSceneMouseEvent;
+
+/// One drag of a page object by hand, from press to release: moving the selection, or a handle of one object.
+///
+/// Every step starts from the snapshots of the press, so that nothing adds up and a cancelled drag leaves no trace.
+class GripDrag
+{
+public:
+    /// `object` is the one that was pressed. `selectsAlone` makes a press without a drag select only it.
+    GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
+             bool selectsAlone);
+
+    CObjAction::ACT_Def action() const { return m_action; }
+    void moveTo(const QGraphicsSceneMouseEvent &event);
+    /// Ends the drag: one undo step when something changed.
+    void finish(const QGraphicsSceneMouseEvent &event);
+    void cancel();
+
+private:
+    void moveSelection(const QPointF &scenePos);
+    void resize(const QPointF &scenePos);
+    void rotate(const QPointF &scenePos, bool inSteps);
+    void mirrorIfStillOnHandle(const QPointF &scenePos);
+    void selectOnlyObject();
+    const pagehost::GeometrySnapshot &start() const { return m_before.first(); }
+
+    CBaseObject &m_object;
+    CObjAction::ACT_Def m_action;
+    QPointF m_press;    ///< scene coordinates
+    double m_threshold; ///< scene units that the mouse must leave the press by
+    bool m_selectsAlone;
+    bool m_moved = false;
+    QVector<pagehost::GeometrySnapshot> m_before;
+};

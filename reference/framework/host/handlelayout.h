@@ -1,0 +1,44 @@
+#pragma once
+
+#include <framework/cobjaction.h>
+
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QVector>
+
+/// Where the handles of a selected object stand: around its client rectangle, in item coordinates, at distances
+/// that are constant on screen.
+class HandleLayout
+{
+public:
+    /// `zoom` is scene units to screen pixels.
+    HandleLayout(const QRectF &clientRect, double zoom);
+
+    /// All handles in drawing order.
+    static const QVector<CObjAction::ACT_Def> &handles();
+    static bool isResize(CObjAction::ACT_Def handle);
+    /// -1, 0 or 1 per axis: the side of the rectangle on which the handle stands.
+    static QPoint side(CObjAction::ACT_Def handle);
+
+    /// Centre of a handle, item coordinates.
+    QPointF position(CObjAction::ACT_Def handle) const;
+    /// The handle whose hit area holds `itemPos`, the nearest when several do; ACT_None when none does. Inside a
+    /// small object, the body wins, so that it can be moved.
+    CObjAction::ACT_Def hit(const QPointF &itemPos, const QVector<CObjAction::ACT_Def> &enabled) const;
+    /// The frame that is drawn around the object, item coordinates.
+    QRectF frame() const;
+    /// Everything that belongs to the object's editing aids, item coordinates.
+    QRectF bounds() const;
+    /// Item units of a length in screen pixels.
+    double fromPixels(double pixels) const { return pixels / m_zoom; }
+
+    static constexpr double handlePixels = 9;        ///< side or diameter of a drawn handle
+    static constexpr double hitRadiusPixels = 12;    ///< a handle answers this far around its centre
+    static constexpr double frameMarginPixels = 6;   ///< frame to client rectangle
+    static constexpr double stemPixels = 26;         ///< frame to the rotation and mirror handles
+    static constexpr double controlPointPixels = 50; ///< largest control point on screen
+
+private:
+    QRectF m_rect;
+    double m_zoom;
+};

@@ -1,0 +1,153 @@
+#include <host/rootobjectprivate.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/idocument.h>
+#include <framework/iframework.h>
+
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <host/handlelayout.h>
+
+#include <cmath>
+
+namespace {
+
+OperationType operationOf(CObjAction::ACT_Def handle)
+{
+    if (HandleLayout::isResize(handle)) {
+        return OperationResize;
+    }
+    return handle == CObjAction::ACT_Rotate ? OperationRotate : OperationMirror;
+}
+
+} // namespace
+
+CBaseObject *CPSRootObjectPrivate::baseObject(CPSRootObject &object)
+{
+    return dynamic_cast<CBaseObject *>(&object);
+}
+
+pagehost::Page *CPSRootObjectPrivate::pageOf(const CPSRootObject &object)
+{
+    return dynamic_cast<pagehost::Page *>(object.GetPage());
+}
+
+pagehost::PageScene *CPSRootObjectPrivate::pageScene(const CPSRootObject &object)
+{
+    const QGraphicsItem *item = object.d->item;
+    return item ? qobject_cast<pagehost::PageScene *>(item->scene()) : nullptr;
+}
+
+IDocument *CPSRootObjectPrivate::documentOf(const CPSRootObject &object)
+{
+    const IPsPage *page = object.GetPage();
+    IDocument *document = page ? page->document() : nullptr;
+    return document ? document : GetFramework()->currentDocument();
+}
+
+bool CPSRootObjectPrivate::isEditingBlocked(const CPSRootObject &object)
+{
+    const IDocument *document = documentOf(object);
+    return document && document->editingBlocked() != 0;
+}
+
+QVector<CObjAction::ACT_Def> CPSRootObjectPrivate::handles(CPSRootObject &object)
+{
+    QVector<CObjAction::ACT_Def> offered;
+    for (const CObjAction::ACT_Def handle : HandleLayout::handles()) {
+        if (!object.isHandleDisabled(handle) && object.canDo(operationOf(handle))) {
+            offered.append(handle);
+        }
+    }
+    return offered;
+}
+
+void CPSRootObjectPrivate::assignClientSize(CPSRootObject &object, const QSizeF &size)
+{
+    setClientRect(object, QRectF(object.clientRect.topLeft(), size));
+}
+
+void CPSRootObjectPrivate::setClientRect(CPSRootObject &object, const QRectF &rect)
+{
+    object.clientRect = rect;
+    object.dragStart = rect.topLeft();
+    object.dragEnd = rect.topLeft() + QPointF(rect.width(), rect.height());
+    if (object.fillProp->needCreatBrush(rect)) {
+        object.fillBrush = object.fillProp->createBrushByProp(rect, false);
+    }
+}
+
+void CPSRootObjectPrivate::assignMirror(CPSRootObject &object, bool horizontal, bool vertical)
+{
+    object.mirrorHorizontal = horizontal;
+    object.mirrorVertical = vertical;
+}
+
+void CPSRootObjectPrivate::assignFill(CPSRootObject &object, const CPageBgProp &fill)
+{
+    *object.fillProp = fill;
+    object.fillBrush = fill.createBrushByProp(object.clientRect, false);
+}
+
+void CPSRootObjectPrivate::place(CPSRootObject &object, const QPointF &pos, double degrees)
+{
+    QGraphicsItem *item = object.d->item;
+    item->setPos(pos);
+    item->setRotation(degrees);
+}
+
+void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
+{
+    CBaseObject *item = baseObject(object);
+    if (!item) {
+        return;
+    }
+    QRectF bounds = object.clientRect;
+    if (object.regionPath) {
+        bounds = bounds.united(object.regionPath->controlPointRect());
+    }
+    // Control points may stand half outside, whatever their size on screen.
+    const double reach = item->isSelected() ? HandleLayout::controlPointPixels : 1;
+    const double margin = HandleLayout(object.clientRect, object.getCurZoomRate()).fromPixels(reach);
+    bounds.adjust(-margin, -margin, margin, margin);
+    if (bounds == object.d->bounds) {
+        return;
+    }
+    item->prepareGeometryChange();
+    object.d->bounds = bounds;
+}
+
+void CPSRootObjectPrivate::noteChange(CPSRootObject &object)
+{
+    if (pagehost::Page *page = pageOf(object)) {
+        page->noteChange();
+    }
+}
+
+double normalizedDegrees(double degrees)
+{
+    const double rest = std::fmod(degrees, 360);
+    const double positive = rest < 0 ? rest + 360 : rest;
+    return positive < 360 ? positive : 0;
+}
+
+QPointF rotated(const QPointF &vector, double degrees)
+{
+    return QTransform().rotate(degrees).map(vector);
+}
+
+bool isFinite(const QPointF &point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
+bool isFinite(const QSizeF &size)
+{
+    return std::isfinite(size.width()) && std::isfinite(size.height());
+}
+
+bool isFinite(const QRectF &rect)
+{
+    return isFinite(rect.topLeft()) && isFinite(rect.size());
+}

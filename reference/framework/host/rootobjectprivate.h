@@ -1,0 +1,69 @@
+#pragma once
+
+#include <framework/cpsrootobject.h>
+
+#include <QtCore/QSet>
+#include <QtCore/QVector>
+
+#include <memory>
+
+class CBaseObject;
+class GripDrag;
+class IDocument;
+
+namespace pagehost {
+class Page;
+class PageScene;
+} // namespace pagehost
+
+/// What the host keeps of a page object beside its public members, and the host's own way past virtual operations.
+class CPSRootObjectPrivate
+{
+public:
+    QGraphicsItem *item = nullptr;
+    IPsPage *page = nullptr;
+    QSet<int> disabledHandles;
+    int subType = 0;
+    bool locked = false;
+    /// Bounding rectangle as the scene knows it, item coordinates.
+    QRectF bounds;
+    std::unique_ptr<GripDrag> drag;
+
+    CPSRootObjectPrivate();
+    ~CPSRootObjectPrivate();
+
+    static CPSRootObjectPrivate &of(CPSRootObject &object) { return *object.d; }
+    static const CPSRootObjectPrivate &of(const CPSRootObject &object) { return *object.d; }
+
+    /// The graphics item; null for an object whose item is no CBaseObject.
+    static CBaseObject *baseObject(CPSRootObject &object);
+    static pagehost::Page *pageOf(const CPSRootObject &object);
+    /// The scene that shows the object when it is a page's.
+    static pagehost::PageScene *pageScene(const CPSRootObject &object);
+    /// The document of the object's page, else the current one; null when there is none at all.
+    static IDocument *documentOf(const CPSRootObject &object);
+    static bool isEditingBlocked(const CPSRootObject &object);
+    /// The handles that the object offers, in drawing order.
+    static QVector<CObjAction::ACT_Def> handles(CPSRootObject &object);
+
+    /// Client size without the object's virtual setSize(): exactly this size.
+    static void assignClientSize(CPSRootObject &object, const QSizeF &size);
+    static void assignMirror(CPSRootObject &object, bool horizontal, bool vertical);
+    static void assignFill(CPSRootObject &object, const CPageBgProp &fill);
+    /// Position of the item's origin and rotation, without records.
+    static void place(CPSRootObject &object, const QPointF &pos, double degrees);
+    /// Bounding rectangle from client rectangle, region and editing aids.
+    static void refreshBounds(CPSRootObject &object);
+    static void noteChange(CPSRootObject &object);
+    static QPen &pen(CPSRootObject &object) { return object.myPen; }
+    static void setName(CPSRootObject &object, const QString &name) { object.objName = name; }
+    static void setClientRect(CPSRootObject &object, const QRectF &rect);
+};
+
+/// Degrees brought into 0 to 360, 360 excluded.
+double normalizedDegrees(double degrees);
+/// A vector of item coordinates as the item's rotation turns it.
+QPointF rotated(const QPointF &vector, double degrees);
+bool isFinite(const QPointF &point);
+bool isFinite(const QSizeF &size);
+bool isFinite(const QRectF &rect);

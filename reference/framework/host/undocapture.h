@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <memory>
+#include <vector>
+
+class CWbUndoCmd;
+
+/// Grouped undo steps of CUndoRedo. A group opens on the stack with its first command, so that an empty one leaves
+/// nothing behind.
+namespace undogroups {
+
+void begin(const QString &titleKey);
+void end();
+
+} // namespace undogroups
+
+/// While alive, commands that are pushed do not reach the stack; they are undone and deleted at the end. It takes
+/// back a gesture that the user cancelled without touching what could be redone before it.
+class UndoCapture
+{
+public:
+    UndoCapture();
+    ~UndoCapture();
+    UndoCapture(const UndoCapture &) = delete;
+    UndoCapture &operator=(const UndoCapture &) = delete;
+
+    static UndoCapture *current();
+    void take(CWbUndoCmd *command);
+
+private:
+    UndoCapture *m_outer;
+    std::vector<std::unique_ptr<CWbUndoCmd>> m_commands;
+};

@@ -1,0 +1,167 @@
+#include <pagehost/document.h>
+
+#include <framework/cundoredo.h>
+#include <framework/iframework.h>
+
+#include <pagehost/application.h>
+#include <pagehost/page.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <cmath>
+
+namespace pagehost {
+
+Document::Document(QObject *parent)
+    : QObject(parent)
+{
+}
+
+Document::~Document()
+{
+    CUndoRedo::GetInstance()->stack()->clear();
+    if (GetFramework()->currentDocument() == this) {
+        setCurrentDocument(nullptr);
+    }
+    const QVector<Page *> owned = m_pages + m_outside;
+    m_pages.clear();
+    m_outside.clear();
+    qDeleteAll(owned);
+}
+
+void Document::setDocumentState(int state)
+{
+    if (state == m_state) {
+        return;
+    }
+    m_state = state;
+    Q_EMIT documentStateChanged(state);
+}
+
+void Document::setEditingBlocked(int blocked)
+{
+    if (blocked == m_blocked) {
+        return;
+    }
+    m_blocked = blocked;
+    Q_EMIT editingBlockedChanged(blocked);
+}
+
+void Document::setZoomRate(double rate)
+{
+    if (!std::isfinite(rate) || rate <= 0 || rate == m_zoom) {
+        return;
+    }
+    m_zoom = rate;
+    Q_EMIT zoomRateChanged(rate);
+}
+
+Page *Document::page(int index) const
+{
+    return m_pages.value(index, nullptr);
+}
+
+int Document::indexOf(const Page *page) const
+{
+    return m_pages.indexOf(const_cast<Page *>(page));
+}
+
+Page *Document::currentPage() const
+{
+    return page(m_current);
+}
+
+void Document::setCurrentIndex(int index)
+{
+    if (index >= 0 && index < m_pages.size()) {
+        setCurrent(index);
+    }
+}
+
+void Document::setCurrent(int index)
+{
+    if (index == m_current) {
+        return;
+    }
+    m_current = index;
+    Q_EMIT currentPageChanged(index);
+}
+
+Page *Document::createPage(const QSizeF &size)
+{
+    auto *page = new Page(this, size);
+    m_outside.append(page);
+    return page;
+}
+
+void Document::insertPage(int index, Page *page)
+{
+    if (!m_outside.removeOne(page)) {
+        return;
+    }
+    const int place = qBound(0, index, m_pages.size());
+    m_pages.insert(place, page);
+    Q_EMIT pageInserted(place);
+    m_current = -1;
+    setCurrent(place);
+}
+
+Page *Document::appendPage(const QSizeF &size)
+{
+    Page *page = createPage(size);
+    insertPage(m_pages.size(), page);
+    return page;
+}
+
+Page *Document::takePage(int index)
+{
+    Page *taken = page(index);
+    if (!taken) {
+        return nullptr;
+    }
+    Page *current = currentPage();
+    m_pages.removeAt(index);
+    m_outside.append(taken);
+    Q_EMIT pageRemoved(index);
+    const int next = current == taken ? qMin(index, m_pages.size() - 1) : m_pages.indexOf(current);
+    m_current = current == taken ? -2 : m_current;
+    setCurrent(next);
+    dropIfUnused(taken);
+    return taken;
+}
+
+bool Document::movePage(int from, int to)
+{
+    if (!page(from) || !page(to)) {
+        return false;
+    }
+    Page *current = currentPage();
+    m_pages.move(from, to);
+    Q_EMIT pageMoved(from, to);
+    setCurrent(m_pages.indexOf(current));
+    return true;
+}
+
+void Document::retain(Page *page)
+{
+    ++m_retained[page];
+}
+
+void Document::release(Page *page)
+{
+    const auto count = m_retained.find(page);
+    if (count == m_retained.end() || --*count > 0) {
+        return;
+    }
+    m_retained.erase(count);
+    dropIfUnused(page);
+}
+
+void Document::dropIfUnused(Page *page)
+{
+    if (!m_retained.contains(page) && m_outside.removeOne(page)) {
+        page->deleteLater();
+    }
+}
+
+} // namespace pagehost

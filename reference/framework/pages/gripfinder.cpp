@@ -1,0 +1,148 @@
+#include <pages/gripfinder.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+
+#include <host/handlelayout.h>
+#include <host/rootobjectprivate.h>
+
+#include <cmath>
+
+namespace pagehost {
+
+namespace {
+
+/// Fingers miss a control point by this much.
+constexpr double nearMissPixels = 8;
+constexpr int probeDirections = 8;
+constexpr int probeRings = 2;
+/// Beyond this many selected objects only exact hits count: looking around each would make hovering slow.
+constexpr int mostProbedObjects = 16;
+
+Grip askObject(CBaseObject *object, const QPointF &scenePos)
+{
+    CObjAction::ACT_Def action = CObjAction::ACT_None;
+    if (object->isLocked() || !object->CheckHitTestHandlers(scenePos, action)) {
+        return {};
+    }
+    return {action == CObjAction::ACT_None ? Grip::ControlPoint : Grip::Handle, object, action, {}};
+}
+
+/// An object takes a press on its control point only inside its client rectangle, but the point's margin reaches
+/// beyond.
+QPointF offsetIntoObject(CBaseObject *object, const QPointF &scenePos)
+{
+    const QRectF rect = object->getClientRect();
+    const QPointF pos = object->mapFromScene(scenePos);
+    const QPointF inside(qBound(rect.left(), pos.x(), rect.right()), qBound(rect.top(), pos.y(), rect.bottom()));
+    return inside == pos ? QPointF() : object->mapToScene(inside) - scenePos;
+}
+
+Grip controlPointGrip(CBaseObject *object, const QPointF &scenePos, const QPointF &probeOffset)
+{
+    Grip grip = askObject(object, scenePos + probeOffset);
+    if (grip.kind != Grip::ControlPoint) {
+        return {};
+    }
+    const QPointF inward = offsetIntoObject(object, scenePos + probeOffset);
+    const bool inwardHits = askObject(object, scenePos + probeOffset + inward).kind == Grip::ControlPoint;
+    grip.offset = inwardHits ? probeOffset + inward : probeOffset;
+    return grip;
+}
+
+QPointF probe(int ring, int direction, double zoom)
+{
+    const double radius = nearMissPixels * (ring + 1) / probeRings / zoom;
+    const double angle = direction * 2 * 3.14159265358979323846 / probeDirections;
+    return {radius * std::cos(angle), radius * std::sin(angle)};
+}
+
+Grip nearbyControlPoint(CBaseObject *object, const QPointF &scenePos)
+{
+    const double zoom = object->getCurZoomRate();
+    for (int ring = 0; ring < probeRings; ++ring) {
+        for (int direction = 0; direction < probeDirections; ++direction) {
+            const Grip grip = controlPointGrip(object, scenePos, probe(ring, direction, zoom));
+            if (grip.object) {
+                return grip;
+            }
+        }
+    }
+    return {};
+}
+
+Grip exactGrip(CBaseObject *object, const QPointF &scenePos)
+{
+    const Grip grip = askObject(object, scenePos);
+    return grip.kind == Grip::ControlPoint ? controlPointGrip(object, scenePos, {}) : grip;
+}
+
+CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPointF &scenePos)
+{
+    for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
+        if ((*object)->getClientRect().contains((*object)->mapFromScene(scenePos))) {
+            return *object;
+        }
+    }
+    return nullptr;
+}
+
+QCursor resizeCursor(const Grip &grip)
+{
+    const QPointF towards = rotated(HandleLayout::side(grip.action), grip.object->rotation());
+    const double degrees = std::atan2(towards.y(), towards.x()) * 180 / 3.14159265358979323846;
+    const int eighth = int(std::lround(normalizedDegrees(degrees) / 45)) % 4;
+    static constexpr Qt::CursorShape shapes[] = {Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor,
+                                                 Qt::SizeBDiagCursor};
+    return shapes[eighth];
+}
+
+} // namespace
+
+Grip findGrip(const Page &page, const QPointF &scenePos)
+{
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
+        const Grip grip = exactGrip(*object, scenePos);
+        if (grip.object) {
+            return grip;
+        }
+    }
+    if (selected.size() <= mostProbedObjects) {
+        for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
+            const Grip grip = nearbyControlPoint(*object, scenePos);
+            if (grip.object) {
+                return grip;
+            }
+        }
+    }
+    CBaseObject *object = page.objectAt(scenePos);
+    if (!object) {
+        object = selectedAround(selected, scenePos);
+    }
+    return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}} : Grip();
+}
+
+QCursor cursorFor(const Grip &grip, bool pressed)
+{
+    switch (grip.kind) {
+    case Grip::Nothing:
+        return Qt::ArrowCursor;
+    case Grip::ControlPoint:
+        return Qt::CrossCursor;
+    case Grip::Body:
+        return grip.object->isLocked() ? Qt::ArrowCursor : Qt::SizeAllCursor;
+    case Grip::Handle:
+        break;
+    }
+    if (HandleLayout::isResize(grip.action)) {
+        return resizeCursor(grip);
+    }
+    if (grip.action == CObjAction::ACT_Rotate) {
+        return pressed ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
+    }
+    return Qt::PointingHandCursor;
+}
+
+} // namespace pagehost

@@ -1,0 +1,152 @@
+#include <pages/overlaypainter.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+
+#include <host/handlelayout.h>
+#include <host/rootobjectprivate.h>
+
+#include <QtGui/QPainter>
+#include <QtGui/QPalette>
+
+namespace pagehost {
+
+namespace {
+
+constexpr double framePenPixels = 1.5;
+constexpr double buttonPixels = 16; ///< diameter of the rotation and mirror handles
+
+/// Draws in item coordinates; lengths are screen pixels brought into item units.
+class HandlePainter
+{
+public:
+    HandlePainter(QPainter &painter, const HandleLayout &layout, const QColor &accent)
+        : m_painter(painter)
+        , m_layout(layout)
+        , m_accent(accent)
+    {
+        m_pen = QPen(accent, framePenPixels);
+        m_pen.setCosmetic(true);
+    }
+
+    void drawFrame()
+    {
+        m_painter.setPen(m_pen);
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawRect(m_layout.frame());
+    }
+
+    void drawHandle(CObjAction::ACT_Def handle, bool hovered)
+    {
+        m_painter.setPen(m_pen);
+        m_painter.setBrush(hovered ? m_accent : QColor(Qt::white));
+        const QPointF center = m_layout.position(handle);
+        if (HandleLayout::isResize(handle)) {
+            m_painter.drawRect(square(center, HandleLayout::handlePixels));
+            return;
+        }
+        if (handle == CObjAction::ACT_Rotate) {
+            m_painter.drawLine(QPointF(center.x(), m_layout.frame().top()), center);
+        }
+        m_painter.drawEllipse(square(center, buttonPixels));
+        drawGlyph(handle, center, hovered ? QColor(Qt::white) : m_accent);
+    }
+
+private:
+    QRectF square(const QPointF &center, double pixels) const
+    {
+        const double half = m_layout.fromPixels(pixels) / 2;
+        return {center - QPointF(half, half), center + QPointF(half, half)};
+    }
+
+    void drawGlyph(CObjAction::ACT_Def handle, const QPointF &center, const QColor &color)
+    {
+        m_painter.save();
+        m_painter.translate(center);
+        const double unit = m_layout.fromPixels(1);
+        m_painter.scale(unit, unit);
+        if (handle == CObjAction::ACT_Rotate) {
+            drawTurnGlyph(color);
+        } else {
+            drawMirrorGlyph(handle == CObjAction::ACT_MirrorVertical, color);
+        }
+        m_painter.restore();
+    }
+
+    void drawTurnGlyph(const QColor &color)
+    {
+        m_painter.setPen(QPen(color, 1.5));
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawArc(QRectF(-4, -4, 8, 8), 30 * 16, 270 * 16);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(color);
+        m_painter.drawPolygon(QPolygonF({{1, -1}, {6, -1}, {4, -5}}));
+    }
+
+    void drawMirrorGlyph(bool upright, const QColor &color)
+    {
+        m_painter.rotate(upright ? 90 : 0);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(color);
+        m_painter.drawPolygon(QPolygonF({{-1.5, -4}, {-1.5, 4}, {-6, 4}}));
+        m_painter.drawPolygon(QPolygonF({{1.5, -4}, {1.5, 4}, {6, 4}}));
+    }
+
+    QPainter &m_painter;
+    const HandleLayout &m_layout;
+    QColor m_accent;
+    QPen m_pen;
+};
+
+HandleLayout layoutOf(const CBaseObject &object)
+{
+    return {object.getClientRect(), object.getCurZoomRate()};
+}
+
+void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &accent, const Grip &hovered,
+                        bool withHandles)
+{
+    painter.save();
+    painter.setTransform(object.sceneTransform(), true);
+    const HandleLayout layout = layoutOf(object);
+    HandlePainter aids(painter, layout, accent);
+    aids.drawFrame();
+    if (withHandles) {
+        const QVector<CObjAction::ACT_Def> handles = CPSRootObjectPrivate::handles(object);
+        for (const CObjAction::ACT_Def handle : handles) {
+            aids.drawHandle(handle, hovered.object == &object && hovered.action == handle);
+        }
+    }
+    painter.restore();
+}
+
+} // namespace
+
+void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool framesOnly)
+{
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    if (selected.isEmpty()) {
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = page.scene()->palette().color(QPalette::Highlight);
+    const bool single = selected.size() == 1;
+    for (CBaseObject *object : selected) {
+        paintObjectOverlay(*object, painter, accent, hovered, single && !framesOnly && !object->isLocked());
+    }
+    painter.restore();
+}
+
+QRectF overlayBounds(const Page &page)
+{
+    QRectF bounds;
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    for (const CBaseObject *object : selected) {
+        bounds |= object->mapRectToScene(layoutOf(*object).bounds());
+    }
+    return bounds;
+}
+
+} // namespace pagehost

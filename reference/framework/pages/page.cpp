@@ -1,0 +1,222 @@
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/pagescene.h>
+
+#include <host/rootobjectprivate.h>
+
+#include <algorithm>
+
+namespace pagehost {
+
+namespace {
+
+bool isPageSize(const QSizeF &size)
+{
+    return isFinite(size) && size.width() > 0 && size.height() > 0;
+}
+
+CPageBgProp paper(IPsPage *page)
+{
+    CPageBgProp background(page);
+    background.setFillEnable(true);
+    return background;
+}
+
+QVector<CBaseObject *> sorted(QVector<CBaseObject *> objects)
+{
+    std::sort(objects.begin(), objects.end());
+    return objects;
+}
+
+} // namespace
+
+Page::Page(Document *document, const QSizeF &size, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_size(isPageSize(size) ? size : Document::defaultPageSize())
+    , m_background(paper(this))
+    , m_scene(std::make_unique<PageScene>(this))
+{
+    m_changeTimer.setSingleShot(true);
+    connect(&m_changeTimer, &QTimer::timeout, this, &Page::contentChanged);
+    connect(m_scene.get(), &QGraphicsScene::selectionChanged, this, &Page::selectionChanged);
+}
+
+Page::~Page()
+{
+    // Objects that go must not tell a page that is half gone.
+    m_scene->disconnect(this);
+    const QVector<CBaseObject *> owned = m_objects + m_outside;
+    for (CBaseObject *object : owned) {
+        object->SetPage(nullptr);
+    }
+    qDeleteAll(owned);
+}
+
+void Page::setSize(const QSizeF &size)
+{
+    if (!isPageSize(size) || size == m_size) {
+        return;
+    }
+    m_size = size;
+    m_scene->setSceneRect(rect());
+    noteChange();
+    Q_EMIT sizeChanged(size);
+}
+
+void Page::setBackground(const CPageBgProp &background)
+{
+    if (background == m_background) {
+        return;
+    }
+    m_background = background;
+    m_scene->update();
+    noteChange();
+    Q_EMIT backgroundChanged();
+}
+
+int Page::indexOf(const CBaseObject *object) const
+{
+    return m_objects.indexOf(const_cast<CBaseObject *>(object));
+}
+
+QVector<CBaseObject *> Page::selectedObjects() const
+{
+    QVector<CBaseObject *> objects;
+    const QList<QGraphicsItem *> items = m_scene->selectedItems();
+    for (QGraphicsItem *item : items) {
+        auto *object = dynamic_cast<CBaseObject *>(item);
+        if (object && object->GetPage() == this) {
+            objects.append(object);
+        }
+    }
+    std::sort(objects.begin(), objects.end(),
+              [](const CBaseObject *one, const CBaseObject *other) { return one->zValue() < other->zValue(); });
+    return objects;
+}
+
+void Page::select(const QVector<CBaseObject *> &objects)
+{
+    m_scene->clearSelection();
+    for (CBaseObject *object : objects) {
+        if (object->scene() == m_scene.get()) {
+            object->setSelected(true);
+        }
+    }
+}
+
+CBaseObject *Page::objectAt(const QPointF &scenePos) const
+{
+    const QList<QGraphicsItem *> items = m_scene->items(scenePos);
+    for (QGraphicsItem *item : items) {
+        auto *object = dynamic_cast<CBaseObject *>(item);
+        if (object && object->GetPage() == this) {
+            return object;
+        }
+    }
+    return nullptr;
+}
+
+void Page::addObject(CBaseObject *object, int index)
+{
+    if (!object || contains(object)) {
+        return;
+    }
+    m_outside.removeOne(object);
+    const int place = index < 0 ? m_objects.size() : qMin(index, m_objects.size());
+    m_objects.insert(place, object);
+    object->SetPage(this);
+    renumber(place);
+    if (object->scene() != m_scene.get()) {
+        m_scene->addItem(object);
+    }
+    noteChange();
+    Q_EMIT objectAdded(object);
+}
+
+int Page::removeObject(CBaseObject *object)
+{
+    const int index = indexOf(object);
+    if (index < 0) {
+        return -1;
+    }
+    object->setSelected(false);
+    m_objects.removeAt(index);
+    m_outside.append(object);
+    m_scene->forget(object);
+    m_scene->removeItem(object);
+    noteChange();
+    Q_EMIT objectRemoved(object);
+    dropIfUnused(object);
+    return index;
+}
+
+void Page::moveObject(CBaseObject *object, int index)
+{
+    const int from = indexOf(object);
+    const int to = qBound(0, index, m_objects.size() - 1);
+    if (from < 0 || from == to) {
+        return;
+    }
+    m_objects.move(from, to);
+    renumber(qMin(from, to));
+    noteChange();
+    Q_EMIT stackingChanged();
+}
+
+bool Page::setStackingOrder(const QVector<CBaseObject *> &objects)
+{
+    if (sorted(objects) != sorted(m_objects)) {
+        return false;
+    }
+    if (objects == m_objects) {
+        return true;
+    }
+    m_objects = objects;
+    renumber(0);
+    noteChange();
+    Q_EMIT stackingChanged();
+    return true;
+}
+
+void Page::renumber(int from)
+{
+    for (int index = from; index < m_objects.size(); ++index) {
+        m_objects[index]->setZValue(index);
+    }
+}
+
+void Page::retain(CBaseObject *object)
+{
+    ++m_retained[object];
+}
+
+void Page::release(CBaseObject *object)
+{
+    const auto count = m_retained.find(object);
+    if (count == m_retained.end() || --*count > 0) {
+        return;
+    }
+    m_retained.erase(count);
+    dropIfUnused(object);
+}
+
+void Page::dropIfUnused(CBaseObject *object)
+{
+    if (!m_retained.contains(object) && m_outside.removeOne(object)) {
+        object->SetPage(nullptr);
+        object->deleteLater();
+    }
+}
+
+void Page::noteChange()
+{
+    ++m_revision;
+    if (!m_changeTimer.isActive()) {
+        m_changeTimer.start(0);
+    }
+}
+
+} // namespace pagehost

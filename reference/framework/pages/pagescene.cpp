@@ -1,0 +1,259 @@
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/creation.h>
+#include <pagehost/page.h>
+#include <pagehost/pagepainter.h>
+
+#include <host/gripdrag.h>
+#include <host/handlelayout.h>
+#include <host/rootobjectprivate.h>
+#include <host/undocapture.h>
+#include <pages/eventcopy.h>
+#include <pages/gripfinder.h>
+#include <pages/overlaypainter.h>
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QGraphicsSceneMouseEvent>
+#include <QtWidgets/QWidget>
+
+namespace pagehost {
+
+PageScene::PageScene(Page *page)
+    : QGraphicsScene(QRectF(QPointF(0, 0), page->size()))
+    , m_page(page)
+{
+    connect(this, &QGraphicsScene::selectionChanged, this, &PageScene::updateOverlay);
+    if (Document *document = page->document()) {
+        connect(document, &Document::zoomRateChanged, this, &PageScene::zoomChanged);
+        connect(document, &Document::documentStateChanged, this, &PageScene::updateOverlay);
+        connect(document, &Document::editingBlockedChanged, this, &PageScene::updateOverlay);
+    }
+    m_overlayTimer.setSingleShot(true);
+    connect(&m_overlayTimer, &QTimer::timeout, this, &PageScene::repaintOverlay);
+}
+
+PageScene::~PageScene() = default;
+
+Grip PageScene::gripAt(const QPointF &scenePos) const
+{
+    return isEditable() ? findGrip(*m_page, scenePos) : Grip();
+}
+
+bool PageScene::isEditable() const
+{
+    const Document *document = m_page->document();
+    return !document || (document->documentState() == 0 && document->editingBlocked() == 0);
+}
+
+QCursor PageScene::cursorAt(const QPointF &scenePos) const
+{
+    if (m_tool) {
+        return Qt::CrossCursor;
+    }
+    return cursorFor(isDragging() ? m_drag : gripAt(scenePos), isDragging());
+}
+
+void PageScene::setCreationTool(CreationTool *tool)
+{
+    m_tool = tool;
+    setHover({});
+}
+
+bool PageScene::isDragging() const
+{
+    return m_drag.object != nullptr;
+}
+
+void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (m_tool && m_tool->press(event)) {
+        event->accept();
+        return;
+    }
+    if (event->button() != Qt::LeftButton) {
+        QGraphicsScene::mousePressEvent(event);
+        return;
+    }
+    const Grip grip = gripAt(event->scenePos());
+    if (grip.kind == Grip::Nothing) {
+        event->ignore();
+        return;
+    }
+    pressGrip(grip, event);
+}
+
+void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
+{
+    m_drag = grip;
+    m_pressPos = event->scenePos();
+    deliver(event);
+    event->accept();
+    updateOverlay();
+}
+
+void PageScene::deliver(QGraphicsSceneMouseEvent *event) const
+{
+    QGraphicsSceneMouseEvent copy(event->type());
+    copyMouseEvent(*event, *m_drag.object, m_drag.offset, copy);
+    switch (event->type()) {
+    case QEvent::GraphicsSceneMousePress:
+        m_drag.object->mousePressEvent(&copy);
+        break;
+    case QEvent::GraphicsSceneMouseMove:
+        m_drag.object->mouseMoveEvent(&copy);
+        break;
+    case QEvent::GraphicsSceneMouseRelease:
+        m_drag.object->mouseReleaseEvent(&copy);
+        break;
+    default:
+        m_drag.object->mouseDoubleClickEvent(&copy);
+        break;
+    }
+}
+
+void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (m_tool && m_tool->move(event)) {
+        event->accept();
+    } else if (isDragging()) {
+        deliver(event);
+        event->accept();
+    } else if (!event->buttons()) {
+        setHover(m_tool ? Grip() : gripAt(event->scenePos()));
+    }
+    if (QWidget *viewport = event->widget()) {
+        viewport->setCursor(cursorAt(event->scenePos()));
+    }
+}
+
+void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (m_tool && m_tool->release(event)) {
+        event->accept();
+        return;
+    }
+    if (!isDragging() || event->button() != Qt::LeftButton) {
+        QGraphicsScene::mouseReleaseEvent(event);
+        return;
+    }
+    deliver(event);
+    event->accept();
+    m_drag = {};
+    updateOverlay();
+}
+
+void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
+{
+    const Grip grip = m_tool || event->button() != Qt::LeftButton ? Grip() : gripAt(event->scenePos());
+    if (!grip.object) {
+        event->ignore();
+        return;
+    }
+    m_drag = grip;
+    deliver(event);
+    m_drag = {};
+    event->accept();
+}
+
+void PageScene::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+    if (event->key() == Qt::Key_Escape && m_tool && m_tool->isActive()) {
+        m_tool->cancel();
+        event->accept();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && cancelDrag()) {
+        event->accept();
+        return;
+    }
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    if (selected.size() == 1) {
+        selected.first()->keyPressEvent(event);
+    }
+}
+
+bool PageScene::cancelDrag()
+{
+    if (!isDragging()) {
+        return false;
+    }
+    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*m_drag.object);
+    if (host.drag) {
+        host.drag->cancel();
+        host.drag.reset();
+    } else {
+        // The object's own release makes the step that puts its control point back.
+        const UndoCapture capture;
+        QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+        release.setButton(Qt::LeftButton);
+        release.setScenePos(m_pressPos);
+        deliver(&release);
+    }
+    m_drag = {};
+    updateOverlay();
+    return true;
+}
+
+void PageScene::forget(CBaseObject *object)
+{
+    if (m_drag.object == object) {
+        CPSRootObjectPrivate::of(*object).drag.reset();
+        m_drag = {};
+    }
+    if (m_hover.object == object) {
+        m_hover = {};
+    }
+    updateOverlay();
+}
+
+void PageScene::setHover(const Grip &grip)
+{
+    const bool same = grip.object == m_hover.object && grip.kind == m_hover.kind && grip.action == m_hover.action;
+    m_hover = grip;
+    if (!same) {
+        updateOverlay();
+    }
+}
+
+void PageScene::updateOverlay()
+{
+    if (!m_overlayTimer.isActive()) {
+        m_overlayTimer.start(0);
+    }
+}
+
+void PageScene::repaintOverlay()
+{
+    const QRectF covered = overlayBounds(*m_page);
+    update(m_overlay.united(covered));
+    m_overlay = covered;
+}
+
+void PageScene::zoomChanged()
+{
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    for (CBaseObject *object : selected) {
+        CPSRootObjectPrivate::refreshBounds(*object);
+    }
+    updateOverlay();
+}
+
+void PageScene::drawBackground(QPainter *painter, const QRectF &)
+{
+    paintPageBackground(m_page, painter, m_page->rect());
+}
+
+void PageScene::drawForeground(QPainter *painter, const QRectF &)
+{
+    const Document *document = m_page->document();
+    if (document && document->documentState() != 0) {
+        return;
+    }
+    const bool isMoving = isDragging() && m_drag.kind == Grip::Body;
+    paintOverlay(*m_page, *painter, m_hover, isMoving || !isEditable());
+}
+
+} // namespace pagehost

@@ -1,0 +1,40 @@
+#include <pagehost/recorder.h>
+
+#include <framework/cpsrootobject.h>
+
+#include <QtCore/QDataStream>
+
+namespace pagehost {
+
+namespace {
+
+ActionSink *g_sink = nullptr;
+
+bool isHostAction(int actionId)
+{
+    return actionId >= ActionMoved && actionId <= ActionPenColored;
+}
+
+} // namespace
+
+ActionSink *setActionSink(ActionSink *sink)
+{
+    ActionSink *previous = g_sink;
+    g_sink = sink;
+    return previous;
+}
+
+ActionSink *actionSink()
+{
+    return g_sink;
+}
+
+bool replayAction(CPSRootObject *object, int actionId, const QByteArray &payload)
+{
+    QDataStream in(payload);
+    // Objects answer for their own kinds only and do not ask the base class.
+    return isHostAction(actionId) ? object->CPSRootObject::DoPlaybackActionEx(actionId, in)
+                                  : object->DoPlaybackActionEx(actionId, in);
+}
+
+} // namespace pagehost
