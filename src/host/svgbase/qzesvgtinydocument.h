@@ -95,5 +95,6 @@ public:
 
 private:
     explicit QZeSvgTinyDocument(std::unique_ptr<QZeSvgNodePrivate> record);
-    friend class QZeSvgNodePrivate;
+    friend class QZeSvgNode;
+    QZeSvgTinyDocument *cloneDocument() const;
 };

@@ -1,0 +1,88 @@
+#include "document/document.h"
+
+#include "document/drawingwalk.h"
+#include "resolve/resolver.h"
+
+namespace Svg {
+
+Document::Document(const Prototype &prototype)
+    : m_tree(prototype.tree)
+    , m_facts(prototype.facts)
+{
+}
+
+bool Document::isCurrent(NodeIndex index, const FactsPointer &above) const
+{
+    const FactsPointer &facts = m_facts.at(index);
+    if (!facts || facts->parent != above)
+        return false;
+    return facts->referenceRevision == 0 || facts->referenceRevision == m_referenceRevision;
+}
+
+FactsPointer Document::facts(NodeIndex index)
+{
+    if (!m_changed)
+        return m_facts.at(index);
+    QVarLengthArray<NodeIndex, 16> chain;
+    for (NodeIndex at = index; at != noNode; at = m_tree.node(at).parent)
+        chain.append(at);
+    FactsPointer above;
+    for (int i = chain.size() - 1; i >= 0; --i)
+        above = factsBelow(chain[i], above);
+    return above;
+}
+
+FactsPointer Document::factsBelow(NodeIndex child, const FactsPointer &above)
+{
+    if (m_changed && !isCurrent(child, above))
+        m_facts[child] = Resolver(m_tree, m_referenceRevision).resolve(child, above);
+    return m_facts.at(child);
+}
+
+QRectF Document::visibleBounds(NodeIndex top)
+{
+    QRectF bounds;
+    bool first = true;
+    walkDrawing(*this, top, [&](NodeIndex, const FactsPointer &facts) {
+        if (!facts->displayed)
+            return false;
+        if (facts->hasGeometry && facts->style.visible) {
+            bounds = first ? facts->bounds : bounds | facts->bounds;
+            first = false;
+        }
+        return true;
+    });
+    return bounds;
+}
+
+StyleOverridePointer Document::stylePointer(NodeIndex index) const
+{
+    return index < m_overrides.size() ? m_overrides.at(index) : StyleOverridePointer();
+}
+
+void Document::setStyleOverride(NodeIndex index, const StyleOverridePointer &override)
+{
+    if (index >= m_overrides.size()) {
+        if (!override)
+            return;
+        m_overrides.resize(m_tree.size());
+    }
+    m_overrides[index] = override;
+    ++m_revision;
+}
+
+void Document::setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke)
+{
+    Node &node = m_tree.edit(index);
+    node.takesFill = takesFill;
+    node.takesStroke = takesStroke;
+}
+
+void Document::structureChanged()
+{
+    ++m_revision;
+    ++m_referenceRevision;
+    m_changed = true;
+}
+
+} // namespace Svg

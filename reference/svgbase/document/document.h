@@ -1,0 +1,60 @@
+#pragma once
+
+#include "document/prototype.h"
+#include "document/styleoverride.h"
+
+namespace Svg {
+
+/// A document that can be changed: elements, their facts, and what document-wide styling put over them. Nodes are
+/// named by index; the public node objects stand in front of this.
+class Document
+{
+public:
+    explicit Document(const Prototype &prototype);
+
+    const Tree &tree() const { return m_tree; }
+    /// Counts every change that could show.
+    quint32 revision() const { return m_revision; }
+    quint32 referenceRevision() const { return m_referenceRevision; }
+
+    /// The facts of a node as of now; what changed since they were last asked for is resolved first.
+    FactsPointer facts(NodeIndex index);
+    /// The same for a child of a node whose facts are at hand.
+    FactsPointer factsBelow(NodeIndex child, const FactsPointer &above);
+    /// Bounds of the visible geometry of a subtree, document units.
+    QRectF visibleBounds(NodeIndex top);
+
+    QString attribute(NodeIndex index, const QString &name) const;
+    void setAttribute(NodeIndex index, const QString &name, const QString &value);
+    void setNumericAttribute(NodeIndex index, const QString &name, double value);
+
+    NodeIndex copySubtree(NodeIndex source);
+    void discardSubtree(NodeIndex top);
+    /// Whether `child` may become a child of `parent`.
+    bool canAppend(NodeIndex parent, NodeIndex child) const;
+    void append(NodeIndex parent, NodeIndex child, const QString &id);
+    void remove(NodeIndex child);
+
+    const StyleOverride *styleOverride(NodeIndex index) const { return stylePointer(index).data(); }
+    void setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke);
+    StyleOverridePointer stylePointer(NodeIndex index) const;
+    void setStyleOverride(NodeIndex index, const StyleOverridePointer &override);
+
+private:
+    bool isCurrent(NodeIndex index, const FactsPointer &above) const;
+    void nodeChanged(NodeIndex index);
+    void structureChanged();
+    void setEllipseBox(NodeIndex index, AttributeId side, double value);
+    void dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value);
+
+    Tree m_tree;
+    QVector<FactsPointer> m_facts;
+    /// By node index; shorter while nothing was styled.
+    QVector<StyleOverridePointer> m_overrides;
+    quint32 m_revision = 0;
+    quint32 m_referenceRevision = 1;
+    /// Whether there was a change since the copy was made, so that facts have to be checked before use.
+    bool m_changed = false;
+};
+
+} // namespace Svg

@@ -1,0 +1,167 @@
+// Attributes of a document's nodes: reading, writing, and what a write puts out of date.
+
+#include "document/document.h"
+
+#include "grammar/numbers.h"
+#include "grammar/styleattribute.h"
+#include "resolve/geometry.h"
+
+namespace Svg {
+
+namespace {
+
+QString titleOf(const Tree &tree, NodeIndex index)
+{
+    for (NodeIndex child = tree.node(index).firstChild; child != noNode; child = tree.node(child).next) {
+        const Node &node = tree.node(child);
+        if (node.kind == ElementKind::Description && !node.text.isEmpty())
+            return node.text.trimmed();
+    }
+    return QString();
+}
+
+bool isRound(ElementKind kind)
+{
+    return kind == ElementKind::Circle || kind == ElementKind::Ellipse;
+}
+
+bool isBoxSide(AttributeId id)
+{
+    switch (id) {
+    case AttributeId::X:
+    case AttributeId::Y:
+    case AttributeId::Width:
+    case AttributeId::Height:
+    case AttributeId::Rx:
+    case AttributeId::Ry:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Moves or sizes a box with its corner fixed.
+void adjustBox(QRectF &box, AttributeId side, double value)
+{
+    switch (side) {
+    case AttributeId::X:
+        box.moveLeft(value);
+        break;
+    case AttributeId::Y:
+        box.moveTop(value);
+        break;
+    case AttributeId::Width:
+        box.setWidth(qMax(0.0, value));
+        break;
+    case AttributeId::Height:
+        box.setHeight(qMax(0.0, value));
+        break;
+    case AttributeId::Rx:
+        box.setWidth(qMax(0.0, 2 * value));
+        break;
+    case AttributeId::Ry:
+        box.setHeight(qMax(0.0, 2 * value));
+        break;
+    default:
+        break;
+    }
+}
+
+bool setsHeight(AttributeId side)
+{
+    return side == AttributeId::Height || side == AttributeId::Ry;
+}
+
+bool setsSize(AttributeId side)
+{
+    return side != AttributeId::X && side != AttributeId::Y;
+}
+
+} // namespace
+
+QString Document::attribute(NodeIndex index, const QString &name) const
+{
+    const QString value = m_tree.node(index).attributes.value(name);
+    if (value.isEmpty() && name == QLatin1String("title"))
+        return titleOf(m_tree, index);
+    return value;
+}
+
+void Document::setAttribute(NodeIndex index, const QString &name, const QString &value)
+{
+    m_tree.edit(index).attributes.set(name, value);
+    const AttributeId id = attributeId(name);
+    if (id == AttributeId::Unknown)
+        return;
+    if (id == AttributeId::Id) {
+        m_tree.forgetIds();
+        structureChanged();
+    }
+    dropOverriddenStyle(index, id, value);
+    nodeChanged(index);
+}
+
+void Document::nodeChanged(NodeIndex index)
+{
+    ++m_revision;
+    m_changed = true;
+    if (isPaintServerPart(m_tree.node(index).kind))
+        ++m_referenceRevision;
+    // A text is laid out as one, whatever part of it changed.
+    NodeIndex at = index;
+    while (m_tree.node(at).kind == ElementKind::Tspan && m_tree.node(at).parent != noNode)
+        at = m_tree.node(at).parent;
+    m_facts[at].reset();
+    m_facts[index].reset();
+}
+
+void Document::setNumericAttribute(NodeIndex index, const QString &name, double value)
+{
+    if (!qIsFinite(value))
+        return;
+    const AttributeId id = attributeId(name);
+    if (isRound(m_tree.node(index).kind) && isBoxSide(id))
+        setEllipseBox(index, id, value);
+    else
+        setAttribute(index, name, numberText(value));
+}
+
+void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
+{
+    const FactsPointer before = facts(index);
+    QRectF box = ellipseBox(m_tree.node(index), {before->viewport, before->style.font.size});
+    adjustBox(box, side, value);
+    Node &node = m_tree.edit(index);
+    // Kept so that the value reads back as it was written.
+    node.attributes.set(side, numberText(value));
+    if (node.kind == ElementKind::Circle) {
+        if (setsSize(side))
+            box.setSize(setsHeight(side) ? QSizeF(box.height(), box.height()) : QSizeF(box.width(), box.width()));
+        node.attributes.set(AttributeId::R, numberText(box.width() / 2));
+    } else if (setsSize(side)) {
+        node.attributes.set(AttributeId::Rx, numberText(box.width() / 2));
+        node.attributes.set(AttributeId::Ry, numberText(box.height() / 2));
+    }
+    node.attributes.set(AttributeId::Cx, numberText(box.x() + box.width() / 2));
+    node.attributes.set(AttributeId::Cy, numberText(box.y() + box.height() / 2));
+    nodeChanged(index);
+}
+
+void Document::dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value)
+{
+    StyleOverridePointer override = stylePointer(index);
+    if (!override)
+        return;
+    if (attribute == AttributeId::Style) {
+        const QVector<StyleDeclaration> declarations = parseStyleAttribute(value);
+        for (const StyleDeclaration &declaration : declarations) {
+            if (override)
+                override = withoutProperty(override, attributeId(declaration.name));
+        }
+    } else {
+        override = withoutProperty(override, attribute);
+    }
+    setStyleOverride(index, override);
+}
+
+} // namespace Svg

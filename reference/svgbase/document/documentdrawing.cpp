@@ -1,0 +1,68 @@
+// Drawing a document onto a painter.
+
+#include "document/documentprivate.h"
+#include "draw/itempainter.h"
+
+#include <QtGui/QPainter>
+
+using namespace Svg;
+
+namespace {
+
+bool isFinite(const QTransform &t)
+{
+    return qIsFinite(t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy());
+}
+
+bool isDrawable(const QRectF &rect)
+{
+    return !rect.isEmpty() && qIsFinite(rect.x() + rect.y() + rect.width() + rect.height());
+}
+
+// Stretches the box over the target and magnifies about the target's centre.
+QTransform stretchTransform(const QRectF &box, const QRectF &target, double scale)
+{
+    const double sx = target.width() / box.width() * scale;
+    const double sy = target.height() / box.height() * scale;
+    const QPointF from = box.center();
+    const QPointF to = target.center();
+    return QTransform(sx, 0, 0, sy, to.x() - from.x() * sx, to.y() - from.y() * sy);
+}
+
+} // namespace
+
+void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool withControlPoints)
+{
+    const QTransform world = painter->worldTransform();
+    if (!isFinite(world))
+        return;
+    if (!m_displayList)
+        m_displayList = std::make_unique<DisplayList>();
+    m_displayList->update(content, stretch, world);
+    painter->setWorldTransform(QTransform());
+    painter->setBrushOrigin(0, 0);
+    paintItems(painter, m_displayList->items());
+    if (withControlPoints)
+        paintItems(painter, m_displayList->controlPoints());
+}
+
+void DocumentPrivate::draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag)
+{
+    lastDraw = {target, scale, viewFlag};
+    const QRectF box = settledViewBox();
+    beforeDraw = false;
+    if (!painter || !painter->isActive() || !isDrawable(target) || !isDrawable(box))
+        return;
+    const QTransform stretch = stretchTransform(box, target, scale);
+    if (!(scale > 0) || !isFinite(stretch))
+        return;
+    painter->save();
+    if (callback) {
+        painter->save();
+        painter->setWorldTransform(stretch, true);
+        callback(painter);
+        painter->restore();
+    }
+    paint(painter, stretch, viewFlag && selectionState == 1);
+    painter->restore();
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "document/document.h"
+#include "document/handles.h"
+#include "draw/displaylist.h"
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+
+/// What stands behind a public document.
+class DocumentPrivate : public QZeSvgNodePrivate
+{
+public:
+    explicit DocumentPrivate(const Svg::Prototype &prototype);
+    /// A copy without node objects.
+    DocumentPrivate(const DocumentPrivate &other);
+    ~DocumentPrivate() override;
+
+    static DocumentPrivate *of(const QZeSvgTinyDocument *document);
+
+    /// The node object of a place; made on first use, the document itself for the root.
+    QZeSvgNode *nodeObject(Svg::NodeIndex index);
+    /// A node object for a copy that its caller owns.
+    QZeSvgNode *looseNode(Svg::NodeIndex index);
+    /// Takes over a node that its caller owned.
+    void adopt(QZeSvgNode *node);
+    /// To be called when a node object dies while the document lives.
+    void nodeDeleted(QZeSvgNodePrivate *node);
+    /// Writes the styling flags of node objects below `top` to the tree, where copies are made from.
+    void storeFlags(Svg::NodeIndex top);
+
+    bool takesFill(Svg::NodeIndex index) const;
+    bool takesStroke(Svg::NodeIndex index) const;
+    /// Replaces the override of every enabled node by what `change` makes of it.
+    void restyle(bool (DocumentPrivate::*enabled)(Svg::NodeIndex) const,
+                 const std::function<void(Svg::StyleOverride *)> &change);
+    /// The first enabled node in document order with a stroke (a fill), definitions and control points aside.
+    Svg::NodeIndex firstStroked();
+    Svg::NodeIndex firstFilled();
+    bool hasAnimations() const;
+    /// Outline and pen of a node as drawn, its override applied; a default one without geometry.
+    Svg::Outline drawnOutline(Svg::NodeIndex index);
+
+    QRectF settledViewBox();
+    void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
+
+    Svg::Document content;
+    QZeSvgTinyDocument *publicDocument = nullptr;
+    QVector<Svg::Message> messages;
+    QRectF viewBox;
+    std::function<void(QPainter *)> callback;
+    /// Document-wide values as last set.
+    Svg::StyleOverride lastSet;
+    QZeSvgTinyDocument::DrawRecord lastDraw;
+    int selectionState = 0;
+    bool beforeDraw = false;
+    bool animationRunning = false;
+
+private:
+    Svg::NodeIndex firstStyled(const std::function<bool(Svg::NodeIndex)> &wanted) const;
+    void paint(QPainter *painter, const QTransform &stretch, bool withControlPoints);
+
+    QHash<Svg::NodeIndex, QZeSvgNode *> m_nodes;
+    /// Copies that are in no document yet; their callers delete them.
+    QSet<Svg::NodeIndex> m_loose;
+    std::unique_ptr<Svg::DisplayList> m_displayList;
+};

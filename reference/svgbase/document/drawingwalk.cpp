@@ -1,0 +1,150 @@
+#include "document/drawingwalk.h"
+
+#include "document/document.h"
+#include "grammar/paints.h"
+#include "inputlimits.h"
+#include "resolve/resolver.h"
+
+namespace Svg {
+
+namespace {
+
+/// A node whose children are being visited.
+struct Level
+{
+    NodeIndex node = noNode;
+    FactsPointer facts;
+    NodeIndex nextChild = noNode;
+    /// Only the next child is visited, not its siblings.
+    bool single = false;
+    /// Inside something used: facts depend on the place.
+    bool used = false;
+};
+
+class Walk
+{
+public:
+    Walk(Document &document, const DrawingVisitor &visitor)
+        : m_document(document)
+        , m_visitor(visitor)
+    {
+    }
+
+    void run(NodeIndex top);
+
+private:
+    void visit(NodeIndex node, const FactsPointer &facts, bool used);
+    void step();
+    Level childrenOf(NodeIndex node, const FactsPointer &facts, bool used) const;
+    NodeIndex usedNode(const Node &use) const;
+    bool isOpen(NodeIndex node) const;
+    FactsPointer factsOf(NodeIndex node, const Level &level) const;
+
+    Document &m_document;
+    const DrawingVisitor &m_visitor;
+    QVector<Level> m_levels;
+    int m_useDepth = 0;
+    int m_instances = 0;
+};
+
+bool Walk::isOpen(NodeIndex node) const
+{
+    return std::any_of(m_levels.begin(), m_levels.end(), [node](const Level &level) { return level.node == node; });
+}
+
+NodeIndex Walk::usedNode(const Node &use) const
+{
+    QString id = localReference(use.attributes.value(AttributeId::Href));
+    if (id.isEmpty())
+        id = localReference(use.attributes.value(AttributeId::XlinkHref));
+    const NodeIndex target = m_document.tree().findId(id);
+    if (target == noNode || target == rootNode || isOpen(target) || m_useDepth >= Limits::useDepth)
+        return noNode;
+    const ElementKind kind = m_document.tree().node(target).kind;
+    return isDrawable(kind) || kind == ElementKind::Symbol ? target : noNode;
+}
+
+NodeIndex firstDrawableChild(const Tree &tree, NodeIndex parent)
+{
+    NodeIndex child = tree.node(parent).firstChild;
+    while (child != noNode && !isDrawable(tree.node(child).kind))
+        child = tree.node(child).next;
+    return child;
+}
+
+Level Walk::childrenOf(NodeIndex index, const FactsPointer &facts, bool used) const
+{
+    const Node &node = m_document.tree().node(index);
+    Level level{index, facts, noNode, false, used};
+    if (node.kind == ElementKind::Use) {
+        level.nextChild = usedNode(node);
+        level.single = level.used = true;
+    } else if (node.kind == ElementKind::Switch) {
+        level.nextChild = firstDrawableChild(m_document.tree(), index);
+        level.single = true;
+    } else if (isStructure(node.kind)) {
+        level.nextChild = node.firstChild;
+    }
+    return level;
+}
+
+FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
+{
+    if (!level.used)
+        return m_document.factsBelow(node, level.facts);
+    return Resolver(m_document.tree(), m_document.referenceRevision()).resolve(node, level.facts);
+}
+
+void Walk::visit(NodeIndex node, const FactsPointer &facts, bool used)
+{
+    if (!m_visitor.enter(node, facts))
+        return;
+    m_levels.append(childrenOf(node, facts, used));
+    if (m_document.tree().node(node).kind == ElementKind::Use)
+        ++m_useDepth;
+}
+
+void Walk::step()
+{
+    Level &level = m_levels.last();
+    const NodeIndex child = level.nextChild;
+    if (child == noNode) {
+        const Level done = m_levels.takeLast();
+        if (m_document.tree().node(done.node).kind == ElementKind::Use)
+            --m_useDepth;
+        if (m_visitor.leave)
+            m_visitor.leave(done.node, done.facts);
+        return;
+    }
+    const Node &node = m_document.tree().node(child);
+    const bool direct = m_document.tree().node(level.node).kind == ElementKind::Use;
+    level.nextChild = level.single ? noNode : node.next;
+    if (!isDrawable(node.kind) && !direct)
+        return;
+    if (level.used && ++m_instances > Limits::useInstances)
+        return;
+    const bool used = level.used;
+    visit(child, factsOf(child, level), used);
+}
+
+void Walk::run(NodeIndex top)
+{
+    visit(top, m_document.facts(top), false);
+    while (!m_levels.isEmpty())
+        step();
+}
+
+} // namespace
+
+void walkDrawing(Document &document, NodeIndex top, const DrawingVisitor &visitor)
+{
+    Walk(document, visitor).run(top);
+}
+
+void walkDrawing(Document &document, NodeIndex top,
+                 const std::function<bool(NodeIndex, const FactsPointer &)> &enter)
+{
+    walkDrawing(document, top, DrawingVisitor{enter, {}});
+}
+
+} // namespace Svg

@@ -1,0 +1,64 @@
+#include "document/styleoverride.h"
+
+#include "resolve/pens.h"
+
+namespace Svg {
+
+namespace {
+
+bool isEmpty(const StyleOverride &override)
+{
+    return !override.strokeColor && !override.strokeStyle && !override.strokeWidth && !override.fill;
+}
+
+Stroke effectiveStroke(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
+{
+    const QBrush paint = override.strokeColor ? QBrush(*override.strokeColor) : outline.strokePaint;
+    return {paint, override.strokeWidth.value_or(style.strokeWidth), override.strokeStyle};
+}
+
+} // namespace
+
+double effectiveStrokeWidth(const Facts &facts, const StyleOverride *override)
+{
+    if (facts.outlines.isEmpty())
+        return 0;
+    const Outline &outline = facts.outlines.first();
+    const QPen pen =
+        override ? strokePen(facts.style, effectiveStroke(outline, facts.style, *override)) : outline.pen;
+    return pen.style() == Qt::NoPen ? 0 : pen.widthF();
+}
+
+Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
+{
+    Outline result = outline;
+    if (override.fill)
+        result.fill = *override.fill;
+    result.pen = strokePen(style, effectiveStroke(outline, style, override));
+    return result;
+}
+
+StyleOverridePointer withoutProperty(const StyleOverridePointer &override, AttributeId property)
+{
+    auto *left = new StyleOverride(*override);
+    const StyleOverridePointer result(left);
+    switch (property) {
+    case AttributeId::Fill:
+        left->fill.reset();
+        break;
+    case AttributeId::Stroke:
+        left->strokeColor.reset();
+        break;
+    case AttributeId::StrokeDasharray:
+        left->strokeStyle.reset();
+        break;
+    case AttributeId::StrokeWidth:
+        left->strokeWidth.reset();
+        break;
+    default:
+        break;
+    }
+    return isEmpty(*left) ? StyleOverridePointer() : result;
+}
+
+} // namespace Svg

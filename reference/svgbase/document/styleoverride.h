@@ -1,0 +1,30 @@
+#pragma once
+
+#include "resolve/facts.h"
+#include "tree/attributes.h"
+
+#include <optional>
+
+namespace Svg {
+
+/// What document-wide styling put in the place of a node's own paint. Nodes that were reached by the same calls
+/// share one.
+struct StyleOverride : QSharedData
+{
+    std::optional<QColor> strokeColor;
+    std::optional<Qt::PenStyle> strokeStyle;
+    std::optional<double> strokeWidth;
+    std::optional<QBrush> fill;
+};
+
+using StyleOverridePointer = QExplicitlySharedDataPointer<const StyleOverride>;
+
+/// The stroke width that counts, user units; 0 when nothing is stroked.
+double effectiveStrokeWidth(const Facts &facts, const StyleOverride *override);
+/// An outline with its pen and fill replaced as far as the override says.
+Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override);
+/// The override that is left after the node itself was given `property`: the later word counts. Null when nothing
+/// is.
+StyleOverridePointer withoutProperty(const StyleOverridePointer &override, AttributeId property);
+
+} // namespace Svg

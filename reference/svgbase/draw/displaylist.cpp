@@ -1,0 +1,67 @@
+#include "draw/displaylist.h"
+
+#include "draw/itemmapping.h"
+#include "draw/listbuilder.h"
+
+namespace Svg {
+
+namespace {
+
+bool hasSameOrigin(const DisplayItem &a, const DisplayItem &b)
+{
+    return a.kind == b.kind && a.node == b.node && a.outline == b.outline && a.facts == b.facts &&
+           a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre;
+}
+
+// Takes over the mapped outlines of items that stand where they stood.
+void keepMapped(QVector<DisplayItem> *fresh, QVector<DisplayItem> *old)
+{
+    const int common = qMin(fresh->size(), old->size());
+    for (int i = 0; i < common; ++i) {
+        if (hasSameOrigin(fresh->at(i), old->at(i)))
+            (*fresh)[i] = std::move((*old)[i]);
+    }
+}
+
+void forgetMapping(QVector<DisplayItem> *items)
+{
+    for (DisplayItem &item : *items)
+        item.mapped = false;
+}
+
+} // namespace
+
+void DisplayList::map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const
+{
+    for (DisplayItem &item : *items) {
+        if (item.kind == DisplayItem::Shape && !item.mapped)
+            mapItem(&item, stretch, world);
+    }
+}
+
+void DisplayList::update(Document &document, const QTransform &stretch, const QTransform &world)
+{
+    const bool sameMapping = m_built && m_stretch == stretch && m_world == world;
+    const bool sameContent = m_built && m_revision == document.revision();
+    if (sameMapping && sameContent)
+        return;
+    if (!sameMapping) {
+        forgetMapping(&m_items);
+        forgetMapping(&m_controlPoints);
+    }
+    if (!sameContent) {
+        BuiltList built = buildList(document);
+        keepMapped(&built.items, &m_items);
+        keepMapped(&built.controlPoints, &m_controlPoints);
+        m_items = built.items;
+        m_controlPoints = built.controlPoints;
+    }
+    map(&m_items, stretch, world);
+    map(&m_controlPoints, stretch, world);
+    m_stretch = stretch;
+    m_world = world;
+    m_revision = document.revision();
+    m_built = true;
+}
+
+} // namespace Svg

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "document/document.h"
+
+namespace Svg {
+
+/// One thing to paint, with its outline and pens mapped to the painter's coordinates.
+struct DisplayItem
+{
+    enum Kind { Shape, BeginLayer, EndLayer };
+    Kind kind = Shape;
+    /// Where the item comes from; the same origin under the same mapping gives the same picture.
+    NodeIndex node = noNode;
+    FactsPointer facts;
+    StyleOverridePointer override;
+    int outline = 0;
+    /// Of a layer, or of a shape that is not painted into a layer of its own.
+    double opacity = 1;
+    /// A control point is counter-scaled about its centre, document units.
+    bool control = false;
+    QPointF controlCentre;
+
+    bool mapped = false;
+    QPainterPath path;
+    QBrush fill;
+    QPen pen;
+    /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
+    QPainterPath strokePath;
+    /// Everything that the item paints, painter coordinates.
+    QRectF bounds;
+};
+
+/// What a document amounts to under one mapping: a flat list to paint from front to back. Items whose origin did
+/// not change keep their mapped outlines.
+class DisplayList
+{
+public:
+    /// Brings the list up to date. `stretch` maps the document to the target, `world` the target to the painter's
+    /// coordinates; control points keep their size under the first.
+    void update(Document &document, const QTransform &stretch, const QTransform &world);
+
+    const QVector<DisplayItem> &items() const { return m_items; }
+    const QVector<DisplayItem> &controlPoints() const { return m_controlPoints; }
+
+private:
+    void map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const;
+
+    QVector<DisplayItem> m_items;
+    QVector<DisplayItem> m_controlPoints;
+    QTransform m_stretch;
+    QTransform m_world;
+    quint32 m_revision = 0;
+    bool m_built = false;
+};
+
+} // namespace Svg

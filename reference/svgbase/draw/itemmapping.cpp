@@ -1,0 +1,140 @@
+#include "draw/itemmapping.h"
+
+#include "inputlimits.h"
+
+#include <QtCore/QtMath>
+#include <QtGui/QPainterPathStroker>
+
+#include <numeric>
+
+namespace Svg {
+
+namespace {
+
+/// Relative difference below which two scales count as one.
+constexpr double scaleTolerance = 1e-6;
+/// How far a flattened curve may stray, painter units; what Qt's painters use.
+constexpr double curveThreshold = 0.25;
+
+// A control point is moved to where its centre goes, but keeps its size in document units.
+QTransform aboutCentre(const QPointF &centre, const QTransform &stretch)
+{
+    const QPointF place = stretch.map(centre);
+    return QTransform::fromTranslate(place.x() - centre.x(), place.y() - centre.y());
+}
+
+QTransform itemTransform(const DisplayItem &item, const QTransform &stretch, const QTransform &world)
+{
+    const QTransform placed = item.control ? aboutCentre(item.controlCentre, stretch) : stretch;
+    return item.facts->toDocument * placed * world;
+}
+
+bool keepsShapes(const QTransform &t)
+{
+    const double first = t.m11() * t.m11() + t.m12() * t.m12();
+    const double second = t.m21() * t.m21() + t.m22() * t.m22();
+    const double product = t.m11() * t.m21() + t.m12() * t.m22();
+    const double tolerance = scaleTolerance * qMax(first, second);
+    return qAbs(first - second) <= tolerance && qAbs(product) <= tolerance;
+}
+
+double meanScale(const QTransform &t)
+{
+    return std::sqrt(qAbs(t.m11() * t.m22() - t.m12() * t.m21()));
+}
+
+QBrush mappedBrush(const QBrush &brush, const QTransform &transform)
+{
+    const QGradient *gradient = brush.gradient();
+    const bool relative = gradient && gradient->coordinateMode() != QGradient::LogicalMode;
+    if (brush.style() <= Qt::SolidPattern || relative)
+        return brush;
+    QBrush mapped = brush;
+    mapped.setTransform(brush.transform() * transform);
+    return mapped;
+}
+
+double controlPolygonLength(const QPainterPath &path)
+{
+    double length = 0;
+    for (int i = 1; i < path.elementCount(); ++i) {
+        const QPointF step = QPointF(path.elementAt(i)) - QPointF(path.elementAt(i - 1));
+        length += std::hypot(step.x(), step.y());
+    }
+    return length;
+}
+
+// A dash far below the size of a pixel costs time without end and shows nothing.
+bool hasTooManyDashes(const QPen &pen, const QPainterPath &path)
+{
+    if (pen.style() == Qt::SolidLine)
+        return false;
+    const QVector<qreal> pattern = pen.dashPattern();
+    const double period = std::accumulate(pattern.constBegin(), pattern.constEnd(), 0.0) * pen.widthF();
+    return !(controlPolygonLength(path) * pattern.size() <= period * Limits::dashes);
+}
+
+QPen boundedPen(const QPen &pen, const QPainterPath &path)
+{
+    if (!hasTooManyDashes(pen, path))
+        return pen;
+    QPen solid = pen;
+    solid.setStyle(Qt::SolidLine);
+    return solid;
+}
+
+// Not shared with the facts: painting stores things in a path, and other threads may paint from the same facts.
+QPainterPath mappedPath(const QPainterPath &path, const QTransform &transform)
+{
+    if (!transform.isIdentity())
+        return transform.map(path);
+    QPainterPath copy;
+    copy.setFillRule(path.fillRule());
+    copy.addPath(path);
+    return copy;
+}
+
+double strokeReach(const QPen &pen)
+{
+    const double miter = pen.joinStyle() == Qt::SvgMiterJoin ? qMax(1.0, pen.miterLimit()) : 1;
+    return pen.widthF() / 2 * qMax(miter, M_SQRT2);
+}
+
+void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, const QTransform &transform)
+{
+    const double scale = meanScale(transform);
+    if (keepsShapes(transform)) {
+        item->pen = pen;
+        item->pen.setBrush(mappedBrush(pen.brush(), transform));
+        item->pen.setWidthF(pen.widthF() * scale);
+        const double reach = strokeReach(item->pen);
+        item->bounds.adjust(-reach, -reach, reach, reach);
+        return;
+    }
+    QPainterPathStroker stroker(pen);
+    stroker.setCurveThreshold(scale > 0 ? curveThreshold / scale : curveThreshold);
+    item->strokePath = transform.map(stroker.createStroke(path));
+    item->strokePath.setFillRule(Qt::WindingFill);
+    item->pen = QPen(Qt::NoPen);
+    item->pen.setBrush(mappedBrush(pen.brush(), transform));
+    item->bounds |= item->strokePath.controlPointRect();
+}
+
+} // namespace
+
+void mapItem(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+{
+    const Outline &own = item->facts->outlines.at(item->outline);
+    const Outline outline = item->override ? overridden(own, item->facts->style, *item->override) : own;
+    const QTransform transform = itemTransform(*item, stretch, world);
+    item->path = mappedPath(outline.path, transform);
+    item->bounds = item->path.controlPointRect();
+    item->strokePath = QPainterPath();
+    item->fill = mappedBrush(outline.fill, transform);
+    item->pen = QPen(Qt::NoPen);
+    if (outline.pen.style() != Qt::NoPen)
+        mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
+    item->mapped = true;
+}
+
+} // namespace Svg

@@ -1,0 +1,162 @@
+#include "grammar/colors.h"
+
+#include "grammar/numbers.h"
+
+#include <cmath>
+
+namespace Svg {
+
+namespace {
+
+constexpr int maximumComponents = 4;
+
+struct Component
+{
+    double value = 0;
+    bool percent = false;
+};
+
+struct ColorFunction
+{
+    QLatin1String name;
+    Component components[maximumComponents];
+    int count = 0;
+};
+
+int hexDigit(char c)
+{
+    if (isDigit(c))
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
+std::optional<QColor> hexColor(Cursor cursor)
+{
+    int digits[8];
+    int count = 0;
+    for (; !cursor.atEnd(); ++cursor.at) {
+        const int digit = hexDigit(*cursor.at);
+        if (digit < 0 || count == 8)
+            return std::nullopt;
+        digits[count++] = digit;
+    }
+    int channels[4] = {0, 0, 0, 255};
+    if (count == 3 || count == 4) {
+        for (int i = 0; i < count; ++i)
+            channels[i] = digits[i] * 17;
+    } else if (count == 6 || count == 8) {
+        for (int i = 0; i < count / 2; ++i)
+            channels[i] = digits[2 * i] * 16 + digits[2 * i + 1];
+    } else {
+        return std::nullopt;
+    }
+    return QColor(channels[0], channels[1], channels[2], channels[3]);
+}
+
+bool readComponent(Cursor &cursor, Component *component)
+{
+    if (!readNumber(cursor, &component->value))
+        return false;
+    component->percent = cursor.take('%');
+    return true;
+}
+
+// Components are separated by commas or spaces, the alpha also by a slash.
+bool readFunction(Cursor cursor, ColorFunction *function)
+{
+    function->name = cursor.takeWord();
+    if (!cursor.take('('))
+        return false;
+    cursor.skipSpace();
+    while (function->count < maximumComponents) {
+        if (!readComponent(cursor, &function->components[function->count]))
+            return false;
+        ++function->count;
+        cursor.skipSpace();
+        if (cursor.take(')')) {
+            cursor.skipSpace();
+            return cursor.atEnd() && function->count >= 3;
+        }
+        if (!cursor.take('/'))
+            cursor.skipCommaSpace();
+        cursor.skipSpace();
+    }
+    return false;
+}
+
+int channel(const Component &component)
+{
+    const double value = component.percent ? component.value * 255 / 100 : component.value;
+    return int(std::lround(qBound(0.0, value, 255.0)));
+}
+
+double fraction(const Component &component)
+{
+    return qBound(0.0, component.percent ? component.value / 100 : component.value, 1.0);
+}
+
+std::optional<QColor> functionColor(const Cursor &cursor)
+{
+    ColorFunction function;
+    if (!readFunction(cursor, &function))
+        return std::nullopt;
+    const Component *c = function.components;
+    const double alpha = function.count == 4 ? fraction(c[3]) : 1;
+    if (function.name == QLatin1String("rgb") || function.name == QLatin1String("rgba")) {
+        QColor color(channel(c[0]), channel(c[1]), channel(c[2]));
+        color.setAlphaF(alpha);
+        return color;
+    }
+    if (function.name == QLatin1String("hsl") || function.name == QLatin1String("hsla")) {
+        const double turn = c[0].value / 360 - std::floor(c[0].value / 360);
+        return QColor::fromHslF(qBound(0.0, turn, 1.0), fraction(c[1]), fraction(c[2]), alpha).toRgb();
+    }
+    return std::nullopt;
+}
+
+std::optional<QColor> namedColor(QStringView name)
+{
+    if (name.compare(QLatin1String("transparent"), Qt::CaseInsensitive) == 0)
+        return QColor(0, 0, 0, 0);
+    // Qt's list of names is SVG's.
+    const QColor color(name.toString());
+    if (!color.isValid())
+        return std::nullopt;
+    return color;
+}
+
+} // namespace
+
+std::optional<QColor> parseColor(QStringView text)
+{
+    const QStringView trimmed = text.trimmed();
+    const Latin1Text bytes(trimmed);
+    Cursor cursor = bytes.cursor();
+    if (cursor.take('#'))
+        return hexColor(cursor);
+    Cursor afterName = cursor;
+    afterName.takeWord();
+    if (afterName.at == cursor.at)
+        return std::nullopt;
+    return afterName.atEnd() ? namedColor(trimmed) : functionColor(cursor);
+}
+
+std::optional<double> parseOpacity(QStringView text)
+{
+    const Latin1Text bytes(text);
+    Cursor cursor = bytes.cursor();
+    Component component;
+    cursor.skipSpace();
+    if (!readComponent(cursor, &component))
+        return std::nullopt;
+    cursor.skipSpace();
+    if (!cursor.atEnd())
+        return std::nullopt;
+    return fraction(component);
+}
+
+} // namespace Svg

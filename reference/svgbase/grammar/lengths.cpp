@@ -1,0 +1,114 @@
+#include "grammar/lengths.h"
+
+#include "grammar/numbers.h"
+#include "inputlimits.h"
+
+#include <QtCore/QtMath>
+
+namespace Svg {
+
+namespace {
+
+struct UnitName
+{
+    QLatin1String name;
+    Unit unit;
+    double factor;
+};
+
+constexpr double pixelsPerInch = 96;
+constexpr double centimetresPerInch = 2.54;
+/// Height of a lower-case x where a font does not tell, in font sizes.
+constexpr double exPerEm = 0.5;
+
+constexpr UnitName unitNames[] = {
+    {QLatin1String("px"), Unit::User, 1},
+    {QLatin1String("pt"), Unit::User, pixelsPerInch / 72},
+    {QLatin1String("pc"), Unit::User, pixelsPerInch / 6},
+    {QLatin1String("mm"), Unit::User, pixelsPerInch / centimetresPerInch / 10},
+    {QLatin1String("cm"), Unit::User, pixelsPerInch / centimetresPerInch},
+    {QLatin1String("in"), Unit::User, pixelsPerInch},
+    {QLatin1String("em"), Unit::Em, 1},
+    {QLatin1String("ex"), Unit::Ex, 1},
+};
+
+bool readUnit(Cursor &cursor, Length *length)
+{
+    if (cursor.take('%')) {
+        length->unit = Unit::Percent;
+        return true;
+    }
+    const QLatin1String word = cursor.takeWord();
+    if (word.isEmpty())
+        return true;
+    for (const UnitName &known : unitNames) {
+        if (word.compare(known.name, Qt::CaseInsensitive) != 0)
+            continue;
+        length->unit = known.unit;
+        length->value *= known.factor;
+        return true;
+    }
+    return false;
+}
+
+double percentageBase(Axis axis, const QSizeF &viewport)
+{
+    switch (axis) {
+    case Axis::Horizontal:
+        return viewport.width();
+    case Axis::Vertical:
+        return viewport.height();
+    case Axis::Diagonal:
+        break;
+    }
+    return std::hypot(viewport.width(), viewport.height()) / M_SQRT2;
+}
+
+double unbounded(const Length &length, Axis axis, const LengthContext &context)
+{
+    switch (length.unit) {
+    case Unit::User:
+        break;
+    case Unit::Percent:
+        return length.value / 100 * percentageBase(axis, context.viewport);
+    case Unit::Em:
+        return length.value * context.fontSize;
+    case Unit::Ex:
+        return length.value * context.fontSize * exPerEm;
+    }
+    return length.value;
+}
+
+} // namespace
+
+bool readLength(Cursor &cursor, Length *length)
+{
+    Length result;
+    Cursor probe = cursor;
+    if (!readNumber(probe, &result.value) || !readUnit(probe, &result))
+        return false;
+    *length = result;
+    cursor = probe;
+    return true;
+}
+
+std::optional<Length> parseLength(QStringView text)
+{
+    const Latin1Text bytes(text);
+    Cursor cursor = bytes.cursor();
+    Length length;
+    cursor.skipSpace();
+    if (!readLength(cursor, &length))
+        return std::nullopt;
+    cursor.skipSpace();
+    if (!cursor.atEnd())
+        return std::nullopt;
+    return length;
+}
+
+double toUserUnits(const Length &length, Axis axis, const LengthContext &context)
+{
+    return qBound(-Limits::coordinate, unbounded(length, axis, context), Limits::coordinate);
+}
+
+} // namespace Svg

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "grammar/cursor.h"
+
+#include <QtCore/QSizeF>
+
+#include <optional>
+
+namespace Svg {
+
+/// What a length's number counts. Absolute units are turned into user units (px) when they are read.
+enum class Unit { User, Percent, Em, Ex };
+
+/// The side of the viewport that percentages refer to.
+enum class Axis { Horizontal, Vertical, Diagonal };
+
+/// A length (SVG 1.1 §4.2).
+struct Length
+{
+    double value = 0;
+    Unit unit = Unit::User;
+};
+
+/// What relative units are relative to; user units.
+struct LengthContext
+{
+    QSizeF viewport;
+    double fontSize = 16;
+};
+
+bool readLength(Cursor &cursor, Length *length);
+/// Text that is one length, white space around it aside.
+std::optional<Length> parseLength(QStringView text);
+/// The length in user units, held inside the range of drawable coordinates.
+double toUserUnits(const Length &length, Axis axis, const LengthContext &context);
+
+} // namespace Svg

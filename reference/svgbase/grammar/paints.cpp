@@ -1,0 +1,68 @@
+#include "grammar/paints.h"
+
+#include "grammar/colors.h"
+
+namespace Svg {
+
+namespace {
+
+const QLatin1String referenceStart("url(");
+
+std::optional<Paint> plainPaint(QStringView text)
+{
+    Paint paint;
+    if (text == QLatin1String("none")) {
+        paint.kind = Paint::None;
+        return paint;
+    }
+    if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0) {
+        paint.kind = Paint::CurrentColor;
+        return paint;
+    }
+    const std::optional<QColor> color = parseColor(text);
+    if (!color)
+        return std::nullopt;
+    paint.kind = Paint::Color;
+    paint.color = *color;
+    return paint;
+}
+
+QStringView unquoted(QStringView text)
+{
+    const QStringView trimmed = text.trimmed();
+    if (trimmed.size() < 2)
+        return trimmed;
+    const QChar quote = trimmed.front();
+    if ((quote != QLatin1Char('"') && quote != QLatin1Char('\'')) || trimmed.back() != quote)
+        return trimmed;
+    return trimmed.mid(1, trimmed.size() - 2);
+}
+
+} // namespace
+
+QString localReference(QStringView text)
+{
+    const QStringView trimmed = text.trimmed();
+    if (!trimmed.startsWith(QLatin1Char('#')))
+        return QString();
+    return trimmed.mid(1).toString();
+}
+
+std::optional<Paint> parsePaint(QStringView text)
+{
+    const QStringView trimmed = text.trimmed();
+    if (!trimmed.startsWith(referenceStart))
+        return plainPaint(trimmed);
+    const qsizetype end = trimmed.indexOf(QLatin1Char(')'));
+    if (end < 0)
+        return std::nullopt;
+    Paint paint;
+    paint.kind = Paint::Server;
+    paint.server = localReference(unquoted(trimmed.mid(referenceStart.size(), end - referenceStart.size())));
+    const std::optional<Paint> fallback = plainPaint(trimmed.mid(end + 1).trimmed());
+    if (fallback && fallback->kind == Paint::Color)
+        paint.color = fallback->color;
+    return paint;
+}
+
+} // namespace Svg

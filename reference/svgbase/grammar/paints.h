@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtGui/QColor>
+
+#include <optional>
+
+namespace Svg {
+
+/// What a "fill" or a "stroke" asks for (SVG 1.1 §11.2).
+struct Paint
+{
+    enum Kind {
+        /// Never mentioned: draws nothing, as `None` does, but document-wide styling may still reach it.
+        Unset,
+        None,
+        Color,
+        /// "currentColor"; replaced by a colour once the "color" property is known.
+        CurrentColor,
+        /// A gradient; `color` is used where it can't be found, if it is valid.
+        Server
+    };
+    Kind kind = Unset;
+    QColor color;
+    QString server;
+};
+
+/// Nothing when the text is no paint.
+std::optional<Paint> parsePaint(QStringView text);
+/// The id in a reference of the form "#id"; empty for anything else.
+QString localReference(QStringView text);
+
+} // namespace Svg

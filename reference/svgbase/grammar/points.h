@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtCore/QStringView>
+#include <QtGui/QPolygonF>
+
+namespace Svg {
+
+/// The "points" of a polygon or polyline (SVG 1.1 §9.7).
+struct Points
+{
+    /// Every pair before the first error, user units.
+    QPolygonF points;
+    bool complete = true;
+};
+
+Points parsePoints(QStringView text);
+
+} // namespace Svg

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QtCore/QStringView>
+#include <QtGui/QTransform>
+
+#include <optional>
+
+namespace Svg {
+
+/// A list of transform functions (SVG 1.1 §7.6); the last of the list is applied to a point first. Nothing when the
+/// text breaks the grammar or the result is not finite.
+std::optional<QTransform> parseTransform(QStringView text);
+
+} // namespace Svg

@@ -1,0 +1,86 @@
+#include "grammar/viewboxes.h"
+
+#include "grammar/numbers.h"
+#include "inputlimits.h"
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+struct Alignment
+{
+    QLatin1String name;
+    double share;
+};
+
+constexpr Alignment alignments[] = {
+    {QLatin1String("Min"), 0},
+    {QLatin1String("Mid"), 0.5},
+    {QLatin1String("Max"), 1},
+};
+
+bool parseShare(QStringView text, double *share)
+{
+    for (const Alignment &alignment : alignments) {
+        if (text == alignment.name) {
+            *share = alignment.share;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool parseAlignment(QStringView word, AspectRatio *ratio)
+{
+    if (word == QLatin1String("none")) {
+        ratio->stretch = true;
+        return true;
+    }
+    if (word.size() != 8 || word[0] != QLatin1Char('x') || word[4] != QLatin1Char('Y'))
+        return false;
+    return parseShare(word.mid(1, 3), &ratio->alignX) && parseShare(word.mid(5, 3), &ratio->alignY);
+}
+
+} // namespace
+
+std::optional<QRectF> parseViewBox(QStringView text)
+{
+    const std::optional<QVector<double>> numbers = parseNumberList(text);
+    if (!numbers || numbers->size() != 4)
+        return std::nullopt;
+    const auto drawable = [](double value) { return qAbs(value) <= Limits::coordinate; };
+    if (!std::all_of(numbers->begin(), numbers->end(), drawable) || numbers->at(2) < 0 || numbers->at(3) < 0)
+        return std::nullopt;
+    return QRectF(numbers->at(0), numbers->at(1), numbers->at(2), numbers->at(3));
+}
+
+AspectRatio parseAspectRatio(QStringView text)
+{
+    AspectRatio ratio;
+    const QStringView trimmed = text.trimmed();
+    const qsizetype space = trimmed.indexOf(QLatin1Char(' '));
+    const QStringView rest = space < 0 ? QStringView() : trimmed.mid(space + 1).trimmed();
+    if (!parseAlignment(space < 0 ? trimmed : trimmed.left(space), &ratio))
+        return AspectRatio();
+    ratio.slice = rest == QLatin1String("slice");
+    if (!rest.isEmpty() && !ratio.slice && rest != QLatin1String("meet"))
+        return AspectRatio();
+    return ratio;
+}
+
+std::optional<QTransform> viewBoxTransform(const QRectF &viewBox, const QRectF &viewport, const AspectRatio &ratio)
+{
+    if (viewBox.isEmpty() || viewport.isEmpty())
+        return std::nullopt;
+    double sx = viewport.width() / viewBox.width();
+    double sy = viewport.height() / viewBox.height();
+    if (!ratio.stretch)
+        sx = sy = ratio.slice ? std::max(sx, sy) : std::min(sx, sy);
+    const double x = viewport.x() + (viewport.width() - sx * viewBox.width()) * ratio.alignX;
+    const double y = viewport.y() + (viewport.height() - sy * viewBox.height()) * ratio.alignY;
+    return QTransform(sx, 0, 0, sy, x - sx * viewBox.x(), y - sy * viewBox.y());
+}
+
+} // namespace Svg

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+/// Bounds that keep the cost of any input finite. docs/svg-support.md lists them for template authors.
+namespace Svg::Limits {
+
+/// Longest text that load() accepts, bytes.
+constexpr int textBytes = 16 * 1024 * 1024;
+/// Deepest nesting of elements, the root being 1.
+constexpr int depth = 512;
+/// Most elements of a document, whether drawn or not.
+constexpr int elements = 200000;
+/// Most attributes of one element; Qt's reader compares each with all others.
+constexpr int attributes = 256;
+/// Most namespace declarations in force at one element; Qt's reader searches them one by one.
+constexpr int namespaceDeclarations = 64;
+/// Most segments of one path; an arc counts as one.
+constexpr int pathSegments = 32767;
+/// Longest chain of "href" between gradients.
+constexpr int gradientReferences = 32;
+/// Deepest nesting of "use" in "use".
+constexpr int useDepth = 32;
+/// Most nodes that all "use" elements of a document add to a drawing.
+constexpr int useInstances = 20000;
+/// Most characters of one document that become outlines.
+constexpr int textCharacters = 65536;
+/// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.
+constexpr double coordinate = 1e9;
+/// Widest stroke, user units.
+constexpr double strokeWidth = 1e6;
+/// Most dashes along one outline; above it the stroke is drawn solid.
+constexpr double dashes = 20000;
+/// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
+constexpr int layerDepth = 16;
+/// Most pixels that one drawing paints aside, all groups together.
+constexpr double layerPixels = 64.0 * 1024 * 1024;
+/// Most messages that a document keeps.
+constexpr int messages = 100;
+
+} // namespace Svg::Limits

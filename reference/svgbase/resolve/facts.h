@@ -1,0 +1,49 @@
+#pragma once
+
+#include "style/computedstyle.h"
+
+#include <QtCore/QRectF>
+#include <QtCore/QSharedData>
+#include <QtGui/QBrush>
+#include <QtGui/QPainterPath>
+#include <QtGui/QPen>
+#include <QtGui/QTransform>
+
+namespace Svg {
+
+struct Facts;
+using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
+
+/// One outline with the paint that fills and strokes it; user units of its element.
+struct Outline
+{
+    QPainterPath path;
+    QBrush fill = Qt::NoBrush;
+    /// What the pen paints with; known even where the pen draws nothing, since document-wide styling may widen it.
+    QBrush strokePaint = Qt::NoBrush;
+    QPen pen = Qt::NoPen;
+};
+
+/// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
+/// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
+/// resolved against.
+struct Facts : QSharedData
+{
+    FactsPointer parent;
+    /// Counts changes of gradients and references; 0 when none of them matters here.
+    quint32 referenceRevision = 0;
+    ComputedStyle style;
+    /// What percentages refer to, user units.
+    QSizeF viewport;
+    QTransform toDocument;
+    /// Whether neither the element nor one above it has a "display" of none.
+    bool displayed = true;
+    /// One for most elements, one per differently painted part for text; none for an element without geometry.
+    QVector<Outline> outlines;
+    /// Bounds of the geometry without strokes: user units, document units. Null without geometry.
+    QRectF localBounds;
+    QRectF bounds;
+    bool hasGeometry = false;
+};
+
+} // namespace Svg

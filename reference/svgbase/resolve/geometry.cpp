@@ -1,0 +1,146 @@
+#include "resolve/geometry.h"
+
+#include "grammar/pathdata.h"
+#include "grammar/points.h"
+
+namespace Svg {
+
+namespace {
+
+Geometry rectGeometry(const LengthReader &lengths)
+{
+    const QRectF rect(
+        lengths.value(AttributeId::X, Axis::Horizontal), lengths.value(AttributeId::Y, Axis::Vertical),
+        lengths.size(AttributeId::Width, Axis::Horizontal), lengths.size(AttributeId::Height, Axis::Vertical));
+    Geometry geometry{QPainterPath(), rect, true};
+    if (rect.isEmpty())
+        return geometry;
+    // A radius that is absent takes the other's value (SVG 1.1 §9.2).
+    const double ry = lengths.size(AttributeId::Ry, Axis::Vertical);
+    const double rx = lengths.size(AttributeId::Rx, Axis::Horizontal, ry);
+    const double radiusX = qMin(rx, rect.width() / 2);
+    const double radiusY = qMin(lengths.has(AttributeId::Ry) ? ry : rx, rect.height() / 2);
+    if (radiusX > 0 && radiusY > 0)
+        geometry.path.addRoundedRect(rect, radiusX, radiusY);
+    else
+        geometry.path.addRect(rect);
+    return geometry;
+}
+
+Geometry ellipseGeometry(const QRectF &box)
+{
+    Geometry geometry{QPainterPath(), box, true};
+    if (!box.isEmpty())
+        geometry.path.addEllipse(box);
+    return geometry;
+}
+
+Geometry lineGeometry(const LengthReader &lengths)
+{
+    const QPointF from(lengths.value(AttributeId::X1, Axis::Horizontal),
+                       lengths.value(AttributeId::Y1, Axis::Vertical));
+    const QPointF to(lengths.value(AttributeId::X2, Axis::Horizontal),
+                     lengths.value(AttributeId::Y2, Axis::Vertical));
+    Geometry geometry{QPainterPath(from), QRectF(from, to).normalized(), true};
+    geometry.path.lineTo(to);
+    return geometry;
+}
+
+Geometry pointsGeometry(const Attributes &attributes, bool closed, QString *problem)
+{
+    const Points points = parsePoints(attributes.value(AttributeId::Points));
+    if (!points.complete && problem)
+        *problem = QStringLiteral("The list of points ends at its first error.");
+    if (points.points.isEmpty())
+        return Geometry();
+    Geometry geometry{QPainterPath(points.points.first()), points.points.boundingRect(), true};
+    for (int i = 1; i < points.points.size(); ++i)
+        geometry.path.lineTo(points.points.at(i));
+    if (closed)
+        geometry.path.closeSubpath();
+    return geometry;
+}
+
+QString pathProblem(const PathData &data)
+{
+    if (data.tooLong)
+        return QStringLiteral("The path has too many segments and is cut at character %1.").arg(data.errorAt + 1);
+    return QStringLiteral("The path data ends at an error in character %1.").arg(data.errorAt + 1);
+}
+
+Geometry pathGeometry(const Attributes &attributes, QString *problem)
+{
+    const PathData data = parsePathData(attributes.value(AttributeId::D));
+    if (data.errorAt >= 0 && problem)
+        *problem = pathProblem(data);
+    if (data.path.elementCount() == 0)
+        return Geometry();
+    return {data.path, data.path.boundingRect(), true};
+}
+
+Geometry imageGeometry(const LengthReader &lengths)
+{
+    const QRectF rect(
+        lengths.value(AttributeId::X, Axis::Horizontal), lengths.value(AttributeId::Y, Axis::Vertical),
+        lengths.size(AttributeId::Width, Axis::Horizontal), lengths.size(AttributeId::Height, Axis::Vertical));
+    return {QPainterPath(), rect, true};
+}
+
+} // namespace
+
+double LengthReader::value(AttributeId id, Axis axis, double fallback) const
+{
+    const QString text = m_attributes.value(id);
+    if (text.isEmpty())
+        return fallback;
+    const std::optional<Length> length = parseLength(text);
+    return length ? toUserUnits(*length, axis, m_context) : fallback;
+}
+
+double LengthReader::size(AttributeId id, Axis axis, double fallback) const
+{
+    return qMax(0.0, value(id, axis, fallback));
+}
+
+bool LengthReader::has(AttributeId id) const
+{
+    return parseLength(m_attributes.value(id)).has_value();
+}
+
+QRectF ellipseBox(const Node &node, const LengthContext &context)
+{
+    const LengthReader lengths(node.attributes, context);
+    const bool circle = node.kind == ElementKind::Circle;
+    const double rx =
+        circle ? lengths.size(AttributeId::R, Axis::Diagonal) : lengths.size(AttributeId::Rx, Axis::Horizontal);
+    const double ry = circle ? rx : lengths.size(AttributeId::Ry, Axis::Vertical);
+    const double cx = lengths.value(AttributeId::Cx, Axis::Horizontal);
+    const double cy = lengths.value(AttributeId::Cy, Axis::Vertical);
+    return QRectF(cx - rx, cy - ry, 2 * rx, 2 * ry);
+}
+
+Geometry shapeGeometry(const Node &node, const LengthContext &context, QString *problem)
+{
+    const LengthReader lengths(node.attributes, context);
+    switch (node.kind) {
+    case ElementKind::Rect:
+        return rectGeometry(lengths);
+    case ElementKind::Circle:
+    case ElementKind::Ellipse:
+        return ellipseGeometry(ellipseBox(node, context));
+    case ElementKind::Line:
+        return lineGeometry(lengths);
+    case ElementKind::Polyline:
+        return pointsGeometry(node.attributes, false, problem);
+    case ElementKind::Polygon:
+        return pointsGeometry(node.attributes, true, problem);
+    case ElementKind::Path:
+        return pathGeometry(node.attributes, problem);
+    case ElementKind::Image:
+        return imageGeometry(lengths);
+    default:
+        return Geometry();
+    }
+}
+
+} // namespace Svg

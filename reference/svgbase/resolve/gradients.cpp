@@ -1,0 +1,211 @@
+#include "resolve/gradients.h"
+
+#include "grammar/colors.h"
+#include "grammar/lengths.h"
+#include "grammar/paints.h"
+#include "grammar/transforms.h"
+#include "inputlimits.h"
+#include "style/cascade.h"
+
+#include <QtGui/QTransform>
+
+namespace Svg {
+
+namespace {
+
+/// Stops closer than a painter's colour table can tell apart.
+constexpr double offsetStep = 1e-6;
+
+/// A gradient and those it refers to, nearest first: what one leaves out, the next may say.
+class GradientChain
+{
+public:
+    GradientChain(const Tree &tree, NodeIndex gradient);
+
+    bool isEmpty() const { return m_nodes.isEmpty(); }
+    ElementKind kind() const { return m_tree.node(m_nodes.first()).kind; }
+    QString value(AttributeId id) const;
+    QGradientStops stops(double opacity) const;
+
+private:
+    NodeIndex nodeWithStops() const;
+
+    const Tree &m_tree;
+    QVector<NodeIndex> m_nodes;
+};
+
+bool isGradient(ElementKind kind)
+{
+    return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient;
+}
+
+QString reference(const Attributes &attributes)
+{
+    const QString plain = localReference(attributes.value(AttributeId::Href));
+    return plain.isEmpty() ? localReference(attributes.value(AttributeId::XlinkHref)) : plain;
+}
+
+// A chain that returns to one of its own ends there.
+GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
+    : m_tree(tree)
+{
+    NodeIndex at = gradient;
+    while (at != noNode && isGradient(tree.node(at).kind) && !m_nodes.contains(at) &&
+           m_nodes.size() < Limits::gradientReferences) {
+        m_nodes.append(at);
+        at = tree.findId(reference(tree.node(at).attributes));
+    }
+}
+
+QString GradientChain::value(AttributeId id) const
+{
+    for (const NodeIndex index : m_nodes) {
+        const Attributes &attributes = m_tree.node(index).attributes;
+        if (attributes.contains(id))
+            return attributes.value(id);
+    }
+    return QString();
+}
+
+NodeIndex GradientChain::nodeWithStops() const
+{
+    for (const NodeIndex index : m_nodes) {
+        for (NodeIndex child = m_tree.node(index).firstChild; child != noNode; child = m_tree.node(child).next) {
+            if (m_tree.node(child).kind == ElementKind::Stop)
+                return index;
+        }
+    }
+    return noNode;
+}
+
+QGradientStops GradientChain::stops(double opacity) const
+{
+    QGradientStops stops;
+    const NodeIndex holder = nodeWithStops();
+    if (holder == noNode)
+        return stops;
+    const ComputedStyle initial;
+    const ComputedStyle around = cascade(m_tree.node(holder).attributes, {initial, QSizeF()});
+    for (NodeIndex child = m_tree.node(holder).firstChild; child != noNode; child = m_tree.node(child).next) {
+        const Node &stop = m_tree.node(child);
+        if (stop.kind != ElementKind::Stop)
+            continue;
+        const ComputedStyle style = cascade(stop.attributes, {around, QSizeF()});
+        QColor color = style.stopColor;
+        color.setAlphaF(color.alphaF() * style.stopOpacity * opacity);
+        const double offset = parseOpacity(stop.attributes.value(AttributeId::Offset)).value_or(0);
+        // Offsets never fall back (SVG 1.1 §13.2.4).
+        stops.append({stops.isEmpty() ? offset : qMax(offset, stops.constLast().first), color});
+    }
+    return stops;
+}
+
+// A painter replaces a stop by a second one of the same offset, where SVG has a sharp edge.
+void separate(QGradientStops &stops)
+{
+    for (int i = 1; i < stops.size(); ++i)
+        stops[i].first = qMax(stops[i].first, stops[i - 1].first + offsetStep);
+    double highest = 1;
+    for (int i = stops.size() - 1; i >= 0; --i) {
+        stops[i].first = qMin(stops[i].first, highest);
+        highest = qMax(0.0, stops[i].first - offsetStep);
+    }
+}
+
+/// Lengths of a gradient; percentages are of the bounds or of the viewport, as its units say.
+class GradientLengths
+{
+public:
+    GradientLengths(const GradientChain &chain, const GradientTarget &target)
+        : m_chain(chain)
+        , m_ofBounds(chain.value(AttributeId::GradientUnits) != QLatin1String("userSpaceOnUse"))
+        , m_context{m_ofBounds ? QSizeF(1, 1) : target.viewport, ComputedStyle().font.size}
+    {
+    }
+
+    bool ofBounds() const { return m_ofBounds; }
+    double value(AttributeId id, Axis axis, double fallbackPercent) const
+    {
+        const Length fallback{fallbackPercent, Unit::Percent};
+        return toUserUnits(parseLength(m_chain.value(id)).value_or(fallback), axis, m_context);
+    }
+    double valueOr(AttributeId id, Axis axis, double fallback) const
+    {
+        const std::optional<Length> length = parseLength(m_chain.value(id));
+        return length ? toUserUnits(*length, axis, m_context) : fallback;
+    }
+
+private:
+    const GradientChain &m_chain;
+    bool m_ofBounds;
+    LengthContext m_context;
+};
+
+QGradient::Spread spread(const QString &method)
+{
+    if (method == QLatin1String("reflect"))
+        return QGradient::ReflectSpread;
+    if (method == QLatin1String("repeat"))
+        return QGradient::RepeatSpread;
+    return QGradient::PadSpread;
+}
+
+QBrush finished(QGradient &gradient, const GradientChain &chain, const QGradientStops &stops)
+{
+    gradient.setStops(stops);
+    gradient.setSpread(spread(chain.value(AttributeId::SpreadMethod)));
+    return QBrush(gradient);
+}
+
+QBrush linearBrush(const GradientChain &chain, const GradientLengths &lengths, const QGradientStops &stops)
+{
+    const QPointF from(lengths.value(AttributeId::X1, Axis::Horizontal, 0),
+                       lengths.value(AttributeId::Y1, Axis::Vertical, 0));
+    const QPointF to(lengths.value(AttributeId::X2, Axis::Horizontal, 100),
+                     lengths.value(AttributeId::Y2, Axis::Vertical, 0));
+    if (from == to)
+        return QBrush(stops.constLast().second);
+    QLinearGradient gradient(from, to);
+    return finished(gradient, chain, stops);
+}
+
+QBrush radialBrush(const GradientChain &chain, const GradientLengths &lengths, const QGradientStops &stops)
+{
+    const double cx = lengths.value(AttributeId::Cx, Axis::Horizontal, 50);
+    const double cy = lengths.value(AttributeId::Cy, Axis::Vertical, 50);
+    const double r = lengths.value(AttributeId::R, Axis::Diagonal, 50);
+    if (r <= 0)
+        return QBrush(stops.constLast().second);
+    QRadialGradient gradient(cx, cy, r, lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
+                             lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
+    return finished(gradient, chain, stops);
+}
+
+} // namespace
+
+QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target)
+{
+    const GradientChain chain(tree, index);
+    if (chain.isEmpty())
+        return Qt::NoBrush;
+    QGradientStops stops = chain.stops(target.opacity);
+    if (stops.isEmpty())
+        return Qt::NoBrush;
+    if (stops.size() == 1)
+        return QBrush(stops.constFirst().second);
+    separate(stops);
+    const GradientLengths lengths(chain, target);
+    if (lengths.ofBounds() && target.bounds.isEmpty())
+        return Qt::NoBrush;
+    const bool linear = chain.kind() == ElementKind::LinearGradient;
+    QBrush brush = linear ? linearBrush(chain, lengths, stops) : radialBrush(chain, lengths, stops);
+    QTransform toUser = parseTransform(chain.value(AttributeId::GradientTransform)).value_or(QTransform());
+    if (lengths.ofBounds()) {
+        const QRectF &b = target.bounds;
+        toUser *= QTransform(b.width(), 0, 0, b.height(), b.x(), b.y());
+    }
+    brush.setTransform(toUser);
+    return brush;
+}
+
+} // namespace Svg

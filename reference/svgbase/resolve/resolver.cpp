@@ -1,0 +1,157 @@
+#include "resolve/resolver.h"
+
+#include "grammar/transforms.h"
+#include "grammar/viewboxes.h"
+#include "resolve/geometry.h"
+#include "resolve/gradients.h"
+#include "resolve/pens.h"
+#include "style/cascade.h"
+
+namespace Svg {
+
+namespace {
+
+/// What percentages refer to in a document that gives itself no size.
+constexpr QSizeF defaultViewport(100, 100);
+
+QSizeF rootViewport(const Node &root)
+{
+    const QRectF box = rootViewBox(root);
+    if (!box.isEmpty())
+        return box.size();
+    const LengthReader lengths(root.attributes, {defaultViewport, ComputedStyle().font.size});
+    return QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, defaultViewport.width()),
+                  lengths.size(AttributeId::Height, Axis::Vertical, defaultViewport.height()));
+}
+
+/// Where a nested "svg" or a used "symbol" places its content.
+struct Fit
+{
+    QTransform transform;
+    QSizeF viewport;
+};
+
+Fit nestedFit(const Node &node, const LengthContext &context)
+{
+    const LengthReader lengths(node.attributes, context);
+    const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
+                       lengths.value(AttributeId::Y, Axis::Vertical),
+                       lengths.size(AttributeId::Width, Axis::Horizontal, context.viewport.width()),
+                       lengths.size(AttributeId::Height, Axis::Vertical, context.viewport.height()));
+    const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
+    const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
+    const std::optional<QTransform> fitted = viewBoxTransform(box.value_or(QRectF()), place, ratio);
+    if (fitted)
+        return {*fitted, box->size()};
+    return {QTransform::fromTranslate(place.x(), place.y()), place.size()};
+}
+
+QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
+{
+    if (facts.toDocument.type() <= QTransform::TxScale || path.isEmpty())
+        return facts.toDocument.mapRect(facts.localBounds);
+    return facts.toDocument.map(path).boundingRect();
+}
+
+} // namespace
+
+QRectF rootViewBox(const Node &root)
+{
+    return parseViewBox(root.attributes.value(AttributeId::ViewBox)).value_or(QRectF());
+}
+
+void Resolver::warn(const Node &node, const QString &text) const
+{
+    if (m_messages)
+        m_messages->warn(text, node.line, node.column, node.attributes.value(AttributeId::Id));
+}
+
+void Resolver::resolveStyle(const Node &node, Facts *facts) const
+{
+    static const ComputedStyle initial;
+    const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
+    QStringList rejected;
+    facts->style = cascade(node.attributes, {parentStyle, facts->viewport}, m_messages ? &rejected : nullptr);
+    facts->displayed = facts->style.displayed && (!facts->parent || facts->parent->displayed);
+    for (const QString &value : qAsConst(rejected))
+        warn(node, QStringLiteral("A property does not take the value \"%1\".").arg(value));
+}
+
+void Resolver::resolvePlace(const Node &node, Facts *facts) const
+{
+    const LengthContext context{facts->viewport, facts->style.font.size};
+    QTransform local;
+    if (node.kind == ElementKind::Use) {
+        const LengthReader lengths(node.attributes, context);
+        local = QTransform::fromTranslate(lengths.value(AttributeId::X, Axis::Horizontal),
+                                          lengths.value(AttributeId::Y, Axis::Vertical));
+    } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
+        const Fit fit = nestedFit(node, context);
+        local = fit.transform;
+        facts->viewport = fit.viewport;
+    }
+    const QString text = node.attributes.value(AttributeId::Transform);
+    if (!text.isEmpty() && node.kind != ElementKind::Document) {
+        const std::optional<QTransform> transform = parseTransform(text);
+        if (transform)
+            local *= *transform;
+        else
+            warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
+    }
+    facts->toDocument = facts->parent ? local * facts->parent->toDocument : local;
+}
+
+QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const
+{
+    QColor color = paint.color;
+    if (paint.kind == Paint::Server) {
+        facts->referenceRevision = m_referenceRevision;
+        const NodeIndex server = m_tree.findId(paint.server);
+        if (server != noNode && isPaintServerPart(m_tree.node(server).kind))
+            return gradientBrush(m_tree, server, {facts->localBounds, facts->viewport, opacity});
+    } else if (paint.kind != Paint::Color) {
+        return Qt::NoBrush;
+    }
+    if (!color.isValid())
+        return Qt::NoBrush;
+    color.setAlphaF(color.alphaF() * opacity);
+    return QBrush(color);
+}
+
+void Resolver::resolveGeometry(NodeIndex index, Facts *facts) const
+{
+    const Node &node = m_tree.node(index);
+    QString problem;
+    const Geometry geometry = shapeGeometry(node, {facts->viewport, facts->style.font.size}, &problem);
+    if (!problem.isEmpty())
+        warn(node, problem);
+    facts->hasGeometry = geometry.valid;
+    if (!geometry.valid)
+        return;
+    facts->localBounds = geometry.bounds;
+    facts->bounds = mappedBounds(*facts, geometry.path);
+    if (geometry.path.elementCount() == 0)
+        return;
+    Outline outline;
+    outline.path = geometry.path;
+    outline.path.setFillRule(facts->style.fillRule);
+    outline.fill = brushOf(facts->style.fill, facts->style.fillOpacity, facts);
+    outline.strokePaint = brushOf(facts->style.stroke, facts->style.strokeOpacity, facts);
+    outline.pen = strokePen(facts->style, {outline.strokePaint, facts->style.strokeWidth, std::nullopt});
+    facts->outlines.append(outline);
+}
+
+FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) const
+{
+    const Node &node = m_tree.node(index);
+    auto *facts = new Facts;
+    const FactsPointer result(facts);
+    facts->parent = parent;
+    facts->viewport = parent ? parent->viewport : rootViewport(node);
+    resolveStyle(node, facts);
+    resolvePlace(node, facts);
+    resolveGeometry(index, facts);
+    return result;
+}
+
+} // namespace Svg

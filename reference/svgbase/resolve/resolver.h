@@ -1,0 +1,40 @@
+#pragma once
+
+#include "resolve/facts.h"
+#include "tree/message.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// Turns elements into facts: style, units, references and geometry settled.
+class Resolver
+{
+public:
+    /// `messages`, when given, gets what could not be understood.
+    Resolver(const Tree &tree, quint32 referenceRevision, Messages *messages = nullptr)
+        : m_tree(tree)
+        , m_referenceRevision(referenceRevision)
+        , m_messages(messages)
+    {
+    }
+
+    /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
+    /// root.
+    FactsPointer resolve(NodeIndex index, const FactsPointer &parent) const;
+
+private:
+    void resolveStyle(const Node &node, Facts *facts) const;
+    void resolvePlace(const Node &node, Facts *facts) const;
+    void resolveGeometry(NodeIndex index, Facts *facts) const;
+    QBrush brushOf(const Paint &paint, double opacity, Facts *facts) const;
+    void warn(const Node &node, const QString &text) const;
+
+    const Tree &m_tree;
+    quint32 m_referenceRevision;
+    Messages *m_messages;
+};
+
+/// The view box that the root element's attributes give; null when they give none.
+QRectF rootViewBox(const Node &root);
+
+} // namespace Svg

@@ -1,0 +1,15 @@
+#include "style/computedstyle.h"
+
+namespace Svg {
+
+ComputedStyle inheritedStyle(const ComputedStyle &parent)
+{
+    ComputedStyle style = parent;
+    style.opacity = 1;
+    style.displayed = true;
+    style.stopColor = Qt::black;
+    style.stopOpacity = 1;
+    return style;
+}
+
+} // namespace Svg

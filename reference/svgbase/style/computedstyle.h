@@ -1,0 +1,52 @@
+#pragma once
+
+#include "grammar/paints.h"
+
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+
+namespace Svg {
+
+enum class TextAnchor : quint8 { Start, Middle, End };
+
+/// The font properties of an element; sizes in user units.
+struct FontStyle
+{
+    QString family;
+    double size = 16;
+    int weight = 400;
+    bool italic = false;
+};
+
+/// The value of every property of one element, inheritance done (SVG 1.1 §6.1). A fresh one holds initial values.
+struct ComputedStyle
+{
+    // Inherited.
+    QColor color = Qt::black;
+    Paint fill{Paint::Color, Qt::black, QString()};
+    Paint stroke;
+    double fillOpacity = 1;
+    double strokeOpacity = 1;
+    /// User units, never negative.
+    double strokeWidth = 1;
+    double strokeMiterlimit = 4;
+    double strokeDashoffset = 0;
+    /// User units, an even number of them; empty for a solid line.
+    QVector<double> strokeDasharray;
+    Qt::PenCapStyle strokeLinecap = Qt::FlatCap;
+    Qt::PenJoinStyle strokeLinejoin = Qt::SvgMiterJoin;
+    Qt::FillRule fillRule = Qt::WindingFill;
+    TextAnchor textAnchor = TextAnchor::Start;
+    bool visible = true;
+    FontStyle font;
+    // Not inherited.
+    double opacity = 1;
+    bool displayed = true;
+    QColor stopColor = Qt::black;
+    double stopOpacity = 1;
+};
+
+/// What a child starts from: the inherited values of its parent and initial values for the rest.
+ComputedStyle inheritedStyle(const ComputedStyle &parent);
+
+} // namespace Svg

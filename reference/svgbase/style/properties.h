@@ -1,0 +1,19 @@
+#pragma once
+
+#include "grammar/lengths.h"
+#include "style/computedstyle.h"
+#include "tree/attributes.h"
+
+namespace Svg {
+
+/// What a property's value may refer to.
+struct PropertyContext
+{
+    const ComputedStyle &parent;
+    QSizeF viewport;
+};
+
+/// Applies one property to a style. A value that its grammar does not accept changes nothing and gives false.
+bool applyProperty(ComputedStyle &style, AttributeId property, QStringView value, const PropertyContext &context);
+
+} // namespace Svg

@@ -1,0 +1,139 @@
+#include "tree/attributes.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace Svg {
+
+namespace {
+
+struct AttributeName
+{
+    QLatin1String name;
+    AttributeId id;
+};
+
+// In alphabetical order, for the binary search.
+constexpr AttributeName attributeNames[] = {
+    {QLatin1String("color"), AttributeId::Color},
+    {QLatin1String("cx"), AttributeId::Cx},
+    {QLatin1String("cy"), AttributeId::Cy},
+    {QLatin1String("d"), AttributeId::D},
+    {QLatin1String("display"), AttributeId::Display},
+    {QLatin1String("dx"), AttributeId::Dx},
+    {QLatin1String("dy"), AttributeId::Dy},
+    {QLatin1String("fill"), AttributeId::Fill},
+    {QLatin1String("fill-opacity"), AttributeId::FillOpacity},
+    {QLatin1String("fill-rule"), AttributeId::FillRule},
+    {QLatin1String("font-family"), AttributeId::FontFamily},
+    {QLatin1String("font-size"), AttributeId::FontSize},
+    {QLatin1String("font-style"), AttributeId::FontStyle},
+    {QLatin1String("font-weight"), AttributeId::FontWeight},
+    {QLatin1String("fx"), AttributeId::Fx},
+    {QLatin1String("fy"), AttributeId::Fy},
+    {QLatin1String("gradientTransform"), AttributeId::GradientTransform},
+    {QLatin1String("gradientUnits"), AttributeId::GradientUnits},
+    {QLatin1String("height"), AttributeId::Height},
+    {QLatin1String("href"), AttributeId::Href},
+    {QLatin1String("id"), AttributeId::Id},
+    {QLatin1String("offset"), AttributeId::Offset},
+    {QLatin1String("opacity"), AttributeId::Opacity},
+    {QLatin1String("points"), AttributeId::Points},
+    {QLatin1String("preserveAspectRatio"), AttributeId::PreserveAspectRatio},
+    {QLatin1String("r"), AttributeId::R},
+    {QLatin1String("rx"), AttributeId::Rx},
+    {QLatin1String("ry"), AttributeId::Ry},
+    {QLatin1String("spreadMethod"), AttributeId::SpreadMethod},
+    {QLatin1String("stop-color"), AttributeId::StopColor},
+    {QLatin1String("stop-opacity"), AttributeId::StopOpacity},
+    {QLatin1String("stroke"), AttributeId::Stroke},
+    {QLatin1String("stroke-dasharray"), AttributeId::StrokeDasharray},
+    {QLatin1String("stroke-dashoffset"), AttributeId::StrokeDashoffset},
+    {QLatin1String("stroke-linecap"), AttributeId::StrokeLinecap},
+    {QLatin1String("stroke-linejoin"), AttributeId::StrokeLinejoin},
+    {QLatin1String("stroke-miterlimit"), AttributeId::StrokeMiterlimit},
+    {QLatin1String("stroke-opacity"), AttributeId::StrokeOpacity},
+    {QLatin1String("stroke-width"), AttributeId::StrokeWidth},
+    {QLatin1String("style"), AttributeId::Style},
+    {QLatin1String("text-anchor"), AttributeId::TextAnchor},
+    {QLatin1String("transform"), AttributeId::Transform},
+    {QLatin1String("viewBox"), AttributeId::ViewBox},
+    {QLatin1String("visibility"), AttributeId::Visibility},
+    {QLatin1String("width"), AttributeId::Width},
+    {QLatin1String("x"), AttributeId::X},
+    {QLatin1String("x1"), AttributeId::X1},
+    {QLatin1String("x2"), AttributeId::X2},
+    {QLatin1String("x_move"), AttributeId::XMove},
+    {QLatin1String("xlink:href"), AttributeId::XlinkHref},
+    {QLatin1String("xml:space"), AttributeId::XmlSpace},
+    {QLatin1String("y"), AttributeId::Y},
+    {QLatin1String("y1"), AttributeId::Y1},
+    {QLatin1String("y2"), AttributeId::Y2},
+    {QLatin1String("y_move"), AttributeId::YMove},
+};
+
+} // namespace
+
+AttributeId attributeId(QStringView name)
+{
+    const auto before = [](const AttributeName &known, QStringView wanted) {
+        return wanted.compare(known.name) > 0;
+    };
+    const auto found = std::lower_bound(std::begin(attributeNames), std::end(attributeNames), name, before);
+    if (found == std::end(attributeNames) || name != found->name)
+        return AttributeId::Unknown;
+    return found->id;
+}
+
+const Attribute *Attributes::find(AttributeId id) const
+{
+    for (const Attribute &attribute : m_list) {
+        if (attribute.id == id)
+            return &attribute;
+    }
+    return nullptr;
+}
+
+const Attribute *Attributes::find(AttributeId id, const QString &name) const
+{
+    if (id != AttributeId::Unknown)
+        return find(id);
+    for (const Attribute &attribute : m_list) {
+        if (attribute.id == AttributeId::Unknown && attribute.name == name)
+            return &attribute;
+    }
+    return nullptr;
+}
+
+QString Attributes::value(AttributeId id) const
+{
+    const Attribute *attribute = find(id);
+    return attribute ? attribute->value : QString();
+}
+
+QString Attributes::value(const QString &name) const
+{
+    const Attribute *attribute = find(attributeId(name), name);
+    return attribute ? attribute->value : QString();
+}
+
+void Attributes::set(const QString &name, const QString &value)
+{
+    const AttributeId id = attributeId(name);
+    const Attribute *known = find(id, name);
+    if (known)
+        m_list[int(known - m_list.constData())].value = value;
+    else
+        m_list.append({id, id == AttributeId::Unknown ? name : QString(), value});
+}
+
+void Attributes::set(AttributeId id, const QString &value)
+{
+    const Attribute *known = find(id);
+    if (known)
+        m_list[int(known - m_list.constData())].value = value;
+    else
+        m_list.append({id, QString(), value});
+}
+
+} // namespace Svg

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+namespace Svg {
+
+/// Names that the library gives a meaning.
+enum class AttributeId : quint8 {
+    Unknown,
+    // Properties, as presentation attributes or in a style attribute.
+    Color,
+    Display,
+    Fill,
+    FillOpacity,
+    FillRule,
+    FontFamily,
+    FontSize,
+    FontStyle,
+    FontWeight,
+    Opacity,
+    StopColor,
+    StopOpacity,
+    Stroke,
+    StrokeDasharray,
+    StrokeDashoffset,
+    StrokeLinecap,
+    StrokeLinejoin,
+    StrokeMiterlimit,
+    StrokeOpacity,
+    StrokeWidth,
+    TextAnchor,
+    Visibility,
+    // Attributes of elements.
+    Cx,
+    Cy,
+    D,
+    Dx,
+    Dy,
+    Fx,
+    Fy,
+    GradientTransform,
+    GradientUnits,
+    Height,
+    Href,
+    Id,
+    Offset,
+    Points,
+    PreserveAspectRatio,
+    R,
+    Rx,
+    Ry,
+    SpreadMethod,
+    Style,
+    Transform,
+    ViewBox,
+    Width,
+    X,
+    X1,
+    X2,
+    XMove,
+    XlinkHref,
+    XmlSpace,
+    Y,
+    Y1,
+    Y2,
+    YMove,
+};
+
+constexpr AttributeId firstProperty = AttributeId::Color;
+constexpr AttributeId lastProperty = AttributeId::Visibility;
+
+inline bool isProperty(AttributeId id)
+{
+    return id >= firstProperty && id <= lastProperty;
+}
+
+AttributeId attributeId(QStringView name);
+
+/// An attribute as its template or a later write gives it.
+struct Attribute
+{
+    AttributeId id = AttributeId::Unknown;
+    /// Only for names without a meaning here; the id stands for the others.
+    QString name;
+    QString value;
+};
+
+/// The attributes of one element, shared between copies until one of them changes.
+class Attributes
+{
+public:
+    /// The text of an attribute; empty when there is none of that name.
+    QString value(AttributeId id) const;
+    QString value(const QString &name) const;
+    bool contains(AttributeId id) const { return find(id) != nullptr; }
+    void set(const QString &name, const QString &value);
+    void set(AttributeId id, const QString &value);
+    /// Appends without looking for an attribute of that name.
+    void append(const Attribute &attribute) { m_list.append(attribute); }
+    void reserve(int count) { m_list.reserve(count); }
+
+    QVector<Attribute>::const_iterator begin() const { return m_list.constBegin(); }
+    QVector<Attribute>::const_iterator end() const { return m_list.constEnd(); }
+
+private:
+    const Attribute *find(AttributeId id) const;
+    const Attribute *find(AttributeId id, const QString &name) const;
+
+    QVector<Attribute> m_list;
+};
+
+} // namespace Svg
+
+Q_DECLARE_TYPEINFO(Svg::Attribute, Q_MOVABLE_TYPE);

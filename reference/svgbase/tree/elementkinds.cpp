@@ -1,0 +1,94 @@
+#include "tree/elementkinds.h"
+
+namespace Svg {
+
+namespace {
+
+struct KindName
+{
+    QLatin1String name;
+    ElementKind kind;
+};
+
+// Ordered by how often templates use them: the table is searched from the front.
+constexpr KindName kindNames[] = {
+    {QLatin1String("path"), ElementKind::Path},
+    {QLatin1String("rect"), ElementKind::Rect},
+    {QLatin1String("g"), ElementKind::Group},
+    {QLatin1String("ellipse"), ElementKind::Ellipse},
+    {QLatin1String("circle"), ElementKind::Circle},
+    {QLatin1String("line"), ElementKind::Line},
+    {QLatin1String("polygon"), ElementKind::Polygon},
+    {QLatin1String("polyline"), ElementKind::Polyline},
+    {QLatin1String("title"), ElementKind::Description},
+    {QLatin1String("stop"), ElementKind::Stop},
+    {QLatin1String("text"), ElementKind::Text},
+    {QLatin1String("tspan"), ElementKind::Tspan},
+    {QLatin1String("use"), ElementKind::Use},
+    {QLatin1String("defs"), ElementKind::Defs},
+    {QLatin1String("linearGradient"), ElementKind::LinearGradient},
+    {QLatin1String("radialGradient"), ElementKind::RadialGradient},
+    {QLatin1String("image"), ElementKind::Image},
+    {QLatin1String("svg"), ElementKind::NestedSvg},
+    {QLatin1String("symbol"), ElementKind::Symbol},
+    {QLatin1String("switch"), ElementKind::Switch},
+    {QLatin1String("a"), ElementKind::Group},
+    {QLatin1String("desc"), ElementKind::Description},
+    {QLatin1String("animate"), ElementKind::Animation},
+    {QLatin1String("animateTransform"), ElementKind::Animation},
+    {QLatin1String("animateMotion"), ElementKind::Animation},
+    {QLatin1String("animateColor"), ElementKind::Animation},
+    {QLatin1String("set"), ElementKind::Animation},
+};
+
+} // namespace
+
+ElementKind elementKind(QStringView localName)
+{
+    for (const KindName &known : kindNames) {
+        if (localName == known.name)
+            return known.kind;
+    }
+    return ElementKind::Other;
+}
+
+bool isStructure(ElementKind kind)
+{
+    switch (kind) {
+    case ElementKind::Document:
+    case ElementKind::Group:
+    case ElementKind::Switch:
+    case ElementKind::NestedSvg:
+    case ElementKind::Symbol:
+    case ElementKind::Defs:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool hasGeometry(ElementKind kind)
+{
+    return kind >= ElementKind::Rect && kind <= ElementKind::Text;
+}
+
+bool isDrawable(ElementKind kind)
+{
+    switch (kind) {
+    case ElementKind::Group:
+    case ElementKind::Switch:
+    case ElementKind::NestedSvg:
+    case ElementKind::Use:
+    case ElementKind::Image:
+        return true;
+    default:
+        return hasGeometry(kind);
+    }
+}
+
+bool isPaintServerPart(ElementKind kind)
+{
+    return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient || kind == ElementKind::Stop;
+}
+
+} // namespace Svg

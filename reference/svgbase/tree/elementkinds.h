@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace Svg {
+
+/// What an element of a document is.
+enum class ElementKind : quint8 {
+    /// The root.
+    Document,
+    Group,
+    Switch,
+    /// An "svg" inside another.
+    NestedSvg,
+    Symbol,
+    Defs,
+    Use,
+    Rect,
+    Circle,
+    Ellipse,
+    Line,
+    Polyline,
+    Polygon,
+    Path,
+    Text,
+    Tspan,
+    /// Character data of a text; not an element of its own.
+    Characters,
+    Image,
+    LinearGradient,
+    RadialGradient,
+    Stop,
+    Animation,
+    /// "title" and "desc".
+    Description,
+    /// Everything else; kept, never drawn.
+    Other
+};
+
+ElementKind elementKind(QStringView localName);
+/// Whether the kind holds children as a structure node does.
+bool isStructure(ElementKind kind);
+/// Whether the kind is drawn where it stands.
+bool isDrawable(ElementKind kind);
+/// Drawable and with a geometry of its own.
+bool hasGeometry(ElementKind kind);
+/// Whether other elements refer to the kind for their paint.
+bool isPaintServerPart(ElementKind kind);
+
+} // namespace Svg

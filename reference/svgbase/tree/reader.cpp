@@ -1,0 +1,200 @@
+#include "tree/reader.h"
+
+#include "inputlimits.h"
+#include "tree/tagscanner.h"
+
+#include <QtCore/QXmlStreamReader>
+
+namespace Svg {
+
+namespace {
+
+const QLatin1String svgNamespace("http://www.w3.org/2000/svg");
+const QLatin1String xlinkNamespace("http://www.w3.org/1999/xlink");
+const QLatin1String xmlNamespace("http://www.w3.org/XML/1998/namespace");
+
+class TreeReader
+{
+public:
+    TreeReader(QXmlStreamReader &xml, Tree *tree, Messages *messages)
+        : m_xml(xml)
+        , m_tree(tree)
+        , m_messages(messages)
+    {
+    }
+
+    bool read();
+
+private:
+    void startElement();
+    void endElement();
+    void characters();
+    ElementKind kindOfElement() const;
+    void readAttributes(Attributes *attributes) const;
+    void countNamespaces();
+    NodeIndex add(Node &node);
+
+    QXmlStreamReader &m_xml;
+    Tree *m_tree;
+    Messages *m_messages;
+    /// Open elements, and how many namespace declarations each brought into force.
+    QVector<NodeIndex> m_open;
+    QVector<int> m_openNamespaces;
+    int m_namespaces = 0;
+};
+
+AttributeId idOf(const QXmlStreamAttribute &attribute)
+{
+    const QStringRef space = attribute.namespaceUri();
+    if (space.isEmpty())
+        return attributeId(attribute.name());
+    if (space == xlinkNamespace && attribute.name() == QLatin1String("href"))
+        return AttributeId::XlinkHref;
+    if (space == xmlNamespace && attribute.name() == QLatin1String("space"))
+        return AttributeId::XmlSpace;
+    return AttributeId::Unknown;
+}
+
+void TreeReader::readAttributes(Attributes *attributes) const
+{
+    const QXmlStreamAttributes list = m_xml.attributes();
+    attributes->reserve(list.size());
+    for (const QXmlStreamAttribute &attribute : list) {
+        const AttributeId id = idOf(attribute);
+        const QString name = id == AttributeId::Unknown ? attribute.qualifiedName().toString() : QString();
+        attributes->append({id, name, attribute.value().toString()});
+    }
+}
+
+ElementKind TreeReader::kindOfElement() const
+{
+    const QStringRef space = m_xml.namespaceUri();
+    if (!space.isEmpty() && space != svgNamespace)
+        return ElementKind::Other;
+    const ElementKind kind = elementKind(m_xml.name());
+    return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
+}
+
+NodeIndex TreeReader::add(Node &node)
+{
+    node.line = int(m_xml.lineNumber());
+    node.column = int(m_xml.columnNumber()) + 1;
+    const NodeIndex index = m_tree->add(node);
+    if (m_open.isEmpty())
+        m_tree->edit(index).linked = true;
+    else
+        m_tree->link(m_open.constLast(), index);
+    return index;
+}
+
+void TreeReader::countNamespaces()
+{
+    m_openNamespaces.append(m_xml.namespaceDeclarations().size());
+    m_namespaces += m_openNamespaces.constLast();
+}
+
+void TreeReader::startElement()
+{
+    Node node;
+    node.kind = kindOfElement();
+    if (m_open.isEmpty() && node.kind != ElementKind::Document) {
+        m_xml.raiseError(QStringLiteral("The root element is not \"svg\"."));
+        return;
+    }
+    readAttributes(&node.attributes);
+    m_open.append(add(node));
+    countNamespaces();
+    if (m_open.size() > Limits::depth)
+        m_xml.raiseError(QStringLiteral("Elements are nested deeper than %1.").arg(Limits::depth));
+    else if (m_tree->size() > Limits::elements)
+        m_xml.raiseError(QStringLiteral("There are more than %1 elements.").arg(Limits::elements));
+    else if (m_namespaces > Limits::namespaceDeclarations)
+        m_xml.raiseError(
+            QStringLiteral("More than %1 namespace declarations are in force.").arg(Limits::namespaceDeclarations));
+}
+
+void TreeReader::endElement()
+{
+    m_open.removeLast();
+    m_namespaces -= m_openNamespaces.takeLast();
+}
+
+void TreeReader::characters()
+{
+    if (m_open.isEmpty())
+        return;
+    const NodeIndex holder = m_open.constLast();
+    const ElementKind kind = m_tree->node(holder).kind;
+    if (kind == ElementKind::Description) {
+        m_tree->edit(holder).text += m_xml.text();
+    } else if (kind == ElementKind::Text || kind == ElementKind::Tspan) {
+        Node node;
+        node.kind = ElementKind::Characters;
+        node.text = m_xml.text().toString();
+        add(node);
+    }
+}
+
+bool TreeReader::read()
+{
+    while (!m_xml.atEnd()) {
+        switch (m_xml.readNext()) {
+        case QXmlStreamReader::StartElement:
+            startElement();
+            break;
+        case QXmlStreamReader::EndElement:
+            endElement();
+            break;
+        case QXmlStreamReader::Characters:
+            characters();
+            break;
+        default:
+            break;
+        }
+    }
+    if (!m_xml.hasError())
+        return true;
+    m_messages->fail(m_xml.errorString(), m_xml.lineNumber(), m_xml.columnNumber() + 1);
+    return false;
+}
+
+Message placeOf(const QByteArray &text, qint64 offset, const QString &what)
+{
+    const QByteArray before = text.left(int(offset));
+    const int line = before.count('\n') + 1;
+    const int column = before.size() - (before.lastIndexOf('\n') + 1) + 1;
+    return {Message::Error, what, line, column, QString()};
+}
+
+bool declaresForeignEncoding(const QByteArray &text)
+{
+    if (!text.startsWith("<?xml"))
+        return text.startsWith("\xff\xfe") || text.startsWith("\xfe\xff") || text.startsWith('\0');
+    const QByteArray declaration = text.left(text.indexOf("?>")).toLower();
+    return declaration.contains("encoding") && !declaration.contains("utf-8");
+}
+
+} // namespace
+
+bool readTree(const QByteArray &text, Tree *tree, Messages *messages)
+{
+    if (text.size() > Limits::textBytes) {
+        messages->fail(QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
+        return false;
+    }
+    const qint64 crowded = findCrowdedTag(text);
+    if (crowded >= 0) {
+        const QString what = QStringLiteral("An element has more than %1 attributes.").arg(Limits::attributes);
+        messages->add(placeOf(text, crowded, what));
+        return false;
+    }
+    QXmlStreamReader xml;
+    // Text is UTF-8 whatever it says; decoding it first keeps the reader from following another claim.
+    if (declaresForeignEncoding(text))
+        xml.addData(QString::fromUtf8(text));
+    else
+        xml.addData(text);
+    return TreeReader(xml, tree, messages).read();
+}
+
+} // namespace Svg

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tree/message.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// Reads SVG text into a tree. False when the text is not well-formed XML with an "svg" root or exceeds a limit;
+/// the last message then says why and where.
+bool readTree(const QByteArray &text, Tree *tree, Messages *messages);
+
+} // namespace Svg

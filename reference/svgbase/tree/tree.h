@@ -1,0 +1,77 @@
+#pragma once
+
+#include "tree/attributes.h"
+#include "tree/elementkinds.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QSharedData>
+
+namespace Svg {
+
+/// The place of a node in its tree; it stays the same for as long as the tree lives.
+using NodeIndex = int;
+constexpr NodeIndex noNode = -1;
+constexpr NodeIndex rootNode = 0;
+
+/// One element of a document.
+struct Node : QSharedData
+{
+    ElementKind kind = ElementKind::Other;
+    /// Whether the node stands in its parent's list of children. Removed nodes and fresh copies keep their parent.
+    bool linked = false;
+    /// What the template says about document-wide styling: a paint of "none" keeps it out.
+    bool takesFill = true;
+    bool takesStroke = true;
+    NodeIndex parent = noNode;
+    NodeIndex firstChild = noNode;
+    NodeIndex lastChild = noNode;
+    NodeIndex previous = noNode;
+    NodeIndex next = noNode;
+    int line = 0;
+    int column = 0;
+    Attributes attributes;
+    /// Characters of `Characters` and `Description` nodes.
+    QString text;
+};
+
+/// The elements of a document, linked by index. Copies share their nodes until one of them is edited.
+class Tree
+{
+public:
+    int size() const { return m_nodes.size(); }
+    const Node &node(NodeIndex index) const { return *m_nodes.at(index); }
+    Node &edit(NodeIndex index) { return *m_nodes[index]; }
+
+    /// Adds a node that is in no list of children yet.
+    NodeIndex add(const Node &node);
+    void link(NodeIndex parent, NodeIndex child);
+    void unlink(NodeIndex child);
+    /// A copy of the node and of everything below it, under the same parent but not linked.
+    NodeIndex copySubtree(NodeIndex source);
+    /// Forgets the contents of an unlinked subtree and keeps its places for later copies.
+    void discardSubtree(NodeIndex top);
+
+    /// The first node in document order with that id; `noNode` when there is none.
+    NodeIndex findId(const QString &id) const;
+    /// To be called whenever an "id" changed.
+    void forgetIds() { m_idsKnown = false; }
+    /// Whether `ancestor` is `index` or stands above it.
+    bool isWithin(NodeIndex index, NodeIndex ancestor) const;
+    /// The node after `index` in document order within the subtree of `top`; `noNode` at its end.
+    NodeIndex following(NodeIndex index, NodeIndex top) const;
+    /// The same, leaving out what is below `index`.
+    NodeIndex followingBeside(NodeIndex index, NodeIndex top) const;
+
+private:
+    using NodePointer = QSharedDataPointer<Node>;
+    NodeIndex place(const NodePointer &node);
+    NodeIndex copyOne(NodeIndex source);
+    void indexIds() const;
+
+    QVector<NodePointer> m_nodes;
+    QVector<NodeIndex> m_free;
+    mutable QHash<QString, NodeIndex> m_ids;
+    mutable bool m_idsKnown = false;
+};
+
+} // namespace Svg
