@@ -96,5 +96,6 @@ public:
 private:
     explicit QZeSvgTinyDocument(std::unique_ptr<QZeSvgNodePrivate> record);
     friend class QZeSvgNode;
+    friend class QZeSvgNodePrivate;
     QZeSvgTinyDocument *cloneDocument() const;
 };
