@@ -1,0 +1,115 @@
+#include "application/commandline.h"
+
+#include "output/screenshot.h"
+
+#include <QtCore/QCommandLineParser>
+
+#include <cmath>
+
+namespace board {
+
+namespace {
+
+constexpr double smallestScale = 0.05;
+constexpr double largestScale = 16;
+
+struct Parser
+{
+    QCommandLineParser parser;
+    QCommandLineOption plugins{"plugins", "Also load the shape plug-ins in <folder>. May be given more than once.",
+                               "folder"};
+    QCommandLineOption exportPages{
+        "export", "Paint the pages to PNG files in <folder>, print their paths and stop. Needs no display.",
+        "folder"};
+    QCommandLineOption scale{"scale", "Pixels per page unit of exported pages, 0.05 to 16 (1 without this option).",
+                             "factor", "1"};
+    QCommandLineOption demo{"demo", "Open with pages that show every shape there is."};
+    QCommandLineOption language{"language", "Language of the user interface: en or de.", "code"};
+    QCommandLineOption dark{"dark", "Use dark colours."};
+    QCommandLineOption screenshot{"screenshot", "Write a picture of the window to <file> and stop.", "file"};
+    QCommandLineOption state{"screenshot-state", "What the picture shows.", "state", "shapes"};
+    QCommandLineOption help;
+    QCommandLineOption version;
+
+    Parser()
+        : help(parser.addHelpOption())
+        , version(parser.addVersionOption())
+    {
+        parser.setApplicationDescription("A board to draw and teach on: shapes that you reshape by hand.");
+        screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
+        state.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOptions({plugins, exportPages, scale, demo, language, dark, screenshot, state});
+    }
+};
+
+Options textResult(const QString &message, bool failed)
+{
+    Options options;
+    options.action = Options::ShowText;
+    options.message = message;
+    options.failed = failed;
+    return options;
+}
+
+Options refusal(const QString &problem)
+{
+    return textResult(problem + QStringLiteral("\nTry --help.\n"), true);
+}
+
+/// The first argument that makes no sense, as a sentence; empty when all do.
+QString problemOf(const Parser &p)
+{
+    if (!p.parser.positionalArguments().isEmpty())
+        return QStringLiteral("There is nothing to do with \"%1\".").arg(p.parser.positionalArguments().first());
+    bool isNumber = false;
+    const double scale = p.parser.value(p.scale).toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(scale) || scale < smallestScale || scale > largestScale)
+        return QStringLiteral("--scale takes a number from 0.05 to 16, not \"%1\".").arg(p.parser.value(p.scale));
+    const QString language = p.parser.value(p.language);
+    if (p.parser.isSet(p.language) && language != QLatin1String("en") && language != QLatin1String("de"))
+        return QStringLiteral("--language takes en or de, not \"%1\".").arg(language);
+    if (p.parser.isSet(p.exportPages) && p.parser.value(p.exportPages).isEmpty())
+        return QStringLiteral("--export takes the folder to write to.");
+    if (!screenshotStates().contains(p.parser.value(p.state)))
+        return QStringLiteral("--screenshot-state takes one of: %1.").arg(screenshotStates().join(", "));
+    return {};
+}
+
+Options::Action actionOf(const Parser &p)
+{
+    if (p.parser.isSet(p.exportPages))
+        return Options::ExportPages;
+    return p.parser.isSet(p.screenshot) ? Options::TakeScreenshot : Options::OpenWindow;
+}
+
+Options optionsOf(const Parser &p)
+{
+    Options options;
+    options.action = actionOf(p);
+    options.pluginFolders = p.parser.values(p.plugins);
+    options.exportFolder = p.parser.value(p.exportPages);
+    options.scale = p.parser.value(p.scale).toDouble();
+    options.screenshotFile = p.parser.value(p.screenshot);
+    options.screenshotState = p.parser.value(p.state);
+    options.demo = p.parser.isSet(p.demo);
+    options.dark = p.parser.isSet(p.dark);
+    options.language = p.parser.value(p.language);
+    return options;
+}
+
+} // namespace
+
+Options parseCommandLine(const QStringList &arguments)
+{
+    Parser p;
+    if (!p.parser.parse(arguments))
+        return refusal(p.parser.errorText());
+    if (p.parser.isSet(p.help))
+        return textResult(p.parser.helpText(), false);
+    if (p.parser.isSet(p.version))
+        return textResult(QStringLiteral("gliololok-board %1\n").arg(BOARD_VERSION), false);
+    const QString problem = problemOf(p);
+    return problem.isEmpty() ? optionsOf(p) : refusal(problem);
+}
+
+} // namespace board

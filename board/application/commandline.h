@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace board {
+
+/// What the user asked for on the command line.
+struct Options
+{
+    enum Action { OpenWindow, ExportPages, TakeScreenshot, ShowText };
+    Action action = OpenWindow;
+    /// For ShowText: what to print, on stderr when `failed`.
+    QString message;
+    bool failed = false;
+
+    QStringList pluginFolders; ///< additional ones, in the order given
+    QString exportFolder;
+    double scale = 1; ///< pixels per scene unit of exported pages
+    QString screenshotFile;
+    QString screenshotState; ///< "empty", "shapes", "selection", "drag" or "page"
+    bool demo = false;
+    bool dark = false;
+    QString language; ///< empty for that of the system
+};
+
+/// Reads the arguments, the program's name first. Never ends the program: bad arguments give a message.
+Options parseCommandLine(const QStringList &arguments);
+
+} // namespace board

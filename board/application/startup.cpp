@@ -1,0 +1,116 @@
+#include "application/startup.h"
+
+#include "application/commandline.h"
+#include "application/pluginfolders.h"
+#include "application/workspace.h"
+#include "look/theme.h"
+#include "objects/demopages.h"
+#include "output/pageexport.h"
+#include "output/screenshot.h"
+#include "window/mainwindow.h"
+
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QLocale>
+#include <QtCore/QTextStream>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QApplication>
+
+namespace board {
+
+namespace {
+
+QStringList argumentList(int argc, char **argv)
+{
+    QStringList list;
+    for (int i = 0; i < argc; ++i)
+        list.append(QString::fromLocal8Bit(argv[i]));
+    return list;
+}
+
+int showText(const Options &options)
+{
+    QTextStream(options.failed ? stderr : stdout) << options.message;
+    return options.failed ? 1 : 0;
+}
+
+void setUpScreens(const Options &options)
+{
+    if (options.action == Options::ExportPages && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+/// Texts of Qt's own dialogs, where the system has them.
+void installQtTexts(QApplication &application, const QString &language)
+{
+    auto *translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_") + language,
+                         QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+}
+
+void printProblems(const Workspace &workspace)
+{
+    QTextStream stream(stderr);
+    for (const pagehost::PluginReport &report : workspace.pluginProblems())
+        stream << pluginProblemText(report) << '\n';
+}
+
+int exportAll(Workspace &workspace, const Options &options)
+{
+    fillWithDemo(workspace);
+    QTextStream out(stdout);
+    QTextStream errors(stderr);
+    const ExportResult result = exportPages(workspace.document(), options.exportFolder, options.scale);
+    for (const QString &file : result.files)
+        out << file << '\n';
+    for (const QString &problem : result.problems)
+        errors << problem << '\n';
+    return result.files.isEmpty() || !result.problems.isEmpty() ? 1 : 0;
+}
+
+int openWindow(Workspace &workspace, const Options &options)
+{
+    if (options.demo)
+        fillWithDemo(workspace);
+    MainWindow window(&workspace);
+    window.show();
+    return QApplication::exec();
+}
+
+int work(Workspace &workspace, const Options &options)
+{
+    switch (options.action) {
+    case Options::ExportPages:
+        return exportAll(workspace, options);
+    case Options::TakeScreenshot:
+        return takeScreenshot(workspace, options.screenshotState, options.screenshotFile) ? 0 : 1;
+    default:
+        return openWindow(workspace, options);
+    }
+}
+
+} // namespace
+
+int runBoard(int argc, char **argv)
+{
+    const Options options = parseCommandLine(argumentList(argc, argv));
+    if (options.action == Options::ShowText)
+        return showText(options);
+
+    setUpScreens(options);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("gliololok-board"));
+    QApplication::setApplicationVersion(QStringLiteral(BOARD_VERSION));
+    applyTheme(options.dark ? Theme::Dark : Theme::Light);
+
+    Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
+    installQtTexts(application, workspace.localizer().language());
+    workspace.loadPlugins(defaultPluginFolders() + options.pluginFolders);
+    printProblems(workspace);
+    return work(workspace, options);
+}
+
+} // namespace board

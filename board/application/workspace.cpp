@@ -1,0 +1,51 @@
+#include "application/workspace.h"
+
+#include "application/texts.h"
+
+#include <pagehost/application.h>
+
+#include <framework/iframework.h>
+
+#include <QtGui/QColor>
+
+namespace board {
+
+namespace {
+
+constexpr QRgb newPenColor = 0xff34495e;
+
+} // namespace
+
+Workspace::Workspace(const QString &language)
+    : m_registry(&m_localizer)
+{
+    for (const QString &code : {QStringLiteral("en"), QStringLiteral("de")})
+        m_localizer.addTexts(code, boardTexts(code));
+    m_localizer.setLanguage(language);
+    pagehost::setColorSetting(IFramework::DefaultPenColor, false, QColor(newPenColor));
+    pagehost::setCurrentDocument(&m_document);
+    m_document.appendPage();
+}
+
+Workspace::~Workspace()
+{
+    pagehost::setCurrentDocument(nullptr);
+}
+
+void Workspace::loadPlugins(const QStringList &folders)
+{
+    for (const QString &folder : folders)
+        m_registry.loadDirectory(folder);
+}
+
+QVector<pagehost::PluginReport> Workspace::pluginProblems() const
+{
+    QVector<pagehost::PluginReport> problems;
+    for (const pagehost::PluginReport &report : m_registry.reports()) {
+        if (!report.problem.isEmpty())
+            problems.append(report);
+    }
+    return problems;
+}
+
+} // namespace board

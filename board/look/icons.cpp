@@ -1,0 +1,64 @@
+#include "look/icons.h"
+
+#include "look/iconshapes.h"
+
+#include <QtGui/QIconEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+
+namespace board {
+
+namespace {
+
+constexpr double lineWidth = 1.7;
+constexpr int shadeAlpha = 70;
+
+class ShapeIconEngine : public QIconEngine
+{
+public:
+    explicit ShapeIconEngine(Icon which)
+        : m_which(which)
+    {
+    }
+
+    QIconEngine *clone() const override { return new ShapeIconEngine(m_which); }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QColor color = QApplication::palette().color(group, QPalette::ButtonText);
+        QColor shade = color;
+        shade.setAlpha(shadeAlpha);
+        const IconShape shape = iconShape(m_which);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / iconGrid, rect.height() / iconGrid);
+        painter->fillPath(shape.shades, shade);
+        painter->fillPath(shape.areas, color);
+        painter->strokePath(shape.lines, QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return picture;
+    }
+
+private:
+    Icon m_which;
+};
+
+} // namespace
+
+QIcon icon(Icon which)
+{
+    return QIcon(new ShapeIconEngine(which));
+}
+
+} // namespace board

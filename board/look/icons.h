@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtGui/QIcon>
+
+namespace board {
+
+/// The board's own pictograms.
+enum class Icon {
+    Undo,
+    Redo,
+    Duplicate,
+    Delete,
+    ToFront,
+    Forward,
+    Backward,
+    ToBack,
+    MirrorHorizontal,
+    MirrorVertical,
+    RotateLeft,
+    RotateRight,
+    ZoomIn,
+    ZoomOut,
+    ZoomFit,
+    Add,
+    Remove,
+    FillNone,
+    FillSolid,
+    FillGradient,
+    FillPattern,
+    FillPicture,
+    Info
+};
+
+/// A pictogram that is drawn when it is shown: sharp at every size and pixel ratio, in the palette's text colour of
+/// that moment, paler while disabled.
+QIcon icon(Icon which);
+
+} // namespace board

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QPointF>
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+
+class CBaseObject;
+
+namespace pagehost {
+class ObjectRegistry;
+class Page;
+} // namespace pagehost
+
+namespace board {
+
+/// Puts a finished object of a kind on top of `page`, as if a mouse had drawn it from `topLeft` (scene units) over
+/// `size`, or had clicked there for an empty size. No undo step. Null, with the page untouched, for an unknown
+/// kind. The object may be larger than asked for: kinds have a smallest size, some keep their aspect ratio.
+CBaseObject *makeObject(pagehost::Page *page, const pagehost::ObjectRegistry &registry, const QString &kindId,
+                        const QPointF &topLeft, const QSizeF &size = {});
+
+} // namespace board

@@ -1,0 +1,71 @@
+#include "output/screenshot.h"
+
+#include "application/workspace.h"
+#include "objects/demopages.h"
+#include "page/pageview.h"
+#include "panels/pagepanel.h"
+#include "window/mainwindow.h"
+
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QTextStream>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
+
+namespace board {
+
+namespace {
+
+void sendMouse(PageView *view, QEvent::Type type, const QPointF &scenePos)
+{
+    const QPoint pos = view->mapFromScene(scenePos);
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, pos, view->viewport()->mapToGlobal(pos), button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &event);
+}
+
+/// Leaves the mouse down, over a shape that is being drawn.
+void startDrawing(MainWindow &window, const QString &kindId)
+{
+    window.beginCreation(kindId);
+    sendMouse(window.view(), QEvent::MouseButtonPress, {400, 220});
+    for (int step = 1; step <= 10; ++step)
+        sendMouse(window.view(), QEvent::MouseMove, {400 + step * 42.0, 220 + step * 26.0});
+}
+
+void bring(MainWindow &window, Workspace &workspace, const QString &state)
+{
+    pagehost::Page *page = workspace.document()->currentPage();
+    if (state == QLatin1String("selection") && page->objectCount() > 1)
+        page->select({page->objects().at(1)});
+    if (state == QLatin1String("drag") && !workspace.registry().kinds().isEmpty())
+        startDrawing(window, workspace.registry().kinds().first().id);
+}
+
+} // namespace
+
+QStringList screenshotStates()
+{
+    return {QStringLiteral("empty"), QStringLiteral("shapes"), QStringLiteral("selection"), QStringLiteral("drag")};
+}
+
+bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file)
+{
+    if (state != QLatin1String("empty") && state != QLatin1String("drag"))
+        fillWithDemo(workspace);
+    MainWindow window(&workspace);
+    window.show();
+    QApplication::processEvents();
+    bring(window, workspace, state);
+    window.pages()->thumbnails()->finish();
+    QApplication::processEvents();
+    if (window.grab().save(file))
+        return true;
+    QTextStream(stderr) << file << " could not be written.\n";
+    return false;
+}
+
+} // namespace board

@@ -1,0 +1,69 @@
+#include "page/bandselection.h"
+
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QGraphicsView>
+
+namespace board {
+
+BandSelection::BandSelection(QGraphicsView *view)
+    : m_view(view)
+    , m_band(QRubberBand::Rectangle, view->viewport())
+{
+}
+
+void BandSelection::begin(pagehost::Page *page, const QPoint &pos, bool extend)
+{
+    m_page = page;
+    m_start = pos;
+    m_before = page->selectedObjects();
+    m_kept = extend ? m_before : QVector<CBaseObject *>();
+    m_band.hide();
+}
+
+void BandSelection::moveTo(const QPoint &pos)
+{
+    if (!isActive())
+        return;
+    if (!isBand() && (pos - m_start).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_band.setGeometry(QRect(m_start, pos).normalized());
+    m_band.show();
+    selectTouched();
+}
+
+void BandSelection::finish()
+{
+    m_band.hide();
+    m_page = nullptr;
+    m_before.clear();
+    m_kept.clear();
+}
+
+void BandSelection::cancel()
+{
+    if (!isActive())
+        return;
+    m_page->select(m_before);
+    finish();
+}
+
+void BandSelection::selectTouched()
+{
+    QPainterPath area;
+    area.addPolygon(m_view->mapToScene(m_band.geometry()));
+    area.closeSubpath();
+    QVector<CBaseObject *> selected = m_kept;
+    for (CBaseObject *object : m_page->objects()) {
+        const bool touched = object->isVisible() && object->mapToScene(object->shape()).intersects(area);
+        if (touched && !selected.contains(object))
+            selected.append(object);
+    }
+    if (selected != m_page->selectedObjects())
+        m_page->select(selected);
+}
+
+} // namespace board

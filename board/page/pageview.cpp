@@ -1,0 +1,372 @@
+#include "page/pageview.h"
+
+#include "look/theme.h"
+
+#include <pagehost/creation.h>
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDragEnterEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QScrollBar>
+
+#include <array>
+#include <cmath>
+
+namespace board {
+
+const char *const kindMimeType = "application/x-gliololok-kind";
+
+namespace {
+
+/// Around a page that is shown as a whole, logical pixels.
+constexpr int fitMargin = 36;
+/// A click this far beside a selected object (logical pixels) was meant for it and does not deselect it.
+constexpr int nearMiss = 6;
+constexpr double arrowStep = 1;
+constexpr double largeArrowStep = 10;
+/// Zoom by one notch of the wheel.
+constexpr double wheelFactor = 1.2;
+constexpr double degreesPerNotch = 120;
+constexpr std::array<double, 14> zoomSteps{0.1, 0.25, 0.33, 0.5, 0.67, 0.75, 1, 1.25, 1.5, 2, 3, 4, 6, 8};
+constexpr double zoomEpsilon = 1e-6;
+constexpr int shadowSize = 7;
+
+} // namespace
+
+PageView::PageView(QWidget *parent)
+    : QGraphicsView(parent)
+    , m_band(this)
+{
+    setObjectName(QStringLiteral("mainGraphicsView"));
+    setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+    setTransformationAnchor(NoAnchor);
+    setResizeAnchor(NoAnchor);
+    setFrameShape(NoFrame);
+    setDragMode(NoDrag);
+    setAcceptDrops(true);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+}
+
+void PageView::setPage(pagehost::Page *page)
+{
+    if (page == m_page)
+        return;
+    cancel();
+    m_nudging.finish();
+    if (m_page)
+        disconnect(m_page, nullptr, this, nullptr);
+    m_page = page;
+    setScene(page ? page->scene() : nullptr);
+    if (!page)
+        return;
+    connect(page, &pagehost::Page::contentChanged, viewport(), QOverload<>::of(&QWidget::update));
+    connect(page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
+    m_fitted ? showFitted() : updateSceneArea();
+}
+
+void PageView::setEmptyHint(const EmptyHint &hint)
+{
+    m_hint = hint;
+    viewport()->update();
+}
+
+void PageView::setZoom(double rate, const QPoint &anchor)
+{
+    if (!m_page)
+        return;
+    m_fitted = false;
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    const QPointF fixedPoint = mapToScene(anchor);
+    applyZoom(qBound(smallestZoom, rate, largestZoom));
+    const QPointF moved = viewportTransform().map(fixedPoint);
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x() - anchor.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y() - anchor.y()));
+}
+
+void PageView::setZoom(double rate)
+{
+    setZoom(rate, viewport()->rect().center());
+}
+
+void PageView::zoomIn()
+{
+    for (const double step : zoomSteps) {
+        if (step > m_zoom + zoomEpsilon)
+            return setZoom(step);
+    }
+}
+
+void PageView::zoomOut()
+{
+    for (auto step = zoomSteps.rbegin(); step != zoomSteps.rend(); ++step) {
+        if (*step < m_zoom - zoomEpsilon)
+            return setZoom(*step);
+    }
+}
+
+void PageView::fitPage()
+{
+    m_fitted = true;
+    showFitted();
+}
+
+void PageView::showFitted()
+{
+    if (!m_page)
+        return;
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const QSizeF room = viewport()->size() - QSize(2 * fitMargin, 2 * fitMargin);
+    const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
+    applyZoom(qBound(smallestZoom, rate, largestZoom));
+    centerOn(m_page->rect().center());
+}
+
+void PageView::applyZoom(double rate)
+{
+    m_zoom = rate;
+    setTransform(QTransform::fromScale(rate, rate));
+    updateSceneArea();
+    if (m_page->document())
+        m_page->document()->setZoomRate(rate);
+    viewport()->update();
+    Q_EMIT zoomChanged(rate);
+}
+
+void PageView::updateSceneArea()
+{
+    // Half a window around the page lets any corner of it be brought to the middle.
+    const QSizeF margin = QSizeF(viewport()->size()) / m_zoom / 2;
+    setSceneRect(m_page->rect().adjusted(-margin.width(), -margin.height(), margin.width(), margin.height()));
+}
+
+void PageView::cancel()
+{
+    if (!m_page)
+        return;
+    if (m_band.isActive())
+        return m_band.cancel();
+    if (m_page->scene()->cancelDrag())
+        return;
+    if (m_tool && m_tool->isActive())
+        return m_tool->cancel();
+    m_page->select({});
+}
+
+bool PageView::wantsToPan(const QMouseEvent *event) const
+{
+    return event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && m_spaceDown);
+}
+
+void PageView::panTo(const QPoint &pos)
+{
+    const QPoint delta = pos - m_panPos;
+    m_panPos = pos;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - delta.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - delta.y());
+}
+
+void PageView::mousePressEvent(QMouseEvent *event)
+{
+    m_nudging.finish();
+    if (wantsToPan(event)) {
+        m_panning = true;
+        m_panPos = event->pos();
+        viewport()->setCursor(Qt::ClosedHandCursor);
+        return;
+    }
+    QGraphicsView::mousePressEvent(event);
+    if (event->isAccepted() || event->button() != Qt::LeftButton || !m_page)
+        return;
+    event->accept();
+    m_band.begin(m_page, event->pos(), event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
+}
+
+void PageView::mouseMoveEvent(QMouseEvent *event)
+{
+    Q_EMIT pointerMoved(mapToScene(event->pos()));
+    if (m_panning)
+        return panTo(event->pos());
+    if (m_band.isActive())
+        return m_band.moveTo(event->pos());
+    QGraphicsView::mouseMoveEvent(event);
+    if (event->buttons() == Qt::NoButton)
+        updateCursor(event->pos());
+}
+
+void PageView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_panning)
+        m_panning = false;
+    else if (m_band.isActive())
+        endBand(event);
+    else
+        QGraphicsView::mouseReleaseEvent(event);
+    updateCursor(event->pos());
+}
+
+void PageView::endBand(const QMouseEvent *event)
+{
+    const bool extend = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+    if (!m_band.isBand() && !extend && !isNearSelection(event->pos()))
+        m_page->select({});
+    m_band.finish();
+}
+
+bool PageView::isNearSelection(const QPoint &pos) const
+{
+    const QRect around(pos - QPoint(nearMiss, nearMiss), QSize(2 * nearMiss + 1, 2 * nearMiss + 1));
+    QPainterPath area;
+    area.addPolygon(mapToScene(around));
+    area.closeSubpath();
+    for (const CBaseObject *object : m_page->selectedObjects()) {
+        if (object->mapToScene(object->shape()).intersects(area))
+            return true;
+    }
+    return false;
+}
+
+void PageView::updateCursor(const QPoint &pos)
+{
+    if (m_spaceDown)
+        viewport()->setCursor(Qt::OpenHandCursor);
+    else if (m_page)
+        viewport()->setCursor(m_page->scene()->cursorAt(mapToScene(pos)));
+}
+
+void PageView::wheelEvent(QWheelEvent *event)
+{
+    const double notches = event->angleDelta().y() / degreesPerNotch;
+    if (event->modifiers() & Qt::ControlModifier) {
+        setZoom(m_zoom * std::pow(wheelFactor, notches), event->position().toPoint());
+        return event->accept();
+    }
+    if (event->modifiers() & Qt::ShiftModifier) {
+        QScrollBar *bar = horizontalScrollBar();
+        bar->setValue(bar->value() - qRound(notches * bar->singleStep() * 3));
+        return event->accept();
+    }
+    QGraphicsView::wheelEvent(event);
+}
+
+bool PageView::nudge(const QKeyEvent *event)
+{
+    const double step = event->modifiers() & Qt::ShiftModifier ? largeArrowStep : arrowStep;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return m_nudging.move(m_page, {-step, 0});
+    case Qt::Key_Right:
+        return m_nudging.move(m_page, {step, 0});
+    case Qt::Key_Up:
+        return m_nudging.move(m_page, {0, -step});
+    case Qt::Key_Down:
+        return m_nudging.move(m_page, {0, step});
+    default:
+        return false;
+    }
+}
+
+void PageView::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_page)
+        return QGraphicsView::keyPressEvent(event);
+    if (nudge(event))
+        return event->accept();
+    m_nudging.finish();
+    if (event->key() == Qt::Key_Escape) {
+        cancel();
+        return event->accept();
+    }
+    if (event->key() == Qt::Key_Space) {
+        m_spaceDown = true;
+        viewport()->setCursor(Qt::OpenHandCursor);
+        return event->accept();
+    }
+    QGraphicsView::keyPressEvent(event);
+}
+
+void PageView::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->isAutoRepeat())
+        return event->accept();
+    m_nudging.finish();
+    if (event->key() == Qt::Key_Space) {
+        m_spaceDown = false;
+        updateCursor(viewport()->mapFromGlobal(QCursor::pos()));
+    }
+    QGraphicsView::keyReleaseEvent(event);
+}
+
+void PageView::focusOutEvent(QFocusEvent *event)
+{
+    m_nudging.finish();
+    m_spaceDown = false;
+    QGraphicsView::focusOutEvent(event);
+}
+
+bool PageView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Leave)
+        Q_EMIT pointerLeft();
+    return QGraphicsView::viewportEvent(event);
+}
+
+void PageView::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (!m_page)
+        return;
+    m_fitted ? showFitted() : updateSceneArea();
+}
+
+void PageView::drawBackground(QPainter *painter, const QRectF &rect)
+{
+    const ThemeColors colors = themeColors();
+    painter->fillRect(rect, colors.canvas);
+    if (!m_page)
+        return;
+    painter->save();
+    painter->setPen(Qt::NoPen);
+    QColor shadow = colors.pageShadow;
+    shadow.setAlpha(shadow.alpha() / shadowSize);
+    painter->setBrush(shadow);
+    for (int i = 1; i <= shadowSize; ++i) {
+        const double grow = i / m_zoom;
+        painter->drawRoundedRect(m_page->rect().adjusted(-grow, -grow / 2, grow, grow * 1.5), grow, grow);
+    }
+    painter->restore();
+    QGraphicsView::drawBackground(painter, rect);
+}
+
+void PageView::paintEvent(QPaintEvent *event)
+{
+    QGraphicsView::paintEvent(event);
+    if (!m_page || m_page->objectCount() > 0)
+        return;
+    QPainter painter(viewport());
+    paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);
+}
+
+void PageView::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setAccepted(event->mimeData()->hasFormat(kindMimeType));
+}
+
+void PageView::dragMoveEvent(QDragMoveEvent *event)
+{
+    event->setAccepted(event->mimeData()->hasFormat(kindMimeType));
+}
+
+void PageView::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    Q_EMIT kindDropped(QString::fromUtf8(event->mimeData()->data(kindMimeType)), mapToScene(event->pos()));
+}
+
+} // namespace board

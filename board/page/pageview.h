@@ -1,0 +1,104 @@
+#pragma once
+
+#include "page/bandselection.h"
+#include "page/emptyhint.h"
+#include "page/nudging.h"
+
+#include <pagehost/page.h>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QGraphicsView>
+
+namespace pagehost {
+class CreationTool;
+} // namespace pagehost
+
+namespace board {
+
+/// The view that a page is edited in. Its object name is the one that page objects show their control points in.
+///
+/// A press that no object wants begins a rubber band; the middle button, or the left one with the space bar held
+/// down, pans; Ctrl and the wheel zoom about the cursor.
+class PageView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    static constexpr double smallestZoom = 0.1;
+    static constexpr double largestZoom = 8;
+
+    explicit PageView(QWidget *parent = nullptr);
+
+    /// Shows `page`; null for nothing.
+    void setPage(pagehost::Page *page);
+    pagehost::Page *page() const { return m_page; }
+    /// The tool whose drawing the Esc key cancels; not owned.
+    void setCreationTool(pagehost::CreationTool *tool) { m_tool = tool; }
+    void setEmptyHint(const EmptyHint &hint);
+
+    /// Scene units to logical pixels.
+    double zoom() const { return m_zoom; }
+    /// Zooms so that what is under `anchor` (viewport coordinates) stays there. The rate is brought into the range.
+    void setZoom(double rate, const QPoint &anchor);
+    /// About the middle of the view.
+    void setZoom(double rate);
+    void zoomIn();
+    void zoomOut();
+    /// Shows the whole page, and goes on doing so while the window is resized, until the user zooms.
+    void fitPage();
+    bool isFitted() const { return m_fitted; }
+
+    /// Takes back what is going on, else takes away the selection: what the Esc key does.
+    void cancel();
+
+Q_SIGNALS:
+    void zoomChanged(double rate);
+    /// Scene coordinates.
+    void pointerMoved(const QPointF &scenePos);
+    void pointerLeft();
+    /// A kind of shape was dragged here from the palette; scene coordinates.
+    void kindDropped(const QString &kindId, const QPointF &scenePos);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    bool wantsToPan(const QMouseEvent *event) const;
+    void panTo(const QPoint &pos);
+    void endBand(const QMouseEvent *event);
+    bool isNearSelection(const QPoint &pos) const;
+    void updateCursor(const QPoint &pos);
+    bool nudge(const QKeyEvent *event);
+    void applyZoom(double rate);
+    void updateSceneArea();
+    void showFitted();
+
+    QPointer<pagehost::Page> m_page;
+    pagehost::CreationTool *m_tool = nullptr;
+    EmptyHint m_hint;
+    BandSelection m_band;
+    Nudging m_nudging;
+    double m_zoom = 1;
+    bool m_fitted = true;
+    bool m_spaceDown = false;
+    bool m_panning = false;
+    QPoint m_panPos; ///< viewport coordinates
+};
+
+/// The format under which the palette drags a kind of shape: its id in UTF-8.
+extern const char *const kindMimeType;
+
+} // namespace board

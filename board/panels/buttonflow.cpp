@@ -1,0 +1,60 @@
+#include "panels/buttonflow.h"
+
+#include "look/theme.h"
+
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+
+namespace board {
+
+ButtonFlow::ButtonFlow(const QString &caption, QWidget *parent)
+    : QWidget(parent)
+    , m_grid(new QGridLayout)
+{
+    auto *label = new QLabel(caption, this);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(smallGap);
+    column->addWidget(label);
+    column->addLayout(m_grid);
+    m_grid->setSpacing(smallGap);
+    m_grid->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+void ButtonFlow::addWidget(QWidget *widget)
+{
+    m_widgets.append(widget);
+    m_columns = 0;
+}
+
+int ButtonFlow::columnCount() const
+{
+    if (m_widgets.isEmpty())
+        return 1;
+    const int step = m_widgets.first()->sizeHint().width() + m_grid->spacing();
+    return qMax(1, (width() + m_grid->spacing()) / step);
+}
+
+void ButtonFlow::rearrange()
+{
+    m_columns = columnCount();
+    int index = 0;
+    for (QWidget *widget : qAsConst(m_widgets)) {
+        m_grid->removeWidget(widget);
+        if (widget->isHidden())
+            continue;
+        m_grid->addWidget(widget, index / m_columns, index % m_columns);
+        ++index;
+    }
+    setVisible(index > 0);
+}
+
+void ButtonFlow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (columnCount() != m_columns)
+        rearrange();
+}
+
+} // namespace board

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QVector>
+#include <QtWidgets/QWidget>
+
+class QGridLayout;
+
+namespace board {
+
+/// A caption and, below it, widgets of one size in as many columns as there is room for. Hidden widgets leave no
+/// gap.
+class ButtonFlow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ButtonFlow(const QString &caption, QWidget *parent = nullptr);
+
+    void addWidget(QWidget *widget);
+    /// Arranges the widgets anew after one was shown or hidden; the whole flow hides when none is shown.
+    void rearrange();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int columnCount() const;
+
+    QGridLayout *m_grid;
+    QVector<QWidget *> m_widgets;
+    int m_columns = 0;
+};
+
+} // namespace board

@@ -1,0 +1,55 @@
+#include "panels/colorbutton.h"
+
+#include "panels/colorpopup.h"
+
+#include <QtGui/QPainter>
+
+namespace board {
+
+namespace {
+
+constexpr QSize buttonSize(52, 30);
+constexpr int swatchInset = 5;
+constexpr double swatchRadius = 4;
+constexpr double disabledOpacity = 0.35;
+
+} // namespace
+
+ColorButton::ColorButton(const Workspace *workspace, const QString &name, QWidget *parent)
+    : QToolButton(parent)
+    , m_popup(new ColorPopup(workspace, this))
+{
+    setToolTip(name);
+    setAccessibleName(name);
+    setMenu(m_popup);
+    setPopupMode(InstantPopup);
+    connect(m_popup, &ColorPopup::colorPicked, this, [this](const QColor &color) {
+        setColor(color);
+        Q_EMIT colorPicked(color);
+    });
+}
+
+void ColorButton::setColor(const QColor &color)
+{
+    m_color = color;
+    m_popup->setColor(color);
+    setAccessibleDescription(color.name(QColor::HexArgb));
+    update();
+}
+
+QSize ColorButton::sizeHint() const
+{
+    return buttonSize;
+}
+
+void ColorButton::paintEvent(QPaintEvent *event)
+{
+    QToolButton::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
+    const QRectF area = QRectF(rect()).adjusted(swatchInset, swatchInset, -swatchInset, -swatchInset);
+    paintSwatch(&painter, area.adjusted(0.5, 0.5, -0.5, -0.5), swatchRadius, m_color);
+}
+
+} // namespace board

@@ -1,0 +1,244 @@
+#include "panels/fillcontrols.h"
+
+#include "application/workspace.h"
+#include "look/icons.h"
+#include "look/theme.h"
+#include "panels/colorbutton.h"
+
+#include <QtGui/QImageReader>
+#include <QtGui/QPainter>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QToolButton>
+
+#include <array>
+
+namespace board {
+
+namespace {
+
+struct TypeEntry
+{
+    int type;
+    Icon icon;
+    const char *nameKey;
+};
+
+constexpr std::array<TypeEntry, 5> fillTypes{
+    {{CPageBgProp::NoFill, Icon::FillNone, "IDS_BOARD_FILL_NONE"},
+     {CPageBgProp::SolidFill, Icon::FillSolid, "IDS_BOARD_FILL_SOLID"},
+     {CPageBgProp::GradientFill, Icon::FillGradient, "IDS_BOARD_FILL_GRADIENT"},
+     {CPageBgProp::PatternFill, Icon::FillPattern, "IDS_BOARD_FILL_PATTERN"},
+     {CPageBgProp::PictureFill, Icon::FillPicture, "IDS_BOARD_FILL_PICTURE"}}};
+
+constexpr std::array<Qt::BrushStyle, 12> patterns{Qt::BDiagPattern,  Qt::FDiagPattern,  Qt::DiagCrossPattern,
+                                                  Qt::HorPattern,    Qt::VerPattern,    Qt::CrossPattern,
+                                                  Qt::Dense2Pattern, Qt::Dense3Pattern, Qt::Dense4Pattern,
+                                                  Qt::Dense5Pattern, Qt::Dense6Pattern, Qt::Dense7Pattern};
+
+constexpr QSize patternIconSize(56, 16);
+/// Pictures are scaled down to this side, since a fill is kept with every object that has it.
+constexpr int largestPictureSide = 2048;
+
+QIcon patternIcon(Qt::BrushStyle pattern)
+{
+    QPixmap picture(patternIconSize);
+    picture.fill(Qt::white);
+    QPainter(&picture).fillRect(picture.rect(), QBrush(QColor(0xff34495e), pattern));
+    return QIcon(picture);
+}
+
+int shownType(const CPageBgProp &fill)
+{
+    return fill.isFillEnable() ? fill.fillType() : static_cast<int>(CPageBgProp::NoFill);
+}
+
+QImage readPicture(const QString &file, QString *problem)
+{
+    QImageReader reader(file);
+    reader.setAutoTransform(true);
+    QSize size = reader.size();
+    if (size.width() > largestPictureSide || size.height() > largestPictureSide)
+        reader.setScaledSize(size.scaled(largestPictureSide, largestPictureSide, Qt::KeepAspectRatio));
+    const QImage picture = reader.read();
+    *problem = reader.errorString();
+    return picture;
+}
+
+} // namespace
+
+FillControls::FillControls(const Workspace *workspace, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_fill(nullptr)
+    , m_types(new QButtonGroup(this))
+    , m_typeRow(new QWidget(this))
+    , m_color(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_COLOR"), this))
+    , m_secondColor(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_SECOND_COLOR"), this))
+    , m_angle(new QSpinBox(this))
+    , m_pattern(new QComboBox(this))
+    , m_picture(new QPushButton(workspace->text("IDS_BOARD_CHOOSE_PICTURE"), this))
+    , m_opacity(new QSlider(Qt::Horizontal, this))
+{
+    m_angle->setRange(0, 359);
+    m_angle->setWrapping(true);
+    m_angle->setSingleStep(15);
+    m_angle->setSuffix(QStringLiteral("°"));
+    m_angle->setKeyboardTracking(false);
+    m_angle->setAccessibleName(workspace->text("IDS_BOARD_FILL_ANGLE"));
+    m_angle->setToolTip(m_angle->accessibleName());
+    m_opacity->setRange(0, 255);
+    m_opacity->setTracking(false);
+    m_opacity->setAccessibleName(workspace->text("IDS_BOARD_OPACITY"));
+    m_opacity->setToolTip(m_opacity->accessibleName());
+    makeTypeButtons();
+    makePatterns();
+    layOut();
+    connectControls();
+    refresh();
+}
+
+void FillControls::makeTypeButtons()
+{
+    auto *row = new QHBoxLayout(m_typeRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(smallGap);
+    for (const TypeEntry &entry : fillTypes) {
+        auto *button = new QToolButton(m_typeRow);
+        button->setCheckable(true);
+        button->setIcon(icon(entry.icon));
+        button->setIconSize(QSize(20, 20));
+        button->setToolTip(m_workspace->text(entry.nameKey));
+        button->setAccessibleName(button->toolTip());
+        m_types->addButton(button, entry.type);
+        row->addWidget(button);
+    }
+    row->addStretch();
+}
+
+void FillControls::makePatterns()
+{
+    m_pattern->setIconSize(patternIconSize);
+    m_pattern->setAccessibleName(m_workspace->text("IDS_BOARD_FILL_PATTERN"));
+    m_pattern->setToolTip(m_pattern->accessibleName());
+    for (const Qt::BrushStyle pattern : patterns)
+        m_pattern->addItem(patternIcon(pattern), QString(), static_cast<int>(pattern));
+}
+
+void FillControls::layOut()
+{
+    auto *values = new QHBoxLayout;
+    values->setSpacing(mediumGap);
+    values->addWidget(m_color);
+    values->addWidget(m_secondColor);
+    values->addWidget(m_angle, 1);
+    values->addWidget(m_pattern, 1);
+    values->addWidget(m_picture, 1);
+    values->addStretch();
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(mediumGap);
+    column->addWidget(m_typeRow);
+    column->addLayout(values);
+    column->addWidget(m_opacity);
+}
+
+void FillControls::connectControls()
+{
+    connect(m_types, QOverload<int>::of(&QButtonGroup::idClicked), this, &FillControls::setType);
+    connect(m_color, &ColorButton::colorPicked, this, &FillControls::setColor);
+    connect(m_picture, &QPushButton::clicked, this, &FillControls::choosePicture);
+    connect(m_secondColor, &ColorButton::colorPicked, this, [this](const QColor &color) {
+        m_fill.setGradientColor(color);
+        Q_EMIT fillPicked(m_fill);
+    });
+    connect(m_angle, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int degrees) {
+        m_fill.setGradientAngle(degrees);
+        Q_EMIT fillPicked(m_fill);
+    });
+    connect(m_pattern, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        m_fill.setPattern(static_cast<Qt::BrushStyle>(m_pattern->itemData(index).toInt()));
+        Q_EMIT fillPicked(m_fill);
+    });
+    connect(m_opacity, &QSlider::valueChanged, this, [this](int opacity) {
+        m_fill.setOpacity(opacity);
+        Q_EMIT fillPicked(m_fill);
+    });
+}
+
+void FillControls::showFill(const CPageBgProp &fill)
+{
+    m_fill = fill;
+    refresh();
+}
+
+void FillControls::refresh()
+{
+    const QSignalBlocker quietAngle(m_angle);
+    const QSignalBlocker quietOpacity(m_opacity);
+    const int type = shownType(m_fill);
+    if (QAbstractButton *button = m_types->button(type))
+        button->setChecked(true);
+    QColor color = m_fill.fillColor();
+    color.setAlpha(m_fill.opacity());
+    m_color->setColor(color);
+    m_secondColor->setColor(m_fill.gradientColor());
+    m_angle->setValue(qRound(m_fill.gradientAngle()));
+    m_pattern->setCurrentIndex(m_pattern->findData(static_cast<int>(m_fill.pattern())));
+    m_opacity->setValue(m_fill.opacity());
+    m_color->setVisible(type != CPageBgProp::NoFill && type != CPageBgProp::PictureFill);
+    m_secondColor->setVisible(type == CPageBgProp::GradientFill);
+    m_angle->setVisible(type == CPageBgProp::GradientFill);
+    m_pattern->setVisible(type == CPageBgProp::PatternFill);
+    m_picture->setVisible(type == CPageBgProp::PictureFill);
+    m_opacity->setVisible(type != CPageBgProp::NoFill);
+}
+
+void FillControls::setType(int type)
+{
+    if (type == CPageBgProp::PictureFill && m_fill.pixmap().isNull()) {
+        choosePicture();
+        return;
+    }
+    m_fill.setFillEnable(type != CPageBgProp::NoFill);
+    if (type != CPageBgProp::NoFill)
+        m_fill.setFillType(type);
+    refresh();
+    Q_EMIT fillPicked(m_fill);
+}
+
+void FillControls::setColor(const QColor &color)
+{
+    m_fill.setFillColor(color);
+    m_fill.setOpacity(color.alpha());
+    refresh();
+    Q_EMIT fillPicked(m_fill);
+}
+
+void FillControls::choosePicture()
+{
+    const QString file =
+        QFileDialog::getOpenFileName(this, m_workspace->text("IDS_BOARD_CHOOSE_PICTURE"), QString(),
+                                     m_workspace->text("IDS_BOARD_PICTURES") + " (*.png *.jpg *.jpeg *.gif *.bmp)");
+    QString problem;
+    const QImage picture = file.isEmpty() ? QImage() : readPicture(file, &problem);
+    if (picture.isNull()) {
+        if (!file.isEmpty())
+            QMessageBox::warning(this, m_workspace->text("IDS_BOARD_NO_PICTURE"), file + "\n" + problem);
+        refresh();
+        return;
+    }
+    m_fill.setPixmap(QPixmap::fromImage(picture));
+    m_fill.setFillType(CPageBgProp::PictureFill);
+    m_fill.setFillEnable(true);
+    refresh();
+    Q_EMIT fillPicked(m_fill);
+}
+
+} // namespace board

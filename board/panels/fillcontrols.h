@@ -1,0 +1,56 @@
+#pragma once
+
+#include <framework/cpagebgprop.h>
+
+#include <QtWidgets/QWidget>
+
+class QButtonGroup;
+class QComboBox;
+class QPushButton;
+class QSlider;
+class QSpinBox;
+
+namespace board {
+
+class ColorButton;
+class Workspace;
+
+/// How an area is filled: not at all, or with a colour, a gradient, a pattern or a picture.
+class FillControls : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FillControls(const Workspace *workspace, QWidget *parent = nullptr);
+
+    /// Shows these values without telling anybody.
+    void showFill(const CPageBgProp &fill);
+    CPageBgProp fill() const { return m_fill; }
+
+Q_SIGNALS:
+    /// The user changed something; all of the fill as it is now.
+    void fillPicked(const CPageBgProp &fill);
+
+private:
+    void makeTypeButtons();
+    void makePatterns();
+    void layOut();
+    void connectControls();
+    void refresh();
+    void setType(int type);
+    void setColor(const QColor &color);
+    void choosePicture();
+
+    const Workspace *m_workspace;
+    CPageBgProp m_fill;
+    QButtonGroup *m_types;
+    QWidget *m_typeRow;
+    ColorButton *m_color;
+    ColorButton *m_secondColor;
+    QSpinBox *m_angle;
+    QComboBox *m_pattern;
+    QPushButton *m_picture;
+    QSlider *m_opacity;
+};
+
+} // namespace board

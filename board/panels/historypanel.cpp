@@ -1,0 +1,27 @@
+#include "panels/historypanel.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+
+#include <framework/cundoredo.h>
+
+#include <QtWidgets/QUndoStack>
+#include <QtWidgets/QUndoView>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+HistoryPanel::HistoryPanel(const Workspace *workspace, QWidget *parent)
+    : QWidget(parent)
+    , m_view(new QUndoView(CUndoRedo::GetInstance()->stack(), this))
+{
+    m_view->setItemDelegate(new pagehost::LocalizedDelegate(&workspace->localizer(), m_view));
+    m_view->setEmptyLabel(workspace->text("IDS_BOARD_HISTORY_START"));
+    m_view->setAccessibleName(workspace->text("IDS_BOARD_HISTORY"));
+    m_view->setFocusPolicy(Qt::TabFocus);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(mediumGap, 0, mediumGap, mediumGap);
+    column->addWidget(m_view);
+}
+
+} // namespace board

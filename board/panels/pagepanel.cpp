@@ -1,0 +1,109 @@
+#include "panels/pagepanel.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+#include "panels/pagedelegate.h"
+
+#include <pagehost/commands.h>
+#include <pagehost/page.h>
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_list(new QListWidget(this))
+{
+    auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(smallGap);
+    for (QAction *action : actions) {
+        auto *button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setAccessibleName(action->text());
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(largeGap, mediumGap, largeGap, mediumGap);
+    row->addLayout(buttons);
+    row->addWidget(m_list, 1);
+    makeList();
+    connectDocument();
+    rebuild();
+}
+
+void PagePanel::makeList()
+{
+    m_list->setFlow(QListView::LeftToRight);
+    m_list->setWrapping(false);
+    m_list->setItemDelegate(new PageDelegate(m_list));
+    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setDragDropMode(QAbstractItemView::InternalMove);
+    m_list->setFixedHeight(m_list->sizeHintForRow(0) > 0 ? m_list->sizeHintForRow(0)
+                                                         : PageDelegate::thumbnailSize().height() + 50);
+    m_list->setAccessibleName(m_workspace->text("IDS_BOARD_PAGES"));
+    m_list->viewport()->setAutoFillBackground(false);
+}
+
+void PagePanel::connectDocument()
+{
+    pagehost::Document *document = m_workspace->document();
+    connect(document, &pagehost::Document::pageInserted, this, &PagePanel::rebuild);
+    connect(document, &pagehost::Document::pageRemoved, this, &PagePanel::rebuild);
+    // Queued: the list itself may be in the middle of moving its row.
+    connect(document, &pagehost::Document::pageMoved, this, &PagePanel::rebuild, Qt::QueuedConnection);
+    connect(document, &pagehost::Document::currentPageChanged, this, &PagePanel::showCurrent);
+    connect(m_list, &QListWidget::currentRowChanged, document, [document](int row) {
+        if (row >= 0)
+            document->setCurrentIndex(row);
+    });
+    connect(m_list->model(), &QAbstractItemModel::rowsMoved, this,
+            [document](const QModelIndex &, int from, int, const QModelIndex &, int before) {
+                pagehost::movePage(document, from, before > from ? before - 1 : before);
+            });
+    connect(&m_thumbnails, &pagehost::ThumbnailPainter::ready, this, &PagePanel::showThumbnail);
+}
+
+void PagePanel::rebuild()
+{
+    const pagehost::Document *document = m_workspace->document();
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (pagehost::Page *page : document->pages()) {
+        auto *item = new QListWidgetItem(QString::number(m_list->count() + 1), m_list);
+        item->setData(Qt::AccessibleTextRole, m_workspace->text("IDS_BOARD_PAGE_NUMBER").arg(m_list->count()));
+        disconnect(page, nullptr, this, nullptr);
+        connect(page, &pagehost::Page::contentChanged, this, [this, page] { requestThumbnail(page); });
+        requestThumbnail(page);
+    }
+    m_list->setCurrentRow(document->currentIndex());
+}
+
+void PagePanel::showCurrent(int index)
+{
+    if (m_list->count() != m_workspace->document()->pageCount())
+        return;
+    const QSignalBlocker quiet(m_list);
+    m_list->setCurrentRow(index);
+}
+
+void PagePanel::requestThumbnail(pagehost::Page *page)
+{
+    m_thumbnails.request(page, PageDelegate::thumbnailSize() * devicePixelRatioF());
+}
+
+void PagePanel::showThumbnail(pagehost::Page *page, const QImage &picture)
+{
+    const int row = m_workspace->document()->indexOf(page);
+    if (QListWidgetItem *item = m_list->item(row))
+        item->setData(Qt::DecorationRole, picture);
+}
+
+} // namespace board

@@ -1,0 +1,73 @@
+#include "panels/palettebutton.h"
+
+#include "page/pageview.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDrag>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
+
+namespace board {
+
+namespace {
+
+constexpr QSize buttonSize(84, 88);
+
+} // namespace
+
+PaletteButton::PaletteButton(const QString &kindId, const QString &name, QWidget *parent)
+    : QToolButton(parent)
+    , m_kindId(kindId)
+{
+    setText(name);
+    setAccessibleName(name);
+    setCheckable(true);
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize PaletteButton::sizeHint() const
+{
+    return buttonSize;
+}
+
+void PaletteButton::mousePressEvent(QMouseEvent *event)
+{
+    m_pressPos = event->pos();
+    QToolButton::mousePressEvent(event);
+}
+
+void PaletteButton::mouseMoveEvent(QMouseEvent *event)
+{
+    const bool far = (event->pos() - m_pressPos).manhattanLength() >= QApplication::startDragDistance();
+    if (far && event->buttons() & Qt::LeftButton)
+        return dragOut();
+    QToolButton::mouseMoveEvent(event);
+}
+
+void PaletteButton::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QToolButton::mouseDoubleClickEvent(event);
+    Q_EMIT placeRequested();
+}
+
+void PaletteButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QToolButton::keyPressEvent(event);
+    Q_EMIT placeRequested();
+    event->accept();
+}
+
+void PaletteButton::dragOut()
+{
+    setDown(false);
+    auto *data = new QMimeData;
+    data->setData(kindMimeType, m_kindId.toUtf8());
+    auto *drag = new QDrag(this);
+    drag->setMimeData(data);
+    drag->setPixmap(icon().pixmap(iconSize()));
+    drag->exec(Qt::CopyAction);
+}
+
+} // namespace board

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+/// One kind of shape in the palette: its picture and its name. It stays down while the kind waits to be drawn, and
+/// can be dragged to the page.
+class PaletteButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    PaletteButton(const QString &kindId, const QString &name, QWidget *parent = nullptr);
+
+    QString kindId() const { return m_kindId; }
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// A double click or the Return key: the user wants one without drawing.
+    void placeRequested();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void dragOut();
+
+    QString m_kindId;
+    QPoint m_pressPos;
+};
+
+} // namespace board

@@ -1,0 +1,113 @@
+#include "panels/palettepanel.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+#include "objects/objectpictures.h"
+#include "panels/buttonflow.h"
+#include "panels/palettebutton.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+constexpr QSize pictureSize(52, 46);
+
+} // namespace
+
+PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_search(new QLineEdit(this))
+{
+    m_search->setPlaceholderText(workspace->text("IDS_BOARD_SEARCH"));
+    m_search->setAccessibleName(workspace->text("IDS_BOARD_SEARCH"));
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this, &PalettePanel::filter);
+
+    auto *content = new QWidget;
+    auto *groups = new QVBoxLayout(content);
+    groups->setContentsMargins(0, 0, 0, 0);
+    groups->setSpacing(largeGap);
+    addGroups(groups);
+    groups->addStretch();
+    auto *scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(content);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
+    column->setSpacing(largeGap);
+    column->addWidget(m_search);
+    column->addWidget(scroll, 1);
+    paintPictures();
+}
+
+void PalettePanel::addGroups(QVBoxLayout *column)
+{
+    const QVector<pagehost::ObjectKind> kinds = m_workspace->registry().kinds();
+    QHash<QString, ButtonFlow *> flows;
+    for (const pagehost::ObjectKind &kind : kinds) {
+        ButtonFlow *&flow = flows[kind.group];
+        if (!flow) {
+            flow = new ButtonFlow(m_workspace->text(kind.group));
+            m_flows.append(flow);
+            column->addWidget(flow);
+        }
+        addButton(flow, kind.id, kind.nameKey);
+    }
+    if (!kinds.isEmpty())
+        return;
+    auto *nothing = new QLabel(m_workspace->text("IDS_BOARD_NO_SHAPES"));
+    nothing->setWordWrap(true);
+    nothing->setForegroundRole(QPalette::PlaceholderText);
+    column->addWidget(nothing);
+}
+
+void PalettePanel::addButton(ButtonFlow *flow, const QString &kindId, const QString &nameKey)
+{
+    auto *button = new PaletteButton(kindId, m_workspace->text(nameKey), flow);
+    button->setIconSize(pictureSize);
+    button->setToolTip(m_workspace->text("IDS_BOARD_KIND_TIP").arg(button->text()));
+    connect(button, &PaletteButton::clicked, this,
+            [this, kindId](bool down) { Q_EMIT kindPicked(down ? kindId : QString()); });
+    connect(button, &PaletteButton::placeRequested, this, [this, kindId] { Q_EMIT placeRequested(kindId); });
+    m_buttons.append(button);
+    flow->addWidget(button);
+}
+
+void PalettePanel::paintPictures()
+{
+    for (PaletteButton *button : qAsConst(m_buttons))
+        button->setIcon(
+            QIcon(pictureOfKind(m_workspace->registry(), button->kindId(), pictureSize, devicePixelRatioF())));
+}
+
+void PalettePanel::showWaitingKind(const QString &kindId)
+{
+    for (PaletteButton *button : qAsConst(m_buttons))
+        button->setChecked(button->kindId() == kindId);
+}
+
+void PalettePanel::filter(const QString &words)
+{
+    for (PaletteButton *button : qAsConst(m_buttons))
+        button->setVisible(button->text().contains(words.trimmed(), Qt::CaseInsensitive));
+    for (ButtonFlow *flow : qAsConst(m_flows))
+        flow->rearrange();
+}
+
+void PalettePanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paintPictures();
+}
+
+} // namespace board

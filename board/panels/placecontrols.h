@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtWidgets/QWidget>
+
+class QDoubleSpinBox;
+class QGridLayout;
+
+namespace board {
+
+class Workspace;
+
+/// Where the selection is, how large and how turned, as numbers.
+class PlaceControls : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PlaceControls(const Workspace *workspace, QWidget *parent = nullptr);
+
+    /// Shows the top-left corner of the selection's bounds (scene units).
+    void showPos(const QPointF &pos);
+    /// Shows the size of one object (item units) and its rotation (degrees, clockwise).
+    void showForm(const QSizeF &size, double rotation);
+    /// Several objects have no common size and rotation.
+    void showNoForm();
+
+Q_SIGNALS:
+    void movePicked(const QPointF &delta);
+    void sizePicked(const QSizeF &size);
+    void rotationPicked(double degrees);
+
+private:
+    QDoubleSpinBox *addBox(QGridLayout *grid, int row, int column, const QString &label, const QString &name);
+
+    const Workspace *m_workspace;
+    QPointF m_pos;
+    QDoubleSpinBox *m_x;
+    QDoubleSpinBox *m_y;
+    QDoubleSpinBox *m_width;
+    QDoubleSpinBox *m_height;
+    QDoubleSpinBox *m_rotation;
+};
+
+} // namespace board

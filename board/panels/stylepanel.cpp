@@ -1,0 +1,171 @@
+#include "panels/stylepanel.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+#include "panels/fillcontrols.h"
+#include "panels/pencontrols.h"
+#include "panels/placecontrols.h"
+
+#include <pagehost/commands.h>
+#include <pagehost/page.h>
+#include <pagehost/selection.h>
+#include <pagehost/style.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+/// The first of the objects that takes a fill; null when none does.
+CBaseObject *firstFilled(const QVector<CBaseObject *> &objects)
+{
+    for (CBaseObject *object : objects) {
+        if (pagehost::styleOf(object).hasFill && object->getFillProp())
+            return object;
+    }
+    return nullptr;
+}
+
+bool isPlain(const CPageBgProp &fill)
+{
+    return !fill.isFillEnable() || fill.fillType() == CPageBgProp::SolidFill;
+}
+
+} // namespace
+
+StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_title(new QLabel(this))
+    , m_pen(new PenControls(workspace))
+    , m_fill(new FillControls(workspace))
+    , m_background(new FillControls(workspace))
+    , m_place(new PlaceControls(workspace))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
+    column->setSpacing(largeGap);
+    QFont font = m_title->font();
+    font.setWeight(QFont::DemiBold);
+    m_title->setFont(font);
+    m_title->setWordWrap(true);
+    column->addWidget(m_title);
+    m_fillSection = addSection(column, "IDS_BOARD_FILL", m_fill);
+    m_penSection = addSection(column, "IDS_BOARD_PEN", m_pen);
+    m_placeSection = addSection(column, "IDS_BOARD_PLACE", m_place);
+    m_backgroundSection = addSection(column, "IDS_BOARD_BACKGROUND", m_background);
+    column->addStretch();
+    connectControls();
+    refresh();
+}
+
+QWidget *StylePanel::addSection(QBoxLayout *column, const char *titleKey, QWidget *content)
+{
+    auto *section = new QWidget(this);
+    auto *caption = new QLabel(m_workspace->text(titleKey), section);
+    caption->setForegroundRole(QPalette::PlaceholderText);
+    auto *layout = new QVBoxLayout(section);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(smallGap + 2);
+    layout->addWidget(caption);
+    layout->addWidget(content);
+    column->addWidget(section);
+    return section;
+}
+
+void StylePanel::connectControls()
+{
+    connect(m_pen, &PenControls::colorPicked, this,
+            [this](const QColor &color) { pagehost::setPenColor(selection(), color); });
+    connect(m_pen, &PenControls::widthPicked, this,
+            [this](int width) { pagehost::setPenWidth(selection(), width); });
+    connect(m_pen, &PenControls::stylePicked, this,
+            [this](Qt::PenStyle style) { pagehost::setPenStyle(selection(), style); });
+    connect(m_fill, &FillControls::fillPicked, this, &StylePanel::takeFill);
+    connect(m_background, &FillControls::fillPicked, this, [this](const CPageBgProp &fill) {
+        if (m_page)
+            pagehost::setPageBackground(m_page, fill);
+    });
+    connect(m_place, &PlaceControls::movePicked, this,
+            [this](const QPointF &delta) { pagehost::moveObjects(selection(), delta); });
+    connect(m_place, &PlaceControls::sizePicked, this, [this](const QSizeF &size) {
+        if (selection().size() == 1)
+            pagehost::resizeObject(selection().first(), size);
+    });
+    connect(m_place, &PlaceControls::rotationPicked, this, [this](double degrees) {
+        if (selection().size() == 1)
+            pagehost::rotateObjects(selection(), degrees - selection().first()->rotation());
+    });
+}
+
+void StylePanel::setPage(pagehost::Page *page)
+{
+    if (m_page)
+        disconnect(m_page, nullptr, this, nullptr);
+    m_page = page;
+    if (page) {
+        connect(page, &pagehost::Page::selectionChanged, this, &StylePanel::refresh);
+        connect(page, &pagehost::Page::contentChanged, this, &StylePanel::refresh);
+        connect(page, &pagehost::Page::backgroundChanged, this, &StylePanel::refresh);
+    }
+    refresh();
+}
+
+QVector<CBaseObject *> StylePanel::selection() const
+{
+    return m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
+}
+
+void StylePanel::takeFill(const CPageBgProp &fill)
+{
+    const QVector<CBaseObject *> objects = selection();
+    const CBaseObject *shown = firstFilled(objects);
+    if (!shown)
+        return;
+    QColor color = fill.isFillEnable() ? fill.fillColor() : QColor(Qt::transparent);
+    if (fill.isFillEnable())
+        color.setAlpha(fill.opacity());
+    if (isPlain(fill) && isPlain(*shown->getFillProp()))
+        pagehost::setFill(objects, color);
+    else
+        pagehost::setObjectsFill(objects, fill);
+}
+
+void StylePanel::refresh()
+{
+    const QVector<CBaseObject *> objects = selection();
+    const bool any = !objects.isEmpty();
+    for (QWidget *section : {m_penSection, m_fillSection, m_placeSection})
+        section->setVisible(any);
+    m_backgroundSection->setVisible(!any);
+    if (any) {
+        showObjects(objects);
+        return;
+    }
+    m_title->setText(m_workspace->text("IDS_BOARD_PAGE"));
+    if (m_page)
+        m_background->showFill(m_page->background());
+}
+
+void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
+{
+    CBaseObject *first = objects.first();
+    m_title->setText(objects.size() == 1 ? m_workspace->text(first->kindName())
+                                         : m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
+    m_pen->showStyle(pagehost::styleOf(first));
+    const CBaseObject *filled = firstFilled(objects);
+    m_fillSection->setVisible(filled);
+    if (filled)
+        m_fill->showFill(*filled->getFillProp());
+    m_place->showPos(pagehost::boundsOf(objects).topLeft());
+    if (objects.size() == 1)
+        m_place->showForm(first->getClientRect().size(), first->rotation());
+    else
+        m_place->showNoForm();
+}
+
+} // namespace board

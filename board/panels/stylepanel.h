@@ -1,0 +1,50 @@
+#pragma once
+
+#include <pagehost/page.h>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
+
+class CBaseObject;
+class QBoxLayout;
+class QLabel;
+
+namespace board {
+
+class FillControls;
+class PenControls;
+class PlaceControls;
+class Workspace;
+
+/// Shows and changes the selected objects' look and place; without a selection, the page's background.
+class StylePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StylePanel(const Workspace *workspace, QWidget *parent = nullptr);
+
+    void setPage(pagehost::Page *page);
+
+private:
+    QWidget *addSection(QBoxLayout *column, const char *titleKey, QWidget *content);
+    void connectControls();
+    void refresh();
+    void showObjects(const QVector<CBaseObject *> &objects);
+    void takeFill(const CPageBgProp &fill);
+    QVector<CBaseObject *> selection() const;
+
+    const Workspace *m_workspace;
+    QPointer<pagehost::Page> m_page;
+    QLabel *m_title;
+    PenControls *m_pen;
+    FillControls *m_fill;
+    FillControls *m_background;
+    PlaceControls *m_place;
+    QWidget *m_penSection;
+    QWidget *m_fillSection;
+    QWidget *m_placeSection;
+    QWidget *m_backgroundSection;
+};
+
+} // namespace board

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "look/icons.h"
+
+#include <pagehost/commands.h>
+
+#include <QtCore/QObject>
+#include <QtGui/QKeySequence>
+
+#include <functional>
+
+class QAction;
+class QUndoStack;
+
+namespace board {
+
+class PageView;
+class Workspace;
+
+/// What the user can do through menus, tool bar and keys. Actions that make no sense at the moment are disabled.
+class Actions : public QObject
+{
+    Q_OBJECT
+
+public:
+    Actions(Workspace *workspace, PageView *view, QObject *parent = nullptr);
+
+    /// Looks at page and selection anew.
+    void update();
+
+    QAction *undo, *redo, *selectAll, *deselect, *duplicate, *remove;
+    QAction *toFront, *forward, *backward, *toBack;
+    QAction *mirrorHorizontally, *mirrorVertically, *rotateLeft, *rotateRight;
+    QAction *zoomIn, *zoomOut, *actualSize, *fitPage;
+    QAction *addPage, *removePage, *previousPage, *nextPage;
+    QAction *exportPages, *darkColors, *quit, *about;
+
+private:
+    using Work = std::function<void()>;
+    QAction *add(const char *textKey, const QList<QKeySequence> &keys, const Work &work);
+    QAction *add(const char *textKey, Icon picture, const QList<QKeySequence> &keys, const Work &work);
+    void makeEditActions();
+    void makeArrangeActions();
+    void makeViewActions();
+    void makePageActions();
+    void makeProgramActions();
+    void nameHistory();
+    bool isDragging() const;
+    void step(void (QUndoStack::*way)());
+    void restackSelection(pagehost::StackingMove move);
+    void mirrorSelection(bool horizontally);
+    void rotateSelection(double degrees);
+    void turnPage(int by);
+
+    Workspace *m_workspace;
+    PageView *m_view;
+};
+
+} // namespace board

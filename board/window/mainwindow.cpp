@@ -1,0 +1,261 @@
+#include "window/mainwindow.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+#include "output/pageexport.h"
+#include "page/pageview.h"
+#include "panels/historypanel.h"
+#include "panels/pagepanel.h"
+#include "panels/palettepanel.h"
+#include "panels/stylepanel.h"
+#include "window/actions.h"
+#include "window/noticebar.h"
+#include "window/zoomcontrol.h"
+
+#include <pagehost/page.h>
+#include <pagehost/selection.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+constexpr QSize firstSize(1400, 900);
+constexpr QSize toolIconSize(22, 22);
+constexpr int leftPanelWidth = 220;
+constexpr int rightPanelWidth = 264;
+constexpr int pointerTextWidth = 110;
+constexpr int sizeTextWidth = 120;
+/// Half of what a new shape measures, about.
+constexpr QPointF halfUsualSize(60, 50);
+
+} // namespace
+
+MainWindow::MainWindow(Workspace *workspace)
+    : m_workspace(workspace)
+    , m_view(new PageView)
+    , m_actions(new Actions(workspace, m_view, this))
+    , m_tool(&workspace->registry())
+{
+    setWindowTitle(workspace->text("IDS_BOARD_TITLE"));
+    m_view->setCreationTool(&m_tool);
+    m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
+    m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
+    auto *centre = new QWidget(this);
+    auto *column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new NoticeBar(workspace, centre));
+    column->addWidget(m_view, 1);
+    setCentralWidget(centre);
+    addMenus();
+    addTools();
+    addPanels();
+    addStatus();
+    connectParts();
+    showCurrentPage();
+    resize(firstSize);
+    m_view->setFocus();
+}
+
+QDockWidget *MainWindow::addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel)
+{
+    auto *dock = new QDockWidget(m_workspace->text(titleKey), this);
+    dock->setObjectName(QLatin1String(titleKey));
+    dock->setWidget(panel);
+    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+    panel->setAccessibleName(dock->windowTitle());
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void MainWindow::addPanels()
+{
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_palette = new PalettePanel(m_workspace);
+    m_pages = new PagePanel(m_workspace, {m_actions->addPage, m_actions->removePage});
+    m_style = new StylePanel(m_workspace);
+    auto *styleScroll = new QScrollArea;
+    styleScroll->setWidgetResizable(true);
+    styleScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    styleScroll->setWidget(m_style);
+    QDockWidget *palette = addPanel(Qt::LeftDockWidgetArea, "IDS_BOARD_SHAPES", m_palette);
+    QDockWidget *pages = addPanel(Qt::BottomDockWidgetArea, "IDS_BOARD_PAGES", m_pages);
+    QDockWidget *style = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_STYLE", styleScroll);
+    QDockWidget *history = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_HISTORY", new HistoryPanel(m_workspace));
+    // The strip of pages speaks for itself.
+    pages->setTitleBarWidget(new QWidget(pages));
+    resizeDocks({palette, style}, {leftPanelWidth, rightPanelWidth}, Qt::Horizontal);
+    resizeDocks({style, history}, {3, 2}, Qt::Vertical);
+    QMenu *panels = menuBar()->addMenu(m_workspace->text("IDS_BOARD_PANELS"));
+    for (QDockWidget *dock : {palette, style, history, pages})
+        panels->addAction(dock->toggleViewAction());
+    QMenu *help = menuBar()->addMenu(m_workspace->text("IDS_BOARD_HELP"));
+    help->addAction(m_actions->about);
+}
+
+void MainWindow::addMenus()
+{
+    const auto add = [this](const char *titleKey, const QList<QAction *> &entries) {
+        QMenu *menu = menuBar()->addMenu(m_workspace->text(titleKey));
+        for (QAction *entry : entries)
+            entry ? menu->addAction(entry) : (void)menu->addSeparator();
+    };
+    const Actions &a = *m_actions;
+    add("IDS_BOARD_FILE", {a.exportPages, nullptr, a.quit});
+    add("IDS_BOARD_EDIT", {a.undo, a.redo, nullptr, a.duplicate, a.remove, nullptr, a.selectAll, a.deselect});
+    add("IDS_BOARD_ARRANGE", {a.toFront, a.forward, a.backward, a.toBack, nullptr, a.mirrorHorizontally,
+                              a.mirrorVertically, a.rotateLeft, a.rotateRight});
+    add("IDS_BOARD_PAGE", {a.addPage, a.removePage, nullptr, a.previousPage, a.nextPage});
+    add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.darkColors});
+}
+
+void MainWindow::addTools()
+{
+    QToolBar *bar = addToolBar(m_workspace->text("IDS_BOARD_TOOLS"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setMovable(false);
+    bar->setIconSize(toolIconSize);
+    bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const Actions &a = *m_actions;
+    const QList<QList<QAction *>> groups{{a.undo, a.redo},
+                                         {a.duplicate, a.remove},
+                                         {a.toFront, a.forward, a.backward, a.toBack},
+                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
+    for (const QList<QAction *> &group : groups) {
+        if (group != groups.first())
+            bar->addSeparator();
+        bar->addActions(group);
+    }
+}
+
+void MainWindow::addStatus()
+{
+    m_hint = new QLabel(this);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    m_hint->setContentsMargins(mediumGap, 0, 0, 0);
+    m_pointer = new QLabel(this);
+    m_pointer->setMinimumWidth(pointerTextWidth);
+    m_size = new QLabel(this);
+    m_size->setMinimumWidth(sizeTextWidth);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(m_hint, 1);
+    statusBar()->addPermanentWidget(m_pointer);
+    statusBar()->addPermanentWidget(m_size);
+    statusBar()->addPermanentWidget(new ZoomControl(m_workspace, m_actions, m_view, this));
+}
+
+void MainWindow::connectParts()
+{
+    pagehost::Document *document = m_workspace->document();
+    connect(document, &pagehost::Document::currentPageChanged, this, &MainWindow::showCurrentPage);
+    connect(document, &pagehost::Document::pageInserted, m_actions, &Actions::update);
+    connect(document, &pagehost::Document::pageRemoved, m_actions, &Actions::update);
+    connect(document, &pagehost::Document::pageMoved, m_actions, &Actions::update);
+    connect(m_palette, &PalettePanel::kindPicked, this, &MainWindow::beginCreation);
+    connect(m_palette, &PalettePanel::placeRequested, this, &MainWindow::placeInMiddle);
+    connect(m_view, &PageView::kindDropped, this, [this](const QString &kindId, const QPointF &pos) {
+        m_tool.createAt(m_view->page()->scene(), kindId, pos - halfUsualSize);
+        m_view->setFocus();
+    });
+    const auto toolRests = [this] {
+        m_palette->showWaitingKind({});
+        showHint();
+    };
+    connect(&m_tool, &pagehost::CreationTool::created, this, toolRests);
+    connect(&m_tool, &pagehost::CreationTool::cancelled, this, toolRests);
+    connect(m_view, &PageView::pointerMoved, this, [this](const QPointF &pos) {
+        m_pointer->setText(QStringLiteral("%1, %2").arg(qRound(pos.x())).arg(qRound(pos.y())));
+    });
+    connect(m_view, &PageView::pointerLeft, m_pointer, &QLabel::clear);
+    connect(m_actions->exportPages, &QAction::triggered, this, &MainWindow::exportPages);
+    connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
+    connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::showCurrentPage()
+{
+    m_tool.cancel();
+    if (m_view->page())
+        disconnect(m_view->page(), nullptr, this, nullptr);
+    pagehost::Page *page = m_workspace->document()->currentPage();
+    m_view->setPage(page);
+    m_style->setPage(page);
+    if (page) {
+        connect(page, &pagehost::Page::selectionChanged, this, &MainWindow::showSelection);
+        connect(page, &pagehost::Page::contentChanged, this, &MainWindow::showSelection);
+    }
+    showSelection();
+}
+
+void MainWindow::showSelection()
+{
+    m_actions->update();
+    const pagehost::Page *page = m_view->page();
+    const QRectF bounds = page ? pagehost::boundsOf(page->selectedObjects()) : QRectF();
+    m_size->setText(bounds.isNull()
+                        ? QString()
+                        : QStringLiteral("%1 × %2").arg(qRound(bounds.width())).arg(qRound(bounds.height())));
+    showHint();
+}
+
+void MainWindow::showHint()
+{
+    const char *key = "IDS_BOARD_HINT_IDLE";
+    if (m_tool.isActive())
+        key = "IDS_BOARD_HINT_DRAW";
+    else if (m_view->page() && !m_view->page()->selectedObjects().isEmpty())
+        key = "IDS_BOARD_HINT_SELECTED";
+    m_hint->setText(m_workspace->text(key));
+}
+
+void MainWindow::beginCreation(const QString &kindId)
+{
+    if (kindId.isEmpty())
+        m_tool.cancel();
+    else if (m_view->page() && m_tool.begin(m_view->page()->scene(), kindId))
+        m_palette->showWaitingKind(kindId);
+    showHint();
+    m_view->setFocus();
+}
+
+void MainWindow::placeInMiddle(const QString &kindId)
+{
+    m_tool.cancel();
+    const QPointF middle = m_view->mapToScene(m_view->viewport()->rect().center());
+    m_tool.createAt(m_view->page()->scene(), kindId, middle - halfUsualSize);
+}
+
+void MainWindow::exportPages()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, m_workspace->text("IDS_BOARD_EXPORT"));
+    if (folder.isEmpty())
+        return;
+    const ExportResult result = board::exportPages(m_workspace->document(), folder, 1);
+    if (!result.problems.isEmpty())
+        QMessageBox::warning(this, windowTitle(), result.problems.join(QLatin1Char('\n')));
+    else
+        statusBar()->showMessage(m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()).arg(folder),
+                                 5000);
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, windowTitle(),
+                       m_workspace->text("IDS_BOARD_ABOUT_TEXT").arg(QCoreApplication::applicationVersion()));
+}
+
+} // namespace board

@@ -1,0 +1,25 @@
+#include "window/shortcuts.h"
+
+#include <QtWidgets/QAction>
+
+namespace board {
+
+QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QList<QKeySequence> &ours)
+{
+    QList<QKeySequence> keys = ours;
+    for (const QKeySequence &binding : QKeySequence::keyBindings(key)) {
+        if (!keys.contains(binding))
+            keys.append(binding);
+    }
+    return keys;
+}
+
+void describe(QAction *action)
+{
+    QString name = action->text();
+    name.remove(QLatin1Char('&'));
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, keys));
+}
+
+} // namespace board

@@ -1,0 +1,63 @@
+#include "window/zoomcontrol.h"
+
+#include "application/workspace.h"
+#include "page/pageview.h"
+#include "window/actions.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+namespace {
+
+QString percentText(double rate)
+{
+    return QStringLiteral("%1 %").arg(qRound(rate * 100));
+}
+
+QToolButton *buttonOf(QAction *action, QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setIconSize(QSize(16, 16));
+    button->setAccessibleName(action->text());
+    return button;
+}
+
+} // namespace
+
+ZoomControl::ZoomControl(const Workspace *workspace, const Actions *actions, PageView *view, QWidget *parent)
+    : QWidget(parent)
+    , m_rate(new QToolButton(this))
+{
+    auto *menu = new QMenu(m_rate);
+    for (const double rate : {0.25, 0.5, 1.0, 2.0, 4.0, 8.0})
+        menu->addAction(percentText(rate), view, [view, rate] { view->setZoom(rate); });
+    menu->addSeparator();
+    menu->addAction(actions->fitPage);
+    m_rate->setMenu(menu);
+    m_rate->setPopupMode(QToolButton::InstantPopup);
+    m_rate->setToolTip(workspace->text("IDS_BOARD_ZOOM"));
+    m_rate->setAccessibleName(m_rate->toolTip());
+    m_rate->setMinimumWidth(m_rate->fontMetrics().horizontalAdvance(percentText(8)) + 20);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(buttonOf(actions->zoomOut, this));
+    row->addWidget(m_rate);
+    row->addWidget(buttonOf(actions->zoomIn, this));
+    row->addWidget(buttonOf(actions->fitPage, this));
+    connect(view, &PageView::zoomChanged, this, &ZoomControl::showZoom);
+    showZoom(view->zoom());
+}
+
+void ZoomControl::showZoom(double rate)
+{
+    m_rate->setText(percentText(rate));
+}
+
+} // namespace board
