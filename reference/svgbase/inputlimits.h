@@ -23,7 +23,9 @@ constexpr int gradientReferences = 32;
 constexpr int useDepth = 32;
 /// Most nodes that all "use" elements of a document add to a drawing.
 constexpr int useInstances = 20000;
-/// Most characters of one document that become outlines.
+/// Most outline elements (moves, lines and curves count 1 to 3) that all "use" elements add to a drawing.
+constexpr int usedOutlineElements = 1000000;
+/// Most characters of one document that are set; the rest is left out.
 constexpr int textCharacters = 65536;
 /// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.
 constexpr double coordinate = 1e9;

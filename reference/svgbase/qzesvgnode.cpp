@@ -206,7 +206,7 @@ QZeSvgNode *QZeSvgNode::clone() const
     if (!d->document)
         return nullptr;
     if (d->index == rootNode)
-        return static_cast<const QZeSvgTinyDocument *>(this)->cloneDocument();
+        return QZeSvgNodePrivate::cloneDocument(d->document);
     d->document->storeFlags(d->index);
     return d->document->looseNode(d->document->content.copySubtree(d->index));
 }

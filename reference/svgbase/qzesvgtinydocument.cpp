@@ -22,11 +22,10 @@ QZeSvgTinyDocument *QZeSvgTinyDocument::load(const QByteArray &text, QVector<Mes
     return prototype ? new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(*prototype)) : nullptr;
 }
 
-QZeSvgTinyDocument *QZeSvgTinyDocument::cloneDocument() const
+QZeSvgTinyDocument *QZeSvgNodePrivate::cloneDocument(DocumentPrivate *document)
 {
-    DocumentPrivate *record = DocumentPrivate::of(this);
-    record->storeFlags(rootNode);
-    return new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(*record));
+    document->storeFlags(rootNode);
+    return new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(*document));
 }
 
 QVector<QZeSvgTinyDocument::Message> QZeSvgTinyDocument::messages() const

@@ -38,6 +38,8 @@ private:
     Level childrenOf(NodeIndex node, const FactsPointer &facts, bool used) const;
     NodeIndex usedNode(const Node &use) const;
     bool isOpen(NodeIndex node) const;
+    bool isExhausted() const;
+    void count(const Facts &facts);
     FactsPointer factsOf(NodeIndex node, const Level &level) const;
 
     Document &m_document;
@@ -45,7 +47,20 @@ private:
     QVector<Level> m_levels;
     int m_useDepth = 0;
     int m_instances = 0;
+    qint64 m_outlineElements = 0;
 };
+
+bool Walk::isExhausted() const
+{
+    return m_instances >= Limits::useInstances || m_outlineElements >= Limits::usedOutlineElements;
+}
+
+void Walk::count(const Facts &facts)
+{
+    ++m_instances;
+    for (const Outline &outline : facts.outlines)
+        m_outlineElements += outline.path.elementCount();
+}
 
 bool Walk::isOpen(NodeIndex node) const
 {
@@ -121,10 +136,13 @@ void Walk::step()
     level.nextChild = level.single ? noNode : node.next;
     if (!isDrawable(node.kind) && !direct)
         return;
-    if (level.used && ++m_instances > Limits::useInstances)
-        return;
     const bool used = level.used;
-    visit(child, factsOf(child, level), used);
+    if (used && isExhausted())
+        return;
+    const FactsPointer facts = factsOf(child, level);
+    if (used)
+        count(*facts);
+    visit(child, facts, used);
 }
 
 void Walk::run(NodeIndex top)

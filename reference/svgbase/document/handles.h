@@ -5,6 +5,7 @@
 #include <svgbase/qzesvgnode.h>
 
 class DocumentPrivate;
+class QZeSvgTinyDocument;
 
 /// What stands behind a public node: a place in a document. Node objects are made when somebody asks for one.
 class QZeSvgNodePrivate
@@ -20,6 +21,7 @@ public:
     QZeSvgNodePrivate &operator=(const QZeSvgNodePrivate &) = delete;
 
     static QZeSvgNodePrivate *of(const QZeSvgNode *node) { return node->d.get(); }
+    static QZeSvgTinyDocument *cloneDocument(DocumentPrivate *document);
     static QZeSvgNode *makeNode(DocumentPrivate *document, Svg::NodeIndex index);
 
     /// Null once the document is gone.

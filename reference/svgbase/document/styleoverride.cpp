@@ -19,16 +19,6 @@ Stroke effectiveStroke(const Outline &outline, const ComputedStyle &style, const
 
 } // namespace
 
-double effectiveStrokeWidth(const Facts &facts, const StyleOverride *override)
-{
-    if (facts.outlines.isEmpty())
-        return 0;
-    const Outline &outline = facts.outlines.first();
-    const QPen pen =
-        override ? strokePen(facts.style, effectiveStroke(outline, facts.style, *override)) : outline.pen;
-    return pen.style() == Qt::NoPen ? 0 : pen.widthF();
-}
-
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
 {
     Outline result = outline;

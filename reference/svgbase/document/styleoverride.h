@@ -19,8 +19,6 @@ struct StyleOverride : QSharedData
 
 using StyleOverridePointer = QExplicitlySharedDataPointer<const StyleOverride>;
 
-/// The stroke width that counts, user units; 0 when nothing is stroked.
-double effectiveStrokeWidth(const Facts &facts, const StyleOverride *override);
 /// An outline with its pen and fill replaced as far as the override says.
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override);
 /// The override that is left after the node itself was given `property`: the later word counts. Null when nothing

@@ -5,6 +5,7 @@
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/pens.h"
+#include "resolve/textlayout.h"
 #include "style/cascade.h"
 
 namespace Svg {
@@ -118,7 +119,18 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const
     return QBrush(color);
 }
 
-void Resolver::resolveGeometry(NodeIndex index, Facts *facts) const
+void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, Facts *facts) const
+{
+    Outline outline;
+    outline.path = path;
+    outline.path.setFillRule(style.fillRule);
+    outline.fill = brushOf(style.fill, style.fillOpacity, facts);
+    outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts);
+    outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt});
+    facts->outlines.append(outline);
+}
+
+void Resolver::resolveShape(NodeIndex index, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
     QString problem;
@@ -130,15 +142,21 @@ void Resolver::resolveGeometry(NodeIndex index, Facts *facts) const
         return;
     facts->localBounds = geometry.bounds;
     facts->bounds = mappedBounds(*facts, geometry.path);
-    if (geometry.path.elementCount() == 0)
-        return;
-    Outline outline;
-    outline.path = geometry.path;
-    outline.path.setFillRule(facts->style.fillRule);
-    outline.fill = brushOf(facts->style.fill, facts->style.fillOpacity, facts);
-    outline.strokePaint = brushOf(facts->style.stroke, facts->style.strokeOpacity, facts);
-    outline.pen = strokePen(facts->style, {outline.strokePaint, facts->style.strokeWidth, std::nullopt});
-    facts->outlines.append(outline);
+    if (geometry.path.elementCount() > 0)
+        addOutline(geometry.path, facts->style, facts);
+}
+
+void Resolver::resolveText(NodeIndex index, Facts *facts) const
+{
+    const QVector<TextRun> runs = layOutText(m_tree, index, facts->style, facts->viewport);
+    QPainterPath whole;
+    for (const TextRun &run : runs)
+        whole.addPath(run.path);
+    facts->hasGeometry = !runs.isEmpty();
+    facts->localBounds = whole.boundingRect();
+    facts->bounds = mappedBounds(*facts, whole);
+    for (const TextRun &run : runs)
+        addOutline(run.path, run.style, facts);
 }
 
 FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) const
@@ -150,7 +168,10 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
     facts->viewport = parent ? parent->viewport : rootViewport(node);
     resolveStyle(node, facts);
     resolvePlace(node, facts);
-    resolveGeometry(index, facts);
+    if (node.kind == ElementKind::Text)
+        resolveText(index, facts);
+    else
+        resolveShape(index, facts);
     return result;
 }
 

@@ -25,7 +25,9 @@ public:
 private:
     void resolveStyle(const Node &node, Facts *facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
-    void resolveGeometry(NodeIndex index, Facts *facts) const;
+    void resolveShape(NodeIndex index, Facts *facts) const;
+    void resolveText(NodeIndex index, Facts *facts) const;
+    void addOutline(const QPainterPath &path, const ComputedStyle &style, Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts) const;
     void warn(const Node &node, const QString &text) const;
 

@@ -41,6 +41,7 @@ private:
     QVector<NodeIndex> m_open;
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
+    int m_charactersLeft = Limits::textCharacters;
 };
 
 AttributeId idOf(const QXmlStreamAttribute &attribute)
@@ -130,7 +131,11 @@ void TreeReader::characters()
     } else if (kind == ElementKind::Text || kind == ElementKind::Tspan) {
         Node node;
         node.kind = ElementKind::Characters;
-        node.text = m_xml.text().toString();
+        node.text = m_xml.text().left(m_charactersLeft).toString();
+        if (node.text.size() < m_xml.text().size())
+            m_messages->warn(QStringLiteral("Text beyond %1 characters is left out.").arg(Limits::textCharacters),
+                             m_xml.lineNumber(), m_xml.columnNumber() + 1);
+        m_charactersLeft -= node.text.size();
         add(node);
     }
 }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "style/computedstyle.h"
+
+#include <QtGui/QFont>
+
+namespace Svg {
+
+/// Outlines are taken at this size, pixels, and scaled: painters know whole pixel sizes only.
+constexpr int outlineFontSize = 100;
+
+/// The font of a style at `outlineFontSize`, without hinting, so that it scales evenly.
+QFont outlineFont(const FontStyle &style);
+/// Qt's number for a CSS font weight.
+int qtFontWeight(int weight);
+
+} // namespace Svg
