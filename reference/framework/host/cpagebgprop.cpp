@@ -35,8 +35,9 @@ QPixmap faded(const QPixmap &picture, int opacity)
     QPixmap result(picture.size());
     result.fill(Qt::transparent);
     QPainter painter(&result);
-    painter.setOpacity(double(opacity) / opaque);
     painter.drawPixmap(0, 0, picture);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(result.rect(), withAlpha(Qt::black, opacity));
     return result;
 }
 
