@@ -1,0 +1,27 @@
+#include "ratioreporter.h"
+
+#include <QtCore/QByteArray>
+#include <QtWidgets/QApplication>
+
+void registerLoadBenchmarks();
+void registerDrawBenchmarks();
+void registerDragBenchmarks();
+void registerPageBenchmarks();
+void registerThreadBenchmarks();
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    registerLoadBenchmarks();
+    registerDrawBenchmarks();
+    registerDragBenchmarks();
+    registerPageBenchmarks();
+    registerThreadBenchmarks();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}

@@ -1,0 +1,57 @@
+#include "pageobjects.h"
+
+#include <pagehost/objectregistry.h>
+
+#include <QtWidgets/QGraphicsSceneMouseEvent>
+
+namespace {
+
+const pagehost::ObjectRegistry &registry()
+{
+    static const std::unique_ptr<pagehost::ObjectRegistry> loaded = [] {
+        auto made = std::make_unique<pagehost::ObjectRegistry>();
+        made->loadDirectory(QStringLiteral(GLIOLOLOK_SHAPES));
+        return made;
+    }();
+    return *loaded;
+}
+
+} // namespace
+
+QStringList shapeKinds()
+{
+    QStringList ids;
+    for (const pagehost::ObjectKind &kind : registry().kinds())
+        ids.append(kind.id);
+    return ids;
+}
+
+void sendMouse(CBaseObject *object, int eventType, QPointF pos)
+{
+    QGraphicsSceneMouseEvent event(static_cast<QEvent::Type>(eventType));
+    event.setButton(Qt::LeftButton);
+    event.setButtons(Qt::LeftButton);
+    event.setPos(pos);
+    event.setScenePos(object->mapToScene(pos));
+    if (eventType == QEvent::GraphicsSceneMousePress)
+        object->mousePressEvent(&event);
+    else if (eventType == QEvent::GraphicsSceneMouseMove)
+        object->mouseMoveEvent(&event);
+    else
+        object->mouseReleaseEvent(&event);
+}
+
+std::unique_ptr<CBaseObject> makeShape(const QString &kindId, QSizeF size)
+{
+    std::unique_ptr<CBaseObject> object(registry().createObject(kindId));
+    const QPointF end(size.width(), size.height());
+    sendMouse(object.get(), QEvent::GraphicsSceneMousePress, QPointF(0, 0));
+    sendMouse(object.get(), QEvent::GraphicsSceneMouseMove, end);
+    sendMouse(object.get(), QEvent::GraphicsSceneMouseRelease, end);
+    return object;
+}
+
+QString templateName(const QString &kindId)
+{
+    return kindId.section(QLatin1Char('.'), 1);
+}

@@ -1,0 +1,59 @@
+#include "ratioreporter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+const std::string peer = "peer";
+
+std::vector<std::string> split(const std::string &name)
+{
+    std::vector<std::string> parts;
+    std::istringstream stream(name);
+    for (std::string part; std::getline(stream, part, '/');)
+        parts.push_back(part);
+    return parts;
+}
+
+} // namespace
+
+void RatioReporter::ReportRuns(const std::vector<Run> &runs)
+{
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run &run : runs) {
+        const std::vector<std::string> parts = split(run.run_name.function_name);
+        if (run.run_type != Run::RT_Iteration || run.error_occurred || parts.size() < 3)
+            continue;
+        const double time = run.cpu_accumulated_time / double(run.iterations) * 1e9;
+        double &best = m_times[parts[0]][parts[2]][parts[1]];
+        best = best == 0 ? time : std::min(best, time);
+    }
+}
+
+void RatioReporter::Finalize()
+{
+    std::cout << "\nRatios of CPU time, peer = 1.00, fastest repetition each\n";
+    for (const auto &[figure, cases] : m_times) {
+        std::map<std::string, std::pair<double, int>> logs;
+        std::cout << figure << "\n";
+        for (const auto &[name, times] : cases) {
+            const auto base = times.find(peer);
+            if (base == times.end())
+                continue;
+            for (const auto &[who, time] : times) {
+                if (who == peer)
+                    continue;
+                const double ratio = time / base->second;
+                logs[who].first += std::log(ratio);
+                ++logs[who].second;
+                std::printf("    %-18s %-14s %8.3f\n", name.c_str(), who.c_str(), ratio);
+            }
+        }
+        for (const auto &[who, sum] : logs)
+            std::printf("  = %-18s %-14s %8.3f\n", "geometric mean", who.c_str(), std::exp(sum.first / sum.second));
+    }
+    std::cout.flush();
+}

@@ -1,0 +1,57 @@
+#include "templates.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+BenchTemplate readTemplate(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    const QFileInfo info(path);
+    const bool inShapeFolder = info.fileName() == QStringLiteral("template.svg");
+    return {inShapeFolder ? info.dir().dirName() : info.completeBaseName(), file.readAll(),
+            QStringLiteral("control_1")};
+}
+
+QVector<BenchTemplate> readTemplates()
+{
+    QVector<BenchTemplate> templates;
+    for (const QString &folder : QStringLiteral(GLIOLOLOK_TEMPLATES).split(QLatin1Char(':'))) {
+        QDirIterator files(folder, {QStringLiteral("*.svg")}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            templates.append(readTemplate(files.next()));
+    }
+    std::sort(templates.begin(), templates.end(),
+              [](const BenchTemplate &a, const BenchTemplate &b) { return a.name < b.name; });
+    return templates;
+}
+
+} // namespace
+
+const QVector<BenchTemplate> &benchTemplates()
+{
+    static const QVector<BenchTemplate> templates = readTemplates();
+    return templates;
+}
+
+QByteArray neverSeen(const BenchTemplate &source)
+{
+    static quint64 number = 0;
+    return source.text + "<!-- " + QByteArray::number(++number) + " -->";
+}
+
+QByteArray withMovedNode(const BenchTemplate &source, double x)
+{
+    static const QRegularExpression position(QStringLiteral("id=\"control_1\" x=\"[^\"]*\""));
+    QString text = QString::fromUtf8(source.text);
+    text.replace(position, QStringLiteral("id=\"control_1\" x=\"%1\"").arg(x));
+    return text.toUtf8();
+}
