@@ -67,6 +67,7 @@ bool Flask::loadSVG(bool initGlobals)
 {
     const bool loaded = CSVGBase::loadSVG(initGlobals);
     exemptDecoration();
+    updateSVG(false);
     return loaded;
 }
 
