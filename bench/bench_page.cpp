@@ -70,7 +70,7 @@ void createPage(benchmark::State &state)
         const std::unique_ptr<QGraphicsScene> scene = sceneOfShapes();
         const auto after = mallinfo2();
         const double bytes = double(after.uordblks + after.hblkhd) - double(before.uordblks + before.hblkhd);
-        state.counters["bytes each"] = (bytes - pictureBytes(objectCount)) / objectCount;
+        state.counters["KB each"] = (bytes - pictureBytes(objectCount)) / objectCount / 1024;
     }
 }
 
@@ -82,7 +82,7 @@ void createPagePeer(benchmark::State &state)
         const std::unique_ptr<QGraphicsScene> scene = sceneOfPeers(renderers);
         const auto after = mallinfo2();
         const double bytes = double(after.uordblks + after.hblkhd) - double(before.uordblks + before.hblkhd);
-        state.counters["bytes each"] = bytes / objectCount;
+        state.counters["KB each"] = bytes / objectCount / 1024;
     }
 }
 

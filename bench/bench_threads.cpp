@@ -32,8 +32,12 @@ void copyPicture(benchmark::State &state)
 
 void copyPicturePeer(benchmark::State &state)
 {
+    const std::unique_ptr<CBaseObject> object = makeShape(shapeKinds().first(), QSizeF(side, side));
     QImage picture(side, side, QImage::Format_ARGB32);
-    picture.fill(qRgba(10, 20, 30, 100));
+    picture.fill(Qt::transparent);
+    QPainter picturePainter(&picture);
+    onOtherThread([&] { object->OnQPainterDraw(&picturePainter); });
+    picturePainter.end();
     onOtherThread([&] {
         QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);

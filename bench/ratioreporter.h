@@ -16,6 +16,6 @@ public:
     void Finalize() override;
 
 private:
-    /// The fastest CPU time of each benchmark's repetitions, nanoseconds, by figure, case and who.
-    std::map<std::string, std::map<std::string, std::map<std::string, double>>> m_times;
+    /// The smallest CPU time (nanoseconds) or size (bytes) of the repetitions, by figure, case and who.
+    std::map<std::string, std::map<std::string, std::map<std::string, double>>> m_best;
 };
