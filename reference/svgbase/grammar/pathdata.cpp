@@ -6,6 +6,8 @@
 
 #include <QtCore/QByteArray>
 
+#include <cstring>
+
 namespace Svg {
 
 namespace {
@@ -61,6 +63,11 @@ private:
 char lowerCase(char c)
 {
     return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
+}
+
+bool isCommand(char letter)
+{
+    return letter != '\0' && strchr("mlhvcsqtaz", lowerCase(letter));
 }
 
 bool PathReader::isInRange(const QPointF &point) const
@@ -290,7 +297,7 @@ bool PathReader::readCommands()
             return true;
         const char letter = *m_cursor.at;
         const bool isMove = lowerCase(letter) == 'm';
-        if (m_previous == 0 && !isMove)
+        if (m_previous == 0 ? !isMove : !isCommand(letter))
             return false;
         ++m_cursor.at;
         if (lowerCase(letter) == 'z') {

@@ -10,7 +10,7 @@ struct PathData
 {
     /// Everything before the first error, user units.
     QPainterPath path;
-    /// Offset of the first character that was not understood; -1 when all of the text was.
+    /// Offset of the first letter, coordinate or pair that could not be used; -1 when all of the text was.
     qsizetype errorAt = -1;
     /// Whether reading stopped at the limit of segments.
     bool tooLong = false;
