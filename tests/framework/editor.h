@@ -9,6 +9,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QGraphicsView>
+#include <QtWidgets/QScrollBar>
 
 /// A document with one page in a real view, and the user's hands.
 class Editor
@@ -26,17 +27,19 @@ public:
         view.setFrameShape(QFrame::NoFrame);
         view.viewport()->setMouseTracking(true);
         view.resize(1000, 800);
-        setZoom(zoom);
         view.show();
         if (!QTest::qWaitForWindowExposed(&view)) {
             qFatal("the view is not shown");
         }
+        setZoom(zoom);
     }
 
     void setZoom(double zoom)
     {
         view.setTransform(QTransform::fromScale(zoom, zoom));
         document.setZoomRate(zoom);
+        view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->minimum());
+        view.verticalScrollBar()->setValue(view.verticalScrollBar()->minimum());
     }
 
     template<typename Object = TestObject, typename... Arguments> Object *add(Arguments &&...arguments)

@@ -71,7 +71,9 @@ public:
         } else {
             size.setHeight(ratio.height() * size.width() / ratio.width());
         }
-        content *= size.width() / clientRect.width() * 1.0000001;
+        if (qAbs(size.width() - ratio.width()) >= 1e-7) {
+            content *= size.width() / ratio.width() * 1.0000001;
+        }
         CBaseObject::setSize(size, flag, redraw);
         OnQPainterDraw(nullptr);
         notifyObjPropertyChanged(SizeChanged, QString());
