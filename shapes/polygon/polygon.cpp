@@ -10,6 +10,8 @@ namespace {
 
 /// Between a corner and the frame, document units: half of the widest pen, so that it is never cut off.
 constexpr double cornerMargin = 4;
+/// A damaged file may hold a smaller polygon than can be drawn.
+constexpr QSizeF smallestRoom(1, 1);
 constexpr int numberDigits = 10;
 
 double within(double value, double low, double high)
@@ -28,21 +30,23 @@ QPointF Polygon::controlPointCentre(int index)
 {
     const QPointF corner = m_corners.value(index);
     const QRectF range = controlPointRange(index);
-    return {within(corner.x() * size().width(), range.left(), range.right()),
-            within(corner.y() * size().height(), range.top(), range.bottom())};
+    return {within(range.left() + corner.x() * range.width(), range.left(), range.right()),
+            within(range.top() + corner.y() * range.height(), range.top(), range.bottom())};
 }
 
 void Polygon::takeControlPoint(int index, QPointF centre)
 {
     if (m_corners.size() <= index)
         m_corners.resize(index + 1);
-    m_corners[index] = QPointF(centre.x() / size().width(), centre.y() / size().height());
+    const QRectF range = controlPointRange(index);
+    m_corners[index] =
+        QPointF((centre.x() - range.left()) / range.width(), (centre.y() - range.top()) / range.height());
 }
 
 QRectF Polygon::controlPointRange(int)
 {
-    const QSizeF room = size() - QSizeF(cornerMargin, cornerMargin);
-    return QRectF(QPointF(cornerMargin, cornerMargin), QPointF(room.width(), room.height()));
+    const QSizeF room = size() - QSizeF(2 * cornerMargin, 2 * cornerMargin);
+    return QRectF(QPointF(cornerMargin, cornerMargin), room.expandedTo(smallestRoom));
 }
 
 void Polygon::writeFigure()

@@ -21,6 +21,6 @@ protected:
     void writeFigure() override;
 
 private:
-    /// As parts of width and height.
+    /// As parts of the width and height that corners may take up.
     QVector<QPointF> m_corners;
 };

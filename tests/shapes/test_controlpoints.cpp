@@ -59,8 +59,8 @@ void TestControlPoints::standWhereTheTemplateSays_data()
     QTest::newRow("rounded rectangle") << "roundedrectangle" << 1 << QPointF(20, 8);
     QTest::newRow("arrow head") << "blockarrow" << 1 << QPointF(86, 27);
     QTest::newRow("arrow notch") << "blockarrow" << 2 << QPointF(4, 41);
-    QTest::newRow("first corner") << "polygon" << 1 << QPointF(56, 2);
-    QTest::newRow("last corner") << "polygon" << 5 << QPointF(3, 41);
+    QTest::newRow("first corner") << "polygon" << 1 << QPointF(56, 0);
+    QTest::newRow("last corner") << "polygon" << 5 << QPointF(0, 41);
     QTest::newRow("level") << "flask" << 1 << QPointF(56, 86);
 }
 
@@ -100,8 +100,8 @@ void TestControlPoints::dragInsideTheLimitsLandsExactly_data()
     QTest::newRow("radius, sloppily") << "roundedrectangle" << 1 << QPointF(-7, 20) << QPointF(13, 8);
     QTest::newRow("arrow head") << "blockarrow" << 1 << QPointF(-20, -8.5) << QPointF(66, 18.5);
     QTest::newRow("arrow notch") << "blockarrow" << 2 << QPointF(12, 5) << QPointF(16, 41);
-    QTest::newRow("corner 2") << "polygon" << 2 << QPointF(-10, 7) << QPointF(99, 48);
-    QTest::newRow("corner 4") << "polygon" << 4 << QPointF(20.5, -30.25) << QPointF(43.5, 72.75);
+    QTest::newRow("corner 2") << "polygon" << 2 << QPointF(-10, 7) << QPointF(102, 48);
+    QTest::newRow("corner 4") << "polygon" << 4 << QPointF(20.5, -30.25) << QPointF(41.5, 75.75);
     QTest::newRow("level") << "flask" << 1 << QPointF(50, 20) << QPointF(56, 106);
 }
 
@@ -274,7 +274,7 @@ void TestControlPoints::otherCornersOfThePolygonStay()
     shape.createByClick();
     shape.select();
     shape.dragControlPoint(3, QPointF(-12, -9));
-    const QVector<QPointF> expected{{60, 6}, {113, 45}, {81, 98}, {27, 107}, {7, 45}};
+    const QVector<QPointF> expected{{60, 4}, {116, 45}, {83, 101}, {25, 110}, {4, 45}};
     const QPolygonF corners = shape.document().namedNode(QStringLiteral("figure"))->polygon();
     for (int i = 0; i < expected.size(); ++i)
         QCOMPARE(corners.value(i), expected.at(i));
@@ -317,9 +317,9 @@ void TestControlPoints::controlPointsAreNoPartOfTheFill()
     shape.createByClick();
     QPainterPath outline;
     QVERIFY(shape.core().getOutlineRegion(&outline));
-    QVERIFY(!outline.contains(QPointF(57, 3)));
-    QVERIFY(shape.controlPoint(1).contains(QPointF(57, 3)));
-    QCOMPARE(shape.colorAt(QPoint(57, 3)), QColor(Qt::white));
+    QVERIFY(!outline.contains(QPointF(57, 1)));
+    QVERIFY(shape.controlPoint(1).contains(QPointF(57, 1)));
+    QCOMPARE(shape.colorAt(QPoint(57, 1)), QColor(Qt::white));
 }
 
 QTEST_MAIN(TestControlPoints)
