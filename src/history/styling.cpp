@@ -142,5 +142,7 @@ void CSVGBase::setFillBrush(const QBrush &brush, bool record, bool)
 
 void CSVGBase::updateBrush(const QBrush &brush)
 {
-    document->setAllFillBrush(brush);
+    // Painting comes here also for a shape whose document could not be loaded.
+    if (document)
+        document->setAllFillBrush(brush);
 }
