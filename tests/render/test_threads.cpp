@@ -1,0 +1,280 @@
+#include "messagecatcher.h"
+
+#include <support/shapefixture.h>
+
+#include <QtTest/QtTest>
+
+#include <array>
+#include <atomic>
+#include <memory>
+#include <vector>
+
+using support::ShapeFixture;
+using support::TestShape;
+using support::twoPointTemplate;
+
+/// Painting from threads that do not own the page object: they copy the picture and touch nothing else.
+class TestThreads : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anotherThreadCopiesThePicture();
+    void thePictureIsStretchedIntoTheClientRectangle();
+    void anotherThreadCallsNeitherHostNorCore();
+    void beforeTheFirstRenderingNothingIsCopied();
+    void aCopyWaitsForTheRendering();
+    void aCopyLetsTheLockGo();
+    void withoutPainterAnotherThreadRenders();
+    void copiesNeverSeeAHalfDrawnPicture();
+};
+
+namespace {
+
+/// A page object whose drawing operation is the library's own, nothing logged.
+class PlainObject : public CSVGObj
+{
+public:
+    PlainObject()
+        : CSVGObj(0, true, nullptr)
+    {
+    }
+    TestShape *makeCore()
+    {
+        auto *core = new TestShape(this, twoPointTemplate());
+        svgBase = core;
+        return core;
+    }
+    void place(QRectF rect) { clientRect = rect; }
+
+    using CSVGObj::cacheImage;
+    using CSVGObj::cacheMutex;
+
+    QString kindName() const override { return QStringLiteral("IDS_TEST_SHAPE"); }
+    bool createSVGBase(int, bool) override { return false; }
+};
+
+/// What the object paints onto a transparent picture of that size, in a thread of its own.
+QImage copyInAnotherThread(CSVGObj &object, QSize size)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        QPainter painter(&image);
+        object.OnQPainterDraw(&painter);
+    }));
+    thread->start();
+    thread->wait();
+    return image;
+}
+
+/// Four quarters of 1 × 1: red, green, blue, white.
+QImage quarters()
+{
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.setPixelColor(0, 0, Qt::red);
+    image.setPixelColor(1, 0, Qt::green);
+    image.setPixelColor(0, 1, Qt::blue);
+    image.setPixelColor(1, 1, Qt::white);
+    return image;
+}
+
+constexpr int pictureSide = 32;
+constexpr int workerCount = 4;
+constexpr int copiesWanted = 60;
+constexpr int maxRenderings = 100000;
+
+/// Copies the picture over and over and looks at what it got.
+class Copier : public QThread
+{
+public:
+    explicit Copier(CSVGObj &object)
+        : m_object(object)
+    {
+    }
+    std::atomic<int> copies{0};
+    std::atomic<int> mixed{0};
+    std::atomic<int> changes{0};
+    std::atomic<bool> stop{false};
+
+protected:
+    void run() override
+    {
+        QRgb last = 0;
+        while (!stop) {
+            QImage image(pictureSide, pictureSide, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            {
+                QPainter painter(&image);
+                m_object.OnQPainterDraw(&painter);
+            }
+            if (!isOneColor(image))
+                ++mixed;
+            changes += image.pixel(0, 0) != last;
+            last = image.pixel(0, 0);
+            ++copies;
+            usleep(20);
+        }
+    }
+
+private:
+    static bool isOneColor(const QImage &image)
+    {
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, y) != image.pixel(0, 0) || qAlpha(image.pixel(x, y)) != 255)
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    CSVGObj &m_object;
+};
+
+} // namespace
+
+void TestThreads::anotherThreadCopiesThePicture()
+{
+    PlainObject object;
+    object.place({3, 4, 2, 2});
+    object.cacheImage = quarters();
+    QImage expected(10, 10, QImage::Format_ARGB32);
+    expected.fill(Qt::transparent);
+    QPainter painter(&expected);
+    painter.drawImage(3, 4, quarters());
+    painter.end();
+    QCOMPARE(copyInAnotherThread(object, {10, 10}), expected);
+}
+
+void TestThreads::thePictureIsStretchedIntoTheClientRectangle()
+{
+    PlainObject object;
+    object.place({2, 1, 6, 4});
+    object.cacheImage = quarters();
+    const QImage copy = copyInAnotherThread(object, {10, 10});
+    for (int y = 0; y < 10; ++y) {
+        for (int x = 0; x < 10; ++x) {
+            const bool inside = x >= 2 && x < 8 && y >= 1 && y < 5;
+            const QRgb expected = inside ? quarters().pixel(x < 5 ? 0 : 1, y < 3 ? 0 : 1) : 0;
+            QCOMPARE(copy.pixel(x, y), expected);
+        }
+    }
+}
+
+void TestThreads::anotherThreadCallsNeitherHostNorCore()
+{
+    PlainObject object;
+    object.place({0, 0, 40, 20});
+    object.makeCore()->loadSVG(false);
+    QVERIFY(!object.cacheImage.isNull());
+    recording::clear();
+    copyInAnotherThread(object, {40, 20});
+    QCOMPARE(recording::names(), QStringList());
+}
+
+void TestThreads::beforeTheFirstRenderingNothingIsCopied()
+{
+    PlainObject object;
+    object.place({0, 0, 40, 20});
+    object.makeCore();
+    recording::clear();
+    const MessageCatcher catcher;
+    QImage transparent(40, 20, QImage::Format_ARGB32);
+    transparent.fill(Qt::transparent);
+    QCOMPARE(copyInAnotherThread(object, {40, 20}), transparent);
+    QCOMPARE(recording::names(), QStringList());
+    QCOMPARE(catcher.messages(), QStringList());
+}
+
+void TestThreads::aCopyWaitsForTheRendering()
+{
+    PlainObject object;
+    object.place({0, 0, 2, 2});
+    object.cacheImage = quarters();
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        QPainter painter(&image);
+        object.OnQPainterDraw(&painter);
+    }));
+    object.cacheMutex.lock();
+    thread->start();
+    const bool copiedMeanwhile = thread->wait(100);
+    object.cacheMutex.unlock();
+    QVERIFY(!copiedMeanwhile);
+    QVERIFY(thread->wait(60000));
+    QCOMPARE(image, quarters());
+}
+
+void TestThreads::aCopyLetsTheLockGo()
+{
+    PlainObject object;
+    object.place({0, 0, 2, 2});
+    object.cacheImage = quarters();
+    copyInAnotherThread(object, {2, 2});
+    QVERIFY(object.cacheMutex.tryLock());
+    object.cacheMutex.unlock();
+}
+
+void TestThreads::withoutPainterAnotherThreadRenders()
+{
+    PlainObject object;
+    object.makeCore()->loadSVG(false);
+    object.place({0, 0, 40, 20});
+    recording::clear();
+    const std::unique_ptr<QThread> thread(QThread::create([&] { object.OnQPainterDraw(nullptr); }));
+    thread->start();
+    thread->wait();
+    QCOMPARE(object.cacheImage.size(), QSize(40, 20));
+    QCOMPARE(recording::lastArguments("shape", "paint"), QVariantList({true}));
+}
+
+void TestThreads::copiesNeverSeeAHalfDrawnPicture()
+{
+    recording::resetFramework();
+    recording::resetSvg();
+    PlainObject object;
+    object.place({0, 0, pictureSide, pictureSide});
+    TestShape *core = object.makeCore();
+    const std::array<QColor, 3> colors{Qt::red, Qt::green, Qt::blue};
+    QColor color = colors[0];
+    recording::svg().drawHook = [&color](QPainter *painter) {
+        painter->fillRect(QRect(0, 0, pictureSide / 2, pictureSide), color);
+        QThread::usleep(50);
+        painter->fillRect(QRect(pictureSide / 2, 0, pictureSide / 2, pictureSide), color);
+    };
+    core->loadSVG(false); // renders for the first time
+
+    std::vector<std::unique_ptr<Copier>> copiers;
+    for (int i = 0; i < workerCount; ++i) {
+        copiers.push_back(std::make_unique<Copier>(object));
+        copiers.back()->start();
+    }
+    const auto isBusy = [](const std::unique_ptr<Copier> &copier) { return copier->copies < copiesWanted; };
+    for (int rendering = 0; rendering < maxRenderings; ++rendering) {
+        if (std::none_of(copiers.begin(), copiers.end(), isBusy))
+            break;
+        color = colors[rendering % colors.size()];
+        object.OnQPainterDraw(nullptr);
+        recording::clear();
+        QThread::usleep(20);
+    }
+    for (const auto &copier : copiers)
+        copier->stop = true;
+    for (const auto &copier : copiers)
+        copier->wait();
+
+    int changes = 0;
+    for (const auto &copier : copiers) {
+        QVERIFY(copier->copies >= copiesWanted);
+        QCOMPARE(copier->mixed.load(), 0);
+        changes += copier->changes;
+    }
+    QVERIFY2(changes > workerCount, "the copies must really have met several pictures");
+    recording::resetSvg();
+}
+
+QTEST_MAIN(TestThreads)
+
+#include "test_threads.moc"
