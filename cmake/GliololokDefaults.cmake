@@ -35,8 +35,10 @@ if(GLIOLOLOK_SANITIZE)
     add_link_options(-fsanitize=${GLIOLOLOK_SANITIZE})
 endif()
 
-# gliololok_own_code(<target>): our warnings for our own code, and the shared precompiled header.
+# gliololok_own_code(<target> [PCH_FROM <other>]): our warnings for our own code, and a precompiled header, its own or that
+# of another target of the same kind (compiling one takes longer than most of our files).
 function(gliololok_own_code target)
+    cmake_parse_arguments(ARG "" "PCH_FROM" "" ${ARGN})
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align
                                              -Wno-overloaded-virtual)
     if(GLIOLOLOK_WARNINGS_AS_ERRORS)
@@ -48,6 +50,10 @@ function(gliololok_own_code target)
         # ccache needs this to reuse objects built with a precompiled header.
         target_compile_options(${target} PRIVATE -fpch-preprocess)
     endif()
-    target_precompile_headers(${target} PRIVATE <QtCore/QtCore> <QtGui/QPainter> <QtGui/QPainterPath>
-                                                <QtWidgets/QGraphicsItem>)
+    if(ARG_PCH_FROM)
+        target_precompile_headers(${target} REUSE_FROM ${ARG_PCH_FROM})
+    else()
+        target_precompile_headers(${target} PRIVATE <QtCore/QtCore> <QtGui/QPainter> <QtGui/QPainterPath>
+                                                    <QtWidgets/QGraphicsItem>)
+    endif()
 endfunction()
