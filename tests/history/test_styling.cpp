@@ -4,8 +4,6 @@
 #include <support/shapefixture.h>
 #include <support/streams.h>
 
-#include <framework/cundoredo.h>
-
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -16,6 +14,7 @@ using support::ShapeFixture;
 using support::svgText;
 using support::TestShape;
 using support::twoPointTemplate;
+using support::undoStack;
 
 /// The document-wide pen and fill, and the control points that follow the pen width.
 class TestStyling : public QObject
@@ -88,11 +87,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QUndoStack &undoStack()
-{
-    return *CUndoRedo::GetInstance()->stack();
-}
 
 /// Two control points, 8 × 8 at (10, 20) and (60, 30), that follow the pen width.
 class Following : public ShapeFixture

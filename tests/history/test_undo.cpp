@@ -1,7 +1,6 @@
 #include <support/shapefixture.h>
 #include <support/streams.h>
 
-#include <framework/cundoredo.h>
 #include <framework/ilocalize.h>
 #include <svgobj/csvgbaseundocmd.h>
 
@@ -11,8 +10,8 @@
 using support::bytesOf;
 using support::inputOf;
 using support::ShapeFixture;
-using support::svgText;
 using support::twoPointTemplate;
+using support::undoStack;
 
 /// The undo command: what it keeps, and what undo and redo replay.
 class TestUndo : public QObject
@@ -61,11 +60,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QUndoStack &undoStack()
-{
-    return *CUndoRedo::GetInstance()->stack();
-}
 
 /// A shape that keeps what is replayed instead of applying it.
 class Replayed : public ShapeFixture

@@ -1,5 +1,7 @@
 #include <support/shapefixture.h>
 
+#include <framework/cundoredo.h>
+
 namespace support {
 
 QString svgText(const QString &viewBox, const QString &content)
@@ -21,6 +23,11 @@ QString controlPointsText(int count)
     for (int i = 1; i <= count; ++i)
         text += QStringLiteral("<rect id='control_%1' x='%2' y='0' width='8' height='8'/>").arg(i).arg(10 * i);
     return text;
+}
+
+QUndoStack &undoStack()
+{
+    return *CUndoRedo::GetInstance()->stack();
 }
 
 ShapeFixture::FreshHost::FreshHost(double zoom)

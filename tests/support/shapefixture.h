@@ -9,6 +9,7 @@
 #include <svgobj/csvganimate.h>
 
 #include <QtWidgets/QGraphicsScene>
+#include <QtWidgets/QUndoStack>
 
 namespace support {
 
@@ -18,6 +19,9 @@ QString twoPointTemplate();
 QString svgText(const QString &viewBox, const QString &content);
 /// `count` control points "control_1" ... of 8 × 8, point i at (10 i, 0).
 QString controlPointsText(int count);
+
+/// The process-wide undo stack, emptied by every fixture.
+QUndoStack &undoStack();
 
 /// A page object with a core, on a page of a document that is edited at 100 %. The recording host starts afresh
 /// with every fixture. Typical use:
