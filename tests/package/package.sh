@@ -1,0 +1,114 @@
+#!/bin/bash
+# One step of the package test: package.sh STEP SOURCE-DIR BUILD-DIR PREFIX
+# CXX names the compiler and LIBDIR the library directory below the prefix.
+set -eu
+step=$1 source=$2 build=$3 prefix=$4
+libraries="$prefix/$LIBDIR"
+work=$(dirname "$prefix")
+
+fail() {
+    echo "FAIL: $*" >&2
+    exit 1
+}
+
+# The compiler flags that an outside user gets.
+package_flags() {
+    PKG_CONFIG_PATH="$libraries/pkgconfig" pkg-config "$@" gliololok
+}
+
+step_install() {
+    rm -rf "$prefix"
+    cmake --install "$build" --prefix "$prefix" >/dev/null
+    [ -e "$libraries/gliololok.so.1" ] || fail "the library was not installed"
+}
+
+# same_headers DIRECTORY INSTALLED-DIRECTORY: both hold the same headers, with the same contents.
+same_headers() {
+    diff -r "$1" "$2" || fail "$2 differs from $1"
+}
+
+step_headers() {
+    local expected="csvganimate.h csvgbase.h csvgbaseundocmd.h csvgobj.h csvgpropitem.h svgobj_global.h"
+    local actual
+    actual=$(cd "$prefix/include/svgobj" && LC_ALL=C ls | tr '\n' ' ')
+    [ "$actual" = "$expected " ] || fail "include/svgobj holds: $actual"
+    same_headers "$source/include/svgobj" "$prefix/include/svgobj"
+    same_headers "$source/src/host/framework" "$prefix/include/gliololok-host/framework"
+    same_headers "$source/src/host/svgbase" "$prefix/include/gliololok-host/svgbase"
+    same_headers "$source/reference/framework/include/pagehost" "$prefix/include/gliololok-host/pagehost"
+}
+
+step_soname() {
+    local soname
+    soname=$(readelf -d "$libraries/gliololok.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
+    [ "$soname" = gliololok.so.1 ] || fail "the soname is '$soname'"
+}
+
+step_standalone_headers() {
+    local header name flags count=0
+    flags=$(package_flags --cflags)
+    for header in "$prefix"/include/svgobj/*.h "$prefix"/include/gliololok-host/*/*.h; do
+        name="$(basename "$(dirname "$header")")/$(basename "$header")"
+        # shellcheck disable=SC2086
+        echo "#include <$name>" | "$CXX" -std=c++17 -Wall -Wextra -Werror -fsyntax-only $flags -x c++ - ||
+            fail "<$name> does not compile on its own"
+        count=$((count + 1))
+    done
+    [ "$count" -ge 20 ] || fail "only $count headers were found"
+}
+
+# run_consumer PROGRAM: it says itself what went wrong.
+run_consumer() {
+    local output
+    output=$("$1") || fail "the consumer failed: $output"
+    [ "$output" = "all as expected" ] || fail "the consumer says: $output"
+}
+
+step_cmake_consumer() {
+    local directory="$work/consumer-cmake"
+    rm -rf "$directory"
+    cmake -S "$source/tests/package/consumer" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+        -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+    cmake --build "$directory" >/dev/null
+    run_consumer "$directory/consumer"
+}
+
+step_pkgconfig_consumer() {
+    local directory="$work/consumer-pkgconfig"
+    mkdir -p "$directory"
+    # shellcheck disable=SC2046
+    "$CXX" -std=c++17 -Wall -Wextra -Werror -o "$directory/consumer" "$source"/tests/package/consumer/*.cpp \
+        $(package_flags --cflags --libs)
+    export LD_LIBRARY_PATH="$libraries"
+    run_consumer "$directory/consumer"
+}
+
+# Builds the example of an outside shape, which the installed board must then accept.
+step_example() {
+    local directory="$work/example" pages="$work/pages-without-example" pages_with="$work/pages-with-example" output
+    rm -rf "$directory"
+    cmake -S "$source/examples/speechbubble" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+        -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+    cmake --build "$directory" >/dev/null
+    mkdir -p "$work/plugins"
+    cp "$directory/speechbubble.so" "$work/plugins"
+    rm -rf "$pages" "$pages_with"
+    "$prefix/bin/gliololok-board" --export "$pages" >/dev/null
+    output=$("$prefix/bin/gliololok-board" --plugins "$work/plugins" --export "$pages_with" 2>&1) ||
+        fail "the installed board failed: $output"
+    case $output in
+    *speechbubble*) fail "the board has something to say about the example: $output" ;;
+    esac
+    # The exported pages show every shape there is.
+    ! diff -rq "$pages" "$pages_with" >/dev/null || fail "the pages do not show the example"
+}
+
+# The installed board must find its libraries and its shapes without any help.
+step_board() {
+    local output
+    rm -rf "$work/pages"
+    output=$("$prefix/bin/gliololok-board" --export "$work/pages" 2>&1) || fail "the installed board failed: $output"
+    ls "$work"/pages/*.png >/dev/null || fail "the installed board painted no page: $output"
+}
+
+"step_$step"

@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+"""The rule checker itself: it must find each kind of breach and leave good files alone."""
+
+import os
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts"))
+import check_rules  # noqa: E402
+
+
+class Tree:
+    """A source tree made for one test."""
+
+    def __init__(self):
+        self.directory = tempfile.TemporaryDirectory()
+
+    def write(self, path, text):
+        full = os.path.join(self.directory.name, path)
+        os.makedirs(os.path.dirname(full), exist_ok=True)
+        with open(full, "w", encoding="utf-8") as file:
+            file.write(text)
+
+    def breaches(self):
+        return list(check_rules.breaches(self.directory.name))
+
+
+class CheckRules(unittest.TestCase):
+    def setUp(self):
+        self.tree = Tree()
+        self.addCleanup(self.tree.directory.cleanup)
+
+    def include(self, path, *names):
+        self.tree.write(path, "".join(f"#include {name}\n" for name in names))
+
+    def test_good_includes_pass(self):
+        self.include("src/shape/mapping.h", "<QtCore/QPointF>", "<cmath>")
+        self.include("src/shape/mapping.cpp", '"shape/mapping.h"', "<svgobj/csvgbase.h>", "<framework/idocument.h>")
+        self.include("shapes/flask/flask.cpp", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
+        self.include("board/window.cpp", "<pagehost/document.h>", "<QtPrintSupport/QPrinter>")
+        self.assertEqual(self.tree.breaches(), [])
+
+    def test_library_may_not_see_the_reference_host(self):
+        self.include("src/shape/mapping.cpp", "<pagehost/document.h>")
+        self.assertEqual(
+            self.tree.breaches(), ["src/shape/mapping.cpp:1: may not include pagehost/document.h"]
+        )
+
+    def test_svg_library_may_not_see_the_framework(self):
+        self.include("reference/svgbase/parser.cpp", "<svgbase/qzesvgnode.h>", "<framework/cutil.h>")
+        self.assertEqual(
+            self.tree.breaches(), ["reference/svgbase/parser.cpp:2: may not include framework/cutil.h"]
+        )
+
+    def test_framework_may_not_see_the_library(self):
+        self.include("reference/framework/page.cpp", "<svgobj/csvgobj.h>")
+        self.assertEqual(len(self.tree.breaches()), 1)
+
+    def test_board_may_not_see_shapes_or_svg(self):
+        self.include("shapes/flask/flask.h", "<QtCore/QString>")
+        self.include("board/window.cpp", "<svgbase/qzesvgnode.h>", '"flask/flask.h"', '"../shapes/flask/flask.h"')
+        self.assertEqual(len(self.tree.breaches()), 3)
+
+    def test_shapes_may_see_only_the_plugin_interface(self):
+        self.include("shapes/flask/flask.cpp", "<pagehost/document.h>")
+        self.assertEqual(len(self.tree.breaches()), 1)
+
+    def test_other_qt_modules_are_refused(self):
+        self.include("src/render/painting.cpp", "<QtSvg/QSvgRenderer>")
+        self.include("src/render/other.cpp", "<QPainter>")
+        self.assertEqual(len(self.tree.breaches()), 2)
+
+    def test_700_lines_pass_and_701_do_not(self):
+        self.tree.write("docs/good.md", "line\n" * 700)
+        self.assertEqual(self.tree.breaches(), [])
+        self.tree.write("docs/long.md", "line\n" * 701)
+        self.assertEqual(self.tree.breaches(), ["docs/long.md: 701 lines, more than 700"])
+
+    def test_a_path_of_one_machine_is_found(self):
+        home = "/" + "home" + "/somebody"
+        self.tree.write("docs/notes.md", f"See {home}/notes.\n")
+        self.assertEqual(len(self.tree.breaches()), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()
