@@ -1,0 +1,197 @@
+#include "resolve/fonts.h"
+#include "svgdrawing.h"
+
+#include <QtGui/QFontMetricsF>
+#include <QtTest>
+
+using namespace Svg;
+
+namespace {
+
+QRectF textBounds(const QString &content)
+{
+    const DocumentPointer document = loadContent(content);
+    return document ? document->namedNode("t")->boundingRect() : QRectF();
+}
+
+/// Room that characters take at a font size of 20 in the font of these tests.
+double advance(const QString &characters)
+{
+    FontStyle style;
+    style.family = QStringLiteral("DejaVu Sans");
+    return QFontMetricsF(outlineFont(style)).horizontalAdvance(characters) * 20 / outlineFontSize;
+}
+
+const QString start = QStringLiteral("<text id='t' font-family='DejaVu Sans' font-size='20' ");
+
+bool isNear(double a, double b)
+{
+    return qAbs(a - b) < 0.05;
+}
+
+} // namespace
+
+class TestText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void standsOnItsBaseline();
+    void sizeScalesTheOutlines();
+    void anchorMovesTheLine_data();
+    void anchorMovesTheLine();
+    void boldAndItalicTakeAnotherFace();
+    void whiteSpaceIsCollapsed();
+    void whiteSpaceIsPreservedOnRequest();
+    void tspanContinuesTheLine();
+    void tspanStartsAnewWhereItSays();
+    void tspanIsMovedByDxAndDy();
+    void tspanHasItsOwnPaint();
+    void documentWideFillReachesText();
+    void changedTspanMovesTheRest();
+    void textWithoutCharactersHasNoBounds();
+    void fontWeights_data();
+    void fontWeights();
+};
+
+void TestText::standsOnItsBaseline()
+{
+    const QRectF bounds = textBounds(start + "x='10' y='50'>H</text>");
+    QVERIFY(isNear(bounds.bottom(), 50));
+    // A capital is about 0.73 of the font size high.
+    QVERIFY(bounds.height() > 13 && bounds.height() < 16);
+    QVERIFY(bounds.left() > 10 && bounds.left() < 13);
+    const QImage image = drawnContent(start + "x='10' y='50'>H</text>");
+    const QRect inside = bounds.toAlignedRect();
+    int painted = 0;
+    for (int x = inside.left(); x <= inside.right(); ++x)
+        painted += image.pixelColor(x, 43).alpha() > 100 ? 1 : 0;
+    QVERIFY(painted >= 2);
+}
+
+void TestText::sizeScalesTheOutlines()
+{
+    const QRectF small = textBounds("<text id='t' font-size='10'>Hg</text>");
+    const QRectF large = textBounds("<text id='t' font-size='35'>Hg</text>");
+    QVERIFY(!small.isEmpty());
+    QVERIFY(isNear(large.width(), small.width() * 3.5));
+    QVERIFY(isNear(large.height(), small.height() * 3.5));
+}
+
+void TestText::anchorMovesTheLine_data()
+{
+    QTest::addColumn<QString>("anchor");
+    QTest::addColumn<double>("share");
+    QTest::newRow("start") << "start" << 0.0;
+    QTest::newRow("middle") << "middle" << 0.5;
+    QTest::newRow("end") << "end" << 1.0;
+}
+
+void TestText::anchorMovesTheLine()
+{
+    QFETCH(QString, anchor);
+    QFETCH(double, share);
+    const double left = textBounds(start + "x='50'>HHH</text>").left();
+    const QRectF moved = textBounds(start + QStringLiteral("x='50' text-anchor='%1'>HHH</text>").arg(anchor));
+    QVERIFY(isNear(moved.left(), left - share * advance("HHH")));
+}
+
+void TestText::boldAndItalicTakeAnotherFace()
+{
+    const double normal = textBounds(start + ">HHH</text>").width();
+    QVERIFY(textBounds(start + "font-weight='bold'>HHH</text>").width() > normal + 1);
+    QVERIFY(drawnContent(start + "y='50' font-style='italic'>HHH</text>") !=
+            drawnContent(start + "y='50'>HHH</text>"));
+}
+
+void TestText::whiteSpaceIsCollapsed()
+{
+    QCOMPARE(drawnContent(start + "y='50'>\n  H \t\n H  </text>"), drawnContent(start + "y='50'>H H</text>"));
+}
+
+void TestText::whiteSpaceIsPreservedOnRequest()
+{
+    const double left = textBounds(start + ">H</text>").left();
+    const double moved = textBounds(start + "xml:space='preserve'>  H</text>").left();
+    QVERIFY(isNear(moved, left + 2 * advance(" ")));
+}
+
+void TestText::tspanContinuesTheLine()
+{
+    const QRectF whole = textBounds(start + "y='50'>H H</text>");
+    const QRectF parts = textBounds(start + "y='50'>H<tspan> </tspan><tspan>H</tspan></text>");
+    QVERIFY(isNear(whole.left(), parts.left()) && isNear(whole.right(), parts.right()));
+}
+
+void TestText::tspanStartsAnewWhereItSays()
+{
+    const QRectF bounds = textBounds(start + "x='0' y='20'>H<tspan x='0' y='60'>H</tspan></text>");
+    const QRectF one = textBounds(start + "x='0' y='20'>H</text>");
+    QVERIFY(isNear(bounds.width(), one.width()));
+    QVERIFY(isNear(bounds.bottom(), one.bottom() + 40));
+}
+
+void TestText::tspanIsMovedByDxAndDy()
+{
+    const QRectF plain = textBounds(start + "y='50'>H<tspan>H</tspan></text>");
+    const QRectF moved = textBounds(start + "y='50'>H<tspan dx='7' dy='5'>H</tspan></text>");
+    QVERIFY(isNear(moved.right(), plain.right() + 7));
+    QVERIFY(isNear(moved.bottom(), plain.bottom() + 5));
+}
+
+void TestText::tspanHasItsOwnPaint()
+{
+    const QImage image = drawnContent("<text font-family='DejaVu Sans' font-size='90' y='90' fill='red'>I<tspan "
+                                      "x='50' fill='blue'>I</tspan></text>");
+    QSet<QRgb> colors;
+    for (int x = 0; x < 100; ++x) {
+        if (image.pixelColor(x, 60).alpha() == 255)
+            colors.insert(image.pixel(x, 60));
+    }
+    QCOMPARE(colors, QSet<QRgb>({qRgb(255, 0, 0), qRgb(0, 0, 255)}));
+}
+
+void TestText::documentWideFillReachesText()
+{
+    const DocumentPointer document = loadContent(start + "y='50' fill='red'>H<tspan fill='blue'>H</tspan></text>");
+    document->setAllFillBrush(QColor(0, 255, 0));
+    const DocumentPointer expected = loadContent(start + "y='50' fill='#0f0'>HH</text>");
+    QCOMPARE(drawn(*document), drawn(*expected));
+}
+
+void TestText::changedTspanMovesTheRest()
+{
+    const DocumentPointer document = loadContent(start + "y='50'>H<tspan id='s'>H</tspan>H</text>");
+    const double before = document->namedNode("t")->boundingRect().right();
+    document->namedNode("s")->setAttribute("dx", "9");
+    QVERIFY(isNear(document->namedNode("t")->boundingRect().right(), before + 9));
+}
+
+void TestText::textWithoutCharactersHasNoBounds()
+{
+    QVERIFY(textBounds(start + "x='10' y='10'> </text>").isNull());
+    QVERIFY(textBounds("<text id='t' font-size='0'>H</text>").isNull());
+}
+
+void TestText::fontWeights_data()
+{
+    QTest::addColumn<int>("weight");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("thin") << 100 << int(QFont::Thin);
+    QTest::newRow("normal") << 400 << int(QFont::Normal);
+    QTest::newRow("medium") << 500 << int(QFont::Medium);
+    QTest::newRow("bold") << 700 << int(QFont::Bold);
+    QTest::newRow("black") << 900 << int(QFont::Black);
+    QTest::newRow("in between") << 720 << int(QFont::Bold);
+    QTest::newRow("lowest") << 1 << int(QFont::Thin);
+    QTest::newRow("highest") << 1000 << int(QFont::Black);
+}
+
+void TestText::fontWeights()
+{
+    QFETCH(int, weight);
+    QTEST(qtFontWeight(weight), "expected");
+}
+
+QTEST_MAIN(TestText)
+#include "test_text.moc"
