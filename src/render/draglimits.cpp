@@ -17,7 +17,7 @@ bool isControlPointHit(const QZeSvgNode &node, QPointF pos)
 
 double limited(double value, double minimum, double maximum)
 {
-    if (!(value >= minimum))
+    if (value < minimum || std::isnan(value))
         return minimum;
-    return value <= maximum ? value : maximum;
+    return value >= minimum && value <= maximum ? value : maximum;
 }

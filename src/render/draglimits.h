@@ -12,5 +12,5 @@ constexpr double hitMargin = 6.0;
 bool isControlPointHit(const QZeSvgNode &node, QPointF pos);
 
 /// `value` brought into the range. The minimum is tested first, also where it lies above the maximum, and is what a
-/// value that is not a number becomes.
+/// value that is not a number becomes. Under a minimum that is not a number every value becomes the maximum.
 double limited(double value, double minimum, double maximum);
