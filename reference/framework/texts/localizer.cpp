@@ -14,7 +14,7 @@ const QString &english()
 
 constexpr QLatin1String keyPrefix("IDS_");
 
-/// "IDS_LINE_WIDTH" as "Line width".
+/// The key without its prefix, as words.
 QString wordsOf(const QString &key)
 {
     QString words = key.mid(keyPrefix.size()).replace(QLatin1Char('_'), QLatin1Char(' ')).simplified().toLower();

@@ -20,9 +20,8 @@ public:
     /// Starts in English.
     Localizer();
 
-    /// The text in the current language, else the English one. A key that no table has gives its own words instead
-    /// ("IDS_LINE_WIDTH" reads "Line width"), since users must never see a raw key; text that is no key stays as it
-    /// is.
+    /// The text in the current language, else the English one. A key that no table has gives its own words instead,
+    /// without the prefix, since users must never see a raw key; text that is no key stays as it is.
     QString text(const QString &key) const override;
     bool hasText(const QString &language, const QString &key) const;
 

@@ -1,0 +1,264 @@
+#include <pagehost/localizer.h>
+#include <pagehost/objectregistry.h>
+
+#include "testobject.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+using pagehost::Localizer;
+using pagehost::ObjectRegistry;
+using pagehost::PluginReport;
+
+namespace {
+
+QString pluginFile(const char *name)
+{
+    return QDir(QStringLiteral(TEST_PLUGIN_DIR)).filePath(QStringLiteral("lib%1.so").arg(QLatin1String(name)));
+}
+
+QStringList idsOf(const QVector<pagehost::ObjectKind> &kinds)
+{
+    QStringList ids;
+    for (const pagehost::ObjectKind &kind : kinds) {
+        ids.append(kind.id);
+    }
+    return ids;
+}
+
+} // namespace
+
+class TestRegistry : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void goodPluginBringsItsKinds();
+    void objectsAreCreatedAndTagged();
+    void unknownKindGivesNoObject();
+    void textsAreMergedWithEnglishFallback();
+    void foreignPluginIsReported();
+    void pluginWithoutEnglishTextsIsReported();
+    void duplicateKindIsReportedAndTheRestUsed();
+    void unusableKindsAreReported();
+    void fileThatIsNoLibraryIsReported();
+    void missingFileIsReported();
+    void directoryIsLoadedByName();
+    void otherFilesOfADirectoryArePassedOver();
+    void loadedFilesArePassedOverTheSecondTime();
+    void missingDirectoryIsReported();
+    void builtInPluginIsReportedUnderItsName();
+    void missingBuiltInPluginIsReported();
+    void tagOfAnObjectThatNobodyMadeIsEmpty();
+};
+
+void TestRegistry::goodPluginBringsItsKinds()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("good"));
+    QVERIFY2(report.loaded, qPrintable(report.problem));
+    QCOMPARE(report.problem, QString());
+    QCOMPARE(report.file, pluginFile("good"));
+    const QStringList expected{QStringLiteral("test.one"), QStringLiteral("test.two")};
+    QCOMPARE(report.kindIds, expected);
+    QCOMPARE(idsOf(registry.kinds()), expected);
+    QVERIFY(registry.hasKind(QStringLiteral("test.two")));
+    QVERIFY(!registry.hasKind(QStringLiteral("test.three")));
+    QCOMPARE(registry.kind(QStringLiteral("test.one")).nameKey, QStringLiteral("IDS_TEST_ONE"));
+    QCOMPARE(registry.kind(QStringLiteral("test.three")).id, QString());
+    QCOMPARE(registry.reports().size(), 1);
+}
+
+void TestRegistry::objectsAreCreatedAndTagged()
+{
+    ObjectRegistry registry;
+    registry.loadFile(pluginFile("good"));
+    const std::unique_ptr<CBaseObject> object(registry.createObject(QStringLiteral("test.two")));
+    QVERIFY(object);
+    QCOMPARE(object->getClientRect(), QRectF(0, 0, 12, 34));
+    QCOMPARE(pagehost::kindIdOf(object.get()), QStringLiteral("test.two"));
+}
+
+void TestRegistry::unknownKindGivesNoObject()
+{
+    ObjectRegistry registry;
+    registry.loadFile(pluginFile("good"));
+    QCOMPARE(registry.createObject(QStringLiteral("test.three")), nullptr);
+    QCOMPARE(registry.createObject(QString()), nullptr);
+}
+
+void TestRegistry::textsAreMergedWithEnglishFallback()
+{
+    Localizer localizer;
+    ObjectRegistry registry(&localizer);
+    registry.loadFile(pluginFile("good"));
+    QCOMPARE(localizer.text(QStringLiteral("IDS_TEST_ONE")), QStringLiteral("One"));
+    localizer.setLanguage(QStringLiteral("de"));
+    QCOMPARE(localizer.text(QStringLiteral("IDS_TEST_ONE")), QStringLiteral("Eins"));
+    QCOMPARE(localizer.text(QStringLiteral("IDS_TEST_TWO")), QStringLiteral("Two"));
+}
+
+void TestRegistry::foreignPluginIsReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("foreign"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.problem,
+             QStringLiteral("it implements \"test.SomethingElse/1\", not \"gliololok.pagehost.ObjectPlugin/1\""));
+    QVERIFY(registry.kinds().isEmpty());
+}
+
+void TestRegistry::pluginWithoutEnglishTextsIsReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("speechless"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.problem, QStringLiteral("it has no English texts"));
+    QVERIFY(registry.kinds().isEmpty());
+}
+
+void TestRegistry::duplicateKindIsReportedAndTheRestUsed()
+{
+    Localizer localizer;
+    ObjectRegistry registry(&localizer);
+    registry.loadFile(pluginFile("good"));
+    const PluginReport report = registry.loadFile(pluginFile("duplicate"));
+    QVERIFY(report.loaded);
+    QCOMPARE(report.problem, QStringLiteral("the kind \"test.one\" exists already"));
+    QCOMPARE(report.kindIds, QStringList{QStringLiteral("test.three")});
+    QCOMPARE(registry.kinds().size(), 3);
+}
+
+void TestRegistry::unusableKindsAreReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("barren"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.problem,
+             QStringLiteral("\"no id\" is no kind id (letters, digits and dots); "
+                            "the kind \"test.nameless\" has no English name (\"IDS_TEST_NAMELESS\"); "
+                            "it offers no kind of object that can be used"));
+}
+
+void TestRegistry::fileThatIsNoLibraryIsReported()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("broken.so"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("this is no library");
+    file.close();
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(path);
+    QVERIFY(!report.loaded);
+    QVERIFY2(report.problem.contains(QLatin1String("broken.so")), qPrintable(report.problem));
+}
+
+void TestRegistry::missingFileIsReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(QStringLiteral("/nowhere/nothing.so"));
+    QVERIFY(!report.loaded);
+    QVERIFY(!report.problem.isEmpty());
+}
+
+void TestRegistry::directoryIsLoadedByName()
+{
+    ObjectRegistry registry;
+    const QVector<PluginReport> reports = registry.loadDirectory(QStringLiteral(TEST_PLUGIN_DIR));
+    QStringList files;
+    QVector<bool> loaded;
+    for (const PluginReport &report : reports) {
+        files.append(QFileInfo(report.file).fileName());
+        loaded.append(report.loaded);
+    }
+    const QStringList expected{QStringLiteral("libbarren.so"), QStringLiteral("libduplicate.so"),
+                               QStringLiteral("libforeign.so"), QStringLiteral("libgood.so"),
+                               QStringLiteral("libspeechless.so")};
+    QCOMPARE(files, expected);
+    const QVector<bool> expectedLoaded{false, true, false, true, false};
+    QCOMPARE(loaded, expectedLoaded);
+    const QStringList expectedKinds{QStringLiteral("test.one"), QStringLiteral("test.three"),
+                                    QStringLiteral("test.two")};
+    QCOMPARE(idsOf(registry.kinds()), expectedKinds);
+}
+
+void TestRegistry::otherFilesOfADirectoryArePassedOver()
+{
+    const QTemporaryDir directory;
+    QFile file(directory.filePath(QStringLiteral("readme.txt")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    ObjectRegistry registry;
+    QVERIFY(registry.loadDirectory(directory.path()).isEmpty());
+    QVERIFY(registry.reports().isEmpty());
+}
+
+void TestRegistry::loadedFilesArePassedOverTheSecondTime()
+{
+    ObjectRegistry registry;
+    registry.loadDirectory(QStringLiteral(TEST_PLUGIN_DIR));
+    const QVector<PluginReport> again = registry.loadDirectory(QStringLiteral(TEST_PLUGIN_DIR));
+    for (const PluginReport &report : again) {
+        QVERIFY(!report.loaded);
+    }
+    QCOMPARE(registry.kinds().size(), 3);
+}
+
+void TestRegistry::missingDirectoryIsReported()
+{
+    ObjectRegistry registry;
+    const QVector<PluginReport> reports = registry.loadDirectory(QStringLiteral("/nowhere"));
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.first().file, QStringLiteral("/nowhere"));
+    QVERIFY(!reports.first().loaded);
+    QCOMPARE(reports.first().problem, QStringLiteral("the directory cannot be read"));
+    QCOMPARE(registry.reports().size(), 1);
+}
+
+void TestRegistry::builtInPluginIsReportedUnderItsName()
+{
+    class BuiltIn : public pagehost::ObjectPlugin
+    {
+    public:
+        QVector<pagehost::ObjectKind> objectKinds() const override
+        {
+            return {{QStringLiteral("plain"), QStringLiteral("IDS_PLAIN"), QString()}};
+        }
+        CBaseObject *createObject(const QString &) const override { return nullptr; }
+        pagehost::TextTable texts(const QString &) const override
+        {
+            return {{QStringLiteral("IDS_PLAIN"), QStringLiteral("Plain")}};
+        }
+    };
+    BuiltIn plugin;
+    ObjectRegistry registry;
+    const PluginReport report = registry.addPlugin(&plugin, QStringLiteral("built in"));
+    QVERIFY(report.loaded);
+    QCOMPARE(report.file, QStringLiteral("built in"));
+    QVERIFY(registry.hasKind(QStringLiteral("plain")));
+    QCOMPARE(registry.createObject(QStringLiteral("plain")), nullptr);
+}
+
+void TestRegistry::missingBuiltInPluginIsReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.addPlugin(nullptr, QStringLiteral("nothing"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.problem, QStringLiteral("there is no plug-in"));
+}
+
+void TestRegistry::tagOfAnObjectThatNobodyMadeIsEmpty()
+{
+    TestObject object;
+    QCOMPARE(pagehost::kindIdOf(&object), QString());
+    QCOMPARE(pagehost::kindIdOf(nullptr), QString());
+    pagehost::setKindId(&object, QStringLiteral("own"));
+    QCOMPARE(pagehost::kindIdOf(&object), QStringLiteral("own"));
+}
+
+QTEST_MAIN(TestRegistry)
+#include "test_registry.moc"
