@@ -11,6 +11,8 @@ using support::Output;
 using support::ShapeFixture;
 using support::TestObject;
 
+Q_DECLARE_METATYPE(std::function<QJsonObject(support::TestObject &)>)
+
 /// Operations of the page object that its core answers, and who answers when there is no core or the core declines.
 class TestForwarding : public QObject
 {
@@ -265,8 +267,6 @@ void TestForwarding::unreadablePanelAnswersAreRefused()
     QVERIFY(!fixture.object.ParseSettingJson("answer", values));
     QCOMPARE(values, (QMap<QString, QString>{{"kept", "yes"}}));
 }
-
-Q_DECLARE_METATYPE(std::function<QJsonObject(TestObject &)>)
 
 QTEST_MAIN(TestForwarding)
 
