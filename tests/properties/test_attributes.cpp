@@ -159,6 +159,7 @@ void TestAttributes::editorCodesFollowTypeAndExtraData_data()
     QTest::newRow("real, 12") << 2 << 12 << 0;
     QTest::newRow("real, 23") << 2 << 23 << 0;
     QTest::newRow("real, 24") << 2 << 24 << 7;
+    QTest::newRow("real, 25") << 2 << 25 << 0;
     QTest::newRow("colour, 12") << 3 << 12 << 2;
     QTest::newRow("colour, 24") << 3 << 24 << 2;
     QTest::newRow("4") << 4 << 12 << 5;
