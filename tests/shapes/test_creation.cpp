@@ -20,6 +20,27 @@ QStringList fittedShapes()
     return {QStringLiteral("roundedrectangle"), QStringLiteral("blockarrow"), QStringLiteral("polygon")};
 }
 
+/// Paints the shape with room around it and gives the first painted pixel outside its frame, in item coordinates;
+/// empty when there is none.
+QString paintOutsideTheFrame(const ShapeDriver &shape)
+{
+    constexpr int room = 10;
+    const QRect frame(QPoint(room, room), shape.object().getClientRect().size().toSize());
+    QImage picture(frame.size() + QSize(2 * room, 2 * room), QImage::Format_ARGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.translate(room, room);
+    shape.object().OnQPainterDraw(&painter);
+    painter.end();
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (!frame.contains(x, y) && picture.pixelColor(x, y) != QColor(Qt::white))
+                return QStringLiteral("painted at %1, %2").arg(x - room).arg(y - room);
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 class TestCreation : public QObject
@@ -42,6 +63,7 @@ private Q_SLOTS:
     void newShapeIsFilled();
     void figureStaysInsideTheFrameWithTheWidestPen_data();
     void figureStaysInsideTheFrameWithTheWidestPen();
+    void thickestArrowStaysInsideTheFrameWithTheWidestPen();
 };
 
 void TestCreation::clickGivesTheDefaultSize_data()
@@ -105,6 +127,8 @@ void TestCreation::viewBoxFollowsTheLastStepOfTheDrag()
     const QImage picture = shape.paintedElsewhere();
     shape.core().invalidate();
     QCOMPARE(picture, shape.paintedElsewhere());
+    QVERIFY(shape.object().getRegionPath());
+    QVERIFY(shape.object().getRegionPath()->boundingRect().right() > 190);
 }
 
 void TestCreation::tinyDragGivesThirtyByThirty_data()
@@ -168,21 +192,17 @@ void TestCreation::figureStaysInsideTheFrameWithTheWidestPen()
     ShapeDriver shape(name);
     shape.createByClick();
     shape.core().setPenWidth(8, false);
-    // Painted with room around it, no pixel outside the frame may be touched.
-    constexpr int room = 10;
-    const QRect frame(QPoint(room, room), shape.object().getClientRect().size().toSize());
-    QImage picture(frame.size() + QSize(2 * room, 2 * room), QImage::Format_ARGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.translate(room, room);
-    shape.object().OnQPainterDraw(&painter);
-    painter.end();
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (!frame.contains(x, y) && picture.pixel(x, y) != 0xffffffff)
-                QFAIL(qPrintable(QStringLiteral("painted at %1, %2").arg(x - room).arg(y - room)));
-        }
-    }
+    QCOMPARE(paintOutsideTheFrame(shape), QString());
+}
+
+void TestCreation::thickestArrowStaysInsideTheFrameWithTheWidestPen()
+{
+    ShapeDriver shape(QStringLiteral("blockarrow"));
+    shape.createByClick();
+    shape.select();
+    shape.dragControlPoint(1, QPointF(0, -100));
+    shape.core().setPenWidth(8, false);
+    QCOMPARE(paintOutsideTheFrame(shape), QString());
 }
 
 QTEST_MAIN(TestCreation)

@@ -6,6 +6,7 @@
 #include <svgobj/csvgobj.h>
 
 #include <framework/cpagebgprop.h>
+#include <pagehost/recorder.h>
 #include <pagehost/style.h>
 
 #include <svgbase/qzesvgtinydocument.h>
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void fillColorIsUndoneAndRedone();
     void blackCanBeChosenAndTakenBack_data();
     void blackCanBeChosenAndTakenBack();
+    void fillIsRecordedAsItsColor_data();
+    void fillIsRecordedAsItsColor();
     void halfTransparentFillKeepsItsAlpha();
     void hostFillReachesThePictureOfOtherThreads_data();
     void hostFillReachesThePictureOfOtherThreads();
@@ -39,6 +42,8 @@ private Q_SLOTS:
     void penWidthKeepsTheForm_data();
     void penWidthKeepsTheForm();
     void decorationOfTheFlaskKeepsItsLook();
+    void marksOfANewFlaskKeepTheirColor();
+    void flaskThatIsAboutToBeLoadedKeepsItsDecoration();
 
 private:
     void addShapeRows();
@@ -50,6 +55,33 @@ namespace {
 QPoint insideOf(const QString &name)
 {
     return name == QLatin1String("flask") ? QPoint(60, 120) : QPoint(60, 45);
+}
+
+/// Writes down what objects record.
+class RecordedActions : public pagehost::ActionSink
+{
+public:
+    RecordedActions()
+        : m_before(pagehost::setActionSink(this))
+    {
+    }
+    ~RecordedActions() override { pagehost::setActionSink(m_before); }
+    void actionRecorded(CPSRootObject *, int actionId, const QByteArray &payload) override
+    {
+        actions.append({actionId, payload});
+    }
+
+    QVector<QPair<int, QByteArray>> actions;
+
+private:
+    pagehost::ActionSink *m_before;
+};
+
+bool isNear(const QColor &a, const QColor &b)
+{
+    constexpr int tolerance = 3; // rounding of several layers
+    return qAbs(a.red() - b.red()) <= tolerance && qAbs(a.green() - b.green()) <= tolerance &&
+           qAbs(a.blue() - b.blue()) <= tolerance;
 }
 
 CPageBgProp solidFill(const QColor &color)
@@ -132,6 +164,29 @@ void TestLook::blackCanBeChosenAndTakenBack()
     QCOMPARE(shape.colorAt(insideOf(name)), QColor(Qt::black));
     shape.undoStack().undo();
     QCOMPARE(shape.colorAt(insideOf(name)), before);
+}
+
+void TestLook::fillIsRecordedAsItsColor_data()
+{
+    addShapeRows();
+}
+
+void TestLook::fillIsRecordedAsItsColor()
+{
+    QFETCH(QString, name);
+    ShapeDriver shape(name);
+    shape.createByClick();
+    QByteArray expected;
+    QDataStream out(&expected, QIODevice::WriteOnly);
+    out << QColor(220, 20, 60);
+    const RecordedActions recorded;
+    shape.core().setFillBrush(QColor(220, 20, 60), true, false);
+    QCOMPARE(recorded.actions.size(), 1);
+    QCOMPARE(recorded.actions.first().first, int(ACT_SVG_FILLCOLOR));
+    QCOMPARE(recorded.actions.first().second, expected);
+    // The same colour again is no change.
+    shape.core().setFillBrush(QColor(220, 20, 60), true, false);
+    QCOMPARE(recorded.actions.size(), 1);
 }
 
 void TestLook::halfTransparentFillKeepsItsAlpha()
@@ -288,6 +343,27 @@ void TestLook::decorationOfTheFlaskKeepsItsLook()
     // Above the liquid the tint of the glass stays what it was: #e3f0f8 at 70 % over white.
     const QColor tint = shape.colorAt(QPoint(66, 70));
     QVERIFY(qAbs(tint.red() - 235) <= 2);
+}
+
+void TestLook::marksOfANewFlaskKeepTheirColor()
+{
+    ShapeDriver shape(QStringLiteral("flask"));
+    shape.createByClick();
+    // The mark covers three quarters of this row at 80 %: 0.6 of #5c7385, 0.4 of the liquid's #7fd0e6.
+    const QColor expected(106, 152, 172);
+    QVERIFY(isNear(shape.colorAt(QPoint(89, 127)), expected));
+    pagehost::setPenColor({&shape.object()}, Qt::red);
+    QVERIFY(isNear(shape.colorAt(QPoint(89, 127)), expected));
+}
+
+void TestLook::flaskThatIsAboutToBeLoadedKeepsItsDecoration()
+{
+    ShapeDriver shape(QStringLiteral("flask"));
+    shape.createByClick();
+    shape.object().createSVGBase(999, false);
+    QVERIFY(shape.object().createSVGBase(30, false));
+    pagehost::setFill({&shape.object()}, QColor(220, 20, 60));
+    QVERIFY(isNear(shape.colorAt(QPoint(46, 138)), QColor(239, 149, 167)));
 }
 
 QTEST_MAIN(TestLook)

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void controlPointsStaySquareAtAnySize();
     void formComesBackWithTheSize_data();
     void formComesBackWithTheSize();
+    void formComesBackAfterAnotherPenWidth();
     void sizeNeverGoesBelowTheMinimum_data();
     void sizeNeverGoesBelowTheMinimum();
     void cornersOfTheRectangleStayRound();
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void savedShapeComesBack_data();
     void savedShapeComesBack();
     void savedPolygonBringsItsCornersAlong();
+    void starOfFiveStrokesIsFilledInItsMiddle();
     void damagedDataIsSurvived_data();
     void damagedDataIsSurvived();
 
@@ -109,6 +111,19 @@ void TestResizing::formComesBackWithTheSize()
     shape.object().setSize(size, false, false);
     if (name != QLatin1String("flask"))
         QCOMPARE(shape.object().getClientRect().size(), size);
+    QCOMPARE(shape.geometry(), before);
+}
+
+void TestResizing::formComesBackAfterAnotherPenWidth()
+{
+    ShapeDriver shape(QStringLiteral("blockarrow"));
+    shape.createByClick();
+    const QString before = shape.geometry();
+    // The head has no room here; a new pen must not take that for what the user wants.
+    shape.object().setSize(QSizeF(40, 90), false, false);
+    shape.core().setPenWidth(5, false);
+    shape.core().setPenWidth(2, false);
+    shape.object().setSize(QSizeF(140, 90), false, false);
     QCOMPARE(shape.geometry(), before);
 }
 
@@ -229,6 +244,19 @@ void TestResizing::savedPolygonBringsItsCornersAlong()
     for (int i = 0; i < corners.size(); ++i)
         QCOMPARE(drawn.value(i), corners.at(i) + QPointF(4, 4));
     QCOMPARE(shape.controlPointCount(), 6);
+}
+
+void TestResizing::starOfFiveStrokesIsFilledInItsMiddle()
+{
+    ShapeDriver shape(QStringLiteral("polygon"));
+    shape.createByClick();
+    shape.select();
+    // From the pentagon to the star: each corner goes where the next but one stood.
+    const QVector<QPointF> pentagon{{60, 4}, {116, 45}, {95, 110}, {25, 110}, {4, 45}};
+    for (int i = 0; i < 5; ++i)
+        shape.dragControlPoint(i + 1, pentagon.at(2 * i % 5) - shape.controlPoint(i + 1).center());
+    QCOMPARE(shape.colorAt(QPoint(60, 60)), shape.core().getFillBrush().color());
+    QCOMPARE(shape.colorAt(QPoint(60, 105)), QColor(Qt::white));
 }
 
 void TestResizing::damagedDataIsSurvived_data()
