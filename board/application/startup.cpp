@@ -27,6 +27,13 @@ QStringList argumentList(int argc, char **argv)
     return list;
 }
 
+/// The parser asks the application object for the program's name.
+Options optionsOf(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return parseCommandLine(argumentList(argc, argv));
+}
+
 int showText(const Options &options)
 {
     QTextStream(options.failed ? stderr : stdout) << options.message;
@@ -96,7 +103,7 @@ int work(Workspace &workspace, const Options &options)
 
 int runBoard(int argc, char **argv)
 {
-    const Options options = parseCommandLine(argumentList(argc, argv));
+    const Options options = optionsOf(argc, argv);
     if (options.action == Options::ShowText)
         return showText(options);
 

@@ -68,12 +68,15 @@ QMenuBar { background: %window; border-bottom: 1px solid %border; }
 QStatusBar { background: %window; border-top: 1px solid %border; }
 QStatusBar::item { border: none; }
 QDockWidget { titlebar-close-icon: none; titlebar-normal-icon: none; }
-QDockWidget::title { background: %window; padding: 10px 12px 6px 12px; }
+QDockWidget::title { background: %window; padding: 10px 12px 6px 8px; }
 QGraphicsView, QScrollArea, QListView, QUndoView { border: none; }
 QListView { background: %window; }
-QUndoView::item { padding: 4px 6px; }
-QGroupBox { border: none; margin-top: 22px; font-weight: 600; }
-QGroupBox::title { subcontrol-origin: margin; left: 0px; top: 2px; }
+QUndoView::item { padding: 4px 6px; border-radius: 5px; color: %text; }
+QUndoView::item:selected { background: %tint; color: %text; }
+QUndoView::item:hover { background: %hover; }
+QLineEdit { border: 1px solid %border; border-radius: 6px; padding: 5px 6px; background: %base; }
+QLineEdit:focus { border-color: %accent; }
+QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; }
 QToolTip { border: none; padding: 4px 6px; }
 )");
     const QPalette palette = QApplication::palette();
@@ -84,6 +87,8 @@ QToolTip { border: none; padding: 4px 6px; }
     sheet.replace("%border", rgbaText(colors.border));
     sheet.replace("%accent", rgbaText(palette.color(QPalette::Highlight)));
     sheet.replace("%window", rgbaText(palette.color(QPalette::Window)));
+    sheet.replace("%text", rgbaText(palette.color(QPalette::Text)));
+    sheet.replace("%base", rgbaText(palette.color(QPalette::Base)));
     sheet.replace("%hover", rgbaText(colors.hover));
     sheet.replace("%tint", rgbaText(tint));
     return sheet;

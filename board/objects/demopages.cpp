@@ -40,6 +40,19 @@ constexpr double cellPart = 0.74;
 /// Proportion of the cells that the page is divided into.
 constexpr double cellAspect = 1.35;
 
+// The second page, scene units.
+constexpr QPointF wreathRadius(490, 270);
+constexpr QSizeF wreathShape(124, 90);
+constexpr QSizeF middleShape(270, 220);
+constexpr int middleCount = 3;
+constexpr double paneStep = 150;
+constexpr int paneAlpha = 190;
+
+QRectF centredOn(const QPointF &centre, const QSizeF &size)
+{
+    return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
 QPointF centreOf(const CBaseObject *object)
 {
     return object->mapToScene(object->getClientRect().center());
@@ -57,19 +70,34 @@ struct Grid
     int rows = 1;
     QRectF area;
 
-    Grid(const QRectF &page, int count)
-        : area(page.adjusted(pageMargin, pageMargin, -pageMargin, -pageMargin))
+    Grid(const QRectF &page, int columnCount, int rowCount)
+        : columns(columnCount)
+        , rows(rowCount)
+        , area(page.adjusted(pageMargin, pageMargin, -pageMargin, -pageMargin))
     {
-        const double perRow = std::sqrt(count * area.width() / area.height() / cellAspect);
-        columns = qBound(1, qRound(perRow), count);
-        rows = (count + columns - 1) / columns;
     }
 
-    QRectF cell(int index) const
+    /// Two rows of cells for every `columns` kinds, as large as they can be.
+    static Grid forKinds(const QRectF &page, int kinds)
     {
-        const QSizeF size(area.width() / columns, area.height() / rows);
-        const QPointF corner(index % columns * size.width(), index / columns * size.height());
-        return {area.topLeft() + corner, size};
+        Grid best(page, kinds, 2);
+        for (int columns = 1; columns < kinds; ++columns) {
+            const Grid grid(page, columns, 2 * ((kinds + columns - 1) / columns));
+            if (grid.room() > best.room())
+                best = grid;
+        }
+        return best;
+    }
+
+    QSizeF cellSize() const { return {area.width() / columns, area.height() / rows}; }
+
+    /// Height of the largest picture of the usual proportions that fits into a cell.
+    double room() const { return qMin(cellSize().width() / cellAspect, cellSize().height()); }
+
+    QRectF cell(int row, int column) const
+    {
+        const QPointF corner(column * cellSize().width(), row * cellSize().height());
+        return {area.topLeft() + corner, cellSize()};
     }
 };
 
@@ -86,23 +114,25 @@ public:
         page->setBackground(background);
     }
 
-    /// Every kind once, plain, then once more in another form, size and fill.
+    /// Every kind once, plain, and below it once more in another form and fill.
     void paintCatalogue()
     {
         const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
-        const int count = kinds.size() * 2;
-        const Grid grid(m_page->rect(), count);
-        for (int i = 0; i < count; ++i) {
-            CBaseObject *object = place(kinds.at(i % kinds.size()).id, grid.cell(i), cellPart);
-            if (!object)
+        const Grid grid = Grid::forKinds(m_page->rect(), kinds.size());
+        for (int i = 0; i < kinds.size(); ++i) {
+            const int row = i / grid.columns * 2;
+            const int column = i % grid.columns;
+            if (CBaseObject *plain = place(kinds.at(i).id, grid.cell(row, column), cellPart))
+                dress(plain, i);
+            CBaseObject *varied = place(kinds.at(i).id, grid.cell(row + 1, column), cellPart);
+            if (!varied)
                 continue;
-            dress(object, i);
-            if (i >= kinds.size())
-                vary(object, i);
+            dress(varied, i + 3);
+            vary(varied, i + 3);
         }
     }
 
-    /// All kinds again and again, each turned a little further, growing towards the edge.
+    /// All kinds again and again, each turned a little further, around a few large ones.
     void paintWreath()
     {
         const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
@@ -111,31 +141,41 @@ public:
         const QPointF centre = m_page->rect().center();
         for (int i = 0; i < places; ++i) {
             const double angle = qDegreesToRadians(i * degrees - 90);
-            const QPointF spot = centre + QPointF(420 * std::cos(angle), 240 * std::sin(angle));
-            CBaseObject *object =
-                place(kinds.at(i % kinds.size()).id, QRectF(spot - QPointF(75, 55), QSizeF(150, 110)), 1);
+            const QPointF spot =
+                centre + QPointF(wreathRadius.x() * std::cos(angle), wreathRadius.y() * std::sin(angle));
+            CBaseObject *object = place(kinds.at(i % kinds.size()).id, centredOn(spot, wreathShape), 1);
             if (!object)
                 continue;
             dress(object, i);
             pagehost::rotateObjects({object}, i * degrees);
         }
-        if (CBaseObject *middle = place(kinds.last().id, QRectF(centre - QPointF(130, 130), QSizeF(260, 260)), 1))
-            dress(middle, places);
+        for (int i = 0; i < middleCount; ++i)
+            paintPane(kinds.at(i % kinds.size()).id, centre + QPointF((i - 1) * paneStep, 0), i);
     }
 
 private:
+    /// In the middle of the cell, as large as fits into that part of it, in the proportions of a new object.
     CBaseObject *place(const QString &kindId, const QRectF &cell, double part)
     {
-        const QSizeF size = cell.size() * part;
-        CBaseObject *object = makeObject(m_page, m_workspace.registry(), kindId, cell.topLeft(), size);
+        CBaseObject *object = makeObject(m_page, m_workspace.registry(), kindId, cell.topLeft());
         if (!object)
             return nullptr;
-        const QSizeF drawn = object->getClientRect().size();
-        const double excess = qMax(drawn.width() / size.width(), drawn.height() / size.height());
-        if (excess > 1)
-            object->setSize(drawn / excess, false, true);
+        object->setSize(object->getClientRect().size().scaled(cell.size() * part, Qt::KeepAspectRatio), false,
+                        true);
         moveCentreTo(object, cell.center());
         return object;
+    }
+
+    /// A large shape that lets what is behind it show through.
+    void paintPane(const QString &kindId, const QPointF &centre, int index)
+    {
+        CBaseObject *object = place(kindId, centredOn(centre, middleShape), 1);
+        if (!object)
+            return;
+        dress(object, index);
+        QColor glass(wardrobe[index % wardrobe.size()].fill);
+        glass.setAlpha(paneAlpha);
+        pagehost::setFill({object}, glass);
     }
 
     void dress(CBaseObject *object, int index)

@@ -188,6 +188,14 @@ void PageView::mousePressEvent(QMouseEvent *event)
     m_band.begin(m_page, event->pos(), event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
 }
 
+void PageView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // Somebody who clicks and then quickly drags means a drag: after the object has seen the double click, its
+    // second press is a press like any other.
+    QGraphicsView::mouseDoubleClickEvent(event);
+    mousePressEvent(event);
+}
+
 void PageView::mouseMoveEvent(QMouseEvent *event)
 {
     Q_EMIT pointerMoved(mapToScene(event->pos()));
@@ -347,7 +355,7 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (!m_page || m_page->objectCount() > 0)
+    if (!m_page || m_page->objectCount() > 0 || (m_tool && m_tool->isDrawing()))
         return;
     QPainter painter(viewport());
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);

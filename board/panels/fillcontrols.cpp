@@ -11,6 +11,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
@@ -84,7 +85,9 @@ FillControls::FillControls(const Workspace *workspace, QWidget *parent)
     , m_angle(new QSpinBox(this))
     , m_pattern(new QComboBox(this))
     , m_picture(new QPushButton(workspace->text("IDS_BOARD_CHOOSE_PICTURE"), this))
-    , m_opacity(new QSlider(Qt::Horizontal, this))
+    , m_opacityRow(new QWidget(this))
+    , m_opacity(new QSlider(Qt::Horizontal, m_opacityRow))
+    , m_opacityText(new QLabel(m_opacityRow))
 {
     m_angle->setRange(0, 359);
     m_angle->setWrapping(true);
@@ -146,7 +149,15 @@ void FillControls::layOut()
     column->setSpacing(mediumGap);
     column->addWidget(m_typeRow);
     column->addLayout(values);
-    column->addWidget(m_opacity);
+    column->addWidget(m_opacityRow);
+    auto *opacity = new QHBoxLayout(m_opacityRow);
+    opacity->setContentsMargins(0, 0, 0, 0);
+    opacity->setSpacing(mediumGap);
+    opacity->addWidget(new QLabel(m_workspace->text("IDS_BOARD_OPACITY"), m_opacityRow));
+    opacity->addWidget(m_opacity, 1);
+    opacity->addWidget(m_opacityText);
+    m_opacityText->setMinimumWidth(m_opacityText->fontMetrics().horizontalAdvance(QStringLiteral("100 %")));
+    m_opacityText->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void FillControls::connectControls()
@@ -197,7 +208,8 @@ void FillControls::refresh()
     m_angle->setVisible(type == CPageBgProp::GradientFill);
     m_pattern->setVisible(type == CPageBgProp::PatternFill);
     m_picture->setVisible(type == CPageBgProp::PictureFill);
-    m_opacity->setVisible(type != CPageBgProp::NoFill);
+    m_opacityText->setText(QStringLiteral("%1 %").arg(qRound(m_fill.opacity() / 2.55)));
+    m_opacityRow->setVisible(type != CPageBgProp::NoFill);
 }
 
 void FillControls::setType(int type)

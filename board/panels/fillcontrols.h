@@ -6,6 +6,7 @@
 
 class QButtonGroup;
 class QComboBox;
+class QLabel;
 class QPushButton;
 class QSlider;
 class QSpinBox;
@@ -50,7 +51,9 @@ private:
     QSpinBox *m_angle;
     QComboBox *m_pattern;
     QPushButton *m_picture;
+    QWidget *m_opacityRow;
     QSlider *m_opacity;
+    QLabel *m_opacityText;
 };
 
 } // namespace board

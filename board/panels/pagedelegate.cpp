@@ -24,9 +24,14 @@ QRectF placeOf(const QImage &picture, const QRectF &room)
 
 } // namespace
 
-QSize PageDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+QSize PageDelegate::itemSize()
 {
     return thumbnailSize() + QSize(2 * margin, 2 * margin + numberHeight);
+}
+
+QSize PageDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+{
+    return itemSize();
 }
 
 void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -15,6 +15,8 @@ public:
 
     /// Room for the thumbnail, logical pixels.
     static QSize thumbnailSize() { return {144, 81}; }
+    /// With number and margins.
+    static QSize itemSize();
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;

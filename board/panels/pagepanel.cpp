@@ -15,6 +15,14 @@
 
 namespace board {
 
+namespace {
+
+/// Workers paint from pictures that are many times larger than a thumbnail; painting it larger and shrinking the
+/// whole keeps thin lines whole.
+constexpr int oversampling = 3;
+
+} // namespace
+
 PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
@@ -46,8 +54,8 @@ void PagePanel::makeList()
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setDragDropMode(QAbstractItemView::InternalMove);
-    m_list->setFixedHeight(m_list->sizeHintForRow(0) > 0 ? m_list->sizeHintForRow(0)
-                                                         : PageDelegate::thumbnailSize().height() + 50);
+    m_list->setFixedHeight(PageDelegate::itemSize().height() + m_list->horizontalScrollBar()->sizeHint().height());
+    setFixedHeight(m_list->height() + 2 * mediumGap);
     m_list->setAccessibleName(m_workspace->text("IDS_BOARD_PAGES"));
     m_list->viewport()->setAutoFillBackground(false);
 }
@@ -96,14 +104,15 @@ void PagePanel::showCurrent(int index)
 
 void PagePanel::requestThumbnail(pagehost::Page *page)
 {
-    m_thumbnails.request(page, PageDelegate::thumbnailSize() * devicePixelRatioF());
+    m_thumbnails.request(page, PageDelegate::thumbnailSize() * devicePixelRatioF() * oversampling);
 }
 
 void PagePanel::showThumbnail(pagehost::Page *page, const QImage &picture)
 {
     const int row = m_workspace->document()->indexOf(page);
     if (QListWidgetItem *item = m_list->item(row))
-        item->setData(Qt::DecorationRole, picture);
+        item->setData(Qt::DecorationRole, picture.scaled(picture.size() / oversampling, Qt::IgnoreAspectRatio,
+                                                         Qt::SmoothTransformation));
 }
 
 } // namespace board

@@ -6,12 +6,15 @@
 #include <QtGui/QDrag>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOptionToolButton>
+#include <QtWidgets/QStylePainter>
 
 namespace board {
 
 namespace {
 
-constexpr QSize buttonSize(84, 88);
+constexpr QSize buttonSize(92, 98);
+constexpr int edge = 5;
 
 } // namespace
 
@@ -29,6 +32,24 @@ PaletteButton::PaletteButton(const QString &kindId, const QString &name, QWidget
 QSize PaletteButton::sizeHint() const
 {
     return buttonSize;
+}
+
+/// Names are wrapped to two lines, which a tool button does not do by itself.
+void PaletteButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    option.icon = QIcon();
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+    const QRect inside = rect().adjusted(edge, edge, -edge, -edge);
+    const QRect picture(QPoint(inside.center().x() - iconSize().width() / 2, inside.top() + edge), iconSize());
+    icon().paint(&painter, picture);
+    const QRect name(inside.left(), picture.bottom() + edge, inside.width(),
+                     inside.bottom() - picture.bottom() - edge);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(name, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap, text());
 }
 
 void PaletteButton::mousePressEvent(QMouseEvent *event)

@@ -32,7 +32,7 @@ CBaseObject *firstFilled(const QVector<CBaseObject *> &objects)
 
 bool isPlain(const CPageBgProp &fill)
 {
-    return !fill.isFillEnable() || fill.fillType() == CPageBgProp::SolidFill;
+    return fill.isFillEnable() && fill.fillType() == CPageBgProp::SolidFill;
 }
 
 } // namespace
@@ -126,9 +126,8 @@ void StylePanel::takeFill(const CPageBgProp &fill)
     const CBaseObject *shown = firstFilled(objects);
     if (!shown)
         return;
-    QColor color = fill.isFillEnable() ? fill.fillColor() : QColor(Qt::transparent);
-    if (fill.isFillEnable())
-        color.setAlpha(fill.opacity());
+    QColor color = fill.fillColor();
+    color.setAlpha(fill.opacity());
     if (isPlain(fill) && isPlain(*shown->getFillProp()))
         pagehost::setFill(objects, color);
     else

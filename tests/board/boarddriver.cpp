@@ -1,0 +1,202 @@
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/palettebutton.h>
+#include <panels/palettepanel.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/cundoredo.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QUndoStack>
+
+namespace boardtest {
+
+const QString rectangle = QStringLiteral("shapes.roundedrectangle");
+const QString arrow = QStringLiteral("shapes.blockarrow");
+const QString polygon = QStringLiteral("shapes.polygon");
+const QString flask = QStringLiteral("shapes.flask");
+
+namespace {
+
+constexpr int dragSteps = 5;
+/// Handles stand at most this far from the object, pixels.
+constexpr int handleReach = 60;
+/// Finer than a handle is large.
+constexpr int coarseStep = 8;
+
+} // namespace
+
+BoardDriver::BoardDriver(const QString &language)
+    : m_workspace(std::make_unique<board::Workspace>(language))
+{
+    m_workspace->loadPlugins({QStringLiteral(SHAPE_FOLDER)});
+    m_window = std::make_unique<board::MainWindow>(m_workspace.get());
+    m_window->resize(1600, 1100);
+    m_window->show();
+    if (!QTest::qWaitForWindowExposed(m_window.get()))
+        qFatal("the window is not shown");
+    view().setZoom(1);
+    view().centerOn(page().rect().center());
+    history().clear();
+}
+
+BoardDriver::~BoardDriver() = default;
+
+board::PageView &BoardDriver::view() const
+{
+    return *m_window->view();
+}
+
+pagehost::Page &BoardDriver::page() const
+{
+    return *view().page();
+}
+
+pagehost::PageScene &BoardDriver::scene() const
+{
+    return *page().scene();
+}
+
+QUndoStack &BoardDriver::history() const
+{
+    return *CUndoRedo::GetInstance()->stack();
+}
+
+QPoint BoardDriver::at(const QPointF &pos) const
+{
+    return view().mapFromScene(pos);
+}
+
+void BoardDriver::sendMove(const QPointF &pos, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers)
+{
+    QMouseEvent event(QEvent::MouseMove, at(pos), view().viewport()->mapToGlobal(at(pos)), Qt::NoButton, held,
+                      modifiers);
+    QApplication::sendEvent(view().viewport(), &event);
+}
+
+void BoardDriver::press(const QPointF &pos, Qt::KeyboardModifiers modifiers)
+{
+    sendMove(pos, Qt::NoButton, modifiers);
+    QTest::mousePress(view().viewport(), Qt::LeftButton, modifiers, at(pos));
+}
+
+void BoardDriver::moveTo(const QPointF &pos, Qt::KeyboardModifiers modifiers)
+{
+    sendMove(pos, Qt::LeftButton, modifiers);
+}
+
+void BoardDriver::release(const QPointF &pos, Qt::KeyboardModifiers modifiers)
+{
+    QTest::mouseRelease(view().viewport(), Qt::LeftButton, modifiers, at(pos));
+}
+
+void BoardDriver::click(const QPointF &pos, Qt::KeyboardModifiers modifiers)
+{
+    press(pos, modifiers);
+    release(pos, modifiers);
+}
+
+void BoardDriver::doubleClick(const QPointF &pos)
+{
+    click(pos);
+    QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, at(pos));
+}
+
+void BoardDriver::hold(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers)
+{
+    press(from, modifiers);
+    for (int step = 1; step <= dragSteps; ++step)
+        moveTo(from + (to - from) * step / dragSteps, modifiers);
+}
+
+void BoardDriver::drag(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers)
+{
+    hold(from, to, modifiers);
+    release(to, modifiers);
+}
+
+void BoardDriver::hover(const QPointF &pos)
+{
+    sendMove(pos, Qt::NoButton, Qt::NoModifier);
+}
+
+void BoardDriver::wheel(const QPointF &pos, int notches, Qt::KeyboardModifiers modifiers)
+{
+    const QPoint local = at(pos);
+    QWheelEvent event(local, view().viewport()->mapToGlobal(local), QPoint(), QPoint(0, 120 * notches),
+                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view().viewport(), &event);
+}
+
+void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    m_window->activateWindow();
+    view().setFocus();
+    QTest::keyClick(&view(), key, modifiers);
+}
+
+void BoardDriver::pick(const QString &kindId)
+{
+    for (board::PaletteButton *button : m_window->palettePanel()->buttons()) {
+        if (button->kindId() == kindId)
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+}
+
+CBaseObject *BoardDriver::draw(const QString &kindId, const QPointF &from, const QPointF &to)
+{
+    pick(kindId);
+    drag(from, to);
+    return page().objects().isEmpty() ? nullptr : page().objects().last();
+}
+
+CBaseObject *BoardDriver::only() const
+{
+    return page().objectCount() == 1 ? page().objects().first() : nullptr;
+}
+
+QVector<CBaseObject *> BoardDriver::selection() const
+{
+    return page().selectedObjects();
+}
+
+QRectF BoardDriver::placeOf(const CBaseObject *object) const
+{
+    return {object->getPos(), object->getClientRect().size()};
+}
+
+QPointF BoardDriver::handle(CObjAction::ACT_Def action) const
+{
+    if (selection().size() != 1)
+        return {};
+    const QRectF bounds = selection().first()->mapToScene(selection().first()->getClientRect()).boundingRect();
+    const QRect area = bounds.adjusted(-handleReach, -handleReach, handleReach, handleReach).toAlignedRect();
+    const QVector<QPoint> found = answering(action, area, coarseStep);
+    if (found.isEmpty())
+        return {};
+    const QPoint spot = found.first();
+    const QRect around(spot - QPoint(coarseStep, coarseStep) * 4, spot + QPoint(coarseStep, coarseStep) * 4);
+    const QVector<QPoint> answers = answering(action, around, 1);
+    QPoint sum;
+    for (const QPoint &pos : answers)
+        sum += pos;
+    return {double(qRound(double(sum.x()) / answers.size())), double(qRound(double(sum.y()) / answers.size()))};
+}
+
+QVector<QPoint> BoardDriver::answering(CObjAction::ACT_Def action, const QRect &area, int step) const
+{
+    QVector<QPoint> found;
+    for (int y = area.top(); y <= area.bottom(); y += step) {
+        for (int x = area.left(); x <= area.right(); x += step) {
+            if (scene().gripAt(QPointF(x, y)).action == action)
+                found.append({x, y});
+        }
+    }
+    return found;
+}
+
+} // namespace boardtest

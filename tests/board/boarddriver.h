@@ -1,0 +1,90 @@
+#pragma once
+
+#include <application/workspace.h>
+
+#include <framework/cobjaction.h>
+
+#include <QtCore/QPointF>
+#include <QtCore/QRect>
+#include <QtCore/QVector>
+
+#include <memory>
+
+class CBaseObject;
+class QUndoStack;
+
+namespace pagehost {
+class Page;
+class PageScene;
+} // namespace pagehost
+
+namespace board {
+class MainWindow;
+class PageView;
+} // namespace board
+
+namespace boardtest {
+
+extern const QString rectangle;
+extern const QString arrow;
+extern const QString polygon;
+extern const QString flask;
+
+/// The board's window with an empty page at 100 %, and the user's hands. Positions are scene coordinates; at 100 %
+/// they are whole pixels. The middle of the page, (640, 360), is in the middle of the view.
+class BoardDriver
+{
+public:
+    explicit BoardDriver(const QString &language = QStringLiteral("en"));
+    ~BoardDriver();
+
+    board::Workspace &workspace() { return *m_workspace; }
+    board::MainWindow &window() const { return *m_window; }
+    board::PageView &view() const;
+    pagehost::Page &page() const;
+    pagehost::PageScene &scene() const;
+    QUndoStack &history() const;
+
+    /// @name Mouse
+    /// @{
+    void press(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void moveTo(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void release(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void click(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void doubleClick(const QPointF &pos);
+    /// Press, several moves, release.
+    void drag(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// The same without the release.
+    void hold(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void hover(const QPointF &pos);
+    /// Turns the wheel by a notch; away from the user for +1.
+    void wheel(const QPointF &pos, int notches, Qt::KeyboardModifiers modifiers);
+    /// @}
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// @name Shapes
+    /// @{
+    /// Picks a kind in the palette and drags it out.
+    CBaseObject *draw(const QString &kindId, const QPointF &from, const QPointF &to);
+    /// Picks a kind in the palette and waits.
+    void pick(const QString &kindId);
+    CBaseObject *only() const;
+    QVector<CBaseObject *> selection() const;
+    /// Where the object's client rectangle is on the page, for objects that are not turned.
+    QRectF placeOf(const CBaseObject *object) const;
+    /// The centre of a handle of the only selected object, found by asking the page around it what a press would
+    /// do. Null when there is none.
+    QPointF handle(CObjAction::ACT_Def action) const;
+    /// @}
+
+private:
+    QVector<QPoint> answering(CObjAction::ACT_Def action, const QRect &area, int step) const;
+    void sendMove(const QPointF &pos, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers);
+    QPoint at(const QPointF &pos) const;
+
+    std::unique_ptr<board::Workspace> m_workspace;
+    std::unique_ptr<board::MainWindow> m_window;
+};
+
+} // namespace boardtest

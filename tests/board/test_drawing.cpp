@@ -1,0 +1,227 @@
+// Drawing new shapes: with the palette, the mouse on the page, and undo and redo of it.
+
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/palettebutton.h>
+#include <panels/palettepanel.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/objectregistry.h>
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QMimeData>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+using namespace boardtest;
+
+class TestDrawing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dragInAnyDirectionFillsTheDraggedRectangle_data();
+    void dragInAnyDirectionFillsTheDraggedRectangle();
+    void shiftKeepsTheDragSquare();
+    void clickMakesTheUsualSize_data();
+    void clickMakesTheUsualSize();
+    void keptProportionsStayInEveryDirection_data();
+    void keptProportionsStayInEveryDirection();
+    void newShapeIsSelectedAndTheToolRests();
+    void escapeDuringTheDragLeavesNothing();
+    void escapeBeforeTheDragPutsTheToolAway();
+    void secondClickInThePalettePutsTheToolAway();
+    void undoAndRedoOfDrawing();
+    void returnKeyInThePalettePlacesOneInTheMiddle();
+    void kindDroppedOnThePageAppearsThere();
+    void everyKindHasAPictureAndAName();
+    void paletteSearchHidesOtherKinds();
+};
+
+void TestDrawing::dragInAnyDirectionFillsTheDraggedRectangle_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::newRow("right and down") << QPointF(500, 300) << QPointF(700, 420);
+    QTest::newRow("left and down") << QPointF(700, 300) << QPointF(500, 420);
+    QTest::newRow("right and up") << QPointF(500, 420) << QPointF(700, 300);
+    QTest::newRow("left and up") << QPointF(700, 420) << QPointF(500, 300);
+}
+
+void TestDrawing::dragInAnyDirectionFillsTheDraggedRectangle()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    for (const QString &kind : {rectangle, arrow, polygon}) {
+        BoardDriver board;
+        CBaseObject *object = board.draw(kind, from, to);
+        QVERIFY(object);
+        QCOMPARE(board.placeOf(object), QRectF(500, 300, 200, 120));
+        QVERIFY(object->isCreateFinished());
+    }
+}
+
+void TestDrawing::shiftKeepsTheDragSquare()
+{
+    BoardDriver board;
+    board.pick(rectangle);
+    board.drag({500, 300}, {620, 350}, Qt::ShiftModifier);
+    QCOMPARE(board.placeOf(board.only()), QRectF(500, 300, 120, 120));
+}
+
+void TestDrawing::clickMakesTheUsualSize_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("rounded rectangle") << rectangle << QSizeF(120, 80);
+    QTest::newRow("arrow") << arrow << QSizeF(140, 90);
+    QTest::newRow("polygon") << polygon << QSizeF(120, 114);
+    QTest::newRow("flask") << flask << QSizeF(120, 160);
+}
+
+void TestDrawing::clickMakesTheUsualSize()
+{
+    QFETCH(QString, kind);
+    QFETCH(QSizeF, size);
+    BoardDriver board;
+    board.pick(kind);
+    board.click({520, 310});
+    QVERIFY(board.only());
+    QCOMPARE(board.placeOf(board.only()), QRectF(QPointF(520, 310), size));
+}
+
+void TestDrawing::keptProportionsStayInEveryDirection_data()
+{
+    dragInAnyDirectionFillsTheDraggedRectangle_data();
+}
+
+void TestDrawing::keptProportionsStayInEveryDirection()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    BoardDriver board;
+    const QRectF place = board.placeOf(board.draw(flask, from, to));
+    // 3 to 4, as its template is, and never larger than what was dragged over.
+    QCOMPARE(place.width() * 4, place.height() * 3);
+    QVERIFY(place.width() <= 200 && place.height() <= 120);
+    // The corner where the drag began stays.
+    QCOMPARE(from.x() < to.x() ? place.left() : place.right(), from.x());
+    QCOMPARE(from.y() < to.y() ? place.top() : place.bottom(), from.y());
+}
+
+void TestDrawing::newShapeIsSelectedAndTheToolRests()
+{
+    BoardDriver board;
+    CBaseObject *object = board.draw(rectangle, {500, 300}, {700, 420});
+    QCOMPARE(board.selection(), QVector<CBaseObject *>{object});
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        QVERIFY(!button->isChecked());
+    board.drag({800, 500}, {900, 600});
+    QCOMPARE(board.page().objectCount(), 1);
+}
+
+void TestDrawing::escapeDuringTheDragLeavesNothing()
+{
+    BoardDriver board;
+    board.pick(rectangle);
+    board.hold({500, 300}, {700, 420});
+    board.key(Qt::Key_Escape);
+    board.release({700, 420});
+    QCOMPARE(board.page().objectCount(), 0);
+    QCOMPARE(board.history().count(), 0);
+}
+
+void TestDrawing::escapeBeforeTheDragPutsTheToolAway()
+{
+    BoardDriver board;
+    board.pick(rectangle);
+    board.key(Qt::Key_Escape);
+    board.drag({500, 300}, {700, 420});
+    QCOMPARE(board.page().objectCount(), 0);
+}
+
+void TestDrawing::secondClickInThePalettePutsTheToolAway()
+{
+    BoardDriver board;
+    board.pick(rectangle);
+    board.pick(rectangle);
+    board.drag({500, 300}, {700, 420});
+    QCOMPARE(board.page().objectCount(), 0);
+}
+
+void TestDrawing::undoAndRedoOfDrawing()
+{
+    BoardDriver board;
+    CBaseObject *object = board.draw(rectangle, {500, 300}, {700, 420});
+    QCOMPARE(board.history().count(), 1);
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(board.page().objectCount(), 0);
+    board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(board.only(), object);
+    QCOMPARE(board.placeOf(object), QRectF(500, 300, 200, 120));
+}
+
+void TestDrawing::returnKeyInThePalettePlacesOneInTheMiddle()
+{
+    BoardDriver board;
+    QTest::keyClick(board.window().palettePanel()->buttons().first(), Qt::Key_Return);
+    QVERIFY(board.only());
+    const QPointF middle = board.view().mapToScene(board.view().viewport()->rect().center());
+    QVERIFY(board.placeOf(board.only()).contains(middle));
+    QCOMPARE(board.history().count(), 1);
+}
+
+void TestDrawing::kindDroppedOnThePageAppearsThere()
+{
+    BoardDriver board;
+    QMimeData data;
+    data.setData(board::kindMimeType, arrow.toUtf8());
+    const QPoint pos = board.view().mapFromScene(QPointF(640, 360));
+    QDragEnterEvent enter(pos, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(board.view().viewport(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(pos, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(board.view().viewport(), &drop);
+    QVERIFY(board.only());
+    QCOMPARE(pagehost::kindIdOf(board.only()), arrow);
+    QVERIFY(board.placeOf(board.only()).contains(QPointF(640, 360)));
+}
+
+void TestDrawing::everyKindHasAPictureAndAName()
+{
+    BoardDriver board;
+    const QVector<board::PaletteButton *> buttons = board.window().palettePanel()->buttons();
+    QCOMPARE(buttons.size(), board.workspace().registry().kinds().size());
+    QVERIFY(buttons.size() >= 4);
+    for (const board::PaletteButton *button : buttons) {
+        QVERIFY(!button->text().isEmpty() && !button->text().startsWith("IDS_"));
+        const QImage picture = button->icon().pixmap(button->iconSize()).toImage();
+        // The corners are free, the figure is not.
+        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+        int opaque = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                opaque += picture.pixelColor(x, y).alpha() > 200;
+        }
+        QVERIFY2(opaque >= 50, qPrintable(button->kindId()));
+    }
+}
+
+void TestDrawing::paletteSearchHidesOtherKinds()
+{
+    BoardDriver board;
+    auto *search = board.window().palettePanel()->findChild<QLineEdit *>();
+    QVERIFY(search);
+    QTest::keyClicks(search, "flas");
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        QCOMPARE(button->isVisible(), button->kindId() == flask);
+    search->clear();
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        QVERIFY(button->isVisible());
+}
+
+QTEST_MAIN(TestDrawing)
+#include "test_drawing.moc"

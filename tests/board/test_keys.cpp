@@ -1,0 +1,254 @@
+// What the keys do to the selection: nudging, deleting, duplicating, order, mirroring, and the history.
+
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/historypanel.h>
+#include <window/actions.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QUndoStack>
+#include <QtWidgets/QUndoView>
+
+using namespace boardtest;
+
+using Objects = QVector<CBaseObject *>;
+
+/// One selected rectangle, 200 × 120 at (500, 300).
+struct OneShape
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {500, 300}, {700, 420});
+
+    QRectF place() const { return board.placeOf(shape); }
+    void undo() { board.key(Qt::Key_Z, Qt::ControlModifier); }
+    void redo() { board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+};
+
+class TestKeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void arrowKeysNudge_data();
+    void arrowKeysNudge();
+    void heldArrowKeyIsOneStep();
+    void arrowKeysLeaveLockedShapesAlone();
+    void deleteRemovesTheSelection();
+    void duplicateMakesASelectedCopy();
+    void orderKeys();
+    void mirrorKeys();
+    void keysWorkWithoutADesktopTheme_data();
+    void keysWorkWithoutADesktopTheme();
+    void actionsAreDisabledWithoutASelection();
+    void historyShowsWordsInTheUsersLanguage_data();
+    void historyShowsWordsInTheUsersLanguage();
+    void clickInTheHistoryGoesBack();
+};
+
+void TestKeys::arrowKeysNudge_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QPointF>("pos");
+    QTest::newRow("left") << int(Qt::Key_Left) << false << QPointF(499, 300);
+    QTest::newRow("right") << int(Qt::Key_Right) << false << QPointF(501, 300);
+    QTest::newRow("up") << int(Qt::Key_Up) << false << QPointF(500, 299);
+    QTest::newRow("down") << int(Qt::Key_Down) << false << QPointF(500, 301);
+    QTest::newRow("left by ten") << int(Qt::Key_Left) << true << QPointF(490, 300);
+    QTest::newRow("down by ten") << int(Qt::Key_Down) << true << QPointF(500, 310);
+}
+
+void TestKeys::arrowKeysNudge()
+{
+    QFETCH(int, key);
+    QFETCH(bool, shift);
+    QFETCH(QPointF, pos);
+    OneShape t;
+    t.board.key(static_cast<Qt::Key>(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
+    QCOMPARE(t.place(), QRectF(pos, QSizeF(200, 120)));
+    QCOMPARE(t.board.history().count(), 2);
+    t.undo();
+    QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
+    t.redo();
+    QCOMPARE(t.place(), QRectF(pos, QSizeF(200, 120)));
+}
+
+void TestKeys::heldArrowKeyIsOneStep()
+{
+    OneShape t;
+    for (int i = 0; i < 5; ++i) {
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), i > 0);
+        QApplication::sendEvent(&t.board.view(), &repeat);
+    }
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier);
+    QApplication::sendEvent(&t.board.view(), &release);
+    QCOMPARE(t.place().topLeft(), QPointF(505, 300));
+    QCOMPARE(t.board.history().count(), 2);
+    t.undo();
+    QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+}
+
+void TestKeys::arrowKeysLeaveLockedShapesAlone()
+{
+    OneShape t;
+    t.shape->setLocked(true);
+    t.board.key(Qt::Key_Right);
+    QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+    QCOMPARE(t.board.history().count(), 1);
+}
+
+void TestKeys::deleteRemovesTheSelection()
+{
+    OneShape t;
+    CBaseObject *other = t.board.draw(arrow, {800, 300}, {900, 400});
+    t.board.click({600, 360});
+    t.board.key(Qt::Key_Delete);
+    QCOMPARE(t.board.page().objects(), Objects{other});
+    t.undo();
+    QCOMPARE(t.board.page().objects(), (Objects{t.shape, other}));
+    t.redo();
+    QCOMPARE(t.board.page().objects(), Objects{other});
+}
+
+void TestKeys::duplicateMakesASelectedCopy()
+{
+    OneShape t;
+    t.board.key(Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(t.board.page().objectCount(), 2);
+    CBaseObject *copy = t.board.page().objects().last();
+    QCOMPARE(t.board.selection(), Objects{copy});
+    QCOMPARE(t.board.placeOf(copy), QRectF(520, 320, 200, 120));
+    QCOMPARE(copy->getHostFillBrush(), t.shape->getHostFillBrush());
+    t.undo();
+    QCOMPARE(t.board.page().objects(), Objects{t.shape});
+    t.redo();
+    QCOMPARE(t.board.page().objectCount(), 2);
+}
+
+void TestKeys::orderKeys()
+{
+    OneShape t;
+    CBaseObject *middle = t.board.draw(arrow, {800, 300}, {900, 400});
+    CBaseObject *top = t.board.draw(polygon, {300, 300}, {400, 400});
+    t.board.page().select({t.shape});
+    const auto order = [&] { return t.board.page().objects(); };
+    t.board.key(Qt::Key_BracketRight, Qt::ControlModifier);
+    QCOMPARE(order(), (Objects{middle, t.shape, top}));
+    t.board.key(Qt::Key_BracketRight, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(order(), (Objects{middle, top, t.shape}));
+    t.board.key(Qt::Key_BracketLeft, Qt::ControlModifier);
+    QCOMPARE(order(), (Objects{middle, t.shape, top}));
+    t.board.key(Qt::Key_BracketLeft, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(order(), (Objects{t.shape, middle, top}));
+    t.undo();
+    QCOMPARE(order(), (Objects{middle, t.shape, top}));
+    t.redo();
+    QCOMPARE(order(), (Objects{t.shape, middle, top}));
+}
+
+void TestKeys::mirrorKeys()
+{
+    OneShape t;
+    t.board.key(Qt::Key_H, Qt::ShiftModifier);
+    QVERIFY(t.shape->isMirrored() && !t.shape->isFlipped());
+    t.board.key(Qt::Key_V, Qt::ShiftModifier);
+    QVERIFY(t.shape->isMirrored() && t.shape->isFlipped());
+    t.undo();
+    QVERIFY(t.shape->isMirrored() && !t.shape->isFlipped());
+}
+
+void TestKeys::keysWorkWithoutADesktopTheme_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("undo") << "undo"
+                          << "Ctrl+Z";
+    QTest::newRow("redo") << "redo"
+                          << "Ctrl+Shift+Z";
+    QTest::newRow("quit") << "quit"
+                          << "Ctrl+Q";
+    QTest::newRow("select all") << "selectAll"
+                                << "Ctrl+A";
+    QTest::newRow("deselect") << "deselect"
+                              << "Ctrl+Shift+A";
+    QTest::newRow("delete") << "remove"
+                            << "Del";
+    QTest::newRow("duplicate") << "duplicate"
+                               << "Ctrl+D";
+    QTest::newRow("zoom in") << "zoomIn"
+                             << "Ctrl++";
+    QTest::newRow("zoom out") << "zoomOut"
+                              << "Ctrl+-";
+}
+
+void TestKeys::keysWorkWithoutADesktopTheme()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, keys);
+    BoardDriver board;
+    const board::Actions *actions = board.window().actions();
+    const QHash<QString, QAction *> byName{
+        {"undo", actions->undo},           {"redo", actions->redo},         {"quit", actions->quit},
+        {"selectAll", actions->selectAll}, {"deselect", actions->deselect}, {"remove", actions->remove},
+        {"duplicate", actions->duplicate}, {"zoomIn", actions->zoomIn},     {"zoomOut", actions->zoomOut}};
+    QVERIFY(byName.value(action)->shortcuts().contains(QKeySequence(keys)));
+}
+
+void TestKeys::actionsAreDisabledWithoutASelection()
+{
+    OneShape t;
+    const board::Actions *actions = t.board.window().actions();
+    QVERIFY(actions->remove->isEnabled() && actions->toFront->isEnabled());
+    t.board.click({300, 600});
+    QVERIFY(!actions->remove->isEnabled() && !actions->toFront->isEnabled());
+    QVERIFY(!actions->redo->isEnabled() && actions->undo->isEnabled());
+}
+
+void TestKeys::historyShowsWordsInTheUsersLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("English") << "en" << QStringList{"Start", "Add", "Move with keys", "Mirror", "Delete"};
+    QTest::newRow("German") << "de"
+                            << QStringList{"Anfang", "Hinzufügen", "Mit Tasten verschieben", "Spiegeln", "Löschen"};
+}
+
+void TestKeys::historyShowsWordsInTheUsersLanguage()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, words);
+    BoardDriver board(language);
+    board.draw(rectangle, {500, 300}, {700, 420});
+    board.key(Qt::Key_Right);
+    board.key(Qt::Key_H, Qt::ShiftModifier);
+    board.key(Qt::Key_Delete);
+    const QUndoView *view = board.window().findChild<board::HistoryPanel *>()->view();
+    QStringList shown;
+    for (int row = 0; row < view->model()->rowCount(); ++row) {
+        const QVariant text = view->model()->index(row, 0).data();
+        shown.append(static_cast<QStyledItemDelegate *>(view->itemDelegate())->displayText(text, QLocale()));
+    }
+    QCOMPARE(shown, words);
+    QVERIFY(board.window().actions()->undo->text().endsWith(words.last()));
+}
+
+void TestKeys::clickInTheHistoryGoesBack()
+{
+    OneShape t;
+    t.board.key(Qt::Key_Right);
+    t.board.key(Qt::Key_Right);
+    QUndoView *view = t.board.window().findChild<board::HistoryPanel *>()->view();
+    const QModelIndex drawn = view->model()->index(1, 0);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(drawn).center());
+    QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+}
+
+QTEST_MAIN(TestKeys)
+#include "test_keys.moc"

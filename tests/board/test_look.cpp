@@ -1,0 +1,250 @@
+// Pen, fill and place through the panel, each with undo and redo.
+
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/colorbutton.h>
+#include <panels/fillcontrols.h>
+#include <panels/pencontrols.h>
+#include <panels/placecontrols.h>
+#include <panels/stylepanel.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/page.h>
+#include <pagehost/pagepainter.h>
+#include <pagehost/style.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QUndoStack>
+
+using namespace boardtest;
+
+/// One selected shape, 200 × 120 at (500, 300), and the panel.
+struct StyledShape
+{
+    explicit StyledShape(const QString &kind = rectangle)
+        : shape(board.draw(kind, {500, 300}, {700, 420}))
+        , steps(board.history().count())
+    {
+    }
+
+    template<typename Control> Control *control(const QString &accessibleName) const
+    {
+        for (Control *candidate : panel->findChildren<Control *>()) {
+            if (candidate->accessibleName() == accessibleName && candidate->isVisibleTo(panel))
+                return candidate;
+        }
+        return nullptr;
+    }
+    pagehost::ObjectStyle style() const { return pagehost::styleOf(shape); }
+    int newSteps() const { return board.history().count() - steps; }
+    void undo() { board.key(Qt::Key_Z, Qt::ControlModifier); }
+    void redo() { board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+    QColor pixelAt(const QPoint &pos) { return pagehost::pageImage(&board.page(), 1).pixelColor(pos); }
+
+    BoardDriver board;
+    CBaseObject *shape;
+    int steps;
+    board::StylePanel *panel = board.window().findChild<board::StylePanel *>();
+};
+
+class TestLook : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void penColor();
+    void penWidth();
+    void penStyle();
+    void fillColorWithAlpha_data();
+    void fillColorWithAlpha();
+    void fillTypes_data();
+    void fillTypes();
+    void gradientBackToTheSameColour();
+    void panelShowsTheSelectedShape();
+    void panelShowsThePageWithoutASelection();
+    void pageBackground();
+    void placeAsNumbers();
+    void severalShapesAreOneStep();
+};
+
+void TestLook::penColor()
+{
+    StyledShape t;
+    const QColor before = t.style().penColor;
+    Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(200, 10, 20));
+    QCOMPARE(t.style().penColor, QColor(200, 10, 20));
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(t.style().penColor, before);
+    t.redo();
+    QCOMPARE(t.style().penColor, QColor(200, 10, 20));
+    QTRY_COMPARE(t.control<board::ColorButton>("Outline colour")->color(), QColor(200, 10, 20));
+}
+
+void TestLook::penWidth()
+{
+    StyledShape t;
+    const int before = t.style().penWidth;
+    auto *box = t.control<QSpinBox>("Outline width");
+    QCOMPARE(box->value(), before);
+    box->setValue(6);
+    QCOMPARE(t.style().penWidth, 6);
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(t.style().penWidth, before);
+    t.redo();
+    QCOMPARE(t.style().penWidth, 6);
+}
+
+void TestLook::penStyle()
+{
+    StyledShape t;
+    auto *box = t.control<QComboBox>("Outline style");
+    const int dashed = box->findData(int(Qt::DashLine));
+    box->setCurrentIndex(dashed);
+    Q_EMIT box->activated(dashed);
+    QCOMPARE(t.style().penStyle, Qt::DashLine);
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(t.style().penStyle, Qt::SolidLine);
+    t.redo();
+    QCOMPARE(t.style().penStyle, Qt::DashLine);
+}
+
+void TestLook::fillColorWithAlpha_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("host fill") << rectangle;
+    QTest::newRow("template fill") << flask;
+}
+
+void TestLook::fillColorWithAlpha()
+{
+    QFETCH(QString, kind);
+    StyledShape t(kind);
+    const QColor before = t.style().fill.color();
+    Q_EMIT t.control<board::ColorButton>("Fill colour")->colorPicked(QColor(0, 200, 0, 128));
+    QCOMPARE(t.style().fill.color(), QColor(0, 200, 0, 128));
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(t.style().fill.color(), before);
+    t.redo();
+    QCOMPARE(t.style().fill.color(), QColor(0, 200, 0, 128));
+}
+
+void TestLook::fillTypes_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("type");
+    QTest::newRow("none") << "No fill" << int(CPageBgProp::NoFill);
+    QTest::newRow("gradient") << "Gradient" << int(CPageBgProp::GradientFill);
+    QTest::newRow("pattern") << "Pattern" << int(CPageBgProp::PatternFill);
+}
+
+void TestLook::fillTypes()
+{
+    QFETCH(QString, button);
+    QFETCH(int, type);
+    StyledShape t;
+    const CPageBgProp before = *t.shape->getFillProp();
+    const QImage picture = pagehost::pageImage(&t.board.page(), 1);
+    QTest::mouseClick(t.control<QToolButton>(button), Qt::LeftButton);
+    const CPageBgProp *fill = t.shape->getFillProp();
+    QCOMPARE(fill->isFillEnable(), type != CPageBgProp::NoFill);
+    if (fill->isFillEnable())
+        QCOMPARE(fill->fillType(), type);
+    QVERIFY(pagehost::pageImage(&t.board.page(), 1) != picture);
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(*t.shape->getFillProp(), before);
+    QCOMPARE(pagehost::pageImage(&t.board.page(), 1), picture);
+    t.redo();
+    QVERIFY(pagehost::pageImage(&t.board.page(), 1) != picture);
+}
+
+void TestLook::gradientBackToTheSameColour()
+{
+    StyledShape t;
+    const QColor color = t.pixelAt({600, 360});
+    QTest::mouseClick(t.control<QToolButton>("Gradient"), Qt::LeftButton);
+    QVERIFY(t.pixelAt({600, 360}) != color);
+    QTest::mouseClick(t.control<QToolButton>("Colour"), Qt::LeftButton);
+    QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::SolidFill));
+    QCOMPARE(t.pixelAt({600, 360}), color);
+}
+
+void TestLook::panelShowsTheSelectedShape()
+{
+    StyledShape t;
+    CBaseObject *other = t.board.draw(arrow, {800, 300}, {900, 400});
+    pagehost::setPenWidth({other}, 5);
+    pagehost::setFill({other}, QColor(1, 2, 3));
+    t.board.page().select({t.shape});
+    t.board.page().select({other});
+    QCOMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
+    QCOMPARE(t.control<board::ColorButton>("Fill colour")->color(), QColor(1, 2, 3));
+    QCOMPARE(t.control<QDoubleSpinBox>("Left edge")->value(), 800.0);
+    QCOMPARE(t.control<QDoubleSpinBox>("Width")->value(), 100.0);
+}
+
+void TestLook::panelShowsThePageWithoutASelection()
+{
+    StyledShape t;
+    t.board.page().select({});
+    QVERIFY(!t.control<QSpinBox>("Outline width"));
+    QCOMPARE(t.control<board::ColorButton>("Fill colour")->color(), QColor(Qt::white));
+}
+
+void TestLook::pageBackground()
+{
+    StyledShape t;
+    t.board.page().select({});
+    Q_EMIT t.control<board::ColorButton>("Fill colour")->colorPicked(QColor(10, 20, 30));
+    QCOMPARE(t.pixelAt({5, 5}), QColor(10, 20, 30));
+    QCOMPARE(t.newSteps(), 1);
+    t.undo();
+    QCOMPARE(t.pixelAt({5, 5}), QColor(Qt::white));
+    t.redo();
+    QCOMPARE(t.pixelAt({5, 5}), QColor(10, 20, 30));
+}
+
+void TestLook::placeAsNumbers()
+{
+    StyledShape t;
+    t.control<QDoubleSpinBox>("Left edge")->setValue(450);
+    t.control<QDoubleSpinBox>("Top edge")->setValue(320);
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(450, 320, 200, 120));
+    t.control<QDoubleSpinBox>("Width")->setValue(150);
+    t.control<QDoubleSpinBox>("Height")->setValue(90);
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(450, 320, 150, 90));
+    t.control<QDoubleSpinBox>("Rotation")->setValue(30);
+    QCOMPARE(t.shape->rotation(), 30.0);
+    QCOMPARE(t.newSteps(), 5);
+    for (int i = 0; i < 5; ++i)
+        t.undo();
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(500, 300, 200, 120));
+    QCOMPARE(t.shape->rotation(), 0.0);
+}
+
+void TestLook::severalShapesAreOneStep()
+{
+    StyledShape t;
+    CBaseObject *other = t.board.draw(arrow, {800, 300}, {900, 400});
+    const QColor before = pagehost::styleOf(other).penColor;
+    t.board.key(Qt::Key_A, Qt::ControlModifier);
+    const int steps = t.board.history().count();
+    Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(200, 10, 20));
+    QCOMPARE(t.board.history().count(), steps + 1);
+    QCOMPARE(t.style().penColor, QColor(200, 10, 20));
+    QCOMPARE(pagehost::styleOf(other).penColor, QColor(200, 10, 20));
+    t.undo();
+    QCOMPARE(pagehost::styleOf(other).penColor, before);
+}
+
+QTEST_MAIN(TestLook)
+#include "test_look.moc"

@@ -1,0 +1,149 @@
+// Several pages: thumbnails, adding, removing, moving, turning over.
+
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/pagepanel.h>
+#include <window/actions.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/page.h>
+#include <pagehost/style.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QListWidget>
+
+using namespace boardtest;
+
+class TestPages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thumbnailShowsThePage();
+    void thumbnailFollowsChanges();
+    void addAndRemoveAPage();
+    void lastPageStays();
+    void clickOnAThumbnailTurnsToThatPage();
+    void pageKeysTurnPages();
+    void draggedThumbnailMovesThePage();
+    void drawingGoesToTheCurrentPage();
+};
+
+static QListWidget *listOf(BoardDriver &board)
+{
+    return board.window().pages()->list();
+}
+
+static QImage thumbnail(BoardDriver &board, int row)
+{
+    board.window().pages()->thumbnails()->finish();
+    return listOf(board)->item(row)->data(Qt::DecorationRole).value<QImage>();
+}
+
+/// The thumbnail's colour at a point of the page.
+static QColor thumbnailColor(BoardDriver &board, int row, const QPointF &pos)
+{
+    const QImage picture = thumbnail(board, row);
+    return picture.pixelColor(int(pos.x() * picture.width() / 1280), int(pos.y() * picture.height() / 720));
+}
+
+void TestPages::thumbnailShowsThePage()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {400, 200}, {800, 500});
+    pagehost::setFill({shape}, QColor(200, 30, 40));
+    QTest::qWait(50);
+    QCOMPARE(thumbnail(board, 0).size(), QSize(144, 81));
+    QCOMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
+    QCOMPARE(thumbnailColor(board, 0, {100, 100}), QColor(Qt::white));
+}
+
+void TestPages::thumbnailFollowsChanges()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {400, 200}, {800, 500});
+    pagehost::setFill({shape}, QColor(200, 30, 40));
+    QTRY_COMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
+    board.drag({600, 350}, {1000, 350});
+    QTRY_COMPARE(thumbnailColor(board, 0, {600, 350}), QColor(Qt::white));
+    QCOMPARE(thumbnailColor(board, 0, {1000, 350}), QColor(200, 30, 40));
+}
+
+void TestPages::addAndRemoveAPage()
+{
+    BoardDriver board;
+    pagehost::Document *document = board.workspace().document();
+    pagehost::Page *first = &board.page();
+    board.window().actions()->addPage->trigger();
+    QCOMPARE(document->pageCount(), 2);
+    QCOMPARE(listOf(board)->count(), 2);
+    QCOMPARE(board.view().page(), document->page(1));
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(document->pages(), QVector<pagehost::Page *>{first});
+    QCOMPARE(board.view().page(), first);
+    board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(listOf(board)->count(), 2);
+    board.window().actions()->removePage->trigger();
+    QCOMPARE(document->pages(), QVector<pagehost::Page *>{first});
+    QCOMPARE(listOf(board)->count(), 1);
+}
+
+void TestPages::lastPageStays()
+{
+    BoardDriver board;
+    QVERIFY(!board.window().actions()->removePage->isEnabled());
+    board.window().actions()->removePage->trigger();
+    QCOMPARE(board.workspace().document()->pageCount(), 1);
+}
+
+void TestPages::clickOnAThumbnailTurnsToThatPage()
+{
+    BoardDriver board;
+    board.window().actions()->addPage->trigger();
+    QListWidget *list = listOf(board);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(0)).center());
+    QCOMPARE(board.view().page(), board.workspace().document()->page(0));
+}
+
+void TestPages::pageKeysTurnPages()
+{
+    BoardDriver board;
+    board.window().actions()->addPage->trigger();
+    board.key(Qt::Key_PageUp);
+    QCOMPARE(board.workspace().document()->currentIndex(), 0);
+    QCOMPARE(listOf(board)->currentRow(), 0);
+    board.key(Qt::Key_PageDown);
+    QCOMPARE(board.workspace().document()->currentIndex(), 1);
+    QCOMPARE(listOf(board)->currentRow(), 1);
+}
+
+void TestPages::draggedThumbnailMovesThePage()
+{
+    BoardDriver board;
+    pagehost::Document *document = board.workspace().document();
+    board.window().actions()->addPage->trigger();
+    board.window().actions()->addPage->trigger();
+    const QVector<pagehost::Page *> before = document->pages();
+    // What a drop between the thumbnails does to the list.
+    QVERIFY(listOf(board)->model()->moveRow(QModelIndex(), 0, QModelIndex(), 3));
+    QCOMPARE(document->pages(), (QVector<pagehost::Page *>{before.at(1), before.at(2), before.at(0)}));
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(document->pages(), before);
+}
+
+void TestPages::drawingGoesToTheCurrentPage()
+{
+    BoardDriver board;
+    board.window().actions()->addPage->trigger();
+    board.draw(rectangle, {500, 300}, {700, 420});
+    QCOMPARE(board.workspace().document()->page(0)->objectCount(), 0);
+    QCOMPARE(board.workspace().document()->page(1)->objectCount(), 1);
+}
+
+QTEST_MAIN(TestPages)
+#include "test_pages.moc"

@@ -1,0 +1,174 @@
+// The program from the outside: arguments, exit codes, what it prints, and the pictures that it writes.
+
+#include <application/commandline.h>
+
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtTest/QtTest>
+
+struct Outcome
+{
+    int code = -1;
+    QString out;
+    QString errors;
+};
+
+/// Runs the board without any display.
+static Outcome run(const QStringList &arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    const QTemporaryDir runtimeFolder;
+    environment.insert("XDG_RUNTIME_DIR", runtimeFolder.path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(BOARD_PROGRAM, arguments);
+    Outcome outcome;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return outcome;
+    outcome.code = process.exitCode();
+    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
+    outcome.errors = QString::fromUtf8(process.readAllStandardError());
+    return outcome;
+}
+
+class TestProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void helpNamesEveryOption();
+    void versionIsPrinted();
+    void badArgumentsAreRefused_data();
+    void badArgumentsAreRefused();
+    void exportWritesThePages_data();
+    void exportWritesThePages();
+    void exportIntoAnImpossibleFolderFails();
+    void unusablePlugInsAreReported();
+    void missingPlugInFolderIsReported();
+    void optionsAreRead();
+};
+
+void TestProgram::helpNamesEveryOption()
+{
+    const Outcome outcome = run({"--help"});
+    QCOMPARE(outcome.code, 0);
+    for (const char *option : {"--plugins", "--export", "--scale", "--demo", "--language", "--dark", "--help"})
+        QVERIFY2(outcome.out.contains(option), option);
+}
+
+void TestProgram::versionIsPrinted()
+{
+    const Outcome outcome = run({"--version"});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY(QRegularExpression("^gliololok-board \\d+\\.\\d+\\.\\d+\n$").match(outcome.out).hasMatch());
+}
+
+void TestProgram::badArgumentsAreRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("unknown option") << QStringList{"--colour"} << "colour";
+    QTest::newRow("a file") << QStringList{"lesson.page"} << "lesson.page";
+    QTest::newRow("scale 0") << QStringList{"--export", "x", "--scale", "0"} << "--scale";
+    QTest::newRow("scale nan") << QStringList{"--export", "x", "--scale", "nan"} << "--scale";
+    QTest::newRow("scale 1e999") << QStringList{"--export", "x", "--scale", "1e999"} << "--scale";
+    QTest::newRow("language") << QStringList{"--language", "xx"} << "xx";
+    QTest::newRow("export without a folder") << QStringList{"--export"} << "export";
+    QTest::newRow("export to nothing") << QStringList{"--export", ""} << "--export";
+}
+
+void TestProgram::badArgumentsAreRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, words);
+    const Outcome outcome = run(arguments);
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
+    QCOMPARE(outcome.out, QString());
+}
+
+void TestProgram::exportWritesThePages_data()
+{
+    QTest::addColumn<QString>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("full") << "1" << QSize(1280, 720);
+    QTest::newRow("half") << "0.5" << QSize(640, 360);
+    QTest::newRow("double") << "2" << QSize(2560, 1440);
+}
+
+void TestProgram::exportWritesThePages()
+{
+    QFETCH(QString, scale);
+    QFETCH(QSize, size);
+    QTemporaryDir folder;
+    const QString target = folder.filePath("new/pages");
+    const Outcome outcome = run({"--export", target, "--scale", scale});
+    QCOMPARE(outcome.code, 0);
+    const QStringList printed = outcome.out.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(printed, (QStringList{target + "/page-1.png", target + "/page-2.png"}));
+    for (const QString &file : printed) {
+        const QImage picture(file);
+        QCOMPARE(picture.size(), size);
+        QSet<QRgb> colors;
+        for (int y = 0; y < picture.height(); y += 5) {
+            for (int x = 0; x < picture.width(); x += 5)
+                colors.insert(picture.pixel(x, y));
+        }
+        // Paper, and fills and outlines of several shapes.
+        QVERIFY2(colors.size() > 8, qPrintable(file));
+    }
+}
+
+void TestProgram::exportIntoAnImpossibleFolderFails()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("taken"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const Outcome outcome = run({"--export", folder.filePath("taken/pages")});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY(outcome.errors.contains("taken/pages"));
+    QCOMPARE(outcome.out, QString());
+}
+
+void TestProgram::unusablePlugInsAreReported()
+{
+    QTemporaryDir folder;
+    QFile broken(folder.filePath("broken.so"));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("this is no library");
+    broken.close();
+    const Outcome outcome = run({"--plugins", folder.path(), "--export", folder.filePath("pages")});
+    // The shapes that could be loaded are there all the same.
+    QCOMPARE(outcome.code, 0);
+    const QStringList lines = outcome.errors.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 1);
+    const QString start = QString("The plug-in %1 could not be loaded: ").arg(folder.filePath("broken.so"));
+    QVERIFY2(lines.first().startsWith(start), qPrintable(lines.first()));
+    QVERIFY(lines.first().size() > start.size() + 5);
+}
+
+void TestProgram::missingPlugInFolderIsReported()
+{
+    QTemporaryDir folder;
+    const Outcome outcome = run({"--plugins", folder.filePath("nowhere"), "--export", folder.filePath("pages")});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY2(outcome.errors.contains(folder.filePath("nowhere")), qPrintable(outcome.errors));
+}
+
+void TestProgram::optionsAreRead()
+{
+    const board::Options options = board::parseCommandLine(
+        {"board", "--plugins", "a", "--plugins", "b", "--demo", "--dark", "--language", "de", "--scale", "1.5"});
+    QCOMPARE(options.action, board::Options::OpenWindow);
+    QCOMPARE(options.pluginFolders, (QStringList{"a", "b"}));
+    QVERIFY(options.demo && options.dark);
+    QCOMPARE(options.language, QString("de"));
+    QCOMPARE(options.scale, 1.5);
+    QCOMPARE(board::parseCommandLine({"board", "--export", "x"}).action, board::Options::ExportPages);
+}
+
+QTEST_MAIN(TestProgram)
+#include "test_program.moc"

@@ -1,0 +1,213 @@
+// The view of the page: zoom, panning, what an empty page says, how pages look on screen.
+
+#include <board/boarddriver.h>
+
+#include <look/icons.h>
+#include <look/theme.h>
+#include <page/pageview.h>
+#include <window/actions.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+using namespace boardtest;
+
+class TestView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void viewHasTheNameThatControlPointsShowIn();
+    void wheelWithControlZoomsAboutTheCursor_data();
+    void wheelWithControlZoomsAboutTheCursor();
+    void zoomStaysInItsRange();
+    void objectsLearnTheZoom();
+    void fitShowsTheWholePage();
+    void fitFollowsTheWindowUntilTheUserZooms();
+    void fullSizeIsOnePixelPerUnit();
+    void zoomStepsGoUpAndDown();
+    void spaceBarAndMouseDragThePage();
+    void emptyPageSaysWhatToDo();
+    void iconsFollowTheColours();
+    void everyControlHasANameForScreenReaders();
+};
+
+void TestView::viewHasTheNameThatControlPointsShowIn()
+{
+    BoardDriver board;
+    QCOMPARE(board.view().objectName(), QString("mainGraphicsView"));
+}
+
+void TestView::wheelWithControlZoomsAboutTheCursor_data()
+{
+    QTest::addColumn<QPointF>("pos");
+    QTest::addColumn<int>("notches");
+    QTest::newRow("in, left of the middle") << QPointF(450, 250) << 3;
+    QTest::newRow("in, right of the middle") << QPointF(900, 500) << 1;
+    QTest::newRow("out") << QPointF(700, 300) << -2;
+}
+
+void TestView::wheelWithControlZoomsAboutTheCursor()
+{
+    QFETCH(QPointF, pos);
+    QFETCH(int, notches);
+    BoardDriver board;
+    const QPoint cursor = board.view().mapFromScene(pos);
+    board.wheel(pos, notches, Qt::ControlModifier);
+    QVERIFY(notches > 0 ? board.view().zoom() > 1.1 : board.view().zoom() < 0.9);
+    const QPointF now = board.view().viewportTransform().map(pos);
+    QVERIFY2(QLineF(now, cursor).length() <= 1, qPrintable(QString("%1, %2").arg(now.x()).arg(now.y())));
+}
+
+void TestView::zoomStaysInItsRange()
+{
+    BoardDriver board;
+    board.wheel({640, 360}, 60, Qt::ControlModifier);
+    QCOMPARE(board.view().zoom(), 8.0);
+    board.wheel({640, 360}, -200, Qt::ControlModifier);
+    QCOMPARE(board.view().zoom(), 0.1);
+}
+
+void TestView::objectsLearnTheZoom()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {500, 300}, {700, 420});
+    board.view().setZoom(2);
+    QCOMPARE(shape->getCurZoomRate(), 2.0);
+    QCOMPARE(board.workspace().document()->zoomRate(), 2.0);
+}
+
+void TestView::fitShowsTheWholePage()
+{
+    BoardDriver board;
+    board.window().actions()->fitPage->trigger();
+    const QRect page = board.view().mapFromScene(board.page().rect()).boundingRect();
+    const QRect window = board.view().viewport()->rect();
+    QVERIFY(window.contains(page));
+    // As large as it can be: one of the sides has no more than the margin.
+    QVERIFY(qMin(window.width() - page.width(), window.height() - page.height()) <= 80);
+    QVERIFY((page.center() - window.center()).manhattanLength() <= 3);
+}
+
+void TestView::fitFollowsTheWindowUntilTheUserZooms()
+{
+    BoardDriver board;
+    board.view().fitPage();
+    const double before = board.view().zoom();
+    board.window().resize(1300, 800);
+    QTest::qWait(20);
+    QVERIFY(board.view().zoom() < before);
+    board.view().setZoom(1);
+    board.window().resize(1600, 1100);
+    QTest::qWait(20);
+    QCOMPARE(board.view().zoom(), 1.0);
+}
+
+void TestView::fullSizeIsOnePixelPerUnit()
+{
+    BoardDriver board;
+    board.view().fitPage();
+    board.key(Qt::Key_0, Qt::ControlModifier);
+    const QPointF a = board.view().viewportTransform().map(QPointF(100, 100));
+    const QPointF b = board.view().viewportTransform().map(QPointF(300, 100));
+    QCOMPARE(b - a, QPointF(200, 0));
+}
+
+void TestView::zoomStepsGoUpAndDown()
+{
+    BoardDriver board;
+    board.key(Qt::Key_Plus, Qt::ControlModifier);
+    QCOMPARE(board.view().zoom(), 1.25);
+    board.key(Qt::Key_Minus, Qt::ControlModifier);
+    board.key(Qt::Key_Minus, Qt::ControlModifier);
+    QCOMPARE(board.view().zoom(), 0.75);
+}
+
+void TestView::spaceBarAndMouseDragThePage()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {500, 300}, {700, 420});
+    const QPointF before = board.view().mapToScene(QPoint(100, 100));
+    const QPoint start = board.view().mapFromScene(QPointF(600, 360));
+    QTest::keyPress(&board.view(), Qt::Key_Space);
+    QTest::mousePress(board.view().viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    const QPoint end = start + QPoint(40, 25);
+    QMouseEvent move(QEvent::MouseMove, end, board.view().viewport()->mapToGlobal(end), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(board.view().viewport(), &move);
+    QTest::mouseRelease(board.view().viewport(), Qt::LeftButton, Qt::NoModifier, end);
+    QTest::keyRelease(&board.view(), Qt::Key_Space);
+    QCOMPARE(board.view().mapToScene(QPoint(100, 100)), before - QPointF(40, 25));
+    QCOMPARE(board.placeOf(shape), QRectF(500, 300, 200, 120));
+}
+
+void TestView::emptyPageSaysWhatToDo()
+{
+    BoardDriver board;
+    const QRect page = board.view().mapFromScene(board.page().rect()).boundingRect();
+    const QRect middle = QRect(page.center() - QPoint(150, 80), QSize(300, 160));
+    const auto hasInk = [&] {
+        const QImage picture = board.view().viewport()->grab(middle).toImage();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y).lightness() < 150)
+                    return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(hasInk());
+    board.draw(rectangle, {20, 20}, {80, 80});
+    board.page().select({});
+    QTest::qWait(20);
+    QVERIFY(!hasInk());
+}
+
+void TestView::iconsFollowTheColours()
+{
+    const auto brightest = [] {
+        const QImage picture = board::icon(board::Icon::Delete).pixmap(32, 32).toImage();
+        int value = -1;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y).alpha() > 250)
+                    value = qMax(value, picture.pixelColor(x, y).lightness());
+            }
+        }
+        return value;
+    };
+    board::applyTheme(board::Theme::Dark);
+    QVERIFY(brightest() > 180);
+    board::applyTheme(board::Theme::Light);
+    QVERIFY(brightest() >= 0 && brightest() < 90);
+}
+
+void TestView::everyControlHasANameForScreenReaders()
+{
+    BoardDriver board;
+    board.draw(rectangle, {500, 300}, {700, 420});
+    QStringList nameless;
+    for (QWidget *widget : board.window().findChildren<QWidget *>()) {
+        const bool isControl = qobject_cast<QToolButton *>(widget) || qobject_cast<QAbstractSpinBox *>(widget) ||
+                               qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSlider *>(widget) ||
+                               qobject_cast<QGraphicsView *>(widget) || qobject_cast<QListView *>(widget);
+        // Qt's own parts of a control speak through it.
+        if (!isControl || qobject_cast<QScrollBar *>(widget) || widget->objectName().startsWith("qt_") ||
+            !widget->isVisible())
+            continue;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        if (!accessible || accessible->text(QAccessible::Name).isEmpty())
+            nameless.append(
+                QString("%1 in %2")
+                    .arg(widget->metaObject()->className(), widget->parentWidget()->metaObject()->className()));
+    }
+    QCOMPARE(nameless, QStringList());
+}
+
+QTEST_MAIN(TestView)
+#include "test_view.moc"
