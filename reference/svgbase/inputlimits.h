@@ -29,6 +29,10 @@ constexpr int usedOutlineElements = 1000000;
 constexpr int textCharacters = 65536;
 /// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.
 constexpr double coordinate = 1e9;
+/// Largest entry of an element's transform to the document.
+constexpr double transformEntry = 1e12;
+/// Largest coordinate after mapping, painter units; what reaches beyond it is not painted.
+constexpr double mappedCoordinate = 1e15;
 /// Widest stroke, user units.
 constexpr double strokeWidth = 1e6;
 /// Most dashes along one outline; above it the stroke is drawn solid.

@@ -15,6 +15,8 @@ namespace {
 constexpr double scaleTolerance = 1e-6;
 /// How far a flattened curve may stray, painter units; what Qt's painters use.
 constexpr double curveThreshold = 0.25;
+/// The same as a share of the size of what is flattened.
+constexpr double finestThreshold = 1e-7;
 
 // A control point is moved to where its centre goes, but keeps its size in document units.
 QTransform aboutCentre(const QPointF &centre, const QTransform &stretch)
@@ -94,6 +96,24 @@ QPainterPath mappedPath(const QPainterPath &path, const QTransform &transform)
     return copy;
 }
 
+// Never so fine that a curve falls into more pieces than a double can tell apart.
+double userThreshold(const QPainterPath &path, double scale)
+{
+    const QRectF box = path.controlPointRect();
+    const double finest = (box.width() + box.height()) * finestThreshold;
+    return scale > 0 ? qMax(finest, curveThreshold / scale) : curveThreshold;
+}
+
+bool isInRange(double coordinate)
+{
+    return qAbs(coordinate) <= Limits::mappedCoordinate;
+}
+
+bool isPaintable(const QRectF &box)
+{
+    return isInRange(box.left()) && isInRange(box.right()) && isInRange(box.top()) && isInRange(box.bottom());
+}
+
 double strokeReach(const QPen &pen)
 {
     const double miter = pen.joinStyle() == Qt::SvgMiterJoin ? qMax(1.0, pen.miterLimit()) : 1;
@@ -112,7 +132,7 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
         return;
     }
     QPainterPathStroker stroker(pen);
-    stroker.setCurveThreshold(scale > 0 ? curveThreshold / scale : curveThreshold);
+    stroker.setCurveThreshold(userThreshold(path, scale));
     item->strokePath = transform.map(stroker.createStroke(path));
     item->strokePath.setFillRule(Qt::WindingFill);
     item->pen = QPen(Qt::NoPen);
@@ -132,9 +152,14 @@ void mapItem(DisplayItem *item, const QTransform &stretch, const QTransform &wor
     item->strokePath = QPainterPath();
     item->fill = mappedBrush(outline.fill, transform);
     item->pen = QPen(Qt::NoPen);
+    item->mapped = true;
+    if (!isPaintable(item->bounds)) {
+        item->path = QPainterPath();
+        item->bounds = QRectF();
+        return;
+    }
     if (outline.pen.style() != Qt::NoPen)
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
-    item->mapped = true;
 }
 
 } // namespace Svg

@@ -2,6 +2,7 @@
 
 #include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
+#include "inputlimits.h"
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/pens.h"
@@ -45,6 +46,19 @@ Fit nestedFit(const Node &node, const LengthContext &context)
     if (fitted)
         return {*fitted, box->size()};
     return {QTransform::fromTranslate(place.x(), place.y()), place.size()};
+}
+
+bool isBounded(double entry)
+{
+    return qAbs(entry) <= Limits::transformEntry;
+}
+
+// What is magnified beyond all bounds is collapsed to nothing.
+QTransform bounded(const QTransform &t)
+{
+    const bool fits = isBounded(t.m11()) && isBounded(t.m12()) && isBounded(t.m21()) && isBounded(t.m22()) &&
+                      isBounded(t.dx()) && isBounded(t.dy());
+    return fits ? t : QTransform(0, 0, 0, 0, 0, 0);
 }
 
 QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
@@ -99,7 +113,7 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
         else
             warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
     }
-    facts->toDocument = facts->parent ? local * facts->parent->toDocument : local;
+    facts->toDocument = bounded(facts->parent ? local * facts->parent->toDocument : local);
 }
 
 QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const

@@ -1,0 +1,152 @@
+#include "svgdrawing.h"
+
+#include <QtTest>
+
+// A document that was changed at run time must look like one whose text said so from the start.
+class TestChanges : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void changedAttributeDrawsLikeChangedText_data();
+    void changedAttributeDrawsLikeChangedText();
+    void randomChangesDrawLikeChangedText();
+    void changedDocumentMeasuresLikeChangedText();
+};
+
+namespace {
+
+/// Every "@name@" of the template is the value of an attribute of the element whose id stands in front of it.
+struct Slot
+{
+    QString id;
+    QString attribute;
+};
+
+const QString scene = QStringLiteral(
+    "<defs><linearGradient id='lg' x1='%1'><stop id='st' offset='.2' stop-color='%2'/><stop offset='1' "
+    "stop-color='white'/>"
+    "</linearGradient><rect id='def' width='%3' height='20'/></defs>"
+    "<g id='grp' transform='%4' opacity='%5' fill='%6' stroke-width='%7'>"
+    "<rect id='rc' x='%8' y='10' width='30' height='25' rx='%9' fill='url(#lg)'/>"
+    "<ellipse id='el' cx='60' cy='30' rx='20' ry='10' stroke='black' style='%10'/>"
+    "<path id='pa' d='%11' stroke='black' stroke-dasharray='%12'/></g>"
+    "<text id='tx' x='5' y='95' font-size='%13'>Text</text><use id='us' href='%14' x='50' y='70'/>"
+    "<g id='hid' display='%15'><circle id='ci' cx='85' cy='85' r='10' fill='red' visibility='%16'/></g>");
+
+const QVector<Slot> slotsOfScene = {
+    {"lg", "x1"},        {"st", "stop-color"},       {"def", "width"},    {"grp", "transform"}, {"grp", "opacity"},
+    {"grp", "fill"},     {"grp", "stroke-width"},    {"rc", "x"},         {"rc", "rx"},         {"el", "style"},
+    {"pa", "d"},         {"pa", "stroke-dasharray"}, {"tx", "font-size"}, {"us", "href"},       {"hid", "display"},
+    {"ci", "visibility"}};
+
+const QVector<QStringList> choices = {
+    {"0", "0.5", "50%", "nonsense"},
+    {"red", "#0f08", "currentColor", ""},
+    {"20", "0", "1in", "-5"},
+    {"", "rotate(10 50 50)", "translate(5 -3) scale(1.2 .8)", "broken("},
+    {"1", ".5", "0", "30%"},
+    {"blue", "none", "url(#lg) red", "url(#missing) lime"},
+    {"1", "4", "0", "-1"},
+    {"10", "-4.5", "10%", "1e999"},
+    {"0", "5", "500", "x"},
+    {"", "fill:lime;stroke-width:3", "display:none", "opacity:.5;fill:red"},
+    {"M5 50H45V65H5z", "M5 50a10 8 20 1 0 20 9", "M5 50q10 20 30 0t10 10", "M5 50L40 60 broken"},
+    {"", "4 2", "3", "0 0"},
+    {"20", "8", "2em", "0"},
+    {"#def", "#rc", "#us", "#missing"},
+    {"inline", "none", "", "block"},
+    {"visible", "hidden", "collapse", "nonsense"},
+};
+
+QString sceneText(const QVector<int> &chosen)
+{
+    QString text = scene;
+    for (int i = 0; i < chosen.size(); ++i)
+        text = text.arg(choices.at(i).at(chosen.at(i)));
+    return text;
+}
+
+QVector<int> firstChoices()
+{
+    return QVector<int>(slotsOfScene.size(), 0);
+}
+
+void apply(QZeSvgTinyDocument &document, int slot, int choice)
+{
+    QZeSvgNode *node = document.namedNode(slotsOfScene.at(slot).id);
+    node->setAttribute(slotsOfScene.at(slot).attribute, choices.at(slot).at(choice));
+}
+
+} // namespace
+
+void TestChanges::changedAttributeDrawsLikeChangedText_data()
+{
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<int>("choice");
+    for (int slot = 0; slot < slotsOfScene.size(); ++slot) {
+        for (int choice = 1; choice < choices.at(slot).size(); ++choice) {
+            const Slot &s = slotsOfScene.at(slot);
+            QTest::addRow("%s %s %d", qPrintable(s.id), qPrintable(s.attribute), choice) << slot << choice;
+        }
+    }
+}
+
+void TestChanges::changedAttributeDrawsLikeChangedText()
+{
+    QFETCH(int, slot);
+    QFETCH(int, choice);
+    QVector<int> chosen = firstChoices();
+    const DocumentPointer changed = loadContent(sceneText(chosen));
+    QVERIFY(changed);
+    const QImage before = drawn(*changed, QSize(120, 90));
+    apply(*changed, slot, choice);
+    chosen[slot] = choice;
+    const DocumentPointer expected = loadContent(sceneText(chosen));
+    QCOMPARE(drawn(*changed, QSize(120, 90)), drawn(*expected, QSize(120, 90)));
+    apply(*changed, slot, 0);
+    QCOMPARE(drawn(*changed, QSize(120, 90)), before);
+}
+
+void TestChanges::randomChangesDrawLikeChangedText()
+{
+    constexpr quint32 startValue = 20240517;
+    QRandomGenerator random(startValue);
+    QVector<int> chosen = firstChoices();
+    const DocumentPointer changed = loadContent(sceneText(chosen));
+    for (int round = 0; round < 150; ++round) {
+        for (int changes = random.bounded(1, 5); changes > 0; --changes) {
+            const int slot = random.bounded(slotsOfScene.size());
+            chosen[slot] = random.bounded(choices.at(slot).size());
+            apply(*changed, slot, chosen[slot]);
+        }
+        const QSize size(random.bounded(2) ? 100 : 80, 100);
+        const DocumentPointer expected = loadContent(sceneText(chosen));
+        QVERIFY2(drawn(*changed, size) == drawn(*expected, size), qPrintable(sceneText(chosen)));
+    }
+}
+
+void TestChanges::changedDocumentMeasuresLikeChangedText()
+{
+    constexpr quint32 startValue = 77;
+    QRandomGenerator random(startValue);
+    QVector<int> chosen = firstChoices();
+    const DocumentPointer changed = loadContent(sceneText(chosen));
+    for (int round = 0; round < 150; ++round) {
+        const int slot = random.bounded(slotsOfScene.size());
+        chosen[slot] = random.bounded(choices.at(slot).size());
+        apply(*changed, slot, chosen[slot]);
+        const DocumentPointer expected = loadContent(sceneText(chosen));
+        for (const char *id : {"grp", "rc", "el", "pa", "tx", "us", "hid", "ci", "def"}) {
+            const QZeSvgNode *a = changed->namedNode(id);
+            const QZeSvgNode *b = expected->namedNode(id);
+            QVERIFY2(a->boundingRect() == b->boundingRect(), id);
+            QVERIFY2(a->strokeWidth() == b->strokeWidth(), id);
+            QVERIFY2(a->isVisible() == b->isVisible(), id);
+        }
+        QVERIFY(changed->transformedBounds() == expected->transformedBounds());
+    }
+}
+
+QTEST_MAIN(TestChanges)
+#include "test_changes.moc"
