@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aLevelPointIgnoresUpAndDown();
     void aFixedPointStays();
     void aFixedAxisIsNotBroughtIntoItsRange();
+    void aFixedAxisIgnoresTheRangeOfAnEarlierDrag();
     void aRefusedPlaceLeavesThePoint();
     void theShapeIsAskedForTheLimitedPlace();
     void aMoveIsRecordedAndRefreshed();
@@ -222,6 +223,24 @@ void TestDragging::aFixedAxisIsNotBroughtIntoItsRange()
     Held fixture("x_move='0' x_from='40' x_to='60'");
     moveTo(*fixture.shape, {24, 30});
     QCOMPARE(exact(fixture.rect()), exact(QRectF(20, 26, 8, 8)));
+}
+
+void TestDragging::aFixedAxisIgnoresTheRangeOfAnEarlierDrag()
+{
+    for (const char *fixed : {"x_move", "y_move"}) {
+        ShapeFixture fixture(svgText(
+            "0 0 100 50", QStringLiteral("<rect id='control_1' x='20' y='20' width='8' height='8' x_from='15' "
+                                         "x_to='25' y_from='15' y_to='25'/>"
+                                         "<rect id='control_2' x='60' y='30' width='8' height='8' %1='0'/>")
+                              .arg(fixed)));
+        fixture.load();
+        fixture.select();
+        support::drag(*fixture.shape, {24, 24}, {25, 25});
+        press(*fixture.shape, {64, 34});
+        moveTo(*fixture.shape, {69, 39});
+        const QPointF corner = *fixed == 'x' ? QPointF(60, 35) : QPointF(65, 30);
+        QCOMPARE(exact(fixture.shape->pointRect(2)), exact(QRectF(corner, QSizeF(8, 8))));
+    }
 }
 
 void TestDragging::aRefusedPlaceLeavesThePoint()
