@@ -56,6 +56,8 @@ private Q_SLOTS:
     void changingSizeAndBackgroundIsTold();
     void objectsStandInStackingOrder();
     void stackingOrderIsDrawingOrder();
+    void stackingNumbersNeverRunOut();
+    void objectComingBackTouchesNoOther();
     void addedObjectKnowsItsPage();
     void addingTwiceChangesNothing();
     void removedObjectIsDeletedUnlessRetained();
@@ -375,6 +377,51 @@ void TestDocument::stackingOrderIsDrawingOrder()
     QVERIFY(second->zValue() < first->zValue());
     page.moveObject(second, 1);
     QVERIFY(second->zValue() > first->zValue());
+}
+
+void TestDocument::stackingNumbersNeverRunOut()
+{
+    Page page(nullptr);
+    page.addObject(new TestObject);
+    page.addObject(new TestObject);
+    const auto isAscending = [&] {
+        const QVector<CBaseObject *> objects = page.objects();
+        for (int i = 1; i < objects.size(); ++i) {
+            if (!(objects[i - 1]->zValue() < objects[i]->zValue())) {
+                return false;
+            }
+        }
+        return true;
+    };
+    for (int i = 0; i < 200; ++i) {
+        page.addObject(new TestObject, i % 3 == 0 ? 0 : 1);
+        QVERIFY(isAscending());
+    }
+    auto *giant = new TestObject;
+    giant->setZValue(1e300);
+    page.addObject(giant);
+    page.addObject(new TestObject);
+    QVERIFY(isAscending());
+    page.removeObject(page.objects().at(3));
+    page.addObject(new TestObject);
+    QVERIFY(isAscending());
+}
+
+void TestDocument::objectComingBackTouchesNoOther()
+{
+    Page page(nullptr);
+    QVector<CBaseObject *> objects;
+    for (int i = 0; i < 3; ++i) {
+        objects.append(new TestObject);
+        page.addObject(objects.last());
+    }
+    const QVector<double> numbers{objects[0]->zValue(), objects[1]->zValue(), objects[2]->zValue()};
+    page.retain(objects[1]);
+    page.removeObject(objects[1]);
+    page.addObject(objects[1], 1);
+    page.release(objects[1]);
+    const QVector<double> after{objects[0]->zValue(), objects[1]->zValue(), objects[2]->zValue()};
+    QCOMPARE(after, numbers);
 }
 
 void TestDocument::addedObjectKnowsItsPage()

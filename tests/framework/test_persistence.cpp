@@ -127,6 +127,9 @@ void TestPersistence::comesBackFromAPlaybackSnapshot()
     TestObject loaded;
     QDataStream in(bytes);
     QVERIFY(loaded.LoadPropertyForPlayback(in));
+    // The place in stacking order is the page's.
+    QCOMPARE(loaded.zValue(), 0.0);
+    loaded.setZValue(object.zValue());
     compare(loaded, object);
 }
 

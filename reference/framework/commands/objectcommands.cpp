@@ -6,6 +6,8 @@
 #include <commands/pagecommand.h>
 #include <pagehost/page.h>
 
+#include <QtCore/QSet>
+
 #include <algorithm>
 #include <functional>
 
@@ -13,13 +15,19 @@ namespace pagehost {
 
 namespace {
 
+QSet<CBaseObject *> toSet(const QVector<CBaseObject *> &objects)
+{
+    return {objects.begin(), objects.end()};
+}
+
 /// The objects that are on the page, in stacking order, each once.
 QVector<CBaseObject *> onPage(const Page &page, const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> found;
+    const QSet<CBaseObject *> wanted = toSet(objects);
     const QVector<CBaseObject *> all = page.objects();
     std::copy_if(all.begin(), all.end(), std::back_inserter(found),
-                 [&](CBaseObject *object) { return objects.contains(object); });
+                 [&](CBaseObject *object) { return wanted.contains(object); });
     return found;
 }
 
@@ -60,8 +68,12 @@ public:
     RemoveObjectsCommand(Page *page, const QVector<CBaseObject *> &objects)
         : PageCommand(page, objects, QStringLiteral("IDS_UNDO_REMOVE_OBJECTS"))
     {
-        for (CBaseObject *object : objects) {
-            m_places.append(page->indexOf(object));
+        const QSet<CBaseObject *> removed = toSet(objects);
+        const QVector<CBaseObject *> all = page->objects();
+        for (int place = 0; place < all.size(); ++place) {
+            if (removed.contains(all[place])) {
+                m_places.append(place);
+            }
         }
     }
 
@@ -76,8 +88,9 @@ public:
 protected:
     void apply() override
     {
-        for (CBaseObject *object : objects()) {
-            page()->removeObject(object);
+        // From the top, where removing moves the fewest.
+        for (auto object = objects().rbegin(); object != objects().rend(); ++object) {
+            page()->removeObject(*object);
         }
     }
 
@@ -142,9 +155,11 @@ QVector<CBaseObject *> restacked(QVector<CBaseObject *> order, StackingMove move
 bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> added;
+    QSet<CBaseObject *> seen{nullptr};
     for (CBaseObject *object : objects) {
-        if (object && !page->contains(object) && !added.contains(object)) {
+        if (!seen.contains(object) && !page->contains(object)) {
             added.append(object);
+            seen.insert(object);
         }
     }
     if (added.isEmpty()) {
@@ -166,7 +181,8 @@ bool removeObjects(Page *page, const QVector<CBaseObject *> &objects)
 
 bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move)
 {
-    const auto isMoving = [&](CBaseObject *object) { return objects.contains(object); };
+    const QSet<CBaseObject *> moving = toSet(objects);
+    const auto isMoving = [&](CBaseObject *object) { return moving.contains(object); };
     const QVector<CBaseObject *> order = restacked(page->objects(), move, isMoving);
     if (order == page->objects()) {
         return false;

@@ -1,5 +1,4 @@
-#include <host/payload.h>
-#include <host/rootobjectprivate.h>
+#include <framework/cpsrootobject.h>
 
 #include <framework/cbaseobject.h>
 #include <framework/idocument.h>
@@ -10,6 +9,8 @@
 #include <pagehost/recorder.h>
 
 #include <host/gripdrag.h>
+#include <host/payload.h>
+#include <host/rootobjectprivate.h>
 
 #include <QtCore/QDataStream>
 #include <QtGui/QPainter>

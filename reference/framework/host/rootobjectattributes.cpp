@@ -1,14 +1,11 @@
+#include <framework/cbaseobject.h>
+
+#include <host/attributecommand.h>
 #include <host/hostattributes.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
 
-#include <framework/cbaseobject.h>
-
-#include <host/attributecommand.h>
-
 #include <QtCore/QDataStream>
-#include <QtGui/QTextBlockFormat>
-#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextOption>
 

@@ -80,7 +80,6 @@ void apply(CPSRootObject &object, const HostState &state)
     object.setSubType(state.subType);
     CPSRootObjectPrivate::place(object, state.pos, state.rotation);
     CPSRootObjectPrivate::assignMirror(object, state.mirrored, state.flipped);
-    item->setZValue(state.stacking);
     CPSRootObjectPrivate::setClientRect(object, state.clientRect);
     QPen &pen = CPSRootObjectPrivate::pen(object);
     pen.setColor(QColor::fromRgba(state.penColor));
@@ -89,6 +88,19 @@ void apply(CPSRootObject &object, const HostState &state)
     item->setVisible(state.visible);
     object.CPSRootObject::setLocked(state.locked);
     object.updateAfterObjRectChanged(item, true);
+}
+
+/// Reads the stream format and applies all but the stacking number; false, with nothing changed, for bad data.
+bool readState(CPSRootObject &object, QDataStream &in, HostState &state)
+{
+    CPageBgProp fill(*object.getFillProp());
+    in >> state;
+    if (in.status() != QDataStream::Ok || !isPlausible(state) || !fill.load(in)) {
+        return false;
+    }
+    CPSRootObjectPrivate::assignFill(object, fill);
+    apply(object, state);
+    return true;
 }
 
 QJsonArray numbers(std::initializer_list<double> values)
@@ -167,13 +179,10 @@ bool CPSRootObject::save(QDataStream &out)
 bool CPSRootObject::load(QDataStream &in)
 {
     HostState state;
-    CPageBgProp fill(*fillProp);
-    in >> state;
-    if (in.status() != QDataStream::Ok || !isPlausible(state) || !fill.load(in)) {
+    if (!readState(*this, in, state)) {
         return false;
     }
-    CPSRootObjectPrivate::assignFill(*this, fill);
-    apply(*this, state);
+    CPSRootObjectPrivate::baseObject(*this)->setZValue(state.stacking);
     return true;
 }
 
@@ -197,6 +206,7 @@ bool CPSRootObject::loadJson(QJsonObject &object)
     }
     CPSRootObjectPrivate::assignFill(*this, fill);
     apply(*this, state);
+    CPSRootObjectPrivate::baseObject(*this)->setZValue(state.stacking);
     return hasFill;
 }
 
@@ -207,5 +217,7 @@ bool CPSRootObject::SavePropertyForPlayback(QDataStream &out)
 
 bool CPSRootObject::LoadPropertyForPlayback(QDataStream &in)
 {
-    return CPSRootObject::load(in);
+    // Not the place in stacking order: that belongs to the page and may be another one by now.
+    HostState state;
+    return readState(*this, in, state);
 }

@@ -1,9 +1,9 @@
-#include <host/payload.h>
-#include <host/rootobjectprivate.h>
-
 #include <framework/cbaseobject.h>
 
 #include <pagehost/recorder.h>
+
+#include <host/payload.h>
+#include <host/rootobjectprivate.h>
 
 #include <QtCore/QDataStream>
 

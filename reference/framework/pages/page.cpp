@@ -79,7 +79,7 @@ void Page::setBackground(const CPageBgProp &background)
 
 int Page::indexOf(const CBaseObject *object) const
 {
-    return m_objects.indexOf(const_cast<CBaseObject *>(object));
+    return contains(object) ? m_objects.indexOf(const_cast<CBaseObject *>(object)) : -1;
 }
 
 QVector<CBaseObject *> Page::selectedObjects() const
@@ -127,8 +127,9 @@ void Page::addObject(CBaseObject *object, int index)
     m_outside.removeOne(object);
     const int place = index < 0 ? m_objects.size() : qMin(index, m_objects.size());
     m_objects.insert(place, object);
+    m_members.insert(object);
     object->SetPage(this);
-    renumber(place);
+    giveStackingNumber(place);
     if (object->scene() != m_scene.get()) {
         m_scene->addItem(object);
     }
@@ -144,6 +145,7 @@ int Page::removeObject(CBaseObject *object)
     }
     object->setSelected(false);
     m_objects.removeAt(index);
+    m_members.remove(object);
     m_outside.append(object);
     m_scene->forget(object);
     m_scene->removeItem(object);
@@ -161,7 +163,7 @@ void Page::moveObject(CBaseObject *object, int index)
         return;
     }
     m_objects.move(from, to);
-    renumber(qMin(from, to));
+    giveStackingNumber(to);
     noteChange();
     Q_EMIT stackingChanged();
 }
@@ -175,17 +177,33 @@ bool Page::setStackingOrder(const QVector<CBaseObject *> &objects)
         return true;
     }
     m_objects = objects;
-    renumber(0);
+    renumber();
     noteChange();
     Q_EMIT stackingChanged();
     return true;
 }
 
-void Page::renumber(int from)
+void Page::renumber()
 {
-    for (int index = from; index < m_objects.size(); ++index) {
+    for (int index = 0; index < m_objects.size(); ++index) {
         m_objects[index]->setZValue(index);
     }
+}
+
+/// Only the order of the numbers counts, so that an object takes its place without touching the others.
+void Page::giveStackingNumber(int index)
+{
+    const bool isTop = index + 1 == m_objects.size();
+    const double below = index > 0 ? m_objects[index - 1]->zValue() : (isTop ? 0 : m_objects[1]->zValue()) - 2;
+    const double above = isTop ? below + 2 : m_objects[index + 1]->zValue();
+    const auto fits = [&](double number) { return below < number && number < above; };
+    const double present = m_objects[index]->zValue();
+    const double number = fits(present) ? present : (below + above) / 2;
+    if (!fits(number)) {
+        renumber();
+        return;
+    }
+    m_objects[index]->setZValue(number);
 }
 
 void Page::retain(CBaseObject *object)

@@ -8,6 +8,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QRectF>
+#include <QtCore/QSet>
 #include <QtCore/QTimer>
 #include <QtCore/QVector>
 
@@ -49,7 +50,7 @@ public:
     int objectCount() const { return m_objects.size(); }
     /// Position in stacking order; -1 for an object that is not on the page.
     int indexOf(const CBaseObject *object) const;
-    bool contains(const CBaseObject *object) const { return indexOf(object) >= 0; }
+    bool contains(const CBaseObject *object) const { return m_members.contains(object); }
     /// The selected objects in stacking order.
     QVector<CBaseObject *> selectedObjects() const;
     /// Selects exactly these; objects of other pages are passed over.
@@ -90,7 +91,8 @@ Q_SIGNALS:
     void objectPropertyChanged(CBaseObject *object, int id, const QString &value);
 
 private:
-    void renumber(int from);
+    void renumber();
+    void giveStackingNumber(int index);
     void dropIfUnused(CBaseObject *object);
 
     Document *m_document;
@@ -98,7 +100,8 @@ private:
     CPageBgProp m_background;
     std::unique_ptr<PageScene> m_scene;
     QVector<CBaseObject *> m_objects;
-    QVector<CBaseObject *> m_outside; ///< owned objects that are off the page
+    QSet<const CBaseObject *> m_members; ///< the same objects, to be found at once
+    QVector<CBaseObject *> m_outside;    ///< owned objects that are off the page
     QHash<CBaseObject *, int> m_retained;
     QTimer m_changeTimer;
     quint64 m_revision = 0;
