@@ -33,6 +33,7 @@ private Q_SLOTS:
 
     void aPointOnAControlPointLeavesTheActionAlone();
     void theCoreIsAskedInItemCoordinates();
+    void theCoreOfAGroupedObjectIsAskedInItemCoordinates();
     void otherPointsAreTheHosts();
     void pointsWithoutCoreAreTheHosts();
 };
@@ -212,6 +213,20 @@ void TestMouse::theCoreIsAskedInItemCoordinates()
     CObjAction::ACT_Def action = CObjAction::ACT_None;
     fixture.object.CheckHitTestHandlers({280, 210}, action);
     QCOMPARE(recording::lastArguments("shape", "CheckHitTestHandlers").value(0).toPointF(), QPointF(10, 20));
+}
+
+void TestMouse::theCoreOfAGroupedObjectIsAskedInItemCoordinates()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QGraphicsRectItem group;
+    group.setPos(1000, 500);
+    fixture.object.setParentItem(&group);
+    fixture.object.QGraphicsItem::setPos(30, 20);
+    CObjAction::ACT_Def action = CObjAction::ACT_None;
+    fixture.object.CheckHitTestHandlers({1040, 540}, action);
+    QCOMPARE(recording::lastArguments("shape", "CheckHitTestHandlers").value(0).toPointF(), QPointF(10, 20));
+    fixture.object.setParentItem(nullptr);
 }
 
 void TestMouse::otherPointsAreTheHosts()

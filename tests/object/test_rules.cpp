@@ -63,6 +63,8 @@ void TestRules::sizesAreBroughtToARatio_data()
     QTest::newRow("no height in the ratio") << QSizeF(80, 50) << QSizeF(10, 0) << QSizeF(80, 0);
     // 49 · (1 ÷ 49) is not 1: the product comes first.
     QTest::newRow("width multiplied first") << QSizeF(1000, 49) << QSizeF(1, 49) << QSizeF(1, 49);
+    // Both products are 136: not wider, so the height follows the width, to 17 · 8 ÷ 5.
+    QTest::newRow("rounded to equality") << QSizeF(8, 17 * 1.6) << QSizeF(5, 17) << QSizeF(8, 27.2);
     QTest::newRow("height multiplied first") << QSizeF(49, 1000) << QSizeF(49, 1) << QSizeF(49, 1);
 }
 
