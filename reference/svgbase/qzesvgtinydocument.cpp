@@ -1,7 +1,7 @@
 #include <svgbase/qzesvgtinydocument.h>
 
 #include "document/documentprivate.h"
-#include "document/prototype.h"
+#include "document/prototypecache.h"
 
 using namespace Svg;
 
@@ -16,9 +16,9 @@ QZeSvgTinyDocument::~QZeSvgTinyDocument() = default;
 QZeSvgTinyDocument *QZeSvgTinyDocument::load(const QByteArray &text, QVector<Message> *messages)
 {
     Messages collected;
-    const std::optional<Prototype> prototype = makePrototype(text, &collected);
+    const PrototypePointer prototype = knownPrototype(text, &collected);
     if (messages)
-        *messages = collected.list();
+        *messages = prototype ? prototype->messages : collected.list();
     return prototype ? new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(*prototype)) : nullptr;
 }
 

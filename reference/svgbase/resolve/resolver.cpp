@@ -138,6 +138,9 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     Outline outline;
     outline.path = path;
     outline.path.setFillRule(style.fillRule);
+    // A path computes these when first asked; done now, since facts are shared between threads.
+    outline.path.boundingRect();
+    outline.path.controlPointRect();
     outline.fill = brushOf(style.fill, style.fillOpacity, facts);
     outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts);
     outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt});

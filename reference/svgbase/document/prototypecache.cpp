@@ -1,0 +1,54 @@
+#include "document/prototypecache.h"
+
+#include "inputlimits.h"
+
+#include <QtCore/QCache>
+#include <QtCore/QMutex>
+
+namespace Svg {
+
+namespace {
+
+class PrototypeCache
+{
+public:
+    PrototypeCache()
+        : m_prototypes(Limits::knownTextBytes)
+    {
+    }
+
+    PrototypePointer find(const QByteArray &text)
+    {
+        const QMutexLocker lock(&m_mutex);
+        const PrototypePointer *known = m_prototypes.object(text);
+        return known ? *known : PrototypePointer();
+    }
+
+    void insert(const QByteArray &text, const PrototypePointer &prototype)
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_prototypes.insert(text, new PrototypePointer(prototype), qMax(1, text.size()));
+    }
+
+private:
+    QMutex m_mutex;
+    QCache<QByteArray, PrototypePointer> m_prototypes;
+};
+
+} // namespace
+
+PrototypePointer knownPrototype(const QByteArray &text, Messages *messages)
+{
+    static PrototypeCache cache;
+    if (const PrototypePointer known = cache.find(text))
+        return known;
+    std::optional<Prototype> fresh = makePrototype(text, messages);
+    if (!fresh)
+        return nullptr;
+    auto prototype = std::make_shared<const Prototype>(std::move(*fresh));
+    if (text.size() <= Limits::knownTextBytes / 8)
+        cache.insert(QByteArray(text.constData(), text.size()), prototype);
+    return prototype;
+}
+
+} // namespace Svg
