@@ -82,6 +82,7 @@ private Q_SLOTS:
     void anObjectThatNeverAgreesEndsToo();
     void aRawUpdateSetsTheFillAndNothingElse();
     void aRawUpdateDoesNotCompare();
+    void aRawUpdateWithoutDocumentDoesNothing();
     void afterAnEmptiedBrushBlackIsDropped();
     void afterAnEmptiedBrushUndoOfAFillRestoresNothing();
 };
@@ -635,6 +636,13 @@ void TestStyling::aRawUpdateDoesNotCompare()
     const QBrush patterned(Qt::red, Qt::CrossPattern);
     filled.shape->updateBrush(patterned);
     QCOMPARE(filled.shape->getFillBrush(), patterned);
+}
+
+void TestStyling::aRawUpdateWithoutDocumentDoesNothing()
+{
+    const ShapeFixture fixture(twoPointTemplate());
+    fixture.shape->updateBrush(QBrush(Qt::green));
+    QCOMPARE(recording::names(), QStringList());
 }
 
 void TestStyling::afterAnEmptiedBrushBlackIsDropped()
