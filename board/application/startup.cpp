@@ -114,9 +114,10 @@ int runBoard(int argc, char **argv)
     applyTheme(options.dark ? Theme::Dark : Theme::Light);
 
     Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
-    installQtTexts(application, workspace.localizer().language());
+    // Before Qt speaks the user's language: problems are told in English throughout.
     workspace.loadPlugins(defaultPluginFolders() + options.pluginFolders);
     printProblems(workspace);
+    installQtTexts(application, workspace.localizer().language());
     return work(workspace, options);
 }
 

@@ -70,6 +70,8 @@ constexpr Entry entries[] = {
     {"IDS_BOARD_PAGE", "Page", "Seite"},
     {"IDS_BOARD_SEVERAL", "%1 objects", "%1 Objekte"},
 
+    {"IDS_BOARD_SELECTED", "selected: %1", "ausgewählt: %1"},
+
     {"IDS_BOARD_FILL", "Fill", "Füllung"},
     {"IDS_BOARD_FILL_NONE", "No fill", "Keine Füllung"},
     {"IDS_BOARD_FILL_SOLID", "Colour", "Farbe"},

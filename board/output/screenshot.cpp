@@ -6,6 +6,7 @@
 #include "panels/pagepanel.h"
 #include "window/mainwindow.h"
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
@@ -18,6 +19,16 @@
 namespace board {
 
 namespace {
+
+/// Without a desktop Qt takes a font that is larger than any desktop's.
+constexpr double fontPoints = 9.5;
+
+void useDesktopFont()
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(fontPoints);
+    QApplication::setFont(font);
+}
 
 void sendMouse(PageView *view, QEvent::Type type, const QPointF &scenePos)
 {
@@ -36,11 +47,20 @@ void startDrawing(MainWindow &window, const QString &kindId)
         sendMouse(window.view(), QEvent::MouseMove, {400 + step * 42.0, 220 + step * 26.0});
 }
 
+/// Selects a shape that has been worked on, so that the history has something to show.
+void changeSecond(pagehost::Page *page)
+{
+    CBaseObject *object = page->objects().at(1);
+    pagehost::rotateObjects({object}, 6);
+    pagehost::moveObjects({object}, {10, -14});
+    page->select({object});
+}
+
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
     if (state == QLatin1String("selection") && page->objectCount() > 1)
-        page->select({page->objects().at(1)});
+        changeSecond(page);
     if (state == QLatin1String("drag") && !workspace.registry().kinds().isEmpty())
         startDrawing(window, workspace.registry().kinds().first().id);
 }
@@ -56,6 +76,7 @@ bool takeScreenshot(Workspace &workspace, const QString &state, const QString &f
 {
     if (state != QLatin1String("empty") && state != QLatin1String("drag"))
         fillWithDemo(workspace);
+    useDesktopFont();
     MainWindow window(&workspace);
     window.show();
     QApplication::processEvents();

@@ -58,7 +58,9 @@ void BandSelection::selectTouched()
     area.closeSubpath();
     QVector<CBaseObject *> selected = m_kept;
     for (CBaseObject *object : m_page->objects()) {
-        const bool touched = object->isVisible() && object->mapToScene(object->shape()).intersects(area);
+        // The rectangles decide most cases, and cheaply.
+        const bool touched = object->isVisible() && object->sceneBoundingRect().intersects(area.boundingRect()) &&
+                             object->mapToScene(object->shape()).intersects(area);
         if (touched && !selected.contains(object))
             selected.append(object);
     }

@@ -15,6 +15,23 @@ namespace {
 
 constexpr QSize buttonSize(92, 98);
 constexpr int edge = 5;
+constexpr double smallestPointSize = 6;
+
+/// The font, smaller where the longest word of `text` would be wider than `width`.
+QFont fittingFont(QFont font, const QString &text, int width)
+{
+    const auto isTooWide = [&] {
+        const QFontMetrics metrics(font);
+        for (const QString &word : text.split(QLatin1Char(' '))) {
+            if (metrics.horizontalAdvance(word) > width)
+                return true;
+        }
+        return false;
+    };
+    while (isTooWide() && font.pointSizeF() > smallestPointSize)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    return font;
+}
 
 } // namespace
 
@@ -49,6 +66,7 @@ void PaletteButton::paintEvent(QPaintEvent *)
     const QRect name(inside.left(), picture.bottom() + edge, inside.width(),
                      inside.bottom() - picture.bottom() - edge);
     painter.setPen(palette().color(QPalette::ButtonText));
+    painter.setFont(fittingFont(font(), text(), name.width()));
     painter.drawText(name, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap, text());
 }
 

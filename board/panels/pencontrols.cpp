@@ -7,6 +7,7 @@
 #include <framework/cutil.h>
 
 #include <QtCore/QEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QSpinBox>
@@ -30,8 +31,19 @@ constexpr std::array<NamedStyle, 6> penStyles{{{Qt::SolidLine, "IDS_BOARD_PEN_SO
                                                {Qt::DashDotDotLine, "IDS_BOARD_PEN_DASHDOTDOT"},
                                                {Qt::NoPen, "IDS_BOARD_PEN_NONE"}}};
 
-constexpr QSize styleIconSize(56, 16);
+constexpr QSize sampleSize(48, 16);
 constexpr int sampleWidth = 2;
+/// Between a sample line and its name.
+constexpr int sampleGap = 8;
+
+QPixmap sampleLine(int penStyle, const QColor &color)
+{
+    QPixmap picture(sampleSize.width() + sampleGap, sampleSize.height());
+    picture.fill(Qt::transparent);
+    QPainter(&picture).drawPixmap(
+        0, 0, CUtil::genIconForLineStyle(sampleSize.width(), sampleSize.height(), sampleWidth, penStyle, color));
+    return picture;
+}
 
 } // namespace
 
@@ -46,7 +58,7 @@ PenControls::PenControls(const Workspace *workspace, QWidget *parent)
     m_width->setKeyboardTracking(false);
     m_width->setAccessibleName(workspace->text("IDS_BOARD_PEN_WIDTH"));
     m_width->setToolTip(m_width->accessibleName());
-    m_style->setIconSize(styleIconSize);
+    m_style->setIconSize(sampleSize + QSize(sampleGap, 0));
     m_style->setAccessibleName(workspace->text("IDS_BOARD_PEN_STYLE"));
     m_style->setToolTip(m_style->accessibleName());
     for (const NamedStyle &entry : penStyles)
@@ -90,8 +102,7 @@ void PenControls::makeStyleIcons()
 {
     const QColor color = palette().color(QPalette::Text);
     for (int i = 0; i < m_style->count(); ++i)
-        m_style->setItemIcon(i, CUtil::genIconForLineStyle(styleIconSize.width(), styleIconSize.height(),
-                                                           sampleWidth, m_style->itemData(i).toInt(), color));
+        m_style->setItemIcon(i, sampleLine(m_style->itemData(i).toInt(), color));
 }
 
 } // namespace board

@@ -209,7 +209,24 @@ void MainWindow::showSelection()
     m_size->setText(bounds.isNull()
                         ? QString()
                         : QStringLiteral("%1 × %2").arg(qRound(bounds.width())).arg(qRound(bounds.height())));
+    describeView();
     showHint();
+}
+
+/// Shapes are no widgets: screen readers learn through the view what is on the page and what is selected.
+void MainWindow::describeView()
+{
+    const pagehost::Page *page = m_view->page();
+    if (!page)
+        return;
+    QStringList selected;
+    for (CBaseObject *object : page->selectedObjects())
+        selected.append(m_workspace->text(object->kindName()));
+    QString text = m_workspace->text("IDS_BOARD_SEVERAL").arg(page->objectCount());
+    if (!selected.isEmpty())
+        text +=
+            QStringLiteral("; ") + m_workspace->text("IDS_BOARD_SELECTED").arg(selected.join(QStringLiteral(", ")));
+    m_view->setAccessibleDescription(text);
 }
 
 void MainWindow::showHint()

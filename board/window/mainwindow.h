@@ -41,6 +41,7 @@ private:
     void connectParts();
     void showCurrentPage();
     void showSelection();
+    void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
     void exportPages();

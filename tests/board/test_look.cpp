@@ -65,6 +65,7 @@ private Q_SLOTS:
     void fillTypes_data();
     void fillTypes();
     void gradientBackToTheSameColour();
+    void pictureFillsTheShape();
     void panelShowsTheSelectedShape();
     void panelShowsThePageWithoutASelection();
     void pageBackground();
@@ -176,6 +177,24 @@ void TestLook::gradientBackToTheSameColour()
     QTest::mouseClick(t.control<QToolButton>("Colour"), Qt::LeftButton);
     QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::SolidFill));
     QCOMPARE(t.pixelAt({600, 360}), color);
+}
+
+void TestLook::pictureFillsTheShape()
+{
+    StyledShape t;
+    QPixmap picture(64, 64);
+    picture.fill(QColor(20, 160, 90));
+    CPageBgProp fill = *t.shape->getFillProp();
+    fill.setFillType(CPageBgProp::PictureFill);
+    fill.setPixmap(picture);
+    const QColor before = t.pixelAt({600, 360});
+    Q_EMIT t.panel->findChild<board::FillControls *>()->fillPicked(fill);
+    QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::PictureFill));
+    QCOMPARE(t.pixelAt({600, 360}), QColor(20, 160, 90));
+    t.undo();
+    QCOMPARE(t.pixelAt({600, 360}), before);
+    t.redo();
+    QCOMPARE(t.pixelAt({600, 360}), QColor(20, 160, 90));
 }
 
 void TestLook::panelShowsTheSelectedShape()

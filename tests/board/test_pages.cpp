@@ -31,6 +31,7 @@ private Q_SLOTS:
     void pageKeysTurnPages();
     void draggedThumbnailMovesThePage();
     void drawingGoesToTheCurrentPage();
+    void undoTurnsToThePageThatItChanges();
 };
 
 static QListWidget *listOf(BoardDriver &board)
@@ -143,6 +144,19 @@ void TestPages::drawingGoesToTheCurrentPage()
     board.draw(rectangle, {500, 300}, {700, 420});
     QCOMPARE(board.workspace().document()->page(0)->objectCount(), 0);
     QCOMPARE(board.workspace().document()->page(1)->objectCount(), 1);
+}
+
+void TestPages::undoTurnsToThePageThatItChanges()
+{
+    BoardDriver board;
+    board.draw(rectangle, {500, 300}, {700, 420});
+    board.window().actions()->addPage->trigger();
+    board.workspace().document()->setCurrentIndex(0);
+    board.key(Qt::Key_Right);
+    board.workspace().document()->setCurrentIndex(1);
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(board.workspace().document()->currentIndex(), 0);
+    QCOMPARE(board.placeOf(board.only()), QRectF(500, 300, 200, 120));
 }
 
 QTEST_MAIN(TestPages)

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void emptyPageSaysWhatToDo();
     void iconsFollowTheColours();
     void everyControlHasANameForScreenReaders();
+    void screenReadersLearnWhatIsSelected();
 };
 
 void TestView::viewHasTheNameThatControlPointsShowIn()
@@ -207,6 +208,16 @@ void TestView::everyControlHasANameForScreenReaders()
                     .arg(widget->metaObject()->className(), widget->parentWidget()->metaObject()->className()));
     }
     QCOMPARE(nameless, QStringList());
+}
+
+void TestView::screenReadersLearnWhatIsSelected()
+{
+    BoardDriver board;
+    board.draw(rectangle, {500, 300}, {700, 420});
+    board.draw(flask, {300, 300}, {390, 420});
+    QCOMPARE(board.view().accessibleDescription(), QString("2 objects; selected: Flask"));
+    board.key(Qt::Key_Escape);
+    QCOMPARE(board.view().accessibleDescription(), QString("2 objects"));
 }
 
 QTEST_MAIN(TestView)
