@@ -81,6 +81,12 @@ bool Flask::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
 {
     if (!node || node != controlPoints[0])
         return false;
+    const QRectF place = node->boundingRect();
+    if (node == activeControlPoint)
+        m_dragged.noteDrag(dragStartPos, place);
+    const QPointF centre = m_dragged.meantCentre(place);
+    node->setNumericAttribute(QStringLiteral("x"), centre.x() - place.width() / 2);
+    node->setNumericAttribute(QStringLiteral("y"), centre.y() - place.height() / 2);
     return updateSVG(refresh);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <kit/draggedplaces.h>
+
 #include <svgobj/csvgbase.h>
 
 /// A conical laboratory flask, drawn by its template alone and stretched with the page object; its control point
@@ -21,4 +23,6 @@ private:
     /// Bubbles, marks and reflections keep their own look whatever pen and fill the user chooses.
     void exemptDecoration();
     void pourTo(double level);
+
+    shapekit::DraggedPlaces m_dragged;
 };

@@ -63,7 +63,13 @@ bool FittedShape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
     const int index = indexOf(node);
     if (index < 0)
         return false;
-    takeControlPoint(index, node->boundingRect().center());
+    const QRectF place = node->boundingRect();
+    if (node == activeControlPoint)
+        m_dragged[index].noteDrag(dragStartPos, place);
+    const QPointF centre = m_dragged.value(index).meantCentre(place);
+    takeControlPoint(index, centre);
+    if (!isSamePlace(centre, place.center()))
+        placeControlPoint(index);
     redraw(refresh);
     return true;
 }
@@ -198,16 +204,21 @@ void FittedShape::takeMovedControlPoints()
     }
 }
 
+void FittedShape::placeControlPoint(int index)
+{
+    QZeSvgNode *node = controlPoints[index];
+    if (!node)
+        return;
+    const QRectF present = node->boundingRect();
+    const QPointF centre = controlPointCentre(index);
+    node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
+    node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
+}
+
 void FittedShape::placeControlPoints()
 {
-    for (int i = 0; i < pointCount(); ++i) {
-        if (!controlPoints[i])
-            continue;
-        const QRectF present = controlPoints[i]->boundingRect();
-        const QPointF centre = controlPointCentre(i);
-        controlPoints[i]->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
-        controlPoints[i]->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
-    }
+    for (int i = 0; i < pointCount(); ++i)
+        placeControlPoint(i);
 }
 
 void FittedShape::redraw(bool refresh)

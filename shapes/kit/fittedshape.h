@@ -1,6 +1,9 @@
 #pragma once
 
+#include <kit/draggedplaces.h>
 #include <kit/hostfilledshape.h>
+
+#include <QtCore/QMap>
 
 namespace shapekit {
 
@@ -55,8 +58,11 @@ private:
     int indexOf(QZeSvgNode *node) const;
     void fitTo(const QSizeF &newSize);
     void takeMovedControlPoints();
+    void placeControlPoint(int index);
     void placeControlPoints();
     void redraw(bool refresh);
+
+    QMap<int, DraggedPlaces> m_dragged; ///< by control point
 };
 
 } // namespace shapekit

@@ -5,6 +5,9 @@
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
+#include <pagehost/application.h>
+#include <pagehost/document.h>
+
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtTest/QtTest>
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void dragStopsAtTheLimits();
     void undoAndRedoOfADragAreExact_data();
     void undoAndRedoOfADragAreExact();
+    void undoAndRedoAreExactAfterZooming_data();
+    void undoAndRedoAreExactAfterZooming();
     void everyStepOfADragRefreshesThePicture_data();
     void everyStepOfADragRefreshesThePicture();
     void undoRefreshesThePicture_data();
@@ -184,6 +189,50 @@ void TestControlPoints::undoAndRedoOfADragAreExact()
     QCOMPARE(shape.geometry(), second);
     shape.undoStack().redo();
     QCOMPARE(shape.geometry(), third);
+}
+
+void TestControlPoints::undoAndRedoAreExactAfterZooming_data()
+{
+    dragInsideTheLimitsLandsExactly_data();
+}
+
+void TestControlPoints::undoAndRedoAreExactAfterZooming()
+{
+    QFETCH(QString, name);
+    QFETCH(int, number);
+    QFETCH(QPointF, delta);
+    pagehost::Document document;
+    pagehost::setCurrentDocument(&document);
+    {
+        ShapeDriver shape(name);
+        shape.createByClick();
+        shape.select();
+        const auto zoomTo = [&](double zoom) {
+            document.setZoomRate(zoom);
+            shape.core().invalidate();
+        };
+        const QString first = shape.geometry();
+        const QPointF firstCentre = shape.controlPoint(number).center();
+        shape.dragControlPoint(number, delta);
+        zoomTo(0.5);
+        QCOMPARE(shape.controlPoint(number).size(), QSizeF(16, 16));
+        shape.dragControlPoint(number, delta / -4);
+        const QPointF lastCentre = shape.controlPoint(number).center();
+
+        zoomTo(2);
+        shape.undoStack().undo();
+        shape.undoStack().undo();
+        QCOMPARE(shape.controlPoint(number).center(), firstCentre);
+        zoomTo(0.5);
+        shape.undoStack().redo();
+        shape.undoStack().redo();
+        QCOMPARE(shape.controlPoint(number).center(), lastCentre);
+        shape.undoStack().undo();
+        shape.undoStack().undo();
+        zoomTo(1);
+        QCOMPARE(shape.geometry(), first);
+    }
+    pagehost::setCurrentDocument(nullptr);
 }
 
 void TestControlPoints::everyStepOfADragRefreshesThePicture_data()
