@@ -77,6 +77,13 @@ QUndoView::item:hover { background: %hover; }
 QLineEdit { border: 1px solid %border; border-radius: 6px; padding: 5px 6px; background: %base; }
 QLineEdit:focus { border-color: %accent; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; }
+QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
+QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
+QScrollBar::handle { background: %handle; border-radius: 3px; margin: 3px; min-width: 32px; min-height: 32px; }
+QScrollBar::handle:hover { background: %accent; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QAbstractScrollArea::corner { background: transparent; }
 QToolTip { border: none; padding: 4px 6px; }
 )");
     const QPalette palette = QApplication::palette();
@@ -89,6 +96,7 @@ QToolTip { border: none; padding: 4px 6px; }
     sheet.replace("%window", rgbaText(palette.color(QPalette::Window)));
     sheet.replace("%text", rgbaText(palette.color(QPalette::Text)));
     sheet.replace("%base", rgbaText(palette.color(QPalette::Base)));
+    sheet.replace("%handle", rgbaText(colors.pageEdge));
     sheet.replace("%hover", rgbaText(colors.hover));
     sheet.replace("%tint", rgbaText(tint));
     return sheet;

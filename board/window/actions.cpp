@@ -74,11 +74,11 @@ void Actions::makeEditActions()
         if (!isDragging())
             pagehost::duplicateSelection(m_view->page(), &m_workspace->registry());
     });
-    remove = add("IDS_BOARD_DELETE", Icon::Delete,
-                 keysFor(QKeySequence::Delete, {Qt::Key_Delete, Qt::Key_Backspace}), [this] {
-                     if (!isDragging())
-                         pagehost::deleteSelection(m_view->page());
-                 });
+    // Not the platform's keys: on some, Ctrl+D is one of them.
+    remove = add("IDS_BOARD_DELETE", Icon::Delete, {Qt::Key_Delete, Qt::Key_Backspace}, [this] {
+        if (!isDragging())
+            pagehost::deleteSelection(m_view->page());
+    });
 }
 
 void Actions::makeArrangeActions()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void mirrorKeys();
     void keysWorkWithoutADesktopTheme_data();
     void keysWorkWithoutADesktopTheme();
+    void noTwoActionsShareAKey();
     void actionsAreDisabledWithoutASelection();
     void historyShowsWordsInTheUsersLanguage_data();
     void historyShowsWordsInTheUsersLanguage();
@@ -199,6 +200,19 @@ void TestKeys::keysWorkWithoutADesktopTheme()
         {"selectAll", actions->selectAll}, {"deselect", actions->deselect}, {"remove", actions->remove},
         {"duplicate", actions->duplicate}, {"zoomIn", actions->zoomIn},     {"zoomOut", actions->zoomOut}};
     QVERIFY(byName.value(action)->shortcuts().contains(QKeySequence(keys)));
+}
+
+void TestKeys::noTwoActionsShareAKey()
+{
+    BoardDriver board;
+    QHash<QKeySequence, const QAction *> owners;
+    for (const QAction *action : board.window().actions()->findChildren<QAction *>()) {
+        for (const QKeySequence &keys : action->shortcuts()) {
+            QVERIFY2(!owners.contains(keys), qPrintable(keys.toString()));
+            owners.insert(keys, action);
+        }
+    }
+    QVERIFY(owners.size() > 20);
 }
 
 void TestKeys::actionsAreDisabledWithoutASelection()
