@@ -11,6 +11,7 @@
 
 #include <framework/cbaseobject.h>
 #include <framework/cundoredo.h>
+#include <framework/iframework.h>
 
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
@@ -70,10 +71,8 @@ void Actions::makeEditActions()
                     [this] { pagehost::selectAll(m_view->page()); });
     deselect = add("IDS_BOARD_DESELECT", keysFor(QKeySequence::Deselect, {Qt::CTRL | Qt::SHIFT | Qt::Key_A}),
                    [this] { m_view->page()->select({}); });
-    duplicate = add("IDS_BOARD_DUPLICATE", Icon::Duplicate, {Qt::CTRL | Qt::Key_D}, [this] {
-        if (!isDragging())
-            pagehost::duplicateSelection(m_view->page(), &m_workspace->registry());
-    });
+    duplicate =
+        add("IDS_BOARD_DUPLICATE", Icon::Duplicate, {Qt::CTRL | Qt::Key_D}, [this] { duplicateSelection(); });
     // Not the platform's keys: on some, Ctrl+D is one of them.
     remove = add("IDS_BOARD_DELETE", Icon::Delete, {Qt::Key_Delete, Qt::Key_Backspace}, [this] {
         if (!isDragging())
@@ -173,6 +172,16 @@ void Actions::step(void (QUndoStack::*way)())
     // A drag that is still running has no step yet: taking it back is what the user means.
     if (!m_view->page()->scene()->cancelDrag())
         (undoStack()->*way)();
+}
+
+void Actions::duplicateSelection()
+{
+    if (isDragging())
+        return;
+    // In a group of its own the step is called what the user did.
+    GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_DUPLICATE"));
+    pagehost::duplicateSelection(m_view->page(), &m_workspace->registry());
+    GetFramework()->endUndoGroup();
 }
 
 void Actions::restackSelection(pagehost::StackingMove move)

@@ -47,6 +47,7 @@ private:
     void nameHistory();
     bool isDragging() const;
     void step(void (QUndoStack::*way)());
+    void duplicateSelection();
     void restackSelection(pagehost::StackingMove move);
     void mirrorSelection(bool horizontally);
     void rotateSelection(double degrees);

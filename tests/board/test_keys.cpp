@@ -127,6 +127,8 @@ void TestKeys::duplicateMakesASelectedCopy()
     QCOMPARE(t.board.selection(), Objects{copy});
     QCOMPARE(t.board.placeOf(copy), QRectF(520, 320, 200, 120));
     QCOMPARE(copy->getHostFillBrush(), t.shape->getHostFillBrush());
+    QCOMPARE(t.board.history().count(), 2);
+    QVERIFY(t.board.window().actions()->undo->text().endsWith("Duplicate"));
     t.undo();
     QCOMPARE(t.board.page().objects(), Objects{t.shape});
     t.redo();
