@@ -18,8 +18,8 @@ QZeSvgTinyDocument *QZeSvgTinyDocument::load(const QByteArray &text, QVector<Mes
     Messages collected;
     const PrototypePointer prototype = knownPrototype(text, &collected);
     if (messages)
-        *messages = prototype ? prototype->messages : collected.list();
-    return prototype ? new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(*prototype)) : nullptr;
+        *messages = prototype ? prototype->settled().messages : collected.list();
+    return prototype ? new QZeSvgTinyDocument(std::make_unique<DocumentPrivate>(prototype)) : nullptr;
 }
 
 QZeSvgTinyDocument *QZeSvgNodePrivate::cloneDocument(DocumentPrivate *document)
@@ -30,7 +30,7 @@ QZeSvgTinyDocument *QZeSvgNodePrivate::cloneDocument(DocumentPrivate *document)
 
 QVector<QZeSvgTinyDocument::Message> QZeSvgTinyDocument::messages() const
 {
-    return DocumentPrivate::of(this)->messages;
+    return DocumentPrivate::of(this)->content.messages();
 }
 
 QZeSvgNode *QZeSvgTinyDocument::namedNode(const QString &id) const

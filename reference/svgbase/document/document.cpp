@@ -5,10 +5,20 @@
 
 namespace Svg {
 
-Document::Document(const Prototype &prototype)
-    : m_tree(prototype.tree)
-    , m_facts(prototype.facts)
+Document::Document(const PrototypePointer &prototype)
+    : m_prototype(prototype)
+    , m_tree(prototype->tree())
 {
+}
+
+void Document::settle()
+{
+    if (m_settled)
+        return;
+    const Prototype::Settled &settled = m_prototype->settled();
+    m_tree = settled.tree;
+    m_facts = settled.facts;
+    m_settled = true;
 }
 
 bool Document::isCurrent(NodeIndex index, const FactsPointer &above) const
@@ -21,6 +31,7 @@ bool Document::isCurrent(NodeIndex index, const FactsPointer &above) const
 
 FactsPointer Document::facts(NodeIndex index)
 {
+    settle();
     if (!m_changed)
         return m_facts.at(index);
     QVarLengthArray<NodeIndex, 16> chain;
@@ -73,6 +84,7 @@ void Document::setStyleOverride(NodeIndex index, const StyleOverridePointer &ove
 
 void Document::setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke)
 {
+    settle();
     Node &node = m_tree.edit(index);
     node.takesFill = takesFill;
     node.takesStroke = takesStroke;

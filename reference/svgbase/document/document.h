@@ -10,9 +10,14 @@ namespace Svg {
 class Document
 {
 public:
-    explicit Document(const Prototype &prototype);
+    explicit Document(const PrototypePointer &prototype);
 
+    /// The elements. Their styling flags count once settle() was called.
     const Tree &tree() const { return m_tree; }
+    /// Takes over what is resolved of the prototype, if that has not been done. Everything that measures, draws or
+    /// changes does so first.
+    void settle();
+    QVector<Message> messages() const { return m_prototype->settled().messages; }
     /// Counts every change that could show.
     quint32 revision() const { return m_revision; }
     quint32 referenceRevision() const { return m_referenceRevision; }
@@ -47,6 +52,7 @@ private:
     void setEllipseBox(NodeIndex index, AttributeId side, double value);
     void dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value);
 
+    PrototypePointer m_prototype;
     Tree m_tree;
     QVector<FactsPointer> m_facts;
     /// By node index; shorter while nothing was styled.
@@ -55,6 +61,7 @@ private:
     quint32 m_referenceRevision = 1;
     /// Whether there was a change since the copy was made, so that facts have to be checked before use.
     bool m_changed = false;
+    bool m_settled = false;
 };
 
 } // namespace Svg

@@ -89,6 +89,7 @@ QString Document::attribute(NodeIndex index, const QString &name) const
 
 void Document::setAttribute(NodeIndex index, const QString &name, const QString &value)
 {
+    settle();
     m_tree.edit(index).attributes.set(name, value);
     const AttributeId id = attributeId(name);
     if (id == AttributeId::Unknown)

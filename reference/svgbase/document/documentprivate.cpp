@@ -4,18 +4,16 @@
 
 using namespace Svg;
 
-DocumentPrivate::DocumentPrivate(const Prototype &prototype)
+DocumentPrivate::DocumentPrivate(const PrototypePointer &prototype)
     : QZeSvgNodePrivate(this, rootNode)
     , content(prototype)
-    , messages(prototype.messages)
-    , viewBox(prototype.viewBox)
+    , viewBox(prototype->viewBox())
 {
 }
 
 DocumentPrivate::DocumentPrivate(const DocumentPrivate &other)
     : QZeSvgNodePrivate(this, rootNode)
     , content(other.content)
-    , messages(other.messages)
     , viewBox(other.viewBox)
     , callback(other.callback)
     , lastSet(other.lastSet)
@@ -44,6 +42,7 @@ QZeSvgNode *DocumentPrivate::nodeObject(NodeIndex index)
 {
     if (index == rootNode)
         return publicDocument;
+    content.settle();
     QZeSvgNode *&node = m_nodes[index];
     if (!node)
         node = makeNode(this, index);
@@ -101,6 +100,7 @@ bool DocumentPrivate::takesStroke(NodeIndex index) const
 void DocumentPrivate::restyle(bool (DocumentPrivate::*enabled)(NodeIndex) const,
                               const std::function<void(StyleOverride *)> &change)
 {
+    content.settle();
     const Tree &tree = content.tree();
     StyleOverridePointer lastOld;
     StyleOverridePointer lastNew;
@@ -135,6 +135,7 @@ NodeIndex DocumentPrivate::firstStyled(const std::function<bool(NodeIndex)> &wan
 
 NodeIndex DocumentPrivate::firstStroked()
 {
+    content.settle();
     return firstStyled([this](NodeIndex index) {
         return takesStroke(index) && drawnOutline(index).strokePaint.style() != Qt::NoBrush;
     });
@@ -142,6 +143,7 @@ NodeIndex DocumentPrivate::firstStroked()
 
 NodeIndex DocumentPrivate::firstFilled()
 {
+    content.settle();
     return firstStyled(
         [this](NodeIndex index) { return takesFill(index) && drawnOutline(index).fill.style() != Qt::NoBrush; });
 }

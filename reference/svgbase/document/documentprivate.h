@@ -13,7 +13,7 @@
 class DocumentPrivate : public QZeSvgNodePrivate
 {
 public:
-    explicit DocumentPrivate(const Svg::Prototype &prototype);
+    explicit DocumentPrivate(const Svg::PrototypePointer &prototype);
     /// A copy without node objects.
     DocumentPrivate(const DocumentPrivate &other);
     ~DocumentPrivate() override;
@@ -48,7 +48,6 @@ public:
 
     Svg::Document content;
     QZeSvgTinyDocument *publicDocument = nullptr;
-    QVector<Svg::Message> messages;
     QRectF viewBox;
     std::function<void(QPainter *)> callback;
     /// Document-wide values as last set.

@@ -41,6 +41,7 @@ int heightOf(const Tree &tree, NodeIndex top)
 
 NodeIndex Document::copySubtree(NodeIndex source)
 {
+    settle();
     const int before = m_tree.size();
     const NodeIndex top = m_tree.copySubtree(source);
     if (m_tree.size() > before)
@@ -73,6 +74,7 @@ bool Document::canAppend(NodeIndex parent, NodeIndex child) const
 
 void Document::append(NodeIndex parent, NodeIndex child, const QString &id)
 {
+    settle();
     m_tree.unlink(child);
     m_tree.link(parent, child);
     m_tree.edit(child).attributes.set(AttributeId::Id, id);
@@ -82,6 +84,7 @@ void Document::append(NodeIndex parent, NodeIndex child, const QString &id)
 
 void Document::remove(NodeIndex child)
 {
+    settle();
     m_tree.unlink(child);
     structureChanged();
 }

@@ -7,46 +7,58 @@ namespace Svg {
 
 namespace {
 
-void resolveAll(Prototype *prototype, Messages *messages)
+QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages)
 {
-    const Tree &tree = prototype->tree;
     const Resolver resolver(tree, 1, messages);
-    prototype->facts.resize(tree.size());
+    QVector<FactsPointer> facts(tree.size());
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const NodeIndex parent = tree.node(at).parent;
-        const FactsPointer above = parent == noNode ? FactsPointer() : prototype->facts.at(parent);
-        prototype->facts[at] = resolver.resolve(at, above);
+        facts[at] = resolver.resolve(at, parent == noNode ? FactsPointer() : facts.at(parent));
     }
+    return facts;
 }
 
-void settleStylingFlags(Prototype *prototype)
+void settleStylingFlags(Prototype::Settled *settled)
 {
-    Tree &tree = prototype->tree;
-    for (NodeIndex at = 0; at < tree.size(); ++at) {
-        const ComputedStyle &style = prototype->facts.at(at)->style;
+    for (NodeIndex at = 0; at < settled->tree.size(); ++at) {
+        const ComputedStyle &style = settled->facts.at(at)->style;
         const bool takesFill = style.fill.kind != Paint::None;
         const bool takesStroke = style.stroke.kind != Paint::None;
         if (takesFill && takesStroke)
             continue;
-        tree.edit(at).takesFill = takesFill;
-        tree.edit(at).takesStroke = takesStroke;
+        settled->tree.edit(at).takesFill = takesFill;
+        settled->tree.edit(at).takesStroke = takesStroke;
     }
 }
 
 } // namespace
 
-std::optional<Prototype> makePrototype(const QByteArray &text, Messages *messages)
+Prototype::Prototype(const Tree &tree, const Messages &messages)
+    : m_tree(tree)
+    , m_viewBox(rootViewBox(tree.node(rootNode)))
+    , m_messages(messages)
 {
-    Prototype prototype;
-    if (!readTree(text, &prototype.tree, messages))
-        return std::nullopt;
-    // Settled here, so that sharing documents never write to it.
-    prototype.tree.findId(QStringLiteral(" "));
-    prototype.viewBox = rootViewBox(prototype.tree.node(rootNode));
-    resolveAll(&prototype, messages);
-    settleStylingFlags(&prototype);
-    prototype.messages = messages->list();
-    return prototype;
+    m_tree.settleIds();
+}
+
+const Prototype::Settled &Prototype::settled() const
+{
+    std::call_once(m_once, [this] {
+        Messages messages = m_messages;
+        m_settled.tree = m_tree;
+        m_settled.facts = resolveAll(m_tree, &messages);
+        m_settled.messages = messages.list();
+        settleStylingFlags(&m_settled);
+    });
+    return m_settled;
+}
+
+PrototypePointer makePrototype(const QByteArray &text, Messages *messages)
+{
+    Tree tree;
+    if (!readTree(text, &tree, messages))
+        return nullptr;
+    return std::make_shared<const Prototype>(tree, *messages);
 }
 
 } // namespace Svg

@@ -4,22 +4,45 @@
 #include "tree/message.h"
 #include "tree/tree.h"
 
-#include <optional>
+#include <memory>
+#include <mutex>
 
 namespace Svg {
 
-/// What a text amounts to: elements and their facts. Documents start as copies, which share both until they change.
-struct Prototype
+/// What a text amounts to. It never changes, so that documents of any thread start as copies of it and share what
+/// they do not change.
+class Prototype
 {
-    Tree tree;
-    /// By node index.
-    QVector<FactsPointer> facts;
-    QVector<Message> messages;
-    /// Null when the text gives none.
-    QRectF viewBox;
+public:
+    /// The elements with everything that is resolved of them.
+    struct Settled
+    {
+        Tree tree;
+        /// By node index.
+        QVector<FactsPointer> facts;
+        QVector<Message> messages;
+    };
+
+    Prototype(const Tree &tree, const Messages &messages);
+
+    /// The elements as read; their styling flags are not settled yet.
+    const Tree &tree() const { return m_tree; }
+    /// The view box that the text gives; null when it gives none.
+    const QRectF &viewBox() const { return m_viewBox; }
+    /// Resolved when it is first asked for.
+    const Settled &settled() const;
+
+private:
+    Tree m_tree;
+    QRectF m_viewBox;
+    Messages m_messages;
+    mutable std::once_flag m_once;
+    mutable Settled m_settled;
 };
 
-/// Parses and resolves a text. Nothing when it can't be loaded; `messages` then ends with the reason.
-std::optional<Prototype> makePrototype(const QByteArray &text, Messages *messages);
+using PrototypePointer = std::shared_ptr<const Prototype>;
+
+/// Parses a text. Null when it can't be loaded; `messages` then ends with the reason.
+PrototypePointer makePrototype(const QByteArray &text, Messages *messages);
 
 } // namespace Svg

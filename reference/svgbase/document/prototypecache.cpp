@@ -42,13 +42,13 @@ PrototypePointer knownPrototype(const QByteArray &text, Messages *messages)
     static PrototypeCache cache;
     if (const PrototypePointer known = cache.find(text))
         return known;
-    std::optional<Prototype> fresh = makePrototype(text, messages);
+    const PrototypePointer fresh = makePrototype(text, messages);
     if (!fresh)
         return nullptr;
-    auto prototype = std::make_shared<const Prototype>(std::move(*fresh));
+    // A copy of the bytes: the text may be data of a plug-in that is unloaded later.
     if (text.size() <= Limits::knownTextBytes / 8)
-        cache.insert(QByteArray(text.constData(), text.size()), prototype);
-    return prototype;
+        cache.insert(QByteArray(text.constData(), text.size()), fresh);
+    return fresh;
 }
 
 } // namespace Svg

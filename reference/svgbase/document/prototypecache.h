@@ -2,11 +2,7 @@
 
 #include "document/prototype.h"
 
-#include <memory>
-
 namespace Svg {
-
-using PrototypePointer = std::shared_ptr<const Prototype>;
 
 /// What a text amounts to, parsed when it is seen for the first time and kept for later, least recently used ones
 /// going first. May be called from any thread. Null when the text can't be loaded; `messages` then says why.

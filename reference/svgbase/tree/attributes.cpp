@@ -1,8 +1,5 @@
 #include "tree/attributes.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace Svg {
 
 namespace {
@@ -13,7 +10,6 @@ struct AttributeName
     AttributeId id;
 };
 
-// In alphabetical order, for the binary search.
 constexpr AttributeName attributeNames[] = {
     {QLatin1String("color"), AttributeId::Color},
     {QLatin1String("cx"), AttributeId::Cx},
@@ -72,17 +68,50 @@ constexpr AttributeName attributeNames[] = {
     {QLatin1String("y_move"), AttributeId::YMove},
 };
 
+/// The names by a hash of their length and their ends; a few share a place and stand behind each other.
+class NameTable
+{
+public:
+    NameTable()
+    {
+        for (const AttributeName &known : attributeNames) {
+            size_t place = placeOf(known.name);
+            while (m_places[place])
+                place = (place + 1) % placeCount;
+            m_places[place] = &known;
+        }
+    }
+
+    AttributeId find(QStringView name) const
+    {
+        if (name.isEmpty())
+            return AttributeId::Unknown;
+        for (size_t place = placeOf(name); m_places[place]; place = (place + 1) % placeCount) {
+            const QLatin1String known = m_places[place]->name;
+            if (known.size() == name.size() && name == known)
+                return m_places[place]->id;
+        }
+        return AttributeId::Unknown;
+    }
+
+private:
+    static constexpr size_t placeCount = 256;
+
+    template<typename Text> static size_t placeOf(const Text &text)
+    {
+        const auto code = [](auto c) { return size_t(QChar(c).unicode()); };
+        return (size_t(text.size()) * 31 + code(text.front()) * 7 + code(text.back()) * 13) % placeCount;
+    }
+
+    const AttributeName *m_places[placeCount] = {};
+};
+
 } // namespace
 
 AttributeId attributeId(QStringView name)
 {
-    const auto before = [](const AttributeName &known, QStringView wanted) {
-        return wanted.compare(known.name) > 0;
-    };
-    const auto found = std::lower_bound(std::begin(attributeNames), std::end(attributeNames), name, before);
-    if (found == std::end(attributeNames) || name != found->name)
-        return AttributeId::Unknown;
-    return found->id;
+    static const NameTable table;
+    return table.find(name);
 }
 
 const Attribute *Attributes::find(AttributeId id) const

@@ -53,6 +53,8 @@ public:
 
     /// The first node in document order with that id; `noNode` when there is none.
     NodeIndex findId(const QString &id) const;
+    /// Makes the index of ids now, so that lookups write nothing until the tree changes.
+    void settleIds() { indexIds(); }
     /// To be called whenever an "id" changed.
     void forgetIds() { m_idsKnown = false; }
     /// Whether `ancestor` is `index` or stands above it.
