@@ -85,6 +85,8 @@ private:
                          double rotation, double zoom);
     double dragOne(BoardDriver &board, CBaseObject *object, int index);
 
+    /// One for all rows of the table; goes before the application does.
+    std::unique_ptr<BoardDriver> m_board;
     QVector<QPair<Case, double>> m_results;
     QPoint m_end; ///< where the last drag ended, viewport coordinates
 };
@@ -171,7 +173,9 @@ void TestControlPoints::endsUnderTheCursor()
     QFETCH(double, rotation);
     QFETCH(int, size);
     QFETCH(double, zoom);
-    static BoardDriver board;
+    if (!m_board)
+        m_board = std::make_unique<BoardDriver>();
+    BoardDriver &board = *m_board;
     CBaseObject *object = prepare(board, kind, sizes[size].factor, mirrorings[mirroring], rotation, zoom);
     const int points = ControlPointProbe(object).count();
     double worst = points > 0 ? 0 : INFINITY;
@@ -287,6 +291,7 @@ void TestControlPoints::oneAxisPointIgnoresTheOtherAxis()
 
 void TestControlPoints::cleanupTestCase()
 {
+    m_board.reset();
     std::printf("\nLargest distance between control point and cursor, pixels (at most %.1f)\n\n", tolerance);
     std::printf("%-26s %-8s %8s %-6s |", "shape", "mirrored", "rotation", "size");
     for (const double zoom : zooms)
