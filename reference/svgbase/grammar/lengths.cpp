@@ -21,7 +21,7 @@ constexpr double centimetresPerInch = 2.54;
 /// Height of a lower-case x where a font does not tell, in font sizes.
 constexpr double exPerEm = 0.5;
 
-constexpr UnitName unitNames[] = {
+const UnitName unitNames[] = {
     {QLatin1String("px"), Unit::User, 1},
     {QLatin1String("pt"), Unit::User, pixelsPerInch / 72},
     {QLatin1String("pc"), Unit::User, pixelsPerInch / 6},

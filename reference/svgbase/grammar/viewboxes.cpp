@@ -15,7 +15,7 @@ struct Alignment
     double share;
 };
 
-constexpr Alignment alignments[] = {
+const Alignment alignments[] = {
     {QLatin1String("Min"), 0},
     {QLatin1String("Mid"), 0.5},
     {QLatin1String("Max"), 1},

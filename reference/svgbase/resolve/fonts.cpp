@@ -12,7 +12,7 @@ struct GenericFamily
     QFont::StyleHint hint;
 };
 
-constexpr GenericFamily genericFamilies[] = {
+const GenericFamily genericFamilies[] = {
     {QLatin1String("serif"), QFont::Serif},         {QLatin1String("sans-serif"), QFont::SansSerif},
     {QLatin1String("monospace"), QFont::Monospace}, {QLatin1String("cursive"), QFont::Cursive},
     {QLatin1String("fantasy"), QFont::Fantasy},

@@ -29,47 +29,47 @@ bool applyKeyword(Value &target, QStringView text, const Keyword<Value> (&keywor
     return false;
 }
 
-constexpr Keyword<Qt::PenCapStyle> caps[] = {
+const Keyword<Qt::PenCapStyle> caps[] = {
     {QLatin1String("butt"), Qt::FlatCap},
     {QLatin1String("round"), Qt::RoundCap},
     {QLatin1String("square"), Qt::SquareCap},
 };
 
-constexpr Keyword<Qt::PenJoinStyle> joins[] = {
+const Keyword<Qt::PenJoinStyle> joins[] = {
     {QLatin1String("miter"), Qt::SvgMiterJoin},
     {QLatin1String("round"), Qt::RoundJoin},
     {QLatin1String("bevel"), Qt::BevelJoin},
 };
 
-constexpr Keyword<Qt::FillRule> fillRules[] = {
+const Keyword<Qt::FillRule> fillRules[] = {
     {QLatin1String("nonzero"), Qt::WindingFill},
     {QLatin1String("evenodd"), Qt::OddEvenFill},
 };
 
-constexpr Keyword<TextAnchor> anchors[] = {
+const Keyword<TextAnchor> anchors[] = {
     {QLatin1String("start"), TextAnchor::Start},
     {QLatin1String("middle"), TextAnchor::Middle},
     {QLatin1String("end"), TextAnchor::End},
 };
 
-constexpr Keyword<bool> visibilities[] = {
+const Keyword<bool> visibilities[] = {
     {QLatin1String("visible"), true},
     {QLatin1String("hidden"), false},
     {QLatin1String("collapse"), false},
 };
 
-constexpr Keyword<bool> fontStyles[] = {
+const Keyword<bool> fontStyles[] = {
     {QLatin1String("normal"), false},
     {QLatin1String("italic"), true},
     {QLatin1String("oblique"), true},
 };
 
-constexpr Keyword<int> fontWeights[] = {
+const Keyword<int> fontWeights[] = {
     {QLatin1String("normal"), 400},
     {QLatin1String("bold"), 700},
 };
 
-constexpr Keyword<double> fontSizes[] = {
+const Keyword<double> fontSizes[] = {
     {QLatin1String("xx-small"), 9},  {QLatin1String("x-small"), 10}, {QLatin1String("small"), 13},
     {QLatin1String("medium"), 16},   {QLatin1String("large"), 18},   {QLatin1String("x-large"), 24},
     {QLatin1String("xx-large"), 32},

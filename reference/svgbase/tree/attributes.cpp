@@ -10,7 +10,7 @@ struct AttributeName
     AttributeId id;
 };
 
-constexpr AttributeName attributeNames[] = {
+const AttributeName attributeNames[] = {
     {QLatin1String("color"), AttributeId::Color},
     {QLatin1String("cx"), AttributeId::Cx},
     {QLatin1String("cy"), AttributeId::Cy},

@@ -11,7 +11,7 @@ struct KindName
 };
 
 // Ordered by how often templates use them: the table is searched from the front.
-constexpr KindName kindNames[] = {
+const KindName kindNames[] = {
     {QLatin1String("path"), ElementKind::Path},
     {QLatin1String("rect"), ElementKind::Rect},
     {QLatin1String("g"), ElementKind::Group},
