@@ -56,6 +56,8 @@ Flask::Flask(CSVGObj *owner)
     propPenWidthEnabled = true;
     propFillEnabled = true;
     keepOutlineRegion = true;
+    // Pixels until here; the painting step only follows later changes of the zoom.
+    controlPointSize /= zoomRate;
 }
 
 QString Flask::getSVG()

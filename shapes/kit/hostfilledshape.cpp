@@ -25,6 +25,8 @@ HostFilledShape::HostFilledShape(CSVGObj *owner)
     propPenWidthEnabled = true;
     propFillEnabled = true;
     keepOutlineRegion = true;
+    // Pixels until here; the painting step only follows later changes of the zoom.
+    controlPointSize /= zoomRate;
 }
 
 QBrush HostFilledShape::getFillBrush()

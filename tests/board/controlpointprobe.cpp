@@ -69,6 +69,11 @@ QPointF ControlPointProbe::sceneCentre(int index) const
     return toScene(documentCentre(index));
 }
 
+double ControlPointProbe::documentSide(int index) const
+{
+    return node(index)->boundingRect().width();
+}
+
 bool ControlPointProbe::canMoveHorizontally(int index) const
 {
     return node(index)->canMoveHorizontally();

@@ -19,6 +19,8 @@ public:
     int count() const;
     /// Centre of control point `index` (from 0), scene coordinates, mirroring and rotation included.
     QPointF sceneCentre(int index) const;
+    /// Side of its square, document units.
+    double documentSide(int index) const;
     bool canMoveHorizontally(int index) const;
     bool canMoveVertically(int index) const;
     /// How the centre moves in the scene when the control point moves by one unit along the document's axis.

@@ -69,6 +69,8 @@ private Q_SLOTS:
     void endsUnderTheCursor();
     void isPaintedUnderTheCursor_data();
     void isPaintedUnderTheCursor();
+    void isAsLargeOnAShapeDrawnAtAnotherZoom_data();
+    void isAsLargeOnAShapeDrawnAtAnotherZoom();
     void dragIsOneStep();
     void escapePutsItBack();
     void nearMissGrabsItToo();
@@ -225,6 +227,31 @@ void TestControlPoints::isPaintedUnderTheCursor()
         }
         QVERIFY2(orange > 60, qPrintable(QString("%1, %2").arg(side.x()).arg(side.y())));
     }
+}
+
+void TestControlPoints::isAsLargeOnAShapeDrawnAtAnotherZoom_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<double>("zoom");
+    for (const QString &kind : {rectangle, arrow, polygon, flask}) {
+        QTest::newRow(qPrintable(kind + ", half")) << kind << 0.5;
+        QTest::newRow(qPrintable(kind + ", double")) << kind << 2.0;
+    }
+}
+
+void TestControlPoints::isAsLargeOnAShapeDrawnAtAnotherZoom()
+{
+    QFETCH(QString, kind);
+    QFETCH(double, zoom);
+    BoardDriver board;
+    board.view().setZoom(zoom);
+    board.view().centerOn(QPointF(640, 360));
+    board.pick(kind);
+    board.click({600, 320});
+    QVERIFY(board.only());
+    board.view().viewport()->grab();
+    // 8 pixels; a new object is as large as its document.
+    QCOMPARE(ControlPointProbe(board.only()).documentSide(0) * zoom, 8.0);
 }
 
 void TestControlPoints::dragIsOneStep()
