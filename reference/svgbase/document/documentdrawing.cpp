@@ -1,6 +1,7 @@
 // Drawing a document onto a painter.
 
 #include "document/documentprivate.h"
+#include "draw/displaylistcache.h"
 #include "draw/itempainter.h"
 
 #include <QtGui/QPainter>
@@ -36,14 +37,14 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
     const QTransform world = painter->worldTransform();
     if (!isFinite(world))
         return;
-    if (!m_displayList)
-        m_displayList = std::make_unique<DisplayList>();
-    m_displayList->update(content, stretch, world);
+    std::unique_ptr<DisplayList> list = DisplayListCache::take(this);
+    list->update(content, stretch, world);
     painter->setWorldTransform(QTransform());
     painter->setBrushOrigin(0, 0);
-    paintItems(painter, m_displayList->items());
+    paintItems(painter, list->items());
     if (withControlPoints)
-        paintItems(painter, m_displayList->controlPoints());
+        paintItems(painter, list->controlPoints());
+    DisplayListCache::keep(this, std::move(list));
 }
 
 void DocumentPrivate::draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag)

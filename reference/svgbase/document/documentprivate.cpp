@@ -1,6 +1,7 @@
 #include "document/documentprivate.h"
 
 #include "draw/controlpoints.h"
+#include "draw/displaylistcache.h"
 
 using namespace Svg;
 
@@ -23,6 +24,7 @@ DocumentPrivate::DocumentPrivate(const DocumentPrivate &other)
 // Copies that callers still own outlive the document; they just stop meaning anything.
 DocumentPrivate::~DocumentPrivate()
 {
+    DisplayListCache::forget(this);
     const auto nodes = m_nodes;
     m_nodes.clear();
     for (QZeSvgNode *node : nodes) {

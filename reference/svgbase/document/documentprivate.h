@@ -2,7 +2,6 @@
 
 #include "document/document.h"
 #include "document/handles.h"
-#include "draw/displaylist.h"
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -64,5 +63,4 @@ private:
     QHash<Svg::NodeIndex, QZeSvgNode *> m_nodes;
     /// Copies that are in no document yet; their callers delete them.
     QSet<Svg::NodeIndex> m_loose;
-    std::unique_ptr<Svg::DisplayList> m_displayList;
 };

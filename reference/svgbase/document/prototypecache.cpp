@@ -3,7 +3,8 @@
 #include "inputlimits.h"
 
 #include <QtCore/QCache>
-#include <QtCore/QMutex>
+
+#include <mutex>
 
 namespace Svg {
 
@@ -19,19 +20,19 @@ public:
 
     PrototypePointer find(const QByteArray &text)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         const PrototypePointer *known = m_prototypes.object(text);
         return known ? *known : PrototypePointer();
     }
 
     void insert(const QByteArray &text, const PrototypePointer &prototype)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_prototypes.insert(text, new PrototypePointer(prototype), qMax(1, text.size()));
     }
 
 private:
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QCache<QByteArray, PrototypePointer> m_prototypes;
 };
 

@@ -3,6 +3,8 @@
 #include "draw/itemmapping.h"
 #include "draw/listbuilder.h"
 
+#include <limits>
+
 namespace Svg {
 
 namespace {
@@ -29,7 +31,27 @@ void forgetMapping(QVector<DisplayItem> *items)
         item.mapped = false;
 }
 
+/// What a painted item takes besides its outline: buffers that a path keeps for painting, pen and brush. Measured.
+constexpr double itemOverhead = 3000;
+
+// An outline is held twice, the second time as the painter's own copy.
+double itemWeight(const DisplayItem &item)
+{
+    const int elements = item.path.elementCount() + item.strokePath.elementCount();
+    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements;
+}
+
 } // namespace
+
+int DisplayList::weight() const
+{
+    double weight = sizeof(DisplayList);
+    for (const DisplayItem &item : m_items)
+        weight += itemWeight(item);
+    for (const DisplayItem &item : m_controlPoints)
+        weight += itemWeight(item);
+    return int(qMin(weight, double(std::numeric_limits<int>::max())));
+}
 
 void DisplayList::map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const
 {

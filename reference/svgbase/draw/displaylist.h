@@ -42,6 +42,9 @@ public:
     const QVector<DisplayItem> &items() const { return m_items; }
     const QVector<DisplayItem> &controlPoints() const { return m_controlPoints; }
 
+    /// Memory that the list takes, bytes, estimated.
+    int weight() const;
+
 private:
     void map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const;
 
