@@ -16,7 +16,7 @@ private slots:
 
 namespace {
 
-/// Every "@name@" of the template is the value of an attribute of the element whose id stands in front of it.
+/// Where a numbered place of the scene's text stands.
 struct Slot
 {
     QString id;

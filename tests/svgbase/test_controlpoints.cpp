@@ -1,6 +1,7 @@
 #include "draw/controlpoints.h"
 #include "svgdrawing.h"
 
+#include <QPainter>
 #include <QtTest>
 
 namespace {
@@ -44,6 +45,8 @@ private slots:
     void keepTheirSizeInAStretchedObject();
     void magnifiedDrawingKeepsTheirSize();
     void painterZoomSizesThem();
+    void theirLineIsAsWideAtEveryZoom_data();
+    void theirLineIsAsWideAtEveryZoom();
     void groupTransformPlacesThem();
     void keepTheirStyleWhileDisabled();
     void hiddenOnesAreNotDrawn();
@@ -144,6 +147,36 @@ void TestControlPoints::painterZoomSizesThem()
     document->draw(&painter, QRectF(0, 0, 120, 20), 1, true);
     painter.end();
     QCOMPARE(areaOf(image, red), QRect(112, 12, 16, 16));
+}
+
+void TestControlPoints::theirLineIsAsWideAtEveryZoom_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("half") << 0.5;
+    QTest::newRow("one to one") << 1.0;
+    QTest::newRow("threefold") << 3.0;
+}
+
+void TestControlPoints::theirLineIsAsWideAtEveryZoom()
+{
+    QFETCH(double, zoom);
+    // The left edge of the square lies at x = 12 of the painter: a line of 2 covers 11 to 13.
+    const QString square = QStringLiteral("<rect id='control_1' x='%1' y='0' width='%2' height='%2' fill='none' "
+                                          "stroke='red' stroke-width='2'/>")
+                               .arg(12 / zoom)
+                               .arg(60 / zoom);
+    const DocumentPointer document = loadContent(square, QStringLiteral("0 0 %1 %1").arg(80 / zoom));
+    document->setSelectionState(1);
+    QImage image(80, 80, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(zoom, zoom);
+    document->draw(&painter, QRectF(0, 0, 80 / zoom, 80 / zoom), 1, true);
+    painter.end();
+    QCOMPARE(image.pixelColor(10, 30).alpha(), 0);
+    QCOMPARE(image.pixelColor(11, 30), red);
+    QCOMPARE(image.pixelColor(12, 30), red);
+    QCOMPARE(image.pixelColor(13, 30).alpha(), 0);
 }
 
 void TestControlPoints::groupTransformPlacesThem()

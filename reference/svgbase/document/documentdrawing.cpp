@@ -2,7 +2,6 @@
 
 #include "document/documentprivate.h"
 #include "draw/displaylistcache.h"
-#include "draw/itempainter.h"
 
 #include <QtGui/QPainter>
 
@@ -39,11 +38,12 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
         return;
     std::unique_ptr<DisplayList> list = DisplayListCache::take(this);
     list->update(content, stretch, world);
+    // Nothing of what the caller's painter is set to may show but its place, clip, opacity and composition.
     painter->setWorldTransform(QTransform());
     painter->setBrushOrigin(0, 0);
-    paintItems(painter, list->items());
-    if (withControlPoints)
-        paintItems(painter, list->controlPoints());
+    painter->setBackgroundMode(Qt::TransparentMode);
+    painter->setRenderHints(painter->renderHints(), false);
+    list->paint(painter, withControlPoints);
     DisplayListCache::keep(this, std::move(list));
 }
 

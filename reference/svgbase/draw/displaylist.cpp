@@ -1,6 +1,7 @@
 #include "draw/displaylist.h"
 
 #include "draw/itemmapping.h"
+#include "draw/itempainter.h"
 #include "draw/listbuilder.h"
 
 #include <limits>
@@ -45,12 +46,36 @@ double itemWeight(const DisplayItem &item)
 
 int DisplayList::weight() const
 {
-    double weight = sizeof(DisplayList);
+    double weight = double(sizeof(DisplayList)) + m_picture.bytes();
     for (const DisplayItem &item : m_items)
         weight += itemWeight(item);
     for (const DisplayItem &item : m_controlPoints)
         weight += itemWeight(item);
     return int(qMin(weight, double(std::numeric_limits<int>::max())));
+}
+
+QRectF DisplayList::paintedBounds(bool withControlPoints) const
+{
+    QRectF bounds;
+    for (const DisplayItem &item : m_items)
+        bounds |= item.bounds;
+    if (withControlPoints) {
+        for (const DisplayItem &item : m_controlPoints)
+            bounds |= item.bounds;
+    }
+    return bounds;
+}
+
+void DisplayList::paint(QPainter *painter, bool withControlPoints)
+{
+    const QRect blank = blankArea(painter, paintedBounds(withControlPoints));
+    if (!blank.isEmpty() && m_picture.paint(painter, blank, withControlPoints))
+        return;
+    paintItems(painter, m_items);
+    if (withControlPoints)
+        paintItems(painter, m_controlPoints);
+    if (!blank.isEmpty())
+        m_picture.keep(painter, blank, withControlPoints);
 }
 
 void DisplayList::map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const
@@ -67,6 +92,7 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
     const bool sameContent = m_built && m_revision == document.revision();
     if (sameMapping && sameContent)
         return;
+    m_picture.clear();
     if (!sameMapping) {
         forgetMapping(&m_items);
         forgetMapping(&m_controlPoints);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/document.h"
+#include "draw/keptpicture.h"
 
 namespace Svg {
 
@@ -39,17 +40,19 @@ public:
     /// coordinates; control points keep their size under the first.
     void update(Document &document, const QTransform &stretch, const QTransform &world);
 
-    const QVector<DisplayItem> &items() const { return m_items; }
-    const QVector<DisplayItem> &controlPoints() const { return m_controlPoints; }
-
+    /// Paints the items, then the control points if they are wanted. The painter's world transform must be the
+    /// identity.
+    void paint(QPainter *painter, bool withControlPoints);
     /// Memory that the list takes, bytes, estimated.
     int weight() const;
 
 private:
+    QRectF paintedBounds(bool withControlPoints) const;
     void map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const;
 
     QVector<DisplayItem> m_items;
     QVector<DisplayItem> m_controlPoints;
+    KeptPicture m_picture;
     QTransform m_stretch;
     QTransform m_world;
     quint32 m_revision = 0;

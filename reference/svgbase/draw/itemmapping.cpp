@@ -126,7 +126,8 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
     if (keepsShapes(transform)) {
         item->pen = pen;
         item->pen.setBrush(mappedBrush(pen.brush(), transform));
-        item->pen.setWidthF(pen.widthF() * scale);
+        // Control points are sized for the screen by whoever edits; their line is as wide at every zoom.
+        item->pen.setWidthF(item->control ? pen.widthF() : pen.widthF() * scale);
         const double reach = strokeReach(item->pen);
         item->bounds.adjust(-reach, -reach, reach, reach);
         return;
