@@ -71,8 +71,8 @@ public:
     /// Draws the document with its view box stretched over `target` (painter units, no regard for aspect ratio),
     /// magnified by `scale` about the target's centre. Control points (ids "control_1", "control_2", ...) are drawn
     /// above everything else, with their own template style and counter-scaled about their centres so that they look
-    /// square, and only while `viewFlag` is set and the selection state is 1. An empty target or view box draws
-    /// nothing. The painter's state is the same afterwards.
+    /// square, with lines as wide on screen as the template says at every zoom, and only while `viewFlag` is set and
+    /// the selection state is 1. An empty target or view box draws nothing. The painter's state is the same afterwards.
     void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
 
     /// 1 while the shape is selected, else 0.
