@@ -9,8 +9,8 @@ namespace Svg::Limits {
 constexpr int textBytes = 16 * 1024 * 1024;
 /// Texts whose documents are kept for the next load(), bytes of all of them; one may take an eighth.
 constexpr int knownTextBytes = 1024 * 1024;
-/// Memory of outlines that were mapped for drawing and of finished drawings, bytes of all documents of the process, as
-/// estimated.
+/// Memory of outlines that were mapped for drawing and of finished drawings, bytes of all documents of the process,
+/// as estimated.
 constexpr int displayListBytes = 32 * 1024 * 1024;
 /// Deepest nesting of elements, the root being 1.
 constexpr int depth = 512;

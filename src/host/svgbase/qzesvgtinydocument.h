@@ -16,7 +16,8 @@ class SVGBASE_EXPORT QZeSvgTinyDocument : public QZeSvgStructureNode
 {
 public:
     /// Something that parsing or drawing had to say. Line and column count from 1; 0 where there is no place.
-    struct Message {
+    struct Message
+    {
         enum Severity { Warning, Error };
         Severity severity = Warning;
         QString text;
@@ -26,14 +27,15 @@ public:
     };
 
     /// What the last draw() was asked to do.
-    struct DrawRecord {
+    struct DrawRecord
+    {
         QRectF target;
         float scale = 0;
         bool viewFlag = false;
     };
 
-    /// Parses UTF-8 SVG text into a new document that the caller owns. Null when the text is not well-formed XML with
-    /// an "svg" root or exceeds a limit of the library; `messages`, when given, then says why and where.
+    /// Parses UTF-8 SVG text into a new document that the caller owns. Null when the text is not well-formed XML
+    /// with an "svg" root or exceeds a limit of the library; `messages`, when given, then says why and where.
     static QZeSvgTinyDocument *load(const QByteArray &text, QVector<Message> *messages = nullptr);
     ~QZeSvgTinyDocument() override;
 
@@ -54,8 +56,8 @@ public:
     void setCallback(const std::function<void(QPainter *)> &callback);
 
     /// @name Document-wide styling
-    /// Setters reach every node whose stroke (or fill) is enabled. Getters give what was last set, else the value of
-    /// the first such node in document order that has one (control points, whose flags are off, aside), else the
+    /// Setters reach every node whose stroke (or fill) is enabled. Getters give what was last set, else the value
+    /// of the first such node in document order that has one (control points, whose flags are off, aside), else the
     /// initial values: black, solid, 1, no brush.
     /// @{
     void setAllStrokeColor(QColor color);
@@ -70,9 +72,10 @@ public:
 
     /// Draws the document with its view box stretched over `target` (painter units, no regard for aspect ratio),
     /// magnified by `scale` about the target's centre. Control points (ids "control_1", "control_2", ...) are drawn
-    /// above everything else, with their own template style and counter-scaled about their centres so that they look
-    /// square, with lines as wide on screen as the template says at every zoom, and only while `viewFlag` is set and
-    /// the selection state is 1. An empty target or view box draws nothing. The painter's state is the same afterwards.
+    /// above everything else, with their own template style and counter-scaled about their centres so that they
+    /// look square, with lines as wide on screen as the template says at every zoom, and only while `viewFlag` is
+    /// set and the selection state is 1. An empty target or view box draws nothing. The painter's state is the same
+    /// afterwards.
     void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
 
     /// 1 while the shape is selected, else 0.
