@@ -21,6 +21,47 @@ QString pluginFile(const char *name)
     return QDir(QStringLiteral(TEST_PLUGIN_DIR)).filePath(QStringLiteral("lib%1.so").arg(QLatin1String(name)));
 }
 
+/// Reads data that begins with a mark of its own and writes the object's width.
+class DataPlugin : public pagehost::ObjectPlugin
+{
+public:
+    DataPlugin(const QString &id, const QStringList &types, const QByteArray &mark)
+        : m_id(id)
+        , m_types(types)
+        , m_mark(mark)
+    {
+    }
+    QVector<pagehost::ObjectKind> objectKinds() const override { return {{m_id, QStringLiteral("IDS_DATA"), {}}}; }
+    CBaseObject *createObject(const QString &) const override { return new TestObject(QSizeF(7, 8)); }
+    pagehost::TextTable texts(const QString &) const override
+    {
+        return {{QStringLiteral("IDS_DATA"), QStringLiteral("Data")}};
+    }
+    QStringList dataTypes() const override { return m_types; }
+    CBaseObject *createFromData(const QString &, const QByteArray &data, QString &kindId) const override
+    {
+        kindId = toldKind.isEmpty() ? m_id : toldKind;
+        return data.startsWith(m_mark) ? new TestObject(QSizeF(data.size(), 1)) : nullptr;
+    }
+    QByteArray dataOf(CBaseObject *object, const QString &mimeType) const override
+    {
+        return m_types.contains(mimeType) ? m_mark + QByteArray::number(object->getClientRect().width())
+                                          : QByteArray();
+    }
+
+    QString toldKind; ///< told in place of its own when not empty
+
+private:
+    QString m_id;
+    QStringList m_types;
+    QByteArray m_mark;
+};
+
+QString textType()
+{
+    return QStringLiteral("text/plain");
+}
+
 QStringList idsOf(const QVector<pagehost::ObjectKind> &kinds)
 {
     QStringList ids;
@@ -54,6 +95,12 @@ private Q_SLOTS:
     void builtInPluginIsReportedUnderItsName();
     void missingBuiltInPluginIsReported();
     void tagOfAnObjectThatNobodyMadeIsEmpty();
+    void dataTypesOfAllPluginsAreGivenOnceInTheirOrder();
+    void pluginsWithoutDataGiveAndTakeNone();
+    void dataBecomesATaggedObjectOfTheFirstPluginThatCanReadIt();
+    void dataThatNobodyReadsGivesNoObject();
+    void objectFromDataOfAKindThatIsNotThePluginsIsRefused();
+    void lookOfAnObjectComesFromThePluginOfItsKind();
 };
 
 void TestRegistry::goodPluginBringsItsKinds()
@@ -108,7 +155,7 @@ void TestRegistry::foreignPluginIsReported()
     const PluginReport report = registry.loadFile(pluginFile("foreign"));
     QVERIFY(!report.loaded);
     QCOMPARE(report.problem,
-             QStringLiteral("it implements \"test.SomethingElse/1\", not \"gliololok.pagehost.ObjectPlugin/1\""));
+             QStringLiteral("it implements \"test.SomethingElse/1\", not \"gliololok.pagehost.ObjectPlugin/2\""));
     QVERIFY(registry.kinds().isEmpty());
 }
 
@@ -258,6 +305,77 @@ void TestRegistry::tagOfAnObjectThatNobodyMadeIsEmpty()
     QCOMPARE(pagehost::kindIdOf(nullptr), QString());
     pagehost::setKindId(&object, QStringLiteral("own"));
     QCOMPARE(pagehost::kindIdOf(&object), QStringLiteral("own"));
+}
+
+void TestRegistry::dataTypesOfAllPluginsAreGivenOnceInTheirOrder()
+{
+    DataPlugin first(QStringLiteral("first"), {QStringLiteral("b/b"), QStringLiteral("a/a")}, "1");
+    DataPlugin second(QStringLiteral("second"), {QStringLiteral("a/a"), QStringLiteral("c/c")}, "2");
+    ObjectRegistry registry;
+    registry.addPlugin(&first, QStringLiteral("first"));
+    registry.addPlugin(&second, QStringLiteral("second"));
+    const QStringList expected{QStringLiteral("b/b"), QStringLiteral("a/a"), QStringLiteral("c/c")};
+    QCOMPARE(registry.dataTypes(), expected);
+}
+
+void TestRegistry::pluginsWithoutDataGiveAndTakeNone()
+{
+    ObjectRegistry registry;
+    registry.loadFile(pluginFile("good"));
+    QCOMPARE(registry.dataTypes(), QStringList());
+    QCOMPARE(registry.createFromData(textType(), "anything"), nullptr);
+    const std::unique_ptr<CBaseObject> object(registry.createObject(QStringLiteral("test.one")));
+    QCOMPARE(registry.dataOf(object.get(), textType()), QByteArray());
+}
+
+void TestRegistry::dataBecomesATaggedObjectOfTheFirstPluginThatCanReadIt()
+{
+    DataPlugin first(QStringLiteral("first"), {textType()}, "1");
+    DataPlugin second(QStringLiteral("second"), {textType()}, "2");
+    ObjectRegistry registry;
+    registry.addPlugin(&first, QStringLiteral("first"));
+    registry.addPlugin(&second, QStringLiteral("second"));
+    const std::unique_ptr<CBaseObject> object(registry.createFromData(textType(), "2345"));
+    QVERIFY(object);
+    QCOMPARE(pagehost::kindIdOf(object.get()), QStringLiteral("second"));
+    QCOMPARE(object->getClientRect().width(), 4.0);
+}
+
+void TestRegistry::dataThatNobodyReadsGivesNoObject()
+{
+    DataPlugin plugin(QStringLiteral("only"), {textType()}, "1");
+    ObjectRegistry registry;
+    registry.addPlugin(&plugin, QStringLiteral("only"));
+    QCOMPARE(registry.createFromData(textType(), "2"), nullptr);
+    QCOMPARE(registry.createFromData(QStringLiteral("text/html"), "1"), nullptr);
+}
+
+void TestRegistry::objectFromDataOfAKindThatIsNotThePluginsIsRefused()
+{
+    DataPlugin honest(QStringLiteral("honest"), {}, "0");
+    DataPlugin liar(QStringLiteral("liar"), {textType()}, "1");
+    ObjectRegistry registry;
+    registry.addPlugin(&honest, QStringLiteral("honest"));
+    registry.addPlugin(&liar, QStringLiteral("liar"));
+    liar.toldKind = QStringLiteral("honest");
+    QCOMPARE(registry.createFromData(textType(), "1"), nullptr);
+    liar.toldKind = QStringLiteral("unknown");
+    QCOMPARE(registry.createFromData(textType(), "1"), nullptr);
+}
+
+void TestRegistry::lookOfAnObjectComesFromThePluginOfItsKind()
+{
+    DataPlugin first(QStringLiteral("first"), {textType()}, "1:");
+    DataPlugin second(QStringLiteral("second"), {textType()}, "2:");
+    ObjectRegistry registry;
+    registry.addPlugin(&first, QStringLiteral("first"));
+    registry.addPlugin(&second, QStringLiteral("second"));
+    const std::unique_ptr<CBaseObject> object(registry.createObject(QStringLiteral("second")));
+    QCOMPARE(registry.dataOf(object.get(), textType()), QByteArray("2:7"));
+    QCOMPARE(registry.dataOf(object.get(), QStringLiteral("text/html")), QByteArray());
+    TestObject untagged;
+    QCOMPARE(registry.dataOf(&untagged, textType()), QByteArray());
+    QCOMPARE(registry.dataOf(nullptr, textType()), QByteArray());
 }
 
 QTEST_MAIN(TestRegistry)

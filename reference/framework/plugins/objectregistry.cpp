@@ -12,6 +12,7 @@
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
+#include <memory>
 
 namespace pagehost {
 
@@ -123,6 +124,7 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
         return report;
     }
     report.loaded = true;
+    m_sources.append(plugin);
     mergeTexts(*plugin);
     return report;
 }
@@ -170,6 +172,38 @@ CBaseObject *ObjectRegistry::createObject(const QString &kindId) const
         setKindId(object, kindId);
     }
     return object;
+}
+
+QStringList ObjectRegistry::dataTypes() const
+{
+    QStringList types;
+    for (const ObjectPlugin *plugin : m_sources) {
+        types += plugin->dataTypes();
+    }
+    types.removeDuplicates();
+    return types;
+}
+
+CBaseObject *ObjectRegistry::createFromData(const QString &mimeType, const QByteArray &data) const
+{
+    for (const ObjectPlugin *plugin : m_sources) {
+        if (!plugin->dataTypes().contains(mimeType)) {
+            continue;
+        }
+        QString kindId;
+        std::unique_ptr<CBaseObject> object(plugin->createFromData(mimeType, data, kindId));
+        if (object && m_plugins.value(kindId) == plugin) {
+            setKindId(object.get(), kindId);
+            return object.release();
+        }
+    }
+    return nullptr;
+}
+
+QByteArray ObjectRegistry::dataOf(CBaseObject *object, const QString &mimeType) const
+{
+    const ObjectPlugin *plugin = m_plugins.value(kindIdOf(object));
+    return plugin ? plugin->dataOf(object, mimeType) : QByteArray();
 }
 
 QString kindIdOf(const CBaseObject *object)

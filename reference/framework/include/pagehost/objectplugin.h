@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QMap>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVector>
 #include <QtCore/QtPlugin>
 
@@ -38,9 +40,36 @@ public:
     /// The plug-in's texts in a language ("en", "de", ...); empty for a language that it does not have. English
     /// must be there.
     virtual TextTable texts(const QString &language) const = 0;
+
+    /// @name Data of other programs
+    /// What a plug-in need not have: objects made of pasted or dropped data, and the look of its objects for
+    /// others.
+    /// @{
+
+    /// MIME types that createFromData() takes, most wanted first ("image/svg+xml", "image/png").
+    virtual QStringList dataTypes() const { return {}; }
+    /// A new object that shows `data`, in the creating state, owned by the caller; `kindId` becomes its kind, one
+    /// of objectKinds(). A press and a release at one point finish it in the natural size of what it shows. Null
+    /// for data that cannot be read and for types that are not among dataTypes(); never more than one object.
+    virtual CBaseObject *createFromData(const QString &mimeType, const QByteArray &data, QString &kindId) const
+    {
+        Q_UNUSED(mimeType)
+        Q_UNUSED(data)
+        Q_UNUSED(kindId)
+        return nullptr;
+    }
+    /// The look of an object of one of this plug-in's kinds as a complete document of that type, as large as its
+    /// client rectangle (scene units) and without mirroring, place and rotation; empty when it cannot be given.
+    virtual QByteArray dataOf(CBaseObject *object, const QString &mimeType) const
+    {
+        Q_UNUSED(object)
+        Q_UNUSED(mimeType)
+        return {};
+    }
+    /// @}
 };
 
 } // namespace pagehost
 
-#define PAGEHOST_OBJECTPLUGIN_IID "gliololok.pagehost.ObjectPlugin/1"
+#define PAGEHOST_OBJECTPLUGIN_IID "gliololok.pagehost.ObjectPlugin/2"
 Q_DECLARE_INTERFACE(pagehost::ObjectPlugin, PAGEHOST_OBJECTPLUGIN_IID)

@@ -4,6 +4,7 @@
 
 #include <framework/framework_global.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -55,6 +56,16 @@ public:
     /// fails. The caller owns it.
     CBaseObject *createObject(const QString &kindId) const;
 
+    /// MIME types that createFromData() takes: those of the plug-ins in the order in which they were registered,
+    /// each type once.
+    QStringList dataTypes() const;
+    /// A new object in the creating state that shows `data`, tagged with its kind, from the first plug-in that
+    /// makes one; null when none does. The caller owns it.
+    CBaseObject *createFromData(const QString &mimeType, const QByteArray &data) const;
+    /// The look of an object as data of a type (see ObjectPlugin::dataOf()), from the plug-in of its kind; empty
+    /// when that cannot give it or the kind is unknown.
+    QByteArray dataOf(CBaseObject *object, const QString &mimeType) const;
+
 private:
     PluginReport add(ObjectPlugin *plugin, PluginReport report);
     QString kindProblem(const ObjectKind &kind, const TextTable &english) const;
@@ -64,6 +75,7 @@ private:
     Localizer *m_localizer;
     QVector<PluginReport> m_reports;
     QVector<ObjectKind> m_kinds;
+    QVector<ObjectPlugin *> m_sources;        ///< every plug-in in use, in the order of registration
     QHash<QString, ObjectPlugin *> m_plugins; ///< by kind id
 };
 
