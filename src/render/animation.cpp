@@ -11,6 +11,37 @@ namespace {
 
 constexpr int millisecondsPerSecond = 1000;
 
+/// Says, while it lives, that an animator is asking for a repaint. It stands on the stack, since the repaint may
+/// destroy the animator.
+class RepaintRequest
+{
+public:
+    explicit RepaintRequest(const CSVGAnimate *animator)
+        : m_animator(animator)
+        , m_outer(innermost)
+    {
+        innermost = this;
+    }
+    ~RepaintRequest() { innermost = m_outer; }
+    Q_DISABLE_COPY(RepaintRequest)
+
+    static bool isRunning(const CSVGAnimate *animator)
+    {
+        const RepaintRequest *request = innermost;
+        while (request && request->m_animator != animator)
+            request = request->m_outer;
+        return request;
+    }
+
+private:
+    static thread_local const RepaintRequest *innermost;
+
+    const CSVGAnimate *m_animator;
+    const RepaintRequest *m_outer;
+};
+
+thread_local const RepaintRequest *RepaintRequest::innermost = nullptr;
+
 } // namespace
 
 CSVGAnimate::CSVGAnimate(QObject *parent, CSVGBase *shape)
@@ -49,9 +80,13 @@ void CSVGAnimate::stopAnimate()
     m_running = false;
 }
 
-// Repainting may destroy the shape, and this with it: nothing may follow.
+// Repainting may destroy the shape, and this with it: no member may be touched afterwards. Who hears of the repaint
+// may start the animation again, which asks for a frame at once: the one that is being shown will do.
 void CSVGAnimate::doAnimate()
 {
+    if (RepaintRequest::isRunning(this))
+        return;
+    const RepaintRequest request(this);
     m_shape->invalidate();
 }
 

@@ -38,6 +38,9 @@ private Q_SLOTS:
 
     void theHostsSignalIsNeverEmitted();
     void aRunningShapeCanBeDeleted();
+    void aListenerThatStartsAgainGetsOneFrame();
+    void aListenerMayDeleteTheShape();
+    void twoShapesThatStartEachOtherGetOneFrameEach();
 };
 
 namespace {
@@ -290,6 +293,45 @@ void TestAnimation::aRunningShapeCanBeDeleted()
     recording::clear();
     QTest::qWait(80);
     QCOMPARE(frames(), 0);
+}
+
+void TestAnimation::aListenerThatStartsAgainGetsOneFrame()
+{
+    Animated fixture;
+    fixture.object.onNotify = [&](int) { fixture.shape->startAnimate(); };
+    fixture.shape->startAnimate();
+    QCOMPARE(frames(), 1);
+    QVERIFY(fixture.shape->isAnimating());
+    QVERIFY(fixture.timer()->isActive());
+    QTRY_VERIFY(frames() >= 2);
+}
+
+void TestAnimation::aListenerMayDeleteTheShape()
+{
+    Animated fixture;
+    const QPointer<CSVGAnimate> pacemaker = [&] {
+        fixture.shape->startAnimate();
+        return fixture.shape->animator;
+    }();
+    fixture.object.onNotify = [&](int) {
+        delete fixture.object.svgBase;
+        fixture.object.svgBase = nullptr;
+    };
+    pacemaker->doAnimate();
+    QVERIFY(!pacemaker);
+}
+
+void TestAnimation::twoShapesThatStartEachOtherGetOneFrameEach()
+{
+    Animated first;
+    Animated second;
+    first.object.onNotify = [&](int) { second.shape->startAnimate(); };
+    second.object.onNotify = [&](int) { first.shape->startAnimate(); };
+    recording::clear();
+    first.shape->startAnimate();
+    QCOMPARE(frames(), 2);
+    first.shape->startAnimate();
+    QCOMPARE(frames(), 4);
 }
 
 QTEST_MAIN(TestAnimation)

@@ -53,4 +53,11 @@ void TestObject::setFillProp(CPageBgProp *prop, bool record)
     onSetFillProp ? onSetFillProp(prop, record) : CSVGObj::setFillProp(prop, record);
 }
 
+void TestObject::notifyObjPropertyChanged(int id, const QString &value)
+{
+    CSVGObj::notifyObjPropertyChanged(id, value);
+    if (onNotify)
+        onNotify(id);
+}
+
 } // namespace support

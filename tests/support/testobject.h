@@ -31,6 +31,8 @@ public:
     std::function<void(int type, bool flag)> onCreateCore;
     /// Called by setFillProp() after it was logged as "CSVGObj::setFillProp"; empty: the base's behaviour.
     std::function<void(CPageBgProp *prop, bool record)> onSetFillProp;
+    /// Called by notifyObjPropertyChanged() after it was logged, as a listener of the host would be.
+    std::function<void(int id)> onNotify;
 
     using CSVGObj::attributeIds;
     using CSVGObj::baseSize;
@@ -54,6 +56,7 @@ public:
     bool createSVGBase(int type, bool flag) override;
     void OnQPainterDraw(QPainter *painter) override;
     void setFillProp(CPageBgProp *prop, bool record) override;
+    void notifyObjPropertyChanged(int id, const QString &value) override;
 };
 
 } // namespace support
