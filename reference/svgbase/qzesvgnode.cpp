@@ -38,7 +38,11 @@ QZeSvgNode::Type typeOf(ElementKind kind)
         return QZeSvgNode::Tspan;
     case ElementKind::Image:
         return QZeSvgNode::Image;
-    case ElementKind::Animation:
+    case ElementKind::Animate:
+    case ElementKind::AnimateColor:
+    case ElementKind::AnimateMotion:
+    case ElementKind::AnimateTransform:
+    case ElementKind::SetValue:
         return QZeSvgNode::Animation;
     case ElementKind::Group:
     case ElementKind::NestedSvg:

@@ -94,6 +94,7 @@ void Document::structureChanged()
 {
     ++m_revision;
     ++m_referenceRevision;
+    ++m_animationRevision;
     m_changed = true;
 }
 

@@ -21,6 +21,10 @@ public:
     /// Counts every change that could show.
     quint32 revision() const { return m_revision; }
     quint32 referenceRevision() const { return m_referenceRevision; }
+    /// Counts every change that could concern what is animated, and how.
+    quint32 animationRevision() const { return m_animationRevision; }
+    /// Makes the revision one that no drawing up to `last` was made of.
+    void raiseRevision(quint32 last) { m_revision = qMax(m_revision, last) + 1; }
 
     /// The facts of a node as of now; what changed since they were last asked for is resolved first.
     FactsPointer facts(NodeIndex index);
@@ -32,6 +36,8 @@ public:
     QString attribute(NodeIndex index, const QString &name) const;
     void setAttribute(NodeIndex index, const QString &name, const QString &value);
     void setNumericAttribute(NodeIndex index, const QString &name, double value);
+    /// Lays declarations over the style of a node, as animation does; empty text takes them away.
+    void setAnimatedStyle(NodeIndex index, const QString &declarations);
 
     NodeIndex copySubtree(NodeIndex source);
     void discardSubtree(NodeIndex top);
@@ -59,6 +65,7 @@ private:
     QVector<StyleOverridePointer> m_overrides;
     quint32 m_revision = 0;
     quint32 m_referenceRevision = 1;
+    quint32 m_animationRevision = 0;
     /// Whether there was a change since the copy was made, so that facts have to be checked before use.
     bool m_changed = false;
     bool m_settled = false;

@@ -91,6 +91,10 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
 {
     settle();
     m_tree.edit(index).attributes.set(name, value);
+    if (isAnimation(m_tree.node(index).kind) || m_tree.node(index).kind == ElementKind::MotionPath) {
+        ++m_revision;
+        ++m_animationRevision;
+    }
     const AttributeId id = attributeId(name);
     if (id == AttributeId::Unknown)
         return;
@@ -99,6 +103,14 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
         structureChanged();
     }
     dropOverriddenStyle(index, id, value);
+    nodeChanged(index);
+}
+
+void Document::setAnimatedStyle(NodeIndex index, const QString &declarations)
+{
+    settle();
+    m_tree.edit(index).attributes.set(AttributeId::AnimatedStyle, declarations);
+    dropOverriddenStyle(index, AttributeId::Style, declarations);
     nodeChanged(index);
 }
 

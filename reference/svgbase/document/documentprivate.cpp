@@ -154,7 +154,7 @@ bool DocumentPrivate::hasAnimations() const
 {
     const Tree &tree = content.tree();
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
-        if (tree.node(at).kind == ElementKind::Animation)
+        if (isAnimation(tree.node(at).kind))
             return true;
     }
     return false;

@@ -29,14 +29,19 @@ Declarations declarationsOf(const Attributes &attributes)
 {
     Declarations declarations;
     const Attribute *style = nullptr;
+    const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes) {
         if (isProperty(attribute.id))
             declarations.append({attribute.id, attribute.value});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;
+        else if (attribute.id == AttributeId::AnimatedStyle)
+            animated = &attribute;
     }
     if (style)
         appendStyleAttribute(style->value, &declarations);
+    if (animated)
+        appendStyleAttribute(animated->value, &declarations);
     return declarations;
 }
 

@@ -32,6 +32,8 @@ enum class AttributeId : quint8 {
     TextAnchor,
     Visibility,
     // Attributes of elements.
+    /// Declarations that animation lays over the style of an element; no attribute of a text.
+    AnimatedStyle,
     Cx,
     Cy,
     D,

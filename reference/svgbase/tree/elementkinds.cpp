@@ -34,11 +34,12 @@ const KindName kindNames[] = {
     {QLatin1String("switch"), ElementKind::Switch},
     {QLatin1String("a"), ElementKind::Group},
     {QLatin1String("desc"), ElementKind::Description},
-    {QLatin1String("animate"), ElementKind::Animation},
-    {QLatin1String("animateTransform"), ElementKind::Animation},
-    {QLatin1String("animateMotion"), ElementKind::Animation},
-    {QLatin1String("animateColor"), ElementKind::Animation},
-    {QLatin1String("set"), ElementKind::Animation},
+    {QLatin1String("animate"), ElementKind::Animate},
+    {QLatin1String("animateTransform"), ElementKind::AnimateTransform},
+    {QLatin1String("animateMotion"), ElementKind::AnimateMotion},
+    {QLatin1String("animateColor"), ElementKind::AnimateColor},
+    {QLatin1String("set"), ElementKind::SetValue},
+    {QLatin1String("mpath"), ElementKind::MotionPath},
 };
 
 } // namespace
@@ -84,6 +85,11 @@ bool isDrawable(ElementKind kind)
     default:
         return hasGeometry(kind);
     }
+}
+
+bool isAnimation(ElementKind kind)
+{
+    return kind >= ElementKind::Animate && kind <= ElementKind::SetValue;
 }
 
 bool isPaintServerPart(ElementKind kind)

@@ -30,7 +30,14 @@ enum class ElementKind : quint8 {
     LinearGradient,
     RadialGradient,
     Stop,
-    Animation,
+    Animate,
+    AnimateColor,
+    AnimateMotion,
+    AnimateTransform,
+    /// The "set" element.
+    SetValue,
+    /// The "mpath" of an "animateMotion".
+    MotionPath,
     /// "title" and "desc".
     Description,
     /// Everything else; kept, never drawn.
@@ -44,6 +51,8 @@ bool isStructure(ElementKind kind);
 bool isDrawable(ElementKind kind);
 /// Drawable and with a geometry of its own.
 bool hasGeometry(ElementKind kind);
+/// Whether the kind changes an attribute of another element over time.
+bool isAnimation(ElementKind kind);
 /// Whether other elements refer to the kind for their paint.
 bool isPaintServerPart(ElementKind kind);
 
