@@ -2,7 +2,7 @@
 
 #include "document/documentprivate.h"
 #include "grammar/points.h"
-#include "resolve/resolver.h"
+#include "resolve/viewports.h"
 
 using namespace Svg;
 

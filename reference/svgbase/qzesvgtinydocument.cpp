@@ -164,3 +164,8 @@ void QZeSvgTinyDocument::stopAnimate()
 {
     DocumentPrivate::of(this)->animationRunning = false;
 }
+
+void QZeSvgTinyDocument::drawFitted(QPainter *painter, const QRectF &viewport)
+{
+    DocumentPrivate::of(this)->drawFitted(painter, viewport);
+}

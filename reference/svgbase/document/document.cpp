@@ -2,6 +2,7 @@
 
 #include "document/drawingwalk.h"
 #include "resolve/resolver.h"
+#include "resolve/viewports.h"
 
 namespace Svg {
 
@@ -88,6 +89,17 @@ void Document::setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke
     Node &node = m_tree.edit(index);
     node.takesFill = takesFill;
     node.takesStroke = takesStroke;
+}
+
+void Document::setWindow(const QSizeF &size)
+{
+    const QSizeF before = rootViewport(m_tree.node(rootNode), m_tree.window());
+    settle();
+    m_tree.setWindow(size);
+    if (rootViewport(m_tree.node(rootNode), size) == before)
+        return;
+    m_facts[rootNode].reset();
+    structureChanged();
 }
 
 void Document::structureChanged()

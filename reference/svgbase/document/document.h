@@ -33,6 +33,10 @@ public:
     /// Bounds of the visible geometry of a subtree, document units.
     QRectF visibleBounds(NodeIndex top);
 
+    /// Says how large the window is that shows the document, which percentages refer to where the root gives itself
+    /// no size.
+    void setWindow(const QSizeF &size);
+
     QString attribute(NodeIndex index, const QString &name) const;
     void setAttribute(NodeIndex index, const QString &name, const QString &value);
     void setNumericAttribute(NodeIndex index, const QString &name, double value);

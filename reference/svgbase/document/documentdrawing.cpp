@@ -2,6 +2,8 @@
 
 #include "document/documentprivate.h"
 #include "draw/displaylistcache.h"
+#include "grammar/viewboxes.h"
+#include "resolve/viewports.h"
 
 #include <QtGui/QPainter>
 
@@ -65,5 +67,22 @@ void DocumentPrivate::draw(QPainter *painter, const QRectF &target, float scale,
         painter->restore();
     }
     paint(painter, stretch, viewFlag && selectionState == 1);
+    painter->restore();
+}
+
+void DocumentPrivate::drawFitted(QPainter *painter, const QRectF &viewport)
+{
+    if (!painter || !painter->isActive() || !isDrawable(viewport))
+        return;
+    content.setWindow(viewport.size());
+    const Node &root = content.tree().node(rootNode);
+    const QRectF box = shownArea(root, viewport.size());
+    const AspectRatio ratio = parseAspectRatio(root.attributes.value(AttributeId::PreserveAspectRatio));
+    const std::optional<QTransform> fitted = viewBoxTransform(box, viewport, ratio);
+    if (!fitted || !isFinite(*fitted))
+        return;
+    painter->save();
+    painter->setClipRect(viewport, Qt::IntersectClip);
+    paint(painter, *fitted, false);
     painter->restore();
 }

@@ -44,6 +44,7 @@ public:
 
     QRectF settledViewBox();
     void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
+    void drawFitted(QPainter *painter, const QRectF &viewport);
 
     Svg::Document content;
     QZeSvgTinyDocument *publicDocument = nullptr;

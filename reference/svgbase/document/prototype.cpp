@@ -1,6 +1,7 @@
 #include "document/prototype.h"
 
 #include "resolve/resolver.h"
+#include "resolve/viewports.h"
 #include "tree/reader.h"
 
 namespace Svg {

@@ -1,52 +1,17 @@
 #include "resolve/resolver.h"
 
 #include "grammar/transforms.h"
-#include "grammar/viewboxes.h"
 #include "inputlimits.h"
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
+#include "resolve/viewports.h"
 #include "style/cascade.h"
 
 namespace Svg {
 
 namespace {
-
-/// What percentages refer to in a document that gives itself no size.
-constexpr QSizeF defaultViewport(100, 100);
-
-QSizeF rootViewport(const Node &root)
-{
-    const QRectF box = rootViewBox(root);
-    if (!box.isEmpty())
-        return box.size();
-    const LengthReader lengths(root.attributes, {defaultViewport, ComputedStyle().font.size});
-    return QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, defaultViewport.width()),
-                  lengths.size(AttributeId::Height, Axis::Vertical, defaultViewport.height()));
-}
-
-/// Where a nested "svg" or a used "symbol" places its content.
-struct Fit
-{
-    QTransform transform;
-    QSizeF viewport;
-};
-
-Fit nestedFit(const Node &node, const LengthContext &context)
-{
-    const LengthReader lengths(node.attributes, context);
-    const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
-                       lengths.value(AttributeId::Y, Axis::Vertical),
-                       lengths.size(AttributeId::Width, Axis::Horizontal, context.viewport.width()),
-                       lengths.size(AttributeId::Height, Axis::Vertical, context.viewport.height()));
-    const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
-    const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
-    const std::optional<QTransform> fitted = viewBoxTransform(box.value_or(QRectF()), place, ratio);
-    if (fitted)
-        return {*fitted, box->size()};
-    return {QTransform::fromTranslate(place.x(), place.y()), place.size()};
-}
 
 bool isBounded(double entry)
 {
@@ -69,11 +34,6 @@ QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
 }
 
 } // namespace
-
-QRectF rootViewBox(const Node &root)
-{
-    return parseViewBox(root.attributes.value(AttributeId::ViewBox)).value_or(QRectF());
-}
 
 void Resolver::warn(const Node &node, const QString &text) const
 {
@@ -182,7 +142,7 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
     auto *facts = new Facts;
     const FactsPointer result(facts);
     facts->parent = parent;
-    facts->viewport = parent ? parent->viewport : rootViewport(node);
+    facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
     resolveStyle(node, facts);
     resolvePlace(node, facts);
     if (node.kind == ElementKind::Text)

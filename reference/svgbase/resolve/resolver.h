@@ -36,7 +36,4 @@ private:
     Messages *m_messages;
 };
 
-/// The view box that the root element's attributes give; null when they give none.
-QRectF rootViewBox(const Node &root);
-
 } // namespace Svg

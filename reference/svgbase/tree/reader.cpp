@@ -1,6 +1,7 @@
 #include "tree/reader.h"
 
 #include "inputlimits.h"
+#include "tree/gunzip.h"
 #include "tree/tagscanner.h"
 
 #include <QtCore/QXmlStreamReader>
@@ -179,9 +180,7 @@ bool declaresForeignEncoding(const QByteArray &text)
     return declaration.contains("encoding") && !declaration.contains("utf-8");
 }
 
-} // namespace
-
-bool readTree(const QByteArray &text, Tree *tree, Messages *messages)
+bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
 {
     if (text.size() > Limits::textBytes) {
         messages->fail(QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
@@ -200,6 +199,20 @@ bool readTree(const QByteArray &text, Tree *tree, Messages *messages)
     else
         xml.addData(text);
     return TreeReader(xml, tree, messages).read();
+}
+
+} // namespace
+
+bool readTree(const QByteArray &text, Tree *tree, Messages *messages)
+{
+    if (!isGzip(text))
+        return readPlainText(text, tree, messages);
+    const std::optional<QByteArray> plain = gunzip(text, Limits::textBytes);
+    if (plain)
+        return readPlainText(*plain, tree, messages);
+    const QString why = QStringLiteral("The compressed text is damaged or holds more than %1 bytes.");
+    messages->fail(why.arg(Limits::textBytes), 0, 0);
+    return false;
 }
 
 } // namespace Svg

@@ -5,8 +5,8 @@
 
 namespace Svg {
 
-/// Reads SVG text into a tree. False when the text is not well-formed XML with an "svg" root or exceeds a limit;
-/// the last message then says why and where.
+/// Reads SVG text, plain or compressed as gzip, into a tree. False when the text is not well-formed XML with an
+/// "svg" root or exceeds a limit; the last message then says why and where.
 bool readTree(const QByteArray &text, Tree *tree, Messages *messages);
 
 } // namespace Svg

@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QSharedData>
+#include <QtCore/QSizeF>
 
 namespace Svg {
 
@@ -51,6 +52,10 @@ public:
     /// Forgets the contents of an unlinked subtree and keeps its places for later copies.
     void discardSubtree(NodeIndex top);
 
+    /// What percentages of a root refer to that gives itself no size.
+    const QSizeF &window() const { return m_window; }
+    void setWindow(const QSizeF &size) { m_window = size; }
+
     /// The first node in document order with that id; `noNode` when there is none.
     NodeIndex findId(const QString &id) const;
     /// Makes the index of ids now, so that lookups write nothing until the tree changes.
@@ -71,6 +76,7 @@ private:
     void indexIds() const;
 
     QVector<NodePointer> m_nodes;
+    QSizeF m_window{100, 100};
     QVector<NodeIndex> m_free;
     mutable QHash<QString, NodeIndex> m_ids;
     mutable bool m_idsKnown = false;

@@ -94,6 +94,12 @@ public:
     void stopAnimate();
     /// @}
 
+    /// Draws the document as a viewer shows a file: its view box is fitted into `viewport` (painter units) by the
+    /// root's own "preserveAspectRatio", and nothing outside of `viewport` is painted. A root without "viewBox"
+    /// shows the area of its "width" and "height"; where those are absent or percentages, user units are painter
+    /// units. Nothing is drawn when a size is 0 or negative (SVG 1.1 §5.1.2, §7.7).
+    void drawFitted(QPainter *painter, const QRectF &viewport);
+
 private:
     explicit QZeSvgTinyDocument(std::unique_ptr<QZeSvgNodePrivate> record);
     friend class QZeSvgNodePrivate;

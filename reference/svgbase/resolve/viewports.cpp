@@ -1,0 +1,56 @@
+#include "resolve/viewports.h"
+
+#include "grammar/viewboxes.h"
+#include "resolve/geometry.h"
+#include "style/computedstyle.h"
+
+namespace Svg {
+
+namespace {
+
+/// The root's own size; percentages are of the window.
+QSizeF rootSize(const Node &root, const QSizeF &window)
+{
+    const LengthReader lengths(root.attributes, {window, ComputedStyle().font.size});
+    return QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, window.width()),
+                  lengths.size(AttributeId::Height, Axis::Vertical, window.height()));
+}
+
+} // namespace
+
+QRectF rootViewBox(const Node &root)
+{
+    return parseViewBox(root.attributes.value(AttributeId::ViewBox)).value_or(QRectF());
+}
+
+QSizeF rootViewport(const Node &root, const QSizeF &window)
+{
+    const QRectF box = rootViewBox(root);
+    return box.isEmpty() ? rootSize(root, window) : box.size();
+}
+
+QRectF shownArea(const Node &root, const QSizeF &window)
+{
+    const QSizeF size = rootSize(root, window);
+    if (size.isEmpty())
+        return QRectF();
+    const std::optional<QRectF> box = parseViewBox(root.attributes.value(AttributeId::ViewBox));
+    return box.value_or(QRectF(QPointF(), size));
+}
+
+Fit nestedFit(const Node &node, const LengthContext &context)
+{
+    const LengthReader lengths(node.attributes, context);
+    const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
+                       lengths.value(AttributeId::Y, Axis::Vertical),
+                       lengths.size(AttributeId::Width, Axis::Horizontal, context.viewport.width()),
+                       lengths.size(AttributeId::Height, Axis::Vertical, context.viewport.height()));
+    const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
+    const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
+    const std::optional<QTransform> fitted = viewBoxTransform(box.value_or(QRectF()), place, ratio);
+    if (fitted)
+        return {*fitted, box->size()};
+    return {QTransform::fromTranslate(place.x(), place.y()), place.size()};
+}
+
+} // namespace Svg

@@ -1,0 +1,127 @@
+// Runs svgdraw as people do.
+
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtTest>
+
+namespace {
+
+struct Outcome
+{
+    int code = -1;
+    QString errors;
+    QString output;
+};
+
+Outcome svgdraw(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(SVGDRAW), arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        return Outcome();
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError()),
+            QString::fromUtf8(process.readAllStandardOutput())};
+}
+
+} // namespace
+
+class TestSvgdraw : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void drawsIntoAPictureOfExactlyThatSize();
+    void printsMessagesWithTheirPlace();
+    void refusesWhatIsNoSvg();
+    void complainsAboutWrongArguments_data();
+    void complainsAboutWrongArguments();
+    void complainsAboutAFileThatIsNotThere();
+    void helpTellsTheExitCodes();
+
+private:
+    QString written(const QByteArray &text) const;
+    QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_folder;
+};
+
+QString TestSvgdraw::written(const QByteArray &text) const
+{
+    QFile file(path("in.svg"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        return QString();
+    return file.fileName();
+}
+
+void TestSvgdraw::drawsIntoAPictureOfExactlyThatSize()
+{
+    const QString in = written("<svg viewBox='0 0 10 10'><rect width='10' height='10' fill='#0f0'/></svg>");
+    const Outcome outcome = svgdraw({in, path("out.png"), QStringLiteral("40"), QStringLiteral("20")});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.errors, QString());
+    const QImage image(path("out.png"));
+    QCOMPARE(image.size(), QSize(40, 20));
+    QCOMPARE(image.pixelColor(9, 10), QColor(0, 0, 0, 0));
+    QCOMPARE(image.pixelColor(10, 10), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(29, 10), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(30, 10), QColor(0, 0, 0, 0));
+}
+
+void TestSvgdraw::printsMessagesWithTheirPlace()
+{
+    const QString in = written("<svg viewBox='0 0 10 10'>\n<rect width='10' height='10' fill='no colour'/></svg>");
+    const Outcome outcome = svgdraw({in, path("out.png"), QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY2(outcome.errors.startsWith(in + QStringLiteral(":2:")), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(QStringLiteral(": warning: ")), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+}
+
+void TestSvgdraw::refusesWhatIsNoSvg()
+{
+    const QString in = written("<svg><g></svg>");
+    const Outcome outcome = svgdraw({in, path("refused.png"), QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.errors.startsWith(in + QStringLiteral(":1:")), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(QStringLiteral(": error: ")), qPrintable(outcome.errors));
+    QVERIFY(!QFile::exists(path("refused.png")));
+}
+
+void TestSvgdraw::complainsAboutWrongArguments_data()
+{
+    QTest::addColumn<QStringList>("sizes");
+    QTest::newRow("none") << QStringList();
+    QTest::newRow("one") << QStringList{QStringLiteral("10")};
+    QTest::newRow("zero") << QStringList{QStringLiteral("10"), QStringLiteral("0")};
+    QTest::newRow("no number") << QStringList{QStringLiteral("ten"), QStringLiteral("10")};
+    QTest::newRow("too large") << QStringList{QStringLiteral("10"), QStringLiteral("32768")};
+}
+
+void TestSvgdraw::complainsAboutWrongArguments()
+{
+    QFETCH(QStringList, sizes);
+    const QString in = written("<svg/>");
+    const Outcome outcome = svgdraw(QStringList{in, path("wrong.png")} + sizes);
+    QCOMPARE(outcome.code, 1);
+    QVERIFY(!outcome.errors.isEmpty());
+    QVERIFY(!QFile::exists(path("wrong.png")));
+}
+
+void TestSvgdraw::complainsAboutAFileThatIsNotThere()
+{
+    const Outcome outcome =
+        svgdraw({path("absent.svg"), path("out.png"), QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.errors.contains(QStringLiteral("absent.svg")), qPrintable(outcome.errors));
+}
+
+void TestSvgdraw::helpTellsTheExitCodes()
+{
+    const Outcome outcome = svgdraw({QStringLiteral("--help")});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY(outcome.output.contains(QStringLiteral("2 the file was refused")));
+}
+
+QTEST_MAIN(TestSvgdraw)
+#include "test_svgdraw.moc"

@@ -1,0 +1,123 @@
+// Draws an SVG file into a PNG file, as people and tests want to see it.
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QFile>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+enum ExitCode {
+    Drawn = 0,
+    /// Wrong arguments, or a file that can't be read or written.
+    NotAsked = 1,
+    Refused = 2
+};
+
+constexpr int longestSide = 32767;
+
+using Messages = QVector<QZeSvgTinyDocument::Message>;
+
+struct Request
+{
+    QString input;
+    QString output;
+    QSize size;
+};
+
+// Only messages about the document are of interest, not what Qt notices about its surroundings.
+void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        fprintf(stderr, "svgdraw: %s\n", qPrintable(text));
+}
+
+int complain(const QString &text)
+{
+    fprintf(stderr, "svgdraw: %s\n", qPrintable(text));
+    return NotAsked;
+}
+
+void print(const QString &file, const Messages &messages)
+{
+    for (const QZeSvgTinyDocument::Message &message : messages) {
+        const bool error = message.severity == QZeSvgTinyDocument::Message::Error;
+        fprintf(stderr, "%s:%lld:%lld: %s: %s\n", qPrintable(file), message.line, message.column,
+                error ? "error" : "warning", qPrintable(message.text));
+    }
+}
+
+QImage picture(QZeSvgTinyDocument &document, const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    document.drawFitted(&painter, image.rect());
+    return image;
+}
+
+int drawFile(const Request &request)
+{
+    QFile file(request.input);
+    if (!file.open(QIODevice::ReadOnly))
+        return complain(QStringLiteral("%1: %2").arg(request.input, file.errorString()));
+    Messages messages;
+    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(file.readAll(), &messages));
+    print(request.input, messages);
+    if (!document)
+        return Refused;
+    if (!picture(*document, request.size).save(request.output, "PNG"))
+        return complain(QStringLiteral("%1 can't be written.").arg(request.output));
+    return Drawn;
+}
+
+int side(const QString &text)
+{
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    return ok && value <= longestSide ? value : 0;
+}
+
+void describe(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(QStringLiteral(
+        "Draws an SVG file (plain or gzip), fitted by its own preserveAspectRatio, into a transparent "
+        "PNG of the given size.\n\nMessages go to the standard error output, one per line, as "
+        "file:line:column: severity: text.\n\nExit code: 0 drawn, 2 the file was refused, 1 wrong "
+        "arguments or a file that can't be read or written."));
+    parser->addHelpOption();
+    parser->addPositionalArgument(QStringLiteral("in.svg"), QStringLiteral("The file to draw."));
+    parser->addPositionalArgument(QStringLiteral("out.png"), QStringLiteral("The picture to write."));
+    parser->addPositionalArgument(QStringLiteral("WIDTH"), QStringLiteral("Width of the picture, pixels."));
+    parser->addPositionalArgument(QStringLiteral("HEIGHT"), QStringLiteral("Height of the picture, pixels."));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Pictures need fonts but no display.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(keepQuiet);
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser parser;
+    describe(&parser);
+    if (!parser.parse(application.arguments()))
+        return complain(parser.errorText());
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp(Drawn);
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() != 4)
+        return complain(QStringLiteral("Four arguments are needed; --help tells which."));
+    const QSize size(side(arguments.at(2)), side(arguments.at(3)));
+    if (size.width() < 1 || size.height() < 1)
+        return complain(QStringLiteral("Width and height are whole numbers from 1 to %1.").arg(longestSide));
+    return drawFile({arguments.at(0), arguments.at(1), size});
+}
