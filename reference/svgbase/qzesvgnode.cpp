@@ -2,7 +2,6 @@
 
 #include "document/documentprivate.h"
 #include "grammar/points.h"
-#include "resolve/viewports.h"
 
 using namespace Svg;
 
@@ -145,7 +144,7 @@ void QZeSvgNode::setAttribute(const QString &name, const QString &value)
         return;
     d->document->content.setAttribute(d->index, name, value);
     if (d->index == rootNode && name == QLatin1String("viewBox"))
-        d->document->viewBox = rootViewBox(d->document->content.tree().node(rootNode));
+        d->document->readViewBox();
 }
 
 void QZeSvgNode::setNumericAttribute(const QString &name, double value)

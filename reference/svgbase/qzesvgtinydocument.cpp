@@ -2,6 +2,7 @@
 
 #include "document/documentprivate.h"
 #include "document/prototypecache.h"
+#include "document/writer.h"
 
 using namespace Svg;
 
@@ -47,7 +48,9 @@ QRectF QZeSvgTinyDocument::viewBox() const
 
 void QZeSvgTinyDocument::setViewBox(const QRectF &box)
 {
-    DocumentPrivate::of(this)->viewBox = box;
+    DocumentPrivate *record = DocumentPrivate::of(this);
+    record->viewBox = box;
+    record->viewBoxMeasured = false;
 }
 
 void QZeSvgTinyDocument::setCallback(const std::function<void(QPainter *)> &callback)
@@ -168,4 +171,9 @@ void QZeSvgTinyDocument::stopAnimate()
 void QZeSvgTinyDocument::drawFitted(QPainter *painter, const QRectF &viewport)
 {
     DocumentPrivate::of(this)->drawFitted(painter, viewport);
+}
+
+QByteArray QZeSvgTinyDocument::toSvg() const
+{
+    return documentText(*DocumentPrivate::of(this));
 }

@@ -2,6 +2,7 @@
 
 #include "draw/controlpoints.h"
 #include "draw/displaylistcache.h"
+#include "resolve/viewports.h"
 
 using namespace Svg;
 
@@ -16,6 +17,7 @@ DocumentPrivate::DocumentPrivate(const DocumentPrivate &other)
     : QZeSvgNodePrivate(this, rootNode)
     , content(other.content)
     , viewBox(other.viewBox)
+    , viewBoxMeasured(other.viewBoxMeasured)
     , callback(other.callback)
     , lastSet(other.lastSet)
 {
@@ -169,9 +171,17 @@ Outline DocumentPrivate::drawnOutline(NodeIndex index)
     return override ? overridden(facts->outlines.first(), facts->style, *override) : facts->outlines.first();
 }
 
+void DocumentPrivate::readViewBox()
+{
+    viewBox = rootViewBox(content.tree().node(rootNode));
+    viewBoxMeasured = false;
+}
+
 QRectF DocumentPrivate::settledViewBox()
 {
-    if (viewBox.isNull())
+    if (viewBox.isNull()) {
         viewBox = content.visibleBounds(rootNode);
+        viewBoxMeasured = true;
+    }
     return viewBox;
 }

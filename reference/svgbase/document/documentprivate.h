@@ -43,12 +43,16 @@ public:
     Svg::Outline drawnOutline(Svg::NodeIndex index);
 
     QRectF settledViewBox();
+    /// Takes the view box from the root's attributes.
+    void readViewBox();
     void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
     void drawFitted(QPainter *painter, const QRectF &viewport);
 
     Svg::Document content;
     QZeSvgTinyDocument *publicDocument = nullptr;
     QRectF viewBox;
+    /// Whether the view box is the bounds of what is drawn, for want of another.
+    bool viewBoxMeasured = false;
     std::function<void(QPainter *)> callback;
     /// Document-wide values as last set.
     Svg::StyleOverride lastSet;

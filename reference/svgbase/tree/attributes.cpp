@@ -114,6 +114,15 @@ AttributeId attributeId(QStringView name)
     return table.find(name);
 }
 
+QLatin1String attributeName(AttributeId id)
+{
+    for (const AttributeName &known : attributeNames) {
+        if (known.id == id)
+            return known.name;
+    }
+    return QLatin1String();
+}
+
 const Attribute *Attributes::find(AttributeId id) const
 {
     for (const Attribute &attribute : m_list) {
@@ -146,23 +155,26 @@ QString Attributes::value(const QString &name) const
     return attribute ? attribute->value : QString();
 }
 
+void Attributes::change(const Attribute *known, const Attribute &wanted)
+{
+    const int place = known ? int(known - m_list.constData()) : -1;
+    if (known && wanted.value.isNull())
+        m_list.remove(place);
+    else if (known)
+        m_list[place].value = wanted.value;
+    else if (!wanted.value.isNull())
+        m_list.append(wanted);
+}
+
 void Attributes::set(const QString &name, const QString &value)
 {
     const AttributeId id = attributeId(name);
-    const Attribute *known = find(id, name);
-    if (known)
-        m_list[int(known - m_list.constData())].value = value;
-    else
-        m_list.append({id, id == AttributeId::Unknown ? name : QString(), value});
+    change(find(id, name), {id, id == AttributeId::Unknown ? name : QString(), value});
 }
 
 void Attributes::set(AttributeId id, const QString &value)
 {
-    const Attribute *known = find(id);
-    if (known)
-        m_list[int(known - m_list.constData())].value = value;
-    else
-        m_list.append({id, QString(), value});
+    change(find(id), {id, QString(), value});
 }
 
 } // namespace Svg

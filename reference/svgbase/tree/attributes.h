@@ -78,6 +78,8 @@ inline bool isProperty(AttributeId id)
 }
 
 AttributeId attributeId(QStringView name);
+/// The name of an attribute; empty for `Unknown` and for what is no attribute of a text.
+QLatin1String attributeName(AttributeId id);
 
 /// An attribute as its template or a later write gives it.
 struct Attribute
@@ -96,6 +98,7 @@ public:
     QString value(AttributeId id) const;
     QString value(const QString &name) const;
     bool contains(AttributeId id) const { return find(id) != nullptr; }
+    /// A null value takes the attribute away.
     void set(const QString &name, const QString &value);
     void set(AttributeId id, const QString &value);
     /// Appends without looking for an attribute of that name.
@@ -106,6 +109,7 @@ public:
     QVector<Attribute>::const_iterator end() const { return m_list.constEnd(); }
 
 private:
+    void change(const Attribute *known, const Attribute &wanted);
     const Attribute *find(AttributeId id) const;
     const Attribute *find(AttributeId id, const QString &name) const;
 

@@ -34,6 +34,7 @@ const KindName kindNames[] = {
     {QLatin1String("switch"), ElementKind::Switch},
     {QLatin1String("a"), ElementKind::Group},
     {QLatin1String("desc"), ElementKind::Description},
+    {QLatin1String("style"), ElementKind::Style},
     {QLatin1String("animate"), ElementKind::Animate},
     {QLatin1String("animateTransform"), ElementKind::AnimateTransform},
     {QLatin1String("animateMotion"), ElementKind::AnimateMotion},
@@ -51,6 +52,16 @@ ElementKind elementKind(QStringView localName)
             return known.kind;
     }
     return ElementKind::Other;
+}
+
+QLatin1String elementName(ElementKind kind)
+{
+    const ElementKind named = kind == ElementKind::Document ? ElementKind::NestedSvg : kind;
+    for (const KindName &known : kindNames) {
+        if (named == known.kind)
+            return known.name;
+    }
+    return QLatin1String();
 }
 
 bool isStructure(ElementKind kind)

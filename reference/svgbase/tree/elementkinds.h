@@ -40,11 +40,15 @@ enum class ElementKind : quint8 {
     MotionPath,
     /// "title" and "desc".
     Description,
+    /// A style sheet.
+    Style,
     /// Everything else; kept, never drawn.
     Other
 };
 
 ElementKind elementKind(QStringView localName);
+/// The name of the kind's elements; of the first where it has several, empty for `Characters` and `Other`.
+QLatin1String elementName(ElementKind kind);
 /// Whether the kind holds children as a structure node does.
 bool isStructure(ElementKind kind);
 /// Whether the kind is drawn where it stands.

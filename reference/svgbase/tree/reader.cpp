@@ -32,6 +32,7 @@ private:
     void characters();
     ElementKind kindOfElement() const;
     void readAttributes(Attributes *attributes) const;
+    void readDeclarations(Attributes *attributes) const;
     void countNamespaces();
     NodeIndex add(Node &node);
 
@@ -65,6 +66,17 @@ void TreeReader::readAttributes(Attributes *attributes) const
         const AttributeId id = idOf(attribute);
         const QString name = id == AttributeId::Unknown ? attribute.qualifiedName().toString() : QString();
         attributes->append({id, name, attribute.value().toString()});
+    }
+}
+
+// Kept so that the document can be written back.
+void TreeReader::readDeclarations(Attributes *attributes) const
+{
+    const QXmlStreamNamespaceDeclarations declarations = m_xml.namespaceDeclarations();
+    for (const QXmlStreamNamespaceDeclaration &declaration : declarations) {
+        const QString colon = declaration.prefix().isEmpty() ? QString() : QStringLiteral(":");
+        const QString name = QLatin1String("xmlns") + colon + declaration.prefix().toString();
+        attributes->append({AttributeId::Unknown, name, declaration.namespaceUri().toString()});
     }
 }
 
@@ -103,7 +115,10 @@ void TreeReader::startElement()
         m_xml.raiseError(QStringLiteral("The root element is not \"svg\"."));
         return;
     }
+    if (m_xml.qualifiedName() != elementName(node.kind))
+        node.name = m_xml.qualifiedName().toString();
     readAttributes(&node.attributes);
+    readDeclarations(&node.attributes);
     m_open.append(add(node));
     countNamespaces();
     if (m_open.size() > Limits::depth)
@@ -127,7 +142,7 @@ void TreeReader::characters()
         return;
     const NodeIndex holder = m_open.constLast();
     const ElementKind kind = m_tree->node(holder).kind;
-    if (kind == ElementKind::Description) {
+    if (kind == ElementKind::Description || kind == ElementKind::Style) {
         m_tree->edit(holder).text += m_xml.text();
     } else if (kind == ElementKind::Text || kind == ElementKind::Tspan) {
         Node node;

@@ -2,6 +2,17 @@
 
 namespace Svg {
 
+QString qualifiedName(const Node &node)
+{
+    return node.name.isEmpty() ? QString(elementName(node.kind)) : node.name;
+}
+
+QString localName(const Node &node)
+{
+    const QString name = qualifiedName(node);
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
 NodeIndex Tree::place(const NodePointer &node)
 {
     if (m_free.isEmpty()) {

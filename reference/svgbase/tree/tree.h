@@ -31,9 +31,16 @@ struct Node : QSharedData
     int line = 0;
     int column = 0;
     Attributes attributes;
-    /// Characters of `Characters` and `Description` nodes.
+    /// Characters of `Characters`, `Description` and `Style` nodes.
     QString text;
+    /// As the text has it, prefix included, where that is not the name of the kind.
+    QString name;
 };
+
+/// The name of an element as its text has it; empty for `Characters`.
+QString qualifiedName(const Node &node);
+/// The same without its prefix.
+QString localName(const Node &node);
 
 /// The elements of a document, linked by index. Copies share their nodes until one of them is edited.
 class Tree

@@ -73,7 +73,8 @@ public:
     /// when the node does not have it.
     QString attribute(const QString &name) const;
     /// Sets an attribute from text, with the same effect as if the template had said so. Text that the attribute's
-    /// grammar does not accept is kept as text and has the effect that the same text has in a template.
+    /// grammar does not accept is kept as text and has the effect that the same text has in a template. A null
+    /// string takes the attribute away.
     void setAttribute(const QString &name, const QString &value);
     /// Sets one of "x", "y", "width", "height", "rx", "ry" (and any other numeric attribute) in the node's own user
     /// units. For a circle or an ellipse "x" and "y" are the corner of its bounding box, "width", "height", "rx"

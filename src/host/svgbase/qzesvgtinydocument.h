@@ -99,6 +99,10 @@ public:
     /// shows the area of its "width" and "height"; where those are absent or percentages, user units are painter
     /// units. Nothing is drawn when a size is 0 or negative (SVG 1.1 §5.1.2, §7.7).
     void drawFitted(QPainter *painter, const QRectF &viewport);
+    /// The document as UTF-8 text that draws the same: attributes as last set, document-wide styling as "style"
+    /// attributes, the view box as last set. Comments, scripts and text that is never drawn are not written;
+    /// control points are, under their ids. A brush that SVG has no paint for is written as its colour.
+    QByteArray toSvg() const;
 
 private:
     explicit QZeSvgTinyDocument(std::unique_ptr<QZeSvgNodePrivate> record);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "document/styleoverride.h"
+#include "tree/tree.h"
+
+#include <QtGui/QGradient>
+
+namespace Svg {
+
+class XmlText;
+
+/// Gradients that document-wide styling brought in and that a written document has to define.
+class PaintDefinitions
+{
+public:
+    /// The tree says which ids are taken.
+    explicit PaintDefinitions(const Tree &tree)
+        : m_tree(tree)
+    {
+    }
+
+    /// The value of a "fill" or "stroke" that paints with the brush.
+    QString paintText(const QBrush &brush);
+    /// Writes what was referred to.
+    void write(XmlText *xml) const;
+
+private:
+    struct Definition
+    {
+        QString id;
+        QBrush brush;
+    };
+
+    QString referenceTo(const QBrush &brush);
+    QString freshId();
+
+    const Tree &m_tree;
+    QVector<Definition> m_definitions;
+    int m_lastNumber = 0;
+};
+
+/// What document-wide styling put over a node of the given style, as declarations that win over all others.
+QString overrideText(const StyleOverride &override, const ComputedStyle &style, PaintDefinitions *paints);
+
+} // namespace Svg
