@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file may be, and that
+"""Holds the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be, and that
 no file names a directory of somebody's machine. Prints every breach and exits with 1 when there is one.
 
 Usage: check_rules.py [ROOT]
@@ -10,6 +10,8 @@ import re
 import sys
 
 LONGEST_FILE = 700
+LONGEST_SHAPE = 40  # lines of C++ of one shape that are not blank
+SHAPE_SOURCE = re.compile(r"^shapes/(?!kit/)([^/]+)/[^/]+\.(h|cpp)$")
 SKIPPED_DIRECTORIES = {".git", ".cache", "build", "pages"}
 TEXT_SUFFIXES = (".h", ".cpp", ".py", ".sh", ".md", ".txt", ".cmake", ".svg", ".qrc", ".json", ".in", ".ui", ".html")
 EXTENSIONLESS_TEXT = {"run", "test"}
@@ -103,6 +105,12 @@ def length_breaches(path, lines):
         yield f"{path}: {len(lines)} lines, more than {LONGEST_FILE}"
 
 
+def shape_breaches(lines_of_shapes):
+    for shape, count in sorted(lines_of_shapes.items()):
+        if count > LONGEST_SHAPE:
+            yield f"shapes/{shape}: {count} lines of C++, more than {LONGEST_SHAPE}"
+
+
 def path_breaches(path, lines):
     for number, line in enumerate(lines, 1):
         match = MACHINE_PATH.search(line)
@@ -111,12 +119,18 @@ def path_breaches(path, lines):
 
 
 def breaches(root):
+    lines_of_shapes = {}
     for path in text_files(root):
         with open(os.path.join(root, path), encoding="utf-8", errors="replace") as file:
             lines = file.read().splitlines()
         yield from include_breaches(root, path, lines)
         yield from length_breaches(path, lines)
         yield from path_breaches(path, lines)
+        shape = SHAPE_SOURCE.match(path)
+        if shape:
+            written = sum(1 for line in lines if line.strip())
+            lines_of_shapes[shape.group(1)] = lines_of_shapes.get(shape.group(1), 0) + written
+    yield from shape_breaches(lines_of_shapes)
 
 
 def main():

@@ -35,10 +35,15 @@ private:
     QColor m_before;
 };
 
+QSizeF roomOf(const QSizeF &picture)
+{
+    return picture - QSizeF(2 * pictureMargin, 2 * pictureMargin);
+}
+
 /// Maps the object's client rectangle into the middle of the picture.
 void fit(QPainter &painter, const QRectF &client, const QSizeF &picture)
 {
-    const QSizeF room(picture.width() - 2 * pictureMargin, picture.height() - 2 * pictureMargin);
+    const QSizeF room = roomOf(picture);
     const double scale = qMin(room.width() / client.width(), room.height() / client.height());
     painter.translate(picture.width() / 2, picture.height() / 2);
     painter.scale(scale, scale);
@@ -55,6 +60,8 @@ QPixmap pictureOfKind(const pagehost::ObjectRegistry &registry, const QString &k
     CBaseObject *object = makeObject(&page, registry, kindId, QPointF(0, 0));
     if (!object || object->getClientRect().isEmpty())
         return {};
+    // As large as its picture, where it may be that small, so that its lines are not scaled down with it.
+    object->setSize(object->getClientRect().size().scaled(roomOf(size), Qt::KeepAspectRatio), false, true);
     QPixmap picture(size * pixelRatio);
     picture.setDevicePixelRatio(pixelRatio);
     picture.fill(Qt::transparent);

@@ -1,106 +1,46 @@
-#include <blockarrow/blockarrow.h>
+#include <kit/shape.h>
 
-#include <kit/pathtext.h>
-#include <kit/templatetext.h>
+using namespace shapekit;
 
-#include <svgbase/qzesvgnode.h>
-
-#include <algorithm>
-
-namespace {
-
-// Document units.
-constexpr double shortestHead = 8;
-/// Between the notch and the head; less would put one control point upon the other.
-constexpr double shortestShaft = 20;
-constexpr double thinnestHalf = 6;
-/// From the corner of shaft and head down to its control point, which is thus always inside.
-constexpr double headHandleDrop = 6;
-/// From the notch to its control point.
-constexpr double notchHandleShift = 8;
-constexpr QSizeF smallestSize(32, 24);
-
-} // namespace
-
-QString BlockArrow::getSVG()
+/// A thick arrow to the right. One control point sets the length of the head and the thickness of the shaft, the
+/// other the depth of a notch in its tail; each leaves the other its room.
+class BlockArrow : public Shape
 {
-    return shapekit::templateText(QStringLiteral(":/gliololok/blockarrow/template.svg"));
-}
-
-QSizeF BlockArrow::getMinimizeSize()
-{
-    return smallestSize;
-}
-
-QPointF BlockArrow::controlPointCentre(int index)
-{
-    if (index == Head)
-        return {headStart(), middle() - shaftHalf() + headHandleDrop};
-    return {notchDepth() + notchHandleShift, middle()};
-}
-
-void BlockArrow::takeControlPoint(int index, QPointF centre)
-{
-    if (index == Head) {
-        m_head = (size().width() - centre.x()) / shorterSide();
-        m_shaft = (middle() + headHandleDrop - centre.y()) / size().height();
-        return;
+public:
+    explicit BlockArrow(CSVGObj *owner)
+        : Shape(owner, 5)
+    {
+        smallestSize = {32, 24};
     }
-    m_notch = (centre.x() - notchHandleShift) / shorterSide();
-}
 
-QRectF BlockArrow::controlPointRange(int index)
-{
-    if (index == Head)
-        return QRectF(QPointF(notchDepth() + shortestShaft, headHandleDrop),
-                      QPointF(size().width() - shortestHead, middle() - thinnestHalf + headHandleDrop));
-    return QRectF(QPointF(notchHandleShift, middle()),
-                  QPointF(headStart() - shortestShaft + notchHandleShift, middle()));
-}
+protected:
+    QRectF range(int number) override
+    {
+        if (number == 1)
+            return between({notch() + shortestShaft, handleDrop}, {width() - 8, middle().y() - 6 + handleDrop});
+        return between({handleShift, middle().y()}, {point(1).x() - shortestShaft + handleShift, middle().y()});
+    }
+    void draw() override
+    {
+        const QRectF box = frame();
+        const double head = point(1).x();
+        const double top = std::max(point(1).y() - handleDrop, box.top());
+        const double bottom = height() - top;
+        setPath("figure", PathText().polygon({{box.left(), top},
+                                              {head, top},
+                                              {head, box.top()},
+                                              {box.right(), middle().y()},
+                                              {head, box.bottom()},
+                                              {head, bottom},
+                                              {box.left(), bottom},
+                                              {std::max(notch(), box.left()), middle().y()}}));
+    }
 
-void BlockArrow::writeFigure()
-{
-    const double left = inset();
-    const double top = inset();
-    const double right = size().width() - inset();
-    const double bottom = size().height() - inset();
-    const double half = std::min(shaftHalf(), middle() - inset());
-    shapekit::PathText path;
-    path.moveTo({left, middle() - half})
-        .lineTo({headStart(), middle() - half})
-        .lineTo({headStart(), top})
-        .lineTo({right, middle()})
-        .lineTo({headStart(), bottom})
-        .lineTo({headStart(), middle() + half})
-        .lineTo({left, middle() + half})
-        .lineTo({std::max(left, notchDepth()), middle()})
-        .close();
-    figure()->setAttribute(QStringLiteral("d"), path.text());
-}
+private:
+    double notch() const { return point(2).x() - handleShift; }
 
-double BlockArrow::notchDepth() const
-{
-    const double room = size().width() - shortestShaft - shortestHead;
-    return std::clamp(m_notch * shorterSide(), 0.0, std::max(0.0, room));
-}
+    /// From the corner of shaft and head, and from the notch, to the control point, which is thus always inside.
+    static constexpr double handleDrop = 6, handleShift = 8, shortestShaft = 20;
+};
 
-double BlockArrow::headLength() const
-{
-    const double room = size().width() - notchDepth() - shortestShaft;
-    return std::clamp(m_head * shorterSide(), shortestHead, std::max(shortestHead, room));
-}
-
-double BlockArrow::headStart() const
-{
-    return size().width() - headLength();
-}
-
-double BlockArrow::shaftHalf() const
-{
-    return std::clamp(m_shaft * size().height(), thinnestHalf, std::max(thinnestHalf, middle()));
-}
-
-double BlockArrow::middle() const
-{
-    return size().height() / 2;
-}
+SHAPEKIT_PLUGIN(BlockArrow, "Block arrow", "Blockpfeil", Basic)

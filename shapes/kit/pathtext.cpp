@@ -1,11 +1,29 @@
 #include <kit/pathtext.h>
 
+#include <QtGui/QFont>
+#include <QtGui/QPainterPath>
+
+#include <algorithm>
+
 namespace shapekit {
 
 namespace {
 
 /// Enough for a thousandth of a pixel on the largest page, short enough to read.
 constexpr int numberDigits = 10;
+/// Letters are laid out at this size and then brought to theirs, so that hinting doesn't show.
+constexpr int layoutPixels = 100;
+/// The height of digits as a part of the size of their font.
+constexpr double digitPart = 0.72;
+
+QPainterPath lettersOf(const QString &text)
+{
+    QFont font(QStringLiteral("sans-serif"));
+    font.setPixelSize(layoutPixels);
+    QPainterPath letters;
+    letters.addText(0, 0, font, text);
+    return letters;
+}
 
 } // namespace
 
@@ -31,20 +49,99 @@ PathText &PathText::curveTo(QPointF control, QPointF end)
     return *this;
 }
 
-PathText &PathText::quarterCircleTo(double radius, QPointF end)
+PathText &PathText::curveTo(QPointF control1, QPointF control2, QPointF end)
 {
-    if (radius <= 0)
-        return lineTo(end);
-    append('A');
-    append(QPointF(radius, radius));
-    m_text += QStringLiteral("0 0 1 ");
+    append('C');
+    append(control1);
+    append(control2);
     append(end);
     return *this;
+}
+
+PathText &PathText::arcTo(QSizeF radii, QPointF end, bool clockwise, bool large)
+{
+    if (radii.width() <= 0 || radii.height() <= 0)
+        return lineTo(end);
+    append('A');
+    append(QPointF(radii.width(), radii.height()));
+    m_text += QStringLiteral("0 %1 %2 ").arg(int(large)).arg(int(clockwise));
+    append(end);
+    return *this;
+}
+
+PathText &PathText::arcTo(double radius, QPointF end, bool clockwise, bool large)
+{
+    return arcTo(QSizeF(radius, radius), end, clockwise, large);
 }
 
 PathText &PathText::close()
 {
     append('Z');
+    return *this;
+}
+
+PathText &PathText::line(QPointF from, QPointF to)
+{
+    return moveTo(from).lineTo(to);
+}
+
+PathText &PathText::polygon(std::initializer_list<QPointF> corners)
+{
+    bool isFirst = true;
+    for (const QPointF &corner : corners) {
+        isFirst ? moveTo(corner) : lineTo(corner);
+        isFirst = false;
+    }
+    return close();
+}
+
+PathText &PathText::ellipse(const QRectF &box)
+{
+    const QPointF left(box.left(), box.center().y());
+    const QPointF right(box.right(), box.center().y());
+    return moveTo(left).arcTo(box.size() / 2, right).arcTo(box.size() / 2, left).close();
+}
+
+PathText &PathText::roundedRectangle(const QRectF &box, double radius)
+{
+    const double bend = std::max(0.0, radius);
+    const double left = box.left();
+    const double top = box.top();
+    const double right = box.right();
+    const double bottom = box.bottom();
+    return moveTo({left + bend, top})
+        .lineTo({right - bend, top})
+        .arcTo(bend, {right, top + bend})
+        .lineTo({right, bottom - bend})
+        .arcTo(bend, {right - bend, bottom})
+        .lineTo({left + bend, bottom})
+        .arcTo(bend, {left, bottom - bend})
+        .lineTo({left, top + bend})
+        .arcTo(bend, {left + bend, top})
+        .close();
+}
+
+PathText &PathText::text(QPointF centre, const QString &text, double height)
+{
+    const QPainterPath letters = lettersOf(text);
+    const double scale = height / (layoutPixels * digitPart);
+    const QPointF middle(letters.boundingRect().center().x(), -layoutPixels * digitPart / 2);
+    const auto placed = [&](int i) { return centre + (QPointF(letters.elementAt(i)) - middle) * scale; };
+    for (int i = 0; i < letters.elementCount(); ++i) {
+        switch (letters.elementAt(i).type) {
+        case QPainterPath::MoveToElement:
+            moveTo(placed(i));
+            break;
+        case QPainterPath::LineToElement:
+            lineTo(placed(i));
+            break;
+        case QPainterPath::CurveToElement:
+            curveTo(placed(i), placed(i + 1), placed(i + 2));
+            break;
+        case QPainterPath::CurveToDataElement:
+            break;
+        }
+    }
     return *this;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QtCore/QPointF>
+#include <QtCore/QRectF>
 #include <QtCore/QString>
+
+#include <initializer_list>
 
 namespace shapekit {
 
@@ -13,9 +16,22 @@ public:
     PathText &lineTo(QPointF point);
     /// A quadratic curve to `end`.
     PathText &curveTo(QPointF control, QPointF end);
-    /// A clockwise quarter circle to `end`; a straight line for a radius of 0 or less.
-    PathText &quarterCircleTo(double radius, QPointF end);
+    /// A cubic curve to `end`.
+    PathText &curveTo(QPointF control1, QPointF control2, QPointF end);
+    /// An arc of a circle or of an ellipse whose axes lie along x and y; a straight line for a radius of 0 or less.
+    PathText &arcTo(QSizeF radii, QPointF end, bool clockwise = true, bool large = false);
+    PathText &arcTo(double radius, QPointF end, bool clockwise = true, bool large = false);
     PathText &close();
+
+    /// @name Whole figures
+    /// @{
+    PathText &line(QPointF from, QPointF to);
+    PathText &polygon(std::initializer_list<QPointF> corners);
+    PathText &ellipse(const QRectF &box);
+    PathText &roundedRectangle(const QRectF &box, double radius);
+    /// The outlines of letters of that height, centred on a point.
+    PathText &text(QPointF centre, const QString &text, double height);
+    /// @}
 
     QString text() const { return m_text; }
 

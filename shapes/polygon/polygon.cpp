@@ -1,61 +1,26 @@
-#include <polygon/polygon.h>
+#include <kit/shape.h>
 
-#include <kit/templatetext.h>
+using namespace shapekit;
 
-#include <svgbase/qzesvgnode.h>
-
-#include <algorithm>
-
-namespace {
-
-/// Between a corner and the frame, document units: half of the widest pen, so that it is never cut off.
-constexpr double cornerMargin = 4;
-/// A damaged file may hold a smaller polygon than can be drawn.
-constexpr QSizeF smallestRoom(1, 1);
-constexpr int numberDigits = 10;
-
-double within(double value, double low, double high)
+/// A closed figure of straight lines whose corners are its control points: as many as the template has, or as a
+/// saved polygon brings along.
+class Polygon : public Shape
 {
-    return std::max(low, std::min(value, high));
-}
-
-} // namespace
-
-QString Polygon::getSVG()
-{
-    return shapekit::templateText(QStringLiteral(":/gliololok/polygon/template.svg"));
-}
-
-QPointF Polygon::controlPointCentre(int index)
-{
-    const QPointF corner = m_corners.value(index);
-    const QRectF range = controlPointRange(index);
-    return {within(range.left() + corner.x() * range.width(), range.left(), range.right()),
-            within(range.top() + corner.y() * range.height(), range.top(), range.bottom())};
-}
-
-void Polygon::takeControlPoint(int index, QPointF centre)
-{
-    if (m_corners.size() <= index)
-        m_corners.resize(index + 1);
-    const QRectF range = controlPointRange(index);
-    m_corners[index] =
-        QPointF((centre.x() - range.left()) / range.width(), (centre.y() - range.top()) / range.height());
-}
-
-QRectF Polygon::controlPointRange(int)
-{
-    const QSizeF room = size() - QSizeF(2 * cornerMargin, 2 * cornerMargin);
-    return QRectF(QPointF(cornerMargin, cornerMargin), room.expandedTo(smallestRoom));
-}
-
-void Polygon::writeFigure()
-{
-    QString points;
-    for (int i = 0; i < pointCount(); ++i) {
-        const QPointF corner = controlPointCentre(i);
-        points +=
-            QStringLiteral("%1,%2 ").arg(corner.x(), 0, 'g', numberDigits).arg(corner.y(), 0, 'g', numberDigits);
+public:
+    explicit Polygon(CSVGObj *owner)
+        : Shape(owner, 9)
+    {
     }
-    figure()->setAttribute(QStringLiteral("points"), points.trimmed());
-}
+
+protected:
+    void draw() override
+    {
+        QString corners;
+        for (int number = 1; number <= pointCount(); ++number)
+            corners +=
+                QStringLiteral("%1,%2 ").arg(point(number).x(), 0, 'g', 10).arg(point(number).y(), 0, 'g', 10);
+        set("figure", "points", corners);
+    }
+};
+
+SHAPEKIT_PLUGIN(Polygon, "Polygon", "Vieleck", Basic)

@@ -42,6 +42,17 @@ class CheckRules(unittest.TestCase):
         self.include("board/window.cpp", "<pagehost/document.h>", "<QtPrintSupport/QPrinter>")
         self.assertEqual(self.tree.breaches(), [])
 
+    def test_shape_of_forty_lines_passes_blank_ones_aside(self):
+        self.tree.write("shapes/star/star.cpp", "int a;\n\n" * 30)
+        self.tree.write("shapes/star/star.h", "int a;\n" * 10)
+        self.tree.write("shapes/kit/shape.cpp", "int a;\n" * 41)
+        self.assertEqual(self.tree.breaches(), [])
+
+    def test_shape_of_more_lines_is_found(self):
+        self.tree.write("shapes/star/star.cpp", "int a;\n" * 30)
+        self.tree.write("shapes/star/star.h", "int a;\n// b\n" * 6)
+        self.assertEqual(self.tree.breaches(), ["shapes/star: 42 lines of C++, more than 40"])
+
     def test_library_may_not_see_the_reference_host(self):
         self.include("src/shape/mapping.cpp", "<pagehost/document.h>")
         self.assertEqual(

@@ -7,6 +7,7 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QDir>
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 #include <QtWidgets/QUndoStack>
@@ -42,6 +43,15 @@ QStringList shapeNames()
 {
     return {QStringLiteral("roundedrectangle"), QStringLiteral("blockarrow"), QStringLiteral("polygon"),
             QStringLiteral("flask")};
+}
+
+QStringList allShapeNames()
+{
+    QStringList names =
+        QDir(QStringLiteral(SHAPE_PLUGIN_DIRECTORY)).entryList({QStringLiteral("*.so")}, QDir::Files);
+    for (QString &name : names)
+        name.chop(3);
+    return names;
 }
 
 QString pluginFile(const QString &name)

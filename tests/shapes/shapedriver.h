@@ -17,8 +17,10 @@ class QZeSvgTinyDocument;
 
 namespace shapetest {
 
-/// All shape plug-ins, by the name of their file.
+/// The shapes that are tested number by number, by the name of their file.
 QStringList shapeNames();
+/// All shapes there are.
+QStringList allShapeNames();
 /// The file of a plug-in.
 QString pluginFile(const QString &name);
 

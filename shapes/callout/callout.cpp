@@ -1,0 +1,36 @@
+#include <kit/shape.h>
+
+using namespace shapekit;
+
+/// A balloon for what somebody says. Its sides grow with the page object; its corners and the root of its tail keep
+/// their size. The control point is the tip of the tail.
+class Callout : public Shape
+{
+public:
+    explicit Callout(CSVGObj *owner)
+        : Shape(owner, 6)
+    {
+        smallestSize = {72, 60};
+    }
+
+protected:
+    QRectF range(int) override { return between({4, height() - tailHeight + 4}, {width() - 4, height() - 4}); }
+    void draw() override
+    {
+        const QRectF box = frame().adjusted(0, 0, 0, -tailHeight);
+        const QPointF tip = point(1) - box.bottomLeft() - QPointF(48, 0);
+        // Pieces that grow are "h" and "v"; the first piece of the tail starts 48 from the left, the second ends
+        // at 28.
+        QString path = QStringLiteral("M10,0h120a10,10 0 0 1 10,10v60a10,10 0 0 1-10,10h-82l%1l%2l-18,0"
+                                      "a10,10 0 0 1-10-10v-60a10,10 0 0 1 10-10z")
+                           .arg(numbersToString({tip.x(), tip.y()}), numbersToString({-20 - tip.x(), -tip.y()}));
+        path = changePathWidth(path, box.width() - 140, 0);
+        path = changePathHeight(path, box.height() - 80, 0);
+        set("figure", "d", changePathBeginPoint(path, box.left(), box.top()));
+    }
+
+private:
+    static constexpr double tailHeight = 30;
+};
+
+SHAPEKIT_PLUGIN(Callout, "Callout", "Sprechblase", Basic)

@@ -1,0 +1,44 @@
+#include <kit/shape.h>
+
+using namespace shapekit;
+
+const Text valuesText("Values", "Werte");
+
+/// The graph of a function that is known at a dozen places: the user drags its points up and down, or writes its
+/// values, from -10 to 10, as text.
+class Curve : public Shape
+{
+public:
+    explicit Curve(CSVGObj *owner)
+        : Shape(owner, 31)
+    {
+        smallestSize = {60, 40};
+    }
+
+protected:
+    QPointF wantedPoint(int number) override
+    {
+        const double step = (width() - 2 * margin) / std::max(1, pointCount() - 1);
+        return {margin + (number - 1) * step, middle().y() - values.numbers().value(number - 1) * unit()};
+    }
+    void pointMoved(int number, QPointF centre) override
+    {
+        values.setNumber(number - 1, (middle().y() - centre.y()) / unit());
+    }
+    void draw() override
+    {
+        PathText line;
+        for (int number = 1; number <= pointCount(); ++number)
+            number == 1 ? line.moveTo(point(number)) : line.lineTo(point(number));
+        setPath("figure", line);
+        setPath("axis", PathText().line({margin, middle().y()}, {width() - margin, middle().y()}));
+    }
+
+private:
+    double unit() const { return std::max(1.0, height() / 2 - margin) / 10; }
+
+    static constexpr double margin = 8;
+    NumberList values{this, valuesText, 12, -10, 10};
+};
+
+SHAPEKIT_PLUGIN(Curve, "Curve", "Kurve", Mathematics)

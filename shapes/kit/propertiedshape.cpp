@@ -1,0 +1,150 @@
+#include <kit/propertiedshape.h>
+
+#include <svgobj/csvgbaseundocmd.h>
+#include <svgobj/csvgobj.h>
+
+#include <QtCore/QDataStream>
+
+namespace shapekit {
+
+namespace {
+
+constexpr int firstPropertyId = 5101;
+constexpr int firstActionId = 1101;
+/// No shape has more; a larger count on a stream is damage.
+constexpr qint32 mostProperties = 64;
+
+} // namespace
+
+bool PropertiedShape::save(QDataStream &out)
+{
+    StyledShape::save(out);
+    if (m_properties.isEmpty())
+        return true;
+    out << qint32(m_properties.size());
+    for (const Property *property : qAsConst(m_properties))
+        out << property->bytes();
+    return true;
+}
+
+bool PropertiedShape::load(QDataStream &in)
+{
+    StyledShape::load(in);
+    if (m_properties.isEmpty())
+        return true;
+    qint32 count = 0;
+    in >> count;
+    for (int i = 0; i < qMin(count, mostProperties) && in.status() == QDataStream::Ok; ++i) {
+        QByteArray bytes;
+        in >> bytes;
+        if (i < m_properties.size())
+            m_properties.at(i)->setBytes(bytes);
+    }
+    propertyChanged(nullptr);
+    return true;
+}
+
+bool PropertiedShape::saveJson(QJsonObject &object)
+{
+    StyledShape::saveJson(object);
+    for (const Property *property : qAsConst(m_properties))
+        object[property->jsonKey()] = property->toJson();
+    return true;
+}
+
+bool PropertiedShape::loadJson(QJsonObject &object)
+{
+    StyledShape::loadJson(object);
+    for (Property *property : qAsConst(m_properties))
+        property->fromJson(object.value(property->jsonKey()));
+    if (!m_properties.isEmpty())
+        propertyChanged(nullptr);
+    return true;
+}
+
+bool PropertiedShape::getInnerProperty(int propId, QDataStream &out)
+{
+    const Property *property = propertyWithId(propId);
+    if (!property)
+        return StyledShape::getInnerProperty(propId, out);
+    property->write(out);
+    return true;
+}
+
+bool PropertiedShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
+{
+    Property *property = propertyWithId(propId);
+    if (!property)
+        return StyledShape::setInnerProperty(propId, in, record, addUndo);
+    const QByteArray before = property->bytes();
+    property->read(in);
+    const QByteArray after = property->bytes();
+    if (addUndo) {
+        auto *command = new CSVGBaseUndoCmd(this, property->actionId(), nullptr, true);
+        command->setDataBuffer(before, after);
+        addUndoRedo(command);
+    }
+    if (record)
+        RecordDataBuffer(after, property->actionId());
+    propertyChanged(property);
+    return true;
+}
+
+void PropertiedShape::initSpecialPropItems()
+{
+    for (const Property *property : qAsConst(m_properties)) {
+        QByteArray editor = property->editor();
+        propItems.append(new CSVGPropItem(property->id(), property->nameKey(), property->actionId(),
+                                          property->dataType(), &editor, true));
+    }
+}
+
+QString PropertiedShape::getPropName(int propId)
+{
+    const Property *property = propertyWithId(propId);
+    return property ? property->nameKey() : StyledShape::getPropName(propId);
+}
+
+bool PropertiedShape::GetSettingArray(QJsonArray &settings)
+{
+    for (const Property *property : qAsConst(m_properties)) {
+        const QJsonObject control = property->control(*owner);
+        if (!control.isEmpty())
+            settings.append(control);
+    }
+    return true;
+}
+
+bool PropertiedShape::SetSettingArray(QMap<QString, QString> &values, bool record, bool undo)
+{
+    for (Property *property : qAsConst(m_properties)) {
+        if (!values.contains(property->controlId()))
+            continue;
+        const QByteArray before = property->bytes();
+        property->takeAnswer(values.value(property->controlId()));
+        const QByteArray wanted = property->bytes();
+        property->setBytes(before);
+        QDataStream stream(wanted);
+        SetAttribute(property->id(), stream, record, undo);
+    }
+    return true;
+}
+
+void PropertiedShape::addProperty(Property *property, int &id, int &actionId)
+{
+    if (id == 0)
+        id = firstPropertyId + m_properties.size();
+    actionId = firstActionId + m_properties.size();
+    m_properties.append(property);
+}
+
+Property *PropertiedShape::propertyWithId(int id) const
+{
+    for (Property *property : m_properties) {
+        if (property->id() == id)
+            return property;
+    }
+    return nullptr;
+}
+
+} // namespace shapekit

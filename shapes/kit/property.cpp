@@ -1,0 +1,379 @@
+#include <kit/property.h>
+
+#include <kit/propertiedshape.h>
+
+#include <svgobj/csvgobj.h>
+
+#include <QtCore/QDataStream>
+
+#include <algorithm>
+#include <cmath>
+
+namespace shapekit {
+
+namespace {
+
+/// Numbers of a list are whole multiples of 1 / this: what a control point stands for comes back from its place.
+constexpr double listPrecision = 1e4;
+
+/// A value as it stands on the stream; the present one when the stream has no whole value.
+template<class Value> Value valueFrom(QDataStream &in, const Value &present)
+{
+    Value value;
+    in >> value;
+    return in.status() == QDataStream::Ok ? value : present;
+}
+
+QString numberText(double value)
+{
+    return QString::number(value, 'g', 10);
+}
+
+} // namespace
+
+Property::Property(PropertiedShape *shape, const Text &text, int id)
+    : m_text(text)
+    , m_id(id)
+{
+    shape->addProperty(this, m_id, m_actionId);
+}
+
+QByteArray Property::bytes() const
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    write(out);
+    return bytes;
+}
+
+void Property::setBytes(const QByteArray &bytes)
+{
+    QDataStream in(bytes);
+    read(in);
+}
+
+Switch::Switch(PropertiedShape *shape, const Text &text, bool on)
+    : Property(shape, text)
+    , m_on(on)
+{
+}
+
+void Switch::write(QDataStream &out) const
+{
+    out << m_on;
+}
+
+void Switch::read(QDataStream &in)
+{
+    m_on = valueFrom(in, m_on);
+}
+
+QJsonObject Switch::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    return object.GetSettingJsonSwitch(id, title, m_on);
+}
+
+void Switch::takeAnswer(const QString &text)
+{
+    m_on = text == QLatin1String("true") || text == QLatin1String("1");
+}
+
+WholeNumber::WholeNumber(PropertiedShape *shape, const Text &text, int value, int lowest, int highest)
+    : Property(shape, text)
+    , m_value(value)
+    , m_lowest(lowest)
+    , m_highest(highest)
+{
+}
+
+void WholeNumber::operator=(int value)
+{
+    m_value = std::clamp(value, m_lowest, m_highest);
+}
+
+QByteArray WholeNumber::editor() const
+{
+    constexpr qint32 step = 1;
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << qint32(m_lowest) << qint32(m_highest) << step;
+    return bytes;
+}
+
+void WholeNumber::write(QDataStream &out) const
+{
+    out << qint32(m_value);
+}
+
+void WholeNumber::read(QDataStream &in)
+{
+    *this = valueFrom(in, qint32(m_value));
+}
+
+QJsonObject WholeNumber::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    QString value = QString::number(m_value);
+    QString lowest = QString::number(m_lowest);
+    QString highest = QString::number(m_highest);
+    QString step = QStringLiteral("1");
+    QString unit;
+    return object.GetSettingJsonSlider(id, title, value, lowest, highest, step, unit);
+}
+
+void WholeNumber::takeAnswer(const QString &text)
+{
+    bool isNumber = false;
+    const int value = text.trimmed().toInt(&isNumber);
+    if (isNumber)
+        *this = value;
+}
+
+RealNumber::RealNumber(PropertiedShape *shape, const Text &text, double value, double lowest, double highest,
+                       double step, int id)
+    : Property(shape, text, id)
+    , m_value(value)
+    , m_lowest(lowest)
+    , m_highest(highest)
+    , m_step(step)
+{
+}
+
+void RealNumber::operator=(double value)
+{
+    if (!std::isnan(value))
+        m_value = std::clamp(value, m_lowest, m_highest);
+}
+
+QByteArray RealNumber::editor() const
+{
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << m_lowest << m_highest << m_step;
+    return bytes;
+}
+
+void RealNumber::write(QDataStream &out) const
+{
+    out << m_value;
+}
+
+void RealNumber::read(QDataStream &in)
+{
+    *this = valueFrom(in, m_value);
+}
+
+QJsonObject RealNumber::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    QString value = numberText(m_value);
+    QString lowest = numberText(m_lowest);
+    QString highest = numberText(m_highest);
+    QString step = numberText(m_step);
+    QString unit;
+    return object.GetSettingJsonSlider(id, title, value, lowest, highest, step, unit);
+}
+
+void RealNumber::takeAnswer(const QString &text)
+{
+    bool isNumber = false;
+    const double value = text.trimmed().toDouble(&isNumber);
+    if (isNumber)
+        *this = value;
+}
+
+DrawingScale::DrawingScale(PropertiedShape *shape, const Text &text, double value, double lowest, double highest,
+                           double step)
+    : RealNumber(shape, text, value, lowest, highest, step, PropertiedShape::drawingScaleId)
+{
+}
+
+Choice::Choice(PropertiedShape *shape, const Text &text, int index, std::initializer_list<const Text *> entries)
+    : Property(shape, text)
+    , m_index(index)
+{
+    for (const Text *entry : entries)
+        m_entries.append(entry->key());
+}
+
+void Choice::setIndex(int index)
+{
+    m_index = std::clamp(index, 0, m_entries.size() - 1);
+}
+
+QByteArray Choice::editor() const
+{
+    constexpr qint32 textsOnly = 0;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << qint32(m_entries.size()) << textsOnly;
+    for (const QString &entry : m_entries)
+        out << entry;
+    return bytes;
+}
+
+void Choice::write(QDataStream &out) const
+{
+    out << qint32(m_index);
+}
+
+void Choice::read(QDataStream &in)
+{
+    setIndex(valueFrom(in, qint32(m_index)));
+}
+
+QJsonObject Choice::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    QList<QString> icons;
+    QList<QString> texts = m_entries;
+    return object.GetSettingJsonComboBox(id, title, m_index, icons, texts);
+}
+
+void Choice::takeAnswer(const QString &text)
+{
+    bool isNumber = false;
+    const int index = text.trimmed().toInt(&isNumber);
+    if (isNumber)
+        setIndex(index);
+}
+
+ColorValue::ColorValue(PropertiedShape *shape, const Text &text, QRgb color)
+    : Property(shape, text)
+    , m_color(QColor::fromRgba(color))
+{
+}
+
+void ColorValue::write(QDataStream &out) const
+{
+    out << m_color;
+}
+
+void ColorValue::read(QDataStream &in)
+{
+    const QColor color = valueFrom(in, m_color);
+    if (color.isValid())
+        m_color = color;
+}
+
+QJsonObject ColorValue::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    QString value = m_color.name(QColor::HexArgb);
+    return object.GetSettingJsonColorPicker(id, title, value);
+}
+
+void ColorValue::takeAnswer(const QString &text)
+{
+    const QColor color(text);
+    if (color.isValid())
+        m_color = color;
+}
+
+TextValue::TextValue(PropertiedShape *shape, const Text &text, const QString &value)
+    : Property(shape, text)
+    , m_value(value)
+{
+}
+
+void TextValue::write(QDataStream &out) const
+{
+    out << m_value;
+}
+
+void TextValue::read(QDataStream &in)
+{
+    m_value = valueFrom(in, m_value);
+}
+
+QJsonObject TextValue::control(CSVGObj &object) const
+{
+    QString id = controlId();
+    QString title = nameKey();
+    QString value = m_value;
+    QString type = QStringLiteral("text");
+    QString none;
+    return object.GetSettingJsonInput(id, title, value, type, none, none, none);
+}
+
+NumberList::NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest)
+    : TextValue(shape, text, QString())
+    , m_shape(shape)
+    , m_count(count)
+    , m_lowest(lowest)
+    , m_highest(highest)
+{
+    setNumbers({});
+}
+
+QVector<double> NumberList::numbers() const
+{
+    const QString text = *this;
+    const QChar *start = text.constData();
+    return m_shape->parseNumbersList(start);
+}
+
+void NumberList::setNumber(int index, double number)
+{
+    if (index < 0 || index >= m_count)
+        return;
+    QVector<double> all = numbers();
+    all[index] = number;
+    setNumbers(all);
+}
+
+void NumberList::read(QDataStream &in)
+{
+    TextValue::read(in);
+    setNumbers(numbers());
+}
+
+void NumberList::fromJson(const QJsonValue &value)
+{
+    TextValue::fromJson(value);
+    setNumbers(numbers());
+}
+
+void NumberList::takeAnswer(const QString &text)
+{
+    TextValue::takeAnswer(text);
+    setNumbers(numbers());
+}
+
+void NumberList::setNumbers(QVector<double> numbers)
+{
+    numbers.resize(m_count);
+    // One by one: in a list the writer sets nothing between a number and a zero.
+    QStringList texts;
+    for (const double number : qAsConst(numbers)) {
+        const double rounded = std::round(std::clamp(number, m_lowest, m_highest) * listPrecision) / listPrecision;
+        texts.append(m_shape->numbersToString({rounded + 0.0})); // no negative zero
+    }
+    TextValue::operator=(texts.join(QLatin1Char(' ')));
+}
+
+DataValue::DataValue(PropertiedShape *shape, const Text &text)
+    : Property(shape, text)
+{
+}
+
+void DataValue::write(QDataStream &out) const
+{
+    out << m_value;
+}
+
+void DataValue::read(QDataStream &in)
+{
+    m_value = valueFrom(in, m_value);
+}
+
+void DataValue::fromJson(const QJsonValue &value)
+{
+    m_value = QByteArray::fromBase64(value.toString().toLatin1());
+}
+
+} // namespace shapekit

@@ -1,0 +1,248 @@
+#pragma once
+
+#include <kit/text.h>
+
+#include <svgobj/csvgpropitem.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QStringList>
+#include <QtGui/QColor>
+
+#include <initializer_list>
+
+class CSVGObj;
+class QDataStream;
+
+namespace shapekit {
+
+class PropertiedShape;
+
+/// A value that a shape adds to what the user can set: in the property panel and in the settings panel, saved with
+/// the shape, recorded, and undone. A property is a member of its shape and registers itself there.
+class Property
+{
+public:
+    virtual ~Property() = default;
+    Property(const Property &) = delete;
+    Property &operator=(const Property &) = delete;
+
+    int id() const { return m_id; }
+    int actionId() const { return m_actionId; }
+    QString nameKey() const { return m_text.key(); }
+    /// The key of the value in saved JSON.
+    QString jsonKey() const { return QStringLiteral("SVG_") + m_text.name(); }
+    /// The id of the control in the settings panel.
+    QString controlId() const { return QStringLiteral("id") + m_text.name(); }
+
+    virtual DATA_TYPE dataType() const = 0;
+    /// The description of the editor that goes with the type; empty when it needs none.
+    virtual QByteArray editor() const { return {}; }
+    virtual void write(QDataStream &out) const = 0;
+    /// Takes a value over, brought into the bounds that the property has. A value that cannot be read changes
+    /// nothing.
+    virtual void read(QDataStream &in) = 0;
+    virtual QJsonValue toJson() const = 0;
+    virtual void fromJson(const QJsonValue &value) = 0;
+    /// The control of the settings panel; an empty object for a property that has none.
+    virtual QJsonObject control(CSVGObj &object) const = 0;
+    /// Takes the text over that the control answered.
+    virtual void takeAnswer(const QString &text) = 0;
+
+    QByteArray bytes() const;
+    void setBytes(const QByteArray &bytes);
+
+protected:
+    /// With an id of 0 the property gets the next free one of its shape.
+    Property(PropertiedShape *shape, const Text &text, int id = 0);
+
+private:
+    const Text &m_text;
+    int m_id;
+    int m_actionId;
+};
+
+/// On or off.
+class Switch : public Property
+{
+public:
+    Switch(PropertiedShape *shape, const Text &text, bool on);
+    operator bool() const { return m_on; }
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_0; }
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_on; }
+    void fromJson(const QJsonValue &value) override { m_on = value.toBool(m_on); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    bool m_on;
+};
+
+/// A whole number between two bounds.
+class WholeNumber : public Property
+{
+public:
+    WholeNumber(PropertiedShape *shape, const Text &text, int value, int lowest, int highest);
+    operator int() const { return m_value; }
+    void operator=(int value);
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_INT; }
+    QByteArray editor() const override;
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_value; }
+    void fromJson(const QJsonValue &value) override { *this = value.toInt(m_value); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    int m_value;
+    int m_lowest;
+    int m_highest;
+};
+
+/// A number between two bounds, in steps that the panel offers.
+class RealNumber : public Property
+{
+public:
+    RealNumber(PropertiedShape *shape, const Text &text, double value, double lowest, double highest, double step,
+               int id = 0);
+    operator double() const { return m_value; }
+    void operator=(double value);
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_REAL; }
+    QByteArray editor() const override;
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_value; }
+    void fromJson(const QJsonValue &value) override { *this = value.toDouble(m_value); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    double m_value;
+    double m_lowest;
+    double m_highest;
+    double m_step;
+};
+
+/// The scale that a shape of type 26 is drawn at: at 2 it is half as large, about the middle of its frame.
+class DrawingScale : public RealNumber
+{
+public:
+    DrawingScale(PropertiedShape *shape, const Text &text, double value, double lowest, double highest,
+                 double step);
+};
+
+/// One of several texts.
+class Choice : public Property
+{
+public:
+    Choice(PropertiedShape *shape, const Text &text, int index, std::initializer_list<const Text *> entries);
+    operator int() const { return m_index; }
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_INT; }
+    QByteArray editor() const override;
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_index; }
+    void fromJson(const QJsonValue &value) override { setIndex(value.toInt(m_index)); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    void setIndex(int index);
+
+    int m_index;
+    QStringList m_entries; ///< localisation keys
+};
+
+/// A colour besides those of pen and fill.
+class ColorValue : public Property
+{
+public:
+    ColorValue(PropertiedShape *shape, const Text &text, QRgb color);
+    operator QColor() const { return m_color; }
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_COLOR; }
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_color.name(QColor::HexArgb); }
+    void fromJson(const QJsonValue &value) override { takeAnswer(value.toString()); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    QColor m_color;
+};
+
+/// A line of text.
+class TextValue : public Property
+{
+public:
+    TextValue(PropertiedShape *shape, const Text &text, const QString &value);
+    operator QString() const { return m_value; }
+    void operator=(const QString &value) { m_value = value; }
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_4; }
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return m_value; }
+    void fromJson(const QJsonValue &value) override { m_value = value.toString(m_value); }
+    QJsonObject control(CSVGObj &object) const override;
+    void takeAnswer(const QString &text) override { m_value = text; }
+
+private:
+    QString m_value;
+};
+
+/// A fixed count of numbers between two bounds, kept as text that the user may write: with blanks, commas or
+/// nothing between them, up to the first thing that is no number; missing ones are 0. The text is put into one
+/// form, four places after the point and a blank between two numbers.
+class NumberList : public TextValue
+{
+public:
+    NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest);
+
+    QVector<double> numbers() const;
+    /// Sets the number at an index (from 0); an index that is not there is ignored.
+    void setNumber(int index, double number);
+
+    void read(QDataStream &in) override;
+    void fromJson(const QJsonValue &value) override;
+    void takeAnswer(const QString &text) override;
+
+private:
+    void setNumbers(QVector<double> numbers);
+
+    PropertiedShape *m_shape;
+    int m_count;
+    double m_lowest;
+    double m_highest;
+};
+
+/// Bytes that only the shape can read, such as a picture. No control offers them.
+class DataValue : public Property
+{
+public:
+    DataValue(PropertiedShape *shape, const Text &text);
+    operator QByteArray() const { return m_value; }
+    void operator=(const QByteArray &value) { m_value = value; }
+
+    DATA_TYPE dataType() const override { return DATA_TYPE_5; }
+    void write(QDataStream &out) const override;
+    void read(QDataStream &in) override;
+    QJsonValue toJson() const override { return QString::fromLatin1(m_value.toBase64()); }
+    void fromJson(const QJsonValue &value) override;
+    QJsonObject control(CSVGObj &) const override { return {}; }
+    void takeAnswer(const QString &) override {}
+
+private:
+    QByteArray m_value;
+};
+
+} // namespace shapekit

@@ -1,0 +1,373 @@
+#include <kit/shape.h>
+
+#include <svgobj/csvgobj.h>
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QtMath>
+#include <QtGui/QPainterPath>
+#include <QtGui/QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace shapekit {
+
+namespace {
+
+/// Document units; nearer than this is the same place.
+constexpr double sizeEpsilon = 1e-7;
+/// The smallest side of a redrawn object, item units: below it the control points have no room.
+constexpr double smallestRedrawnSide = 24;
+constexpr double smallestStretchedSide = 16;
+/// The pen takes at most this part of the shorter side.
+constexpr double largestInsetShare = 0.25;
+/// No page is larger; a side beyond it is a mistake that is not drawn.
+constexpr double largestSide = 1e6;
+constexpr quint32 controlPointCapacity = 32;
+/// Half of a control point in a template: limits there are those of its corner.
+constexpr double templateHalf = 4;
+/// Points that limit each other settle within this many rounds.
+constexpr int settlingRounds = 2;
+constexpr int numberDigits = 10;
+
+bool isSamePlace(QPointF a, QPointF b)
+{
+    return qAbs(a.x() - b.x()) < sizeEpsilon && qAbs(a.y() - b.y()) < sizeEpsilon;
+}
+
+/// The nearest place in a range; where a range leaves no room its end wins.
+double within(double value, double low, double high)
+{
+    return std::min(std::max(value, low), high);
+}
+
+QString numberText(double value)
+{
+    return QString::number(value, 'g', numberDigits);
+}
+
+} // namespace
+
+Shape::Shape(CSVGObj *owner, int type, Sizing sizing)
+    : PropertiedShape(owner, type)
+    , m_redrawn(sizing == Redrawn)
+{
+    keepAspectRatio = sizing == Stretched;
+    resizeRewritesSVG = m_redrawn;
+    rawControlPoints = m_redrawn;
+    const double smallest = m_redrawn ? smallestRedrawnSide : smallestStretchedSide;
+    smallestSize = QSizeF(smallest, smallest);
+}
+
+bool Shape::loadSVG(bool initGlobals)
+{
+    const bool loaded = PropertiedShape::loadSVG(initGlobals);
+    if (loaded) {
+        takeMovedControlPoints();
+        placeControlPoints();
+        redraw(false);
+    }
+    return loaded;
+}
+
+bool Shape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
+{
+    const int index = indexOf(node);
+    if (index < 0)
+        return false;
+    const QRectF place = node->boundingRect();
+    if (node == activeControlPoint)
+        m_dragged[index].noteDrag(dragStartPos, place);
+    pointMoved(index + 1, m_dragged.value(index).meantCentre(place));
+    placeControlPoints();
+    redraw(refresh);
+    return true;
+}
+
+bool Shape::updateSVG(bool refresh)
+{
+    redraw(refresh);
+    return true;
+}
+
+bool Shape::updateAllControlPoints(bool refresh, bool)
+{
+    takeMovedControlPoints();
+    placeControlPoints();
+    redraw(refresh);
+    return true;
+}
+
+void Shape::setSize(QSizeF, QSizeF newSize)
+{
+    fitTo(newSize);
+}
+
+void Shape::notifyObjectCreated()
+{
+    // The last step of a creating drag may differ from the step before it, of which the shape heard.
+    if (m_redrawn)
+        fitTo(owner->getClientRect().size());
+    owner->notifyOutlineRegionChanged();
+    invalidate();
+}
+
+QSizeF Shape::getMinimizeSize()
+{
+    return smallestSize;
+}
+
+void Shape::updateOutlineRegion()
+{
+    PropertiedShape::updateOutlineRegion();
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!outlineRegion || !getInnerProperty(drawingScaleId, out))
+        return;
+    double scale = 1;
+    QDataStream(bytes) >> scale;
+    const QPointF centre = document->viewBox().center();
+    QTransform shrinking = QTransform::fromTranslate(centre.x(), centre.y());
+    shrinking.scale(1 / scale, 1 / scale);
+    shrinking.translate(-centre.x(), -centre.y());
+    *outlineRegion = shrinking.map(*outlineRegion);
+}
+
+bool Shape::getOutlinePath(QPainterPath *path)
+{
+    if (!PropertiedShape::getOutlinePath(path))
+        return false;
+    const QRectF target = owner->getClientRect();
+    const QRectF box = document->viewBox();
+    const QTransform toObject =
+        QTransform::fromTranslate(-box.x(), -box.y()) *
+        QTransform::fromScale(target.width() / box.width(), target.height() / box.height()) *
+        QTransform::fromTranslate(target.x(), target.y());
+    for (int i = 0; i < pointCount(); ++i) {
+        QPainterPath grip;
+        if (controlPoints[i])
+            grip.addRect(toObject.mapRect(controlPoints[i]->boundingRect()));
+        if (!path->contains(grip.boundingRect()))
+            *path += grip;
+    }
+    return true;
+}
+
+double Shape::getXMin(QZeSvgNode *node)
+{
+    const int index = indexOf(node);
+    return index < 0 ? CSVGBase::getXMin(node) : range(index + 1).left() - node->boundingRect().width() / 2;
+}
+
+double Shape::getXMax(QZeSvgNode *node)
+{
+    const int index = indexOf(node);
+    return index < 0 ? CSVGBase::getXMax(node) : range(index + 1).right() - node->boundingRect().width() / 2;
+}
+
+double Shape::getYMin(QZeSvgNode *node)
+{
+    const int index = indexOf(node);
+    return index < 0 ? CSVGBase::getYMin(node) : range(index + 1).top() - node->boundingRect().height() / 2;
+}
+
+double Shape::getYMax(QZeSvgNode *node)
+{
+    const int index = indexOf(node);
+    return index < 0 ? CSVGBase::getYMax(node) : range(index + 1).bottom() - node->boundingRect().height() / 2;
+}
+
+QRectF Shape::range(int number)
+{
+    return templateRange(number);
+}
+
+QPointF Shape::settled(int number, QPointF centre)
+{
+    const QRectF limits = range(number);
+    return {within(centre.x(), limits.left(), limits.right()), within(centre.y(), limits.top(), limits.bottom())};
+}
+
+void Shape::pointMoved(int number, QPointF centre)
+{
+    if (m_places.size() < number)
+        m_places.resize(number);
+    m_places[number - 1] = {centre, size()};
+}
+
+QPointF Shape::wantedPoint(int number)
+{
+    return m_places.value(number - 1).at(size(), followingOf(number, "x"), followingOf(number, "y"));
+}
+
+void Shape::propertyChanged(const Property *)
+{
+    placeControlPoints();
+    redraw(false);
+}
+
+QSizeF Shape::size() const
+{
+    return document->viewBox().size();
+}
+
+double Shape::shorterSide() const
+{
+    return std::min(width(), height());
+}
+
+QRectF Shape::frame() const
+{
+    const double inset = std::min(document->getAllStrokeWidth() / 2, largestInsetShare * shorterSide());
+    return QRectF(QPointF(0, 0), size()).adjusted(inset, inset, -inset, -inset);
+}
+
+void Shape::setPath(const char *id, const PathText &path)
+{
+    set(id, "d", path.text());
+}
+
+void Shape::set(const char *id, const char *attribute, const QString &value)
+{
+    if (QZeSvgNode *target = node(id))
+        target->setAttribute(QLatin1String(attribute), value);
+}
+
+void Shape::set(const char *id, const char *attribute, double value)
+{
+    set(id, attribute, numberText(value));
+}
+
+void Shape::rotate(const char *id, double degrees, QPointF about)
+{
+    set(id, "transform",
+        QStringLiteral("rotate(%1 %2 %3)").arg(numberText(degrees), numberText(about.x()), numberText(about.y())));
+}
+
+int Shape::pointCount() const
+{
+    return int(std::min(controlPointCount, controlPointCapacity));
+}
+
+int Shape::indexOf(QZeSvgNode *node) const
+{
+    QZeSvgNode **const end = controlPoints + pointCount();
+    QZeSvgNode **const found = std::find(controlPoints, end, node);
+    return !node || found == end ? -1 : int(found - controlPoints);
+}
+
+QRectF Shape::templateRange(int number) const
+{
+    const Following x = followingOf(number, "x");
+    const Following y = followingOf(number, "y");
+    QRectF limits(QPointF(x.offset, y.offset), QPointF(width() - x.endOffset, height() - y.endOffset));
+    const QZeSvgNode *point = controlPoints[number - 1];
+    if (m_redrawn || !point)
+        return limits;
+    const auto limit = [point](const char *name, double otherwise) {
+        const QString text = point->attribute(QLatin1String(name));
+        return text.isEmpty() ? otherwise : text.toDouble() + templateHalf;
+    };
+    return {QPointF(limit("x_from", limits.left()), limit("y_from", limits.top())),
+            QPointF(limit("x_to", limits.right()), limit("y_to", limits.bottom()))};
+}
+
+Following Shape::followingOf(int number, const char *axis) const
+{
+    Following following;
+    const QZeSvgNode *point = controlPoints[number - 1];
+    if (!point)
+        return following;
+    const QString prefix = QLatin1String(axis);
+    following.rule = Following::ruleNamed(point->attribute(prefix + QLatin1String("_follows")));
+    const QStringList offsets =
+        point->attribute(prefix + QLatin1String("_offset")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (!offsets.isEmpty()) {
+        following.offset = offsets.first().toDouble();
+        following.endOffset = offsets.last().toDouble();
+    }
+    return following;
+}
+
+void Shape::fitTo(const QSizeF &newSize)
+{
+    const bool drawable = newSize.width() > 0 && newSize.height() > 0 && newSize.width() < largestSide &&
+                          newSize.height() < largestSide;
+    if (!drawable || !document)
+        return;
+    document->setViewBox(QRectF(QPointF(0, 0), newSize));
+    placeControlPoints();
+    redraw(false);
+}
+
+void Shape::takeMovedControlPoints()
+{
+    for (int i = 0; i < pointCount(); ++i) {
+        if (!controlPoints[i])
+            continue;
+        const QPointF centre = controlPoints[i]->boundingRect().center();
+        if (i >= m_points.size() || !isSamePlace(centre, m_points.at(i)))
+            pointMoved(i + 1, centre);
+    }
+}
+
+void Shape::settlePoints()
+{
+    m_points.clear();
+    for (int number = 1; number <= pointCount(); ++number)
+        m_points.append(wantedPoint(number));
+    const QVector<QPointF> wanted = m_points;
+    for (int round = 0; round < settlingRounds; ++round) {
+        for (int i = 0; i < wanted.size(); ++i)
+            m_points[i] = settled(i + 1, wanted.at(i));
+    }
+}
+
+void Shape::placeControlPoint(int index)
+{
+    QZeSvgNode *node = controlPoints[index];
+    if (!node)
+        return;
+    const QRectF present = node->boundingRect();
+    const QPointF centre = m_points.value(index);
+    if (isSamePlace(centre, present.center()))
+        return;
+    node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
+    node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
+}
+
+void Shape::placeControlPoints()
+{
+    settlePoints();
+    for (int i = 0; i < pointCount(); ++i)
+        placeControlPoint(i);
+}
+
+void Shape::redraw(bool refresh)
+{
+    draw();
+    updateOutlineRegion();
+    if (refresh)
+        invalidate();
+}
+
+QRectF between(QPointF first, QPointF second)
+{
+    return {first, second};
+}
+
+QPointF onCircle(QPointF centre, double radius, double degrees)
+{
+    const double angle = qDegreesToRadians(degrees);
+    return centre + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+}
+
+double angleOf(QPointF point, QPointF centre)
+{
+    const QPointF arm = point - centre;
+    const double degrees = qRadiansToDegrees(std::atan2(arm.x(), -arm.y()));
+    return degrees < 0 ? degrees + 360 : degrees;
+}
+
+} // namespace shapekit

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <kit/draggedplaces.h>
+#include <kit/kind.h>
+#include <kit/pathtext.h>
+#include <kit/place.h>
+#include <kit/propertiedshape.h>
+
+#include <QtCore/QMap>
+
+namespace shapekit {
+
+/// What a shape author derives from: a template, what its control points may do, and a drawing.
+///
+/// The template gives the look and the form of a new shape. Control points are numbered from 1 as in the template;
+/// a shape asks where they stand (point()) and writes the geometry of template nodes for it (draw()). Everything
+/// else comes from here: undo, playback, saving, limits, mirroring and zooming, following the size, the outline,
+/// pen and fill, panels.
+///
+/// Attributes of control points in the template (besides those of the library, such as x_move="0"):
+/// - `x_follows`, `y_follows`: how the point goes along when the size of a redrawn shape changes (Following);
+/// - `x_offset`, `y_offset`: one or two numbers, the distances from the frame at which the point's free travel, and
+///   what is measured when the size changes, begins and ends; the second is like the first when it is left out.
+class Shape : public PropertiedShape
+{
+public:
+    /// What becomes of the drawing when the page object gets another size.
+    enum Sizing {
+        Redrawn, ///< drawn anew: lines keep their width, corners stay round; the document is as large as the object
+        Stretched,       ///< stretched like a picture, in its own proportions
+        StretchedFreely, ///< stretched like a picture, in any proportions
+    };
+
+    Shape(CSVGObj *owner, int type, Sizing sizing = Redrawn);
+
+    bool loadSVG(bool initGlobals) override;
+    bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
+    bool updateSVG(bool refresh) override;
+    bool updateAllControlPoints(bool refresh, bool finished) override;
+    void setSize(QSizeF oldSize, QSizeF newSize) override;
+    void notifyObjectCreated() override;
+    QSizeF getMinimizeSize() override;
+    /// At a drawing scale the outline shrinks with the drawing.
+    void updateOutlineRegion() override;
+    /// The region is the outline, the pen and the control points, so that each of them can be grasped.
+    bool getOutlinePath(QPainterPath *path) override;
+    double getXMin(QZeSvgNode *node) override;
+    double getXMax(QZeSvgNode *node) override;
+    double getYMin(QZeSvgNode *node) override;
+    double getYMax(QZeSvgNode *node) override;
+
+protected:
+    /// @name What a shape says about itself. Points and sizes are document units.
+    /// @{
+
+    /// Where the centre of a control point may be dragged to: by default wherever the offsets of the template leave
+    /// it, in a stretched shape where the limits of the template do. It may depend on other points.
+    virtual QRectF range(int number);
+    /// Where a control point that was put to `centre` stands, by default the nearest place in its range.
+    virtual QPointF settled(int number, QPointF centre);
+    /// Writes the geometry for the present points, size and properties.
+    virtual void draw() {}
+    /// The user, or a file, put the centre of a control point there.
+    virtual void pointMoved(int number, QPointF centre);
+    /// Where a control point stands if nothing limits it: where it was put, gone along with the size.
+    virtual QPointF wantedPoint(int number);
+    void propertyChanged(const Property *property) override;
+    /// @}
+
+    /// @name What a shape draws with
+    /// @{
+
+    /// The centre of a control point.
+    QPointF point(int number) const { return m_points.value(number - 1); }
+    int pointCount() const;
+    QSizeF size() const;
+    double width() const { return size().width(); }
+    double height() const { return size().height(); }
+    double shorterSide() const;
+    QPointF middle() const { return {width() / 2, height() / 2}; }
+    /// The frame as far as the middle of a line may go, so that the pen stays inside.
+    QRectF frame() const;
+    void setPath(const char *id, const PathText &path);
+    void set(const char *id, const char *attribute, const QString &value);
+    void set(const char *id, const char *attribute, double value);
+    /// Turns a node clockwise about a point.
+    void rotate(const char *id, double degrees, QPointF about);
+    /// The smallest size of an object, item units; 24 × 24, and 16 on the shorter side of a stretched one, at
+    /// first.
+    QSizeF smallestSize;
+    /// @}
+
+private:
+    int indexOf(QZeSvgNode *node) const;
+    QRectF templateRange(int number) const;
+    Following followingOf(int number, const char *axis) const;
+    void fitTo(const QSizeF &newSize);
+    void takeMovedControlPoints();
+    /// Where all points stand, each within the limits that the others leave it.
+    void settlePoints();
+    void placeControlPoint(int index);
+    void placeControlPoints();
+    void redraw(bool refresh);
+
+    bool m_redrawn;
+    QVector<Place> m_places;            ///< where the points were put, by index
+    QVector<QPointF> m_points;          ///< where they stand
+    QMap<int, DraggedPlaces> m_dragged; ///< by index
+};
+
+/// The rectangle between two points that need not be in order; limits that leave no room give the second point's.
+QRectF between(QPointF first, QPointF second);
+/// The point of a circle at an angle in degrees, clockwise from the top.
+QPointF onCircle(QPointF centre, double radius, double degrees);
+/// The angle of a point seen from a centre, degrees clockwise from the top, 0 to 360.
+double angleOf(QPointF point, QPointF centre);
+
+} // namespace shapekit

@@ -1,0 +1,57 @@
+#include <kit/shapeplugin.h>
+
+#include <kit/kind.h>
+#include <kit/shapeobject.h>
+#include <kit/text.h>
+
+namespace shapekit {
+
+namespace {
+
+struct GroupTexts
+{
+    const char *key;
+    const char *english;
+    const char *german;
+};
+
+GroupTexts textsOf(Group group)
+{
+    switch (group) {
+    case Group::Mathematics:
+        return {"IDS_SHAPEGROUP_MATHEMATICS", "Mathematics", "Mathematik"};
+    case Group::Science:
+        return {"IDS_SHAPEGROUP_SCIENCE", "Science", "Naturwissenschaft"};
+    case Group::Basic:
+        break;
+    }
+    return {"IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"};
+}
+
+} // namespace
+
+QVector<pagehost::ObjectKind> ShapePlugin::objectKinds() const
+{
+    return {{kind().id(), kind().nameKey(), QString::fromLatin1(textsOf(kind().group).key)}};
+}
+
+CBaseObject *ShapePlugin::createObject(const QString &kindId) const
+{
+    return kindId == kind().id() ? new ShapeObject(kind()) : nullptr;
+}
+
+pagehost::TextTable ShapePlugin::texts(const QString &language) const
+{
+    const GroupTexts group = textsOf(kind().group);
+    pagehost::TextTable texts = Text::all(language);
+    if (language == QLatin1String("en")) {
+        texts.insert(kind().nameKey(), kind().english);
+        texts.insert(QString::fromLatin1(group.key), QString::fromLatin1(group.english));
+    } else if (language == QLatin1String("de")) {
+        texts.insert(kind().nameKey(), kind().german);
+        texts.insert(QString::fromLatin1(group.key), QString::fromLatin1(group.german));
+    }
+    return texts;
+}
+
+} // namespace shapekit

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <pagehost/objectplugin.h>
+
+#include <QtCore/QObject>
+
+namespace shapekit {
+
+/// The plug-in of a shape: it offers the one kind that the shape's source file names. Each shape is built together
+/// with it.
+class ShapePlugin : public QObject, public pagehost::ObjectPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PAGEHOST_OBJECTPLUGIN_IID)
+    Q_INTERFACES(pagehost::ObjectPlugin)
+
+public:
+    QVector<pagehost::ObjectKind> objectKinds() const override;
+    CBaseObject *createObject(const QString &kindId) const override;
+    pagehost::TextTable texts(const QString &language) const override;
+};
+
+} // namespace shapekit

@@ -1,0 +1,194 @@
+#include <kit/styledshape.h>
+
+#include <kit/kind.h>
+#include <kit/treewalk.h>
+
+#include <svgobj/csvgobj.h>
+
+#include <framework/cpagebgprop.h>
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QFile>
+#include <QtGui/QPainterPath>
+#include <QtGui/QPainterPathStroker>
+
+namespace shapekit {
+
+namespace {
+
+constexpr int lastHostFilledType = 26;
+constexpr int extraHostFilledType = 1000;
+/// Added to the width of a line so that it can be hit, document units.
+constexpr double lineHitMargin = 6;
+
+bool fillsAlike(const QBrush &a, const QBrush &b)
+{
+    const bool aFills = a.style() != Qt::NoBrush;
+    const bool bFills = b.style() != Qt::NoBrush;
+    return aFills == bFills && (!aFills || a.color() == b.color());
+}
+
+QPainterPath outlineOf(const QZeSvgNode &node)
+{
+    QPainterPath outline;
+    switch (node.type()) {
+    case QZeSvgNode::Path:
+        return node.path();
+    case QZeSvgNode::Polygon:
+        outline.addPolygon(node.polygon());
+        outline.closeSubpath();
+        return outline;
+    case QZeSvgNode::Circle:
+    case QZeSvgNode::Ellipse:
+        outline.addEllipse(node.boundingRect());
+        return outline;
+    default:
+        outline.addRect(node.boundingRect());
+        return outline;
+    }
+}
+
+QPainterPath hitAreaOfLine(const QZeSvgNode &node)
+{
+    QPainterPathStroker stroker;
+    stroker.setCapStyle(Qt::RoundCap);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    stroker.setWidth(node.strokeWidth() + lineHitMargin);
+    return stroker.createStroke(outlineOf(node));
+}
+
+bool isFigure(const QString &id)
+{
+    return id == QLatin1String("figure") || id.startsWith(QLatin1String("figure_"));
+}
+
+} // namespace
+
+StyledShape::StyledShape(CSVGObj *owner, int type)
+    : CSVGBase(owner)
+    , m_type(type)
+{
+    propPenEnabled = true;
+    propPenStyleEnabled = true;
+    propPenWidthEnabled = true;
+    keepOutlineRegion = true;
+    // Pixels until here; the painting step only follows later changes of the zoom.
+    controlPointSize /= zoomRate;
+}
+
+QString StyledShape::getSVG()
+{
+    QFile file(kind().templateFile());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void StyledShape::initGlobalPropValues()
+{
+    readLook();
+    setPenColor(owner->getMyPen().color(), false);
+    if (propFillEnabled)
+        fillPageObject(m_templateFill);
+}
+
+void StyledShape::initPropItems()
+{
+    readLook();
+    CSVGBase::initPropItems();
+}
+
+QBrush StyledShape::getFillBrush()
+{
+    return isFilledByPageObject() ? owner->getHostFillBrush() : CSVGBase::getFillBrush();
+}
+
+void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
+{
+    if (!isFilledByPageObject()) {
+        CSVGBase::setFillBrush(brush, record, notify);
+        return;
+    }
+    // The page object hands its new fill back to this function; by then it is the present one, which ends the
+    // round.
+    if (!fillsAlike(brush, getFillBrush())) {
+        if (record)
+            RecordColor(brush.color(), ACT_SVG_FILLCOLOR);
+        fillPageObject(brush);
+        return;
+    }
+    if (notify)
+        invalidate();
+}
+
+void StyledShape::setPenColor(QColor color, bool record)
+{
+    CSVGBase::setPenColor(color, record);
+    colorPenFollowers();
+}
+
+void StyledShape::updateOutlineRegion()
+{
+    if (m_figures.isEmpty()) {
+        CSVGBase::updateOutlineRegion();
+        return;
+    }
+    delete outlineRegion;
+    outlineRegion = new QPainterPath;
+    outlineRegion->setFillRule(Qt::WindingFill);
+    for (const QZeSvgNode *figure : qAsConst(m_figures))
+        outlineRegion->addPath(propFillEnabled ? outlineOf(*figure) : hitAreaOfLine(*figure));
+}
+
+bool StyledShape::isFilledByPageObject() const
+{
+    return m_type <= lastHostFilledType || m_type == extraHostFilledType;
+}
+
+QZeSvgNode *StyledShape::node(const char *id) const
+{
+    return document ? document->namedNode(QLatin1String(id)) : nullptr;
+}
+
+void StyledShape::readLook()
+{
+    if (!document || m_lookRead)
+        return;
+    m_lookRead = true;
+    forEachNode(*document, [this](QZeSvgNode &node, const QString &keeps, bool followsPen) {
+        if (keeps.contains(QLatin1String("fill")) || followsPen)
+            node.setFillEnabled(false);
+        if (keeps.contains(QLatin1String("stroke")))
+            node.setStrokeEnabled(false);
+        if (followsPen)
+            m_penFollowers.append(&node);
+        if (isFigure(node.nodeId()))
+            m_figures.append(&node);
+    });
+    m_templateFill = document->getAllFillBrush();
+    propFillEnabled = m_templateFill.style() != Qt::NoBrush;
+}
+
+void StyledShape::colorPenFollowers()
+{
+    const QColor color = getPenColor();
+    for (QZeSvgNode *follower : qAsConst(m_penFollowers)) {
+        follower->setAttribute(QStringLiteral("fill"), color.name());
+        follower->setAttribute(QStringLiteral("fill-opacity"), QString::number(color.alphaF()));
+    }
+}
+
+void StyledShape::fillPageObject(const QBrush &brush)
+{
+    CPageBgProp fill(nullptr);
+    if (brush.style() != Qt::NoBrush) {
+        fill.setFillType(CPageBgProp::SolidFill);
+        fill.setFillColor(brush.color());
+        fill.setOpacity(brush.color().alpha());
+        fill.setFillEnable(true);
+    } else if (owner->getFillProp()) {
+        fill = *owner->getFillProp();
+        fill.setFillEnable(false);
+    }
+    owner->setFillProp(&fill, false);
+}
+
+} // namespace shapekit

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <svgobj/csvgbase.h>
+
+#include <QtCore/QVector>
+
+namespace shapekit {
+
+/// A shape whose look is the template's: which of its nodes follow the user's pen and fill, and who fills it.
+///
+/// The type number decides who fills a shape. Up to 26 and 1000 it is the page object, with gradients, patterns and
+/// pictures; while such a shape is painted its document holds no brush, so that the fill is read, compared and
+/// changed at the page object. Other shapes are filled by their document. A template without any fill makes a shape
+/// of lines: it offers no fill, and is hit on its lines alone.
+///
+/// Attributes of template nodes that are read here; those of a group hold for all that is in it:
+/// - `keeps="fill"`, `keeps="stroke"`, `keeps="fill stroke"`: that look is the node's own, whatever the user
+/// chooses;
+/// - `fill_follows="pen"`: filled with the colour of the pen, as letters and arrow heads are.
+class StyledShape : public CSVGBase
+{
+public:
+    StyledShape(CSVGObj *owner, int type);
+
+    int getSVGType() override { return m_type; }
+    /// The template of the kind.
+    QString getSVG() override;
+    /// A new shape has the page object's pen colour and the template's fill.
+    void initGlobalPropValues() override;
+    void initPropItems() override;
+    /// The page object's fill brush, no brush while its fill is off, where the page object fills the shape.
+    QBrush getFillBrush() override;
+    /// Where the page object fills the shape: fills it with the brush's colour, or with nothing for Qt::NoBrush. A
+    /// brush that makes no difference is neither recorded nor applied. With `notify`, which is how the page object
+    /// tells of a fill that it got elsewhere, the shape repaints in any case.
+    void setFillBrush(const QBrush &brush, bool record, bool notify) override;
+    void setPenColor(QColor color, bool record) override;
+    /// The outline is that of the nodes whose id is "figure" or begins with "figure_"; control points are no part
+    /// of what is filled. A template without such nodes has the outline of everything in it.
+    void updateOutlineRegion() override;
+
+protected:
+    bool isFilledByPageObject() const;
+    /// A node of the template; null when there is none of that id.
+    QZeSvgNode *node(const char *id) const;
+
+private:
+    void readLook();
+    void colorPenFollowers();
+    void fillPageObject(const QBrush &brush);
+
+    int m_type;
+    bool m_lookRead = false;
+    QBrush m_templateFill;
+    QVector<QZeSvgNode *> m_figures;
+    QVector<QZeSvgNode *> m_penFollowers; ///< nodes that are filled with the colour of the pen
+};
+
+} // namespace shapekit

@@ -1,0 +1,54 @@
+#include <kit/text.h>
+
+#include <kit/kind.h>
+
+#include <QtCore/QVector>
+
+namespace shapekit {
+
+namespace {
+
+QVector<const Text *> &knownTexts()
+{
+    static QVector<const Text *> texts;
+    return texts;
+}
+
+} // namespace
+
+Text::Text(const char *english, const char *german)
+    : m_english(QString::fromUtf8(english))
+    , m_german(QString::fromUtf8(german))
+{
+    knownTexts().append(this);
+}
+
+QString Text::key() const
+{
+    return kind().textKey(name().toUpper());
+}
+
+QString Text::name() const
+{
+    QString name;
+    bool startsWord = true;
+    for (const QChar character : m_english) {
+        if (character.isLetterOrNumber())
+            name += startsWord ? character.toUpper() : character;
+        startsWord = !character.isLetterOrNumber();
+    }
+    return name;
+}
+
+QMap<QString, QString> Text::all(const QString &language)
+{
+    QMap<QString, QString> texts;
+    const bool english = language == QLatin1String("en");
+    if (!english && language != QLatin1String("de"))
+        return texts;
+    for (const Text *text : knownTexts())
+        texts.insert(text->key(), english ? text->m_english : text->m_german);
+    return texts;
+}
+
+} // namespace shapekit
