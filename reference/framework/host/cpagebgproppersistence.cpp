@@ -26,6 +26,9 @@ QByteArray toPng(const QPixmap &picture)
 /// Null for data that is no acceptable picture.
 QPixmap fromPng(QByteArray bytes)
 {
+    if (bytes.isEmpty()) {
+        return {};
+    }
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, "PNG");

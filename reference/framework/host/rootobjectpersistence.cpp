@@ -179,7 +179,8 @@ bool CPSRootObject::save(QDataStream &out)
 bool CPSRootObject::load(QDataStream &in)
 {
     HostState state;
-    if (!readState(*this, in, state)) {
+    d->refusedState = !readState(*this, in, state);
+    if (d->refusedState) {
         return false;
     }
     CPSRootObjectPrivate::baseObject(*this)->setZValue(state.stacking);
@@ -201,7 +202,8 @@ bool CPSRootObject::loadJson(QJsonObject &object)
     read(object, state);
     CPageBgProp fill(*fillProp);
     const bool hasFill = fill.loadJson(object.value(fillKey).toObject());
-    if (!isPlausible(state)) {
+    d->refusedState = !isPlausible(state);
+    if (d->refusedState) {
         return false;
     }
     CPSRootObjectPrivate::assignFill(*this, fill);

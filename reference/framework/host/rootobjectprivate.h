@@ -25,6 +25,9 @@ public:
     QSet<int> disabledHandles;
     int subType = 0;
     bool locked = false;
+    /// The last load() or loadJson() of the base class found its data bad. Objects may answer for their own data
+    /// alone.
+    bool refusedState = false;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
     std::unique_ptr<GripDrag> drag;

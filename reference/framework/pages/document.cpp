@@ -9,17 +9,25 @@
 #include <QtWidgets/QUndoStack>
 
 #include <cmath>
+#include <numeric>
 
 namespace pagehost {
 
 Document::Document(QObject *parent)
     : QObject(parent)
 {
+    const QUndoStack *stack = CUndoRedo::GetInstance()->stack();
+    connect(stack, &QUndoStack::indexChanged, this, &Document::followStack);
+    connect(stack, &QUndoStack::cleanChanged, this, &Document::followStack);
 }
 
 Document::~Document()
 {
-    CUndoRedo::GetInstance()->stack()->clear();
+    QUndoStack *stack = CUndoRedo::GetInstance()->stack();
+    stack->disconnect(this);
+    if (m_mayHaveSteps) {
+        stack->clear();
+    }
     if (GetFramework()->currentDocument() == this) {
         setCurrentDocument(nullptr);
     }
@@ -101,6 +109,7 @@ void Document::insertPage(int index, Page *page)
     }
     const int place = qBound(0, index, m_pages.size());
     m_pages.insert(place, page);
+    ++m_revision;
     Q_EMIT pageInserted(place);
     m_current = -1;
     setCurrent(place);
@@ -122,6 +131,7 @@ Page *Document::takePage(int index)
     Page *current = currentPage();
     m_pages.removeAt(index);
     m_outside.append(taken);
+    m_revision += taken->revision() + 1; // which no longer counts by itself
     Q_EMIT pageRemoved(index);
     const int next = current == taken ? qMin(index, m_pages.size() - 1) : m_pages.indexOf(current);
     m_current = current == taken ? -2 : m_current;
@@ -137,6 +147,7 @@ bool Document::movePage(int from, int to)
     }
     Page *current = currentPage();
     m_pages.move(from, to);
+    ++m_revision;
     Q_EMIT pageMoved(from, to);
     setCurrent(m_pages.indexOf(current));
     return true;
@@ -155,6 +166,72 @@ void Document::release(Page *page)
     }
     m_retained.erase(count);
     dropIfUnused(page);
+}
+
+bool Document::getsSteps() const
+{
+    const auto *current = dynamic_cast<Document *>(GetFramework()->currentDocument());
+    return !current || current == this;
+}
+
+void Document::followStack()
+{
+    if (!getsSteps()) {
+        return;
+    }
+    const QUndoStack *stack = CUndoRedo::GetInstance()->stack();
+    m_mayHaveSteps = true;
+    // A stack that was emptied is clean, but nothing has been undone.
+    m_changedBesideSteps = m_changedBesideSteps || (m_changedBySteps && stack->count() == 0);
+    m_changedBySteps = !stack->isClean();
+    setModified(m_changedBySteps || m_changedBesideSteps);
+}
+
+void Document::setModified(bool modified)
+{
+    if (modified == m_modified) {
+        return;
+    }
+    m_modified = modified;
+    Q_EMIT modifiedChanged(modified);
+}
+
+void Document::markSaved()
+{
+    if (getsSteps()) {
+        CUndoRedo::GetInstance()->stack()->setClean();
+    }
+    clearModified();
+}
+
+void Document::clearModified()
+{
+    m_changedBySteps = false;
+    m_changedBesideSteps = false;
+    setModified(false);
+}
+
+void Document::noteChange()
+{
+    ++m_revision;
+    m_changedBesideSteps = true;
+    setModified(true);
+}
+
+quint64 Document::revision() const
+{
+    const auto addPage = [](quint64 sum, const Page *page) { return sum + page->revision(); };
+    return std::accumulate(m_pages.begin(), m_pages.end(), m_revision, addPage);
+}
+
+void Document::setLessons(const QVector<LessonData> &lessons)
+{
+    if (lessons == m_lessons) {
+        return;
+    }
+    m_lessons = lessons;
+    noteChange();
+    Q_EMIT lessonsChanged();
 }
 
 void Document::dropIfUnused(Page *page)

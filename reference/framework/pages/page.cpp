@@ -7,6 +7,7 @@
 #include <host/rootobjectprivate.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace pagehost {
 
@@ -135,6 +136,28 @@ void Page::addObject(CBaseObject *object, int index)
     }
     noteChange();
     Q_EMIT objectAdded(object);
+}
+
+void Page::appendObjects(const QVector<CBaseObject *> &objects)
+{
+    double top = m_objects.isEmpty() ? -std::numeric_limits<double>::infinity() : m_objects.last()->zValue();
+    m_objects.reserve(m_objects.size() + objects.size());
+    for (CBaseObject *object : objects) {
+        if (!object || contains(object)) {
+            continue;
+        }
+        m_outside.removeOne(object);
+        m_objects.append(object);
+        m_members.insert(object);
+        object->SetPage(this);
+        if (!(object->zValue() > top)) {
+            giveStackingNumber(m_objects.size() - 1);
+        }
+        top = object->zValue();
+        m_scene->addItem(object);
+        noteChange();
+        Q_EMIT objectAdded(object);
+    }
 }
 
 int Page::removeObject(CBaseObject *object)

@@ -3,6 +3,9 @@
 #include <framework/framework_global.h>
 #include <framework/idocument.h>
 
+#include <pagehost/extradata.h>
+
+#include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QObject>
 #include <QtCore/QSizeF>
@@ -11,6 +14,19 @@
 namespace pagehost {
 
 class Page;
+
+/// A recorded lesson as a document keeps it: bytes that only lessons themselves understand.
+struct LessonData
+{
+    QString name; ///< for people
+    /// Stands readable in the JSON format when it is the text of a JSON object.
+    QByteArray data;
+};
+
+inline bool operator==(const LessonData &one, const LessonData &other)
+{
+    return one.name == other.name && one.data == other.data;
+}
 
 /// A document: pages in order, one of them current, and the state that page objects ask for.
 ///
@@ -21,9 +37,10 @@ class FRAMEWORK_EXPORT Document : public QObject, public IDocument
     Q_OBJECT
 
 public:
-    /// Has no page yet.
+    /// Has no page yet and is not modified.
     explicit Document(QObject *parent = nullptr);
-    /// Deletes its pages and their objects, clears the undo stack, and stops being the current document.
+    /// Deletes its pages and their objects, clears the undo stack if steps were made while the document was not
+    /// kept from view by another current one, and stops being the current document.
     ~Document() override;
 
     int documentState() const override { return m_state; }
@@ -73,7 +90,32 @@ public:
     void retain(Page *page);
     void release(Page *page);
 
+    /// @name What has been changed since the document was saved
+    /// @{
+    /// True when the undo stack is not where it was at markSaved(), or noteChange() was called since. Steps made
+    /// while another document is the current one are that one's.
+    bool isModified() const { return m_modified; }
+    /// The document as it is now is what is saved: marks this place of the undo stack.
+    void markSaved();
+    /// Not modified, and the undo stack is left alone: for a document that has just been read.
+    void clearModified();
+    /// Tells of a change that leaves no undo step.
+    void noteChange();
+    /// Counts up with every change of what the document's pages show and with noteChange().
+    quint64 revision() const;
+    /// @}
+
+    /// @name What is saved with the pages
+    /// @{
+    QVector<LessonData> lessons() const { return m_lessons; }
+    void setLessons(const QVector<LessonData> &lessons);
+    ExtraData extraData() const { return m_extraData; }
+    void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
+    /// @}
+
 Q_SIGNALS:
+    void modifiedChanged(bool modified);
+    void lessonsChanged();
     void pageInserted(int index);
     /// After the page has left the order.
     void pageRemoved(int index);
@@ -87,6 +129,9 @@ Q_SIGNALS:
 private:
     void setCurrent(int index);
     void dropIfUnused(Page *page);
+    bool getsSteps() const;
+    void followStack();
+    void setModified(bool modified);
 
     int m_state = 0;
     int m_blocked = 0;
@@ -95,6 +140,13 @@ private:
     QVector<Page *> m_pages;
     QVector<Page *> m_outside; ///< owned pages that are not in the order
     QHash<Page *, int> m_retained;
+    QVector<LessonData> m_lessons;
+    ExtraData m_extraData;
+    bool m_modified = false;
+    bool m_changedBySteps = false;     ///< the undo stack is not where it was at markSaved()
+    bool m_changedBesideSteps = false; ///< noteChange() since markSaved()
+    bool m_mayHaveSteps = false;
+    quint64 m_revision = 0; ///< of what is not on pages
 };
 
 } // namespace pagehost

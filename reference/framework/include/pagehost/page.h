@@ -61,6 +61,9 @@ public:
     /// Puts an object on the page and takes it over. `index` is its place in stacking order, -1 the top. An object
     /// that is on the page already is left alone; one of another page must be removed there first.
     void addObject(CBaseObject *object, int index = -1);
+    /// Puts objects on top in the order given and takes them over. Their stacking numbers (zValue()) stay as they
+    /// are where they rise.
+    void appendObjects(const QVector<CBaseObject *> &objects);
     /// Takes an object off the page, unselected. It stays alive while retained, else it is deleted when control
     /// returns to the event loop. Gives the place it had in stacking order, -1 when it was not on the page.
     int removeObject(CBaseObject *object);
@@ -72,6 +75,9 @@ public:
     /// Keeps an object alive off the page until the matching release(): undo steps and lessons hold plain pointers.
     void retain(CBaseObject *object);
     void release(CBaseObject *object);
+
+    ExtraData extraData() const { return m_extraData; }
+    void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
 
     /// Counts up with every change of what the page shows.
     quint64 revision() const { return m_revision; }
@@ -98,6 +104,7 @@ private:
     Document *m_document;
     QSizeF m_size;
     CPageBgProp m_background;
+    ExtraData m_extraData;
     std::unique_ptr<PageScene> m_scene;
     QVector<CBaseObject *> m_objects;
     QSet<const CBaseObject *> m_members; ///< the same objects, to be found at once

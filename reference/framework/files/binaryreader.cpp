@@ -1,0 +1,247 @@
+#include <files/documentcodec.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+
+#include <files/chunks.h>
+#include <files/objectrecordstream.h>
+
+#include <QtCore/QJsonDocument>
+
+namespace pagehost {
+
+namespace {
+
+/// Reads a document chunk by chunk. What comes before the first page belongs to the document, what comes behind a
+/// page to that page.
+class BinaryReader
+{
+public:
+    BinaryReader(const QByteArray &bytes, const ObjectFactory &factory, QVector<FileMessage> &messages)
+        : m_hasSignature(chunks::Reader::hasSignature(bytes))
+        , m_chunks(bytes)
+        , m_factory(factory)
+        , m_messages(messages)
+    {
+    }
+
+    ~BinaryReader() { qDeleteAll(m_objects); }
+    Q_DISABLE_COPY(BinaryReader)
+
+    std::unique_ptr<Document> read();
+
+private:
+    void take(const chunks::Chunk &chunk);
+    void takeVersion(const chunks::Chunk &chunk);
+    void takeLesson(const chunks::Chunk &chunk);
+    void takePage(const chunks::Chunk &chunk);
+    void takeObject(const chunks::Chunk &chunk);
+    void takeExtra(const chunks::Chunk &chunk);
+    void finishPage();
+    void reportGap();
+    void reportMissing();
+    void report(FileMessage message, qint64 offset);
+
+    bool m_hasSignature;
+    chunks::Reader m_chunks;
+    const ObjectFactory &m_factory;
+    QVector<FileMessage> &m_messages;
+    std::unique_ptr<Document> m_document = std::make_unique<Document>();
+    Page *m_page = nullptr;
+    ExtraData m_extra;                ///< of the document, then of the present page
+    QVector<CBaseObject *> m_objects; ///< of the present page
+    QVector<LessonData> m_lessons;
+    quint32 m_version = 0;
+    qint64 m_objectsClaimed = 0; ///< by the present page
+    qint64 m_objectsSeen = 0;
+    qint64 m_pagesClaimed = 0;
+    bool m_isComplete = false;
+};
+
+std::unique_ptr<Document> BinaryReader::read()
+{
+    const CurrentDocumentScope scope(m_document.get());
+    chunks::Chunk chunk;
+    while (m_chunks.next(chunk)) {
+        reportGap();
+        take(chunk);
+        if (m_version > formatVersion) {
+            m_messages = {error(QStringLiteral("IDS_FILE_NEWER_VERSION"),
+                                {QString::number(m_version), QString::number(formatVersion)})};
+            return nullptr;
+        }
+    }
+    reportGap();
+    finishPage();
+    if (m_document->pageCount() == 0 && !m_isComplete) {
+        m_messages = {
+            error(m_hasSignature ? QStringLiteral("IDS_FILE_NO_PAGE") : QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
+        return nullptr;
+    }
+    reportMissing();
+    m_document->setLessons(m_lessons);
+    return std::move(m_document);
+}
+
+void BinaryReader::take(const chunks::Chunk &chunk)
+{
+    if (chunk.tag == chunks::objectTag) {
+        takeObject(chunk);
+    } else if (chunk.tag == chunks::pageTag) {
+        takePage(chunk);
+    } else if (chunk.tag == chunks::lessonTag) {
+        takeLesson(chunk);
+    } else if (chunk.tag == chunks::versionTag) {
+        takeVersion(chunk);
+    } else if (chunk.tag == chunks::endTag) {
+        m_isComplete = !chunk.isDamaged;
+    } else {
+        takeExtra(chunk);
+    }
+}
+
+void BinaryReader::takeVersion(const chunks::Chunk &chunk)
+{
+    if (chunk.isDamaged) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        return;
+    }
+    QDataStream in(chunk.payload);
+    quint32 pages = 0;
+    in >> m_version >> pages;
+    m_pagesClaimed = pages;
+}
+
+void BinaryReader::takeLesson(const chunks::Chunk &chunk)
+{
+    QDataStream in(chunk.payload);
+    in.setVersion(chunks::streamVersion);
+    LessonData lesson;
+    in >> lesson.name >> lesson.data;
+    if (chunk.isDamaged || in.status() != QDataStream::Ok) {
+        report(warning(QStringLiteral("IDS_FILE_LESSON_BROKEN")), chunk.offset);
+        return;
+    }
+    m_lessons.append(lesson);
+}
+
+void BinaryReader::takePage(const chunks::Chunk &chunk)
+{
+    finishPage();
+    QDataStream in(chunk.payload);
+    in.setVersion(chunks::streamVersion);
+    double width = 0;
+    double height = 0;
+    quint32 objects = 0;
+    in >> width >> height >> objects;
+    const QSizeF size(width, height);
+    m_page = m_document->appendPage(isPageSize(size) ? size : Document::defaultPageSize());
+    CPageBgProp background = m_page->background();
+    const bool hasBackground = background.load(in);
+    if (hasBackground) {
+        m_page->setBackground(background);
+    }
+    m_objectsClaimed = chunk.isDamaged ? 0 : objects;
+    if (chunk.isDamaged || !isPageSize(size) || !hasBackground) {
+        report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), chunk.offset);
+    }
+}
+
+void BinaryReader::takeObject(const chunks::Chunk &chunk)
+{
+    ++m_objectsSeen;
+    if (!m_page) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        m_page = m_document->appendPage();
+    }
+    ObjectRecord record;
+    if (!readRecord(chunk.payload, record)) {
+        report(warning(QStringLiteral("IDS_FILE_OBJECT_LOST")), chunk.offset);
+        return;
+    }
+    FileMessage message = warning(QString());
+    m_objects.append(m_factory.make(record, message));
+    if (message.textKey.isEmpty() && chunk.isDamaged) {
+        message.textKey = QStringLiteral("IDS_FILE_OBJECT_DAMAGED");
+    }
+    if (!message.textKey.isEmpty()) {
+        report(message, chunk.offset);
+    }
+}
+
+void BinaryReader::takeExtra(const chunks::Chunk &chunk)
+{
+    if (chunk.isDamaged) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        return;
+    }
+    if (chunk.tag == chunks::membersTag) {
+        m_extra.members = QJsonDocument::fromJson(chunk.payload).object();
+        return;
+    }
+    const QByteArray data(chunk.payload.constData(), chunk.payload.size());
+    m_extra.chunks.append({chunk.tag, data});
+}
+
+/// Of the document when no page has begun.
+void BinaryReader::finishPage()
+{
+    if (!m_page) {
+        m_document->setExtraData(m_extra);
+        m_extra = {};
+        return;
+    }
+    m_page->setExtraData(m_extra);
+    m_page->appendObjects(m_objects);
+    if (m_objectsSeen < m_objectsClaimed) {
+        report(warning(QStringLiteral("IDS_FILE_OBJECTS_MISSING"),
+                       {QString::number(m_objectsClaimed - m_objectsSeen)}),
+               -1);
+    }
+    m_extra = {};
+    m_objects.clear();
+    m_objectsSeen = 0;
+    m_objectsClaimed = 0;
+}
+
+void BinaryReader::reportGap()
+{
+    if (m_chunks.skipped() > 0) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), m_chunks.offset());
+    }
+}
+
+void BinaryReader::reportMissing()
+{
+    const qint64 missing = m_pagesClaimed - m_document->pageCount();
+    if (missing > 0) {
+        addMessage(m_messages, warning(QStringLiteral("IDS_FILE_PAGES_MISSING"), {QString::number(missing)}));
+    }
+    if (!m_isComplete) {
+        addMessage(m_messages, warning(QStringLiteral("IDS_FILE_ENDS_EARLY")));
+    }
+}
+
+void BinaryReader::report(FileMessage message, qint64 offset)
+{
+    message.page = m_document->pageCount();
+    message.object = int(m_objectsSeen);
+    message.offset = offset;
+    addMessage(m_messages, message);
+}
+
+} // namespace
+
+bool binaryformat::isFormat(const QByteArray &bytes)
+{
+    return chunks::Reader::hasSignature(bytes);
+}
+
+std::unique_ptr<Document> binaryformat::read(const QByteArray &bytes, const ObjectFactory &factory,
+                                             QVector<FileMessage> &messages)
+{
+    return BinaryReader(bytes, factory, messages).read();
+}
+
+} // namespace pagehost

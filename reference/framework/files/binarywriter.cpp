@@ -1,0 +1,75 @@
+#include <files/documentcodec.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+
+#include <files/chunks.h>
+#include <files/objectrecordstream.h>
+
+#include <QtCore/QJsonDocument>
+
+namespace pagehost {
+
+namespace {
+
+bool writeExtraData(chunks::Writer &writer, const ExtraData &extra)
+{
+    bool done = extra.members.isEmpty() ||
+                writer.write(chunks::membersTag, QJsonDocument(extra.members).toJson(QJsonDocument::Compact));
+    for (const ExtraData::Chunk &chunk : extra.chunks) {
+        done = done && writer.write(chunk.tag, chunk.data);
+    }
+    return done;
+}
+
+bool writeLesson(chunks::Writer &writer, const LessonData &lesson)
+{
+    writer.begin(chunks::lessonTag) << lesson.name << lesson.data;
+    return writer.end();
+}
+
+bool writePage(chunks::Writer &writer, const Page &page)
+{
+    QDataStream &out = writer.begin(chunks::pageTag);
+    out << page.size().width() << page.size().height() << quint32(page.objectCount());
+    const bool hasBackground = page.background().save(out);
+    bool done = writer.end() && hasBackground && writeExtraData(writer, page.extraData());
+    const QVector<CBaseObject *> objects = page.objects();
+    for (CBaseObject *object : objects) {
+        done = done && writeObject(writer.begin(chunks::objectTag), object) && writer.end();
+        if (!done) {
+            return false;
+        }
+    }
+    return done;
+}
+
+bool writeDocument(chunks::Writer &writer, const Document &document)
+{
+    writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount());
+    bool done = writer.end() && writeExtraData(writer, document.extraData());
+    const QVector<LessonData> lessons = document.lessons();
+    for (const LessonData &lesson : lessons) {
+        done = done && writeLesson(writer, lesson);
+    }
+    const QVector<Page *> pages = document.pages();
+    for (const Page *page : pages) {
+        done = done && writePage(writer, *page);
+    }
+    return done && writer.write(chunks::endTag, QByteArray());
+}
+
+} // namespace
+
+QByteArray binaryformat::write(Document &document, FileMessage &problem)
+{
+    chunks::Writer writer;
+    if (!writeDocument(writer, document)) {
+        problem = error(QStringLiteral("IDS_FILE_TOO_LARGE"));
+        return {};
+    }
+    return writer.bytes();
+}
+
+} // namespace pagehost

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDataStream>
+
+/// The frame of the binary format: a signature, then chunks one after the other, each a header of 16 bytes (tag,
+/// length of the payload, checksum of the payload, checksum of the three before) and a payload. Numbers are
+/// big-endian.
+namespace chunks {
+
+/// Unlike any text, and damaged by everything that takes it for one.
+constexpr char signature[] = "\x89"
+                             "BRD\r\n\x1a\n";
+constexpr int signatureSize = 8;
+constexpr int headerSize = 16;
+constexpr int tagSize = 4;
+
+constexpr char versionTag[] = "VERS";
+constexpr char lessonTag[] = "LESS";
+constexpr char membersTag[] = "JSON";
+constexpr char pageTag[] = "PAGE";
+constexpr char objectTag[] = "OBJT";
+constexpr char endTag[] = "DONE";
+
+/// Beyond this a file is refused before memory runs out: Qt's byte arrays end at 2 GiB.
+constexpr int mostBytes = 1 << 30;
+
+/// Values of one version of Qt, whatever a later one makes the default.
+constexpr QDataStream::Version streamVersion = QDataStream::Qt_5_15;
+
+/// Four letters.
+bool isTag(const QByteArray &tag);
+
+/// Writes chunks to the end of a byte array.
+class Writer
+{
+public:
+    /// Begins with the signature.
+    Writer();
+
+    /// Everything streamed until end() is the payload.
+    QDataStream &begin(const char *tag);
+    /// False when the payload or the whole has become too large; the chunk is then taken back.
+    bool end();
+    /// A chunk whose payload is there already.
+    bool write(const QByteArray &tag, const QByteArray &payload);
+    QByteArray bytes() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+    QDataStream m_stream;
+    int m_start = 0; ///< of the open chunk's header
+};
+
+struct Chunk
+{
+    QByteArray tag;
+    QByteArray payload; ///< refers to the reader's bytes
+    qint64 offset = 0;  ///< of the header
+    bool isDamaged = false;
+};
+
+/// Finds chunks, damaged ones and those behind damage too.
+class Reader
+{
+public:
+    /// Refers to `bytes`, which must outlive the reader and all chunks.
+    explicit Reader(const QByteArray &bytes);
+
+    static bool hasSignature(const QByteArray &bytes);
+    /// The next chunk; false at the end.
+    bool next(Chunk &chunk);
+    /// Bytes that next() had to pass over before the chunk, since they are no chunk.
+    qint64 skipped() const { return m_skipped; }
+    /// Whether the bytes ended inside a chunk or with what is no chunk.
+    bool endsEarly() const { return m_endsEarly; }
+    qint64 offset() const { return m_offset; }
+
+private:
+    bool isHeader(qint64 offset) const;
+
+    QByteArray m_bytes;
+    qint64 m_offset = 0;
+    qint64 m_skipped = 0;
+    bool m_endsEarly = false;
+};
+
+} // namespace chunks

@@ -1,0 +1,151 @@
+#include <pagehost/documentfile.h>
+
+#include <framework/cbaseobject.h>
+
+#include <files/chunks.h>
+#include <files/documentcodec.h>
+#include <files/durablefile.h>
+#include <files/objectrecordstream.h>
+#include <files/placeholderobject.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <cstring>
+
+namespace pagehost {
+
+namespace {
+
+FileMessage writeProblem(const WriteResult &result, const QString &file)
+{
+    return result.outcome == WriteResult::ShortWrite
+               ? error(QStringLiteral("IDS_FILE_DISK_FULL"), {file})
+               : error(QStringLiteral("IDS_FILE_CANNOT_WRITE"), {file, result.problem});
+}
+
+bool looksLikeJson(const QByteArray &bytes)
+{
+    for (const char character : bytes) {
+        if (!std::strchr(" \t\r\n\xef\xbb\xbf", character)) {
+            return character == '{';
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+DocumentFormat documentFormatOf(const QString &fileName)
+{
+    return fileName.endsWith(QLatin1String(".board.json"), Qt::CaseInsensitive) ? DocumentFormat::Json
+                                                                                : DocumentFormat::Binary;
+}
+
+SaveResult saveDocument(Document &document, const QString &file)
+{
+    SaveResult result;
+    const QByteArray bytes = encodeDocument(document, documentFormatOf(file), &result.problem);
+    if (bytes.isEmpty()) {
+        return result;
+    }
+    const WriteResult written = writeDurably(file, bytes);
+    result.saved = written.outcome == WriteResult::Written;
+    if (!result.saved) {
+        result.problem = writeProblem(written, file);
+    }
+    return result;
+}
+
+OpenResult openDocument(const QString &file, const ObjectRegistry &registry)
+{
+    QFile in(file);
+    OpenResult result;
+    const bool isOpen = in.open(QIODevice::ReadOnly);
+    // A device could go on for ever.
+    if (isOpen && (!QFileInfo(file).isFile() || in.size() > chunks::mostBytes)) {
+        result.messages = {error(QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
+        return result;
+    }
+    const QByteArray bytes = isOpen ? in.readAll() : QByteArray();
+    if (in.error() != QFileDevice::NoError) {
+        result.messages = {error(QStringLiteral("IDS_FILE_CANNOT_READ"), {file, in.errorString()})};
+        return result;
+    }
+    return decodeDocument(bytes, registry);
+}
+
+QByteArray encodeDocument(Document &document, DocumentFormat format, FileMessage *problem)
+{
+    FileMessage ignored;
+    FileMessage &told = problem ? *problem : ignored;
+    return format == DocumentFormat::Json ? jsonformat::write(document, told) : binaryformat::write(document, told);
+}
+
+OpenResult decodeDocument(const QByteArray &bytes, const ObjectRegistry &registry)
+{
+    OpenResult result;
+    const ObjectFactory factory(registry);
+    result.document = !binaryformat::isFormat(bytes) && looksLikeJson(bytes)
+                          ? jsonformat::read(bytes, factory, result.messages)
+                          : binaryformat::read(bytes, factory, result.messages);
+    if (!result.document) {
+        return result;
+    }
+    if (result.document->pageCount() == 0) {
+        result.document->appendPage();
+    }
+    result.document->setCurrentIndex(0);
+    result.document->clearModified();
+    return result;
+}
+
+QString objectsMimeType()
+{
+    return QStringLiteral("application/x-gliololok-objects");
+}
+
+QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
+{
+    chunks::Writer writer;
+    for (CBaseObject *object : objects) {
+        if (!writeObject(writer.begin(chunks::objectTag), object) || !writer.end()) {
+            return {};
+        }
+    }
+    return writer.write(chunks::endTag, QByteArray()) ? writer.bytes() : QByteArray();
+}
+
+QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
+                                     QVector<FileMessage> *messages)
+{
+    QVector<CBaseObject *> objects;
+    if (!chunks::Reader::hasSignature(bytes)) {
+        return objects;
+    }
+    const ObjectFactory factory(registry);
+    chunks::Reader reader(bytes);
+    chunks::Chunk chunk;
+    while (reader.next(chunk)) {
+        ObjectRecord record;
+        if (chunk.tag != chunks::objectTag || !readRecord(chunk.payload, record)) {
+            continue;
+        }
+        record.id = 0; // the original may be on the page
+        FileMessage message = warning(QString());
+        objects.append(factory.make(record, message));
+        if (messages && !message.textKey.isEmpty()) {
+            message.object = objects.size();
+            message.offset = chunk.offset;
+            addMessage(*messages, message);
+        }
+    }
+    return objects;
+}
+
+bool isPlaceholder(const CBaseObject *object)
+{
+    return dynamic_cast<const PlaceholderObject *>(object) != nullptr;
+}
+
+} // namespace pagehost

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonValue>
+#include <QtCore/QString>
+
+namespace pagehost {
+
+/// Goes over JSON text value by value, without recursion, and says where it stumbles. Only as much syntax is
+/// checked as is needed to find where values end; what is inside them is for parseJson().
+class JsonCursor
+{
+public:
+    /// Refers to the text.
+    explicit JsonCursor(const QByteArray &text);
+
+    qint64 offset() const { return m_pos; }
+    void setOffset(qint64 offset) { m_pos = offset; }
+    bool atEnd() const { return m_pos >= m_text.size(); }
+    /// The next character that is no white space, without taking it; 0 at the end.
+    char peek();
+    /// Takes `character` when it is the next.
+    bool take(char character);
+
+    /// Takes a member's key and the colon behind it.
+    bool takeKey(QByteArray &key);
+    /// Takes one value, whatever it is; `value` refers to its text. False when it does not end or is none; the
+    /// cursor then stands where it was.
+    bool takeValue(QByteArray &value);
+    /// Where an object begins whose first member is `"kind"` or `"page"`, at `from` or behind it; -1 for nowhere.
+    qint64 findMarker(qint64 from) const;
+    /// Whether the object that begins at `offset` is one of a page.
+    bool isPageMarker(qint64 offset) const;
+
+private:
+    bool takeString(QByteArray &contents);
+    bool skipBracketed();
+    bool hasFirstKey(qint64 offset, const char *key) const;
+
+    QByteArray m_text;
+    qint64 m_pos = 0;
+};
+
+struct JsonProblem
+{
+    bool isThere = false;
+    QString text; ///< empty for none
+    qint64 offset = 0;
+};
+
+/// The value of a text; undefined, with `problem` set, for one that is not valid or nested too deeply.
+QJsonValue parseJson(const QByteArray &text, JsonProblem &problem);
+
+/// Lines and columns of offsets, cheap for offsets that rise.
+class LineCounter
+{
+public:
+    explicit LineCounter(const QByteArray &text)
+        : m_text(text)
+    {
+    }
+    /// Both from 1; the column in bytes.
+    void locate(qint64 offset, int &line, int &column);
+
+private:
+    QByteArray m_text;
+    qint64 m_lineStart = 0;
+    qint64 m_pos = 0;
+    int m_line = 1;
+};
+
+} // namespace pagehost

@@ -1,0 +1,178 @@
+#include <files/documentcodec.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/objectid.h>
+#include <pagehost/objectregistry.h>
+#include <pagehost/page.h>
+
+#include <files/chunks.h>
+#include <files/jsoncursor.h>
+#include <files/jsonnames.h>
+#include <files/jsonwriter.h>
+#include <files/objectrecord.h>
+#include <files/placeholderobject.h>
+
+#include <QtCore/QJsonDocument>
+
+namespace pagehost {
+
+namespace {
+
+using namespace jsonnames;
+
+bool isJson(const QByteArray &text)
+{
+    JsonProblem problem;
+    parseJson(text, problem);
+    return !problem.isThere;
+}
+
+QByteArray streamed(CBaseObject *object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(chunks::streamVersion);
+    saveToStream(object, out);
+    return bytes;
+}
+
+void writeHead(JsonWriter &writer, const ObjectRecord &record)
+{
+    writer.member(kindName, record.kindId);
+    if (record.id) {
+        writer.member(idName, double(record.id));
+    }
+    if (record.place) {
+        const QPointF pos = record.place->pos;
+        writer.member(placeName,
+                      QJsonObject{{xName, pos.x()}, {yName, pos.y()}, {lockedName, record.place->locked}});
+    }
+}
+
+void writePlaceholder(JsonWriter &writer, const ObjectRecord &record)
+{
+    writeHead(writer, record);
+    if (record.encoding == ObjectRecord::Stream) {
+        writer.member(streamName, record.data.toBase64());
+    } else if (record.encoding == ObjectRecord::Json && isJson(record.data)) {
+        writer.rawMember(dataName, record.data);
+    } else {
+        writer.member(textName, record.data.toBase64());
+    }
+}
+
+bool writeObject(JsonWriter &writer, CBaseObject *object)
+{
+    writer.beginObject();
+    if (const auto *placeholder = dynamic_cast<PlaceholderObject *>(object)) {
+        writePlaceholder(writer, placeholder->record());
+        writer.endObject();
+        return true;
+    }
+    ObjectRecord record;
+    record.kindId = kindIdOf(object);
+    record.id = objectId(object);
+    writeHead(writer, record);
+    const int start = writer.size();
+    QJsonObject data;
+    const bool isSaved = object->saveJson(data);
+    writer.member(dataName, data);
+    // What JSON has no numbers for is kept as a stream has it.
+    if (!writer.isExact()) {
+        writer.cutBack(start);
+        writer.member(streamName, streamed(object).toBase64());
+    }
+    writer.endObject();
+    return isSaved;
+}
+
+void writeExtraData(JsonWriter &writer, const ExtraData &extra)
+{
+    for (auto member = extra.members.begin(); member != extra.members.end(); ++member) {
+        writer.member(member.key().toUtf8().constData(), member.value());
+    }
+    if (extra.chunks.isEmpty()) {
+        return;
+    }
+    writer.beginArray(chunksName);
+    for (const ExtraData::Chunk &chunk : extra.chunks) {
+        writer.beginObject();
+        writer.member(tagName, chunk.tag);
+        writer.member(bytesName, chunk.data.toBase64());
+        writer.endObject();
+    }
+    writer.endArray();
+}
+
+bool writePage(JsonWriter &writer, const Page &page, int number)
+{
+    QJsonObject background;
+    page.background().saveJson(background);
+    writer.beginObject();
+    writer.member(pageName, number);
+    writer.member(widthName, page.size().width());
+    writer.member(heightName, page.size().height());
+    writer.member(backgroundName, background);
+    writeExtraData(writer, page.extraData());
+    writer.beginArray(objectsName);
+    bool done = true;
+    const QVector<CBaseObject *> objects = page.objects();
+    for (CBaseObject *object : objects) {
+        done = done && writeObject(writer, object) && writer.size() <= chunks::mostBytes;
+        if (!done) {
+            return false;
+        }
+    }
+    writer.endArray();
+    writer.endObject();
+    return done;
+}
+
+/// As an object where the bytes are the text of one and come out of it again.
+void writeLesson(JsonWriter &writer, const LessonData &lesson)
+{
+    writer.beginObject();
+    writer.member(nameName, lesson.name);
+    JsonProblem problem;
+    const QJsonObject data =
+        lesson.data.startsWith('{') ? parseJson(lesson.data, problem).toObject() : QJsonObject();
+    const bool isText = !data.isEmpty() && QJsonDocument(data).toJson(QJsonDocument::Compact) == lesson.data;
+    if (isText) {
+        writer.member(dataName, data);
+    } else {
+        writer.member(bytesName, lesson.data.toBase64());
+    }
+    writer.endObject();
+}
+
+} // namespace
+
+QByteArray jsonformat::write(Document &document, FileMessage &problem)
+{
+    JsonWriter writer;
+    writer.beginObject();
+    writer.member(formatName, QByteArray(formatText));
+    writer.member(versionName, int(formatVersion));
+    writeExtraData(writer, document.extraData());
+    const QVector<LessonData> lessons = document.lessons();
+    if (!lessons.isEmpty()) {
+        writer.beginArray(lessonsName);
+        for (const LessonData &lesson : lessons) {
+            writeLesson(writer, lesson);
+        }
+        writer.endArray();
+    }
+    writer.beginArray(pagesName);
+    for (int index = 0; index < document.pageCount(); ++index) {
+        if (!writePage(writer, *document.page(index), index + 1)) {
+            problem = error(QStringLiteral("IDS_FILE_TOO_LARGE"));
+            return {};
+        }
+    }
+    writer.endArray();
+    writer.endObject();
+    return writer.text();
+}
+
+} // namespace pagehost

@@ -1,0 +1,33 @@
+#pragma once
+
+/// The member names of the JSON format.
+namespace pagehost::jsonnames {
+
+constexpr char formatName[] = "format";
+constexpr char formatText[] = "gliololok board";
+constexpr char versionName[] = "version";
+constexpr char lessonsName[] = "lessons";
+constexpr char pagesName[] = "pages";
+
+constexpr char pageName[] = "page";
+constexpr char widthName[] = "width";
+constexpr char heightName[] = "height";
+constexpr char backgroundName[] = "background";
+constexpr char objectsName[] = "objects";
+
+constexpr char kindName[] = "kind";
+constexpr char idName[] = "id";
+constexpr char placeName[] = "place";
+constexpr char xName[] = "x";
+constexpr char yName[] = "y";
+constexpr char lockedName[] = "locked";
+constexpr char dataName[] = "data";
+constexpr char streamName[] = "stream";
+constexpr char textName[] = "text";
+
+constexpr char nameName[] = "name";
+constexpr char chunksName[] = "chunks";
+constexpr char tagName[] = "tag";
+constexpr char bytesName[] = "bytes";
+
+} // namespace pagehost::jsonnames

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <pagehost/documentfile.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QPointF>
+#include <QtCore/QString>
+
+#include <optional>
+
+class CBaseObject;
+
+namespace pagehost {
+
+/// What a file holds of one object, whichever format it is in.
+struct ObjectRecord
+{
+    enum Encoding : quint8 {
+        Stream = 0, ///< what the object's save() wrote
+        Json = 1,   ///< the text of what the object's saveJson() wrote
+        Text = 2    ///< text of a JSON file that is no object
+    };
+    /// Where the user put a placeholder, whose data say something else.
+    struct Place
+    {
+        QPointF pos; ///< of the item's origin, scene coordinates
+        bool locked = false;
+    };
+
+    QString kindId;
+    quint32 id = 0; ///< objectId()
+    Encoding encoding = Stream;
+    QByteArray data;
+    QJsonObject json; ///< what `data` say, when they have been parsed already
+    std::optional<Place> place;
+};
+
+/// The streamed state of an object that is no placeholder; false when it could not be saved.
+bool saveToStream(CBaseObject *object, QDataStream &out);
+
+/// Makes objects of records, in the name of a document that they will belong to.
+class ObjectFactory
+{
+public:
+    explicit ObjectFactory(const ObjectRegistry &registry)
+        : m_registry(registry)
+    {
+    }
+
+    /// Never null: what cannot be made is a placeholder, and `message` gets its text. The caller owns the object.
+    CBaseObject *make(const ObjectRecord &record, FileMessage &message) const;
+
+private:
+    CBaseObject *load(const ObjectRecord &record) const;
+
+    const ObjectRegistry &m_registry;
+};
+
+} // namespace pagehost

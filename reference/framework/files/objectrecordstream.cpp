@@ -1,0 +1,85 @@
+#include <files/objectrecordstream.h>
+
+#include <pagehost/objectid.h>
+#include <pagehost/objectregistry.h>
+
+#include <files/chunks.h>
+#include <files/placeholderobject.h>
+
+#include <cmath>
+
+namespace pagehost {
+
+namespace {
+
+// The first byte of a payload: the encoding in the lower bits, and what stands between the kind and the data.
+constexpr quint8 encodingBits = 0x0f;
+constexpr quint8 hasId = 0x10;
+constexpr quint8 hasPlace = 0x20;
+constexpr quint8 knownBits = encodingBits | hasId | hasPlace;
+
+/// Longer ones are damage.
+constexpr int longestKindId = 1000;
+
+void writeHead(QDataStream &out, const ObjectRecord &record)
+{
+    const quint8 flags = quint8(record.encoding) | (record.id ? hasId : 0) | (record.place ? hasPlace : 0);
+    const QByteArray kindId = record.kindId.toUtf8();
+    out << flags << quint16(kindId.size());
+    out.writeRawData(kindId.constData(), kindId.size());
+    if (record.id) {
+        out << record.id;
+    }
+    if (record.place) {
+        out << record.place->pos << record.place->locked;
+    }
+}
+
+} // namespace
+
+bool writeObject(QDataStream &out, CBaseObject *object)
+{
+    if (const auto *placeholder = dynamic_cast<PlaceholderObject *>(object)) {
+        const ObjectRecord record = placeholder->record();
+        writeHead(out, record);
+        out.writeRawData(record.data.constData(), record.data.size());
+        return out.status() == QDataStream::Ok;
+    }
+    ObjectRecord record;
+    record.kindId = kindIdOf(object);
+    record.id = objectId(object);
+    writeHead(out, record);
+    return saveToStream(object, out);
+}
+
+bool readRecord(const QByteArray &payload, ObjectRecord &record)
+{
+    QDataStream in(payload);
+    in.setVersion(chunks::streamVersion);
+    quint8 flags = 0;
+    quint16 kindSize = 0;
+    in >> flags >> kindSize;
+    const int kindStart = int(in.device()->pos());
+    if (in.status() != QDataStream::Ok || (flags & ~knownBits) || kindSize > longestKindId ||
+        kindSize > payload.size() - kindStart) {
+        return false;
+    }
+    record.kindId = QString::fromUtf8(payload.constData() + kindStart, kindSize);
+    record.encoding = ObjectRecord::Encoding(flags & encodingBits);
+    in.skipRawData(kindSize);
+    if (flags & hasId) {
+        in >> record.id;
+    }
+    if (flags & hasPlace) {
+        ObjectRecord::Place place;
+        in >> place.pos >> place.locked;
+        if (std::isfinite(place.pos.x()) && std::isfinite(place.pos.y())) {
+            record.place = place;
+        }
+    }
+    const int start = int(in.device()->pos());
+    record.data = QByteArray::fromRawData(payload.constData() + start, payload.size() - start);
+    return in.status() == QDataStream::Ok && record.encoding <= ObjectRecord::Text;
+}
+
+} // namespace pagehost

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QVector>
+
+namespace pagehost {
+
+/// Parts of a file that this version does not know, kept so that saving writes them back.
+struct ExtraData
+{
+    struct Chunk
+    {
+        QByteArray tag; ///< four characters
+        QByteArray data;
+    };
+    QVector<Chunk> chunks; ///< of the binary format
+    QJsonObject members;   ///< of the JSON format
+
+    bool isEmpty() const { return chunks.isEmpty() && members.isEmpty(); }
+};
+
+inline bool operator==(const ExtraData::Chunk &one, const ExtraData::Chunk &other)
+{
+    return one.tag == other.tag && one.data == other.data;
+}
+
+inline bool operator==(const ExtraData &one, const ExtraData &other)
+{
+    return one.chunks == other.chunks && one.members == other.members;
+}
+
+} // namespace pagehost
