@@ -8,6 +8,7 @@ void registerDrawBenchmarks();
 void registerDragBenchmarks();
 void registerPageBenchmarks();
 void registerThreadBenchmarks();
+void registerPathTextBenchmarks();
 
 int main(int argc, char **argv)
 {
@@ -18,6 +19,7 @@ int main(int argc, char **argv)
     registerDragBenchmarks();
     registerPageBenchmarks();
     registerThreadBenchmarks();
+    registerPathTextBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

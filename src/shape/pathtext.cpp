@@ -55,80 +55,90 @@ template<typename Belongs> int scanEnd(const QString &path, int letter, int maxi
     return end > lastEnd ? notFound : end;
 }
 
-/// An edit of one piece: the new path, and where the unedited text goes on in the old one.
+/// An edit of one piece: what stands from `begin` up to `end` gives way to `text`.
 struct Edit
 {
-    QString path;
-    int next = notFound;
-};
+    int begin = 0;
+    int end = notFound;
+    QString text;
 
-Edit replaced(const QString &path, int begin, int end, const QString &text)
-{
-    return {path.left(begin) + text + path.mid(end), end};
-}
+    bool isDone() const { return end != notFound; }
+    int shortening() const { return end - begin - text.size(); }
+};
 
 Edit grownSingle(const QString &path, int letter, int maximum, double delta)
 {
     const int end = scanEnd(path, letter, maximum, isNumberCharacter);
     if (end == notFound)
-        return {path};
-    return replaced(path, letter + 1, end, grownNumber(path.mid(letter + 1, end - letter - 1), delta));
+        return {};
+    return {letter + 1, end, grownNumber(path.mid(letter + 1, end - letter - 1), delta)};
 }
 
 Edit grownLineX(const QString &path, int letter, double delta)
 {
     const int end = scanEnd(path, letter, maxOtherCharacters, isBeforeSeparator);
     if (end == notFound || end >= path.size())
-        return {path};
-    return replaced(path, letter + 1, end, grownNumber(path.mid(letter + 1, end - letter - 1), delta));
+        return {};
+    return {letter + 1, end, grownNumber(path.mid(letter + 1, end - letter - 1), delta)};
 }
 
 Edit grownLineY(const QString &path, int letter, double delta)
 {
     const int end = scanEnd(path, letter, maxOtherCharacters, isPairCharacter);
     if (end == notFound)
-        return {path};
+        return {};
     const QString pair = path.mid(letter + 1, end - letter - 1);
     int separator = pair.indexOf(QLatin1Char(','));
     if (separator == notFound)
         separator = pair.indexOf(QLatin1Char('-'));
     // A pair without a comma that starts with its sign is lost, as it always was; templates write commas.
     if (separator <= 0)
-        return replaced(path, letter + 1, end, QString());
-    return replaced(path, letter + 1, end, pair.left(separator + 1) + grownNumber(pair.mid(separator + 1), delta));
+        return {letter + 1, end, QString()};
+    return {letter + 1, end, pair.left(separator + 1) + grownNumber(pair.mid(separator + 1), delta)};
 }
 
-/// The first `letter` at or after `from`, where it does not open the path.
-int findLetter(const QString &path, QChar letter, int from)
+/// Finds the pieces of a path, each search starting where the one before ended or later. A letter that is missing
+/// once is not searched for again, so that a long path of lines is read once.
+class PieceFinder
 {
-    const int index = path.indexOf(letter, from);
-    return index > 0 ? index : notFound;
-}
+public:
+    PieceFinder(const QString &path, PathText::Axis axis)
+        : m_path(path)
+        , m_single(QLatin1Char(axis == PathText::Axis::Width ? 'h' : 'v'))
+    {
+    }
 
-/// A piece of a path that an edit lengthens.
-struct Piece
-{
-    QChar letter;
-    int index = notFound;
+    bool find(int from)
+    {
+        return (!m_singlesEnded && findLetter(m_single, from)) || findLetter(QLatin1Char('l'), from);
+    }
+    bool isLine() const { return m_letter == QLatin1Char('l'); }
+    QChar letter() const { return m_letter; }
+    int index() const { return m_index; }
+
+private:
+    /// A letter that opens the path does not count.
+    bool findLetter(QChar letter, int from)
+    {
+        m_letter = letter;
+        m_index = m_path.indexOf(letter, from);
+        m_singlesEnded = m_singlesEnded || (letter == m_single && m_index == notFound);
+        return m_index > 0;
+    }
+
+    const QString &m_path;
+    QChar m_single;
+    QChar m_letter;
+    int m_index = notFound;
+    bool m_singlesEnded = false;
 };
 
-Piece findPiece(const QString &path, PathText::Axis axis, int from)
-{
-    const QChar single = QLatin1Char(axis == PathText::Axis::Width ? 'h' : 'v');
-    const int index = findLetter(path, single, from);
-    if (index != notFound)
-        return {single, index};
-    return {QLatin1Char('l'), findLetter(path, QLatin1Char('l'), from)};
-}
-
-Edit grownPiece(const QString &path, const Piece &piece, PathText::Axis axis, double delta)
+Edit grownPiece(const QString &path, const PieceFinder &piece, PathText::Axis axis, double delta)
 {
     const bool width = axis == PathText::Axis::Width;
-    if (piece.index == notFound)
-        return {path};
-    if (piece.letter == QLatin1Char('l'))
-        return width ? grownLineX(path, piece.index, delta) : grownLineY(path, piece.index, delta);
-    return grownSingle(path, piece.index, width ? maxWidthCharacters : maxOtherCharacters, delta);
+    if (piece.isLine())
+        return width ? grownLineX(path, piece.index(), delta) : grownLineY(path, piece.index(), delta);
+    return grownSingle(path, piece.index(), width ? maxWidthCharacters : maxOtherCharacters, delta);
 }
 
 bool isLetter(QChar c)
@@ -138,18 +148,24 @@ bool isLetter(QChar c)
 
 } // namespace
 
-QString PathText::grown(QString path, Axis axis, double delta, int from, bool all)
+QString PathText::grown(const QString &path, Axis axis, double delta, int from, bool all)
 {
-    for (;;) {
-        const Piece piece = findPiece(path, axis, from);
+    QString result;
+    int copied = 0;
+    PieceFinder piece(path, axis);
+    while (piece.find(from)) {
         const Edit edit = grownPiece(path, piece, axis, delta);
-        // Indices stay those of the text before the edit, also where the number's length changed.
-        const bool more = all && edit.next != notFound && path.indexOf(piece.letter, edit.next) > edit.next;
-        if (!more)
-            return edit.path;
-        path = edit.path;
-        from = edit.next;
+        if (!edit.isDone())
+            break;
+        result += path.midRef(copied, edit.begin - copied) + edit.text;
+        copied = edit.end;
+        if (!all || path.indexOf(piece.letter(), edit.end) <= edit.end)
+            break;
+        // The next search starts at the index that the edit ended at before it was made: behind a number that
+        // became shorter, as much is passed over.
+        from = edit.end + qMax(0, edit.shortening());
     }
+    return copied == 0 ? path : result + path.midRef(copied);
 }
 
 QString PathText::movedStart(const QString &path, double dx, double dy)

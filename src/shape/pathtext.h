@@ -9,8 +9,9 @@ namespace PathText {
 enum class Axis { Width, Height };
 
 /// Lengthens the first piece along the axis ("h" or "v", else an "l") that starts at or after `from`; with `all`
-/// also every later one. A piece grows by `delta` in the direction that it points; one of length 0 grows forward.
-QString grown(QString path, Axis axis, double delta, int from, bool all);
+/// also every later one, in time that grows with the length of the path. A piece grows by `delta` in the direction
+/// that it points; one of length 0 grows forward.
+QString grown(const QString &path, Axis axis, double delta, int from, bool all);
 
 /// Moves the start point, which must be an absolute "M", by (dx, dy).
 QString movedStart(const QString &path, double dx, double dy);

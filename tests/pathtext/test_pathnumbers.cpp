@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aNumberIsReadUpToTheFirstCharacterThatIsNoPartOfIt();
     void aNullPointerGivesZero();
     void aLoneMinusIsNegativeZero();
+    void aMinusBeforeAnExponentAloneIsLost();
     void aNumberOf300DigitsIsReadAsTwo();
     void listsAreReadUpToWhatCannotStartANumber_data();
     void listsAreReadUpToWhatCannotStartANumber();
@@ -74,6 +75,15 @@ void TestPathNumbers::aLoneMinusIsNegativeZero()
     const double value = toDouble(position);
     QVERIFY(value == 0.0);
     QVERIFY(std::signbit(value));
+}
+
+void TestPathNumbers::aMinusBeforeAnExponentAloneIsLost()
+{
+    const QString text = QStringLiteral("-e3");
+    const QChar *position = text.constData();
+    const double value = toDouble(position);
+    QVERIFY(value == 0.0);
+    QVERIFY(!std::signbit(value));
 }
 
 void TestPathNumbers::aNumberOf300DigitsIsReadAsTwo()

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void allWidthsFromAnIndex();
     void allHeightsFromAnIndex_data();
     void allHeightsFromAnIndex();
+    void allPiecesOfAMegabyteAreEdited_data();
+    void allPiecesOfAMegabyteAreEdited();
     void theStartPointMoves_data();
     void theStartPointMoves();
 };
@@ -82,6 +84,11 @@ void TestPathStretching::oneHeight_data()
     row("v that points back", "M0,0v-5h1", 2, "M0,0v-7h1");
     row("l with a comma", "M0,0l5,-3z", 2, "M0,0l5,-5z");
     row("l at the end", "M0,0l5,-3", 2, "M0,0l5,-5");
+    row("v at the threshold points back", "M0,0v-0.0000001", 2, "M0,0v-2");
+    row("29 characters of a pair", "M0,0l1," + digits19 + "00000000z", 0, "M0,0l1,1e+26z");
+    row("30 characters of a pair", "M0,0l1," + digits19 + "000000000z", 0, "M0,0l1," + digits19 + "000000000z");
+    row("v at index 0 only", "v10h5", 2, "v10h5");
+    row("v at index 0, another later", "v5v10", 2, "v5v10");
     row("l with a minus between keeps it", "M0,0l5-3z", 2, "M0,0l5-5z");
     row("a pair that starts with a minus, no comma, is lost", "M0,0l-5-3z", 2, "M0,0lz");
     row("a pair without a separator is lost", "M0,0l5z", 2, "M0,0lz");
@@ -135,6 +142,38 @@ void TestPathStretching::allHeightsFromAnIndex()
     QTEST(shape.changePathHeight(path, delta, 0), "result");
 }
 
+void TestPathStretching::allPiecesOfAMegabyteAreEdited_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<QString>("wider");
+    QTest::addColumn<QString>("higher");
+    QTest::newRow("single lengths") << "h1v-1"
+                                    << "h3v-1"
+                                    << "h1v-3";
+    QTest::newRow("lines") << "l1,1z"
+                           << "l3,1z"
+                           << "l1,3z";
+    QTest::newRow("numbers that become longer") << "h9v9"
+                                                << "h11v9"
+                                                << "h9v11";
+    QTest::newRow("letters that are not pieces") << "H1V1"
+                                                 << "H1V1"
+                                                 << "H1V1";
+}
+
+void TestPathStretching::allPiecesOfAMegabyteAreEdited()
+{
+    QFETCH(QString, piece);
+    QFETCH(QString, wider);
+    QFETCH(QString, higher);
+    const QString start = QStringLiteral("M0,0");
+    const int count = 1024 * 1024 / int(sizeof(QChar)) / piece.size();
+    const QString path = start + piece.repeated(count);
+    support::TestShape shape(nullptr);
+    QVERIFY(shape.changePathWidth(path, 2, 0) == start + wider.repeated(count));
+    QVERIFY(shape.changePathHeight(path, 2, 0) == start + higher.repeated(count));
+}
+
 void TestPathStretching::theStartPointMoves_data()
 {
     QTest::addColumn<QString>("path");
@@ -147,6 +186,7 @@ void TestPathStretching::theStartPointMoves_data()
     QTest::newRow("blanks do not separate") << "M10 20L30,40" << QPointF(1, 1) << "M1,41";
     QTest::newRow("start point only") << "M1,2" << QPointF(1, 1) << "M2,3";
     QTest::newRow("no separator") << "M5" << QPointF(1, 1) << "M5";
+    QTest::newRow("M only") << "M" << QPointF(1, 1) << "M";
     QTest::newRow("no M") << "m1,2" << QPointF(1, 1) << "m1,2";
     QTest::newRow("empty") << "" << QPointF(1, 1) << "";
 }

@@ -1,0 +1,11 @@
+// Reads a text as numbers, one by one and as a list, and holds everything against the literal implementation.
+
+#include "pathtextinput.h"
+
+#include <pathtext/comparison.h>
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
+{
+    pathtextinput::expectNone(comparison::numbersDifference(pathtextinput::text(data, size)));
+    return 0;
+}
