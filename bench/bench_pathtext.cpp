@@ -3,9 +3,6 @@
 
 #include <svgobj/csvgbase.h>
 
-#include "shape/numbertext.h"
-#include "shape/pathtext.h"
-
 #include <benchmark/benchmark.h>
 
 #include <charconv>
@@ -16,6 +13,17 @@ namespace {
 
 constexpr int numberCount = 20000;
 constexpr unsigned startValue = 42;
+
+/// What a concrete shape is to these operations.
+class Shape : public CSVGBase
+{
+public:
+    Shape()
+        : CSVGBase(nullptr)
+    {
+    }
+    int getSVGType() override { return 1; }
+};
 
 /// Numbers as they stand in text, separated by commas.
 struct NumberTexts
@@ -86,9 +94,10 @@ void readToDouble(benchmark::State &state, const NumberTexts &texts)
 
 void readList(benchmark::State &state, const NumberTexts &texts)
 {
+    Shape shape;
     for (auto _ : state) {
         const QChar *at = texts.text.constData();
-        benchmark::DoNotOptimize(NumberText::parse(at));
+        benchmark::DoNotOptimize(shape.parseNumbersList(at));
     }
     setCharacters(state, texts.text.size());
 }
@@ -107,9 +116,10 @@ void writePeer(benchmark::State &state, const NumberTexts &texts)
 
 void writeList(benchmark::State &state, const NumberTexts &texts)
 {
+    Shape shape;
     int size = 0;
     for (auto _ : state)
-        size = NumberText::write(texts.values).size();
+        size = shape.numbersToString(texts.values).size();
     setCharacters(state, size);
 }
 
@@ -117,8 +127,9 @@ void writeList(benchmark::State &state, const NumberTexts &texts)
 void stretch(benchmark::State &state, int pieces)
 {
     const QString path = QLatin1String("M0,0") + QString::fromLatin1("h12.5v-7l3,4z").repeated(pieces);
+    Shape shape;
     for (auto _ : state)
-        benchmark::DoNotOptimize(PathText::grown(path, PathText::Axis::Width, 2, 0, true));
+        benchmark::DoNotOptimize(shape.changePathWidth(path, 2, 0));
     setCharacters(state, path.size());
 }
 

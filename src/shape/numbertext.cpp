@@ -29,7 +29,11 @@ public:
     void append(char c) { m_text[size_t(m_size++)] = c; }
     int size() const { return m_size; }
     /// Zero-terminated.
-    const char *text() const { return m_text.data(); }
+    const char *text()
+    {
+        m_text[size_t(m_size)] = '\0';
+        return m_text.data();
+    }
 
     void copyDigits(const QChar *&str)
     {
@@ -45,7 +49,7 @@ public:
     }
 
 private:
-    std::array<char, maxNumberCharacters + 1> m_text{};
+    std::array<char, maxNumberCharacters + 1> m_text; // filled as far as it is used: most numbers are short
     int m_size = 0;
 };
 
