@@ -3,6 +3,9 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QDataStream>
 
+class QBrush;
+class QColor;
+
 /// The bytes of one or more values, one after the other, in QDataStream's default version and byte order: what undo
 /// buffers and playback payloads are made of.
 template<typename... Values> QByteArray encodeValues(const Values &...values)
@@ -19,3 +22,10 @@ template<typename Value> Value decodeValue(QDataStream &in, Value start = Value(
     in >> start;
     return start;
 }
+
+/// As Qt reads them, but where the bytes say what nothing can hold (StreamCheck) a default-constructed value: an
+/// invalid colour, no brush. The stream then has the status ReadCorruptData and stands where it stood.
+/// @{
+template<> QColor decodeValue<QColor>(QDataStream &in, QColor start);
+template<> QBrush decodeValue<QBrush>(QDataStream &in, QBrush start);
+/// @}

@@ -1,0 +1,18 @@
+#pragma once
+
+class QDataStream;
+
+/// What stands between Qt's reading of colours and brushes, which trusts every number, and the bytes of somebody
+/// else's file. Both look ahead and read nothing. Both are true for a stream that ends too early, which Qt reads
+/// safely.
+namespace StreamCheck {
+
+/// Whether the colour that the stream stands at is of a kind that there is.
+bool isReadableColor(QDataStream &in);
+
+/// Whether Qt can be left to read the brush that the stream stands at: its style is one of Qt's and its colour of a
+/// kind that there is; a gradient has no more stops than the bytes that follow can hold, and at most 16,384; a
+/// texture is a picture in the PNG format that its data can fill, of at most 64 Mi pixels.
+bool isReadableBrush(QDataStream &in);
+
+} // namespace StreamCheck

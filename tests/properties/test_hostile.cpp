@@ -1,0 +1,278 @@
+#include "properties/streamcheck.h"
+
+#include <properties/fullshape.h>
+#include <support/streams.h>
+
+#include <QtCore/QBuffer>
+#include <QtGui/QBrush>
+#include <QtGui/QImage>
+#include <QtTest/QtTest>
+
+using support::bytesOf;
+using support::Input;
+using support::Output;
+
+/// Colours and brushes whose bytes claim what they do not hold.
+class TestHostile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyUsualBrushIsReadAsItWasWritten_data();
+    void everyUsualBrushIsReadAsItWasWritten();
+    void aHostileBrushIsNoBrush_data();
+    void aHostileBrushIsNoBrush();
+    void aHostileBrushIsNotReadAtAll();
+    void aHostileBrushIsReplayedAsNoBrush();
+    void everyTruncationOfABrushIsRead_data();
+    void everyTruncationOfABrushIsRead();
+    void everyChangedByteOfABrushIsRead_data();
+    void everyChangedByteOfABrushIsRead();
+    void aColourOfNoKindIsInvalid_data();
+    void aColourOfNoKindIsInvalid();
+    void aColourOfNoKindInASavedShapeIsInvalid();
+    void aBrushOfAStreamWithAnotherByteOrderIsChecked();
+};
+
+namespace {
+
+constexpr int styleBytes = 1;
+constexpr int colorBytes = 11;
+constexpr int stopCountOffset = styleBytes + colorBytes + 4 * 4;
+constexpr int textureOffset = styleBytes + colorBytes + 4;
+/// Of a PNG picture: signature, length, type.
+constexpr int pictureSizeOffset = textureOffset + 8 + 4 + 4;
+
+template<typename Gradient> QBrush gradientBrush(Gradient gradient)
+{
+    gradient.setStops({{0, Qt::red}, {0.25, Qt::green}, {1, Qt::blue}});
+    return gradient;
+}
+
+QBrush textureBrush(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QBrush brush;
+    brush.setTextureImage(image);
+    return brush;
+}
+
+QByteArray withNumber(QByteArray bytes, int offset, quint32 number)
+{
+    return bytes.replace(offset, 4, bytesOf(number));
+}
+
+QByteArray withByte(QByteArray bytes, int offset, quint8 value)
+{
+    bytes[offset] = char(value);
+    return bytes;
+}
+
+/// A brush of one texture that says so many stops, followed by them.
+QByteArray gradientOfStops(quint32 count)
+{
+    QByteArray bytes = withNumber(bytesOf(gradientBrush(QLinearGradient(0, 0, 1, 1))), stopCountOffset, count);
+    bytes = bytes.left(stopCountOffset + 4);
+    for (quint32 i = 0; i < count; ++i)
+        bytes += bytesOf(0.5, QColor(Qt::red));
+    return bytes + bytesOf(QPointF(), QPointF(1, 1), QTransform());
+}
+
+/// Keeps what Qt says about damaged gradients and pictures from the test's output while it lives.
+class Silence
+{
+public:
+    Silence()
+        : m_before(qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}))
+    {
+    }
+    ~Silence() { qInstallMessageHandler(m_before); }
+    Q_DISABLE_COPY(Silence)
+
+private:
+    QtMessageHandler m_before;
+};
+
+void brushRows()
+{
+    QTest::addColumn<QBrush>("brush");
+    QTest::newRow("none") << QBrush();
+    QTest::newRow("solid") << QBrush(QColor(1, 2, 3, 4));
+    QTest::newRow("invalid colour") << QBrush(QColor());
+    QTest::newRow("pattern") << QBrush(Qt::green, Qt::DiagCrossPattern);
+    QTest::newRow("linear") << gradientBrush(QLinearGradient(1, 2, 3, 4));
+    QTest::newRow("radial") << gradientBrush(QRadialGradient(1, 2, 3));
+    QTest::newRow("conical") << gradientBrush(QConicalGradient(1, 2, 3));
+    QTest::newRow("texture") << textureBrush(2, 3);
+}
+
+} // namespace
+
+void TestHostile::everyUsualBrushIsReadAsItWasWritten_data()
+{
+    brushRows();
+    QTest::newRow("cmyk") << QBrush(QColor::fromCmyk(1, 2, 3, 4));
+    QTest::newRow("extended") << QBrush(QColor::fromRgba64(1, 2, 3, 4).toExtendedRgb());
+    QTest::newRow("large texture of one colour") << textureBrush(2000, 2000);
+    QTest::newRow("no stops") << QBrush(QLinearGradient(1, 2, 3, 4));
+}
+
+void TestHostile::everyUsualBrushIsReadAsItWasWritten()
+{
+    QFETCH(QBrush, brush);
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    full.shape->updateBrush(QBrush(QColor(9, 9, 9)));
+    QByteArray bytes = bytesOf(brush);
+    Input in(bytes + "more");
+    QVERIFY(full.shape->setInnerProperty(5005, in, false, false));
+    QCOMPARE(bytesOf(full.shape->getFillBrush()), bytes);
+    QCOMPARE(in.status(), QDataStream::Ok);
+    QCOMPARE(in.consumed(), qint64(bytes.size()));
+}
+
+void TestHostile::aHostileBrushIsNoBrush_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray linear = bytesOf(gradientBrush(QLinearGradient(1, 2, 3, 4)));
+    const QByteArray radial = bytesOf(gradientBrush(QRadialGradient(1, 2, 3)));
+    const QByteArray conical = bytesOf(gradientBrush(QConicalGradient(1, 2, 3)));
+    for (const quint32 count : {0x7fffffffu, 0xffffffffu, 0x10000000u, 1000u}) {
+        QTest::addRow("linear, %u stops", count) << withNumber(linear, stopCountOffset, count);
+        QTest::addRow("radial, %u stops", count) << withNumber(radial, stopCountOffset, count);
+        QTest::addRow("conical, %u stops", count) << withNumber(conical, stopCountOffset, count);
+    }
+    // Behind the three stops of 19 bytes stand 32 bytes of points and 72 of a matrix: room for five more.
+    QTest::newRow("one stop more than the bytes hold") << withNumber(linear, stopCountOffset, 9);
+    QTest::newRow("more stops than anybody makes") << gradientOfStops(16385);
+    const QByteArray texture = bytesOf(textureBrush(2, 3));
+    QTest::newRow("texture too wide") << withNumber(texture, pictureSizeOffset, 60000);
+    QTest::newRow("texture too high") << withNumber(texture, pictureSizeOffset + 4, 60000);
+    QTest::newRow("texture of the largest size")
+        << withNumber(withNumber(texture, pictureSizeOffset, 0x7fffffff), pictureSizeOffset + 4, 0x7fffffff);
+    QTest::newRow("texture without width") << withNumber(texture, pictureSizeOffset, 0);
+    QTest::newRow("texture whose chunk is longer than the bytes")
+        << withNumber(texture, textureOffset + 8, 0xffffffff);
+    QTest::newRow("texture that ends in its data") << texture.left(texture.indexOf("IDAT") + 8);
+    QTest::newRow("texture without end") << texture.left(texture.indexOf("IEND") - 4);
+    QTest::newRow("texture in another format") << texture.left(textureOffset) + "P6 30000 30000 255\n";
+    QTest::newRow("style 18") << withByte(linear, 0, 18);
+    QTest::newRow("style 200") << withByte(bytesOf(QBrush(Qt::red)), 0, 200);
+    QTest::newRow("colour of kind 77") << withByte(bytesOf(QBrush(Qt::red)), styleBytes, 77);
+}
+
+void TestHostile::aHostileBrushIsNoBrush()
+{
+    QFETCH(QByteArray, bytes);
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    Input in(bytes);
+    QVERIFY(full.shape->SetAttribute(5005, in, false, true));
+    QCOMPARE(full.shape->getFillBrush(), QBrush());
+    QCOMPARE(in.status(), QDataStream::ReadCorruptData);
+}
+
+void TestHostile::aHostileBrushIsNotReadAtAll()
+{
+    FullShape full;
+    Input in(withByte(bytesOf(QBrush(Qt::red)), 0, 200));
+    full.shape->setInnerProperty(5005, in, false, false);
+    QCOMPARE(in.consumed(), qint64(0));
+}
+
+void TestHostile::aHostileBrushIsReplayedAsNoBrush()
+{
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    QVERIFY(full.shape->DoPlaybackActionEx(
+        1005, Input(withNumber(bytesOf(gradientBrush(QLinearGradient())), stopCountOffset, 0x7ffffffe))));
+    QCOMPARE(full.shape->getFillBrush(), QBrush());
+}
+
+void TestHostile::everyTruncationOfABrushIsRead_data()
+{
+    brushRows();
+}
+
+void TestHostile::everyTruncationOfABrushIsRead()
+{
+    QFETCH(QBrush, brush);
+    FullShape full;
+    const QByteArray bytes = bytesOf(brush);
+    for (int size = 0; size < bytes.size(); ++size) {
+        Input in(bytes.left(size));
+        QVERIFY(full.shape->setInnerProperty(5005, in, false, false));
+        QVERIFY2(in.status() != QDataStream::Ok, qPrintable(QString::number(size)));
+    }
+}
+
+void TestHostile::everyChangedByteOfABrushIsRead_data()
+{
+    brushRows();
+}
+
+void TestHostile::everyChangedByteOfABrushIsRead()
+{
+    QFETCH(QBrush, brush);
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    const QByteArray bytes = bytesOf(brush);
+    int changed = 0;
+    const Silence silence;
+    for (int offset = 0; offset < bytes.size(); ++offset) {
+        for (const quint8 value : {0x00, 0x01, 0x0f, 0x18, 0x7f, 0x80, 0xff})
+            changed += full.shape->setInnerProperty(5005, Input(withByte(bytes, offset, value)), false, false);
+    }
+    QCOMPARE(changed, bytes.size() * 7);
+}
+
+void TestHostile::aColourOfNoKindIsInvalid_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("readable");
+    for (int kind = -1; kind <= 8; ++kind)
+        QTest::addRow("%d", kind) << kind
+                                  << (kind >= 0 && kind <= 5); // from QColor::Invalid to QColor::ExtendedRgb
+    QTest::newRow("127") << 127 << false;
+}
+
+void TestHostile::aColourOfNoKindIsInvalid()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, readable);
+    FullShape full;
+    Input in(withByte(bytesOf(QColor(Qt::green)), 0, quint8(kind)));
+    QVERIFY(full.shape->setInnerProperty(5002, in, false, true));
+    QCOMPARE(full.shape->getPenColor().isValid(), readable && kind != 0);
+    QCOMPARE(in.status(), readable ? QDataStream::Ok : QDataStream::ReadCorruptData);
+}
+
+void TestHostile::aColourOfNoKindInASavedShapeIsInvalid()
+{
+    FullShape full;
+    const QByteArray color = withByte(bytesOf(QColor(Qt::green)), 0, 99);
+    Input in(bytesOf(qint32(0), false, true) + color + bytesOf(false, false));
+    QVERIFY(full.shape->load(in));
+    QVERIFY(!full.shape->getPenColor().isValid());
+}
+
+void TestHostile::aBrushOfAStreamWithAnotherByteOrderIsChecked()
+{
+    for (const bool hostile : {false, true}) {
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out.setByteOrder(QDataStream::LittleEndian);
+        out.setFloatingPointPrecision(QDataStream::SinglePrecision);
+        out << gradientBrush(QLinearGradient(1, 2, 3, 4));
+        if (hostile)
+            bytes[stopCountOffset] = 100;
+        QDataStream in(bytes);
+        in.setByteOrder(QDataStream::LittleEndian);
+        in.setFloatingPointPrecision(QDataStream::SinglePrecision);
+        QCOMPARE(StreamCheck::isReadableBrush(in), !hostile);
+    }
+}
+
+QTEST_MAIN(TestHostile)
+#include "test_hostile.moc"
