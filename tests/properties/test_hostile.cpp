@@ -69,7 +69,7 @@ QByteArray withByte(QByteArray bytes, int offset, quint8 value)
     return bytes;
 }
 
-/// A brush of one texture that says so many stops, followed by them.
+/// A linear gradient of so many stops, all of them there.
 QByteArray gradientOfStops(quint32 count)
 {
     QByteArray bytes = withNumber(bytesOf(gradientBrush(QLinearGradient(0, 0, 1, 1))), stopCountOffset, count);
