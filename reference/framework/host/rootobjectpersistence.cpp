@@ -56,7 +56,8 @@ HostState stateOf(CPSRootObject &object)
 {
     const CBaseObject *item = CPSRootObjectPrivate::baseObject(object);
     HostState state;
-    state.name = object.getObjName();
+    // An empty name and none are the same to everybody but the stream.
+    state.name = object.getObjName().isEmpty() ? QString() : object.getObjName();
     state.subType = object.getSubType();
     state.pos = item->pos();
     state.rotation = item->rotation();
@@ -151,7 +152,8 @@ void read(const QJsonObject &object, HostState &state)
     const QJsonArray pos = object.value(posKey).toArray();
     const QJsonArray rect = object.value(clientRectKey).toArray();
     const QColor pen(object.value(penColorKey).toString());
-    state.name = object.value(nameKey).toString(state.name);
+    const QString name = object.value(nameKey).toString(state.name);
+    state.name = name.isEmpty() ? QString() : name;
     state.subType = object.value(subTypeKey).toInt(state.subType);
     state.pos = pos.size() == 2 ? QPointF(pos[0].toDouble(), pos[1].toDouble()) : state.pos;
     state.rotation = object.value(rotationKey).toDouble(state.rotation);
