@@ -73,11 +73,12 @@ bool CSVGBase::loadJson(QJsonObject &object)
     controlPointCount = quint32(qBound(0, object[controlCountKey].toInt(), int(maxControlPoints)));
     for (quint32 i = 1; i <= controlPointCount; ++i) {
         QZeSvgNode *node = storedControlPoint(i);
-        if (!node)
+        if (!node && i == 1)
             continue;
         const double x = object[xKey(i)].toDouble();
         const double y = object[yKey(i)].toDouble();
-        placeStoredControlPoint(node, QPointF(x, y));
+        if (node)
+            placeStoredControlPoint(node, QPointF(x, y));
     }
     if (rawControlPoints)
         updateAllControlPoints(false, false);

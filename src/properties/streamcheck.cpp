@@ -54,11 +54,6 @@ bool isModern(const QDataStream &in)
     return in.version() >= QDataStream::Qt_4_6;
 }
 
-bool isKnownColorKind(qint8 kind)
-{
-    return kind >= QColor::Invalid && kind <= QColor::ExtendedRgb;
-}
-
 /// A colour without its kind, which may be a number that the enumeration does not have.
 void skipColor(QDataStream &in)
 {
@@ -139,12 +134,12 @@ bool textureFits(AheadStream &head)
 
 } // namespace
 
-bool StreamCheck::isReadableColor(QDataStream &in)
+bool StreamCheck::hasKnownColorKind(QDataStream &in, int offset)
 {
     if (!in.device() || !isModern(in))
         return true;
-    const QByteArray kind = in.device()->peek(1);
-    return kind.isEmpty() || isKnownColorKind(qint8(kind.at(0)));
+    const QByteArray kind = in.device()->peek(offset + 1).mid(offset);
+    return kind.isEmpty() || (kind.at(0) >= char(QColor::Invalid) && kind.at(0) <= char(QColor::ExtendedRgb));
 }
 
 bool StreamCheck::isReadableBrush(QDataStream &in)
@@ -156,7 +151,7 @@ bool StreamCheck::isReadableBrush(QDataStream &in)
     quint8 style = Qt::NoBrush;
     head >> style;
     const bool isPlain = !isGradient(style) && style != Qt::TexturePattern;
-    if (!isKnownStyle(style) || !isReadableColor(head) || (!isPlain && !isModern(in)))
+    if (!isKnownStyle(style) || (!isPlain && !isModern(in)))
         return false;
     if (isPlain)
         return true;

@@ -7,12 +7,12 @@ class QDataStream;
 /// safely.
 namespace StreamCheck {
 
-/// Whether the colour that the stream stands at is of a kind that there is.
-bool isReadableColor(QDataStream &in);
+/// Whether the colour that begins `offset` bytes ahead is of a kind that QColor has.
+bool hasKnownColorKind(QDataStream &in, int offset = 0);
 
-/// Whether Qt can be left to read the brush that the stream stands at: its style is one of Qt's and its colour of a
-/// kind that there is; a gradient has no more stops than the bytes that follow can hold, and at most 16,384; a
-/// texture is a picture in the PNG format that its data can fill, of at most 64 Mi pixels.
+/// Whether Qt can be left to read the brush that the stream stands at: its style is one of Qt's; a gradient has no
+/// more stops than the bytes that follow can hold, and at most 16,384; a texture is a picture in the PNG format
+/// that its data can fill, of at most 64 Mi pixels.
 bool isReadableBrush(QDataStream &in);
 
 } // namespace StreamCheck

@@ -5,26 +5,23 @@
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 
-namespace {
-
-template<typename Value> Value decodeChecked(QDataStream &in, Value start, bool isReadable)
-{
-    if (!isReadable) {
-        in.setStatus(QDataStream::ReadCorruptData);
-        return Value();
-    }
-    in >> start;
-    return start;
-}
-
-} // namespace
-
 template<> QColor decodeValue<QColor>(QDataStream &in, QColor start)
 {
-    return decodeChecked(in, start, StreamCheck::isReadableColor(in));
+    const bool isKnown = StreamCheck::hasKnownColorKind(in);
+    in >> start;
+    return isKnown ? start : start.toRgb();
 }
 
 template<> QBrush decodeValue<QBrush>(QDataStream &in, QBrush start)
 {
-    return decodeChecked(in, start, StreamCheck::isReadableBrush(in));
+    if (!StreamCheck::isReadableBrush(in)) {
+        in.setStatus(QDataStream::ReadCorruptData);
+        return QBrush();
+    }
+    constexpr int styleBytes = 1;
+    const bool isKnown = StreamCheck::hasKnownColorKind(in, styleBytes);
+    in >> start;
+    if (!isKnown)
+        start.setColor(start.color().toRgb());
+    return start;
 }

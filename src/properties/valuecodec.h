@@ -23,9 +23,9 @@ template<typename Value> Value decodeValue(QDataStream &in, Value start = Value(
     return start;
 }
 
-/// As Qt reads them, but where the bytes say what nothing can hold (StreamCheck) a default-constructed value: an
-/// invalid colour, no brush. The stream then has the status ReadCorruptData and stands where it stood.
-/// @{
+/// As Qt reads a colour. One of a kind that QColor does not have acts as black of its alpha, and is read as that.
 template<> QColor decodeValue<QColor>(QDataStream &in, QColor start);
+
+/// As Qt reads a brush, its colour as above; but no brush where the bytes claim what nothing can hold
+/// (StreamCheck). The stream then has the status ReadCorruptData and stands where it stood.
 template<> QBrush decodeValue<QBrush>(QDataStream &in, QBrush start);
-/// @}

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void aPenStyleIsReplayed();
     void aPenWidthIsReplayedAsItIs();
     void aFillIsReplayedAsBrush();
+    void aFillAsRecordedIsReplayedAsOpaqueBlack();
     void aPropertyIsAppliedWithoutRecordAndUndo();
     void aPropertyRepaints();
     void theShapesItemsNameTheProperty();
@@ -156,6 +157,21 @@ void TestPlayback::aFillIsReplayedAsBrush()
     const QBrush brush(Qt::red, Qt::CrossPattern);
     QVERIFY(full.shape->DoPlaybackActionEx(1005, inputOf(brush)));
     QCOMPARE(full.shape->getFillBrush(), brush);
+}
+
+// Deliberate: a fill is recorded as its colour and read as a brush. Whoever plays a lesson converts.
+void TestPlayback::aFillAsRecordedIsReplayedAsOpaqueBlack()
+{
+    FullShape full;
+    full.shape->setFillBrush(QBrush(Qt::yellow, Qt::CrossPattern), true, true);
+    QCOMPARE(recording::lastArguments("RecordAction"), QVariantList({1005, bytesOf(QColor(Qt::yellow))}));
+    const QByteArray recorded = recording::lastArguments("RecordAction").last().toByteArray();
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    Input input(recorded);
+    QVERIFY(full.shape->DoPlaybackActionEx(1005, input));
+    QCOMPARE(full.shape->getFillBrush().style(), Qt::SolidPattern);
+    QCOMPARE(full.shape->getFillBrush().color().name(QColor::HexArgb), QStringLiteral("#ff000000"));
+    QCOMPARE(input.status(), QDataStream::ReadPastEnd);
 }
 
 void TestPlayback::aPropertyIsAppliedWithoutRecordAndUndo()

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void typeTwoAlwaysUsesTheRectangle();
     void withoutCoreTheRegionIsTheRectangle();
     void theHostIsToldTheRegionsItem();
+    void theStyleSnapshotReachesTheHostToo();
+    void aTakenAttributeOfAStreamThatEndedLeavesNothing();
 };
 
 namespace {
@@ -388,6 +390,34 @@ void TestAttributes::theHostIsToldTheRegionsItem()
     fixture.object.regenRegionShape(nullptr);
     QCOMPARE(recording::lastArguments("object", "regenRegionShape"), QVariantList({false}));
     QCOMPARE(recording::count("object", "regenRegionShape"), 2);
+}
+
+void TestAttributes::theStyleSnapshotReachesTheHostToo()
+{
+    for (int id : {2804, 2805}) {
+        ShapeFixture fixture(twoPointTemplate());
+        fixture.load();
+        recording::framework().baseAnswer = true;
+        QBuffer buffer;
+        buffer.open(QIODevice::ReadWrite);
+        QDataStream in(&buffer);
+        QVERIFY(fixture.object.SetAttribute(id, in, false));
+        QCOMPARE(recording::lastArguments("object", "SetAttribute"), QVariantList({id, false}));
+        QCOMPARE(buffer.data(), QByteArray());
+    }
+}
+
+void TestAttributes::aTakenAttributeOfAStreamThatEndedLeavesNothing()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QBuffer buffer;
+    buffer.setData(QByteArray("\1\2"));
+    buffer.open(QIODevice::ReadWrite);
+    QDataStream in(&buffer);
+    QVERIFY(fixture.object.SetAttribute(5004, in, false));
+    QCOMPARE(buffer.data(), QByteArray("\1\2"));
+    QCOMPARE(in.status(), QDataStream::ReadPastEnd);
 }
 
 QTEST_MAIN(TestAttributes)

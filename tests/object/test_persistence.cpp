@@ -53,6 +53,7 @@ private Q_SLOTS:
     void playbackDataIsTheHostsThenTheCores();
     void playbackDataIsReadInTheSameOrder();
     void playbackDataWithoutCoreIsTheHosts();
+    void theSavedTypeDecidesAboutTheSubType();
 };
 
 namespace {
@@ -476,6 +477,21 @@ void TestPersistence::playbackDataWithoutCoreIsTheHosts()
     Input in = inputOf(QRectF(5, 6, 7, 8));
     QVERIFY(object.LoadPropertyForPlayback(in));
     QCOMPARE(exact(object.clientRect), exact(QRectF(5, 6, 7, 8)));
+}
+
+void TestPersistence::theSavedTypeDecidesAboutTheSubType()
+{
+    Loading scaled;
+    scaled.onCreateCore = [&](int, bool) { scaled.makeCore({}, 27)->onLoad = [](QDataStream &) { return true; }; };
+    Input ofScaled = stored(26);
+    scaled.load(ofScaled);
+    QCOMPARE(scaled.getSubType(), 13001);
+
+    Loading other;
+    other.onCreateCore = [&](int, bool) { other.makeCore({}, 26)->onLoad = [](QDataStream &) { return true; }; };
+    Input ofOther = stored(27);
+    other.load(ofOther);
+    QCOMPARE(other.getSubType(), 0);
 }
 
 QTEST_MAIN(TestPersistence)

@@ -21,6 +21,11 @@ private Q_SLOTS:
     void severalChangesRepaintOnce();
     void nothingIsRecorded();
     void valuesOfTheWrongTypeConvert();
+    void theMapOfAnUnfilledShapeGivenBackChangesItsFill();
+    void theMapOfASolidlyFilledShapeGivenBackChangesNothing();
+    void theColourOfTheSolidFillChangesNothing();
+    void theColourOfAPatternRepaintsWithoutChange();
+    void theFillGoesOutAsBrushAndComesInAsColour();
 
 private:
     using Map = QMap<QString, QVariant>;
@@ -106,6 +111,54 @@ void TestAttributeMap::valuesOfTheWrongTypeConvert()
     QCOMPARE(fixture->shape->getPenWidth(), 7);
     QCOMPARE(fixture->shape->getPenStyle(), Qt::NoPen);
     QVERIFY(!fixture->shape->getPenColor().isValid());
+}
+
+void TestAttributeMap::theMapOfAnUnfilledShapeGivenBackChangesItsFill()
+{
+    fixture->object.onSetFillProp = [](CPageBgProp *, bool) {};
+    fixture->shape->updateBrush(QBrush());
+    Map map;
+    fixture->shape->getAllAttributes(map);
+    QVERIFY(fixture->shape->setAllAttributes(map, false));
+    QCOMPARE(fixture->shape->getFillBrush(), QBrush(QColor())); // no brush is no colour
+}
+
+void TestAttributeMap::theMapOfASolidlyFilledShapeGivenBackChangesNothing()
+{
+    fixture->shape->updateBrush(QBrush(Qt::blue));
+    Map map;
+    fixture->shape->getAllAttributes(map);
+    QVERIFY(!fixture->shape->setAllAttributes(map, false));
+}
+
+void TestAttributeMap::theColourOfTheSolidFillChangesNothing()
+{
+    fixture->shape->updateBrush(QBrush(Qt::blue));
+    recording::clear();
+    QVERIFY(!fixture->shape->setAllAttributes(Map{{"fill_color", QColor(Qt::blue)}}, false));
+    QCOMPARE(recording::count("OnQPainterDraw"), 0);
+}
+
+void TestAttributeMap::theColourOfAPatternRepaintsWithoutChange()
+{
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QColor(Qt::blue)}}, false));
+    QCOMPARE(fixture->shape->getFillBrush(), QBrush(Qt::blue, Qt::Dense1Pattern));
+    QCOMPARE(recording::calls("object", "notifyObjPropertyChanged").size(), 1);
+}
+
+// Deliberate: a brush goes out, and only its colour can come back.
+void TestAttributeMap::theFillGoesOutAsBrushAndComesInAsColour()
+{
+    fixture->object.onSetFillProp = [](CPageBgProp *, bool) {};
+    Map map;
+    fixture->shape->getAllAttributes(map);
+    QCOMPARE(map["fill_color"].userType(), int(QMetaType::QBrush));
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QBrush(Qt::green, Qt::CrossPattern)}}, false));
+    QVERIFY(!fixture->shape->getFillBrush().color().isValid()); // a pattern converts to no colour
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QBrush(Qt::green)}}, false));
+    QCOMPARE(fixture->shape->getFillBrush(), QBrush(Qt::green));
+    QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", "red"}}, false));
+    QCOMPARE(fixture->shape->getFillBrush(), QBrush(Qt::red));
 }
 
 QTEST_MAIN(TestAttributeMap)

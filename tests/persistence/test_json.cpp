@@ -2,6 +2,7 @@
 
 #include <support/shapefixture.h>
 
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtTest/QtTest>
 
@@ -25,6 +26,16 @@ private Q_SLOTS:
     void keysThatWereAskedForAreLeftBehindAsNull();
     void coloursThatAreNoneAreInvalidWithoutAWarning();
     void theFillComesFromThePageObject();
+    void wholeNumbersAreReadOnlyFromWholeNumbers_data();
+    void wholeNumbersAreReadOnlyFromWholeNumbers();
+    void noPointBeyondTheTableIsAskedFor();
+    void aNegativeCountIsNone();
+    void aMissingFirstPointIsNotAskedFor();
+    void coloursMayBeNamed_data();
+    void coloursMayBeNamed();
+    void aMissingPenColourUnderItsFlagIsInvalid();
+    void flagsOfTheObjectDoNotChangeTheShapes();
+    void nothingIsRecorded();
 };
 
 void TestJson::aDefaultShapeSavesThePointsAndItsPenColour()
@@ -196,6 +207,132 @@ void TestJson::theFillComesFromThePageObject()
     QJsonObject object;
     fixture.shape->loadJson(object);
     QCOMPARE(fixture.shape->document->getAllFillBrush(), QBrush(QColor(10, 20, 30)));
+}
+
+void TestJson::wholeNumbersAreReadOnlyFromWholeNumbers_data()
+{
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<int>("width");
+    QTest::newRow("whole") << QJsonValue(3) << 3;
+    QTest::newRow("whole, as a double") << QJsonValue(3.0) << 3;
+    QTest::newRow("fraction") << QJsonValue(2.5) << 0;
+    QTest::newRow("too large") << QJsonValue(1e10) << 0;
+    QTest::newRow("text") << QJsonValue("3") << 0;
+    QTest::newRow("flag") << QJsonValue(true) << 0;
+    QTest::newRow("null") << QJsonValue() << 0;
+    QTest::newRow("array") << QJsonValue(QJsonArray{3}) << 0;
+}
+
+void TestJson::wholeNumbersAreReadOnlyFromWholeNumbers()
+{
+    QFETCH(QJsonValue, value);
+    QFETCH(int, width);
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropPenWidthEnabled", true}, {"SVG_PenWidth", value}, {"SVG_ControlCount", value}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(recording::lastArguments("shape", "setPenWidth"), QVariantList({width, false}));
+    QCOMPARE(fixture.shape->controlPointCount, quint32(width));
+}
+
+void TestJson::noPointBeyondTheTableIsAskedFor()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", 1000}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->controlPointCount, 32u);
+    QCOMPARE(fixture.shape->pointRect(32), QRectF(0, 0, 8, 8));
+    QVERIFY(object.contains("SVG_PosX_32"));
+    QVERIFY(!object.contains("SVG_PosX_33"));
+    QVERIFY(!fixture.shape->node(QStringLiteral("control_33")));
+}
+
+void TestJson::aNegativeCountIsNone()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", -1}, {"SVG_PropPenEnabled", true}, {"SVG_PenColor", "#ff00ff00"}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->controlPointCount, 0u);
+    QCOMPARE(fixture.shape->getPenColor(), QColor(Qt::green));
+}
+
+void TestJson::aMissingFirstPointIsNotAskedFor()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 10 10"), QString()));
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", 2}};
+    fixture.shape->loadJson(object);
+    QVERIFY(!object.contains("SVG_PosX_1"));
+    QVERIFY(!object.contains("SVG_PosY_1"));
+    // The second has no node to be cloned from; its place is asked for and dropped, as in a stream.
+    QVERIFY(object.value("SVG_PosX_2").isNull());
+    QVERIFY(object.value("SVG_PosY_2").isNull());
+    QVERIFY(!fixture.shape->node(QStringLiteral("control_2")));
+}
+
+void TestJson::coloursMayBeNamed_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("with alpha") << "#80ff0000" << QColor(255, 0, 0, 128);
+    QTest::newRow("without") << "#00ff00" << QColor(0, 255, 0);
+    QTest::newRow("short") << "#f00" << QColor(255, 0, 0);
+    QTest::newRow("SVG name") << "navy" << QColor(0, 0, 128);
+    QTest::newRow("empty") << "" << QColor();
+    QTest::newRow("too short") << "#ff" << QColor();
+}
+
+void TestJson::coloursMayBeNamed()
+{
+    QFETCH(QString, text);
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->setPenColor(Qt::yellow, false);
+    QJsonObject object{{"SVG_PropPenEnabled", true}, {"SVG_PenColor", text}};
+    fixture.shape->loadJson(object);
+    QTEST(fixture.shape->getPenColor(), "color");
+}
+
+void TestJson::aMissingPenColourUnderItsFlagIsInvalid()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropPenEnabled", true}};
+    fixture.shape->loadJson(object);
+    QVERIFY(!fixture.shape->getPenColor().isValid());
+    QVERIFY(object.value("SVG_PenColor").isNull());
+}
+
+void TestJson::flagsOfTheObjectDoNotChangeTheShapes()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropFillEnabled", true},     {"SVG_PropPenEnabled", false},
+                       {"SVG_PropPenStyleEnabled", true}, {"SVG_PenStyle", 2},
+                       {"SVG_PropPenWidthEnabled", true}, {"SVG_PenWidth", 6}};
+    fixture.shape->loadJson(object);
+    QVERIFY(!fixture.shape->propFillEnabled);
+    QVERIFY(fixture.shape->propPenEnabled);
+    QVERIFY(!fixture.shape->propPenStyleEnabled);
+    QVERIFY(!fixture.shape->propPenWidthEnabled);
+    QCOMPARE(fixture.shape->getPenStyle(), Qt::DashLine);
+    QCOMPARE(fixture.shape->getPenWidth(), 6);
+}
+
+void TestJson::nothingIsRecorded()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_ControlCount", 1},
+                       {"SVG_PosX_1", 1.0},
+                       {"SVG_PropPenEnabled", true},
+                       {"SVG_PropPenStyleEnabled", true},
+                       {"SVG_PropPenWidthEnabled", true}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(recording::count("RecordAction"), 0);
+    QCOMPARE(recording::count("push"), 0);
 }
 
 QTEST_MAIN(TestJson)

@@ -30,6 +30,14 @@ private Q_SLOTS:
     void pointsBeyondTheTableAreReadAndDropped();
     void aNegativeCountIsNone();
     void nothingIsRecorded();
+    void aMissingPointWithoutFirstIsReadAndDropped();
+    void aShapeWithFewerNodesThanItsCountStaysUsable();
+    void clonesAreMadeAlsoWhereTheStreamEnds();
+    void aPositionThatIsNoNumberIsNotApplied();
+    void aCloneStandsWhereTheFirstHasMoved();
+    void aCloneHasTheParentOfTheFirst();
+    void aStreamOfAShapeWithAMissingPointIsOutOfStep();
+    void everyTruncationLoads();
 };
 
 void TestStream::aDefaultShapeSavesPointsAndItsPenColour()
@@ -228,6 +236,114 @@ void TestStream::nothingIsRecorded()
         inputOf(qint32(1), 1.0, 2.0, true, true, QColor(Qt::red), true, qint32(2), true, qint32(3)));
     QCOMPARE(recording::count("RecordAction"), 0);
     QCOMPARE(recording::count("push"), 0);
+}
+
+void TestStream::aMissingPointWithoutFirstIsReadAndDropped()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 10 10"), QString()));
+    fixture.load();
+    // The first is skipped without reading, the second reads the only pair and has no node to be cloned from.
+    Input in = inputOf(qint32(2), 1.0, 2.0, false, true, QColor(Qt::green), false, false);
+    QVERIFY(fixture.shape->load(in));
+    QCOMPARE(fixture.shape->controlPointCount, 2u);
+    QVERIFY(!fixture.shape->node(QStringLiteral("control_2")));
+    QCOMPARE(fixture.shape->getPenColor(), QColor(Qt::green));
+    QCOMPARE(in.status(), QDataStream::Ok);
+}
+
+void TestStream::aShapeWithFewerNodesThanItsCountStaysUsable()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 10 10"), QString()));
+    fixture.shape->rawControlPoints = true;
+    fixture.load();
+    QVERIFY(fixture.shape->load(inputOf(QRectF(0, 0, 10, 10), qint32(32), 1.0, 2.0)));
+    QCOMPARE(fixture.shape->controlPointCount, 32u);
+    fixture.shape->setPenWidth(20, false);
+    QVERIFY(!fixture.shape->CheckHitTestHandlers(QPointF(1, 2)));
+    Output out;
+    QVERIFY(fixture.shape->save(out));
+    QCOMPARE(out.bytes().mid(32, 4), bytesOf(qint32(32)));
+    QCOMPARE(out.bytes().mid(36, 1), bytesOf(false)); // no pair in between
+}
+
+void TestStream::clonesAreMadeAlsoWhereTheStreamEnds()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    QVERIFY(fixture.shape->load(inputOf(qint32(3), 1.0, 2.0)));
+    QCOMPARE(fixture.shape->pointRect(1), QRectF(1, 2, 8, 8));
+    QCOMPARE(fixture.shape->pointRect(2), QRectF(0, 0, 8, 8));
+    QCOMPARE(fixture.shape->pointRect(3), QRectF(0, 0, 8, 8));
+}
+
+void TestStream::aPositionThatIsNoNumberIsNotApplied()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->load(inputOf(qint32(2), qQNaN(), 25.0, qInf(), -qInf(), false, false, false, false));
+    QCOMPARE(fixture.shape->pointRect(1), QRectF(10, 25, 8, 8));
+    QCOMPARE(fixture.shape->pointRect(2), QRectF(60, 30, 8, 8));
+}
+
+void TestStream::aCloneStandsWhereTheFirstHasMoved()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    fixture.shape->load(inputOf(qint32(2), 5.0, 6.0, qQNaN(), qQNaN(), false, false, false, false));
+    QCOMPARE(fixture.shape->pointRect(2), QRectF(5, 6, 8, 8));
+}
+
+void TestStream::aCloneHasTheParentOfTheFirst()
+{
+    ShapeFixture fixture(
+        svgText(QStringLiteral("0 0 100 50"), QStringLiteral("<g id='points'>%1</g>").arg(controlPointsText(1))));
+    fixture.load();
+    fixture.shape->load(inputOf(qint32(2), 1.0, 2.0, 3.0, 4.0, false, false, false, false));
+    QVERIFY(fixture.shape->point(1)->parent());
+    QCOMPARE(fixture.shape->point(2)->parent(), fixture.shape->point(1)->parent());
+    QCOMPARE(fixture.shape->point(2)->parent()->nodeId(), QStringLiteral("points"));
+}
+
+void TestStream::aStreamOfAShapeWithAMissingPointIsOutOfStep()
+{
+    ShapeFixture incomplete(svgText(QStringLiteral("0 0 100 50"), controlPointsText(3)));
+    incomplete.load();
+    incomplete.shape->removeNode(incomplete.shape->point(2));
+    Output out;
+    incomplete.shape->save(out);
+    QCOMPARE(out.bytes(), bytesOf(qint32(3), 10.0, 0.0, 30.0, 0.0, false, true, QColor(Qt::black), false, false));
+
+    ShapeFixture complete(svgText(QStringLiteral("0 0 100 50"), controlPointsText(3)));
+    complete.load();
+    complete.shape->load(Input(out.bytes()));
+    QCOMPARE(complete.shape->pointRect(2).topLeft(), QPointF(30, 0)); // the third one's
+    // The third reads the flags, the pen colour (kind, alpha, red, green, blue) and the last two flags: 15 bytes,
+    // one short of a pair.
+    QCOMPARE(complete.shape->pointRect(3).y(), 0.0);
+}
+
+void TestStream::everyTruncationLoads()
+{
+    const auto makeShape = [](ShapeFixture &fixture) {
+        fixture.shape->rawControlPoints = true;
+        fixture.shape->propPenStyleEnabled = true;
+        fixture.shape->propPenWidthEnabled = true;
+        fixture.load();
+    };
+    Output out;
+    {
+        ShapeFixture fixture(twoPointTemplate());
+        makeShape(fixture);
+        fixture.shape->save(out);
+    }
+    QCOMPARE(out.bytes().size(), 32 + 4 + 2 * 16 + 1 + 1 + 11 + 1 + 4 + 1 + 4);
+    for (int size = 0; size <= out.bytes().size(); ++size) {
+        ShapeFixture fixture(twoPointTemplate());
+        makeShape(fixture);
+        Input in(out.bytes().left(size));
+        QVERIFY(fixture.shape->load(in));
+        QCOMPARE(in.status() == QDataStream::Ok, size == out.bytes().size());
+    }
 }
 
 QTEST_MAIN(TestStream)

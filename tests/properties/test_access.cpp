@@ -52,6 +52,11 @@ private Q_SLOTS:
     void aSpecialPropertyAlwaysMakesAnUndoStep();
     void aSpecialPropertyPassesItsRecordFlag();
     void withoutDocumentNothingIsReadOrWritten();
+    void theLargestIndexWraps();
+    void aStyleThatThereIsNotIsASolidLine_data();
+    void aStyleThatThereIsNotIsASolidLine();
+    void aBrushThatEndsTooEarlyHasNoColour();
+    void aRecordedWidthIsOneMoreThanAReplayedOne();
 };
 
 namespace {
@@ -332,6 +337,53 @@ void TestAccess::withoutDocumentNothingIsReadOrWritten()
     QVERIFY(!fixture.shape->setInnerProperty(5002, input, true, true));
     QCOMPARE(out.bytes(), QByteArray());
     QCOMPARE(input.consumed(), 0);
+}
+
+void TestAccess::theLargestIndexWraps()
+{
+    FullShape full;
+    QVERIFY(full.shape->setInnerProperty(5004, inputOf(qint32(0x7fffffff)), true, true));
+    QCOMPARE(recording::lastArguments("setPenWidth"), QVariantList({-2147483647 - 1, true}));
+}
+
+void TestAccess::aStyleThatThereIsNotIsASolidLine_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("style");
+    QTest::newRow("below") << -1 << 1;
+    QTest::newRow("first") << 0 << 0;
+    QTest::newRow("last") << 6 << 6;
+    QTest::newRow("above") << 7 << 1;
+    QTest::newRow("far above") << 0x7fffffff << 1;
+}
+
+void TestAccess::aStyleThatThereIsNotIsASolidLine()
+{
+    QFETCH(int, number);
+    FullShape full;
+    QVERIFY(full.shape->setInnerProperty(5003, inputOf(qint32(number)), false, false));
+    QTEST(int(full.shape->getPenStyle()), "style");
+}
+
+void TestAccess::aBrushThatEndsTooEarlyHasNoColour()
+{
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    Input empty({});
+    QVERIFY(full.shape->setInnerProperty(5005, empty, false, false));
+    QVERIFY(!full.shape->getFillBrush().color().isValid());
+    QCOMPARE(full.shape->getFillBrush().style(), Qt::NoBrush);
+    QCOMPARE(empty.status(), QDataStream::ReadPastEnd);
+}
+
+// Deliberate: a panel, which records, sends an index of its list.
+void TestAccess::aRecordedWidthIsOneMoreThanAReplayedOne()
+{
+    FullShape full;
+    full.shape->setInnerProperty(5004, inputOf(qint32(2)), true, false);
+    QCOMPARE(full.shape->getPenWidth(), 3);
+    full.shape->setInnerProperty(5004, inputOf(qint32(2)), false, false);
+    QCOMPARE(full.shape->getPenWidth(), 2);
 }
 
 QTEST_MAIN(TestAccess)

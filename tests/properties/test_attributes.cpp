@@ -56,6 +56,8 @@ private Q_SLOTS:
     void aRestoreMakesNoUndoStepAndNoRepaint();
     void thePenWidthIsNotPartOfTheSnapshot();
     void aShapeMayKnowTheSnapshotIdsItself();
+    void aPropertyThatIsSwitchedOffIsSetButNotDescribed();
+    void aRestoreWithoutSnapshotLeavesABlackFill();
 };
 
 namespace {
@@ -367,6 +369,26 @@ void TestAttributes::aShapeMayKnowTheSnapshotIdsItself()
     QVERIFY(full.shape->SetAttribute(2804, Input({}), false, false));
     QCOMPARE(recording::count("OnQPainterDraw"), 1);
     QCOMPARE(full.shape->savedPenColor, QColor(Qt::red));
+}
+
+void TestAttributes::aPropertyThatIsSwitchedOffIsSetButNotDescribed()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QVERIFY(!fixture.shape->propPenStyleEnabled);
+    QVERIFY(fixture.shape->SetAttribute(5003, inputOf(qint32(4)), false, false));
+    QCOMPARE(fixture.shape->getPenStyle(), Qt::DashDotLine);
+    Output out;
+    QVERIFY(!fixture.shape->GetAttribute(5003, out));
+}
+
+// The fill of no brush is black too, and only colours are compared.
+void TestAttributes::aRestoreWithoutSnapshotLeavesABlackFill()
+{
+    FullShape full;
+    full.shape->updateBrush(QBrush(Qt::black, Qt::CrossPattern));
+    full.shape->SetAttribute(2805, Input({}), false, false);
+    QCOMPARE(full.shape->getFillBrush(), QBrush(Qt::black, Qt::CrossPattern));
 }
 
 QTEST_MAIN(TestAttributes)

@@ -28,9 +28,9 @@ private Q_SLOTS:
     void everyTruncationOfABrushIsRead();
     void everyChangedByteOfABrushIsRead_data();
     void everyChangedByteOfABrushIsRead();
-    void aColourOfNoKindIsInvalid_data();
-    void aColourOfNoKindIsInvalid();
-    void aColourOfNoKindInASavedShapeIsInvalid();
+    void aColourOfNoKindIsBlack_data();
+    void aColourOfNoKindIsBlack();
+    void aColourOfNoKindInASavedShapeIsBlack();
     void aBrushOfAStreamWithAnotherByteOrderIsChecked();
 };
 
@@ -159,7 +159,6 @@ void TestHostile::aHostileBrushIsNoBrush_data()
     QTest::newRow("texture in another format") << texture.left(textureOffset) + "P6 30000 30000 255\n";
     QTest::newRow("style 18") << withByte(linear, 0, 18);
     QTest::newRow("style 200") << withByte(bytesOf(QBrush(Qt::red)), 0, 200);
-    QTest::newRow("colour of kind 77") << withByte(bytesOf(QBrush(Qt::red)), styleBytes, 77);
 }
 
 void TestHostile::aHostileBrushIsNoBrush()
@@ -227,34 +226,41 @@ void TestHostile::everyChangedByteOfABrushIsRead()
     QCOMPARE(changed, bytes.size() * 7);
 }
 
-void TestHostile::aColourOfNoKindIsInvalid_data()
+void TestHostile::aColourOfNoKindIsBlack_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("readable");
+    QTest::addColumn<bool>("known");
     for (int kind = -1; kind <= 8; ++kind)
         QTest::addRow("%d", kind) << kind
                                   << (kind >= 0 && kind <= 5); // from QColor::Invalid to QColor::ExtendedRgb
     QTest::newRow("127") << 127 << false;
 }
 
-void TestHostile::aColourOfNoKindIsInvalid()
+void TestHostile::aColourOfNoKindIsBlack()
 {
     QFETCH(int, kind);
-    QFETCH(bool, readable);
+    QFETCH(bool, known);
     FullShape full;
-    Input in(withByte(bytesOf(QColor(Qt::green)), 0, quint8(kind)));
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    const QByteArray bytes = withByte(bytesOf(QColor(10, 20, 30, 40)), 0, quint8(kind));
+    const QByteArray expected = known ? bytes : bytesOf(QColor(0, 0, 0, 40));
+    Input in(bytes);
     QVERIFY(full.shape->setInnerProperty(5002, in, false, true));
-    QCOMPARE(full.shape->getPenColor().isValid(), readable && kind != 0);
-    QCOMPARE(in.status(), readable ? QDataStream::Ok : QDataStream::ReadCorruptData);
+    QCOMPARE(bytesOf(full.shape->getPenColor()), expected);
+    QCOMPARE(in.status(), QDataStream::Ok);
+    QVERIFY(full.shape->setInnerProperty(5005, Input(QByteArray(1, '\1') + bytes + bytesOf(QTransform())), false,
+                                         true));
+    QCOMPARE(bytesOf(full.shape->getFillBrush().color()), expected);
+    QCOMPARE(full.shape->getFillBrush().style(), Qt::SolidPattern);
 }
 
-void TestHostile::aColourOfNoKindInASavedShapeIsInvalid()
+void TestHostile::aColourOfNoKindInASavedShapeIsBlack()
 {
     FullShape full;
     const QByteArray color = withByte(bytesOf(QColor(Qt::green)), 0, 99);
     Input in(bytesOf(qint32(0), false, true) + color + bytesOf(false, false));
     QVERIFY(full.shape->load(in));
-    QVERIFY(!full.shape->getPenColor().isValid());
+    QCOMPARE(full.shape->getPenColor(), QColor(Qt::black));
 }
 
 void TestHostile::aBrushOfAStreamWithAnotherByteOrderIsChecked()
