@@ -42,10 +42,16 @@ constexpr double mappedCoordinate = 1e15;
 constexpr double strokeWidth = 1e6;
 /// Most dashes along one outline; above it the stroke is drawn solid.
 constexpr double dashes = 20000;
+/// Most nodes that one drawing visits to measure what clip paths, masks and filters relate to.
+constexpr int boundsVisits = 1000000;
+/// Deepest nesting of clip paths, masks and markers in each other's content.
+constexpr int effectDepth = 16;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
 constexpr int layerDepth = 16;
-/// Most pixels that one drawing paints aside, all groups together.
-constexpr double layerPixels = 64.0 * 1024 * 1024;
+/// Most pixels that one drawing paints aside, all groups, clip paths and masks together.
+constexpr double layerPixels = 128.0 * 1024 * 1024;
+/// The same at any one time.
+constexpr double openLayerPixels = 32.0 * 1024 * 1024;
 /// Most messages that a document keeps.
 constexpr int messages = 100;
 

@@ -96,7 +96,7 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
         ++m_animationRevision;
     }
     const AttributeId id = attributeId(name);
-    if (id == AttributeId::Unknown)
+    if (id == AttributeId::Unknown && !isEffectPart(m_tree.node(index).kind))
         return;
     if (id == AttributeId::Id) {
         m_tree.forgetIds();

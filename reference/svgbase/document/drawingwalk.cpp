@@ -24,13 +24,15 @@ struct Level
 class Walk
 {
 public:
-    Walk(Document &document, const DrawingVisitor &visitor)
+    Walk(Document &document, const DrawingVisitor &visitor, WalkBudget *budget)
         : m_document(document)
         , m_visitor(visitor)
+        , m_budget(budget)
     {
     }
 
-    void run(NodeIndex top);
+    void run(NodeIndex top, const FactsPointer &facts, bool used);
+    void runChildren(NodeIndex holder, const FactsPointer &facts);
 
 private:
     void visit(NodeIndex node, const FactsPointer &facts, bool used);
@@ -45,21 +47,20 @@ private:
     Document &m_document;
     const DrawingVisitor &m_visitor;
     QVector<Level> m_levels;
+    WalkBudget *m_budget;
     int m_useDepth = 0;
-    int m_instances = 0;
-    qint64 m_outlineElements = 0;
 };
 
 bool Walk::isExhausted() const
 {
-    return m_instances >= Limits::useInstances || m_outlineElements >= Limits::usedOutlineElements;
+    return m_budget->instances >= Limits::useInstances || m_budget->outlineElements >= Limits::usedOutlineElements;
 }
 
 void Walk::count(const Facts &facts)
 {
-    ++m_instances;
+    ++m_budget->instances;
     for (const Outline &outline : facts.outlines)
-        m_outlineElements += outline.path.elementCount();
+        m_budget->outlineElements += outline.path.elementCount();
 }
 
 bool Walk::isOpen(NodeIndex node) const
@@ -137,26 +138,48 @@ void Walk::step()
     if (!isDrawable(node.kind) && !direct)
         return;
     const bool used = level.used;
-    if (used && isExhausted())
+    if (used && isExhausted()) {
+        m_budget->exhausted = true;
         return;
+    }
     const FactsPointer facts = factsOf(child, level);
     if (used)
         count(*facts);
     visit(child, facts, used);
 }
 
-void Walk::run(NodeIndex top)
+void Walk::run(NodeIndex top, const FactsPointer &facts, bool used)
 {
-    visit(top, m_document.facts(top), false);
+    visit(top, facts, used);
     while (!m_levels.isEmpty())
+        step();
+}
+
+void Walk::runChildren(NodeIndex holder, const FactsPointer &facts)
+{
+    m_levels.append({holder, facts, m_document.tree().node(holder).firstChild, false, true});
+    while (m_levels.size() > 1 || m_levels.first().nextChild != noNode)
         step();
 }
 
 } // namespace
 
-void walkDrawing(Document &document, NodeIndex top, const DrawingVisitor &visitor)
+void walkDrawing(Document &document, NodeIndex top, const DrawingVisitor &visitor, WalkBudget *budget)
 {
-    Walk(document, visitor).run(top);
+    WalkBudget own;
+    Walk(document, visitor, budget ? budget : &own).run(top, document.facts(top), false);
+}
+
+void walkChildren(Document &document, NodeIndex holder, const FactsPointer &facts, const DrawingVisitor &visitor,
+                  WalkBudget *budget)
+{
+    Walk(document, visitor, budget).runChildren(holder, facts);
+}
+
+void walkUsed(Document &document, NodeIndex top, const FactsPointer &facts, const DrawingVisitor &visitor,
+              WalkBudget *budget)
+{
+    Walk(document, visitor, budget).run(top, facts, true);
 }
 
 void walkDrawing(Document &document, NodeIndex top,

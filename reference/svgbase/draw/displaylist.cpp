@@ -13,7 +13,8 @@ namespace {
 bool hasSameOrigin(const DisplayItem &a, const DisplayItem &b)
 {
     return a.kind == b.kind && a.node == b.node && a.outline == b.outline && a.facts == b.facts &&
-           a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre;
+           a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre &&
+           a.effects == b.effects && a.end == b.end;
 }
 
 // Takes over the mapped outlines of items that stand where they stood.
@@ -78,14 +79,6 @@ void DisplayList::paint(QPainter *painter, bool withControlPoints)
         m_picture.keep(painter, blank, withControlPoints);
 }
 
-void DisplayList::map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const
-{
-    for (DisplayItem &item : *items) {
-        if (item.kind == DisplayItem::Shape && !item.mapped)
-            mapItem(&item, stretch, world);
-    }
-}
-
 void DisplayList::update(Document &document, const QTransform &stretch, const QTransform &world)
 {
     const bool sameMapping = m_built && m_stretch == stretch && m_world == world;
@@ -104,8 +97,8 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
         m_items = built.items;
         m_controlPoints = built.controlPoints;
     }
-    map(&m_items, stretch, world);
-    map(&m_controlPoints, stretch, world);
+    mapItems(&m_items, stretch, world);
+    mapItems(&m_controlPoints, stretch, world);
     m_stretch = stretch;
     m_world = world;
     m_revision = document.revision();

@@ -3,13 +3,19 @@
 #include "document/document.h"
 #include "draw/keptpicture.h"
 
+#include <memory>
+
 namespace Svg {
+
+struct LayerEffects;
 
 /// One thing to paint, with its outline and pens mapped to the painter's coordinates.
 struct DisplayItem
 {
     enum Kind { Shape, BeginLayer, EndLayer };
     Kind kind = Shape;
+    /// A shape of a clip path: its outline is filled by the clip rule, whatever its paint.
+    bool silhouette = false;
     /// Where the item comes from; the same origin under the same mapping gives the same picture.
     NodeIndex node = noNode;
     FactsPointer facts;
@@ -17,6 +23,10 @@ struct DisplayItem
     int outline = 0;
     /// Of a layer, or of a shape that is not painted into a layer of its own.
     double opacity = 1;
+    /// What happens to the picture of a layer besides; null for nothing.
+    std::shared_ptr<LayerEffects> effects;
+    /// Of a layer: the place of its end in the list.
+    int end = 0;
     /// A control point is counter-scaled about its centre, document units.
     bool control = false;
     QPointF controlCentre;
@@ -48,8 +58,6 @@ public:
 
 private:
     QRectF paintedBounds(bool withControlPoints) const;
-    void map(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world) const;
-
     QVector<DisplayItem> m_items;
     QVector<DisplayItem> m_controlPoints;
     KeptPicture m_picture;

@@ -1,5 +1,6 @@
 #include "draw/itemmapping.h"
 
+#include "draw/layereffects.h"
 #include "inputlimits.h"
 
 #include <QtCore/QtMath>
@@ -141,12 +142,26 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
     item->bounds |= item->strokePath.controlPointRect();
 }
 
-} // namespace
-
-void mapItem(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+Outline silhouette(const Outline &outline, const ComputedStyle &style)
 {
-    const Outline &own = item->facts->outlines.at(item->outline);
-    const Outline outline = item->override ? overridden(own, item->facts->style, *item->override) : own;
+    Outline result;
+    result.path = outline.path;
+    result.path.setFillRule(style.clipRule);
+    result.fill = QBrush(Qt::black);
+    return result;
+}
+
+Outline paintedOutline(const DisplayItem &item)
+{
+    const Outline &own = item.facts->outlines.at(item.outline);
+    if (item.silhouette)
+        return silhouette(own, item.facts->style);
+    return item.override ? overridden(own, item.facts->style, *item.override) : own;
+}
+
+void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+{
+    const Outline outline = paintedOutline(*item);
     const QTransform transform = itemTransform(*item, stretch, world);
     item->path = mappedPath(outline.path, transform);
     item->bounds = item->path.controlPointRect();
@@ -161,6 +176,74 @@ void mapItem(DisplayItem *item, const QTransform &stretch, const QTransform &wor
     }
     if (outline.pen.style() != Qt::NoPen)
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
+}
+
+void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+{
+    LayerEffects *effects = item->effects.get();
+    const QTransform placed = item->control ? aboutCentre(item->controlCentre, stretch) : stretch;
+    effects->regionPath = (effects->regionToDocument * placed * world).map(effects->region);
+    mapItems(&effects->clip, stretch, world);
+    mapItems(&effects->mask, stretch, world);
+}
+
+QRectF coveredBounds(const QVector<DisplayItem> &items)
+{
+    QRectF bounds;
+    for (int i = 0; i < items.size(); i = (items.at(i).kind == DisplayItem::BeginLayer ? items.at(i).end : i) + 1)
+        bounds |= items.at(i).bounds;
+    return bounds;
+}
+
+// What is left of a layer's content by what it goes through.
+void restrictBounds(DisplayItem *layer)
+{
+    const LayerEffects *effects = layer->effects.get();
+    if (!effects)
+        return;
+    if (effects->hasRegion)
+        layer->bounds &= effects->regionPath.controlPointRect();
+    if (effects->clips)
+        layer->bounds &= coveredBounds(effects->clip);
+    if (effects->masks)
+        layer->bounds &= coveredBounds(effects->mask);
+}
+
+void measureLayers(QVector<DisplayItem> *items)
+{
+    QVector<int> open;
+    for (int i = 0; i < items->size(); ++i) {
+        DisplayItem &item = (*items)[i];
+        if (item.kind == DisplayItem::BeginLayer) {
+            item.bounds = QRectF();
+            open.append(i);
+            continue;
+        }
+        QRectF bounds = item.bounds;
+        if (item.kind == DisplayItem::EndLayer) {
+            DisplayItem &begin = (*items)[open.takeLast()];
+            restrictBounds(&begin);
+            bounds = begin.bounds;
+        }
+        if (!open.isEmpty())
+            (*items)[open.constLast()].bounds |= bounds;
+    }
+}
+
+} // namespace
+
+void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world)
+{
+    bool layered = false;
+    for (DisplayItem &item : *items) {
+        layered = layered || item.kind == DisplayItem::BeginLayer;
+        if (item.kind == DisplayItem::Shape && !item.mapped)
+            mapShape(&item, stretch, world);
+        else if (item.effects)
+            mapEffects(&item, stretch, world);
+    }
+    if (layered)
+        measureLayers(items);
 }
 
 } // namespace Svg

@@ -4,7 +4,8 @@
 
 namespace Svg {
 
-/// Maps an item's outline, fill and pen to the painter's coordinates.
-void mapItem(DisplayItem *item, const QTransform &stretch, const QTransform &world);
+/// Maps outlines, fills and pens to the painter's coordinates, as far as that is not done, and tells layers what
+/// they cover.
+void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world);
 
 } // namespace Svg

@@ -1,5 +1,7 @@
 #include "draw/itempainter.h"
 
+#include "draw/layereffects.h"
+#include "draw/layerpictures.h"
 #include "inputlimits.h"
 
 #include <QtCore/QtMath>
@@ -14,6 +16,71 @@ namespace {
 
 constexpr QPainter::RenderHints smooth =
     QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
+/// How far smoothing reaches beyond an outline, pixels.
+constexpr int smoothingReach = 1;
+
+/// Pixels that a drawing may still paint aside, in all and at a time.
+struct PixelBudget
+{
+    double left = Limits::layerPixels;
+    double open = 0;
+    int depth = 0;
+};
+
+/// A picture that is painted aside, in the coordinates of the painter below.
+class SidePicture
+{
+public:
+    SidePicture(const QRect &area, double pixelRatio, PixelBudget *budget)
+        : m_area(area)
+        , m_budget(budget)
+        , m_pixels(double(area.width()) * area.height() * pixelRatio * pixelRatio)
+        , m_image(area.size() * pixelRatio, QImage::Format_ARGB32_Premultiplied)
+    {
+        m_budget->left -= m_pixels;
+        m_budget->open += m_pixels;
+        ++m_budget->depth;
+        m_image.setDevicePixelRatio(pixelRatio);
+        m_image.fill(Qt::transparent);
+        m_painter.begin(&m_image);
+        m_painter.setRenderHints(smooth);
+        m_painter.translate(-area.topLeft());
+    }
+    ~SidePicture()
+    {
+        m_budget->open -= m_pixels;
+        --m_budget->depth;
+    }
+    SidePicture(const SidePicture &) = delete;
+    SidePicture &operator=(const SidePicture &) = delete;
+
+    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PixelBudget *budget)
+    {
+        const double pixels = double(area.width()) * area.height() * pixelRatio * pixelRatio;
+        const bool affordable = pixels >= 1 && pixels <= budget->left &&
+                                budget->open + pixels <= Limits::openLayerPixels &&
+                                budget->depth < Limits::layerDepth;
+        return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget) : nullptr;
+    }
+
+    const QRect &area() const { return m_area; }
+    QPainter *painter() { return &m_painter; }
+    /// The picture, once nothing more is painted.
+    QImage *finished()
+    {
+        if (m_painter.isActive())
+            m_painter.end();
+        return &m_image;
+    }
+    QImage *image() { return &m_image; }
+
+private:
+    QRect m_area;
+    PixelBudget *m_budget;
+    double m_pixels;
+    QImage m_image;
+    QPainter m_painter;
+};
 
 /// A group that is painted aside, or the painter itself at the bottom of the stack.
 struct Layer
@@ -23,34 +90,39 @@ struct Layer
     double opacity = 1;
     /// Opacity of the finished picture.
     double pictureOpacity = 1;
-    QPointF topLeft;
-    std::unique_ptr<QImage> picture;
-    std::unique_ptr<QPainter> ownPainter;
+    /// What can be painted on.
+    QRect area;
+    std::shared_ptr<LayerEffects> effects;
+    std::unique_ptr<SidePicture> picture;
 };
 
 class ItemPainter
 {
 public:
-    explicit ItemPainter(QPainter *painter);
+    ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PixelBudget *budget);
     void paint(const QVector<DisplayItem> &items);
 
 private:
     void paintShape(const DisplayItem &item);
-    void beginLayer(const QVector<DisplayItem> &items, int begin);
+    bool beginLayer(const DisplayItem &begin);
     void endLayer();
-    bool takePixels(const QSizeF &size);
+    void finish(Layer *layer);
+    void paintPicture(Layer *done);
+    std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
 
     std::vector<Layer> m_layers;
     double m_pixelRatio;
-    double m_pixelsLeft = Limits::layerPixels;
+    PixelBudget *m_budget;
 };
 
-ItemPainter::ItemPainter(QPainter *painter)
-    : m_pixelRatio(painter->device() ? painter->device()->devicePixelRatioF() : 1)
+ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PixelBudget *budget)
+    : m_pixelRatio(pixelRatio)
+    , m_budget(budget)
 {
     Layer bottom;
     bottom.painter = painter;
     bottom.opacity = painter->opacity();
+    bottom.area = area;
     m_layers.push_back(std::move(bottom));
 }
 
@@ -66,56 +138,121 @@ void ItemPainter::paintShape(const DisplayItem &item)
         painter->fillPath(item.strokePath, item.pen.brush());
 }
 
-// What the layer's items cover, so that the picture is no larger than needed.
-QRectF coveredArea(const QVector<DisplayItem> &items, int begin)
+// False when nothing of the layer shows, so that all of it is passed over.
+bool ItemPainter::beginLayer(const DisplayItem &begin)
 {
-    QRectF area;
-    int depth = 0;
-    for (int i = begin; i < items.size(); ++i) {
-        const DisplayItem &item = items.at(i);
-        if (item.kind == DisplayItem::Shape)
-            area |= item.bounds;
-        else
-            depth += item.kind == DisplayItem::BeginLayer ? 1 : -1;
-        if (depth == 0)
-            break;
-    }
-    return area;
-}
-
-bool ItemPainter::takePixels(const QSizeF &size)
-{
-    const double pixels = size.width() * size.height() * m_pixelRatio * m_pixelRatio;
-    if (!(pixels >= 1 && pixels <= m_pixelsLeft) || int(m_layers.size()) > Limits::layerDepth)
+    const Layer &below = m_layers.back();
+    const QRectF reach = begin.bounds.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach);
+    Layer layer;
+    layer.area = (reach & QRectF(below.area)).toAlignedRect() & below.area;
+    if (layer.area.isEmpty())
         return false;
-    m_pixelsLeft -= pixels;
+    layer.picture = SidePicture::make(layer.area, m_pixelRatio, m_budget);
+    if (layer.picture) {
+        layer.painter = layer.picture->painter();
+        layer.pictureOpacity = below.opacity * begin.opacity;
+        layer.effects = begin.effects;
+    } else if (begin.effects) {
+        return false;
+    } else {
+        // Without a picture of its own the group's shapes carry its opacity one by one.
+        layer.painter = below.painter;
+        layer.opacity = below.opacity * begin.opacity;
+    }
+    m_layers.push_back(std::move(layer));
     return true;
 }
 
-void ItemPainter::beginLayer(const QVector<DisplayItem> &items, int begin)
+std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &items, const QRect &area)
 {
+    std::unique_ptr<SidePicture> picture = SidePicture::make(area, m_pixelRatio, m_budget);
+    if (picture)
+        ItemPainter(picture->painter(), area, m_pixelRatio, m_budget).paint(items);
+    return picture;
+}
+
+// What can't be afforded hides the picture altogether.
+void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
+{
+    if (coverage)
+        keepCovered(picture, *coverage->finished());
+    else
+        picture->fill(Qt::transparent);
+}
+
+void ItemPainter::finish(Layer *layer)
+{
+    QImage *picture = layer->picture->finished();
+    const LayerEffects *effects = layer->effects.get();
+    if (!effects)
+        return;
+    if (effects->hasRegion) {
+        const std::unique_ptr<SidePicture> region = SidePicture::make(layer->area, m_pixelRatio, m_budget);
+        if (region)
+            region->painter()->fillPath(effects->regionPath, Qt::black);
+        keepWhere(picture, region);
+    }
+    if (effects->clips)
+        keepWhere(picture, painted(effects->clip, layer->area));
+    if (effects->masks) {
+        const std::unique_ptr<SidePicture> mask = painted(effects->mask, layer->area);
+        if (mask && !effects->alphaMask)
+            turnLuminanceIntoAlpha(mask->finished(), effects->linearMask);
+        keepWhere(picture, mask);
+    }
+}
+
+QPainter::CompositionMode compositionMode(BlendMode mode)
+{
+    switch (mode) {
+    case BlendMode::Multiply:
+        return QPainter::CompositionMode_Multiply;
+    case BlendMode::Screen:
+        return QPainter::CompositionMode_Screen;
+    case BlendMode::Overlay:
+        return QPainter::CompositionMode_Overlay;
+    case BlendMode::Darken:
+        return QPainter::CompositionMode_Darken;
+    case BlendMode::Lighten:
+        return QPainter::CompositionMode_Lighten;
+    case BlendMode::ColorDodge:
+        return QPainter::CompositionMode_ColorDodge;
+    case BlendMode::ColorBurn:
+        return QPainter::CompositionMode_ColorBurn;
+    case BlendMode::HardLight:
+        return QPainter::CompositionMode_HardLight;
+    case BlendMode::SoftLight:
+        return QPainter::CompositionMode_SoftLight;
+    case BlendMode::Difference:
+        return QPainter::CompositionMode_Difference;
+    case BlendMode::Exclusion:
+        return QPainter::CompositionMode_Exclusion;
+    default:
+        return QPainter::CompositionMode_SourceOver;
+    }
+}
+
+bool isForPainters(BlendMode mode)
+{
+    return mode < BlendMode::Hue;
+}
+
+void ItemPainter::paintPicture(Layer *done)
+{
+    const BlendMode mode = done->effects ? done->effects->blendMode : BlendMode::Normal;
     const Layer &below = m_layers.back();
-    const QRectF covered = coveredArea(items, begin).adjusted(-1, -1, 1, 1);
-    const QRect area = (covered & QRectF(below.painter->window()).translated(below.topLeft)).toAlignedRect();
-    Layer layer;
-    if (!takePixels(area.size())) {
-        // Without a picture of its own the group's shapes carry its opacity one by one.
-        layer.painter = below.painter;
-        layer.opacity = below.opacity * items.at(begin).opacity;
-        layer.topLeft = below.topLeft;
-        m_layers.push_back(std::move(layer));
+    const QImage &picture = *done->picture->image();
+    if (!isForPainters(mode) && below.picture) {
+        const QPoint place = (done->area.topLeft() - below.area.topLeft()) * m_pixelRatio;
+        blendOver(below.picture->image(), place, picture, done->pictureOpacity, mode);
         return;
     }
-    layer.pictureOpacity = below.opacity * items.at(begin).opacity;
-    layer.topLeft = area.topLeft();
-    layer.picture = std::make_unique<QImage>(area.size() * m_pixelRatio, QImage::Format_ARGB32_Premultiplied);
-    layer.picture->setDevicePixelRatio(m_pixelRatio);
-    layer.picture->fill(Qt::transparent);
-    layer.ownPainter = std::make_unique<QPainter>(layer.picture.get());
-    layer.painter = layer.ownPainter.get();
-    layer.painter->setRenderHints(smooth);
-    layer.painter->translate(-area.topLeft());
-    m_layers.push_back(std::move(layer));
+    below.painter->setOpacity(done->pictureOpacity);
+    if (mode != BlendMode::Normal)
+        below.painter->setCompositionMode(compositionMode(mode));
+    below.painter->drawImage(done->area.topLeft(), picture);
+    if (mode != BlendMode::Normal)
+        below.painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 void ItemPainter::endLayer()
@@ -124,22 +261,22 @@ void ItemPainter::endLayer()
     m_layers.pop_back();
     if (!done.picture)
         return;
-    done.ownPainter->end();
-    QPainter *painter = m_layers.back().painter;
-    painter->setOpacity(done.pictureOpacity);
-    painter->drawImage(done.topLeft, *done.picture);
+    finish(&done);
+    paintPicture(&done);
 }
 
 void ItemPainter::paint(const QVector<DisplayItem> &items)
 {
     m_layers.front().painter->setRenderHints(smooth);
     for (int i = 0; i < items.size(); ++i) {
-        switch (items.at(i).kind) {
+        const DisplayItem &item = items.at(i);
+        switch (item.kind) {
         case DisplayItem::Shape:
-            paintShape(items.at(i));
+            paintShape(item);
             break;
         case DisplayItem::BeginLayer:
-            beginLayer(items, i);
+            if (!beginLayer(item))
+                i = item.end;
             break;
         case DisplayItem::EndLayer:
             endLayer();
@@ -148,11 +285,20 @@ void ItemPainter::paint(const QVector<DisplayItem> &items)
     }
 }
 
+// Everywhere that the painter may change, its world transform being the identity.
+QRect paintableArea(const QPainter &painter)
+{
+    const QRect window = painter.window();
+    return painter.hasClipping() ? window & painter.clipBoundingRect().toAlignedRect() : window;
+}
+
 } // namespace
 
 void paintItems(QPainter *painter, const QVector<DisplayItem> &items)
 {
-    ItemPainter(painter).paint(items);
+    PixelBudget budget;
+    const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
+    ItemPainter(painter, paintableArea(*painter), ratio, &budget).paint(items);
 }
 
 } // namespace Svg

@@ -2,37 +2,54 @@
 
 #include "document/drawingwalk.h"
 #include "draw/controlpoints.h"
+#include "draw/effectbuilder.h"
 
 namespace Svg {
 
 namespace {
 
+/// In the place of a layer's begin for an element without one.
+constexpr int noLayer = -1;
+
 class ListBuilder
 {
 public:
-    explicit ListBuilder(Document &document)
-        : m_document(document)
+    ListBuilder(BuildContext &context, ContentUse use)
+        : m_context(context)
+        , m_document(context.document)
+        , m_use(use)
     {
     }
 
     BuiltList build();
+    QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
 
 private:
+    DrawingVisitor visitor();
     bool enter(NodeIndex node, const FactsPointer &facts);
-    void leave(NodeIndex node, const FactsPointer &facts);
-    void addShape(NodeIndex node, const FactsPointer &facts);
-    void beginLayer(NodeIndex node, const FactsPointer &facts);
+    void leave(NodeIndex node);
+    bool isAllowed(ElementKind kind) const;
+    void addShape(NodeIndex node, const FactsPointer &facts, bool layered);
+    void beginLayer(NodeIndex node, const FactsPointer &facts, const std::shared_ptr<LayerEffects> &effects);
     void endLayer();
-    bool isLayered(NodeIndex node, const FactsPointer &facts) const;
-    QVector<DisplayItem> &target() { return m_control == noNode ? m_result.items : m_result.controlPoints; }
+    bool isFadedAsOne(NodeIndex node, const FactsPointer &facts) const;
+    bool isSilhouette() const { return m_use == ContentUse::Clipping; }
+    bool isInControl() const { return m_context.control != noNode; }
+    QVector<DisplayItem> &target()
+    {
+        return isInControl() && !m_isContent ? m_result.controlPoints : m_result.items;
+    }
 
+    BuildContext &m_context;
     Document &m_document;
+    ContentUse m_use;
+    /// Control points are only what stands in the drawing itself.
+    bool m_isContent = false;
     BuiltList m_result;
-    /// Open layers of the present target, as places in it.
+    /// By open element: where its layer begins in the present target.
     QVector<int> m_layers;
-    /// The control point that is being visited.
-    NodeIndex m_control = noNode;
-    QPointF m_controlCentre;
+    /// Kinds of open elements; a clip path looks at the one above.
+    QVector<ElementKind> m_kinds;
 };
 
 bool paintsNothing(const Outline &outline)
@@ -53,9 +70,9 @@ Outline effectiveOutline(const Document &document, NodeIndex node, const Facts &
 }
 
 // Fill and stroke of one shape, and the shapes of a group, are faded as one picture (SVG 1.1 §14.5).
-bool ListBuilder::isLayered(NodeIndex node, const FactsPointer &facts) const
+bool ListBuilder::isFadedAsOne(NodeIndex node, const FactsPointer &facts) const
 {
-    if (facts->style.opacity >= 1)
+    if (facts->style.opacity >= 1 || isSilhouette())
         return false;
     if (!hasGeometry(m_document.tree().node(node).kind))
         return true;
@@ -63,26 +80,30 @@ bool ListBuilder::isLayered(NodeIndex node, const FactsPointer &facts) const
            (facts->outlines.size() == 1 && paintsTwice(effectiveOutline(m_document, node, *facts, 0)));
 }
 
-void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts)
+void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts,
+                             const std::shared_ptr<LayerEffects> &effects)
 {
     DisplayItem item;
     item.kind = DisplayItem::BeginLayer;
     item.node = node;
     item.facts = facts;
-    item.opacity = facts->style.opacity;
-    m_layers.append(target().size());
+    item.effects = effects;
+    item.opacity = isSilhouette() ? 1 : facts->style.opacity;
+    item.control = isInControl();
+    item.controlCentre = m_context.controlCentre;
+    m_layers.last() = target().size();
     target().append(item);
 }
 
 void ListBuilder::endLayer()
 {
     QVector<DisplayItem> &items = target();
-    const int begin = m_layers.takeLast();
+    const int begin = m_layers.constLast();
     // A layer around one single stroke or fill is the same as fading that one.
     const bool single = items.size() == begin + 2 && items.at(begin + 1).kind == DisplayItem::Shape;
     if (items.size() == begin + 1) {
         items.removeLast();
-    } else if (single && !paintsTwice(items.at(begin + 1))) {
+    } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
         DisplayItem shape = items.takeLast();
         shape.opacity *= items.takeLast().opacity;
         items.append(shape);
@@ -90,70 +111,134 @@ void ListBuilder::endLayer()
         DisplayItem end;
         end.kind = DisplayItem::EndLayer;
         end.node = items.at(begin).node;
+        items[begin].end = items.size();
         items.append(end);
     }
 }
 
-void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts)
+void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layered)
 {
     for (int i = 0; i < facts->outlines.size(); ++i) {
         const Outline outline = effectiveOutline(m_document, node, *facts, i);
-        if (paintsNothing(outline))
+        if (!isSilhouette() && paintsNothing(outline))
             continue;
         DisplayItem item;
         item.node = node;
         item.facts = facts;
         item.override = m_document.stylePointer(node);
         item.outline = i;
-        item.control = m_control != noNode;
-        item.controlCentre = m_controlCentre;
+        item.silhouette = isSilhouette();
+        item.control = isInControl();
+        item.controlCentre = m_context.controlCentre;
         item.fill = outline.fill;
         item.pen = outline.pen;
-        if (!isLayered(node, facts))
+        if (!layered && !isSilhouette())
             item.opacity = facts->style.opacity;
         target().append(item);
     }
 }
 
+// A clip path takes shapes, texts, and uses of them, but no use of a use and no groups.
+bool ListBuilder::isAllowed(ElementKind kind) const
+{
+    if (!isSilhouette())
+        return true;
+    if (kind == ElementKind::Use)
+        return m_kinds.isEmpty();
+    return hasGeometry(kind);
+}
+
 bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
 {
-    if (!facts->displayed || facts->style.opacity <= 0)
-        return false;
     const Node &element = m_document.tree().node(node);
-    if (m_control == noNode && isControlPointId(element.attributes.value(AttributeId::Id))) {
-        m_control = node;
-        m_controlCentre = m_document.visibleBounds(node).center();
+    if (!facts->displayed || !isAllowed(element.kind) || (facts->style.opacity <= 0 && !isSilhouette()))
+        return false;
+    const bool startsControl =
+        !isInControl() && !m_isContent && isControlPointId(element.attributes.value(AttributeId::Id));
+    if (startsControl) {
+        m_context.control = node;
+        m_context.controlCentre = m_document.visibleBounds(node).center();
     }
-    if (isLayered(node, facts))
-        beginLayer(node, facts);
+    BuiltEffects effects;
+    if (facts->style.effects)
+        effects = isSilhouette() ? buildClipOnly(m_context, node, facts) : buildEffects(m_context, node, facts);
+    if (!effects.drawn) {
+        if (startsControl)
+            m_context.control = noNode;
+        return false;
+    }
+    const bool layered = effects.layer || isFadedAsOne(node, facts);
+    m_layers.append(noLayer);
+    m_kinds.append(element.kind);
+    if (layered)
+        beginLayer(node, facts, effects.layer);
     if (facts->style.visible)
-        addShape(node, facts);
+        addShape(node, facts, layered);
     return true;
 }
 
-void ListBuilder::leave(NodeIndex node, const FactsPointer &facts)
+void ListBuilder::leave(NodeIndex node)
 {
-    if (isLayered(node, facts))
+    if (m_layers.constLast() != noLayer)
         endLayer();
-    if (m_control != node)
+    m_layers.removeLast();
+    m_kinds.removeLast();
+    if (m_context.control != node)
         return;
-    m_control = noNode;
-    m_controlCentre = QPointF();
+    m_context.control = noNode;
+    m_context.controlCentre = QPointF();
+}
+
+DrawingVisitor ListBuilder::visitor()
+{
+    return {[this](NodeIndex node, const FactsPointer &facts) { return enter(node, facts); },
+            [this](NodeIndex node, const FactsPointer &) { leave(node); }};
+}
+
+// What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
+void isolate(QVector<DisplayItem> *items)
+{
+    DisplayItem begin;
+    begin.kind = DisplayItem::BeginLayer;
+    begin.node = rootNode;
+    for (DisplayItem &item : *items)
+        item.end += 1;
+    begin.end = items->size() + 1;
+    DisplayItem end;
+    end.kind = DisplayItem::EndLayer;
+    end.node = rootNode;
+    items->prepend(begin);
+    items->append(end);
 }
 
 BuiltList ListBuilder::build()
 {
-    walkDrawing(m_document, rootNode,
-                DrawingVisitor{[this](NodeIndex node, const FactsPointer &facts) { return enter(node, facts); },
-                               [this](NodeIndex node, const FactsPointer &facts) { leave(node, facts); }});
+    walkDrawing(m_document, rootNode, visitor(), &m_context.budget);
+    if (m_context.blends)
+        isolate(&m_result.items);
     return std::move(m_result);
+}
+
+QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPointer &facts)
+{
+    m_isContent = true;
+    walkChildren(m_document, holder, facts, visitor(), &m_context.budget);
+    return m_result.items;
 }
 
 } // namespace
 
 BuiltList buildList(Document &document)
 {
-    return ListBuilder(document).build();
+    document.settle();
+    BuildContext context{document, {}, {}, 0, {}, false, noNode, QPointF()};
+    return ListBuilder(context, ContentUse::Drawing).build();
+}
+
+QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
+                                  ContentUse use)
+{
+    return ListBuilder(context, use).buildContent(holder, facts);
 }
 
 } // namespace Svg

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "draw/buildcontext.h"
 #include "draw/displaylist.h"
 
 namespace Svg {
@@ -12,5 +13,16 @@ struct BuiltList
 };
 
 BuiltList buildList(Document &document);
+
+/// What content is built for.
+enum class ContentUse {
+    Drawing,
+    /// Only silhouettes count, of shapes, texts and direct references to them (CSS Masking 1 §6.3.1).
+    Clipping
+};
+
+/// The items of an element's children as they are drawn under the given facts where another element refers to it.
+QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
+                                  ContentUse use);
 
 } // namespace Svg

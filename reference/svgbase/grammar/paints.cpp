@@ -48,6 +48,19 @@ QString localReference(QStringView text)
     return trimmed.mid(1).toString();
 }
 
+QString functionReference(QStringView text, QStringView *rest)
+{
+    const QStringView trimmed = text.trimmed();
+    if (!trimmed.startsWith(referenceStart, Qt::CaseInsensitive))
+        return QString();
+    const qsizetype end = trimmed.indexOf(QLatin1Char(')'));
+    if (end < 0)
+        return QString();
+    if (rest)
+        *rest = trimmed.mid(end + 1);
+    return localReference(unquoted(trimmed.mid(referenceStart.size(), end - referenceStart.size())));
+}
+
 std::optional<Paint> parsePaint(QStringView text)
 {
     const QStringView trimmed = text.trimmed();

@@ -29,5 +29,8 @@ struct Paint
 std::optional<Paint> parsePaint(QStringView text);
 /// The id in a reference of the form "#id"; empty for anything else.
 QString localReference(QStringView text);
+/// The id in text of the form "url(#id)", with or without quotes; empty for anything else. `rest`, when given, gets
+/// what follows.
+QString functionReference(QStringView text, QStringView *rest = nullptr);
 
 } // namespace Svg

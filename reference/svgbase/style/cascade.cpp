@@ -13,6 +13,13 @@ struct Declaration
     QStringView value;
 };
 
+// These have no presentation attribute (SVG 2 §6.6).
+bool isForStyleOnly(AttributeId property)
+{
+    return property == AttributeId::Marker || property == AttributeId::MixBlendMode ||
+           property == AttributeId::Isolation;
+}
+
 using Declarations = QVarLengthArray<Declaration, 16>;
 
 void appendStyleAttribute(QStringView text, Declarations *declarations)
@@ -31,7 +38,7 @@ Declarations declarationsOf(const Attributes &attributes)
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes) {
-        if (isProperty(attribute.id))
+        if (isProperty(attribute.id) && !isForStyleOnly(attribute.id))
             declarations.append({attribute.id, attribute.value});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;

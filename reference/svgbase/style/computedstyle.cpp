@@ -9,6 +9,7 @@ ComputedStyle inheritedStyle(const ComputedStyle &parent)
     style.displayed = true;
     style.stopColor = Qt::black;
     style.stopOpacity = 1;
+    style.effects = nullptr;
     return style;
 }
 

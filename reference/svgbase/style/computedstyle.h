@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grammar/paints.h"
+#include "style/effectstyle.h"
 
 #include <QtCore/QVector>
 #include <QtGui/QColor>
@@ -38,12 +39,22 @@ struct ComputedStyle
     Qt::FillRule fillRule = Qt::WindingFill;
     TextAnchor textAnchor = TextAnchor::Start;
     bool visible = true;
+    Qt::FillRule clipRule = Qt::WindingFill;
+    /// Whether colours are mixed in linear light: gradients and masks, filters.
+    bool mixesLinear = false;
+    bool filtersLinear = true;
+    /// Whether images are magnified with smooth transitions.
+    bool smoothImages = true;
+    /// Null without markers.
+    QSharedDataPointer<MarkerStyle> markers;
     FontStyle font;
     // Not inherited.
     double opacity = 1;
     bool displayed = true;
     QColor stopColor = Qt::black;
     double stopOpacity = 1;
+    /// Null for an element without clip path, mask, filter, blending and the like.
+    QSharedDataPointer<EffectStyle> effects;
 };
 
 /// What a child starts from: the inherited values of its parent and initial values for the rest.

@@ -3,6 +3,8 @@
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
+#include "style/effectproperties.h"
+#include "style/keywords.h"
 
 #include <cmath>
 #include <numeric>
@@ -10,24 +12,6 @@
 namespace Svg {
 
 namespace {
-
-template<typename Value> struct Keyword
-{
-    QLatin1String name;
-    Value value;
-};
-
-template<typename Value, size_t count>
-bool applyKeyword(Value &target, QStringView text, const Keyword<Value> (&keywords)[count])
-{
-    for (const Keyword<Value> &keyword : keywords) {
-        if (text == keyword.name) {
-            target = keyword.value;
-            return true;
-        }
-    }
-    return false;
-}
 
 const Keyword<Qt::PenCapStyle> caps[] = {
     {QLatin1String("butt"), Qt::FlatCap},
@@ -279,6 +263,7 @@ void inheritProperty(ComputedStyle &style, AttributeId property, const ComputedS
         style.visible = parent.visible;
         return;
     default:
+        inheritEffectProperty(style, property, parent);
         return;
     }
 }
@@ -333,7 +318,7 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
     case AttributeId::Visibility:
         return applyKeyword(style.visible, value, visibilities);
     default:
-        return false;
+        return applyEffectProperty(style, property, value, context);
     }
 }
 

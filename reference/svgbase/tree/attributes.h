@@ -31,6 +31,24 @@ enum class AttributeId : quint8 {
     StrokeWidth,
     TextAnchor,
     Visibility,
+    // Properties of effects.
+    ClipPath,
+    ClipRule,
+    ColorInterpolation,
+    ColorInterpolationFilters,
+    Filter,
+    FloodColor,
+    FloodOpacity,
+    ImageRendering,
+    Isolation,
+    Marker,
+    MarkerEnd,
+    MarkerMid,
+    MarkerStart,
+    Mask,
+    MaskType,
+    MixBlendMode,
+    Overflow,
     // Attributes of elements.
     /// Declarations that animation lays over the style of an element; no attribute of a text.
     AnimatedStyle,
@@ -70,7 +88,7 @@ enum class AttributeId : quint8 {
 };
 
 constexpr AttributeId firstProperty = AttributeId::Color;
-constexpr AttributeId lastProperty = AttributeId::Visibility;
+constexpr AttributeId lastProperty = AttributeId::Overflow;
 
 inline bool isProperty(AttributeId id)
 {

@@ -41,6 +41,32 @@ const KindName kindNames[] = {
     {QLatin1String("animateColor"), ElementKind::AnimateColor},
     {QLatin1String("set"), ElementKind::SetValue},
     {QLatin1String("mpath"), ElementKind::MotionPath},
+    {QLatin1String("clipPath"), ElementKind::ClipPath},
+    {QLatin1String("mask"), ElementKind::Mask},
+    {QLatin1String("marker"), ElementKind::Marker},
+    {QLatin1String("filter"), ElementKind::Filter},
+    {QLatin1String("feBlend"), ElementKind::FeBlend},
+    {QLatin1String("feColorMatrix"), ElementKind::FeColorMatrix},
+    {QLatin1String("feComponentTransfer"), ElementKind::FeComponentTransfer},
+    {QLatin1String("feComposite"), ElementKind::FeComposite},
+    {QLatin1String("feDropShadow"), ElementKind::FeDropShadow},
+    {QLatin1String("feFlood"), ElementKind::FeFlood},
+    {QLatin1String("feGaussianBlur"), ElementKind::FeGaussianBlur},
+    {QLatin1String("feImage"), ElementKind::FeImage},
+    {QLatin1String("feMerge"), ElementKind::FeMerge},
+    {QLatin1String("feMergeNode"), ElementKind::FeMergeNode},
+    {QLatin1String("feMorphology"), ElementKind::FeMorphology},
+    {QLatin1String("feOffset"), ElementKind::FeOffset},
+    {QLatin1String("feTile"), ElementKind::FeTile},
+    {QLatin1String("feFuncR"), ElementKind::FeFuncR},
+    {QLatin1String("feFuncG"), ElementKind::FeFuncG},
+    {QLatin1String("feFuncB"), ElementKind::FeFuncB},
+    {QLatin1String("feFuncA"), ElementKind::FeFuncA},
+    {QLatin1String("feConvolveMatrix"), ElementKind::FeOther},
+    {QLatin1String("feDiffuseLighting"), ElementKind::FeOther},
+    {QLatin1String("feDisplacementMap"), ElementKind::FeOther},
+    {QLatin1String("feSpecularLighting"), ElementKind::FeOther},
+    {QLatin1String("feTurbulence"), ElementKind::FeOther},
 };
 
 } // namespace
@@ -106,6 +132,11 @@ bool isAnimation(ElementKind kind)
 bool isPaintServerPart(ElementKind kind)
 {
     return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient || kind == ElementKind::Stop;
+}
+
+bool isEffectPart(ElementKind kind)
+{
+    return kind >= ElementKind::ClipPath && kind <= ElementKind::FeOther;
 }
 
 } // namespace Svg

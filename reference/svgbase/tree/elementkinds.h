@@ -38,6 +38,30 @@ enum class ElementKind : quint8 {
     SetValue,
     /// The "mpath" of an "animateMotion".
     MotionPath,
+    ClipPath,
+    Mask,
+    Marker,
+    Filter,
+    // Filter primitives, and what belongs to them.
+    FeBlend,
+    FeColorMatrix,
+    FeComponentTransfer,
+    FeComposite,
+    FeDropShadow,
+    FeFlood,
+    FeGaussianBlur,
+    FeImage,
+    FeMerge,
+    FeMergeNode,
+    FeMorphology,
+    FeOffset,
+    FeTile,
+    FeFuncR,
+    FeFuncG,
+    FeFuncB,
+    FeFuncA,
+    /// A primitive that is not implemented.
+    FeOther,
     /// "title" and "desc".
     Description,
     /// A style sheet.
@@ -59,5 +83,7 @@ bool hasGeometry(ElementKind kind);
 bool isAnimation(ElementKind kind);
 /// Whether other elements refer to the kind for their paint.
 bool isPaintServerPart(ElementKind kind);
+/// Whether the kind only acts on elements that refer to it: clip paths, masks, markers, filters and their parts.
+bool isEffectPart(ElementKind kind);
 
 } // namespace Svg

@@ -1,0 +1,225 @@
+#include "draw/effectbuilder.h"
+
+#include "draw/effectregion.h"
+#include "draw/listbuilder.h"
+#include "draw/objectbounds.h"
+#include "grammar/transforms.h"
+#include "inputlimits.h"
+
+#include <optional>
+
+namespace Svg {
+
+namespace {
+
+const QLatin1String objectBoundingBox("objectBoundingBox");
+const QLatin1String userSpaceOnUse("userSpaceOnUse");
+
+/// Marks a definition as being built.
+class OpenReference
+{
+public:
+    OpenReference(BuildContext &context, NodeIndex node)
+        : m_context(context)
+    {
+        m_context.open.append(node);
+    }
+    ~OpenReference() { m_context.open.removeLast(); }
+    OpenReference(const OpenReference &) = delete;
+    OpenReference &operator=(const OpenReference &) = delete;
+
+private:
+    BuildContext &m_context;
+};
+
+bool mayOpen(const BuildContext &context, NodeIndex node)
+{
+    return !context.open.contains(node) && context.open.size() < Limits::effectDepth;
+}
+
+class EffectBuilder
+{
+public:
+    EffectBuilder(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+        : m_context(context)
+        , m_node(node)
+        , m_facts(facts)
+        , m_space(effectSpace(context.document.tree().node(node), *facts))
+    {
+    }
+
+    bool addClip(LayerEffects *layer);
+    bool addMask(LayerEffects *layer);
+
+private:
+    const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
+    NodeIndex find(const QString &id, ElementKind kind) const;
+    const QRectF &bounds();
+    bool contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *facts);
+    bool buildClip(NodeIndex clip, QVector<DisplayItem> *items);
+    bool buildMask(NodeIndex mask, LayerEffects *layer);
+    void wrap(QVector<DisplayItem> *items, const std::shared_ptr<LayerEffects> &layer) const;
+
+    BuildContext &m_context;
+    NodeIndex m_node;
+    FactsPointer m_facts;
+    QTransform m_space;
+    std::optional<QRectF> m_bounds;
+};
+
+NodeIndex EffectBuilder::find(const QString &id, ElementKind kind) const
+{
+    const NodeIndex found = m_context.document.tree().findId(id);
+    return found != noNode && element(found).kind == kind ? found : noNode;
+}
+
+const QRectF &EffectBuilder::bounds()
+{
+    if (!m_bounds)
+        m_bounds = objectBounds(m_context, m_node, m_facts);
+    return *m_bounds;
+}
+
+// Content inherits from where it is defined and stands where it is referred to.
+bool EffectBuilder::contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *result)
+{
+    if (ofBounds && bounds().isEmpty())
+        return false;
+    auto *facts = new Facts;
+    *result = FactsPointer(facts);
+    facts->style = m_context.document.facts(holder)->style;
+    facts->viewport = m_facts->viewport;
+    const QRectF box = ofBounds ? bounds() : QRectF(0, 0, 1, 1);
+    facts->toDocument = QTransform(box.width(), 0, 0, box.height(), box.x(), box.y()) * own * m_space;
+    return true;
+}
+
+// Puts the items into a layer.
+void EffectBuilder::wrap(QVector<DisplayItem> *items, const std::shared_ptr<LayerEffects> &layer) const
+{
+    DisplayItem begin;
+    begin.kind = DisplayItem::BeginLayer;
+    begin.node = m_node;
+    begin.facts = m_facts;
+    begin.effects = layer;
+    begin.control = m_context.control != noNode;
+    begin.controlCentre = m_context.controlCentre;
+    begin.end = items->size() + 1;
+    for (DisplayItem &item : *items) {
+        if (item.kind == DisplayItem::BeginLayer)
+            ++item.end;
+    }
+    DisplayItem end;
+    end.kind = DisplayItem::EndLayer;
+    end.node = m_node;
+    items->prepend(begin);
+    items->append(end);
+}
+
+bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
+{
+    if (!mayOpen(m_context, clip))
+        return false;
+    const OpenReference open(m_context, clip);
+    const Attributes &attributes = element(clip).attributes;
+    const QTransform own = parseTransform(attributes.value(AttributeId::Transform)).value_or(QTransform());
+    const bool ofBounds = attributes.value(QStringLiteral("clipPathUnits")) == objectBoundingBox;
+    FactsPointer facts;
+    if (!contentFacts(clip, ofBounds, own, &facts))
+        return false;
+    *items = buildContent(m_context, clip, facts, ContentUse::Clipping);
+    if (items->isEmpty())
+        return false;
+    const auto &effects = facts->style.effects;
+    const NodeIndex further = effects ? find(effects->clipPath, ElementKind::ClipPath) : noNode;
+    if (further == noNode)
+        return true;
+    const auto layer = std::make_shared<LayerEffects>();
+    layer->clips = true;
+    if (!buildClip(further, &layer->clip))
+        return false;
+    wrap(items, layer);
+    return true;
+}
+
+bool EffectBuilder::addClip(LayerEffects *layer)
+{
+    const NodeIndex clip = find(m_facts->style.effects->clipPath, ElementKind::ClipPath);
+    if (clip == noNode)
+        return true;
+    layer->clips = true;
+    return buildClip(clip, &layer->clip);
+}
+
+bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
+{
+    if (!mayOpen(m_context, mask))
+        return false;
+    const OpenReference open(m_context, mask);
+    const Attributes &attributes = element(mask).attributes;
+    const bool regionOfBounds = attributes.value(QStringLiteral("maskUnits")) != userSpaceOnUse;
+    const bool ofBounds = attributes.value(QStringLiteral("maskContentUnits")) == objectBoundingBox;
+    FactsPointer facts;
+    if (!contentFacts(mask, ofBounds, QTransform(), &facts) || (regionOfBounds && bounds().isEmpty()))
+        return false;
+    const QRectF area =
+        effectRegion(attributes, regionOfBounds, {bounds(), facts->viewport, facts->style.font.size});
+    if (area.isEmpty())
+        return false;
+    const auto region = std::make_shared<LayerEffects>();
+    region->hasRegion = true;
+    region->region.addRect(area);
+    region->regionToDocument = m_space;
+    layer->masks = true;
+    layer->alphaMask = facts->style.effects && facts->style.effects->alphaMask;
+    layer->linearMask = facts->style.mixesLinear;
+    layer->mask = buildContent(m_context, mask, facts, ContentUse::Drawing);
+    if (layer->mask.isEmpty())
+        return false;
+    const auto &effects = facts->style.effects;
+    const NodeIndex further = effects ? find(effects->mask, ElementKind::Mask) : noNode;
+    if (further != noNode && !buildMask(further, region.get()))
+        return false;
+    wrap(&layer->mask, region);
+    return true;
+}
+
+bool EffectBuilder::addMask(LayerEffects *layer)
+{
+    const NodeIndex mask = find(m_facts->style.effects->mask, ElementKind::Mask);
+    return mask == noNode || buildMask(mask, layer);
+}
+
+bool saysNothing(const LayerEffects &layer, const EffectStyle &style)
+{
+    return !layer.hasRegion && !layer.clips && !layer.masks && layer.blendMode == BlendMode::Normal &&
+           !style.isolated;
+}
+
+} // namespace
+
+BuiltEffects buildEffects(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+{
+    const EffectStyle &style = *facts->style.effects;
+    BuiltEffects result;
+    result.layer = std::make_shared<LayerEffects>();
+    EffectBuilder builder(context, node, facts);
+    result.layer->blendMode = style.blendMode;
+    context.blends = context.blends || style.blendMode != BlendMode::Normal;
+    result.drawn = builder.addClip(result.layer.get()) && builder.addMask(result.layer.get());
+    if (saysNothing(*result.layer, style))
+        result.layer.reset();
+    return result;
+}
+
+BuiltEffects buildClipOnly(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+{
+    BuiltEffects result;
+    result.layer = std::make_shared<LayerEffects>();
+    result.drawn = EffectBuilder(context, node, facts).addClip(result.layer.get());
+    if (!result.layer->clips)
+        result.layer.reset();
+    return result;
+}
+
+} // namespace Svg

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tree/attributes.h"
+
+#include <QtCore/QRectF>
+
+namespace Svg {
+
+/// What the region of a mask or a filter is measured by, user units.
+struct RegionContext
+{
+    QRectF bounds;
+    QSizeF viewport;
+    double fontSize = 16;
+};
+
+/// The region that "x", "y", "width" and "height" give, by default the bounds with a tenth of their size on every
+/// side (CSS Masking 1 §7.3, Filter Effects 1 §7). Numbers are shares of the bounds, or user units. Empty when a
+/// size is not positive.
+QRectF effectRegion(const Attributes &attributes, bool ofBounds, const RegionContext &context);
+
+} // namespace Svg

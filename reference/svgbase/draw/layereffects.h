@@ -1,0 +1,31 @@
+#pragma once
+
+#include "draw/displaylist.h"
+
+namespace Svg {
+
+/// What a layer's finished picture goes through before it is painted on what lies below: region, clip path and
+/// mask, in this order, then the layer's opacity and the blend mode.
+struct LayerEffects
+{
+    /// Nothing shows outside this outline.
+    bool hasRegion = false;
+    QPainterPath region;
+    QTransform regionToDocument;
+    /// The region in the painter's coordinates.
+    QPainterPath regionPath;
+
+    /// Silhouettes; the picture shows as far as they cover.
+    bool clips = false;
+    QVector<DisplayItem> clip;
+
+    /// The picture shows as far as this drawing is opaque, and bright unless only its alpha counts.
+    bool masks = false;
+    bool alphaMask = false;
+    bool linearMask = false;
+    QVector<DisplayItem> mask;
+
+    BlendMode blendMode = BlendMode::Normal;
+};
+
+} // namespace Svg

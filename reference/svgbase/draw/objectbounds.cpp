@@ -1,0 +1,76 @@
+#include "draw/objectbounds.h"
+
+#include "grammar/transforms.h"
+#include "inputlimits.h"
+
+namespace Svg {
+
+namespace {
+
+QRectF boundsIn(const Facts &facts, const QTransform &fromDocument)
+{
+    const QTransform transform = facts.toDocument * fromDocument;
+    if (transform.type() <= QTransform::TxScale)
+        return transform.mapRect(facts.localBounds);
+    QRectF bounds;
+    for (const Outline &outline : facts.outlines)
+        bounds |= transform.map(outline.path).boundingRect();
+    return facts.outlines.isEmpty() ? transform.mapRect(facts.localBounds) : bounds;
+}
+
+/// A union that keeps boxes without an area, which a line has.
+class BoundsUnion
+{
+public:
+    void add(const QRectF &box)
+    {
+        if (m_any) {
+            const QRectF &b = m_bounds;
+            m_bounds = QRectF(QPointF(qMin(b.left(), box.left()), qMin(b.top(), box.top())),
+                              QPointF(qMax(b.right(), box.right()), qMax(b.bottom(), box.bottom())));
+        } else {
+            m_bounds = box;
+        }
+        m_any = true;
+    }
+    QRectF bounds() const { return m_bounds; }
+
+private:
+    QRectF m_bounds;
+    bool m_any = false;
+};
+
+} // namespace
+
+QTransform effectSpace(const Node &node, const Facts &facts)
+{
+    if (node.kind != ElementKind::NestedSvg && node.kind != ElementKind::Symbol)
+        return facts.toDocument;
+    const QString text = node.attributes.value(AttributeId::Transform);
+    const QTransform own = text.isEmpty() ? QTransform() : parseTransform(text).value_or(QTransform());
+    return facts.parent ? own * facts.parent->toDocument : own;
+}
+
+QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+{
+    const Node &element = context.document.tree().node(node);
+    if (hasGeometry(element.kind) || element.kind == ElementKind::Image)
+        return facts->hasGeometry ? facts->localBounds : QRectF();
+    const QTransform fromDocument = effectSpace(element, *facts).inverted();
+    BoundsUnion all;
+    const auto enter = [&](NodeIndex, const FactsPointer &below) {
+        if (!below->displayed || ++context.boundsVisits > Limits::boundsVisits)
+            return false;
+        if (below->hasGeometry)
+            all.add(boundsIn(*below, fromDocument));
+        return true;
+    };
+    const bool used = context.document.facts(node) != facts;
+    if (used)
+        walkUsed(context.document, node, facts, {enter, {}}, &context.boundsBudget);
+    else
+        walkDrawing(context.document, node, {enter, {}}, &context.boundsBudget);
+    return all.bounds();
+}
+
+} // namespace Svg

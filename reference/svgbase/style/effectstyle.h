@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QSharedData>
+#include <QtCore/QString>
+#include <QtGui/QColor>
+#include <QtGui/QPainter>
+
+namespace Svg {
+
+/// What "mix-blend-mode" may ask for (Compositing 1 §5). The first ones are what painters know, the last four are
+/// not.
+enum class BlendMode : quint8 {
+    Normal,
+    Multiply,
+    Screen,
+    Overlay,
+    Darken,
+    Lighten,
+    ColorDodge,
+    ColorBurn,
+    HardLight,
+    SoftLight,
+    Difference,
+    Exclusion,
+    Hue,
+    Saturation,
+    Color,
+    Luminosity
+};
+
+enum class Overflow : quint8 { Unset, Visible, Hidden };
+
+/// Properties that few elements have and none inherits. Ids are empty where nothing is referred to.
+struct EffectStyle : QSharedData
+{
+    QString clipPath;
+    QString mask;
+    /// The text of a list of filter functions and references; empty for "none".
+    QString filter;
+    BlendMode blendMode = BlendMode::Normal;
+    bool isolated = false;
+    Overflow overflow = Overflow::Unset;
+    /// Of a mask: whether its alpha counts instead of its luminance.
+    bool alphaMask = false;
+    QColor floodColor = Qt::black;
+    double floodOpacity = 1;
+};
+
+/// Ids of the markers of an element; inherited. Empty where there is none.
+struct MarkerStyle : QSharedData
+{
+    QString start;
+    QString mid;
+    QString end;
+};
+
+} // namespace Svg
