@@ -49,7 +49,9 @@ constexpr int effectDepth = 16;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
 constexpr int layerDepth = 16;
 /// Most pixels that one drawing paints aside, all groups, clip paths and masks together.
-constexpr double layerPixels = 128.0 * 1024 * 1024;
+constexpr double layerPixels = 256.0 * 1024 * 1024;
+/// What one of them counts besides its pixels, for the time that its making takes.
+constexpr double layerOverhead = 8192;
 /// The same at any one time.
 constexpr double openLayerPixels = 32.0 * 1024 * 1024;
 /// Most messages that a document keeps.

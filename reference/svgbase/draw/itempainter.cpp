@@ -18,6 +18,8 @@ constexpr QPainter::RenderHints smooth =
     QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
 /// How far smoothing reaches beyond an outline, pixels.
 constexpr int smoothingReach = 1;
+/// What is painted aside while a picture is recorded lies within this.
+constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
 
 /// Pixels that a drawing may still paint aside, in all and at a time.
 struct PixelBudget
@@ -27,6 +29,11 @@ struct PixelBudget
     int depth = 0;
 };
 
+double pixelCount(const QRect &area, double pixelRatio)
+{
+    return double(area.width()) * area.height() * pixelRatio * pixelRatio;
+}
+
 /// A picture that is painted aside, in the coordinates of the painter below.
 class SidePicture
 {
@@ -34,10 +41,10 @@ public:
     SidePicture(const QRect &area, double pixelRatio, PixelBudget *budget)
         : m_area(area)
         , m_budget(budget)
-        , m_pixels(double(area.width()) * area.height() * pixelRatio * pixelRatio)
+        , m_pixels(pixelCount(area, pixelRatio))
         , m_image(area.size() * pixelRatio, QImage::Format_ARGB32_Premultiplied)
     {
-        m_budget->left -= m_pixels;
+        m_budget->left -= m_pixels + Limits::layerOverhead;
         m_budget->open += m_pixels;
         ++m_budget->depth;
         m_image.setDevicePixelRatio(pixelRatio);
@@ -56,7 +63,7 @@ public:
 
     static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PixelBudget *budget)
     {
-        const double pixels = double(area.width()) * area.height() * pixelRatio * pixelRatio;
+        const double pixels = pixelCount(area, pixelRatio);
         const bool affordable = pixels >= 1 && pixels <= budget->left &&
                                 budget->open + pixels <= Limits::openLayerPixels &&
                                 budget->depth < Limits::layerDepth;
@@ -285,10 +292,12 @@ void ItemPainter::paint(const QVector<DisplayItem> &items)
     }
 }
 
-// Everywhere that the painter may change, its world transform being the identity.
+// Everywhere that the painter may change, its world transform being the identity. A recorded picture has no size of
+// its own.
 QRect paintableArea(const QPainter &painter)
 {
-    const QRect window = painter.window();
+    const bool recorded = painter.device() && painter.device()->devType() == QInternal::Picture;
+    const QRect window = recorded ? recordedWindow : painter.window();
     return painter.hasClipping() ? window & painter.clipBoundingRect().toAlignedRect() : window;
 }
 
