@@ -1,3 +1,4 @@
+#include <pagehost/preview.h>
 #include <pagehost/style.h>
 
 #include "editor.h"
@@ -66,6 +67,41 @@ public:
     QVector<bool> recorded;
 };
 
+/// Has a look in its attribute map as shapes do: the fill comes out as a brush and is taken as a colour.
+class MappedObject : public TestObject
+{
+public:
+    bool getAllAttributes(QMap<QString, QVariant> &map) override
+    {
+        TestObject::getAllAttributes(map);
+        map[QStringLiteral("pen_width")] = width;
+        map[QStringLiteral("fill_color")] = fill;
+        return true;
+    }
+    bool setAllAttributes(const QMap<QString, QVariant> &map, bool) override
+    {
+        const int newWidth = map.value(QStringLiteral("pen_width"), width).toInt();
+        const QBrush newFill(map.value(QStringLiteral("fill_color"), fill.color()).value<QColor>());
+        const bool changes = newWidth != width || newFill != fill;
+        width = newWidth;
+        fill = newFill;
+        return changes;
+    }
+    bool SavePropertyForPlayback(QDataStream &out) override
+    {
+        out << width << fill;
+        return true;
+    }
+    bool LoadPropertyForPlayback(QDataStream &in) override
+    {
+        in >> width >> fill;
+        return true;
+    }
+
+    int width = 2;
+    QBrush fill = QBrush(QColor(Qt::yellow));
+};
+
 } // namespace
 
 class TestStyle : public QObject
@@ -83,6 +119,13 @@ private Q_SLOTS:
     void missingPropertiesAreToldApart_data();
     void missingPropertiesAreToldApart();
     void nonsenseDescriptionIsNoStyle();
+    void styleMapHasTheLookAlone();
+    void styleMapIsGivenAsOneStep();
+    void takenBackStyleIsExactlyWhatItWas();
+    void styleThatChangesNothingLeavesNoStep();
+    void previewLeavesNoTrace();
+    void nextPreviewTakesThePlaceOfTheOneBefore();
+    void stepsBesideAPreviewReachTheHistory();
 };
 
 void TestStyle::settersReachTheObject()
@@ -105,7 +148,7 @@ void TestStyle::severalObjectsAreOneStep()
     StyledObject one;
     StyledObject other;
     QVERIFY(pagehost::setPenColor({&one, &other}, Qt::red));
-    QCOMPARE(stepTexts(), QStringList{QStringLiteral("IDS_ITEM_SET_ATTRIBUTE")});
+    QCOMPARE(stepTexts(), QStringList{QStringLiteral("IDS_NAME")});
     QCOMPARE(undoStack()->command(0)->childCount(), 2);
     QCOMPARE(one.color, QColor(Qt::red));
     QCOMPARE(other.color, QColor(Qt::red));
@@ -176,6 +219,95 @@ void TestStyle::nonsenseDescriptionIsNoStyle()
     Nonsense object;
     const pagehost::ObjectStyle style = pagehost::styleOf(&object);
     QVERIFY(!style.hasPenColor && !style.hasPenStyle && !style.hasPenWidth && !style.hasFill);
+}
+
+void TestStyle::styleMapHasTheLookAlone()
+{
+    MappedObject object;
+    const pagehost::StyleMap map = pagehost::styleMapOf(&object);
+    const QStringList expected{QStringLiteral("fill_color"), QStringLiteral("pen_width")};
+    QCOMPARE(QStringList(map.keys()), expected);
+    QCOMPARE(map[QStringLiteral("pen_width")], QVariant(2));
+    QCOMPARE(map[QStringLiteral("fill_color")], QVariant(QColor(Qt::yellow)));
+    object.fill = Qt::NoBrush;
+    QCOMPARE(pagehost::styleMapOf(&object)[QStringLiteral("fill_color")], QVariant(QColor(Qt::transparent)));
+}
+
+void TestStyle::styleMapIsGivenAsOneStep()
+{
+    MappedObject one;
+    MappedObject other;
+    TestObject plain;
+    const pagehost::StyleMap style{{QStringLiteral("pen_width"), 7}, {QStringLiteral("fill_color"), QColor(1, 2, 3)}};
+    QVERIFY(pagehost::setStyleMap({&one, &plain, &other}, style));
+    QCOMPARE(stepTexts(), QStringList{QStringLiteral("IDS_UNDO_STYLE")});
+    for (const MappedObject *object : {&one, &other}) {
+        QCOMPARE(object->width, 7);
+        QCOMPARE(object->fill, QBrush(QColor(1, 2, 3)));
+    }
+}
+
+void TestStyle::takenBackStyleIsExactlyWhatItWas()
+{
+    MappedObject object;
+    QLinearGradient gradient(0, 0, 1, 1);
+    gradient.setColorAt(1, Qt::red);
+    object.fill = gradient;
+    QVERIFY(pagehost::setStyleMap({&object}, {{QStringLiteral("fill_color"), QColor(1, 2, 3)}}));
+    undoStack()->undo();
+    QCOMPARE(object.fill, QBrush(gradient));
+    undoStack()->redo();
+    QCOMPARE(object.fill, QBrush(QColor(1, 2, 3)));
+}
+
+void TestStyle::styleThatChangesNothingLeavesNoStep()
+{
+    MappedObject object;
+    QVERIFY(!pagehost::setStyleMap({&object}, pagehost::styleMapOf(&object)));
+    QVERIFY(!pagehost::setStyleMap({}, {{QStringLiteral("pen_width"), 7}}));
+    QCOMPARE(undoStack()->count(), 0);
+}
+
+void TestStyle::previewLeavesNoTrace()
+{
+    MappedObject object;
+    QVERIFY(pagehost::setStyleMap({&object}, {{QStringLiteral("pen_width"), 5}}));
+    undoStack()->undo();
+    {
+        pagehost::Preview preview;
+        preview.show([&] { pagehost::setStyleMap({&object}, {{QStringLiteral("pen_width"), 7}}); });
+        QCOMPARE(object.width, 7);
+        QVERIFY(preview.isShowing());
+    }
+    QCOMPARE(object.width, 2);
+    QCOMPARE(undoStack()->count(), 1);
+    QVERIFY(undoStack()->canRedo());
+}
+
+void TestStyle::nextPreviewTakesThePlaceOfTheOneBefore()
+{
+    MappedObject object;
+    pagehost::Preview preview;
+    preview.show([&] { pagehost::setStyleMap({&object}, {{QStringLiteral("pen_width"), 7}}); });
+    preview.show([&] { pagehost::setStyleMap({&object}, {{QStringLiteral("fill_color"), QColor(1, 2, 3)}}); });
+    QCOMPARE(object.width, 2);
+    QCOMPARE(object.fill, QBrush(QColor(1, 2, 3)));
+    preview.takeBack();
+    QVERIFY(!preview.isShowing());
+    QCOMPARE(object.fill, QBrush(QColor(Qt::yellow)));
+}
+
+void TestStyle::stepsBesideAPreviewReachTheHistory()
+{
+    MappedObject shown;
+    MappedObject changed;
+    pagehost::Preview preview;
+    preview.show([&] { pagehost::setStyleMap({&shown}, {{QStringLiteral("pen_width"), 7}}); });
+    QVERIFY(pagehost::setStyleMap({&changed}, {{QStringLiteral("pen_width"), 9}}));
+    QCOMPARE(undoStack()->count(), 1);
+    preview.takeBack();
+    QCOMPARE(shown.width, 2);
+    QCOMPARE(changed.width, 9);
 }
 
 QTEST_MAIN(TestStyle)

@@ -66,10 +66,18 @@ UndoCapture::UndoCapture()
 
 UndoCapture::~UndoCapture()
 {
-    g_capture = m_outer;
+    stopTaking();
     for (auto command = m_commands.rbegin(); command != m_commands.rend(); ++command) {
         (*command)->undo();
     }
+}
+
+void UndoCapture::stopTaking()
+{
+    if (m_takes) {
+        g_capture = m_outer;
+    }
+    m_takes = false;
 }
 
 UndoCapture *UndoCapture::current()

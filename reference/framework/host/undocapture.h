@@ -16,8 +16,8 @@ void end();
 
 } // namespace undogroups
 
-/// While alive, commands that are pushed do not reach the stack; they are undone and deleted at the end. It takes
-/// back a gesture that the user cancelled without touching what could be redone before it.
+/// From construction to stopTaking(), commands that are pushed do not reach the stack; they are undone and deleted at
+/// the end. It takes back a gesture that the user cancelled without touching what could be redone before it.
 class UndoCapture
 {
 public:
@@ -27,9 +27,12 @@ public:
     UndoCapture &operator=(const UndoCapture &) = delete;
 
     static UndoCapture *current();
+    /// Lets commands reach the stack again; what was taken is still undone at the end.
+    void stopTaking();
     void take(CWbUndoCmd *command);
 
 private:
     UndoCapture *m_outer;
+    bool m_takes = true;
     std::vector<std::unique_ptr<CWbUndoCmd>> m_commands;
 };

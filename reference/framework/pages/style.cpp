@@ -14,28 +14,6 @@ namespace {
 
 using Writer = std::function<void(QDataStream &)>;
 
-/// Objects may write their answer into the stream that brings the value.
-bool setAttribute(CBaseObject *object, int id, const Writer &write)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    QDataStream stream(&buffer);
-    write(stream);
-    buffer.seek(0);
-    return object->SetAttribute(id, stream, true);
-}
-
-bool setAttributes(const QVector<CBaseObject *> &objects, int id, const Writer &write)
-{
-    bool taken = false;
-    GetFramework()->beginUndoGroup(QStringLiteral("IDS_ITEM_SET_ATTRIBUTE"));
-    for (CBaseObject *object : objects) {
-        taken |= setAttribute(object, id, write);
-    }
-    GetFramework()->endUndoGroup();
-    return taken;
-}
-
 /// What GetAttribute() gives: property id, code of the editor, name, whether it may be changed, then the value.
 class Description
 {
@@ -47,13 +25,15 @@ public:
         QDataStream in(m_bytes);
         qint32 foundId = 0;
         qint32 editor = 0;
-        QString name;
         bool enabled = false;
-        in >> foundId >> editor >> name >> enabled;
+        in >> foundId >> editor >> m_name >> enabled;
         m_isList = editor == listEditor;
         m_isValid = known && in.status() == QDataStream::Ok && foundId == id;
         m_valueAt = int(in.device()->pos());
     }
+
+    /// The localisation key of the property's name; empty when the object does not have the property.
+    QString name() const { return m_isValid ? m_name : QString(); }
 
     /// False, with `value` untouched, when the object does not have the property.
     template<typename Value> bool read(Value &value) const
@@ -85,10 +65,45 @@ public:
 private:
     static constexpr qint32 listEditor = 1;
     QByteArray m_bytes;
+    QString m_name;
     int m_valueAt = 0;
     bool m_isList = false;
     bool m_isValid = false;
 };
+
+/// What the first object that has the property calls it.
+QString nameOf(const QVector<CBaseObject *> &objects, int id)
+{
+    for (CBaseObject *object : objects) {
+        const QString name = Description(object, id).name();
+        if (!name.isEmpty()) {
+            return name;
+        }
+    }
+    return QStringLiteral("IDS_ITEM_SET_ATTRIBUTE");
+}
+
+/// Objects may write their answer into the stream that brings the value.
+bool setAttribute(CBaseObject *object, int id, const Writer &write)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::ReadWrite);
+    QDataStream stream(&buffer);
+    write(stream);
+    buffer.seek(0);
+    return object->SetAttribute(id, stream, true);
+}
+
+bool setAttributes(const QVector<CBaseObject *> &objects, int id, const Writer &write)
+{
+    bool taken = false;
+    GetFramework()->beginUndoGroup(nameOf(objects, id));
+    for (CBaseObject *object : objects) {
+        taken |= setAttribute(object, id, write);
+    }
+    GetFramework()->endUndoGroup();
+    return taken;
+}
 
 bool isPenStyle(qint32 style)
 {

@@ -2,6 +2,9 @@
 
 #include <framework/framework_global.h>
 
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
 #include <QtCore/QVector>
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
@@ -9,8 +12,8 @@
 class CBaseObject;
 
 /// Pen and fill of objects through the host base classes alone (CPSRootObject::SetAttribute and GetAttribute).
-/// Every setter is one undo step, whatever the number of objects, and is recorded for playback; false means that no
-/// object took the value.
+/// Every setter is one undo step that is called what the property is called, whatever the number of objects, and is
+/// recorded for playback; false means that no object took the value.
 namespace pagehost {
 
 /// Property ids of pen and fill.
@@ -42,5 +45,14 @@ struct ObjectStyle
     QBrush fill;
 };
 FRAMEWORK_EXPORT ObjectStyle styleOf(CBaseObject *object);
+
+/// A look by the names of the attribute map (CPSRootObject::getAllAttributes()), with values as setAllAttributes()
+/// takes them.
+using StyleMap = QMap<QString, QVariant>;
+/// The object's attribute map without its name, lock and place. A fill that is no plain colour is the colour it
+/// begins with; no fill is a transparent colour.
+FRAMEWORK_EXPORT StyleMap styleMapOf(CBaseObject *object);
+/// Gives the objects what they know of a look, as one undo step. False, with no step, when none of them changes.
+FRAMEWORK_EXPORT bool setStyleMap(const QVector<CBaseObject *> &objects, const StyleMap &style);
 
 } // namespace pagehost
