@@ -18,9 +18,13 @@ struct Parser
     QCommandLineParser parser;
     QCommandLineOption plugins{"plugins", "Also load the shape plug-ins in <folder>. May be given more than once.",
                                "folder"};
-    QCommandLineOption exportPages{
-        "export", "Paint the pages to PNG files in <folder>, print their paths and stop. Needs no display.",
-        "folder"};
+    QCommandLineOption exportPages{"export",
+                                   "Write the pages of the file, else of --demo, as pictures into <folder>, print "
+                                   "their paths and stop. Needs no "
+                                   "display.",
+                                   "folder"};
+    QCommandLineOption format{"format", "Format of exported pages: png or svg (png without this option).", "format",
+                              "png"};
     QCommandLineOption scale{"scale", "Pixels per page unit of exported pages, 0.05 to 16 (1 without this option).",
                              "factor", "1"};
     QCommandLineOption demo{"demo", "Open with pages that show every shape there is."};
@@ -36,9 +40,10 @@ struct Parser
         , version(parser.addVersionOption())
     {
         parser.setApplicationDescription("A board to draw and teach on: shapes that you reshape by hand.");
+        parser.addPositionalArgument("file", "The board to open.", "[file]");
         screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
         state.setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.addOptions({plugins, exportPages, scale, demo, language, dark, screenshot, state});
+        parser.addOptions({plugins, exportPages, format, scale, demo, language, dark, screenshot, state});
     }
 };
 
@@ -59,8 +64,8 @@ Options refusal(const QString &problem)
 /// The first argument that makes no sense, as a sentence; empty when all do.
 QString problemOf(const Parser &p)
 {
-    if (!p.parser.positionalArguments().isEmpty())
-        return QStringLiteral("There is nothing to do with \"%1\".").arg(p.parser.positionalArguments().first());
+    if (p.parser.positionalArguments().size() > 1)
+        return QStringLiteral("There is nothing to do with \"%1\".").arg(p.parser.positionalArguments().at(1));
     bool isNumber = false;
     const double scale = p.parser.value(p.scale).toDouble(&isNumber);
     if (!isNumber || !std::isfinite(scale) || scale < smallestScale || scale > largestScale)
@@ -70,6 +75,9 @@ QString problemOf(const Parser &p)
         return QStringLiteral("--language takes en or de, not \"%1\".").arg(language);
     if (p.parser.isSet(p.exportPages) && p.parser.value(p.exportPages).isEmpty())
         return QStringLiteral("--export takes the folder to write to.");
+    const QString format = p.parser.value(p.format);
+    if (format != QLatin1String("png") && format != QLatin1String("svg"))
+        return QStringLiteral("--format takes png or svg, not \"%1\".").arg(format);
     if (!screenshotStates().contains(p.parser.value(p.state)))
         return QStringLiteral("--screenshot-state takes one of: %1.").arg(screenshotStates().join(", "));
     return {};
@@ -87,6 +95,8 @@ Options optionsOf(const Parser &p)
     Options options;
     options.action = actionOf(p);
     options.pluginFolders = p.parser.values(p.plugins);
+    options.file = p.parser.positionalArguments().value(0);
+    options.exportsSvg = p.parser.value(p.format) == QLatin1String("svg");
     options.exportFolder = p.parser.value(p.exportPages);
     options.scale = p.parser.value(p.scale).toDouble();
     options.screenshotFile = p.parser.value(p.screenshot);

@@ -15,8 +15,10 @@ struct Options
     bool failed = false;
 
     QStringList pluginFolders; ///< additional ones, in the order given
+    QString file;              ///< document to open; empty for none
     QString exportFolder;
-    double scale = 1; ///< pixels per scene unit of exported pages
+    bool exportsSvg = false; ///< drawings in place of pictures
+    double scale = 1;        ///< pixels per scene unit of exported pages
     QString screenshotFile;
     QString screenshotState; ///< "empty", "shapes", "selection", "drag" or "page"
     bool demo = false;

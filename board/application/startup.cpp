@@ -3,12 +3,15 @@
 #include "application/commandline.h"
 #include "application/pluginfolders.h"
 #include "application/workspace.h"
+#include "documents/documentcontroller.h"
+#include "documents/recovery.h"
 #include "look/theme.h"
 #include "objects/demopages.h"
 #include "output/pageexport.h"
 #include "output/screenshot.h"
 #include "window/mainwindow.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QTextStream>
@@ -65,12 +68,30 @@ void printProblems(const Workspace &workspace)
         stream << pluginProblemText(report) << '\n';
 }
 
+/// False when nothing of the file could be read.
+bool loadFile(Workspace &workspace, const QString &file)
+{
+    pagehost::OpenResult result = pagehost::openDocument(QFileInfo(file).absoluteFilePath(), workspace.registry());
+    QTextStream errors(stderr);
+    for (const pagehost::FileMessage &message : result.messages)
+        errors << pagehost::describe(message, workspace.localizer()) << '\n';
+    if (!result.document)
+        return false;
+    workspace.replaceDocument(std::move(result.document));
+    return true;
+}
+
 int exportAll(Workspace &workspace, const Options &options)
 {
-    fillWithDemo(workspace);
+    if (options.file.isEmpty())
+        fillWithDemo(workspace);
+    else if (!loadFile(workspace, options.file))
+        return 1;
     QTextStream out(stdout);
     QTextStream errors(stderr);
-    const ExportResult result = exportPages(workspace.document(), options.exportFolder, options.scale);
+    const PageFormat format = options.exportsSvg ? PageFormat::Svg : PageFormat::Png;
+    const ExportResult result =
+        exportPages(workspace.document(), workspace.registry(), options.exportFolder, {format, options.scale});
     for (const QString &file : result.files)
         out << file << '\n';
     for (const QString &problem : result.problems)
@@ -84,6 +105,9 @@ int openWindow(Workspace &workspace, const Options &options)
         fillWithDemo(workspace);
     MainWindow window(&workspace);
     window.show();
+    if (!options.file.isEmpty())
+        window.documents()->openNow(options.file);
+    window.recovery()->offer();
     return QApplication::exec();
 }
 
@@ -109,6 +133,7 @@ int runBoard(int argc, char **argv)
 
     setUpScreens(options);
     QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("gliololok"));
     QApplication::setApplicationName(QStringLiteral("gliololok-board"));
     QApplication::setApplicationVersion(QStringLiteral(BOARD_VERSION));
     applyTheme(options.dark ? Theme::Dark : Theme::Light);

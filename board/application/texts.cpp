@@ -1,19 +1,13 @@
 #include "application/texts.h"
 
-#include <array>
+#include "clipboard/clipboardtexts.h"
+#include "documents/documenttexts.h"
 
 namespace board {
 
 namespace {
 
-struct Entry
-{
-    const char *key;
-    const char *english;
-    const char *german;
-};
-
-constexpr Entry entries[] = {
+constexpr TextEntry entries[] = {
     {"IDS_BOARD_TITLE", "Board", "Tafel"},
     {"IDS_BOARD_FILE", "&File", "&Datei"},
     {"IDS_BOARD_EDIT", "&Edit", "&Bearbeiten"},
@@ -51,6 +45,8 @@ constexpr Entry entries[] = {
     {"IDS_BOARD_PREVIOUS_PAGE", "Previous page", "Vorige Seite"},
     {"IDS_BOARD_NEXT_PAGE", "Next page", "Nächste Seite"},
     {"IDS_BOARD_EXPORT", "Export pages as pictures…", "Seiten als Bilder ausgeben…"},
+    {"IDS_BOARD_EXPORT_SVG", "Export pages as SVG drawings…", "Seiten als SVG-Zeichnungen ausgeben…"},
+    {"IDS_BOARD_NOT_EXPORTED", "Not all pages could be exported.", "Nicht alle Seiten konnten ausgegeben werden."},
     {"IDS_BOARD_EXPORTED", "%1 pages written to %2", "%1 Seiten nach %2 geschrieben"},
     {"IDS_BOARD_QUIT", "Quit", "Beenden"},
     {"IDS_BOARD_ABOUT", "About this board", "Über diese Tafel"},
@@ -123,6 +119,11 @@ constexpr Entry entries[] = {
     {"IDS_BOARD_CLOSE", "Close", "Schließen"},
 };
 
+void insert(pagehost::TextTable &texts, const TextEntry &entry, bool german)
+{
+    texts.insert(QLatin1String(entry.key), QString::fromUtf8(german ? entry.german : entry.english));
+}
+
 } // namespace
 
 pagehost::TextTable boardTexts(const QString &language)
@@ -131,8 +132,12 @@ pagehost::TextTable boardTexts(const QString &language)
     pagehost::TextTable texts;
     if (!german && language != QLatin1String("en"))
         return texts;
-    for (const Entry &entry : entries)
-        texts.insert(QLatin1String(entry.key), QString::fromUtf8(german ? entry.german : entry.english));
+    for (const TextEntry &entry : entries)
+        insert(texts, entry, german);
+    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts()}) {
+        for (const TextEntry &entry : table)
+            insert(texts, entry, german);
+    }
     return texts;
 }
 

@@ -18,18 +18,28 @@ constexpr QRgb newPenColor = 0xff34495e;
 
 Workspace::Workspace(const QString &language)
     : m_registry(&m_localizer)
+    , m_document(std::make_unique<pagehost::Document>())
 {
     for (const QString &code : {QStringLiteral("en"), QStringLiteral("de")})
         m_localizer.addTexts(code, boardTexts(code));
     m_localizer.setLanguage(language);
     pagehost::setColorSetting(IFramework::DefaultPenColor, false, QColor(newPenColor));
-    pagehost::setCurrentDocument(&m_document);
-    m_document.appendPage();
+    pagehost::setCurrentDocument(m_document.get());
+    m_document->appendPage();
 }
 
 Workspace::~Workspace()
 {
     pagehost::setCurrentDocument(nullptr);
+}
+
+void Workspace::replaceDocument(std::unique_ptr<pagehost::Document> document)
+{
+    if (document->pageCount() == 0)
+        document->appendPage();
+    pagehost::setCurrentDocument(document.get());
+    m_document.swap(document);
+    Q_EMIT documentReplaced();
 }
 
 void Workspace::loadPlugins(const QStringList &folders)

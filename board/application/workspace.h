@@ -4,17 +4,21 @@
 #include <pagehost/localizer.h>
 #include <pagehost/objectregistry.h>
 
+#include <QtCore/QObject>
+
+#include <memory>
+
 namespace board {
 
-/// What every part of the program works with: texts, kinds of object, and the document with its first page.
-class Workspace
+/// What every part of the program works with: texts, kinds of object, and the document, which has a page at least.
+class Workspace : public QObject
 {
+    Q_OBJECT
+
 public:
     /// `language` is a code such as "en" or "de_AT"; English where there are no texts in it.
     explicit Workspace(const QString &language);
-    ~Workspace();
-    Workspace(const Workspace &) = delete;
-    Workspace &operator=(const Workspace &) = delete;
+    ~Workspace() override;
 
     /// Loads every plug-in of the folders; what went wrong is in pluginProblems().
     void loadPlugins(const QStringList &folders);
@@ -24,16 +28,24 @@ public:
     const pagehost::Localizer &localizer() const { return m_localizer; }
     const pagehost::ObjectRegistry &registry() const { return m_registry; }
     pagehost::ObjectRegistry &registry() { return m_registry; }
-    pagehost::Document *document() { return &m_document; }
+    /// Never null; another one after replaceDocument().
+    pagehost::Document *document() const { return m_document.get(); }
+    /// Takes a document in place of the present one, which goes with all its undo steps once everybody has heard of
+    /// it. A document without a page gets one.
+    void replaceDocument(std::unique_ptr<pagehost::Document> document);
 
     /// The text of a localisation key in the user's language.
     QString text(const QString &key) const { return m_localizer.text(key); }
     QString text(const char *key) const { return m_localizer.text(QLatin1String(key)); }
 
+Q_SIGNALS:
+    /// document() is the new one; the one before is still alive.
+    void documentReplaced();
+
 private:
     pagehost::Localizer m_localizer;
     pagehost::ObjectRegistry m_registry;
-    pagehost::Document m_document;
+    std::unique_ptr<pagehost::Document> m_document;
 };
 
 } // namespace board

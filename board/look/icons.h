@@ -28,7 +28,12 @@ enum class Icon {
     FillGradient,
     FillPattern,
     FillPicture,
-    Info
+    Info,
+    Open,
+    Save,
+    Cut,
+    Copy,
+    Paste
 };
 
 /// A pictogram that is drawn when it is shown: sharp at every size and pixel ratio, in the palette's text colour of

@@ -209,6 +209,52 @@ IconShape infoShape()
     return shape;
 }
 
+IconShape openShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{4, 18.5}, {4, 5.5}, {9.5, 5.5}, {11.5, 8}, {18.5, 8}, {18.5, 11}});
+    addPolygon(shape.lines, {{4, 18.5}, {7, 11}, {21.5, 11}, {18.5, 18.5}});
+    addPolygon(shape.shades, {{4, 18.5}, {7, 11}, {21.5, 11}, {18.5, 18.5}});
+    return shape;
+}
+
+IconShape saveShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{12, 4}, {12, 14}});
+    addPolyline(shape.lines, {{8, 10.5}, {12, 14.5}, {16, 10.5}});
+    addPolyline(shape.lines, {{4.5, 14}, {4.5, 19.5}, {19.5, 19.5}, {19.5, 14}});
+    return shape;
+}
+
+IconShape cutShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{8.2, 15.2}, {15.5, 4}});
+    addPolyline(shape.lines, {{15.8, 15.2}, {8.5, 4}});
+    shape.lines.addEllipse(QPointF(6.6, 17.4), 2.7, 2.7);
+    shape.lines.addEllipse(QPointF(17.4, 17.4), 2.7, 2.7);
+    return shape;
+}
+
+IconShape copyShape()
+{
+    IconShape shape;
+    addPolygon(shape.lines, {{9, 8}, {19, 8}, {19, 20.5}, {9, 20.5}});
+    addPolygon(shape.shades, {{9, 8}, {19, 8}, {19, 20.5}, {9, 20.5}});
+    addPolyline(shape.lines, {{6, 16}, {5, 16}, {5, 3.5}, {15, 3.5}, {15, 5}});
+    return shape;
+}
+
+IconShape pasteShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{9, 5.5}, {5.5, 5.5}, {5.5, 20.5}, {18.5, 20.5}, {18.5, 5.5}, {15, 5.5}});
+    shape.lines.addRoundedRect(QRectF(9, 3.5, 6, 4), 1, 1);
+    shape.shades.addRoundedRect(QRectF(8.5, 10.5, 7, 7), 1, 1);
+    return shape;
+}
+
 } // namespace
 
 IconShape iconShape(Icon which)
@@ -260,6 +306,16 @@ IconShape iconShape(Icon which)
         return fillPictureShape();
     case Icon::Info:
         return infoShape();
+    case Icon::Open:
+        return openShape();
+    case Icon::Save:
+        return saveShape();
+    case Icon::Cut:
+        return cutShape();
+    case Icon::Copy:
+        return copyShape();
+    case Icon::Paste:
+        return pasteShape();
     }
     return {};
 }

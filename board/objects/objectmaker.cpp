@@ -49,4 +49,17 @@ CBaseObject *makeObject(pagehost::Page *page, const pagehost::ObjectRegistry &re
     return object;
 }
 
+void finishForPage(CBaseObject *object, pagehost::Page *page, const QPointF &topLeft)
+{
+    object->SetPage(page);
+    object->setPos(topLeft, false);
+    if (!object->isCreateFinished())
+        drawByMouse(object, topLeft, {});
+    const QSizeF size = object->getClientRect().size();
+    const double shrink = qMin(page->size().width() / size.width(), page->size().height() / size.height());
+    if (shrink < 1)
+        object->setSize(size * shrink, false, false);
+    object->SetPage(nullptr);
+}
+
 } // namespace board

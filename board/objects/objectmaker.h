@@ -19,4 +19,8 @@ namespace board {
 CBaseObject *makeObject(pagehost::Page *page, const pagehost::ObjectRegistry &registry, const QString &kindId,
                         const QPointF &topLeft, const QSizeF &size = {});
 
+/// Finishes an object in the creating state that belongs to no page, as a click at `topLeft` (scene units) of
+/// `page` would; what comes out larger than the page is made smaller. Nothing else happens to the page.
+void finishForPage(CBaseObject *object, pagehost::Page *page, const QPointF &topLeft);
+
 } // namespace board

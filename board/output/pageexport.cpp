@@ -1,5 +1,7 @@
 #include "output/pageexport.h"
 
+#include "output/svgdrawing.h"
+
 #include <pagehost/document.h>
 #include <pagehost/page.h>
 #include <pagehost/pagepainter.h>
@@ -30,11 +32,15 @@ QString writeFile(const QString &path, const QByteArray &data)
     return {};
 }
 
-void exportPage(pagehost::Page *page, const QString &path, double scale, ExportResult &result)
+void exportPage(pagehost::Page *page, const pagehost::ObjectRegistry &registry, const QString &path,
+                const ExportFormat &format, ExportResult &result)
 {
-    const QByteArray data = encodedAsPng(pagehost::pageImage(page, scale));
-    const QString problem =
-        data.isEmpty() ? QStringLiteral("%1 would be too large a picture.").arg(path) : writeFile(path, data);
+    const bool isSvg = format.format == PageFormat::Svg;
+    const QByteArray data =
+        isSvg ? svgOfPage(page, registry) : encodedAsPng(pagehost::pageImage(page, format.scale));
+    const QString reason = isSvg ? QStringLiteral("%1 was not written: an object on the page has no look as SVG.")
+                                 : QStringLiteral("%1 would be too large a picture.");
+    const QString problem = data.isEmpty() ? reason.arg(path) : writeFile(path, data);
     if (problem.isEmpty())
         result.files.append(path);
     else
@@ -43,7 +49,8 @@ void exportPage(pagehost::Page *page, const QString &path, double scale, ExportR
 
 } // namespace
 
-ExportResult exportPages(pagehost::Document *document, const QString &folder, double scale)
+ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectRegistry &registry,
+                         const QString &folder, const ExportFormat &format)
 {
     ExportResult result;
     const QDir target(QDir(folder).absolutePath());
@@ -53,8 +60,9 @@ ExportResult exportPages(pagehost::Document *document, const QString &folder, do
     }
     const int digits = QString::number(document->pageCount()).size();
     for (int i = 0; i < document->pageCount(); ++i) {
-        const QString name = QStringLiteral("page-%1.png").arg(i + 1, digits, 10, QLatin1Char('0'));
-        exportPage(document->page(i), target.filePath(name), scale, result);
+        const QString suffix = format.format == PageFormat::Svg ? QStringLiteral("svg") : QStringLiteral("png");
+        const QString name = QStringLiteral("page-%1.%2").arg(i + 1, digits, 10, QLatin1Char('0')).arg(suffix);
+        exportPage(document->page(i), registry, target.filePath(name), format, result);
     }
     return result;
 }

@@ -4,18 +4,29 @@
 
 namespace pagehost {
 class Document;
+class ObjectRegistry;
 } // namespace pagehost
 
 namespace board {
 
+enum class PageFormat { Png, Svg };
+
+struct ExportFormat
+{
+    PageFormat format = PageFormat::Png;
+    double scale = 1; ///< pixels per scene unit of pictures; drawings have no pixels
+};
+
 struct ExportResult
 {
-    QStringList files;    ///< absolute paths of the pictures written, in page order
+    QStringList files;    ///< absolute paths of the files written, in page order
     QStringList problems; ///< what could not be written, a sentence each, in English
 };
 
-/// Paints every page at `scale` pixels per scene unit into page-1.png, page-2.png ... (as many digits as the last
-/// number has) in `folder`, which is made when it does not exist. Files of these names are replaced.
-ExportResult exportPages(pagehost::Document *document, const QString &folder, double scale);
+/// Writes every page into page-1.png or page-1.svg, page-2 ... (as many digits as the last number has) in `folder`,
+/// which is made when it does not exist. Files of these names are replaced. A page with an object that has no look
+/// as SVG can't become a drawing.
+ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectRegistry &registry,
+                         const QString &folder, const ExportFormat &format);
 
 } // namespace board

@@ -67,6 +67,8 @@ void PageView::setPage(pagehost::Page *page)
     connect(page, &pagehost::Page::contentChanged, viewport(), QOverload<>::of(&QWidget::update));
     connect(page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
+    if (page->document())
+        page->document()->setZoomRate(m_zoom);
 }
 
 void PageView::setEmptyHint(const EmptyHint &hint)
@@ -144,6 +146,16 @@ void PageView::updateSceneArea()
     // Half a window around the page lets any corner of it be brought to the middle.
     const QSizeF margin = QSizeF(viewport()->size()) / m_zoom / 2;
     setSceneRect(m_page->rect().adjusted(-margin.width(), -margin.height(), margin.width(), margin.height()));
+}
+
+void PageView::settle()
+{
+    m_nudging.finish();
+    if (!m_page)
+        return;
+    m_page->scene()->cancelDrag();
+    if (m_tool)
+        m_tool->cancel();
 }
 
 void PageView::cancel()
@@ -363,17 +375,27 @@ void PageView::paintEvent(QPaintEvent *event)
 
 void PageView::dragEnterEvent(QDragEnterEvent *event)
 {
-    event->setAccepted(event->mimeData()->hasFormat(kindMimeType));
+    acceptDrag(event);
 }
 
 void PageView::dragMoveEvent(QDragMoveEvent *event)
 {
-    event->setAccepted(event->mimeData()->hasFormat(kindMimeType));
+    acceptDrag(event);
+}
+
+void PageView::acceptDrag(QDropEvent *event) const
+{
+    const QMimeData &data = *event->mimeData();
+    event->setAccepted(m_page && (data.hasFormat(kindMimeType) || (m_dropTest && m_dropTest(data))));
 }
 
 void PageView::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
+    if (!event->mimeData()->hasFormat(kindMimeType)) {
+        Q_EMIT dataDropped(*event->mimeData(), mapToScene(event->pos()));
+        return;
+    }
     Q_EMIT kindDropped(QString::fromUtf8(event->mimeData()->data(kindMimeType)), mapToScene(event->pos()));
 }
 

@@ -9,6 +9,10 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QGraphicsView>
 
+#include <functional>
+
+class QMimeData;
+
 namespace pagehost {
 class CreationTool;
 } // namespace pagehost
@@ -48,6 +52,10 @@ public:
     void fitPage();
     bool isFitted() const { return m_fitted; }
 
+    /// Decides what can be dropped besides kinds of shape.
+    void setDropTest(const std::function<bool(const QMimeData &)> &test) { m_dropTest = test; }
+    /// Ends what is going on: keys that move become a step, a drag is taken back.
+    void settle();
     /// Takes back what is going on, else takes away the selection: what the Esc key does.
     void cancel();
 
@@ -58,6 +66,8 @@ Q_SIGNALS:
     void pointerLeft();
     /// A kind of shape was dragged here from the palette; scene coordinates.
     void kindDropped(const QString &kindId, const QPointF &scenePos);
+    /// What the drop test took was dropped; scene coordinates.
+    void dataDropped(const QMimeData &data, const QPointF &scenePos);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -77,6 +87,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void acceptDrag(QDropEvent *event) const;
     bool wantsToPan(const QMouseEvent *event) const;
     void panTo(const QPoint &pos);
     void endBand(const QMouseEvent *event);
@@ -89,6 +100,7 @@ private:
 
     QPointer<pagehost::Page> m_page;
     pagehost::CreationTool *m_tool = nullptr;
+    std::function<bool(const QMimeData &)> m_dropTest;
     EmptyHint m_hint;
     BandSelection m_band;
     Nudging m_nudging;

@@ -12,6 +12,7 @@ constexpr QSize buttonSize(52, 30);
 constexpr int swatchInset = 5;
 constexpr double swatchRadius = 4;
 constexpr double disabledOpacity = 0.35;
+const QString mixedSign = QStringLiteral("—");
 
 } // namespace
 
@@ -32,8 +33,16 @@ ColorButton::ColorButton(const Workspace *workspace, const QString &name, QWidge
 void ColorButton::setColor(const QColor &color)
 {
     m_color = color;
+    m_mixed = false;
     m_popup->setColor(color);
     setAccessibleDescription(color.name(QColor::HexArgb));
+    update();
+}
+
+void ColorButton::setMixed()
+{
+    m_mixed = true;
+    setAccessibleDescription(mixedSign);
     update();
 }
 
@@ -49,6 +58,11 @@ void ColorButton::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     const QRectF area = QRectF(rect()).adjusted(swatchInset, swatchInset, -swatchInset, -swatchInset);
+    if (m_mixed) {
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(rect(), Qt::AlignCenter, mixedSign);
+        return;
+    }
     paintSwatch(&painter, area.adjusted(0.5, 0.5, -0.5, -0.5), swatchRadius, m_color);
 }
 

@@ -20,6 +20,9 @@ public:
     QColor color() const { return m_color; }
     /// Shows a colour without telling anybody.
     void setColor(const QColor &color);
+    /// Shows that there are several colours; choosing begins at the last one shown.
+    void setMixed();
+    bool isMixed() const { return m_mixed; }
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -31,6 +34,7 @@ protected:
 
 private:
     QColor m_color = Qt::black;
+    bool m_mixed = false;
     ColorPopup *m_popup;
 };
 

@@ -42,8 +42,9 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
     row->addLayout(buttons);
     row->addWidget(m_list, 1);
     makeList();
+    connectList();
     connectDocument();
-    rebuild();
+    connect(workspace, &Workspace::documentReplaced, this, &PagePanel::connectDocument);
 }
 
 void PagePanel::makeList()
@@ -62,19 +63,24 @@ void PagePanel::makeList()
 
 void PagePanel::connectDocument()
 {
-    pagehost::Document *document = m_workspace->document();
+    const pagehost::Document *document = m_workspace->document();
     connect(document, &pagehost::Document::pageInserted, this, &PagePanel::rebuild);
     connect(document, &pagehost::Document::pageRemoved, this, &PagePanel::rebuild);
     // Queued: the list itself may be in the middle of moving its row.
     connect(document, &pagehost::Document::pageMoved, this, &PagePanel::rebuild, Qt::QueuedConnection);
     connect(document, &pagehost::Document::currentPageChanged, this, &PagePanel::showCurrent);
-    connect(m_list, &QListWidget::currentRowChanged, document, [document](int row) {
+    rebuild();
+}
+
+void PagePanel::connectList()
+{
+    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
-            document->setCurrentIndex(row);
+            m_workspace->document()->setCurrentIndex(row);
     });
     connect(m_list->model(), &QAbstractItemModel::rowsMoved, this,
-            [document](const QModelIndex &, int from, int, const QModelIndex &, int before) {
-                pagehost::movePage(document, from, before > from ? before - 1 : before);
+            [this](const QModelIndex &, int from, int, const QModelIndex &, int before) {
+                pagehost::movePage(m_workspace->document(), from, before > from ? before - 1 : before);
             });
     connect(&m_thumbnails, &pagehost::ThumbnailPainter::ready, this, &PagePanel::showThumbnail);
 }

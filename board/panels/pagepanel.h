@@ -29,6 +29,7 @@ public:
 
 private:
     void makeList();
+    void connectList();
     void connectDocument();
     void rebuild();
     void showCurrent(int index);

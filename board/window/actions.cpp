@@ -118,12 +118,13 @@ void Actions::makeViewActions()
 
 void Actions::makePageActions()
 {
-    pagehost::Document *document = m_workspace->document();
-    addPage = add("IDS_BOARD_ADD_PAGE", Icon::Add, {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, [document] {
+    addPage = add("IDS_BOARD_ADD_PAGE", Icon::Add, {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, [this] {
+        pagehost::Document *document = m_workspace->document();
         pagehost::addPage(document, document->currentIndex() + 1, document->currentPage()->size());
     });
-    removePage = add("IDS_BOARD_REMOVE_PAGE", Icon::Remove, {},
-                     [document] { pagehost::removePage(document, document->currentIndex()); });
+    removePage = add("IDS_BOARD_REMOVE_PAGE", Icon::Remove, {}, [this] {
+        pagehost::removePage(m_workspace->document(), m_workspace->document()->currentIndex());
+    });
     previousPage = add("IDS_BOARD_PREVIOUS_PAGE", {Qt::Key_PageUp}, [this] { turnPage(-1); });
     nextPage = add("IDS_BOARD_NEXT_PAGE", {Qt::Key_PageDown}, [this] { turnPage(1); });
 }
@@ -131,6 +132,7 @@ void Actions::makePageActions()
 void Actions::makeProgramActions()
 {
     exportPages = add("IDS_BOARD_EXPORT", {Qt::CTRL | Qt::Key_E}, [] {});
+    exportSvg = add("IDS_BOARD_EXPORT_SVG", {}, [] {});
     quit = add("IDS_BOARD_QUIT", keysFor(QKeySequence::Quit, {Qt::CTRL | Qt::Key_Q}), [] {});
     about = add("IDS_BOARD_ABOUT", {}, [] {});
 }

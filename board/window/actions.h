@@ -33,7 +33,7 @@ public:
     QAction *mirrorHorizontally, *mirrorVertically, *rotateLeft, *rotateRight;
     QAction *zoomIn, *zoomOut, *actualSize, *fitPage;
     QAction *addPage, *removePage, *previousPage, *nextPage;
-    QAction *exportPages, *darkColors, *quit, *about;
+    QAction *exportPages, *exportSvg, *darkColors, *quit, *about;
 
 private:
     using Work = std::function<void()>;

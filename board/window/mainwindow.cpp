@@ -1,6 +1,13 @@
 #include "window/mainwindow.h"
 
+#include "application/pluginfolders.h"
 #include "application/workspace.h"
+#include "clipboard/clipboardcontroller.h"
+#include "clipboard/clipboardmenu.h"
+#include "documents/documentcontroller.h"
+#include "documents/documentmenu.h"
+#include "documents/droppeddocument.h"
+#include "documents/recovery.h"
 #include "look/theme.h"
 #include "output/pageexport.h"
 #include "page/pageview.h"
@@ -9,7 +16,7 @@
 #include "panels/palettepanel.h"
 #include "panels/stylepanel.h"
 #include "window/actions.h"
-#include "window/noticebar.h"
+#include "window/notices.h"
 #include "window/zoomcontrol.h"
 
 #include <pagehost/page.h>
@@ -17,6 +24,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtGui/QCloseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
@@ -38,6 +46,8 @@ constexpr int leftPanelWidth = 220;
 constexpr int rightPanelWidth = 264;
 constexpr int pointerTextWidth = 110;
 constexpr int sizeTextWidth = 120;
+/// Milliseconds that a message stands in the status bar.
+constexpr int messageTime = 5000;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
 
@@ -47,9 +57,14 @@ MainWindow::MainWindow(Workspace *workspace)
     : m_workspace(workspace)
     , m_view(new PageView)
     , m_actions(new Actions(workspace, m_view, this))
+    , m_notices(new Notices(workspace, this))
+    , m_documents(new DocumentController(workspace, this, m_notices))
+    , m_documentMenu(new DocumentMenu(workspace, m_documents, this))
+    , m_recovery(new Recovery(workspace, m_documents, m_notices, this))
+    , m_clipboard(new ClipboardController(workspace, m_view, m_notices, this))
+    , m_clipboardMenu(new ClipboardMenu(workspace, m_clipboard, m_view, this))
     , m_tool(&workspace->registry())
 {
-    setWindowTitle(workspace->text("IDS_BOARD_TITLE"));
     m_view->setCreationTool(&m_tool);
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
@@ -57,7 +72,7 @@ MainWindow::MainWindow(Workspace *workspace)
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new NoticeBar(workspace, centre));
+    column->addWidget(m_notices);
     column->addWidget(m_view, 1);
     setCentralWidget(centre);
     addMenus();
@@ -65,9 +80,39 @@ MainWindow::MainWindow(Workspace *workspace)
     addPanels();
     addStatus();
     connectParts();
-    showCurrentPage();
+    connectTools();
+    connectDocument();
+    showPluginProblems();
+    showTitle();
     resize(firstSize);
     m_view->setFocus();
+}
+
+void MainWindow::showPluginProblems()
+{
+    QStringList lines;
+    for (const pagehost::PluginReport &report : m_workspace->pluginProblems())
+        lines.append(pluginProblemText(report));
+    if (!lines.isEmpty())
+        m_notices->add({m_workspace->text("IDS_BOARD_PLUGIN_PROBLEMS"), lines, {}, QStringLiteral("pluginNotice")});
+}
+
+void MainWindow::showTitle()
+{
+    setWindowTitle(QStringLiteral("%1[*] – %2").arg(m_documents->name(), m_workspace->text("IDS_BOARD_TITLE")));
+    setWindowModified(m_documents->isModified());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_view->settle();
+    if (m_mayClose || !m_documents->isModified())
+        return event->accept();
+    event->ignore();
+    m_documents->whenSafe([this] {
+        m_mayClose = true;
+        close();
+    });
 }
 
 QDockWidget *MainWindow::addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel)
@@ -115,8 +160,11 @@ void MainWindow::addMenus()
             entry ? menu->addAction(entry) : (void)menu->addSeparator();
     };
     const Actions &a = *m_actions;
-    add("IDS_BOARD_FILE", {a.exportPages, nullptr, a.quit});
-    add("IDS_BOARD_EDIT", {a.undo, a.redo, nullptr, a.duplicate, a.remove, nullptr, a.selectAll, a.deselect});
+    const ClipboardMenu &c = *m_clipboardMenu;
+    add("IDS_BOARD_FILE",
+        m_documentMenu->actions() + QList<QAction *>{nullptr, a.exportPages, a.exportSvg, nullptr, a.quit});
+    add("IDS_BOARD_EDIT", {a.undo, a.redo, nullptr, c.cut, c.copy, c.paste, a.duplicate, a.remove, nullptr,
+                           c.copyLook, c.pasteLook, nullptr, a.selectAll, a.deselect});
     add("IDS_BOARD_ARRANGE", {a.toFront, a.forward, a.backward, a.toBack, nullptr, a.mirrorHorizontally,
                               a.mirrorVertically, a.rotateLeft, a.rotateRight});
     add("IDS_BOARD_PAGE", {a.addPage, a.removePage, nullptr, a.previousPage, a.nextPage});
@@ -131,8 +179,10 @@ void MainWindow::addTools()
     bar->setIconSize(toolIconSize);
     bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
     const Actions &a = *m_actions;
-    const QList<QList<QAction *>> groups{{a.undo, a.redo},
-                                         {a.duplicate, a.remove},
+    const ClipboardMenu &c = *m_clipboardMenu;
+    const QList<QList<QAction *>> groups{{m_documentMenu->openAction(), m_documentMenu->saveAction()},
+                                         {a.undo, a.redo},
+                                         {c.cut, c.copy, c.paste, a.duplicate, a.remove},
                                          {a.toFront, a.forward, a.backward, a.toBack},
                                          {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
     for (const QList<QAction *> &group : groups) {
@@ -158,13 +208,18 @@ void MainWindow::addStatus()
     statusBar()->addPermanentWidget(new ZoomControl(m_workspace, m_actions, m_view, this));
 }
 
-void MainWindow::connectParts()
+void MainWindow::connectDocument()
 {
-    pagehost::Document *document = m_workspace->document();
+    const pagehost::Document *document = m_workspace->document();
     connect(document, &pagehost::Document::currentPageChanged, this, &MainWindow::showCurrentPage);
     connect(document, &pagehost::Document::pageInserted, m_actions, &Actions::update);
     connect(document, &pagehost::Document::pageRemoved, m_actions, &Actions::update);
     connect(document, &pagehost::Document::pageMoved, m_actions, &Actions::update);
+    showCurrentPage();
+}
+
+void MainWindow::connectTools()
+{
     connect(m_palette, &PalettePanel::kindPicked, this, &MainWindow::beginCreation);
     connect(m_palette, &PalettePanel::placeRequested, this, &MainWindow::placeInMiddle);
     connect(m_view, &PageView::kindDropped, this, [this](const QString &kindId, const QPointF &pos) {
@@ -177,11 +232,25 @@ void MainWindow::connectParts()
     };
     connect(&m_tool, &pagehost::CreationTool::created, this, toolRests);
     connect(&m_tool, &pagehost::CreationTool::cancelled, this, toolRests);
+}
+
+void MainWindow::connectParts()
+{
+    connect(m_workspace, &Workspace::documentReplaced, this, &MainWindow::connectDocument);
+    m_documents->setSettle([this] { m_view->settle(); });
+    connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
+    connect(m_documents, &DocumentController::saved, this, [this](const QString &file) {
+        statusBar()->showMessage(m_workspace->text("IDS_BOARD_SAVED").arg(file), messageTime);
+    });
+    m_view->setDropTest(
+        [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
+    connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
     connect(m_view, &PageView::pointerMoved, this, [this](const QPointF &pos) {
         m_pointer->setText(QStringLiteral("%1, %2").arg(qRound(pos.x())).arg(qRound(pos.y())));
     });
     connect(m_view, &PageView::pointerLeft, m_pointer, &QLabel::clear);
-    connect(m_actions->exportPages, &QAction::triggered, this, &MainWindow::exportPages);
+    connect(m_actions->exportPages, &QAction::triggered, this, [this] { exportPages(PageFormat::Png); });
+    connect(m_actions->exportSvg, &QAction::triggered, this, [this] { exportPages(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
 }
@@ -201,9 +270,19 @@ void MainWindow::showCurrentPage()
     showSelection();
 }
 
+void MainWindow::takeDrop(const QMimeData &data, const QPointF &scenePos)
+{
+    const QString file = droppedDocument(data);
+    if (file.isEmpty())
+        m_clipboard->drop(data, scenePos);
+    else
+        m_documents->open(file);
+}
+
 void MainWindow::showSelection()
 {
     m_actions->update();
+    m_clipboardMenu->update();
     const pagehost::Page *page = m_view->page();
     const QRectF bounds = page ? pagehost::boundsOf(page->selectedObjects()) : QRectF();
     m_size->setText(bounds.isNull()
@@ -256,22 +335,26 @@ void MainWindow::placeInMiddle(const QString &kindId)
     m_tool.createAt(m_view->page()->scene(), kindId, middle - halfUsualSize);
 }
 
-void MainWindow::exportPages()
+void MainWindow::exportPages(PageFormat format)
 {
     const QString folder = QFileDialog::getExistingDirectory(this, m_workspace->text("IDS_BOARD_EXPORT"));
     if (folder.isEmpty())
         return;
-    const ExportResult result = board::exportPages(m_workspace->document(), folder, 1);
-    if (!result.problems.isEmpty())
-        QMessageBox::warning(this, windowTitle(), result.problems.join(QLatin1Char('\n')));
-    else
+    const ExportResult result =
+        board::exportPages(m_workspace->document(), m_workspace->registry(), folder, {format, 1});
+    if (!result.files.isEmpty())
         statusBar()->showMessage(m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()).arg(folder),
-                                 5000);
+                                 messageTime);
+    if (!result.problems.isEmpty())
+        m_notices->add(
+            {m_workspace->text("IDS_BOARD_NOT_EXPORTED"), result.problems, {}, QStringLiteral("exportNotice")});
+    else
+        m_notices->remove(QStringLiteral("exportNotice"));
 }
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(this, windowTitle(),
+    QMessageBox::about(this, m_workspace->text("IDS_BOARD_TITLE"),
                        m_workspace->text("IDS_BOARD_ABOUT_TEXT").arg(QCoreApplication::applicationVersion()));
 }
 

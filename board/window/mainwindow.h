@@ -1,17 +1,26 @@
 #pragma once
 
+#include "output/pageexport.h"
+
 #include <pagehost/creation.h>
 
 #include <QtWidgets/QMainWindow>
 
 class QLabel;
+class QMimeData;
 
 namespace board {
 
 class Actions;
+class ClipboardController;
+class ClipboardMenu;
+class DocumentController;
+class DocumentMenu;
+class Notices;
 class PagePanel;
 class PageView;
 class PalettePanel;
+class Recovery;
 class StylePanel;
 class Workspace;
 
@@ -28,28 +37,47 @@ public:
     Actions *actions() const { return m_actions; }
     PagePanel *pages() const { return m_pages; }
     PalettePanel *palettePanel() const { return m_palette; }
+    Notices *notices() const { return m_notices; }
+    DocumentController *documents() const { return m_documents; }
+    Recovery *recovery() const { return m_recovery; }
+    ClipboardController *clipboard() const { return m_clipboard; }
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
 
+protected:
+    /// Asks first when changes could be lost.
+    void closeEvent(QCloseEvent *event) override;
+
 private:
+    void showPluginProblems();
     QDockWidget *addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel);
     void addPanels();
     void addMenus();
     void addTools();
     void addStatus();
     void connectParts();
+    void connectTools();
+    void connectDocument();
+    void showTitle();
+    void takeDrop(const QMimeData &data, const QPointF &scenePos);
     void showCurrentPage();
     void showSelection();
     void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
-    void exportPages();
+    void exportPages(PageFormat format);
     void showAbout();
 
     Workspace *m_workspace;
     PageView *m_view;
     Actions *m_actions;
+    Notices *m_notices;
+    DocumentController *m_documents;
+    DocumentMenu *m_documentMenu;
+    Recovery *m_recovery;
+    ClipboardController *m_clipboard;
+    ClipboardMenu *m_clipboardMenu;
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     StylePanel *m_style = nullptr;
@@ -57,6 +85,7 @@ private:
     QLabel *m_pointer = nullptr;
     QLabel *m_size = nullptr;
     pagehost::CreationTool m_tool;
+    bool m_mayClose = false; ///< the user gave unsaved changes up
 };
 
 } // namespace board

@@ -10,7 +10,10 @@
 #include <framework/cbaseobject.h>
 #include <framework/cundoredo.h>
 
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QUndoStack>
 
 namespace boardtest {
@@ -28,10 +31,28 @@ constexpr int handleReach = 60;
 /// Finer than a handle is large.
 constexpr int coarseStep = 8;
 
+/// Settings and data of the user who runs the tests are left alone.
+void useOwnFolders()
+{
+    static const QTemporaryDir home;
+    static const bool isSet = qputenv("XDG_CONFIG_HOME", home.filePath("config").toLocal8Bit()) &&
+                              qputenv("XDG_DATA_HOME", home.filePath("data").toLocal8Bit());
+    if (!home.isValid() || !isSet)
+        qFatal("there is no folder for settings");
+    QCoreApplication::setOrganizationName(QStringLiteral("gliololok"));
+    QCoreApplication::setApplicationName(QStringLiteral("gliololok-board"));
+}
+
+std::unique_ptr<board::Workspace> makeWorkspace(const QString &language)
+{
+    useOwnFolders();
+    return std::make_unique<board::Workspace>(language);
+}
+
 } // namespace
 
 BoardDriver::BoardDriver(const QString &language)
-    : m_workspace(std::make_unique<board::Workspace>(language))
+    : m_workspace(makeWorkspace(language))
 {
     m_workspace->loadPlugins({QStringLiteral(SHAPE_FOLDER)});
     m_window = std::make_unique<board::MainWindow>(m_workspace.get());
@@ -42,6 +63,7 @@ BoardDriver::BoardDriver(const QString &language)
     view().setZoom(1);
     view().centerOn(page().rect().center());
     history().clear();
+    m_workspace->document()->markSaved();
 }
 
 BoardDriver::~BoardDriver() = default;
@@ -137,6 +159,24 @@ void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
     m_window->activateWindow();
     view().setFocus();
     QTest::keyClick(&view(), key, modifiers);
+}
+
+QAction *BoardDriver::action(const QString &text) const
+{
+    for (QAction *candidate : m_window->findChildren<QAction *>()) {
+        if (candidate->text() == text)
+            return candidate;
+    }
+    return nullptr;
+}
+
+QPushButton *BoardDriver::button(const QString &text) const
+{
+    for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
+        if (candidate->isVisible() && candidate->text().remove(QLatin1Char('&')) == text)
+            return candidate;
+    }
+    return nullptr;
 }
 
 void BoardDriver::pick(const QString &kindId)

@@ -11,6 +11,8 @@
 #include <memory>
 
 class CBaseObject;
+class QAction;
+class QPushButton;
 class QUndoStack;
 
 namespace pagehost {
@@ -62,6 +64,13 @@ public:
     /// @}
 
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// @name Widgets by their texts; null when there is none
+    /// @{
+    QAction *action(const QString &text) const;
+    /// A visible button of the window, its bars or its dialogs.
+    QPushButton *button(const QString &text) const;
+    /// @}
 
     /// @name Shapes
     /// @{

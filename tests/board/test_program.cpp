@@ -55,7 +55,8 @@ void TestProgram::helpNamesEveryOption()
 {
     const Outcome outcome = run({"--help"});
     QCOMPARE(outcome.code, 0);
-    for (const char *option : {"--plugins", "--export", "--scale", "--demo", "--language", "--dark", "--help"})
+    for (const char *option :
+         {"--plugins", "--export", "--format", "--scale", "--demo", "--language", "--dark", "--help"})
         QVERIFY2(outcome.out.contains(option), option);
 }
 
@@ -71,7 +72,9 @@ void TestProgram::badArgumentsAreRefused_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("words");
     QTest::newRow("unknown option") << QStringList{"--colour"} << "colour";
-    QTest::newRow("a file") << QStringList{"lesson.page"} << "lesson.page";
+    QTest::newRow("two files") << QStringList{"one.board", "two.board"} << "two.board";
+    QTest::newRow("format") << QStringList{"--export", "x", "--format", "gif"} << "--format";
+    QTest::newRow("file that is not there") << QStringList{"nowhere.board", "--export", "x"} << "nowhere.board";
     QTest::newRow("scale 0") << QStringList{"--export", "x", "--scale", "0"} << "--scale";
     QTest::newRow("scale nan") << QStringList{"--export", "x", "--scale", "nan"} << "--scale";
     QTest::newRow("scale 1e999") << QStringList{"--export", "x", "--scale", "1e999"} << "--scale";

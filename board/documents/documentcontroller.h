@@ -1,0 +1,81 @@
+#pragma once
+
+#include "documents/filedialogs.h"
+#include "documents/recentfiles.h"
+
+#include <pagehost/documentfile.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+#include <functional>
+
+namespace board {
+
+class Notices;
+class Workspace;
+
+/// The document and its file: what it is called, what has changed, opening, saving, and the questions in between.
+class DocumentController : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Work = std::function<void()>;
+
+    /// All must outlive this. Dialogs belong to `window`.
+    DocumentController(Workspace *workspace, QWidget *window, Notices *notices);
+
+    /// Absolute path of the file that save() writes; empty for none.
+    QString file() const { return m_file; }
+    /// For people: the file's name without its folder.
+    QString name() const;
+    bool isModified() const;
+    /// Called before the document is saved or left, to end what the user is in the middle of.
+    void setSettle(const Work &settle) { m_settle = settle; }
+    RecentFiles &recentFiles() { return m_recent; }
+
+    /// Runs `next` once no unsaved change can be lost: at once, or when the user has saved or given the changes up;
+    /// never when the user cancels.
+    void whenSafe(const Work &next);
+
+    /// @name What the user asks for; unsaved changes come first
+    /// @{
+    void createNew();
+    void askAndOpen();
+    void open(const QString &file);
+    /// `next` runs when the document has been saved.
+    void save(const Work &next = {});
+    void saveAs(const Work &next = {});
+    /// @}
+
+    /// Opens without a question. False when nothing could be read; the document is then what it was.
+    bool openNow(const QString &file);
+    /// Takes a document that was brought back and belongs to `file`, which may be empty.
+    void takeRecovered(pagehost::OpenResult result, const QString &file);
+
+Q_SIGNALS:
+    /// Name, file or isModified() may be others.
+    void stateChanged();
+    void saved(const QString &file);
+
+private:
+    void watchDocument();
+    void take(pagehost::OpenResult &result, const QString &file, const char *noticeKey);
+    void saveTo(const QString &file, const Work &next);
+    void settle();
+    QString suggestion() const;
+    QStringList texts(const QVector<pagehost::FileMessage> &messages) const;
+
+    Workspace *m_workspace;
+    Notices *m_notices;
+    FileDialogs m_dialogs;
+    RecentFiles m_recent;
+    Work m_settle;
+    QString m_file;
+    /// A file that save() must not write unasked, since not all of it was read.
+    QString m_damagedFile;
+};
+
+} // namespace board

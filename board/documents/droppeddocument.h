@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QtCore/QString>
+
+class QMimeData;
+
+namespace board {
+
+/// The path of the document among what is dropped; empty when there is none, or more than one.
+QString droppedDocument(const QMimeData &data);
+
+} // namespace board

@@ -1,0 +1,122 @@
+#include "documents/filedialogs.h"
+
+#include "application/workspace.h"
+
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+namespace board {
+
+namespace {
+
+const QString binarySuffix = QStringLiteral("board");
+const QString jsonSuffix = QStringLiteral("board.json");
+
+QString filterOf(const QString &name, const QStringList &patterns)
+{
+    return QStringLiteral("%1 (%2)").arg(name, patterns.join(QLatin1Char(' ')));
+}
+
+QFileDialog *makeDialog(QWidget *window, const QString &title)
+{
+    auto *dialog = new QFileDialog(window, title);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    return dialog;
+}
+
+bool hasFormatSuffix(const QString &file)
+{
+    return file.endsWith(QLatin1Char('.') + binarySuffix, Qt::CaseInsensitive) ||
+           file.endsWith(QLatin1Char('.') + jsonSuffix, Qt::CaseInsensitive);
+}
+
+QMessageBox *makeQuestion(QWidget *window, const QString &text, const QString &explanation)
+{
+    auto *box = new QMessageBox(QMessageBox::Question, window->windowTitle().remove(QStringLiteral("[*]")), text,
+                                QMessageBox::NoButton, window);
+    box->setInformativeText(explanation);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    return box;
+}
+
+} // namespace
+
+FileDialogs::FileDialogs(const Workspace *workspace, QWidget *window)
+    : m_workspace(workspace)
+    , m_window(window)
+{
+}
+
+void FileDialogs::askForFileToOpen(const QString &folder, const TakeFile &take) const
+{
+    QString title = m_workspace->text("IDS_BOARD_OPEN");
+    QFileDialog *dialog = makeDialog(m_window, title.remove(QChar(0x2026)));
+    dialog->setDirectory(folder);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({filterOf(m_workspace->text("IDS_BOARD_ALL_BOARDS"),
+                                     {QStringLiteral("*.") + binarySuffix, QStringLiteral("*.") + jsonSuffix}),
+                            filterOf(m_workspace->text("IDS_BOARD_ALL_FILES"), {QStringLiteral("*")})});
+    QObject::connect(dialog, &QFileDialog::fileSelected, m_window, take);
+    dialog->open();
+}
+
+void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &take) const
+{
+    QString title = m_workspace->text("IDS_BOARD_SAVE_AS");
+    QFileDialog *dialog = makeDialog(m_window, title.remove(QChar(0x2026)));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    const QString binary =
+        filterOf(m_workspace->text("IDS_BOARD_BINARY_BOARDS"), {QStringLiteral("*.") + binarySuffix});
+    const QString json = filterOf(m_workspace->text("IDS_BOARD_JSON_BOARDS"), {QStringLiteral("*.") + jsonSuffix});
+    dialog->setNameFilters({binary, json});
+    const auto useFilter = [dialog, json](const QString &filter) {
+        dialog->setDefaultSuffix(filter == json ? jsonSuffix : binarySuffix);
+    };
+    const bool isJson = suggestion.endsWith(jsonSuffix, Qt::CaseInsensitive);
+    dialog->selectNameFilter(isJson ? json : binary);
+    useFilter(isJson ? json : binary);
+    dialog->setDirectory(QFileInfo(suggestion).absolutePath());
+    dialog->selectFile(suggestion);
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, useFilter);
+    QObject::connect(dialog, &QFileDialog::fileSelected, m_window, [*this, dialog, take](const QString &file) {
+        takeWithSuffix(file, dialog->defaultSuffix(), take);
+    });
+    dialog->open();
+}
+
+/// The dialog adds its suffix only to names without a dot.
+void FileDialogs::takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const
+{
+    if (hasFormatSuffix(file))
+        return take(file);
+    const QString complete = file + QLatin1Char('.') + suffix;
+    if (!QFileInfo::exists(complete))
+        return take(complete);
+    QMessageBox *box = makeQuestion(
+        m_window, m_workspace->text("IDS_BOARD_REPLACE_TITLE").arg(QFileInfo(complete).fileName()), {});
+    QPushButton *replace = box->addButton(m_workspace->text("IDS_BOARD_REPLACE"), QMessageBox::DestructiveRole);
+    box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
+    QObject::connect(replace, &QPushButton::clicked, m_window, [take, complete] { take(complete); });
+    box->open();
+}
+
+void FileDialogs::askToKeepChanges(const QString &name, const Work &save, const Work &discard) const
+{
+    QMessageBox *box = makeQuestion(m_window, m_workspace->text("IDS_BOARD_KEEP_TITLE").arg(name),
+                                    m_workspace->text("IDS_BOARD_KEEP_TEXT"));
+    QPushButton *saveButton = box->addButton(m_workspace->text("IDS_BOARD_SAVE"), QMessageBox::AcceptRole);
+    QPushButton *discardButton =
+        box->addButton(m_workspace->text("IDS_BOARD_KEEP_DISCARD"), QMessageBox::DestructiveRole);
+    QPushButton *cancel = box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
+    box->setDefaultButton(saveButton);
+    box->setEscapeButton(cancel);
+    QObject::connect(saveButton, &QPushButton::clicked, m_window, save);
+    QObject::connect(discardButton, &QPushButton::clicked, m_window, discard);
+    box->open();
+}
+
+} // namespace board

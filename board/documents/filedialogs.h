@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace board {
+
+class Workspace;
+
+/// The questions about files. None of them blocks: the answer comes later, or never when the user cancels. Qt's own
+/// dialogs are used on every platform, in the board's language.
+class FileDialogs
+{
+public:
+    using TakeFile = std::function<void(const QString &file)>;
+    using Work = std::function<void()>;
+
+    /// Both must outlive this.
+    FileDialogs(const Workspace *workspace, QWidget *window);
+
+    /// For a file to read, beginning in `folder`.
+    void askForFileToOpen(const QString &folder, const TakeFile &take) const;
+    /// For a file to write, beginning with `suggestion`. The name that is taken ends in one of the two formats'
+    /// suffixes, and the user has agreed to replace a file that exists.
+    void askForFileToSave(const QString &suggestion, const TakeFile &take) const;
+    /// What to do with unsaved changes to `name`.
+    void askToKeepChanges(const QString &name, const Work &save, const Work &discard) const;
+
+private:
+    void takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const;
+
+    const Workspace *m_workspace;
+    QWidget *m_window;
+};
+
+} // namespace board

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "panels/editors/valueeditor.h"
+
+class QLineEdit;
+
+namespace board {
+
+/// A line of text, taken over by Enter or when the user goes elsewhere.
+class TextEditor : public ValueEditor
+{
+    Q_OBJECT
+
+public:
+    explicit TextEditor(QWidget *parent = nullptr);
+
+    void showValue(const QVariant &value) override;
+    void showMixed() override;
+    bool isWide() const override { return true; }
+    void setName(const QString &name) override;
+
+private:
+    void finish();
+
+    QLineEdit *m_line;
+};
+
+} // namespace board

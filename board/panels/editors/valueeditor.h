@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QVariant>
+#include <QtWidgets/QWidget>
+
+namespace board {
+
+/// Shows and changes one value, which several objects may have differently.
+class ValueEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// Shows a value without telling anybody. Left alone while the user is in the middle of choosing.
+    virtual void showValue(const QVariant &value) = 0;
+    /// Shows that the objects have different values.
+    virtual void showMixed() = 0;
+    /// Whether the editor is so wide that its caption stands above it.
+    virtual bool isWide() const { return false; }
+    /// What screen readers and tool tips call the value.
+    virtual void setName(const QString &name) = 0;
+
+Q_SIGNALS:
+    /// The user is still choosing: a look at what this value would be.
+    void previewed(const QVariant &value);
+    /// The user ends choosing without a change.
+    void abandoned();
+    /// The user has chosen.
+    void picked(const QVariant &value);
+};
+
+} // namespace board
