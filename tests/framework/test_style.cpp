@@ -238,7 +238,8 @@ void TestStyle::styleMapIsGivenAsOneStep()
     MappedObject one;
     MappedObject other;
     TestObject plain;
-    const pagehost::StyleMap style{{QStringLiteral("pen_width"), 7}, {QStringLiteral("fill_color"), QColor(1, 2, 3)}};
+    const pagehost::StyleMap style{{QStringLiteral("pen_width"), 7},
+                                   {QStringLiteral("fill_color"), QColor(1, 2, 3)}};
     QVERIFY(pagehost::setStyleMap({&one, &plain, &other}, style));
     QCOMPARE(stepTexts(), QStringList{QStringLiteral("IDS_UNDO_STYLE")});
     for (const MappedObject *object : {&one, &other}) {

@@ -17,8 +17,8 @@ namespace pagehost {
 namespace {
 
 /// Keys of the map that belong to the object alone, not to its look.
-const QString ownKeys[] = {QStringLiteral("name"),  QStringLiteral("locked"), QStringLiteral("x"),
-                           QStringLiteral("y"),     QStringLiteral("width"),  QStringLiteral("height"),
+const QString ownKeys[] = {QStringLiteral("name"),    QStringLiteral("locked"), QStringLiteral("x"),
+                           QStringLiteral("y"),       QStringLiteral("width"),  QStringLiteral("height"),
                            QStringLiteral("rotation")};
 
 /// Maps give a brush where they take a colour; no brush is a colour that cannot be seen.

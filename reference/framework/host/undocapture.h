@@ -16,8 +16,8 @@ void end();
 
 } // namespace undogroups
 
-/// From construction to stopTaking(), commands that are pushed do not reach the stack; they are undone and deleted at
-/// the end. It takes back a gesture that the user cancelled without touching what could be redone before it.
+/// From construction to stopTaking(), commands that are pushed do not reach the stack; they are undone and deleted
+/// at the end. It takes back a gesture that the user cancelled without touching what could be redone before it.
 class UndoCapture
 {
 public:

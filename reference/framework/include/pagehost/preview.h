@@ -9,8 +9,8 @@ class UndoCapture;
 
 namespace pagehost {
 
-/// Shows what a change would look like while the user is still choosing, for instance while a slider moves. The undo
-/// steps of what is shown never reach the history: they take the change back.
+/// Shows what a change would look like while the user is still choosing, for instance while a slider moves. The
+/// undo steps of what is shown never reach the history: they take the change back.
 class FRAMEWORK_EXPORT Preview
 {
 public:
