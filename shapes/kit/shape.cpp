@@ -15,8 +15,6 @@ namespace shapekit {
 
 namespace {
 
-/// Document units; nearer than this is the same place.
-constexpr double sizeEpsilon = 1e-7;
 /// The smallest side of a redrawn object, item units: below it the control points have no room.
 constexpr double smallestRedrawnSide = 24;
 constexpr double smallestStretchedSide = 16;
@@ -25,15 +23,26 @@ constexpr double largestInsetShare = 0.25;
 /// No page is larger; a side beyond it is a mistake that is not drawn.
 constexpr double largestSide = 1e6;
 constexpr quint32 controlPointCapacity = 32;
+/// Places are whole multiples of 1 / this, document units. Files, undo steps and recorded actions hold corners of
+/// control points; a centre that is worked out from a corner is off by a rounding error, and so comes back exactly.
+constexpr double placesPerUnit = 1 << 20;
+/// A point this near to where its shape would have it stays; else it would creep with every reading.
+constexpr double settledEpsilon = 4 / placesPerUnit;
 /// Half of a control point in a template: limits there are those of its corner.
 constexpr double templateHalf = 4;
 /// Points that limit each other settle within this many rounds.
 constexpr int settlingRounds = 2;
 constexpr int numberDigits = 10;
 
-bool isSamePlace(QPointF a, QPointF b)
+bool isNear(QPointF a, QPointF b, double distance)
 {
-    return qAbs(a.x() - b.x()) < sizeEpsilon && qAbs(a.y() - b.y()) < sizeEpsilon;
+    return qAbs(a.x() - b.x()) < distance && qAbs(a.y() - b.y()) < distance;
+}
+
+QPointF rounded(QPointF point)
+{
+    return {std::round(point.x() * placesPerUnit) / placesPerUnit,
+            std::round(point.y() * placesPerUnit) / placesPerUnit};
 }
 
 /// The nearest place in a range; where a range leaves no room its end wins.
@@ -79,7 +88,7 @@ bool Shape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
     const QRectF place = node->boundingRect();
     if (node == activeControlPoint)
         m_dragged[index].noteDrag(dragStartPos, place);
-    pointMoved(index + 1, m_dragged.value(index).meantCentre(place));
+    pointMoved(index + 1, rounded(m_dragged.value(index).meantCentre(place)));
     placeControlPoints();
     redraw(refresh);
     return true;
@@ -306,8 +315,8 @@ void Shape::takeMovedControlPoints()
     for (int i = 0; i < pointCount(); ++i) {
         if (!controlPoints[i])
             continue;
-        const QPointF centre = controlPoints[i]->boundingRect().center();
-        if (i >= m_points.size() || !isSamePlace(centre, m_points.at(i)))
+        const QPointF centre = rounded(controlPoints[i]->boundingRect().center());
+        if (i >= m_points.size() || centre != m_points.at(i))
             pointMoved(i + 1, centre);
     }
 }
@@ -316,11 +325,13 @@ void Shape::settlePoints()
 {
     m_points.clear();
     for (int number = 1; number <= pointCount(); ++number)
-        m_points.append(wantedPoint(number));
+        m_points.append(rounded(wantedPoint(number)));
     const QVector<QPointF> wanted = m_points;
     for (int round = 0; round < settlingRounds; ++round) {
-        for (int i = 0; i < wanted.size(); ++i)
-            m_points[i] = settled(i + 1, wanted.at(i));
+        for (int i = 0; i < wanted.size(); ++i) {
+            const QPointF place = rounded(settled(i + 1, wanted.at(i)));
+            m_points[i] = isNear(place, wanted.at(i), settledEpsilon) ? wanted.at(i) : place;
+        }
     }
 }
 
@@ -331,8 +342,6 @@ void Shape::placeControlPoint(int index)
         return;
     const QRectF present = node->boundingRect();
     const QPointF centre = m_points.value(index);
-    if (isSamePlace(centre, present.center()))
-        return;
     node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
     node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
 }

@@ -130,6 +130,33 @@ void ShapeDriver::holdControlPoint(int number, QPointF delta)
     moveTo(from + delta);
 }
 
+void ShapeDriver::dragTo(int number, QPointF seen)
+{
+    const QPointF from = seenControlPoint(number);
+    press(from);
+    moveTo((from + seen) / 2);
+    moveTo(seen);
+    release(seen);
+}
+
+QPointF ShapeDriver::seenControlPoint(int number) const
+{
+    const QSizeF size = m_object->getClientRect().size();
+    const QPointF place = itemPoint(controlPoint(number).center());
+    return {m_object->isMirrored() ? size.width() - place.x() : place.x(),
+            m_object->isFlipped() ? size.height() - place.y() : place.y()};
+}
+
+bool ShapeDriver::hasRoom(int number, QPointF way) const
+{
+    QZeSvgNode *node = document().namedNode(QStringLiteral("control_%1").arg(number));
+    const QPointF corner =
+        node->boundingRect().topLeft() + QPointF(core().mapXToSVG(way.x()), core().mapYToSVG(way.y()));
+    return node->canMoveHorizontally() && node->canMoveVertically() && corner.x() >= core().getXMin(node) &&
+           corner.x() <= core().getXMax(node) && corner.y() >= core().getYMin(node) &&
+           corner.y() <= core().getYMax(node);
+}
+
 QRectF ShapeDriver::controlPoint(int number) const
 {
     const QZeSvgNode *node = document().namedNode(QStringLiteral("control_%1").arg(number));

@@ -54,6 +54,14 @@ public:
     /// The same without letting go.
     void holdControlPoint(int number, QPointF delta);
 
+    /// Drags the control point to a place of item coordinates, as it is seen: mirrored with the object.
+    void dragTo(int number, QPointF seen);
+    /// Where the centre of a control point is seen, item coordinates.
+    QPointF seenControlPoint(int number) const;
+    /// Whether the limits that the shape tells of let the point be dragged by `way` (item units, as it is seen)
+    /// from where it stands.
+    bool hasRoom(int number, QPointF way) const;
+
     /// Of control point `number` (from 1), document units.
     QRectF controlPoint(int number) const;
     int controlPointCount() const;

@@ -1,12 +1,12 @@
 // Pen and fill, as the host's panels set them.
 
+#include <shapes/recordedactions.h>
 #include <shapes/shapedriver.h>
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
 #include <framework/cpagebgprop.h>
-#include <pagehost/recorder.h>
 #include <pagehost/style.h>
 
 #include <svgbase/qzesvgtinydocument.h>
@@ -14,6 +14,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
+using shapetest::RecordedActions;
 using shapetest::ShapeDriver;
 
 class TestLook : public QObject
@@ -56,26 +57,6 @@ QPoint insideOf(const QString &name)
 {
     return name == QLatin1String("flask") ? QPoint(60, 120) : QPoint(60, 45);
 }
-
-/// Writes down what objects record.
-class RecordedActions : public pagehost::ActionSink
-{
-public:
-    RecordedActions()
-        : m_before(pagehost::setActionSink(this))
-    {
-    }
-    ~RecordedActions() override { pagehost::setActionSink(m_before); }
-    void actionRecorded(CPSRootObject *, int actionId, const QByteArray &payload) override
-    {
-        actions.append({actionId, payload});
-    }
-
-    QVector<QPair<int, QByteArray>> actions;
-
-private:
-    pagehost::ActionSink *m_before;
-};
 
 bool isNear(const QColor &a, const QColor &b)
 {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QJsonObject>
+
+#include <random>
+
+namespace shapetest {
+
+class ShapeDriver;
+
+/// Edits a shape at random as a user could: drags of control points, pen, fill, and answers of the settings panel,
+/// each recorded and one undo step. The object must be finished and selected.
+class RandomEdits
+{
+public:
+    RandomEdits(const ShapeDriver &shape, unsigned startValue);
+
+    void edit();
+    void edit(int count);
+    /// An answer to a control of the settings panel that differs from what it shows, as far as it can.
+    QString answerTo(const QJsonObject &control);
+
+private:
+    void dragAnyControlPoint();
+    void setAnyStyle();
+    void answerAnyControl();
+    int upTo(int highest);
+    double between(double low, double high);
+    QColor anyColor();
+
+    const ShapeDriver &m_shape;
+    std::mt19937 m_random;
+};
+
+} // namespace shapetest
