@@ -106,6 +106,7 @@ bool CPSRootObject::isVisible() const
 void CPSRootObject::setLocked(bool locked)
 {
     d->locked = locked;
+    CPSRootObjectPrivate::noteInvisibleChange(*this);
     if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
         scene->updateOverlay();
     }
@@ -130,7 +131,7 @@ void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
     if (!page) {
         return;
     }
-    page->noteChange();
+    CPSRootObjectPrivate::noteChange(*this);
     Q_EMIT page->objectPropertyChanged(CPSRootObjectPrivate::baseObject(*this), id, value);
 }
 
@@ -193,6 +194,7 @@ void CPSRootObject::setMyPenColor(QColor color, bool notify)
 {
     myPen.setColor(color);
     update();
+    CPSRootObjectPrivate::noteChange(*this);
     if (!notify) {
         return;
     }
@@ -204,6 +206,7 @@ void CPSRootObject::setMyPenColor(QColor color, bool notify)
 void CPSRootObject::setSubType(int subType)
 {
     d->subType = subType;
+    CPSRootObjectPrivate::noteInvisibleChange(*this);
 }
 
 int CPSRootObject::getSubType() const

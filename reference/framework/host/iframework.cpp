@@ -60,9 +60,11 @@ IFramework *SetFramework(IFramework *framework)
 
 namespace pagehost {
 
-void setCurrentDocument(IDocument *document)
+IDocument *setCurrentDocument(IDocument *document)
 {
+    IDocument *previous = builtIn().document;
     builtIn().document = document;
+    return previous;
 }
 
 void setColorSetting(int settingId, bool presentation, const QColor &color)

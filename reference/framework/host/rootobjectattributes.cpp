@@ -96,6 +96,7 @@ bool setBorderWidth(CBaseObject &item, QDataStream &in)
     if (width) {
         CPSRootObjectPrivate::pen(item).setWidthF(*width);
         item.QGraphicsTextItem::update();
+        CPSRootObjectPrivate::noteChange(item);
     }
     return width.has_value();
 }
@@ -299,6 +300,7 @@ bool CPSRootObject::setAllAttributes(const QMap<QString, QVariant> &map, bool)
     bool known = false;
     if (map.contains(nameAttribute)) {
         objName = map.value(nameAttribute).toString();
+        CPSRootObjectPrivate::noteInvisibleChange(*this);
         known = true;
     }
     if (map.contains(lockedAttribute)) {

@@ -123,6 +123,14 @@ void CPSRootObjectPrivate::noteChange(CPSRootObject &object)
     if (pagehost::Page *page = pageOf(object)) {
         page->noteChange();
     }
+    noteInvisibleChange(object);
+}
+
+void CPSRootObjectPrivate::noteInvisibleChange(CPSRootObject &object)
+{
+    if (pagehost::Page *page = pageOf(object)) {
+        Q_EMIT page->objectChanged(baseObject(object));
+    }
 }
 
 double normalizedDegrees(double degrees)

@@ -58,6 +58,8 @@ public:
     /// Bounding rectangle from client rectangle, region and editing aids.
     static void refreshBounds(CPSRootObject &object);
     static void noteChange(CPSRootObject &object);
+    /// Of what is saved, but not shown.
+    static void noteInvisibleChange(CPSRootObject &object);
     static QPen &pen(CPSRootObject &object) { return object.myPen; }
     static void setName(CPSRootObject &object, const QString &name) { object.objName = name; }
     static void setClientRect(CPSRootObject &object, const QRectF &rect);

@@ -57,7 +57,7 @@ void Document::setEditingBlocked(int blocked)
 
 void Document::setZoomRate(double rate)
 {
-    if (!std::isfinite(rate) || rate <= 0 || rate == m_zoom) {
+    if (m_zoomFixed || !std::isfinite(rate) || rate <= 0 || rate == m_zoom) {
         return;
     }
     m_zoom = rate;
@@ -171,7 +171,7 @@ void Document::release(Page *page)
 bool Document::getsSteps() const
 {
     const auto *current = dynamic_cast<Document *>(GetFramework()->currentDocument());
-    return !current || current == this;
+    return m_undoable && (!current || current == this);
 }
 
 void Document::followStack()

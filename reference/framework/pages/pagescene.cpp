@@ -12,6 +12,7 @@
 #include <host/undocapture.h>
 #include <pages/eventcopy.h>
 #include <pages/gripfinder.h>
+#include <pages/highlightpainter.h>
 #include <pages/overlaypainter.h>
 
 #include <QtGui/QKeyEvent>
@@ -206,6 +207,9 @@ void PageScene::forget(CBaseObject *object)
     if (m_hover.object == object) {
         m_hover = {};
     }
+    if (m_highlight == object) {
+        m_highlight = nullptr;
+    }
     updateOverlay();
 }
 
@@ -218,6 +222,15 @@ void PageScene::setHover(const Grip &grip)
     }
 }
 
+void PageScene::setHighlight(CBaseObject *object)
+{
+    if (object == m_highlight || (object && !m_page->contains(object))) {
+        return;
+    }
+    m_highlight = object;
+    updateOverlay();
+}
+
 void PageScene::updateOverlay()
 {
     if (!m_overlayTimer.isActive()) {
@@ -227,7 +240,7 @@ void PageScene::updateOverlay()
 
 void PageScene::repaintOverlay()
 {
-    const QRectF covered = overlayBounds(*m_page);
+    const QRectF covered = overlayBounds(*m_page).united(highlightBounds(m_highlight, m_pixel));
     update(m_overlay.united(covered));
     m_overlay = covered;
 }
@@ -248,6 +261,9 @@ void PageScene::drawBackground(QPainter *painter, const QRectF &)
 
 void PageScene::drawForeground(QPainter *painter, const QRectF &)
 {
+    if (m_highlight) {
+        m_pixel = paintHighlight(*m_highlight, *painter);
+    }
     const Document *document = m_page->document();
     if (document && document->documentState() != 0) {
         return;

@@ -42,6 +42,9 @@ public:
     /// Deletes its pages and their objects, clears the undo stack if steps were made while the document was not
     /// kept from view by another current one, and stops being the current document.
     ~Document() override;
+    /// False for a document that no undo step will ever refer to, such as one that only plays a lesson: when it goes,
+    /// the undo stack stays as it is. True after construction.
+    void setUndoable(bool undoable) { m_undoable = undoable; }
 
     int documentState() const override { return m_state; }
     int editingBlocked() const override { return m_blocked; }
@@ -53,6 +56,9 @@ public:
     /// Scene units to screen pixels of the view that edits the document; the view calls this on every zoom. A rate
     /// that is not finite or not above 0 is ignored.
     void setZoomRate(double rate);
+    /// While fixed, setZoomRate() does nothing: what objects save depends a little on the zoom, so that a lesson
+    /// brings its own.
+    void setZoomFixed(bool fixed) { m_zoomFixed = fixed; }
 
     int pageCount() const { return m_pages.size(); }
     /// Null when there is no such page.
@@ -136,6 +142,8 @@ private:
     int m_state = 0;
     int m_blocked = 0;
     double m_zoom = 1;
+    bool m_zoomFixed = false;
+    bool m_undoable = true;
     int m_current = -1;
     QVector<Page *> m_pages;
     QVector<Page *> m_outside; ///< owned pages that are not in the order

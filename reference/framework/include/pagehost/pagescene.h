@@ -67,6 +67,12 @@ public:
     /// same.
     bool cancelDrag();
 
+    /// Draws attention to an object of the page, over everything else and in every state of the document, until it is
+    /// taken back with null or the object leaves the page. Seen in views only: thumbnails, exported pages and saved
+    /// data know nothing of it.
+    void setHighlight(CBaseObject *object);
+    CBaseObject *highlight() const { return m_highlight; }
+
     /// Repaints frames and handles after an object changed place or size. Objects call it themselves.
     void updateOverlay();
     /// Ends whatever runs with an object that is about to leave the page.
@@ -93,9 +99,11 @@ private:
     CreationTool *m_tool = nullptr;
     Grip m_hover;
     Grip m_drag;
+    CBaseObject *m_highlight = nullptr;
     QPointF m_pressPos; ///< scene coordinates
     QTimer m_overlayTimer;
-    QRectF m_overlay; ///< what the overlay covered last, scene coordinates
+    QRectF m_overlay;   ///< what the overlay covered last, scene coordinates
+    double m_pixel = 1; ///< a pixel of the view that was painted last, scene units
 };
 
 } // namespace pagehost

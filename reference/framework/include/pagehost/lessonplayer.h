@@ -1,0 +1,98 @@
+#pragma once
+
+#include <pagehost/lesson.h>
+#include <pagehost/lessonclock.h>
+#include <pagehost/pagescene.h>
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtCore/QVector>
+
+#include <memory>
+
+class CBaseObject;
+
+namespace pagehost {
+
+class Document;
+class LessonStage;
+class ObjectRegistry;
+
+/// Plays a lesson on a document of its own, which nobody can edit: in real time, as fast as it goes, or to any
+/// moment.
+///
+/// In real time, the object that changes is pointed out (PageScene::setHighlight()).
+class FRAMEWORK_EXPORT LessonPlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The registry makes the objects and must outlive the player.
+    explicit LessonPlayer(const ObjectRegistry *registry, QObject *parent = nullptr);
+    /// Deletes the document.
+    ~LessonPlayer() override;
+
+    /// Where time comes from, from the next setLesson() on.
+    void setTimeSource(const MillisecondSource &source) { m_source = source; }
+
+    /// Stops, and shows the start of this lesson in a new document.
+    void setLesson(const Lesson &lesson);
+    const Lesson &lesson() const { return m_lesson; }
+    /// What the lesson's pages look like at position(); null before the first setLesson(). Deleted when a new one
+    /// replaces it (documentReplaced()).
+    Document *document() const;
+
+    /// Goes on from position(), from the start when that is the end.
+    void play();
+    void pause();
+    bool isPlaying() const { return m_clock.isRunning(); }
+    /// Shows the lesson at this moment, in milliseconds, brought into 0 to duration(); goes on playing if it was.
+    void seek(qint64 time);
+    /// Plays what is left as fast as it goes, and stops.
+    void playToEnd();
+
+    qint64 position() const { return m_position; } ///< milliseconds
+    qint64 duration() const { return m_lesson.duration; }
+
+Q_SIGNALS:
+    /// Another document shows the lesson; the one before still exists while this is emitted.
+    void documentReplaced(pagehost::Document *document);
+    void positionChanged(qint64 time);
+    void playingChanged(bool playing);
+    /// The end has been reached.
+    void finished();
+
+private:
+    /// A moment from which playing can go on without beginning at the start.
+    struct Milestone
+    {
+        int events = 0; ///< that lie before it
+        QVector<LessonStep> steps;
+    };
+
+    void tick();
+    CBaseObject *advance(qint64 time);
+    void rewind(qint64 time);
+    void showStart(const Milestone &milestone);
+    void noteMilestone();
+    void setPosition(qint64 time);
+    void pointOut(CBaseObject *object);
+    void stopPlaying();
+
+    const ObjectRegistry *m_registry;
+    MillisecondSource m_source;
+    LessonClock m_clock;
+    QTimer m_timer;
+    Lesson m_lesson;
+    std::unique_ptr<LessonStage> m_stage;
+    int m_played = 0; ///< events that have happened
+    qint64 m_position = 0;
+    QVector<Milestone> m_milestones; ///< in order, the start first
+    QPointer<PageScene> m_highlighted;
+    qint64 m_highlightEnd = 0; ///< position at which the highlight goes
+};
+
+} // namespace pagehost

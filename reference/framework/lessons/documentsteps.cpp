@@ -1,0 +1,46 @@
+#include <lessons/documentsteps.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/document.h>
+#include <pagehost/page.h>
+
+#include <files/objectrecordstream.h>
+#include <lessons/objectdata.h>
+
+#include <QtCore/QDataStream>
+
+namespace pagehost {
+
+ObjectAppeared appearanceOf(CBaseObject *object, quint32 number, int pageIndex, int place)
+{
+    QByteArray data;
+    QDataStream out(&data, QIODevice::WriteOnly);
+    writeObject(out, object);
+    return {number, pageIndex, place, data};
+}
+
+QVector<LessonStep> appearanceOf(const Page &page, int pageIndex, const ObjectNumbering &numberOf)
+{
+    QVector<LessonStep> steps;
+    steps.append(PageAppeared{pageIndex, page.size(), savedData(page.background())});
+    int place = 0;
+    const QVector<CBaseObject *> objects = page.objects();
+    for (CBaseObject *object : objects) {
+        steps.append(appearanceOf(object, numberOf(object), pageIndex, place++));
+    }
+    return steps;
+}
+
+QVector<LessonStep> appearanceOf(const Document &document, const ObjectNumbering &numberOf)
+{
+    // The zoom comes first: objects are made for it.
+    QVector<LessonStep> steps{ZoomChanged{document.zoomRate()}};
+    for (int index = 0; index < document.pageCount(); ++index) {
+        steps += appearanceOf(*document.page(index), index, numberOf);
+    }
+    steps.append(PageTurned{document.currentIndex()});
+    return steps;
+}
+
+} // namespace pagehost

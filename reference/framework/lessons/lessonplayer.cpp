@@ -1,0 +1,187 @@
+#include <pagehost/lessonplayer.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <host/rootobjectprivate.h>
+#include <lessons/lessonstage.h>
+
+#include <algorithm>
+
+namespace pagehost {
+
+namespace {
+
+constexpr int tickMilliseconds = 16;
+constexpr qint64 highlightMilliseconds = 700;
+/// A long way between milestones makes going back slow, a short one fills memory.
+constexpr int eventsBetweenMilestones = 1000;
+
+} // namespace
+
+LessonPlayer::LessonPlayer(const ObjectRegistry *registry, QObject *parent)
+    : QObject(parent)
+    , m_registry(registry)
+{
+    m_timer.setInterval(tickMilliseconds);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &LessonPlayer::tick);
+}
+
+LessonPlayer::~LessonPlayer() = default;
+
+Document *LessonPlayer::document() const
+{
+    return m_stage ? m_stage->document() : nullptr;
+}
+
+void LessonPlayer::setLesson(const Lesson &lesson)
+{
+    stopPlaying();
+    m_clock = LessonClock(m_source);
+    m_lesson = lesson;
+    m_milestones = {{0, lesson.start}};
+    showStart(m_milestones.first());
+    setPosition(0);
+}
+
+void LessonPlayer::play()
+{
+    if (!m_stage || isPlaying()) {
+        return;
+    }
+    if (m_position >= duration()) {
+        seek(0);
+    }
+    m_clock.setTime(m_position);
+    m_clock.run();
+    m_timer.start();
+    Q_EMIT playingChanged(true);
+}
+
+void LessonPlayer::pause()
+{
+    if (isPlaying()) {
+        tick();
+        stopPlaying();
+    }
+}
+
+void LessonPlayer::stopPlaying()
+{
+    if (!isPlaying()) {
+        return;
+    }
+    m_timer.stop();
+    m_clock.halt();
+    Q_EMIT playingChanged(false);
+}
+
+void LessonPlayer::seek(qint64 time)
+{
+    if (!m_stage) {
+        return;
+    }
+    const qint64 target = qBound<qint64>(0, time, duration());
+    pointOut(nullptr);
+    if (target < m_position) {
+        rewind(target);
+    }
+    advance(target);
+    m_clock.setTime(target);
+    setPosition(target);
+}
+
+void LessonPlayer::playToEnd()
+{
+    if (!m_stage) {
+        return;
+    }
+    stopPlaying();
+    seek(duration());
+    Q_EMIT finished();
+}
+
+void LessonPlayer::tick()
+{
+    const qint64 time = qMin(m_clock.time(), duration());
+    CBaseObject *changed = advance(time);
+    if (changed) {
+        pointOut(changed);
+        m_highlightEnd = time + highlightMilliseconds;
+    } else if (time >= m_highlightEnd) {
+        pointOut(nullptr);
+    }
+    setPosition(time);
+    if (time < duration() || !isPlaying()) {
+        return;
+    }
+    pointOut(nullptr);
+    stopPlaying();
+    Q_EMIT finished();
+}
+
+/// Lets happen what lies up to `time`. Gives the object that changed last and is still there.
+CBaseObject *LessonPlayer::advance(qint64 time)
+{
+    QPointer<CBaseObject> changed;
+    while (m_played < m_lesson.events.size() && m_lesson.events[m_played].time <= time) {
+        if (CBaseObject *object = m_stage->perform(m_lesson.events[m_played].step)) {
+            changed = object;
+        }
+        ++m_played;
+        noteMilestone();
+    }
+    return changed;
+}
+
+void LessonPlayer::noteMilestone()
+{
+    if (m_played >= m_milestones.last().events + eventsBetweenMilestones) {
+        m_milestones.append({m_played, m_stage->state()});
+    }
+}
+
+/// Goes back to the last milestone at or before `time`.
+void LessonPlayer::rewind(qint64 time)
+{
+    const auto isLater = [&](const Milestone &milestone) {
+        return milestone.events > 0 && m_lesson.events[milestone.events - 1].time > time;
+    };
+    const auto later = std::find_if(m_milestones.begin(), m_milestones.end(), isLater);
+    showStart(*std::prev(later));
+}
+
+void LessonPlayer::showStart(const Milestone &milestone)
+{
+    auto stage = std::make_unique<LessonStage>(m_registry);
+    for (const LessonStep &step : milestone.steps) {
+        stage->perform(step);
+    }
+    m_highlighted = nullptr;
+    m_played = milestone.events;
+    m_stage.swap(stage);
+    Q_EMIT documentReplaced(document());
+}
+
+void LessonPlayer::setPosition(qint64 time)
+{
+    m_position = time;
+    Q_EMIT positionChanged(time);
+}
+
+void LessonPlayer::pointOut(CBaseObject *object)
+{
+    const Page *page = object ? CPSRootObjectPrivate::pageOf(*object) : nullptr;
+    if (m_highlighted && (!page || page->scene() != m_highlighted)) {
+        m_highlighted->setHighlight(nullptr);
+    }
+    m_highlighted = page ? page->scene() : nullptr;
+    if (m_highlighted) {
+        m_highlighted->setHighlight(object);
+    }
+}
+
+} // namespace pagehost

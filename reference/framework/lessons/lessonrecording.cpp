@@ -1,0 +1,246 @@
+#include <lessons/lessonrecording.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/cundoredo.h>
+
+#include <pagehost/lessonclock.h>
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <host/rootobjectprivate.h>
+#include <lessons/documentsteps.h>
+#include <lessons/objectdata.h>
+
+#include <QtWidgets/QUndoStack>
+
+namespace pagehost {
+
+LessonRecording::LessonRecording(Document *document, const ObjectRegistry *registry, const LessonClock &clock)
+    : m_document(document)
+    , m_clock(clock)
+    , m_nextSink(setActionSink(this))
+    , m_rehearsal(registry)
+    , m_zoom(document->zoomRate())
+{
+    m_turn.setSingleShot(true);
+    connect(&m_turn, &QTimer::timeout, this, &LessonRecording::settleIdle);
+    followZoom(*document);
+    m_lesson.start = appearanceOf(*document, [this](CBaseObject *object) { return numberOf(object); });
+    for (const LessonStep &step : qAsConst(m_lesson.start)) {
+        m_rehearsal.perform(step);
+    }
+    const QVector<Page *> pages = document->pages();
+    for (Page *page : pages) {
+        watch(page);
+    }
+    connect(document, &Document::pageInserted, this, &LessonRecording::notePage);
+    connect(document, &Document::pageRemoved, this, [this](int index) { append(PageVanished{index}); });
+    connect(document, &Document::pageMoved, this, [this](int from, int to) { append(PageMoved{from, to}); });
+    connect(document, &Document::currentPageChanged, this, [this](int index) { append(PageTurned{index}); });
+    connect(CUndoRedo::GetInstance()->stack(), &QUndoStack::indexChanged, this, &LessonRecording::settle);
+}
+
+LessonRecording::~LessonRecording()
+{
+    if (actionSink() == this) {
+        setActionSink(m_nextSink);
+    }
+}
+
+void LessonRecording::watch(Page *page)
+{
+    const auto ifShown = [this, page](const std::function<void(int)> &note) {
+        const int index = m_document ? m_document->indexOf(page) : -1;
+        if (index >= 0) {
+            note(index);
+        }
+    };
+    disconnect(page, nullptr, this, nullptr);
+    connect(page, &Page::objectAdded, this,
+            [=](CBaseObject *object) { ifShown([=](int) { noteObject(*page, object); }); });
+    connect(page, &Page::objectRemoved, this,
+            [=](CBaseObject *object) { ifShown([=](int) { noteRemoval(object); }); });
+    connect(page, &Page::objectChanged, this, &LessonRecording::noteChange);
+    connect(page, &Page::stackingChanged, this, [=] { ifShown([=](int) { noteOrder(*page); }); });
+    connect(page, &Page::backgroundChanged, this, [=] {
+        ifShown([=](int index) { append(PageBackgroundChanged{index, savedData(page->background())}); });
+    });
+    connect(page, &Page::sizeChanged, this, [=](const QSizeF &size) {
+        ifShown([=](int index) { append(PageResized{index, size}); });
+    });
+}
+
+void LessonRecording::actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload)
+{
+    if (m_nextSink) {
+        m_nextSink->actionRecorded(object, actionId, payload);
+    }
+    CBaseObject *acting = CPSRootObjectPrivate::baseObject(*object);
+    const quint32 number = acting ? knownNumberOf(acting) : 0;
+    if (number == 0 || pageIndexOf(*acting) < 0) {
+        return;
+    }
+    noteChange(acting);
+    if (m_clock.isRunning()) {
+        append(ObjectActed{number, actionId, payload});
+    }
+}
+
+void LessonRecording::notePage(int index)
+{
+    Page *page = m_document->page(index);
+    watch(page);
+    const auto steps = appearanceOf(*page, index, [this](CBaseObject *object) { return numberOf(object); });
+    for (const LessonStep &step : steps) {
+        append(step);
+    }
+}
+
+void LessonRecording::noteObject(const Page &page, CBaseObject *object)
+{
+    append(appearanceOf(object, numberOf(object), m_document->indexOf(&page), page.indexOf(object)));
+}
+
+void LessonRecording::noteRemoval(CBaseObject *object)
+{
+    append(ObjectVanished{numberOf(object)});
+}
+
+void LessonRecording::noteOrder(const Page &page)
+{
+    PageRestacked step{m_document->indexOf(&page), {}};
+    const QVector<CBaseObject *> objects = page.objects();
+    for (CBaseObject *object : objects) {
+        step.objects.append(numberOf(object));
+    }
+    append(step);
+}
+
+void LessonRecording::noteChange(CBaseObject *object)
+{
+    if (const quint32 number = object ? knownNumberOf(object) : 0) {
+        m_changed.insert(number, object);
+        if (!m_turn.isActive()) {
+            m_turn.start(0);
+        }
+    }
+}
+
+/// Once per turn of the event loop. In the middle of a drag the recorded actions tell enough.
+void LessonRecording::settleIdle()
+{
+    const Page *page = m_document ? m_document->currentPage() : nullptr;
+    if (page && page->scene()->isDragging()) {
+        catchUp();
+        return;
+    }
+    settle();
+}
+
+void LessonRecording::settle()
+{
+    if (!m_document || m_changed.isEmpty()) {
+        catchUp();
+        return;
+    }
+    prepareComparison();
+    const auto changed = m_changed;
+    m_changed.clear();
+    for (auto object = changed.begin(); object != changed.end(); ++object) {
+        compare(object.key(), object.value());
+    }
+}
+
+Lesson LessonRecording::finish()
+{
+    if (m_document) {
+        prepareComparison();
+        const QVector<Page *> pages = m_document->pages();
+        for (const Page *page : pages) {
+            const QVector<CBaseObject *> objects = page->objects();
+            for (CBaseObject *object : objects) {
+                compare(numberOf(object), object);
+            }
+        }
+    }
+    m_lesson.duration = m_lesson.events.isEmpty() ? 0 : m_lesson.events.last().time;
+    m_lesson.duration = qMax(m_lesson.duration, m_clock.time());
+    return m_lesson;
+}
+
+void LessonRecording::append(const LessonStep &step)
+{
+    noteZoom();
+    noteTime(step);
+}
+
+void LessonRecording::noteTime(const LessonStep &step)
+{
+    const qint64 last = m_lesson.events.isEmpty() ? 0 : m_lesson.events.last().time;
+    m_lesson.events.append({qMax(last, m_clock.time()), step});
+}
+
+void LessonRecording::noteZoom()
+{
+    if (!m_document || m_document->zoomRate() == m_zoom) {
+        return;
+    }
+    m_zoom = m_document->zoomRate();
+    // Objects here follow when they are painted, or at the latest when they are compared: one may be in the middle
+    // of a change now.
+    m_mustFollowZoom = true;
+    noteTime(ZoomChanged{m_zoom});
+}
+
+void LessonRecording::catchUp()
+{
+    for (; m_rehearsed < m_lesson.events.size(); ++m_rehearsed) {
+        m_rehearsal.perform(m_lesson.events[m_rehearsed].step);
+    }
+}
+
+void LessonRecording::prepareComparison()
+{
+    noteZoom();
+    if (m_mustFollowZoom) {
+        m_mustFollowZoom = false;
+        followZoom(*m_document);
+    }
+    catchUp();
+}
+
+void LessonRecording::compare(quint32 number, CBaseObject *object)
+{
+    CBaseObject *rehearsed = m_rehearsal.object(number);
+    if (!object || !rehearsed || pageIndexOf(*object) < 0) {
+        return;
+    }
+    const QByteArray data = savedData(*object);
+    if (savedData(*rehearsed) != data) {
+        append(ObjectSettled{number, data});
+        catchUp();
+    }
+}
+
+quint32 LessonRecording::numberOf(CBaseObject *object)
+{
+    Numbered &entry = m_numbers[object];
+    if (entry.object != object) {
+        entry = {object, ++m_lastNumber};
+    }
+    return entry.number;
+}
+
+quint32 LessonRecording::knownNumberOf(CBaseObject *object) const
+{
+    const Numbered entry = m_numbers.value(object);
+    return entry.object == object ? entry.number : 0;
+}
+
+int LessonRecording::pageIndexOf(const CBaseObject &object) const
+{
+    const Page *page = CPSRootObjectPrivate::pageOf(object);
+    return m_document && page && page->contains(&object) ? m_document->indexOf(page) : -1;
+}
+
+} // namespace pagehost

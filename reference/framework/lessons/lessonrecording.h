@@ -1,0 +1,84 @@
+#pragma once
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/lesson.h>
+#include <pagehost/recorder.h>
+
+#include <lessons/lessonstage.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+
+namespace pagehost {
+
+class Document;
+class LessonClock;
+class ObjectRegistry;
+class Page;
+
+/// One recording while it runs.
+class LessonRecording : public QObject, private ActionSink
+{
+    Q_OBJECT
+
+public:
+    /// Begins with the document as it is. While the clock stands still, what objects record is left out. The clock
+    /// and the registry must outlive the recording; the document may go.
+    LessonRecording(Document *document, const ObjectRegistry *registry, const LessonClock &clock);
+    ~LessonRecording() override;
+
+    /// Notes the states of changed objects that the lesson does not lead to.
+    void settle();
+    /// The same for all objects of the document; gives the lesson.
+    Lesson finish();
+
+private:
+    void actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload) override;
+
+    void watch(Page *page);
+    void notePage(int index);
+    void noteObject(const Page &page, CBaseObject *object);
+    void noteRemoval(CBaseObject *object);
+    void noteOrder(const Page &page);
+    void noteChange(CBaseObject *object);
+    void settleIdle();
+
+    void append(const LessonStep &step);
+    void noteTime(const LessonStep &step);
+    void noteZoom();
+    /// Plays what the rehearsal has not played yet.
+    void catchUp();
+    void prepareComparison();
+    void compare(quint32 number, CBaseObject *object);
+
+    /// A new number for an object seen for the first time.
+    quint32 numberOf(CBaseObject *object);
+    /// 0 for an object that the lesson does not know.
+    quint32 knownNumberOf(CBaseObject *object) const;
+    int pageIndexOf(const CBaseObject &object) const;
+
+    struct Numbered
+    {
+        QPointer<CBaseObject> object; ///< null once it is deleted; its address may then be another object's
+        quint32 number = 0;
+    };
+
+    QPointer<Document> m_document;
+    const LessonClock &m_clock;
+    ActionSink *m_nextSink;
+    LessonStage m_rehearsal;
+    int m_rehearsed = 0; ///< events that the rehearsal has played
+    Lesson m_lesson;
+    QHash<CBaseObject *, Numbered> m_numbers;
+    quint32 m_lastNumber = 0;
+    QMap<quint32, QPointer<CBaseObject>> m_changed; ///< since they were last compared
+    QTimer m_turn;                                  ///< until control returns to the event loop
+    double m_zoom = 1;
+    bool m_mustFollowZoom = false;
+};
+
+} // namespace pagehost

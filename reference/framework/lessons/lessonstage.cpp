@@ -1,0 +1,217 @@
+#include <lessons/lessonstage.h>
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/page.h>
+#include <pagehost/recorder.h>
+
+#include <files/objectrecordstream.h>
+#include <host/rootobjectprivate.h>
+#include <lessons/documentsteps.h>
+#include <lessons/objectdata.h>
+#include <lessons/replaying.h>
+
+#include <QtCore/QDataStream>
+
+namespace pagehost {
+
+namespace {
+
+/// Objects do not paint editing aids while the document is in this state.
+constexpr int playingState = 1;
+/// A page is a few bytes of a lesson and many more in memory; damaged data shall not fill it.
+constexpr int mostPages = 10000;
+
+bool load(CBaseObject &object, const QByteArray &data)
+{
+    QDataStream in(data);
+    return object.load(in);
+}
+
+/// Only the order of stacking numbers counts, but they are saved, so an object brings back the one it had where it
+/// agrees with the order.
+void restoreStackingNumber(const Page &page, CBaseObject &object, double number)
+{
+    const QVector<CBaseObject *> objects = page.objects();
+    const int place = objects.indexOf(&object);
+    const bool isAbove = place == 0 || objects[place - 1]->zValue() < number;
+    const bool isBelow = place + 1 == objects.size() || number < objects[place + 1]->zValue();
+    if (isAbove && isBelow) {
+        object.setZValue(number);
+    }
+}
+
+CPageBgProp backgroundOf(const Page &page, const QByteArray &data)
+{
+    CPageBgProp background(page.background());
+    QDataStream in(data);
+    background.load(in);
+    return background;
+}
+
+} // namespace
+
+LessonStage::LessonStage(const ObjectRegistry *registry)
+    : m_registry(registry)
+    , m_document(std::make_unique<Document>())
+{
+    m_document->setUndoable(false);
+    m_document->setDocumentState(playingState);
+    m_document->setEditingBlocked(1);
+    m_document->setZoomFixed(true);
+}
+
+LessonStage::~LessonStage() = default;
+
+CBaseObject *LessonStage::perform(const LessonStep &step)
+{
+    const CurrentDocument current(m_document.get());
+    return std::visit([this](const auto &kind) { return perform(kind); }, step);
+}
+
+QVector<LessonStep> LessonStage::state() const
+{
+    QHash<const CBaseObject *, quint32> numbers;
+    for (auto object = m_objects.begin(); object != m_objects.end(); ++object) {
+        numbers.insert(object.value(), object.key());
+    }
+    return appearanceOf(*m_document, [&](const CBaseObject *object) { return numbers.value(object); });
+}
+
+CBaseObject *LessonStage::perform(const ObjectActed &step)
+{
+    CBaseObject *acting = object(step.object);
+    if (!acting) {
+        return nullptr;
+    }
+    replayAction(acting, step.actionId, replayedPayload(step.actionId, step.payload));
+    return acting;
+}
+
+CBaseObject *LessonStage::perform(const ObjectAppeared &step)
+{
+    Page *page = m_document->page(step.page);
+    CBaseObject *made = page && !object(step.object) ? makeObject(step.data) : nullptr;
+    if (!made) {
+        return nullptr;
+    }
+    const double stackingNumber = made->zValue();
+    page->addObject(made, step.place);
+    restoreStackingNumber(*page, *made, stackingNumber);
+    m_objects.insert(step.object, made);
+    return made;
+}
+
+/// Null for data that is no object's.
+CBaseObject *LessonStage::makeObject(const QByteArray &data) const
+{
+    ObjectRecord record;
+    if (!readRecord(data, record)) {
+        return nullptr;
+    }
+    // The lesson may go before the object.
+    record.data = QByteArray(record.data.constData(), record.data.size());
+    FileMessage message;
+    return ObjectFactory(*m_registry).make(record, message);
+}
+
+CBaseObject *LessonStage::perform(const ObjectVanished &step)
+{
+    CBaseObject *vanishing = object(step.object);
+    if (vanishing) {
+        CPSRootObjectPrivate::pageOf(*vanishing)->removeObject(vanishing);
+        // At once: a lesson played as fast as possible would hoard what waits for the event loop.
+        delete vanishing;
+    }
+    m_objects.remove(step.object);
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const ObjectSettled &step)
+{
+    CBaseObject *settling = object(step.object);
+    if (settling) {
+        load(*settling, step.state);
+    }
+    return settling;
+}
+
+CBaseObject *LessonStage::perform(const PageRestacked &step)
+{
+    Page *page = m_document->page(step.page);
+    QVector<CBaseObject *> order;
+    for (const quint32 number : step.objects) {
+        order.append(object(number));
+    }
+    if (page) {
+        page->setStackingOrder(order);
+    }
+    return nullptr;
+}
+
+void LessonStage::forgetObjectsOf(const Page &page)
+{
+    for (auto object = m_objects.begin(); object != m_objects.end();) {
+        object = page.contains(object.value()) ? m_objects.erase(object) : std::next(object);
+    }
+}
+
+CBaseObject *LessonStage::perform(const PageAppeared &step)
+{
+    if (m_document->pageCount() >= mostPages) {
+        return nullptr;
+    }
+    Page *page = m_document->createPage(step.size);
+    page->setBackground(backgroundOf(*page, step.background));
+    m_document->insertPage(step.page, page);
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageVanished &step)
+{
+    if (const Page *page = m_document->page(step.page)) {
+        // Views may hold on to the page, so that it goes with the event loop; its objects are gone from now on.
+        forgetObjectsOf(*page);
+        m_document->takePage(step.page);
+    }
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageMoved &step)
+{
+    m_document->movePage(step.from, step.to);
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageResized &step)
+{
+    if (Page *page = m_document->page(step.page)) {
+        page->setSize(step.size);
+    }
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageBackgroundChanged &step)
+{
+    if (Page *page = m_document->page(step.page)) {
+        page->setBackground(backgroundOf(*page, step.background));
+    }
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageTurned &step)
+{
+    m_document->setCurrentIndex(step.page);
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const ZoomChanged &step)
+{
+    m_document->setZoomFixed(false);
+    m_document->setZoomRate(step.rate);
+    m_document->setZoomFixed(true);
+    followZoom(*m_document);
+    return nullptr;
+}
+
+} // namespace pagehost

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <framework/cbaseobject.h>
+
+#include <pagehost/document.h>
+#include <pagehost/lesson.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QPointer>
+
+#include <memory>
+
+namespace pagehost {
+
+class ObjectRegistry;
+class Page;
+
+/// Where a lesson happens again: a document of its own, which nobody edits and which leaves undo and recording
+/// alone.
+///
+/// Steps that name pages or objects that are not there do nothing: data of lessons may be damaged.
+class LessonStage
+{
+public:
+    /// Has no page yet. The registry must outlive the stage.
+    explicit LessonStage(const ObjectRegistry *registry);
+    ~LessonStage();
+
+    Document *document() const { return m_document.get(); }
+    /// The object with this number; null when it is on no page.
+    CBaseObject *object(quint32 number) const { return m_objects.value(number); }
+    /// Brings a step about. Gives the object that it changed; null when it changed none.
+    CBaseObject *perform(const LessonStep &step);
+    /// Steps that make the present state out of a stage without pages, numbers of objects included.
+    QVector<LessonStep> state() const;
+
+private:
+    CBaseObject *perform(const ObjectActed &step);
+    CBaseObject *perform(const ObjectAppeared &step);
+    CBaseObject *perform(const ObjectVanished &step);
+    CBaseObject *perform(const ObjectSettled &step);
+    CBaseObject *perform(const PageRestacked &step);
+    CBaseObject *perform(const PageAppeared &step);
+    CBaseObject *perform(const PageVanished &step);
+    CBaseObject *perform(const PageMoved &step);
+    CBaseObject *perform(const PageResized &step);
+    CBaseObject *perform(const PageBackgroundChanged &step);
+    CBaseObject *perform(const PageTurned &step);
+    CBaseObject *perform(const ZoomChanged &step);
+
+    CBaseObject *makeObject(const QByteArray &data) const;
+    void forgetObjectsOf(const Page &page);
+
+    const ObjectRegistry *m_registry;
+    std::unique_ptr<Document> m_document;
+    QHash<quint32, QPointer<CBaseObject>> m_objects;
+};
+
+} // namespace pagehost

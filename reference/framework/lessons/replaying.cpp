@@ -1,0 +1,31 @@
+#include <lessons/replaying.h>
+
+#include <QtCore/QDataStream>
+#include <QtGui/QBrush>
+#include <QtGui/QColor>
+
+namespace pagehost {
+
+namespace {
+
+constexpr int fillAction = 1005;
+/// A QColor on a stream: its model, and five numbers of 16 bits. A brush is longer.
+constexpr int colorBytes = 1 + 5 * 2;
+
+} // namespace
+
+QByteArray replayedPayload(int actionId, const QByteArray &recorded)
+{
+    if (actionId != fillAction || recorded.size() != colorBytes) {
+        return recorded;
+    }
+    QColor color;
+    QDataStream in(recorded);
+    in >> color;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << QBrush(color);
+    return bytes;
+}
+
+} // namespace pagehost

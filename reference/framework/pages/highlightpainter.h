@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QRectF>
+
+class CBaseObject;
+class QPainter;
+
+namespace pagehost {
+
+/// Draws a glowing frame around an object that a player points out; `painter` is in scene coordinates. Gives the
+/// size of a pixel of its device in scene units.
+double paintHighlight(CBaseObject &object, QPainter &painter);
+/// What the frame covers when a pixel is this large, scene coordinates; empty for null.
+QRectF highlightBounds(const CBaseObject *object, double pixel);
+
+} // namespace pagehost
