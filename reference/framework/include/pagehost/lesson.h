@@ -12,9 +12,9 @@
 
 /// A lesson: what happened on the pages of a document, with time, from a state at its start.
 ///
-/// Pages are named by their number at that moment, 0 the first. Objects are named by numbers that a lesson gives them
-/// when they first appear, counting up from 1, and that they keep when they go and come back. States of objects are
-/// what CPSRootObject::save() writes, backgrounds what CPageBgProp::save() writes.
+/// Pages are named by their number at that moment, 0 the first. Objects are named by numbers that a lesson gives
+/// them when they first appear, counting up from 1, and that they keep when they go and come back. States of
+/// objects are what CPSRootObject::save() writes, backgrounds what CPageBgProp::save() writes.
 namespace pagehost {
 
 /// @name What can happen
