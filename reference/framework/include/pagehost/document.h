@@ -42,8 +42,8 @@ public:
     /// Deletes its pages and their objects, clears the undo stack if steps were made while the document was not
     /// kept from view by another current one, and stops being the current document.
     ~Document() override;
-    /// False for a document that no undo step will ever refer to, such as one that only plays a lesson: when it goes,
-    /// the undo stack stays as it is. True after construction.
+    /// False for a document that no undo step will ever refer to, such as one that only plays a lesson: when it
+    /// goes, the undo stack stays as it is. True after construction.
     void setUndoable(bool undoable) { m_undoable = undoable; }
 
     int documentState() const override { return m_state; }

@@ -67,9 +67,9 @@ public:
     /// same.
     bool cancelDrag();
 
-    /// Draws attention to an object of the page, over everything else and in every state of the document, until it is
-    /// taken back with null or the object leaves the page. Seen in views only: thumbnails, exported pages and saved
-    /// data know nothing of it.
+    /// Draws attention to an object of the page, over everything else and in every state of the document, until it
+    /// is taken back with null or the object leaves the page. Seen in views only: thumbnails, exported pages and
+    /// saved data know nothing of it.
     void setHighlight(CBaseObject *object);
     CBaseObject *highlight() const { return m_highlight; }
 
