@@ -31,6 +31,9 @@ struct Framework
     /// What ParseSettingJson() reads and answers.
     QMap<QString, QString> settings;
     bool settingsParse = true;
+    /// Whether CUtil::genIconForLineStyle() gives pictures, whose encoding depends on the picture library, or null
+    /// ones.
+    bool lineStyleIcons = true;
 };
 
 Framework &framework();

@@ -149,6 +149,8 @@ QString CWbUndoCmd::getActionName(ILocalize *localize) const
 QPixmap CUtil::genIconForLineStyle(int width, int height, int lineWidth, int penStyle, const QColor &color)
 {
     log("util", "genIconForLineStyle", {width, height, lineWidth, penStyle, color});
+    if (!recording::framework().lineStyleIcons)
+        return QPixmap();
     QPixmap icon(width, height);
     icon.fill(QColor(penStyle, lineWidth, 0)); // every style has a picture of its own
     return icon;
