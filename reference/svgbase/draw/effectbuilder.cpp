@@ -1,10 +1,11 @@
 #include "draw/effectbuilder.h"
 
 #include "draw/effectregion.h"
+#include "draw/layerwrapping.h"
 #include "draw/listbuilder.h"
 #include "draw/objectbounds.h"
+#include "draw/openreference.h"
 #include "grammar/transforms.h"
-#include "inputlimits.h"
 
 #include <optional>
 
@@ -14,28 +15,6 @@ namespace {
 
 const QLatin1String objectBoundingBox("objectBoundingBox");
 const QLatin1String userSpaceOnUse("userSpaceOnUse");
-
-/// Marks a definition as being built.
-class OpenReference
-{
-public:
-    OpenReference(BuildContext &context, NodeIndex node)
-        : m_context(context)
-    {
-        m_context.open.append(node);
-    }
-    ~OpenReference() { m_context.open.removeLast(); }
-    OpenReference(const OpenReference &) = delete;
-    OpenReference &operator=(const OpenReference &) = delete;
-
-private:
-    BuildContext &m_context;
-};
-
-bool mayOpen(const BuildContext &context, NodeIndex node)
-{
-    return !context.open.contains(node) && context.open.size() < Limits::effectDepth;
-}
 
 class EffectBuilder
 {
@@ -58,7 +37,6 @@ private:
     bool contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *facts);
     bool buildClip(NodeIndex clip, QVector<DisplayItem> *items);
     bool buildMask(NodeIndex mask, LayerEffects *layer);
-    void wrap(QVector<DisplayItem> *items, const std::shared_ptr<LayerEffects> &layer) const;
 
     BuildContext &m_context;
     NodeIndex m_node;
@@ -94,31 +72,9 @@ bool EffectBuilder::contentFacts(NodeIndex holder, bool ofBounds, const QTransfo
     return true;
 }
 
-// Puts the items into a layer.
-void EffectBuilder::wrap(QVector<DisplayItem> *items, const std::shared_ptr<LayerEffects> &layer) const
-{
-    DisplayItem begin;
-    begin.kind = DisplayItem::BeginLayer;
-    begin.node = m_node;
-    begin.facts = m_facts;
-    begin.effects = layer;
-    begin.control = m_context.control != noNode;
-    begin.controlCentre = m_context.controlCentre;
-    begin.end = items->size() + 1;
-    for (DisplayItem &item : *items) {
-        if (item.kind == DisplayItem::BeginLayer)
-            ++item.end;
-    }
-    DisplayItem end;
-    end.kind = DisplayItem::EndLayer;
-    end.node = m_node;
-    items->prepend(begin);
-    items->append(end);
-}
-
 bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
 {
-    if (!mayOpen(m_context, clip))
+    if (!OpenReference::isAllowed(m_context, clip))
         return false;
     const OpenReference open(m_context, clip);
     const Attributes &attributes = element(clip).attributes;
@@ -138,7 +94,7 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
     layer->clips = true;
     if (!buildClip(further, &layer->clip))
         return false;
-    wrap(items, layer);
+    wrapInLayer(m_context, clip, layer, items);
     return true;
 }
 
@@ -153,7 +109,7 @@ bool EffectBuilder::addClip(LayerEffects *layer)
 
 bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
 {
-    if (!mayOpen(m_context, mask))
+    if (!OpenReference::isAllowed(m_context, mask))
         return false;
     const OpenReference open(m_context, mask);
     const Attributes &attributes = element(mask).attributes;
@@ -180,7 +136,7 @@ bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
     const NodeIndex further = effects ? find(effects->mask, ElementKind::Mask) : noNode;
     if (further != noNode && !buildMask(further, region.get()))
         return false;
-    wrap(&layer->mask, region);
+    wrapInLayer(m_context, mask, region, &layer->mask);
     return true;
 }
 

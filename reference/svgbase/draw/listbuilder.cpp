@@ -3,6 +3,8 @@
 #include "document/drawingwalk.h"
 #include "draw/controlpoints.h"
 #include "draw/effectbuilder.h"
+#include "draw/layerwrapping.h"
+#include "draw/markerbuilder.h"
 
 namespace Svg {
 
@@ -30,6 +32,8 @@ private:
     void leave(NodeIndex node);
     bool isAllowed(ElementKind kind) const;
     void addShape(NodeIndex node, const FactsPointer &facts, bool layered);
+    bool hasMarkers(ElementKind kind, const Facts &facts) const;
+    void addMarkers(NodeIndex node, const FactsPointer &facts);
     void beginLayer(NodeIndex node, const FactsPointer &facts, const std::shared_ptr<LayerEffects> &effects);
     void endLayer();
     bool isFadedAsOne(NodeIndex node, const FactsPointer &facts) const;
@@ -74,7 +78,8 @@ bool ListBuilder::isFadedAsOne(NodeIndex node, const FactsPointer &facts) const
 {
     if (facts->style.opacity >= 1 || isSilhouette())
         return false;
-    if (!hasGeometry(m_document.tree().node(node).kind))
+    const ElementKind kind = m_document.tree().node(node).kind;
+    if (!hasGeometry(kind) || hasMarkers(kind, *facts))
         return true;
     return facts->outlines.size() > 1 ||
            (facts->outlines.size() == 1 && paintsTwice(effectiveOutline(m_document, node, *facts, 0)));
@@ -138,6 +143,35 @@ void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layer
     }
 }
 
+// Only these have vertices for markers (SVG 1.1 §11.6.2).
+bool takesMarkers(ElementKind kind)
+{
+    return kind == ElementKind::Line || kind == ElementKind::Polyline || kind == ElementKind::Polygon ||
+           kind == ElementKind::Path;
+}
+
+bool ListBuilder::hasMarkers(ElementKind kind, const Facts &facts) const
+{
+    return facts.style.markers && takesMarkers(kind) && facts.hasGeometry && !isSilhouette();
+}
+
+void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
+{
+    const StyleOverride *override = m_document.styleOverride(node);
+    MarkedElement element;
+    element.node = node;
+    element.facts = facts;
+    element.strokeWidth = facts->style.strokeWidth;
+    if (override && override->strokeWidth)
+        element.strokeWidth = *override->strokeWidth;
+    if (!facts->outlines.isEmpty()) {
+        const Outline outline = effectiveOutline(m_document, node, *facts, 0);
+        element.fill = outline.fill;
+        element.stroke = override && override->strokeColor ? QBrush(*override->strokeColor) : outline.strokePaint;
+    }
+    appendMarkers(m_context, element, &target());
+}
+
 // A clip path takes shapes, texts, and uses of them, but no use of a use and no groups.
 bool ListBuilder::isAllowed(ElementKind kind) const
 {
@@ -174,6 +208,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         beginLayer(node, facts, effects.layer);
     if (facts->style.visible)
         addShape(node, facts, layered);
+    if (facts->style.visible && hasMarkers(element.kind, *facts))
+        addMarkers(node, facts);
     return true;
 }
 
@@ -195,27 +231,12 @@ DrawingVisitor ListBuilder::visitor()
             [this](NodeIndex node, const FactsPointer &) { leave(node); }};
 }
 
-// What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
-void isolate(QVector<DisplayItem> *items)
-{
-    DisplayItem begin;
-    begin.kind = DisplayItem::BeginLayer;
-    begin.node = rootNode;
-    for (DisplayItem &item : *items)
-        item.end += 1;
-    begin.end = items->size() + 1;
-    DisplayItem end;
-    end.kind = DisplayItem::EndLayer;
-    end.node = rootNode;
-    items->prepend(begin);
-    items->append(end);
-}
-
 BuiltList ListBuilder::build()
 {
     walkDrawing(m_document, rootNode, visitor(), &m_context.budget);
+    // What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
     if (m_context.blends)
-        isolate(&m_result.items);
+        wrapInLayer(m_context, rootNode, nullptr, &m_result.items);
     return std::move(m_result);
 }
 

@@ -19,6 +19,10 @@ std::optional<Paint> plainPaint(QStringView text)
         paint.kind = Paint::CurrentColor;
         return paint;
     }
+    if (text == QLatin1String("context-fill") || text == QLatin1String("context-stroke")) {
+        paint.kind = text.endsWith(QLatin1Char('l')) ? Paint::ContextFill : Paint::ContextStroke;
+        return paint;
+    }
     const std::optional<QColor> color = parseColor(text);
     if (!color)
         return std::nullopt;

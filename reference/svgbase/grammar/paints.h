@@ -18,7 +18,10 @@ struct Paint
         /// "currentColor"; replaced by a colour once the "color" property is known.
         CurrentColor,
         /// A gradient; `color` is used where it can't be found, if it is valid.
-        Server
+        Server,
+        /// What fills or strokes the element that shows this one: with a marker, or by using it (SVG 2 §13.2).
+        ContextFill,
+        ContextStroke
     };
     Kind kind = Unset;
     QColor color;

@@ -15,8 +15,9 @@ namespace {
 class PathReader
 {
 public:
-    explicit PathReader(const QByteArray &bytes)
+    PathReader(const QByteArray &bytes, QVector<PathSegment> *segments)
         : m_cursor{bytes.constBegin(), bytes.constEnd()}
+        , m_segmentList(segments)
     {
     }
 
@@ -44,10 +45,12 @@ private:
     bool readPoint(bool relative, QPointF *point);
     bool readFlag(bool *flag);
     bool close();
+    void record(char command, const QPointF &from, int elementsBefore);
     bool isInRange(const QPointF &point) const;
     QPointF reflected(bool curveBefore) const;
 
     Cursor m_cursor;
+    QVector<PathSegment> *m_segmentList;
     PathData m_result;
     QPointF m_current;
     QPointF m_start;
@@ -224,8 +227,34 @@ bool PathReader::readArc(bool relative)
     return true;
 }
 
+PathSegment::Kind kindOf(char command)
+{
+    if (command == 'm')
+        return PathSegment::Move;
+    return strchr("lhv", command) ? PathSegment::Line : PathSegment::Curve;
+}
+
+// A painter's path leaves out what has no length and cuts arcs into pieces.
+void PathReader::record(char command, const QPointF &from, int elementsBefore)
+{
+    PathSegment segment{kindOf(command), from, from, m_current, m_current};
+    const QPainterPath &path = m_result.path;
+    int first = elementsBefore;
+    while (first < path.elementCount() && path.elementAt(first).type != QPainterPath::CurveToElement)
+        ++first;
+    if (segment.kind == PathSegment::Curve && first < path.elementCount()) {
+        segment.firstControl = path.elementAt(first);
+        segment.lastControl = path.elementAt(path.elementCount() - 2);
+    } else if (segment.kind == PathSegment::Curve) {
+        segment.kind = PathSegment::Line;
+    }
+    m_segmentList->append(segment);
+}
+
 bool PathReader::close()
 {
+    if (m_segmentList)
+        m_segmentList->append({PathSegment::Close, m_current, m_current, m_start, m_start});
     m_result.path.closeSubpath();
     m_current = m_start;
     m_closed = true;
@@ -281,8 +310,12 @@ bool PathReader::readSegments()
             m_result.tooLong = true;
             return false;
         }
+        const QPointF from = m_current;
+        const int elementsBefore = m_result.path.elementCount();
         if (!readSegment(command, relative))
             return false;
+        if (m_segmentList)
+            record(command, from, elementsBefore);
         ++m_segments;
         m_previous = command;
         first = false;
@@ -313,9 +346,9 @@ bool PathReader::readCommands()
 
 } // namespace
 
-PathData parsePathData(QStringView text)
+PathData parsePathData(QStringView text, QVector<PathSegment> *segments)
 {
-    return PathReader(text.toLatin1()).read();
+    return PathReader(text.toLatin1(), segments).read();
 }
 
 } // namespace Svg

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QStringView>
+#include <QtCore/QVector>
 #include <QtGui/QPainterPath>
 
 namespace Svg {
@@ -16,7 +17,20 @@ struct PathData
     bool tooLong = false;
 };
 
-/// Reads path data (SVG 1.1 §8.3). A path is drawn up to its first error.
-PathData parsePathData(QStringView text);
+/// A segment as path data has it: an arc is one segment, and one without length counts too.
+struct PathSegment
+{
+    enum Kind { Move, Line, Curve, Close };
+    Kind kind = Move;
+    QPointF from;
+    /// Of a curve: where it heads at its start, where it comes from at its end.
+    QPointF firstControl;
+    QPointF lastControl;
+    QPointF to;
+};
+
+/// Reads path data (SVG 1.1 §8.3). A path is drawn up to its first error. `segments`, when given, gets the segments
+/// one by one.
+PathData parsePathData(QStringView text, QVector<PathSegment> *segments = nullptr);
 
 } // namespace Svg

@@ -9,6 +9,8 @@
 #include <QtGui/QPen>
 #include <QtGui/QTransform>
 
+#include <memory>
+
 namespace Svg {
 
 struct Facts;
@@ -24,6 +26,15 @@ struct Outline
     QPen pen = Qt::NoPen;
 };
 
+/// What "context-fill" and "context-stroke" stand for.
+struct PaintContext
+{
+    QBrush fill = Qt::NoBrush;
+    QBrush stroke = Qt::NoBrush;
+    /// Of the element that the brushes belong to.
+    QTransform toDocument;
+};
+
 /// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
 /// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
 /// resolved against.
@@ -33,6 +44,8 @@ struct Facts : QSharedData
     /// Counts changes of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
     ComputedStyle style;
+    /// Null outside of markers and used elements.
+    std::shared_ptr<const PaintContext> context;
     /// What percentages refer to, user units.
     QSizeF viewport;
     QTransform toDocument;

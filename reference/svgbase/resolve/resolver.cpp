@@ -2,6 +2,7 @@
 
 #include "grammar/transforms.h"
 #include "inputlimits.h"
+#include "resolve/contextpaint.h"
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/pens.h"
@@ -84,6 +85,8 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const
         const NodeIndex server = m_tree.findId(paint.server);
         if (server != noNode && isPaintServerPart(m_tree.node(server).kind))
             return gradientBrush(m_tree, server, {facts->localBounds, facts->viewport, opacity});
+    } else if (paint.kind == Paint::ContextFill || paint.kind == Paint::ContextStroke) {
+        return contextBrush(*facts, paint.kind, opacity);
     } else if (paint.kind != Paint::Color) {
         return Qt::NoBrush;
     }
@@ -145,6 +148,10 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
     resolveStyle(node, facts);
     resolvePlace(node, facts);
+    if (parent)
+        facts->context = parent->context;
+    if (node.kind == ElementKind::Use)
+        facts->context = useContext(*facts);
     if (node.kind == ElementKind::Text)
         resolveText(index, facts);
     else
