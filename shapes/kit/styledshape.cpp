@@ -98,7 +98,17 @@ void StyledShape::initPropItems()
 
 QBrush StyledShape::getFillBrush()
 {
-    return isFilledByPageObject() ? owner->getHostFillBrush() : CSVGBase::getFillBrush();
+    if (!isFilledByPageObject())
+        return CSVGBase::getFillBrush();
+    QBrush brush = owner->getHostFillBrush();
+    const CPageBgProp *fill = owner->getFillProp();
+    // A fill that is switched off keeps its colour, also when undo switches it off again.
+    if (brush.style() == Qt::NoBrush && fill) {
+        QColor color = fill->fillColor();
+        color.setAlpha(fill->opacity());
+        brush.setColor(color);
+    }
+    return brush;
 }
 
 void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
@@ -186,6 +196,8 @@ void StyledShape::fillPageObject(const QBrush &brush)
         fill.setFillEnable(true);
     } else if (owner->getFillProp()) {
         fill = *owner->getFillProp();
+        fill.setFillColor(QColor(brush.color().rgb()));
+        fill.setOpacity(brush.color().alpha());
         fill.setFillEnable(false);
     }
     owner->setFillProp(&fill, false);
