@@ -54,6 +54,13 @@ constexpr double layerPixels = 256.0 * 1024 * 1024;
 constexpr double layerOverhead = 8192;
 /// The same at any one time.
 constexpr double openLayerPixels = 32.0 * 1024 * 1024;
+/// Most items of a "begin" or an "end".
+constexpr int animationConditions = 1000;
+/// Most values of one animation.
+constexpr int animationValues = 10000;
+/// Most begins and ends of animations that are worked out from one moment shown to the next; what would come later
+/// does not happen.
+constexpr int animationEvents = 100000;
 /// Most messages that a document keeps.
 constexpr int messages = 100;
 

@@ -160,12 +160,23 @@ bool QZeSvgTinyDocument::animated() const
 
 void QZeSvgTinyDocument::startAnimate()
 {
-    DocumentPrivate::of(this)->animationRunning = true;
+    DocumentPrivate::of(this)->startAnimation();
 }
 
 void QZeSvgTinyDocument::stopAnimate()
 {
-    DocumentPrivate::of(this)->animationRunning = false;
+    DocumentPrivate::of(this)->stopAnimation();
+}
+
+bool QZeSvgTinyDocument::setAnimationTime(double seconds)
+{
+    const std::optional<ClockTime> time = clockTime(seconds);
+    return time && DocumentPrivate::of(this)->setAnimationTime(*time);
+}
+
+double QZeSvgTinyDocument::animationTime() const
+{
+    return double(DocumentPrivate::of(this)->animationTime()) / double(clockSecond);
 }
 
 void QZeSvgTinyDocument::drawFitted(QPainter *painter, const QRectF &viewport)

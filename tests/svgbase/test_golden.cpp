@@ -8,6 +8,8 @@
 #include <QtCore/QRegularExpression>
 #include <QtTest>
 
+#include <optional>
+
 namespace {
 
 using Messages = QVector<QZeSvgTinyDocument::Message>;
@@ -27,6 +29,8 @@ struct Expectations
     QSize size{100, 100};
     int tolerance = 0;
     bool refused = false;
+    /// Moment of the animation that is drawn, seconds.
+    std::optional<double> time;
     QVector<Probe> probes;
     QStringList messages;
     QStringList problems;
@@ -75,6 +79,8 @@ bool readLine(const QString &text, int line, Expectations *expected)
         expected->size = QSize(words.value(1).toInt(), words.value(2).toInt());
     else if (words.first() == QLatin1String("tolerance"))
         expected->tolerance = words.value(1).toInt();
+    else if (words.first() == QLatin1String("time"))
+        expected->time = words.value(1).toDouble();
     else if (words.first() == QLatin1String("message"))
         expected->messages.append(text.simplified().mid(8));
     else if (words.first() == QLatin1String("refused"))
@@ -225,6 +231,8 @@ void TestGolden::looksAsExpected()
         QVERIFY2(isThere(messages, message), qPrintable(message + described(messages)));
     if (expected.refused)
         return;
+    if (expected.time)
+        document->setAnimationTime(*expected.time);
     const QImage image = fittedPicture(*document, expected.size);
     const QStringList wrong = wrongProbes(image, expected);
     if (!wrong.isEmpty())
@@ -248,6 +256,8 @@ void TestGolden::looksTheSame()
     const DocumentPointer first(QZeSvgTinyDocument::load(contents(name + QStringLiteral(".svg"))));
     const DocumentPointer second(QZeSvgTinyDocument::load(contents(name + QStringLiteral(".same.svg"))));
     QVERIFY(first && second);
+    if (expected.time)
+        first->setAnimationTime(*expected.time);
     const QImage a = fittedPicture(*first, expected.size);
     const QImage b = fittedPicture(*second, expected.size);
     QVERIFY(!isBlank(b));

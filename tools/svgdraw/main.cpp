@@ -10,6 +10,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -21,6 +22,7 @@ enum ExitCode {
 };
 
 constexpr int longestSide = 32767;
+constexpr double millisecondsPerSecond = 1000;
 
 using Messages = QVector<QZeSvgTinyDocument::Message>;
 
@@ -29,6 +31,8 @@ struct Request
     QString input;
     QString output;
     QSize size;
+    /// Moment of the animation, seconds; none for the document as it stands.
+    std::optional<double> time;
 };
 
 // Only messages about the document are of interest, not what Qt notices about its surroundings.
@@ -72,6 +76,8 @@ int drawFile(const Request &request)
     print(request.input, messages);
     if (!document)
         return Refused;
+    if (request.time)
+        document->setAnimationTime(*request.time);
     if (!picture(*document, request.size).save(request.output, "PNG"))
         return complain(QStringLiteral("%1 can't be written.").arg(request.output));
     return Drawn;
@@ -96,6 +102,10 @@ void describe(QCommandLineParser *parser)
     parser->addPositionalArgument(QStringLiteral("out.png"), QStringLiteral("The picture to write."));
     parser->addPositionalArgument(QStringLiteral("WIDTH"), QStringLiteral("Width of the picture, pixels."));
     parser->addPositionalArgument(QStringLiteral("HEIGHT"), QStringLiteral("Height of the picture, pixels."));
+    parser->addPositionalArgument(QStringLiteral("TIME_MS"),
+                                  QStringLiteral("Moment of its animation to draw, milliseconds; without it nothing "
+                                                 "is animated."),
+                                  QStringLiteral("[TIME_MS]"));
 }
 
 } // namespace
@@ -114,10 +124,17 @@ int main(int argc, char **argv)
     if (parser.isSet(QStringLiteral("help")))
         parser.showHelp(Drawn);
     const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 4)
-        return complain(QStringLiteral("Four arguments are needed; --help tells which."));
+    if (arguments.size() != 4 && arguments.size() != 5)
+        return complain(QStringLiteral("Four or five arguments are needed; --help tells which."));
     const QSize size(side(arguments.at(2)), side(arguments.at(3)));
     if (size.width() < 1 || size.height() < 1)
         return complain(QStringLiteral("Width and height are whole numbers from 1 to %1.").arg(longestSide));
-    return drawFile({arguments.at(0), arguments.at(1), size});
+    Request request{arguments.at(0), arguments.at(1), size, std::nullopt};
+    if (arguments.size() == 5) {
+        bool ok = false;
+        request.time = arguments.at(4).toDouble(&ok) / millisecondsPerSecond;
+        if (!ok || !qIsFinite(*request.time))
+            return complain(QStringLiteral("The time is a number of milliseconds."));
+    }
+    return drawFile(request);
 }

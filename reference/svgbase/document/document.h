@@ -40,8 +40,9 @@ public:
     QString attribute(NodeIndex index, const QString &name) const;
     void setAttribute(NodeIndex index, const QString &name, const QString &value);
     void setNumericAttribute(NodeIndex index, const QString &name, double value);
-    /// Lays declarations over the style of a node, as animation does; empty text takes them away.
-    void setAnimatedStyle(NodeIndex index, const QString &declarations);
+    /// Lays declarations over the style of a node, as animation does; empty text takes them away. What they say
+    /// counts more than `override`, which is the node's otherwise.
+    void setAnimatedStyle(NodeIndex index, const QString &declarations, const StyleOverridePointer &override);
 
     NodeIndex copySubtree(NodeIndex source);
     void discardSubtree(NodeIndex top);

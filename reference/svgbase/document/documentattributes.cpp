@@ -106,9 +106,11 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
     nodeChanged(index);
 }
 
-void Document::setAnimatedStyle(NodeIndex index, const QString &declarations)
+void Document::setAnimatedStyle(NodeIndex index, const QString &declarations,
+                                const StyleOverridePointer &override)
 {
     settle();
+    setStyleOverride(index, override);
     m_tree.edit(index).attributes.set(AttributeId::AnimatedStyle, declarations);
     dropOverriddenStyle(index, AttributeId::Style, declarations);
     nodeChanged(index);

@@ -39,7 +39,7 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
     if (!isFinite(world))
         return;
     std::unique_ptr<DisplayList> list = DisplayListCache::take(this);
-    list->update(content, stretch, world);
+    list->update(shown(), stretch, world);
     // Nothing of what the caller's painter is set to may show but its place, clip, opacity and composition.
     painter->setWorldTransform(QTransform());
     painter->setBrushOrigin(0, 0);
@@ -52,7 +52,8 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
 void DocumentPrivate::draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag)
 {
     lastDraw = {target, scale, viewFlag};
-    const QRectF box = settledViewBox();
+    showMoment();
+    const QRectF box = shownViewBox();
     beforeDraw = false;
     if (!painter || !painter->isActive() || !isDrawable(target) || !isDrawable(box))
         return;
@@ -75,7 +76,8 @@ void DocumentPrivate::drawFitted(QPainter *painter, const QRectF &viewport)
     if (!painter || !painter->isActive() || !isDrawable(viewport))
         return;
     content.setWindow(viewport.size());
-    const Node &root = content.tree().node(rootNode);
+    showMoment();
+    const Node &root = shown().tree().node(rootNode);
     const QRectF box = shownArea(root, viewport.size());
     const AspectRatio ratio = parseAspectRatio(root.attributes.value(AttributeId::PreserveAspectRatio));
     const std::optional<QTransform> fitted = viewBoxTransform(box, viewport, ratio);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "animation/presentation.h"
 #include "document/document.h"
 #include "document/handles.h"
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>
 #include <QtCore/QSet>
 
@@ -59,12 +61,32 @@ public:
     QZeSvgTinyDocument::DrawRecord lastDraw;
     int selectionState = 0;
     bool beforeDraw = false;
-    bool animationRunning = false;
+
+    /// @name Animation
+    /// @{
+    void startAnimation();
+    void stopAnimation();
+    /// Sets the clock. Whether that changes what is drawn.
+    bool setAnimationTime(Svg::ClockTime time);
+    Svg::ClockTime animationTime() const;
+    /// What is to be drawn: the content, or how it looked at the moment that was last shown.
+    Svg::Document &shown();
+    /// @}
 
 private:
+    bool showMoment();
+    QRectF shownViewBox();
     Svg::NodeIndex firstStyled(const std::function<bool(Svg::NodeIndex)> &wanted) const;
     void paint(QPainter *painter, const QTransform &stretch, bool withControlPoints);
 
+    /// Made when a moment of the animation is first shown.
+    std::unique_ptr<Svg::Presentation> m_presentation;
+    QElapsedTimer m_clock;
+    /// The moment when the clock was last started, stopped or set.
+    Svg::ClockTime m_clockTime = 0;
+    bool m_clockRuns = false;
+    /// Whether the clock was ever started or set; before that there is no animation to see.
+    bool m_clockUsed = false;
     QHash<Svg::NodeIndex, QZeSvgNode *> m_nodes;
     /// Copies that are in no document yet; their callers delete them.
     QSet<Svg::NodeIndex> m_loose;

@@ -116,6 +116,7 @@ public:
     QString value(AttributeId id) const;
     QString value(const QString &name) const;
     bool contains(AttributeId id) const { return find(id) != nullptr; }
+    bool contains(const QString &name) const { return find(attributeId(name), name) != nullptr; }
     /// A null value takes the attribute away.
     void set(const QString &name, const QString &value);
     void set(AttributeId id, const QString &value);

@@ -90,8 +90,16 @@ public:
     /// @{
     /// Whether the document contains animation elements, running or not.
     bool animated() const;
+    /// Starts the document's clock, or lets it go on from where it was stopped. Before the first start nothing is
+    /// animated; animated values show in draw() alone, whatever reads a node gets its own values.
     void startAnimate();
+    /// Stops the clock; the drawing stays at that moment.
     void stopAnimate();
+    /// Sets the clock, seconds since its start; it goes on from there while it runs. True when that changes the
+    /// drawing. Ignored when the time is no number.
+    bool setAnimationTime(double seconds);
+    /// The present time of the clock, seconds.
+    double animationTime() const;
     /// @}
 
     /// Draws the document as a viewer shows a file: its view box is fitted into `viewport` (painter units) by the

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "grammar/lengths.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+
+namespace Svg {
+
+/// A value of an animated attribute, taken apart so that there can be something between two of them.
+struct AnimatedValue
+{
+    enum Kind {
+        /// Can only be replaced as a whole.
+        Text,
+        /// Numbers and lengths with their units.
+        Numbers,
+        /// Red, green, blue and alpha, 0 to 255 and beyond while sums are made.
+        Color,
+        /// Coordinates of path data, all absolute.
+        Path
+    };
+    Kind kind = Text;
+    QVector<double> numbers;
+    /// What else must agree: the units, the commands.
+    QString form;
+    QString text;
+};
+
+/// What the attribute is like that a value is for.
+struct ValueContext
+{
+    enum Grammar { Lengths, Colors, PathData, TransformFunction };
+    Grammar grammar = Lengths;
+    /// The name of the transform function.
+    QLatin1String function;
+    /// What "inherit" means, where it means anything.
+    QString inherited;
+    Axis axis = Axis::Diagonal;
+    LengthContext lengths;
+    QColor currentColor;
+    /// Whether a shorter list is repeated to match a longer one, as dashes are.
+    bool repeats = false;
+    /// Whether numbers below 0 are none.
+    bool positive = false;
+};
+
+/// The context of the values of an `animateTransform`; unknown types are translations.
+ValueContext transformContext(const QString &type);
+/// The context that goes with an attribute of that name.
+ValueContext valueContext(const QString &attribute, const LengthContext &lengths, const QColor &currentColor);
+AnimatedValue parseAnimatedValue(const QString &text, const ValueContext &context);
+/// The text that an attribute takes.
+QString attributeText(const AnimatedValue &value, const ValueContext &context);
+
+/// Brings two values to the same form, lengths of different units to user units. False when there is nothing
+/// between the two.
+bool makeAlike(AnimatedValue *a, AnimatedValue *b, const ValueContext &context);
+/// The sum of two values of the same form, the second one `factor` times.
+AnimatedValue sumOf(const AnimatedValue &a, const AnimatedValue &b, double factor);
+/// `a` where `share` is 0, `b` where it is 1; both of the same form.
+AnimatedValue between(const AnimatedValue &a, const AnimatedValue &b, double share);
+/// How far apart two values of the same form are.
+double distanceBetween(const AnimatedValue &a, const AnimatedValue &b, const ValueContext &context);
+/// A value of the same form that adds nothing.
+AnimatedValue zeroOf(const AnimatedValue &value);
+
+} // namespace Svg

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "animation/animatedvalue.h"
+#include "animation/keyframes.h"
+#include "animation/timing.h"
+
+namespace Svg {
+
+/// What one animation element does to a value, apart from when (SMIL 3.0 §12.5).
+class Effect
+{
+public:
+    /// Reads "from", "to", "by", "values" and what goes with them; "to" alone for a `set`. Nothing when the element
+    /// gives no usable values.
+    static std::optional<Effect> read(const Attributes &attributes, const ValueContext &context, bool isSet);
+
+    /// The value that the attribute has where it had `underlying` without the effect.
+    AnimatedValue applied(const AnimatedValue &underlying, const RoundPosition &position) const;
+    /// The value as a transform function, for a list of them to take up.
+    QString functionText(const RoundPosition &position) const;
+    /// Whether the value is added to what lies under the effect.
+    bool isAdditive() const { return m_additive; }
+
+private:
+    static std::optional<Effect> readSet(const Attributes &attributes, const ValueContext &context);
+    static std::optional<Effect> readList(const Attributes &attributes, const ValueContext &context, CalcMode mode);
+    static std::optional<Effect> readTo(const Attributes &attributes, const ValueContext &context, CalcMode mode);
+    static std::optional<Effect> readBy(const Attributes &attributes, const ValueContext &context, CalcMode mode);
+    static std::optional<Effect> fromValues(const Attributes &attributes, const QVector<AnimatedValue> &values,
+                                            const ValueContext &context, CalcMode mode);
+    bool makeAllAlike();
+    void pace();
+    AnimatedValue valueAt(const RoundPosition &position) const;
+
+    ValueContext m_context;
+    QVector<AnimatedValue> m_values;
+    Keyframes m_frames;
+    bool m_additive = false;
+    bool m_accumulates = false;
+    /// "to" alone: goes from whatever the attribute has to the value.
+    bool m_blends = false;
+    /// Whether there is anything between two values.
+    bool m_interpolates = true;
+};
+
+} // namespace Svg

@@ -1,0 +1,174 @@
+#include "animation/model.h"
+
+#include "animation/basevalue.h"
+#include "document/document.h"
+#include "grammar/paints.h"
+
+#include <QtCore/QMap>
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+const QLatin1String transformName("transform");
+
+class ModelReader
+{
+public:
+    explicit ModelReader(Document &document)
+        : m_document(document)
+        , m_tree(document.tree())
+    {
+    }
+
+    AnimationModel read();
+
+private:
+    void readElement(NodeIndex index);
+    NodeIndex targetOf(NodeIndex index) const;
+    AnimatedAttribute &attributeOf(NodeIndex target, const QString &name, const ValueContext &context);
+    ValueContext contextOf(NodeIndex target, const QString &name) const;
+    QString baseOf(NodeIndex target, const QString &name) const;
+    void readTransform(NodeIndex index, NodeIndex target);
+    void readMotion(NodeIndex index, NodeIndex target);
+    void readPlain(NodeIndex index, NodeIndex target);
+
+    Document &m_document;
+    const Tree &m_tree;
+    AnimationModel m_model;
+    QMap<std::pair<NodeIndex, QString>, AnimatedAttribute> m_attributes;
+};
+
+NodeIndex ModelReader::targetOf(NodeIndex index) const
+{
+    const Node &node = m_tree.node(index);
+    NodeIndex target = node.parent;
+    for (const AttributeId id : {AttributeId::XlinkHref, AttributeId::Href}) {
+        if (node.attributes.contains(id))
+            target = m_tree.findId(localReference(node.attributes.value(id)));
+    }
+    if (target == noNode || isAnimation(m_tree.node(target).kind))
+        return noNode;
+    return target;
+}
+
+LengthContext lengthsOf(const Facts &facts)
+{
+    return {facts.viewport, facts.style.font.size};
+}
+
+ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
+{
+    const FactsPointer facts = m_document.facts(target);
+    ValueContext context = valueContext(name, lengthsOf(*facts), facts->style.color);
+    const AttributeId id = attributeId(name);
+    if (isProperty(id) && facts->parent)
+        context.inherited = propertyText(facts->parent->style, id);
+    return context;
+}
+
+QString ModelReader::baseOf(NodeIndex target, const QString &name) const
+{
+    const AttributeId id = attributeId(name);
+    if (isProperty(id)) {
+        const QString computed = propertyText(m_document.facts(target)->style, id);
+        if (!computed.isEmpty())
+            return computed;
+    }
+    const Node &node = m_tree.node(target);
+    const QString own = node.attributes.value(name);
+    return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
+}
+
+AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &name, const ValueContext &context)
+{
+    AnimatedAttribute &attribute = m_attributes[{target, name}];
+    if (attribute.target == noNode) {
+        attribute.target = target;
+        attribute.name = name;
+        attribute.id = attributeId(name);
+        attribute.isProperty = isProperty(attribute.id);
+        attribute.context = context;
+        attribute.base = baseOf(target, name);
+    }
+    return attribute;
+}
+
+void ModelReader::readTransform(NodeIndex index, NodeIndex target)
+{
+    const Attributes &attributes = m_tree.node(index).attributes;
+    const ValueContext context = transformContext(attributes.value(QStringLiteral("type")).trimmed());
+    const std::optional<Effect> effect = Effect::read(attributes, context, false);
+    QString name = attributes.value(QStringLiteral("attributeName")).trimmed();
+    if (name.isEmpty())
+        name = transformName;
+    if (effect && name.endsWith(transformName, Qt::CaseInsensitive))
+        attributeOf(target, name, context).animations.append({m_model.timeline.size(), effect, std::nullopt});
+}
+
+void ModelReader::readMotion(NodeIndex index, NodeIndex target)
+{
+    const std::optional<Motion> motion = Motion::read(m_tree, index, lengthsOf(*m_document.facts(target)));
+    if (!motion)
+        return;
+    const ValueContext context = transformContext(QString());
+    attributeOf(target, transformName, context).animations.append({m_model.timeline.size(), std::nullopt, motion});
+}
+
+// Neither what things are called nor a whole transform can be animated (SVG 1.1 §19.2.6).
+bool isAnimatable(const QString &name)
+{
+    return !name.isEmpty() && name != QLatin1String("id") && name != QLatin1String("style") &&
+           !name.endsWith(transformName, Qt::CaseInsensitive);
+}
+
+void ModelReader::readPlain(NodeIndex index, NodeIndex target)
+{
+    const Node &node = m_tree.node(index);
+    const QString name = node.attributes.value(QStringLiteral("attributeName")).trimmed();
+    if (!isAnimatable(name))
+        return;
+    const ValueContext context = contextOf(target, name);
+    const std::optional<Effect> effect = Effect::read(node.attributes, context, node.kind == ElementKind::SetValue);
+    if (effect)
+        attributeOf(target, name, context).animations.append({m_model.timeline.size(), effect, std::nullopt});
+}
+
+void ModelReader::readElement(NodeIndex index)
+{
+    const Node &node = m_tree.node(index);
+    const NodeIndex target = targetOf(index);
+    if (target != noNode) {
+        if (node.kind == ElementKind::AnimateTransform)
+            readTransform(index, target);
+        else if (node.kind == ElementKind::AnimateMotion)
+            readMotion(index, target);
+        else
+            readPlain(index, target);
+    }
+    m_model.timeline.add(readTiming(node.attributes), node.attributes.value(AttributeId::Id));
+}
+
+AnimationModel ModelReader::read()
+{
+    for (NodeIndex at = rootNode; at != noNode; at = m_tree.following(at, rootNode)) {
+        if (isAnimation(m_tree.node(at).kind))
+            readElement(at);
+    }
+    m_model.attributes.reserve(m_attributes.size());
+    for (const AnimatedAttribute &attribute : qAsConst(m_attributes))
+        m_model.attributes.append(attribute);
+    return std::move(m_model);
+}
+
+} // namespace
+
+AnimationModel readAnimations(Document &document)
+{
+    document.settle();
+    return ModelReader(document).read();
+}
+
+} // namespace Svg

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "animation/sandwich.h"
+
+namespace Svg {
+
+class Document;
+
+/// All animation of a document, read from its elements.
+struct AnimationModel
+{
+    Timeline timeline;
+    /// Ordered by target.
+    QVector<AnimatedAttribute> attributes;
+};
+
+/// Reads the animation elements as they are now. Those without a target or without usable values play their part in
+/// the timeline but show nothing.
+AnimationModel readAnimations(Document &document);
+
+} // namespace Svg

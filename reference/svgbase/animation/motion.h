@@ -1,0 +1,38 @@
+#pragma once
+
+#include "animation/effect.h"
+#include "resolve/pathmeasure.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// What an `animateMotion` does: moves its target along a path (SVG 1.1 §19.2.15).
+class Motion
+{
+public:
+    /// Nothing when the element gives no usable way.
+    static std::optional<Motion> read(const Tree &tree, NodeIndex animation, const LengthContext &lengths);
+
+    /// The transform functions of a place on the way.
+    QString transformText(const RoundPosition &position) const;
+    /// Whether it is added to motions below it.
+    bool isAdditive() const { return m_additive; }
+
+private:
+    enum Rotation { Fixed, Auto, AutoReverse };
+
+    explicit Motion(const QPainterPath &path);
+    bool readKeys(const Attributes &attributes);
+    void readRotation(const Attributes &attributes);
+
+    PathMeasure m_way;
+    /// Distances along the way that the key frames stand for.
+    QVector<double> m_stops;
+    Keyframes m_frames;
+    Rotation m_rotation = Fixed;
+    double m_angle = 0;
+    bool m_additive = false;
+    bool m_accumulates = false;
+};
+
+} // namespace Svg

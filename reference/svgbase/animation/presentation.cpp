@@ -1,0 +1,84 @@
+#include "animation/presentation.h"
+
+#include "resolve/resolver.h"
+
+#include <algorithm>
+
+namespace Svg {
+
+Presentation::Presentation(const Document &base)
+    : m_document(base)
+{
+}
+
+void Presentation::takeOver(Document &base)
+{
+    const quint32 shown = m_document.revision();
+    m_model = readAnimations(base);
+    m_document = base;
+    m_document.raiseRevision(shown);
+    m_baseRevision = base.revision();
+    m_read = true;
+}
+
+bool Presentation::update(AnimatedAttribute *attribute)
+{
+    if (!refreshStates(attribute, m_model.timeline))
+        return false;
+    const std::optional<QString> text = animatedText(*attribute);
+    if (text == attribute->shown)
+        return false;
+    attribute->shown = text;
+    return true;
+}
+
+// All animated properties of a node lie over its style together.
+void Presentation::writeStyle(NodeIndex target, const Document &base)
+{
+    const auto isBefore = [](const AnimatedAttribute &attribute, NodeIndex node) {
+        return attribute.target < node;
+    };
+    auto at = std::lower_bound(m_model.attributes.cbegin(), m_model.attributes.cend(), target, isBefore);
+    QString declarations;
+    for (; at != m_model.attributes.cend() && at->target == target; ++at) {
+        if (at->isProperty && at->shown)
+            declarations += at->name + QLatin1Char(':') + *at->shown + QLatin1Char(';');
+    }
+    m_document.setAnimatedStyle(target, declarations, base.stylePointer(target));
+}
+
+void Presentation::write(const AnimatedAttribute &attribute, const Document &base)
+{
+    if (attribute.isProperty) {
+        writeStyle(attribute.target, base);
+        return;
+    }
+    const QString own = base.tree().node(attribute.target).attributes.value(attribute.name);
+    m_document.setAttribute(attribute.target, attribute.name, attribute.shown.value_or(own));
+}
+
+bool Presentation::show(Document &base, ClockTime time)
+{
+    const quint32 before = m_document.revision();
+    if (!m_read || m_baseRevision != base.revision())
+        takeOver(base);
+    m_model.timeline.goTo(time);
+    for (AnimatedAttribute &attribute : m_model.attributes) {
+        if (update(&attribute))
+            write(attribute, base);
+    }
+    return m_document.revision() != before;
+}
+
+std::optional<QRectF> Presentation::viewBox() const
+{
+    for (const AnimatedAttribute &attribute : m_model.attributes) {
+        if (attribute.target != rootNode)
+            break;
+        if (attribute.id == AttributeId::ViewBox && attribute.shown)
+            return rootViewBox(m_document.tree().node(rootNode));
+    }
+    return std::nullopt;
+}
+
+} // namespace Svg

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "animation/model.h"
+#include "document/document.h"
+
+namespace Svg {
+
+/// A document as it looks at a moment of its animation: a copy that shares everything that is not animated. The
+/// document itself keeps its own values; what is changed of it shows at the next moment.
+class Presentation
+{
+public:
+    explicit Presentation(const Document &base);
+
+    /// Goes to a moment. Whether that changes what is drawn.
+    bool show(Document &base, ClockTime time);
+    Document &document() { return m_document; }
+    /// The view box of the moment, if it is animated.
+    std::optional<QRectF> viewBox() const;
+
+private:
+    void takeOver(Document &base);
+    bool update(AnimatedAttribute *attribute);
+    void write(const AnimatedAttribute &attribute, const Document &base);
+    void writeStyle(NodeIndex target, const Document &base);
+
+    Document m_document;
+    AnimationModel m_model;
+    quint32 m_baseRevision = 0;
+    bool m_read = false;
+};
+
+} // namespace Svg

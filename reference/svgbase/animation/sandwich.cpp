@@ -1,0 +1,85 @@
+#include "animation/sandwich.h"
+
+#include "grammar/transforms.h"
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+using States = std::vector<Timeline::State>;
+
+/// Places of the animations that apply, lowest first. Those that began together keep their document order.
+QVector<int> layers(const States &states)
+{
+    QVector<int> order;
+    for (int i = 0; i < int(states.size()); ++i) {
+        if (states[size_t(i)].applies)
+            order.append(i);
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [&](int a, int b) { return states[size_t(a)].begin < states[size_t(b)].begin; });
+    return order;
+}
+
+QString stacked(const QString &below, const QString &text, bool additive)
+{
+    return additive && !below.isEmpty() ? below + QLatin1Char(' ') + text : text;
+}
+
+// A motion moves what the other transforms have placed (SVG 1.1 §19.2.15).
+QString transformText(const AnimatedAttribute &attribute, const QVector<int> &order)
+{
+    QString own = parseTransform(attribute.base) ? attribute.base.trimmed() : QString();
+    QString motion;
+    for (const int i : order) {
+        const Animation &animation = attribute.animations.at(i);
+        const RoundPosition &position = attribute.states[size_t(i)].position;
+        if (animation.motion)
+            motion = stacked(motion, animation.motion->transformText(position), animation.motion->isAdditive());
+        else
+            own = stacked(own, animation.effect->functionText(position), animation.effect->isAdditive());
+    }
+    return stacked(motion, own, true).trimmed();
+}
+
+QString valueText(const AnimatedAttribute &attribute, const QVector<int> &order)
+{
+    AnimatedValue value = parseAnimatedValue(attribute.base, attribute.context);
+    for (const int i : order)
+        value = attribute.animations.at(i).effect->applied(value, attribute.states[size_t(i)].position);
+    return attributeText(value, attribute.context);
+}
+
+bool isSame(const Timeline::State &a, const Timeline::State &b)
+{
+    return a.applies == b.applies && a.begin == b.begin && a.position.round == b.position.round &&
+           a.position.progress == b.position.progress;
+}
+
+} // namespace
+
+std::optional<QString> animatedText(const AnimatedAttribute &attribute)
+{
+    const QVector<int> order = layers(attribute.states);
+    if (order.isEmpty())
+        return std::nullopt;
+    const bool transform = attribute.context.grammar == ValueContext::TransformFunction;
+    return transform ? transformText(attribute, order) : valueText(attribute, order);
+}
+
+bool refreshStates(AnimatedAttribute *attribute, const Timeline &timeline)
+{
+    States &states = attribute->states;
+    bool changed = states.size() != size_t(attribute->animations.size());
+    states.resize(size_t(attribute->animations.size()));
+    for (int i = 0; i < attribute->animations.size(); ++i) {
+        const Timeline::State state = timeline.state(attribute->animations.at(i).timing);
+        changed = changed || !isSame(state, states[size_t(i)]);
+        states[size_t(i)] = state;
+    }
+    return changed;
+}
+
+} // namespace Svg

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "animation/effect.h"
+#include "animation/motion.h"
+#include "animation/timeline.h"
+#include "resolve/facts.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// One animation with an effect.
+struct Animation
+{
+    /// Its place in the timeline.
+    int timing = 0;
+    std::optional<Effect> effect;
+    std::optional<Motion> motion;
+};
+
+/// Everything that is animated of one attribute of one node: the later an animation began, the higher it lies
+/// (SMIL 3.0 §12.4.2).
+struct AnimatedAttribute
+{
+    NodeIndex target = noNode;
+    /// The attribute as the template names it.
+    QString name;
+    AttributeId id = AttributeId::Unknown;
+    /// Whether it is a property, whose animated value lies over every other declaration.
+    bool isProperty = false;
+    ValueContext context;
+    QVector<Animation> animations;
+    /// What the attribute amounts to without animation.
+    QString base;
+    /// The value that is shown; nothing while no animation applies.
+    std::optional<QString> shown;
+    /// What each animation does at the moment that is shown.
+    std::vector<Timeline::State> states;
+};
+
+/// The value that the states make; nothing when no animation applies.
+std::optional<QString> animatedText(const AnimatedAttribute &attribute);
+/// Looks up what the animations of an attribute do now; false when nothing of it changed since.
+bool refreshStates(AnimatedAttribute *attribute, const Timeline &timeline);
+
+} // namespace Svg
