@@ -32,6 +32,7 @@ class TestSvgdraw : public QObject
 
 private slots:
     void drawsIntoAPictureOfExactlyThatSize();
+    void drawsAMomentOfAnAnimation();
     void printsMessagesWithTheirPlace();
     void refusesWhatIsNoSvg();
     void complainsAboutWrongArguments_data();
@@ -68,6 +69,18 @@ void TestSvgdraw::drawsIntoAPictureOfExactlyThatSize()
     QCOMPARE(image.pixelColor(30, 10), QColor(0, 0, 0, 0));
 }
 
+void TestSvgdraw::drawsAMomentOfAnAnimation()
+{
+    const QString in = written("<svg viewBox='0 0 10 10'><rect width='1' height='10' fill='#0f0'>"
+                               "<animate attributeName='x' from='0' to='10' dur='2s'/></rect></svg>");
+    const QStringList arguments{in, path("out.png"), QStringLiteral("10"), QStringLiteral("10")};
+    QCOMPARE(svgdraw(arguments).code, 0);
+    QCOMPARE(QImage(path("out.png")).pixelColor(0, 5), QColor(0, 255, 0));
+    QCOMPARE(svgdraw(arguments + QStringList{QStringLiteral("1200")}).code, 0);
+    QCOMPARE(QImage(path("out.png")).pixelColor(0, 5), QColor(0, 0, 0, 0));
+    QCOMPARE(QImage(path("out.png")).pixelColor(6, 5), QColor(0, 255, 0));
+}
+
 void TestSvgdraw::printsMessagesWithTheirPlace()
 {
     const QString in = written("<svg viewBox='0 0 10 10'>\n<rect width='10' height='10' fill='no colour'/></svg>");
@@ -95,6 +108,7 @@ void TestSvgdraw::complainsAboutWrongArguments_data()
     QTest::newRow("one") << QStringList{QStringLiteral("10")};
     QTest::newRow("zero") << QStringList{QStringLiteral("10"), QStringLiteral("0")};
     QTest::newRow("no number") << QStringList{QStringLiteral("ten"), QStringLiteral("10")};
+    QTest::newRow("no time") << QStringList{QStringLiteral("10"), QStringLiteral("10"), QStringLiteral("soon")};
     QTest::newRow("too large") << QStringList{QStringLiteral("10"), QStringLiteral("32768")};
 }
 

@@ -102,10 +102,11 @@ void describe(QCommandLineParser *parser)
     parser->addPositionalArgument(QStringLiteral("out.png"), QStringLiteral("The picture to write."));
     parser->addPositionalArgument(QStringLiteral("WIDTH"), QStringLiteral("Width of the picture, pixels."));
     parser->addPositionalArgument(QStringLiteral("HEIGHT"), QStringLiteral("Height of the picture, pixels."));
-    parser->addPositionalArgument(QStringLiteral("TIME_MS"),
-                                  QStringLiteral("Moment of its animation to draw, milliseconds; without it nothing "
-                                                 "is animated."),
-                                  QStringLiteral("[TIME_MS]"));
+    parser->addPositionalArgument(
+        QStringLiteral("TIME_MS"),
+        QStringLiteral("Moment of its animation to draw, milliseconds; without it nothing "
+                       "is animated."),
+        QStringLiteral("[TIME_MS]"));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "animation/presentation.h"
 
-#include "resolve/resolver.h"
+#include "resolve/viewports.h"
 
 #include <algorithm>
 
@@ -53,7 +53,9 @@ void Presentation::write(const AnimatedAttribute &attribute, const Document &bas
         writeStyle(attribute.target, base);
         return;
     }
-    const QString own = base.tree().node(attribute.target).attributes.value(attribute.name);
+    const Attributes &attributes = base.tree().node(attribute.target).attributes;
+    // A null text takes the attribute away.
+    const QString own = attributes.contains(attribute.name) ? attributes.value(attribute.name) : QString();
     m_document.setAttribute(attribute.target, attribute.name, attribute.shown.value_or(own));
 }
 

@@ -106,8 +106,7 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
     nodeChanged(index);
 }
 
-void Document::setAnimatedStyle(NodeIndex index, const QString &declarations,
-                                const StyleOverridePointer &override)
+void Document::setAnimatedStyle(NodeIndex index, const QString &declarations, const StyleOverridePointer &override)
 {
     settle();
     setStyleOverride(index, override);
