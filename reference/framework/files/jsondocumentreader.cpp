@@ -245,6 +245,8 @@ bool JsonDocumentReader::readRecordMember(const QByteArray &key, const QByteArra
     } else if (key == idName) {
         const double id = value.toDouble();
         record.id = id >= 0 && id <= std::numeric_limits<quint32>::max() ? quint32(id) : 0;
+    } else if (key == zoomName) {
+        record.zoom = value.toDouble(1);
     } else if (key == placeName) {
         const QJsonObject place = value.toObject();
         const QPointF pos(place.value(QLatin1String(xName)).toDouble(),

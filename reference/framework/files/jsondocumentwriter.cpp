@@ -2,8 +2,6 @@
 
 #include <framework/cbaseobject.h>
 
-#include <pagehost/objectid.h>
-#include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 
 #include <files/chunks.h>
@@ -43,6 +41,9 @@ void writeHead(JsonWriter &writer, const ObjectRecord &record)
     if (record.id) {
         writer.member(idName, double(record.id));
     }
+    if (record.zoom != 1) {
+        writer.member(zoomName, record.zoom);
+    }
     if (record.place) {
         const QPointF pos = record.place->pos;
         writer.member(placeName,
@@ -70,10 +71,7 @@ bool writeObject(JsonWriter &writer, CBaseObject *object)
         writer.endObject();
         return true;
     }
-    ObjectRecord record;
-    record.kindId = kindIdOf(object);
-    record.id = objectId(object);
-    writeHead(writer, record);
+    writeHead(writer, headOf(object));
     const int start = writer.size();
     QJsonObject data;
     const bool isSaved = object->saveJson(data);

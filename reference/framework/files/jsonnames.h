@@ -17,6 +17,7 @@ constexpr char objectsName[] = "objects";
 
 constexpr char kindName[] = "kind";
 constexpr char idName[] = "id";
+constexpr char zoomName[] = "zoom";
 constexpr char placeName[] = "place";
 constexpr char xName[] = "x";
 constexpr char yName[] = "y";

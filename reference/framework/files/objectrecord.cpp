@@ -1,6 +1,7 @@
 #include <files/objectrecord.h>
 
 #include <framework/cbaseobject.h>
+#include <framework/iframework.h>
 
 #include <pagehost/objectid.h>
 #include <pagehost/objectregistry.h>
@@ -15,6 +16,35 @@
 #include <memory>
 
 namespace pagehost {
+
+/// Gives the current document another zoom while it lives, unnoticed by its views.
+class ZoomScope
+{
+public:
+    explicit ZoomScope(double zoom)
+        : m_document(dynamic_cast<Document *>(GetFramework()->currentDocument()))
+        , m_before(m_document ? m_document->m_zoom : 1)
+    {
+        set(isPlausible(zoom) ? zoom : 1);
+    }
+    ~ZoomScope() { set(m_before); }
+    Q_DISABLE_COPY(ZoomScope)
+
+private:
+    static bool isPlausible(double zoom) { return zoom >= smallestZoom && zoom <= largestZoom; }
+    void set(double zoom)
+    {
+        if (m_document) {
+            m_document->m_zoom = zoom;
+        }
+    }
+
+    static constexpr double smallestZoom = 1e-3;
+    static constexpr double largestZoom = 1e3;
+
+    Document *m_document;
+    double m_before;
+};
 
 namespace {
 
@@ -33,7 +63,31 @@ bool loadFromJson(CBaseObject *object, const ObjectRecord &record)
     return !json.isEmpty() && object->loadJson(json);
 }
 
+/// Objects that fill themselves have read a colour only; this gives them the gradient, pattern or picture that the
+/// page object has read.
+void showWholeFill(CBaseObject *object)
+{
+    CPageBgProp fill = *object->getFillProp();
+    if (!fill.isFillEnable() || fill.fillType() <= CPageBgProp::SolidFill) {
+        return;
+    }
+    // They pass over a fill whose colour is the present one, so that another one comes first.
+    CPageBgProp other = fill;
+    other.setFillColor(QColor(fill.fillColor().rgb() ^ 0xffffff));
+    object->setFillProp(&other, false);
+    object->setFillProp(&fill, false);
+}
+
 } // namespace
+
+ObjectRecord headOf(CBaseObject *object)
+{
+    ObjectRecord record;
+    record.kindId = kindIdOf(object);
+    record.id = objectId(object);
+    record.zoom = CPSRootObjectPrivate::of(*object).followedZoom;
+    return record;
+}
 
 bool saveToStream(CBaseObject *object, QDataStream &out)
 {
@@ -42,6 +96,7 @@ bool saveToStream(CBaseObject *object, QDataStream &out)
 
 CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
 {
+    const ZoomScope zoom(record.zoom);
     std::unique_ptr<CBaseObject> object(m_registry.createObject(record.kindId));
     if (!object || record.encoding > ObjectRecord::Json) {
         return nullptr;
@@ -54,6 +109,7 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
     if (!loaded || host.refusedState) {
         return nullptr;
     }
+    showWholeFill(object.get());
     if (record.place) {
         object->CPSRootObject::setPos(record.place->pos, false);
         object->setLocked(record.place->locked);

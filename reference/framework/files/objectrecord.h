@@ -30,11 +30,16 @@ struct ObjectRecord
 
     QString kindId;
     quint32 id = 0; ///< objectId()
+    double zoom =
+        1; ///< that the object followed: control points are saved by their corner, whose place hangs on it
     Encoding encoding = Stream;
     QByteArray data;
     QJsonObject json; ///< what `data` say, when they have been parsed already
     std::optional<Place> place;
 };
+
+/// What is beside the data of an object that is no placeholder.
+ObjectRecord headOf(CBaseObject *object);
 
 /// The streamed state of an object that is no placeholder; false when it could not be saved.
 bool saveToStream(CBaseObject *object, QDataStream &out);

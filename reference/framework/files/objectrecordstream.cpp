@@ -1,8 +1,5 @@
 #include <files/objectrecordstream.h>
 
-#include <pagehost/objectid.h>
-#include <pagehost/objectregistry.h>
-
 #include <files/chunks.h>
 #include <files/placeholderobject.h>
 
@@ -16,14 +13,16 @@ namespace {
 constexpr quint8 encodingBits = 0x0f;
 constexpr quint8 hasId = 0x10;
 constexpr quint8 hasPlace = 0x20;
-constexpr quint8 knownBits = encodingBits | hasId | hasPlace;
+constexpr quint8 hasZoom = 0x40;
+constexpr quint8 knownBits = encodingBits | hasId | hasPlace | hasZoom;
 
 /// Longer ones are damage.
 constexpr int longestKindId = 1000;
 
 void writeHead(QDataStream &out, const ObjectRecord &record)
 {
-    const quint8 flags = quint8(record.encoding) | (record.id ? hasId : 0) | (record.place ? hasPlace : 0);
+    const quint8 flags = quint8(record.encoding) | (record.id ? hasId : 0) | (record.place ? hasPlace : 0) |
+                         (record.zoom != 1 ? hasZoom : 0);
     const QByteArray kindId = record.kindId.toUtf8();
     out << flags << quint16(kindId.size());
     out.writeRawData(kindId.constData(), kindId.size());
@@ -32,6 +31,9 @@ void writeHead(QDataStream &out, const ObjectRecord &record)
     }
     if (record.place) {
         out << record.place->pos << record.place->locked;
+    }
+    if (record.zoom != 1) {
+        out << record.zoom;
     }
 }
 
@@ -45,10 +47,7 @@ bool writeObject(QDataStream &out, CBaseObject *object)
         out.writeRawData(record.data.constData(), record.data.size());
         return out.status() == QDataStream::Ok;
     }
-    ObjectRecord record;
-    record.kindId = kindIdOf(object);
-    record.id = objectId(object);
-    writeHead(out, record);
+    writeHead(out, headOf(object));
     return saveToStream(object, out);
 }
 
@@ -76,6 +75,9 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
         if (std::isfinite(place.pos.x()) && std::isfinite(place.pos.y())) {
             record.place = place;
         }
+    }
+    if (flags & hasZoom) {
+        in >> record.zoom;
     }
     const int start = int(in.device()->pos());
     record.data = QByteArray::fromRawData(payload.constData() + start, payload.size() - start);

@@ -26,6 +26,7 @@ CPSRootObject::CPSRootObject(IPsPage *page, QGraphicsItem *item)
 {
     d->page = page;
     d->item = item;
+    d->followedZoom = CPSRootObject::getCurZoomRate();
 }
 
 CPSRootObject::~CPSRootObject()
@@ -51,6 +52,10 @@ void CPSRootObject::OnQPainterDraw(QPainter *painter)
 
 void CPSRootObject::beginPaint(QPainter *painter)
 {
+    const double zoom = getCurZoomRate();
+    if (zoom != d->followedZoom) {
+        d->followedZoom = zoom;
+    }
     if (!painter || !painter->isActive()) {
         return;
     }

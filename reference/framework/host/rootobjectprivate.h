@@ -28,6 +28,8 @@ public:
     /// The last load() or loadJson() of the base class found its data bad. Objects may answer for their own data
     /// alone.
     bool refusedState = false;
+    /// Zoom that the object followed last: objects may size parts of theirs in pixels, and save them so.
+    double followedZoom = 1;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
     std::unique_ptr<GripDrag> drag;

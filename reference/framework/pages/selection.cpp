@@ -3,10 +3,8 @@
 #include <framework/cbaseobject.h>
 
 #include <pagehost/commands.h>
-#include <pagehost/objectregistry.h>
+#include <pagehost/documentfile.h>
 #include <pagehost/page.h>
-
-#include <QtCore/QDataStream>
 
 #include <memory>
 
@@ -68,14 +66,9 @@ QRectF boundsOf(const QVector<CBaseObject *> &objects)
 
 CBaseObject *cloneObject(CBaseObject *object, const ObjectRegistry *registry)
 {
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!object->save(out)) {
-        return nullptr;
-    }
-    std::unique_ptr<CBaseObject> copy(registry->createObject(kindIdOf(object)));
-    QDataStream in(bytes);
-    return copy && copy->load(in) ? copy.release() : nullptr;
+    std::unique_ptr<CBaseObject> copy(decodeObjects(encodeObjects({object}), *registry).value(0));
+    const bool isCopy = copy && isPlaceholder(copy.get()) == isPlaceholder(object);
+    return isCopy ? copy.release() : nullptr;
 }
 
 } // namespace pagehost

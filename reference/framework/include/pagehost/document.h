@@ -14,6 +14,7 @@
 namespace pagehost {
 
 class Page;
+class ZoomScope;
 
 /// A recorded lesson as a document keeps it: bytes that only lessons themselves understand.
 struct LessonData
@@ -133,6 +134,7 @@ Q_SIGNALS:
     void zoomRateChanged(double rate);
 
 private:
+    friend class ZoomScope;
     void setCurrent(int index);
     void dropIfUnused(Page *page);
     bool getsSteps() const;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "testobject.h"
+#include <framework/testobject.h>
 
 #include <pagehost/autosave.h>
 #include <pagehost/commands.h>
