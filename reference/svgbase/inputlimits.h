@@ -22,6 +22,11 @@ constexpr int attributes = 256;
 constexpr int namespaceDeclarations = 64;
 /// Most segments of one path; an arc counts as one.
 constexpr int pathSegments = 32767;
+/// Most rules of all style sheets of a document; a selector of a list counts as one.
+constexpr int styleRules = 20000;
+/// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
+constexpr int selectorSteps = 20000000;
+constexpr int leastSelectorSteps = 2000;
 /// Longest chain of "href" between gradients.
 constexpr int gradientReferences = 32;
 /// Deepest nesting of "use" in "use".

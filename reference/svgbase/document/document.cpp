@@ -3,6 +3,8 @@
 #include "document/drawingwalk.h"
 #include "resolve/resolver.h"
 #include "resolve/viewports.h"
+#include "style/cascade.h"
+#include "style/rules.h"
 
 namespace Svg {
 
@@ -93,17 +95,29 @@ void Document::setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke
 
 void Document::setWindow(const QSizeF &size)
 {
+    if (size == m_tree.window())
+        return;
     const QSizeF before = rootViewport(m_tree.node(rootNode), m_tree.window());
     settle();
+    const bool hasTransform =
+        !styledAttribute(m_tree.node(rootNode), facts(rootNode)->style, AttributeId::Transform).isEmpty();
     m_tree.setWindow(size);
-    if (rootViewport(m_tree.node(rootNode), size) == before)
+    if (rootViewport(m_tree.node(rootNode), size) == before && !hasTransform)
         return;
     m_facts[rootNode].reset();
     structureChanged();
 }
 
+void Document::settleRules()
+{
+    m_tree.setRules(StyleRules::compile(m_tree));
+    m_facts.fill(FactsPointer());
+}
+
 void Document::structureChanged()
 {
+    if (m_tree.hasStyleSheets())
+        settleRules();
     ++m_revision;
     ++m_referenceRevision;
     ++m_animationRevision;

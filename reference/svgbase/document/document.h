@@ -60,6 +60,8 @@ private:
     bool isCurrent(NodeIndex index, const FactsPointer &above) const;
     void nodeChanged(NodeIndex index);
     void structureChanged();
+    /// Reads the style sheets again, after which every style is out of date.
+    void settleRules();
     void setEllipseBox(NodeIndex index, AttributeId side, double value);
     void dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value);
 

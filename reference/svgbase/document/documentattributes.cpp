@@ -5,6 +5,7 @@
 #include "grammar/numbers.h"
 #include "grammar/styleattribute.h"
 #include "resolve/geometry.h"
+#include "style/rules.h"
 
 namespace Svg {
 
@@ -96,6 +97,8 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
         ++m_animationRevision;
     }
     const AttributeId id = attributeId(name);
+    if (m_tree.node(index).kind == ElementKind::Style || (m_tree.rules() && m_tree.rules()->dependsOn(name)))
+        structureChanged();
     if (id == AttributeId::Unknown && !isEffectPart(m_tree.node(index).kind))
         return;
     if (id == AttributeId::Id) {
@@ -119,7 +122,8 @@ void Document::nodeChanged(NodeIndex index)
 {
     ++m_revision;
     m_changed = true;
-    if (isPaintServerPart(m_tree.node(index).kind))
+    // Stops inherit from what stands around their gradient.
+    if (isPaintServerPart(m_tree.node(index).kind) || isStructure(m_tree.node(index).kind))
         ++m_referenceRevision;
     // A text is laid out as one, whatever part of it changed.
     NodeIndex at = index;
@@ -143,7 +147,7 @@ void Document::setNumericAttribute(NodeIndex index, const QString &name, double 
 void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
 {
     const FactsPointer before = facts(index);
-    QRectF box = ellipseBox(m_tree.node(index), {before->viewport, before->style.font.size});
+    QRectF box = ellipseBox(m_tree.node(index), before->style, before->viewport);
     adjustBox(box, side, value);
     Node &node = m_tree.edit(index);
     // Kept so that the value reads back as it was written.

@@ -2,6 +2,7 @@
 
 #include "resolve/resolver.h"
 #include "resolve/viewports.h"
+#include "style/rules.h"
 #include "tree/reader.h"
 
 namespace Svg {
@@ -47,7 +48,8 @@ const Prototype::Settled &Prototype::settled() const
     std::call_once(m_once, [this] {
         Messages messages = m_messages;
         m_settled.tree = m_tree;
-        m_settled.facts = resolveAll(m_tree, &messages);
+        m_settled.tree.setRules(StyleRules::compile(m_tree, &messages));
+        m_settled.facts = resolveAll(m_settled.tree, &messages);
         m_settled.messages = messages.list();
         settleStylingFlags(&m_settled);
     });

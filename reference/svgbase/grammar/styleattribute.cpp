@@ -30,7 +30,7 @@ qsizetype declarationEnd(QStringView text, qsizetype from)
 QStringView withoutImportance(QStringView value)
 {
     const qsizetype mark = value.lastIndexOf(QLatin1Char('!'));
-    if (mark < 0 || value.mid(mark + 1).trimmed() != QLatin1String("important"))
+    if (mark < 0 || value.mid(mark + 1).trimmed().compare(QLatin1String("important"), Qt::CaseInsensitive) != 0)
         return value;
     return value.left(mark).trimmed();
 }
@@ -57,8 +57,9 @@ QVector<StyleDeclaration> parseStyleAttribute(QStringView text)
         const QStringView part = withoutLeadingComments(text.mid(from, end - from));
         const qsizetype colon = part.indexOf(QLatin1Char(':'));
         if (colon > 0) {
-            const QStringView value = withoutImportance(part.mid(colon + 1).trimmed());
-            declarations.append({part.left(colon).trimmed(), value});
+            const QStringView whole = part.mid(colon + 1).trimmed();
+            const QStringView value = withoutImportance(whole);
+            declarations.append({part.left(colon).trimmed(), value, value.size() < whole.size()});
         }
         from = end + 1;
     }

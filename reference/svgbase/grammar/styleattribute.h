@@ -10,10 +10,10 @@ struct StyleDeclaration
 {
     QStringView name;
     QStringView value;
+    bool important = false;
 };
 
-/// The declarations of a style attribute in their order. Parts that are no declaration are left out; "!important"
-/// is taken off, since nothing competes with a style attribute.
+/// The declarations of a style attribute in their order. Parts that are no declaration are left out.
 QVector<StyleDeclaration> parseStyleAttribute(QStringView text);
 
 } // namespace Svg

@@ -2,6 +2,7 @@
 
 #include "grammar/pathdata.h"
 #include "grammar/points.h"
+#include "style/cascade.h"
 
 namespace Svg {
 
@@ -68,9 +69,19 @@ QString pathProblem(const PathData &data)
     return QStringLiteral("The path data ends at an error in character %1.").arg(data.errorAt + 1);
 }
 
-Geometry pathGeometry(const Attributes &attributes, QString *problem)
+// Style sheets write path("M 0 0"), or "none".
+QString pathText(const Node &node, const ComputedStyle &style)
 {
-    const PathData data = parsePathData(attributes.value(AttributeId::D));
+    const QString text = styledAttribute(node, style, AttributeId::D);
+    if (!text.startsWith(QLatin1String("path(")))
+        return text;
+    const int begin = text.indexOf(text.at(qMin(5, text.size() - 1)), 5) + 1;
+    return text.mid(begin, text.lastIndexOf(QLatin1Char(')')) - begin - 1);
+}
+
+Geometry pathGeometry(const QString &text, QString *problem)
+{
+    const PathData data = parsePathData(text);
     if (data.errorAt >= 0 && problem)
         *problem = pathProblem(data);
     if (data.path.elementCount() == 0)
@@ -90,10 +101,10 @@ Geometry imageGeometry(const LengthReader &lengths)
 
 double LengthReader::value(AttributeId id, Axis axis, double fallback) const
 {
-    const QString text = m_attributes.value(id);
-    if (text.isEmpty())
+    const QString value = text(id);
+    if (value.isEmpty())
         return fallback;
-    const std::optional<Length> length = parseLength(text);
+    const std::optional<Length> length = parseLength(value);
     return length ? toUserUnits(*length, axis, m_context) : fallback;
 }
 
@@ -104,12 +115,12 @@ double LengthReader::size(AttributeId id, Axis axis, double fallback) const
 
 bool LengthReader::has(AttributeId id) const
 {
-    return parseLength(m_attributes.value(id)).has_value();
+    return parseLength(text(id)).has_value();
 }
 
-QRectF ellipseBox(const Node &node, const LengthContext &context)
+QRectF ellipseBox(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
 {
-    const LengthReader lengths(node.attributes, context);
+    const LengthReader lengths(node, style, viewport);
     const bool circle = node.kind == ElementKind::Circle;
     const double rx =
         circle ? lengths.size(AttributeId::R, Axis::Diagonal) : lengths.size(AttributeId::Rx, Axis::Horizontal);
@@ -119,15 +130,15 @@ QRectF ellipseBox(const Node &node, const LengthContext &context)
     return QRectF(cx - rx, cy - ry, 2 * rx, 2 * ry);
 }
 
-Geometry shapeGeometry(const Node &node, const LengthContext &context, QString *problem)
+Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport, QString *problem)
 {
-    const LengthReader lengths(node.attributes, context);
+    const LengthReader lengths(node, style, viewport);
     switch (node.kind) {
     case ElementKind::Rect:
         return rectGeometry(lengths);
     case ElementKind::Circle:
     case ElementKind::Ellipse:
-        return ellipseGeometry(ellipseBox(node, context));
+        return ellipseGeometry(ellipseBox(node, style, viewport));
     case ElementKind::Line:
         return lineGeometry(lengths);
     case ElementKind::Polyline:
@@ -135,7 +146,7 @@ Geometry shapeGeometry(const Node &node, const LengthContext &context, QString *
     case ElementKind::Polygon:
         return pointsGeometry(node.attributes, true, problem);
     case ElementKind::Path:
-        return pathGeometry(node.attributes, problem);
+        return pathGeometry(pathText(node, style), problem);
     case ElementKind::Image:
         return imageGeometry(lengths);
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grammar/lengths.h"
+#include "style/cascade.h"
 #include "tree/tree.h"
 
 #include <QtGui/QPainterPath>
@@ -16,10 +17,17 @@ struct Geometry
     bool valid = false;
 };
 
-/// Reads the lengths of one element.
+/// Reads the lengths of one element, from its attributes or from what style says in their place.
 class LengthReader
 {
 public:
+    LengthReader(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
+        : m_attributes(node.attributes)
+        , m_styled(style.attributes)
+        , m_context{viewport, style.font.size}
+    {
+    }
+    /// For elements whose lengths style can't give.
     LengthReader(const Attributes &attributes, const LengthContext &context)
         : m_attributes(attributes)
         , m_context(context)
@@ -33,13 +41,17 @@ public:
     bool has(AttributeId id) const;
 
 private:
+    QString text(AttributeId id) const { return styledAttribute(m_attributes, m_styled, id); }
+
     const Attributes &m_attributes;
+    QVector<Attribute> m_styled;
     LengthContext m_context;
 };
 
 /// The geometry of every kind but text. What could not be read is described in `problem`, when given.
-Geometry shapeGeometry(const Node &node, const LengthContext &context, QString *problem = nullptr);
+Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport,
+                       QString *problem = nullptr);
 /// The bounding box of a circle or an ellipse, user units.
-QRectF ellipseBox(const Node &node, const LengthContext &context);
+QRectF ellipseBox(const Node &node, const ComputedStyle &style, const QSizeF &viewport);
 
 } // namespace Svg

@@ -84,13 +84,12 @@ QGradientStops GradientChain::stops(double opacity) const
     const NodeIndex holder = nodeWithStops();
     if (holder == noNode)
         return stops;
-    const ComputedStyle initial;
-    const ComputedStyle around = cascade(m_tree.node(holder).attributes, {initial, QSizeF()});
+    const ComputedStyle around = styleInTree(m_tree, holder);
     for (NodeIndex child = m_tree.node(holder).firstChild; child != noNode; child = m_tree.node(child).next) {
         const Node &stop = m_tree.node(child);
         if (stop.kind != ElementKind::Stop)
             continue;
-        const ComputedStyle style = cascade(stop.attributes, {around, QSizeF()});
+        const ComputedStyle style = cascade(m_tree, child, {around, QSizeF()});
         QColor color = style.stopColor;
         color.setAlphaF(color.alphaF() * style.stopOpacity * opacity);
         const double offset = parseOpacity(stop.attributes.value(AttributeId::Offset)).value_or(0);

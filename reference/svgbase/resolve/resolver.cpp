@@ -1,5 +1,6 @@
 #include "resolve/resolver.h"
 
+#include "grammar/csstransforms.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
 #include "resolve/contextpaint.h"
@@ -13,6 +14,15 @@
 namespace Svg {
 
 namespace {
+
+// Without one, everything but the root, which is a box of a page, turns about the origin (SVG 2 §8.10, §6.8).
+QPointF transformOrigin(const Node &node, const ComputedStyle &style, const LengthContext &context)
+{
+    const QPointF middle(context.viewport.width() / 2, context.viewport.height() / 2);
+    const QPointF usual = node.kind == ElementKind::Document ? middle : QPointF();
+    const QString text = styledAttribute(node, style, AttributeId::TransformOrigin);
+    return text.isEmpty() ? usual : parseTransformOrigin(text, context).value_or(usual);
+}
 
 bool isBounded(double entry)
 {
@@ -42,38 +52,55 @@ void Resolver::warn(const Node &node, const QString &text) const
         m_messages->warn(text, node.line, node.column, node.attributes.value(AttributeId::Id));
 }
 
-void Resolver::resolveStyle(const Node &node, Facts *facts) const
+void Resolver::resolveStyle(NodeIndex index, Facts *facts) const
 {
+    const Node &node = m_tree.node(index);
     static const ComputedStyle initial;
     const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
     QStringList rejected;
-    facts->style = cascade(node.attributes, {parentStyle, facts->viewport}, m_messages ? &rejected : nullptr);
+    facts->style = cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &rejected : nullptr);
     facts->displayed = facts->style.displayed && (!facts->parent || facts->parent->displayed);
     for (const QString &value : qAsConst(rejected))
         warn(node, QStringLiteral("A property does not take the value \"%1\".").arg(value));
 }
 
+QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
+{
+    const ComputedStyle &style = facts.style;
+    const QString text = styledAttribute(node, style, AttributeId::Transform);
+    if (text.isEmpty())
+        return QTransform();
+    const bool isRoot = node.kind == ElementKind::Document;
+    const LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
+    std::optional<QTransform> transform = parseTransform(text);
+    if (!transform)
+        transform = parseCssTransform(text, context);
+    if (!transform) {
+        warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
+        return QTransform();
+    }
+    const QPointF origin = transformOrigin(node, style, context);
+    return QTransform::fromTranslate(-origin.x(), -origin.y()) * *transform *
+           QTransform::fromTranslate(origin.x(), origin.y());
+}
+
 void Resolver::resolvePlace(const Node &node, Facts *facts) const
 {
-    const LengthContext context{facts->viewport, facts->style.font.size};
+    const QTransform outer = ownTransform(node, *facts);
     QTransform local;
     if (node.kind == ElementKind::Use) {
-        const LengthReader lengths(node.attributes, context);
+        const LengthReader lengths(node, facts->style, facts->viewport);
         local = QTransform::fromTranslate(lengths.value(AttributeId::X, Axis::Horizontal),
                                           lengths.value(AttributeId::Y, Axis::Vertical));
     } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
-        const Fit fit = nestedFit(node, context);
+        const Fit fit = nestedFit(node, facts->style, facts->viewport);
         local = fit.transform;
         facts->viewport = fit.viewport;
     }
-    const QString text = node.attributes.value(AttributeId::Transform);
-    if (!text.isEmpty() && node.kind != ElementKind::Document) {
-        const std::optional<QTransform> transform = parseTransform(text);
-        if (transform)
-            local *= *transform;
-        else
-            warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
-    }
+    if (node.kind == ElementKind::Document)
+        local = rootTransform(node, outer, m_tree.window());
+    else
+        local *= outer;
     facts->toDocument = bounded(facts->parent ? local * facts->parent->toDocument : local);
 }
 
@@ -114,7 +141,7 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
     QString problem;
-    const Geometry geometry = shapeGeometry(node, {facts->viewport, facts->style.font.size}, &problem);
+    const Geometry geometry = shapeGeometry(node, facts->style, facts->viewport, &problem);
     if (!problem.isEmpty())
         warn(node, problem);
     facts->hasGeometry = geometry.valid;
@@ -146,7 +173,7 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
     const FactsPointer result(facts);
     facts->parent = parent;
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
-    resolveStyle(node, facts);
+    resolveStyle(index, facts);
     resolvePlace(node, facts);
     if (parent)
         facts->context = parent->context;

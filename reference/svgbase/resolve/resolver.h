@@ -23,7 +23,8 @@ public:
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent) const;
 
 private:
-    void resolveStyle(const Node &node, Facts *facts) const;
+    void resolveStyle(NodeIndex index, Facts *facts) const;
+    QTransform ownTransform(const Node &node, const Facts &facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
     void resolveShape(NodeIndex index, Facts *facts) const;
     void resolveText(NodeIndex index, Facts *facts) const;

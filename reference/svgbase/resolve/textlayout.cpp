@@ -32,7 +32,7 @@ public:
 
 private:
     void open(NodeIndex node, const ComputedStyle &style);
-    void place(const Attributes &attributes, const ComputedStyle &style);
+    void place(const Node &node, const ComputedStyle &style);
     void set(const QString &characters, const TextLevel &level);
     void finishChunk();
     QString collapsed(const QString &characters, bool preservesSpace);
@@ -84,9 +84,9 @@ void TextLayout::finishChunk()
     m_chunkBegin = m_runs.size();
 }
 
-void TextLayout::place(const Attributes &attributes, const ComputedStyle &style)
+void TextLayout::place(const Node &node, const ComputedStyle &style)
 {
-    const LengthReader lengths(attributes, {m_viewport, style.font.size});
+    const LengthReader lengths(node, style, m_viewport);
     const bool hasX = lengths.has(AttributeId::X);
     const bool hasY = lengths.has(AttributeId::Y);
     if (hasX || hasY) {
@@ -106,7 +106,7 @@ void TextLayout::open(NodeIndex node, const ComputedStyle &style)
     const QString space = attributes.value(AttributeId::XmlSpace);
     const bool above = !m_levels.isEmpty() && m_levels.constLast().preservesSpace;
     m_levels.append({node, style, space.isEmpty() ? above : space == QLatin1String("preserve")});
-    place(attributes, style);
+    place(m_tree.node(node), style);
 }
 
 void TextLayout::set(const QString &characters, const TextLevel &level)
@@ -139,7 +139,7 @@ QVector<TextRun> TextLayout::run(NodeIndex text, const ComputedStyle &style)
         if (node.kind == ElementKind::Characters)
             set(node.text, level);
         else if (node.kind == ElementKind::Tspan)
-            open(at, cascade(node.attributes, {level.style, m_viewport}));
+            open(at, cascade(m_tree, at, {level.style, m_viewport}));
     }
     finishChunk();
     return m_runs;

@@ -2,21 +2,25 @@
 
 #include "grammar/viewboxes.h"
 #include "resolve/geometry.h"
-#include "style/computedstyle.h"
 
 namespace Svg {
 
-namespace {
-
-/// The root's own size; percentages are of the window.
 QSizeF rootSize(const Node &root, const QSizeF &window)
 {
-    const LengthReader lengths(root.attributes, {window, ComputedStyle().font.size});
+    static const ComputedStyle initial;
+    const LengthReader lengths(root, initial, window);
     return QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, window.width()),
                   lengths.size(AttributeId::Height, Axis::Vertical, window.height()));
 }
 
-} // namespace
+QTransform rootTransform(const Node &root, const QTransform &own, const QSizeF &window)
+{
+    const QRectF box = rootViewBox(root);
+    const AspectRatio ratio = parseAspectRatio(root.attributes.value(AttributeId::PreserveAspectRatio));
+    const std::optional<QTransform> fitted =
+        viewBoxTransform(box, QRectF(QPointF(), rootSize(root, window)), ratio);
+    return fitted && !own.isIdentity() ? *fitted * own * fitted->inverted() : own;
+}
 
 QRectF rootViewBox(const Node &root)
 {
@@ -38,13 +42,13 @@ QRectF shownArea(const Node &root, const QSizeF &window)
     return box.value_or(QRectF(QPointF(), size));
 }
 
-Fit nestedFit(const Node &node, const LengthContext &context)
+Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
 {
-    const LengthReader lengths(node.attributes, context);
+    const LengthReader lengths(node, style, viewport);
     const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
                        lengths.value(AttributeId::Y, Axis::Vertical),
-                       lengths.size(AttributeId::Width, Axis::Horizontal, context.viewport.width()),
-                       lengths.size(AttributeId::Height, Axis::Vertical, context.viewport.height()));
+                       lengths.size(AttributeId::Width, Axis::Horizontal, viewport.width()),
+                       lengths.size(AttributeId::Height, Axis::Vertical, viewport.height()));
     const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
     const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
     const std::optional<QTransform> fitted = viewBoxTransform(box.value_or(QRectF()), place, ratio);

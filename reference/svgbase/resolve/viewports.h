@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/lengths.h"
+#include "style/computedstyle.h"
 #include "tree/tree.h"
 
 #include <QtCore/QRectF>
@@ -12,6 +12,10 @@ namespace Svg {
 QRectF rootViewBox(const Node &root);
 /// What percentages refer to directly below the root, user units.
 QSizeF rootViewport(const Node &root, const QSizeF &window);
+/// The size that the root gives itself; percentages are of the window.
+QSizeF rootSize(const Node &root, const QSizeF &window);
+/// The root's own transform, which moves what its view box was fitted into, as one of document units (SVG 2 §8.10).
+QTransform rootTransform(const Node &root, const QTransform &own, const QSizeF &window);
 /// What a window of that size shows of a document: its view box, else the area that its "width" and "height" give.
 /// Empty when nothing is to be shown.
 QRectF shownArea(const Node &root, const QSizeF &window);
@@ -23,6 +27,6 @@ struct Fit
     QSizeF viewport;
 };
 
-Fit nestedFit(const Node &node, const LengthContext &context);
+Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport);
 
 } // namespace Svg

@@ -1,16 +1,21 @@
 #include "style/cascade.h"
 
+#include "grammar/csstext.h"
 #include "grammar/styleattribute.h"
+#include "style/rules.h"
+#include "style/shorthands.h"
 
 namespace Svg {
 
 namespace {
 
-/// A property of one element, whether an attribute or the style attribute says it.
+/// A property of one element, wherever it is said.
 struct Declaration
 {
     AttributeId property;
     QStringView value;
+    /// Said by the element itself rather than by a rule, whose errors are known already.
+    bool own = true;
 };
 
 // These have no presentation attribute (SVG 2 §6.6).
@@ -20,36 +25,92 @@ bool isForStyleOnly(AttributeId property)
            property == AttributeId::Isolation;
 }
 
-using Declarations = QVarLengthArray<Declaration, 16>;
-
-void appendStyleAttribute(QStringView text, Declarations *declarations)
+/// Declarations in rising order of rank.
+class DeclarationList
 {
-    const QVector<StyleDeclaration> list = parseStyleAttribute(text);
-    for (const StyleDeclaration &declaration : list) {
-        const AttributeId id = attributeId(declaration.name);
-        if (isProperty(id))
-            declarations->append({id, declaration.value});
+public:
+    explicit DeclarationList(const Tree &tree)
+        : m_tree(tree)
+    {
+    }
+
+    void collect(NodeIndex element);
+    const QVarLengthArray<Declaration, 16> &list() const { return m_list; }
+
+private:
+    void addMatches(bool important);
+    void addStyle(const QString &text, bool important);
+    void addShorthand(const StyleDeclaration &declaration);
+
+    const Tree &m_tree;
+    QVarLengthArray<Declaration, 16> m_list;
+    QVector<const QVector<RuleDeclaration> *> m_matches;
+    /// Texts that the list's views look at.
+    QVector<QString> m_texts;
+};
+
+void DeclarationList::addMatches(bool important)
+{
+    for (const QVector<RuleDeclaration> *block : qAsConst(m_matches)) {
+        for (const RuleDeclaration &declaration : *block) {
+            if (declaration.important == important)
+                m_list.append({declaration.property, declaration.value, false});
+        }
     }
 }
 
-Declarations declarationsOf(const Attributes &attributes)
+void DeclarationList::addShorthand(const StyleDeclaration &declaration)
 {
-    Declarations declarations;
+    QVector<RuleDeclaration> expanded;
+    appendLonghands(declaration.name.toString().toLower(), declaration.value.toString(), false, &expanded);
+    for (const RuleDeclaration &longhand : qAsConst(expanded)) {
+        m_texts.append(longhand.value);
+        m_list.append({longhand.property, m_texts.constLast()});
+    }
+}
+
+void DeclarationList::addStyle(const QString &text, bool important)
+{
+    QStringView view(text);
+    if (text.contains(QLatin1String("/*"))) {
+        m_texts.append(withoutComments(text));
+        view = m_texts.constLast();
+    }
+    const QVector<StyleDeclaration> declarations = parseStyleAttribute(view);
+    for (const StyleDeclaration &declaration : declarations) {
+        if (declaration.important != important)
+            continue;
+        const AttributeId id = attributeId(declaration.name);
+        if (isProperty(id) || isStyledAttribute(id))
+            m_list.append({id, declaration.value});
+        else
+            addShorthand(declaration);
+    }
+}
+
+void DeclarationList::collect(NodeIndex element)
+{
+    const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes) {
         if (isProperty(attribute.id) && !isForStyleOnly(attribute.id))
-            declarations.append({attribute.id, attribute.value});
+            m_list.append({attribute.id, attribute.value});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;
         else if (attribute.id == AttributeId::AnimatedStyle)
             animated = &attribute;
     }
+    if (m_tree.rules())
+        m_tree.rules()->match(m_tree, element, &m_matches);
+    addMatches(false);
     if (style)
-        appendStyleAttribute(style->value, &declarations);
+        addStyle(style->value, false);
+    addMatches(true);
+    if (style && style->value.contains(QLatin1Char('!')))
+        addStyle(style->value, true);
     if (animated)
-        appendStyleAttribute(animated->value, &declarations);
-    return declarations;
+        addStyle(animated->value, false);
 }
 
 // "em" and "currentColor" in other properties need these.
@@ -58,21 +119,58 @@ bool comesFirst(AttributeId property)
     return property == AttributeId::Color || property == AttributeId::FontSize;
 }
 
+void addStyledAttribute(ComputedStyle *style, const Declaration &declaration)
+{
+    for (Attribute &known : style->attributes) {
+        if (known.id == declaration.property) {
+            known.value = declaration.value.toString();
+            return;
+        }
+    }
+    style->attributes.append({declaration.property, QString(), declaration.value.toString()});
+}
+
 } // namespace
 
-ComputedStyle cascade(const Attributes &attributes, const PropertyContext &context, QStringList *rejected)
+ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, QStringList *rejected)
 {
     ComputedStyle style = inheritedStyle(context.parent);
-    const Declarations declarations = declarationsOf(attributes);
+    DeclarationList declarations(tree);
+    declarations.collect(element);
     for (const bool first : {true, false}) {
-        for (const Declaration &declaration : declarations) {
+        for (const Declaration &declaration : declarations.list()) {
             if (comesFirst(declaration.property) != first)
                 continue;
-            if (!applyProperty(style, declaration.property, declaration.value, context) && rejected)
+            if (isStyledAttribute(declaration.property))
+                addStyledAttribute(&style, declaration);
+            else if (!applyProperty(style, declaration.property, declaration.value, context) && rejected &&
+                     declaration.own)
                 rejected->append(declaration.value.toString());
         }
     }
     return style;
+}
+
+ComputedStyle styleInTree(const Tree &tree, NodeIndex element)
+{
+    QVarLengthArray<NodeIndex, 16> chain;
+    for (NodeIndex at = element; at != noNode; at = tree.node(at).parent)
+        chain.append(at);
+    ComputedStyle style;
+    for (int i = chain.size() - 1; i >= 0; --i) {
+        const ComputedStyle parent = style;
+        style = cascade(tree, chain[i], {parent, QSizeF()});
+    }
+    return style;
+}
+
+QString styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled, AttributeId id)
+{
+    for (const Attribute &given : styled) {
+        if (given.id == id)
+            return given.value;
+    }
+    return attributes.value(id);
 }
 
 } // namespace Svg

@@ -2,6 +2,7 @@
 
 #include "grammar/paints.h"
 #include "style/effectstyle.h"
+#include "tree/attributes.h"
 
 #include <QtCore/QVector>
 #include <QtGui/QColor>
@@ -51,6 +52,8 @@ struct ComputedStyle
     // Not inherited.
     double opacity = 1;
     bool displayed = true;
+    /// Geometry and transforms that style gives in place of the attributes of those names.
+    QVector<Attribute> attributes;
     QColor stopColor = Qt::black;
     double stopOpacity = 1;
     /// Null for an element without clip path, mask, filter, blending and the like.

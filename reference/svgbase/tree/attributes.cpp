@@ -13,6 +13,7 @@ struct AttributeName
 const AttributeName attributeNames[] = {
     {QLatin1String("clip-path"), AttributeId::ClipPath},
     {QLatin1String("clip-rule"), AttributeId::ClipRule},
+    {QLatin1String("class"), AttributeId::Class},
     {QLatin1String("color"), AttributeId::Color},
     {QLatin1String("color-interpolation"), AttributeId::ColorInterpolation},
     {QLatin1String("color-interpolation-filters"), AttributeId::ColorInterpolationFilters},
@@ -70,6 +71,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("style"), AttributeId::Style},
     {QLatin1String("text-anchor"), AttributeId::TextAnchor},
     {QLatin1String("transform"), AttributeId::Transform},
+    {QLatin1String("transform-origin"), AttributeId::TransformOrigin},
     {QLatin1String("viewBox"), AttributeId::ViewBox},
     {QLatin1String("visibility"), AttributeId::Visibility},
     {QLatin1String("width"), AttributeId::Width},

@@ -52,6 +52,7 @@ enum class AttributeId : quint8 {
     // Attributes of elements.
     /// Declarations that animation lays over the style of an element; no attribute of a text.
     AnimatedStyle,
+    Class,
     Cx,
     Cy,
     D,
@@ -73,6 +74,7 @@ enum class AttributeId : quint8 {
     SpreadMethod,
     Style,
     Transform,
+    TransformOrigin,
     ViewBox,
     Width,
     X,

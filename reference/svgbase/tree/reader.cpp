@@ -12,6 +12,7 @@ namespace {
 
 const QLatin1String svgNamespace("http://www.w3.org/2000/svg");
 const QLatin1String xlinkNamespace("http://www.w3.org/1999/xlink");
+const QLatin1String cdataStart("<![CDATA[");
 const QLatin1String xmlNamespace("http://www.w3.org/XML/1998/namespace");
 
 class TreeReader
@@ -143,7 +144,10 @@ void TreeReader::characters()
     const NodeIndex holder = m_open.constLast();
     const ElementKind kind = m_tree->node(holder).kind;
     if (kind == ElementKind::Description || kind == ElementKind::Style) {
-        m_tree->edit(holder).text += m_xml.text();
+        Node &node = m_tree->edit(holder);
+        if (kind == ElementKind::Style && node.text.isEmpty() && m_xml.isCDATA())
+            node.column += cdataStart.size();
+        node.text += m_xml.text();
     } else if (kind == ElementKind::Text || kind == ElementKind::Tspan) {
         Node node;
         node.kind = ElementKind::Characters;

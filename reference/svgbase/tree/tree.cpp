@@ -15,6 +15,7 @@ QString localName(const Node &node)
 
 NodeIndex Tree::place(const NodePointer &node)
 {
+    m_hasStyleSheets = m_hasStyleSheets || node->kind == ElementKind::Style;
     if (m_free.isEmpty()) {
         m_nodes.append(node);
         return m_nodes.size() - 1;

@@ -7,7 +7,12 @@
 #include <QtCore/QSharedData>
 #include <QtCore/QSizeF>
 
+#include <memory>
+
 namespace Svg {
+
+class StyleRules;
+using StyleRulesPointer = std::shared_ptr<const StyleRules>;
 
 /// The place of a node in its tree; it stays the same for as long as the tree lives.
 using NodeIndex = int;
@@ -28,6 +33,7 @@ struct Node : QSharedData
     NodeIndex lastChild = noNode;
     NodeIndex previous = noNode;
     NodeIndex next = noNode;
+    /// Where its start tag ends in the text; for `Style` nodes, where the style sheet begins.
     int line = 0;
     int column = 0;
     Attributes attributes;
@@ -63,6 +69,12 @@ public:
     const QSizeF &window() const { return m_window; }
     void setWindow(const QSizeF &size) { m_window = size; }
 
+    /// Whether any node, linked or not, is a style sheet.
+    bool hasStyleSheets() const { return m_hasStyleSheets; }
+    /// The rules of the style sheets; null where there are none.
+    const StyleRulesPointer &rules() const { return m_rules; }
+    void setRules(const StyleRulesPointer &rules) { m_rules = rules; }
+
     /// The first node in document order with that id; `noNode` when there is none.
     NodeIndex findId(const QString &id) const;
     /// Makes the index of ids now, so that lookups write nothing until the tree changes.
@@ -84,6 +96,8 @@ private:
 
     QVector<NodePointer> m_nodes;
     QSizeF m_window{100, 100};
+    StyleRulesPointer m_rules;
+    bool m_hasStyleSheets = false;
     QVector<NodeIndex> m_free;
     mutable QHash<QString, NodeIndex> m_ids;
     mutable bool m_idsKnown = false;

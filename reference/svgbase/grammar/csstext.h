@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace Svg {
+
+/// A reading position in text of style sheets (CSS Syntax 3 §4).
+struct CssCursor
+{
+    const QChar *at;
+    const QChar *end;
+
+    explicit CssCursor(QStringView text)
+        : at(text.begin())
+        , end(text.end())
+    {
+    }
+
+    bool atEnd() const { return at == end; }
+    /// The next character; a null character at the end.
+    QChar peek() const { return at == end ? QChar() : *at; }
+    bool take(char expected);
+    /// White space and comments; true when there were any.
+    bool skipSpace();
+    /// An identifier with its escapes resolved; empty, with the cursor where it was, when there is none.
+    QString takeIdentifier();
+    /// Letters, digits, "-", "_" and escapes, whatever they begin with, as after "#".
+    QString takeName();
+    /// A string in quotes; false, with the cursor where it was, when there is none that ends.
+    bool takeString(QString *value);
+    /// Goes to the first of `stops` that stands outside of strings, comments and brackets, or to the end.
+    void skipTo(const char *stops);
+};
+
+/// The text without its comments.
+QString withoutComments(QStringView text);
+
+} // namespace Svg

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "grammar/lengths.h"
+
+#include <QtGui/QTransform>
+
+namespace Svg {
+
+/// A "transform" as style sheets write it (CSS Transforms 1 §12): functions with units, separated by white space;
+/// "none" is the identity. Percentages and relative units count by `context`. Nothing when the text breaks the
+/// grammar or the result is not finite.
+std::optional<QTransform> parseCssTransform(QStringView text, const LengthContext &context);
+
+/// A "transform-origin": one to three keywords, lengths or percentages (the third, a depth, has no effect in a
+/// plane). Nothing when the text breaks the grammar.
+std::optional<QPointF> parseTransformOrigin(QStringView text, const LengthContext &context);
+
+} // namespace Svg

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVector>
+
+#include <optional>
+
+namespace Svg {
+
+/// [name], [name=value] and their kin (Selectors 3 §6.3).
+struct AttributeTest
+{
+    enum Relation { Exists, Equals, Includes, StartsWithWord, Starts, Ends, Contains };
+    QString name;
+    QString value;
+    Relation relation = Exists;
+};
+
+struct Selector;
+
+/// A pseudo-class (Selectors 3 §6.6); those about what a user does never match a picture.
+struct PseudoClass
+{
+    enum Kind {
+        Never,
+        Root,
+        Empty,
+        Link,
+        NthChild,
+        NthLastChild,
+        NthOfType,
+        NthLastOfType,
+        OnlyChild,
+        OnlyOfType,
+        Not
+    };
+    Kind kind = Never;
+    /// Of the "a n + b" of the counting kinds.
+    int step = 0;
+    int offset = 1;
+    /// Of `Not`, one of which must match for the whole to fail.
+    QVector<Selector> selectors;
+};
+
+/// Tests of one element: all of them must hold.
+struct Compound
+{
+    /// Empty for any element.
+    QString tag;
+    QStringList ids;
+    QStringList classes;
+    QVector<AttributeTest> attributes;
+    QVector<PseudoClass> pseudoClasses;
+};
+
+enum class Combinator : quint8 { Descendant, Child, NextSibling, LaterSibling };
+
+/// A compound with those before it, right to left: `combinators[i]` stands between `compounds[i + 1]` and
+/// `compounds[i]`.
+struct Selector
+{
+    QVector<Compound> compounds;
+    QVector<Combinator> combinators;
+    /// Ids, then classes and the like, then tags, a byte each.
+    int specificity = 0;
+};
+
+/// The selectors of a rule, comments taken out. Nothing when one of them is not understood: the rule is dropped
+/// then.
+std::optional<QVector<Selector>> parseSelectors(QStringView text);
+
+} // namespace Svg

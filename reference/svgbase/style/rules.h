@@ -1,0 +1,61 @@
+#pragma once
+
+#include "grammar/stylesheets.h"
+#include "tree/message.h"
+#include "tree/tree.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+
+namespace Svg {
+
+/// A declaration of a rule, its property known.
+struct RuleDeclaration
+{
+    AttributeId property;
+    QString value;
+    bool important = false;
+};
+
+/// The rules of all style sheets of a document, indexed so that an element meets only rules that may concern it.
+class StyleRules
+{
+public:
+    /// The rules of a tree's "style" elements, in their order. Null when there are none. `messages`, when given,
+    /// gets what could not be read.
+    static StyleRulesPointer compile(const Tree &tree, Messages *messages = nullptr);
+
+    /// What the rules give an element, in rising order of specificity; false when not all of it was looked at,
+    /// since that would have taken too long.
+    bool match(const Tree &tree, NodeIndex element, QVector<const QVector<RuleDeclaration> *> *matches) const;
+    /// Whether the value of an attribute may decide which rules match.
+    bool dependsOn(const QString &attribute) const;
+
+private:
+    struct Entry
+    {
+        Selector selector;
+        /// Counts rules of the whole document.
+        int order = 0;
+        int block = 0;
+    };
+
+    void add(const StyleRule &rule, QVector<StyleProblem> *problems);
+    void addEntry(const Selector &selector);
+    void noteAttributes(const Selector &selector);
+    int append(const Entry &entry);
+
+    QVector<Entry> m_entries;
+    QVector<QVector<RuleDeclaration>> m_blocks;
+    /// Places of entries by what their last compound asks for: its id, else a class, else its tag, else nothing.
+    QHash<QString, QVector<int>> m_byId;
+    QHash<QString, QVector<int>> m_byClass;
+    QHash<QString, QVector<int>> m_byTag;
+    QVector<int> m_universal;
+    QSet<QString> m_attributes;
+};
+
+/// Appends a declaration, a shorthand as the properties that it stands for. What is no property here is left out.
+void appendLonghands(const QString &name, const QString &value, bool important, QVector<RuleDeclaration> *list);
+
+} // namespace Svg

@@ -1,0 +1,195 @@
+#include "style/selectormatching.h"
+
+namespace Svg {
+
+namespace {
+
+bool isElement(const Node &node)
+{
+    return node.kind != ElementKind::Characters;
+}
+
+bool isSpaceCharacter(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r') ||
+           c == QLatin1Char('\f');
+}
+
+bool startsWithWord(const QString &value, const QString &word)
+{
+    return value == word || value.startsWith(word + QLatin1Char('-'));
+}
+
+bool matchesAttribute(const Node &node, const AttributeTest &test)
+{
+    const QString value = node.attributes.value(test.name);
+    switch (test.relation) {
+    case AttributeTest::Exists:
+        return node.attributes.contains(test.name);
+    case AttributeTest::Equals:
+        return node.attributes.contains(test.name) && value == test.value;
+    case AttributeTest::Includes:
+        return containsWord(value, test.value);
+    case AttributeTest::StartsWithWord:
+        return node.attributes.contains(test.name) && startsWithWord(value, test.value);
+    case AttributeTest::Starts:
+        return !test.value.isEmpty() && value.startsWith(test.value);
+    case AttributeTest::Ends:
+        return !test.value.isEmpty() && value.endsWith(test.value);
+    case AttributeTest::Contains:
+        return !test.value.isEmpty() && value.contains(test.value);
+    }
+    return false;
+}
+
+bool isLink(const Node &node)
+{
+    return localName(node) == QLatin1String("a") &&
+           (node.attributes.contains(AttributeId::Href) || node.attributes.contains(AttributeId::XlinkHref));
+}
+
+// Whether "a n + b" gives the position for some n of 0 or more.
+bool isCounted(int position, const PseudoClass &pseudo)
+{
+    const int rest = position - pseudo.offset;
+    return pseudo.step == 0 ? rest == 0 : rest % pseudo.step == 0 && rest / pseudo.step >= 0;
+}
+
+} // namespace
+
+bool containsWord(QStringView list, QStringView word)
+{
+    if (word.isEmpty())
+        return false;
+    qsizetype from = 0;
+    while ((from = list.indexOf(word, from)) >= 0) {
+        const qsizetype end = from + word.size();
+        const bool startsThere = from == 0 || isSpaceCharacter(list[from - 1]);
+        if (startsThere && (end == list.size() || isSpaceCharacter(list[end])))
+            return true;
+        from = end;
+    }
+    return false;
+}
+
+bool SelectorMatcher::hasSibling(NodeIndex element, bool after, bool ofType)
+{
+    const QString name = ofType ? localName(m_tree.node(element)) : QString();
+    NodeIndex at = after ? m_tree.node(element).next : m_tree.node(element).previous;
+    while (at != noNode && takeStep()) {
+        const Node &node = m_tree.node(at);
+        if (isElement(node) && (!ofType || localName(node) == name))
+            return true;
+        at = after ? node.next : node.previous;
+    }
+    return false;
+}
+
+bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo, bool fromEnd, bool ofType)
+{
+    if (pseudo.step == 0 && pseudo.offset == 1)
+        return !hasSibling(element, fromEnd, ofType);
+    const QString name = ofType ? localName(m_tree.node(element)) : QString();
+    int position = 1;
+    NodeIndex at = fromEnd ? m_tree.node(element).next : m_tree.node(element).previous;
+    while (at != noNode && takeStep()) {
+        const Node &node = m_tree.node(at);
+        if (isElement(node) && (!ofType || localName(node) == name))
+            ++position;
+        at = fromEnd ? node.next : node.previous;
+    }
+    return isCounted(position, pseudo);
+}
+
+bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &pseudo)
+{
+    switch (pseudo.kind) {
+    case PseudoClass::Never:
+        return false;
+    case PseudoClass::Root:
+        return element == rootNode;
+    case PseudoClass::Empty:
+        return m_tree.node(element).firstChild == noNode && m_tree.node(element).text.isEmpty();
+    case PseudoClass::Link:
+        return isLink(m_tree.node(element));
+    case PseudoClass::NthChild:
+        return matchesCount(element, pseudo, false, false);
+    case PseudoClass::NthLastChild:
+        return matchesCount(element, pseudo, true, false);
+    case PseudoClass::NthOfType:
+        return matchesCount(element, pseudo, false, true);
+    case PseudoClass::NthLastOfType:
+        return matchesCount(element, pseudo, true, true);
+    case PseudoClass::OnlyChild:
+        return !hasSibling(element, false, false) && !hasSibling(element, true, false);
+    case PseudoClass::OnlyOfType:
+        return !hasSibling(element, false, true) && !hasSibling(element, true, true);
+    case PseudoClass::Not:
+        return std::none_of(pseudo.selectors.begin(), pseudo.selectors.end(),
+                            [&](const Selector &selector) { return matches(element, selector); });
+    }
+    return false;
+}
+
+bool SelectorMatcher::matchesCompound(NodeIndex element, const Compound &compound)
+{
+    const Node &node = m_tree.node(element);
+    if (!takeStep() || !isElement(node))
+        return false;
+    if (!compound.tag.isEmpty() && localName(node) != compound.tag)
+        return false;
+    const QString id = compound.ids.isEmpty() ? QString() : node.attributes.value(AttributeId::Id);
+    for (const QString &wanted : compound.ids) {
+        if (id != wanted)
+            return false;
+    }
+    const QString classes = compound.classes.isEmpty() ? QString() : node.attributes.value(AttributeId::Class);
+    for (const QString &wanted : compound.classes) {
+        if (!containsWord(classes, wanted))
+            return false;
+    }
+    for (const AttributeTest &test : compound.attributes) {
+        if (!matchesAttribute(node, test))
+            return false;
+    }
+    for (const PseudoClass &pseudo : compound.pseudoClasses) {
+        if (!matchesPseudoClass(element, pseudo))
+            return false;
+    }
+    return true;
+}
+
+NodeIndex SelectorMatcher::step(NodeIndex element, Combinator combinator)
+{
+    if (combinator == Combinator::Descendant || combinator == Combinator::Child)
+        return m_tree.node(element).parent;
+    NodeIndex at = m_tree.node(element).previous;
+    while (at != noNode && !isElement(m_tree.node(at)) && takeStep())
+        at = m_tree.node(at).previous;
+    return at;
+}
+
+// Right to left; "descendant" and "later sibling" try every place, which the budget of steps keeps in bounds.
+bool SelectorMatcher::matchesFrom(NodeIndex element, const Selector &selector, int compound)
+{
+    if (!matchesCompound(element, selector.compounds.at(compound)))
+        return false;
+    if (compound + 1 == selector.compounds.size())
+        return true;
+    const Combinator combinator = selector.combinators.at(compound);
+    const bool once = combinator == Combinator::Child || combinator == Combinator::NextSibling;
+    for (NodeIndex at = step(element, combinator); at != noNode && !isExhausted(); at = step(at, combinator)) {
+        if (matchesFrom(at, selector, compound + 1))
+            return true;
+        if (once)
+            return false;
+    }
+    return false;
+}
+
+bool SelectorMatcher::matches(NodeIndex element, const Selector &selector)
+{
+    return matchesFrom(element, selector, 0);
+}
+
+} // namespace Svg

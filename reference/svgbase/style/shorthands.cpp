@@ -1,0 +1,106 @@
+#include "style/shorthands.h"
+
+#include "grammar/lengths.h"
+
+#include <QtCore/QStringList>
+
+namespace Svg {
+
+namespace {
+
+bool isOneOf(const QString &word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(), [&](const char *known) {
+        return word.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool isFontSize(const QString &word)
+{
+    return isOneOf(word, {"xx-small", "x-small", "small", "medium", "large", "x-large", "xx-large", "xxx-large",
+                          "larger", "smaller"}) ||
+           (parseLength(word) && !isOneOf(word, {"0"}));
+}
+
+bool isFontWeight(const QString &word)
+{
+    bool number = false;
+    const int weight = word.toInt(&number);
+    return isOneOf(word, {"bold", "bolder", "lighter"}) || (number && weight >= 1 && weight <= 1000);
+}
+
+// The words of a "font" before its size; false for one that has no place there.
+bool readFontWord(const QString &word, QString *style, QString *weight)
+{
+    if (isOneOf(word, {"italic", "oblique"}))
+        *style = word;
+    else if (isFontWeight(word))
+        *weight = word;
+    else
+        return isOneOf(word, {"normal", "small-caps", "ultra-condensed", "extra-condensed", "condensed",
+                              "semi-condensed", "semi-expanded", "expanded", "extra-expanded", "ultra-expanded"});
+    return true;
+}
+
+QVector<Longhand> fontOf(const QString &style, const QString &weight, const QString &size, const QString &family)
+{
+    return {{AttributeId::FontStyle, style},
+            {AttributeId::FontWeight, weight},
+            {AttributeId::FontSize, size},
+            {AttributeId::FontFamily, family}};
+}
+
+// CSS 2.1 §15.8: words in any order, the size with an optional line height, the families.
+QVector<Longhand> fontLonghands(const QString &value)
+{
+    if (isOneOf(value, {"inherit", "initial"}))
+        return fontOf(value, value, value, value);
+    QString style = QStringLiteral("normal");
+    QString weight = QStringLiteral("normal");
+    QStringList words = value.simplified().split(QLatin1Char(' '));
+    while (!words.isEmpty()) {
+        const QString word = words.takeFirst();
+        const QString size = word.left(word.indexOf(QLatin1Char('/')));
+        // A number without a unit is a weight as long as a size follows.
+        const bool weightComes = isFontWeight(word) && words.size() > 1;
+        if (!weightComes && isFontSize(size) && !words.isEmpty()) {
+            QString family = words.join(QLatin1Char(' '));
+            if (family.startsWith(QLatin1Char('/')))
+                family = family.section(QLatin1Char(' '), 2);
+            return family.isEmpty() ? QVector<Longhand>() : fontOf(style, weight, size, family);
+        }
+        if (!readFontWord(word, &style, &weight))
+            break;
+    }
+    return {};
+}
+
+} // namespace
+
+QVector<Longhand> longhands(const QString &name, const QString &value)
+{
+    return name == QLatin1String("font") ? fontLonghands(value) : QVector<Longhand>();
+}
+
+bool isStyledAttribute(AttributeId id)
+{
+    switch (id) {
+    case AttributeId::Cx:
+    case AttributeId::Cy:
+    case AttributeId::D:
+    case AttributeId::Height:
+    case AttributeId::R:
+    case AttributeId::Rx:
+    case AttributeId::Ry:
+    case AttributeId::Transform:
+    case AttributeId::TransformOrigin:
+    case AttributeId::Width:
+    case AttributeId::X:
+    case AttributeId::Y:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Svg

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tree/attributes.h"
+
+#include <QtCore/QVector>
+
+namespace Svg {
+
+/// A property that a shorthand stands for.
+struct Longhand
+{
+    AttributeId property;
+    QString value;
+};
+
+/// The properties that a shorthand of CSS ("font") sets; none for any other name, and for a value that
+/// breaks the shorthand's grammar.
+QVector<Longhand> longhands(const QString &name, const QString &value);
+/// Whether an attribute that is no presentation attribute in SVG 1.1 may be given by style (SVG 2 §8.9): the
+/// geometry properties, and "transform".
+bool isStyledAttribute(AttributeId id);
+
+} // namespace Svg
