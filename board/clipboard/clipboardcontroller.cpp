@@ -73,8 +73,11 @@ void ClipboardController::copy()
     auto *data = new QMimeData;
     const QByteArray bytes = pagehost::encodeObjects(objects);
     data->setData(pagehost::objectsMimeType(), bytes);
-    data->setImageData(imageOf(objects, pictureScale));
-    const QByteArray svg = svgOf(objects, paintedArea(objects), m_workspace->registry());
+    const ObjectsImage picture = imageOf(objects, pictureScale);
+    if (!picture.image.isNull())
+        data->setImageData(picture.image);
+    const QRectF area = picture.area | pagehost::boundsOf(objects);
+    const QByteArray svg = svgOf(objects, area, m_workspace->registry());
     if (!svg.isEmpty())
         data->setData(svgType, svg);
     QGuiApplication::clipboard()->setMimeData(data);

@@ -35,8 +35,14 @@ DocumentMenu::DocumentMenu(const Workspace *workspace, DocumentController *docum
     m_save->setIcon(icon(Icon::Save));
     m_actions = {create, m_open, m_recent->menuAction(), nullptr, m_save, saveAs};
     connect(m_recent, &QMenu::aboutToShow, this, &DocumentMenu::fillRecent);
-    connect(documents, &DocumentController::stateChanged, this, &DocumentMenu::fillRecent);
-    fillRecent();
+    connect(documents, &DocumentController::stateChanged, this, &DocumentMenu::updateRecent);
+    m_recent->setToolTipsVisible(true);
+    updateRecent();
+}
+
+void DocumentMenu::updateRecent()
+{
+    m_recent->menuAction()->setEnabled(!m_documents->recentFiles().files().isEmpty());
 }
 
 void DocumentMenu::fillRecent()
@@ -50,12 +56,10 @@ void DocumentMenu::fillRecent()
         action->setData(file);
         connect(action, &QAction::triggered, m_documents, [this, file] { m_documents->open(file); });
     }
-    m_recent->setToolTipsVisible(true);
-    m_recent->menuAction()->setEnabled(!files.isEmpty());
     m_recent->addSeparator();
     connect(m_recent->addAction(m_workspace->text("IDS_BOARD_CLEAR_RECENT")), &QAction::triggered, this, [this] {
         m_documents->recentFiles().clear();
-        fillRecent();
+        updateRecent();
     });
 }
 

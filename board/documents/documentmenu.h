@@ -28,6 +28,7 @@ public:
 
 private:
     void fillRecent();
+    void updateRecent();
 
     const Workspace *m_workspace;
     DocumentController *m_documents;

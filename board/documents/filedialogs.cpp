@@ -4,6 +4,7 @@
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -25,6 +26,16 @@ QFileDialog *makeDialog(QWidget *window, const QString &title)
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     return dialog;
+}
+
+/// The file that the name field names. The dialog itself prefers a file that is selected in its list, which lags
+/// behind what is typed.
+QString typedFile(const QFileDialog &dialog, const QString &selected)
+{
+    const auto *nameEdit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    const QString name = nameEdit ? nameEdit->text() : QString();
+    const bool isPlain = !name.isEmpty() && !name.startsWith(QLatin1Char('~')) && !name.contains(QLatin1Char('"'));
+    return isPlain ? dialog.directory().absoluteFilePath(name) : selected;
 }
 
 bool hasFormatSuffix(const QString &file)
@@ -68,6 +79,8 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
     QString title = m_workspace->text("IDS_BOARD_SAVE_AS");
     QFileDialog *dialog = makeDialog(m_window, title.remove(QChar(0x2026)));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
+    // The dialog itself would ask before it has added a suffix to a name with a dot, and block.
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setFileMode(QFileDialog::AnyFile);
     const QString binary =
         filterOf(m_workspace->text("IDS_BOARD_BINARY_BOARDS"), {QStringLiteral("*.") + binarySuffix});
@@ -83,7 +96,7 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
     dialog->selectFile(suggestion);
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, useFilter);
     QObject::connect(dialog, &QFileDialog::fileSelected, m_window, [*this, dialog, take](const QString &file) {
-        takeWithSuffix(file, dialog->defaultSuffix(), take);
+        takeWithSuffix(typedFile(*dialog, file), dialog->defaultSuffix(), take);
     });
     dialog->open();
 }
@@ -91,9 +104,7 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
 /// The dialog adds its suffix only to names without a dot.
 void FileDialogs::takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const
 {
-    if (hasFormatSuffix(file))
-        return take(file);
-    const QString complete = file + QLatin1Char('.') + suffix;
+    const QString complete = hasFormatSuffix(file) ? file : file + QLatin1Char('.') + suffix;
     if (!QFileInfo::exists(complete))
         return take(complete);
     QMessageBox *box = makeQuestion(

@@ -4,11 +4,22 @@
 
 #include <QtGui/QPainter>
 
+#include <algorithm>
+
 namespace board {
 
 namespace {
 
 constexpr double longestSide = 4096;
+
+/// Larger than what is painted: objects count the room of their handles in.
+QRectF generousArea(const QVector<CBaseObject *> &objects)
+{
+    QRectF area;
+    for (const CBaseObject *object : objects)
+        area |= object->mapRectToScene(object->getClientRect() | object->boundingRect());
+    return area;
+}
 
 void paintObject(QPainter &painter, CBaseObject *object)
 {
@@ -19,22 +30,40 @@ void paintObject(QPainter &painter, CBaseObject *object)
     painter.restore();
 }
 
-} // namespace
-
-QRectF paintedArea(const QVector<CBaseObject *> &objects)
+bool isRowEmpty(const QImage &image, int y)
 {
-    QRectF area;
-    for (const CBaseObject *object : objects) {
-        const double outline = object->getMyPen().widthF() / 2;
-        const QRectF rect = object->getClientRect() | object->boundingRect();
-        area |= object->mapRectToScene(rect.adjusted(-outline, -outline, outline, outline));
-    }
-    return area;
+    const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+    return std::all_of(line, line + image.width(), [](QRgb pixel) { return qAlpha(pixel) == 0; });
 }
 
-QImage imageOf(const QVector<CBaseObject *> &objects, double scale)
+bool isColumnEmpty(const QImage &image, int x)
 {
-    const QRectF area = paintedArea(objects);
+    for (int y = 0; y < image.height(); ++y) {
+        if (qAlpha(reinterpret_cast<const QRgb *>(image.constScanLine(y))[x]) != 0)
+            return false;
+    }
+    return true;
+}
+
+QRect paintedPart(const QImage &image)
+{
+    QRect part = image.rect();
+    while (!part.isEmpty() && isRowEmpty(image, part.top()))
+        part.setTop(part.top() + 1);
+    while (!part.isEmpty() && isRowEmpty(image, part.bottom()))
+        part.setBottom(part.bottom() - 1);
+    while (!part.isEmpty() && isColumnEmpty(image, part.left()))
+        part.setLeft(part.left() + 1);
+    while (!part.isEmpty() && isColumnEmpty(image, part.right()))
+        part.setRight(part.right() - 1);
+    return part;
+}
+
+} // namespace
+
+ObjectsImage imageOf(const QVector<CBaseObject *> &objects, double scale)
+{
+    const QRectF area = generousArea(objects);
     if (area.isEmpty())
         return {};
     const double fitting = qMin(scale, longestSide / qMax(area.width(), area.height()));
@@ -49,7 +78,12 @@ QImage imageOf(const QVector<CBaseObject *> &objects, double scale)
         if (object->isVisible())
             paintObject(painter, object);
     }
-    return image;
+    painter.end();
+    const QRect part = paintedPart(image);
+    if (part.isEmpty())
+        return {};
+    return {image.copy(part),
+            QRectF(area.topLeft() + QPointF(part.topLeft()) / fitting, QSizeF(part.size()) / fitting)};
 }
 
 } // namespace board

@@ -8,10 +8,14 @@ class CBaseObject;
 
 namespace board {
 
-/// What the objects cover, outlines included, scene coordinates.
-QRectF paintedArea(const QVector<CBaseObject *> &objects);
-/// The objects alone, bottom to top, on nothing, `scale` pixels per scene unit or fewer when the picture would be
-/// larger than 4096 pixels in one direction. Null when there is nothing to see.
-QImage imageOf(const QVector<CBaseObject *> &objects, double scale);
+struct ObjectsImage
+{
+    QImage image; ///< null when there is nothing to see
+    QRectF area;  ///< what it shows, scene coordinates
+};
+
+/// The objects alone, bottom to top, on nothing, cut to what is painted; `scale` pixels per scene unit, or fewer
+/// when the picture would be larger than 4096 pixels in one direction.
+ObjectsImage imageOf(const QVector<CBaseObject *> &objects, double scale);
 
 } // namespace board

@@ -157,6 +157,9 @@ void BoardDriver::wheel(const QPointF &pos, int notches, Qt::KeyboardModifiers m
 void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     m_window->activateWindow();
+    // After a dialog it takes a turn of the event loop.
+    if (!QTest::qWaitForWindowActive(m_window.get()))
+        qFatal("the window is not active");
     view().setFocus();
     QTest::keyClick(&view(), key, modifiers);
 }

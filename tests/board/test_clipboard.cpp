@@ -1,0 +1,447 @@
+// Cut, copy and paste of shapes and of their look, and what other programs give and take.
+
+#include <board/boarddriver.h>
+
+#include <clipboard/clipboardcontroller.h>
+#include <page/pageview.h>
+#include <window/mainwindow.h>
+#include <window/notices.h>
+
+#include <pagehost/commands.h>
+#include <pagehost/documentfile.h>
+#include <pagehost/page.h>
+#include <pagehost/style.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QMimeData>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QClipboard>
+#include <QtGui/QDropEvent>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QUndoStack>
+
+using namespace boardtest;
+
+/// A plug-in that makes plain objects of pictures and SVG, and gives every object of its own as a red SVG
+/// rectangle.
+class PicturePlugin : public pagehost::ObjectPlugin
+{
+public:
+    class Picture : public CBaseObject
+    {
+    public:
+        explicit Picture(const QSizeF &size)
+            : CBaseObject(1, true, nullptr, nullptr)
+        {
+            CPSRootObject::setSize(size, false, false);
+        }
+        QString kindName() const override { return QStringLiteral("IDS_TEST_PICTURE"); }
+    };
+
+    QVector<pagehost::ObjectKind> objectKinds() const override
+    {
+        return {{QStringLiteral("test.picture"), QStringLiteral("IDS_TEST_PICTURE"), {}}};
+    }
+    CBaseObject *createObject(const QString &) const override { return new Picture(QSizeF(10, 10)); }
+    pagehost::TextTable texts(const QString &) const override
+    {
+        return {{QStringLiteral("IDS_TEST_PICTURE"), QStringLiteral("Picture")}};
+    }
+    QStringList dataTypes() const override { return {"image/svg+xml", "image/png"}; }
+    CBaseObject *createFromData(const QString &type, const QByteArray &data, QString &kindId) const override
+    {
+        kindId = QStringLiteral("test.picture");
+        if (type == "image/svg+xml")
+            return data.contains("<svg") ? new Picture(QSizeF(40, 30)) : nullptr;
+        const QImage image = QImage::fromData(data, "PNG");
+        return image.isNull() ? nullptr : new Picture(image.size());
+    }
+    QByteArray dataOf(CBaseObject *, const QString &type) const override
+    {
+        return type == "image/svg+xml"
+                   ? "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect fill='red'/></svg>"
+                   : QByteArray();
+    }
+};
+
+/// A board that takes pictures, with one shape, 200 × 120 at (500, 300).
+struct CopyDesk
+{
+    CopyDesk()
+    {
+        board.workspace().registry().addPlugin(&plugin, "test");
+        QGuiApplication::clipboard()->clear();
+        shape = board.draw(rectangle, {500, 300}, {700, 420});
+        steps = board.history().count();
+        leavePage();
+    }
+    ~CopyDesk() { QGuiApplication::clipboard()->clear(); }
+
+    void leavePage() { Q_EMIT board.view().pointerLeft(); }
+    void copy() { board.key(Qt::Key_C, Qt::ControlModifier); }
+    void cut() { board.key(Qt::Key_X, Qt::ControlModifier); }
+    void paste() { board.key(Qt::Key_V, Qt::ControlModifier); }
+    int newSteps() { return board.history().count() - steps; }
+    QVector<CBaseObject *> objects() { return board.page().objects(); }
+    QRectF placeOfLast() { return board.placeOf(objects().last()); }
+
+    PicturePlugin plugin;
+    BoardDriver board;
+    CBaseObject *shape;
+    int steps;
+};
+
+static QImage picture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    return image;
+}
+
+class TestClipboard : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pastedShapeStandsBesideTheCopied();
+    void pastingAgainGoesFurther();
+    void pasteComesToTheMouse();
+    void cutAndPasteAreOneStepEach();
+    void severalShapesKeepTheirPlaces();
+    void pasteIntoAnotherBoard();
+    void copyGivesAPictureToOtherPrograms();
+    void copyGivesSvgWhenEveryShapeHasIt();
+    void pictureOfAnotherProgramIsPasted_data();
+    void pictureOfAnotherProgramIsPasted();
+    void pictureLargerThanThePageIsMadeSmaller();
+    void nothingUsableIsTold();
+    void damagedDataDoNotCrash();
+    void droppedPictureStandsUnderTheMouse();
+    void pasteIsOfferedOnlyWhenThereIsSomething();
+    void lookIsPastedAsOneStep();
+    void gradientIsPartOfTheLook();
+    void lookOfAnUnfilledShape();
+    void nothingSelectedCopiesNothing();
+};
+
+void TestClipboard::pastedShapeStandsBesideTheCopied()
+{
+    CopyDesk desk;
+    desk.copy();
+    desk.paste();
+    QCOMPARE(desk.objects().size(), 2);
+    QCOMPARE(desk.placeOfLast(), QRectF(520, 320, 200, 120));
+    QCOMPARE(desk.board.selection(), QVector<CBaseObject *>{desk.objects().last()});
+    QCOMPARE(desk.newSteps(), 1);
+}
+
+void TestClipboard::pastingAgainGoesFurther()
+{
+    CopyDesk desk;
+    desk.copy();
+    desk.paste();
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(540, 340, 200, 120));
+    desk.board.page().select({desk.shape});
+    desk.copy();
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(520, 320, 200, 120));
+}
+
+void TestClipboard::pasteComesToTheMouse()
+{
+    CopyDesk desk;
+    desk.copy();
+    desk.board.hover({300, 200});
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(200, 140, 200, 120));
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(220, 160, 200, 120));
+    // Beside the page is not over it.
+    desk.board.hover({-50, 200});
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(520, 320, 200, 120));
+}
+
+void TestClipboard::cutAndPasteAreOneStepEach()
+{
+    CopyDesk desk;
+    desk.cut();
+    QCOMPARE(desk.objects().size(), 0);
+    QCOMPARE(desk.newSteps(), 1);
+    desk.paste();
+    QCOMPARE(desk.objects().size(), 1);
+    QCOMPARE(desk.newSteps(), 2);
+    QCOMPARE(desk.board.history().text(desk.steps), QString("IDS_BOARD_CUT"));
+    QCOMPARE(desk.board.history().text(desk.steps + 1), QString("IDS_BOARD_PASTE"));
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.objects().size(), 0);
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.objects(), QVector<CBaseObject *>{desk.shape});
+}
+
+void TestClipboard::severalShapesKeepTheirPlaces()
+{
+    CopyDesk desk;
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    desk.board.key(Qt::Key_A, Qt::ControlModifier);
+    desk.leavePage();
+    desk.copy();
+    desk.paste();
+    QCOMPARE(desk.objects().size(), 4);
+    QCOMPARE(desk.board.placeOf(desk.objects().at(2)), QRectF(520, 320, 200, 120));
+    QCOMPARE(desk.board.placeOf(desk.objects().at(3)), QRectF(120, 120, 100, 100));
+    QCOMPARE(desk.board.selection().size(), 2);
+}
+
+void TestClipboard::pasteIntoAnotherBoard()
+{
+    QByteArray bytes;
+    {
+        CopyDesk desk;
+        pagehost::setPenColor({desk.shape}, QColor(200, 10, 20));
+        desk.copy();
+        bytes = QGuiApplication::clipboard()->mimeData()->data(pagehost::objectsMimeType());
+    }
+    // Another process gets the bytes alone.
+    CopyDesk other;
+    auto *data = new QMimeData;
+    data->setData(pagehost::objectsMimeType(), bytes);
+    QGuiApplication::clipboard()->setMimeData(data);
+    other.paste();
+    QCOMPARE(other.objects().size(), 2);
+    QCOMPARE(other.placeOfLast(), QRectF(520, 320, 200, 120));
+    QCOMPARE(pagehost::styleOf(other.objects().last()).penColor, QColor(200, 10, 20));
+}
+
+void TestClipboard::copyGivesAPictureToOtherPrograms()
+{
+    CopyDesk desk;
+    pagehost::setPenWidth({desk.shape}, 1);
+    pagehost::setFill({desk.shape}, QColor(10, 200, 30));
+    desk.copy();
+    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    QVERIFY(data->hasImage());
+    const auto image = qvariant_cast<QImage>(data->imageData());
+    // Twice the size, perhaps with half the outline's width around it.
+    QVERIFY2(image.width() >= 396 && image.width() <= 404, qPrintable(QString::number(image.width())));
+    QVERIFY2(image.height() >= 236 && image.height() <= 244, qPrintable(QString::number(image.height())));
+    QCOMPARE(image.pixelColor(image.rect().center()), QColor(10, 200, 30));
+    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+}
+
+void TestClipboard::copyGivesSvgWhenEveryShapeHasIt()
+{
+    CopyDesk desk;
+    auto *svg = new QMimeData;
+    svg->setData("image/svg+xml", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    QGuiApplication::clipboard()->setMimeData(svg);
+    desk.paste();
+    desk.copy();
+    const QByteArray drawing = QGuiApplication::clipboard()->mimeData()->data("image/svg+xml");
+    QVERIFY2(drawing.contains("<rect fill=\"red\""), drawing.constData());
+    QVERIFY(drawing.contains("width=\"40\" height=\"30\""));
+}
+
+void TestClipboard::pictureOfAnotherProgramIsPasted_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("PNG") << "png" << QSizeF(64, 48);
+    QTest::newRow("picture in another format") << "image" << QSizeF(64, 48);
+    QTest::newRow("SVG") << "svg" << QSizeF(40, 30);
+    QTest::newRow("SVG as text") << "text" << QSizeF(40, 30);
+    QTest::newRow("file of a picture") << "file" << QSizeF(64, 48);
+    QTest::newRow("file of a picture that is no PNG") << "bmp" << QSizeF(64, 48);
+}
+
+void TestClipboard::pictureOfAnotherProgramIsPasted()
+{
+    QFETCH(QString, what);
+    QFETCH(QSizeF, size);
+    CopyDesk desk;
+    QTemporaryDir folder;
+    auto *data = new QMimeData;
+    if (what == "png") {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        picture(64, 48).save(&buffer, "PNG");
+        data->setData("image/png", bytes);
+    } else if (what == "image") {
+        data->setImageData(picture(64, 48));
+    } else if (what == "svg") {
+        data->setData("image/svg+xml", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    } else if (what == "text") {
+        data->setText("<?xml version='1.0'?>\n<svg xmlns='http://www.w3.org/2000/svg'/>");
+    } else {
+        const QString path = folder.filePath("picture." + QString(what == "bmp" ? "bmp" : "png"));
+        QVERIFY(picture(64, 48).save(path));
+        data->setUrls({QUrl::fromLocalFile(path)});
+    }
+    QGuiApplication::clipboard()->setMimeData(data);
+    desk.paste();
+    QCOMPARE(desk.objects().size(), 2);
+    QCOMPARE(desk.placeOfLast().size(), size);
+    // In the middle of what is shown, which is the middle of the page.
+    QCOMPARE(desk.placeOfLast().center(), QPointF(640, 360));
+    QCOMPARE(desk.newSteps(), 1);
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.objects().size(), 1);
+}
+
+void TestClipboard::pictureLargerThanThePageIsMadeSmaller()
+{
+    CopyDesk desk;
+    auto *data = new QMimeData;
+    data->setImageData(picture(2560, 720));
+    QGuiApplication::clipboard()->setMimeData(data);
+    desk.paste();
+    QCOMPARE(desk.placeOfLast().size(), QSizeF(1280, 360));
+}
+
+void TestClipboard::nothingUsableIsTold()
+{
+    CopyDesk desk;
+    QTemporaryDir folder;
+    QFile file(folder.filePath("letter.txt"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("Dear Sir or Madam,");
+    file.close();
+    auto *data = new QMimeData;
+    data->setUrls({QUrl::fromLocalFile(file.fileName())});
+    QGuiApplication::clipboard()->setMimeData(data);
+    desk.paste();
+    QCOMPARE(desk.objects().size(), 1);
+    QCOMPARE(desk.newSteps(), 0);
+    QStringList texts;
+    for (const QLabel *label : desk.board.window().notices()->findChildren<QLabel *>())
+        texts.append(label->text());
+    QVERIFY2(texts.join(' ').contains("letter.txt"), qPrintable(texts.join(' ')));
+}
+
+void TestClipboard::damagedDataDoNotCrash()
+{
+    CopyDesk desk;
+    desk.copy();
+    const QByteArray whole = QGuiApplication::clipboard()->mimeData()->data(pagehost::objectsMimeType());
+    QVERIFY(whole.size() > 40);
+    for (int size = 0; size < whole.size(); size += 7) {
+        auto *data = new QMimeData;
+        data->setData(pagehost::objectsMimeType(), whole.left(size));
+        QGuiApplication::clipboard()->setMimeData(data);
+        const int before = desk.objects().size();
+        desk.paste();
+        QVERIFY(desk.objects().size() <= before + 1);
+    }
+}
+
+void TestClipboard::droppedPictureStandsUnderTheMouse()
+{
+    CopyDesk desk;
+    QMimeData data;
+    data.setImageData(picture(64, 48));
+    const QPoint at = desk.board.view().mapFromScene(QPointF(300, 200));
+    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(desk.board.view().viewport(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(desk.board.view().viewport(), &drop);
+    QCOMPARE(desk.placeOfLast(), QRectF(268, 176, 64, 48));
+    QCOMPARE(desk.newSteps(), 1);
+}
+
+void TestClipboard::pasteIsOfferedOnlyWhenThereIsSomething()
+{
+    CopyDesk desk;
+    const QAction *paste = desk.board.action("Paste");
+    QVERIFY(!paste->isEnabled());
+    auto *data = new QMimeData;
+    data->setText("Dear Sir or Madam,");
+    QGuiApplication::clipboard()->setMimeData(data);
+    QVERIFY(!paste->isEnabled());
+    desk.copy();
+    QVERIFY(paste->isEnabled());
+}
+
+void TestClipboard::lookIsPastedAsOneStep()
+{
+    CopyDesk desk;
+    pagehost::setPenColor({desk.shape}, QColor(200, 10, 20));
+    pagehost::setPenWidth({desk.shape}, 6);
+    pagehost::setPenStyle({desk.shape}, Qt::DotLine);
+    pagehost::setFill({desk.shape}, QColor(1, 2, 3));
+    desk.board.page().select({desk.shape});
+    desk.board.key(Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+    CBaseObject *one = desk.board.draw(arrow, {100, 100}, {200, 200});
+    CBaseObject *other = desk.board.draw(flask, {800, 100}, {900, 250});
+    const pagehost::StyleMap before = pagehost::styleMapOf(one);
+    desk.board.page().select({one, other});
+    const int steps = desk.board.history().count();
+    desk.board.key(Qt::Key_V, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(desk.board.history().count(), steps + 1);
+    for (CBaseObject *object : {one, other}) {
+        const pagehost::ObjectStyle style = pagehost::styleOf(object);
+        QCOMPARE(style.penColor, QColor(200, 10, 20));
+        QCOMPARE(style.penWidth, 6);
+        QCOMPARE(style.penStyle, Qt::DotLine);
+        QCOMPARE(style.fill.color(), QColor(1, 2, 3));
+    }
+    QCOMPARE(desk.board.placeOf(one), QRectF(100, 100, 100, 100));
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(pagehost::styleMapOf(one), before);
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(pagehost::styleOf(other).penWidth, 6);
+}
+
+void TestClipboard::gradientIsPartOfTheLook()
+{
+    CopyDesk desk;
+    CPageBgProp fill = *desk.shape->getFillProp();
+    fill.setFillEnable(true);
+    fill.setFillType(CPageBgProp::GradientFill);
+    fill.setFillColor(Qt::red);
+    fill.setGradientColor(Qt::blue);
+    pagehost::setObjectsFill({desk.shape}, fill);
+    desk.board.page().select({desk.shape});
+    desk.board.key(Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+    CBaseObject *other = desk.board.draw(arrow, {100, 100}, {200, 200});
+    const CPageBgProp before = *other->getFillProp();
+    const int steps = desk.board.history().count();
+    desk.board.key(Qt::Key_V, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(*other->getFillProp(), fill);
+    QCOMPARE(desk.board.history().count(), steps + 1);
+    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(*other->getFillProp(), before);
+}
+
+void TestClipboard::lookOfAnUnfilledShape()
+{
+    CopyDesk desk;
+    pagehost::setFill({desk.shape}, Qt::transparent);
+    desk.board.page().select({desk.shape});
+    desk.board.key(Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+    CBaseObject *other = desk.board.draw(arrow, {100, 100}, {200, 200});
+    pagehost::setFill({other}, Qt::red);
+    desk.board.key(Qt::Key_V, Qt::ControlModifier | Qt::AltModifier);
+    const QBrush brush = pagehost::styleOf(other).fill;
+    QVERIFY(brush.style() == Qt::NoBrush || brush.color().alpha() == 0);
+}
+
+void TestClipboard::nothingSelectedCopiesNothing()
+{
+    CopyDesk desk;
+    desk.copy();
+    desk.board.page().select({});
+    desk.copy();
+    QVERIFY(QGuiApplication::clipboard()->mimeData()->hasFormat(pagehost::objectsMimeType()));
+    QVERIFY(!desk.board.action("Copy")->isEnabled());
+    desk.cut();
+    QCOMPARE(desk.objects().size(), 1);
+}
+
+QTEST_MAIN(TestClipboard)
+#include "test_clipboard.moc"
