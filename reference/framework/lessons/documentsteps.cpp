@@ -12,12 +12,17 @@
 
 namespace pagehost {
 
-ObjectAppeared appearanceOf(CBaseObject *object, quint32 number, int pageIndex, int place)
+QByteArray recordOf(CBaseObject *object)
 {
     QByteArray data;
     QDataStream out(&data, QIODevice::WriteOnly);
     writeObject(out, object);
-    return {number, pageIndex, place, data};
+    return data;
+}
+
+ObjectAppeared appearanceOf(CBaseObject *object, quint32 number, int pageIndex, int place)
+{
+    return {number, pageIndex, place, recordOf(object)};
 }
 
 QVector<LessonStep> appearanceOf(const Page &page, int pageIndex, const ObjectNumbering &numberOf)

@@ -39,6 +39,8 @@ public:
     {
     }
     template<typename Value> void operator()(const char *, const Value &value) { m_out << value; }
+    /// Nothing is written in one way only, whether it is null or empty.
+    void operator()(const char *, const QByteArray &bytes) { m_out << (bytes.isNull() ? QByteArray("") : bytes); }
     void operator()(const char *, const QVector<quint32> &values)
     {
         m_out << quint32(values.size());
@@ -175,7 +177,8 @@ QByteArray Lesson::toBytes() const
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     prepare(out);
-    out << magic << currentVersion << title << duration << quint32(start.size());
+    out << magic << currentVersion << (title.isNull() ? QString(QLatin1String("")) : title) << duration
+        << quint32(start.size());
     for (const LessonStep &step : start) {
         write(out, step);
     }

@@ -34,7 +34,7 @@ template<typename Archive> void visit(Archive &archive, ObjectVanished &step)
 template<typename Archive> void visit(Archive &archive, ObjectSettled &step)
 {
     archive("object", step.object);
-    archive("state", step.state);
+    archive("data", step.data);
 }
 
 template<typename Archive> void visit(Archive &archive, PageRestacked &step)

@@ -3,6 +3,7 @@
 #include <lessons/lessonfields.h>
 
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -177,6 +178,11 @@ QJsonObject Lesson::toJson() const
             {durationKey, double(duration)},
             {startKey, startSteps},
             {eventsKey, timedSteps}};
+}
+
+bool Lesson::fromData(const QByteArray &data)
+{
+    return data.startsWith('{') ? fromJson(QJsonDocument::fromJson(data).object()) : fromBytes(data);
 }
 
 bool Lesson::fromJson(const QJsonObject &object)

@@ -163,7 +163,7 @@ void LessonPlayer::showStart(const Milestone &milestone)
     m_highlighted = nullptr;
     m_played = milestone.events;
     m_stage.swap(stage);
-    Q_EMIT documentReplaced(document());
+    Q_EMIT documentReplaced();
 }
 
 void LessonPlayer::setPosition(qint64 time)

@@ -215,9 +215,8 @@ void LessonRecording::compare(quint32 number, CBaseObject *object)
     if (!object || !rehearsed || pageIndexOf(*object) < 0) {
         return;
     }
-    const QByteArray data = savedData(*object);
-    if (savedData(*rehearsed) != data) {
-        append(ObjectSettled{number, data});
+    if (savedData(*rehearsed) != savedData(*object)) {
+        append(ObjectSettled{number, recordOf(object)});
         catchUp();
     }
 }

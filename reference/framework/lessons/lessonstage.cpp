@@ -22,12 +22,6 @@ constexpr int playingState = 1;
 /// A page is a few bytes of a lesson and many more in memory; damaged data shall not fill it.
 constexpr int mostPages = 10000;
 
-bool load(CBaseObject &object, const QByteArray &data)
-{
-    QDataStream in(data);
-    return object.load(in);
-}
-
 /// Only the order of stacking numbers counts, but they are saved, so an object brings back the one it had where it
 /// agrees with the order.
 void restoreStackingNumber(const Page &page, CBaseObject &object, double number)
@@ -91,24 +85,25 @@ CBaseObject *LessonStage::perform(const ObjectActed &step)
 CBaseObject *LessonStage::perform(const ObjectAppeared &step)
 {
     Page *page = m_document->page(step.page);
-    CBaseObject *made = page && !object(step.object) ? makeObject(step.data) : nullptr;
-    if (!made) {
+    ObjectRecord record;
+    if (!page || object(step.object) || !readRecord(step.data, record)) {
         return nullptr;
     }
-    const double stackingNumber = made->zValue();
-    page->addObject(made, step.place);
-    restoreStackingNumber(*page, *made, stackingNumber);
-    m_objects.insert(step.object, made);
+    CBaseObject *made = makeObject(record);
+    put(made, step.object, *page, step.place);
     return made;
 }
 
-/// Null for data that is no object's.
-CBaseObject *LessonStage::makeObject(const QByteArray &data) const
+void LessonStage::put(CBaseObject *object, quint32 number, Page &page, int place)
 {
-    ObjectRecord record;
-    if (!readRecord(data, record)) {
-        return nullptr;
-    }
+    const double stackingNumber = object->zValue();
+    page.addObject(object, place);
+    restoreStackingNumber(page, *object, stackingNumber);
+    m_objects.insert(number, object);
+}
+
+CBaseObject *LessonStage::makeObject(ObjectRecord record) const
+{
     // The lesson may go before the object.
     record.data = QByteArray(record.data.constData(), record.data.size());
     FileMessage message;
@@ -129,11 +124,18 @@ CBaseObject *LessonStage::perform(const ObjectVanished &step)
 
 CBaseObject *LessonStage::perform(const ObjectSettled &step)
 {
-    CBaseObject *settling = object(step.object);
-    if (settling) {
-        load(*settling, step.state);
+    CBaseObject *former = object(step.object);
+    ObjectRecord record;
+    if (!former || !readRecord(step.data, record)) {
+        return nullptr;
     }
-    return settling;
+    // A new object: one that has a past may keep some of it when it loads.
+    CBaseObject *settled = makeObject(record);
+    Page *page = CPSRootObjectPrivate::pageOf(*former);
+    const int place = page->removeObject(former);
+    delete former;
+    put(settled, step.object, *page, place);
+    return settled;
 }
 
 CBaseObject *LessonStage::perform(const PageRestacked &step)

@@ -13,6 +13,7 @@
 namespace pagehost {
 
 class ObjectRegistry;
+struct ObjectRecord;
 class Page;
 
 /// Where a lesson happens again: a document of its own, which nobody edits and which leaves undo and recording
@@ -48,7 +49,9 @@ private:
     CBaseObject *perform(const PageTurned &step);
     CBaseObject *perform(const ZoomChanged &step);
 
-    CBaseObject *makeObject(const QByteArray &data) const;
+    /// Never null; a placeholder for what cannot be made.
+    CBaseObject *makeObject(ObjectRecord record) const;
+    void put(CBaseObject *object, quint32 number, Page &page, int place);
     void forgetObjectsOf(const Page &page);
 
     const ObjectRegistry *m_registry;

@@ -13,8 +13,7 @@
 /// A lesson: what happened on the pages of a document, with time, from a state at its start.
 ///
 /// Pages are named by their number at that moment, 0 the first. Objects are named by numbers that a lesson gives
-/// them when they first appear, counting up from 1, and that they keep when they go and come back. States of
-/// objects are what CPSRootObject::save() writes, backgrounds what CPageBgProp::save() writes.
+/// them when they first appear, counting up from 1, and that they keep when they go and come back.
 namespace pagehost {
 
 /// @name What can happen
@@ -47,7 +46,7 @@ struct ObjectVanished
 struct ObjectSettled
 {
     quint32 object = 0;
-    QByteArray state;
+    QByteArray data; ///< as in ObjectAppeared
 };
 
 /// A page's objects stand in this order, the bottom one first.
@@ -62,7 +61,7 @@ struct PageAppeared
 {
     qint32 page = 0;
     QSizeF size; ///< scene units
-    QByteArray background;
+    QByteArray background; ///< what CPageBgProp::save() writes
 };
 
 struct PageVanished
@@ -130,6 +129,9 @@ public:
     QJsonObject toJson() const;
     /// False, with the lesson unchanged, for an object that is no whole lesson.
     bool fromJson(const QJsonObject &object);
+
+    /// Reads what a document keeps of a lesson (LessonData::data): bytes of toBytes(), or the text of toJson().
+    bool fromData(const QByteArray &data);
 };
 
 } // namespace pagehost

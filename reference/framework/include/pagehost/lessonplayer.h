@@ -59,7 +59,7 @@ public:
 
 Q_SIGNALS:
     /// Another document shows the lesson; the one before still exists while this is emitted.
-    void documentReplaced(pagehost::Document *document);
+    void documentReplaced();
     void positionChanged(qint64 time);
     void playingChanged(bool playing);
     /// The end has been reached.

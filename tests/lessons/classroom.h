@@ -7,7 +7,7 @@
 #include <pagehost/objectregistry.h>
 #include <pagehost/style.h>
 
-#include "editor.h"
+#include "framework/editor.h"
 
 #include <memory>
 
