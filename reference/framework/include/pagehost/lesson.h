@@ -60,7 +60,7 @@ struct PageRestacked
 struct PageAppeared
 {
     qint32 page = 0;
-    QSizeF size; ///< scene units
+    QSizeF size;           ///< scene units
     QByteArray background; ///< what CPageBgProp::save() writes
 };
 
