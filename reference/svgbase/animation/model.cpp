@@ -3,6 +3,7 @@
 #include "animation/basevalue.h"
 #include "document/document.h"
 #include "grammar/paints.h"
+#include "style/cascade.h"
 
 #include <QtCore/QMap>
 
@@ -31,6 +32,7 @@ private:
     AnimatedAttribute &attributeOf(NodeIndex target, const QString &name, const ValueContext &context);
     ValueContext contextOf(NodeIndex target, const QString &name) const;
     QString baseOf(NodeIndex target, const QString &name) const;
+    bool isStyled(NodeIndex target, AttributeId id) const;
     void readTransform(NodeIndex index, NodeIndex target);
     void readMotion(NodeIndex index, NodeIndex target);
     void readPlain(NodeIndex index, NodeIndex target);
@@ -69,6 +71,14 @@ ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
     return context;
 }
 
+// Style may give an attribute's value in its place; only style can hide that.
+bool ModelReader::isStyled(NodeIndex target, AttributeId id) const
+{
+    const QVector<Attribute> &styled = m_document.facts(target)->style.attributes;
+    return std::any_of(styled.begin(), styled.end(),
+                       [id](const Attribute &attribute) { return attribute.id == id; });
+}
+
 QString ModelReader::baseOf(NodeIndex target, const QString &name) const
 {
     const AttributeId id = attributeId(name);
@@ -78,7 +88,8 @@ QString ModelReader::baseOf(NodeIndex target, const QString &name) const
             return computed;
     }
     const Node &node = m_tree.node(target);
-    const QString own = node.attributes.value(name);
+    const QString own = isStyled(target, id) ? styledAttribute(node, m_document.facts(target)->style, id)
+                                             : node.attributes.value(name);
     return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
 }
 
@@ -89,7 +100,7 @@ AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &nam
         attribute.target = target;
         attribute.name = name;
         attribute.id = attributeId(name);
-        attribute.isProperty = isProperty(attribute.id);
+        attribute.isProperty = isProperty(attribute.id) || isStyled(target, attribute.id);
         attribute.context = context;
         attribute.base = baseOf(target, name);
     }

@@ -32,7 +32,9 @@ QPainterPath referredPath(const Tree &tree, NodeIndex motionPath, const LengthCo
     if (id.isEmpty())
         id = localReference(attributes.value(AttributeId::XlinkHref));
     const NodeIndex target = tree.findId(id);
-    return target == noNode ? QPainterPath() : shapeGeometry(tree.node(target), lengths).path;
+    if (target == noNode)
+        return QPainterPath();
+    return shapeGeometry(tree.node(target), styleInTree(tree, target), lengths.viewport).path;
 }
 
 std::optional<QPointF> parsePlace(const QString &text, const LengthContext &lengths)
