@@ -108,7 +108,11 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
 {
     if (!level.used)
         return m_document.factsBelow(node, level.facts);
-    return Resolver(m_document.tree(), m_document.referenceRevision()).resolve(node, level.facts);
+    const Resolver resolver(m_document.tree(), m_document.referenceRevision());
+    if (m_document.tree().node(node).kind != ElementKind::Image)
+        return resolver.resolve(node, level.facts);
+    const FactsPointer own = m_document.facts(node);
+    return resolver.resolve(node, level.facts, own.data());
 }
 
 void Walk::visit(NodeIndex node, const FactsPointer &facts, bool used)

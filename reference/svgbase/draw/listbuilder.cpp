@@ -3,6 +3,7 @@
 #include "document/drawingwalk.h"
 #include "draw/controlpoints.h"
 #include "draw/effectbuilder.h"
+#include "draw/imagebuilder.h"
 #include "draw/layerwrapping.h"
 #include "draw/markerbuilder.h"
 
@@ -25,6 +26,7 @@ public:
 
     BuiltList build();
     QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
+    QVector<DisplayItem> buildNested(const FactsPointer &root);
 
 private:
     DrawingVisitor visitor();
@@ -104,8 +106,8 @@ void ListBuilder::endLayer()
 {
     QVector<DisplayItem> &items = target();
     const int begin = m_layers.constLast();
-    // A layer around one single stroke or fill is the same as fading that one.
-    const bool single = items.size() == begin + 2 && items.at(begin + 1).kind == DisplayItem::Shape;
+    // A layer around one single stroke, fill or image is the same as fading that one.
+    const bool single = items.size() == begin + 2;
     if (items.size() == begin + 1) {
         items.removeLast();
     } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
@@ -210,6 +212,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         addShape(node, facts, layered);
     if (facts->style.visible && hasMarkers(element.kind, *facts))
         addMarkers(node, facts);
+    if (facts->style.visible && facts->image)
+        appendImage(m_context, node, facts, &target());
     return true;
 }
 
@@ -247,12 +251,24 @@ QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPoin
     return m_result.items;
 }
 
+QVector<DisplayItem> ListBuilder::buildNested(const FactsPointer &root)
+{
+    m_isContent = true;
+    walkUsed(m_document, rootNode, root, visitor(), &m_context.budget);
+    return m_result.items;
+}
+
 } // namespace
+
+QVector<DisplayItem> buildNested(BuildContext &context, const FactsPointer &root)
+{
+    return ListBuilder(context, ContentUse::Drawing).buildNested(root);
+}
 
 BuiltList buildList(Document &document)
 {
     document.settle();
-    BuildContext context{document, {}, {}, 0, {}, false, noNode, QPointF()};
+    BuildContext context(document);
     return ListBuilder(context, ContentUse::Drawing).build();
 }
 

@@ -14,6 +14,7 @@
 namespace Svg {
 
 struct Facts;
+struct ImageContent;
 using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
 
 /// One outline with the paint that fills and strokes it; user units of its element.
@@ -44,6 +45,10 @@ struct Facts : QSharedData
     /// Counts changes of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
     ComputedStyle style;
+    /// What an "image" shows; null for other elements.
+    std::shared_ptr<const ImageContent> image;
+    /// How the box of an image's content, or a nested view box, is fitted into the units around it.
+    QTransform fit;
     /// Null outside of markers and used elements.
     std::shared_ptr<const PaintContext> context;
     /// What percentages refer to, user units.

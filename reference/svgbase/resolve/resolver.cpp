@@ -6,6 +6,7 @@
 #include "resolve/contextpaint.h"
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
+#include "resolve/images.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
@@ -94,7 +95,7 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
                                           lengths.value(AttributeId::Y, Axis::Vertical));
     } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
         const Fit fit = nestedFit(node, facts->style, facts->viewport);
-        local = fit.transform;
+        local = facts->fit = fit.transform;
         facts->viewport = fit.viewport;
     }
     if (node.kind == ElementKind::Document)
@@ -166,7 +167,27 @@ void Resolver::resolveText(NodeIndex index, Facts *facts) const
         addOutline(run.path, run.style, facts);
 }
 
-FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) const
+void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const
+{
+    const Node &node = m_tree.node(index);
+    const bool plain = node.attributes.contains(AttributeId::Href);
+    const QString reference = node.attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref);
+    QString problem;
+    if (elsewhere)
+        facts->image = elsewhere->image;
+    else if (!reference.isEmpty())
+        facts->image = readImage(reference, &problem);
+    if (!problem.isEmpty())
+        warn(node, problem);
+    const LengthReader lengths(node, facts->style, facts->viewport);
+    const ImagePlacement placement = imagePlacement(node, lengths, facts->image.get());
+    facts->hasGeometry = true;
+    facts->localBounds = placement.box;
+    facts->fit = placement.fit;
+    facts->bounds = mappedBounds(*facts, QPainterPath());
+}
+
+FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere) const
 {
     const Node &node = m_tree.node(index);
     auto *facts = new Facts;
@@ -181,6 +202,8 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
         facts->context = useContext(*facts);
     if (node.kind == ElementKind::Text)
         resolveText(index, facts);
+    else if (node.kind == ElementKind::Image)
+        resolveImage(index, elsewhere, facts);
     else
         resolveShape(index, facts);
     return result;
