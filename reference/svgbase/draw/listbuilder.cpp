@@ -4,6 +4,7 @@
 #include "draw/controlpoints.h"
 #include "draw/effectbuilder.h"
 #include "draw/imagebuilder.h"
+#include "draw/layereffects.h"
 #include "draw/layerwrapping.h"
 #include "draw/markerbuilder.h"
 
@@ -184,6 +185,22 @@ bool ListBuilder::isAllowed(ElementKind kind) const
     return hasGeometry(kind);
 }
 
+void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
+{
+    if (!*layer)
+        *layer = std::make_shared<LayerEffects>();
+    QPainterPath cut;
+    cut.addRect(*facts.cut);
+    const QTransform map = facts.aroundToDocument;
+    LayerEffects &effects = **layer;
+    if (effects.hasRegion)
+        effects.region = effects.regionToDocument.map(effects.region) & map.map(cut);
+    else
+        effects.region = cut;
+    effects.regionToDocument = effects.hasRegion ? QTransform() : map;
+    effects.hasRegion = true;
+}
+
 bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
 {
     const Node &element = m_document.tree().node(node);
@@ -203,6 +220,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
             m_context.control = noNode;
         return false;
     }
+    if (facts->cut && !isSilhouette())
+        addCut(*facts, &effects.layer);
     const bool layered = effects.layer || isFadedAsOne(node, facts);
     m_layers.append(noLayer);
     m_kinds.append(element.kind);

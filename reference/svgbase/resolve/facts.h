@@ -10,6 +10,7 @@
 #include <QtGui/QTransform>
 
 #include <memory>
+#include <optional>
 
 namespace Svg {
 
@@ -36,6 +37,13 @@ struct PaintContext
     QTransform toDocument;
 };
 
+/// The sides that are given; the others are the used element's own.
+struct UsedSize
+{
+    std::optional<double> width;
+    std::optional<double> height;
+};
+
 /// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
 /// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
 /// resolved against.
@@ -54,6 +62,12 @@ struct Facts : QSharedData
     /// What percentages refer to, user units.
     QSizeF viewport;
     QTransform toDocument;
+    /// Of a "use": the size that it gives a used "svg" or "symbol", user units.
+    UsedSize usedSize;
+    /// Of a viewport that cuts its content: its box, in the units around it.
+    std::optional<QRectF> cut;
+    /// Of a viewport: the units around it, where the cut stands.
+    QTransform aroundToDocument;
     /// Whether neither the element nor one above it has a "display" of none.
     bool displayed = true;
     /// One for most elements, one per differently painted part for text; none for an element without geometry.
