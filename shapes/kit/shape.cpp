@@ -342,6 +342,10 @@ void Shape::placeControlPoint(int index)
         return;
     const QRectF present = node->boundingRect();
     const QPointF centre = m_points.value(index);
+    // Sized anew for a zoom, a corner is a rounding error away from where it would be worked out; what is loaded must
+    // keep that to the bit.
+    if (rounded(present.center()) == centre)
+        return;
     node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
     node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
 }
