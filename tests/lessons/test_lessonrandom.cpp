@@ -21,8 +21,8 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int stepsForEachShape = 150;
-constexpr int stepsForAllShapes = 1200;
+constexpr int stepsForEachShape = 80;
+constexpr int stepsForAllShapes = 500;
 constexpr int mostObjects = 8;
 constexpr int mostPages = 4;
 
