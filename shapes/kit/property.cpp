@@ -319,9 +319,11 @@ QVector<double> NumberList::numbers() const
 
 void NumberList::setNumber(int index, double number)
 {
-    if (index < 0 || index >= m_count)
+    if (index < 0 || index >= m_count || !std::isfinite(number))
         return;
     QVector<double> all = numbers();
+    // A text of a damaged file may hold fewer.
+    all.resize(std::max(all.size(), m_count));
     all[index] = number;
     setNumbers(all);
 }

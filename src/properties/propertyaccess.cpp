@@ -31,20 +31,6 @@ void writeRaw(QDataStream &out, const QByteArray &bytes)
     out.writeRawData(bytes.constData(), bytes.size());
 }
 
-/// @name The list of pen widths, which begins with 1
-/// The ends of the integers, which no panel sends, wrap.
-/// @{
-qint32 listIndexOf(int width)
-{
-    return qint32(quint32(width) - 1u);
-}
-
-qint32 widthAt(qint32 index)
-{
-    return qint32(quint32(index) + 1u);
-}
-/// @}
-
 CSVGBaseUndoCmd *appliedCommand(CSVGBase *shape, ActionId actionId)
 {
     return new CSVGBaseUndoCmd(shape, actionId, nullptr, true);
@@ -64,7 +50,7 @@ bool CSVGBase::getInnerProperty(int propId, QDataStream &out)
         out << qint32(getPenStyle());
         return true;
     case PROP_SVG_PENWIDTH:
-        out << listIndexOf(getPenWidth());
+        out << qint32(getPenWidth() - 1); // the index in the list of widths
         return true;
     case PROP_SVG_FILLCOLOR:
         out << getFillBrush();
@@ -104,7 +90,7 @@ bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool a
         qint32 width = decodeValue<qint32>(in);
         // Intended: a panel, which records, sends the index in the list of widths; replay and undo send the width.
         if (record)
-            width = widthAt(width);
+            width = qint32(quint32(width) + 1u); // the largest one wraps
         if (addUndo) {
             CSVGBaseUndoCmd *command = appliedCommand(this, ACT_SVG_PENWIDTH);
             command->setInt(getPenWidth(), width);

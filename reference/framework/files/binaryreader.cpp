@@ -160,6 +160,7 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
         report(warning(QStringLiteral("IDS_FILE_OBJECT_LOST")), chunk.offset);
         return;
     }
+    record.isDamaged = record.isDamaged || chunk.isDamaged;
     FileMessage message = warning(QString());
     m_objects.append(m_factory.make(record, message));
     if (message.textKey.isEmpty() && chunk.isDamaged) {

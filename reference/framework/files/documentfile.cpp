@@ -5,13 +5,12 @@
 #include <files/chunks.h>
 #include <files/documentcodec.h>
 #include <files/durablefile.h>
+#include <files/jsonnames.h>
 #include <files/objectrecordstream.h>
 #include <files/placeholderobject.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-
-#include <cstring>
 
 namespace pagehost {
 
@@ -24,14 +23,11 @@ FileMessage writeProblem(const WriteResult &result, const QString &file)
                : error(QStringLiteral("IDS_FILE_CANNOT_WRITE"), {file, result.problem});
 }
 
+/// Of bytes without the binary format's signature. The brace may be what is damaged.
 bool looksLikeJson(const QByteArray &bytes)
 {
-    for (const char character : bytes) {
-        if (!std::strchr(" \t\r\n\xef\xbb\xbf", character)) {
-            return character == '{';
-        }
-    }
-    return false;
+    constexpr int headSize = 200;
+    return bytes.left(headSize).trimmed().startsWith('{') || bytes.left(headSize).contains(jsonnames::formatText);
 }
 
 } // namespace

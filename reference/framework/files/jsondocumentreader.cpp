@@ -53,13 +53,12 @@ std::unique_ptr<Document> JsonDocumentReader::read()
     if (m_isNewer) {
         return nullptr;
     }
-    if (m_document->pageCount() == 0 && (m_isLost || !m_hasFormat)) {
-        m_messages.append(
-            error(m_hasFormat ? QStringLiteral("IDS_FILE_NO_PAGE") : QStringLiteral("IDS_FILE_NO_DOCUMENT")));
-        return nullptr;
-    }
     if (!m_hasFormat && m_objectCount == 0) {
         m_messages = {error(QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
+        return nullptr;
+    }
+    if (m_document->pageCount() == 0 && m_isLost) {
+        m_messages.append(error(QStringLiteral("IDS_FILE_NO_PAGE")));
         return nullptr;
     }
     m_document->setLessons(m_lessons);
@@ -88,22 +87,33 @@ template<typename Function> void JsonDocumentReader::takeMembers(Function takeMe
     }
 }
 
-/// Of an array whose opening bracket comes next.
-template<typename Function> void JsonDocumentReader::takeElements(const char *name, Function takeElement)
+/// Of an array that should stand under `name`.
+template<typename Function>
+void JsonDocumentReader::takeElements(const QByteArray &key, const char *name, Function takeElement)
 {
-    if (m_cursor.peek() != '[') {
+    if (key != name) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), m_cursor.offset());
+    }
+    if (!m_cursor.take('[')) {
         takeValue();
         reportType(name);
         return;
     }
-    m_cursor.take('[');
     takeElement();
+}
+
+/// Whatever its name has become: whether an array comes next whose elements begin with this member.
+bool JsonDocumentReader::isArrayOf(const char *firstMember) const
+{
+    JsonCursor ahead(m_cursor);
+    QByteArray key;
+    return ahead.take('[') && ahead.take('{') && ahead.takeKey(key) && key == firstMember;
 }
 
 void JsonDocumentReader::takeDocumentMember(const QByteArray &key)
 {
-    if (key == pagesName) {
-        takeElements(pagesName, [this] { takePages(); });
+    if (key == pagesName || isArrayOf(pageName)) {
+        takeElements(key, pagesName, [this] { takePages(); });
         return;
     }
     const QJsonValue value = takeValue();
@@ -153,8 +163,8 @@ void JsonDocumentReader::takePage()
 
 void JsonDocumentReader::takePageMember(const QByteArray &key)
 {
-    if (key == objectsName) {
-        takeElements(objectsName, [this] { takeObjects(); });
+    if (key == objectsName || isArrayOf(kindName)) {
+        takeElements(key, objectsName, [this] { takeObjects(); });
         return;
     }
     const QJsonValue value = takeValue();
@@ -195,11 +205,13 @@ void JsonDocumentReader::takeObject()
     ++m_objectCount;
     ObjectRecord record;
     m_problem = {};
-    if (takeRecord(record)) {
+    const bool isRecord = takeRecord(record);
+    if (isRecord && !record.data.isEmpty()) {
         addObject(record, start);
         return;
     }
-    report(warning(syntaxKey, {m_problem.text}), m_problem.offset);
+    const FileMessage broken = warning(QStringLiteral("IDS_FILE_OBJECT_BROKEN"), {record.kindId});
+    report(isRecord ? broken : warning(syntaxKey, {m_problem.text}), isRecord ? start : m_problem.offset);
     keepBroken(start, record);
 }
 
@@ -247,6 +259,8 @@ bool JsonDocumentReader::readRecordMember(const QByteArray &key, const QByteArra
         record.id = id >= 0 && id <= std::numeric_limits<quint32>::max() ? quint32(id) : 0;
     } else if (key == zoomName) {
         record.zoom = value.toDouble(1);
+    } else if (key == damagedName) {
+        record.isDamaged = value.toBool();
     } else if (key == placeName) {
         const QJsonObject place = value.toObject();
         const QPointF pos(place.value(QLatin1String(xName)).toDouble(),

@@ -23,7 +23,8 @@ public:
 private:
     // Each takes what it is named after from the cursor; m_isLost afterwards when the text broke off there.
     template<typename Function> void takeMembers(Function takeMember);
-    template<typename Function> void takeElements(const char *name, Function takeElement);
+    template<typename Function> void takeElements(const QByteArray &key, const char *name, Function takeElement);
+    bool isArrayOf(const char *firstMember) const;
     void takeDocumentMember(const QByteArray &key);
     void takePageMember(const QByteArray &key);
     void takePages();

@@ -26,15 +26,6 @@ bool isJson(const QByteArray &text)
     return !problem.isThere;
 }
 
-QByteArray streamed(CBaseObject *object)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(chunks::streamVersion);
-    saveToStream(object, out);
-    return bytes;
-}
-
 void writeHead(JsonWriter &writer, const ObjectRecord &record)
 {
     writer.member(kindName, record.kindId);
@@ -43,6 +34,9 @@ void writeHead(JsonWriter &writer, const ObjectRecord &record)
     }
     if (record.zoom != 1) {
         writer.member(zoomName, record.zoom);
+    }
+    if (record.isDamaged) {
+        writer.member(damagedName, true);
     }
     if (record.place) {
         const QPointF pos = record.place->pos;

@@ -22,6 +22,7 @@ constexpr char placeName[] = "place";
 constexpr char xName[] = "x";
 constexpr char yName[] = "y";
 constexpr char lockedName[] = "locked";
+constexpr char damagedName[] = "damaged";
 constexpr char dataName[] = "data";
 constexpr char streamName[] = "stream";
 constexpr char textName[] = "text";

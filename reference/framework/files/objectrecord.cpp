@@ -57,6 +57,12 @@ bool loadFromStream(CBaseObject *object, const QByteArray &data)
     return loaded && in.status() == QDataStream::Ok && in.device()->atEnd();
 }
 
+/// Damaged data may load and yet be lost, as far as the object has no place for them.
+bool holdsAll(CBaseObject *object, const ObjectRecord &record)
+{
+    return !record.isDamaged || record.encoding != ObjectRecord::Stream || streamed(object) == record.data;
+}
+
 bool loadFromJson(CBaseObject *object, const ObjectRecord &record)
 {
     QJsonObject json = record.json.isEmpty() ? QJsonDocument::fromJson(record.data).object() : record.json;
@@ -94,6 +100,15 @@ bool saveToStream(CBaseObject *object, QDataStream &out)
     return object->save(out) && out.status() == QDataStream::Ok;
 }
 
+QByteArray streamed(CBaseObject *object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(chunks::streamVersion);
+    saveToStream(object, out);
+    return bytes;
+}
+
 CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
 {
     const ZoomScope zoom(record.zoom);
@@ -106,7 +121,7 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
     const bool loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
                                                                 : loadFromJson(object.get(), record);
     // Objects may forget to say that their base class refused its part.
-    if (!loaded || host.refusedState) {
+    if (!loaded || host.refusedState || !holdsAll(object.get(), record)) {
         return nullptr;
     }
     showWholeFill(object.get());

@@ -34,7 +34,8 @@ struct ObjectRecord
         1; ///< that the object followed: control points are saved by their corner, whose place hangs on it
     Encoding encoding = Stream;
     QByteArray data;
-    QJsonObject json; ///< what `data` say, when they have been parsed already
+    bool isDamaged = false; ///< the data are known not to be those that were saved
+    QJsonObject json;       ///< what `data` say, when they have been parsed already
     std::optional<Place> place;
 };
 
@@ -43,6 +44,7 @@ ObjectRecord headOf(CBaseObject *object);
 
 /// The streamed state of an object that is no placeholder; false when it could not be saved.
 bool saveToStream(CBaseObject *object, QDataStream &out);
+QByteArray streamed(CBaseObject *object);
 
 /// Makes objects of records, in the name of a document that they will belong to.
 class ObjectFactory

@@ -14,7 +14,8 @@ constexpr quint8 encodingBits = 0x0f;
 constexpr quint8 hasId = 0x10;
 constexpr quint8 hasPlace = 0x20;
 constexpr quint8 hasZoom = 0x40;
-constexpr quint8 knownBits = encodingBits | hasId | hasPlace | hasZoom;
+constexpr quint8 damaged = 0x80;
+constexpr quint8 knownBits = encodingBits | hasId | hasPlace | hasZoom | damaged;
 
 /// Longer ones are damage.
 constexpr int longestKindId = 1000;
@@ -22,7 +23,7 @@ constexpr int longestKindId = 1000;
 void writeHead(QDataStream &out, const ObjectRecord &record)
 {
     const quint8 flags = quint8(record.encoding) | (record.id ? hasId : 0) | (record.place ? hasPlace : 0) |
-                         (record.zoom != 1 ? hasZoom : 0);
+                         (record.zoom != 1 ? hasZoom : 0) | (record.isDamaged ? damaged : 0);
     const QByteArray kindId = record.kindId.toUtf8();
     out << flags << quint16(kindId.size());
     out.writeRawData(kindId.constData(), kindId.size());
@@ -65,6 +66,7 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
     }
     record.kindId = QString::fromUtf8(payload.constData() + kindStart, kindSize);
     record.encoding = ObjectRecord::Encoding(flags & encodingBits);
+    record.isDamaged = flags & damaged;
     in.skipRawData(kindSize);
     if (flags & hasId) {
         in >> record.id;

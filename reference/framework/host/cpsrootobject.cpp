@@ -132,7 +132,6 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
-    update();
     pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
     if (!page) {
         return;

@@ -22,8 +22,7 @@ public:
     Page *page() const { return m_page; }
     void setSize(const QSize &size);
     bool isFinished() const { return m_begun && m_next >= m_steps.size(); }
-    /// As large as the wanted size and the page's aspect ratio allow.
-    QImage picture() const;
+    const QImage &picture() const { return m_picture; }
 
     /// In the GUI thread, before each run: begins anew when the page has changed since the last.
     void prepare();
@@ -46,8 +45,7 @@ private:
     quint64 m_revision = 0;
     QVector<Step> m_steps;
     int m_next = 0;
-    QSize m_pictureSize;
-    QImage m_canvas; ///< the page so far, larger than the thumbnail
+    QImage m_picture;
 };
 
 } // namespace pagehost

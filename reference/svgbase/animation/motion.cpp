@@ -5,7 +5,6 @@
 #include "grammar/pathdata.h"
 #include "inputlimits.h"
 #include "resolve/geometry.h"
-#include "style/cascade.h"
 
 namespace Svg {
 

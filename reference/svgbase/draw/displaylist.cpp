@@ -40,8 +40,7 @@ constexpr double itemOverhead = 3000;
 double itemWeight(const DisplayItem &item)
 {
     const int elements = item.path.elementCount() + item.strokePath.elementCount();
-    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements +
-           double(item.picture.sizeInBytes());
+    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "draw/objectbounds.h"
 
+#include "grammar/transforms.h"
 #include "inputlimits.h"
 
 namespace Svg {
@@ -45,7 +46,9 @@ QTransform effectSpace(const Node &node, const Facts &facts)
 {
     if (node.kind != ElementKind::NestedSvg && node.kind != ElementKind::Symbol)
         return facts.toDocument;
-    return facts.aroundToDocument;
+    const QString text = node.attributes.value(AttributeId::Transform);
+    const QTransform own = text.isEmpty() ? QTransform() : parseTransform(text).value_or(QTransform());
+    return facts.parent ? own * facts.parent->toDocument : own;
 }
 
 QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &facts)

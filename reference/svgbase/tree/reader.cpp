@@ -44,7 +44,6 @@ private:
     QVector<NodeIndex> m_open;
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
-    bool m_withoutNamespace = false;
     int m_charactersLeft = Limits::textCharacters;
 };
 
@@ -85,8 +84,7 @@ void TreeReader::readDeclarations(Attributes *attributes) const
 ElementKind TreeReader::kindOfElement() const
 {
     const QStringRef space = m_xml.namespaceUri();
-    // Without a namespace at its root, a document is SVG all the same.
-    if (space != svgNamespace && (!space.isEmpty() || !m_withoutNamespace))
+    if (!space.isEmpty() && space != svgNamespace)
         return ElementKind::Other;
     const ElementKind kind = elementKind(m_xml.name());
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
@@ -112,8 +110,6 @@ void TreeReader::countNamespaces()
 
 void TreeReader::startElement()
 {
-    if (m_open.isEmpty())
-        m_withoutNamespace = m_xml.namespaceUri().isEmpty();
     Node node;
     node.kind = kindOfElement();
     if (m_open.isEmpty() && node.kind != ElementKind::Document) {

@@ -1,0 +1,196 @@
+#include "filetest.h"
+
+#include <pagehost/application.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QSignalSpy>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace pagehost;
+
+class TestAutosave : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void changedDocumentIsCopiedAfterTheInterval();
+    void unchangedDocumentIsNotCopied();
+    void sameChangesAreCopiedOnce();
+    void savedDocumentNeedsNoCopy();
+    void closedDocumentLeavesNothing();
+    void copyOfALivingProcessIsNotRecoverable();
+    void crashedProcessLeavesItsDocument();
+    void recoveredDocumentIsModified();
+    void discardedCopyIsGone();
+    void untitledDocumentHasNoOriginal();
+    void failureIsTold();
+
+private:
+    QVector<RecoverableDocument> crash(const QString &originalFile);
+
+    FileTestRegistry m_registry;
+    std::unique_ptr<QTemporaryDir> m_parent;
+    QString m_folder;
+    std::unique_ptr<Document> m_document;
+    Page *m_page = nullptr;
+};
+
+void TestAutosave::init()
+{
+    undoStack()->clear();
+    m_parent = std::make_unique<QTemporaryDir>();
+    m_folder = m_parent->filePath(QStringLiteral("recovery"));
+    m_document = std::make_unique<Document>();
+    setCurrentDocument(m_document.get());
+    m_page = m_document->appendPage();
+}
+
+void TestAutosave::cleanup()
+{
+    m_document.reset();
+}
+
+/// What a process leaves that autosaves the document with one object at (7, 8) and dies.
+QVector<RecoverableDocument> TestAutosave::crash(const QString &originalFile)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        Autosave autosave(m_folder);
+        autosave.setDocument(m_document.get(), originalFile);
+        addPlain(m_page, QPointF(7, 8));
+        m_document->noteChange();
+        autosave.saveNow();
+        ::raise(SIGKILL);
+    }
+    waitpid(child, nullptr, 0);
+    return Autosave(m_folder).recoverable();
+}
+
+void TestAutosave::changedDocumentIsCopiedAfterTheInterval()
+{
+    Autosave autosave(m_folder);
+    QCOMPARE(autosave.interval(), 60000);
+    autosave.setInterval(10);
+    QSignalSpy saved(&autosave, &Autosave::saved);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(saved.wait());
+    QCOMPARE(contentsOf(autosave.recoveryFile()), encodeDocument(*m_document, DocumentFormat::Binary));
+}
+
+void TestAutosave::unchangedDocumentIsNotCopied()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    QVERIFY(autosave.saveNow());
+    addObjects(m_page, {new TestObject});
+    undoStack()->undo();
+    QVERIFY(autosave.saveNow());
+    QVERIFY(!QDir(m_folder).exists());
+}
+
+void TestAutosave::sameChangesAreCopiedOnce()
+{
+    Autosave autosave(m_folder);
+    QSignalSpy saved(&autosave, &Autosave::saved);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    autosave.saveNow();
+    autosave.saveNow();
+    QCOMPARE(saved.count(), 1);
+    addObjects(m_page, {new TestObject});
+    autosave.saveNow();
+    QCOMPARE(saved.count(), 2);
+}
+
+void TestAutosave::savedDocumentNeedsNoCopy()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    autosave.saveNow();
+    QVERIFY(QFile::exists(autosave.recoveryFile()));
+    m_document->markSaved();
+    autosave.setOriginalFile(QStringLiteral("/lessons/one.board"));
+    QVERIFY(!QFile::exists(autosave.recoveryFile()));
+    autosave.saveNow();
+    QVERIFY(!QFile::exists(autosave.recoveryFile()));
+}
+
+void TestAutosave::closedDocumentLeavesNothing()
+{
+    {
+        Autosave autosave(m_folder);
+        autosave.setDocument(m_document.get(), QString());
+        addObjects(m_page, {new TestObject});
+        autosave.saveNow();
+        QCOMPARE(QDir(m_folder).entryList(QDir::Files).size(), 3);
+    }
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
+}
+
+void TestAutosave::copyOfALivingProcessIsNotRecoverable()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    autosave.saveNow();
+    QCOMPARE(autosave.recoverable().size(), 0);
+    QCOMPARE(Autosave(m_folder).recoverable().size(), 0);
+    QVERIFY(QFile::exists(autosave.recoveryFile()));
+}
+
+void TestAutosave::crashedProcessLeavesItsDocument()
+{
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+    const QVector<RecoverableDocument> copies = crash(QStringLiteral("/lessons/one.board"));
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(copies[0].originalFile, QStringLiteral("/lessons/one.board"));
+    QVERIFY(copies[0].time >= before && copies[0].time <= QDateTime::currentDateTime());
+}
+
+void TestAutosave::recoveredDocumentIsModified()
+{
+    const QVector<RecoverableDocument> copies = crash(QStringLiteral("/lessons/one.board"));
+    const Autosave autosave(m_folder);
+    const OpenResult opened = autosave.recover(copies.value(0), m_registry);
+    QVERIFY(opened.document);
+    QVERIFY(opened.document->isModified());
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(opened.document->page(0)->objects().last()->getPos(), QPointF(7, 8));
+    QVERIFY(QFile::exists(copies[0].recoveryFile));
+}
+
+void TestAutosave::discardedCopyIsGone()
+{
+    const QVector<RecoverableDocument> copies = crash(QString());
+    Autosave::discard(copies.value(0));
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
+    QCOMPARE(Autosave(m_folder).recoverable().size(), 0);
+}
+
+void TestAutosave::untitledDocumentHasNoOriginal()
+{
+    QCOMPARE(crash(QString()).value(0).originalFile, QString());
+}
+
+void TestAutosave::failureIsTold()
+{
+    writeContents(m_folder, "a file where the folder should be");
+    Autosave autosave(m_folder);
+    QSignalSpy failed(&autosave, &Autosave::failed);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(!autosave.saveNow());
+    QCOMPARE(failed.count(), 1);
+}
+
+QTEST_MAIN(TestAutosave)
+#include "test_autosave.moc"

@@ -1,0 +1,358 @@
+#include "filetest.h"
+
+#include <pagehost/application.h>
+#include <pagehost/pagepainter.h>
+#include <pagehost/selection.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+
+// Objects that cannot be made, and other parts of files that this program does not know.
+
+using namespace pagehost;
+
+namespace {
+
+std::unique_ptr<Document> documentWithObject()
+{
+    auto document = std::make_unique<Document>();
+    TestObject *object = addPlain(document->appendPage(QSizeF(400, 300)), QPointF(50, 60));
+    object->setRotation(10);
+    setObjectId(object, 5);
+    return document;
+}
+
+CBaseObject *firstObject(const OpenResult &opened)
+{
+    return opened.document ? opened.document->page(0)->objects().value(0) : nullptr;
+}
+
+QByteArray json(const QByteArray &object)
+{
+    return "{\"format\": \"gliololok board\", \"version\": 1, \"pages\": [\n{\"page\": 1, \"objects\": [\n" +
+           object + "\n]}]}";
+}
+
+} // namespace
+
+class TestPlaceholders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { undoStack()->clear(); }
+
+    void unknownKindKeepsItsPlaceAndBytes_data() { addFormats(); }
+    void unknownKindKeepsItsPlaceAndBytes();
+    void objectIsBackWhenItsPlugInIs_data() { addFormats(); }
+    void objectIsBackWhenItsPlugInIs();
+    void objectIsBackThroughTheOtherFormat_data() { addFormats(); }
+    void objectIsBackThroughTheOtherFormat();
+    void movedPlaceholderTakesItsObjectAlong_data() { addFormats(); }
+    void movedPlaceholderTakesItsObjectAlong();
+    void placeholderIsDeletedAndComesBack();
+    void placeholderIsDuplicated();
+    void placeholderIsADashedBox();
+    void placeholderCannotBeReshaped();
+    void brokenStateBecomesAPlaceholder();
+    void brokenJsonIsToldWithLineAndColumn();
+    void valueOfTheWrongTypeIsLeftOut();
+    void unknownPartsOfABinaryFileAreKept();
+    void unknownPartsOfAJsonFileAreKept();
+    void unknownPartsGoThroughTheOtherFormat();
+    void newerVersionIsRefused_data();
+    void newerVersionIsRefused();
+    void fileThatIsNoDocumentIsRefused_data();
+    void fileThatIsNoDocumentIsRefused();
+    void messagesSayWhere();
+
+private:
+    void addFormats();
+
+    FileTestRegistry m_registry;
+    ObjectRegistry m_ignorant;
+};
+
+void TestPlaceholders::addFormats()
+{
+    QTest::addColumn<DocumentFormat>("format");
+    QTest::newRow("binary") << DocumentFormat::Binary;
+    QTest::newRow("json") << DocumentFormat::Json;
+}
+
+void TestPlaceholders::unknownKindKeepsItsPlaceAndBytes()
+{
+    QFETCH(DocumentFormat, format);
+    const QByteArray bytes = encodeDocument(*documentWithObject(), format);
+    const OpenResult opened = decodeDocument(bytes, m_ignorant);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_UNKNOWN")});
+    QCOMPARE(opened.messages[0].page, 1);
+    QCOMPARE(opened.messages[0].object, 1);
+    QCOMPARE(opened.messages[0].arguments, QStringList{QStringLiteral("test.plain")});
+    CBaseObject *placeholder = firstObject(opened);
+    QVERIFY(isPlaceholder(placeholder));
+    QCOMPARE(placeholder->getPos(), QPointF(50, 60));
+    QCOMPARE(placeholder->rotation(), 10.0);
+    QCOMPARE(placeholder->getClientRect(), QRectF(0, 0, 100, 60));
+    QCOMPARE(kindIdOf(placeholder), QStringLiteral("test.plain"));
+    QCOMPARE(encodeDocument(*opened.document, format), bytes);
+}
+
+void TestPlaceholders::objectIsBackWhenItsPlugInIs()
+{
+    QFETCH(DocumentFormat, format);
+    const QByteArray bytes = encodeDocument(*documentWithObject(), format);
+    const OpenResult ignorant = decodeDocument(bytes, m_ignorant);
+    const OpenResult opened = decodeDocument(encodeDocument(*ignorant.document, format), m_registry);
+    QVERIFY(!isPlaceholder(firstObject(opened)));
+    QCOMPARE(objectId(firstObject(opened)), 5u);
+    QCOMPARE(encodeDocument(*opened.document, format), bytes);
+}
+
+void TestPlaceholders::objectIsBackThroughTheOtherFormat()
+{
+    QFETCH(DocumentFormat, format);
+    const DocumentFormat other = format == DocumentFormat::Json ? DocumentFormat::Binary : DocumentFormat::Json;
+    const QByteArray bytes = encodeDocument(*documentWithObject(), format);
+    const OpenResult ignorant = decodeDocument(bytes, m_ignorant);
+    const OpenResult converted = decodeDocument(encodeDocument(*ignorant.document, other), m_ignorant);
+    QVERIFY(isPlaceholder(firstObject(converted)));
+    QCOMPARE(encodeDocument(*converted.document, format), bytes);
+    const OpenResult opened = decodeDocument(encodeDocument(*converted.document, other), m_registry);
+    QVERIFY(!isPlaceholder(firstObject(opened)));
+    QCOMPARE(encodeDocument(*opened.document, format), bytes);
+}
+
+void TestPlaceholders::movedPlaceholderTakesItsObjectAlong()
+{
+    QFETCH(DocumentFormat, format);
+    const QByteArray bytes = encodeDocument(*documentWithObject(), format);
+    const OpenResult ignorant = decodeDocument(bytes, m_ignorant);
+    CBaseObject *placeholder = firstObject(ignorant);
+    QVERIFY(moveObjects({placeholder}, QPointF(7, -8)));
+    QVERIFY(setObjectsLocked({placeholder}, true));
+    const QByteArray moved = encodeDocument(*ignorant.document, format);
+    const OpenResult again = decodeDocument(moved, m_ignorant);
+    QCOMPARE(firstObject(again)->getPos(), QPointF(57, 52));
+    QVERIFY(firstObject(again)->isLocked());
+    const OpenResult opened = decodeDocument(moved, m_registry);
+    QVERIFY(!isPlaceholder(firstObject(opened)));
+    QCOMPARE(firstObject(opened)->getPos(), QPointF(57, 52));
+    QVERIFY(firstObject(opened)->isLocked());
+    undoStack()->undo();
+    undoStack()->undo();
+    QCOMPARE(encodeDocument(*ignorant.document, format), bytes);
+}
+
+void TestPlaceholders::placeholderIsDeletedAndComesBack()
+{
+    const QByteArray bytes = encodeDocument(*documentWithObject(), DocumentFormat::Binary);
+    const OpenResult opened = decodeDocument(bytes, m_ignorant);
+    Page *page = opened.document->page(0);
+    page->select(page->objects());
+    QVERIFY(deleteSelection(page));
+    QCOMPARE(page->objectCount(), 0);
+    undoStack()->undo();
+    QCOMPARE(encodeDocument(*opened.document, DocumentFormat::Binary), bytes);
+}
+
+void TestPlaceholders::placeholderIsDuplicated()
+{
+    const OpenResult opened =
+        decodeDocument(encodeDocument(*documentWithObject(), DocumentFormat::Binary), m_ignorant);
+    Page *page = opened.document->page(0);
+    page->select(page->objects());
+    const QVector<CBaseObject *> copies = duplicateSelection(page, &m_ignorant, QPointF(20, 30));
+    QCOMPARE(copies.size(), 1);
+    QVERIFY(isPlaceholder(copies[0]));
+    const OpenResult back = decodeDocument(encodeDocument(*opened.document, DocumentFormat::Binary), m_registry);
+    QVERIFY(!isPlaceholder(back.document->page(0)->objects().value(1)));
+    QCOMPARE(back.document->page(0)->objects().value(1)->getPos(), QPointF(70, 90));
+}
+
+void TestPlaceholders::placeholderIsADashedBox()
+{
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->page(0)->objects()[0]->setRotation(0);
+    const OpenResult opened = decodeDocument(encodeDocument(*document, DocumentFormat::Binary), m_ignorant);
+    const QImage picture = pageImage(opened.document->page(0), 1);
+    // Along the upper edge of the box, from (50, 60) to (150, 60), dashes and gaps take turns.
+    int dark = 0;
+    for (int x = 50; x < 150; ++x) {
+        dark += qGray(picture.pixel(x, 60)) < 200 ? 1 : 0;
+    }
+    QVERIFY(dark > 30 && dark < 90);
+    QCOMPARE(QColor(picture.pixel(48, 60)), QColor(Qt::white));
+    QVERIFY(QColor(picture.pixel(53, 117)) != QColor(Qt::white));
+}
+
+void TestPlaceholders::placeholderCannotBeReshaped()
+{
+    const OpenResult opened =
+        decodeDocument(encodeDocument(*documentWithObject(), DocumentFormat::Binary), m_ignorant);
+    CBaseObject *placeholder = firstObject(opened);
+    for (const OperationType operation : {OperationResize, OperationRotate, OperationMirror}) {
+        QVERIFY(!placeholder->canDo(operation));
+    }
+    for (const OperationType operation : {OperationMove, OperationDelete, OperationCopy, OperationReorder}) {
+        QVERIFY(placeholder->canDo(operation));
+    }
+}
+
+/// A rotation that is no number, which no user can make.
+void TestPlaceholders::brokenStateBecomesAPlaceholder()
+{
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->page(0)->objects()[0]->setRotation(std::numeric_limits<double>::infinity());
+    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
+        const QByteArray bytes = encodeDocument(*document, format);
+        const OpenResult opened = decodeDocument(bytes, m_registry);
+        QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_BROKEN")});
+        QVERIFY(isPlaceholder(firstObject(opened)));
+        QCOMPARE(encodeDocument(*opened.document, format), bytes);
+    }
+}
+
+void TestPlaceholders::brokenJsonIsToldWithLineAndColumn()
+{
+    QJsonObject data;
+    TestObject().saveJson(data);
+    const QByteArray whole =
+        "{\"kind\": \"test.plain\", \"data\": " + QJsonDocument(data).toJson(QJsonDocument::Compact) + "}";
+    // The second object stands on line 4 and lacks a value; column 41 is behind the "}" that comes instead.
+    const QByteArray bytes = json(whole + ",\n{\"kind\": \"test.plain\", \"data\": {\"pos\": }},\n" + whole);
+    const OpenResult opened = decodeDocument(bytes, m_registry);
+    QVERIFY(opened.document);
+    const QVector<CBaseObject *> objects = opened.document->page(0)->objects();
+    QCOMPARE(objects.size(), 3);
+    QVERIFY(isPlaceholder(objects[1]));
+    const FileMessage message = opened.messages.value(0);
+    QCOMPARE(message.textKey, QStringLiteral("IDS_FILE_SYNTAX"));
+    QCOMPARE(message.page, 1);
+    QCOMPARE(message.object, 2);
+    QCOMPARE(message.line, 4);
+    QCOMPARE(message.column, 41);
+    // Its text comes out of the next file as it went in.
+    const QByteArray saved = encodeDocument(*opened.document, DocumentFormat::Json);
+    QVERIFY(saved.contains(QByteArray("{\"kind\": \"test.plain\", \"data\": {\"pos\": }}").toBase64()));
+}
+
+void TestPlaceholders::valueOfTheWrongTypeIsLeftOut()
+{
+    const OpenResult opened = decodeDocument(
+        "{\"format\": \"gliololok board\", \"version\": 1, \"pages\": [{\"page\": 1, \"objects\": 7}]}",
+        m_registry);
+    QVERIFY(opened.document);
+    QCOMPARE(opened.document->pageCount(), 1);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_WRONG_TYPE")});
+    QCOMPARE(opened.messages[0].arguments, QStringList{QStringLiteral("objects")});
+}
+
+void TestPlaceholders::unknownPartsOfABinaryFileAreKept()
+{
+    const std::unique_ptr<Document> document = documentWithObject();
+    const ExtraData ofDocument{{{"NEWD", "of the document"}}, {}};
+    const ExtraData ofPage{{{"NEWP", "of the page"}, {"NEWP", ""}}, {}};
+    document->setExtraData(ofDocument);
+    document->page(0)->setExtraData(ofPage);
+    const QByteArray bytes = encodeDocument(*document, DocumentFormat::Binary);
+    const OpenResult opened = decodeDocument(bytes, m_registry);
+    QVERIFY(opened.messages.isEmpty());
+    QVERIFY(opened.document->extraData() == ofDocument);
+    QVERIFY(opened.document->page(0)->extraData() == ofPage);
+    QCOMPARE(encodeDocument(*opened.document, DocumentFormat::Binary), bytes);
+}
+
+void TestPlaceholders::unknownPartsOfAJsonFileAreKept()
+{
+    const QByteArray bytes = "{\"format\": \"gliololok board\", \"version\": 1, \"author\": {\"age\": 41},\n"
+                             "\"pages\": [{\"page\": 1, \"grid\": [1, 2.5, null], \"objects\": []}]}";
+    const OpenResult opened = decodeDocument(bytes, m_registry);
+    QVERIFY(opened.messages.isEmpty());
+    const QJsonObject saved =
+        QJsonDocument::fromJson(encodeDocument(*opened.document, DocumentFormat::Json)).object();
+    QCOMPARE(saved.value(QLatin1String("author")).toObject(), (QJsonObject{{QStringLiteral("age"), 41}}));
+    const QJsonObject page = saved.value(QLatin1String("pages")).toArray().at(0).toObject();
+    QCOMPARE(page.value(QLatin1String("grid")).toArray(), (QJsonArray{1, 2.5, QJsonValue::Null}));
+}
+
+void TestPlaceholders::unknownPartsGoThroughTheOtherFormat()
+{
+    const std::unique_ptr<Document> document = documentWithObject();
+    const ExtraData extra{{{"NEWD", QByteArray("\x00\xff", 2)}}, {{QStringLiteral("author"), QStringLiteral("Ä")}}};
+    document->setExtraData(extra);
+    document->page(0)->setExtraData(extra);
+    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
+        const OpenResult opened = decodeDocument(encodeDocument(*document, format), m_registry);
+        QVERIFY(opened.document->extraData() == extra);
+        QVERIFY(opened.document->page(0)->extraData() == extra);
+    }
+}
+
+void TestPlaceholders::newerVersionIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    // Signature; "VERS", 8 bytes, checksums; version 2, 1 page.
+    QTest::newRow("binary") << QByteArray::fromHex("894252440d0a1a0a"
+                                                   "564552530000000868e5bc9fb0b94eef"
+                                                   "0000000200000001");
+    QTest::newRow("json") << QByteArray("{\"format\": \"gliololok board\", \"version\": 2, \"pages\": []}");
+    QTest::newRow("json, version last")
+        << QByteArray("{\"format\": \"gliololok board\", \"pages\": [{\"page\": 1}], \"version\": 2}");
+}
+
+void TestPlaceholders::newerVersionIsRefused()
+{
+    QFETCH(QByteArray, bytes);
+    const OpenResult opened = decodeDocument(bytes, m_registry);
+    QVERIFY(!opened.document);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_NEWER_VERSION")});
+    QCOMPARE(opened.messages[0].severity, FileMessage::Error);
+    QCOMPARE(describe(opened.messages[0], Localizer()),
+             QStringLiteral("The file is of version 2, made by a newer program. This one reads up to version 1."));
+}
+
+void TestPlaceholders::fileThatIsNoDocumentIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("text") << QByteArray("Dear reader");
+    QTest::newRow("other json") << QByteArray("{\"name\": \"board\", \"version\": \"1.0\"}");
+    QTest::newRow("other json with pages") << QByteArray("{\"pages\": [{\"width\": 3}]}");
+    QTest::newRow("json array") << QByteArray("[1, 2]");
+    QTest::newRow("picture") << QByteArray("\x89PNG\r\n\x1a\n");
+    QTest::newRow("zeros") << QByteArray(100000, '\0');
+}
+
+void TestPlaceholders::fileThatIsNoDocumentIsRefused()
+{
+    QFETCH(QByteArray, bytes);
+    const OpenResult opened = decodeDocument(bytes, m_registry);
+    QVERIFY(!opened.document);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_NO_DOCUMENT")});
+}
+
+void TestPlaceholders::messagesSayWhere()
+{
+    FileMessage message;
+    message.textKey = QStringLiteral("IDS_FILE_OBJECT_UNKNOWN");
+    message.arguments = QStringList{QStringLiteral("%1 & co")};
+    message.page = 2;
+    message.object = 3;
+    message.offset = 99;
+    Localizer localizer;
+    QCOMPARE(
+        describe(message, localizer),
+        QStringLiteral("No plug-in knows the kind \"%1 & co\"; a placeholder keeps the object. (page 2, object 3, "
+                       "byte 99)"));
+    message.line = 4;
+    message.column = 5;
+    localizer.setLanguage(QStringLiteral("de"));
+    QCOMPARE(
+        describe(message, localizer),
+        QStringLiteral("Kein Plug-in kennt die Art „%1 & co“; ein Platzhalter bewahrt das Objekt auf. (Seite 2, "
+                       "Objekt 3, Zeile 4, Spalte 5)"));
+}
+
+QTEST_MAIN(TestPlaceholders)
+#include "test_placeholders.moc"
