@@ -4,16 +4,13 @@ using namespace shapekit;
 
 /// A thick arrow to the right. One control point sets the length of the head and the thickness of the shaft, the
 /// other the depth of a notch in its tail; each leaves the other its room.
-class BlockArrow : public Shape
+class BlockArrow : public ShapeOfType<5>
 {
 public:
-    explicit BlockArrow(CSVGObj *owner)
-        : Shape(owner, 5)
-    {
-        smallestSize = {32, 24};
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
+    QSizeF smallestSize() const override { return {32, 24}; }
     QRectF range(int number) override
     {
         if (number == 1)

@@ -4,16 +4,13 @@ using namespace shapekit;
 
 /// A balloon for what somebody says. Its sides grow with the page object; its corners and the root of its tail keep
 /// their size. The control point is the tip of the tail.
-class Callout : public Shape
+class Callout : public ShapeOfType<6>
 {
 public:
-    explicit Callout(CSVGObj *owner)
-        : Shape(owner, 6)
-    {
-        smallestSize = {72, 60};
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
+    QSizeF smallestSize() const override { return {72, 60}; }
     QRectF range(int) override { return between({4, height() - tailHeight + 4}, {width() - 4, height() - 4}); }
     void draw() override
     {

@@ -6,16 +6,13 @@ const Text valuesText("Values", "Werte");
 
 /// The graph of a function that is known at a dozen places: the user drags its points up and down, or writes its
 /// values, from -10 to 10, as text.
-class Curve : public Shape
+class Curve : public ShapeOfType<31>
 {
 public:
-    explicit Curve(CSVGObj *owner)
-        : Shape(owner, 31)
-    {
-        smallestSize = {60, 40};
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
+    QSizeF smallestSize() const override { return {60, 40}; }
     QPointF wantedPoint(int number) override
     {
         const double step = (width() - 2 * margin) / std::max(1, pointCount() - 1);

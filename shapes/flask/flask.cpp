@@ -4,13 +4,10 @@ using namespace shapekit;
 
 /// A conical laboratory flask, drawn by its template alone and stretched with the page object; its control point
 /// sets the level of the liquid. The fill colours the liquid, the pen draws the glass.
-class Flask : public Shape
+class Flask : public ShapeOfType<30, Shape::Stretched>
 {
 public:
-    explicit Flask(CSVGObj *owner)
-        : Shape(owner, 30, Stretched)
-    {
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
     void draw() override

@@ -4,6 +4,7 @@
 #include <QtGui/QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace shapekit {
 
@@ -13,6 +14,8 @@ namespace {
 constexpr int numberDigits = 10;
 /// Letters are laid out at this size and then brought to theirs, so that hinting doesn't show.
 constexpr int layoutPixels = 100;
+/// Letters are made of many points; these are whole multiples of 1 / this.
+constexpr double letterPrecision = 100;
 /// The height of digits as a part of the size of their font.
 constexpr double digitPart = 0.72;
 
@@ -126,7 +129,11 @@ PathText &PathText::text(QPointF centre, const QString &text, double height)
     const QPainterPath letters = lettersOf(text);
     const double scale = height / (layoutPixels * digitPart);
     const QPointF middle(letters.boundingRect().center().x(), -layoutPixels * digitPart / 2);
-    const auto placed = [&](int i) { return centre + (QPointF(letters.elementAt(i)) - middle) * scale; };
+    const auto placed = [&](int i) {
+        const QPointF point = centre + (QPointF(letters.elementAt(i)) - middle) * scale;
+        return QPointF(std::round(point.x() * letterPrecision), std::round(point.y() * letterPrecision)) /
+               letterPrecision;
+    };
     for (int i = 0; i < letters.elementCount(); ++i) {
         switch (letters.elementAt(i).type) {
         case QPainterPath::MoveToElement:

@@ -65,8 +65,6 @@ Shape::Shape(CSVGObj *owner, int type, Sizing sizing)
     keepAspectRatio = sizing == Stretched;
     resizeRewritesSVG = m_redrawn;
     rawControlPoints = m_redrawn;
-    const double smallest = m_redrawn ? smallestRedrawnSide : smallestStretchedSide;
-    smallestSize = QSizeF(smallest, smallest);
 }
 
 bool Shape::loadSVG(bool initGlobals)
@@ -124,7 +122,13 @@ void Shape::notifyObjectCreated()
 
 QSizeF Shape::getMinimizeSize()
 {
-    return smallestSize;
+    return smallestSize();
+}
+
+QSizeF Shape::smallestSize() const
+{
+    const double side = m_redrawn ? smallestRedrawnSide : smallestStretchedSide;
+    return {side, side};
 }
 
 void Shape::updateOutlineRegion()
@@ -187,6 +191,17 @@ double Shape::getYMax(QZeSvgNode *node)
     return index < 0 ? CSVGBase::getYMax(node) : range(index + 1).bottom() - node->boundingRect().height() / 2;
 }
 
+bool Shape::CanMoveControlPoint(QZeSvgNode *node, QPointF pos)
+{
+    const int index = indexOf(node);
+    return index < 0 || mayMove(index + 1, QRectF(pos, node->boundingRect().size()).center());
+}
+
+bool Shape::mayMove(int, QPointF)
+{
+    return true;
+}
+
 QRectF Shape::range(int number)
 {
     return templateRange(number);
@@ -239,7 +254,9 @@ void Shape::setPath(const char *id, const PathText &path)
 
 void Shape::set(const char *id, const char *attribute, const QString &value)
 {
-    if (QZeSvgNode *target = node(id))
+    // What stays as it is keeps sharing its geometry with all shapes of the same template.
+    QZeSvgNode *target = node(id);
+    if (target && target->attribute(QLatin1String(attribute)) != value)
         target->setAttribute(QLatin1String(attribute), value);
 }
 
@@ -372,6 +389,11 @@ QPointF onCircle(QPointF centre, double radius, double degrees)
 {
     const double angle = qDegreesToRadians(degrees);
     return centre + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+}
+
+QPointF stretched(QPointF vector, QSizeF factor)
+{
+    return {vector.x() * factor.width(), vector.y() * factor.height()};
 }
 
 double angleOf(QPointF point, QPointF centre)

@@ -27,8 +27,7 @@ public:
     /// What becomes of the drawing when the page object gets another size.
     enum Sizing {
         Redrawn, ///< drawn anew: lines keep their width, corners stay round; the document is as large as the object
-        Stretched,       ///< stretched like a picture, in its own proportions
-        StretchedFreely, ///< stretched like a picture, in any proportions
+        Stretched ///< stretched like a picture, in its own proportions
     };
 
     Shape(CSVGObj *owner, int type, Sizing sizing = Redrawn);
@@ -48,6 +47,7 @@ public:
     double getXMax(QZeSvgNode *node) override;
     double getYMin(QZeSvgNode *node) override;
     double getYMax(QZeSvgNode *node) override;
+    bool CanMoveControlPoint(QZeSvgNode *node, QPointF pos) override;
 
 protected:
     /// @name What a shape says about itself. Points and sizes are document units.
@@ -58,6 +58,10 @@ protected:
     virtual QRectF range(int number);
     /// Where a control point that was put to `centre` stands, by default the nearest place in its range.
     virtual QPointF settled(int number, QPointF centre);
+    /// The smallest size of an object, item units; 24 × 24, or 16 × 16 if it is stretched.
+    virtual QSizeF smallestSize() const;
+    /// Refuses a place that a drag would take a control point to: the point stays where it is then.
+    virtual bool mayMove(int number, QPointF centre);
     /// Writes the geometry for the present points, size and properties.
     virtual void draw() {}
     /// The user, or a file, put the centre of a control point there.
@@ -85,9 +89,6 @@ protected:
     void set(const char *id, const char *attribute, double value);
     /// Turns a node clockwise about a point.
     void rotate(const char *id, double degrees, QPointF about);
-    /// The smallest size of an object, item units; 24 × 24, and 16 on the shorter side of a stretched one, at
-    /// first.
-    QSizeF smallestSize;
     /// @}
 
 private:
@@ -108,10 +109,22 @@ private:
     QMap<int, DraggedPlaces> m_dragged; ///< by index
 };
 
+/// A shape of a type number, which is saved with it and tells who fills it (StyledShape).
+template<int Type, Shape::Sizing sizing = Shape::Redrawn> class ShapeOfType : public Shape
+{
+public:
+    explicit ShapeOfType(CSVGObj *owner)
+        : Shape(owner, Type, sizing)
+    {
+    }
+};
+
 /// The rectangle between two points that need not be in order; limits that leave no room give the second point's.
 QRectF between(QPointF first, QPointF second);
 /// The point of a circle at an angle in degrees, clockwise from the top.
 QPointF onCircle(QPointF centre, double radius, double degrees);
+/// A vector with each coordinate multiplied by a side.
+QPointF stretched(QPointF vector, QSizeF factor);
 /// The angle of a point seen from a centre, degrees clockwise from the top, 0 to 360.
 double angleOf(QPointF point, QPointF centre);
 

@@ -8,6 +8,9 @@ namespace {
 
 /// The host's number for page objects that are shapes.
 constexpr int shapeKind = 1001;
+/// Shapes that have a drawing scale are of a sub type of their own, which the library gives to opened ones.
+constexpr int scaledType = 26;
+constexpr int scaledSubType = 13001;
 
 } // namespace
 
@@ -17,6 +20,8 @@ ShapeObject::ShapeObject(const Kind &kind)
 {
     svgBase = m_kind.makeCore(this);
     svgBase->loadSVG(true);
+    if (svgBase->getSVGType() == scaledType)
+        setSubType(scaledSubType);
 }
 
 bool ShapeObject::createSVGBase(int type, bool initGlobals)

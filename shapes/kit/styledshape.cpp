@@ -57,9 +57,14 @@ QPainterPath hitAreaOfLine(const QZeSvgNode &node)
     return stroker.createStroke(outlineOf(node));
 }
 
+QString areaId()
+{
+    return QStringLiteral("area");
+}
+
 bool isFigure(const QString &id)
 {
-    return id == QLatin1String("figure") || id.startsWith(QLatin1String("figure_"));
+    return id == QLatin1String("figure") || id == areaId() || id.startsWith(QLatin1String("figure_"));
 }
 
 } // namespace
@@ -145,7 +150,8 @@ void StyledShape::updateOutlineRegion()
     outlineRegion = new QPainterPath;
     outlineRegion->setFillRule(Qt::WindingFill);
     for (const QZeSvgNode *figure : qAsConst(m_figures))
-        outlineRegion->addPath(propFillEnabled ? outlineOf(*figure) : hitAreaOfLine(*figure));
+        outlineRegion->addPath(propFillEnabled || figure->nodeId() == areaId() ? outlineOf(*figure)
+                                                                               : hitAreaOfLine(*figure));
 }
 
 bool StyledShape::isFilledByPageObject() const
@@ -163,13 +169,16 @@ void StyledShape::readLook()
     if (!document || m_lookRead)
         return;
     m_lookRead = true;
-    forEachNode(*document, [this](QZeSvgNode &node, const QString &keeps, bool followsPen) {
-        if (keeps.contains(QLatin1String("fill")) || followsPen)
+    forEachNode(*document, [this](QZeSvgNode &node, const NodeLook &look) {
+        // Only ever off: a fill or stroke of "none" has switched it off already.
+        if (look.keepsFill || look.fillFollowsPen)
             node.setFillEnabled(false);
-        if (keeps.contains(QLatin1String("stroke")))
+        if (look.keepsStroke || look.strokeFollowsPen)
             node.setStrokeEnabled(false);
-        if (followsPen)
-            m_penFollowers.append(&node);
+        if (look.fillFollowsPen)
+            m_pennedFills.append(&node);
+        if (look.strokeFollowsPen)
+            m_pennedLines.append(&node);
         if (isFigure(node.nodeId()))
             m_figures.append(&node);
     });
@@ -180,9 +189,14 @@ void StyledShape::readLook()
 void StyledShape::colorPenFollowers()
 {
     const QColor color = getPenColor();
-    for (QZeSvgNode *follower : qAsConst(m_penFollowers)) {
-        follower->setAttribute(QStringLiteral("fill"), color.name());
-        follower->setAttribute(QStringLiteral("fill-opacity"), QString::number(color.alphaF()));
+    const QString opacity = QString::number(color.alphaF());
+    for (QZeSvgNode *node : qAsConst(m_pennedFills)) {
+        node->setAttribute(QStringLiteral("fill"), color.name());
+        node->setAttribute(QStringLiteral("fill-opacity"), opacity);
+    }
+    for (QZeSvgNode *node : qAsConst(m_pennedLines)) {
+        node->setAttribute(QStringLiteral("stroke"), color.name());
+        node->setAttribute(QStringLiteral("stroke-opacity"), opacity);
     }
 }
 

@@ -16,7 +16,8 @@ namespace shapekit {
 /// Attributes of template nodes that are read here; those of a group hold for all that is in it:
 /// - `keeps="fill"`, `keeps="stroke"`, `keeps="fill stroke"`: that look is the node's own, whatever the user
 /// chooses;
-/// - `fill_follows="pen"`: filled with the colour of the pen, as letters and arrow heads are.
+/// - `fill_follows="pen"`: filled with the colour of the pen, as letters and arrow heads are;
+/// - `stroke_follows="pen"`: a line in the colour of the pen, but of its own width and style, as fine ticks are.
 class StyledShape : public CSVGBase
 {
 public:
@@ -53,7 +54,8 @@ private:
     bool m_lookRead = false;
     QBrush m_templateFill;
     QVector<QZeSvgNode *> m_figures;
-    QVector<QZeSvgNode *> m_penFollowers; ///< nodes that are filled with the colour of the pen
+    QVector<QZeSvgNode *> m_pennedFills; ///< nodes that are filled with the colour of the pen
+    QVector<QZeSvgNode *> m_pennedLines; ///< nodes whose lines have the colour of the pen and nothing else of it
 };
 
 } // namespace shapekit

@@ -11,16 +11,25 @@ namespace {
 struct Visit
 {
     QZeSvgNode *node;
-    QString keeps;
-    bool followsPen;
+    NodeLook look; ///< of the groups that the node is in
 };
 
+NodeLook withOwn(NodeLook look, const QZeSvgNode &node)
+{
+    const QString keeps = node.attribute(QStringLiteral("keeps"));
+    look.keepsFill |= keeps.contains(QLatin1String("fill"));
+    look.keepsStroke |= keeps.contains(QLatin1String("stroke"));
+    look.fillFollowsPen |= node.attribute(QStringLiteral("fill_follows")) == QLatin1String("pen");
+    look.strokeFollowsPen |= node.attribute(QStringLiteral("stroke_follows")) == QLatin1String("pen");
+    return look;
+}
+
 /// Appends visits of the children, the first one last, so that it is taken first.
-void addChildren(QVector<Visit> &pending, const QZeSvgStructureNode &parent, const QString &keeps, bool followsPen)
+void addChildren(QVector<Visit> &pending, const QZeSvgStructureNode &parent, const NodeLook &look)
 {
     const QList<QZeSvgNode *> children = parent.children();
     for (int i = children.size() - 1; i >= 0; --i)
-        pending.append({children.at(i), keeps, followsPen});
+        pending.append({children.at(i), look});
 }
 
 } // namespace
@@ -28,16 +37,13 @@ void addChildren(QVector<Visit> &pending, const QZeSvgStructureNode &parent, con
 void forEachNode(const QZeSvgStructureNode &root, const LookVisitor &visit)
 {
     QVector<Visit> pending;
-    addChildren(pending, root, {}, false);
+    addChildren(pending, root, {});
     while (!pending.isEmpty()) {
-        Visit next = pending.takeLast();
-        const QString own = next.node->attribute(QStringLiteral("keeps"));
-        if (!own.isEmpty())
-            next.keeps += QLatin1Char(' ') + own;
-        next.followsPen |= next.node->attribute(QStringLiteral("fill_follows")) == QLatin1String("pen");
-        visit(*next.node, next.keeps, next.followsPen);
+        const Visit next = pending.takeLast();
+        const NodeLook look = withOwn(next.look, *next.node);
+        visit(*next.node, look);
         if (next.node->type() == QZeSvgNode::Group)
-            addChildren(pending, *static_cast<QZeSvgStructureNode *>(next.node), next.keeps, next.followsPen);
+            addChildren(pending, *static_cast<QZeSvgStructureNode *>(next.node), look);
     }
 }
 

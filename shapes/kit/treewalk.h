@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QtCore/QString>
-
 #include <functional>
 
 class QZeSvgNode;
@@ -9,9 +7,16 @@ class QZeSvgStructureNode;
 
 namespace shapekit {
 
-/// Called with a node, with what it and its groups say under "keeps", and whether it or one of them has
-/// fill_follows="pen".
-using LookVisitor = std::function<void(QZeSvgNode &node, const QString &keeps, bool followsPen)>;
+/// What a template says about the look of a node, on the node or on a group that it is in.
+struct NodeLook
+{
+    bool keepsFill = false;
+    bool keepsStroke = false;
+    bool fillFollowsPen = false;
+    bool strokeFollowsPen = false;
+};
+
+using LookVisitor = std::function<void(QZeSvgNode &node, const NodeLook &look)>;
 
 /// Visits all nodes below `root` in document order, groups before what is in them.
 void forEachNode(const QZeSvgStructureNode &root, const LookVisitor &visit);

@@ -4,13 +4,10 @@ using namespace shapekit;
 
 /// A closed figure of straight lines whose corners are its control points: as many as the template has, or as a
 /// saved polygon brings along.
-class Polygon : public Shape
+class Polygon : public ShapeOfType<9>
 {
 public:
-    explicit Polygon(CSVGObj *owner)
-        : Shape(owner, 9)
-    {
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
     void draw() override

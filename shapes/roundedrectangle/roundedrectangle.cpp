@@ -3,13 +3,10 @@
 using namespace shapekit;
 
 /// A rectangle with round corners; its control point sets their radius.
-class RoundedRectangle : public Shape
+class RoundedRectangle : public ShapeOfType<1>
 {
 public:
-    explicit RoundedRectangle(CSVGObj *owner)
-        : Shape(owner, 1)
-    {
-    }
+    using ShapeOfType::ShapeOfType;
 
 protected:
     QRectF range(int) override { return between({handle, 12}, {handle + shorterSide() / 2, 12}); }

@@ -29,7 +29,7 @@ namespace {
 
 constexpr unsigned startValue = 31;
 constexpr double tolerance = 0.01; // item units
-constexpr double frameMargin = 4;  // half a control point
+constexpr double frameMargin = 8;  // around lines, so that they can be hit
 
 struct Pose
 {
@@ -55,7 +55,8 @@ const Pose poses[] = {
 /// Shapes that keep their points on a line or circle of their own: a drag takes these to the nearest place there.
 QStringList boundPoints()
 {
-    return {};
+    return {QStringLiteral("clock"), QStringLiteral("pendulum"), QStringLiteral("pie"),
+            QStringLiteral("protractor"), QStringLiteral("star")};
 }
 
 /// Of any channel: painting over a transparent picture and that over white rounds twice.

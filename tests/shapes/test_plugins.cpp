@@ -46,12 +46,28 @@ struct KnownShape
 };
 
 constexpr KnownShape knownShapes[] = {
+    {"ellipse", 0, 0, "Ellipse", "Ellipse", "Basic shapes"},
     {"roundedrectangle", 1, 1, "Rounded rectangle", "Abgerundetes Rechteck", "Basic shapes"},
+    {"pie", 3, 2, "Pie", "Kreissektor", "Mathematics"},
     {"blockarrow", 5, 2, "Block arrow", "Blockpfeil", "Basic shapes"},
     {"callout", 6, 1, "Callout", "Sprechblase", "Basic shapes"},
+    {"triangle", 7, 3, "Triangle", "Dreieck", "Basic shapes"},
+    {"star", 8, 1, "Star", "Stern", "Basic shapes"},
     {"polygon", 9, 5, "Polygon", "Vieleck", "Basic shapes"},
+    {"cube", 11, 1, "Cube", "Quader", "Mathematics"},
+    {"cylinder", 12, 1, "Cylinder", "Zylinder", "Mathematics"},
+    {"ring", 26, 1, "Ring", "Ring", "Basic shapes"},
+    {"brace", 28, 1, "Brace", "Geschweifte Klammer", "Mathematics"},
     {"flask", 30, 1, "Flask", "Kolben", "Science"},
     {"curve", 31, 12, "Curve", "Kurve", "Mathematics"},
+    {"numberline", 32, 1, "Number line", "Zahlenstrahl", "Mathematics"},
+    {"axes", 33, 1, "Axes", "Koordinatenachsen", "Mathematics"},
+    {"protractor", 34, 1, "Protractor", "Winkelmesser", "Mathematics"},
+    {"clock", 35, 2, "Clock", "Uhr", "Mathematics"},
+    {"pendulum", 36, 1, "Pendulum", "Pendel", "Science"},
+    {"spring", 37, 1, "Spring", "Feder", "Science"},
+    {"gears", 38, 0, "Gears", "Zahnräder", "Science"},
+    {"table", 1000, 1, "Table", "Tabelle", "Basic shapes"},
 };
 
 } // namespace

@@ -19,9 +19,9 @@ using shapetest::ShapeDriver;
 namespace {
 
 constexpr unsigned startValue = 20240229;
-constexpr int editCount = 40;
-constexpr int damagedCount = 40;
-constexpr int undoneEditCount = 60;
+constexpr int editCount = 25;
+constexpr int damagedCount = 12;
+constexpr int undoneEditCount = 30;
 
 QByteArray savedBytes(const ShapeDriver &shape)
 {

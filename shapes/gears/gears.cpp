@@ -1,0 +1,39 @@
+#include <kit/shape.h>
+
+using namespace shapekit;
+
+const Text drivingText("Driving teeth", "Zähne treibend"), drivenText("Driven teeth", "Zähne getrieben");
+
+/// Two gears that turn each other; the numbers of their teeth say how large they are and how fast they turn.
+class Gears : public ShapeOfType<38, Shape::Stretched>
+{
+public:
+    using ShapeOfType::ShapeOfType;
+
+protected:
+    void draw() override
+    {
+        const double module = std::min(128 / (driving + driven + 1.7), 86 / (std::max<int>(driving, driven) + 1.7));
+        const double left = 70 - module * (driven + 0.0) / 2;
+        drawGear("driving", driving, module, left, 0);
+        drawGear("driven", driven, module, left + module * (driving + driven) / 2, driven % 2 ? 0 : 180.0 / driven);
+        set("driving_turn", "dur", QStringLiteral("%1s").arg(driving * 0.5));
+        set("driven_turn", "dur", QStringLiteral("%1s").arg(driven * 0.5));
+    }
+
+private:
+    void drawGear(const QString &id, int teeth, double module, double x, double turned)
+    {
+        PathText rim;
+        for (int i = 0; i < 4 * teeth; ++i) {
+            const QPointF corner = onCircle({0, 0}, module * (teeth + (i % 4 < 2 ? 1.7 : -2.1)) / 2,
+                                            turned + (i - 0.5) * 90.0 / teeth + 90);
+            i == 0 ? rim.moveTo(corner) : rim.lineTo(corner);
+        }
+        setPath(("figure_" + id).toLatin1(), rim.close().ellipse({-3.5, -3.5, 7, 7}));
+        set((id + "_place").toLatin1(), "transform", QStringLiteral("translate(%1 48)").arg(x));
+    }
+    WholeNumber driving{this, drivingText, 12, 6, 40}, driven{this, drivenText, 18, 6, 40};
+};
+
+SHAPEKIT_PLUGIN(Gears, "Gears", "Zahnräder", Science)

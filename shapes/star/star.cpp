@@ -1,0 +1,40 @@
+#include <kit/shape.h>
+
+using namespace shapekit;
+
+const Text cornersText("Corners", "Zacken");
+
+/// A star: as many corners as the user wants, and as deep between them as the control point goes.
+class Star : public ShapeOfType<8>
+{
+public:
+    using ShapeOfType::ShapeOfType;
+
+protected:
+    QPointF settled(int, QPointF centre) override { return corner(1, depth(centre), QRectF(QPointF(), size())); }
+    void draw() override
+    {
+        PathText figure;
+        figure.moveTo(corner(0, 1, frame()));
+        for (int i = 1; i < 2 * corners; ++i)
+            figure.lineTo(corner(i, i % 2 ? depth(point(1)) : 1, frame()));
+        setPath("figure", figure.close());
+    }
+
+private:
+    /// How far from the middle a place is, in steps of a thousandth: the same for every number of corners.
+    double depth(QPointF place) const
+    {
+        const QPointF arm = place - middle();
+        const double part = std::hypot(arm.x() / width(), arm.y() / height()) * 2;
+        return std::clamp(std::round(part * 1000) / 1000, 0.15, 0.95);
+    }
+    /// Corners and what is between them, from the top; `depth` is the part of the way from the middle.
+    QPointF corner(int index, double depth, const QRectF &box) const
+    {
+        return middle() + stretched(onCircle({0, 0}, depth, index * 180.0 / corners), box.size() / 2);
+    }
+    WholeNumber corners{this, cornersText, 5, 3, 24};
+};
+
+SHAPEKIT_PLUGIN(Star, "Star", "Stern", Basic)
