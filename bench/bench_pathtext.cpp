@@ -123,10 +123,36 @@ void writeList(benchmark::State &state, const NumberTexts &texts)
     setCharacters(state, size);
 }
 
-/// Widths of a path of `pieces` pieces, all of them edited.
+const QString stretchedPiece = QStringLiteral("h12.5v-7l3,4z");
+constexpr int lengthBegin = 1;
+constexpr int lengthEnd = 5;
+
+QString pathOf(int pieces)
+{
+    return QLatin1String("M0,0") + stretchedPiece.repeated(pieces);
+}
+
+/// The floor: the lengths, whose places are known, are read by QString::toDouble and written by QString::number.
+void stretchPeer(benchmark::State &state, int pieces)
+{
+    const QString path = pathOf(pieces);
+    for (auto _ : state) {
+        QString result = path.left(4);
+        for (int begin = 4; begin < path.size(); begin += stretchedPiece.size()) {
+            const double length = path.midRef(begin + lengthBegin, lengthEnd - lengthBegin).toDouble();
+            result += path.midRef(begin, lengthBegin);
+            result += QString::number(length + 2, 'g', 6);
+            result += path.midRef(begin + lengthEnd, stretchedPiece.size() - lengthEnd);
+        }
+        benchmark::DoNotOptimize(result);
+    }
+    setCharacters(state, path.size());
+}
+
+/// All widths of the path.
 void stretch(benchmark::State &state, int pieces)
 {
-    const QString path = QLatin1String("M0,0") + QString::fromLatin1("h12.5v-7l3,4z").repeated(pieces);
+    const QString path = pathOf(pieces);
     Shape shape;
     for (auto _ : state)
         benchmark::DoNotOptimize(shape.changePathWidth(path, 2, 0));
@@ -151,7 +177,9 @@ void registerPathTextBenchmarks()
         add("number-writing/peer", writePeer);
         add("number-writing/list", writeList);
     }
-    for (const int pieces : {100, 10000})
-        benchmark::RegisterBenchmark(("path-stretching/gliololok/" + std::to_string(pieces) + "-pieces").c_str(),
-                                     stretch, pieces);
+    for (const int pieces : {100, 10000}) {
+        const std::string name = "/" + std::to_string(pieces) + "-pieces";
+        benchmark::RegisterBenchmark(("path-stretching/peer" + name).c_str(), stretchPeer, pieces);
+        benchmark::RegisterBenchmark(("path-stretching/gliololok" + name).c_str(), stretch, pieces);
+    }
 }

@@ -64,7 +64,9 @@ void PageView::setPage(pagehost::Page *page)
     setScene(page ? page->scene() : nullptr);
     if (!page)
         return;
-    connect(page, &pagehost::Page::contentChanged, viewport(), QOverload<>::of(&QWidget::update));
+    // Only the hint of an empty page is the view's own; objects ask for repaints themselves.
+    connect(page, &pagehost::Page::objectAdded, viewport(), QOverload<>::of(&QWidget::update));
+    connect(page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
     connect(page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
     if (page->document())

@@ -66,6 +66,14 @@ constexpr int animationValues = 10000;
 /// Most begins and ends of animations that are worked out from one moment shown to the next; what would come later
 /// does not happen.
 constexpr int animationEvents = 100000;
+/// Most pixels of an image, judged from its header, and of all different images of a drawing.
+constexpr int imagePixels = 64 * 1024 * 1024;
+/// The same, each image counted every time that it is shown.
+constexpr int shownImagePixels = 256 * 1024 * 1024;
+/// Memory of decoded images that are kept for the next drawing, bytes of the whole process.
+constexpr int keptPictureBytes = 64 * 1024 * 1024;
+/// Deepest nesting of documents in images of documents.
+constexpr int imageDepth = 4;
 /// Most messages that a document keeps.
 constexpr int messages = 100;
 

@@ -28,6 +28,9 @@ constexpr quint32 controlPointCapacity = 32;
 constexpr double placesPerUnit = 1 << 20;
 /// A point this near to where its shape would have it stays; else it would creep with every reading.
 constexpr double settledEpsilon = 4 / placesPerUnit;
+/// Document units; far less than the distance of two places, far more than what is lost when a corner is worked
+/// out.
+constexpr double roundingEpsilon = 1e-9;
 /// Half of a control point in a template: limits there are those of its corner.
 constexpr double templateHalf = 4;
 /// Points that limit each other settle within this many rounds.
@@ -361,6 +364,10 @@ void Shape::placeControlPoint(int index)
         return;
     const QRectF present = node->boundingRect();
     const QPointF centre = m_points.value(index);
+    // Sized anew for a zoom, a corner is a rounding error away from where it would be worked out; what is loaded
+    // must keep that to the bit.
+    if (isNear(present.center(), centre, roundingEpsilon))
+        return;
     node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
     node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
 }

@@ -102,7 +102,7 @@ bool CSVGBase::SetSettingJson(const QString &json, bool record, bool undo)
         apply(PROP_SVG_PENSTYLE, encodeValues(lineStyleOfAnswer(values.value(lineStyleId))));
     if (propPenEnabled && values.contains(outlineColorId))
         apply(PROP_SVG_PENCOLOR, encodeValues(namedColor(values.value(outlineColorId))));
-    if (propFillEnabled && values.contains(fillColorId)) {
+    if (document && propFillEnabled && values.contains(fillColorId)) {
         QBrush brush = getFillBrush(); // its style stays
         brush.setColor(namedColor(values.value(fillColorId)));
         apply(PROP_SVG_FILLCOLOR, encodeValues(brush));

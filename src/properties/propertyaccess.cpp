@@ -31,6 +31,20 @@ void writeRaw(QDataStream &out, const QByteArray &bytes)
     out.writeRawData(bytes.constData(), bytes.size());
 }
 
+/// @name The list of pen widths, which begins with 1
+/// The ends of the integers, which no panel sends, wrap.
+/// @{
+qint32 listIndexOf(int width)
+{
+    return qint32(quint32(width) - 1u);
+}
+
+qint32 widthAt(qint32 index)
+{
+    return qint32(quint32(index) + 1u);
+}
+/// @}
+
 CSVGBaseUndoCmd *appliedCommand(CSVGBase *shape, ActionId actionId)
 {
     return new CSVGBaseUndoCmd(shape, actionId, nullptr, true);
@@ -50,7 +64,7 @@ bool CSVGBase::getInnerProperty(int propId, QDataStream &out)
         out << qint32(getPenStyle());
         return true;
     case PROP_SVG_PENWIDTH:
-        out << qint32(getPenWidth() - 1); // the index in the list of widths
+        out << listIndexOf(getPenWidth());
         return true;
     case PROP_SVG_FILLCOLOR:
         out << getFillBrush();
@@ -90,7 +104,7 @@ bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool a
         qint32 width = decodeValue<qint32>(in);
         // Intended: a panel, which records, sends the index in the list of widths; replay and undo send the width.
         if (record)
-            width = qint32(quint32(width) + 1u); // the largest one wraps
+            width = widthAt(width);
         if (addUndo) {
             CSVGBaseUndoCmd *command = appliedCommand(this, ACT_SVG_PENWIDTH);
             command->setInt(getPenWidth(), width);

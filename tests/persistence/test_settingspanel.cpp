@@ -32,6 +32,8 @@ private Q_SLOTS:
     void aFillAnswerKeepsTheBrushStyle();
     void anAnswerThatIsNoneChangesNothing();
     void theShapesOwnAnswersComeLast();
+    void unknownAnswersCountForTheGroup();
+    void withoutDocumentNothingIsSet();
 
 private:
     QJsonArray settings();
@@ -213,6 +215,25 @@ void TestSettingsPanel::theShapesOwnAnswersComeLast()
     QCOMPARE(seen, (QMap<QString, QString>{{"own", "5"}}));
     QVERIFY(recordSeen);
     QVERIFY(!undoSeen);
+}
+
+void TestSettingsPanel::unknownAnswersCountForTheGroup()
+{
+    fixture->load();
+    recording::framework().settings = {{"idOutlineColor", "#ff00ff00"}, {"idSomethingElse", "1"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), false, true));
+    QCOMPARE(recording::names({"beginUndoGroup", "push", "endUndoGroup"}),
+             QStringList({"framework.beginUndoGroup", "undo.push", "framework.endUndoGroup"}));
+}
+
+void TestSettingsPanel::withoutDocumentNothingIsSet()
+{
+    fixture->shape->propFillEnabled = true;
+    fixture->shape->propPenStyleEnabled = true;
+    recording::framework().settings = {
+        {"idLineStyle", "1"}, {"idOutlineColor", "#ff00ff00"}, {"idFillColor", "#800000ff"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), true, true));
+    QCOMPARE(recording::count("push") + recording::count("RecordAction"), 0);
 }
 
 QTEST_MAIN(TestSettingsPanel)

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void aStyleThatThereIsNotIsASolidLine();
     void aBrushThatEndsTooEarlyHasNoColour();
     void aRecordedWidthIsOneMoreThanAReplayedOne();
+    void theSmallestWidthWraps();
 };
 
 namespace {
@@ -384,6 +385,14 @@ void TestAccess::aRecordedWidthIsOneMoreThanAReplayedOne()
     QCOMPARE(full.shape->getPenWidth(), 3);
     full.shape->setInnerProperty(5004, inputOf(qint32(2)), false, false);
     QCOMPARE(full.shape->getPenWidth(), 2);
+}
+
+void TestAccess::theSmallestWidthWraps()
+{
+    FullShape full;
+    full.shape->document->setAllStrokeWidth(-1e30);
+    QCOMPARE(full.shape->getPenWidth(), std::numeric_limits<int>::min());
+    QCOMPARE(full.inner(5004), bytesOf(qint32(std::numeric_limits<int>::max())));
 }
 
 QTEST_MAIN(TestAccess)

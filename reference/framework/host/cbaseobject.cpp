@@ -23,6 +23,9 @@ CBaseObject::CBaseObject(int kind, bool selectable, QGraphicsItem *parent, IPsPa
 {
     setFlag(ItemIsSelectable, selectable);
     setFlag(ItemSendsGeometryChanges);
+    // Views keep a picture of each object and paint it anew after update(): an untouched page costs next to
+    // nothing.
+    setCacheMode(DeviceCoordinateCache);
 }
 
 CBaseObject::~CBaseObject() = default;

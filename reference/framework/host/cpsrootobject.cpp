@@ -132,6 +132,7 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
+    update();
     pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
     if (!page) {
         return;

@@ -8,6 +8,7 @@
 #include <files/objectrecordstream.h>
 #include <host/rootobjectprivate.h>
 #include <lessons/documentsteps.h>
+#include <lessons/exactloading.h>
 #include <lessons/objectdata.h>
 #include <lessons/replaying.h>
 
@@ -107,6 +108,11 @@ CBaseObject *LessonStage::makeObject(ObjectRecord record) const
     // The lesson may go before the object.
     record.data = QByteArray(record.data.constData(), record.data.size());
     FileMessage message;
+    CBaseObject *made = ObjectFactory(*m_registry).make(record, message);
+    if (record.encoding != ObjectRecord::Stream || isPlaceholder(made) || loadExactly(*made, record.data)) {
+        return made;
+    }
+    delete made;
     return ObjectFactory(*m_registry).make(record, message);
 }
 

@@ -28,7 +28,7 @@ PageScene::PageScene(Page *page)
     connect(this, &QGraphicsScene::selectionChanged, this, &PageScene::updateOverlay);
     if (Document *document = page->document()) {
         connect(document, &Document::zoomRateChanged, this, &PageScene::zoomChanged);
-        connect(document, &Document::documentStateChanged, this, &PageScene::updateOverlay);
+        connect(document, &Document::documentStateChanged, this, &PageScene::stateChanged);
         connect(document, &Document::editingBlockedChanged, this, &PageScene::updateOverlay);
     }
     m_overlayTimer.setSingleShot(true);
@@ -243,6 +243,16 @@ void PageScene::repaintOverlay()
     const QRectF covered = overlayBounds(*m_page).united(highlightBounds(m_highlight, m_pixel));
     update(m_overlay.united(covered));
     m_overlay = covered;
+}
+
+// Control points show in selected objects only.
+void PageScene::stateChanged()
+{
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    for (CBaseObject *object : selected) {
+        object->CPSRootObject::update();
+    }
+    updateOverlay();
 }
 
 void PageScene::zoomChanged()

@@ -22,7 +22,8 @@ public:
     Page *page() const { return m_page; }
     void setSize(const QSize &size);
     bool isFinished() const { return m_begun && m_next >= m_steps.size(); }
-    const QImage &picture() const { return m_picture; }
+    /// As large as the wanted size and the page's aspect ratio allow.
+    QImage picture() const;
 
     /// In the GUI thread, before each run: begins anew when the page has changed since the last.
     void prepare();
@@ -45,7 +46,8 @@ private:
     quint64 m_revision = 0;
     QVector<Step> m_steps;
     int m_next = 0;
-    QImage m_picture;
+    QSize m_pictureSize;
+    QImage m_canvas; ///< the page so far, larger than the thumbnail
 };
 
 } // namespace pagehost

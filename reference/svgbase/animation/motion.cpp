@@ -5,6 +5,7 @@
 #include "grammar/pathdata.h"
 #include "inputlimits.h"
 #include "resolve/geometry.h"
+#include "style/cascade.h"
 
 namespace Svg {
 

@@ -1,9 +1,10 @@
 #include "document/drawingwalk.h"
 
 #include "document/document.h"
-#include "grammar/paints.h"
 #include "inputlimits.h"
+#include "resolve/conditions.h"
 #include "resolve/resolver.h"
+#include "tree/references.h"
 
 namespace Svg {
 
@@ -70,20 +71,18 @@ bool Walk::isOpen(NodeIndex node) const
 
 NodeIndex Walk::usedNode(const Node &use) const
 {
-    QString id = localReference(use.attributes.value(AttributeId::Href));
-    if (id.isEmpty())
-        id = localReference(use.attributes.value(AttributeId::XlinkHref));
-    const NodeIndex target = m_document.tree().findId(id);
+    const NodeIndex target = m_document.tree().findId(hrefTarget(use.attributes));
     if (target == noNode || target == rootNode || isOpen(target) || m_useDepth >= Limits::useDepth)
         return noNode;
     const ElementKind kind = m_document.tree().node(target).kind;
     return isDrawable(kind) || kind == ElementKind::Symbol ? target : noNode;
 }
 
-NodeIndex firstDrawableChild(const Tree &tree, NodeIndex parent)
+// The one child of a "switch" that is drawn, if any (SVG 1.1 §5.8.2).
+NodeIndex firstAllowedChild(const Tree &tree, NodeIndex parent)
 {
     NodeIndex child = tree.node(parent).firstChild;
-    while (child != noNode && !isDrawable(tree.node(child).kind))
+    while (child != noNode && !(isDrawable(tree.node(child).kind) && passesConditions(tree.node(child))))
         child = tree.node(child).next;
     return child;
 }
@@ -96,7 +95,7 @@ Level Walk::childrenOf(NodeIndex index, const FactsPointer &facts, bool used) co
         level.nextChild = usedNode(node);
         level.single = level.used = true;
     } else if (node.kind == ElementKind::Switch) {
-        level.nextChild = firstDrawableChild(m_document.tree(), index);
+        level.nextChild = firstAllowedChild(m_document.tree(), index);
         level.single = true;
     } else if (isStructure(node.kind)) {
         level.nextChild = node.firstChild;
@@ -108,7 +107,11 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
 {
     if (!level.used)
         return m_document.factsBelow(node, level.facts);
-    return Resolver(m_document.tree(), m_document.referenceRevision()).resolve(node, level.facts);
+    const Resolver resolver(m_document.tree(), m_document.referenceRevision());
+    if (m_document.tree().node(node).kind != ElementKind::Image)
+        return resolver.resolve(node, level.facts);
+    const FactsPointer own = m_document.facts(node);
+    return resolver.resolve(node, level.facts, own.data());
 }
 
 void Walk::visit(NodeIndex node, const FactsPointer &facts, bool used)

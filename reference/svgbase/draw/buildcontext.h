@@ -3,11 +3,18 @@
 #include "document/document.h"
 #include "document/drawingwalk.h"
 
+#include <QtCore/QSet>
+
 namespace Svg {
 
 /// What all parts of a list share while it is built.
 struct BuildContext
 {
+    explicit BuildContext(Document &built)
+        : document(built)
+    {
+    }
+
     Document &document;
     /// What was taken by references; bounding boxes count apart.
     WalkBudget budget;
@@ -15,6 +22,12 @@ struct BuildContext
     int boundsVisits = 0;
     /// Clip paths, masks and markers whose content is being built; one of them in its own content is an error.
     QVector<NodeIndex> open;
+    /// Images that are shown, their pixels, and the same counted for every time that they are.
+    QSet<const ImageContent *> images;
+    qint64 imagePixels = 0;
+    qint64 shownPixels = 0;
+    /// How many images this document stands in.
+    int imageDepth = 0;
     /// Whether anything blends with what lies below it.
     bool blends = false;
     /// The control point that is being visited, and its centre in document units.

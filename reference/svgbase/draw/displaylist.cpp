@@ -40,7 +40,8 @@ constexpr double itemOverhead = 3000;
 double itemWeight(const DisplayItem &item)
 {
     const int elements = item.path.elementCount() + item.strokePath.elementCount();
-    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements;
+    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements +
+           double(item.picture.sizeInBytes());
 }
 
 } // namespace

@@ -12,7 +12,7 @@ struct LayerEffects;
 /// One thing to paint, with its outline and pens mapped to the painter's coordinates.
 struct DisplayItem
 {
-    enum Kind { Shape, BeginLayer, EndLayer };
+    enum Kind { Shape, Image, BeginLayer, EndLayer };
     Kind kind = Shape;
     /// A shape of a clip path: its outline is filled by the clip rule, whatever its paint.
     bool silhouette = false;
@@ -37,6 +37,12 @@ struct DisplayItem
     QPen pen;
     /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
     QPainterPath strokePath;
+    /// What an image shows, scaled down where it is much larger than its place, and where it goes: a part of it
+    /// into a rectangle of its element's units, these into the painter's.
+    QImage picture;
+    QRectF pictureSource;
+    QRectF pictureTarget;
+    QTransform pictureTransform;
     /// Everything that the item paints, painter coordinates.
     QRectF bounds;
 };

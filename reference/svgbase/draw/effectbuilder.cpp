@@ -5,7 +5,7 @@
 #include "draw/listbuilder.h"
 #include "draw/objectbounds.h"
 #include "draw/openreference.h"
-#include "grammar/transforms.h"
+#include "resolve/resolver.h"
 
 #include <optional>
 
@@ -78,7 +78,8 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
         return false;
     const OpenReference open(m_context, clip);
     const Attributes &attributes = element(clip).attributes;
-    const QTransform own = parseTransform(attributes.value(AttributeId::Transform)).value_or(QTransform());
+    const Resolver resolver(m_context.document.tree(), m_context.document.referenceRevision());
+    const QTransform own = resolver.ownTransform(element(clip), *m_context.document.facts(clip));
     const bool ofBounds = attributes.value(QStringLiteral("clipPathUnits")) == objectBoundingBox;
     FactsPointer facts;
     if (!contentFacts(clip, ofBounds, own, &facts))

@@ -2,6 +2,7 @@
 
 #include "draw/layereffects.h"
 #include "inputlimits.h"
+#include "resolve/images.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainterPathStroker>
@@ -14,6 +15,8 @@ namespace {
 
 /// Relative difference below which two scales count as one.
 constexpr double scaleTolerance = 1e-6;
+/// Down to this size the painter's own smoothing of a picture is good enough.
+constexpr double smoothFactor = 0.5;
 /// How far a flattened curve may stray, painter units; what Qt's painters use.
 constexpr double curveThreshold = 0.25;
 /// The same as a share of the size of what is flattened.
@@ -178,6 +181,43 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
 }
 
+// How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
+QSizeF shrinkage(const DisplayItem &item)
+{
+    const QRectF target = item.pictureTransform.mapRect(item.pictureTarget);
+    if (item.pictureTransform.type() > QTransform::TxScale || item.pictureSource.isEmpty())
+        return QSizeF(1, 1);
+    return QSizeF(target.width() / item.pictureSource.width(), target.height() / item.pictureSource.height());
+}
+
+// Painters look at four pixels for each of their own; averaging all of them is done once.
+void shrinkPicture(DisplayItem *item)
+{
+    const QSizeF factor = shrinkage(*item);
+    if (!item->facts->style.smoothImages || (factor.width() > smoothFactor && factor.height() > smoothFactor))
+        return;
+    const QSize size(qMax(1, qCeil(item->picture.width() * qMin(1.0, factor.width()))),
+                     qMax(1, qCeil(item->picture.height() * qMin(1.0, factor.height()))));
+    const QTransform scale = QTransform::fromScale(double(size.width()) / item->picture.width(),
+                                                   double(size.height()) / item->picture.height());
+    item->picture = item->picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    item->pictureSource = scale.mapRect(item->pictureSource);
+}
+
+void mapImage(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+{
+    const Facts &facts = *item->facts;
+    item->mapped = true;
+    item->pictureTransform = itemTransform(*item, stretch, world);
+    item->bounds = item->pictureTransform.mapRect(item->pictureTarget);
+    if (!isPaintable(item->bounds))
+        item->bounds = QRectF();
+    item->picture = item->bounds.isEmpty() ? QImage() : decodedPicture(facts.image);
+    item->pictureSource = facts.fit.inverted().mapRect(item->pictureTarget);
+    if (!item->picture.isNull())
+        shrinkPicture(item);
+}
+
 void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world)
 {
     LayerEffects *effects = item->effects.get();
@@ -239,6 +279,8 @@ void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTra
         layered = layered || item.kind == DisplayItem::BeginLayer;
         if (item.kind == DisplayItem::Shape && !item.mapped)
             mapShape(&item, stretch, world);
+        else if (item.kind == DisplayItem::Image && !item.mapped)
+            mapImage(&item, stretch, world);
         else if (item.effects)
             mapEffects(&item, stretch, world);
     }

@@ -111,6 +111,7 @@ public:
 
 private:
     void paintShape(const DisplayItem &item);
+    void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
     void endLayer();
     void finish(Layer *layer);
@@ -143,6 +144,21 @@ void ItemPainter::paintShape(const DisplayItem &item)
     painter->drawPath(item.path);
     if (!item.strokePath.isEmpty())
         painter->fillPath(item.strokePath, item.pen.brush());
+}
+
+void ItemPainter::paintImage(const DisplayItem &item)
+{
+    if (item.picture.isNull())
+        return;
+    const Layer &layer = m_layers.back();
+    QPainter *painter = layer.painter;
+    const QTransform before = painter->worldTransform();
+    painter->setOpacity(layer.opacity * item.opacity);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, item.facts->style.smoothImages);
+    painter->setWorldTransform(item.pictureTransform, true);
+    painter->drawImage(item.pictureTarget, item.picture, item.pictureSource);
+    painter->setWorldTransform(before);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
 // False when nothing of the layer shows, so that all of it is passed over.
@@ -280,6 +296,9 @@ void ItemPainter::paint(const QVector<DisplayItem> &items)
         switch (item.kind) {
         case DisplayItem::Shape:
             paintShape(item);
+            break;
+        case DisplayItem::Image:
+            paintImage(item);
             break;
         case DisplayItem::BeginLayer:
             if (!beginLayer(item))

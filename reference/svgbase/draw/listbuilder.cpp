@@ -3,6 +3,8 @@
 #include "document/drawingwalk.h"
 #include "draw/controlpoints.h"
 #include "draw/effectbuilder.h"
+#include "draw/imagebuilder.h"
+#include "draw/layereffects.h"
 #include "draw/layerwrapping.h"
 #include "draw/markerbuilder.h"
 
@@ -25,6 +27,7 @@ public:
 
     BuiltList build();
     QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
+    QVector<DisplayItem> buildNested(const FactsPointer &root);
 
 private:
     DrawingVisitor visitor();
@@ -104,8 +107,8 @@ void ListBuilder::endLayer()
 {
     QVector<DisplayItem> &items = target();
     const int begin = m_layers.constLast();
-    // A layer around one single stroke or fill is the same as fading that one.
-    const bool single = items.size() == begin + 2 && items.at(begin + 1).kind == DisplayItem::Shape;
+    // A layer around one single stroke, fill or image is the same as fading that one.
+    const bool single = items.size() == begin + 2;
     if (items.size() == begin + 1) {
         items.removeLast();
     } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
@@ -182,6 +185,22 @@ bool ListBuilder::isAllowed(ElementKind kind) const
     return hasGeometry(kind);
 }
 
+void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
+{
+    if (!*layer)
+        *layer = std::make_shared<LayerEffects>();
+    QPainterPath cut;
+    cut.addRect(*facts.cut);
+    const QTransform map = facts.aroundToDocument;
+    LayerEffects &effects = **layer;
+    if (effects.hasRegion)
+        effects.region = effects.regionToDocument.map(effects.region) & map.map(cut);
+    else
+        effects.region = cut;
+    effects.regionToDocument = effects.hasRegion ? QTransform() : map;
+    effects.hasRegion = true;
+}
+
 bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
 {
     const Node &element = m_document.tree().node(node);
@@ -201,6 +220,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
             m_context.control = noNode;
         return false;
     }
+    if (facts->cut && !isSilhouette())
+        addCut(*facts, &effects.layer);
     const bool layered = effects.layer || isFadedAsOne(node, facts);
     m_layers.append(noLayer);
     m_kinds.append(element.kind);
@@ -210,6 +231,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         addShape(node, facts, layered);
     if (facts->style.visible && hasMarkers(element.kind, *facts))
         addMarkers(node, facts);
+    if (facts->style.visible && facts->image)
+        appendImage(m_context, node, facts, &target());
     return true;
 }
 
@@ -247,12 +270,24 @@ QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPoin
     return m_result.items;
 }
 
+QVector<DisplayItem> ListBuilder::buildNested(const FactsPointer &root)
+{
+    m_isContent = true;
+    walkUsed(m_document, rootNode, root, visitor(), &m_context.budget);
+    return m_result.items;
+}
+
 } // namespace
+
+QVector<DisplayItem> buildNested(BuildContext &context, const FactsPointer &root)
+{
+    return ListBuilder(context, ContentUse::Drawing).buildNested(root);
+}
 
 BuiltList buildList(Document &document)
 {
     document.settle();
-    BuildContext context{document, {}, {}, 0, {}, false, noNode, QPointF()};
+    BuildContext context(document);
     return ListBuilder(context, ContentUse::Drawing).build();
 }
 

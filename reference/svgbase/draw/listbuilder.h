@@ -25,4 +25,7 @@ enum class ContentUse {
 QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
                                   ContentUse use);
 
+/// The items of the whole of a context's document, its root having the given facts.
+QVector<DisplayItem> buildNested(BuildContext &context, const FactsPointer &root);
+
 } // namespace Svg

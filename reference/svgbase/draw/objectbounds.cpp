@@ -1,6 +1,5 @@
 #include "draw/objectbounds.h"
 
-#include "grammar/transforms.h"
 #include "inputlimits.h"
 
 namespace Svg {
@@ -46,9 +45,7 @@ QTransform effectSpace(const Node &node, const Facts &facts)
 {
     if (node.kind != ElementKind::NestedSvg && node.kind != ElementKind::Symbol)
         return facts.toDocument;
-    const QString text = node.attributes.value(AttributeId::Transform);
-    const QTransform own = text.isEmpty() ? QTransform() : parseTransform(text).value_or(QTransform());
-    return facts.parent ? own * facts.parent->toDocument : own;
+    return facts.aroundToDocument;
 }
 
 QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &facts)

@@ -10,10 +10,12 @@
 #include <QtGui/QTransform>
 
 #include <memory>
+#include <optional>
 
 namespace Svg {
 
 struct Facts;
+struct ImageContent;
 using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
 
 /// One outline with the paint that fills and strokes it; user units of its element.
@@ -35,6 +37,13 @@ struct PaintContext
     QTransform toDocument;
 };
 
+/// The sides that are given; the others are the used element's own.
+struct UsedSize
+{
+    std::optional<double> width;
+    std::optional<double> height;
+};
+
 /// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
 /// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
 /// resolved against.
@@ -44,11 +53,21 @@ struct Facts : QSharedData
     /// Counts changes of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
     ComputedStyle style;
+    /// What an "image" shows; null for other elements.
+    std::shared_ptr<const ImageContent> image;
+    /// How the box of an image's content, or a nested view box, is fitted into the units around it.
+    QTransform fit;
     /// Null outside of markers and used elements.
     std::shared_ptr<const PaintContext> context;
     /// What percentages refer to, user units.
     QSizeF viewport;
     QTransform toDocument;
+    /// Of a "use": the size that it gives a used "svg" or "symbol", user units.
+    UsedSize usedSize;
+    /// Of a viewport that cuts its content: its box, in the units around it.
+    std::optional<QRectF> cut;
+    /// Of a viewport: the units around it, where the cut stands.
+    QTransform aroundToDocument;
     /// Whether neither the element nor one above it has a "display" of none.
     bool displayed = true;
     /// One for most elements, one per differently painted part for text; none for an element without geometry.

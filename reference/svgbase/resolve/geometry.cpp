@@ -89,14 +89,6 @@ Geometry pathGeometry(const QString &text, QString *problem)
     return {data.path, data.path.boundingRect(), true};
 }
 
-Geometry imageGeometry(const LengthReader &lengths)
-{
-    const QRectF rect(
-        lengths.value(AttributeId::X, Axis::Horizontal), lengths.value(AttributeId::Y, Axis::Vertical),
-        lengths.size(AttributeId::Width, Axis::Horizontal), lengths.size(AttributeId::Height, Axis::Vertical));
-    return {QPainterPath(), rect, true};
-}
-
 } // namespace
 
 double LengthReader::value(AttributeId id, Axis axis, double fallback) const
@@ -147,8 +139,6 @@ Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSize
         return pointsGeometry(node.attributes, true, problem);
     case ElementKind::Path:
         return pathGeometry(pathText(node, style), problem);
-    case ElementKind::Image:
-        return imageGeometry(lengths);
     default:
         return Geometry();
     }

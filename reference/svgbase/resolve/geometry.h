@@ -48,7 +48,7 @@ private:
     LengthContext m_context;
 };
 
-/// The geometry of every kind but text. What could not be read is described in `problem`, when given.
+/// The geometry of every kind but text and images. What could not be read is described in `problem`, when given.
 Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport,
                        QString *problem = nullptr);
 /// The bounding box of a circle or an ellipse, user units.

@@ -2,10 +2,10 @@
 
 #include "grammar/colors.h"
 #include "grammar/lengths.h"
-#include "grammar/paints.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
 #include "style/cascade.h"
+#include "tree/references.h"
 
 #include <QtGui/QTransform>
 
@@ -39,12 +39,6 @@ bool isGradient(ElementKind kind)
     return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient;
 }
 
-QString reference(const Attributes &attributes)
-{
-    const QString plain = localReference(attributes.value(AttributeId::Href));
-    return plain.isEmpty() ? localReference(attributes.value(AttributeId::XlinkHref)) : plain;
-}
-
 // A chain that returns to one of its own ends there.
 GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
     : m_tree(tree)
@@ -53,7 +47,7 @@ GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
     while (at != noNode && isGradient(tree.node(at).kind) && !m_nodes.contains(at) &&
            m_nodes.size() < Limits::gradientReferences) {
         m_nodes.append(at);
-        at = tree.findId(reference(tree.node(at).attributes));
+        at = tree.findId(hrefTarget(tree.node(at).attributes));
     }
 }
 

@@ -3,9 +3,11 @@
 #include "grammar/csstransforms.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
+#include "resolve/conditions.h"
 #include "resolve/contextpaint.h"
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
+#include "resolve/images.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
@@ -22,6 +24,12 @@ QPointF transformOrigin(const Node &node, const ComputedStyle &style, const Leng
     const QPointF usual = node.kind == ElementKind::Document ? middle : QPointF();
     const QString text = styledAttribute(node, style, AttributeId::TransformOrigin);
     return text.isEmpty() ? usual : parseTransformOrigin(text, context).value_or(usual);
+}
+
+// Viewports inside the root cut what leaves them, unless told otherwise (SVG 1.1 §14.3.3).
+bool cutsOverflow(const ComputedStyle &style)
+{
+    return !style.effects || style.effects->overflow != Overflow::Visible;
 }
 
 bool isBounded(double entry)
@@ -59,7 +67,8 @@ void Resolver::resolveStyle(NodeIndex index, Facts *facts) const
     const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
     QStringList rejected;
     facts->style = cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &rejected : nullptr);
-    facts->displayed = facts->style.displayed && (!facts->parent || facts->parent->displayed);
+    facts->displayed =
+        facts->style.displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
     for (const QString &value : qAsConst(rejected))
         warn(node, QStringLiteral("A property does not take the value \"%1\".").arg(value));
 }
@@ -92,10 +101,19 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
         const LengthReader lengths(node, facts->style, facts->viewport);
         local = QTransform::fromTranslate(lengths.value(AttributeId::X, Axis::Horizontal),
                                           lengths.value(AttributeId::Y, Axis::Vertical));
+        if (lengths.has(AttributeId::Width))
+            facts->usedSize.width = lengths.size(AttributeId::Width, Axis::Horizontal);
+        if (lengths.has(AttributeId::Height))
+            facts->usedSize.height = lengths.size(AttributeId::Height, Axis::Vertical);
     } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
-        const Fit fit = nestedFit(node, facts->style, facts->viewport);
-        local = fit.transform;
+        const Fit fit =
+            nestedFit(node, facts->style, facts->viewport, facts->parent ? facts->parent->usedSize : UsedSize());
+        local = facts->fit = fit.transform;
         facts->viewport = fit.viewport;
+        facts->displayed = facts->displayed && !fit.place.isEmpty();
+        facts->aroundToDocument = facts->parent ? outer * facts->parent->toDocument : outer;
+        if (cutsOverflow(facts->style))
+            facts->cut = fit.place;
     }
     if (node.kind == ElementKind::Document)
         local = rootTransform(node, outer, m_tree.window());
@@ -166,7 +184,27 @@ void Resolver::resolveText(NodeIndex index, Facts *facts) const
         addOutline(run.path, run.style, facts);
 }
 
-FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) const
+void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const
+{
+    const Node &node = m_tree.node(index);
+    const bool plain = node.attributes.contains(AttributeId::Href);
+    const QString reference = node.attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref);
+    QString problem;
+    if (elsewhere)
+        facts->image = elsewhere->image;
+    else if (!reference.isEmpty())
+        facts->image = readImage(reference, &problem);
+    if (!problem.isEmpty())
+        warn(node, problem);
+    const LengthReader lengths(node, facts->style, facts->viewport);
+    const ImagePlacement placement = imagePlacement(node, lengths, facts->image.get());
+    facts->hasGeometry = true;
+    facts->localBounds = placement.box;
+    facts->fit = placement.fit;
+    facts->bounds = mappedBounds(*facts, QPainterPath());
+}
+
+FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere) const
 {
     const Node &node = m_tree.node(index);
     auto *facts = new Facts;
@@ -181,6 +219,8 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent) cons
         facts->context = useContext(*facts);
     if (node.kind == ElementKind::Text)
         resolveText(index, facts);
+    else if (node.kind == ElementKind::Image)
+        resolveImage(index, elsewhere, facts);
     else
         resolveShape(index, facts);
     return result;

@@ -19,14 +19,16 @@ public:
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
-    /// root.
-    FactsPointer resolve(NodeIndex index, const FactsPointer &parent) const;
+    /// root. `elsewhere`, when given, are facts of the same element at another place, whose image can be shared.
+    FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere = nullptr) const;
+    /// What "transform" says of an element, its origin applied.
+    QTransform ownTransform(const Node &node, const Facts &facts) const;
 
 private:
     void resolveStyle(NodeIndex index, Facts *facts) const;
-    QTransform ownTransform(const Node &node, const Facts &facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
     void resolveShape(NodeIndex index, Facts *facts) const;
+    void resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
     void resolveText(NodeIndex index, Facts *facts) const;
     void addOutline(const QPainterPath &path, const ComputedStyle &style, Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts) const;

@@ -42,19 +42,20 @@ QRectF shownArea(const Node &root, const QSizeF &window)
     return box.value_or(QRectF(QPointF(), size));
 }
 
-Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
+Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport, const UsedSize &used)
 {
     const LengthReader lengths(node, style, viewport);
+    const double width = lengths.size(AttributeId::Width, Axis::Horizontal, viewport.width());
+    const double height = lengths.size(AttributeId::Height, Axis::Vertical, viewport.height());
     const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
-                       lengths.value(AttributeId::Y, Axis::Vertical),
-                       lengths.size(AttributeId::Width, Axis::Horizontal, viewport.width()),
-                       lengths.size(AttributeId::Height, Axis::Vertical, viewport.height()));
+                       lengths.value(AttributeId::Y, Axis::Vertical), used.width.value_or(width),
+                       used.height.value_or(height));
     const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
+    if (!box || place.isEmpty())
+        return {QTransform::fromTranslate(place.x(), place.y()), place.size(), place};
     const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
-    const std::optional<QTransform> fitted = viewBoxTransform(box.value_or(QRectF()), place, ratio);
-    if (fitted)
-        return {*fitted, box->size()};
-    return {QTransform::fromTranslate(place.x(), place.y()), place.size()};
+    const std::optional<QTransform> fitted = viewBoxTransform(*box, place, ratio);
+    return fitted ? Fit{*fitted, box->size(), place} : Fit();
 }
 
 } // namespace Svg

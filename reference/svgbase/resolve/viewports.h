@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/computedstyle.h"
+#include "resolve/facts.h"
 #include "tree/tree.h"
 
 #include <QtCore/QRectF>
@@ -23,10 +23,14 @@ QRectF shownArea(const Node &root, const QSizeF &window);
 /// Where a nested "svg" or a used "symbol" places its content.
 struct Fit
 {
+    /// From the content's units to those around.
     QTransform transform;
     QSizeF viewport;
+    /// In the units around. Empty when nothing is drawn.
+    QRectF place;
 };
 
-Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport);
+/// `used` is the size that a "use" gives it.
+Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport, const UsedSize &used);
 
 } // namespace Svg

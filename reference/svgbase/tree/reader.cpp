@@ -44,6 +44,7 @@ private:
     QVector<NodeIndex> m_open;
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
+    bool m_withoutNamespace = false;
     int m_charactersLeft = Limits::textCharacters;
 };
 
@@ -84,7 +85,8 @@ void TreeReader::readDeclarations(Attributes *attributes) const
 ElementKind TreeReader::kindOfElement() const
 {
     const QStringRef space = m_xml.namespaceUri();
-    if (!space.isEmpty() && space != svgNamespace)
+    // Without a namespace at its root, a document is SVG all the same.
+    if (space != svgNamespace && (!space.isEmpty() || !m_withoutNamespace))
         return ElementKind::Other;
     const ElementKind kind = elementKind(m_xml.name());
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
@@ -110,6 +112,8 @@ void TreeReader::countNamespaces()
 
 void TreeReader::startElement()
 {
+    if (m_open.isEmpty())
+        m_withoutNamespace = m_xml.namespaceUri().isEmpty();
     Node node;
     node.kind = kindOfElement();
     if (m_open.isEmpty() && node.kind != ElementKind::Document) {

@@ -93,6 +93,7 @@ private:
     void setHover(const Grip &grip);
     bool isEditable() const;
     void repaintOverlay();
+    void stateChanged();
     void zoomChanged();
 
     Page *m_page;

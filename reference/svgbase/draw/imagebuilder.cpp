@@ -1,0 +1,109 @@
+#include "draw/imagebuilder.h"
+
+#include "draw/layerwrapping.h"
+#include "draw/listbuilder.h"
+#include "inputlimits.h"
+#include "resolve/images.h"
+
+namespace Svg {
+
+namespace {
+
+bool isCut(const Facts &facts)
+{
+    return !facts.style.effects || facts.style.effects->overflow != Overflow::Visible;
+}
+
+bool takePixels(BuildContext &context, const ImageContent &content)
+{
+    const auto pixels = qint64(content.size.width() * content.size.height());
+    const bool fresh = !context.images.contains(&content);
+    if (context.shownPixels + pixels > Limits::shownImagePixels ||
+        (fresh && context.imagePixels + pixels > Limits::imagePixels))
+        return false;
+    context.shownPixels += pixels;
+    if (fresh) {
+        context.images.insert(&content);
+        context.imagePixels += pixels;
+    }
+    return true;
+}
+
+void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+{
+    const QSizeF size = facts->image->size;
+    if (!takePixels(context, *facts->image))
+        return;
+    DisplayItem item;
+    item.kind = DisplayItem::Image;
+    item.node = node;
+    item.facts = facts;
+    item.control = context.control != noNode;
+    item.controlCentre = context.controlCentre;
+    const QRectF whole(QPointF(), size);
+    item.pictureTarget = facts->fit.mapRect(whole);
+    if (isCut(*facts))
+        item.pictureTarget &= facts->localBounds;
+    items->append(item);
+}
+
+// The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
+QVector<DisplayItem> documentItems(BuildContext &context, const Facts &facts)
+{
+    Document document(facts.image->document);
+    document.settle();
+    BuildContext inner(document);
+    inner.budget = context.budget;
+    inner.boundsBudget = context.boundsBudget;
+    inner.boundsVisits = context.boundsVisits;
+    inner.images = context.images;
+    inner.imagePixels = context.imagePixels;
+    inner.shownPixels = context.shownPixels;
+    inner.imageDepth = context.imageDepth + 1;
+    inner.control = context.control;
+    inner.controlCentre = context.controlCentre;
+    auto *root = new Facts(*document.facts(rootNode));
+    const FactsPointer rootFacts(root);
+    root->toDocument = root->toDocument * facts.fit * facts.toDocument;
+    QVector<DisplayItem> items = buildNested(inner, rootFacts);
+    if (inner.blends)
+        wrapInLayer(inner, rootNode, nullptr, &items);
+    context.budget = inner.budget;
+    context.boundsBudget = inner.boundsBudget;
+    context.boundsVisits = inner.boundsVisits;
+    context.images = inner.images;
+    context.imagePixels = inner.imagePixels;
+    context.shownPixels = inner.shownPixels;
+    return items;
+}
+
+void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+{
+    if (context.imageDepth >= Limits::imageDepth)
+        return;
+    QVector<DisplayItem> drawing = documentItems(context, *facts);
+    if (drawing.isEmpty())
+        return;
+    if (isCut(*facts)) {
+        const auto layer = std::make_shared<LayerEffects>();
+        layer->hasRegion = true;
+        layer->region.addRect(facts->localBounds);
+        layer->regionToDocument = facts->toDocument;
+        wrapInLayer(context, node, layer, &drawing);
+    }
+    appendItems(drawing, items);
+}
+
+} // namespace
+
+void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+{
+    if (facts->localBounds.isEmpty() || !facts->fit.isInvertible())
+        return;
+    if (facts->image->document)
+        appendDocument(context, node, facts, items);
+    else
+        appendPicture(context, node, facts, items);
+}
+
+} // namespace Svg

@@ -1,0 +1,150 @@
+#include "resolve/images.h"
+
+#include "document/prototype.h"
+#include "grammar/datauris.h"
+#include "inputlimits.h"
+#include "resolve/viewports.h"
+#include "tree/gunzip.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QCache>
+#include <QtGui/QImageReader>
+
+#include <mutex>
+
+namespace Svg {
+
+namespace {
+
+/// What CSS gives content without a size of its own.
+constexpr QSizeF defaultSize(300, 150);
+constexpr int bytesPerKibibyte = 1024;
+
+bool isPictureFormat(const QByteArray &format)
+{
+    return format == "png" || format == "jpeg" || format == "jpg" || format == "gif";
+}
+
+ImagePointer readPicture(const QByteArray &bytes, QString *problem)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (!isPictureFormat(reader.format()) || size.isEmpty()) {
+        *problem = QStringLiteral("The image is none that can be shown.");
+        return nullptr;
+    }
+    if (qint64(size.width()) * size.height() > Limits::imagePixels) {
+        *problem = QStringLiteral("The image has more than %1 pixels.").arg(Limits::imagePixels);
+        return nullptr;
+    }
+    const auto content = std::make_shared<ImageContent>();
+    content->size = size;
+    content->box = QRectF(QPointF(), content->size);
+    content->picture = bytes;
+    return content;
+}
+
+bool looksLikeDocument(const QByteArray &bytes)
+{
+    const QByteArray start = bytes.left(bytesPerKibibyte);
+    return start.trimmed().startsWith('<') || start.startsWith("\xef\xbb\xbf");
+}
+
+ImagePointer readDocument(const QByteArray &bytes, QString *problem)
+{
+    Messages messages;
+    const PrototypePointer prototype = makePrototype(bytes, &messages);
+    if (!prototype) {
+        *problem = QStringLiteral("The document inside the image can't be read.");
+        return nullptr;
+    }
+    const Node &root = prototype->tree().node(rootNode);
+    const auto content = std::make_shared<ImageContent>();
+    content->document = prototype;
+    const QRectF viewBox = rootViewBox(root);
+    const QSizeF window = viewBox.isEmpty() ? defaultSize : viewBox.size();
+    content->box = shownArea(root, window);
+    const LengthReader lengths(root.attributes, {window, ComputedStyle().font.size});
+    content->size = QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, window.width()),
+                           lengths.size(AttributeId::Height, Axis::Vertical, window.height()));
+    return content;
+}
+
+QCache<const ImageContent *, QPair<ImagePointer, QImage>> &decodedPictures()
+{
+    static QCache<const ImageContent *, QPair<ImagePointer, QImage>> cache(Limits::keptPictureBytes /
+                                                                           bytesPerKibibyte);
+    return cache;
+}
+
+std::mutex decodedMutex;
+
+QImage decode(const ImageContent &content)
+{
+    QImage picture;
+    picture.loadFromData(content.picture);
+    if (QSizeF(picture.size()) != content.size)
+        return QImage();
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
+
+ImagePointer readImage(const QString &reference, QString *problem)
+{
+    const std::optional<QByteArray> data = parseDataUri(reference);
+    if (!data) {
+        *problem = QStringLiteral("Only images in \"data:\" references are shown.");
+        return nullptr;
+    }
+    if (!isGzip(*data))
+        return looksLikeDocument(*data) ? readDocument(*data, problem) : readPicture(*data, problem);
+    const std::optional<QByteArray> text = gunzip(*data, Limits::textBytes);
+    if (text)
+        return readDocument(*text, problem);
+    *problem = QStringLiteral("The compressed image is damaged.");
+    return nullptr;
+}
+
+QImage decodedPicture(const ImagePointer &content)
+{
+    {
+        const std::lock_guard lock(decodedMutex);
+        if (const auto *known = decodedPictures().object(content.get()))
+            return known->second;
+    }
+    const QImage picture = decode(*content);
+    const std::lock_guard lock(decodedMutex);
+    decodedPictures().insert(content.get(), new QPair<ImagePointer, QImage>(content, picture),
+                             int(picture.sizeInBytes() / bytesPerKibibyte) + 1);
+    return picture;
+}
+
+ImagePlacement imagePlacement(const Node &node, const LengthReader &lengths, const ImageContent *content)
+{
+    const bool hasWidth = lengths.has(AttributeId::Width);
+    const bool hasHeight = lengths.has(AttributeId::Height);
+    QSizeF size(lengths.size(AttributeId::Width, Axis::Horizontal),
+                lengths.size(AttributeId::Height, Axis::Vertical));
+    const QSizeF own = content ? content->size : QSizeF();
+    if (!hasWidth && !hasHeight)
+        size = own;
+    else if (!hasWidth && !own.isEmpty())
+        size.setWidth(size.height() * own.width() / own.height());
+    else if (!hasHeight && !own.isEmpty())
+        size.setHeight(size.width() * own.height() / own.width());
+    ImagePlacement result;
+    result.box = QRectF(
+        QPointF(lengths.value(AttributeId::X, Axis::Horizontal), lengths.value(AttributeId::Y, Axis::Vertical)),
+        size);
+    const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
+    if (content)
+        result.fit = viewBoxTransform(content->box, result.box, ratio).value_or(QTransform(0, 0, 0, 0, 0, 0));
+    return result;
+}
+
+} // namespace Svg

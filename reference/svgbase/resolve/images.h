@@ -1,0 +1,47 @@
+#pragma once
+
+#include "grammar/viewboxes.h"
+#include "resolve/geometry.h"
+
+#include <QtCore/QByteArray>
+#include <QtGui/QImage>
+
+#include <memory>
+
+namespace Svg {
+
+class Prototype;
+
+/// What an "image" element shows: a picture, not decoded yet, or another document. Never changes.
+struct ImageContent
+{
+    /// Own size, user units; judged from the header of a picture.
+    QSizeF size;
+    /// What of the content is fitted into the element, in its own units.
+    QRectF box;
+    /// PNG, JPEG or GIF; empty for a document.
+    QByteArray picture;
+    std::shared_ptr<const Prototype> document;
+};
+
+using ImagePointer = std::shared_ptr<const ImageContent>;
+
+/// The content of a "data:" URI. Null for every other reference, which is never followed, and for what can't be
+/// shown; `problem` then says why.
+ImagePointer readImage(const QString &reference, QString *problem);
+/// The picture with its pixels; null for a damaged one. Lately decoded ones are kept for the whole process.
+QImage decodedPicture(const ImagePointer &content);
+
+/// Where an "image" element shows its content.
+struct ImagePlacement
+{
+    /// The box of the element, user units; empty when nothing is shown.
+    QRectF box;
+    /// Maps the content's box into it.
+    QTransform fit;
+};
+
+/// Sizes that are absent or "auto" follow from the content (SVG 2 §7.8, §7.9).
+ImagePlacement imagePlacement(const Node &node, const LengthReader &lengths, const ImageContent *content);
+
+} // namespace Svg

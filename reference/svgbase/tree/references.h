@@ -1,0 +1,11 @@
+#pragma once
+
+#include "tree/attributes.h"
+
+namespace Svg {
+
+/// The id that an element's "href" refers to, or its "xlink:href" where it has no "href" (SVG 2 §16.1.4); empty for
+/// anything but a reference into the document itself.
+QString hrefTarget(const Attributes &attributes);
+
+} // namespace Svg
