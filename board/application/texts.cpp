@@ -2,6 +2,7 @@
 
 #include "clipboard/clipboardtexts.h"
 #include "documents/documenttexts.h"
+#include "panels/forms/formtexts.h"
 
 namespace board {
 
@@ -134,7 +135,7 @@ pagehost::TextTable boardTexts(const QString &language)
         return texts;
     for (const TextEntry &entry : entries)
         insert(texts, entry, german);
-    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts()}) {
+    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts(), formTexts()}) {
         for (const TextEntry &entry : table)
             insert(texts, entry, german);
     }

@@ -4,6 +4,8 @@
 #include "objects/demopages.h"
 #include "page/pageview.h"
 #include "panels/pagepanel.h"
+#include "panels/properties/propertypanel.h"
+#include "panels/settings/settingspanel.h"
 #include "window/mainwindow.h"
 
 #include <pagehost/commands.h>
@@ -59,8 +61,13 @@ void changeSecond(pagehost::Page *page)
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
-    if (state == QLatin1String("selection") && page->objectCount() > 1)
+    const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties");
+    if ((state == QLatin1String("selection") || isAboutPanels) && page->objectCount() > 1)
         changeSecond(page);
+    if (state == QLatin1String("settings"))
+        window.raisePanel(window.settings());
+    if (state == QLatin1String("properties"))
+        window.raisePanel(window.properties());
     if (state == QLatin1String("drag") && !workspace.registry().kinds().isEmpty())
         startDrawing(window, workspace.registry().kinds().first().id);
 }
@@ -69,7 +76,8 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"), QStringLiteral("shapes"), QStringLiteral("selection"), QStringLiteral("drag")};
+    return {QStringLiteral("empty"),    QStringLiteral("shapes"),     QStringLiteral("selection"),
+            QStringLiteral("settings"), QStringLiteral("properties"), QStringLiteral("drag")};
 }
 
 bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file)

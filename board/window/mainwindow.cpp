@@ -14,6 +14,8 @@
 #include "panels/historypanel.h"
 #include "panels/pagepanel.h"
 #include "panels/palettepanel.h"
+#include "panels/properties/propertypanel.h"
+#include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
 #include "window/actions.h"
 #include "window/notices.h"
@@ -43,13 +45,22 @@ namespace {
 constexpr QSize firstSize(1400, 900);
 constexpr QSize toolIconSize(22, 22);
 constexpr int leftPanelWidth = 220;
-constexpr int rightPanelWidth = 264;
+constexpr int rightPanelWidth = 300;
 constexpr int pointerTextWidth = 110;
 constexpr int sizeTextWidth = 120;
 /// Milliseconds that a message stands in the status bar.
 constexpr int messageTime = 5000;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
+
+QScrollArea *scrolling(QWidget *panel)
+{
+    auto *area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(panel);
+    return area;
+}
 
 } // namespace
 
@@ -103,9 +114,16 @@ void MainWindow::showTitle()
     setWindowModified(m_documents->isModified());
 }
 
+void MainWindow::settle()
+{
+    m_settings->settle();
+    m_properties->settle();
+    m_view->settle();
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    m_view->settle();
+    settle();
     if (m_mayClose || !m_documents->isModified())
         return event->accept();
     event->ignore();
@@ -126,6 +144,16 @@ QDockWidget *MainWindow::addPanel(Qt::DockWidgetArea area, const char *titleKey,
     return dock;
 }
 
+void MainWindow::raisePanel(const QWidget *panel)
+{
+    for (QDockWidget *dock : findChildren<QDockWidget *>()) {
+        if (dock->isAncestorOf(panel)) {
+            dock->show();
+            dock->raise();
+        }
+    }
+}
+
 void MainWindow::addPanels()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -133,20 +161,24 @@ void MainWindow::addPanels()
     m_palette = new PalettePanel(m_workspace);
     m_pages = new PagePanel(m_workspace, {m_actions->addPage, m_actions->removePage});
     m_style = new StylePanel(m_workspace);
-    auto *styleScroll = new QScrollArea;
-    styleScroll->setWidgetResizable(true);
-    styleScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    styleScroll->setWidget(m_style);
+    m_settings = new SettingsPanel(m_workspace);
+    m_properties = new PropertyPanel(m_workspace);
     QDockWidget *palette = addPanel(Qt::LeftDockWidgetArea, "IDS_BOARD_SHAPES", m_palette);
     QDockWidget *pages = addPanel(Qt::BottomDockWidgetArea, "IDS_BOARD_PAGES", m_pages);
-    QDockWidget *style = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_STYLE", styleScroll);
+    QDockWidget *style = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_STYLE", scrolling(m_style));
+    QDockWidget *settings = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_SETTINGS", scrolling(m_settings));
+    QDockWidget *properties = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_PROPERTIES", scrolling(m_properties));
     QDockWidget *history = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_HISTORY", new HistoryPanel(m_workspace));
+    tabifyDockWidget(style, settings);
+    tabifyDockWidget(settings, properties);
+    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    style->raise();
     // The strip of pages speaks for itself.
     pages->setTitleBarWidget(new QWidget(pages));
     resizeDocks({palette, style}, {leftPanelWidth, rightPanelWidth}, Qt::Horizontal);
     resizeDocks({style, history}, {3, 2}, Qt::Vertical);
     QMenu *panels = menuBar()->addMenu(m_workspace->text("IDS_BOARD_PANELS"));
-    for (QDockWidget *dock : {palette, style, history, pages})
+    for (QDockWidget *dock : {palette, style, settings, properties, history, pages})
         panels->addAction(dock->toggleViewAction());
     QMenu *help = menuBar()->addMenu(m_workspace->text("IDS_BOARD_HELP"));
     help->addAction(m_actions->about);
@@ -237,7 +269,7 @@ void MainWindow::connectTools()
 void MainWindow::connectParts()
 {
     connect(m_workspace, &Workspace::documentReplaced, this, &MainWindow::connectDocument);
-    m_documents->setSettle([this] { m_view->settle(); });
+    m_documents->setSettle([this] { settle(); });
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
     connect(m_documents, &DocumentController::saved, this, [this](const QString &file) {
         statusBar()->showMessage(m_workspace->text("IDS_BOARD_SAVED").arg(file), messageTime);
@@ -263,6 +295,8 @@ void MainWindow::showCurrentPage()
     pagehost::Page *page = m_workspace->document()->currentPage();
     m_view->setPage(page);
     m_style->setPage(page);
+    m_settings->setPage(page);
+    m_properties->setPage(page);
     if (page) {
         connect(page, &pagehost::Page::selectionChanged, this, &MainWindow::showSelection);
         connect(page, &pagehost::Page::contentChanged, this, &MainWindow::showSelection);

@@ -20,7 +20,9 @@ class Notices;
 class PagePanel;
 class PageView;
 class PalettePanel;
+class PropertyPanel;
 class Recovery;
+class SettingsPanel;
 class StylePanel;
 class Workspace;
 
@@ -41,6 +43,10 @@ public:
     DocumentController *documents() const { return m_documents; }
     Recovery *recovery() const { return m_recovery; }
     ClipboardController *clipboard() const { return m_clipboard; }
+    SettingsPanel *settings() const { return m_settings; }
+    PropertyPanel *properties() const { return m_properties; }
+    /// Brings the panel to the front of those that share its place.
+    void raisePanel(const QWidget *panel);
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -50,6 +56,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void settle();
     void showPluginProblems();
     QDockWidget *addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel);
     void addPanels();
@@ -81,6 +88,8 @@ private:
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     StylePanel *m_style = nullptr;
+    SettingsPanel *m_settings = nullptr;
+    PropertyPanel *m_properties = nullptr;
     QLabel *m_hint = nullptr;
     QLabel *m_pointer = nullptr;
     QLabel *m_size = nullptr;

@@ -17,6 +17,7 @@ struct NumberRange
     int decimals = 0; ///< places after the point that are shown
 
     static constexpr int mostDecimals = 6;
+    static constexpr int usualDecimals = 2;
     /// The range that both have. Its minimum is above its maximum when there is none.
     NumberRange common(const NumberRange &other) const;
     /// The places after the point that values of this step need.

@@ -19,6 +19,8 @@ public:
     virtual void showMixed() = 0;
     /// Whether the editor is so wide that its caption stands above it.
     virtual bool isWide() const { return false; }
+    /// Whether a caption is needed to say what is edited.
+    virtual bool hasCaption() const { return true; }
     /// What screen readers and tool tips call the value.
     virtual void setName(const QString &name) = 0;
 

@@ -1,0 +1,86 @@
+#include "panels/forms/objectform.h"
+
+#include "look/theme.h"
+#include "panels/editors/valueeditor.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+/// Of a row whose caption stands beside its editor.
+constexpr int captionShare = 4;
+constexpr int editorShare = 5;
+
+} // namespace
+
+ObjectForm::ObjectForm(QWidget *parent)
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+{
+    m_column->setContentsMargins(0, 0, 0, 0);
+}
+
+void ObjectForm::showRows(const QVector<FormRow> &rows)
+{
+    QStringList structure;
+    for (const FormRow &row : rows)
+        structure.append(row.structure + QLatin1Char('\n') + row.caption);
+    if (structure != m_structure || !m_content) {
+        rebuild(rows);
+        m_structure = structure;
+    }
+    for (int i = 0; i < rows.size(); ++i) {
+        m_editors[i]->setEnabled(rows[i].isEnabled);
+        if (rows[i].isMixed)
+            m_editors[i]->showMixed();
+        else
+            m_editors[i]->showValue(rows[i].value);
+    }
+}
+
+void ObjectForm::rebuild(const QVector<FormRow> &rows)
+{
+    if (m_content) {
+        // One of its editors may be telling its choice just now.
+        m_content->hide();
+        m_column->removeWidget(m_content);
+        m_content->deleteLater();
+    }
+    m_editors.clear();
+    m_content = new QWidget(this);
+    auto *column = new QVBoxLayout(m_content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(largeGap);
+    m_column->addWidget(m_content);
+    for (const FormRow &row : rows)
+        addRow(row);
+    m_content->show();
+}
+
+void ObjectForm::addRow(const FormRow &row)
+{
+    ValueEditor *editor = row.makeEditor();
+    editor->setName(row.caption);
+    auto *layout = new QBoxLayout(editor->isWide() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    layout->setSpacing(editor->isWide() ? smallGap : mediumGap);
+    if (editor->hasCaption()) {
+        auto *caption = new QLabel(row.caption, m_content);
+        caption->setForegroundRole(QPalette::PlaceholderText);
+        caption->setWordWrap(true);
+        layout->addWidget(caption, editor->isWide() ? 0 : captionShare);
+    }
+    layout->addWidget(editor, editor->isWide() ? 0 : editorShare);
+    static_cast<QVBoxLayout *>(m_content->layout())->addLayout(layout);
+    const int index = m_editors.size();
+    m_editors.append(editor);
+    connect(editor, &ValueEditor::previewed, this,
+            [this, index](const QVariant &value) { Q_EMIT previewed(index, value); });
+    connect(editor, &ValueEditor::abandoned, this, &ObjectForm::abandoned);
+    connect(editor, &ValueEditor::picked, this,
+            [this, index](const QVariant &value) { Q_EMIT picked(index, value); });
+}
+
+} // namespace board

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+#include <QtWidgets/QWidget>
+
+#include <functional>
+
+class QVBoxLayout;
+
+namespace board {
+
+class ValueEditor;
+
+/// What one row of a form shows.
+struct FormRow
+{
+    QString structure; ///< rows of the same structure can be shown by the same editor
+    QString caption;
+    std::function<ValueEditor *()> makeEditor;
+    QVariant value;
+    bool isMixed = false; ///< the objects have different values
+    bool isEnabled = true;
+};
+
+/// Captions and editors, one below the other. Editors stay while their rows keep their structure, so that nobody is
+/// interrupted by what changes elsewhere.
+class ObjectForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ObjectForm(QWidget *parent = nullptr);
+
+    void showRows(const QVector<FormRow> &rows);
+    /// Makes all editors anew the next time.
+    void forgetEditors() { m_structure.clear(); }
+    QVector<ValueEditor *> editors() const { return m_editors; }
+
+Q_SIGNALS:
+    /// As the row's editor says (ValueEditor).
+    void previewed(int row, const QVariant &value);
+    void abandoned();
+    void picked(int row, const QVariant &value);
+
+private:
+    void rebuild(const QVector<FormRow> &rows);
+    void addRow(const FormRow &row);
+
+    QVBoxLayout *m_column;
+    QWidget *m_content = nullptr;
+    QVector<ValueEditor *> m_editors;
+    QStringList m_structure;
+};
+
+} // namespace board

@@ -1,0 +1,130 @@
+#include "panels/forms/selectionpanel.h"
+
+#include "application/workspace.h"
+#include "look/theme.h"
+
+#include <framework/cbaseobject.h>
+#include <framework/iframework.h>
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+/// Of more objects than these, the rest are taken to be like them: asking all of them would take too long.
+constexpr int mostDescribed = 500;
+
+} // namespace
+
+SelectionPanel::SelectionPanel(const Workspace *workspace, const char *adviceKey, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_advice(workspace->text(adviceKey))
+    , m_title(new QLabel(this))
+    , m_hint(new QLabel(this))
+    , m_form(new ObjectForm(this))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
+    column->setSpacing(largeGap);
+    QFont font = m_title->font();
+    font.setWeight(QFont::DemiBold);
+    m_title->setFont(font);
+    m_title->setWordWrap(true);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    m_hint->setWordWrap(true);
+    column->addWidget(m_title);
+    column->addWidget(m_hint);
+    column->addWidget(m_form);
+    column->addStretch();
+    connect(m_form, &ObjectForm::previewed, this, &SelectionPanel::preview);
+    connect(m_form, &ObjectForm::abandoned, this, &SelectionPanel::settle);
+    connect(m_form, &ObjectForm::picked, this, &SelectionPanel::pick);
+}
+
+void SelectionPanel::setPage(pagehost::Page *page)
+{
+    settle();
+    if (m_page)
+        disconnect(m_page, nullptr, this, nullptr);
+    m_page = page;
+    if (page) {
+        connect(page, &pagehost::Page::selectionChanged, this, &SelectionPanel::changeSelection);
+        connect(page, &pagehost::Page::contentChanged, this, &SelectionPanel::refresh);
+    }
+    refresh();
+}
+
+QVector<CBaseObject *> SelectionPanel::selection() const
+{
+    return m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
+}
+
+void SelectionPanel::settle()
+{
+    m_preview.takeBack();
+}
+
+void SelectionPanel::changeSelection()
+{
+    settle();
+    refresh();
+}
+
+void SelectionPanel::refresh()
+{
+    // A panel that nobody sees costs nothing. While something is only shown, the rows stay what they are.
+    if (!isVisible() || m_preview.isShowing())
+        return;
+    const QVector<CBaseObject *> objects = selection();
+    const QVector<FormRow> rows = objects.isEmpty() ? QVector<FormRow>() : describe(objects.mid(0, mostDescribed));
+    m_title->setVisible(!objects.isEmpty());
+    m_hint->setVisible(rows.isEmpty());
+    m_hint->setText(objects.isEmpty() ? m_advice : m_workspace->text("IDS_BOARD_NOTHING_IN_COMMON"));
+    if (objects.size() == 1)
+        m_title->setText(m_workspace->text(objects.first()->kindName()));
+    else
+        m_title->setText(m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
+    m_form->showRows(rows);
+}
+
+void SelectionPanel::preview(int row, const QVariant &value)
+{
+    const QVector<CBaseObject *> objects = selection();
+    m_preview.show([&] {
+        for (CBaseObject *object : objects)
+            apply(object, row, value, false);
+    });
+}
+
+void SelectionPanel::pick(int row, const QVariant &value)
+{
+    settle();
+    const QVector<CBaseObject *> objects = selection();
+    GetFramework()->beginUndoGroup(titleKey(row));
+    for (CBaseObject *object : objects)
+        apply(object, row, value, true);
+    GetFramework()->endUndoGroup();
+    // What the objects made of it, which need not be the value.
+    refresh();
+}
+
+void SelectionPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void SelectionPanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        m_form->forgetEditors();
+        refresh();
+    }
+    QWidget::changeEvent(event);
+}
+
+} // namespace board

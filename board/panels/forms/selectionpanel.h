@@ -1,0 +1,61 @@
+#pragma once
+
+#include "panels/forms/objectform.h"
+
+#include <pagehost/page.h>
+#include <pagehost/preview.h>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
+
+class CBaseObject;
+class QLabel;
+
+namespace board {
+
+class Workspace;
+
+/// A panel about the selected objects: a row for each thing that all of them have. While the user is choosing, the
+/// objects show the value; a choice is one undo step for all of them.
+class SelectionPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `adviceKey` is the text for when nothing is selected.
+    SelectionPanel(const Workspace *workspace, const char *adviceKey, QWidget *parent = nullptr);
+
+    void setPage(pagehost::Page *page);
+    /// Takes back what is shown only while the user chooses.
+    void settle();
+    ObjectForm *form() const { return m_form; }
+
+protected:
+    const Workspace &workspace() const { return *m_workspace; }
+    /// The rows for these objects, at least one, none of them null.
+    virtual QVector<FormRow> describe(const QVector<CBaseObject *> &objects) = 0;
+    /// The localisation key of what a row sets.
+    virtual QString titleKey(int row) const = 0;
+    /// Gives an object the value of a row; `forGood` for the choice, else for a look at it.
+    virtual void apply(CBaseObject *object, int row, const QVariant &value, bool forGood) = 0;
+
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void refresh();
+    void changeSelection();
+    void preview(int row, const QVariant &value);
+    void pick(int row, const QVariant &value);
+    QVector<CBaseObject *> selection() const;
+
+    const Workspace *m_workspace;
+    QString m_advice;
+    QPointer<pagehost::Page> m_page;
+    QLabel *m_title;
+    QLabel *m_hint;
+    ObjectForm *m_form;
+    pagehost::Preview m_preview;
+};
+
+} // namespace board

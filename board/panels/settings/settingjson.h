@@ -1,0 +1,38 @@
+#pragma once
+
+#include "panels/editors/numbereditor.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+namespace board {
+
+/// One control of a settings panel, as an object describes it (CPSRootObject::GetSettingJson()).
+struct SettingControl
+{
+    enum Kind { Choice, Color, Text, Number, Switch, Slider, Command };
+
+    Kind kind = Command;
+    QString id;       ///< never empty
+    QString titleKey; ///< localisation key
+    /// The number of the entry (Choice; -1 for none), a QColor (Color), text (Text), a double (Number, Slider), a
+    /// bool (Switch), or the command (Command).
+    QVariant value;
+    QStringList icons; ///< paths of a choice's pictures; as many as `texts`, or one of both is empty
+    QStringList texts; ///< localisation keys of a choice's entries
+    NumberRange range; ///< of numbers
+    QString unit;
+
+    int entryCount() const { return qMax(icons.size(), texts.size()); }
+};
+
+/// The controls of a panel in their order, at most 1000. Controls that make no sense (no id, an unknown kind, a
+/// colour that is none, bounds that are no numbers) are passed over; text that is no settings panel gives none.
+QVector<SettingControl> parseSettings(const QString &json);
+
+/// What a panel answers to SetSettingJson() when the user has chosen `value` for a control.
+QString settingAnswer(const SettingControl &control, const QVariant &value);
+
+} // namespace board

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "panels/forms/selectionpanel.h"
+#include "panels/settings/settingjson.h"
+
+namespace board {
+
+/// What the selected objects offer as their settings (CPSRootObject::GetSettingJson()), as far as all of them have
+/// it.
+class SettingsPanel : public SelectionPanel
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsPanel(const Workspace *workspace, QWidget *parent = nullptr);
+
+protected:
+    QVector<FormRow> describe(const QVector<CBaseObject *> &objects) override;
+    QString titleKey(int row) const override { return m_controls[row].titleKey; }
+    void apply(CBaseObject *object, int row, const QVariant &value, bool forGood) override;
+
+private:
+    ValueEditor *makeEditor(const SettingControl &control) const;
+    ValueEditor *makeChoice(const SettingControl &control) const;
+    FormRow rowOf(const SettingControl &control, bool isMixed) const;
+
+    QVector<SettingControl> m_controls; ///< row by row
+};
+
+} // namespace board
