@@ -69,6 +69,11 @@ QStatusBar { background: %window; border-top: 1px solid %border; }
 QStatusBar::item { border: none; }
 QDockWidget { titlebar-close-icon: none; titlebar-normal-icon: none; }
 QDockWidget::title { background: %window; padding: 10px 12px 6px 8px; }
+QMainWindow > QTabBar { background: %window; qproperty-drawBase: 0; }
+QMainWindow > QTabBar::tab { background: %window; border: none; border-bottom: 2px solid transparent;
+                             padding: 9px 9px 7px 9px; color: %faint; }
+QMainWindow > QTabBar::tab:hover { color: %text; }
+QMainWindow > QTabBar::tab:selected { color: %text; border-bottom-color: %accent; }
 QGraphicsView, QScrollArea, QListView, QUndoView { border: none; }
 QListView { background: %window; }
 QUndoView::item { padding: 4px 6px; border-radius: 5px; color: %text; }
@@ -92,6 +97,7 @@ QToolTip { border: none; padding: 4px 6px; }
     tint.setAlpha(38);
     QString sheet = pattern;
     sheet.replace("%border", rgbaText(colors.border));
+    sheet.replace("%faint", rgbaText(colors.faintText));
     sheet.replace("%accent", rgbaText(palette.color(QPalette::Highlight)));
     sheet.replace("%window", rgbaText(palette.color(QPalette::Window)));
     sheet.replace("%text", rgbaText(palette.color(QPalette::Text)));

@@ -35,6 +35,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStatusBar>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 
@@ -173,8 +174,13 @@ void MainWindow::addPanels()
     tabifyDockWidget(settings, properties);
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
     style->raise();
-    // The strip of pages speaks for itself.
-    pages->setTitleBarWidget(new QWidget(pages));
+    for (QTabBar *tabs : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        tabs->setElideMode(Qt::ElideNone);
+        tabs->setUsesScrollButtons(false);
+    }
+    // The strip of pages and the tabs speak for themselves.
+    for (QDockWidget *dock : {pages, style, settings, properties})
+        dock->setTitleBarWidget(new QWidget(dock));
     resizeDocks({palette, style}, {leftPanelWidth, rightPanelWidth}, Qt::Horizontal);
     resizeDocks({style, history}, {3, 2}, Qt::Vertical);
     QMenu *panels = menuBar()->addMenu(m_workspace->text("IDS_BOARD_PANELS"));

@@ -5,6 +5,7 @@
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 
+#include <algorithm>
 #include <cmath>
 
 namespace board {
@@ -82,6 +83,13 @@ Reading readList(PropertyDescription property, Reader &in)
     return in.isAtEnd() ? Reading(property) : Reading();
 }
 
+/// Gradients and textures need not have a colour, and one of no brush is not seen.
+QColor shownColor(Qt::BrushStyle style, const QColor &color)
+{
+    const bool isColorless = style >= Qt::LinearGradientPattern && !color.isValid();
+    return style == Qt::NoBrush || isColorless ? QColor(Qt::transparent) : color;
+}
+
 Reading readColor(PropertyDescription property, const QByteArray &bytes)
 {
     if (bytes.size() < colorBytes)
@@ -89,11 +97,11 @@ Reading readColor(PropertyDescription property, const QByteArray &bytes)
     const bool isBrush = bytes.size() > colorBytes;
     // Of a brush only the colour is read: its gradient or texture is the object's own, and could be anything.
     Reader in(bytes.mid(isBrush ? colorAtInBrush : 0, colorBytes));
-    const bool isEmptyBrush = isBrush && bytes.at(0) == char(Qt::NoBrush);
     const auto color = in.take<QColor>();
+    const QColor shown = isBrush ? shownColor(Qt::BrushStyle(bytes.at(0)), color) : color;
     property.kind = isBrush ? PropertyDescription::Brush : PropertyDescription::Color;
-    property.value = isEmptyBrush ? QColor(Qt::transparent) : color;
-    return in.isGood() && property.value.value<QColor>().isValid() ? Reading(property) : Reading();
+    property.value = shown;
+    return in.isGood() && shown.isValid() ? Reading(property) : Reading();
 }
 
 template<typename Number>
@@ -172,12 +180,19 @@ Reading readValue(const PropertyDescription &property, qint32 code, Reader &in)
     }
 }
 
+/// Bytes that are something else seldom make text that can be printed.
+bool isName(const QString &text)
+{
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar character) { return character.isPrint(); });
+}
+
 /// False when there is no name or flag where the stream stands.
 bool readHead(PropertyDescription &property, Reader &in)
 {
     property.nameKey = in.take<QString>();
     property.isEnabled = in.take<bool>();
-    return in.isGood() && !property.nameKey.isEmpty();
+    return in.isGood() && isName(property.nameKey);
 }
 
 } // namespace
@@ -194,7 +209,7 @@ std::optional<PropertyDescription> parseAttribute(int id, const QByteArray &byte
         if (const Reading reading = readValue(property, code, coded))
             return reading;
     }
-    // Without a code the name stands where the code would: its length is no code that any text fits.
+    // Without a code the name stands where the code would.
     Reader plain(bytes);
     plain.take<qint32>();
     return readHead(property, plain) ? readPlainNumber(property, plain.rest()) : Reading();
