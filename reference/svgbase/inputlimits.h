@@ -36,7 +36,9 @@ constexpr int useInstances = 20000;
 /// Most outline elements (moves, lines and curves count 1 to 3) that all "use" elements add to a drawing.
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of one document that are set; the rest is left out.
-constexpr int textCharacters = 65536;
+constexpr int textCharacters = 100000;
+/// Most characters that are shaped together; finding the place of each takes longer the more there are.
+constexpr int shapedCharacters = 256;
 /// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.
 constexpr double coordinate = 1e9;
 /// Largest entry of an element's transform to the document.

@@ -33,6 +33,8 @@ QZeSvgNode::Type typeOf(ElementKind kind)
     case ElementKind::Text:
         return QZeSvgNode::Text;
     case ElementKind::Tspan:
+    case ElementKind::TextPath:
+    case ElementKind::Tref:
     case ElementKind::Characters:
         return QZeSvgNode::Tspan;
     case ElementKind::Image:

@@ -99,7 +99,9 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
     const AttributeId id = attributeId(name);
     if (m_tree.node(index).kind == ElementKind::Style || (m_tree.rules() && m_tree.rules()->dependsOn(name)))
         structureChanged();
-    if (id == AttributeId::Unknown && !isEffectPart(m_tree.node(index).kind))
+    const ElementKind kind = m_tree.node(index).kind;
+    const bool inText = kind == ElementKind::Text || isTextPart(kind);
+    if (id == AttributeId::Unknown && !isEffectPart(kind) && !inText)
         return;
     if (id == AttributeId::Id) {
         m_tree.forgetIds();
@@ -123,11 +125,14 @@ void Document::nodeChanged(NodeIndex index)
     ++m_revision;
     m_changed = true;
     // Stops inherit from what stands around their gradient.
-    if (isPaintServerPart(m_tree.node(index).kind) || isStructure(m_tree.node(index).kind))
+    const ElementKind kind = m_tree.node(index).kind;
+    // Text may run along any shape.
+    const bool isWay = m_tree.hasTextReferences() && hasGeometry(kind);
+    if (isWay || isPaintServerPart(kind) || isStructure(kind))
         ++m_referenceRevision;
     // A text is laid out as one, whatever part of it changed.
     NodeIndex at = index;
-    while (m_tree.node(at).kind == ElementKind::Tspan && m_tree.node(at).parent != noNode)
+    while (isTextPart(m_tree.node(at).kind) && m_tree.node(at).parent != noNode)
         at = m_tree.node(at).parent;
     m_facts[at].reset();
     m_facts[index].reset();

@@ -90,14 +90,14 @@ bool Writer::isInText(NodeIndex index) const
         return true;
     const NodeIndex parent = m_tree.node(index).parent;
     return parent != noNode &&
-           (m_tree.node(parent).kind == ElementKind::Text || m_tree.node(parent).kind == ElementKind::Tspan);
+           (m_tree.node(parent).kind == ElementKind::Text || isTextPart(m_tree.node(parent).kind));
 }
 
 // Document-wide styling of a text counts for its parts too.
 NodeIndex Writer::styledNode(NodeIndex index) const
 {
     NodeIndex at = index;
-    while (m_tree.node(at).kind == ElementKind::Tspan && m_tree.node(at).parent != noNode)
+    while (isTextPart(m_tree.node(at).kind) && m_tree.node(at).parent != noNode)
         at = m_tree.node(at).parent;
     return at;
 }

@@ -49,7 +49,7 @@ int qtFontWeight(int weight)
     return byHundreds[qBound(1, (weight + 50) / 100, 9) - 1];
 }
 
-QFont outlineFont(const FontStyle &style)
+QFont outlineFont(const FontStyle &style, const TextStyle &text)
 {
     QFont font;
     setFamilies(font, style.family);
@@ -57,6 +57,11 @@ QFont outlineFont(const FontStyle &style)
     font.setWeight(qtFontWeight(style.weight));
     font.setItalic(style.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setKerning(text.kerning);
+    if (text.stretch != QFont::Unstretched)
+        font.setStretch(text.stretch);
+    if (text.smallCaps)
+        font.setCapitalization(QFont::SmallCaps);
     font.setStyleStrategy(QFont::ForceOutline);
     return font;
 }

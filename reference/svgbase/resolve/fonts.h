@@ -7,10 +7,10 @@
 namespace Svg {
 
 /// Outlines are taken at this size, pixels, and scaled: painters know whole pixel sizes only.
-constexpr int outlineFontSize = 100;
+constexpr int outlineFontSize = 512;
 
 /// The font of a style at `outlineFontSize`, without hinting, so that it scales evenly.
-QFont outlineFont(const FontStyle &style);
+QFont outlineFont(const FontStyle &style, const TextStyle &text = TextStyle());
 /// Qt's number for a CSS font weight.
 int qtFontWeight(int weight);
 

@@ -173,14 +173,19 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
 
 void Resolver::resolveText(NodeIndex index, Facts *facts) const
 {
-    const QVector<TextRun> runs = layOutText(m_tree, index, facts->style, facts->viewport);
+    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport);
+    if (text.hasReferences)
+        facts->referenceRevision = m_referenceRevision;
     QPainterPath whole;
-    for (const TextRun &run : runs)
+    for (const TextRun &run : text.runs)
         whole.addPath(run.path);
-    facts->hasGeometry = !runs.isEmpty();
+    facts->hasGeometry = !text.runs.isEmpty();
     facts->localBounds = whole.boundingRect();
     facts->bounds = mappedBounds(*facts, whole);
-    for (const TextRun &run : runs)
+    // Paint relates to the cells of the characters, not to what is drawn in them.
+    if (facts->hasGeometry)
+        facts->localBounds = text.cells;
+    for (const TextRun &run : text.runs)
         addOutline(run.path, run.style, facts);
 }
 

@@ -1,23 +1,33 @@
 #pragma once
 
-#include "grammar/lengths.h"
 #include "style/computedstyle.h"
 #include "tree/tree.h"
 
+#include <QtCore/QSizeF>
 #include <QtGui/QPainterPath>
 
 namespace Svg {
 
-/// Characters of one style, set at their place.
+/// Outlines of one style.
 struct TextRun
 {
     ComputedStyle style;
-    /// Outlines of the glyphs, user units of the text element.
+    /// User units of the text element.
     QPainterPath path;
 };
 
-/// Sets the characters of a text element and of its tspans in one line, broken where a tspan gives a new "x" or
-/// "y". Nothing without a QGuiApplication, which fonts need.
-QVector<TextRun> layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport);
+/// What a text element amounts to.
+struct TextOutlines
+{
+    /// Letters and the lines that decorate them, in painting order.
+    QVector<TextRun> runs;
+    /// Bounds of all character cells, user units, which units of the bounding box relate to.
+    QRectF cells;
+    /// Whether it depends on elements outside of the text.
+    bool hasReferences = false;
+};
+
+/// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.
+TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport);
 
 } // namespace Svg

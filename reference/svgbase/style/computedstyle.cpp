@@ -11,6 +11,7 @@ ComputedStyle inheritedStyle(const ComputedStyle &parent)
     style.stopColor = Qt::black;
     style.stopOpacity = 1;
     style.effects = nullptr;
+    style.inlineText = nullptr;
     return style;
 }
 

@@ -2,6 +2,7 @@
 
 #include "grammar/paints.h"
 #include "style/effectstyle.h"
+#include "style/textstyle.h"
 #include "tree/attributes.h"
 
 #include <QtCore/QVector>
@@ -49,6 +50,8 @@ struct ComputedStyle
     /// Null without markers.
     QSharedDataPointer<MarkerStyle> markers;
     FontStyle font;
+    /// Null where a text says nothing but its font.
+    QSharedDataPointer<TextStyle> text;
     // Not inherited.
     double opacity = 1;
     bool displayed = true;
@@ -58,6 +61,8 @@ struct ComputedStyle
     double stopOpacity = 1;
     /// Null for an element without clip path, mask, filter, blending and the like.
     QSharedDataPointer<EffectStyle> effects;
+    /// Null for most parts of texts.
+    QSharedDataPointer<InlineStyle> inlineText;
 };
 
 /// What a child starts from: the inherited values of its parent and initial values for the rest.

@@ -5,6 +5,7 @@
 #include "inputlimits.h"
 #include "style/effectproperties.h"
 #include "style/keywords.h"
+#include "style/textproperties.h"
 
 #include <cmath>
 #include <numeric>
@@ -263,7 +264,10 @@ void inheritProperty(ComputedStyle &style, AttributeId property, const ComputedS
         style.visible = parent.visible;
         return;
     default:
-        inheritEffectProperty(style, property, parent);
+        if (isTextProperty(property))
+            inheritTextProperty(style, property, parent);
+        else
+            inheritEffectProperty(style, property, parent);
         return;
     }
 }
@@ -318,7 +322,8 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
     case AttributeId::Visibility:
         return applyKeyword(style.visible, value, visibilities);
     default:
-        return applyEffectProperty(style, property, value, context);
+        return isTextProperty(property) ? applyTextProperty(style, property, value, context)
+                                        : applyEffectProperty(style, property, value, context);
     }
 }
 

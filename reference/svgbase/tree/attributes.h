@@ -49,6 +49,20 @@ enum class AttributeId : quint8 {
     MaskType,
     MixBlendMode,
     Overflow,
+    // Properties of text.
+    AlignmentBaseline,
+    BaselineShift,
+    Direction,
+    DominantBaseline,
+    FontKerning,
+    FontStretch,
+    FontVariant,
+    LetterSpacing,
+    TextDecoration,
+    UnicodeBidi,
+    WhiteSpace,
+    WordSpacing,
+    WritingMode,
     // Attributes of elements.
     /// Declarations that animation lays over the style of an element; no attribute of a text.
     AnimatedStyle,
@@ -93,11 +107,16 @@ enum class AttributeId : quint8 {
 };
 
 constexpr AttributeId firstProperty = AttributeId::Color;
-constexpr AttributeId lastProperty = AttributeId::Overflow;
+constexpr AttributeId lastProperty = AttributeId::WritingMode;
 
 inline bool isProperty(AttributeId id)
 {
     return id >= firstProperty && id <= lastProperty;
+}
+
+inline bool isTextProperty(AttributeId id)
+{
+    return id >= AttributeId::AlignmentBaseline && id <= AttributeId::WritingMode;
 }
 
 AttributeId attributeId(QStringView name);

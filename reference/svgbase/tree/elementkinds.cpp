@@ -24,6 +24,8 @@ const KindName kindNames[] = {
     {QLatin1String("stop"), ElementKind::Stop},
     {QLatin1String("text"), ElementKind::Text},
     {QLatin1String("tspan"), ElementKind::Tspan},
+    {QLatin1String("textPath"), ElementKind::TextPath},
+    {QLatin1String("tref"), ElementKind::Tref},
     {QLatin1String("use"), ElementKind::Use},
     {QLatin1String("defs"), ElementKind::Defs},
     {QLatin1String("linearGradient"), ElementKind::LinearGradient},
@@ -122,6 +124,11 @@ bool isDrawable(ElementKind kind)
     default:
         return hasGeometry(kind);
     }
+}
+
+bool isTextPart(ElementKind kind)
+{
+    return kind >= ElementKind::Tspan && kind <= ElementKind::Tref;
 }
 
 bool isAnimation(ElementKind kind)

@@ -24,6 +24,9 @@ enum class ElementKind : quint8 {
     Path,
     Text,
     Tspan,
+    TextPath,
+    /// An old way to show the characters of another element.
+    Tref,
     /// Character data of a text; not an element of its own.
     Characters,
     Image,
@@ -79,6 +82,8 @@ bool isStructure(ElementKind kind);
 bool isDrawable(ElementKind kind);
 /// Drawable and with a geometry of its own.
 bool hasGeometry(ElementKind kind);
+/// Whether the kind is a part of a text with a style of its own.
+bool isTextPart(ElementKind kind);
 /// Whether the kind changes an attribute of another element over time.
 bool isAnimation(ElementKind kind);
 /// Whether other elements refer to the kind for their paint.

@@ -32,6 +32,7 @@ private:
     void endElement();
     void characters();
     ElementKind kindOfElement() const;
+    bool isInText() const;
     void readAttributes(Attributes *attributes) const;
     void readDeclarations(Attributes *attributes) const;
     void countNamespaces();
@@ -82,6 +83,12 @@ void TreeReader::readDeclarations(Attributes *attributes) const
     }
 }
 
+bool TreeReader::isInText() const
+{
+    const ElementKind above = m_open.isEmpty() ? ElementKind::Other : m_tree->node(m_open.constLast()).kind;
+    return above == ElementKind::Text || isTextPart(above);
+}
+
 ElementKind TreeReader::kindOfElement() const
 {
     const QStringRef space = m_xml.namespaceUri();
@@ -89,6 +96,9 @@ ElementKind TreeReader::kindOfElement() const
     if (space != svgNamespace && (!space.isEmpty() || !m_withoutNamespace))
         return ElementKind::Other;
     const ElementKind kind = elementKind(m_xml.name());
+    // A link inside a text is a part of it.
+    if (kind == ElementKind::Group && isInText())
+        return ElementKind::Tspan;
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
 }
 
@@ -152,7 +162,7 @@ void TreeReader::characters()
         if (kind == ElementKind::Style && node.text.isEmpty() && m_xml.isCDATA())
             node.column += cdataStart.size();
         node.text += m_xml.text();
-    } else if (kind == ElementKind::Text || kind == ElementKind::Tspan) {
+    } else if (isInText()) {
         Node node;
         node.kind = ElementKind::Characters;
         node.text = m_xml.text().left(m_charactersLeft).toString();

@@ -27,6 +27,8 @@ NodeIndex Tree::place(const NodePointer &node)
 
 NodeIndex Tree::add(const Node &node)
 {
+    if (node.kind == ElementKind::TextPath || node.kind == ElementKind::Tref)
+        m_textReferences = true;
     return place(NodePointer(new Node(node)));
 }
 

@@ -53,6 +53,8 @@ class Tree
 {
 public:
     int size() const { return m_nodes.size(); }
+    /// Whether there are, or were, texts that refer to other elements for their way or their characters.
+    bool hasTextReferences() const { return m_textReferences; }
     const Node &node(NodeIndex index) const { return *m_nodes.at(index); }
     Node &edit(NodeIndex index) { return *m_nodes[index]; }
 
@@ -101,6 +103,7 @@ private:
     QVector<NodeIndex> m_free;
     mutable QHash<QString, NodeIndex> m_ids;
     mutable bool m_idsKnown = false;
+    bool m_textReferences = false;
 };
 
 } // namespace Svg

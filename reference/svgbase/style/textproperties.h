@@ -1,0 +1,18 @@
+#pragma once
+
+#include "style/properties.h"
+
+namespace Svg {
+
+/// Applies one of the properties of text that are no font's. A value that its grammar does not accept changes
+/// nothing and gives false.
+bool applyTextProperty(ComputedStyle &style, AttributeId property, QStringView value,
+                       const PropertyContext &context);
+/// Takes the parent's value of such a property.
+void inheritTextProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent);
+
+/// The values that count where an element has none of its own.
+const TextStyle &textStyleOf(const ComputedStyle &style);
+const InlineStyle &inlineStyleOf(const ComputedStyle &style);
+
+} // namespace Svg

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "text/textcontent.h"
+
+namespace Svg {
+
+constexpr ushort leftToRightOverride = 0x202d;
+constexpr ushort rightToLeftOverride = 0x202e;
+
+/// Characters of one level and direction that stand together.
+struct BidiRun
+{
+    int begin = 0;
+    int end = 0;
+    bool rightToLeft = false;
+    /// Whether the direction is forced upon the characters.
+    bool overridden = false;
+};
+
+/// The runs of a line of characters from left to right. None is longer than the limit of characters shaped
+/// together, and a character that is moved begins a new one.
+QVector<BidiRun> bidiRuns(const TextContent &content, int begin, int end);
+
+} // namespace Svg

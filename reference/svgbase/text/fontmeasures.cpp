@@ -1,0 +1,83 @@
+#include "text/fontmeasures.h"
+
+#include "resolve/fonts.h"
+#include "style/textproperties.h"
+
+#include <QtCore/QtEndian>
+#include <QtGui/QRawFont>
+
+namespace Svg {
+
+namespace {
+
+// Where values stand in the tables of a font (OpenType, "OS/2" and "post").
+constexpr int subscriptOffset = 16;
+constexpr int superscriptOffset = 24;
+constexpr int strikeoutPosition = 28;
+constexpr int underlinePosition = 8;
+constexpr int underlineThickness = 10;
+
+// Shares of the font size for fonts that don't tell.
+constexpr double usualSubscript = 0.2;
+constexpr double usualSuperscript = 0.4;
+constexpr double usualUnderline = -0.1;
+constexpr double usualThickness = 0.05;
+
+// Shares of the ascent (CSS Inline 3, appendix A).
+constexpr double hangingShare = 0.8;
+constexpr double mathematicalShare = 0.5;
+
+double tableValue(const QByteArray &table, int offset, double unit, double otherwise)
+{
+    if (table.size() < offset + int(sizeof(qint16)))
+        return otherwise;
+    return qFromBigEndian<qint16>(table.constData() + offset) * unit;
+}
+
+} // namespace
+
+FontMeasures fontMeasures(const ComputedStyle &style)
+{
+    const QRawFont font = QRawFont::fromFont(outlineFont(style.font, textStyleOf(style)));
+    const double size = style.font.size;
+    const double scale = size / outlineFontSize;
+    const double unit = font.unitsPerEm() > 0 ? size / font.unitsPerEm() : 0;
+    const QByteArray os2 = font.fontTable("OS/2");
+    const QByteArray post = font.fontTable("post");
+    FontMeasures measures;
+    measures.ascent = font.ascent() * scale;
+    measures.descent = -font.descent() * scale;
+    measures.xHeight = font.xHeight() * scale;
+    measures.subscript = -tableValue(os2, subscriptOffset, unit, usualSubscript * size);
+    measures.superscript = tableValue(os2, superscriptOffset, unit, usualSuperscript * size);
+    measures.lineThrough = tableValue(os2, strikeoutPosition, unit, measures.xHeight / 2);
+    measures.underline = tableValue(post, underlinePosition, unit, usualUnderline * size);
+    measures.thickness = tableValue(post, underlineThickness, unit, usualThickness * size);
+    if (!(measures.thickness > 0))
+        measures.thickness = usualThickness * size;
+    return measures;
+}
+
+double baselineHeight(Baseline baseline, const FontMeasures &measures)
+{
+    switch (baseline) {
+    case Baseline::Auto:
+    case Baseline::Alphabetic:
+        break;
+    case Baseline::Central:
+        return (measures.ascent + measures.descent) / 2;
+    case Baseline::Hanging:
+        return measures.ascent * hangingShare;
+    case Baseline::Mathematical:
+        return measures.ascent * mathematicalShare;
+    case Baseline::Middle:
+        return measures.xHeight / 2;
+    case Baseline::TextAfterEdge:
+        return measures.descent;
+    case Baseline::TextBeforeEdge:
+        return measures.ascent;
+    }
+    return 0;
+}
+
+} // namespace Svg

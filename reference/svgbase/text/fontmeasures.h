@@ -1,0 +1,26 @@
+#pragma once
+
+#include "style/computedstyle.h"
+
+namespace Svg {
+
+/// Heights of a font in user units; what lies below the baseline is negative.
+struct FontMeasures
+{
+    double ascent = 0;
+    double descent = 0;
+    double xHeight = 0;
+    double subscript = 0;
+    double superscript = 0;
+    /// Middle of the line, and its thickness.
+    double underline = 0;
+    double lineThrough = 0;
+    double thickness = 0;
+};
+
+/// The measures of the first font that a style finds.
+FontMeasures fontMeasures(const ComputedStyle &style);
+/// How far a baseline lies above the alphabetic one, user units.
+double baselineHeight(Baseline baseline, const FontMeasures &measures);
+
+} // namespace Svg

@@ -1,0 +1,195 @@
+#include "text/textcontent.h"
+
+#include "grammar/paints.h"
+#include "inputlimits.h"
+#include "style/cascade.h"
+#include "style/textproperties.h"
+
+namespace Svg {
+
+namespace {
+
+bool isWhiteSpace(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
+}
+
+class TextCollector
+{
+public:
+    TextCollector(const Tree &tree, const QSizeF &viewport)
+        : m_tree(tree)
+        , m_viewport(viewport)
+    {
+    }
+
+    TextContent collect(NodeIndex text, const ComputedStyle &style);
+
+private:
+    void open(NodeIndex node, const ComputedStyle &style);
+    void close();
+    void visit(NodeIndex node);
+    void append(const QString &characters);
+    void appendSpace(bool preserves);
+    void appendCharacter(const QString &characters, int at, int length);
+    void dropSpaceAtEnd();
+    QString referredText(const Node &tref) const;
+    bool preservesSpace(const Node &node, const ComputedStyle &style) const;
+
+    const Tree &m_tree;
+    QSizeF m_viewport;
+    TextContent m_content;
+    /// Open levels, innermost last.
+    QVector<int> m_open;
+    /// Whether the last character is white space that further white space is joined with.
+    bool m_afterSpace = true;
+};
+
+// "white-space" has the higher rank (SVG 2 §11.7.4).
+bool TextCollector::preservesSpace(const Node &node, const ComputedStyle &style) const
+{
+    const WhiteSpace asked = textStyleOf(style).whiteSpace;
+    if (asked != WhiteSpace::Unset)
+        return asked == WhiteSpace::Preserve;
+    for (const Node *at = &node;; at = &m_tree.node(at->parent)) {
+        const QString space = at->attributes.value(AttributeId::XmlSpace);
+        if (!space.isEmpty())
+            return space == QLatin1String("preserve");
+        if (at->parent == noNode)
+            return false;
+    }
+}
+
+void TextCollector::open(NodeIndex index, const ComputedStyle &style)
+{
+    const Node &node = m_tree.node(index);
+    TextLevel level;
+    level.node = index;
+    level.kind = node.kind;
+    level.style = style;
+    level.preservesSpace = preservesSpace(node, style);
+    level.firstCharacter = m_content.characters.size();
+    if (!m_open.isEmpty()) {
+        level.above = m_open.constLast();
+        level.path = m_content.levels.at(level.above).path;
+    }
+    if (node.kind == ElementKind::TextPath)
+        level.path = m_content.levels.size();
+    m_content.hasReferences |= node.kind == ElementKind::TextPath || node.kind == ElementKind::Tref;
+    m_open.append(m_content.levels.size());
+    m_content.levels.append(level);
+}
+
+void TextCollector::close()
+{
+    m_content.levels[m_open.takeLast()].endCharacter = m_content.characters.size();
+}
+
+void TextCollector::appendCharacter(const QString &characters, int at, int length)
+{
+    TextCharacter character;
+    character.begin = m_content.text.size();
+    character.length = length;
+    character.level = m_open.constLast();
+    m_content.text += characters.midRef(at, length);
+    m_content.characters.append(character);
+}
+
+void TextCollector::appendSpace(bool preserves)
+{
+    if (m_afterSpace && !preserves)
+        return;
+    appendCharacter(QStringLiteral(" "), 0, 1);
+    m_afterSpace = !preserves;
+}
+
+void TextCollector::append(const QString &characters)
+{
+    const bool preserves = m_content.levels.at(m_open.constLast()).preservesSpace;
+    for (int i = 0; i < characters.size(); ++i) {
+        // A line break of two characters is one.
+        if (characters.at(i) == QLatin1Char('\r') && characters.midRef(i + 1).startsWith(QLatin1Char('\n')))
+            continue;
+        if (isWhiteSpace(characters.at(i))) {
+            appendSpace(preserves);
+            continue;
+        }
+        const bool pair = characters.at(i).isHighSurrogate() && i + 1 < characters.size() &&
+                          characters.at(i + 1).isLowSurrogate();
+        appendCharacter(characters, i, pair ? 2 : 1);
+        i += pair ? 1 : 0;
+        m_afterSpace = false;
+    }
+}
+
+// Collapsible space at the very end is none.
+void TextCollector::dropSpaceAtEnd()
+{
+    if (!m_afterSpace || m_content.characters.isEmpty())
+        return;
+    m_content.characters.removeLast();
+    m_content.text.chop(1);
+    for (TextLevel &level : m_content.levels) {
+        level.firstCharacter = qMin(level.firstCharacter, m_content.characters.size());
+        level.endCharacter = qMin(level.endCharacter, m_content.characters.size());
+    }
+}
+
+QString TextCollector::referredText(const Node &tref) const
+{
+    QString id = localReference(tref.attributes.value(AttributeId::Href));
+    if (id.isEmpty())
+        id = localReference(tref.attributes.value(AttributeId::XlinkHref));
+    const NodeIndex target = m_tree.findId(id);
+    QString text;
+    for (NodeIndex at = target; at != noNode; at = m_tree.following(at, target)) {
+        if (m_tree.node(at).kind == ElementKind::Characters && text.size() < Limits::textCharacters)
+            text += m_tree.node(at).text;
+    }
+    return text.left(Limits::textCharacters - m_content.text.size());
+}
+
+void TextCollector::visit(NodeIndex index)
+{
+    const Node &node = m_tree.node(index);
+    if (node.kind == ElementKind::Characters) {
+        append(node.text);
+        return;
+    }
+    if (!isTextPart(node.kind))
+        return;
+    const ComputedStyle &around = m_content.levels.at(m_open.constLast()).style;
+    const ComputedStyle style = cascade(m_tree, index, {around, m_viewport});
+    open(index, style);
+    if (node.kind == ElementKind::Tref && style.displayed)
+        append(referredText(node));
+}
+
+TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)
+{
+    open(text, style);
+    NodeIndex at = m_tree.following(text, text);
+    while (at != noNode) {
+        const NodeIndex parent = m_tree.node(at).parent;
+        while (m_open.size() > 1 && m_content.levels.at(m_open.constLast()).node != parent)
+            close();
+        visit(at);
+        const TextLevel &level = m_content.levels.at(m_open.constLast());
+        // What is not displayed takes no room, and what is no part of a text has none.
+        const bool skipped = !level.style.displayed || (level.node != at && m_tree.node(at).firstChild != noNode);
+        at = skipped ? m_tree.followingBeside(at, text) : m_tree.following(at, text);
+    }
+    while (!m_open.isEmpty())
+        close();
+    dropSpaceAtEnd();
+    return m_content;
+}
+
+} // namespace
+
+TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport)
+{
+    return TextCollector(tree, viewport).collect(text, style);
+}
+
+} // namespace Svg

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "style/computedstyle.h"
+#include "tree/tree.h"
+
+#include <QtCore/QSizeF>
+
+#include <optional>
+
+namespace Svg {
+
+/// A text element, or a part of one, with its share of the characters.
+struct TextLevel
+{
+    NodeIndex node = noNode;
+    /// Place of the level around this one; -1 for the text itself.
+    int above = -1;
+    ElementKind kind = ElementKind::Text;
+    ComputedStyle style;
+    bool preservesSpace = false;
+    /// The innermost `textPath` that holds it, as a place in the list of levels; -1 without one.
+    int path = -1;
+    int firstCharacter = 0;
+    int endCharacter = 0;
+};
+
+/// A character that can be given a place: white space that was collapsed is none (SVG 2 §11.1.2).
+struct TextCharacter
+{
+    /// Its code units in the text.
+    int begin = 0;
+    int length = 1;
+    int level = 0;
+    /// Where its element says it stands or moves to, user units.
+    std::optional<double> x;
+    std::optional<double> y;
+    double dx = 0;
+    double dy = 0;
+    /// Degrees.
+    double rotate = 0;
+};
+
+/// What there is to set of a text element, white space settled.
+struct TextContent
+{
+    QString text;
+    QVector<TextCharacter> characters;
+    /// In document order, the text element first.
+    QVector<TextLevel> levels;
+    /// Whether it depends on elements outside of the text.
+    bool hasReferences = false;
+};
+
+/// Collects the characters of a text element with the style of every part. The text's own style is at hand already.
+TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport);
+
+} // namespace Svg

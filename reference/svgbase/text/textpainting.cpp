@@ -1,0 +1,205 @@
+#include "text/textpainting.h"
+
+#include "style/textproperties.h"
+#include "text/fontmeasures.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Svg {
+
+namespace {
+
+/// How far two ends may be apart that count as one, user units.
+constexpr double sameEnd = 1e-6;
+
+/// What all characters of a level have in common.
+struct LevelMeasures
+{
+    FontMeasures font;
+    /// How far the baseline is raised.
+    double raised = 0;
+    ComputedStyle paint;
+};
+
+struct Line
+{
+    bool InlineStyle::*wanted;
+    double FontMeasures::*height;
+};
+
+class TextPainter
+{
+public:
+    TextPainter(const TextContent &content, const QVector<PlacedCluster> &clusters)
+        : m_content(content)
+        , m_clusters(clusters)
+    {
+    }
+
+    TextOutlines paint();
+
+private:
+    void measureLevels();
+    double shiftOf(const TextLevel &level, const FontMeasures &font) const;
+    QTransform glyphTransform(const PlacedCluster &cluster) const;
+    void addGlyphs();
+    void addCells();
+    void addLines(const Line &line);
+    void addLine(int level, const Line &line);
+    int firstClusterOf(int character) const;
+
+    const TextContent &m_content;
+    const QVector<PlacedCluster> &m_clusters;
+    QVector<LevelMeasures> m_levels;
+    TextOutlines m_result;
+};
+
+// Sub- and superscript are where the font around says.
+double TextPainter::shiftOf(const TextLevel &level, const FontMeasures &around) const
+{
+    const InlineStyle &style = inlineStyleOf(level.style);
+    if (style.shift == InlineStyle::Length)
+        return style.baselineShift;
+    return style.shift == InlineStyle::Sub ? around.subscript : around.superscript;
+}
+
+void TextPainter::measureLevels()
+{
+    QVector<double> shifts;
+    for (const TextLevel &level : m_content.levels) {
+        LevelMeasures measures;
+        measures.font = fontMeasures(level.style);
+        const bool isText = level.above < 0;
+        const double shift = isText ? 0 : shifts.at(level.above) + shiftOf(level, m_levels.at(level.above).font);
+        shifts.append(shift);
+        const TextStyle &text = textStyleOf(level.style);
+        Baseline aligned = inlineStyleOf(level.style).alignmentBaseline;
+        if (aligned == Baseline::Auto || isText)
+            aligned = text.dominantBaseline;
+        if (aligned == Baseline::Auto && text.vertical)
+            aligned = Baseline::Central;
+        measures.raised = shift - baselineHeight(aligned, measures.font);
+        measures.paint = level.style;
+        measures.paint.fillRule = Qt::WindingFill;
+        // A part fades by itself; of the text as a whole the opacity is applied to the picture.
+        if (!isText) {
+            const ComputedStyle &above = m_levels.at(level.above).paint;
+            const double faded = level.above == 0 ? 1 : above.opacity;
+            measures.paint.opacity = level.style.opacity * faded;
+            measures.paint.fillOpacity = level.style.fillOpacity * measures.paint.opacity;
+            measures.paint.strokeOpacity = level.style.strokeOpacity * measures.paint.opacity;
+        }
+        m_levels.append(measures);
+    }
+}
+
+QTransform TextPainter::glyphTransform(const PlacedCluster &cluster) const
+{
+    QTransform transform = cluster.line;
+    transform.translate(0, -m_levels.at(cluster.glyphs.level).raised);
+    transform.rotate(m_content.characters.at(cluster.glyphs.firstCharacter).rotate);
+    transform.scale(cluster.widening, 1);
+    return transform;
+}
+
+void TextPainter::addGlyphs()
+{
+    int before = -1;
+    for (const PlacedCluster &cluster : m_clusters) {
+        const int level = cluster.glyphs.level;
+        if (!cluster.shown || !m_content.levels.at(level).style.visible || cluster.glyphs.outline.isEmpty())
+            continue;
+        if (level != before)
+            m_result.runs.append({m_levels.at(level).paint, QPainterPath()});
+        before = level;
+        m_result.runs.last().path.addPath(glyphTransform(cluster).map(cluster.glyphs.outline));
+    }
+}
+
+// The bounding box of a text is that of its character cells (SVG 2 §8.10).
+void TextPainter::addCells()
+{
+    for (const PlacedCluster &cluster : m_clusters) {
+        if (!cluster.shown)
+            continue;
+        const FontMeasures &font = m_levels.at(cluster.glyphs.level).font;
+        const QRectF cell(0, -font.ascent, cluster.glyphs.advance, font.ascent - font.descent);
+        const QRectF placed = glyphTransform(cluster).mapRect(cell);
+        m_result.cells = m_result.cells.isNull() ? placed : m_result.cells.united(placed);
+    }
+}
+
+int TextPainter::firstClusterOf(int character) const
+{
+    const auto isBefore = [](const PlacedCluster &cluster, int place) {
+        return cluster.glyphs.firstCharacter < place;
+    };
+    return int(std::lower_bound(m_clusters.begin(), m_clusters.end(), character, isBefore) - m_clusters.begin());
+}
+
+// A line is as long as the characters that follow each other without a step.
+void TextPainter::addLine(int level, const Line &line)
+{
+    const LevelMeasures &measures = m_levels.at(level);
+    const double middle = measures.font.*(line.height) + measures.raised;
+    QPainterPath path;
+    const PlacedCluster *first = nullptr;
+    double end = 0;
+    const auto finish = [&] {
+        if (!first)
+            return;
+        QPainterPath piece;
+        piece.addRect(0, -middle - measures.font.thickness / 2, end - first->along, measures.font.thickness);
+        path.addPath(first->line.map(piece));
+        first = nullptr;
+    };
+    const int stop = firstClusterOf(m_content.levels.at(level).endCharacter);
+    for (int i = firstClusterOf(m_content.levels.at(level).firstCharacter); i < stop; ++i) {
+        const PlacedCluster &cluster = m_clusters.at(i);
+        const bool decorated = cluster.shown && m_content.levels.at(cluster.glyphs.level).style.visible;
+        const bool onWay = m_content.levels.at(cluster.glyphs.level).path >= 0;
+        const bool follows = decorated && first && !onWay && std::fabs(cluster.along - end) < sameEnd &&
+                             cluster.aside == first->aside;
+        if (!follows)
+            finish();
+        if (!decorated)
+            continue;
+        if (!first)
+            first = &cluster;
+        end = cluster.along + cluster.glyphs.advance * cluster.widening;
+    }
+    finish();
+    path.setFillRule(Qt::WindingFill);
+    if (!path.isEmpty())
+        m_result.runs.append({measures.paint, path});
+}
+
+void TextPainter::addLines(const Line &line)
+{
+    for (int level = 0; level < m_content.levels.size(); ++level) {
+        if (inlineStyleOf(m_content.levels.at(level).style).*(line.wanted))
+            addLine(level, line);
+    }
+}
+
+TextOutlines TextPainter::paint()
+{
+    measureLevels();
+    // Lines over the letters lie on top of them (CSS Text Decoration 3 §2.1).
+    addLines({&InlineStyle::underline, &FontMeasures::underline});
+    addLines({&InlineStyle::overline, &FontMeasures::ascent});
+    addGlyphs();
+    addLines({&InlineStyle::lineThrough, &FontMeasures::lineThrough});
+    addCells();
+    return m_result;
+}
+
+} // namespace
+
+TextOutlines paintedText(const TextContent &content, const QVector<PlacedCluster> &clusters)
+{
+    return TextPainter(content, clusters).paint();
+}
+
+} // namespace Svg

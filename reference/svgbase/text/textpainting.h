@@ -1,0 +1,11 @@
+#pragma once
+
+#include "resolve/textlayout.h"
+#include "text/textplacing.h"
+
+namespace Svg {
+
+/// The outlines of placed characters and of the lines that decorate them, in painting order.
+TextOutlines paintedText(const TextContent &content, const QVector<PlacedCluster> &clusters);
+
+} // namespace Svg

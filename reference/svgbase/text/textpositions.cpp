@@ -1,0 +1,89 @@
+#include "text/textpositions.h"
+
+#include "grammar/lengths.h"
+#include "grammar/numbers.h"
+#include "style/textproperties.h"
+
+namespace Svg {
+
+namespace {
+
+// A list counts up to its first error.
+QVector<double> lengthList(const QString &text, Axis axis, const LengthContext &context)
+{
+    QVector<double> values;
+    const Latin1Text bytes(text);
+    Cursor cursor = bytes.cursor();
+    Length length;
+    cursor.skipSpace();
+    while (readLength(cursor, &length)) {
+        values.append(toUserUnits(length, axis, context));
+        cursor.skipCommaSpace();
+    }
+    return values;
+}
+
+class PositionResolver
+{
+public:
+    PositionResolver(const Tree &tree, const QSizeF &viewport, TextContent *content)
+        : m_tree(tree)
+        , m_viewport(viewport)
+        , m_content(content)
+    {
+    }
+
+    void apply(const TextLevel &level);
+
+private:
+    template<typename Member>
+    void apply(const TextLevel &level, AttributeId attribute, Axis axis, Member TextCharacter::*member)
+    {
+        const QString text = m_tree.node(level.node).attributes.value(attribute);
+        if (text.isEmpty())
+            return;
+        const QVector<double> values = lengthList(text, axis, {m_viewport, level.style.font.size});
+        const int count = qMin(values.size(), level.endCharacter - level.firstCharacter);
+        for (int i = 0; i < count; ++i)
+            m_content->characters[level.firstCharacter + i].*member = values.at(i);
+    }
+    void applyRotation(const TextLevel &level);
+
+    const Tree &m_tree;
+    QSizeF m_viewport;
+    TextContent *m_content;
+};
+
+// The last angle counts for all characters that are left.
+void PositionResolver::applyRotation(const TextLevel &level)
+{
+    const QString text = m_tree.node(level.node).attributes.value(QStringLiteral("rotate"));
+    const QVector<double> angles = parseNumberList(text).value_or(QVector<double>());
+    if (angles.isEmpty())
+        return;
+    for (int i = level.firstCharacter; i < level.endCharacter; ++i)
+        m_content->characters[i].rotate = angles.at(qMin(i - level.firstCharacter, angles.size() - 1));
+}
+
+void PositionResolver::apply(const TextLevel &level)
+{
+    const bool isPath = level.kind == ElementKind::TextPath;
+    if (!isPath) {
+        apply(level, AttributeId::X, Axis::Horizontal, &TextCharacter::x);
+        apply(level, AttributeId::Y, Axis::Vertical, &TextCharacter::y);
+        apply(level, AttributeId::Dx, Axis::Horizontal, &TextCharacter::dx);
+        apply(level, AttributeId::Dy, Axis::Vertical, &TextCharacter::dy);
+    }
+    applyRotation(level);
+}
+
+} // namespace
+
+void resolvePositions(const Tree &tree, const QSizeF &viewport, TextContent *content)
+{
+    PositionResolver resolver(tree, viewport, content);
+    for (const TextLevel &level : qAsConst(content->levels))
+        resolver.apply(level);
+}
+
+} // namespace Svg

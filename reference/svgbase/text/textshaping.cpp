@@ -1,0 +1,255 @@
+#include "text/textshaping.h"
+
+#include "inputlimits.h"
+#include "resolve/fonts.h"
+#include "style/textproperties.h"
+#include "text/bidiruns.h"
+#include "text/fontmeasures.h"
+
+#include <QtGui/QGlyphRun>
+#include <QtGui/QRawFont>
+#include <QtGui/QTextLayout>
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+/// Room for a line that is never broken, layout units.
+constexpr double endlessLine = 16777215;
+/// Any spacing keeps letters from forming ligatures; this is the smallest that a font takes.
+constexpr double leastSpacing = 1.0 / 64;
+
+struct CodeRange
+{
+    uint first;
+    uint last;
+};
+
+// Scripts whose characters stay upright on a vertical line (Unicode UAX 50), roughly.
+constexpr CodeRange uprightRanges[] = {
+    {0x1100, 0x11ff}, {0x2e80, 0xa4cf}, {0xa960, 0xa97f}, {0xac00, 0xd7ff},   {0xf900, 0xfaff},
+    {0xfe30, 0xfe4f}, {0xff01, 0xff60}, {0xffe0, 0xffe6}, {0x1f000, 0x1faff}, {0x20000, 0x3ffff},
+};
+
+uint codeOf(const QString &text, const TextCharacter &character)
+{
+    const QChar first = text.at(character.begin);
+    return character.length == 2 ? QChar::surrogateToUcs4(first, text.at(character.begin + 1)) : first.unicode();
+}
+
+bool isUpright(uint code)
+{
+    return std::any_of(std::begin(uprightRanges), std::end(uprightRanges),
+                       [code](const CodeRange &range) { return code >= range.first && code <= range.last; });
+}
+
+/// One line of glyphs in one style and direction.
+class Row
+{
+public:
+    Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode);
+
+    /// The clusters in logical order, their offsets from the left end of the row.
+    QVector<TextCluster> clusters();
+
+private:
+    void layOut();
+    QVector<TextCluster> separateClusters();
+    QPainterPath outlineOf(const QList<QGlyphRun> &runs, double left) const;
+    void space(TextCluster *cluster) const;
+    void turnUpright(TextCluster *cluster) const;
+    int place(int character) const { return m_content.characters.at(character).begin - m_textBegin + m_prefix; }
+
+    const TextContent &m_content;
+    BidiRun m_run;
+    ShapingMode m_mode;
+    const ComputedStyle &m_style;
+    double m_scale;
+    int m_textBegin;
+    /// Control characters in front of the text.
+    int m_prefix = 0;
+    QTextLayout m_layout;
+    QTextLine m_line;
+};
+
+Row::Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode)
+    : m_content(content)
+    , m_run(run)
+    , m_mode(mode)
+    , m_style(content.levels.at(content.characters.at(run.begin).level).style)
+    , m_scale(m_style.font.size / outlineFontSize)
+    , m_textBegin(content.characters.at(run.begin).begin)
+{
+}
+
+void Row::layOut()
+{
+    const TextCharacter &last = m_content.characters.at(m_run.end - 1);
+    QString text = m_content.text.mid(m_textBegin, last.begin + last.length - m_textBegin);
+    if (m_run.overridden) {
+        text = QChar(m_run.rightToLeft ? rightToLeftOverride : leftToRightOverride) + text;
+        m_prefix = 1;
+    }
+    QFont font = outlineFont(m_style.font, textStyleOf(m_style));
+    if (textStyleOf(m_style).letterSpacing != 0)
+        font.setLetterSpacing(QFont::AbsoluteSpacing, leastSpacing);
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    option.setTextDirection(m_run.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    m_layout.setText(text);
+    m_layout.setFont(font);
+    m_layout.setTextOption(option);
+    m_layout.beginLayout();
+    m_line = m_layout.createLine();
+    m_line.setLineWidth(endlessLine);
+    m_layout.endLayout();
+}
+
+QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left) const
+{
+    QPainterPath outline;
+    const double baseline = m_line.y() + m_line.ascent();
+    for (const QGlyphRun &run : runs) {
+        const QRawFont font = run.rawFont();
+        const QVector<quint32> glyphs = run.glyphIndexes();
+        const QVector<QPointF> positions = run.positions();
+        for (int i = 0; i < glyphs.size(); ++i) {
+            const QPointF at = positions.at(i) - QPointF(left, baseline);
+            outline.addPath(font.pathForGlyph(glyphs.at(i)).translated(at));
+        }
+    }
+    return QTransform::fromScale(m_scale, m_scale).map(outline);
+}
+
+void Row::space(TextCluster *cluster) const
+{
+    const TextStyle &text = textStyleOf(m_style);
+    const QChar first = m_content.text.at(m_content.characters.at(cluster->firstCharacter).begin);
+    cluster->advance += text.letterSpacing;
+    if (first == QLatin1Char(' ') || first == QChar(QChar::Nbsp))
+        cluster->advance += text.wordSpacing;
+}
+
+// An upright character fills a square whose middle lies on the line; its outline is turned back here so that all of
+// a vertical line can be turned alike.
+void Row::turnUpright(TextCluster *cluster) const
+{
+    const FontMeasures measures = fontMeasures(m_style);
+    const double height = measures.ascent - measures.descent;
+    const double size = m_style.font.size;
+    const double baseline = height > 0 ? size * measures.ascent / height : size;
+    const double middle = (measures.ascent + measures.descent) / 2;
+    QTransform turn;
+    turn.translate(0, -middle);
+    turn.rotate(-90);
+    turn.translate(-cluster->advance / 2, baseline);
+    cluster->outline = turn.map(cluster->outline);
+    cluster->advance = size;
+}
+
+bool isSameGlyph(const QList<QGlyphRun> &a, const QList<QGlyphRun> &b)
+{
+    return !a.isEmpty() && a.size() == b.size() && a.first().glyphIndexes() == b.first().glyphIndexes() &&
+           a.first().positions() == b.first().positions();
+}
+
+QVector<TextCluster> Row::separateClusters()
+{
+    QVector<TextCluster> clusters;
+    QList<QGlyphRun> before;
+    for (int i = m_run.begin; i < m_run.end; ++i) {
+        const TextCharacter &character = m_content.characters.at(i);
+        const double from = m_line.cursorToX(place(i));
+        const double to = m_line.cursorToX(place(i) + character.length);
+        const QList<QGlyphRun> runs = m_line.glyphRuns(place(i), character.length);
+        const double advance = qAbs(to - from) * m_scale;
+        if (!clusters.isEmpty() && (isSameGlyph(runs, before) || !canBePlaced(m_content.text, character))) {
+            TextCluster &cluster = clusters.last();
+            if (!isSameGlyph(runs, before))
+                cluster.outline.addPath(outlineOf(runs, qMin(from, to) - cluster.advance / m_scale));
+            ++cluster.characterCount;
+            cluster.advance += advance;
+            continue;
+        }
+        double left = qMin(from, to);
+        // The place of a ligature is that of its glyph, not that of its first letter.
+        if (m_run.rightToLeft && !runs.isEmpty() && !runs.first().positions().isEmpty())
+            left = runs.first().positions().first().x();
+        clusters.append({i, 1, character.level, outlineOf(runs, left), advance, 0});
+        before = runs;
+    }
+    return clusters;
+}
+
+QVector<TextCluster> Row::clusters()
+{
+    if (!(m_style.font.size > 0))
+        return {};
+    layOut();
+    QVector<TextCluster> clusters;
+    if (m_mode.separate) {
+        clusters = separateClusters();
+    } else {
+        const double width = m_line.naturalTextWidth();
+        const int level = m_content.characters.at(m_run.begin).level;
+        clusters.append({m_run.begin, m_run.end - m_run.begin, level,
+                         outlineOf(m_line.glyphRuns(), m_line.naturalTextRect().x()), width * m_scale, 0});
+    }
+    double way = 0;
+    for (TextCluster &cluster : clusters) {
+        if (m_mode.separate)
+            space(&cluster);
+        const uint code = codeOf(m_content.text, m_content.characters.at(cluster.firstCharacter));
+        if (m_mode.vertical && isUpright(code))
+            turnUpright(&cluster);
+        cluster.offset = way;
+        way += cluster.advance;
+    }
+    if (m_run.rightToLeft) {
+        for (TextCluster &cluster : clusters)
+            cluster.offset = way - cluster.offset - cluster.advance;
+    }
+    return clusters;
+}
+
+} // namespace
+
+bool canBePlaced(const QString &text, const TextCharacter &character)
+{
+    const uint code = codeOf(text, character);
+    switch (QChar::category(code)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Mark_Enclosing:
+    case QChar::Other_Format:
+        return false;
+    default:
+        return true;
+    }
+}
+
+QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode)
+{
+    QVector<TextCluster> clusters;
+    double left = 0;
+    const QVector<BidiRun> runs = bidiRuns(content, begin, end);
+    for (const BidiRun &run : runs) {
+        QVector<TextCluster> row = Row(content, run, mode).clusters();
+        double width = 0;
+        for (TextCluster &cluster : row) {
+            cluster.offset += left;
+            width += cluster.advance;
+        }
+        left += width;
+        clusters += row;
+    }
+    std::sort(clusters.begin(), clusters.end(),
+              [](const TextCluster &a, const TextCluster &b) { return a.firstCharacter < b.firstCharacter; });
+    return clusters;
+}
+
+} // namespace Svg

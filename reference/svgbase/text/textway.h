@@ -1,0 +1,33 @@
+#pragma once
+
+#include "resolve/pathmeasure.h"
+#include "style/computedstyle.h"
+#include "tree/tree.h"
+
+#include <QtCore/QSizeF>
+
+namespace Svg {
+
+/// The way that a `textPath` puts its characters on (SVG 2 §11.8), user units of the text.
+class TextWay
+{
+public:
+    /// The way of a `textPath` element; without length where it refers to nothing.
+    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport);
+
+    double length() const { return m_measure.length(); }
+    /// Where the text begins, before it is anchored.
+    double startOffset() const { return m_startOffset; }
+    /// The place in the middle of a character, as far along the way as `distance`. Nothing where the character is
+    /// not shown: beyond the ends, or, on a closed way, more than once around from the start.
+    std::optional<PathMeasure::Place> at(double distance, TextAnchor anchor) const;
+    /// Where text goes on behind the way.
+    QPointF end() const { return m_measure.at(m_measure.length()).point; }
+
+private:
+    PathMeasure m_measure;
+    double m_startOffset = 0;
+    bool m_closed = false;
+};
+
+} // namespace Svg
