@@ -5,6 +5,7 @@
 
 void registerLoadBenchmarks();
 void registerDrawBenchmarks();
+void registerDocumentBenchmarks();
 void registerDragBenchmarks();
 void registerPageBenchmarks();
 void registerThreadBenchmarks();
@@ -16,6 +17,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     registerLoadBenchmarks();
     registerDrawBenchmarks();
+    registerDocumentBenchmarks();
     registerDragBenchmarks();
     registerPageBenchmarks();
     registerThreadBenchmarks();

@@ -4,9 +4,7 @@
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 
-namespace {
-
-const pagehost::ObjectRegistry &registry()
+const pagehost::ObjectRegistry &shapeRegistry()
 {
     static const std::unique_ptr<pagehost::ObjectRegistry> loaded = [] {
         auto made = std::make_unique<pagehost::ObjectRegistry>();
@@ -16,12 +14,10 @@ const pagehost::ObjectRegistry &registry()
     return *loaded;
 }
 
-} // namespace
-
 QStringList shapeKinds()
 {
     QStringList ids;
-    for (const pagehost::ObjectKind &kind : registry().kinds())
+    for (const pagehost::ObjectKind &kind : shapeRegistry().kinds())
         ids.append(kind.id);
     return ids;
 }
@@ -43,7 +39,7 @@ void sendMouse(CBaseObject *object, int eventType, QPointF pos)
 
 std::unique_ptr<CBaseObject> makeShape(const QString &kindId, QSizeF size)
 {
-    std::unique_ptr<CBaseObject> object(registry().createObject(kindId));
+    std::unique_ptr<CBaseObject> object(shapeRegistry().createObject(kindId));
     const QPointF end(size.width(), size.height());
     sendMouse(object.get(), QEvent::GraphicsSceneMousePress, QPointF(0, 0));
     sendMouse(object.get(), QEvent::GraphicsSceneMouseMove, end);

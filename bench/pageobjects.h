@@ -7,6 +7,12 @@
 
 #include <memory>
 
+namespace pagehost {
+class ObjectRegistry;
+}
+
+/// The shape plug-ins.
+const pagehost::ObjectRegistry &shapeRegistry();
 /// The kinds of object that the shape plug-ins offer.
 QStringList shapeKinds();
 /// A finished object of that kind, drawn by press, move and release over `size` (item units).

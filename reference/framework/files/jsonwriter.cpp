@@ -193,19 +193,15 @@ void JsonWriter::writeArray(const QJsonArray &array)
 void JsonWriter::writeNumber(const QJsonValue &value)
 {
     const double number = value.toDouble();
-    if (!std::isfinite(number)) {
+    // Qt reads numbers below the normal ones as 0.
+    if (!std::isfinite(number) || std::fpclassify(number) == FP_SUBNORMAL) {
         m_isExact = false;
         m_text.append("null");
-    } else if (std::abs(number) < exactIntegers) {
-        const qint64 integer = qint64(number);
-        const bool isInteger = double(integer) == number && !(integer == 0 && std::signbit(number));
-        isInteger ? appendNumber(m_text, integer) : appendNumber(m_text, number);
-    } else {
-        // Qt keeps integers that a double cannot hold.
-        const QVariant exact = value.toVariant();
-        exact.type() == QVariant::LongLong ? appendNumber(m_text, exact.toLongLong())
-                                           : appendNumber(m_text, number);
+        return;
     }
+    const bool isSmall = std::abs(number) < exactIntegers;
+    const bool isInteger = isSmall && double(qint64(number)) == number && !(number == 0 && std::signbit(number));
+    isInteger ? appendNumber(m_text, qint64(number)) : appendNumber(m_text, number);
 }
 
 void JsonWriter::writeString(const QString &text)

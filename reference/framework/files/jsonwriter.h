@@ -21,7 +21,8 @@ public:
     /// `text` must be JSON.
     void rawMember(const char *key, const QByteArray &text);
 
-    /// False since a number that JSON cannot hold (infinite, NaN) was written; it stands as null.
+    /// False since a number that does not come back from JSON (infinite, NaN, subnormal) was written; it stands as
+    /// null.
     bool isExact() const { return m_isExact; }
 
     int size() const { return m_text.size(); }
