@@ -76,6 +76,8 @@ constexpr int shownImagePixels = 256 * 1024 * 1024;
 constexpr int keptPictureBytes = 64 * 1024 * 1024;
 /// Deepest nesting of documents in images of documents.
 constexpr int imageDepth = 4;
+/// Most primitives of a filter, and functions in a list of them.
+constexpr int filterPrimitives = 100;
 /// Most messages that a document keeps.
 constexpr int messages = 100;
 

@@ -3,6 +3,7 @@
 #include "document/document.h"
 #include "document/drawingwalk.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QSet>
 
 namespace Svg {
@@ -22,6 +23,8 @@ struct BuildContext
     int boundsVisits = 0;
     /// Clip paths, masks and markers whose content is being built; one of them in its own content is an error.
     QVector<NodeIndex> open;
+    /// What "feImage" elements show, so that every use of a filter need not read it again.
+    QHash<NodeIndex, std::shared_ptr<const ImageContent>> filterImages;
     /// Images that are shown, their pixels, and the same counted for every time that they are.
     QSet<const ImageContent *> images;
     qint64 imagePixels = 0;

@@ -1,6 +1,7 @@
 #include "draw/effectbuilder.h"
 
 #include "draw/effectregion.h"
+#include "draw/filterbuilder.h"
 #include "draw/layerwrapping.h"
 #include "draw/listbuilder.h"
 #include "draw/objectbounds.h"
@@ -29,6 +30,7 @@ public:
 
     bool addClip(LayerEffects *layer);
     bool addMask(LayerEffects *layer);
+    bool addFilter(LayerEffects *layer);
 
 private:
     const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
@@ -147,10 +149,20 @@ bool EffectBuilder::addMask(LayerEffects *layer)
     return mask == noNode || buildMask(mask, layer);
 }
 
+bool EffectBuilder::addFilter(LayerEffects *layer)
+{
+    const QString &list = m_facts->style.effects->filter;
+    if (list.isEmpty())
+        return true;
+    const BuiltFilter built = buildFilter(m_context, list, {bounds(), m_facts->viewport, m_space, m_facts->style});
+    layer->filter = built.filter;
+    return built.drawn;
+}
+
 bool saysNothing(const LayerEffects &layer, const EffectStyle &style)
 {
-    return !layer.hasRegion && !layer.clips && !layer.masks && layer.blendMode == BlendMode::Normal &&
-           !style.isolated;
+    return !layer.filter && !layer.hasRegion && !layer.clips && !layer.masks &&
+           layer.blendMode == BlendMode::Normal && !style.isolated;
 }
 
 } // namespace
@@ -163,7 +175,8 @@ BuiltEffects buildEffects(BuildContext &context, NodeIndex node, const FactsPoin
     EffectBuilder builder(context, node, facts);
     result.layer->blendMode = style.blendMode;
     context.blends = context.blends || style.blendMode != BlendMode::Normal;
-    result.drawn = builder.addClip(result.layer.get()) && builder.addMask(result.layer.get());
+    result.drawn = builder.addClip(result.layer.get()) && builder.addMask(result.layer.get()) &&
+                   builder.addFilter(result.layer.get());
     if (saysNothing(*result.layer, style))
         result.layer.reset();
     return result;

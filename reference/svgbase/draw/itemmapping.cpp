@@ -223,6 +223,13 @@ void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &
     LayerEffects *effects = item->effects.get();
     const QTransform placed = item->control ? aboutCentre(item->controlCentre, stretch) : stretch;
     effects->regionPath = (effects->regionToDocument * placed * world).map(effects->region);
+    if (effects->filter) {
+        effects->filter->toPainter = effects->filter->toDocument * placed * world;
+        for (FilterStep &step : effects->filter->steps) {
+            for (FilterPrimitive &primitive : step.primitives)
+                mapItems(&primitive.items, stretch, world);
+        }
+    }
     mapItems(&effects->clip, stretch, world);
     mapItems(&effects->mask, stretch, world);
 }
@@ -241,6 +248,8 @@ void restrictBounds(DisplayItem *layer)
     const LayerEffects *effects = layer->effects.get();
     if (!effects)
         return;
+    if (effects->filter)
+        layer->bounds = filteredBounds(*effects->filter, layer->bounds);
     if (effects->hasRegion)
         layer->bounds &= effects->regionPath.controlPointRect();
     if (effects->clips)

@@ -1,5 +1,7 @@
 #include "draw/itempainter.h"
 
+#include "draw/compositionmodes.h"
+#include "draw/filterrunner.h"
 #include "draw/layereffects.h"
 #include "draw/layerpictures.h"
 #include "inputlimits.h"
@@ -114,6 +116,7 @@ private:
     void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
     void endLayer();
+    bool filtered(const Filter &filter, const Layer &layer, QImage *picture);
     void finish(Layer *layer);
     void paintPicture(Layer *done);
     std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
@@ -161,13 +164,24 @@ void ItemPainter::paintImage(const DisplayItem &item)
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
+// What a filter moves or blurs may come from outside of what is painted on.
+QRect inputArea(const DisplayItem &begin, const QRect &area)
+{
+    if (!begin.effects || !begin.effects->filter)
+        return area;
+    const Filter &filter = *begin.effects->filter;
+    const QSizeF reach = filterReach(filter);
+    const QSizeF size = filter.toPainter.mapRect(QRectF(QPointF(), reach)).size();
+    return QRectF(area).adjusted(-size.width(), -size.height(), size.width(), size.height()).toAlignedRect();
+}
+
 // False when nothing of the layer shows, so that all of it is passed over.
 bool ItemPainter::beginLayer(const DisplayItem &begin)
 {
     const Layer &below = m_layers.back();
     const QRectF reach = begin.bounds.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach);
     Layer layer;
-    layer.area = (reach & QRectF(below.area)).toAlignedRect() & below.area;
+    layer.area = (reach & QRectF(inputArea(begin, below.area))).toAlignedRect();
     if (layer.area.isEmpty())
         return false;
     layer.picture = SidePicture::make(layer.area, m_pixelRatio, m_budget);
@@ -203,12 +217,33 @@ void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
         picture->fill(Qt::transparent);
 }
 
+bool ItemPainter::filtered(const Filter &filter, const Layer &layer, QImage *picture)
+{
+    FilterServices services;
+    services.takePixels = [this](double pixels) {
+        m_budget->left -= pixels;
+        return m_budget->left >= 0;
+    };
+    services.paint = [this, &layer](const QVector<DisplayItem> &items) {
+        const std::unique_ptr<SidePicture> side = painted(items, layer.area);
+        QImage image = side ? *side->finished() : QImage();
+        image.setDevicePixelRatio(1);
+        return image;
+    };
+    const QPoint corner = layer.area.topLeft();
+    const QTransform toPixels = filter.toPainter * QTransform::fromTranslate(-corner.x(), -corner.y()) *
+                                QTransform::fromScale(m_pixelRatio, m_pixelRatio);
+    return runFilter(filter, toPixels, services, picture);
+}
+
 void ItemPainter::finish(Layer *layer)
 {
     QImage *picture = layer->picture->finished();
     const LayerEffects *effects = layer->effects.get();
     if (!effects)
         return;
+    if (effects->filter && !filtered(*effects->filter, *layer, picture))
+        picture->fill(Qt::transparent);
     if (effects->hasRegion) {
         const std::unique_ptr<SidePicture> region = SidePicture::make(layer->area, m_pixelRatio, m_budget);
         if (region)
@@ -223,41 +258,6 @@ void ItemPainter::finish(Layer *layer)
             turnLuminanceIntoAlpha(mask->finished(), effects->linearMask);
         keepWhere(picture, mask);
     }
-}
-
-QPainter::CompositionMode compositionMode(BlendMode mode)
-{
-    switch (mode) {
-    case BlendMode::Multiply:
-        return QPainter::CompositionMode_Multiply;
-    case BlendMode::Screen:
-        return QPainter::CompositionMode_Screen;
-    case BlendMode::Overlay:
-        return QPainter::CompositionMode_Overlay;
-    case BlendMode::Darken:
-        return QPainter::CompositionMode_Darken;
-    case BlendMode::Lighten:
-        return QPainter::CompositionMode_Lighten;
-    case BlendMode::ColorDodge:
-        return QPainter::CompositionMode_ColorDodge;
-    case BlendMode::ColorBurn:
-        return QPainter::CompositionMode_ColorBurn;
-    case BlendMode::HardLight:
-        return QPainter::CompositionMode_HardLight;
-    case BlendMode::SoftLight:
-        return QPainter::CompositionMode_SoftLight;
-    case BlendMode::Difference:
-        return QPainter::CompositionMode_Difference;
-    case BlendMode::Exclusion:
-        return QPainter::CompositionMode_Exclusion;
-    default:
-        return QPainter::CompositionMode_SourceOver;
-    }
-}
-
-bool isForPainters(BlendMode mode)
-{
-    return mode < BlendMode::Hue;
 }
 
 void ItemPainter::paintPicture(Layer *done)

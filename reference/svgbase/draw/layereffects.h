@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/displaylist.h"
+#include "draw/filter.h"
 
 namespace Svg {
 
@@ -8,6 +8,9 @@ namespace Svg {
 /// mask, in this order, then the layer's opacity and the blend mode.
 struct LayerEffects
 {
+    /// Null for none; comes before everything else.
+    std::shared_ptr<Filter> filter;
+
     /// Nothing shows outside this outline.
     bool hasRegion = false;
     QPainterPath region;

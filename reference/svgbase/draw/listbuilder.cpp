@@ -109,7 +109,8 @@ void ListBuilder::endLayer()
     const int begin = m_layers.constLast();
     // A layer around one single stroke, fill or image is the same as fading that one.
     const bool single = items.size() == begin + 2;
-    if (items.size() == begin + 1) {
+    const bool filtered = items.at(begin).effects && items.at(begin).effects->filter;
+    if (items.size() == begin + 1 && !filtered) {
         items.removeLast();
     } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
         DisplayItem shape = items.takeLast();

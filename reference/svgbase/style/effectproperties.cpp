@@ -174,6 +174,13 @@ void inheritMarker(ComputedStyle &style, QString MarkerStyle::*member, const Com
 
 } // namespace
 
+BlendMode blendModeOf(QStringView name)
+{
+    BlendMode mode = BlendMode::Normal;
+    applyKeyword(mode, name, blendModes);
+    return mode;
+}
+
 bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView value,
                          const PropertyContext &context)
 {

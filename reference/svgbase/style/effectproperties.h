@@ -10,5 +10,7 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
                          const PropertyContext &context);
 /// Takes the parent's value of such a property.
 void inheritEffectProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent);
+/// A blend mode by its name; normal for anything else.
+BlendMode blendModeOf(QStringView name);
 
 } // namespace Svg

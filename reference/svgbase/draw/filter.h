@@ -1,0 +1,69 @@
+#pragma once
+
+#include "draw/displaylist.h"
+
+#include <array>
+#include <optional>
+
+namespace Svg {
+
+/// The subregion of a primitive where its attributes give it, units of the filtered element.
+struct PrimitiveRegion
+{
+    std::optional<double> x;
+    std::optional<double> y;
+    std::optional<double> width;
+    std::optional<double> height;
+};
+
+enum class CompositeOperator : quint8 { Over, In, Out, Atop, Xor, Lighter, Arithmetic };
+
+/// One step of a filter; which members count depends on its kind.
+struct FilterPrimitive
+{
+    ElementKind kind = ElementKind::FeMerge;
+    /// Names of standard inputs or earlier results; empty for the result before this one.
+    QStringList inputs;
+    QString result;
+    PrimitiveRegion region;
+    /// Whether it works in linear light.
+    bool linear = true;
+
+    /// Standard deviations, radii; units of the filtered element.
+    QSizeF extent{0, 0};
+    QPointF offset;
+    QColor color;
+    BlendMode blendMode = BlendMode::Normal;
+    CompositeOperator compositeOperator = CompositeOperator::Over;
+    std::array<double, 4> coefficients{};
+    /// Five columns for each of red, green, blue and alpha.
+    std::array<double, 20> matrix{};
+    /// New values by old ones: red, green, blue, alpha.
+    std::array<QByteArray, 4> tables;
+    bool dilates = false;
+    /// What an "feImage" shows.
+    QVector<DisplayItem> items;
+};
+
+/// A "filter" element, or a filter function, which knows no region.
+struct FilterStep
+{
+    std::optional<QRectF> region;
+    QVector<FilterPrimitive> primitives;
+};
+
+/// What the "filter" property of an element amounts to.
+struct Filter
+{
+    QVector<FilterStep> steps;
+    /// From the units of the filtered element.
+    QTransform toDocument;
+    QTransform toPainter;
+};
+
+/// How far from what it is made of a pixel of the result may lie, units of the filtered element.
+QSizeF filterReach(const Filter &filter);
+/// What the result may cover of the painter, where the element covers `content`.
+QRectF filteredBounds(const Filter &filter, const QRectF &content);
+
+} // namespace Svg

@@ -1,0 +1,135 @@
+#include "draw/filterbuilder.h"
+
+#include "draw/effectregion.h"
+#include "draw/filterattributes.h"
+#include "draw/filterfunctions.h"
+#include "draw/imagebuilder.h"
+#include "inputlimits.h"
+#include "resolve/images.h"
+
+namespace Svg {
+
+namespace {
+
+bool isPrimitive(ElementKind kind)
+{
+    return kind >= ElementKind::FeBlend && kind <= ElementKind::FeTile && kind != ElementKind::FeMergeNode;
+}
+
+class FilterBuilder
+{
+public:
+    FilterBuilder(BuildContext &context, const FilterTarget &target)
+        : m_context(context)
+        , m_target(target)
+    {
+    }
+
+    /// False when the element is not one that can be applied.
+    bool addElement(NodeIndex filter, Filter *result, bool *drawn);
+
+private:
+    const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
+    bool addPrimitives(NodeIndex filter, FilterStep *step);
+    ImagePointer image(NodeIndex node);
+    void buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive);
+
+    BuildContext &m_context;
+    const FilterTarget &m_target;
+};
+
+ImagePointer FilterBuilder::image(NodeIndex node)
+{
+    const auto known = m_context.filterImages.constFind(node);
+    if (known != m_context.filterImages.constEnd())
+        return *known;
+    const Attributes &attributes = element(node).attributes;
+    const bool plain = attributes.contains(AttributeId::Href);
+    QString problem;
+    const ImagePointer read =
+        readImage(attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
+    m_context.filterImages.insert(node, read);
+    return read;
+}
+
+// The picture of an "feImage" is fitted into its subregion (Filter Effects 1 §9.12).
+void FilterBuilder::buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive)
+{
+    const Attributes &attributes = element(node).attributes;
+    auto *facts = new Facts;
+    const FactsPointer holder(facts);
+    facts->image = image(node);
+    if (!facts->image)
+        return;
+    facts->style = m_context.document.facts(node)->style;
+    facts->toDocument = m_target.toDocument;
+    const QRectF &whole = *step.region;
+    const PrimitiveRegion &r = primitive->region;
+    facts->localBounds = QRectF(r.x.value_or(whole.x()), r.y.value_or(whole.y()), r.width.value_or(whole.width()),
+                                r.height.value_or(whole.height()));
+    const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
+    facts->fit =
+        viewBoxTransform(facts->image->box, facts->localBounds, ratio).value_or(QTransform(0, 0, 0, 0, 0, 0));
+    appendImage(m_context, node, holder, &primitive->items);
+}
+
+bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
+{
+    const PrimitiveUnits units{element(filter).attributes.value(QStringLiteral("primitiveUnits")) ==
+                                   QLatin1String("objectBoundingBox"),
+                               m_target.bounds, m_target.viewport};
+    for (NodeIndex at = element(filter).firstChild; at != noNode; at = element(at).next) {
+        const ElementKind kind = element(at).kind;
+        if (kind == ElementKind::FeOther || step->primitives.size() >= Limits::filterPrimitives)
+            return false;
+        if (!isPrimitive(kind))
+            continue;
+        FilterPrimitive primitive =
+            readPrimitive(m_context.document.tree(), at, m_context.document.facts(at)->style, units);
+        if (kind == ElementKind::FeImage)
+            buildImage(at, *step, &primitive);
+        step->primitives.append(primitive);
+    }
+    return true;
+}
+
+bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
+{
+    if (filter == noNode || element(filter).kind != ElementKind::Filter)
+        return false;
+    const Attributes &attributes = element(filter).attributes;
+    const bool ofBounds = attributes.value(QStringLiteral("filterUnits")) != QLatin1String("userSpaceOnUse");
+    if (ofBounds && m_target.bounds.isEmpty())
+        return false;
+    FilterStep step;
+    const double fontSize = m_context.document.facts(filter)->style.font.size;
+    step.region = effectRegion(attributes, ofBounds, {m_target.bounds, m_target.viewport, fontSize});
+    if (!addPrimitives(filter, &step))
+        return false;
+    *drawn = *drawn && !step.region->isEmpty() && !step.primitives.isEmpty();
+    result->steps.append(step);
+    return true;
+}
+
+} // namespace
+
+BuiltFilter buildFilter(BuildContext &context, const QString &list, const FilterTarget &target)
+{
+    BuiltFilter result;
+    const std::optional<QVector<FilterFunction>> functions = parseFilterList(list);
+    if (!functions || functions->isEmpty())
+        return result;
+    const auto filter = std::make_shared<Filter>();
+    filter->toDocument = target.toDocument;
+    FilterBuilder builder(context, target);
+    for (const FilterFunction &function : *functions) {
+        if (function.kind != FilterFunction::Reference)
+            filter->steps.append(functionStep(function, target.style));
+        else if (!builder.addElement(context.document.tree().findId(function.id), filter.get(), &result.drawn))
+            return BuiltFilter();
+    }
+    result.filter = filter;
+    return result;
+}
+
+} // namespace Svg

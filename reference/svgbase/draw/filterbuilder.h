@@ -1,0 +1,33 @@
+#pragma once
+
+#include "draw/buildcontext.h"
+#include "draw/filter.h"
+
+#include <memory>
+
+namespace Svg {
+
+/// Where a filter is built.
+struct FilterTarget
+{
+    /// The bounding box of the filtered element and the viewport, its units.
+    QRectF bounds;
+    QSizeF viewport;
+    QTransform toDocument;
+    /// Of the filtered element.
+    const ComputedStyle &style;
+};
+
+/// What becomes of an element with a "filter" property.
+struct BuiltFilter
+{
+    /// False when the filter leaves nothing to see.
+    bool drawn = true;
+    /// Null when the element is drawn as if it had none: a list that refers to nothing or to another kind of
+    /// element (Filter Effects 1 §5), or that uses a primitive which is not implemented.
+    std::shared_ptr<Filter> filter;
+};
+
+BuiltFilter buildFilter(BuildContext &context, const QString &list, const FilterTarget &target);
+
+} // namespace Svg

@@ -1,0 +1,151 @@
+#include "grammar/filterlists.h"
+
+#include "grammar/angles.h"
+#include "grammar/colors.h"
+#include "grammar/paints.h"
+#include "inputlimits.h"
+
+namespace Svg {
+
+namespace {
+
+struct FunctionName
+{
+    QLatin1String name;
+    FilterFunction::Kind kind;
+};
+
+const FunctionName functionNames[] = {
+    {QLatin1String("blur"), FilterFunction::Blur},
+    {QLatin1String("brightness"), FilterFunction::Brightness},
+    {QLatin1String("contrast"), FilterFunction::Contrast},
+    {QLatin1String("drop-shadow"), FilterFunction::DropShadow},
+    {QLatin1String("grayscale"), FilterFunction::Grayscale},
+    {QLatin1String("hue-rotate"), FilterFunction::HueRotate},
+    {QLatin1String("invert"), FilterFunction::Invert},
+    {QLatin1String("opacity"), FilterFunction::Opacity},
+    {QLatin1String("saturate"), FilterFunction::Saturate},
+    {QLatin1String("sepia"), FilterFunction::Sepia},
+};
+
+// Words up to white space that stands outside of parentheses.
+QVector<QStringView> words(QStringView text)
+{
+    QVector<QStringView> result;
+    int depth = 0;
+    qsizetype begin = -1;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        const bool ends = i == text.size() || (depth == 0 && text[i].isSpace());
+        if (ends && begin >= 0)
+            result.append(text.mid(begin, i - begin));
+        if (ends) {
+            begin = -1;
+            continue;
+        }
+        if (begin < 0)
+            begin = i;
+        depth += text[i] == QLatin1Char('(') ? 1 : text[i] == QLatin1Char(')') ? -1 : 0;
+    }
+    return result;
+}
+
+bool readAmount(QStringView text, FilterFunction *function)
+{
+    if (text.isEmpty())
+        return true;
+    const std::optional<Length> amount = parseLength(text);
+    const bool share = amount && (amount->unit == Unit::User || amount->unit == Unit::Percent);
+    // A unit other than "%" makes it no share.
+    if (!share || amount->value < 0 || (amount->unit == Unit::User && text.back().isLetter()))
+        return false;
+    function->amount = amount->unit == Unit::Percent ? amount->value / 100 : amount->value;
+    return true;
+}
+
+bool readHue(QStringView text, FilterFunction *function)
+{
+    function->amount = 0;
+    if (text.isEmpty())
+        return true;
+    const std::optional<double> angle = parseAngle(text);
+    if (angle)
+        function->amount = *angle;
+    return angle.has_value();
+}
+
+bool readBlur(QStringView text, FilterFunction *function)
+{
+    if (text.isEmpty())
+        return true;
+    const std::optional<Length> length = parseLength(text);
+    if (!length || length->value < 0 || length->unit == Unit::Percent)
+        return false;
+    function->lengths[0] = *length;
+    return true;
+}
+
+bool readShadow(QStringView text, FilterFunction *function)
+{
+    int lengths = 0;
+    for (const QStringView word : words(text)) {
+        const std::optional<Length> length = parseLength(word);
+        if (length && lengths < 3 && length->unit != Unit::Percent) {
+            function->lengths[lengths++] = *length;
+            continue;
+        }
+        if (word.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0)
+            continue;
+        const std::optional<QColor> color = parseColor(word);
+        if (!color || function->color.isValid())
+            return false;
+        function->color = *color;
+    }
+    return lengths >= 2 && function->lengths[2].value >= 0;
+}
+
+bool readArguments(QStringView text, FilterFunction *function)
+{
+    switch (function->kind) {
+    case FilterFunction::HueRotate:
+        return readHue(text, function);
+    case FilterFunction::Blur:
+        return readBlur(text, function);
+    case FilterFunction::DropShadow:
+        return readShadow(text, function);
+    default:
+        return readAmount(text, function);
+    }
+}
+
+bool readFunction(QStringView word, FilterFunction *function)
+{
+    function->id = functionReference(word);
+    if (!function->id.isEmpty())
+        return true;
+    const qsizetype open = word.indexOf(QLatin1Char('('));
+    if (open < 0 || !word.endsWith(QLatin1Char(')')))
+        return false;
+    for (const FunctionName &known : functionNames) {
+        if (word.left(open).compare(known.name, Qt::CaseInsensitive) != 0)
+            continue;
+        function->kind = known.kind;
+        return readArguments(word.mid(open + 1, word.size() - open - 2).trimmed(), function);
+    }
+    return false;
+}
+
+} // namespace
+
+std::optional<QVector<FilterFunction>> parseFilterList(QStringView text)
+{
+    QVector<FilterFunction> list;
+    for (const QStringView word : words(text.trimmed())) {
+        FilterFunction function;
+        if (!readFunction(word, &function) || list.size() == Limits::filterPrimitives)
+            return std::nullopt;
+        list.append(function);
+    }
+    return list;
+}
+
+} // namespace Svg

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "grammar/lengths.h"
+
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+
+#include <optional>
+
+namespace Svg {
+
+/// One item of a "filter" property (Filter Effects 1 §5).
+struct FilterFunction
+{
+    enum Kind {
+        Reference,
+        Blur,
+        Brightness,
+        Contrast,
+        DropShadow,
+        Grayscale,
+        HueRotate,
+        Invert,
+        Opacity,
+        Saturate,
+        Sepia
+    };
+    Kind kind = Reference;
+    /// Of a reference.
+    QString id;
+    /// A share, or degrees for a turn of the hue.
+    double amount = 1;
+    /// Of a blur: its standard deviation alone. Of a shadow: dx, dy and standard deviation.
+    Length lengths[3];
+    /// Of a shadow; invalid for the text colour.
+    QColor color;
+};
+
+/// A list of filter functions and references; nothing when the text is none.
+std::optional<QVector<FilterFunction>> parseFilterList(QStringView text);
+
+} // namespace Svg
