@@ -32,7 +32,7 @@ private Q_SLOTS:
 namespace {
 
 constexpr unsigned startValue = 20240607;
-constexpr int usualTexts = 50000;
+constexpr int usualTexts = 20000;
 constexpr int truncatedTexts = 300;
 constexpr int megabyte = 1024 * 1024 / int(sizeof(QChar));
 
