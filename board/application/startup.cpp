@@ -117,7 +117,7 @@ int work(Workspace &workspace, const Options &options)
     case Options::ExportPages:
         return exportAll(workspace, options);
     case Options::TakeScreenshot:
-        return takeScreenshot(workspace, options.screenshotState, options.screenshotFile) ? 0 : 1;
+        return takeScreenshot(workspace, options.screenshotState, options.screenshotFile, options.file) ? 0 : 1;
     default:
         return openWindow(workspace, options);
     }

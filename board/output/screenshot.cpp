@@ -1,10 +1,12 @@
 #include "output/screenshot.h"
 
 #include "application/workspace.h"
+#include "documents/documentcontroller.h"
 #include "objects/demopages.h"
 #include "page/pageview.h"
 #include "panels/pagepanel.h"
 #include "panels/properties/propertypanel.h"
+#include "panels/settings/settingjson.h"
 #include "panels/settings/settingspanel.h"
 #include "window/mainwindow.h"
 
@@ -17,6 +19,8 @@
 #include <QtCore/QTextStream>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
+
+#include <algorithm>
 
 namespace board {
 
@@ -58,12 +62,28 @@ void changeSecond(pagehost::Page *page)
     page->select({object});
 }
 
+int settingCount(CBaseObject *object)
+{
+    QString json;
+    return object->GetSettingJson(json) ? parseSettings(json).size() : 0;
+}
+
+void selectRichest(pagehost::Page *page)
+{
+    const QVector<CBaseObject *> objects = page->objects();
+    page->select({*std::max_element(objects.begin(), objects.end(), [](CBaseObject *one, CBaseObject *other) {
+        return settingCount(one) < settingCount(other);
+    })});
+}
+
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
     const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties");
-    if ((state == QLatin1String("selection") || isAboutPanels) && page->objectCount() > 1)
+    if (state == QLatin1String("selection") && page->objectCount() > 1)
         changeSecond(page);
+    if (isAboutPanels && page->objectCount() > 0)
+        selectRichest(page);
     if (state == QLatin1String("settings"))
         window.raisePanel(window.settings());
     if (state == QLatin1String("properties"))
@@ -80,14 +100,16 @@ QStringList screenshotStates()
             QStringLiteral("settings"), QStringLiteral("properties"), QStringLiteral("drag")};
 }
 
-bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file)
+bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)
 {
-    if (state != QLatin1String("empty") && state != QLatin1String("drag"))
+    if (document.isEmpty() && state != QLatin1String("empty") && state != QLatin1String("drag"))
         fillWithDemo(workspace);
     useDesktopFont();
     MainWindow window(&workspace);
     window.show();
     QApplication::processEvents();
+    if (!document.isEmpty())
+        window.documents()->openNow(document);
     bring(window, workspace, state);
     window.pages()->thumbnails()->finish();
     QApplication::processEvents();

@@ -142,6 +142,7 @@ private Q_SLOTS:
     void mixedPropertyTakesOneValue();
     void lineStyleOfAShapeThroughBothPanels();
     void lineWidthOfAShapeThroughTheList();
+    void cornersOfAStarFollowTheSlider();
     void historyNamesWhatWasSet();
     void panelsInGerman();
 };
@@ -461,6 +462,38 @@ void TestPanels::lineWidthOfAShapeThroughTheList()
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(pagehost::styleOf(shape).penWidth, 4);
+}
+
+static QByteArray savedBytes(CBaseObject *object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    object->save(out);
+    return bytes;
+}
+
+void TestPanels::cornersOfAStarFollowTheSlider()
+{
+    PanelDesk t(PanelDesk::Settings);
+    CBaseObject *star = t.board.draw(QStringLiteral("shapes.star"), {500, 300}, {700, 500});
+    t.settle();
+    const QByteArray before = savedBytes(star);
+    const int steps = t.history().count();
+    auto *slider = t.panel->findChild<QSlider *>();
+    QVERIFY(slider && slider->isVisible());
+    Knob knob(slider);
+    knob.press();
+    knob.moveTo(slider->value() + 3);
+    QVERIFY(savedBytes(star) != before);
+    QCOMPARE(t.history().count(), steps);
+    knob.release();
+    const QByteArray after = savedBytes(star);
+    QVERIFY(after != before);
+    QCOMPARE(t.history().count(), steps + 1);
+    t.undo();
+    QCOMPARE(savedBytes(star), before);
+    t.redo();
+    QCOMPARE(savedBytes(star), after);
 }
 
 void TestPanels::historyNamesWhatWasSet()

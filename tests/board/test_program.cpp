@@ -2,6 +2,8 @@
 
 #include <application/commandline.h>
 
+#include <pagehost/documentfile.h>
+
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
@@ -45,6 +47,8 @@ private Q_SLOTS:
     void badArgumentsAreRefused();
     void exportWritesThePages_data();
     void exportWritesThePages();
+    void exportWritesTheBoardThatIsGiven();
+    void exportWritesDrawings();
     void exportIntoAnImpossibleFolderFails();
     void unusablePlugInsAreReported();
     void missingPlugInFolderIsReported();
@@ -123,6 +127,33 @@ void TestProgram::exportWritesThePages()
         // Paper, and fills and outlines of several shapes.
         QVERIFY2(colors.size() > 8, qPrintable(file));
     }
+}
+
+void TestProgram::exportWritesTheBoardThatIsGiven()
+{
+    QTemporaryDir folder;
+    pagehost::Document document;
+    for (int i = 0; i < 3; ++i)
+        document.appendPage(QSizeF(200, 100));
+    for (const QString &name : {QString("pages.board"), QString("pages.board.json")}) {
+        QVERIFY(pagehost::saveDocument(document, folder.filePath(name)).saved);
+        const Outcome outcome = run({folder.filePath(name), "--export", folder.filePath("out"), "--scale", "2"});
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.out.split('\n', Qt::SkipEmptyParts).size(), 3);
+        QCOMPARE(QImage(folder.filePath("out/page-3.png")).size(), QSize(400, 200));
+    }
+}
+
+void TestProgram::exportWritesDrawings()
+{
+    QTemporaryDir folder;
+    pagehost::Document document;
+    document.appendPage(QSizeF(200, 100));
+    QVERIFY(pagehost::saveDocument(document, folder.filePath("empty.board")).saved);
+    const Outcome outcome =
+        run({folder.filePath("empty.board"), "--export", folder.filePath("out"), "--format", "svg"});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out, folder.filePath("out/page-1.svg") + '\n');
 }
 
 void TestProgram::exportIntoAnImpossibleFolderFails()
