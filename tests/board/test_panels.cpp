@@ -479,8 +479,8 @@ void TestPanels::cornersOfAStarFollowTheSlider()
     t.settle();
     const QByteArray before = savedBytes(star);
     const int steps = t.history().count();
-    auto *slider = t.panel->findChild<QSlider *>();
-    QVERIFY(slider && slider->isVisible());
+    auto *slider = t.widget<QSlider>("Corners");
+    QVERIFY(slider);
     Knob knob(slider);
     knob.press();
     knob.moveTo(slider->value() + 3);
