@@ -21,6 +21,7 @@ struct Kind
     QString german;
     Group group = Group::Basic;
     CoreFactory makeCore = nullptr;
+    bool takesPictures = false; ///< whether pictures from elsewhere become objects of this kind
 
     QString id() const { return QStringLiteral("shapes.") + name; }
     QString nameKey() const { return QStringLiteral("IDS_SHAPE_") + name.toUpper(); }
@@ -43,7 +44,11 @@ template<class Core> CSVGBase *makeCore(CSVGObj *owner)
 #define SHAPEKIT_PLUGIN(Core, english, german, group)                                                              \
     const shapekit::Kind &shapekit::kind()                                                                         \
     {                                                                                                              \
-        static const Kind kind{QStringLiteral(SHAPEKIT_NAME), QString::fromUtf8(english),                          \
-                               QString::fromUtf8(german), Group::group, &makeCore<Core>};                          \
+        static const Kind kind{QStringLiteral(SHAPEKIT_NAME),                                                      \
+                               QString::fromUtf8(english),                                                         \
+                               QString::fromUtf8(german),                                                          \
+                               Group::group,                                                                       \
+                               &makeCore<Core>,                                                                    \
+                               Core::takesPictures};                                                               \
         return kind;                                                                                               \
     }

@@ -137,17 +137,33 @@ QSizeF Shape::smallestSize() const
 void Shape::updateOutlineRegion()
 {
     PropertiedShape::updateOutlineRegion();
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!outlineRegion || !getInnerProperty(drawingScaleId, out))
+    const double scale = drawingScale();
+    if (!outlineRegion || scale == 1)
         return;
-    double scale = 1;
-    QDataStream(bytes) >> scale;
     const QPointF centre = document->viewBox().center();
     QTransform shrinking = QTransform::fromTranslate(centre.x(), centre.y());
     shrinking.scale(1 / scale, 1 / scale);
     shrinking.translate(-centre.x(), -centre.y());
     *outlineRegion = shrinking.map(*outlineRegion);
+}
+
+QRectF Shape::drawnArea()
+{
+    QRectF area(QPointF(0, 0), size() * drawingScale());
+    area.moveCenter(document->viewBox().center());
+    return area;
+}
+
+double Shape::drawingScale()
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!getInnerProperty(drawingScaleId, out))
+        return 1;
+    double scale = 1;
+    QDataStream in(bytes);
+    in >> scale;
+    return scale;
 }
 
 bool Shape::getOutlinePath(QPainterPath *path)

@@ -69,6 +69,7 @@ protected:
     /// Where a control point stands if nothing limits it: where it was put, gone along with the size.
     virtual QPointF wantedPoint(int number);
     void propertyChanged(const Property *property) override;
+    QRectF drawnArea() override;
     /// @}
 
     /// @name What a shape draws with
@@ -93,6 +94,8 @@ protected:
 
 private:
     int indexOf(QZeSvgNode *node) const;
+    /// 1 for a shape that has no such property.
+    double drawingScale();
     QRectF templateRange(int number) const;
     Following followingOf(int number, const char *axis) const;
     void fitTo(const QSizeF &newSize);

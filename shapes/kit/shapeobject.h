@@ -2,6 +2,8 @@
 
 #include <kit/kind.h>
 
+#include <kit/styledshape.h>
+
 #include <svgobj/csvgobj.h>
 
 namespace shapekit {
@@ -17,7 +19,8 @@ public:
     /// Makes a core unless there is one of that type already. A type that is not this shape's leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
 
-    CSVGBase *core() const { return svgBase; }
+    /// Null after loading a type that is not this shape's.
+    StyledShape *core() const { return static_cast<StyledShape *>(svgBase); }
 
 private:
     const Kind &m_kind;

@@ -1,7 +1,9 @@
 #include <kit/shapeplugin.h>
 
 #include <kit/kind.h>
+#include <kit/picturedata.h>
 #include <kit/shapeobject.h>
+#include <kit/styledshape.h>
 #include <kit/text.h>
 
 namespace shapekit {
@@ -52,6 +54,32 @@ pagehost::TextTable ShapePlugin::texts(const QString &language) const
         texts.insert(QString::fromLatin1(group.key), QString::fromLatin1(group.german));
     }
     return texts;
+}
+
+QStringList ShapePlugin::dataTypes() const
+{
+    return kind().takesPictures ? pictureTypes() : QStringList();
+}
+
+CBaseObject *ShapePlugin::createFromData(const QString &mimeType, const QByteArray &data, QString &kindId) const
+{
+    if (!dataTypes().contains(mimeType))
+        return nullptr;
+    const QByteArray svg = svgOfPicture(mimeType, data);
+    if (svg.isEmpty())
+        return nullptr;
+    auto *object = new ShapeObject(kind());
+    object->core()->takePicture(svg);
+    kindId = kind().id();
+    return object;
+}
+
+QByteArray ShapePlugin::dataOf(CBaseObject *object, const QString &mimeType) const
+{
+    auto *shape = dynamic_cast<ShapeObject *>(object);
+    if (!shape || !shape->core() || mimeType != QLatin1String("image/svg+xml"))
+        return {};
+    return shape->core()->toSvg();
 }
 
 } // namespace shapekit

@@ -1,6 +1,7 @@
 #include <kit/styledshape.h>
 
 #include <kit/kind.h>
+#include <kit/picturedata.h>
 #include <kit/treewalk.h>
 
 #include <svgobj/csvgobj.h>
@@ -11,6 +12,8 @@
 #include <QtCore/QFile>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPainterPathStroker>
+
+#include <memory>
 
 namespace shapekit {
 
@@ -101,6 +104,57 @@ void StyledShape::initPropItems()
     CSVGBase::initPropItems();
 }
 
+QByteArray StyledShape::toSvg()
+{
+    if (!document)
+        return {};
+    if (isFilledByPageObject())
+        updateBrush(getFillBrush());
+    const std::unique_ptr<QZeSvgTinyDocument> copy(QZeSvgTinyDocument::load(document->toSvg()));
+    if (isFilledByPageObject())
+        updateBrush(QBrush());
+    if (!copy)
+        return {};
+    for (quint32 i = 0; i < controlPointCount; ++i) {
+        if (QZeSvgNode *point = copy->namedNode(QStringLiteral("control_%1").arg(i + 1)))
+            (point->parent() ? point->parent() : copy.get())->removeChild(point);
+    }
+    const QSizeF size = owner->getClientRect().size();
+    copy->setViewBox(drawnArea());
+    copy->setAttribute(QStringLiteral("width"), QString::number(size.width()));
+    copy->setAttribute(QStringLiteral("height"), QString::number(size.height()));
+    copy->setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+    return copy->toSvg();
+}
+
+void StyledShape::takePicture(const QByteArray &) {}
+
+void StyledShape::reloadTemplate()
+{
+    const int selection = document ? document->selectionState() : 0;
+    delete document;
+    document = nullptr;
+    activeControlPoint = nullptr;
+    m_lookRead = false;
+    m_figures.clear();
+    m_pennedFills.clear();
+    m_pennedLines.clear();
+    if (!loadSVG(false))
+        return;
+    document->setSelectionState(selection);
+    updateOutlineRegion();
+}
+
+QSizeF StyledShape::naturalSize() const
+{
+    return document ? naturalSizeOf(*document) : QSizeF();
+}
+
+QRectF StyledShape::drawnArea()
+{
+    return document->viewBox();
+}
+
 QBrush StyledShape::getFillBrush()
 {
     if (!isFilledByPageObject())
@@ -169,7 +223,9 @@ void StyledShape::readLook()
     if (!document || m_lookRead)
         return;
     m_lookRead = true;
-    forEachNode(*document, [this](QZeSvgNode &node, const NodeLook &look) {
+    forEachNode(*document, [this](QZeSvgNode &node, NodeLook look) {
+        look.keepsFill |= keepsItsLook;
+        look.keepsStroke |= keepsItsLook;
         // Only ever off: a fill or stroke of "none" has switched it off already.
         if (look.keepsFill || look.fillFollowsPen)
             node.setFillEnabled(false);

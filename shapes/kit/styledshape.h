@@ -21,7 +21,16 @@ namespace shapekit {
 class StyledShape : public CSVGBase
 {
 public:
+    /// Whether the shape shows pictures from elsewhere (takePicture()).
+    static constexpr bool takesPictures = false;
+
     StyledShape(CSVGObj *owner, int type);
+
+    /// The shape as an SVG document of its page object's size, with the page object's fill and without control
+    /// points. Empty without a document.
+    QByteArray toSvg();
+    /// Shows SVG text; shapes that do not show pictures ignore it.
+    virtual void takePicture(const QByteArray &svg);
 
     int getSVGType() override { return m_type; }
     /// The template of the kind.
@@ -41,6 +50,15 @@ public:
     void updateOutlineRegion() override;
 
 protected:
+    /// Reads the template anew, which has become another. No control point may be in use.
+    void reloadTemplate();
+    /// The part of the document that fills the page object, document units.
+    virtual QRectF drawnArea();
+    /// The size that the template asks for.
+    QSizeF naturalSize() const;
+    /// Set by a shape whose nodes all keep their own look.
+    bool keepsItsLook = false;
+
     bool isFilledByPageObject() const;
     /// A node of the template; null when there is none of that id.
     QZeSvgNode *node(const char *id) const;

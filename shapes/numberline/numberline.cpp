@@ -23,7 +23,8 @@ protected:
         for (int i = 0; i <= 10; i += wide ? 1 : 5) {
             const double x = margin + (width() - 3 * margin) * i / 10;
             ticks.line({x, y - 5}, {x, y + 5});
-            labels.text({x, y + 14}, QString::number(first + i * step), wide ? std::min(9.0, width() / 34) : 7);
+            if (width() > 70)
+                labels.text({x, y + 14}, QString::number(first + i * step), wide ? std::min(9.0, width() / 34) : 7);
         }
         setPath("figure", PathText().line({3, y}, {end - 2, y}));
         setPath("area", PathText().roundedRectangle({3, 3, end - 3, height() - 6}, 0));

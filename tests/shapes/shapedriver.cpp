@@ -77,6 +77,13 @@ ShapeDriver::~ShapeDriver()
     m_scene.removeItem(m_object.get());
 }
 
+void ShapeDriver::takeObject(CBaseObject *object)
+{
+    m_scene.removeItem(m_object.get());
+    m_object.reset(dynamic_cast<CSVGObj *>(object));
+    m_scene.addItem(m_object.get());
+}
+
 bool ShapeDriver::hasCore() const
 {
     return ObjectAccess::coreOf(*m_object) != nullptr;

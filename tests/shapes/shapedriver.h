@@ -32,6 +32,9 @@ public:
     explicit ShapeDriver(const QString &name);
     ~ShapeDriver();
 
+    /// Goes on with another new object of the plug-in.
+    void takeObject(CBaseObject *object);
+
     /// Null when the plug-in could not be loaded.
     pagehost::ObjectPlugin *plugin() const { return m_plugin; }
     CSVGObj &object() const { return *m_object; }

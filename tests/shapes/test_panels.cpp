@@ -122,7 +122,7 @@ void TestPanels::settingsAreNamedInBothLanguages()
     const pagehost::TextTable german = shape.plugin()->texts(QStringLiteral("de"));
     QSet<QString> ids;
     const QJsonArray settings = settingsOf(shape);
-    QVERIFY(settings.size() >= 2);
+    QVERIFY(!settings.isEmpty());
     for (const QJsonValue &value : settings) {
         const QJsonObject control = value.toObject();
         const QString id = control[QStringLiteral("id")].toString();
@@ -232,7 +232,8 @@ void TestPanels::presentValueGivenBackChangesNothing()
     shape.createByClick();
     const QByteArray before = coreBytes(shape);
     const QString geometry = shape.geometry();
-    for (const int property : shape.object().getAttributeIds()) {
+    const QList<int> ids = shape.object().getAttributeIds();
+    for (const int property : ids) {
         // With the record flag the pen width is the index that the panel shows, as the value is.
         QByteArray value = bareValue(shape, property);
         QDataStream in(&value, QIODevice::ReadWrite);
