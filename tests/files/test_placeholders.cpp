@@ -55,6 +55,8 @@ private Q_SLOTS:
     void placeholderIsADashedBox();
     void placeholderCannotBeReshaped();
     void brokenStateBecomesAPlaceholder();
+    void hugeObjectBecomesAPlaceholder_data() { addFormats(); }
+    void hugeObjectBecomesAPlaceholder();
     void brokenJsonIsToldWithLineAndColumn();
     void valueOfTheWrongTypeIsLeftOut();
     void unknownPartsOfABinaryFileAreKept();
@@ -211,6 +213,20 @@ void TestPlaceholders::brokenStateBecomesAPlaceholder()
         QVERIFY(isPlaceholder(firstObject(opened)));
         QCOMPARE(encodeDocument(*opened.document, format), bytes);
     }
+}
+
+/// A picture of it would take more memory than there is.
+void TestPlaceholders::hugeObjectBecomesAPlaceholder()
+{
+    QFETCH(DocumentFormat, format);
+    Document document;
+    addPlain(document.appendPage(), QPointF(0, 0))->setSize(QSizeF(8192, 8192), false, false);
+    addPlain(document.page(0), QPointF(0, 0))->setSize(QSizeF(8193, 8192), false, false);
+    const OpenResult opened = decodeDocument(encodeDocument(document, format), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE")});
+    QCOMPARE(opened.messages[0].object, 2);
+    QVERIFY(!isPlaceholder(opened.document->page(0)->objects().value(0)));
+    QVERIFY(isPlaceholder(opened.document->page(0)->objects().value(1)));
 }
 
 void TestPlaceholders::brokenJsonIsToldWithLineAndColumn()

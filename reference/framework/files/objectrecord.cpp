@@ -13,6 +13,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
 
+#include <cmath>
 #include <memory>
 
 namespace pagehost {
@@ -132,13 +133,36 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
     return object.release();
 }
 
+/// Objects keep pictures of themselves: a few bytes of damage must not ask for more memory than there is.
+bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
+{
+    constexpr double largestArea = 1 << 26; // 256 MiB of picture
+    constexpr double mostArea = 1u << 30;   // 4 GiB in all
+    QSizeF size;
+    if (record.encoding == ObjectRecord::Stream) {
+        QDataStream in(record.data);
+        in.setVersion(chunks::streamVersion);
+        size = CPSRootObjectPrivate::savedSize(in);
+    } else {
+        size = CPSRootObjectPrivate::savedSize(record.json);
+    }
+    const double area = std::abs(size.width() * size.height());
+    if (!(area <= largestArea) || m_area + area > mostArea) {
+        return false;
+    }
+    m_area += area;
+    return true;
+}
+
 CBaseObject *ObjectFactory::make(const ObjectRecord &record, FileMessage &message) const
 {
-    CBaseObject *object = load(record);
+    const bool isKnown = m_registry.hasKind(record.kindId);
+    const bool hasRoom = !isKnown || hasRoomFor(record);
+    CBaseObject *object = isKnown && hasRoom ? load(record) : nullptr;
     if (!object) {
-        const bool isKnown = m_registry.hasKind(record.kindId);
-        message.textKey =
-            isKnown ? QStringLiteral("IDS_FILE_OBJECT_BROKEN") : QStringLiteral("IDS_FILE_OBJECT_UNKNOWN");
+        message.textKey = !isKnown  ? QStringLiteral("IDS_FILE_OBJECT_UNKNOWN")
+                          : hasRoom ? QStringLiteral("IDS_FILE_OBJECT_BROKEN")
+                                    : QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
         message.arguments = QStringList{record.kindId};
         object = new PlaceholderObject(record);
     }

@@ -60,8 +60,10 @@ public:
 
 private:
     CBaseObject *load(const ObjectRecord &record) const;
+    bool hasRoomFor(const ObjectRecord &record) const;
 
     const ObjectRegistry &m_registry;
+    mutable double m_area = 0; ///< of the objects made so far, item units squared
 };
 
 } // namespace pagehost

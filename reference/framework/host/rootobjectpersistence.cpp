@@ -172,6 +172,21 @@ void read(const QJsonObject &object, HostState &state)
 
 } // namespace
 
+QSizeF CPSRootObjectPrivate::savedSize(QDataStream &in)
+{
+    HostState state;
+    in >> state;
+    const bool isThere = in.status() == QDataStream::Ok && isFinite(state.clientRect);
+    return isThere ? state.clientRect.size() : QSizeF(0, 0);
+}
+
+QSizeF CPSRootObjectPrivate::savedSize(const QJsonObject &object)
+{
+    HostState state;
+    read(object, state);
+    return isFinite(state.clientRect) ? state.clientRect.size() : QSizeF(0, 0);
+}
+
 bool CPSRootObject::save(QDataStream &out)
 {
     out << stateOf(*this);

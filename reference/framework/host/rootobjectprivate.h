@@ -57,6 +57,9 @@ public:
     static void assignFill(CPSRootObject &object, const CPageBgProp &fill);
     /// Position of the item's origin and rotation, without records.
     static void place(CPSRootObject &object, const QPointF &pos, double degrees);
+    /// The client size that save() or saveJson() has written; empty when the data do not begin with one.
+    static QSizeF savedSize(QDataStream &in);
+    static QSizeF savedSize(const QJsonObject &object);
     /// Bounding rectangle from client rectangle, region and editing aids.
     static void refreshBounds(CPSRootObject &object);
     static void noteChange(CPSRootObject &object);
