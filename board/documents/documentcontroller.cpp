@@ -160,9 +160,11 @@ QString DocumentController::suggestion() const
     if (!file.isEmpty())
         return file;
     const QStringList recent = m_recent.files();
-    const QString folder = recent.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                            : QFileInfo(recent.first()).absolutePath();
-    return QDir(folder).filePath(m_workspace->text("IDS_BOARD_UNTITLED"));
+    QDir folder = recent.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                   : QFileInfo(recent.first()).absolutePath();
+    if (!folder.exists())
+        folder = QDir::home();
+    return folder.absoluteFilePath(m_workspace->text("IDS_BOARD_UNTITLED"));
 }
 
 QStringList DocumentController::texts(const QVector<pagehost::FileMessage> &messages) const

@@ -1,6 +1,7 @@
 #include "documents/filedialogs.h"
 
 #include "application/workspace.h"
+#include "look/icons.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
@@ -12,6 +13,7 @@ namespace board {
 
 namespace {
 
+constexpr int questionIconSide = 36;
 const QString binarySuffix = QStringLiteral("board");
 const QString jsonSuffix = QStringLiteral("board.json");
 
@@ -46,9 +48,10 @@ bool hasFormatSuffix(const QString &file)
 
 QMessageBox *makeQuestion(QWidget *window, const QString &text, const QString &explanation)
 {
-    auto *box = new QMessageBox(QMessageBox::Question, window->windowTitle().remove(QStringLiteral("[*]")), text,
+    auto *box = new QMessageBox(QMessageBox::NoIcon, window->windowTitle().remove(QStringLiteral("[*]")), text,
                                 QMessageBox::NoButton, window);
     box->setInformativeText(explanation);
+    box->setIconPixmap(icon(Icon::Info).pixmap(questionIconSide, questionIconSide));
     box->setAttribute(Qt::WA_DeleteOnClose);
     return box;
 }
