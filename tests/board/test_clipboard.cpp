@@ -25,54 +25,18 @@
 
 using namespace boardtest;
 
-/// A plug-in that makes plain objects of pictures and SVG, and gives every object of its own as a red SVG
-/// rectangle.
-class PicturePlugin : public pagehost::ObjectPlugin
+/// A drawing of 40 × 30 units.
+static QByteArray svgDrawing()
 {
-public:
-    class Picture : public CBaseObject
-    {
-    public:
-        explicit Picture(const QSizeF &size)
-            : CBaseObject(1, true, nullptr, nullptr)
-        {
-            CPSRootObject::setSize(size, false, false);
-        }
-        QString kindName() const override { return QStringLiteral("IDS_TEST_PICTURE"); }
-    };
+    return "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='30' viewBox='0 0 40 30'>"
+           "<rect width='40' height='30' fill='red'/></svg>";
+}
 
-    QVector<pagehost::ObjectKind> objectKinds() const override
-    {
-        return {{QStringLiteral("test.picture"), QStringLiteral("IDS_TEST_PICTURE"), {}}};
-    }
-    CBaseObject *createObject(const QString &) const override { return new Picture(QSizeF(10, 10)); }
-    pagehost::TextTable texts(const QString &) const override
-    {
-        return {{QStringLiteral("IDS_TEST_PICTURE"), QStringLiteral("Picture")}};
-    }
-    QStringList dataTypes() const override { return {"image/svg+xml", "image/png"}; }
-    CBaseObject *createFromData(const QString &type, const QByteArray &data, QString &kindId) const override
-    {
-        kindId = QStringLiteral("test.picture");
-        if (type == "image/svg+xml")
-            return data.contains("<svg") ? new Picture(QSizeF(40, 30)) : nullptr;
-        const QImage image = QImage::fromData(data, "PNG");
-        return image.isNull() ? nullptr : new Picture(image.size());
-    }
-    QByteArray dataOf(CBaseObject *, const QString &type) const override
-    {
-        return type == "image/svg+xml"
-                   ? "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect fill='red'/></svg>"
-                   : QByteArray();
-    }
-};
-
-/// A board that takes pictures, with one shape, 200 × 120 at (500, 300).
+/// A board with one shape, 200 × 120 at (500, 300).
 struct CopyDesk
 {
     CopyDesk()
     {
-        board.workspace().registry().addPlugin(&plugin, "test");
         QGuiApplication::clipboard()->clear();
         shape = board.draw(rectangle, {500, 300}, {700, 420});
         steps = board.history().count();
@@ -88,7 +52,6 @@ struct CopyDesk
     QVector<CBaseObject *> objects() { return board.page().objects(); }
     QRectF placeOfLast() { return board.placeOf(objects().last()); }
 
-    PicturePlugin plugin;
     BoardDriver board;
     CBaseObject *shape;
     int steps;
@@ -237,13 +200,16 @@ void TestClipboard::copyGivesSvgWhenEveryShapeHasIt()
 {
     CopyDesk desk;
     auto *svg = new QMimeData;
-    svg->setData("image/svg+xml", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    svg->setData("image/svg+xml", svgDrawing());
     QGuiApplication::clipboard()->setMimeData(svg);
     desk.paste();
     desk.copy();
     const QByteArray drawing = QGuiApplication::clipboard()->mimeData()->data("image/svg+xml");
-    QVERIFY2(drawing.contains("<rect fill=\"red\""), drawing.constData());
+    QVERIFY2(drawing.contains("fill=\"red\""), drawing.constData());
     QVERIFY(drawing.contains("width=\"40\" height=\"30\""));
+    desk.board.page().select(desk.objects());
+    desk.copy();
+    QVERIFY(QGuiApplication::clipboard()->mimeData()->data("image/svg+xml").count("<g transform=") >= 2);
 }
 
 void TestClipboard::pictureOfAnotherProgramIsPasted_data()
@@ -274,9 +240,9 @@ void TestClipboard::pictureOfAnotherProgramIsPasted()
     } else if (what == "image") {
         data->setImageData(picture(64, 48));
     } else if (what == "svg") {
-        data->setData("image/svg+xml", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+        data->setData("image/svg+xml", svgDrawing());
     } else if (what == "text") {
-        data->setText("<?xml version='1.0'?>\n<svg xmlns='http://www.w3.org/2000/svg'/>");
+        data->setText("<?xml version='1.0'?>\n" + svgDrawing());
     } else {
         const QString path = folder.filePath("picture." + QString(what == "bmp" ? "bmp" : "png"));
         QVERIFY(picture(64, 48).save(path));
@@ -296,11 +262,12 @@ void TestClipboard::pictureOfAnotherProgramIsPasted()
 void TestClipboard::pictureLargerThanThePageIsMadeSmaller()
 {
     CopyDesk desk;
+    desk.board.page().setSize(QSizeF(500, 400));
     auto *data = new QMimeData;
-    data->setImageData(picture(2560, 720));
+    data->setImageData(picture(800, 200));
     QGuiApplication::clipboard()->setMimeData(data);
     desk.paste();
-    QCOMPARE(desk.placeOfLast().size(), QSizeF(1280, 360));
+    QCOMPARE(desk.placeOfLast().size(), QSizeF(500, 125));
 }
 
 void TestClipboard::nothingUsableIsTold()
