@@ -27,6 +27,11 @@ constexpr int styleRules = 20000;
 /// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
 constexpr int selectorSteps = 20000000;
 constexpr int leastSelectorSteps = 2000;
+/// Longest side of a pattern's tile, and its most pixels; larger ones are painted more coarsely.
+constexpr int patternSide = 8192;
+constexpr double patternPixels = 4.0 * 1024 * 1024;
+/// Most different tiles of one drawing.
+constexpr int patterns = 2000;
 /// Longest chain of "href" between gradients.
 constexpr int gradientReferences = 32;
 /// Deepest nesting of "use" in "use".

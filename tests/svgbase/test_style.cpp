@@ -66,8 +66,8 @@ void TestStyle::paintOfTheMiddle_data()
     QTest::newRow("inherit") << "<g fill='red'>" + square("style='fill:blue;fill:inherit'") + "</g>" << red;
     QTest::newRow("currentColor") << "<g color='red'>" + square("fill='currentColor'") + "</g>" << red;
     QTest::newRow("own color before its use") << square("fill='currentColor' color='red'") << red;
-    QTest::newRow("currentColor is settled where it stands")
-        << "<g color='red' fill='currentColor'>" + square("color='blue'") + "</g>" << red;
+    QTest::newRow("currentColor is inherited as a keyword")
+        << "<g color='red' fill='currentColor'>" + square("color='blue'") + "</g>" << blue;
     QTest::newRow("fill-opacity") << square("fill='red' fill-opacity='0.2'") << QColor(255, 0, 0, 51);
     QTest::newRow("fill-opacity and alpha")
         << square("fill='rgba(255,0,0,.5)' fill-opacity='0.4'") << QColor(255, 0, 0, 51);

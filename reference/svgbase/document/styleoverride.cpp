@@ -22,8 +22,12 @@ Stroke effectiveStroke(const Outline &outline, const ComputedStyle &style, const
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
 {
     Outline result = outline;
-    if (override.fill)
+    if (override.fill) {
         result.fill = *override.fill;
+        result.fillPattern = -1;
+    }
+    if (override.strokeColor)
+        result.strokePattern = -1;
     result.pen = strokePen(style, effectiveStroke(outline, style, override));
     return result;
 }

@@ -14,7 +14,8 @@ bool hasSameOrigin(const DisplayItem &a, const DisplayItem &b)
 {
     return a.kind == b.kind && a.node == b.node && a.outline == b.outline && a.facts == b.facts &&
            a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre &&
-           a.effects == b.effects && a.end == b.end;
+           a.effects == b.effects && a.end == b.end && a.paintsFill == b.paintsFill &&
+           a.paintsStroke == b.paintsStroke && a.fillPattern == b.fillPattern && a.strokePattern == b.strokePattern;
 }
 
 // Takes over the mapped outlines of items that stand where they stood.

@@ -2,6 +2,7 @@
 
 #include "document/document.h"
 #include "draw/keptpicture.h"
+#include "draw/patternpaint.h"
 
 #include <memory>
 
@@ -21,6 +22,12 @@ struct DisplayItem
     FactsPointer facts;
     StyleOverridePointer override;
     int outline = 0;
+    /// Which of both the item paints; the order may be the other way round than painters have it.
+    bool paintsFill = true;
+    bool paintsStroke = true;
+    /// In the place of a brush; null where the outline's own paint counts.
+    PatternPointer fillPattern;
+    PatternPointer strokePattern;
     /// Of a layer, or of a shape that is not painted into a layer of its own.
     double opacity = 1;
     /// What happens to the picture of a layer besides; null for nothing.

@@ -159,13 +159,28 @@ Outline paintedOutline(const DisplayItem &item)
     const Outline &own = item.facts->outlines.at(item.outline);
     if (item.silhouette)
         return silhouette(own, item.facts->style);
-    return item.override ? overridden(own, item.facts->style, *item.override) : own;
+    Outline outline = item.override ? overridden(own, item.facts->style, *item.override) : own;
+    if (!item.paintsFill || (outline.fillPattern != noNode && !item.fillPattern))
+        outline.fill = Qt::NoBrush;
+    if (!item.paintsStroke || (outline.strokePattern != noNode && !item.strokePattern))
+        outline.pen = QPen(Qt::NoPen);
+    return outline;
+}
+
+// Tiles are painted for the scale that they are seen at.
+void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline *outline)
+{
+    if (item.fillPattern && outline->fill.style() != Qt::NoBrush)
+        outline->fill = patternBrush(*item.fillPattern, transform);
+    if (item.strokePattern && outline->pen.style() != Qt::NoPen)
+        outline->pen.setBrush(patternBrush(*item.strokePattern, transform));
 }
 
 void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world)
 {
-    const Outline outline = paintedOutline(*item);
+    Outline outline = paintedOutline(*item);
     const QTransform transform = itemTransform(*item, stretch, world);
+    paintPatterns(*item, transform, &outline);
     item->path = mappedPath(outline.path, transform);
     item->bounds = item->path.controlPointRect();
     item->strokePath = QPainterPath();

@@ -7,6 +7,7 @@
 #include "draw/layereffects.h"
 #include "draw/layerwrapping.h"
 #include "draw/markerbuilder.h"
+#include "draw/patternbuilder.h"
 
 namespace Svg {
 
@@ -14,6 +15,12 @@ namespace {
 
 /// In the place of a layer's begin for an element without one.
 constexpr int noLayer = -1;
+
+struct PaintedParts
+{
+    bool fill = true;
+    bool stroke = true;
+};
 
 class ListBuilder
 {
@@ -34,7 +41,9 @@ private:
     bool enter(NodeIndex node, const FactsPointer &facts);
     void leave(NodeIndex node);
     bool isAllowed(ElementKind kind) const;
-    void addShape(NodeIndex node, const FactsPointer &facts, bool layered);
+    void addPainted(NodeIndex node, const FactsPointer &facts, bool layered);
+    void addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts);
+    PatternPointer pattern(NodeIndex node, const FactsPointer &facts, double opacity);
     bool hasMarkers(ElementKind kind, const Facts &facts) const;
     void addMarkers(NodeIndex node, const FactsPointer &facts);
     void beginLayer(NodeIndex node, const FactsPointer &facts, const std::shared_ptr<LayerEffects> &effects);
@@ -125,11 +134,21 @@ void ListBuilder::endLayer()
     }
 }
 
-void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layered)
+// Null where the outline's own paint counts; what can't be built leaves nothing to paint.
+PatternPointer ListBuilder::pattern(int node, const FactsPointer &facts, double opacity)
+{
+    return node == noNode ? nullptr : buildPattern(m_context, node, {facts, opacity});
+}
+
+void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts)
 {
     for (int i = 0; i < facts->outlines.size(); ++i) {
-        const Outline outline = effectiveOutline(m_document, node, *facts, i);
-        if (!isSilhouette() && paintsNothing(outline))
+        Outline outline = effectiveOutline(m_document, node, *facts, i);
+        if (!parts.fill)
+            outline.fill = Qt::NoBrush;
+        if (!parts.stroke)
+            outline.pen = QPen(Qt::NoPen);
+        if (isSilhouette() ? !parts.fill : paintsNothing(outline))
             continue;
         DisplayItem item;
         item.node = node;
@@ -141,6 +160,12 @@ void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layer
         item.controlCentre = m_context.controlCentre;
         item.fill = outline.fill;
         item.pen = outline.pen;
+        item.paintsFill = parts.fill;
+        item.paintsStroke = parts.stroke;
+        if (parts.fill && !isSilhouette())
+            item.fillPattern = pattern(outline.fillPattern, facts, facts->style.fillOpacity);
+        if (parts.stroke && !isSilhouette())
+            item.strokePattern = pattern(outline.strokePattern, facts, facts->style.strokeOpacity);
         if (!layered && !isSilhouette())
             item.opacity = facts->style.opacity;
         target().append(item);
@@ -186,6 +211,23 @@ bool ListBuilder::isAllowed(ElementKind kind) const
     return hasGeometry(kind);
 }
 
+void ListBuilder::addPainted(NodeIndex node, const FactsPointer &facts, bool layered)
+{
+    const PaintOrder &order = facts->style.paintOrder;
+    for (int i = 0; i < int(order.size()); ++i) {
+        const bool strokeFollows = i + 1 < int(order.size()) && order[i + 1] == PaintStep::Stroke;
+        if (order[i] == PaintStep::Markers) {
+            if (hasMarkers(m_document.tree().node(node).kind, *facts))
+                addMarkers(node, facts);
+        } else if (order[i] == PaintStep::Fill && strokeFollows) {
+            addShape(node, facts, layered, {true, true});
+            ++i;
+        } else {
+            addShape(node, facts, layered, {order[i] == PaintStep::Fill, order[i] == PaintStep::Stroke});
+        }
+    }
+}
+
 void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
 {
     if (!*layer)
@@ -229,9 +271,7 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
     if (layered)
         beginLayer(node, facts, effects.layer);
     if (facts->style.visible)
-        addShape(node, facts, layered);
-    if (facts->style.visible && hasMarkers(element.kind, *facts))
-        addMarkers(node, facts);
+        addPainted(node, facts, layered);
     if (facts->style.visible && facts->image)
         appendImage(m_context, node, facts, &target());
     return true;

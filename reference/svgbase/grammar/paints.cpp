@@ -11,12 +11,13 @@ const QLatin1String referenceStart("url(");
 std::optional<Paint> plainPaint(QStringView text)
 {
     Paint paint;
-    if (text == QLatin1String("none")) {
+    if (text.compare(QLatin1String("none"), Qt::CaseInsensitive) == 0) {
         paint.kind = Paint::None;
         return paint;
     }
     if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0) {
         paint.kind = Paint::CurrentColor;
+        paint.followsColor = true;
         return paint;
     }
     if (text == QLatin1String("context-fill") || text == QLatin1String("context-stroke")) {
@@ -79,6 +80,7 @@ std::optional<Paint> parsePaint(QStringView text)
     const std::optional<Paint> fallback = plainPaint(trimmed.mid(end + 1).trimmed());
     if (fallback && fallback->kind == Paint::Color)
         paint.color = fallback->color;
+    paint.followsColor = fallback && fallback->followsColor;
     return paint;
 }
 

@@ -26,6 +26,8 @@ struct Paint
     Kind kind = Unset;
     QColor color;
     QString server;
+    /// Whether the colour is the "color" property's, that of the element itself where the paint is inherited.
+    bool followsColor = false;
 };
 
 /// Nothing when the text is no paint.

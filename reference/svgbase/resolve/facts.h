@@ -26,6 +26,9 @@ struct Outline
     /// What the pen paints with; known even where the pen draws nothing, since document-wide styling may widen it.
     QBrush strokePaint = Qt::NoBrush;
     QPen pen = Qt::NoPen;
+    /// Patterns in the place of the brushes, which then only tell that there is something.
+    int fillPattern = -1;
+    int strokePattern = -1;
 };
 
 /// What "context-fill" and "context-stroke" stand for.

@@ -122,7 +122,7 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
     facts->toDocument = bounded(facts->parent ? local * facts->parent->toDocument : local);
 }
 
-QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const
+QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const
 {
     QColor color = paint.color;
     if (paint.kind == Paint::Server) {
@@ -130,6 +130,10 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts) const
         const NodeIndex server = m_tree.findId(paint.server);
         if (server != noNode && isPaintServerPart(m_tree.node(server).kind))
             return gradientBrush(m_tree, server, {facts->localBounds, facts->viewport, opacity});
+        if (server != noNode && m_tree.node(server).kind == ElementKind::Pattern) {
+            *pattern = server;
+            return QBrush(Qt::transparent);
+        }
     } else if (paint.kind == Paint::ContextFill || paint.kind == Paint::ContextStroke) {
         return contextBrush(*facts, paint.kind, opacity);
     } else if (paint.kind != Paint::Color) {
@@ -149,8 +153,8 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     // A path computes these when first asked; done now, since facts are shared between threads.
     outline.path.boundingRect();
     outline.path.controlPointRect();
-    outline.fill = brushOf(style.fill, style.fillOpacity, facts);
-    outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts);
+    outline.fill = brushOf(style.fill, style.fillOpacity, facts, &outline.fillPattern);
+    outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts, &outline.strokePattern);
     outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt});
     facts->outlines.append(outline);
 }

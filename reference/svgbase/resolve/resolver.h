@@ -31,7 +31,7 @@ private:
     void resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
     void resolveText(NodeIndex index, Facts *facts) const;
     void addOutline(const QPainterPath &path, const ComputedStyle &style, Facts *facts) const;
-    QBrush brushOf(const Paint &paint, double opacity, Facts *facts) const;
+    QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
     void warn(const Node &node, const QString &text) const;
 
     const Tree &m_tree;

@@ -119,6 +119,13 @@ bool comesFirst(AttributeId property)
     return property == AttributeId::Color || property == AttributeId::FontSize;
 }
 
+// Inherited as the keyword that it is (CSS Color 4 §9.1).
+void followColor(const QColor &color, Paint *paint)
+{
+    if (paint->followsColor)
+        paint->color = color;
+}
+
 void addStyledAttribute(ComputedStyle *style, const Declaration &declaration)
 {
     for (Attribute &known : style->attributes) {
@@ -148,6 +155,8 @@ ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext
                 rejected->append(declaration.value.toString());
         }
     }
+    followColor(style.color, &style.fill);
+    followColor(style.color, &style.stroke);
     return style;
 }
 

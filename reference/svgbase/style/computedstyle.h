@@ -8,7 +8,12 @@
 #include <QtCore/QVector>
 #include <QtGui/QColor>
 
+#include <array>
+
 namespace Svg {
+
+enum class PaintStep : quint8 { Fill, Stroke, Markers };
+using PaintOrder = std::array<PaintStep, 3>;
 
 enum class TextAnchor : quint8 { Start, Middle, End };
 
@@ -44,6 +49,7 @@ struct ComputedStyle
     Qt::FillRule clipRule = Qt::WindingFill;
     /// Whether colours are mixed in linear light: gradients and masks, filters.
     bool mixesLinear = false;
+    PaintOrder paintOrder{{PaintStep::Fill, PaintStep::Stroke, PaintStep::Markers}};
     bool filtersLinear = true;
     /// Whether images are magnified with smooth transitions.
     bool smoothImages = true;

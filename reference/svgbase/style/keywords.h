@@ -11,11 +11,12 @@ template<typename Value> struct Keyword
 };
 
 /// Replaces `target` by the value of the keyword that `text` is; false when it is none of them.
+/// Case does not matter (CSS Values 3 §2.1).
 template<typename Value, size_t count>
 bool applyKeyword(Value &target, QStringView text, const Keyword<Value> (&keywords)[count])
 {
     for (const Keyword<Value> &keyword : keywords) {
-        if (text == keyword.name) {
+        if (text.compare(keyword.name, Qt::CaseInsensitive) == 0) {
             target = keyword.value;
             return true;
         }

@@ -31,6 +31,12 @@ const Keyword<Qt::FillRule> fillRules[] = {
     {QLatin1String("evenodd"), Qt::OddEvenFill},
 };
 
+const Keyword<PaintStep> paintSteps[] = {
+    {QLatin1String("fill"), PaintStep::Fill},
+    {QLatin1String("stroke"), PaintStep::Stroke},
+    {QLatin1String("markers"), PaintStep::Markers},
+};
+
 const Keyword<TextAnchor> anchors[] = {
     {QLatin1String("start"), TextAnchor::Start},
     {QLatin1String("middle"), TextAnchor::Middle},
@@ -80,11 +86,35 @@ bool applyPaint(Paint &target, QStringView text, const QColor &currentColor)
     std::optional<Paint> paint = parsePaint(text);
     if (!paint)
         return false;
-    if (paint->kind == Paint::CurrentColor) {
+    if (paint->kind == Paint::CurrentColor)
         paint->kind = Paint::Color;
+    if (paint->followsColor)
         paint->color = currentColor;
-    }
     target = *paint;
+    return true;
+}
+
+// What is not named follows in the usual order (SVG 2 §13.8).
+bool applyPaintOrder(PaintOrder &target, QStringView text)
+{
+    const PaintOrder usual = ComputedStyle().paintOrder;
+    QStringList words = text.toString().simplified().split(QLatin1Char(' '));
+    if (words == QStringList(QStringLiteral("normal"))) {
+        target = usual;
+        return true;
+    }
+    QVector<PaintStep> steps;
+    for (const QString &word : qAsConst(words)) {
+        PaintStep step = PaintStep::Fill;
+        if (!applyKeyword(step, word, paintSteps) || steps.contains(step))
+            return false;
+        steps.append(step);
+    }
+    for (const PaintStep step : usual) {
+        if (!steps.contains(step))
+            steps.append(step);
+    }
+    std::copy(steps.begin(), steps.end(), target.begin());
     return true;
 }
 
@@ -227,6 +257,9 @@ void inheritProperty(ComputedStyle &style, AttributeId property, const ComputedS
     case AttributeId::Opacity:
         style.opacity = parent.opacity;
         return;
+    case AttributeId::PaintOrder:
+        style.paintOrder = parent.paintOrder;
+        return;
     case AttributeId::StopColor:
         style.stopColor = parent.stopColor;
         return;
@@ -278,7 +311,7 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
     case AttributeId::Color:
         return applyColor(style.color, value, context.parent.color);
     case AttributeId::Display:
-        style.displayed = value != QLatin1String("none");
+        style.displayed = value.compare(QLatin1String("none"), Qt::CaseInsensitive) != 0;
         return !value.isEmpty();
     case AttributeId::Fill:
         return applyPaint(style.fill, value, style.color);
@@ -297,6 +330,8 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
         return applyFontWeight(style, value, context);
     case AttributeId::Opacity:
         return applyOpacity(style.opacity, value);
+    case AttributeId::PaintOrder:
+        return applyPaintOrder(style.paintOrder, value);
     case AttributeId::StopColor:
         return applyColor(style.stopColor, value, style.color);
     case AttributeId::StopOpacity:
@@ -332,9 +367,18 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
 bool applyProperty(ComputedStyle &style, AttributeId property, QStringView value, const PropertyContext &context)
 {
     const QStringView trimmed = value.trimmed();
-    if (trimmed != QLatin1String("inherit"))
+    static const ComputedStyle initial;
+    const auto is = [trimmed](const char *word) {
+        return trimmed.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    };
+    if (is("inherit"))
+        inheritProperty(style, property, context.parent);
+    else if (is("initial"))
+        inheritProperty(style, property, initial);
+    else if (is("unset") || is("revert"))
+        inheritProperty(style, property, inheritedStyle(context.parent));
+    else
         return applyTrimmed(style, property, trimmed, context);
-    inheritProperty(style, property, context.parent);
     return true;
 }
 

@@ -59,6 +59,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("mix-blend-mode"), AttributeId::MixBlendMode},
     {QLatin1String("offset"), AttributeId::Offset},
     {QLatin1String("opacity"), AttributeId::Opacity},
+    {QLatin1String("paint-order"), AttributeId::PaintOrder},
     {QLatin1String("overflow"), AttributeId::Overflow},
     {QLatin1String("points"), AttributeId::Points},
     {QLatin1String("preserveAspectRatio"), AttributeId::PreserveAspectRatio},

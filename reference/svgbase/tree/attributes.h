@@ -19,6 +19,7 @@ enum class AttributeId : quint8 {
     FontStyle,
     FontWeight,
     Opacity,
+    PaintOrder,
     StopColor,
     StopOpacity,
     Stroke,

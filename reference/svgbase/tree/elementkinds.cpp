@@ -37,6 +37,7 @@ const KindName kindNames[] = {
     {QLatin1String("a"), ElementKind::Group},
     {QLatin1String("desc"), ElementKind::Description},
     {QLatin1String("style"), ElementKind::Style},
+    {QLatin1String("pattern"), ElementKind::Pattern},
     {QLatin1String("animate"), ElementKind::Animate},
     {QLatin1String("animateTransform"), ElementKind::AnimateTransform},
     {QLatin1String("animateMotion"), ElementKind::AnimateMotion},
@@ -143,7 +144,7 @@ bool isPaintServerPart(ElementKind kind)
 
 bool isEffectPart(ElementKind kind)
 {
-    return kind >= ElementKind::ClipPath && kind <= ElementKind::FeOther;
+    return kind >= ElementKind::ClipPath && kind <= ElementKind::Pattern;
 }
 
 } // namespace Svg

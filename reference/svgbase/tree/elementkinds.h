@@ -65,6 +65,7 @@ enum class ElementKind : quint8 {
     FeFuncA,
     /// A primitive that is not implemented.
     FeOther,
+    Pattern,
     /// "title" and "desc".
     Description,
     /// A style sheet.

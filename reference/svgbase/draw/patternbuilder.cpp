@@ -1,0 +1,180 @@
+#include "draw/patternbuilder.h"
+
+#include "draw/listbuilder.h"
+#include "draw/openreference.h"
+#include "grammar/csstransforms.h"
+#include "grammar/transforms.h"
+#include "grammar/viewboxes.h"
+#include "inputlimits.h"
+#include "tree/references.h"
+
+namespace Svg {
+
+namespace {
+
+const QLatin1String objectBoundingBox("objectBoundingBox");
+const QLatin1String userSpaceOnUse("userSpaceOnUse");
+
+/// A pattern and those it refers to, nearest first: what one leaves out, the next may say.
+class PatternChain
+{
+public:
+    PatternChain(const Tree &tree, NodeIndex pattern)
+        : m_tree(tree)
+    {
+        NodeIndex at = pattern;
+        while (at != noNode && tree.node(at).kind == ElementKind::Pattern && !m_nodes.contains(at) &&
+               m_nodes.size() < Limits::gradientReferences) {
+            m_nodes.append(at);
+            at = tree.findId(hrefTarget(tree.node(at).attributes));
+        }
+    }
+
+    QString value(const QString &name) const
+    {
+        for (const NodeIndex index : m_nodes) {
+            if (m_tree.node(index).attributes.contains(name))
+                return m_tree.node(index).attributes.value(name);
+        }
+        return QString();
+    }
+
+    /// The first that has content; `noNode` when none has.
+    NodeIndex holder() const
+    {
+        const auto hasContent = [this](NodeIndex index) { return m_tree.node(index).firstChild != noNode; };
+        const auto found = std::find_if(m_nodes.begin(), m_nodes.end(), hasContent);
+        return found == m_nodes.end() ? noNode : *found;
+    }
+
+private:
+    const Tree &m_tree;
+    QVector<NodeIndex> m_nodes;
+};
+
+class PatternBuilder
+{
+public:
+    PatternBuilder(BuildContext &context, NodeIndex pattern, const PatternTarget &target)
+        : m_context(context)
+        , m_target(*target.facts)
+        , m_chain(context.document.tree(), pattern)
+        , m_ofBounds(m_chain.value(QStringLiteral("patternUnits")) != userSpaceOnUse)
+    {
+        m_pattern.node = pattern;
+        m_pattern.opacity = target.opacity;
+    }
+
+    PatternPointer build();
+
+private:
+    bool placeTile();
+    bool placeContent(QTransform *toPattern, QSizeF *viewport) const;
+    double length(const char *name, Axis axis) const;
+    QTransform ownTransform() const;
+    PatternPointer known() const;
+    bool contentOfBounds() const
+    {
+        return m_chain.value(QStringLiteral("patternContentUnits")) == objectBoundingBox;
+    }
+
+    BuildContext &m_context;
+    const Facts &m_target;
+    PatternChain m_chain;
+    bool m_ofBounds;
+    PatternPaint m_pattern;
+};
+
+double PatternBuilder::length(const char *name, Axis axis) const
+{
+    const QSizeF base = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
+    const Length length = parseLength(m_chain.value(QString(QLatin1String(name)))).value_or(Length());
+    return toUserUnits(length, axis, {base, m_target.style.font.size});
+}
+
+bool PatternBuilder::placeTile()
+{
+    const QRectF box(length("x", Axis::Horizontal), length("y", Axis::Vertical), length("width", Axis::Horizontal),
+                     length("height", Axis::Vertical));
+    const QRectF &b = m_target.localBounds;
+    m_pattern.tile = box;
+    if (m_ofBounds)
+        m_pattern.tile = QRectF(b.x() + box.x() * b.width(), b.y() + box.y() * b.height(), box.width() * b.width(),
+                                box.height() * b.height());
+    return box.width() > 0 && box.height() > 0 && !m_pattern.tile.isEmpty();
+}
+
+// The content starts at the corner of the tile.
+bool PatternBuilder::placeContent(QTransform *toPattern, QSizeF *viewport) const
+{
+    const QRectF &tile = m_pattern.tile;
+    const QString boxText = m_chain.value(QStringLiteral("viewBox"));
+    *viewport = m_target.viewport;
+    const std::optional<QRectF> box = parseViewBox(boxText);
+    if (box) {
+        const AspectRatio ratio = parseAspectRatio(m_chain.value(QStringLiteral("preserveAspectRatio")));
+        const std::optional<QTransform> fitted = viewBoxTransform(*box, tile, ratio);
+        *toPattern = fitted.value_or(QTransform());
+        *viewport = box->size();
+        return fitted.has_value();
+    }
+    const QSizeF scale = contentOfBounds() ? m_target.localBounds.size() : QSizeF(1, 1);
+    *toPattern = QTransform(scale.width(), 0, 0, scale.height(), tile.x(), tile.y());
+    return !contentOfBounds() || !m_target.localBounds.isEmpty();
+}
+
+QTransform PatternBuilder::ownTransform() const
+{
+    const QString text = m_chain.value(QStringLiteral("patternTransform"));
+    if (text.isEmpty())
+        return QTransform();
+    if (const std::optional<QTransform> transform = parseTransform(text))
+        return *transform;
+    return parseCssTransform(text, {m_target.viewport, m_target.style.font.size}).value_or(QTransform());
+}
+
+PatternPointer PatternBuilder::known() const
+{
+    for (const PatternPointer &pattern : qAsConst(m_context.patterns)) {
+        if (pattern->node == m_pattern.node && pattern->bounds == m_pattern.bounds &&
+            pattern->viewport == m_pattern.viewport && pattern->opacity == m_pattern.opacity)
+            return pattern;
+    }
+    return nullptr;
+}
+
+PatternPointer PatternBuilder::build()
+{
+    const NodeIndex holder = m_chain.holder();
+    if (holder == noNode || m_context.patterns.size() >= Limits::patterns ||
+        !OpenReference::isAllowed(m_context, m_pattern.node))
+        return nullptr;
+    if (m_ofBounds || contentOfBounds())
+        m_pattern.bounds = m_target.localBounds;
+    m_pattern.viewport = m_target.viewport;
+    if (const PatternPointer pattern = known())
+        return pattern;
+    auto *facts = new Facts;
+    const FactsPointer content(facts);
+    if (!placeTile() || !placeContent(&facts->toDocument, &facts->viewport))
+        return nullptr;
+    m_pattern.toTarget = ownTransform();
+    if (!m_pattern.toTarget.isInvertible())
+        return nullptr;
+    facts->style = m_context.document.facts(holder)->style;
+    const OpenReference open(m_context, m_pattern.node);
+    m_pattern.items = buildContent(m_context, holder, content, ContentUse::Drawing);
+    if (m_pattern.items.isEmpty())
+        return nullptr;
+    m_context.patterns.append(std::make_shared<const PatternPaint>(m_pattern));
+    return m_context.patterns.constLast();
+}
+
+} // namespace
+
+PatternPointer buildPattern(BuildContext &context, NodeIndex pattern, const PatternTarget &target)
+{
+    return PatternBuilder(context, pattern, target).build();
+}
+
+} // namespace Svg
