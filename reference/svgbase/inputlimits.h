@@ -42,6 +42,10 @@ constexpr int useInstances = 20000;
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of one document that are set; the rest is left out.
 constexpr int textCharacters = 100000;
+/// Most parts of one text whose "textLength" counts; inner ones and later ones first.
+constexpr int textLengths = 100;
+/// Most names of font families that the system is asked about, in a process; others count as not installed.
+constexpr int askedFamilies = 1000;
 /// Most characters that are shaped together; finding the place of each takes longer the more there are.
 constexpr int shapedCharacters = 256;
 /// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.

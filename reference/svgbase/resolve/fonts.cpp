@@ -1,6 +1,13 @@
 #include "resolve/fonts.h"
 
+#include "inputlimits.h"
+
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
+#include <QtGui/QFontInfo>
+
+#include <algorithm>
+#include <mutex>
 
 namespace Svg {
 
@@ -26,19 +33,69 @@ QString unquoted(const QString &name)
     return quoted ? trimmed.mid(1, trimmed.size() - 2) : trimmed;
 }
 
+/// What the system gives for names of families, asked once for each name. It is asked for a few names only: looking
+/// for a replacement takes long.
+class KnownFamilies
+{
+public:
+    /// The name of an installed family, or of what replaces it; empty where nothing is known.
+    QString find(const QString &name, QFont::StyleHint hint = QFont::AnyStyle)
+    {
+        const std::lock_guard lock(m_mutex);
+        const QString key = name.toLower();
+        const auto found = m_families.constFind(key);
+        if (found != m_families.constEnd())
+            return *found;
+        if (m_asked >= Limits::askedFamilies)
+            return QString();
+        ++m_asked;
+        QFont font;
+        font.setFamily(name);
+        font.setStyleHint(hint);
+        return *m_families.insert(key, QFontInfo(font).family());
+    }
+
+private:
+    std::mutex m_mutex;
+    QHash<QString, QString> m_families;
+    int m_asked = 0;
+};
+
+QString knownFamily(const QString &name)
+{
+    static KnownFamilies families;
+    for (const GenericFamily &generic : genericFamilies) {
+        if (name == generic.name)
+            return families.find(name, generic.hint);
+    }
+    return families.find(name);
+}
+
+bool isGeneric(const QString &name)
+{
+    return std::any_of(std::begin(genericFamilies), std::end(genericFamilies),
+                       [&](const GenericFamily &generic) { return name == generic.name; });
+}
+
+// The first family that is there (CSS Fonts 3 §5), else what replaces the first one.
 void setFamilies(QFont &font, const QString &list)
 {
-    QStringList families;
+    QString replacement;
     const QStringList names = list.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString &name : names) {
-        families.append(unquoted(name));
-        for (const GenericFamily &generic : genericFamilies) {
-            if (families.constLast() == generic.name)
-                font.setStyleHint(generic.hint);
+    for (const QString &quoted : names) {
+        const QString name = unquoted(quoted);
+        const QString family = knownFamily(name);
+        if (family.isEmpty())
+            continue;
+        if (isGeneric(name) || family.compare(name, Qt::CaseInsensitive) == 0) {
+            font.setFamily(family);
+            return;
         }
+        if (replacement.isEmpty())
+            replacement = family;
     }
-    if (!families.isEmpty())
-        font.setFamilies(families);
+    if (!replacement.isEmpty())
+        font.setFamily(replacement);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "text/textlength.h"
 
 #include "grammar/lengths.h"
+#include "inputlimits.h"
 
 #include <algorithm>
 
@@ -18,10 +19,10 @@ std::optional<Length> lengthOf(const Tree &tree, const TextLevel &level)
 class LengthAdjustment
 {
 public:
-    LengthAdjustment(const Tree &tree, const TextContent &content, QVector<PlacedCluster> *clusters)
+    LengthAdjustment(const Tree &tree, QVector<PlacedCluster> *clusters)
         : m_tree(tree)
-        , m_content(content)
         , m_clusters(*clusters)
+        , m_parts(clusters->size(), noPart)
     {
     }
 
@@ -31,22 +32,27 @@ private:
     void findExtent(const TextLevel &level);
     void spread(double extra);
     void widen(double factor);
-    bool isJoined(int cluster, int next) const;
+    bool isJoined(int cluster, int next) const
+    {
+        return m_parts.at(cluster) != noPart && m_parts.at(cluster) == m_parts.at(next);
+    }
+
+    static constexpr int noPart = -1;
 
     const Tree &m_tree;
-    const TextContent &m_content;
     QVector<PlacedCluster> &m_clusters;
-    /// Clusters of the level, and those that were adjusted as a whole before.
+    /// For each cluster the outermost part with a length of its own that holds it so far, by its first cluster.
+    /// Such a part is moved as a whole.
+    QVector<int> m_parts;
+    /// Clusters of the level.
     int m_begin = 0;
     int m_end = 0;
-    const TextLevel *m_level = nullptr;
     double m_left = 0;
     double m_right = 0;
 };
 
 void LengthAdjustment::findExtent(const TextLevel &level)
 {
-    m_level = &level;
     const auto isBefore = [](const PlacedCluster &cluster, int character) {
         return cluster.glyphs.firstCharacter < character;
     };
@@ -64,30 +70,15 @@ void LengthAdjustment::findExtent(const TextLevel &level)
     }
 }
 
-// A part that has a length of its own is moved as a whole.
-bool LengthAdjustment::isJoined(int cluster, int next) const
-{
-    const auto adjustedLevel = [&](int index) {
-        int level = m_content.characters.at(m_clusters.at(index).glyphs.firstCharacter).level;
-        int found = -1;
-        for (; level >= 0 && &m_content.levels.at(level) != m_level; level = m_content.levels.at(level).above) {
-            if (givenLength(m_tree, m_content.levels.at(level)))
-                found = level;
-        }
-        return found;
-    };
-    const int level = adjustedLevel(cluster);
-    return level >= 0 && level == adjustedLevel(next);
-}
-
 // Order along the line: text that runs to the left is spread like any other.
 void LengthAdjustment::spread(double extra)
 {
     QVector<int> order;
     for (int i = m_begin; i < m_end; ++i)
         order.append(i);
-    std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return m_clusters.at(a).along < m_clusters.at(b).along; });
+    const auto isLeft = [&](int a, int b) { return m_clusters.at(a).along < m_clusters.at(b).along; };
+    if (!std::is_sorted(order.begin(), order.end(), isLeft))
+        std::stable_sort(order.begin(), order.end(), isLeft);
     QVector<int> gaps{0};
     for (int i = 1; i < order.size(); ++i)
         gaps.append(gaps.constLast() + (isJoined(order.at(i - 1), order.at(i)) ? 0 : 1));
@@ -119,6 +110,7 @@ void LengthAdjustment::apply(const TextLevel &level, double length)
         widen(length / (m_right - m_left));
     else
         spread(length - (m_right - m_left));
+    std::fill(m_parts.begin() + m_begin, m_parts.begin() + m_end, m_begin);
 }
 
 } // namespace
@@ -131,12 +123,15 @@ bool givenLength(const Tree &tree, const TextLevel &level)
 void adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
                    QVector<PlacedCluster> *clusters)
 {
-    for (int i = content.levels.size() - 1; i >= 0; --i) {
+    LengthAdjustment adjustment(tree, clusters);
+    int left = Limits::textLengths;
+    for (int i = content.levels.size() - 1; i >= 0 && left > 0; --i) {
         const TextLevel &level = content.levels.at(i);
         const std::optional<Length> length = lengthOf(tree, level);
-        if (length)
-            LengthAdjustment(tree, content, clusters)
-                .apply(level, toUserUnits(*length, Axis::Horizontal, {viewport, level.style.font.size}));
+        if (!length)
+            continue;
+        adjustment.apply(level, toUserUnits(*length, Axis::Horizontal, {viewport, level.style.font.size}));
+        --left;
     }
 }
 

@@ -40,6 +40,7 @@ public:
     TextOutlines paint();
 
 private:
+    const FontMeasures &measuresOf(const ComputedStyle &style);
     void measureLevels();
     double shiftOf(const TextLevel &level, const FontMeasures &font) const;
     QTransform glyphTransform(const PlacedCluster &cluster) const;
@@ -51,6 +52,7 @@ private:
 
     const TextContent &m_content;
     const QVector<PlacedCluster> &m_clusters;
+    QHash<QString, FontMeasures> m_fonts;
     QVector<LevelMeasures> m_levels;
     TextOutlines m_result;
 };
@@ -64,12 +66,28 @@ double TextPainter::shiftOf(const TextLevel &level, const FontMeasures &around) 
     return style.shift == InlineStyle::Sub ? around.subscript : around.superscript;
 }
 
+// Parts in one font are many, fonts are few.
+const FontMeasures &TextPainter::measuresOf(const ComputedStyle &style)
+{
+    const FontStyle &font = style.font;
+    const QString key = QStringLiteral("%1 %2 %3 %4 ")
+                            .arg(font.size)
+                            .arg(font.weight)
+                            .arg(font.italic)
+                            .arg(textStyleOf(style).stretch) +
+                        font.family;
+    auto known = m_fonts.find(key);
+    if (known == m_fonts.end())
+        known = m_fonts.insert(key, fontMeasures(style));
+    return *known;
+}
+
 void TextPainter::measureLevels()
 {
     QVector<double> shifts;
     for (const TextLevel &level : m_content.levels) {
         LevelMeasures measures;
-        measures.font = fontMeasures(level.style);
+        measures.font = measuresOf(level.style);
         const bool isText = level.above < 0;
         const double shift = isText ? 0 : shifts.at(level.above) + shiftOf(level, m_levels.at(level.above).font);
         shifts.append(shift);

@@ -50,12 +50,13 @@ private:
     const TextContent &m_content;
     QSizeF m_viewport;
     bool m_vertical;
+    GlyphOutlines m_outlines;
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
     QHash<int, std::shared_ptr<TextWay>> m_ways;
     /// What absolute positions add to everything that follows.
     QPointF m_offset;
-    /// Shift of each chunk's first character itself, and the ones before it.
+    /// The `textPath` of the chunk before, as a level.
     int m_pathBefore = -1;
 };
 
@@ -97,7 +98,7 @@ void TextPlacer::shape()
         while (end < count && !startsChunk(end))
             ++end;
         const int first = m_clusters.size();
-        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how);
+        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how, &m_outlines);
         double width = 0;
         for (const TextCluster &cluster : clusters) {
             PlacedCluster placed;

@@ -49,7 +49,7 @@ bool isUpright(uint code)
 class Row
 {
 public:
-    Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode);
+    Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, GlyphOutlines *outlines);
 
     /// The clusters in logical order, their offsets from the left end of the row.
     QVector<TextCluster> clusters();
@@ -57,7 +57,7 @@ public:
 private:
     void layOut();
     QVector<TextCluster> separateClusters();
-    QPainterPath outlineOf(const QList<QGlyphRun> &runs, double left) const;
+    QPainterPath outlineOf(const QList<QGlyphRun> &runs, double left);
     void space(TextCluster *cluster) const;
     void turnUpright(TextCluster *cluster) const;
     int place(int character) const { return m_content.characters.at(character).begin - m_textBegin + m_prefix; }
@@ -65,6 +65,7 @@ private:
     const TextContent &m_content;
     BidiRun m_run;
     ShapingMode m_mode;
+    GlyphOutlines &m_outlines;
     const ComputedStyle &m_style;
     double m_scale;
     int m_textBegin;
@@ -74,10 +75,11 @@ private:
     QTextLine m_line;
 };
 
-Row::Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode)
+Row::Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, GlyphOutlines *outlines)
     : m_content(content)
     , m_run(run)
     , m_mode(mode)
+    , m_outlines(*outlines)
     , m_style(content.levels.at(content.characters.at(run.begin).level).style)
     , m_scale(m_style.font.size / outlineFontSize)
     , m_textBegin(content.characters.at(run.begin).begin)
@@ -109,7 +111,7 @@ void Row::layOut()
     m_layout.endLayout();
 }
 
-QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left) const
+QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left)
 {
     QPainterPath outline;
     const double baseline = m_line.y() + m_line.ascent();
@@ -119,7 +121,7 @@ QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left) const
         const QVector<QPointF> positions = run.positions();
         for (int i = 0; i < glyphs.size(); ++i) {
             const QPointF at = positions.at(i) - QPointF(left, baseline);
-            outline.addPath(font.pathForGlyph(glyphs.at(i)).translated(at));
+            outline.addPath(m_outlines.outline(font, glyphs.at(i)).translated(at));
         }
     }
     return QTransform::fromScale(m_scale, m_scale).map(outline);
@@ -232,13 +234,14 @@ bool canBePlaced(const QString &text, const TextCharacter &character)
     }
 }
 
-QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode)
+QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
+                                GlyphOutlines *outlines)
 {
     QVector<TextCluster> clusters;
     double left = 0;
     const QVector<BidiRun> runs = bidiRuns(content, begin, end);
     for (const BidiRun &run : runs) {
-        QVector<TextCluster> row = Row(content, run, mode).clusters();
+        QVector<TextCluster> row = Row(content, run, mode, outlines).clusters();
         double width = 0;
         for (TextCluster &cluster : row) {
             cluster.offset += left;

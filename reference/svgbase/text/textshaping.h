@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/glyphoutlines.h"
 #include "text/textcontent.h"
 
 #include <QtGui/QPainterPath>
@@ -33,6 +34,7 @@ bool canBePlaced(const QString &text, const TextCharacter &character);
 
 /// The glyphs of the characters from `begin` up to `end` on one line, in the order of the characters; the
 /// bidirectional algorithm settles where each stands (Unicode UAX 9).
-QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode);
+QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
+                                GlyphOutlines *outlines);
 
 } // namespace Svg
