@@ -50,6 +50,12 @@ private slots:
     void documentWideFillReachesText();
     void changedTspanMovesTheRest();
     void textWithoutCharactersHasNoBounds();
+    void changedWayMovesItsText();
+    void changedPartsLookLikeLoadedOnes_data();
+    void changedPartsLookLikeLoadedOnes();
+    void boundingBoxUnitsRelateToCells();
+    void outlinesScaleWithTheFontSize();
+    void arabicLettersAreJoined();
     void fontWeights_data();
     void fontWeights();
 };
@@ -171,6 +177,86 @@ void TestText::textWithoutCharactersHasNoBounds()
 {
     QVERIFY(textBounds(start + "x='10' y='10'> </text>").isNull());
     QVERIFY(textBounds("<text id='t' font-size='0'>H</text>").isNull());
+}
+
+void TestText::changedWayMovesItsText()
+{
+    const DocumentPointer document = loadContent("<path id='p' d='M0 50H90' fill='none'/><text id='t' "
+                                                 "font-family='DejaVu Sans'><textPath id='w' href='#p'>i</textPath>"
+                                                 "</text>");
+    const QRectF before = document->namedNode("t")->boundingRect();
+    document->namedNode("p")->setAttribute("d", "M0 70H90");
+    QVERIFY(isNear(document->namedNode("t")->boundingRect().bottom(), before.bottom() + 20));
+    document->namedNode("w")->setAttribute("startOffset", "30");
+    QVERIFY(isNear(document->namedNode("t")->boundingRect().left(), before.left() + 30));
+}
+
+void TestText::changedPartsLookLikeLoadedOnes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    for (const auto &[name, value] :
+         std::initializer_list<std::pair<const char *, const char *>>{{"x", "20 40"},
+                                                                      {"dy", "5 5"},
+                                                                      {"rotate", "20"},
+                                                                      {"textLength", "60"},
+                                                                      {"letter-spacing", "4"},
+                                                                      {"baseline-shift", "super"},
+                                                                      {"text-decoration", "underline"},
+                                                                      {"font-size", "30"},
+                                                                      {"writing-mode", "tb"},
+                                                                      {"direction", "rtl"},
+                                                                      {"text-anchor", "end"},
+                                                                      {"display", "none"}})
+        QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(value);
+}
+
+void TestText::changedPartsLookLikeLoadedOnes()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    const QString text = start + "x='50' y='50'>ab<tspan id='s' %1>cd</tspan>e</text>";
+    const DocumentPointer changed = loadContent(text.arg(QString()));
+    const QImage before = drawn(*changed);
+    changed->namedNode("s")->setAttribute(name, value);
+    QCOMPARE(drawn(*changed), drawnContent(text.arg(QStringLiteral("%1='%2'").arg(name, value))));
+    changed->namedNode("s")->setAttribute(name, QString());
+    QCOMPARE(drawn(*changed), before);
+    const QString bare = QStringLiteral("<text id='t' font-family='DejaVu Sans' ");
+    const DocumentPointer whole = loadContent(bare + "y='50'>ab</text>");
+    whole->namedNode("t")->setAttribute(name, value);
+    QCOMPARE(drawn(*whole), drawnContent(bare + QStringLiteral("y='50' %1='%2'>ab</text>").arg(name, value)));
+}
+
+// Two cells of 0.2778 · 20 units: the middle of the gradient lies between both letters, at 5.56.
+void TestText::boundingBoxUnitsRelateToCells()
+{
+    const DocumentPointer document = loadContent(
+        "<linearGradient id='g'><stop offset='0.5' stop-color='#f00'/><stop offset='0.5' stop-color='#00f'/>"
+        "</linearGradient><text id='t' font-family='DejaVu Sans' font-size='60' x='10' y='80' fill='url(#g)'>l"
+        "<tspan visibility='hidden'>l</tspan></text>");
+    // An l is a bar from 193 to 377 of 2048 units, in a cell of 569.
+    QCOMPARE(drawn(*document).pixelColor(18, 60), QColor(255, 0, 0));
+    const QImage image = drawn(*document);
+    for (int x = 0; x < image.width(); ++x)
+        QVERIFY(image.pixelColor(x, 60).blue() == 0);
+}
+
+void TestText::outlinesScaleWithTheFontSize()
+{
+    const QRectF small = textBounds("<text id='t' font-family='DejaVu Sans' font-size='0.5'>HgW</text>");
+    const QRectF large = textBounds("<text id='t' font-family='DejaVu Sans' font-size='5000'>HgW</text>");
+    QVERIFY(qAbs(large.width() / small.width() / 10000 - 1) < 1e-4);
+    QVERIFY(qAbs(large.height() / small.height() / 10000 - 1) < 1e-4);
+}
+
+// Two letters that join are narrower than the same letters apart.
+void TestText::arabicLettersAreJoined()
+{
+    const QRectF joined = textBounds(start + "y='50'>\u0628\u0628</text>");
+    const QRectF apart = textBounds(start + "y='50'>\u0628\u200c\u0628</text>");
+    QVERIFY(!joined.isEmpty());
+    QVERIFY(joined.width() < apart.width() - 1);
 }
 
 void TestText::fontWeights_data()

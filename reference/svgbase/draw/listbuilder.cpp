@@ -270,7 +270,8 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
     m_kinds.append(element.kind);
     if (layered)
         beginLayer(node, facts, effects.layer);
-    if (facts->style.visible)
+    // Of a text only the visible parts have outlines.
+    if (facts->style.visible || element.kind == ElementKind::Text)
         addPainted(node, facts, layered);
     if (facts->style.visible && facts->image)
         appendImage(m_context, node, facts, &target());

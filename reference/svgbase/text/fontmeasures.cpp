@@ -10,9 +10,12 @@ namespace Svg {
 
 namespace {
 
-// Where values stand in the tables of a font (OpenType, "OS/2" and "post").
+// Where values stand in the tables of a font (OpenType, "hhea", "OS/2" and "post").
+constexpr int ascenderOffset = 4;
+constexpr int descenderOffset = 6;
 constexpr int subscriptOffset = 16;
 constexpr int superscriptOffset = 24;
+constexpr int strikeoutThickness = 26;
 constexpr int strikeoutPosition = 28;
 constexpr int underlinePosition = 8;
 constexpr int underlineThickness = 10;
@@ -42,19 +45,23 @@ FontMeasures fontMeasures(const ComputedStyle &style)
     const double size = style.font.size;
     const double scale = size / outlineFontSize;
     const double unit = font.unitsPerEm() > 0 ? size / font.unitsPerEm() : 0;
+    const QByteArray hhea = font.fontTable("hhea");
     const QByteArray os2 = font.fontTable("OS/2");
     const QByteArray post = font.fontTable("post");
     FontMeasures measures;
-    measures.ascent = font.ascent() * scale;
-    measures.descent = -font.descent() * scale;
+    // What the font class gives is rounded to pixels.
+    measures.ascent = tableValue(hhea, ascenderOffset, unit, font.ascent() * scale);
+    measures.descent = tableValue(hhea, descenderOffset, unit, -font.descent() * scale);
     measures.xHeight = font.xHeight() * scale;
     measures.subscript = -tableValue(os2, subscriptOffset, unit, usualSubscript * size);
     measures.superscript = tableValue(os2, superscriptOffset, unit, usualSuperscript * size);
-    measures.lineThrough = tableValue(os2, strikeoutPosition, unit, measures.xHeight / 2);
-    measures.underline = tableValue(post, underlinePosition, unit, usualUnderline * size);
     measures.thickness = tableValue(post, underlineThickness, unit, usualThickness * size);
     if (!(measures.thickness > 0))
         measures.thickness = usualThickness * size;
+    // Fonts tell the upper edge of their lines.
+    measures.lineThrough = tableValue(os2, strikeoutPosition, unit, measures.xHeight / 2) -
+                           tableValue(os2, strikeoutThickness, unit, 0) / 2;
+    measures.underline = tableValue(post, underlinePosition, unit, usualUnderline * size) - measures.thickness / 2;
     return measures;
 }
 
