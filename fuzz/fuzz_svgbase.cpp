@@ -67,9 +67,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
         return 0;
     document->setSelectionState(1);
     draw(*document, QSize(40, 30));
+    document->setAnimationTime(input.size() % 7 * 0.75);
+    draw(*document, QSize(40, 30));
     change(*document, input.mid(end, longestScript));
     document->transformedBounds();
     document->setAllFillBrush(QColor(Qt::red));
+    draw(*document, QSize(30, 30));
+    document->setAnimationTime(0.5);
     draw(*document, QSize(30, 30));
     return 0;
 }

@@ -205,6 +205,8 @@ private slots:
     void looksAsExpected();
     void looksTheSame_data();
     void looksTheSame();
+    void momentsLookTheSameHoweverTheyAreReached_data();
+    void momentsLookTheSameHoweverTheyAreReached();
     void everyCaseExpectsSomething_data();
     void everyCaseExpectsSomething();
 };
@@ -266,6 +268,44 @@ void TestGolden::looksTheSame()
         QFAIL(qPrintable(QStringLiteral("The pictures differ by %1:\n%2\n%3")
                              .arg(found)
                              .arg(kept(a, name), kept(b, name + QStringLiteral(".same")))));
+}
+
+void TestGolden::momentsLookTheSameHoweverTheyAreReached_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("time");
+    const QStringList files = cases.entryList({QStringLiteral("*.expect")});
+    for (const QString &file : files) {
+        const std::optional<double> time = readExpectations(file).time;
+        const QString name = file.left(file.lastIndexOf(QLatin1Char('.')));
+        if (time)
+            QTest::newRow(qPrintable(name)) << name << *time;
+    }
+}
+
+void TestGolden::momentsLookTheSameHoweverTheyAreReached()
+{
+    QFETCH(QString, name);
+    QFETCH(double, time);
+    const QByteArray text = contents(name + QStringLiteral(".svg"));
+    const QSize size(100, 100);
+    const DocumentPointer direct(QZeSvgTinyDocument::load(text));
+    direct->setAnimationTime(time);
+    const QImage expected = fittedPicture(*direct, size);
+    const DocumentPointer wandering(QZeSvgTinyDocument::load(text));
+    for (const double moment : {0.0, time * 3, time / 3, time * 0.9, time * 40, time}) {
+        wandering->setAnimationTime(moment);
+        fittedPicture(*wandering, size);
+    }
+    QCOMPARE(fittedPicture(*wandering, size), expected);
+    // A change that is taken back makes it all be worked out anew.
+    wandering->setAttribute(QStringLiteral("opacity"), QStringLiteral("0.5"));
+    fittedPicture(*wandering, size);
+    wandering->setAttribute(QStringLiteral("opacity"), QString());
+    QCOMPARE(fittedPicture(*wandering, size), expected);
+    const DocumentPointer copy(static_cast<QZeSvgTinyDocument *>(wandering->clone()));
+    copy->setAnimationTime(time);
+    QCOMPARE(fittedPicture(*copy, size), expected);
 }
 
 void TestGolden::everyCaseExpectsSomething_data()
