@@ -130,6 +130,11 @@ public:
         return difference().isEmpty();
     }
     int steps() const { return m_shape.undoStack().count(); }
+    /// Whether there is anything to drag or set: a picture has neither.
+    bool canChange()
+    {
+        return m_shape.controlPointCount() > 0 || offers(5002) || offers(5003) || offers(5004) || offers(5005);
+    }
 
 private:
     int below(int end) { return int(m_engine() % unsigned(end)); }
@@ -221,7 +226,7 @@ void TestRandomHistory::everyStepComesBack()
         const QString difference = history.difference();
         QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("step %1: %2").arg(i).arg(difference)));
     }
-    QVERIFY(history.steps() > 0);
+    QCOMPARE(history.steps() > 0, history.canChange());
     QVERIFY(history.undoAll());
     QVERIFY(history.redoAll());
 }
