@@ -2,6 +2,7 @@
 
 #include "clipboard/clipboardtexts.h"
 #include "documents/documenttexts.h"
+#include "lessons/lessontexts.h"
 #include "panels/forms/formtexts.h"
 
 namespace board {
@@ -135,7 +136,7 @@ pagehost::TextTable boardTexts(const QString &language)
         return texts;
     for (const TextEntry &entry : entries)
         insert(texts, entry, german);
-    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts(), formTexts()}) {
+    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts(), formTexts(), lessonTexts()}) {
         for (const TextEntry &entry : table)
             insert(texts, entry, german);
     }

@@ -27,7 +27,8 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor color = QApplication::palette().color(group, QPalette::ButtonText);
+        const bool isLive = m_which == Icon::Record && mode != QIcon::Disabled;
+        const QColor color = isLive ? recordingColor() : QApplication::palette().color(group, QPalette::ButtonText);
         QColor shade = color;
         shade.setAlpha(shadeAlpha);
         const IconShape shape = iconShape(m_which);

@@ -33,8 +33,18 @@ enum class Icon {
     Save,
     Cut,
     Copy,
-    Paste
+    Paste,
+    Record,
+    Stop,
+    Play,
+    Pause
 };
+
+/// The colour of recording, everywhere.
+inline QColor recordingColor()
+{
+    return {229, 57, 53};
+}
 
 /// A pictogram that is drawn when it is shown: sharp at every size and pixel ratio, in the palette's text colour of
 /// that moment, paler while disabled.

@@ -255,6 +255,35 @@ IconShape pasteShape()
     return shape;
 }
 
+IconShape recordShape()
+{
+    IconShape shape;
+    shape.areas.addEllipse(QPointF(12, 12), 6.5, 6.5);
+    return shape;
+}
+
+IconShape stopShape()
+{
+    IconShape shape;
+    shape.areas.addRoundedRect(QRectF(6, 6, 12, 12), 1.5, 1.5);
+    return shape;
+}
+
+IconShape playShape()
+{
+    IconShape shape;
+    addPolygon(shape.areas, {{8, 5}, {19, 12}, {8, 19}});
+    return shape;
+}
+
+IconShape pauseShape()
+{
+    IconShape shape;
+    shape.areas.addRoundedRect(QRectF(7, 5.5, 3.6, 13), 1, 1);
+    shape.areas.addRoundedRect(QRectF(13.4, 5.5, 3.6, 13), 1, 1);
+    return shape;
+}
+
 } // namespace
 
 IconShape iconShape(Icon which)
@@ -316,6 +345,14 @@ IconShape iconShape(Icon which)
         return copyShape();
     case Icon::Paste:
         return pasteShape();
+    case Icon::Record:
+        return recordShape();
+    case Icon::Stop:
+        return stopShape();
+    case Icon::Play:
+        return playShape();
+    case Icon::Pause:
+        return pauseShape();
     }
     return {};
 }

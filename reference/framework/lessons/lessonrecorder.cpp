@@ -44,12 +44,17 @@ void LessonRecorder::resume()
     Q_EMIT pausedChanged(false);
 }
 
+Lesson LessonRecorder::soFar()
+{
+    return isRecording() ? m_recording->settled() : Lesson();
+}
+
 Lesson LessonRecorder::stop()
 {
     if (!isRecording()) {
         return {};
     }
-    const Lesson lesson = m_recording->finish();
+    const Lesson lesson = m_recording->settled();
     const bool wasPaused = isPaused();
     m_recording.reset();
     m_clock.halt();

@@ -151,7 +151,7 @@ void LessonRecording::settle()
     }
 }
 
-Lesson LessonRecording::finish()
+Lesson LessonRecording::settled()
 {
     if (m_document) {
         prepareComparison();

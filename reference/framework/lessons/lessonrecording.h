@@ -33,8 +33,8 @@ public:
 
     /// Notes the states of changed objects that the lesson does not lead to.
     void settle();
-    /// The same for all objects of the document; gives the lesson.
-    Lesson finish();
+    /// The same for all objects of the document; gives the lesson so far.
+    Lesson settled();
 
 private:
     void actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload) override;

@@ -1,0 +1,151 @@
+#include "lessons/lessonbar.h"
+
+#include "application/workspace.h"
+#include "lessons/lessoncontroller.h"
+#include "lessons/lessonmenu.h"
+#include "lessons/timeline.h"
+#include "look/icons.h"
+#include "look/theme.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtGui/QPainter>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+namespace {
+
+constexpr QSize buttonIconSize(20, 20);
+constexpr int clockMilliseconds = 200;
+constexpr int secondsInMinute = 60;
+constexpr int listLength = 18; ///< letters
+
+QString timeText(qint64 milliseconds)
+{
+    const qint64 seconds = milliseconds / 1000;
+    return QStringLiteral("%1:%2")
+        .arg(seconds / secondsInMinute)
+        .arg(seconds % secondsInMinute, 2, 10, QLatin1Char('0'));
+}
+
+QToolButton *buttonOf(QAction *action, Qt::ToolButtonStyle style = Qt::ToolButtonIconOnly)
+{
+    auto *button = new QToolButton;
+    button->setDefaultAction(action);
+    button->setIconSize(buttonIconSize);
+    button->setToolButtonStyle(style);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, const LessonMenu *menu, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_lessons(lessons)
+    , m_timeLine(new TimeLine)
+    , m_time(new QLabel)
+    , m_message(new QLabel)
+    , m_list(new QComboBox)
+    , m_pauseRecording(buttonOf(menu->pauseRecording))
+    , m_play(buttonOf(menu->play))
+    , m_remove(buttonOf(menu->remove))
+    , m_close(buttonOf(menu->close, Qt::ToolButtonTextOnly))
+{
+    setObjectName(QStringLiteral("lessonBar"));
+    setAccessibleName(workspace->text("IDS_LESSON_BAR"));
+    m_timeLine->setAccessibleName(workspace->text("IDS_LESSON_TIMELINE"));
+    m_list->setAccessibleName(workspace->text("IDS_LESSON_CHOOSE"));
+    m_list->setToolTip(m_list->accessibleName());
+    m_list->setMinimumContentsLength(listLength);
+    m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_time->setMinimumWidth(m_time->fontMetrics().horizontalAdvance(QStringLiteral("00:00 / 00:00")));
+    m_time->setAlignment(Qt::AlignCenter);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(mediumGap, smallGap, mediumGap, smallGap);
+    row->setSpacing(smallGap);
+    row->addWidget(buttonOf(menu->record));
+    row->addWidget(m_pauseRecording);
+    row->addWidget(m_message, 1);
+    row->addWidget(m_play);
+    row->addWidget(m_timeLine, 1);
+    row->addWidget(m_time);
+    row->addWidget(m_list);
+    row->addWidget(m_remove);
+    row->addWidget(m_close);
+
+    m_clock.setInterval(clockMilliseconds);
+    connect(&m_clock, &QTimer::timeout, this, &LessonBar::showTime);
+    connect(lessons, &LessonController::stateChanged, this, &LessonBar::showState);
+    connect(lessons, &LessonController::lessonsChanged, this, &LessonBar::showLessons);
+    connect(lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
+    connect(m_timeLine, &TimeLine::momentWanted, lessons, &LessonController::seek);
+    connect(m_list, QOverload<int>::of(&QComboBox::activated), lessons, &LessonController::choose);
+    showLessons();
+}
+
+void LessonBar::showLessons()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    const QStringList names = m_lessons->names();
+    for (int i = 0; i < names.size(); ++i)
+        m_list->addItem(
+            m_workspace->text("IDS_LESSON_ENTRY").arg(names[i], timeText(m_lessons->durations().value(i))));
+    m_list->setCurrentIndex(m_lessons->chosen());
+    m_timeLine->setDuration(m_lessons->duration());
+    m_timeLine->setMoments(m_lessons->moments());
+    showState();
+}
+
+void LessonBar::showState()
+{
+    const bool recording = m_lessons->isRecording();
+    const bool playable = m_lessons->chosen() >= 0 && !recording;
+    for (QWidget *part : QList<QWidget *>{m_play, m_timeLine, m_time, m_list, m_remove})
+        part->setVisible(playable);
+    m_pauseRecording->setVisible(recording);
+    m_message->setVisible(!playable);
+    m_message->setForegroundRole(recording ? QPalette::WindowText : QPalette::PlaceholderText);
+    m_close->setVisible(m_lessons->isShowing());
+    if (recording)
+        m_clock.start();
+    else
+        m_clock.stop();
+    showTime();
+    update();
+}
+
+void LessonBar::showTime()
+{
+    const QString now = timeText(m_lessons->position());
+    switch (m_lessons->state()) {
+    case LessonController::Recording:
+        m_message->setText(m_workspace->text("IDS_LESSON_RECORDING").arg(now));
+        break;
+    case LessonController::RecordingPaused:
+        m_message->setText(m_workspace->text("IDS_LESSON_RECORDING_PAUSED").arg(now));
+        break;
+    default:
+        m_message->setText(m_workspace->text("IDS_LESSON_NONE"));
+    }
+    m_time->setText(m_workspace->text("IDS_LESSON_TIME").arg(now, timeText(m_lessons->duration())));
+    m_timeLine->setPosition(m_lessons->isRecording() ? 0 : m_lessons->position());
+}
+
+/// A line above the bar, red while a lesson is being recorded.
+void LessonBar::paintEvent(QPaintEvent *)
+{
+    const bool live = m_lessons->state() == LessonController::Recording;
+    QPainter painter(this);
+    painter.fillRect(QRect(0, 0, width(), live ? 2 : 1), live ? recordingColor() : themeColors().border);
+}
+
+} // namespace board

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+class QComboBox;
+class QLabel;
+class QToolButton;
+
+namespace board {
+
+class LessonController;
+class LessonMenu;
+class TimeLine;
+class Workspace;
+
+/// The strip below the page: record, pause and stop, play, the time line, and the document's lessons.
+class LessonBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive the bar.
+    LessonBar(const Workspace *workspace, LessonController *lessons, const LessonMenu *menu,
+              QWidget *parent = nullptr);
+
+    TimeLine *timeLine() const { return m_timeLine; }
+    QComboBox *list() const { return m_list; }
+    /// "0:12 / 1:04".
+    QLabel *time() const { return m_time; }
+    QLabel *message() const { return m_message; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void showState();
+    void showLessons();
+    void showTime();
+
+    const Workspace *m_workspace;
+    LessonController *m_lessons;
+    TimeLine *m_timeLine;
+    QLabel *m_time;
+    QLabel *m_message; ///< in place of the time line while there is nothing to play
+    QComboBox *m_list;
+    QToolButton *m_pauseRecording;
+    QToolButton *m_play;
+    QToolButton *m_remove;
+    QToolButton *m_close;
+    QTimer m_clock; ///< while recording
+};
+
+} // namespace board

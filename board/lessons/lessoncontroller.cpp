@@ -1,0 +1,214 @@
+#include "lessons/lessoncontroller.h"
+
+#include "application/workspace.h"
+#include "window/notices.h"
+
+#include <pagehost/page.h>
+
+namespace board {
+
+namespace {
+
+const QString noticeId = QStringLiteral("lessonNotice");
+/// What happens within this time, in milliseconds, is one moment of the time line.
+constexpr qint64 momentLength = 400;
+
+pagehost::Lesson lessonOf(const pagehost::LessonData &data)
+{
+    pagehost::Lesson lesson;
+    lesson.fromData(data.data);
+    return lesson;
+}
+
+} // namespace
+
+LessonController::LessonController(Workspace *workspace, Notices *notices, QObject *parent)
+    : QObject(parent)
+    , m_workspace(workspace)
+    , m_notices(notices)
+    , m_recorder(&workspace->registry())
+    , m_player(&workspace->registry())
+{
+    connect(workspace, &Workspace::documentReplaced, this, &LessonController::followDocument);
+    connect(&m_player, &pagehost::LessonPlayer::playingChanged, this, &LessonController::stateChanged);
+    connect(&m_player, &pagehost::LessonPlayer::positionChanged, this, &LessonController::positionChanged);
+    connect(&m_player, &pagehost::LessonPlayer::documentReplaced, this, &LessonController::showDocument);
+    followDocument();
+}
+
+LessonController::State LessonController::state() const
+{
+    if (m_recorder.isRecording())
+        return m_recorder.isPaused() ? RecordingPaused : Recording;
+    return m_showing ? Showing : Idle;
+}
+
+pagehost::Document *LessonController::shownDocument() const
+{
+    return m_showing ? m_player.document() : m_workspace->document();
+}
+
+/// A recording ends with its document.
+void LessonController::followDocument()
+{
+    m_recorder.stop();
+    m_kept = -1;
+    close();
+    connect(m_workspace->document(), &pagehost::Document::lessonsChanged, this, &LessonController::readLessons);
+    m_chosen = -1;
+    readLessons();
+    Q_EMIT stateChanged();
+}
+
+void LessonController::readLessons()
+{
+    m_names.clear();
+    m_durations.clear();
+    const QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
+    for (const pagehost::LessonData &data : lessons) {
+        m_names.append(data.name);
+        m_durations.append(lessonOf(data).duration);
+    }
+    if (m_chosen < 0 || m_chosen >= m_names.size())
+        m_chosen = m_names.size() - 1;
+    Q_EMIT lessonsChanged();
+}
+
+void LessonController::choose(int lesson)
+{
+    if (lesson == m_chosen || lesson < 0 || lesson >= m_names.size())
+        return;
+    close();
+    m_chosen = lesson;
+    Q_EMIT lessonsChanged();
+}
+
+QVector<qint64> LessonController::moments() const
+{
+    QVector<qint64> times;
+    if (m_chosen < 0)
+        return times;
+    qint64 last = -momentLength - 1;
+    const pagehost::Lesson lesson =
+        m_showing ? m_player.lesson() : lessonOf(m_workspace->document()->lessons().at(m_chosen));
+    for (const pagehost::LessonEvent &event : lesson.events) {
+        if (event.time - last > momentLength)
+            times.append(event.time);
+        last = event.time;
+    }
+    return times;
+}
+
+qint64 LessonController::position() const
+{
+    if (isRecording())
+        return m_recorder.elapsed();
+    return m_showing ? m_player.position() : 0;
+}
+
+void LessonController::recordOrStop()
+{
+    if (isRecording()) {
+        keep(m_recorder.stop());
+        m_kept = -1;
+    } else {
+        close();
+        m_recorder.start(m_workspace->document());
+    }
+    Q_EMIT stateChanged();
+}
+
+void LessonController::pauseOrResumeRecording()
+{
+    if (m_recorder.isPaused())
+        m_recorder.resume();
+    else
+        m_recorder.pause();
+    Q_EMIT stateChanged();
+}
+
+void LessonController::keepSoFar()
+{
+    if (isRecording())
+        keep(m_recorder.soFar());
+}
+
+void LessonController::keep(pagehost::Lesson lesson)
+{
+    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
+    if (m_kept < 0 || m_kept >= lessons.size()) {
+        m_kept = lessons.size();
+        lessons.append({m_workspace->text("IDS_LESSON_NAME").arg(m_kept + 1), {}});
+    }
+    lesson.title = lessons[m_kept].name;
+    lessons[m_kept].data = lesson.toBytes();
+    m_chosen = m_kept;
+    m_workspace->document()->setLessons(lessons);
+}
+
+bool LessonController::show()
+{
+    if (m_showing)
+        return true;
+    if (isRecording() || m_chosen < 0)
+        return false;
+    const pagehost::LessonData data = m_workspace->document()->lessons().at(m_chosen);
+    pagehost::Lesson lesson;
+    if (!lesson.fromData(data.data)) {
+        m_notices->add({m_workspace->text("IDS_LESSON_UNREADABLE").arg(data.name), {}, {}, noticeId});
+        return false;
+    }
+    m_notices->remove(noticeId);
+    m_showing = true;
+    m_player.setLesson(lesson);
+    Q_EMIT stateChanged();
+    return true;
+}
+
+void LessonController::showDocument()
+{
+    if (!m_showing)
+        return;
+    connect(m_player.document(), &pagehost::Document::currentPageChanged, this,
+            &LessonController::shownPageChanged);
+    Q_EMIT shownPageChanged();
+}
+
+void LessonController::playOrPause()
+{
+    if (!show())
+        return;
+    if (m_player.isPlaying())
+        m_player.pause();
+    else
+        m_player.play();
+}
+
+void LessonController::seek(qint64 time)
+{
+    if (show())
+        m_player.seek(time);
+}
+
+void LessonController::close()
+{
+    if (!m_showing)
+        return;
+    m_player.pause();
+    m_showing = false;
+    Q_EMIT shownPageChanged();
+    Q_EMIT positionChanged();
+    Q_EMIT stateChanged();
+}
+
+void LessonController::removeChosen()
+{
+    if (isRecording() || m_chosen < 0)
+        return;
+    close();
+    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
+    lessons.removeAt(m_chosen);
+    m_workspace->document()->setLessons(lessons);
+}
+
+} // namespace board

@@ -1,0 +1,64 @@
+#include "lessons/lessonmenu.h"
+
+#include "application/workspace.h"
+#include "lessons/lessoncontroller.h"
+#include "look/icons.h"
+#include "window/shortcuts.h"
+
+#include <QtWidgets/QAction>
+
+namespace board {
+
+LessonMenu::LessonMenu(const Workspace *workspace, LessonController *lessons, QObject *parent)
+    : QObject(parent)
+    , m_workspace(workspace)
+    , m_lessons(lessons)
+{
+    const auto make = [&](const QList<QKeySequence> &keys, auto work) {
+        auto *action = new QAction(this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, lessons, work);
+        return action;
+    };
+    record = make({Qt::Key_F9}, &LessonController::recordOrStop);
+    pauseRecording = make({Qt::SHIFT | Qt::Key_F9}, &LessonController::pauseOrResumeRecording);
+    play = make({Qt::Key_F8}, &LessonController::playOrPause);
+    close = make({Qt::SHIFT | Qt::Key_F8}, &LessonController::close);
+    remove = make({}, &LessonController::removeChosen);
+    close->setText(workspace->text("IDS_LESSON_CLOSE"));
+    remove->setText(workspace->text("IDS_LESSON_REMOVE"));
+    remove->setIcon(icon(Icon::Delete));
+    connect(lessons, &LessonController::stateChanged, this, &LessonMenu::update);
+    connect(lessons, &LessonController::lessonsChanged, this, &LessonMenu::update);
+    update();
+}
+
+QList<QAction *> LessonMenu::actions() const
+{
+    return {record, pauseRecording, nullptr, play, close, nullptr, remove};
+}
+
+void LessonMenu::update()
+{
+    const auto name = [this](QAction *action, const char *textKey, Icon picture) {
+        action->setText(m_workspace->text(textKey));
+        action->setIcon(icon(picture));
+    };
+    const bool recording = m_lessons->isRecording();
+    const bool paused = m_lessons->state() == LessonController::RecordingPaused;
+    const bool playing = m_lessons->isPlaying();
+    const bool hasLesson = m_lessons->chosen() >= 0;
+    name(record, recording ? "IDS_LESSON_STOP_RECORDING" : "IDS_LESSON_RECORD",
+         recording ? Icon::Stop : Icon::Record);
+    name(pauseRecording, paused ? "IDS_LESSON_RESUME_RECORDING" : "IDS_LESSON_PAUSE_RECORDING",
+         paused ? Icon::Record : Icon::Pause);
+    name(play, playing ? "IDS_LESSON_PAUSE" : "IDS_LESSON_PLAY", playing ? Icon::Pause : Icon::Play);
+    pauseRecording->setEnabled(recording);
+    play->setEnabled(hasLesson && !recording);
+    close->setEnabled(m_lessons->isShowing());
+    remove->setEnabled(hasLesson && !recording);
+    for (QAction *action : {record, pauseRecording, play, close, remove})
+        describe(action);
+}
+
+} // namespace board

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class QAction;
+
+namespace board {
+
+class LessonController;
+class Workspace;
+
+/// What the user can do about lessons through the menu, the lesson bar and keys.
+class LessonMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive this.
+    LessonMenu(const Workspace *workspace, LessonController *lessons, QObject *parent);
+
+    QAction *record, *pauseRecording, *play, *close, *remove;
+    /// In menu order; null for a separator.
+    QList<QAction *> actions() const;
+
+private:
+    void update();
+
+    const Workspace *m_workspace;
+    LessonController *m_lessons;
+};
+
+} // namespace board

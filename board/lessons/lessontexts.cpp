@@ -1,0 +1,32 @@
+#include "lessons/lessontexts.h"
+
+namespace board {
+
+QVector<TextEntry> lessonTexts()
+{
+    return {
+        {"IDS_LESSON", "Lesson", "Lektion"},
+        {"IDS_LESSON_BAR", "Lesson", "Lektion"},
+        {"IDS_LESSON_NAME", "Lesson %1", "Lektion %1"},
+        {"IDS_LESSON_ENTRY", "%1 (%2)", "%1 (%2)"},
+        {"IDS_LESSON_RECORD", "Record a lesson", "Lektion aufnehmen"},
+        {"IDS_LESSON_STOP_RECORDING", "Stop recording", "Aufnahme beenden"},
+        {"IDS_LESSON_PAUSE_RECORDING", "Pause recording", "Aufnahme anhalten"},
+        {"IDS_LESSON_RESUME_RECORDING", "Go on recording", "Aufnahme fortsetzen"},
+        {"IDS_LESSON_PLAY", "Play the lesson", "Lektion abspielen"},
+        {"IDS_LESSON_PAUSE", "Pause the lesson", "Lektion anhalten"},
+        {"IDS_LESSON_CLOSE", "Back to the board", "Zurück zur Tafel"},
+        {"IDS_LESSON_REMOVE", "Delete the lesson", "Lektion löschen"},
+        {"IDS_LESSON_CHOOSE", "Which lesson is played", "Welche Lektion abgespielt wird"},
+        {"IDS_LESSON_TIMELINE", "Moment of the lesson", "Stelle der Lektion"},
+        {"IDS_LESSON_NONE", "No lesson yet: record one while you draw.",
+         "Noch keine Lektion: eine aufnehmen, während gezeichnet wird."},
+        {"IDS_LESSON_RECORDING", "Recording  %1", "Aufnahme läuft  %1"},
+        {"IDS_LESSON_RECORDING_PAUSED", "Recording paused  %1", "Aufnahme angehalten  %1"},
+        {"IDS_LESSON_TIME", "%1 / %2", "%1 / %2"},
+        {"IDS_LESSON_UNREADABLE", "“%1” cannot be played: its data are damaged or of a newer program.",
+         "„%1“ kann nicht abgespielt werden: die Daten sind beschädigt oder von einem neueren Programm."},
+    };
+}
+
+} // namespace board
