@@ -27,6 +27,8 @@ struct Parser
                               "png"};
     QCommandLineOption scale{"scale", "Pixels per page unit of exported pages, 0.05 to 16 (1 without this option).",
                              "factor", "1"};
+    QCommandLineOption play{"play", "Play the lesson of the file; with --export, write the pages as it leaves them "
+                                    "(several lessons: a folder for each)."};
     QCommandLineOption demo{"demo", "Open with pages that show every shape there is."};
     QCommandLineOption language{"language", "Language of the user interface: en or de.", "code"};
     QCommandLineOption dark{"dark", "Use dark colours."};
@@ -43,7 +45,7 @@ struct Parser
         parser.addPositionalArgument("file", "The board to open.", "[file]");
         screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
         state.setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.addOptions({plugins, exportPages, format, scale, demo, language, dark, screenshot, state});
+        parser.addOptions({plugins, exportPages, format, scale, play, demo, language, dark, screenshot, state});
     }
 };
 
@@ -75,6 +77,8 @@ QString problemOf(const Parser &p)
         return QStringLiteral("--language takes en or de, not \"%1\".").arg(language);
     if (p.parser.isSet(p.exportPages) && p.parser.value(p.exportPages).isEmpty())
         return QStringLiteral("--export takes the folder to write to.");
+    if (p.parser.isSet(p.play) && p.parser.positionalArguments().isEmpty())
+        return QStringLiteral("--play takes the file with the lesson.");
     const QString format = p.parser.value(p.format);
     if (format != QLatin1String("png") && format != QLatin1String("svg"))
         return QStringLiteral("--format takes png or svg, not \"%1\".").arg(format);
@@ -101,6 +105,7 @@ Options optionsOf(const Parser &p)
     options.scale = p.parser.value(p.scale).toDouble();
     options.screenshotFile = p.parser.value(p.screenshot);
     options.screenshotState = p.parser.value(p.state);
+    options.play = p.parser.isSet(p.play);
     options.demo = p.parser.isSet(p.demo);
     options.dark = p.parser.isSet(p.dark);
     options.language = p.parser.value(p.language);

@@ -20,7 +20,8 @@ struct Options
     bool exportsSvg = false; ///< drawings in place of pictures
     double scale = 1;        ///< pixels per scene unit of exported pages
     QString screenshotFile;
-    QString screenshotState; ///< "empty", "shapes", "selection", "drag" or "page"
+    QString screenshotState; ///< "empty", "shapes", "selection", "drag", "recording" or "playing"
+    bool play = false;       ///< the file's lessons
     bool demo = false;
     bool dark = false;
     QString language; ///< empty for that of the system

@@ -5,6 +5,8 @@
 #include "application/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/recovery.h"
+#include "lessons/lessoncontroller.h"
+#include "lessons/lessonexport.h"
 #include "look/theme.h"
 #include "objects/demopages.h"
 #include "output/pageexport.h"
@@ -90,8 +92,10 @@ int exportAll(Workspace &workspace, const Options &options)
     QTextStream out(stdout);
     QTextStream errors(stderr);
     const PageFormat format = options.exportsSvg ? PageFormat::Svg : PageFormat::Png;
+    const ExportFormat look{format, options.scale};
     const ExportResult result =
-        exportPages(workspace.document(), workspace.registry(), options.exportFolder, {format, options.scale});
+        options.play ? exportLessons(workspace, options.exportFolder, look)
+                     : exportPages(workspace.document(), workspace.registry(), options.exportFolder, look);
     for (const QString &file : result.files)
         out << file << '\n';
     for (const QString &problem : result.problems)
@@ -108,6 +112,8 @@ int openWindow(Workspace &workspace, const Options &options)
     if (!options.file.isEmpty())
         window.documents()->openNow(options.file);
     window.recovery()->offer();
+    if (options.play)
+        window.lessons()->playOrPause();
     return QApplication::exec();
 }
 

@@ -43,7 +43,7 @@ void ClipboardMenu::update()
     const bool isAnySelected = m_view->page() && !m_view->page()->selectedObjects().isEmpty();
     for (QAction *action : {cut, copy, copyLook})
         action->setEnabled(isAnySelected);
-    paste->setEnabled(m_clipboard->canPaste());
+    paste->setEnabled(m_clipboard->canPaste() && m_view->isEditable());
     pasteLook->setEnabled(isAnySelected && m_clipboard->hasLook());
 }
 

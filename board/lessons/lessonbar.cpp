@@ -13,6 +13,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
 namespace board {
@@ -32,12 +33,11 @@ QString timeText(qint64 milliseconds)
         .arg(seconds % secondsInMinute, 2, 10, QLatin1Char('0'));
 }
 
-QToolButton *buttonOf(QAction *action, Qt::ToolButtonStyle style = Qt::ToolButtonIconOnly)
+QToolButton *buttonOf(QAction *action)
 {
     auto *button = new QToolButton;
     button->setDefaultAction(action);
     button->setIconSize(buttonIconSize);
-    button->setToolButtonStyle(style);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     return button;
@@ -56,7 +56,7 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     , m_pauseRecording(buttonOf(menu->pauseRecording))
     , m_play(buttonOf(menu->play))
     , m_remove(buttonOf(menu->remove))
-    , m_close(buttonOf(menu->close, Qt::ToolButtonTextOnly))
+    , m_close(new QPushButton(menu->close->text()))
 {
     setObjectName(QStringLiteral("lessonBar"));
     setAccessibleName(workspace->text("IDS_LESSON_BAR"));
@@ -86,6 +86,7 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     connect(lessons, &LessonController::stateChanged, this, &LessonBar::showState);
     connect(lessons, &LessonController::lessonsChanged, this, &LessonBar::showLessons);
     connect(lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
+    connect(m_close, &QPushButton::clicked, menu->close, &QAction::trigger);
     connect(m_timeLine, &TimeLine::momentWanted, lessons, &LessonController::seek);
     connect(m_list, QOverload<int>::of(&QComboBox::activated), lessons, &LessonController::choose);
     showLessons();

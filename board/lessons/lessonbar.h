@@ -5,6 +5,7 @@
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 class QToolButton;
 
 namespace board {
@@ -47,7 +48,7 @@ private:
     QToolButton *m_pauseRecording;
     QToolButton *m_play;
     QToolButton *m_remove;
-    QToolButton *m_close;
+    QPushButton *m_close;
     QTimer m_clock; ///< while recording
 };
 

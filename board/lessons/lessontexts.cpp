@@ -5,7 +5,7 @@ namespace board {
 QVector<TextEntry> lessonTexts()
 {
     return {
-        {"IDS_LESSON", "Lesson", "Lektion"},
+        {"IDS_LESSON_MENU", "&Lesson", "&Lektion"},
         {"IDS_LESSON_BAR", "Lesson", "Lektion"},
         {"IDS_LESSON_NAME", "Lesson %1", "Lektion %1"},
         {"IDS_LESSON_ENTRY", "%1 (%2)", "%1 (%2)"},
@@ -19,6 +19,10 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_REMOVE", "Delete the lesson", "Lektion löschen"},
         {"IDS_LESSON_CHOOSE", "Which lesson is played", "Welche Lektion abgespielt wird"},
         {"IDS_LESSON_TIMELINE", "Moment of the lesson", "Stelle der Lektion"},
+        {"IDS_LESSON_HINT",
+         "A lesson is shown, your board stays as it is · F8 plays and pauses · Shift+F8 goes back",
+         "Eine Lektion wird gezeigt, die Tafel bleibt, wie sie ist · F8 spielt und hält an · Umschalt+F8 kehrt "
+         "zurück"},
         {"IDS_LESSON_NONE", "No lesson yet: record one while you draw.",
          "Noch keine Lektion: eine aufnehmen, während gezeichnet wird."},
         {"IDS_LESSON_RECORDING", "Recording  %1", "Aufnahme läuft  %1"},

@@ -2,6 +2,7 @@
 
 #include "application/workspace.h"
 #include "documents/documentcontroller.h"
+#include "lessons/lessoncontroller.h"
 #include "objects/demopages.h"
 #include "page/pageview.h"
 #include "panels/pagepanel.h"
@@ -16,7 +17,9 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QEventLoop>
 #include <QtCore/QTextStream>
+#include <QtCore/QTimer>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
 
@@ -28,6 +31,9 @@ namespace {
 
 /// Without a desktop Qt takes a font that is larger than any desktop's.
 constexpr double fontPoints = 9.5;
+/// Milliseconds.
+constexpr int lessonStep = 450;
+constexpr int lessonSteps = 5;
 
 void useDesktopFont()
 {
@@ -76,6 +82,26 @@ void selectRichest(pagehost::Page *page)
     })});
 }
 
+void waitFor(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Leaves the recorder running.
+void recordLesson(MainWindow &window, pagehost::Page *page)
+{
+    window.lessons()->recordOrStop();
+    for (int step = 0; step < lessonSteps; ++step) {
+        waitFor(lessonStep);
+        CBaseObject *object = page->objects().at(step % page->objectCount());
+        pagehost::moveObjects({object}, {14, -9});
+        pagehost::rotateObjects({object}, 3);
+    }
+    waitFor(lessonStep);
+}
+
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
@@ -88,6 +114,14 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
         window.raisePanel(window.settings());
     if (state == QLatin1String("properties"))
         window.raisePanel(window.properties());
+    if (state == QLatin1String("recording") && page->objectCount() > 1)
+        recordLesson(window, page);
+    if (state == QLatin1String("playing") && page->objectCount() > 1) {
+        recordLesson(window, page);
+        window.lessons()->recordOrStop();
+        window.lessons()->playOrPause();
+        waitFor(2 * lessonStep + lessonStep / 4);
+    }
     if (state == QLatin1String("drag") && !workspace.registry().kinds().isEmpty())
         startDrawing(window, workspace.registry().kinds().first().id);
 }
@@ -96,8 +130,9 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"),    QStringLiteral("shapes"),     QStringLiteral("selection"),
-            QStringLiteral("settings"), QStringLiteral("properties"), QStringLiteral("drag")};
+    return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
+            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("drag"),
+            QStringLiteral("recording"), QStringLiteral("playing")};
 }
 
 bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)

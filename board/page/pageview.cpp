@@ -173,6 +173,11 @@ void PageView::cancel()
     m_page->select({});
 }
 
+bool PageView::isEditable() const
+{
+    return m_page && (!m_page->document() || m_page->document()->editingBlocked() == 0);
+}
+
 bool PageView::wantsToPan(const QMouseEvent *event) const
 {
     return event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && m_spaceDown);
@@ -196,7 +201,7 @@ void PageView::mousePressEvent(QMouseEvent *event)
         return;
     }
     QGraphicsView::mousePressEvent(event);
-    if (event->isAccepted() || event->button() != Qt::LeftButton || !m_page)
+    if (event->isAccepted() || event->button() != Qt::LeftButton || !isEditable())
         return;
     event->accept();
     m_band.begin(m_page, event->pos(), event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
@@ -298,7 +303,7 @@ void PageView::keyPressEvent(QKeyEvent *event)
 {
     if (!m_page)
         return QGraphicsView::keyPressEvent(event);
-    if (nudge(event))
+    if (isEditable() && nudge(event))
         return event->accept();
     m_nudging.finish();
     if (event->key() == Qt::Key_Escape) {

@@ -36,6 +36,8 @@ public:
     /// Shows `page`; null for nothing.
     void setPage(pagehost::Page *page);
     pagehost::Page *page() const { return m_page; }
+    /// False while the page only plays a lesson.
+    bool isEditable() const;
     /// The tool whose drawing the Esc key cancels; not owned.
     void setCreationTool(pagehost::CreationTool *tool) { m_tool = tool; }
     void setEmptyHint(const EmptyHint &hint);

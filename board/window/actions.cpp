@@ -146,12 +146,19 @@ void Actions::nameHistory()
     };
     name(undo, "IDS_BOARD_UNDO", "IDS_BOARD_UNDO_STEP", undoStack()->undoText());
     name(redo, "IDS_BOARD_REDO", "IDS_BOARD_REDO_STEP", undoStack()->redoText());
-    undo->setEnabled(undoStack()->canUndo());
-    redo->setEnabled(undoStack()->canRedo());
+    enableHistory();
+}
+
+/// Off while the view shows a page that cannot be edited.
+void Actions::enableHistory()
+{
+    undo->setEnabled(undoStack()->canUndo() && m_view->isEditable());
+    redo->setEnabled(undoStack()->canRedo() && m_view->isEditable());
 }
 
 void Actions::update()
 {
+    enableHistory();
     const pagehost::Page *page = m_view->page();
     const int selected = page ? page->selectedObjects().size() : 0;
     for (QAction *action : {deselect, duplicate, remove, mirrorHorizontally, mirrorVertically, rotateLeft,

@@ -45,6 +45,7 @@ private:
     void makePageActions();
     void makeProgramActions();
     void nameHistory();
+    void enableHistory();
     bool isDragging() const;
     void step(void (QUndoStack::*way)());
     void duplicateSelection();

@@ -8,6 +8,9 @@
 #include "documents/documentmenu.h"
 #include "documents/droppeddocument.h"
 #include "documents/recovery.h"
+#include "lessons/lessonbar.h"
+#include "lessons/lessoncontroller.h"
+#include "lessons/lessonmenu.h"
 #include "look/theme.h"
 #include "output/pageexport.h"
 #include "page/pageview.h"
@@ -75,6 +78,10 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_recovery(new Recovery(workspace, m_documents, m_notices, this))
     , m_clipboard(new ClipboardController(workspace, m_view, m_notices, this))
     , m_clipboardMenu(new ClipboardMenu(workspace, m_clipboard, m_view, this))
+    , m_lessons(new LessonController(workspace, m_notices, this))
+    , m_lessonMenu(new LessonMenu(workspace, m_lessons, this))
+    , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
+    , m_lock(this, m_view)
     , m_tool(&workspace->registry())
 {
     m_view->setCreationTool(&m_tool);
@@ -86,6 +93,7 @@ MainWindow::MainWindow(Workspace *workspace)
     column->setSpacing(0);
     column->addWidget(m_notices);
     column->addWidget(m_view, 1);
+    column->addWidget(m_lessonBar);
     setCentralWidget(centre);
     addMenus();
     addTools();
@@ -93,6 +101,7 @@ MainWindow::MainWindow(Workspace *workspace)
     addStatus();
     connectParts();
     connectTools();
+    connectLessons();
     connectDocument();
     showPluginProblems();
     showTitle();
@@ -120,6 +129,7 @@ void MainWindow::settle()
     m_settings->settle();
     m_properties->settle();
     m_view->settle();
+    m_lessons->keepSoFar();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -196,17 +206,19 @@ void MainWindow::addMenus()
         QMenu *menu = menuBar()->addMenu(m_workspace->text(titleKey));
         for (QAction *entry : entries)
             entry ? menu->addAction(entry) : (void)menu->addSeparator();
+        return menu;
     };
     const Actions &a = *m_actions;
     const ClipboardMenu &c = *m_clipboardMenu;
-    add("IDS_BOARD_FILE",
-        m_documentMenu->actions() + QList<QAction *>{nullptr, a.exportPages, a.exportSvg, nullptr, a.quit});
+    m_lock.spare(add("IDS_BOARD_FILE", m_documentMenu->actions() +
+                                           QList<QAction *>{nullptr, a.exportPages, a.exportSvg, nullptr, a.quit}));
     add("IDS_BOARD_EDIT", {a.undo, a.redo, nullptr, c.cut, c.copy, c.paste, a.duplicate, a.remove, nullptr,
                            c.copyLook, c.pasteLook, nullptr, a.selectAll, a.deselect});
     add("IDS_BOARD_ARRANGE", {a.toFront, a.forward, a.backward, a.toBack, nullptr, a.mirrorHorizontally,
                               a.mirrorVertically, a.rotateLeft, a.rotateRight});
     add("IDS_BOARD_PAGE", {a.addPage, a.removePage, nullptr, a.previousPage, a.nextPage});
-    add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.darkColors});
+    m_lock.spare(add("IDS_LESSON_MENU", m_lessonMenu->actions()));
+    m_lock.spare(add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.darkColors}));
 }
 
 void MainWindow::addTools()
@@ -244,6 +256,14 @@ void MainWindow::addStatus()
     statusBar()->addPermanentWidget(m_pointer);
     statusBar()->addPermanentWidget(m_size);
     statusBar()->addPermanentWidget(new ZoomControl(m_workspace, m_actions, m_view, this));
+}
+
+void MainWindow::connectLessons()
+{
+    connect(m_lessons, &LessonController::shownPageChanged, this, [this] {
+        m_lock.setLocked(m_lessons->isShowing());
+        showCurrentPage();
+    });
 }
 
 void MainWindow::connectDocument()
@@ -298,7 +318,7 @@ void MainWindow::showCurrentPage()
     m_tool.cancel();
     if (m_view->page())
         disconnect(m_view->page(), nullptr, this, nullptr);
-    pagehost::Page *page = m_workspace->document()->currentPage();
+    pagehost::Page *page = m_lessons->shownDocument()->currentPage();
     m_view->setPage(page);
     m_style->setPage(page);
     m_settings->setPage(page);
@@ -351,7 +371,9 @@ void MainWindow::describeView()
 void MainWindow::showHint()
 {
     const char *key = "IDS_BOARD_HINT_IDLE";
-    if (m_tool.isActive())
+    if (m_lessons->isShowing())
+        key = "IDS_LESSON_HINT";
+    else if (m_tool.isActive())
         key = "IDS_BOARD_HINT_DRAW";
     else if (m_view->page() && !m_view->page()->selectedObjects().isEmpty())
         key = "IDS_BOARD_HINT_SELECTED";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lessons/editinglock.h"
 #include "output/pageexport.h"
 
 #include <pagehost/creation.h>
@@ -16,6 +17,9 @@ class ClipboardController;
 class ClipboardMenu;
 class DocumentController;
 class DocumentMenu;
+class LessonBar;
+class LessonController;
+class LessonMenu;
 class Notices;
 class PagePanel;
 class PageView;
@@ -47,6 +51,8 @@ public:
     PropertyPanel *properties() const { return m_properties; }
     /// Brings the panel to the front of those that share its place.
     void raisePanel(const QWidget *panel);
+    LessonController *lessons() const { return m_lessons; }
+    LessonBar *lessonBar() const { return m_lessonBar; }
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -65,6 +71,7 @@ private:
     void addStatus();
     void connectParts();
     void connectTools();
+    void connectLessons();
     void connectDocument();
     void showTitle();
     void takeDrop(const QMimeData &data, const QPointF &scenePos);
@@ -85,6 +92,10 @@ private:
     Recovery *m_recovery;
     ClipboardController *m_clipboard;
     ClipboardMenu *m_clipboardMenu;
+    LessonController *m_lessons;
+    LessonMenu *m_lessonMenu;
+    LessonBar *m_lessonBar;
+    EditingLock m_lock;
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     StylePanel *m_style = nullptr;

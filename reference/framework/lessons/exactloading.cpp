@@ -7,6 +7,9 @@
 #include <host/payload.h>
 #include <lessons/objectdata.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace pagehost {
 
 namespace {
@@ -26,19 +29,30 @@ void displaceControlPoints(CBaseObject &object, double to)
     }
 }
 
+/// What the host itself keeps of the object, its fill among it, past the object's own load().
+bool bringBackHostState(CBaseObject &object, const QByteArray &state)
+{
+    QDataStream in(state);
+    object.CPSRootObject::LoadPropertyForPlayback(in);
+    object.OnQPainterDraw(nullptr);
+    return savedData(object) == state;
+}
+
+bool loadAgain(CBaseObject &object, const QByteArray &state, double displacement)
+{
+    displaceControlPoints(object, displacement);
+    QDataStream in(state);
+    object.load(in);
+    return savedData(object) == state || bringBackHostState(object, state);
+}
+
 } // namespace
 
 bool loadExactly(CBaseObject &object, const QByteArray &state)
 {
-    for (const double place : farAway) {
-        if (savedData(object) == state) {
-            return true;
-        }
-        displaceControlPoints(object, place);
-        QDataStream in(state);
-        object.load(in);
-    }
-    return savedData(object) == state;
+    return savedData(object) == state || bringBackHostState(object, state) ||
+           std::any_of(std::begin(farAway), std::end(farAway),
+                       [&](double place) { return loadAgain(object, state, place); });
 }
 
 } // namespace pagehost

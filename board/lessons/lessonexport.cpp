@@ -1,0 +1,46 @@
+#include "lessons/lessonexport.h"
+
+#include "application/workspace.h"
+
+#include <pagehost/lessonplayer.h>
+
+#include <QtCore/QDir>
+
+namespace board {
+
+namespace {
+
+ExportResult exportLesson(const Workspace &workspace, const pagehost::LessonData &data, const QString &folder,
+                          const ExportFormat &format)
+{
+    ExportResult result;
+    pagehost::Lesson lesson;
+    if (!lesson.fromData(data.data)) {
+        result.problems.append(QStringLiteral("The lesson \"%1\" cannot be read.").arg(data.name));
+        return result;
+    }
+    pagehost::LessonPlayer player(&workspace.registry());
+    player.setLesson(lesson);
+    player.playToEnd();
+    return exportPages(player.document(), workspace.registry(), folder, format);
+}
+
+} // namespace
+
+ExportResult exportLessons(const Workspace &workspace, const QString &folder, const ExportFormat &format)
+{
+    const QVector<pagehost::LessonData> lessons = workspace.document()->lessons();
+    ExportResult all;
+    if (lessons.isEmpty())
+        all.problems.append(QStringLiteral("There is no lesson in the file."));
+    for (int i = 0; i < lessons.size(); ++i) {
+        const QString name = QStringLiteral("lesson-%1").arg(i + 1);
+        const QString target = lessons.size() > 1 ? QDir(folder).filePath(name) : folder;
+        const ExportResult one = exportLesson(workspace, lessons[i], target, format);
+        all.files += one.files;
+        all.problems += one.problems;
+    }
+    return all;
+}
+
+} // namespace board

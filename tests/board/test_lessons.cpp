@@ -1,0 +1,349 @@
+#include "boarddriver.h"
+
+#include <application/commandline.h>
+#include <lessons/lessonbar.h>
+#include <lessons/lessoncontroller.h>
+#include <lessons/timeline.h>
+#include <objects/demopages.h>
+#include <page/pageview.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/documentfile.h>
+#include <pagehost/page.h>
+#include <pagehost/pagepainter.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QUndoStack>
+
+using namespace boardtest;
+using board::LessonController;
+
+class TestLessons : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recordedLessonPlaysToWhatWasDrawn();
+    void playedPageLooksLikeAnOpenedOne();
+    void keysRecordAndPlay();
+    void barShowsWhatCanBeDone();
+    void pausedRecordingGoesOn();
+    void timeLineGoesToAnyMoment();
+    void timeLineIsMovedByKeys();
+    void severalLessonsAreChosenFromAList();
+    void deletedLessonIsGone();
+    void lessonMarksTheDocumentModified();
+    void savingWhileRecordingKeepsWhatIsRecorded();
+    void nothingCanBeEditedWhileALessonIsShown();
+    void boardIsBackAfterTheLesson();
+    void anotherDocumentEndsEverything();
+    void damagedLessonIsToldOf();
+    void barSpeaksGerman();
+    void playNeedsAFile();
+};
+
+namespace {
+
+LessonController &lessons(const BoardDriver &driver)
+{
+    return *driver.window().lessons();
+}
+
+/// Draws a rectangle and drags it to the right.
+void teach(BoardDriver &driver)
+{
+    driver.draw(rectangle, {300, 200}, {420, 280});
+    driver.drag({360, 240}, {560, 260});
+}
+
+void record(BoardDriver &driver)
+{
+    lessons(driver).recordOrStop();
+    teach(driver);
+    lessons(driver).recordOrStop();
+}
+
+QByteArray pagesOf(pagehost::Document &document)
+{
+    const QVector<pagehost::LessonData> kept = document.lessons();
+    document.setLessons({});
+    const QByteArray bytes = pagehost::encodeDocument(document, pagehost::DocumentFormat::Binary);
+    document.setLessons(kept);
+    return bytes;
+}
+
+} // namespace
+
+void TestLessons::recordedLessonPlaysToWhatWasDrawn()
+{
+    BoardDriver driver;
+    record(driver);
+    QCOMPARE(driver.workspace().document()->lessons().size(), 1);
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    lessons(driver).seek(0);
+    QCOMPARE(lessons(driver).state(), LessonController::Showing);
+    QVERIFY(driver.view().page() != driver.workspace().document()->currentPage());
+    QCOMPARE(driver.view().page()->objectCount(), 0);
+    lessons(driver).seek(lessons(driver).duration());
+    QCOMPARE(driver.view().page()->objectCount(), 1);
+    QCOMPARE(pagesOf(*lessons(driver).shownDocument()), pagesOf(*driver.workspace().document()));
+}
+
+void TestLessons::playedPageLooksLikeAnOpenedOne()
+{
+    BoardDriver driver;
+    board::fillWithDemo(driver.workspace());
+    QCoreApplication::processEvents();
+    lessons(driver).recordOrStop();
+    lessons(driver).recordOrStop();
+    lessons(driver).seek(0);
+    pagehost::Document *shown = lessons(driver).shownDocument();
+    pagehost::Document *own = driver.workspace().document();
+    const pagehost::OpenResult opened = pagehost::decodeDocument(
+        pagehost::encodeDocument(*own, pagehost::DocumentFormat::Binary), driver.workspace().registry());
+    QCOMPARE(shown->pageCount(), own->pageCount());
+    for (int i = 0; i < own->pageCount(); ++i)
+        QCOMPARE(pagehost::pageImage(shown->page(i), 1), pagehost::pageImage(opened.document->page(i), 1));
+}
+
+void TestLessons::keysRecordAndPlay()
+{
+    BoardDriver driver;
+    driver.key(Qt::Key_F9);
+    QCOMPARE(lessons(driver).state(), LessonController::Recording);
+    teach(driver);
+    driver.key(Qt::Key_F9, Qt::ShiftModifier);
+    QCOMPARE(lessons(driver).state(), LessonController::RecordingPaused);
+    driver.key(Qt::Key_F9);
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    driver.key(Qt::Key_F8);
+    QCOMPARE(lessons(driver).state(), LessonController::Showing);
+    driver.key(Qt::Key_F8, Qt::ShiftModifier);
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+}
+
+void TestLessons::barShowsWhatCanBeDone()
+{
+    BoardDriver driver;
+    board::LessonBar *bar = driver.window().lessonBar();
+    QVERIFY(bar->message()->isVisible());
+    QVERIFY(!bar->timeLine()->isVisible());
+    QVERIFY(!driver.action(QStringLiteral("Play the lesson"))->isEnabled());
+    lessons(driver).recordOrStop();
+    QVERIFY(driver.action(QStringLiteral("Stop recording")));
+    QVERIFY(bar->message()->text().startsWith(QStringLiteral("Recording")));
+    teach(driver);
+    lessons(driver).recordOrStop();
+    QVERIFY(!bar->message()->isVisible());
+    QVERIFY(bar->timeLine()->isVisible());
+    QVERIFY(driver.action(QStringLiteral("Play the lesson"))->isEnabled());
+    QVERIFY(!driver.button(QStringLiteral("Back to the board")));
+    lessons(driver).seek(0);
+    QVERIFY(driver.button(QStringLiteral("Back to the board")));
+}
+
+void TestLessons::pausedRecordingGoesOn()
+{
+    BoardDriver driver;
+    lessons(driver).recordOrStop();
+    QTRY_VERIFY(lessons(driver).position() > 20);
+    lessons(driver).pauseOrResumeRecording();
+    const qint64 time = lessons(driver).position();
+    QTest::qWait(60);
+    QCOMPARE(lessons(driver).position(), time);
+    teach(driver);
+    lessons(driver).pauseOrResumeRecording();
+    QTRY_VERIFY(lessons(driver).position() > time);
+    lessons(driver).recordOrStop();
+    lessons(driver).seek(lessons(driver).duration());
+    QCOMPARE(pagesOf(*lessons(driver).shownDocument()), pagesOf(*driver.workspace().document()));
+}
+
+void TestLessons::timeLineGoesToAnyMoment()
+{
+    BoardDriver driver;
+    record(driver);
+    board::TimeLine *line = driver.window().lessonBar()->timeLine();
+    QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(line->width() - 1, line->height() / 2));
+    QCOMPARE(lessons(driver).state(), LessonController::Showing);
+    QCOMPARE(lessons(driver).position(), lessons(driver).duration());
+    QCOMPARE(driver.view().page()->objectCount(), 1);
+    QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(0, line->height() / 2));
+    QCOMPARE(lessons(driver).position(), qint64(0));
+    QCOMPARE(driver.view().page()->objectCount(), 0);
+}
+
+void TestLessons::timeLineIsMovedByKeys()
+{
+    BoardDriver driver;
+    pagehost::Lesson lesson;
+    lesson.duration = 20000;
+    driver.workspace().document()->setLessons({{QStringLiteral("Silence"), lesson.toBytes()}});
+    board::TimeLine *line = driver.window().lessonBar()->timeLine();
+    QTest::keyClick(line, Qt::Key_Right);
+    QCOMPARE(lessons(driver).position(), qint64(1000));
+    QTest::keyClick(line, Qt::Key_PageUp);
+    QCOMPARE(lessons(driver).position(), qint64(6000));
+    QTest::keyClick(line, Qt::Key_End);
+    QCOMPARE(lessons(driver).position(), qint64(20000));
+    QTest::keyClick(line, Qt::Key_Home);
+    QCOMPARE(lessons(driver).position(), qint64(0));
+    QCOMPARE(driver.window().lessonBar()->time()->text(), QStringLiteral("0:00 / 0:20"));
+}
+
+void TestLessons::severalLessonsAreChosenFromAList()
+{
+    BoardDriver driver;
+    record(driver);
+    lessons(driver).recordOrStop();
+    driver.draw(arrow, {600, 400}, {760, 500});
+    lessons(driver).recordOrStop();
+    QComboBox *list = driver.window().lessonBar()->list();
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->currentIndex(), 1);
+    QVERIFY(list->itemText(0).startsWith(QStringLiteral("Lesson 1 (0:0")));
+    lessons(driver).seek(0);
+    QCOMPARE(driver.view().page()->objectCount(), 1);
+    QTest::keyClick(list, Qt::Key_Up);
+    QCOMPARE(lessons(driver).chosen(), 0);
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    lessons(driver).seek(0);
+    QCOMPARE(driver.view().page()->objectCount(), 0);
+}
+
+void TestLessons::deletedLessonIsGone()
+{
+    BoardDriver driver;
+    record(driver);
+    record(driver);
+    lessons(driver).choose(0);
+    const QByteArray second = driver.workspace().document()->lessons().at(1).data;
+    driver.action(QStringLiteral("Delete the lesson"))->trigger();
+    QCOMPARE(driver.workspace().document()->lessons().size(), 1);
+    QCOMPARE(driver.workspace().document()->lessons().first().data, second);
+    QCOMPARE(lessons(driver).chosen(), 0);
+    driver.action(QStringLiteral("Delete the lesson"))->trigger();
+    QCOMPARE(lessons(driver).chosen(), -1);
+    QVERIFY(driver.window().lessonBar()->message()->isVisible());
+}
+
+void TestLessons::lessonMarksTheDocumentModified()
+{
+    BoardDriver driver;
+    driver.workspace().document()->markSaved();
+    lessons(driver).recordOrStop();
+    QVERIFY(!driver.workspace().document()->isModified());
+    lessons(driver).recordOrStop();
+    QVERIFY(driver.workspace().document()->isModified());
+}
+
+void TestLessons::savingWhileRecordingKeepsWhatIsRecorded()
+{
+    BoardDriver driver;
+    lessons(driver).recordOrStop();
+    teach(driver);
+    lessons(driver).keepSoFar();
+    QCOMPARE(driver.workspace().document()->lessons().size(), 1);
+    const pagehost::LessonData early = driver.workspace().document()->lessons().first();
+    driver.draw(arrow, {600, 400}, {760, 500});
+    lessons(driver).keepSoFar();
+    lessons(driver).recordOrStop();
+    QCOMPARE(driver.workspace().document()->lessons().size(), 1);
+    QVERIFY(driver.workspace().document()->lessons().first().data.size() > early.data.size());
+    pagehost::Lesson lesson;
+    QVERIFY(lesson.fromData(early.data));
+    QVERIFY(!lesson.events.isEmpty());
+}
+
+void TestLessons::nothingCanBeEditedWhileALessonIsShown()
+{
+    BoardDriver driver;
+    record(driver);
+    const QByteArray own = pagesOf(*driver.workspace().document());
+    const int steps = driver.history().index();
+    lessons(driver).seek(lessons(driver).duration());
+    const QByteArray shown = pagesOf(*lessons(driver).shownDocument());
+    driver.drag({560, 260}, {700, 400});
+    driver.drag({100, 100}, {900, 600});
+    driver.key(Qt::Key_A, Qt::ControlModifier);
+    driver.key(Qt::Key_Right);
+    driver.key(Qt::Key_Delete);
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    driver.key(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(pagesOf(*lessons(driver).shownDocument()), shown);
+    QCOMPARE(pagesOf(*driver.workspace().document()), own);
+    QCOMPARE(driver.history().index(), steps);
+    QVERIFY(lessons(driver).isShowing());
+}
+
+void TestLessons::boardIsBackAfterTheLesson()
+{
+    BoardDriver driver;
+    record(driver);
+    lessons(driver).seek(0);
+    driver.button(QStringLiteral("Back to the board"))->click();
+    QCOMPARE(driver.view().page(), driver.workspace().document()->currentPage());
+    driver.drag({560, 260}, {600, 300});
+    QCOMPARE(driver.placeOf(driver.only()).topLeft(), QPointF(540, 260));
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(driver.placeOf(driver.only()).topLeft(), QPointF(500, 220));
+}
+
+void TestLessons::anotherDocumentEndsEverything()
+{
+    BoardDriver driver;
+    record(driver);
+    lessons(driver).seek(0);
+    driver.workspace().replaceDocument(std::make_unique<pagehost::Document>());
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    QCOMPARE(lessons(driver).chosen(), -1);
+    QCOMPARE(driver.view().page(), driver.workspace().document()->currentPage());
+    lessons(driver).recordOrStop();
+    driver.workspace().replaceDocument(std::make_unique<pagehost::Document>());
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    QVERIFY(driver.workspace().document()->lessons().isEmpty());
+}
+
+void TestLessons::damagedLessonIsToldOf()
+{
+    BoardDriver driver;
+    driver.workspace().document()->setLessons({{QStringLiteral("Broken"), "no lesson"}});
+    lessons(driver).playOrPause();
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    const QList<QLabel *> labels = driver.window().findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+        return label->text().contains(QStringLiteral("“Broken” cannot be played"));
+    }));
+}
+
+void TestLessons::barSpeaksGerman()
+{
+    BoardDriver driver(QStringLiteral("de"));
+    QVERIFY(driver.action(QStringLiteral("Lektion aufnehmen")));
+    lessons(driver).recordOrStop();
+    QVERIFY(driver.window().lessonBar()->message()->text().startsWith(QStringLiteral("Aufnahme läuft")));
+    lessons(driver).recordOrStop();
+    QCOMPARE(lessons(driver).names(), QStringList{QStringLiteral("Lektion 1")});
+}
+
+void TestLessons::playNeedsAFile()
+{
+    const auto parsed = [](const QStringList &arguments) {
+        return board::parseCommandLine(QStringList{QStringLiteral("board")} + arguments);
+    };
+    QCOMPARE(parsed({"--play"}).action, board::Options::ShowText);
+    QVERIFY(parsed({"--play"}).failed);
+    const board::Options options = parsed({"--play", "a.board", "--export", "pictures"});
+    QCOMPARE(options.action, board::Options::ExportPages);
+    QVERIFY(options.play);
+    QCOMPARE(options.file, QStringLiteral("a.board"));
+}
+
+QTEST_MAIN(TestLessons)
+#include "test_lessons.moc"
