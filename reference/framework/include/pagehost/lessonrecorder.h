@@ -40,7 +40,8 @@ public:
     /// Stops the time. Changes go on being noted, as if all of them happened at the moment of resume().
     void pause();
     void resume();
-    /// The lesson as it would be if it were stopped now; one without start and events when nothing is being recorded.
+    /// The lesson as it would be if it were stopped now; one without start and events when nothing is being
+    /// recorded.
     Lesson soFar();
     /// Gives the lesson; one without start and events when nothing was being recorded. Time ends here.
     Lesson stop();
