@@ -226,6 +226,7 @@ void fillWithDemo(Workspace &workspace)
         page->select({});
     document->setCurrentIndex(0);
     CUndoRedo::GetInstance()->stack()->clear();
+    document->markSaved();
 }
 
 } // namespace board

@@ -178,6 +178,7 @@ bool Actions::isDragging() const
 
 void Actions::step(void (QUndoStack::*way)())
 {
+    Q_EMIT aboutToStep();
     // A drag that is still running has no step yet: taking it back is what the user means.
     if (!m_view->page()->scene()->cancelDrag())
         (undoStack()->*way)();

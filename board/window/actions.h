@@ -35,6 +35,10 @@ public:
     QAction *addPage, *removePage, *previousPage, *nextPage;
     QAction *exportPages, *exportSvg, *darkColors, *quit, *about;
 
+Q_SIGNALS:
+    /// Undo or redo comes next: what is only shown must go first.
+    void aboutToStep();
+
 private:
     using Work = std::function<void()>;
     QAction *add(const char *textKey, const QList<QKeySequence> &keys, const Work &work);

@@ -296,6 +296,8 @@ void MainWindow::connectParts()
 {
     connect(m_workspace, &Workspace::documentReplaced, this, &MainWindow::connectDocument);
     m_documents->setSettle([this] { settle(); });
+    connect(m_actions, &Actions::aboutToStep, m_settings, &SelectionPanel::settle);
+    connect(m_actions, &Actions::aboutToStep, m_properties, &SelectionPanel::settle);
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
     connect(m_documents, &DocumentController::saved, this, [this](const QString &file) {
         statusBar()->showMessage(m_workspace->text("IDS_BOARD_SAVED").arg(file), messageTime);

@@ -5,6 +5,7 @@
 #include <documents/documentcontroller.h>
 #include <documents/documentmenu.h>
 #include <documents/recovery.h>
+#include <objects/demopages.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 #include <window/notices.h>
@@ -85,6 +86,7 @@ class TestDocuments : public QObject
 private Q_SLOTS:
     void aNewBoardHasNoNameAndNoChanges();
     void changesAreMarkedInTheTitleUntilUndone();
+    void demoPagesAreNoWorkToBeSaved();
     void savingAsksForANameOnce();
     void bothFormatsAreWritten_data();
     void bothFormatsAreWritten();
@@ -125,6 +127,14 @@ void TestDocuments::changesAreMarkedInTheTitleUntilUndone()
     desk.drawOne();
     QVERIFY(desk.board.window().isWindowModified());
     desk.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!desk.board.window().isWindowModified());
+}
+
+void TestDocuments::demoPagesAreNoWorkToBeSaved()
+{
+    Desk desk;
+    board::fillWithDemo(desk.board.workspace());
+    QVERIFY(desk.objectCount() > 10);
     QVERIFY(!desk.board.window().isWindowModified());
 }
 

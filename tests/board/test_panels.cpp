@@ -135,6 +135,7 @@ private Q_SLOTS:
     void onlyWhatAllHaveIsShown();
     void nothingSelectedGivesAdvice();
     void selectingElsewhereTakesALookBack();
+    void undoWhileASliderMovesTakesTheLookBackFirst();
     void everyPropertyHasItsWidget();
     void propertiesAreSetByTheirEditors();
     void propertyThatCantBeChangedIsDisabled();
@@ -346,6 +347,24 @@ void TestPanels::selectingElsewhereTakesALookBack()
     t.board.page().select({});
     QCOMPARE(t.first().settings["size"], QString("40"));
     QCOMPARE(t.history().count(), 0);
+}
+
+void TestPanels::undoWhileASliderMovesTakesTheLookBackFirst()
+{
+    PanelDesk t(PanelDesk::Settings);
+    auto *slider = t.widget<QSlider>("Size");
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Right);
+    QCOMPARE(t.first().settings["size"], QString("41"));
+    t.settle();
+    Knob knob(slider);
+    knob.press();
+    knob.moveTo(60);
+    t.undo();
+    QCOMPARE(t.first().settings["size"], QString("40"));
+    QVERIFY(t.history().canRedo());
+    t.redo();
+    QCOMPARE(t.first().settings["size"], QString("41"));
 }
 
 void TestPanels::everyPropertyHasItsWidget()
