@@ -18,7 +18,7 @@ namespace {
 const QString copySuffix = QStringLiteral(".board");
 const QString noteSuffix = QStringLiteral(".json");
 const QString lockSuffix = QStringLiteral(".lock");
-constexpr QLatin1String originalKey("original");
+const QString originalKey = QStringLiteral("original");
 
 QString besides(const QString &copy, const QString &suffix)
 {

@@ -49,15 +49,15 @@ bool isPatternNumber(int style)
     return style >= Qt::NoBrush && style <= Qt::DiagCrossPattern;
 }
 
-constexpr QLatin1String followsPageKey("followsPage");
-constexpr QLatin1String typeKey("type");
-constexpr QLatin1String enabledKey("enabled");
-constexpr QLatin1String colorKey("color");
-constexpr QLatin1String opacityKey("opacity");
-constexpr QLatin1String gradientColorKey("gradientColor");
-constexpr QLatin1String gradientAngleKey("gradientAngle");
-constexpr QLatin1String patternKey("pattern");
-constexpr QLatin1String pictureKey("picture");
+const QLatin1String followsPageKey("followsPage");
+const QLatin1String typeKey("type");
+const QLatin1String enabledKey("enabled");
+const QLatin1String colorKey("color");
+const QLatin1String opacityKey("opacity");
+const QLatin1String gradientColorKey("gradientColor");
+const QLatin1String gradientAngleKey("gradientAngle");
+const QLatin1String patternKey("pattern");
+const QLatin1String pictureKey("picture");
 
 } // namespace
 

@@ -238,8 +238,8 @@ bool CPSRootObject::SetSpecialProperty(int, QDataStream &, bool)
 
 namespace {
 
-constexpr QLatin1String nameAttribute("name");
-constexpr QLatin1String lockedAttribute("locked");
+const QLatin1String nameAttribute("name");
+const QLatin1String lockedAttribute("locked");
 
 struct PlaceAttribute
 {
@@ -247,7 +247,7 @@ struct PlaceAttribute
     int id;
 };
 
-constexpr PlaceAttribute placeAttributes[] = {{QLatin1String("x"), HostAttribute::PositionX},
+const PlaceAttribute placeAttributes[] = {{QLatin1String("x"), HostAttribute::PositionX},
                                               {QLatin1String("y"), HostAttribute::PositionY},
                                               {QLatin1String("width"), HostAttribute::Width},
                                               {QLatin1String("height"), HostAttribute::Height},

@@ -113,20 +113,20 @@ QJsonArray numbers(std::initializer_list<double> values)
     return array;
 }
 
-constexpr QLatin1String nameKey("name");
-constexpr QLatin1String subTypeKey("subType");
-constexpr QLatin1String posKey("pos");
-constexpr QLatin1String rotationKey("rotation");
-constexpr QLatin1String mirroredKey("mirrored");
-constexpr QLatin1String flippedKey("flipped");
-constexpr QLatin1String stackingKey("stacking");
-constexpr QLatin1String clientRectKey("clientRect");
-constexpr QLatin1String penColorKey("penColor");
-constexpr QLatin1String penWidthKey("penWidth");
-constexpr QLatin1String penStyleKey("penStyle");
-constexpr QLatin1String visibleKey("visible");
-constexpr QLatin1String lockedKey("locked");
-constexpr QLatin1String fillKey("fill");
+const QLatin1String nameKey("name");
+const QLatin1String subTypeKey("subType");
+const QLatin1String posKey("pos");
+const QLatin1String rotationKey("rotation");
+const QLatin1String mirroredKey("mirrored");
+const QLatin1String flippedKey("flipped");
+const QLatin1String stackingKey("stacking");
+const QLatin1String clientRectKey("clientRect");
+const QLatin1String penColorKey("penColor");
+const QLatin1String penWidthKey("penWidth");
+const QLatin1String penStyleKey("penStyle");
+const QLatin1String visibleKey("visible");
+const QLatin1String lockedKey("locked");
+const QLatin1String fillKey("fill");
 
 void write(QJsonObject &object, const HostState &state)
 {

@@ -84,7 +84,7 @@ template<typename Archive> void visit(Archive &archive, ZoomChanged &step)
 }
 
 /// The name of each kind in JSON, in the order of LessonStep.
-constexpr std::array<QLatin1String, std::variant_size_v<LessonStep>> kindNames{
+const std::array<QLatin1String, std::variant_size_v<LessonStep>> kindNames{
     {QLatin1String("acted"), QLatin1String("appeared"), QLatin1String("vanished"), QLatin1String("settled"),
      QLatin1String("restacked"), QLatin1String("pageAppeared"), QLatin1String("pageVanished"),
      QLatin1String("pageMoved"), QLatin1String("pageResized"), QLatin1String("backgroundChanged"),

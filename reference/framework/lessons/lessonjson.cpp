@@ -14,13 +14,13 @@ namespace pagehost {
 namespace {
 
 constexpr int currentVersion = 1;
-constexpr QLatin1String versionKey("version");
-constexpr QLatin1String titleKey("title");
-constexpr QLatin1String durationKey("duration");
-constexpr QLatin1String startKey("start");
-constexpr QLatin1String eventsKey("events");
-constexpr QLatin1String kindKey("kind");
-constexpr QLatin1String timeKey("time");
+const QLatin1String versionKey("version");
+const QLatin1String titleKey("title");
+const QLatin1String durationKey("duration");
+const QLatin1String startKey("start");
+const QLatin1String eventsKey("events");
+const QLatin1String kindKey("kind");
+const QLatin1String timeKey("time");
 /// Beyond it a JSON number no longer holds every whole number.
 constexpr double largestWholeNumber = 9007199254740991.0;
 

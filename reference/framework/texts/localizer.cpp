@@ -12,7 +12,7 @@ const QString &english()
     return code;
 }
 
-constexpr QLatin1String keyPrefix("IDS_");
+const QLatin1String keyPrefix("IDS_");
 
 /// The key without its prefix, as words.
 QString wordsOf(const QString &key)
