@@ -248,10 +248,10 @@ struct PlaceAttribute
 };
 
 const PlaceAttribute placeAttributes[] = {{QLatin1String("x"), HostAttribute::PositionX},
-                                              {QLatin1String("y"), HostAttribute::PositionY},
-                                              {QLatin1String("width"), HostAttribute::Width},
-                                              {QLatin1String("height"), HostAttribute::Height},
-                                              {QLatin1String("rotation"), HostAttribute::Rotation}};
+                                          {QLatin1String("y"), HostAttribute::PositionY},
+                                          {QLatin1String("width"), HostAttribute::Width},
+                                          {QLatin1String("height"), HostAttribute::Height},
+                                          {QLatin1String("rotation"), HostAttribute::Rotation}};
 
 double placeValue(CBaseObject &item, int id)
 {
