@@ -22,7 +22,7 @@
 #include "panels/stylepanel.h"
 #include "window/actions.h"
 #include "window/notices.h"
-#include "window/zoomcontrol.h"
+#include "window/statusline.h"
 
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
@@ -33,7 +33,6 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
@@ -50,8 +49,6 @@ constexpr QSize firstSize(1400, 900);
 constexpr QSize toolIconSize(22, 22);
 constexpr int leftPanelWidth = 220;
 constexpr int rightPanelWidth = 300;
-constexpr int pointerTextWidth = 110;
-constexpr int sizeTextWidth = 120;
 /// Milliseconds that a message stands in the status bar.
 constexpr int messageTime = 5000;
 /// Half of what a new shape measures, about.
@@ -98,7 +95,7 @@ MainWindow::MainWindow(Workspace *workspace)
     addMenus();
     addTools();
     addPanels();
-    addStatus();
+    m_status = new StatusLine(m_workspace, m_actions, m_view, statusBar());
     connectParts();
     connectTools();
     connectLessons();
@@ -242,22 +239,6 @@ void MainWindow::addTools()
     }
 }
 
-void MainWindow::addStatus()
-{
-    m_hint = new QLabel(this);
-    m_hint->setForegroundRole(QPalette::PlaceholderText);
-    m_hint->setContentsMargins(mediumGap, 0, 0, 0);
-    m_pointer = new QLabel(this);
-    m_pointer->setMinimumWidth(pointerTextWidth);
-    m_size = new QLabel(this);
-    m_size->setMinimumWidth(sizeTextWidth);
-    statusBar()->setSizeGripEnabled(false);
-    statusBar()->addWidget(m_hint, 1);
-    statusBar()->addPermanentWidget(m_pointer);
-    statusBar()->addPermanentWidget(m_size);
-    statusBar()->addPermanentWidget(new ZoomControl(m_workspace, m_actions, m_view, this));
-}
-
 void MainWindow::connectLessons()
 {
     connect(m_lessons, &LessonController::shownPageChanged, this, [this] {
@@ -305,10 +286,6 @@ void MainWindow::connectParts()
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
-    connect(m_view, &PageView::pointerMoved, this, [this](const QPointF &pos) {
-        m_pointer->setText(QStringLiteral("%1, %2").arg(qRound(pos.x())).arg(qRound(pos.y())));
-    });
-    connect(m_view, &PageView::pointerLeft, m_pointer, &QLabel::clear);
     connect(m_actions->exportPages, &QAction::triggered, this, [this] { exportPages(PageFormat::Png); });
     connect(m_actions->exportSvg, &QAction::triggered, this, [this] { exportPages(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
@@ -346,10 +323,7 @@ void MainWindow::showSelection()
     m_actions->update();
     m_clipboardMenu->update();
     const pagehost::Page *page = m_view->page();
-    const QRectF bounds = page ? pagehost::boundsOf(page->selectedObjects()) : QRectF();
-    m_size->setText(bounds.isNull()
-                        ? QString()
-                        : QStringLiteral("%1 × %2").arg(qRound(bounds.width())).arg(qRound(bounds.height())));
+    m_status->showBounds(page ? pagehost::boundsOf(page->selectedObjects()) : QRectF());
     describeView();
     showHint();
 }
@@ -379,7 +353,7 @@ void MainWindow::showHint()
         key = "IDS_BOARD_HINT_DRAW";
     else if (m_view->page() && !m_view->page()->selectedObjects().isEmpty())
         key = "IDS_BOARD_HINT_SELECTED";
-    m_hint->setText(m_workspace->text(key));
+    m_status->showHint(key);
 }
 
 void MainWindow::beginCreation(const QString &kindId)

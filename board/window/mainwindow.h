@@ -7,7 +7,6 @@
 
 #include <QtWidgets/QMainWindow>
 
-class QLabel;
 class QMimeData;
 
 namespace board {
@@ -27,6 +26,7 @@ class PalettePanel;
 class PropertyPanel;
 class Recovery;
 class SettingsPanel;
+class StatusLine;
 class StylePanel;
 class Workspace;
 
@@ -68,7 +68,6 @@ private:
     void addPanels();
     void addMenus();
     void addTools();
-    void addStatus();
     void connectParts();
     void connectTools();
     void connectLessons();
@@ -101,9 +100,7 @@ private:
     StylePanel *m_style = nullptr;
     SettingsPanel *m_settings = nullptr;
     PropertyPanel *m_properties = nullptr;
-    QLabel *m_hint = nullptr;
-    QLabel *m_pointer = nullptr;
-    QLabel *m_size = nullptr;
+    StatusLine *m_status = nullptr;
     pagehost::CreationTool m_tool;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };

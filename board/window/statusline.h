@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QRectF>
+
+class QLabel;
+class QStatusBar;
+
+namespace board {
+
+class Actions;
+class PageView;
+class Workspace;
+
+/// What stands at the bottom of the window: a hint, where the mouse is, how large the selection is, and the zoom.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive this.
+    StatusLine(const Workspace *workspace, const Actions *actions, PageView *view, QStatusBar *bar);
+
+    void showHint(const char *textKey);
+    /// Scene units; null for no selection.
+    void showBounds(const QRectF &bounds);
+
+private:
+    void showPointer(const QPointF &scenePos);
+
+    const Workspace *m_workspace;
+    QLabel *m_hint;
+    QLabel *m_pointer;
+    QLabel *m_size;
+};
+
+} // namespace board
