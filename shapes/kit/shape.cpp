@@ -248,6 +248,7 @@ void Shape::propertyChanged(const Property *)
 {
     placeControlPoints();
     redraw(false);
+    owner->notifyOutlineRegionChanged();
 }
 
 QSizeF Shape::size() const

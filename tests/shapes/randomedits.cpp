@@ -36,9 +36,7 @@ void RandomEdits::edit()
     const int kind = upTo(5);
     if (kind <= 2 && m_shape.controlPointCount() > 0)
         dragAnyControlPoint();
-    else if (kind <= 4)
-        setAnyStyle();
-    else
+    else if (kind > 4 || !setAnyStyle())
         answerAnyControl();
 }
 
@@ -78,7 +76,7 @@ void RandomEdits::dragAnyControlPoint()
         number, QPointF(between(-longestDrag, longestDrag), between(-longestDrag, longestDrag)));
 }
 
-void RandomEdits::setAnyStyle()
+bool RandomEdits::setAnyStyle()
 {
     int property = PROP_SVG_PENCOLOR + upTo(3);
     QByteArray value;
@@ -97,9 +95,9 @@ void RandomEdits::setAnyStyle()
         break;
     }
     if (!m_shape.core().findPropItemByPropID(property))
-        return;
+        return false;
     QDataStream in(value);
-    m_shape.core().SetAttribute(property, in, true, true);
+    return m_shape.core().SetAttribute(property, in, true, true);
 }
 
 void RandomEdits::answerAnyControl()

@@ -22,7 +22,8 @@ public:
 
 private:
     void dragAnyControlPoint();
-    void setAnyStyle();
+    /// False when the shape does not offer it.
+    bool setAnyStyle();
     void answerAnyControl();
     int upTo(int highest);
     double between(double low, double high);
