@@ -145,6 +145,17 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
     item->bounds |= item->strokePath.controlPointRect();
 }
 
+// The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
+void mapUnscaledStroke(DisplayItem *item, const Outline &outline, const QTransform &transform,
+                       const QTransform &world)
+{
+    const QTransform toTarget = transform * world.inverted();
+    const QPainterPath path = toTarget.map(outline.path);
+    QPen pen = boundedPen(outline.pen, path);
+    pen.setBrush(mappedBrush(outline.pen.brush(), toTarget));
+    mapStroke(item, pen, path, world);
+}
+
 Outline silhouette(const Outline &outline, const ComputedStyle &style)
 {
     Outline result;
@@ -192,8 +203,12 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         item->bounds = QRectF();
         return;
     }
-    if (outline.pen.style() != Qt::NoPen)
+    if (outline.pen.style() == Qt::NoPen)
+        return;
+    if (item->facts->style.strokeScales)
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
+    else
+        mapUnscaledStroke(item, outline, transform, world);
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.

@@ -2,6 +2,8 @@
 
 #include "grammar/numbers.h"
 
+#include <QtCore/QtMath>
+
 #include <cmath>
 
 namespace Svg {
@@ -57,12 +59,30 @@ std::optional<QColor> hexColor(Cursor cursor)
     return QColor(channels[0], channels[1], channels[2], channels[3]);
 }
 
+// Hues may have a unit (CSS Color 4 §4.2).
+bool takeAngleUnit(Cursor &cursor, double *value)
+{
+    const QLatin1String unit = cursor.takeWord();
+    const auto is = [unit](const char *name) {
+        return unit.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+    };
+    if (is("turn"))
+        *value *= 360;
+    else if (is("grad"))
+        *value *= 0.9;
+    else if (is("rad"))
+        *value = qRadiansToDegrees(*value);
+    else
+        return unit.isEmpty() || is("deg");
+    return true;
+}
+
 bool readComponent(Cursor &cursor, Component *component)
 {
     if (!readNumber(cursor, &component->value))
         return false;
     component->percent = cursor.take('%');
-    return true;
+    return component->percent || takeAngleUnit(cursor, &component->value);
 }
 
 // Components are separated by commas or spaces, the alpha also by a slash.
@@ -106,12 +126,13 @@ std::optional<QColor> functionColor(const Cursor &cursor)
         return std::nullopt;
     const Component *c = function.components;
     const double alpha = function.count == 4 ? fraction(c[3]) : 1;
-    if (function.name == QLatin1String("rgb") || function.name == QLatin1String("rgba")) {
+    const QString name = QString(function.name).toLower();
+    if (name == QLatin1String("rgb") || name == QLatin1String("rgba")) {
         QColor color(channel(c[0]), channel(c[1]), channel(c[2]));
         color.setAlphaF(alpha);
         return color;
     }
-    if (function.name == QLatin1String("hsl") || function.name == QLatin1String("hsla")) {
+    if (name == QLatin1String("hsl") || name == QLatin1String("hsla")) {
         const double turn = c[0].value / 360 - std::floor(c[0].value / 360);
         return QColor::fromHslF(qBound(0.0, turn, 1.0), fraction(c[1]), fraction(c[2]), alpha).toRgb();
     }

@@ -20,6 +20,8 @@ constexpr double pixelsPerInch = 96;
 constexpr double centimetresPerInch = 2.54;
 /// Height of a lower-case x where a font does not tell, in font sizes.
 constexpr double exPerEm = 0.5;
+/// Width of a "0" where a font does not tell, in font sizes (CSS Values 3 §5.1.1).
+constexpr double chPerEm = 0.5;
 
 const UnitName unitNames[] = {
     {QLatin1String("px"), Unit::User, 1},
@@ -30,6 +32,13 @@ const UnitName unitNames[] = {
     {QLatin1String("in"), Unit::User, pixelsPerInch},
     {QLatin1String("em"), Unit::Em, 1},
     {QLatin1String("ex"), Unit::Ex, 1},
+    {QLatin1String("q"), Unit::User, pixelsPerInch / centimetresPerInch / 40},
+    {QLatin1String("ch"), Unit::Ch, 1},
+    {QLatin1String("rem"), Unit::Rem, 1},
+    {QLatin1String("vw"), Unit::ViewWidth, 1},
+    {QLatin1String("vh"), Unit::ViewHeight, 1},
+    {QLatin1String("vmin"), Unit::ViewMin, 1},
+    {QLatin1String("vmax"), Unit::ViewMax, 1},
 };
 
 bool readUnit(Cursor &cursor, Length *length)
@@ -75,6 +84,18 @@ double unbounded(const Length &length, Axis axis, const LengthContext &context)
         return length.value * context.fontSize;
     case Unit::Ex:
         return length.value * context.fontSize * exPerEm;
+    case Unit::Ch:
+        return length.value * context.fontSize * chPerEm;
+    case Unit::Rem:
+        return length.value * context.rootFontSize;
+    case Unit::ViewWidth:
+        return length.value / 100 * context.viewport.width();
+    case Unit::ViewHeight:
+        return length.value / 100 * context.viewport.height();
+    case Unit::ViewMin:
+        return length.value / 100 * qMin(context.viewport.width(), context.viewport.height());
+    case Unit::ViewMax:
+        return length.value / 100 * qMax(context.viewport.width(), context.viewport.height());
     }
     return length.value;
 }

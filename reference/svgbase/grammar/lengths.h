@@ -9,7 +9,7 @@
 namespace Svg {
 
 /// What a length's number counts. Absolute units are turned into user units (px) when they are read.
-enum class Unit { User, Percent, Em, Ex };
+enum class Unit { User, Percent, Em, Ex, Ch, Rem, ViewWidth, ViewHeight, ViewMin, ViewMax };
 
 /// The side of the viewport that percentages refer to.
 enum class Axis { Horizontal, Vertical, Diagonal };
@@ -26,6 +26,7 @@ struct LengthContext
 {
     QSizeF viewport;
     double fontSize = 16;
+    double rootFontSize = 16;
 };
 
 bool readLength(Cursor &cursor, Length *length);

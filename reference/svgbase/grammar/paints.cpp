@@ -8,6 +8,13 @@ namespace {
 
 const QLatin1String referenceStart("url(");
 
+// A colour of a profile stands behind the one that screens use (SVG 1.1 §11.2).
+QStringView withoutProfileColor(QStringView text)
+{
+    const qsizetype profile = text.toString().indexOf(QLatin1String("icc-color("));
+    return profile > 0 ? text.left(profile).trimmed() : text;
+}
+
 std::optional<Paint> plainPaint(QStringView text)
 {
     Paint paint;
@@ -24,7 +31,7 @@ std::optional<Paint> plainPaint(QStringView text)
         paint.kind = text.endsWith(QLatin1Char('l')) ? Paint::ContextFill : Paint::ContextStroke;
         return paint;
     }
-    const std::optional<QColor> color = parseColor(text);
+    const std::optional<QColor> color = parseColor(withoutProfileColor(text));
     if (!color)
         return std::nullopt;
     paint.kind = Paint::Color;

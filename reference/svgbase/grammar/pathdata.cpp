@@ -26,6 +26,7 @@ public:
         const char *begin = m_cursor.at;
         if (!readCommands())
             m_result.errorAt = m_cursor.at - begin;
+        finishSubpath();
         return std::move(m_result);
     }
 
@@ -45,6 +46,7 @@ private:
     bool readPoint(bool relative, QPointF *point);
     bool readFlag(bool *flag);
     bool close();
+    bool finishSubpath();
     void record(char command, const QPointF &from, int elementsBefore);
     bool isInRange(const QPointF &point) const;
     QPointF reflected(bool curveBefore) const;
@@ -61,6 +63,8 @@ private:
     char m_previous = 0;
     int m_segments = 0;
     bool m_closed = false;
+    /// Whether the subpath has a segment, if only one without length.
+    bool m_drawn = false;
 };
 
 char lowerCase(char c)
@@ -107,11 +111,25 @@ QPointF PathReader::reflected(bool curveBefore) const
     return curveBefore ? m_current * 2 - m_control : m_current;
 }
 
+// A painter's path leaves out lines without length; a subpath of nothing else still has caps (SVG 2 §13.5.5), but
+// closed it would have none. True when it is such a subpath.
+bool PathReader::finishSubpath()
+{
+    QPainterPath &path = m_result.path;
+    const int count = path.elementCount();
+    const bool isDot = m_drawn && count > 0 && path.elementAt(count - 1).isMoveTo();
+    if (isDot)
+        path.lineTo(path.currentPosition() + QPointF(dotLength, 0));
+    m_drawn = false;
+    return isDot;
+}
+
 bool PathReader::readMove(bool relative)
 {
     QPointF point;
     if (!readPoint(relative, &point))
         return false;
+    finishSubpath();
     m_result.path.moveTo(point);
     m_current = m_start = point;
     m_closed = false;
@@ -255,7 +273,9 @@ bool PathReader::close()
 {
     if (m_segmentList)
         m_segmentList->append({PathSegment::Close, m_current, m_current, m_start, m_start});
-    m_result.path.closeSubpath();
+    m_drawn = true;
+    if (!finishSubpath())
+        m_result.path.closeSubpath();
     m_current = m_start;
     m_closed = true;
     return true;
@@ -314,6 +334,7 @@ bool PathReader::readSegments()
         const int elementsBefore = m_result.path.elementCount();
         if (!readSegment(command, relative))
             return false;
+        m_drawn = m_drawn || command != 'm';
         if (m_segmentList)
             record(command, from, elementsBefore);
         ++m_segments;

@@ -6,6 +6,10 @@
 
 namespace Svg {
 
+/// Length of the line that stands for a subpath that is drawn but has none, user units: enough for a painter to
+/// see.
+constexpr double dotLength = 1e-4;
+
 /// What path data amounts to.
 struct PathData
 {

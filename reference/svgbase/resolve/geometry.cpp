@@ -8,6 +8,14 @@ namespace Svg {
 
 namespace {
 
+// A radius that is absent, "auto" or negative takes the other's value (SVG 2 §10.2 and §10.4).
+QSizeF cornerRadii(const LengthReader &lengths)
+{
+    const double rx = lengths.size(AttributeId::Rx, Axis::Horizontal);
+    const double ry = lengths.size(AttributeId::Ry, Axis::Vertical);
+    return QSizeF(lengths.hasSize(AttributeId::Rx) ? rx : ry, lengths.hasSize(AttributeId::Ry) ? ry : rx);
+}
+
 Geometry rectGeometry(const LengthReader &lengths)
 {
     const QRectF rect(
@@ -16,11 +24,9 @@ Geometry rectGeometry(const LengthReader &lengths)
     Geometry geometry{QPainterPath(), rect, true};
     if (rect.isEmpty())
         return geometry;
-    // A radius that is absent takes the other's value (SVG 1.1 §9.2).
-    const double ry = lengths.size(AttributeId::Ry, Axis::Vertical);
-    const double rx = lengths.size(AttributeId::Rx, Axis::Horizontal, ry);
-    const double radiusX = qMin(rx, rect.width() / 2);
-    const double radiusY = qMin(lengths.has(AttributeId::Ry) ? ry : rx, rect.height() / 2);
+    const QSizeF radii = cornerRadii(lengths);
+    const double radiusX = qMin(radii.width(), rect.width() / 2);
+    const double radiusY = qMin(radii.height(), rect.height() / 2);
     if (radiusX > 0 && radiusY > 0)
         geometry.path.addRoundedRect(rect, radiusX, radiusY);
     else
@@ -36,6 +42,12 @@ Geometry ellipseGeometry(const QRectF &box)
     return geometry;
 }
 
+// A line without length has caps, which a painter only gives to one with some (SVG 2 §13.5.5).
+QPointF beside(const QPointF &point)
+{
+    return point + QPointF(dotLength, 0);
+}
+
 Geometry lineGeometry(const LengthReader &lengths)
 {
     const QPointF from(lengths.value(AttributeId::X1, Axis::Horizontal),
@@ -43,7 +55,7 @@ Geometry lineGeometry(const LengthReader &lengths)
     const QPointF to(lengths.value(AttributeId::X2, Axis::Horizontal),
                      lengths.value(AttributeId::Y2, Axis::Vertical));
     Geometry geometry{QPainterPath(from), QRectF(from, to).normalized(), true};
-    geometry.path.lineTo(to);
+    geometry.path.lineTo(from == to ? beside(to) : to);
     return geometry;
 }
 
@@ -57,7 +69,9 @@ Geometry pointsGeometry(const Attributes &attributes, bool closed, QString *prob
     Geometry geometry{QPainterPath(points.points.first()), points.points.boundingRect(), true};
     for (int i = 1; i < points.points.size(); ++i)
         geometry.path.lineTo(points.points.at(i));
-    if (closed)
+    if (geometry.path.elementCount() == 1 && (closed || points.points.size() > 1))
+        geometry.path.lineTo(beside(points.points.first()));
+    else if (closed)
         geometry.path.closeSubpath();
     return geometry;
 }
@@ -110,13 +124,19 @@ bool LengthReader::has(AttributeId id) const
     return parseLength(text(id)).has_value();
 }
 
+bool LengthReader::hasSize(AttributeId id) const
+{
+    const std::optional<Length> length = parseLength(text(id));
+    return length && length->value >= 0;
+}
+
 QRectF ellipseBox(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
 {
     const LengthReader lengths(node, style, viewport);
-    const bool circle = node.kind == ElementKind::Circle;
-    const double rx =
-        circle ? lengths.size(AttributeId::R, Axis::Diagonal) : lengths.size(AttributeId::Rx, Axis::Horizontal);
-    const double ry = circle ? rx : lengths.size(AttributeId::Ry, Axis::Vertical);
+    const double r = lengths.size(AttributeId::R, Axis::Diagonal);
+    const QSizeF radii = node.kind == ElementKind::Circle ? QSizeF(r, r) : cornerRadii(lengths);
+    const double rx = radii.width();
+    const double ry = radii.height();
     const double cx = lengths.value(AttributeId::Cx, Axis::Horizontal);
     const double cy = lengths.value(AttributeId::Cy, Axis::Vertical);
     return QRectF(cx - rx, cy - ry, 2 * rx, 2 * ry);

@@ -24,7 +24,7 @@ public:
     LengthReader(const Node &node, const ComputedStyle &style, const QSizeF &viewport)
         : m_attributes(node.attributes)
         , m_styled(style.attributes)
-        , m_context{viewport, style.font.size}
+        , m_context{viewport, style.font.size, style.font.rootSize}
     {
     }
     /// For elements whose lengths style can't give.
@@ -39,6 +39,8 @@ public:
     /// The same, nothing below 0.
     double size(AttributeId id, Axis axis, double fallback = 0) const;
     bool has(AttributeId id) const;
+    /// Whether it is a length that a size can have, which a negative one is not.
+    bool hasSize(AttributeId id) const;
 
 private:
     QString text(AttributeId id) const { return styledAttribute(m_attributes, m_styled, id); }

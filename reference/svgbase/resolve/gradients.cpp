@@ -171,6 +171,11 @@ QBrush radialBrush(const GradientChain &chain, const GradientLengths &lengths, c
         return QBrush(stops.constLast().second);
     QRadialGradient gradient(cx, cy, r, lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
                              lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
+    // What lies within the focal circle has the first colour.
+    const double focal = lengths.value(AttributeId::Fr, Axis::Diagonal, 0);
+    if (focal >= r)
+        return QBrush(stops.constLast().second);
+    gradient.setFocalRadius(qMax(0.0, focal));
     return finished(gradient, chain, stops);
 }
 

@@ -6,12 +6,20 @@ namespace Svg {
 
 namespace {
 
+/// Widths of the pen.
+constexpr double shortestDash = 1e-3;
+
 // A painter counts dashes in widths of the pen.
 void setDashes(QPen &pen, const ComputedStyle &style)
 {
     QVector<qreal> pattern = style.strokeDasharray;
     for (qreal &dash : pattern)
         dash /= pen.widthF();
+    // A dash without length has caps, which a painter only gives to one with some.
+    if (style.strokeLinecap != Qt::FlatCap) {
+        for (int i = 0; i < pattern.size(); i += 2)
+            pattern[i] = qMax(pattern.at(i), shortestDash);
+    }
     pen.setDashPattern(pattern);
     pen.setDashOffset(style.strokeDashoffset / pen.widthF());
 }

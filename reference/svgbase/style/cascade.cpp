@@ -155,6 +155,8 @@ ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext
                 rejected->append(declaration.value.toString());
         }
     }
+    if (element == rootNode)
+        style.font.rootSize = style.font.size;
     followColor(style.color, &style.fill);
     followColor(style.color, &style.stroke);
     return style;

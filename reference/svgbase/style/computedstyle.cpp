@@ -7,6 +7,7 @@ ComputedStyle inheritedStyle(const ComputedStyle &parent)
     ComputedStyle style = parent;
     style.opacity = 1;
     style.displayed = true;
+    style.strokeScales = true;
     style.attributes.clear();
     style.stopColor = Qt::black;
     style.stopOpacity = 1;

@@ -22,6 +22,8 @@ struct FontStyle
 {
     QString family;
     double size = 16;
+    /// Of the document's root.
+    double rootSize = 16;
     int weight = 400;
     bool italic = false;
 };
@@ -61,6 +63,7 @@ struct ComputedStyle
     // Not inherited.
     double opacity = 1;
     bool displayed = true;
+    bool strokeScales = true;
     /// Geometry and transforms that style gives in place of the attributes of those names.
     QVector<Attribute> attributes;
     QColor stopColor = Qt::black;

@@ -22,6 +22,9 @@ const Keyword<Qt::PenCapStyle> caps[] = {
 
 const Keyword<Qt::PenJoinStyle> joins[] = {
     {QLatin1String("miter"), Qt::SvgMiterJoin},
+    // Painters have no better for these; SVG 2 §13.5.4 allows it.
+    {QLatin1String("miter-clip"), Qt::SvgMiterJoin},
+    {QLatin1String("arcs"), Qt::SvgMiterJoin},
     {QLatin1String("round"), Qt::RoundJoin},
     {QLatin1String("bevel"), Qt::BevelJoin},
 };
@@ -29,6 +32,11 @@ const Keyword<Qt::PenJoinStyle> joins[] = {
 const Keyword<Qt::FillRule> fillRules[] = {
     {QLatin1String("nonzero"), Qt::WindingFill},
     {QLatin1String("evenodd"), Qt::OddEvenFill},
+};
+
+const Keyword<bool> vectorEffects[] = {
+    {QLatin1String("none"), true},
+    {QLatin1String("non-scaling-stroke"), false},
 };
 
 const Keyword<PaintStep> paintSteps[] = {
@@ -128,7 +136,7 @@ bool applyOpacity(double &target, QStringView text)
 
 LengthContext lengthContext(const ComputedStyle &style, const PropertyContext &context)
 {
-    return {context.viewport, style.font.size};
+    return {context.viewport, style.font.size, style.font.rootSize};
 }
 
 bool applyLength(double &target, QStringView text, const LengthContext &context)
@@ -200,7 +208,7 @@ bool applyFontSize(ComputedStyle &style, QStringView text, const PropertyContext
         return false;
     // Percentages of a font size are of the parent's.
     const QSizeF base(inherited, inherited);
-    style.font.size = toUserUnits(*length, Axis::Horizontal, {base, inherited});
+    style.font.size = toUserUnits(*length, Axis::Horizontal, {base, inherited, context.parent.font.rootSize});
     return true;
 }
 
@@ -293,6 +301,9 @@ void inheritProperty(ComputedStyle &style, AttributeId property, const ComputedS
     case AttributeId::TextAnchor:
         style.textAnchor = parent.textAnchor;
         return;
+    case AttributeId::VectorEffect:
+        style.strokeScales = parent.strokeScales;
+        return;
     case AttributeId::Visibility:
         style.visible = parent.visible;
         return;
@@ -354,6 +365,8 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
         return applyStrokeWidth(style, value, context);
     case AttributeId::TextAnchor:
         return applyKeyword(style.textAnchor, value, anchors);
+    case AttributeId::VectorEffect:
+        return applyKeyword(style.strokeScales, value, vectorEffects);
     case AttributeId::Visibility:
         return applyKeyword(style.visible, value, visibilities);
     default:

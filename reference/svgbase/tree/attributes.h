@@ -31,6 +31,7 @@ enum class AttributeId : quint8 {
     StrokeOpacity,
     StrokeWidth,
     TextAnchor,
+    VectorEffect,
     Visibility,
     // Properties of effects.
     ClipPath,
@@ -73,6 +74,7 @@ enum class AttributeId : quint8 {
     D,
     Dx,
     Dy,
+    Fr,
     Fx,
     Fy,
     GradientTransform,
