@@ -138,8 +138,9 @@ void StylePanel::refresh()
 {
     const QVector<CBaseObject *> objects = selection();
     const bool any = !objects.isEmpty();
-    for (QWidget *section : {m_penSection, m_fillSection, m_placeSection})
+    for (QWidget *section : {m_penSection, m_placeSection})
         section->setVisible(any);
+    m_fillSection->setVisible(firstFilled(objects));
     m_backgroundSection->setVisible(!any);
     if (any) {
         showObjects(objects);
@@ -157,7 +158,6 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
                                          : m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
     m_pen->showStyle(pagehost::styleOf(first));
     const CBaseObject *filled = firstFilled(objects);
-    m_fillSection->setVisible(filled);
     if (filled)
         m_fill->showFill(*filled->getFillProp());
     m_place->showPos(pagehost::boundsOf(objects).topLeft());
