@@ -42,6 +42,11 @@ constexpr int useInstances = 20000;
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of one document that are set; the rest is left out.
 constexpr int textCharacters = 100000;
+/// Most "textPath" elements of a document, and most elements of the path that one follows.
+constexpr int textPaths = 500;
+constexpr int textPathElements = 4000;
+/// Most elements of all paths that a document's motions follow.
+constexpr int motionElements = 100000;
 /// Most parts of one text whose "textLength" counts; inner ones and later ones first.
 constexpr int textLengths = 100;
 /// Most names of font families that the system is asked about, in a process; others count as not installed.

@@ -1,4 +1,5 @@
 #include "animatedattributes.h"
+#include "inputlimits.h"
 #include "resolve/pathmeasure.h"
 
 #include <QtMath>
@@ -58,6 +59,7 @@ private slots:
     void addsToOtherMotions();
     void accumulates();
     void waysThatAreNone();
+    void longWaysAreLimited();
     void changedPathsMoveWhatFollowsThem();
 };
 
@@ -241,6 +243,18 @@ void TestMotion::waysThatAreNone()
         const QString motion = QStringLiteral("<animateMotion dur='4s' %1/>").arg(QLatin1String(way));
         COMPARE_POINTS(placeAt(motion, 1), QPointF(0, 0));
     }
+}
+
+void TestMotion::longWaysAreLimited()
+{
+    const QString far = QStringLiteral("<animateMotion path='M50 50%1' dur='4s'/>");
+    const QString third = far.arg(QStringLiteral("h9").repeated(Limits::pathSegments - 1));
+    QVERIFY(isNear(placeAt(third, 0), QPointF(50, 50)));
+    // The fourth is beyond the limit and does not replace the others.
+    const QString other = QStringLiteral("<animateMotion path='M7 7%1' dur='4s'/>")
+                              .arg(QStringLiteral("h9").repeated(Limits::pathSegments - 1));
+    QVERIFY(isNear(placeAt(third + third + other, 0), QPointF(7, 7)));
+    QVERIFY(isNear(placeAt(third + third + third + other, 0), QPointF(50, 50)));
 }
 
 void TestMotion::changedPathsMoveWhatFollowsThem()

@@ -1,3 +1,4 @@
+#include "inputlimits.h"
 #include "resolve/fonts.h"
 #include "svgdrawing.h"
 
@@ -56,6 +57,7 @@ private slots:
     void boundingBoxUnitsRelateToCells();
     void outlinesScaleWithTheFontSize();
     void arabicLettersAreJoined();
+    void textPathsAreLimited();
     void fontWeights_data();
     void fontWeights();
 };
@@ -248,6 +250,19 @@ void TestText::outlinesScaleWithTheFontSize()
     const QRectF large = textBounds("<text id='t' font-family='DejaVu Sans' font-size='5000'>HgW</text>");
     QVERIFY(qAbs(large.width() / small.width() / 10000 - 1) < 1e-4);
     QVERIFY(qAbs(large.height() / small.height() / 10000 - 1) < 1e-4);
+}
+
+void TestText::textPathsAreLimited()
+{
+    const QString along = QStringLiteral("<textPath path='M0 50%1'>i</textPath>");
+    const DocumentPointer fit = loadContent(start + ">" + along.arg("h9") + "</text>");
+    QVERIFY(!fit->namedNode("t")->boundingRect().isEmpty());
+    const DocumentPointer tooLong = loadContent(
+        start + ">" + along.arg(QStringLiteral("h9").repeated(Svg::Limits::textPathElements)) + "</text>");
+    QVERIFY(tooLong->namedNode("t")->boundingRect().isEmpty());
+    const QString many = along.arg("h9").repeated(Svg::Limits::textPaths);
+    QVERIFY(loadContent(start + ">" + many + "</text>")->messages().isEmpty());
+    QCOMPARE(loadContent(start + ">" + many + along.arg("h9") + "</text>")->messages().size(), 1);
 }
 
 // Two letters that join are narrower than the same letters apart.

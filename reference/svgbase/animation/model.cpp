@@ -3,6 +3,7 @@
 #include "animation/basevalue.h"
 #include "document/document.h"
 #include "grammar/paints.h"
+#include "inputlimits.h"
 #include "style/cascade.h"
 
 #include <QtCore/QMap>
@@ -40,6 +41,7 @@ private:
     Document &m_document;
     const Tree &m_tree;
     AnimationModel m_model;
+    int m_motionRoom = Limits::motionElements;
     QMap<std::pair<NodeIndex, QString>, AnimatedAttribute> m_attributes;
 };
 
@@ -121,7 +123,8 @@ void ModelReader::readTransform(NodeIndex index, NodeIndex target)
 
 void ModelReader::readMotion(NodeIndex index, NodeIndex target)
 {
-    const std::optional<Motion> motion = Motion::read(m_tree, index, lengthsOf(*m_document.facts(target)));
+    const std::optional<Motion> motion =
+        Motion::read(m_tree, index, lengthsOf(*m_document.facts(target)), &m_motionRoom);
     if (!motion)
         return;
     const ValueContext context = transformContext(QString());

@@ -155,12 +155,13 @@ void Motion::readRotation(const Attributes &attributes)
         m_angle = parseNumber(text).value_or(0);
 }
 
-std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths)
+std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths, int *room)
 {
     const Attributes &attributes = tree.node(animation).attributes;
     const QPainterPath way = wayOf(tree, animation, lengths);
-    if (way.elementCount() == 0)
+    if (way.elementCount() == 0 || way.elementCount() > *room)
         return std::nullopt;
+    *room -= way.elementCount();
     Motion motion(way);
     if (!motion.readKeys(attributes))
         return std::nullopt;

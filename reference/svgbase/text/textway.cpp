@@ -5,6 +5,7 @@
 #include "grammar/paints.h"
 #include "grammar/pathdata.h"
 #include "grammar/transforms.h"
+#include "inputlimits.h"
 #include "resolve/geometry.h"
 #include "style/cascade.h"
 
@@ -41,6 +42,8 @@ QPainterPath wayOf(const Tree &tree, NodeIndex textPath, const QSizeF &viewport)
     const QString data = attributes.value(QStringLiteral("path"));
     QPainterPath path =
         data.isEmpty() ? shapePath(tree, referredShape(tree, attributes), viewport) : parsePathData(data).path;
+    if (path.elementCount() > Limits::textPathElements)
+        return QPainterPath();
     if (attributes.value(QStringLiteral("side")).trimmed() == QLatin1String("right"))
         path = path.toReversed();
     return path;

@@ -31,7 +31,7 @@ private:
     void startElement();
     void endElement();
     void characters();
-    ElementKind kindOfElement() const;
+    ElementKind kindOfElement();
     bool isInText() const;
     void readAttributes(Attributes *attributes) const;
     void readDeclarations(Attributes *attributes) const;
@@ -45,6 +45,7 @@ private:
     QVector<NodeIndex> m_open;
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
+    int m_textPaths = 0;
     bool m_withoutNamespace = false;
     int m_charactersLeft = Limits::textCharacters;
 };
@@ -89,7 +90,7 @@ bool TreeReader::isInText() const
     return above == ElementKind::Text || isTextPart(above);
 }
 
-ElementKind TreeReader::kindOfElement() const
+ElementKind TreeReader::kindOfElement()
 {
     const QStringRef space = m_xml.namespaceUri();
     // Without a namespace at its root, a document is SVG all the same.
@@ -99,6 +100,11 @@ ElementKind TreeReader::kindOfElement() const
     // A link inside a text is a part of it.
     if (kind == ElementKind::Group && isInText())
         return ElementKind::Tspan;
+    if (kind == ElementKind::TextPath && ++m_textPaths > Limits::textPaths) {
+        m_messages->warn(QStringLiteral("There are more than %1 text paths.").arg(Limits::textPaths),
+                         m_xml.lineNumber(), m_xml.columnNumber() + 1);
+        return ElementKind::Other;
+    }
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
 }
 
