@@ -12,7 +12,8 @@ class Motion
 public:
     /// Nothing when the element gives no usable way, or a longer one than there is room for. `room` counts down the
     /// elements of paths.
-    static std::optional<Motion> read(const Tree &tree, NodeIndex animation, const LengthContext &lengths, int *room);
+    static std::optional<Motion> read(const Tree &tree, NodeIndex animation, const LengthContext &lengths,
+                                      int *room);
 
     /// The transform functions of a place on the way.
     QString transformText(const RoundPosition &position) const;
