@@ -226,7 +226,7 @@ void TestLessonPlayer::seeksWhilePlaying()
 
 void TestLessonPlayer::seeksInALongLesson()
 {
-    // Moves from 0 to 2499, a millisecond each: going back passes over milestones.
+    // Moves from 0 to 2499, a millisecond each.
     Classroom room;
     CBaseObject *object = room.drawArrow();
     const QPointF pos = object->getPos();

@@ -8,16 +8,12 @@
 #include <host/rootobjectprivate.h>
 #include <lessons/lessonstage.h>
 
-#include <algorithm>
-
 namespace pagehost {
 
 namespace {
 
 constexpr int tickMilliseconds = 16;
 constexpr qint64 highlightMilliseconds = 700;
-/// A long way between milestones makes going back slow, a short one fills memory.
-constexpr int eventsBetweenMilestones = 1000;
 
 } // namespace
 
@@ -42,8 +38,7 @@ void LessonPlayer::setLesson(const Lesson &lesson)
     stopPlaying();
     m_clock = LessonClock(m_source);
     m_lesson = lesson;
-    m_milestones = {{0, lesson.start}};
-    showStart(m_milestones.first());
+    showStart();
     setPosition(0);
 }
 
@@ -87,7 +82,9 @@ void LessonPlayer::seek(qint64 time)
     const qint64 target = qBound<qint64>(0, time, duration());
     pointOut(nullptr);
     if (target < m_position) {
-        rewind(target);
+        // All the way: objects remember more of what happened to them than they save, so that no later state will
+        // do.
+        showStart();
     }
     advance(target);
     m_clock.setTime(target);
@@ -132,36 +129,18 @@ CBaseObject *LessonPlayer::advance(qint64 time)
             changed = object;
         }
         ++m_played;
-        noteMilestone();
     }
     return changed;
 }
 
-void LessonPlayer::noteMilestone()
-{
-    if (m_played >= m_milestones.last().events + eventsBetweenMilestones) {
-        m_milestones.append({m_played, m_stage->state()});
-    }
-}
-
-/// Goes back to the last milestone at or before `time`.
-void LessonPlayer::rewind(qint64 time)
-{
-    const auto isLater = [&](const Milestone &milestone) {
-        return milestone.events > 0 && m_lesson.events[milestone.events - 1].time > time;
-    };
-    const auto later = std::find_if(m_milestones.begin(), m_milestones.end(), isLater);
-    showStart(*std::prev(later));
-}
-
-void LessonPlayer::showStart(const Milestone &milestone)
+void LessonPlayer::showStart()
 {
     auto stage = std::make_unique<LessonStage>(m_registry);
-    for (const LessonStep &step : milestone.steps) {
+    for (const LessonStep &step : qAsConst(m_lesson.start)) {
         stage->perform(step);
     }
     m_highlighted = nullptr;
-    m_played = milestone.events;
+    m_played = 0;
     m_stage.swap(stage);
     Q_EMIT documentReplaced();
 }

@@ -7,7 +7,6 @@
 
 #include <files/objectrecordstream.h>
 #include <host/rootobjectprivate.h>
-#include <lessons/documentsteps.h>
 #include <lessons/exactloading.h>
 #include <lessons/objectdata.h>
 #include <lessons/replaying.h>
@@ -62,15 +61,6 @@ CBaseObject *LessonStage::perform(const LessonStep &step)
 {
     const CurrentDocument current(m_document.get());
     return std::visit([this](const auto &kind) { return perform(kind); }, step);
-}
-
-QVector<LessonStep> LessonStage::state() const
-{
-    QHash<const CBaseObject *, quint32> numbers;
-    for (auto object = m_objects.begin(); object != m_objects.end(); ++object) {
-        numbers.insert(object.value(), object.key());
-    }
-    return appearanceOf(*m_document, [&](const CBaseObject *object) { return numbers.value(object); });
 }
 
 CBaseObject *LessonStage::perform(const ObjectActed &step)

@@ -32,8 +32,6 @@ public:
     CBaseObject *object(quint32 number) const { return m_objects.value(number); }
     /// Brings a step about. Gives the object that it changed; null when it changed none.
     CBaseObject *perform(const LessonStep &step);
-    /// Steps that make the present state out of a stage without pages, numbers of objects included.
-    QVector<LessonStep> state() const;
 
 private:
     CBaseObject *perform(const ObjectActed &step);

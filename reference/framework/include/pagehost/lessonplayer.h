@@ -9,7 +9,6 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
-#include <QtCore/QVector>
 
 #include <memory>
 
@@ -66,18 +65,9 @@ Q_SIGNALS:
     void finished();
 
 private:
-    /// A moment from which playing can go on without beginning at the start.
-    struct Milestone
-    {
-        int events = 0; ///< that lie before it
-        QVector<LessonStep> steps;
-    };
-
     void tick();
     CBaseObject *advance(qint64 time);
-    void rewind(qint64 time);
-    void showStart(const Milestone &milestone);
-    void noteMilestone();
+    void showStart();
     void setPosition(qint64 time);
     void pointOut(CBaseObject *object);
     void stopPlaying();
@@ -90,7 +80,6 @@ private:
     std::unique_ptr<LessonStage> m_stage;
     int m_played = 0; ///< events that have happened
     qint64 m_position = 0;
-    QVector<Milestone> m_milestones; ///< in order, the start first
     QPointer<PageScene> m_highlighted;
     qint64 m_highlightEnd = 0; ///< position at which the highlight goes
 };
