@@ -108,6 +108,8 @@ void TestClipboard::pastingAgainGoesFurther()
     desk.paste();
     desk.paste();
     QCOMPARE(desk.placeOfLast(), QRectF(540, 340, 200, 120));
+    desk.paste();
+    QCOMPARE(desk.placeOfLast(), QRectF(560, 360, 200, 120));
     desk.board.page().select({desk.shape});
     desk.copy();
     desk.paste();
