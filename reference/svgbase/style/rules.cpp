@@ -131,20 +131,23 @@ bool StyleRules::match(const Tree &tree, NodeIndex element,
     const Node &node = tree.node(element);
     if (node.kind == ElementKind::Characters)
         return true;
-    QVector<int> candidates = m_universal;
-    candidates += m_byTag.value(localName(node));
-    const QStringList classes = words(node.attributes.value(AttributeId::Class));
-    for (const QString &name : classes)
-        candidates += m_byClass.value(name);
-    const QString id = node.attributes.value(AttributeId::Id);
-    if (!id.isEmpty())
-        candidates += m_byId.value(id);
     SelectorMatcher matcher(tree, qMax(Limits::leastSelectorSteps, Limits::selectorSteps / tree.size()));
     QVector<int> found;
-    for (const int place : qAsConst(candidates)) {
-        if (matcher.matches(element, m_entries.at(place).selector))
-            found.append(place);
-    }
+    const auto tryAll = [&](const QVector<int> &places) {
+        for (int i = 0; i < places.size() && !matcher.isExhausted(); ++i) {
+            if (matcher.matches(element, m_entries.at(places.at(i)).selector))
+                found.append(places.at(i));
+        }
+    };
+    // The rarest first: what is left of the steps goes to the others.
+    const QString id = node.attributes.value(AttributeId::Id);
+    if (!id.isEmpty())
+        tryAll(m_byId.value(id));
+    const QStringList classes = words(node.attributes.value(AttributeId::Class));
+    for (const QString &name : classes)
+        tryAll(m_byClass.value(name));
+    tryAll(m_byTag.value(localName(node)));
+    tryAll(m_universal);
     std::sort(found.begin(), found.end(), [this](int a, int b) {
         const Entry &first = m_entries.at(a);
         const Entry &second = m_entries.at(b);
