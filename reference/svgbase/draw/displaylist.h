@@ -44,6 +44,8 @@ struct DisplayItem
     QPen pen;
     /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
     QPainterPath strokePath;
+    /// How far the outlines go along the axes, painter units.
+    double outlineLength = 0;
     /// What an image shows, scaled down where it is much larger than its place, and where it goes: a part of it
     /// into a rectangle of its element's units, these into the painter's.
     QImage picture;

@@ -174,6 +174,7 @@ BuiltEffects buildEffects(BuildContext &context, NodeIndex node, const FactsPoin
     result.layer = std::make_shared<LayerEffects>();
     EffectBuilder builder(context, node, facts);
     result.layer->blendMode = style.blendMode;
+    result.layer->isolated = style.isolated;
     context.blends = context.blends || style.blendMode != BlendMode::Normal;
     result.drawn = builder.addClip(result.layer.get()) && builder.addMask(result.layer.get()) &&
                    builder.addFilter(result.layer.get());

@@ -4,6 +4,7 @@
 #include "draw/layerpictures.h"
 #include "draw/linearlight.h"
 #include "draw/pixelfilters.h"
+#include "inputlimits.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
@@ -16,7 +17,7 @@ namespace {
 
 /// What a primitive costs, in plain passes over its pixels.
 constexpr double plainCost = 2;
-constexpr double lineCost = 8;
+constexpr double lineCost = 40;
 /// How far from a pixel's edge a region may end and still be taken to end there.
 constexpr double alignmentTolerance = 1e-3;
 constexpr int greatestComponent = 255;
@@ -44,6 +45,8 @@ public:
 
 private:
     bool apply(const FilterPrimitive &primitive);
+    bool isNeededAfter(int index, const QString &name) const;
+    bool keepNeeded(int index);
     FilterResult input(const FilterPrimitive &primitive, int index) const;
     QImage inputPicture(const FilterPrimitive &primitive, int index) const;
     QRectF primitiveRegion(const FilterPrimitive &primitive) const;
@@ -348,6 +351,27 @@ bool StepRunner::apply(const FilterPrimitive &primitive)
     return true;
 }
 
+// Until another primitive takes the name.
+bool StepRunner::isNeededAfter(int index, const QString &name) const
+{
+    for (int i = index + 1; i < m_step.primitives.size(); ++i) {
+        if (m_step.primitives.at(i).inputs.contains(name))
+            return true;
+        if (m_step.primitives.at(i).result == name)
+            return false;
+    }
+    return false;
+}
+
+// False when more results are waiting than may be held.
+bool StepRunner::keepNeeded(int index)
+{
+    for (auto it = m_named.begin(); it != m_named.end();)
+        it = isNeededAfter(index, it.key()) ? std::next(it) : m_named.erase(it);
+    const double pixels = double(m_source.picture.width()) * m_source.picture.height();
+    return pixels * (m_named.size() + 1) <= Limits::openLayerPixels;
+}
+
 bool StepRunner::run(QImage *picture)
 {
     m_source.picture = *picture;
@@ -358,8 +382,8 @@ bool StepRunner::run(QImage *picture)
     m_sourceAlpha = m_source;
     keepAlpha(&m_sourceAlpha.picture);
     m_last = m_source;
-    for (const FilterPrimitive &primitive : m_step.primitives) {
-        if (!apply(primitive))
+    for (int i = 0; i < m_step.primitives.size(); ++i) {
+        if (!apply(m_step.primitives.at(i)) || !keepNeeded(i))
             return false;
     }
     *picture = inSpace(m_last, false);

@@ -1,6 +1,7 @@
 #include "draw/itemmapping.h"
 
 #include "draw/layereffects.h"
+#include "draw/paintingwork.h"
 #include "inputlimits.h"
 #include "resolve/images.h"
 
@@ -203,12 +204,12 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         item->bounds = QRectF();
         return;
     }
-    if (outline.pen.style() == Qt::NoPen)
-        return;
-    if (item->facts->style.strokeScales)
+    const bool stroked = outline.pen.style() != Qt::NoPen;
+    if (stroked && item->facts->style.strokeScales)
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
-    else
+    else if (stroked)
         mapUnscaledStroke(item, outline, transform, world);
+    item->outlineLength = paintedLength(*item);
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
@@ -248,11 +249,21 @@ void mapImage(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         shrinkPicture(item);
 }
 
+// Regions are made of single rectangles, or of whatever shape cuts a viewport.
+bool isRect(const QPainterPath &path)
+{
+    QPainterPath rect;
+    rect.addRect(path.controlPointRect());
+    return path == rect;
+}
+
 void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world)
 {
     LayerEffects *effects = item->effects.get();
     const QTransform placed = item->control ? aboutCentre(item->controlCentre, stretch) : stretch;
-    effects->regionPath = (effects->regionToDocument * placed * world).map(effects->region);
+    const QTransform regionTransform = effects->regionToDocument * placed * world;
+    effects->regionPath = regionTransform.map(effects->region);
+    effects->regionIsRect = regionTransform.type() <= QTransform::TxScale && isRect(effects->region);
     if (effects->filter) {
         effects->filter->toPainter = effects->filter->toDocument * placed * world;
         for (FilterStep &step : effects->filter->steps) {
@@ -275,13 +286,16 @@ QRectF coveredBounds(const QVector<DisplayItem> &items)
 // What is left of a layer's content by what it goes through.
 void restrictBounds(DisplayItem *layer)
 {
-    const LayerEffects *effects = layer->effects.get();
+    LayerEffects *effects = layer->effects.get();
     if (!effects)
         return;
     if (effects->filter)
         layer->bounds = filteredBounds(*effects->filter, layer->bounds);
-    if (effects->hasRegion)
-        layer->bounds &= effects->regionPath.controlPointRect();
+    if (effects->hasRegion) {
+        const QRectF region = effects->regionPath.controlPointRect();
+        effects->holdsContent = region.contains(layer->bounds);
+        layer->bounds &= region;
+    }
     if (effects->clips)
         layer->bounds &= coveredBounds(effects->clip);
     if (effects->masks)

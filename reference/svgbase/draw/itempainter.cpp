@@ -4,6 +4,7 @@
 #include "draw/filterrunner.h"
 #include "draw/layereffects.h"
 #include "draw/layerpictures.h"
+#include "draw/paintingwork.h"
 #include "inputlimits.h"
 
 #include <QtCore/QtMath>
@@ -20,15 +21,20 @@ constexpr QPainter::RenderHints smooth =
     QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
 /// How far smoothing reaches beyond an outline, pixels.
 constexpr int smoothingReach = 1;
+/// What blending by hand costs, in pixels painted aside.
+constexpr double blendCost = 20;
+/// How far from a pixel's edge a rectangle may end and still be taken to end there.
+constexpr double alignmentTolerance = 1e-3;
 /// What is painted aside while a picture is recorded lies within this.
 constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
 
-/// Pixels that a drawing may still paint aside, in all and at a time.
+/// What a drawing may still do: pixels painted aside, in all and at a time, and work on outlines.
 struct PixelBudget
 {
     double left = Limits::layerPixels;
     double open = 0;
     int depth = 0;
+    double work = Limits::paintedWork;
 };
 
 double pixelCount(const QRect &area, double pixelRatio)
@@ -102,7 +108,10 @@ struct Layer
     /// What can be painted on.
     QRect area;
     std::shared_ptr<LayerEffects> effects;
+    /// Null for a group that is painted straight on what lies below.
     std::unique_ptr<SidePicture> picture;
+    /// Whether the painter below was given a clip for this group.
+    bool clips = false;
 };
 
 class ItemPainter
@@ -115,7 +124,9 @@ private:
     void paintShape(const DisplayItem &item);
     void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
+    bool beginStraight(const DisplayItem &begin, Layer *layer);
     void endLayer();
+    Layer *pictureBelow();
     bool filtered(const Filter &filter, const Layer &layer, QImage *picture);
     void finish(Layer *layer);
     void paintPicture(Layer *done);
@@ -140,6 +151,9 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
 void ItemPainter::paintShape(const DisplayItem &item)
 {
     const Layer &layer = m_layers.back();
+    m_budget->work -= paintingWork(item, layer.area, m_pixelRatio);
+    if (m_budget->work < 0)
+        return;
     QPainter *painter = layer.painter;
     painter->setOpacity(layer.opacity * item.opacity);
     painter->setPen(item.pen);
@@ -175,6 +189,40 @@ QRect inputArea(const DisplayItem &begin, const QRect &area)
     return QRectF(area).adjusted(-size.width(), -size.height(), size.width(), size.height()).toAlignedRect();
 }
 
+bool endsAtPixels(double edge, double pixelRatio)
+{
+    const double pixels = edge * pixelRatio;
+    return qAbs(pixels - std::round(pixels)) < alignmentTolerance;
+}
+
+bool isOfPixels(const QRectF &rect, double pixelRatio)
+{
+    return endsAtPixels(rect.left(), pixelRatio) && endsAtPixels(rect.right(), pixelRatio) &&
+           endsAtPixels(rect.top(), pixelRatio) && endsAtPixels(rect.bottom(), pixelRatio);
+}
+
+// A group that is only cut needs no picture where nothing leaves its rectangle, or where that ends at whole pixels.
+bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
+{
+    const LayerEffects *effects = begin.effects.get();
+    const bool onlyCut = effects && effects->hasRegion && !effects->filter && !effects->clips && !effects->masks &&
+                         effects->blendMode == BlendMode::Normal && !effects->isolated && begin.opacity >= 1;
+    if (!onlyCut || !effects->regionIsRect)
+        return false;
+    const QRectF rect = effects->regionPath.controlPointRect();
+    layer->clips = !effects->holdsContent;
+    if (layer->clips && !isOfPixels(rect, m_pixelRatio))
+        return false;
+    const Layer &below = m_layers.back();
+    layer->painter = below.painter;
+    layer->opacity = below.opacity;
+    if (layer->clips) {
+        layer->painter->save();
+        layer->painter->setClipRect(rect, Qt::IntersectClip);
+    }
+    return true;
+}
+
 // False when nothing of the layer shows, so that all of it is passed over.
 bool ItemPainter::beginLayer(const DisplayItem &begin)
 {
@@ -184,6 +232,10 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
     layer.area = (reach & QRectF(inputArea(begin, below.area))).toAlignedRect();
     if (layer.area.isEmpty())
         return false;
+    if (beginStraight(begin, &layer)) {
+        m_layers.push_back(std::move(layer));
+        return true;
+    }
     layer.picture = SidePicture::make(layer.area, m_pixelRatio, m_budget);
     if (layer.picture) {
         layer.painter = layer.picture->painter();
@@ -265,9 +317,11 @@ void ItemPainter::paintPicture(Layer *done)
     const BlendMode mode = done->effects ? done->effects->blendMode : BlendMode::Normal;
     const Layer &below = m_layers.back();
     const QImage &picture = *done->picture->image();
-    if (!isForPainters(mode) && below.picture) {
-        const QPoint place = (done->area.topLeft() - below.area.topLeft()) * m_pixelRatio;
-        blendOver(below.picture->image(), place, picture, done->pictureOpacity, mode);
+    Layer *target = pictureBelow();
+    if (!isForPainters(mode) && target) {
+        m_budget->left -= blendCost * pixelCount(done->area, m_pixelRatio);
+        const QPoint place = (done->area.topLeft() - target->area.topLeft()) * m_pixelRatio;
+        blendOver(target->picture->image(), place, picture, done->pictureOpacity, mode);
         return;
     }
     below.painter->setOpacity(done->pictureOpacity);
@@ -278,10 +332,22 @@ void ItemPainter::paintPicture(Layer *done)
         below.painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
+// The next layer down that has a picture; null when the caller's painter comes first.
+Layer *ItemPainter::pictureBelow()
+{
+    for (auto layer = m_layers.rbegin(); layer != m_layers.rend(); ++layer) {
+        if (layer->picture)
+            return &*layer;
+    }
+    return nullptr;
+}
+
 void ItemPainter::endLayer()
 {
     Layer done = std::move(m_layers.back());
     m_layers.pop_back();
+    if (done.clips)
+        done.painter->restore();
     if (!done.picture)
         return;
     finish(&done);
@@ -325,6 +391,8 @@ QRect paintableArea(const QPainter &painter)
 void paintItems(QPainter *painter, const QVector<DisplayItem> &items)
 {
     PixelBudget budget;
+    const QSize window = paintableArea(*painter).size();
+    budget.work += Limits::paintedWorkPerPixel * window.width() * window.height();
     const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
     ItemPainter(painter, paintableArea(*painter), ratio, &budget).paint(items);
 }

@@ -17,6 +17,9 @@ struct LayerEffects
     QTransform regionToDocument;
     /// The region in the painter's coordinates.
     QPainterPath regionPath;
+    /// Whether that is a rectangle along the axes, and whether all of the content lies within.
+    bool regionIsRect = false;
+    bool holdsContent = false;
 
     /// Silhouettes; the picture shows as far as they cover.
     bool clips = false;
@@ -29,6 +32,7 @@ struct LayerEffects
     QVector<DisplayItem> mask;
 
     BlendMode blendMode = BlendMode::Normal;
+    bool isolated = false;
 };
 
 } // namespace Svg

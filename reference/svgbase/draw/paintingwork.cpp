@@ -1,0 +1,49 @@
+#include "draw/paintingwork.h"
+
+namespace Svg {
+
+namespace {
+
+// Measured with Qt's raster engine, which walks along a row of pixels to where an edge crosses it.
+constexpr double workPerCrossing = 10;
+constexpr double workPerStep = 0.5;
+constexpr double workPerElement = 50;
+constexpr double workPerPixel = 0.5;
+constexpr double sidesOfStroke = 2;
+
+double lengthOf(const QPainterPath &path)
+{
+    double length = 0;
+    for (int i = 1; i < path.elementCount(); ++i) {
+        const QPainterPath::Element a = path.elementAt(i - 1);
+        const QPainterPath::Element b = path.elementAt(i);
+        if (!b.isMoveTo())
+            length += qAbs(b.x - a.x) + qAbs(b.y - a.y);
+    }
+    return length;
+}
+
+} // namespace
+
+double paintedLength(const DisplayItem &item)
+{
+    const double outline = lengthOf(item.path);
+    const bool stroked = item.pen.style() != Qt::NoPen;
+    const double filled = item.fill.style() != Qt::NoBrush ? outline : 0;
+    return filled + (stroked ? sidesOfStroke * outline : 0) + lengthOf(item.strokePath);
+}
+
+double paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
+{
+    const QRectF visible = item.bounds & QRectF(area);
+    const double elements = item.path.elementCount() + item.strokePath.elementCount();
+    if (visible.isEmpty())
+        return elements * workPerElement;
+    const double share = qMin(1.0, visible.height() / item.bounds.height());
+    const double crossings = item.outlineLength * share * pixelRatio;
+    const double density = qMin(crossings / qMax(1.0, visible.height() * pixelRatio), visible.width() * pixelRatio);
+    return elements * workPerElement + crossings * (workPerCrossing + density * workPerStep) +
+           visible.width() * visible.height() * pixelRatio * pixelRatio * workPerPixel;
+}
+
+} // namespace Svg
