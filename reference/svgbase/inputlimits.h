@@ -72,7 +72,7 @@ constexpr int effectDepth = 16;
 constexpr double paintedWork = 1.5e9;
 constexpr double paintedWorkPerPixel = 500;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
-constexpr int layerDepth = 16;
+constexpr int layerDepth = 64;
 /// Most pixels that one drawing paints aside, all groups, clip paths and masks together.
 constexpr double layerPixels = 256.0 * 1024 * 1024;
 /// What one of them counts besides its pixels, for the time that its making takes.

@@ -1,0 +1,162 @@
+#include "inputlimits.h"
+#include "svgdrawing.h"
+
+#include <QtTest>
+
+using namespace Svg;
+
+namespace {
+
+/// Definitions "c0" to "c<count - 1>", each made from its own id and that of the one before it.
+QString chain(int count, const QString &first, const QString &next)
+{
+    QString text = first;
+    for (int i = 1; i < count; ++i)
+        text += QString(next).replace("THIS", QString::number(i)).replace("BEFORE", QString::number(i - 1));
+    return text;
+}
+
+QString clipChain(int count)
+{
+    return chain(count, "<clipPath id='c0'><rect width='100' height='100'/></clipPath>",
+                 "<clipPath id='cTHIS' clip-path='url(#cBEFORE)'><rect width='100' height='100'/></clipPath>") +
+           QString("<rect width='100' height='100' clip-path='url(#c%1)'/>").arg(count - 1);
+}
+
+QString filterOf(int primitives)
+{
+    return "<filter id='f'>" + QString("<feFlood flood-color='#0f0'/>").repeated(primitives) +
+           "</filter><rect width='100' height='100' fill='red' filter='url(#f)'/>";
+}
+
+/// Ten times each, so that following all of them would never end.
+QString tree(const QString &first, const QString &element, const QString &content, const QString &use)
+{
+    constexpr int levels = 12;
+    const QString next = "<" + element + " id='cTHIS'>" + content.repeated(10) + "</" + element + ">";
+    return chain(levels, first, next) + use;
+}
+
+} // namespace
+
+class TestEffectLimits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void clipPathsNestOnlySoDeep();
+    void filtersHaveOnlySoManyPrimitives();
+    void workOnOutlinesIsBounded();
+    void resultsThatWaitAreBounded();
+    void treesOfReferencesEnd_data();
+    void treesOfReferencesEnd();
+    void largeEffectsAreSurvived_data();
+    void largeEffectsAreSurvived();
+};
+
+void TestEffectLimits::clipPathsNestOnlySoDeep()
+{
+    QCOMPARE(drawnContent(clipChain(Limits::effectDepth)).pixelColor(50, 50), QColor(Qt::black));
+    QCOMPARE(drawnContent(clipChain(Limits::effectDepth + 1)).pixelColor(50, 50).alpha(), 0);
+}
+
+void TestEffectLimits::filtersHaveOnlySoManyPrimitives()
+{
+    QCOMPARE(drawnContent(filterOf(Limits::filterPrimitives)).pixelColor(50, 50), QColor(0, 255, 0));
+    // A filter that can't be applied counts as none.
+    QCOMPARE(drawnContent(filterOf(Limits::filterPrimitives + 1)).pixelColor(50, 50), QColor(255, 0, 0));
+}
+
+void TestEffectLimits::workOnOutlinesIsBounded()
+{
+    const QString dense = "<path fill='none' stroke='red' d='M0 0" + QString("L99 99 0 0").repeated(15000) + "'/>";
+    const QString content = "<rect width='9' height='9' fill='#00f'/>" + dense.repeated(20) +
+                            "<rect x='90' width='9' height='9' fill='#00f'/>";
+    const QImage image = drawnContent(content);
+    QCOMPARE(image.pixelColor(2, 7), QColor(0, 0, 255));
+    QCOMPARE(image.pixelColor(95, 2).alpha(), 0);
+}
+
+void TestEffectLimits::resultsThatWaitAreBounded()
+{
+    // Each of the results is asked for at the end: together they are more than may be held at 1000 × 1000 pixels.
+    QString results;
+    QString merge;
+    for (int i = 0; i < 50; ++i) {
+        results += QString("<feFlood flood-color='#0f0' result='r%1'/>").arg(i);
+        merge += QString("<feMergeNode in='r%1'/>").arg(i);
+    }
+    const DocumentPointer document =
+        loadContent("<filter id='f' x='0' y='0' width='1' height='1'>" + results + "<feMerge>" + merge +
+                    "</feMerge></filter><rect width='100' height='100' filter='url(#f)'/>");
+    QCOMPARE(drawn(*document, QSize(100, 100)).pixelColor(50, 50), QColor(0, 255, 0));
+    QCOMPARE(drawn(*document, QSize(1000, 1000)).pixelColor(500, 500).alpha(), 0);
+}
+
+void TestEffectLimits::treesOfReferencesEnd_data()
+{
+    QTest::addColumn<QString>("content");
+    const QString rect = "<rect width='50' height='50' fill='white'/>";
+    QTest::newRow("clip paths") << tree("<clipPath id='c0'>" + rect + "</clipPath>", "clipPath",
+                                        "<rect width='90' height='90' clip-path='url(#cBEFORE)'/>",
+                                        "<rect width='100' height='100' clip-path='url(#c11)'/>");
+    QTest::newRow("masks") << tree("<mask id='c0'>" + rect + "</mask>", "mask",
+                                   "<rect width='90' height='90' fill='white' mask='url(#cBEFORE)'/>",
+                                   "<rect width='100' height='100' mask='url(#c11)'/>");
+    QTest::newRow("markers") << tree("<marker id='c0'>" + rect + "</marker>", "marker",
+                                     "<path d='M0 0L1 1 2 2' marker-mid='url(#cBEFORE)'/>",
+                                     "<path d='M0 0L1 1 2 2' marker-mid='url(#c11)'/>");
+    QTest::newRow("faded uses") << tree("<g id='c0'>" + rect + "</g>", "g",
+                                        "<use opacity='.9' xlink:href='#cBEFORE'/>", "<use xlink:href='#c11'/>");
+    QTest::newRow("boxes of uses") << tree("<g id='c0'>" + rect + "</g>", "g",
+                                           "<use clip-path='url(#k)' xlink:href='#cBEFORE'/>",
+                                           "<clipPath id='k' clipPathUnits='objectBoundingBox'><circle r='1'/>"
+                                           "</clipPath><use clip-path='url(#k)' xlink:href='#c11'/>");
+}
+
+void TestEffectLimits::treesOfReferencesEnd()
+{
+    QFETCH(QString, content);
+    const QImage image = drawnContent("<rect x='95' y='95' width='5' height='5' fill='#0f0'/>" + content);
+    QCOMPARE(image.pixelColor(97, 97), QColor(0, 255, 0));
+}
+
+void TestEffectLimits::largeEffectsAreSurvived_data()
+{
+    QTest::addColumn<QString>("content");
+    const auto filtered = [](const QString &primitives, const QString &attributes = QString()) {
+        return "<filter id='f' " + attributes + ">" + primitives + "</filter>" +
+               QString("<rect width='90' height='90' filter='url(#f)'/>").repeated(10);
+    };
+    QTest::newRow("huge blur") << filtered("<feGaussianBlur stdDeviation='1e9'/>");
+    QTest::newRow("many blurs") << filtered(QString("<feGaussianBlur stdDeviation='5'/>").repeated(100));
+    QTest::newRow("huge radius") << filtered("<feMorphology radius='1e9'/><feMorphology operator='dilate' "
+                                             "radius='1e9'/>");
+    QTest::newRow("huge region") << filtered("<feFlood/><feOffset dx='1e9'/><feTile/>",
+                                             "filterUnits='userSpaceOnUse' x='-1e9' y='-1e9' width='2e9' "
+                                             "height='2e9'");
+    QTest::newRow("numbers without end") << filtered("<feComposite operator='arithmetic' k1='1e300' k4='-1e300' "
+                                                     "in2='SourceGraphic'/><feColorMatrix type='hueRotate' "
+                                                     "values='1e300'/><feComponentTransfer><feFuncR type='gamma' "
+                                                     "exponent='-1e300' amplitude='1e300'/></feComponentTransfer>");
+    QTest::newRow("huge markers") << "<marker id='m' markerWidth='1e9' markerHeight='1e9' viewBox='0 0 1e-9 1e-9'>"
+                                     "<rect width='9' height='9' opacity='.5'/></marker>"
+                                     "<path d='M0 0L9 9' stroke-width='1e6' marker-end='url(#m)'/>";
+    QTest::newRow("nested filters") << "<filter id='f'><feGaussianBlur stdDeviation='2'/></filter>" +
+                                           QString("<g filter='url(#f)'>").repeated(300) + "<rect/>" +
+                                           QString("</g>").repeated(300);
+    QTest::newRow("many hand-made blends")
+        << QString("<rect width='90' height='90' style='mix-blend-mode:hue'/>").repeated(3000);
+}
+
+void TestEffectLimits::largeEffectsAreSurvived()
+{
+    QFETCH(QString, content);
+    const DocumentPointer document =
+        loadContent(content + "<rect x='95' y='95' width='5' height='5' fill='#0f0'/>");
+    const QImage image = drawn(*document);
+    QCOMPARE(image.pixelColor(97, 97), QColor(0, 255, 0));
+}
+
+QTEST_MAIN(TestEffectLimits)
+#include "test_effectlimits.moc"
