@@ -67,8 +67,8 @@ constexpr double dashes = 20000;
 constexpr int boundsVisits = 1000000;
 /// Deepest nesting of clip paths, masks and markers in each other's content.
 constexpr int effectDepth = 16;
-/// Most work that one drawing does on outlines, about in nanoseconds, and as much more for every pixel of its target;
-/// what comes when it is used up is not painted.
+/// Most work that one drawing does on outlines, about in nanoseconds, and as much more for every pixel of its
+/// target; what comes when it is used up is not painted.
 constexpr double paintedWork = 1.5e9;
 constexpr double paintedWorkPerPixel = 500;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
