@@ -375,7 +375,8 @@ void DataValue::read(QDataStream &in)
 
 void DataValue::fromJson(const QJsonValue &value)
 {
-    m_value = QByteArray::fromBase64(value.toString().toLatin1());
+    const QByteArray bytes = QByteArray::fromBase64(value.toString().toLatin1());
+    m_value = bytes.isEmpty() ? QByteArray() : bytes; // none, as a new shape has it
 }
 
 } // namespace shapekit
