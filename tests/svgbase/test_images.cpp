@@ -45,6 +45,13 @@ quint32 crc(const QByteArray &bytes)
     return ~value;
 }
 
+QByteArray bigEndian(quint32 value)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
 /// A PNG whose header claims a size that its data does not have.
 QByteArray claiming(int width, int height)
 {
@@ -52,9 +59,8 @@ QByteArray claiming(int width, int height)
     constexpr int headerOffset = 12;
     constexpr int headerSize = 17;
     constexpr int sizeOffset = 16;
-    qToBigEndian(qint32(width), bytes.data() + sizeOffset);
-    qToBigEndian(qint32(height), bytes.data() + sizeOffset + 4);
-    qToBigEndian(crc(bytes.mid(headerOffset, headerSize)), bytes.data() + headerOffset + headerSize);
+    bytes.replace(sizeOffset, 8, bigEndian(quint32(width)) + bigEndian(quint32(height)));
+    bytes.replace(headerOffset + headerSize, 4, bigEndian(crc(bytes.mid(headerOffset, headerSize))));
     return bytes;
 }
 
