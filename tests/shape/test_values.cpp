@@ -124,8 +124,9 @@ void TestValues::penStylesOutsideTheTypeAreSolid_data()
     QTest::newRow("none") << 0 << 0;
     QTest::newRow("dashes and two dots") << 5 << 5;
     QTest::newRow("custom") << 6 << 6;
-    QTest::newRow("most that the type holds") << 15 << 15;
-    QTest::newRow("above") << 16 << 1;
+    QTest::newRow("first above") << 7 << 1;
+    QTest::newRow("most that the type holds") << 15 << 1;
+    QTest::newRow("above the type") << 16 << 1;
     QTest::newRow("negative") << -1 << 1;
 }
 

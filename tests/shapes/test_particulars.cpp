@@ -60,11 +60,11 @@ void TestParticulars::triangleRefusesToCollapse()
     ShapeDriver triangle(QStringLiteral("triangle"));
     triangle.createByClick();
     triangle.select();
-    triangle.holdControlPoint(1, QPointF(0, 90));
-    // The last step, to 94, would leave 6 of 104; the one half way is as far as it went.
-    QVERIFY(isNear(triangle.controlPoint(1).center(), QPointF(60, 94)));
-    triangle.moveTo(QPointF(60, 99.5));
-    QVERIFY(isNear(triangle.controlPoint(1).center(), QPointF(60, 94)));
+    triangle.holdControlPoint(1, QPointF(0, 80));
+    QVERIFY(isNear(triangle.controlPoint(1).center(), QPointF(60, 88)));
+    // Half a unit above the line between the other two is too near.
+    triangle.moveTo(QPointF(60, 95.5));
+    QVERIFY(isNear(triangle.controlPoint(1).center(), QPointF(60, 88)));
 }
 
 void TestParticulars::pieIsWhatLiesClockwiseBetweenItsPoints()
