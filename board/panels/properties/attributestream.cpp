@@ -96,7 +96,11 @@ Reading readColor(PropertyDescription property, const QByteArray &bytes)
         return {};
     const bool isBrush = bytes.size() > colorBytes;
     // Of a brush only the colour is read: its gradient or texture is the object's own, and could be anything.
-    Reader in(bytes.mid(isBrush ? colorAtInBrush : 0, colorBytes));
+    const QByteArray colorStream = bytes.mid(isBrush ? colorAtInBrush : 0, colorBytes);
+    // Qt takes over any number as the colour's model, and trips over it later.
+    if (uchar(colorStream.at(0)) > QColor::ExtendedRgb)
+        return {};
+    Reader in(colorStream);
     const auto color = in.take<QColor>();
     const QColor shown = isBrush ? shownColor(Qt::BrushStyle(bytes.at(0)), color) : color;
     property.kind = isBrush ? PropertyDescription::Brush : PropertyDescription::Color;

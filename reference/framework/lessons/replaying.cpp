@@ -12,11 +12,17 @@ constexpr int fillAction = 1005;
 /// A QColor on a stream: its model, and five numbers of 16 bits. A brush is longer.
 constexpr int colorBytes = 1 + 5 * 2;
 
+/// Qt takes over any number as a colour's model, and trips over it later.
+bool isColorModel(char number)
+{
+    return uchar(number) <= QColor::ExtendedRgb;
+}
+
 } // namespace
 
 QByteArray replayedPayload(int actionId, const QByteArray &recorded)
 {
-    if (actionId != fillAction || recorded.size() != colorBytes) {
+    if (actionId != fillAction || recorded.size() != colorBytes || !isColorModel(recorded.at(0))) {
         return recorded;
     }
     QColor color;

@@ -21,6 +21,8 @@ constexpr QPainter::RenderHints smooth =
     QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
 /// How far smoothing reaches beyond an outline, pixels.
 constexpr int smoothingReach = 1;
+/// Filters may ask for pixels from anywhere; farther than this no picture reaches.
+constexpr double farthestPixel = 1 << 24;
 /// What blending by hand costs, in pixels painted aside.
 constexpr double blendCost = 20;
 /// How far from a pixel's edge a rectangle may end and still be taken to end there.
@@ -179,14 +181,15 @@ void ItemPainter::paintImage(const DisplayItem &item)
 }
 
 // What a filter moves or blurs may come from outside of what is painted on.
-QRect inputArea(const DisplayItem &begin, const QRect &area)
+QRectF inputArea(const DisplayItem &begin, const QRect &area)
 {
     if (!begin.effects || !begin.effects->filter)
         return area;
     const Filter &filter = *begin.effects->filter;
     const QSizeF reach = filterReach(filter);
     const QSizeF size = filter.toPainter.mapRect(QRectF(QPointF(), reach)).size();
-    return QRectF(area).adjusted(-size.width(), -size.height(), size.width(), size.height()).toAlignedRect();
+    const QRectF grown = QRectF(area).adjusted(-size.width(), -size.height(), size.width(), size.height());
+    return grown & QRectF(QPointF(-farthestPixel, -farthestPixel), QPointF(farthestPixel, farthestPixel));
 }
 
 bool endsAtPixels(double edge, double pixelRatio)
@@ -229,7 +232,7 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
     const Layer &below = m_layers.back();
     const QRectF reach = begin.bounds.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach);
     Layer layer;
-    layer.area = (reach & QRectF(inputArea(begin, below.area))).toAlignedRect();
+    layer.area = (reach & inputArea(begin, below.area)).toAlignedRect();
     if (layer.area.isEmpty())
         return false;
     if (beginStraight(begin, &layer)) {
