@@ -20,7 +20,7 @@ template<typename Change> void forEachPixel(QImage *picture, Change change)
 
 int byteOf(double value)
 {
-    return qBound(0, qRound(value), greatest);
+    return qRound(qBound(0.0, value, double(greatest)));
 }
 
 std::array<int, valueCount> linearTable()
