@@ -111,7 +111,6 @@ private:
     void paintContent(QPainter *target, bool toCache);
     void renderCache();
     void copyCache(QPainter *painter);
-    bool canPaintCore() const;
 
     void startCreation(QPointF pos);
     void followCreation(QPointF scenePos);
