@@ -96,6 +96,8 @@ constexpr int keptPictureBytes = 64 * 1024 * 1024;
 constexpr int imageDepth = 4;
 /// Most primitives of a filter, and functions in a list of them.
 constexpr int filterPrimitives = 100;
+/// Most factors of an "feConvolveMatrix".
+constexpr int convolutionFactors = 1024;
 /// Most messages that a document keeps.
 constexpr int messages = 100;
 

@@ -3,6 +3,7 @@
 #include "draw/displaylist.h"
 
 #include <array>
+#include <memory>
 #include <optional>
 
 namespace Svg {
@@ -17,6 +18,11 @@ struct PrimitiveRegion
 };
 
 enum class CompositeOperator : quint8 { Over, In, Out, Atop, Xor, Lighter, Arithmetic };
+
+struct Convolution;
+struct Displacement;
+struct Lighting;
+struct Turbulence;
 
 /// One step of a filter; which members count depends on its kind.
 struct FilterPrimitive
@@ -41,6 +47,10 @@ struct FilterPrimitive
     /// New values by old ones: red, green, blue, alpha.
     std::array<QByteArray, 4> tables;
     bool dilates = false;
+    std::shared_ptr<const Convolution> convolution;
+    std::shared_ptr<const Displacement> displacement;
+    std::shared_ptr<const Lighting> lighting;
+    std::shared_ptr<const Turbulence> turbulence;
     /// What an "feImage" shows.
     QVector<DisplayItem> items;
 };

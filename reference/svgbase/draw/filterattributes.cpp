@@ -1,6 +1,7 @@
 #include "draw/filterattributes.h"
 
 #include "draw/filterfunctions.h"
+#include "draw/primitivereaders.h"
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
@@ -252,6 +253,19 @@ FilterPrimitive PrimitiveReader::read()
         break;
     case ElementKind::FeMerge:
         readMergeInputs();
+        break;
+    case ElementKind::FeConvolveMatrix:
+        m_result.convolution = std::make_shared<const Convolution>(readConvolution(m_node.attributes));
+        break;
+    case ElementKind::FeDisplacementMap:
+        m_result.displacement = std::make_shared<const Displacement>(readDisplacement(m_node.attributes, m_units));
+        break;
+    case ElementKind::FeDiffuseLighting:
+    case ElementKind::FeSpecularLighting:
+        m_result.lighting = std::make_shared<const Lighting>(readLighting(m_tree, m_index, m_style, m_units));
+        break;
+    case ElementKind::FeTurbulence:
+        m_result.turbulence = std::make_shared<const Turbulence>(readTurbulence(m_node.attributes, m_units));
         break;
     default:
         break;

@@ -4,8 +4,12 @@
 #include "draw/filterattributes.h"
 #include "draw/filterfunctions.h"
 #include "draw/imagebuilder.h"
+#include "draw/listbuilder.h"
+#include "draw/openreference.h"
 #include "inputlimits.h"
 #include "resolve/images.h"
+#include "resolve/resolver.h"
+#include "tree/references.h"
 
 namespace Svg {
 
@@ -13,7 +17,7 @@ namespace {
 
 bool isPrimitive(ElementKind kind)
 {
-    return kind >= ElementKind::FeBlend && kind <= ElementKind::FeTile && kind != ElementKind::FeMergeNode;
+    return kind >= ElementKind::FeBlend && kind <= ElementKind::FeTurbulence && kind != ElementKind::FeMergeNode;
 }
 
 class FilterBuilder
@@ -32,6 +36,7 @@ private:
     const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
     bool addPrimitives(NodeIndex filter, FilterStep *step);
     ImagePointer image(NodeIndex node);
+    void buildElementImage(NodeIndex node, FilterPrimitive *primitive);
     void buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive);
 
     BuildContext &m_context;
@@ -52,10 +57,34 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     return read;
 }
 
+// An element is shown as "use" would, in the units of the filtered one (Filter Effects 1 §9.12).
+void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive)
+{
+    const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
+    if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown))
+        return;
+    const ElementKind kind = element(shown).kind;
+    if (!isDrawable(kind) && kind != ElementKind::Symbol)
+        return;
+    const OpenReference open(m_context, shown);
+    auto *around = new Facts;
+    const FactsPointer holder(around);
+    around->style = inheritedStyle(m_context.document.facts(node)->style);
+    around->viewport = m_target.viewport;
+    around->toDocument = m_target.toDocument;
+    const Resolver resolver(m_context.document.tree(), m_context.document.referenceRevision());
+    const FactsPointer facts = resolver.resolve(shown, holder, m_context.document.facts(shown).data());
+    primitive->items = buildElement(m_context, shown, facts);
+}
+
 // The picture of an "feImage" is fitted into its subregion (Filter Effects 1 §9.12).
 void FilterBuilder::buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive)
 {
     const Attributes &attributes = element(node).attributes;
+    if (!hrefTarget(attributes).isEmpty()) {
+        buildElementImage(node, primitive);
+        return;
+    }
     auto *facts = new Facts;
     const FactsPointer holder(facts);
     facts->image = image(node);
@@ -80,7 +109,7 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
                                m_target.bounds, m_target.viewport};
     for (NodeIndex at = element(filter).firstChild; at != noNode; at = element(at).next) {
         const ElementKind kind = element(at).kind;
-        if (kind == ElementKind::FeOther || step->primitives.size() >= Limits::filterPrimitives)
+        if (step->primitives.size() >= Limits::filterPrimitives)
             return false;
         if (!isPrimitive(kind))
             continue;

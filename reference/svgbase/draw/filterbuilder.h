@@ -24,7 +24,7 @@ struct BuiltFilter
     /// False when the filter leaves nothing to see.
     bool drawn = true;
     /// Null when the element is drawn as if it had none: a list that refers to nothing or to another kind of
-    /// element (Filter Effects 1 §5), or that uses a primitive which is not implemented.
+    /// element (Filter Effects 1 §5), or one that is too long.
     std::shared_ptr<Filter> filter;
 };
 

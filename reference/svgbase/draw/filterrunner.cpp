@@ -1,9 +1,13 @@
 #include "draw/filterrunner.h"
 
 #include "draw/compositionmodes.h"
+#include "draw/convolution.h"
+#include "draw/displacement.h"
 #include "draw/layerpictures.h"
+#include "draw/lighting.h"
 #include "draw/linearlight.h"
 #include "draw/pixelfilters.h"
+#include "draw/turbulence.h"
 #include "inputlimits.h"
 
 #include <QtCore/QtMath>
@@ -18,6 +22,9 @@ namespace {
 /// What a primitive costs, in plain passes over its pixels.
 constexpr double plainCost = 2;
 constexpr double lineCost = 40;
+constexpr double lightCost = 40;
+constexpr double factorCost = 4;
+constexpr double octaveCost = 16;
 /// How far from a pixel's edge a region may end and still be taken to end there.
 constexpr double alignmentTolerance = 1e-3;
 constexpr int greatestComponent = 255;
@@ -61,6 +68,11 @@ private:
     QImage merged(const FilterPrimitive &primitive) const;
     QImage morphed(const FilterPrimitive &primitive) const;
     QImage tiled(const FilterPrimitive &primitive) const;
+    QImage convolved(const FilterPrimitive &primitive) const;
+    QImage displaced(const FilterPrimitive &primitive) const;
+    QImage lit(const FilterPrimitive &primitive) const;
+    QImage turbulent(const FilterPrimitive &primitive) const;
+    QVector3D pixelPlace(const QVector3D &place) const;
     QSizeF pixelSize(const QSizeF &size) const;
     QRect pixelRect(const QRectF &region) const;
     void cut(QImage *picture, const QRectF &region) const;
@@ -142,11 +154,13 @@ int inputCount(const FilterPrimitive &primitive)
     case ElementKind::FeFlood:
     case ElementKind::FeImage:
     case ElementKind::FeTile:
+    case ElementKind::FeTurbulence:
         return 0;
     case ElementKind::FeMerge:
         return primitive.inputs.size();
     case ElementKind::FeBlend:
     case ElementKind::FeComposite:
+    case ElementKind::FeDisplacementMap:
         return 2;
     default:
         return 1;
@@ -290,6 +304,56 @@ QImage StepRunner::tiled(const FilterPrimitive &primitive) const
     return picture;
 }
 
+QImage StepRunner::convolved(const FilterPrimitive &primitive) const
+{
+    QImage picture = inputPicture(primitive, 0);
+    convolvePicture(&picture, *primitive.convolution, pixelRect(m_region));
+    return picture;
+}
+
+QImage StepRunner::displaced(const FilterPrimitive &primitive) const
+{
+    QImage picture = inputPicture(primitive, 0);
+    Displacement displacement = *primitive.displacement;
+    const QSizeF scale = displacement.scale;
+    displacement.scale = pixelSize(QSizeF(qAbs(scale.width()), qAbs(scale.height())));
+    if (scale.width() < 0)
+        displacement.scale *= -1;
+    displacePicture(&picture, inputPicture(primitive, 1), displacement);
+    return picture;
+}
+
+// Heights grow as the picture does.
+QVector3D StepRunner::pixelPlace(const QVector3D &place) const
+{
+    const QPointF mapped = m_toPixels.map(place.toPointF());
+    const double growth =
+        std::hypot(std::hypot(m_toPixels.m11(), m_toPixels.m12()), std::hypot(m_toPixels.m21(), m_toPixels.m22())) /
+        M_SQRT2;
+    return QVector3D(float(mapped.x()), float(mapped.y()), float(double(place.z()) * growth));
+}
+
+QImage StepRunner::lit(const FilterPrimitive &primitive) const
+{
+    Lighting lighting = *primitive.lighting;
+    lighting.light.place = pixelPlace(lighting.light.place);
+    lighting.light.pointsAt = pixelPlace(lighting.light.pointsAt);
+    if (primitive.linear)
+        lighting.color = inLinearLight(lighting.color);
+    QImage picture = inputPicture(primitive, 0);
+    lightPicture(&picture, lighting, pixelRect(m_region));
+    return picture;
+}
+
+QImage StepRunner::turbulent(const FilterPrimitive &primitive) const
+{
+    Turbulence turbulence = *primitive.turbulence;
+    turbulence.tile = primitiveRegion(primitive) & m_region;
+    QImage picture = blank();
+    fillWithTurbulence(&picture, turbulence, m_toPixels.inverted());
+    return picture;
+}
+
 QImage StepRunner::result(const FilterPrimitive &primitive) const
 {
     QImage picture;
@@ -312,6 +376,15 @@ QImage StepRunner::result(const FilterPrimitive &primitive) const
         return morphed(primitive);
     case ElementKind::FeTile:
         return tiled(primitive);
+    case ElementKind::FeConvolveMatrix:
+        return convolved(primitive);
+    case ElementKind::FeDisplacementMap:
+        return displaced(primitive);
+    case ElementKind::FeDiffuseLighting:
+    case ElementKind::FeSpecularLighting:
+        return lit(primitive);
+    case ElementKind::FeTurbulence:
+        return turbulent(primitive);
     case ElementKind::FeColorMatrix:
         picture = inputPicture(primitive, 0);
         applyMatrix(&picture, primitive.matrix);
@@ -334,11 +407,22 @@ bool isEncoded(ElementKind kind)
     return kind == ElementKind::FeFlood || kind == ElementKind::FeImage;
 }
 
+double costOfPixel(const FilterPrimitive &primitive)
+{
+    if (primitive.convolution)
+        return plainCost + factorCost * primitive.convolution->factors.size();
+    if (primitive.turbulence)
+        return plainCost + octaveCost * primitive.turbulence->octaves;
+    if (primitive.lighting)
+        return lightCost;
+    const bool byLines = primitive.extent.width() > 0 || primitive.extent.height() > 0;
+    return byLines ? lineCost : plainCost + primitive.inputs.size();
+}
+
 bool StepRunner::apply(const FilterPrimitive &primitive)
 {
-    const bool byLines = primitive.extent.width() > 0 || primitive.extent.height() > 0;
     const double pixels = double(m_source.picture.width()) * m_source.picture.height();
-    if (!m_services.takePixels(pixels * (byLines ? lineCost : plainCost + primitive.inputs.size())))
+    if (!m_services.takePixels(pixels * costOfPixel(primitive)))
         return false;
     FilterResult made;
     made.region = primitiveRegion(primitive) & m_region;

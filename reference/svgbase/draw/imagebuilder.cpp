@@ -65,7 +65,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, const Facts &facts)
     auto *root = new Facts(*document.facts(rootNode));
     const FactsPointer rootFacts(root);
     root->toDocument = root->toDocument * facts.fit * facts.toDocument;
-    QVector<DisplayItem> items = buildNested(inner, rootFacts);
+    QVector<DisplayItem> items = buildElement(inner, rootNode, rootFacts);
     if (inner.blends)
         wrapInLayer(inner, rootNode, nullptr, &items);
     context.budget = inner.budget;

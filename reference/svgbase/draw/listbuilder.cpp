@@ -34,7 +34,7 @@ public:
 
     BuiltList build();
     QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
-    QVector<DisplayItem> buildNested(const FactsPointer &root);
+    QVector<DisplayItem> buildElement(NodeIndex node, const FactsPointer &facts);
 
 private:
     DrawingVisitor visitor();
@@ -312,18 +312,18 @@ QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPoin
     return m_result.items;
 }
 
-QVector<DisplayItem> ListBuilder::buildNested(const FactsPointer &root)
+QVector<DisplayItem> ListBuilder::buildElement(NodeIndex node, const FactsPointer &facts)
 {
     m_isContent = true;
-    walkUsed(m_document, rootNode, root, visitor(), &m_context.budget);
+    walkUsed(m_document, node, facts, visitor(), &m_context.budget);
     return m_result.items;
 }
 
 } // namespace
 
-QVector<DisplayItem> buildNested(BuildContext &context, const FactsPointer &root)
+QVector<DisplayItem> buildElement(BuildContext &context, NodeIndex node, const FactsPointer &facts)
 {
-    return ListBuilder(context, ContentUse::Drawing).buildNested(root);
+    return ListBuilder(context, ContentUse::Drawing).buildElement(node, facts);
 }
 
 BuiltList buildList(Document &document)

@@ -25,7 +25,7 @@ enum class ContentUse {
 QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
                                   ContentUse use);
 
-/// The items of the whole of a context's document, its root having the given facts.
-QVector<DisplayItem> buildNested(BuildContext &context, const FactsPointer &root);
+/// The items of an element, the root for all of a document, under the given facts.
+QVector<DisplayItem> buildElement(BuildContext &context, NodeIndex node, const FactsPointer &facts);
 
 } // namespace Svg

@@ -138,15 +138,15 @@ bool applyMarker(ComputedStyle &style, QStringView text, std::initializer_list<Q
     return true;
 }
 
-bool applyFloodColor(ComputedStyle &style, QStringView text)
+bool applyEffectColor(ComputedStyle &style, QColor EffectStyle::*member, QStringView text)
 {
     if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0) {
-        effectsOf(style).floodColor = style.color;
+        effectsOf(style).*member = style.color;
         return true;
     }
     const std::optional<QColor> color = parseColor(text);
     if (color)
-        effectsOf(style).floodColor = *color;
+        effectsOf(style).*member = *color;
     return color.has_value();
 }
 
@@ -197,13 +197,15 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
     case AttributeId::Filter:
         return applyFilter(style, value);
     case AttributeId::FloodColor:
-        return applyFloodColor(style, value);
+        return applyEffectColor(style, &EffectStyle::floodColor, value);
     case AttributeId::FloodOpacity:
         return applyFloodOpacity(style, value);
     case AttributeId::ImageRendering:
         return applyKeyword(style.smoothImages, value, imageRenderings);
     case AttributeId::Isolation:
         return applyEffectKeyword(style, &EffectStyle::isolated, value, isolations);
+    case AttributeId::LightingColor:
+        return applyEffectColor(style, &EffectStyle::lightingColor, value);
     case AttributeId::Marker:
         return applyMarker(style, value, {&MarkerStyle::start, &MarkerStyle::mid, &MarkerStyle::end});
     case AttributeId::MarkerEnd:
@@ -254,6 +256,9 @@ void inheritEffectProperty(ComputedStyle &style, AttributeId property, const Com
         break;
     case AttributeId::Isolation:
         inheritMember(style, &EffectStyle::isolated, parent);
+        break;
+    case AttributeId::LightingColor:
+        inheritMember(style, &EffectStyle::lightingColor, parent);
         break;
     case AttributeId::Marker:
         style.markers = parent.markers;

@@ -44,6 +44,7 @@ struct EffectStyle : QSharedData
     bool alphaMask = false;
     QColor floodColor = Qt::black;
     double floodOpacity = 1;
+    QColor lightingColor = Qt::white;
 };
 
 /// Ids of the markers of an element; inherited. Empty where there is none.

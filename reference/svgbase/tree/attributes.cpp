@@ -51,6 +51,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("image-rendering"), AttributeId::ImageRendering},
     {QLatin1String("isolation"), AttributeId::Isolation},
     {QLatin1String("letter-spacing"), AttributeId::LetterSpacing},
+    {QLatin1String("lighting-color"), AttributeId::LightingColor},
     {QLatin1String("marker"), AttributeId::Marker},
     {QLatin1String("marker-end"), AttributeId::MarkerEnd},
     {QLatin1String("marker-mid"), AttributeId::MarkerMid},

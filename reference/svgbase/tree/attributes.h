@@ -43,6 +43,7 @@ enum class AttributeId : quint8 {
     FloodOpacity,
     ImageRendering,
     Isolation,
+    LightingColor,
     Marker,
     MarkerEnd,
     MarkerMid,

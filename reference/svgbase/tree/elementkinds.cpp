@@ -65,11 +65,14 @@ const KindName kindNames[] = {
     {QLatin1String("feFuncG"), ElementKind::FeFuncG},
     {QLatin1String("feFuncB"), ElementKind::FeFuncB},
     {QLatin1String("feFuncA"), ElementKind::FeFuncA},
-    {QLatin1String("feConvolveMatrix"), ElementKind::FeOther},
-    {QLatin1String("feDiffuseLighting"), ElementKind::FeOther},
-    {QLatin1String("feDisplacementMap"), ElementKind::FeOther},
-    {QLatin1String("feSpecularLighting"), ElementKind::FeOther},
-    {QLatin1String("feTurbulence"), ElementKind::FeOther},
+    {QLatin1String("feConvolveMatrix"), ElementKind::FeConvolveMatrix},
+    {QLatin1String("feDiffuseLighting"), ElementKind::FeDiffuseLighting},
+    {QLatin1String("feDisplacementMap"), ElementKind::FeDisplacementMap},
+    {QLatin1String("feSpecularLighting"), ElementKind::FeSpecularLighting},
+    {QLatin1String("feTurbulence"), ElementKind::FeTurbulence},
+    {QLatin1String("feDistantLight"), ElementKind::FeDistantLight},
+    {QLatin1String("fePointLight"), ElementKind::FePointLight},
+    {QLatin1String("feSpotLight"), ElementKind::FeSpotLight},
 };
 
 } // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtCore/QVector>
+#include <QtGui/QImage>
+
+namespace Svg {
+
+/// What an "feConvolveMatrix" does (Filter Effects 1 §9.9).
+struct Convolution
+{
+    enum Edges : quint8 { Duplicate, Wrap, Transparent };
+
+    /// Factors of the neighbours, row by row, divided already; empty for none, which changes nothing.
+    QVector<double> factors;
+    QSize order{3, 3};
+    QPoint target{1, 1};
+    double bias = 0;
+    Edges edges = Duplicate;
+    bool preservesAlpha = false;
+};
+
+/// Replaces every pixel within `area`, whose edges count as the picture's, by a weighted sum of its neighbours.
+void convolvePicture(QImage *picture, const Convolution &convolution, const QRect &area);
+
+} // namespace Svg

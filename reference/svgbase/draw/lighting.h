@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtGui/QVector3D>
+
+#include <optional>
+
+namespace Svg {
+
+struct LightSource
+{
+    enum Kind { None, Distant, Point, Spot };
+    Kind kind = None;
+    /// Of a distant one: towards it, degrees.
+    double azimuth = 0;
+    double elevation = 0;
+    /// Of the others, in pixels once a picture is lit.
+    QVector3D place;
+    QVector3D pointsAt;
+    double focus = 1;
+    /// Of a spot light: how far from its axis it shines, degrees.
+    std::optional<double> cone;
+};
+
+/// What "feDiffuseLighting" and "feSpecularLighting" make of a height map (Filter Effects 1 §9.9, §9.20).
+struct Lighting
+{
+    bool specular = false;
+    double surfaceScale = 1;
+    /// kd or ks.
+    double reflection = 1;
+    double shininess = 1;
+    QColor color = Qt::white;
+    LightSource light;
+};
+
+/// Replaces a picture, whose alpha is the height of a surface, by the light that the surface reflects. Its edges
+/// are those of `area`.
+void lightPicture(QImage *picture, const Lighting &lighting, const QRect &area);
+
+} // namespace Svg

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "draw/convolution.h"
+#include "draw/displacement.h"
+#include "draw/filterattributes.h"
+#include "draw/lighting.h"
+#include "draw/turbulence.h"
+
+namespace Svg {
+
+/// Readers of the primitives that have many attributes of their own. Values that break their grammar, or are out of
+/// their range, leave their defaults.
+
+Turbulence readTurbulence(const Attributes &attributes, const PrimitiveUnits &units);
+/// The light is the first child that is one.
+Lighting readLighting(const Tree &tree, NodeIndex node, const ComputedStyle &style, const PrimitiveUnits &units);
+/// A matrix that does not have as many numbers as "order" says leaves the input as it is.
+Convolution readConvolution(const Attributes &attributes);
+Displacement readDisplacement(const Attributes &attributes, const PrimitiveUnits &units);
+
+} // namespace Svg

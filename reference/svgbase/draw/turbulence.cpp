@@ -1,0 +1,223 @@
+#include "draw/turbulence.h"
+
+#include <array>
+#include <cmath>
+
+namespace Svg {
+
+namespace {
+
+constexpr int latticeSize = 256;
+constexpr int channelCount = 4;
+/// Keeps lattice coordinates of ordinary places positive, as the standard has it.
+constexpr double latticeOffset = 4096;
+/// Beyond it the fractions of lattice coordinates are lost, and with them the noise.
+constexpr double farthestPlace = 1e12;
+constexpr int greatest = 255;
+
+/// The generator of random numbers that the standard prescribes: a linear congruential one, modulo 2^31 - 1.
+class RandomNumbers
+{
+public:
+    explicit RandomNumbers(double start)
+    {
+        const auto whole = qint64(qBound(-double(modulus), start, double(modulus)));
+        m_state = whole <= 0 ? -(whole % (modulus - 1)) + 1 : qMin(whole, modulus - 1);
+    }
+    qint64 next() { return m_state = m_state * factor % modulus; }
+
+private:
+    static constexpr qint64 modulus = 2147483647;
+    static constexpr qint64 factor = 16807;
+    qint64 m_state;
+};
+
+/// How the lattice repeats, so that a tile's edges meet.
+struct Stitching
+{
+    double width = 0;
+    double height = 0;
+    double wrapX = 0;
+    double wrapY = 0;
+
+    void doubleFrequency()
+    {
+        width *= 2;
+        height *= 2;
+        wrapX = 2 * wrapX - latticeOffset;
+        wrapY = 2 * wrapY - latticeOffset;
+    }
+};
+
+struct Gradient
+{
+    double x = 0;
+    double y = 0;
+    double along(double dx, double dy) const { return dx * x + dy * y; }
+};
+
+double eased(double t)
+{
+    return t * t * (3 - 2 * t);
+}
+
+double between(double share, double a, double b)
+{
+    return a + share * (b - a);
+}
+
+/// A place along one axis: the lattice lines around it, and the way from the first.
+struct LatticePlace
+{
+    LatticePlace(double place, double wrap, double period)
+    {
+        const double line = std::floor(place);
+        fraction = place - line;
+        first = index(line, wrap, period);
+        second = index(line + 1, wrap, period);
+    }
+    static int index(double line, double wrap, double period)
+    {
+        const double repeated = period > 0 && line >= wrap ? line - period : line;
+        return int(qint64(repeated) & (latticeSize - 1));
+    }
+
+    double fraction;
+    int first;
+    int second;
+};
+
+/// Gradient noise on a lattice of random directions.
+class Noise
+{
+public:
+    explicit Noise(double start);
+    double at(int channel, const QPointF &place, const Stitching &stitching) const;
+
+private:
+    int corner(int column, int row) const { return m_order[(m_order[column] + row) & (latticeSize - 1)]; }
+
+    std::array<int, latticeSize> m_order{};
+    std::array<std::array<Gradient, latticeSize>, channelCount> m_gradients{};
+};
+
+Gradient randomGradient(RandomNumbers *numbers)
+{
+    const auto component = [numbers] {
+        return double(numbers->next() % (2 * latticeSize) - latticeSize) / latticeSize;
+    };
+    const double x = component();
+    const double y = component();
+    const double length = std::hypot(x, y);
+    return length > 0 ? Gradient{x / length, y / length} : Gradient();
+}
+
+Noise::Noise(double start)
+{
+    RandomNumbers numbers(start);
+    for (auto &channel : m_gradients) {
+        for (Gradient &gradient : channel)
+            gradient = randomGradient(&numbers);
+    }
+    for (int i = 0; i < latticeSize; ++i)
+        m_order[size_t(i)] = i;
+    for (int i = latticeSize - 1; i > 0; --i)
+        std::swap(m_order[size_t(i)], m_order[size_t(numbers.next() % latticeSize)]);
+}
+
+double Noise::at(int channel, const QPointF &place, const Stitching &stitching) const
+{
+    if (!(qAbs(place.x()) < farthestPlace && qAbs(place.y()) < farthestPlace))
+        return 0;
+    const LatticePlace x(place.x() + latticeOffset, stitching.wrapX, stitching.width);
+    const LatticePlace y(place.y() + latticeOffset, stitching.wrapY, stitching.height);
+    const auto &gradients = m_gradients[size_t(channel)];
+    const auto value = [&](int column, int row, double dx, double dy) {
+        return gradients[size_t(corner(column, row))].along(dx, dy);
+    };
+    const double dx = x.fraction;
+    const double dy = y.fraction;
+    const double above = between(eased(dx), value(x.first, y.first, dx, dy), value(x.second, y.first, dx - 1, dy));
+    const double below =
+        between(eased(dx), value(x.first, y.second, dx, dy - 1), value(x.second, y.second, dx - 1, dy - 1));
+    return between(eased(dy), above, below);
+}
+
+// The nearest frequency, by ratio, of which a whole number of waves fit.
+double fittedFrequency(double frequency, double length)
+{
+    if (frequency <= 0 || length <= 0)
+        return frequency;
+    const double low = std::floor(length * frequency) / length;
+    const double high = std::ceil(length * frequency) / length;
+    return low > 0 && frequency / low < high / frequency ? low : high;
+}
+
+class TurbulencePainter
+{
+public:
+    explicit TurbulencePainter(const Turbulence &turbulence);
+    QRgb colorAt(const QPointF &place) const;
+
+private:
+    double sum(int channel, const QPointF &place) const;
+
+    Noise m_noise;
+    QSizeF m_frequency;
+    Stitching m_stitching;
+    int m_octaves;
+    bool m_fractal;
+};
+
+TurbulencePainter::TurbulencePainter(const Turbulence &turbulence)
+    : m_noise(turbulence.start)
+    , m_frequency(turbulence.frequency)
+    , m_octaves(turbulence.octaves)
+    , m_fractal(turbulence.fractal)
+{
+    if (!turbulence.stitches)
+        return;
+    const QRectF &tile = turbulence.tile;
+    m_frequency = QSizeF(fittedFrequency(m_frequency.width(), tile.width()),
+                         fittedFrequency(m_frequency.height(), tile.height()));
+    m_stitching.width = std::floor(tile.width() * m_frequency.width() + 0.5);
+    m_stitching.height = std::floor(tile.height() * m_frequency.height() + 0.5);
+    m_stitching.wrapX = std::floor(tile.x() * m_frequency.width() + latticeOffset + m_stitching.width);
+    m_stitching.wrapY = std::floor(tile.y() * m_frequency.height() + latticeOffset + m_stitching.height);
+}
+
+double TurbulencePainter::sum(int channel, const QPointF &place) const
+{
+    QPointF at(place.x() * m_frequency.width(), place.y() * m_frequency.height());
+    Stitching stitching = m_stitching;
+    double total = 0;
+    double share = 1;
+    for (int octave = 0; octave < m_octaves; ++octave) {
+        const double noise = m_noise.at(channel, at, stitching);
+        total += share * (m_fractal ? noise : qAbs(noise));
+        at *= 2;
+        share /= 2;
+        stitching.doubleFrequency();
+    }
+    return m_fractal ? (total + 1) / 2 : total;
+}
+
+QRgb TurbulencePainter::colorAt(const QPointF &place) const
+{
+    const auto component = [&](int channel) { return qBound(0, qRound(sum(channel, place) * greatest), greatest); };
+    return qPremultiply(qRgba(component(0), component(1), component(2), component(3)));
+}
+
+} // namespace
+
+void fillWithTurbulence(QImage *picture, const Turbulence &turbulence, const QTransform &toUser)
+{
+    const TurbulencePainter painter(turbulence);
+    for (int y = 0; y < picture->height(); ++y) {
+        auto *row = reinterpret_cast<QRgb *>(picture->scanLine(y));
+        for (int x = 0; x < picture->width(); ++x)
+            row[x] = painter.colorAt(toUser.map(QPointF(x, y)));
+    }
+}
+
+} // namespace Svg

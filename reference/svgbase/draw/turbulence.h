@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtCore/QSizeF>
+#include <QtGui/QImage>
+#include <QtGui/QTransform>
+
+namespace Svg {
+
+/// What an "feTurbulence" makes (Filter Effects 1 §9.21).
+struct Turbulence
+{
+    /// Waves per user unit across and down.
+    QSizeF frequency{0, 0};
+    int octaves = 1;
+    bool fractal = false;
+    /// Whether the pattern meets itself at the edges of `tile`, user units.
+    bool stitches = false;
+    QRectF tile;
+    /// Where the generator of random numbers starts.
+    double start = 0;
+};
+
+/// Fills a picture of premultiplied colours with the noise of its pixels' places; `toUser` maps its pixels to user
+/// units.
+void fillWithTurbulence(QImage *picture, const Turbulence &turbulence, const QTransform &toUser);
+
+} // namespace Svg
