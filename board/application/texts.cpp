@@ -41,6 +41,7 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_ZOOM_OUT", "Zoom out", "Verkleinern"},
     {"IDS_BOARD_ACTUAL_SIZE", "100 %", "100 %"},
     {"IDS_BOARD_FIT_PAGE", "Fit page", "Ganze Seite"},
+    {"IDS_BOARD_ANIMATION", "Play animations", "Animationen abspielen"},
     {"IDS_BOARD_DARK", "Dark colours", "Dunkle Farben"},
     {"IDS_BOARD_ADD_PAGE", "Add page", "Seite hinzufügen"},
     {"IDS_BOARD_REMOVE_PAGE", "Remove page", "Seite entfernen"},

@@ -37,7 +37,8 @@ enum class Icon {
     Record,
     Stop,
     Play,
-    Pause
+    Pause,
+    Animation
 };
 
 /// The colour of recording, everywhere.

@@ -284,6 +284,19 @@ IconShape pauseShape()
     return shape;
 }
 
+/// A pendulum, where it is and where it has been.
+IconShape animationShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{7, 3.5}, {17, 3.5}});
+    addPolyline(shape.lines, {{12, 3.5}, {17.2, 14.5}});
+    shape.areas.addEllipse(QPointF(18, 16.5), 3.2, 3.2);
+    shape.lines.moveTo(5, 18);
+    shape.lines.quadTo(8.5, 20.8, 12.6, 20.3);
+    addPolyline(shape.lines, {{5.2, 14.2}, {6.6, 11.2}});
+    return shape;
+}
+
 } // namespace
 
 IconShape iconShape(Icon which)
@@ -353,6 +366,8 @@ IconShape iconShape(Icon which)
         return playShape();
     case Icon::Pause:
         return pauseShape();
+    case Icon::Animation:
+        return animationShape();
     }
     return {};
 }

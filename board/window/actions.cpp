@@ -110,6 +110,8 @@ void Actions::makeViewActions()
                   [this] { m_view->zoomOut(); });
     actualSize = add("IDS_BOARD_ACTUAL_SIZE", {Qt::CTRL | Qt::Key_0}, [this] { m_view->setZoom(1); });
     fitPage = add("IDS_BOARD_FIT_PAGE", Icon::ZoomFit, {Qt::CTRL | Qt::Key_9}, [this] { m_view->fitPage(); });
+    playAnimation = add("IDS_BOARD_ANIMATION", Icon::Animation, {Qt::Key_F7}, [] {});
+    playAnimation->setCheckable(true);
     darkColors =
         add("IDS_BOARD_DARK", {}, [this] { applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light); });
     darkColors->setCheckable(true);

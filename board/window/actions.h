@@ -31,7 +31,7 @@ public:
     QAction *undo, *redo, *selectAll, *deselect, *duplicate, *remove;
     QAction *toFront, *forward, *backward, *toBack;
     QAction *mirrorHorizontally, *mirrorVertically, *rotateLeft, *rotateRight;
-    QAction *zoomIn, *zoomOut, *actualSize, *fitPage;
+    QAction *zoomIn, *zoomOut, *actualSize, *fitPage, *playAnimation;
     QAction *addPage, *removePage, *previousPage, *nextPage;
     QAction *exportPages, *exportSvg, *darkColors, *quit, *about;
 

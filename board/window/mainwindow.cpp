@@ -24,6 +24,7 @@
 #include "window/notices.h"
 #include "window/statusline.h"
 
+#include <pagehost/animationplayer.h>
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
 
@@ -78,6 +79,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_lessons(new LessonController(workspace, m_notices, this))
     , m_lessonMenu(new LessonMenu(workspace, m_lessons, this))
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
+    , m_animation(new pagehost::AnimationPlayer(m_view, this))
     , m_lock(this, m_view)
     , m_tool(&workspace->registry())
 {
@@ -99,6 +101,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectParts();
     connectTools();
     connectLessons();
+    connectAnimation();
     connectDocument();
     showPluginProblems();
     showTitle();
@@ -215,7 +218,8 @@ void MainWindow::addMenus()
                               a.mirrorVertically, a.rotateLeft, a.rotateRight});
     add("IDS_BOARD_PAGE", {a.addPage, a.removePage, nullptr, a.previousPage, a.nextPage});
     m_lock.spare(add("IDS_LESSON_MENU", m_lessonMenu->actions()));
-    m_lock.spare(add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.darkColors}));
+    m_lock.spare(add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.playAnimation,
+                                        nullptr, a.darkColors}));
 }
 
 void MainWindow::addTools()
@@ -231,7 +235,8 @@ void MainWindow::addTools()
                                          {a.undo, a.redo},
                                          {c.cut, c.copy, c.paste, a.duplicate, a.remove},
                                          {a.toFront, a.forward, a.backward, a.toBack},
-                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
+                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight},
+                                         {a.playAnimation}};
     for (const QList<QAction *> &group : groups) {
         if (group != groups.first())
             bar->addSeparator();
@@ -245,6 +250,19 @@ void MainWindow::connectLessons()
         m_lock.setLocked(m_lessons->isShowing());
         showCurrentPage();
     });
+}
+
+void MainWindow::connectAnimation()
+{
+    QAction *action = m_actions->playAnimation;
+    const auto show = [this, action] {
+        action->setEnabled(m_animation->hasAnimation());
+        action->setChecked(m_animation->isPlaying());
+    };
+    connect(m_animation, &pagehost::AnimationPlayer::hasAnimationChanged, this, show);
+    connect(m_animation, &pagehost::AnimationPlayer::playingChanged, this, show);
+    connect(action, &QAction::triggered, m_animation, &pagehost::AnimationPlayer::setPlaying);
+    show();
 }
 
 void MainWindow::connectDocument()
@@ -299,6 +317,7 @@ void MainWindow::showCurrentPage()
         disconnect(m_view->page(), nullptr, this, nullptr);
     pagehost::Page *page = m_lessons->shownDocument()->currentPage();
     m_view->setPage(page);
+    m_animation->setPage(page);
     m_style->setPage(page);
     m_settings->setPage(page);
     m_properties->setPage(page);

@@ -9,6 +9,10 @@
 
 class QMimeData;
 
+namespace pagehost {
+class AnimationPlayer;
+} // namespace pagehost
+
 namespace board {
 
 class Actions;
@@ -53,6 +57,7 @@ public:
     void raisePanel(const QWidget *panel);
     LessonController *lessons() const { return m_lessons; }
     LessonBar *lessonBar() const { return m_lessonBar; }
+    pagehost::AnimationPlayer *animation() const { return m_animation; }
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -71,6 +76,7 @@ private:
     void connectParts();
     void connectTools();
     void connectLessons();
+    void connectAnimation();
     void connectDocument();
     void showTitle();
     void takeDrop(const QMimeData &data, const QPointF &scenePos);
@@ -94,6 +100,7 @@ private:
     LessonController *m_lessons;
     LessonMenu *m_lessonMenu;
     LessonBar *m_lessonBar;
+    pagehost::AnimationPlayer *m_animation;
     EditingLock m_lock;
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;

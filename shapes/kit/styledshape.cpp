@@ -4,12 +4,16 @@
 #include <kit/picturedata.h>
 #include <kit/treewalk.h>
 
+#include <svgobj/csvganimate.h>
 #include <svgobj/csvgobj.h>
 
 #include <framework/cpagebgprop.h>
+#include <pagehost/objectplugin.h>
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPainterPathStroker>
 
@@ -194,6 +198,29 @@ void StyledShape::setPenColor(QColor color, bool record)
     colorPenFollowers();
 }
 
+bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
+{
+    if (propId != pagehost::AnimationRuns)
+        return CSVGBase::GetSpecialProperty(propId, out);
+    if (!document || !document->animated())
+        return false;
+    out << isAnimating();
+    return true;
+}
+
+bool StyledShape::SetSpecialProperty(int propId, QDataStream &in, bool record)
+{
+    if (propId != pagehost::AnimationRuns)
+        return CSVGBase::SetSpecialProperty(propId, in, record);
+    if (!document || !document->animated())
+        return false;
+    bool on = false;
+    in >> on;
+    if (in.status() == QDataStream::Ok && on != isAnimating())
+        play(on);
+    return true;
+}
+
 void StyledShape::updateOutlineRegion()
 {
     if (m_figures.isEmpty()) {
@@ -216,6 +243,20 @@ bool StyledShape::isFilledByPageObject() const
 QZeSvgNode *StyledShape::node(const char *id) const
 {
     return document ? document->namedNode(QLatin1String(id)) : nullptr;
+}
+
+/// Starting again paints a picture, whose listeners may delete the shape, and leaves the document's clock stopped.
+void StyledShape::play(bool on)
+{
+    if (!on) {
+        stopAnimate();
+        document->stopAnimate();
+        return;
+    }
+    const QPointer<CSVGAnimate> restarted(animator);
+    startAnimate();
+    if (restarted)
+        document->startAnimate();
 }
 
 void StyledShape::readLook()

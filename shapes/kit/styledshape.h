@@ -45,6 +45,12 @@ public:
     /// tells of a fill that it got elsewhere, the shape repaints in any case.
     void setFillBrush(const QBrush &brush, bool record, bool notify) override;
     void setPenColor(QColor color, bool record) override;
+    /// @name Besides properties of the shape: what the host asks of every object that moves
+    /// (pagehost::AnimationRuns)
+    /// @{
+    bool GetSpecialProperty(int propId, QDataStream &out) override;
+    bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
+    /// @}
     /// The outline is that of the nodes whose id is "figure" or begins with "figure_"; control points are no part
     /// of what is filled. A template without such nodes has the outline of everything in it.
     void updateOutlineRegion() override;
@@ -64,6 +70,7 @@ protected:
     QZeSvgNode *node(const char *id) const;
 
 private:
+    void play(bool on);
     void readLook();
     void colorPenFollowers();
     void fillPageObject(const QBrush &brush);

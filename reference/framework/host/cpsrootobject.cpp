@@ -137,7 +137,9 @@ void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
     if (!page) {
         return;
     }
-    CPSRootObjectPrivate::noteChange(*this);
+    if (id != AppearanceChanged || !CPSRootObjectPrivate::isNextPicture(*this)) {
+        CPSRootObjectPrivate::noteChange(*this);
+    }
     Q_EMIT page->objectPropertyChanged(CPSRootObjectPrivate::baseObject(*this), id, value);
 }
 

@@ -8,6 +8,7 @@
 #include <pagehost/pagescene.h>
 
 #include <host/handlelayout.h>
+#include <lessons/objectdata.h>
 
 #include <cmath>
 
@@ -131,6 +132,27 @@ void CPSRootObjectPrivate::noteInvisibleChange(CPSRootObject &object)
     if (pagehost::Page *page = pageOf(object)) {
         Q_EMIT page->objectChanged(baseObject(object));
     }
+}
+
+void CPSRootObjectPrivate::setPlayed(CPSRootObject &object, bool played)
+{
+    object.d->playedState.reset();
+    if (played) {
+        object.d->playedState = pagehost::savedData(*baseObject(object));
+    }
+}
+
+bool CPSRootObjectPrivate::isNextPicture(CPSRootObject &object)
+{
+    if (!object.d->playedState) {
+        return false;
+    }
+    const QByteArray state = pagehost::savedData(*baseObject(object));
+    if (state == *object.d->playedState) {
+        return true;
+    }
+    object.d->playedState = state;
+    return false;
 }
 
 double normalizedDegrees(double degrees)

@@ -2,10 +2,12 @@
 
 #include <framework/cpsrootobject.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QSet>
 #include <QtCore/QVector>
 
 #include <memory>
+#include <optional>
 
 class CBaseObject;
 class GripDrag;
@@ -30,6 +32,8 @@ public:
     bool refusedState = false;
     /// Zoom that the object followed last: objects may size parts of theirs in pixels, and save them so.
     double followedZoom = 1;
+    /// What the object saves as long as it plays and nothing but its picture changes.
+    std::optional<QByteArray> playedState;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
     std::unique_ptr<GripDrag> drag;
@@ -65,6 +69,11 @@ public:
     static void noteChange(CPSRootObject &object);
     /// Of what is saved, but not shown.
     static void noteInvisibleChange(CPSRootObject &object);
+    /// Says that the object plays what moves in it, or does so no longer.
+    static void setPlayed(CPSRootObject &object, bool played);
+    /// Whether a new appearance of the object is only the next picture of what moves in it, which is no change of
+    /// the page.
+    static bool isNextPicture(CPSRootObject &object);
     static QPen &pen(CPSRootObject &object) { return object.myPen; }
     static void setName(CPSRootObject &object, const QString &name) { object.objName = name; }
     static void setClientRect(CPSRootObject &object, const QRectF &rect);

@@ -19,6 +19,16 @@ struct ObjectKind
     QString group;   ///< localisation key of the palette group
 };
 
+/// Special properties (CPSRootObject::GetSpecialProperty(), SetSpecialProperty()) that the host has for all
+/// objects. They are no part of what an object is: never saved, recorded or undone.
+enum SpecialProperty {
+    /// bool: whether the object plays what moves in it; off for a new object. While it plays, it tells of every
+    /// picture with AppearanceChanged; switched off, it stands still where it was, and goes on from there. An
+    /// object
+    /// in which nothing moves does not know the property.
+    AnimationRuns = 2901
+};
+
 /// Texts by localisation key.
 using TextTable = QMap<QString, QString>;
 

@@ -1,0 +1,265 @@
+// What moves on the board: it plays while it is seen, and F7 holds it.
+
+#include "boarddriver.h"
+
+#include <lessons/lessoncontroller.h>
+#include <page/pageview.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/lesson.h>
+#include <pagehost/objectplugin.h>
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QDataStream>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QUndoStack>
+
+using namespace boardtest;
+using board::LessonController;
+
+namespace {
+
+const QString pendulum = QStringLiteral("shapes.pendulum");
+/// Long enough for several pictures, milliseconds.
+constexpr int someTime = 150;
+
+CBaseObject *drawPendulum(BoardDriver &driver)
+{
+    return driver.draw(pendulum, {300, 200}, {500, 400});
+}
+
+QAction *playAction(const BoardDriver &driver)
+{
+    return driver.action(QStringLiteral("Play animations"));
+}
+
+bool plays(CBaseObject *object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    bool running = false;
+    if (object->GetSpecialProperty(pagehost::AnimationRuns, out))
+        QDataStream(bytes) >> running;
+    return running;
+}
+
+/// Pictures that an object shows of itself in a while.
+int picturesOf(CBaseObject *object, const pagehost::Page &page)
+{
+    int count = 0;
+    const auto connection =
+        QObject::connect(&page, &pagehost::Page::objectPropertyChanged, [&](CBaseObject *each, int id) {
+            count += each == object && id == CPSRootObject::AppearanceChanged;
+        });
+    QTest::qWait(someTime);
+    QObject::disconnect(connection);
+    return count;
+}
+
+} // namespace
+
+class TestAnimation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void drawnPendulumSwings();
+    void clockGearsAndPendulumPlayAndNothingElse();
+    void keyHoldsAndGoesOn();
+    void buttonHoldsAndGoesOn();
+    void actionIsOffWhereNothingMoves();
+    void pageThatIsTurnedAwayStandsStill();
+    void scrolledAwayPendulumStandsStill();
+    void swingingIsNoChange();
+    void swingingPendulumIsEditedAndUndone();
+    void lessonHoldsNoPictures();
+    void playedLessonSwingsToo();
+    void speaksGerman();
+};
+
+void TestAnimation::drawnPendulumSwings()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    const QImage before = driver.view().viewport()->grab().toImage();
+    QTRY_VERIFY(driver.view().viewport()->grab().toImage() != before);
+}
+
+void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
+{
+    BoardDriver driver;
+    QMap<CBaseObject *, int> pictures;
+    QMap<CBaseObject *, QString> kinds;
+    for (const pagehost::ObjectKind &kind : driver.workspace().registry().kinds()) {
+        const QPointF corner(20 + kinds.size() % 6 * 120, 20 + kinds.size() / 6 * 120);
+        kinds.insert(driver.draw(kind.id, corner, corner + QPointF(100, 100)), kind.id);
+    }
+    QVERIFY(kinds.size() >= 23);
+    QTest::qWait(someTime);
+    connect(&driver.page(), &pagehost::Page::objectPropertyChanged, &driver.page(),
+            [&](CBaseObject *object) { ++pictures[object]; });
+    QTest::qWait(someTime);
+    QStringList playing;
+    for (CBaseObject *object : kinds.keys()) {
+        QCOMPARE(pictures.value(object) > 1, plays(object));
+        if (plays(object))
+            playing.append(kinds.value(object));
+    }
+    playing.sort();
+    QCOMPARE(playing, QStringList({"shapes.clock", "shapes.gears", pendulum}));
+}
+
+void TestAnimation::keyHoldsAndGoesOn()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    QVERIFY(playAction(driver)->isChecked());
+    driver.key(Qt::Key_F7);
+    QVERIFY(!plays(object));
+    QVERIFY(!playAction(driver)->isChecked());
+    QCOMPARE(picturesOf(object, driver.page()), 0);
+    driver.key(Qt::Key_F7);
+    QVERIFY(plays(object));
+    QVERIFY(playAction(driver)->isChecked());
+    QVERIFY(picturesOf(object, driver.page()) > 1);
+}
+
+void TestAnimation::buttonHoldsAndGoesOn()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    const auto *bar = driver.window().findChild<QToolBar *>(QStringLiteral("tools"));
+    QWidget *button = bar->widgetForAction(playAction(driver));
+    QVERIFY(button);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!plays(object));
+    QVERIFY(!qobject_cast<QToolButton *>(button)->isChecked());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(plays(object));
+    QVERIFY(qobject_cast<QToolButton *>(button)->isChecked());
+}
+
+void TestAnimation::actionIsOffWhereNothingMoves()
+{
+    BoardDriver driver;
+    QVERIFY(!playAction(driver)->isEnabled());
+    driver.draw(rectangle, {100, 100}, {200, 200});
+    QVERIFY(!playAction(driver)->isEnabled());
+    drawPendulum(driver);
+    QVERIFY(playAction(driver)->isEnabled());
+    driver.key(Qt::Key_Delete);
+    QVERIFY(!playAction(driver)->isEnabled());
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(playAction(driver)->isEnabled());
+}
+
+void TestAnimation::pageThatIsTurnedAwayStandsStill()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    const pagehost::Page &page = driver.page();
+    QTRY_VERIFY(plays(object));
+    driver.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!plays(object));
+    QVERIFY(!playAction(driver)->isEnabled());
+    QCOMPARE(picturesOf(object, page), 0);
+    driver.key(Qt::Key_PageUp);
+    QTRY_VERIFY(plays(object));
+}
+
+void TestAnimation::scrolledAwayPendulumStandsStill()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    driver.view().setZoom(8);
+    driver.view().horizontalScrollBar()->setValue(driver.view().horizontalScrollBar()->maximum());
+    QTRY_VERIFY(!plays(object));
+    QCOMPARE(picturesOf(object, driver.page()), 0);
+    driver.view().centerOn(object);
+    QTRY_VERIFY(plays(object));
+}
+
+void TestAnimation::swingingIsNoChange()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    driver.workspace().document()->markSaved();
+    QCoreApplication::processEvents();
+    const quint64 revision = driver.workspace().document()->revision();
+    const int steps = driver.history().count();
+    QVERIFY(picturesOf(object, driver.page()) > 1);
+    QCOMPARE(driver.workspace().document()->revision(), revision);
+    QCOMPARE(driver.history().count(), steps);
+    QVERIFY(!driver.workspace().document()->isModified());
+}
+
+void TestAnimation::swingingPendulumIsEditedAndUndone()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    const QRectF place = driver.placeOf(object);
+    driver.drag(place.center(), place.center() + QPointF(100, 50));
+    QCOMPARE(driver.placeOf(object).topLeft(), place.topLeft() + QPointF(100, 50));
+    QVERIFY(plays(object));
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(driver.placeOf(object), place);
+    QVERIFY(plays(object));
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!plays(object));
+}
+
+void TestAnimation::lessonHoldsNoPictures()
+{
+    BoardDriver driver;
+    CBaseObject *object = drawPendulum(driver);
+    QTRY_VERIFY(plays(object));
+    LessonController &lessons = *driver.window().lessons();
+    lessons.recordOrStop();
+    QVERIFY(picturesOf(object, driver.page()) > 1);
+    lessons.recordOrStop();
+    pagehost::Lesson lesson;
+    QVERIFY(lesson.fromData(driver.workspace().document()->lessons().first().data));
+    QCOMPARE(lesson.events.size(), 0);
+}
+
+void TestAnimation::playedLessonSwingsToo()
+{
+    BoardDriver driver;
+    CBaseObject *own = drawPendulum(driver);
+    LessonController &lessons = *driver.window().lessons();
+    lessons.recordOrStop();
+    lessons.recordOrStop();
+    lessons.seek(0);
+    CBaseObject *shown = driver.page().objects().first();
+    QTRY_VERIFY(plays(shown));
+    QVERIFY(!plays(own));
+    driver.key(Qt::Key_F7);
+    QVERIFY(!plays(shown));
+    lessons.close();
+    QVERIFY(!plays(own));
+    driver.key(Qt::Key_F7);
+    QVERIFY(plays(own));
+}
+
+void TestAnimation::speaksGerman()
+{
+    BoardDriver driver(QStringLiteral("de"));
+    QAction *action = driver.action(QStringLiteral("Animationen abspielen"));
+    QVERIFY(action);
+    QCOMPARE(action->shortcut(), QKeySequence(Qt::Key_F7));
+    QVERIFY(!action->icon().isNull());
+}
+
+QTEST_MAIN(TestAnimation)
+#include "test_animation.moc"
