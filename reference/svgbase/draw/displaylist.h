@@ -25,6 +25,7 @@ struct DisplayItem
     /// Which of both the item paints; the order may be the other way round than painters have it.
     bool paintsFill = true;
     bool paintsStroke = true;
+    bool smooth = true;
     /// In the place of a brush; null where the outline's own paint counts.
     PatternPointer fillPattern;
     PatternPointer strokePattern;

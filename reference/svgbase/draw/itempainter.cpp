@@ -160,9 +160,13 @@ void ItemPainter::paintShape(const DisplayItem &item)
     painter->setOpacity(layer.opacity * item.opacity);
     painter->setPen(item.pen);
     painter->setBrush(item.fill);
+    if (!item.smooth)
+        painter->setRenderHint(QPainter::Antialiasing, false);
     painter->drawPath(item.path);
     if (!item.strokePath.isEmpty())
         painter->fillPath(item.strokePath, item.pen.brush());
+    if (!item.smooth)
+        painter->setRenderHint(QPainter::Antialiasing);
 }
 
 void ItemPainter::paintImage(const DisplayItem &item)

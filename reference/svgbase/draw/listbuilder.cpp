@@ -160,6 +160,7 @@ void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layer
         item.controlCentre = m_context.controlCentre;
         item.fill = outline.fill;
         item.pen = outline.pen;
+        item.smooth = outline.smooth;
         item.paintsFill = parts.fill;
         item.paintsStroke = parts.stroke;
         if (parts.fill && !isSilhouette())

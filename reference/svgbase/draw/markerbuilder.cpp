@@ -8,6 +8,7 @@
 #include "grammar/viewboxes.h"
 #include "resolve/geometry.h"
 #include "resolve/markervertices.h"
+#include "resolve/viewports.h"
 
 #include <optional>
 
@@ -38,20 +39,6 @@ struct MarkerForm
 Length markerLength(const Attributes &attributes, const QString &name, const Length &fallback)
 {
     return parseLength(attributes.value(name)).value_or(fallback);
-}
-
-// "left", "center" and the like are shares of the view box.
-double referenceLength(const Attributes &attributes, const QString &name, Axis axis, const LengthContext &context)
-{
-    const QString text = attributes.value(name).trimmed();
-    Length length{0, Unit::Percent};
-    if (text == QLatin1String("center"))
-        length.value = 50;
-    else if (text == QLatin1String("right") || text == QLatin1String("bottom"))
-        length.value = 100;
-    else
-        length = parseLength(text).value_or(Length());
-    return toUserUnits(length, axis, context);
 }
 
 void readOrientation(const Attributes &attributes, MarkerForm *form)
@@ -104,9 +91,7 @@ bool MarkerBuilder::fitContent(const Attributes &attributes, const LengthContext
         form->contentToBox = *fitted;
         form->viewport = viewBox->size();
     }
-    const LengthContext inside{form->viewport, context.fontSize};
-    const QPointF reference(referenceLength(attributes, QStringLiteral("refX"), Axis::Horizontal, inside),
-                            referenceLength(attributes, QStringLiteral("refY"), Axis::Vertical, inside));
+    const QPointF reference = referencePoint(attributes, {form->viewport, context.fontSize});
     const QPointF origin = form->contentToBox.map(reference);
     form->boxToPlace = QTransform::fromTranslate(-origin.x(), -origin.y());
     return true;

@@ -114,6 +114,12 @@ int channel(const Component &component)
     return int(std::lround(qBound(0.0, value, 255.0)));
 }
 
+// Saturation and lightness are percentages with or without the sign (CSS Color 4 §7).
+double percentage(const Component &component)
+{
+    return qBound(0.0, component.value / 100, 1.0);
+}
+
 double fraction(const Component &component)
 {
     return qBound(0.0, component.percent ? component.value / 100 : component.value, 1.0);
@@ -134,15 +140,79 @@ std::optional<QColor> functionColor(const Cursor &cursor)
     }
     if (name == QLatin1String("hsl") || name == QLatin1String("hsla")) {
         const double turn = c[0].value / 360 - std::floor(c[0].value / 360);
-        return QColor::fromHslF(qBound(0.0, turn, 1.0), fraction(c[1]), fraction(c[2]), alpha).toRgb();
+        return QColor::fromHslF(qBound(0.0, turn, 1.0), percentage(c[1]), percentage(c[2]), alpha).toRgb();
     }
     return std::nullopt;
+}
+
+struct SystemColor
+{
+    QLatin1String name;
+    QRgb color;
+};
+
+/// What documents take from the user's surroundings, as of a plain page of black on white (CSS Color 4 §6.2; the
+/// older names are mapped as its appendix A says).
+const SystemColor systemColors[] = {
+    {QLatin1String("accentcolor"), 0xff0078d7},
+    {QLatin1String("accentcolortext"), 0xffffffff},
+    {QLatin1String("activeborder"), 0xff000000},
+    {QLatin1String("activecaption"), 0xffffffff},
+    {QLatin1String("activetext"), 0xffff0000},
+    {QLatin1String("appworkspace"), 0xffffffff},
+    {QLatin1String("background"), 0xffffffff},
+    {QLatin1String("buttonborder"), 0xff000000},
+    {QLatin1String("buttonface"), 0xffefefef},
+    {QLatin1String("buttonhighlight"), 0xffefefef},
+    {QLatin1String("buttonshadow"), 0xffefefef},
+    {QLatin1String("buttontext"), 0xff000000},
+    {QLatin1String("canvas"), 0xffffffff},
+    {QLatin1String("canvastext"), 0xff000000},
+    {QLatin1String("captiontext"), 0xff000000},
+    {QLatin1String("field"), 0xffffffff},
+    {QLatin1String("fieldtext"), 0xff000000},
+    {QLatin1String("graytext"), 0xff808080},
+    {QLatin1String("highlight"), 0xffb5d5ff},
+    {QLatin1String("highlighttext"), 0xff000000},
+    {QLatin1String("inactiveborder"), 0xff000000},
+    {QLatin1String("inactivecaption"), 0xffffffff},
+    {QLatin1String("inactivecaptiontext"), 0xff808080},
+    {QLatin1String("infobackground"), 0xffffffff},
+    {QLatin1String("infotext"), 0xff000000},
+    {QLatin1String("linktext"), 0xff0000ee},
+    {QLatin1String("mark"), 0xffffff00},
+    {QLatin1String("marktext"), 0xff000000},
+    {QLatin1String("menu"), 0xffffffff},
+    {QLatin1String("menutext"), 0xff000000},
+    {QLatin1String("scrollbar"), 0xffffffff},
+    {QLatin1String("selecteditem"), 0xff0078d7},
+    {QLatin1String("selecteditemtext"), 0xffffffff},
+    {QLatin1String("threeddarkshadow"), 0xff000000},
+    {QLatin1String("threedface"), 0xffefefef},
+    {QLatin1String("threedhighlight"), 0xff000000},
+    {QLatin1String("threedlightshadow"), 0xff000000},
+    {QLatin1String("threedshadow"), 0xff000000},
+    {QLatin1String("visitedtext"), 0xff551a8b},
+    {QLatin1String("window"), 0xffffffff},
+    {QLatin1String("windowframe"), 0xff000000},
+    {QLatin1String("windowtext"), 0xff000000},
+};
+
+// A colour of a profile stands behind the one that screens use (SVG 1.1 §11.2).
+QStringView withoutProfileColor(QStringView text)
+{
+    const qsizetype profile = text.indexOf(QLatin1String("icc-color("));
+    return profile > 0 ? text.left(profile).trimmed() : text;
 }
 
 std::optional<QColor> namedColor(QStringView name)
 {
     if (name.compare(QLatin1String("transparent"), Qt::CaseInsensitive) == 0)
         return QColor(0, 0, 0, 0);
+    for (const SystemColor &known : systemColors) {
+        if (name.compare(known.name, Qt::CaseInsensitive) == 0)
+            return QColor::fromRgba(known.color);
+    }
     // Qt's list of names is SVG's.
     const QColor color(name.toString());
     if (!color.isValid())
@@ -154,7 +224,7 @@ std::optional<QColor> namedColor(QStringView name)
 
 std::optional<QColor> parseColor(QStringView text)
 {
-    const QStringView trimmed = text.trimmed();
+    const QStringView trimmed = withoutProfileColor(text.trimmed());
     const Latin1Text bytes(trimmed);
     Cursor cursor = bytes.cursor();
     if (cursor.take('#'))

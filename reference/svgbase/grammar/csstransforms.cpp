@@ -35,6 +35,8 @@ struct Function
 bool takeFunction(Cursor &cursor, Function *function)
 {
     function->name = QString(cursor.takeWord()).toLower();
+    if (cursor.take('3'))
+        function->name += QLatin1Char('3') + QString(cursor.takeWord()).toLower();
     cursor.skipSpace();
     if (!cursor.take('('))
         return false;
@@ -134,6 +136,12 @@ std::optional<QTransform> matrixOf(const QString &name, Arguments &a)
         return QTransform::fromScale(a.number(0), 1);
     if (name == QLatin1String("scaley") && a.hasCount(1, 1))
         return QTransform::fromScale(1, a.number(0));
+    if (name == QLatin1String("translate3d") && a.hasCount(3, 3))
+        return QTransform::fromTranslate(a.length(0, Axis::Horizontal), a.length(1, Axis::Vertical));
+    if (name == QLatin1String("scale3d") && a.hasCount(3, 3))
+        return QTransform::fromScale(a.number(0), a.number(1));
+    if (name == QLatin1String("rotatez") && a.hasCount(1, 1))
+        return rotated(a);
     if (name == QLatin1String("rotate") && (a.hasCount(1, 1) || a.hasCount(3, 3)))
         return rotated(a);
     if (name == QLatin1String("skew") && a.hasCount(1, 2))

@@ -1,5 +1,6 @@
 #include "grammar/lengths.h"
 
+#include "grammar/calculations.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
 
@@ -119,6 +120,8 @@ std::optional<Length> parseLength(QStringView text)
     Cursor cursor = bytes.cursor();
     Length length;
     cursor.skipSpace();
+    if (cursor.peek() == 'c' || cursor.peek() == 'C')
+        return parseCalculation(text);
     if (!readLength(cursor, &length))
         return std::nullopt;
     cursor.skipSpace();
@@ -129,7 +132,8 @@ std::optional<Length> parseLength(QStringView text)
 
 double toUserUnits(const Length &length, Axis axis, const LengthContext &context)
 {
-    return qBound(-Limits::coordinate, unbounded(length, axis, context), Limits::coordinate);
+    const double added = length.plusUser + length.plusEm * context.fontSize;
+    return qBound(-Limits::coordinate, unbounded(length, axis, context) + added, Limits::coordinate);
 }
 
 } // namespace Svg

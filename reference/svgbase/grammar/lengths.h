@@ -19,6 +19,9 @@ struct Length
 {
     double value = 0;
     Unit unit = Unit::User;
+    /// What a calculation adds to it: user units, font sizes.
+    double plusUser = 0;
+    double plusEm = 0;
 };
 
 /// What relative units are relative to; user units.

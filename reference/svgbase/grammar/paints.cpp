@@ -8,13 +8,6 @@ namespace {
 
 const QLatin1String referenceStart("url(");
 
-// A colour of a profile stands behind the one that screens use (SVG 1.1 §11.2).
-QStringView withoutProfileColor(QStringView text)
-{
-    const qsizetype profile = text.toString().indexOf(QLatin1String("icc-color("));
-    return profile > 0 ? text.left(profile).trimmed() : text;
-}
-
 std::optional<Paint> plainPaint(QStringView text)
 {
     Paint paint;
@@ -31,7 +24,7 @@ std::optional<Paint> plainPaint(QStringView text)
         paint.kind = text.endsWith(QLatin1Char('l')) ? Paint::ContextFill : Paint::ContextStroke;
         return paint;
     }
-    const std::optional<QColor> color = parseColor(withoutProfileColor(text));
+    const std::optional<QColor> color = parseColor(text);
     if (!color)
         return std::nullopt;
     paint.kind = Paint::Color;
@@ -76,7 +69,7 @@ QString functionReference(QStringView text, QStringView *rest)
 std::optional<Paint> parsePaint(QStringView text)
 {
     const QStringView trimmed = text.trimmed();
-    if (!trimmed.startsWith(referenceStart))
+    if (!trimmed.startsWith(referenceStart, Qt::CaseInsensitive))
         return plainPaint(trimmed);
     const qsizetype end = trimmed.indexOf(QLatin1Char(')'));
     if (end < 0)

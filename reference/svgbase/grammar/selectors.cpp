@@ -8,9 +8,9 @@ namespace Svg {
 
 namespace {
 
-/// Longest chain of compounds, and deepest nesting of ":not".
+/// Longest chain of compounds, and deepest nesting of ":not" and the like.
 constexpr int mostCompounds = 64;
-constexpr int deepestNegation = 4;
+constexpr int deepestNesting = 4;
 constexpr int highestSpecificity = 255;
 
 struct PseudoName
@@ -80,12 +80,17 @@ bool parseSteps(QStringView text, PseudoClass *pseudo)
     return true;
 }
 
+bool is(const QString &name, const char *known)
+{
+    return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+}
+
 class SelectorParser
 {
 public:
-    SelectorParser(QStringView text, int negations)
+    SelectorParser(QStringView text, int nesting)
         : m_cursor(text)
-        , m_negations(negations)
+        , m_nesting(nesting)
     {
     }
 
@@ -95,22 +100,36 @@ private:
     bool parseSelector(Selector *selector);
     bool parseCompound(Compound *compound);
     bool parsePart(Compound *compound);
+    void skipNamespace();
     bool parseTag(Compound *compound);
     bool parseAttribute(Compound *compound);
     bool parseRelation(AttributeTest *test);
     bool parsePseudoClass(Compound *compound);
     bool parseFunction(const QString &name, Compound *compound);
+    bool parseLanguages(QStringView argument, Compound *compound);
+    void addSpecificity(const QVector<Selector> &selectors);
     bool takeCombinator(Combinator *combinator);
 
     CssCursor m_cursor;
-    int m_negations;
+    int m_nesting;
     int m_ids = 0;
     int m_classes = 0;
     int m_tags = 0;
 };
 
+// A namespace before a tag is passed over: names of elements say enough where all that is drawn is SVG.
+void SelectorParser::skipNamespace()
+{
+    CssCursor probe = m_cursor;
+    if (!probe.take('*'))
+        probe.takeIdentifier();
+    if (probe.take('|'))
+        m_cursor = probe;
+}
+
 bool SelectorParser::parseTag(Compound *compound)
 {
+    skipNamespace();
     if (m_cursor.take('*'))
         return true;
     compound->tag = m_cursor.takeIdentifier();
@@ -176,17 +195,52 @@ bool SelectorParser::parseFunction(const QString &name, Compound *compound)
         ++m_classes;
         return parseSteps(argument, &compound->pseudoClasses.last());
     }
-    if (name.compare(QLatin1String("not"), Qt::CaseInsensitive) != 0 || m_negations >= deepestNegation)
+    if (is(name, "lang"))
+        return parseLanguages(argument, compound);
+    const bool negates = is(name, "not");
+    const bool counts = negates || is(name, "is");
+    if ((!counts && !is(name, "where")) || m_nesting >= deepestNesting)
         return false;
-    const std::optional<QVector<Selector>> selectors = SelectorParser(argument, m_negations + 1).parseList();
+    const std::optional<QVector<Selector>> selectors = SelectorParser(argument, m_nesting + 1).parseList();
     if (!selectors)
         return false;
-    pseudo.kind = PseudoClass::Not;
+    pseudo.kind = negates ? PseudoClass::Not : PseudoClass::Is;
     pseudo.selectors = *selectors;
-    const int specificity = selectors->first().specificity;
-    m_ids += specificity >> 16;
-    m_classes += (specificity >> 8) & 0xff;
-    m_tags += specificity & 0xff;
+    compound->pseudoClasses.append(pseudo);
+    if (counts)
+        addSpecificity(*selectors);
+    return true;
+}
+
+// That of the most specific one of a list (Selectors 4 §17).
+void SelectorParser::addSpecificity(const QVector<Selector> &selectors)
+{
+    int most = 0;
+    for (const Selector &selector : selectors)
+        most = qMax(most, selector.specificity);
+    m_ids += most >> 16;
+    m_classes += (most >> 8) & 0xff;
+    m_tags += most & 0xff;
+}
+
+bool SelectorParser::parseLanguages(QStringView argument, Compound *compound)
+{
+    PseudoClass pseudo;
+    pseudo.kind = PseudoClass::Language;
+    CssCursor cursor(argument);
+    do {
+        QString language;
+        cursor.skipSpace();
+        if (!cursor.takeString(&language))
+            language = cursor.takeIdentifier();
+        cursor.skipSpace();
+        if (language.isEmpty())
+            return false;
+        pseudo.languages.append(language);
+    } while (cursor.take(','));
+    if (!cursor.atEnd())
+        return false;
+    ++m_classes;
     compound->pseudoClasses.append(pseudo);
     return true;
 }

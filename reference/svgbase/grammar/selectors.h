@@ -33,14 +33,18 @@ struct PseudoClass
         NthLastOfType,
         OnlyChild,
         OnlyOfType,
-        Not
+        /// ":is()" and ":where()".
+        Is,
+        Not,
+        Language
     };
     Kind kind = Never;
     /// Of the "a n + b" of the counting kinds.
     int step = 0;
     int offset = 1;
-    /// Of `Not`, one of which must match for the whole to fail.
+    /// Of `Is` and `Not`: whether one of them matches decides.
     QVector<Selector> selectors;
+    QStringList languages;
 };
 
 /// Tests of one element: all of them must hold.

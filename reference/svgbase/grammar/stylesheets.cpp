@@ -48,6 +48,24 @@ bool isBlank(QStringView text)
     return cursor.atEnd();
 }
 
+// A screen is wide and high enough for what asks, has colours, and shows dark on light.
+bool isTrueOfScreens(const QString &condition)
+{
+    static const QStringList truths{
+        QStringLiteral("all"),
+        QStringLiteral("screen"),
+        QStringLiteral("only all"),
+        QStringLiteral("only screen"),
+        QStringLiteral("not print"),
+        QStringLiteral("(color)"),
+        QStringLiteral("(prefers-color-scheme:light)"),
+    };
+    QString text = condition.trimmed();
+    text.replace(QLatin1String(": "), QLatin1String(":"));
+    return truths.contains(text) || text.startsWith(QLatin1String("(min-width:")) ||
+           text.startsWith(QLatin1String("(min-height:"));
+}
+
 class SheetParser
 {
 public:
@@ -146,7 +164,9 @@ void SheetParser::parseAtRule()
     } else {
         m_cursor.take(';');
     }
-    if (name.compare(QLatin1String("charset"), Qt::CaseInsensitive) != 0)
+    const bool silent = name.compare(QLatin1String("charset"), Qt::CaseInsensitive) == 0 ||
+                        name.compare(QLatin1String("namespace"), Qt::CaseInsensitive) == 0;
+    if (!silent)
         report(begin, QStringLiteral("\"@%1\" has no effect.").arg(name));
 }
 
@@ -203,10 +223,8 @@ bool includesScreens(QStringView media)
         return true;
     const QStringList queries = text.split(QLatin1Char(','));
     return std::any_of(queries.begin(), queries.end(), [](const QString &query) {
-        const QString type = query.simplified();
-        return type == QLatin1String("all") || type == QLatin1String("screen") ||
-               type == QLatin1String("only all") || type == QLatin1String("only screen") ||
-               type == QLatin1String("not print");
+        const QStringList parts = query.simplified().split(QLatin1String(" and "));
+        return std::all_of(parts.begin(), parts.end(), isTrueOfScreens);
     });
 }
 

@@ -59,7 +59,11 @@ std::optional<QRectF> parseViewBox(QStringView text)
 AspectRatio parseAspectRatio(QStringView text)
 {
     AspectRatio ratio;
-    const QStringView trimmed = text.trimmed();
+    QStringView trimmed = text.trimmed();
+    // Once left the choice to an image of its own ratio; SVG 2 §8.6 has dropped it.
+    const QLatin1String defer("defer ");
+    if (trimmed.startsWith(defer))
+        trimmed = trimmed.mid(defer.size()).trimmed();
     const qsizetype space = trimmed.indexOf(QLatin1Char(' '));
     const QStringView rest = space < 0 ? QStringView() : trimmed.mid(space + 1).trimmed();
     if (!parseAlignment(space < 0 ? trimmed : trimmed.left(space), &ratio))

@@ -29,6 +29,8 @@ struct Outline
     /// Patterns in the place of the brushes, which then only tell that there is something.
     int fillPattern = -1;
     int strokePattern = -1;
+    /// Whether its edges are smoothed.
+    bool smooth = true;
 };
 
 /// What "context-fill" and "context-stroke" stand for.

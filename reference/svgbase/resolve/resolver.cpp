@@ -18,12 +18,27 @@ namespace Svg {
 namespace {
 
 // Without one, everything but the root, which is a box of a page, turns about the origin (SVG 2 §8.10, §6.8).
-QPointF transformOrigin(const Node &node, const ComputedStyle &style, const LengthContext &context)
+QPointF transformOrigin(const Node &node, const ComputedStyle &style, const QRectF &box,
+                        const LengthContext &context)
 {
     const QPointF middle(context.viewport.width() / 2, context.viewport.height() / 2);
     const QPointF usual = node.kind == ElementKind::Document ? middle : QPointF();
     const QString text = styledAttribute(node, style, AttributeId::TransformOrigin);
-    return text.isEmpty() ? usual : parseTransformOrigin(text, context).value_or(usual);
+    const std::optional<QPointF> origin =
+        text.isEmpty() ? std::nullopt : parseTransformOrigin(text, {box.size(), style.font.size});
+    return origin ? box.topLeft() + *origin : usual;
+}
+
+// What percentages and the origin of a transform refer to (CSS Transforms 1 §5): the bounding box where a shape
+// asks for it, else the view.
+QRectF transformBox(const Node &node, const ComputedStyle &style, const LengthContext &context)
+{
+    const QString text = styledAttribute(node, style, AttributeId::TransformBox).trimmed();
+    const bool ofBounds = text == QLatin1String("fill-box") || text == QLatin1String("content-box") ||
+                          text == QLatin1String("stroke-box") || text == QLatin1String("border-box");
+    if (ofBounds && hasGeometry(node.kind))
+        return shapeGeometry(node, style, context.viewport).bounds;
+    return QRectF(QPointF(), context.viewport);
 }
 
 // Viewports inside the root cut what leaves them, unless told otherwise (SVG 1.1 §14.3.3).
@@ -80,7 +95,9 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
     if (text.isEmpty())
         return QTransform();
     const bool isRoot = node.kind == ElementKind::Document;
-    const LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
+    LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
+    const QRectF box = transformBox(node, style, context);
+    context.viewport = box.size();
     std::optional<QTransform> transform = parseTransform(text);
     if (!transform)
         transform = parseCssTransform(text, context);
@@ -88,7 +105,7 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
         warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
         return QTransform();
     }
-    const QPointF origin = transformOrigin(node, style, context);
+    const QPointF origin = transformOrigin(node, style, box, context);
     return QTransform::fromTranslate(-origin.x(), -origin.y()) * *transform *
            QTransform::fromTranslate(origin.x(), origin.y());
 }
@@ -145,7 +162,7 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     return QBrush(color);
 }
 
-void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, Facts *facts) const
+void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, Facts *facts) const
 {
     Outline outline;
     outline.path = path;
@@ -156,6 +173,7 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     outline.fill = brushOf(style.fill, style.fillOpacity, facts, &outline.fillPattern);
     outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts, &outline.strokePattern);
     outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt});
+    outline.smooth = isText ? style.smoothText : style.smoothShapes;
     facts->outlines.append(outline);
 }
 
@@ -172,7 +190,7 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
     facts->localBounds = geometry.bounds;
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
-        addOutline(geometry.path, facts->style, facts);
+        addOutline(geometry.path, facts->style, false, facts);
 }
 
 void Resolver::resolveText(NodeIndex index, Facts *facts) const
@@ -190,7 +208,7 @@ void Resolver::resolveText(NodeIndex index, Facts *facts) const
     if (facts->hasGeometry)
         facts->localBounds = text.cells;
     for (const TextRun &run : text.runs)
-        addOutline(run.path, run.style, facts);
+        addOutline(run.path, run.style, true, facts);
 }
 
 void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const

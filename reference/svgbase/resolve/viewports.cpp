@@ -5,6 +5,45 @@
 
 namespace Svg {
 
+namespace {
+
+// "left", "center" and the like are shares of the view box.
+double referenceLength(const QString &text, Axis axis, const LengthContext &context)
+{
+    Length length{0, Unit::Percent};
+    if (text == QLatin1String("center"))
+        length.value = 50;
+    else if (text == QLatin1String("right") || text == QLatin1String("bottom"))
+        length.value = 100;
+    else
+        length = parseLength(text).value_or(Length());
+    return toUserUnits(length, axis, context);
+}
+
+// A symbol stands with its reference point where it is used; without one, with its corner.
+QPointF alignment(const Node &node, const Fit &fit, double fontSize)
+{
+    const Attributes &attributes = node.attributes;
+    if (node.kind != ElementKind::Symbol)
+        return QPointF();
+    const QPointF point = fit.transform.map(referencePoint(attributes, {fit.viewport, fontSize}));
+    return QPointF(attributes.contains(AttributeId::RefX) ? fit.place.x() - point.x() : 0,
+                   attributes.contains(AttributeId::RefY) ? fit.place.y() - point.y() : 0);
+}
+
+Fit moved(const Fit &fit, const QPointF &way)
+{
+    return {fit.transform * QTransform::fromTranslate(way.x(), way.y()), fit.viewport, fit.place.translated(way)};
+}
+
+} // namespace
+
+QPointF referencePoint(const Attributes &attributes, const LengthContext &context)
+{
+    return QPointF(referenceLength(attributes.value(AttributeId::RefX).trimmed(), Axis::Horizontal, context),
+                   referenceLength(attributes.value(AttributeId::RefY).trimmed(), Axis::Vertical, context));
+}
+
 QSizeF rootSize(const Node &root, const QSizeF &window)
 {
     static const ComputedStyle initial;
@@ -51,11 +90,16 @@ Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewpo
                        lengths.value(AttributeId::Y, Axis::Vertical), used.width.value_or(width),
                        used.height.value_or(height));
     const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
-    if (!box || place.isEmpty())
-        return {QTransform::fromTranslate(place.x(), place.y()), place.size(), place};
+    if (!box || place.isEmpty()) {
+        const Fit fit{QTransform::fromTranslate(place.x(), place.y()), place.size(), place};
+        return moved(fit, alignment(node, fit, style.font.size));
+    }
     const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
     const std::optional<QTransform> fitted = viewBoxTransform(*box, place, ratio);
-    return fitted ? Fit{*fitted, box->size(), place} : Fit();
+    if (!fitted)
+        return Fit();
+    const Fit fit{*fitted, box->size(), place};
+    return moved(fit, alignment(node, fit, style.font.size));
 }
 
 } // namespace Svg

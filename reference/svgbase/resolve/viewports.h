@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grammar/lengths.h"
 #include "resolve/facts.h"
 #include "tree/tree.h"
 
@@ -29,6 +30,9 @@ struct Fit
     /// In the units around. Empty when nothing is drawn.
     QRectF place;
 };
+
+/// Where a "marker" or a "symbol" is put by its "refX" and "refY", units of its content (SVG 2 §5.5, §13.7.1).
+QPointF referencePoint(const Attributes &attributes, const LengthContext &context);
 
 /// `used` is the size that a "use" gives it.
 Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport, const UsedSize &used);

@@ -53,6 +53,9 @@ struct ComputedStyle
     bool mixesLinear = false;
     PaintOrder paintOrder{{PaintStep::Fill, PaintStep::Stroke, PaintStep::Markers}};
     bool filtersLinear = true;
+    /// Whether edges of shapes, and of text, are smoothed.
+    bool smoothShapes = true;
+    bool smoothText = true;
     /// Whether images are magnified with smooth transitions.
     bool smoothImages = true;
     /// Null without markers.

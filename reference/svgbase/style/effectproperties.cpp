@@ -64,6 +64,20 @@ const Keyword<bool> imageRenderings[] = {
     {QLatin1String("optimizeSpeed"), false},
 };
 
+const Keyword<bool> shapeRenderings[] = {
+    {QLatin1String("auto"), true},
+    {QLatin1String("geometricPrecision"), true},
+    {QLatin1String("optimizeSpeed"), false},
+    {QLatin1String("crispEdges"), false},
+};
+
+const Keyword<bool> textRenderings[] = {
+    {QLatin1String("auto"), true},
+    {QLatin1String("geometricPrecision"), true},
+    {QLatin1String("optimizeLegibility"), true},
+    {QLatin1String("optimizeSpeed"), false},
+};
+
 EffectStyle &effectsOf(ComputedStyle &style)
 {
     if (!style.effects)
@@ -93,7 +107,7 @@ bool readReference(QStringView text, QString *id)
     }
     QStringView rest;
     *id = functionReference(text, &rest);
-    return !id->isEmpty() || text.startsWith(QLatin1String("url("));
+    return !id->isEmpty() || text.startsWith(QLatin1String("url("), Qt::CaseInsensitive);
 }
 
 bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringView text)
@@ -222,6 +236,10 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
         return applyEffectKeyword(style, &EffectStyle::blendMode, value, blendModes);
     case AttributeId::Overflow:
         return applyEffectKeyword(style, &EffectStyle::overflow, value, overflows);
+    case AttributeId::ShapeRendering:
+        return applyKeyword(style.smoothShapes, value, shapeRenderings);
+    case AttributeId::TextRendering:
+        return applyKeyword(style.smoothText, value, textRenderings);
     default:
         return false;
     }
@@ -283,6 +301,12 @@ void inheritEffectProperty(ComputedStyle &style, AttributeId property, const Com
         break;
     case AttributeId::Overflow:
         inheritMember(style, &EffectStyle::overflow, parent);
+        break;
+    case AttributeId::ShapeRendering:
+        style.smoothShapes = parent.smoothShapes;
+        break;
+    case AttributeId::TextRendering:
+        style.smoothText = parent.smoothText;
         break;
     default:
         break;

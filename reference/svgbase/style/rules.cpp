@@ -114,6 +114,8 @@ void StyleRules::noteAttributes(const Selector &selector)
         for (const PseudoClass &pseudo : compound.pseudoClasses) {
             if (pseudo.kind == PseudoClass::Link)
                 m_attributes << QStringLiteral("href") << QStringLiteral("xlink:href");
+            if (pseudo.kind == PseudoClass::Language)
+                m_attributes << QStringLiteral("lang") << QStringLiteral("xml:lang");
             for (const Selector &inner : pseudo.selectors)
                 noteAttributes(inner);
         }

@@ -101,6 +101,27 @@ bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo,
     return isCounted(position, pseudo);
 }
 
+bool SelectorMatcher::matchesAny(NodeIndex element, const QVector<Selector> &selectors)
+{
+    return std::any_of(selectors.begin(), selectors.end(),
+                       [&](const Selector &selector) { return matches(element, selector); });
+}
+
+// The nearest element that names its language decides.
+bool SelectorMatcher::matchesLanguage(NodeIndex element, const QStringList &languages)
+{
+    for (NodeIndex at = element; at != noNode && takeStep(); at = m_tree.node(at).parent) {
+        const Attributes &attributes = m_tree.node(at).attributes;
+        const QString plain = attributes.value(QStringLiteral("lang"));
+        const QString own = plain.isEmpty() ? attributes.value(QStringLiteral("xml:lang")) : plain;
+        if (!own.isEmpty())
+            return std::any_of(languages.begin(), languages.end(), [&](const QString &language) {
+                return startsWithWord(own.toLower(), language.toLower());
+            });
+    }
+    return false;
+}
+
 bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &pseudo)
 {
     switch (pseudo.kind) {
@@ -124,9 +145,12 @@ bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &p
         return !hasSibling(element, false, false) && !hasSibling(element, true, false);
     case PseudoClass::OnlyOfType:
         return !hasSibling(element, false, true) && !hasSibling(element, true, true);
+    case PseudoClass::Is:
+        return matchesAny(element, pseudo.selectors);
     case PseudoClass::Not:
-        return std::none_of(pseudo.selectors.begin(), pseudo.selectors.end(),
-                            [&](const Selector &selector) { return matches(element, selector); });
+        return !matchesAny(element, pseudo.selectors);
+    case PseudoClass::Language:
+        return matchesLanguage(element, pseudo.languages);
     }
     return false;
 }

@@ -22,6 +22,8 @@ private:
     bool matchesFrom(NodeIndex element, const Selector &selector, int compound);
     bool matchesCompound(NodeIndex element, const Compound &compound);
     bool matchesPseudoClass(NodeIndex element, const PseudoClass &pseudo);
+    bool matchesAny(NodeIndex element, const QVector<Selector> &selectors);
+    bool matchesLanguage(NodeIndex element, const QStringList &languages);
     bool matchesCount(NodeIndex element, const PseudoClass &pseudo, bool fromEnd, bool ofType);
     bool hasSibling(NodeIndex element, bool after, bool ofType);
     NodeIndex step(NodeIndex element, Combinator combinator);

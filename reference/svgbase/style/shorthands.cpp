@@ -93,6 +93,7 @@ bool isStyledAttribute(AttributeId id)
     case AttributeId::Rx:
     case AttributeId::Ry:
     case AttributeId::Transform:
+    case AttributeId::TransformBox:
     case AttributeId::TransformOrigin:
     case AttributeId::Width:
     case AttributeId::X:

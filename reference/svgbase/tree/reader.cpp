@@ -4,6 +4,8 @@
 #include "tree/gunzip.h"
 #include "tree/tagscanner.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTextCodec>
 #include <QtCore/QXmlStreamReader>
 
 namespace Svg {
@@ -211,12 +213,38 @@ Message placeOf(const QByteArray &text, qint64 offset, const QString &what)
     return {Message::Error, what, line, column, QString()};
 }
 
-bool declaresForeignEncoding(const QByteArray &text)
+QByteArray declaredEncoding(const QByteArray &text)
 {
-    if (!text.startsWith("<?xml"))
-        return text.startsWith("\xff\xfe") || text.startsWith("\xfe\xff") || text.startsWith('\0');
-    const QByteArray declaration = text.left(text.indexOf("?>")).toLower();
-    return declaration.contains("encoding") && !declaration.contains("utf-8");
+    static const QRegularExpression pattern(QStringLiteral("encoding\\s*=\\s*[\"']([A-Za-z0-9._-]{1,40})[\"']"));
+    const QString declaration = QString::fromLatin1(text.startsWith("<?xml") ? text.left(text.indexOf("?>")) : "");
+    return pattern.match(declaration).captured(1).toLatin1();
+}
+
+bool isUtf16(const QByteArray &text)
+{
+    const bool marked = text.startsWith("\xff\xfe") || text.startsWith("\xfe\xff");
+    const bool plain =
+        text.size() > 1 && ((text[0] == '<' && text[1] == '\0') || (text[0] == '\0' && text[1] == '<'));
+    return marked || plain;
+}
+
+bool isUtf8(const QByteArray &text)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+// Null for UTF-8. What is UTF-8 counts as that whatever it says: programs rewrite text and forget the declaration.
+QTextCodec *foreignCodec(const QByteArray &text)
+{
+    if (isUtf16(text))
+        return QTextCodec::codecForUtfText(text,
+                                           QTextCodec::codecForName(text[0] == '<' ? "UTF-16LE" : "UTF-16BE"));
+    const QByteArray name = declaredEncoding(text);
+    if (name.isEmpty() || name.toLower() == "utf-8" || isUtf8(text))
+        return nullptr;
+    return QTextCodec::codecForName(name);
 }
 
 bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
@@ -225,18 +253,20 @@ bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
         messages->fail(QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
         return false;
     }
-    const qint64 crowded = findCrowdedTag(text);
+    const QTextCodec *codec = foreignCodec(text);
+    const QByteArray decoded = codec ? codec->toUnicode(text).toUtf8() : text;
+    const qint64 crowded = findCrowdedTag(decoded);
     if (crowded >= 0) {
         const QString what = QStringLiteral("An element has more than %1 attributes.").arg(Limits::attributes);
-        messages->add(placeOf(text, crowded, what));
+        messages->add(placeOf(decoded, crowded, what));
         return false;
     }
     QXmlStreamReader xml;
-    // Text is UTF-8 whatever it says; decoding it first keeps the reader from following another claim.
-    if (declaresForeignEncoding(text))
-        xml.addData(QString::fromUtf8(text));
+    // Characters, unlike bytes, keep the reader from following the encoding that a text claims to have.
+    if (codec || !declaredEncoding(text).isEmpty())
+        xml.addData(QString::fromUtf8(decoded));
     else
-        xml.addData(text);
+        xml.addData(decoded);
     return TreeReader(xml, tree, messages).read();
 }
 
