@@ -118,8 +118,11 @@ void DocumentPrivate::restyle(bool (DocumentPrivate::*enabled)(NodeIndex) const,
             lastNew = StyleOverridePointer(fresh);
             lastOld = old;
             change(fresh);
+            if (old && *old == *fresh)
+                lastNew = old;
         }
-        content.setStyleOverride(at, lastNew);
+        if (lastNew != old)
+            content.setStyleOverride(at, lastNew);
     }
 }
 

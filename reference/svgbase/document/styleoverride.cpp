@@ -19,6 +19,12 @@ Stroke effectiveStroke(const Outline &outline, const ComputedStyle &style, const
 
 } // namespace
 
+bool operator==(const StyleOverride &a, const StyleOverride &b)
+{
+    return a.strokeColor == b.strokeColor && a.strokeStyle == b.strokeStyle && a.strokeWidth == b.strokeWidth &&
+           a.fill == b.fill;
+}
+
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
 {
     Outline result = outline;

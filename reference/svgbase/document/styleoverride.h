@@ -19,6 +19,8 @@ struct StyleOverride : QSharedData
 
 using StyleOverridePointer = QExplicitlySharedDataPointer<const StyleOverride>;
 
+bool operator==(const StyleOverride &a, const StyleOverride &b);
+
 /// An outline with its pen and fill replaced as far as the override says.
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override);
 /// The override that is left after the node itself was given `property`: the later word counts. Null when nothing

@@ -3,30 +3,16 @@
 #include "draw/itemmapping.h"
 #include "draw/itempainter.h"
 #include "draw/listbuilder.h"
+#include "draw/listdifference.h"
 
+#include <QtGui/QPainter>
+
+#include <algorithm>
 #include <limits>
 
 namespace Svg {
 
 namespace {
-
-bool hasSameOrigin(const DisplayItem &a, const DisplayItem &b)
-{
-    return a.kind == b.kind && a.node == b.node && a.outline == b.outline && a.facts == b.facts &&
-           a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre &&
-           a.effects == b.effects && a.end == b.end && a.paintsFill == b.paintsFill &&
-           a.paintsStroke == b.paintsStroke && a.fillPattern == b.fillPattern && a.strokePattern == b.strokePattern;
-}
-
-// Takes over the mapped outlines of items that stand where they stood.
-void keepMapped(QVector<DisplayItem> *fresh, QVector<DisplayItem> *old)
-{
-    const int common = qMin(fresh->size(), old->size());
-    for (int i = 0; i < common; ++i) {
-        if (hasSameOrigin(fresh->at(i), old->at(i)))
-            (*fresh)[i] = std::move((*old)[i]);
-    }
-}
 
 void forgetMapping(QVector<DisplayItem> *items)
 {
@@ -36,6 +22,17 @@ void forgetMapping(QVector<DisplayItem> *items)
 
 /// What a painted item takes besides its outline: buffers that a path keeps for painting, pen and brush. Measured.
 constexpr double itemOverhead = 3000;
+
+/// Where more than this share of the kept area is to be painted, all of it is.
+constexpr double mostRepaired = 0.75;
+
+double areaOf(const QVector<QRect> &parts)
+{
+    double area = 0;
+    for (const QRect &part : parts)
+        area += double(part.width()) * part.height();
+    return area;
+}
 
 // An outline is held twice, the second time as the painter's own copy.
 double itemWeight(const DisplayItem &item)
@@ -69,16 +66,97 @@ QRectF DisplayList::paintedBounds(bool withControlPoints) const
     return bounds;
 }
 
+double DisplayList::paintAll(QPainter *painter, bool withControlPoints) const
+{
+    const double effort = paintItems(painter, m_items);
+    return withControlPoints ? effort + paintItems(painter, m_controlPoints) : effort;
+}
+
 void DisplayList::paint(QPainter *painter, bool withControlPoints)
 {
-    const QRect blank = blankArea(painter, paintedBounds(withControlPoints));
-    if (!blank.isEmpty() && m_picture.paint(painter, blank, withControlPoints))
+    QImage *target = plainTarget(painter);
+    const QRect reach = target ? paintedPixels(paintedBounds(withControlPoints), target->rect()) : QRect();
+    if (reach.isEmpty()) {
+        paintAll(painter, withControlPoints);
         return;
-    paintItems(painter, m_items);
-    if (withControlPoints)
-        paintItems(painter, m_controlPoints);
-    if (!blank.isEmpty())
-        m_picture.keep(painter, blank, withControlPoints);
+    }
+    switch (m_picture.prepare(*target, reach, withControlPoints)) {
+    case KeptPicture::Paint:
+        paintAll(painter, withControlPoints);
+        break;
+    case KeptPicture::PaintAndKeep:
+        paintAndKeep(painter, *target, withControlPoints);
+        break;
+    case KeptPicture::Repair:
+        repair(painter, target, withControlPoints);
+        break;
+    }
+    m_damage = Damage();
+}
+
+// What was cut short for want of time or memory depends on what was painted before, so it is not kept.
+void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints)
+{
+    m_effort = paintAll(painter, withControlPoints);
+    if (m_effort < 1)
+        m_picture.keep(target, m_picture.area());
+    else
+        m_picture.clear();
+}
+
+void DisplayList::repair(QPainter *painter, QImage *target, bool withControlPoints)
+{
+    const QRect changedBelow = m_picture.changedBelow(*target);
+    m_damage.add(changedBelow);
+    const QVector<QRect> parts = damagedParts(withControlPoints);
+    if (areaOf(parts) > mostRepaired * areaOf({m_picture.area()})) {
+        paintAndKeep(painter, *target, withControlPoints);
+        return;
+    }
+    m_picture.restore(target, parts);
+    for (const QRect &part : parts) {
+        painter->setClipRect(part, Qt::ReplaceClip);
+        m_effort += paintAll(painter, withControlPoints);
+    }
+    painter->setClipping(false);
+    // Whether the whole could still be painted is only known from painting it.
+    if (m_effort >= 1) {
+        m_picture.restoreBelow(target);
+        paintAndKeep(painter, *target, withControlPoints);
+        return;
+    }
+    for (const QRect &part : parts)
+        m_picture.keep(*target, part);
+}
+
+QVector<QRect> DisplayList::damagedParts(bool withControlPoints) const
+{
+    const QRect area = m_picture.area();
+    QVector<QRect> pending = m_damage.pixels(area);
+    QVector<QRect> parts;
+    while (!pending.isEmpty()) {
+        QRect grown = grownToItems(pending.takeLast(), m_items, area);
+        if (withControlPoints)
+            grown = grownToItems(grown, m_controlPoints, area);
+        const auto touched = std::find_if(parts.begin(), parts.end(),
+                                          [&grown](const QRect &part) { return part.intersects(grown); });
+        if (touched == parts.end()) {
+            parts.append(grown);
+            continue;
+        }
+        pending.append(grown | *touched);
+        parts.erase(touched);
+    }
+    return parts;
+}
+
+void DisplayList::replaceItems(QVector<DisplayItem> *items, QVector<DisplayItem> fresh, const QTransform &stretch,
+                               const QTransform &world)
+{
+    const QVector<int> changed = takeOverMapped(&fresh, items);
+    items->swap(fresh);
+    mapItems(items, stretch, world);
+    addDifference(fresh, *items, changed, &m_damage);
 }
 
 void DisplayList::update(Document &document, const QTransform &stretch, const QTransform &world)
@@ -87,20 +165,21 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
     const bool sameContent = m_built && m_revision == document.revision();
     if (sameMapping && sameContent)
         return;
-    m_picture.clear();
     if (!sameMapping) {
+        m_picture.clear();
         forgetMapping(&m_items);
         forgetMapping(&m_controlPoints);
     }
-    if (!sameContent) {
+    if (sameContent) {
+        mapItems(&m_items, stretch, world);
+        mapItems(&m_controlPoints, stretch, world);
+    } else {
         BuiltList built = buildList(document);
-        keepMapped(&built.items, &m_items);
-        keepMapped(&built.controlPoints, &m_controlPoints);
-        m_items = built.items;
-        m_controlPoints = built.controlPoints;
+        replaceItems(&m_items, std::move(built.items), stretch, world);
+        replaceItems(&m_controlPoints, std::move(built.controlPoints), stretch, world);
     }
-    mapItems(&m_items, stretch, world);
-    mapItems(&m_controlPoints, stretch, world);
+    if (!sameMapping)
+        m_damage = Damage();
     m_stretch = stretch;
     m_world = world;
     m_revision = document.revision();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/document.h"
+#include "draw/damage.h"
 #include "draw/keptpicture.h"
 #include "draw/patternpaint.h"
 
@@ -40,9 +41,18 @@ struct DisplayItem
     QPointF controlCentre;
 
     bool mapped = false;
+    /// Whether another list took over what is mapped here.
+    bool takenOver = false;
+    /// Whether painting a part of the item may give other pixels than painting all of it: steps along a gradient or
+    /// a pattern are counted from where a row begins.
+    bool isIndivisible = false;
     QPainterPath path;
     QBrush fill;
     QPen pen;
+    /// The pen as it is in the units of the element, and how far it reaches beyond the outline along the axes,
+    /// painter units.
+    QPen strokedWith = Qt::NoPen;
+    QSizeF strokeReach{0, 0};
     /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
     QPainterPath strokePath;
     /// How far the outlines go along the axes, painter units.
@@ -58,7 +68,7 @@ struct DisplayItem
 };
 
 /// What a document amounts to under one mapping: a flat list to paint from front to back. Items whose origin did
-/// not change keep their mapped outlines.
+/// not change keep their mapped outlines, and the part of the picture that they alone cover.
 class DisplayList
 {
 public:
@@ -74,9 +84,20 @@ public:
 
 private:
     QRectF paintedBounds(bool withControlPoints) const;
+    double paintAll(QPainter *painter, bool withControlPoints) const;
+    void paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints);
+    void repair(QPainter *painter, QImage *target, bool withControlPoints);
+    QVector<QRect> damagedParts(bool withControlPoints) const;
+    void replaceItems(QVector<DisplayItem> *items, QVector<DisplayItem> fresh, const QTransform &stretch,
+                      const QTransform &world);
+
     QVector<DisplayItem> m_items;
     QVector<DisplayItem> m_controlPoints;
     KeptPicture m_picture;
+    /// What changed since the picture was kept.
+    Damage m_damage;
+    /// What painting the kept picture, and all repairs since, took of what painting may take; 1 is all of it.
+    double m_effort = 0;
     QTransform m_stretch;
     QTransform m_world;
     quint32 m_revision = 0;

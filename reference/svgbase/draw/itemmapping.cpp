@@ -125,8 +125,14 @@ double strokeReach(const QPen &pen)
     return pen.widthF() / 2 * qMax(miter, M_SQRT2);
 }
 
+QSizeF mappedReach(double reach, const QTransform &t)
+{
+    return QSizeF(reach * std::hypot(t.m11(), t.m21()), reach * std::hypot(t.m12(), t.m22()));
+}
+
 void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, const QTransform &transform)
 {
+    item->strokedWith = pen;
     const double scale = meanScale(transform);
     if (keepsShapes(transform)) {
         item->pen = pen;
@@ -135,6 +141,7 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
         item->pen.setWidthF(item->control ? pen.widthF() : pen.widthF() * scale);
         const double reach = strokeReach(item->pen);
         item->bounds.adjust(-reach, -reach, reach, reach);
+        item->strokeReach = QSizeF(reach, reach);
         return;
     }
     QPainterPathStroker stroker(pen);
@@ -144,6 +151,7 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
     item->pen = QPen(Qt::NoPen);
     item->pen.setBrush(mappedBrush(pen.brush(), transform));
     item->bounds |= item->strokePath.controlPointRect();
+    item->strokeReach = mappedReach(strokeReach(pen), transform);
 }
 
 // The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
@@ -198,6 +206,8 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     item->strokePath = QPainterPath();
     item->fill = mappedBrush(outline.fill, transform);
     item->pen = QPen(Qt::NoPen);
+    item->strokedWith = QPen(Qt::NoPen);
+    item->strokeReach = QSizeF(0, 0);
     item->mapped = true;
     if (!isPaintable(item->bounds)) {
         item->path = QPainterPath();
@@ -210,6 +220,7 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     else if (stroked)
         mapUnscaledStroke(item, outline, transform, world);
     item->outlineLength = paintedLength(*item);
+    item->isIndivisible = item->fill.style() > Qt::SolidPattern || item->pen.brush().style() > Qt::SolidPattern;
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.

@@ -37,6 +37,8 @@ struct PixelBudget
     double open = 0;
     int depth = 0;
     double work = Limits::paintedWork;
+    /// Whether something was left out, or simplified, for want of more.
+    bool exceeded = false;
 };
 
 double pixelCount(const QRect &area, double pixelRatio)
@@ -77,6 +79,7 @@ public:
         const bool affordable = pixels >= 1 && pixels <= budget->left &&
                                 budget->open + pixels <= Limits::openLayerPixels &&
                                 budget->depth < Limits::layerDepth;
+        budget->exceeded = budget->exceeded || !affordable;
         return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget) : nullptr;
     }
 
@@ -150,11 +153,16 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
     m_layers.push_back(std::move(bottom));
 }
 
+bool reaches(const QRectF &bounds, const QRect &area)
+{
+    return !paintedPixels(bounds, area).isEmpty();
+}
+
 void ItemPainter::paintShape(const DisplayItem &item)
 {
     const Layer &layer = m_layers.back();
     m_budget->work -= paintingWork(item, layer.area, m_pixelRatio);
-    if (m_budget->work < 0)
+    if (m_budget->work < 0 || !reaches(item.bounds, layer.area))
         return;
     QPainter *painter = layer.painter;
     painter->setOpacity(layer.opacity * item.opacity);
@@ -171,7 +179,7 @@ void ItemPainter::paintShape(const DisplayItem &item)
 
 void ItemPainter::paintImage(const DisplayItem &item)
 {
-    if (item.picture.isNull())
+    if (item.picture.isNull() || !reaches(item.bounds, m_layers.back().area))
         return;
     const Layer &layer = m_layers.back();
     QPainter *painter = layer.painter;
@@ -217,9 +225,9 @@ bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
     if (!onlyCut || !effects->regionIsRect)
         return false;
     const QRectF rect = effects->regionPath.controlPointRect();
-    layer->clips = !effects->holdsContent;
-    if (layer->clips && !isOfPixels(rect, m_pixelRatio))
+    if (!effects->holdsContent && !isOfPixels(rect, m_pixelRatio))
         return false;
+    layer->clips = !effects->holdsContent;
     const Layer &below = m_layers.back();
     layer->painter = below.painter;
     layer->opacity = below.opacity;
@@ -382,6 +390,7 @@ void ItemPainter::paint(const QVector<DisplayItem> &items)
             break;
         }
     }
+    m_layers.front().painter->setOpacity(m_layers.front().opacity);
 }
 
 // Everywhere that the painter may change, its world transform being the identity. A recorded picture has no size of
@@ -395,13 +404,16 @@ QRect paintableArea(const QPainter &painter)
 
 } // namespace
 
-void paintItems(QPainter *painter, const QVector<DisplayItem> &items)
+double paintItems(QPainter *painter, const QVector<DisplayItem> &items)
 {
     PixelBudget budget;
     const QSize window = paintableArea(*painter).size();
     budget.work += Limits::paintedWorkPerPixel * window.width() * window.height();
     const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
+    const double work = budget.work;
     ItemPainter(painter, paintableArea(*painter), ratio, &budget).paint(items);
+    const double taken = qMax(1 - budget.left / Limits::layerPixels, 1 - budget.work / work);
+    return budget.exceeded ? qMax(1.0, taken) : taken;
 }
 
 } // namespace Svg

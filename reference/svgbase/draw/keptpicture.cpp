@@ -9,9 +9,10 @@ namespace Svg {
 
 namespace {
 
-/// How far antialiasing reaches beyond what is painted, pixels, with room to spare.
-constexpr int smoothingMargin = 2;
 constexpr int bytesPerPixel = 4;
+/// A drawing that grows a little with each change need not be kept anew each time.
+constexpr int roomShare = 8;
+constexpr int leastRoom = 8;
 
 bool isPlainPainter(const QPainter *painter)
 {
@@ -20,8 +21,142 @@ bool isPlainPainter(const QPainter *painter)
            painter->deviceTransform() == painter->worldTransform();
 }
 
-// Null unless the pixels can be written behind the painter's back.
-QImage *pictureOf(const QPainter *painter)
+const QRgb *pixelsAt(const QImage &image, int x, int y)
+{
+    return reinterpret_cast<const QRgb *>(image.constScanLine(y)) + x;
+}
+
+QRgb *pixelsAt(QImage *image, int x, int y)
+{
+    return reinterpret_cast<QRgb *>(image->scanLine(y)) + x;
+}
+
+bool isBlankRow(const QRgb *row, int count)
+{
+    return row[0] == 0 && memcmp(row, row + 1, size_t(count - 1) * bytesPerPixel) == 0;
+}
+
+bool isBlank(const QImage &image, const QRect &area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        if (!isBlankRow(pixelsAt(image, area.left(), y), area.width()))
+            return false;
+    }
+    return true;
+}
+
+void copyRows(const QImage &source, const QPoint &from, QImage *target, const QRect &to)
+{
+    for (int y = 0; y < to.height(); ++y) {
+        memcpy(pixelsAt(target, to.left(), to.top() + y), pixelsAt(source, from.x(), from.y() + y),
+               size_t(to.width()) * bytesPerPixel);
+    }
+}
+
+void clearRows(QImage *target, const QRect &area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        memset(pixelsAt(target, area.left(), y), 0, size_t(area.width()) * bytesPerPixel);
+}
+
+/// From the first to the last place where two rows differ; `first` is `count` where they do not.
+struct Difference
+{
+    int first;
+    int last;
+};
+
+Difference differenceOf(const QRgb *a, const QRgb *b, int count)
+{
+    if (memcmp(a, b, size_t(count) * bytesPerPixel) == 0)
+        return {count, -1};
+    Difference result{0, count - 1};
+    while (a[result.first] == b[result.first])
+        ++result.first;
+    while (a[result.last] == b[result.last])
+        --result.last;
+    return result;
+}
+
+} // namespace
+
+bool KeptPicture::fits(const QImage &target, const QRect &reach, bool withControlPoints) const
+{
+    return m_format == target.format() && m_withControlPoints == withControlPoints && m_area.contains(reach) &&
+           target.rect().contains(m_area);
+}
+
+void KeptPicture::restart(const QImage &target, const QRect &reach, bool withControlPoints)
+{
+    clear();
+    const int x = leastRoom + reach.width() / roomShare;
+    const int y = leastRoom + reach.height() / roomShare;
+    m_area = reach.adjusted(-x, -y, x, y) & target.rect();
+    m_format = target.format();
+    m_withControlPoints = withControlPoints;
+}
+
+KeptPicture::Answer KeptPicture::prepare(const QImage &target, const QRect &reach, bool withControlPoints)
+{
+    if (!fits(target, reach, withControlPoints)) {
+        restart(target, reach, withControlPoints);
+        return Paint;
+    }
+    if (!m_picture.isNull())
+        return Repair;
+    if (!isBlank(target, m_area))
+        m_below = target.copy(m_area);
+    return PaintAndKeep;
+}
+
+QRect KeptPicture::changedBelow(const QImage &target)
+{
+    if (m_below.isNull()) {
+        if (isBlank(target, m_area))
+            return QRect();
+        m_below = QImage(m_area.size(), m_format);
+        m_below.fill(0);
+    }
+    QRect changed;
+    for (int y = 0; y < m_area.height(); ++y) {
+        const QRgb *now = pixelsAt(target, m_area.left(), m_area.top() + y);
+        QRgb *before = pixelsAt(&m_below, 0, y);
+        const Difference difference = differenceOf(now, before, m_area.width());
+        if (difference.last < 0)
+            continue;
+        const int length = difference.last - difference.first + 1;
+        memcpy(before + difference.first, now + difference.first, size_t(length) * bytesPerPixel);
+        changed |= QRect(m_area.left() + difference.first, m_area.top() + y, length, 1);
+    }
+    return changed;
+}
+
+void KeptPicture::restore(QImage *target, const QVector<QRect> &repainted) const
+{
+    copyRows(m_picture, QPoint(), target, m_area);
+    for (const QRect &rect : repainted) {
+        if (m_below.isNull())
+            clearRows(target, rect);
+        else
+            copyRows(m_below, rect.topLeft() - m_area.topLeft(), target, rect);
+    }
+}
+
+void KeptPicture::restoreBelow(QImage *target) const
+{
+    restore(target, {m_area});
+}
+
+void KeptPicture::keep(const QImage &target, const QRect &part)
+{
+    if (part == m_area && m_picture.isNull()) {
+        m_picture = target.copy(m_area);
+        return;
+    }
+    copyRows(target, part.topLeft(), &m_picture, part.translated(-m_area.topLeft()));
+}
+
+QImage *plainTarget(QPainter *painter)
 {
     if (!painter->device() || painter->device()->devType() != QInternal::Image)
         return nullptr;
@@ -29,68 +164,6 @@ QImage *pictureOf(const QPainter *painter)
     const bool knownFormat =
         image->format() == QImage::Format_ARGB32 || image->format() == QImage::Format_ARGB32_Premultiplied;
     return knownFormat && image->isDetached() && isPlainPainter(painter) ? image : nullptr;
-}
-
-bool isBlankRow(const uchar *row, size_t bytes)
-{
-    static constexpr uchar blankPixel[bytesPerPixel] = {};
-    return memcmp(row, blankPixel, bytesPerPixel) == 0 &&
-           memcmp(row, row + bytesPerPixel, bytes - bytesPerPixel) == 0;
-}
-
-bool isBlank(const QImage &image, const QRect &area)
-{
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        const uchar *row = image.constScanLine(y) + area.left() * bytesPerPixel;
-        if (!isBlankRow(row, size_t(area.width()) * bytesPerPixel))
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
-bool KeptPicture::fits(const QImage &target, const QRect &area, bool withControlPoints) const
-{
-    return m_seen && m_format == target.format() && m_area == area && m_withControlPoints == withControlPoints;
-}
-
-bool KeptPicture::paint(QPainter *painter, const QRect &area, bool withControlPoints) const
-{
-    QImage *target = pictureOf(painter);
-    if (!target || m_picture.isNull() || !fits(*target, area, withControlPoints))
-        return false;
-    for (int y = 0; y < area.height(); ++y) {
-        uchar *row = target->scanLine(area.top() + y) + area.left() * bytesPerPixel;
-        memcpy(row, m_picture.constScanLine(y), size_t(area.width()) * bytesPerPixel);
-    }
-    return true;
-}
-
-void KeptPicture::keep(QPainter *painter, const QRect &area, bool withControlPoints)
-{
-    const QImage *source = pictureOf(painter);
-    if (!source)
-        return;
-    if (fits(*source, area, withControlPoints)) {
-        m_picture = source->copy(area);
-        return;
-    }
-    clear();
-    m_seen = true;
-    m_format = source->format();
-    m_area = area;
-    m_withControlPoints = withControlPoints;
-}
-
-QRect blankArea(QPainter *painter, const QRectF &bounds)
-{
-    const QImage *image = pictureOf(painter);
-    if (!image || image->rect().isEmpty())
-        return QRect();
-    const QRectF reach = bounds.adjusted(-smoothingMargin, -smoothingMargin, smoothingMargin, smoothingMargin);
-    const QRect area = (reach & QRectF(image->rect())).toAlignedRect() & image->rect();
-    return !area.isEmpty() && isBlank(*image, area) ? area : QRect();
 }
 
 } // namespace Svg
