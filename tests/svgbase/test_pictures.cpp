@@ -19,10 +19,13 @@ private slots:
     void callbackPaintsEveryTime();
     void documentsDoNotShareDrawings();
     void secondDrawingIsKept();
+    void keptDrawingIsForItsPlaceAlone_data();
+    void keptDrawingIsForItsPlaceAlone();
+    void keptDrawingIsCopiedAroundWhatIsRepainted();
+    void changesBelowAreFound();
     void drawingIsNotKeptForOtherPainters_data();
     void drawingIsNotKeptForOtherPainters();
-    void blankAreaIsThePartThatPaintingReaches();
-    void blankAreaIsEmptyWhereSomethingIs();
+    void drawingIsKeptForPlainPainters();
 };
 
 namespace {
@@ -176,28 +179,85 @@ void TestPictures::documentsDoNotShareDrawings()
 void TestPictures::secondDrawingIsKept()
 {
     Svg::KeptPicture kept;
-    const QRect area(10, 20, 30, 40);
-    for (const bool known : {false, false, true}) {
-        QImage image = canvas();
-        QPainter painter(&image);
-        QCOMPARE(kept.paint(&painter, area, false), known);
-        if (known)
-            continue;
-        painter.fillRect(area, QColor(1, 2, 3, 100));
-        kept.keep(&painter, area, false);
-    }
+    const QRect reach(10, 20, 30, 40);
     QImage image = canvas();
-    QPainter painter(&image);
-    QVERIFY(!kept.paint(&painter, area, true));
-    QVERIFY(!kept.paint(&painter, area.translated(1, 0), false));
-    QVERIFY(kept.paint(&painter, area, false));
-    painter.end();
-    QImage expected = canvas();
-    QPainter(&expected).fillRect(area, QColor(1, 2, 3, 100));
-    QCOMPARE(image, expected);
-    QCOMPARE(kept.bytes(), 30 * 40 * 4);
+    QCOMPARE(kept.prepare(image, reach, false), Svg::KeptPicture::Paint);
+    QCOMPARE(kept.bytes(), 0);
+    // An eighth of each size and eight pixels of room all around, as far as there is picture.
+    QCOMPARE(kept.area(), QRect(0, 7, 51, 66));
+    QCOMPARE(kept.prepare(image, reach, false), Svg::KeptPicture::PaintAndKeep);
+    image.fill(QColor(1, 2, 3, 100));
+    kept.keep(image, kept.area());
+    QCOMPARE(kept.bytes(), 51 * 66 * 4);
+    QCOMPARE(kept.prepare(canvas(), reach, false), Svg::KeptPicture::Repair);
+    QCOMPARE(kept.prepare(canvas(), QRect(5, 10, 40, 60), false), Svg::KeptPicture::Repair);
     kept.clear();
     QCOMPARE(kept.bytes(), 0);
+}
+
+void TestPictures::keptDrawingIsForItsPlaceAlone_data()
+{
+    QTest::addColumn<QRect>("reach");
+    QTest::addColumn<bool>("withControlPoints");
+    QTest::addColumn<int>("format");
+    QTest::newRow("reaches further") << QRect(10, 20, 45, 40) << false << int(QImage::Format_ARGB32);
+    QTest::newRow("control points") << QRect(10, 20, 30, 40) << true << int(QImage::Format_ARGB32);
+    QTest::newRow("format") << QRect(10, 20, 30, 40) << false << int(QImage::Format_ARGB32_Premultiplied);
+}
+
+void TestPictures::keptDrawingIsForItsPlaceAlone()
+{
+    QFETCH(QRect, reach);
+    QFETCH(bool, withControlPoints);
+    QFETCH(int, format);
+    Svg::KeptPicture kept;
+    kept.prepare(canvas(), QRect(10, 20, 30, 40), false);
+    kept.prepare(canvas(), QRect(10, 20, 30, 40), false);
+    kept.keep(canvas(), kept.area());
+    const QImage target = canvas(QImage::Format(format));
+    QCOMPARE(kept.prepare(target, reach, withControlPoints), Svg::KeptPicture::Paint);
+}
+
+void TestPictures::keptDrawingIsCopiedAroundWhatIsRepainted()
+{
+    Svg::KeptPicture kept;
+    const QRect reach(40, 30, 20, 20);
+    QImage background = canvas();
+    background.fill(QColor(0, 0, 200));
+    kept.prepare(background, reach, false);
+    QCOMPARE(kept.prepare(background, reach, false), Svg::KeptPicture::PaintAndKeep);
+    QImage drawing = canvas();
+    drawing.fill(QColor(0, 200, 0));
+    kept.keep(drawing, kept.area());
+
+    QImage target = background;
+    kept.restore(&target, {QRect(45, 35, 5, 6)});
+    for (const QPoint &inside : {QPoint(30, 20), QPoint(44, 35), QPoint(50, 40), QPoint(69, 59)})
+        QCOMPARE(target.pixelColor(inside), QColor(0, 200, 0));
+    for (const QPoint &left : {QPoint(45, 35), QPoint(49, 40), QPoint(29, 20), QPoint(70, 59)})
+        QCOMPARE(target.pixelColor(left), QColor(0, 0, 200));
+}
+
+void TestPictures::changesBelowAreFound()
+{
+    Svg::KeptPicture kept;
+    const QRect reach(20, 20, 70, 50);
+    kept.prepare(canvas(), reach, false);
+    kept.prepare(canvas(), reach, false);
+    kept.keep(canvas(), kept.area());
+    QCOMPARE(kept.area(), QRect(4, 6, 102, 78));
+    QVERIFY(kept.changedBelow(canvas()).isEmpty());
+    QImage dotted = canvas();
+    dotted.setPixel(40, 30, 0x01000000);
+    dotted.setPixel(80, 50, 0x01000000);
+    // Outside of the area.
+    dotted.setPixel(3, 30, 0x01000000);
+    dotted.setPixel(50, 84, 0x01000000);
+    QCOMPARE(kept.changedBelow(dotted), QRect(QPoint(40, 30), QPoint(80, 50)));
+    QVERIFY(kept.changedBelow(dotted).isEmpty());
+    dotted.setPixel(105, 83, 0x01000000);
+    dotted.setPixel(4, 83, 0x01000000);
+    QCOMPARE(kept.changedBelow(dotted), QRect(4, 83, 102, 1));
 }
 
 void TestPictures::drawingIsNotKeptForOtherPainters_data()
@@ -211,12 +271,9 @@ void TestPictures::drawingIsNotKeptForOtherPainters()
 {
     QFETCH(QString, difference);
     QImage image = canvas(difference == "format" ? QImage::Format_RGB32 : QImage::Format_ARGB32);
-    if (difference == "format")
-        image.fill(0);
     if (difference == "resolution")
         image.setDevicePixelRatio(2);
     QPainter painter(&image);
-    const QRectF bounds(10, 10, 20, 20);
     if (difference == "clip")
         painter.setClipRect(QRect(0, 0, 50, 50));
     else if (difference == "opacity")
@@ -225,31 +282,16 @@ void TestPictures::drawingIsNotKeptForOtherPainters()
         painter.setCompositionMode(QPainter::CompositionMode_Source);
     else if (difference == "window")
         painter.setWindow(0, 0, 50, 50);
-    QVERIFY(Svg::blankArea(&painter, bounds).isEmpty());
+    QVERIFY(!Svg::plainTarget(&painter));
 }
 
-void TestPictures::blankAreaIsThePartThatPaintingReaches()
+void TestPictures::drawingIsKeptForPlainPainters()
 {
-    QImage image = canvas();
-    QPainter painter(&image);
-    QCOMPARE(Svg::blankArea(&painter, QRectF(10.2, 20.5, 30, 40)), QRect(8, 18, 35, 45));
-    QCOMPARE(Svg::blankArea(&painter, QRectF(-500, -500, 1e9, 1e9)), image.rect());
-    QVERIFY(Svg::blankArea(&painter, QRectF(500, 0, 10, 10)).isEmpty());
-}
-
-void TestPictures::blankAreaIsEmptyWhereSomethingIs()
-{
-    for (const QPoint &place : {QPoint(8, 8), QPoint(31, 8), QPoint(8, 31), QPoint(31, 31), QPoint(20, 20)}) {
-        QImage image = canvas();
-        image.setPixel(place, 0x01000000);
+    for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+        QImage image = canvas(format);
         QPainter painter(&image);
-        QVERIFY(Svg::blankArea(&painter, QRectF(10, 10, 20, 20)).isEmpty());
+        QCOMPARE(Svg::plainTarget(&painter), &image);
     }
-    QImage image = canvas();
-    image.setPixel(7, 8, 0x01000000);
-    image.setPixel(32, 8, 0x01000000);
-    QPainter painter(&image);
-    QCOMPARE(Svg::blankArea(&painter, QRectF(10, 10, 20, 20)), QRect(8, 8, 24, 24));
 }
 
 QTEST_MAIN(TestPictures)

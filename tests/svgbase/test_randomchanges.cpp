@@ -113,10 +113,10 @@ void TestRandomChanges::changedDocumentDrawsAsItsText()
         const QImage found = drawnOver(*document, below);
         const QImage expected = drawnOver(*fresh, below);
         if (found != expected)
-            QFAIL(qPrintable(QStringLiteral("change %1: %2\n%3\n%4")
-                                 .arg(i)
-                                 .arg(described(change), firstDifference(found, expected),
-                                      QString::fromUtf8(random.text()))));
+            QFAIL(qPrintable(
+                QStringLiteral("change %1: %2\n%3\n%4")
+                    .arg(i)
+                    .arg(described(change), firstDifference(found, expected), QString::fromUtf8(random.text()))));
     }
 }
 

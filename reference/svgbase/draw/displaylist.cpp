@@ -97,6 +97,7 @@ void DisplayList::paint(QPainter *painter, bool withControlPoints)
 // What was cut short for want of time or memory depends on what was painted before, so it is not kept.
 void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints)
 {
+    m_repainted = {m_picture.area()};
     m_effort = paintAll(painter, withControlPoints);
     if (m_effort < 1)
         m_picture.keep(target, m_picture.area());
@@ -106,13 +107,13 @@ void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool wit
 
 void DisplayList::repair(QPainter *painter, QImage *target, bool withControlPoints)
 {
-    const QRect changedBelow = m_picture.changedBelow(*target);
-    m_damage.add(changedBelow);
+    m_damage.add(m_picture.changedBelow(*target));
     const QVector<QRect> parts = damagedParts(withControlPoints);
     if (areaOf(parts) > mostRepaired * areaOf({m_picture.area()})) {
         paintAndKeep(painter, *target, withControlPoints);
         return;
     }
+    m_repainted = parts;
     m_picture.restore(target, parts);
     for (const QRect &part : parts) {
         painter->setClipRect(part, Qt::ReplaceClip);

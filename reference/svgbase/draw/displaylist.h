@@ -79,6 +79,8 @@ public:
     /// Paints the items, then the control points if they are wanted. The painter's world transform must be the
     /// identity.
     void paint(QPainter *painter, bool withControlPoints);
+    /// The pixels that the last paint() painted where it could have copied others; empty where nothing changed.
+    const QVector<QRect> &repainted() const { return m_repainted; }
     /// Memory that the list takes, bytes, estimated.
     int weight() const;
 
@@ -96,6 +98,7 @@ private:
     KeptPicture m_picture;
     /// What changed since the picture was kept.
     Damage m_damage;
+    QVector<QRect> m_repainted;
     /// What painting the kept picture, and all repairs since, took of what painting may take; 1 is all of it.
     double m_effort = 0;
     QTransform m_stretch;

@@ -13,6 +13,7 @@ constexpr int bytesPerPixel = 4;
 /// A drawing that grows a little with each change need not be kept anew each time.
 constexpr int roomShare = 8;
 constexpr int leastRoom = 8;
+constexpr int comparedBlock = 32;
 
 bool isPlainPainter(const QPainter *painter)
 {
@@ -59,6 +60,11 @@ void clearRows(QImage *target, const QRect &area)
         memset(pixelsAt(target, area.left(), y), 0, size_t(area.width()) * bytesPerPixel);
 }
 
+bool isSame(const QRgb *a, const QRgb *b, int count)
+{
+    return memcmp(a, b, size_t(count) * bytesPerPixel) == 0;
+}
+
 /// From the first to the last place where two rows differ; `first` is `count` where they do not.
 struct Difference
 {
@@ -66,13 +72,19 @@ struct Difference
     int last;
 };
 
+// Whole blocks are compared at once: rows are long, and what differs in them is short.
 Difference differenceOf(const QRgb *a, const QRgb *b, int count)
 {
-    if (memcmp(a, b, size_t(count) * bytesPerPixel) == 0)
+    if (isSame(a, b, count))
         return {count, -1};
     Difference result{0, count - 1};
+    while (result.first + comparedBlock < count && isSame(a + result.first, b + result.first, comparedBlock))
+        result.first += comparedBlock;
     while (a[result.first] == b[result.first])
         ++result.first;
+    for (int start = result.last + 1 - comparedBlock; start >= 0 && isSame(a + start, b + start, comparedBlock);
+         start -= comparedBlock)
+        result.last = start - 1;
     while (a[result.last] == b[result.last])
         --result.last;
     return result;
