@@ -149,12 +149,29 @@ bool EffectBuilder::addMask(LayerEffects *layer)
     return mask == noNode || buildMask(mask, layer);
 }
 
+// Of a group only plain colours are known: it has no box of its own for others.
+QBrush paintOf(const Paint &paint, double opacity)
+{
+    QColor color = paint.color;
+    if (paint.kind != Paint::Color || !color.isValid())
+        return Qt::NoBrush;
+    color.setAlphaF(color.alphaF() * opacity);
+    return color;
+}
+
 bool EffectBuilder::addFilter(LayerEffects *layer)
 {
     const QString &list = m_facts->style.effects->filter;
     if (list.isEmpty())
         return true;
-    const BuiltFilter built = buildFilter(m_context, list, {bounds(), m_facts->viewport, m_space, m_facts->style});
+    FilterTarget target{bounds(), m_facts->viewport, m_space, m_facts->style};
+    target.fillPaint = paintOf(m_facts->style.fill, m_facts->style.fillOpacity);
+    target.strokePaint = paintOf(m_facts->style.stroke, m_facts->style.strokeOpacity);
+    if (!m_facts->outlines.isEmpty() && m_facts->outlines.constFirst().fillPattern == noNode)
+        target.fillPaint = m_facts->outlines.constFirst().fill;
+    if (!m_facts->outlines.isEmpty() && m_facts->outlines.constFirst().strokePattern == noNode)
+        target.strokePaint = m_facts->outlines.constFirst().strokePaint;
+    const BuiltFilter built = buildFilter(m_context, list, target);
     layer->filter = built.filter;
     return built.drawn;
 }

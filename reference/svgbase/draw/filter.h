@@ -66,6 +66,9 @@ struct FilterStep
 struct Filter
 {
     QVector<FilterStep> steps;
+    /// What "FillPaint" and "StrokePaint" stand for, units of the filtered element.
+    QBrush fillPaint = Qt::NoBrush;
+    QBrush strokePaint = Qt::NoBrush;
     /// From the units of the filtered element.
     QTransform toDocument;
     QTransform toPainter;

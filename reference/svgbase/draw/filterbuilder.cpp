@@ -150,6 +150,8 @@ BuiltFilter buildFilter(BuildContext &context, const QString &list, const Filter
         return result;
     const auto filter = std::make_shared<Filter>();
     filter->toDocument = target.toDocument;
+    filter->fillPaint = target.fillPaint;
+    filter->strokePaint = target.strokePaint;
     FilterBuilder builder(context, target);
     for (const FilterFunction &function : *functions) {
         if (function.kind != FilterFunction::Reference)

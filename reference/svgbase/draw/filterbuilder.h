@@ -16,6 +16,9 @@ struct FilterTarget
     QTransform toDocument;
     /// Of the filtered element.
     const ComputedStyle &style;
+    /// What paints it, where it is one shape.
+    QBrush fillPaint = Qt::NoBrush;
+    QBrush strokePaint = Qt::NoBrush;
 };
 
 /// What becomes of an element with a "filter" property.

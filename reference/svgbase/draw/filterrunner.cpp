@@ -5,10 +5,10 @@
 #include "draw/displacement.h"
 #include "draw/layerpictures.h"
 #include "draw/lighting.h"
-#include "draw/linearlight.h"
 #include "draw/pixelfilters.h"
 #include "draw/turbulence.h"
 #include "inputlimits.h"
+#include "resolve/linearlight.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
@@ -41,8 +41,10 @@ struct FilterResult
 class StepRunner
 {
 public:
-    StepRunner(const FilterStep &step, const QTransform &toPixels, const FilterServices &services)
-        : m_step(step)
+    StepRunner(const Filter &filter, const FilterStep &step, const QTransform &toPixels,
+               const FilterServices &services)
+        : m_filter(filter)
+        , m_step(step)
         , m_toPixels(toPixels)
         , m_services(services)
     {
@@ -59,6 +61,7 @@ private:
     QRectF primitiveRegion(const FilterPrimitive &primitive) const;
     QImage result(const FilterPrimitive &primitive) const;
     QImage blank() const;
+    QImage painted(const QBrush &brush) const;
     QImage blurred(const FilterPrimitive &primitive, QImage picture) const;
     QImage shifted(const FilterPrimitive &primitive, const QImage &picture) const;
     QImage flooded(const QColor &color) const;
@@ -77,6 +80,7 @@ private:
     QRect pixelRect(const QRectF &region) const;
     void cut(QImage *picture, const QRectF &region) const;
 
+    const Filter &m_filter;
     const FilterStep &m_step;
     QTransform m_toPixels;
     const FilterServices &m_services;
@@ -99,6 +103,17 @@ QImage StepRunner::blank() const
 {
     QImage picture(m_source.picture.size(), m_source.picture.format());
     picture.fill(Qt::transparent);
+    return picture;
+}
+
+// The paint of the filtered element, without end (Filter Effects 1 §9.2).
+QImage StepRunner::painted(const QBrush &brush) const
+{
+    QImage picture = blank();
+    QPainter painter(&picture);
+    painter.setTransform(m_toPixels);
+    painter.fillRect(m_region, brush);
+    painter.end();
     return picture;
 }
 
@@ -136,9 +151,11 @@ FilterResult StepRunner::input(const FilterPrimitive &primitive, int index) cons
         return m_source;
     if (name == QLatin1String("SourceAlpha"))
         return m_sourceAlpha;
-    static const QStringList absent{QStringLiteral("BackgroundImage"), QStringLiteral("BackgroundAlpha"),
-                                    QStringLiteral("FillPaint"), QStringLiteral("StrokePaint")};
-    if (absent.contains(name))
+    if (name == QLatin1String("FillPaint"))
+        return {painted(m_filter.fillPaint), false, m_region, true};
+    if (name == QLatin1String("StrokePaint"))
+        return {painted(m_filter.strokePaint), false, m_region, true};
+    if (name == QLatin1String("BackgroundImage") || name == QLatin1String("BackgroundAlpha"))
         return {blank(), false, m_region, true};
     return m_named.value(name, m_last);
 }
@@ -482,7 +499,7 @@ bool runFilter(const Filter &filter, const QTransform &toPixels, const FilterSer
     picture->setDevicePixelRatio(1);
     bool complete = true;
     for (const FilterStep &step : filter.steps)
-        complete = complete && StepRunner(step, toPixels, services).run(picture);
+        complete = complete && StepRunner(filter, step, toPixels, services).run(picture);
     picture->setDevicePixelRatio(ratio);
     return complete;
 }

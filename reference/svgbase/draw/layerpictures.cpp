@@ -1,6 +1,6 @@
 #include "draw/layerpictures.h"
 
-#include "draw/linearlight.h"
+#include "resolve/linearlight.h"
 
 #include <QtCore/QtMath>
 

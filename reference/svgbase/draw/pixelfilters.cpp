@@ -1,6 +1,6 @@
 #include "draw/pixelfilters.h"
 
-#include "draw/linearlight.h"
+#include "resolve/linearlight.h"
 
 namespace Svg {
 

@@ -31,6 +31,8 @@ struct Outline
     int strokePattern = -1;
     /// Whether its edges are smoothed.
     bool smooth = true;
+    /// What the lengths of its dashes are multiplied with; 0 for a solid line.
+    double dashScale = 1;
 };
 
 /// What "context-fill" and "context-stroke" stand for.

@@ -16,6 +16,20 @@ QSizeF cornerRadii(const LengthReader &lengths)
     return QSizeF(lengths.hasSize(AttributeId::Rx) ? rx : ry, lengths.hasSize(AttributeId::Ry) ? ry : rx);
 }
 
+// Begins behind the first corner and goes clockwise, which dashes follow (SVG 2 §10.2).
+void addRoundedRect(const QRectF &rect, double radiusX, double radiusY, QPainterPath *path)
+{
+    const QSizeF corner(2 * radiusX, 2 * radiusY);
+    const double right = rect.right() - corner.width();
+    const double bottom = rect.bottom() - corner.height();
+    path->moveTo(rect.left() + radiusX, rect.top());
+    path->arcTo(QRectF(QPointF(right, rect.top()), corner), 90, -90);
+    path->arcTo(QRectF(QPointF(right, bottom), corner), 0, -90);
+    path->arcTo(QRectF(QPointF(rect.left(), bottom), corner), 270, -90);
+    path->arcTo(QRectF(rect.topLeft(), corner), 180, -90);
+    path->closeSubpath();
+}
+
 Geometry rectGeometry(const LengthReader &lengths)
 {
     const QRectF rect(
@@ -28,7 +42,7 @@ Geometry rectGeometry(const LengthReader &lengths)
     const double radiusX = qMin(radii.width(), rect.width() / 2);
     const double radiusY = qMin(radii.height(), rect.height() / 2);
     if (radiusX > 0 && radiusY > 0)
-        geometry.path.addRoundedRect(rect, radiusX, radiusY);
+        addRoundedRect(rect, radiusX, radiusY, &geometry.path);
     else
         geometry.path.addRect(rect);
     return geometry;

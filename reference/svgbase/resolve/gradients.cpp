@@ -4,6 +4,7 @@
 #include "grammar/lengths.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
+#include "resolve/linearlight.h"
 #include "style/cascade.h"
 #include "tree/references.h"
 
@@ -105,6 +106,34 @@ void separate(QGradientStops &stops)
     }
 }
 
+QColor mixedInLight(const QColor &a, const QColor &b, double share)
+{
+    const auto mixed = [share](int from, int to) {
+        return encodedFromLinear((1 - share) * linearFromEncoded(from) + share * linearFromEncoded(to));
+    };
+    QColor color(mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue()));
+    color.setAlphaF((1 - share) * a.alphaF() + share * b.alphaF());
+    return color;
+}
+
+// Painters mix encoded colours only: stops in between follow the light (SVG 1.1 §11.7.1).
+QGradientStops followingLight(const QGradientStops &stops)
+{
+    constexpr int parts = 16;
+    QGradientStops result{stops.constFirst()};
+    for (int i = 1; i < stops.size(); ++i) {
+        const QGradientStop &from = stops.at(i - 1);
+        const QGradientStop &to = stops.at(i);
+        for (int part = 1; part < parts && to.first > from.first; ++part) {
+            const double share = part / double(parts);
+            result.append(
+                {from.first + share * (to.first - from.first), mixedInLight(from.second, to.second, share)});
+        }
+        result.append(to);
+    }
+    return result;
+}
+
 /// Lengths of a gradient; percentages are of the bounds or of the viewport, as its units say.
 class GradientLengths
 {
@@ -191,6 +220,8 @@ QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &ta
         return Qt::NoBrush;
     if (stops.size() == 1)
         return QBrush(stops.constFirst().second);
+    if (styleInTree(tree, index).mixesLinear)
+        stops = followingLight(stops);
     separate(stops);
     const GradientLengths lengths(chain, target);
     if (lengths.ofBounds() && target.bounds.isEmpty())

@@ -10,18 +10,18 @@ namespace {
 constexpr double shortestDash = 1e-3;
 
 // A painter counts dashes in widths of the pen.
-void setDashes(QPen &pen, const ComputedStyle &style)
+void setDashes(QPen &pen, const ComputedStyle &style, double scale)
 {
     QVector<qreal> pattern = style.strokeDasharray;
     for (qreal &dash : pattern)
-        dash /= pen.widthF();
+        dash *= scale / pen.widthF();
     // A dash without length has caps, which a painter only gives to one with some.
     if (style.strokeLinecap != Qt::FlatCap) {
         for (int i = 0; i < pattern.size(); i += 2)
             pattern[i] = qMax(pattern.at(i), shortestDash);
     }
     pen.setDashPattern(pattern);
-    pen.setDashOffset(style.strokeDashoffset / pen.widthF());
+    pen.setDashOffset(style.strokeDashoffset * scale / pen.widthF());
 }
 
 bool usesDashesOfStyle(const Stroke &stroke)
@@ -42,8 +42,8 @@ QPen strokePen(const ComputedStyle &style, const Stroke &stroke)
     pen.setMiterLimit(style.strokeMiterlimit);
     if (!usesDashesOfStyle(stroke))
         pen.setStyle(*stroke.lineStyle);
-    else if (!style.strokeDasharray.isEmpty())
-        setDashes(pen, style);
+    else if (!style.strokeDasharray.isEmpty() && stroke.dashScale > 0)
+        setDashes(pen, style, stroke.dashScale);
     return pen;
 }
 

@@ -16,6 +16,8 @@ struct Stroke
     double width = 0;
     /// One of Qt's dash patterns, or none of them for the dashes of the style.
     std::optional<Qt::PenStyle> lineStyle;
+    /// What the dashes of the style are multiplied with; 0 for none.
+    double dashScale = 1;
 };
 
 /// The pen of a stroke; caps, joins and dashes are the style's. `Qt::NoPen` when there is nothing to paint with or

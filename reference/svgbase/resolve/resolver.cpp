@@ -1,6 +1,7 @@
 #include "resolve/resolver.h"
 
 #include "grammar/csstransforms.h"
+#include "grammar/numbers.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
 #include "resolve/conditions.h"
@@ -8,6 +9,7 @@
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/images.h"
+#include "resolve/pathmeasure.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
@@ -65,6 +67,17 @@ QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
     if (facts.toDocument.type() <= QTransform::TxScale || path.isEmpty())
         return facts.toDocument.mapRect(facts.localBounds);
     return facts.toDocument.map(path).boundingRect();
+}
+
+// "pathLength" says what the author took the length for (SVG 2 §9.6.1).
+double dashScale(const Node &node, const ComputedStyle &style, const QPainterPath &path)
+{
+    if (style.strokeDasharray.isEmpty() || !node.attributes.contains(AttributeId::PathLength))
+        return 1;
+    const double claimed = parseNumber(node.attributes.value(AttributeId::PathLength)).value_or(-1);
+    if (claimed < 0)
+        return 1;
+    return claimed == 0 ? 0 : PathMeasure(path).length() / claimed;
 }
 
 } // namespace
@@ -162,7 +175,8 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     return QBrush(color);
 }
 
-void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, Facts *facts) const
+void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
+                          Facts *facts) const
 {
     Outline outline;
     outline.path = path;
@@ -172,7 +186,8 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     outline.path.controlPointRect();
     outline.fill = brushOf(style.fill, style.fillOpacity, facts, &outline.fillPattern);
     outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts, &outline.strokePattern);
-    outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt});
+    outline.dashScale = dashScale;
+    outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt, dashScale});
     outline.smooth = isText ? style.smoothText : style.smoothShapes;
     facts->outlines.append(outline);
 }
@@ -190,7 +205,7 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
     facts->localBounds = geometry.bounds;
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
-        addOutline(geometry.path, facts->style, false, facts);
+        addOutline(geometry.path, facts->style, false, dashScale(node, facts->style, geometry.path), facts);
 }
 
 void Resolver::resolveText(NodeIndex index, Facts *facts) const
@@ -208,7 +223,7 @@ void Resolver::resolveText(NodeIndex index, Facts *facts) const
     if (facts->hasGeometry)
         facts->localBounds = text.cells;
     for (const TextRun &run : text.runs)
-        addOutline(run.path, run.style, true, facts);
+        addOutline(run.path, run.style, true, 1, facts);
 }
 
 void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const

@@ -30,7 +30,8 @@ private:
     void resolveShape(NodeIndex index, Facts *facts) const;
     void resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
     void resolveText(NodeIndex index, Facts *facts) const;
-    void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, Facts *facts) const;
+    void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
+                    Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
     void warn(const Node &node, const QString &text) const;
 

@@ -29,34 +29,50 @@ bool isFontWeight(const QString &word)
     return isOneOf(word, {"bold", "bolder", "lighter"}) || (number && weight >= 1 && weight <= 1000);
 }
 
-// The words of a "font" before its size; false for one that has no place there.
-bool readFontWord(const QString &word, QString *style, QString *weight)
+bool isFontStretch(const QString &word)
+{
+    return isOneOf(word, {"ultra-condensed", "extra-condensed", "condensed", "semi-condensed", "semi-expanded",
+                          "expanded", "extra-expanded", "ultra-expanded"});
+}
+
+/// What a "font" says, as far as it is read.
+struct FontWords
+{
+    QString style = QStringLiteral("normal");
+    QString variant = QStringLiteral("normal");
+    QString weight = QStringLiteral("normal");
+    QString stretch = QStringLiteral("normal");
+};
+
+// The words before the size; false for one that has no place there.
+bool readFontWord(const QString &word, FontWords *font)
 {
     if (isOneOf(word, {"italic", "oblique"}))
-        *style = word;
+        font->style = word;
+    else if (isOneOf(word, {"small-caps"}))
+        font->variant = word;
     else if (isFontWeight(word))
-        *weight = word;
+        font->weight = word;
+    else if (isFontStretch(word))
+        font->stretch = word;
     else
-        return isOneOf(word, {"normal", "small-caps", "ultra-condensed", "extra-condensed", "condensed",
-                              "semi-condensed", "semi-expanded", "expanded", "extra-expanded", "ultra-expanded"});
+        return isOneOf(word, {"normal"});
     return true;
 }
 
-QVector<Longhand> fontOf(const QString &style, const QString &weight, const QString &size, const QString &family)
+QVector<Longhand> fontOf(const FontWords &font, const QString &size, const QString &family)
 {
-    return {{AttributeId::FontStyle, style},
-            {AttributeId::FontWeight, weight},
-            {AttributeId::FontSize, size},
-            {AttributeId::FontFamily, family}};
+    return {{AttributeId::FontStyle, font.style},   {AttributeId::FontVariant, font.variant},
+            {AttributeId::FontWeight, font.weight}, {AttributeId::FontStretch, font.stretch},
+            {AttributeId::FontSize, size},          {AttributeId::FontFamily, family}};
 }
 
 // CSS 2.1 §15.8: words in any order, the size with an optional line height, the families.
 QVector<Longhand> fontLonghands(const QString &value)
 {
-    if (isOneOf(value, {"inherit", "initial"}))
-        return fontOf(value, value, value, value);
-    QString style = QStringLiteral("normal");
-    QString weight = QStringLiteral("normal");
+    if (isOneOf(value, {"inherit", "initial", "unset"}))
+        return fontOf({value, value, value, value}, value, value);
+    FontWords font;
     QStringList words = value.simplified().split(QLatin1Char(' '));
     while (!words.isEmpty()) {
         const QString word = words.takeFirst();
@@ -67,9 +83,9 @@ QVector<Longhand> fontLonghands(const QString &value)
             QString family = words.join(QLatin1Char(' '));
             if (family.startsWith(QLatin1Char('/')))
                 family = family.section(QLatin1Char(' '), 2);
-            return family.isEmpty() ? QVector<Longhand>() : fontOf(style, weight, size, family);
+            return family.isEmpty() ? QVector<Longhand>() : fontOf(font, size, family);
         }
-        if (!readFontWord(word, &style, &weight))
+        if (!readFontWord(word, &font))
             break;
     }
     return {};
@@ -79,7 +95,11 @@ QVector<Longhand> fontLonghands(const QString &value)
 
 QVector<Longhand> longhands(const QString &name, const QString &value)
 {
-    return name == QLatin1String("font") ? fontLonghands(value) : QVector<Longhand>();
+    if (name == QLatin1String("font"))
+        return fontLonghands(value);
+    if (name == QLatin1String("text-decoration-line"))
+        return {{AttributeId::TextDecoration, value}};
+    return {};
 }
 
 bool isStyledAttribute(AttributeId id)

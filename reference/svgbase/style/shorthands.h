@@ -13,7 +13,7 @@ struct Longhand
     QString value;
 };
 
-/// The properties that a shorthand of CSS ("font") sets; none for any other name, and for a value that
+/// The properties that a shorthand of CSS ("font" and the like) sets; none for any other name, and for a value that
 /// breaks the shorthand's grammar.
 QVector<Longhand> longhands(const QString &name, const QString &value);
 /// Whether an attribute that is no presentation attribute in SVG 1.1 may be given by style (SVG 2 §8.9): the

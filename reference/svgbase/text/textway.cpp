@@ -64,7 +64,7 @@ double authorScale(const Tree &tree, NodeIndex textPath, double length)
     const NodeIndex shape = referredShape(tree, tree.node(textPath).attributes);
     if (shape == noNode)
         return 1;
-    const QString text = tree.node(shape).attributes.value(QStringLiteral("pathLength"));
+    const QString text = tree.node(shape).attributes.value(AttributeId::PathLength);
     const std::optional<double> assumed = parseNumber(text);
     return assumed && *assumed > 0 ? length / *assumed : 1;
 }

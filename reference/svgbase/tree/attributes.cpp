@@ -63,6 +63,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("opacity"), AttributeId::Opacity},
     {QLatin1String("paint-order"), AttributeId::PaintOrder},
     {QLatin1String("overflow"), AttributeId::Overflow},
+    {QLatin1String("pathLength"), AttributeId::PathLength},
     {QLatin1String("points"), AttributeId::Points},
     {QLatin1String("preserveAspectRatio"), AttributeId::PreserveAspectRatio},
     {QLatin1String("r"), AttributeId::R},

@@ -86,6 +86,7 @@ enum class AttributeId : quint8 {
     Href,
     Id,
     Offset,
+    PathLength,
     Points,
     PreserveAspectRatio,
     R,

@@ -1,4 +1,4 @@
-#include "draw/linearlight.h"
+#include "resolve/linearlight.h"
 
 #include <QtCore/QtGlobal>
 
