@@ -14,8 +14,7 @@ bool isEmpty(const StyleOverride &override)
 Stroke effectiveStroke(const Outline &outline, const ComputedStyle &style, const StyleOverride &override)
 {
     const QBrush paint = override.strokeColor ? QBrush(*override.strokeColor) : outline.strokePaint;
-    return {paint, override.strokeWidth.value_or(style.strokeWidth), override.strokeStyle,
-            outline.dashScale};
+    return {paint, override.strokeWidth.value_or(style.strokeWidth), override.strokeStyle, outline.dashScale};
 }
 
 } // namespace
