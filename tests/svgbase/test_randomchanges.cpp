@@ -63,8 +63,39 @@ QString firstDifference(const QImage &found, const QImage &expected)
 
 QString described(const RandomDocument::Change &change)
 {
+    if (change.kind != RandomDocument::Change::SetAttribute)
+        return QStringLiteral("%1 kind %2, parent %3").arg(change.id).arg(change.kind).arg(change.parentId);
     const QString value = change.value.isNull() ? QStringLiteral("(none)") : change.value;
     return QStringLiteral("%1 %2=%3").arg(change.id, change.attribute, value);
+}
+
+QZeSvgStructureNode *structureNode(QZeSvgTinyDocument *document, QZeSvgNode *node)
+{
+    return node ? dynamic_cast<QZeSvgStructureNode *>(node) : document;
+}
+
+// Null pointers mean that the document knows an id no more.
+bool apply(const RandomDocument::Change &change, QZeSvgTinyDocument *document)
+{
+    QZeSvgNode *node = document->namedNode(change.id);
+    if (!node)
+        return false;
+    if (change.kind == RandomDocument::Change::SetAttribute) {
+        node->setAttribute(change.attribute, change.value);
+        return true;
+    }
+    if (change.kind == RandomDocument::Change::Remove) {
+        structureNode(document, node->parent())->removeChild(node);
+        return true;
+    }
+    QZeSvgStructureNode *parent = structureNode(document, document->namedNode(change.parentId));
+    if (!parent)
+        return false;
+    if (change.kind == RandomDocument::Change::Copy)
+        parent->addChild(node->clone(), change.newId);
+    else
+        parent->addChild(node, change.id);
+    return true;
 }
 
 } // namespace
@@ -105,9 +136,7 @@ void TestRandomChanges::changedDocumentDrawsAsItsText()
     const QImage::Format format = start % 2 ? QImage::Format_ARGB32 : QImage::Format_ARGB32_Premultiplied;
     for (int i = 0; i < changesOfEach; ++i) {
         const RandomDocument::Change change = random.change();
-        QZeSvgNode *node = document->namedNode(change.id);
-        QVERIFY(node);
-        node->setAttribute(change.attribute, change.value);
+        QVERIFY2(apply(change, document.get()), qPrintable(described(change)));
         const DocumentPointer fresh = loaded(random.text());
         const QImage below = background(pictures.bounded(backgrounds), format);
         const QImage found = drawnOver(*document, below);
@@ -132,7 +161,7 @@ void TestRandomChanges::writtenDocumentDrawsTheSame()
     const DocumentPointer document = loaded(random.text());
     for (int i = 0; i < changesOfEach; ++i) {
         const RandomDocument::Change change = random.change();
-        document->namedNode(change.id)->setAttribute(change.attribute, change.value);
+        QVERIFY2(apply(change, document.get()), qPrintable(described(change)));
     }
     const QByteArray written = document->toSvg();
     const DocumentPointer again = loaded(written);
