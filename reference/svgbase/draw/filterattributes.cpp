@@ -142,6 +142,12 @@ void PrimitiveReader::readComposite()
     m_result.coefficients = {number("k1", 0), number("k2", 0), number("k3", 0), number("k4", 0)};
 }
 
+// Any other type counts as "matrix".
+bool isColorMatrixType(const QString &type)
+{
+    return type == QLatin1String("saturate") || type == QLatin1String("hueRotate");
+}
+
 // Values of the wrong number leave colours as they are.
 void PrimitiveReader::readMatrix()
 {
@@ -155,7 +161,7 @@ void PrimitiveReader::readMatrix()
         m_result.matrix = saturateMatrix(values->first());
     else if (type == QLatin1String("hueRotate") && count == 1)
         m_result.matrix = hueRotateMatrix(values->first());
-    else if ((type.isEmpty() || type == QLatin1String("matrix")) && count == matrixSize)
+    else if (!isColorMatrixType(type) && count == matrixSize)
         std::copy(values->begin(), values->end(), m_result.matrix.begin());
 }
 

@@ -197,6 +197,8 @@ QRectF StepRunner::primitiveRegion(const FilterPrimitive &primitive) const
     if (whole)
         region = m_region;
     const PrimitiveRegion &own = primitive.region;
+    if (own.width.value_or(1) <= 0 || own.height.value_or(1) <= 0)
+        return QRectF();
     return QRectF(own.x.value_or(region.x()), own.y.value_or(region.y()), own.width.value_or(region.width()),
                   own.height.value_or(region.height()));
 }

@@ -28,13 +28,18 @@ const FunctionName functionNames[] = {
     {QLatin1String("sepia"), FilterFunction::Sepia},
 };
 
-// Words up to white space that stands outside of parentheses.
+// Words up to white space that stands outside of parentheses, or up to a parenthesis that closes.
 QVector<QStringView> words(QStringView text)
 {
     QVector<QStringView> result;
     int depth = 0;
     qsizetype begin = -1;
     for (qsizetype i = 0; i <= text.size(); ++i) {
+        const bool closed = begin >= 0 && depth == 0 && text[i - 1] == QLatin1Char(')');
+        if (closed && i < text.size() && !text[i].isSpace()) {
+            result.append(text.mid(begin, i - begin));
+            begin = -1;
+        }
         const bool ends = i == text.size() || (depth == 0 && text[i].isSpace());
         if (ends && begin >= 0)
             result.append(text.mid(begin, i - begin));
@@ -62,43 +67,68 @@ bool readAmount(QStringView text, FilterFunction *function)
     return true;
 }
 
+// CSS takes no length and no angle without its unit, but for 0.
+bool hasUnit(QStringView text, double value)
+{
+    return value == 0 || !(text.back().isDigit() || text.back() == QLatin1Char('.'));
+}
+
+std::optional<Length> parseCssLength(QStringView text)
+{
+    const std::optional<Length> length = parseLength(text);
+    return length && length->unit != Unit::Percent && hasUnit(text, length->value) ? length : std::nullopt;
+}
+
 bool readHue(QStringView text, FilterFunction *function)
 {
     function->amount = 0;
     if (text.isEmpty())
         return true;
     const std::optional<double> angle = parseAngle(text);
-    if (angle)
-        function->amount = *angle;
-    return angle.has_value();
+    if (!angle || !hasUnit(text, *angle))
+        return false;
+    function->amount = *angle;
+    return true;
 }
 
 bool readBlur(QStringView text, FilterFunction *function)
 {
     if (text.isEmpty())
         return true;
-    const std::optional<Length> length = parseLength(text);
-    if (!length || length->value < 0 || length->unit == Unit::Percent)
+    const std::optional<Length> length = parseCssLength(text);
+    if (!length || length->value < 0)
         return false;
     function->lengths[0] = *length;
     return true;
 }
 
+bool readShadowColor(QStringView text, FilterFunction *function)
+{
+    if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0)
+        return true;
+    const std::optional<QColor> color = parseColor(text);
+    if (color)
+        function->color = *color;
+    return color.has_value();
+}
+
+// Two or three lengths, with a colour before or behind them.
 bool readShadow(QStringView text, FilterFunction *function)
 {
+    QVector<QStringView> parts = words(text);
     int lengths = 0;
-    for (const QStringView word : words(text)) {
-        const std::optional<Length> length = parseLength(word);
-        if (length && lengths < 3 && length->unit != Unit::Percent) {
-            function->lengths[lengths++] = *length;
-            continue;
-        }
-        if (word.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0)
-            continue;
-        const std::optional<QColor> color = parseColor(word);
-        if (!color || function->color.isValid())
+    if (!parts.isEmpty() && !parseLength(parts.constFirst())) {
+        if (!readShadowColor(parts.takeFirst(), function))
             return false;
-        function->color = *color;
+    } else if (!parts.isEmpty() && !parseLength(parts.constLast()) &&
+               !readShadowColor(parts.takeLast(), function)) {
+        return false;
+    }
+    for (const QStringView part : qAsConst(parts)) {
+        const std::optional<Length> length = parseCssLength(part);
+        if (!length || lengths == 3)
+            return false;
+        function->lengths[lengths++] = *length;
     }
     return lengths >= 2 && function->lengths[2].value >= 0;
 }
