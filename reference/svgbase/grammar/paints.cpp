@@ -2,6 +2,8 @@
 
 #include "grammar/colors.h"
 
+#include <QtCore/QUrl>
+
 namespace Svg {
 
 namespace {
@@ -50,7 +52,9 @@ QString localReference(QStringView text)
     const QStringView trimmed = text.trimmed();
     if (!trimmed.startsWith(QLatin1Char('#')))
         return QString();
-    return trimmed.mid(1).toString();
+    const QString id = trimmed.mid(1).toString();
+    // References are addresses, in which characters may be encoded (RFC 3986 §2.1).
+    return id.contains(QLatin1Char('%')) ? QUrl::fromPercentEncoding(id.toUtf8()) : id;
 }
 
 QString functionReference(QStringView text, QStringView *rest)

@@ -130,7 +130,8 @@ double LengthReader::value(AttributeId id, Axis axis, double fallback) const
 
 double LengthReader::size(AttributeId id, Axis axis, double fallback) const
 {
-    return qMax(0.0, value(id, axis, fallback));
+    const double given = value(id, axis, fallback);
+    return given < 0 ? fallback : given;
 }
 
 bool LengthReader::has(AttributeId id) const

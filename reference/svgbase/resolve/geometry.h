@@ -36,7 +36,7 @@ public:
 
     /// User units; the fallback where the attribute is absent or no length.
     double value(AttributeId id, Axis axis, double fallback = 0) const;
-    /// The same, nothing below 0.
+    /// The same, the fallback for what is below 0, too.
     double size(AttributeId id, Axis axis, double fallback = 0) const;
     bool has(AttributeId id) const;
     /// Whether it is a length that a size can have, which a negative one is not.
