@@ -59,7 +59,8 @@ const QStringList &commonAttributes()
         "stroke-dasharray stroke-linecap stroke-linejoin font-size clip-path mask filter marker marker-start "
         "marker-mid marker-end stroke-opacity stroke-dashoffset stroke-miterlimit vector-effect clip-rule "
         "paint-order "
-        "mix-blend-mode isolation text-anchor font-family font-weight letter-spacing text-decoration");
+        "mix-blend-mode isolation text-anchor font-family font-weight letter-spacing text-decoration "
+        "shape-rendering");
     return list;
 }
 
@@ -143,6 +144,7 @@ const QMap<QString, QStringList> &valuesOfAttributes()
         {QStringLiteral("font-weight"), values("bold|normal|bolder|300")},
         {QStringLiteral("letter-spacing"), values("2|normal|-1|0.1em")},
         {QStringLiteral("text-decoration"), values("underline|none|line-through")},
+        {QStringLiteral("shape-rendering"), values("crispEdges|auto|geometricPrecision")},
         {QStringLiteral("media"), values("all|print|screen|(min-width:1px)")},
         {QStringLiteral("type"), values("text/css|text/other")},
     };

@@ -220,7 +220,8 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     else if (stroked)
         mapUnscaledStroke(item, outline, transform, world);
     item->outlineLength = paintedLength(*item);
-    item->isIndivisible = item->fill.style() > Qt::SolidPattern || item->pen.brush().style() > Qt::SolidPattern;
+    item->isIndivisible =
+        !item->smooth || item->fill.style() > Qt::SolidPattern || item->pen.brush().style() > Qt::SolidPattern;
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.

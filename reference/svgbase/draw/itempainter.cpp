@@ -126,6 +126,7 @@ public:
     void paint(const QVector<DisplayItem> &items);
 
 private:
+    void takePaint(QPainter *painter, const DisplayItem &item);
     void paintShape(const DisplayItem &item);
     void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
@@ -138,6 +139,9 @@ private:
     std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
 
     std::vector<Layer> m_layers;
+    /// The painter that has pen and brush of an item, and that item.
+    const QPainter *m_paintOwner = nullptr;
+    const DisplayItem *m_paintSource = nullptr;
     double m_pixelRatio;
     PixelBudget *m_budget;
 };
@@ -153,6 +157,18 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
     m_layers.push_back(std::move(bottom));
 }
 
+// Neighbours are often painted alike, and a change costs the painter more than the comparison.
+void ItemPainter::takePaint(QPainter *painter, const DisplayItem &item)
+{
+    const DisplayItem *last = m_paintOwner == painter ? m_paintSource : nullptr;
+    if (!last || last->pen != item.pen)
+        painter->setPen(item.pen);
+    if (!last || last->fill != item.fill)
+        painter->setBrush(item.fill);
+    m_paintOwner = painter;
+    m_paintSource = &item;
+}
+
 bool reaches(const QRectF &bounds, const QRect &area)
 {
     return !paintedPixels(bounds, area).isEmpty();
@@ -166,8 +182,7 @@ void ItemPainter::paintShape(const DisplayItem &item)
         return;
     QPainter *painter = layer.painter;
     painter->setOpacity(layer.opacity * item.opacity);
-    painter->setPen(item.pen);
-    painter->setBrush(item.fill);
+    takePaint(painter, item);
     if (!item.smooth)
         painter->setRenderHint(QPainter::Antialiasing, false);
     painter->drawPath(item.path);
@@ -361,6 +376,7 @@ void ItemPainter::endLayer()
 {
     Layer done = std::move(m_layers.back());
     m_layers.pop_back();
+    m_paintOwner = nullptr;
     if (done.clips)
         done.painter->restore();
     if (!done.picture)
