@@ -24,9 +24,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     const QString text = fuzzedText(data, size);
     const std::optional<QByteArray> bytes = Svg::parseDataUri(text);
     require(!bytes || bytes->size() <= text.toUtf8().size(), "data is no longer than its text");
-    QString problem;
+    Svg::Problem problem;
     const Svg::ImagePointer image = Svg::readImage(text, &problem);
-    require(image || !problem.isEmpty(), "what can't be shown has a reason");
+    require(image || !problem.text.isEmpty(), "what can't be shown has a reason");
     if (image && !image->document)
         require(image->size.width() * image->size.height() <= Svg::Limits::imagePixels, "an image is bounded");
     return 0;

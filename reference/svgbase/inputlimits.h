@@ -24,22 +24,31 @@ constexpr int namespaceDeclarations = 64;
 constexpr int pathSegments = 32767;
 /// Most rules of all style sheets of a document; a selector of a list counts as one.
 constexpr int styleRules = 20000;
+/// Most classes of one element that rules are looked for by.
+constexpr int classes = 256;
 /// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
 constexpr int selectorSteps = 20000000;
 constexpr int leastSelectorSteps = 2000;
+/// Most stops of one gradient; a painter tells no more apart.
+constexpr int gradientStops = 1000;
 /// Longest side of a pattern's tile, and its most pixels; larger ones are painted more coarsely.
 constexpr int patternSide = 8192;
 constexpr double patternPixels = 4.0 * 1024 * 1024;
+/// Most pixels of all tiles of one drawing.
+constexpr double patternsPixels = 32.0 * 1024 * 1024;
 /// Most different tiles of one drawing.
 constexpr int patterns = 2000;
 /// Longest chain of "href" between gradients.
 constexpr int gradientReferences = 32;
 /// Deepest nesting of "use" in "use".
 constexpr int useDepth = 32;
-/// Most nodes that all "use" elements of a document add to a drawing.
-constexpr int useInstances = 20000;
+/// Most nodes that all references of a document ("use" and the content of markers, clip paths, masks and patterns)
+/// add to a drawing.
+constexpr int useInstances = 100000;
 /// Most outline elements (moves, lines and curves count 1 to 3) that all "use" elements add to a drawing.
 constexpr int usedOutlineElements = 1000000;
+/// Most characters of attributes that are read again for all "use" elements, and for markers and the like.
+constexpr int usedCharacters = 10000000;
 /// Most characters of one document that are set; the rest is left out.
 constexpr int textCharacters = 100000;
 /// Most "textPath" elements of a document, and most elements of the path that one follows.
@@ -61,6 +70,8 @@ constexpr double transformEntry = 1e12;
 constexpr double mappedCoordinate = 1e15;
 /// Widest stroke, user units.
 constexpr double strokeWidth = 1e6;
+/// Most entries of a list of dashes; with more, the stroke is drawn solid.
+constexpr int dashEntries = 256;
 /// Most dashes along one outline; above it the stroke is drawn solid.
 constexpr double dashes = 20000;
 /// Most nodes that one drawing visits to measure what clip paths, masks and filters relate to.

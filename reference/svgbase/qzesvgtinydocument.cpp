@@ -31,7 +31,8 @@ QZeSvgTinyDocument *QZeSvgNodePrivate::cloneDocument(DocumentPrivate *document)
 
 QVector<QZeSvgTinyDocument::Message> QZeSvgTinyDocument::messages() const
 {
-    return DocumentPrivate::of(this)->content.messages();
+    const DocumentPrivate *record = DocumentPrivate::of(this);
+    return record->content.messages() + record->drawMessages;
 }
 
 QZeSvgNode *QZeSvgTinyDocument::namedNode(const QString &id) const

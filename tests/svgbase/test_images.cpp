@@ -66,9 +66,9 @@ QByteArray claiming(int width, int height)
 
 QString problemOf(const QByteArray &bytes)
 {
-    QString problem;
+    Problem problem;
     readImage(base64Uri(bytes), &problem);
-    return problem;
+    return problem.text;
 }
 
 } // namespace

@@ -73,12 +73,15 @@ int drawFile(const Request &request)
         return complain(QStringLiteral("%1: %2").arg(request.input, file.errorString()));
     Messages messages;
     const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(file.readAll(), &messages));
-    print(request.input, messages);
-    if (!document)
+    if (!document) {
+        print(request.input, messages);
         return Refused;
+    }
     if (request.time)
         document->setAnimationTime(*request.time);
-    if (!picture(*document, request.size).save(request.output, "PNG"))
+    const QImage drawing = picture(*document, request.size);
+    print(request.input, document->messages());
+    if (!drawing.save(request.output, "PNG"))
         return complain(QStringLiteral("%1 can't be written.").arg(request.output));
     return Drawn;
 }

@@ -125,6 +125,7 @@ void ModelReader::readMotion(NodeIndex index, NodeIndex target)
 {
     const std::optional<Motion> motion =
         Motion::read(m_tree, index, lengthsOf(*m_document.facts(target)), &m_motionRoom);
+    m_model.lacksMotions = m_model.lacksMotions || m_motionRoom < 0;
     if (!motion)
         return;
     const ValueContext context = transformContext(QString());

@@ -12,6 +12,8 @@ struct AnimationModel
     Timeline timeline;
     /// Ordered by target.
     QVector<AnimatedAttribute> attributes;
+    /// Whether motions were left out because their paths are too long together.
+    bool lacksMotions = false;
 };
 
 /// Reads the animation elements as they are now. Those without a target or without usable values play their part in

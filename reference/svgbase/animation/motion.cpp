@@ -157,11 +157,14 @@ void Motion::readRotation(const Attributes &attributes)
 
 std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths, int *room)
 {
+    // Once there is no room left, paths are not even read.
+    if (*room < 0)
+        return std::nullopt;
     const Attributes &attributes = tree.node(animation).attributes;
     const QPainterPath way = wayOf(tree, animation, lengths);
-    if (way.elementCount() == 0 || way.elementCount() > *room)
-        return std::nullopt;
     *room -= way.elementCount();
+    if (way.elementCount() == 0 || *room < 0)
+        return std::nullopt;
     Motion motion(way);
     if (!motion.readKeys(attributes))
         return std::nullopt;

@@ -1,5 +1,6 @@
 #include "animation/presentation.h"
 
+#include "inputlimits.h"
 #include "resolve/viewports.h"
 
 #include <algorithm>
@@ -19,6 +20,21 @@ void Presentation::takeOver(Document &base)
     m_document.raiseRevision(shown);
     m_baseRevision = base.revision();
     m_read = true;
+}
+
+DrawReport Presentation::report() const
+{
+    DrawReport report;
+    if (m_model.timeline.isExhausted())
+        report.add(
+            Message::TooManyAnimationEvents,
+            QStringLiteral("Begins and ends of animations beyond %1 from one moment to the next do not happen.")
+                .arg(Limits::animationEvents));
+    if (m_model.lacksMotions)
+        report.add(Message::MotionPathsTooLong,
+                   QStringLiteral("Motions beyond paths of %1 elements together are left out.")
+                       .arg(Limits::motionElements));
+    return report;
 }
 
 bool Presentation::update(AnimatedAttribute *attribute)

@@ -2,6 +2,7 @@
 
 #include "animation/model.h"
 #include "document/document.h"
+#include "draw/drawreport.h"
 
 namespace Svg {
 
@@ -15,6 +16,8 @@ public:
     /// Goes to a moment. Whether that changes what is drawn.
     bool show(Document &base, ClockTime time);
     Document &document() { return m_document; }
+    /// What was left out because of limits.
+    DrawReport report() const;
     /// The view box of the moment, if it is animated.
     std::optional<QRectF> viewBox() const;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "animation/timing.h"
+#include "inputlimits.h"
 
 #include <set>
 #include <utility>
@@ -31,6 +32,8 @@ public:
 
     /// Goes to a moment. Going back starts over.
     void goTo(ClockTime time);
+    /// Whether it could not get there, for too many begins and ends on the way.
+    bool isExhausted() const { return m_eventsLeft <= 0; }
     /// What an animation does at the moment that was gone to.
     State state(int animation) const;
 
@@ -91,7 +94,7 @@ private:
     /// Next event of every player that has one.
     std::set<std::pair<ClockTime, int>> m_events;
     ClockTime m_now = 0;
-    int m_eventsLeft = 0;
+    int m_eventsLeft = Limits::animationEvents;
     bool m_started = false;
     bool m_connected = false;
 };

@@ -49,7 +49,7 @@ FactsPointer Document::facts(NodeIndex index)
 FactsPointer Document::factsBelow(NodeIndex child, const FactsPointer &above)
 {
     if (m_changed && !isCurrent(child, above))
-        m_facts[child] = Resolver(m_tree, m_referenceRevision).resolve(child, above);
+        m_facts[child] = resolver().resolve(child, above);
     return m_facts.at(child);
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/prototype.h"
 #include "document/styleoverride.h"
+#include "resolve/resolver.h"
 
 namespace Svg {
 
@@ -30,6 +31,8 @@ public:
     FactsPointer facts(NodeIndex index);
     /// The same for a child of a node whose facts are at hand.
     FactsPointer factsBelow(NodeIndex child, const FactsPointer &above);
+    /// Resolves elements at other places than their own.
+    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients); }
     /// Bounds of the visible geometry of a subtree, document units.
     QRectF visibleBounds(NodeIndex top);
 
@@ -68,6 +71,7 @@ private:
     PrototypePointer m_prototype;
     Tree m_tree;
     QVector<FactsPointer> m_facts;
+    GradientCache m_gradients;
     /// By node index; shorter while nothing was styled.
     QVector<StyleOverridePointer> m_overrides;
     quint32 m_revision = 0;

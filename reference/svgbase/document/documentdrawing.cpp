@@ -46,6 +46,9 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
     painter->setBackgroundMode(Qt::TransparentMode);
     painter->setRenderHints(painter->renderHints(), false);
     list->paint(painter, withControlPoints);
+    drawMessages = list->messages(shown().tree());
+    if (m_presentation)
+        m_presentation->report().appendTo(&drawMessages, shown().tree());
     DisplayListCache::keep(this, std::move(list));
 }
 

@@ -59,6 +59,8 @@ public:
     /// Document-wide values as last set.
     Svg::StyleOverride lastSet;
     QZeSvgTinyDocument::DrawRecord lastDraw;
+    /// What the last drawing left out.
+    QVector<Svg::Message> drawMessages;
     int selectionState = 0;
     bool beforeDraw = false;
 

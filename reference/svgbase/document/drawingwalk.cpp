@@ -42,7 +42,7 @@ private:
     NodeIndex usedNode(const Node &use) const;
     bool isOpen(NodeIndex node) const;
     bool isExhausted() const;
-    void count(const Facts &facts);
+    void count(const Node &node, const Facts &facts);
     FactsPointer factsOf(NodeIndex node, const Level &level) const;
 
     Document &m_document;
@@ -54,12 +54,16 @@ private:
 
 bool Walk::isExhausted() const
 {
-    return m_budget->instances >= Limits::useInstances || m_budget->outlineElements >= Limits::usedOutlineElements;
+    return m_budget->instances >= Limits::useInstances ||
+           m_budget->outlineElements >= Limits::usedOutlineElements ||
+           m_budget->characters >= Limits::usedCharacters;
 }
 
-void Walk::count(const Facts &facts)
+void Walk::count(const Node &node, const Facts &facts)
 {
     ++m_budget->instances;
+    for (const Attribute &attribute : node.attributes)
+        m_budget->characters += attribute.value.size();
     for (const Outline &outline : facts.outlines)
         m_budget->outlineElements += outline.path.elementCount();
 }
@@ -72,8 +76,12 @@ bool Walk::isOpen(NodeIndex node) const
 NodeIndex Walk::usedNode(const Node &use) const
 {
     const NodeIndex target = m_document.tree().findId(hrefTarget(use.attributes));
-    if (target == noNode || target == rootNode || isOpen(target) || m_useDepth >= Limits::useDepth)
+    if (target == noNode || target == rootNode || isOpen(target))
         return noNode;
+    if (m_useDepth >= Limits::useDepth) {
+        m_budget->tooDeep = target;
+        return noNode;
+    }
     const ElementKind kind = m_document.tree().node(target).kind;
     return isDrawable(kind) || kind == ElementKind::Symbol ? target : noNode;
 }
@@ -107,7 +115,7 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
 {
     if (!level.used)
         return m_document.factsBelow(node, level.facts);
-    const Resolver resolver(m_document.tree(), m_document.referenceRevision());
+    const Resolver resolver = m_document.resolver();
     if (m_document.tree().node(node).kind != ElementKind::Image)
         return resolver.resolve(node, level.facts);
     const FactsPointer own = m_document.facts(node);
@@ -147,7 +155,7 @@ void Walk::step()
     }
     const FactsPointer facts = factsOf(child, level);
     if (used)
-        count(*facts);
+        count(node, *facts);
     visit(child, facts, used);
 }
 

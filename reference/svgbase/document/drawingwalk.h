@@ -25,8 +25,12 @@ struct WalkBudget
     int instances = 0;
     /// Elements of their outlines.
     qint64 outlineElements = 0;
+    /// Characters of their attributes.
+    qint64 characters = 0;
     /// Whether something was left out.
     bool exhausted = false;
+    /// A "use" that was too deep in others; `noNode` for none.
+    NodeIndex tooDeep = noNode;
 };
 
 /// Visits a node and all that is drawn below it, in drawing order, with what each "use" refers to in its place.

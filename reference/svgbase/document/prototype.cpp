@@ -11,7 +11,8 @@ namespace {
 
 QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages)
 {
-    const Resolver resolver(tree, 1, messages);
+    GradientCache gradients;
+    const Resolver resolver(tree, 1, &gradients, messages);
     QVector<FactsPointer> facts(tree.size());
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const NodeIndex parent = tree.node(at).parent;

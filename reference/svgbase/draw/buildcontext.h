@@ -2,6 +2,7 @@
 
 #include "document/document.h"
 #include "document/drawingwalk.h"
+#include "draw/drawreport.h"
 #include "draw/patternpaint.h"
 
 #include <QtCore/QHash>
@@ -26,8 +27,11 @@ struct BuildContext
     QVector<NodeIndex> open;
     /// What "feImage" elements show, so that every use of a filter need not read it again.
     QHash<NodeIndex, std::shared_ptr<const ImageContent>> filterImages;
-    /// Tiles that were built, for all that are painted with the same.
-    QVector<PatternPointer> patterns;
+    /// Patterns that were built, for all that are painted with the same, by what they were built from.
+    QMultiHash<uint, PatternPointer> patterns;
+    std::shared_ptr<PatternTiles> tiles = std::make_shared<PatternTiles>();
+    /// What was left out.
+    DrawReport report;
     /// Images that are shown, their pixels, and the same counted for every time that they are.
     QSet<const ImageContent *> images;
     qint64 imagePixels = 0;

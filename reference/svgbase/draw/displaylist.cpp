@@ -66,10 +66,38 @@ QRectF DisplayList::paintedBounds(bool withControlPoints) const
     return bounds;
 }
 
-double DisplayList::paintAll(QPainter *painter, bool withControlPoints) const
+double DisplayList::paintAll(QPainter *painter, bool withControlPoints)
 {
-    const double effort = paintItems(painter, m_items);
-    return withControlPoints ? effort + paintItems(painter, m_controlPoints) : effort;
+    PaintBudget budget = paintBudget(*painter);
+    paintItems(painter, m_items, &budget);
+    if (withControlPoints)
+        paintItems(painter, m_controlPoints, &budget);
+    reportPainting(budget);
+    return budget.taken();
+}
+
+void DisplayList::reportPainting(const PaintBudget &budget)
+{
+    m_paintReport = DrawReport();
+    if (budget.lacksWork() || (m_tiles && m_tiles->budget.lacksWork()))
+        m_paintReport.add(Message::TooMuchPainting,
+                          QStringLiteral("Painting takes too long; what comes last is left out."));
+    if (budget.lacksPixels || (m_tiles && m_tiles->budget.lacksPixels))
+        m_paintReport.add(
+            Message::TooManyLayerPixels,
+            QStringLiteral("Opacity, clip paths, masks and filters need too many pixels; some have no "
+                           "effect or nothing to show."));
+    if (m_tiles && m_tiles->exhausted)
+        m_paintReport.add(Message::TooManyPatterns,
+                          QStringLiteral("Tiles of patterns with too many pixels together are left out."));
+}
+
+QVector<Message> DisplayList::messages(const Tree &tree) const
+{
+    QVector<Message> result;
+    m_buildReport.appendTo(&result, tree);
+    m_paintReport.appendTo(&result, tree);
+    return result;
 }
 
 void DisplayList::paint(QPainter *painter, bool withControlPoints)
@@ -170,12 +198,16 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
         m_picture.clear();
         forgetMapping(&m_items);
         forgetMapping(&m_controlPoints);
+        if (m_tiles)
+            *m_tiles = PatternTiles();
     }
     if (sameContent) {
         mapItems(&m_items, stretch, world);
         mapItems(&m_controlPoints, stretch, world);
     } else {
         BuiltList built = buildList(document);
+        m_tiles = built.tiles;
+        m_buildReport = built.report;
         replaceItems(&m_items, std::move(built.items), stretch, world);
         replaceItems(&m_controlPoints, std::move(built.controlPoints), stretch, world);
     }

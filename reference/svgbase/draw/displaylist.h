@@ -2,6 +2,7 @@
 
 #include "document/document.h"
 #include "draw/damage.h"
+#include "draw/drawreport.h"
 #include "draw/keptpicture.h"
 #include "draw/patternpaint.h"
 
@@ -81,12 +82,15 @@ public:
     void paint(QPainter *painter, bool withControlPoints);
     /// The pixels that the last paint() painted where it could have copied others; empty where nothing changed.
     const QVector<QRect> &repainted() const { return m_repainted; }
+    /// What was left out when the list was built and painted last.
+    QVector<Message> messages(const Tree &tree) const;
     /// Memory that the list takes, bytes, estimated.
     int weight() const;
 
 private:
     QRectF paintedBounds(bool withControlPoints) const;
-    double paintAll(QPainter *painter, bool withControlPoints) const;
+    double paintAll(QPainter *painter, bool withControlPoints);
+    void reportPainting(const PaintBudget &budget);
     void paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints);
     void repair(QPainter *painter, QImage *target, bool withControlPoints);
     QVector<QRect> damagedParts(bool withControlPoints) const;
@@ -96,6 +100,9 @@ private:
     QVector<DisplayItem> m_items;
     QVector<DisplayItem> m_controlPoints;
     KeptPicture m_picture;
+    std::shared_ptr<PatternTiles> m_tiles;
+    DrawReport m_buildReport;
+    DrawReport m_paintReport;
     /// What changed since the picture was kept.
     Damage m_damage;
     QVector<QRect> m_repainted;

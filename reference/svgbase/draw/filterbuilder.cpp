@@ -50,7 +50,7 @@ ImagePointer FilterBuilder::image(NodeIndex node)
         return *known;
     const Attributes &attributes = element(node).attributes;
     const bool plain = attributes.contains(AttributeId::Href);
-    QString problem;
+    Problem problem;
     const ImagePointer read =
         readImage(attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
     m_context.filterImages.insert(node, read);
@@ -72,7 +72,7 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
     around->style = inheritedStyle(m_context.document.facts(node)->style);
     around->viewport = m_target.viewport;
     around->toDocument = m_target.toDocument;
-    const Resolver resolver(m_context.document.tree(), m_context.document.referenceRevision());
+    const Resolver resolver = m_context.document.resolver();
     const FactsPointer facts = resolver.resolve(shown, holder, m_context.document.facts(shown).data());
     primitive->items = buildElement(m_context, shown, facts);
 }
@@ -109,10 +109,15 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
                                m_target.bounds, m_target.viewport};
     for (NodeIndex at = element(filter).firstChild; at != noNode; at = element(at).next) {
         const ElementKind kind = element(at).kind;
-        if (step->primitives.size() >= Limits::filterPrimitives)
-            return false;
         if (!isPrimitive(kind))
             continue;
+        if (step->primitives.size() == Limits::filterPrimitives) {
+            m_context.report.add(
+                Message::TooManyFilterPrimitives,
+                QStringLiteral("A filter of more than %1 primitives has no effect.").arg(Limits::filterPrimitives),
+                filter);
+            return false;
+        }
         FilterPrimitive primitive =
             readPrimitive(m_context.document.tree(), at, m_context.document.facts(at)->style, units);
         if (kind == ElementKind::FeImage)

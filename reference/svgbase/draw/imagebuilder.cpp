@@ -32,8 +32,13 @@ bool takePixels(BuildContext &context, const ImageContent &content)
 void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
 {
     const QSizeF size = facts->image->size;
-    if (!takePixels(context, *facts->image))
+    if (!takePixels(context, *facts->image)) {
+        context.report.add(
+            Message::TooManyImagePixels,
+            QStringLiteral("Images with more than %1 pixels together are left out.").arg(Limits::imagePixels),
+            node);
         return;
+    }
     DisplayItem item;
     item.kind = DisplayItem::Image;
     item.node = node;
@@ -48,7 +53,7 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
 }
 
 // The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
-QVector<DisplayItem> documentItems(BuildContext &context, const Facts &facts)
+QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
 {
     Document document(facts.image->document);
     document.settle();
@@ -61,6 +66,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, const Facts &facts)
     inner.shownPixels = context.shownPixels;
     inner.imageDepth = context.imageDepth + 1;
     inner.control = context.control;
+    inner.tiles = context.tiles;
     inner.controlCentre = context.controlCentre;
     auto *root = new Facts(*document.facts(rootNode));
     const FactsPointer rootFacts(root);
@@ -74,14 +80,23 @@ QVector<DisplayItem> documentItems(BuildContext &context, const Facts &facts)
     context.images = inner.images;
     context.imagePixels = inner.imagePixels;
     context.shownPixels = inner.shownPixels;
+    // Places in the inner document say nothing to whoever reads the outer one.
+    QVector<Message> messages;
+    inner.report.appendTo(&messages, Tree());
+    for (const Message &message : qAsConst(messages))
+        context.report.add(message.code, message.text, node);
     return items;
 }
 
 void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
 {
-    if (context.imageDepth >= Limits::imageDepth)
+    if (context.imageDepth >= Limits::imageDepth) {
+        context.report.add(
+            Message::ImagesTooDeep,
+            QStringLiteral("Documents more than %1 deep in images are left out.").arg(Limits::imageDepth));
         return;
-    QVector<DisplayItem> drawing = documentItems(context, *facts);
+    }
+    QVector<DisplayItem> drawing = documentItems(context, node, *facts);
     if (drawing.isEmpty())
         return;
     if (isCut(*facts)) {

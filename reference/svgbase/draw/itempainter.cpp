@@ -30,17 +30,6 @@ constexpr double alignmentTolerance = 1e-3;
 /// What is painted aside while a picture is recorded lies within this.
 constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
 
-/// What a drawing may still do: pixels painted aside, in all and at a time, and work on outlines.
-struct PixelBudget
-{
-    double left = Limits::layerPixels;
-    double open = 0;
-    int depth = 0;
-    double work = Limits::paintedWork;
-    /// Whether something was left out, or simplified, for want of more.
-    bool exceeded = false;
-};
-
 double pixelCount(const QRect &area, double pixelRatio)
 {
     return double(area.width()) * area.height() * pixelRatio * pixelRatio;
@@ -50,7 +39,7 @@ double pixelCount(const QRect &area, double pixelRatio)
 class SidePicture
 {
 public:
-    SidePicture(const QRect &area, double pixelRatio, PixelBudget *budget)
+    SidePicture(const QRect &area, double pixelRatio, PaintBudget *budget)
         : m_area(area)
         , m_budget(budget)
         , m_pixels(pixelCount(area, pixelRatio))
@@ -73,13 +62,13 @@ public:
     SidePicture(const SidePicture &) = delete;
     SidePicture &operator=(const SidePicture &) = delete;
 
-    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PixelBudget *budget)
+    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PaintBudget *budget)
     {
         const double pixels = pixelCount(area, pixelRatio);
         const bool affordable = pixels >= 1 && pixels <= budget->left &&
                                 budget->open + pixels <= Limits::openLayerPixels &&
                                 budget->depth < Limits::layerDepth;
-        budget->exceeded = budget->exceeded || !affordable;
+        budget->lacksPixels = budget->lacksPixels || !affordable;
         return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget) : nullptr;
     }
 
@@ -96,7 +85,7 @@ public:
 
 private:
     QRect m_area;
-    PixelBudget *m_budget;
+    PaintBudget *m_budget;
     double m_pixels;
     QImage m_image;
     QPainter m_painter;
@@ -122,7 +111,7 @@ struct Layer
 class ItemPainter
 {
 public:
-    ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PixelBudget *budget);
+    ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget);
     void paint(const QVector<DisplayItem> &items);
 
 private:
@@ -143,10 +132,10 @@ private:
     const QPainter *m_paintOwner = nullptr;
     const DisplayItem *m_paintSource = nullptr;
     double m_pixelRatio;
-    PixelBudget *m_budget;
+    PaintBudget *m_budget;
 };
 
-ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PixelBudget *budget)
+ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget)
     : m_pixelRatio(pixelRatio)
     , m_budget(budget)
 {
@@ -420,16 +409,16 @@ QRect paintableArea(const QPainter &painter)
 
 } // namespace
 
-double paintItems(QPainter *painter, const QVector<DisplayItem> &items)
+PaintBudget paintBudget(const QPainter &painter)
 {
-    PixelBudget budget;
-    const QSize window = paintableArea(*painter).size();
-    budget.work += Limits::paintedWorkPerPixel * window.width() * window.height();
+    const QSize window = paintableArea(painter).size();
+    return PaintBudget(double(window.width()) * window.height());
+}
+
+void paintItems(QPainter *painter, const QVector<DisplayItem> &items, PaintBudget *budget)
+{
     const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
-    const double work = budget.work;
-    ItemPainter(painter, paintableArea(*painter), ratio, &budget).paint(items);
-    const double taken = qMax(1 - budget.left / Limits::layerPixels, 1 - budget.work / work);
-    return budget.exceeded ? qMax(1.0, taken) : taken;
+    ItemPainter(painter, paintableArea(*painter), ratio, budget).paint(items);
 }
 
 } // namespace Svg

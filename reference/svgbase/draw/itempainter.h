@@ -1,14 +1,16 @@
 #pragma once
 
 #include "draw/displaylist.h"
+#include "draw/paintbudget.h"
 
 class QPainter;
 
 namespace Svg {
 
 /// Paints mapped items in order. The painter's world transform must be the identity, since items hold coordinates
-/// of the painter; its opacity counts for all of them. Returns what this took of what a painting may take; 1 or
-/// more where something was left out or simplified, because there was no more.
-double paintItems(QPainter *painter, const QVector<DisplayItem> &items);
+/// of the painter; its opacity counts for all of them. What the budget does not allow is left out or simplified.
+void paintItems(QPainter *painter, const QVector<DisplayItem> &items, PaintBudget *budget);
+/// What a drawing onto a painter may do, more for a larger one.
+PaintBudget paintBudget(const QPainter &painter);
 
 } // namespace Svg

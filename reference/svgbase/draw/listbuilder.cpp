@@ -8,6 +8,7 @@
 #include "draw/layerwrapping.h"
 #include "draw/markerbuilder.h"
 #include "draw/patternbuilder.h"
+#include "inputlimits.h"
 
 namespace Svg {
 
@@ -40,6 +41,7 @@ private:
     DrawingVisitor visitor();
     bool enter(NodeIndex node, const FactsPointer &facts);
     void leave(NodeIndex node);
+    void reportReferences();
     bool isAllowed(ElementKind kind) const;
     void addPainted(NodeIndex node, const FactsPointer &facts, bool layered);
     void addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts);
@@ -297,12 +299,29 @@ DrawingVisitor ListBuilder::visitor()
             [this](NodeIndex node, const FactsPointer &) { leave(node); }};
 }
 
+void ListBuilder::reportReferences()
+{
+    const WalkBudget &budget = m_context.budget;
+    if (budget.exhausted || m_context.boundsBudget.exhausted)
+        m_context.report.add(
+            Message::TooManyReferences,
+            QStringLiteral("References add more than %1 elements; some are left out.").arg(Limits::useInstances));
+    if (budget.tooDeep != noNode)
+        m_context.report.add(
+            Message::UseTooDeep,
+            QStringLiteral("What is used more than %1 times inside each other is left out.").arg(Limits::useDepth),
+            budget.tooDeep);
+}
+
 BuiltList ListBuilder::build()
 {
     walkDrawing(m_document, rootNode, visitor(), &m_context.budget);
     // What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
     if (m_context.blends)
         wrapInLayer(m_context, rootNode, nullptr, &m_result.items);
+    reportReferences();
+    m_result.tiles = m_context.tiles;
+    m_result.report = m_context.report;
     return std::move(m_result);
 }
 

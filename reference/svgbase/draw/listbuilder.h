@@ -10,6 +10,9 @@ struct BuiltList
 {
     QVector<DisplayItem> items;
     QVector<DisplayItem> controlPoints;
+    std::shared_ptr<PatternTiles> tiles;
+    /// What was left out.
+    DrawReport report;
 };
 
 BuiltList buildList(Document &document);

@@ -56,8 +56,14 @@ QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &f
     const QTransform fromDocument = effectSpace(element, *facts).inverted();
     BoundsUnion all;
     const auto enter = [&](NodeIndex, const FactsPointer &below) {
-        if (!below->displayed || ++context.boundsVisits > Limits::boundsVisits)
+        if (!below->displayed)
             return false;
+        if (++context.boundsVisits > Limits::boundsVisits) {
+            context.report.add(Message::TooManyBoundsVisits,
+                               QStringLiteral("Measuring bounding boxes takes too long; some are too small."),
+                               node);
+            return false;
+        }
         if (below->hasGeometry)
             all.add(boundsIn(*below, fromDocument));
         return true;

@@ -19,9 +19,16 @@ public:
     OpenReference &operator=(const OpenReference &) = delete;
 
     /// False for a definition that stands in its own content, and for one too deep in others.
-    static bool isAllowed(const BuildContext &context, NodeIndex node)
+    static bool isAllowed(BuildContext &context, NodeIndex node)
     {
-        return !context.open.contains(node) && context.open.size() < Limits::effectDepth;
+        if (context.open.size() < Limits::effectDepth)
+            return !context.open.contains(node);
+        context.report.add(Message::EffectsTooDeep,
+                           QStringLiteral("Clip paths, masks, markers and patterns more than %1 deep in each other "
+                                          "are left out.")
+                               .arg(Limits::effectDepth),
+                           node);
+        return false;
     }
 
 private:

@@ -72,6 +72,7 @@ private:
     bool placeContent(QTransform *toPattern, QSizeF *viewport) const;
     double length(const char *name, Axis axis) const;
     QTransform ownTransform() const;
+    uint key() const;
     PatternPointer known() const;
     bool contentOfBounds() const
     {
@@ -133,9 +134,25 @@ QTransform PatternBuilder::ownTransform() const
     return parseCssTransform(text, {m_target.viewport, m_target.style.font.size}).value_or(QTransform());
 }
 
+uint PatternBuilder::key() const
+{
+    const QRectF &b = m_pattern.bounds;
+    const double values[] = {double(m_pattern.node),
+                             b.x(),
+                             b.y(),
+                             b.width(),
+                             b.height(),
+                             m_pattern.viewport.width(),
+                             m_pattern.viewport.height(),
+                             m_pattern.opacity};
+    return qHashRange(std::begin(values), std::end(values));
+}
+
 PatternPointer PatternBuilder::known() const
 {
-    for (const PatternPointer &pattern : qAsConst(m_context.patterns)) {
+    const auto [begin, end] = m_context.patterns.equal_range(key());
+    for (auto at = begin; at != end; ++at) {
+        const PatternPointer &pattern = *at;
         if (pattern->node == m_pattern.node && pattern->bounds == m_pattern.bounds &&
             pattern->viewport == m_pattern.viewport && pattern->opacity == m_pattern.opacity)
             return pattern;
@@ -146,14 +163,19 @@ PatternPointer PatternBuilder::known() const
 PatternPointer PatternBuilder::build()
 {
     const NodeIndex holder = m_chain.holder();
-    if (holder == noNode || m_context.patterns.size() >= Limits::patterns ||
-        !OpenReference::isAllowed(m_context, m_pattern.node))
+    if (holder == noNode || !OpenReference::isAllowed(m_context, m_pattern.node))
         return nullptr;
     if (m_ofBounds || contentOfBounds())
         m_pattern.bounds = m_target.localBounds;
     m_pattern.viewport = m_target.viewport;
     if (const PatternPointer pattern = known())
         return pattern;
+    if (m_context.patterns.size() >= Limits::patterns) {
+        m_context.report.add(Message::TooManyPatterns,
+                             QStringLiteral("Tiles of patterns beyond %1 are left out.").arg(Limits::patterns),
+                             m_pattern.node);
+        return nullptr;
+    }
     auto *facts = new Facts;
     const FactsPointer content(facts);
     if (!placeTile() || !placeContent(&facts->toDocument, &facts->viewport))
@@ -166,8 +188,8 @@ PatternPointer PatternBuilder::build()
     m_pattern.items = buildContent(m_context, holder, content, ContentUse::Drawing);
     if (m_pattern.items.isEmpty())
         return nullptr;
-    m_context.patterns.append(std::make_shared<const PatternPaint>(m_pattern));
-    return m_context.patterns.constLast();
+    m_pattern.tiles = m_context.tiles;
+    return *m_context.patterns.insert(key(), std::make_shared<const PatternPaint>(m_pattern));
 }
 
 } // namespace

@@ -44,6 +44,39 @@ void fade(QImage *picture, double opacity)
     painter.fillRect(picture->rect(), QColor(0, 0, 0, qRound(opacity * opaque)));
 }
 
+QImage paintedTile(const PatternPaint &pattern, const QSize &size, const QTransform &tileToPicture)
+{
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QVector<DisplayItem> items = pattern.items;
+    mapItems(&items, tileToPicture, QTransform());
+    QPainter painter(&picture);
+    paintItems(&painter, items, &pattern.tiles->budget);
+    painter.end();
+    if (pattern.opacity < 1)
+        fade(&picture, pattern.opacity);
+    return picture;
+}
+
+// The same tile in many places, and in tiles of other patterns, is painted once.
+QImage tilePicture(const PatternPaint &pattern, const QSize &size, const QTransform &tileToPicture)
+{
+    PatternTiles &tiles = *pattern.tiles;
+    const auto key = qMakePair(&pattern, qMakePair(size.width(), size.height()));
+    const auto known = tiles.pictures.constFind(key);
+    if (known != tiles.pictures.constEnd())
+        return *known;
+    const double pixels = double(size.width()) * size.height();
+    if (pixels > tiles.pixelsLeft || tiles.budget.lacksWork()) {
+        tiles.exhausted = true;
+        return QImage();
+    }
+    tiles.pixelsLeft -= pixels;
+    const QImage picture = paintedTile(pattern, size, tileToPicture);
+    tiles.pictures.insert(key, picture);
+    return picture;
+}
+
 } // namespace
 
 QBrush patternBrush(const PatternPaint &pattern, const QTransform &transform)
@@ -52,15 +85,9 @@ QBrush patternBrush(const PatternPaint &pattern, const QTransform &transform)
     const QTransform tileToPicture =
         QTransform::fromTranslate(-pattern.tile.x(), -pattern.tile.y()) *
         QTransform::fromScale(size.width() / pattern.tile.width(), size.height() / pattern.tile.height());
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    QVector<DisplayItem> items = pattern.items;
-    mapItems(&items, tileToPicture, QTransform());
-    QPainter painter(&picture);
-    paintItems(&painter, items);
-    painter.end();
-    if (pattern.opacity < 1)
-        fade(&picture, pattern.opacity);
+    const QImage picture = tilePicture(pattern, size, tileToPicture);
+    if (picture.isNull())
+        return Qt::NoBrush;
     QBrush brush(picture);
     brush.setTransform(tileToPicture.inverted() * pattern.toTarget);
     return brush;

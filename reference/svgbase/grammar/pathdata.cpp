@@ -355,7 +355,12 @@ bool PathReader::readCommands()
             return false;
         ++m_cursor.at;
         if (lowerCase(letter) == 'z') {
+            if (m_segments == Limits::pathSegments) {
+                m_result.tooLong = true;
+                return false;
+            }
             close();
+            ++m_segments;
             m_previous = 'z';
             continue;
         }

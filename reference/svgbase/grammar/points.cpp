@@ -25,8 +25,8 @@ Points parsePoints(QStringView text)
             return result;
         double x = 0;
         double y = 0;
-        if (result.points.size() > Limits::pathSegments || !readCoordinate(cursor, &x) ||
-            !readCoordinate(cursor, &y)) {
+        result.tooLong = result.points.size() > Limits::pathSegments;
+        if (result.tooLong || !readCoordinate(cursor, &x) || !readCoordinate(cursor, &y)) {
             result.complete = false;
             return result;
         }

@@ -11,6 +11,8 @@ struct Points
     /// Every pair before the first error, user units.
     QPolygonF points;
     bool complete = true;
+    /// Whether it was the limit that cut the list.
+    bool tooLong = false;
 };
 
 Points parsePoints(QStringView text);

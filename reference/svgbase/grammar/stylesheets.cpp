@@ -83,7 +83,7 @@ private:
     void parseAtRule();
     void enterMedia(QStringView media);
     bool takeMark(QLatin1String mark);
-    void report(const QChar *at, const QString &text);
+    void report(const QChar *at, const QString &text, bool tooMany = false);
 
     const QChar *m_begin;
     CssCursor m_cursor;
@@ -91,10 +91,9 @@ private:
     int m_openMedia = 0;
 };
 
-void SheetParser::report(const QChar *at, const QString &text)
+void SheetParser::report(const QChar *at, const QString &text, bool tooMany)
 {
-    if (m_sheet->problems.size() < Limits::messages)
-        m_sheet->problems.append({int(at - m_begin), text});
+    m_sheet->report({int(at - m_begin), text, tooMany});
 }
 
 bool SheetParser::takeMark(QLatin1String mark)
@@ -126,11 +125,14 @@ void SheetParser::parseRule()
         return;
     }
     if (m_sheet->rules.size() >= Limits::styleRules) {
-        report(begin, QStringLiteral("Rules beyond %1 are left out.").arg(Limits::styleRules));
+        report(begin, QStringLiteral("Rules beyond %1 are left out.").arg(Limits::styleRules), true);
         m_cursor.at = m_cursor.end;
         return;
     }
-    m_sheet->rules.append({*selectors, parseDeclarations(body, &m_sheet->problems, int(block - m_begin))});
+    QVector<StyleProblem> problems;
+    m_sheet->rules.append({*selectors, parseDeclarations(body, &problems, int(block - m_begin))});
+    for (const StyleProblem &problem : qAsConst(problems))
+        m_sheet->report(problem);
 }
 
 // What applies is read as if it stood outside; its closing brace is passed when it comes.
@@ -189,6 +191,12 @@ void SheetParser::parse()
 
 } // namespace
 
+void StyleSheet::report(const StyleProblem &problem)
+{
+    if (problem.tooMany || problems.size() < Limits::messages)
+        problems.append(problem);
+}
+
 QVector<SheetDeclaration> parseDeclarations(QStringView text, QVector<StyleProblem> *problems, int offset)
 {
     QVector<SheetDeclaration> declarations;
@@ -203,7 +211,7 @@ QVector<SheetDeclaration> parseDeclarations(QStringView text, QVector<StyleProbl
         declaration.offset = offset + int(begin - text.begin());
         if (parseDeclaration(part, &declaration))
             declarations.append(declaration);
-        else if (problems && !isBlank(part))
+        else if (problems && problems->size() < Limits::messages && !isBlank(part))
             problems->append({declaration.offset, QStringLiteral("\"%1\" is no declaration.").arg(quoted(part))});
     }
     return declarations;

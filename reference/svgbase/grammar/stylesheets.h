@@ -26,12 +26,17 @@ struct StyleProblem
 {
     int offset = 0;
     QString text;
+    /// Whether a limit is the reason.
+    bool tooMany = false;
 };
 
 struct StyleSheet
 {
     QVector<StyleRule> rules;
     QVector<StyleProblem> problems;
+
+    /// Notes a problem, unless there are many.
+    void report(const StyleProblem &problem);
 };
 
 /// Declarations between braces, in their order. What is no declaration is left out and

@@ -2,6 +2,7 @@
 
 #include "grammar/pathdata.h"
 #include "grammar/points.h"
+#include "inputlimits.h"
 #include "style/cascade.h"
 
 namespace Svg {
@@ -73,11 +74,19 @@ Geometry lineGeometry(const LengthReader &lengths)
     return geometry;
 }
 
-Geometry pointsGeometry(const Attributes &attributes, bool closed, QString *problem)
+Problem pointsProblem(const Points &points)
+{
+    if (points.tooLong)
+        return {Message::TooManySegments,
+                QStringLiteral("Points beyond %1 are left out.").arg(Limits::pathSegments + 1)};
+    return {Message::InvalidPoints, QStringLiteral("The list of points ends at its first error.")};
+}
+
+Geometry pointsGeometry(const Attributes &attributes, bool closed, Problem *problem)
 {
     const Points points = parsePoints(attributes.value(AttributeId::Points));
     if (!points.complete && problem)
-        *problem = QStringLiteral("The list of points ends at its first error.");
+        *problem = pointsProblem(points);
     if (points.points.isEmpty())
         return Geometry();
     Geometry geometry{QPainterPath(points.points.first()), points.points.boundingRect(), true};
@@ -90,11 +99,14 @@ Geometry pointsGeometry(const Attributes &attributes, bool closed, QString *prob
     return geometry;
 }
 
-QString pathProblem(const PathData &data)
+Problem pathProblem(const PathData &data)
 {
+    const int character = data.errorAt + 1;
     if (data.tooLong)
-        return QStringLiteral("The path has too many segments and is cut at character %1.").arg(data.errorAt + 1);
-    return QStringLiteral("The path data ends at an error in character %1.").arg(data.errorAt + 1);
+        return {Message::TooManySegments,
+                QStringLiteral("The path has too many segments and is cut at character %1.").arg(character)};
+    return {Message::InvalidPathData,
+            QStringLiteral("The path data ends at an error in character %1.").arg(character)};
 }
 
 // Style sheets write path("M 0 0"), or "none".
@@ -107,7 +119,7 @@ QString pathText(const Node &node, const ComputedStyle &style)
     return text.mid(begin, text.lastIndexOf(QLatin1Char(')')) - begin - 1);
 }
 
-Geometry pathGeometry(const QString &text, QString *problem)
+Geometry pathGeometry(const QString &text, Problem *problem)
 {
     const PathData data = parsePathData(text);
     if (data.errorAt >= 0 && problem)
@@ -157,7 +169,7 @@ QRectF ellipseBox(const Node &node, const ComputedStyle &style, const QSizeF &vi
     return QRectF(cx - rx, cy - ry, 2 * rx, 2 * ry);
 }
 
-Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport, QString *problem)
+Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport, Problem *problem)
 {
     const LengthReader lengths(node, style, viewport);
     switch (node.kind) {

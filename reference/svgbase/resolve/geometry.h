@@ -2,6 +2,7 @@
 
 #include "grammar/lengths.h"
 #include "style/cascade.h"
+#include "tree/message.h"
 #include "tree/tree.h"
 
 #include <QtGui/QPainterPath>
@@ -52,7 +53,7 @@ private:
 
 /// The geometry of every kind but text and images. What could not be read is described in `problem`, when given.
 Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport,
-                       QString *problem = nullptr);
+                       Problem *problem = nullptr);
 /// The bounding box of a circle or an ellipse, user units.
 QRectF ellipseBox(const Node &node, const ComputedStyle &style, const QSizeF &viewport);
 

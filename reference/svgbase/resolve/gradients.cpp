@@ -17,6 +17,9 @@ namespace {
 /// Stops closer than a painter's colour table can tell apart.
 constexpr double offsetStep = 1e-6;
 
+/// Most gradients that are kept at a time.
+constexpr int mostKnown = 1000;
+
 /// A gradient and those it refers to, nearest first: what one leaves out, the next may say.
 class GradientChain
 {
@@ -24,6 +27,7 @@ public:
     GradientChain(const Tree &tree, NodeIndex gradient);
 
     bool isEmpty() const { return m_nodes.isEmpty(); }
+    bool isCut() const { return m_cut; }
     ElementKind kind() const { return m_tree.node(m_nodes.first()).kind; }
     QString value(AttributeId id) const;
     QGradientStops stops(double opacity) const;
@@ -33,6 +37,7 @@ private:
 
     const Tree &m_tree;
     QVector<NodeIndex> m_nodes;
+    bool m_cut = false;
 };
 
 bool isGradient(ElementKind kind)
@@ -45,8 +50,10 @@ GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
     : m_tree(tree)
 {
     NodeIndex at = gradient;
-    while (at != noNode && isGradient(tree.node(at).kind) && !m_nodes.contains(at) &&
-           m_nodes.size() < Limits::gradientReferences) {
+    while (at != noNode && isGradient(tree.node(at).kind) && !m_nodes.contains(at)) {
+        m_cut = m_nodes.size() == Limits::gradientReferences;
+        if (m_cut)
+            return;
         m_nodes.append(at);
         at = tree.findId(hrefTarget(tree.node(at).attributes));
     }
@@ -84,6 +91,8 @@ QGradientStops GradientChain::stops(double opacity) const
         const Node &stop = m_tree.node(child);
         if (stop.kind != ElementKind::Stop)
             continue;
+        if (stops.size() == Limits::gradientStops)
+            break;
         const ComputedStyle style = cascade(m_tree, child, {around, QSizeF()});
         QColor color = style.stopColor;
         color.setAlphaF(color.alphaF() * style.stopOpacity * opacity);
@@ -172,62 +181,102 @@ QGradient::Spread spread(const QString &method)
     return QGradient::PadSpread;
 }
 
-QBrush finished(QGradient &gradient, const GradientChain &chain, const QGradientStops &stops)
+GradientCache::Known prepared(const GradientChain &chain, double opacity, bool mixesLinear)
 {
-    gradient.setStops(stops);
-    gradient.setSpread(spread(chain.value(AttributeId::SpreadMethod)));
-    return QBrush(gradient);
+    GradientCache::Known known;
+    QGradientStops stops = chain.stops(opacity);
+    known.stops = stops.size();
+    if (stops.isEmpty())
+        return known;
+    known.last = stops.constLast().second;
+    if (mixesLinear)
+        stops = followingLight(stops);
+    separate(stops);
+    const QGradient::Spread method = spread(chain.value(AttributeId::SpreadMethod));
+    if (chain.kind() == ElementKind::LinearGradient) {
+        known.linear.setStops(stops);
+        known.linear.setSpread(method);
+    } else {
+        known.radial.setStops(stops);
+        known.radial.setSpread(method);
+    }
+    return known;
 }
 
-QBrush linearBrush(const GradientChain &chain, const GradientLengths &lengths, const QGradientStops &stops)
+QBrush linearBrush(const GradientLengths &lengths, const GradientCache::Known &known)
 {
     const QPointF from(lengths.value(AttributeId::X1, Axis::Horizontal, 0),
                        lengths.value(AttributeId::Y1, Axis::Vertical, 0));
     const QPointF to(lengths.value(AttributeId::X2, Axis::Horizontal, 100),
                      lengths.value(AttributeId::Y2, Axis::Vertical, 0));
     if (from == to)
-        return QBrush(stops.constLast().second);
-    QLinearGradient gradient(from, to);
-    return finished(gradient, chain, stops);
+        return QBrush(known.last);
+    QLinearGradient gradient = known.linear;
+    gradient.setStart(from);
+    gradient.setFinalStop(to);
+    return QBrush(gradient);
 }
 
-QBrush radialBrush(const GradientChain &chain, const GradientLengths &lengths, const QGradientStops &stops)
+QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &known)
 {
     const double cx = lengths.value(AttributeId::Cx, Axis::Horizontal, 50);
     const double cy = lengths.value(AttributeId::Cy, Axis::Vertical, 50);
     const double r = lengths.value(AttributeId::R, Axis::Diagonal, 50);
     if (r <= 0)
-        return QBrush(stops.constLast().second);
-    QRadialGradient gradient(cx, cy, r, lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
-                             lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
+        return QBrush(known.last);
+    QRadialGradient gradient = known.radial;
+    gradient.setCenter(cx, cy);
+    gradient.setCenterRadius(r);
+    gradient.setFocalPoint(lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
+                           lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
     // What lies within the focal circle has the first colour.
     const double focal = lengths.value(AttributeId::Fr, Axis::Diagonal, 0);
     if (focal >= r)
-        return QBrush(stops.constLast().second);
+        return QBrush(known.last);
     gradient.setFocalRadius(qMax(0.0, focal));
-    return finished(gradient, chain, stops);
+    return QBrush(gradient);
 }
 
 } // namespace
 
-QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target)
+void GradientCache::setRevision(quint32 revision)
+{
+    if (revision != m_revision)
+        m_known.clear();
+    m_revision = revision;
+}
+
+const GradientCache::Known *GradientCache::find(NodeIndex gradient, double opacity) const
+{
+    return m_known.value({gradient, opacity}).get();
+}
+
+const GradientCache::Known *GradientCache::insert(NodeIndex gradient, double opacity, const Known &known)
+{
+    if (m_known.size() >= mostKnown)
+        m_known.clear();
+    return (m_known[{gradient, opacity}] = std::make_shared<const Known>(known)).get();
+}
+
+QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target, GradientCache *cache)
 {
     const GradientChain chain(tree, index);
+    cache->setCutChain(chain.isCut());
     if (chain.isEmpty())
         return Qt::NoBrush;
-    QGradientStops stops = chain.stops(target.opacity);
-    if (stops.isEmpty())
+    const GradientCache::Known *known = cache->find(index, target.opacity);
+    if (!known)
+        known = cache->insert(index, target.opacity,
+                              prepared(chain, target.opacity, styleInTree(tree, index).mixesLinear));
+    if (known->stops == 0)
         return Qt::NoBrush;
-    if (stops.size() == 1)
-        return QBrush(stops.constFirst().second);
-    if (styleInTree(tree, index).mixesLinear)
-        stops = followingLight(stops);
-    separate(stops);
+    if (known->stops == 1)
+        return QBrush(known->last);
     const GradientLengths lengths(chain, target);
     if (lengths.ofBounds() && target.bounds.isEmpty())
         return Qt::NoBrush;
     const bool linear = chain.kind() == ElementKind::LinearGradient;
-    QBrush brush = linear ? linearBrush(chain, lengths, stops) : radialBrush(chain, lengths, stops);
+    QBrush brush = linear ? linearBrush(lengths, *known) : radialBrush(lengths, *known);
     QTransform toUser = parseTransform(chain.value(AttributeId::GradientTransform)).value_or(QTransform());
     if (lengths.ofBounds()) {
         const QRectF &b = target.bounds;

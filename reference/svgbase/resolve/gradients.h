@@ -2,8 +2,11 @@
 
 #include "tree/tree.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QSizeF>
 #include <QtGui/QBrush>
+
+#include <memory>
 
 namespace Svg {
 
@@ -17,8 +20,34 @@ struct GradientTarget
     double opacity = 1;
 };
 
+/// Gradients with their stops but without a place, by node and opacity: all brushes of one share its stops.
+class GradientCache
+{
+public:
+    struct Known
+    {
+        QLinearGradient linear;
+        QRadialGradient radial;
+        QColor last;
+        int stops = 0;
+    };
+
+    /// Forgets everything when references may have another meaning than before.
+    void setRevision(quint32 revision);
+    /// Whether the gradient that was asked for last refers to too many others.
+    bool hasCutChain() const { return m_cutChain; }
+    void setCutChain(bool cut) { m_cutChain = cut; }
+    const Known *find(NodeIndex gradient, double opacity) const;
+    const Known *insert(NodeIndex gradient, double opacity, const Known &known);
+
+private:
+    QHash<QPair<NodeIndex, double>, std::shared_ptr<const Known>> m_known;
+    quint32 m_revision = 0;
+    bool m_cutChain = false;
+};
+
 /// The brush of a linear or radial gradient (SVG 1.1 §13.2) in the user units of its target. No brush when the node
 /// is no gradient, has no stops, or measures itself by bounds without area.
-QBrush gradientBrush(const Tree &tree, NodeIndex gradient, const GradientTarget &target);
+QBrush gradientBrush(const Tree &tree, NodeIndex gradient, const GradientTarget &target, GradientCache *cache);
 
 } // namespace Svg

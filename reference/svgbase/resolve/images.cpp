@@ -25,7 +25,7 @@ bool isPictureFormat(const QByteArray &format)
     return format == "png" || format == "jpeg" || format == "jpg" || format == "gif";
 }
 
-ImagePointer readPicture(const QByteArray &bytes, QString *problem)
+ImagePointer readPicture(const QByteArray &bytes, Problem *problem)
 {
     QBuffer buffer;
     buffer.setData(bytes);
@@ -34,11 +34,12 @@ ImagePointer readPicture(const QByteArray &bytes, QString *problem)
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
     if (!isPictureFormat(reader.format()) || size.isEmpty()) {
-        *problem = QStringLiteral("The image is none that can be shown.");
+        *problem = {Message::InvalidImage, QStringLiteral("The image is none that can be shown.")};
         return nullptr;
     }
     if (qint64(size.width()) * size.height() > Limits::imagePixels) {
-        *problem = QStringLiteral("The image has more than %1 pixels.").arg(Limits::imagePixels);
+        *problem = {Message::TooManyImagePixels,
+                    QStringLiteral("The image has more than %1 pixels.").arg(Limits::imagePixels)};
         return nullptr;
     }
     const auto content = std::make_shared<ImageContent>();
@@ -54,12 +55,12 @@ bool looksLikeDocument(const QByteArray &bytes)
     return start.trimmed().startsWith('<') || start.startsWith("\xef\xbb\xbf");
 }
 
-ImagePointer readDocument(const QByteArray &bytes, QString *problem)
+ImagePointer readDocument(const QByteArray &bytes, Problem *problem)
 {
     Messages messages;
     const PrototypePointer prototype = makePrototype(bytes, &messages);
     if (!prototype) {
-        *problem = QStringLiteral("The document inside the image can't be read.");
+        *problem = {Message::InvalidImage, QStringLiteral("The document inside the image can't be read.")};
         return nullptr;
     }
     const Node &root = prototype->tree().node(rootNode);
@@ -94,11 +95,11 @@ QImage decode(const ImageContent &content)
 
 } // namespace
 
-ImagePointer readImage(const QString &reference, QString *problem)
+ImagePointer readImage(const QString &reference, Problem *problem)
 {
     const std::optional<QByteArray> data = parseDataUri(reference);
     if (!data) {
-        *problem = QStringLiteral("Only images in \"data:\" references are shown.");
+        *problem = {Message::ForeignReference, QStringLiteral("Only images in \"data:\" references are shown.")};
         return nullptr;
     }
     if (!isGzip(*data))
@@ -106,7 +107,7 @@ ImagePointer readImage(const QString &reference, QString *problem)
     const std::optional<QByteArray> text = gunzip(*data, Limits::textBytes);
     if (text)
         return readDocument(*text, problem);
-    *problem = QStringLiteral("The compressed image is damaged.");
+    *problem = {Message::DamagedCompression, QStringLiteral("The compressed image is damaged or too large.")};
     return nullptr;
 }
 

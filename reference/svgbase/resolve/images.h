@@ -28,7 +28,7 @@ using ImagePointer = std::shared_ptr<const ImageContent>;
 
 /// The content of a "data:" URI. Null for every other reference, which is never followed, and for what can't be
 /// shown; `problem` then says why.
-ImagePointer readImage(const QString &reference, QString *problem);
+ImagePointer readImage(const QString &reference, Problem *problem);
 /// The picture with its pixels; null for a damaged one. Lately decoded ones are kept for the whole process.
 QImage decodedPicture(const ImagePointer &content);
 

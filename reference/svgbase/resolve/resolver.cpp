@@ -49,17 +49,49 @@ bool cutsOverflow(const ComputedStyle &style)
     return !style.effects || style.effects->overflow != Overflow::Visible;
 }
 
+/// Most characters of a value that a message repeats.
+constexpr int longestQuote = 80;
+
+QString shortened(const QString &value)
+{
+    return value.size() <= longestQuote ? value : value.left(longestQuote) + QStringLiteral("...");
+}
+
+Problem problemOf(const RejectedValue &rejected)
+{
+    if (rejected.property == AttributeId::StrokeDasharray && hasTooManyDashes(rejected.value))
+        return {Message::TooManyDashes,
+                QStringLiteral("A list of more than %1 dashes is left out.").arg(Limits::dashEntries)};
+    return {Message::InvalidProperty,
+            QStringLiteral("A property does not take the value \"%1\".").arg(shortened(rejected.value))};
+}
+
 bool isBounded(double entry)
 {
     return qAbs(entry) <= Limits::transformEntry;
 }
 
-// What is magnified beyond all bounds is collapsed to nothing.
-QTransform bounded(const QTransform &t)
+bool isBounded(const QTransform &t)
 {
-    const bool fits = isBounded(t.m11()) && isBounded(t.m12()) && isBounded(t.m21()) && isBounded(t.m22()) &&
-                      isBounded(t.dx()) && isBounded(t.dy());
-    return fits ? t : QTransform(0, 0, 0, 0, 0, 0);
+    return isBounded(t.m11()) && isBounded(t.m12()) && isBounded(t.m21()) && isBounded(t.m22()) &&
+           isBounded(t.dx()) && isBounded(t.dy());
+}
+
+// Reading animations leaves the same out; that comes later, or never.
+Problem animationProblem(const Node &animation)
+{
+    const int values = animation.attributes.value(QStringLiteral("values")).count(QLatin1Char(';')) + 1;
+    if (values > Limits::animationValues)
+        return {Message::TooManyAnimationValues,
+                QStringLiteral("An animation with more than %1 values is left out.").arg(Limits::animationValues)};
+    for (const char *name : {"begin", "end"}) {
+        if (animation.attributes.value(QString::fromLatin1(name)).count(QLatin1Char(';')) >=
+            Limits::animationConditions)
+            return {
+                Message::TooManyAnimationConditions,
+                QStringLiteral("Moments of an animation beyond %1 are left out.").arg(Limits::animationConditions)};
+    }
+    return Problem();
 }
 
 QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
@@ -82,10 +114,11 @@ double dashScale(const Node &node, const ComputedStyle &style, const QPainterPat
 
 } // namespace
 
-void Resolver::warn(const Node &node, const QString &text) const
+void Resolver::warn(const Node &node, const Problem &problem) const
 {
-    if (m_messages)
-        m_messages->warn(text, node.line, node.column, node.attributes.value(AttributeId::Id));
+    if (m_messages && !problem.text.isEmpty())
+        m_messages->warn(problem.code, problem.text, node.line, node.column,
+                         node.attributes.value(AttributeId::Id));
 }
 
 void Resolver::resolveStyle(NodeIndex index, Facts *facts) const
@@ -93,12 +126,15 @@ void Resolver::resolveStyle(NodeIndex index, Facts *facts) const
     const Node &node = m_tree.node(index);
     static const ComputedStyle initial;
     const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
-    QStringList rejected;
-    facts->style = cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &rejected : nullptr);
+    CascadeNotes notes;
+    facts->style = cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
     facts->displayed =
         facts->style.displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
-    for (const QString &value : qAsConst(rejected))
-        warn(node, QStringLiteral("A property does not take the value \"%1\".").arg(value));
+    if (notes.rulesLeftOut)
+        warn(node, {Message::TooManySelectorSteps,
+                    QStringLiteral("Finding all rules of the element takes too long; some are left out.")});
+    for (const RejectedValue &rejected : qAsConst(notes.rejected))
+        warn(node, problemOf(rejected));
 }
 
 QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
@@ -115,7 +151,8 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
     if (!transform)
         transform = parseCssTransform(text, context);
     if (!transform) {
-        warn(node, QStringLiteral("The transform \"%1\" is not understood.").arg(text));
+        warn(node, {Message::InvalidTransform,
+                    QStringLiteral("The transform \"%1\" is not understood.").arg(shortened(text))});
         return QTransform();
     }
     const QPointF origin = transformOrigin(node, style, box, context);
@@ -149,7 +186,13 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
         local = rootTransform(node, outer, m_tree.window());
     else
         local *= outer;
-    facts->toDocument = bounded(facts->parent ? local * facts->parent->toDocument : local);
+    facts->toDocument = facts->parent ? local * facts->parent->toDocument : local;
+    if (isBounded(facts->toDocument))
+        return;
+    // What is magnified beyond all bounds is collapsed to nothing.
+    facts->toDocument = QTransform(0, 0, 0, 0, 0, 0);
+    warn(node, {Message::TransformTooLarge,
+                QStringLiteral("What is magnified more than %1 times is left out.").arg(Limits::transformEntry)});
 }
 
 QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const
@@ -158,8 +201,16 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     if (paint.kind == Paint::Server) {
         facts->referenceRevision = m_referenceRevision;
         const NodeIndex server = m_tree.findId(paint.server);
-        if (server != noNode && isPaintServerPart(m_tree.node(server).kind))
-            return gradientBrush(m_tree, server, {facts->localBounds, facts->viewport, opacity});
+        if (server != noNode && isPaintServerPart(m_tree.node(server).kind)) {
+            const GradientTarget target{facts->localBounds, facts->viewport, opacity};
+            const QBrush brush = gradientBrush(m_tree, server, target, m_gradients);
+            if (m_gradients->hasCutChain())
+                warn(m_tree.node(server),
+                     {Message::GradientChainTooLong,
+                      QStringLiteral("Gradients beyond %1 that refer to each other are left out.")
+                          .arg(Limits::gradientReferences)});
+            return brush;
+        }
         if (server != noNode && m_tree.node(server).kind == ElementKind::Pattern) {
             *pattern = server;
             return QBrush(Qt::transparent);
@@ -195,10 +246,9 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
 void Resolver::resolveShape(NodeIndex index, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
-    QString problem;
+    Problem problem;
     const Geometry geometry = shapeGeometry(node, facts->style, facts->viewport, &problem);
-    if (!problem.isEmpty())
-        warn(node, problem);
+    warn(node, problem);
     facts->hasGeometry = geometry.valid;
     if (!geometry.valid)
         return;
@@ -211,6 +261,7 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
 void Resolver::resolveText(NodeIndex index, Facts *facts) const
 {
     const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport);
+    warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
     QPainterPath whole;
@@ -231,13 +282,12 @@ void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *fact
     const Node &node = m_tree.node(index);
     const bool plain = node.attributes.contains(AttributeId::Href);
     const QString reference = node.attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref);
-    QString problem;
+    Problem problem;
     if (elsewhere)
         facts->image = elsewhere->image;
     else if (!reference.isEmpty())
         facts->image = readImage(reference, &problem);
-    if (!problem.isEmpty())
-        warn(node, problem);
+    warn(node, problem);
     const LengthReader lengths(node, facts->style, facts->viewport);
     const ImagePlacement placement = imagePlacement(node, lengths, facts->image.get());
     facts->hasGeometry = true;
@@ -259,6 +309,8 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
         facts->context = parent->context;
     if (node.kind == ElementKind::Use)
         facts->context = useContext(*facts);
+    if (isAnimation(node.kind) && m_messages)
+        warn(node, animationProblem(node));
     if (node.kind == ElementKind::Text)
         resolveText(index, facts);
     else if (node.kind == ElementKind::Image)

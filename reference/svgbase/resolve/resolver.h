@@ -1,6 +1,7 @@
 #pragma once
 
 #include "resolve/facts.h"
+#include "resolve/gradients.h"
 #include "tree/message.h"
 #include "tree/tree.h"
 
@@ -10,12 +11,15 @@ namespace Svg {
 class Resolver
 {
 public:
-    /// `messages`, when given, gets what could not be understood.
-    Resolver(const Tree &tree, quint32 referenceRevision, Messages *messages = nullptr)
+    /// `gradients` keeps what is known of gradients as long as the reference revision stays; `messages`, when
+    /// given, gets what could not be understood.
+    Resolver(const Tree &tree, quint32 referenceRevision, GradientCache *gradients, Messages *messages = nullptr)
         : m_tree(tree)
         , m_referenceRevision(referenceRevision)
+        , m_gradients(gradients)
         , m_messages(messages)
     {
+        m_gradients->setRevision(referenceRevision);
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
@@ -33,10 +37,11 @@ private:
     void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
                     Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
-    void warn(const Node &node, const QString &text) const;
+    void warn(const Node &node, const Problem &problem) const;
 
     const Tree &m_tree;
     quint32 m_referenceRevision;
+    GradientCache *m_gradients;
     Messages *m_messages;
 };
 

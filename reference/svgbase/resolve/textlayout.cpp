@@ -13,7 +13,9 @@ TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &s
         return {};
     TextContent content = collectText(tree, text, style, viewport);
     resolvePositions(tree, viewport, &content);
-    TextOutlines outlines = paintedText(content, placeText(tree, content, viewport));
+    Problem problem;
+    TextOutlines outlines = paintedText(content, placeText(tree, content, viewport, &problem));
+    outlines.problem = problem;
     outlines.hasReferences = content.hasReferences;
     return outlines;
 }

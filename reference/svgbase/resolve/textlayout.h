@@ -1,6 +1,7 @@
 #pragma once
 
 #include "style/computedstyle.h"
+#include "tree/message.h"
 #include "tree/tree.h"
 
 #include <QtCore/QSizeF>
@@ -25,6 +26,8 @@ struct TextOutlines
     QRectF cells;
     /// Whether it depends on elements outside of the text.
     bool hasReferences = false;
+    /// What was left out because of a limit.
+    Problem problem;
 };
 
 /// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.

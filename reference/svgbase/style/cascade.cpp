@@ -5,6 +5,9 @@
 #include "style/rules.h"
 #include "style/shorthands.h"
 
+#include <algorithm>
+#include <bitset>
+
 namespace Svg {
 
 namespace {
@@ -34,7 +37,8 @@ public:
     {
     }
 
-    void collect(NodeIndex element);
+    /// False when not all rules were looked at.
+    bool collect(NodeIndex element);
     const QVarLengthArray<Declaration, 16> &list() const { return m_list; }
 
 private:
@@ -49,14 +53,20 @@ private:
     QVector<QString> m_texts;
 };
 
+// From the highest rank down: what rules say was accepted already, so that only the first on a property counts.
 void DeclarationList::addMatches(bool important)
 {
+    std::bitset<256> known;
+    const int before = m_list.size();
     for (const QVector<RuleDeclaration> *block : qAsConst(m_matches)) {
         for (const RuleDeclaration &declaration : *block) {
-            if (declaration.important == important)
-                m_list.append({declaration.property, declaration.value, false});
+            if (declaration.important != important || known.test(size_t(declaration.property)))
+                continue;
+            known.set(size_t(declaration.property));
+            m_list.append({declaration.property, declaration.value, false});
         }
     }
+    std::reverse(m_list.begin() + before, m_list.end());
 }
 
 void DeclarationList::addShorthand(const StyleDeclaration &declaration)
@@ -88,8 +98,9 @@ void DeclarationList::addStyle(const QString &text, bool important)
     }
 }
 
-void DeclarationList::collect(NodeIndex element)
+bool DeclarationList::collect(NodeIndex element)
 {
+    bool complete = true;
     const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
@@ -102,7 +113,7 @@ void DeclarationList::collect(NodeIndex element)
             animated = &attribute;
     }
     if (m_tree.rules())
-        m_tree.rules()->match(m_tree, element, &m_matches);
+        complete = m_tree.rules()->match(m_tree, element, &m_matches);
     addMatches(false);
     if (style)
         addStyle(style->value, false);
@@ -111,6 +122,7 @@ void DeclarationList::collect(NodeIndex element)
         addStyle(style->value, true);
     if (animated)
         addStyle(animated->value, false);
+    return complete;
 }
 
 // "em" and "currentColor" in other properties need these.
@@ -139,20 +151,22 @@ void addStyledAttribute(ComputedStyle *style, const Declaration &declaration)
 
 } // namespace
 
-ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, QStringList *rejected)
+ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, CascadeNotes *notes)
 {
     ComputedStyle style = inheritedStyle(context.parent);
     DeclarationList declarations(tree);
-    declarations.collect(element);
+    const bool complete = declarations.collect(element);
+    if (notes)
+        notes->rulesLeftOut = !complete;
     for (const bool first : {true, false}) {
         for (const Declaration &declaration : declarations.list()) {
             if (comesFirst(declaration.property) != first)
                 continue;
             if (isStyledAttribute(declaration.property))
                 addStyledAttribute(&style, declaration);
-            else if (!applyProperty(style, declaration.property, declaration.value, context) && rejected &&
+            else if (!applyProperty(style, declaration.property, declaration.value, context) && notes &&
                      declaration.own)
-                rejected->append(declaration.value.toString());
+                notes->rejected.append({declaration.property, declaration.value.toString()});
         }
     }
     if (element == rootNode)

@@ -3,15 +3,29 @@
 #include "style/properties.h"
 #include "tree/tree.h"
 
-#include <QtCore/QStringList>
-
 namespace Svg {
 
+/// A value that its property does not take.
+struct RejectedValue
+{
+    AttributeId property;
+    QString value;
+};
+
+/// What did not come out as its author meant it.
+struct CascadeNotes
+{
+    /// What the element's own declarations say in vain.
+    QVector<RejectedValue> rejected;
+    /// Whether not all rules were looked at, since that would have taken too long.
+    bool rulesLeftOut = false;
+};
+
 /// The style of an element: its parent's, its presentation attributes, the rules of style sheets, its style
-/// attribute and what among these is important, in rising order of rank (CSS 2.1 §6.4). Declarations of the element
-/// itself that were not accepted are reported through `rejected`, when given, by their values.
+/// attribute and what among these is important, in rising order of rank (CSS 2.1 §6.4). `notes`, when given, gets
+/// what was left out.
 ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context,
-                      QStringList *rejected = nullptr);
+                      CascadeNotes *notes = nullptr);
 
 /// The style of an element where it stands in the tree, whatever uses it. Percentages count as 0.
 ComputedStyle styleInTree(const Tree &tree, NodeIndex element);

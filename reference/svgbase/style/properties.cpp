@@ -172,7 +172,7 @@ bool readDashes(QStringView text, const LengthContext &context, QVector<double> 
     cursor.skipSpace();
     while (!cursor.atEnd()) {
         Length length;
-        if (!readLength(cursor, &length) || length.value < 0)
+        if (dashes->size() == Limits::dashEntries || !readLength(cursor, &length) || length.value < 0)
             return false;
         dashes->append(toUserUnits(length, Axis::Diagonal, context));
         cursor.skipCommaSpace();
@@ -376,6 +376,19 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
 }
 
 } // namespace
+
+bool hasTooManyDashes(QStringView list)
+{
+    const Latin1Text bytes(list);
+    Cursor cursor = bytes.cursor();
+    cursor.skipSpace();
+    Length length;
+    for (int count = 0; !cursor.atEnd() && readLength(cursor, &length); cursor.skipCommaSpace()) {
+        if (++count > Limits::dashEntries)
+            return true;
+    }
+    return false;
+}
 
 bool applyProperty(ComputedStyle &style, AttributeId property, QStringView value, const PropertyContext &context)
 {

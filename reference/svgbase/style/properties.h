@@ -16,4 +16,7 @@ struct PropertyContext
 /// Applies one property to a style. A value that its grammar does not accept changes nothing and gives false.
 bool applyProperty(ComputedStyle &style, AttributeId property, QStringView value, const PropertyContext &context);
 
+/// Whether a value of "stroke-dasharray" has more entries than the limit.
+bool hasTooManyDashes(QStringView list);
+
 } // namespace Svg

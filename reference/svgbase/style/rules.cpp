@@ -6,10 +6,15 @@
 #include "style/shorthands.h"
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 
 namespace Svg {
 
 namespace {
+
+/// Most characters of a value that a message repeats.
+constexpr int longestQuote = 40;
 
 bool isStyleSheet(const Node &node)
 {
@@ -27,13 +32,32 @@ void report(const Node &style, const StyleProblem &problem, Messages *messages)
     const int lines = before.count(QLatin1Char('\n'));
     const int lineStart = before.lastIndexOf(QLatin1Char('\n')) + 1;
     const int column = before.size() - lineStart + (lines == 0 ? style.column : 1);
-    messages->warn(problem.text, style.line + lines, column, style.attributes.value(AttributeId::Id));
+    messages->warn(problem.tooMany ? Message::TooManyStyleRules : Message::InvalidStyleSheet, problem.text,
+                   style.line + lines, column, style.attributes.value(AttributeId::Id));
 }
 
-QStringList words(const QString &list)
+QVector<QString> classesOf(const Node &node)
 {
-    QStringList result = list.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    result.removeDuplicates();
+    QVector<QString> result;
+    forEachWord(node.attributes.view(AttributeId::Class), Limits::classes,
+                [&result](QStringView name) { result.append(name.toString()); });
+    std::sort(result.begin(), result.end());
+    result.erase(std::unique(result.begin(), result.end()), result.end());
+    return result;
+}
+
+// All of them are accepted, so that the last word of a block on a property is the only one that counts.
+QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
+{
+    QSet<int> known;
+    QVector<RuleDeclaration> result;
+    for (int i = block.size() - 1; i >= 0; --i) {
+        const int key = 2 * int(block.at(i).property) + (block.at(i).important ? 1 : 0);
+        if (known.contains(key))
+            continue;
+        known.insert(key);
+        result.prepend(block.at(i));
+    }
     return result;
 }
 
@@ -58,16 +82,17 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
             continue;
         StyleSheet sheet = parseStyleSheet(node.text);
         for (const StyleRule &rule : qAsConst(sheet.rules))
-            rules->add(rule, &sheet.problems);
+            rules->add(rule, &sheet);
         for (const StyleProblem &problem : qAsConst(sheet.problems)) {
             if (messages)
                 report(node, problem, messages);
         }
     }
+    rules->index();
     return rules->m_entries.isEmpty() ? nullptr : rules;
 }
 
-void StyleRules::add(const StyleRule &rule, QVector<StyleProblem> *problems)
+void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)
 {
     QVector<RuleDeclaration> block;
     for (const SheetDeclaration &declaration : rule.declarations) {
@@ -76,30 +101,45 @@ void StyleRules::add(const StyleRule &rule, QVector<StyleProblem> *problems)
         if (std::all_of(expanded.begin(), expanded.end(), isAccepted))
             block += expanded;
         else
-            problems->append({declaration.offset, QStringLiteral("\"%1\" does not take the value \"%2\".")
-                                                      .arg(declaration.name, declaration.value)});
+            sheet->report({declaration.offset, QStringLiteral("\"%1\" does not take the value \"%2\".")
+                                                   .arg(declaration.name, declaration.value.left(longestQuote))});
     }
-    if (block.isEmpty() || m_entries.size() + rule.selectors.size() > Limits::styleRules)
+    if (block.isEmpty())
         return;
-    m_blocks.append(block);
+    if (m_entries.size() + rule.selectors.size() > Limits::styleRules) {
+        if (!m_full)
+            sheet->report({rule.declarations.first().offset,
+                           QStringLiteral("Selectors beyond %1 are left out.").arg(Limits::styleRules), true});
+        m_full = true;
+        return;
+    }
+    m_blocks.append(withoutOverruled(block));
     for (const Selector &selector : rule.selectors)
         addEntry(selector);
 }
 
 void StyleRules::addEntry(const Selector &selector)
 {
-    const int place = m_entries.size();
-    m_entries.append({selector, place, m_blocks.size() - 1});
-    const Compound &last = selector.compounds.constFirst();
-    if (!last.ids.isEmpty())
-        m_byId[last.ids.constFirst()].append(place);
-    else if (!last.classes.isEmpty())
-        m_byClass[last.classes.constFirst()].append(place);
-    else if (!last.tag.isEmpty())
-        m_byTag[last.tag].append(place);
-    else
-        m_universal.append(place);
+    m_entries.append({selector, m_blocks.size() - 1, ancestorNames(selector)});
     noteAttributes(selector);
+}
+
+void StyleRules::index()
+{
+    std::stable_sort(m_entries.begin(), m_entries.end(), [](const Entry &a, const Entry &b) {
+        return a.selector.specificity < b.selector.specificity;
+    });
+    for (int place = 0; place < m_entries.size(); ++place) {
+        const Compound &last = m_entries.at(place).selector.compounds.constFirst();
+        if (!last.ids.isEmpty())
+            m_byId[last.ids.constFirst()].append(place);
+        else if (!last.classes.isEmpty())
+            m_byClass[last.classes.constFirst()].append(place);
+        else if (!last.tag.isEmpty())
+            m_byTag[last.tag].append(place);
+        else
+            m_universal.append(place);
+    }
 }
 
 void StyleRules::noteAttributes(const Selector &selector)
@@ -135,26 +175,35 @@ bool StyleRules::match(const Tree &tree, NodeIndex element,
         return true;
     SelectorMatcher matcher(tree, qMax(Limits::leastSelectorSteps, Limits::selectorSteps / tree.size()));
     QVector<int> found;
+    std::optional<AncestorNames> names;
+    const auto mayMatch = [&](const Entry &entry) {
+        if (entry.above.isEmpty())
+            return true;
+        if (!names)
+            names.emplace(tree, element);
+        return names->mayHold(entry.above);
+    };
+    // The most specific first: what is left of the steps goes to the others.
     const auto tryAll = [&](const QVector<int> &places) {
-        for (int i = 0; i < places.size() && !matcher.isExhausted(); ++i) {
-            if (matcher.matches(element, m_entries.at(places.at(i)).selector))
+        const int before = found.size();
+        for (int i = places.size() - 1; i >= 0 && !matcher.isExhausted(); --i) {
+            const Entry &entry = m_entries.at(places.at(i));
+            if (!mayMatch(entry))
+                matcher.countPassed();
+            else if (matcher.matches(element, entry.selector))
                 found.append(places.at(i));
         }
+        std::inplace_merge(found.begin(), found.begin() + before, found.end(), std::greater<int>());
     };
     // The rarest first: what is left of the steps goes to the others.
     const QString id = node.attributes.value(AttributeId::Id);
     if (!id.isEmpty())
         tryAll(m_byId.value(id));
-    const QStringList classes = words(node.attributes.value(AttributeId::Class));
+    const QVector<QString> classes = m_byClass.isEmpty() ? QVector<QString>() : classesOf(node);
     for (const QString &name : classes)
         tryAll(m_byClass.value(name));
     tryAll(m_byTag.value(localName(node)));
     tryAll(m_universal);
-    std::sort(found.begin(), found.end(), [this](int a, int b) {
-        const Entry &first = m_entries.at(a);
-        const Entry &second = m_entries.at(b);
-        return std::make_pair(first.selector.specificity, a) < std::make_pair(second.selector.specificity, b);
-    });
     for (const int place : qAsConst(found))
         matches->append(&m_blocks.at(m_entries.at(place).block));
     return !matcher.isExhausted();

@@ -25,7 +25,7 @@ public:
     /// gets what could not be read.
     static StyleRulesPointer compile(const Tree &tree, Messages *messages = nullptr);
 
-    /// What the rules give an element, in rising order of specificity; false when not all of it was looked at,
+    /// What the rules give an element, in falling order of specificity; false when not all of it was looked at,
     /// since that would have taken too long.
     bool match(const Tree &tree, NodeIndex element, QVector<const QVector<RuleDeclaration> *> *matches) const;
     /// Whether the value of an attribute may decide which rules match.
@@ -35,16 +35,17 @@ private:
     struct Entry
     {
         Selector selector;
-        /// Counts rules of the whole document.
-        int order = 0;
         int block = 0;
+        /// Names that must stand above the element.
+        QVector<uint> above;
     };
 
-    void add(const StyleRule &rule, QVector<StyleProblem> *problems);
+    void add(const StyleRule &rule, StyleSheet *sheet);
     void addEntry(const Selector &selector);
+    void index();
     void noteAttributes(const Selector &selector);
-    int append(const Entry &entry);
 
+    /// In rising order of specificity once they are indexed, else in that of the style sheets.
     QVector<Entry> m_entries;
     QVector<QVector<RuleDeclaration>> m_blocks;
     /// Places of entries by what their last compound asks for: its id, else a class, else its tag, else nothing.
@@ -53,6 +54,7 @@ private:
     QHash<QString, QVector<int>> m_byTag;
     QVector<int> m_universal;
     QSet<QString> m_attributes;
+    bool m_full = false;
 };
 
 /// Appends a declaration, a shorthand as the properties that it stands for. What is no property here is left out.

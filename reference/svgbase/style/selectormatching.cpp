@@ -1,5 +1,7 @@
 #include "style/selectormatching.h"
 
+#include <algorithm>
+
 namespace Svg {
 
 namespace {
@@ -44,7 +46,7 @@ bool matchesAttribute(const Node &node, const AttributeTest &test)
 
 bool isLink(const Node &node)
 {
-    return localName(node) == QLatin1String("a") &&
+    return hasLocalName(node, QStringLiteral("a")) &&
            (node.attributes.contains(AttributeId::Href) || node.attributes.contains(AttributeId::XlinkHref));
 }
 
@@ -53,6 +55,27 @@ bool isCounted(int position, const PseudoClass &pseudo)
 {
     const int rest = position - pseudo.offset;
     return pseudo.step == 0 ? rest == 0 : rest % pseudo.step == 0 && rest / pseudo.step >= 0;
+}
+
+/// Tags, ids and classes of the same text are different names.
+enum NameSpace : uint { TagNames = 1, IdNames = 2, ClassNames = 3 };
+
+/// Longest ids and classes of all elements above that are looked at.
+constexpr int mostNameCharacters = 1024;
+
+uint tagHash(const QString &tag)
+{
+    return qHash(tag, TagNames);
+}
+
+uint idHash(QStringView id)
+{
+    return qHash(id, IdNames);
+}
+
+uint classHash(QStringView name)
+{
+    return qHash(name, ClassNames);
 }
 
 } // namespace
@@ -72,13 +95,81 @@ bool containsWord(QStringView list, QStringView word)
     return false;
 }
 
+void forEachWord(QStringView list, int most, const std::function<void(QStringView)> &use)
+{
+    qsizetype at = 0;
+    for (int count = 0; count < most; ++count) {
+        while (at < list.size() && isSpaceCharacter(list[at]))
+            ++at;
+        const qsizetype begin = at;
+        while (at < list.size() && !isSpaceCharacter(list[at]))
+            ++at;
+        if (at == begin)
+            return;
+        use(list.mid(begin, at - begin));
+    }
+}
+
+AncestorNames::AncestorNames(const Tree &tree, NodeIndex element)
+{
+    int charactersLeft = mostNameCharacters;
+    for (NodeIndex at = tree.node(element).parent; at != noNode; at = tree.node(at).parent)
+        add(tree.node(at), &charactersLeft);
+    if (charactersLeft < 0)
+        m_bits.set();
+}
+
+void AncestorNames::add(uint hash)
+{
+    m_bits.set(hash % m_bits.size());
+}
+
+void AncestorNames::add(const Node &node, int *charactersLeft)
+{
+    if (node.name.isEmpty())
+        add(tagHash(elementName(node.kind)));
+    else
+        add(tagHash(localName(node)));
+    const QStringView id = node.attributes.view(AttributeId::Id);
+    const QStringView classes = node.attributes.view(AttributeId::Class);
+    *charactersLeft -= int(id.size() + classes.size());
+    if (*charactersLeft < 0)
+        return;
+    if (!id.isEmpty())
+        add(idHash(id));
+    forEachWord(classes, mostNameCharacters, [this](QStringView name) { add(classHash(name)); });
+}
+
+bool AncestorNames::mayHold(const QVector<uint> &names) const
+{
+    return std::all_of(names.begin(), names.end(), [this](uint hash) { return m_bits.test(hash % m_bits.size()); });
+}
+
+QVector<uint> ancestorNames(const Selector &selector)
+{
+    QVector<uint> names;
+    for (int i = 0; i < selector.combinators.size(); ++i) {
+        const Combinator combinator = selector.combinators.at(i);
+        if (combinator != Combinator::Descendant && combinator != Combinator::Child)
+            continue;
+        const Compound &above = selector.compounds.at(i + 1);
+        if (!above.tag.isEmpty())
+            names.append(tagHash(above.tag));
+        for (const QString &id : above.ids)
+            names.append(idHash(id));
+        for (const QString &name : above.classes)
+            names.append(classHash(name));
+    }
+    return names;
+}
+
 bool SelectorMatcher::hasSibling(NodeIndex element, bool after, bool ofType)
 {
     const QString name = ofType ? localName(m_tree.node(element)) : QString();
     NodeIndex at = after ? m_tree.node(element).next : m_tree.node(element).previous;
     while (at != noNode && takeStep()) {
         const Node &node = m_tree.node(at);
-        if (isElement(node) && (!ofType || localName(node) == name))
+        if (isElement(node) && (!ofType || hasLocalName(node, name)))
             return true;
         at = after ? node.next : node.previous;
     }
@@ -94,7 +185,7 @@ bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo,
     NodeIndex at = fromEnd ? m_tree.node(element).next : m_tree.node(element).previous;
     while (at != noNode && takeStep()) {
         const Node &node = m_tree.node(at);
-        if (isElement(node) && (!ofType || localName(node) == name))
+        if (isElement(node) && (!ofType || hasLocalName(node, name)))
             ++position;
         at = fromEnd ? node.next : node.previous;
     }
@@ -155,27 +246,35 @@ bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &p
     return false;
 }
 
+bool SelectorMatcher::matchesAttributes(const Node &node, const Compound &compound)
+{
+    for (const QString &wanted : compound.ids) {
+        if (node.attributes.view(AttributeId::Id) != wanted)
+            return false;
+    }
+    for (const QString &wanted : compound.classes) {
+        const QStringView classes = node.attributes.view(AttributeId::Class);
+        takeText(classes);
+        if (!containsWord(classes, wanted))
+            return false;
+    }
+    for (const AttributeTest &test : compound.attributes) {
+        takeText(node.attributes.value(test.name));
+        if (!matchesAttribute(node, test))
+            return false;
+    }
+    return true;
+}
+
 bool SelectorMatcher::matchesCompound(NodeIndex element, const Compound &compound)
 {
     const Node &node = m_tree.node(element);
     if (!takeStep() || !isElement(node))
         return false;
-    if (!compound.tag.isEmpty() && localName(node) != compound.tag)
+    if (!compound.tag.isEmpty() && !hasLocalName(node, compound.tag))
         return false;
-    const QString id = compound.ids.isEmpty() ? QString() : node.attributes.value(AttributeId::Id);
-    for (const QString &wanted : compound.ids) {
-        if (id != wanted)
-            return false;
-    }
-    const QString classes = compound.classes.isEmpty() ? QString() : node.attributes.value(AttributeId::Class);
-    for (const QString &wanted : compound.classes) {
-        if (!containsWord(classes, wanted))
-            return false;
-    }
-    for (const AttributeTest &test : compound.attributes) {
-        if (!matchesAttribute(node, test))
-            return false;
-    }
+    if (!matchesAttributes(node, compound))
+        return false;
     for (const PseudoClass &pseudo : compound.pseudoClasses) {
         if (!matchesPseudoClass(element, pseudo))
             return false;

@@ -120,19 +120,22 @@ bool givenLength(const Tree &tree, const TextLevel &level)
     return lengthOf(tree, level).has_value();
 }
 
-void adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
+bool adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
                    QVector<PlacedCluster> *clusters)
 {
     LengthAdjustment adjustment(tree, clusters);
     int left = Limits::textLengths;
-    for (int i = content.levels.size() - 1; i >= 0 && left > 0; --i) {
+    for (int i = content.levels.size() - 1; i >= 0; --i) {
         const TextLevel &level = content.levels.at(i);
         const std::optional<Length> length = lengthOf(tree, level);
         if (!length)
             continue;
+        if (left == 0)
+            return false;
         adjustment.apply(level, toUserUnits(*length, Axis::Horizontal, {viewport, level.style.font.size}));
         --left;
     }
+    return true;
 }
 
 } // namespace Svg

@@ -8,7 +8,7 @@ namespace Svg {
 bool givenLength(const Tree &tree, const TextLevel &level);
 /// Stretches the levels with a "textLength" to it, inner ones first (SVG 2 §11.5.4): by room between the characters
 /// or by widening them.
-void adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
+bool adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
                    QVector<PlacedCluster> *clusters);
 
 } // namespace Svg

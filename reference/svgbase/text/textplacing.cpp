@@ -1,5 +1,6 @@
 #include "text/textplacing.h"
 
+#include "inputlimits.h"
 #include "style/textproperties.h"
 #include "text/textlength.h"
 
@@ -22,10 +23,11 @@ struct Chunk
 class TextPlacer
 {
 public:
-    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport)
+    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport, Problem *problem)
         : m_tree(tree)
         , m_content(content)
         , m_viewport(viewport)
+        , m_problem(problem)
         , m_vertical(textStyleOf(content.levels.first().style).vertical)
     {
     }
@@ -49,6 +51,7 @@ private:
     const Tree &m_tree;
     const TextContent &m_content;
     QSizeF m_viewport;
+    Problem *m_problem;
     bool m_vertical;
     GlyphOutlines m_outlines;
     QVector<Chunk> m_chunks;
@@ -136,6 +139,10 @@ const TextWay &TextPlacer::way(int level)
     if (!known) {
         const TextLevel &path = m_content.levels.at(level);
         known = std::make_shared<TextWay>(m_tree, path.node, path.style, m_viewport);
+        if (known->isTooLong())
+            *m_problem = {Message::TextPathTooLong,
+                          QStringLiteral("Text along a path of more than %1 elements is left out.")
+                              .arg(Limits::textPathElements)};
     }
     return *known;
 }
@@ -230,16 +237,19 @@ QVector<PlacedCluster> TextPlacer::place()
 {
     shape();
     shift();
-    adjustLengths(m_tree, m_content, m_viewport, &m_clusters);
+    if (!adjustLengths(m_tree, m_content, m_viewport, &m_clusters))
+        *m_problem = {Message::TooManyTextLengths,
+                      QStringLiteral("Of a text, only %1 parts take a given length.").arg(Limits::textLengths)};
     setChunks();
     return m_clusters;
 }
 
 } // namespace
 
-QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport)
+QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
+                                 Problem *problem)
 {
-    return TextPlacer(tree, content, viewport).place();
+    return TextPlacer(tree, content, viewport, problem).place();
 }
 
 } // namespace Svg

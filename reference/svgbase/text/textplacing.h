@@ -2,6 +2,7 @@
 
 #include "text/textshaping.h"
 #include "text/textway.h"
+#include "tree/message.h"
 
 #include <QtGui/QTransform>
 
@@ -25,6 +26,9 @@ struct PlacedCluster
 
 /// Places the characters of a text as SVG 2 §11.5 says: shaping, shifts, adjustment to a given length, absolute
 /// positions, anchors, paths.
-QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport);
+///
+/// `problem` gets what was left out because of a limit.
+QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
+                                 Problem *problem);
 
 } // namespace Svg

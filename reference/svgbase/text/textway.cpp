@@ -42,8 +42,6 @@ QPainterPath wayOf(const Tree &tree, NodeIndex textPath, const QSizeF &viewport)
     const QString data = attributes.value(QStringLiteral("path"));
     QPainterPath path =
         data.isEmpty() ? shapePath(tree, referredShape(tree, attributes), viewport) : parsePathData(data).path;
-    if (path.elementCount() > Limits::textPathElements)
-        return QPainterPath();
     if (attributes.value(QStringLiteral("side")).trimmed() == QLatin1String("right"))
         path = path.toReversed();
     return path;
@@ -69,10 +67,22 @@ double authorScale(const Tree &tree, NodeIndex textPath, double length)
     return assumed && *assumed > 0 ? length / *assumed : 1;
 }
 
+bool isFollowed(const QPainterPath &path)
+{
+    return path.elementCount() <= Limits::textPathElements;
+}
+
 } // namespace
 
 TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport)
-    : m_measure(wayOf(tree, textPath, viewport))
+    : TextWay(tree, textPath, style, viewport, wayOf(tree, textPath, viewport))
+{
+}
+
+TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
+                 const QPainterPath &path)
+    : m_measure(isFollowed(path) ? path : QPainterPath())
+    , m_tooLong(!isFollowed(path))
     , m_closed(isSingleLoop(wayOf(tree, textPath, viewport)))
 {
     const QString text = tree.node(textPath).attributes.value(QStringLiteral("startOffset"));

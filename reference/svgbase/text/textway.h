@@ -15,6 +15,8 @@ public:
     /// The way of a `textPath` element; without length where it refers to nothing.
     TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport);
 
+    /// Whether the path has too many elements to be followed.
+    bool isTooLong() const { return m_tooLong; }
     double length() const { return m_measure.length(); }
     /// Where the text begins, before it is anchored.
     double startOffset() const { return m_startOffset; }
@@ -25,7 +27,11 @@ public:
     QPointF end() const { return m_measure.at(m_measure.length()).point; }
 
 private:
+    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
+            const QPainterPath &path);
+
     PathMeasure m_measure;
+    bool m_tooLong = false;
     double m_startOffset = 0;
     bool m_closed = false;
 };

@@ -194,6 +194,12 @@ QString Attributes::value(AttributeId id) const
     return attribute ? attribute->value : QString();
 }
 
+QStringView Attributes::view(AttributeId id) const
+{
+    const Attribute *attribute = find(id);
+    return attribute ? QStringView(attribute->value) : QStringView();
+}
+
 QString Attributes::value(const QString &name) const
 {
     const Attribute *attribute = find(attributeId(name), name);

@@ -149,6 +149,8 @@ public:
     /// The text of an attribute; empty when there is none of that name.
     QString value(AttributeId id) const;
     QString value(const QString &name) const;
+    /// The text of an attribute, for as long as the attributes do not change.
+    QStringView view(AttributeId id) const;
     bool contains(AttributeId id) const { return find(id) != nullptr; }
     bool contains(const QString &name) const { return find(attributeId(name), name) != nullptr; }
     /// A null value takes the attribute away.

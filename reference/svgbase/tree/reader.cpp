@@ -31,7 +31,12 @@ public:
 
 private:
     void startElement();
+    void startOpen();
     void endElement();
+    bool isLeftOut();
+    void leaveOut(Message::Code code, const QString &why);
+    void warn(Message::Code code, const QString &text);
+    void refuse(Message::Code code, const QString &why);
     void characters();
     ElementKind kindOfElement();
     bool isInText() const;
@@ -48,6 +53,10 @@ private:
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
     int m_textPaths = 0;
+    /// Open elements that are left out, all of them inside the outermost one.
+    int m_leftOut = 0;
+    int m_stops = 0;
+    Message::Code m_error = Message::NotWellFormed;
     bool m_withoutNamespace = false;
     int m_charactersLeft = Limits::textCharacters;
 };
@@ -103,11 +112,53 @@ ElementKind TreeReader::kindOfElement()
     if (kind == ElementKind::Group && isInText())
         return ElementKind::Tspan;
     if (kind == ElementKind::TextPath && ++m_textPaths > Limits::textPaths) {
-        m_messages->warn(QStringLiteral("There are more than %1 text paths.").arg(Limits::textPaths),
-                         m_xml.lineNumber(), m_xml.columnNumber() + 1);
+        warn(Message::TooManyTextPaths,
+             QStringLiteral("Text paths beyond %1 are left out.").arg(Limits::textPaths));
+        return ElementKind::Other;
+    }
+    if (kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient)
+        m_stops = 0;
+    if (kind == ElementKind::Stop && ++m_stops > Limits::gradientStops) {
+        if (m_stops == Limits::gradientStops + 1)
+            warn(Message::TooManyGradientStops,
+                 QStringLiteral("Stops of a gradient beyond %1 are left out.").arg(Limits::gradientStops));
         return ElementKind::Other;
     }
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
+}
+
+void TreeReader::warn(Message::Code code, const QString &text)
+{
+    const QString id =
+        m_xml.isStartElement() ? m_xml.attributes().value(QLatin1String("id")).toString() : QString();
+    m_messages->warn(code, text, m_xml.lineNumber(), m_xml.columnNumber() + 1, id);
+}
+
+void TreeReader::refuse(Message::Code code, const QString &why)
+{
+    m_error = code;
+    m_xml.raiseError(why);
+}
+
+// The element and all that is inside of it.
+void TreeReader::leaveOut(Message::Code code, const QString &why)
+{
+    warn(code, why);
+    m_leftOut = 1;
+}
+
+bool TreeReader::isLeftOut()
+{
+    if (m_xml.attributes().hasAttribute(crowdedMark))
+        leaveOut(Message::TooManyAttributes,
+                 QStringLiteral("An element with more than %1 attributes is left out.").arg(Limits::attributes));
+    else if (m_open.size() >= Limits::depth)
+        leaveOut(Message::NestedTooDeep,
+                 QStringLiteral("What is nested deeper than %1 elements is left out.").arg(Limits::depth));
+    else if (m_tree->size() >= Limits::elements)
+        leaveOut(Message::TooManyElements,
+                 QStringLiteral("Elements beyond %1 are left out.").arg(Limits::elements));
+    return m_leftOut > 0;
 }
 
 NodeIndex TreeReader::add(Node &node)
@@ -130,12 +181,27 @@ void TreeReader::countNamespaces()
 
 void TreeReader::startElement()
 {
+    if (m_leftOut > 0) {
+        ++m_leftOut;
+        return;
+    }
+    if (m_open.isEmpty() && m_xml.attributes().hasAttribute(crowdedMark)) {
+        refuse(Message::TooManyAttributes,
+               QStringLiteral("The root has more than %1 attributes.").arg(Limits::attributes));
+        return;
+    }
+    if (!isLeftOut())
+        startOpen();
+}
+
+void TreeReader::startOpen()
+{
     if (m_open.isEmpty())
         m_withoutNamespace = m_xml.namespaceUri().isEmpty();
     Node node;
     node.kind = kindOfElement();
     if (m_open.isEmpty() && node.kind != ElementKind::Document) {
-        m_xml.raiseError(QStringLiteral("The root element is not \"svg\"."));
+        refuse(Message::NoSvgRoot, QStringLiteral("The root element is not \"svg\"."));
         return;
     }
     if (m_xml.qualifiedName() != elementName(node.kind))
@@ -144,24 +210,25 @@ void TreeReader::startElement()
     readDeclarations(&node.attributes);
     m_open.append(add(node));
     countNamespaces();
-    if (m_open.size() > Limits::depth)
-        m_xml.raiseError(QStringLiteral("Elements are nested deeper than %1.").arg(Limits::depth));
-    else if (m_tree->size() > Limits::elements)
-        m_xml.raiseError(QStringLiteral("There are more than %1 elements.").arg(Limits::elements));
-    else if (m_namespaces > Limits::namespaceDeclarations)
-        m_xml.raiseError(
+    if (m_namespaces > Limits::namespaceDeclarations)
+        refuse(
+            Message::TooManyNamespaces,
             QStringLiteral("More than %1 namespace declarations are in force.").arg(Limits::namespaceDeclarations));
 }
 
 void TreeReader::endElement()
 {
+    if (m_leftOut > 0) {
+        --m_leftOut;
+        return;
+    }
     m_open.removeLast();
     m_namespaces -= m_openNamespaces.takeLast();
 }
 
 void TreeReader::characters()
 {
-    if (m_open.isEmpty())
+    if (m_open.isEmpty() || m_leftOut > 0)
         return;
     const NodeIndex holder = m_open.constLast();
     const ElementKind kind = m_tree->node(holder).kind;
@@ -170,13 +237,13 @@ void TreeReader::characters()
         if (kind == ElementKind::Style && node.text.isEmpty() && m_xml.isCDATA())
             node.column += cdataStart.size();
         node.text += m_xml.text();
-    } else if (isInText()) {
+    } else if (isInText() && m_tree->size() < Limits::elements) {
         Node node;
         node.kind = ElementKind::Characters;
         node.text = m_xml.text().left(m_charactersLeft).toString();
         if (node.text.size() < m_xml.text().size())
-            m_messages->warn(QStringLiteral("Text beyond %1 characters is left out.").arg(Limits::textCharacters),
-                             m_xml.lineNumber(), m_xml.columnNumber() + 1);
+            warn(Message::TooManyCharacters,
+                 QStringLiteral("Text beyond %1 characters is left out.").arg(Limits::textCharacters));
         m_charactersLeft -= node.text.size();
         add(node);
     }
@@ -201,16 +268,8 @@ bool TreeReader::read()
     }
     if (!m_xml.hasError())
         return true;
-    m_messages->fail(m_xml.errorString(), m_xml.lineNumber(), m_xml.columnNumber() + 1);
+    m_messages->fail(m_error, m_xml.errorString(), m_xml.lineNumber(), m_xml.columnNumber() + 1);
     return false;
-}
-
-Message placeOf(const QByteArray &text, qint64 offset, const QString &what)
-{
-    const QByteArray before = text.left(int(offset));
-    const int line = before.count('\n') + 1;
-    const int column = before.size() - (before.lastIndexOf('\n') + 1) + 1;
-    return {Message::Error, what, line, column, QString()};
 }
 
 QByteArray declaredEncoding(const QByteArray &text)
@@ -250,23 +309,25 @@ QTextCodec *foreignCodec(const QByteArray &text)
 bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
 {
     if (text.size() > Limits::textBytes) {
-        messages->fail(QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
+        messages->fail(Message::TextTooLong,
+                       QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
         return false;
     }
     const QTextCodec *codec = foreignCodec(text);
     const QByteArray decoded = codec ? codec->toUnicode(text).toUtf8() : text;
-    const qint64 crowded = findCrowdedTag(decoded);
-    if (crowded >= 0) {
-        const QString what = QStringLiteral("An element has more than %1 attributes.").arg(Limits::attributes);
-        messages->add(placeOf(decoded, crowded, what));
+    const std::optional<QByteArray> thinned = withoutCrowdedTags(decoded);
+    if (!thinned) {
+        messages->fail(Message::TooManyAttributes,
+                       QStringLiteral("A tag or an entity has more than %1 attributes.").arg(Limits::attributes), 0,
+                       0);
         return false;
     }
     QXmlStreamReader xml;
     // Characters, unlike bytes, keep the reader from following the encoding that a text claims to have.
     if (codec || !declaredEncoding(text).isEmpty())
-        xml.addData(QString::fromUtf8(decoded));
+        xml.addData(QString::fromUtf8(*thinned));
     else
-        xml.addData(decoded);
+        xml.addData(*thinned);
     return TreeReader(xml, tree, messages).read();
 }
 
@@ -280,7 +341,7 @@ bool readTree(const QByteArray &text, Tree *tree, Messages *messages)
     if (plain)
         return readPlainText(*plain, tree, messages);
     const QString why = QStringLiteral("The compressed text is damaged or holds more than %1 bytes.");
-    messages->fail(why.arg(Limits::textBytes), 0, 0);
+    messages->fail(Message::DamagedCompression, why.arg(Limits::textBytes), 0, 0);
     return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "inputlimits.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace Svg {
@@ -29,11 +30,13 @@ bool startsWith(const char *at, const char *end, const char *text)
     return size_t(end - at) >= length && memcmp(at, text, length) == 0;
 }
 
-/// A part of the text, and whether it has too many quoted values.
+/// A part of the text, and whether it has too many quoted values; where not even their end is known, it is
+/// `Hopeless`.
 struct Scan
 {
+    enum Finding { Fine, Crowded, Hopeless };
     const char *end;
-    bool crowded;
+    Finding finding;
 };
 
 // Every attribute has one quoted value.
@@ -45,14 +48,15 @@ Scan scanTag(const char *at, const char *end)
             ++at;
             continue;
         }
-        if (++values > Limits::attributes)
-            return {at, true};
+        ++values;
         const void *close = memchr(at + 1, *at, size_t(end - at) - 1);
         if (!close)
-            return {end, false};
+            return {end, values > Limits::attributes ? Scan::Hopeless : Scan::Fine};
         at = static_cast<const char *>(close) + 1;
     }
-    return {at, false};
+    if (values <= Limits::attributes)
+        return {at, Scan::Fine};
+    return {at, at == end ? Scan::Hopeless : Scan::Crowded};
 }
 
 // A literal may hold whole tags as an entity's text; their attributes show as equals signs.
@@ -61,53 +65,81 @@ Scan scanDoctype(const char *at, const char *end)
     int open = 0;
     for (; at != end; ++at) {
         if (startsWith(at, end, "<!--")) {
-            at = findText(at, end, "-->") - 1;
+            at = findText(qMin(at + 4, end), end, "-->") - 1;
+        } else if (startsWith(at, end, "<?")) {
+            at = findText(at, end, "?>") - 1;
         } else if (*at == '"' || *at == '\'') {
             const char quote = *at;
             int values = 0;
             for (++at; at != end && *at != quote; ++at)
                 values += *at == '=' ? 1 : 0;
             if (values > Limits::attributes)
-                return {at, true};
+                return {at, Scan::Hopeless};
             if (at == end)
-                return {end, false};
+                return {end, Scan::Fine};
         } else if (*at == '<') {
             ++open;
         } else if (*at == '>' && --open == 0) {
-            return {at, false};
+            return {at, Scan::Fine};
         }
     }
-    return {end, false};
+    return {end, Scan::Fine};
 }
 
 Scan scanMarkup(const char *at, const char *end)
 {
     if (startsWith(at, end, "<!--"))
-        return {findText(at + 4, end, "-->"), false};
+        return {findText(at + 4, end, "-->"), Scan::Fine};
     if (startsWith(at, end, "<![CDATA["))
-        return {findText(at, end, "]]>"), false};
+        return {findText(at, end, "]]>"), Scan::Fine};
     if (startsWith(at, end, "<?"))
-        return {findText(at, end, "?>"), false};
+        return {findText(at, end, "?>"), Scan::Fine};
     if (startsWith(at, end, "<!"))
         return scanDoctype(at, end);
     return scanTag(at, end);
 }
 
+bool endsName(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '/' || c == '>';
+}
+
+// Lines keep their numbers: all ends of lines move to the end of the tag.
+void replaceAttributes(char *at, char *end)
+{
+    while (at != end && !endsName(*at))
+        ++at;
+    if (end[-1] == '/')
+        --end;
+    const auto lines = std::count(at, end, '\n');
+    const QByteArray mark = " " + QByteArray(crowdedMark.data(), crowdedMark.size()) + "=''";
+    memcpy(at, mark.constData(), size_t(mark.size()));
+    memset(at + mark.size(), ' ', size_t(end - at) - size_t(mark.size()));
+    memset(end - lines, '\n', size_t(lines));
+}
+
 } // namespace
 
-qint64 findCrowdedTag(const QByteArray &xml)
+std::optional<QByteArray> withoutCrowdedTags(const QByteArray &xml)
 {
+    QByteArray result = xml;
+    const char *begin = xml.constBegin();
     const char *end = xml.constEnd();
-    for (const char *at = xml.constBegin(); at != end;) {
-        const void *tag = memchr(at, '<', size_t(end - at));
-        if (!tag)
-            return -1;
-        const Scan scan = scanMarkup(static_cast<const char *>(tag), end);
-        if (scan.crowded)
-            return static_cast<const char *>(tag) - xml.constBegin();
+    for (const char *at = begin; at != end;) {
+        const void *found = memchr(at, '<', size_t(end - at));
+        if (!found)
+            break;
+        const char *tag = static_cast<const char *>(found);
+        const Scan scan = scanMarkup(tag, end);
+        if (scan.finding == Scan::Hopeless)
+            return std::nullopt;
+        if (scan.finding == Scan::Crowded) {
+            char *own = result.data() + (tag - begin);
+            replaceAttributes(own, own + (scan.end - tag));
+        }
         at = scan.end;
     }
-    return -1;
+    return result;
 }
 
 } // namespace Svg

@@ -1,12 +1,18 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QLatin1String>
+
+#include <optional>
 
 namespace Svg {
 
-/// Where in XML text a tag, or an entity's replacement text, holds more attributes than the limit; -1 when none
-/// does. Looked for before Qt's reader sees the text, since its search for duplicates takes quadratic time. Whether
-/// the text is well formed is the reader's business.
-qint64 findCrowdedTag(const QByteArray &xml);
+/// The one attribute that is left to a tag with too many.
+constexpr QLatin1String crowdedMark("gliololok-crowded-tag");
+
+/// XML text with all attributes of tags that have more than the limit replaced by `crowdedMark`. Nothing when such
+/// a tag does not end, or an entity's replacement text holds so many. Done before Qt's reader sees the text, since
+/// its search for duplicates takes quadratic time. Whether the text is well formed is the reader's business.
+std::optional<QByteArray> withoutCrowdedTags(const QByteArray &xml);
 
 } // namespace Svg

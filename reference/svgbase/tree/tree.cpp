@@ -13,6 +13,13 @@ QString localName(const Node &node)
     return name.mid(name.indexOf(QLatin1Char(':')) + 1);
 }
 
+bool hasLocalName(const Node &node, const QString &name)
+{
+    if (node.name.isEmpty())
+        return name == elementName(node.kind);
+    return QStringView(node.name).mid(node.name.indexOf(QLatin1Char(':')) + 1) == name;
+}
+
 NodeIndex Tree::place(const NodePointer &node)
 {
     m_hasStyleSheets = m_hasStyleSheets || node->kind == ElementKind::Style;

@@ -47,6 +47,8 @@ struct Node : QSharedData
 QString qualifiedName(const Node &node);
 /// The same without its prefix.
 QString localName(const Node &node);
+/// Whether that is its name without prefix.
+bool hasLocalName(const Node &node, const QString &name);
 
 /// The elements of a document, linked by index. Copies share their nodes until one of them is edited.
 class Tree

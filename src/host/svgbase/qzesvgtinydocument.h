@@ -19,11 +19,66 @@ public:
     struct Message
     {
         enum Severity { Warning, Error };
+        /// What it is about, for programs; names and numbers stay what they are.
+        enum Code {
+            Unspecified = 0,
+            /// @name The text cannot be read.
+            /// @{
+            NotWellFormed = 1,
+            NoSvgRoot = 2,
+            DamagedCompression = 3,
+            /// @}
+            /// @name Something is not understood and has no effect.
+            /// @{
+            InvalidProperty = 20,
+            InvalidTransform = 21,
+            InvalidPathData = 22,
+            InvalidPoints = 23,
+            InvalidStyleSheet = 24,
+            InvalidImage = 25,
+            ForeignReference = 26,
+            /// @}
+            /// @name A limit is exceeded, and what is beyond it is left out.
+            /// @{
+            TextTooLong = 100,
+            NestedTooDeep = 101,
+            TooManyElements = 102,
+            TooManyAttributes = 103,
+            TooManyNamespaces = 104,
+            TooManySegments = 105,
+            TooManyStyleRules = 106,
+            TooManySelectorSteps = 107,
+            TooManyPatterns = 108,
+            TooManyGradientStops = 109,
+            GradientChainTooLong = 110,
+            UseTooDeep = 111,
+            TooManyReferences = 112,
+            TooManyCharacters = 113,
+            TooManyTextPaths = 114,
+            TextPathTooLong = 115,
+            TooManyTextLengths = 116,
+            TooManyFontFamilies = 117,
+            TransformTooLarge = 118,
+            TooManyDashes = 119,
+            TooManyBoundsVisits = 120,
+            EffectsTooDeep = 121,
+            TooMuchPainting = 122,
+            TooManyLayerPixels = 123,
+            TooManyImagePixels = 124,
+            ImagesTooDeep = 125,
+            TooManyFilterPrimitives = 126,
+            TooManyAnimationValues = 127,
+            TooManyAnimationConditions = 128,
+            TooManyAnimationEvents = 129,
+            MotionPathsTooLong = 130,
+            /// @}
+        };
         Severity severity = Warning;
         QString text;
         qint64 line = 0;
         qint64 column = 0;
         QString elementId;
+        Code code = Unspecified;
     };
 
     /// What the last draw() was asked to do.
@@ -39,7 +94,7 @@ public:
     static QZeSvgTinyDocument *load(const QByteArray &text, QVector<Message> *messages = nullptr);
     ~QZeSvgTinyDocument() override;
 
-    /// What parsing had to say about a document that could be loaded.
+    /// What parsing had to say about a document that could be loaded, and what its last drawing left out.
     QVector<Message> messages() const;
 
     /// The node with that id, control points and definitions included; null when there is none. The first in

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tree/message.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// What a drawing left out because of limits: of every kind the first.
+class DrawReport
+{
+public:
+    void add(Message::Code code, const QString &text, NodeIndex node = noNode);
+    /// The same as messages, with the places of the elements in their document.
+    void appendTo(QVector<Message> *messages, const Tree &tree) const;
+
+private:
+    struct Entry
+    {
+        Problem problem;
+        NodeIndex node;
+    };
+    QVector<Entry> m_entries;
+};
+
+} // namespace Svg

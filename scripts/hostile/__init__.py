@@ -1,0 +1,1 @@
+"""Documents that were made to be slow or large."""
