@@ -10,6 +10,7 @@ void registerDragBenchmarks();
 void registerPageBenchmarks();
 void registerThreadBenchmarks();
 void registerPathTextBenchmarks();
+void registerAnimationBenchmarks();
 
 int main(int argc, char **argv)
 {
@@ -22,6 +23,7 @@ int main(int argc, char **argv)
     registerPageBenchmarks();
     registerThreadBenchmarks();
     registerPathTextBenchmarks();
+    registerAnimationBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

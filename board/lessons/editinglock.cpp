@@ -23,7 +23,7 @@ void EditingLock::setLocked(bool locked)
             title->setEnabled(!locked);
     }
     for (QToolBar *bar : m_window->findChildren<QToolBar *>())
-        bar->setEnabled(!locked);
+        bar->setEnabled(!locked || m_sparedBars.contains(bar));
     for (QDockWidget *panel : m_window->findChildren<QDockWidget *>())
         panel->setEnabled(!locked);
     m_view->setAcceptDrops(!locked);

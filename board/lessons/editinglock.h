@@ -4,6 +4,7 @@
 
 class QMainWindow;
 class QMenu;
+class QToolBar;
 
 namespace board {
 
@@ -15,14 +16,16 @@ class EditingLock
 public:
     EditingLock(QMainWindow *window, PageView *view);
 
-    /// A menu that stays usable.
+    /// A menu or bar that stays usable.
     void spare(QMenu *menu) { m_spared.append(menu); }
+    void spare(QToolBar *bar) { m_sparedBars.append(bar); }
     void setLocked(bool locked);
 
 private:
     QMainWindow *m_window;
     PageView *m_view;
     QList<QMenu *> m_spared;
+    QList<QToolBar *> m_sparedBars;
 };
 
 } // namespace board

@@ -8,13 +8,17 @@
 #include "look/theme.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
+
+#include <array>
 
 namespace board {
 
@@ -24,6 +28,8 @@ constexpr QSize buttonIconSize(20, 20);
 constexpr int clockMilliseconds = 200;
 constexpr int secondsInMinute = 60;
 constexpr int listLength = 18; ///< letters
+constexpr int longestName = 200;
+constexpr std::array<double, 5> speeds{0.5, 1, 1.5, 2, 4};
 
 QString timeText(qint64 milliseconds)
 {
@@ -53,6 +59,8 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     , m_time(new QLabel)
     , m_message(new QLabel)
     , m_list(new QComboBox)
+    , m_name(new QLineEdit)
+    , m_speed(new QComboBox)
     , m_pauseRecording(buttonOf(menu->pauseRecording))
     , m_play(buttonOf(menu->play))
     , m_remove(buttonOf(menu->remove))
@@ -67,29 +75,91 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_time->setMinimumWidth(m_time->fontMetrics().horizontalAdvance(QStringLiteral("00:00 / 00:00")));
     m_time->setAlignment(Qt::AlignCenter);
+    makeSpeeds();
+    makeName();
+    layOut(*menu);
+    connectParts(*menu);
+    showLessons();
+}
 
+void LessonBar::makeSpeeds()
+{
+    m_speed->setAccessibleName(m_workspace->text("IDS_LESSON_SPEED"));
+    m_speed->setToolTip(m_speed->accessibleName());
+    for (const double speed : speeds)
+        m_speed->addItem(QStringLiteral("%1 ×").arg(QLocale(m_workspace->localizer().language()).toString(speed)),
+                         speed);
+    m_speed->setCurrentIndex(m_speed->findData(m_lessons->speed()));
+}
+
+void LessonBar::makeName()
+{
+    m_name->setAccessibleName(m_workspace->text("IDS_LESSON_NEW_NAME"));
+    m_name->setMaxLength(longestName);
+    m_name->installEventFilter(this);
+    m_name->hide();
+}
+
+void LessonBar::layOut(const LessonMenu &menu)
+{
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(mediumGap, smallGap, mediumGap, smallGap);
     row->setSpacing(smallGap);
-    row->addWidget(buttonOf(menu->record));
+    row->addWidget(buttonOf(menu.record));
     row->addWidget(m_pauseRecording);
     row->addWidget(m_message, 1);
     row->addWidget(m_play);
     row->addWidget(m_timeLine, 1);
     row->addWidget(m_time);
+    row->addWidget(m_speed);
     row->addWidget(m_list);
+    row->addWidget(m_name);
     row->addWidget(m_remove);
     row->addWidget(m_close);
+}
 
+void LessonBar::connectParts(const LessonMenu &menu)
+{
     m_clock.setInterval(clockMilliseconds);
     connect(&m_clock, &QTimer::timeout, this, &LessonBar::showTime);
-    connect(lessons, &LessonController::stateChanged, this, &LessonBar::showState);
-    connect(lessons, &LessonController::lessonsChanged, this, &LessonBar::showLessons);
-    connect(lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
-    connect(m_close, &QPushButton::clicked, menu->close, &QAction::trigger);
-    connect(m_timeLine, &TimeLine::momentWanted, lessons, &LessonController::seek);
-    connect(m_list, QOverload<int>::of(&QComboBox::activated), lessons, &LessonController::choose);
-    showLessons();
+    connect(m_lessons, &LessonController::stateChanged, this, &LessonBar::showState);
+    connect(m_lessons, &LessonController::lessonsChanged, this, &LessonBar::showLessons);
+    connect(m_lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
+    connect(m_close, &QPushButton::clicked, menu.close, &QAction::trigger);
+    connect(m_timeLine, &TimeLine::momentWanted, m_lessons, &LessonController::seek);
+    connect(m_list, QOverload<int>::of(&QComboBox::activated), m_lessons, &LessonController::choose);
+    connect(m_speed, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { m_lessons->setSpeed(m_speed->itemData(index).toDouble()); });
+    connect(menu.rename, &QAction::triggered, this, &LessonBar::beginRenaming);
+    connect(m_name, &QLineEdit::editingFinished, this, [this] { endRenaming(true); });
+}
+
+void LessonBar::beginRenaming()
+{
+    m_name->setFixedWidth(m_list->width());
+    m_name->setText(m_lessons->names().value(m_lessons->chosen()));
+    m_name->selectAll();
+    m_list->hide();
+    m_name->show();
+    m_name->setFocus();
+}
+
+void LessonBar::endRenaming(bool takeName)
+{
+    if (!m_name->isVisibleTo(this))
+        return;
+    m_name->hide();
+    if (takeName)
+        m_lessons->renameChosen(m_name->text());
+    showState();
+}
+
+bool LessonBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        return QWidget::eventFilter(watched, event);
+    endRenaming(false);
+    return true;
 }
 
 void LessonBar::showLessons()
@@ -110,8 +180,10 @@ void LessonBar::showState()
 {
     const bool recording = m_lessons->isRecording();
     const bool playable = m_lessons->chosen() >= 0 && !recording;
-    for (QWidget *part : QList<QWidget *>{m_play, m_timeLine, m_time, m_list, m_remove})
+    for (QWidget *part : QList<QWidget *>{m_play, m_timeLine, m_time, m_speed, m_remove})
         part->setVisible(playable);
+    m_name->setVisible(playable && m_name->isVisibleTo(this));
+    m_list->setVisible(playable && !m_name->isVisibleTo(this));
     m_pauseRecording->setVisible(recording);
     m_message->setVisible(!playable);
     m_message->setForegroundRole(recording ? QPalette::WindowText : QPalette::PlaceholderText);

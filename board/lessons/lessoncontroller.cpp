@@ -201,6 +201,27 @@ void LessonController::close()
     Q_EMIT stateChanged();
 }
 
+void LessonController::setSpeed(double speed)
+{
+    m_player.setSpeed(speed);
+    Q_EMIT stateChanged();
+}
+
+void LessonController::renameChosen(const QString &name)
+{
+    if (isRecording() || m_chosen < 0 || name.trimmed().isEmpty() || name.trimmed() == m_names.at(m_chosen))
+        return;
+    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
+    pagehost::LessonData &renamed = lessons[m_chosen];
+    renamed.name = name.trimmed();
+    pagehost::Lesson lesson;
+    if (lesson.fromData(renamed.data)) {
+        lesson.title = renamed.name;
+        renamed.data = lesson.toBytes();
+    }
+    m_workspace->document()->setLessons(lessons);
+}
+
 void LessonController::removeChosen()
 {
     if (isRecording() || m_chosen < 0)

@@ -56,6 +56,11 @@ public:
     /// Shows the document again.
     void close();
     void removeChosen();
+    /// Takes another name for the chosen lesson; spaces around it are dropped, and an empty one is ignored.
+    void renameChosen(const QString &name);
+    /// Milliseconds of a lesson for one of real time.
+    double speed() const { return m_player.speed(); }
+    void setSpeed(double speed);
     /// Keeps what has been recorded so far with the document, which is about to be saved or left.
     void keepSoFar();
 

@@ -24,6 +24,9 @@ LessonMenu::LessonMenu(const Workspace *workspace, LessonController *lessons, QO
     pauseRecording = make({Qt::SHIFT | Qt::Key_F9}, &LessonController::pauseOrResumeRecording);
     play = make({Qt::Key_F8}, &LessonController::playOrPause);
     close = make({Qt::SHIFT | Qt::Key_F8}, &LessonController::close);
+    // The bar has the field for the name.
+    rename = new QAction(workspace->text("IDS_LESSON_RENAME"), this);
+    rename->setShortcut(Qt::Key_F2);
     remove = make({}, &LessonController::removeChosen);
     close->setText(workspace->text("IDS_LESSON_CLOSE"));
     remove->setText(workspace->text("IDS_LESSON_REMOVE"));
@@ -35,7 +38,7 @@ LessonMenu::LessonMenu(const Workspace *workspace, LessonController *lessons, QO
 
 QList<QAction *> LessonMenu::actions() const
 {
-    return {record, pauseRecording, nullptr, play, close, nullptr, remove};
+    return {record, pauseRecording, nullptr, play, close, nullptr, rename, remove};
 }
 
 void LessonMenu::update()
@@ -56,8 +59,9 @@ void LessonMenu::update()
     pauseRecording->setEnabled(recording);
     play->setEnabled(hasLesson && !recording);
     close->setEnabled(m_lessons->isShowing());
+    rename->setEnabled(hasLesson && !recording);
     remove->setEnabled(hasLesson && !recording);
-    for (QAction *action : {record, pauseRecording, play, close, remove})
+    for (QAction *action : {record, pauseRecording, play, close, rename, remove})
         describe(action);
 }
 

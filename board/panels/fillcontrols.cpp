@@ -18,6 +18,7 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
 #include <array>
 
 namespace board {
@@ -46,6 +47,8 @@ constexpr std::array<Qt::BrushStyle, 12> patterns{Qt::BDiagPattern,  Qt::FDiagPa
 constexpr QSize patternIconSize(56, 16);
 /// Pictures are scaled down to this side, since a fill is kept with every object that has it.
 constexpr int largestPictureSide = 2048;
+
+const QString mixedSign = QStringLiteral("—");
 
 QIcon patternIcon(Qt::BrushStyle pattern)
 {
@@ -179,14 +182,41 @@ void FillControls::connectControls()
     });
     connect(m_opacity, &QSlider::valueChanged, this, [this](int opacity) {
         m_fill.setOpacity(opacity);
-        Q_EMIT fillPicked(m_fill);
+        Q_EMIT opacityPicked(opacity);
     });
 }
 
-void FillControls::showFill(const CPageBgProp &fill)
+void FillControls::showFills(const QVector<CPageBgProp> &fills)
 {
-    m_fill = fill;
+    m_fill = fills.first();
     refresh();
+    showDifferences(fills);
+}
+
+void FillControls::showDifferences(const QVector<CPageBgProp> &fills)
+{
+    const auto differ = [&](auto valueOf) {
+        return std::any_of(fills.begin(), fills.end(),
+                           [&](const CPageBgProp &fill) { return valueOf(fill) != valueOf(fills.first()); });
+    };
+    const auto opacityOf = [](const CPageBgProp &fill) { return fill.opacity(); };
+    if (differ(shownType))
+        checkType(-1);
+    if (differ([](const CPageBgProp &fill) { return fill.fillColor(); }) || differ(opacityOf))
+        m_color->setMixed();
+    if (differ([](const CPageBgProp &fill) { return fill.gradientColor(); }))
+        m_secondColor->setMixed();
+    if (differ(opacityOf))
+        m_opacityText->setText(mixedSign);
+}
+
+/// -1 for none of them.
+void FillControls::checkType(int type)
+{
+    m_types->setExclusive(false);
+    for (QAbstractButton *button : m_types->buttons())
+        button->setChecked(m_types->id(button) == type);
+    m_types->setExclusive(true);
 }
 
 void FillControls::refresh()
@@ -194,8 +224,7 @@ void FillControls::refresh()
     const QSignalBlocker quietAngle(m_angle);
     const QSignalBlocker quietOpacity(m_opacity);
     const int type = shownType(m_fill);
-    if (QAbstractButton *button = m_types->button(type))
-        button->setChecked(true);
+    checkType(type);
     QColor color = m_fill.fillColor();
     color.setAlpha(m_fill.opacity());
     m_color->setColor(color);

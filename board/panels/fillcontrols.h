@@ -25,12 +25,16 @@ public:
     explicit FillControls(const Workspace *workspace, QWidget *parent = nullptr);
 
     /// Shows these values without telling anybody.
-    void showFill(const CPageBgProp &fill);
+    void showFill(const CPageBgProp &fill) { showFills({fill}); }
+    /// Several fills, at least one: a dash, and no type chosen, where they differ.
+    void showFills(const QVector<CPageBgProp> &fills);
     CPageBgProp fill() const { return m_fill; }
 
 Q_SIGNALS:
-    /// The user changed something; all of the fill as it is now.
+    /// The user changed something other than the opacity; all of the fill as it is now.
     void fillPicked(const CPageBgProp &fill);
+    /// 0 (transparent) to 255 (opaque).
+    void opacityPicked(int opacity);
 
 private:
     void makeTypeButtons();
@@ -38,6 +42,8 @@ private:
     void layOut();
     void connectControls();
     void refresh();
+    void checkType(int type);
+    void showDifferences(const QVector<CPageBgProp> &fills);
     void setType(int type);
     void setColor(const QColor &color);
     void choosePicture();

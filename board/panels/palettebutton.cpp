@@ -15,7 +15,8 @@ namespace {
 
 constexpr QSize buttonSize(92, 98);
 constexpr int edge = 5;
-constexpr double smallestPointSize = 6;
+/// Smaller letters cannot be read; a longer word is cut into two lines instead.
+constexpr double smallestPointSize = 8;
 
 /// The font, smaller where the longest word of `text` would be wider than `width`.
 QFont fittingFont(QFont font, const QString &text, int width)
@@ -51,6 +52,11 @@ QSize PaletteButton::sizeHint() const
     return buttonSize;
 }
 
+QFont PaletteButton::nameFont() const
+{
+    return fittingFont(font(), text(), sizeHint().width() - 2 * edge);
+}
+
 /// Names are wrapped to two lines, which a tool button does not do by itself.
 void PaletteButton::paintEvent(QPaintEvent *)
 {
@@ -66,8 +72,10 @@ void PaletteButton::paintEvent(QPaintEvent *)
     const QRect name(inside.left(), picture.bottom() + edge, inside.width(),
                      inside.bottom() - picture.bottom() - edge);
     painter.setPen(palette().color(QPalette::ButtonText));
-    painter.setFont(fittingFont(font(), text(), name.width()));
-    painter.drawText(name, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap, text());
+    painter.setFont(nameFont());
+    QTextOption wrapped(Qt::AlignHCenter | Qt::AlignVCenter);
+    wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    painter.drawText(QRectF(name), text(), wrapped);
 }
 
 void PaletteButton::mousePressEvent(QMouseEvent *event)

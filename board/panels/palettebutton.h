@@ -15,6 +15,8 @@ public:
 
     QString kindId() const { return m_kindId; }
     QSize sizeHint() const override;
+    /// The button's font, smaller where the longest word of the name needs it.
+    QFont nameFont() const;
 
 Q_SIGNALS:
     /// A double click or the Return key: the user wants one without drawing.

@@ -5,6 +5,7 @@
 #include "objects/objectpictures.h"
 #include "panels/buttonflow.h"
 #include "panels/palettebutton.h"
+#include "panels/paletteorder.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QLabel>
@@ -51,18 +52,18 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
 
 void PalettePanel::addGroups(QVBoxLayout *column)
 {
-    const QVector<pagehost::ObjectKind> kinds = m_workspace->registry().kinds();
+    const QVector<PaletteEntry> entries = paletteEntries(*m_workspace);
     QHash<QString, ButtonFlow *> flows;
-    for (const pagehost::ObjectKind &kind : kinds) {
-        ButtonFlow *&flow = flows[kind.group];
+    for (const PaletteEntry &entry : entries) {
+        ButtonFlow *&flow = flows[entry.group];
         if (!flow) {
-            flow = new ButtonFlow(m_workspace->text(kind.group));
+            flow = new ButtonFlow(entry.group);
             m_flows.append(flow);
             column->addWidget(flow);
         }
-        addButton(flow, kind.id, kind.nameKey);
+        addButton(flow, entry.kindId, entry.name);
     }
-    if (!kinds.isEmpty())
+    if (!entries.isEmpty())
         return;
     auto *nothing = new QLabel(m_workspace->text("IDS_BOARD_NO_SHAPES"));
     nothing->setWordWrap(true);
@@ -70,9 +71,9 @@ void PalettePanel::addGroups(QVBoxLayout *column)
     column->addWidget(nothing);
 }
 
-void PalettePanel::addButton(ButtonFlow *flow, const QString &kindId, const QString &nameKey)
+void PalettePanel::addButton(ButtonFlow *flow, const QString &kindId, const QString &name)
 {
-    auto *button = new PaletteButton(kindId, m_workspace->text(nameKey), flow);
+    auto *button = new PaletteButton(kindId, name, flow);
     button->setIconSize(pictureSize);
     button->setToolTip(m_workspace->text("IDS_BOARD_KIND_TIP").arg(button->text()));
     connect(button, &PaletteButton::clicked, this,

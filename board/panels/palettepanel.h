@@ -35,7 +35,7 @@ protected:
 
 private:
     void addGroups(QVBoxLayout *column);
-    void addButton(ButtonFlow *flow, const QString &kindId, const QString &nameKey);
+    void addButton(ButtonFlow *flow, const QString &kindId, const QString &name);
     void paintPictures();
     void filter(const QString &words);
 

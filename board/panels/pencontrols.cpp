@@ -12,6 +12,7 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QSpinBox>
 
+#include <algorithm>
 #include <array>
 
 namespace board {
@@ -35,6 +36,13 @@ constexpr QSize sampleSize(48, 16);
 constexpr int sampleWidth = 2;
 /// Between a sample line and its name.
 constexpr int sampleGap = 8;
+
+const QString mixedSign = QStringLiteral("—");
+
+template<typename Value> bool areAlike(const QVector<Value> &values)
+{
+    return std::all_of(values.begin(), values.end(), [&](const Value &value) { return value == values.first(); });
+}
 
 QPixmap sampleLine(int penStyle, const QColor &color)
 {
@@ -74,21 +82,61 @@ PenControls::PenControls(const Workspace *workspace, QWidget *parent)
     grid->setColumnStretch(1, 1);
 
     connect(m_color, &ColorButton::colorPicked, this, &PenControls::colorPicked);
-    connect(m_width, QOverload<int>::of(&QSpinBox::valueChanged), this, &PenControls::widthPicked);
+    connect(m_width, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int width) {
+        if (width > 0)
+            Q_EMIT widthPicked(width);
+    });
     connect(m_style, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { Q_EMIT stylePicked(static_cast<Qt::PenStyle>(m_style->itemData(index).toInt())); });
 }
 
-void PenControls::showStyle(const pagehost::ObjectStyle &style)
+void PenControls::showStyles(const QVector<pagehost::ObjectStyle> &styles)
+{
+    QVector<QColor> colors;
+    QVector<int> widths;
+    QVector<Qt::PenStyle> penStyles;
+    int largestWidth = 0;
+    for (const pagehost::ObjectStyle &style : styles) {
+        if (style.hasPenColor)
+            colors.append(style.penColor);
+        if (style.hasPenStyle)
+            penStyles.append(style.penStyle);
+        if (!style.hasPenWidth)
+            continue;
+        largestWidth = widths.isEmpty() ? style.maxPenWidth : qMin(largestWidth, style.maxPenWidth);
+        widths.append(style.penWidth);
+    }
+    showColor(colors);
+    showWidth(widths, largestWidth);
+    showPenStyle(penStyles);
+}
+
+void PenControls::showColor(const QVector<QColor> &colors)
+{
+    m_color->setEnabled(!colors.isEmpty());
+    if (!areAlike(colors))
+        m_color->setMixed();
+    else if (!colors.isEmpty())
+        m_color->setColor(colors.first());
+}
+
+/// The dash stands for 0, which no outline has.
+void PenControls::showWidth(const QVector<int> &widths, int largest)
 {
     const QSignalBlocker quiet(m_width);
-    m_color->setEnabled(style.hasPenColor);
-    m_width->setEnabled(style.hasPenWidth);
-    m_style->setEnabled(style.hasPenStyle);
-    m_color->setColor(style.penColor);
-    m_width->setMaximum(style.maxPenWidth);
-    m_width->setValue(style.penWidth);
-    m_style->setCurrentIndex(m_style->findData(static_cast<int>(style.penStyle)));
+    const bool alike = areAlike(widths);
+    m_width->setEnabled(!widths.isEmpty());
+    m_width->setSpecialValueText(alike ? QString() : mixedSign);
+    m_width->setRange(alike ? 1 : 0, qMax(1, largest));
+    m_width->setValue(alike ? widths.value(0) : 0);
+}
+
+void PenControls::showPenStyle(const QVector<Qt::PenStyle> &styles)
+{
+    const bool alike = areAlike(styles);
+    m_style->setEnabled(!styles.isEmpty());
+    m_style->setPlaceholderText(alike ? QString() : mixedSign);
+    m_style->setCurrentIndex(alike ? m_style->findData(static_cast<int>(styles.value(0))) : -1);
 }
 
 void PenControls::changeEvent(QEvent *event)

@@ -20,8 +20,8 @@ class PenControls : public QWidget
 public:
     explicit PenControls(const Workspace *workspace, QWidget *parent = nullptr);
 
-    /// Shows these values; what the object does not have is disabled.
-    void showStyle(const pagehost::ObjectStyle &style);
+    /// Shows the values of these objects, a dash where they differ; what none of them has is disabled.
+    void showStyles(const QVector<pagehost::ObjectStyle> &styles);
 
 Q_SIGNALS:
     void colorPicked(const QColor &color);
@@ -33,6 +33,9 @@ protected:
 
 private:
     void makeStyleIcons();
+    void showColor(const QVector<QColor> &colors);
+    void showWidth(const QVector<int> &widths, int largest);
+    void showPenStyle(const QVector<Qt::PenStyle> &styles);
 
     ColorButton *m_color;
     QSpinBox *m_width;

@@ -15,6 +15,7 @@ namespace {
 
 constexpr double farthest = 99999;
 constexpr double smallestSide = 1;
+const QString mixedSign = QStringLiteral("—");
 
 void showQuietly(QDoubleSpinBox *box, double value)
 {
@@ -88,8 +89,10 @@ void PlaceControls::showPos(const QPointF &pos)
 
 void PlaceControls::showForm(const QSizeF &size, double rotation)
 {
-    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation})
+    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation}) {
         box->setEnabled(true);
+        box->setSpecialValueText({});
+    }
     showQuietly(m_width, size.width());
     showQuietly(m_height, size.height());
     showQuietly(m_rotation, normalizedDegrees(rotation));
@@ -97,8 +100,11 @@ void PlaceControls::showForm(const QSizeF &size, double rotation)
 
 void PlaceControls::showNoForm()
 {
-    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation})
+    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation}) {
         box->setEnabled(false);
+        box->setSpecialValueText(mixedSign);
+        showQuietly(box, box->minimum());
+    }
 }
 
 } // namespace board

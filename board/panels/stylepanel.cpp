@@ -12,22 +12,26 @@
 #include <pagehost/style.h>
 
 #include <framework/cbaseobject.h>
+#include <framework/iframework.h>
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace board {
 
 namespace {
 
-/// The first of the objects that takes a fill; null when none does.
-CBaseObject *firstFilled(const QVector<CBaseObject *> &objects)
+/// Those of the objects that take a fill.
+QVector<CBaseObject *> filledOf(const QVector<CBaseObject *> &objects)
 {
+    QVector<CBaseObject *> filled;
     for (CBaseObject *object : objects) {
         if (pagehost::styleOf(object).hasFill && object->getFillProp())
-            return object;
+            filled.append(object);
     }
-    return nullptr;
+    return filled;
 }
 
 bool isPlain(const CPageBgProp &fill)
@@ -86,9 +90,17 @@ void StylePanel::connectControls()
     connect(m_pen, &PenControls::stylePicked, this,
             [this](Qt::PenStyle style) { pagehost::setPenStyle(selection(), style); });
     connect(m_fill, &FillControls::fillPicked, this, &StylePanel::takeFill);
+    connect(m_fill, &FillControls::opacityPicked, this, &StylePanel::takeOpacity);
     connect(m_background, &FillControls::fillPicked, this, [this](const CPageBgProp &fill) {
         if (m_page)
             pagehost::setPageBackground(m_page, fill);
+    });
+    connect(m_background, &FillControls::opacityPicked, this, [this](int opacity) {
+        if (!m_page)
+            return;
+        CPageBgProp fill = m_page->background();
+        fill.setOpacity(opacity);
+        pagehost::setPageBackground(m_page, fill);
     });
     connect(m_place, &PlaceControls::movePicked, this,
             [this](const QPointF &delta) { pagehost::moveObjects(selection(), delta); });
@@ -122,16 +134,31 @@ QVector<CBaseObject *> StylePanel::selection() const
 
 void StylePanel::takeFill(const CPageBgProp &fill)
 {
-    const QVector<CBaseObject *> objects = selection();
-    const CBaseObject *shown = firstFilled(objects);
-    if (!shown)
+    const QVector<CBaseObject *> objects = filledOf(selection());
+    if (objects.isEmpty())
         return;
     QColor color = fill.fillColor();
     color.setAlpha(fill.opacity());
-    if (isPlain(fill) && isPlain(*shown->getFillProp()))
+    const bool allPlain = std::all_of(objects.begin(), objects.end(),
+                                      [](const CBaseObject *object) { return isPlain(*object->getFillProp()); });
+    if (isPlain(fill) && allPlain)
         pagehost::setFill(objects, color);
     else
         pagehost::setObjectsFill(objects, fill);
+}
+
+/// Each keeps the rest of its fill.
+void StylePanel::takeOpacity(int opacity)
+{
+    GetFramework()->beginUndoGroup(QStringLiteral("IDS_UNDO_FILL"));
+    for (CBaseObject *object : filledOf(selection())) {
+        CPageBgProp fill = *object->getFillProp();
+        fill.setOpacity(opacity);
+        QColor color = fill.fillColor();
+        color.setAlpha(opacity);
+        isPlain(fill) ? pagehost::setFill({object}, color) : pagehost::setObjectsFill({object}, fill);
+    }
+    GetFramework()->endUndoGroup();
 }
 
 void StylePanel::refresh()
@@ -140,7 +167,7 @@ void StylePanel::refresh()
     const bool any = !objects.isEmpty();
     for (QWidget *section : {m_penSection, m_placeSection})
         section->setVisible(any);
-    m_fillSection->setVisible(firstFilled(objects));
+    m_fillSection->setVisible(!filledOf(objects).isEmpty());
     m_backgroundSection->setVisible(!any);
     if (any) {
         showObjects(objects);
@@ -156,10 +183,15 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
     CBaseObject *first = objects.first();
     m_title->setText(objects.size() == 1 ? m_workspace->text(first->kindName())
                                          : m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
-    m_pen->showStyle(pagehost::styleOf(first));
-    const CBaseObject *filled = firstFilled(objects);
-    if (filled)
-        m_fill->showFill(*filled->getFillProp());
+    QVector<pagehost::ObjectStyle> styles;
+    for (CBaseObject *object : objects)
+        styles.append(pagehost::styleOf(object));
+    m_pen->showStyles(styles);
+    QVector<CPageBgProp> fills;
+    for (const CBaseObject *object : filledOf(objects))
+        fills.append(*object->getFillProp());
+    if (!fills.isEmpty())
+        m_fill->showFills(fills);
     m_place->showPos(pagehost::boundsOf(objects).topLeft());
     if (objects.size() == 1)
         m_place->showForm(first->getClientRect().size(), first->rotation());

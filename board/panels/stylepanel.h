@@ -31,6 +31,7 @@ private:
     void connectControls();
     void refresh();
     void showObjects(const QVector<CBaseObject *> &objects);
+    void takeOpacity(int opacity);
     void takeFill(const CPageBgProp &fill);
     QVector<CBaseObject *> selection() const;
 

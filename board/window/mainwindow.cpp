@@ -222,26 +222,34 @@ void MainWindow::addMenus()
                                         nullptr, a.darkColors}));
 }
 
-void MainWindow::addTools()
+QToolBar *MainWindow::addTools(const QString &name, const char *titleKey)
 {
-    QToolBar *bar = addToolBar(m_workspace->text("IDS_BOARD_TOOLS"));
-    bar->setObjectName(QStringLiteral("tools"));
+    QToolBar *bar = addToolBar(m_workspace->text(titleKey));
+    bar->setObjectName(name);
     bar->setMovable(false);
     bar->setIconSize(toolIconSize);
     bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    return bar;
+}
+
+void MainWindow::addTools()
+{
+    QToolBar *bar = addTools(QStringLiteral("tools"), "IDS_BOARD_TOOLS");
     const Actions &a = *m_actions;
     const ClipboardMenu &c = *m_clipboardMenu;
     const QList<QList<QAction *>> groups{{m_documentMenu->openAction(), m_documentMenu->saveAction()},
                                          {a.undo, a.redo},
                                          {c.cut, c.copy, c.paste, a.duplicate, a.remove},
                                          {a.toFront, a.forward, a.backward, a.toBack},
-                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight},
-                                         {a.playAnimation}};
+                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
     for (const QList<QAction *> &group : groups) {
         if (group != groups.first())
             bar->addSeparator();
         bar->addActions(group);
     }
+    QToolBar *playing = addTools(QStringLiteral("animationTools"), "IDS_BOARD_ANIMATION");
+    playing->addAction(a.playAnimation);
+    m_lock.spare(playing);
 }
 
 void MainWindow::connectLessons()

@@ -8,6 +8,7 @@
 #include <QtWidgets/QMainWindow>
 
 class QMimeData;
+class QToolBar;
 
 namespace pagehost {
 class AnimationPlayer;
@@ -73,6 +74,7 @@ private:
     void addPanels();
     void addMenus();
     void addTools();
+    QToolBar *addTools(const QString &name, const char *titleKey);
     void connectParts();
     void connectTools();
     void connectLessons();

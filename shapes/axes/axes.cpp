@@ -42,4 +42,4 @@ private:
     TextValue across{this, acrossText, QStringLiteral("x")}, up{this, upText, QStringLiteral("y")};
 };
 
-SHAPEKIT_PLUGIN(Axes, "Axes", "Koordinatenachsen", Mathematics)
+SHAPEKIT_PLUGIN(Axes, "Axes", "Achsenkreuz", Mathematics)

@@ -27,7 +27,7 @@ GroupTexts textsOf(Group group)
     case Group::Basic:
         break;
     }
-    return {"IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"};
+    return {pagehost::basicGroup, "Basic shapes", "Grundformen"};
 }
 
 } // namespace

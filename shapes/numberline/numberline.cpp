@@ -13,7 +13,7 @@ public:
     using ShapeOfType::ShapeOfType;
 
 protected:
-    QSizeF smallestSize() const override { return {48, 24}; }
+    QSizeF smallestSize() const override { return {48, 36}; }
     QRectF range(int) override { return between({margin, 8}, {width() - 2 * margin, 8}); }
     void draw() override
     {

@@ -100,6 +100,15 @@ double ControlPointProbe::roomX(int index) const
     return widerRoom(x, m_core->getXMin(node(index)), m_core->getXMax(node(index)));
 }
 
+bool ControlPointProbe::isWithinLimits(int index) const
+{
+    constexpr double rounding = 1e-6;
+    const QPointF corner = node(index)->boundingRect().topLeft();
+    const QRectF limits(QPointF(m_core->getXMin(node(index)), m_core->getYMin(node(index))),
+                        QPointF(m_core->getXMax(node(index)), m_core->getYMax(node(index))));
+    return limits.adjusted(-rounding, -rounding, rounding, rounding).contains(corner);
+}
+
 double ControlPointProbe::roomY(int index) const
 {
     const double y = node(index)->boundingRect().y();

@@ -30,6 +30,8 @@ public:
     /// limit that is farther away, with its sign.
     double roomX(int index) const;
     double roomY(int index) const;
+    /// Whether the point stands where the shape says that it may be.
+    bool isWithinLimits(int index) const;
 
 private:
     QZeSvgNode *node(int index) const;

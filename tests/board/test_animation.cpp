@@ -137,7 +137,7 @@ void TestAnimation::buttonHoldsAndGoesOn()
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
     QTRY_VERIFY(plays(object));
-    const auto *bar = driver.window().findChild<QToolBar *>(QStringLiteral("tools"));
+    const auto *bar = driver.window().findChild<QToolBar *>(QStringLiteral("animationTools"));
     QWidget *button = bar->widgetForAction(playAction(driver));
     QVERIFY(button);
     QTest::mouseClick(button, Qt::LeftButton);

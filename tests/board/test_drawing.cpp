@@ -39,6 +39,10 @@ private Q_SLOTS:
     void kindDroppedOnThePageAppearsThere();
     void everyKindHasAPictureAndAName();
     void paletteSearchHidesOtherKinds();
+    void paletteBeginsWithTheBasicShapes_data();
+    void paletteBeginsWithTheBasicShapes();
+    void namesInThePaletteCanBeRead_data();
+    void namesInThePaletteCanBeRead();
 };
 
 void TestDrawing::dragInAnyDirectionFillsTheDraggedRectangle_data()
@@ -221,6 +225,56 @@ void TestDrawing::paletteSearchHidesOtherKinds()
     search->clear();
     for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
         QVERIFY(button->isVisible());
+}
+
+void TestDrawing::paletteBeginsWithTheBasicShapes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("groups");
+    QTest::addColumn<QStringList>("firstNames");
+    QTest::newRow("English") << "en" << QStringList{"Basic shapes", "Mathematics", "Science"}
+                             << QStringList{"Block arrow", "Callout", "Ellipse"};
+    // Not in the order of the files: there the block arrow is the first, the ellipse after the callout.
+    QTest::newRow("German") << "de" << QStringList{"Grundformen", "Mathematik", "Naturwissenschaft"}
+                            << QStringList{"Abgerundetes Rechteck", "Bild", "Blockpfeil"};
+}
+
+void TestDrawing::paletteBeginsWithTheBasicShapes()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, groups);
+    QFETCH(QStringList, firstNames);
+    BoardDriver board(language);
+    QStringList captions;
+    for (const QLabel *label : board.window().palettePanel()->findChildren<QLabel *>())
+        captions.append(label->text());
+    QCOMPARE(captions, groups);
+    QStringList names;
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons().mid(0, 3))
+        names.append(button->text());
+    QCOMPARE(names, firstNames);
+}
+
+void TestDrawing::namesInThePaletteCanBeRead_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << "en";
+    QTest::newRow("German") << "de";
+}
+
+void TestDrawing::namesInThePaletteCanBeRead()
+{
+    QFETCH(QString, language);
+    BoardDriver board(language);
+    QFont usual = QApplication::font();
+    usual.setPointSizeF(9.5); // of a desktop
+    for (board::PaletteButton *button : board.window().palettePanel()->buttons()) {
+        button->setFont(usual);
+        const QFont font = button->nameFont();
+        QVERIFY2(font.pointSizeF() >= 8, qPrintable(button->text()));
+        for (const QString &word : button->text().split(' '))
+            QVERIFY2(QFontMetrics(font).horizontalAdvance(word) <= button->width(), qPrintable(word));
+    }
 }
 
 QTEST_MAIN(TestDrawing)

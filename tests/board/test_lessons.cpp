@@ -18,6 +18,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QUndoStack>
 
@@ -38,6 +39,10 @@ private Q_SLOTS:
     void timeLineIsMovedByKeys();
     void severalLessonsAreChosenFromAList();
     void deletedLessonIsGone();
+    void lessonIsRenamedInTheBar();
+    void escapeKeepsTheNameOfALesson();
+    void emptyNameIsNoName();
+    void speedIsChosenInTheBar();
     void lessonMarksTheDocumentModified();
     void savingWhileRecordingKeepsWhatIsRecorded();
     void nothingCanBeEditedWhileALessonIsShown();
@@ -231,6 +236,81 @@ void TestLessons::deletedLessonIsGone()
     driver.action(QStringLiteral("Delete the lesson"))->trigger();
     QCOMPARE(lessons(driver).chosen(), -1);
     QVERIFY(driver.window().lessonBar()->message()->isVisible());
+}
+
+void TestLessons::lessonIsRenamedInTheBar()
+{
+    BoardDriver driver;
+    record(driver);
+    record(driver);
+    driver.workspace().document()->markSaved();
+    driver.key(Qt::Key_F2);
+    QLineEdit *field = driver.window().lessonBar()->name();
+    QVERIFY(field->isVisible());
+    QVERIFY(!driver.window().lessonBar()->list()->isVisible());
+    QCOMPARE(field->text(), QStringLiteral("Lesson 2"));
+    QTest::keyClicks(field, QStringLiteral(" Halves and quarters "));
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(!field->isVisible());
+    const QString name = QStringLiteral("Halves and quarters");
+    QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), name}));
+    QVERIFY(driver.window().lessonBar()->list()->currentText().startsWith(name));
+    pagehost::Lesson lesson;
+    QVERIFY(lesson.fromData(driver.workspace().document()->lessons().at(1).data));
+    QCOMPARE(lesson.title, name);
+    QVERIFY(driver.workspace().document()->isModified());
+    lessons(driver).seek(lessons(driver).duration());
+    QCOMPARE(pagesOf(*lessons(driver).shownDocument()), pagesOf(*driver.workspace().document()));
+}
+
+void TestLessons::escapeKeepsTheNameOfALesson()
+{
+    BoardDriver driver;
+    record(driver);
+    driver.key(Qt::Key_F2);
+    QLineEdit *field = driver.window().lessonBar()->name();
+    QTest::keyClicks(field, QStringLiteral("Thirds"));
+    QTest::keyClick(field, Qt::Key_Escape);
+    QVERIFY(!field->isVisible());
+    QVERIFY(driver.window().lessonBar()->list()->isVisible());
+    QCOMPARE(lessons(driver).names(), QStringList(QStringLiteral("Lesson 1")));
+}
+
+void TestLessons::emptyNameIsNoName()
+{
+    BoardDriver driver;
+    QVERIFY(!driver.action(QStringLiteral("Rename the lesson"))->isEnabled());
+    record(driver);
+    driver.action(QStringLiteral("Rename the lesson"))->trigger();
+    QLineEdit *field = driver.window().lessonBar()->name();
+    field->setText(QStringLiteral("  "));
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(lessons(driver).names(), QStringList(QStringLiteral("Lesson 1")));
+}
+
+void TestLessons::speedIsChosenInTheBar()
+{
+    BoardDriver driver;
+    pagehost::Lesson lesson;
+    lesson.duration = 60000;
+    driver.workspace().document()->setLessons({{QStringLiteral("Silence"), lesson.toBytes()}});
+    QComboBox *speed = driver.window().lessonBar()->speed();
+    QCOMPARE(speed->currentText(), QStringLiteral("1 ×"));
+    speed->setFocus();
+    QTest::keyClick(speed, Qt::Key_End);
+    QCOMPARE(speed->currentText(), QStringLiteral("4 ×"));
+    QCOMPARE(lessons(driver).speed(), 4.0);
+    QElapsedTimer real;
+    real.start();
+    lessons(driver).playOrPause();
+    QTest::qWait(150);
+    lessons(driver).playOrPause();
+    const qint64 passed = real.elapsed();
+    QVERIFY2(lessons(driver).position() >= 4 * 100, qPrintable(QString::number(lessons(driver).position())));
+    QVERIFY(lessons(driver).position() <= 4 * passed);
+    lessons(driver).close();
+    lessons(driver).seek(0);
+    QCOMPARE(lessons(driver).speed(), 4.0);
 }
 
 void TestLessons::lessonMarksTheDocumentModified()

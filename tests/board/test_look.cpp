@@ -10,6 +10,7 @@
 #include <panels/stylepanel.h>
 #include <window/mainwindow.h>
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
 #include <pagehost/pagepainter.h>
 #include <pagehost/style.h>
@@ -19,6 +20,8 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
@@ -71,6 +74,10 @@ private Q_SLOTS:
     void pageBackground();
     void placeAsNumbers();
     void severalShapesAreOneStep();
+    void valuesThatDifferAreShownAsADash();
+    void valuesThatAgreeAreShown();
+    void choosingAValueForADashGivesItToAll();
+    void opacityForSeveralLeavesTheirColours();
 };
 
 void TestLook::penColor()
@@ -263,6 +270,100 @@ void TestLook::severalShapesAreOneStep()
     QCOMPARE(pagehost::styleOf(other).penColor, QColor(200, 10, 20));
     t.undo();
     QCOMPARE(pagehost::styleOf(other).penColor, before);
+}
+
+/// Two more shapes beside it that look otherwise, all three selected.
+struct ThreeShapes : StyledShape
+{
+    ThreeShapes()
+        : second(board.draw(rectangle, {100, 100}, {200, 160}))
+        , third(board.draw(flask, {300, 100}, {380, 200}))
+    {
+        pagehost::setPenWidth({second}, 5);
+        pagehost::setPenColor({second}, Qt::red);
+        pagehost::setPenStyle({second}, Qt::DotLine);
+        pagehost::setFill({second}, QColor(10, 20, 30));
+        CPageBgProp gradient(nullptr);
+        gradient.setFillEnable(true);
+        gradient.setFillType(CPageBgProp::GradientFill);
+        gradient.setFillColor(QColor(200, 0, 0));
+        pagehost::setObjectsFill({shape}, gradient);
+        board.page().select({shape, second, third});
+        steps = board.history().count();
+        QCoreApplication::processEvents();
+    }
+    QToolButton *type(const QString &name) const { return control<QToolButton>(name); }
+
+    CBaseObject *second;
+    CBaseObject *third;
+};
+
+void TestLook::valuesThatDifferAreShownAsADash()
+{
+    ThreeShapes t;
+    const QString dash = QStringLiteral("—");
+    QVERIFY(t.control<board::ColorButton>("Outline colour")->isMixed());
+    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), dash);
+    QCOMPARE(t.control<QComboBox>("Outline style")->currentIndex(), -1);
+    QCOMPARE(t.control<QComboBox>("Outline style")->placeholderText(), dash);
+    for (const char *name : {"No fill", "Colour", "Gradient", "Pattern", "Picture"})
+        QVERIFY2(!t.type(name)->isChecked(), name);
+    QVERIFY(t.control<board::ColorButton>("Fill colour")->isMixed());
+    QCOMPARE(t.control<QDoubleSpinBox>("Width")->text(), dash);
+    QCOMPARE(t.control<QDoubleSpinBox>("Rotation")->text(), dash);
+    QCOMPARE(t.newSteps(), 0);
+}
+
+void TestLook::valuesThatAgreeAreShown()
+{
+    ThreeShapes t;
+    t.board.page().select({t.second});
+    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
+    QVERIFY(!t.control<board::ColorButton>("Outline colour")->isMixed());
+    QCOMPARE(t.control<QComboBox>("Outline style")->currentText(), QStringLiteral("Dotted"));
+    QVERIFY(t.type("Colour")->isChecked());
+    QCOMPARE(t.control<QDoubleSpinBox>("Width")->value(), 100.0);
+    pagehost::setPenWidth({t.shape}, 5);
+    t.board.page().select({t.shape, t.second});
+    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("5 px"));
+}
+
+void TestLook::choosingAValueForADashGivesItToAll()
+{
+    ThreeShapes t;
+    t.control<QSpinBox>("Outline width")->setValue(3);
+    QCOMPARE(t.newSteps(), 1);
+    for (CBaseObject *object : {t.shape, t.second, t.third})
+        QCOMPARE(pagehost::styleOf(object).penWidth, 3);
+    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("3 px"));
+    Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(1, 2, 3));
+    QCOMPARE(t.newSteps(), 2);
+    for (CBaseObject *object : {t.shape, t.second, t.third})
+        QCOMPARE(pagehost::styleOf(object).penColor, QColor(1, 2, 3));
+    QTest::mouseClick(t.type("Colour"), Qt::LeftButton);
+    QCOMPARE(t.newSteps(), 3);
+    for (CBaseObject *object : {t.shape, t.second, t.third}) {
+        QCOMPARE(object->getFillProp()->fillType(), int(CPageBgProp::SolidFill));
+        QCOMPARE(object->getFillProp()->fillColor(), QColor(200, 0, 0));
+    }
+}
+
+void TestLook::opacityForSeveralLeavesTheirColours()
+{
+    ThreeShapes t;
+    const QColor flaskColor = pagehost::styleOf(t.third).fill.color();
+    t.control<QSlider>("Opacity")->setValue(100);
+    QCOMPARE(t.newSteps(), 1);
+    QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::GradientFill));
+    QCOMPARE(t.shape->getFillProp()->opacity(), 100);
+    QCOMPARE(t.second->getFillProp()->fillColor(), QColor(10, 20, 30));
+    QCOMPARE(t.second->getFillProp()->opacity(), 100);
+    QColor paler = flaskColor;
+    paler.setAlpha(100);
+    QCOMPARE(pagehost::styleOf(t.third).fill.color(), paler);
+    t.undo();
+    QCOMPARE(t.second->getFillProp()->opacity(), 255);
+    QCOMPARE(pagehost::styleOf(t.third).fill.color(), flaskColor);
 }
 
 QTEST_MAIN(TestLook)

@@ -3,6 +3,7 @@
 #include <application/commandline.h>
 
 #include <pagehost/documentfile.h>
+#include <pagehost/lesson.h>
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -64,6 +65,10 @@ private Q_SLOTS:
     void exportWritesThePages();
     void exportWritesTheBoardThatIsGiven();
     void exportWritesDrawings();
+    void playedLessonIsExported();
+    void severalPlayedLessonsGetAFolderEach();
+    void playingWithoutALessonFails();
+    void playingADamagedLessonFails();
     void exportIntoAnImpossibleFolderFails();
     void unusablePlugInsAreReported();
     void missingPlugInFolderIsReported();
@@ -75,7 +80,7 @@ void TestProgram::helpNamesEveryOption()
     const Outcome outcome = run({"--help"});
     QCOMPARE(outcome.code, 0);
     for (const char *option :
-         {"--plugins", "--export", "--format", "--scale", "--demo", "--language", "--dark", "--help"})
+         {"--plugins", "--export", "--format", "--scale", "--demo", "--language", "--dark", "--play", "--help"})
         QVERIFY2(outcome.out.contains(option), option);
 }
 
@@ -173,6 +178,78 @@ void TestProgram::exportWritesDrawings()
         const double difference = meanDifference(QImage(page + ".png"), QImage(drawn));
         QVERIFY2(difference < mostDifference, qPrintable(QString::number(difference)));
     }
+}
+
+/// A lesson in which pages of a size appear, in a document whose own page is another.
+static pagehost::LessonData pagesLesson(const QString &name, int pages, const QSizeF &size)
+{
+    pagehost::Lesson lesson;
+    lesson.title = name;
+    lesson.start = {pagehost::ZoomChanged{1}, pagehost::PageAppeared{0, QSizeF(50, 50), {}}};
+    for (int i = 1; i < pages; ++i)
+        lesson.events.append({i * 100, pagehost::PageAppeared{i, size, {}}});
+    lesson.events.append({pages * 100, pagehost::PageResized{0, size}});
+    lesson.duration = pages * 100;
+    return {name, lesson.toBytes()};
+}
+
+static QString boardWith(const QTemporaryDir &folder, const QVector<pagehost::LessonData> &lessons)
+{
+    pagehost::Document document;
+    document.appendPage(QSizeF(300, 300));
+    document.setLessons(lessons);
+    const QString file = folder.filePath("lesson.board");
+    return pagehost::saveDocument(document, file).saved ? file : QString();
+}
+
+void TestProgram::playedLessonIsExported()
+{
+    QTemporaryDir folder;
+    const QString file = boardWith(folder, {pagesLesson("Pages", 3, {120, 80})});
+    const QString target = folder.filePath("pages");
+    const Outcome outcome = run({"--play", file, "--export", target});
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.code, 0);
+    const QStringList files{target + "/page-1.png", target + "/page-2.png", target + "/page-3.png"};
+    QCOMPARE(outcome.out.split('\n', Qt::SkipEmptyParts), files);
+    for (const QString &page : files)
+        QCOMPARE(QImage(page).size(), QSize(120, 80));
+    QCOMPARE(QDir(target).entryList(QDir::Files).size(), 3);
+}
+
+void TestProgram::severalPlayedLessonsGetAFolderEach()
+{
+    QTemporaryDir folder;
+    const QString file = boardWith(folder, {pagesLesson("One", 1, {60, 40}), pagesLesson("Two", 2, {40, 60})});
+    const QString target = folder.filePath("pages");
+    const Outcome outcome = run({"--play", file, "--export", target, "--format", "svg"});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out.split('\n', Qt::SkipEmptyParts),
+             (QStringList{target + "/lesson-1/page-1.svg", target + "/lesson-2/page-1.svg",
+                          target + "/lesson-2/page-2.svg"}));
+    for (const QString &written : outcome.out.split('\n', Qt::SkipEmptyParts))
+        QVERIFY2(QFileInfo(written).size() > 0, qPrintable(written));
+}
+
+void TestProgram::playingWithoutALessonFails()
+{
+    QTemporaryDir folder;
+    const Outcome outcome = run({"--play", boardWith(folder, {}), "--export", folder.filePath("pages")});
+    QCOMPARE(outcome.code, 1);
+    QCOMPARE(outcome.out, QString());
+    QVERIFY2(outcome.errors.contains("no lesson"), qPrintable(outcome.errors));
+    QVERIFY(!QFileInfo::exists(folder.filePath("pages")));
+}
+
+void TestProgram::playingADamagedLessonFails()
+{
+    QTemporaryDir folder;
+    const QString file = boardWith(folder, {{"Broken", "no lesson"}, pagesLesson("Whole", 1, {60, 40})});
+    const Outcome outcome = run({"--play", file, "--export", folder.filePath("pages")});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.errors.contains("Broken"), qPrintable(outcome.errors));
+    // The other one is there all the same.
+    QCOMPARE(outcome.out, folder.filePath("pages/lesson-2/page-1.png") + '\n');
 }
 
 void TestProgram::exportIntoAnImpossibleFolderFails()

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void pausesAndGoesOn();
     void endsByItself();
     void playsAgainFromTheEnd();
+    void playsFasterAndSlower();
+    void speedsThatAreNoneAreIgnored();
     void playsToTheEndAtOnce();
     void seeksBothWays();
     void seeksWhilePlaying();
@@ -164,6 +166,41 @@ void TestLessonPlayer::endsByItself()
     QCOMPARE(penColor(room.player), QColor(Qt::green));
     QTest::qWait(40);
     QCOMPARE(finished.size(), 1);
+}
+
+void TestLessonPlayer::playsFasterAndSlower()
+{
+    Classroom room;
+    room.player.setLesson(colourLesson(room));
+    room.player.setSpeed(4);
+    room.player.play();
+    room.now += 249; // 996 of the lesson
+    waitForTick(room.player);
+    QCOMPARE(room.player.position(), qint64(996));
+    QCOMPARE(penColor(room.player), QColor(Qt::red));
+    room.now += 1;
+    waitForTick(room.player);
+    QCOMPARE(penColor(room.player), QColor(Qt::blue));
+    // From where it is, not from the start.
+    room.player.setSpeed(0.5);
+    room.now += 3000;
+    waitForTick(room.player);
+    QCOMPARE(room.player.position(), qint64(2500));
+    room.now += 1000;
+    waitForTick(room.player);
+    QCOMPARE(penColor(room.player), QColor(Qt::green));
+    room.player.setLesson(room.player.lesson());
+    QCOMPARE(room.player.speed(), 0.5);
+}
+
+void TestLessonPlayer::speedsThatAreNoneAreIgnored()
+{
+    Classroom room;
+    room.player.setSpeed(2);
+    for (const double speed : {0.0, -1.0, qQNaN(), qInf()}) {
+        room.player.setSpeed(speed);
+        QCOMPARE(room.player.speed(), 2.0);
+    }
 }
 
 void TestLessonPlayer::playsAgainFromTheEnd()

@@ -2,6 +2,9 @@
 
 #include <pagehost/lesson.h>
 
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtCore/QRandomGenerator>
 
 // Random editing of every kind, recorded and played. A step is one of a teacher's changes, with undo and redo among
@@ -54,7 +57,7 @@ public:
             &Teacher::color,     &Teacher::style,      &Teacher::width,      &Teacher::reshape, &Teacher::reshape,
             &Teacher::reshape,   &Teacher::dragHandle, &Teacher::dragHandle, &Teacher::undo,    &Teacher::undo,
             &Teacher::redo,      &Teacher::editPages,  &Teacher::setPaper,   &Teacher::zoom,    &Teacher::takeBreak,
-            &Teacher::setNumber, &Teacher::wait,       &Teacher::cancel};
+            &Teacher::setNumber, &Teacher::wait,       &Teacher::cancel,     &Teacher::answer,  &Teacher::answer};
         (this->*changes[number(changes.size())])();
     }
 
@@ -154,6 +157,41 @@ private:
         stream << real(20, 250);
         buffer.seek(0);
         any()->SetAttribute(2010 + number(5), stream, number(4) != 0);
+    }
+
+    /// What a settings panel sends for one or two controls, sometimes nonsense.
+    void answer()
+    {
+        CBaseObject *object = any();
+        QString json;
+        object->GetSettingJson(json);
+        const QJsonArray controls =
+            QJsonDocument::fromJson(json.toUtf8()).object().value(QLatin1String("settings")).toArray();
+        QJsonObject answers;
+        for (int i = 0; i <= number(2) && !controls.isEmpty(); ++i) {
+            const QJsonObject control = controls.at(number(controls.size())).toObject();
+            answers[control.value(QLatin1String("id")).toString()] = anyAnswer(control);
+        }
+        object->SetSettingJson(QString::fromUtf8(QJsonDocument(answers).toJson()), true, true);
+    }
+    QJsonValue anyAnswer(const QJsonObject &control)
+    {
+        const QString type = control.value(QLatin1String("type")).toString();
+        if (number(10) == 0) {
+            return QStringLiteral("nonsense");
+        }
+        if (type == QLatin1String("colorpicker")) {
+            return anyColor().name(QColor::HexArgb);
+        }
+        if (type == QLatin1String("combobox")) {
+            return number(6);
+        }
+        if (type == QLatin1String("switch")) {
+            return number(2) == 0;
+        }
+        const double smallest = control.value(QLatin1String("minimum")).toString().toDouble();
+        const double largest = control.value(QLatin1String("maximum")).toString().toDouble();
+        return smallest < largest ? QString::number(real(smallest, largest)) : QString::number(number(100));
     }
 
     void editPages()

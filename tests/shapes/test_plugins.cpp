@@ -62,7 +62,7 @@ constexpr KnownShape knownShapes[] = {
     {"flask", 30, 1, "Flask", "Kolben", "Science"},
     {"curve", 31, 12, "Curve", "Kurve", "Mathematics"},
     {"numberline", 32, 1, "Number line", "Zahlenstrahl", "Mathematics"},
-    {"axes", 33, 1, "Axes", "Koordinatenachsen", "Mathematics"},
+    {"axes", 33, 1, "Axes", "Achsenkreuz", "Mathematics"},
     {"protractor", 34, 1, "Protractor", "Winkelmesser", "Mathematics"},
     {"clock", 35, 2, "Clock", "Uhr", "Mathematics"},
     {"pendulum", 36, 1, "Pendulum", "Pendel", "Science"},

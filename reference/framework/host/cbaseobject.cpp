@@ -37,8 +37,9 @@ QRectF CBaseObject::boundingRect() const
 
 QPainterPath CBaseObject::shape() const
 {
-    if (regionPath && !regionPath->isEmpty()) {
-        return *regionPath;
+    const QPainterPath region = CPSRootObjectPrivate::currentRegion(const_cast<CBaseObject &>(*this));
+    if (!region.isEmpty()) {
+        return region;
     }
     QPainterPath path;
     path.addRect(clientRect);

@@ -133,6 +133,9 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
     update();
+    if (id == SizeChanged) {
+        CPSRootObjectPrivate::dropRegion(*this);
+    }
     pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
     if (!page) {
         return;
@@ -150,7 +153,7 @@ void CPSRootObject::onCreateFinished(bool)
 
 void CPSRootObject::updateAfterObjRectChanged(QGraphicsItem *, bool redraw)
 {
-    CPSRootObjectPrivate::refreshBounds(*this);
+    CPSRootObjectPrivate::dropRegion(*this);
     CPSRootObjectPrivate::noteChange(*this);
     if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
         scene->updateOverlay();
@@ -172,6 +175,7 @@ void CPSRootObject::SetPage(IPsPage *page)
 
 void CPSRootObject::regenRegionShape(QGraphicsItem *)
 {
+    d->regionIsStale = false;
     CPSRootObjectPrivate::refreshBounds(*this);
 }
 

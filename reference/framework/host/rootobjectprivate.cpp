@@ -14,6 +14,10 @@
 
 namespace {
 
+/// How far lines and labels may reach beyond the client rectangle of an object whose region is not known, item
+/// units.
+constexpr double overhang = 8;
+
 OperationType operationOf(CObjAction::ACT_Def handle)
 {
     if (HandleLayout::isResize(handle)) {
@@ -101,11 +105,13 @@ void CPSRootObjectPrivate::place(CPSRootObject &object, const QPointF &pos, doub
 void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
 {
     CBaseObject *item = baseObject(object);
-    if (!item) {
+    if (!item || object.d->keepsBounds) {
         return;
     }
     QRectF bounds = object.clientRect;
-    if (object.regionPath) {
+    if (object.d->regionIsStale) {
+        bounds.adjust(-overhang, -overhang, overhang, overhang);
+    } else if (object.regionPath) {
         bounds = bounds.united(object.regionPath->controlPointRect());
     }
     // Control points may stand half outside, whatever their size on screen.
@@ -117,6 +123,24 @@ void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
     }
     item->prepareGeometryChange();
     object.d->bounds = bounds;
+}
+
+void CPSRootObjectPrivate::dropRegion(CPSRootObject &object)
+{
+    object.d->regionIsStale = true;
+    refreshBounds(object);
+}
+
+QPainterPath CPSRootObjectPrivate::currentRegion(CBaseObject &object)
+{
+    CPSRootObjectPrivate &host = of(object);
+    if (host.regionIsStale && object.createFinished) {
+        // Whoever asks may be in the middle of looking through the scene, which must not be rearranged then.
+        host.keepsBounds = true;
+        object.regenRegionShape(nullptr);
+        host.keepsBounds = false;
+    }
+    return object.regionPath ? *object.regionPath : QPainterPath();
 }
 
 void CPSRootObjectPrivate::noteChange(CPSRootObject &object)

@@ -34,6 +34,11 @@ public:
     double followedZoom = 1;
     /// What the object saves as long as it plays and nothing but its picture changes.
     std::optional<QByteArray> playedState;
+    /// The region was made for another size or look. Making it is dear, so that it waits until somebody asks for
+    /// it.
+    bool regionIsStale = false;
+    /// refreshBounds() has no effect.
+    bool keepsBounds = false;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
     std::unique_ptr<GripDrag> drag;
@@ -66,6 +71,10 @@ public:
     static QSizeF savedSize(const QJsonObject &object);
     /// Bounding rectangle from client rectangle, region and editing aids.
     static void refreshBounds(CPSRootObject &object);
+    /// Size or look have changed, and with them the region.
+    static void dropRegion(CPSRootObject &object);
+    /// The region of now, item coordinates; empty when the object has none of its own.
+    static QPainterPath currentRegion(CBaseObject &object);
     static void noteChange(CPSRootObject &object);
     /// Of what is saved, but not shown.
     static void noteInvisibleChange(CPSRootObject &object);

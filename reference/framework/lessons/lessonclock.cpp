@@ -2,6 +2,8 @@
 
 #include <QtCore/QElapsedTimer>
 
+#include <cmath>
+
 namespace pagehost {
 
 namespace {
@@ -34,7 +36,16 @@ void LessonClock::halt()
 
 qint64 LessonClock::time() const
 {
-    return m_running ? m_time + qMax<qint64>(0, m_source() - m_since) : m_time;
+    return m_running ? m_time + qRound64(double(qMax<qint64>(0, m_source() - m_since)) * m_rate) : m_time;
+}
+
+void LessonClock::setRate(double rate)
+{
+    if (!(rate > 0) || !std::isfinite(rate)) {
+        return;
+    }
+    setTime(time());
+    m_rate = rate;
 }
 
 void LessonClock::setTime(qint64 time)

@@ -13,7 +13,8 @@ namespace pagehost {
 namespace {
 
 constexpr int tickMilliseconds = 16;
-constexpr qint64 highlightMilliseconds = 700;
+/// Of real time.
+constexpr int highlightMilliseconds = 700;
 
 } // namespace
 
@@ -36,7 +37,9 @@ Document *LessonPlayer::document() const
 void LessonPlayer::setLesson(const Lesson &lesson)
 {
     stopPlaying();
+    const double speed = m_clock.rate();
     m_clock = LessonClock(m_source);
+    m_clock.setRate(speed);
     m_lesson = lesson;
     showStart();
     setPosition(0);
@@ -62,6 +65,11 @@ void LessonPlayer::pause()
         tick();
         stopPlaying();
     }
+}
+
+void LessonPlayer::setSpeed(double speed)
+{
+    m_clock.setRate(speed);
 }
 
 void LessonPlayer::stopPlaying()
@@ -107,7 +115,7 @@ void LessonPlayer::tick()
     CBaseObject *changed = advance(time);
     if (changed) {
         pointOut(changed);
-        m_highlightEnd = time + highlightMilliseconds;
+        m_highlightEnd = time + qRound64(highlightMilliseconds * speed());
     } else if (time >= m_highlightEnd) {
         pointOut(nullptr);
     }

@@ -48,6 +48,9 @@ public:
     void play();
     void pause();
     bool isPlaying() const { return m_clock.isRunning(); }
+    /// Milliseconds of the lesson for one of real time, above 0; 1 at first. Other rates are ignored.
+    void setSpeed(double speed);
+    double speed() const { return m_clock.rate(); }
     /// Shows the lesson at this moment, in milliseconds, brought into 0 to duration(); goes on playing if it was.
     void seek(qint64 time);
     /// Plays what is left as fast as it goes, and stops.

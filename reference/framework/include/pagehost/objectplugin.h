@@ -11,6 +11,9 @@ class CBaseObject;
 
 namespace pagehost {
 
+/// The palette group of what everybody draws, which comes before all others.
+constexpr char basicGroup[] = "IDS_SHAPEGROUP_BASIC";
+
 /// One kind of page object that a plug-in offers.
 struct ObjectKind
 {

@@ -1,0 +1,28 @@
+#include "panels/paletteorder.h"
+
+#include "application/workspace.h"
+
+#include <QtCore/QCollator>
+
+#include <algorithm>
+
+namespace board {
+
+QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
+{
+    QVector<PaletteEntry> entries;
+    for (const pagehost::ObjectKind &kind : workspace.registry().kinds())
+        entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group)});
+    const QString basic = workspace.text(pagehost::basicGroup);
+    const QCollator collator(QLocale(workspace.localizer().language()));
+    std::stable_sort(entries.begin(), entries.end(), [&](const PaletteEntry &one, const PaletteEntry &other) {
+        if (one.group == other.group)
+            return collator.compare(one.name, other.name) < 0;
+        if (one.group == basic || other.group == basic)
+            return one.group == basic;
+        return collator.compare(one.group, other.group) < 0;
+    });
+    return entries;
+}
+
+} // namespace board
