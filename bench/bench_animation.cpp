@@ -1,5 +1,5 @@
-// What moves: a tick of one shape, and a page on which a hundred of a thousand shapes move. The peer of a tick draws the
-// same template once with Qt's own SVG module.
+// What moves: a tick of one shape, and a page on which a hundred of a thousand shapes move. The peer of a tick
+// draws the same template once with Qt's own SVG module.
 
 #include "pageobjects.h"
 #include "templates.h"
@@ -179,7 +179,8 @@ void registerAnimationBenchmarks()
         benchmark::RegisterBenchmark(("animation-tick/gliololok/" + name).c_str(), tick, kind);
     }
     for (const int moving : {0, 1, 10, 100})
-        benchmark::RegisterBenchmark(("moving-page/gliololok/" + std::to_string(moving)).c_str(), movingPage, moving)
+        benchmark::RegisterBenchmark(("moving-page/gliololok/" + std::to_string(moving)).c_str(), movingPage,
+                                     moving)
             ->Iterations(1)
             ->Unit(benchmark::kMillisecond);
 }
