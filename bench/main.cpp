@@ -5,6 +5,7 @@
 
 void registerLoadBenchmarks();
 void registerDrawBenchmarks();
+void registerSetBenchmarks();
 void registerDocumentBenchmarks();
 void registerDragBenchmarks();
 void registerPageBenchmarks();
@@ -18,6 +19,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     registerLoadBenchmarks();
     registerDrawBenchmarks();
+    registerSetBenchmarks();
     registerDocumentBenchmarks();
     registerDragBenchmarks();
     registerPageBenchmarks();

@@ -45,7 +45,7 @@ void RatioReporter::ReportRuns(const std::vector<Run> &runs)
 
 void RatioReporter::Finalize()
 {
-    std::cout << "\nRatios of CPU time (of heap bytes for document-memory), peer = 1.00, best repetition each\n";
+    std::cout << "\nRatios of CPU time (of heap bytes for memory), peer = 1.00, best repetition each\n";
     for (const auto &[figure, cases] : m_best) {
         std::map<std::string, std::pair<double, int>> logs;
         std::cout << figure << "\n";
