@@ -6,6 +6,7 @@
 #include "draw/listbuilder.h"
 #include "draw/objectbounds.h"
 #include "draw/openreference.h"
+#include "grammar/basicshapes.h"
 #include "resolve/resolver.h"
 
 #include <optional>
@@ -29,6 +30,7 @@ public:
     }
 
     bool addClip(LayerEffects *layer);
+    bool addClipShape(LayerEffects *layer);
     bool addMask(LayerEffects *layer);
     bool addFilter(LayerEffects *layer);
 
@@ -36,6 +38,7 @@ private:
     const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
     NodeIndex find(const QString &id, ElementKind kind) const;
     const QRectF &bounds();
+    QRectF shapeBox(ShapeBox box);
     bool contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *facts);
     bool buildClip(NodeIndex clip, QVector<DisplayItem> *items);
     bool buildMask(NodeIndex mask, LayerEffects *layer);
@@ -101,8 +104,39 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
     return true;
 }
 
+QRectF EffectBuilder::shapeBox(ShapeBox box)
+{
+    if (box == ShapeBox::View)
+        return QRectF(QPointF(), m_facts->viewport);
+    QRectF result = bounds();
+    if (box == ShapeBox::Fill || m_facts->outlines.isEmpty())
+        return result;
+    const double half =
+        m_facts->outlines.constFirst().pen.style() == Qt::NoPen ? 0 : m_facts->style.strokeWidth / 2;
+    return result.adjusted(-half, -half, half, half);
+}
+
+// False when nothing is left.
+bool EffectBuilder::addClipShape(LayerEffects *layer)
+{
+    const std::optional<ClipShape> shape = parseClipShape(m_facts->style.effects->clipShape);
+    if (!shape)
+        return true;
+    const QRectF box = shapeBox(shape->box);
+    QPainterPath path;
+    path.addRect(box);
+    if (!shape->function.isEmpty())
+        path = basicShape(shape->function, box, m_facts->style.font.size).value_or(QPainterPath());
+    layer->hasRegion = true;
+    layer->region = path;
+    layer->regionToDocument = m_space;
+    return !path.boundingRect().isEmpty();
+}
+
 bool EffectBuilder::addClip(LayerEffects *layer)
 {
+    if (!addClipShape(layer))
+        return false;
     const NodeIndex clip = find(m_facts->style.effects->clipPath, ElementKind::ClipPath);
     if (clip == noNode)
         return true;
@@ -205,7 +239,7 @@ BuiltEffects buildClipOnly(BuildContext &context, NodeIndex node, const FactsPoi
     BuiltEffects result;
     result.layer = std::make_shared<LayerEffects>();
     result.drawn = EffectBuilder(context, node, facts).addClip(result.layer.get());
-    if (!result.layer->clips)
+    if (!result.layer->clips && !result.layer->hasRegion)
         result.layer.reset();
     return result;
 }

@@ -224,6 +224,29 @@ std::optional<QTransform> parseCssTransform(QStringView text, const LengthContex
     return result;
 }
 
+QTransform individualTransforms(const QString &translate, const QString &rotate, const QString &scale,
+                                const LengthContext &context)
+{
+    const auto words = [](const QString &text) {
+        return text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    };
+    const auto transform = [&](const char *function, const QStringList &arguments) {
+        const QString text = QLatin1String(function) + arguments.join(QLatin1Char(',')) + QLatin1Char(')');
+        return parseCssTransform(text, context).value_or(QTransform());
+    };
+    QStringList angle = words(rotate);
+    if (angle.size() == 2 && angle.constFirst() == QLatin1String("z"))
+        angle.removeFirst();
+    QTransform result;
+    if (!scale.isEmpty())
+        result *= transform("scale(", words(scale).mid(0, 2));
+    if (angle.size() == 1)
+        result *= transform("rotate(", angle);
+    if (!translate.isEmpty())
+        result *= transform("translate(", words(translate).mid(0, 2));
+    return result;
+}
+
 std::optional<QPointF> parseTransformOrigin(QStringView text, const LengthContext &context)
 {
     QStringList words = text.toString().simplified().toLower().split(QLatin1Char(' '));

@@ -11,6 +11,11 @@ namespace Svg {
 /// grammar or the result is not finite.
 std::optional<QTransform> parseCssTransform(QStringView text, const LengthContext &context);
 
+/// The properties "translate", "rotate" and "scale" as one transform (CSS Transforms 2 §5), each a null text for
+/// none; one that breaks its grammar is left out.
+QTransform individualTransforms(const QString &translate, const QString &rotate, const QString &scale,
+                                const LengthContext &context);
+
 /// A "transform-origin": one to three keywords, lengths or percentages (the third, a depth, has no effect in a
 /// plane). Nothing when the text breaks the grammar.
 std::optional<QPointF> parseTransformOrigin(QStringView text, const LengthContext &context);

@@ -32,7 +32,10 @@ bool parseDeclaration(QStringView text, SheetDeclaration *declaration)
 {
     CssCursor cursor(text);
     cursor.skipSpace();
-    declaration->name = cursor.takeIdentifier().toLower();
+    declaration->name = cursor.takeIdentifier();
+    // Names of custom properties are exact.
+    if (!declaration->name.startsWith(QLatin1String("--")))
+        declaration->name = declaration->name.toLower();
     cursor.skipSpace();
     if (declaration->name.isEmpty() || !cursor.take(':'))
         return false;

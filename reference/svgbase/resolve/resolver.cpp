@@ -141,7 +141,7 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
 {
     const ComputedStyle &style = facts.style;
     const QString text = styledAttribute(node, style, AttributeId::Transform);
-    if (text.isEmpty())
+    if (text.isEmpty() && style.attributes.isEmpty())
         return QTransform();
     const bool isRoot = node.kind == ElementKind::Document;
     LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
@@ -150,13 +150,18 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
     std::optional<QTransform> transform = parseTransform(text);
     if (!transform)
         transform = parseCssTransform(text, context);
-    if (!transform) {
+    if (!transform)
         warn(node, {Message::InvalidTransform,
                     QStringLiteral("The transform \"%1\" is not understood.").arg(shortened(text))});
-        return QTransform();
-    }
+    // Attributes of these names mean other things: only style counts.
+    const auto styled = [&style](AttributeId id) { return styledAttribute(Attributes(), style.attributes, id); };
+    const QTransform whole = transform.value_or(QTransform()) *
+                             individualTransforms(styled(AttributeId::Translate), styled(AttributeId::Rotate),
+                                                  styled(AttributeId::Scale), context);
+    if (whole.isIdentity())
+        return whole;
     const QPointF origin = transformOrigin(node, style, box, context);
-    return QTransform::fromTranslate(-origin.x(), -origin.y()) * *transform *
+    return QTransform::fromTranslate(-origin.x(), -origin.y()) * whole *
            QTransform::fromTranslate(origin.x(), origin.y());
 }
 

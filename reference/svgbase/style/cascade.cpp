@@ -91,10 +91,14 @@ void DeclarationList::addStyle(const QString &text, bool important)
         if (declaration.important != important)
             continue;
         const AttributeId id = attributeId(declaration.name);
-        if (isProperty(id) || isStyledAttribute(id))
+        if (isProperty(id) || isStyledAttribute(id)) {
             m_list.append({id, declaration.value});
-        else
+        } else if (isCustomProperty(declaration.name)) {
+            m_texts.append(declaration.name.toString() + QLatin1Char(':') + declaration.value.toString());
+            m_list.append({AttributeId::CustomProperty, m_texts.constLast()});
+        } else {
             addShorthand(declaration);
+        }
     }
 }
 
@@ -149,6 +153,28 @@ void addStyledAttribute(ComputedStyle *style, const Declaration &declaration)
     style->attributes.append({declaration.property, QString(), declaration.value.toString()});
 }
 
+void declare(const Declaration &declaration, ComputedStyle *style)
+{
+    const qsizetype colon = declaration.value.indexOf(QLatin1Char(':'));
+    const QStringView value = declaration.value.mid(colon + 1).trimmed();
+    style->custom.insert(declaration.value.left(colon).toString(), value.toString());
+}
+
+// What refers to nothing counts as "unset" (CSS Custom Properties 1 §3.1).
+bool applyDeclaration(const Declaration &declaration, const PropertyContext &context, ComputedStyle *style)
+{
+    Declaration used = declaration;
+    QString text;
+    if (hasVariables(declaration.value)) {
+        text = withVariables(declaration.value, style->custom).value_or(QStringLiteral("unset"));
+        used.value = text;
+    }
+    if (!isStyledAttribute(declaration.property))
+        return applyProperty(*style, used.property, used.value, context);
+    addStyledAttribute(style, used);
+    return true;
+}
+
 } // namespace
 
 ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, CascadeNotes *notes)
@@ -158,14 +184,15 @@ ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext
     const bool complete = declarations.collect(element);
     if (notes)
         notes->rulesLeftOut = !complete;
+    for (const Declaration &declaration : declarations.list()) {
+        if (declaration.property == AttributeId::CustomProperty)
+            declare(declaration, &style);
+    }
     for (const bool first : {true, false}) {
         for (const Declaration &declaration : declarations.list()) {
-            if (comesFirst(declaration.property) != first)
+            if (comesFirst(declaration.property) != first || declaration.property == AttributeId::CustomProperty)
                 continue;
-            if (isStyledAttribute(declaration.property))
-                addStyledAttribute(&style, declaration);
-            else if (!applyProperty(style, declaration.property, declaration.value, context) && notes &&
-                     declaration.own)
+            if (!applyDeclaration(declaration, context, &style) && notes && declaration.own)
                 notes->rejected.append({declaration.property, declaration.value.toString()});
         }
     }

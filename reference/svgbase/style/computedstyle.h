@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grammar/paints.h"
+#include "style/customproperties.h"
 #include "style/effectstyle.h"
 #include "style/textstyle.h"
 #include "tree/attributes.h"
@@ -61,6 +62,7 @@ struct ComputedStyle
     /// Null without markers.
     QSharedDataPointer<MarkerStyle> markers;
     FontStyle font;
+    CustomProperties custom;
     /// Null where a text says nothing but its font.
     QSharedDataPointer<TextStyle> text;
     // Not inherited.

@@ -1,5 +1,6 @@
 #include "style/effectproperties.h"
 
+#include "grammar/basicshapes.h"
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
@@ -120,6 +121,18 @@ bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringV
     return true;
 }
 
+bool applyClip(ComputedStyle &style, QStringView text)
+{
+    const bool isShape = parseClipShape(text).has_value();
+    if (!isShape && !applyReference(style, &EffectStyle::clipPath, text))
+        return false;
+    if (isShape || !knownEffects(style).clipShape.isEmpty())
+        effectsOf(style).clipShape = isShape ? text.toString() : QString();
+    if (isShape)
+        effectsOf(style).clipPath.clear();
+    return true;
+}
+
 bool applyFilter(ComputedStyle &style, QStringView text)
 {
     const QString list = text == QLatin1String("none") ? QString() : text.toString();
@@ -201,7 +214,7 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
     Q_UNUSED(context)
     switch (property) {
     case AttributeId::ClipPath:
-        return applyReference(style, &EffectStyle::clipPath, value);
+        return applyClip(style, value);
     case AttributeId::ClipRule:
         return applyKeyword(style.clipRule, value, clipRules);
     case AttributeId::ColorInterpolation:
@@ -250,6 +263,7 @@ void inheritEffectProperty(ComputedStyle &style, AttributeId property, const Com
     switch (property) {
     case AttributeId::ClipPath:
         inheritMember(style, &EffectStyle::clipPath, parent);
+        inheritMember(style, &EffectStyle::clipShape, parent);
         break;
     case AttributeId::ClipRule:
         style.clipRule = parent.clipRule;

@@ -34,6 +34,8 @@ enum class Overflow : quint8 { Unset, Visible, Hidden };
 struct EffectStyle : QSharedData
 {
     QString clipPath;
+    /// The text of a shape that clips instead.
+    QString clipShape;
     QString mask;
     /// The text of a list of filter functions and references; empty for "none".
     QString filter;

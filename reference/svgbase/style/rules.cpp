@@ -64,7 +64,8 @@ QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
 // What a value means depends on the element, but not whether it is one.
 bool isAccepted(const RuleDeclaration &declaration)
 {
-    if (isStyledAttribute(declaration.property))
+    const bool custom = declaration.property == AttributeId::CustomProperty;
+    if (custom || isStyledAttribute(declaration.property) || hasVariables(declaration.value))
         return true;
     static const ComputedStyle initial;
     ComputedStyle style;
@@ -214,6 +215,10 @@ void appendLonghands(const QString &name, const QString &value, bool important, 
     const AttributeId property = attributeId(name);
     if (isProperty(property) || isStyledAttribute(property)) {
         list->append({property, value, important});
+        return;
+    }
+    if (isCustomProperty(name)) {
+        list->append({AttributeId::CustomProperty, name + QLatin1Char(':') + value, important});
         return;
     }
     for (const Longhand &longhand : longhands(name, value))

@@ -110,11 +110,14 @@ bool isStyledAttribute(AttributeId id)
     case AttributeId::D:
     case AttributeId::Height:
     case AttributeId::R:
+    case AttributeId::Rotate:
     case AttributeId::Rx:
     case AttributeId::Ry:
+    case AttributeId::Scale:
     case AttributeId::Transform:
     case AttributeId::TransformBox:
     case AttributeId::TransformOrigin:
+    case AttributeId::Translate:
     case AttributeId::Width:
     case AttributeId::X:
     case AttributeId::Y:

@@ -71,6 +71,8 @@ enum class AttributeId : quint8 {
     // Attributes of elements.
     /// Declarations that animation lays over the style of an element; no attribute of a text.
     AnimatedStyle,
+    /// A custom property that style declares, its value being "--name:value"; no attribute of a text.
+    CustomProperty,
     Class,
     Cx,
     Cy,
@@ -94,14 +96,17 @@ enum class AttributeId : quint8 {
     RefY,
     RequiredExtensions,
     RequiredFeatures,
+    Rotate,
     Rx,
     Ry,
+    Scale,
     SpreadMethod,
     Style,
     SystemLanguage,
     Transform,
     TransformBox,
     TransformOrigin,
+    Translate,
     ViewBox,
     Width,
     X,

@@ -1,0 +1,95 @@
+#include "style/customproperties.h"
+
+namespace Svg {
+
+namespace {
+
+/// Deepest chain of references, and longest text that they may make.
+constexpr int deepestReference = 16;
+constexpr int longestValue = 4096;
+/// Most references that one value is made of.
+constexpr int mostReferences = 256;
+
+const QLatin1String variableStart("var(");
+
+qsizetype closingBracket(QStringView text, qsizetype from)
+{
+    int open = 1;
+    for (qsizetype i = from; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('('))
+            ++open;
+        else if (text[i] == QLatin1Char(')') && --open == 0)
+            return i;
+    }
+    return -1;
+}
+
+class Substitution
+{
+public:
+    explicit Substitution(const CustomProperties &properties)
+        : m_properties(properties)
+    {
+    }
+
+    bool append(QStringView value, QString *result);
+
+private:
+    bool appendReference(QStringView arguments, QString *result);
+
+    const CustomProperties &m_properties;
+    int m_depth = 0;
+    int m_references = 0;
+};
+
+bool Substitution::appendReference(QStringView arguments, QString *result)
+{
+    if (++m_references > mostReferences)
+        return false;
+    const qsizetype comma = arguments.indexOf(QLatin1Char(','));
+    const QStringView name = comma < 0 ? arguments : arguments.left(comma);
+    const auto known = m_properties.constFind(name.trimmed().toString());
+    if (known == m_properties.constEnd())
+        return comma >= 0 && append(arguments.mid(comma + 1).trimmed(), result);
+    const QString value = *known;
+    return append(value, result);
+}
+
+bool Substitution::append(QStringView value, QString *result)
+{
+    if (++m_depth > deepestReference)
+        return false;
+    qsizetype from = 0;
+    for (;;) {
+        const qsizetype start = value.indexOf(variableStart, from, Qt::CaseInsensitive);
+        *result += value.mid(from, start < 0 ? -1 : start - from);
+        if (result->size() > longestValue)
+            return false;
+        if (start < 0)
+            break;
+        const qsizetype begin = start + variableStart.size();
+        const qsizetype end = closingBracket(value, begin);
+        if (end < 0 || !appendReference(value.mid(begin, end - begin), result))
+            return false;
+        from = end + 1;
+    }
+    --m_depth;
+    return true;
+}
+
+} // namespace
+
+bool hasVariables(QStringView value)
+{
+    return value.contains(variableStart, Qt::CaseInsensitive);
+}
+
+std::optional<QString> withVariables(QStringView value, const CustomProperties &properties)
+{
+    QString result;
+    if (!Substitution(properties).append(value, &result))
+        return std::nullopt;
+    return result;
+}
+
+} // namespace Svg
