@@ -108,6 +108,16 @@ void TestEffectLimits::treesOfReferencesEnd_data()
                                      "<path d='M0 0L1 1 2 2' marker-mid='url(#c11)'/>");
     QTest::newRow("faded uses") << tree("<g id='c0'>" + rect + "</g>", "g",
                                         "<use opacity='.9' xlink:href='#cBEFORE'/>", "<use xlink:href='#c11'/>");
+    QTest::newRow("pictures in filters") << tree("<g id='c0'>" + rect + "</g>", "g",
+                                                 "<filter id='fTHIS'><feImage href='#cBEFORE'/></filter>"
+                                                 "<rect width='90' height='90' filter='url(#fTHIS)'/>",
+                                                 "<filter id='f'><feImage href='#c11'/></filter>"
+                                                 "<rect width='90' height='90' filter='url(#f)'/>");
+    const QString pictures = QString("<feImage href='#cBEFORE'/>").repeated(50);
+    QTest::newRow("pictures of filtered shapes") << chain(12, "<rect id='c0' width='50' height='50'/>",
+                                                          "<filter id='fTHIS'>" + pictures +
+                                                              "</filter><rect id='cTHIS' width='9' height='9' "
+                                                              "filter='url(#fTHIS)'/>");
     QTest::newRow("boxes of uses") << tree("<g id='c0'>" + rect + "</g>", "g",
                                            "<use clip-path='url(#k)' xlink:href='#cBEFORE'/>",
                                            "<clipPath id='k' clipPathUnits='objectBoundingBox'><circle r='1'/>"
@@ -139,6 +149,23 @@ void TestEffectLimits::largeEffectsAreSurvived_data()
                                                      "in2='SourceGraphic'/><feColorMatrix type='hueRotate' "
                                                      "values='1e300'/><feComponentTransfer><feFuncR type='gamma' "
                                                      "exponent='-1e300' amplitude='1e300'/></feComponentTransfer>");
+    QTest::newRow("noise without end") << filtered("<feTurbulence baseFrequency='1e300' numOctaves='1000000000'/>"
+                                                   "<feTurbulence baseFrequency='1e9 1e-9' type='fractalNoise' "
+                                                   "stitchTiles='stitch'/><feTurbulence baseFrequency='-1'/>",
+                                                   "filterUnits='userSpaceOnUse' x='-1e9' y='-1e9' width='2e9' "
+                                                   "height='2e9'");
+    QTest::newRow("lights without end")
+        << filtered("<feSpecularLighting surfaceScale='1e300' specularConstant='1e300' specularExponent='1e300'>"
+                    "<feSpotLight x='1e300' z='-1e300' specularExponent='1e300' limitingConeAngle='1e300'/>"
+                    "</feSpecularLighting><feDiffuseLighting surfaceScale='-1e300' diffuseConstant='1e9'>"
+                    "<fePointLight x='5' y='5'/></feDiffuseLighting><feDiffuseLighting><feDistantLight "
+                    "azimuth='1e300' elevation='1e300'/></feDiffuseLighting>");
+    QTest::newRow("kernels without end")
+        << filtered("<feConvolveMatrix order='32' kernelMatrix='" + QString("1e300 ").repeated(1024) +
+                    "' edgeMode='wrap' bias='1e300'/><feConvolveMatrix order='1e9' kernelMatrix='1'/>"
+                    "<feConvolveMatrix kernelMatrix='1 1 1 1 1 1 1 1 1' divisor='1e-300' targetX='-1'/>");
+    QTest::newRow("ways without end") << filtered("<feDisplacementMap in2='SourceGraphic' scale='1e300'/>"
+                                                  "<feDisplacementMap in2='SourceGraphic' scale='-1e300'/>");
     QTest::newRow("huge markers") << "<marker id='m' markerWidth='1e9' markerHeight='1e9' viewBox='0 0 1e-9 1e-9'>"
                                      "<rect width='9' height='9' opacity='.5'/></marker>"
                                      "<path d='M0 0L9 9' stroke-width='1e6' marker-end='url(#m)'/>";

@@ -61,7 +61,8 @@ ImagePointer FilterBuilder::image(NodeIndex node)
 void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive)
 {
     const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
-    if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown))
+    if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown) ||
+        ++m_context.budget.instances > Limits::useInstances)
         return;
     const ElementKind kind = element(shown).kind;
     if (!isDrawable(kind) && kind != ElementKind::Symbol)

@@ -24,7 +24,7 @@ constexpr double plainCost = 2;
 constexpr double lineCost = 40;
 constexpr double lightCost = 40;
 constexpr double factorCost = 4;
-constexpr double octaveCost = 16;
+constexpr double octaveCost = 24;
 /// How far from a pixel's edge a region may end and still be taken to end there.
 constexpr double alignmentTolerance = 1e-3;
 constexpr int greatestComponent = 255;

@@ -87,15 +87,20 @@ struct LatticePlace
     int second;
 };
 
-/// Gradient noise on a lattice of random directions.
+using Channels = std::array<double, channelCount>;
+
+/// Gradient noise on a lattice of random directions, of all channels.
 class Noise
 {
 public:
     explicit Noise(double start);
-    double at(int channel, const QPointF &place, const Stitching &stitching) const;
+    Channels at(const QPointF &place, const Stitching &stitching) const;
 
 private:
-    int corner(int column, int row) const { return m_order[(m_order[column] + row) & (latticeSize - 1)]; }
+    size_t corner(int column, int row) const
+    {
+        return size_t(m_order[size_t((m_order[size_t(column)] + row) & (latticeSize - 1))]);
+    }
 
     std::array<int, latticeSize> m_order{};
     std::array<std::array<Gradient, latticeSize>, channelCount> m_gradients{};
@@ -125,22 +130,28 @@ Noise::Noise(double start)
         std::swap(m_order[size_t(i)], m_order[size_t(numbers.next() % latticeSize)]);
 }
 
-double Noise::at(int channel, const QPointF &place, const Stitching &stitching) const
+Channels Noise::at(const QPointF &place, const Stitching &stitching) const
 {
+    Channels result{};
     if (!(qAbs(place.x()) < farthestPlace && qAbs(place.y()) < farthestPlace))
-        return 0;
+        return result;
     const LatticePlace x(place.x() + latticeOffset, stitching.wrapX, stitching.width);
     const LatticePlace y(place.y() + latticeOffset, stitching.wrapY, stitching.height);
-    const auto &gradients = m_gradients[size_t(channel)];
-    const auto value = [&](int column, int row, double dx, double dy) {
-        return gradients[size_t(corner(column, row))].along(dx, dy);
-    };
+    const size_t corners[] = {corner(x.first, y.first), corner(x.second, y.first), corner(x.first, y.second),
+                              corner(x.second, y.second)};
     const double dx = x.fraction;
     const double dy = y.fraction;
-    const double above = between(eased(dx), value(x.first, y.first, dx, dy), value(x.second, y.first, dx - 1, dy));
-    const double below =
-        between(eased(dx), value(x.first, y.second, dx, dy - 1), value(x.second, y.second, dx - 1, dy - 1));
-    return between(eased(dy), above, below);
+    const double shareX = eased(dx);
+    const double shareY = eased(dy);
+    for (size_t channel = 0; channel < channelCount; ++channel) {
+        const auto &gradients = m_gradients[channel];
+        const double above =
+            between(shareX, gradients[corners[0]].along(dx, dy), gradients[corners[1]].along(dx - 1, dy));
+        const double below =
+            between(shareX, gradients[corners[2]].along(dx, dy - 1), gradients[corners[3]].along(dx - 1, dy - 1));
+        result[channel] = between(shareY, above, below);
+    }
+    return result;
 }
 
 // The nearest frequency, by ratio, of which a whole number of waves fit.
@@ -160,7 +171,7 @@ public:
     QRgb colorAt(const QPointF &place) const;
 
 private:
-    double sum(int channel, const QPointF &place) const;
+    Channels sum(const QPointF &place) const;
 
     Noise m_noise;
     QSizeF m_frequency;
@@ -186,25 +197,30 @@ TurbulencePainter::TurbulencePainter(const Turbulence &turbulence)
     m_stitching.wrapY = std::floor(tile.y() * m_frequency.height() + latticeOffset + m_stitching.height);
 }
 
-double TurbulencePainter::sum(int channel, const QPointF &place) const
+Channels TurbulencePainter::sum(const QPointF &place) const
 {
     QPointF at(place.x() * m_frequency.width(), place.y() * m_frequency.height());
     Stitching stitching = m_stitching;
-    double total = 0;
+    Channels total{};
     double share = 1;
     for (int octave = 0; octave < m_octaves; ++octave) {
-        const double noise = m_noise.at(channel, at, stitching);
-        total += share * (m_fractal ? noise : qAbs(noise));
+        const Channels noise = m_noise.at(at, stitching);
+        for (size_t channel = 0; channel < channelCount; ++channel)
+            total[channel] += share * (m_fractal ? noise[channel] : qAbs(noise[channel]));
         at *= 2;
         share /= 2;
         stitching.doubleFrequency();
     }
-    return m_fractal ? (total + 1) / 2 : total;
+    return total;
 }
 
 QRgb TurbulencePainter::colorAt(const QPointF &place) const
 {
-    const auto component = [&](int channel) { return qBound(0, qRound(sum(channel, place) * greatest), greatest); };
+    const Channels total = sum(place);
+    const auto component = [&](size_t channel) {
+        const double value = m_fractal ? (total[channel] + 1) / 2 : total[channel];
+        return qBound(0, qRound(value * greatest), greatest);
+    };
     return qPremultiply(qRgba(component(0), component(1), component(2), component(3)));
 }
 
