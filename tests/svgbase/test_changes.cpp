@@ -10,6 +10,8 @@ class TestChanges : public QObject
 private slots:
     void changedAttributeDrawsLikeChangedText_data();
     void changedAttributeDrawsLikeChangedText();
+    void oneAttributeIsSetWrittenAndRemoved_data();
+    void oneAttributeIsSetWrittenAndRemoved();
     void randomChangesDrawLikeChangedText();
     void changedDocumentMeasuresLikeChangedText();
 };
@@ -106,6 +108,81 @@ void TestChanges::changedAttributeDrawsLikeChangedText()
     QCOMPARE(drawn(*changed, QSize(120, 90)), drawn(*expected, QSize(120, 90)));
     apply(*changed, slot, 0);
     QCOMPARE(drawn(*changed, QSize(120, 90)), before);
+}
+
+void TestChanges::oneAttributeIsSetWrittenAndRemoved_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("value");
+    const QString rect = "<rect x='10' y='10' width='50' height='40' fill='red' stroke='blue' stroke-width='6' ";
+    const auto filtered = [&](const QString &primitives) {
+        return "<filter id='f'>" + primitives + "</filter>" + rect + "filter='url(#f)'/>";
+    };
+    const QString symbol = "<symbol viewBox='0 0 9 9' ATTRIBUTE><rect width='9' height='9'/></symbol>"
+                           "<use href='#changed' x='50' y='50' width='30' height='30'/>";
+    const QString gradient =
+        "<linearGradient ATTRIBUTE><stop stop-color='red'/><stop offset='1' "
+        "stop-color='lime'/></linearGradient><rect width='90' height='90' fill='url(#changed)'/>";
+    QTest::newRow("point of a symbol") << symbol << "refX"
+                                       << "4";
+    QTest::newRow("length of a path") << rect + "stroke-dasharray='2' ATTRIBUTE/>"
+                                      << "pathLength"
+                                      << "20";
+    QTest::newRow("hard edges") << rect + "transform='rotate(9)' ATTRIBUTE/>"
+                                << "shape-rendering"
+                                << "crispEdges";
+    QTest::newRow("calculated length") << "<rect height='30' ATTRIBUTE/>"
+                                       << "width"
+                                       << "calc(50% - 7px)";
+    QTest::newRow("shape that clips") << rect + "ATTRIBUTE/>"
+                                      << "clip-path"
+                                      << "circle(20px)";
+    QTest::newRow("box of a transform") << rect + "ATTRIBUTE/>"
+                                        << "style"
+                                        << "transform-box:fill-box;transform-origin:center;rotate:20deg";
+    QTest::newRow("variable of a parent") << "<g ATTRIBUTE>" + rect + "style='fill:var(--a,lime)'/></g>"
+                                          << "style"
+                                          << "--a:yellow";
+    QTest::newRow("light of a gradient") << gradient << "color-interpolation"
+                                         << "linearRGB";
+    QTest::newRow("noise") << filtered("<feTurbulence ATTRIBUTE/>") << "baseFrequency"
+                           << ".1";
+    QTest::newRow("kernel") << filtered("<feConvolveMatrix ATTRIBUTE/>") << "kernelMatrix"
+                            << "1 0 0 0 0 0 0 0 1";
+    QTest::newRow("displacement") << filtered("<feDisplacementMap in2='SourceGraphic' ATTRIBUTE/>") << "scale"
+                                  << "9";
+    QTest::newRow("light") << filtered("<feDiffuseLighting><fePointLight z='9' ATTRIBUTE/></feDiffuseLighting>")
+                           << "x"
+                           << "30";
+    QTest::newRow("colour of light")
+        << filtered("<feSpecularLighting ATTRIBUTE><feDistantLight elevation='60'/></feSpecularLighting>")
+        << "lighting-color"
+        << "orange";
+    QTest::newRow("picture of an element")
+        << "<defs><circle id='c' cx='40' cy='40' r='20'/></defs>" + filtered("<feImage ATTRIBUTE/>") << "href"
+        << "#c";
+}
+
+void TestChanges::oneAttributeIsSetWrittenAndRemoved()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, attribute);
+    QFETCH(QString, value);
+    const QString plain = QString(content).replace("ATTRIBUTE", "id='changed'");
+    const QString said = QString(content).replace("ATTRIBUTE", "id='changed' " + attribute + "='" + value + "'");
+    const DocumentPointer changed = loadContent(plain);
+    QVERIFY(changed);
+    const QImage before = drawn(*changed);
+    changed->namedNode("changed")->setAttribute(attribute, value);
+    const QImage after = drawn(*changed);
+    QVERIFY(after != before);
+    QCOMPARE(after, drawn(*loadContent(said)));
+    const DocumentPointer written(QZeSvgTinyDocument::load(changed->toSvg()));
+    QVERIFY(written);
+    QCOMPARE(drawn(*written), after);
+    changed->namedNode("changed")->setAttribute(attribute, QString());
+    QCOMPARE(drawn(*changed), before);
 }
 
 void TestChanges::randomChangesDrawLikeChangedText()

@@ -81,7 +81,8 @@ bool Substitution::append(QStringView value, QString *result)
 
 bool hasVariables(QStringView value)
 {
-    return value.contains(variableStart, Qt::CaseInsensitive);
+    // Few values have brackets, and looking for one is quick.
+    return value.contains(QLatin1Char('(')) && value.contains(variableStart, Qt::CaseInsensitive);
 }
 
 std::optional<QString> withVariables(QStringView value, const CustomProperties &properties)

@@ -123,13 +123,15 @@ bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringV
 
 bool applyClip(ComputedStyle &style, QStringView text)
 {
-    const bool isShape = parseClipShape(text).has_value();
-    if (!isShape && !applyReference(style, &EffectStyle::clipPath, text))
+    if (applyReference(style, &EffectStyle::clipPath, text)) {
+        if (!knownEffects(style).clipShape.isEmpty())
+            effectsOf(style).clipShape.clear();
+        return true;
+    }
+    if (!parseClipShape(text))
         return false;
-    if (isShape || !knownEffects(style).clipShape.isEmpty())
-        effectsOf(style).clipShape = isShape ? text.toString() : QString();
-    if (isShape)
-        effectsOf(style).clipPath.clear();
+    effectsOf(style).clipShape = text.toString();
+    effectsOf(style).clipPath.clear();
     return true;
 }
 
