@@ -294,16 +294,20 @@ bool isUtf8(const QByteArray &text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
+bool claimsUtf8(const QByteArray &declared)
+{
+    return declared.isEmpty() || declared.toLower() == "utf-8";
+}
+
 // Null for UTF-8. What is UTF-8 counts as that whatever it says: programs rewrite text and forget the declaration.
-QTextCodec *foreignCodec(const QByteArray &text)
+QTextCodec *foreignCodec(const QByteArray &text, const QByteArray &declared)
 {
     if (isUtf16(text))
         return QTextCodec::codecForUtfText(text,
                                            QTextCodec::codecForName(text[0] == '<' ? "UTF-16LE" : "UTF-16BE"));
-    const QByteArray name = declaredEncoding(text);
-    if (name.isEmpty() || name.toLower() == "utf-8" || isUtf8(text))
+    if (claimsUtf8(declared) || isUtf8(text))
         return nullptr;
-    return QTextCodec::codecForName(name);
+    return QTextCodec::codecForName(declared);
 }
 
 bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
@@ -313,7 +317,8 @@ bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
                        QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
         return false;
     }
-    const QTextCodec *codec = foreignCodec(text);
+    const QByteArray declared = declaredEncoding(text);
+    const QTextCodec *codec = foreignCodec(text, declared);
     const QByteArray decoded = codec ? codec->toUnicode(text).toUtf8() : text;
     const std::optional<QByteArray> thinned = withoutCrowdedTags(decoded);
     if (!thinned) {
@@ -324,7 +329,7 @@ bool readPlainText(const QByteArray &text, Tree *tree, Messages *messages)
     }
     QXmlStreamReader xml;
     // Characters, unlike bytes, keep the reader from following the encoding that a text claims to have.
-    if (codec || !declaredEncoding(text).isEmpty())
+    if (codec || !claimsUtf8(declared))
         xml.addData(QString::fromUtf8(*thinned));
     else
         xml.addData(*thinned);
