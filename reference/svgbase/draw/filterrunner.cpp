@@ -277,14 +277,7 @@ QImage StepRunner::blended(const FilterPrimitive &primitive) const
 {
     QImage below = inputPicture(primitive, 1);
     const QImage above = inputPicture(primitive, 0);
-    if (!isForPainters(primitive.blendMode)) {
-        blendOver(&below, QPoint(), above, 1, primitive.blendMode);
-        return below;
-    }
-    QPainter painter(&below);
-    painter.setCompositionMode(compositionMode(primitive.blendMode));
-    painter.drawImage(0, 0, above);
-    painter.end();
+    blendOver(&below, QPoint(), above, 1, primitive.blendMode);
     return below;
 }
 

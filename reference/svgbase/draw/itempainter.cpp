@@ -124,6 +124,7 @@ private:
     Layer *pictureBelow();
     bool filtered(const Filter &filter, const Layer &layer, QImage *picture);
     void finish(Layer *layer);
+    bool blendByHand(const Layer &done, BlendMode mode);
     void paintPicture(Layer *done);
     std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
 
@@ -331,18 +332,35 @@ void ItemPainter::finish(Layer *layer)
     }
 }
 
+// Blended by hand where that can be afforded: painters leave a trace where nothing lies on nothing, and follow the
+// rules of four modes not at all.
+bool ItemPainter::blendByHand(const Layer &done, BlendMode mode)
+{
+    Layer *target = pictureBelow();
+    const double cost = blendCost * pixelCount(done.area, m_pixelRatio);
+    if (mode == BlendMode::Normal || !target || (isForPainters(mode) && m_budget->left < cost))
+        return false;
+    m_budget->left -= cost;
+    const QPainter *painter = m_layers.back().painter;
+    const QRect shown =
+        painter->hasClipping() ? done.area & painter->clipBoundingRect().toAlignedRect() : done.area;
+    if (shown.isEmpty())
+        return true;
+    const QImage &picture = *done.picture->image();
+    const QRect part((shown.topLeft() - done.area.topLeft()) * m_pixelRatio, shown.size() * m_pixelRatio);
+    const QPoint place = (shown.topLeft() - target->area.topLeft()) * m_pixelRatio;
+    blendOver(target->picture->image(), place, shown == done.area ? picture : picture.copy(part),
+              done.pictureOpacity, mode);
+    return true;
+}
+
 void ItemPainter::paintPicture(Layer *done)
 {
     const BlendMode mode = done->effects ? done->effects->blendMode : BlendMode::Normal;
     const Layer &below = m_layers.back();
     const QImage &picture = *done->picture->image();
-    Layer *target = pictureBelow();
-    if (!isForPainters(mode) && target) {
-        m_budget->left -= blendCost * pixelCount(done->area, m_pixelRatio);
-        const QPoint place = (done->area.topLeft() - target->area.topLeft()) * m_pixelRatio;
-        blendOver(target->picture->image(), place, picture, done->pictureOpacity, mode);
+    if (blendByHand(*done, mode))
         return;
-    }
     below.painter->setOpacity(done->pictureOpacity);
     if (mode != BlendMode::Normal)
         below.painter->setCompositionMode(compositionMode(mode));

@@ -5,6 +5,7 @@
 #include <QtCore/QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Svg {
 
@@ -97,6 +98,69 @@ Rgb withSat(const Rgb &c, double s)
     return {(c.r - low) * s / range, (c.g - low) * s / range, (c.b - low) * s / range};
 }
 
+double screened(double below, double above)
+{
+    return below + above - below * above;
+}
+
+double hardLight(double below, double above)
+{
+    return above <= 0.5 ? below * 2 * above : screened(below, 2 * above - 1);
+}
+
+double softLight(double below, double above)
+{
+    if (above <= 0.5)
+        return below - (1 - 2 * above) * below * (1 - below);
+    const double raised = below <= 0.25 ? ((16 * below - 12) * below + 4) * below : std::sqrt(below);
+    return below + (2 * above - 1) * (raised - below);
+}
+
+double dodged(double below, double above)
+{
+    if (below <= 0)
+        return 0;
+    return above >= 1 ? 1 : qMin(1.0, below / (1 - above));
+}
+
+double burned(double below, double above)
+{
+    if (below >= 1)
+        return 1;
+    return above <= 0 ? 0 : 1 - qMin(1.0, (1 - below) / above);
+}
+
+// One component of the modes that mix each for itself (Compositing 1 §9.1).
+double mixedComponent(double below, double above, BlendMode mode)
+{
+    switch (mode) {
+    case BlendMode::Multiply:
+        return below * above;
+    case BlendMode::Screen:
+        return screened(below, above);
+    case BlendMode::Overlay:
+        return hardLight(above, below);
+    case BlendMode::Darken:
+        return qMin(below, above);
+    case BlendMode::Lighten:
+        return qMax(below, above);
+    case BlendMode::ColorDodge:
+        return dodged(below, above);
+    case BlendMode::ColorBurn:
+        return burned(below, above);
+    case BlendMode::HardLight:
+        return hardLight(below, above);
+    case BlendMode::SoftLight:
+        return softLight(below, above);
+    case BlendMode::Difference:
+        return qAbs(below - above);
+    case BlendMode::Exclusion:
+        return below + above - 2 * below * above;
+    default:
+        return above;
+    }
+}
+
 Rgb mixed(const Rgb &backdrop, const Rgb &source, BlendMode mode)
 {
     switch (mode) {
@@ -109,7 +173,8 @@ Rgb mixed(const Rgb &backdrop, const Rgb &source, BlendMode mode)
     case BlendMode::Luminosity:
         return withLum(backdrop, lum(source));
     default:
-        return source;
+        return {mixedComponent(backdrop.r, source.r, mode), mixedComponent(backdrop.g, source.g, mode),
+                mixedComponent(backdrop.b, source.b, mode)};
     }
 }
 
