@@ -399,6 +399,8 @@ void Shape::placeControlPoints()
 void Shape::redraw(bool refresh)
 {
     draw();
+    if (document->getAllFillBrush().gradient())
+        takePageFill();
     updateOutlineRegion();
     if (refresh)
         invalidate();

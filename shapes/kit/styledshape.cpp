@@ -178,6 +178,8 @@ void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
 {
     if (!isFilledByPageObject()) {
         CSVGBase::setFillBrush(brush, record, notify);
+        if (notify)
+            takePageFill();
         return;
     }
     // The page object hands its new fill back to this function; by then it is the present one, which ends the
@@ -233,6 +235,17 @@ void StyledShape::updateOutlineRegion()
     for (const QZeSvgNode *figure : qAsConst(m_figures))
         outlineRegion->addPath(propFillEnabled || figure->nodeId() == areaId() ? outlineOf(*figure)
                                                                                : hitAreaOfLine(*figure));
+}
+
+void StyledShape::takePageFill()
+{
+    const CPageBgProp *fill = owner->getFillProp();
+    if (!document || isFilledByPageObject() || !propFillEnabled || !fill || !fill->isFillEnable())
+        return;
+    const QBrush brush = fill->createBrushByProp(document->viewBox(), false);
+    const QBrush present = document->getAllFillBrush();
+    if (brush.color() == present.color() && brush != present)
+        updateBrush(brush);
 }
 
 bool StyledShape::isFilledByPageObject() const

@@ -56,6 +56,9 @@ public:
     void updateOutlineRegion() override;
 
 protected:
+    /// Fills the document as the page object's fill says, a gradient from edge to edge of the document: the base
+    /// class keeps the style of a fill of the same colour, and lays a gradient where the page object is.
+    void takePageFill();
     /// Reads the template anew, which has become another. No control point may be in use.
     void reloadTemplate();
     /// The part of the document that fills the page object, document units.

@@ -11,6 +11,7 @@
 #include <pagehost/documentfile.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/style.h>
 
 #include <framework/cbaseobject.h>
 
@@ -144,7 +145,13 @@ void TestOpenedShapes::openedShapeLooksLikeADrawnOne()
     gradient.setFillType(CPageBgProp::GradientFill);
     gradient.setFillColor(QColor(200, 40, 40));
     gradient.setGradientColor(QColor(250, 220, 80));
+    // Of the colour that it has already.
+    pagehost::setFill({object}, gradient.fillColor());
+    const QImage plain = picture(*m_driver, around);
     pagehost::setObjectsFill({object}, gradient);
+    if (pagehost::styleOf(object).hasFill)
+        QVERIFY(!looksAlike(picture(*m_driver, around), plain));
+    pagehost::resizeObject(object, object->getClientRect().size() * 1.2);
     for (const double zoom : zooms) {
         m_driver->view().setZoom(zoom);
         m_driver->view().centerOn(place.center());

@@ -19,14 +19,11 @@ constexpr int mostControlPoints = 32;
 /// Document units, to either side of any shape: a point that one of them leaves at its limit moves by the other.
 constexpr double farAway[] = {-1000, 1000};
 
-void displaceControlPoints(CBaseObject &object, double to)
+/// False when there is no such control point.
+bool displace(CBaseObject &object, int number, double to)
 {
-    for (int number = 1; number <= mostControlPoints; ++number) {
-        const QString name = QStringLiteral("control_%1").arg(number);
-        if (!replayAction(&object, controlPointAction, payloadOf(name, QPointF(to, to)))) {
-            return;
-        }
-    }
+    const QString name = QStringLiteral("control_%1").arg(number);
+    return replayAction(&object, controlPointAction, payloadOf(name, QPointF(to, to)));
 }
 
 /// What the host itself keeps of the object, its fill among it, past the object's own load().
@@ -38,21 +35,41 @@ bool bringBackHostState(CBaseObject &object, const QByteArray &state)
     return savedData(object) == state;
 }
 
-bool loadAgain(CBaseObject &object, const QByteArray &state, double displacement)
+bool loadAgain(CBaseObject &object, const QByteArray &state)
 {
-    displaceControlPoints(object, displacement);
     QDataStream in(state);
     object.load(in);
     return savedData(object) == state || bringBackHostState(object, state);
+}
+
+bool loadWithAllDisplaced(CBaseObject &object, const QByteArray &state, double to)
+{
+    for (int number = 1; number <= mostControlPoints && displace(object, number, to); ++number) {
+    }
+    return loadAgain(object, state);
+}
+
+/// A point whose place hangs on another one gets its own only when that one is there already.
+bool loadWithEachDisplaced(CBaseObject &object, const QByteArray &state, double to)
+{
+    for (int number = 1; number <= mostControlPoints && displace(object, number, to); ++number) {
+        if (loadAgain(object, state)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
 
 bool loadExactly(CBaseObject &object, const QByteArray &state)
 {
-    return savedData(object) == state || bringBackHostState(object, state) ||
-           std::any_of(std::begin(farAway), std::end(farAway),
-                       [&](double place) { return loadAgain(object, state, place); });
+    const auto anyPlace = [&](auto load) {
+        return std::any_of(std::begin(farAway), std::end(farAway),
+                           [&](double place) { return load(object, state, place); });
+    };
+    return savedData(object) == state || bringBackHostState(object, state) || anyPlace(loadWithAllDisplaced) ||
+           anyPlace(loadWithEachDisplaced);
 }
 
 } // namespace pagehost
