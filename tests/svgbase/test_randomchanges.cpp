@@ -9,7 +9,7 @@
 namespace {
 
 /// How many documents; GLIOLOLOK_RANDOM_DOCUMENTS gives another number for a long run.
-constexpr int usualDocuments = 60;
+constexpr int usualDocuments = 40;
 constexpr int changesOfEach = 25;
 constexpr quint32 firstStart = 1000;
 
