@@ -74,10 +74,14 @@ constexpr double strokeWidth = 1e6;
 constexpr int dashEntries = 256;
 /// Most dashes along one outline; above it the stroke is drawn solid.
 constexpr double dashes = 20000;
+/// Most elements of all outlines of strokes that are distorted, so that no pen can draw them, in one drawing.
+constexpr int strokeElements = 2000000;
 /// Most nodes that one drawing visits to measure what clip paths, masks and filters relate to.
 constexpr int boundsVisits = 1000000;
 /// Deepest nesting of clip paths, masks and markers in each other's content.
 constexpr int effectDepth = 16;
+/// Most outlines of one drawing that keep what painters make of them for the next.
+constexpr int keptOutlines = 10000;
 /// Most work that one drawing does on outlines, about in nanoseconds, and as much more for every pixel of its
 /// target; what comes when it is used up is not painted.
 constexpr double paintedWork = 1.5e9;

@@ -116,7 +116,8 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
     if (!level.used)
         return m_document.factsBelow(node, level.facts);
     const Resolver resolver = m_document.resolver();
-    if (m_document.tree().node(node).kind != ElementKind::Image)
+    const ElementKind kind = m_document.tree().node(node).kind;
+    if (kind != ElementKind::Image && !hasGeometry(kind))
         return resolver.resolve(node, level.facts);
     const FactsPointer own = m_document.facts(node);
     return resolver.resolve(node, level.facts, own.data());

@@ -97,6 +97,13 @@ QVector<Message> DisplayList::messages(const Tree &tree) const
     QVector<Message> result;
     m_buildReport.appendTo(&result, tree);
     m_paintReport.appendTo(&result, tree);
+    if (m_mapping.isUsedUp() || (m_tiles && m_tiles->mapping.isUsedUp())) {
+        DrawReport strokes;
+        strokes.add(
+            Message::TooManyStrokeElements,
+            QStringLiteral("Strokes that are distorted have too many elements together; some are left out."));
+        strokes.appendTo(&result, tree);
+    }
     return result;
 }
 
@@ -184,7 +191,7 @@ void DisplayList::replaceItems(QVector<DisplayItem> *items, QVector<DisplayItem>
 {
     const QVector<int> changed = takeOverMapped(&fresh, items);
     items->swap(fresh);
-    mapItems(items, stretch, world);
+    mapItems(items, stretch, world, &m_mapping);
     addDifference(fresh, *items, changed, &m_damage);
 }
 
@@ -194,6 +201,7 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
     const bool sameContent = m_built && m_revision == document.revision();
     if (sameMapping && sameContent)
         return;
+    m_mapping = MappingBudget();
     if (!sameMapping) {
         m_picture.clear();
         forgetMapping(&m_items);
@@ -202,8 +210,8 @@ void DisplayList::update(Document &document, const QTransform &stretch, const QT
             *m_tiles = PatternTiles();
     }
     if (sameContent) {
-        mapItems(&m_items, stretch, world);
-        mapItems(&m_controlPoints, stretch, world);
+        mapItems(&m_items, stretch, world, &m_mapping);
+        mapItems(&m_controlPoints, stretch, world, &m_mapping);
     } else {
         BuiltList built = buildList(document);
         m_tiles = built.tiles;

@@ -4,6 +4,7 @@
 #include "draw/damage.h"
 #include "draw/drawreport.h"
 #include "draw/keptpicture.h"
+#include "draw/mappingbudget.h"
 #include "draw/patternpaint.h"
 
 #include <memory>
@@ -58,6 +59,8 @@ struct DisplayItem
     QPainterPath strokePath;
     /// How far the outlines go along the axes, painter units.
     double outlineLength = 0;
+    /// Segments, and dashes, that a pen goes along.
+    double strokedPieces = 0;
     /// What an image shows, scaled down where it is much larger than its place, and where it goes: a part of it
     /// into a rectangle of its element's units, these into the painter's.
     QImage picture;
@@ -101,6 +104,7 @@ private:
     QVector<DisplayItem> m_controlPoints;
     KeptPicture m_picture;
     std::shared_ptr<PatternTiles> m_tiles;
+    MappingBudget m_mapping;
     DrawReport m_buildReport;
     DrawReport m_paintReport;
     /// What changed since the picture was kept.

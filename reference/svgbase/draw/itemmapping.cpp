@@ -130,7 +130,8 @@ QSizeF mappedReach(double reach, const QTransform &t)
     return QSizeF(reach * std::hypot(t.m11(), t.m21()), reach * std::hypot(t.m12(), t.m22()));
 }
 
-void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, const QTransform &transform)
+void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, const QTransform &transform,
+               MappingBudget *budget)
 {
     item->strokedWith = pen;
     const double scale = meanScale(transform);
@@ -144,11 +145,14 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
         item->strokeReach = QSizeF(reach, reach);
         return;
     }
+    item->pen = QPen(Qt::NoPen);
+    if (budget->isUsedUp())
+        return;
     QPainterPathStroker stroker(pen);
     stroker.setCurveThreshold(userThreshold(path, scale));
     item->strokePath = transform.map(stroker.createStroke(path));
     item->strokePath.setFillRule(Qt::WindingFill);
-    item->pen = QPen(Qt::NoPen);
+    budget->strokeElements -= item->strokePath.elementCount();
     item->pen.setBrush(mappedBrush(pen.brush(), transform));
     item->bounds |= item->strokePath.controlPointRect();
     item->strokeReach = mappedReach(strokeReach(pen), transform);
@@ -156,13 +160,13 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
 
 // The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
 void mapUnscaledStroke(DisplayItem *item, const Outline &outline, const QTransform &transform,
-                       const QTransform &world)
+                       const QTransform &world, MappingBudget *budget)
 {
     const QTransform toTarget = transform * world.inverted();
     const QPainterPath path = toTarget.map(outline.path);
     QPen pen = boundedPen(outline.pen, path);
     pen.setBrush(mappedBrush(outline.pen.brush(), toTarget));
-    mapStroke(item, pen, path, world);
+    mapStroke(item, pen, path, world, budget);
 }
 
 Outline silhouette(const Outline &outline, const ComputedStyle &style)
@@ -196,7 +200,7 @@ void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline
         outline->pen.setBrush(patternBrush(*item.strokePattern, transform));
 }
 
-void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
 {
     Outline outline = paintedOutline(*item);
     const QTransform transform = itemTransform(*item, stretch, world);
@@ -216,9 +220,10 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     }
     const bool stroked = outline.pen.style() != Qt::NoPen;
     if (stroked && item->facts->style.strokeScales)
-        mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform);
+        mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform, budget);
     else if (stroked)
-        mapUnscaledStroke(item, outline, transform, world);
+        mapUnscaledStroke(item, outline, transform, world, budget);
+    item->strokedPieces = strokedPieces(*item);
     item->outlineLength = paintedLength(*item);
     item->isIndivisible =
         !item->smooth || item->fill.style() > Qt::SolidPattern || item->pen.brush().style() > Qt::SolidPattern;
@@ -269,7 +274,7 @@ bool isRect(const QPainterPath &path)
     return path == rect;
 }
 
-void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
 {
     LayerEffects *effects = item->effects.get();
     const QTransform placed = item->control ? aboutCentre(item->controlCentre, stretch) : stretch;
@@ -280,11 +285,11 @@ void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &
         effects->filter->toPainter = effects->filter->toDocument * placed * world;
         for (FilterStep &step : effects->filter->steps) {
             for (FilterPrimitive &primitive : step.primitives)
-                mapItems(&primitive.items, stretch, world);
+                mapItems(&primitive.items, stretch, world, budget);
         }
     }
-    mapItems(&effects->clip, stretch, world);
-    mapItems(&effects->mask, stretch, world);
+    mapItems(&effects->clip, stretch, world, budget);
+    mapItems(&effects->mask, stretch, world, budget);
 }
 
 QRectF coveredBounds(const QVector<DisplayItem> &items)
@@ -337,17 +342,18 @@ void measureLayers(QVector<DisplayItem> *items)
 
 } // namespace
 
-void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world)
+void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world,
+              MappingBudget *budget)
 {
     bool layered = false;
     for (DisplayItem &item : *items) {
         layered = layered || item.kind == DisplayItem::BeginLayer;
         if (item.kind == DisplayItem::Shape && !item.mapped)
-            mapShape(&item, stretch, world);
+            mapShape(&item, stretch, world, budget);
         else if (item.kind == DisplayItem::Image && !item.mapped)
             mapImage(&item, stretch, world);
         else if (item.effects)
-            mapEffects(&item, stretch, world);
+            mapEffects(&item, stretch, world, budget);
     }
     if (layered)
         measureLayers(items);

@@ -116,6 +116,7 @@ public:
 
 private:
     void takePaint(QPainter *painter, const DisplayItem &item);
+    void drawOutline(QPainter *painter, const QPainterPath &path);
     void paintShape(const DisplayItem &item);
     void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
@@ -164,6 +165,19 @@ bool reaches(const QRectF &bounds, const QRect &area)
     return !paintedPixels(bounds, area).isEmpty();
 }
 
+// A path that is drawn keeps what painters made of it. That is dear where there are many, so these are drawn from
+// copies.
+void ItemPainter::drawOutline(QPainter *painter, const QPainterPath &path)
+{
+    if (++m_budget->outlines <= Limits::keptOutlines) {
+        painter->drawPath(path);
+        return;
+    }
+    QPainterPath copy = path;
+    copy.reserve(path.elementCount());
+    painter->drawPath(copy);
+}
+
 void ItemPainter::paintShape(const DisplayItem &item)
 {
     const Layer &layer = m_layers.back();
@@ -175,7 +189,7 @@ void ItemPainter::paintShape(const DisplayItem &item)
     takePaint(painter, item);
     if (!item.smooth)
         painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->drawPath(item.path);
+    drawOutline(painter, item.path);
     if (!item.strokePath.isEmpty())
         painter->fillPath(item.strokePath, item.pen.brush());
     if (!item.smooth)

@@ -20,6 +20,8 @@ struct PaintBudget
     int depth = 0;
     double work = Limits::paintedWork;
     double wholeWork = work;
+    /// How many outlines were drawn.
+    int outlines = 0;
     /// Whether a picture was refused.
     bool lacksPixels = false;
 

@@ -1,5 +1,9 @@
 #include "draw/paintingwork.h"
 
+#include <QtCore/QtMath>
+
+#include <numeric>
+
 namespace Svg {
 
 namespace {
@@ -8,6 +12,7 @@ namespace {
 constexpr double workPerCrossing = 10;
 constexpr double workPerStep = 0.5;
 constexpr double workPerElement = 50;
+constexpr double workPerStrokedPiece = 1000;
 constexpr double workPerPixel = 0.5;
 constexpr double sidesOfStroke = 2;
 
@@ -25,12 +30,28 @@ double lengthOf(const QPainterPath &path)
 
 } // namespace
 
+double strokedPieces(const DisplayItem &item)
+{
+    if (item.pen.style() == Qt::NoPen)
+        return 0;
+    const double elements = item.path.elementCount();
+    if (item.pen.style() == Qt::SolidLine)
+        return elements;
+    const QVector<qreal> pattern = item.pen.dashPattern();
+    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0) * item.pen.widthF();
+    return elements + (period > 0 ? lengthOf(item.path) / period * pattern.size() : 0);
+}
+
 double paintedLength(const DisplayItem &item)
 {
     const double outline = lengthOf(item.path);
     const bool stroked = item.pen.style() != Qt::NoPen;
     const double filled = item.fill.style() != Qt::NoBrush ? outline : 0;
-    return filled + (stroked ? sidesOfStroke * outline : 0) + lengthOf(item.strokePath);
+    if (!stroked)
+        return filled + lengthOf(item.strokePath);
+    const bool round = item.pen.joinStyle() == Qt::RoundJoin || item.pen.capStyle() == Qt::RoundCap;
+    const double ends = strokedPieces(item) * item.pen.widthF() * (round ? M_PI : sidesOfStroke);
+    return filled + sidesOfStroke * outline + ends;
 }
 
 double paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
@@ -39,10 +60,12 @@ double paintingWork(const DisplayItem &item, const QRect &area, double pixelRati
     const double elements = item.path.elementCount() + item.strokePath.elementCount();
     if (visible.isEmpty())
         return elements * workPerElement;
-    const double share = qMin(1.0, visible.height() / item.bounds.height());
+    // What is seen of an outline may be the densest part of it.
+    const double share = std::sqrt(qMin(1.0, visible.height() / item.bounds.height()));
     const double crossings = item.outlineLength * share * pixelRatio;
     const double density = qMin(crossings / qMax(1.0, visible.height() * pixelRatio), visible.width() * pixelRatio);
-    return elements * workPerElement + crossings * (workPerCrossing + density * workPerStep) +
+    return elements * workPerElement + item.strokedPieces * workPerStrokedPiece +
+           crossings * (workPerCrossing + density * workPerStep) +
            visible.width() * visible.height() * pixelRatio * pixelRatio * workPerPixel;
 }
 

@@ -49,7 +49,7 @@ QImage paintedTile(const PatternPaint &pattern, const QSize &size, const QTransf
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QVector<DisplayItem> items = pattern.items;
-    mapItems(&items, tileToPicture, QTransform());
+    mapItems(&items, tileToPicture, QTransform(), &pattern.tiles->mapping);
     QPainter painter(&picture);
     paintItems(&painter, items, &pattern.tiles->budget);
     painter.end();

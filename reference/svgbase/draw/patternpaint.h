@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/document.h"
+#include "draw/mappingbudget.h"
 #include "draw/paintbudget.h"
 
 #include <QtCore/QHash>
@@ -20,6 +21,7 @@ struct PatternTiles
     QHash<QPair<const PatternPaint *, QPair<int, int>>, QImage> pictures;
     double pixelsLeft = Limits::patternsPixels;
     PaintBudget budget;
+    MappingBudget mapping;
     /// Whether a tile was left out.
     bool exhausted = false;
 };

@@ -228,7 +228,16 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     if (!color.isValid())
         return Qt::NoBrush;
     color.setAlphaF(color.alphaF() * opacity);
-    return QBrush(color);
+    return plainBrush(color);
+}
+
+// Most elements are painted as those before them; these share one brush.
+QBrush Resolver::plainBrush(const QColor &color) const
+{
+    QBrush &known = m_brushes[size_t(color.rgba()) % m_brushes.size()];
+    if (known.style() != Qt::SolidPattern || known.color() != color)
+        known = QBrush(color);
+    return known;
 }
 
 void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
@@ -248,7 +257,7 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     facts->outlines.append(outline);
 }
 
-void Resolver::resolveShape(NodeIndex index, Facts *facts) const
+void Resolver::resolveShape(NodeIndex index, const Facts *elsewhere, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
     Problem problem;
@@ -261,11 +270,17 @@ void Resolver::resolveShape(NodeIndex index, Facts *facts) const
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
         addOutline(geometry.path, facts->style, false, dashScale(node, facts->style, geometry.path), facts);
+    if (!elsewhere || elsewhere->outlines.isEmpty() || facts->outlines.isEmpty())
+        return;
+    // The same outline again takes no memory of its own.
+    const QPainterPath &known = elsewhere->outlines.constFirst().path;
+    if (facts->outlines.constFirst().path == known)
+        facts->outlines.first().path = known;
 }
 
 void Resolver::resolveText(NodeIndex index, Facts *facts) const
 {
-    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport);
+    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport, &m_glyphs);
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
@@ -321,7 +336,7 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
     else if (node.kind == ElementKind::Image)
         resolveImage(index, elsewhere, facts);
     else
-        resolveShape(index, facts);
+        resolveShape(index, elsewhere, facts);
     return result;
 }
 

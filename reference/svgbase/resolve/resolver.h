@@ -2,8 +2,11 @@
 
 #include "resolve/facts.h"
 #include "resolve/gradients.h"
+#include "text/glyphoutlines.h"
 #include "tree/message.h"
 #include "tree/tree.h"
+
+#include <array>
 
 namespace Svg {
 
@@ -23,7 +26,8 @@ public:
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
-    /// root. `elsewhere`, when given, are facts of the same element at another place, whose image can be shared.
+    /// root. `elsewhere`, when given, are facts of the same element at another place, whose image and outline can
+    /// be shared.
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere = nullptr) const;
     /// What "transform" says of an element, its origin applied.
     QTransform ownTransform(const Node &node, const Facts &facts) const;
@@ -31,18 +35,21 @@ public:
 private:
     void resolveStyle(NodeIndex index, Facts *facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
-    void resolveShape(NodeIndex index, Facts *facts) const;
+    void resolveShape(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
     void resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
     void resolveText(NodeIndex index, Facts *facts) const;
     void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
                     Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
+    QBrush plainBrush(const QColor &color) const;
     void warn(const Node &node, const Problem &problem) const;
 
     const Tree &m_tree;
     quint32 m_referenceRevision;
     GradientCache *m_gradients;
     Messages *m_messages;
+    mutable GlyphOutlines m_glyphs;
+    mutable std::array<QBrush, 7> m_brushes;
 };
 
 } // namespace Svg

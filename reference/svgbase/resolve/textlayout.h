@@ -1,6 +1,7 @@
 #pragma once
 
 #include "style/computedstyle.h"
+#include "text/glyphoutlines.h"
 #include "tree/message.h"
 #include "tree/tree.h"
 
@@ -31,6 +32,8 @@ struct TextOutlines
 };
 
 /// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.
-TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport);
+/// `glyphs` keeps outlines for the next text.
+TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
+                        GlyphOutlines *glyphs);
 
 } // namespace Svg

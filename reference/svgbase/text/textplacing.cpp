@@ -23,11 +23,12 @@ struct Chunk
 class TextPlacer
 {
 public:
-    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport, Problem *problem)
+    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport,
+               const PlacingServices &services)
         : m_tree(tree)
         , m_content(content)
         , m_viewport(viewport)
-        , m_problem(problem)
+        , m_services(services)
         , m_vertical(textStyleOf(content.levels.first().style).vertical)
     {
     }
@@ -51,9 +52,8 @@ private:
     const Tree &m_tree;
     const TextContent &m_content;
     QSizeF m_viewport;
-    Problem *m_problem;
+    PlacingServices m_services;
     bool m_vertical;
-    GlyphOutlines m_outlines;
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
     QHash<int, std::shared_ptr<TextWay>> m_ways;
@@ -101,7 +101,7 @@ void TextPlacer::shape()
         while (end < count && !startsChunk(end))
             ++end;
         const int first = m_clusters.size();
-        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how, &m_outlines);
+        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how, m_services.glyphs);
         double width = 0;
         for (const TextCluster &cluster : clusters) {
             PlacedCluster placed;
@@ -140,9 +140,9 @@ const TextWay &TextPlacer::way(int level)
         const TextLevel &path = m_content.levels.at(level);
         known = std::make_shared<TextWay>(m_tree, path.node, path.style, m_viewport);
         if (known->isTooLong())
-            *m_problem = {Message::TextPathTooLong,
-                          QStringLiteral("Text along a path of more than %1 elements is left out.")
-                              .arg(Limits::textPathElements)};
+            *m_services.problem = {Message::TextPathTooLong,
+                                   QStringLiteral("Text along a path of more than %1 elements is left out.")
+                                       .arg(Limits::textPathElements)};
     }
     return *known;
 }
@@ -238,8 +238,9 @@ QVector<PlacedCluster> TextPlacer::place()
     shape();
     shift();
     if (!adjustLengths(m_tree, m_content, m_viewport, &m_clusters))
-        *m_problem = {Message::TooManyTextLengths,
-                      QStringLiteral("Of a text, only %1 parts take a given length.").arg(Limits::textLengths)};
+        *m_services.problem = {
+            Message::TooManyTextLengths,
+            QStringLiteral("Of a text, only %1 parts take a given length.").arg(Limits::textLengths)};
     setChunks();
     return m_clusters;
 }
@@ -247,9 +248,9 @@ QVector<PlacedCluster> TextPlacer::place()
 } // namespace
 
 QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
-                                 Problem *problem)
+                                 const PlacingServices &services)
 {
-    return TextPlacer(tree, content, viewport, problem).place();
+    return TextPlacer(tree, content, viewport, services).place();
 }
 
 } // namespace Svg

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/glyphoutlines.h"
 #include "text/textshaping.h"
 #include "text/textway.h"
 #include "tree/message.h"
@@ -24,11 +25,17 @@ struct PlacedCluster
     bool shown = true;
 };
 
+/// What placing characters needs besides the text.
+struct PlacingServices
+{
+    GlyphOutlines *glyphs;
+    /// Gets what was left out because of a limit.
+    Problem *problem;
+};
+
 /// Places the characters of a text as SVG 2 §11.5 says: shaping, shifts, adjustment to a given length, absolute
 /// positions, anchors, paths.
-///
-/// `problem` gets what was left out because of a limit.
 QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
-                                 Problem *problem);
+                                 const PlacingServices &services);
 
 } // namespace Svg

@@ -8,7 +8,7 @@
 namespace Svg {
 
 /// The one attribute that is left to a tag with too many.
-constexpr QLatin1String crowdedMark("gliololok-crowded-tag");
+const QLatin1String crowdedMark("gliololok-crowded-tag");
 
 /// XML text with all attributes of tags that have more than the limit replaced by `crowdedMark`. Nothing when such
 /// a tag does not end, or an entity's replacement text holds so many. Done before Qt's reader sees the text, since

@@ -57,7 +57,6 @@ public:
             TooManyTextPaths = 114,
             TextPathTooLong = 115,
             TooManyTextLengths = 116,
-            TooManyFontFamilies = 117,
             TransformTooLarge = 118,
             TooManyDashes = 119,
             TooManyBoundsVisits = 120,
@@ -71,6 +70,7 @@ public:
             TooManyAnimationConditions = 128,
             TooManyAnimationEvents = 129,
             MotionPathsTooLong = 130,
+            TooManyStrokeElements = 131,
             /// @}
         };
         Severity severity = Warning;
