@@ -69,8 +69,9 @@ def markers_many(n):
 
 @document
 def markers_heavy(n):
+    marked = f'<path marker-mid="url(#m)" stroke="red" d="M0 0{"l1 1-1 1" * (16000 // n)}"/>'
     return svg('<marker id="m" markerWidth="3" markerHeight="3" orient="auto">' + '<path d="M0 0L3 3 0 3z"/>' * 1000 +
-               f'</marker><path marker-mid="url(#m)" stroke="red" d="M0 0{"l1 1-1 1" * (16000 // n)}"/>' * 10)
+               "</marker>" + marked * 10)
 
 
 @document

@@ -18,7 +18,7 @@ def images_nested_branching(n):
     text = '<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><rect width="9" height="9"/></svg>'
     for _ in range(5):
         uri = data_uri("image/svg+xml", text.encode())
-        text = svg("".join(f'<image x="{i}" width="9" height="9" href="{uri}"/>' for i in range(8)))
+        text = svg("".join(f'<image x="{i}" width="9" height="9" href="{uri}"/>' for i in range(7)))
     return text
 
 
@@ -181,7 +181,7 @@ def entities(n):
     return text + "]><svg><text>&a11;</text></svg>"
 
 
-@document
+@document(refused=True)
 def namespaces(n):
     return svg("".join(f'<g xmlns:a{i}="urn:a" xmlns:b{i}="urn:b">' for i in range(500)) + "</g>" * 500 +
                '<rect width="9" height="9"/>')
