@@ -161,7 +161,7 @@ void TestEffectLimits::largeEffectsAreSurvived_data()
                     "<fePointLight x='5' y='5'/></feDiffuseLighting><feDiffuseLighting><feDistantLight "
                     "azimuth='1e300' elevation='1e300'/></feDiffuseLighting>");
     QTest::newRow("kernels without end")
-        << filtered("<feConvolveMatrix order='32' kernelMatrix='" + QString("1e300 ").repeated(1024) +
+        << filtered("<feConvolveMatrix order='16' kernelMatrix='" + QString("1e300 ").repeated(256) +
                     "' edgeMode='wrap' bias='1e300'/><feConvolveMatrix order='1e9' kernelMatrix='1'/>"
                     "<feConvolveMatrix kernelMatrix='1 1 1 1 1 1 1 1 1' divisor='1e-300' targetX='-1'/>");
     QTest::newRow("ways without end") << filtered("<feDisplacementMap in2='SourceGraphic' scale='1e300'/>"
