@@ -1,9 +1,11 @@
 #include <kit/pathtext.h>
 
+#include <QtCore/QHash>
 #include <QtGui/QFont>
 #include <QtGui/QPainterPath>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 
 namespace shapekit {
@@ -12,6 +14,8 @@ namespace {
 
 /// Enough for a thousandth of a pixel on the largest page, short enough to read.
 constexpr int numberDigits = 10;
+/// Characters of such a number: sign, point and exponent included.
+constexpr int longestNumber = 32;
 /// Letters are laid out at this size and then brought to theirs, so that hinting doesn't show.
 constexpr int layoutPixels = 100;
 /// Letters are made of many points; these are whole multiples of 1 / this.
@@ -19,13 +23,27 @@ constexpr double letterPrecision = 100;
 /// The height of digits as a part of the size of their font.
 constexpr double digitPart = 0.72;
 
-QPainterPath lettersOf(const QString &text)
+/// Letters are read from their font once; a label or two per shape is what there is.
+constexpr int knownTexts = 500;
+
+QPainterPath lettersFromFont(const QString &text)
 {
     QFont font(QStringLiteral("sans-serif"));
     font.setPixelSize(layoutPixels);
     QPainterPath letters;
     letters.addText(0, 0, font, text);
     return letters;
+}
+
+const QPainterPath &lettersOf(const QString &text)
+{
+    static QHash<QString, QPainterPath> known;
+    auto found = known.find(text);
+    if (found != known.end())
+        return *found;
+    if (known.size() >= knownTexts)
+        known.clear();
+    return *known.insert(text, lettersFromFont(text));
 }
 
 } // namespace
@@ -126,7 +144,7 @@ PathText &PathText::roundedRectangle(const QRectF &box, double radius)
 
 PathText &PathText::text(QPointF centre, const QString &text, double height)
 {
-    const QPainterPath letters = lettersOf(text);
+    const QPainterPath &letters = lettersOf(text);
     const double scale = height / (layoutPixels * digitPart);
     const QPointF middle(letters.boundingRect().center().x(), -layoutPixels * digitPart / 2);
     const auto placed = [&](int i) {
@@ -159,7 +177,11 @@ void PathText::append(char command)
 
 void PathText::append(double number)
 {
-    m_text += QString::number(number, 'g', numberDigits);
+    char digits[longestNumber];
+    // A sum of zeros has no sign.
+    const auto end =
+        std::to_chars(digits, digits + longestNumber, number + 0.0, std::chars_format::general, numberDigits);
+    m_text += QLatin1String(digits, int(end.ptr - digits));
     m_text += QLatin1Char(' ');
 }
 

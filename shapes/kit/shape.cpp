@@ -4,6 +4,7 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QtMath>
 #include <QtGui/QPainterPath>
 #include <QtGui/QTransform>
@@ -72,6 +73,7 @@ Shape::Shape(CSVGObj *owner, int type, Sizing sizing)
 
 bool Shape::loadSVG(bool initGlobals)
 {
+    m_following.clear();
     const bool loaded = PropertiedShape::loadSVG(initGlobals);
     if (loaded) {
         takeMovedControlPoints();
@@ -79,6 +81,35 @@ bool Shape::loadSVG(bool initGlobals)
         redraw(false);
     }
     return loaded;
+}
+
+bool Shape::load(QDataStream &in)
+{
+    const QScopedValueRollback<bool> loading(isBeingLoaded, true);
+    const bool loaded = PropertiedShape::load(in);
+    finishLoading();
+    return loaded;
+}
+
+bool Shape::loadJson(QJsonObject &object)
+{
+    const QScopedValueRollback<bool> loading(isBeingLoaded, true);
+    const bool loaded = PropertiedShape::loadJson(object);
+    finishLoading();
+    return loaded;
+}
+
+void Shape::finishLoading()
+{
+    isBeingLoaded = false;
+    if (!document)
+        return;
+    placeControlPoints();
+    // A new object makes its picture itself, once its core is loaded.
+    redraw(owner->isCreateFinished());
+    settleDrawing();
+    if (owner->isCreateFinished())
+        owner->notifyOutlineRegionChanged();
 }
 
 bool Shape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
@@ -117,10 +148,10 @@ void Shape::setSize(QSizeF, QSizeF newSize)
 void Shape::notifyObjectCreated()
 {
     // The last step of a creating drag may differ from the step before it, of which the shape heard.
-    if (m_redrawn)
-        fitTo(owner->getClientRect().size());
+    const bool isFitted = m_redrawn && fitTo(owner->getClientRect().size());
     owner->notifyOutlineRegionChanged();
-    invalidate();
+    if (isFitted)
+        invalidate();
 }
 
 QSizeF Shape::getMinimizeSize()
@@ -134,8 +165,18 @@ QSizeF Shape::smallestSize() const
     return {side, side};
 }
 
+QByteArray Shape::toSvg()
+{
+    settleDrawing();
+    return PropertiedShape::toSvg();
+}
+
 void Shape::updateOutlineRegion()
 {
+    if (!m_isDrawn) {
+        settleDrawing();
+        return;
+    }
     PropertiedShape::updateOutlineRegion();
     const double scale = drawingScale();
     if (!outlineRegion || scale == 1)
@@ -168,14 +209,10 @@ double Shape::drawingScale()
 
 bool Shape::getOutlinePath(QPainterPath *path)
 {
+    settleDrawing();
     if (!PropertiedShape::getOutlinePath(path))
         return false;
-    const QRectF target = owner->getClientRect();
-    const QRectF box = document->viewBox();
-    const QTransform toObject =
-        QTransform::fromTranslate(-box.x(), -box.y()) *
-        QTransform::fromScale(target.width() / box.width(), target.height() / box.height()) *
-        QTransform::fromTranslate(target.x(), target.y());
+    const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
     for (int i = 0; i < pointCount(); ++i) {
         QPainterPath grip;
         if (controlPoints[i])
@@ -184,6 +221,20 @@ bool Shape::getOutlinePath(QPainterPath *path)
             *path += grip;
     }
     return true;
+}
+
+QRectF Shape::regionBox()
+{
+    settleDrawing();
+    QRectF region = PropertiedShape::regionBox();
+    if (!document || document->viewBox().isEmpty())
+        return region;
+    const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
+    for (int i = 0; i < pointCount(); ++i) {
+        if (controlPoints[i])
+            region |= toObject.mapRect(controlPoints[i]->boundingRect());
+    }
+    return region;
 }
 
 double Shape::getXMin(QZeSvgNode *node)
@@ -241,13 +292,16 @@ void Shape::pointMoved(int number, QPointF centre)
 
 QPointF Shape::wantedPoint(int number)
 {
-    return m_places.value(number - 1).at(size(), followingOf(number, "x"), followingOf(number, "y"));
+    return m_places.value(number - 1)
+        .at(size(), followingOf(number, Qt::Horizontal), followingOf(number, Qt::Vertical));
 }
 
 void Shape::propertyChanged(const Property *)
 {
     placeControlPoints();
     redraw(false);
+    if (isBeingLoaded)
+        return;
     owner->notifyOutlineRegionChanged();
 }
 
@@ -303,10 +357,10 @@ int Shape::indexOf(QZeSvgNode *node) const
     return !node || found == end ? -1 : int(found - controlPoints);
 }
 
-QRectF Shape::templateRange(int number) const
+QRectF Shape::templateRange(int number)
 {
-    const Following x = followingOf(number, "x");
-    const Following y = followingOf(number, "y");
+    const Following x = followingOf(number, Qt::Horizontal);
+    const Following y = followingOf(number, Qt::Vertical);
     QRectF limits(QPointF(x.offset, y.offset), QPointF(width() - x.endOffset, height() - y.endOffset));
     const QZeSvgNode *point = controlPoints[number - 1];
     if (m_redrawn || !point)
@@ -319,16 +373,12 @@ QRectF Shape::templateRange(int number) const
             QPointF(limit("x_to", limits.right()), limit("y_to", limits.bottom()))};
 }
 
-Following Shape::followingOf(int number, const char *axis) const
+Following Shape::readFollowing(const QZeSvgNode &point, const QString &axis)
 {
     Following following;
-    const QZeSvgNode *point = controlPoints[number - 1];
-    if (!point)
-        return following;
-    const QString prefix = QLatin1String(axis);
-    following.rule = Following::ruleNamed(point->attribute(prefix + QLatin1String("_follows")));
+    following.rule = Following::ruleNamed(point.attribute(axis + QLatin1String("_follows")));
     const QStringList offsets =
-        point->attribute(prefix + QLatin1String("_offset")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        point.attribute(axis + QLatin1String("_offset")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (!offsets.isEmpty()) {
         following.offset = offsets.first().toDouble();
         following.endOffset = offsets.last().toDouble();
@@ -336,15 +386,28 @@ Following Shape::followingOf(int number, const char *axis) const
     return following;
 }
 
-void Shape::fitTo(const QSizeF &newSize)
+const Following &Shape::followingOf(int number, Qt::Orientation axis)
+{
+    while (m_following.size() < number) {
+        const QZeSvgNode *point = controlPoints[m_following.size()];
+        m_following.append(point ? std::array<Following, 2>{readFollowing(*point, QStringLiteral("x")),
+                                                            readFollowing(*point, QStringLiteral("y"))}
+                                 : std::array<Following, 2>{});
+    }
+    return m_following.at(number - 1)[axis == Qt::Horizontal ? 0 : 1];
+}
+
+bool Shape::fitTo(const QSizeF &newSize)
 {
     const bool drawable = newSize.width() > 0 && newSize.height() > 0 && newSize.width() < largestSide &&
                           newSize.height() < largestSide;
-    if (!drawable || !document)
-        return;
-    document->setViewBox(QRectF(QPointF(0, 0), newSize));
+    const QRectF box(QPointF(0, 0), newSize);
+    if (!drawable || !document || document->viewBox() == box)
+        return false;
+    document->setViewBox(box);
     placeControlPoints();
     redraw(false);
+    return true;
 }
 
 void Shape::takeMovedControlPoints()
@@ -398,12 +461,20 @@ void Shape::placeControlPoints()
 
 void Shape::redraw(bool refresh)
 {
+    m_isDrawn = false;
+    if (refresh && !isBeingLoaded)
+        invalidate();
+}
+
+void Shape::settleDrawing()
+{
+    if (m_isDrawn || !document)
+        return;
+    m_isDrawn = true;
     draw();
     if (document->getAllFillBrush().gradient())
         takePageFill();
     updateOutlineRegion();
-    if (refresh)
-        invalidate();
 }
 
 QRectF between(QPointF first, QPointF second)

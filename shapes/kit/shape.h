@@ -8,6 +8,8 @@
 
 #include <QtCore/QMap>
 
+#include <array>
+
 namespace shapekit {
 
 /// What a shape author derives from: a template, what its control points may do, and a drawing.
@@ -33,6 +35,8 @@ public:
     Shape(CSVGObj *owner, int type, Sizing sizing = Redrawn);
 
     bool loadSVG(bool initGlobals) override;
+    bool load(QDataStream &in) override;
+    bool loadJson(QJsonObject &object) override;
     bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
     bool updateSVG(bool refresh) override;
     bool updateAllControlPoints(bool refresh, bool finished) override;
@@ -43,6 +47,9 @@ public:
     void updateOutlineRegion() override;
     /// The region is the outline, the pen and the control points, so that each of them can be grasped.
     bool getOutlinePath(QPainterPath *path) override;
+    QRectF regionBox() override;
+    QByteArray toSvg() override;
+    void settleDrawing() override;
     double getXMin(QZeSvgNode *node) override;
     double getXMax(QZeSvgNode *node) override;
     double getYMin(QZeSvgNode *node) override;
@@ -62,7 +69,8 @@ protected:
     virtual QSizeF smallestSize() const;
     /// Refuses a place that a drag would take a control point to: the point stays where it is then.
     virtual bool mayMove(int number, QPointF centre);
-    /// Writes the geometry for the present points, size and properties.
+    /// Writes the geometry for the present points, size and properties. Called when somebody is about to look at
+    /// the drawing, however much has changed since the last time.
     virtual void draw() {}
     /// The user, or a file, put the centre of a control point there.
     virtual void pointMoved(int number, QPointF centre);
@@ -96,17 +104,23 @@ private:
     int indexOf(QZeSvgNode *node) const;
     /// 1 for a shape that has no such property.
     double drawingScale();
-    QRectF templateRange(int number) const;
-    Following followingOf(int number, const char *axis) const;
-    void fitTo(const QSizeF &newSize);
+    QRectF templateRange(int number);
+    static Following readFollowing(const QZeSvgNode &point, const QString &axis);
+    const Following &followingOf(int number, Qt::Orientation axis);
+    /// False when the drawing has that size already, or can't have it.
+    bool fitTo(const QSizeF &newSize);
     void takeMovedControlPoints();
     /// Where all points stand, each within the limits that the others leave it.
     void settlePoints();
     void placeControlPoint(int index);
     void placeControlPoints();
     void redraw(bool refresh);
+    void finishLoading();
 
     bool m_redrawn;
+    bool m_isDrawn = true;
+    /// What the template says of each point, by index: along x, along y.
+    QVector<std::array<Following, 2>> m_following;
     QVector<Place> m_places;            ///< where the points were put, by index
     QVector<QPointF> m_points;          ///< where they stand
     QMap<int, DraggedPlaces> m_dragged; ///< by index

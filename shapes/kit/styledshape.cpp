@@ -27,6 +27,8 @@ constexpr int lastHostFilledType = 26;
 constexpr int extraHostFilledType = 1000;
 /// Added to the width of a line so that it can be hit, document units.
 constexpr double lineHitMargin = 6;
+/// The library makes the pen this much wider in the region, item units.
+constexpr double regionPenMargin = 2;
 
 bool fillsAlike(const QBrush &a, const QBrush &b)
 {
@@ -90,8 +92,11 @@ StyledShape::StyledShape(CSVGObj *owner, int type)
 
 QString StyledShape::getSVG()
 {
-    QFile file(kind().templateFile());
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    static const QString text = [] {
+        QFile file(kind().templateFile());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }();
+    return text;
 }
 
 void StyledShape::initGlobalPropValues()
@@ -190,7 +195,7 @@ void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
         fillPageObject(brush);
         return;
     }
-    if (notify)
+    if (notify && !isBeingLoaded)
         invalidate();
 }
 
@@ -246,6 +251,25 @@ void StyledShape::takePageFill()
     const QBrush present = document->getAllFillBrush();
     if (brush.color() == present.color() && brush != present)
         updateBrush(brush);
+}
+
+QRectF StyledShape::regionBox()
+{
+    const QRectF target = owner->getClientRect();
+    const QRectF box = document ? document->viewBox() : QRectF();
+    if (!outlineRegion || box.isEmpty())
+        return target;
+    // Corners of the pen's outline reach as far beyond the line as it is wide.
+    const double reach = getPenWidth() + regionPenMargin;
+    const QRectF outline = stretching(box, target).mapRect(outlineRegion->controlPointRect());
+    return outline.adjusted(-reach, -reach, reach, reach) | target;
+}
+
+QTransform StyledShape::stretching(const QRectF &box, const QRectF &target)
+{
+    return QTransform::fromTranslate(-box.x(), -box.y()) *
+           QTransform::fromScale(target.width() / box.width(), target.height() / box.height()) *
+           QTransform::fromTranslate(target.x(), target.y());
 }
 
 bool StyledShape::isFilledByPageObject() const

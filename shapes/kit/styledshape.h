@@ -3,6 +3,7 @@
 #include <svgobj/csvgbase.h>
 
 #include <QtCore/QVector>
+#include <QtGui/QTransform>
 
 namespace shapekit {
 
@@ -28,7 +29,7 @@ public:
 
     /// The shape as an SVG document of its page object's size, with the page object's fill and without control
     /// points. Empty without a document.
-    QByteArray toSvg();
+    virtual QByteArray toSvg();
     /// Shows SVG text; shapes that do not show pictures ignore it.
     virtual void takePicture(const QByteArray &svg);
 
@@ -54,6 +55,10 @@ public:
     /// The outline is that of the nodes whose id is "figure" or begins with "figure_"; control points are no part
     /// of what is filled. A template without such nodes has the outline of everything in it.
     void updateOutlineRegion() override;
+    /// A box, item coordinates, around everything that getOutlinePath() would give, and found much sooner.
+    virtual QRectF regionBox();
+    /// Brings the document up to date before somebody looks at it; for shapes that put that off.
+    virtual void settleDrawing() {}
 
 protected:
     /// Fills the document as the page object's fill says, a gradient from edge to edge of the document: the base
@@ -67,8 +72,12 @@ protected:
     QSizeF naturalSize() const;
     /// Set by a shape whose nodes all keep their own look.
     bool keepsItsLook = false;
+    /// Set while the shape reads its data: it draws and repaints once, when all of it is known.
+    bool isBeingLoaded = false;
 
     bool isFilledByPageObject() const;
+    /// How a view box, which is not empty, is stretched over a rectangle.
+    static QTransform stretching(const QRectF &box, const QRectF &target);
     /// A node of the template; null when there is none of that id.
     QZeSvgNode *node(const char *id) const;
 

@@ -3,6 +3,8 @@
 namespace {
 
 constexpr double maxPixels = double(1 << 28);
+/// Pictures up to this size, bytes, are copied to save memory.
+constexpr int smallPicture = 1 << 16;
 
 } // namespace
 
@@ -14,4 +16,9 @@ QImage emptyCachePicture(QSizeF size)
     QImage picture(int(size.width()), int(size.height()), QImage::Format_ARGB32);
     picture.fill(Qt::transparent);
     return picture;
+}
+
+QImage withoutPaintingTools(const QImage &picture)
+{
+    return picture.sizeInBytes() <= smallPicture ? picture.copy() : picture;
 }

@@ -24,6 +24,17 @@ QRect wholePixels(const QRectF &rect)
     return QRect(left, top, qRound(rect.x() + rect.width()) - left, qRound(rect.y() + rect.height()) - top);
 }
 
+/// Painting stores its own form of a path with the path, where it would stay as long as the outline does.
+QPainterPath unshared(const QPainterPath &path)
+{
+    if (path.isEmpty())
+        return path;
+    QPainterPath copy;
+    copy.setFillRule(path.fillRule());
+    copy.addPath(path);
+    return copy;
+}
+
 } // namespace
 
 void CSVGObj::OnQPainterDraw(QPainter *painter)
@@ -56,11 +67,14 @@ void CSVGObj::renderCache()
     while (rendering.next()) {
         const QMutexLocker locker(&cacheMutex);
         cacheImage = emptyCachePicture(clientRect.size());
-        QPainter target;
-        // A picture without pixels cannot be painted on; its painter stays inactive.
-        if (!cacheImage.isNull())
-            target.begin(&cacheImage);
-        paintContent(&target, true);
+        {
+            QPainter target;
+            // A picture without pixels cannot be painted on; its painter stays inactive.
+            if (!cacheImage.isNull())
+                target.begin(&cacheImage);
+            paintContent(&target, true);
+        }
+        cacheImage = withoutPaintingTools(cacheImage);
     }
 }
 
@@ -84,7 +98,7 @@ void CSVGObj::paintHostFill(QPainter *target)
     if (target->isActive()) {
         target->setPen(myPen);
         target->setRenderHints(fillHints, true);
-        target->setClipPath(outline, Qt::ReplaceClip);
+        target->setClipPath(unshared(outline), Qt::ReplaceClip);
         const bool hasPicture = fillProp && fillProp->isFillEnable() &&
                                 fillProp->fillType() == CPageBgProp::PictureFill && !fillProp->pixmap().isNull();
         if (hasPicture)

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void hiddenAndImpossibleNodesAreNotHit();
     void picturesHaveWholePixels_data();
     void picturesHaveWholePixels();
+    void smallPicturesAreCopiedWithoutTools();
     void somePicturesAreNotMade_data();
     void somePicturesAreNotMade();
     void controlPointPixelsFollowThePen_data();
@@ -138,6 +139,21 @@ void TestRules::picturesHaveWholePixels()
     const QImage picture = emptyCachePicture(size);
     QCOMPARE(picture.format(), QImage::Format_ARGB32);
     QCOMPARE(picture, expected);
+}
+
+void TestRules::smallPicturesAreCopiedWithoutTools()
+{
+    // 64 KB are 128 x 128 pixels.
+    QImage small(128, 128, QImage::Format_ARGB32);
+    small.fill(qRgba(10, 20, 30, 40));
+    const QImage copy = withoutPaintingTools(small);
+    QCOMPARE(copy, small);
+    QCOMPARE(copy.format(), QImage::Format_ARGB32);
+    QVERIFY(copy.constBits() != small.constBits());
+    QImage large(129, 128, QImage::Format_ARGB32);
+    large.fill(qRgba(10, 20, 30, 40));
+    QCOMPARE(withoutPaintingTools(large).constBits(), large.constBits());
+    QVERIFY(withoutPaintingTools(QImage()).isNull());
 }
 
 void TestRules::somePicturesAreNotMade_data()

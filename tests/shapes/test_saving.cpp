@@ -72,6 +72,8 @@ private Q_SLOTS:
     void openedJsonSavesTheSame();
     void openedShapeLooksTheSame_data() { addShapeRows(); }
     void openedShapeLooksTheSame();
+    void openedShapeIsHitWhereItWas_data() { addShapeRows(); }
+    void openedShapeIsHitWhereItWas();
     void editsAreUndoneAndRedoneToTheByte_data() { addShapeRows(); }
     void editsAreUndoneAndRedoneToTheByte();
     void formOfBeforeComesBackAfterOtherSizes_data() { addShapeRows(); }
@@ -130,6 +132,24 @@ void TestSaving::openedShapeLooksTheSame()
     QCOMPARE(copy.geometry(), original.geometry());
     original.object().setSelected(false);
     QCOMPARE(copy.painted(), original.painted());
+}
+
+void TestSaving::openedShapeIsHitWhereItWas()
+{
+    QFETCH(QString, name);
+    ShapeDriver original(name);
+    makeEdited(original, editCount);
+    ShapeDriver copy(name);
+    const QByteArray saved = savedBytes(original);
+    QDataStream in(saved);
+    copy.object().load(in);
+    // Asked for before anybody points at it, the bounds hold all of the region.
+    const QRectF bounds = copy.object().boundingRect();
+    const QPainterPath region = copy.object().shape();
+    QVERIFY(bounds.contains(region.controlPointRect()));
+    QCOMPARE(copy.object().boundingRect(), bounds);
+    original.object().notifyOutlineRegionChanged();
+    QCOMPARE(region, original.object().shape());
 }
 
 void TestSaving::editsAreUndoneAndRedoneToTheByte()

@@ -34,13 +34,35 @@ const QString scene = QStringLiteral(
     "<ellipse id='el' cx='60' cy='30' rx='20' ry='10' stroke='black' style='%10'/>"
     "<path id='pa' d='%11' stroke='black' stroke-dasharray='%12'/></g>"
     "<text id='tx' x='5' y='95' font-size='%13'>Text</text><use id='us' href='%14' x='50' y='70'/>"
-    "<g id='hid' display='%15'><circle id='ci' cx='85' cy='85' r='10' fill='red' visibility='%16'/></g>");
+    "<g id='hid' display='%15'><circle id='ci' cx='85' cy='85' r='10' fill='red' visibility='%16'/></g>"
+    "<g id='gt' font-size='%17' letter-spacing='%18' xml:space='%19' fill='%20' transform='%21' fill-rule='%22'>"
+    "<text id='tg' x='5' y='78'>a   b</text><text id='tp' x='45' y='78'>c <tspan id='ts' dy='%23'>d</tspan></text>"
+    "<rect id='re' x='2em' y='80' width='1em' height='1em'/><path id='pr' d='M70 70h20v20h-20zm5 "
+    "5h10v10h-10z'/></g>");
 
-const QVector<Slot> slotsOfScene = {
-    {"lg", "x1"},        {"st", "stop-color"},       {"def", "width"},    {"grp", "transform"}, {"grp", "opacity"},
-    {"grp", "fill"},     {"grp", "stroke-width"},    {"rc", "x"},         {"rc", "rx"},         {"el", "style"},
-    {"pa", "d"},         {"pa", "stroke-dasharray"}, {"tx", "font-size"}, {"us", "href"},       {"hid", "display"},
-    {"ci", "visibility"}};
+const QVector<Slot> slotsOfScene = {{"lg", "x1"},
+                                    {"st", "stop-color"},
+                                    {"def", "width"},
+                                    {"grp", "transform"},
+                                    {"grp", "opacity"},
+                                    {"grp", "fill"},
+                                    {"grp", "stroke-width"},
+                                    {"rc", "x"},
+                                    {"rc", "rx"},
+                                    {"el", "style"},
+                                    {"pa", "d"},
+                                    {"pa", "stroke-dasharray"},
+                                    {"tx", "font-size"},
+                                    {"us", "href"},
+                                    {"hid", "display"},
+                                    {"ci", "visibility"},
+                                    {"gt", "font-size"},
+                                    {"gt", "letter-spacing"},
+                                    {"gt", "xml:space"},
+                                    {"gt", "fill"},
+                                    {"gt", "transform"},
+                                    {"gt", "fill-rule"},
+                                    {"ts", "dy"}};
 
 const QVector<QStringList> choices = {
     {"0", "0.5", "50%", "nonsense"},
@@ -59,6 +81,13 @@ const QVector<QStringList> choices = {
     {"#def", "#rc", "#us", "#missing"},
     {"inline", "none", "", "block"},
     {"visible", "hidden", "collapse", "nonsense"},
+    {"10", "16", "150%"},
+    {"0", "3"},
+    {"default", "preserve"},
+    {"black", "red", "url(#lg)"},
+    {"", "rotate(5)", "translate(3 2)"},
+    {"nonzero", "evenodd"},
+    {"0", "5"},
 };
 
 QString sceneText(const QVector<int> &chosen)
@@ -214,7 +243,8 @@ void TestChanges::changedDocumentMeasuresLikeChangedText()
         chosen[slot] = random.bounded(choices.at(slot).size());
         apply(*changed, slot, chosen[slot]);
         const DocumentPointer expected = loadContent(sceneText(chosen));
-        for (const char *id : {"grp", "rc", "el", "pa", "tx", "us", "hid", "ci", "def"}) {
+        for (const char *id :
+             {"grp", "rc", "el", "pa", "tx", "us", "hid", "ci", "def", "gt", "tg", "tp", "re", "pr"}) {
             const QZeSvgNode *a = changed->namedNode(id);
             const QZeSvgNode *b = expected->namedNode(id);
             QVERIFY2(a->boundingRect() == b->boundingRect(), id);

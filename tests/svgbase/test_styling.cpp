@@ -1,5 +1,7 @@
 #include "svgdrawing.h"
 
+#include "document/documentprivate.h"
+
 #include <QtTest>
 
 #include <cmath>
@@ -38,6 +40,7 @@ private slots:
     void styleReplacesDashes();
     void noPenStrokesNothing();
     void lastWordCounts();
+    void sameStyleAgainChangesNothing();
     void gettersGiveWhatWasSet();
     void gettersGiveTheFirstStyledNode();
     void gettersPassOverControlPointsAndDefinitions();
@@ -217,6 +220,26 @@ void TestStyling::lastWordCounts()
     document->setAllFillBrush(QColor(0, 0, 255));
     QCOMPARE(fillOf(drawn(*document), 25), QColor(0, 0, 255));
     QCOMPARE(fillOf(drawn(*document), 75), QColor(0, 0, 255));
+}
+
+void TestStyling::sameStyleAgainChangesNothing()
+{
+    const DocumentPointer document = loadContent(twoRects);
+    const Svg::Document &content = DocumentPrivate::of(document.get())->content;
+    document->setAllFillBrush(QColor(0, 0, 255));
+    document->setAllStrokeWidth(4);
+    const quint32 revision = content.revision();
+    document->setAllFillBrush(QColor(0, 0, 255));
+    document->setAllStrokeWidth(4);
+    QCOMPARE(content.revision(), revision);
+    // One node alone was given another fill since.
+    document->namedNode(QStringLiteral("b"))->setAttribute(QStringLiteral("fill"), QStringLiteral("red"));
+    document->setAllFillBrush(QColor(0, 0, 255));
+    QVERIFY(content.revision() > revision);
+    QCOMPARE(fillOf(drawn(*document), 75), QColor(0, 0, 255));
+    const quint32 refilled = content.revision();
+    document->setAllStrokeColor(Qt::red);
+    QVERIFY(content.revision() > refilled);
 }
 
 void TestStyling::gettersGiveWhatWasSet()

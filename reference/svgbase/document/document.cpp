@@ -27,7 +27,7 @@ void Document::settle()
 bool Document::isCurrent(NodeIndex index, const FactsPointer &above) const
 {
     const FactsPointer &facts = m_facts.at(index);
-    if (!facts || facts->parent != above)
+    if (!facts || facts->parent != above || m_changes.value(index) != NoChange)
         return false;
     return facts->referenceRevision == 0 || facts->referenceRevision == m_referenceRevision;
 }
@@ -48,9 +48,24 @@ FactsPointer Document::facts(NodeIndex index)
 
 FactsPointer Document::factsBelow(NodeIndex child, const FactsPointer &above)
 {
-    if (m_changed && !isCurrent(child, above))
-        m_facts[child] = resolver().resolve(child, above);
+    if (m_changed && !isCurrent(child, above)) {
+        m_facts[child] = resolver().resolve(child, above, keptFacts(child, above));
+        if (child < m_changes.size())
+            m_changes[child] = NoChange;
+    }
     return m_facts.at(child);
+}
+
+KeptFacts Document::keptFacts(NodeIndex index, const FactsPointer &above) const
+{
+    const FactsPointer &facts = m_facts.at(index);
+    if (!facts)
+        return {};
+    const quint8 change = m_changes.value(index);
+    const bool sameGeometry = !(change & GeometryChange);
+    // Rules may look at any attribute.
+    const bool sameStyle = !(change & StyleChange) && facts->parent == above && !m_tree.rules();
+    return {facts.data(), sameStyle, sameGeometry, sameGeometry};
 }
 
 QRectF Document::visibleBounds(NodeIndex top)

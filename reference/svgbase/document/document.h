@@ -61,7 +61,12 @@ public:
 
 private:
     bool isCurrent(NodeIndex index, const FactsPointer &above) const;
-    void nodeChanged(NodeIndex index);
+    /// What of a node's facts has to be found out anew.
+    enum Change : quint8 { NoChange = 0, PlaceChange = 1, StyleChange = 2, GeometryChange = 4, AnyChange = 7 };
+    static Change changeBy(AttributeId attribute);
+    void nodeChanged(NodeIndex index, Change change);
+    void noteChange(NodeIndex index, quint8 change);
+    KeptFacts keptFacts(NodeIndex index, const FactsPointer &above) const;
     void structureChanged();
     /// Reads the style sheets again, after which every style is out of date.
     void settleRules();
@@ -72,6 +77,8 @@ private:
     Tree m_tree;
     QVector<FactsPointer> m_facts;
     GradientCache m_gradients;
+    /// By node index: a Change for each, since its facts were made. Shorter while nothing was changed.
+    QVector<quint8> m_changes;
     /// By node index; shorter while nothing was styled.
     QVector<StyleOverridePointer> m_overrides;
     quint32 m_revision = 0;

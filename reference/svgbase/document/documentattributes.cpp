@@ -91,12 +91,16 @@ QString Document::attribute(NodeIndex index, const QString &name) const
 void Document::setAttribute(NodeIndex index, const QString &name, const QString &value)
 {
     settle();
+    const AttributeId id = attributeId(name);
+    // A property takes effect again where document-wide styling has put another value over it.
+    const Attributes &present = std::as_const(m_tree).node(index).attributes;
+    if (changeBy(id) != StyleChange && present.contains(name) && present.value(name) == value)
+        return;
     m_tree.edit(index).attributes.set(name, value);
     if (isAnimation(m_tree.node(index).kind) || m_tree.node(index).kind == ElementKind::MotionPath) {
         ++m_revision;
         ++m_animationRevision;
     }
-    const AttributeId id = attributeId(name);
     if (m_tree.node(index).kind == ElementKind::Style || (m_tree.rules() && m_tree.rules()->dependsOn(name)))
         structureChanged();
     const ElementKind kind = m_tree.node(index).kind;
@@ -107,8 +111,11 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
         m_tree.forgetIds();
         structureChanged();
     }
+    // Asked for by the texts below.
+    if (id == AttributeId::XmlSpace)
+        m_facts.fill(FactsPointer());
     dropOverriddenStyle(index, id, value);
-    nodeChanged(index);
+    nodeChanged(index, changeBy(id));
 }
 
 void Document::setAnimatedStyle(NodeIndex index, const QString &declarations, const StyleOverridePointer &override)
@@ -117,10 +124,34 @@ void Document::setAnimatedStyle(NodeIndex index, const QString &declarations, co
     setStyleOverride(index, override);
     m_tree.edit(index).attributes.set(AttributeId::AnimatedStyle, declarations);
     dropOverriddenStyle(index, AttributeId::Style, declarations);
-    nodeChanged(index);
+    nodeChanged(index, StyleChange);
 }
 
-void Document::nodeChanged(NodeIndex index)
+Document::Change Document::changeBy(AttributeId attribute)
+{
+    if (isProperty(attribute))
+        return StyleChange;
+    switch (attribute) {
+    case AttributeId::Style:
+    case AttributeId::AnimatedStyle:
+    case AttributeId::Class:
+        return StyleChange;
+    case AttributeId::Transform:
+    case AttributeId::TransformOrigin:
+        return PlaceChange;
+    default:
+        return GeometryChange;
+    }
+}
+
+void Document::noteChange(NodeIndex index, quint8 change)
+{
+    if (m_changes.size() <= index)
+        m_changes.resize(m_tree.size());
+    m_changes[index] |= change;
+}
+
+void Document::nodeChanged(NodeIndex index, Change change)
 {
     ++m_revision;
     m_changed = true;
@@ -134,8 +165,9 @@ void Document::nodeChanged(NodeIndex index)
     NodeIndex at = index;
     while (isTextPart(m_tree.node(at).kind) && m_tree.node(at).parent != noNode)
         at = m_tree.node(at).parent;
-    m_facts[at].reset();
-    m_facts[index].reset();
+    if (at != index)
+        noteChange(at, AnyChange);
+    noteChange(index, change);
 }
 
 void Document::setNumericAttribute(NodeIndex index, const QString &name, double value)
@@ -154,6 +186,9 @@ void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
     const FactsPointer before = facts(index);
     QRectF box = ellipseBox(m_tree.node(index), before->style, before->viewport);
     adjustBox(box, side, value);
+    if (m_tree.node(index).attributes.value(side) == numberText(value) &&
+        box == ellipseBox(m_tree.node(index), before->style, before->viewport))
+        return;
     Node &node = m_tree.edit(index);
     // Kept so that the value reads back as it was written.
     node.attributes.set(side, numberText(value));
@@ -167,7 +202,7 @@ void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
     }
     node.attributes.set(AttributeId::Cx, numberText(box.x() + box.width() / 2));
     node.attributes.set(AttributeId::Cy, numberText(box.y() + box.height() / 2));
-    nodeChanged(index);
+    nodeChanged(index, GeometryChange);
 }
 
 void Document::dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value)

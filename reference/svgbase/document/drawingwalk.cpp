@@ -120,7 +120,7 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
     if (kind != ElementKind::Image && !hasGeometry(kind))
         return resolver.resolve(node, level.facts);
     const FactsPointer own = m_document.facts(node);
-    return resolver.resolve(node, level.facts, own.data());
+    return resolver.resolve(node, level.facts, {own.data(), false, false, true});
 }
 
 void Walk::visit(NodeIndex node, const FactsPointer &facts, bool used)

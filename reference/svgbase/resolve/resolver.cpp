@@ -94,6 +94,16 @@ Problem animationProblem(const Node &animation)
     return Problem();
 }
 
+// Without parts there is no style but the text's own.
+bool hasOneStyle(const Tree &tree, const Node &text)
+{
+    for (NodeIndex child = text.firstChild; child != noNode; child = tree.node(child).next) {
+        if (isTextPart(tree.node(child).kind) && tree.node(child).kind != ElementKind::Characters)
+            return false;
+    }
+    return true;
+}
+
 QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
 {
     if (facts.toDocument.type() <= QTransform::TxScale || path.isEmpty())
@@ -121,13 +131,14 @@ void Resolver::warn(const Node &node, const Problem &problem) const
                          node.attributes.value(AttributeId::Id));
 }
 
-void Resolver::resolveStyle(NodeIndex index, Facts *facts) const
+void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
     static const ComputedStyle initial;
     const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
     CascadeNotes notes;
-    facts->style = cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
+    facts->style = kept.style ? kept.facts->style
+                              : cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
     facts->displayed =
         facts->style.displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
     if (notes.rulesLeftOut)
@@ -257,8 +268,12 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     facts->outlines.append(outline);
 }
 
-void Resolver::resolveShape(NodeIndex index, const Facts *elsewhere, Facts *facts) const
+void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts) const
 {
+    if (keepsGeometry(index, kept, *facts)) {
+        keepGeometry(m_tree.node(index), *kept.facts, facts);
+        return;
+    }
     const Node &node = m_tree.node(index);
     Problem problem;
     const Geometry geometry = shapeGeometry(node, facts->style, facts->viewport, &problem);
@@ -270,16 +285,44 @@ void Resolver::resolveShape(NodeIndex index, const Facts *elsewhere, Facts *fact
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
         addOutline(geometry.path, facts->style, false, dashScale(node, facts->style, geometry.path), facts);
-    if (!elsewhere || elsewhere->outlines.isEmpty() || facts->outlines.isEmpty())
+    if (!kept.facts || kept.facts->outlines.isEmpty() || facts->outlines.isEmpty())
         return;
     // The same outline again takes no memory of its own.
-    const QPainterPath &known = elsewhere->outlines.constFirst().path;
+    const QPainterPath &known = kept.facts->outlines.constFirst().path;
     if (facts->outlines.constFirst().path == known)
         facts->outlines.first().path = known;
 }
 
-void Resolver::resolveText(NodeIndex index, Facts *facts) const
+bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const
 {
+    const Node &node = m_tree.node(index);
+    if (!kept.geometry || kept.facts->viewport != facts.viewport || !isLaidOutAlike(kept.facts->style, facts.style))
+        return false;
+    return node.kind != ElementKind::Text || (kept.facts->referenceRevision == 0 && hasOneStyle(m_tree, node));
+}
+
+void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) const
+{
+    const bool isText = node.kind == ElementKind::Text;
+    ComputedStyle style = facts->style;
+    if (isText)
+        style.fillRule = textFillRule;
+    facts->hasGeometry = kept.hasGeometry;
+    facts->localBounds = kept.localBounds;
+    QPainterPath whole;
+    for (const Outline &outline : kept.outlines) {
+        addOutline(outline.path, style, isText, isText ? 1 : dashScale(node, style, outline.path), facts);
+        whole.addPath(outline.path);
+    }
+    facts->bounds = kept.toDocument == facts->toDocument ? kept.bounds : mappedBounds(*facts, whole);
+}
+
+void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts) const
+{
+    if (keepsGeometry(index, kept, *facts)) {
+        keepGeometry(m_tree.node(index), *kept.facts, facts);
+        return;
+    }
     const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport, &m_glyphs);
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
@@ -297,14 +340,14 @@ void Resolver::resolveText(NodeIndex index, Facts *facts) const
         addOutline(run.path, run.style, true, 1, facts);
 }
 
-void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const
+void Resolver::resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
     const bool plain = node.attributes.contains(AttributeId::Href);
     const QString reference = node.attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref);
     Problem problem;
-    if (elsewhere)
-        facts->image = elsewhere->image;
+    if (kept.image)
+        facts->image = kept.facts->image;
     else if (!reference.isEmpty())
         facts->image = readImage(reference, &problem);
     warn(node, problem);
@@ -316,14 +359,14 @@ void Resolver::resolveImage(NodeIndex index, const Facts *elsewhere, Facts *fact
     facts->bounds = mappedBounds(*facts, QPainterPath());
 }
 
-FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere) const
+FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept) const
 {
     const Node &node = m_tree.node(index);
     auto *facts = new Facts;
     const FactsPointer result(facts);
     facts->parent = parent;
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
-    resolveStyle(index, facts);
+    resolveStyle(index, kept, facts);
     resolvePlace(node, facts);
     if (parent)
         facts->context = parent->context;
@@ -332,11 +375,11 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
     if (isAnimation(node.kind) && m_messages)
         warn(node, animationProblem(node));
     if (node.kind == ElementKind::Text)
-        resolveText(index, facts);
+        resolveText(index, kept, facts);
     else if (node.kind == ElementKind::Image)
-        resolveImage(index, elsewhere, facts);
+        resolveImage(index, kept, facts);
     else
-        resolveShape(index, elsewhere, facts);
+        resolveShape(index, kept, facts);
     return result;
 }
 

@@ -10,6 +10,19 @@
 
 namespace Svg {
 
+/// Facts of the same element, earlier or at another place, and what of them holds as long as its style does.
+/// Outlines that come out the same share their memory in any case.
+struct KeptFacts
+{
+    const Facts *facts = nullptr;
+    /// Nothing that style depends on has changed.
+    bool style = false;
+    /// Nothing that outlines depend on has changed, but perhaps the style.
+    bool geometry = false;
+    /// What an "image" shows is the same.
+    bool image = false;
+};
+
 /// Turns elements into facts: style, units, references and geometry settled.
 class Resolver
 {
@@ -26,18 +39,19 @@ public:
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
-    /// root. `elsewhere`, when given, are facts of the same element at another place, whose image and outline can
-    /// be shared.
-    FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const Facts *elsewhere = nullptr) const;
+    /// root.
+    FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept = {}) const;
     /// What "transform" says of an element, its origin applied.
     QTransform ownTransform(const Node &node, const Facts &facts) const;
 
 private:
-    void resolveStyle(NodeIndex index, Facts *facts) const;
+    void resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
-    void resolveShape(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
-    void resolveImage(NodeIndex index, const Facts *elsewhere, Facts *facts) const;
-    void resolveText(NodeIndex index, Facts *facts) const;
+    void resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
+    void resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
+    bool keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const;
+    void keepGeometry(const Node &node, const Facts &kept, Facts *facts) const;
+    void resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
                     Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;

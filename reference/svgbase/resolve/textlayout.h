@@ -10,6 +10,9 @@
 
 namespace Svg {
 
+/// Letters may overlap.
+constexpr Qt::FillRule textFillRule = Qt::WindingFill;
+
 /// Outlines of one style.
 struct TextRun
 {

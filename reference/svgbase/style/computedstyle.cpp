@@ -2,6 +2,13 @@
 
 namespace Svg {
 
+bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b)
+{
+    return a.font == b.font && a.text.constData() == b.text.constData() &&
+           a.inlineText.constData() == b.inlineText.constData() && a.textAnchor == b.textAnchor &&
+           a.visible == b.visible && a.attributes.isEmpty() && b.attributes.isEmpty();
+}
+
 ComputedStyle inheritedStyle(const ComputedStyle &parent)
 {
     ComputedStyle style = parent;

@@ -27,6 +27,12 @@ struct FontStyle
     double rootSize = 16;
     int weight = 400;
     bool italic = false;
+
+    bool operator==(const FontStyle &other) const
+    {
+        return family == other.family && size == other.size && rootSize == other.rootSize &&
+               weight == other.weight && italic == other.italic;
+    }
 };
 
 /// The value of every property of one element, inheritance done (SVG 1.1 §6.1). A fresh one holds initial values.
@@ -78,6 +84,9 @@ struct ComputedStyle
     /// Null for most parts of texts.
     QSharedDataPointer<InlineStyle> inlineText;
 };
+
+/// Whether two styles give an element of the same attributes the same outlines. A false answer may be too careful.
+bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b);
 
 /// What a child starts from: the inherited values of its parent and initial values for the rest.
 ComputedStyle inheritedStyle(const ComputedStyle &parent);

@@ -99,7 +99,7 @@ void TextPainter::measureLevels()
             aligned = Baseline::Central;
         measures.raised = shift - baselineHeight(aligned, measures.font);
         measures.paint = level.style;
-        measures.paint.fillRule = Qt::WindingFill;
+        measures.paint.fillRule = textFillRule;
         // A part fades by itself; of the text as a whole the opacity is applied to the picture.
         if (!isText) {
             const ComputedStyle &above = m_levels.at(level.above).paint;
