@@ -29,6 +29,9 @@ constexpr int extraHostFilledType = 1000;
 constexpr double lineHitMargin = 6;
 /// The library makes the pen this much wider in the region, item units.
 constexpr double regionPenMargin = 2;
+/// So many times its width a line may reach beyond its middle at a pointed corner: half of it, and Qt's limit for
+/// the point.
+constexpr double cornerReach = 0.5 + 2;
 
 bool fillsAlike(const QBrush &a, const QBrush &b)
 {
@@ -259,8 +262,7 @@ QRectF StyledShape::regionBox()
     const QRectF box = document ? document->viewBox() : QRectF();
     if (!outlineRegion || box.isEmpty())
         return target;
-    // Corners of the pen's outline reach as far beyond the line as it is wide.
-    const double reach = getPenWidth() + regionPenMargin;
+    const double reach = cornerReach * (getPenWidth() + regionPenMargin);
     const QRectF outline = stretching(box, target).mapRect(outlineRegion->controlPointRect());
     return outline.adjusted(-reach, -reach, reach, reach) | target;
 }
