@@ -42,6 +42,21 @@ bool ShapeObject::createSVGBase(int type, bool initGlobals)
     return svgBase->loadSVG(initGlobals);
 }
 
+bool ShapeObject::load(QDataStream &in)
+{
+    const bool loaded = CSVGObj::load(in);
+    // So that the host knows how far the shape reaches, its pen included.
+    regenRegionShape(nullptr);
+    return loaded;
+}
+
+bool ShapeObject::loadJson(QJsonObject &object)
+{
+    const bool loaded = CSVGObj::loadJson(object);
+    regenRegionShape(nullptr);
+    return loaded;
+}
+
 void ShapeObject::OnQPainterDraw(QPainter *painter)
 {
     // Other threads copy a finished picture and leave the core alone.

@@ -20,6 +20,8 @@ public:
     QString kindName() const override { return m_kind.nameKey(); }
     /// Makes a core unless there is one of that type already. A type that is not this shape's leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
+    bool load(QDataStream &in) override;
+    bool loadJson(QJsonObject &object) override;
     void OnQPainterDraw(QPainter *painter) override;
     /// Working the region out takes longer than everything else about a shape, so that it is done for those that
     /// somebody points at. Until then the region is a box around it.

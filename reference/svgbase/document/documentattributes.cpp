@@ -94,7 +94,8 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
     const AttributeId id = attributeId(name);
     // A property takes effect again where document-wide styling has put another value over it.
     const Attributes &present = std::as_const(m_tree).node(index).attributes;
-    if (changeBy(id) != StyleChange && present.contains(name) && present.value(name) == value)
+    const bool isThere = !value.isNull() && present.contains(name) && present.value(name) == value;
+    if (isThere && changeBy(id) != StyleChange)
         return;
     m_tree.edit(index).attributes.set(name, value);
     if (isAnimation(m_tree.node(index).kind) || m_tree.node(index).kind == ElementKind::MotionPath) {

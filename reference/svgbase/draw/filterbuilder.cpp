@@ -74,7 +74,8 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
     around->viewport = m_target.viewport;
     around->toDocument = m_target.toDocument;
     const Resolver resolver = m_context.document.resolver();
-    const FactsPointer facts = resolver.resolve(shown, holder, m_context.document.facts(shown).data());
+    const FactsPointer own = m_context.document.facts(shown);
+    const FactsPointer facts = resolver.resolve(shown, holder, {own.data(), false, false, true});
     primitive->items = buildElement(m_context, shown, facts);
 }
 
