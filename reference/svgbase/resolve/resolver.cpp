@@ -137,8 +137,9 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
     static const ComputedStyle initial;
     const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
     CascadeNotes notes;
-    facts->style = kept.style ? kept.facts->style
-                              : cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
+    facts->style = kept.style
+                       ? kept.facts->style
+                       : cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
     facts->displayed =
         facts->style.displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
     if (notes.rulesLeftOut)
