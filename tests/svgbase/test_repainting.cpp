@@ -20,6 +20,7 @@ private slots:
     void movedSegmentRepaintsItsSurroundings();
     void strokeReachesBeyondASegment();
     void dashedStrokeIsRepaintedWhole();
+    void singleLineIsRepaintedWholeUnlessItsEndsAreRound();
     void gradientIsRepaintedWhole();
     void groupWithOpacityIsRepaintedWhole();
     void changeBelowIsRepainted();
@@ -140,6 +141,19 @@ void TestRepainting::dashedStrokeIsRepaintedWhole()
     drawing.set("p", "d", "M20 20H60V60H30");
     // Half the width times the square root of two, for square ends.
     QCOMPARE(drawing.repainted(), Rects{QRect(16, 16, 48, 48)});
+}
+
+void TestRepainting::singleLineIsRepaintedWholeUnlessItsEndsAreRound()
+{
+    const QString drawn("<path id='line' d='M20 50H80' stroke='black' stroke-width='2' stroke-linecap='%1'/>"
+                        "<rect id='a' x='70' y='45' width='4' height='4'/>");
+    Drawing flat(drawn.arg("butt"));
+    flat.set("a", "fill", "green");
+    // Half the width times the miter limit, of which a line makes no use.
+    QCOMPARE(flat.repainted(), Rects{QRect(14, 43, 72, 13)});
+    Drawing round(drawn.arg("round"));
+    round.set("a", "fill", "green");
+    QCOMPARE(round.repainted(), Rects{QRect(68, 43, 8, 8)});
 }
 
 void TestRepainting::gradientIsRepaintedWhole()

@@ -46,7 +46,8 @@ struct DisplayItem
     /// Whether another list took over what is mapped here.
     bool takenOver = false;
     /// Whether painting a part of the item may give other pixels than painting all of it: steps along a gradient or
-    /// a pattern are counted from where a row begins, and lines with hard edges from where they enter the clip.
+    /// a pattern are counted from where a row begins, and lines with hard edges or without round ends from where
+    /// they enter the clip.
     bool isIndivisible = false;
     QPainterPath path;
     QBrush fill;

@@ -109,6 +109,24 @@ double userThreshold(const QPainterPath &path, double scale)
     return scale > 0 ? qMax(finest, curveThreshold / scale) : curveThreshold;
 }
 
+// Whether the path is nothing but single lines, each after a move.
+bool isSingleLines(const QPainterPath &path)
+{
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const auto expected = i % 2 ? QPainterPath::LineToElement : QPainterPath::MoveToElement;
+        if (path.elementAt(i).type != expected)
+            return false;
+    }
+    return true;
+}
+
+// Painters have a way of their own for single lines without round ends: these are cut where they leave the clip,
+// and the rounding of the cut shows in a pixel now and then.
+bool isCutAtClip(const DisplayItem &item)
+{
+    return item.pen.style() != Qt::NoPen && item.pen.capStyle() != Qt::RoundCap && isSingleLines(item.path);
+}
+
 bool isInRange(double coordinate)
 {
     return qAbs(coordinate) <= Limits::mappedCoordinate;
@@ -225,8 +243,8 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         mapUnscaledStroke(item, outline, transform, world, budget);
     item->strokedPieces = strokedPieces(*item);
     item->outlineLength = paintedLength(*item);
-    item->isIndivisible =
-        !item->smooth || item->fill.style() > Qt::SolidPattern || item->pen.brush().style() > Qt::SolidPattern;
+    item->isIndivisible = !item->smooth || item->fill.style() > Qt::SolidPattern ||
+                          item->pen.brush().style() > Qt::SolidPattern || isCutAtClip(*item);
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
