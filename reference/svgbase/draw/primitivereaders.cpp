@@ -152,6 +152,7 @@ Turbulence readTurbulence(const Attributes &attributes, const PrimitiveUnits &un
     result.octaves = qBound(0, wholeNumber(attributes, "numOctaves", 1), mostOctaves);
     result.fractal = text(attributes, "type") == QLatin1String("fractalNoise");
     result.stitches = text(attributes, "stitchTiles") == QLatin1String("stitch");
+    result.start = number(attributes, "seed", 0);
     return result;
 }
 
