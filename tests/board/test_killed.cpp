@@ -1,0 +1,164 @@
+// What is left when the board is killed: while it saves, and while nothing has been saved.
+
+#include <board/boarddriver.h>
+
+#include <documents/documentcontroller.h>
+#include <documents/recovery.h>
+#include <objects/demopages.h>
+#include <window/mainwindow.h>
+#include <window/notices.h>
+
+#include <pagehost/documentfile.h>
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace boardtest;
+
+namespace {
+
+constexpr int kills = 100; ///< in each format
+constexpr int measuredSaves = 4;
+const QPointF corner(500, 300);
+const QPointF oppositeCorner(700, 420);
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void takeBackAndSave(BoardDriver &board)
+{
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    board.key(Qt::Key_S, Qt::ControlModifier);
+}
+
+void doAgainAndSave(BoardDriver &board)
+{
+    board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    board.key(Qt::Key_S, Qt::ControlModifier);
+}
+
+void killAndWait(pid_t process)
+{
+    ::kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+}
+
+} // namespace
+
+class TestKilled : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// The first board of a process makes the user's folders, which children are to share.
+    void initTestCase() { const BoardDriver first; }
+    void killedWhileSavingItLeavesTheOldOrTheNewFile_data();
+    void killedWhileSavingItLeavesTheOldOrTheNewFile();
+    void workOfAKilledBoardIsOfferedAndBroughtBack();
+};
+
+void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("binary") << "lesson.board";
+    QTest::newRow("json") << "lesson.board.json";
+}
+
+void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile()
+{
+    QFETCH(QString, name);
+    QSettings().clear();
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(name);
+    BoardDriver board;
+    board::fillWithDemo(board.workspace());
+    QVERIFY(pagehost::saveDocument(*board.workspace().document(), file).saved);
+    QVERIFY(board.window().documents()->openNow(file));
+    board.draw(rectangle, corner, oppositeCorner);
+    board.key(Qt::Key_S, Qt::ControlModifier);
+    const QByteArray newBytes = contentsOf(file);
+    takeBackAndSave(board);
+    const QByteArray oldBytes = contentsOf(file);
+    QVERIFY(oldBytes.size() < newBytes.size());
+
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < measuredSaves / 2; ++i) {
+        doAgainAndSave(board);
+        QCOMPARE(contentsOf(file), newBytes);
+        takeBackAndSave(board);
+        QCOMPARE(contentsOf(file), oldBytes);
+    }
+    const int saveTime = int(timer.nsecsElapsed() / 1000 / measuredSaves);
+
+    std::mt19937 random(20240609);
+    std::uniform_int_distribution<int> moment(0, 3 * saveTime);
+    int oldSeen = 0;
+    int newSeen = 0;
+    for (int round = 0; round < kills; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (;;) {
+                doAgainAndSave(board);
+                takeBackAndSave(board);
+            }
+        }
+        usleep(useconds_t(moment(random)));
+        killAndWait(child);
+        const QByteArray found = contentsOf(file);
+        QVERIFY(found == oldBytes || found == newBytes);
+        ++(found == oldBytes ? oldSeen : newSeen);
+    }
+    // Else the moments missed the saves.
+    QVERIFY(oldSeen > 0 && newSeen > 0);
+}
+
+void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
+{
+    QSettings().clear();
+    int ready[2];
+    QCOMPARE(pipe(ready), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        BoardDriver board;
+        board.draw(rectangle, corner, oppositeCorner);
+        const char made = board.window().recovery()->autosave().saveNow() ? 1 : 0;
+        const bool told = write(ready[1], &made, 1) == 1;
+        pause();
+        _exit(told ? 0 : 1);
+    }
+    ::close(ready[1]);
+    char made = 0;
+    const bool answered = read(ready[0], &made, 1) == 1;
+    ::close(ready[0]);
+    killAndWait(child);
+    QVERIFY(answered && made == 1);
+
+    BoardDriver next;
+    QCOMPARE(next.page().objectCount(), 0);
+    next.window().recovery()->offer();
+    QPushButton *bringBack = next.button("Bring back");
+    QVERIFY(bringBack);
+    QTest::mouseClick(bringBack, Qt::LeftButton);
+    QCOMPARE(next.page().objectCount(), 1);
+    QCOMPARE(next.placeOf(qAsConst(next).page().objects().first()), QRectF(corner, oppositeCorner));
+    QVERIFY(next.window().isWindowModified());
+    QVERIFY(next.window().recovery()->autosave().recoverable().isEmpty());
+}
+
+QTEST_MAIN(TestKilled)
+#include "test_killed.moc"
