@@ -31,7 +31,14 @@ constexpr int handleReach = 60;
 /// Finer than a handle is large.
 constexpr int coarseStep = 8;
 
-/// Settings and data of the user who runs the tests are left alone.
+std::unique_ptr<board::Workspace> makeWorkspace(const QString &language)
+{
+    useOwnFolders();
+    return std::make_unique<board::Workspace>(language);
+}
+
+} // namespace
+
 void useOwnFolders()
 {
     static const QTemporaryDir home;
@@ -42,14 +49,6 @@ void useOwnFolders()
     QCoreApplication::setOrganizationName(QStringLiteral("gliololok"));
     QCoreApplication::setApplicationName(QStringLiteral("gliololok-board"));
 }
-
-std::unique_ptr<board::Workspace> makeWorkspace(const QString &language)
-{
-    useOwnFolders();
-    return std::make_unique<board::Workspace>(language);
-}
-
-} // namespace
 
 BoardDriver::BoardDriver(const QString &language)
     : m_workspace(makeWorkspace(language))

@@ -64,12 +64,45 @@ class TestKilled : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The first board of a process makes the user's folders, which children are to share.
-    void initTestCase() { const BoardDriver first; }
+    void initTestCase() { useOwnFolders(); }
+    // First: a child has none of the threads that boards start in this process, and would wait for them.
+    void workOfAKilledBoardIsOfferedAndBroughtBack();
     void killedWhileSavingItLeavesTheOldOrTheNewFile_data();
     void killedWhileSavingItLeavesTheOldOrTheNewFile();
-    void workOfAKilledBoardIsOfferedAndBroughtBack();
 };
+
+void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
+{
+    QSettings().clear();
+    int ready[2];
+    QCOMPARE(pipe(ready), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        BoardDriver board;
+        board.draw(rectangle, corner, oppositeCorner);
+        const char made = board.window().recovery()->autosave().saveNow() ? 1 : 0;
+        const bool told = write(ready[1], &made, 1) == 1;
+        pause();
+        _exit(told ? 0 : 1);
+    }
+    ::close(ready[1]);
+    char made = 0;
+    const bool answered = read(ready[0], &made, 1) == 1;
+    ::close(ready[0]);
+    killAndWait(child);
+    QVERIFY(answered && made == 1);
+
+    BoardDriver next;
+    QCOMPARE(next.page().objectCount(), 0);
+    next.window().recovery()->offer();
+    QPushButton *bringBack = next.button("Bring back");
+    QVERIFY(bringBack);
+    QTest::mouseClick(bringBack, Qt::LeftButton);
+    QCOMPARE(next.page().objectCount(), 1);
+    QCOMPARE(next.placeOf(qAsConst(next).page().objects().first()), QRectF(corner, oppositeCorner));
+    QVERIFY(next.window().isWindowModified());
+    QVERIFY(next.window().recovery()->autosave().recoverable().isEmpty());
+}
 
 void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile_data()
 {
@@ -125,39 +158,6 @@ void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile()
     }
     // Else the moments missed the saves.
     QVERIFY(oldSeen > 0 && newSeen > 0);
-}
-
-void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
-{
-    QSettings().clear();
-    int ready[2];
-    QCOMPARE(pipe(ready), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        BoardDriver board;
-        board.draw(rectangle, corner, oppositeCorner);
-        const char made = board.window().recovery()->autosave().saveNow() ? 1 : 0;
-        const bool told = write(ready[1], &made, 1) == 1;
-        pause();
-        _exit(told ? 0 : 1);
-    }
-    ::close(ready[1]);
-    char made = 0;
-    const bool answered = read(ready[0], &made, 1) == 1;
-    ::close(ready[0]);
-    killAndWait(child);
-    QVERIFY(answered && made == 1);
-
-    BoardDriver next;
-    QCOMPARE(next.page().objectCount(), 0);
-    next.window().recovery()->offer();
-    QPushButton *bringBack = next.button("Bring back");
-    QVERIFY(bringBack);
-    QTest::mouseClick(bringBack, Qt::LeftButton);
-    QCOMPARE(next.page().objectCount(), 1);
-    QCOMPARE(next.placeOf(qAsConst(next).page().objects().first()), QRectF(corner, oppositeCorner));
-    QVERIFY(next.window().isWindowModified());
-    QVERIFY(next.window().recovery()->autosave().recoverable().isEmpty());
 }
 
 QTEST_MAIN(TestKilled)
