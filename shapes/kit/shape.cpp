@@ -38,6 +38,11 @@ constexpr double templateHalf = 4;
 constexpr int settlingRounds = 2;
 constexpr int numberDigits = 10;
 
+bool isSide(double length)
+{
+    return length > 0 && length < largestSide;
+}
+
 bool isNear(QPointF a, QPointF b, double distance)
 {
     return qAbs(a.x() - b.x()) < distance && qAbs(a.y() - b.y()) < distance;
@@ -399,10 +404,8 @@ const Following &Shape::followingOf(int number, Qt::Orientation axis)
 
 bool Shape::fitTo(const QSizeF &newSize)
 {
-    const bool drawable = newSize.width() > 0 && newSize.height() > 0 && newSize.width() < largestSide &&
-                          newSize.height() < largestSide;
     const QRectF box(QPointF(0, 0), newSize);
-    if (!drawable || !document || document->viewBox() == box)
+    if (!isSide(newSize.width()) || !isSide(newSize.height()) || !document || document->viewBox() == box)
         return false;
     document->setViewBox(box);
     placeControlPoints();
@@ -466,12 +469,22 @@ void Shape::redraw(bool refresh)
         invalidate();
 }
 
+// Damaged files bring sizes and places for which a shape that repeats its parts would never end.
+bool Shape::isDrawable() const
+{
+    const auto isPlace = [](QPointF point) {
+        return qAbs(point.x()) < largestSide && qAbs(point.y()) < largestSide;
+    };
+    return isSide(width()) && isSide(height()) && std::all_of(m_points.begin(), m_points.end(), isPlace);
+}
+
 void Shape::settleDrawing()
 {
     if (m_isDrawn || !document)
         return;
     m_isDrawn = true;
-    draw();
+    if (isDrawable())
+        draw();
     if (document->getAllFillBrush().gradient())
         takePageFill();
     updateOutlineRegion();

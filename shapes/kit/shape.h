@@ -109,6 +109,7 @@ private:
     const Following &followingOf(int number, Qt::Orientation axis);
     /// False when the drawing has that size already, or can't have it.
     bool fitTo(const QSizeF &newSize);
+    bool isDrawable() const;
     void takeMovedControlPoints();
     /// Where all points stand, each within the limits that the others leave it.
     void settlePoints();

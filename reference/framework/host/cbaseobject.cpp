@@ -6,6 +6,7 @@
 #include <host/rootobjectprivate.h>
 
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPixmapCache>
 #include <QtWidgets/QGraphicsScene>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 
@@ -13,6 +14,16 @@ namespace {
 
 /// Host type of an object whose class does not give one of its own.
 constexpr int plainObjectType = 1000;
+/// Room for the pictures of a large screen full of objects, KB. Qt's own 10 MB are less than a window of small
+/// objects takes; views would then paint every object anew each time.
+constexpr int pictureRoom = 64 * 1024;
+
+void makeRoomForPictures()
+{
+    if (QPixmapCache::cacheLimit() < pictureRoom) {
+        QPixmapCache::setCacheLimit(pictureRoom);
+    }
+}
 
 } // namespace
 
@@ -26,6 +37,7 @@ CBaseObject::CBaseObject(int kind, bool selectable, QGraphicsItem *parent, IPsPa
     // Views keep a picture of each object and paint it anew after update(): an untouched page costs next to
     // nothing.
     setCacheMode(DeviceCoordinateCache);
+    makeRoomForPictures();
 }
 
 CBaseObject::~CBaseObject() = default;
