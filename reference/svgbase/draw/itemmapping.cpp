@@ -102,10 +102,10 @@ QPainterPath mappedPath(const QPainterPath &path, const QTransform &transform)
 }
 
 // Never so fine that a curve falls into more pieces than a double can tell apart.
-double userThreshold(const QPainterPath &path, double scale)
+double userThreshold(const QPainterPath &path, double penWidth, double scale)
 {
     const QRectF box = path.controlPointRect();
-    const double finest = (box.width() + box.height()) * finestThreshold;
+    const double finest = (box.width() + box.height() + penWidth) * finestThreshold;
     return scale > 0 ? qMax(finest, curveThreshold / scale) : curveThreshold;
 }
 
@@ -167,7 +167,7 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
     if (budget->isUsedUp())
         return;
     QPainterPathStroker stroker(pen);
-    stroker.setCurveThreshold(userThreshold(path, scale));
+    stroker.setCurveThreshold(userThreshold(path, pen.widthF(), scale));
     item->strokePath = transform.map(stroker.createStroke(path));
     item->strokePath.setFillRule(Qt::WindingFill);
     budget->strokeElements -= item->strokePath.elementCount();
