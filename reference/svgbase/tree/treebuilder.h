@@ -1,0 +1,50 @@
+#pragma once
+
+#include "inputlimits.h"
+#include "tree/message.h"
+#include "tree/tree.h"
+#include "tree/xmlevents.h"
+
+namespace Svg {
+
+/// Makes a tree of what a reader of XML tells, within the limits.
+class TreeBuilder
+{
+public:
+    TreeBuilder(Tree *tree, Messages *messages)
+        : m_tree(tree)
+        , m_messages(messages)
+    {
+    }
+
+    void startElement(const XmlElement &element, XmlPlace place);
+    void endElement();
+    void characters(QStringView text, bool cdata, XmlPlace place);
+
+    /// Why the text can't be used; nothing while it can.
+    const Problem &refusal() const { return m_refusal; }
+
+private:
+    void startOpen(const XmlElement &element, XmlPlace place);
+    bool isLeftOut(const XmlElement &element, XmlPlace place);
+    void refuse(Message::Code code, const QString &why) { m_refusal = {code, why}; }
+    ElementKind kindOfElement(const XmlElement &element, XmlPlace place);
+    bool isInText() const;
+    NodeIndex add(Node &node, XmlPlace place);
+
+    Tree *m_tree;
+    Messages *m_messages;
+    Problem m_refusal;
+    /// Open elements, and how many namespace declarations each brought into force.
+    QVector<NodeIndex> m_open;
+    QVector<int> m_openNamespaces;
+    int m_namespaces = 0;
+    int m_textPaths = 0;
+    /// Open elements that are left out, all of them inside the outermost one.
+    int m_leftOut = 0;
+    int m_stops = 0;
+    bool m_withoutNamespace = false;
+    int m_charactersLeft = Limits::textCharacters;
+};
+
+} // namespace Svg
