@@ -260,7 +260,28 @@ void TestGrammars::color_data()
     QTest::newRow("rgb() with slash") << "rgb(1 2 3 / 20%)" << QColor(1, 2, 3, 51);
     QTest::newRow("hsl()") << "hsl(120, 100%, 50%)" << QColor(0, 255, 0);
     QTest::newRow("hsl() turned") << "hsl(-240, 100%, 50%)" << QColor(0, 255, 0);
-    QTest::newRow("name") << "rebeccapurple" << QColor();
+    QTest::newRow("rgb() of numbers and percentages") << "rgb(20% 0 51)" << QColor(51, 0, 51);
+    QTest::newRow("missing components") << "rgb(none 255 none / none)" << QColor(0, 255, 0, 0);
+    QTest::newRow("hwb()") << "hwb(120 0% 0%)" << QColor(0, 255, 0);
+    QTest::newRow("hwb() with white and black") << "hwb(0.5turn 20% 40%)" << QColor(51, 153, 153);
+    QTest::newRow("hwb() of more than all") << "hwb(0 60% 60%)" << QColor(128, 128, 128);
+    QTest::newRow("lab() white") << "lab(100% 0 0)" << QColor(255, 255, 255);
+    QTest::newRow("lab() grey") << "lab(50 0 0 / 0.2)" << QColor(119, 119, 119, 51);
+    QTest::newRow("lab() of percentages") << "lab(50 0% 0%)" << QColor(119, 119, 119);
+    QTest::newRow("lch() red") << "lch(54.2917% 106.8372 40.858)" << QColor(255, 0, 0);
+    QTest::newRow("lch() grey") << "lch(50 0 270deg)" << QColor(119, 119, 119);
+    QTest::newRow("oklab() white") << "oklab(100% 0 0)" << QColor(255, 255, 255);
+    QTest::newRow("oklab() red") << "oklab(0.62796 0.22486 0.12585)" << QColor(255, 0, 0);
+    QTest::newRow("oklch() blue") << "oklch(45.201% 0.31321 264.052)" << QColor(0, 0, 255);
+    QTest::newRow("color() of sRGB") << "color(srgb 1 50% 0 / 20%)" << QColor(255, 128, 0, 51);
+    QTest::newRow("color() of light") << "color(srgb-linear 0.5 0.5 0.5)" << QColor(188, 188, 188);
+    QTest::newRow("color() of a larger space") << "color(display-p3 0 1 0)" << QColor(0, 255, 0);
+    QTest::newRow("color() of Adobe's exponent") << "color(a98-rgb 0.75 0.75 0.75)" << QColor(193, 193, 193);
+    QTest::newRow("color() of photographs") << "color(prophoto-rgb 0.5 0.5 0.5)" << QColor(146, 146, 146);
+    QTest::newRow("color() of television") << "color(rec2020 0.5 0.5 0.5)" << QColor(139, 139, 139);
+    QTest::newRow("color() of XYZ") << "color(xyz 0.95046 1 1.08906)" << QColor(255, 255, 255);
+    QTest::newRow("color() of XYZ, D50") << "color(xyz-d50 0.96430 1 0.82510)" << QColor(255, 255, 255);
+    QTest::newRow("name of CSS") << "rebeccapurple" << QColor(0x66, 0x33, 0x99);
     QTest::newRow("name of the list") << "LightGoldenRodYellow" << QColor(250, 250, 210);
     QTest::newRow("transparent") << "transparent" << QColor(0, 0, 0, 0);
     QTest::newRow("space around") << " red " << QColor(255, 0, 0);
@@ -279,9 +300,40 @@ void TestGrammars::color()
 void TestGrammars::notAColor_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text :
-         {"", "#", "#12", "#12345", "#1234567", "#123456789", "#ggg", "rgb", "rgb(1,2)", "rgb(1,2,3",
-          "rgb(1,2,3,4,5)", "rgb(NaN,0,0)", "none", "currentColor", "no such name", "url(#a)"})
+    for (const char *text : {"",
+                             "#",
+                             "#12",
+                             "#12345",
+                             "#1234567",
+                             "#123456789",
+                             "#ggg",
+                             "rgb",
+                             "rgb(1,2)",
+                             "rgb(1,2,3",
+                             "rgb(1,2,3,4,5)",
+                             "rgb(NaN,0,0)",
+                             "rgb(1 2,3)",
+                             "rgb(1,2 3)",
+                             "rgb(1,2,3/4)",
+                             "rgb(1 2 3 4)",
+                             "rgb(1%,2,3)",
+                             "rgb(1deg 2 3)",
+                             "rgb(none,0,0)",
+                             "hsl(1% 2% 3%)",
+                             "hwb(1,2%,3%)",
+                             "lab(1,2,3)",
+                             "lch(1 2 3%)",
+                             "oklab(1 2deg 3)",
+                             "color(1 2 3)",
+                             "color(unknown 1 2 3)",
+                             "color(srgb,1,2,3)",
+                             "color(srgb 1 2 3deg)",
+                             "color(srgb 1 2)",
+                             "lab(1 2 3) x",
+                             "none",
+                             "currentColor",
+                             "no such name",
+                             "url(#a)"})
         QTest::newRow(text[0] ? text : "empty") << QString::fromLatin1(text);
 }
 

@@ -1,5 +1,6 @@
 #include "draw/itemmapping.h"
 
+#include "draw/clippedmiters.h"
 #include "draw/layereffects.h"
 #include "draw/paintingwork.h"
 #include "inputlimits.h"
@@ -139,7 +140,8 @@ bool isPaintable(const QRectF &box)
 
 double strokeReach(const QPen &pen)
 {
-    const double miter = pen.joinStyle() == Qt::SvgMiterJoin ? qMax(1.0, pen.miterLimit()) : 1;
+    const bool hasTips = pen.joinStyle() == Qt::SvgMiterJoin || pen.joinStyle() == Qt::MiterJoin;
+    const double miter = hasTips ? qMax(1.0, pen.miterLimit()) : 1;
     return pen.widthF() / 2 * qMax(miter, M_SQRT2);
 }
 
@@ -148,12 +150,17 @@ QSizeF mappedReach(double reach, const QTransform &t)
     return QSizeF(reach * std::hypot(t.m11(), t.m21()), reach * std::hypot(t.m12(), t.m22()));
 }
 
-void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, const QTransform &transform,
+void mapStroke(DisplayItem *item, const QPen &asked, const QPainterPath &path, const QTransform &transform,
                MappingBudget *budget)
 {
-    item->strokedWith = pen;
+    item->strokedWith = asked;
     const double scale = meanScale(transform);
-    if (keepsShapes(transform)) {
+    // Painters have no joins that are cut like these.
+    const QPainterPath tips = clippedMiters(path, asked);
+    QPen pen = asked;
+    if (pen.joinStyle() == Qt::MiterJoin)
+        pen.setJoinStyle(Qt::SvgMiterJoin);
+    if (tips.isEmpty() && keepsShapes(transform)) {
         item->pen = pen;
         item->pen.setBrush(mappedBrush(pen.brush(), transform));
         // Control points are sized for the screen by whoever edits; their line is as wide at every zoom.
@@ -168,7 +175,9 @@ void mapStroke(DisplayItem *item, const QPen &pen, const QPainterPath &path, con
         return;
     QPainterPathStroker stroker(pen);
     stroker.setCurveThreshold(userThreshold(path, pen.widthF(), scale));
-    item->strokePath = transform.map(stroker.createStroke(path));
+    QPainterPath stroke = stroker.createStroke(path);
+    stroke.addPath(tips);
+    item->strokePath = transform.map(stroke);
     item->strokePath.setFillRule(Qt::WindingFill);
     budget->strokeElements -= item->strokePath.elementCount();
     item->pen.setBrush(mappedBrush(pen.brush(), transform));

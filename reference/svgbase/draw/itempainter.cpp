@@ -1,6 +1,7 @@
 #include "draw/itempainter.h"
 
 #include "draw/compositionmodes.h"
+#include "draw/filtercanvas.h"
 #include "draw/filterrunner.h"
 #include "draw/layereffects.h"
 #include "draw/layerpictures.h"
@@ -11,6 +12,7 @@
 #include <QtGui/QPainter>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Svg {
@@ -35,11 +37,11 @@ double pixelCount(const QRect &area, double pixelRatio)
     return double(area.width()) * area.height() * pixelRatio * pixelRatio;
 }
 
-/// A picture that is painted aside, in the coordinates of the painter below.
+/// A picture that is painted aside, in the coordinates of the painter below, or of a canvas.
 class SidePicture
 {
 public:
-    SidePicture(const QRect &area, double pixelRatio, PaintBudget *budget)
+    SidePicture(const QRect &area, double pixelRatio, PaintBudget *budget, const QTransform &toCanvas)
         : m_area(area)
         , m_budget(budget)
         , m_pixels(pixelCount(area, pixelRatio))
@@ -52,7 +54,7 @@ public:
         m_image.fill(Qt::transparent);
         m_painter.begin(&m_image);
         m_painter.setRenderHints(smooth);
-        m_painter.translate(-area.topLeft());
+        m_painter.setTransform(toCanvas * QTransform::fromTranslate(-area.x(), -area.y()));
     }
     ~SidePicture()
     {
@@ -62,14 +64,15 @@ public:
     SidePicture(const SidePicture &) = delete;
     SidePicture &operator=(const SidePicture &) = delete;
 
-    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PaintBudget *budget)
+    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PaintBudget *budget,
+                                             const QTransform &toCanvas = QTransform())
     {
         const double pixels = pixelCount(area, pixelRatio);
         const bool affordable = pixels >= 1 && pixels <= budget->left &&
                                 budget->open + pixels <= Limits::openLayerPixels &&
                                 budget->depth < Limits::layerDepth;
         budget->lacksPixels = budget->lacksPixels || !affordable;
-        return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget) : nullptr;
+        return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget, toCanvas) : nullptr;
     }
 
     const QRect &area() const { return m_area; }
@@ -104,6 +107,8 @@ struct Layer
     std::shared_ptr<LayerEffects> effects;
     /// Null for a group that is painted straight on what lies below.
     std::unique_ptr<SidePicture> picture;
+    /// What the picture is painted on until it is filtered, where that is not the pixels of the painter below.
+    std::optional<FilterCanvas> canvas;
     /// Whether the painter below was given a clip for this group.
     bool clips = false;
 };
@@ -123,11 +128,14 @@ private:
     bool beginStraight(const DisplayItem &begin, Layer *layer);
     void endLayer();
     Layer *pictureBelow();
+    bool beginPicture(const DisplayItem &begin, Layer *layer);
     bool filtered(const Filter &filter, const Layer &layer, QImage *picture);
+    void leaveCanvas(Layer *layer);
     void finish(Layer *layer);
     bool blendByHand(const Layer &done, BlendMode mode);
     void paintPicture(Layer *done);
     std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
+    std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const Layer &layer);
 
     std::vector<Layer> m_layers;
     /// The painter that has pen and brush of an item, and that item.
@@ -246,8 +254,10 @@ bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
     const QRectF rect = effects->regionPath.controlPointRect();
     if (!effects->holdsContent && !isOfPixels(rect, m_pixelRatio))
         return false;
-    layer->clips = !effects->holdsContent;
     const Layer &below = m_layers.back();
+    layer->clips = !effects->holdsContent;
+    if (layer->clips && below.painter->worldTransform().type() > QTransform::TxScale)
+        return false;
     layer->painter = below.painter;
     layer->opacity = below.opacity;
     if (layer->clips) {
@@ -270,8 +280,7 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
         m_layers.push_back(std::move(layer));
         return true;
     }
-    layer.picture = SidePicture::make(layer.area, m_pixelRatio, m_budget);
-    if (layer.picture) {
+    if (beginPicture(begin, &layer)) {
         layer.painter = layer.picture->painter();
         layer.pictureOpacity = below.opacity * begin.opacity;
         layer.effects = begin.effects;
@@ -286,11 +295,43 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
     return true;
 }
 
+// The pixels of a canvas that a layer takes.
+QRect canvasArea(const FilterCanvas &canvas, const QRect &area)
+{
+    const QRectF mapped = canvas.fromPainter.mapRect(QRectF(area));
+    const QRectF needed = canvas.needed.isNull() ? mapped : mapped & canvas.needed;
+    return needed.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach).toAlignedRect();
+}
+
+bool ItemPainter::beginPicture(const DisplayItem &begin, Layer *layer)
+{
+    if (begin.effects && begin.effects->filter)
+        layer->canvas = filterCanvas(*begin.effects->filter);
+    if (layer->canvas)
+        layer->picture = SidePicture::make(canvasArea(*layer->canvas, layer->area), m_pixelRatio, m_budget,
+                                           layer->canvas->fromPainter);
+    else
+        layer->picture = SidePicture::make(layer->area, m_pixelRatio, m_budget);
+    return layer->picture != nullptr;
+}
+
 std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &items, const QRect &area)
 {
     std::unique_ptr<SidePicture> picture = SidePicture::make(area, m_pixelRatio, m_budget);
     if (picture)
         ItemPainter(picture->painter(), area, m_pixelRatio, m_budget).paint(items);
+    return picture;
+}
+
+// In the pixels of the layer's own picture.
+std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &items, const Layer &layer)
+{
+    if (!layer.canvas)
+        return painted(items, layer.area);
+    std::unique_ptr<SidePicture> picture =
+        SidePicture::make(layer.picture->area(), m_pixelRatio, m_budget, layer.canvas->fromPainter);
+    if (picture)
+        ItemPainter(picture->painter(), layer.area, m_pixelRatio, m_budget).paint(items);
     return picture;
 }
 
@@ -311,25 +352,45 @@ bool ItemPainter::filtered(const Filter &filter, const Layer &layer, QImage *pic
         return m_budget->left >= 0;
     };
     services.paint = [this, &layer](const QVector<DisplayItem> &items) {
-        const std::unique_ptr<SidePicture> side = painted(items, layer.area);
+        const std::unique_ptr<SidePicture> side = painted(items, layer);
         QImage image = side ? *side->finished() : QImage();
         image.setDevicePixelRatio(1);
         return image;
     };
-    const QPoint corner = layer.area.topLeft();
-    const QTransform toPixels = filter.toPainter * QTransform::fromTranslate(-corner.x(), -corner.y()) *
+    const QPoint corner = layer.picture->area().topLeft();
+    const QTransform toCanvas = layer.canvas ? layer.canvas->fromPainter : QTransform();
+    const QTransform toPixels = filter.toPainter * toCanvas * QTransform::fromTranslate(-corner.x(), -corner.y()) *
                                 QTransform::fromScale(m_pixelRatio, m_pixelRatio);
     return runFilter(filter, toPixels, services, picture);
 }
 
+// The picture goes on in the pixels of the painter below.
+void ItemPainter::leaveCanvas(Layer *layer)
+{
+    if (!layer->canvas)
+        return;
+    std::unique_ptr<SidePicture> picture = SidePicture::make(layer->area, m_pixelRatio, m_budget);
+    if (!picture) {
+        // Too dear: nothing is left to show.
+        layer->picture->image()->fill(Qt::transparent);
+        return;
+    }
+    picture->painter()->setTransform(layer->canvas->toPainter, true);
+    picture->painter()->drawImage(layer->picture->area().topLeft(), *layer->picture->image());
+    picture->finished();
+    layer->picture = std::move(picture);
+}
+
 void ItemPainter::finish(Layer *layer)
 {
-    QImage *picture = layer->picture->finished();
+    layer->picture->finished();
     const LayerEffects *effects = layer->effects.get();
     if (!effects)
         return;
-    if (effects->filter && !filtered(*effects->filter, *layer, picture))
-        picture->fill(Qt::transparent);
+    if (effects->filter && !filtered(*effects->filter, *layer, layer->picture->image()))
+        layer->picture->image()->fill(Qt::transparent);
+    leaveCanvas(layer);
+    QImage *picture = layer->picture->image();
     if (effects->hasRegion) {
         const std::unique_ptr<SidePicture> region = SidePicture::make(layer->area, m_pixelRatio, m_budget);
         if (region)
@@ -352,7 +413,7 @@ bool ItemPainter::blendByHand(const Layer &done, BlendMode mode)
 {
     Layer *target = pictureBelow();
     const double cost = blendCost * pixelCount(done.area, m_pixelRatio);
-    if (mode == BlendMode::Normal || !target || (isForPainters(mode) && m_budget->left < cost))
+    if (mode == BlendMode::Normal || !target || target->canvas || (isForPainters(mode) && m_budget->left < cost))
         return false;
     m_budget->left -= cost;
     const QPainter *painter = m_layers.back().painter;

@@ -1,29 +1,11 @@
 #include "grammar/colors.h"
 
+#include "grammar/colorfunctions.h"
 #include "grammar/numbers.h"
-
-#include <QtCore/QtMath>
-
-#include <cmath>
 
 namespace Svg {
 
 namespace {
-
-constexpr int maximumComponents = 4;
-
-struct Component
-{
-    double value = 0;
-    bool percent = false;
-};
-
-struct ColorFunction
-{
-    QLatin1String name;
-    Component components[maximumComponents];
-    int count = 0;
-};
 
 int hexDigit(char c)
 {
@@ -57,92 +39,6 @@ std::optional<QColor> hexColor(Cursor cursor)
         return std::nullopt;
     }
     return QColor(channels[0], channels[1], channels[2], channels[3]);
-}
-
-// Hues may have a unit (CSS Color 4 §4.2).
-bool takeAngleUnit(Cursor &cursor, double *value)
-{
-    const QLatin1String unit = cursor.takeWord();
-    const auto is = [unit](const char *name) {
-        return unit.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-    };
-    if (is("turn"))
-        *value *= 360;
-    else if (is("grad"))
-        *value *= 0.9;
-    else if (is("rad"))
-        *value = qRadiansToDegrees(*value);
-    else
-        return unit.isEmpty() || is("deg");
-    return true;
-}
-
-bool readComponent(Cursor &cursor, Component *component)
-{
-    if (!readNumber(cursor, &component->value))
-        return false;
-    component->percent = cursor.take('%');
-    return component->percent || takeAngleUnit(cursor, &component->value);
-}
-
-// Components are separated by commas or spaces, the alpha also by a slash.
-bool readFunction(Cursor cursor, ColorFunction *function)
-{
-    function->name = cursor.takeWord();
-    if (!cursor.take('('))
-        return false;
-    cursor.skipSpace();
-    while (function->count < maximumComponents) {
-        if (!readComponent(cursor, &function->components[function->count]))
-            return false;
-        ++function->count;
-        cursor.skipSpace();
-        if (cursor.take(')')) {
-            cursor.skipSpace();
-            return cursor.atEnd() && function->count >= 3;
-        }
-        if (!cursor.take('/'))
-            cursor.skipCommaSpace();
-        cursor.skipSpace();
-    }
-    return false;
-}
-
-int channel(const Component &component)
-{
-    const double value = component.percent ? component.value * 255 / 100 : component.value;
-    return int(std::lround(qBound(0.0, value, 255.0)));
-}
-
-// Saturation and lightness are percentages with or without the sign (CSS Color 4 §7).
-double percentage(const Component &component)
-{
-    return qBound(0.0, component.value / 100, 1.0);
-}
-
-double fraction(const Component &component)
-{
-    return qBound(0.0, component.percent ? component.value / 100 : component.value, 1.0);
-}
-
-std::optional<QColor> functionColor(const Cursor &cursor)
-{
-    ColorFunction function;
-    if (!readFunction(cursor, &function))
-        return std::nullopt;
-    const Component *c = function.components;
-    const double alpha = function.count == 4 ? fraction(c[3]) : 1;
-    const QString name = QString(function.name).toLower();
-    if (name == QLatin1String("rgb") || name == QLatin1String("rgba")) {
-        QColor color(channel(c[0]), channel(c[1]), channel(c[2]));
-        color.setAlphaF(alpha);
-        return color;
-    }
-    if (name == QLatin1String("hsl") || name == QLatin1String("hsla")) {
-        const double turn = c[0].value / 360 - std::floor(c[0].value / 360);
-        return QColor::fromHslF(qBound(0.0, turn, 1.0), percentage(c[1]), percentage(c[2]), alpha).toRgb();
-    }
-    return std::nullopt;
 }
 
 struct SystemColor
@@ -213,7 +109,9 @@ std::optional<QColor> namedColor(QStringView name)
         if (name.compare(known.name, Qt::CaseInsensitive) == 0)
             return QColor::fromRgba(known.color);
     }
-    // Qt's list of names is SVG's.
+    if (name.compare(QLatin1String("rebeccapurple"), Qt::CaseInsensitive) == 0)
+        return QColor(0x66, 0x33, 0x99);
+    // Qt's list of names is SVG's, which lacks the one above.
     const QColor color(name.toString());
     if (!color.isValid())
         return std::nullopt;
@@ -240,14 +138,16 @@ std::optional<double> parseOpacity(QStringView text)
 {
     const Latin1Text bytes(text);
     Cursor cursor = bytes.cursor();
-    Component component;
+    double value = 0;
     cursor.skipSpace();
-    if (!readComponent(cursor, &component))
+    if (!readNumber(cursor, &value))
         return std::nullopt;
+    if (cursor.take('%'))
+        value /= 100;
     cursor.skipSpace();
     if (!cursor.atEnd())
         return std::nullopt;
-    return fraction(component);
+    return qBound(0.0, value, 1.0);
 }
 
 } // namespace Svg

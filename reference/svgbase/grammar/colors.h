@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// A colour: #rgb, #rgba, #rrggbb, #rrggbbaa, rgb(), rgba(), hsl(), hsla(), a colour name of SVG 1.1 §4.4 or
+/// A colour: #rgb, #rgba, #rrggbb, #rrggbbaa, a function of CSS Color 4 §4.1, a colour name of its §6.1 or
 /// "transparent". "currentColor" and "none" are no colours; a paint knows them.
 std::optional<QColor> parseColor(QStringView text);
 /// An opacity, a number or a percentage, held between 0 and 1.

@@ -22,9 +22,9 @@ const Keyword<Qt::PenCapStyle> caps[] = {
 
 const Keyword<Qt::PenJoinStyle> joins[] = {
     {QLatin1String("miter"), Qt::SvgMiterJoin},
-    // Painters have no better for these; SVG 2 §13.5.4 allows it.
-    {QLatin1String("miter-clip"), Qt::SvgMiterJoin},
-    {QLatin1String("arcs"), Qt::SvgMiterJoin},
+    // Cut at the limit; between straight lines, arcs are the same (SVG 2 §13.5.5).
+    {QLatin1String("miter-clip"), Qt::MiterJoin},
+    {QLatin1String("arcs"), Qt::MiterJoin},
     {QLatin1String("round"), Qt::RoundJoin},
     {QLatin1String("bevel"), Qt::BevelJoin},
 };

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtCore/QLatin1String>
+#include <QtGui/QColor>
+
+#include <optional>
+
+namespace Svg {
+
+/// Three components of a colour; their meaning and range depend on the space.
+struct ColorComponents
+{
+    double a = 0;
+    double b = 0;
+    double c = 0;
+};
+
+/// These turn a colour of a space of CSS Color 4 into the nearest that painters have, each component of sRGB held
+/// between 0 and 1.
+///
+/// Hue in degrees, whiteness and blackness from 0 to 1 (§8).
+QColor colorOfHwb(const ColorComponents &hueWhiteBlack);
+/// Lightness from 0 to 100, a and b about ±125 (§9.3).
+QColor colorOfLab(const ColorComponents &lab);
+/// Lightness from 0 to 1, a and b about ±0.4 (§9.4).
+QColor colorOfOklab(const ColorComponents &lab);
+/// A space that color() names (§10), components from 0 to 1; nothing for an unknown name.
+std::optional<QColor> colorOfSpace(const QString &space, const ColorComponents &components);
+
+/// Lightness, chroma and hue in degrees as lightness, a and b (§9.3).
+ColorComponents rectangular(const ColorComponents &lightnessChromaHue);
+
+} // namespace Svg
