@@ -13,7 +13,7 @@ public:
 protected:
     void draw() override
     {
-        const double module = std::min(128 / (driving + driven + 1.7), 86 / (std::max<int>(driving, driven) + 1.7));
+        const double module = std::min(128 / (driving + driven + tip), 86 / (std::max<int>(driving, driven) + tip));
         const double left = 70 - module * (driven + 0.0) / 2;
         drawGear("driving", driving, module, left, 0);
         drawGear("driven", driven, module, left + module * (driving + driven) / 2, driven % 2 ? 0 : 180.0 / driven);
@@ -26,13 +26,17 @@ private:
     {
         PathText rim;
         for (int i = 0; i < 4 * teeth; ++i) {
-            const QPointF corner = onCircle({0, 0}, module * (teeth + (i % 4 < 2 ? 1.7 : -2.1)) / 2,
-                                            turned + (i - 0.5) * 90.0 / teeth + 90);
+            const double radius = module * (teeth + (i % 4 < 2 ? tip : root)) / 2;
+            const QPointF corner = onCircle({0, 0}, radius, turned + 90 + 360.0 / teeth * (corners[i % 4] + i / 4));
             i == 0 ? rim.moveTo(corner) : rim.lineTo(corner);
         }
         setPath(("figure_" + id).toLatin1(), rim.close().ellipse({-3.5, -3.5, 7, 7}));
         set((id + "_place").toLatin1(), "transform", QStringLiteral("translate(%1 48)").arg(x));
     }
+    /// What teeth rise above the circle on which the gears roll and go below it, in modules of the diameter.
+    static constexpr double tip = 1.4, root = -2.2;
+    /// Of a tooth, in parts of the way to the next: so slim that the outlines of two gears pass each other.
+    static constexpr double corners[] = {-0.1, 0.1, 0.23, 0.77};
     WholeNumber driving{this, drivingText, 12, 6, 40}, driven{this, drivenText, 18, 6, 40};
 };
 

@@ -18,7 +18,7 @@ protected:
         const double degrees = std::round(angle(point(1)));
         setPath("pointer", PathText().line(centre, at(degrees, 90)));
         setPath("sector", PathText().moveTo(centre).lineTo(at(0, 30)).arcTo(30, at(degrees, 30), false).close());
-        setPath("number", PathText().text({100, 103}, QStringLiteral("%1°").arg(degrees), 9));
+        setPath("number", PathText().text({100, 100.8}, QStringLiteral("%1°").arg(degrees), 6.5));
     }
 
 private:
