@@ -1,9 +1,7 @@
 // Plain XML is read by a reader of its own. Whatever it accepts, it reads as Qt's reader does.
 
 #include "inputlimits.h"
-#include "tree/plainxml.h"
-#include "tree/streamxml.h"
-#include "tree/treebuilder.h"
+#include "treereading.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -11,51 +9,10 @@
 #include <QtTest/QtTest>
 
 using namespace Svg;
+using treereading::plain;
+using treereading::streamed;
 
 namespace {
-
-QString described(const Node &node)
-{
-    QString text = QStringLiteral("%1 %2 %3 %4:%5")
-                       .arg(int(node.kind))
-                       .arg(node.name)
-                       .arg(node.parent)
-                       .arg(node.line)
-                       .arg(node.column);
-    for (const Attribute &attribute : node.attributes)
-        text += QStringLiteral(" [%1 %2=%3]").arg(int(attribute.id)).arg(attribute.name, attribute.value);
-    return text + QStringLiteral(" \"%1\"").arg(node.text);
-}
-
-QStringList described(const Tree &tree, const Messages &messages)
-{
-    QStringList lines;
-    for (NodeIndex at = 0; at < tree.size(); ++at)
-        lines.append(described(tree.node(at)));
-    for (const Message &message : messages.list())
-        lines.append(QStringLiteral("%1:%2 %3 %4")
-                         .arg(message.line)
-                         .arg(message.column)
-                         .arg(message.elementId, message.text));
-    return lines;
-}
-
-/// What Qt's reader makes of a text; empty where it refuses it.
-QStringList streamed(const QByteArray &text)
-{
-    Tree tree;
-    Messages messages;
-    return readStreamedXml(text, &tree, &messages) ? described(tree, messages) : QStringList();
-}
-
-/// The same of the plain reader.
-QStringList plain(const QByteArray &text)
-{
-    Tree tree;
-    Messages messages;
-    TreeBuilder builder(&tree, &messages);
-    return readPlainXml(QString::fromUtf8(text), &builder) ? described(tree, messages) : QStringList();
-}
 
 QByteArray inRoot(const QByteArray &content)
 {

@@ -1,0 +1,13 @@
+// Whatever the plain reader of XML accepts, it reads as Qt's reader does.
+
+#include "grammarinput.h"
+
+#include <svgbase/treereading.h>
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
+{
+    const QByteArray text(reinterpret_cast<const char *>(data), int(size));
+    const QStringList read = treereading::plain(text);
+    require(read.isEmpty() || read == treereading::streamed(text), "both readers agree");
+    return 0;
+}
