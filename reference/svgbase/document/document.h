@@ -32,7 +32,7 @@ public:
     /// The same for a child of a node whose facts are at hand.
     FactsPointer factsBelow(NodeIndex child, const FactsPointer &above);
     /// Resolves elements at other places than their own.
-    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients); }
+    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts); }
     /// Bounds of the visible geometry of a subtree, document units.
     QRectF visibleBounds(NodeIndex top);
 
@@ -77,6 +77,7 @@ private:
     Tree m_tree;
     QVector<FactsPointer> m_facts;
     GradientCache m_gradients;
+    DocumentFonts m_fonts;
     /// By node index: a Change for each, since its facts were made. Shorter while nothing was changed.
     QVector<quint8> m_changes;
     /// By node index; shorter while nothing was styled.

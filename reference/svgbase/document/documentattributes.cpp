@@ -106,7 +106,7 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
         structureChanged();
     const ElementKind kind = m_tree.node(index).kind;
     const bool inText = kind == ElementKind::Text || isTextPart(kind);
-    if (id == AttributeId::Unknown && !isEffectPart(kind) && !inText)
+    if (id == AttributeId::Unknown && !isEffectPart(kind) && !isFontPart(kind) && !inText)
         return;
     if (id == AttributeId::Id) {
         m_tree.forgetIds();
@@ -160,7 +160,7 @@ void Document::nodeChanged(NodeIndex index, Change change)
     const ElementKind kind = m_tree.node(index).kind;
     // Text may run along any shape.
     const bool isWay = m_tree.hasTextReferences() && hasGeometry(kind);
-    if (isWay || isPaintServerPart(kind) || isStructure(kind))
+    if (isWay || isPaintServerPart(kind) || isFontPart(kind) || isStructure(kind))
         ++m_referenceRevision;
     // A text is laid out as one, whatever part of it changed.
     NodeIndex at = index;

@@ -12,7 +12,8 @@ namespace {
 QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages)
 {
     GradientCache gradients;
-    const Resolver resolver(tree, 1, &gradients, messages);
+    DocumentFonts fonts;
+    const Resolver resolver(tree, 1, &gradients, &fonts, messages);
     QVector<FactsPointer> facts(tree.size());
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const NodeIndex parent = tree.node(at).parent;

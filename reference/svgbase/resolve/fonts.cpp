@@ -22,16 +22,11 @@ struct GenericFamily
 const GenericFamily genericFamilies[] = {
     {QLatin1String("serif"), QFont::Serif},         {QLatin1String("sans-serif"), QFont::SansSerif},
     {QLatin1String("monospace"), QFont::Monospace}, {QLatin1String("cursive"), QFont::Cursive},
-    {QLatin1String("fantasy"), QFont::Fantasy},
+    {QLatin1String("fantasy"), QFont::Fantasy},     {QLatin1String("system-ui"), QFont::AnyStyle},
+    {QLatin1String("ui-serif"), QFont::Serif},      {QLatin1String("ui-sans-serif"), QFont::SansSerif},
+    {QLatin1String("math"), QFont::AnyStyle},       {QLatin1String("ui-monospace"), QFont::Monospace},
+    {QLatin1String("emoji"), QFont::AnyStyle},
 };
-
-QString unquoted(const QString &name)
-{
-    const QString trimmed = name.trimmed();
-    const bool quoted = trimmed.size() >= 2 && trimmed.front() == trimmed.back() &&
-                        (trimmed.front() == QLatin1Char('\'') || trimmed.front() == QLatin1Char('"'));
-    return quoted ? trimmed.mid(1, trimmed.size() - 2) : trimmed;
-}
 
 /// What the system gives for names of families, asked once for each name. It is asked for a few names only: looking
 /// for a replacement takes long.
@@ -61,44 +56,58 @@ private:
     int m_asked = 0;
 };
 
-QString knownFamily(const QString &name)
+const GenericFamily *genericFamily(const FamilyName &name)
+{
+    const auto found =
+        std::find_if(std::begin(genericFamilies), std::end(genericFamilies), [&](const GenericFamily &generic) {
+            return name.text.compare(generic.name, Qt::CaseInsensitive) == 0;
+        });
+    return name.quoted || found == std::end(genericFamilies) ? nullptr : found;
+}
+
+/// What the system has for a name, and whether it is that family rather than a replacement.
+struct SystemFamily
+{
+    QString name;
+    bool isThere = false;
+};
+
+SystemFamily systemFamily(const FamilyName &name)
 {
     static KnownFamilies families;
-    for (const GenericFamily &generic : genericFamilies) {
-        if (name == generic.name)
-            return families.find(name, generic.hint);
-    }
-    return families.find(name);
+    if (const GenericFamily *generic = genericFamily(name))
+        return {families.find(generic->name, generic->hint), true};
+    const QString family = families.find(name.text);
+    return {family, family.compare(name.text, Qt::CaseInsensitive) == 0};
 }
 
-bool isGeneric(const QString &name)
-{
-    return std::any_of(std::begin(genericFamilies), std::end(genericFamilies),
-                       [&](const GenericFamily &generic) { return name == generic.name; });
-}
-
-// The first family that is there (CSS Fonts 3 §5), else what replaces the first one.
+// The families that are there, in their order (CSS Fonts 3 §5), else what replaces the first one.
 void setFamilies(QFont &font, const QString &list)
 {
+    QStringList there;
     QString replacement;
-    const QStringList names = list.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString &quoted : names) {
-        const QString name = unquoted(quoted);
-        const QString family = knownFamily(name);
-        if (family.isEmpty())
+    const QVector<FamilyName> names = parseFontFamilies(list);
+    for (const FamilyName &name : names) {
+        const SystemFamily family = systemFamily(name);
+        if (family.name.isEmpty() || there.contains(family.name))
             continue;
-        if (isGeneric(name) || family.compare(name, Qt::CaseInsensitive) == 0) {
-            font.setFamily(family);
-            return;
-        }
-        if (replacement.isEmpty())
-            replacement = family;
+        if (family.isThere)
+            there.append(family.name);
+        else if (replacement.isEmpty())
+            replacement = family.name;
     }
-    if (!replacement.isEmpty())
+    if (!there.isEmpty())
+        font.setFamilies(there);
+    else if (!replacement.isEmpty())
         font.setFamily(replacement);
 }
 
 } // namespace
+
+bool isInstalled(const FamilyName &name)
+{
+    return systemFamily(name).isThere;
+}
 
 int qtFontWeight(int weight)
 {

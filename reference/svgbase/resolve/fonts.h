@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grammar/fontfamilies.h"
 #include "style/computedstyle.h"
 
 #include <QtGui/QFont>
@@ -11,6 +12,8 @@ constexpr int outlineFontSize = 512;
 
 /// The font of a style at `outlineFontSize`, without hinting, so that it scales evenly.
 QFont outlineFont(const FontStyle &style, const TextStyle &text = TextStyle());
+/// Whether the system has a family, or a replacement for a generic one.
+bool isInstalled(const FamilyName &name);
 /// Qt's number for a CSS font weight.
 int qtFontWeight(int weight);
 

@@ -324,7 +324,7 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
         keepGeometry(m_tree.node(index), *kept.facts, facts);
         return;
     }
-    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport, &m_glyphs);
+    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport, &m_glyphs, m_fonts);
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;

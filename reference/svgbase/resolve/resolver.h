@@ -2,6 +2,7 @@
 
 #include "resolve/facts.h"
 #include "resolve/gradients.h"
+#include "text/documentfonts.h"
 #include "text/glyphoutlines.h"
 #include "tree/message.h"
 #include "tree/tree.h"
@@ -27,15 +28,18 @@ struct KeptFacts
 class Resolver
 {
 public:
-    /// `gradients` keeps what is known of gradients as long as the reference revision stays; `messages`, when
+    /// `gradients` and `fonts` keep what is known of them as long as the reference revision stays; `messages`, when
     /// given, gets what could not be understood.
-    Resolver(const Tree &tree, quint32 referenceRevision, GradientCache *gradients, Messages *messages = nullptr)
+    Resolver(const Tree &tree, quint32 referenceRevision, GradientCache *gradients, DocumentFonts *fonts,
+             Messages *messages = nullptr)
         : m_tree(tree)
         , m_referenceRevision(referenceRevision)
         , m_gradients(gradients)
+        , m_fonts(fonts)
         , m_messages(messages)
     {
         m_gradients->setRevision(referenceRevision);
+        m_fonts->setRevision(referenceRevision);
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
@@ -61,6 +65,7 @@ private:
     const Tree &m_tree;
     quint32 m_referenceRevision;
     GradientCache *m_gradients;
+    DocumentFonts *m_fonts;
     Messages *m_messages;
     mutable GlyphOutlines m_glyphs;
     mutable std::array<QBrush, 7> m_brushes;

@@ -1,5 +1,6 @@
 #include "resolve/textlayout.h"
 
+#include "text/linebreaking.h"
 #include "text/textpainting.h"
 #include "text/textpositions.h"
 
@@ -8,16 +9,19 @@
 namespace Svg {
 
 TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
-                        GlyphOutlines *glyphs)
+                        GlyphOutlines *glyphs, DocumentFonts *fonts)
 {
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return {};
-    TextContent content = collectText(tree, text, style, viewport);
-    resolvePositions(tree, viewport, &content);
     Problem problem;
-    TextOutlines outlines = paintedText(content, placeText(tree, content, viewport, {glyphs, &problem}));
+    const TextServices services{glyphs, fonts, &problem};
+    fonts->beginText(text);
+    TextContent content = collectText(tree, text, style, viewport, fonts);
+    resolvePositions(tree, viewport, &content);
+    breakLines(&content, services);
+    TextOutlines outlines = paintedText(content, placeText(tree, content, viewport, services));
     outlines.problem = problem;
-    outlines.hasReferences = content.hasReferences;
+    outlines.hasReferences = content.hasReferences || tree.hasFonts();
     return outlines;
 }
 

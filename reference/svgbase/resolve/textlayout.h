@@ -1,6 +1,7 @@
 #pragma once
 
 #include "style/computedstyle.h"
+#include "text/documentfonts.h"
 #include "text/glyphoutlines.h"
 #include "tree/message.h"
 #include "tree/tree.h"
@@ -35,8 +36,8 @@ struct TextOutlines
 };
 
 /// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.
-/// `glyphs` keeps outlines for the next text.
+/// `glyphs` keeps outlines for the next text, `fonts` what the document has of fonts.
 TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
-                        GlyphOutlines *glyphs);
+                        GlyphOutlines *glyphs, DocumentFonts *fonts);
 
 } // namespace Svg

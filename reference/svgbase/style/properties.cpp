@@ -69,12 +69,16 @@ const Keyword<int> fontWeights[] = {
 };
 
 const Keyword<double> fontSizes[] = {
-    {QLatin1String("xx-small"), 9},  {QLatin1String("x-small"), 10}, {QLatin1String("small"), 13},
-    {QLatin1String("medium"), 16},   {QLatin1String("large"), 18},   {QLatin1String("x-large"), 24},
-    {QLatin1String("xx-large"), 32},
+    {QLatin1String("xx-small"), 9},  {QLatin1String("x-small"), 10},   {QLatin1String("small"), 13},
+    {QLatin1String("medium"), 16},   {QLatin1String("large"), 18},     {QLatin1String("x-large"), 24},
+    {QLatin1String("xx-large"), 32}, {QLatin1String("xxx-large"), 48},
 };
 
 constexpr double largerFactor = 1.2;
+const Keyword<double> relativeFontSizes[] = {
+    {QLatin1String("larger"), largerFactor},
+    {QLatin1String("smaller"), 1 / largerFactor},
+};
 constexpr double maximumMiterLimit = 10000;
 
 bool applyColor(QColor &target, QStringView text, const QColor &currentColor)
@@ -199,8 +203,8 @@ bool applyFontSize(ComputedStyle &style, QStringView text, const PropertyContext
     const double inherited = context.parent.font.size;
     if (applyKeyword(style.font.size, text, fontSizes))
         return true;
-    if (text == QLatin1String("larger") || text == QLatin1String("smaller")) {
-        style.font.size = text.front() == QLatin1Char('l') ? inherited * largerFactor : inherited / largerFactor;
+    if (applyKeyword(style.font.size, text, relativeFontSizes)) {
+        style.font.size *= inherited;
         return true;
     }
     const std::optional<Length> length = parseLength(text);

@@ -97,6 +97,8 @@ QVector<Longhand> longhands(const QString &name, const QString &value)
 {
     if (name == QLatin1String("font"))
         return fontLonghands(value);
+    if (name == QLatin1String("font-variant-caps"))
+        return {{AttributeId::FontVariant, value}};
     if (name == QLatin1String("text-decoration-line"))
         return {{AttributeId::TextDecoration, value}};
     return {};

@@ -1,10 +1,14 @@
 #include "style/textproperties.h"
 
+#include "grammar/numbers.h"
 #include "style/keywords.h"
 
 namespace Svg {
 
 namespace {
+
+/// Larger ones make no letters that could be read.
+constexpr double largestSizeAdjust = 100;
 
 const Keyword<Baseline> baselines[] = {
     {QLatin1String("auto"), Baseline::Auto},
@@ -61,6 +65,20 @@ const Keyword<bool> variants[] = {
     {QLatin1String("all-small-caps"), true},
 };
 
+const Keyword<TextOrientation> orientations[] = {
+    {QLatin1String("mixed"), TextOrientation::Mixed},
+    {QLatin1String("upright"), TextOrientation::Upright},
+    {QLatin1String("sideways"), TextOrientation::Sideways},
+    {QLatin1String("sideways-right"), TextOrientation::Sideways},
+};
+
+// The old property is a shorthand of the one above (CSS Writing Modes 3 §5.1.1).
+const Keyword<TextOrientation> glyphOrientations[] = {
+    {QLatin1String("auto"), TextOrientation::Mixed},     {QLatin1String("0"), TextOrientation::Upright},
+    {QLatin1String("0deg"), TextOrientation::Upright},   {QLatin1String("90"), TextOrientation::Sideways},
+    {QLatin1String("90deg"), TextOrientation::Sideways},
+};
+
 const Keyword<bool> kernings[] = {
     {QLatin1String("auto"), true},
     {QLatin1String("normal"), true},
@@ -75,12 +93,22 @@ const Keyword<int> stretches[] = {
     {QLatin1String("ultra-expanded"), 200},
 };
 
+// Percentages of the keywords (CSS Fonts 4 §2.5): what lies between them is drawn as the nearest.
+bool applyStretchPercentage(int &stretch, QStringView text)
+{
+    const std::optional<Length> length = parseLength(text);
+    if (!length || length->unit != Unit::Percent || length->value < 0)
+        return false;
+    stretch = qRound(qBound(50.0, length->value, 200.0));
+    return true;
+}
+
 /// Neighbours in the list above: "narrower" and "wider" go one step from the parent's.
 bool applyStretch(int &stretch, QStringView text, int inherited)
 {
     const bool narrower = text == QLatin1String("narrower");
     if (!narrower && text != QLatin1String("wider"))
-        return applyKeyword(stretch, text, stretches);
+        return applyKeyword(stretch, text, stretches) || applyStretchPercentage(stretch, text);
     const int count = int(sizeof stretches / sizeof stretches[0]);
     for (int i = 0; i < count; ++i) {
         if (stretches[i].value == inherited)
@@ -100,6 +128,52 @@ bool applySpacing(double &spacing, QStringView text, double fontSize)
     if (length)
         spacing = toUserUnits(*length, Axis::Horizontal, {QSizeF(fontSize, fontSize), fontSize});
     return length.has_value();
+}
+
+// A length stands in the place of the font's own kerning (SVG 1.1 §10.11).
+bool applyKerning(TextStyle &text, QStringView value, double fontSize)
+{
+    const bool automatic = value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0;
+    if (automatic)
+        text.kerningSpacing = 0;
+    else if (!applySpacing(text.kerningSpacing, value, fontSize))
+        return false;
+    text.kerning = automatic;
+    return true;
+}
+
+bool applySizeAdjust(double &adjust, QStringView value)
+{
+    const std::optional<double> number = parseNumber(value);
+    const bool none = value.compare(QLatin1String("none"), Qt::CaseInsensitive) == 0;
+    if (!none && (!number || *number < 0))
+        return false;
+    adjust = none ? 0 : qMin(*number, largestSizeAdjust);
+    return true;
+}
+
+bool applyLineHeight(TextStyle &text, QStringView value, double fontSize)
+{
+    const std::optional<double> share = parseNumber(value);
+    double height = 0;
+    if (!share && !applySpacing(height, value, fontSize))
+        return false;
+    if (share.value_or(0) < 0 || height < 0)
+        return false;
+    text.lineHeightShare = share.value_or(0);
+    text.lineHeight = height;
+    return true;
+}
+
+// Percentages are of the width of the viewport (SVG 2 §11.7.1).
+bool applyInlineSize(double &size, QStringView value, const ComputedStyle &style, const QSizeF &viewport)
+{
+    const std::optional<Length> length = parseLength(value);
+    const bool automatic = value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0;
+    if (!automatic && (!length || length->value < 0))
+        return false;
+    size = automatic ? 0 : toUserUnits(*length, Axis::Horizontal, {viewport, style.font.size, style.font.rootSize});
+    return true;
 }
 
 bool applyBaselineShift(InlineStyle &inlineStyle, QStringView text, double fontSize)
@@ -138,10 +212,20 @@ bool applyToText(TextStyle &text, AttributeId property, QStringView value, doubl
         return applyKeyword(text.dominantBaseline, value, baselines);
     case AttributeId::FontKerning:
         return applyKeyword(text.kerning, value, kernings);
+    case AttributeId::FontSizeAdjust:
+        return applySizeAdjust(text.sizeAdjust, value);
     case AttributeId::FontStretch:
         return applyStretch(text.stretch, value, inheritedStretch);
     case AttributeId::FontVariant:
         return applyKeyword(text.smallCaps, value, variants);
+    case AttributeId::GlyphOrientationVertical:
+        return applyKeyword(text.orientation, value, glyphOrientations);
+    case AttributeId::Kerning:
+        return applyKerning(text, value, fontSize);
+    case AttributeId::LineHeight:
+        return applyLineHeight(text, value, fontSize);
+    case AttributeId::TextOrientation:
+        return applyKeyword(text.orientation, value, orientations);
     case AttributeId::LetterSpacing:
         return applySpacing(text.letterSpacing, value, fontSize);
     case AttributeId::WhiteSpace:
@@ -174,7 +258,8 @@ bool applyToInline(InlineStyle &inlineStyle, AttributeId property, QStringView v
 bool isInline(AttributeId property)
 {
     return property == AttributeId::AlignmentBaseline || property == AttributeId::BaselineShift ||
-           property == AttributeId::TextDecoration || property == AttributeId::UnicodeBidi;
+           property == AttributeId::InlineSize || property == AttributeId::TextDecoration ||
+           property == AttributeId::UnicodeBidi;
 }
 
 void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
@@ -189,11 +274,26 @@ void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
     case AttributeId::FontKerning:
         text.kerning = from.kerning;
         break;
+    case AttributeId::FontSizeAdjust:
+        text.sizeAdjust = from.sizeAdjust;
+        break;
     case AttributeId::FontStretch:
         text.stretch = from.stretch;
         break;
     case AttributeId::FontVariant:
         text.smallCaps = from.smallCaps;
+        break;
+    case AttributeId::GlyphOrientationVertical:
+    case AttributeId::TextOrientation:
+        text.orientation = from.orientation;
+        break;
+    case AttributeId::Kerning:
+        text.kerning = from.kerning;
+        text.kerningSpacing = from.kerningSpacing;
+        break;
+    case AttributeId::LineHeight:
+        text.lineHeightShare = from.lineHeightShare;
+        text.lineHeight = from.lineHeight;
         break;
     case AttributeId::LetterSpacing:
         text.letterSpacing = from.letterSpacing;
@@ -221,6 +321,9 @@ void copyInline(InlineStyle &inlineStyle, AttributeId property, const InlineStyl
     case AttributeId::BaselineShift:
         inlineStyle.baselineShift = from.baselineShift;
         inlineStyle.shift = from.shift;
+        break;
+    case AttributeId::InlineSize:
+        inlineStyle.inlineSize = from.inlineSize;
         break;
     case AttributeId::TextDecoration:
         inlineStyle.underline = from.underline;
@@ -255,7 +358,10 @@ bool applyTextProperty(ComputedStyle &style, AttributeId property, QStringView v
     const double fontSize = style.font.size;
     if (isInline(property)) {
         QSharedDataPointer<InlineStyle> changed(new InlineStyle(inlineStyleOf(style)));
-        if (!applyToInline(*changed, property, value, fontSize))
+        const bool accepted = property == AttributeId::InlineSize
+                                  ? applyInlineSize(changed->inlineSize, value, style, context.viewport)
+                                  : applyToInline(*changed, property, value, fontSize);
+        if (!accepted)
             return false;
         style.inlineText = changed;
         return true;

@@ -16,6 +16,9 @@ enum class Baseline : quint8 {
     TextBeforeEdge
 };
 
+/// Which characters stand upright on a vertical line (CSS Writing Modes 3 §5.1).
+enum class TextOrientation : quint8 { Mixed, Upright, Sideways };
+
 /// How spaces of the text are treated; `Unset` leaves it to "xml:space".
 enum class WhiteSpace : quint8 { Unset, Collapse, Preserve };
 
@@ -24,12 +27,20 @@ struct TextStyle : QSharedData
 {
     double letterSpacing = 0;
     double wordSpacing = 0;
+    /// What a "kerning" of its own adds to the letter spacing.
+    double kerningSpacing = 0;
     /// Width of the letters in percent, as `QFont` counts it.
     int stretch = 100;
+    /// The x-height as a share of the font size that a font is scaled to; 0 leaves fonts as they are.
+    double sizeAdjust = 0;
+    /// Distance of lines as a share of the font size, or in user units; 0 leaves it to the font.
+    double lineHeightShare = 0;
+    double lineHeight = 0;
     bool smallCaps = false;
     bool kerning = true;
     bool rightToLeft = false;
     bool vertical = false;
+    TextOrientation orientation = TextOrientation::Mixed;
     WhiteSpace whiteSpace = WhiteSpace::Unset;
     Baseline dominantBaseline = Baseline::Auto;
 };
@@ -45,6 +56,8 @@ struct InlineStyle : QSharedData
     double baselineShift = 0;
     Shift shift = Length;
     Baseline alignmentBaseline = Baseline::Auto;
+    /// Where lines of a text are broken, user units; 0 for lines without end.
+    double inlineSize = 0;
     UnicodeBidi unicodeBidi = UnicodeBidi::Normal;
     bool underline = false;
     bool overline = false;

@@ -2,8 +2,10 @@
 
 #include "grammar/paints.h"
 #include "inputlimits.h"
+#include "resolve/conditions.h"
 #include "style/cascade.h"
 #include "style/textproperties.h"
+#include "text/fontmeasures.h"
 
 namespace Svg {
 
@@ -14,12 +16,24 @@ bool isWhiteSpace(QChar c)
     return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
 }
 
+// The size that makes lower case letters as tall as asked for (CSS Fonts 4 §2.6).
+double adjustedSize(const TextLevel &level)
+{
+    const double size = level.emSize;
+    const double asked = textStyleOf(level.style).sizeAdjust;
+    if (!(asked > 0) || !(size > 0))
+        return size;
+    const double height = levelMeasures(level).xHeight;
+    return height > 0 ? size * asked * size / height : size;
+}
+
 class TextCollector
 {
 public:
-    TextCollector(const Tree &tree, const QSizeF &viewport)
+    TextCollector(const Tree &tree, const QSizeF &viewport, DocumentFonts *fonts)
         : m_tree(tree)
         , m_viewport(viewport)
+        , m_fonts(*fonts)
     {
     }
 
@@ -33,11 +47,14 @@ private:
     void appendSpace(bool preserves);
     void appendCharacter(const QString &characters, int at, int length);
     void dropSpaceAtEnd();
+    void findFont(TextLevel *level);
+    NodeIndex referred(const Node &node) const;
     QString referredText(const Node &tref) const;
     bool preservesSpace(const Node &node, const ComputedStyle &style) const;
 
     const Tree &m_tree;
     QSizeF m_viewport;
+    DocumentFonts &m_fonts;
     TextContent m_content;
     /// Open levels, innermost last.
     QVector<int> m_open;
@@ -60,6 +77,23 @@ bool TextCollector::preservesSpace(const Node &node, const ComputedStyle &style)
     }
 }
 
+void TextCollector::findFont(TextLevel *level)
+{
+    if (!m_tree.hasFonts())
+        return;
+    level->font = m_fonts.find(m_tree, level->style);
+    const Node &node = m_tree.node(level->node);
+    if (hasLocalName(node, QStringLiteral("altGlyph"))) {
+        const NodeIndex glyph = referred(node);
+        const DocumentFontPointer font = m_fonts.fontOfGlyph(m_tree, glyph);
+        level->substitute = font ? font->glyphOf(glyph) : nullptr;
+        if (level->substitute)
+            level->font.font = font;
+    }
+    for (NodeIndex at = level->node; at != noNode && level->language.isEmpty(); at = m_tree.node(at).parent)
+        level->language = m_tree.node(at).attributes.value(QStringLiteral("xml:lang"));
+}
+
 void TextCollector::open(NodeIndex index, const ComputedStyle &style)
 {
     const Node &node = m_tree.node(index);
@@ -67,6 +101,9 @@ void TextCollector::open(NodeIndex index, const ComputedStyle &style)
     level.node = index;
     level.kind = node.kind;
     level.style = style;
+    level.emSize = style.font.size;
+    findFont(&level);
+    level.style.font.size = adjustedSize(level);
     level.preservesSpace = preservesSpace(node, style);
     level.firstCharacter = m_content.characters.size();
     if (!m_open.isEmpty()) {
@@ -135,12 +172,17 @@ void TextCollector::dropSpaceAtEnd()
     }
 }
 
+NodeIndex TextCollector::referred(const Node &node) const
+{
+    QString id = localReference(node.attributes.value(AttributeId::Href));
+    if (id.isEmpty())
+        id = localReference(node.attributes.value(AttributeId::XlinkHref));
+    return m_tree.findId(id);
+}
+
 QString TextCollector::referredText(const Node &tref) const
 {
-    QString id = localReference(tref.attributes.value(AttributeId::Href));
-    if (id.isEmpty())
-        id = localReference(tref.attributes.value(AttributeId::XlinkHref));
-    const NodeIndex target = m_tree.findId(id);
+    const NodeIndex target = referred(tref);
     QString text;
     for (NodeIndex at = target; at != noNode; at = m_tree.following(at, target)) {
         if (m_tree.node(at).kind == ElementKind::Characters && text.size() < Limits::textCharacters)
@@ -158,8 +200,11 @@ void TextCollector::visit(NodeIndex index)
     }
     if (!isTextPart(node.kind))
         return;
-    const ComputedStyle &around = m_content.levels.at(m_open.constLast()).style;
-    const ComputedStyle style = cascade(m_tree, index, {around, m_viewport});
+    const TextLevel &above = m_content.levels.at(m_open.constLast());
+    ComputedStyle around = above.style;
+    around.font.size = above.emSize;
+    ComputedStyle style = cascade(m_tree, index, {around, m_viewport});
+    style.displayed = style.displayed && passesConditions(node);
     open(index, style);
     if (node.kind == ElementKind::Tref && style.displayed)
         append(referredText(node));
@@ -176,7 +221,9 @@ TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)
         visit(at);
         const TextLevel &level = m_content.levels.at(m_open.constLast());
         // What is not displayed takes no room, and what is no part of a text has none.
-        const bool skipped = !level.style.displayed || (level.node != at && m_tree.node(at).firstChild != noNode);
+        // Nor does a reference to characters show its own.
+        const bool skipped = !level.style.displayed || level.kind == ElementKind::Tref ||
+                             (level.node != at && m_tree.node(at).firstChild != noNode);
         at = skipped ? m_tree.followingBeside(at, text) : m_tree.following(at, text);
     }
     while (!m_open.isEmpty())
@@ -187,9 +234,15 @@ TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)
 
 } // namespace
 
-TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport)
+FontMeasures levelMeasures(const TextLevel &level)
 {
-    return TextCollector(tree, viewport).collect(text, style);
+    return level.font.font ? level.font.font->measures(level.style.font.size) : fontMeasures(level.style);
+}
+
+TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
+                        DocumentFonts *fonts)
+{
+    return TextCollector(tree, viewport, fonts).collect(text, style);
 }
 
 } // namespace Svg

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/computedstyle.h"
+#include "text/documentfonts.h"
 #include "tree/tree.h"
 
 #include <QtCore/QSizeF>
@@ -16,12 +16,21 @@ struct TextLevel
     /// Place of the level around this one; -1 for the text itself.
     int above = -1;
     ElementKind kind = ElementKind::Text;
+    /// With the size that "font-size-adjust" makes of the font's.
     ComputedStyle style;
+    /// What "em" stands for, user units.
+    double emSize = 0;
     bool preservesSpace = false;
     /// The innermost `textPath` that holds it, as a place in the list of levels; -1 without one.
     int path = -1;
     int firstCharacter = 0;
     int endCharacter = 0;
+    /// Its font where the document has it.
+    FoundFont font;
+    /// The glyph that an `altGlyph` shows in place of its characters; null for everything else.
+    const FontGlyph *substitute = nullptr;
+    /// Language tag; empty where none is said.
+    QString language;
 };
 
 /// A character that can be given a place: white space that was collapsed is none (SVG 2 §11.1.2).
@@ -52,6 +61,9 @@ struct TextContent
 };
 
 /// Collects the characters of a text element with the style of every part. The text's own style is at hand already.
-TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport);
+TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
+                        DocumentFonts *fonts);
+/// The heights of the font of a level.
+FontMeasures levelMeasures(const TextLevel &level);
 
 } // namespace Svg

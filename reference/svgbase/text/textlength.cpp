@@ -132,7 +132,7 @@ bool adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &v
             continue;
         if (left == 0)
             return false;
-        adjustment.apply(level, toUserUnits(*length, Axis::Horizontal, {viewport, level.style.font.size}));
+        adjustment.apply(level, toUserUnits(*length, Axis::Horizontal, {viewport, level.emSize}));
         --left;
     }
     return true;

@@ -40,7 +40,7 @@ public:
     TextOutlines paint();
 
 private:
-    const FontMeasures &measuresOf(const ComputedStyle &style);
+    const FontMeasures &measuresOf(const TextLevel &level);
     void measureLevels();
     double shiftOf(const TextLevel &level, const FontMeasures &font) const;
     QTransform glyphTransform(const PlacedCluster &cluster) const;
@@ -67,18 +67,19 @@ double TextPainter::shiftOf(const TextLevel &level, const FontMeasures &around) 
 }
 
 // Parts in one font are many, fonts are few.
-const FontMeasures &TextPainter::measuresOf(const ComputedStyle &style)
+const FontMeasures &TextPainter::measuresOf(const TextLevel &level)
 {
+    const ComputedStyle &style = level.style;
     const FontStyle &font = style.font;
     const QString key = QStringLiteral("%1 %2 %3 %4 ")
                             .arg(font.size)
                             .arg(font.weight)
                             .arg(font.italic)
                             .arg(textStyleOf(style).stretch) +
-                        font.family;
+                        QString::number(quintptr(level.font.font.get()), 16) + QLatin1Char(' ') + font.family;
     auto known = m_fonts.find(key);
     if (known == m_fonts.end())
-        known = m_fonts.insert(key, fontMeasures(style));
+        known = m_fonts.insert(key, levelMeasures(level));
     return *known;
 }
 
@@ -87,7 +88,7 @@ void TextPainter::measureLevels()
     QVector<double> shifts;
     for (const TextLevel &level : m_content.levels) {
         LevelMeasures measures;
-        measures.font = measuresOf(level.style);
+        measures.font = measuresOf(level);
         const bool isText = level.above < 0;
         const double shift = isText ? 0 : shifts.at(level.above) + shiftOf(level, m_levels.at(level.above).font);
         shifts.append(shift);
@@ -95,7 +96,7 @@ void TextPainter::measureLevels()
         Baseline aligned = inlineStyleOf(level.style).alignmentBaseline;
         if (aligned == Baseline::Auto || isText)
             aligned = text.dominantBaseline;
-        if (aligned == Baseline::Auto && text.vertical)
+        if (aligned == Baseline::Auto && textStyleOf(m_content.levels.first().style).vertical)
             aligned = Baseline::Central;
         measures.raised = shift - baselineHeight(aligned, measures.font);
         measures.paint = level.style;
@@ -164,12 +165,14 @@ void TextPainter::addLine(int level, const Line &line)
     QPainterPath path;
     const PlacedCluster *first = nullptr;
     double end = 0;
-    const auto finish = [&] {
-        if (!first)
-            return;
+    const auto addPiece = [&](const QTransform &place, double height, double length) {
         QPainterPath piece;
-        piece.addRect(0, -middle - measures.font.thickness / 2, end - first->along, measures.font.thickness);
-        path.addPath(first->line.map(piece));
+        piece.addRect(0, -height - measures.font.thickness / 2, length, measures.font.thickness);
+        path.addPath(place.map(piece));
+    };
+    const auto finish = [&] {
+        if (first)
+            addPiece(first->line, middle, end - first->along);
         first = nullptr;
     };
     const int stop = firstClusterOf(m_content.levels.at(level).endCharacter);
@@ -177,6 +180,13 @@ void TextPainter::addLine(int level, const Line &line)
         const PlacedCluster &cluster = m_clusters.at(i);
         const bool decorated = cluster.shown && m_content.levels.at(cluster.glyphs.level).style.visible;
         const bool onWay = m_content.levels.at(cluster.glyphs.level).path >= 0;
+        // Lines turn with a character that is turned.
+        if (decorated && m_content.characters.at(cluster.glyphs.firstCharacter).rotate != 0) {
+            finish();
+            addPiece(glyphTransform(cluster), middle - m_levels.at(cluster.glyphs.level).raised,
+                     cluster.glyphs.advance);
+            continue;
+        }
         const bool follows = decorated && first && !onWay && std::fabs(cluster.along - end) < sameEnd &&
                              cluster.aside == first->aside;
         if (!follows)

@@ -23,8 +23,7 @@ struct Chunk
 class TextPlacer
 {
 public:
-    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport,
-               const PlacingServices &services)
+    TextPlacer(const Tree &tree, const TextContent &content, const QSizeF &viewport, const TextServices &services)
         : m_tree(tree)
         , m_content(content)
         , m_viewport(viewport)
@@ -52,7 +51,7 @@ private:
     const Tree &m_tree;
     const TextContent &m_content;
     QSizeF m_viewport;
-    PlacingServices m_services;
+    TextServices m_services;
     bool m_vertical;
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
@@ -71,7 +70,7 @@ ShapingMode TextPlacer::mode() const
     mode.separate = m_vertical;
     for (const TextLevel &level : m_content.levels) {
         const TextStyle &text = textStyleOf(level.style);
-        const bool spaced = text.letterSpacing != 0 || text.wordSpacing != 0;
+        const bool spaced = text.letterSpacing != 0 || text.wordSpacing != 0 || text.kerningSpacing != 0;
         mode.separate = mode.separate || spaced || level.path >= 0 || givenLength(m_tree, level);
     }
     mode.separate =
@@ -101,7 +100,7 @@ void TextPlacer::shape()
         while (end < count && !startsChunk(end))
             ++end;
         const int first = m_clusters.size();
-        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how, m_services.glyphs);
+        const QVector<TextCluster> clusters = shapeChunk(m_content, begin, end, how, m_services);
         double width = 0;
         for (const TextCluster &cluster : clusters) {
             PlacedCluster placed;
@@ -156,6 +155,13 @@ void TextPlacer::setChunk(const Chunk &chunk)
     const bool rightToLeft = textStyleOf(m_content.levels.first().style).rightToLeft;
     PlacedCluster &leader = m_clusters[chunk.firstCluster];
     double left = leader.along;
+    // Where text that runs to the left comes first, the line does not begin with its first character.
+    const auto isFarther = [](const PlacedCluster &a, const PlacedCluster &b) {
+        return a.glyphs.offset < b.glyphs.offset;
+    };
+    const double outermost =
+        std::min_element(m_clusters.begin() + chunk.firstCluster, m_clusters.begin() + chunk.endCluster, isFarther)
+            ->along;
     double right = leader.along + leader.glyphs.advance * leader.widening;
     for (int i = chunk.firstCluster; i < chunk.endCluster; ++i) {
         const PlacedCluster &cluster = m_clusters.at(i);
@@ -163,7 +169,7 @@ void TextPlacer::setChunk(const Chunk &chunk)
         right = qMax(right, cluster.along + cluster.glyphs.advance * cluster.widening);
     }
     const QPointF own = m_vertical ? QPointF(first.dy, first.dx) : QPointF(first.dx, first.dy);
-    const double begin = rightToLeft ? left : leader.along;
+    const double begin = rightToLeft ? left : outermost;
     std::optional<double> along = alongOf(first);
     std::optional<double> aside = asideOf(first);
     if (chunk.path >= 0) {
@@ -248,7 +254,7 @@ QVector<PlacedCluster> TextPlacer::place()
 } // namespace
 
 QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
-                                 const PlacingServices &services)
+                                 const TextServices &services)
 {
     return TextPlacer(tree, content, viewport, services).place();
 }

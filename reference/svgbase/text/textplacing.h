@@ -1,9 +1,7 @@
 #pragma once
 
-#include "text/glyphoutlines.h"
 #include "text/textshaping.h"
 #include "text/textway.h"
-#include "tree/message.h"
 
 #include <QtGui/QTransform>
 
@@ -25,17 +23,9 @@ struct PlacedCluster
     bool shown = true;
 };
 
-/// What placing characters needs besides the text.
-struct PlacingServices
-{
-    GlyphOutlines *glyphs;
-    /// Gets what was left out because of a limit.
-    Problem *problem;
-};
-
 /// Places the characters of a text as SVG 2 §11.5 says: shaping, shifts, adjustment to a given length, absolute
 /// positions, anchors, paths.
 QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
-                                 const PlacingServices &services);
+                                 const TextServices &services);
 
 } // namespace Svg

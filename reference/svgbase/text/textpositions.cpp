@@ -42,7 +42,7 @@ private:
         const QString text = m_tree.node(level.node).attributes.value(attribute);
         if (text.isEmpty())
             return;
-        const QVector<double> values = lengthList(text, axis, {m_viewport, level.style.font.size});
+        const QVector<double> values = lengthList(text, axis, {m_viewport, level.emSize});
         const int count = qMin(values.size(), level.endCharacter - level.firstCharacter);
         for (int i = 0; i < count; ++i)
             m_content->characters[level.firstCharacter + i].*member = values.at(i);

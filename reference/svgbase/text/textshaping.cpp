@@ -4,7 +4,7 @@
 #include "resolve/fonts.h"
 #include "style/textproperties.h"
 #include "text/bidiruns.h"
-#include "text/fontmeasures.h"
+#include "text/fontglyphs.h"
 
 #include <QtGui/QGlyphRun>
 #include <QtGui/QRawFont>
@@ -45,27 +45,56 @@ bool isUpright(uint code)
                        [code](const CodeRange &range) { return code >= range.first && code <= range.last; });
 }
 
+// Scripts whose letters join; room between them would tear words apart (CSS Text 3 §8.2.1).
+bool isCursive(uint code)
+{
+    switch (QChar::script(code)) {
+    case QChar::Script_Arabic:
+    case QChar::Script_Syriac:
+    case QChar::Script_Nko:
+    case QChar::Script_Mandaic:
+    case QChar::Script_Mongolian:
+    case QChar::Script_PhagsPa:
+    case QChar::Script_Manichaean:
+    case QChar::Script_Adlam:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isSetUpright(TextOrientation orientation, uint code)
+{
+    if (orientation == TextOrientation::Mixed)
+        return isUpright(code);
+    return orientation == TextOrientation::Upright && !isCursive(code);
+}
+
 /// One line of glyphs in one style and direction.
 class Row
 {
 public:
-    Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, GlyphOutlines *outlines);
+    Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, const TextServices &services);
 
     /// The clusters in logical order, their offsets from the left end of the row.
     QVector<TextCluster> clusters();
 
 private:
     void layOut();
+    QVector<TextCluster> systemClusters();
     QVector<TextCluster> separateClusters();
+    QVector<TextCluster> fontClusters();
     QPainterPath outlineOf(const QList<QGlyphRun> &runs, double left);
     void space(TextCluster *cluster) const;
     void turnUpright(TextCluster *cluster) const;
+    void turnGlyphUpright(const FontGlyph &glyph, TextCluster *cluster) const;
     int place(int character) const { return m_content.characters.at(character).begin - m_textBegin + m_prefix; }
 
     const TextContent &m_content;
     BidiRun m_run;
     ShapingMode m_mode;
-    GlyphOutlines &m_outlines;
+    TextServices m_services;
+    const TextLevel &m_level;
     const ComputedStyle &m_style;
     double m_scale;
     int m_textBegin;
@@ -73,14 +102,17 @@ private:
     int m_prefix = 0;
     QTextLayout m_layout;
     QTextLine m_line;
+    /// Glyphs of a font of the document, by their first character.
+    QHash<int, const FontGlyph *> m_fontGlyphs;
 };
 
-Row::Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, GlyphOutlines *outlines)
+Row::Row(const TextContent &content, const BidiRun &run, const ShapingMode &mode, const TextServices &services)
     : m_content(content)
     , m_run(run)
     , m_mode(mode)
-    , m_outlines(*outlines)
-    , m_style(content.levels.at(content.characters.at(run.begin).level).style)
+    , m_services(services)
+    , m_level(content.levels.at(content.characters.at(run.begin).level))
+    , m_style(m_level.style)
     , m_scale(m_style.font.size / outlineFontSize)
     , m_textBegin(content.characters.at(run.begin).begin)
 {
@@ -95,7 +127,8 @@ void Row::layOut()
         m_prefix = 1;
     }
     QFont font = outlineFont(m_style.font, textStyleOf(m_style));
-    if (textStyleOf(m_style).letterSpacing != 0)
+    const bool spaced = textStyleOf(m_style).letterSpacing + textStyleOf(m_style).kerningSpacing != 0;
+    if (spaced && !isCursive(codeOf(m_content.text, m_content.characters.at(m_run.begin))))
         font.setLetterSpacing(QFont::AbsoluteSpacing, leastSpacing);
     QTextOption option;
     option.setUseDesignMetrics(true);
@@ -121,7 +154,7 @@ QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left)
         const QVector<QPointF> positions = run.positions();
         for (int i = 0; i < glyphs.size(); ++i) {
             const QPointF at = positions.at(i) - QPointF(left, baseline);
-            outline.addPath(m_outlines.outline(font, glyphs.at(i)).translated(at));
+            outline.addPath(m_services.glyphs->outline(font, glyphs.at(i)).translated(at));
         }
     }
     return QTransform::fromScale(m_scale, m_scale).map(outline);
@@ -131,7 +164,8 @@ void Row::space(TextCluster *cluster) const
 {
     const TextStyle &text = textStyleOf(m_style);
     const QChar first = m_content.text.at(m_content.characters.at(cluster->firstCharacter).begin);
-    cluster->advance += text.letterSpacing;
+    if (!isCursive(codeOf(m_content.text, m_content.characters.at(cluster->firstCharacter))))
+        cluster->advance += text.letterSpacing + text.kerningSpacing;
     if (first == QLatin1Char(' ') || first == QChar(QChar::Nbsp))
         cluster->advance += text.wordSpacing;
 }
@@ -140,7 +174,7 @@ void Row::space(TextCluster *cluster) const
 // a vertical line can be turned alike.
 void Row::turnUpright(TextCluster *cluster) const
 {
-    const FontMeasures measures = fontMeasures(m_style);
+    const FontMeasures measures = levelMeasures(m_level);
     const double height = measures.ascent - measures.descent;
     const double size = m_style.font.size;
     const double baseline = height > 0 ? size * measures.ascent / height : size;
@@ -151,6 +185,20 @@ void Row::turnUpright(TextCluster *cluster) const
     turn.translate(-cluster->advance / 2, baseline);
     cluster->outline = turn.map(cluster->outline);
     cluster->advance = size;
+}
+
+// A glyph of the document's own tells where it is held.
+void Row::turnGlyphUpright(const FontGlyph &glyph, TextCluster *cluster) const
+{
+    const LevelGlyphs glyphs(m_content, m_level, m_services, true);
+    const FontMeasures measures = levelMeasures(m_level);
+    const QPointF origin = glyphs.verticalOrigin(glyph);
+    QTransform turn;
+    turn.translate(0, -(measures.ascent + measures.descent) / 2);
+    turn.rotate(-90);
+    turn.translate(-origin.x(), origin.y());
+    cluster->outline = turn.map(cluster->outline);
+    cluster->advance = glyphs.verticalAdvance(glyph);
 }
 
 bool isSameGlyph(const QList<QGlyphRun> &a, const QList<QGlyphRun> &b)
@@ -187,27 +235,58 @@ QVector<TextCluster> Row::separateClusters()
     return clusters;
 }
 
+QVector<TextCluster> Row::systemClusters()
+{
+    layOut();
+    if (m_mode.separate)
+        return separateClusters();
+    const int level = m_content.characters.at(m_run.begin).level;
+    return {{m_run.begin, m_run.end - m_run.begin, level,
+             outlineOf(m_line.glyphRuns(), m_line.naturalTextRect().x()), m_line.naturalTextWidth() * m_scale, 0}};
+}
+
+// Characters that the font lacks are set together in fonts of the system.
+QVector<TextCluster> Row::fontClusters()
+{
+    const LevelGlyphs glyphs(m_content, m_level, m_services, m_mode.vertical);
+    QVector<TextCluster> clusters;
+    const FontGlyph *before = nullptr;
+    for (int at = m_run.begin; at < m_run.end;) {
+        const FontGlyph *glyph = glyphs.find(at, m_run.end);
+        if (glyph) {
+            if (before)
+                clusters.last().advance -= glyphs.kerning(*before, *glyph);
+            clusters.append(glyphs.cluster(*glyph, at, m_run.end));
+            m_fontGlyphs.insert(at, glyph);
+            at += clusters.constLast().characterCount;
+        } else {
+            const int first = at;
+            while (at < m_run.end && !glyphs.find(at, m_run.end))
+                ++at;
+            clusters += Row(m_content, {first, at, m_run.rightToLeft, m_run.overridden}, m_mode, m_services)
+                            .systemClusters();
+        }
+        before = glyph;
+    }
+    return clusters;
+}
+
 QVector<TextCluster> Row::clusters()
 {
     if (!(m_style.font.size > 0))
         return {};
-    layOut();
-    QVector<TextCluster> clusters;
-    if (m_mode.separate) {
-        clusters = separateClusters();
-    } else {
-        const double width = m_line.naturalTextWidth();
-        const int level = m_content.characters.at(m_run.begin).level;
-        clusters.append({m_run.begin, m_run.end - m_run.begin, level,
-                         outlineOf(m_line.glyphRuns(), m_line.naturalTextRect().x()), width * m_scale, 0});
-    }
+    QVector<TextCluster> clusters = m_level.font.font ? fontClusters() : systemClusters();
     double way = 0;
     for (TextCluster &cluster : clusters) {
         if (m_mode.separate)
             space(&cluster);
         const uint code = codeOf(m_content.text, m_content.characters.at(cluster.firstCharacter));
-        if (m_mode.vertical && isUpright(code))
-            turnUpright(&cluster);
+        if (m_mode.vertical && isSetUpright(textStyleOf(m_style).orientation, code)) {
+            if (const FontGlyph *glyph = m_fontGlyphs.value(cluster.firstCharacter))
+                turnGlyphUpright(*glyph, &cluster);
+            else
+                turnUpright(&cluster);
+        }
         cluster.offset = way;
         way += cluster.advance;
     }
@@ -235,13 +314,13 @@ bool canBePlaced(const QString &text, const TextCharacter &character)
 }
 
 QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
-                                GlyphOutlines *outlines)
+                                const TextServices &services)
 {
     QVector<TextCluster> clusters;
     double left = 0;
     const QVector<BidiRun> runs = bidiRuns(content, begin, end);
     for (const BidiRun &run : runs) {
-        QVector<TextCluster> row = Row(content, run, mode, outlines).clusters();
+        QVector<TextCluster> row = Row(content, run, mode, services).clusters();
         double width = 0;
         for (TextCluster &cluster : row) {
             cluster.offset += left;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "text/glyphoutlines.h"
 #include "text/textcontent.h"
+#include "text/textservices.h"
 
 #include <QtGui/QPainterPath>
 
@@ -35,6 +35,6 @@ bool canBePlaced(const QString &text, const TextCharacter &character);
 /// The glyphs of the characters from `begin` up to `end` on one line, in the order of the characters; the
 /// bidirectional algorithm settles where each stands (Unicode UAX 9).
 QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
-                                GlyphOutlines *outlines);
+                                const TextServices &services);
 
 } // namespace Svg

@@ -26,6 +26,8 @@ const KindName kindNames[] = {
     {QLatin1String("tspan"), ElementKind::Tspan},
     {QLatin1String("textPath"), ElementKind::TextPath},
     {QLatin1String("tref"), ElementKind::Tref},
+    // An old way to ask for certain glyphs; its own characters are set.
+    {QLatin1String("altGlyph"), ElementKind::Tspan},
     {QLatin1String("use"), ElementKind::Use},
     {QLatin1String("defs"), ElementKind::Defs},
     {QLatin1String("linearGradient"), ElementKind::LinearGradient},
@@ -73,6 +75,12 @@ const KindName kindNames[] = {
     {QLatin1String("feDistantLight"), ElementKind::FeDistantLight},
     {QLatin1String("fePointLight"), ElementKind::FePointLight},
     {QLatin1String("feSpotLight"), ElementKind::FeSpotLight},
+    {QLatin1String("glyph"), ElementKind::Glyph},
+    {QLatin1String("hkern"), ElementKind::HorizontalKerning},
+    {QLatin1String("vkern"), ElementKind::VerticalKerning},
+    {QLatin1String("missing-glyph"), ElementKind::MissingGlyph},
+    {QLatin1String("font-face"), ElementKind::FontFace},
+    {QLatin1String("font"), ElementKind::Font},
 };
 
 } // namespace
@@ -143,6 +151,11 @@ bool isAnimation(ElementKind kind)
 bool isPaintServerPart(ElementKind kind)
 {
     return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient || kind == ElementKind::Stop;
+}
+
+bool isFontPart(ElementKind kind)
+{
+    return kind >= ElementKind::Font && kind <= ElementKind::VerticalKerning;
 }
 
 bool isEffectPart(ElementKind kind)

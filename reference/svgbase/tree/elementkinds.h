@@ -76,6 +76,13 @@ enum class ElementKind : quint8 {
     Description,
     /// A style sheet.
     Style,
+    // A font inside the document, and what belongs to it.
+    Font,
+    FontFace,
+    Glyph,
+    MissingGlyph,
+    HorizontalKerning,
+    VerticalKerning,
     /// Everything else; kept, never drawn.
     Other
 };
@@ -95,6 +102,8 @@ bool isTextPart(ElementKind kind);
 bool isAnimation(ElementKind kind);
 /// Whether other elements refer to the kind for their paint.
 bool isPaintServerPart(ElementKind kind);
+/// Whether the kind only acts on texts that are set in its font.
+bool isFontPart(ElementKind kind);
 /// Whether the kind only acts on elements that refer to it: clip paths, masks, markers, filters and their parts.
 bool isEffectPart(ElementKind kind);
 

@@ -36,6 +36,7 @@ NodeIndex Tree::add(const Node &node)
 {
     if (node.kind == ElementKind::TextPath || node.kind == ElementKind::Tref)
         m_textReferences = true;
+    m_hasFonts = m_hasFonts || isFontPart(node.kind);
     return place(NodePointer(new Node(node)));
 }
 

@@ -57,6 +57,8 @@ public:
     int size() const { return m_nodes.size(); }
     /// Whether there are, or were, texts that refer to other elements for their way or their characters.
     bool hasTextReferences() const { return m_textReferences; }
+    /// Whether there are, or were, fonts.
+    bool hasFonts() const { return m_hasFonts; }
     const Node &node(NodeIndex index) const { return *m_nodes.at(index); }
     Node &edit(NodeIndex index) { return *m_nodes[index]; }
 
@@ -106,6 +108,7 @@ private:
     mutable QHash<QString, NodeIndex> m_ids;
     mutable bool m_idsKnown = false;
     bool m_textReferences = false;
+    bool m_hasFonts = false;
 };
 
 } // namespace Svg

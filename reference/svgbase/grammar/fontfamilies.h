@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+namespace Svg {
+
+/// One name of a list of font families.
+struct FamilyName
+{
+    QString text;
+    /// A quoted name is no keyword.
+    bool quoted = false;
+};
+
+/// The names of a "font-family" (CSS Fonts 3 §3.1): strings, or words between commas. Empty names are left out, and
+/// what is beyond `Limits::listedFamilies`.
+QVector<FamilyName> parseFontFamilies(const QString &list);
+
+} // namespace Svg

@@ -1,0 +1,260 @@
+#include "text/documentfont.h"
+
+#include "grammar/numbers.h"
+#include "grammar/pathdata.h"
+#include "inputlimits.h"
+#include "text/glyphshapes.h"
+
+namespace Svg {
+
+namespace {
+
+// Shares of the em where a font does not tell (SVG 1.1 §20.8.3 leaves most of them to the program).
+constexpr double usualAscent = 0.8;
+constexpr double usualDescent = 0.2;
+constexpr double usualXHeight = 0.5;
+constexpr double usualSubscript = 0.2;
+constexpr double usualSuperscript = 0.4;
+constexpr double usualUnderline = 0.1;
+constexpr double usualThickness = 0.05;
+
+/// Fonts with smaller ones would be magnified without bounds.
+constexpr double leastUnitsPerEm = 0.01;
+
+struct FormName
+{
+    QLatin1String name;
+    ArabicForm form;
+};
+
+const FormName formNames[] = {
+    {QLatin1String("isolated"), ArabicForm::Isolated},
+    {QLatin1String("initial"), ArabicForm::Initial},
+    {QLatin1String("medial"), ArabicForm::Medial},
+    {QLatin1String("terminal"), ArabicForm::Terminal},
+};
+
+ArabicForm formNamed(const QString &name)
+{
+    for (const FormName &known : formNames) {
+        if (name == known.name)
+            return known.form;
+    }
+    return ArabicForm::Any;
+}
+
+const QString characterKey = QStringLiteral("u");
+const QString nameKey = QStringLiteral("g");
+
+// What one side of a pair lists: characters, or names of glyphs.
+QStringList keysOf(const QString &characters, const QString &names)
+{
+    QStringList keys;
+    for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        keys.append(characterKey + (part.size() > 1 ? part.trimmed() : part));
+    for (const QString &part : names.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        keys.append(nameKey + part.trimmed());
+    return keys;
+}
+
+bool speaks(const QString &language, const QString &tag)
+{
+    return language.compare(tag, Qt::CaseInsensitive) == 0 ||
+           language.startsWith(tag + QLatin1Char('-'), Qt::CaseInsensitive);
+}
+
+bool isForLanguage(const QString &tags, const QString &language)
+{
+    const QStringList list = tags.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    return list.isEmpty() || std::any_of(list.begin(), list.end(),
+                                         [&](const QString &tag) { return speaks(language, tag.trimmed()); });
+}
+
+QStringList kerningKeys(const FontGlyph &glyph)
+{
+    return QStringList(characterKey + glyph.characters) + keysOf(QString(), glyph.names);
+}
+
+QString textOf(const Node &node, const char *name)
+{
+    return node.attributes.value(QString::fromLatin1(name));
+}
+
+double numberOf(const Node &node, const char *name, double otherwise)
+{
+    const double value = parseNumber(textOf(node, name)).value_or(otherwise);
+    return qBound(-Limits::coordinate, value, Limits::coordinate);
+}
+
+const Node *faceOf(const Tree &tree, const Node &font)
+{
+    for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
+        if (tree.node(at).kind == ElementKind::FontFace)
+            return &tree.node(at);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+DocumentFont::DocumentFont(const Tree &tree, NodeIndex index)
+{
+    const Node &font = tree.node(index);
+    m_advance = numberOf(font, "horiz-adv-x", 0);
+    m_originX = numberOf(font, "horiz-origin-x", 0);
+    static const Node plain;
+    const Node *face = faceOf(tree, font);
+    readFace(face ? *face : plain);
+    m_verticalAdvance = numberOf(font, "vert-adv-y", m_unitsPerEm);
+    m_verticalOrigin = {numberOf(font, "vert-origin-x", m_advance / 2),
+                        numberOf(font, "vert-origin-y", m_measures.ascent)};
+    for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
+        const ElementKind kind = tree.node(at).kind;
+        if (kind == ElementKind::Glyph)
+            addGlyph(readGlyph(tree, at));
+        else if (kind == ElementKind::MissingGlyph && m_missing.node == noNode)
+            m_missing = readGlyph(tree, at);
+        else if (kind == ElementKind::HorizontalKerning)
+            readKerning(tree.node(at), &m_horizontalKerning);
+        else if (kind == ElementKind::VerticalKerning)
+            readKerning(tree.node(at), &m_verticalKerning);
+    }
+}
+
+void DocumentFont::readFace(const Node &face)
+{
+    const double units = numberOf(face, "units-per-em", m_unitsPerEm);
+    if (units >= leastUnitsPerEm)
+        m_unitsPerEm = units;
+    const double em = m_unitsPerEm;
+    m_measures.ascent = numberOf(face, "ascent", usualAscent * em);
+    // Fonts write it with either sign.
+    m_measures.descent = -qAbs(numberOf(face, "descent", usualDescent * em));
+    m_measures.xHeight = numberOf(face, "x-height", usualXHeight * em);
+    m_measures.subscript = -usualSubscript * em;
+    m_measures.superscript = usualSuperscript * em;
+    m_measures.underline = numberOf(face, "underline-position", -usualUnderline * em);
+    m_measures.thickness = numberOf(face, "underline-thickness", usualThickness * em);
+    m_measures.lineThrough = numberOf(face, "strikethrough-position", m_measures.xHeight / 2);
+}
+
+FontMeasures DocumentFont::measures(double size) const
+{
+    const double scale = size / m_unitsPerEm;
+    FontMeasures scaled = m_measures;
+    for (double FontMeasures::*height :
+         {&FontMeasures::ascent, &FontMeasures::descent, &FontMeasures::xHeight, &FontMeasures::subscript,
+          &FontMeasures::superscript, &FontMeasures::underline, &FontMeasures::thickness,
+          &FontMeasures::lineThrough})
+        scaled.*height *= scale;
+    return scaled;
+}
+
+FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index) const
+{
+    const Node &node = tree.node(index);
+    FontGlyph glyph;
+    glyph.node = index;
+    glyph.characters = textOf(node, "unicode").left(Limits::glyphCharacters);
+    glyph.names = textOf(node, "glyph-name");
+    glyph.languages = textOf(node, "lang");
+    glyph.form = formNamed(textOf(node, "arabic-form"));
+    glyph.data = node.attributes.value(AttributeId::D);
+    if (glyph.data.isEmpty() && node.firstChild != noNode)
+        glyph.shapes = glyphShapes(tree, index);
+    const QString orientation = textOf(node, "orientation");
+    glyph.onHorizontal = orientation != QLatin1String("v");
+    glyph.onVertical = orientation != QLatin1String("h");
+    glyph.advance = numberOf(node, "horiz-adv-x", m_advance);
+    glyph.verticalAdvance = numberOf(node, "vert-adv-y", m_verticalAdvance);
+    glyph.verticalOrigin = {numberOf(node, "vert-origin-x", m_verticalOrigin.x()),
+                            numberOf(node, "vert-origin-y", m_verticalOrigin.y())};
+    return glyph;
+}
+
+void DocumentFont::addGlyph(const FontGlyph &glyph)
+{
+    m_glyphs.append(glyph);
+    if (glyph.characters.isEmpty())
+        return;
+    QVector<int> &known = m_byCharacter[glyph.characters.front()];
+    if (known.size() < Limits::glyphsOfCharacter)
+        known.append(m_glyphs.size() - 1);
+}
+
+bool DocumentFont::isAllowed(const FontGlyph &glyph, const GlyphPlace &place)
+{
+    if (!place.text.startsWith(glyph.characters) || !(place.vertical ? glyph.onVertical : glyph.onHorizontal))
+        return false;
+    const bool single = glyph.characters.size() == (glyph.characters.front().isHighSurrogate() ? 2 : 1);
+    if (!single && !place.ligatures)
+        return false;
+    if (glyph.form != ArabicForm::Any && glyph.form != place.form)
+        return false;
+    return isForLanguage(glyph.languages, place.language);
+}
+
+const FontGlyph *DocumentFont::find(const GlyphPlace &place) const
+{
+    if (place.text.isEmpty())
+        return nullptr;
+    const QVector<int> known = m_byCharacter.value(place.text.front());
+    for (const int i : known) {
+        if (isAllowed(m_glyphs.at(i), place))
+            return &m_glyphs.at(i);
+    }
+    return nullptr;
+}
+
+const FontGlyph *DocumentFont::glyphOf(NodeIndex node) const
+{
+    const auto found = std::find_if(m_glyphs.begin(), m_glyphs.end(),
+                                    [node](const FontGlyph &glyph) { return glyph.node == node; });
+    return found == m_glyphs.end() ? nullptr : found;
+}
+
+// Of several elements for a pair the first counts (SVG 1.1 §20.7).
+void DocumentFont::readKerning(const Node &node, KerningTable *table)
+{
+    const double value = numberOf(node, "k", 0);
+    const QStringList firsts = keysOf(textOf(node, "u1"), textOf(node, "g1"));
+    const QStringList seconds = keysOf(textOf(node, "u2"), textOf(node, "g2"));
+    for (const QString &first : firsts) {
+        for (const QString &second : seconds) {
+            if (table->size() >= Limits::kerningPairs)
+                return;
+            if (!table->contains({first, second}))
+                table->insert({first, second}, {table->size(), value});
+        }
+    }
+}
+
+double DocumentFont::kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const
+{
+    const KerningTable &table = vertical ? m_verticalKerning : m_horizontalKerning;
+    if (table.isEmpty())
+        return 0;
+    Kerning found{Limits::kerningPairs, 0};
+    const QStringList seconds = kerningKeys(second);
+    for (const QString &from : kerningKeys(first)) {
+        for (const QString &to : seconds) {
+            const Kerning pair = table.value({from, to}, found);
+            if (pair.order < found.order)
+                found = pair;
+        }
+    }
+    return found.value;
+}
+
+const QPainterPath &DocumentFont::outline(const FontGlyph &glyph) const
+{
+    auto known = m_outlines.find(glyph.node);
+    if (known == m_outlines.end()) {
+        const QPainterPath path = glyph.data.isEmpty() ? glyph.shapes : parsePathData(glyph.data).path;
+        const QTransform upright = QTransform::fromScale(1, -1);
+        known = m_outlines.insert(glyph.node, upright.map(path.translated(-m_originX, 0)));
+    }
+    return *known;
+}
+
+} // namespace Svg

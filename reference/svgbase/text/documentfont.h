@@ -1,0 +1,97 @@
+#pragma once
+
+#include "text/fontmeasures.h"
+#include "tree/tree.h"
+
+#include <QtGui/QPainterPath>
+
+namespace Svg {
+
+/// How an Arabic letter joins its neighbours; `Any` where that does not matter.
+enum class ArabicForm : quint8 { Any, Isolated, Initial, Medial, Terminal };
+
+/// A glyph of a font inside the document (SVG 1.1 §20.4), font units.
+struct FontGlyph
+{
+    NodeIndex node = noNode;
+    /// What it stands for; empty for a glyph that only its name reaches.
+    QString characters;
+    /// Names separated by commas, and language tags that it is for.
+    QString names;
+    QString languages;
+    /// Path data, or what the shapes inside of it amount to; y points up.
+    QString data;
+    QPainterPath shapes;
+    ArabicForm form = ArabicForm::Any;
+    bool onHorizontal = true;
+    bool onVertical = true;
+    double advance = 0;
+    double verticalAdvance = 0;
+    /// Where it is held on a vertical line.
+    QPointF verticalOrigin;
+};
+
+/// Where a glyph is looked for.
+struct GlyphPlace
+{
+    /// The characters, from the one that the glyph begins with up to the last that it may take.
+    QStringView text;
+    ArabicForm form = ArabicForm::Isolated;
+    bool vertical = false;
+    /// Of the text; empty where it is not said.
+    QString language;
+    /// Whether a glyph may stand for several characters.
+    bool ligatures = true;
+};
+
+/// A "font" element.
+class DocumentFont
+{
+public:
+    DocumentFont(const Tree &tree, NodeIndex font);
+
+    double unitsPerEm() const { return m_unitsPerEm; }
+    /// Heights at a font size in user units.
+    FontMeasures measures(double size) const;
+    /// The first glyph that the place allows; null when there is none.
+    const FontGlyph *find(const GlyphPlace &place) const;
+    /// What stands for characters without glyph; null when the font has none.
+    const FontGlyph *missing() const { return m_missing.node == noNode ? nullptr : &m_missing; }
+    /// The glyph that an element describes; null when it is none of this font.
+    const FontGlyph *glyphOf(NodeIndex node) const;
+    /// How much closer than their advance two neighbours stand, font units.
+    double kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const;
+    /// The outline in font units, y pointing down, its baseline beginning at the origin.
+    const QPainterPath &outline(const FontGlyph &glyph) const;
+
+private:
+    struct Kerning
+    {
+        int order;
+        double value;
+    };
+    using KerningTable = QHash<QPair<QString, QString>, Kerning>;
+
+    void readFace(const Node &face);
+    FontGlyph readGlyph(const Tree &tree, NodeIndex node) const;
+    void addGlyph(const FontGlyph &glyph);
+    static void readKerning(const Node &node, KerningTable *table);
+    static bool isAllowed(const FontGlyph &glyph, const GlyphPlace &place);
+
+    double m_unitsPerEm = 1000;
+    double m_advance = 0;
+    double m_originX = 0;
+    double m_verticalAdvance = 0;
+    QPointF m_verticalOrigin;
+    /// At a font size of one font unit per user unit.
+    FontMeasures m_measures;
+    QVector<FontGlyph> m_glyphs;
+    FontGlyph m_missing;
+    /// Places of glyphs by the first unit of their characters.
+    QHash<QChar, QVector<int>> m_byCharacter;
+    KerningTable m_horizontalKerning;
+    KerningTable m_verticalKerning;
+    mutable QHash<NodeIndex, QPainterPath> m_outlines;
+};
+
+} // namespace Svg

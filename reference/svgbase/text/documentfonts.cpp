@@ -1,0 +1,193 @@
+#include "text/documentfonts.h"
+
+#include "grammar/fontfamilies.h"
+#include "grammar/paints.h"
+#include "inputlimits.h"
+#include "resolve/fonts.h"
+#include "style/textproperties.h"
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+// What weighs more than any difference of weights.
+constexpr int wrongSlope = 10000;
+constexpr int wrongVariant = 100000;
+
+QString attribute(const Tree &tree, NodeIndex node, const char *name)
+{
+    return tree.node(node).attributes.value(QString::fromLatin1(name));
+}
+
+QStringList wordsOf(const QString &list)
+{
+    QStringList words = list.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (QString &word : words)
+        word = word.trimmed();
+    return words;
+}
+
+QVector<int> weightsOf(const QStringList &words)
+{
+    QVector<int> weights;
+    for (const QString &word : words) {
+        if (word == QLatin1String("normal"))
+            weights.append(400);
+        else if (word == QLatin1String("bold"))
+            weights.append(700);
+        else if (word.toInt() > 0)
+            weights.append(word.toInt());
+    }
+    return weights;
+}
+
+bool asksFor(const QStringList &words, std::initializer_list<const char *> wanted)
+{
+    const auto isWanted = [&](const QString &word) {
+        return word == QLatin1String("all") || std::any_of(wanted.begin(), wanted.end(), [&](const char *known) {
+                   return word == QLatin1String(known);
+               });
+    };
+    return words.isEmpty() || std::any_of(words.begin(), words.end(), isWanted);
+}
+
+NodeIndex childNamed(const Tree &tree, NodeIndex node, const char *name)
+{
+    for (NodeIndex at = tree.node(node).firstChild; at != noNode; at = tree.node(at).next) {
+        if (hasLocalName(tree.node(at), QString::fromLatin1(name)))
+            return at;
+    }
+    return noNode;
+}
+
+// The font of this document that a description outside of it is for; `noNode` without one.
+NodeIndex sourceOf(const Tree &tree, NodeIndex face)
+{
+    const NodeIndex source = childNamed(tree, face, "font-face-src");
+    const NodeIndex uri = source == noNode ? noNode : childNamed(tree, source, "font-face-uri");
+    if (uri == noNode)
+        return noNode;
+    const Attributes &attributes = tree.node(uri).attributes;
+    const QString plain = localReference(attributes.value(AttributeId::Href));
+    const NodeIndex font =
+        tree.findId(plain.isEmpty() ? localReference(attributes.value(AttributeId::XlinkHref)) : plain);
+    return font != noNode && tree.node(font).kind == ElementKind::Font ? font : noNode;
+}
+
+} // namespace
+
+void DocumentFonts::setRevision(quint32 revision)
+{
+    if (revision == m_revision)
+        return;
+    m_revision = revision;
+    m_read = false;
+    m_faces.clear();
+    m_fonts.clear();
+}
+
+void DocumentFonts::addFace(const Tree &tree, NodeIndex face, NodeIndex font)
+{
+    Face read;
+    read.font = font;
+    const QVector<FamilyName> names = parseFontFamilies(attribute(tree, face, "font-family"));
+    for (const FamilyName &name : names)
+        read.families.append(name.text.toLower());
+    read.weights = weightsOf(wordsOf(attribute(tree, face, "font-weight")));
+    const QStringList slopes = wordsOf(attribute(tree, face, "font-style"));
+    read.upright = asksFor(slopes, {"normal"});
+    read.italic = asksFor(slopes, {"italic", "oblique"});
+    read.smallCaps = attribute(tree, face, "font-variant").contains(QLatin1String("small-caps"));
+    m_faces.append(read);
+}
+
+void DocumentFonts::readFaces(const Tree &tree)
+{
+    m_read = true;
+    for (NodeIndex at = rootNode; at != noNode && m_faces.size() < Limits::fonts;
+         at = tree.following(at, rootNode)) {
+        if (tree.node(at).kind != ElementKind::FontFace)
+            continue;
+        const NodeIndex above = tree.node(at).parent;
+        const NodeIndex font = tree.node(above).kind == ElementKind::Font ? above : sourceOf(tree, at);
+        if (font != noNode)
+            addFace(tree, at, font);
+    }
+}
+
+// CSS 2.1 §15.6: the slope first, then the nearest weight; light texts look for lighter fonts first.
+int DocumentFonts::mismatch(const Face &face, const ComputedStyle &style)
+{
+    int sum = (style.font.italic ? face.italic : face.upright) ? 0 : wrongSlope;
+    if (face.smallCaps != textStyleOf(style).smallCaps)
+        sum += wrongVariant;
+    const int wanted = style.font.weight;
+    int nearest = face.weights.isEmpty() ? 0 : wrongSlope;
+    for (const int weight : face.weights) {
+        const bool onLikedSide = wanted < 500 ? weight <= wanted : weight >= wanted;
+        nearest = qMin(nearest, 2 * qAbs(weight - wanted) + (onLikedSide ? 0 : 1));
+    }
+    return sum + nearest;
+}
+
+const DocumentFonts::Face *DocumentFonts::bestFace(const QString &family, const ComputedStyle &style) const
+{
+    const Face *best = nullptr;
+    for (const Face &face : m_faces) {
+        const bool isOfFamily = face.families.contains(family);
+        if (isOfFamily && (!best || mismatch(face, style) < mismatch(*best, style)))
+            best = &face;
+    }
+    return best;
+}
+
+DocumentFontPointer DocumentFonts::font(const Tree &tree, NodeIndex index)
+{
+    DocumentFontPointer &known = m_fonts[index];
+    if (!known)
+        known = std::make_shared<DocumentFont>(tree, index);
+    return known;
+}
+
+FoundFont DocumentFonts::find(const Tree &tree, const ComputedStyle &style)
+{
+    if (!tree.hasFonts())
+        return {};
+    if (!m_read)
+        readFaces(tree);
+    const QVector<FamilyName> names = parseFontFamilies(style.font.family);
+    for (int i = 0; i < names.size(); ++i) {
+        if (const Face *face = bestFace(names.at(i).text.toLower(), style))
+            return {font(tree, face->font), i + 1 < names.size()};
+        if (isInstalled(names.at(i)))
+            break;
+    }
+    return {};
+}
+
+DocumentFontPointer DocumentFonts::fontOfGlyph(const Tree &tree, NodeIndex glyph)
+{
+    if (glyph == noNode || tree.node(glyph).kind != ElementKind::Glyph)
+        return nullptr;
+    const NodeIndex above = tree.node(glyph).parent;
+    return tree.node(above).kind == ElementKind::Font ? font(tree, above) : nullptr;
+}
+
+void DocumentFonts::beginText(NodeIndex text)
+{
+    m_text = text;
+    m_allOutlineElements -= m_outlineElements.take(text);
+}
+
+bool DocumentFonts::takeOutline(int elements)
+{
+    if (m_allOutlineElements + elements > Limits::fontOutlineElements)
+        return false;
+    m_allOutlineElements += elements;
+    m_outlineElements[m_text] += elements;
+    return true;
+}
+
+} // namespace Svg
