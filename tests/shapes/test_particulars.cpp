@@ -7,6 +7,7 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QJsonObject>
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void tableHasItsRowsAndColumns();
     void numberLineCountsFromItsFirstNumber();
     void axesGetMoreTicksNotLongerOnes();
+    void axesOfADamagedSizeAreNotDrawn_data();
+    void axesOfADamagedSizeAreNotDrawn();
     void springKeepsItsCoilsWhenPulled();
 };
 
@@ -236,6 +239,44 @@ void TestParticulars::axesGetMoreTicksNotLongerOnes()
     QVERIFY2(more >= 18 && more <= 22, qPrintable(QString::number(more)));
     answer(axes, "{\"idGrid\": \"false\"}");
     QVERIFY(pathOf(axes, "grid").isEmpty());
+}
+
+void TestParticulars::axesOfADamagedSizeAreNotDrawn_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QPointF>("place");
+    QTest::addColumn<QRectF>("figure");
+    const QRectF drawn(QPointF(3, 5), QPointF(395, 297));
+    QTest::newRow("whole") << QSizeF(400, 300) << QPointF(40, 100) << drawn;
+    // Control points come back to where they may be.
+    QTest::newRow("far to the left") << QSizeF(400, 300) << QPointF(-1e13, 100) << drawn;
+    QTest::newRow("far up") << QSizeF(400, 300) << QPointF(40, -1e13) << drawn;
+    // A tick every 20 units would take the memory of several machines. What is not drawn is the template's.
+    const QRectF templates(QPointF(3, 5), QPointF(195, 177));
+    QTest::newRow("wide") << QSizeF(1e13, 300) << QPointF(40, 100) << templates;
+    QTest::newRow("high") << QSizeF(400, 1e13) << QPointF(40, 100) << templates;
+    QTest::newRow("without a width") << QSizeF(0, 300) << QPointF(40, 100) << templates;
+    QTest::newRow("of a negative height") << QSizeF(400, -300) << QPointF(40, 100) << templates;
+}
+
+void TestParticulars::axesOfADamagedSizeAreNotDrawn()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(QPointF, place);
+    QFETCH(QRectF, figure);
+    ShapeDriver original(QStringLiteral("axes"));
+    original.createByClick();
+    QJsonObject saved;
+    original.object().saveJson(saved);
+    saved[QStringLiteral("SVG_viewBox")] =
+        QJsonObject{{"x", 0}, {"y", 0}, {"width", size.width()}, {"height", size.height()}};
+    saved[QStringLiteral("SVG_PosX_1")] = place.x();
+    saved[QStringLiteral("SVG_PosY_1")] = place.y();
+    ShapeDriver axes(QStringLiteral("axes"));
+    axes.object().loadJson(saved);
+    axes.painted();
+    QCOMPARE(axes.document().viewBox().size(), size);
+    QCOMPARE(pathOf(axes, "figure").controlPointRect(), figure);
 }
 
 void TestParticulars::springKeepsItsCoilsWhenPulled()

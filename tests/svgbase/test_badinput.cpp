@@ -57,6 +57,7 @@ private slots:
     void deeplyChainedUseIsBounded();
     void longGradientChainsAreBounded();
     void tinyDashesAreDrawnSolid();
+    void outlinesFarSmallerThanTheirPenAreStroked();
     void nestedLayersAreBounded();
     void manyWideLayersAreBounded();
     void hugeCoordinatesAreSurvived();
@@ -291,6 +292,14 @@ void TestBadInput::tinyDashesAreDrawnSolid()
     document->setAllStrokeWidth(1e-9);
     drawn(*document);
     drawn(*document, QSize(100, 50));
+}
+
+// Qt cuts a curve until each piece strays less from its stroke than a float that must not become 0.
+void TestBadInput::outlinesFarSmallerThanTheirPenAreStroked()
+{
+    exercise(svgText(
+        "<path d='M1e-304 1e-304C1e-304 3e-304 2e-304 3e-304 2e-304 1e-304' stroke='red' stroke-width='1'/>",
+        "0 0 3e-304 4e-304"));
 }
 
 void TestBadInput::nestedLayersAreBounded()
