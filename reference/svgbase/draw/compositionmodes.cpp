@@ -27,6 +27,8 @@ QPainter::CompositionMode compositionMode(BlendMode mode)
         return QPainter::CompositionMode_Difference;
     case BlendMode::Exclusion:
         return QPainter::CompositionMode_Exclusion;
+    case BlendMode::PlusLighter:
+        return QPainter::CompositionMode_Plus;
     default:
         return QPainter::CompositionMode_SourceOver;
     }
@@ -34,7 +36,7 @@ QPainter::CompositionMode compositionMode(BlendMode mode)
 
 bool isForPainters(BlendMode mode)
 {
-    return mode < BlendMode::Hue;
+    return mode < BlendMode::Hue || mode == BlendMode::PlusLighter;
 }
 
 QPainter::CompositionMode compositionMode(CompositeOperator op)

@@ -4,14 +4,15 @@
 #include "draw/listbuilder.h"
 #include "inputlimits.h"
 #include "resolve/images.h"
+#include "resolve/viewports.h"
 
 namespace Svg {
 
 namespace {
 
-bool isCut(const Facts &facts)
+std::optional<QRectF> cutOf(const Facts &facts)
 {
-    return !facts.style.effects || facts.style.effects->overflow != Overflow::Visible;
+    return viewportCut(facts.style, facts.localBounds, facts.viewport);
 }
 
 bool takePixels(BuildContext &context, const ImageContent &content)
@@ -47,8 +48,8 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
     item.controlCentre = context.controlCentre;
     const QRectF whole(QPointF(), size);
     item.pictureTarget = facts->fit.mapRect(whole);
-    if (isCut(*facts))
-        item.pictureTarget &= facts->localBounds;
+    if (const std::optional<QRectF> cut = cutOf(*facts))
+        item.pictureTarget &= *cut;
     items->append(item);
 }
 
@@ -99,10 +100,10 @@ void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &f
     QVector<DisplayItem> drawing = documentItems(context, node, *facts);
     if (drawing.isEmpty())
         return;
-    if (isCut(*facts)) {
+    if (const std::optional<QRectF> cut = cutOf(*facts)) {
         const auto layer = std::make_shared<LayerEffects>();
         layer->hasRegion = true;
-        layer->region.addRect(facts->localBounds);
+        layer->region.addRect(*cut);
         layer->regionToDocument = facts->toDocument;
         wrapInLayer(context, node, layer, &drawing);
     }

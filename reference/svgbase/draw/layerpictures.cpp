@@ -191,6 +191,14 @@ int byteOf(double share)
     return qBound(0, qRound(share * opaque), opaque);
 }
 
+// Both lights are added up (Compositing 2, "plus-lighter").
+QRgb added(QRgb below, QRgb above, double opacity)
+{
+    const auto sum = [opacity](int a, int b) { return qMin(opaque, qRound(a + b * opacity)); };
+    return qRgba(sum(qRed(below), qRed(above)), sum(qGreen(below), qGreen(above)), sum(qBlue(below), qBlue(above)),
+                 sum(qAlpha(below), qAlpha(above)));
+}
+
 // Compositing 1 §5.1, with premultiplied results.
 QRgb blended(QRgb below, QRgb above, double opacity, BlendMode mode)
 {
@@ -234,7 +242,9 @@ void blendOver(QImage *backdrop, const QPoint &place, const QImage &source, doub
         const QRgb *above = rowOf(source, y - place.y());
         for (int x = area.left(); x <= area.right(); ++x) {
             const QRgb pixel = above[x - place.x()];
-            if (qAlpha(pixel) > 0)
+            if (mode == BlendMode::PlusLighter)
+                below[x] = added(below[x], pixel, opacity);
+            else if (qAlpha(pixel) > 0)
                 below[x] = blended(below[x], pixel, opacity, mode);
         }
     }

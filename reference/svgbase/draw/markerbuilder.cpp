@@ -23,9 +23,10 @@ struct MarkerForm
 {
     NodeIndex node = noNode;
     FactsPointer own;
-    /// The box that the content is fitted into, and that it is cut at unless it may overflow.
+    /// The box that the content is fitted into.
     QRectF box;
-    bool cut = true;
+    /// What it is cut at, in the units of the box; none where it may overflow.
+    std::optional<QRectF> cut;
     /// From the content's units to those of the box, the reference point at the origin.
     QTransform contentToBox;
     QTransform boxToPlace;
@@ -108,12 +109,12 @@ std::optional<MarkerForm> MarkerBuilder::form(const QString &id) const
     const Attributes attributes = tree.node(form.node).attributes;
     form.own = m_context.document.facts(form.node);
     const ComputedStyle &style = form.own->style;
-    form.cut = !style.effects || style.effects->overflow != Overflow::Visible;
     if (attributes.value(QStringLiteral("markerUnits")) != QLatin1String("userSpaceOnUse"))
         form.scale = m_element.strokeWidth;
     readOrientation(attributes, &form);
     if (!(form.scale > 0) || !fitContent(attributes, {m_element.facts->viewport, style.font.size}, &form))
         return std::nullopt;
+    form.cut = viewportCut(style, form.box, m_element.facts->viewport);
     return form;
 }
 
@@ -142,8 +143,8 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
     const double opacity = form.own->style.opacity;
     if (form.cut || opacity < 1) {
         const auto layer = std::make_shared<LayerEffects>();
-        layer->hasRegion = form.cut;
-        layer->region.addRect(form.box);
+        layer->hasRegion = form.cut.has_value();
+        layer->region.addRect(form.cut.value_or(QRectF()));
         layer->regionToDocument = boxToDocument;
         wrapInLayer(m_context, form.node, layer, &content);
         content.first().opacity = opacity;

@@ -6,6 +6,7 @@
 #include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
 #include "inputlimits.h"
+#include "style/cascade.h"
 #include "tree/references.h"
 
 namespace Svg {
@@ -39,6 +40,21 @@ public:
         return QString();
     }
 
+    /// The attribute stands for the property "transform", which style may give as well (SVG 2 §14.3.1).
+    QString transform(Document &document) const
+    {
+        for (const NodeIndex index : m_nodes) {
+            const QString styled =
+                styledAttribute(Attributes(), document.facts(index)->style.attributes, AttributeId::Transform);
+            if (!styled.isEmpty())
+                return styled;
+            const QString name = QStringLiteral("patternTransform");
+            if (m_tree.node(index).attributes.contains(name))
+                return m_tree.node(index).attributes.value(name);
+        }
+        return QString();
+    }
+
     /// The first that has content; `noNode` when none has.
     NodeIndex holder() const
     {
@@ -60,6 +76,7 @@ public:
         , m_target(*target.facts)
         , m_chain(context.document.tree(), pattern)
         , m_ofBounds(m_chain.value(QStringLiteral("patternUnits")) != userSpaceOnUse)
+        , m_fontSize(context.document.facts(pattern)->style.font.size)
     {
         m_pattern.node = pattern;
         m_pattern.opacity = target.opacity;
@@ -83,6 +100,8 @@ private:
     const Facts &m_target;
     PatternChain m_chain;
     bool m_ofBounds;
+    /// Of the pattern's own element, user units.
+    double m_fontSize;
     PatternPaint m_pattern;
 };
 
@@ -90,7 +109,7 @@ double PatternBuilder::length(const char *name, Axis axis) const
 {
     const QSizeF base = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
     const Length length = parseLength(m_chain.value(QString(QLatin1String(name)))).value_or(Length());
-    return toUserUnits(length, axis, {base, m_target.style.font.size});
+    return toUserUnits(length, axis, {base, m_fontSize});
 }
 
 bool PatternBuilder::placeTile()
@@ -126,12 +145,12 @@ bool PatternBuilder::placeContent(QTransform *toPattern, QSizeF *viewport) const
 
 QTransform PatternBuilder::ownTransform() const
 {
-    const QString text = m_chain.value(QStringLiteral("patternTransform"));
+    const QString text = m_chain.transform(m_context.document);
     if (text.isEmpty())
         return QTransform();
     if (const std::optional<QTransform> transform = parseTransform(text))
         return *transform;
-    return parseCssTransform(text, {m_target.viewport, m_target.style.font.size}).value_or(QTransform());
+    return parseCssTransform(text, {m_target.viewport, m_fontSize}).value_or(QTransform());
 }
 
 uint PatternBuilder::key() const

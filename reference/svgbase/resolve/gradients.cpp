@@ -1,6 +1,7 @@
 #include "resolve/gradients.h"
 
 #include "grammar/colors.h"
+#include "grammar/csstransforms.h"
 #include "grammar/lengths.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
@@ -8,7 +9,10 @@
 #include "style/cascade.h"
 #include "tree/references.h"
 
+#include <QtCore/QLineF>
 #include <QtGui/QTransform>
+
+#include <cmath>
 
 namespace Svg {
 
@@ -30,6 +34,7 @@ public:
     bool isCut() const { return m_cut; }
     ElementKind kind() const { return m_tree.node(m_nodes.first()).kind; }
     QString value(AttributeId id) const;
+    QString transform() const;
     QGradientStops stops(double opacity) const;
 
 private:
@@ -65,6 +70,21 @@ QString GradientChain::value(AttributeId id) const
         const Attributes &attributes = m_tree.node(index).attributes;
         if (attributes.contains(id))
             return attributes.value(id);
+    }
+    return QString();
+}
+
+// The attribute stands for the property "transform", which style may give as well (SVG 2 §14.2.2).
+QString GradientChain::transform() const
+{
+    for (const NodeIndex index : m_nodes) {
+        const Attributes &attributes = m_tree.node(index).attributes;
+        const QString styled =
+            styledAttribute(Attributes(), styleInTree(m_tree, index).attributes, AttributeId::Transform);
+        if (!styled.isEmpty())
+            return styled;
+        if (attributes.contains(AttributeId::GradientTransform))
+            return attributes.value(AttributeId::GradientTransform);
     }
     return QString();
 }
@@ -147,10 +167,10 @@ QGradientStops followingLight(const QGradientStops &stops)
 class GradientLengths
 {
 public:
-    GradientLengths(const GradientChain &chain, const GradientTarget &target)
+    GradientLengths(const GradientChain &chain, const GradientTarget &target, double fontSize)
         : m_chain(chain)
         , m_ofBounds(chain.value(AttributeId::GradientUnits) != QLatin1String("userSpaceOnUse"))
-        , m_context{m_ofBounds ? QSizeF(1, 1) : target.viewport, ComputedStyle().font.size}
+        , m_context{m_ofBounds ? QSizeF(1, 1) : target.viewport, fontSize}
     {
     }
 
@@ -181,7 +201,7 @@ QGradient::Spread spread(const QString &method)
     return QGradient::PadSpread;
 }
 
-GradientCache::Known prepared(const GradientChain &chain, double opacity, bool mixesLinear)
+GradientCache::Known prepared(const GradientChain &chain, double opacity, const ComputedStyle &style)
 {
     GradientCache::Known known;
     QGradientStops stops = chain.stops(opacity);
@@ -189,7 +209,9 @@ GradientCache::Known prepared(const GradientChain &chain, double opacity, bool m
     if (stops.isEmpty())
         return known;
     known.last = stops.constLast().second;
-    if (mixesLinear)
+    known.transform = chain.transform();
+    known.fontSize = style.font.size;
+    if (style.mixesLinear)
         stops = followingLight(stops);
     separate(stops);
     const QGradient::Spread method = spread(chain.value(AttributeId::SpreadMethod));
@@ -217,6 +239,51 @@ QBrush linearBrush(const GradientLengths &lengths, const GradientCache::Known &k
     return QBrush(gradient);
 }
 
+struct Circle
+{
+    QPointF centre;
+    double radius;
+};
+
+// Painters draw nothing where the circles touch inside; a little farther in, the first makes no difference that
+// shows.
+QPointF apart(const Circle &start, const Circle &end)
+{
+    constexpr double nearness = 1e-4;
+    const double difference = end.radius - start.radius;
+    const QPointF way = start.centre - end.centre;
+    const double distance = std::hypot(way.x(), way.y());
+    const bool touches = difference > 0 && qAbs(distance - difference) < nearness * difference;
+    return touches ? end.centre + way * ((1 - nearness) * difference / distance) : start.centre;
+}
+
+QGradientStops reversed(const QGradientStops &stops)
+{
+    QGradientStops result;
+    for (auto stop = stops.crbegin(); stop != stops.crend(); ++stop)
+        result.append({1 - stop->first, stop->second});
+    return result;
+}
+
+// From the first circle to the second; nothing where both are the same (SVG 2 §14.2.3).
+QBrush circlesBrush(QRadialGradient gradient, const Circle &start, const Circle &end)
+{
+    const double distance = QLineF(start.centre, end.centre).length();
+    if (distance <= 0 && start.radius == end.radius)
+        return Qt::NoBrush;
+    // Painters only know a second circle that is the larger one.
+    const bool shrinks = start.radius - end.radius >= distance;
+    if (shrinks)
+        gradient.setStops(reversed(gradient.stops()));
+    const Circle &inner = shrinks ? end : start;
+    const Circle &outer = shrinks ? start : end;
+    gradient.setCenter(outer.centre);
+    gradient.setCenterRadius(outer.radius);
+    gradient.setFocalPoint(apart(inner, outer));
+    gradient.setFocalRadius(inner.radius);
+    return QBrush(gradient);
+}
+
 QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &known)
 {
     const double cx = lengths.value(AttributeId::Cx, Axis::Horizontal, 50);
@@ -224,17 +291,18 @@ QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &k
     const double r = lengths.value(AttributeId::R, Axis::Diagonal, 50);
     if (r <= 0)
         return QBrush(known.last);
-    QRadialGradient gradient = known.radial;
-    gradient.setCenter(cx, cy);
-    gradient.setCenterRadius(r);
-    gradient.setFocalPoint(lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
-                           lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
+    const QPointF focus(lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
+                        lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
     // What lies within the focal circle has the first colour.
-    const double focal = lengths.value(AttributeId::Fr, Axis::Diagonal, 0);
-    if (focal >= r)
-        return QBrush(known.last);
-    gradient.setFocalRadius(qMax(0.0, focal));
-    return QBrush(gradient);
+    const double focalRadius = qMax(0.0, lengths.value(AttributeId::Fr, Axis::Diagonal, 0));
+    return circlesBrush(known.radial, {focus, focalRadius}, {QPointF(cx, cy), r});
+}
+
+QTransform ownTransform(const QString &text, const LengthContext &context)
+{
+    if (const std::optional<QTransform> transform = parseTransform(text))
+        return *transform;
+    return parseCssTransform(text, context).value_or(QTransform());
 }
 
 } // namespace
@@ -266,18 +334,17 @@ QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &ta
         return Qt::NoBrush;
     const GradientCache::Known *known = cache->find(index, target.opacity);
     if (!known)
-        known = cache->insert(index, target.opacity,
-                              prepared(chain, target.opacity, styleInTree(tree, index).mixesLinear));
+        known = cache->insert(index, target.opacity, prepared(chain, target.opacity, styleInTree(tree, index)));
     if (known->stops == 0)
         return Qt::NoBrush;
     if (known->stops == 1)
         return QBrush(known->last);
-    const GradientLengths lengths(chain, target);
+    const GradientLengths lengths(chain, target, known->fontSize);
     if (lengths.ofBounds() && target.bounds.isEmpty())
         return Qt::NoBrush;
     const bool linear = chain.kind() == ElementKind::LinearGradient;
     QBrush brush = linear ? linearBrush(lengths, *known) : radialBrush(lengths, *known);
-    QTransform toUser = parseTransform(chain.value(AttributeId::GradientTransform)).value_or(QTransform());
+    QTransform toUser = ownTransform(known->transform, {target.viewport, known->fontSize});
     if (lengths.ofBounds()) {
         const QRectF &b = target.bounds;
         toUser *= QTransform(b.width(), 0, 0, b.height(), b.x(), b.y());

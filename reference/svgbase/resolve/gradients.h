@@ -30,6 +30,9 @@ public:
         QRadialGradient radial;
         QColor last;
         int stops = 0;
+        QString transform;
+        /// Of the gradient's own element, user units.
+        double fontSize = 16;
     };
 
     /// Forgets everything when references may have another meaning than before.

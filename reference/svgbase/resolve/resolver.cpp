@@ -43,12 +43,6 @@ QRectF transformBox(const Node &node, const ComputedStyle &style, const LengthCo
     return QRectF(QPointF(), context.viewport);
 }
 
-// Viewports inside the root cut what leaves them, unless told otherwise (SVG 1.1 §14.3.3).
-bool cutsOverflow(const ComputedStyle &style)
-{
-    return !style.effects || style.effects->overflow != Overflow::Visible;
-}
-
 /// Most characters of a value that a message repeats.
 constexpr int longestQuote = 80;
 
@@ -192,12 +186,11 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
     } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
         const Fit fit =
             nestedFit(node, facts->style, facts->viewport, facts->parent ? facts->parent->usedSize : UsedSize());
+        facts->cut = viewportCut(facts->style, fit.place, facts->viewport);
         local = facts->fit = fit.transform;
         facts->viewport = fit.viewport;
         facts->displayed = facts->displayed && !fit.place.isEmpty();
         facts->aroundToDocument = facts->parent ? outer * facts->parent->toDocument : outer;
-        if (cutsOverflow(facts->style))
-            facts->cut = fit.place;
     }
     if (node.kind == ElementKind::Document)
         local = rootTransform(node, outer, m_tree.window());

@@ -1,5 +1,6 @@
 #include "resolve/viewports.h"
 
+#include "grammar/cliprects.h"
 #include "grammar/viewboxes.h"
 #include "resolve/geometry.h"
 
@@ -79,6 +80,15 @@ QRectF shownArea(const Node &root, const QSizeF &window)
         return QRectF();
     const std::optional<QRectF> box = parseViewBox(root.attributes.value(AttributeId::ViewBox));
     return box.value_or(QRectF(QPointF(), size));
+}
+
+std::optional<QRectF> viewportCut(const ComputedStyle &style, const QRectF &box, const QSizeF &viewport)
+{
+    if (!style.effects)
+        return box;
+    if (const std::optional<ClipRect> clip = parseClipRect(style.effects->clipRect))
+        return clipRectIn(box, *clip, {viewport, style.font.size});
+    return style.effects->overflow == Overflow::Visible ? std::nullopt : std::optional<QRectF>(box);
 }
 
 Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport, const UsedSize &used)

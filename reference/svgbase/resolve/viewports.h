@@ -31,6 +31,10 @@ struct Fit
     QRectF place;
 };
 
+/// What an element that makes a viewport of `box` is cut at, in the same units: the box, unless it may overflow, or
+/// the rectangle that "clip" gives (SVG 1.1 §14.3.3). Percentages are of `viewport`.
+std::optional<QRectF> viewportCut(const ComputedStyle &style, const QRectF &box, const QSizeF &viewport);
+
 /// Where a "marker" or a "symbol" is put by its "refX" and "refY", units of its content (SVG 2 §5.5, §13.7.1).
 QPointF referencePoint(const Attributes &attributes, const LengthContext &context);
 

@@ -1,6 +1,7 @@
 #include "style/effectproperties.h"
 
 #include "grammar/basicshapes.h"
+#include "grammar/cliprects.h"
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
@@ -121,6 +122,16 @@ bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringV
     return true;
 }
 
+bool applyClipRect(ComputedStyle &style, QStringView text)
+{
+    if (!parseClipRect(text))
+        return false;
+    const QString rect = text.endsWith(QLatin1Char(')')) ? text.toString() : QString();
+    if (knownEffects(style).clipRect != rect)
+        effectsOf(style).clipRect = rect;
+    return true;
+}
+
 bool applyClip(ComputedStyle &style, QStringView text)
 {
     if (applyReference(style, &EffectStyle::clipPath, text)) {
@@ -152,6 +163,15 @@ bool applyEffectKeyword(ComputedStyle &style, Value EffectStyle::*member, QStrin
         return false;
     if (knownEffects(style).*member != value)
         effectsOf(style).*member = value;
+    return true;
+}
+
+// Filters do not know the one that is no mode of blending.
+bool applyBlendMode(ComputedStyle &style, QStringView text)
+{
+    if (text.compare(QLatin1String("plus-lighter"), Qt::CaseInsensitive) != 0)
+        return applyEffectKeyword(style, &EffectStyle::blendMode, text, blendModes);
+    effectsOf(style).blendMode = BlendMode::PlusLighter;
     return true;
 }
 
@@ -215,6 +235,8 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
 {
     Q_UNUSED(context)
     switch (property) {
+    case AttributeId::Clip:
+        return applyClipRect(style, value);
     case AttributeId::ClipPath:
         return applyClip(style, value);
     case AttributeId::ClipRule:
@@ -248,7 +270,7 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
     case AttributeId::MaskType:
         return applyEffectKeyword(style, &EffectStyle::alphaMask, value, maskTypes);
     case AttributeId::MixBlendMode:
-        return applyEffectKeyword(style, &EffectStyle::blendMode, value, blendModes);
+        return applyBlendMode(style, value);
     case AttributeId::Overflow:
         return applyEffectKeyword(style, &EffectStyle::overflow, value, overflows);
     case AttributeId::ShapeRendering:
@@ -263,6 +285,9 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
 void inheritEffectProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent)
 {
     switch (property) {
+    case AttributeId::Clip:
+        inheritMember(style, &EffectStyle::clipRect, parent);
+        break;
     case AttributeId::ClipPath:
         inheritMember(style, &EffectStyle::clipPath, parent);
         inheritMember(style, &EffectStyle::clipShape, parent);

@@ -7,8 +7,8 @@
 
 namespace Svg {
 
-/// What "mix-blend-mode" may ask for (Compositing 1 §5). The first ones are what painters know, the last four are
-/// not.
+/// What "mix-blend-mode" may ask for (Compositing 1 §5, and the operator that Compositing 2 adds). Painters know
+/// all but the four from `Hue` to `Luminosity`.
 enum class BlendMode : quint8 {
     Normal,
     Multiply,
@@ -25,7 +25,8 @@ enum class BlendMode : quint8 {
     Hue,
     Saturation,
     Color,
-    Luminosity
+    Luminosity,
+    PlusLighter
 };
 
 enum class Overflow : quint8 { Unset, Visible, Hidden };
@@ -34,6 +35,8 @@ enum class Overflow : quint8 { Unset, Visible, Hidden };
 struct EffectStyle : QSharedData
 {
     QString clipPath;
+    /// The text of the rectangle that a viewport is cut at instead of its box; empty for "auto".
+    QString clipRect;
     /// The text of a shape that clips instead.
     QString clipShape;
     QString mask;

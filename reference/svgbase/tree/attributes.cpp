@@ -14,6 +14,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("alignment-baseline"), AttributeId::AlignmentBaseline},
     {QLatin1String("baseline-shift"), AttributeId::BaselineShift},
     {QLatin1String("class"), AttributeId::Class},
+    {QLatin1String("clip"), AttributeId::Clip},
     {QLatin1String("clip-path"), AttributeId::ClipPath},
     {QLatin1String("clip-rule"), AttributeId::ClipRule},
     {QLatin1String("color"), AttributeId::Color},

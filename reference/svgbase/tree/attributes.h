@@ -34,6 +34,7 @@ enum class AttributeId : quint8 {
     VectorEffect,
     Visibility,
     // Properties of effects.
+    Clip,
     ClipPath,
     ClipRule,
     ColorInterpolation,
