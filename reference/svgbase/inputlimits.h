@@ -58,7 +58,8 @@ constexpr int textPathElements = 4000;
 constexpr int motionElements = 100000;
 /// Most parts of one text whose "textLength" counts; inner ones and later ones first.
 constexpr int textLengths = 100;
-/// Most names of one list of font families.
+/// Longest list of font families, characters, and its most names.
+constexpr int familyCharacters = 2000;
 constexpr int listedFamilies = 32;
 /// Most names of font families that the system is asked about, in a process; others count as not installed.
 constexpr int askedFamilies = 1000;
@@ -69,10 +70,14 @@ constexpr int kerningPairs = 50000;
 constexpr int glyphsOfCharacter = 256;
 /// Most characters that one glyph of a document's font stands for.
 constexpr int glyphCharacters = 64;
+/// Longest lists of names, languages or weights of a glyph or a font, characters.
+constexpr int glyphListCharacters = 256;
 /// Most shapes inside of one glyph.
 constexpr int glyphShapes = 1000;
 /// Most outline elements of all glyphs that a document's texts show in fonts of its own.
 constexpr int fontOutlineElements = 2000000;
+/// Most groups around a text whose lines it shows.
+constexpr int decoratingGroups = 16;
 /// Most characters that are shaped together; finding the place of each takes longer the more there are.
 constexpr int shapedCharacters = 256;
 /// Largest coordinate, user units; beyond it painting arithmetic loses whole pixels.

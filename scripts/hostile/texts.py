@@ -102,3 +102,50 @@ def text_vertical(n):
 @document
 def text_huge_glyphs(n):
     return svg(f'<text font-size="100000" stroke="red" stroke-dasharray=".01">{"@&amp;W" * (1000 // n)}</text>')
+
+
+def font(glyphs, face=""):
+    return f'<font horiz-adv-x="50"><font-face font-family="F" units-per-em="100" {face}/>{glyphs}</font>'
+
+
+@document
+def text_font_of_many_glyphs(n):
+    glyphs = '<glyph unicode="aaaaaaab" d="M0 0H9V9"/>' * (60000 // n)
+    return svg(font(glyphs) + f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_font_of_long_outlines(n):
+    glyph = f'<glyph unicode="a" d="M0 0{"l9 9-9 9" * (15000 // n)}"/>'
+    return svg(font(glyph) + f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_font_kerning(n):
+    names = ",".join(f"n{i}" for i in range(3000 // n))
+    glyphs = f'<glyph unicode="a" glyph-name="{names}" d="M0 0H9V9"/><hkern g1="{names}" g2="{names}" k="1"/>'
+    return svg(font(glyphs) + f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_fonts_many(n):
+    weights = ",".join(["400"] * 1000)
+    fonts = "".join(font('<glyph unicode="a" d="M0 0H9V9"/>', f'font-weight="{weights}"') for i in range(2000 // n))
+    return svg(fonts + '<text y="50" font-family="F">' + "<tspan>a</tspan>" * (90000 // n) + "</text>")
+
+
+@document
+def text_families_long(n):
+    families = ",".join(f"family{i}" for i in range(100000 // n))
+    return svg(f'<g font-family="{families}">' + '<text y="50">abc</text>' * (20000 // n) + "</g>")
+
+
+@document
+def text_broken_into_lines(n):
+    return svg(f'<text y="5" inline-size="20" font-size="9">{"ab cd " * (16000 // n)}</text>')
+
+
+@document
+def text_font_and_system_in_turns(n):
+    return svg(font('<glyph unicode="a" d="M0 0H9V9"/>') +
+               f'<text y="50" font-family="F, sans-serif">{"ab" * (45000 // n)}</text>')

@@ -135,6 +135,14 @@ QString textPathOf(int elements)
            "'>i</textPath></text>" + rect();
 }
 
+// Each letter of the font is a line with a thousand segments.
+QString glyphsOf(int characters)
+{
+    return "<font horiz-adv-x='1'><font-face font-family='Long'/><glyph unicode='a' d='M0 0" +
+           QString("h1").repeated(999) + "'/></font><text y='9' font-size='.001' font-family='Long'>" +
+           QString(characters, 'a') + "</text>" + rect();
+}
+
 QString textLengthsOf(int lengths)
 {
     return "<text font-size='.001'>" + QString("<tspan textLength='1'>ii</tspan>").repeated(lengths) + "</text>" +
@@ -361,6 +369,8 @@ void TestLimits::drawUpToTheLimit_data()
            textPathOf(Limits::textPathElements + 1), true);
     addRow("text lengths", Message::TooManyTextLengths, textLengthsOf(Limits::textLengths),
            textLengthsOf(Limits::textLengths + 1), true);
+    addRow("outlines of fonts", Message::TooManyCharacters, glyphsOf(Limits::fontOutlineElements / 1000),
+           glyphsOf(Limits::fontOutlineElements / 1000 + 1), true);
     addRow("transform", Message::TransformTooLarge, scaled(Limits::transformEntry),
            scaled(2 * Limits::transformEntry));
     addRow("dashes", Message::TooManyDashes, dashesOf(Limits::dashEntries), dashesOf(Limits::dashEntries + 2),

@@ -52,6 +52,8 @@ private slots:
     void changedTspanMovesTheRest();
     void textWithoutCharactersHasNoBounds();
     void changedWayMovesItsText();
+    void changedGlyphsChangeTheirText_data();
+    void changedGlyphsChangeTheirText();
     void changedPartsLookLikeLoadedOnes_data();
     void changedPartsLookLikeLoadedOnes();
     void boundingBoxUnitsRelateToCells();
@@ -193,6 +195,70 @@ void TestText::changedWayMovesItsText()
     QVERIFY(isNear(document->namedNode("t")->boundingRect().left(), before.left() + 30));
 }
 
+void TestText::changedGlyphsChangeTheirText_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("outline") << "g"
+                             << "d"
+                             << "M0 0H20V80H0z";
+    QTest::newRow("character") << "g"
+                               << "unicode"
+                               << "b";
+    QTest::newRow("advance") << "g"
+                             << "horiz-adv-x"
+                             << "80";
+    QTest::newRow("advance of the font") << "f"
+                                         << "horiz-adv-x"
+                                         << "80";
+    QTest::newRow("family") << "face"
+                            << "font-family"
+                            << "Other";
+    QTest::newRow("units") << "face"
+                           << "units-per-em"
+                           << "200";
+    QTest::newRow("kerning") << "k"
+                             << "k"
+                             << "30";
+}
+
+void TestText::changedGlyphsChangeTheirText()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    const QString text =
+        "<font id='f' horiz-adv-x='60' %1><font-face id='face' %2/><glyph id='g' %3/><hkern id='k' %4/></font>"
+        "<text id='t' y='50' font-family='Boxes, DejaVu Sans'>aab</text>";
+    const QHash<QString, QStringList> plain{{"f", {"horiz-origin-x='0'"}},
+                                            {"face", {"font-family='Boxes'", "units-per-em='100'"}},
+                                            {"g", {"unicode='a'", "d='M0 0H50V50H0z'"}},
+                                            {"k", {"u1='a'", "u2='a'", "k='10'"}}};
+    const auto attributes = [&](const QString &element, bool changed) {
+        QStringList list = plain.value(element);
+        if (changed && element == id) {
+            list = list.filter(QRegularExpression("^(?!" + name + "=)"));
+            list.append(QStringLiteral("%1='%2'").arg(name, value));
+        }
+        return list.join(' ');
+    };
+    const auto content = [&](bool changed) {
+        QString whole = text.arg(attributes("f", changed), attributes("face", changed), attributes("g", changed),
+                                 attributes("k", changed));
+        if (changed && id == "f")
+            whole.replace("horiz-adv-x='60'", QString());
+        return whole;
+    };
+    const DocumentPointer document = loadContent(content(false));
+    const QImage before = drawn(*document);
+    QZeSvgNode *node = document->namedNode(id);
+    QVERIFY(node);
+    node->setAttribute(name, value);
+    QVERIFY(drawn(*document) != before);
+    QCOMPARE(drawn(*document), drawnContent(content(true)));
+}
+
 void TestText::changedPartsLookLikeLoadedOnes_data()
 {
     QTest::addColumn<QString>("name");
@@ -209,6 +275,9 @@ void TestText::changedPartsLookLikeLoadedOnes_data()
                                                                       {"writing-mode", "tb"},
                                                                       {"direction", "rtl"},
                                                                       {"text-anchor", "end"},
+                                                                      {"font-size-adjust", "1"},
+                                                                      {"kerning", "3"},
+                                                                      {"inline-size", "40"},
                                                                       {"display", "none"}})
         QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(value);
 }

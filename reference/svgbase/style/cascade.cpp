@@ -4,6 +4,7 @@
 #include "grammar/styleattribute.h"
 #include "style/rules.h"
 #include "style/shorthands.h"
+#include "style/textproperties.h"
 
 #include <algorithm>
 #include <bitset>
@@ -135,6 +136,11 @@ bool comesFirst(AttributeId property)
     return property == AttributeId::Color || property == AttributeId::FontSize;
 }
 
+bool isTextElement(ElementKind kind)
+{
+    return kind == ElementKind::Text || isTextPart(kind);
+}
+
 // Inherited as the keyword that it is (CSS Color 4 §9.1).
 void followColor(const QColor &color, Paint *paint)
 {
@@ -200,6 +206,8 @@ ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext
         style.font.rootSize = style.font.size;
     followColor(style.color, &style.fill);
     followColor(style.color, &style.stroke);
+    if (asksForLines(style) && !isTextElement(tree.node(element).kind))
+        decorateTextBelow(style);
     return style;
 }
 

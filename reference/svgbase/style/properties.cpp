@@ -1,5 +1,6 @@
 #include "style/properties.h"
 
+#include "grammar/angles.h"
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
@@ -216,6 +217,17 @@ bool applyFontSize(ComputedStyle &style, QStringView text, const PropertyContext
     return true;
 }
 
+// How far letters lean is up to the font.
+bool applyFontStyle(ComputedStyle &style, QStringView text)
+{
+    if (applyKeyword(style.font.italic, text, fontStyles))
+        return true;
+    const bool leans = text.startsWith(QLatin1String("oblique "), Qt::CaseInsensitive) &&
+                       parseAngle(text.mid(text.indexOf(QLatin1Char(' '))).trimmed()).has_value();
+    style.font.italic = style.font.italic || leans;
+    return leans;
+}
+
 bool applyFontWeight(ComputedStyle &style, QStringView text, const PropertyContext &context)
 {
     if (applyKeyword(style.font.weight, text, fontWeights))
@@ -335,12 +347,12 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
     case AttributeId::FillRule:
         return applyKeyword(style.fillRule, value, fillRules);
     case AttributeId::FontFamily:
-        style.font.family = value.toString();
+        style.font.family = value.left(Limits::familyCharacters).toString();
         return !value.isEmpty();
     case AttributeId::FontSize:
         return applyFontSize(style, value, context);
     case AttributeId::FontStyle:
-        return applyKeyword(style.font.italic, value, fontStyles);
+        return applyFontStyle(style, value);
     case AttributeId::FontWeight:
         return applyFontWeight(style, value, context);
     case AttributeId::Opacity:

@@ -1,6 +1,7 @@
 #include "style/textproperties.h"
 
 #include "grammar/numbers.h"
+#include "inputlimits.h"
 #include "style/keywords.h"
 
 namespace Svg {
@@ -13,8 +14,6 @@ constexpr double largestSizeAdjust = 100;
 const Keyword<Baseline> baselines[] = {
     {QLatin1String("auto"), Baseline::Auto},
     {QLatin1String("use-script"), Baseline::Auto},
-    {QLatin1String("no-change"), Baseline::Auto},
-    {QLatin1String("reset-size"), Baseline::Auto},
     {QLatin1String("baseline"), Baseline::Auto},
     {QLatin1String("alphabetic"), Baseline::Alphabetic},
     {QLatin1String("central"), Baseline::Central},
@@ -203,19 +202,32 @@ bool applyDecoration(InlineStyle &inlineStyle, QStringView text)
     return !words.isEmpty();
 }
 
-bool applyToText(TextStyle &text, AttributeId property, QStringView value, double fontSize, int inheritedStretch)
+// Two old keywords leave the baseline as it is around the part (SVG 1.1 §10.9.2).
+bool applyDominantBaseline(Baseline &baseline, QStringView value, Baseline inherited)
+{
+    const auto is = [value](const char *word) {
+        return value.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    };
+    if (!is("no-change") && !is("reset-size"))
+        return applyKeyword(baseline, value, baselines);
+    baseline = inherited;
+    return true;
+}
+
+bool applyToText(TextStyle &text, AttributeId property, QStringView value, double fontSize,
+                 const TextStyle &inherited)
 {
     switch (property) {
     case AttributeId::Direction:
         return applyKeyword(text.rightToLeft, value, directions);
     case AttributeId::DominantBaseline:
-        return applyKeyword(text.dominantBaseline, value, baselines);
+        return applyDominantBaseline(text.dominantBaseline, value, inherited.dominantBaseline);
     case AttributeId::FontKerning:
         return applyKeyword(text.kerning, value, kernings);
     case AttributeId::FontSizeAdjust:
         return applySizeAdjust(text.sizeAdjust, value);
     case AttributeId::FontStretch:
-        return applyStretch(text.stretch, value, inheritedStretch);
+        return applyStretch(text.stretch, value, inherited.stretch);
     case AttributeId::FontVariant:
         return applyKeyword(text.smallCaps, value, variants);
     case AttributeId::GlyphOrientationVertical:
@@ -340,6 +352,21 @@ void copyInline(InlineStyle &inlineStyle, AttributeId property, const InlineStyl
 
 } // namespace
 
+bool asksForLines(const ComputedStyle &style)
+{
+    const InlineStyle &own = inlineStyleOf(style);
+    return own.underline || own.overline || own.lineThrough;
+}
+
+void decorateTextBelow(ComputedStyle &group)
+{
+    QSharedDataPointer<TextStyle> changed(new TextStyle(textStyleOf(group)));
+    if (changed->decorations.size() >= Limits::decoratingGroups)
+        return;
+    changed->decorations.append(std::make_shared<const ComputedStyle>(group));
+    group.text = changed;
+}
+
 const TextStyle &textStyleOf(const ComputedStyle &style)
 {
     static const QSharedDataPointer<TextStyle> initial(new TextStyle);
@@ -367,7 +394,7 @@ bool applyTextProperty(ComputedStyle &style, AttributeId property, QStringView v
         return true;
     }
     QSharedDataPointer<TextStyle> changed(new TextStyle(textStyleOf(style)));
-    if (!applyToText(*changed, property, value, fontSize, textStyleOf(context.parent).stretch))
+    if (!applyToText(*changed, property, value, fontSize, textStyleOf(context.parent)))
         return false;
     style.text = changed;
     return true;

@@ -11,6 +11,11 @@ bool applyTextProperty(ComputedStyle &style, AttributeId property, QStringView v
 /// Takes the parent's value of such a property.
 void inheritTextProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent);
 
+/// Whether a style asks for lines along its text.
+bool asksForLines(const ComputedStyle &style);
+/// Lines that a group asks for run along all text in it, painted as the group says (CSS Text Decoration 3 §2).
+void decorateTextBelow(ComputedStyle &group);
+
 /// The values that count where an element has none of its own.
 const TextStyle &textStyleOf(const ComputedStyle &style);
 const InlineStyle &inlineStyleOf(const ComputedStyle &style);

@@ -1,8 +1,13 @@
 #pragma once
 
 #include <QtCore/QSharedData>
+#include <QtCore/QVector>
+
+#include <memory>
 
 namespace Svg {
+
+struct ComputedStyle;
 
 /// Where the line runs along the glyphs (CSS Inline 3 §4).
 enum class Baseline : quint8 {
@@ -42,6 +47,8 @@ struct TextStyle : QSharedData
     bool vertical = false;
     TextOrientation orientation = TextOrientation::Mixed;
     WhiteSpace whiteSpace = WhiteSpace::Unset;
+    /// Styles of groups around the text that ask for lines, outermost first.
+    QVector<std::shared_ptr<const ComputedStyle>> decorations;
     Baseline dominantBaseline = Baseline::Auto;
 };
 

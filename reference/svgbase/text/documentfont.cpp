@@ -46,12 +46,39 @@ ArabicForm formNamed(const QString &name)
 const QString characterKey = QStringLiteral("u");
 const QString nameKey = QStringLiteral("g");
 
+bool isCodeRange(const QString &text)
+{
+    return text.trimmed().startsWith(QLatin1String("U+"), Qt::CaseInsensitive);
+}
+
+// "U+" with a code, with two of them, or with digits left open at its end (SVG 1.1 §20.7).
+QStringList keysOfRange(const QString &range)
+{
+    const QString codes = range.mid(2);
+    const QString first = codes.section(QLatin1Char('-'), 0, 0).replace(QLatin1Char('?'), QLatin1Char('0'));
+    const QString last = codes.section(QLatin1Char('-'), -1).replace(QLatin1Char('?'), QLatin1Char('f'));
+    bool known = false;
+    const uint from = first.toUInt(&known, 16);
+    const uint to = known ? last.toUInt(&known, 16) : 0;
+    QStringList keys;
+    for (uint code = from; known && code <= qMin(to, uint(QChar::LastValidCodePoint)); ++code) {
+        if (keys.size() >= Limits::glyphsOfCharacter)
+            break;
+        keys.append(characterKey + QString::fromUcs4(&code, 1));
+    }
+    return keys;
+}
+
 // What one side of a pair lists: characters, or names of glyphs.
 QStringList keysOf(const QString &characters, const QString &names)
 {
     QStringList keys;
-    for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts))
-        keys.append(characterKey + (part.size() > 1 ? part.trimmed() : part));
+    for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (isCodeRange(part))
+            keys += keysOfRange(part.trimmed());
+        else
+            keys.append(characterKey + (part.size() > 1 ? part.trimmed() : part));
+    }
     for (const QString &part : names.split(QLatin1Char(','), Qt::SkipEmptyParts))
         keys.append(nameKey + part.trimmed());
     return keys;
@@ -156,8 +183,8 @@ FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index) const
     FontGlyph glyph;
     glyph.node = index;
     glyph.characters = textOf(node, "unicode").left(Limits::glyphCharacters);
-    glyph.names = textOf(node, "glyph-name");
-    glyph.languages = textOf(node, "lang");
+    glyph.names = textOf(node, "glyph-name").left(Limits::glyphListCharacters);
+    glyph.languages = textOf(node, "lang").left(Limits::glyphListCharacters);
     glyph.form = formNamed(textOf(node, "arabic-form"));
     glyph.data = node.attributes.value(AttributeId::D);
     if (glyph.data.isEmpty() && node.firstChild != noNode)

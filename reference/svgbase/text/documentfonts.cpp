@@ -1,10 +1,10 @@
 #include "text/documentfonts.h"
 
 #include "grammar/fontfamilies.h"
-#include "grammar/paints.h"
 #include "inputlimits.h"
 #include "resolve/fonts.h"
 #include "style/textproperties.h"
+#include "tree/references.h"
 
 #include <algorithm>
 
@@ -69,10 +69,7 @@ NodeIndex sourceOf(const Tree &tree, NodeIndex face)
     const NodeIndex uri = source == noNode ? noNode : childNamed(tree, source, "font-face-uri");
     if (uri == noNode)
         return noNode;
-    const Attributes &attributes = tree.node(uri).attributes;
-    const QString plain = localReference(attributes.value(AttributeId::Href));
-    const NodeIndex font =
-        tree.findId(plain.isEmpty() ? localReference(attributes.value(AttributeId::XlinkHref)) : plain);
+    const NodeIndex font = tree.findId(hrefTarget(tree.node(uri).attributes));
     return font != noNode && tree.node(font).kind == ElementKind::Font ? font : noNode;
 }
 
@@ -92,10 +89,11 @@ void DocumentFonts::addFace(const Tree &tree, NodeIndex face, NodeIndex font)
 {
     Face read;
     read.font = font;
-    const QVector<FamilyName> names = parseFontFamilies(attribute(tree, face, "font-family"));
+    const QVector<FamilyName> names =
+        parseFontFamilies(attribute(tree, face, "font-family").left(Limits::familyCharacters));
     for (const FamilyName &name : names)
         read.families.append(name.text.toLower());
-    read.weights = weightsOf(wordsOf(attribute(tree, face, "font-weight")));
+    read.weights = weightsOf(wordsOf(attribute(tree, face, "font-weight").left(Limits::glyphListCharacters)));
     const QStringList slopes = wordsOf(attribute(tree, face, "font-style"));
     read.upright = asksFor(slopes, {"normal"});
     read.italic = asksFor(slopes, {"italic", "oblique"});

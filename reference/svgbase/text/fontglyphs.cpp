@@ -19,8 +19,8 @@ LevelGlyphs::LevelGlyphs(const TextContent &content, const TextLevel &level, con
 // What no font that is asked for has shows the sign for that, if there is one (SVG 1.1 §20.5).
 const FontGlyph *LevelGlyphs::find(int at, int end) const
 {
-    if (m_level.substitute)
-        return m_level.substitute;
+    if (!m_level.substitutes.isEmpty())
+        return m_level.substitutes.constFirst();
     const TextCharacter &first = m_content.characters.at(at);
     const TextCharacter &last = m_content.characters.at(end - 1);
     GlyphPlace place;
@@ -35,7 +35,7 @@ const FontGlyph *LevelGlyphs::find(int at, int end) const
 
 int LevelGlyphs::characterCount(const FontGlyph &glyph, int at, int end) const
 {
-    if (&glyph == m_level.substitute)
+    if (!m_level.substitutes.isEmpty())
         return end - at;
     const int stop = m_content.characters.at(at).begin + glyph.characters.size();
     int next = at + 1;
@@ -50,16 +50,24 @@ TextCluster LevelGlyphs::cluster(const FontGlyph &glyph, int at, int end) const
     cluster.firstCharacter = at;
     cluster.characterCount = characterCount(glyph, at, end);
     cluster.level = m_content.characters.at(at).level;
-    cluster.advance = glyph.advance * m_scale;
+    addGlyph(glyph, &cluster);
+    for (int i = 1; i < m_level.substitutes.size(); ++i)
+        addGlyph(*m_level.substitutes.at(i), &cluster);
+    return cluster;
+}
+
+void LevelGlyphs::addGlyph(const FontGlyph &glyph, TextCluster *cluster) const
+{
     const QPainterPath &outline = m_level.font.font->outline(glyph);
+    const QTransform place = QTransform(m_scale, 0, 0, m_scale, cluster->advance, 0);
+    cluster->advance += glyph.advance * m_scale;
     if (m_services.fonts->takeOutline(outline.elementCount()))
-        cluster.outline = QTransform::fromScale(m_scale, m_scale).map(outline);
+        cluster->outline.addPath(place.map(outline));
     else
         *m_services.problem = {Message::TooManyCharacters,
                                QStringLiteral("Of glyphs of the document's fonts, outlines beyond %1 elements are "
                                               "left out.")
                                    .arg(Limits::fontOutlineElements)};
-    return cluster;
 }
 
 double LevelGlyphs::kerning(const FontGlyph &first, const FontGlyph &second) const

@@ -23,6 +23,7 @@ public:
     double verticalAdvance(const FontGlyph &glyph) const;
 
 private:
+    void addGlyph(const FontGlyph &glyph, TextCluster *cluster) const;
     int characterCount(const FontGlyph &glyph, int at, int end) const;
 
     const TextContent &m_content;

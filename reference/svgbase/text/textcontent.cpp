@@ -1,11 +1,12 @@
 #include "text/textcontent.h"
 
-#include "grammar/paints.h"
 #include "inputlimits.h"
 #include "resolve/conditions.h"
 #include "style/cascade.h"
 #include "style/textproperties.h"
+#include "text/altglyphs.h"
 #include "text/fontmeasures.h"
+#include "tree/references.h"
 
 namespace Svg {
 
@@ -47,8 +48,11 @@ private:
     void appendSpace(bool preserves);
     void appendCharacter(const QString &characters, int at, int length);
     void dropSpaceAtEnd();
+    void substituteGlyphs(TextLevel *level);
     void findFont(TextLevel *level);
     NodeIndex referred(const Node &node) const;
+    bool hasWay(const Node &textPath) const;
+    bool isLink(const TextLevel &level) const { return hasLocalName(m_tree.node(level.node), QStringLiteral("a")); }
     QString referredText(const Node &tref) const;
     bool preservesSpace(const Node &node, const ComputedStyle &style) const;
 
@@ -77,19 +81,26 @@ bool TextCollector::preservesSpace(const Node &node, const ComputedStyle &style)
     }
 }
 
+// All glyphs must be of one font.
+void TextCollector::substituteGlyphs(TextLevel *level)
+{
+    const QVector<NodeIndex> nodes = alternateGlyphs(m_tree, level->node);
+    const DocumentFontPointer font = nodes.isEmpty() ? nullptr : m_fonts.fontOfGlyph(m_tree, nodes.constFirst());
+    for (const NodeIndex node : nodes) {
+        if (const FontGlyph *glyph = font ? font->glyphOf(node) : nullptr)
+            level->substitutes.append(glyph);
+    }
+    if (!level->substitutes.isEmpty())
+        level->font.font = font;
+}
+
 void TextCollector::findFont(TextLevel *level)
 {
     if (!m_tree.hasFonts())
         return;
     level->font = m_fonts.find(m_tree, level->style);
-    const Node &node = m_tree.node(level->node);
-    if (hasLocalName(node, QStringLiteral("altGlyph"))) {
-        const NodeIndex glyph = referred(node);
-        const DocumentFontPointer font = m_fonts.fontOfGlyph(m_tree, glyph);
-        level->substitute = font ? font->glyphOf(glyph) : nullptr;
-        if (level->substitute)
-            level->font.font = font;
-    }
+    if (hasLocalName(m_tree.node(level->node), QStringLiteral("altGlyph")))
+        substituteGlyphs(level);
     for (NodeIndex at = level->node; at != noNode && level->language.isEmpty(); at = m_tree.node(at).parent)
         level->language = m_tree.node(at).attributes.value(QStringLiteral("xml:lang"));
 }
@@ -172,12 +183,22 @@ void TextCollector::dropSpaceAtEnd()
     }
 }
 
+// Only a text itself holds text along a way (SVG 2 §11.8.1), and there must be one.
+bool TextCollector::hasWay(const Node &textPath) const
+{
+    for (const int level : m_open) {
+        if (m_content.levels.at(level).kind != ElementKind::Text && !isLink(m_content.levels.at(level)))
+            return false;
+    }
+    if (!textPath.attributes.value(QStringLiteral("path")).isEmpty())
+        return true;
+    const NodeIndex shape = referred(textPath);
+    return shape != noNode && hasGeometry(m_tree.node(shape).kind);
+}
+
 NodeIndex TextCollector::referred(const Node &node) const
 {
-    QString id = localReference(node.attributes.value(AttributeId::Href));
-    if (id.isEmpty())
-        id = localReference(node.attributes.value(AttributeId::XlinkHref));
-    return m_tree.findId(id);
+    return m_tree.findId(hrefTarget(node.attributes));
 }
 
 QString TextCollector::referredText(const Node &tref) const
@@ -204,7 +225,8 @@ void TextCollector::visit(NodeIndex index)
     ComputedStyle around = above.style;
     around.font.size = above.emSize;
     ComputedStyle style = cascade(m_tree, index, {around, m_viewport});
-    style.displayed = style.displayed && passesConditions(node);
+    style.displayed =
+        style.displayed && passesConditions(node) && (node.kind != ElementKind::TextPath || hasWay(node));
     open(index, style);
     if (node.kind == ElementKind::Tref && style.displayed)
         append(referredText(node));

@@ -27,8 +27,8 @@ struct TextLevel
     int endCharacter = 0;
     /// Its font where the document has it.
     FoundFont font;
-    /// The glyph that an `altGlyph` shows in place of its characters; null for everything else.
-    const FontGlyph *substitute = nullptr;
+    /// The glyphs that an `altGlyph` shows in place of its characters; empty for everything else.
+    QVector<const FontGlyph *> substitutes;
     /// Language tag; empty where none is said.
     QString language;
 };

@@ -47,7 +47,7 @@ private:
     void addGlyphs();
     void addCells();
     void addLines(const Line &line);
-    void addLine(int level, const Line &line);
+    void addLine(int level, const Line &line, const ComputedStyle &paint);
     int firstClusterOf(int character) const;
 
     const TextContent &m_content;
@@ -158,7 +158,7 @@ int TextPainter::firstClusterOf(int character) const
 }
 
 // A line is as long as the characters that follow each other without a step.
-void TextPainter::addLine(int level, const Line &line)
+void TextPainter::addLine(int level, const Line &line, const ComputedStyle &paint)
 {
     const LevelMeasures &measures = m_levels.at(level);
     const double middle = measures.font.*(line.height) + measures.raised;
@@ -200,14 +200,21 @@ void TextPainter::addLine(int level, const Line &line)
     finish();
     path.setFillRule(Qt::WindingFill);
     if (!path.isEmpty())
-        m_result.runs.append({measures.paint, path});
+        m_result.runs.append({paint, path});
 }
 
 void TextPainter::addLines(const Line &line)
 {
+    const auto &around = textStyleOf(m_content.levels.first().style).decorations;
+    for (const std::shared_ptr<const ComputedStyle> &group : around) {
+        ComputedStyle paint = *group;
+        paint.fillRule = textFillRule;
+        if (inlineStyleOf(paint).*(line.wanted))
+            addLine(0, line, paint);
+    }
     for (int level = 0; level < m_content.levels.size(); ++level) {
         if (inlineStyleOf(m_content.levels.at(level).style).*(line.wanted))
-            addLine(level, line);
+            addLine(level, line, m_levels.at(level).paint);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "inputlimits.h"
 #include "resolve/fonts.h"
 #include "style/textproperties.h"
+#include "text/arabicforms.h"
 #include "text/bidiruns.h"
 #include "text/fontglyphs.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 /// Room for a line that is never broken, layout units.
 constexpr double endlessLine = 16777215;
+constexpr ushort zeroWidthJoiner = 0x200d;
 /// Any spacing keeps letters from forming ligatures; this is the smallest that a font takes.
 constexpr double leastSpacing = 1.0 / 64;
 
@@ -122,9 +124,18 @@ void Row::layOut()
 {
     const TextCharacter &last = m_content.characters.at(m_run.end - 1);
     QString text = m_content.text.mid(m_textBegin, last.begin + last.length - m_textBegin);
+    // Letters join those of other parts and places too.
+    const ArabicForm firstForm = arabicForm(m_content.text, m_textBegin);
+    const ArabicForm lastForm = arabicForm(m_content.text, last.begin);
+    if (lastForm == ArabicForm::Initial || lastForm == ArabicForm::Medial)
+        text.append(QChar(zeroWidthJoiner));
+    if (firstForm == ArabicForm::Terminal || firstForm == ArabicForm::Medial) {
+        text.prepend(QChar(zeroWidthJoiner));
+        ++m_prefix;
+    }
     if (m_run.overridden) {
-        text = QChar(m_run.rightToLeft ? rightToLeftOverride : leftToRightOverride) + text;
-        m_prefix = 1;
+        text.prepend(QChar(m_run.rightToLeft ? rightToLeftOverride : leftToRightOverride));
+        ++m_prefix;
     }
     QFont font = outlineFont(m_style.font, textStyleOf(m_style));
     const bool spaced = textStyleOf(m_style).letterSpacing + textStyleOf(m_style).kerningSpacing != 0;
@@ -241,8 +252,11 @@ QVector<TextCluster> Row::systemClusters()
     if (m_mode.separate)
         return separateClusters();
     const int level = m_content.characters.at(m_run.begin).level;
-    return {{m_run.begin, m_run.end - m_run.begin, level,
-             outlineOf(m_line.glyphRuns(), m_line.naturalTextRect().x()), m_line.naturalTextWidth() * m_scale, 0}};
+    // The natural width holds what sticks out of the last glyph, too.
+    const double begin = m_line.cursorToX(0);
+    const double end = m_line.cursorToX(m_layout.text().size());
+    return {{m_run.begin, m_run.end - m_run.begin, level, outlineOf(m_line.glyphRuns(), qMin(begin, end)),
+             qAbs(end - begin) * m_scale, 0}};
 }
 
 // Characters that the font lacks are set together in fonts of the system.
