@@ -99,8 +99,7 @@ void FilterBuilder::buildImage(NodeIndex node, const FilterStep &step, FilterPri
     facts->localBounds = QRectF(r.x.value_or(whole.x()), r.y.value_or(whole.y()), r.width.value_or(whole.width()),
                                 r.height.value_or(whole.height()));
     const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
-    facts->fit =
-        viewBoxTransform(facts->image->box, facts->localBounds, ratio).value_or(QTransform(0, 0, 0, 0, 0, 0));
+    facts->fit = contentFit(*facts->image, facts->localBounds, ratio);
     appendImage(m_context, node, holder, &primitive->items);
 }
 

@@ -57,6 +57,7 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
 QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
 {
     Document document(facts.image->document);
+    document.setWindow(facts.image->takesSize ? facts.localBounds.size() : facts.image->window);
     document.settle();
     BuildContext inner(document);
     inner.budget = context.budget;

@@ -2,11 +2,9 @@
 
 #include "draw/listbuilder.h"
 #include "draw/openreference.h"
-#include "grammar/csstransforms.h"
-#include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
 #include "inputlimits.h"
-#include "style/cascade.h"
+#include "resolve/servertransform.h"
 #include "tree/references.h"
 
 namespace Svg {
@@ -40,19 +38,20 @@ public:
         return QString();
     }
 
-    /// The attribute stands for the property "transform", which style may give as well (SVG 2 §14.3.1).
-    QString transform(Document &document) const
+    /// The nearest that says something.
+    ServerTransform transform(Document &document) const
     {
+        ServerTransform result;
         for (const NodeIndex index : m_nodes) {
-            const QString styled =
-                styledAttribute(Attributes(), document.facts(index)->style.attributes, AttributeId::Transform);
-            if (!styled.isEmpty())
-                return styled;
-            const QString name = QStringLiteral("patternTransform");
-            if (m_tree.node(index).attributes.contains(name))
-                return m_tree.node(index).attributes.value(name);
+            const Node &node = m_tree.node(index);
+            const ServerTransform own = serverTransform(node, document.facts(index)->style,
+                                                        node.attributes.value(QStringLiteral("patternTransform")));
+            if (result.transform.isEmpty())
+                result.transform = own.transform;
+            if (result.origin.isEmpty())
+                result.origin = own.origin;
         }
-        return QString();
+        return result;
     }
 
     /// The first that has content; `noNode` when none has.
@@ -145,12 +144,8 @@ bool PatternBuilder::placeContent(QTransform *toPattern, QSizeF *viewport) const
 
 QTransform PatternBuilder::ownTransform() const
 {
-    const QString text = m_chain.transform(m_context.document);
-    if (text.isEmpty())
-        return QTransform();
-    if (const std::optional<QTransform> transform = parseTransform(text))
-        return *transform;
-    return parseCssTransform(text, {m_target.viewport, m_fontSize}).value_or(QTransform());
+    const QSizeF box = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
+    return resolved(m_chain.transform(m_context.document), QRectF(QPointF(), box), m_fontSize);
 }
 
 uint PatternBuilder::key() const

@@ -44,6 +44,22 @@ bool parseDeclaration(QStringView text, SheetDeclaration *declaration)
     return !declaration->value.isEmpty();
 }
 
+// A rule inside a block, which has no effect, ends with its own block (CSS Syntax 3 §5.4.4).
+void skipDeclaration(CssCursor *cursor)
+{
+    const QChar *begin = cursor->at;
+    cursor->skipTo("{;");
+    const bool isRule =
+        cursor->peek() == QLatin1Char('{') && !QStringView(begin, cursor->at).startsWith(QLatin1String("--"));
+    if (!isRule) {
+        cursor->skipTo(";");
+        return;
+    }
+    cursor->take('{');
+    cursor->skipTo("}");
+    cursor->take('}');
+}
+
 bool isBlank(QStringView text)
 {
     CssCursor cursor(text);
@@ -207,7 +223,7 @@ QVector<SheetDeclaration> parseDeclarations(QStringView text, QVector<StyleProbl
     while (!cursor.atEnd()) {
         cursor.skipSpace();
         const QChar *begin = cursor.at;
-        cursor.skipTo(";");
+        skipDeclaration(&cursor);
         const QStringView part(begin, cursor.at);
         cursor.take(';');
         SheetDeclaration declaration;

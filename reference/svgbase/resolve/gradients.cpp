@@ -1,9 +1,7 @@
 #include "resolve/gradients.h"
 
 #include "grammar/colors.h"
-#include "grammar/csstransforms.h"
 #include "grammar/lengths.h"
-#include "grammar/transforms.h"
 #include "inputlimits.h"
 #include "resolve/linearlight.h"
 #include "style/cascade.h"
@@ -34,7 +32,7 @@ public:
     bool isCut() const { return m_cut; }
     ElementKind kind() const { return m_tree.node(m_nodes.first()).kind; }
     QString value(AttributeId id) const;
-    QString transform() const;
+    ServerTransform transform() const;
     QGradientStops stops(double opacity) const;
 
 private:
@@ -74,19 +72,20 @@ QString GradientChain::value(AttributeId id) const
     return QString();
 }
 
-// The attribute stands for the property "transform", which style may give as well (SVG 2 §14.2.2).
-QString GradientChain::transform() const
+// The nearest that says something.
+ServerTransform GradientChain::transform() const
 {
+    ServerTransform result;
     for (const NodeIndex index : m_nodes) {
-        const Attributes &attributes = m_tree.node(index).attributes;
-        const QString styled =
-            styledAttribute(Attributes(), styleInTree(m_tree, index).attributes, AttributeId::Transform);
-        if (!styled.isEmpty())
-            return styled;
-        if (attributes.contains(AttributeId::GradientTransform))
-            return attributes.value(AttributeId::GradientTransform);
+        const Node &node = m_tree.node(index);
+        const ServerTransform own = serverTransform(node, styleInTree(m_tree, index),
+                                                    node.attributes.value(AttributeId::GradientTransform));
+        if (result.transform.isEmpty())
+            result.transform = own.transform;
+        if (result.origin.isEmpty())
+            result.origin = own.origin;
     }
-    return QString();
+    return result;
 }
 
 NodeIndex GradientChain::nodeWithStops() const
@@ -298,13 +297,6 @@ QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &k
     return circlesBrush(known.radial, {focus, focalRadius}, {QPointF(cx, cy), r});
 }
 
-QTransform ownTransform(const QString &text, const LengthContext &context)
-{
-    if (const std::optional<QTransform> transform = parseTransform(text))
-        return *transform;
-    return parseCssTransform(text, context).value_or(QTransform());
-}
-
 } // namespace
 
 void GradientCache::setRevision(quint32 revision)
@@ -344,7 +336,8 @@ QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &ta
         return Qt::NoBrush;
     const bool linear = chain.kind() == ElementKind::LinearGradient;
     QBrush brush = linear ? linearBrush(lengths, *known) : radialBrush(lengths, *known);
-    QTransform toUser = ownTransform(known->transform, {target.viewport, known->fontSize});
+    const QSizeF box = lengths.ofBounds() ? QSizeF(1, 1) : target.viewport;
+    QTransform toUser = resolved(known->transform, QRectF(QPointF(), box), known->fontSize);
     if (lengths.ofBounds()) {
         const QRectF &b = target.bounds;
         toUser *= QTransform(b.width(), 0, 0, b.height(), b.x(), b.y());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resolve/servertransform.h"
 #include "tree/tree.h"
 
 #include <QtCore/QHash>
@@ -30,7 +31,7 @@ public:
         QRadialGradient radial;
         QColor last;
         int stops = 0;
-        QString transform;
+        ServerTransform transform;
         /// Of the gradient's own element, user units.
         double fontSize = 16;
     };

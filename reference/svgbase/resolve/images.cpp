@@ -55,6 +55,12 @@ bool looksLikeDocument(const QByteArray &bytes)
     return start.trimmed().startsWith('<') || start.startsWith("\xef\xbb\xbf");
 }
 
+bool isRelative(const Node &root, AttributeId side)
+{
+    const std::optional<Length> length = parseLength(root.attributes.value(side));
+    return !length || length->unit == Unit::Percent;
+}
+
 ImagePointer readDocument(const QByteArray &bytes, Problem *problem)
 {
     Messages messages;
@@ -68,6 +74,9 @@ ImagePointer readDocument(const QByteArray &bytes, Problem *problem)
     content->document = prototype;
     const QRectF viewBox = rootViewBox(root);
     const QSizeF window = viewBox.isEmpty() ? defaultSize : viewBox.size();
+    content->window = window;
+    content->takesSize =
+        viewBox.isEmpty() && isRelative(root, AttributeId::Width) && isRelative(root, AttributeId::Height);
     content->box = shownArea(root, window);
     const LengthReader lengths(root.attributes, {window, ComputedStyle().font.size});
     content->size = QSizeF(lengths.size(AttributeId::Width, Axis::Horizontal, window.width()),
@@ -125,6 +134,13 @@ QImage decodedPicture(const ImagePointer &content)
     return picture;
 }
 
+QTransform contentFit(const ImageContent &content, const QRectF &box, const AspectRatio &ratio)
+{
+    if (content.takesSize)
+        return QTransform::fromTranslate(box.x(), box.y());
+    return viewBoxTransform(content.box, box, ratio).value_or(QTransform(0, 0, 0, 0, 0, 0));
+}
+
 ImagePlacement imagePlacement(const Node &node, const LengthReader &lengths, const ImageContent *content)
 {
     const bool hasWidth = lengths.has(AttributeId::Width);
@@ -144,7 +160,7 @@ ImagePlacement imagePlacement(const Node &node, const LengthReader &lengths, con
         size);
     const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
     if (content)
-        result.fit = viewBoxTransform(content->box, result.box, ratio).value_or(QTransform(0, 0, 0, 0, 0, 0));
+        result.fit = contentFit(*content, result.box, ratio);
     return result;
 }
 

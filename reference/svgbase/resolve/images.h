@@ -19,6 +19,10 @@ struct ImageContent
     QSizeF size;
     /// What of the content is fitted into the element, in its own units.
     QRectF box;
+    /// Of a document: the window that its percentages are of.
+    QSizeF window;
+    /// Whether a document says nothing about its size, so that it is as large as the element.
+    bool takesSize = false;
     /// PNG, JPEG or GIF; empty for a document.
     QByteArray picture;
     std::shared_ptr<const Prototype> document;
@@ -31,6 +35,9 @@ using ImagePointer = std::shared_ptr<const ImageContent>;
 ImagePointer readImage(const QString &reference, Problem *problem);
 /// The picture with its pixels; null for a damaged one. Lately decoded ones are kept for the whole process.
 QImage decodedPicture(const ImagePointer &content);
+
+/// Fits the content into a box; one without a size of its own is not scaled (SVG 2 §12.3).
+QTransform contentFit(const ImageContent &content, const QRectF &box, const AspectRatio &ratio);
 
 /// Where an "image" element shows its content.
 struct ImagePlacement

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "grammar/lengths.h"
+#include "style/computedstyle.h"
+#include "tree/tree.h"
+
+#include <QtCore/QRectF>
+#include <QtGui/QTransform>
+
+namespace Svg {
+
+/// The property "transform" of a gradient or a pattern, for which these have attributes of other names
+/// (SVG 2 §14.2.2, §14.3.1), and the origin that it turns about. Empty texts where nothing is said.
+struct ServerTransform
+{
+    QString transform;
+    QString origin;
+};
+
+/// What the element itself says; `own` is the text of its "gradientTransform" or "patternTransform".
+ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const QString &own);
+
+/// The transform in the units of the server; identity where its text breaks the grammar. Percentages, and the
+/// origin, are of `box` (CSS Transforms 1, "transform-box").
+QTransform resolved(const ServerTransform &transform, const QRectF &box, double fontSize);
+
+} // namespace Svg
