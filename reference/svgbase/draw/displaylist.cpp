@@ -34,12 +34,19 @@ double areaOf(const QVector<QRect> &parts)
     return area;
 }
 
+double flatWeight(const FlatShape &flat)
+{
+    const int points =
+        flat.fill.points.capacity() + flat.stroke.points.capacity() + flat.distorted.points.capacity();
+    return double(sizeof(FlatShape)) + double(sizeof(QPoint)) * points;
+}
+
 // An outline is held twice, the second time as the painter's own copy.
 double itemWeight(const DisplayItem &item)
 {
     const int elements = item.path.elementCount() + item.strokePath.elementCount();
     return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements +
-           double(item.picture.sizeInBytes());
+           double(item.picture.sizeInBytes()) + (item.flat ? flatWeight(*item.flat) : 0);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "document/document.h"
 #include "draw/damage.h"
 #include "draw/drawreport.h"
+#include "draw/flatoutline.h"
 #include "draw/keptpicture.h"
 #include "draw/mappingbudget.h"
 #include "draw/patternpaint.h"
@@ -58,6 +59,8 @@ struct DisplayItem
     QSizeF strokeReach{0, 0};
     /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
     QPainterPath strokePath;
+    /// The outlines as they are painted in plain colours; null before that.
+    mutable std::shared_ptr<const FlatShape> flat;
     /// How far the outlines go along the axes, painter units.
     double outlineLength = 0;
     /// Segments, and dashes, that a pen goes along.

@@ -235,6 +235,7 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     item->path = mappedPath(outline.path, transform);
     item->bounds = item->path.controlPointRect();
     item->strokePath = QPainterPath();
+    item->flat.reset();
     item->fill = mappedBrush(outline.fill, transform);
     item->pen = QPen(Qt::NoPen);
     item->strokedWith = QPen(Qt::NoPen);

@@ -6,6 +6,7 @@
 #include "draw/layereffects.h"
 #include "draw/layerpictures.h"
 #include "draw/paintingwork.h"
+#include "draw/solidpainting.h"
 #include "inputlimits.h"
 
 #include <QtCore/QtMath>
@@ -85,6 +86,11 @@ public:
         return &m_image;
     }
     QImage *image() { return &m_image; }
+    /// Its pixels, to be written to besides painting.
+    PixelTarget pixels()
+    {
+        return m_image.devicePixelRatio() == 1 ? PixelTarget{&m_image, m_area.topLeft(), m_area} : PixelTarget();
+    }
 
 private:
     QRect m_area;
@@ -104,6 +110,7 @@ struct Layer
     double pictureOpacity = 1;
     /// What can be painted on.
     QRect area;
+    PixelTarget pixels;
     std::shared_ptr<LayerEffects> effects;
     /// Null for a group that is painted straight on what lies below.
     std::unique_ptr<SidePicture> picture;
@@ -116,7 +123,8 @@ struct Layer
 class ItemPainter
 {
 public:
-    ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget);
+    ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget,
+                const PixelTarget &pixels);
     void paint(const QVector<DisplayItem> &items);
 
 private:
@@ -145,7 +153,8 @@ private:
     PaintBudget *m_budget;
 };
 
-ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget)
+ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget,
+                         const PixelTarget &pixels)
     : m_pixelRatio(pixelRatio)
     , m_budget(budget)
 {
@@ -153,6 +162,7 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
     bottom.painter = painter;
     bottom.opacity = painter->opacity();
     bottom.area = area;
+    bottom.pixels = pixels;
     m_layers.push_back(std::move(bottom));
 }
 
@@ -192,6 +202,11 @@ void ItemPainter::paintShape(const DisplayItem &item)
     m_budget->work -= paintingWork(item, layer.area, m_pixelRatio);
     if (m_budget->work < 0 || !reaches(item.bounds, layer.area))
         return;
+    const bool keep = m_budget->outlines < Limits::keptOutlines;
+    if (paintSolid(item, layer.opacity * item.opacity, layer.pixels, keep)) {
+        ++m_budget->outlines;
+        return;
+    }
     QPainter *painter = layer.painter;
     painter->setOpacity(layer.opacity * item.opacity);
     takePaint(painter, item);
@@ -243,6 +258,12 @@ bool isOfPixels(const QRectF &rect, double pixelRatio)
            endsAtPixels(rect.top(), pixelRatio) && endsAtPixels(rect.bottom(), pixelRatio);
 }
 
+QRect wholePixels(const QRectF &rect)
+{
+    return QRect(QPoint(qRound(rect.left()), qRound(rect.top())),
+                 QPoint(qRound(rect.right()) - 1, qRound(rect.bottom()) - 1));
+}
+
 // A group that is only cut needs no picture where nothing leaves its rectangle, or where that ends at whole pixels.
 bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
 {
@@ -260,7 +281,9 @@ bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
         return false;
     layer->painter = below.painter;
     layer->opacity = below.opacity;
+    layer->pixels = below.pixels;
     if (layer->clips) {
+        layer->pixels.window &= wholePixels(rect);
         layer->painter->save();
         layer->painter->setClipRect(rect, Qt::IntersectClip);
     }
@@ -282,6 +305,7 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
     }
     if (beginPicture(begin, &layer)) {
         layer.painter = layer.picture->painter();
+        layer.pixels = layer.picture->pixels();
         layer.pictureOpacity = below.opacity * begin.opacity;
         layer.effects = begin.effects;
     } else if (begin.effects) {
@@ -289,6 +313,7 @@ bool ItemPainter::beginLayer(const DisplayItem &begin)
     } else {
         // Without a picture of its own the group's shapes carry its opacity one by one.
         layer.painter = below.painter;
+        layer.pixels = below.pixels;
         layer.opacity = below.opacity * begin.opacity;
     }
     m_layers.push_back(std::move(layer));
@@ -319,7 +344,7 @@ std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &it
 {
     std::unique_ptr<SidePicture> picture = SidePicture::make(area, m_pixelRatio, m_budget);
     if (picture)
-        ItemPainter(picture->painter(), area, m_pixelRatio, m_budget).paint(items);
+        ItemPainter(picture->painter(), area, m_pixelRatio, m_budget, picture->pixels()).paint(items);
     return picture;
 }
 
@@ -393,7 +418,7 @@ void ItemPainter::finish(Layer *layer)
     QImage *picture = layer->picture->image();
     if (effects->hasRegion) {
         const std::unique_ptr<SidePicture> region = SidePicture::make(layer->area, m_pixelRatio, m_budget);
-        if (region)
+        if (region && !fillSolid(effects->regionPath, Qt::black, region->pixels()))
             region->painter()->fillPath(effects->regionPath, Qt::black);
         keepWhere(picture, region);
     }
@@ -511,7 +536,7 @@ PaintBudget paintBudget(const QPainter &painter)
 void paintItems(QPainter *painter, const QVector<DisplayItem> &items, PaintBudget *budget)
 {
     const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
-    ItemPainter(painter, paintableArea(*painter), ratio, budget).paint(items);
+    ItemPainter(painter, paintableArea(*painter), ratio, budget, pixelTarget(*painter)).paint(items);
 }
 
 } // namespace Svg

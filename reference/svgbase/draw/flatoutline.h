@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtCore/QPoint>
+#include <QtCore/QVector>
+#include <QtGui/QPainterPath>
+
+namespace Svg {
+
+/// Parts of a pixel that points of flat outlines are counted in, along each axis.
+constexpr int subpixels = 256;
+
+/// An outline as closed polygons, painter coordinates in parts of a pixel.
+struct FlatOutline
+{
+    QVector<QPoint> points;
+    /// Behind the last point of each polygon.
+    QVector<int> ends;
+    Qt::FillRule fillRule = Qt::WindingFill;
+};
+
+/// What a shape covers, in the order in which it is painted.
+struct FlatShape
+{
+    FlatOutline fill;
+    FlatOutline stroke;
+    /// The stroke that no pen can draw.
+    FlatOutline distorted;
+    /// Whether all of it could be made flat.
+    bool isUsable = false;
+};
+
+/// Curves become lines that stray by less than can be seen. False, the outline then being of no use, where it
+/// reaches too far from the origin or has too many points.
+bool flatten(const QPainterPath &path, FlatOutline *outline);
+
+} // namespace Svg

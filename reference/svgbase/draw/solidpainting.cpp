@@ -1,0 +1,186 @@
+#include "draw/solidpainting.h"
+
+#include "draw/coverage.h"
+
+#include <QtGui/QImage>
+#include <QtGui/QPaintEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPathStroker>
+#include <QtGui/QRgba64>
+
+#include <algorithm>
+
+namespace Svg {
+
+namespace {
+
+constexpr uint wholeByte = 255;
+/// What a painter's opacity is counted in.
+constexpr int opacitySteps = 256;
+
+/// Each channel times `factor` / 255, rounded; all four at once, apart from each other in the larger number.
+inline QRgb scaled(QRgb color, uint factor)
+{
+    constexpr quint64 apart = 0x00ff00ff00ff00ff;
+    constexpr quint64 halves = 0x0080008000800080;
+    quint64 channels = ((quint64(color) | (quint64(color) << 24)) & apart) * factor;
+    channels = ((channels + ((channels >> 8) & apart) + halves) >> 8) & apart;
+    return QRgb(channels) | QRgb(channels >> 24);
+}
+
+/// The colour as a painter lays it on pixels.
+QRgb premultiplied(const QColor &color, double opacity)
+{
+    const QRgba64 rgba = color.rgba64();
+    const int alpha = (rgba.alpha() * qRound(opacity * opacitySteps)) / opacitySteps;
+    return QRgba64::fromRgba64(rgba.red(), rgba.green(), rgba.blue(), quint16(alpha)).premultiplied().toArgb32();
+}
+
+/// Lays a colour over pixels.
+class Overlay
+{
+public:
+    Overlay(const PixelTarget &target, QRgb color)
+        : m_bits(target.picture->bits())
+        , m_bytesPerLine(target.picture->bytesPerLine())
+        , m_origin(target.origin)
+        , m_color(color)
+        , m_premultiplies(target.picture->format() == QImage::Format_ARGB32)
+    {
+    }
+
+    void operator()(const Coverage::Span &span) const
+    {
+        QRgb *pixels =
+            reinterpret_cast<QRgb *>(m_bits + (span.y - m_origin.y()) * m_bytesPerLine) + span.x - m_origin.x();
+        const QRgb color = span.coverage == int(wholeByte) ? m_color : scaled(m_color, uint(span.coverage));
+        const uint below = wholeByte - uint(qAlpha(color));
+        if (below == 0)
+            std::fill(pixels, pixels + span.length, color);
+        else if (m_premultiplies)
+            blendPlain(pixels, span.length, color, below);
+        else
+            blend(pixels, span.length, color, below);
+    }
+
+private:
+    static void blend(QRgb *pixels, int count, QRgb color, uint below)
+    {
+        for (int i = 0; i < count; ++i)
+            pixels[i] = color + scaled(pixels[i], below);
+    }
+    static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
+    {
+        for (int i = 0; i < count; ++i)
+            pixels[i] = qUnpremultiply(color + scaled(qPremultiply(pixels[i]), below));
+    }
+
+    uchar *m_bits;
+    qsizetype m_bytesPerLine;
+    QPoint m_origin;
+    QRgb m_color;
+    bool m_premultiplies;
+};
+
+bool isPlain(const QBrush &brush)
+{
+    return brush.style() == Qt::SolidPattern && brush.transform().isIdentity();
+}
+
+bool hasPlainStroke(const DisplayItem &item)
+{
+    if (item.pen.style() == Qt::NoPen)
+        return item.strokePath.isEmpty() || isPlain(item.pen.brush());
+    return item.pen.style() == Qt::SolidLine && isPlain(item.pen.brush()) && !item.pen.isCosmetic() &&
+           item.pen.widthF() > 0;
+}
+
+bool isSolid(const DisplayItem &item)
+{
+    return item.smooth && (item.fill.style() == Qt::NoBrush || isPlain(item.fill)) && hasPlainStroke(item);
+}
+
+std::shared_ptr<const FlatShape> flatShape(const DisplayItem &item)
+{
+    auto flat = std::make_shared<FlatShape>();
+    if (item.fill.style() != Qt::NoBrush && !flatten(item.path, &flat->fill))
+        return flat;
+    if (item.pen.style() != Qt::NoPen) {
+        const QPainterPathStroker stroker(item.pen);
+        if (!flatten(stroker.createStroke(item.path), &flat->stroke))
+            return flat;
+        flat->stroke.fillRule = Qt::WindingFill;
+    }
+    flat->isUsable = item.strokePath.isEmpty() || flatten(item.strokePath, &flat->distorted);
+    return flat;
+}
+
+bool mixesPlainly(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster && painter.paintEngine()->systemClip().isEmpty() &&
+           painter.compositionMode() == QPainter::CompositionMode_SourceOver &&
+           painter.deviceTransform() == QTransform();
+}
+
+bool hasKnownPixels(const QImage &picture)
+{
+    const bool known =
+        picture.format() == QImage::Format_ARGB32 || picture.format() == QImage::Format_ARGB32_Premultiplied;
+    return known && picture.devicePixelRatio() == 1 && picture.isDetached();
+}
+
+// Large enough to be worth keeping, and in use only while a shape is painted.
+Coverage &sharedCoverage()
+{
+    static thread_local Coverage coverage;
+    return coverage;
+}
+
+} // namespace
+
+PixelTarget pixelTarget(const QPainter &painter)
+{
+    if (!painter.device() || painter.device()->devType() != QInternal::Image || !mixesPlainly(painter))
+        return {};
+    auto *picture = static_cast<QImage *>(painter.device());
+    if (!hasKnownPixels(*picture))
+        return {};
+    if (!painter.hasClipping())
+        return {picture, QPoint(), picture->rect()};
+    const QRegion clip = painter.clipRegion();
+    return clip.rectCount() == 1 ? PixelTarget{picture, QPoint(), clip.boundingRect() & picture->rect()}
+                                 : PixelTarget();
+}
+
+bool paintSolid(const DisplayItem &item, double opacity, const PixelTarget &target, bool keep)
+{
+    if (!target.picture || !isSolid(item))
+        return false;
+    const std::shared_ptr<const FlatShape> flat = item.flat ? item.flat : flatShape(item);
+    if (keep)
+        item.flat = flat;
+    if (!flat->isUsable)
+        return false;
+    const QRect window = paintedPixels(item.bounds, target.window);
+    Coverage &coverage = sharedCoverage();
+    if (item.fill.style() != Qt::NoBrush)
+        coverage.sweep(flat->fill, window, Overlay(target, premultiplied(item.fill.color(), opacity)));
+    const Overlay stroke(target, premultiplied(item.pen.color(), opacity));
+    if (!flat->stroke.points.isEmpty())
+        coverage.sweep(flat->stroke, window, stroke);
+    if (!flat->distorted.points.isEmpty())
+        coverage.sweep(flat->distorted, window, stroke);
+    return true;
+}
+
+bool fillSolid(const QPainterPath &path, const QColor &color, const PixelTarget &target)
+{
+    FlatOutline outline;
+    if (!target.picture || !flatten(path, &outline))
+        return false;
+    sharedCoverage().sweep(outline, paintedPixels(path.controlPointRect(), target.window),
+                           Overlay(target, premultiplied(color, 1)));
+    return true;
+}
+
+} // namespace Svg
