@@ -46,6 +46,7 @@ public:
         : m_area(area)
         , m_budget(budget)
         , m_pixels(pixelCount(area, pixelRatio))
+        , m_isStraight(toCanvas.isIdentity())
         , m_image(area.size() * pixelRatio, QImage::Format_ARGB32_Premultiplied)
     {
         m_budget->left -= m_pixels + Limits::layerOverhead;
@@ -86,16 +87,18 @@ public:
         return &m_image;
     }
     QImage *image() { return &m_image; }
-    /// Its pixels, to be written to besides painting.
+    /// Its pixels, to be written to besides painting, where they are those of the painter below.
     PixelTarget pixels()
     {
-        return m_image.devicePixelRatio() == 1 ? PixelTarget{&m_image, m_area.topLeft(), m_area} : PixelTarget();
+        const bool alike = m_image.devicePixelRatio() == 1 && m_isStraight;
+        return alike ? PixelTarget{&m_image, m_area.topLeft(), m_area} : PixelTarget();
     }
 
 private:
     QRect m_area;
     PaintBudget *m_budget;
     double m_pixels;
+    bool m_isStraight;
     QImage m_image;
     QPainter m_painter;
 };
@@ -356,7 +359,7 @@ std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &it
     std::unique_ptr<SidePicture> picture =
         SidePicture::make(layer.picture->area(), m_pixelRatio, m_budget, layer.canvas->fromPainter);
     if (picture)
-        ItemPainter(picture->painter(), layer.area, m_pixelRatio, m_budget).paint(items);
+        ItemPainter(picture->painter(), layer.area, m_pixelRatio, m_budget, picture->pixels()).paint(items);
     return picture;
 }
 
