@@ -9,6 +9,8 @@
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
+#include <limits>
+
 using namespace Svg;
 
 namespace {
@@ -89,6 +91,8 @@ private slots:
     void anyWindowTellsTheSame();
     void isTheAreaOfAnyOutline();
     void farOutlinesAreRefused();
+    void numbersThatAreNoneAreRefused();
+    void outlinesThatTurnOftenAddUpOrAreRefused();
     void colorsAreLaidOverWhatIsBelow_data();
     void colorsAreLaidOverWhatIsBelow();
     void paintersWithMoreThanARectangleAreRefused();
@@ -185,6 +189,28 @@ void TestCoverage::farOutlinesAreRefused()
     QVERIFY(!flatten(rectPath(0, -33000, 1, 1), &outline));
 }
 
+void TestCoverage::numbersThatAreNoneAreRefused()
+{
+    const double none = std::numeric_limits<double>::quiet_NaN();
+    QPainterPath path = rectPath(0, 0, 10, 10);
+    path.setElementPositionAt(2, none, 10);
+    FlatOutline outline;
+    QVERIFY(!flatten(path, &outline));
+}
+
+void TestCoverage::outlinesThatTurnOftenAddUpOrAreRefused()
+{
+    QPainterPath path;
+    for (int i = 0; i < 3999; ++i)
+        path.addPolygon(QPolygonF({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
+    FlatOutline outline;
+    QVERIFY(flatten(path, &outline));
+    QCOMPARE(coverageOf(path, QRect(0, 0, 4, 4)), QVector<int>(16, 255));
+    path.addPolygon(QPolygonF({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
+    path.addPolygon(QPolygonF({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
+    QVERIFY(!flatten(path, &outline));
+}
+
 void TestCoverage::colorsAreLaidOverWhatIsBelow_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -220,6 +246,10 @@ void TestCoverage::paintersWithMoreThanARectangleAreRefused()
     QPainter painter(&image);
     QVERIFY(pixelTarget(painter).picture);
     painter.setClipRegion(QRegion(0, 0, 2, 2) | QRegion(4, 4, 2, 2));
+    QVERIFY(!pixelTarget(painter).picture);
+    QPainterPath clip;
+    clip.addRect(0.5, 0.5, 4, 4);
+    painter.setClipPath(clip);
     QVERIFY(!pixelTarget(painter).picture);
     painter.setClipping(false);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);

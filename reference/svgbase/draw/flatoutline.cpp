@@ -12,7 +12,8 @@ namespace {
 constexpr double flatness = 0.025;
 /// Farther from the origin than this nothing is flattened, pixels.
 constexpr double farthest = 32000;
-constexpr int mostPoints = 200000;
+/// So few that the areas of all lines of a row, each at most a pixel's, add up without overflow.
+constexpr int mostPoints = 16000;
 
 QPoint inSubpixels(const QPointF &point)
 {
@@ -30,6 +31,17 @@ int linesOf(const QPointF &p0, const QPointF &p1, const QPointF &p2, const QPoin
 {
     const double largest = qMax(bend(p0, p1, p2), bend(p1, p2, p3));
     return qMax(1, qCeil(std::sqrt(largest * 6 / 8 / flatness)));
+}
+
+// Nor are numbers that are none.
+bool isNear(const QPainterPath &path)
+{
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element &element = path.elementAt(i);
+        if (!(std::abs(element.x) < farthest && std::abs(element.y) < farthest))
+            return false;
+    }
+    return true;
 }
 
 class Flattening
@@ -99,10 +111,7 @@ bool flatten(const QPainterPath &path, FlatOutline *outline)
     outline->points.resize(0);
     outline->ends.resize(0);
     outline->fillRule = path.fillRule();
-    const QRectF reach = path.controlPointRect();
-    const bool isNear = reach.left() > -farthest && reach.top() > -farthest && reach.right() < farthest &&
-                        reach.bottom() < farthest;
-    return isNear && Flattening(outline).add(path);
+    return isNear(path) && Flattening(outline).add(path);
 }
 
 } // namespace Svg

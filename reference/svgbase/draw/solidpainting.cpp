@@ -147,9 +147,11 @@ PixelTarget pixelTarget(const QPainter &painter)
         return {};
     if (!painter.hasClipping())
         return {picture, QPoint(), picture->rect()};
-    const QRegion clip = painter.clipRegion();
-    return clip.rectCount() == 1 ? PixelTarget{picture, QPoint(), clip.boundingRect() & picture->rect()}
-                                 : PixelTarget();
+    // The region of a path has whole pixels, whose edges a painter may cover in part.
+    const QRect clip = painter.clipRegion().boundingRect();
+    QPainterPath rectangle;
+    rectangle.addRect(clip);
+    return painter.clipPath() == rectangle ? PixelTarget{picture, QPoint(), clip & picture->rect()} : PixelTarget();
 }
 
 bool paintSolid(const DisplayItem &item, double opacity, const PixelTarget &target, bool keep)
