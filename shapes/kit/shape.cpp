@@ -60,6 +60,20 @@ double within(double value, double low, double high)
     return std::min(std::max(value, low), high);
 }
 
+void moveCorner(QZeSvgNode &point, QPointF corner)
+{
+    point.setNumericAttribute(QStringLiteral("x"), corner.x());
+    point.setNumericAttribute(QStringLiteral("y"), corner.y());
+}
+
+QTransform scaledAbout(QPointF centre, double factor)
+{
+    QTransform transform = QTransform::fromTranslate(centre.x(), centre.y());
+    transform.scale(factor, factor);
+    transform.translate(-centre.x(), -centre.y());
+    return transform;
+}
+
 QString numberText(double value)
 {
     return QString::number(value, 'g', numberDigits);
@@ -113,8 +127,6 @@ void Shape::finishLoading()
     // A new object makes its picture itself, once its core is loaded.
     redraw(owner->isCreateFinished());
     settleDrawing();
-    if (owner->isCreateFinished())
-        owner->notifyOutlineRegionChanged();
 }
 
 bool Shape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
@@ -153,10 +165,24 @@ void Shape::setSize(QSizeF, QSizeF newSize)
 void Shape::notifyObjectCreated()
 {
     // The last step of a creating drag may differ from the step before it, of which the shape heard.
-    const bool isFitted = m_redrawn && fitTo(owner->getClientRect().size());
-    owner->notifyOutlineRegionChanged();
-    if (isFitted)
+    if (m_redrawn && fitTo(owner->getClientRect().size()))
         invalidate();
+}
+
+/// Opening a shape sets its pen width after its control points. Whatever keeps its size and its centre then must
+/// keep its corner to the bit, or what is saved next would not be what was opened.
+void Shape::setPenWidth(int width, bool record)
+{
+    QVector<QRectF> before;
+    for (int i = 0; i < pointCount(); ++i)
+        before.append(controlPoints[i] ? controlPoints[i]->boundingRect() : QRectF());
+    PropertiedShape::setPenWidth(width, record);
+    for (int i = 0; i < before.size(); ++i) {
+        const QRectF present = controlPoints[i] ? controlPoints[i]->boundingRect() : QRectF();
+        if (present.topLeft() != before.at(i).topLeft() && present.size() == before.at(i).size() &&
+            isNear(present.center(), before.at(i).center(), roundingEpsilon))
+            moveCorner(*controlPoints[i], before.at(i).topLeft());
+    }
 }
 
 QSizeF Shape::getMinimizeSize()
@@ -186,11 +212,7 @@ void Shape::updateOutlineRegion()
     const double scale = drawingScale();
     if (!outlineRegion || scale == 1)
         return;
-    const QPointF centre = document->viewBox().center();
-    QTransform shrinking = QTransform::fromTranslate(centre.x(), centre.y());
-    shrinking.scale(1 / scale, 1 / scale);
-    shrinking.translate(-centre.x(), -centre.y());
-    *outlineRegion = shrinking.map(*outlineRegion);
+    *outlineRegion = scaledAbout(document->viewBox().center(), 1 / scale).map(*outlineRegion);
 }
 
 QRectF Shape::drawnArea()
@@ -228,18 +250,22 @@ bool Shape::getOutlinePath(QPainterPath *path)
     return true;
 }
 
-QRectF Shape::regionBox()
+QRectF Shape::paintedArea()
 {
     settleDrawing();
-    QRectF region = PropertiedShape::regionBox();
+    QRectF area = PropertiedShape::paintedArea();
     if (!document || document->viewBox().isEmpty())
-        return region;
-    const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
-    for (int i = 0; i < pointCount(); ++i) {
+        return area;
+    const QRectF target = owner->getClientRect();
+    const double magnification = 1 / drawingScale();
+    if (magnification > 1)
+        area |= scaledAbout(target.center(), magnification).mapRect(area);
+    const QTransform toObject = stretching(document->viewBox(), target);
+    for (int i = 0; owner->isSelected() && i < pointCount(); ++i) {
         if (controlPoints[i])
-            region |= toObject.mapRect(controlPoints[i]->boundingRect());
+            area |= toObject.mapRect(controlPoints[i]->boundingRect());
     }
-    return region;
+    return area;
 }
 
 double Shape::getXMin(QZeSvgNode *node)
@@ -305,9 +331,6 @@ void Shape::propertyChanged(const Property *)
 {
     placeControlPoints();
     redraw(false);
-    if (isBeingLoaded)
-        return;
-    owner->notifyOutlineRegionChanged();
 }
 
 QSizeF Shape::size() const
@@ -451,8 +474,7 @@ void Shape::placeControlPoint(int index)
     // must keep that to the bit.
     if (isNear(present.center(), centre, roundingEpsilon))
         return;
-    node->setNumericAttribute(QStringLiteral("x"), centre.x() - present.width() / 2);
-    node->setNumericAttribute(QStringLiteral("y"), centre.y() - present.height() / 2);
+    moveCorner(*node, {centre.x() - present.width() / 2, centre.y() - present.height() / 2});
 }
 
 void Shape::placeControlPoints()

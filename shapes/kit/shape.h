@@ -42,12 +42,13 @@ public:
     bool updateAllControlPoints(bool refresh, bool finished) override;
     void setSize(QSizeF oldSize, QSizeF newSize) override;
     void notifyObjectCreated() override;
+    void setPenWidth(int width, bool record) override;
     QSizeF getMinimizeSize() override;
     /// At a drawing scale the outline shrinks with the drawing.
     void updateOutlineRegion() override;
     /// The region is the outline, the pen and the control points, so that each of them can be grasped.
     bool getOutlinePath(QPainterPath *path) override;
-    QRectF regionBox() override;
+    QRectF paintedArea() override;
     QByteArray toSvg() override;
     void settleDrawing() override;
     double getXMin(QZeSvgNode *node) override;

@@ -6,8 +6,6 @@
 
 #include <svgobj/csvgobj.h>
 
-#include <QtGui/QPainterPath>
-
 namespace shapekit {
 
 /// The page object of a shape: everything particular to it is in its shape core.
@@ -20,22 +18,13 @@ public:
     QString kindName() const override { return m_kind.nameKey(); }
     /// Makes a core unless there is one of that type already. A type that is not this shape's leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
-    bool load(QDataStream &in) override;
-    bool loadJson(QJsonObject &object) override;
     void OnQPainterDraw(QPainter *painter) override;
-    /// Working the region out takes longer than everything else about a shape, so that it is done for those that
-    /// somebody points at. Until then the region is a box around it.
-    void regenRegionShape(QGraphicsItem *item) override;
-    QPainterPath shape() const override;
 
     /// Null after loading a type that is not this shape's.
     StyledShape *core() const { return static_cast<StyledShape *>(svgBase); }
 
 private:
-    QPainterPath exactRegion() const;
-
     const Kind &m_kind;
-    mutable bool m_regionIsBox = false;
 };
 
 } // namespace shapekit

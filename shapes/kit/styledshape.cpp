@@ -29,9 +29,10 @@ constexpr int extraHostFilledType = 1000;
 constexpr double lineHitMargin = 6;
 /// The library makes the pen this much wider in the region, item units.
 constexpr double regionPenMargin = 2;
-/// So many times its width a line may reach beyond its middle at a pointed corner: half of it, and Qt's limit for
-/// the point.
-constexpr double cornerReach = 0.5 + 2;
+/// How far a line reaches beyond its middle, in widths: half of it, and with pointed corners as far as SVG lets
+/// them grow where a template says nothing else (SVG 1.1 §11.4).
+constexpr double lineReach = 0.5;
+constexpr double pointedLineReach = 0.5 * 4;
 
 bool fillsAlike(const QBrush &a, const QBrush &b)
 {
@@ -72,6 +73,27 @@ QPainterPath hitAreaOfLine(const QZeSvgNode &node)
 QString areaId()
 {
     return QStringLiteral("area");
+}
+
+/// An attribute that groups hand down.
+QString inherited(const QZeSvgNode &node, const QString &name)
+{
+    QString value = node.attribute(name);
+    for (const QZeSvgNode *group = node.parent(); group && value.isEmpty(); group = group->parent())
+        value = group->attribute(name);
+    return value;
+}
+
+double reachOfLine(const QZeSvgNode &node)
+{
+    const bool isRounded = inherited(node, QStringLiteral("stroke-linejoin")) == QLatin1String("round") &&
+                           inherited(node, QStringLiteral("stroke-linecap")) != QLatin1String("square");
+    return isRounded ? lineReach : pointedLineReach;
+}
+
+bool isControlPoint(const QString &id)
+{
+    return id.startsWith(QLatin1String("control_"));
 }
 
 bool isFigure(const QString &id)
@@ -148,6 +170,7 @@ void StyledShape::reloadTemplate()
     document = nullptr;
     activeControlPoint = nullptr;
     m_lookRead = false;
+    m_painted.clear();
     m_figures.clear();
     m_pennedFills.clear();
     m_pennedLines.clear();
@@ -210,6 +233,10 @@ void StyledShape::setPenColor(QColor color, bool record)
 
 bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
 {
+    if (propId == pagehost::PaintedArea) {
+        out << paintedArea();
+        return true;
+    }
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::GetSpecialProperty(propId, out);
     if (!document || !document->animated())
@@ -256,15 +283,24 @@ void StyledShape::takePageFill()
         updateBrush(brush);
 }
 
-QRectF StyledShape::regionBox()
+QRectF StyledShape::paintedArea()
 {
     const QRectF target = owner->getClientRect();
     const QRectF box = document ? document->viewBox() : QRectF();
-    if (!outlineRegion || box.isEmpty())
+    if (box.isEmpty())
         return target;
-    const double reach = cornerReach * (getPenWidth() + regionPenMargin);
-    const QRectF outline = stretching(box, target).mapRect(outlineRegion->controlPointRect());
-    return outline.adjusted(-reach, -reach, reach, reach) | target;
+    QRectF painted;
+    for (const PaintedNode &part : qAsConst(m_painted)) {
+        const double reach = part.reach * part.node->strokeWidth();
+        painted |= part.node->transformedBounds().adjusted(-reach, -reach, reach, reach);
+    }
+    const QTransform toObject = stretching(box, target);
+    QRectF area = target | toObject.mapRect(painted);
+    if (outlineRegion && !outlineRegion->isEmpty()) {
+        const double reach = (getPenWidth() + regionPenMargin) / 2;
+        area |= toObject.mapRect(outlineRegion->boundingRect()).adjusted(-reach, -reach, reach, reach);
+    }
+    return area;
 }
 
 QTransform StyledShape::stretching(const QRectF &box, const QRectF &target)
@@ -317,6 +353,8 @@ void StyledShape::readLook()
             m_pennedLines.append(&node);
         if (isFigure(node.nodeId()))
             m_figures.append(&node);
+        if (node.type() != QZeSvgNode::Group && !isControlPoint(node.nodeId()))
+            m_painted.append({&node, reachOfLine(node)});
     });
     m_templateFill = document->getAllFillBrush();
     propFillEnabled = m_templateFill.style() != Qt::NoBrush;

@@ -47,7 +47,7 @@ public:
     void setFillBrush(const QBrush &brush, bool record, bool notify) override;
     void setPenColor(QColor color, bool record) override;
     /// @name Besides properties of the shape: what the host asks of every object that moves
-    /// (pagehost::AnimationRuns)
+    /// (pagehost::SpecialProperty)
     /// @{
     bool GetSpecialProperty(int propId, QDataStream &out) override;
     bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
@@ -55,8 +55,9 @@ public:
     /// The outline is that of the nodes whose id is "figure" or begins with "figure_"; control points are no part
     /// of what is filled. A template without such nodes has the outline of everything in it.
     void updateOutlineRegion() override;
-    /// A box, item coordinates, around everything that getOutlinePath() would give, and found much sooner.
-    virtual QRectF regionBox();
+    /// What the host asks for as pagehost::PaintedArea: a box, item coordinates, around all lines and texts with
+    /// the pens that they have, and around where the shape can be hit.
+    virtual QRectF paintedArea();
     /// Brings the document up to date before somebody looks at it; for shapes that put that off.
     virtual void settleDrawing() {}
 
@@ -90,6 +91,13 @@ private:
     int m_type;
     bool m_lookRead = false;
     QBrush m_templateFill;
+    /// What is painted, and how far a line around it reaches as a part of its width.
+    struct PaintedNode
+    {
+        const QZeSvgNode *node;
+        double reach;
+    };
+    QVector<PaintedNode> m_painted; ///< without control points
     QVector<QZeSvgNode *> m_figures;
     QVector<QZeSvgNode *> m_pennedFills; ///< nodes that are filled with the colour of the pen
     QVector<QZeSvgNode *> m_pennedLines; ///< nodes whose lines have the colour of the pen and nothing else of it

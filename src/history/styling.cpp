@@ -22,13 +22,6 @@ constexpr int opaque = 255;
 constexpr int maxFillNesting = opaque + 1;
 thread_local int fillNesting = 0;
 
-/// Left or top side of a square about the same centre, `half` the new side. Where the size stays, so does the side
-/// to the last bit: loading a shape sets its pen width, and what it then saves must be what it has loaded.
-double sideKeepingCentre(double before, double size, double half)
-{
-    return 0.5 * size == half ? before : before + 0.5 * size - half;
-}
-
 void tellOwner(CSVGObj *owner, const QColor &color)
 {
     if (!owner || fillNesting >= maxFillNesting)
@@ -121,10 +114,10 @@ void CSVGBase::resizeControlPoints(int size)
     const double side = size / usableZoom(zoomRate);
     forEachControlPoint(controlPoints, controlPointCount, [half, side](QZeSvgNode *node) {
         const QRectF before = node->boundingRect();
-        node->setNumericAttribute(QStringLiteral("x"), sideKeepingCentre(before.x(), before.width(), half));
+        node->setNumericAttribute(QStringLiteral("x"), before.x() + 0.5 * before.width() - half);
         node->setNumericAttribute(QStringLiteral("rx"), half);
         const QRectF after = node->boundingRect();
-        node->setNumericAttribute(QStringLiteral("y"), sideKeepingCentre(after.y(), after.height(), half));
+        node->setNumericAttribute(QStringLiteral("y"), after.y() + 0.5 * after.height() - half);
         node->setNumericAttribute(QStringLiteral("ry"), half);
         node->setNumericAttribute(QStringLiteral("width"), side);
         node->setNumericAttribute(QStringLiteral("height"), side);

@@ -55,6 +55,9 @@ private Q_SLOTS:
     void anEvenWidthKeepsTheCentre();
     void everyPointFollows();
     void roundPointsFollowToo();
+    void aPointOfUnequalSidesKeepsItsCentre();
+    void onlyTheWidthOfTheFirstPointIsCompared();
+    void placesAreWorkedOutInOrderToTheLastBit();
     void attributesAreWrittenInOrder();
     void theRectangleIsReadAgainForY();
     void theHookComesBeforeTheStoredSize();
@@ -394,6 +397,29 @@ void TestStyling::roundPointsFollowToo()
     Following following(1, svgText("0 0 100 50", "<ellipse id='control_1' cx='14' cy='24' rx='4' ry='4'/>"));
     following.shape->setPenWidth(20, false);
     QCOMPARE(exact(following.shape->pointRect(1)), exact(QRectF(4, 14, 20, 20)));
+}
+
+void TestStyling::aPointOfUnequalSidesKeepsItsCentre()
+{
+    Following following(1, svgText("0 0 100 50", "<rect id='control_1' x='10' y='20' width='8' height='12'/>"));
+    following.shape->setPenWidth(20, false);
+    QCOMPARE(exact(following.shape->pointRect(1)), exact(QRectF(4, 16, 20, 20)));
+}
+
+void TestStyling::onlyTheWidthOfTheFirstPointIsCompared()
+{
+    Following following(1, svgText("0 0 100 50", "<rect id='control_1' x='10' y='20' width='8' height='12'/>"));
+    following.shape->setPenWidth(12, false);
+    QCOMPARE(exact(following.shape->pointRect(1)), exact(QRectF(8, 20, 12, 12)));
+}
+
+void TestStyling::placesAreWorkedOutInOrderToTheLastBit()
+{
+    Following following(1, svgText("0 0 100 50", "<rect id='control_1' x='0.1' y='20.3' width='8' height='8'/>"));
+    following.shape->setPenWidth(3, false);
+    // 0.1 + 4 − 4 is not 0.1.
+    QCOMPARE(exact(following.shape->pointRect(1)), exact(QRectF(0.1 + 4.0 - 4.0, 20.3 + 4.0 - 4.0, 8, 8)));
+    QVERIFY(following.shape->pointRect(1).x() < 0.1);
 }
 
 void TestStyling::attributesAreWrittenInOrder()

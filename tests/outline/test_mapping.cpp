@@ -28,6 +28,7 @@ private Q_SLOTS:
     void anEmptyObjectHasNoRegion_data();
     void anEmptyObjectHasNoRegion();
     void anEmptyObjectLeavesTheViewBoxAlone();
+    void anObjectSmallerThanAUnitHasARegion();
     void aMissingViewBoxIsSettledFirst();
     void aFlatViewBoxHasNoRegion_data();
     void aFlatViewBoxHasNoRegion();
@@ -169,6 +170,15 @@ void TestMapping::anEmptyObjectLeavesTheViewBoxAlone()
     fixture.shape->document->children().first()->setNumericAttribute("width", 90);
     // Settled only now, from the wider drawing.
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(10, 20, 90, 5));
+}
+
+void TestMapping::anObjectSmallerThanAUnitHasARegion()
+{
+    Outlined outlined(QRectF(10, 20, 40, 20));
+    outlined.place(QRectF(0, 0, 0.5, 0.25)); // 1 / 200 of the view box
+    QPainterPath region;
+    QVERIFY(outlined.shape->getOutlineRegion(&region));
+    QCOMPARE(corners(region), corners(pathOf(QRectF(10 * 0.005, 20 * 0.005, 40 * 0.005, 20 * 0.005))));
 }
 
 void TestMapping::aMissingViewBoxIsSettledFirst()

@@ -34,6 +34,15 @@ private Q_SLOTS:
     void theShapesOwnAnswersComeLast();
     void unknownAnswersCountForTheGroup();
     void withoutDocumentNothingIsSet();
+    void withoutDocumentTheShapesOwnControlsAreDescribed();
+    void withoutObjectTheShapesOwnControlsAreDescribed();
+    void aPenColourThatIsNotOfferedIsNotChanged();
+    void anAnswerIsRecordedWithoutAnUndoStep();
+    void anAnswerIsUndoableWithoutARecord();
+    void aColourThatIsNoneIsAppliedAsInvalid();
+    void aFillColourThatIsNoneIsAppliedAsInvalid();
+    void answersAreAppliedInAFixedOrder();
+    void theShapesOwnSetAttributeIsAsked();
 
 private:
     QJsonArray settings();
@@ -234,6 +243,114 @@ void TestSettingsPanel::withoutDocumentNothingIsSet()
         {"idLineStyle", "1"}, {"idOutlineColor", "#ff00ff00"}, {"idFillColor", "#800000ff"}};
     QVERIFY(fixture->shape->SetSettingJson(QString(), true, true));
     QCOMPARE(recording::count("push") + recording::count("RecordAction"), 0);
+}
+
+void TestSettingsPanel::withoutDocumentTheShapesOwnControlsAreDescribed()
+{
+    fixture->shape->propPenStyleEnabled = true;
+    fixture->shape->propFillEnabled = true;
+    fixture->shape->onGetSettingArray = [](QJsonArray &array) {
+        array.append(QStringLiteral("own"));
+        return true;
+    };
+    QCOMPARE(settings(), QJsonArray({QStringLiteral("own")}));
+}
+
+void TestSettingsPanel::withoutObjectTheShapesOwnControlsAreDescribed()
+{
+    TestShape shape(nullptr, twoPointTemplate());
+    QVERIFY(shape.loadSVG(false));
+    shape.onGetSettingArray = [](QJsonArray &array) {
+        array.append(QStringLiteral("own"));
+        return true;
+    };
+    QString text;
+    QVERIFY(shape.GetSettingJson(text));
+    QCOMPARE(QJsonDocument::fromJson(text.toUtf8()).object(),
+             (QJsonObject{{"settings", QJsonArray({QStringLiteral("own")})}}));
+}
+
+void TestSettingsPanel::aPenColourThatIsNotOfferedIsNotChanged()
+{
+    fixture->shape->propPenEnabled = false;
+    fixture->load();
+    recording::framework().settings = {{"idOutlineColor", "#ff00ff00"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), true, true));
+    QCOMPARE(recording::count("document", "setAllStrokeColor"), 0);
+    QCOMPARE(CUndoRedo::GetInstance()->stack()->count(), 0);
+}
+
+void TestSettingsPanel::anAnswerIsRecordedWithoutAnUndoStep()
+{
+    fixture->load();
+    recording::framework().settings = {{"idOutlineColor", "#ff00ff00"}};
+    fixture->shape->SetSettingJson(QString(), true, false);
+    QCOMPARE(recording::calls("object", "RecordAction").size(), 1);
+    QCOMPARE(CUndoRedo::GetInstance()->stack()->count(), 0);
+}
+
+void TestSettingsPanel::anAnswerIsUndoableWithoutARecord()
+{
+    fixture->load();
+    recording::framework().settings = {{"idOutlineColor", "#ff00ff00"}};
+    fixture->shape->SetSettingJson(QString(), false, true);
+    QCOMPARE(recording::calls("object", "RecordAction").size(), 0);
+    QCOMPARE(CUndoRedo::GetInstance()->stack()->count(), 1);
+}
+
+void TestSettingsPanel::aColourThatIsNoneIsAppliedAsInvalid()
+{
+    fixture->load();
+    fixture->shape->setPenColor(Qt::red, false);
+    recording::framework().settings = {{"idOutlineColor", "no colour"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), true, false));
+    QVERIFY(!fixture->shape->getPenColor().isValid());
+    QCOMPARE(recording::calls("object", "RecordAction").size(), 1);
+}
+
+void TestSettingsPanel::aFillColourThatIsNoneIsAppliedAsInvalid()
+{
+    fixture->shape->propFillEnabled = true;
+    fixture->load();
+    fixture->shape->updateBrush(QBrush(Qt::red, Qt::CrossPattern));
+    recording::clear();
+    recording::framework().settings = {{"idFillColor", "no colour"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), false, false));
+    // What the page object then makes of it comes back as a fill of its own.
+    const QVector<recording::Call> applied = recording::calls("document", "setAllFillBrush");
+    QVERIFY(!applied.isEmpty());
+    const QBrush brush = applied.first().arguments.first().value<QBrush>();
+    QVERIFY(!brush.color().isValid());
+    QCOMPARE(brush.style(), Qt::CrossPattern);
+}
+
+void TestSettingsPanel::answersAreAppliedInAFixedOrder()
+{
+    fixture->shape->propPenStyleEnabled = true;
+    fixture->shape->propFillEnabled = true;
+    fixture->load();
+    recording::framework().settings = {
+        {"idFillColor", "#ff0000ff"}, {"idLineStyle", "1"}, {"idOutlineColor", "#ff00ff00"}, {"own", "1"}};
+    fixture->shape->SetSettingJson(QString(), true, true);
+    QCOMPARE(recording::names({"setAllStrokeStyle", "setAllStrokeColor", "setAllFillBrush", "SetSettingArray"}),
+             QStringList({"document.setAllStrokeStyle", "document.setAllStrokeColor", "document.setAllFillBrush",
+                          "shape.SetSettingArray"}));
+}
+
+void TestSettingsPanel::theShapesOwnSetAttributeIsAsked()
+{
+    fixture->load();
+    QList<int> asked;
+    fixture->shape->onSetAttribute = [&](int propId, QDataStream &in, bool record, bool addUndo) {
+        QColor color;
+        in >> color;
+        asked << propId << int(record) << int(addUndo) << int(color.rgba());
+        return true;
+    };
+    recording::framework().settings = {{"idOutlineColor", "#80010203"}};
+    fixture->shape->SetSettingJson(QString(), true, false);
+    QCOMPARE(asked, QList<int>({5002, 1, 0, int(0x80010203)}));
+    QCOMPARE(recording::count("document", "setAllStrokeColor"), 0);
 }
 
 QTEST_MAIN(TestSettingsPanel)

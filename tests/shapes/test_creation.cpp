@@ -127,8 +127,7 @@ void TestCreation::viewBoxFollowsTheLastStepOfTheDrag()
     const QImage picture = shape.paintedElsewhere();
     shape.core().invalidate();
     QCOMPARE(picture, shape.paintedElsewhere());
-    QVERIFY(shape.object().getRegionPath());
-    QVERIFY(shape.object().getRegionPath()->boundingRect().right() > 190);
+    QVERIFY(shape.object().shape().boundingRect().right() > 190);
 }
 
 void TestCreation::tinyDragGivesThirtyByThirty_data()

@@ -44,7 +44,7 @@ CBaseObject::~CBaseObject() = default;
 
 QRectF CBaseObject::boundingRect() const
 {
-    return CPSRootObjectPrivate::of(*this).bounds;
+    return CPSRootObjectPrivate::currentBounds(const_cast<CBaseObject &>(*this));
 }
 
 QPainterPath CBaseObject::shape() const
@@ -128,7 +128,7 @@ QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &valu
     pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this);
     switch (change) {
     case ItemSelectedHasChanged:
-        CPSRootObjectPrivate::refreshBounds(*this);
+        CPSRootObjectPrivate::dropPaintedArea(*this);
         break;
     case ItemPositionHasChanged:
     case ItemRotationHasChanged:

@@ -133,14 +133,15 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
     update();
-    if (id == SizeChanged) {
+    const bool isNextPicture = id == AppearanceChanged && CPSRootObjectPrivate::isNextPicture(*this);
+    if (!isNextPicture && (id == SizeChanged || id == AppearanceChanged)) {
         CPSRootObjectPrivate::dropRegion(*this);
     }
     pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
     if (!page) {
         return;
     }
-    if (id != AppearanceChanged || !CPSRootObjectPrivate::isNextPicture(*this)) {
+    if (!isNextPicture) {
         CPSRootObjectPrivate::noteChange(*this);
     }
     Q_EMIT page->objectPropertyChanged(CPSRootObjectPrivate::baseObject(*this), id, value);

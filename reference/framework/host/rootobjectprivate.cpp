@@ -4,19 +4,36 @@
 #include <framework/idocument.h>
 #include <framework/iframework.h>
 
+#include <pagehost/objectplugin.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
 #include <host/handlelayout.h>
 #include <lessons/objectdata.h>
 
+#include <QtCore/QDataStream>
+
 #include <cmath>
 
 namespace {
 
-/// How far lines and labels may reach beyond the client rectangle of an object whose region is not known, item
+/// How far lines and labels may reach beyond the client rectangle of an object that does not say so, item
 /// units.
 constexpr double overhang = 8;
+
+/// What the object answers to pagehost::PaintedArea; empty when it knows no answer, or none that is a rectangle.
+QRectF askedPaintedArea(CPSRootObject &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!object.GetSpecialProperty(pagehost::PaintedArea, out)) {
+        return {};
+    }
+    QRectF area;
+    QDataStream in(bytes);
+    in >> area;
+    return isFinite(area) ? area : QRectF();
+}
 
 OperationType operationOf(CObjAction::ACT_Def handle)
 {
@@ -108,16 +125,12 @@ void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
     if (!item || object.d->keepsBounds) {
         return;
     }
-    QRectF bounds = object.clientRect;
-    if (object.d->regionIsStale) {
-        bounds.adjust(-overhang, -overhang, overhang, overhang);
-    } else if (object.regionPath) {
-        bounds = bounds.united(object.regionPath->controlPointRect());
+    if (!item->scene()) {
+        object.d->boundsAreStale = true;
+        return;
     }
-    // Control points may stand half outside, whatever their size on screen.
-    const double reach = item->isSelected() ? HandleLayout::controlPointPixels : 1;
-    const double margin = HandleLayout(object.clientRect, object.getCurZoomRate()).fromPixels(reach);
-    bounds.adjust(-margin, -margin, margin, margin);
+    object.d->boundsAreStale = false;
+    const QRectF bounds = wantedBounds(*item);
     if (bounds == object.d->bounds) {
         return;
     }
@@ -125,10 +138,45 @@ void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
     object.d->bounds = bounds;
 }
 
+QRectF CPSRootObjectPrivate::currentBounds(CBaseObject &object)
+{
+    CPSRootObjectPrivate &host = of(object);
+    if (host.boundsAreStale) {
+        host.boundsAreStale = false;
+        host.bounds = wantedBounds(object);
+    }
+    return host.bounds;
+}
+
+QRectF CPSRootObjectPrivate::wantedBounds(CBaseObject &object)
+{
+    CPSRootObjectPrivate &host = of(object);
+    if (!host.paintedArea) {
+        host.paintedArea = askedPaintedArea(object);
+    }
+    QRectF bounds = object.clientRect.united(*host.paintedArea);
+    if (host.paintedArea->isEmpty()) {
+        const double margin = host.regionIsStale ? overhang : 0;
+        bounds.adjust(-margin, -margin, margin, margin);
+        // Of another look perhaps, but still the best that is known.
+        bounds = object.regionPath ? bounds.united(object.regionPath->controlPointRect()) : bounds;
+    }
+    // Control points may stand half outside, whatever their size on screen.
+    const double reach = object.isSelected() ? HandleLayout::controlPointPixels : 1;
+    const double margin = HandleLayout(object.clientRect, object.getCurZoomRate()).fromPixels(reach);
+    return bounds.adjusted(-margin, -margin, margin, margin);
+}
+
+void CPSRootObjectPrivate::dropPaintedArea(CPSRootObject &object)
+{
+    object.d->paintedArea.reset();
+    refreshBounds(object);
+}
+
 void CPSRootObjectPrivate::dropRegion(CPSRootObject &object)
 {
     object.d->regionIsStale = true;
-    refreshBounds(object);
+    dropPaintedArea(object);
 }
 
 QPainterPath CPSRootObjectPrivate::currentRegion(CBaseObject &object)

@@ -41,6 +41,11 @@ public:
     bool keepsBounds = false;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
+    /// Outside of a scene the bounds wait until somebody asks for them.
+    bool boundsAreStale = false;
+    /// What the object answered to pagehost::PaintedArea; null where it has to be asked, empty where it knows no
+    /// answer.
+    std::optional<QRectF> paintedArea;
     std::unique_ptr<GripDrag> drag;
 
     CPSRootObjectPrivate();
@@ -71,6 +76,10 @@ public:
     static QSizeF savedSize(const QJsonObject &object);
     /// Bounding rectangle from client rectangle, region and editing aids.
     static void refreshBounds(CPSRootObject &object);
+    /// The bounding rectangle of now, item coordinates.
+    static QRectF currentBounds(CBaseObject &object);
+    /// Selection has changed, and with it what is painted.
+    static void dropPaintedArea(CPSRootObject &object);
     /// Size or look have changed, and with them the region.
     static void dropRegion(CPSRootObject &object);
     /// The region of now, item coordinates; empty when the object has none of its own.
@@ -86,6 +95,9 @@ public:
     static QPen &pen(CPSRootObject &object) { return object.myPen; }
     static void setName(CPSRootObject &object, const QString &name) { object.objName = name; }
     static void setClientRect(CPSRootObject &object, const QRectF &rect);
+
+private:
+    static QRectF wantedBounds(CBaseObject &object);
 };
 
 /// Degrees brought into 0 to 360, 360 excluded.

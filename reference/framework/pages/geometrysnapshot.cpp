@@ -75,7 +75,6 @@ void GeometrySnapshot::restoreSize() const
         CPSRootObjectPrivate::assignClientSize(*m_object, m_size);
         m_object->OnQPainterDraw(nullptr);
     }
-    m_object->regenRegionShape(nullptr);
     m_object->updateAfterObjRectChanged(m_object->GetGraphicsItemPtr(), true);
 }
 

@@ -29,7 +29,12 @@ enum SpecialProperty {
     /// picture with AppearanceChanged; switched off, it stands still where it was, and goes on from there. An
     /// object
     /// in which nothing moves does not know the property.
-    AnimationRuns = 2901
+    AnimationRuns = 2901,
+    /// QRectF, item coordinates, read only: a box around everything that the object paints and can be hit at,
+    /// editing aids included while it is selected. It is asked for when size, look or selection have changed. For
+    /// an object that does not know the property the host guesses: a margin around the client rectangle, and the
+    /// region.
+    PaintedArea = 2902
 };
 
 /// Texts by localisation key.
