@@ -15,23 +15,26 @@ protected:
     {
         const double module = std::min(128 / (driving + driven + tip), 86 / (std::max<int>(driving, driven) + tip));
         const double left = 70 - module * (driven + 0.0) / 2;
-        drawGear("driving", driving, module, left, 0);
-        drawGear("driven", driven, module, left + module * (driving + driven) / 2, driven % 2 ? 0 : 180.0 / driven);
-        set("driving_turn", "dur", QStringLiteral("%1s").arg(driving * 0.5));
-        set("driven_turn", "dur", QStringLiteral("%1s").arg(driven * 0.5));
+        const double right = left + module * (driving + driven) / 2;
+        drawGear("driving", driving, module, {left, 48}, 0, 0);
+        drawGear("driven", driven, module, {right, 48}, driven % 2 ? 0 : 180.0 / driven, 360);
     }
 
 private:
-    void drawGear(const QString &id, int teeth, double module, double x, double turned)
+    void drawGear(const QByteArray &id, int teeth, double module, QPointF centre, double turned, int start)
     {
         PathText rim;
         for (int i = 0; i < 4 * teeth; ++i) {
             const double radius = module * (teeth + (i % 4 < 2 ? tip : root)) / 2;
-            const QPointF corner = onCircle({0, 0}, radius, turned + 90 + 360.0 / teeth * (corners[i % 4] + i / 4));
+            const QPointF corner = onCircle(centre, radius, turned + 90 + 360.0 / teeth * (corners[i % 4] + i / 4));
             i == 0 ? rim.moveTo(corner) : rim.lineTo(corner);
         }
-        setPath(("figure_" + id).toLatin1(), rim.close().ellipse({-3.5, -3.5, 7, 7}));
-        set((id + "_place").toLatin1(), "transform", QStringLiteral("translate(%1 48)").arg(x));
+        setPath("figure_" + id, rim.close().ellipse(QRectF(-3.5, -3.5, 7, 7).translated(centre)));
+        // No other place than where it turns: a gradient runs over both gears as one.
+        const QString turn = QStringLiteral("%1 %2 %3");
+        set(id + "_turn", "from", turn.arg(start).arg(centre.x()).arg(centre.y()));
+        set(id + "_turn", "to", turn.arg(360 - start).arg(centre.x()).arg(centre.y()));
+        set(id + "_turn", "dur", QStringLiteral("%1s").arg(teeth * 0.5));
     }
     /// What teeth rise above the circle on which the gears roll and go below it, in modules of the diameter.
     static constexpr double tip = 1.4, root = -2.2;

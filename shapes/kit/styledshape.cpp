@@ -5,6 +5,7 @@
 #include <kit/treewalk.h>
 
 #include <svgobj/csvganimate.h>
+#include <svgobj/csvgbaseundocmd.h>
 #include <svgobj/csvgobj.h>
 
 #include <framework/cpagebgprop.h>
@@ -25,6 +26,8 @@ namespace {
 
 constexpr int lastHostFilledType = 26;
 constexpr int extraHostFilledType = 1000;
+/// Action of undo steps that hold the page object's whole fill; never recorded.
+constexpr int pageFillAction = 1990;
 /// Added to the width of a line so that it can be hit, document units.
 constexpr double lineHitMargin = 6;
 /// The library makes the pen this much wider in the region, item units.
@@ -39,6 +42,14 @@ bool fillsAlike(const QBrush &a, const QBrush &b)
     const bool aFills = a.style() != Qt::NoBrush;
     const bool bFills = b.style() != Qt::NoBrush;
     return aFills == bFills && (!aFills || a.color() == b.color());
+}
+
+QByteArray bytesOf(const CPageBgProp &fill)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    fill.save(out);
+    return bytes;
 }
 
 QPainterPath outlineOf(const QZeSvgNode &node)
@@ -231,6 +242,31 @@ void StyledShape::setPenColor(QColor color, bool record)
     colorPenFollowers();
 }
 
+bool StyledShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
+{
+    if (propId != PROP_SVG_FILLCOLOR || !addUndo || !hasRichFill())
+        return CSVGBase::setInnerProperty(propId, in, record, addUndo);
+    const QByteArray before = bytesOf(*owner->getFillProp());
+    if (!CSVGBase::setInnerProperty(propId, in, record, false))
+        return false;
+    auto *command = new CSVGBaseUndoCmd(this, pageFillAction, nullptr, true);
+    command->setDataBuffer(before, bytesOf(*owner->getFillProp()));
+    addUndoRedo(command);
+    return true;
+}
+
+bool StyledShape::DoPlaybackActionEx(int actionId, QDataStream &in)
+{
+    if (actionId != pageFillAction)
+        return CSVGBase::DoPlaybackActionEx(actionId, in);
+    CPageBgProp fill(nullptr);
+    if (!fill.load(in))
+        return false;
+    owner->setFillProp(&fill, false);
+    invalidate();
+    return true;
+}
+
 bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
 {
     if (propId == pagehost::PaintedArea) {
@@ -389,6 +425,12 @@ void StyledShape::fillPageObject(const QBrush &brush)
         fill.setFillEnable(false);
     }
     owner->setFillProp(&fill, false);
+}
+
+bool StyledShape::hasRichFill() const
+{
+    const CPageBgProp *fill = owner->getFillProp();
+    return fill && fill->fillType() != CPageBgProp::SolidFill && (fill->isFillEnable() || isFilledByPageObject());
 }
 
 } // namespace shapekit

@@ -46,6 +46,12 @@ public:
     /// tells of a fill that it got elsewhere, the shape repaints in any case.
     void setFillBrush(const QBrush &brush, bool record, bool notify) override;
     void setPenColor(QColor color, bool record) override;
+    /// @name A colour that replaces a gradient, a pattern or a picture
+    /// Its undo step holds the whole fill of the page object, of which a brush would bring only the colour back.
+    /// @{
+    bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
+    bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
+    /// @}
     /// @name Besides properties of the shape: what the host asks of every object that moves
     /// (pagehost::SpecialProperty)
     /// @{
@@ -87,6 +93,8 @@ private:
     void readLook();
     void colorPenFollowers();
     void fillPageObject(const QBrush &brush);
+    /// Whether a brush could not say how the shape is filled.
+    bool hasRichFill() const;
 
     int m_type;
     bool m_lookRead = false;

@@ -5,6 +5,8 @@
 
 #include "editor.h"
 
+#include <QtGui/QScreen>
+
 // Views keep a picture of every object. Whatever happens to an object, the view must show what it would show
 // without.
 
@@ -59,6 +61,23 @@ struct Shown : Editor
         picture(view);
         return greatestDifference(kept, painted) <= rounding;
     }
+    /// What stands in the window, of which each change has repainted a part, against the window painted as a whole
+    /// without kept pictures.
+    bool leavesNoTraces()
+    {
+        QCoreApplication::processEvents();
+        const QImage parts = window();
+        object->setCacheMode(QGraphicsItem::NoCache);
+        view.viewport()->update();
+        QCoreApplication::processEvents();
+        const QImage whole = window();
+        object->setCacheMode(QGraphicsItem::DeviceCoordinateCache);
+        return greatestDifference(parts, whole) <= rounding;
+    }
+    QImage window() const
+    {
+        return QGuiApplication::primaryScreen()->grabWindow(view.winId(), 0, 0, 900, 700).toImage();
+    }
     CBaseObject *object;
 };
 
@@ -72,6 +91,8 @@ private Q_SLOTS:
     void initTestCase();
     void everyChangeShows_data();
     void everyChangeShows();
+    void aThickPenLeavesNoTraces_data();
+    void aThickPenLeavesNoTraces();
     void controlPointsGoWhenEditingEnds();
     void anUntouchedObjectIsNotPaintedAgain();
 };
@@ -120,6 +141,37 @@ void TestKeptPictures::everyChangeShows()
         const QString step = undoStack()->undoText();
         undoStack()->undo();
         QVERIFY2(shown.isTrue(), qPrintable("undone: " + step));
+    }
+}
+
+void TestKeptPictures::aThickPenLeavesNoTraces_data()
+{
+    everyChangeShows_data();
+}
+
+void TestKeptPictures::aThickPenLeavesNoTraces()
+{
+    QFETCH(QString, kind);
+    constexpr int thick = 30;
+    Shown shown(kind);
+    const QVector<CBaseObject *> objects{shown.object};
+    QVERIFY2(shown.leavesNoTraces(), "drawn");
+    pagehost::setPenWidth(objects, thick);
+    QVERIFY2(shown.leavesNoTraces(), "thick pen");
+    pagehost::resizeObject(shown.object, QSizeF(300, 240));
+    QVERIFY2(shown.leavesNoTraces(), "larger");
+    shown.page->select({});
+    QVERIFY2(shown.leavesNoTraces(), "not selected");
+    pagehost::resizeObject(shown.object, QSizeF(90, 70));
+    QVERIFY2(shown.leavesNoTraces(), "smaller");
+    pagehost::rotateObjects(objects, 40);
+    QVERIFY2(shown.leavesNoTraces(), "turned");
+    pagehost::moveObjects(objects, QPointF(-60, 45));
+    QVERIFY2(shown.leavesNoTraces(), "moved");
+    while (undoStack()->canUndo()) {
+        const QString step = undoStack()->undoText();
+        undoStack()->undo();
+        QVERIFY2(shown.leavesNoTraces(), qPrintable("undone: " + step));
     }
 }
 
