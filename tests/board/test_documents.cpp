@@ -32,6 +32,9 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QUndoStack>
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace boardtest;
 
 /// A board, a folder for its files, and the answers to its dialogs.
@@ -79,6 +82,29 @@ struct Desk
     BoardDriver board;
 };
 
+/// While it lives, no file of this process can grow beyond a few bytes.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        constexpr rlim_t room = 60;
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit full = m_before;
+        full.rlim_cur = room;
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before;
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
 class TestDocuments : public QObject
 {
     Q_OBJECT
@@ -91,6 +117,7 @@ private Q_SLOTS:
     void bothFormatsAreWritten_data();
     void bothFormatsAreWritten();
     void savedBoardOpensAgain();
+    void theFileThatIsChosenOpens();
     void openedBoardReplacesTheHistory();
     void changesAreAskedForBeforeAnotherBoardOpens_data();
     void changesAreAskedForBeforeAnotherBoardOpens();
@@ -98,6 +125,8 @@ private Q_SLOTS:
     void savingWhileClosingClosesAfterwards();
     void cancelledSavingWhileClosingKeepsTheWindow();
     void aFailedSaveSaysWhyAndLosesNothing();
+    void aFullDiskIsToldAndLosesNothing_data();
+    void aFullDiskIsToldAndLosesNothing();
     void aFileThatIsNoBoardIsRefusedWithAReason();
     void aDamagedBoardTellsWhatIsMissingAndIsNotOverwrittenUnasked();
     void recentFilesAreOffered();
@@ -190,6 +219,20 @@ void TestDocuments::savedBoardOpensAgain()
     QVERIFY(!other.window().isWindowModified());
     QCOMPARE(other.view().zoom(), 1.0);
     QCOMPARE(other.workspace().document()->zoomRate(), 1.0);
+}
+
+void TestDocuments::theFileThatIsChosenOpens()
+{
+    Desk desk;
+    desk.drawOne();
+    desk.saveAs("lesson.board.json");
+    desk.board.key(Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(desk.objectCount(), 0);
+    desk.board.key(Qt::Key_O, Qt::ControlModifier);
+    desk.answerFile(desk.path("lesson.board.json"));
+    QCOMPARE(desk.documents().name(), QString("lesson.board.json"));
+    QCOMPARE(desk.objectCount(), 1);
+    QVERIFY(!desk.board.window().isWindowModified());
 }
 
 void TestDocuments::openedBoardReplacesTheHistory()
@@ -293,6 +336,38 @@ void TestDocuments::aFailedSaveSaysWhyAndLosesNothing()
     desk.saveAs("elsewhere.board");
     QVERIFY(!desk.board.window().isWindowModified());
     QVERIFY(!desk.notices().contains("was not saved"));
+}
+
+void TestDocuments::aFullDiskIsToldAndLosesNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("binary") << "lesson.board";
+    QTest::newRow("json") << "lesson.board.json";
+}
+
+void TestDocuments::aFullDiskIsToldAndLosesNothing()
+{
+    QFETCH(QString, name);
+    Desk desk;
+    desk.drawOne();
+    desk.saveAs(name);
+    QFile file(desk.path(name));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    {
+        const FullDisk disk;
+        desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    }
+    QVERIFY2(desk.notices().contains("was not saved"), qPrintable(desk.notices()));
+    QVERIFY(desk.board.window().isWindowModified());
+    QCOMPARE(desk.objectCount(), 2);
+    file.seek(0);
+    QCOMPARE(file.readAll(), before);
+    QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{name});
+    desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!desk.board.window().isWindowModified());
+    QTRY_VERIFY(!desk.notices().contains("was not saved"));
 }
 
 void TestDocuments::aFileThatIsNoBoardIsRefusedWithAReason()

@@ -6,6 +6,7 @@
 #include <pagehost/lesson.h>
 
 #include <QtCore/QProcess>
+#include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtTest/QtTest>
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void exportIntoAnImpossibleFolderFails();
     void unusablePlugInsAreReported();
     void missingPlugInFolderIsReported();
+    void theFileThatIsGivenOpensInTheWindow();
     void optionsAreRead();
 };
 
@@ -286,6 +288,29 @@ void TestProgram::missingPlugInFolderIsReported()
     const Outcome outcome = run({"--plugins", folder.filePath("nowhere"), "--export", folder.filePath("pages")});
     QCOMPARE(outcome.code, 0);
     QVERIFY2(outcome.errors.contains(folder.filePath("nowhere")), qPrintable(outcome.errors));
+}
+
+void TestProgram::theFileThatIsGivenOpensInTheWindow()
+{
+    const QTemporaryDir folder;
+    pagehost::Document document;
+    document.appendPage(QSizeF(200, 100));
+    const QString file = folder.filePath("lesson.board");
+    QVERIFY(pagehost::saveDocument(document, file).saved);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("XDG_CONFIG_HOME", folder.path());
+    environment.insert("XDG_DATA_HOME", folder.path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(BOARD_PROGRAM, {file});
+    // What was opened is offered again.
+    const QString settings = folder.filePath("gliololok/gliololok-board.conf");
+    QTRY_COMPARE_WITH_TIMEOUT(QSettings(settings, QSettings::IniFormat).value("recentFiles").toStringList(),
+                              QStringList{file}, 60000);
+    QCOMPARE(process.state(), QProcess::Running);
+    process.kill();
+    QVERIFY(process.waitForFinished());
 }
 
 void TestProgram::optionsAreRead()

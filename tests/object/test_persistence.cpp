@@ -42,17 +42,20 @@ private Q_SLOTS:
     void savingJsonAnswersTrueWhateverTheCoreSays();
     void jsonMakesTheCoreOfTheSavedType();
     void jsonWithoutTypeMeansZero();
+    void jsonWithATypeThatIsNoNumberMeansZero();
     void jsonWithoutUsableFlagLoadsNoCore_data();
     void jsonWithoutUsableFlagLoadsNoCore();
     void readingJsonAddsMissingKeys();
     void jsonTakesTheLoadedSizeAsBase();
     void jsonKeepsWhatTheCoreDidToTheRectangle();
+    void theBaseOfJsonIsTheLoadedSizeWhateverTheCoreDoesToTheRectangle();
     void jsonSetsNoSubType();
     void jsonFinishesTheCreationAfterTheCore();
 
     void playbackDataIsTheHostsThenTheCores();
     void playbackDataIsReadInTheSameOrder();
     void playbackDataWithoutCoreIsTheHosts();
+    void theCoreAnswersForPlaybackDataElseTheHost();
     void theSavedTypeDecidesAboutTheSubType();
 };
 
@@ -492,6 +495,45 @@ void TestPersistence::theSavedTypeDecidesAboutTheSubType()
     Input ofOther = stored(27);
     other.load(ofOther);
     QCOMPARE(other.getSubType(), 0);
+}
+
+void TestPersistence::theCoreAnswersForPlaybackDataElseTheHost()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    TestObject coreless;
+    recording::framework().playbackAnswer = false;
+    Output out;
+    QVERIFY(fixture.object.SavePropertyForPlayback(out));
+    Input saved(out.bytes());
+    QVERIFY(fixture.object.LoadPropertyForPlayback(saved));
+    Output nothing;
+    QVERIFY(!coreless.SavePropertyForPlayback(nothing));
+    Input rectangle = inputOf(hostRect);
+    QVERIFY(!coreless.LoadPropertyForPlayback(rectangle));
+}
+
+void TestPersistence::jsonWithATypeThatIsNoNumberMeansZero()
+{
+    Loading object;
+    QJsonObject json{{"SVG_bSVG", true}, {"SVG_SVGType", "27"}};
+    QVERIFY(object.loadJson(json));
+    QCOMPARE(recording::lastArguments("createSVGBase"), QVariantList({0, false}));
+}
+
+void TestPersistence::theBaseOfJsonIsTheLoadedSizeWhateverTheCoreDoesToTheRectangle()
+{
+    Loading object;
+    object.onCreateCore = [&](int type, bool) {
+        object.makeCore({}, type)->onLoadJson = [&](QJsonObject &) {
+            object.clientRect = QRectF(9, 9, 500, 600);
+            return true;
+        };
+    };
+    QJsonObject json = storedJson(27);
+    object.loadJson(json);
+    QCOMPARE(exact(object.clientRect), exact(QRectF(9, 9, 500, 600)));
+    QCOMPARE(exact(object.baseSize), exact(QSizeF(30, 40)));
 }
 
 QTEST_MAIN(TestPersistence)

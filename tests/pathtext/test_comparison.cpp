@@ -114,6 +114,12 @@ void TestComparison::everyUtf16Unit_data()
                                      << "2";
     QTest::newRow("right after the letter") << "M0,0h"
                                             << "2v3";
+    QTest::newRow("in a length") << "M0,0h5"
+                                 << "2v3";
+    QTest::newRow("in a height") << "M0,0v5"
+                                 << "2h3";
+    QTest::newRow("in a pair") << "M0,0l5,1"
+                               << "2z";
     QTest::newRow("in a start point") << "M1,2"
                                       << "3L4,5";
 }

@@ -52,6 +52,8 @@ void TestPathStretching::oneWidth_data()
     row("h within the threshold points forward", "M0,0h-0.00000001", 2, "M0,0h2");
     row("h at the threshold points back", "M0,0h-0.0000001", 2, "M0,0h-2");
     row("h with text that is no number", "M0,0h5-3v2", 2, "M0,0h2v2");
+    row("a colon ends a number", "M0,0h5:2", 2, "M0,0h7:2");
+    row("a slash ends a number", "M0,0h5/2", 2, "M0,0h7/2");
     row("only the first h", "M0,0h1v1h1", 2, "M0,0h3v1h1");
     row("capital H is another command", "M0,0H10", 2, "M0,0H10");
     row("h at index 0 only", "h10v5", 2, "h10v5");
@@ -81,6 +83,7 @@ void TestPathStretching::oneHeight_data()
 {
     columns();
     row("v", "M0,0h10v5", 2, "M0,0h10v7");
+    row("only the first v", "M0,0v1h1v1", 2, "M0,0v3h1v1");
     row("v that points back", "M0,0v-5h1", 2, "M0,0v-7h1");
     row("l with a comma", "M0,0l5,-3z", 2, "M0,0l5,-5z");
     row("l at the end", "M0,0l5,-3", 2, "M0,0l5,-5");
@@ -140,6 +143,7 @@ void TestPathStretching::allHeightsFromAnIndex()
     QFETCH(double, delta);
     support::TestShape shape(nullptr);
     QTEST(shape.changePathHeight(path, delta, 0), "result");
+    QCOMPARE(shape.changePathHeight(QStringLiteral("M0,0v1h1v1"), 2, 6), QStringLiteral("M0,0v1h1v3"));
 }
 
 void TestPathStretching::allPiecesOfAMegabyteAreEdited_data()

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void aColourBecomesASolidFill();
     void anEmptyMapChangesNothing();
     void severalChangesRepaintOnce();
+    void eachChangeRepaints_data();
+    void eachChangeRepaints();
     void nothingIsRecorded();
     void valuesOfTheWrongTypeConvert();
     void theMapOfAnUnfilledShapeGivenBackChangesItsFill();
@@ -50,6 +52,7 @@ void TestAttributeMap::cleanup()
 
 void TestAttributeMap::theMapHoldsTheFourValuesWhateverTheFlags()
 {
+    fixture->shape->propPenEnabled = false; // the others are off as they are
     Map map{{"other", 1}};
     QVERIFY(fixture->shape->getAllAttributes(map));
     QCOMPARE(map.size(), 5);
@@ -57,6 +60,10 @@ void TestAttributeMap::theMapHoldsTheFourValuesWhateverTheFlags()
     QCOMPARE(map["pen_color"].value<QColor>(), QColor(Qt::red));
     QCOMPARE(map["pen_style"], QVariant(int(Qt::DashLine)));
     QCOMPARE(map["fill_color"].value<QBrush>(), QBrush(Qt::blue, Qt::Dense1Pattern));
+    QCOMPARE(map["pen_width"].userType(), int(QMetaType::Int));
+    QCOMPARE(map["pen_color"].userType(), int(QMetaType::QColor));
+    QCOMPARE(map["pen_style"].userType(), int(QMetaType::Int));
+    QCOMPARE(map["fill_color"].userType(), int(QMetaType::QBrush));
 }
 
 void TestAttributeMap::aMapGivenBackSetsNoPen()
@@ -159,6 +166,24 @@ void TestAttributeMap::theFillGoesOutAsBrushAndComesInAsColour()
     QCOMPARE(fixture->shape->getFillBrush(), QBrush(Qt::green));
     QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", "red"}}, false));
     QCOMPARE(fixture->shape->getFillBrush(), QBrush(Qt::red));
+}
+
+void TestAttributeMap::eachChangeRepaints_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("width") << "pen_width" << QVariant(5);
+    QTest::newRow("colour") << "pen_color" << QVariant(QColor(Qt::green));
+    QTest::newRow("style") << "pen_style" << QVariant(int(Qt::DotLine));
+    QTest::newRow("fill") << "fill_color" << QVariant(QColor(Qt::green));
+}
+
+void TestAttributeMap::eachChangeRepaints()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    QVERIFY(fixture->shape->setAllAttributes(Map{{key, value}}, false));
+    QCOMPARE(recording::calls("object", "notifyObjPropertyChanged").size(), 1);
 }
 
 QTEST_MAIN(TestAttributeMap)

@@ -15,12 +15,15 @@ class TestJson : public QObject
 private Q_SLOTS:
     void aDefaultShapeSavesThePointsAndItsPenColour();
     void everyEnabledPenValueIsSaved();
+    void aMissingPointIsNotSaved();
     void aHalfTransparentPenComesBack();
     void anInvalidPenSavesAsOpaqueBlack();
     void aRawShapeSavesAndRestoresItsViewBox();
+    void aRawShapeWithoutViewBoxSavesWhatItCovers();
     void aMissingViewBoxIsNull();
     void aMissingCountLoadsNoPoint();
     void aMissingPenWidthIsZero();
+    void aMissingPenStyleIsNoLine();
     void aMissingCoordinateIsZero();
     void missingPointsAreCloned();
     void keysThatWereAskedForAreLeftBehindAsNull();
@@ -130,6 +133,8 @@ void TestJson::aMissingViewBoxIsNull()
     QJsonObject object;
     fixture.shape->loadJson(object);
     QCOMPARE(recording::lastArguments("document", "setViewBox"), QVariantList({QRectF()}));
+    QVERIFY(object.contains("SVG_viewBox"));
+    QVERIFY(object.value("SVG_viewBox").isNull());
 }
 
 void TestJson::aMissingCountLoadsNoPoint()
@@ -149,16 +154,24 @@ void TestJson::aMissingPenWidthIsZero()
     QJsonObject object{{"SVG_PropPenWidthEnabled", true}};
     fixture.shape->loadJson(object);
     QCOMPARE(recording::lastArguments("shape", "setPenWidth"), QVariantList({0, false}));
+    QVERIFY(object.contains("SVG_PenWidth"));
+    QVERIFY(object.value("SVG_PenWidth").isNull());
 }
 
 void TestJson::aMissingCoordinateIsZero()
 {
     ShapeFixture fixture(twoPointTemplate());
     fixture.load();
-    QJsonObject object{{"SVG_ControlCount", 2}, {"SVG_PosX_1", 1.0}, {"SVG_PosY_1", 2.0}, {"SVG_PosY_2", 3.0}};
+    QJsonObject object{{"SVG_ControlCount", 3},
+                       {"SVG_PosX_1", 1.0},
+                       {"SVG_PosY_1", 2.0},
+                       {"SVG_PosY_2", 3.0},
+                       {"SVG_PosX_3", 5.0}};
     fixture.shape->loadJson(object);
     QCOMPARE(fixture.shape->pointRect(1).topLeft(), QPointF(1, 2));
     QCOMPARE(fixture.shape->pointRect(2).topLeft(), QPointF(0, 3));
+    QCOMPARE(fixture.shape->pointRect(3).topLeft(), QPointF(5, 0));
+    QCOMPARE(recording::count("shape", "updateAllControlPoints"), 0); // only where points are written raw
 }
 
 void TestJson::missingPointsAreCloned()
@@ -302,6 +315,7 @@ void TestJson::aMissingPenColourUnderItsFlagIsInvalid()
     QJsonObject object{{"SVG_PropPenEnabled", true}};
     fixture.shape->loadJson(object);
     QVERIFY(!fixture.shape->getPenColor().isValid());
+    QVERIFY(object.contains("SVG_PenColor"));
     QVERIFY(object.value("SVG_PenColor").isNull());
 }
 
@@ -325,14 +339,54 @@ void TestJson::nothingIsRecorded()
 {
     ShapeFixture fixture(twoPointTemplate());
     fixture.load();
+    fixture.object.fillProp->setFillEnable(true);
+    fixture.object.fillProp->setFillColor(QColor(10, 20, 30));
     QJsonObject object{{"SVG_ControlCount", 1},
                        {"SVG_PosX_1", 1.0},
                        {"SVG_PropPenEnabled", true},
                        {"SVG_PropPenStyleEnabled", true},
                        {"SVG_PropPenWidthEnabled", true}};
     fixture.shape->loadJson(object);
+    QCOMPARE(recording::count("document", "setAllFillBrush"), 1);
     QCOMPARE(recording::count("RecordAction"), 0);
     QCOMPARE(recording::count("push"), 0);
+}
+
+void TestJson::aRawShapeWithoutViewBoxSavesWhatItCovers()
+{
+    ShapeFixture fixture(svgText(QString(), QStringLiteral("<rect x='3' y='4' width='5' height='6'/>")));
+    fixture.shape->rawControlPoints = true;
+    fixture.load();
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    QCOMPARE(fixture.shape->document->viewBox(), QRectF(3, 4, 5, 6));
+    fixture.shape->document->setViewBox(QRectF(0, 0, 9, 9));
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->document->viewBox(), QRectF(3, 4, 5, 6));
+}
+
+void TestJson::aMissingPointIsNotSaved()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(3)));
+    fixture.load();
+    fixture.shape->removeNode(fixture.shape->point(2));
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    QCOMPARE(object.value("SVG_ControlCount").toInt(), 3);
+    QVERIFY(!object.contains("SVG_PosX_2"));
+    QVERIFY(!object.contains("SVG_PosY_2"));
+    QCOMPARE(object.value("SVG_PosX_3").toDouble(), 30.0);
+}
+
+void TestJson::aMissingPenStyleIsNoLine()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    QJsonObject object{{"SVG_PropPenStyleEnabled", true}};
+    fixture.shape->loadJson(object);
+    QCOMPARE(fixture.shape->getPenStyle(), Qt::NoPen);
+    QVERIFY(object.contains("SVG_PenStyle"));
+    QVERIFY(object.value("SVG_PenStyle").isNull());
 }
 
 QTEST_MAIN(TestJson)

@@ -108,6 +108,7 @@ void TestStream::pointsMoveWithTheGeometry()
     QCOMPARE(recording::calls("shape", "updateSVG").size(), 1); // the second one is where it was
     QCOMPARE(recording::lastArguments("shape", "updateSVG"),
              QVariantList({QStringLiteral("control_1"), QPointF(1, 2), false, false})); // not finished meanwhile
+    QCOMPARE(recording::count("shape", "updateAllControlPoints"), 0); // only where points are written raw
 }
 
 void TestStream::rawPointsAreWrittenAsTheyStand()
@@ -135,6 +136,9 @@ void TestStream::missingPointsAreClonedFromTheFirst()
     QCOMPARE(fixture.shape->pointRect(2), QRectF(11, 12, 8, 8));
     QCOMPARE(fixture.shape->node(QStringLiteral("control_3")), fixture.shape->point(3));
     QCOMPARE(fixture.shape->pointRect(3), QRectF(21, 22, 8, 8));
+    QCOMPARE(recording::count("setAttribute"), 2);
+    QCOMPARE(recording::lastArguments("setAttribute"),
+             QVariantList({QStringLiteral("id"), QStringLiteral("control_3")}));
     QVERIFY(!fixture.shape->point(3)->isFillEnabled());
     QVERIFY(!fixture.shape->point(3)->isStrokeEnabled());
 }
@@ -209,8 +213,8 @@ void TestStream::pointsBeyondTheTableAreReadAndDropped()
 {
     ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
     fixture.load();
-    QByteArray bytes = bytesOf(qint32(33));
-    for (int i = 1; i <= 33; ++i)
+    QByteArray bytes = bytesOf(qint32(40));
+    for (int i = 1; i <= 40; ++i)
         bytes += bytesOf(double(i), double(i));
     bytes += bytesOf(false, true, QColor(Qt::green), false, false);
     fixture.shape->load(Input(bytes));
@@ -232,8 +236,11 @@ void TestStream::nothingIsRecorded()
 {
     ShapeFixture fixture(twoPointTemplate());
     fixture.load();
+    fixture.object.fillProp->setFillEnable(true);
+    fixture.object.fillProp->setFillColor(QColor(10, 20, 30));
     fixture.shape->load(
         inputOf(qint32(1), 1.0, 2.0, true, true, QColor(Qt::red), true, qint32(2), true, qint32(3)));
+    QCOMPARE(recording::count("document", "setAllFillBrush"), 1);
     QCOMPARE(recording::count("RecordAction"), 0);
     QCOMPARE(recording::count("push"), 0);
 }

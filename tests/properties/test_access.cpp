@@ -44,6 +44,7 @@ private Q_SLOTS:
     void aRecordedWidthIsUndoneToTheOldAndRedoneToTheNewWidth();
     void aBrushIsUndoneAsAWhole();
     void aPenStyleIsUndone();
+    void theCommandHoldsTheStyleAsItCame();
     void anUnknownPropertyIsNotRead_data();
     void anUnknownPropertyIsNotRead();
     void aShortStreamGivesDefaults();
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void aDamagedStreamKeepsItsStatus();
     void aSpecialPropertyAlwaysMakesAnUndoStep();
     void aSpecialPropertyPassesItsRecordFlag();
+    void aSpecialPropertyDoesNotRepaint();
     void withoutDocumentNothingIsReadOrWritten();
     void theLargestIndexWraps();
     void aStyleThatThereIsNotIsASolidLine_data();
@@ -393,6 +395,30 @@ void TestAccess::theSmallestWidthWraps()
     full.shape->document->setAllStrokeWidth(-1e30);
     QCOMPARE(full.shape->getPenWidth(), std::numeric_limits<int>::min());
     QCOMPARE(full.inner(5004), bytesOf(qint32(std::numeric_limits<int>::max())));
+}
+
+void TestAccess::aSpecialPropertyDoesNotRepaint()
+{
+    FullShape full;
+    recording::clear();
+    QVERIFY(full.shape->SetSpecialProperty(5002, inputOf(QColor(Qt::green)), false));
+    QCOMPARE(recording::count("OnQPainterDraw"), 0);
+    QVERIFY(full.shape->SetAttribute(5002, inputOf(QColor(Qt::yellow)), false, false));
+    QCOMPARE(recording::count("OnQPainterDraw"), 1);
+}
+
+void TestAccess::theCommandHoldsTheStyleAsItCame()
+{
+    FullShape full;
+    qint32 replayed = 0;
+    QVERIFY(full.shape->setInnerProperty(5003, inputOf(qint32(99)), false, true));
+    full.shape->onDoPlaybackActionEx = [&replayed](int, QDataStream &in) {
+        in >> replayed;
+        return true;
+    };
+    undoStack().undo();
+    undoStack().redo();
+    QCOMPARE(replayed, qint32(99));
 }
 
 QTEST_MAIN(TestAccess)

@@ -24,6 +24,10 @@ private Q_SLOTS:
     void aHostileBrushIsNoBrush();
     void aHostileBrushIsNotReadAtAll();
     void aHostileBrushIsReplayedAsNoBrush();
+    void aGradientHasRoomForItsStops();
+    void limitsAreInclusive();
+    void aTextureWithoutPictureIsRead();
+    void streamsOfOldVersionsHaveNoGradients();
     void everyTruncationOfABrushIsRead_data();
     void everyTruncationOfABrushIsRead();
     void everyChangedByteOfABrushIsRead_data();
@@ -32,6 +36,7 @@ private Q_SLOTS:
     void aColourOfNoKindIsBlack();
     void aColourOfNoKindInASavedShapeIsBlack();
     void aBrushOfAStreamWithAnotherByteOrderIsChecked();
+    void aTextureOfAStreamWithAnotherByteOrderIsRead();
 };
 
 namespace {
@@ -77,6 +82,26 @@ QByteArray gradientOfStops(quint32 count)
     for (quint32 i = 0; i < count; ++i)
         bytes += bytesOf(0.5, QColor(Qt::red));
     return bytes + bytesOf(QPointF(), QPointF(1, 1), QTransform());
+}
+
+/// A texture that claims its size and depth (bits a pixel), with so many bytes of data.
+QByteArray textureOfSize(quint32 width, quint32 height, int dataBytes, quint8 depth = 1)
+{
+    const quint8 grey = 0;
+    const quint32 checksum = 0;
+    const quint8 none = 0;
+    QByteArray bytes = bytesOf(quint8(Qt::TexturePattern), QColor(Qt::black), qint32(1)) + "\x89PNG\r\n\x1a\n";
+    bytes += bytesOf(quint32(13)) + "IHDR" + bytesOf(width, height, depth, grey, none, none, none, checksum);
+    bytes += bytesOf(quint32(dataBytes)) + "IDAT" + QByteArray(dataBytes, '\0') + bytesOf(checksum);
+    return bytes + bytesOf(quint32(0)) + "IEND" + bytesOf(checksum);
+}
+
+bool isReadable(const QByteArray &bytes,
+                QDataStream::FloatingPointPrecision precision = QDataStream::DoublePrecision)
+{
+    QDataStream in(bytes);
+    in.setFloatingPointPrecision(precision);
+    return StreamCheck::isReadableBrush(in);
 }
 
 /// Keeps what Qt says about damaged gradients and pictures from the test's output while it lives.
@@ -155,6 +180,7 @@ void TestHostile::aHostileBrushIsNoBrush_data()
     QTest::newRow("texture whose chunk is longer than the bytes")
         << withNumber(texture, textureOffset + 8, 0xffffffff);
     QTest::newRow("texture that ends in its data") << texture.left(texture.indexOf("IDAT") + 8);
+    QTest::newRow("texture whose signature is another") << withByte(texture, textureOffset, 0x88);
     QTest::newRow("texture without end") << texture.left(texture.indexOf("IEND") - 4);
     QTest::newRow("texture in another format") << texture.left(textureOffset) + "P6 30000 30000 255\n";
     QTest::newRow("style 18") << withByte(linear, 0, 18);
@@ -277,6 +303,77 @@ void TestHostile::aBrushOfAStreamWithAnotherByteOrderIsChecked()
         in.setByteOrder(QDataStream::LittleEndian);
         in.setFloatingPointPrecision(QDataStream::SinglePrecision);
         QCOMPARE(StreamCheck::isReadableBrush(in), !hostile);
+    }
+}
+
+void TestHostile::aTextureOfAStreamWithAnotherByteOrderIsRead()
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << textureBrush(2, 3);
+    QDataStream in(bytes);
+    in.setByteOrder(QDataStream::LittleEndian);
+    QVERIFY(StreamCheck::isReadableBrush(in));
+}
+
+void TestHostile::aGradientHasRoomForItsStops()
+{
+    const QByteArray whole = bytesOf(gradientBrush(QLinearGradient(1, 2, 3, 4)));
+    // Behind the three stops of 8 + 11 bytes stand 32 bytes of points and 72 of a matrix: room for five more.
+    QVERIFY(isReadable(withNumber(whole, stopCountOffset, 8)));
+    QVERIFY(!isReadable(withNumber(whole, stopCountOffset, 9)));
+    const QByteArray eight = withNumber(whole, stopCountOffset, 8).left(stopCountOffset + 4 + 8 * 19);
+    QVERIFY(isReadable(eight));
+    QVERIFY(!isReadable(eight.chopped(1)));
+
+    QByteArray single;
+    QDataStream out(&single, QIODevice::WriteOnly);
+    out.setFloatingPointPrecision(QDataStream::SinglePrecision);
+    out << gradientBrush(QLinearGradient(1, 2, 3, 4));
+    const QByteArray four = withNumber(single, stopCountOffset, 4).left(stopCountOffset + 4 + 4 * 15);
+    QVERIFY(isReadable(four, QDataStream::SinglePrecision));
+    QVERIFY(!isReadable(four.chopped(1), QDataStream::SinglePrecision));
+}
+
+void TestHostile::limitsAreInclusive()
+{
+    QVERIFY(isReadable(gradientOfStops(16384)));
+    QVERIFY(!isReadable(gradientOfStops(16385)));
+    QVERIFY(isReadable(textureOfSize(8192, 8192, 9000)));
+    QVERIFY(!isReadable(textureOfSize(8193, 8192, 9000)));
+    QVERIFY(isReadable(textureOfSize(1, 64 * 1024 * 1024, 200000)));
+    QVERIFY(!isReadable(textureOfSize(1, 64 * 1024 * 1024 + 1, 200000)));
+    QVERIFY(isReadable(textureOfSize(1, 1, 1, 16)));
+    QVERIFY(!isReadable(textureOfSize(1, 1, 1, 17)));
+    QVERIFY(!isReadable(textureOfSize(1, 1, 1, 0)));
+    QVERIFY(!isReadable(textureOfSize(1, 0, 1)));
+    // Rows of 1 + 3 bytes: data of one byte can become 1032 and 1024 for what surrounds them, 514 rows.
+    QVERIFY(isReadable(textureOfSize(24, 514, 1)));
+    QVERIFY(!isReadable(textureOfSize(24, 515, 1)));
+}
+
+void TestHostile::aTextureWithoutPictureIsRead()
+{
+    FullShape full;
+    full.object.onSetFillProp = [](CPageBgProp *, bool) {};
+    Input in(bytesOf(quint8(Qt::TexturePattern), QColor(Qt::green), qint32(0), QTransform()));
+    QVERIFY(full.shape->setInnerProperty(5005, in, false, false));
+    QCOMPARE(in.status(), QDataStream::Ok);
+    QCOMPARE(full.shape->getFillBrush().color(), QColor(Qt::green));
+}
+
+void TestHostile::streamsOfOldVersionsHaveNoGradients()
+{
+    for (const auto version : {QDataStream::Qt_4_5, QDataStream::Qt_4_6}) {
+        const QByteArray bytes = bytesOf(gradientBrush(QLinearGradient(1, 2, 3, 4)));
+        QDataStream in(bytes);
+        in.setVersion(version);
+        QCOMPARE(StreamCheck::isReadableBrush(in), version == QDataStream::Qt_4_6);
+        const QByteArray unknownKind = withByte(bytesOf(QColor(Qt::red)), 0, 99);
+        QDataStream color(unknownKind);
+        color.setVersion(version);
+        QCOMPARE(StreamCheck::hasKnownColorKind(color), version == QDataStream::Qt_4_5);
     }
 }
 

@@ -131,6 +131,7 @@ QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &valu
 
 void CBaseObject::regenRegionShape(QGraphicsItem *item)
 {
+    log("CBaseObject::regenRegionShape");
     CPSRootObject::regenRegionShape(item);
 }
 

@@ -113,14 +113,14 @@ bool CPSRootObject::SavePropertyForPlayback(QDataStream &out)
 {
     log("SavePropertyForPlayback");
     out << clientRect;
-    return true;
+    return recording::framework().playbackAnswer;
 }
 
 bool CPSRootObject::LoadPropertyForPlayback(QDataStream &in)
 {
     log("LoadPropertyForPlayback");
     in >> clientRect;
-    return true;
+    return recording::framework().playbackAnswer;
 }
 
 bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &)

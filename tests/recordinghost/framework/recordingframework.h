@@ -26,6 +26,8 @@ struct Framework
     QString viewName;
     /// Answers of the host base where a shape declines: hit test, canDo, attributes, special properties.
     bool baseAnswer = false;
+    /// The host base's answer after it wrote or read what a lesson starts from.
+    bool playbackAnswer = true;
     /// What the base's CheckHitTestHandlers() writes into its action when baseAnswer is set.
     int baseAction = 0;
     /// What ParseSettingJson() reads and answers.
