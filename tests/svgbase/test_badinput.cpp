@@ -63,6 +63,9 @@ private slots:
     void hugeCoordinatesAreSurvived();
     void manySiblingsAreDrawn();
     void messagesAreLimited();
+    void whatAnAnimationFillsIsNoPaint();
+    void turnedFiltersOfAllSizesAreSurvived();
+    void clippedMitersOfOddPathsAreSurvived();
 };
 
 void TestBadInput::entityBombIsRefused()
@@ -332,6 +335,38 @@ void TestBadInput::messagesAreLimited()
 {
     const DocumentPointer document = loadContent(QString("<rect fill='nonsense'/>").repeated(5000));
     QCOMPARE(document->messages().size(), Limits::messages);
+}
+
+void TestBadInput::whatAnAnimationFillsIsNoPaint()
+{
+    const DocumentPointer document =
+        loadContent("<rect width='1' height='1'><animate attributeName='x' to='5' dur='1s' fill='freeze'/></rect>");
+    QVERIFY(document->messages().isEmpty());
+}
+
+void TestBadInput::turnedFiltersOfAllSizesAreSurvived()
+{
+    for (const char *transform :
+         {"rotate(30)", "matrix(1e-9 1 1 1e-9 0 0)", "skewX(89.9999)", "matrix(1 1 1 1 0 0)",
+          "rotate(1) scale(1e9)", "rotate(1) scale(1e-9)", "rotate(45) scale(1e6 1e-6)"}) {
+        const QString content =
+            QStringLiteral("<filter id='f' x='-9' y='-9' width='99' height='99'>"
+                           "<feGaussianBlur stdDeviation='3 1e9'/><feTile/></filter>"
+                           "<g transform='%1' filter='url(#f)'>"
+                           "<g opacity='.5'><rect width='50' height='50' stroke='red'/></g></g>");
+        exercise(svgText(content.arg(QLatin1String(transform))));
+    }
+}
+
+void TestBadInput::clippedMitersOfOddPathsAreSurvived()
+{
+    for (const char *data : {"M0 0L0 0L10 10L0 0z", "M5 5z", "M0 0C0 0 0 0 0 0L9 9", "M0 0L1e9 0L0 0L-1e9 0",
+                             "M0 0H50H0H50H0", "M0 0L1e-9 1e-9L0 1e-9z", "M0 0A5 5 0 0 1 0 0L3 4"}) {
+        const QString content = QStringLiteral("<path d='%1' stroke='red' stroke-width='9' stroke-miterlimit='1e9' "
+                                               "stroke-linejoin='miter-clip'/><path d='%1' stroke='red' "
+                                               "stroke-dasharray='3 1e-9' stroke-linejoin='arcs'/>");
+        exercise(svgText(content.arg(QLatin1String(data))));
+    }
 }
 
 QTEST_MAIN(TestBadInput)

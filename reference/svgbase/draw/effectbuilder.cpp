@@ -41,7 +41,7 @@ private:
     QRectF shapeBox(ShapeBox box);
     bool contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *facts);
     bool buildClip(NodeIndex clip, QVector<DisplayItem> *items);
-    bool buildMask(NodeIndex mask, LayerEffects *layer);
+    bool buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer);
 
     BuildContext &m_context;
     NodeIndex m_node;
@@ -144,7 +144,14 @@ bool EffectBuilder::addClip(LayerEffects *layer)
     return buildClip(clip, &layer->clip);
 }
 
-bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
+// Whether the alpha of a mask counts, by the element that is masked and by the mask itself.
+bool isAlphaMask(MaskMode mode, const ComputedStyle &mask)
+{
+    const bool own = mask.effects && mask.effects->alphaMask;
+    return mode == MaskMode::Alpha || (mode == MaskMode::MatchSource && own);
+}
+
+bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer)
 {
     if (!OpenReference::isAllowed(m_context, mask))
         return false;
@@ -164,14 +171,14 @@ bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
     region->region.addRect(area);
     region->regionToDocument = m_space;
     layer->masks = true;
-    layer->alphaMask = facts->style.effects && facts->style.effects->alphaMask;
+    layer->alphaMask = isAlphaMask(mode, facts->style);
     layer->linearMask = facts->style.mixesLinear;
     layer->mask = buildContent(m_context, mask, facts, ContentUse::Drawing);
     if (layer->mask.isEmpty())
         return false;
     const auto &effects = facts->style.effects;
     const NodeIndex further = effects ? find(effects->mask, ElementKind::Mask) : noNode;
-    if (further != noNode && !buildMask(further, region.get()))
+    if (further != noNode && !buildMask(further, effects->maskMode, region.get()))
         return false;
     wrapInLayer(m_context, mask, region, &layer->mask);
     return true;
@@ -180,7 +187,7 @@ bool EffectBuilder::buildMask(NodeIndex mask, LayerEffects *layer)
 bool EffectBuilder::addMask(LayerEffects *layer)
 {
     const NodeIndex mask = find(m_facts->style.effects->mask, ElementKind::Mask);
-    return mask == noNode || buildMask(mask, layer);
+    return mask == noNode || buildMask(mask, m_facts->style.effects->maskMode, layer);
 }
 
 // Of a group only plain colours are known: it has no box of its own for others.

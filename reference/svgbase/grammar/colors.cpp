@@ -1,6 +1,7 @@
 #include "grammar/colors.h"
 
 #include "grammar/colorfunctions.h"
+#include "grammar/lengths.h"
 #include "grammar/numbers.h"
 
 namespace Svg {
@@ -118,6 +119,16 @@ std::optional<QColor> namedColor(QStringView name)
     return color;
 }
 
+// Numbers may be calculated (CSS Values 4 §10).
+std::optional<double> calculatedOpacity(QStringView text)
+{
+    const std::optional<Length> result = parseLength(text);
+    const bool percent = result && result->unit == Unit::Percent;
+    if (!result || result->plusEm != 0 || (percent ? result->plusUser != 0 : result->unit != Unit::User))
+        return std::nullopt;
+    return percent ? result->value / 100 : result->value + result->plusUser;
+}
+
 } // namespace
 
 std::optional<QColor> parseColor(QStringView text)
@@ -136,6 +147,10 @@ std::optional<QColor> parseColor(QStringView text)
 
 std::optional<double> parseOpacity(QStringView text)
 {
+    if (text.trimmed().startsWith(QLatin1String("calc("), Qt::CaseInsensitive)) {
+        const std::optional<double> result = calculatedOpacity(text);
+        return result ? std::optional<double>(qBound(0.0, *result, 1.0)) : std::nullopt;
+    }
     const Latin1Text bytes(text);
     Cursor cursor = bytes.cursor();
     double value = 0;

@@ -139,6 +139,9 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
     if (notes.rulesLeftOut)
         warn(node, {Message::TooManySelectorSteps,
                     QStringLiteral("Finding all rules of the element takes too long; some are left out.")});
+    // Their "fill" is no paint.
+    if (isAnimation(node.kind))
+        return;
     for (const RejectedValue &rejected : qAsConst(notes.rejected))
         warn(node, problemOf(rejected));
 }

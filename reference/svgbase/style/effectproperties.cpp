@@ -40,6 +40,12 @@ const Keyword<bool> isolations[] = {
     {QLatin1String("isolate"), true},
 };
 
+const Keyword<MaskMode> maskModes[] = {
+    {QLatin1String("match-source"), MaskMode::MatchSource},
+    {QLatin1String("alpha"), MaskMode::Alpha},
+    {QLatin1String("luminance"), MaskMode::Luminance},
+};
+
 const Keyword<bool> maskTypes[] = {
     {QLatin1String("luminance"), false},
     {QLatin1String("alpha"), true},
@@ -119,6 +125,19 @@ bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringV
         return false;
     if (knownEffects(style).*member != id)
         effectsOf(style).*member = id;
+    return true;
+}
+
+// The shorthand also sets the mode; its other parts make no difference to the mask of an element of SVG.
+bool applyMask(ComputedStyle &style, QStringView text)
+{
+    if (!applyReference(style, &EffectStyle::mask, text))
+        return false;
+    MaskMode mode = MaskMode::MatchSource;
+    const QStringView behind = text.mid(text.indexOf(QLatin1Char(')')) + 1).trimmed();
+    applyKeyword(mode, behind, maskModes);
+    if (knownEffects(style).maskMode != mode)
+        effectsOf(style).maskMode = mode;
     return true;
 }
 
@@ -266,7 +285,7 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
     case AttributeId::MarkerStart:
         return applyMarker(style, value, {&MarkerStyle::start});
     case AttributeId::Mask:
-        return applyReference(style, &EffectStyle::mask, value);
+        return applyMask(style, value);
     case AttributeId::MaskType:
         return applyEffectKeyword(style, &EffectStyle::alphaMask, value, maskTypes);
     case AttributeId::MixBlendMode:
@@ -333,6 +352,7 @@ void inheritEffectProperty(ComputedStyle &style, AttributeId property, const Com
         break;
     case AttributeId::Mask:
         inheritMember(style, &EffectStyle::mask, parent);
+        inheritMember(style, &EffectStyle::maskMode, parent);
         break;
     case AttributeId::MaskType:
         inheritMember(style, &EffectStyle::alphaMask, parent);

@@ -29,6 +29,9 @@ enum class BlendMode : quint8 {
     PlusLighter
 };
 
+/// What of a mask's picture counts: what its own element says, or one of both (CSS Masking 1 §7.2).
+enum class MaskMode : quint8 { MatchSource, Alpha, Luminance };
+
 enum class Overflow : quint8 { Unset, Visible, Hidden };
 
 /// Properties that few elements have and none inherits. Ids are empty where nothing is referred to.
@@ -40,6 +43,7 @@ struct EffectStyle : QSharedData
     /// The text of a shape that clips instead.
     QString clipShape;
     QString mask;
+    MaskMode maskMode = MaskMode::MatchSource;
     /// The text of a list of filter functions and references; empty for "none".
     QString filter;
     BlendMode blendMode = BlendMode::Normal;
