@@ -67,11 +67,15 @@ constexpr int askedFamilies = 1000;
 /// begin with the same character.
 constexpr int fonts = 100;
 constexpr int kerningPairs = 50000;
-constexpr int glyphsOfCharacter = 256;
+constexpr int glyphsOfCharacter = 128;
 /// Most characters that one glyph of a document's font stands for.
 constexpr int glyphCharacters = 64;
 /// Longest lists of names, languages or weights of a glyph or a font, characters.
 constexpr int glyphListCharacters = 256;
+/// Most characters and names that kerning knows one glyph by.
+constexpr int glyphNames = 8;
+/// Most languages that one glyph is for.
+constexpr int glyphLanguages = 4;
 /// Most shapes inside of one glyph.
 constexpr int glyphShapes = 1000;
 /// Most outline elements of all glyphs that a document's texts show in fonts of its own.

@@ -149,3 +149,10 @@ def text_broken_into_lines(n):
 def text_font_and_system_in_turns(n):
     return svg(font('<glyph unicode="a" d="M0 0H9V9"/>') +
                f'<text y="50" font-family="F, sans-serif">{"ab" * (45000 // n)}</text>')
+
+
+@document
+def text_font_of_many_languages(n):
+    tags = ",".join(f"x{i}" for i in range(100))
+    glyphs = f'<glyph unicode="a" lang="{tags}" d="M0 0H9V9"/>' * (1000 // n)
+    return svg(font(glyphs) + f'<text y="50" font-family="F, sans-serif" xml:lang="y">{"a" * (90000 // n)}</text>')

@@ -46,6 +46,9 @@ ArabicForm formNamed(const QString &name)
 const QString characterKey = QStringLiteral("u");
 const QString nameKey = QStringLiteral("g");
 
+/// Most characters of a range that kerning lists.
+constexpr int longestRange = 256;
+
 bool isCodeRange(const QString &text)
 {
     return text.trimmed().startsWith(QLatin1String("U+"), Qt::CaseInsensitive);
@@ -62,7 +65,7 @@ QStringList keysOfRange(const QString &range)
     const uint to = known ? last.toUInt(&known, 16) : 0;
     QStringList keys;
     for (uint code = from; known && code <= qMin(to, uint(QChar::LastValidCodePoint)); ++code) {
-        if (keys.size() >= Limits::glyphsOfCharacter)
+        if (keys.size() >= longestRange)
             break;
         keys.append(characterKey + QString::fromUcs4(&code, 1));
     }
@@ -70,7 +73,7 @@ QStringList keysOfRange(const QString &range)
 }
 
 // What one side of a pair lists: characters, or names of glyphs.
-QStringList keysOf(const QString &characters, const QString &names)
+QStringList sideOf(const QString &characters, const QString &names)
 {
     QStringList keys;
     for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
@@ -84,22 +87,25 @@ QStringList keysOf(const QString &characters, const QString &names)
     return keys;
 }
 
-bool speaks(const QString &language, const QString &tag)
+bool speaks(QStringView language, const QString &tag)
 {
-    return language.compare(tag, Qt::CaseInsensitive) == 0 ||
-           language.startsWith(tag + QLatin1Char('-'), Qt::CaseInsensitive);
+    if (!language.startsWith(tag, Qt::CaseInsensitive))
+        return false;
+    return language.size() == tag.size() || language.at(tag.size()) == QLatin1Char('-');
 }
 
-bool isForLanguage(const QString &tags, const QString &language)
+QStringList tagsOf(const QString &list)
 {
-    const QStringList list = tags.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    return list.isEmpty() || std::any_of(list.begin(), list.end(),
-                                         [&](const QString &tag) { return speaks(language, tag.trimmed()); });
+    QStringList tags = list.split(QLatin1Char(','), Qt::SkipEmptyParts).mid(0, Limits::glyphLanguages);
+    for (QString &tag : tags)
+        tag = tag.trimmed();
+    return tags;
 }
 
-QStringList kerningKeys(const FontGlyph &glyph)
+bool isForLanguage(const QStringList &tags, QStringView language)
 {
-    return QStringList(characterKey + glyph.characters) + keysOf(QString(), glyph.names);
+    return tags.isEmpty() ||
+           std::any_of(tags.begin(), tags.end(), [&](const QString &tag) { return speaks(language, tag); });
 }
 
 QString textOf(const Node &node, const char *name)
@@ -137,14 +143,17 @@ DocumentFont::DocumentFont(const Tree &tree, NodeIndex index)
                         numberOf(font, "vert-origin-y", m_measures.ascent)};
     for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
         const ElementKind kind = tree.node(at).kind;
+        if (kind == ElementKind::HorizontalKerning)
+            readKerning(tree.node(at), &m_horizontalKerning);
+        else if (kind == ElementKind::VerticalKerning)
+            readKerning(tree.node(at), &m_verticalKerning);
+    }
+    for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
+        const ElementKind kind = tree.node(at).kind;
         if (kind == ElementKind::Glyph)
             addGlyph(readGlyph(tree, at));
         else if (kind == ElementKind::MissingGlyph && m_missing.node == noNode)
             m_missing = readGlyph(tree, at);
-        else if (kind == ElementKind::HorizontalKerning)
-            readKerning(tree.node(at), &m_horizontalKerning);
-        else if (kind == ElementKind::VerticalKerning)
-            readKerning(tree.node(at), &m_verticalKerning);
     }
 }
 
@@ -183,8 +192,8 @@ FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index) const
     FontGlyph glyph;
     glyph.node = index;
     glyph.characters = textOf(node, "unicode").left(Limits::glyphCharacters);
-    glyph.names = textOf(node, "glyph-name").left(Limits::glyphListCharacters);
-    glyph.languages = textOf(node, "lang").left(Limits::glyphListCharacters);
+    glyph.languages = tagsOf(textOf(node, "lang").left(Limits::glyphListCharacters));
+    glyph.kerningKeys = knownKeys(glyph, textOf(node, "glyph-name").left(Limits::glyphListCharacters));
     glyph.form = formNamed(textOf(node, "arabic-form"));
     glyph.data = node.attributes.value(AttributeId::D);
     if (glyph.data.isEmpty() && node.firstChild != noNode)
@@ -244,10 +253,10 @@ const FontGlyph *DocumentFont::glyphOf(NodeIndex node) const
 void DocumentFont::readKerning(const Node &node, KerningTable *table)
 {
     const double value = numberOf(node, "k", 0);
-    const QStringList firsts = keysOf(textOf(node, "u1"), textOf(node, "g1"));
-    const QStringList seconds = keysOf(textOf(node, "u2"), textOf(node, "g2"));
-    for (const QString &first : firsts) {
-        for (const QString &second : seconds) {
+    const QVector<int> firsts = keysOf(sideOf(textOf(node, "u1"), textOf(node, "g1")));
+    const QVector<int> seconds = keysOf(sideOf(textOf(node, "u2"), textOf(node, "g2")));
+    for (const int first : firsts) {
+        for (const int second : seconds) {
             if (table->size() >= Limits::kerningPairs)
                 return;
             if (!table->contains({first, second}))
@@ -256,15 +265,36 @@ void DocumentFont::readKerning(const Node &node, KerningTable *table)
     }
 }
 
+QVector<int> DocumentFont::keysOf(const QStringList &names)
+{
+    QVector<int> keys;
+    for (const QString &name : names) {
+        if (!m_keys.contains(name))
+            m_keys.insert(name, m_keys.size());
+        keys.append(m_keys.value(name));
+    }
+    return keys;
+}
+
+QVector<int> DocumentFont::knownKeys(const FontGlyph &glyph, const QString &names) const
+{
+    QVector<int> keys;
+    for (const QString &name : QStringList(characterKey + glyph.characters) + sideOf(QString(), names)) {
+        const auto known = m_keys.constFind(name);
+        if (known != m_keys.constEnd() && keys.size() < Limits::glyphNames)
+            keys.append(*known);
+    }
+    return keys;
+}
+
 double DocumentFont::kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const
 {
     const KerningTable &table = vertical ? m_verticalKerning : m_horizontalKerning;
     if (table.isEmpty())
         return 0;
     Kerning found{Limits::kerningPairs, 0};
-    const QStringList seconds = kerningKeys(second);
-    for (const QString &from : kerningKeys(first)) {
-        for (const QString &to : seconds) {
+    for (const int from : first.kerningKeys) {
+        for (const int to : second.kerningKeys) {
             const Kerning pair = table.value({from, to}, found);
             if (pair.order < found.order)
                 found = pair;

@@ -3,6 +3,7 @@
 #include "text/fontmeasures.h"
 #include "tree/tree.h"
 
+#include <QtCore/QStringList>
 #include <QtGui/QPainterPath>
 
 namespace Svg {
@@ -16,9 +17,10 @@ struct FontGlyph
     NodeIndex node = noNode;
     /// What it stands for; empty for a glyph that only its name reaches.
     QString characters;
-    /// Names separated by commas, and language tags that it is for.
-    QString names;
-    QString languages;
+    /// Language tags that it is for; empty for one that is for all.
+    QStringList languages;
+    /// What pairs of kerning know it by.
+    QVector<int> kerningKeys;
     /// Path data, or what the shapes inside of it amount to; y points up.
     QString data;
     QPainterPath shapes;
@@ -70,12 +72,15 @@ private:
         int order;
         double value;
     };
-    using KerningTable = QHash<QPair<QString, QString>, Kerning>;
+    /// By the keys of both sides.
+    using KerningTable = QHash<QPair<int, int>, Kerning>;
 
     void readFace(const Node &face);
     FontGlyph readGlyph(const Tree &tree, NodeIndex node) const;
     void addGlyph(const FontGlyph &glyph);
-    static void readKerning(const Node &node, KerningTable *table);
+    void readKerning(const Node &node, KerningTable *table);
+    QVector<int> keysOf(const QStringList &names);
+    QVector<int> knownKeys(const FontGlyph &glyph, const QString &names) const;
     static bool isAllowed(const FontGlyph &glyph, const GlyphPlace &place);
 
     double m_unitsPerEm = 1000;
@@ -89,6 +94,8 @@ private:
     FontGlyph m_missing;
     /// Places of glyphs by the first unit of their characters.
     QHash<QChar, QVector<int>> m_byCharacter;
+    /// Of characters and names that kerning speaks of.
+    QHash<QString, int> m_keys;
     KerningTable m_horizontalKerning;
     KerningTable m_verticalKerning;
     mutable QHash<NodeIndex, QPainterPath> m_outlines;

@@ -16,6 +16,9 @@ namespace {
 constexpr int wrongSlope = 10000;
 constexpr int wrongVariant = 100000;
 
+/// Weights that a face tells apart.
+constexpr int mostWeights = 9;
+
 QString attribute(const Tree &tree, NodeIndex node, const char *name)
 {
     return tree.node(node).attributes.value(QString::fromLatin1(name));
@@ -33,12 +36,11 @@ QVector<int> weightsOf(const QStringList &words)
 {
     QVector<int> weights;
     for (const QString &word : words) {
-        if (word == QLatin1String("normal"))
-            weights.append(400);
-        else if (word == QLatin1String("bold"))
-            weights.append(700);
-        else if (word.toInt() > 0)
-            weights.append(word.toInt());
+        const int weight = word == QLatin1String("normal") ? 400
+                           : word == QLatin1String("bold") ? 700
+                                                           : word.toInt();
+        if (weight > 0 && weights.size() < mostWeights && !weights.contains(weight))
+            weights.append(weight);
     }
     return weights;
 }
