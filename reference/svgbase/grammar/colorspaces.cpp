@@ -12,7 +12,7 @@ namespace {
 
 using Matrix = double[3][3];
 
-// The matrices are those of CSS Color 4 §10 and §18.
+// The matrices are those of CSS Color 4, chapters on predefined colour spaces and on conversions.
 
 constexpr Matrix srgbOfXyz = {
     {3.2409699419045226, -1.537383177570094, -0.4986107602930034},
@@ -64,7 +64,7 @@ constexpr Matrix srgbOfCones = {
     {-0.0041960761386756, -0.7034186179359362, 1.7076146940746117},
 };
 
-/// D50 as CSS Color 4 §10.7 has it.
+/// The white point D50.
 constexpr ColorComponents white50{0.3457 / 0.3585, 1, (1 - 0.3457 - 0.3585) / 0.3585};
 
 ColorComponents operator*(const Matrix &m, const ColorComponents &v)

@@ -141,7 +141,7 @@ bool isTextElement(ElementKind kind)
     return kind == ElementKind::Text || isTextPart(kind);
 }
 
-// Inherited as the keyword that it is (CSS Color 4 §9.1).
+// Inherited as the keyword that it is (CSS Color 4, the "currentcolor" keyword).
 void followColor(const QColor &color, Paint *paint)
 {
     if (paint->followsColor)

@@ -7,10 +7,15 @@ namespace {
 
 constexpr int fields = 3;
 
-// A source names its section.
+// A source names its section, by number or by its title in quotes.
+bool namesSection(const QString &source)
+{
+    return source.contains(QChar(0xa7)) || source.count(QLatin1Char('"')) == 2;
+}
+
 bool isComplete(const QStringList &parts)
 {
-    return parts.size() == fields && !parts.at(0).trimmed().isEmpty() && parts.at(1).contains(QChar(0xa7)) &&
+    return parts.size() == fields && !parts.at(0).trimmed().isEmpty() && namesSection(parts.at(1)) &&
            !parts.at(2).trimmed().isEmpty();
 }
 
