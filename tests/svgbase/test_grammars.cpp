@@ -1,4 +1,5 @@
 #include "grammar/colors.h"
+#include "grammar/fontfamilies.h"
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
@@ -6,6 +7,7 @@
 #include "grammar/styleattribute.h"
 #include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
+#include "inputlimits.h"
 
 #include <QtTest>
 
@@ -56,7 +58,43 @@ private slots:
     void aspectRatio_data();
     void aspectRatio();
     void pointsStopAtTheFirstError();
+    void fontFamilies_data();
+    void fontFamilies();
+    void fontFamiliesAreLimited();
 };
+
+void TestGrammars::fontFamilies_data()
+{
+    QTest::addColumn<QString>("list");
+    // Quoted names stand in brackets here.
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("one") << "Serif" << QStringList{"Serif"};
+    QTest::newRow("several") << "A, B ,C" << QStringList{"A", "B", "C"};
+    QTest::newRow("white space within") << " Two   Words\t, B" << QStringList{"Two Words", "B"};
+    QTest::newRow("quoted") << "'A  B',\"C\"" << QStringList{"[A  B]", "[C]"};
+    QTest::newRow("comma in quotes") << "'A, B', C" << QStringList{"[A, B]", "C"};
+    QTest::newRow("other quote in quotes") << "\"it's\", C" << QStringList{"[it's]", "C"};
+    QTest::newRow("never closed") << "'A, B" << QStringList{"[A, B]"};
+    QTest::newRow("empty names") << ",A,,'',B," << QStringList{"A", "B"};
+    QTest::newRow("nothing") << "" << QStringList();
+}
+
+void TestGrammars::fontFamilies()
+{
+    QFETCH(QString, list);
+    QFETCH(QStringList, expected);
+    QStringList names;
+    const QVector<FamilyName> parsed = parseFontFamilies(list);
+    for (const FamilyName &name : parsed)
+        names.append(name.quoted ? '[' + name.text + ']' : name.text);
+    QCOMPARE(names, expected);
+}
+
+void TestGrammars::fontFamiliesAreLimited()
+{
+    QCOMPARE(parseFontFamilies(QString("a,").repeated(Limits::listedFamilies)).size(), Limits::listedFamilies);
+    QCOMPARE(parseFontFamilies(QString("a,").repeated(Limits::listedFamilies + 1)).size(), Limits::listedFamilies);
+}
 
 void TestGrammars::number_data()
 {
