@@ -17,7 +17,7 @@ import subprocess
 import sys
 import tempfile
 
-from hostile import outlines, references, structures, styles, texts  # noqa: F401
+from hostile import crowds, outlines, references, structures, styles, texts  # noqa: F401
 from hostile.document import documents, expected
 
 MEMORY_AIM_MIB = 512

@@ -26,6 +26,10 @@ constexpr int pathSegments = 32767;
 constexpr int styleRules = 20000;
 /// Most classes of one element that rules are looked for by.
 constexpr int classes = 256;
+/// Most custom properties that all elements of a document declare, that each may declare in any case, and the root.
+constexpr int customProperties = 4000000;
+constexpr int leastCustomProperties = 20;
+constexpr int rootCustomProperties = 10000;
 /// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
 constexpr int selectorSteps = 20000000;
 constexpr int leastSelectorSteps = 2000;
@@ -51,6 +55,9 @@ constexpr int usedOutlineElements = 1000000;
 constexpr int usedCharacters = 10000000;
 /// Most characters of one document that are set; the rest is left out.
 constexpr int textCharacters = 100000;
+/// Most "tref" elements of a document, and most characters that one shows.
+constexpr int trefs = 100;
+constexpr int trefCharacters = 1000;
 /// Most "textPath" elements of a document, and most elements of the path that one follows.
 constexpr int textPaths = 500;
 constexpr int textPathElements = 4000;
@@ -104,6 +111,10 @@ constexpr int boundsVisits = 1000000;
 constexpr int effectDepth = 16;
 /// Most outlines of one drawing that keep what painters make of them for the next.
 constexpr int keptOutlines = 10000;
+/// Most elements of outlines that one drawing keeps mapped; others are mapped whenever they are painted.
+constexpr int keptElements = 500000;
+/// Elements of the outline of one part of a text; longer parts are painted in pieces.
+constexpr int textRunElements = 200000;
 /// Most work that one drawing does on outlines, about in nanoseconds, and as much more for every pixel of its
 /// target; what comes when it is used up is not painted.
 constexpr double paintedWork = 1.5e9;

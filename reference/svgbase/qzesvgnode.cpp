@@ -122,7 +122,7 @@ bool QZeSvgNode::isVisible() const
         return false;
     const FactsPointer facts = d->document->content.facts(d->index);
     const bool structure = isStructure(d->document->content.tree().node(d->index).kind);
-    return facts->style.displayed && (structure || facts->style.visible);
+    return facts->style->displayed && (structure || facts->style->visible);
 }
 
 bool QZeSvgNode::canMoveHorizontally() const

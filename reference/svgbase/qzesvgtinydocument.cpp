@@ -102,7 +102,7 @@ Qt::PenStyle QZeSvgTinyDocument::getAllStrokeStyle() const
     if (record->lastSet.strokeStyle)
         return *record->lastSet.strokeStyle;
     const NodeIndex index = record->firstStroked();
-    const bool dashed = index != noNode && !record->content.facts(index)->style.strokeDasharray.isEmpty();
+    const bool dashed = index != noNode && !record->content.facts(index)->style->strokeDasharray.isEmpty();
     return dashed ? Qt::CustomDashLine : Qt::SolidLine;
 }
 
@@ -112,7 +112,7 @@ double QZeSvgTinyDocument::getAllStrokeWidth() const
     if (record->lastSet.strokeWidth)
         return *record->lastSet.strokeWidth;
     const NodeIndex index = record->firstStroked();
-    return index == noNode ? 1 : record->content.facts(index)->style.strokeWidth;
+    return index == noNode ? 1 : record->content.facts(index)->style->strokeWidth;
 }
 
 QBrush QZeSvgTinyDocument::getAllFillBrush() const

@@ -41,6 +41,7 @@ private slots:
     void externalEntitiesAreNotRead();
     void hundredThousandNestedGroupsAreSurvived();
     void textLengthIsLimited();
+    void textLengthIsLimitedInEveryEncoding();
     void attributeCountIsLimitedInsideEntities();
     void attributesInCommentsAndDataDoNotCount();
     void crowdedTagsAreFoundBehindWhatLooksLikeQuotes();
@@ -102,6 +103,22 @@ void TestBadInput::textLengthIsLimited()
     const int room = Limits::textBytes - head.size() - tail.size();
     QVERIFY(failure(head + QByteArray(room, ' ') + tail).isEmpty());
     QVERIFY(failure(head + QByteArray(room + 1, ' ') + tail).contains(QString::number(Limits::textBytes)));
+}
+
+// A letter of one byte takes two in UTF-8, and one of UTF-16 two that would be one.
+void TestBadInput::textLengthIsLimitedInEveryEncoding()
+{
+    const QByteArray head = "<?xml version='1.0' encoding='ISO-8859-1'?><svg><!--";
+    const QByteArray tail = "--></svg>";
+    const int room = (Limits::textBytes - head.size() - tail.size()) / 2;
+    QVERIFY(failure(head + QByteArray(room, '\xfc') + tail).isEmpty());
+    QVERIFY(failure(head + QByteArray(room + 1, '\xfc') + tail).contains(QString::number(Limits::textBytes)));
+    const auto wide = [](int characters) {
+        const QString text = "<svg><!--" + QString(characters - 18, ' ') + "--></svg>";
+        return QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
+    };
+    QVERIFY(failure(wide(Limits::textBytes / 2)).isEmpty());
+    QVERIFY(failure(wide(Limits::textBytes / 2 + 1)).contains(QString::number(Limits::textBytes)));
 }
 
 void TestBadInput::attributeCountIsLimitedInsideEntities()

@@ -169,12 +169,13 @@ void TestImages::hugeImageIsLeftOutWithAMessage()
 void TestImages::imagesOfADrawingAreBoundedTogether()
 {
     // Three images of a third and a half of what is allowed: the third of them is left out.
-    const QString tall = base64Uri(encoded(plain(QSize(1024, 25 * 1024), Qt::red), "PNG"));
     QString content;
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
+        const QString tall = base64Uri(encoded(plain(QSize(1024, 25 * 1024 + i), Qt::red), "PNG"));
         content += QStringLiteral("<image x='%1' width='10' height='100' preserveAspectRatio='none' href='%2'/>")
                        .arg(i * 20)
                        .arg(tall);
+    }
     const QImage image = drawnContent(content);
     QVERIFY(!image.isNull());
     QCOMPARE(image.pixelColor(5, 50), QColor(Qt::red));

@@ -82,8 +82,26 @@ QString rulesOf(int rules)
 // More elements than selectorSteps / leastSelectorSteps leave each of them the least number of steps.
 QString selectorsOf(int selectors)
 {
-    return "<style>" + QString("[a]{fill:red}").repeated(selectors - 1) + "*{fill:#0f0}</style>" + rect("") +
+    return "<style>" + QString("rect[a]{fill:red}").repeated(selectors - 1) + "rect{fill:#0f0}</style>" + rect("") +
            QString("<desc/>").repeated(Limits::selectorSteps / Limits::leastSelectorSteps);
+}
+
+QString classesOf(int classes)
+{
+    return "<style>.c{fill:#0f0}</style>" + rect("class='" + QString("x ").repeated(classes - 1) + "c'");
+}
+
+/// One that begins and ends every second.
+QString recurring(int times)
+{
+    return "<rect><animate attributeName='x' to='1' dur='.5s' begin='" + numbered("#Ns;", times - 1) +
+           QString("%1s'/></rect>").arg(times - 1);
+}
+
+QString motion(int elements)
+{
+    return "<rect x='-200' width='94' height='94' fill='#0f0'><animateMotion dur='9s' path='M200 0" +
+           QString("h1h-1").repeated((elements - 1) / 2) + (elements % 2 ? "" : "h1") + "'/></rect>";
 }
 
 QString patternsOf(int patterns)
@@ -141,6 +159,12 @@ QString glyphsOf(int characters)
     return "<font horiz-adv-x='1'><font-face font-family='Long'/><glyph unicode='a' d='M0 0" +
            QString("h1").repeated(999) + "'/></font><text y='9' font-size='.001' font-family='Long'>" +
            QString(characters, 'a') + "</text>" + rect();
+}
+
+QString trefsOf(int trefs)
+{
+    return "<text id='t' font-size='.001'>i</text>" +
+           QString("<text font-size='.001'><tref href='#t'/></text>").repeated(trefs) + rect();
 }
 
 QString textLengthsOf(int lengths)
@@ -307,6 +331,10 @@ class TestLimits : public QObject
 private slots:
     void drawUpToTheLimit_data();
     void drawUpToTheLimit();
+    void whatComesLateInALongDrawingLooksTheSame();
+    void pixelsOpenAtATimeAreLimited();
+    void eventsOfAnimationsAreLimited();
+    void pathsOfMotionsAreLimited();
     void messagesNameTheElement();
     void firstOfEveryKindIsKeptAmongManyMessages();
     void messagesOfADrawingGoWhenItsCauseGoes();
@@ -345,6 +373,7 @@ void TestLimits::drawUpToTheLimit_data()
     addRow("style rules", Message::TooManyStyleRules, rulesOf(Limits::styleRules), rulesOf(Limits::styleRules + 1));
     addRow("selector steps", Message::TooManySelectorSteps, selectorsOf(Limits::leastSelectorSteps - 1),
            selectorsOf(Limits::leastSelectorSteps + 1));
+    addRow("classes", Message::TooManySelectorSteps, classesOf(Limits::classes), classesOf(Limits::classes + 1));
     addRow("patterns", Message::TooManyPatterns, patternsOf(Limits::patterns), patternsOf(Limits::patterns + 1));
     const int largePatterns = int(Limits::patternsPixels / Limits::patternPixels);
     addRow("pixels of patterns", Message::TooManyPatterns, largePatternsOf(largePatterns),
@@ -365,6 +394,7 @@ void TestLimits::drawUpToTheLimit_data()
            textOf(Limits::textCharacters + 1), true);
     addRow("text paths", Message::TooManyTextPaths, textPathsOf(Limits::textPaths),
            textPathsOf(Limits::textPaths + 1), true);
+    addRow("text references", Message::TooManyCharacters, trefsOf(Limits::trefs), trefsOf(Limits::trefs + 1), true);
     addRow("elements of a text path", Message::TextPathTooLong, textPathOf(Limits::textPathElements),
            textPathOf(Limits::textPathElements + 1), true);
     addRow("text lengths", Message::TooManyTextLengths, textLengthsOf(Limits::textLengths),
@@ -413,6 +443,67 @@ void TestLimits::drawUpToTheLimit()
         const bool isGreen = image.pixelColor(probe) == QColor(0, 255, 0);
         QCOMPARE(isGreen, isBeyond ? shown : true);
         QCOMPARE(has(document->messages(), Message::Code(code)), isBeyond);
+    }
+}
+
+// Outlines beyond those that are kept mapped are mapped when they are painted.
+void TestLimits::whatComesLateInALongDrawingLooksTheSame()
+{
+    const QString last =
+        "<g transform='rotate(20)skewX(9)'><circle cx='40' cy='30' r='20' fill='#0f0' stroke='red' "
+        "stroke-dasharray='3 1'/></g><clipPath id='c'><circle cx='70' cy='70' r='20'/></clipPath>"
+        "<rect x='50' y='50' width='50' height='50' clip-path='url(#c)' fill='url(#g)'/>"
+        "<linearGradient id='g'><stop stop-color='red'/><stop offset='1'/></linearGradient>"
+        "<path d='M5 90q20-30 40 0' fill='none' stroke='#00f' vector-effect='non-scaling-stroke'/>";
+    const QString many = QString("<path d='M0 0h1v1z'/>").repeated(Limits::keptElements / 4);
+    const DocumentPointer document = loadContent(many + last);
+    const QImage expected = drawnContent("<path d='M0 0h1v1z'/>" + last);
+    const QImage image = drawn(*document);
+    QVERIFY(document->messages().isEmpty());
+    // The many lie in the first pixel, on top of each other.
+    const QRect beside(1, 1, 99, 99);
+    QCOMPARE(image.copy(beside), expected.copy(beside));
+}
+
+// Groups inside each other, each a picture of 941 × 941 pixels: 940 and one for smoothing.
+void TestLimits::pixelsOpenAtATimeAreLimited()
+{
+    const int fitting = int(Limits::openLayerPixels / (941.0 * 941));
+    for (const bool isBeyond : {false, true}) {
+        const DocumentPointer document = loadContent(deeplyIsolated(isBeyond ? fitting + 1 : fitting));
+        const QImage image = drawn(*document, QSize(1000, 1000));
+        QCOMPARE(image.pixelColor(10 * probe) == QColor(0, 255, 0), !isBeyond);
+        QCOMPARE(has(document->messages(), Message::TooManyLayerPixels), isBeyond);
+    }
+}
+
+// The last of all events turns a square green.
+void TestLimits::eventsOfAnimationsAreLimited()
+{
+    const QString square =
+        "<rect width='94' height='94'><set attributeName='fill' to='#0f0' begin='2000s'/></rect>";
+    const int mostBegins = Limits::animationConditions;
+    const int animations = Limits::animationEvents / (2 * mostBegins);
+    const QString others = recurring(mostBegins).repeated(animations - 1);
+    for (const bool isBeyond : {false, true}) {
+        const DocumentPointer document =
+            loadContent(square + others + recurring(mostBegins - 1) + (isBeyond ? recurring(2) : QString()));
+        document->setAnimationTime(2500);
+        QCOMPARE(drawn(*document).pixelColor(probe) == QColor(0, 255, 0), !isBeyond);
+        QCOMPARE(has(document->messages(), Message::TooManyAnimationEvents), isBeyond);
+    }
+}
+
+// A square that stands outside is moved into the picture.
+void TestLimits::pathsOfMotionsAreLimited()
+{
+    const int last = Limits::motionElements - 4 * 20000;
+    for (const bool isBeyond : {false, true}) {
+        const DocumentPointer document =
+            loadContent(motion(20000).repeated(4) + motion(isBeyond ? last + 1 : last).replace("#0f0", "#00f"));
+        document->setAnimationTime(0);
+        QCOMPARE(drawn(*document).pixelColor(probe), isBeyond ? QColor(0, 255, 0) : QColor(0, 0, 255));
+        QCOMPARE(has(document->messages(), Message::MotionPathsTooLong), isBeyond);
     }
 }
 

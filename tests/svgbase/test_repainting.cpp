@@ -1,5 +1,6 @@
 #include "document/documentprivate.h"
 #include "draw/displaylist.h"
+#include "inputlimits.h"
 #include "svgdrawing.h"
 
 #include <QtTest>
@@ -27,6 +28,7 @@ private slots:
     void largeChangeRepaintsEverything();
     void changeOfPlaceRepaintsEverything();
     void sameStyleAgainChangesNothing();
+    void whatComesLateInALongDrawingIsRepaintedToo();
     void paintingLeavesOpacityAsItWas();
 };
 
@@ -213,6 +215,16 @@ void TestRepainting::sameStyleAgainChangesNothing()
     QCOMPARE(content.revision(), before);
     document->setAllStrokeWidth(4);
     QVERIFY(content.revision() != before);
+}
+
+// More outlines than are kept mapped: where one was and where it is are repainted, nothing in between.
+void TestRepainting::whatComesLateInALongDrawingIsRepaintedToo()
+{
+    const QString many = QString("<path d='M0 0h1v1z'/>").repeated(Limits::keptElements / 4);
+    Drawing drawing(many + twoRects);
+    drawing.set("a", "x", "40");
+    QCOMPARE(drawing.repainted(), (Rects{QRect(8, 8, 14, 14), QRect(38, 8, 14, 14)}));
+    QCOMPARE(drawing.repainted(), Rects());
 }
 
 void TestRepainting::paintingLeavesOpacityAsItWas()

@@ -60,23 +60,23 @@ NodeIndex ModelReader::targetOf(NodeIndex index) const
 
 LengthContext lengthsOf(const Facts &facts)
 {
-    return {facts.viewport, facts.style.font.size};
+    return {facts.viewport, facts.style->font.size};
 }
 
 ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
 {
     const FactsPointer facts = m_document.facts(target);
-    ValueContext context = valueContext(name, lengthsOf(*facts), facts->style.color);
+    ValueContext context = valueContext(name, lengthsOf(*facts), facts->style->color);
     const AttributeId id = attributeId(name);
     if (isProperty(id) && facts->parent)
-        context.inherited = propertyText(facts->parent->style, id);
+        context.inherited = propertyText(*facts->parent->style, id);
     return context;
 }
 
 // Style may give an attribute's value in its place; only style can hide that.
 bool ModelReader::isStyled(NodeIndex target, AttributeId id) const
 {
-    const QVector<Attribute> &styled = m_document.facts(target)->style.attributes;
+    const QVector<Attribute> &styled = m_document.facts(target)->style->attributes;
     return std::any_of(styled.begin(), styled.end(),
                        [id](const Attribute &attribute) { return attribute.id == id; });
 }
@@ -85,12 +85,12 @@ QString ModelReader::baseOf(NodeIndex target, const QString &name) const
 {
     const AttributeId id = attributeId(name);
     if (isProperty(id)) {
-        const QString computed = propertyText(m_document.facts(target)->style, id);
+        const QString computed = propertyText(*m_document.facts(target)->style, id);
         if (!computed.isEmpty())
             return computed;
     }
     const Node &node = m_tree.node(target);
-    const QString own = isStyled(target, id) ? styledAttribute(node, m_document.facts(target)->style, id)
+    const QString own = isStyled(target, id) ? styledAttribute(node, *m_document.facts(target)->style, id)
                                              : node.attributes.value(name);
     return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
 }

@@ -64,7 +64,7 @@ KeptFacts Document::keptFacts(NodeIndex index, const FactsPointer &above) const
     const quint8 change = m_changes.value(index);
     const bool sameGeometry = !(change & GeometryChange);
     // Rules may look at any attribute.
-    const bool sameStyle = !(change & StyleChange) && facts->parent == above && !m_tree.rules();
+    const bool sameStyle = !(change & StyleChange) && facts->inheritsAlike(above) && !m_tree.rules();
     return {facts.data(), sameStyle, sameGeometry, sameGeometry};
 }
 
@@ -75,7 +75,7 @@ QRectF Document::visibleBounds(NodeIndex top)
     walkDrawing(*this, top, [&](NodeIndex, const FactsPointer &facts) {
         if (!facts->displayed)
             return false;
-        if (facts->hasGeometry && facts->style.visible) {
+        if (facts->hasGeometry && facts->style->visible) {
             bounds = first ? facts->bounds : bounds | facts->bounds;
             first = false;
         }
@@ -115,7 +115,7 @@ void Document::setWindow(const QSizeF &size)
     const QSizeF before = rootViewport(m_tree.node(rootNode), m_tree.window());
     settle();
     const bool hasTransform =
-        !styledAttribute(m_tree.node(rootNode), facts(rootNode)->style, AttributeId::Transform).isEmpty();
+        !styledAttribute(m_tree.node(rootNode), *facts(rootNode)->style, AttributeId::Transform).isEmpty();
     m_tree.setWindow(size);
     if (rootViewport(m_tree.node(rootNode), size) == before && !hasTransform)
         return;

@@ -185,10 +185,10 @@ void Document::setNumericAttribute(NodeIndex index, const QString &name, double 
 void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
 {
     const FactsPointer before = facts(index);
-    QRectF box = ellipseBox(m_tree.node(index), before->style, before->viewport);
+    QRectF box = ellipseBox(m_tree.node(index), *before->style, before->viewport);
     adjustBox(box, side, value);
     if (m_tree.node(index).attributes.value(side) == numberText(value) &&
-        box == ellipseBox(m_tree.node(index), before->style, before->viewport))
+        box == ellipseBox(m_tree.node(index), *before->style, before->viewport))
         return;
     Node &node = m_tree.edit(index);
     // Kept so that the value reads back as it was written.

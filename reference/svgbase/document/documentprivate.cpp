@@ -171,7 +171,7 @@ Outline DocumentPrivate::drawnOutline(NodeIndex index)
     if (facts->outlines.isEmpty())
         return Outline();
     const StyleOverride *override = content.styleOverride(index);
-    return override ? overridden(facts->outlines.first(), facts->style, *override) : facts->outlines.first();
+    return override ? overridden(facts->outlines.first(), *facts->style, *override) : facts->outlines.first();
 }
 
 void DocumentPrivate::readViewBox()

@@ -116,11 +116,8 @@ FactsPointer Walk::factsOf(NodeIndex node, const Level &level) const
     if (!level.used)
         return m_document.factsBelow(node, level.facts);
     const Resolver resolver = m_document.resolver();
-    const ElementKind kind = m_document.tree().node(node).kind;
-    if (kind != ElementKind::Image && !hasGeometry(kind))
-        return resolver.resolve(node, level.facts);
     const FactsPointer own = m_document.facts(node);
-    return resolver.resolve(node, level.facts, {own.data(), false, false, true});
+    return resolver.resolve(node, level.facts, {own.data(), own->inheritsAlike(level.facts), true, true});
 }
 
 void Walk::visit(NodeIndex node, const FactsPointer &facts, bool used)

@@ -25,7 +25,7 @@ QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages)
 void settleStylingFlags(Prototype::Settled *settled)
 {
     for (NodeIndex at = 0; at < settled->tree.size(); ++at) {
-        const ComputedStyle &style = settled->facts.at(at)->style;
+        const ComputedStyle &style = *settled->facts.at(at)->style;
         const bool takesFill = style.fill.kind != Paint::None;
         const bool takesStroke = style.stroke.kind != Paint::None;
         if (takesFill && takesStroke)

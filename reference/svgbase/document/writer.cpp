@@ -108,7 +108,7 @@ void Writer::writeStyle(NodeIndex index)
     const StyleOverride *override = m_document.content.styleOverride(styledNode(index));
     if (override) {
         const FactsPointer facts = m_document.content.facts(index);
-        const QString added = overrideText(*override, facts->style, &m_paints);
+        const QString added = overrideText(*override, *facts->style, &m_paints);
         style += (style.isEmpty() ? QString() : QStringLiteral(";")) + added;
     }
     if (!style.isEmpty())

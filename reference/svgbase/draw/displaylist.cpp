@@ -4,6 +4,7 @@
 #include "draw/itempainter.h"
 #include "draw/listbuilder.h"
 #include "draw/listdifference.h"
+#include "inputlimits.h"
 
 #include <QtGui/QPainter>
 
@@ -20,8 +21,10 @@ void forgetMapping(QVector<DisplayItem> *items)
         item.mapped = false;
 }
 
-/// What a painted item takes besides its outline: buffers that a path keeps for painting, pen and brush. Measured.
-constexpr double itemOverhead = 3000;
+/// What an item takes besides its outline: itself, pen and brush; and what its path keeps of being painted.
+/// Measured.
+constexpr double itemOverhead = 800;
+constexpr double paintedOverhead = 3200;
 
 /// Where more than this share of the kept area is to be painted, all of it is.
 constexpr double mostRepaired = 0.75;
@@ -41,12 +44,15 @@ double flatWeight(const FlatShape &flat)
     return double(sizeof(FlatShape)) + double(sizeof(QPoint)) * points;
 }
 
-// An outline is held twice, the second time as the painter's own copy.
-double itemWeight(const DisplayItem &item)
+// An outline that is painted again and again is held twice, the second time as the painter's own copy.
+double itemWeight(const DisplayItem &item, bool isPaintedAgain)
 {
     const int elements = item.path.elementCount() + item.strokePath.elementCount();
-    return itemOverhead + 2.0 * double(sizeof(QPainterPath::Element)) * elements +
-           double(item.picture.sizeInBytes()) + (item.flat ? flatWeight(*item.flat) : 0);
+    const bool keepsCopy = isPaintedAgain && !item.mapping;
+    return itemOverhead + (keepsCopy ? paintedOverhead : 0) +
+           (keepsCopy ? 2.0 : 1.0) * double(sizeof(QPainterPath::Element)) * elements +
+           (item.picture ? double(item.picture->image.sizeInBytes()) : 0) +
+           (item.flat ? flatWeight(*item.flat) : 0);
 }
 
 } // namespace
@@ -54,10 +60,11 @@ double itemWeight(const DisplayItem &item)
 int DisplayList::weight() const
 {
     double weight = double(sizeof(DisplayList)) + m_picture.bytes();
+    const bool isPaintedAgain = m_paintings > 1;
     for (const DisplayItem &item : m_items)
-        weight += itemWeight(item);
+        weight += itemWeight(item, isPaintedAgain);
     for (const DisplayItem &item : m_controlPoints)
-        weight += itemWeight(item);
+        weight += itemWeight(item, isPaintedAgain);
     return int(qMin(weight, double(std::numeric_limits<int>::max())));
 }
 
@@ -76,6 +83,10 @@ QRectF DisplayList::paintedBounds(bool withControlPoints) const
 double DisplayList::paintAll(QPainter *painter, bool withControlPoints)
 {
     PaintBudget budget = paintBudget(*painter);
+    // Most lists are painted once.
+    if (m_paintings == 0)
+        budget.outlines = Limits::keptOutlines;
+    m_paintings = qMin(m_paintings + 1, 2);
     paintItems(painter, m_items, &budget);
     if (withControlPoints)
         paintItems(painter, m_controlPoints, &budget);

@@ -14,6 +14,17 @@ namespace Svg {
 
 struct LayerEffects;
 
+/// What an image shows, scaled down where it is much larger than its place, and where it goes.
+struct ShownPicture : QSharedData
+{
+    QImage image;
+    /// The part that is shown, pixels, and where that goes, units of its element.
+    QRectF source;
+    QRectF target;
+    /// From these units to the painter's.
+    QTransform toPainter;
+};
+
 /// One thing to paint, with its outline and pens mapped to the painter's coordinates.
 struct DisplayItem
 {
@@ -51,6 +62,10 @@ struct DisplayItem
     /// they enter the clip.
     bool isIndivisible = false;
     QPainterPath path;
+    /// Where the mapped outline is not kept: what it is mapped with when it is painted. Else null.
+    MappingPointer mapping;
+    /// Of the mapped outlines, kept or not.
+    int elementCount = 0;
     QBrush fill;
     QPen pen;
     /// The pen as it is in the units of the element, and how far it reaches beyond the outline along the axes,
@@ -65,12 +80,8 @@ struct DisplayItem
     double outlineLength = 0;
     /// Segments, and dashes, that a pen goes along.
     double strokedPieces = 0;
-    /// What an image shows, scaled down where it is much larger than its place, and where it goes: a part of it
-    /// into a rectangle of its element's units, these into the painter's.
-    QImage picture;
-    QRectF pictureSource;
-    QRectF pictureTarget;
-    QTransform pictureTransform;
+    /// Null for all but images.
+    QSharedDataPointer<ShownPicture> picture;
     /// Everything that the item paints, painter coordinates.
     QRectF bounds;
 };
@@ -116,6 +127,8 @@ private:
     QVector<QRect> m_repainted;
     /// What painting the kept picture, and all repairs since, took of what painting may take; 1 is all of it.
     double m_effort = 0;
+    /// How often it was painted, more than once counting as twice.
+    int m_paintings = 0;
     QTransform m_stretch;
     QTransform m_world;
     quint32 m_revision = 0;
@@ -123,3 +136,5 @@ private:
 };
 
 } // namespace Svg
+
+Q_DECLARE_TYPEINFO(Svg::DisplayItem, Q_MOVABLE_TYPE);

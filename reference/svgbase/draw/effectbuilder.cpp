@@ -92,7 +92,7 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
     *items = buildContent(m_context, clip, facts, ContentUse::Clipping);
     if (items->isEmpty())
         return false;
-    const auto &effects = facts->style.effects;
+    const auto &effects = facts->style->effects;
     const NodeIndex further = effects ? find(effects->clipPath, ElementKind::ClipPath) : noNode;
     if (further == noNode)
         return true;
@@ -112,21 +112,21 @@ QRectF EffectBuilder::shapeBox(ShapeBox box)
     if (box == ShapeBox::Fill || m_facts->outlines.isEmpty())
         return result;
     const double half =
-        m_facts->outlines.constFirst().pen.style() == Qt::NoPen ? 0 : m_facts->style.strokeWidth / 2;
+        m_facts->outlines.constFirst().pen.style() == Qt::NoPen ? 0 : m_facts->style->strokeWidth / 2;
     return result.adjusted(-half, -half, half, half);
 }
 
 // False when nothing is left.
 bool EffectBuilder::addClipShape(LayerEffects *layer)
 {
-    const std::optional<ClipShape> shape = parseClipShape(m_facts->style.effects->clipShape);
+    const std::optional<ClipShape> shape = parseClipShape(m_facts->style->effects->clipShape);
     if (!shape)
         return true;
     const QRectF box = shapeBox(shape->box);
     QPainterPath path;
     path.addRect(box);
     if (!shape->function.isEmpty())
-        path = basicShape(shape->function, box, m_facts->style.font.size).value_or(QPainterPath());
+        path = basicShape(shape->function, box, m_facts->style->font.size).value_or(QPainterPath());
     layer->hasRegion = true;
     layer->region = path;
     layer->regionToDocument = m_space;
@@ -137,7 +137,7 @@ bool EffectBuilder::addClip(LayerEffects *layer)
 {
     if (!addClipShape(layer))
         return false;
-    const NodeIndex clip = find(m_facts->style.effects->clipPath, ElementKind::ClipPath);
+    const NodeIndex clip = find(m_facts->style->effects->clipPath, ElementKind::ClipPath);
     if (clip == noNode)
         return true;
     layer->clips = true;
@@ -163,7 +163,7 @@ bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer
     if (!contentFacts(mask, ofBounds, QTransform(), &facts) || (regionOfBounds && bounds().isEmpty()))
         return false;
     const QRectF area =
-        effectRegion(attributes, regionOfBounds, {bounds(), facts->viewport, facts->style.font.size});
+        effectRegion(attributes, regionOfBounds, {bounds(), facts->viewport, facts->style->font.size});
     if (area.isEmpty())
         return false;
     const auto region = std::make_shared<LayerEffects>();
@@ -171,12 +171,12 @@ bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer
     region->region.addRect(area);
     region->regionToDocument = m_space;
     layer->masks = true;
-    layer->alphaMask = isAlphaMask(mode, facts->style);
-    layer->linearMask = facts->style.mixesLinear;
+    layer->alphaMask = isAlphaMask(mode, *facts->style);
+    layer->linearMask = facts->style->mixesLinear;
     layer->mask = buildContent(m_context, mask, facts, ContentUse::Drawing);
     if (layer->mask.isEmpty())
         return false;
-    const auto &effects = facts->style.effects;
+    const auto &effects = facts->style->effects;
     const NodeIndex further = effects ? find(effects->mask, ElementKind::Mask) : noNode;
     if (further != noNode && !buildMask(further, effects->maskMode, region.get()))
         return false;
@@ -186,8 +186,8 @@ bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer
 
 bool EffectBuilder::addMask(LayerEffects *layer)
 {
-    const NodeIndex mask = find(m_facts->style.effects->mask, ElementKind::Mask);
-    return mask == noNode || buildMask(mask, m_facts->style.effects->maskMode, layer);
+    const NodeIndex mask = find(m_facts->style->effects->mask, ElementKind::Mask);
+    return mask == noNode || buildMask(mask, m_facts->style->effects->maskMode, layer);
 }
 
 // Of a group only plain colours are known: it has no box of its own for others.
@@ -202,12 +202,12 @@ QBrush paintOf(const Paint &paint, double opacity)
 
 bool EffectBuilder::addFilter(LayerEffects *layer)
 {
-    const QString &list = m_facts->style.effects->filter;
+    const QString &list = m_facts->style->effects->filter;
     if (list.isEmpty())
         return true;
-    FilterTarget target{bounds(), m_facts->viewport, m_space, m_facts->style};
-    target.fillPaint = paintOf(m_facts->style.fill, m_facts->style.fillOpacity);
-    target.strokePaint = paintOf(m_facts->style.stroke, m_facts->style.strokeOpacity);
+    FilterTarget target{bounds(), m_facts->viewport, m_space, *m_facts->style};
+    target.fillPaint = paintOf(m_facts->style->fill, m_facts->style->fillOpacity);
+    target.strokePaint = paintOf(m_facts->style->stroke, m_facts->style->strokeOpacity);
     if (!m_facts->outlines.isEmpty() && m_facts->outlines.constFirst().fillPattern == noNode)
         target.fillPaint = m_facts->outlines.constFirst().fill;
     if (!m_facts->outlines.isEmpty() && m_facts->outlines.constFirst().strokePattern == noNode)
@@ -227,7 +227,7 @@ bool saysNothing(const LayerEffects &layer, const EffectStyle &style)
 
 BuiltEffects buildEffects(BuildContext &context, NodeIndex node, const FactsPointer &facts)
 {
-    const EffectStyle &style = *facts->style.effects;
+    const EffectStyle &style = *facts->style->effects;
     BuiltEffects result;
     result.layer = std::make_shared<LayerEffects>();
     EffectBuilder builder(context, node, facts);

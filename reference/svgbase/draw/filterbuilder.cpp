@@ -70,7 +70,7 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
     const OpenReference open(m_context, shown);
     auto *around = new Facts;
     const FactsPointer holder(around);
-    around->style = inheritedStyle(m_context.document.facts(node)->style);
+    around->style = StylePointer(new SharedStyle(inheritedStyle(*m_context.document.facts(node)->style)));
     around->viewport = m_target.viewport;
     around->toDocument = m_target.toDocument;
     const Resolver resolver = m_context.document.resolver();
@@ -99,7 +99,7 @@ void FilterBuilder::buildImage(NodeIndex node, const FilterStep &step, FilterPri
     facts->localBounds = QRectF(r.x.value_or(whole.x()), r.y.value_or(whole.y()), r.width.value_or(whole.width()),
                                 r.height.value_or(whole.height()));
     const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
-    facts->fit = contentFit(*facts->image, facts->localBounds, ratio);
+    facts->ownFitting().fit = contentFit(*facts->image, facts->localBounds, ratio);
     appendImage(m_context, node, holder, &primitive->items);
 }
 
@@ -120,7 +120,7 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
             return false;
         }
         FilterPrimitive primitive =
-            readPrimitive(m_context.document.tree(), at, m_context.document.facts(at)->style, units);
+            readPrimitive(m_context.document.tree(), at, *m_context.document.facts(at)->style, units);
         if (kind == ElementKind::FeImage)
             buildImage(at, *step, &primitive);
         step->primitives.append(primitive);
@@ -137,7 +137,7 @@ bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
     if (ofBounds && m_target.bounds.isEmpty())
         return false;
     FilterStep step;
-    const double fontSize = m_context.document.facts(filter)->style.font.size;
+    const double fontSize = m_context.document.facts(filter)->style->font.size;
     step.region = effectRegion(attributes, ofBounds, {m_target.bounds, m_target.viewport, fontSize});
     if (!addPrimitives(filter, &step))
         return false;

@@ -12,7 +12,7 @@ namespace {
 
 std::optional<QRectF> cutOf(const Facts &facts)
 {
-    return viewportCut(facts.style, facts.localBounds, facts.viewport);
+    return viewportCut(*facts.style, facts.localBounds, facts.viewport);
 }
 
 bool takePixels(BuildContext &context, const ImageContent &content)
@@ -47,9 +47,10 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
     item.control = context.control != noNode;
     item.controlCentre = context.controlCentre;
     const QRectF whole(QPointF(), size);
-    item.pictureTarget = facts->fit.mapRect(whole);
+    item.picture = new ShownPicture;
+    item.picture->target = facts->fitted().fit.mapRect(whole);
     if (const std::optional<QRectF> cut = cutOf(*facts))
-        item.pictureTarget &= *cut;
+        item.picture->target &= *cut;
     items->append(item);
 }
 
@@ -72,7 +73,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     inner.controlCentre = context.controlCentre;
     auto *root = new Facts(*document.facts(rootNode));
     const FactsPointer rootFacts(root);
-    root->toDocument = root->toDocument * facts.fit * facts.toDocument;
+    root->toDocument = root->toDocument * facts.fitted().fit * facts.toDocument;
     QVector<DisplayItem> items = buildElement(inner, rootNode, rootFacts);
     if (inner.blends)
         wrapInLayer(inner, rootNode, nullptr, &items);
@@ -115,7 +116,7 @@ void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &f
 
 void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
 {
-    if (facts->localBounds.isEmpty() || !facts->fit.isInvertible())
+    if (facts->localBounds.isEmpty() || !facts->fitted().fit.isInvertible())
         return;
     if (facts->image->document)
         appendDocument(context, node, facts, items);

@@ -209,8 +209,8 @@ Outline paintedOutline(const DisplayItem &item)
 {
     const Outline &own = item.facts->outlines.at(item.outline);
     if (item.silhouette)
-        return silhouette(own, item.facts->style);
-    Outline outline = item.override ? overridden(own, item.facts->style, *item.override) : own;
+        return silhouette(own, *item.facts->style);
+    Outline outline = item.override ? overridden(own, *item.facts->style, *item.override) : own;
     if (!item.paintsFill || (outline.fillPattern != noNode && !item.fillPattern))
         outline.fill = Qt::NoBrush;
     if (!item.paintsStroke || (outline.strokePattern != noNode && !item.strokePattern))
@@ -227,12 +227,34 @@ void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline
         outline->pen.setBrush(patternBrush(*item.strokePattern, transform));
 }
 
+/// What a path takes besides its elements, in elements.
+constexpr int pathOverhead = 6;
+
+int keptElements(const DisplayItem &item)
+{
+    return item.mapping ? 0 : item.path.elementCount() + pathOverhead;
+}
+
+// Long drawings would hold every outline twice.
+void keepOrForget(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
+{
+    item->elementCount = item->path.elementCount() + item->strokePath.elementCount();
+    if (keptElements(*item) <= budget->keptElements)
+        return;
+    if (!budget->mapping || budget->mapping->stretch != stretch || budget->mapping->world != world)
+        budget->mapping = std::make_shared<const Mapping>(Mapping{stretch, world});
+    item->mapping = budget->mapping;
+    item->path = QPainterPath();
+}
+
 void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
 {
     Outline outline = paintedOutline(*item);
     const QTransform transform = itemTransform(*item, stretch, world);
     paintPatterns(*item, transform, &outline);
     item->path = mappedPath(outline.path, transform);
+    item->mapping.reset();
+    item->elementCount = 0;
     item->bounds = item->path.controlPointRect();
     item->strokePath = QPainterPath();
     item->flat.reset();
@@ -247,7 +269,7 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
         return;
     }
     const bool stroked = outline.pen.style() != Qt::NoPen;
-    if (stroked && item->facts->style.strokeScales)
+    if (stroked && item->facts->style->strokeScales)
         mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform, budget);
     else if (stroked)
         mapUnscaledStroke(item, outline, transform, world, budget);
@@ -255,43 +277,46 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     item->outlineLength = paintedLength(*item);
     item->isIndivisible = !item->smooth || item->fill.style() > Qt::SolidPattern ||
                           item->pen.brush().style() > Qt::SolidPattern || isCutAtClip(*item);
+    keepOrForget(item, stretch, world, budget);
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
-QSizeF shrinkage(const DisplayItem &item)
+QSizeF shrinkage(const ShownPicture &picture)
 {
-    const QRectF target = item.pictureTransform.mapRect(item.pictureTarget);
-    if (item.pictureTransform.type() > QTransform::TxScale || item.pictureSource.isEmpty())
+    const QRectF target = picture.toPainter.mapRect(picture.target);
+    if (picture.toPainter.type() > QTransform::TxScale || picture.source.isEmpty())
         return QSizeF(1, 1);
-    return QSizeF(target.width() / item.pictureSource.width(), target.height() / item.pictureSource.height());
+    return QSizeF(target.width() / picture.source.width(), target.height() / picture.source.height());
 }
 
 // Painters look at four pixels for each of their own; averaging all of them is done once.
-void shrinkPicture(DisplayItem *item)
+void shrinkPicture(ShownPicture *picture)
 {
-    const QSizeF factor = shrinkage(*item);
-    if (!item->facts->style.smoothImages || (factor.width() > smoothFactor && factor.height() > smoothFactor))
+    const QSizeF factor = shrinkage(*picture);
+    if (factor.width() > smoothFactor && factor.height() > smoothFactor)
         return;
-    const QSize size(qMax(1, qCeil(item->picture.width() * qMin(1.0, factor.width()))),
-                     qMax(1, qCeil(item->picture.height() * qMin(1.0, factor.height()))));
-    const QTransform scale = QTransform::fromScale(double(size.width()) / item->picture.width(),
-                                                   double(size.height()) / item->picture.height());
-    item->picture = item->picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    item->pictureSource = scale.mapRect(item->pictureSource);
+    const QSize before = picture->image.size();
+    const QSize size(qMax(1, qCeil(before.width() * qMin(1.0, factor.width()))),
+                     qMax(1, qCeil(before.height() * qMin(1.0, factor.height()))));
+    const QTransform scale =
+        QTransform::fromScale(double(size.width()) / before.width(), double(size.height()) / before.height());
+    picture->image = picture->image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    picture->source = scale.mapRect(picture->source);
 }
 
 void mapImage(DisplayItem *item, const QTransform &stretch, const QTransform &world)
 {
     const Facts &facts = *item->facts;
+    ShownPicture *picture = item->picture.data();
     item->mapped = true;
-    item->pictureTransform = itemTransform(*item, stretch, world);
-    item->bounds = item->pictureTransform.mapRect(item->pictureTarget);
+    picture->toPainter = itemTransform(*item, stretch, world);
+    item->bounds = picture->toPainter.mapRect(picture->target);
     if (!isPaintable(item->bounds))
         item->bounds = QRectF();
-    item->picture = item->bounds.isEmpty() ? QImage() : decodedPicture(facts.image);
-    item->pictureSource = facts.fit.inverted().mapRect(item->pictureTarget);
-    if (!item->picture.isNull())
-        shrinkPicture(item);
+    picture->image = item->bounds.isEmpty() ? QImage() : decodedPicture(facts.image);
+    picture->source = facts.fitted().fit.inverted().mapRect(picture->target);
+    if (!picture->image.isNull() && facts.style->smoothImages)
+        shrinkPicture(picture);
 }
 
 // Regions are made of single rectangles, or of whatever shape cuts a viewport.
@@ -376,15 +401,25 @@ void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTra
     bool layered = false;
     for (DisplayItem &item : *items) {
         layered = layered || item.kind == DisplayItem::BeginLayer;
-        if (item.kind == DisplayItem::Shape && !item.mapped)
-            mapShape(&item, stretch, world, budget);
-        else if (item.kind == DisplayItem::Image && !item.mapped)
+        if (item.kind == DisplayItem::Shape) {
+            if (!item.mapped)
+                mapShape(&item, stretch, world, budget);
+            budget->keptElements -= keptElements(item);
+        }
+        if (item.kind == DisplayItem::Image && !item.mapped)
             mapImage(&item, stretch, world);
         else if (item.effects)
             mapEffects(&item, stretch, world, budget);
     }
     if (layered)
         measureLayers(items);
+}
+
+QPainterPath mappedOutline(const DisplayItem &item)
+{
+    if (!item.mapping)
+        return item.path;
+    return mappedPath(paintedOutline(item).path, itemTransform(item, item.mapping->stretch, item.mapping->world));
 }
 
 } // namespace Svg

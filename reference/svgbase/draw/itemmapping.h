@@ -9,4 +9,7 @@ namespace Svg {
 void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world,
               MappingBudget *budget);
 
+/// The mapped outline of a shape, whether it is kept or not.
+QPainterPath mappedOutline(const DisplayItem &item);
+
 } // namespace Svg

@@ -3,6 +3,7 @@
 #include "draw/compositionmodes.h"
 #include "draw/filtercanvas.h"
 #include "draw/filterrunner.h"
+#include "draw/itemmapping.h"
 #include "draw/layereffects.h"
 #include "draw/layerpictures.h"
 #include "draw/paintingwork.h"
@@ -132,7 +133,7 @@ public:
 
 private:
     void takePaint(QPainter *painter, const DisplayItem &item);
-    void drawOutline(QPainter *painter, const QPainterPath &path);
+    void drawOutline(QPainter *painter, const DisplayItem &item);
     void paintShape(const DisplayItem &item);
     void paintImage(const DisplayItem &item);
     bool beginLayer(const DisplayItem &begin);
@@ -186,17 +187,23 @@ bool reaches(const QRectF &bounds, const QRect &area)
     return !paintedPixels(bounds, area).isEmpty();
 }
 
-// A path that is drawn keeps what painters made of it. That is dear where there are many, so these are drawn from
-// copies.
-void ItemPainter::drawOutline(QPainter *painter, const QPainterPath &path)
+// One that shares no data with the path; a mere copy does until it changes.
+QPainterPath detachedCopy(const QPainterPath &path)
 {
-    if (++m_budget->outlines <= Limits::keptOutlines) {
-        painter->drawPath(path);
-        return;
-    }
     QPainterPath copy = path;
-    copy.reserve(path.elementCount());
-    painter->drawPath(copy);
+    copy.setFillRule(path.fillRule() == Qt::WindingFill ? Qt::OddEvenFill : Qt::WindingFill);
+    copy.setFillRule(path.fillRule());
+    return copy;
+}
+
+// A path that is drawn keeps what painters made of it, 3 KB at least. That is dear where there are many, so these
+// are drawn from copies.
+void ItemPainter::drawOutline(QPainter *painter, const DisplayItem &item)
+{
+    if (item.mapping)
+        painter->drawPath(mappedOutline(item));
+    else
+        painter->drawPath(++m_budget->outlines <= Limits::keptOutlines ? item.path : detachedCopy(item.path));
 }
 
 void ItemPainter::paintShape(const DisplayItem &item)
@@ -215,7 +222,7 @@ void ItemPainter::paintShape(const DisplayItem &item)
     takePaint(painter, item);
     if (!item.smooth)
         painter->setRenderHint(QPainter::Antialiasing, false);
-    drawOutline(painter, item.path);
+    drawOutline(painter, item);
     if (!item.strokePath.isEmpty())
         painter->fillPath(item.strokePath, item.pen.brush());
     if (!item.smooth)
@@ -224,15 +231,16 @@ void ItemPainter::paintShape(const DisplayItem &item)
 
 void ItemPainter::paintImage(const DisplayItem &item)
 {
-    if (item.picture.isNull() || !reaches(item.bounds, m_layers.back().area))
+    const ShownPicture &picture = *item.picture;
+    if (picture.image.isNull() || !reaches(item.bounds, m_layers.back().area))
         return;
     const Layer &layer = m_layers.back();
     QPainter *painter = layer.painter;
     const QTransform before = painter->worldTransform();
     painter->setOpacity(layer.opacity * item.opacity);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, item.facts->style.smoothImages);
-    painter->setWorldTransform(item.pictureTransform, true);
-    painter->drawImage(item.pictureTarget, item.picture, item.pictureSource);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, item.facts->style->smoothImages);
+    painter->setWorldTransform(picture.toPainter, true);
+    painter->drawImage(picture.target, picture.image, picture.source);
     painter->setWorldTransform(before);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
 }

@@ -84,13 +84,13 @@ Outline effectiveOutline(const Document &document, NodeIndex node, const Facts &
 {
     const StyleOverride *override = document.styleOverride(node);
     const Outline &own = facts.outlines.at(index);
-    return override ? overridden(own, facts.style, *override) : own;
+    return override ? overridden(own, *facts.style, *override) : own;
 }
 
 // Fill and stroke of one shape, and the shapes of a group, are faded as one picture (SVG 1.1 §14.5).
 bool ListBuilder::isFadedAsOne(NodeIndex node, const FactsPointer &facts) const
 {
-    if (facts->style.opacity >= 1 || isSilhouette())
+    if (facts->style->opacity >= 1 || isSilhouette())
         return false;
     const ElementKind kind = m_document.tree().node(node).kind;
     if (!hasGeometry(kind) || hasMarkers(kind, *facts))
@@ -107,7 +107,7 @@ void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts,
     item.node = node;
     item.facts = facts;
     item.effects = effects;
-    item.opacity = isSilhouette() ? 1 : facts->style.opacity;
+    item.opacity = isSilhouette() ? 1 : facts->style->opacity;
     item.control = isInControl();
     item.controlCentre = m_context.controlCentre;
     m_layers.last() = target().size();
@@ -166,11 +166,11 @@ void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layer
         item.paintsFill = parts.fill;
         item.paintsStroke = parts.stroke;
         if (parts.fill && !isSilhouette())
-            item.fillPattern = pattern(outline.fillPattern, facts, facts->style.fillOpacity);
+            item.fillPattern = pattern(outline.fillPattern, facts, facts->style->fillOpacity);
         if (parts.stroke && !isSilhouette())
-            item.strokePattern = pattern(outline.strokePattern, facts, facts->style.strokeOpacity);
+            item.strokePattern = pattern(outline.strokePattern, facts, facts->style->strokeOpacity);
         if (!layered && !isSilhouette())
-            item.opacity = facts->style.opacity;
+            item.opacity = facts->style->opacity;
         target().append(item);
     }
 }
@@ -184,7 +184,7 @@ bool takesMarkers(ElementKind kind)
 
 bool ListBuilder::hasMarkers(ElementKind kind, const Facts &facts) const
 {
-    return facts.style.markers && takesMarkers(kind) && facts.hasGeometry && !isSilhouette();
+    return facts.style->markers && takesMarkers(kind) && facts.hasGeometry && !isSilhouette();
 }
 
 void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
@@ -193,7 +193,7 @@ void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
     MarkedElement element;
     element.node = node;
     element.facts = facts;
-    element.strokeWidth = facts->style.strokeWidth;
+    element.strokeWidth = facts->style->strokeWidth;
     if (override && override->strokeWidth)
         element.strokeWidth = *override->strokeWidth;
     if (!facts->outlines.isEmpty()) {
@@ -216,7 +216,7 @@ bool ListBuilder::isAllowed(ElementKind kind) const
 
 void ListBuilder::addPainted(NodeIndex node, const FactsPointer &facts, bool layered)
 {
-    const PaintOrder &order = facts->style.paintOrder;
+    const PaintOrder &order = facts->style->paintOrder;
     for (int i = 0; i < int(order.size()); ++i) {
         const bool strokeFollows = i + 1 < int(order.size()) && order[i + 1] == PaintStep::Stroke;
         if (order[i] == PaintStep::Markers) {
@@ -236,8 +236,8 @@ void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
     if (!*layer)
         *layer = std::make_shared<LayerEffects>();
     QPainterPath cut;
-    cut.addRect(*facts.cut);
-    const QTransform map = facts.aroundToDocument;
+    cut.addRect(*facts.fitted().cut);
+    const QTransform map = facts.fitted().aroundToDocument;
     LayerEffects &effects = **layer;
     if (effects.hasRegion)
         effects.region = effects.regionToDocument.map(effects.region) & map.map(cut);
@@ -250,7 +250,7 @@ void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
 bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
 {
     const Node &element = m_document.tree().node(node);
-    if (!facts->displayed || !isAllowed(element.kind) || (facts->style.opacity <= 0 && !isSilhouette()))
+    if (!facts->displayed || !isAllowed(element.kind) || (facts->style->opacity <= 0 && !isSilhouette()))
         return false;
     const bool startsControl =
         !isInControl() && !m_isContent && isControlPointId(element.attributes.value(AttributeId::Id));
@@ -259,14 +259,14 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         m_context.controlCentre = m_document.visibleBounds(node).center();
     }
     BuiltEffects effects;
-    if (facts->style.effects)
+    if (facts->style->effects)
         effects = isSilhouette() ? buildClipOnly(m_context, node, facts) : buildEffects(m_context, node, facts);
     if (!effects.drawn) {
         if (startsControl)
             m_context.control = noNode;
         return false;
     }
-    if (facts->cut && !isSilhouette())
+    if (facts->fitted().cut && !isSilhouette())
         addCut(*facts, &effects.layer);
     const bool layered = effects.layer || isFadedAsOne(node, facts);
     m_layers.append(noLayer);
@@ -274,9 +274,9 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
     if (layered)
         beginLayer(node, facts, effects.layer);
     // Of a text only the visible parts have outlines.
-    if (facts->style.visible || element.kind == ElementKind::Text)
+    if (facts->style->visible || element.kind == ElementKind::Text)
         addPainted(node, facts, layered);
-    if (facts->style.visible && facts->image)
+    if (facts->style->visible && facts->image)
         appendImage(m_context, node, facts, &target());
     return true;
 }

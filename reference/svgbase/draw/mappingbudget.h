@@ -2,13 +2,29 @@
 
 #include "inputlimits.h"
 
+#include <QtGui/QTransform>
+
+#include <memory>
+
 namespace Svg {
 
-/// How many elements the outlines of strokes may still have that a drawing makes itself, because no pen can draw
-/// them.
+/// How items come to the painter: the document to its target, the target to the painter's coordinates.
+struct Mapping
+{
+    QTransform stretch;
+    QTransform world;
+};
+using MappingPointer = std::shared_ptr<const Mapping>;
+
+/// What mapping the items of one drawing may still take.
 struct MappingBudget
 {
+    /// Elements of the outlines of strokes that the drawing makes itself, because no pen can draw them.
     double strokeElements = Limits::strokeElements;
+    /// Elements of mapped outlines that are kept; others are mapped whenever they are painted.
+    int keptElements = Limits::keptElements;
+    /// Shared by all items that are mapped alike and do not keep their outlines.
+    MappingPointer mapping;
 
     bool isUsedUp() const { return strokeElements <= 0; }
 };

@@ -108,7 +108,7 @@ std::optional<MarkerForm> MarkerBuilder::form(const QString &id) const
         return std::nullopt;
     const Attributes attributes = tree.node(form.node).attributes;
     form.own = m_context.document.facts(form.node);
-    const ComputedStyle &style = form.own->style;
+    const ComputedStyle &style = *form.own->style;
     if (attributes.value(QStringLiteral("markerUnits")) != QLatin1String("userSpaceOnUse"))
         form.scale = m_element.strokeWidth;
     readOrientation(attributes, &form);
@@ -140,7 +140,7 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
     QVector<DisplayItem> content = buildContent(m_context, form.node, holder, ContentUse::Drawing);
     if (content.isEmpty())
         return;
-    const double opacity = form.own->style.opacity;
+    const double opacity = form.own->style->opacity;
     if (form.cut || opacity < 1) {
         const auto layer = std::make_shared<LayerEffects>();
         layer->hasRegion = form.cut.has_value();
@@ -154,7 +154,7 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
 
 void MarkerBuilder::append(const QVector<MarkerVertex> &vertices)
 {
-    const MarkerStyle &style = *m_element.facts->style.markers;
+    const MarkerStyle &style = *m_element.facts->style->markers;
     const QString ids[] = {style.start, style.mid, style.end};
     for (const MarkerVertex::Role role : {MarkerVertex::Start, MarkerVertex::Mid, MarkerVertex::End}) {
         const std::optional<MarkerForm> known = form(ids[role]);
@@ -173,7 +173,7 @@ void MarkerBuilder::append(const QVector<MarkerVertex> &vertices)
 void appendMarkers(BuildContext &context, const MarkedElement &element, QVector<DisplayItem> *items)
 {
     const Node &node = context.document.tree().node(element.node);
-    const LengthContext lengths{element.facts->viewport, element.facts->style.font.size};
+    const LengthContext lengths{element.facts->viewport, element.facts->style->font.size};
     MarkerBuilder(context, element, items).append(markerVertices(node, lengths));
 }
 

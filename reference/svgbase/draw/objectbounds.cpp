@@ -45,7 +45,7 @@ QTransform effectSpace(const Node &node, const Facts &facts)
 {
     if (node.kind != ElementKind::NestedSvg && node.kind != ElementKind::Symbol)
         return facts.toDocument;
-    return facts.aroundToDocument;
+    return facts.fitted().aroundToDocument;
 }
 
 QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &facts)

@@ -20,7 +20,7 @@ struct PaintBudget
     int depth = 0;
     double work = Limits::paintedWork;
     double wholeWork = work;
-    /// How many outlines were drawn.
+    /// How many outlines were drawn that may keep what painters make of them.
     int outlines = 0;
     /// Whether a picture was refused.
     bool lacksPixels = false;

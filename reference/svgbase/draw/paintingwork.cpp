@@ -57,7 +57,7 @@ double paintedLength(const DisplayItem &item)
 double paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
 {
     const QRectF visible = item.bounds & QRectF(area);
-    const double elements = item.path.elementCount() + item.strokePath.elementCount();
+    const double elements = item.elementCount;
     if (visible.isEmpty())
         return elements * workPerElement;
     // What is seen of an outline may be the densest part of it.

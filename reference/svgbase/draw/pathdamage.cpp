@@ -32,12 +32,14 @@ bool hasSameStroke(const DisplayItem &a, const DisplayItem &b)
         return false;
     const bool isOutlined = !a.strokePath.isEmpty() || !b.strokePath.isEmpty();
     return !isOutlined || (a.facts->toDocument == b.facts->toDocument && a.strokeReach == b.strokeReach &&
-                           a.facts->style.strokeScales == b.facts->style.strokeScales);
+                           a.facts->style->strokeScales == b.facts->style->strokeScales);
 }
 
 // Whether only the outline can make the difference. Dashes behind a segment would move with its length.
 bool differsInOutlineAlone(const DisplayItem &a, const DisplayItem &b)
 {
+    if (a.mapping || b.mapping)
+        return false;
     return a.kind == DisplayItem::Shape && b.kind == DisplayItem::Shape && !a.isIndivisible && !b.isIndivisible &&
            a.fill == b.fill && a.opacity == b.opacity && hasSameStroke(a, b) && hasSameElements(a.path, b.path);
 }

@@ -44,7 +44,7 @@ public:
         ServerTransform result;
         for (const NodeIndex index : m_nodes) {
             const Node &node = m_tree.node(index);
-            const ServerTransform own = serverTransform(node, document.facts(index)->style,
+            const ServerTransform own = serverTransform(node, *document.facts(index)->style,
                                                         node.attributes.value(QStringLiteral("patternTransform")));
             if (result.transform.isEmpty())
                 result.transform = own.transform;
@@ -75,7 +75,7 @@ public:
         , m_target(*target.facts)
         , m_chain(context.document.tree(), pattern)
         , m_ofBounds(m_chain.value(QStringLiteral("patternUnits")) != userSpaceOnUse)
-        , m_fontSize(context.document.facts(pattern)->style.font.size)
+        , m_fontSize(context.document.facts(pattern)->style->font.size)
     {
         m_pattern.node = pattern;
         m_pattern.opacity = target.opacity;

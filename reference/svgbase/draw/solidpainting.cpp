@@ -1,6 +1,7 @@
 #include "draw/solidpainting.h"
 
 #include "draw/coverage.h"
+#include "draw/itemmapping.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPaintEngine>
@@ -103,11 +104,12 @@ bool isSolid(const DisplayItem &item)
 std::shared_ptr<const FlatShape> flatShape(const DisplayItem &item)
 {
     auto flat = std::make_shared<FlatShape>();
-    if (item.fill.style() != Qt::NoBrush && !flatten(item.path, &flat->fill))
+    const QPainterPath path = mappedOutline(item);
+    if (item.fill.style() != Qt::NoBrush && !flatten(path, &flat->fill))
         return flat;
     if (item.pen.style() != Qt::NoPen) {
         const QPainterPathStroker stroker(item.pen);
-        if (!flatten(stroker.createStroke(item.path), &flat->stroke))
+        if (!flatten(stroker.createStroke(path), &flat->stroke))
             return flat;
         flat->stroke.fillRule = Qt::WindingFill;
     }

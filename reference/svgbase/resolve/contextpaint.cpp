@@ -51,8 +51,8 @@ QBrush contextBrush(const Facts &facts, Paint::Kind kind, double opacity)
 std::shared_ptr<const PaintContext> useContext(const Facts &use)
 {
     const auto context = std::make_shared<PaintContext>();
-    context->fill = plainBrush(use, use.style.fill, use.style.fillOpacity);
-    context->stroke = plainBrush(use, use.style.stroke, use.style.strokeOpacity);
+    context->fill = plainBrush(use, use.style->fill, use.style->fillOpacity);
+    context->stroke = plainBrush(use, use.style->stroke, use.style->strokeOpacity);
     context->toDocument = use.toDocument;
     return context;
 }

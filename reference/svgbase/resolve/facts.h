@@ -51,6 +51,19 @@ struct UsedSize
     std::optional<double> height;
 };
 
+/// What only viewports, images and uses have.
+struct Fitting : QSharedData
+{
+    /// How the box of an image's content, or a nested view box, is fitted into the units around it.
+    QTransform fit;
+    /// Of a "use": the size that it gives a used "svg" or "symbol", user units.
+    UsedSize usedSize;
+    /// Of a viewport that cuts its content: its box, in the units around it.
+    std::optional<QRectF> cut;
+    /// Of a viewport: the units around it, where the cut stands.
+    QTransform aroundToDocument;
+};
+
 /// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
 /// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
 /// resolved against.
@@ -59,22 +72,16 @@ struct Facts : QSharedData
     FactsPointer parent;
     /// Counts changes of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
-    ComputedStyle style;
+    StylePointer style = initialStyle();
     /// What an "image" shows; null for other elements.
     std::shared_ptr<const ImageContent> image;
-    /// How the box of an image's content, or a nested view box, is fitted into the units around it.
-    QTransform fit;
+    /// Null for most elements; fitted() gives a default then.
+    QSharedDataPointer<Fitting> fitting;
     /// Null outside of markers and used elements.
     std::shared_ptr<const PaintContext> context;
     /// What percentages refer to, user units.
     QSizeF viewport;
     QTransform toDocument;
-    /// Of a "use": the size that it gives a used "svg" or "symbol", user units.
-    UsedSize usedSize;
-    /// Of a viewport that cuts its content: its box, in the units around it.
-    std::optional<QRectF> cut;
-    /// Of a viewport: the units around it, where the cut stands.
-    QTransform aroundToDocument;
     /// Whether neither the element nor one above it has a "display" of none.
     bool displayed = true;
     /// One for most elements, one per differently painted part for text; none for an element without geometry.
@@ -83,6 +90,12 @@ struct Facts : QSharedData
     QRectF localBounds;
     QRectF bounds;
     bool hasGeometry = false;
+
+    /// Whether they were resolved against something that an element below inherits the same style from.
+    bool inheritsAlike(const FactsPointer &above) const;
+    const Fitting &fitted() const;
+    /// To be changed while the facts are made.
+    Fitting &ownFitting();
 };
 
 } // namespace Svg

@@ -12,9 +12,11 @@ constexpr double shortestDash = 1e-3;
 // A painter counts dashes in widths of the pen.
 void setDashes(QPen &pen, const ComputedStyle &style, double scale)
 {
-    QVector<qreal> pattern = style.strokeDasharray;
-    for (qreal &dash : pattern)
-        dash *= scale / pen.widthF();
+    // Not a copy, which would keep the room that reading left.
+    QVector<qreal> pattern;
+    pattern.reserve(style.strokeDasharray.size());
+    for (const double dash : style.strokeDasharray)
+        pattern.append(dash * (scale / pen.widthF()));
     // A dash without length has caps, which a painter only gives to one with some.
     if (style.strokeLinecap != Qt::FlatCap) {
         for (int i = 0; i < pattern.size(); i += 2)

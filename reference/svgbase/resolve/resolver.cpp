@@ -9,7 +9,9 @@
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/images.h"
+#include "resolve/outlinebounds.h"
 #include "resolve/pathmeasure.h"
+#include "resolve/pathslack.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
@@ -98,13 +100,6 @@ bool hasOneStyle(const Tree &tree, const Node &text)
     return true;
 }
 
-QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
-{
-    if (facts.toDocument.type() <= QTransform::TxScale || path.isEmpty())
-        return facts.toDocument.mapRect(facts.localBounds);
-    return facts.toDocument.map(path).boundingRect();
-}
-
 // "pathLength" says what the author took the length for (SVG 2 §9.6.1).
 double dashScale(const Node &node, const ComputedStyle &style, const QPainterPath &path)
 {
@@ -125,20 +120,30 @@ void Resolver::warn(const Node &node, const Problem &problem) const
                          node.attributes.value(AttributeId::Id));
 }
 
+StyleCache *Resolver::styles() const
+{
+    if (!m_styles)
+        m_styles = std::make_unique<StyleCache>();
+    return m_styles.get();
+}
+
 void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
-    static const ComputedStyle initial;
-    const ComputedStyle &parentStyle = facts->parent ? facts->parent->style : initial;
     CascadeNotes notes;
-    facts->style = kept.style
-                       ? kept.facts->style
-                       : cascade(m_tree, index, {parentStyle, facts->viewport}, m_messages ? &notes : nullptr);
+    if (kept.style)
+        facts->style = kept.facts->style;
+    else
+        facts->style = sharedCascade(m_tree, index, facts->parent ? facts->parent->style : initialStyle(),
+                                     facts->viewport, styles(), m_messages ? &notes : nullptr);
     facts->displayed =
-        facts->style.displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
+        facts->style->displayed && (!facts->parent || facts->parent->displayed) && passesConditions(node);
     if (notes.rulesLeftOut)
         warn(node, {Message::TooManySelectorSteps,
                     QStringLiteral("Finding all rules of the element takes too long; some are left out.")});
+    if (notes.propertiesLeftOut)
+        warn(node, {Message::TooManyStyleRules,
+                    QStringLiteral("The element declares too many custom properties; the rest is left out.")});
     // Their "fill" is no paint.
     if (isAnimation(node.kind))
         return;
@@ -148,7 +153,7 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
 
 QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
 {
-    const ComputedStyle &style = facts.style;
+    const ComputedStyle &style = *facts.style;
     const QString text = styledAttribute(node, style, AttributeId::Transform);
     if (text.isEmpty() && style.attributes.isEmpty())
         return QTransform();
@@ -179,21 +184,22 @@ void Resolver::resolvePlace(const Node &node, Facts *facts) const
     const QTransform outer = ownTransform(node, *facts);
     QTransform local;
     if (node.kind == ElementKind::Use) {
-        const LengthReader lengths(node, facts->style, facts->viewport);
+        const LengthReader lengths(node, *facts->style, facts->viewport);
         local = QTransform::fromTranslate(lengths.value(AttributeId::X, Axis::Horizontal),
                                           lengths.value(AttributeId::Y, Axis::Vertical));
         if (lengths.has(AttributeId::Width))
-            facts->usedSize.width = lengths.size(AttributeId::Width, Axis::Horizontal);
+            facts->ownFitting().usedSize.width = lengths.size(AttributeId::Width, Axis::Horizontal);
         if (lengths.has(AttributeId::Height))
-            facts->usedSize.height = lengths.size(AttributeId::Height, Axis::Vertical);
+            facts->ownFitting().usedSize.height = lengths.size(AttributeId::Height, Axis::Vertical);
     } else if (node.kind == ElementKind::NestedSvg || node.kind == ElementKind::Symbol) {
-        const Fit fit =
-            nestedFit(node, facts->style, facts->viewport, facts->parent ? facts->parent->usedSize : UsedSize());
-        facts->cut = viewportCut(facts->style, fit.place, facts->viewport);
-        local = facts->fit = fit.transform;
+        const Fit fit = nestedFit(node, *facts->style, facts->viewport,
+                                  facts->parent ? facts->parent->fitted().usedSize : UsedSize());
+        Fitting &fitting = facts->ownFitting();
+        fitting.cut = viewportCut(*facts->style, fit.place, facts->viewport);
+        local = fitting.fit = fit.transform;
         facts->viewport = fit.viewport;
         facts->displayed = facts->displayed && !fit.place.isEmpty();
-        facts->aroundToDocument = facts->parent ? outer * facts->parent->toDocument : outer;
+        fitting.aroundToDocument = facts->parent ? outer * facts->parent->toDocument : outer;
     }
     if (node.kind == ElementKind::Document)
         local = rootTransform(node, outer, m_tree.window());
@@ -252,7 +258,7 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
                           Facts *facts) const
 {
     Outline outline;
-    outline.path = path;
+    outline.path = withoutSlack(path);
     outline.path.setFillRule(style.fillRule);
     // A path computes these when first asked; done now, since facts are shared between threads.
     outline.path.boundingRect();
@@ -273,7 +279,7 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
     }
     const Node &node = m_tree.node(index);
     Problem problem;
-    const Geometry geometry = shapeGeometry(node, facts->style, facts->viewport, &problem);
+    const Geometry geometry = shapeGeometry(node, *facts->style, facts->viewport, &problem);
     warn(node, problem);
     facts->hasGeometry = geometry.valid;
     if (!geometry.valid)
@@ -281,7 +287,7 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
     facts->localBounds = geometry.bounds;
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
-        addOutline(geometry.path, facts->style, false, dashScale(node, facts->style, geometry.path), facts);
+        addOutline(geometry.path, *facts->style, false, dashScale(node, *facts->style, geometry.path), facts);
     if (!kept.facts || kept.facts->outlines.isEmpty() || facts->outlines.isEmpty())
         return;
     // The same outline again takes no memory of its own.
@@ -293,7 +299,8 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
 bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const
 {
     const Node &node = m_tree.node(index);
-    if (!kept.geometry || kept.facts->viewport != facts.viewport || !isLaidOutAlike(kept.facts->style, facts.style))
+    if (!kept.geometry || kept.facts->viewport != facts.viewport ||
+        !isLaidOutAlike(*kept.facts->style, *facts.style))
         return false;
     return node.kind != ElementKind::Text || (kept.facts->referenceRevision == 0 && hasOneStyle(m_tree, node));
 }
@@ -301,17 +308,20 @@ bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts
 void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) const
 {
     const bool isText = node.kind == ElementKind::Text;
-    ComputedStyle style = facts->style;
+    ComputedStyle style = *facts->style;
     if (isText)
         style.fillRule = textFillRule;
     facts->hasGeometry = kept.hasGeometry;
     facts->localBounds = kept.localBounds;
-    QPainterPath whole;
-    for (const Outline &outline : kept.outlines) {
+    for (const Outline &outline : kept.outlines)
         addOutline(outline.path, style, isText, isText ? 1 : dashScale(node, style, outline.path), facts);
-        whole.addPath(outline.path);
-    }
-    facts->bounds = kept.toDocument == facts->toDocument ? kept.bounds : mappedBounds(*facts, whole);
+    if (kept.toDocument == facts->toDocument)
+        facts->bounds = kept.bounds;
+    else if (isText)
+        facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
+    else
+        facts->bounds =
+            mappedBounds(*facts, facts->outlines.isEmpty() ? QPainterPath() : facts->outlines.constFirst().path);
 }
 
 void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts) const
@@ -320,21 +330,29 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
         keepGeometry(m_tree.node(index), *kept.facts, facts);
         return;
     }
-    const TextOutlines text = layOutText(m_tree, index, facts->style, facts->viewport, &m_glyphs, m_fonts);
+    const TextOutlines text = layOutText(m_tree, index, *facts->style, facts->viewport, &m_glyphs, m_fonts);
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
-    QPainterPath whole;
-    for (const TextRun &run : text.runs)
-        whole.addPath(run.path);
     facts->hasGeometry = !text.runs.isEmpty();
-    facts->localBounds = whole.boundingRect();
-    facts->bounds = mappedBounds(*facts, whole);
     // Paint relates to the cells of the characters, not to what is drawn in them.
     if (facts->hasGeometry)
         facts->localBounds = text.cells;
     for (const TextRun &run : text.runs)
         addOutline(run.path, run.style, true, 1, facts);
+    facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
+}
+
+// The same reference, however often, is read once.
+std::shared_ptr<const ImageContent> Resolver::image(const QString &reference, Problem *problem) const
+{
+    const auto known = m_images.constFind(reference);
+    if (known != m_images.constEnd())
+        return *known;
+    const std::shared_ptr<const ImageContent> content = readImage(reference, problem);
+    if (content)
+        m_images.insert(reference, content);
+    return content;
 }
 
 void Resolver::resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const
@@ -346,13 +364,13 @@ void Resolver::resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts
     if (kept.image)
         facts->image = kept.facts->image;
     else if (!reference.isEmpty())
-        facts->image = readImage(reference, &problem);
+        facts->image = image(reference, &problem);
     warn(node, problem);
-    const LengthReader lengths(node, facts->style, facts->viewport);
+    const LengthReader lengths(node, *facts->style, facts->viewport);
     const ImagePlacement placement = imagePlacement(node, lengths, facts->image.get());
     facts->hasGeometry = true;
     facts->localBounds = placement.box;
-    facts->fit = placement.fit;
+    facts->ownFitting().fit = placement.fit;
     facts->bounds = mappedBounds(*facts, QPainterPath());
 }
 

@@ -2,6 +2,7 @@
 
 #include "resolve/facts.h"
 #include "resolve/gradients.h"
+#include "style/stylecache.h"
 #include "text/documentfonts.h"
 #include "text/glyphoutlines.h"
 #include "tree/message.h"
@@ -49,9 +50,11 @@ public:
     QTransform ownTransform(const Node &node, const Facts &facts) const;
 
 private:
+    StyleCache *styles() const;
     void resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     void resolvePlace(const Node &node, Facts *facts) const;
     void resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
+    std::shared_ptr<const ImageContent> image(const QString &reference, Problem *problem) const;
     void resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     bool keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const;
     void keepGeometry(const Node &node, const Facts &kept, Facts *facts) const;
@@ -68,6 +71,8 @@ private:
     DocumentFonts *m_fonts;
     Messages *m_messages;
     mutable GlyphOutlines m_glyphs;
+    mutable std::unique_ptr<StyleCache> m_styles;
+    mutable QHash<QString, std::shared_ptr<const ImageContent>> m_images;
     mutable std::array<QBrush, 7> m_brushes;
 };
 

@@ -2,6 +2,7 @@
 
 #include "grammar/csstext.h"
 #include "grammar/styleattribute.h"
+#include "inputlimits.h"
 #include "style/rules.h"
 #include "style/shorthands.h"
 #include "style/textproperties.h"
@@ -41,29 +42,50 @@ public:
     /// False when not all rules were looked at.
     bool collect(NodeIndex element);
     const QVarLengthArray<Declaration, 16> &list() const { return m_list; }
+    bool lacksCustomProperties() const { return m_customLeft < 0; }
 
 private:
+    /// False once the element may have no more of them.
+    bool takeCustomProperty();
     void addMatches(bool important);
     void addStyle(const QString &text, bool important);
     void addShorthand(const StyleDeclaration &declaration);
 
     const Tree &m_tree;
+    int m_customLeft = 0;
     QVarLengthArray<Declaration, 16> m_list;
     QVector<const QVector<RuleDeclaration> *> m_matches;
     /// Texts that the list's views look at.
     QVector<QString> m_texts;
 };
 
+// The more elements there are, the fewer each may have; the root is but one.
+int mostCustomProperties(const Tree &tree, NodeIndex element)
+{
+    return element == rootNode ? Limits::rootCustomProperties
+                               : qMax(Limits::leastCustomProperties, Limits::customProperties / tree.size());
+}
+
+bool DeclarationList::takeCustomProperty()
+{
+    m_customLeft = qMax(m_customLeft - 1, -1);
+    return m_customLeft >= 0;
+}
+
 // From the highest rank down: what rules say was accepted already, so that only the first on a property counts.
+// Custom properties are many under one id.
 void DeclarationList::addMatches(bool important)
 {
     std::bitset<256> known;
     const int before = m_list.size();
     for (const QVector<RuleDeclaration> *block : qAsConst(m_matches)) {
-        for (const RuleDeclaration &declaration : *block) {
+        for (int i = block->size() - 1; i >= 0; --i) {
+            const RuleDeclaration &declaration = block->at(i);
             if (declaration.important != important || known.test(size_t(declaration.property)))
                 continue;
-            known.set(size_t(declaration.property));
+            if (declaration.property == AttributeId::CustomProperty && !takeCustomProperty())
+                continue;
+            known.set(size_t(declaration.property), declaration.property != AttributeId::CustomProperty);
             m_list.append({declaration.property, declaration.value, false});
         }
     }
@@ -95,6 +117,8 @@ void DeclarationList::addStyle(const QString &text, bool important)
         if (isProperty(id) || isStyledAttribute(id)) {
             m_list.append({id, declaration.value});
         } else if (isCustomProperty(declaration.name)) {
+            if (!takeCustomProperty())
+                continue;
             m_texts.append(declaration.name.toString() + QLatin1Char(':') + declaration.value.toString());
             m_list.append({AttributeId::CustomProperty, m_texts.constLast()});
         } else {
@@ -106,6 +130,7 @@ void DeclarationList::addStyle(const QString &text, bool important)
 bool DeclarationList::collect(NodeIndex element)
 {
     bool complete = true;
+    m_customLeft = mostCustomProperties(m_tree, element);
     const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
@@ -181,19 +206,33 @@ bool applyDeclaration(const Declaration &declaration, const PropertyContext &con
     return true;
 }
 
-} // namespace
+void declareAll(const DeclarationList &declarations, ComputedStyle *style)
+{
+    bool declares = false;
+    for (const Declaration &declaration : declarations.list()) {
+        if (declaration.property != AttributeId::CustomProperty)
+            continue;
+        declare(declaration, style);
+        declares = true;
+    }
+    if (declares)
+        style->custom.settle();
+}
 
-ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, CascadeNotes *notes)
+/// The element that a style is worked out for.
+struct StyledElement
+{
+    const Tree &tree;
+    NodeIndex index;
+
+    bool isText() const { return isTextElement(tree.node(index).kind); }
+};
+
+ComputedStyle applied(const DeclarationList &declarations, const StyledElement &element,
+                      const PropertyContext &context, CascadeNotes *notes)
 {
     ComputedStyle style = inheritedStyle(context.parent);
-    DeclarationList declarations(tree);
-    const bool complete = declarations.collect(element);
-    if (notes)
-        notes->rulesLeftOut = !complete;
-    for (const Declaration &declaration : declarations.list()) {
-        if (declaration.property == AttributeId::CustomProperty)
-            declare(declaration, &style);
-    }
+    declareAll(declarations, &style);
     for (const bool first : {true, false}) {
         for (const Declaration &declaration : declarations.list()) {
             if (comesFirst(declaration.property) != first || declaration.property == AttributeId::CustomProperty)
@@ -202,12 +241,66 @@ ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext
                 notes->rejected.append({declaration.property, declaration.value.toString()});
         }
     }
-    if (element == rootNode)
-        style.font.rootSize = style.font.size;
     followColor(style.color, &style.fill);
     followColor(style.color, &style.stroke);
-    if (asksForLines(style) && !isTextElement(tree.node(element).kind))
+    if (asksForLines(style) && !element.isText())
         decorateTextBelow(style);
+    return style;
+}
+
+void collect(NodeIndex element, DeclarationList *declarations, CascadeNotes *notes)
+{
+    const bool complete = declarations->collect(element);
+    if (!notes)
+        return;
+    notes->rulesLeftOut = !complete;
+    notes->propertiesLeftOut = declarations->lacksCustomProperties();
+}
+
+// With the length of each value, so that no two lists give the same text.
+QString textOf(const DeclarationList &declarations)
+{
+    QString text;
+    for (const Declaration &declaration : declarations.list()) {
+        const auto length = uint(declaration.value.size());
+        text += QChar(ushort(declaration.property));
+        text += QChar(ushort(length));
+        text += QChar(ushort(length >> 16));
+        text += declaration.value;
+    }
+    return text;
+}
+
+} // namespace
+
+ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context, CascadeNotes *notes)
+{
+    DeclarationList declarations(tree);
+    collect(element, &declarations, notes);
+    ComputedStyle style = applied(declarations, {tree, element}, context, notes);
+    if (element == rootNode)
+        style.font.rootSize = style.font.size;
+    return style;
+}
+
+StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePointer &parent, const QSizeF &viewport,
+                           StyleCache *cache, CascadeNotes *notes)
+{
+    if (element == rootNode)
+        return StylePointer(new SharedStyle(cascade(tree, element, {*parent, viewport}, notes)));
+    DeclarationList declarations(tree);
+    collect(element, &declarations, notes);
+    if (declarations.list().isEmpty() && isInheritedWhole(*parent))
+        return parent;
+    const StyledElement styled{tree, element};
+    const StyleOrigin origin{parent, viewport, styled.isText(), textOf(declarations)};
+    StylePointer style = cache->find(origin);
+    if (style)
+        return style;
+    style = StylePointer(new SharedStyle(applied(declarations, styled, {*parent, viewport}, notes)));
+    // What is wrong is to be told of every element.
+    if (!notes || notes->rejected.isEmpty())
+        cache->insert(origin, style);
     return style;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "style/properties.h"
+#include "style/stylecache.h"
 #include "tree/tree.h"
 
 namespace Svg {
@@ -19,6 +20,8 @@ struct CascadeNotes
     QVector<RejectedValue> rejected;
     /// Whether not all rules were looked at, since that would have taken too long.
     bool rulesLeftOut = false;
+    /// Whether it declares more custom properties than it may.
+    bool propertiesLeftOut = false;
 };
 
 /// The style of an element: its parent's, its presentation attributes, the rules of style sheets, its style
@@ -26,6 +29,10 @@ struct CascadeNotes
 /// what was left out.
 ComputedStyle cascade(const Tree &tree, NodeIndex element, const PropertyContext &context,
                       CascadeNotes *notes = nullptr);
+
+/// The same, shared with the parent or with other elements where the same is said of them.
+StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePointer &parent, const QSizeF &viewport,
+                           StyleCache *cache, CascadeNotes *notes = nullptr);
 
 /// The style of an element where it stands in the tree, whatever uses it. Percentages count as 0.
 ComputedStyle styleInTree(const Tree &tree, NodeIndex element);

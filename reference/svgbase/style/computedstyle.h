@@ -6,6 +6,7 @@
 #include "style/textstyle.h"
 #include "tree/attributes.h"
 
+#include <QtCore/QSharedData>
 #include <QtCore/QVector>
 #include <QtGui/QColor>
 
@@ -85,10 +86,26 @@ struct ComputedStyle
     QSharedDataPointer<InlineStyle> inlineText;
 };
 
+/// A style that elements share that are styled alike.
+struct SharedStyle : QSharedData, ComputedStyle
+{
+    SharedStyle() = default;
+    explicit SharedStyle(const ComputedStyle &style)
+        : ComputedStyle(style)
+    {
+    }
+};
+using StylePointer = QExplicitlySharedDataPointer<const SharedStyle>;
+
+/// A style of initial values, shared.
+const StylePointer &initialStyle();
+
 /// Whether two styles give an element of the same attributes the same outlines. A false answer may be too careful.
 bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b);
 
 /// What a child starts from: the inherited values of its parent and initial values for the rest.
 ComputedStyle inheritedStyle(const ComputedStyle &parent);
+/// Whether a child starts from that very style, nothing in it being its parent's alone.
+bool isInheritedWhole(const ComputedStyle &parent);
 
 } // namespace Svg

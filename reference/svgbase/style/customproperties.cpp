@@ -8,7 +8,9 @@ namespace {
 constexpr int deepestReference = 16;
 constexpr int longestValue = 4096;
 /// Most references that one value is made of.
-constexpr int mostReferences = 256;
+constexpr int mostReferences = 64;
+/// Deepest nesting of elements that declare any; deeper ones declare none.
+constexpr int deepestLevel = 32;
 
 const QLatin1String variableStart("var(");
 
@@ -48,11 +50,10 @@ bool Substitution::appendReference(QStringView arguments, QString *result)
         return false;
     const qsizetype comma = arguments.indexOf(QLatin1Char(','));
     const QStringView name = comma < 0 ? arguments : arguments.left(comma);
-    const auto known = m_properties.constFind(name.trimmed().toString());
-    if (known == m_properties.constEnd())
+    const QString *known = m_properties.find(name.trimmed().toString());
+    if (!known)
         return comma >= 0 && append(arguments.mid(comma + 1).trimmed(), result);
-    const QString value = *known;
-    return append(value, result);
+    return append(*known, result);
 }
 
 bool Substitution::append(QStringView value, QString *result)
@@ -78,6 +79,43 @@ bool Substitution::append(QStringView value, QString *result)
 }
 
 } // namespace
+
+const QString *CustomProperties::find(const QString &name) const
+{
+    for (const Level *level = m_level.data(); level; level = level->above.data()) {
+        const auto known = level->values.constFind(name);
+        if (known != level->values.constEnd())
+            return known->isNull() ? nullptr : &*known;
+    }
+    return nullptr;
+}
+
+void CustomProperties::insert(const QString &name, const QString &value)
+{
+    // What is shared is the parent's.
+    if (!m_level || m_level->ref.loadRelaxed() > 1) {
+        if (m_level && m_level->depth >= deepestLevel)
+            return;
+        auto *fresh = new Level;
+        fresh->above = m_level;
+        fresh->depth = m_level ? m_level->depth + 1 : 1;
+        m_level = QExplicitlySharedDataPointer<Level>(fresh);
+    }
+    m_level->values.insert(name, value.isNull() ? QStringLiteral("") : value);
+}
+
+void CustomProperties::settle()
+{
+    if (!m_level)
+        return;
+    QHash<QString, QString> settled;
+    for (auto at = m_level->values.constBegin(); at != m_level->values.constEnd(); ++at) {
+        if (hasVariables(*at))
+            settled.insert(at.key(), withVariables(*at, *this).value_or(QString()));
+    }
+    for (auto at = settled.constBegin(); at != settled.constEnd(); ++at)
+        m_level->values[at.key()] = *at;
+}
 
 bool hasVariables(QStringView value)
 {

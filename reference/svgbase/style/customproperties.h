@@ -1,14 +1,38 @@
 #pragma once
 
 #include <QtCore/QHash>
+#include <QtCore/QSharedData>
 #include <QtCore/QString>
 
 #include <optional>
 
 namespace Svg {
 
-/// Values of custom properties by their names, "--" included.
-using CustomProperties = QHash<QString, QString>;
+/// Values of custom properties by their names, "--" included: what an element declares in front of what it
+/// inherits, which it shares with the element that declared it.
+class CustomProperties
+{
+public:
+    /// The value of a property; null when there is none.
+    const QString *find(const QString &name) const;
+    /// Declares a property in front of what was copied from the parent.
+    void insert(const QString &name, const QString &value);
+    /// Replaces what was declared by what its references stand for here, so that children inherit that (CSS Custom
+    /// Properties 1 §2.2). What refers to nothing is no value.
+    void settle();
+
+private:
+    struct Level;
+    QExplicitlySharedDataPointer<Level> m_level;
+};
+
+struct CustomProperties::Level : QSharedData
+{
+    QExplicitlySharedDataPointer<Level> above;
+    int depth = 1;
+    /// A null text hides a value above without being one.
+    QHash<QString, QString> values;
+};
 
 inline bool isCustomProperty(QStringView name)
 {

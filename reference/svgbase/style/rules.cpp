@@ -36,11 +36,16 @@ void report(const Node &style, const StyleProblem &problem, Messages *messages)
                    style.line + lines, column, style.attributes.value(AttributeId::Id));
 }
 
-QVector<QString> classesOf(const Node &node)
+// `complete` is set to false when there are more than are looked at.
+QVector<QString> classesOf(const Node &node, bool *complete)
 {
     QVector<QString> result;
-    forEachWord(node.attributes.view(AttributeId::Class), Limits::classes,
+    forEachWord(node.attributes.view(AttributeId::Class), Limits::classes + 1,
                 [&result](QStringView name) { result.append(name.toString()); });
+    if (result.size() > Limits::classes) {
+        *complete = false;
+        result.removeLast();
+    }
     std::sort(result.begin(), result.end());
     result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;
@@ -55,9 +60,12 @@ QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
         const int key = 2 * int(block.at(i).property) + (block.at(i).important ? 1 : 0);
         if (known.contains(key))
             continue;
-        known.insert(key);
-        result.prepend(block.at(i));
+        // Custom properties are many under one id.
+        if (block.at(i).property != AttributeId::CustomProperty)
+            known.insert(key);
+        result.append(block.at(i));
     }
+    std::reverse(result.begin(), result.end());
     return result;
 }
 
@@ -200,14 +208,15 @@ bool StyleRules::match(const Tree &tree, NodeIndex element,
     const QString id = node.attributes.value(AttributeId::Id);
     if (!id.isEmpty())
         tryAll(m_byId.value(id));
-    const QVector<QString> classes = m_byClass.isEmpty() ? QVector<QString>() : classesOf(node);
+    bool complete = true;
+    const QVector<QString> classes = m_byClass.isEmpty() ? QVector<QString>() : classesOf(node, &complete);
     for (const QString &name : classes)
         tryAll(m_byClass.value(name));
     tryAll(m_byTag.value(localName(node)));
     tryAll(m_universal);
     for (const int place : qAsConst(found))
         matches->append(&m_blocks.at(m_entries.at(place).block));
-    return !matcher.isExhausted();
+    return complete && !matcher.isExhausted();
 }
 
 void appendLonghands(const QString &name, const QString &value, bool important, QVector<RuleDeclaration> *list)

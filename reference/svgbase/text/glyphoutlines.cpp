@@ -1,5 +1,7 @@
 #include "text/glyphoutlines.h"
 
+#include "resolve/pathslack.h"
+
 namespace Svg {
 
 const QPainterPath &GlyphOutlines::outline(const QRawFont &font, quint32 glyph)
@@ -7,7 +9,7 @@ const QPainterPath &GlyphOutlines::outline(const QRawFont &font, quint32 glyph)
     QHash<quint32, QPainterPath> &ofFont = m_outlines[font];
     auto known = ofFont.find(glyph);
     if (known == ofFont.end())
-        known = ofFont.insert(glyph, font.pathForGlyph(glyph));
+        known = ofFont.insert(glyph, withoutSlack(font.pathForGlyph(glyph)));
     return *known;
 }
 

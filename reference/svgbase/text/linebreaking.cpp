@@ -37,6 +37,7 @@ public:
 private:
     bool isSpace(int character) const;
     QVector<int> lineBegins() const;
+    void beginLine(int character, const QPointF &place);
     void setLines(const QVector<int> &begins);
     void emptyLineEnd(int character);
 
@@ -85,6 +86,14 @@ void LineBreaker::emptyLineEnd(int character)
         m_content.text[m_content.characters.at(i).begin] = QChar(zeroWidthSpace);
 }
 
+void LineBreaker::beginLine(int character, const QPointF &place)
+{
+    TextCharacter placed = m_content.characters.at(character);
+    placed.x = place.x();
+    placed.y = place.y();
+    m_content.characters.replace(character, placed);
+}
+
 void LineBreaker::setLines(const QVector<int> &begins)
 {
     const double distance = lineDistance(m_content.levels.first());
@@ -94,13 +103,11 @@ void LineBreaker::setLines(const QVector<int> &begins)
         character.x.reset();
         character.y.reset();
     }
-    m_content.characters.first().x = place.x();
-    m_content.characters.first().y = place.y();
+    beginLine(0, place);
     for (const int begin : begins) {
         place += step;
         emptyLineEnd(begin - 1);
-        m_content.characters[begin].x = place.x();
-        m_content.characters[begin].y = place.y();
+        beginLine(begin, place);
     }
 }
 

@@ -206,10 +206,10 @@ QString TextCollector::referredText(const Node &tref) const
     const NodeIndex target = referred(tref);
     QString text;
     for (NodeIndex at = target; at != noNode; at = m_tree.following(at, target)) {
-        if (m_tree.node(at).kind == ElementKind::Characters && text.size() < Limits::textCharacters)
+        if (m_tree.node(at).kind == ElementKind::Characters && text.size() < Limits::trefCharacters)
             text += m_tree.node(at).text;
     }
-    return text.left(Limits::textCharacters - m_content.text.size());
+    return text.left(Limits::trefCharacters);
 }
 
 void TextCollector::visit(NodeIndex index)

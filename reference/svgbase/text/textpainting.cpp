@@ -1,5 +1,6 @@
 #include "text/textpainting.h"
 
+#include "inputlimits.h"
 #include "style/textproperties.h"
 #include "text/fontmeasures.h"
 
@@ -31,9 +32,9 @@ struct Line
 class TextPainter
 {
 public:
-    TextPainter(const TextContent &content, const QVector<PlacedCluster> &clusters)
+    TextPainter(const TextContent &content, QVector<PlacedCluster> clusters)
         : m_content(content)
-        , m_clusters(clusters)
+        , m_clusters(std::move(clusters))
     {
     }
 
@@ -45,13 +46,16 @@ private:
     double shiftOf(const TextLevel &level, const FontMeasures &font) const;
     QTransform glyphTransform(const PlacedCluster &cluster) const;
     void addGlyphs();
+    bool isDrawn(const PlacedCluster &cluster) const;
+    int addRun(int first);
     void addCells();
     void addLines(const Line &line);
     void addLine(int level, const Line &line, const ComputedStyle &paint);
     int firstClusterOf(int character) const;
 
     const TextContent &m_content;
-    const QVector<PlacedCluster> &m_clusters;
+    /// Their outlines are let go once they are part of a run.
+    QVector<PlacedCluster> m_clusters;
     QHash<QString, FontMeasures> m_fonts;
     QVector<LevelMeasures> m_levels;
     TextOutlines m_result;
@@ -124,16 +128,44 @@ QTransform TextPainter::glyphTransform(const PlacedCluster &cluster) const
 
 void TextPainter::addGlyphs()
 {
-    int before = -1;
-    for (const PlacedCluster &cluster : m_clusters) {
-        const int level = cluster.glyphs.level;
-        if (!cluster.shown || !m_content.levels.at(level).style.visible || cluster.glyphs.outline.isEmpty())
-            continue;
-        if (level != before)
-            m_result.runs.append({m_levels.at(level).paint, QPainterPath()});
-        before = level;
-        m_result.runs.last().path.addPath(glyphTransform(cluster).map(cluster.glyphs.outline));
+    for (int i = 0; i < m_clusters.size();) {
+        if (isDrawn(m_clusters.at(i)))
+            i = addRun(i);
+        else
+            ++i;
     }
+}
+
+bool TextPainter::isDrawn(const PlacedCluster &cluster) const
+{
+    return cluster.shown && m_content.levels.at(cluster.glyphs.level).style.visible &&
+           !cluster.glyphs.outline.isEmpty();
+}
+
+// The glyphs from one that is drawn up to those of another level. Returns where the next run may begin.
+int TextPainter::addRun(int first)
+{
+    const int level = m_clusters.at(first).glyphs.level;
+    int elements = 0;
+    int end = first;
+    while (end < m_clusters.size() && elements < Limits::textRunElements) {
+        const PlacedCluster &cluster = m_clusters.at(end);
+        if (isDrawn(cluster) && cluster.glyphs.level != level)
+            break;
+        elements += isDrawn(cluster) ? cluster.glyphs.outline.elementCount() : 0;
+        ++end;
+    }
+    QPainterPath path;
+    for (int i = first; i < end; ++i) {
+        if (!isDrawn(m_clusters.at(i)))
+            continue;
+        path.addPath(glyphTransform(m_clusters.at(i)).map(m_clusters.at(i).glyphs.outline));
+        m_clusters[i].glyphs.outline = QPainterPath();
+        // Not before: an empty path takes over what is added together with its room.
+        path.reserve(elements);
+    }
+    m_result.runs.append({m_levels.at(level).paint, path});
+    return end;
 }
 
 // The bounding box of a text is that of its character cells (SVG 2 §8.10).
@@ -232,9 +264,9 @@ TextOutlines TextPainter::paint()
 
 } // namespace
 
-TextOutlines paintedText(const TextContent &content, const QVector<PlacedCluster> &clusters)
+TextOutlines paintedText(const TextContent &content, QVector<PlacedCluster> clusters)
 {
-    return TextPainter(content, clusters).paint();
+    return TextPainter(content, std::move(clusters)).paint();
 }
 
 } // namespace Svg

@@ -6,6 +6,6 @@
 namespace Svg {
 
 /// The outlines of placed characters and of the lines that decorate them, in painting order.
-TextOutlines paintedText(const TextContent &content, const QVector<PlacedCluster> &clusters);
+TextOutlines paintedText(const TextContent &content, QVector<PlacedCluster> clusters);
 
 } // namespace Svg

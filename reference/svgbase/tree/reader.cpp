@@ -12,11 +12,8 @@ namespace {
 
 bool readUncompressed(const QByteArray &text, Tree *tree, Messages *messages)
 {
-    if (text.size() > Limits::textBytes) {
-        messages->fail(Message::TextTooLong,
-                       QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes), 0, 0);
+    if (isTextTooLong(text, messages))
         return false;
-    }
     Tree plainTree = *tree;
     Messages plainMessages = *messages;
     TreeBuilder builder(&plainTree, &plainMessages);

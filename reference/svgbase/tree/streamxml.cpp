@@ -109,11 +109,23 @@ QTextCodec *foreignCodec(const QByteArray &text, const QByteArray &declared)
 
 } // namespace
 
+bool isTextTooLong(const QByteArray &text, Messages *messages)
+{
+    if (text.size() <= Limits::textBytes)
+        return false;
+    messages->fail(Message::TextTooLong, QStringLiteral("The text is longer than %1 bytes.").arg(Limits::textBytes),
+                   0, 0);
+    return true;
+}
+
 bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages)
 {
     const QByteArray declared = declaredEncoding(text);
     const QTextCodec *codec = foreignCodec(text, declared);
     const QByteArray decoded = codec ? codec->toUnicode(text).toUtf8() : text;
+    // Other encodings may take fewer bytes.
+    if (isTextTooLong(decoded, messages))
+        return false;
     const std::optional<QByteArray> thinned = withoutCrowdedTags(decoded);
     if (!thinned) {
         messages->fail(Message::TooManyAttributes,

@@ -9,4 +9,7 @@ namespace Svg {
 /// this is false.
 bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages);
 
+/// Whether a text has more bytes than the limit; then a message says so.
+bool isTextTooLong(const QByteArray &text, Messages *messages);
+
 } // namespace Svg

@@ -83,6 +83,12 @@ ElementKind TreeBuilder::kindOfElement(const XmlElement &element, XmlPlace place
                          place.column, idOfElement(element));
         return ElementKind::Other;
     }
+    if (kind == ElementKind::Tref && ++m_trefs > Limits::trefs) {
+        m_messages->warn(Message::TooManyCharacters,
+                         QStringLiteral("References to texts beyond %1 are left out.").arg(Limits::trefs),
+                         place.line, place.column, idOfElement(element));
+        return ElementKind::Other;
+    }
     if (kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient)
         m_stops = 0;
     if (kind == ElementKind::Stop && ++m_stops > Limits::gradientStops) {
