@@ -55,6 +55,8 @@ private Q_SLOTS:
     void placeholderIsADashedBox();
     void placeholderCannotBeReshaped();
     void brokenStateBecomesAPlaceholder();
+    void brokenObjectKeepsItsBytes_data();
+    void brokenObjectKeepsItsBytes();
     void hugeObjectBecomesAPlaceholder_data() { addFormats(); }
     void hugeObjectBecomesAPlaceholder();
     void brokenJsonIsToldWithLineAndColumn();
@@ -213,6 +215,49 @@ void TestPlaceholders::brokenStateBecomesAPlaceholder()
         QVERIFY(isPlaceholder(firstObject(opened)));
         QCOMPARE(encodeDocument(*opened.document, format), bytes);
     }
+}
+
+void TestPlaceholders::brokenObjectKeepsItsBytes_data()
+{
+    QTest::addColumn<DocumentFormat>("format");
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("kept");
+    // The rotation, 10 as a double, becomes one that is no number.
+    const QByteArray rotation = QByteArray::fromHex("4024000000000000");
+    const QByteArray noNumber = QByteArray::fromHex("7ff8000000000000");
+    QByteArray binary = encodeDocument(*documentWithObject(), DocumentFormat::Binary);
+    QCOMPARE(binary.count(rotation), 1);
+    binary.replace(rotation, noNumber);
+    QTest::newRow("binary") << DocumentFormat::Binary << binary << noNumber;
+    const QByteArray object = "{\"kind\": \"test.plain\", \"data\": {\"pos\": }}";
+    QTest::newRow("json that is none") << DocumentFormat::Json << json(object) << object;
+    const QByteArray data = "{\"pos\": [1, 2, 3], \"rotation\": \"ten\"}";
+    QTest::newRow("json of wrong types")
+        << DocumentFormat::Json << json("{\"kind\": \"test.plain\", \"data\": " + data + "}")
+        << QByteArray("\"ten\"");
+}
+
+/// However often and in whatever format the file is saved meanwhile.
+void TestPlaceholders::brokenObjectKeepsItsBytes()
+{
+    QFETCH(DocumentFormat, format);
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, kept);
+    const DocumentFormat other = format == DocumentFormat::Json ? DocumentFormat::Binary : DocumentFormat::Json;
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QVERIFY(isPlaceholder(firstObject(opened)));
+    const QByteArray saved = encodeDocument(*opened.document, format);
+    QVERIFY(saved.contains(kept) || saved.contains(kept.toBase64()));
+
+    const OpenResult again = decodeDocument(saved, m_registry);
+    QVERIFY(isPlaceholder(firstObject(again)));
+    QVERIFY(!again.messages.isEmpty());
+    QCOMPARE(encodeDocument(*again.document, format), saved);
+
+    const OpenResult converted = decodeDocument(encodeDocument(*again.document, other), m_registry);
+    QVERIFY(isPlaceholder(firstObject(converted)));
+    QVERIFY(!converted.messages.isEmpty());
+    QCOMPARE(encodeDocument(*converted.document, format), saved);
 }
 
 /// A picture of it would take more memory than there is.

@@ -86,6 +86,8 @@ void TestAttributeMap::aColourBecomesASolidFill()
 {
     QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QColor(Qt::green)}}, false));
     QCOMPARE(fixture->shape->document->getAllFillBrush(), QBrush(QColor(Qt::green)));
+    QCOMPARE(recording::calls("shape", "setFillBrush").first().arguments,
+             QVariantList({QBrush(QColor(Qt::green)), false, true}));
 }
 
 void TestAttributeMap::anEmptyMapChangesNothing()

@@ -179,6 +179,8 @@ void TestStream::theFillComesFromThePageObject()
     QColor expected(10, 20, 30);
     expected.setAlphaF(51 / 255.0);
     QCOMPARE(fixture.shape->document->getAllFillBrush(), QBrush(expected));
+    QCOMPARE(recording::calls("shape", "setFillBrush").first().arguments,
+             QVariantList({QBrush(expected), false, true}));
 }
 
 void TestStream::aDisabledFillOfThePageObjectLeavesTheTemplates()
