@@ -168,11 +168,8 @@ void movingPage(benchmark::State &state, int movingCount)
 void registerAnimationBenchmarks()
 {
     for (const QString &kind : movingKinds()) {
-        const QVector<BenchTemplate> &all = benchTemplates();
-        const auto source = std::find_if(all.cbegin(), all.cend(), [&kind](const BenchTemplate &candidate) {
-            return candidate.name == templateName(kind);
-        });
-        if (source == all.cend())
+        const BenchTemplate *source = findTemplate(templateName(kind));
+        if (!source)
             continue;
         const std::string name = source->name.toStdString();
         benchmark::RegisterBenchmark(("animation-tick/peer/" + name).c_str(), tickPeer, *source);

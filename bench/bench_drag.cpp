@@ -1,16 +1,15 @@
 // One step of a drag: mouse event in, 256 × 256 picture of the object out. The peer does what an application
-// without control points would: change the text, load it, render it.
+// without control points would: load the text of how the object looks now, and render it.
 
 #include "pageobjects.h"
-#include "templates.h"
+
+#include <pagehost/objectregistry.h>
 
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
 
 #include <benchmark/benchmark.h>
-
-#include <algorithm>
 
 namespace {
 
@@ -31,31 +30,52 @@ QPointF findControlPoint(CBaseObject *object)
     return {};
 }
 
-void dragStep(benchmark::State &state, const QString &kindId)
+/// An object that is being dragged by a control point; `grip` is where it was taken.
+struct Dragged
 {
-    const std::unique_ptr<CBaseObject> object = makeShape(kindId, QSizeF(side, side));
-    object->setAllAttributes({{QStringLiteral("doc_state_edit"), true}}, false);
-    const QPointF grip = findControlPoint(object.get());
-    if (grip.isNull()) {
-        state.SkipWithError("no control point found");
-        return;
+    std::unique_ptr<CBaseObject> object;
+    QPointF grip;
+
+    void moveBy(double distance) const
+    {
+        sendMouse(object.get(), QEvent::GraphicsSceneMouseMove, grip + QPointF(distance, distance));
     }
-    sendMouse(object.get(), QEvent::GraphicsSceneMousePress, grip);
-    double step = 1;
-    for (auto _ : state) {
-        step = step == 1 ? 2 : 1;
-        sendMouse(object.get(), QEvent::GraphicsSceneMouseMove, grip + QPointF(step, step));
-    }
-    sendMouse(object.get(), QEvent::GraphicsSceneMouseRelease, grip);
+    QByteArray look() const { return shapeRegistry().dataOf(object.get(), QStringLiteral("image/svg+xml")); }
+};
+
+Dragged beginDrag(const QString &kindId)
+{
+    Dragged dragged{makeShape(kindId, QSizeF(side, side)), {}};
+    dragged.object->setAllAttributes({{QStringLiteral("doc_state_edit"), true}}, false);
+    dragged.grip = findControlPoint(dragged.object.get());
+    sendMouse(dragged.object.get(), QEvent::GraphicsSceneMousePress, dragged.grip);
+    return dragged;
 }
 
-void dragStepPeer(benchmark::State &state, const BenchTemplate &source)
+void dragStep(benchmark::State &state, const QString &kindId)
 {
-    QImage image(side, side, QImage::Format_ARGB32);
+    const Dragged dragged = beginDrag(kindId);
     double step = 1;
     for (auto _ : state) {
         step = step == 1 ? 2 : 1;
-        QSvgRenderer renderer(withMovedNode(source, 20 + step));
+        dragged.moveBy(step);
+    }
+    sendMouse(dragged.object.get(), QEvent::GraphicsSceneMouseRelease, dragged.grip);
+}
+
+void dragStepPeer(benchmark::State &state, const QString &kindId)
+{
+    const Dragged dragged = beginDrag(kindId);
+    QByteArray looks[2];
+    for (int i = 0; i < 2; ++i) {
+        dragged.moveBy(i + 1);
+        looks[i] = dragged.look();
+    }
+    QImage image(side, side, QImage::Format_ARGB32);
+    int step = 0;
+    for (auto _ : state) {
+        step = 1 - step;
+        QSvgRenderer renderer(looks[step]);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         renderer.render(&painter, QRectF(0, 0, side, side));
@@ -67,14 +87,10 @@ void dragStepPeer(benchmark::State &state, const BenchTemplate &source)
 void registerDragBenchmarks()
 {
     for (const QString &kind : shapeKinds()) {
-        const QVector<BenchTemplate> &all = benchTemplates();
-        const auto source = std::find_if(all.cbegin(), all.cend(), [&kind](const BenchTemplate &candidate) {
-            return candidate.name == templateName(kind);
-        });
-        if (source == all.cend())
+        if (beginDrag(kind).grip.isNull())
             continue;
-        const std::string name = source->name.toStdString();
-        benchmark::RegisterBenchmark(("drag-step/peer/" + name).c_str(), dragStepPeer, *source);
+        const std::string name = templateName(kind).toStdString();
+        benchmark::RegisterBenchmark(("drag-step/peer/" + name).c_str(), dragStepPeer, kind);
         benchmark::RegisterBenchmark(("drag-step/gliololok/" + name).c_str(), dragStep, kind);
     }
 }

@@ -4,7 +4,6 @@
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
@@ -17,8 +16,7 @@ BenchTemplate readTemplate(const QString &path)
         qFatal("cannot read %s", qPrintable(path));
     const QFileInfo info(path);
     const bool inShapeFolder = info.fileName() == QStringLiteral("template.svg");
-    return {inShapeFolder ? info.dir().dirName() : info.completeBaseName(), file.readAll(),
-            QStringLiteral("control_1")};
+    return {inShapeFolder ? info.dir().dirName() : info.completeBaseName(), file.readAll()};
 }
 
 QVector<BenchTemplate> readTemplates()
@@ -42,16 +40,16 @@ const QVector<BenchTemplate> &benchTemplates()
     return templates;
 }
 
+const BenchTemplate *findTemplate(const QString &name)
+{
+    const QVector<BenchTemplate> &all = benchTemplates();
+    const auto found = std::find_if(all.cbegin(), all.cend(),
+                                    [&name](const BenchTemplate &candidate) { return candidate.name == name; });
+    return found == all.cend() ? nullptr : &*found;
+}
+
 QByteArray neverSeen(const BenchTemplate &source)
 {
     static quint64 number = 0;
     return source.text + "<!-- " + QByteArray::number(++number) + " -->";
-}
-
-QByteArray withMovedNode(const BenchTemplate &source, double x)
-{
-    static const QRegularExpression position(QStringLiteral("id=\"control_1\" x=\"[^\"]*\""));
-    QString text = QString::fromUtf8(source.text);
-    text.replace(position, QStringLiteral("id=\"control_1\" x=\"%1\"").arg(x));
-    return text.toUtf8();
 }
