@@ -50,6 +50,7 @@ private Q_SLOTS:
     void objectIsBackThroughTheOtherFormat();
     void movedPlaceholderTakesItsObjectAlong_data() { addFormats(); }
     void movedPlaceholderTakesItsObjectAlong();
+    void lockedPlaceholderStaysLocked();
     void placeholderIsDeletedAndComesBack();
     void placeholderIsDuplicated();
     void placeholderIsADashedBox();
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void unknownPartsOfABinaryFileAreKept();
     void unknownPartsOfAJsonFileAreKept();
     void unknownPartsGoThroughTheOtherFormat();
+    void cutFileTellsWhatIsMissing();
     void newerVersionIsRefused_data();
     void newerVersionIsRefused();
     void fileThatIsNoDocumentIsRefused_data();
@@ -146,6 +148,16 @@ void TestPlaceholders::movedPlaceholderTakesItsObjectAlong()
     undoStack()->undo();
     undoStack()->undo();
     QCOMPARE(encodeDocument(*ignorant.document, format), bytes);
+}
+
+void TestPlaceholders::lockedPlaceholderStaysLocked()
+{
+    const OpenResult opened =
+        decodeDocument(encodeDocument(*documentWithObject(), DocumentFormat::Binary), m_ignorant);
+    QVERIFY(setObjectsLocked({firstObject(opened)}, true));
+    const OpenResult again = decodeDocument(encodeDocument(*opened.document, DocumentFormat::Binary), m_registry);
+    QVERIFY(firstObject(again)->isLocked());
+    QCOMPARE(firstObject(again)->getPos(), QPointF(50, 60));
 }
 
 void TestPlaceholders::placeholderIsDeletedAndComesBack()
@@ -348,6 +360,23 @@ void TestPlaceholders::unknownPartsGoThroughTheOtherFormat()
         QVERIFY(opened.document->extraData() == extra);
         QVERIFY(opened.document->page(0)->extraData() == extra);
     }
+}
+
+void TestPlaceholders::cutFileTellsWhatIsMissing()
+{
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->appendPage();
+    const QByteArray bytes = encodeDocument(*document, DocumentFormat::Binary);
+    const OpenResult withoutObject = decodeDocument(bytes.left(bytes.indexOf("OBJT")), m_registry);
+    QCOMPARE(textKeys(withoutObject.messages),
+             QStringList({QStringLiteral("IDS_FILE_OBJECTS_MISSING"), QStringLiteral("IDS_FILE_PAGES_MISSING"),
+                          QStringLiteral("IDS_FILE_ENDS_EARLY")}));
+    QCOMPARE(withoutObject.messages[0].arguments, QStringList{QStringLiteral("1")});
+    QCOMPARE(withoutObject.messages[1].arguments, QStringList{QStringLiteral("1")});
+    const OpenResult withoutPage = decodeDocument(bytes.left(bytes.lastIndexOf("PAGE")), m_registry);
+    QCOMPARE(textKeys(withoutPage.messages),
+             QStringList({QStringLiteral("IDS_FILE_PAGES_MISSING"), QStringLiteral("IDS_FILE_ENDS_EARLY")}));
+    QVERIFY(firstObject(withoutPage));
 }
 
 void TestPlaceholders::newerVersionIsRefused_data()
