@@ -13,7 +13,7 @@ constexpr double workPerCrossing = 10;
 constexpr double workPerStep = 0.5;
 constexpr double workPerElement = 50;
 constexpr double workPerStrokedPiece = 1000;
-constexpr double workPerPixel = 0.5;
+constexpr double workPerPixel = 1;
 constexpr double sidesOfStroke = 2;
 
 double lengthOf(const QPainterPath &path)
