@@ -45,6 +45,7 @@ private slots:
     void attributeCountIsLimitedInsideEntities();
     void attributesInCommentsAndDataDoNotCount();
     void crowdedTagsAreFoundBehindWhatLooksLikeQuotes();
+    void crowdedTagsWithoutSpacesStayInTheirRoom();
     void crowdedTagsKeepTheLinesOfWhatFollows();
     void namespaceDeclarationsAreLimited();
     void tenMegabytesOfPathDataAreCut();
@@ -152,6 +153,19 @@ void TestBadInput::crowdedTagsAreFoundBehindWhatLooksLikeQuotes()
         QVERIFY(thinned);
         QCOMPARE(thinned->size(), start.size() + crowded.size());
         QVERIFY(!thinned->contains("a='1'"));
+    }
+}
+
+void TestBadInput::crowdedTagsWithoutSpacesStayInTheirRoom()
+{
+    for (const QByteArray &tag :
+         {"<g" + QByteArray("\"\"").repeated(300) + ">", "<" + QByteArray("''").repeated(300) + "/>"}) {
+        const std::optional<QByteArray> thinned = withoutCrowdedTags("<svg>" + tag + "</svg>");
+        QVERIFY(thinned);
+        QCOMPARE(thinned->size(), 5 + tag.size() + 6);
+        QVERIFY(thinned->startsWith("<svg><") && thinned->endsWith("></svg>"));
+        QVERIFY(thinned->contains(" gliololok-crowded-tag='' "));
+        QVERIFY(!failure("<svg>" + tag + "</svg>").isEmpty());
     }
 }
 

@@ -99,9 +99,10 @@ Scan scanMarkup(const char *at, const char *end)
     return scanTag(at, end);
 }
 
+// A quote does so too, though not in XML: behind the name there must be room for the mark.
 bool endsName(char c)
 {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '/' || c == '>';
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '/' || c == '>' || c == '"' || c == '\'';
 }
 
 // Lines keep their numbers: all ends of lines move to the end of the tag.
@@ -112,6 +113,7 @@ void replaceAttributes(char *at, char *end)
     if (end[-1] == '/')
         --end;
     const auto lines = std::count(at, end, '\n');
+    // Shorter than the quotes of as many values as there must be.
     const QByteArray mark = " " + QByteArray(crowdedMark.data(), crowdedMark.size()) + "=''";
     memcpy(at, mark.constData(), size_t(mark.size()));
     memset(at + mark.size(), ' ', size_t(end - at) - size_t(mark.size()));
