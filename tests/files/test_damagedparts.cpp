@@ -1,0 +1,280 @@
+#include "chunkedit.h"
+#include "filetest.h"
+
+#include <cmath>
+#include <limits>
+
+// Binary files with one part that holds nonsense: what is told about it, and that the rest is there.
+
+using namespace pagehost;
+
+namespace {
+
+const QString damagedPart = QStringLiteral("IDS_FILE_DAMAGED_PART");
+
+/// Two pages of 400 by 300 with two objects each.
+std::unique_ptr<Document> fourObjects()
+{
+    auto document = std::make_unique<Document>();
+    for (int pages = 0; pages < 2; ++pages) {
+        Page *page = document->appendPage(QSizeF(400, 300));
+        addPlain(page, QPointF(50, 60));
+        addPlain(page, QPointF(70, 80));
+    }
+    return document;
+}
+
+QByteArray fileOf(Document &document)
+{
+    return encodeDocument(document, DocumentFormat::Binary);
+}
+
+QByteArray bytesOf(double number)
+{
+    QByteArray bytes(8, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+/// Changes a byte of the payload of the first chunk with that tag, and not its sum.
+QByteArray withWrongSum(QByteArray file, const QByteArray &tag, int place = 0)
+{
+    char &byte = file.data()[file.indexOf(tag) + 16 + place];
+    byte = char(byte ^ 1);
+    return file;
+}
+
+// Of an object's payload: flags, the kind's length, the kind, and what the flags announce.
+const QByteArray kind = "test.plain";
+const QByteArray kindWithLength = QByteArray("\x00\x0a", 2) + kind;
+
+} // namespace
+
+class TestDamagedParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pageOfAnImpossibleSizeIsTold_data();
+    void pageOfAnImpossibleSizeIsTold();
+    void pageWithABrokenBackgroundIsTold();
+    void damagedPageTellsOfNoMissingObjects();
+    void objectThatCannotBeReadIsTold_data();
+    void objectThatCannotBeReadIsTold();
+    void objectIsNotPlacedNowhere_data();
+    void objectIsNotPlacedNowhere();
+    void messagesCountTheObjectsOfEachPage();
+    void missingObjectsAreCountedOnEachPage();
+    void brokenLessonIsToldAndTheOthersStay_data();
+    void brokenLessonIsToldAndTheOthersStay();
+    void damagedUnknownPartIsToldAndLeftOut();
+    void unknownPartsStayWithTheirPage();
+    void bytesBehindTheEndAreTold();
+    void damagedHeadIsTold();
+    void damagedEndIsTold();
+    void documentWithoutPagesGetsOne();
+
+private:
+    FileTestRegistry m_registry;
+};
+
+void TestDamagedParts::pageOfAnImpossibleSizeIsTold_data()
+{
+    QTest::addColumn<QByteArray>("size");
+    QTest::newRow("no width") << bytesOf(0) + bytesOf(300);
+    QTest::newRow("negative height") << bytesOf(400) + bytesOf(-300);
+    QTest::newRow("no number") << bytesOf(std::numeric_limits<double>::quiet_NaN()) + bytesOf(300);
+    QTest::newRow("endless") << bytesOf(400) + bytesOf(std::numeric_limits<double>::infinity());
+}
+
+void TestDamagedParts::pageOfAnImpossibleSizeIsTold()
+{
+    QFETCH(QByteArray, size);
+    const QByteArray file = fileOf(*fourObjects());
+    const OpenResult opened =
+        decodeDocument(withPayload(file, "PAGE", size + payloadOf(file, "PAGE").mid(16)), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_PAGE_DAMAGED")});
+    QCOMPARE(opened.messages[0].page, 1);
+    QCOMPARE(opened.messages[0].offset, qint64(file.indexOf("PAGE")));
+    QCOMPARE(opened.document->page(0)->size(), Document::defaultPageSize());
+    QCOMPARE(opened.document->page(0)->objectCount(), 2);
+    QCOMPARE(opened.document->page(1)->size(), QSizeF(400, 300));
+}
+
+void TestDamagedParts::pageWithABrokenBackgroundIsTold()
+{
+    const QByteArray file = fileOf(*fourObjects());
+    QByteArray payload = payloadOf(file, "PAGE");
+    payload.replace(21, 4, bigEndian(0x7fffffff)); // the sort of filling, behind size, count and one more byte
+    const OpenResult opened = decodeDocument(withPayload(file, "PAGE", payload), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_PAGE_DAMAGED")});
+    QCOMPARE(opened.document->page(0)->size(), QSizeF(400, 300));
+    QCOMPARE(opened.document->page(0)->objectCount(), 2);
+    QCOMPARE(opened.document->page(0)->background().fillColor(), Document().appendPage()->background().fillColor());
+}
+
+/// Its count is as doubtful as the rest of it.
+void TestDamagedParts::damagedPageTellsOfNoMissingObjects()
+{
+    const QByteArray file = withWrongSum(fileOf(*fourObjects()), "PAGE", 16); // the count's highest byte
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_PAGE_DAMAGED")});
+    QCOMPARE(opened.document->page(0)->objectCount(), 2);
+}
+
+void TestDamagedParts::objectThatCannotBeReadIsTold_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("ends in the length of the kind") << QByteArray("\x00\x00", 2);
+    QTest::newRow("ends in the kind") << QByteArray("\x00\x00\x0b", 3) + kind;
+    QTest::newRow("a kind of 1001 letters") << QByteArray("\x00\x03\xe9", 3) + QByteArray(1001, 'k');
+    QTest::newRow("ends in the number") << QByteArray("\x10") + kindWithLength + QByteArray(3, '\0');
+    QTest::newRow("ends in the place") << QByteArray("\x20") + kindWithLength + QByteArray(16, '\0');
+    QTest::newRow("ends in the zoom") << QByteArray("\x40") + kindWithLength + QByteArray(7, '\0');
+    QTest::newRow("an unknown way of writing") << QByteArray("\x03") + kindWithLength + QByteArray(8, '\0');
+}
+
+void TestDamagedParts::objectThatCannotBeReadIsTold()
+{
+    QFETCH(QByteArray, payload);
+    const QByteArray file = fileOf(*fourObjects());
+    const OpenResult opened = decodeDocument(withPayload(file, "OBJT", payload), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_LOST")});
+    QCOMPARE(opened.messages[0].page, 1);
+    QCOMPARE(opened.messages[0].object, 1);
+    QCOMPARE(opened.messages[0].offset, qint64(file.indexOf("OBJT")));
+    QCOMPARE(opened.document->page(0)->objectCount(), 1);
+    QCOMPARE(opened.document->page(0)->objects()[0]->getPos(), QPointF(70, 80));
+    QCOMPARE(opened.document->page(1)->objectCount(), 2);
+}
+
+void TestDamagedParts::objectIsNotPlacedNowhere_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<QPointF>("expected");
+    QTest::newRow("a place") << 7.0 << 8.0 << QPointF(7, 8);
+    QTest::newRow("no number across") << std::nan("") << 8.0 << QPointF(50, 60);
+    QTest::newRow("endlessly far down") << 7.0 << std::numeric_limits<double>::infinity() << QPointF(50, 60);
+}
+
+void TestDamagedParts::objectIsNotPlacedNowhere()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    const QByteArray file = fileOf(*fourObjects());
+    const QByteArray state = payloadOf(file, "OBJT").mid(1 + kindWithLength.size());
+    const QByteArray place = bytesOf(x) + bytesOf(y) + QByteArray(1, '\0');
+    const OpenResult opened =
+        decodeDocument(withPayload(file, "OBJT", "\x20" + kindWithLength + place + state), m_registry);
+    QVERIFY(opened.messages.isEmpty());
+    QTEST(opened.document->page(0)->objects()[0]->getPos(), "expected");
+}
+
+void TestDamagedParts::messagesCountTheObjectsOfEachPage()
+{
+    const ObjectRegistry ignorant;
+    const OpenResult opened = decodeDocument(fileOf(*fourObjects()), ignorant);
+    QVector<QPair<int, int>> places;
+    for (const FileMessage &message : opened.messages) {
+        places.append({message.page, message.object});
+    }
+    QCOMPARE(places, (QVector<QPair<int, int>>{{1, 1}, {1, 2}, {2, 1}, {2, 2}}));
+}
+
+void TestDamagedParts::missingObjectsAreCountedOnEachPage()
+{
+    QByteArray file = fileOf(*fourObjects());
+    const int second = file.lastIndexOf("PAGE");
+    const int chunkSize = chunkOf("OBJT", payloadOf(file, "OBJT")).size();
+    file.remove(file.indexOf("OBJT", second), chunkSize);
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECTS_MISSING")});
+    QCOMPARE(opened.messages[0].arguments, QStringList{QStringLiteral("1")});
+    QCOMPARE(opened.messages[0].page, 2);
+}
+
+void TestDamagedParts::brokenLessonIsToldAndTheOthersStay_data()
+{
+    QTest::addColumn<bool>("isCut");
+    QTest::newRow("cut") << true;
+    QTest::newRow("a byte changed") << false;
+}
+
+void TestDamagedParts::brokenLessonIsToldAndTheOthersStay()
+{
+    QFETCH(bool, isCut);
+    const std::unique_ptr<Document> document = fourObjects();
+    document->setLessons({{QStringLiteral("first"), QByteArray("1")}, {QStringLiteral("second"), QByteArray("2")}});
+    const QByteArray file = fileOf(*document);
+    const QByteArray tag = "LESS";
+    QByteArray payload = payloadOf(file, tag);
+    payload.chop(1);
+    const QByteArray damaged = isCut ? withPayload(file, tag, payload) : withWrongSum(file, tag, payload.size());
+    const OpenResult opened = decodeDocument(damaged, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_LESSON_BROKEN")});
+    QCOMPARE(opened.document->lessons().size(), 1);
+    QCOMPARE(opened.document->lessons()[0].name, QStringLiteral("second"));
+}
+
+void TestDamagedParts::damagedUnknownPartIsToldAndLeftOut()
+{
+    const std::unique_ptr<Document> document = fourObjects();
+    document->setExtraData({{{"NEWD", "of the document"}, {"newd", "more"}}, {}});
+    const OpenResult opened = decodeDocument(withWrongSum(fileOf(*document), "NEWD"), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
+    QVERIFY(opened.document->extraData() == (ExtraData{{{"newd", "more"}}, {}}));
+}
+
+void TestDamagedParts::unknownPartsStayWithTheirPage()
+{
+    const std::unique_ptr<Document> document = fourObjects();
+    const ExtraData ofPage{{{"NEWP", "of the page"}}, {{QStringLiteral("grid"), 5}}};
+    document->page(0)->setExtraData(ofPage);
+    const OpenResult opened = decodeDocument(fileOf(*document), m_registry);
+    QVERIFY(opened.document->extraData() == ExtraData());
+    QVERIFY(opened.document->page(0)->extraData() == ofPage);
+    QVERIFY(opened.document->page(1)->extraData() == ExtraData());
+}
+
+void TestDamagedParts::bytesBehindTheEndAreTold()
+{
+    const QByteArray file = fileOf(*fourObjects());
+    for (const QByteArray &more : {QByteArray("x"), QByteArray(100, 'x')}) {
+        const OpenResult opened = decodeDocument(file + more, m_registry);
+        QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
+        QCOMPARE(opened.document->page(1)->objectCount(), 2);
+    }
+}
+
+void TestDamagedParts::damagedHeadIsTold()
+{
+    // A version that a newer program could have written, were the sum right.
+    const OpenResult opened = decodeDocument(withWrongSum(fileOf(*fourObjects()), "VERS"), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
+    QCOMPARE(opened.document->pageCount(), 2);
+}
+
+void TestDamagedParts::damagedEndIsTold()
+{
+    QByteArray file = fileOf(*fourObjects());
+    file.replace(file.lastIndexOf("DONE"), 16, chunkOf("DONE", "x"));
+    const OpenResult opened = decodeDocument(withWrongSum(file, "DONE"), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_ENDS_EARLY")});
+}
+
+void TestDamagedParts::documentWithoutPagesGetsOne()
+{
+    Document document;
+    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
+        const OpenResult opened = decodeDocument(encodeDocument(document, format), m_registry);
+        QVERIFY(opened.document);
+        QVERIFY(opened.messages.isEmpty());
+        QCOMPARE(opened.document->pageCount(), 1);
+        QCOMPARE(opened.document->page(0)->size(), Document::defaultPageSize());
+    }
+}
+
+QTEST_MAIN(TestDamagedParts)
+#include "test_damagedparts.moc"
