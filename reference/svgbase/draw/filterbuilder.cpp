@@ -57,7 +57,8 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     return read;
 }
 
-// An element is shown as "use" would, in the units of the filtered one (Filter Effects 1 §9.12).
+// An element is shown as "use" would, in the units of the filtered one and moved by "x" and "y" where they are
+// given (Filter Effects 1 §9.12).
 void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive)
 {
     const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
@@ -72,7 +73,9 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
     const FactsPointer holder(around);
     around->style = StylePointer(new SharedStyle(inheritedStyle(*m_context.document.facts(node)->style)));
     around->viewport = m_target.viewport;
-    around->toDocument = m_target.toDocument;
+    const PrimitiveRegion &region = primitive->region;
+    const QTransform moved = QTransform::fromTranslate(region.x.value_or(0), region.y.value_or(0));
+    around->toDocument = moved * m_target.toDocument;
     const Resolver resolver = m_context.document.resolver();
     const FactsPointer own = m_context.document.facts(shown);
     const FactsPointer facts = resolver.resolve(shown, holder, {own.data(), false, false, true});
