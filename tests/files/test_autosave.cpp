@@ -31,6 +31,11 @@ private Q_SLOTS:
     void discardedCopyIsGone();
     void untitledDocumentHasNoOriginal();
     void failureIsTold();
+    void failureOfALaterCopyIsToldAndItIsTriedAgain_data();
+    void failureOfALaterCopyIsToldAndItIsTriedAgain();
+    void unsavedWorkIsCopiedAgainUnderItsNewName();
+    void ownCopyIsNotOffered();
+    void newestCopyComesFirst();
 
 private:
     QVector<RecoverableDocument> crash(const QString &originalFile);
@@ -171,6 +176,9 @@ void TestAutosave::recoveredDocumentIsModified()
 void TestAutosave::discardedCopyIsGone()
 {
     const QVector<RecoverableDocument> copies = crash(QString());
+    writeContents(m_folder + QStringLiteral("/") + QFileInfo(copies.value(0).recoveryFile).baseName() +
+                      QStringLiteral(".lock"),
+                  "");
     Autosave::discard(copies.value(0));
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
     QCOMPARE(Autosave(m_folder).recoverable().size(), 0);
@@ -190,6 +198,80 @@ void TestAutosave::failureIsTold()
     addObjects(m_page, {new TestObject});
     QVERIFY(!autosave.saveNow());
     QCOMPARE(failed.count(), 1);
+}
+
+void TestAutosave::failureOfALaterCopyIsToldAndItIsTriedAgain_data()
+{
+    QTest::addColumn<bool>("hasFolder");
+    QTest::newRow("the folder is gone") << false;
+    QTest::newRow("a folder is in the way") << true;
+}
+
+void TestAutosave::failureOfALaterCopyIsToldAndItIsTriedAgain()
+{
+    QFETCH(bool, hasFolder);
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(QDir(m_folder).removeRecursively());
+    QVERIFY(!hasFolder || QDir().mkpath(autosave.recoveryFile()));
+    QStringList problems;
+    connect(&autosave, &Autosave::failed, this,
+            [&](const FileMessage &problem) { problems.append(problem.textKey); });
+    QVERIFY(!autosave.saveNow());
+    QCOMPARE(problems, QStringList{QStringLiteral("IDS_FILE_CANNOT_WRITE")});
+    QDir(autosave.recoveryFile()).removeRecursively();
+    QVERIFY(QDir().mkpath(m_folder));
+    QVERIFY(autosave.saveNow());
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(contentsOf(autosave.recoveryFile()), encodeDocument(*m_document, DocumentFormat::Binary));
+}
+
+/// As when the file was saved and more was drawn before that was told.
+void TestAutosave::unsavedWorkIsCopiedAgainUnderItsNewName()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    autosave.setOriginalFile(QStringLiteral("/lessons/two.board"));
+    QVERIFY(autosave.saveNow());
+    QVERIFY(QFile::exists(autosave.recoveryFile()));
+}
+
+/// Not even when somebody has cleared the locks away.
+void TestAutosave::ownCopyIsNotOffered()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    const QStringList locks = QDir(m_folder).entryList({QStringLiteral("*.lock")}, QDir::Files);
+    QCOMPARE(locks.size(), 1);
+    QVERIFY(QFile::remove(QDir(m_folder).filePath(locks[0])));
+    QCOMPARE(autosave.recoverable().size(), 0);
+}
+
+void TestAutosave::newestCopyComesFirst()
+{
+    QVERIFY(QDir().mkpath(m_folder));
+    const QDateTime noon(QDate(2024, 5, 6), QTime(12, 0));
+    for (const int hour : {1, 3, 2}) {
+        const QString copy = QDir(m_folder).filePath(QStringLiteral("copy%1.board").arg(hour));
+        writeContents(copy, "bytes");
+        QFile file(copy);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(noon.addSecs(3600 * hour), QFileDevice::FileModificationTime));
+    }
+    QStringList names;
+    const QVector<RecoverableDocument> copies = Autosave(m_folder).recoverable();
+    for (const RecoverableDocument &copy : copies) {
+        names.append(QFileInfo(copy.recoveryFile).baseName());
+    }
+    QCOMPARE(names, QStringList({QStringLiteral("copy3"), QStringLiteral("copy2"), QStringLiteral("copy1")}));
+    QCOMPARE(copies[0].time, noon.addSecs(3600 * 3));
 }
 
 QTEST_MAIN(TestAutosave)

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void objectThatCannotBeReadIsTold();
     void objectIsNotPlacedNowhere_data();
     void objectIsNotPlacedNowhere();
+    void damageThatAnObjectCannotHoldIsKept_data();
+    void damageThatAnObjectCannotHoldIsKept();
     void messagesCountTheObjectsOfEachPage();
     void missingObjectsAreCountedOnEachPage();
     void brokenLessonIsToldAndTheOthersStay_data();
@@ -170,6 +172,32 @@ void TestDamagedParts::objectIsNotPlacedNowhere()
         decodeDocument(withPayload(file, "OBJT", "\x20" + kindWithLength + place + state), m_registry);
     QVERIFY(opened.messages.isEmpty());
     QTEST(opened.document->page(0)->objects()[0]->getPos(), "expected");
+}
+
+void TestDamagedParts::damageThatAnObjectCannotHoldIsKept_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("isPlaceholder");
+    // Of the state: the name, 4 bytes for none, the sort, 4 bytes, the place, 16, the rotation, 8, the mirroring.
+    QTest::newRow("a rotation") << 31 << QStringLiteral("IDS_FILE_OBJECT_DAMAGED") << false;
+    QTest::newRow("neither mirrored nor not") << 32 << QStringLiteral("IDS_FILE_OBJECT_BROKEN") << true;
+}
+
+/// A rescuer may want the very bytes.
+void TestDamagedParts::damageThatAnObjectCannotHoldIsKept()
+{
+    QFETCH(int, place);
+    QFETCH(QString, message);
+    QByteArray file = fileOf(*fourObjects());
+    const int changed = file.indexOf("OBJT") + 16 + 1 + kindWithLength.size() + place;
+    QCOMPARE(file.at(changed), '\0');
+    file[changed] = 2;
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{message});
+    CBaseObject *object = opened.document->page(0)->objects().value(0);
+    QTEST(isPlaceholder(object), "isPlaceholder");
+    QCOMPARE(fileOf(*opened.document).mid(changed - place, 40), file.mid(changed - place, 40));
 }
 
 void TestDamagedParts::messagesCountTheObjectsOfEachPage()

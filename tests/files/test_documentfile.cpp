@@ -6,6 +6,8 @@
 
 #include <QtCore/QTemporaryDir>
 
+#include <limits>
+
 using namespace pagehost;
 
 namespace {
@@ -50,6 +52,75 @@ void compareDocuments(Document &document, Document &expected)
     }
 }
 
+/// An object that is careless about what it saves and loads, as its kind says.
+class CarelessObject : public TestObject
+{
+public:
+    explicit CarelessObject(const QString &kind)
+        : m_kind(kind)
+    {
+        setKindId(this, kind);
+    }
+
+    bool save(QDataStream &out) override
+    {
+        return TestObject::save(out) && m_kind != QLatin1String("test.unsavable");
+    }
+    bool saveJson(QJsonObject &object) override
+    {
+        return TestObject::saveJson(object) && m_kind != QLatin1String("test.unsavable");
+    }
+    bool load(QDataStream &in) override
+    {
+        if (m_kind == QLatin1String("test.modest")) {
+            return true;
+        }
+        const bool loaded = TestObject::load(in);
+        if (m_kind == QLatin1String("test.greedy")) {
+            quint32 more = 0;
+            in >> more;
+        }
+        in.skipRawData(int(in.device()->bytesAvailable()));
+        return m_kind == QLatin1String("test.forgetful") || (loaded && m_kind != QLatin1String("test.refusing"));
+    }
+    bool loadJson(QJsonObject &object) override
+    {
+        const bool loaded = TestObject::loadJson(object);
+        return m_kind == QLatin1String("test.forgetful") || (loaded && m_kind != QLatin1String("test.refusing"));
+    }
+
+private:
+    QString m_kind;
+};
+
+class CarelessPlugin : public ObjectPlugin
+{
+public:
+    QVector<ObjectKind> objectKinds() const override
+    {
+        QVector<ObjectKind> kinds;
+        for (const char *kind :
+             {"test.careful", "test.forgetful", "test.greedy", "test.modest", "test.refusing", "test.unsavable"}) {
+            kinds.append({QString::fromLatin1(kind), QStringLiteral("IDS_TEST_OBJECT"), QString()});
+        }
+        return kinds;
+    }
+    CBaseObject *createObject(const QString &kind) const override { return new CarelessObject(kind); }
+    TextTable texts(const QString &) const override
+    {
+        return {{QStringLiteral("IDS_TEST_OBJECT"), QStringLiteral("Test object")}};
+    }
+};
+
+class CarelessRegistry : public ObjectRegistry
+{
+public:
+    CarelessRegistry() { addPlugin(&m_plugin, QStringLiteral("careless")); }
+
+private:
+    CarelessPlugin m_plugin;
+};
+
 } // namespace
 
 class TestDocumentFile : public QObject
@@ -66,6 +137,13 @@ private Q_SLOTS:
     void savedDocumentOpens_data();
     void savedDocumentOpens();
     void objectsComeFromTheClipboard();
+    void unknownObjectOfTheClipboardIsTold();
+    void stateThatAnObjectDoesNotTakeIsKept_data();
+    void stateThatAnObjectDoesNotTakeIsKept();
+    void objectWithoutStateIsAPlaceholder();
+    void documentThatCannotBeSavedLeavesTheOldFile_data();
+    void documentThatCannotBeSavedLeavesTheOldFile();
+    void fileThatIsNotThereIsTold();
 
 private:
     FileTestRegistry m_registry;
@@ -144,6 +222,98 @@ void TestDocumentFile::objectsComeFromTheClipboard()
     // The number stays with the original.
     QCOMPARE(objectId(copies[0]), 0u);
     qDeleteAll(copies);
+}
+
+void TestDocumentFile::unknownObjectOfTheClipboardIsTold()
+{
+    Document document;
+    Page *page = document.appendPage();
+    addPlain(page, QPointF(1, 2));
+    setKindId(addPlain(page, QPointF(3, 4)), QStringLiteral("test.unknown"));
+    QVector<FileMessage> messages;
+    const QVector<CBaseObject *> copies = decodeObjects(encodeObjects(page->objects()), m_registry, &messages);
+    QCOMPARE(copies.size(), 2);
+    QVERIFY(!isPlaceholder(copies[0]));
+    QVERIFY(isPlaceholder(copies[1]));
+    QCOMPARE(textKeys(messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_UNKNOWN")});
+    QCOMPARE(messages[0].object, 2);
+    qDeleteAll(copies);
+}
+
+void TestDocumentFile::stateThatAnObjectDoesNotTakeIsKept_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<double>("rotation");
+    QTest::addColumn<DocumentFormat>("format");
+    QTest::addColumn<bool>("isTaken");
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    QTest::newRow("taken") << "test.careful" << 10.0 << DocumentFormat::Binary << true;
+    QTest::newRow("taken, json") << "test.careful" << 10.0 << DocumentFormat::Json << true;
+    QTest::newRow("refused") << "test.refusing" << 10.0 << DocumentFormat::Binary << false;
+    QTest::newRow("refused, json") << "test.refusing" << 10.0 << DocumentFormat::Json << false;
+    QTest::newRow("refused by the host alone") << "test.forgetful" << endless << DocumentFormat::Binary << false;
+    QTest::newRow("refused by the host alone, json")
+        << "test.forgetful" << endless << DocumentFormat::Json << false;
+    QTest::newRow("more read than there is") << "test.greedy" << 10.0 << DocumentFormat::Binary << false;
+    QTest::newRow("not read to the end") << "test.modest" << 10.0 << DocumentFormat::Binary << false;
+}
+
+void TestDocumentFile::stateThatAnObjectDoesNotTakeIsKept()
+{
+    QFETCH(QString, kind);
+    QFETCH(double, rotation);
+    QFETCH(DocumentFormat, format);
+    QFETCH(bool, isTaken);
+    Document document;
+    auto *object = new CarelessObject(kind);
+    object->setRotation(rotation);
+    document.appendPage()->addObject(object);
+    const QByteArray bytes = encodeDocument(document, format);
+    const OpenResult opened = decodeDocument(bytes, CarelessRegistry());
+    QCOMPARE(isPlaceholder(opened.document->page(0)->objects().value(0)), !isTaken);
+    QCOMPARE(textKeys(opened.messages),
+             isTaken ? QStringList() : QStringList{QStringLiteral("IDS_FILE_OBJECT_BROKEN")});
+    QCOMPARE(encodeDocument(*opened.document, format), bytes);
+}
+
+void TestDocumentFile::objectWithoutStateIsAPlaceholder()
+{
+    const OpenResult opened = decodeDocument("{\"format\": \"gliololok board\", \"version\": 1, \"pages\": "
+                                             "[{\"page\": 1, \"objects\": [{\"kind\": \"test.forgetful\"}]}]}",
+                                             CarelessRegistry());
+    QCOMPARE(opened.document->page(0)->objectCount(), 1);
+    QVERIFY(isPlaceholder(opened.document->page(0)->objects()[0]));
+}
+
+void TestDocumentFile::documentThatCannotBeSavedLeavesTheOldFile_data()
+{
+    savedDocumentOpens_data();
+}
+
+void TestDocumentFile::documentThatCannotBeSavedLeavesTheOldFile()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(name);
+    writeContents(file, "the work of last week");
+    Document document;
+    document.appendPage()->addObject(new CarelessObject(QStringLiteral("test.unsavable")));
+    const SaveResult result = saveDocument(document, file);
+    QVERIFY(!result.saved);
+    QVERIFY(!result.problem.textKey.isEmpty());
+    QCOMPARE(result.problem.severity, FileMessage::Error);
+    QCOMPARE(contentsOf(file), QByteArray("the work of last week"));
+    QVERIFY(encodeObjects(document.page(0)->objects()).isEmpty());
+}
+
+void TestDocumentFile::fileThatIsNotThereIsTold()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("lost.board"));
+    const OpenResult opened = openDocument(file, m_registry);
+    QVERIFY(!opened.document);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_CANNOT_READ")});
+    QCOMPARE(opened.messages[0].arguments.value(0), file);
 }
 
 QTEST_MAIN(TestDocumentFile)

@@ -54,12 +54,22 @@ private Q_SLOTS:
     void placeholderIsDeletedAndComesBack();
     void placeholderIsDuplicated();
     void placeholderIsADashedBox();
+    void placeholderIsLargeEnoughToSeize_data();
+    void placeholderIsLargeEnoughToSeize();
+    void placeholderOfNoStateIsSeen();
+    void placeholderOfAHiddenObjectIsSeen_data() { addFormats(); }
+    void placeholderOfAHiddenObjectIsSeen();
+    void placeholderKeepsItsNewNumber_data() { addFormats(); }
+    void placeholderKeepsItsNewNumber();
+    void placeholderMovedBackAfterReopening_data() { addFormats(); }
+    void placeholderMovedBackAfterReopening();
     void placeholderCannotBeReshaped();
     void brokenStateBecomesAPlaceholder();
     void brokenObjectKeepsItsBytes_data();
     void brokenObjectKeepsItsBytes();
     void hugeObjectBecomesAPlaceholder_data() { addFormats(); }
     void hugeObjectBecomesAPlaceholder();
+    void objectsThatAreHugeTogetherBecomePlaceholders();
     void brokenJsonIsToldWithLineAndColumn();
     void valueOfTheWrongTypeIsLeftOut();
     void unknownPartsOfABinaryFileAreKept();
@@ -202,6 +212,70 @@ void TestPlaceholders::placeholderIsADashedBox()
     QVERIFY(QColor(picture.pixel(53, 117)) != QColor(Qt::white));
 }
 
+void TestPlaceholders::placeholderIsLargeEnoughToSeize_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QSizeF>("expected");
+    QTest::newRow("a dot") << QSizeF(0, 0) << QSizeF(16, 16);
+    QTest::newRow("a thin one") << QSizeF(3, 40) << QSizeF(16, 40);
+    QTest::newRow("a flat one") << QSizeF(40, 15.5) << QSizeF(40, 16);
+    QTest::newRow("just as large") << QSizeF(16, 17) << QSizeF(16, 17);
+}
+
+/// And the object has its own size again when it is back.
+void TestPlaceholders::placeholderIsLargeEnoughToSeize()
+{
+    QFETCH(QSizeF, size);
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->page(0)->objects()[0]->setSize(size, false, false);
+    const QByteArray bytes = encodeDocument(*document, DocumentFormat::Binary);
+    const OpenResult opened = decodeDocument(bytes, m_ignorant);
+    QTEST(firstObject(opened)->getClientRect().size(), "expected");
+    QCOMPARE(encodeDocument(*opened.document, DocumentFormat::Binary), bytes);
+}
+
+/// It stands near the page's corner, where nobody has to look for it.
+void TestPlaceholders::placeholderOfNoStateIsSeen()
+{
+    const OpenResult opened = decodeDocument(json("{\"kind\": \"test.plain\", \"data\": {\"pos\": }}"), m_registry);
+    QVERIFY(isPlaceholder(firstObject(opened)));
+    QCOMPARE(firstObject(opened)->getPos(), QPointF(40, 40));
+    QCOMPARE(firstObject(opened)->getClientRect(), QRectF(0, 0, 160, 100));
+}
+
+void TestPlaceholders::placeholderOfAHiddenObjectIsSeen()
+{
+    QFETCH(DocumentFormat, format);
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->page(0)->objects()[0]->hide();
+    const QByteArray bytes = encodeDocument(*document, format);
+    const OpenResult ignorant = decodeDocument(bytes, m_ignorant);
+    QVERIFY(firstObject(ignorant)->QGraphicsItem::isVisible());
+    const OpenResult opened = decodeDocument(encodeDocument(*ignorant.document, format), m_registry);
+    QVERIFY(!firstObject(opened)->QGraphicsItem::isVisible());
+}
+
+void TestPlaceholders::placeholderKeepsItsNewNumber()
+{
+    QFETCH(DocumentFormat, format);
+    const OpenResult ignorant = decodeDocument(encodeDocument(*documentWithObject(), format), m_ignorant);
+    setObjectId(firstObject(ignorant), 9);
+    const OpenResult opened = decodeDocument(encodeDocument(*ignorant.document, format), m_registry);
+    QCOMPARE(objectId(firstObject(opened)), 9u);
+}
+
+void TestPlaceholders::placeholderMovedBackAfterReopening()
+{
+    QFETCH(DocumentFormat, format);
+    const QByteArray bytes = encodeDocument(*documentWithObject(), format);
+    const OpenResult ignorant = decodeDocument(bytes, m_ignorant);
+    QVERIFY(moveObjects({firstObject(ignorant)}, QPointF(7, -8)));
+    const OpenResult again = decodeDocument(encodeDocument(*ignorant.document, format), m_ignorant);
+    QCOMPARE(firstObject(again)->getPos(), QPointF(57, 52));
+    QVERIFY(moveObjects({firstObject(again)}, QPointF(-7, 8)));
+    QCOMPARE(encodeDocument(*again.document, format), bytes);
+}
+
 void TestPlaceholders::placeholderCannotBeReshaped()
 {
     const OpenResult opened =
@@ -284,6 +358,26 @@ void TestPlaceholders::hugeObjectBecomesAPlaceholder()
     QCOMPARE(opened.messages[0].object, 2);
     QVERIFY(!isPlaceholder(opened.document->page(0)->objects().value(0)));
     QVERIFY(isPlaceholder(opened.document->page(0)->objects().value(1)));
+}
+
+/// Pictures of sixteen of them take 4 GiB.
+void TestPlaceholders::objectsThatAreHugeTogetherBecomePlaceholders()
+{
+    constexpr int count = 18;
+    constexpr int withRoom = 16;
+    Document document;
+    Page *page = document.appendPage();
+    for (int index = 0; index < count; ++index) {
+        addPlain(page, QPointF(0, 0))->setSize(QSizeF(8192, 8192), false, false);
+    }
+    const OpenResult opened = decodeDocument(encodeDocument(document, DocumentFormat::Binary), m_registry);
+    const QString tooLarge = QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
+    QCOMPARE(textKeys(opened.messages), QStringList({tooLarge, tooLarge}));
+    const QVector<CBaseObject *> objects = opened.document->page(0)->objects();
+    QCOMPARE(objects.size(), count);
+    for (int index = 0; index < count; ++index) {
+        QCOMPARE(isPlaceholder(objects[index]), index >= withRoom);
+    }
 }
 
 void TestPlaceholders::brokenJsonIsToldWithLineAndColumn()
