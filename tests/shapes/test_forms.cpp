@@ -11,6 +11,7 @@
 #include <pagehost/commands.h>
 #include <pagehost/document.h>
 
+#include <svgbase/qzesvgstructurenode.h>
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtGui/QPainter>
@@ -59,6 +60,19 @@ QStringList boundPoints()
             QStringLiteral("protractor"), QStringLiteral("star")};
 }
 
+/// The figures and texts of a drawing, in groups or not, without control points.
+QVector<const QZeSvgNode *> partsOf(const QZeSvgStructureNode &root)
+{
+    QVector<const QZeSvgNode *> parts;
+    for (const QZeSvgNode *node : root.children()) {
+        if (node->type() == QZeSvgNode::Group)
+            parts += partsOf(*static_cast<const QZeSvgStructureNode *>(node));
+        else if (!node->nodeId().startsWith(QLatin1String("control_")))
+            parts.append(node);
+    }
+    return parts;
+}
+
 /// Of any channel: painting over a transparent picture and that over white rounds twice.
 constexpr int roundingOfLayers = 4;
 
@@ -91,6 +105,8 @@ class TestForms : public QObject
 private Q_SLOTS:
     void templateIsCleanAndIsTheDefaultSize_data() { addShapeRows(); }
     void templateIsCleanAndIsTheDefaultSize();
+    void linesAreAsWideAsTheyAreOnceTheyAreSaved_data() { addShapeRows(); }
+    void linesAreAsWideAsTheyAreOnceTheyAreSaved();
     void templateIsDrawnAsItStands_data() { addShapeRows(); }
     void templateIsDrawnAsItStands();
     void controlPointGoesWhereItCanBeDragged_data();
@@ -135,6 +151,28 @@ void TestForms::templateIsCleanAndIsTheDefaultSize()
     QCOMPARE(shape.object().getClientRect(), QRectF(QPointF(0, 0), size));
     const QSizeF smallest = shape.core().getMinimizeSize();
     QVERIFY(smallest.width() <= size.width() && smallest.height() <= size.height());
+}
+
+/// A file keeps one pen width, a whole number of units, and loading gives it to every line that follows the pen.
+void TestForms::linesAreAsWideAsTheyAreOnceTheyAreSaved()
+{
+    QFETCH(QString, name);
+    constexpr double otherWidth = 7;
+    ShapeDriver shape(name);
+    const double saved = shape.core().getPenWidth();
+    QVERIFY(saved != otherWidth);
+    QVector<QPair<const QZeSvgNode *, double>> widths;
+    for (const QZeSvgNode *part : partsOf(shape.document()))
+        widths.append({part, part->strokeWidth()});
+    shape.document().setAllStrokeWidth(otherWidth);
+    int followers = 0;
+    for (const auto &[node, width] : widths) {
+        if (node->strokeWidth() != otherWidth)
+            continue;
+        ++followers;
+        QVERIFY2(width == saved, qPrintable(QStringLiteral("%1: %2").arg(node->nodeId()).arg(width)));
+    }
+    QVERIFY(followers > 0 || name == QLatin1String("picture")); // which has no lines
 }
 
 void TestForms::templateIsDrawnAsItStands()
