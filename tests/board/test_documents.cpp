@@ -137,6 +137,8 @@ private Q_SLOTS:
     void anExistingFileIsNotReplacedBehindASuffix();
     void workOfACrashIsOfferedAndBroughtBack();
     void workOfACrashCanBeForgotten();
+    void workOfThisWindowIsNotOfferedToIt();
+    void aFailedCopyOfTheWorkIsTold();
     void keysHaveFallbacks_data();
     void keysHaveFallbacks();
 };
@@ -534,6 +536,32 @@ void TestDocuments::workOfACrashCanBeForgotten()
     desk.press("Delete");
     QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
     QCOMPARE(desk.objectCount(), 1);
+}
+
+void TestDocuments::workOfThisWindowIsNotOfferedToIt()
+{
+    Desk desk;
+    desk.drawOne();
+    QVERIFY(desk.board.window().recovery()->autosave().saveNow());
+    desk.board.window().recovery()->offer();
+    QCOMPARE(desk.notices(), QString());
+}
+
+void TestDocuments::aFailedCopyOfTheWorkIsTold()
+{
+    Desk desk;
+    desk.drawOne();
+    pagehost::Autosave &autosave = desk.board.window().recovery()->autosave();
+    QVERIFY(autosave.saveNow());
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    QVERIFY(QFile::remove(autosave.recoveryFile()));
+    QVERIFY(QDir().mkpath(autosave.recoveryFile())); // a folder in its way
+    QVERIFY(!autosave.saveNow());
+    QVERIFY2(desk.notices().contains("could not be put aside in case of a crash"), qPrintable(desk.notices()));
+    QVERIFY(desk.notices().contains(autosave.folder()));
+    QCOMPARE(desk.objectCount(), 2);
+    QVERIFY(QDir().rmdir(autosave.recoveryFile()));
+    QVERIFY(autosave.saveNow());
 }
 
 void TestDocuments::keysHaveFallbacks_data()

@@ -31,8 +31,8 @@ private Q_SLOTS:
     void discardedCopyIsGone();
     void untitledDocumentHasNoOriginal();
     void failureIsTold();
-    void failureOfALaterCopyIsToldAndItIsTriedAgain_data();
     void failureOfALaterCopyIsToldAndItIsTriedAgain();
+    void copyThatWasClearedAwayIsMadeAgain();
     void unsavedWorkIsCopiedAgainUnderItsNewName();
     void ownCopyIsNotOffered();
     void newestCopyComesFirst();
@@ -200,33 +200,38 @@ void TestAutosave::failureIsTold()
     QCOMPARE(failed.count(), 1);
 }
 
-void TestAutosave::failureOfALaterCopyIsToldAndItIsTriedAgain_data()
-{
-    QTest::addColumn<bool>("hasFolder");
-    QTest::newRow("the folder is gone") << false;
-    QTest::newRow("a folder is in the way") << true;
-}
-
 void TestAutosave::failureOfALaterCopyIsToldAndItIsTriedAgain()
 {
-    QFETCH(bool, hasFolder);
     Autosave autosave(m_folder);
     autosave.setDocument(m_document.get(), QString());
     addObjects(m_page, {new TestObject});
     QVERIFY(autosave.saveNow());
     addObjects(m_page, {new TestObject});
-    QVERIFY(QDir(m_folder).removeRecursively());
-    QVERIFY(!hasFolder || QDir().mkpath(autosave.recoveryFile()));
+    QVERIFY(QFile::remove(autosave.recoveryFile()));
+    QVERIFY(QDir().mkpath(autosave.recoveryFile())); // a folder in its way
     QStringList problems;
     connect(&autosave, &Autosave::failed, this,
             [&](const FileMessage &problem) { problems.append(problem.textKey); });
     QVERIFY(!autosave.saveNow());
     QCOMPARE(problems, QStringList{QStringLiteral("IDS_FILE_CANNOT_WRITE")});
-    QDir(autosave.recoveryFile()).removeRecursively();
-    QVERIFY(QDir().mkpath(m_folder));
+    QVERIFY(QDir().rmdir(autosave.recoveryFile()));
     QVERIFY(autosave.saveNow());
     QCOMPARE(problems.size(), 1);
     QCOMPARE(contentsOf(autosave.recoveryFile()), encodeDocument(*m_document, DocumentFormat::Binary));
+}
+
+/// With its lock, without which another program would offer it.
+void TestAutosave::copyThatWasClearedAwayIsMadeAgain()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    const QStringList files = QDir(m_folder).entryList(QDir::Files);
+    QVERIFY(QDir(m_folder).removeRecursively());
+    QVERIFY(autosave.saveNow());
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files), files);
+    QCOMPARE(Autosave(m_folder).recoverable().size(), 0);
 }
 
 /// As when the file was saved and more was drawn before that was told.

@@ -278,11 +278,14 @@ void TestDocumentFile::stateThatAnObjectDoesNotTakeIsKept()
 
 void TestDocumentFile::objectWithoutStateIsAPlaceholder()
 {
-    const OpenResult opened = decodeDocument("{\"format\": \"gliololok board\", \"version\": 1, \"pages\": "
-                                             "[{\"page\": 1, \"objects\": [{\"kind\": \"test.forgetful\"}]}]}",
-                                             CarelessRegistry());
-    QCOMPARE(opened.document->page(0)->objectCount(), 1);
-    QVERIFY(isPlaceholder(opened.document->page(0)->objects()[0]));
+    for (const QByteArray &rest : {QByteArray(), QByteArray(", \"data\": {}"), QByteArray(", \"data\": 5")}) {
+        const OpenResult opened = decodeDocument("{\"format\": \"gliololok board\", \"version\": 1, \"pages\": "
+                                                 "[{\"page\": 1, \"objects\": [{\"kind\": \"test.forgetful\"" +
+                                                     rest + "}]}]}",
+                                                 CarelessRegistry());
+        QCOMPARE(opened.document->page(0)->objectCount(), 1);
+        QVERIFY(isPlaceholder(opened.document->page(0)->objects()[0]));
+    }
 }
 
 void TestDocumentFile::documentThatCannotBeSavedLeavesTheOldFile_data()

@@ -89,14 +89,16 @@ QString Autosave::recoveryFile() const
     return m_id.isEmpty() ? QString() : QDir(m_folder).filePath(m_id + copySuffix);
 }
 
-/// The lock comes first, so that nobody takes the copy for abandoned.
+/// The lock comes first, so that nobody takes the copy for abandoned. It comes again when somebody has cleared the
+/// folder.
 bool Autosave::claim()
 {
-    if (m_lock) {
+    if (m_lock && QFile::exists(besides(recoveryFile(), lockSuffix))) {
         return true;
     }
+    m_lock.reset();
     QDir().mkpath(m_folder);
-    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QString id = m_id.isEmpty() ? QUuid::createUuid().toString(QUuid::WithoutBraces) : m_id;
     auto lock = std::make_unique<QLockFile>(QDir(m_folder).filePath(id + lockSuffix));
     lock->setStaleLockTime(0);
     if (!lock->tryLock(0)) {
@@ -113,7 +115,7 @@ bool Autosave::saveNow()
         return true;
     }
     const quint64 mark = m_document->revision();
-    if (m_hasCopy && mark == m_savedMark) {
+    if (m_hasCopy && mark == m_savedMark && QFile::exists(recoveryFile())) {
         return true;
     }
     FileMessage problem;

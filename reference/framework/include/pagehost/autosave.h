@@ -48,7 +48,7 @@ public:
     /// After the document has been saved (as): its copy goes.
     void setOriginalFile(const QString &originalFile);
     /// Milliseconds between two looks at the document; a copy is made at a look when the document is modified and
-    /// has changed since the last copy.
+    /// has changed since the last copy, or when that copy is gone.
     void setInterval(int milliseconds);
     int interval() const { return m_timer.interval(); }
     /// Looks now. False when a copy was wanted and could not be made; failed() tells why.
