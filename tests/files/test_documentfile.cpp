@@ -7,6 +7,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include <limits>
+#include <unistd.h>
 
 using namespace pagehost;
 
@@ -144,6 +145,8 @@ private Q_SLOTS:
     void documentThatCannotBeSavedLeavesTheOldFile_data();
     void documentThatCannotBeSavedLeavesTheOldFile();
     void fileThatIsNotThereIsTold();
+    void deviceIsNoDocument();
+    void fileBeyondTheLargestIsNoDocument();
 
 private:
     FileTestRegistry m_registry;
@@ -317,6 +320,33 @@ void TestDocumentFile::fileThatIsNotThereIsTold()
     QVERIFY(!opened.document);
     QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_CANNOT_READ")});
     QCOMPARE(opened.messages[0].arguments.value(0), file);
+}
+
+/// Whatever comes out of it: it could go on for ever.
+void TestDocumentFile::deviceIsNoDocument()
+{
+    const QByteArray bytes = encodeDocument(*smallDocument(), DocumentFormat::Binary);
+    int ends[2] = {};
+    QCOMPARE(::pipe(ends), 0);
+    QCOMPARE(::write(ends[1], bytes.constData(), size_t(bytes.size())), ssize_t(bytes.size()));
+    ::close(ends[1]);
+    const OpenResult opened = openDocument(QStringLiteral("/proc/self/fd/%1").arg(ends[0]), m_registry);
+    ::close(ends[0]);
+    QVERIFY(!opened.document);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_NO_DOCUMENT")});
+}
+
+/// Not read at all, though it begins like a document. The rest of it is a hole, which takes no room on the disk.
+void TestDocumentFile::fileBeyondTheLargestIsNoDocument()
+{
+    constexpr qint64 largest = 1 << 30;
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("lesson.board"));
+    QVERIFY(saveDocument(*smallDocument(), file).saved);
+    QVERIFY(QFile::resize(file, largest + 1));
+    const OpenResult opened = openDocument(file, m_registry);
+    QVERIFY(!opened.document);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_NO_DOCUMENT")});
 }
 
 QTEST_MAIN(TestDocumentFile)
