@@ -93,6 +93,18 @@ void replaceAndUndo(const ShapeDriver &shape, void (*fill)(const ShapeDriver &, 
     }
 }
 
+/// The same of a new shape with a fill of that type.
+void replaceRichFillAndUndo(const QString &name, int type, void (*fill)(const ShapeDriver &, const QColor &))
+{
+    ShapeDriver shape(name);
+    shape.createByClick();
+    CPageBgProp rich = richFill(type);
+    shape.object().setFillProp(&rich, false);
+    shape.core().invalidate();
+    shape.undoStack().clear();
+    replaceAndUndo(shape, fill);
+}
+
 } // namespace
 
 class TestFills : public QObject
@@ -114,26 +126,14 @@ void TestFills::aColourThatReplacesARichFillIsUndone()
 {
     QFETCH(QString, name);
     QFETCH(int, type);
-    ShapeDriver shape(name);
-    shape.createByClick();
-    CPageBgProp fill = richFill(type);
-    shape.object().setFillProp(&fill, false);
-    shape.core().invalidate();
-    shape.undoStack().clear();
-    replaceAndUndo(shape, fillWith);
+    replaceRichFillAndUndo(name, type, fillWith);
 }
 
 void TestFills::anAnswerThatReplacesARichFillIsUndone()
 {
     QFETCH(QString, name);
     QFETCH(int, type);
-    ShapeDriver shape(name);
-    shape.createByClick();
-    CPageBgProp fill = richFill(type);
-    shape.object().setFillProp(&fill, false);
-    shape.core().invalidate();
-    shape.undoStack().clear();
-    replaceAndUndo(shape, answerWith);
+    replaceRichFillAndUndo(name, type, answerWith);
 }
 
 void TestFills::aRichFillThatIsSwitchedOffIsNotSwitchedOn_data()

@@ -23,6 +23,15 @@ const AngleUnit angleUnits[] = {
 
 } // namespace
 
+std::optional<double> degreesOf(QLatin1String unit)
+{
+    for (const AngleUnit &known : angleUnits) {
+        if (unit.compare(known.name, Qt::CaseInsensitive) == 0)
+            return known.degrees;
+    }
+    return std::nullopt;
+}
+
 std::optional<double> parseAngle(QStringView text)
 {
     const Latin1Text bytes(text);
@@ -37,11 +46,8 @@ std::optional<double> parseAngle(QStringView text)
         return std::nullopt;
     if (unit.isEmpty())
         return value;
-    for (const AngleUnit &known : angleUnits) {
-        if (unit.compare(known.name, Qt::CaseInsensitive) == 0)
-            return value * known.degrees;
-    }
-    return std::nullopt;
+    const std::optional<double> degrees = degreesOf(unit);
+    return degrees ? std::make_optional(value * *degrees) : std::nullopt;
 }
 
 } // namespace Svg

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QtCore/QLatin1String>
 #include <QtCore/QStringView>
 
 #include <optional>
 
 namespace Svg {
+
+/// The degrees of one "deg", "grad", "rad" or "turn", in any case; nothing for any other unit.
+std::optional<double> degreesOf(QLatin1String unit);
 
 /// Text that is one angle: a number of degrees, or one with the unit "deg", "grad", "rad" or "turn" (CSS Values 3
 /// §6.1). The result is in degrees.

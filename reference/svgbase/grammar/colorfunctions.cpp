@@ -1,4 +1,5 @@
 #include "grammar/colorfunctions.h"
+#include "grammar/angles.h"
 
 #include "grammar/colorspaces.h"
 #include "grammar/numbers.h"
@@ -36,32 +37,17 @@ struct ColorFunction
     bool commas = false;
 };
 
-struct AngleUnit
-{
-    QLatin1String name;
-    double degrees;
-};
-
-const AngleUnit angleUnits[] = {
-    {QLatin1String("deg"), 1},
-    {QLatin1String("grad"), 0.9},
-    {QLatin1String("rad"), 180 / M_PI},
-    {QLatin1String("turn"), 360},
-};
-
 bool takeAngleUnit(Cursor &cursor, Component *component)
 {
     const QLatin1String unit = cursor.takeWord();
     if (unit.isEmpty())
         return true;
-    for (const AngleUnit &known : angleUnits) {
-        if (unit.compare(known.name, Qt::CaseInsensitive) == 0) {
-            component->kind = Component::Angle;
-            component->value *= known.degrees;
-            return true;
-        }
-    }
-    return false;
+    const std::optional<double> degrees = degreesOf(unit);
+    if (!degrees)
+        return false;
+    component->kind = Component::Angle;
+    component->value *= *degrees;
+    return true;
 }
 
 bool readComponent(Cursor &cursor, Component *component)
