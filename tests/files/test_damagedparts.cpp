@@ -11,6 +11,7 @@ using namespace pagehost;
 namespace {
 
 const QString damagedPart = QStringLiteral("IDS_FILE_DAMAGED_PART");
+const QStringList unreadable{QStringLiteral("IDS_FILE_OBJECT_UNREADABLE")};
 
 /// Two pages of 400 by 300 with two objects each.
 std::unique_ptr<Document> fourObjects()
@@ -59,8 +60,13 @@ private Q_SLOTS:
     void pageOfAnImpossibleSizeIsTold();
     void pageWithABrokenBackgroundIsTold();
     void damagedPageTellsOfNoMissingObjects();
-    void objectThatCannotBeReadIsTold_data();
-    void objectThatCannotBeReadIsTold();
+    void objectThatCannotBeReadKeepsItsBytes_data();
+    void objectThatCannotBeReadKeepsItsBytes();
+    void objectThatCannotBeReadKeepsItsBytesInText_data();
+    void objectThatCannotBeReadKeepsItsBytesInText();
+    void objectThatCannotBeReadGoesThroughTheClipboard();
+    void membersThatAreNoneAreTold_data();
+    void membersThatAreNoneAreTold();
     void objectIsNotPlacedNowhere_data();
     void objectIsNotPlacedNowhere();
     void damageThatAnObjectCannotHoldIsKept_data();
@@ -124,7 +130,7 @@ void TestDamagedParts::damagedPageTellsOfNoMissingObjects()
     QCOMPARE(opened.document->page(0)->objectCount(), 2);
 }
 
-void TestDamagedParts::objectThatCannotBeReadIsTold_data()
+void TestDamagedParts::objectThatCannotBeReadKeepsItsBytes_data()
 {
     QTest::addColumn<QByteArray>("payload");
     QTest::newRow("nothing") << QByteArray();
@@ -134,21 +140,77 @@ void TestDamagedParts::objectThatCannotBeReadIsTold_data()
     QTest::newRow("ends in the number") << QByteArray("\x10") + kindWithLength + QByteArray(3, '\0');
     QTest::newRow("ends in the place") << QByteArray("\x20") + kindWithLength + QByteArray(16, '\0');
     QTest::newRow("ends in the zoom") << QByteArray("\x40") + kindWithLength + QByteArray(7, '\0');
-    QTest::newRow("an unknown way of writing") << QByteArray("\x03") + kindWithLength + QByteArray(8, '\0');
+    QTest::newRow("an unknown way of writing") << QByteArray("\x04") + kindWithLength + QByteArray(8, '\0');
+    QTest::newRow("a kind that is no UTF-8") << QByteArray("\x00\x00\x01\xff", 4) + QByteArray(8, '\0');
 }
 
-void TestDamagedParts::objectThatCannotBeReadIsTold()
+void TestDamagedParts::objectThatCannotBeReadKeepsItsBytes()
 {
     QFETCH(QByteArray, payload);
     const QByteArray file = fileOf(*fourObjects());
     const OpenResult opened = decodeDocument(withPayload(file, "OBJT", payload), m_registry);
-    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_LOST")});
+    QCOMPARE(textKeys(opened.messages), unreadable);
     QCOMPARE(opened.messages[0].page, 1);
     QCOMPARE(opened.messages[0].object, 1);
     QCOMPARE(opened.messages[0].offset, qint64(file.indexOf("OBJT")));
-    QCOMPARE(opened.document->page(0)->objectCount(), 1);
-    QCOMPARE(opened.document->page(0)->objects()[0]->getPos(), QPointF(70, 80));
-    QCOMPARE(opened.document->page(1)->objectCount(), 2);
+    const QVector<CBaseObject *> objects = opened.document->page(0)->objects();
+    QCOMPARE(objects.size(), 2);
+    QVERIFY(isPlaceholder(objects[0]));
+    QCOMPARE(objects[0]->getPos(), QPointF(40, 40));
+    QCOMPARE(objects[1]->getPos(), QPointF(70, 80));
+
+    const QByteArray saved = fileOf(*opened.document);
+    QCOMPARE(payloadOf(saved, "OBJT"), QByteArray("\x03\x00\x00", 3) + payload);
+    const OpenResult again = decodeDocument(saved, m_registry);
+    QCOMPARE(textKeys(again.messages), unreadable);
+    QCOMPARE(fileOf(*again.document), saved);
+}
+
+void TestDamagedParts::objectThatCannotBeReadKeepsItsBytesInText_data()
+{
+    objectThatCannotBeReadKeepsItsBytes_data();
+}
+
+void TestDamagedParts::objectThatCannotBeReadKeepsItsBytesInText()
+{
+    QFETCH(QByteArray, payload);
+    const OpenResult opened = decodeDocument(withPayload(fileOf(*fourObjects()), "OBJT", payload), m_registry);
+    const QByteArray text = encodeDocument(*opened.document, DocumentFormat::Json);
+    QVERIFY(text.contains("\"payload\": \"" + payload.toBase64() + '"'));
+    const OpenResult again = decodeDocument(text, m_registry);
+    QCOMPARE(textKeys(again.messages), unreadable);
+    QCOMPARE(fileOf(*again.document), fileOf(*opened.document));
+}
+
+void TestDamagedParts::objectThatCannotBeReadGoesThroughTheClipboard()
+{
+    const QByteArray payload("\x04\x00", 2);
+    const OpenResult opened = decodeDocument(withPayload(fileOf(*fourObjects()), "OBJT", payload), m_registry);
+    const QByteArray copied = encodeObjects(opened.document->page(0)->objects());
+    QVector<FileMessage> messages;
+    const QVector<CBaseObject *> pasted = decodeObjects(copied, m_registry, &messages);
+    QCOMPARE(textKeys(messages), unreadable);
+    QCOMPARE(encodeObjects(pasted), copied);
+    qDeleteAll(pasted);
+}
+
+void TestDamagedParts::membersThatAreNoneAreTold_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::newRow("cut") << QByteArray("{\"grid\": 5");
+    QTest::newRow("an array") << QByteArray("[5]");
+    QTest::newRow("nothing") << QByteArray();
+}
+
+void TestDamagedParts::membersThatAreNoneAreTold()
+{
+    QFETCH(QByteArray, payload);
+    const std::unique_ptr<Document> document = fourObjects();
+    document->page(0)->setExtraData({{}, {{QStringLiteral("grid"), 5}}});
+    const OpenResult opened = decodeDocument(withPayload(fileOf(*document), "JSON", payload), m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
+    QVERIFY(opened.document->page(0)->extraData() == ExtraData());
+    QCOMPARE(opened.document->page(0)->objectCount(), 2);
 }
 
 void TestDamagedParts::objectIsNotPlacedNowhere_data()

@@ -75,6 +75,8 @@ private Q_SLOTS:
     void unknownPartsOfABinaryFileAreKept();
     void unknownPartsOfAJsonFileAreKept();
     void unknownPartsGoThroughTheOtherFormat();
+    void keysMayBeEscaped();
+    void keyWithAnEscapeThatIsNoneIsTold();
     void cutFileTellsWhatIsMissing();
     void newerVersionIsRefused_data();
     void newerVersionIsRefused();
@@ -446,7 +448,11 @@ void TestPlaceholders::unknownPartsOfAJsonFileAreKept()
 void TestPlaceholders::unknownPartsGoThroughTheOtherFormat()
 {
     const std::unique_ptr<Document> document = documentWithObject();
-    const ExtraData extra{{{"NEWD", QByteArray("\x00\xff", 2)}}, {{QStringLiteral("author"), QStringLiteral("Ä")}}};
+    const ExtraData extra{{{"NEWD", QByteArray("\x00\xff", 2)}},
+                          {{QStringLiteral("author"), QStringLiteral("Ä")},
+                           {QStringLiteral("a \"quoted\" \\ key"), 1},
+                           {QStringLiteral("behind zero") + QChar(0) + QLatin1Char('a'), 2},
+                           {QStringLiteral("behind zero") + QChar(0) + QLatin1Char('b'), 3}}};
     document->setExtraData(extra);
     document->page(0)->setExtraData(extra);
     for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
@@ -454,6 +460,27 @@ void TestPlaceholders::unknownPartsGoThroughTheOtherFormat()
         QVERIFY(opened.document->extraData() == extra);
         QVERIFY(opened.document->page(0)->extraData() == extra);
     }
+}
+
+void TestPlaceholders::keysMayBeEscaped()
+{
+    const OpenResult opened =
+        decodeDocument("{\"\\u0066ormat\": \"gliololok board\", \"version\": 1, \"\\u00c4\": 1,\n"
+                       "\"p\\u0061ges\": [{\"page\": 1, \"objects\": []}, {\"page\": 2}]}",
+                       m_registry);
+    QVERIFY(opened.messages.isEmpty());
+    QCOMPARE(opened.document->pageCount(), 2);
+    QCOMPARE(opened.document->extraData().members, (QJsonObject{{QStringLiteral("Ä"), 1}}));
+}
+
+void TestPlaceholders::keyWithAnEscapeThatIsNoneIsTold()
+{
+    const OpenResult opened = decodeDocument(
+        "{\"format\": \"gliololok board\", \"version\": 1,\n\"\\u00g0\": 1, \"pages\": [{\"page\": 1}]}",
+        m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_SYNTAX")});
+    QCOMPARE(opened.messages[0].line, 2);
+    QCOMPARE(opened.document->pageCount(), 1);
 }
 
 void TestPlaceholders::cutFileTellsWhatIsMissing()

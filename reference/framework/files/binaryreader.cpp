@@ -38,6 +38,7 @@ private:
     void takePage(const chunks::Chunk &chunk);
     void takeObject(const chunks::Chunk &chunk);
     void takeExtra(const chunks::Chunk &chunk);
+    void takeMembers(const chunks::Chunk &chunk);
     void finishPage();
     void reportGap();
     void reportMissing();
@@ -155,11 +156,7 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
         report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
         m_page = m_document->appendPage();
     }
-    ObjectRecord record;
-    if (!readRecord(chunk.payload, record)) {
-        report(warning(QStringLiteral("IDS_FILE_OBJECT_LOST")), chunk.offset);
-        return;
-    }
+    ObjectRecord record = recordOf(chunk.payload);
     record.isDamaged = record.isDamaged || chunk.isDamaged;
     FileMessage message = warning(QString());
     m_objects.append(m_factory.make(record, message));
@@ -178,11 +175,20 @@ void BinaryReader::takeExtra(const chunks::Chunk &chunk)
         return;
     }
     if (chunk.tag == chunks::membersTag) {
-        m_extra.members = QJsonDocument::fromJson(chunk.payload).object();
+        takeMembers(chunk);
         return;
     }
     const QByteArray data(chunk.payload.constData(), chunk.payload.size());
     m_extra.chunks.append({chunk.tag, data});
+}
+
+void BinaryReader::takeMembers(const chunks::Chunk &chunk)
+{
+    const QJsonDocument members = QJsonDocument::fromJson(chunk.payload);
+    if (!members.isObject()) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+    }
+    m_extra.members = members.object();
 }
 
 /// Of the document when no page has begun.

@@ -123,10 +123,10 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
     chunks::Reader reader(bytes);
     chunks::Chunk chunk;
     while (reader.next(chunk)) {
-        ObjectRecord record;
-        if (chunk.tag != chunks::objectTag || !readRecord(chunk.payload, record)) {
+        if (chunk.tag != chunks::objectTag) {
             continue;
         }
+        ObjectRecord record = recordOf(chunk.payload);
         record.id = 0; // the original may be on the page
         FileMessage message = warning(QString());
         objects.append(factory.make(record, message));

@@ -22,6 +22,17 @@ bool endsPlainValue(char character)
            character == '{' || character == '[' || character == '"';
 }
 
+/// False where an escape is none.
+bool unescape(QByteArray &string)
+{
+    if (!string.contains('\\')) {
+        return true;
+    }
+    const QJsonDocument document = QJsonDocument::fromJson("[\"" + string + "\"]");
+    string = document.array().at(0).toString().toUtf8();
+    return !document.isNull();
+}
+
 } // namespace
 
 JsonCursor::JsonCursor(const QByteArray &text)
@@ -50,7 +61,7 @@ bool JsonCursor::take(char character)
 bool JsonCursor::takeKey(QByteArray &key)
 {
     const qint64 start = m_pos;
-    if (peek() == '"' && takeString(key) && take(':')) {
+    if (peek() == '"' && takeString(key) && take(':') && unescape(key)) {
         return true;
     }
     m_pos = start;

@@ -26,6 +26,19 @@ QByteArray decoded(const QJsonValue &base64)
     return QByteArray::fromBase64(base64.toString().toLatin1());
 }
 
+ObjectRecord::Encoding encodingOf(const QByteArray &key)
+{
+    return key == streamName    ? ObjectRecord::Stream
+           : key == payloadName ? ObjectRecord::Payload
+                                : ObjectRecord::Text;
+}
+
+// Without its size a text would end at a character U+0000.
+QString nameOf(const QByteArray &key)
+{
+    return QString::fromUtf8(key.constData(), key.size());
+}
+
 } // namespace
 
 JsonDocumentReader::JsonDocumentReader(const QByteArray &text, const ObjectFactory &factory,
@@ -132,7 +145,7 @@ void JsonDocumentReader::takeDocumentMember(const QByteArray &key)
             readChunk(chunk.toObject(), m_documentExtra);
         }
     } else if (!value.isUndefined()) {
-        m_documentExtra.members.insert(QString::fromUtf8(key), value);
+        m_documentExtra.members.insert(nameOf(key), value);
     }
 }
 
@@ -178,7 +191,7 @@ void JsonDocumentReader::takePageMember(const QByteArray &key)
             readChunk(chunk.toObject(), m_pageExtra);
         }
     } else if (key != pageName && !value.isUndefined()) {
-        m_pageExtra.members.insert(QString::fromUtf8(key), value);
+        m_pageExtra.members.insert(nameOf(key), value);
     }
 }
 
@@ -206,7 +219,7 @@ void JsonDocumentReader::takeObject()
     ObjectRecord record;
     m_problem = {};
     const bool isRecord = takeRecord(record);
-    if (isRecord && !record.data.isEmpty()) {
+    if (isRecord && (!record.data.isEmpty() || record.encoding == ObjectRecord::Payload)) {
         addObject(record, start);
         return;
     }
@@ -266,8 +279,8 @@ bool JsonDocumentReader::readRecordMember(const QByteArray &key, const QByteArra
         const QPointF pos(place.value(QLatin1String(xName)).toDouble(),
                           place.value(QLatin1String(yName)).toDouble());
         record.place = ObjectRecord::Place{pos, place.value(QLatin1String(lockedName)).toBool()};
-    } else if (key == streamName || key == textName) {
-        record.encoding = key == streamName ? ObjectRecord::Stream : ObjectRecord::Text;
+    } else if (key == streamName || key == textName || key == payloadName) {
+        record.encoding = encodingOf(key);
         record.data = decoded(value);
     }
     return true;
@@ -439,7 +452,7 @@ void JsonDocumentReader::finishPage()
 void JsonDocumentReader::reportType(const QByteArray &key)
 {
     if (!m_isLost) {
-        report(warning(QStringLiteral("IDS_FILE_WRONG_TYPE"), {QString::fromUtf8(key)}), m_cursor.offset());
+        report(warning(QStringLiteral("IDS_FILE_WRONG_TYPE"), {nameOf(key)}), m_cursor.offset());
     }
 }
 

@@ -50,6 +50,8 @@ void writePlaceholder(JsonWriter &writer, const ObjectRecord &record)
     writeHead(writer, record);
     if (record.encoding == ObjectRecord::Stream) {
         writer.member(streamName, record.data.toBase64());
+    } else if (record.encoding == ObjectRecord::Payload) {
+        writer.member(payloadName, record.data.toBase64());
     } else if (record.encoding == ObjectRecord::Json && isJson(record.data)) {
         writer.rawMember(dataName, record.data);
     } else {
@@ -82,7 +84,7 @@ bool writeObject(JsonWriter &writer, CBaseObject *object)
 void writeExtraData(JsonWriter &writer, const ExtraData &extra)
 {
     for (auto member = extra.members.begin(); member != extra.members.end(); ++member) {
-        writer.member(member.key().toUtf8().constData(), member.value());
+        writer.member(member.key(), member.value());
     }
     if (extra.chunks.isEmpty()) {
         return;

@@ -26,6 +26,7 @@ constexpr char damagedName[] = "damaged";
 constexpr char dataName[] = "data";
 constexpr char streamName[] = "stream";
 constexpr char textName[] = "text";
+constexpr char payloadName[] = "payload";
 
 constexpr char nameName[] = "name";
 constexpr char chunksName[] = "chunks";

@@ -101,6 +101,14 @@ void JsonWriter::member(const char *key, const QByteArray &asciiText)
     m_text.append('"').append(asciiText).append('"');
 }
 
+void JsonWriter::member(const QString &key, const QJsonValue &value)
+{
+    beginItem(nullptr);
+    writeString(key);
+    m_text.append(": ");
+    writeValue(value);
+}
+
 void JsonWriter::rawMember(const char *key, const QByteArray &text)
 {
     beginItem(key);
@@ -162,11 +170,8 @@ void JsonWriter::writeObject(const QJsonObject &object)
 {
     m_text.append('{');
     ++m_depth;
-    for (auto member = object.begin(); member != object.end(); ++member) {
-        beginItem(nullptr);
-        writeString(member.key());
-        m_text.append(": ");
-        writeValue(member.value());
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        member(entry.key(), entry.value());
     }
     endObject();
 }

@@ -18,6 +18,8 @@ public:
 
     void member(const char *key, const QJsonValue &value);
     void member(const char *key, const QByteArray &asciiText);
+    /// With a key of any characters; those above are ASCII without `"` and `\`.
+    void member(const QString &key, const QJsonValue &value);
     /// `text` must be JSON.
     void rawMember(const char *key, const QByteArray &text);
 

@@ -154,15 +154,32 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
     return true;
 }
 
+/// Null with the key of the reason when the object cannot be made.
+CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, QString &reason) const
+{
+    if (record.encoding == ObjectRecord::Payload) {
+        reason = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
+        return nullptr;
+    }
+    if (!m_registry.hasKind(record.kindId)) {
+        reason = QStringLiteral("IDS_FILE_OBJECT_UNKNOWN");
+        return nullptr;
+    }
+    if (!hasRoomFor(record)) {
+        reason = QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
+        return nullptr;
+    }
+    CBaseObject *object = load(record);
+    if (!object) {
+        reason = QStringLiteral("IDS_FILE_OBJECT_BROKEN");
+    }
+    return object;
+}
+
 CBaseObject *ObjectFactory::make(const ObjectRecord &record, FileMessage &message) const
 {
-    const bool isKnown = m_registry.hasKind(record.kindId);
-    const bool hasRoom = !isKnown || hasRoomFor(record);
-    CBaseObject *object = isKnown && hasRoom ? load(record) : nullptr;
+    CBaseObject *object = tryToMake(record, message.textKey);
     if (!object) {
-        message.textKey = !isKnown  ? QStringLiteral("IDS_FILE_OBJECT_UNKNOWN")
-                          : hasRoom ? QStringLiteral("IDS_FILE_OBJECT_BROKEN")
-                                    : QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
         message.arguments = QStringList{record.kindId};
         object = new PlaceholderObject(record);
     }

@@ -19,7 +19,8 @@ struct ObjectRecord
     enum Encoding : quint8 {
         Stream = 0, ///< what the object's save() wrote
         Json = 1,   ///< the text of what the object's saveJson() wrote
-        Text = 2    ///< text of a JSON file that is no object
+        Text = 2,   ///< text of a JSON file that is no object
+        Payload = 3 ///< of a chunk that is no record, whole
     };
     /// Where the user put a placeholder, whose data say something else.
     struct Place
@@ -59,6 +60,7 @@ public:
     CBaseObject *make(const ObjectRecord &record, FileMessage &message) const;
 
 private:
+    CBaseObject *tryToMake(const ObjectRecord &record, QString &reason) const;
     CBaseObject *load(const ObjectRecord &record) const;
     bool hasRoomFor(const ObjectRecord &record) const;
 

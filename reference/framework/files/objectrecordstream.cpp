@@ -65,6 +65,9 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
         return false;
     }
     record.kindId = QString::fromUtf8(payload.constData() + kindStart, kindSize);
+    if (record.kindId.toUtf8() != payload.mid(kindStart, kindSize)) {
+        return false;
+    }
     record.encoding = ObjectRecord::Encoding(flags & encodingBits);
     record.isDamaged = flags & damaged;
     in.skipRawData(kindSize);
@@ -83,7 +86,19 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
     }
     const int start = int(in.device()->pos());
     record.data = QByteArray::fromRawData(payload.constData() + start, payload.size() - start);
-    return in.status() == QDataStream::Ok && record.encoding <= ObjectRecord::Text;
+    return in.status() == QDataStream::Ok && record.encoding <= ObjectRecord::Payload;
+}
+
+ObjectRecord recordOf(const QByteArray &payload)
+{
+    ObjectRecord record;
+    if (readRecord(payload, record)) {
+        return record;
+    }
+    ObjectRecord whole;
+    whole.encoding = ObjectRecord::Payload;
+    whole.data = payload;
+    return whole;
 }
 
 } // namespace pagehost

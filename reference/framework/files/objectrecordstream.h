@@ -11,4 +11,7 @@ bool writeObject(QDataStream &out, CBaseObject *object);
 /// The record refers to the payload's bytes. False when the payload is too short to be one.
 bool readRecord(const QByteArray &payload, ObjectRecord &record);
 
+/// The same, and one that keeps the payload whole when it cannot be read.
+ObjectRecord recordOf(const QByteArray &payload);
+
 } // namespace pagehost

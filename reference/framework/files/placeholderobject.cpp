@@ -45,7 +45,7 @@ void PlaceholderObject::takePlace()
         QDataStream in(m_record.data);
         in.setVersion(chunks::streamVersion);
         isKnown = CPSRootObject::load(in);
-    } else {
+    } else if (m_record.encoding != ObjectRecord::Payload) {
         QJsonObject json = QJsonDocument::fromJson(m_record.data).object();
         isKnown = CPSRootObject::loadJson(json);
     }
