@@ -142,6 +142,7 @@ void TestPlainXml::leavesToQt_data()
     QTest::newRow("other encoding") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><svg id='\xe9'/>");
     QTest::newRow("not UTF-8") << QByteArray("<svg id='\xe9'/>");
     QTest::newRow("control character") << QByteArray("<svg id='\x01'/>");
+    QTest::newRow("zero byte") << QByteArray("<svg/>\0", 7);
     QTest::newRow("carriage return") << QByteArray("<svg>\r\n</svg>");
     QTest::newRow("name beyond ASCII") << inRoot("<\xc3\xa9/>");
     QTest::newRow("name beyond ASCII from its second character") << inRoot("<g\xc3\xa9/>");

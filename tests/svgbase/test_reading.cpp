@@ -63,6 +63,11 @@ void TestReading::refusesWhatIsNoDocument_data()
     QTest::newRow("attribute twice") << QByteArray("<svg a='1' a='2'/>");
     QTest::newRow("undeclared prefix") << QByteArray("<svg><x:rect/></svg>");
     QTest::newRow("zero bytes") << QByteArray("<svg>\0</svg>", 12);
+    QTest::newRow("zero byte behind the end") << QByteArray("<svg/>\0", 7);
+    QTest::newRow("zero byte behind the end, with a declaration")
+        << QByteArray("<?xml version='1.0' encoding='UTF-8'?><svg/>\0", 45);
+    QTest::newRow("zero byte behind the end, with a document type") << QByteArray("<!DOCTYPE svg><svg/>\0", 21);
+    QTest::newRow("a second root behind a zero byte") << QByteArray("<svg/>\0<svg/>", 13);
     QTest::newRow("not UTF-8") << QByteArray("<svg id='\xff\xff'/>");
 }
 

@@ -51,7 +51,8 @@ inline QStringList plain(const QByteArray &text)
     Tree tree;
     Messages messages;
     TreeBuilder builder(&tree, &messages);
-    return readPlainXml(QString::fromUtf8(text), &builder) ? described(tree, messages) : QStringList();
+    return readPlainXml(QString::fromUtf8(text.constData(), text.size()), &builder) ? described(tree, messages)
+                                                                                    : QStringList();
 }
 
 } // namespace treereading

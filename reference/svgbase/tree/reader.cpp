@@ -17,7 +17,7 @@ bool readUncompressed(const QByteArray &text, Tree *tree, Messages *messages)
     Tree plainTree = *tree;
     Messages plainMessages = *messages;
     TreeBuilder builder(&plainTree, &plainMessages);
-    if (!readPlainXml(QString::fromUtf8(text), &builder))
+    if (!readPlainXml(QString::fromUtf8(text.constData(), text.size()), &builder))
         return readStreamedXml(text, tree, messages);
     *tree = plainTree;
     *messages = plainMessages;

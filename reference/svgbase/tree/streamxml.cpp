@@ -136,7 +136,7 @@ bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages)
     QXmlStreamReader xml;
     // Characters, unlike bytes, keep the reader from following the encoding that a text claims to have.
     if (codec || !claimsUtf8(declared))
-        xml.addData(QString::fromUtf8(*thinned));
+        xml.addData(QString::fromUtf8(thinned->constData(), thinned->size()));
     else
         xml.addData(*thinned);
     TreeBuilder builder(tree, messages);
