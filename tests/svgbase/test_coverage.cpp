@@ -95,6 +95,7 @@ private slots:
     void outlinesThatTurnOftenAddUpOrAreRefused();
     void colorsAreLaidOverWhatIsBelow_data();
     void colorsAreLaidOverWhatIsBelow();
+    void everyPixelOfARowIsMixedWithWhatIsBelowIt();
     void paintersWithMoreThanARectangleAreRefused();
     void aRectangularClipIsKept();
 };
@@ -224,6 +225,8 @@ void TestCoverage::colorsAreLaidOverWhatIsBelow_data()
     // Alpha 128 of 256 steps is 127 of 255; what is below keeps 128 of 255.
     QTest::newRow("faded") << faded << qRgba(0, 0, 255, 255) << qRgba(127, 0, 128, 255);
     QTest::newRow("faded over nothing") << faded << qRgba(0, 0, 0, 0) << qRgba(255, 0, 0, 127);
+    // 127 and what 128 of 255 leave of 128, 64, are 191; 127 and 64 of these are 170 and 85 of 255.
+    QTest::newRow("faded over faded") << faded << qRgba(0, 0, 255, 128) << qRgba(170, 0, 85, 191);
     // Half of the pixel is 128 of 255.
     QTest::newRow("half of a pixel") << half << qRgba(0, 0, 255, 255) << qRgba(128, 0, 127, 255);
     QTest::newRow("half of a pixel over nothing") << half << qRgba(0, 0, 0, 0) << qRgba(255, 0, 0, 128);
@@ -238,6 +241,30 @@ void TestCoverage::colorsAreLaidOverWhatIsBelow()
              QColor::fromRgba(expected));
     QCOMPARE(QColor::fromRgba(painted(content, QImage::Format_ARGB32_Premultiplied, below).pixel(1, 1)),
              QColor::fromRgba(expected));
+}
+
+void TestCoverage::everyPixelOfARowIsMixedWithWhatIsBelowIt()
+{
+    for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+        QImage image(5, 1, format);
+        image.fill(Qt::transparent);
+        for (const int x : {1, 2})
+            image.setPixelColor(x, 0, QColor(0, 0, 255));
+        image.setPixelColor(4, 0, QColor(0, 255, 0));
+        QPainter painter(&image);
+        QPainterPath row;
+        row.addRect(image.rect());
+        // Alpha 102 leaves 153 of 255.
+        QVERIFY(fillSolid(row, QColor(255, 0, 0, 102), pixelTarget(painter)));
+        painter.end();
+        const QColor overNothing(255, 0, 0, 102);
+        const QColor overBlue(102, 0, 153);
+        QCOMPARE(image.pixelColor(0, 0), overNothing);
+        QCOMPARE(image.pixelColor(1, 0), overBlue);
+        QCOMPARE(image.pixelColor(2, 0), overBlue);
+        QCOMPARE(image.pixelColor(3, 0), overNothing);
+        QCOMPARE(image.pixelColor(4, 0), QColor(102, 153, 0));
+    }
 }
 
 void TestCoverage::paintersWithMoreThanARectangleAreRefused()

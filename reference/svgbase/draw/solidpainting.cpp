@@ -10,6 +10,7 @@
 #include <QtGui/QRgba64>
 
 #include <algorithm>
+#include <memory>
 
 namespace Svg {
 
@@ -70,10 +71,25 @@ private:
         for (int i = 0; i < count; ++i)
             pixels[i] = color + scaled(pixels[i], below);
     }
+    // What is covered alike mostly lies on one colour, whose mixture is worked out once.
     static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
     {
-        for (int i = 0; i < count; ++i)
-            pixels[i] = qUnpremultiply(color + scaled(qPremultiply(pixels[i]), below));
+        QRgb pixel = pixels[0];
+        QRgb mixed = mixedPlain(pixel, color, below);
+        for (int i = 0; i < count; ++i) {
+            if (pixels[i] != pixel) {
+                pixel = pixels[i];
+                mixed = mixedPlain(pixel, color, below);
+            }
+            pixels[i] = mixed;
+        }
+    }
+    // An opaque pixel is the same in both formats, and stays opaque.
+    static QRgb mixedPlain(QRgb pixel, QRgb color, uint below)
+    {
+        if (qAlpha(pixel) == int(wholeByte))
+            return color + scaled(pixel, below);
+        return qUnpremultiply(color + scaled(qPremultiply(pixel), below));
     }
 
     uchar *m_bits;
@@ -131,11 +147,12 @@ bool hasKnownPixels(const QImage &picture)
     return known && picture.devicePixelRatio() == 1 && picture.isDetached();
 }
 
-// Large enough to be worth keeping, and in use only while a shape is painted.
+// Large enough to be worth keeping, and in use only while a shape is painted. Behind a pointer, since a compiler
+// asks for the address of what belongs to a thread again and again.
 Coverage &sharedCoverage()
 {
-    static thread_local Coverage coverage;
-    return coverage;
+    static thread_local const auto coverage = std::make_unique<Coverage>();
+    return *coverage;
 }
 
 } // namespace
