@@ -24,6 +24,8 @@ constexpr int namespaceDeclarations = 64;
 constexpr int pathSegments = 32767;
 /// Most rules of all style sheets of a document; a selector of a list counts as one.
 constexpr int styleRules = 20000;
+/// Most cascade layers of a document.
+constexpr int styleLayers = 1000;
 /// Most classes of one element that rules are looked for by.
 constexpr int classes = 256;
 /// Most custom properties that all elements of a document declare, that each may declare in any case, and the root.

@@ -4,6 +4,8 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
+
 namespace Svg {
 
 namespace {
@@ -30,12 +32,26 @@ const PseudoName plainPseudoClasses[] = {
     {QLatin1String("last-of-type"), PseudoClass::NthLastOfType},
     {QLatin1String("only-child"), PseudoClass::OnlyChild},
     {QLatin1String("only-of-type"), PseudoClass::OnlyOfType},
+    {QLatin1String("scope"), PseudoClass::Root},
     {QLatin1String("visited"), PseudoClass::Never},
     {QLatin1String("hover"), PseudoClass::Never},
     {QLatin1String("active"), PseudoClass::Never},
     {QLatin1String("focus"), PseudoClass::Never},
+    {QLatin1String("focus-visible"), PseudoClass::Never},
+    {QLatin1String("focus-within"), PseudoClass::Never},
     {QLatin1String("target"), PseudoClass::Never},
+    {QLatin1String("target-within"), PseudoClass::Never},
+    {QLatin1String("enabled"), PseudoClass::Never},
+    {QLatin1String("disabled"), PseudoClass::Never},
+    {QLatin1String("checked"), PseudoClass::Never},
+    {QLatin1String("indeterminate"), PseudoClass::Never},
+    {QLatin1String("fullscreen"), PseudoClass::Never},
 };
+
+/// There are none in a picture; the old four are written like classes, too (Selectors 4 §3.6).
+const char *const pseudoElements[] = {"before",    "after",  "first-line",  "first-letter",
+                                      "selection", "marker", "placeholder", "backdrop"};
+constexpr int oldPseudoElements = 4;
 
 const PseudoName countingPseudoClasses[] = {
     {QLatin1String("nth-child"), PseudoClass::NthChild},
@@ -88,30 +104,47 @@ bool is(const QString &name, const char *known)
 class SelectorParser
 {
 public:
-    SelectorParser(QStringView text, int nesting)
+    SelectorParser(QStringView text, int nesting, const QVector<Selector> *around)
         : m_cursor(text)
         , m_nesting(nesting)
+        , m_around(around)
     {
     }
 
     std::optional<QVector<Selector>> parseList();
+    /// What is not understood is left out alone (Selectors 4 §4.1).
+    QVector<Selector> parseForgivingList();
+    /// Selectors that begin with a combinator, or with that of descendants.
+    std::optional<QVector<Selector>> parseRelativeList();
 
 private:
     bool parseSelector(Selector *selector);
+    bool parseRelative(Selector *selector, const PseudoClass &origin);
+    bool parseChain(Selector *selector, Combinator combinator);
+    void finish(Selector *selector) const;
+    bool leads() const;
+    PseudoClass whatIsAround();
     bool parseCompound(Compound *compound);
     bool parsePart(Compound *compound);
     void skipNamespace();
     bool parseTag(Compound *compound);
     bool parseAttribute(Compound *compound);
     bool parseRelation(AttributeTest *test);
+    void takeFlag(AttributeTest *test);
+    bool takeAttributeName(AttributeTest *test);
     bool parsePseudoClass(Compound *compound);
+    bool parsePseudoElement(Compound *compound);
     bool parseFunction(const QString &name, Compound *compound);
+    bool parseCount(PseudoClass::Kind kind, QStringView argument, Compound *compound);
+    bool parseSelectorFunction(const QString &name, QStringView argument, Compound *compound);
     bool parseLanguages(QStringView argument, Compound *compound);
     void addSpecificity(const QVector<Selector> &selectors);
     bool takeCombinator(Combinator *combinator);
 
     CssCursor m_cursor;
     int m_nesting;
+    const QVector<Selector> *m_around;
+    bool m_namesAround = false;
     int m_ids = 0;
     int m_classes = 0;
     int m_tags = 0;
@@ -161,24 +194,72 @@ bool SelectorParser::parseRelation(AttributeTest *test)
     return !test->value.isEmpty();
 }
 
+// Prefixes stand as they do in the names of attributes.
+bool SelectorParser::takeAttributeName(AttributeTest *test)
+{
+    test->anyNamespace = m_cursor.take('*');
+    if (!test->anyNamespace)
+        test->name = m_cursor.takeIdentifier();
+    CssCursor probe = m_cursor;
+    if (!probe.take('|') || probe.peek() == QLatin1Char('='))
+        return !test->name.isEmpty();
+    m_cursor = probe;
+    const QString local = m_cursor.takeIdentifier();
+    test->name = test->name.isEmpty() ? local : test->name + QLatin1Char(':') + local;
+    return !local.isEmpty();
+}
+
+// "i" passes over case (Selectors 4 §6.3).
+void SelectorParser::takeFlag(AttributeTest *test)
+{
+    if (m_cursor.take('i') || m_cursor.take('I'))
+        test->caseSensitivity = Qt::CaseInsensitive;
+    else if (!m_cursor.take('s'))
+        m_cursor.take('S');
+    m_cursor.skipSpace();
+}
+
 bool SelectorParser::parseAttribute(Compound *compound)
 {
     AttributeTest test;
     m_cursor.skipSpace();
-    test.name = m_cursor.takeIdentifier();
-    m_cursor.skipSpace();
-    if (test.name.isEmpty())
+    if (!takeAttributeName(&test))
         return false;
+    m_cursor.skipSpace();
     if (!m_cursor.take(']')) {
         if (!parseRelation(&test))
             return false;
         m_cursor.skipSpace();
+        takeFlag(&test);
         if (!m_cursor.take(']'))
             return false;
     }
     ++m_classes;
     compound->attributes.append(test);
     return true;
+}
+
+// "2n+1 of .a": only what matches is counted.
+bool SelectorParser::parseCount(PseudoClass::Kind kind, QStringView argument, Compound *compound)
+{
+    static const QRegularExpression separator(QStringLiteral("\\sof\\s"),
+                                              QRegularExpression::CaseInsensitiveOption);
+    PseudoClass pseudo;
+    pseudo.kind = kind;
+    ++m_classes;
+    const bool countsTypes = kind == PseudoClass::NthOfType || kind == PseudoClass::NthLastOfType;
+    const QRegularExpressionMatch of = separator.match(argument.toString());
+    QStringView steps = argument;
+    if (of.hasMatch() && !countsTypes && m_nesting < deepestNesting) {
+        steps = argument.left(of.capturedStart());
+        const auto counted = SelectorParser(argument.mid(of.capturedEnd()), m_nesting + 1, m_around).parseList();
+        if (!counted)
+            return false;
+        pseudo.selectors = *counted;
+        addSpecificity(*counted);
+    }
+    compound->pseudoClasses.append(pseudo);
+    return parseSteps(steps, &compound->pseudoClasses.last());
 }
 
 bool SelectorParser::parseFunction(const QString &name, Compound *compound)
@@ -188,27 +269,33 @@ bool SelectorParser::parseFunction(const QString &name, Compound *compound)
     const QStringView argument(begin, m_cursor.at);
     if (!m_cursor.take(')'))
         return false;
-    PseudoClass pseudo;
-    if (const auto kind = kindOf(name, countingPseudoClasses)) {
-        pseudo.kind = *kind;
-        compound->pseudoClasses.append(pseudo);
-        ++m_classes;
-        return parseSteps(argument, &compound->pseudoClasses.last());
-    }
+    if (const auto kind = kindOf(name, countingPseudoClasses))
+        return parseCount(*kind, argument, compound);
     if (is(name, "lang"))
         return parseLanguages(argument, compound);
-    const bool negates = is(name, "not");
-    const bool counts = negates || is(name, "is");
-    if ((!counts && !is(name, "where")) || m_nesting >= deepestNesting)
+    return m_nesting < deepestNesting && parseSelectorFunction(name, argument, compound);
+}
+
+bool SelectorParser::parseSelectorFunction(const QString &name, QStringView argument, Compound *compound)
+{
+    SelectorParser inner(argument, m_nesting + 1, m_around);
+    PseudoClass pseudo;
+    if (is(name, "is") || is(name, "where") || is(name, "matches")) {
+        pseudo.kind = PseudoClass::Is;
+        pseudo.selectors = inner.parseForgivingList();
+    } else if (is(name, "not") || is(name, "has")) {
+        pseudo.kind = is(name, "not") ? PseudoClass::Not : PseudoClass::Has;
+        const auto selectors = pseudo.kind == PseudoClass::Not ? inner.parseList() : inner.parseRelativeList();
+        if (!selectors)
+            return false;
+        pseudo.selectors = *selectors;
+    } else {
         return false;
-    const std::optional<QVector<Selector>> selectors = SelectorParser(argument, m_nesting + 1).parseList();
-    if (!selectors)
-        return false;
-    pseudo.kind = negates ? PseudoClass::Not : PseudoClass::Is;
-    pseudo.selectors = *selectors;
+    }
+    m_namesAround = m_namesAround || inner.m_namesAround;
     compound->pseudoClasses.append(pseudo);
-    if (counts)
-        addSpecificity(*selectors);
+    if (!is(name, "where"))
+        addSpecificity(pseudo.selectors);
     return true;
 }
 
@@ -245,11 +332,29 @@ bool SelectorParser::parseLanguages(QStringView argument, Compound *compound)
     return true;
 }
 
+bool SelectorParser::parsePseudoElement(Compound *compound)
+{
+    const QString name = m_cursor.takeIdentifier();
+    const bool known = std::any_of(std::begin(pseudoElements), std::end(pseudoElements),
+                                   [&](const char *element) { return is(name, element); });
+    compound->pseudoClasses.append(PseudoClass());
+    ++m_tags;
+    return known || name.startsWith(QLatin1String("-webkit-"), Qt::CaseInsensitive);
+}
+
 bool SelectorParser::parsePseudoClass(Compound *compound)
 {
+    if (m_cursor.take(':'))
+        return parsePseudoElement(compound);
+    const CssCursor before = m_cursor;
     const QString name = m_cursor.takeIdentifier();
     if (m_cursor.take('('))
         return parseFunction(name, compound);
+    if (std::any_of(pseudoElements, pseudoElements + oldPseudoElements,
+                    [&](const char *element) { return is(name, element); })) {
+        m_cursor = before;
+        return parsePseudoElement(compound);
+    }
     const auto kind = kindOf(name, plainPseudoClasses);
     if (!kind)
         return false;
@@ -260,10 +365,27 @@ bool SelectorParser::parsePseudoClass(Compound *compound)
     return true;
 }
 
+// Outside of rules, "&" is the scope of all (CSS Nesting 1 §3.1).
+PseudoClass SelectorParser::whatIsAround()
+{
+    PseudoClass pseudo;
+    pseudo.kind = m_around ? PseudoClass::Is : PseudoClass::Root;
+    if (m_around) {
+        pseudo.selectors = *m_around;
+        addSpecificity(*m_around);
+    }
+    m_namesAround = true;
+    return pseudo;
+}
+
 bool SelectorParser::parsePart(Compound *compound)
 {
+    if (m_cursor.take('&')) {
+        compound->pseudoClasses.append(whatIsAround());
+        return true;
+    }
     if (m_cursor.take('#')) {
-        compound->ids.append(m_cursor.takeName());
+        compound->ids.append(m_cursor.takeIdentifier());
         ++m_ids;
         return !compound->ids.constLast().isEmpty();
     }
@@ -279,7 +401,8 @@ bool SelectorParser::parsePart(Compound *compound)
 
 bool startsPart(QChar c)
 {
-    return c == QLatin1Char('#') || c == QLatin1Char('.') || c == QLatin1Char('[') || c == QLatin1Char(':');
+    return c == QLatin1Char('#') || c == QLatin1Char('.') || c == QLatin1Char('[') || c == QLatin1Char(':') ||
+           c == QLatin1Char('&');
 }
 
 bool SelectorParser::parseCompound(Compound *compound)
@@ -312,11 +435,9 @@ bool SelectorParser::takeCombinator(Combinator *combinator)
     return true;
 }
 
-bool SelectorParser::parseSelector(Selector *selector)
+// Compounds and combinators up to the end; the first combinator joins what is there already.
+bool SelectorParser::parseChain(Selector *selector, Combinator combinator)
 {
-    m_ids = m_classes = m_tags = 0;
-    m_cursor.skipSpace();
-    Combinator combinator = Combinator::Descendant;
     do {
         Compound compound;
         if (!parseCompound(&compound) || selector->compounds.size() >= mostCompounds)
@@ -325,8 +446,51 @@ bool SelectorParser::parseSelector(Selector *selector)
             selector->combinators.prepend(combinator);
         selector->compounds.prepend(compound);
     } while (takeCombinator(&combinator));
+    return true;
+}
+
+void SelectorParser::finish(Selector *selector) const
+{
     selector->specificity = (qMin(m_ids, highestSpecificity) << 16) | (qMin(m_classes, highestSpecificity) << 8) |
                             qMin(m_tags, highestSpecificity);
+}
+
+bool SelectorParser::leads() const
+{
+    const QChar c = m_cursor.peek();
+    return c == QLatin1Char('>') || c == QLatin1Char('+') || c == QLatin1Char('~');
+}
+
+// From an origin of its own, which the selector does not name.
+bool SelectorParser::parseRelative(Selector *selector, const PseudoClass &origin)
+{
+    Compound first;
+    first.pseudoClasses.append(origin);
+    selector->compounds.append(first);
+    Combinator combinator = Combinator::Descendant;
+    if (leads())
+        takeCombinator(&combinator);
+    return parseChain(selector, combinator);
+}
+
+// Inside a rule a selector that does not name what is around begins below it.
+bool SelectorParser::parseSelector(Selector *selector)
+{
+    m_ids = m_classes = m_tags = 0;
+    m_namesAround = false;
+    m_cursor.skipSpace();
+    const CssCursor begin = m_cursor;
+    const bool nested = m_around && m_nesting == 0;
+    if (!(nested && leads()) && !parseChain(selector, Combinator::Descendant))
+        return false;
+    if (nested && !m_namesAround) {
+        m_cursor = begin;
+        *selector = Selector();
+        m_ids = m_classes = m_tags = 0;
+        if (!parseRelative(selector, whatIsAround()))
+            return false;
+    }
+    finish(selector);
     return true;
 }
 
@@ -344,11 +508,44 @@ std::optional<QVector<Selector>> SelectorParser::parseList()
     return list;
 }
 
+std::optional<QVector<Selector>> SelectorParser::parseRelativeList()
+{
+    QVector<Selector> list;
+    PseudoClass anchor;
+    anchor.kind = PseudoClass::Anchor;
+    do {
+        m_ids = m_classes = m_tags = 0;
+        m_cursor.skipSpace();
+        Selector selector;
+        if (!parseRelative(&selector, anchor))
+            return std::nullopt;
+        finish(&selector);
+        list.append(selector);
+    } while (m_cursor.take(','));
+    if (!m_cursor.atEnd())
+        return std::nullopt;
+    return list;
+}
+
+QVector<Selector> SelectorParser::parseForgivingList()
+{
+    QVector<Selector> list;
+    do {
+        const QChar *begin = m_cursor.at;
+        m_cursor.skipTo(",");
+        SelectorParser one(QStringView(begin, m_cursor.at), m_nesting, m_around);
+        if (const auto selectors = one.parseList())
+            list += *selectors;
+        m_namesAround = m_namesAround || one.m_namesAround;
+    } while (m_cursor.take(','));
+    return list;
+}
+
 } // namespace
 
-std::optional<QVector<Selector>> parseSelectors(QStringView text)
+std::optional<QVector<Selector>> parseSelectors(QStringView text, const QVector<Selector> *around)
 {
-    return SelectorParser(text, 0).parseList();
+    return SelectorParser(text, 0, around).parseList();
 }
 
 } // namespace Svg

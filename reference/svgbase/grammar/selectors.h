@@ -15,6 +15,9 @@ struct AttributeTest
     QString name;
     QString value;
     Relation relation = Exists;
+    /// Whether the name is a local one, of any namespace.
+    bool anyNamespace = false;
+    Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive;
 };
 
 struct Selector;
@@ -36,13 +39,18 @@ struct PseudoClass
         /// ":is()" and ":where()".
         Is,
         Not,
+        /// Whether something below or behind the element matches, which the selectors tell from `Anchor` on.
+        Has,
+        /// The element that a ":has()" is asked of.
+        Anchor,
         Language
     };
     Kind kind = Never;
     /// Of the "a n + b" of the counting kinds.
     int step = 0;
     int offset = 1;
-    /// Of `Is` and `Not`: whether one of them matches decides.
+    /// Of `Is`, `Not` and `Has`: whether one of them matches decides. Of the counting kinds: what is counted, all
+    /// siblings where there are none.
     QVector<Selector> selectors;
     QStringList languages;
 };
@@ -71,7 +79,8 @@ struct Selector
 };
 
 /// The selectors of a rule, comments taken out. Nothing when one of them is not understood: the rule is dropped
-/// then.
-std::optional<QVector<Selector>> parseSelectors(QStringView text);
+/// then. Inside a rule with the selectors `around` they are relative to it, and "&" stands for what it matches (CSS
+/// Nesting 1 §3).
+std::optional<QVector<Selector>> parseSelectors(QStringView text, const QVector<Selector> *around = nullptr);
 
 } // namespace Svg

@@ -1,6 +1,8 @@
 #include "grammar/stylesheets.h"
 
+#include "grammar/conditionalrules.h"
 #include "grammar/csstext.h"
+#include "grammar/mediaqueries.h"
 #include "inputlimits.h"
 
 #include <QtCore/QRegularExpression>
@@ -9,7 +11,7 @@ namespace Svg {
 
 namespace {
 
-constexpr int deepestMedia = 8;
+constexpr int deepestBlock = 16;
 constexpr int longestQuote = 40;
 
 QString quoted(QStringView text)
@@ -44,22 +46,6 @@ bool parseDeclaration(QStringView text, SheetDeclaration *declaration)
     return !declaration->value.isEmpty();
 }
 
-// A rule inside a block, which has no effect, ends with its own block (CSS Syntax 3 §5.4.4).
-void skipDeclaration(CssCursor *cursor)
-{
-    const QChar *begin = cursor->at;
-    cursor->skipTo("{;");
-    const bool isRule =
-        cursor->peek() == QLatin1Char('{') && !QStringView(begin, cursor->at).startsWith(QLatin1String("--"));
-    if (!isRule) {
-        cursor->skipTo(";");
-        return;
-    }
-    cursor->take('{');
-    cursor->skipTo("}");
-    cursor->take('}');
-}
-
 bool isBlank(QStringView text)
 {
     CssCursor cursor(text);
@@ -67,47 +53,53 @@ bool isBlank(QStringView text)
     return cursor.atEnd();
 }
 
-// A screen is wide and high enough for what asks, has colours, and shows dark on light.
-bool isTrueOfScreens(const QString &condition)
+bool isName(const QString &name, const char *known)
 {
-    static const QStringList truths{
-        QStringLiteral("all"),
-        QStringLiteral("screen"),
-        QStringLiteral("only all"),
-        QStringLiteral("only screen"),
-        QStringLiteral("not print"),
-        QStringLiteral("(color)"),
-        QStringLiteral("(prefers-color-scheme:light)"),
-    };
-    QString text = condition.trimmed();
-    text.replace(QLatin1String(": "), QLatin1String(":"));
-    return truths.contains(text) || text.startsWith(QLatin1String("(min-width:")) ||
-           text.startsWith(QLatin1String("(min-height:"));
+    return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
 }
+
+/// What rules stand in.
+struct Block
+{
+    int layer = CascadeLayers::none;
+    int depth = 0;
+    /// Of the rule around; null outside of rules.
+    const QVector<Selector> *selectors = nullptr;
+};
 
 class SheetParser
 {
 public:
-    SheetParser(QStringView text, StyleSheet *sheet)
+    SheetParser(QStringView text, const SheetSurroundings &surroundings, StyleSheet *sheet)
         : m_begin(text.begin())
         , m_cursor(text)
+        , m_surroundings(surroundings)
+        , m_layers(*surroundings.layers)
         , m_sheet(sheet)
     {
     }
 
-    void parse();
+    void parse() { parseBlock(Block()); }
 
 private:
-    void parseRule();
-    void parseAtRule();
-    void enterMedia(QStringView media);
+    void parseBlock(const Block &block);
+    void parseRule(const Block &block);
+    void parseDeclarationOrRule(const Block &block, QVector<SheetDeclaration> *declarations);
+    void parseAtRule(const Block &block);
+    void nameLayers(const Block &block, QStringView names);
+    int layerOf(const Block &block, QStringView name);
+    bool isSupported(QStringView condition) const;
+    void enter(const Block &block);
+    void skipBlock();
+    void keep(const Block &block, QVector<SheetDeclaration> *declarations);
     bool takeMark(QLatin1String mark);
     void report(const QChar *at, const QString &text, bool tooMany = false);
 
     const QChar *m_begin;
     CssCursor m_cursor;
+    const SheetSurroundings &m_surroundings;
+    CascadeLayers &m_layers;
     StyleSheet *m_sheet;
-    int m_openMedia = 0;
 };
 
 void SheetParser::report(const QChar *at, const QString &text, bool tooMany)
@@ -124,88 +116,177 @@ bool SheetParser::takeMark(QLatin1String mark)
     return true;
 }
 
-void SheetParser::parseRule()
+void SheetParser::skipBlock()
+{
+    m_cursor.skipTo("}");
+    m_cursor.take('}');
+}
+
+// What follows a rule inside of a rule is a rule of its own behind that one (CSS Nesting 1 §3.2).
+void SheetParser::keep(const Block &block, QVector<SheetDeclaration> *declarations)
+{
+    if (declarations->isEmpty())
+        return;
+    if (m_sheet->rules.size() < Limits::styleRules) {
+        m_sheet->rules.append({*block.selectors, *declarations, block.layer});
+    } else {
+        report(m_begin + declarations->constFirst().offset,
+               QStringLiteral("Rules beyond %1 are left out.").arg(Limits::styleRules), true);
+        m_cursor.at = m_cursor.end;
+    }
+    declarations->clear();
+}
+
+// Up to the brace that closes it, which is taken.
+void SheetParser::enter(const Block &block)
+{
+    if (block.depth > deepestBlock) {
+        skipBlock();
+        return;
+    }
+    parseBlock(block);
+    m_cursor.take('}');
+}
+
+void SheetParser::parseRule(const Block &block)
 {
     const QChar *begin = m_cursor.at;
     m_cursor.skipTo("{}");
     const QStringView prelude(begin, m_cursor.at);
     if (!m_cursor.take('{')) {
         report(begin, QStringLiteral("A rule has no block: %1").arg(quoted(prelude)));
-        m_cursor.take('}');
+        if (block.depth == 0)
+            m_cursor.take('}');
         return;
     }
-    const QChar *block = m_cursor.at;
-    m_cursor.skipTo("}");
-    const QStringView body(block, m_cursor.at);
-    m_cursor.take('}');
-    const std::optional<QVector<Selector>> selectors = parseSelectors(prelude);
+    const std::optional<QVector<Selector>> selectors = parseSelectors(prelude, block.selectors);
     if (!selectors) {
         report(begin, QStringLiteral("The selector \"%1\" is not understood.").arg(quoted(prelude)));
+        skipBlock();
         return;
     }
-    if (m_sheet->rules.size() >= Limits::styleRules) {
-        report(begin, QStringLiteral("Rules beyond %1 are left out.").arg(Limits::styleRules), true);
-        m_cursor.at = m_cursor.end;
-        return;
-    }
-    QVector<StyleProblem> problems;
-    m_sheet->rules.append({*selectors, parseDeclarations(body, &problems, int(block - m_begin))});
-    for (const StyleProblem &problem : qAsConst(problems))
-        m_sheet->report(problem);
+    enter({block.layer, block.depth + 1, &*selectors});
 }
 
-// What applies is read as if it stood outside; its closing brace is passed when it comes.
-void SheetParser::enterMedia(QStringView media)
+// A declaration ends before a block begins, unless it is a custom property (CSS Syntax 3 §5.4.4).
+void SheetParser::parseDeclarationOrRule(const Block &block, QVector<SheetDeclaration> *declarations)
 {
-    if (includesScreens(media) && m_openMedia < deepestMedia) {
-        ++m_openMedia;
+    const QChar *begin = m_cursor.at;
+    m_cursor.skipTo("{;}");
+    const bool isCustom = QStringView(begin, m_cursor.at).startsWith(QLatin1String("--"));
+    if (m_cursor.peek() == QLatin1Char('{') && !isCustom) {
+        m_cursor.at = begin;
+        keep(block, declarations);
+        parseRule(block);
         return;
     }
-    m_cursor.skipTo("}");
-    m_cursor.take('}');
+    m_cursor.skipTo(";}");
+    const QStringView part(begin, m_cursor.at);
+    m_cursor.take(';');
+    SheetDeclaration declaration;
+    declaration.offset = int(begin - m_begin);
+    if (parseDeclaration(part, &declaration))
+        declarations->append(declaration);
+    else if (!isBlank(part))
+        report(begin, QStringLiteral("\"%1\" is no declaration.").arg(quoted(part)));
 }
 
-void SheetParser::parseAtRule()
+bool SheetParser::isSupported(QStringView condition) const
+{
+    const auto decide = [this](const QString &function, QStringView content) {
+        if (isName(function, "selector"))
+            return parseSelectors(content) ? Truth::Yes : Truth::No;
+        SheetDeclaration declaration;
+        const bool known = function.isEmpty() && parseDeclaration(content, &declaration);
+        return known && m_surroundings.supports && m_surroundings.supports(declaration) ? Truth::Yes : Truth::No;
+    };
+    return evaluateCondition(condition, decide) == Truth::Yes;
+}
+
+int SheetParser::layerOf(const Block &block, QStringView name)
+{
+    CssCursor cursor(name);
+    cursor.skipSpace();
+    QString full = cursor.takeIdentifier();
+    while (!full.isEmpty() && cursor.take('.')) {
+        const QString part = cursor.takeIdentifier();
+        if (part.isEmpty())
+            return CascadeLayers::leftOut;
+        full += QLatin1Char('.') + part;
+    }
+    cursor.skipSpace();
+    return cursor.atEnd() ? m_layers.enter(block.layer, full) : CascadeLayers::leftOut;
+}
+
+void SheetParser::nameLayers(const Block &block, QStringView names)
+{
+    CssCursor cursor(names);
+    do {
+        const QChar *begin = cursor.at;
+        cursor.skipTo(",");
+        const QStringView name(begin, cursor.at);
+        if (isBlank(name) || layerOf(block, name) == CascadeLayers::leftOut)
+            report(begin, QStringLiteral("\"%1\" is not taken as a layer.").arg(quoted(name)));
+    } while (cursor.take(','));
+}
+
+void SheetParser::parseAtRule(const Block &block)
 {
     const QChar *begin = m_cursor.at;
     m_cursor.take('@');
     const QString name = m_cursor.takeIdentifier();
-    const QChar *prelude = m_cursor.at;
+    const QChar *preludeBegin = m_cursor.at;
     m_cursor.skipTo("{;}");
-    const QStringView condition(prelude, m_cursor.at);
-    const bool media = name.compare(QLatin1String("media"), Qt::CaseInsensitive) == 0;
-    const bool block = m_cursor.take('{');
-    if (block && media) {
-        enterMedia(condition);
+    const QStringView prelude(preludeBegin, m_cursor.at);
+    const bool isLayer = isName(name, "layer");
+    if (!m_cursor.take('{')) {
+        m_cursor.take(';');
+        if (isLayer)
+            nameLayers(block, prelude);
+        else if (!isName(name, "charset") && !isName(name, "namespace"))
+            report(begin, QStringLiteral("\"@%1\" has no effect.").arg(name));
         return;
     }
-    if (block) {
-        m_cursor.skipTo("}");
-        m_cursor.take('}');
+    Block inner = block;
+    ++inner.depth;
+    bool holds = isLayer;
+    if (isLayer) {
+        inner.layer = layerOf(block, prelude);
+        holds = inner.layer != CascadeLayers::leftOut;
+        if (!holds)
+            report(begin, QStringLiteral("\"%1\" is not taken as a layer.").arg(quoted(prelude)));
+    } else if (isName(name, "media")) {
+        holds = includesScreens(prelude);
+    } else if (isName(name, "supports")) {
+        holds = isSupported(prelude);
     } else {
-        m_cursor.take(';');
-    }
-    const bool silent = name.compare(QLatin1String("charset"), Qt::CaseInsensitive) == 0 ||
-                        name.compare(QLatin1String("namespace"), Qt::CaseInsensitive) == 0;
-    if (!silent)
         report(begin, QStringLiteral("\"@%1\" has no effect.").arg(name));
+    }
+    if (holds)
+        enter(inner);
+    else
+        skipBlock();
 }
 
-void SheetParser::parse()
+void SheetParser::parseBlock(const Block &block)
 {
+    QVector<SheetDeclaration> declarations;
     for (;;) {
         m_cursor.skipSpace();
-        if (m_cursor.atEnd())
-            return;
-        if (takeMark(QLatin1String("<!--")) || takeMark(QLatin1String("-->")))
+        if (m_cursor.atEnd() || (block.depth > 0 && m_cursor.peek() == QLatin1Char('}')))
+            break;
+        if (block.depth == 0 && (takeMark(QLatin1String("<!--")) || takeMark(QLatin1String("-->"))))
             continue;
-        if (m_openMedia > 0 && m_cursor.take('}'))
-            --m_openMedia;
-        else if (m_cursor.peek() == QLatin1Char('@'))
-            parseAtRule();
-        else
-            parseRule();
+        if (m_cursor.peek() == QLatin1Char('@')) {
+            keep(block, &declarations);
+            parseAtRule(block);
+        } else if (block.selectors) {
+            parseDeclarationOrRule(block, &declarations);
+        } else {
+            parseRule(block);
+        }
     }
+    keep(block, &declarations);
 }
 
 } // namespace
@@ -216,43 +297,15 @@ void StyleSheet::report(const StyleProblem &problem)
         problems.append(problem);
 }
 
-QVector<SheetDeclaration> parseDeclarations(QStringView text, QVector<StyleProblem> *problems, int offset)
-{
-    QVector<SheetDeclaration> declarations;
-    CssCursor cursor(text);
-    while (!cursor.atEnd()) {
-        cursor.skipSpace();
-        const QChar *begin = cursor.at;
-        skipDeclaration(&cursor);
-        const QStringView part(begin, cursor.at);
-        cursor.take(';');
-        SheetDeclaration declaration;
-        declaration.offset = offset + int(begin - text.begin());
-        if (parseDeclaration(part, &declaration))
-            declarations.append(declaration);
-        else if (problems && problems->size() < Limits::messages && !isBlank(part))
-            problems->append({declaration.offset, QStringLiteral("\"%1\" is no declaration.").arg(quoted(part))});
-    }
-    return declarations;
-}
-
-StyleSheet parseStyleSheet(QStringView text)
+StyleSheet parseStyleSheet(QStringView text, const SheetSurroundings &surroundings)
 {
     StyleSheet sheet;
-    SheetParser(text, &sheet).parse();
+    CascadeLayers own;
+    SheetSurroundings used = surroundings;
+    if (!used.layers)
+        used.layers = &own;
+    SheetParser(text, used, &sheet).parse();
     return sheet;
-}
-
-bool includesScreens(QStringView media)
-{
-    const QString text = withoutComments(media).trimmed().toLower();
-    if (text.isEmpty())
-        return true;
-    const QStringList queries = text.split(QLatin1Char(','));
-    return std::any_of(queries.begin(), queries.end(), [](const QString &query) {
-        const QStringList parts = query.simplified().split(QLatin1String(" and "));
-        return std::all_of(parts.begin(), parts.end(), isTrueOfScreens);
-    });
 }
 
 } // namespace Svg

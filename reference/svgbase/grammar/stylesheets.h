@@ -1,6 +1,9 @@
 #pragma once
 
+#include "grammar/cascadelayers.h"
 #include "grammar/selectors.h"
+
+#include <functional>
 
 namespace Svg {
 
@@ -19,6 +22,8 @@ struct StyleRule
 {
     QVector<Selector> selectors;
     QVector<SheetDeclaration> declarations;
+    /// Of the sheet's layers; `CascadeLayers::none` outside of all.
+    int layer = CascadeLayers::none;
 };
 
 /// What could not be read, and where in the text it stands.
@@ -32,6 +37,7 @@ struct StyleProblem
 
 struct StyleSheet
 {
+    /// In the order of the text; rules inside of rules stand for themselves.
     QVector<StyleRule> rules;
     QVector<StyleProblem> problems;
 
@@ -39,14 +45,16 @@ struct StyleSheet
     void report(const StyleProblem &problem);
 };
 
-/// Declarations between braces, in their order. What is no declaration is left out and
-/// added to `problems`, when given, with its place counted from `offset`.
-QVector<SheetDeclaration> parseDeclarations(QStringView text, QVector<StyleProblem> *problems = nullptr,
-                                            int offset = 0);
+/// What a style sheet is read with.
+struct SheetSurroundings
+{
+    /// Whether a declaration would have an effect, as "@supports" asks.
+    std::function<bool(const SheetDeclaration &)> supports;
+    /// Layers of the document so far; those of the sheet are added.
+    CascadeLayers *layers = nullptr;
+};
 
 /// The rules of a style sheet that concern a picture on a screen. A rule with an error is dropped, the rest kept.
-StyleSheet parseStyleSheet(QStringView text);
-/// Whether a list of media types, as of a "media" attribute, includes screens; an empty one does.
-bool includesScreens(QStringView media);
+StyleSheet parseStyleSheet(QStringView text, const SheetSurroundings &surroundings);
 
 } // namespace Svg

@@ -48,13 +48,14 @@ private:
     /// False once the element may have no more of them.
     bool takeCustomProperty();
     void addMatches(bool important);
+    void turnLayers();
     void addStyle(const QString &text, bool important);
     void addShorthand(const StyleDeclaration &declaration);
 
     const Tree &m_tree;
     int m_customLeft = 0;
     QVarLengthArray<Declaration, 16> m_list;
-    QVector<const QVector<RuleDeclaration> *> m_matches;
+    QVector<const RuleBlock *> m_matches;
     /// Texts that the list's views look at.
     QVector<QString> m_texts;
 };
@@ -72,15 +73,25 @@ bool DeclarationList::takeCustomProperty()
     return m_customLeft >= 0;
 }
 
+// Of what is important, earlier layers win (CSS Cascade 5 §6.4.4).
+void DeclarationList::turnLayers()
+{
+    const auto isLower = [](const RuleBlock *a, const RuleBlock *b) { return a->layer < b->layer; };
+    if (!std::is_sorted(m_matches.begin(), m_matches.end(), isLower))
+        std::stable_sort(m_matches.begin(), m_matches.end(), isLower);
+}
+
 // From the highest rank down: what rules say was accepted already, so that only the first on a property counts.
 // Custom properties are many under one id.
 void DeclarationList::addMatches(bool important)
 {
     std::bitset<256> known;
     const int before = m_list.size();
-    for (const QVector<RuleDeclaration> *block : qAsConst(m_matches)) {
-        for (int i = block->size() - 1; i >= 0; --i) {
-            const RuleDeclaration &declaration = block->at(i);
+    if (important)
+        turnLayers();
+    for (const RuleBlock *block : qAsConst(m_matches)) {
+        for (int i = block->declarations.size() - 1; i >= 0; --i) {
+            const RuleDeclaration &declaration = block->declarations.at(i);
             if (declaration.important != important || known.test(size_t(declaration.property)))
                 continue;
             if (declaration.property == AttributeId::CustomProperty && !takeCustomProperty())

@@ -1,5 +1,6 @@
 #include "style/rules.h"
 
+#include "grammar/mediaqueries.h"
 #include "inputlimits.h"
 #include "style/properties.h"
 #include "style/selectormatching.h"
@@ -80,16 +81,24 @@ bool isAccepted(const RuleDeclaration &declaration)
     return applyProperty(style, declaration.property, declaration.value, {initial, QSizeF()});
 }
 
+bool isSupported(const SheetDeclaration &declaration)
+{
+    QVector<RuleDeclaration> expanded;
+    appendLonghands(declaration.name, declaration.value, false, &expanded);
+    return !expanded.isEmpty() && std::all_of(expanded.begin(), expanded.end(), isAccepted);
+}
+
 } // namespace
 
 StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
 {
     auto rules = std::make_shared<StyleRules>();
+    CascadeLayers layers;
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const Node &node = tree.node(at);
         if (!isStyleSheet(node))
             continue;
-        StyleSheet sheet = parseStyleSheet(node.text);
+        StyleSheet sheet = parseStyleSheet(node.text, {isSupported, &layers});
         for (const StyleRule &rule : qAsConst(sheet.rules))
             rules->add(rule, &sheet);
         for (const StyleProblem &problem : qAsConst(sheet.problems)) {
@@ -97,7 +106,7 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
                 report(node, problem, messages);
         }
     }
-    rules->index();
+    rules->index(layers.ranks());
     return rules->m_entries.isEmpty() ? nullptr : rules;
 }
 
@@ -122,7 +131,7 @@ void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)
         m_full = true;
         return;
     }
-    m_blocks.append(withoutOverruled(block));
+    m_blocks.append({withoutOverruled(block), rule.layer});
     for (const Selector &selector : rule.selectors)
         addEntry(selector);
 }
@@ -133,10 +142,14 @@ void StyleRules::addEntry(const Selector &selector)
     noteAttributes(selector);
 }
 
-void StyleRules::index()
+void StyleRules::index(const QVector<int> &layerRanks)
 {
-    std::stable_sort(m_entries.begin(), m_entries.end(), [](const Entry &a, const Entry &b) {
-        return a.selector.specificity < b.selector.specificity;
+    for (RuleBlock &block : m_blocks)
+        block.layer = layerRanks.at(block.layer);
+    std::stable_sort(m_entries.begin(), m_entries.end(), [this](const Entry &a, const Entry &b) {
+        const int layerOfA = m_blocks.at(a.block).layer;
+        const int layerOfB = m_blocks.at(b.block).layer;
+        return layerOfA != layerOfB ? layerOfA < layerOfB : a.selector.specificity < b.selector.specificity;
     });
     for (int place = 0; place < m_entries.size(); ++place) {
         const Compound &last = m_entries.at(place).selector.compounds.constFirst();
@@ -158,8 +171,10 @@ void StyleRules::noteAttributes(const Selector &selector)
             m_attributes.insert(QStringLiteral("id"));
         if (!compound.classes.isEmpty())
             m_attributes.insert(QStringLiteral("class"));
-        for (const AttributeTest &test : compound.attributes)
+        for (const AttributeTest &test : compound.attributes) {
             m_attributes.insert(test.name);
+            m_anyNamespace = m_anyNamespace || test.anyNamespace;
+        }
         for (const PseudoClass &pseudo : compound.pseudoClasses) {
             if (pseudo.kind == PseudoClass::Link)
                 m_attributes << QStringLiteral("href") << QStringLiteral("xlink:href");
@@ -173,11 +188,10 @@ void StyleRules::noteAttributes(const Selector &selector)
 
 bool StyleRules::dependsOn(const QString &attribute) const
 {
-    return m_attributes.contains(attribute);
+    return m_anyNamespace || m_attributes.contains(attribute);
 }
 
-bool StyleRules::match(const Tree &tree, NodeIndex element,
-                       QVector<const QVector<RuleDeclaration> *> *matches) const
+bool StyleRules::match(const Tree &tree, NodeIndex element, QVector<const RuleBlock *> *matches) const
 {
     const Node &node = tree.node(element);
     if (node.kind == ElementKind::Characters)

@@ -17,6 +17,13 @@ struct RuleDeclaration
     bool important = false;
 };
 
+/// What a rule gives, with the rank of its layer.
+struct RuleBlock
+{
+    QVector<RuleDeclaration> declarations;
+    int layer = 0;
+};
+
 /// The rules of all style sheets of a document, indexed so that an element meets only rules that may concern it.
 class StyleRules
 {
@@ -25,9 +32,9 @@ public:
     /// gets what could not be read.
     static StyleRulesPointer compile(const Tree &tree, Messages *messages = nullptr);
 
-    /// What the rules give an element, in falling order of specificity; false when not all of it was looked at,
-    /// since that would have taken too long.
-    bool match(const Tree &tree, NodeIndex element, QVector<const QVector<RuleDeclaration> *> *matches) const;
+    /// What the rules give an element, in falling order of layers and specificity; false when not all of it was
+    /// looked at, since that would have taken too long.
+    bool match(const Tree &tree, NodeIndex element, QVector<const RuleBlock *> *matches) const;
     /// Whether the value of an attribute may decide which rules match.
     bool dependsOn(const QString &attribute) const;
 
@@ -42,18 +49,20 @@ private:
 
     void add(const StyleRule &rule, StyleSheet *sheet);
     void addEntry(const Selector &selector);
-    void index();
+    void index(const QVector<int> &layerRanks);
     void noteAttributes(const Selector &selector);
 
     /// In rising order of specificity once they are indexed, else in that of the style sheets.
     QVector<Entry> m_entries;
-    QVector<QVector<RuleDeclaration>> m_blocks;
+    QVector<RuleBlock> m_blocks;
     /// Places of entries by what their last compound asks for: its id, else a class, else its tag, else nothing.
     QHash<QString, QVector<int>> m_byId;
     QHash<QString, QVector<int>> m_byClass;
     QHash<QString, QVector<int>> m_byTag;
     QVector<int> m_universal;
     QSet<QString> m_attributes;
+    /// Whether a rule asks for an attribute of any namespace.
+    bool m_anyNamespace = false;
     bool m_full = false;
 };
 

@@ -17,31 +17,54 @@ bool isSpaceCharacter(QChar c)
            c == QLatin1Char('\f');
 }
 
-bool startsWithWord(const QString &value, const QString &word)
+bool startsWithWord(const QString &value, const QString &word,
+                    Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive)
 {
-    return value == word || value.startsWith(word + QLatin1Char('-'));
+    return value.compare(word, sensitivity) == 0 || value.startsWith(word + QLatin1Char('-'), sensitivity);
+}
+
+bool includesWord(QStringView list, const QString &word, Qt::CaseSensitivity sensitivity)
+{
+    if (sensitivity == Qt::CaseSensitive)
+        return containsWord(list, word);
+    return containsWord(list.toString().toLower(), word.toLower());
+}
+
+bool matchesValue(const QString &value, const AttributeTest &test)
+{
+    const Qt::CaseSensitivity sensitivity = test.caseSensitivity;
+    switch (test.relation) {
+    case AttributeTest::Exists:
+        return true;
+    case AttributeTest::Equals:
+        return value.compare(test.value, sensitivity) == 0;
+    case AttributeTest::Includes:
+        return includesWord(value, test.value, sensitivity);
+    case AttributeTest::StartsWithWord:
+        return startsWithWord(value, test.value, sensitivity);
+    case AttributeTest::Starts:
+        return !test.value.isEmpty() && value.startsWith(test.value, sensitivity);
+    case AttributeTest::Ends:
+        return !test.value.isEmpty() && value.endsWith(test.value, sensitivity);
+    case AttributeTest::Contains:
+        return !test.value.isEmpty() && value.contains(test.value, sensitivity);
+    }
+    return false;
+}
+
+QString nameOf(const Attribute &attribute)
+{
+    return attribute.id == AttributeId::Unknown ? attribute.name : QString(attributeName(attribute.id));
 }
 
 bool matchesAttribute(const Node &node, const AttributeTest &test)
 {
-    const QString value = node.attributes.value(test.name);
-    switch (test.relation) {
-    case AttributeTest::Exists:
-        return node.attributes.contains(test.name);
-    case AttributeTest::Equals:
-        return node.attributes.contains(test.name) && value == test.value;
-    case AttributeTest::Includes:
-        return containsWord(value, test.value);
-    case AttributeTest::StartsWithWord:
-        return node.attributes.contains(test.name) && startsWithWord(value, test.value);
-    case AttributeTest::Starts:
-        return !test.value.isEmpty() && value.startsWith(test.value);
-    case AttributeTest::Ends:
-        return !test.value.isEmpty() && value.endsWith(test.value);
-    case AttributeTest::Contains:
-        return !test.value.isEmpty() && value.contains(test.value);
-    }
-    return false;
+    if (!test.anyNamespace)
+        return node.attributes.contains(test.name) && matchesValue(node.attributes.value(test.name), test);
+    return std::any_of(node.attributes.begin(), node.attributes.end(), [&](const Attribute &attribute) {
+        const QString name = nameOf(attribute);
+        return name.mid(name.indexOf(QLatin1Char(':')) + 1) == test.name && matchesValue(attribute.value, test);
+    });
 }
 
 bool isLink(const Node &node)
@@ -178,14 +201,18 @@ bool SelectorMatcher::hasSibling(NodeIndex element, bool after, bool ofType)
 
 bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo, bool fromEnd, bool ofType)
 {
-    if (pseudo.step == 0 && pseudo.offset == 1)
+    const bool countsSome = !pseudo.selectors.isEmpty();
+    if (countsSome && !matchesAny(element, pseudo.selectors))
+        return false;
+    if (pseudo.step == 0 && pseudo.offset == 1 && !countsSome)
         return !hasSibling(element, fromEnd, ofType);
     const QString name = ofType ? localName(m_tree.node(element)) : QString();
     int position = 1;
     NodeIndex at = fromEnd ? m_tree.node(element).next : m_tree.node(element).previous;
     while (at != noNode && takeStep()) {
         const Node &node = m_tree.node(at);
-        if (isElement(node) && (!ofType || hasLocalName(node, name)))
+        const bool counts = isElement(node) && (!ofType || hasLocalName(node, name));
+        if (counts && (!countsSome || matchesAny(at, pseudo.selectors)))
             ++position;
         at = fromEnd ? node.next : node.previous;
     }
@@ -198,6 +225,25 @@ bool SelectorMatcher::matchesAny(NodeIndex element, const QVector<Selector> &sel
                        [&](const Selector &selector) { return matches(element, selector); });
 }
 
+// The last combinator of the chain tells where to look: below the element, or at and below what comes after it.
+bool SelectorMatcher::matchesRelative(NodeIndex element, const Selector &selector)
+{
+    const NodeIndex anchorBefore = m_anchor;
+    m_anchor = element;
+    const Combinator first = selector.combinators.constLast();
+    const bool below = first == Combinator::Descendant || first == Combinator::Child;
+    bool found = false;
+    for (NodeIndex top = below ? element : m_tree.node(element).next; top != noNode && !found && takeStep();
+         top = below ? noNode : m_tree.node(top).next) {
+        found = !below && matches(top, selector);
+        NodeIndex at = m_tree.following(top, top);
+        for (; at != noNode && !found && !isExhausted(); at = m_tree.following(at, top))
+            found = matches(at, selector);
+    }
+    m_anchor = anchorBefore;
+    return found;
+}
+
 // The nearest element that names its language decides.
 bool SelectorMatcher::matchesLanguage(NodeIndex element, const QStringList &languages)
 {
@@ -207,7 +253,7 @@ bool SelectorMatcher::matchesLanguage(NodeIndex element, const QStringList &lang
         const QString own = plain.isEmpty() ? attributes.value(QStringLiteral("xml:lang")) : plain;
         if (!own.isEmpty())
             return std::any_of(languages.begin(), languages.end(), [&](const QString &language) {
-                return startsWithWord(own.toLower(), language.toLower());
+                return language == QLatin1String("*") || startsWithWord(own, language);
             });
     }
     return false;
@@ -240,10 +286,27 @@ bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &p
         return matchesAny(element, pseudo.selectors);
     case PseudoClass::Not:
         return !matchesAny(element, pseudo.selectors);
+    case PseudoClass::Has:
+        return std::any_of(pseudo.selectors.begin(), pseudo.selectors.end(),
+                           [&](const Selector &selector) { return matchesRelative(element, selector); });
+    case PseudoClass::Anchor:
+        return element == m_anchor;
     case PseudoClass::Language:
         return matchesLanguage(element, pseudo.languages);
     }
     return false;
+}
+
+void SelectorMatcher::takeText(const AttributeTest &test, const Node &node)
+{
+    if (!test.anyNamespace) {
+        takeText(node.attributes.value(test.name));
+        return;
+    }
+    for (const Attribute &attribute : node.attributes) {
+        takeStep();
+        takeText(attribute.value);
+    }
 }
 
 bool SelectorMatcher::matchesAttributes(const Node &node, const Compound &compound)
@@ -259,7 +322,7 @@ bool SelectorMatcher::matchesAttributes(const Node &node, const Compound &compou
             return false;
     }
     for (const AttributeTest &test : compound.attributes) {
-        takeText(node.attributes.value(test.name));
+        takeText(test, node);
         if (!matchesAttribute(node, test))
             return false;
     }

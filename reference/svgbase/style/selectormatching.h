@@ -46,6 +46,7 @@ private:
     bool matchesAttributes(const Node &node, const Compound &compound);
     bool matchesPseudoClass(NodeIndex element, const PseudoClass &pseudo);
     bool matchesAny(NodeIndex element, const QVector<Selector> &selectors);
+    bool matchesRelative(NodeIndex element, const Selector &selector);
     bool matchesLanguage(NodeIndex element, const QStringList &languages);
     bool matchesCount(NodeIndex element, const PseudoClass &pseudo, bool fromEnd, bool ofType);
     bool hasSibling(NodeIndex element, bool after, bool ofType);
@@ -53,11 +54,14 @@ private:
     bool takeStep() { return m_stepsLeft > 0 && m_stepsLeft-- > 0; }
     /// Looking through a text takes the longer the longer it is.
     void takeText(QStringView text) { m_stepsLeft -= int(text.size() / charactersPerStep); }
+    void takeText(const AttributeTest &test, const Node &node);
 
     static constexpr int charactersPerStep = 32;
 
     const Tree &m_tree;
     int m_stepsLeft;
+    /// What the ":has()" at hand is asked of.
+    NodeIndex m_anchor = noNode;
 };
 
 /// Calls a function with the words of a list separated by white space, the first ones up to a number.
