@@ -25,7 +25,7 @@ public:
         : m_context(context)
         , m_node(node)
         , m_facts(facts)
-        , m_space(effectSpace(context.document.tree().node(node), *facts))
+        , m_space(facts->toDocument)
     {
     }
 

@@ -41,19 +41,12 @@ private:
 
 } // namespace
 
-QTransform effectSpace(const Node &node, const Facts &facts)
-{
-    if (node.kind != ElementKind::NestedSvg && node.kind != ElementKind::Symbol)
-        return facts.toDocument;
-    return facts.fitted().aroundToDocument;
-}
-
 QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &facts)
 {
     const Node &element = context.document.tree().node(node);
     if (hasGeometry(element.kind) || element.kind == ElementKind::Image)
         return facts->hasGeometry ? facts->localBounds : QRectF();
-    const QTransform fromDocument = effectSpace(element, *facts).inverted();
+    const QTransform fromDocument = facts->toDocument.inverted();
     BoundsUnion all;
     const auto enter = [&](NodeIndex, const FactsPointer &below) {
         if (!below->displayed)

@@ -81,10 +81,15 @@ std::optional<Paint> parsePaint(QStringView text)
     Paint paint;
     paint.kind = Paint::Server;
     paint.server = localReference(unquoted(trimmed.mid(referenceStart.size(), end - referenceStart.size())));
-    const std::optional<Paint> fallback = plainPaint(trimmed.mid(end + 1).trimmed());
-    if (fallback && fallback->kind == Paint::Color)
+    const QStringView rest = trimmed.mid(end + 1).trimmed();
+    if (rest.isEmpty())
+        return paint;
+    const std::optional<Paint> fallback = plainPaint(rest);
+    if (!fallback)
+        return std::nullopt;
+    if (fallback->kind == Paint::Color)
         paint.color = fallback->color;
-    paint.followsColor = fallback && fallback->followsColor;
+    paint.followsColor = fallback->followsColor;
     return paint;
 }
 
