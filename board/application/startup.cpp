@@ -12,6 +12,7 @@
 #include "output/pageexport.h"
 #include "output/screenshot.h"
 #include "window/mainwindow.h"
+#include "window/windowmemory.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>
@@ -108,13 +109,16 @@ int openWindow(Workspace &workspace, const Options &options)
     if (options.demo)
         fillWithDemo(workspace);
     MainWindow window(&workspace);
+    restoreWindow(&window);
     window.show();
     if (!options.file.isEmpty())
         window.documents()->openNow(options.file);
     window.recovery()->offer();
     if (options.play)
         window.lessons()->playOrPause();
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    rememberWindow(&window);
+    return code;
 }
 
 int work(Workspace &workspace, const Options &options)
@@ -142,7 +146,8 @@ int runBoard(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("gliololok"));
     QApplication::setApplicationName(QStringLiteral("gliololok-board"));
     QApplication::setApplicationVersion(QStringLiteral(BOARD_VERSION));
-    applyTheme(options.dark ? Theme::Dark : Theme::Light);
+    const bool dark = options.dark || (options.action == Options::OpenWindow && remembersDarkColors());
+    applyTheme(dark ? Theme::Dark : Theme::Light);
 
     Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
     // Before Qt speaks the user's language: problems are told in English throughout.

@@ -34,6 +34,9 @@ constexpr double degreesPerNotch = 120;
 constexpr std::array<double, 14> zoomSteps{0.1, 0.25, 0.33, 0.5, 0.67, 0.75, 1, 1.25, 1.5, 2, 3, 4, 6, 8};
 constexpr double zoomEpsilon = 1e-6;
 constexpr int shadowSize = 7;
+/// How far beyond the area to repaint the canvas is filled, pixels: that area's edges lie beside the pixels' own,
+/// and a smooth edge would leave a line.
+constexpr int repaintMargin = 2;
 
 } // namespace
 
@@ -355,7 +358,8 @@ void PageView::resizeEvent(QResizeEvent *event)
 void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 {
     const ThemeColors colors = themeColors();
-    painter->fillRect(rect, colors.canvas);
+    const double margin = repaintMargin / m_zoom;
+    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), colors.canvas);
     if (!m_page)
         return;
     painter->save();

@@ -4,6 +4,7 @@
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "window/shortcuts.h"
+#include "window/windowmemory.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -112,8 +113,10 @@ void Actions::makeViewActions()
     fitPage = add("IDS_BOARD_FIT_PAGE", Icon::ZoomFit, {Qt::CTRL | Qt::Key_9}, [this] { m_view->fitPage(); });
     playAnimation = add("IDS_BOARD_ANIMATION", Icon::Animation, {Qt::Key_F7}, [] {});
     playAnimation->setCheckable(true);
-    darkColors =
-        add("IDS_BOARD_DARK", {}, [this] { applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light); });
+    darkColors = add("IDS_BOARD_DARK", {}, [this] {
+        applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light);
+        rememberDarkColors(darkColors->isChecked());
+    });
     darkColors->setCheckable(true);
     darkColors->setChecked(currentTheme() == Theme::Dark);
 }

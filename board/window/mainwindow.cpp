@@ -50,8 +50,6 @@ constexpr QSize firstSize(1400, 900);
 constexpr QSize toolIconSize(22, 22);
 constexpr int leftPanelWidth = 220;
 constexpr int rightPanelWidth = 300;
-/// Milliseconds that a message stands in the status bar.
-constexpr int messageTime = 5000;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
 
@@ -306,9 +304,8 @@ void MainWindow::connectParts()
     connect(m_actions, &Actions::aboutToStep, m_settings, &SelectionPanel::settle);
     connect(m_actions, &Actions::aboutToStep, m_properties, &SelectionPanel::settle);
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
-    connect(m_documents, &DocumentController::saved, this, [this](const QString &file) {
-        statusBar()->showMessage(m_workspace->text("IDS_BOARD_SAVED").arg(file), messageTime);
-    });
+    connect(m_documents, &DocumentController::saved, this,
+            [this](const QString &file) { m_status->showMessage(m_workspace->text("IDS_BOARD_SAVED"), file); });
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
@@ -408,8 +405,7 @@ void MainWindow::exportPages(PageFormat format)
     const ExportResult result =
         board::exportPages(m_workspace->document(), m_workspace->registry(), folder, {format, 1});
     if (!result.files.isEmpty())
-        statusBar()->showMessage(m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()).arg(folder),
-                                 messageTime);
+        m_status->showMessage(m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()), folder);
     if (!result.problems.isEmpty())
         m_notices->add(
             {m_workspace->text("IDS_BOARD_NOT_EXPORTED"), result.problems, {}, QStringLiteral("exportNotice")});

@@ -14,12 +14,15 @@ namespace {
 
 constexpr int pointerTextWidth = 110;
 constexpr int sizeTextWidth = 120;
+/// Milliseconds that a message stands.
+constexpr int messageTime = 5000;
 
 } // namespace
 
 StatusLine::StatusLine(const Workspace *workspace, const Actions *actions, PageView *view, QStatusBar *bar)
     : QObject(bar)
     , m_workspace(workspace)
+    , m_bar(bar)
     , m_hint(new QLabel(bar))
     , m_pointer(new QLabel(bar))
     , m_size(new QLabel(bar))
@@ -40,6 +43,13 @@ StatusLine::StatusLine(const Workspace *workspace, const Actions *actions, PageV
 void StatusLine::showHint(const char *textKey)
 {
     m_hint->setText(m_workspace->text(textKey));
+}
+
+void StatusLine::showMessage(const QString &pattern, const QString &path)
+{
+    const QFontMetrics metrics = m_bar->fontMetrics();
+    const int room = m_hint->width() - metrics.horizontalAdvance(pattern.arg(QString())) - 2 * mediumGap;
+    m_bar->showMessage(pattern.arg(metrics.elidedText(path, Qt::ElideMiddle, room)), messageTime);
 }
 
 void StatusLine::showBounds(const QRectF &bounds)

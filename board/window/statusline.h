@@ -22,6 +22,9 @@ public:
     StatusLine(const Workspace *workspace, const Actions *actions, PageView *view, QStatusBar *bar);
 
     void showHint(const char *textKey);
+    /// For a few seconds. `pattern` has one place for `path`, which is shortened in its middle to the room there
+    /// is.
+    void showMessage(const QString &pattern, const QString &path);
     /// Scene units; null for no selection.
     void showBounds(const QRectF &bounds);
 
@@ -29,6 +32,7 @@ private:
     void showPointer(const QPointF &scenePos);
 
     const Workspace *m_workspace;
+    QStatusBar *m_bar;
     QLabel *m_hint;
     QLabel *m_pointer;
     QLabel *m_size;

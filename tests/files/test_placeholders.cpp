@@ -57,6 +57,8 @@ private Q_SLOTS:
     void placeholderIsLargeEnoughToSeize_data();
     void placeholderIsLargeEnoughToSeize();
     void placeholderOfNoStateIsSeen();
+    void placeholderOfAPlaceThatNoPageReachesIsSeen_data();
+    void placeholderOfAPlaceThatNoPageReachesIsSeen();
     void placeholderOfAHiddenObjectIsSeen_data() { addFormats(); }
     void placeholderOfAHiddenObjectIsSeen();
     void placeholderKeepsItsNewNumber_data() { addFormats(); }
@@ -243,6 +245,47 @@ void TestPlaceholders::placeholderOfNoStateIsSeen()
     QVERIFY(isPlaceholder(firstObject(opened)));
     QCOMPARE(firstObject(opened)->getPos(), QPointF(40, 40));
     QCOMPARE(firstObject(opened)->getClientRect(), QRectF(0, 0, 160, 100));
+}
+
+void TestPlaceholders::placeholderOfAPlaceThatNoPageReachesIsSeen_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QJsonArray>("numbers");
+    QTest::addColumn<QPointF>("pos");
+    QTest::addColumn<QSizeF>("size");
+    const QPointF corner(40, 40);
+    const QSizeF plain(160, 100);
+    QTest::newRow("far away") << "pos" << QJsonArray{1e101, 5} << corner << plain;
+    QTest::newRow("box far away") << "clientRect" << QJsonArray{1e101, 0, 50, 30} << corner << plain;
+    QTest::newRow("endless") << "clientRect" << QJsonArray{0, 0, 1e101, 30} << corner << plain;
+    QTest::newRow("beside the largest page")
+        << "pos" << QJsonArray{-90000, 190000} << QPointF(-90000, 190000) << QSizeF(100, 60);
+}
+
+/// Data that are damaged may name any place. The data themselves are kept.
+void TestPlaceholders::placeholderOfAPlaceThatNoPageReachesIsSeen()
+{
+    QFETCH(QString, member);
+    QFETCH(QJsonArray, numbers);
+    const std::unique_ptr<Document> document = documentWithObject();
+    document->page(0)->objects()[0]->setRotation(0);
+    QJsonObject file = QJsonDocument::fromJson(encodeDocument(*document, DocumentFormat::Json)).object();
+    QJsonObject page = file["pages"].toArray()[0].toObject();
+    QJsonObject object = page["objects"].toArray()[0].toObject();
+    QJsonObject data = object["data"].toObject();
+    QVERIFY(data.contains(member));
+    data[member] = numbers;
+    object["data"] = data;
+    page["objects"] = QJsonArray{object};
+    file["pages"] = QJsonArray{page};
+    const OpenResult opened = decodeDocument(QJsonDocument(file).toJson(), m_ignorant);
+    QVERIFY(isPlaceholder(firstObject(opened)));
+    QTEST(firstObject(opened)->getPos(), "pos");
+    QTEST(firstObject(opened)->getClientRect().size(), "size");
+    QCOMPARE(firstObject(opened)->getClientRect().topLeft(), QPointF(0, 0));
+    const QByteArray saved = encodeDocument(*opened.document, DocumentFormat::Json);
+    const QJsonObject again = QJsonDocument::fromJson(saved).object()["pages"].toArray()[0].toObject();
+    QCOMPARE(again["objects"].toArray()[0].toObject()["data"].toObject(), data);
 }
 
 void TestPlaceholders::placeholderOfAHiddenObjectIsSeen()

@@ -4,6 +4,7 @@
 #include <pagehost/objectregistry.h>
 
 #include <files/chunks.h>
+#include <files/documentcodec.h>
 #include <host/rootobjectprivate.h>
 
 #include <QtCore/QDataStream>
@@ -25,6 +26,13 @@ constexpr double smallestSide = 16;
 constexpr QRgb lineColor = 0xff8a8f98;
 constexpr QRgb areaColor = 0x18808890;
 constexpr double labelMargin = 6; ///< item units
+
+/// Whether a page could show something there. Damaged data may name any place.
+bool isWithinReach(const QRectF &sceneRect)
+{
+    const QRectF reach(-largestPageSide, -largestPageSide, 3 * largestPageSide, 3 * largestPageSide);
+    return reach.contains(sceneRect.topLeft()) && reach.contains(sceneRect.bottomRight());
+}
 
 } // namespace
 
@@ -49,7 +57,8 @@ void PlaceholderObject::takePlace()
         QJsonObject json = QJsonDocument::fromJson(m_record.data).object();
         isKnown = CPSRootObject::loadJson(json);
     }
-    if (!isKnown) {
+    if (!isKnown || !isWithinReach(mapRectToScene(clientRect))) {
+        CPSRootObjectPrivate::setClientRect(*this, QRectF(QPointF(), plainSize));
         CPSRootObject::setPos(plainPos, false);
         CPSRootObject::setSize(plainSize, false, false);
     }

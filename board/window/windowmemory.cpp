@@ -1,0 +1,55 @@
+#include "window/windowmemory.h"
+
+#include <QtCore/QSettings>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtWidgets/QMainWindow>
+
+namespace board {
+
+namespace {
+
+const QString placeKey = QStringLiteral("window/place");
+const QString panelsKey = QStringLiteral("window/panels");
+const QString darkKey = QStringLiteral("window/dark");
+/// To be counted up when panels of an earlier version don't fit any more.
+constexpr int panelsVersion = 1;
+/// Title bar and borders, which the window manager adds, logical pixels.
+constexpr QSize frameRoom(16, 40);
+
+QSize roomOnScreen()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableSize() - frameRoom : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+} // namespace
+
+void restoreWindow(QMainWindow *window)
+{
+    const QSettings settings;
+    if (window->restoreGeometry(settings.value(placeKey).toByteArray())) {
+        window->restoreState(settings.value(panelsKey).toByteArray(), panelsVersion);
+        return;
+    }
+    window->resize(window->size().boundedTo(roomOnScreen()));
+}
+
+void rememberWindow(const QMainWindow *window)
+{
+    QSettings settings;
+    settings.setValue(placeKey, window->saveGeometry());
+    settings.setValue(panelsKey, window->saveState(panelsVersion));
+}
+
+bool remembersDarkColors()
+{
+    return QSettings().value(darkKey).toBool();
+}
+
+void rememberDarkColors(bool dark)
+{
+    QSettings().setValue(darkKey, dark);
+}
+
+} // namespace board

@@ -1,0 +1,107 @@
+// The window: how large it opens, what it remembers, what its status line tells.
+
+#include <board/boarddriver.h>
+
+#include <documents/documentcontroller.h>
+#include <look/theme.h>
+#include <panels/historypanel.h>
+#include <window/actions.h>
+#include <window/mainwindow.h>
+#include <window/windowmemory.h>
+
+#include <QtCore/QSettings>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+using namespace boardtest;
+
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { board::applyTheme(board::Theme::Light); }
+    void firstWindowFitsTheScreen();
+    void windowOpensAsItWasLeft();
+    void panelsOpenAsTheyWereLeft();
+    void darkColoursAreRemembered();
+    void longNamesAreShortenedInTheStatusLine();
+};
+
+void TestWindow::init()
+{
+    useOwnFolders();
+    QSettings().clear();
+}
+
+/// The offscreen platform's screen is 800 by 800, smaller than the window would like to be.
+void TestWindow::firstWindowFitsTheScreen()
+{
+    board::Workspace workspace("en");
+    board::MainWindow window(&workspace);
+    QVERIFY(window.width() > 800 && window.height() > 800);
+    board::restoreWindow(&window);
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    QVERIFY2(window.minimumSizeHint().width() <= screen.width(), "panels and tools need more than that");
+    QCOMPARE(window.size(), screen - QSize(16, 40));
+}
+
+void TestWindow::windowOpensAsItWasLeft()
+{
+    board::Workspace workspace("en");
+    {
+        board::MainWindow window(&workspace);
+        window.setGeometry(30, 60, 770, 620);
+        window.show();
+        board::rememberWindow(&window);
+    }
+    board::MainWindow window(&workspace);
+    board::restoreWindow(&window);
+    QCOMPARE(window.geometry(), QRect(30, 60, 770, 620));
+}
+
+void TestWindow::panelsOpenAsTheyWereLeft()
+{
+    board::Workspace workspace("en");
+    const auto historyDock = [](board::MainWindow &window) {
+        return qobject_cast<QDockWidget *>(window.findChild<board::HistoryPanel *>()->parentWidget());
+    };
+    {
+        board::MainWindow window(&workspace);
+        window.resize(760, 700);
+        window.show();
+        historyDock(window)->close();
+        board::rememberWindow(&window);
+    }
+    board::MainWindow window(&workspace);
+    board::restoreWindow(&window);
+    window.show();
+    QVERIFY(!historyDock(window)->isVisible());
+    QVERIFY(!historyDock(window)->toggleViewAction()->isChecked());
+}
+
+void TestWindow::darkColoursAreRemembered()
+{
+    QVERIFY(!board::remembersDarkColors());
+    BoardDriver board;
+    board.window().actions()->darkColors->trigger();
+    QVERIFY(board::remembersDarkColors());
+    board.window().actions()->darkColors->trigger();
+    QVERIFY(!board::remembersDarkColors());
+}
+
+/// Both ends of the path are seen, and nothing is cut off.
+void TestWindow::longNamesAreShortenedInTheStatusLine()
+{
+    BoardDriver board;
+    Q_EMIT board.window().documents()->saved("/folder/" + QString("a very long name ").repeated(30) + "end.board");
+    QStatusBar *bar = board.window().statusBar();
+    const QString text = bar->currentMessage();
+    QVERIFY2(text.startsWith("Saved: /folder") && text.endsWith("end.board"), qPrintable(text));
+    QVERIFY(text.contains(QChar(0x2026)));
+    QVERIFY(bar->fontMetrics().horizontalAdvance(text) < bar->width());
+}
+
+QTEST_MAIN(TestWindow)
+#include "test_window.moc"
