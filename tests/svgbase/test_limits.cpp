@@ -2,6 +2,7 @@
 // out with a message, and the rest is drawn.
 
 #include "inputlimits.h"
+#include "limitdocuments.h"
 #include "svgdrawing.h"
 
 #include <QtCore/QBuffer>
@@ -11,6 +12,7 @@
 #include <QtTest>
 
 using namespace Svg;
+using namespace limitdocuments;
 using Message = QZeSvgTinyDocument::Message;
 
 namespace {
@@ -19,248 +21,6 @@ namespace {
 const QPoint probe(75, 25);
 /// A square that has nothing to do with any limit.
 const QPoint beside(2, 97);
-
-QString rect(const QString &attributes = "fill='#0f0'")
-{
-    return "<rect width='94' height='94' " + attributes + "/>";
-}
-
-QString nested(const QString &open, const QString &close, int levels, const QString &content)
-{
-    return open.repeated(levels) + content + close.repeated(levels);
-}
-
-QString numbered(const QString &text, int count, int first = 0)
-{
-    QString result;
-    for (int i = first; i < first + count; ++i)
-        result += QString(text).replace("#N", QString::number(i)).replace("#P", QString::number(i - 1));
-    return result;
-}
-
-QString attributes(int count)
-{
-    return numbered(" a#N='1'", count);
-}
-
-QString pathOf(int segments)
-{
-    // The last one makes a triangle of the line.
-    return "<path fill='#0f0' d='M0 0" + QString("L0 0").repeated(segments - 3) + "H100V100'/>";
-}
-
-QString pointsOf(int points)
-{
-    return "<polygon fill='#0f0' points='" + QString("0,0 ").repeated(points - 2) + "100,0 100,100'/>";
-}
-
-// The last stop is what a gradient without length shows.
-QString gradientOf(int stops)
-{
-    return "<linearGradient id='g' x2='0'>" + QString("<stop stop-color='red'/>").repeated(stops - 1) +
-           "<stop stop-color='#0f0'/></linearGradient>" + rect("fill='url(#g)'");
-}
-
-QString gradientChain(int gradients)
-{
-    return numbered("<linearGradient id='g#N' href='#g#P'/>", gradients - 1, 1) +
-           "<linearGradient id='g0'><stop stop-color='#0f0'/></linearGradient>" +
-           rect(QString("fill='url(#g%1)'").arg(gradients - 1));
-}
-
-QString dashesOf(int entries)
-{
-    return "<path stroke='#0f0' stroke-width='50' d='M0 25H94' stroke-dasharray='200 0 " +
-           QString("1 1 ").repeated((entries - 2) / 2) + "'/>";
-}
-
-QString rulesOf(int rules)
-{
-    return "<style>" + QString(".x{fill:red}").repeated(rules - 1) + "#p{fill:#0f0}</style>" + rect("id='p'");
-}
-
-// More elements than selectorSteps / leastSelectorSteps leave each of them the least number of steps.
-QString selectorsOf(int selectors)
-{
-    return "<style>" + QString("rect[a]{fill:red}").repeated(selectors - 1) + "rect{fill:#0f0}</style>" + rect("") +
-           QString("<desc/>").repeated(Limits::selectorSteps / Limits::leastSelectorSteps);
-}
-
-QString classesOf(int classes)
-{
-    return "<style>.c{fill:#0f0}</style>" + rect("class='" + QString("x ").repeated(classes - 1) + "c'");
-}
-
-/// One that begins and ends every second.
-QString recurring(int times)
-{
-    return "<rect><animate attributeName='x' to='1' dur='.5s' begin='" + numbered("#Ns;", times - 1) +
-           QString("%1s'/></rect>").arg(times - 1);
-}
-
-QString motion(int elements)
-{
-    return "<rect x='-200' width='94' height='94' fill='#0f0'><animateMotion dur='9s' path='M200 0" +
-           QString("h1h-1").repeated((elements - 1) / 2) + (elements % 2 ? "" : "h1") + "'/></rect>";
-}
-
-QString patternsOf(int patterns)
-{
-    return numbered("<pattern id='p#N' width='1' height='1'><rect width='94' height='94' fill='#0f0'/></pattern>"
-                    "<rect width='.1' height='.1' fill='url(#p#N)'/>",
-                    patterns - 1) +
-           "<pattern id='p' width='1' height='1'><rect width='94' height='94' fill='#0f0'/></pattern>" +
-           rect("fill='url(#p)'");
-}
-
-QString largePatternsOf(int patterns)
-{
-    return "<g transform='scale(1000)'>" +
-           numbered("<pattern id='p#N' width='100' height='100' patternUnits='userSpaceOnUse'>"
-                    "<rect width='100' height='100' fill='#0f0'/></pattern>",
-                    patterns) +
-           numbered("<rect x='-9' width='.1' height='.1' fill='url(#p#N)'/>", patterns - 1) +
-           QString("<rect width='.094' height='.094' fill='url(#p%1)'/></g>").arg(patterns - 1);
-}
-
-QString useChain(int uses)
-{
-    return "<defs><rect id='u0' width='94' height='94' fill='#0f0'/>" +
-           numbered("<use id='u#N' href='#u#P'/>", uses - 1, 1) +
-           QString("</defs><use href='#u%1'/>").arg(uses - 1);
-}
-
-QString usesOf(int groups, const QString &used)
-{
-    return "<defs><g id='u'>" + used + "</g>" + rect("id='last' fill='#0f0'") + "</defs>" +
-           QString("<use href='#u'/>").repeated(groups) + "<use href='#last'/>";
-}
-
-QString textOf(int characters)
-{
-    return "<text x='9' y='9' font-size='.001'>" + QString(characters, 'i') + "</text>" + rect();
-}
-
-QString textPathsOf(int paths)
-{
-    return "<text font-size='.001'>" + QString("<textPath path='M0 0H9'>i</textPath>").repeated(paths) + "</text>" +
-           rect();
-}
-
-QString textPathOf(int elements)
-{
-    return "<text font-size='.001'><textPath path='M0 0" + QString("l1 1").repeated(elements - 1) +
-           "'>i</textPath></text>" + rect();
-}
-
-// Each letter of the font is a line with a thousand segments.
-QString glyphsOf(int characters)
-{
-    return "<font horiz-adv-x='1'><font-face font-family='Long'/><glyph unicode='a' d='M0 0" +
-           QString("h1").repeated(999) + "'/></font><text y='9' font-size='.001' font-family='Long'>" +
-           QString(characters, 'a') + "</text>" + rect();
-}
-
-QString trefsOf(int trefs)
-{
-    return "<text id='t' font-size='.001'>i</text>" +
-           QString("<text font-size='.001'><tref href='#t'/></text>").repeated(trefs) + rect();
-}
-
-QString textLengthsOf(int lengths)
-{
-    return "<text font-size='.001'>" + QString("<tspan textLength='1'>ii</tspan>").repeated(lengths) + "</text>" +
-           rect();
-}
-
-QString scaled(double scale)
-{
-    return QString("<g transform='scale(%1)'><rect width='%2' height='%2' fill='#0f0'/></g>")
-        .arg(scale, 0, 'g', 17)
-        .arg(94 / scale, 0, 'g', 17);
-}
-
-QString clipChain(int clips)
-{
-    return "<clipPath id='c0'><rect width='94' height='94'/></clipPath>" +
-           numbered("<clipPath id='c#N' clip-path='url(#c#P)'><rect width='94' height='94'/></clipPath>", clips - 1,
-                    1) +
-           rect(QString("fill='#0f0' clip-path='url(#c%1)'").arg(clips - 1));
-}
-
-// Each group measures all that is below it.
-QString measured(int groups, int rects)
-{
-    return "<clipPath id='c' clipPathUnits='objectBoundingBox'><rect width='1' height='1'/></clipPath>" +
-           nested("<g clip-path='url(#c)'>", "</g>", groups,
-                  QString("<rect width='94' height='94'/>").repeated(rects)) +
-           rect();
-}
-
-QString isolated(int groups)
-{
-    return QString("<g style='isolation:isolate'><rect width='100' height='93'/></g>").repeated(groups - 1) +
-           "<g style='isolation:isolate'>" + rect() + "</g>";
-}
-
-QString deeplyIsolated(int levels)
-{
-    return nested("<g style='isolation:isolate'>", "</g>", levels, rect());
-}
-
-QString filterOf(int primitives)
-{
-    return "<filter id='f' x='0' y='0' width='1' height='1'>" +
-           QString("<feFlood flood-color='#0f0'/>").repeated(primitives) + "</filter>" +
-           rect("fill='red' filter='url(#f)'");
-}
-
-QString picture(const QImage &image)
-{
-    QBuffer buffer;
-    image.save(&buffer, "PNG");
-    return "data:image/png;base64," + QString::fromLatin1(buffer.data().toBase64());
-}
-
-QString imageShown(int times)
-{
-    QImage image(2048, 2048, QImage::Format_Grayscale8);
-    image.fill(Qt::white);
-    return "<defs><image id='i' width='.1' height='.1' href='" + picture(image) + "'/></defs>" +
-           QString("<use href='#i'/>").repeated(times) + rect();
-}
-
-QString documentsInImages(int levels)
-{
-    QByteArray text = svgText(rect());
-    for (int i = 1; i < levels; ++i)
-        text =
-            svgText("<image width='100' height='100' href='data:image/svg+xml;base64," + text.toBase64() + "'/>");
-    return "<image width='100' height='100' href='data:image/svg+xml;base64," + text.toBase64() + "'/>";
-}
-
-QString animated(const QString &attributes)
-{
-    return "<rect width='94' height='94' fill='#0f0'><animate attributeName='x' dur='9s' " + attributes +
-           "/></rect>";
-}
-
-QString values(int count)
-{
-    return animated("values='" + QString("0;").repeated(count - 1) + "0'");
-}
-
-QString begins(int count)
-{
-    return animated("to='0' begin='" + QString("1s;").repeated(count - 1) + "2s'");
-}
-
-QString skewedStrokes(int strokes)
-{
-    return "<g transform='skewX(1e-3)' fill='none'>" +
-           QString("<path stroke='red' stroke-width='.01' stroke-dasharray='.01' d='M0 0H99'/>").repeated(strokes) +
-           "</g>" + rect();
-}
 
 bool has(const QVector<Message> &messages, Message::Code code)
 {
@@ -350,6 +110,47 @@ void addRow(const char *name, Message::Code code, const QString &within, const Q
     QTest::newRow(name) << int(code) << within << beyond << shown;
 }
 
+void addFontRows()
+{
+    const auto add = [](const char *name, const QString &within, const QString &beyond) {
+        addRow(name, Message::ListTooLong, within, beyond, true);
+    };
+    const QString font = "<font><font-face font-family='f#N'/></font>";
+    add("fonts", numbered(font, Limits::fonts) + rect(), numbered(font, Limits::fonts + 1) + rect());
+    add("pairs of kerning", kernedPairs(), kernedPairs("<hkern k='1' g1='a0' g2='c'/>"));
+    add("the same pair of kerning again", kernedPairs("<hkern k='1' g1='a0' g2='b0'/>"),
+        kernedPairs("<vkern k='1' g1='a' g2='" + numbered("b#N,", Limits::kerningPairs + 1) + "'/>"));
+    const QString glyph = "<glyph unicode='a'/>";
+    add("glyphs of a character", fontWith(glyph.repeated(Limits::glyphsOfCharacter)),
+        fontWith(glyph.repeated(Limits::glyphsOfCharacter + 1)));
+    add("characters of a glyph", glyphWith("unicode='" + QString(Limits::glyphCharacters, 'b') + "'"),
+        glyphWith("unicode='" + QString(Limits::glyphCharacters + 1, 'b') + "'"));
+    add("languages of a glyph", glyphWith("lang='" + commas("en", Limits::glyphLanguages) + "'"),
+        glyphWith("lang='" + commas("en", Limits::glyphLanguages + 1) + "'"));
+    add("names of a glyph", glyphWith("glyph-name='" + commas("n", Limits::glyphNames) + "'"),
+        glyphWith("glyph-name='" + commas("n", Limits::glyphNames + 1) + "'"));
+    add("characters of a glyph's names",
+        glyphWith("glyph-name='" + QString(Limits::glyphListCharacters, 'n') + "'"),
+        glyphWith("glyph-name='" + QString(Limits::glyphListCharacters + 1, 'n') + "'"));
+    const QString dot = "<rect width='1' height='1'/>";
+    add("shapes of a glyph", glyphWith("unicode='b'", dot.repeated(Limits::glyphShapes)),
+        glyphWith("unicode='b'", dot.repeated(Limits::glyphShapes + 1)));
+    const auto weights = [](int characters) {
+        return fontWith("<glyph unicode='a'/>", "font-weight='" + QString(characters - 3, ' ') + "400'");
+    };
+    add("weights of a font", weights(Limits::glyphListCharacters), weights(Limits::glyphListCharacters + 1));
+    const auto families = [](const QString &list) {
+        return "<font><font-face font-family='" + list + "'/></font>" + rect();
+    };
+    add("families of a font", families(commas("f", Limits::listedFamilies)),
+        families(commas("f", Limits::listedFamilies + 1)));
+    const auto asked = [](const QString &list) { return rect("fill='#0f0' font-family='" + list + "'"); };
+    add("families of a text", asked(commas("f", Limits::listedFamilies)),
+        asked(commas("f", Limits::listedFamilies + 1)));
+    add("characters of families", asked(QString(Limits::familyCharacters, 'f')),
+        asked(QString(Limits::familyCharacters + 1, 'f')));
+}
+
 void TestLimits::drawUpToTheLimit_data()
 {
     QTest::addColumn<int>("code");
@@ -425,6 +226,16 @@ void TestLimits::drawUpToTheLimit_data()
            values(Limits::animationValues + 1), true);
     addRow("animation begins", Message::TooManyAnimationConditions, begins(Limits::animationConditions),
            begins(Limits::animationConditions + 1), true);
+    addRow("text that is referred to", Message::TooManyCharacters, referredText(Limits::trefCharacters),
+           referredText(Limits::trefCharacters + 1), true);
+    // The line is 80 long.
+    addRow("dashes along an outline", Message::TooManyDashes, tinyDashes(80.001 / Limits::dashes),
+           tinyDashes(79 / Limits::dashes), true);
+    static_assert(Limits::convolutionFactors == 32 * 32);
+    addRow("factors of a convolution", Message::ListTooLong, convolved(32, 32), convolved(33, 32), true);
+    addFontRows();
+    addRow("decorated groups", Message::EffectsTooDeep, underlinedGroups(Limits::decoratingGroups),
+           underlinedGroups(Limits::decoratingGroups + 1), true);
     addRow("distorted strokes", Message::TooManyStrokeElements, skewedStrokes(1), skewedStrokes(150), true);
 }
 

@@ -15,6 +15,17 @@ namespace Svg {
 
 namespace {
 
+void reportStrokes(const MappingBudget &mapping, DrawReport *report)
+{
+    if (mapping.isUsedUp())
+        report->add(
+            Message::TooManyStrokeElements,
+            QStringLiteral("Strokes that are distorted have too many elements together; some are left out."));
+    if (mapping.solidStrokes)
+        report->add(Message::TooManyDashes,
+                    QStringLiteral("Strokes of more than %1 dashes are drawn solid.").arg(Limits::dashes));
+}
+
 void forgetMapping(QVector<DisplayItem> *items)
 {
     for (DisplayItem &item : *items)
@@ -115,13 +126,11 @@ QVector<Message> DisplayList::messages(const Tree &tree) const
     QVector<Message> result;
     m_buildReport.appendTo(&result, tree);
     m_paintReport.appendTo(&result, tree);
-    if (m_mapping.isUsedUp() || (m_tiles && m_tiles->mapping.isUsedUp())) {
-        DrawReport strokes;
-        strokes.add(
-            Message::TooManyStrokeElements,
-            QStringLiteral("Strokes that are distorted have too many elements together; some are left out."));
-        strokes.appendTo(&result, tree);
-    }
+    DrawReport strokes;
+    reportStrokes(m_mapping, &strokes);
+    if (m_tiles)
+        reportStrokes(m_tiles->mapping, &strokes);
+    strokes.appendTo(&result, tree);
     return result;
 }
 

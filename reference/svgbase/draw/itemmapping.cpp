@@ -82,10 +82,11 @@ bool hasTooManyDashes(const QPen &pen, const QPainterPath &path)
     return !(controlPolygonLength(path) * pattern.size() <= period * Limits::dashes);
 }
 
-QPen boundedPen(const QPen &pen, const QPainterPath &path)
+QPen boundedPen(const QPen &pen, const QPainterPath &path, MappingBudget *budget)
 {
     if (!hasTooManyDashes(pen, path))
         return pen;
+    budget->solidStrokes = true;
     QPen solid = pen;
     solid.setStyle(Qt::SolidLine);
     return solid;
@@ -191,7 +192,7 @@ void mapUnscaledStroke(DisplayItem *item, const Outline &outline, const QTransfo
 {
     const QTransform toTarget = transform * world.inverted();
     const QPainterPath path = toTarget.map(outline.path);
-    QPen pen = boundedPen(outline.pen, path);
+    QPen pen = boundedPen(outline.pen, path, budget);
     pen.setBrush(mappedBrush(outline.pen.brush(), toTarget));
     mapStroke(item, pen, path, world, budget);
 }
@@ -270,7 +271,7 @@ void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &wo
     }
     const bool stroked = outline.pen.style() != Qt::NoPen;
     if (stroked && item->facts->style->strokeScales)
-        mapStroke(item, boundedPen(outline.pen, outline.path), outline.path, transform, budget);
+        mapStroke(item, boundedPen(outline.pen, outline.path, budget), outline.path, transform, budget);
     else if (stroked)
         mapUnscaledStroke(item, outline, transform, world, budget);
     item->strokedPieces = strokedPieces(*item);

@@ -23,6 +23,8 @@ struct MappingBudget
     double strokeElements = Limits::strokeElements;
     /// Elements of mapped outlines that are kept; others are mapped whenever they are painted.
     int keptElements = Limits::keptElements;
+    /// Whether strokes of too many dashes became solid ones.
+    bool solidStrokes = false;
     /// Shared by all items that are mapped alike and do not keep their outlines.
     MappingPointer mapping;
 

@@ -39,6 +39,12 @@ FamilyName readName(const QString &text)
 
 } // namespace
 
+bool hasTooManyFamilies(QStringView list)
+{
+    return list.size() > Limits::familyCharacters ||
+           std::count(list.begin(), list.end(), QLatin1Char(',')) >= Limits::listedFamilies;
+}
+
 QVector<FamilyName> parseFontFamilies(const QString &list)
 {
     QVector<FamilyName> names;

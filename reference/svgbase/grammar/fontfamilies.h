@@ -17,4 +17,7 @@ struct FamilyName
 /// what is beyond `Limits::listedFamilies`.
 QVector<FamilyName> parseFontFamilies(const QString &list);
 
+/// Whether a list is longer than `Limits::familyCharacters` or has more commas than `Limits::listedFamilies` need.
+bool hasTooManyFamilies(QStringView list);
+
 } // namespace Svg

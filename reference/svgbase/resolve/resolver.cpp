@@ -1,6 +1,7 @@
 #include "resolve/resolver.h"
 
 #include "grammar/csstransforms.h"
+#include "grammar/fontfamilies.h"
 #include "grammar/numbers.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
@@ -9,6 +10,7 @@
 #include "resolve/geometry.h"
 #include "resolve/gradients.h"
 #include "resolve/images.h"
+#include "resolve/leftout.h"
 #include "resolve/outlinebounds.h"
 #include "resolve/pathmeasure.h"
 #include "resolve/pathslack.h"
@@ -58,6 +60,11 @@ Problem problemOf(const RejectedValue &rejected)
     if (rejected.property == AttributeId::StrokeDasharray && hasTooManyDashes(rejected.value))
         return {Message::TooManyDashes,
                 QStringLiteral("A list of more than %1 dashes is left out.").arg(Limits::dashEntries)};
+    if (rejected.property == AttributeId::FontFamily && hasTooManyFamilies(rejected.value))
+        return {Message::ListTooLong,
+                QStringLiteral("A list of more than %1 font families, or %2 characters, is left out.")
+                    .arg(Limits::listedFamilies)
+                    .arg(Limits::familyCharacters)};
     return {Message::InvalidProperty,
             QStringLiteral("A property does not take the value \"%1\".").arg(shortened(rejected.value))};
 }
@@ -71,23 +78,6 @@ bool isBounded(const QTransform &t)
 {
     return isBounded(t.m11()) && isBounded(t.m12()) && isBounded(t.m21()) && isBounded(t.m22()) &&
            isBounded(t.dx()) && isBounded(t.dy());
-}
-
-// Reading animations leaves the same out; that comes later, or never.
-Problem animationProblem(const Node &animation)
-{
-    const int values = animation.attributes.value(QStringLiteral("values")).count(QLatin1Char(';')) + 1;
-    if (values > Limits::animationValues)
-        return {Message::TooManyAnimationValues,
-                QStringLiteral("An animation with more than %1 values is left out.").arg(Limits::animationValues)};
-    for (const char *name : {"begin", "end"}) {
-        if (animation.attributes.value(QString::fromLatin1(name)).count(QLatin1Char(';')) >=
-            Limits::animationConditions)
-            return {
-                Message::TooManyAnimationConditions,
-                QStringLiteral("Moments of an animation beyond %1 are left out.").arg(Limits::animationConditions)};
-    }
-    return Problem();
 }
 
 // Without parts there is no style but the text's own.
@@ -144,6 +134,10 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
     if (notes.propertiesLeftOut)
         warn(node, {Message::TooManyStyleRules,
                     QStringLiteral("The element declares too many custom properties; the rest is left out.")});
+    if (notes.linesLeftOut)
+        warn(node, {Message::EffectsTooDeep,
+                    QStringLiteral("Lines that groups of texts ask for are drawn for %1 groups inside each other.")
+                        .arg(Limits::decoratingGroups)});
     // Their "fill" is no paint.
     if (isAnimation(node.kind))
         return;
@@ -387,8 +381,8 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
         facts->context = parent->context;
     if (node.kind == ElementKind::Use)
         facts->context = useContext(*facts);
-    if (isAnimation(node.kind) && m_messages)
-        warn(node, animationProblem(node));
+    if (m_messages)
+        warn(node, leftOut(m_tree, index));
     if (node.kind == ElementKind::Text)
         resolveText(index, kept, facts);
     else if (node.kind == ElementKind::Image)

@@ -254,8 +254,8 @@ ComputedStyle applied(const DeclarationList &declarations, const StyledElement &
     }
     followColor(style.color, &style.fill);
     followColor(style.color, &style.stroke);
-    if (asksForLines(style) && !element.isText())
-        decorateTextBelow(style);
+    if (asksForLines(style) && !element.isText() && !decorateTextBelow(style) && notes)
+        notes->linesLeftOut = true;
     return style;
 }
 

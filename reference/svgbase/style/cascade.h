@@ -22,6 +22,8 @@ struct CascadeNotes
     bool rulesLeftOut = false;
     /// Whether it declares more custom properties than it may.
     bool propertiesLeftOut = false;
+    /// Whether lines that it asks for would be one group too many around a text.
+    bool linesLeftOut = false;
 };
 
 /// The style of an element: its parent's, its presentation attributes, the rules of style sheets, its style

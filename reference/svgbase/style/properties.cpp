@@ -2,6 +2,7 @@
 
 #include "grammar/angles.h"
 #include "grammar/colors.h"
+#include "grammar/fontfamilies.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
 #include "style/effectproperties.h"
@@ -347,8 +348,10 @@ bool applyTrimmed(ComputedStyle &style, AttributeId property, QStringView value,
     case AttributeId::FillRule:
         return applyKeyword(style.fillRule, value, fillRules);
     case AttributeId::FontFamily:
-        style.font.family = value.left(Limits::familyCharacters).toString();
-        return !value.isEmpty();
+        if (value.isEmpty() || hasTooManyFamilies(value))
+            return false;
+        style.font.family = value.toString();
+        return true;
     case AttributeId::FontSize:
         return applyFontSize(style, value, context);
     case AttributeId::FontStyle:

@@ -358,13 +358,14 @@ bool asksForLines(const ComputedStyle &style)
     return own.underline || own.overline || own.lineThrough;
 }
 
-void decorateTextBelow(ComputedStyle &group)
+bool decorateTextBelow(ComputedStyle &group)
 {
     QSharedDataPointer<TextStyle> changed(new TextStyle(textStyleOf(group)));
     if (changed->decorations.size() >= Limits::decoratingGroups)
-        return;
+        return false;
     changed->decorations.append(std::make_shared<const ComputedStyle>(group));
     group.text = changed;
+    return true;
 }
 
 const TextStyle &textStyleOf(const ComputedStyle &style)

@@ -14,7 +14,8 @@ void inheritTextProperty(ComputedStyle &style, AttributeId property, const Compu
 /// Whether a style asks for lines along its text.
 bool asksForLines(const ComputedStyle &style);
 /// Lines that a group asks for run along all text in it, painted as the group says (CSS Text Decoration 3 §2).
-void decorateTextBelow(ComputedStyle &group);
+/// False where `Limits::decoratingGroups` are around it already.
+bool decorateTextBelow(ComputedStyle &group);
 
 /// The values that count where an element has none of its own.
 const TextStyle &textStyleOf(const ComputedStyle &style);

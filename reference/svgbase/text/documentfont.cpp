@@ -216,6 +216,8 @@ void DocumentFont::addGlyph(const FontGlyph &glyph)
     QVector<int> &known = m_byCharacter[glyph.characters.front()];
     if (known.size() < Limits::glyphsOfCharacter)
         known.append(m_glyphs.size() - 1);
+    else
+        m_leavesOut = true;
 }
 
 bool DocumentFont::isAllowed(const FontGlyph &glyph, const GlyphPlace &place)
@@ -257,10 +259,13 @@ void DocumentFont::readKerning(const Node &node, KerningTable *table)
     const QVector<int> seconds = keysOf(sideOf(textOf(node, "u2"), textOf(node, "g2")));
     for (const int first : firsts) {
         for (const int second : seconds) {
-            if (table->size() >= Limits::kerningPairs)
+            if (table->contains({first, second}))
+                continue;
+            if (table->size() >= Limits::kerningPairs) {
+                m_leavesOut = true;
                 return;
-            if (!table->contains({first, second}))
-                table->insert({first, second}, {table->size(), value});
+            }
+            table->insert({first, second}, {table->size(), value});
         }
     }
 }

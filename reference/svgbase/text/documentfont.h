@@ -66,6 +66,9 @@ public:
     /// The outline in font units, y pointing down, its baseline beginning at the origin.
     const QPainterPath &outline(const FontGlyph &glyph) const;
 
+    /// Whether some of its glyphs or of its kerning were beyond a limit.
+    bool leavesOut() const { return m_leavesOut; }
+
 private:
     struct Kerning
     {
@@ -98,6 +101,7 @@ private:
     QHash<QString, int> m_keys;
     KerningTable m_horizontalKerning;
     KerningTable m_verticalKerning;
+    bool m_leavesOut = false;
     mutable QHash<NodeIndex, QPainterPath> m_outlines;
 };
 

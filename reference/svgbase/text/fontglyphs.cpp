@@ -14,6 +14,13 @@ LevelGlyphs::LevelGlyphs(const TextContent &content, const TextLevel &level, con
     , m_vertical(vertical)
     , m_scale(level.style.font.size / level.font.font->unitsPerEm())
 {
+    if (level.font.font->leavesOut())
+        *services.problem = {
+            Message::ListTooLong,
+            QStringLiteral("Of a font, glyphs beyond %1 of one character or kerning beyond %2 pairs "
+                           "are left out.")
+                .arg(Limits::glyphsOfCharacter)
+                .arg(Limits::kerningPairs)};
 }
 
 // What no font that is asked for has shows the sign for that, if there is one (SVG 1.1 §20.5).

@@ -89,6 +89,12 @@ ElementKind TreeBuilder::kindOfElement(const XmlElement &element, XmlPlace place
                          place.line, place.column, idOfElement(element));
         return ElementKind::Other;
     }
+    if (kind == ElementKind::FontFace && ++m_fontFaces > Limits::fonts) {
+        m_messages->warn(Message::ListTooLong,
+                         QStringLiteral("Fonts of a document beyond %1 are left out.").arg(Limits::fonts),
+                         place.line, place.column, idOfElement(element));
+        return ElementKind::Other;
+    }
     if (kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient)
         m_stops = 0;
     if (kind == ElementKind::Stop && ++m_stops > Limits::gradientStops) {

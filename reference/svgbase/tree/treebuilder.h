@@ -41,6 +41,7 @@ private:
     int m_namespaces = 0;
     int m_textPaths = 0;
     int m_trefs = 0;
+    int m_fontFaces = 0;
     /// Open elements that are left out, all of them inside the outermost one.
     int m_leftOut = 0;
     int m_stops = 0;

@@ -71,6 +71,7 @@ public:
             TooManyAnimationEvents = 129,
             MotionPathsTooLong = 130,
             TooManyStrokeElements = 131,
+            ListTooLong = 132,
             /// @}
         };
         Severity severity = Warning;
