@@ -44,6 +44,9 @@ public:
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
+        // A button may be squeezed to nothing while its panel is laid out.
+        if (size.isEmpty())
+            return {};
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);

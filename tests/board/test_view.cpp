@@ -1,6 +1,7 @@
 // The view of the page: zoom, panning, what an empty page says, how pages look on screen.
 
 #include <board/boarddriver.h>
+#include <render/messagecatcher.h>
 
 #include <look/icons.h>
 #include <look/theme.h>
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void spaceBarAndMouseDragThePage();
     void emptyPageSaysWhatToDo();
     void iconsFollowTheColours();
+    void iconsOfNoSizeAreNoTrouble();
     void everyControlHasANameForScreenReaders();
     void screenReadersLearnWhatIsSelected();
 };
@@ -186,6 +188,13 @@ void TestView::iconsFollowTheColours()
     QVERIFY(brightest() > 180);
     board::applyTheme(board::Theme::Light);
     QVERIFY(brightest() >= 0 && brightest() < 90);
+}
+
+void TestView::iconsOfNoSizeAreNoTrouble()
+{
+    const MessageCatcher catcher;
+    QVERIFY(board::icon(board::Icon::Delete).pixmap(nullptr, QSize(0, 0)).isNull());
+    QCOMPARE(catcher.messages(), QStringList());
 }
 
 void TestView::everyControlHasANameForScreenReaders()
