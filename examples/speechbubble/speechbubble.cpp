@@ -11,12 +11,22 @@ SpeechBubble::SpeechBubble(CSVGObj *owner)
     propPenStyleEnabled = true;
     propPenWidthEnabled = true;
     propFillEnabled = true;
+    controlPointSize /= zoomRate; // pixels so far; later changes of the zoom are followed
 }
 
 QString SpeechBubble::getSVG()
 {
     QFile file(QStringLiteral(":/speechbubble/template.svg"));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+bool SpeechBubble::loadSVG(bool initGlobals)
+{
+    const bool loaded = CSVGBase::loadSVG(initGlobals);
+    // The user's fill is for the bubble; the dots keep their own.
+    for (const char *id : {"dot_1", "dot_2", "dot_3"})
+        document->namedNode(QLatin1String(id))->setFillEnabled(false);
+    return loaded;
 }
 
 bool SpeechBubble::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
@@ -34,8 +44,15 @@ bool SpeechBubble::updateAllControlPoints(bool refresh, bool)
 
 void SpeechBubble::pointTo(QPointF tip)
 {
-    const QString path =
-        QStringLiteral("M20 5H120Q135 5 135 20V52Q135 67 120 67H68L%1 %2L44 67H20Q5 67 5 52V20Q5 5 20 5Z");
+    const QString body = QStringLiteral("M20 5H120Q135 5 135 20V52Q135 67 120 67H%1H20Q5 67 5 52V20Q5 5 20 5Z");
+    const QString tail = QStringLiteral("68L%1 %2L44 67").arg(tip.x()).arg(tip.y());
+    const QPointF root(56, 67);
+    const QPointF middle = root + (tip - root) / 2;
+    const QString drops = QStringLiteral("M%1 %2a4 4 0 1 0 8 0a4 4 0 1 0 -8 0ZM%3 %4a2 2 0 1 0 4 0a2 2 0 1 0 -4 0Z")
+                              .arg(middle.x() - 4)
+                              .arg(middle.y())
+                              .arg(tip.x() - 2)
+                              .arg(tip.y());
     document->namedNode(QStringLiteral("bubble"))
-        ->setAttribute(QStringLiteral("d"), path.arg(tip.x()).arg(tip.y()));
+        ->setAttribute(QStringLiteral("d"), m_isThought ? body.arg(44) + drops : body.arg(tail));
 }

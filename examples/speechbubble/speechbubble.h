@@ -2,7 +2,7 @@
 
 #include <svgobj/csvgbase.h>
 
-/// A speech bubble whose tip the user drags to who is speaking.
+/// A bubble whose tip the user drags to who is speaking, or thinking.
 class SpeechBubble : public CSVGBase
 {
 public:
@@ -12,9 +12,30 @@ public:
 
     QString getSVG() override;
     int getSVGType() override { return typeNumber; }
+    bool loadSVG(bool initGlobals) override;
     bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
     bool updateAllControlPoints(bool refresh, bool finished) override;
 
+    /// @name A property of its own: whether the bubble holds a thought
+    /// @{
+    void initSpecialPropItems() override;
+    bool getInnerProperty(int propId, QDataStream &out) override;
+    bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
+    bool save(QDataStream &out) override;
+    bool load(QDataStream &in) override;
+    bool saveJson(QJsonObject &object) override;
+    bool loadJson(QJsonObject &object) override;
+    /// @}
+
+    /// @name The dots that move
+    /// @{
+    bool GetSpecialProperty(int propId, QDataStream &out) override;
+    bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
+    /// @}
+
 private:
+    void setThought(bool on);
     void pointTo(QPointF tip);
+
+    bool m_isThought = false;
 };

@@ -7,6 +7,7 @@ namespace {
 const QString kindId = QStringLiteral("example.speechbubble");
 const QString nameKey = QStringLiteral("IDS_EXAMPLE_SPEECHBUBBLE");
 const QString groupKey = QStringLiteral("IDS_EXAMPLE_GROUP");
+const QString thoughtKey = QStringLiteral("IDS_EXAMPLE_THOUGHT");
 
 } // namespace
 
@@ -23,8 +24,12 @@ CBaseObject *SpeechBubblePlugin::createObject(const QString &id) const
 pagehost::TextTable SpeechBubblePlugin::texts(const QString &language) const
 {
     if (language == QLatin1String("en"))
-        return {{nameKey, QStringLiteral("Speech bubble")}, {groupKey, QStringLiteral("Examples")}};
+        return {{nameKey, QStringLiteral("Speech bubble")},
+                {groupKey, QStringLiteral("Examples")},
+                {thoughtKey, QStringLiteral("Thought")}};
     if (language == QLatin1String("de"))
-        return {{nameKey, QStringLiteral("Sprechblase")}, {groupKey, QStringLiteral("Beispiele")}};
+        return {{nameKey, QStringLiteral("Sprechblase")},
+                {groupKey, QStringLiteral("Beispiele")},
+                {thoughtKey, QStringLiteral("Gedanke")}};
     return {};
 }

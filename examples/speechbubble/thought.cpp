@@ -1,0 +1,85 @@
+// What the bubble's own property takes: the item that panels show, its value for panels, undo and playback, and its
+// place in both saved forms.
+
+#include "speechbubble.h"
+
+#include <svgobj/csvgbaseundocmd.h>
+#include <svgobj/csvgpropitem.h>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QJsonObject>
+
+namespace {
+
+constexpr int thoughtId = 5101;
+constexpr int thoughtAction = 1101;
+const QString thoughtNameKey = QStringLiteral("IDS_EXAMPLE_THOUGHT");
+const QString thoughtJsonKey = QStringLiteral("SVG_Thought");
+
+} // namespace
+
+void SpeechBubble::initSpecialPropItems()
+{
+    propItems.append(new CSVGPropItem(thoughtId, thoughtNameKey, thoughtAction, DATA_TYPE_0, nullptr, true));
+}
+
+bool SpeechBubble::getInnerProperty(int propId, QDataStream &out)
+{
+    if (propId != thoughtId)
+        return CSVGBase::getInnerProperty(propId, out);
+    out << m_isThought;
+    return true;
+}
+
+bool SpeechBubble::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
+{
+    if (propId != thoughtId)
+        return CSVGBase::setInnerProperty(propId, in, record, addUndo);
+    bool on = m_isThought;
+    in >> on;
+    if (addUndo) {
+        auto *command = new CSVGBaseUndoCmd(this, thoughtAction, nullptr, true);
+        command->setBool(m_isThought, on);
+        addUndoRedo(command);
+    }
+    if (record)
+        RecordBool(on, thoughtAction);
+    setThought(on);
+    return true;
+}
+
+void SpeechBubble::setThought(bool on)
+{
+    m_isThought = on;
+    updateAllControlPoints(true, true);
+}
+
+bool SpeechBubble::save(QDataStream &out)
+{
+    CSVGBase::save(out);
+    out << m_isThought;
+    return true;
+}
+
+bool SpeechBubble::load(QDataStream &in)
+{
+    CSVGBase::load(in);
+    bool on = false;
+    in >> on;
+    setThought(on);
+    return true;
+}
+
+bool SpeechBubble::saveJson(QJsonObject &object)
+{
+    CSVGBase::saveJson(object);
+    object[thoughtJsonKey] = m_isThought;
+    return true;
+}
+
+bool SpeechBubble::loadJson(QJsonObject &object)
+{
+    CSVGBase::loadJson(object);
+    setThought(object.value(thoughtJsonKey).toBool());
+    return true;
+}

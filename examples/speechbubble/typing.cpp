@@ -1,0 +1,36 @@
+// What moves takes: the host asks for the property AnimationRuns and sets it for what is to be seen.
+
+#include "speechbubble.h"
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <pagehost/objectplugin.h>
+
+#include <QtCore/QDataStream>
+
+bool SpeechBubble::GetSpecialProperty(int propId, QDataStream &out)
+{
+    if (propId != pagehost::AnimationRuns)
+        return CSVGBase::GetSpecialProperty(propId, out);
+    out << isAnimating();
+    return true;
+}
+
+bool SpeechBubble::SetSpecialProperty(int propId, QDataStream &in, bool record)
+{
+    if (propId != pagehost::AnimationRuns)
+        return CSVGBase::SetSpecialProperty(propId, in, record);
+    bool on = false;
+    in >> on;
+    if (on == isAnimating())
+        return true;
+    if (on) {
+        startAnimate();
+        // A start that is not the first leaves the document's clock stopped.
+        document->startAnimate();
+        return true;
+    }
+    stopAnimate();
+    document->stopAnimate();
+    return true;
+}
