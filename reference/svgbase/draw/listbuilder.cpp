@@ -45,6 +45,9 @@ private:
     bool isAllowed(ElementKind kind) const;
     void addPainted(NodeIndex node, const FactsPointer &facts, bool layered);
     void addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts);
+    void addText(NodeIndex node, const FactsPointer &facts, bool layered);
+    void addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
+                    int outline);
     PatternPointer pattern(NodeIndex node, const FactsPointer &facts, double opacity);
     bool hasMarkers(ElementKind kind, const Facts &facts) const;
     void addMarkers(NodeIndex node, const FactsPointer &facts);
@@ -142,36 +145,54 @@ PatternPointer ListBuilder::pattern(int node, const FactsPointer &facts, double 
     return node == noNode ? nullptr : buildPattern(m_context, node, {facts, opacity});
 }
 
+void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
+                             int index)
+{
+    Outline outline = effectiveOutline(m_document, node, *facts, index);
+    if (!parts.fill)
+        outline.fill = Qt::NoBrush;
+    if (!parts.stroke)
+        outline.pen = QPen(Qt::NoPen);
+    if (isSilhouette() ? !parts.fill : paintsNothing(outline))
+        return;
+    DisplayItem item;
+    item.node = node;
+    item.facts = facts;
+    item.override = m_document.stylePointer(node);
+    item.outline = index;
+    item.silhouette = isSilhouette();
+    item.control = isInControl();
+    item.controlCentre = m_context.controlCentre;
+    item.fill = outline.fill;
+    item.pen = outline.pen;
+    item.smooth = outline.smooth;
+    item.paintsFill = parts.fill;
+    item.paintsStroke = parts.stroke;
+    if (parts.fill && !isSilhouette())
+        item.fillPattern = pattern(outline.fillPattern, facts, double(outline.fillOpacity));
+    if (parts.stroke && !isSilhouette())
+        item.strokePattern = pattern(outline.strokePattern, facts, double(outline.strokeOpacity));
+    if (!layered && !isSilhouette())
+        item.opacity = facts->style->opacity;
+    target().append(item);
+}
+
 void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts)
 {
+    for (int i = 0; i < facts->outlines.size(); ++i)
+        addOutline(node, facts, layered, parts, i);
+}
+
+// Each part of a text is painted in an order of its own.
+void ListBuilder::addText(NodeIndex node, const FactsPointer &facts, bool layered)
+{
     for (int i = 0; i < facts->outlines.size(); ++i) {
-        Outline outline = effectiveOutline(m_document, node, *facts, i);
-        if (!parts.fill)
-            outline.fill = Qt::NoBrush;
-        if (!parts.stroke)
-            outline.pen = QPen(Qt::NoPen);
-        if (isSilhouette() ? !parts.fill : paintsNothing(outline))
+        if (!facts->outlines.at(i).strokeFirst) {
+            addOutline(node, facts, layered, {true, true}, i);
             continue;
-        DisplayItem item;
-        item.node = node;
-        item.facts = facts;
-        item.override = m_document.stylePointer(node);
-        item.outline = i;
-        item.silhouette = isSilhouette();
-        item.control = isInControl();
-        item.controlCentre = m_context.controlCentre;
-        item.fill = outline.fill;
-        item.pen = outline.pen;
-        item.smooth = outline.smooth;
-        item.paintsFill = parts.fill;
-        item.paintsStroke = parts.stroke;
-        if (parts.fill && !isSilhouette())
-            item.fillPattern = pattern(outline.fillPattern, facts, facts->style->fillOpacity);
-        if (parts.stroke && !isSilhouette())
-            item.strokePattern = pattern(outline.strokePattern, facts, facts->style->strokeOpacity);
-        if (!layered && !isSilhouette())
-            item.opacity = facts->style->opacity;
-        target().append(item);
+        }
+        addOutline(node, facts, layered, {false, true}, i);
+        addOutline(node, facts, layered, {true, false}, i);
     }
 }
 
@@ -216,6 +237,10 @@ bool ListBuilder::isAllowed(ElementKind kind) const
 
 void ListBuilder::addPainted(NodeIndex node, const FactsPointer &facts, bool layered)
 {
+    if (m_document.tree().node(node).kind == ElementKind::Text) {
+        addText(node, facts, layered);
+        return;
+    }
     const PaintOrder &order = facts->style->paintOrder;
     for (int i = 0; i < int(order.size()); ++i) {
         const bool strokeFollows = i + 1 < int(order.size()) && order[i + 1] == PaintStep::Stroke;

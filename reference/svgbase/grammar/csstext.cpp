@@ -191,6 +191,20 @@ void CssCursor::skipTo(const char *stops)
     }
 }
 
+QVector<QStringView> cssWords(QStringView text)
+{
+    QVector<QStringView> words;
+    CssCursor cursor(text);
+    for (;;) {
+        cursor.skipSpace();
+        if (cursor.atEnd())
+            return words;
+        const QChar *begin = cursor.at;
+        cursor.skipTo(" \t\n\r\f");
+        words.append(QStringView(begin, cursor.at));
+    }
+}
+
 QString withoutComments(QStringView text)
 {
     QString result;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QVector>
 
 namespace Svg {
 
@@ -32,6 +33,8 @@ struct CssCursor
     void skipTo(const char *stops);
 };
 
+/// The parts of a value between white space, commas and strings and brackets kept whole.
+QVector<QStringView> cssWords(QStringView text);
 /// The text without its comments.
 QString withoutComments(QStringView text);
 

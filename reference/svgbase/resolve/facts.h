@@ -29,8 +29,13 @@ struct Outline
     /// Patterns in the place of the brushes, which then only tell that there is something.
     int fillPattern = -1;
     int strokePattern = -1;
+    /// Of the style that it is painted with, for the patterns.
+    float fillOpacity = 1;
+    float strokeOpacity = 1;
     /// Whether its edges are smoothed.
     bool smooth = true;
+    /// Whether its stroke lies under its fill.
+    bool strokeFirst = false;
     /// What the lengths of its dashes are multiplied with; 0 for a solid line.
     double dashScale = 1;
 };

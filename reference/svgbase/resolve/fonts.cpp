@@ -4,6 +4,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
+#include <QtGui/QFontDatabase>
 #include <QtGui/QFontInfo>
 
 #include <algorithm>
@@ -102,6 +103,84 @@ void setFamilies(QFont &font, const QString &list)
         font.setFamily(replacement);
 }
 
+struct NamedStretch
+{
+    QLatin1String word;
+    int stretch;
+};
+
+// The longest words first: they hold the others.
+const NamedStretch namedStretches[] = {
+    {QLatin1String("ultracondensed"), 50}, {QLatin1String("extracondensed"), 62},
+    {QLatin1String("semicondensed"), 87},  {QLatin1String("condensed"), 75},
+    {QLatin1String("narrow"), 75},         {QLatin1String("semiexpanded"), 112},
+    {QLatin1String("extraexpanded"), 150}, {QLatin1String("ultraexpanded"), 200},
+    {QLatin1String("expanded"), 125},
+};
+
+int stretchOfStyle(const QString &style)
+{
+    QString name = style.toLower();
+    name.remove(QLatin1Char(' ')).remove(QLatin1Char('-'));
+    for (const NamedStretch &known : namedStretches) {
+        if (name.contains(known.word))
+            return known.stretch;
+    }
+    return QFont::Unstretched;
+}
+
+// Of two widths, the better one for what is wanted: narrower ones first for narrow letters, wider ones first for
+// wide ones (CSS Fonts 3 §5.2).
+bool isBetterStretch(int a, int b, int wanted)
+{
+    const bool narrow = wanted <= QFont::Unstretched;
+    const bool sideOfA = narrow ? a <= wanted : a >= wanted;
+    const bool sideOfB = narrow ? b <= wanted : b >= wanted;
+    return sideOfA != sideOfB ? sideOfA : qAbs(a - wanted) < qAbs(b - wanted);
+}
+
+/// The widths that families have, asked once for each.
+class KnownStretches
+{
+public:
+    int nearest(const QString &family, int wanted)
+    {
+        const std::lock_guard lock(m_mutex);
+        auto known = m_stretches.find(family);
+        if (known == m_stretches.end())
+            known = m_stretches.insert(family, stretchesOf(family));
+        int best = known->value(0, QFont::Unstretched);
+        for (const int stretch : qAsConst(*known)) {
+            if (isBetterStretch(stretch, best, wanted))
+                best = stretch;
+        }
+        return best;
+    }
+
+private:
+    static QVector<int> stretchesOf(const QString &family)
+    {
+        QVector<int> result;
+        const QStringList styles = QFontDatabase().styles(family);
+        for (const QString &style : styles)
+            result.append(stretchOfStyle(style));
+        return result;
+    }
+
+    std::mutex m_mutex;
+    QHash<QString, QVector<int>> m_stretches;
+};
+
+// Letters are never stretched where the family has no such face.
+void setStretch(QFont &font, int wanted)
+{
+    static KnownStretches stretches;
+    const QStringList families = font.families();
+    const int nearest = stretches.nearest(families.isEmpty() ? font.family() : families.constFirst(), wanted);
+    if (nearest != QFont::Unstretched)
+        font.setStretch(nearest);
+}
+
 } // namespace
 
 bool isInstalled(const FamilyName &name)
@@ -125,8 +204,8 @@ QFont outlineFont(const FontStyle &style, const TextStyle &text)
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(text.kerning);
     if (text.stretch != QFont::Unstretched)
-        font.setStretch(text.stretch);
-    if (text.smallCaps)
+        setStretch(font, text.stretch);
+    if (text.smallCaps != SmallCaps::None)
         font.setCapitalization(QFont::SmallCaps);
     font.setStyleStrategy(QFont::ForceOutline);
     return font;

@@ -18,6 +18,7 @@
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
 #include "style/cascade.h"
+#include "style/textproperties.h"
 
 namespace Svg {
 
@@ -88,6 +89,12 @@ bool hasOneStyle(const Tree &tree, const Node &text)
             return false;
     }
     return true;
+}
+
+// Lines may have colours of their own, or those of groups.
+bool hasOnePaint(const ComputedStyle &text)
+{
+    return textStyleOf(text).decorations.isEmpty() && !inlineStyleOf(text).lineColor;
 }
 
 // "pathLength" says what the author took the length for (SVG 2 §9.6.1).
@@ -262,6 +269,11 @@ void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, 
     outline.dashScale = dashScale;
     outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt, dashScale});
     outline.smooth = isText ? style.smoothText : style.smoothShapes;
+    outline.fillOpacity = float(style.fillOpacity);
+    outline.strokeOpacity = float(style.strokeOpacity);
+    const auto first = std::find_if(style.paintOrder.begin(), style.paintOrder.end(),
+                                    [](PaintStep step) { return step != PaintStep::Markers; });
+    outline.strokeFirst = *first == PaintStep::Stroke;
     facts->outlines.append(outline);
 }
 
@@ -296,7 +308,9 @@ bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts
     if (!kept.geometry || kept.facts->viewport != facts.viewport ||
         !isLaidOutAlike(*kept.facts->style, *facts.style))
         return false;
-    return node.kind != ElementKind::Text || (kept.facts->referenceRevision == 0 && hasOneStyle(m_tree, node));
+    if (node.kind != ElementKind::Text)
+        return true;
+    return kept.facts->referenceRevision == 0 && hasOneStyle(m_tree, node) && hasOnePaint(*facts.style);
 }
 
 void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) const

@@ -121,8 +121,15 @@ void DeclarationList::addStyle(const QString &text, bool important)
         view = m_texts.constLast();
     }
     const QVector<StyleDeclaration> declarations = parseStyleAttribute(view);
+    // Of those that set all properties the last one alone counts.
+    const auto isAll = [important](const StyleDeclaration &declaration) {
+        return declaration.important == important &&
+               declaration.name.compare(allProperties, Qt::CaseInsensitive) == 0;
+    };
+    const auto lastAll = std::find_if(declarations.rbegin(), declarations.rend(), isAll);
     for (const StyleDeclaration &declaration : declarations) {
-        if (declaration.important != important)
+        const bool isOverruled = isAll(declaration) && lastAll != declarations.rend() && &declaration != &*lastAll;
+        if (declaration.important != important || isOverruled)
             continue;
         const AttributeId id = attributeId(declaration.name);
         if (isProperty(id) || isStyledAttribute(id)) {

@@ -70,6 +70,15 @@ QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
     return result;
 }
 
+int lastOfAll(const QVector<SheetDeclaration> &declarations, bool important)
+{
+    for (int i = declarations.size() - 1; i >= 0; --i) {
+        if (declarations.at(i).important == important && declarations.at(i).name == allProperties)
+            return i;
+    }
+    return -1;
+}
+
 // What a value means depends on the element, but not whether it is one.
 bool isAccepted(const RuleDeclaration &declaration)
 {
@@ -113,7 +122,12 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
 void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)
 {
     QVector<RuleDeclaration> block;
-    for (const SheetDeclaration &declaration : rule.declarations) {
+    // Of those that set all properties the last one alone counts.
+    const int lastAll[] = {lastOfAll(rule.declarations, false), lastOfAll(rule.declarations, true)};
+    for (int i = 0; i < rule.declarations.size(); ++i) {
+        const SheetDeclaration &declaration = rule.declarations.at(i);
+        if (declaration.name == allProperties && i < lastAll[declaration.important])
+            continue;
         QVector<RuleDeclaration> expanded;
         appendLonghands(declaration.name, declaration.value, declaration.important, &expanded);
         if (std::all_of(expanded.begin(), expanded.end(), isAccepted))

@@ -1,5 +1,6 @@
 #include "style/shorthands.h"
 
+#include "grammar/csstext.h"
 #include "grammar/lengths.h"
 
 #include <QtCore/QStringList>
@@ -13,6 +14,12 @@ bool isOneOf(const QString &word, std::initializer_list<const char *> words)
     return std::any_of(words.begin(), words.end(), [&](const char *known) {
         return word.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
     });
+}
+
+// Keywords that every property takes.
+bool isWideKeyword(const QString &value)
+{
+    return isOneOf(value, {"inherit", "initial", "unset", "revert"});
 }
 
 bool isFontSize(const QString &word)
@@ -67,28 +74,103 @@ QVector<Longhand> fontOf(const FontWords &font, const QString &size, const QStri
             {AttributeId::FontSize, size},          {AttributeId::FontFamily, family}};
 }
 
+// "12px/1.5", "12px / 1.5" and "12px" alone: the line height is passed over. What stands behind, the families.
+QString behindSize(const QVector<QStringView> &words, int size, QStringView text)
+{
+    int last = size;
+    const auto slash = QLatin1Char('/');
+    if (words.at(last).endsWith(slash))
+        ++last;
+    else if (last + 1 < words.size() && words.at(last + 1).startsWith(slash))
+        last += words.at(last + 1).size() > 1 ? 1 : 2;
+    if (last >= words.size())
+        return QString();
+    const QStringView word = words.at(last);
+    return text.mid(word.end() - text.begin()).trimmed().toString();
+}
+
 // CSS 2.1 §15.8: words in any order, the size with an optional line height, the families.
 QVector<Longhand> fontLonghands(const QString &value)
 {
-    if (isOneOf(value, {"inherit", "initial", "unset"}))
+    if (isWideKeyword(value))
         return fontOf({value, value, value, value}, value, value);
     FontWords font;
-    QStringList words = value.simplified().split(QLatin1Char(' '));
-    while (!words.isEmpty()) {
-        const QString word = words.takeFirst();
-        const QString size = word.left(word.indexOf(QLatin1Char('/')));
+    const QVector<QStringView> words = cssWords(value);
+    for (int i = 0; i < words.size(); ++i) {
+        const QString word = words.at(i).toString();
+        const bool isSum = word.startsWith(QLatin1String("calc("), Qt::CaseInsensitive);
+        const QString size =
+            isSum ? word.left(word.lastIndexOf(QLatin1Char(')')) + 1) : word.left(word.indexOf(QLatin1Char('/')));
         // A number without a unit is a weight as long as a size follows.
-        const bool weightComes = isFontWeight(word) && words.size() > 1;
-        if (!weightComes && isFontSize(size) && !words.isEmpty()) {
-            QString family = words.join(QLatin1Char(' '));
-            if (family.startsWith(QLatin1Char('/')))
-                family = family.section(QLatin1Char(' '), 2);
+        const bool weightComes = isFontWeight(word) && i + 2 < words.size();
+        if (!weightComes && isFontSize(size)) {
+            const QString family = behindSize(words, i, value);
             return family.isEmpty() ? QVector<Longhand>() : fontOf(font, size, family);
         }
         if (!readFontWord(word, &font))
             break;
     }
     return {};
+}
+
+// A baseline to be aligned by, a shift, or both (CSS Inline 3 §4.2).
+QVector<Longhand> alignmentLonghands(const QString &value)
+{
+    const QString usual = QStringLiteral("baseline");
+    if (isWideKeyword(value))
+        return {{AttributeId::AlignmentBaseline, value}, {AttributeId::BaselineShift, value}};
+    QString alignment = usual;
+    QString shift = usual;
+    for (const QStringView word : cssWords(value)) {
+        const QString text = word.toString();
+        const bool shifts = parseLength(text) || isOneOf(text, {"sub", "super"});
+        (shifts ? shift : alignment) = text;
+    }
+    return {{AttributeId::AlignmentBaseline, alignment}, {AttributeId::BaselineShift, shift}};
+}
+
+QVector<Longhand> whiteSpaceLonghands(const QString &value)
+{
+    if (isOneOf(value, {"preserve", "preserve-spaces"}))
+        return {{AttributeId::WhiteSpace, QStringLiteral("pre")}};
+    if (isOneOf(value, {"collapse"}))
+        return {{AttributeId::WhiteSpace, QStringLiteral("normal")}};
+    if (isOneOf(value, {"preserve-breaks"}))
+        return {{AttributeId::WhiteSpace, QStringLiteral("pre-line")}};
+    return isWideKeyword(value) || isOneOf(value, {"break-spaces"})
+               ? QVector<Longhand>{{AttributeId::WhiteSpace, value}}
+               : QVector<Longhand>();
+}
+
+// Of what fonts can do, what Qt lets us ask for: "'liga' 0, 'kern' off".
+QVector<Longhand> featureLonghands(const QString &value)
+{
+    if (isWideKeyword(value) || isOneOf(value, {"normal"}))
+        return {};
+    QVector<Longhand> result;
+    const QStringList features = value.split(QLatin1Char(','));
+    for (const QString &feature : features) {
+        const QVector<QStringView> words = cssWords(feature);
+        const bool isOff = words.size() == 2 && isOneOf(words.at(1).toString(), {"0", "off"});
+        if (isOff && words.constFirst().mid(1).startsWith(QLatin1String("liga")))
+            result.append({AttributeId::FontVariantLigatures, QStringLiteral("none")});
+        if (isOff && words.constFirst().mid(1).startsWith(QLatin1String("kern")))
+            result.append({AttributeId::FontKerning, QStringLiteral("none")});
+    }
+    return result;
+}
+
+// Every property but the direction of writing, and custom ones (CSS Cascade 4 §3.2).
+QVector<Longhand> allLonghands(const QString &value)
+{
+    if (!isWideKeyword(value))
+        return {};
+    QVector<Longhand> result;
+    for (int id = int(firstProperty); id <= int(lastProperty); ++id) {
+        if (AttributeId(id) != AttributeId::Direction && AttributeId(id) != AttributeId::UnicodeBidi)
+            result.append({AttributeId(id), value});
+    }
+    return result;
 }
 
 } // namespace
@@ -99,8 +181,14 @@ QVector<Longhand> longhands(const QString &name, const QString &value)
         return fontLonghands(value);
     if (name == QLatin1String("font-variant-caps"))
         return {{AttributeId::FontVariant, value}};
-    if (name == QLatin1String("text-decoration-line"))
-        return {{AttributeId::TextDecoration, value}};
+    if (name == QLatin1String("vertical-align"))
+        return alignmentLonghands(value);
+    if (name == QLatin1String("white-space-collapse"))
+        return whiteSpaceLonghands(value);
+    if (name == QLatin1String("font-feature-settings"))
+        return featureLonghands(value);
+    if (name == allProperties)
+        return allLonghands(value);
     return {};
 }
 

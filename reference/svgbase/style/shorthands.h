@@ -6,6 +6,9 @@
 
 namespace Svg {
 
+/// The shorthand of (nearly) every property.
+constexpr QLatin1String allProperties("all");
+
 /// A property that a shorthand stands for.
 struct Longhand
 {

@@ -1,8 +1,12 @@
 #include "style/textproperties.h"
 
+#include "grammar/colors.h"
+#include "grammar/csstext.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
 #include "style/keywords.h"
+
+#include <algorithm>
 
 namespace Svg {
 
@@ -14,22 +18,23 @@ constexpr double largestSizeAdjust = 100;
 const Keyword<Baseline> baselines[] = {
     {QLatin1String("auto"), Baseline::Auto},
     {QLatin1String("use-script"), Baseline::Auto},
-    {QLatin1String("baseline"), Baseline::Auto},
     {QLatin1String("alphabetic"), Baseline::Alphabetic},
     {QLatin1String("central"), Baseline::Central},
-    {QLatin1String("center"), Baseline::Central},
     {QLatin1String("hanging"), Baseline::Hanging},
     {QLatin1String("mathematical"), Baseline::Mathematical},
     {QLatin1String("middle"), Baseline::Middle},
     {QLatin1String("ideographic"), Baseline::TextAfterEdge},
     {QLatin1String("text-after-edge"), Baseline::TextAfterEdge},
-    {QLatin1String("after-edge"), Baseline::TextAfterEdge},
     {QLatin1String("text-bottom"), Baseline::TextAfterEdge},
-    {QLatin1String("bottom"), Baseline::TextAfterEdge},
     {QLatin1String("text-before-edge"), Baseline::TextBeforeEdge},
-    {QLatin1String("before-edge"), Baseline::TextBeforeEdge},
     {QLatin1String("text-top"), Baseline::TextBeforeEdge},
-    {QLatin1String("top"), Baseline::TextBeforeEdge},
+};
+
+// These are for the alignment of parts only (SVG 1.1 §10.9.2).
+const Keyword<Baseline> alignments[] = {
+    {QLatin1String("baseline"), Baseline::Auto},
+    {QLatin1String("after-edge"), Baseline::TextAfterEdge},
+    {QLatin1String("before-edge"), Baseline::TextBeforeEdge},
 };
 
 const Keyword<bool> directions[] = {
@@ -40,16 +45,54 @@ const Keyword<bool> directions[] = {
 const Keyword<UnicodeBidi> bidiModes[] = {
     {QLatin1String("normal"), UnicodeBidi::Normal},
     {QLatin1String("embed"), UnicodeBidi::Embed},
-    {QLatin1String("isolate"), UnicodeBidi::Embed},
-    {QLatin1String("plaintext"), UnicodeBidi::Normal},
+    {QLatin1String("isolate"), UnicodeBidi::Isolate},
+    {QLatin1String("plaintext"), UnicodeBidi::Plaintext},
     {QLatin1String("bidi-override"), UnicodeBidi::Override},
-    {QLatin1String("isolate-override"), UnicodeBidi::Override},
+    {QLatin1String("isolate-override"), UnicodeBidi::IsolateOverride},
 };
 
-const Keyword<bool> writingModes[] = {
-    {QLatin1String("lr"), false},    {QLatin1String("lr-tb"), false},         {QLatin1String("rl"), false},
-    {QLatin1String("rl-tb"), false}, {QLatin1String("horizontal-tb"), false}, {QLatin1String("tb"), true},
-    {QLatin1String("tb-rl"), true},  {QLatin1String("vertical-rl"), true},    {QLatin1String("vertical-lr"), true},
+const Keyword<WritingMode> writingModes[] = {
+    {QLatin1String("lr"), WritingMode::Horizontal},
+    {QLatin1String("lr-tb"), WritingMode::Horizontal},
+    {QLatin1String("rl"), WritingMode::Horizontal},
+    {QLatin1String("rl-tb"), WritingMode::Horizontal},
+    {QLatin1String("horizontal-tb"), WritingMode::Horizontal},
+    {QLatin1String("tb"), WritingMode::Vertical},
+    {QLatin1String("tb-lr"), WritingMode::Vertical},
+    {QLatin1String("tb-rl"), WritingMode::Vertical},
+    {QLatin1String("vertical-rl"), WritingMode::Vertical},
+    {QLatin1String("vertical-lr"), WritingMode::Vertical},
+    {QLatin1String("sideways-rl"), WritingMode::SidewaysRight},
+    {QLatin1String("sideways-lr"), WritingMode::SidewaysLeft},
+};
+
+const Keyword<TextTransform> textTransforms[] = {
+    {QLatin1String("none"), TextTransform::None},
+    {QLatin1String("uppercase"), TextTransform::Uppercase},
+    {QLatin1String("lowercase"), TextTransform::Lowercase},
+    {QLatin1String("capitalize"), TextTransform::Capitalize},
+    {QLatin1String("full-width"), TextTransform::None},
+    {QLatin1String("full-size-kana"), TextTransform::None},
+};
+
+const Keyword<LineStyle> lineStyles[] = {
+    {QLatin1String("solid"), LineStyle::Solid},   {QLatin1String("double"), LineStyle::Double},
+    {QLatin1String("dotted"), LineStyle::Dotted}, {QLatin1String("dashed"), LineStyle::Dashed},
+    {QLatin1String("wavy"), LineStyle::Wavy},
+};
+
+// Single ones that add to the usual ligatures change nothing that is drawn here.
+const Keyword<bool> ligatures[] = {
+    {QLatin1String("normal"), true},
+    {QLatin1String("none"), false},
+    {QLatin1String("no-common-ligatures"), false},
+    {QLatin1String("common-ligatures"), true},
+    {QLatin1String("discretionary-ligatures"), true},
+    {QLatin1String("no-discretionary-ligatures"), true},
+    {QLatin1String("historical-ligatures"), true},
+    {QLatin1String("no-historical-ligatures"), true},
+    {QLatin1String("contextual"), true},
+    {QLatin1String("no-contextual"), true},
 };
 
 const Keyword<WhiteSpace> whiteSpaces[] = {
@@ -58,10 +101,13 @@ const Keyword<WhiteSpace> whiteSpaces[] = {
     {QLatin1String("pre-wrap"), WhiteSpace::Preserve}, {QLatin1String("break-spaces"), WhiteSpace::Preserve},
 };
 
-const Keyword<bool> variants[] = {
-    {QLatin1String("normal"), false},
-    {QLatin1String("small-caps"), true},
-    {QLatin1String("all-small-caps"), true},
+// Petite capitals are few fonts' and small ones otherwise (CSS Fonts 4 §6.6).
+const Keyword<SmallCaps> variants[] = {
+    {QLatin1String("normal"), SmallCaps::None},
+    {QLatin1String("small-caps"), SmallCaps::OfSmallLetters},
+    {QLatin1String("petite-caps"), SmallCaps::OfSmallLetters},
+    {QLatin1String("all-small-caps"), SmallCaps::OfAllLetters},
+    {QLatin1String("all-petite-caps"), SmallCaps::OfAllLetters},
 };
 
 const Keyword<TextOrientation> orientations[] = {
@@ -189,17 +235,144 @@ bool applyBaselineShift(InlineStyle &inlineStyle, QStringView text, double fontS
     return applySpacing(inlineStyle.baselineShift, text, fontSize);
 }
 
-// Lines that blink have none that could be drawn; colours and styles of lines are not looked at.
-bool applyDecoration(InlineStyle &inlineStyle, QStringView text)
+// Lines that blink have none that could be drawn. False for what names no line.
+bool addLine(InlineStyle &inlineStyle, QStringView word)
+{
+    const auto is = [word](const char *line) {
+        return word.compare(QLatin1String(line), Qt::CaseInsensitive) == 0;
+    };
+    inlineStyle.underline = inlineStyle.underline || is("underline");
+    inlineStyle.overline = inlineStyle.overline || is("overline");
+    inlineStyle.lineThrough = inlineStyle.lineThrough || is("line-through");
+    return is("underline") || is("overline") || is("line-through") || is("blink") || is("none");
+}
+
+bool applyLines(InlineStyle &inlineStyle, QStringView text)
 {
     inlineStyle.underline = inlineStyle.overline = inlineStyle.lineThrough = false;
-    const auto words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QStringView word : words) {
-        inlineStyle.underline = inlineStyle.underline || word == QLatin1String("underline");
-        inlineStyle.overline = inlineStyle.overline || word == QLatin1String("overline");
-        inlineStyle.lineThrough = inlineStyle.lineThrough || word == QLatin1String("line-through");
+    const QVector<QStringView> words = cssWords(text);
+    return !words.isEmpty() &&
+           std::all_of(words.begin(), words.end(), [&](QStringView word) { return addLine(inlineStyle, word); });
+}
+
+// The colour of the part is its paint, stroke and all (SVG 2 §11.10.3).
+bool applyLineColor(InlineStyle &inlineStyle, QStringView value)
+{
+    const std::optional<QColor> color = parseColor(value);
+    const bool isOwn = value.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0;
+    if (color || isOwn)
+        inlineStyle.lineColor = isOwn ? std::nullopt : color;
+    return color || isOwn;
+}
+
+bool applyLineThickness(InlineStyle &inlineStyle, QStringView value, double fontSize)
+{
+    if (value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0 ||
+        value.compare(QLatin1String("from-font"), Qt::CaseInsensitive) == 0) {
+        inlineStyle.lineThickness.reset();
+        return true;
     }
-    return !words.isEmpty();
+    const std::optional<Length> length = parseLength(value);
+    if (!length || length->value < 0)
+        return false;
+    inlineStyle.lineThickness = toUserUnits(*length, Axis::Horizontal, {QSizeF(fontSize, fontSize), fontSize});
+    return true;
+}
+
+// Lines, style, thickness and colour in any order; what is not said is as usual (CSS Text Decoration 4 §2.5).
+bool applyDecoration(InlineStyle &inlineStyle, QStringView text, double fontSize)
+{
+    inlineStyle.underline = inlineStyle.overline = inlineStyle.lineThrough = false;
+    inlineStyle.lineStyle = LineStyle::Solid;
+    inlineStyle.lineColor.reset();
+    inlineStyle.lineThickness.reset();
+    const QVector<QStringView> words = cssWords(text);
+    return !words.isEmpty() && std::all_of(words.begin(), words.end(), [&](QStringView word) {
+        return addLine(inlineStyle, word) || applyKeyword(inlineStyle.lineStyle, word, lineStyles) ||
+               applyLineThickness(inlineStyle, word, fontSize) || applyLineColor(inlineStyle, word);
+    });
+}
+
+bool applyUnderlineOffset(TextStyle &text, QStringView value, double fontSize)
+{
+    text.underlineOffset.reset();
+    if (value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0)
+        return true;
+    const std::optional<Length> length = parseLength(value);
+    if (length)
+        text.underlineOffset = toUserUnits(*length, Axis::Horizontal, {QSizeF(fontSize, fontSize), fontSize});
+    return length.has_value();
+}
+
+bool applyUnderlinePosition(TextStyle &text, QStringView value)
+{
+    text.underlineUnder = false;
+    const QVector<QStringView> words = cssWords(value);
+    return !words.isEmpty() && std::all_of(words.begin(), words.end(), [&](QStringView word) {
+        const auto is = [word](const char *known) {
+            return word.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+        };
+        text.underlineUnder = text.underlineUnder || is("under");
+        return is("auto") || is("from-font") || is("under") || is("left") || is("right");
+    });
+}
+
+// Of all the words, those about ligatures and capitals count; the others name what few fonts have (CSS Fonts 4
+// §6.11).
+bool applyVariant(TextStyle &text, QStringView value)
+{
+    static const char *const others[] = {"sub",
+                                         "super",
+                                         "unicase",
+                                         "titling-caps",
+                                         "lining-nums",
+                                         "oldstyle-nums",
+                                         "proportional-nums",
+                                         "tabular-nums",
+                                         "diagonal-fractions",
+                                         "stacked-fractions",
+                                         "ordinal",
+                                         "slashed-zero",
+                                         "jis78",
+                                         "jis83",
+                                         "jis90",
+                                         "jis04",
+                                         "simplified",
+                                         "traditional",
+                                         "full-width",
+                                         "proportional-width",
+                                         "ruby",
+                                         "historical-forms",
+                                         "text",
+                                         "emoji",
+                                         "unicode"};
+    text.smallCaps = SmallCaps::None;
+    text.ligatures = true;
+    const QVector<QStringView> words = cssWords(value);
+    return !words.isEmpty() && std::all_of(words.begin(), words.end(), [&](QStringView word) {
+        bool keeps = true;
+        if (applyKeyword(text.smallCaps, word, variants))
+            return true;
+        if (applyKeyword(keeps, word, ligatures)) {
+            text.ligatures = text.ligatures && keeps;
+            return true;
+        }
+        return std::any_of(std::begin(others), std::end(others), [&](const char *other) {
+            return word.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
+        });
+    });
+}
+
+bool applyLigatures(TextStyle &text, QStringView value)
+{
+    text.ligatures = true;
+    const QVector<QStringView> words = cssWords(value);
+    return !words.isEmpty() && std::all_of(words.begin(), words.end(), [&](QStringView word) {
+        bool keeps = true;
+        const bool known = applyKeyword(keeps, word, ligatures);
+        text.ligatures = text.ligatures && keeps;
+        return known;
+    });
 }
 
 // Two old keywords leave the baseline as it is around the part (SVG 1.1 §10.9.2).
@@ -229,7 +402,9 @@ bool applyToText(TextStyle &text, AttributeId property, QStringView value, doubl
     case AttributeId::FontStretch:
         return applyStretch(text.stretch, value, inherited.stretch);
     case AttributeId::FontVariant:
-        return applyKeyword(text.smallCaps, value, variants);
+        return applyVariant(text, value);
+    case AttributeId::FontVariantLigatures:
+        return applyLigatures(text, value);
     case AttributeId::GlyphOrientationVertical:
         return applyKeyword(text.orientation, value, glyphOrientations);
     case AttributeId::Kerning:
@@ -238,6 +413,12 @@ bool applyToText(TextStyle &text, AttributeId property, QStringView value, doubl
         return applyLineHeight(text, value, fontSize);
     case AttributeId::TextOrientation:
         return applyKeyword(text.orientation, value, orientations);
+    case AttributeId::TextTransform:
+        return applyKeyword(text.transform, value, textTransforms);
+    case AttributeId::TextUnderlineOffset:
+        return applyUnderlineOffset(text, value, fontSize);
+    case AttributeId::TextUnderlinePosition:
+        return applyUnderlinePosition(text, value);
     case AttributeId::LetterSpacing:
         return applySpacing(text.letterSpacing, value, fontSize);
     case AttributeId::WhiteSpace:
@@ -245,7 +426,7 @@ bool applyToText(TextStyle &text, AttributeId property, QStringView value, doubl
     case AttributeId::WordSpacing:
         return applySpacing(text.wordSpacing, value, fontSize);
     case AttributeId::WritingMode:
-        return applyKeyword(text.vertical, value, writingModes);
+        return applyKeyword(text.writingMode, value, writingModes);
     default:
         return false;
     }
@@ -255,11 +436,20 @@ bool applyToInline(InlineStyle &inlineStyle, AttributeId property, QStringView v
 {
     switch (property) {
     case AttributeId::AlignmentBaseline:
-        return applyKeyword(inlineStyle.alignmentBaseline, value, baselines);
+        return applyKeyword(inlineStyle.alignmentBaseline, value, baselines) ||
+               applyKeyword(inlineStyle.alignmentBaseline, value, alignments);
     case AttributeId::BaselineShift:
         return applyBaselineShift(inlineStyle, value, fontSize);
     case AttributeId::TextDecoration:
-        return applyDecoration(inlineStyle, value);
+        return applyDecoration(inlineStyle, value, fontSize);
+    case AttributeId::TextDecorationColor:
+        return applyLineColor(inlineStyle, value);
+    case AttributeId::TextDecorationLine:
+        return applyLines(inlineStyle, value);
+    case AttributeId::TextDecorationStyle:
+        return applyKeyword(inlineStyle.lineStyle, value, lineStyles);
+    case AttributeId::TextDecorationThickness:
+        return applyLineThickness(inlineStyle, value, fontSize);
     case AttributeId::UnicodeBidi:
         return applyKeyword(inlineStyle.unicodeBidi, value, bidiModes);
     default:
@@ -271,6 +461,8 @@ bool isInline(AttributeId property)
 {
     return property == AttributeId::AlignmentBaseline || property == AttributeId::BaselineShift ||
            property == AttributeId::InlineSize || property == AttributeId::TextDecoration ||
+           property == AttributeId::TextDecorationColor || property == AttributeId::TextDecorationLine ||
+           property == AttributeId::TextDecorationStyle || property == AttributeId::TextDecorationThickness ||
            property == AttributeId::UnicodeBidi;
 }
 
@@ -294,6 +486,10 @@ void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
         break;
     case AttributeId::FontVariant:
         text.smallCaps = from.smallCaps;
+        text.ligatures = from.ligatures;
+        break;
+    case AttributeId::FontVariantLigatures:
+        text.ligatures = from.ligatures;
         break;
     case AttributeId::GlyphOrientationVertical:
     case AttributeId::TextOrientation:
@@ -310,6 +506,15 @@ void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
     case AttributeId::LetterSpacing:
         text.letterSpacing = from.letterSpacing;
         break;
+    case AttributeId::TextTransform:
+        text.transform = from.transform;
+        break;
+    case AttributeId::TextUnderlineOffset:
+        text.underlineOffset = from.underlineOffset;
+        break;
+    case AttributeId::TextUnderlinePosition:
+        text.underlineUnder = from.underlineUnder;
+        break;
     case AttributeId::WhiteSpace:
         text.whiteSpace = from.whiteSpace;
         break;
@@ -317,7 +522,7 @@ void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
         text.wordSpacing = from.wordSpacing;
         break;
     case AttributeId::WritingMode:
-        text.vertical = from.vertical;
+        text.writingMode = from.writingMode;
         break;
     default:
         break;
@@ -338,9 +543,24 @@ void copyInline(InlineStyle &inlineStyle, AttributeId property, const InlineStyl
         inlineStyle.inlineSize = from.inlineSize;
         break;
     case AttributeId::TextDecoration:
+        copyInline(inlineStyle, AttributeId::TextDecorationColor, from);
+        copyInline(inlineStyle, AttributeId::TextDecorationLine, from);
+        copyInline(inlineStyle, AttributeId::TextDecorationStyle, from);
+        copyInline(inlineStyle, AttributeId::TextDecorationThickness, from);
+        break;
+    case AttributeId::TextDecorationColor:
+        inlineStyle.lineColor = from.lineColor;
+        break;
+    case AttributeId::TextDecorationLine:
         inlineStyle.underline = from.underline;
         inlineStyle.overline = from.overline;
         inlineStyle.lineThrough = from.lineThrough;
+        break;
+    case AttributeId::TextDecorationStyle:
+        inlineStyle.lineStyle = from.lineStyle;
+        break;
+    case AttributeId::TextDecorationThickness:
+        inlineStyle.lineThickness = from.lineThickness;
         break;
     case AttributeId::UnicodeBidi:
         inlineStyle.unicodeBidi = from.unicodeBidi;

@@ -2,8 +2,10 @@
 
 #include <QtCore/QSharedData>
 #include <QtCore/QVector>
+#include <QtGui/QColor>
 
 #include <memory>
+#include <optional>
 
 namespace Svg {
 
@@ -27,6 +29,18 @@ enum class TextOrientation : quint8 { Mixed, Upright, Sideways };
 /// How spaces of the text are treated; `Unset` leaves it to "xml:space".
 enum class WhiteSpace : quint8 { Unset, Collapse, Preserve };
 
+/// How capitals of a font stand for letters (CSS Fonts 4 §6.6).
+enum class SmallCaps : quint8 { None, OfSmallLetters, OfAllLetters };
+
+/// What is made of letters before they are set (CSS Text 3 §2.1).
+enum class TextTransform : quint8 { None, Uppercase, Lowercase, Capitalize };
+
+/// Which way lines of text go (CSS Writing Modes 4 §3.2); `SidewaysLeft` goes up.
+enum class WritingMode : quint8 { Horizontal, Vertical, SidewaysRight, SidewaysLeft };
+
+/// How a line that decorates text looks (CSS Text Decoration 3 §2.2).
+enum class LineStyle : quint8 { Solid, Double, Dotted, Dashed, Wavy };
+
 /// Inherited properties that few texts have; user units.
 struct TextStyle : QSharedData
 {
@@ -41,10 +55,16 @@ struct TextStyle : QSharedData
     /// Distance of lines as a share of the font size, or in user units; 0 leaves it to the font.
     double lineHeightShare = 0;
     double lineHeight = 0;
-    bool smallCaps = false;
+    /// How far the upper edge of an underline lies below the baseline, user units; nothing leaves it to the font.
+    std::optional<double> underlineOffset;
+    /// Whether underlines go below all letters.
+    bool underlineUnder = false;
+    SmallCaps smallCaps = SmallCaps::None;
+    TextTransform transform = TextTransform::None;
     bool kerning = true;
+    bool ligatures = true;
     bool rightToLeft = false;
-    bool vertical = false;
+    WritingMode writingMode = WritingMode::Horizontal;
     TextOrientation orientation = TextOrientation::Mixed;
     WhiteSpace whiteSpace = WhiteSpace::Unset;
     /// Styles of groups around the text that ask for lines, outermost first.
@@ -52,7 +72,7 @@ struct TextStyle : QSharedData
     Baseline dominantBaseline = Baseline::Auto;
 };
 
-enum class UnicodeBidi : quint8 { Normal, Embed, Override };
+enum class UnicodeBidi : quint8 { Normal, Embed, Isolate, Plaintext, Override, IsolateOverride };
 
 /// Properties of one part of a text that its children don't inherit.
 struct InlineStyle : QSharedData
@@ -69,6 +89,11 @@ struct InlineStyle : QSharedData
     bool underline = false;
     bool overline = false;
     bool lineThrough = false;
+    LineStyle lineStyle = LineStyle::Solid;
+    /// Of the lines, where it is not the paint of the part.
+    std::optional<QColor> lineColor;
+    /// User units, unless the font says.
+    std::optional<double> lineThickness;
 };
 
 } // namespace Svg

@@ -17,6 +17,10 @@ namespace {
 constexpr ushort leftToRightEmbedding = 0x202a;
 constexpr ushort rightToLeftEmbedding = 0x202b;
 constexpr ushort popDirection = 0x202c;
+constexpr ushort leftToRightIsolate = 0x2066;
+constexpr ushort rightToLeftIsolate = 0x2067;
+constexpr ushort firstStrongIsolate = 0x2068;
+constexpr ushort popIsolate = 0x2069;
 constexpr double endlessLine = 16777215;
 
 bool isMoved(const TextContent &content, const TextCharacter &character)
@@ -27,7 +31,8 @@ bool isMoved(const TextContent &content, const TextCharacter &character)
 
 bool isOverridden(const TextContent &content, int level)
 {
-    return inlineStyleOf(content.levels.at(level).style).unicodeBidi == UnicodeBidi::Override;
+    const UnicodeBidi mode = inlineStyleOf(content.levels.at(level).style).unicodeBidi;
+    return mode == UnicodeBidi::Override || mode == UnicodeBidi::IsolateOverride;
 }
 
 // Splits by level and place alone, as if everything went from left to right.
@@ -77,12 +82,34 @@ struct ControlledText
     QVector<int> places;
 };
 
-ushort openingControl(const ComputedStyle &style)
+/// The controls that stand for an element (CSS Writing Modes 3 §2.2).
+struct Controls
+{
+    QString opening;
+    QString closing;
+};
+
+Controls controlsOf(const ComputedStyle &style)
 {
     const bool right = textStyleOf(style).rightToLeft;
-    if (inlineStyleOf(style).unicodeBidi == UnicodeBidi::Override)
-        return right ? rightToLeftOverride : leftToRightOverride;
-    return right ? rightToLeftEmbedding : leftToRightEmbedding;
+    const QChar isolate(right ? rightToLeftIsolate : leftToRightIsolate);
+    const QChar override(right ? rightToLeftOverride : leftToRightOverride);
+    const QChar pop(popDirection);
+    switch (inlineStyleOf(style).unicodeBidi) {
+    case UnicodeBidi::Normal:
+        break;
+    case UnicodeBidi::Embed:
+        return {QChar(right ? rightToLeftEmbedding : leftToRightEmbedding), pop};
+    case UnicodeBidi::Isolate:
+        return {isolate, QChar(popIsolate)};
+    case UnicodeBidi::Plaintext:
+        return {QChar(firstStrongIsolate), QChar(popIsolate)};
+    case UnicodeBidi::Override:
+        return {override, pop};
+    case UnicodeBidi::IsolateOverride:
+        return {QString(isolate) + override, QString(pop) + QChar(popIsolate)};
+    }
+    return {};
 }
 
 // Levels that open and close between two characters are those on the way from one to the other.
@@ -99,11 +126,10 @@ ControlledText withControls(const TextContent &content, int begin, int end)
         const int common =
             int(std::mismatch(open.begin(), open.end(), wanted.begin(), wanted.end()).first - open.begin());
         while (open.size() > common) {
-            result.text += QChar(popDirection);
-            open.removeLast();
+            result.text += controlsOf(content.levels.at(open.takeLast()).style).closing;
         }
         for (int k = common; k < wanted.size(); ++k) {
-            result.text += QChar(openingControl(content.levels.at(wanted.at(k)).style));
+            result.text += controlsOf(content.levels.at(wanted.at(k)).style).opening;
             open.append(wanted.at(k));
         }
         result.places.append(result.text.size());

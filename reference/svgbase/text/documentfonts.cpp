@@ -121,7 +121,7 @@ void DocumentFonts::readFaces(const Tree &tree)
 int DocumentFonts::mismatch(const Face &face, const ComputedStyle &style)
 {
     int sum = (style.font.italic ? face.italic : face.upright) ? 0 : wrongSlope;
-    if (face.smallCaps != textStyleOf(style).smallCaps)
+    if (face.smallCaps != (textStyleOf(style).smallCaps != SmallCaps::None))
         sum += wrongVariant;
     const int wanted = style.font.weight;
     int nearest = face.weights.isEmpty() ? 0 : wrongSlope;

@@ -28,7 +28,7 @@ public:
         : m_content(*content)
         , m_services(services)
         , m_size(inlineStyleOf(content->levels.first().style).inlineSize)
-        , m_vertical(textStyleOf(content->levels.first().style).vertical)
+        , m_vertical(textStyleOf(content->levels.first().style).writingMode != WritingMode::Horizontal)
     {
     }
 

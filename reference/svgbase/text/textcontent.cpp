@@ -12,6 +12,8 @@ namespace Svg {
 
 namespace {
 
+constexpr ushort zeroWidthSpace = 0x200b;
+
 bool isWhiteSpace(QChar c)
 {
     return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
@@ -45,6 +47,8 @@ private:
     void close();
     void visit(NodeIndex node);
     void append(const QString &characters);
+    QString transformed(const QString &characters) const;
+    QString capitalized(QString characters) const;
     void appendSpace(bool preserves);
     void appendCharacter(const QString &characters, int at, int length);
     void dropSpaceAtEnd();
@@ -139,7 +143,13 @@ void TextCollector::appendCharacter(const QString &characters, int at, int lengt
     character.begin = m_content.text.size();
     character.length = length;
     character.level = m_open.constLast();
-    m_content.text += characters.midRef(at, length);
+    // A line is not broken there.
+    const bool separates =
+        characters.at(at) == QChar::LineSeparator || characters.at(at) == QChar::ParagraphSeparator;
+    if (separates)
+        m_content.text += QChar(zeroWidthSpace);
+    else
+        m_content.text += characters.midRef(at, length);
     m_content.characters.append(character);
 }
 
@@ -168,6 +178,33 @@ void TextCollector::append(const QString &characters)
         i += pair ? 1 : 0;
         m_afterSpace = false;
     }
+}
+
+// The first letters of words; one may begin in another part (CSS Text 3 §2.1.1).
+QString TextCollector::capitalized(QString characters) const
+{
+    bool inWord = !m_content.text.isEmpty() && m_content.text.back().isLetterOrNumber();
+    for (QChar &c : characters) {
+        const bool isPart = c.isLetterOrNumber() || c.isMark() || (inWord && c == QLatin1Char('\''));
+        if (isPart && !inWord)
+            c = c.toTitleCase();
+        inWord = isPart;
+    }
+    return characters;
+}
+
+QString TextCollector::transformed(const QString &characters) const
+{
+    const TextStyle &style = textStyleOf(m_content.levels.at(m_open.constLast()).style);
+    QString result = characters;
+    if (style.transform == TextTransform::Uppercase)
+        result = characters.toUpper();
+    else if (style.transform == TextTransform::Lowercase)
+        result = characters.toLower();
+    else if (style.transform == TextTransform::Capitalize)
+        result = capitalized(characters);
+    // Capitals become small ones like all letters.
+    return style.smallCaps == SmallCaps::OfAllLetters ? result.toLower() : result;
 }
 
 // Collapsible space at the very end is none.
@@ -216,7 +253,7 @@ void TextCollector::visit(NodeIndex index)
 {
     const Node &node = m_tree.node(index);
     if (node.kind == ElementKind::Characters) {
-        append(node.text);
+        append(transformed(node.text));
         return;
     }
     if (!isTextPart(node.kind))
@@ -229,7 +266,7 @@ void TextCollector::visit(NodeIndex index)
         style.displayed && passesConditions(node) && (node.kind != ElementKind::TextPath || hasWay(node));
     open(index, style);
     if (node.kind == ElementKind::Tref && style.displayed)
-        append(referredText(node));
+        append(transformed(referredText(node)));
 }
 
 TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)

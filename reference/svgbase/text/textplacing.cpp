@@ -28,7 +28,8 @@ public:
         , m_content(content)
         , m_viewport(viewport)
         , m_services(services)
-        , m_vertical(textStyleOf(content.levels.first().style).vertical)
+        , m_vertical(textStyleOf(content.levels.first().style).writingMode != WritingMode::Horizontal)
+        , m_upwards(textStyleOf(content.levels.first().style).writingMode == WritingMode::SidewaysLeft)
     {
     }
 
@@ -45,7 +46,8 @@ private:
     void putOnWay(const Chunk &chunk);
     const TextWay &way(int level);
     const TextCharacter &firstOf(const Chunk &chunk) const { return m_content.characters.at(chunk.firstCharacter); }
-    std::optional<double> alongOf(const TextCharacter &c) const { return m_vertical ? c.y : c.x; }
+    std::optional<double> alongOf(const TextCharacter &c) const;
+    QPointF shiftOf(const TextCharacter &c) const;
     std::optional<double> asideOf(const TextCharacter &c) const { return m_vertical ? c.x : c.y; }
 
     const Tree &m_tree;
@@ -53,6 +55,8 @@ private:
     QSizeF m_viewport;
     TextServices m_services;
     bool m_vertical;
+    /// Whether a vertical line goes up: distances along it count upwards then.
+    bool m_upwards;
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
     QHash<int, std::shared_ptr<TextWay>> m_ways;
@@ -61,6 +65,21 @@ private:
     /// The `textPath` of the chunk before, as a level.
     int m_pathBefore = -1;
 };
+
+std::optional<double> TextPlacer::alongOf(const TextCharacter &c) const
+{
+    if (m_upwards && c.y)
+        return -*c.y;
+    return m_vertical ? c.y : c.x;
+}
+
+// How far a character is moved along the line and aside of it.
+QPointF TextPlacer::shiftOf(const TextCharacter &c) const
+{
+    if (m_upwards)
+        return {-c.dy, c.dx};
+    return m_vertical ? QPointF(c.dy, c.dx) : QPointF(c.dx, c.dy);
+}
 
 // Glyphs are only told apart where something needs it.
 ShapingMode TextPlacer::mode() const
@@ -87,7 +106,10 @@ bool TextPlacer::startsChunk(int index) const
     const TextCharacter &before = m_content.characters.at(index - 1);
     if (m_content.levels.at(character.level).path != m_content.levels.at(before.level).path)
         return true;
-    return (character.x || character.y) && canBePlaced(m_content.text, character);
+    // Along a way only places along it count (SVG 1.1 §10.13.3).
+    const bool onWay = m_content.levels.at(character.level).path >= 0;
+    const bool placed = alongOf(character) || (asideOf(character) && !onWay);
+    return placed && canBePlaced(m_content.text, character);
 }
 
 void TextPlacer::shape()
@@ -124,8 +146,7 @@ void TextPlacer::shift()
         const int first = cluster.glyphs.firstCharacter;
         for (int i = first; i < first + cluster.glyphs.characterCount; ++i) {
             const TextCharacter &character = m_content.characters.at(i);
-            const QPointF moved(character.dx, character.dy);
-            sum += m_vertical ? moved.transposed() : moved;
+            sum += shiftOf(character);
         }
         cluster.along += sum.x();
         cluster.aside += sum.y();
@@ -168,7 +189,7 @@ void TextPlacer::setChunk(const Chunk &chunk)
         left = qMin(left, cluster.along);
         right = qMax(right, cluster.along + cluster.glyphs.advance * cluster.widening);
     }
-    const QPointF own = m_vertical ? QPointF(first.dy, first.dx) : QPointF(first.dx, first.dy);
+    const QPointF own = shiftOf(first);
     const double begin = rightToLeft ? left : outermost;
     std::optional<double> along = alongOf(first);
     std::optional<double> aside = asideOf(first);
@@ -184,7 +205,7 @@ void TextPlacer::setChunk(const Chunk &chunk)
         m_offset.setX(*along + own.x() - begin);
     if (aside)
         m_offset.setY(*aside + own.y() - leader.aside);
-    const bool atRight = (style.textAnchor == TextAnchor::End) != rightToLeft;
+    const bool atRight = (style.textAnchor == TextAnchor::End) != textStyleOf(style).rightToLeft;
     const double anchor = style.textAnchor == TextAnchor::Middle ? (begin + right) / 2 : atRight ? right : begin;
     const QPointF offset = m_offset + QPointF(begin - anchor, 0);
     for (int i = chunk.firstCluster; i < chunk.endCluster; ++i) {
@@ -198,7 +219,10 @@ void TextPlacer::putOnLine(const Chunk &chunk)
 {
     for (int i = chunk.firstCluster; i < chunk.endCluster; ++i) {
         PlacedCluster &cluster = m_clusters[i];
-        if (m_vertical) {
+        if (m_upwards) {
+            cluster.line.translate(cluster.aside, -cluster.along);
+            cluster.line.rotate(-90);
+        } else if (m_vertical) {
             cluster.line.translate(cluster.aside, cluster.along);
             cluster.line.rotate(90);
         } else {

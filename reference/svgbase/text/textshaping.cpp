@@ -65,8 +65,10 @@ bool isCursive(uint code)
     }
 }
 
-bool isSetUpright(TextOrientation orientation, uint code)
+bool isSetUpright(const TextContent &content, TextOrientation orientation, uint code)
 {
+    if (textStyleOf(content.levels.first().style).writingMode != WritingMode::Vertical)
+        return false;
     if (orientation == TextOrientation::Mixed)
         return isUpright(code);
     return orientation == TextOrientation::Upright && !isCursive(code);
@@ -139,7 +141,8 @@ void Row::layOut()
     }
     QFont font = outlineFont(m_style.font, textStyleOf(m_style));
     const bool spaced = textStyleOf(m_style).letterSpacing + textStyleOf(m_style).kerningSpacing != 0;
-    if (spaced && !isCursive(codeOf(m_content.text, m_content.characters.at(m_run.begin))))
+    const bool isSplit = spaced || !textStyleOf(m_style).ligatures;
+    if (isSplit && !isCursive(codeOf(m_content.text, m_content.characters.at(m_run.begin))))
         font.setLetterSpacing(QFont::AbsoluteSpacing, leastSpacing);
     QTextOption option;
     option.setUseDesignMetrics(true);
@@ -295,7 +298,7 @@ QVector<TextCluster> Row::clusters()
         if (m_mode.separate)
             space(&cluster);
         const uint code = codeOf(m_content.text, m_content.characters.at(cluster.firstCharacter));
-        if (m_mode.vertical && isSetUpright(textStyleOf(m_style).orientation, code)) {
+        if (m_mode.vertical && isSetUpright(m_content, textStyleOf(m_style).orientation, code)) {
             if (const FontGlyph *glyph = m_fontGlyphs.value(cluster.firstCharacter))
                 turnGlyphUpright(*glyph, &cluster);
             else

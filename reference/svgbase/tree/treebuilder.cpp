@@ -76,7 +76,7 @@ ElementKind TreeBuilder::kindOfElement(const XmlElement &element, XmlPlace place
     const ElementKind kind = elementKind(element.name);
     // A link inside a text is a part of it.
     if (kind == ElementKind::Group && isInText())
-        return ElementKind::Tspan;
+        return element.name == QLatin1String("a") ? ElementKind::Tspan : ElementKind::Other;
     if (kind == ElementKind::TextPath && ++m_textPaths > Limits::textPaths) {
         m_messages->warn(Message::TooManyTextPaths,
                          QStringLiteral("Text paths beyond %1 are left out.").arg(Limits::textPaths), place.line,

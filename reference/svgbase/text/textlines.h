@@ -1,0 +1,25 @@
+#pragma once
+
+#include "style/textstyle.h"
+
+#include <QtGui/QPainterPath>
+
+namespace Svg {
+
+/// A piece of a line that decorates text, along the x axis from the origin; user units.
+struct LinePiece
+{
+    double length = 0;
+    /// Of its middle, above the x axis.
+    double height = 0;
+    double thickness = 0;
+    LineStyle style = LineStyle::Solid;
+    /// Which way a second line goes from the first: 1 down, -1 up, 0 both from its place in the middle.
+    int away = 0;
+};
+
+/// The outline of a piece (CSS Text Decoration 3 §2.2). `repetitionsLeft` counts down the dots, dashes and waves
+/// that may still be drawn; a piece with more of them is drawn solid.
+QPainterPath lineOutline(const LinePiece &piece, int *repetitionsLeft);
+
+} // namespace Svg
