@@ -310,22 +310,25 @@ NumberList::NumberList(PropertiedShape *shape, const Text &text, int count, doub
     setNumbers({});
 }
 
-QVector<double> NumberList::numbers() const
+const QVector<double> &NumberList::numbers() const
 {
     const QString text = *this;
-    const QChar *start = text.constData();
-    return m_shape->parseNumbersList(start);
+    if (text != m_numbersText) {
+        const QChar *start = text.constData();
+        m_numbers = m_shape->parseNumbersList(start);
+        m_numbersText = text;
+    }
+    return m_numbers;
 }
 
 void NumberList::setNumber(int index, double number)
 {
     if (index < 0 || index >= m_count || !std::isfinite(number))
         return;
-    QVector<double> all = numbers();
-    // A text of a damaged file may hold fewer.
-    all.resize(std::max(all.size(), m_count));
-    all[index] = number;
-    setNumbers(all);
+    // There are as many as there should be, whatever was read.
+    QStringList texts = QString(*this).split(QLatin1Char(' '));
+    texts[index] = textOf(number);
+    TextValue::operator=(texts.join(QLatin1Char(' ')));
 }
 
 void NumberList::read(QDataStream &in)
@@ -349,13 +352,17 @@ void NumberList::takeAnswer(const QString &text)
 void NumberList::setNumbers(QVector<double> numbers)
 {
     numbers.resize(m_count);
-    // One by one: in a list the writer sets nothing between a number and a zero.
     QStringList texts;
-    for (const double number : qAsConst(numbers)) {
-        const double rounded = std::round(std::clamp(number, m_lowest, m_highest) * listPrecision) / listPrecision;
-        texts.append(m_shape->numbersToString({rounded + 0.0})); // no negative zero
-    }
+    for (const double number : qAsConst(numbers))
+        texts.append(textOf(number));
     TextValue::operator=(texts.join(QLatin1Char(' ')));
+}
+
+// One by one: in a list the writer sets nothing between a number and a zero.
+QString NumberList::textOf(double number) const
+{
+    const double rounded = std::round(std::clamp(number, m_lowest, m_highest) * listPrecision) / listPrecision;
+    return m_shape->numbersToString({rounded + 0.0}); // no negative zero
 }
 
 DataValue::DataValue(PropertiedShape *shape, const Text &text)

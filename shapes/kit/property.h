@@ -208,7 +208,7 @@ class NumberList : public TextValue
 public:
     NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest);
 
-    QVector<double> numbers() const;
+    const QVector<double> &numbers() const;
     /// Sets the number at an index (from 0); an index that is not there is ignored.
     void setNumber(int index, double number);
 
@@ -218,11 +218,15 @@ public:
 
 private:
     void setNumbers(QVector<double> numbers);
+    QString textOf(double number) const;
 
     PropertiedShape *m_shape;
     int m_count;
     double m_lowest;
     double m_highest;
+    /// What the text was read as, and that text.
+    mutable QVector<double> m_numbers;
+    mutable QString m_numbersText;
 };
 
 /// Bytes that only the shape can read, such as a picture. No control offers them.

@@ -42,6 +42,9 @@ bool ShapeObject::createSVGBase(int type, bool initGlobals)
 
 void ShapeObject::OnQPainterDraw(QPainter *painter)
 {
+    // A shape that is read makes its picture when all of it is known, not of what it was before.
+    if (!painter && core() && core()->isReadingData())
+        return;
     // Other threads copy a finished picture and leave the core alone.
     if (core() && createThreadId == QThread::currentThreadId())
         core()->settleDrawing();

@@ -64,6 +64,8 @@ public:
     /// What the host asks for as pagehost::PaintedArea: a box, item coordinates, around all lines and texts with
     /// the pens that they have, and around where the shape can be hit.
     virtual QRectF paintedArea();
+    /// Whether the shape is reading its data, after which its owner makes a picture of it.
+    bool isReadingData() const { return isBeingLoaded; }
     /// Brings the document up to date before somebody looks at it; for shapes that put that off.
     virtual void settleDrawing() {}
 

@@ -7,10 +7,7 @@
 class QZeSvgNode;
 
 /// The id of control point `number`, counted from 1.
-inline QString controlPointId(quint32 number)
-{
-    return QStringLiteral("%1_%2").arg(QStringLiteral("control")).arg(number);
-}
+QString controlPointId(quint32 number);
 
 /// Calls `action` with each control point of the table in index order. A count beyond the table ends at the table,
 /// and an entry without a node is skipped.

@@ -23,16 +23,13 @@ bool isOnlySelected(const CBaseObject &object)
 
 void CPSRootObject::setHandlesDisable(CObjAction::ACT_Def handle, bool disable)
 {
-    if (disable) {
-        d->disabledHandles.insert(handle);
-    } else {
-        d->disabledHandles.remove(handle);
-    }
+    const quint32 bit = 1u << handle;
+    d->disabledHandles = disable ? d->disabledHandles | bit : d->disabledHandles & ~bit;
 }
 
 bool CPSRootObject::isHandleDisabled(CObjAction::ACT_Def handle) const
 {
-    return d->disabledHandles.contains(handle);
+    return d->disabledHandles & (1u << handle);
 }
 
 bool CPSRootObject::CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action)

@@ -3,7 +3,6 @@
 #include <framework/cpsrootobject.h>
 
 #include <QtCore/QByteArray>
-#include <QtCore/QSet>
 #include <QtCore/QVector>
 
 #include <memory>
@@ -24,7 +23,8 @@ class CPSRootObjectPrivate
 public:
     QGraphicsItem *item = nullptr;
     IPsPage *page = nullptr;
-    QSet<int> disabledHandles;
+    /// A bit per CObjAction::ACT_Def.
+    quint32 disabledHandles = 0;
     int subType = 0;
     bool locked = false;
     /// The last load() or loadJson() of the base class found its data bad. Objects may answer for their own data
