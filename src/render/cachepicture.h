@@ -4,8 +4,10 @@
 #include <QtGui/QImage>
 
 /// A transparent ARGB32 picture of that size in whole pixels, each side truncated; a null image for sides below 1,
-/// sides that are not finite, and pictures beyond 2^28 pixels (1 GiB).
-QImage emptyCachePicture(QSizeF size);
+/// sides that are not finite, and pictures beyond 2^28 pixels (1 GiB). It takes over the memory of `previous`,
+/// where that is such a picture and nobody else holds it: while something is dragged or moves, one of the same size
+/// follows the other.
+QImage emptyCachePicture(QSizeF size, QImage previous = QImage());
 
 /// The same pixels without the tools that Qt keeps with a picture once it was painted on: about 12 KB, more than a
 /// small picture itself takes. A large picture comes back as it is, since copying it would cost more than that.

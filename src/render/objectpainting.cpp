@@ -11,6 +11,8 @@
 #include <QtCore/QThread>
 #include <QtGui/QPainter>
 
+#include <utility>
+
 namespace {
 
 constexpr QPainter::RenderHints fillHints =
@@ -66,7 +68,7 @@ void CSVGObj::renderCache()
     CacheRendering rendering(this);
     while (rendering.next()) {
         const QMutexLocker locker(&cacheMutex);
-        cacheImage = emptyCachePicture(clientRect.size());
+        cacheImage = emptyCachePicture(clientRect.size(), std::move(cacheImage));
         {
             QPainter target;
             // A picture without pixels cannot be painted on; its painter stays inactive.

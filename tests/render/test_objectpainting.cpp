@@ -30,6 +30,8 @@ private Q_SLOTS:
     void thePictureHasWholePixels();
     void thePictureStartsTransparent();
     void thePictureIsMadeAnewEachTime();
+    void aPictureThatSomebodyHoldsStaysAsItWas();
+    void aPictureOfTheSameSizeTakesTheMemoryOfTheOneBefore();
     void theCorePaintsIntoThePicture();
     void renderingHoldsTheLockThroughout();
     void renderingLetsTheLockGo();
@@ -202,6 +204,30 @@ void TestObjectPainting::thePictureIsMadeAnewEachTime()
     fixture.object.place({0, 0, 10, 12});
     fixture.object.OnQPainterDraw(nullptr);
     QCOMPARE(fixture.object.cacheImage, transparentPicture(10, 12));
+}
+
+void TestObjectPainting::aPictureThatSomebodyHoldsStaysAsItWas()
+{
+    Painting fixture;
+    fixture.shape->onPaint = [](QPainter *painter, bool) { painter->fillRect(0, 0, 40, 20, Qt::red); };
+    fixture.object.OnQPainterDraw(nullptr);
+    const QImage held = fixture.object.cacheImage;
+    fixture.shape->onPaint = [](QPainter *, bool) {};
+    fixture.object.OnQPainterDraw(nullptr);
+    QCOMPARE(held.pixel(39, 19), qRgba(255, 0, 0, 255));
+    QCOMPARE(fixture.object.cacheImage, transparentPicture(40, 20));
+}
+
+void TestObjectPainting::aPictureOfTheSameSizeTakesTheMemoryOfTheOneBefore()
+{
+    Painting fixture({0, 0, 256, 256});
+    fixture.shape->onPaint = [](QPainter *painter, bool) { painter->fillRect(0, 0, 256, 256, Qt::red); };
+    fixture.object.OnQPainterDraw(nullptr);
+    const uchar *const pixels = fixture.object.cacheImage.constBits();
+    fixture.shape->onPaint = [](QPainter *, bool) {};
+    fixture.object.OnQPainterDraw(nullptr);
+    QCOMPARE(fixture.object.cacheImage.constBits(), pixels);
+    QCOMPARE(fixture.object.cacheImage, transparentPicture(256, 256));
 }
 
 void TestObjectPainting::theCorePaintsIntoThePicture()

@@ -88,6 +88,8 @@ private slots:
     void directionsDoNotMatter();
     void overlapsFollowTheFillRule();
     void whatLiesBesideTheWindowCounts();
+    void uprightEdgesAreCutAtTheWindow();
+    void edgesInTheLastPixelOfAWordReachIntoTheNext();
     void anyWindowTellsTheSame();
     void isTheAreaOfAnyOutline();
     void farOutlinesAreRefused();
@@ -145,6 +147,26 @@ void TestCoverage::whatLiesBesideTheWindowCounts()
     QCOMPARE(coverageOf(around, QRect(10, 10, 2, 2)), QVector<int>(4, 255));
     QCOMPARE(coverageOf(rectPath(-50, 0, 40, 5), QRect(0, 0, 2, 2)), QVector<int>(4, 0));
     QCOMPARE(coverageOf(rectPath(50, 0, 40, 5), QRect(0, 0, 2, 2)), QVector<int>(4, 0));
+}
+
+void TestCoverage::uprightEdgesAreCutAtTheWindow()
+{
+    // Three quarters of the first row and half of the second, from before the window to beyond it.
+    QCOMPARE(coverageOf(rectPath(-1.5, 0.25, 4, 1.25), QRect(0, 0, 2, 2)), QVector<int>({192, 192, 128, 128}));
+    QCOMPARE(coverageOf(rectPath(-1.5, 0, 2, 1), QRect(0, 0, 2, 1)), QVector<int>({128, 0}));
+    QCOMPARE(coverageOf(rectPath(0.5, 0, 1.5, 1), QRect(0, 0, 2, 1)), QVector<int>({128, 255}));
+    QCOMPARE(coverageOf(rectPath(0.5, 0, 9, 1), QRect(0, 0, 2, 1)), QVector<int>({128, 255}));
+    QCOMPARE(coverageOf(rectPath(2, 0, 9, 1), QRect(0, 0, 2, 1)), QVector<int>({0, 0}));
+}
+
+// Pixels are marked in words of 64.
+void TestCoverage::edgesInTheLastPixelOfAWordReachIntoTheNext()
+{
+    QVector<int> expected(130);
+    expected[63] = expected[127] = expected[128] = 128;
+    QPainterPath path = rectPath(63.5, 0, 0.5, 1);
+    path.addPath(rectPath(127.5, 0, 1, 1));
+    QCOMPARE(coverageOf(path, QRect(0, 0, 130, 1)), expected);
 }
 
 void TestCoverage::anyWindowTellsTheSame()

@@ -27,6 +27,19 @@ void Coverage::begin(const Band &band)
         m_written.resize(words);
 }
 
+// `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
+inline void Coverage::addCell(int row, int column, int height, int twiceInset)
+{
+    int *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
+    cell[0] += height * (2 * subpixels - twiceInset);
+    cell[1] += height * twiceInset;
+    const uint bit = uint(column) % wordBits;
+    quint64 *word = m_written.data() + size_t(row) * size_t(m_words) + uint(column) / wordBits;
+    word[0] |= quint64(3) << bit;
+    if (bit == wordBits - 1)
+        word[1] |= 1;
+}
+
 void Coverage::addLines(const FlatOutline &outline)
 {
     int begin = 0;
@@ -57,6 +70,10 @@ void Coverage::addLine(QPoint upper, QPoint lower, int direction)
     int y = qMax(upper.y(), 0);
     if (y >= end)
         return;
+    if (upper.x() == lower.x()) {
+        addUpright(upper.x(), y, end, direction);
+        return;
+    }
     const double slope = double(lower.x() - upper.x()) / (lower.y() - upper.y());
     const auto xAt = [&](int at) { return upper.x() + qRound((at - upper.y()) * slope); };
     int x = xAt(y);
@@ -67,6 +84,21 @@ void Coverage::addLine(QPoint upper, QPoint lower, int direction)
         addInRow(row, qMin(x, nextX), qMax(x, nextX), (nextY - y) * direction);
         y = nextY;
         x = nextX;
+    }
+}
+
+// What addLine() does where `x` is the same in all rows.
+void Coverage::addUpright(int x, int from, int to, int direction)
+{
+    if (x >= m_band.width * subpixels)
+        return;
+    const int column = qMax(x, 0) >> subpixelBits;
+    const int twiceInset = x > 0 ? 2 * (x - column * subpixels) : 0;
+    for (int y = from; y < to;) {
+        const int row = y >> subpixelBits;
+        const int nextY = qMin((row + 1) * subpixels, to);
+        addCell(row, column, (nextY - y) * direction, twiceInset);
+        y = nextY;
     }
 }
 
@@ -102,17 +134,6 @@ void Coverage::addInRow(int row, int left, int right, int height)
         at = next;
         ++column;
     }
-}
-
-// `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
-void Coverage::addCell(int row, int column, int height, int twiceInset)
-{
-    int *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
-    cell[0] += height * (2 * subpixels - twiceInset);
-    cell[1] += height * twiceInset;
-    quint64 *words = m_written.data() + size_t(row) * size_t(m_words);
-    words[column / wordBits] |= quint64(1) << (column % wordBits);
-    words[(column + 1) / wordBits] |= quint64(1) << ((column + 1) % wordBits);
 }
 
 } // namespace Svg

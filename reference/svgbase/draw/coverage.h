@@ -39,6 +39,7 @@ private:
     void addLines(const FlatOutline &outline);
     void addPolygon(const QPoint *begin, const QPoint *end);
     void addLine(QPoint upper, QPoint lower, int direction);
+    void addUpright(int x, int from, int to, int direction);
     void addInRow(int row, int left, int right, int height);
     void addCell(int row, int column, int height, int twiceInset);
     template<typename Sink> void sweepRow(int row, Qt::FillRule rule, const Sink &sink);

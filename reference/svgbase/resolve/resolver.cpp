@@ -20,6 +20,8 @@
 #include "style/cascade.h"
 #include "style/textproperties.h"
 
+#include <array>
+
 namespace Svg {
 
 namespace {
@@ -246,10 +248,11 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     return plainBrush(color);
 }
 
-// Most elements are painted as those before them; these share one brush.
-QBrush Resolver::plainBrush(const QColor &color) const
+// Most elements are painted as those before them, in this document or in others; these share one brush.
+QBrush Resolver::plainBrush(const QColor &color)
 {
-    QBrush &known = m_brushes[size_t(color.rgba()) % m_brushes.size()];
+    static thread_local std::array<QBrush, 61> brushes;
+    QBrush &known = brushes[size_t(color.rgba()) % brushes.size()];
     if (known.style() != Qt::SolidPattern || known.color() != color)
         known = QBrush(color);
     return known;
@@ -296,10 +299,13 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
         addOutline(geometry.path, *facts->style, false, dashScale(node, *facts->style, geometry.path), facts);
     if (!kept.facts || kept.facts->outlines.isEmpty() || facts->outlines.isEmpty())
         return;
-    // The same outline again takes no memory of its own.
-    const QPainterPath &known = kept.facts->outlines.constFirst().path;
-    if (facts->outlines.constFirst().path == known)
-        facts->outlines.first().path = known;
+    // The same outline, or pen, again takes no memory of its own.
+    const Outline &known = kept.facts->outlines.constFirst();
+    Outline &fresh = facts->outlines.first();
+    if (fresh.path == known.path)
+        fresh.path = known.path;
+    if (fresh.pen == known.pen)
+        fresh.pen = known.pen;
 }
 
 bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const

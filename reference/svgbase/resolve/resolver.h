@@ -8,8 +8,6 @@
 #include "tree/message.h"
 #include "tree/tree.h"
 
-#include <array>
-
 namespace Svg {
 
 /// Facts of the same element, earlier or at another place, and what of them holds as long as its style does.
@@ -62,7 +60,7 @@ private:
     void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
                     Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
-    QBrush plainBrush(const QColor &color) const;
+    static QBrush plainBrush(const QColor &color);
     void warn(const Node &node, const Problem &problem) const;
 
     const Tree &m_tree;
@@ -73,7 +71,6 @@ private:
     mutable GlyphOutlines m_glyphs;
     mutable std::unique_ptr<StyleCache> m_styles;
     mutable QHash<QString, std::shared_ptr<const ImageContent>> m_images;
-    mutable std::array<QBrush, 7> m_brushes;
 };
 
 } // namespace Svg
