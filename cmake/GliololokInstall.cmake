@@ -16,6 +16,9 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
 install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
 
 # The file finds its prefix from where it lies, so that an installation can be moved.
+if(GLIOLOLOK_REFERENCE_HOST)
+    set(GLIOLOLOK_PC_HOST_LIBRARIES "-lframework -lsvgbase")
+endif()
 file(RELATIVE_PATH GLIOLOLOK_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file("${CMAKE_CURRENT_SOURCE_DIR}/packaging/gliololok.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -103,6 +103,18 @@ step_example() {
     ! diff -rq "$pages" "$pages_with" >/dev/null || fail "the pages do not show the example"
 }
 
+# An application that brings its own host adds the repository to its build; the package then does not name our host.
+step_other_host() {
+    local directory="$work/other-host" output
+    rm -rf "$directory"
+    output=$(cmake -S "$source/tests/package/otherhost" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+        -DREPOSITORY="$source" 2>&1) || fail "it cannot be configured: $output"
+    ninja -C "$directory" -t query lib/gliololok.so.1.0.0 | grep -q otherhost_framework ||
+        fail "the library is not linked to that host"
+    ! grep -q -e -lframework -e -lsvgbase "$directory/gliololok/gliololok.pc" || fail "gliololok.pc names our host"
+    grep -q -e '-lframework -lsvgbase' "$build/gliololok.pc" || fail "our own gliololok.pc lacks our host"
+}
+
 # The installed board must find its libraries and its shapes without any help.
 step_board() {
     local output
