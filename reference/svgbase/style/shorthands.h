@@ -7,7 +7,7 @@
 namespace Svg {
 
 /// The shorthand of (nearly) every property.
-constexpr QLatin1String allProperties("all");
+inline const QLatin1String allProperties("all");
 
 /// A property that a shorthand stands for.
 struct Longhand
