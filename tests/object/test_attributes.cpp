@@ -51,6 +51,9 @@ private Q_SLOTS:
     void theHostIsToldTheRegionsItem();
     void theStyleSnapshotReachesTheHostToo();
     void aTakenAttributeOfAStreamThatEndedLeavesNothing();
+    void aTakenAttributeOfAStreamWithoutDeviceIsFine();
+    void theSmallestObjectHasARegion_data();
+    void theSmallestObjectHasARegion();
 };
 
 namespace {
@@ -419,6 +422,34 @@ void TestAttributes::aTakenAttributeOfAStreamThatEndedLeavesNothing()
     QVERIFY(fixture.object.SetAttribute(5004, in, false));
     QCOMPARE(buffer.data(), QByteArray("\1\2"));
     QCOMPARE(in.status(), QDataStream::ReadPastEnd);
+}
+
+void TestAttributes::aTakenAttributeOfAStreamWithoutDeviceIsFine()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.shape->onSetAttribute = [](int, QDataStream &, bool, bool) { return true; };
+    QDataStream in;
+    QVERIFY(fixture.object.SetAttribute(5004, in, false));
+}
+
+void TestAttributes::theSmallestObjectHasARegion_data()
+{
+    QTest::addColumn<QRectF>("rect");
+    QTest::newRow("flat") << QRectF(3, 4, 50, 0.5);
+    QTest::newRow("narrow") << QRectF(3, 4, 0.5, 50);
+    QTest::newRow("one by one") << QRectF(3, 4, 1, 1);
+}
+
+void TestAttributes::theSmallestObjectHasARegion()
+{
+    QFETCH(const QRectF, rect);
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.place(rect);
+    fixture.object.regenRegionShape(nullptr);
+    QVERIFY(fixture.object.regionPath);
+    QCOMPARE(*fixture.object.regionPath, pathOf(rect));
 }
 
 QTEST_MAIN(TestAttributes)

@@ -34,6 +34,8 @@ void TestRules::sizesAreRaised_data()
     QTest::newRow("large enough") << QSizeF(50, 60) << QSizeF(16, 16) << QSizeF(50, 60);
     QTest::newRow("exactly enough") << QSizeF(16, 17) << QSizeF(16, 17) << QSizeF(16, 17);
     QTest::newRow("too narrow") << QSizeF(15.9, 60) << QSizeF(16, 16) << QSizeF(16, 60);
+    QTest::newRow("each by its own minimum") << QSizeF(15, 5) << QSizeF(20, 10) << QSizeF(20, 10);
+    QTest::newRow("the other way round") << QSizeF(5, 15) << QSizeF(10, 20) << QSizeF(10, 20);
     QTest::newRow("too low") << QSizeF(50, 15.9) << QSizeF(16, 16) << QSizeF(50, 16);
     QTest::newRow("negative") << QSizeF(-50, -1) << QSizeF(16, 17) << QSizeF(16, 17);
     QTest::newRow("fractions do not count") << QSizeF(10, 100) << QSizeF(16.7, 16.2) << QSizeF(16, 100);
@@ -56,6 +58,8 @@ void TestRules::sizesAreBroughtToARatio_data()
     QTest::addColumn<QSizeF>("limited");
     QTest::newRow("too high") << QSizeF(300, 300) << QSizeF(200, 100) << QSizeF(300, 150);
     QTest::newRow("too wide") << QSizeF(300, 100) << QSizeF(200, 100) << QSizeF(200, 100);
+    // Wider than high, but not than 2 : 1.
+    QTest::newRow("lying, but too high") << QSizeF(150, 100) << QSizeF(200, 100) << QSizeF(150, 75);
     QTest::newRow("already there") << QSizeF(60, 30) << QSizeF(200, 100) << QSizeF(60, 30);
     QTest::newRow("never sized, higher") << QSizeF(50, 80) << QSizeF(-1, -1) << QSizeF(80, 80);
     QTest::newRow("never sized, wider") << QSizeF(80, 50) << QSizeF(-1, -1) << QSizeF(80, 80);
@@ -85,6 +89,8 @@ void TestRules::aRatioWithoutResultLeavesTheSize_data()
     QTest::newRow("no numbers") << QSizeF(nan, nan);
     QTest::newRow("endless") << QSizeF(inf, inf);
     QTest::newRow("overflowing") << QSizeF(1e-300, 1e300);
+    QTest::newRow("an endless width") << QSizeF(-1, 0);
+    QTest::newRow("an endless height") << QSizeF(0, 1);
 }
 
 void TestRules::aRatioWithoutResultLeavesTheSize()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void onlyTheSelectedStateCounts();
     void aPressOutsideTheObjectDoesNotDrag();
     void aPressOnAShapeWithoutDocumentDoesNotDrag();
+    void aPressOnAShapeWithoutObjectDoesNotDrag();
     void everyPressClearsFinished();
     void aMissForgetsAnEarlierDrag();
     void aPressThatIsNotLookedAtKeepsAnEarlierDrag();
@@ -311,6 +312,15 @@ void TestControlPoints::aPressOnAShapeWithoutDocumentDoesNotDrag()
     fixture.place({0, 0, 100, 50});
     QVERIFY(!press(*fixture.shape, {14, 24}));
     QVERIFY(!fixture.shape->updateFinished);
+}
+
+void TestControlPoints::aPressOnAShapeWithoutObjectDoesNotDrag()
+{
+    TestShape shape(nullptr, twoPointTemplate());
+    shape.loadSVG(false);
+    shape.setSelected(true);
+    QVERIFY(!support::press(shape, {14, 24}));
+    QVERIFY(!shape.activeControlPoint);
 }
 
 void TestControlPoints::everyPressClearsFinished()

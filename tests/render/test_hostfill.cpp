@@ -22,10 +22,13 @@ private Q_SLOTS:
     void theFillCoversTheClientRectangle();
     void noBrushFillsNothing();
     void aBrushFillsAlsoWhenTheFillIsDisabled();
+    void anObjectWithoutFillPropertyIsFilledByItsBrush();
+    void overlappingItemsAreFilledToo();
 
     void aBrushThatDependsOnTheRectangleIsMadeAnew();
     void otherBrushesAreNotMadeAnew();
     void aPictureIsStretchedOverWholePixels();
+    void aPictureFarFromTheOriginIsStretchedToo();
     void aDisabledPictureIsNotDrawn();
     void aMissingPictureFallsBackOnTheBrush();
     void aPictureOfAnotherFillTypeIsNotDrawn();
@@ -223,6 +226,34 @@ void TestHostFill::aBrushFillsAlsoWhenTheFillIsDisabled()
     QCOMPARE(canvas.at(5, 5), red);
 }
 
+void TestHostFill::anObjectWithoutFillPropertyIsFilledByItsBrush()
+{
+    Filled fixture;
+    CPageBgProp *const prop = fixture.object.fillProp;
+    fixture.object.fillProp = nullptr;
+    Canvas canvas;
+    fixture.object.OnQPainterDraw(&canvas.painter);
+    fixture.object.fillProp = prop;
+    QCOMPARE(canvas.at(5, 5), red);
+}
+
+void TestHostFill::overlappingItemsAreFilledToo()
+{
+    // Two squares that share the middle: the outline winds, so the middle belongs to it.
+    Filled fixture;
+    QPainterPath outline;
+    outline.setFillRule(Qt::WindingFill);
+    outline.addRect(1, 1, 6, 6);
+    outline.addRect(4, 4, 6, 6);
+    *fixture.shape->outlineRegion = outline;
+    Canvas canvas;
+    fixture.object.OnQPainterDraw(&canvas.painter);
+    QCOMPARE(canvas.at(2, 2), red);
+    QCOMPARE(canvas.at(5, 5), red);
+    QCOMPARE(canvas.at(9, 9), red);
+    QCOMPARE(canvas.at(9, 2), nothing);
+}
+
 void TestHostFill::aBrushThatDependsOnTheRectangleIsMadeAnew()
 {
     Filled fixture;
@@ -265,6 +296,24 @@ void TestHostFill::aPictureIsStretchedOverWholePixels()
     for (int y = 0; y < 12; ++y) {
         for (int x = 0; x < 12; ++x) {
             const bool inside = x < 11 && y >= 1 && y < 10;
+            QCOMPARE(canvas.at(x, y), inside ? blue : nothing);
+        }
+    }
+}
+
+void TestHostFill::aPictureFarFromTheOriginIsStretchedToo()
+{
+    Filled fixture;
+    fixture.object.fillProp->setFillEnable(true);
+    fixture.object.fillProp->setFillType(CPageBgProp::PictureFill);
+    fixture.object.fillProp->setPixmap(fixture.picture(Qt::blue));
+    // left 4, top 2, right 8.7 → 9, bottom 10.1 → 10
+    fixture.object.place({4.2, 1.7, 4.5, 8.4});
+    Canvas canvas;
+    fixture.object.OnQPainterDraw(&canvas.painter);
+    for (int y = 0; y < 12; ++y) {
+        for (int x = 0; x < 12; ++x) {
+            const bool inside = x >= 4 && x < 9 && y >= 2 && y < 10;
             QCOMPARE(canvas.at(x, y), inside ? blue : nothing);
         }
     }

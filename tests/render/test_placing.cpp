@@ -34,6 +34,8 @@ private Q_SLOTS:
     void whenNothingMovesFinishedStays();
     void theOffsetIsFromThePlaceBefore();
     void aPlaceThatIsNoneMovesNothing();
+    void anEndlessCoordinateMovesNothing();
+    void theToleranceItselfIsAMove();
     void withoutObjectNothingIsRecorded();
 
     void aSizeKeepsTheCentre();
@@ -209,6 +211,26 @@ void TestPlacing::aPlaceThatIsNoneMovesNothing()
     QVERIFY(!fixture.place({nan, nan}));
     QCOMPARE(exact(fixture.shape->pointRect(1)), exact(QRectF(10, 20, 8, 8)));
     QCOMPARE(recording::count("updateSVG"), 0);
+}
+
+void TestPlacing::anEndlessCoordinateMovesNothing()
+{
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    Loaded fixture;
+    fixture.place({inf, 33});
+    QCOMPARE(exact(fixture.shape->pointRect(1)), exact(QRectF(10, 33, 8, 8)));
+    QCOMPARE(recording::lastArguments("updateSVG").value(1), QVariant(QPointF(0, 13)));
+    fixture.place({44, -inf});
+    QCOMPARE(exact(fixture.shape->pointRect(1)), exact(QRectF(44, 33, 8, 8)));
+    QCOMPARE(recording::lastArguments("updateSVG").value(1), QVariant(QPointF(34, 0)));
+}
+
+void TestPlacing::theToleranceItselfIsAMove()
+{
+    Loaded fixture;
+    fixture.place({0, 0});
+    fixture.place({1e-7, 1e-7});
+    QCOMPARE(exact(fixture.shape->pointRect(1)), exact(QRectF(1e-7, 1e-7, 8, 8)));
 }
 
 void TestPlacing::withoutObjectNothingIsRecorded()

@@ -119,6 +119,7 @@ void TestRules::hiddenAndImpossibleNodesAreNotHit()
                                    "x='10' y='20' width='nan' height='2'", "x='10' y='20' width='4' height='nan'"})
         QVERIFY(!isControlPointHit(*documentWith(attributes)->namedNode("r"), {12, 21}));
     QVERIFY(!isControlPointHit(*documentWith(place)->namedNode("r"), {notANumber, 21}));
+    QVERIFY(!isControlPointHit(*documentWith(place)->namedNode("r"), {12, notANumber}));
 }
 
 void TestRules::picturesHaveWholePixels_data()
@@ -128,6 +129,10 @@ void TestRules::picturesHaveWholePixels_data()
     QTest::newRow("fractions") << QSizeF(40.9, 20.2) << QSize(40, 20);
     QTest::newRow("whole") << QSizeF(7, 5) << QSize(7, 5);
     QTest::newRow("one pixel") << QSizeF(1, 1.99) << QSize(1, 1);
+    QTest::newRow("a line") << QSizeF(20, 1) << QSize(20, 1);
+    // Its width squared would be too many pixels.
+    QTest::newRow("a long line") << QSizeF(20000, 2) << QSize(20000, 2);
+    QTest::newRow("a high line") << QSizeF(2, 20000) << QSize(2, 20000);
 }
 
 void TestRules::picturesHaveWholePixels()

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void anotherThreadCopiesThePicture();
     void thePictureIsStretchedIntoTheClientRectangle();
     void anotherThreadCallsNeitherHostNorCore();
+    void theWholeOfALyingPictureIsCopied();
+    void theWholeOfAStandingPictureIsCopied();
     void beforeTheFirstRenderingNothingIsCopied();
     void aCopyWaitsForTheRendering();
     void aCopyLetsTheLockGo();
@@ -171,6 +173,28 @@ void TestThreads::anotherThreadCallsNeitherHostNorCore()
     recording::clear();
     copyInAnotherThread(object, {40, 20});
     QCOMPARE(recording::names(), QStringList());
+}
+
+void TestThreads::theWholeOfALyingPictureIsCopied()
+{
+    PlainObject object;
+    object.place({1, 1, 4, 2});
+    object.cacheImage = QImage(4, 2, QImage::Format_ARGB32);
+    object.cacheImage.fill(Qt::red);
+    object.cacheImage.setPixelColor(3, 1, Qt::blue);
+    const QImage copy = copyInAnotherThread(object, {6, 4});
+    QCOMPARE(copy.copy(1, 1, 4, 2), object.cacheImage);
+}
+
+void TestThreads::theWholeOfAStandingPictureIsCopied()
+{
+    PlainObject object;
+    object.place({1, 1, 2, 4});
+    object.cacheImage = QImage(2, 4, QImage::Format_ARGB32);
+    object.cacheImage.fill(Qt::red);
+    object.cacheImage.setPixelColor(1, 3, Qt::blue);
+    const QImage copy = copyInAnotherThread(object, {4, 6});
+    QCOMPARE(copy.copy(1, 1, 2, 4), object.cacheImage);
 }
 
 void TestThreads::beforeTheFirstRenderingNothingIsCopied()
