@@ -6,6 +6,7 @@
 
 using support::ShapeFixture;
 using support::svgText;
+using support::TestShape;
 using support::twoPointTemplate;
 
 /// The outline that a shape keeps, and the region that it gives its page object.
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void aHoleInTheRegionGetsItsBorder();
     void withoutOutlineTheRegionIsRefused();
     void anEmptyObjectsRegionIsRefused();
+    void withoutObjectTheRegionIsRefused();
     void controlPointsAreNotAddedToTheRegion();
     void anyPenWidthGivesARegion_data();
     void anyPenWidthGivesARegion();
@@ -192,6 +194,18 @@ void TestOutline::anEmptyObjectsRegionIsRefused()
     fixture.object.place({0, 0, 0, 50});
     QPainterPath path = pathOf({1, 2, 3, 4});
     QVERIFY(!fixture.shape->getOutlinePath(&path));
+    QCOMPARE(path, pathOf({1, 2, 3, 4}));
+}
+
+void TestOutline::withoutObjectTheRegionIsRefused()
+{
+    TestShape shape(nullptr, twoPointTemplate());
+    shape.keepOutlineRegion = true;
+    QVERIFY(shape.loadSVG(false));
+    shape.updateOutlineRegion();
+    QVERIFY(shape.outlineRegion && !shape.outlineRegion->isEmpty());
+    QPainterPath path = pathOf({1, 2, 3, 4});
+    QVERIFY(!shape.getOutlinePath(&path));
     QCOMPARE(path, pathOf({1, 2, 3, 4}));
 }
 

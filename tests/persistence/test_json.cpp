@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aDefaultShapeSavesThePointsAndItsPenColour();
     void everyEnabledPenValueIsSaved();
     void aMissingPointIsNotSaved();
+    void pointsAreCountedFromOne();
     void aHalfTransparentPenComesBack();
     void anInvalidPenSavesAsOpaqueBlack();
     void aRawShapeSavesAndRestoresItsViewBox();
@@ -376,6 +377,20 @@ void TestJson::aMissingPointIsNotSaved()
     QVERIFY(!object.contains("SVG_PosX_2"));
     QVERIFY(!object.contains("SVG_PosY_2"));
     QCOMPARE(object.value("SVG_PosX_3").toDouble(), 30.0);
+}
+
+void TestJson::pointsAreCountedFromOne()
+{
+    ShapeFixture fixture(
+        svgText(QStringLiteral("0 0 100 50"),
+                QStringLiteral("<rect id='control_0' x='1' y='2' width='8' height='8'/>") + controlPointsText(1)));
+    fixture.load();
+    QJsonObject object;
+    fixture.shape->saveJson(object);
+    QCOMPARE(object.value("SVG_ControlCount").toInt(), 1);
+    QVERIFY(!object.contains("SVG_PosX_0"));
+    QVERIFY(!object.contains("SVG_PosY_0"));
+    QCOMPARE(object.value("SVG_PosX_1").toDouble(), 10.0);
 }
 
 void TestJson::aMissingPenStyleIsNoLine()

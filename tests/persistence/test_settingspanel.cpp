@@ -31,6 +31,8 @@ private Q_SLOTS:
     void aStyleThatIsNotOfferedIsNotChanged();
     void aFillAnswerKeepsTheBrushStyle();
     void anAnswerThatIsNoneChangesNothing();
+    void anAnswerChangesOnlyWhatItNames();
+    void withoutObjectAnAnswerChangesNothing();
     void theShapesOwnAnswersComeLast();
     void unknownAnswersCountForTheGroup();
     void withoutDocumentNothingIsSet();
@@ -205,6 +207,29 @@ void TestSettingsPanel::anAnswerThatIsNoneChangesNothing()
     QVERIFY(fixture->shape->SetSettingJson(QString(), true, true));
     QCOMPARE(recording::count("document", "setAllStrokeColor"), 0);
     QCOMPARE(recording::count("SetSettingArray"), 0);
+}
+
+void TestSettingsPanel::anAnswerChangesOnlyWhatItNames()
+{
+    fixture->shape->propPenStyleEnabled = true;
+    fixture->shape->propFillEnabled = true;
+    fixture->load();
+    recording::framework().settings = {{"own", "1"}};
+    QVERIFY(fixture->shape->SetSettingJson(QString(), true, true));
+    QCOMPARE(recording::count("shape", "SetAttribute"), 0);
+    QCOMPARE(recording::count("RecordAction"), 0);
+    QCOMPARE(recording::count("SetSettingArray"), 1);
+}
+
+void TestSettingsPanel::withoutObjectAnAnswerChangesNothing()
+{
+    TestShape shape(nullptr, twoPointTemplate());
+    QVERIFY(shape.loadSVG(false));
+    recording::framework().settings = {{"idOutlineColor", "#ff00ff00"}};
+    recording::clear();
+    QVERIFY(shape.SetSettingJson(QString(), true, true));
+    QCOMPARE(recording::count("SetSettingArray"), 0);
+    QCOMPARE(recording::count("document", "setAllStrokeColor"), 0);
 }
 
 void TestSettingsPanel::theShapesOwnAnswersComeLast()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void aHostileBrushIsReplayedAsNoBrush();
     void aGradientHasRoomForItsStops();
     void limitsAreInclusive();
+    void eachColourTypeHasItsChannels_data();
+    void eachColourTypeHasItsChannels();
     void aTextureWithoutPictureIsRead();
     void streamsOfOldVersionsHaveNoGradients();
     void everyTruncationOfABrushIsRead_data();
@@ -84,14 +86,13 @@ QByteArray gradientOfStops(quint32 count)
     return bytes + bytesOf(QPointF(), QPointF(1, 1), QTransform());
 }
 
-/// A texture that claims its size and depth (bits a pixel), with so many bytes of data.
-QByteArray textureOfSize(quint32 width, quint32 height, int dataBytes, quint8 depth = 1)
+/// A texture that claims its size, depth (bits a channel) and colour type (PNG 11.2.2), with so many bytes of data.
+QByteArray textureOfSize(quint32 width, quint32 height, int dataBytes, quint8 depth = 1, quint8 colorType = 0)
 {
-    const quint8 grey = 0;
     const quint32 checksum = 0;
     const quint8 none = 0;
     QByteArray bytes = bytesOf(quint8(Qt::TexturePattern), QColor(Qt::black), qint32(1)) + "\x89PNG\r\n\x1a\n";
-    bytes += bytesOf(quint32(13)) + "IHDR" + bytesOf(width, height, depth, grey, none, none, none, checksum);
+    bytes += bytesOf(quint32(13)) + "IHDR" + bytesOf(width, height, depth, colorType, none, none, none, checksum);
     bytes += bytesOf(quint32(dataBytes)) + "IDAT" + QByteArray(dataBytes, '\0') + bytesOf(checksum);
     return bytes + bytesOf(quint32(0)) + "IEND" + bytesOf(checksum);
 }
@@ -351,6 +352,29 @@ void TestHostile::limitsAreInclusive()
     // Rows of 1 + 3 bytes: data of one byte can become 1032 and 1024 for what surrounds them, 514 rows.
     QVERIFY(isReadable(textureOfSize(24, 514, 1)));
     QVERIFY(!isReadable(textureOfSize(24, 515, 1)));
+    // Rows of 1 + 16 bytes: 120 of them are 2040 bytes, 121 are 2057, one too many.
+    QVERIFY(isReadable(textureOfSize(16, 120, 1, 8)));
+    QVERIFY(!isReadable(textureOfSize(16, 121, 1, 8)));
+}
+
+void TestHostile::eachColourTypeHasItsChannels_data()
+{
+    QTest::addColumn<quint8>("colorType");
+    QTest::addColumn<quint32>("rows");
+    // One byte of data fills 2056 bytes: so many rows of a filter byte and a byte for each channel.
+    QTest::newRow("grey") << quint8(0) << 1028u;
+    QTest::newRow("red, green and blue") << quint8(2) << 514u;
+    QTest::newRow("palette") << quint8(3) << 1028u;
+    QTest::newRow("grey with alpha") << quint8(4) << 685u;
+    QTest::newRow("colours with alpha") << quint8(6) << 411u;
+}
+
+void TestHostile::eachColourTypeHasItsChannels()
+{
+    QFETCH(const quint8, colorType);
+    QFETCH(const quint32, rows);
+    QVERIFY(isReadable(textureOfSize(1, rows, 1, 8, colorType)));
+    QVERIFY(!isReadable(textureOfSize(1, rows + 1, 1, 8, colorType)));
 }
 
 void TestHostile::aTextureWithoutPictureIsRead()
