@@ -38,7 +38,13 @@ private slots:
     void complainsAboutWrongArguments_data();
     void complainsAboutWrongArguments();
     void complainsAboutAFileThatIsNotThere();
+    void saysWhyAPictureCannotBeWritten_data();
+    void saysWhyAPictureCannotBeWritten();
+    void pictureThatDoesNotFitOnTheDiskIsToldOf();
+    void readsNoFurtherThanTheLibraryTakes();
+    void takesATimeBeforeTheStart();
     void helpTellsTheExitCodes();
+    void versionIsPrinted();
 
 private:
     QString written(const QByteArray &text) const;
@@ -109,6 +115,7 @@ void TestSvgdraw::complainsAboutWrongArguments_data()
     QTest::newRow("zero") << QStringList{QStringLiteral("10"), QStringLiteral("0")};
     QTest::newRow("no number") << QStringList{QStringLiteral("ten"), QStringLiteral("10")};
     QTest::newRow("no time") << QStringList{QStringLiteral("10"), QStringLiteral("10"), QStringLiteral("soon")};
+    QTest::newRow("less than nothing") << QStringList{QStringLiteral("-10"), QStringLiteral("10")};
     QTest::newRow("too large") << QStringList{QStringLiteral("10"), QStringLiteral("32768")};
 }
 
@@ -128,6 +135,59 @@ void TestSvgdraw::complainsAboutAFileThatIsNotThere()
         svgdraw({path("absent.svg"), path("out.png"), QStringLiteral("10"), QStringLiteral("10")});
     QCOMPARE(outcome.code, 1);
     QVERIFY2(outcome.errors.contains(QStringLiteral("absent.svg")), qPrintable(outcome.errors));
+}
+
+void TestSvgdraw::saysWhyAPictureCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("folder that is not there") << path("nowhere/out.png") << "No such file or directory";
+    QTest::newRow("folder") << m_folder.path() << "directory";
+}
+
+void TestSvgdraw::saysWhyAPictureCannotBeWritten()
+{
+    QFETCH(QString, out);
+    QFETCH(QString, reason);
+    const Outcome outcome = svgdraw({written("<svg/>"), out, QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.errors.startsWith(QStringLiteral("svgdraw: %1 can't be written: ").arg(out)),
+             qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(reason), qPrintable(outcome.errors));
+}
+
+/// A device that is always full takes the disk's place, and stays a device.
+void TestSvgdraw::pictureThatDoesNotFitOnTheDiskIsToldOf()
+{
+    const QString full = QStringLiteral("/dev/full");
+    const Outcome outcome = svgdraw({written("<svg/>"), full, QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 1);
+    QCOMPARE(outcome.errors, QStringLiteral("svgdraw: /dev/full can't be written: not all of it was taken; is the "
+                                            "disk full?\n"));
+    QVERIFY(QFileInfo(full).exists() && !QFileInfo(full).isFile());
+}
+
+void TestSvgdraw::readsNoFurtherThanTheLibraryTakes()
+{
+    const Outcome outcome =
+        svgdraw({QStringLiteral("/dev/zero"), path("zero.png"), QStringLiteral("10"), QStringLiteral("10")});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.errors.contains(QStringLiteral("longer than 16777216 bytes")), qPrintable(outcome.errors));
+}
+
+void TestSvgdraw::takesATimeBeforeTheStart()
+{
+    const QString in = written("<svg viewBox='0 0 10 10'><rect width='10' height='10' fill='#0f0'/></svg>");
+    const QStringList size{QStringLiteral("10"), QStringLiteral("10")};
+    QCOMPARE(svgdraw(QStringList{in, path("early.png")} + size + QStringList{QStringLiteral("-50")}).code, 0);
+    QCOMPARE(QImage(path("early.png")).pixelColor(5, 5), QColor(0, 255, 0));
+}
+
+void TestSvgdraw::versionIsPrinted()
+{
+    const Outcome outcome = svgdraw({QStringLiteral("--version")});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY(QRegularExpression(QStringLiteral("^svgdraw \\d+\\.\\d+\\.\\d+\n$")).match(outcome.output).hasMatch());
 }
 
 void TestSvgdraw::helpTellsTheExitCodes()

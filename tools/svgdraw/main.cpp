@@ -2,8 +2,11 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -22,6 +25,9 @@ enum ExitCode {
 };
 
 constexpr int longestSide = 32767;
+/// Bytes of a file. The library takes no longer text; what never ends must not fill the memory before it can say
+/// so.
+constexpr int mostBytes = 16 * 1024 * 1024;
 constexpr double millisecondsPerSecond = 1000;
 
 using Messages = QVector<QZeSvgTinyDocument::Message>;
@@ -57,22 +63,67 @@ void print(const QString &file, const Messages &messages)
     }
 }
 
+/// Null when there is not enough memory.
 QImage picture(QZeSvgTinyDocument &document, const QSize &size)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return image;
     image.fill(Qt::transparent);
     QPainter painter(&image);
     document.drawFitted(&painter, image.rect());
     return image;
 }
 
+/// At most one byte more than the library takes. A pipe gives what it has piece by piece.
+QByteArray contents(QFile &file)
+{
+    QByteArray bytes;
+    while (bytes.size() <= mostBytes) {
+        const QByteArray piece = file.read(mostBytes + 1 - bytes.size());
+        if (piece.isEmpty())
+            break;
+        bytes += piece;
+    }
+    return bytes;
+}
+
+/// Empty when all of it was taken.
+QString problemOfWriting(QFileDevice &file, const QByteArray &bytes)
+{
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString();
+    const bool taken = file.write(bytes) == bytes.size() && file.flush();
+    return taken ? QString() : QStringLiteral("not all of it was taken; is the disk full?");
+}
+
+/// The whole picture, else a message and what was there before. Devices and pipes can only be written as they are.
+int write(const QImage &picture, const QString &path)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    const QFileInfo present(path);
+    QString problem;
+    if (present.exists() && !present.isFile() && !present.isDir()) {
+        QFile file(path);
+        problem = problemOfWriting(file, bytes);
+    } else {
+        QSaveFile file(path);
+        problem = problemOfWriting(file, bytes);
+        if (problem.isEmpty() && !file.commit())
+            problem = file.errorString();
+    }
+    return problem.isEmpty() ? int(Drawn) : complain(QStringLiteral("%1 can't be written: %2").arg(path, problem));
+}
+
 int drawFile(const Request &request)
 {
     QFile file(request.input);
     if (!file.open(QIODevice::ReadOnly))
-        return complain(QStringLiteral("%1: %2").arg(request.input, file.errorString()));
+        return complain(QStringLiteral("%1 can't be read: %2").arg(request.input, file.errorString()));
     Messages messages;
-    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(file.readAll(), &messages));
+    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(contents(file), &messages));
     if (!document) {
         print(request.input, messages);
         return Refused;
@@ -81,9 +132,11 @@ int drawFile(const Request &request)
         document->setAnimationTime(*request.time);
     const QImage drawing = picture(*document, request.size);
     print(request.input, document->messages());
-    if (!drawing.save(request.output, "PNG"))
-        return complain(QStringLiteral("%1 can't be written.").arg(request.output));
-    return Drawn;
+    if (drawing.isNull())
+        return complain(QStringLiteral("There is not enough memory for a picture of %1 by %2 pixels.")
+                            .arg(request.size.width())
+                            .arg(request.size.height()));
+    return write(drawing, request.output);
 }
 
 int side(const QString &text)
@@ -100,7 +153,10 @@ void describe(QCommandLineParser *parser)
         "PNG of the given size.\n\nMessages go to the standard error output, one per line, as "
         "file:line:column: severity: text.\n\nExit code: 0 drawn, 2 the file was refused, 1 wrong "
         "arguments or a file that can't be read or written."));
+    // What follows the file may begin with a minus: a time does.
+    parser->setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     parser->addHelpOption();
+    parser->addVersionOption();
     parser->addPositionalArgument(QStringLiteral("in.svg"), QStringLiteral("The file to draw."));
     parser->addPositionalArgument(QStringLiteral("out.png"), QStringLiteral("The picture to write."));
     parser->addPositionalArgument(QStringLiteral("WIDTH"), QStringLiteral("Width of the picture, pixels."));
@@ -121,12 +177,15 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(keepQuiet);
     const QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral(SVGDRAW_VERSION));
     QCommandLineParser parser;
     describe(&parser);
     if (!parser.parse(application.arguments()))
         return complain(parser.errorText());
     if (parser.isSet(QStringLiteral("help")))
         parser.showHelp(Drawn);
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
     const QStringList arguments = parser.positionalArguments();
     if (arguments.size() != 4 && arguments.size() != 5)
         return complain(QStringLiteral("Four or five arguments are needed; --help tells which."));
