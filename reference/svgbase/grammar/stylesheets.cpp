@@ -86,6 +86,7 @@ private:
     void parseRule(const Block &block);
     void parseDeclarationOrRule(const Block &block, QVector<SheetDeclaration> *declarations);
     void parseAtRule(const Block &block);
+    void parseFontFace(const Block &block);
     void nameLayers(const Block &block, QStringView names);
     int layerOf(const Block &block, QStringView name);
     bool isSupported(QStringView condition) const;
@@ -259,6 +260,9 @@ void SheetParser::parseAtRule(const Block &block)
         holds = includesScreens(prelude);
     } else if (isName(name, "supports")) {
         holds = isSupported(prelude);
+    } else if (isName(name, "font-face")) {
+        parseFontFace(block);
+        return;
     } else {
         report(begin, QStringLiteral("\"@%1\" has no effect.").arg(name));
     }
@@ -266,6 +270,21 @@ void SheetParser::parseAtRule(const Block &block)
         enter(inner);
     else
         skipBlock();
+}
+
+// Its descriptors are written like declarations.
+void SheetParser::parseFontFace(const Block &block)
+{
+    static const QVector<Selector> none;
+    QVector<SheetDeclaration> descriptors;
+    for (;;) {
+        m_cursor.skipSpace();
+        if (m_cursor.take('}') || m_cursor.atEnd())
+            break;
+        parseDeclarationOrRule({block.layer, block.depth + 1, &none}, &descriptors);
+    }
+    if (m_sheet->fontFaces.size() < Limits::fonts)
+        m_sheet->fontFaces.append(descriptors);
 }
 
 void SheetParser::parseBlock(const Block &block)

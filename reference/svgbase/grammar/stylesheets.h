@@ -39,6 +39,8 @@ struct StyleSheet
 {
     /// In the order of the text; rules inside of rules stand for themselves.
     QVector<StyleRule> rules;
+    /// What each "@font-face" describes.
+    QVector<QVector<SheetDeclaration>> fontFaces;
     QVector<StyleProblem> problems;
 
     /// Notes a problem, unless there are many.

@@ -21,7 +21,7 @@ TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &s
     breakLines(&content, services);
     TextOutlines outlines = paintedText(content, placeText(tree, content, viewport, services));
     outlines.problem = problem;
-    outlines.hasReferences = content.hasReferences || tree.hasFonts();
+    outlines.hasReferences = content.hasReferences || DocumentFonts::areIn(tree);
     return outlines;
 }
 

@@ -110,13 +110,32 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
         StyleSheet sheet = parseStyleSheet(node.text, {isSupported, &layers});
         for (const StyleRule &rule : qAsConst(sheet.rules))
             rules->add(rule, &sheet);
+        for (const QVector<SheetDeclaration> &descriptors : qAsConst(sheet.fontFaces))
+            rules->addFontFace(descriptors);
         for (const StyleProblem &problem : qAsConst(sheet.problems)) {
             if (messages)
                 report(node, problem, messages);
         }
     }
     rules->index(layers.ranks());
-    return rules->m_entries.isEmpty() ? nullptr : rules;
+    return rules->m_entries.isEmpty() && rules->m_fontFaces.isEmpty() ? nullptr : rules;
+}
+
+void StyleRules::addFontFace(const QVector<SheetDeclaration> &descriptors)
+{
+    FontFaceRule face;
+    for (const SheetDeclaration &descriptor : descriptors) {
+        if (descriptor.name == QLatin1String("font-family"))
+            face.family = descriptor.value;
+        else if (descriptor.name == QLatin1String("font-weight"))
+            face.weight = descriptor.value;
+        else if (descriptor.name == QLatin1String("font-style"))
+            face.style = descriptor.value;
+        else if (descriptor.name == QLatin1String("src"))
+            face.source = descriptor.value;
+    }
+    if (!face.family.isEmpty() && !face.source.isEmpty() && m_fontFaces.size() < Limits::fonts)
+        m_fontFaces.append(face);
 }
 
 void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)

@@ -24,6 +24,16 @@ struct RuleBlock
     int layer = 0;
 };
 
+/// A font that a style sheet describes (CSS Fonts 3 §4), as far as it is read.
+struct FontFaceRule
+{
+    QString family;
+    QString weight;
+    QString style;
+    /// A list of where it may be found.
+    QString source;
+};
+
 /// The rules of all style sheets of a document, indexed so that an element meets only rules that may concern it.
 class StyleRules
 {
@@ -35,6 +45,8 @@ public:
     /// What the rules give an element, in falling order of layers and specificity; false when not all of it was
     /// looked at, since that would have taken too long.
     bool match(const Tree &tree, NodeIndex element, QVector<const RuleBlock *> *matches) const;
+    /// In the order of the style sheets.
+    const QVector<FontFaceRule> &fontFaces() const { return m_fontFaces; }
     /// Whether the value of an attribute may decide which rules match.
     bool dependsOn(const QString &attribute) const;
 
@@ -48,6 +60,7 @@ private:
     };
 
     void add(const StyleRule &rule, StyleSheet *sheet);
+    void addFontFace(const QVector<SheetDeclaration> &descriptors);
     void addEntry(const Selector &selector);
     void index(const QVector<int> &layerRanks);
     void noteAttributes(const Selector &selector);
@@ -61,6 +74,7 @@ private:
     QHash<QString, QVector<int>> m_byTag;
     QVector<int> m_universal;
     QSet<QString> m_attributes;
+    QVector<FontFaceRule> m_fontFaces;
     /// Whether a rule asks for an attribute of any namespace.
     bool m_anyNamespace = false;
     bool m_full = false;

@@ -3,6 +3,7 @@
 #include "grammar/numbers.h"
 #include "grammar/pathdata.h"
 #include "inputlimits.h"
+#include "resolve/fonts.h"
 #include "text/glyphshapes.h"
 
 namespace Svg {
@@ -157,6 +158,13 @@ DocumentFont::DocumentFont(const Tree &tree, NodeIndex index)
     }
 }
 
+DocumentFont::DocumentFont(const std::shared_ptr<FileFont> &file)
+    : m_unitsPerEm(outlineFontSize)
+    , m_measures(file->measures())
+    , m_file(file)
+{
+}
+
 void DocumentFont::readFace(const Node &face)
 {
     const double units = numberOf(face, "units-per-em", m_unitsPerEm);
@@ -232,10 +240,33 @@ bool DocumentFont::isAllowed(const FontGlyph &glyph, const GlyphPlace &place)
     return isForLanguage(glyph.languages, place.language);
 }
 
+// Nodes are no names for the glyphs of files; negative numbers are.
+const FontGlyph *DocumentFont::findInFile(QStringView text) const
+{
+    const bool pair = text.size() > 1 && text.front().isHighSurrogate();
+    const uint character = pair ? QChar::surrogateToUcs4(text.front(), text[1]) : text.front().unicode();
+    const quint32 index = m_file->glyph(character);
+    if (index == 0)
+        return nullptr;
+    std::shared_ptr<FontGlyph> &glyph = m_fileGlyphs[character];
+    if (!glyph) {
+        glyph = std::make_shared<FontGlyph>();
+        glyph->node = noNode - 1 - NodeIndex(index);
+        glyph->characters = text.left(pair ? 2 : 1).toString();
+        glyph->kerningKeys.append(int(index));
+        glyph->advance = m_file->advance(index);
+        glyph->verticalAdvance = m_unitsPerEm;
+        glyph->verticalOrigin = {glyph->advance / 2, m_measures.ascent};
+    }
+    return glyph.get();
+}
+
 const FontGlyph *DocumentFont::find(const GlyphPlace &place) const
 {
     if (place.text.isEmpty())
         return nullptr;
+    if (m_file)
+        return findInFile(place.text);
     const QVector<int> known = m_byCharacter.value(place.text.front());
     for (const int i : known) {
         if (isAllowed(m_glyphs.at(i), place))
@@ -294,6 +325,9 @@ QVector<int> DocumentFont::knownKeys(const FontGlyph &glyph, const QString &name
 
 double DocumentFont::kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const
 {
+    if (m_file)
+        return vertical ? 0
+                        : m_file->kerning(quint32(first.kerningKeys.first()), quint32(second.kerningKeys.first()));
     const KerningTable &table = vertical ? m_verticalKerning : m_horizontalKerning;
     if (table.isEmpty())
         return 0;
@@ -311,6 +345,8 @@ double DocumentFont::kerning(const FontGlyph &first, const FontGlyph &second, bo
 const QPainterPath &DocumentFont::outline(const FontGlyph &glyph) const
 {
     auto known = m_outlines.find(glyph.node);
+    if (known == m_outlines.end() && m_file)
+        known = m_outlines.insert(glyph.node, m_file->outline(quint32(glyph.kerningKeys.first())));
     if (known == m_outlines.end()) {
         const QPainterPath path = glyph.data.isEmpty() ? glyph.shapes : parsePathData(glyph.data).path;
         const QTransform upright = QTransform::fromScale(1, -1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/filefont.h"
 #include "text/fontmeasures.h"
 #include "tree/tree.h"
 
@@ -46,11 +47,12 @@ struct GlyphPlace
     bool ligatures = true;
 };
 
-/// A "font" element.
+/// A "font" element, or the font file of a style sheet.
 class DocumentFont
 {
 public:
     DocumentFont(const Tree &tree, NodeIndex font);
+    explicit DocumentFont(const std::shared_ptr<FileFont> &file);
 
     double unitsPerEm() const { return m_unitsPerEm; }
     /// Heights at a font size in user units.
@@ -84,6 +86,7 @@ private:
     void readKerning(const Node &node, KerningTable *table);
     QVector<int> keysOf(const QStringList &names);
     QVector<int> knownKeys(const FontGlyph &glyph, const QString &names) const;
+    const FontGlyph *findInFile(QStringView text) const;
     static bool isAllowed(const FontGlyph &glyph, const GlyphPlace &place);
 
     double m_unitsPerEm = 1000;
@@ -102,6 +105,9 @@ private:
     KerningTable m_horizontalKerning;
     KerningTable m_verticalKerning;
     bool m_leavesOut = false;
+    /// Null for an element; its glyphs are read when they are asked for.
+    std::shared_ptr<FileFont> m_file;
+    mutable QHash<quint32, std::shared_ptr<FontGlyph>> m_fileGlyphs;
     mutable QHash<NodeIndex, QPainterPath> m_outlines;
 };
 

@@ -1,8 +1,11 @@
 #include "text/documentfonts.h"
 
+#include "grammar/csstext.h"
+#include "grammar/datauris.h"
 #include "grammar/fontfamilies.h"
 #include "inputlimits.h"
 #include "resolve/fonts.h"
+#include "style/rules.h"
 #include "style/textproperties.h"
 #include "tree/references.h"
 
@@ -53,6 +56,22 @@ bool asksFor(const QStringList &words, std::initializer_list<const char *> wante
                });
     };
     return words.isEmpty() || std::any_of(words.begin(), words.end(), isWanted);
+}
+
+// What a "url()" in a list of sources refers to, quoted or not; empty for anything else.
+QString urlIn(QStringView source)
+{
+    constexpr int nameLength = 4;
+    if (!source.startsWith(QLatin1String("url("), Qt::CaseInsensitive))
+        return QString();
+    CssCursor cursor(source.mid(nameLength));
+    cursor.skipSpace();
+    QString quoted;
+    if (cursor.takeString(&quoted))
+        return quoted;
+    const QChar *begin = cursor.at;
+    cursor.skipTo(")");
+    return QStringView(begin, cursor.at).trimmed().toString();
 }
 
 NodeIndex childNamed(const Tree &tree, NodeIndex node, const char *name)
@@ -115,6 +134,58 @@ void DocumentFonts::readFaces(const Tree &tree)
         if (font != noNode)
             addFace(tree, at, font);
     }
+    readSheetFaces(tree);
+}
+
+bool DocumentFonts::areIn(const Tree &tree)
+{
+    return tree.hasFonts() || (tree.rules() && !tree.rules()->fontFaces().isEmpty());
+}
+
+// The first source that can be used: a font of this document or a file inside of it. Nothing else is looked at.
+void DocumentFonts::addSheetFace(const Tree &tree, const QString &source, const Face &face)
+{
+    CssCursor cursor(source);
+    do {
+        const QChar *begin = cursor.at;
+        cursor.skipTo(",");
+        const QString reference = urlIn(QStringView(begin, cursor.at).trimmed());
+        Face found = face;
+        if (reference.startsWith(QLatin1Char('#'))) {
+            found.font = tree.findId(reference.mid(1));
+            if (found.font == noNode || tree.node(found.font).kind != ElementKind::Font)
+                continue;
+        } else {
+            const std::optional<QByteArray> file = parseDataUri(reference);
+            const std::shared_ptr<FileFont> font = file ? FileFont::load(*file) : nullptr;
+            if (!font)
+                continue;
+            found.font = noNode - 1 - m_faces.size();
+            m_fonts.insert(found.font, std::make_shared<DocumentFont>(font));
+        }
+        m_faces.append(found);
+        return;
+    } while (cursor.take(','));
+}
+
+void DocumentFonts::readSheetFaces(const Tree &tree)
+{
+    if (!tree.rules())
+        return;
+    for (const FontFaceRule &rule : tree.rules()->fontFaces()) {
+        Face face;
+        const QVector<FamilyName> names = parseFontFamilies(rule.family.left(Limits::familyCharacters));
+        if (names.isEmpty() || m_faces.size() >= Limits::fonts)
+            continue;
+        face.families.append(names.constFirst().text.toLower());
+        // A range of weights, "100 900", is for all of them.
+        face.weights = weightsOf({rule.weight});
+        const bool leans =
+            rule.style.startsWith(QLatin1String("italic")) || rule.style.startsWith(QLatin1String("oblique"));
+        face.upright = !leans;
+        face.italic = leans;
+        addSheetFace(tree, rule.source, face);
+    }
 }
 
 // CSS 2.1 §15.6: the slope first, then the nearest weight; light texts look for lighter fonts first.
@@ -153,7 +224,7 @@ DocumentFontPointer DocumentFonts::font(const Tree &tree, NodeIndex index)
 
 FoundFont DocumentFonts::find(const Tree &tree, const ComputedStyle &style)
 {
-    if (!tree.hasFonts())
+    if (!areIn(tree))
         return {};
     if (!m_read)
         readFaces(tree);

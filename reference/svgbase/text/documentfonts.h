@@ -20,10 +20,13 @@ struct FoundFont
     bool hasOthers = false;
 };
 
-/// The "font" elements of a document, read when a text first asks for them.
+/// The "font" elements of a document and the font files in its style sheets, read when a text first asks for them.
 class DocumentFonts
 {
 public:
+    /// Whether a document has fonts of its own, as elements or in its style sheets.
+    static bool areIn(const Tree &tree);
+
     /// Forgets everything when fonts may be others than before.
     void setRevision(quint32 revision);
     /// The font of the first family of a style that there is, nearest to its weight, slope and variant.
@@ -50,6 +53,8 @@ private:
 
     void readFaces(const Tree &tree);
     void addFace(const Tree &tree, NodeIndex face, NodeIndex font);
+    void readSheetFaces(const Tree &tree);
+    void addSheetFace(const Tree &tree, const QString &source, const Face &face);
     const Face *bestFace(const QString &family, const ComputedStyle &style) const;
     static int mismatch(const Face &face, const ComputedStyle &style);
     DocumentFontPointer font(const Tree &tree, NodeIndex index);
@@ -57,6 +62,7 @@ private:
     quint32 m_revision = 0;
     bool m_read = false;
     QVector<Face> m_faces;
+    /// By their elements; those of style sheets by numbers below `noNode`.
     QHash<NodeIndex, DocumentFontPointer> m_fonts;
     QHash<NodeIndex, int> m_outlineElements;
     NodeIndex m_text = noNode;

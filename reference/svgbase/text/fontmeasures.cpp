@@ -41,8 +41,11 @@ double tableValue(const QByteArray &table, int offset, double unit, double other
 
 FontMeasures fontMeasures(const ComputedStyle &style)
 {
-    const QRawFont font = QRawFont::fromFont(outlineFont(style.font, textStyleOf(style)));
-    const double size = style.font.size;
+    return fontMeasures(QRawFont::fromFont(outlineFont(style.font, textStyleOf(style))), style.font.size);
+}
+
+FontMeasures fontMeasures(const QRawFont &font, double size)
+{
     const double scale = size / outlineFontSize;
     const double unit = font.unitsPerEm() > 0 ? size / font.unitsPerEm() : 0;
     const QByteArray hhea = font.fontTable("hhea");

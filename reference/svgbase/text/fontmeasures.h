@@ -2,6 +2,8 @@
 
 #include "style/computedstyle.h"
 
+#include <QtGui/QRawFont>
+
 namespace Svg {
 
 /// Heights of a font in user units; what lies below the baseline is negative.
@@ -20,6 +22,8 @@ struct FontMeasures
 
 /// The measures of the first font that a style finds.
 FontMeasures fontMeasures(const ComputedStyle &style);
+/// Those of a font in pixels of `outlineFontSize`, at a size in user units.
+FontMeasures fontMeasures(const QRawFont &font, double size);
 /// How far a baseline lies above the alphabetic one, user units.
 double baselineHeight(Baseline baseline, const FontMeasures &measures);
 

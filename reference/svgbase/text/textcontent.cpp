@@ -100,7 +100,7 @@ void TextCollector::substituteGlyphs(TextLevel *level)
 
 void TextCollector::findFont(TextLevel *level)
 {
-    if (!m_tree.hasFonts())
+    if (!DocumentFonts::areIn(m_tree))
         return;
     level->font = m_fonts.find(m_tree, level->style);
     if (hasLocalName(m_tree.node(level->node), QStringLiteral("altGlyph")))

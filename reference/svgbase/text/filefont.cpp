@@ -1,0 +1,84 @@
+#include "text/filefont.h"
+
+#include "inputlimits.h"
+#include "resolve/fonts.h"
+
+#include <QtCore/QtEndian>
+
+namespace Svg {
+
+namespace {
+
+// Tags that files begin with, and where packed ones tell the size of what they hold (WOFF File Format 1.0 §3).
+constexpr quint32 trueTypeVersion = 0x00010000;
+constexpr quint32 trueTypeTag = 0x74727565;
+constexpr quint32 woffTag = 0x774f4646;
+constexpr quint32 woff2Tag = 0x774f4632;
+constexpr int flavorOffset = 4;
+constexpr int unpackedSizeOffset = 16;
+constexpr int woffHeaderBytes = 44;
+
+quint32 numberAt(const QByteArray &file, int offset)
+{
+    return offset + int(sizeof(quint32)) <= file.size() ? qFromBigEndian<quint32>(file.constData() + offset) : 0;
+}
+
+bool isTrueType(quint32 tag)
+{
+    return tag == trueTypeVersion || tag == trueTypeTag;
+}
+
+bool isTaken(const QByteArray &file)
+{
+    const quint32 tag = numberAt(file, 0);
+    if (tag != woffTag && tag != woff2Tag)
+        return isTrueType(tag);
+    return file.size() > woffHeaderBytes && isTrueType(numberAt(file, flavorOffset)) &&
+           numberAt(file, unpackedSizeOffset) <= quint32(Limits::textBytes);
+}
+
+} // namespace
+
+std::shared_ptr<FileFont> FileFont::load(const QByteArray &file)
+{
+    if (!isTaken(file))
+        return nullptr;
+    auto font = std::make_shared<FileFont>();
+    font->m_font.loadFromData(file, outlineFontSize, QFont::PreferNoHinting);
+    const bool isUsable = font->m_font.isValid() && !font->m_font.fontTable("glyf").isEmpty() &&
+                          font->m_font.fontTable("CFF ").isEmpty();
+    return isUsable ? font : nullptr;
+}
+
+FontMeasures FileFont::measures() const
+{
+    return fontMeasures(m_font, outlineFontSize);
+}
+
+quint32 FileFont::glyph(uint character) const
+{
+    const QVector<quint32> glyphs = m_font.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    return glyphs.isEmpty() ? 0 : glyphs.constFirst();
+}
+
+double FileFont::advance(quint32 glyph) const
+{
+    return m_font.advancesForGlyphIndexes({glyph}, QRawFont::UseDesignMetrics).value(0).x();
+}
+
+QPainterPath FileFont::outline(quint32 glyph)
+{
+    if (m_elements > Limits::fontOutlineElements)
+        return QPainterPath();
+    const QPainterPath path = m_font.pathForGlyph(glyph);
+    m_elements += path.elementCount();
+    return path;
+}
+
+double FileFont::kerning(quint32 first, quint32 second) const
+{
+    const auto flags = QRawFont::UseDesignMetrics | QRawFont::KernedAdvances;
+    return advance(first) - m_font.advancesForGlyphIndexes({first, second}, flags).value(0).x();
+}
+
+} // namespace Svg

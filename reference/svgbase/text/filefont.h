@@ -1,0 +1,35 @@
+#pragma once
+
+#include "text/fontmeasures.h"
+
+#include <QtGui/QPainterPath>
+#include <QtGui/QRawFont>
+
+#include <memory>
+
+namespace Svg {
+
+/// A font file inside a document: TrueType outlines, plain or packed as WOFF. It is never installed: the process
+/// knows it by this object alone. All lengths are in pixels of `outlineFontSize`, y pointing down.
+class FileFont
+{
+public:
+    /// Null for what is no such file. Outlines that are programs of their own ("CFF") are not taken: they may run
+    /// for long.
+    static std::shared_ptr<FileFont> load(const QByteArray &file);
+
+    FontMeasures measures() const;
+    /// The glyph of a character; 0 when the font lacks it.
+    quint32 glyph(uint character) const;
+    double advance(quint32 glyph) const;
+    /// Empty once outlines of more elements were asked for than texts may show.
+    QPainterPath outline(quint32 glyph);
+    /// How much closer than their advance two neighbours stand.
+    double kerning(quint32 first, quint32 second) const;
+
+private:
+    QRawFont m_font;
+    int m_elements = 0;
+};
+
+} // namespace Svg
