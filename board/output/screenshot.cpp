@@ -24,6 +24,7 @@
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace board {
 
@@ -59,11 +60,21 @@ void startDrawing(MainWindow &window, const QString &kindId)
         sendMouse(window.view(), QEvent::MouseMove, {400 + step * 42.0, 220 + step * 26.0});
 }
 
-/// Selects a shape that has been worked on, so that the history has something to show.
-void changeSecond(pagehost::Page *page)
+/// How far the object is from the middle of its page, scene units.
+double distanceFromMiddle(const CBaseObject *object, const pagehost::Page *page)
 {
-    CBaseObject *object = page->objects().at(1);
-    pagehost::rotateObjects({object}, 6);
+    return QLineF(object->sceneBoundingRect().center(), page->rect().center()).length();
+}
+
+/// Selects a shape that has been worked on, so that the history has something to show.
+void changeMiddle(pagehost::Page *page)
+{
+    const QVector<CBaseObject *> objects = page->objects();
+    CBaseObject *object =
+        *std::min_element(objects.begin(), objects.end(), [page](CBaseObject *one, CBaseObject *other) {
+            return distanceFromMiddle(one, page) < distanceFromMiddle(other, page);
+        });
+    pagehost::rotateObjects({object}, -8);
     pagehost::moveObjects({object}, {10, -14});
     page->select({object});
 }
@@ -74,11 +85,17 @@ int settingCount(CBaseObject *object)
     return object->GetSettingJson(json) ? parseSettings(json).size() : 0;
 }
 
+double areaOf(const CBaseObject *object)
+{
+    return object->sceneBoundingRect().width() * object->sceneBoundingRect().height();
+}
+
+/// The one with the most settings; of several such, the largest.
 void selectRichest(pagehost::Page *page)
 {
     const QVector<CBaseObject *> objects = page->objects();
     page->select({*std::max_element(objects.begin(), objects.end(), [](CBaseObject *one, CBaseObject *other) {
-        return settingCount(one) < settingCount(other);
+        return std::make_pair(settingCount(one), areaOf(one)) < std::make_pair(settingCount(other), areaOf(other));
     })});
 }
 
@@ -102,12 +119,18 @@ void recordLesson(MainWindow &window, pagehost::Page *page)
     waitFor(lessonStep);
 }
 
+bool isAboutOneShape(const QString &state)
+{
+    return state == QLatin1String("selection") || state == QLatin1String("settings") ||
+           state == QLatin1String("properties");
+}
+
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
     const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties");
     if (state == QLatin1String("selection") && page->objectCount() > 1)
-        changeSecond(page);
+        changeMiddle(page);
     if (isAboutPanels && page->objectCount() > 0)
         selectRichest(page);
     if (state == QLatin1String("settings"))
@@ -137,8 +160,12 @@ QStringList screenshotStates()
 
 bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)
 {
-    if (document.isEmpty() && state != QLatin1String("empty") && state != QLatin1String("drag"))
+    if (document.isEmpty() && state != QLatin1String("empty") && state != QLatin1String("drag")) {
         fillWithDemo(workspace);
+        // What is selected is large on the last page.
+        if (isAboutOneShape(state))
+            workspace.document()->setCurrentIndex(workspace.document()->pageCount() - 1);
+    }
     useDesktopFont();
     MainWindow window(&workspace);
     window.show();
