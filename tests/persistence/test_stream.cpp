@@ -18,6 +18,8 @@ private Q_SLOTS:
     void aRawShapeSavesItsViewBoxFirst();
     void aRawShapeWithoutViewBoxSavesWhatItCovers();
     void aMissingPointIsNotSaved();
+    void pointsAreCountedFromOne();
+    void withoutFillPropertyTheTemplatesFillStays();
     void pointsMoveWithTheGeometry();
     void rawPointsAreWrittenAsTheyStand();
     void missingPointsAreClonedFromTheFirst();
@@ -96,6 +98,32 @@ void TestStream::aMissingPointIsNotSaved()
     Output out;
     fixture.shape->save(out);
     QCOMPARE(out.bytes(), bytesOf(qint32(2), 10.0, 20.0, false, false, false, false));
+}
+
+void TestStream::pointsAreCountedFromOne()
+{
+    ShapeFixture fixture(
+        svgText(QStringLiteral("0 0 100 50"),
+                QStringLiteral("<rect id='control_0' x='1' y='2' width='8' height='8'/>") + controlPointsText(1)));
+    fixture.load();
+    Output out;
+    fixture.shape->save(out);
+    QVERIFY(out.bytes().startsWith(bytesOf(qint32(1), 10.0, 0.0)));
+}
+
+void TestStream::withoutFillPropertyTheTemplatesFillStays()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    Output out;
+    fixture.shape->save(out);
+    CPageBgProp *const prop = fixture.object.fillProp;
+    fixture.object.fillProp = nullptr;
+    recording::clear();
+    Input in(out.bytes());
+    QVERIFY(fixture.shape->load(in));
+    fixture.object.fillProp = prop;
+    QCOMPARE(recording::count("shape", "setFillBrush"), 0);
 }
 
 void TestStream::pointsMoveWithTheGeometry()

@@ -26,6 +26,9 @@ private Q_SLOTS:
     void aHostileBrushIsReplayedAsNoBrush();
     void aGradientHasRoomForItsStops();
     void limitsAreInclusive();
+    void onlyTheHeaderChunkIsTheHeader();
+    void aStreamWithoutDeviceIsReadable();
+    void anInvalidColourIsAKnownKind();
     void eachColourTypeHasItsChannels_data();
     void eachColourTypeHasItsChannels();
     void aTextureWithoutPictureIsRead();
@@ -355,6 +358,33 @@ void TestHostile::limitsAreInclusive()
     // Rows of 1 + 16 bytes: 120 of them are 2040 bytes, 121 are 2057, one too many.
     QVERIFY(isReadable(textureOfSize(16, 120, 1, 8)));
     QVERIFY(!isReadable(textureOfSize(16, 121, 1, 8)));
+}
+
+void TestHostile::onlyTheHeaderChunkIsTheHeader()
+{
+    const QByteArray texture = textureOfSize(16, 120, 1, 8);
+    const int behindHeader = texture.indexOf("IDAT") - 4;
+    QByteArray commented = texture;
+    commented.insert(behindHeader, bytesOf(quint32(13)) + "tEXt" + "Title no more" + bytesOf(quint32(0)));
+    QVERIFY(isReadable(commented));
+    // One byte of the header cut off, and its length said so.
+    QByteArray shortened = texture;
+    shortened.remove(behindHeader - 5, 1);
+    QVERIFY(!isReadable(withNumber(shortened, textureOffset + 8, 12)));
+}
+
+void TestHostile::aStreamWithoutDeviceIsReadable()
+{
+    QDataStream in;
+    QVERIFY(StreamCheck::isReadableBrush(in));
+    QVERIFY(StreamCheck::hasKnownColorKind(in));
+}
+
+void TestHostile::anInvalidColourIsAKnownKind()
+{
+    const QByteArray bytes = bytesOf(QColor());
+    QDataStream in(bytes);
+    QVERIFY(StreamCheck::hasKnownColorKind(in));
 }
 
 void TestHostile::eachColourTypeHasItsChannels_data()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void theOutlineIsNotRebuiltByAMove();
 
     void aRotatedObjectEndsWithItsRotation();
+    void aRotatedObjectIsUprightWhileItIsResized();
     void aRotatedObjectIsMovedUpright();
     void theCentreMovesByTheOffsetNotByTheGrowth();
     void theCentreCountsFromTheClientRectangle();
@@ -61,6 +62,7 @@ private Q_SLOTS:
     void aRectangleBecomesTheViewBox();
     void resizingIsGrowingWithoutOffset();
     void offsetsThatAreNoNumberCountAsZero();
+    void anEndlessGrowthIsNone();
     void aShapeWithoutObjectChangesItsViewBox();
 };
 
@@ -370,6 +372,17 @@ void TestResizing::aRotatedObjectEndsWithItsRotation()
     QCOMPARE(placed.object.mapToScene(40, 25), QPointF(-25, 50));
 }
 
+void TestResizing::aRotatedObjectIsUprightWhileItIsResized()
+{
+    Placed placed;
+    placed.object.setRotation(30);
+    double rotationSeen = -1;
+    placed.object.onNotify = [&](int) { rotationSeen = placed.object.rotation(); };
+    placed.shape->adjustSvgPosition(QPointF(10, 0), 20, 0, true);
+    QCOMPARE(rotationSeen, 0.0);
+    QCOMPARE(placed.object.rotation(), 30.0);
+}
+
 void TestResizing::aRotatedObjectIsMovedUpright()
 {
     Placed placed;
@@ -482,6 +495,16 @@ void TestResizing::offsetsThatAreNoNumberCountAsZero()
     placed.shape->adjustSvgPosition(QPointF(qQNaN(), 5), qInf(), 10, true);
     QCOMPARE(exact(placed.viewBox()), exact(QRectF(0, 5, 100, 60)));
     QCOMPARE(exact(placed.object.pos()), exact(QPointF(200, 305)));
+}
+
+void TestResizing::anEndlessGrowthIsNone()
+{
+    Placed placed;
+    const QRectF box = placed.shape->document->viewBox();
+    placed.shape->resizeSVG(10, qInf(), true);
+    QCOMPARE(placed.shape->document->viewBox(), QRectF(box.x(), box.y(), box.width() + 10, box.height()));
+    placed.shape->resizeSVG(-qInf(), 5, true);
+    QCOMPARE(placed.shape->document->viewBox(), QRectF(box.x(), box.y(), box.width() + 10, box.height() + 5));
 }
 
 void TestResizing::aShapeWithoutObjectChangesItsViewBox()

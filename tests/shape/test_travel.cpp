@@ -20,6 +20,9 @@ private Q_SLOTS:
     void aPointMovesInProportionToTheFreeTravel();
     void aPointMovesAlongTheHeightToo();
     void theViewBoxOriginCancelsOut();
+    void theViewBoxOriginIsThatOfTheAxis();
+    void aPointWithHardlyAnyTravelStillMoves();
+    void aPointWithoutFreeTravelStaysWhereTheSideDoes();
     void evaluationKeepsItsOrder();
     void sidesAreComparedExactly();
     void anUnchangedSizeWritesThePositionAllTheSame();
@@ -30,6 +33,9 @@ private Q_SLOTS:
     void theOffsetIsZeroWhereBoundsFollow();
     void theOffsetIsTheRestWhereBoundsLag();
     void aMissingViewBoxIsSettledFirst();
+    void aViewBoxWithOneSideIsKept_data();
+    void aViewBoxWithOneSideIsKept();
+    void anEmptyDocumentIsSettledToNothing();
     void aSizeChangeEndsWithRedrawAndNotification();
     void aShapeWithoutPointsIsRedrawnToo();
     void entriesWithoutNodeAreSkipped();
@@ -85,6 +91,34 @@ void TestTravel::theViewBoxOriginCancelsOut()
     OnePoint fixture({40, 30, 20, 10}, "10 20 100 50");
     fixture.shape->setSize({100, 50}, {150, 50});
     QCOMPARE(exact(fixture.shape->pointRect(1)), exact(QRectF(71.25, 30, 20, 10)));
+}
+
+void TestTravel::theViewBoxOriginIsThatOfTheAxis()
+{
+    // So far out that 4 is lost beside the origin 2^56, and 14 counts as 16: free travel 64 becomes 128, and
+    // (14 − 2^56) × 2 + 2^56 × 2 − 4 is 28. At the origin 0 the result is 24.
+    constexpr double farOut = 72057594037927936.0;
+    OnePoint fixture({10, 10, 8, 8});
+    fixture.shape->document->setViewBox({farOut, 0, 72, 72});
+    fixture.shape->setSize({72, 72}, {136, 136});
+    QCOMPARE(exact(fixture.shape->pointRect(1).topLeft()), exact(QPointF(28, 24)));
+    fixture.setRect(1, {10, 10, 8, 8});
+    fixture.shape->document->setViewBox({0, farOut, 72, 72});
+    fixture.shape->setSize({72, 72}, {136, 136});
+    QCOMPARE(exact(fixture.shape->pointRect(1).topLeft()), exact(QPointF(24, 28)));
+}
+
+void TestTravel::aPointWithHardlyAnyTravelStillMoves()
+{
+    // Free travel 0.5 becomes 1, so the centre goes from 7 to 14.
+    const AxisTravel travel{0, 8.5, 3, 8, 10, 10.5};
+    QCOMPARE(exact(travel.newStart()), exact(10.0));
+}
+
+void TestTravel::aPointWithoutFreeTravelStaysWhereTheSideDoes()
+{
+    const AxisTravel travel{0, 8, 3, 8, 10, 10};
+    QCOMPARE(exact(travel.newStart()), exact(3.0));
 }
 
 void TestTravel::evaluationKeepsItsOrder()
@@ -185,6 +219,33 @@ void TestTravel::aMissingViewBoxIsSettledFirst()
     // The content is 108 × 58 at (0, 0): free travel 100 becomes 200, the centre 54 becomes 108.
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(0, 0, 108, 58));
     QCOMPARE(exact(fixture.shape->pointRect(1).x()), exact(104.0));
+}
+
+void TestTravel::aViewBoxWithOneSideIsKept_data()
+{
+    QTest::addColumn<QRectF>("box");
+    QTest::newRow("no width") << QRectF(5, 6, 0, 1);
+    QTest::newRow("no height") << QRectF(5, 6, 1, 0);
+}
+
+void TestTravel::aViewBoxWithOneSideIsKept()
+{
+    QFETCH(const QRectF, box);
+    OnePoint fixture({10, 10, 8, 8});
+    fixture.shape->document->setViewBox(box);
+    recording::clear();
+    fixture.shape->setSize({100, 50}, {150, 60});
+    QCOMPARE(fixture.shape->document->viewBox(), box);
+    QCOMPARE(recording::count("document", "setViewBox"), 0);
+}
+
+void TestTravel::anEmptyDocumentIsSettledToNothing()
+{
+    ShapeFixture fixture(svgText({}, {}));
+    fixture.load();
+    recording::clear();
+    fixture.shape->setSize({100, 50}, {150, 60});
+    QCOMPARE(recording::lastArguments("document", "setViewBox"), QVariantList({QRectF()}));
 }
 
 void TestTravel::aSizeChangeEndsWithRedrawAndNotification()
