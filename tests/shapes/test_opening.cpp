@@ -11,6 +11,8 @@
 
 namespace {
 
+const shapekit::Text numberText("Number", "Zahl");
+
 /// Asks to be painted anew whenever it reads something, as shapes do whose template changes with their data.
 class Eager : public shapekit::ShapeOfType<27>
 {
@@ -32,7 +34,7 @@ protected:
     void draw() override {}
 
 private:
-    shapekit::WholeNumber number{this, shapekit::Text("Number", "Zahl"), 5, 1, 9};
+    shapekit::WholeNumber number{this, numberText, 5, 1, 9};
 };
 
 shapekit::Kind eagerKind()
@@ -128,6 +130,7 @@ void TestOpening::aShapeThatTakesOtherDataShowsThem()
     Counted original;
     original.create();
     original.core()->setPenColor(Qt::blue, false);
+    original.OnQPainterDraw(nullptr);
     Counted other;
     other.create();
     QVERIFY(other.picture() != original.picture());
