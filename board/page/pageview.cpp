@@ -378,7 +378,7 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (!m_page || m_page->objectCount() > 0 || (m_tool && m_tool->isDrawing()))
+    if (!isEditable() || m_page->objectCount() > 0 || (m_tool && m_tool->isDrawing()))
         return;
     QPainter painter(viewport());
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);

@@ -28,6 +28,12 @@ void ButtonFlow::addWidget(QWidget *widget)
     m_columns = 0;
 }
 
+QSize ButtonFlow::minimumSizeHint() const
+{
+    const int oneButton = m_widgets.isEmpty() ? 0 : m_widgets.first()->sizeHint().width();
+    return {oneButton, QWidget::minimumSizeHint().height()};
+}
+
 int ButtonFlow::columnCount() const
 {
     if (m_widgets.isEmpty())

@@ -17,6 +17,8 @@ public:
     explicit ButtonFlow(const QString &caption, QWidget *parent = nullptr);
 
     void addWidget(QWidget *widget);
+    /// One button wide, however many stand in a row now: else the flow would never become narrower.
+    QSize minimumSizeHint() const override;
     /// Arranges the widgets anew after one was shown or hidden; the whole flow hides when none is shown.
     void rearrange();
 

@@ -11,6 +11,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -41,6 +42,9 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(content);
+    // In the smallest window one column is still whole.
+    if (const auto *button = content->findChild<PaletteButton *>())
+        scroll->setMinimumWidth(button->sizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);

@@ -5,6 +5,8 @@
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
 #include <panels/historypanel.h>
+#include <panels/palettebutton.h>
+#include <panels/palettepanel.h>
 #include <window/actions.h>
 #include <window/mainwindow.h>
 #include <window/windowmemory.h>
@@ -21,10 +23,10 @@ class TestWindow : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup() { board::applyTheme(board::Theme::Light); }
     void firstWindowFitsTheScreen();
     void windowOpensAsItWasLeft();
     void panelsOpenAsTheyWereLeft();
+    void smallestWindowCutsNoPaletteButton();
     void darkColoursAreRemembered();
     void longNamesAreShortenedInTheStatusLine();
 };
@@ -33,6 +35,7 @@ void TestWindow::init()
 {
     useOwnFolders();
     QSettings().clear();
+    board::applyTheme(board::Theme::Light);
 }
 
 /// The offscreen platform's screen is 800 by 800, smaller than the window would like to be.
@@ -79,6 +82,27 @@ void TestWindow::panelsOpenAsTheyWereLeft()
     window.show();
     QVERIFY(!historyDock(window)->isVisible());
     QVERIFY(!historyDock(window)->toggleViewAction()->isChecked());
+}
+
+void TestWindow::smallestWindowCutsNoPaletteButton()
+{
+    BoardDriver board;
+    QMainWindow &window = board.window();
+    window.resize(1, 1);
+    QTest::qWait(50);
+    QVERIFY2(window.width() < 800, qPrintable(QString::number(window.width())));
+    const QList<board::PaletteButton *> buttons = window.findChildren<board::PaletteButton *>();
+    QVERIFY(buttons.size() > 20);
+    for (const board::PaletteButton *button : buttons) {
+        const QWidget *shown = window.findChild<board::PalettePanel *>()->findChild<QScrollArea *>()->viewport();
+        const int left = button->mapTo(shown, QPoint(0, 0)).x();
+        const QString place = QStringLiteral("%1: %2 to %3 of %4")
+                                  .arg(button->accessibleName())
+                                  .arg(left)
+                                  .arg(left + button->width())
+                                  .arg(shown->width());
+        QVERIFY2(left >= 0 && left + button->width() <= shown->width(), qPrintable(place));
+    }
 }
 
 void TestWindow::darkColoursAreRemembered()
