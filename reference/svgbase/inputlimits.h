@@ -109,6 +109,8 @@ constexpr double dashes = 20000;
 constexpr int strokeElements = 2000000;
 /// Most nodes that one drawing visits to measure what clip paths, masks and filters relate to.
 constexpr int boundsVisits = 1000000;
+constexpr int contentVisits = 100000;
+constexpr int contentDepth = 4;
 /// Deepest nesting of clip paths, masks and markers in each other's content.
 constexpr int effectDepth = 16;
 /// Most outlines of one drawing that keep what painters make of them for the next.

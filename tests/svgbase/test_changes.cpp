@@ -170,6 +170,22 @@ void TestChanges::oneAttributeIsSetWrittenAndRemoved_data()
     QTest::newRow("box of a transform") << rect + "ATTRIBUTE/>"
                                         << "style"
                                         << "transform-box:fill-box;transform-origin:center;rotate:20deg";
+    const QString boxed = "style='transform-box:fill-box;transform-origin:center;rotate:20deg'";
+    QTest::newRow("shape in a group with a box") << "<g " + boxed + "><rect height='30' width='20' ATTRIBUTE/></g>"
+                                                 << "x"
+                                                 << "40";
+    QTest::newRow("used shape with a box")
+        << "<defs><rect height='30' width='20' ATTRIBUTE/></defs><use href='#changed' x='9' y='9' " + boxed + "/>"
+        << "x"
+        << "40";
+    QTest::newRow("shape in the paint of its use")
+        << "<linearGradient id='g'><stop/><stop offset='1' stop-color='lime'/></linearGradient><defs><rect "
+           "height='30' width='20' fill='context-fill' ATTRIBUTE/></defs><use href='#changed' fill='url(#g)'/>"
+        << "x"
+        << "40";
+    QTest::newRow("least of lengths") << "<rect height='30' ATTRIBUTE/>"
+                                      << "width"
+                                      << "min(50%, 70px)";
     QTest::newRow("variable of a parent") << "<g ATTRIBUTE>" + rect + "style='fill:var(--a,lime)'/></g>"
                                           << "style"
                                           << "--a:yellow";

@@ -319,6 +319,15 @@ void TestGrammars::color_data()
     QTest::newRow("color() of television") << "color(rec2020 0.5 0.5 0.5)" << QColor(139, 139, 139);
     QTest::newRow("color() of XYZ") << "color(xyz 0.95046 1 1.08906)" << QColor(255, 255, 255);
     QTest::newRow("color() of XYZ, D50") << "color(xyz-d50 0.96430 1 0.82510)" << QColor(255, 255, 255);
+    QTest::newRow("not closed") << "rgb(1,2,3" << QColor(1, 2, 3);
+    QTest::newRow("calculated") << "rgb(calc(2 * 3), max(1, 7), 8)" << QColor(6, 7, 8);
+    QTest::newRow("of another") << "rgb(from rgb(1 2 3) b r g)" << QColor(3, 1, 2);
+    QTest::newRow("alpha of another") << "rgb(from #12345678 r g b)" << QColor(0x12, 0x34, 0x56, 0x78);
+    QTest::newRow("lab() of a grey") << "lab(from #777777 l a b)" << QColor(119, 119, 119);
+    QTest::newRow("oklch() of another") << "oklch(from #336699 l c h)" << QColor(0x33, 0x66, 0x99);
+    QTest::newRow("larger space of another") << "color(from #336699 display-p3 r g b)" << QColor(0x33, 0x66, 0x99);
+    QTest::newRow("mixed") << "color-mix(in srgb, #f00, #00f)" << QColor(128, 0, 128);
+    QTest::newRow("mixed of light") << "color-mix(in srgb-linear, #000, #fff)" << QColor(188, 188, 188);
     QTest::newRow("name of CSS") << "rebeccapurple" << QColor(0x66, 0x33, 0x99);
     QTest::newRow("name of the list") << "LightGoldenRodYellow" << QColor(250, 250, 210);
     QTest::newRow("transparent") << "transparent" << QColor(0, 0, 0, 0);
@@ -347,7 +356,14 @@ void TestGrammars::notAColor_data()
                              "#ggg",
                              "rgb",
                              "rgb(1,2)",
-                             "rgb(1,2,3",
+                             "rgb(1,2",
+                             "rgb(from nothing r g b)",
+                             "rgb(from #fff r, g, b)",
+                             "rgb(from #fff x g b)",
+                             "color-mix(in srgb, red)",
+                             "color-mix(in srgb, red 0%, blue 0%)",
+                             "color-mix(in srgb, red 101%, blue)",
+                             "color-mix(red, blue)",
                              "rgb(1,2,3,4,5)",
                              "rgb(NaN,0,0)",
                              "rgb(1 2,3)",

@@ -21,6 +21,7 @@ void Document::settle()
     const Prototype::Settled &settled = m_prototype->settled();
     m_tree = settled.tree;
     m_facts = settled.facts;
+    m_measuring.used = settled.measuresContent;
     m_settled = true;
 }
 

@@ -32,7 +32,7 @@ public:
     /// The same for a child of a node whose facts are at hand.
     FactsPointer factsBelow(NodeIndex child, const FactsPointer &above);
     /// Resolves elements at other places than their own.
-    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts); }
+    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts, &m_measuring); }
     /// Bounds of the visible geometry of a subtree, document units.
     QRectF visibleBounds(NodeIndex top);
 
@@ -78,6 +78,7 @@ private:
     QVector<FactsPointer> m_facts;
     GradientCache m_gradients;
     DocumentFonts m_fonts;
+    ContentMeasuring m_measuring;
     /// By node index: a Change for each, since its facts were made. Shorter while nothing was changed.
     QVector<quint8> m_changes;
     /// By node index; shorter while nothing was styled.

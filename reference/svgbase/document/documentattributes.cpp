@@ -160,7 +160,7 @@ void Document::nodeChanged(NodeIndex index, Change change)
     const ElementKind kind = m_tree.node(index).kind;
     // Text may run along any shape.
     const bool isWay = m_tree.hasTextReferences() && hasGeometry(kind);
-    if (isWay || isPaintServerPart(kind) || isFontPart(kind) || isStructure(kind))
+    if (m_measuring.used || isWay || isPaintServerPart(kind) || isFontPart(kind) || isStructure(kind))
         ++m_referenceRevision;
     // A text is laid out as one, whatever part of it changed.
     NodeIndex at = index;

@@ -86,15 +86,6 @@ NodeIndex Walk::usedNode(const Node &use) const
     return isDrawable(kind) || kind == ElementKind::Symbol ? target : noNode;
 }
 
-// The one child of a "switch" that is drawn, if any (SVG 1.1 §5.8.2).
-NodeIndex firstAllowedChild(const Tree &tree, NodeIndex parent)
-{
-    NodeIndex child = tree.node(parent).firstChild;
-    while (child != noNode && !(isDrawable(tree.node(child).kind) && passesConditions(tree.node(child))))
-        child = tree.node(child).next;
-    return child;
-}
-
 Level Walk::childrenOf(NodeIndex index, const FactsPointer &facts, bool used) const
 {
     const Node &node = m_document.tree().node(index);

@@ -9,11 +9,11 @@ namespace Svg {
 
 namespace {
 
-QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages)
+QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages, ContentMeasuring *measuring)
 {
     GradientCache gradients;
     DocumentFonts fonts;
-    const Resolver resolver(tree, 1, &gradients, &fonts, messages);
+    const Resolver resolver(tree, 1, &gradients, &fonts, measuring, messages);
     QVector<FactsPointer> facts(tree.size());
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const NodeIndex parent = tree.node(at).parent;
@@ -51,7 +51,9 @@ const Prototype::Settled &Prototype::settled() const
         Messages messages = m_messages;
         m_settled.tree = m_tree;
         m_settled.tree.setRules(StyleRules::compile(m_tree, &messages));
-        m_settled.facts = resolveAll(m_settled.tree, &messages);
+        ContentMeasuring measuring;
+        m_settled.facts = resolveAll(m_settled.tree, &messages, &measuring);
+        m_settled.measuresContent = measuring.used;
         m_settled.messages = messages.list();
         settleStylingFlags(&m_settled);
     });

@@ -21,6 +21,8 @@ public:
         /// By node index.
         QVector<FactsPointer> facts;
         QVector<Message> messages;
+        /// Whether facts of some element depend on what is inside of it.
+        bool measuresContent = false;
     };
 
     Prototype(const Tree &tree, const Messages &messages);

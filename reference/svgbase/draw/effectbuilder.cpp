@@ -84,7 +84,7 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
     const OpenReference open(m_context, clip);
     const Attributes &attributes = element(clip).attributes;
     const Resolver resolver = m_context.document.resolver();
-    const QTransform own = resolver.ownTransform(element(clip), *m_context.document.facts(clip));
+    const QTransform own = resolver.ownTransform(clip, *m_context.document.facts(clip));
     const bool ofBounds = attributes.value(QStringLiteral("clipPathUnits")) == objectBoundingBox;
     FactsPointer facts;
     if (!contentFacts(clip, ofBounds, own, &facts))

@@ -6,8 +6,8 @@ namespace Svg {
 
 namespace {
 
-constexpr Length regionStart{-10, Unit::Percent};
-constexpr Length regionSize{120, Unit::Percent};
+const Length regionStart{-10, Unit::Percent};
+const Length regionSize{120, Unit::Percent};
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "draw/displaylist.h"
+#include "draw/pixelfilters.h"
 
 #include <array>
 #include <memory>
@@ -38,6 +39,7 @@ struct FilterPrimitive
     /// Standard deviations, radii; units of the filtered element.
     QSizeF extent{0, 0};
     QPointF offset;
+    EdgeMode edges = EdgeMode::None;
     QColor color;
     BlendMode blendMode = BlendMode::Normal;
     CompositeOperator compositeOperator = CompositeOperator::Over;

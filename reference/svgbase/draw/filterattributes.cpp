@@ -27,6 +27,12 @@ const Keyword<CompositeOperator> compositeOperators[] = {
     {QLatin1String("arithmetic"), CompositeOperator::Arithmetic},
 };
 
+const Keyword<EdgeMode> edgeModes[] = {
+    {QLatin1String("none"), EdgeMode::None},
+    {QLatin1String("duplicate"), EdgeMode::Duplicate},
+    {QLatin1String("wrap"), EdgeMode::Wrap},
+};
+
 class PrimitiveReader
 {
 public:
@@ -229,6 +235,7 @@ FilterPrimitive PrimitiveReader::read()
     switch (m_node.kind) {
     case ElementKind::FeGaussianBlur:
         readExtent("stdDeviation", 0);
+        applyKeyword(m_result.edges, text("edgeMode"), edgeModes);
         break;
     case ElementKind::FeDropShadow:
         readExtent("stdDeviation", defaultShadow);

@@ -215,7 +215,8 @@ QSizeF StepRunner::pixelSize(const QSizeF &size) const
 QImage StepRunner::blurred(const FilterPrimitive &primitive, QImage picture) const
 {
     const QSizeF deviation = pixelSize(primitive.extent);
-    blurPicture(&picture, deviation.width(), deviation.height());
+    blurPicture(&picture, deviation.width(), deviation.height(), primitive.edges,
+                pixelRect(input(primitive, 0).region));
     return picture;
 }
 
@@ -310,7 +311,13 @@ QImage StepRunner::tiled(const FilterPrimitive &primitive) const
         return picture;
     QBrush brush(inSpace(tile, primitive.linear).copy(rect));
     brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y()));
+    // Tiles follow each other as the region does, which may end between pixels.
+    const QRectF exact = m_toPixels.mapRect(tile.region);
+    if (m_toPixels.type() <= QTransform::TxScale && QRectF(m_source.picture.rect()).contains(exact))
+        brush.setTransform(QTransform::fromScale(exact.width() / rect.width(), exact.height() / rect.height()) *
+                           QTransform::fromTranslate(exact.x(), exact.y()));
     QPainter painter(&picture);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(picture.rect(), brush);
     painter.end();
     return picture;

@@ -9,6 +9,7 @@
 #include "draw/markerbuilder.h"
 #include "draw/patternbuilder.h"
 #include "inputlimits.h"
+#include "resolve/contextpaint.h"
 
 namespace Svg {
 
@@ -219,8 +220,10 @@ void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
         element.strokeWidth = *override->strokeWidth;
     if (!facts->outlines.isEmpty()) {
         const Outline outline = effectiveOutline(m_document, node, *facts, 0);
-        element.fill = outline.fill;
-        element.stroke = override && override->strokeColor ? QBrush(*override->strokeColor) : outline.strokePaint;
+        element.fill = unfadedBrush(outline.fill, facts->style->fillOpacity);
+        element.stroke = override && override->strokeColor
+                             ? QBrush(*override->strokeColor)
+                             : unfadedBrush(outline.strokePaint, facts->style->strokeOpacity);
     }
     appendMarkers(m_context, element, &target());
 }

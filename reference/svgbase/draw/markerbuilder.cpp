@@ -16,7 +16,7 @@ namespace Svg {
 
 namespace {
 
-constexpr Length defaultMarkerSize{3, Unit::User};
+const Length defaultMarkerSize{3, Unit::User};
 
 /// A marker as it stands at every vertex, before it is turned and moved there.
 struct MarkerForm

@@ -6,11 +6,15 @@
 
 namespace Svg {
 
+/// What counts as standing beyond the edges of a picture: nothing, the pixels at the edge, or the picture again.
+enum class EdgeMode : quint8 { None, Duplicate, Wrap };
+
 /// Operations on pictures of premultiplied colours with alpha; outside of a picture everything is transparent.
 
 /// Blurs by standard deviations in pixels across and down: by weights up to 2, by three box blurs from there on,
-/// as the standard suggests (Filter Effects 1 §9.14).
-void blurPicture(QImage *picture, double across, double down);
+/// as the standard suggests (Filter Effects 1 §9.14). The picture ends at `area` where edges are not transparent.
+void blurPicture(QImage *picture, double across, double down, EdgeMode edges = EdgeMode::None,
+                 const QRect &area = QRect());
 /// Replaces every channel by its greatest (or smallest) value within a distance in pixels (Filter Effects 1 §9.18).
 void morphPicture(QImage *picture, int across, int down, bool dilates);
 /// Multiplies plain colours by a matrix of four rows of five (Filter Effects 1 §9.6).

@@ -1,6 +1,7 @@
 #include "grammar/colorfunctions.h"
-#include "grammar/angles.h"
 
+#include "grammar/angles.h"
+#include "grammar/calculations.h"
 #include "grammar/colorspaces.h"
 #include "grammar/numbers.h"
 
@@ -35,6 +36,8 @@ struct ColorFunction
     Component alpha{Component::Number, 1};
     /// The older way to write it, with commas, which knows no missing components.
     bool commas = false;
+    /// What the components of the colour that it begins with are called; none where it begins with none.
+    CalculationNames names;
 };
 
 bool takeAngleUnit(Cursor &cursor, Component *component)
@@ -50,12 +53,39 @@ bool takeAngleUnit(Cursor &cursor, Component *component)
     return true;
 }
 
-bool readComponent(Cursor &cursor, Component *component)
+bool calculateComponent(Cursor &cursor, const CalculationNames &names, Component *component)
 {
-    if (isLetter(cursor.peek())) {
-        *component = {Component::None, 0};
-        return cursor.takeWord().compare(QLatin1String("none"), Qt::CaseInsensitive) == 0;
+    const std::optional<CalculatedNumber> result = readCalculation(cursor, names);
+    if (!result)
+        return false;
+    component->value = result->value;
+    component->kind = result->kind == CalculatedNumber::Percent ? Component::Percent
+                      : result->kind == CalculatedNumber::Angle ? Component::Angle
+                                                                : Component::Number;
+    return true;
+}
+
+bool readWordComponent(Cursor &cursor, const CalculationNames &names, Component *component)
+{
+    Cursor probe = cursor;
+    const QString word = QString(probe.takeWord()).toLower();
+    if (isDigit(probe.peek()) || probe.peek() == '(')
+        return calculateComponent(cursor, names, component);
+    cursor = probe;
+    for (const auto &[name, value] : names) {
+        if (word != name)
+            continue;
+        *component = {Component::Number, value};
+        return true;
     }
+    *component = {Component::None, 0};
+    return word == QLatin1String("none");
+}
+
+bool readComponent(Cursor &cursor, const CalculationNames &names, Component *component)
+{
+    if (isLetter(cursor.peek()))
+        return readWordComponent(cursor, names, component);
     if (!readNumber(cursor, &component->value))
         return false;
     if (cursor.take('%')) {
@@ -63,17 +93,6 @@ bool readComponent(Cursor &cursor, Component *component)
         return true;
     }
     return takeAngleUnit(cursor, component);
-}
-
-// Names of spaces have digits and hyphens in them.
-QString takeSpaceName(Cursor &cursor)
-{
-    const char *begin = cursor.at;
-    while (isLetter(cursor.peek()) || isDigit(cursor.peek()) || cursor.peek() == '-')
-        ++cursor.at;
-    const QString name = QString::fromLatin1(begin, int(cursor.at - begin)).toLower();
-    cursor.skipSpace();
-    return name;
 }
 
 // All components are separated by commas, or all by spaces and the alpha by a slash.
@@ -86,28 +105,126 @@ bool readComponents(Cursor &cursor, ColorFunction *function)
         else if (i > 1 && comma != function->commas)
             return false;
         cursor.skipSpace();
-        if (!readComponent(cursor, &function->components[i]))
+        if (!readComponent(cursor, function->names, &function->components[i]))
             return false;
         cursor.skipSpace();
     }
     if (cursor.take(function->commas ? ',' : '/')) {
         cursor.skipSpace();
-        if (!readComponent(cursor, &function->alpha))
+        if (!readComponent(cursor, function->names, &function->alpha))
             return false;
         cursor.skipSpace();
     }
-    return cursor.take(')');
+    // What is not closed ends with the text (CSS Syntax 3 §5.4.9).
+    return cursor.take(')') || cursor.atEnd();
 }
 
-bool readFunction(Cursor cursor, ColorFunction *function)
+/// What the components of a space are called, and by what they are multiplied.
+struct SpaceNames
+{
+    QLatin1String function;
+    QLatin1String space;
+    QLatin1String names[componentCount];
+    double scale[componentCount];
+};
+
+const SpaceNames spaceNames[] = {
+    {QLatin1String("rgb"),
+     QLatin1String("srgb"),
+     {QLatin1String("r"), QLatin1String("g"), QLatin1String("b")},
+     {255, 255, 255}},
+    {QLatin1String("hsl"),
+     QLatin1String("hsl"),
+     {QLatin1String("h"), QLatin1String("s"), QLatin1String("l")},
+     {1, 100, 100}},
+    {QLatin1String("hwb"),
+     QLatin1String("hwb"),
+     {QLatin1String("h"), QLatin1String("w"), QLatin1String("b")},
+     {1, 100, 100}},
+    {QLatin1String("lab"),
+     QLatin1String("lab"),
+     {QLatin1String("l"), QLatin1String("a"), QLatin1String("b")},
+     {1, 1, 1}},
+    {QLatin1String("oklab"),
+     QLatin1String("oklab"),
+     {QLatin1String("l"), QLatin1String("a"), QLatin1String("b")},
+     {1, 1, 1}},
+    {QLatin1String("lch"),
+     QLatin1String("lch"),
+     {QLatin1String("l"), QLatin1String("c"), QLatin1String("h")},
+     {1, 1, 1}},
+    {QLatin1String("oklch"),
+     QLatin1String("oklch"),
+     {QLatin1String("l"), QLatin1String("c"), QLatin1String("h")},
+     {1, 1, 1}},
+    {QLatin1String("xyz"),
+     QLatin1String(),
+     {QLatin1String("x"), QLatin1String("y"), QLatin1String("z")},
+     {1, 1, 1}},
+    {QLatin1String("color"),
+     QLatin1String(),
+     {QLatin1String("r"), QLatin1String("g"), QLatin1String("b")},
+     {1, 1, 1}},
+};
+
+// "rgba" and "hsla" are other names of "rgb" and "hsl".
+const SpaceNames *namesOf(const ColorFunction &function)
+{
+    QString name = function.name;
+    if (name == QLatin1String("rgba") || name == QLatin1String("hsla"))
+        name.chop(1);
+    if (function.space.startsWith(QLatin1String("xyz")))
+        name = QStringLiteral("xyz");
+    for (const SpaceNames &known : spaceNames) {
+        if (name == known.function)
+            return &known;
+    }
+    return nullptr;
+}
+
+bool nameComponents(const QColor &origin, ColorFunction *function)
+{
+    const SpaceNames *names = namesOf(*function);
+    if (!names)
+        return false;
+    const std::optional<ColorComponents> components =
+        componentsIn(names->space.isEmpty() ? function->space : QString(names->space), origin);
+    if (!components)
+        return false;
+    const double values[] = {components->a, components->b, components->c};
+    // The hue of a grey counts as 0.
+    for (int i = 0; i < componentCount; ++i)
+        function->names.append({names->names[i], qIsNaN(values[i]) ? 0 : values[i] * names->scale[i]});
+    function->names.append({QLatin1String("alpha"), origin.alphaF()});
+    function->alpha.value = origin.alphaF();
+    return true;
+}
+
+// "from <colour>"; true where there is none, too.
+bool takeOrigin(Cursor &cursor, const ColorContext &context, std::optional<QColor> *origin)
+{
+    Cursor probe = cursor;
+    if (probe.takeWord().compare(QLatin1String("from"), Qt::CaseInsensitive) != 0 || !isSpace(probe.peek()))
+        return true;
+    probe.skipSpace();
+    *origin = readInnerColor(probe, context);
+    cursor = probe;
+    cursor.skipSpace();
+    return origin->has_value();
+}
+
+bool readFunction(Cursor cursor, const ColorContext &context, ColorFunction *function)
 {
     function->name = QString(cursor.takeWord()).toLower();
     if (!cursor.take('('))
         return false;
     cursor.skipSpace();
+    std::optional<QColor> origin;
+    if (!takeOrigin(cursor, context, &origin))
+        return false;
     if (function->name == QLatin1String("color"))
         function->space = takeSpaceName(cursor);
-    if (!readComponents(cursor, function))
+    if ((origin && !nameComponents(*origin, function)) || !readComponents(cursor, function))
         return false;
     cursor.skipSpace();
     return cursor.atEnd() && function->alpha.kind != Component::Angle;
@@ -153,8 +270,7 @@ std::optional<QColor> hueColor(const ColorFunction &function)
             return std::nullopt;
         return colorOfHwb({c[0].value, second, third});
     }
-    const double turn = c[0].value / 360 - std::floor(c[0].value / 360);
-    return QColor::fromHslF(qBound(0.0, turn, 1.0), qMin(second, 1.0), qMin(third, 1.0)).toRgb();
+    return colorOfHsl({c[0].value, second, third});
 }
 
 /// What 100 % of the components of a function are.
@@ -206,10 +322,19 @@ std::optional<QColor> opaqueColor(const ColorFunction &function)
 
 } // namespace
 
-std::optional<QColor> functionColor(Cursor cursor)
+std::optional<QColor> functionColor(Cursor cursor, const ColorContext &context)
 {
+    Cursor mixing = cursor;
+    if (mixing.takeWord().compare(QLatin1String("color"), Qt::CaseInsensitive) == 0 && mixing.take('-')) {
+        const bool isMix = mixing.takeWord().compare(QLatin1String("mix"), Qt::CaseInsensitive) == 0;
+        const std::optional<QColor> mixed =
+            isMix && mixing.take('(') ? readColorMix(mixing, context) : std::nullopt;
+        mixing.skipSpace();
+        return mixing.atEnd() ? mixed : std::nullopt;
+    }
     ColorFunction function;
-    if (!readFunction(cursor, &function) || (function.commas && hasNone(function)))
+    if (!readFunction(cursor, context, &function) || (function.commas && hasNone(function)) ||
+        (function.commas && !function.names.isEmpty()))
         return std::nullopt;
     std::optional<QColor> color = opaqueColor(function);
     if (color)

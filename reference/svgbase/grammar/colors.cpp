@@ -124,14 +124,15 @@ std::optional<double> calculatedOpacity(QStringView text)
 {
     const std::optional<Length> result = parseLength(text);
     const bool percent = result && result->unit == Unit::Percent;
-    if (!result || result->plusEm != 0 || (percent ? result->plusUser != 0 : result->unit != Unit::User))
+    if (!result || result->deferred || result->plusEm != 0 ||
+        (percent ? result->plusUser != 0 : result->unit != Unit::User))
         return std::nullopt;
     return percent ? result->value / 100 : result->value + result->plusUser;
 }
 
 } // namespace
 
-std::optional<QColor> parseColor(QStringView text)
+std::optional<QColor> parseColor(QStringView text, const ColorContext &context)
 {
     const QStringView trimmed = withoutProfileColor(text.trimmed());
     const Latin1Text bytes(trimmed);
@@ -142,12 +143,13 @@ std::optional<QColor> parseColor(QStringView text)
     afterName.takeWord();
     if (afterName.at == cursor.at)
         return std::nullopt;
-    return afterName.atEnd() ? namedColor(trimmed) : functionColor(cursor);
+    return afterName.atEnd() ? namedColor(trimmed) : functionColor(cursor, context);
 }
 
 std::optional<double> parseOpacity(QStringView text)
 {
-    if (text.trimmed().startsWith(QLatin1String("calc("), Qt::CaseInsensitive)) {
+    const QStringView trimmed = text.trimmed();
+    if (!trimmed.isEmpty() && trimmed.front().isLetter()) {
         const std::optional<double> result = calculatedOpacity(text);
         return result ? std::optional<double>(qBound(0.0, *result, 1.0)) : std::nullopt;
     }

@@ -1,5 +1,7 @@
 #include "grammar/colorspaces.h"
 
+#include "grammar/colormatrices.h"
+
 #include <QtCore/QString>
 #include <QtCore/QtMath>
 
@@ -9,74 +11,6 @@
 namespace Svg {
 
 namespace {
-
-using Matrix = double[3][3];
-
-// The matrices are those of CSS Color 4, chapters on predefined colour spaces and on conversions.
-
-constexpr Matrix srgbOfXyz = {
-    {3.2409699419045226, -1.537383177570094, -0.4986107602930034},
-    {-0.9692436362808796, 1.8759675015077202, 0.04155505740717559},
-    {0.05563007969699366, -0.20397695888897652, 1.0569715142428786},
-};
-
-/// Between the white points D50 and D65.
-constexpr Matrix d65OfD50 = {
-    {0.9554734527042182, -0.023098536874261423, 0.0632593086610217},
-    {-0.028369706963208136, 1.0099954580058226, 0.021041398966943008},
-    {0.012314001688319899, -0.020507696433477912, 1.3303659366080753},
-};
-
-constexpr Matrix xyzOfDisplayP3 = {
-    {0.4865709486482162, 0.26566769316909306, 0.1982172852343625},
-    {0.2289745640697488, 0.6917385218365064, 0.079286914093745},
-    {0, 0.04511338185890264, 1.043944368900976},
-};
-
-constexpr Matrix xyzOfA98 = {
-    {0.5766690429101305, 0.1855582379065463, 0.1882286462349947},
-    {0.29734497525053605, 0.6273635662554661, 0.07529145849399788},
-    {0.02703136138641234, 0.07068885253582723, 0.9913375368376388},
-};
-
-/// Of the white point D50.
-constexpr Matrix xyzOfProPhoto = {
-    {0.7977604896723027, 0.13518583717574031, 0.0313493495815248},
-    {0.2880711282292934, 0.7118432178101014, 0.00008565396060525902},
-    {0, 0, 0.8251046025104601},
-};
-
-constexpr Matrix xyzOfRec2020 = {
-    {0.6369580483012914, 0.14461690358620832, 0.1688809751641721},
-    {0.2627002120112671, 0.6779980715188708, 0.05930171646986196},
-    {0, 0.028072693049087428, 1.060985057710791},
-};
-
-constexpr Matrix conesOfOklab = {
-    {1, 0.3963377773761749, 0.2158037573099136},
-    {1, -0.1055613458156586, -0.0638541728258133},
-    {1, -0.0894841775298119, -1.2914855480194092},
-};
-
-constexpr Matrix srgbOfCones = {
-    {4.0767416360759583, -3.3077115392580629, 0.2309699031821043},
-    {-1.2684379732850315, 2.6097573492876882, -0.341319376002657},
-    {-0.0041960761386756, -0.7034186179359362, 1.7076146940746117},
-};
-
-/// The white point D50.
-constexpr ColorComponents white50{0.3457 / 0.3585, 1, (1 - 0.3457 - 0.3585) / 0.3585};
-
-ColorComponents operator*(const Matrix &m, const ColorComponents &v)
-{
-    return {m[0][0] * v.a + m[0][1] * v.b + m[0][2] * v.c, m[1][0] * v.a + m[1][1] * v.b + m[1][2] * v.c,
-            m[2][0] * v.a + m[2][1] * v.b + m[2][2] * v.c};
-}
-
-template<typename Function> ColorComponents each(const ColorComponents &v, Function function)
-{
-    return {function(v.a), function(v.b), function(v.c)};
-}
 
 // Written so that NaN becomes 0.
 double held(double share)
@@ -156,6 +90,13 @@ QColor colorOfHwb(const ColorComponents &hueWhiteBlack)
     return colorOfSrgb({component(2), component(0), component(4)});
 }
 
+QColor colorOfHsl(const ColorComponents &hueSaturationLightness)
+{
+    const ColorComponents &c = hueSaturationLightness;
+    const double turn = c.a / 360 - std::floor(c.a / 360);
+    return QColor::fromHslF(qBound(0.0, turn, 1.0), held(c.b), held(c.c)).toRgb();
+}
+
 QColor colorOfLab(const ColorComponents &lab)
 {
     constexpr double kappa = 24389.0 / 27;
@@ -193,6 +134,23 @@ std::optional<QColor> colorOfSpace(const QString &space, const ColorComponents &
     if (space == QLatin1String("xyz") || space == QLatin1String("xyz-d65"))
         return colorOfXyz(components);
     return std::nullopt;
+}
+
+std::optional<QColor> colorIn(const QString &space, const ColorComponents &c)
+{
+    if (space == QLatin1String("hsl"))
+        return colorOfHsl(c);
+    if (space == QLatin1String("hwb"))
+        return colorOfHwb(c);
+    if (space == QLatin1String("lab"))
+        return colorOfLab(c);
+    if (space == QLatin1String("lch"))
+        return colorOfLab(rectangular(c));
+    if (space == QLatin1String("oklab"))
+        return colorOfOklab(c);
+    if (space == QLatin1String("oklch"))
+        return colorOfOklab(rectangular(c));
+    return colorOfSpace(space, c);
 }
 
 ColorComponents rectangular(const ColorComponents &lightnessChromaHue)

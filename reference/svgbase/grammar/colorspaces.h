@@ -18,6 +18,8 @@ struct ColorComponents
 /// These turn a colour of a space of CSS Color 4 into the nearest that painters have, each component of sRGB held
 /// between 0 and 1.
 ///
+/// Hue in degrees, saturation and lightness from 0 to 1 (§7).
+QColor colorOfHsl(const ColorComponents &hueSaturationLightness);
 /// Hue in degrees, whiteness and blackness from 0 to 1 (§8).
 QColor colorOfHwb(const ColorComponents &hueWhiteBlack);
 /// Lightness from 0 to 100, a and b about ±125 (§9.3).
@@ -26,6 +28,12 @@ QColor colorOfLab(const ColorComponents &lab);
 QColor colorOfOklab(const ColorComponents &lab);
 /// A space that color() names (§10), components from 0 to 1; nothing for an unknown name.
 std::optional<QColor> colorOfSpace(const QString &space, const ColorComponents &components);
+
+/// A colour of any space that functions and mixing name: those of color(), "hsl", "hwb", "lab", "lch", "oklab" and
+/// "oklch", the shares of the first two from 0 to 1. Nothing for an unknown name.
+std::optional<QColor> colorIn(const QString &space, const ColorComponents &components);
+/// The components of a colour in such a space. The hue of a grey is NaN (CSS Color 4 §12.2).
+std::optional<ColorComponents> componentsIn(const QString &space, const QColor &color);
 
 /// Lightness, chroma and hue in degrees as lightness, a and b (§9.3).
 ColorComponents rectangular(const ColorComponents &lightnessChromaHue);

@@ -76,6 +76,8 @@ double percentageBase(Axis axis, const QSizeF &viewport)
 
 double unbounded(const Length &length, Axis axis, const LengthContext &context)
 {
+    if (length.deferred)
+        return calculated(*length.deferred, percentageBase(axis, context.viewport), context.fontSize);
     switch (length.unit) {
     case Unit::User:
         break;
@@ -120,7 +122,7 @@ std::optional<Length> parseLength(QStringView text)
     Cursor cursor = bytes.cursor();
     Length length;
     cursor.skipSpace();
-    if (cursor.peek() == 'c' || cursor.peek() == 'C')
+    if (isLetter(cursor.peek()))
         return parseCalculation(text);
     if (!readLength(cursor, &length))
         return std::nullopt;

@@ -4,6 +4,7 @@
 
 #include <QtCore/QSizeF>
 
+#include <memory>
 #include <optional>
 
 namespace Svg {
@@ -14,6 +15,9 @@ enum class Unit { User, Percent, Em, Ex, Ch, Rem, ViewWidth, ViewHeight, ViewMin
 /// The side of the viewport that percentages refer to.
 enum class Axis { Horizontal, Vertical, Diagonal };
 
+/// What calculations keep until percentages and font sizes are known.
+struct DeferredLength;
+
 /// A length (SVG 1.1 §4.2).
 struct Length
 {
@@ -22,6 +26,8 @@ struct Length
     /// What a calculation adds to it: user units, font sizes.
     double plusUser = 0;
     double plusEm = 0;
+    /// Counts instead of everything above, where a function has to choose between lengths; null for most.
+    std::shared_ptr<const DeferredLength> deferred = nullptr;
 };
 
 /// What relative units are relative to; user units.

@@ -10,7 +10,7 @@ namespace {
 
 const QLatin1String referenceStart("url(");
 
-std::optional<Paint> plainPaint(QStringView text)
+std::optional<Paint> plainPaint(QStringView text, const QColor &current)
 {
     Paint paint;
     if (text.compare(QLatin1String("none"), Qt::CaseInsensitive) == 0) {
@@ -26,7 +26,7 @@ std::optional<Paint> plainPaint(QStringView text)
         paint.kind = text.endsWith(QLatin1Char('l')) ? Paint::ContextFill : Paint::ContextStroke;
         return paint;
     }
-    const std::optional<QColor> color = parseColor(text);
+    const std::optional<QColor> color = parseColor(text, {current});
     if (!color)
         return std::nullopt;
     paint.kind = Paint::Color;
@@ -70,11 +70,11 @@ QString functionReference(QStringView text, QStringView *rest)
     return localReference(unquoted(trimmed.mid(referenceStart.size(), end - referenceStart.size())));
 }
 
-std::optional<Paint> parsePaint(QStringView text)
+std::optional<Paint> parsePaint(QStringView text, const QColor &current)
 {
     const QStringView trimmed = text.trimmed();
     if (!trimmed.startsWith(referenceStart, Qt::CaseInsensitive))
-        return plainPaint(trimmed);
+        return plainPaint(trimmed, current);
     const qsizetype end = trimmed.indexOf(QLatin1Char(')'));
     if (end < 0)
         return std::nullopt;
@@ -84,7 +84,7 @@ std::optional<Paint> parsePaint(QStringView text)
     const QStringView rest = trimmed.mid(end + 1).trimmed();
     if (rest.isEmpty())
         return paint;
-    const std::optional<Paint> fallback = plainPaint(rest);
+    const std::optional<Paint> fallback = plainPaint(rest, current);
     if (!fallback)
         return std::nullopt;
     if (fallback->kind == Paint::Color)

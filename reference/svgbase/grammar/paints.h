@@ -30,8 +30,8 @@ struct Paint
     bool followsColor = false;
 };
 
-/// Nothing when the text is no paint.
-std::optional<Paint> parsePaint(QStringView text);
+/// Nothing when the text is no paint. Colours that are made of others may be made of `current`.
+std::optional<Paint> parsePaint(QStringView text, const QColor &current = QColor());
 /// The id in a reference of the form "#id"; empty for anything else.
 QString localReference(QStringView text);
 /// The id in text of the form "url(#id)", with or without quotes; empty for anything else. `rest`, when given, gets

@@ -87,4 +87,12 @@ bool passesConditions(const Node &node)
     return true;
 }
 
+NodeIndex firstAllowedChild(const Tree &tree, NodeIndex parent)
+{
+    NodeIndex child = tree.node(parent).firstChild;
+    while (child != noNode && !(isDrawable(tree.node(child).kind) && passesConditions(tree.node(child))))
+        child = tree.node(child).next;
+    return child;
+}
+
 } // namespace Svg

@@ -6,13 +6,13 @@ namespace {
 
 QColor faded(QColor color, double opacity)
 {
-    color.setAlphaF(color.alphaF() * opacity);
+    color.setAlphaF(qMin(color.alphaF() * opacity, 1.0));
     return color;
 }
 
 QBrush fadedBrush(const QBrush &brush, double opacity)
 {
-    if (opacity >= 1)
+    if (opacity == 1)
         return brush;
     if (!brush.gradient())
         return brush.style() == Qt::SolidPattern ? QBrush(faded(brush.color(), opacity)) : brush;
@@ -26,13 +26,13 @@ QBrush fadedBrush(const QBrush &brush, double opacity)
     return result;
 }
 
-QBrush plainBrush(const Facts &facts, const Paint &paint, double opacity)
+QBrush plainBrush(const Facts &facts, const Paint &paint)
 {
     if (paint.kind == Paint::ContextFill || paint.kind == Paint::ContextStroke)
-        return contextBrush(facts, paint.kind, opacity);
+        return contextBrush(facts, paint.kind, 1);
     if (paint.kind != Paint::Color && paint.kind != Paint::Server)
         return Qt::NoBrush;
-    return paint.color.isValid() ? QBrush(faded(paint.color, opacity)) : QBrush(Qt::NoBrush);
+    return paint.color.isValid() ? QBrush(paint.color) : QBrush(Qt::NoBrush);
 }
 
 } // namespace
@@ -48,11 +48,16 @@ QBrush contextBrush(const Facts &facts, Paint::Kind kind, double opacity)
     return brush;
 }
 
+QBrush unfadedBrush(const QBrush &brush, double opacity)
+{
+    return opacity > 0 ? fadedBrush(brush, 1 / opacity) : brush;
+}
+
 std::shared_ptr<const PaintContext> useContext(const Facts &use)
 {
     const auto context = std::make_shared<PaintContext>();
-    context->fill = plainBrush(use, use.style->fill, use.style->fillOpacity);
-    context->stroke = plainBrush(use, use.style->stroke, use.style->strokeOpacity);
+    context->fill = plainBrush(use, use.style->fill);
+    context->stroke = plainBrush(use, use.style->stroke);
     context->toDocument = use.toDocument;
     return context;
 }

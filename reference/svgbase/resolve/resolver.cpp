@@ -38,16 +38,19 @@ QPointF transformOrigin(const Node &node, const ComputedStyle &style, const QRec
     return origin ? box.topLeft() + *origin : usual;
 }
 
-// What percentages and the origin of a transform refer to (CSS Transforms 1 §5): the bounding box where a shape
-// asks for it, else the view.
-QRectF transformBox(const Node &node, const ComputedStyle &style, const LengthContext &context)
+enum class TransformBox { View, OfShape, OfContent, OfStrokes };
+
+TransformBox transformBoxOf(const Node &node, const ComputedStyle &style)
 {
     const QString text = styledAttribute(node, style, AttributeId::TransformBox).trimmed();
-    const bool ofBounds = text == QLatin1String("fill-box") || text == QLatin1String("content-box") ||
-                          text == QLatin1String("stroke-box") || text == QLatin1String("border-box");
-    if (ofBounds && hasGeometry(node.kind))
-        return shapeGeometry(node, style, context.viewport).bounds;
-    return QRectF(QPointF(), context.viewport);
+    if (!isDrawable(node.kind) || node.kind == ElementKind::Document)
+        return TransformBox::View;
+    if (text == QLatin1String("stroke-box") || text == QLatin1String("border-box"))
+        return TransformBox::OfStrokes;
+    if (text != QLatin1String("fill-box") && text != QLatin1String("content-box"))
+        return TransformBox::View;
+    const bool isShape = hasGeometry(node.kind) && node.kind != ElementKind::Text;
+    return isShape ? TransformBox::OfShape : TransformBox::OfContent;
 }
 
 /// Most characters of a value that a message repeats.
@@ -154,15 +157,83 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
         warn(node, problemOf(rejected));
 }
 
-QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
+bool Resolver::canMeasure() const
 {
+    if (m_measuring->revision != m_referenceRevision) {
+        m_measuring->revision = m_referenceRevision;
+        m_measuring->visits = 0;
+    }
+    return m_measuringDepth < Limits::contentDepth && m_measuring->visits < Limits::contentVisits;
+}
+
+// In the units of the element, its own transform left out.
+MeasuredContent Resolver::contentOf(NodeIndex index, const Facts &facts, ContentBox box) const
+{
+    Resolver inner(m_tree, m_referenceRevision, m_gradients, m_fonts, m_measuring);
+    inner.m_measured = index;
+    inner.m_measuringDepth = m_measuringDepth + 1;
+    FactsPointer around;
+    if (facts.parent) {
+        auto *plain = new Facts(*facts.parent);
+        around = FactsPointer(plain);
+        plain->toDocument = QTransform();
+    }
+    return measuredContent(inner, m_tree, index, inner.resolve(index, around), box, m_measuring);
+}
+
+// What percentages and the origin of a transform refer to (CSS Transforms 1 §5): a bounding box of the element
+// where it asks for one, else the view.
+QRectF Resolver::transformBox(NodeIndex index, const Facts &facts, const LengthContext &context) const
+{
+    const Node &node = m_tree.node(index);
+    const TransformBox box = transformBoxOf(node, *facts.style);
+    const QRectF view(QPointF(), context.viewport);
+    if (box == TransformBox::OfShape)
+        return shapeGeometry(node, *facts.style, context.viewport).bounds;
+    if (box == TransformBox::View || !canMeasure())
+        return view;
+    const MeasuredContent content =
+        contentOf(index, facts, box == TransformBox::OfStrokes ? ContentBox::Stroke : ContentBox::Fill);
+    return content.tooMuch ? view : content.bounds;
+}
+
+// What is used may be painted with gradients that relate to the bounds of all of it.
+void Resolver::resolveContext(NodeIndex index, Facts *facts) const
+{
+    facts->context = useContext(*facts);
+    const ComputedStyle &style = *facts->style;
+    const bool served = style.fill.kind == Paint::Server || style.stroke.kind == Paint::Server;
+    if (!served || m_measuringDepth > 0 || !canMeasure())
+        return;
+    const MeasuredContent content = contentOf(index, *facts, ContentBox::Fill);
+    if (!content.takesContextPaint)
+        return;
+    m_measuring->used = true;
+    Facts target = *facts;
+    target.localBounds = content.bounds;
+    int pattern = noNode;
+    const auto context = std::make_shared<PaintContext>(*facts->context);
+    if (style.fill.kind == Paint::Server)
+        context->fill = brushOf(style.fill, 1, &target, &pattern);
+    if (style.stroke.kind == Paint::Server)
+        context->stroke = brushOf(style.stroke, 1, &target, &pattern);
+    context->toDocument = ownTransform(index, *facts) * (facts->parent ? facts->parent->toDocument : QTransform());
+    facts->context = context;
+    facts->referenceRevision = m_referenceRevision;
+}
+
+QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
+{
+    if (index == m_measured)
+        return QTransform();
+    const Node &node = m_tree.node(index);
     const ComputedStyle &style = *facts.style;
     const QString text = styledAttribute(node, style, AttributeId::Transform);
     if (text.isEmpty() && style.attributes.isEmpty())
         return QTransform();
     const bool isRoot = node.kind == ElementKind::Document;
     LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
-    const QRectF box = transformBox(node, style, context);
+    const QRectF box = transformBox(index, facts, context);
     context.viewport = box.size();
     std::optional<QTransform> transform = parseTransform(text);
     if (!transform)
@@ -182,9 +253,16 @@ QTransform Resolver::ownTransform(const Node &node, const Facts &facts) const
            QTransform::fromTranslate(origin.x(), origin.y());
 }
 
-void Resolver::resolvePlace(const Node &node, Facts *facts) const
+void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
 {
-    const QTransform outer = ownTransform(node, *facts);
+    const Node &node = m_tree.node(index);
+    const QTransform outer = ownTransform(index, *facts);
+    const bool mayAsk = !facts->style->attributes.isEmpty() || node.attributes.contains(AttributeId::TransformBox);
+    const TransformBox box = mayAsk ? transformBoxOf(node, *facts->style) : TransformBox::View;
+    if (box == TransformBox::OfContent || box == TransformBox::OfStrokes) {
+        m_measuring->used = true;
+        facts->referenceRevision = m_referenceRevision;
+    }
     QTransform local;
     if (node.kind == ElementKind::Use) {
         const LengthReader lengths(node, *facts->style, facts->viewport);
@@ -396,11 +474,11 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
     facts->parent = parent;
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
     resolveStyle(index, kept, facts);
-    resolvePlace(node, facts);
+    resolvePlace(index, facts);
     if (parent)
         facts->context = parent->context;
     if (node.kind == ElementKind::Use)
-        facts->context = useContext(*facts);
+        resolveContext(index, facts);
     if (m_messages)
         warn(node, leftOut(m_tree, index));
     if (node.kind == ElementKind::Text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resolve/contentbounds.h"
 #include "resolve/facts.h"
 #include "resolve/gradients.h"
 #include "style/stylecache.h"
@@ -28,13 +29,14 @@ class Resolver
 {
 public:
     /// `gradients` and `fonts` keep what is known of them as long as the reference revision stays; `messages`, when
-    /// given, gets what could not be understood.
+    /// given, gets what could not be understood, and `measuring` counts what is measured for boxes of content.
     Resolver(const Tree &tree, quint32 referenceRevision, GradientCache *gradients, DocumentFonts *fonts,
-             Messages *messages = nullptr)
+             ContentMeasuring *measuring, Messages *messages = nullptr)
         : m_tree(tree)
         , m_referenceRevision(referenceRevision)
         , m_gradients(gradients)
         , m_fonts(fonts)
+        , m_measuring(measuring)
         , m_messages(messages)
     {
         m_gradients->setRevision(referenceRevision);
@@ -45,12 +47,16 @@ public:
     /// root.
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept = {}) const;
     /// What "transform" says of an element, its origin applied.
-    QTransform ownTransform(const Node &node, const Facts &facts) const;
+    QTransform ownTransform(NodeIndex index, const Facts &facts) const;
 
 private:
     StyleCache *styles() const;
     void resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
-    void resolvePlace(const Node &node, Facts *facts) const;
+    void resolvePlace(NodeIndex index, Facts *facts) const;
+    bool canMeasure() const;
+    MeasuredContent contentOf(NodeIndex index, const Facts &facts, ContentBox box) const;
+    QRectF transformBox(NodeIndex index, const Facts &facts, const LengthContext &context) const;
+    void resolveContext(NodeIndex index, Facts *facts) const;
     void resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     std::shared_ptr<const ImageContent> image(const QString &reference, Problem *problem) const;
     void resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
@@ -67,7 +73,12 @@ private:
     quint32 m_referenceRevision;
     GradientCache *m_gradients;
     DocumentFonts *m_fonts;
+    ContentMeasuring *m_measuring;
     Messages *m_messages;
+    /// The element whose content is measured, which is done without its own transform.
+    NodeIndex m_measured = noNode;
+    /// How many elements around this one are being measured.
+    int m_measuringDepth = 0;
     mutable GlyphOutlines m_glyphs;
     mutable std::unique_ptr<StyleCache> m_styles;
     mutable QHash<QString, std::shared_ptr<const ImageContent>> m_images;

@@ -212,7 +212,7 @@ bool applyEffectColor(ComputedStyle &style, QColor EffectStyle::*member, QString
         effectsOf(style).*member = style.color;
         return true;
     }
-    const std::optional<QColor> color = parseColor(text);
+    const std::optional<QColor> color = parseColor(text, {style.color});
     if (color)
         effectsOf(style).*member = *color;
     return color.has_value();

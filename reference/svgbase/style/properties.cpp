@@ -89,7 +89,7 @@ bool applyColor(QColor &target, QStringView text, const QColor &currentColor)
         target = currentColor;
         return true;
     }
-    const std::optional<QColor> color = parseColor(text);
+    const std::optional<QColor> color = parseColor(text, {currentColor});
     if (color)
         target = *color;
     return color.has_value();
@@ -97,7 +97,7 @@ bool applyColor(QColor &target, QStringView text, const QColor &currentColor)
 
 bool applyPaint(Paint &target, QStringView text, const QColor &currentColor)
 {
-    std::optional<Paint> paint = parsePaint(text);
+    std::optional<Paint> paint = parsePaint(text, currentColor);
     if (!paint)
         return false;
     if (paint->kind == Paint::CurrentColor)

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QLatin1String>
+#include <QtCore/QVector>
+
+#include <optional>
+
+namespace Svg {
+
+enum class MathFunction {
+    Calc,
+    Minimum,
+    Maximum,
+    Clamp,
+    RoundNearest,
+    RoundUp,
+    RoundDown,
+    RoundToZero,
+    Modulo,
+    Remainder,
+    Absolute,
+    Hypotenuse,
+    Sign,
+    SquareRoot,
+    Power,
+    Exponential,
+    Logarithm,
+    Sine,
+    Cosine,
+    Tangent,
+    ArcSine,
+    ArcCosine,
+    ArcTangent,
+    ArcTangent2
+};
+
+/// What the arguments of a function have to be, and what it gives.
+enum class MathSignature {
+    /// All of one kind, which the result has, too.
+    SameKind,
+    /// All of one kind; a plain number.
+    NumberOfAny,
+    Numbers,
+    /// Of an angle, in degrees, or a number, in radians.
+    NumberOfAngle,
+    AngleOfNumber,
+    AngleOfAny
+};
+
+/// Nothing for a name of no function.
+std::optional<MathFunction> mathFunction(QLatin1String name);
+MathSignature signatureOf(MathFunction function);
+bool takesArguments(MathFunction function, int count);
+/// The value of a function (CSS Values 4 §10.3 to §10.7); angles in degrees.
+double appliedFunction(MathFunction function, const QVector<double> &arguments);
+
+} // namespace Svg

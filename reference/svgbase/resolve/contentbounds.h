@@ -1,0 +1,37 @@
+#pragma once
+
+#include "resolve/facts.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+class Resolver;
+
+/// What measuring of content took, for a document as it is at a revision of its references.
+struct ContentMeasuring
+{
+    quint32 revision = 0;
+    int visits = 0;
+    /// Whether facts of some element depend on what is inside of it.
+    bool used = false;
+};
+
+enum class ContentBox { Fill, Stroke };
+
+/// What is known of the content of an element once it was measured.
+struct MeasuredContent
+{
+    /// In the units that the facts of the element are mapped to; null without geometry.
+    QRectF bounds;
+    /// Whether something inside is painted as whatever uses it.
+    bool takesContextPaint = false;
+    /// Whether there was too much of it.
+    bool tooMuch = false;
+};
+
+/// Bounds of an element and all that is drawn inside of it, what it uses included (SVG 2 §8.10). Whatever is too
+/// much is left out.
+MeasuredContent measuredContent(const Resolver &resolver, const Tree &tree, NodeIndex top,
+                                const FactsPointer &facts, ContentBox box, ContentMeasuring *measuring);
+
+} // namespace Svg
