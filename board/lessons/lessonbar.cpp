@@ -107,6 +107,8 @@ void LessonBar::layOut(const LessonMenu &menu)
     row->setSpacing(smallGap);
     row->addWidget(buttonOf(menu.record));
     row->addWidget(m_pauseRecording);
+    // A long message may be cut off before it keeps the window from becoming smaller.
+    m_message->setMinimumWidth(1);
     row->addWidget(m_message, 1);
     row->addWidget(m_play);
     row->addWidget(m_timeLine, 1);

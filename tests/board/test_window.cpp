@@ -26,6 +26,7 @@ private Q_SLOTS:
     void firstWindowFitsTheScreen();
     void windowOpensAsItWasLeft();
     void panelsOpenAsTheyWereLeft();
+    void smallestWindowCutsNoPaletteButton_data();
     void smallestWindowCutsNoPaletteButton();
     void darkColoursAreRemembered();
     void longNamesAreShortenedInTheStatusLine();
@@ -84,9 +85,17 @@ void TestWindow::panelsOpenAsTheyWereLeft()
     QVERIFY(!historyDock(window)->toggleViewAction()->isChecked());
 }
 
+void TestWindow::smallestWindowCutsNoPaletteButton_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << "en";
+    QTest::newRow("German") << "de";
+}
+
 void TestWindow::smallestWindowCutsNoPaletteButton()
 {
-    BoardDriver board;
+    QFETCH(QString, language);
+    BoardDriver board(language);
     QMainWindow &window = board.window();
     window.resize(1, 1);
     QTest::qWait(50);
