@@ -9,6 +9,7 @@ namespace Svg {
 namespace {
 
 constexpr int deepestCondition = 16;
+constexpr int mostTerms = 100;
 
 Truth opposite(Truth truth)
 {
@@ -86,7 +87,9 @@ std::optional<Truth> ConditionReader::read()
     }
     std::optional<Truth> result = readTerm();
     const char *joint = nullptr;
-    while (result && !m_cursor.atEnd()) {
+    for (int terms = 1; result && !m_cursor.atEnd(); ++terms) {
+        if (terms >= mostTerms)
+            return std::nullopt;
         const bool isAnd = takeWord("and");
         if (!isAnd && !takeWord("or"))
             return std::nullopt;

@@ -7,6 +7,8 @@ namespace Svg {
 namespace {
 
 constexpr int mostEscapeDigits = 6;
+/// No value has nearly as many parts.
+constexpr int mostWords = 100;
 constexpr uint lastCodePoint = 0x10ffff;
 
 bool isCssSpace(QChar c)
@@ -197,7 +199,7 @@ QVector<QStringView> cssWords(QStringView text)
     CssCursor cursor(text);
     for (;;) {
         cursor.skipSpace();
-        if (cursor.atEnd())
+        if (cursor.atEnd() || words.size() >= mostWords)
             return words;
         const QChar *begin = cursor.at;
         cursor.skipTo(" \t\n\r\f");

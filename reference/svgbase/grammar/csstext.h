@@ -33,7 +33,7 @@ struct CssCursor
     void skipTo(const char *stops);
 };
 
-/// The parts of a value between white space, commas and strings and brackets kept whole.
+/// The parts of a value between white space, strings and brackets kept whole; the first hundred of them.
 QVector<QStringView> cssWords(QStringView text);
 /// The text without its comments.
 QString withoutComments(QStringView text);

@@ -11,6 +11,9 @@ namespace Svg {
 
 namespace {
 
+/// Queries of a list that are looked at.
+constexpr int mostQueries = 100;
+
 struct Feature
 {
     QLatin1String name;
@@ -95,7 +98,8 @@ Truth screenHas(const QString &function, QStringView content)
     if (!function.isEmpty())
         return Truth::Unknown;
     const QString text = content.toString().simplified().toLower();
-    if (text.contains(QRegularExpression(QStringLiteral("[<>=]"))))
+    const auto has = [&text](char c) { return text.contains(QLatin1Char(c)); };
+    if (has('<') || has('>') || has('='))
         return rangedFeature(text);
     const int colon = text.indexOf(QLatin1Char(':'));
     if (colon < 0)
@@ -143,12 +147,13 @@ bool includesScreens(QStringView media)
     if (text.isEmpty())
         return true;
     CssCursor cursor(text);
+    int left = mostQueries;
     do {
         const QChar *begin = cursor.at;
         cursor.skipTo(",");
         if (holdsForScreens(QStringView(begin, cursor.at).trimmed()))
             return true;
-    } while (cursor.take(','));
+    } while (cursor.take(',') && --left > 0);
     return false;
 }
 

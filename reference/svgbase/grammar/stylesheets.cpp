@@ -101,6 +101,7 @@ private:
     const SheetSurroundings &m_surroundings;
     CascadeLayers &m_layers;
     StyleSheet *m_sheet;
+    int m_conditionsLeft = Limits::styleRules;
 };
 
 void SheetParser::report(const QChar *at, const QString &text, bool tooMany)
@@ -257,9 +258,9 @@ void SheetParser::parseAtRule(const Block &block)
         if (!holds)
             report(begin, QStringLiteral("\"%1\" is not taken as a layer.").arg(quoted(prelude)));
     } else if (isName(name, "media")) {
-        holds = includesScreens(prelude);
+        holds = --m_conditionsLeft >= 0 && includesScreens(prelude);
     } else if (isName(name, "supports")) {
-        holds = isSupported(prelude);
+        holds = --m_conditionsLeft >= 0 && isSupported(prelude);
     } else if (isName(name, "font-face")) {
         parseFontFace(block);
         return;

@@ -54,6 +54,8 @@ private:
 
     const Tree &m_tree;
     int m_customLeft = 0;
+    /// Declarations of rules that may still be looked at.
+    int m_stepsLeft = 0;
     QVarLengthArray<Declaration, 16> m_list;
     QVector<const RuleBlock *> m_matches;
     /// Texts that the list's views look at.
@@ -90,6 +92,9 @@ void DeclarationList::addMatches(bool important)
     if (important)
         turnLayers();
     for (const RuleBlock *block : qAsConst(m_matches)) {
+        m_stepsLeft -= block->declarations.size();
+        if (m_stepsLeft < 0)
+            break;
         for (int i = block->declarations.size() - 1; i >= 0; --i) {
             const RuleDeclaration &declaration = block->declarations.at(i);
             if (declaration.important != important || known.test(size_t(declaration.property)))
@@ -149,6 +154,7 @@ bool DeclarationList::collect(NodeIndex element)
 {
     bool complete = true;
     m_customLeft = mostCustomProperties(m_tree, element);
+    m_stepsLeft = qMax(Limits::leastSelectorSteps, Limits::selectorSteps / m_tree.size());
     const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
@@ -170,7 +176,7 @@ bool DeclarationList::collect(NodeIndex element)
         addStyle(style->value, true);
     if (animated)
         addStyle(animated->value, false);
-    return complete;
+    return complete && m_stepsLeft >= 0;
 }
 
 // "em" and "currentColor" in other properties need these.

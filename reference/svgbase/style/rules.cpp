@@ -197,8 +197,15 @@ void StyleRules::index(const QVector<int> &layerRanks)
     }
 }
 
+// Rules inside of rules hold each other's selectors many times over.
 void StyleRules::noteAttributes(const Selector &selector)
 {
+    if (--m_notesLeft < 0) {
+        m_notesLeft = 0;
+        m_anyNamespace = true;
+    }
+    if (m_anyNamespace)
+        return;
     for (const Compound &compound : selector.compounds) {
         if (!compound.ids.isEmpty())
             m_attributes.insert(QStringLiteral("id"));

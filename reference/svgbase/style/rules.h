@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grammar/stylesheets.h"
+#include "inputlimits.h"
 #include "tree/message.h"
 #include "tree/tree.h"
 
@@ -77,6 +78,8 @@ private:
     QVector<FontFaceRule> m_fontFaces;
     /// Whether a rule asks for an attribute of any namespace.
     bool m_anyNamespace = false;
+    /// Selectors whose attributes are still noted; those of others may be any.
+    int m_notesLeft = Limits::styleRules;
     bool m_full = false;
 };
 

@@ -304,7 +304,7 @@ void SelectorMatcher::takeText(const AttributeTest &test, const Node &node)
         return;
     }
     for (const Attribute &attribute : node.attributes) {
-        takeStep();
+        m_stepsLeft -= stepsOfName;
         takeText(attribute.value);
     }
 }

@@ -57,6 +57,8 @@ private:
     void takeText(const AttributeTest &test, const Node &node);
 
     static constexpr int charactersPerStep = 32;
+    /// What finding the name of an attribute costs.
+    static constexpr int stepsOfName = 8;
 
     const Tree &m_tree;
     int m_stepsLeft;

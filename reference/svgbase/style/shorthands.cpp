@@ -9,6 +9,9 @@ namespace Svg {
 
 namespace {
 
+/// Characters of a list of features that are read.
+constexpr int longestFeatures = 1000;
+
 bool isOneOf(const QString &word, std::initializer_list<const char *> words)
 {
     return std::any_of(words.begin(), words.end(), [&](const char *known) {
@@ -148,7 +151,7 @@ QVector<Longhand> featureLonghands(const QString &value)
     if (isWideKeyword(value) || isOneOf(value, {"normal"}))
         return {};
     QVector<Longhand> result;
-    const QStringList features = value.split(QLatin1Char(','));
+    const QStringList features = value.left(longestFeatures).split(QLatin1Char(','));
     for (const QString &feature : features) {
         const QVector<QStringView> words = cssWords(feature);
         const bool isOff = words.size() == 2 && isOneOf(words.at(1).toString(), {"0", "off"});

@@ -103,6 +103,7 @@ void DocumentFonts::setRevision(quint32 revision)
     m_revision = revision;
     m_read = false;
     m_faces.clear();
+    m_loadsLeft = Limits::fonts;
     m_fonts.clear();
 }
 
@@ -157,7 +158,8 @@ void DocumentFonts::addSheetFace(const Tree &tree, const QString &source, const 
                 continue;
         } else {
             const std::optional<QByteArray> file = parseDataUri(reference);
-            const std::shared_ptr<FileFont> font = file ? FileFont::load(*file) : nullptr;
+            const bool isTried = file && --m_loadsLeft >= 0;
+            const std::shared_ptr<FileFont> font = isTried ? FileFont::load(*file) : nullptr;
             if (!font)
                 continue;
             found.font = noNode - 1 - m_faces.size();
@@ -165,7 +167,7 @@ void DocumentFonts::addSheetFace(const Tree &tree, const QString &source, const 
         }
         m_faces.append(found);
         return;
-    } while (cursor.take(','));
+    } while (cursor.take(',') && m_loadsLeft > 0);
 }
 
 void DocumentFonts::readSheetFaces(const Tree &tree)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inputlimits.h"
 #include "style/computedstyle.h"
 #include "text/documentfont.h"
 
@@ -61,6 +62,8 @@ private:
 
     quint32 m_revision = 0;
     bool m_read = false;
+    /// Files that may still be tried.
+    int m_loadsLeft = Limits::fonts;
     QVector<Face> m_faces;
     /// By their elements; those of style sheets by numbers below `noNode`.
     QHash<NodeIndex, DocumentFontPointer> m_fonts;

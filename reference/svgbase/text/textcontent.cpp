@@ -139,6 +139,9 @@ void TextCollector::close()
 
 void TextCollector::appendCharacter(const QString &characters, int at, int length)
 {
+    // Capitals may be more letters than there were.
+    if (m_content.characters.size() >= Limits::textCharacters)
+        return;
     TextCharacter character;
     character.begin = m_content.text.size();
     character.length = length;
