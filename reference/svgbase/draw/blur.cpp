@@ -16,7 +16,7 @@ constexpr double boxDeviation = 2;
 constexpr double smallestDeviation = 0.01;
 constexpr double reachOfWeights = 3;
 /// How far beyond its edges a picture is looked at, at most, as a multiple of its size.
-constexpr int farthestEdge = 8;
+constexpr int farthestEdge = 2;
 
 /// Averages `before` values before each one to `after` values after it.
 class BoxBlur
@@ -134,6 +134,9 @@ void blurLines(QImage *picture, double deviation, bool columns, EdgeMode edges, 
     if (!(deviation > smallestDeviation))
         return;
     const int length = columns ? picture->height() : picture->width();
+    // Where edges go on, a wider blur makes no difference that could be seen.
+    if (edges != EdgeMode::None)
+        deviation = qMin(deviation, farthestEdge * length / reachOfWeights);
     const LineBlur blur =
         deviation < boxDeviation
             ? weightedBlur(deviation)

@@ -21,6 +21,8 @@ namespace {
 
 /// What a primitive costs, in plain passes over its pixels.
 constexpr double plainCost = 2;
+/// How many times as long lines are at most where a blur looks beyond edges.
+constexpr double extendedLines = 5;
 constexpr double lineCost = 40;
 constexpr double lightCost = 40;
 constexpr double factorCost = 4;
@@ -428,6 +430,8 @@ bool isEncoded(ElementKind kind)
 
 double costOfPixel(const FilterPrimitive &primitive)
 {
+    if (primitive.edges != EdgeMode::None)
+        return lineCost * extendedLines;
     if (primitive.convolution)
         return plainCost + factorCost * primitive.convolution->factors.size();
     if (primitive.turbulence)
