@@ -209,3 +209,34 @@ def nested_use_bounds(n):
 def bounds_of_groups(n):
     return svg('<clipPath id="c" clipPathUnits="objectBoundingBox"><rect width="1" height="1"/></clipPath>' +
                '<g clip-path="url(#c)">' * 400 + '<rect width="9" height="9"/>' * (20000 // n) + "</g>" * 400)
+
+
+TURNED = 'style="transform-box:fill-box;transform-origin:center;transform:rotate(1deg)"'
+
+
+@document
+def boxes_in_boxes(n):
+    return svg(f"<g {TURNED}>" * 500 + '<rect width="9" height="9"/>' * (20000 // n) + "</g>" * 500)
+
+
+@document
+def boxes_many(n):
+    return svg(f'<g {TURNED}><rect width="9" height="9"/></g>' * (20000 // n))
+
+
+@document
+def boxes_of_uses(n):
+    groups = '<g id="a0"><rect width="9" height="9" fill="context-fill"/></g>'
+    for i in range(1, 7):
+        groups += f'<g id="a{i}">' + f'<use href="#a{i - 1}" fill="url(#g)" {TURNED}/>' * 10 + "</g>"
+    return svg('<linearGradient id="g"><stop/><stop offset="1"/></linearGradient>' + groups)
+
+
+@document
+def blurs_beyond_edges(n):
+    shapes = ""
+    for i, size in enumerate(["1e9", "1e-9 1e300", ".5 1e5", "nan", "40"] * (50 // n)):
+        edges = ["wrap", "duplicate"][i % 2]
+        shapes += (f'<filter id="f{i}" x="0" y="0" width="1" height="1"><feGaussianBlur stdDeviation="{size}" '
+                   f'edgeMode="{edges}"/></filter><rect width="100" height="100" filter="url(#f{i})"/>')
+    return svg(shapes)

@@ -175,3 +175,47 @@ def pattern_large_tiles(n):
                        'patternTransform="scale(.05)">'
                        '<circle r="1"/></pattern><rect width="100" height="100" fill="url(#p%d)" '
                        'transform="scale(400)"/>' % i for i in range(2000 // n)))
+
+
+@document
+def css_rules_inside_rules(n):
+    lists = ",".join(["rect"] * 8) + "{"
+    return svg(f"<style>{lists * 14}fill:red</style>" + '<rect width="9" height="9"/>' * (2000 // n))
+
+
+@document
+def css_outer_selectors_multiplied(n):
+    rules = ":is(&amp;,&amp; &amp;,&amp; > &amp;){" * 15
+    return svg(f"<style>{rules}fill:red</style>" + "<g>" * 100 + '<rect width="9" height="9"/>' * (500 // n) +
+               "</g>" * 100)
+
+
+@document
+def css_all_unset(n):
+    return svg("<style>" + "rect{all:unset}" * (20000 // n) + "</style>" + '<rect width="1" height="1"/>' * (5000 // n))
+
+
+@document
+def css_has(n):
+    rules = "".join("g:has(rect ~ rect:has(x)) rect:has(~ *:nth-child(2n of rect))"
+                    f",g:has(rect + rect) rect:has(~ rect.c{i}){{fill:red}}" for i in range(300))
+    return svg(f"<style>{rules}</style><g>" + '<rect width="1" height="1"/>' * (5000 // n) + "</g>")
+
+
+@document
+def css_nth_of(n):
+    rules = ":nth-child(2n of :nth-child(2n of :nth-child(2n of *))){fill:red}" * 50
+    return svg(f"<style>{rules}</style>" + '<rect width="1" height="1"/>' * (20000 // n))
+
+
+@document
+def css_layers(n):
+    rules = "".join(f"@layer l{i}{{rect{{fill:red}}}}" for i in range(100000 // n))
+    return svg(f"<style>{rules}</style>" + '<rect width="1" height="1"/>' * 1000)
+
+
+@document
+def css_nested_functions(n):
+    width = "min(1%," * 15 + "1px" + ")" * 15
+    mixed = "color-mix(in oklch, " * 15 + "red" + ", blue)" * 15
+    return svg(f'<rect height="9" style="width:{width};fill:{mixed}"/>' * (5000 // n))

@@ -156,3 +156,27 @@ def text_font_of_many_languages(n):
     tags = ",".join(f"x{i}" for i in range(100))
     glyphs = f'<glyph unicode="a" lang="{tags}" d="M0 0H9V9"/>' * (1000 // n)
     return svg(font(glyphs) + f'<text y="50" font-family="F, sans-serif" xml:lang="y">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_lines_of_many_kinds(n):
+    parts = '<tspan style="text-decoration:overline dashed .01px">some text </tspan>' * (5000 // n)
+    return svg(f'<text font-size="20" y="50" style="text-decoration:underline dotted .001px red">{parts}</text>')
+
+
+@document
+def text_waves(n):
+    words = "some text " * (5000 // n)
+    return svg(f'<text font-size="20" y="50" style="text-decoration:underline wavy 1e-9px">{words}</text>'
+               '<text font-size="20" y="90" style="text-decoration:underline wavy 1e30px">some text</text>')
+
+
+@document
+def text_capitals(n):
+    return svg('<text y="50" style="text-transform:uppercase">' + "\u00df" * (90000 // n) + "</text>")
+
+
+@document
+def text_font_faces(n):
+    face = "@font-face{font-family:a;src:url(data:font/ttf;base64,AAEAAAAAAAA=)}"
+    return svg(f"<style>{face * (20000 // n)}</style>" + '<text font-family="a" y="50">abc</text>')

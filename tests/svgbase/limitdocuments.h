@@ -95,6 +95,22 @@ inline QString motion(int elements)
            QString("h1h-1").repeated((elements - 1) / 2) + (elements % 2 ? "" : "h1") + "'/></rect>";
 }
 
+inline QString layersOf(int layers)
+{
+    return "<style>" + numbered("@layer l#N{}", layers) + "</style>" + rect();
+}
+
+inline QString boxesInBoxes(int levels)
+{
+    return nested("<g style='transform-box:fill-box;transform:translate(0)'>", "</g>", levels, rect());
+}
+
+inline QString boxAround(int shapes)
+{
+    return "<g style='transform-box:fill-box;transform:translate(0)'>" +
+           QString("<rect width='1' height='1'/>").repeated(shapes - 1) + rect() + "</g>";
+}
+
 inline QString patternsOf(int patterns)
 {
     return numbered("<pattern id='p#N' width='1' height='1'><rect width='94' height='94' fill='#0f0'/></pattern>"

@@ -226,6 +226,13 @@ void TestLimits::drawUpToTheLimit_data()
            values(Limits::animationValues + 1), true);
     addRow("animation begins", Message::TooManyAnimationConditions, begins(Limits::animationConditions),
            begins(Limits::animationConditions + 1), true);
+    addRow("layers of style sheets", Message::InvalidStyleSheet, layersOf(Limits::styleLayers),
+           layersOf(Limits::styleLayers + 1), true);
+    addRow("boxes inside each other", Message::TooManyBoundsVisits, boxesInBoxes(Limits::contentDepth),
+           boxesInBoxes(Limits::contentDepth + 1), true);
+    // The group itself is visited, too.
+    addRow("shapes in a box", Message::TooManyBoundsVisits, boxAround(Limits::contentVisits - 1),
+           boxAround(Limits::contentVisits), true);
     addRow("text that is referred to", Message::TooManyCharacters, referredText(Limits::trefCharacters),
            referredText(Limits::trefCharacters + 1), true);
     // The line is 80 long.

@@ -131,7 +131,7 @@ MeasuredContent ContentMeter::measure(NodeIndex top, const FactsPointer &facts)
             continue;
         }
         if (m_measuring->visits >= Limits::contentVisits) {
-            m_result.tooMuch = true;
+            m_result.tooMuch = m_measuring->cut = true;
             break;
         }
         const bool direct = m_tree.node(level.node).kind == ElementKind::Use;

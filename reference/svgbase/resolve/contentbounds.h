@@ -14,6 +14,8 @@ struct ContentMeasuring
     int visits = 0;
     /// Whether facts of some element depend on what is inside of it.
     bool used = false;
+    /// Whether something was not measured since it would have taken too much.
+    bool cut = false;
 };
 
 enum class ContentBox { Fill, Stroke };

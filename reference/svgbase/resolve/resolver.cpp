@@ -21,6 +21,7 @@
 #include "style/textproperties.h"
 
 #include <array>
+#include <utility>
 
 namespace Svg {
 
@@ -163,7 +164,9 @@ bool Resolver::canMeasure() const
         m_measuring->revision = m_referenceRevision;
         m_measuring->visits = 0;
     }
-    return m_measuringDepth < Limits::contentDepth && m_measuring->visits < Limits::contentVisits;
+    const bool can = m_measuringDepth < Limits::contentDepth && m_measuring->visits < Limits::contentVisits;
+    m_measuring->cut |= !can;
+    return can;
 }
 
 // In the units of the element, its own transform left out.
@@ -474,11 +477,16 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
     facts->parent = parent;
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
     resolveStyle(index, kept, facts);
+    const bool measuredBefore = std::exchange(m_measuring->cut, false);
     resolvePlace(index, facts);
     if (parent)
         facts->context = parent->context;
     if (node.kind == ElementKind::Use)
         resolveContext(index, facts);
+    if (m_measuring->cut)
+        warn(node, {Message::TooManyBoundsVisits,
+                    QStringLiteral("Boxes for transforms and paints take too long to measure; others are used.")});
+    m_measuring->cut |= measuredBefore;
     if (m_messages)
         warn(node, leftOut(m_tree, index));
     if (node.kind == ElementKind::Text)
