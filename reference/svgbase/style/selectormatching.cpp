@@ -105,7 +105,7 @@ uint classHash(QStringView name)
 
 bool containsWord(QStringView list, QStringView word)
 {
-    if (word.isEmpty())
+    if (word.isEmpty() || std::any_of(word.begin(), word.end(), isSpaceCharacter))
         return false;
     qsizetype from = 0;
     while ((from = list.indexOf(word, from)) >= 0) {

@@ -68,7 +68,8 @@ private:
 
 /// Calls a function with the words of a list separated by white space, the first ones up to a number.
 void forEachWord(QStringView list, int most, const std::function<void(QStringView)> &use);
-/// Whether one of the words of a list separated by white space is `word`.
+/// Whether one of the words of a list separated by white space is `word`; never where that holds white space itself
+/// (Selectors 4 §6.1).
 bool containsWord(QStringView list, QStringView word);
 
 } // namespace Svg
