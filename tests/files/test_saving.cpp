@@ -69,6 +69,7 @@ private Q_SLOTS:
     void fullDiskLeavesTheOldFileAndSaysSo();
     void missingFolderIsTold();
     void folderInTheWayIsTold();
+    void pipeStaysAPipe();
     void linkStaysALink();
     void permissionsStay();
 
@@ -172,6 +173,23 @@ void TestSaving::folderInTheWayIsTold()
     const SaveResult result = saveDocument(*document, folder.path());
     QVERIFY(!result.saved);
     QCOMPARE(result.problem.textKey, QStringLiteral("IDS_FILE_CANNOT_WRITE"));
+}
+
+/// Renaming would make a file of it.
+void TestSaving::pipeStaysAPipe()
+{
+    const QTemporaryDir folder;
+    const std::unique_ptr<Document> document = documentOfSize(10, 1);
+    const QString file = folder.filePath(QStringLiteral("pipe.board"));
+    const QByteArray pipe = QFile::encodeName(file);
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    const SaveResult result = saveDocument(*document, file);
+    QVERIFY(!result.saved);
+    QCOMPARE(result.problem.textKey, QStringLiteral("IDS_FILE_CANNOT_WRITE"));
+    struct stat facts = {};
+    QCOMPARE(stat(pipe.constData(), &facts), 0);
+    QVERIFY(S_ISFIFO(facts.st_mode));
+    QCOMPARE(filesIn(folder), QStringList());
 }
 
 void TestSaving::linkStaysALink()

@@ -23,10 +23,20 @@ QString systemProblem()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
+/// Devices and pipes: a file would take their place.
+bool isSpecial(const QString &file)
+{
+    const QFileInfo info(file);
+    return info.exists() && !info.isFile() && !info.isDir();
+}
+
 } // namespace
 
 WriteResult writeDurably(const QString &file, const QByteArray &bytes)
 {
+    if (isSpecial(file)) {
+        return failed(QString::fromLocal8Bit(std::strerror(EOPNOTSUPP)));
+    }
     QSaveFile out(file);
     if (!out.open(QIODevice::WriteOnly)) {
         return failed(out.errorString());
