@@ -28,10 +28,15 @@ void ButtonFlow::addWidget(QWidget *widget)
     m_columns = 0;
 }
 
+int ButtonFlow::widthOfColumns(int columns) const
+{
+    const int oneWidget = m_widgets.isEmpty() ? 0 : m_widgets.first()->sizeHint().width();
+    return columns * (oneWidget + m_grid->spacing()) - m_grid->spacing();
+}
+
 QSize ButtonFlow::minimumSizeHint() const
 {
-    const int oneButton = m_widgets.isEmpty() ? 0 : m_widgets.first()->sizeHint().width();
-    return {oneButton, QWidget::minimumSizeHint().height()};
+    return {widthOfColumns(1), QWidget::minimumSizeHint().height()};
 }
 
 int ButtonFlow::columnCount() const

@@ -19,6 +19,8 @@ public:
     void addWidget(QWidget *widget);
     /// One button wide, however many stand in a row now: else the flow would never become narrower.
     QSize minimumSizeHint() const override;
+    /// Room for so many of its widgets beside each other, logical pixels.
+    int widthOfColumns(int columns) const;
     /// Arranges the widgets anew after one was shown or hidden; the whole flow hides when none is shown.
     void rearrange();
 

@@ -26,6 +26,7 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
     , m_search(new QLineEdit(this))
+    , m_scroll(new QScrollArea(this))
 {
     m_search->setPlaceholderText(workspace->text("IDS_BOARD_SEARCH"));
     m_search->setAccessibleName(workspace->text("IDS_BOARD_SEARCH"));
@@ -38,20 +39,32 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     groups->setSpacing(largeGap);
     addGroups(groups);
     groups->addStretch();
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(content);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidget(content);
     // In the smallest window one column is still whole.
-    if (const auto *button = content->findChild<PaletteButton *>())
-        scroll->setMinimumWidth(button->sizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
+    m_scroll->setMinimumWidth(widthOfColumns(1));
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
     column->setSpacing(largeGap);
     column->addWidget(m_search);
-    column->addWidget(scroll, 1);
+    column->addWidget(m_scroll, 1);
     paintPictures();
+}
+
+/// Of the scrolled part.
+int PalettePanel::widthOfColumns(int columns) const
+{
+    const int frame = 2 * m_scroll->frameWidth() + m_scroll->verticalScrollBar()->sizeHint().width();
+    return frame + (m_flows.isEmpty() ? 0 : m_flows.first()->widthOfColumns(columns));
+}
+
+QSize PalettePanel::sizeHint() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int width = margins.left() + widthOfColumns(2) + margins.right();
+    return {width, QWidget::sizeHint().height()};
 }
 
 void PalettePanel::addGroups(QVBoxLayout *column)

@@ -4,6 +4,7 @@
 #include <QtWidgets/QWidget>
 
 class QLineEdit;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace board {
@@ -23,6 +24,8 @@ public:
     /// Shows which kind waits to be drawn; an empty id for none.
     void showWaitingKind(const QString &kindId);
     QVector<PaletteButton *> buttons() const { return m_buttons; }
+    /// Room for two kinds beside each other.
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// The user wants to draw one; an empty id when the user no longer wants to.
@@ -36,11 +39,13 @@ protected:
 private:
     void addGroups(QVBoxLayout *column);
     void addButton(ButtonFlow *flow, const QString &kindId, const QString &name);
+    int widthOfColumns(int columns) const;
     void paintPictures();
     void filter(const QString &words);
 
     const Workspace *m_workspace;
     QLineEdit *m_search;
+    QScrollArea *m_scroll;
     QVector<PaletteButton *> m_buttons;
     QVector<ButtonFlow *> m_flows;
 };

@@ -48,7 +48,6 @@ namespace {
 
 constexpr QSize firstSize(1400, 900);
 constexpr QSize toolIconSize(22, 22);
-constexpr int leftPanelWidth = 220;
 constexpr int rightPanelWidth = 300;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
@@ -189,7 +188,7 @@ void MainWindow::addPanels()
     // The strip of pages and the tabs speak for themselves.
     for (QDockWidget *dock : {pages, style, settings, properties})
         dock->setTitleBarWidget(new QWidget(dock));
-    resizeDocks({palette, style}, {leftPanelWidth, rightPanelWidth}, Qt::Horizontal);
+    resizeDocks({palette, style}, {m_palette->sizeHint().width(), rightPanelWidth}, Qt::Horizontal);
     resizeDocks({style, history}, {3, 2}, Qt::Vertical);
     QMenu *panels = menuBar()->addMenu(m_workspace->text("IDS_BOARD_PANELS"));
     for (QDockWidget *dock : {palette, style, settings, properties, history, pages})

@@ -24,6 +24,7 @@ class TestWindow : public QObject
 private Q_SLOTS:
     void init();
     void firstWindowFitsTheScreen();
+    void windowShowsTwoShapesInARow();
     void windowOpensAsItWasLeft();
     void panelsOpenAsTheyWereLeft();
     void smallestWindowCutsNoPaletteButton_data();
@@ -49,6 +50,19 @@ void TestWindow::firstWindowFitsTheScreen()
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
     QVERIFY2(window.minimumSizeHint().width() <= screen.width(), "panels and tools need more than that");
     QCOMPARE(window.size(), screen - QSize(16, 40));
+}
+
+void TestWindow::windowShowsTwoShapesInARow()
+{
+    BoardDriver board;
+    const auto *palette = board.window().findChild<board::PalettePanel *>();
+    const QWidget *shown = palette->findChild<QScrollArea *>()->viewport();
+    const QPoint first = palette->buttons().at(0)->mapTo(shown, QPoint());
+    const QPoint second = palette->buttons().at(1)->mapTo(shown, QPoint());
+    QCOMPARE(second.y(), first.y());
+    QVERIFY(second.x() > first.x());
+    const int wanted = 2 * palette->buttons().at(0)->sizeHint().width() + board::smallGap;
+    QVERIFY2(shown->width() >= wanted, qPrintable(QStringLiteral("%1 of %2").arg(shown->width()).arg(wanted)));
 }
 
 void TestWindow::windowOpensAsItWasLeft()
