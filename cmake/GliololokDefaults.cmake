@@ -26,8 +26,9 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
+    # Paths relative to the source tree let builds of different names share what they have in common.
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
-                                    "${CCACHE_PROGRAM}")
+                                    "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" "${CCACHE_PROGRAM}")
 endif()
 
 if(GLIOLOLOK_SANITIZE)

@@ -51,6 +51,33 @@ install_packages() {
         fail "apt-get could not install the packages."
 }
 
+# prepare COMMAND: installs and builds what a command needs. Packages, preset and targets of each are decided here alone.
+prepare() {
+    case $1 in
+    run)
+        install_packages build run
+        build board board
+        ;;
+    test)
+        install_packages build test
+        build release
+        ;;
+    test-sanitized)
+        install_packages build test
+        build asan
+        ;;
+    test-threads)
+        install_packages build test
+        build tsan
+        ;;
+    fuzz)
+        install_packages build test fuzz
+        build fuzz fuzzers
+        ;;
+    *) fail "Nothing is known about what '$1' needs." ;;
+    esac
+}
+
 # build PRESET [TARGET...]: configures and builds; without targets, everything.
 build() {
     local preset=$1
