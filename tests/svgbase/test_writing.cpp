@@ -40,6 +40,8 @@ private slots:
     void removedAttributesAreNotWritten();
     void documentWideStyleDrawsTheSame_data();
     void documentWideStyleDrawsTheSame();
+    void gradientThatFadesKeepsItsLook_data();
+    void gradientThatFadesKeepsItsLook();
     void styledTextKeepsTheStyleOfItsParts();
 };
 
@@ -152,6 +154,7 @@ void TestWriting::documentWideStyleDrawsTheSame_data()
     add("no fill", [](QZeSvgTinyDocument &d) { d.setAllFillBrush(Qt::NoBrush); });
     add("linear gradient", [](QZeSvgTinyDocument &d) {
         QLinearGradient gradient(10, 10, 80, 60);
+        gradient.setInterpolationMode(QGradient::ComponentInterpolation);
         gradient.setColorAt(0, Qt::red);
         gradient.setColorAt(1, QColor(0, 0, 255, 100));
         gradient.setSpread(QGradient::ReflectSpread);
@@ -173,6 +176,40 @@ void TestWriting::documentWideStyleDrawsTheSame()
     style(*document);
     QVERIFY(drawn(*document) != before);
     QCOMPARE(drawn(*again(*document)), drawn(*document));
+}
+
+void TestWriting::gradientThatFadesKeepsItsLook_data()
+{
+    QTest::addColumn<QColor>("from");
+    QTest::addColumn<QColor>("to");
+    QTest::newRow("into another colour") << QColor(255, 0, 0) << QColor(0, 0, 255, 100);
+    QTest::newRow("to nothing") << QColor(255, 0, 0) << QColor(0, 0, 255, 0);
+    QTest::newRow("out of nothing") << QColor(255, 255, 255, 0) << QColor(0, 0, 0);
+    QTest::newRow("almost to nothing") << QColor(255, 255, 0) << QColor(0, 0, 255, 3);
+}
+
+// Painters mix colours that are multiplied by their alpha; SVG mixes each channel on its own (SVG 1.1 §13.2.4).
+// The stops in between are rounded to whole channels, which with the painter's own rounding makes two at most.
+void TestWriting::gradientThatFadesKeepsItsLook()
+{
+    QFETCH(QColor, from);
+    QFETCH(QColor, to);
+    QLinearGradient gradient(0, 0, 100, 0);
+    gradient.setColorAt(0, from);
+    gradient.setColorAt(1, to);
+    const DocumentPointer document = loadContent(QStringLiteral("<rect width='100' height='1'/>"));
+    document->setAllFillBrush(gradient);
+    const QImage before = drawn(*document);
+    const QImage after = drawn(*again(*document));
+    for (int x = 0; x < 100; ++x) {
+        const QRgb a = reinterpret_cast<const QRgb *>(before.constScanLine(0))[x];
+        const QRgb b = reinterpret_cast<const QRgb *>(after.constScanLine(0))[x];
+        const QByteArray where =
+            QByteArray::number(x) + ": " + QByteArray::number(a, 16) + " " + QByteArray::number(b, 16);
+        QVERIFY2(qAbs(qRed(a) - qRed(b)) <= 2 && qAbs(qGreen(a) - qGreen(b)) <= 2 &&
+                     qAbs(qBlue(a) - qBlue(b)) <= 2 && qAbs(qAlpha(a) - qAlpha(b)) <= 2,
+                 where.constData());
+    }
 }
 
 void TestWriting::styledTextKeepsTheStyleOfItsParts()

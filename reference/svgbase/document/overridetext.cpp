@@ -106,6 +106,56 @@ void writeCircles(XmlText *xml, const QRadialGradient &gradient)
     xml->attribute(QStringLiteral("fr"), numberText(gradient.focalRadius()));
 }
 
+double mixed(double from, double to, double share)
+{
+    return from + (to - from) * share;
+}
+
+QColor mixedColor(const QColor &from, const QColor &to, double share, double alpha)
+{
+    return QColor::fromRgbF(mixed(from.redF(), to.redF(), share), mixed(from.greenF(), to.greenF(), share),
+                            mixed(from.blueF(), to.blueF(), share), alpha);
+}
+
+// Equal steps of the colour, which a painter weights by the alpha; the alpha itself changes evenly. The colour of
+// an end that can't be seen doesn't count.
+void appendWeighted(const QGradientStop &from, const QGradientStop &to, QGradientStops *stops)
+{
+    const double alpha = from.second.alphaF();
+    const double alphaAtEnd = to.second.alphaF();
+    if (alpha <= 0 || alphaAtEnd <= 0) {
+        const QColor seen = alpha > 0 ? from.second : to.second;
+        stops->append({from.first, mixedColor(seen, seen, 0, alpha)});
+        stops->append({to.first, mixedColor(seen, seen, 0, alphaAtEnd)});
+        return;
+    }
+    constexpr int parts = 32;
+    for (int part = 0; part <= parts; ++part) {
+        const double share = part / double(parts);
+        const double place = share * alpha / mixed(alphaAtEnd, alpha, share);
+        stops->append({mixed(from.first, to.first, place),
+                       mixedColor(from.second, to.second, share, mixed(alpha, alphaAtEnd, place))});
+    }
+}
+
+// Painters may multiply colours by their alpha before they mix them, SVG never does (SVG 1.1 §13.2.4): stops in
+// between keep the look.
+QGradientStops stopsOfChannels(const QGradient &gradient)
+{
+    const QGradientStops stops = gradient.stops();
+    if (gradient.interpolationMode() == QGradient::ComponentInterpolation)
+        return stops;
+    QGradientStops result;
+    for (int i = 0; i < stops.size(); ++i) {
+        const bool fades = i > 0 && stops.at(i - 1).second.alpha() != stops.at(i).second.alpha();
+        if (fades)
+            appendWeighted(stops.at(i - 1), stops.at(i), &result);
+        else
+            result.append(stops.at(i));
+    }
+    return result;
+}
+
 void writeStops(XmlText *xml, const QGradientStops &stops)
 {
     for (const QGradientStop &stop : stops) {
@@ -133,7 +183,7 @@ void writeGradient(XmlText *xml, const QString &id, const QBrush &brush)
     else
         writeCircles(xml, static_cast<const QRadialGradient &>(gradient));
     xml->closeTag();
-    writeStops(xml, gradient.stops());
+    writeStops(xml, stopsOfChannels(gradient));
     xml->endTag(name);
     xml->newLine();
 }

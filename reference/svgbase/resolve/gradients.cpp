@@ -62,12 +62,34 @@ GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
     }
 }
 
+// Points belong to lines and circles to radial gradients: a reference to the other kind doesn't bring them along
+// (SVG 1.1 §13.2.2, §13.2.3).
+bool isOfKind(AttributeId id, ElementKind kind)
+{
+    switch (id) {
+    case AttributeId::X1:
+    case AttributeId::Y1:
+    case AttributeId::X2:
+    case AttributeId::Y2:
+        return kind == ElementKind::LinearGradient;
+    case AttributeId::Cx:
+    case AttributeId::Cy:
+    case AttributeId::R:
+    case AttributeId::Fx:
+    case AttributeId::Fy:
+    case AttributeId::Fr:
+        return kind == ElementKind::RadialGradient;
+    default:
+        return true;
+    }
+}
+
 QString GradientChain::value(AttributeId id) const
 {
     for (const NodeIndex index : m_nodes) {
-        const Attributes &attributes = m_tree.node(index).attributes;
-        if (attributes.contains(id))
-            return attributes.value(id);
+        const Node &node = m_tree.node(index);
+        if (isOfKind(id, node.kind) && node.attributes.contains(id))
+            return node.attributes.value(id);
     }
     return QString();
 }
@@ -200,6 +222,15 @@ QGradient::Spread spread(const QString &method)
     return QGradient::PadSpread;
 }
 
+// Painters multiply colours by their alpha before they mix them; SVG mixes each channel on its own (SVG 1.1
+// §13.2.4).
+void takeStops(QGradient *gradient, const QGradientStops &stops, QGradient::Spread spread)
+{
+    gradient->setInterpolationMode(QGradient::ComponentInterpolation);
+    gradient->setStops(stops);
+    gradient->setSpread(spread);
+}
+
 GradientCache::Known prepared(const GradientChain &chain, double opacity, const ComputedStyle &style)
 {
     GradientCache::Known known;
@@ -214,13 +245,10 @@ GradientCache::Known prepared(const GradientChain &chain, double opacity, const 
         stops = followingLight(stops);
     separate(stops);
     const QGradient::Spread method = spread(chain.value(AttributeId::SpreadMethod));
-    if (chain.kind() == ElementKind::LinearGradient) {
-        known.linear.setStops(stops);
-        known.linear.setSpread(method);
-    } else {
-        known.radial.setStops(stops);
-        known.radial.setSpread(method);
-    }
+    if (chain.kind() == ElementKind::LinearGradient)
+        takeStops(&known.linear, stops, method);
+    else
+        takeStops(&known.radial, stops, method);
     return known;
 }
 
