@@ -37,6 +37,11 @@ private slots:
     void damagedFileIsRefused();
     void bombIsRefused();
     void limitCountsWhatComesOut();
+    void membersFollowEachOther();
+    void damagedSecondMemberIsRefused();
+    void limitCountsAllMembers();
+    void fillBehindTheLastMemberIsIgnored();
+    void documentOfSeveralMembersIsLoaded();
 };
 
 void TestGunzip::compressedDocumentIsLoaded()
@@ -85,6 +90,43 @@ void TestGunzip::limitCountsWhatComesOut()
     QVERIFY(Svg::isGzip(file));
     QCOMPARE(Svg::gunzip(file, 10).value_or(QByteArray()), QByteArray("0123456789"));
     QVERIFY(!Svg::gunzip(file, 9));
+}
+
+// RFC 1952 §2.2: a file is a series of members, and empty ones count, too.
+void TestGunzip::membersFollowEachOther()
+{
+    const QByteArray file = gzipped("0123") + gzipped("") + gzipped("456") + gzipped("789");
+    QCOMPARE(Svg::gunzip(file, 10).value_or(QByteArray()), QByteArray("0123456789"));
+}
+
+void TestGunzip::damagedSecondMemberIsRefused()
+{
+    QByteArray second = gzipped("456");
+    second[second.size() - 8] = char(second.at(second.size() - 8) ^ 1);
+    QVERIFY(!Svg::gunzip(gzipped("0123") + second, 10));
+    const QByteArray cut = gzipped("456").left(15);
+    QVERIFY(!Svg::gunzip(gzipped("0123") + cut, 10));
+}
+
+void TestGunzip::limitCountsAllMembers()
+{
+    const QByteArray file = gzipped("0123") + gzipped("456");
+    QVERIFY(Svg::gunzip(file, 7));
+    QVERIFY(!Svg::gunzip(file, 6));
+}
+
+void TestGunzip::fillBehindTheLastMemberIsIgnored()
+{
+    const QByteArray file = gzipped("0123") + QByteArray(100, '\0');
+    QCOMPARE(Svg::gunzip(file, 10).value_or(QByteArray()), QByteArray("0123"));
+}
+
+void TestGunzip::documentOfSeveralMembersIsLoaded()
+{
+    const QByteArray text = svgText(QStringLiteral("<rect id='r' width='10' height='10'/>"));
+    const DocumentPointer document(QZeSvgTinyDocument::load(gzipped(text.left(20)) + gzipped(text.mid(20))));
+    QVERIFY(document);
+    QCOMPARE(document->namedNode(QStringLiteral("r"))->boundingRect(), QRectF(0, 0, 10, 10));
 }
 
 QTEST_MAIN(TestGunzip)

@@ -2,13 +2,15 @@
 
 #include <zlib.h>
 
+#include <array>
+
 namespace Svg {
 
 namespace {
 
 /// Added to the window size, it makes zlib expect the header of a gzip file.
 constexpr int gzipHeader = 16;
-constexpr int pieceBytes = 64 * 1024;
+constexpr size_t pieceBytes = 64 * 1024;
 
 /// A zlib stream that is ended whatever happens.
 class Inflater
@@ -28,17 +30,24 @@ public:
     /// Appends the next piece; zlib's result.
     int inflatePiece(QByteArray *result)
     {
-        const int before = result->size();
-        result->resize(before + pieceBytes);
-        m_stream.next_out = reinterpret_cast<Bytef *>(result->data() + before);
-        m_stream.avail_out = pieceBytes;
+        m_stream.next_out = reinterpret_cast<Bytef *>(m_piece.data());
+        m_stream.avail_out = uInt(m_piece.size());
         const int status = inflate(&m_stream, Z_NO_FLUSH);
-        result->resize(before + pieceBytes - int(m_stream.avail_out));
+        result->append(m_piece.data(), int(m_piece.size() - m_stream.avail_out));
         return status;
+    }
+    /// Goes on to the next member of the file. False when what follows the last one is none: some programs fill
+    /// up the last block of a tape or a disk.
+    bool beginNextMember()
+    {
+        const QByteArray rest =
+            QByteArray::fromRawData(reinterpret_cast<const char *>(m_stream.next_in), int(m_stream.avail_in));
+        return isGzip(rest) && inflateReset(&m_stream) == Z_OK;
     }
 
 private:
     z_stream m_stream = {};
+    std::array<char, pieceBytes> m_piece;
     bool m_ready = false;
 };
 
@@ -59,9 +68,9 @@ std::optional<QByteArray> gunzip(const QByteArray &bytes, int limit)
         const int status = inflater.inflatePiece(&result);
         if (result.size() > limit)
             return std::nullopt;
-        if (status == Z_STREAM_END)
+        if (status == Z_STREAM_END && !inflater.beginNextMember())
             return result;
-        if (status != Z_OK)
+        if (status != Z_STREAM_END && status != Z_OK)
             return std::nullopt;
     }
 }
