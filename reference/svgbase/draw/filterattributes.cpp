@@ -278,7 +278,7 @@ FilterPrimitive PrimitiveReader::read()
         m_result.lighting = std::make_shared<const Lighting>(readLighting(m_tree, m_index, m_style, m_units));
         break;
     case ElementKind::FeTurbulence:
-        m_result.turbulence = std::make_shared<const Turbulence>(readTurbulence(m_node.attributes, m_units));
+        m_result.turbulence = std::make_shared<const Turbulence>(readTurbulence(m_node.attributes));
         break;
     default:
         break;

@@ -121,10 +121,20 @@ QSize readOrder(const Attributes &attributes)
     return isWhole(order.width()) && isWhole(order.height()) ? order.toSize() : usual.toSize();
 }
 
-// Zero and what is not said stand for the sum, which keeps brightness as it is.
+// What is left of factors that cancel each other out, in no order of adding them up exactly, counts as 0.
+double sumOf(const QVector<double> &factors)
+{
+    constexpr double roundingShare = 1e-12;
+    const auto addSize = [](double sum, double factor) { return sum + qAbs(factor); };
+    const double sum = std::accumulate(factors.constBegin(), factors.constEnd(), 0.0);
+    const double size = std::accumulate(factors.constBegin(), factors.constEnd(), 0.0, addSize);
+    return qAbs(sum) <= size * roundingShare ? 0 : sum;
+}
+
+// Zero and what is not said stand for the sum, which keeps brightness as it is (SVG 1.1 §15.13).
 void divide(QVector<double> *factors, double divisor)
 {
-    const double sum = std::accumulate(factors->constBegin(), factors->constEnd(), 0.0);
+    const double sum = sumOf(*factors);
     const double used = divisor != 0 ? divisor : sum != 0 ? sum : 1;
     for (double &factor : *factors)
         factor /= used;
@@ -140,15 +150,13 @@ bool readTarget(const Attributes &attributes, Convolution *result)
 
 } // namespace
 
-Turbulence readTurbulence(const Attributes &attributes, const PrimitiveUnits &units)
+// Frequencies are no lengths, so that the units of the filter's lengths leave them alone (SVG 1.1 §15.5).
+Turbulence readTurbulence(const Attributes &attributes)
 {
     Turbulence result;
     const QSizeF frequency = numberPair(text(attributes, "baseFrequency")).value_or(QSizeF(0, 0));
     if (frequency.width() >= 0 && frequency.height() >= 0)
         result.frequency = frequency;
-    if (units.ofBounds && !units.bounds.isEmpty())
-        result.frequency = QSizeF(result.frequency.width() / units.bounds.width(),
-                                  result.frequency.height() / units.bounds.height());
     result.octaves = qBound(0, wholeNumber(attributes, "numOctaves", 1), mostOctaves);
     result.fractal = text(attributes, "type") == QLatin1String("fractalNoise");
     result.stitches = text(attributes, "stitchTiles") == QLatin1String("stitch");
