@@ -18,6 +18,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
         const QRectF bounds = path ? path->boundingRect() : QRectF();
         require(qIsFinite(bounds.width() + bounds.height()), "a shape is finite");
     }
-    Svg::parseFilterList(text);
+    Svg::parseFilterList(text, Svg::FilterUnits::Optional);
     return 0;
 }

@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     const std::optional<double> opacity = Svg::parseOpacity(text);
     require(!opacity || (*opacity >= 0 && *opacity <= 1), "an opacity is a share");
     Svg::functionReference(text);
-    Svg::parseFilterList(text);
+    Svg::parseFilterList(text, Svg::FilterUnits::Optional);
     return 0;
 }

@@ -202,8 +202,7 @@ QBrush paintOf(const Paint &paint, double opacity)
 
 bool EffectBuilder::addFilter(LayerEffects *layer)
 {
-    const QString &list = m_facts->style->effects->filter;
-    if (list.isEmpty())
+    if (m_facts->style->effects->filter.isEmpty())
         return true;
     FilterTarget target{bounds(), m_facts->viewport, m_space, *m_facts->style};
     target.fillPaint = paintOf(m_facts->style->fill, m_facts->style->fillOpacity);
@@ -212,7 +211,7 @@ bool EffectBuilder::addFilter(LayerEffects *layer)
         target.fillPaint = m_facts->outlines.constFirst().fill;
     if (!m_facts->outlines.isEmpty() && m_facts->outlines.constFirst().strokePattern == noNode)
         target.strokePaint = m_facts->outlines.constFirst().strokePaint;
-    const BuiltFilter built = buildFilter(m_context, list, target);
+    const BuiltFilter built = buildFilter(m_context, target);
     layer->filter = built.filter;
     return built.drawn;
 }

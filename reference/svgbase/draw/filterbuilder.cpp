@@ -151,10 +151,11 @@ bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
 
 } // namespace
 
-BuiltFilter buildFilter(BuildContext &context, const QString &list, const FilterTarget &target)
+BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target)
 {
     BuiltFilter result;
-    const std::optional<QVector<FilterFunction>> functions = parseFilterList(list);
+    const std::optional<QVector<FilterFunction>> functions =
+        parseFilterList(target.style.effects->filter, target.style.effects->filterUnits);
     if (!functions || functions->isEmpty())
         return result;
     const auto filter = std::make_shared<Filter>();

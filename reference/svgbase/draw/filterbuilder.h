@@ -14,7 +14,7 @@ struct FilterTarget
     QRectF bounds;
     QSizeF viewport;
     QTransform toDocument;
-    /// Of the filtered element.
+    /// Of the filtered element, whose "filter" it says.
     const ComputedStyle &style;
     /// What paints it, where it is one shape.
     QBrush fillPaint = Qt::NoBrush;
@@ -31,6 +31,6 @@ struct BuiltFilter
     std::shared_ptr<Filter> filter;
 };
 
-BuiltFilter buildFilter(BuildContext &context, const QString &list, const FilterTarget &target);
+BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target);
 
 } // namespace Svg

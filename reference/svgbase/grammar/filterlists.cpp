@@ -67,35 +67,36 @@ bool readAmount(QStringView text, FilterFunction *function)
     return true;
 }
 
-// CSS takes no length and no angle without its unit, but for 0.
-bool hasUnit(QStringView text, double value)
+bool lacksUnit(QStringView text, double value, FilterUnits units)
 {
-    return value == 0 || !(text.back().isDigit() || text.back() == QLatin1Char('.'));
+    const bool bare = text.back().isDigit() || text.back() == QLatin1Char('.');
+    return units == FilterUnits::Required && bare && value != 0;
 }
 
-std::optional<Length> parseCssLength(QStringView text)
+std::optional<Length> parseFilterLength(QStringView text, FilterUnits units)
 {
     const std::optional<Length> length = parseLength(text);
-    return length && length->unit != Unit::Percent && hasUnit(text, length->value) ? length : std::nullopt;
+    return length && length->unit != Unit::Percent && !lacksUnit(text, length->value, units) ? length
+                                                                                             : std::nullopt;
 }
 
-bool readHue(QStringView text, FilterFunction *function)
+bool readHue(QStringView text, FilterUnits units, FilterFunction *function)
 {
     function->amount = 0;
     if (text.isEmpty())
         return true;
     const std::optional<double> angle = parseAngle(text);
-    if (!angle || !hasUnit(text, *angle))
+    if (!angle || lacksUnit(text, *angle, units))
         return false;
     function->amount = *angle;
     return true;
 }
 
-bool readBlur(QStringView text, FilterFunction *function)
+bool readBlur(QStringView text, FilterUnits units, FilterFunction *function)
 {
     if (text.isEmpty())
         return true;
-    const std::optional<Length> length = parseCssLength(text);
+    const std::optional<Length> length = parseFilterLength(text, units);
     if (!length || length->value < 0)
         return false;
     function->lengths[0] = *length;
@@ -113,7 +114,7 @@ bool readShadowColor(QStringView text, FilterFunction *function)
 }
 
 // Two or three lengths, with a colour before or behind them.
-bool readShadow(QStringView text, FilterFunction *function)
+bool readShadow(QStringView text, FilterUnits units, FilterFunction *function)
 {
     QVector<QStringView> parts = words(text);
     int lengths = 0;
@@ -125,7 +126,7 @@ bool readShadow(QStringView text, FilterFunction *function)
         return false;
     }
     for (const QStringView part : qAsConst(parts)) {
-        const std::optional<Length> length = parseCssLength(part);
+        const std::optional<Length> length = parseFilterLength(part, units);
         if (!length || lengths == 3)
             return false;
         function->lengths[lengths++] = *length;
@@ -133,21 +134,21 @@ bool readShadow(QStringView text, FilterFunction *function)
     return lengths >= 2 && function->lengths[2].value >= 0;
 }
 
-bool readArguments(QStringView text, FilterFunction *function)
+bool readArguments(QStringView text, FilterUnits units, FilterFunction *function)
 {
     switch (function->kind) {
     case FilterFunction::HueRotate:
-        return readHue(text, function);
+        return readHue(text, units, function);
     case FilterFunction::Blur:
-        return readBlur(text, function);
+        return readBlur(text, units, function);
     case FilterFunction::DropShadow:
-        return readShadow(text, function);
+        return readShadow(text, units, function);
     default:
         return readAmount(text, function);
     }
 }
 
-bool readFunction(QStringView word, FilterFunction *function)
+bool readFunction(QStringView word, FilterUnits units, FilterFunction *function)
 {
     function->id = functionReference(word);
     if (!function->id.isEmpty())
@@ -159,19 +160,19 @@ bool readFunction(QStringView word, FilterFunction *function)
         if (word.left(open).compare(known.name, Qt::CaseInsensitive) != 0)
             continue;
         function->kind = known.kind;
-        return readArguments(word.mid(open + 1, word.size() - open - 2).trimmed(), function);
+        return readArguments(word.mid(open + 1, word.size() - open - 2).trimmed(), units, function);
     }
     return false;
 }
 
 } // namespace
 
-std::optional<QVector<FilterFunction>> parseFilterList(QStringView text)
+std::optional<QVector<FilterFunction>> parseFilterList(QStringView text, FilterUnits units)
 {
     QVector<FilterFunction> list;
     for (const QStringView word : words(text.trimmed())) {
         FilterFunction function;
-        if (!readFunction(word, &function) || list.size() == Limits::filterPrimitives)
+        if (!readFunction(word, units, &function) || list.size() == Limits::filterPrimitives)
             return std::nullopt;
         list.append(function);
     }

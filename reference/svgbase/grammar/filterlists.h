@@ -36,7 +36,11 @@ struct FilterFunction
     QColor color;
 };
 
+/// Whether lengths and angles that are not 0 need their units, as in a style sheet, or are user units and degrees
+/// without them, as in a presentation attribute (SVG 1.1 §4.2).
+enum class FilterUnits : quint8 { Required, Optional };
+
 /// A list of filter functions and references; nothing when the text is none.
-std::optional<QVector<FilterFunction>> parseFilterList(QStringView text);
+std::optional<QVector<FilterFunction>> parseFilterList(QStringView text, FilterUnits units);
 
 } // namespace Svg

@@ -21,7 +21,12 @@ struct Declaration
     QStringView value;
     /// Said by the element itself rather than by a rule, whose errors are known already.
     bool own = true;
+    /// Said by a presentation attribute.
+    bool isAttribute = false;
 };
+
+/// What tells a presentation attribute apart from a style of the same text.
+constexpr ushort attributeMark = 0x100;
 
 // These have no presentation attribute (SVG 2 §6.6).
 bool isForStyleOnly(AttributeId property)
@@ -160,7 +165,7 @@ bool DeclarationList::collect(NodeIndex element)
     const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes) {
         if (isProperty(attribute.id) && !isForStyleOnly(attribute.id))
-            m_list.append({attribute.id, attribute.value});
+            m_list.append({attribute.id, attribute.value, true, true});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;
         else if (attribute.id == AttributeId::AnimatedStyle)
@@ -225,7 +230,8 @@ bool applyDeclaration(const Declaration &declaration, const PropertyContext &con
         used.value = text;
     }
     if (!isStyledAttribute(declaration.property))
-        return applyProperty(*style, used.property, used.value, context);
+        return applyProperty(*style, used.property, used.value,
+                             {context.parent, context.viewport, declaration.isAttribute});
     addStyledAttribute(style, used);
     return true;
 }
@@ -287,7 +293,7 @@ QString textOf(const DeclarationList &declarations)
     QString text;
     for (const Declaration &declaration : declarations.list()) {
         const auto length = uint(declaration.value.size());
-        text += QChar(ushort(declaration.property));
+        text += QChar(ushort(ushort(declaration.property) | (declaration.isAttribute ? attributeMark : 0)));
         text += QChar(ushort(length));
         text += QChar(ushort(length >> 16));
         text += declaration.value;

@@ -165,11 +165,14 @@ bool applyClip(ComputedStyle &style, QStringView text)
     return true;
 }
 
-bool applyFilter(ComputedStyle &style, QStringView text)
+bool applyFilter(ComputedStyle &style, QStringView text, const PropertyContext &context)
 {
     const QString list = text == QLatin1String("none") ? QString() : text.toString();
     if (knownEffects(style).filter != list)
         effectsOf(style).filter = list;
+    const FilterUnits units = context.isAttribute ? FilterUnits::Optional : FilterUnits::Required;
+    if (!list.isEmpty() && knownEffects(style).filterUnits != units)
+        effectsOf(style).filterUnits = units;
     return !text.isEmpty();
 }
 
@@ -252,7 +255,6 @@ BlendMode blendModeOf(QStringView name)
 bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView value,
                          const PropertyContext &context)
 {
-    Q_UNUSED(context)
     switch (property) {
     case AttributeId::Clip:
         return applyClipRect(style, value);
@@ -265,7 +267,7 @@ bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView
     case AttributeId::ColorInterpolationFilters:
         return applyKeyword(style.filtersLinear, value, colorInterpolations);
     case AttributeId::Filter:
-        return applyFilter(style, value);
+        return applyFilter(style, value, context);
     case AttributeId::FloodColor:
         return applyEffectColor(style, &EffectStyle::floodColor, value);
     case AttributeId::FloodOpacity:
@@ -322,6 +324,7 @@ void inheritEffectProperty(ComputedStyle &style, AttributeId property, const Com
         break;
     case AttributeId::Filter:
         inheritMember(style, &EffectStyle::filter, parent);
+        inheritMember(style, &EffectStyle::filterUnits, parent);
         break;
     case AttributeId::FloodColor:
         inheritMember(style, &EffectStyle::floodColor, parent);

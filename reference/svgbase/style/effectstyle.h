@@ -1,5 +1,7 @@
 #pragma once
 
+#include "grammar/filterlists.h"
+
 #include <QtCore/QSharedData>
 #include <QtCore/QString>
 #include <QtGui/QColor>
@@ -46,6 +48,7 @@ struct EffectStyle : QSharedData
     MaskMode maskMode = MaskMode::MatchSource;
     /// The text of a list of filter functions and references; empty for "none".
     QString filter;
+    FilterUnits filterUnits = FilterUnits::Required;
     BlendMode blendMode = BlendMode::Normal;
     bool isolated = false;
     Overflow overflow = Overflow::Unset;

@@ -11,6 +11,8 @@ struct PropertyContext
 {
     const ComputedStyle &parent;
     QSizeF viewport;
+    /// Whether the value stands in a presentation attribute, whose grammar is not quite that of a style sheet.
+    bool isAttribute = false;
 };
 
 /// Applies one property to a style. A value that its grammar does not accept changes nothing and gives false.
