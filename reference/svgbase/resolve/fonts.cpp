@@ -202,7 +202,7 @@ QFont outlineFont(const FontStyle &style, const TextStyle &text)
     font.setWeight(qtFontWeight(style.weight));
     font.setItalic(style.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setKerning(text.kerning);
+    font.setKerning(text.fontKerns());
     if (text.stretch != QFont::Unstretched)
         setStretch(font, text.stretch);
     if (text.smallCaps != SmallCaps::None)

@@ -52,6 +52,9 @@ struct FontWords
     QString variant = QStringLiteral("normal");
     QString weight = QStringLiteral("normal");
     QString stretch = QStringLiteral("normal");
+    QString size;
+    QString lineHeight = QStringLiteral("normal");
+    QString family;
 };
 
 // The words before the size; false for one that has no place there.
@@ -70,15 +73,18 @@ bool readFontWord(const QString &word, FontWords *font)
     return true;
 }
 
-QVector<Longhand> fontOf(const FontWords &font, const QString &size, const QString &family)
+// What the shorthand has no word for becomes as usual (CSS Fonts 4 §2.7).
+QVector<Longhand> fontOf(const FontWords &font, const QString &kerning, const QString &sizeAdjust)
 {
-    return {{AttributeId::FontStyle, font.style},   {AttributeId::FontVariant, font.variant},
-            {AttributeId::FontWeight, font.weight}, {AttributeId::FontStretch, font.stretch},
-            {AttributeId::FontSize, size},          {AttributeId::FontFamily, family}};
+    return {{AttributeId::FontStyle, font.style},     {AttributeId::FontVariant, font.variant},
+            {AttributeId::FontWeight, font.weight},   {AttributeId::FontStretch, font.stretch},
+            {AttributeId::FontSize, font.size},       {AttributeId::LineHeight, font.lineHeight},
+            {AttributeId::FontFamily, font.family},   {AttributeId::FontKerning, kerning},
+            {AttributeId::FontSizeAdjust, sizeAdjust}};
 }
 
-// "12px/1.5", "12px / 1.5" and "12px" alone: the line height is passed over. What stands behind, the families.
-QString behindSize(const QVector<QStringView> &words, int size, QStringView text)
+// "12px/1.5", "12px / 1.5" and "12px" alone. What stands behind, the families.
+void readBehindSize(const QVector<QStringView> &words, int size, QStringView text, FontWords *font)
 {
     int last = size;
     const auto slash = QLatin1Char('/');
@@ -87,16 +93,18 @@ QString behindSize(const QVector<QStringView> &words, int size, QStringView text
     else if (last + 1 < words.size() && words.at(last + 1).startsWith(slash))
         last += words.at(last + 1).size() > 1 ? 1 : 2;
     if (last >= words.size())
-        return QString();
-    const QStringView word = words.at(last);
-    return text.mid(word.end() - text.begin()).trimmed().toString();
+        return;
+    const QStringView behind(words.at(size).begin() + font->size.size(), words.at(last).end());
+    if (behind.contains(slash))
+        font->lineHeight = behind.mid(behind.indexOf(slash) + 1).trimmed().toString();
+    font->family = text.mid(words.at(last).end() - text.begin()).trimmed().toString();
 }
 
 // CSS 2.1 §15.8: words in any order, the size with an optional line height, the families.
 QVector<Longhand> fontLonghands(const QString &value)
 {
     if (isWideKeyword(value))
-        return fontOf({value, value, value, value}, value, value);
+        return fontOf({value, value, value, value, value, value, value}, value, value);
     FontWords font;
     const QVector<QStringView> words = cssWords(value);
     for (int i = 0; i < words.size(); ++i) {
@@ -107,8 +115,10 @@ QVector<Longhand> fontLonghands(const QString &value)
         // A number without a unit is a weight as long as a size follows.
         const bool weightComes = isFontWeight(word) && i + 2 < words.size();
         if (!weightComes && isFontSize(size)) {
-            const QString family = behindSize(words, i, value);
-            return family.isEmpty() ? QVector<Longhand>() : fontOf(font, size, family);
+            font.size = size;
+            readBehindSize(words, i, value, &font);
+            return font.family.isEmpty() ? QVector<Longhand>()
+                                         : fontOf(font, QStringLiteral("auto"), QStringLiteral("none"));
         }
         if (!readFontWord(word, &font))
             break;

@@ -178,12 +178,13 @@ bool applySpacing(double &spacing, QStringView text, double fontSize)
 // A length stands in the place of the font's own kerning (SVG 1.1 §10.11).
 bool applyKerning(TextStyle &text, QStringView value, double fontSize)
 {
-    const bool automatic = value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0;
-    if (automatic)
-        text.kerningSpacing = 0;
-    else if (!applySpacing(text.kerningSpacing, value, fontSize))
+    text.kerningSpacing.reset();
+    if (value.compare(QLatin1String("auto"), Qt::CaseInsensitive) == 0)
+        return true;
+    double spacing = 0;
+    if (!applySpacing(spacing, value, fontSize))
         return false;
-    text.kerning = automatic;
+    text.kerningSpacing = spacing;
     return true;
 }
 
@@ -496,7 +497,6 @@ void copyText(TextStyle &text, AttributeId property, const TextStyle &from)
         text.orientation = from.orientation;
         break;
     case AttributeId::Kerning:
-        text.kerning = from.kerning;
         text.kerningSpacing = from.kerningSpacing;
         break;
     case AttributeId::LineHeight:

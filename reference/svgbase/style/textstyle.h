@@ -46,8 +46,8 @@ struct TextStyle : QSharedData
 {
     double letterSpacing = 0;
     double wordSpacing = 0;
-    /// What a "kerning" of its own adds to the letter spacing.
-    double kerningSpacing = 0;
+    /// Added to the letter spacing in the place of the font's kerning; nothing where the font kerns.
+    std::optional<double> kerningSpacing;
     /// Width of the letters in percent, as `QFont` counts it.
     int stretch = 100;
     /// The x-height as a share of the font size that a font is scaled to; 0 leaves fonts as they are.
@@ -61,6 +61,7 @@ struct TextStyle : QSharedData
     bool underlineUnder = false;
     SmallCaps smallCaps = SmallCaps::None;
     TextTransform transform = TextTransform::None;
+    /// Whether the font may kern, unless a distance is given above.
     bool kerning = true;
     bool ligatures = true;
     bool rightToLeft = false;
@@ -70,6 +71,10 @@ struct TextStyle : QSharedData
     /// Styles of groups around the text that ask for lines, outermost first.
     QVector<std::shared_ptr<const ComputedStyle>> decorations;
     Baseline dominantBaseline = Baseline::Auto;
+
+    bool fontKerns() const { return kerning && !kerningSpacing; }
+    /// Room that follows each letter, user units.
+    double spacing() const { return letterSpacing + kerningSpacing.value_or(0); }
 };
 
 enum class UnicodeBidi : quint8 { Normal, Embed, Isolate, Plaintext, Override, IsolateOverride };

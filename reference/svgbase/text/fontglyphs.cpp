@@ -79,7 +79,7 @@ void LevelGlyphs::addGlyph(const FontGlyph &glyph, TextCluster *cluster) const
 
 double LevelGlyphs::kerning(const FontGlyph &first, const FontGlyph &second) const
 {
-    if (!textStyleOf(m_level.style).kerning)
+    if (!textStyleOf(m_level.style).fontKerns())
         return 0;
     return m_level.font.font->kerning(first, second, m_vertical) * m_scale;
 }

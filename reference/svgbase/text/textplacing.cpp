@@ -89,7 +89,7 @@ ShapingMode TextPlacer::mode() const
     mode.separate = m_vertical;
     for (const TextLevel &level : m_content.levels) {
         const TextStyle &text = textStyleOf(level.style);
-        const bool spaced = text.letterSpacing != 0 || text.wordSpacing != 0 || text.kerningSpacing != 0;
+        const bool spaced = text.spacing() != 0 || text.wordSpacing != 0;
         mode.separate = mode.separate || spaced || level.path >= 0 || givenLength(m_tree, level);
     }
     mode.separate =

@@ -140,8 +140,7 @@ void Row::layOut()
         ++m_prefix;
     }
     QFont font = outlineFont(m_style.font, textStyleOf(m_style));
-    const bool spaced = textStyleOf(m_style).letterSpacing + textStyleOf(m_style).kerningSpacing != 0;
-    const bool isSplit = spaced || !textStyleOf(m_style).ligatures;
+    const bool isSplit = textStyleOf(m_style).spacing() != 0 || !textStyleOf(m_style).ligatures;
     if (isSplit && !isCursive(codeOf(m_content.text, m_content.characters.at(m_run.begin))))
         font.setLetterSpacing(QFont::AbsoluteSpacing, leastSpacing);
     QTextOption option;
@@ -179,7 +178,7 @@ void Row::space(TextCluster *cluster) const
     const TextStyle &text = textStyleOf(m_style);
     const QChar first = m_content.text.at(m_content.characters.at(cluster->firstCharacter).begin);
     if (!isCursive(codeOf(m_content.text, m_content.characters.at(cluster->firstCharacter))))
-        cluster->advance += text.letterSpacing + text.kerningSpacing;
+        cluster->advance += text.spacing();
     if (first == QLatin1Char(' ') || first == QChar(QChar::Nbsp))
         cluster->advance += text.wordSpacing;
 }
