@@ -23,19 +23,13 @@ constexpr ushort firstStrongIsolate = 0x2068;
 constexpr ushort popIsolate = 0x2069;
 constexpr double endlessLine = 16777215;
 
-bool isMoved(const TextContent &content, const TextCharacter &character)
-{
-    const bool placed = character.x || character.y || character.dx != 0 || character.dy != 0;
-    return placed && canBePlaced(content.text, character);
-}
-
 bool isOverridden(const TextContent &content, int level)
 {
     const UnicodeBidi mode = inlineStyleOf(content.levels.at(level).style).unicodeBidi;
     return mode == UnicodeBidi::Override || mode == UnicodeBidi::IsolateOverride;
 }
 
-// Splits by level and place alone, as if everything went from left to right.
+// Splits by level alone, as if everything went from left to right.
 QVector<BidiRun> levelRuns(const TextContent &content, int begin, int end)
 {
     QVector<BidiRun> runs;
@@ -43,7 +37,7 @@ QVector<BidiRun> levelRuns(const TextContent &content, int begin, int end)
         const TextCharacter &character = content.characters.at(i);
         const bool full = !runs.isEmpty() && i - runs.constLast().begin >= Limits::shapedCharacters;
         const bool follows = i > begin && content.characters.at(i - 1).level == character.level;
-        if (follows && !full && !isMoved(content, character))
+        if (follows && !full)
             ++runs.last().end;
         else
             runs.append({i, i + 1, false, isOverridden(content, character.level)});
@@ -164,7 +158,7 @@ QVector<BidiRun> orderedRuns(const TextContent &content, int begin, int end)
         const bool known = !glyphs.isEmpty() && !glyphs.first().positions().isEmpty();
         const bool right = known ? glyphs.first().isRightToLeft() : !runs.isEmpty() && runs.constLast().rightToLeft;
         const bool follows = i > begin && content.characters.at(i - 1).level == character.level &&
-                             runs.constLast().rightToLeft == right && !isMoved(content, character);
+                             runs.constLast().rightToLeft == right;
         if (follows) {
             ++runs.last().end;
             if (known)

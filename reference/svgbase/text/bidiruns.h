@@ -18,7 +18,7 @@ struct BidiRun
 };
 
 /// The runs of a line of characters from left to right. None is longer than the limit of characters shaped
-/// together, and a character that is moved begins a new one.
+/// together.
 QVector<BidiRun> bidiRuns(const TextContent &content, int begin, int end);
 
 } // namespace Svg

@@ -92,9 +92,10 @@ ShapingMode TextPlacer::mode() const
         const bool spaced = text.spacing() != 0 || text.wordSpacing != 0;
         mode.separate = mode.separate || spaced || level.path >= 0 || givenLength(m_tree, level);
     }
-    mode.separate =
-        mode.separate || std::any_of(m_content.characters.begin(), m_content.characters.end(),
-                                     [](const TextCharacter &character) { return character.rotate != 0; });
+    for (int i = 0; i < m_content.characters.size() && !mode.separate; ++i) {
+        const TextCharacter &character = m_content.characters.at(i);
+        mode.separate = character.rotate != 0 || (isMoved(character) && !startsChunk(i));
+    }
     return mode;
 }
 

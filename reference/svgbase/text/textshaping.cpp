@@ -97,7 +97,7 @@ private:
     const TextContent &m_content;
     BidiRun m_run;
     ShapingMode m_mode;
-    TextServices m_services;
+    const TextServices &m_services;
     const TextLevel &m_level;
     const ComputedStyle &m_style;
     double m_scale;
@@ -313,6 +313,47 @@ QVector<TextCluster> Row::clusters()
     return clusters;
 }
 
+// The run, split before characters that are moved away from others that they share a glyph with.
+QVector<BidiRun> splitLigatures(const TextContent &content, const BidiRun &run,
+                                const QVector<TextCluster> &clusters)
+{
+    QVector<BidiRun> parts{run};
+    for (const TextCluster &cluster : clusters) {
+        for (int i = cluster.firstCharacter + 1; i < cluster.firstCharacter + cluster.characterCount; ++i) {
+            const TextCharacter &character = content.characters.at(i);
+            if (!isMoved(character) || !canBePlaced(content.text, character))
+                continue;
+            BidiRun rest = parts.constLast();
+            parts.last().end = rest.begin = i;
+            parts.append(rest);
+        }
+    }
+    if (run.rightToLeft)
+        std::reverse(parts.begin(), parts.end());
+    return parts;
+}
+
+QVector<TextCluster> rowClusters(const TextContent &content, const BidiRun &run, const ShapingMode &mode,
+                                 const TextServices &services)
+{
+    const QVector<TextCluster> whole = Row(content, run, mode, services).clusters();
+    const QVector<BidiRun> parts = splitLigatures(content, run, whole);
+    if (parts.size() == 1)
+        return whole;
+    QVector<TextCluster> clusters;
+    double left = 0;
+    for (const BidiRun &part : parts) {
+        double width = 0;
+        for (TextCluster cluster : Row(content, part, mode, services).clusters()) {
+            cluster.offset += left;
+            width += cluster.advance;
+            clusters.append(cluster);
+        }
+        left += width;
+    }
+    return clusters;
+}
+
 } // namespace
 
 bool canBePlaced(const QString &text, const TextCharacter &character)
@@ -329,6 +370,11 @@ bool canBePlaced(const QString &text, const TextCharacter &character)
     }
 }
 
+bool isMoved(const TextCharacter &character)
+{
+    return character.dx != 0 || character.dy != 0;
+}
+
 QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
                                 const TextServices &services)
 {
@@ -336,7 +382,7 @@ QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, 
     double left = 0;
     const QVector<BidiRun> runs = bidiRuns(content, begin, end);
     for (const BidiRun &run : runs) {
-        QVector<TextCluster> row = Row(content, run, mode, services).clusters();
+        QVector<TextCluster> row = rowClusters(content, run, mode, services);
         double width = 0;
         for (TextCluster &cluster : row) {
             cluster.offset += left;

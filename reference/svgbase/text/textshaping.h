@@ -31,6 +31,8 @@ struct ShapingMode
 
 /// Whether a character may be given a place; marks and joiners stay with what they follow.
 bool canBePlaced(const QString &text, const TextCharacter &character);
+/// Whether it is moved from where it would stand behind the one before.
+bool isMoved(const TextCharacter &character);
 
 /// The glyphs of the characters from `begin` up to `end` on one line, in the order of the characters; the
 /// bidirectional algorithm settles where each stands (Unicode UAX 9).
