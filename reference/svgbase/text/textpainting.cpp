@@ -32,6 +32,14 @@ struct Line
     int away;
 };
 
+// Vertical lines of letters that all lie on their sides are set as horizontal ones (CSS Writing Modes 4 §4.2).
+Baseline usualBaseline(const TextStyle &text)
+{
+    const bool vertical =
+        text.writingMode == WritingMode::Vertical && text.orientation != TextOrientation::Sideways;
+    return vertical ? Baseline::Central : Baseline::Alphabetic;
+}
+
 class TextPainter
 {
 public:
@@ -105,9 +113,8 @@ void TextPainter::measureLevels()
         Baseline aligned = inlineStyleOf(level.style).alignmentBaseline;
         if (aligned == Baseline::Auto || isText)
             aligned = text.dominantBaseline;
-        if (aligned == Baseline::Auto &&
-            textStyleOf(m_content.levels.first().style).writingMode != WritingMode::Horizontal)
-            aligned = Baseline::Central;
+        if (aligned == Baseline::Auto)
+            aligned = usualBaseline(textStyleOf(m_content.levels.first().style));
         measures.raised = shift - baselineHeight(aligned, measures.font);
         measures.paint = level.style;
         measures.paint.fillRule = textFillRule;
