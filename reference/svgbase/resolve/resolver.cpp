@@ -256,6 +256,19 @@ QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
            QTransform::fromTranslate(origin.x(), origin.y());
 }
 
+// Of an element where it is defined, whoever refers to it.
+QTransform Resolver::transformInTree(NodeIndex index, const QSizeF &viewport) const
+{
+    auto *around = new Facts;
+    auto *facts = new Facts;
+    const FactsPointer kept(facts);
+    facts->parent = FactsPointer(around);
+    around->style = StylePointer(new SharedStyle(styleInTree(m_tree, m_tree.node(index).parent)));
+    around->viewport = facts->viewport = viewport;
+    facts->style = StylePointer(new SharedStyle(styleInTree(m_tree, index)));
+    return Resolver(m_tree, m_referenceRevision, m_gradients, m_fonts, m_measuring).ownTransform(index, *facts);
+}
+
 void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
 {
     const Node &node = m_tree.node(index);
@@ -425,7 +438,11 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
         keepGeometry(m_tree.node(index), *kept.facts, facts);
         return;
     }
-    const TextOutlines text = layOutText(m_tree, index, *facts->style, facts->viewport, &m_glyphs, m_fonts);
+    const auto transformOf = [this](NodeIndex shape, const QSizeF &viewport) {
+        return transformInTree(shape, viewport);
+    };
+    const TextOutlines text =
+        layOutText(m_tree, index, *facts->style, facts->viewport, {&m_glyphs, m_fonts, transformOf});
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;

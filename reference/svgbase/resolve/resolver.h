@@ -52,6 +52,7 @@ public:
 private:
     StyleCache *styles() const;
     void resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
+    QTransform transformInTree(NodeIndex index, const QSizeF &viewport) const;
     void resolvePlace(NodeIndex index, Facts *facts) const;
     bool canMeasure() const;
     MeasuredContent contentOf(NodeIndex index, const Facts &facts, ContentBox box) const;

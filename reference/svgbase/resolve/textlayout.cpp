@@ -9,14 +9,14 @@
 namespace Svg {
 
 TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
-                        GlyphOutlines *glyphs, DocumentFonts *fonts)
+                        TextServices services)
 {
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return {};
     Problem problem;
-    const TextServices services{glyphs, fonts, &problem};
-    fonts->beginText(text);
-    TextContent content = collectText(tree, text, style, viewport, fonts);
+    services.problem = &problem;
+    services.fonts->beginText(text);
+    TextContent content = collectText(tree, text, style, viewport, services.fonts);
     resolvePositions(tree, viewport, &content);
     breakLines(&content, services);
     TextOutlines outlines = paintedText(content, placeText(tree, content, viewport, services));

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "style/computedstyle.h"
-#include "text/documentfonts.h"
-#include "text/glyphoutlines.h"
-#include "tree/message.h"
+#include "text/textservices.h"
 #include "tree/tree.h"
 
 #include <QtCore/QSizeF>
@@ -36,8 +34,8 @@ struct TextOutlines
 };
 
 /// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.
-/// `glyphs` keeps outlines for the next text, `fonts` what the document has of fonts.
+/// Problems are told in the result, not to `services`.
 TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
-                        GlyphOutlines *glyphs, DocumentFonts *fonts);
+                        TextServices services);
 
 } // namespace Svg

@@ -159,7 +159,7 @@ const TextWay &TextPlacer::way(int level)
     std::shared_ptr<TextWay> &known = m_ways[level];
     if (!known) {
         const TextLevel &path = m_content.levels.at(level);
-        known = std::make_shared<TextWay>(m_tree, path.node, path.style, m_viewport);
+        known = std::make_shared<TextWay>(m_tree, path.node, path.style, m_viewport, m_services.transformOf);
         if (known->isTooLong())
             *m_services.problem = {Message::TextPathTooLong,
                                    QStringLiteral("Text along a path of more than %1 elements is left out.")

@@ -3,16 +3,26 @@
 #include "text/documentfonts.h"
 #include "text/glyphoutlines.h"
 #include "tree/message.h"
+#include "tree/tree.h"
+
+#include <QtCore/QSizeF>
+#include <QtGui/QTransform>
+
+#include <functional>
 
 namespace Svg {
+
+/// What an element's own transform amounts to where percentages are of the given view.
+using OwnTransform = std::function<QTransform(NodeIndex node, const QSizeF &viewport)>;
 
 /// What setting a text needs besides the text.
 struct TextServices
 {
     GlyphOutlines *glyphs;
     DocumentFonts *fonts;
+    OwnTransform transformOf;
     /// Gets what was left out because of a limit.
-    Problem *problem;
+    Problem *problem = nullptr;
 };
 
 } // namespace Svg

@@ -4,7 +4,6 @@
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
 #include "grammar/pathdata.h"
-#include "grammar/transforms.h"
 #include "inputlimits.h"
 #include "resolve/geometry.h"
 #include "style/cascade.h"
@@ -24,24 +23,20 @@ NodeIndex referredShape(const Tree &tree, const Attributes &attributes)
 }
 
 // The shape's own transform counts, those around it don't (SVG 2 §11.8.1).
-QPainterPath shapePath(const Tree &tree, NodeIndex shape, const QSizeF &viewport)
+QPainterPath shapePath(const Tree &tree, NodeIndex shape, const QSizeF &viewport, const OwnTransform &transformOf)
 {
     if (shape == noNode)
         return QPainterPath();
-    const Node &node = tree.node(shape);
-    const ComputedStyle style = styleInTree(tree, shape);
-    const QPainterPath path = shapeGeometry(node, style, viewport).path;
-    const std::optional<QTransform> transform =
-        parseTransform(styledAttribute(node, style, AttributeId::Transform));
-    return transform ? transform->map(path) : path;
+    const QPainterPath path = shapeGeometry(tree.node(shape), styleInTree(tree, shape), viewport).path;
+    return transformOf(shape, viewport).map(path);
 }
 
-QPainterPath wayOf(const Tree &tree, NodeIndex textPath, const QSizeF &viewport)
+QPainterPath wayOf(const Tree &tree, NodeIndex textPath, const QSizeF &viewport, const OwnTransform &transformOf)
 {
     const Attributes &attributes = tree.node(textPath).attributes;
     const QString data = attributes.value(QStringLiteral("path"));
-    QPainterPath path =
-        data.isEmpty() ? shapePath(tree, referredShape(tree, attributes), viewport) : parsePathData(data).path;
+    QPainterPath path = data.isEmpty() ? shapePath(tree, referredShape(tree, attributes), viewport, transformOf)
+                                       : parsePathData(data).path;
     if (attributes.value(QStringLiteral("side")).trimmed() == QLatin1String("right"))
         path = path.toReversed();
     return path;
@@ -74,16 +69,16 @@ bool isFollowed(const QPainterPath &path)
 
 } // namespace
 
-TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport)
-    : TextWay(tree, textPath, style, viewport, wayOf(tree, textPath, viewport))
+TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
+                 const OwnTransform &transformOf)
+    : TextWay(tree, textPath, style, wayOf(tree, textPath, viewport, transformOf))
 {
 }
 
-TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
-                 const QPainterPath &path)
+TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QPainterPath &path)
     : m_measure(isFollowed(path) ? path : QPainterPath())
     , m_tooLong(!isFollowed(path))
-    , m_closed(isSingleLoop(wayOf(tree, textPath, viewport)))
+    , m_closed(isSingleLoop(path))
 {
     const QString text = tree.node(textPath).attributes.value(QStringLiteral("startOffset"));
     const std::optional<Length> offset = parseLength(text);

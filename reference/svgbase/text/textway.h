@@ -2,9 +2,7 @@
 
 #include "resolve/pathmeasure.h"
 #include "style/computedstyle.h"
-#include "tree/tree.h"
-
-#include <QtCore/QSizeF>
+#include "text/textservices.h"
 
 namespace Svg {
 
@@ -13,7 +11,8 @@ class TextWay
 {
 public:
     /// The way of a `textPath` element; without length where it refers to nothing.
-    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport);
+    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
+            const OwnTransform &transformOf);
 
     /// Whether the path has too many elements to be followed.
     bool isTooLong() const { return m_tooLong; }
@@ -27,8 +26,7 @@ public:
     QPointF end() const { return m_measure.at(m_measure.length()).point; }
 
 private:
-    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
-            const QPainterPath &path);
+    TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QPainterPath &path);
 
     PathMeasure m_measure;
     bool m_tooLong = false;
