@@ -51,6 +51,7 @@ private slots:
     void documentWideFillReachesText();
     void changedTspanMovesTheRest();
     void textWithoutCharactersHasNoBounds();
+    void hiddenTextHasTheBoundsOfItsVisibleParts();
     void changedWayMovesItsText();
     void changedGlyphsChangeTheirText_data();
     void changedGlyphsChangeTheirText();
@@ -181,6 +182,15 @@ void TestText::textWithoutCharactersHasNoBounds()
 {
     QVERIFY(textBounds(start + "x='10' y='10'> </text>").isNull());
     QVERIFY(textBounds("<text id='t' font-size='0'>H</text>").isNull());
+}
+
+void TestText::hiddenTextHasTheBoundsOfItsVisibleParts()
+{
+    const QRectF alone = textBounds(start + "x='10' y='50'>H</text>");
+    QVERIFY(!alone.isEmpty());
+    QCOMPARE(textBounds(start + "visibility='hidden'><tspan x='10' y='50' visibility='visible'>H</tspan>H</text>"),
+             alone);
+    QVERIFY(textBounds(start + "x='10' y='50' visibility='hidden'>H</text>").isNull());
 }
 
 void TestText::changedWayMovesItsText()

@@ -73,10 +73,12 @@ QRectF Document::visibleBounds(NodeIndex top)
 {
     QRectF bounds;
     bool first = true;
-    walkDrawing(*this, top, [&](NodeIndex, const FactsPointer &facts) {
+    walkDrawing(*this, top, [&](NodeIndex node, const FactsPointer &facts) {
         if (!facts->displayed)
             return false;
-        if (facts->hasGeometry && facts->style->visible) {
+        // Of a text the visible parts alone have bounds.
+        const bool isText = m_tree.node(node).kind == ElementKind::Text;
+        if (isText ? !facts->outlines.isEmpty() : facts->hasGeometry && facts->style->visible) {
             bounds = first ? facts->bounds : bounds | facts->bounds;
             first = false;
         }

@@ -6,15 +6,16 @@ namespace Svg {
 
 namespace {
 
-QRectF boundsIn(const Facts &facts, const QTransform &fromDocument)
+// Of a text the cells of its characters count, whatever is drawn in them.
+QRectF boundsIn(const Facts &facts, ElementKind kind, const QTransform &fromDocument)
 {
     const QTransform transform = facts.toDocument * fromDocument;
-    if (transform.type() <= QTransform::TxScale)
+    if (transform.type() <= QTransform::TxScale || kind == ElementKind::Text || facts.outlines.isEmpty())
         return transform.mapRect(facts.localBounds);
     QRectF bounds;
     for (const Outline &outline : facts.outlines)
         bounds |= transform.map(outline.path).boundingRect();
-    return facts.outlines.isEmpty() ? transform.mapRect(facts.localBounds) : bounds;
+    return bounds;
 }
 
 /// A union that keeps boxes without an area, which a line has.
@@ -48,7 +49,7 @@ QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &f
         return facts->hasGeometry ? facts->localBounds : QRectF();
     const QTransform fromDocument = facts->toDocument.inverted();
     BoundsUnion all;
-    const auto enter = [&](NodeIndex, const FactsPointer &below) {
+    const auto enter = [&](NodeIndex index, const FactsPointer &below) {
         if (!below->displayed)
             return false;
         if (++context.boundsVisits > Limits::boundsVisits) {
@@ -58,7 +59,7 @@ QRectF objectBounds(BuildContext &context, NodeIndex node, const FactsPointer &f
             return false;
         }
         if (below->hasGeometry)
-            all.add(boundsIn(*below, fromDocument));
+            all.add(boundsIn(*below, context.document.tree().node(index).kind, fromDocument));
         return true;
     };
     const bool used = context.document.facts(node) != facts;

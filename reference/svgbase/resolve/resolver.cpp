@@ -446,10 +446,9 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
-    facts->hasGeometry = !text.runs.isEmpty();
-    // Paint relates to the cells of the characters, not to what is drawn in them.
-    if (facts->hasGeometry)
-        facts->localBounds = text.cells;
+    // Boxes are of the cells of all characters, hidden ones and spaces included (SVG 2 §8.10).
+    facts->hasGeometry = !text.cells.isNull();
+    facts->localBounds = text.cells;
     for (const TextRun &run : text.runs)
         addOutline(run.path, run.style, true, 1, facts);
     facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
