@@ -16,11 +16,14 @@ QString chain(int count, const QString &first, const QString &next)
     return text;
 }
 
-QString clipChain(int count)
+/// The innermost of all leaves a strip on the left, the others the upper half.
+QString effectChain(const QString &element, const QString &property, int effects)
 {
-    return chain(count, "<clipPath id='c0'><rect width='100' height='100'/></clipPath>",
-                 "<clipPath id='cTHIS' clip-path='url(#cBEFORE)'><rect width='100' height='100'/></clipPath>") +
-           QString("<rect width='100' height='100' clip-path='url(#c%1)'/>").arg(count - 1);
+    const QString first = "<" + element + " id='c0'><rect width='10' height='100' fill='white'/></" + element + ">";
+    const QString next = "<" + element + " id='cTHIS' " + property +
+                         "='url(#cBEFORE)'><rect width='100' height='50' fill='white'/></" + element + ">";
+    return chain(effects, first, next) +
+           QString("<rect width='100' height='100' %1='url(#c%2)'/>").arg(property).arg(effects - 1);
 }
 
 QString filterOf(int primitives)
@@ -44,7 +47,8 @@ class TestEffectLimits : public QObject
     Q_OBJECT
 
 private slots:
-    void clipPathsNestOnlySoDeep();
+    void chainsOfEffectsAreDrawnUpToTheLimit_data();
+    void chainsOfEffectsAreDrawnUpToTheLimit();
     void filtersHaveOnlySoManyPrimitives();
     void workOnOutlinesIsBounded();
     void resultsThatWaitAreBounded();
@@ -54,10 +58,29 @@ private slots:
     void largeEffectsAreSurvived();
 };
 
-void TestEffectLimits::clipPathsNestOnlySoDeep()
+void TestEffectLimits::chainsOfEffectsAreDrawnUpToTheLimit_data()
 {
-    QCOMPARE(drawnContent(clipChain(Limits::effectDepth)).pixelColor(50, 50), QColor(Qt::black));
-    QCOMPARE(drawnContent(clipChain(Limits::effectDepth + 1)).pixelColor(50, 50).alpha(), 0);
+    QTest::addColumn<QString>("element");
+    QTest::addColumn<QString>("property");
+    QTest::newRow("clip paths") << "clipPath"
+                                << "clip-path";
+    QTest::newRow("masks") << "mask"
+                           << "mask";
+}
+
+void TestEffectLimits::chainsOfEffectsAreDrawnUpToTheLimit()
+{
+    QFETCH(QString, element);
+    QFETCH(QString, property);
+    for (const bool isBeyond : {false, true}) {
+        const DocumentPointer document =
+            loadContent(effectChain(element, property, Limits::effectDepth + (isBeyond ? 1 : 0)));
+        const QImage image = drawn(*document);
+        QCOMPARE(image.pixelColor(5, 25), QColor(Qt::black));
+        QCOMPARE(image.pixelColor(50, 25), isBeyond ? QColor(Qt::black) : QColor(Qt::transparent));
+        QCOMPARE(image.pixelColor(50, 75).alpha(), 0);
+        QCOMPARE(document->messages().size(), isBeyond ? 1 : 0);
+    }
 }
 
 void TestEffectLimits::filtersHaveOnlySoManyPrimitives()

@@ -207,7 +207,7 @@ void TestLimits::drawUpToTheLimit_data()
     addRow("dashes", Message::TooManyDashes, dashesOf(Limits::dashEntries), dashesOf(Limits::dashEntries + 2),
            true);
     addRow("effects in effects", Message::EffectsTooDeep, clipChain(Limits::effectDepth),
-           clipChain(Limits::effectDepth + 1));
+           clipChain(Limits::effectDepth + 1), true);
     // 50 groups visit 50 times all rectangles, and 50 + 49 + ... + 1 groups.
     addRow("bounds", Message::TooManyBoundsVisits, measured(50, (Limits::boundsVisits - 1275) / 50),
            measured(50, (Limits::boundsVisits - 1275) / 50 + 1), true);

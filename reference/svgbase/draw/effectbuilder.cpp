@@ -50,10 +50,13 @@ private:
     std::optional<QRectF> m_bounds;
 };
 
+// Nothing for one that is too deep in others, so that these cut what they can.
 NodeIndex EffectBuilder::find(const QString &id, ElementKind kind) const
 {
     const NodeIndex found = m_context.document.tree().findId(id);
-    return found != noNode && element(found).kind == kind ? found : noNode;
+    const bool counts =
+        found != noNode && element(found).kind == kind && !OpenReference::isTooDeep(m_context, found);
+    return counts ? found : noNode;
 }
 
 const QRectF &EffectBuilder::bounds()
@@ -79,7 +82,7 @@ bool EffectBuilder::contentFacts(NodeIndex holder, bool ofBounds, const QTransfo
 
 bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
 {
-    if (!OpenReference::isAllowed(m_context, clip))
+    if (OpenReference::isOpen(m_context, clip))
         return false;
     const OpenReference open(m_context, clip);
     const Attributes &attributes = element(clip).attributes;
@@ -153,7 +156,7 @@ bool isAlphaMask(MaskMode mode, const ComputedStyle &mask)
 
 bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer)
 {
-    if (!OpenReference::isAllowed(m_context, mask))
+    if (OpenReference::isOpen(m_context, mask))
         return false;
     const OpenReference open(m_context, mask);
     const Attributes &attributes = element(mask).attributes;

@@ -18,17 +18,23 @@ public:
     OpenReference(const OpenReference &) = delete;
     OpenReference &operator=(const OpenReference &) = delete;
 
-    /// False for a definition that stands in its own content, and for one too deep in others.
-    static bool isAllowed(BuildContext &context, NodeIndex node)
+    /// Whether a definition stands in its own content.
+    static bool isOpen(const BuildContext &context, NodeIndex node) { return context.open.contains(node); }
+    /// Whether others hold it that are as many as may be inside each other, which is reported.
+    static bool isTooDeep(BuildContext &context, NodeIndex node)
     {
         if (context.open.size() < Limits::effectDepth)
-            return !context.open.contains(node);
+            return false;
         context.report.add(Message::EffectsTooDeep,
                            QStringLiteral("Clip paths, masks, markers and patterns more than %1 deep in each other "
                                           "are left out.")
                                .arg(Limits::effectDepth),
                            node);
-        return false;
+        return true;
+    }
+    static bool isAllowed(BuildContext &context, NodeIndex node)
+    {
+        return !isTooDeep(context, node) && !isOpen(context, node);
     }
 
 private:
