@@ -2,6 +2,8 @@
 
 #include "boarddriver.h"
 
+#include <support/virtualtime.h>
+
 #include <lessons/lessoncontroller.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
@@ -28,8 +30,6 @@ namespace {
 const QString pendulum = QStringLiteral("shapes.pendulum");
 /// Long enough for several pictures, milliseconds.
 constexpr int someTime = 150;
-/// What no machine takes, however busy, for what comes many times a second.
-constexpr int longTime = 60000;
 
 CBaseObject *drawPendulum(BoardDriver &driver)
 {
@@ -70,14 +70,15 @@ private:
 bool standsStill(CBaseObject *object, const pagehost::Page &page)
 {
     const Pictures pictures(object, page);
-    QTest::qWait(someTime);
+    support::pass(someTime);
     return pictures.count() == 0;
 }
 
 bool moves(CBaseObject *object, const pagehost::Page &page)
 {
     const Pictures pictures(object, page);
-    return QTest::qWaitFor([&pictures] { return pictures.count() > 1; }, longTime);
+    support::pass(someTime);
+    return pictures.count() > 1;
 }
 
 } // namespace
@@ -105,9 +106,11 @@ void TestAnimation::drawnPendulumSwings()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     const QImage before = driver.view().viewport()->grab().toImage();
-    QTRY_VERIFY(driver.view().viewport()->grab().toImage() != before);
+    support::pass(someTime);
+    QVERIFY(driver.view().viewport()->grab().toImage() != before);
 }
 
 void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
@@ -120,14 +123,14 @@ void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
         kinds.insert(driver.draw(kind.id, corner, corner + QPointF(100, 100)), kind.id);
     }
     QVERIFY(kinds.size() >= 23);
-    QTest::qWait(someTime);
+    support::pass(someTime);
     connect(&driver.page(), &pagehost::Page::objectPropertyChanged, &driver.page(),
             [&](CBaseObject *object) { ++pictures[object]; });
-    QTest::qWait(someTime);
+    support::pass(someTime);
     QStringList playing;
     for (CBaseObject *object : kinds.keys()) {
         if (plays(object))
-            QTRY_VERIFY_WITH_TIMEOUT(pictures.value(object) > 1, longTime);
+            QVERIFY(pictures.value(object) > 1);
         else
             QVERIFY(pictures.value(object) <= 1);
         if (plays(object))
@@ -141,7 +144,8 @@ void TestAnimation::keyHoldsAndGoesOn()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     QVERIFY(playAction(driver)->isChecked());
     driver.key(Qt::Key_F7);
     QVERIFY(!plays(object));
@@ -157,7 +161,8 @@ void TestAnimation::buttonHoldsAndGoesOn()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     const auto *bar = driver.window().findChild<QToolBar *>(QStringLiteral("animationTools"));
     QWidget *button = bar->widgetForAction(playAction(driver));
     QVERIFY(button);
@@ -188,13 +193,15 @@ void TestAnimation::pageThatIsTurnedAwayStandsStill()
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
     const pagehost::Page &page = driver.page();
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     driver.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!plays(object));
     QVERIFY(!playAction(driver)->isEnabled());
     QVERIFY(standsStill(object, page));
     driver.key(Qt::Key_PageUp);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
 }
 
 void TestAnimation::scrolledAwayPendulumStandsStill()
@@ -203,17 +210,20 @@ void TestAnimation::scrolledAwayPendulumStandsStill()
     CBaseObject *object = drawPendulum(driver);
     driver.view().setZoom(8);
     driver.view().horizontalScrollBar()->setValue(driver.view().horizontalScrollBar()->maximum());
-    QTRY_VERIFY(!plays(object));
+    support::deliverEvents();
+    QVERIFY(!plays(object));
     QVERIFY(standsStill(object, driver.page()));
     driver.view().centerOn(object);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
 }
 
 void TestAnimation::swingingIsNoChange()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     driver.workspace().document()->markSaved();
     QCoreApplication::processEvents();
     const quint64 revision = driver.workspace().document()->revision();
@@ -228,7 +238,8 @@ void TestAnimation::swingingPendulumIsEditedAndUndone()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     const QRectF place = driver.placeOf(object);
     driver.drag(place.center(), place.center() + QPointF(100, 50));
     QCOMPARE(driver.placeOf(object).topLeft(), place.topLeft() + QPointF(100, 50));
@@ -244,7 +255,8 @@ void TestAnimation::lessonHoldsNoPictures()
 {
     BoardDriver driver;
     CBaseObject *object = drawPendulum(driver);
-    QTRY_VERIFY(plays(object));
+    support::deliverEvents();
+    QVERIFY(plays(object));
     LessonController &lessons = *driver.window().lessons();
     lessons.recordOrStop();
     QVERIFY(moves(object, driver.page()));
@@ -263,7 +275,8 @@ void TestAnimation::playedLessonSwingsToo()
     lessons.recordOrStop();
     lessons.seek(0);
     CBaseObject *shown = driver.page().objects().first();
-    QTRY_VERIFY(plays(shown));
+    support::deliverEvents();
+    QVERIFY(plays(shown));
     QVERIFY(!plays(own));
     driver.key(Qt::Key_F7);
     QVERIFY(!plays(shown));

@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/virtualtime.h>
+
 #include <page/pageview.h>
 #include <panels/colorbutton.h>
 #include <panels/fillcontrols.h>
@@ -91,7 +93,8 @@ void TestLook::penColor()
     QCOMPARE(t.style().penColor, before);
     t.redo();
     QCOMPARE(t.style().penColor, QColor(200, 10, 20));
-    QTRY_COMPARE(t.control<board::ColorButton>("Outline colour")->color(), QColor(200, 10, 20));
+    support::deliverEvents();
+    QCOMPARE(t.control<board::ColorButton>("Outline colour")->color(), QColor(200, 10, 20));
 }
 
 void TestLook::penWidth()
@@ -318,14 +321,16 @@ void TestLook::valuesThatAgreeAreShown()
 {
     ThreeShapes t;
     t.board.page().select({t.second});
-    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
+    support::deliverEvents();
+    QCOMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
     QVERIFY(!t.control<board::ColorButton>("Outline colour")->isMixed());
     QCOMPARE(t.control<QComboBox>("Outline style")->currentText(), QStringLiteral("Dotted"));
     QVERIFY(t.type("Colour")->isChecked());
     QCOMPARE(t.control<QDoubleSpinBox>("Width")->value(), 100.0);
     pagehost::setPenWidth({t.shape}, 5);
     t.board.page().select({t.shape, t.second});
-    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("5 px"));
+    support::deliverEvents();
+    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("5 px"));
 }
 
 void TestLook::choosingAValueForADashGivesItToAll()
@@ -335,7 +340,8 @@ void TestLook::choosingAValueForADashGivesItToAll()
     QCOMPARE(t.newSteps(), 1);
     for (CBaseObject *object : {t.shape, t.second, t.third})
         QCOMPARE(pagehost::styleOf(object).penWidth, 3);
-    QTRY_COMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("3 px"));
+    support::deliverEvents();
+    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("3 px"));
     Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(1, 2, 3));
     QCOMPARE(t.newSteps(), 2);
     for (CBaseObject *object : {t.shape, t.second, t.third})

@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/virtualtime.h>
+
 #include <page/pageview.h>
 #include <panels/pagepanel.h>
 #include <window/actions.h>
@@ -57,7 +59,7 @@ void TestPages::thumbnailShowsThePage()
     BoardDriver board;
     CBaseObject *shape = board.draw(rectangle, {400, 200}, {800, 500});
     pagehost::setFill({shape}, QColor(200, 30, 40));
-    QTest::qWait(50);
+    support::deliverEvents();
     QCOMPARE(thumbnail(board, 0).size(), QSize(144, 81));
     QCOMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
     QCOMPARE(thumbnailColor(board, 0, {100, 100}), QColor(Qt::white));
@@ -68,9 +70,11 @@ void TestPages::thumbnailFollowsChanges()
     BoardDriver board;
     CBaseObject *shape = board.draw(rectangle, {400, 200}, {800, 500});
     pagehost::setFill({shape}, QColor(200, 30, 40));
-    QTRY_COMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
+    support::deliverEvents();
+    QCOMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
     board.drag({600, 350}, {1000, 350});
-    QTRY_COMPARE(thumbnailColor(board, 0, {600, 350}), QColor(Qt::white));
+    support::deliverEvents();
+    QCOMPARE(thumbnailColor(board, 0, {600, 350}), QColor(Qt::white));
     QCOMPARE(thumbnailColor(board, 0, {1000, 350}), QColor(200, 30, 40));
 }
 

@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/virtualtime.h>
+
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 
@@ -39,7 +41,7 @@ void TestScaledScreen::partsThatArePaintedAgainLeaveNoLines()
     board.view().setZoom(zoom);
     QWidget *viewport = board.view().viewport();
     const auto onScreen = [&] {
-        QTest::qWait(20);
+        support::deliverEvents();
         const QPoint corner = viewport->mapTo(&board.window(), QPoint(0, 0));
         return board.window()
             .screen()

@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/virtualtime.h>
+
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
 #include <panels/historypanel.h>
@@ -112,7 +114,7 @@ void TestWindow::smallestWindowCutsNoPaletteButton()
     BoardDriver board(language);
     QMainWindow &window = board.window();
     window.resize(1, 1);
-    QTest::qWait(50);
+    support::deliverEvents();
     QVERIFY2(window.width() < 800, qPrintable(QString::number(window.width())));
     const QList<board::PaletteButton *> buttons = window.findChildren<board::PaletteButton *>();
     QVERIFY(buttons.size() > 20);

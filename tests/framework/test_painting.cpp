@@ -5,6 +5,8 @@
 
 #include "testobject.h"
 
+#include <support/virtualtime.h>
+
 #include <QtCore/QMutex>
 #include <QtCore/QPointer>
 #include <QtCore/QSet>
@@ -17,6 +19,9 @@ using pagehost::Page;
 using pagehost::ThumbnailPainter;
 
 namespace {
+
+/// Milliseconds from a request to the first time that workers paint, and no further.
+constexpr int untilTheFirstWindow = 14;
 
 std::atomic<bool> g_guiThreadIsBusy{false};
 std::atomic<int> g_overlaps{0};
@@ -43,11 +48,11 @@ public:
             threads.insert(QThread::currentThreadId());
             ++pictures;
         }
-        QThread::usleep(slowness);
+        support::spend(slowness);
         painter->fillRect(getClientRect(), m_color);
     }
 
-    unsigned long slowness = 0; ///< microseconds
+    int slowness = 0; ///< microseconds
     QMutex mutex;
     QSet<Qt::HANDLE> threads;
     int pictures = 0;
@@ -289,7 +294,8 @@ void TestPainting::thumbnailsArriveByThemselves()
     ThumbnailPainter painter;
     const Pictures pictures(painter);
     painter.request(&page, QSize(50, 25));
-    QTRY_COMPARE(pictures.pages.size(), 1);
+    support::pass(untilTheFirstWindow);
+    QCOMPARE(pictures.pages.size(), 1);
     QVERIFY(painter.isIdle());
 }
 
@@ -327,7 +333,8 @@ void TestPainting::changedPageIsBegunAnew()
     const Pictures pictures(painter);
     painter.request(&page, QSize(50, 25));
     auto *first = static_cast<PictureObject *>(page.objects().first());
-    QTRY_COMPARE(first->pictures, 1);
+    support::pass(untilTheFirstWindow);
+    QCOMPARE(first->pictures, 1);
     QVERIFY(pictures.images.isEmpty());
     for (CBaseObject *object : page.objects()) {
         object->CPSRootObject::setPos(QPointF(50, 0), false);
@@ -364,7 +371,8 @@ void TestPainting::deletedObjectIsNotPainted()
     ThumbnailPainter painter;
     const Pictures pictures(painter);
     painter.request(&page, QSize(50, 25));
-    QTRY_VERIFY(static_cast<PictureObject *>(objects.first().data())->pictures > 0);
+    support::pass(untilTheFirstWindow);
+    QCOMPARE(static_cast<PictureObject *>(objects.first().data())->pictures, 1);
     for (const auto &object : qAsConst(objects)) {
         page.removeObject(object);
     }
@@ -406,12 +414,12 @@ void TestPainting::noWorkerPaintsWhileTheGuiThreadWorks()
     QTimer work;
     connect(&work, &QTimer::timeout, [] {
         g_guiThreadIsBusy = true;
-        QThread::msleep(3);
+        QThread::yieldCurrentThread();
         g_guiThreadIsBusy = false;
     });
     work.start(1);
     painter.request(&page, QSize(50, 25));
-    QTRY_COMPARE(pictures.images.size(), 1);
+    QVERIFY(support::passUntil([&] { return pictures.images.size() == 1; }));
     QCOMPARE(g_overlaps.load(), 0);
 }
 

@@ -294,11 +294,13 @@ void TestServices::viewNameIsThatOfThePaintedView()
     second.setObjectName(QStringLiteral("second"));
     first.show();
     QVERIFY(QTest::qWaitForWindowExposed(&first));
-    QTRY_VERIFY(item->names.contains(QStringLiteral("first")));
+    first.viewport()->repaint();
+    QVERIFY(item->names.contains(QStringLiteral("first")));
     QVERIFY(!item->names.contains(QStringLiteral("second")));
     second.show();
     QVERIFY(QTest::qWaitForWindowExposed(&second));
-    QTRY_VERIFY(item->names.contains(QStringLiteral("second")));
+    second.viewport()->repaint();
+    QVERIFY(item->names.contains(QStringLiteral("second")));
 }
 
 void TestServices::viewNameIsKnownInAGrabbedView()

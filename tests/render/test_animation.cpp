@@ -1,4 +1,5 @@
 #include <support/shapefixture.h>
+#include <support/virtualtime.h>
 
 #include <QtTest/QtTest>
 
@@ -44,6 +45,9 @@ private Q_SLOTS:
 };
 
 namespace {
+
+constexpr int interval = 33;     ///< milliseconds
+constexpr int timerRounding = 2; ///< milliseconds that Qt's coarse timers of that interval may be late
 
 struct Animated : ShapeFixture
 {
@@ -149,7 +153,7 @@ void TestAnimation::theTimerTicksEveryThirtyThreeMilliseconds()
 {
     Animated fixture;
     fixture.shape->startAnimate();
-    QCOMPARE(fixture.timer()->interval(), 33);
+    QCOMPARE(fixture.timer()->interval(), interval);
     QVERIFY(fixture.timer()->isActive());
     QVERIFY(!fixture.timer()->isSingleShot());
     QCOMPARE(fixture.timer()->parent(), fixture.shape->animator);
@@ -160,8 +164,9 @@ void TestAnimation::framesKeepComing()
     Animated fixture;
     fixture.shape->startAnimate();
     QCOMPARE(frames(), 1);
-    QTRY_VERIFY(frames() >= 4);
-    QCOMPARE(recording::count("notifyObjPropertyChanged"), frames());
+    support::pass(3 * interval + timerRounding);
+    QCOMPARE(frames(), 4);
+    QCOMPARE(recording::count("notifyObjPropertyChanged"), 4);
 }
 
 void TestAnimation::aTickPaintsOneFrame()
@@ -187,7 +192,7 @@ void TestAnimation::afterStoppingNoFrameComes()
     fixture.shape->stopAnimate();
     QVERIFY(!fixture.timer()->isActive());
     recording::clear();
-    QTest::qWait(100);
+    support::pass(10 * interval);
     QCOMPARE(frames(), 0);
 }
 
@@ -275,7 +280,8 @@ void TestAnimation::theHostsSignalIsNeverEmitted()
     QSignalSpy spy(fixture.shape->animator, &CSVGAnimate::repaintNeeded);
     recording::clear();
     fixture.shape->startAnimate();
-    QTRY_VERIFY(frames() >= 3);
+    support::pass(2 * interval + timerRounding);
+    QCOMPARE(frames(), 3);
     fixture.shape->stopAnimate();
     QCOMPARE(spy.count(), 0);
 }
@@ -291,7 +297,7 @@ void TestAnimation::aRunningShapeCanBeDeleted()
     QVERIFY(!pacemaker);
     QVERIFY(!timer);
     recording::clear();
-    QTest::qWait(80);
+    support::pass(10 * interval);
     QCOMPARE(frames(), 0);
 }
 
@@ -303,7 +309,8 @@ void TestAnimation::aListenerThatStartsAgainGetsOneFrame()
     QCOMPARE(frames(), 1);
     QVERIFY(fixture.shape->isAnimating());
     QVERIFY(fixture.timer()->isActive());
-    QTRY_VERIFY(frames() >= 2);
+    support::pass(interval + timerRounding);
+    QCOMPARE(frames(), 2);
 }
 
 void TestAnimation::aListenerMayDeleteTheShape()
