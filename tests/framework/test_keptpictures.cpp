@@ -7,6 +7,8 @@
 
 #include <QtGui/QScreen>
 
+#include <random>
+
 // Views keep a picture of every object. Whatever happens to an object, the view must show what it would show
 // without.
 
@@ -22,13 +24,17 @@ pagehost::ObjectRegistry &registry()
 /// missing or left behind differs by more than 100.
 constexpr int rounding = 24;
 
-int greatestDifference(const QImage &one, const QImage &other)
+int greatestDifference(const QImage &picture, const QImage &otherPicture)
 {
+    const QImage one = picture.convertToFormat(QImage::Format_RGB32);
+    const QImage other = otherPicture.convertToFormat(QImage::Format_RGB32);
     int greatest = 0;
     for (int y = 0; y < one.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(one.constScanLine(y));
+        const auto *otherLine = reinterpret_cast<const QRgb *>(other.constScanLine(y));
         for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = other.pixel(x, y);
+            const QRgb a = line[x];
+            const QRgb b = otherLine[x];
             greatest = qMax(greatest, qAbs(qRed(a) - qRed(b)));
             greatest = qMax(greatest, qAbs(qGreen(a) - qGreen(b)));
             greatest = qMax(greatest, qAbs(qBlue(a) - qBlue(b)));
@@ -72,6 +78,9 @@ struct Shown : Editor
         QCoreApplication::processEvents();
         const QImage whole = window();
         object->setCacheMode(QGraphicsItem::DeviceCoordinateCache);
+        // The picture that the next change finds.
+        view.viewport()->update();
+        QCoreApplication::processEvents();
         return greatestDifference(parts, whole) <= rounding;
     }
     QImage window() const
@@ -93,6 +102,9 @@ private Q_SLOTS:
     void everyChangeShows();
     void aThickPenLeavesNoTraces_data();
     void aThickPenLeavesNoTraces();
+    void aShapeLargerThanTheViewGrows();
+    void randomChangesAtRandomZoomsShow_data();
+    void randomChangesAtRandomZoomsShow();
     void controlPointsGoWhenEditingEnds();
     void anUntouchedObjectIsNotPaintedAgain();
 };
@@ -172,6 +184,98 @@ void TestKeptPictures::aThickPenLeavesNoTraces()
         const QString step = undoStack()->undoText();
         undoStack()->undo();
         QVERIFY2(shown.leavesNoTraces(), qPrintable("undone: " + step));
+    }
+}
+
+void TestKeptPictures::aShapeLargerThanTheViewGrows()
+{
+    Shown shown(QStringLiteral("shapes.ellipse"));
+    pagehost::resizeObject(shown.object, QSizeF(100, 80));
+    pagehost::moveObjects({shown.object}, QPointF(-180, -130));
+    shown.setZoom(2.99);
+    QVERIFY2(shown.leavesNoTraces(), "small");
+    pagehost::resizeObject(shown.object, QSizeF(1200, 80));
+    QVERIFY2(shown.leavesNoTraces(), "1200 wide");
+    undoStack()->undo();
+    QVERIFY2(shown.leavesNoTraces(), "undone");
+    undoStack()->redo();
+    QVERIFY2(shown.leavesNoTraces(), "redone");
+    shown.setZoom(0.68);
+    QVERIFY2(shown.leavesNoTraces(), "at the zoom that fits the page");
+    pagehost::resizeObject(shown.object, QSizeF(3000, 80));
+    QVERIFY2(shown.leavesNoTraces(), "3000 wide");
+    pagehost::setFill({shown.object}, QColor(20, 160, 90));
+    shown.view.horizontalScrollBar()->setValue(40);
+    QVERIFY2(shown.leavesNoTraces(), "filled and scrolled at once");
+}
+
+namespace {
+
+/// One of what a user does to a shape and its view, by chance; its name for the message of a failure.
+QString changeByChance(Shown &shown, std::mt19937 &chance)
+{
+    // Not a distribution of the standard library: those differ from one to the other.
+    const auto number = [&](int least, int most) { return least + int(chance() % unsigned(most - least + 1)); };
+    const QVector<CBaseObject *> objects{shown.object};
+    switch (number(0, 9)) {
+    case 0:
+    case 1: {
+        const QSizeF size(number(20, 1600), number(20, 1200));
+        pagehost::resizeObject(shown.object, size);
+        return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+    }
+    case 2: {
+        const QPointF way(number(-200, 200) / 8.0, number(-200, 200) / 8.0);
+        pagehost::moveObjects(objects, way);
+        return QStringLiteral("moved by %1, %2").arg(way.x()).arg(way.y());
+    }
+    case 3:
+        undoStack()->undo();
+        return QStringLiteral("undone");
+    case 4:
+        undoStack()->redo();
+        return QStringLiteral("redone");
+    case 5:
+        shown.page->select(shown.object->isSelected() ? QVector<CBaseObject *>() : objects);
+        return QStringLiteral("selected or not");
+    case 6: {
+        const double zoom = number(20, 400) / 100.0;
+        shown.setZoom(zoom);
+        return QStringLiteral("zoom %1").arg(zoom);
+    }
+    case 7:
+        pagehost::setPenWidth(objects, number(1, 20));
+        return QStringLiteral("another pen");
+    case 8:
+        pagehost::setFill(objects, QColor(number(0, 255), number(0, 255), number(0, 255)));
+        return QStringLiteral("another fill");
+    default: {
+        QScrollBar *bar = number(0, 1) ? shown.view.horizontalScrollBar() : shown.view.verticalScrollBar();
+        bar->setValue(number(bar->minimum(), bar->maximum()));
+        return QStringLiteral("scrolled");
+    }
+    }
+}
+
+} // namespace
+
+void TestKeptPictures::randomChangesAtRandomZoomsShow_data()
+{
+    everyChangeShows_data();
+}
+
+void TestKeptPictures::randomChangesAtRandomZoomsShow()
+{
+    QFETCH(QString, kind);
+    constexpr int rounds = 12;
+    Shown shown(kind);
+    std::mt19937 chance(20260);
+    QStringList done;
+    for (int round = 0; round < rounds; ++round) {
+        for (int change = 0; change <= round % 3; ++change) {
+            done.append(changeByChance(shown, chance));
+        }
+        QVERIFY2(shown.leavesNoTraces(), qPrintable(done.join(QStringLiteral(", "))));
     }
 }
 

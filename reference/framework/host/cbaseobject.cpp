@@ -5,10 +5,15 @@
 #include <host/gripdrag.h>
 #include <host/rootobjectprivate.h>
 
+#include <QtCore/QLineF>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QGraphicsScene>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
+#include <QtWidgets/QGraphicsView>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -17,6 +22,26 @@ constexpr int plainObjectType = 1000;
 /// Room for the pictures of a large screen full of objects, KB. Qt's own 10 MB are less than a window of small
 /// objects takes; views would then paint every object anew each time.
 constexpr int pictureRoom = 64 * 1024;
+
+/// Closer to whole pixels than this, a kept picture shows a moved object as it is.
+constexpr double pixelTolerance = 1e-3;
+
+bool isWhole(double pixels)
+{
+    return std::abs(pixels - std::round(pixels)) < pixelTolerance;
+}
+
+/// Whether a kept picture of the object can be shown elsewhere: its edges lie between pixels as they did. `delta`
+/// in scene units.
+bool movesByWholePixels(const CBaseObject &object, const QPointF &delta)
+{
+    const QList<QGraphicsView *> views = object.scene() ? object.scene()->views() : QList<QGraphicsView *>();
+    return std::all_of(views.begin(), views.end(), [&](const QGraphicsView *view) {
+        const QLineF way = view->transform().map(QLineF(QPointF(0, 0), delta));
+        const double ratio = view->devicePixelRatioF();
+        return isWhole(way.dx() * ratio) && isWhole(way.dy() * ratio);
+    });
+}
 
 void makeRoomForPictures()
 {
@@ -65,7 +90,10 @@ bool CBaseObject::contains(const QPointF &point) const
 
 void CBaseObject::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
+    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*this);
+    host.isPainting = true;
     OnQPainterDraw(painter);
+    host.isPainting = false;
 }
 
 int CBaseObject::type() const
@@ -127,8 +155,14 @@ QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &valu
 {
     pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this);
     switch (change) {
+    case ItemPositionChange:
+        if (!movesByWholePixels(*this, value.toPointF() - pos())) {
+            CPSRootObjectPrivate::dropPicture(*this);
+        }
+        return QGraphicsTextItem::itemChange(change, value);
     case ItemSelectedHasChanged:
         CPSRootObjectPrivate::dropPaintedArea(*this);
+        CPSRootObjectPrivate::dropPicture(*this);
         break;
     case ItemPositionHasChanged:
     case ItemRotationHasChanged:

@@ -182,9 +182,11 @@ void CPSRootObject::regenRegionShape(QGraphicsItem *)
 
 void CPSRootObject::update()
 {
-    if (d->item) {
-        d->item->update();
+    if (!d->item) {
+        return;
     }
+    CPSRootObjectPrivate::dropPicture(*this);
+    d->item->update();
 }
 
 double CPSRootObject::getCurZoomRate() const

@@ -95,7 +95,7 @@ bool setBorderWidth(CBaseObject &item, QDataStream &in)
     const auto width = readNumber(in, 0);
     if (width) {
         CPSRootObjectPrivate::pen(item).setWidthF(*width);
-        item.QGraphicsTextItem::update();
+        item.CPSRootObject::update();
         CPSRootObjectPrivate::noteChange(item);
     }
     return width.has_value();

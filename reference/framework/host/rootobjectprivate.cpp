@@ -146,6 +146,16 @@ QRectF CPSRootObjectPrivate::currentBounds(CBaseObject &object)
         host.bounds = wantedBounds(object);
     }
     return host.bounds;
+    dropPicture(object);
+}
+
+void CPSRootObjectPrivate::dropPicture(CPSRootObject &object)
+{
+    QGraphicsItem *item = object.d->item;
+    if (item && !object.d->isPainting) {
+        // Setting the mode, even to what it is, makes Qt forget.
+        item->setCacheMode(item->cacheMode());
+    }
 }
 
 QRectF CPSRootObjectPrivate::wantedBounds(CBaseObject &object)

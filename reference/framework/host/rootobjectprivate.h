@@ -39,6 +39,8 @@ public:
     bool regionIsStale = false;
     /// refreshBounds() has no effect.
     bool keepsBounds = false;
+    /// A view is painting the object into the picture that it will keep; there is none to forget.
+    bool isPainting = false;
     /// Bounding rectangle as the scene knows it, item coordinates.
     QRectF bounds;
     /// Outside of a scene the bounds wait until somebody asks for them.
@@ -78,6 +80,10 @@ public:
     static void refreshBounds(CPSRootObject &object);
     /// The bounding rectangle of now, item coordinates.
     static QRectF currentBounds(CBaseObject &object);
+    /// Lets views forget the pictures that they keep of the object. A repaint that Qt is asked for is not enough:
+    /// of an object that is larger than the view, it takes over what the old picture shows of the view's area and
+    /// paints only what was scrolled into it.
+    static void dropPicture(CPSRootObject &object);
     /// Selection has changed, and with it what is painted.
     static void dropPaintedArea(CPSRootObject &object);
     /// Size or look have changed, and with them the region.
