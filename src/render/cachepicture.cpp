@@ -1,21 +1,27 @@
 #include "render/cachepicture.h"
 
+#include <limits>
 #include <utility>
 
 namespace {
 
-constexpr double maxPixels = double(1 << 28);
+/// The longest side that an image can be asked for.
+constexpr double maxSide = std::numeric_limits<int>::max();
 /// Pictures up to this size, bytes, are copied to save memory.
 constexpr int smallPicture = 1 << 16;
 
 } // namespace
 
+QSize cachePictureSize(QSizeF size)
+{
+    const auto isPossible = [](double side) { return side >= 1 && side <= maxSide; };
+    return isPossible(size.width()) && isPossible(size.height()) ? QSize(int(size.width()), int(size.height()))
+                                                                 : QSize();
+}
+
 QImage emptyCachePicture(QSizeF size, QImage previous)
 {
-    const bool possible = size.width() >= 1 && size.height() >= 1 && size.width() * size.height() <= maxPixels;
-    if (!possible)
-        return QImage();
-    const QSize pixels(int(size.width()), int(size.height()));
+    const QSize pixels = cachePictureSize(size);
     const bool isReusable = previous.size() == pixels && previous.format() == QImage::Format_ARGB32 &&
                             previous.devicePixelRatio() == 1 && previous.isDetached();
     QImage picture = isReusable ? std::move(previous) : QImage(pixels, QImage::Format_ARGB32);

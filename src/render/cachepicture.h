@@ -1,12 +1,15 @@
 #pragma once
 
-#include <QtCore/QSizeF>
+#include <QtCore/QSize>
 #include <QtGui/QImage>
 
-/// A transparent ARGB32 picture of that size in whole pixels, each side truncated; a null image for sides below 1,
-/// sides that are not finite, and pictures beyond 2^28 pixels (1 GiB). It takes over the memory of `previous`,
-/// where that is such a picture and nobody else holds it: while something is dragged or moves, one of the same size
-/// follows the other.
+/// The size in whole pixels, each side truncated; an invalid one for sides below 1, sides that are not finite, and
+/// sides beyond the range of int.
+QSize cachePictureSize(QSizeF size);
+
+/// A transparent ARGB32 picture of cachePictureSize(); a null image where QImage makes none of that size. It takes
+/// over the memory of `previous`, where that is such a picture and nobody else holds it: while something is dragged
+/// or moves, one of the same size follows the other.
 QImage emptyCachePicture(QSizeF size, QImage previous = QImage());
 
 /// The same pixels without the tools that Qt keeps with a picture once it was painted on: about 12 KB, more than a

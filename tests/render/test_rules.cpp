@@ -27,6 +27,7 @@ private Q_SLOTS:
     void hiddenAndImpossibleNodesAreNotHit();
     void picturesHaveWholePixels_data();
     void picturesHaveWholePixels();
+    void picturesAreAsLargeAsAnImageCanBe();
     void smallPicturesAreCopiedWithoutTools();
     void somePicturesAreNotMade_data();
     void somePicturesAreNotMade();
@@ -146,6 +147,16 @@ void TestRules::picturesHaveWholePixels()
     QCOMPARE(picture, expected);
 }
 
+/// 2 GiB and more; no picture is made here.
+void TestRules::picturesAreAsLargeAsAnImageCanBe()
+{
+    QCOMPARE(cachePictureSize({23171.9, 23171}), QSize(23171, 23171));
+    QCOMPARE(cachePictureSize({2147483647, 1}), QSize(2147483647, 1));
+    QCOMPARE(cachePictureSize({1, 2147483647}), QSize(1, 2147483647));
+    QVERIFY(!cachePictureSize({2147483648.0, 1}).isValid());
+    QVERIFY(!cachePictureSize({1, 2147483648.0}).isValid());
+}
+
 void TestRules::smallPicturesAreCopiedWithoutTools()
 {
     // 64 KB are 128 x 128 pixels.
@@ -172,7 +183,7 @@ void TestRules::somePicturesAreNotMade_data()
     QTest::newRow("no number") << QSizeF(notANumber, 10);
     QTest::newRow("no number high") << QSizeF(10, notANumber);
     QTest::newRow("endless") << QSizeF(inf, 10);
-    QTest::newRow("too many pixels") << QSizeF(16385, 16384);
+    QTest::newRow("more than an image holds") << QSizeF(2147483647, 2147483647);
     QTest::newRow("too long a line") << QSizeF(3e9, 1);
 }
 

@@ -125,7 +125,7 @@ bool resizeObject(CBaseObject *object, const QSizeF &size)
         return false;
     }
     const QVector<GeometrySnapshot> before{{object, GeometrySnapshot::WithContent}};
-    object->setSize(size, true, false);
+    object->setSize(possibleSize(size), true, false);
     object->CPSRootObject::setPos(before.first().pos(), true);
     return pushGeometryChange(before, QStringLiteral("IDS_UNDO_RESIZE"));
 }

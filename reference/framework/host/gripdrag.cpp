@@ -130,7 +130,7 @@ void GripDrag::resize(const QPointF &scenePos)
     const QPointF way = rotated(scenePos - m_press, -start().rotation());
     const QPointF side(HandleLayout::side(m_action));
     const QSizeF wanted(start().size().width() + side.x() * way.x(), start().size().height() + side.y() * way.y());
-    m_object.setSize(wanted.expandedTo({smallestSide, smallestSide}), true, false);
+    m_object.setSize(possibleSize(wanted).expandedTo({smallestSide, smallestSide}), true, false);
 
     // Only now is it known what size the object made of it.
     const QPointF shift =

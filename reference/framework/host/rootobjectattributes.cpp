@@ -120,10 +120,10 @@ bool setPlace(CBaseObject &item, int id, QDataStream &in)
         item.setRotateByPoint(normalizedDegrees(*value), item.getClientRect().center(), false);
         return true;
     case HostAttribute::Width:
-        item.setSize(QSizeF(qMax(0.0, *value), size.height()), false, false);
+        item.setSize(possibleSize({*value, size.height()}), false, false);
         return true;
     default:
-        item.setSize(QSizeF(size.width(), qMax(0.0, *value)), false, false);
+        item.setSize(possibleSize({size.width(), *value}), false, false);
         return true;
     }
 }

@@ -81,7 +81,8 @@ void apply(CPSRootObject &object, const HostState &state)
     object.setSubType(state.subType);
     CPSRootObjectPrivate::place(object, state.pos, state.rotation);
     CPSRootObjectPrivate::assignMirror(object, state.mirrored, state.flipped);
-    CPSRootObjectPrivate::setClientRect(object, state.clientRect);
+    const QRectF rect = state.clientRect;
+    CPSRootObjectPrivate::setClientRect(object, {rect.topLeft(), possibleSize(rect.size())});
     QPen &pen = CPSRootObjectPrivate::pen(object);
     pen.setColor(QColor::fromRgba(state.penColor));
     pen.setWidthF(state.penWidth);

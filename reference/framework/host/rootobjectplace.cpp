@@ -60,7 +60,7 @@ void CPSRootObject::setSize(QSizeF size, bool flag, bool redraw)
     if (!isFinite(size)) {
         return;
     }
-    CPSRootObjectPrivate::assignClientSize(*this, size.expandedTo(QSizeF(0, 0)));
+    CPSRootObjectPrivate::assignClientSize(*this, possibleSize(size));
     updateAfterObjRectChanged(d->item, redraw);
     if (!flag) {
         return;
@@ -146,7 +146,7 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
         if (!readAll(in, size) || !isFinite(size)) {
             return false;
         }
-        setSize(size, false, false);
+        setSize(possibleSize(size), false, false);
         return true;
     case pagehost::ActionRotated:
         if (!readAll(in, degrees, pos) || !std::isfinite(degrees) || !isFinite(pos)) {

@@ -247,6 +247,11 @@ double normalizedDegrees(double degrees)
 QPointF rotated(const QPointF &vector, double degrees)
 {
     return QTransform().rotate(degrees).map(vector);
+QSizeF possibleSize(const QSizeF &size)
+{
+    return size.expandedTo({0, 0}).boundedTo({longestSide, longestSide});
+}
+
 }
 
 bool isFinite(const QPointF &point)

@@ -7,6 +7,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
+#include <host/rootobjectprivate.h>
 #include <pages/eventcopy.h>
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>
@@ -21,6 +22,12 @@ namespace {
 constexpr double clickPixels = 4;
 /// Side of an object that has no size of its own when a click makes it, scene units.
 constexpr double plainSide = 100;
+
+/// No longer than an object can be.
+QPointF possibleWay(const QPointF &way)
+{
+    return {qBound(-longestSide, way.x(), longestSide), qBound(-longestSide, way.y(), longestSide)};
+}
 
 QPointF square(const QPointF &way)
 {
@@ -160,7 +167,7 @@ QRectF CreationTool::dragRect() const
 
 bool CreationTool::follow(const QGraphicsSceneMouseEvent &event)
 {
-    const QPointF way = event.scenePos() - m_start;
+    const QPointF way = possibleWay(event.scenePos() - m_start);
     const double clickDistance = clickPixels / m_object->getCurZoomRate();
     m_dragged = m_dragged || std::hypot(way.x(), way.y()) >= clickDistance;
     if (m_dragged) {
