@@ -23,12 +23,17 @@ namespace board {
 
 namespace {
 
+bool takesFill(const CBaseObject &object, const pagehost::ObjectStyle &style)
+{
+    return style.hasFill && object.getFillProp();
+}
+
 /// Those of the objects that take a fill.
 QVector<CBaseObject *> filledOf(const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> filled;
     for (CBaseObject *object : objects) {
-        if (pagehost::styleOf(object).hasFill && object->getFillProp())
+        if (takesFill(*object, pagehost::styleOf(object)))
             filled.append(object);
     }
     return filled;
@@ -49,6 +54,7 @@ StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
     , m_fill(new FillControls(workspace))
     , m_background(new FillControls(workspace))
     , m_place(new PlaceControls(workspace))
+    , m_refresh(this, [this] { refresh(); })
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
@@ -64,7 +70,6 @@ StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
     m_backgroundSection = addSection(column, "IDS_BOARD_BACKGROUND", m_background);
     column->addStretch();
     connectControls();
-    refresh();
 }
 
 QWidget *StylePanel::addSection(QBoxLayout *column, const char *titleKey, QWidget *content)
@@ -120,11 +125,12 @@ void StylePanel::setPage(pagehost::Page *page)
         disconnect(m_page, nullptr, this, nullptr);
     m_page = page;
     if (page) {
-        connect(page, &pagehost::Page::selectionChanged, this, &StylePanel::refresh);
-        connect(page, &pagehost::Page::contentChanged, this, &StylePanel::refresh);
-        connect(page, &pagehost::Page::backgroundChanged, this, &StylePanel::refresh);
+        const auto request = [this] { m_refresh.request(); };
+        connect(page, &pagehost::Page::selectionChanged, this, request);
+        connect(page, &pagehost::Page::contentChanged, this, [this] { m_refresh.refreshNow(); });
+        connect(page, &pagehost::Page::backgroundChanged, this, request);
     }
-    refresh();
+    m_refresh.request();
 }
 
 QVector<CBaseObject *> StylePanel::selection() const
@@ -167,12 +173,12 @@ void StylePanel::refresh()
     const bool any = !objects.isEmpty();
     for (QWidget *section : {m_penSection, m_placeSection})
         section->setVisible(any);
-    m_fillSection->setVisible(!filledOf(objects).isEmpty());
     m_backgroundSection->setVisible(!any);
     if (any) {
         showObjects(objects);
         return;
     }
+    m_fillSection->hide();
     m_title->setText(m_workspace->text("IDS_BOARD_PAGE"));
     if (m_page)
         m_background->showFill(m_page->background());
@@ -184,12 +190,14 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
     m_title->setText(objects.size() == 1 ? m_workspace->text(first->kindName())
                                          : m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
     QVector<pagehost::ObjectStyle> styles;
-    for (CBaseObject *object : objects)
-        styles.append(pagehost::styleOf(object));
-    m_pen->showStyles(styles);
     QVector<CPageBgProp> fills;
-    for (const CBaseObject *object : filledOf(objects))
-        fills.append(*object->getFillProp());
+    for (CBaseObject *object : objects) {
+        styles.append(pagehost::styleOf(object));
+        if (takesFill(*object, styles.last()))
+            fills.append(*object->getFillProp());
+    }
+    m_pen->showStyles(styles);
+    m_fillSection->setVisible(!fills.isEmpty());
     if (!fills.isEmpty())
         m_fill->showFills(fills);
     m_place->showPos(pagehost::boundsOf(objects).topLeft());

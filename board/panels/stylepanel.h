@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panels/panelrefresh.h"
+
 #include <pagehost/page.h>
 
 #include <QtCore/QPointer>
@@ -25,6 +27,8 @@ public:
     explicit StylePanel(const Workspace *workspace, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
+    /// The panel has come to the front of those that share its place.
+    void comeToFront() { m_refresh.finish(); }
 
 private:
     QWidget *addSection(QBoxLayout *column, const char *titleKey, QWidget *content);
@@ -46,6 +50,7 @@ private:
     QWidget *m_fillSection;
     QWidget *m_placeSection;
     QWidget *m_backgroundSection;
+    PanelRefresh m_refresh;
 };
 
 } // namespace board

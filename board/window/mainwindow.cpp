@@ -82,6 +82,7 @@ MainWindow::MainWindow(Workspace *workspace)
 {
     m_view->setCreationTool(&m_tool);
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
+    , m_describeSelection([this] { describeSelection(); })
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
@@ -180,6 +181,9 @@ void MainWindow::addPanels()
     tabifyDockWidget(style, settings);
     tabifyDockWidget(settings, properties);
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    connect(style, &QDockWidget::visibilityChanged, m_style, &StylePanel::comeToFront);
+    connect(settings, &QDockWidget::visibilityChanged, m_settings, &SelectionPanel::comeToFront);
+    connect(properties, &QDockWidget::visibilityChanged, m_properties, &SelectionPanel::comeToFront);
     style->raise();
     for (QTabBar *tabs : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
         tabs->setElideMode(Qt::ElideNone);
@@ -346,8 +350,14 @@ void MainWindow::showSelection()
     m_actions->update();
     m_clipboardMenu->update();
     const pagehost::Page *page = m_view->page();
+    // At once: the next key that is pressed may be theirs.
     m_status->showBounds(page ? pagehost::boundsOf(page->selectedObjects()) : QRectF());
     describeView();
+    m_describeSelection.request();
+}
+
+void MainWindow::describeSelection()
+{
     showHint();
 }
 

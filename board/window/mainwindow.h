@@ -1,5 +1,7 @@
 #pragma once
 
+#include "application/onceperturn.h"
+#include "documents/filedialogs.h"
 #include "lessons/editinglock.h"
 #include "output/pageexport.h"
 
@@ -84,6 +86,7 @@ private:
     void takeDrop(const QMimeData &data, const QPointF &scenePos);
     void showCurrentPage();
     void showSelection();
+    void describeSelection();
     void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
@@ -113,5 +116,6 @@ private:
     pagehost::CreationTool m_tool;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };
+    OncePerTurn m_describeSelection;
 
 } // namespace board

@@ -39,6 +39,8 @@ struct StyledShape
 
     template<typename Control> Control *control(const QString &accessibleName) const
     {
+        // The panel follows in the next turn of the event loop.
+        QCoreApplication::processEvents();
         for (Control *candidate : panel->findChildren<Control *>()) {
             if (candidate->accessibleName() == accessibleName && candidate->isVisibleTo(panel))
                 return candidate;

@@ -236,3 +236,5 @@ void TestView::screenReadersLearnWhatIsSelected()
 
 QTEST_MAIN(TestView)
 #include "test_view.moc"
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();

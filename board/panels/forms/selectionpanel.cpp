@@ -26,6 +26,7 @@ SelectionPanel::SelectionPanel(const Workspace *workspace, const char *adviceKey
     , m_title(new QLabel(this))
     , m_hint(new QLabel(this))
     , m_form(new ObjectForm(this))
+    , m_refresh(this, [this] { refresh(); })
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
@@ -53,9 +54,9 @@ void SelectionPanel::setPage(pagehost::Page *page)
     m_page = page;
     if (page) {
         connect(page, &pagehost::Page::selectionChanged, this, &SelectionPanel::changeSelection);
-        connect(page, &pagehost::Page::contentChanged, this, &SelectionPanel::refresh);
+        connect(page, &pagehost::Page::contentChanged, this, [this] { m_refresh.refreshNow(); });
     }
-    refresh();
+    m_refresh.request();
 }
 
 QVector<CBaseObject *> SelectionPanel::selection() const
@@ -71,13 +72,21 @@ void SelectionPanel::settle()
 void SelectionPanel::changeSelection()
 {
     settle();
-    refresh();
+    m_refresh.request();
+}
+
+/// False when the rows that the user sees were about other objects than are selected by now.
+bool SelectionPanel::bringUpToDate()
+{
+    const QVector<ValueEditor *> shown = m_form->editors();
+    m_refresh.finish();
+    return m_form->editors() == shown;
 }
 
 void SelectionPanel::refresh()
 {
-    // A panel that nobody sees costs nothing. While something is only shown, the rows stay what they are.
-    if (!isVisible() || m_preview.isShowing())
+    // While something is only shown, the rows stay what they are.
+    if (m_preview.isShowing())
         return;
     const QVector<CBaseObject *> objects = selection();
     const QVector<FormRow> rows = objects.isEmpty() ? QVector<FormRow>() : describe(objects.mid(0, mostDescribed));
@@ -93,6 +102,8 @@ void SelectionPanel::refresh()
 
 void SelectionPanel::preview(int row, const QVariant &value)
 {
+    if (!bringUpToDate())
+        return;
     const QVector<CBaseObject *> objects = selection();
     m_preview.show([&] {
         for (CBaseObject *object : objects)
@@ -103,26 +114,22 @@ void SelectionPanel::preview(int row, const QVariant &value)
 void SelectionPanel::pick(int row, const QVariant &value)
 {
     settle();
+    if (!bringUpToDate())
+        return;
     const QVector<CBaseObject *> objects = selection();
     GetFramework()->beginUndoGroup(titleKey(row));
     for (CBaseObject *object : objects)
         apply(object, row, value, true);
     GetFramework()->endUndoGroup();
     // What the objects made of it, which need not be the value.
-    refresh();
-}
-
-void SelectionPanel::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    refresh();
+    m_refresh.refreshNow();
 }
 
 void SelectionPanel::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange) {
         m_form->forgetEditors();
-        refresh();
+        m_refresh.refreshNow();
     }
     QWidget::changeEvent(event);
 }

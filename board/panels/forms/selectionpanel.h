@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panels/forms/objectform.h"
+#include "panels/panelrefresh.h"
 
 #include <pagehost/page.h>
 #include <pagehost/preview.h>
@@ -26,6 +27,8 @@ public:
     SelectionPanel(const Workspace *workspace, const char *adviceKey, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
+    /// The panel has come to the front of those that share its place.
+    void comeToFront() { m_refresh.finish(); }
     /// Takes back what is shown only while the user chooses.
     void settle();
     ObjectForm *form() const { return m_form; }
@@ -39,12 +42,12 @@ protected:
     /// Gives an object the value of a row; `forGood` for the choice, else for a look at it.
     virtual void apply(CBaseObject *object, int row, const QVariant &value, bool forGood) = 0;
 
-    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void refresh();
     void changeSelection();
+    bool bringUpToDate();
     void preview(int row, const QVariant &value);
     void pick(int row, const QVariant &value);
     QVector<CBaseObject *> selection() const;
@@ -56,6 +59,7 @@ private:
     QLabel *m_hint;
     ObjectForm *m_form;
     pagehost::Preview m_preview;
+    PanelRefresh m_refresh;
 };
 
 } // namespace board

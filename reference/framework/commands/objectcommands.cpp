@@ -31,6 +31,21 @@ QVector<CBaseObject *> onPage(const Page &page, const QVector<CBaseObject *> &ob
     return found;
 }
 
+/// Takes objects off the page, from the top, where that moves the fewest. They are deselected together, so that
+/// whoever listens hears of it once. `objects` in stacking order.
+void takeOff(Page &page, const QVector<CBaseObject *> &objects)
+{
+    const QSet<CBaseObject *> going = toSet(objects);
+    QVector<CBaseObject *> selected = page.selectedObjects();
+    selected.erase(std::remove_if(selected.begin(), selected.end(),
+                                  [&](CBaseObject *object) { return going.contains(object); }),
+                   selected.end());
+    page.select(selected);
+    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
+        page.removeObject(*object);
+    }
+}
+
 class AddObjectsCommand : public PageCommand
 {
 public:
@@ -40,12 +55,7 @@ public:
     {
     }
 
-    void undo() override
-    {
-        for (CBaseObject *object : objects()) {
-            page()->removeObject(object);
-        }
-    }
+    void undo() override { takeOff(*page(), objects()); }
 
 protected:
     void apply() override
@@ -86,13 +96,7 @@ public:
     }
 
 protected:
-    void apply() override
-    {
-        // From the top, where removing moves the fewest.
-        for (auto object = objects().rbegin(); object != objects().rend(); ++object) {
-            page()->removeObject(*object);
-        }
-    }
+    void apply() override { takeOff(*page(), objects()); }
 
 private:
     QVector<int> m_places;

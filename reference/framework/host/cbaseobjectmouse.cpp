@@ -67,8 +67,7 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
     if (extendsSelection(*event)) {
         setSelected(!isSelected());
     } else if (!isSelected()) {
-        scene()->clearSelection();
-        setSelected(true);
+        CPSRootObjectPrivate::selectAlone(*this);
     }
     if (isSelected() && !blocked) {
         host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, !extendsSelection(*event));

@@ -162,6 +162,5 @@ void GripDrag::mirrorIfStillOnHandle(const QPointF &scenePos)
 
 void GripDrag::selectOnlyObject()
 {
-    m_object.scene()->clearSelection();
-    m_object.setSelected(true);
+    CPSRootObjectPrivate::selectAlone(m_object);
 }

@@ -74,6 +74,16 @@ bool CPSRootObjectPrivate::isEditingBlocked(const CPSRootObject &object)
     return document && document->editingBlocked() != 0;
 }
 
+void CPSRootObjectPrivate::selectAlone(CBaseObject &object)
+{
+    if (const pagehost::PageScene *scene = pageScene(object)) {
+        scene->page()->select({&object});
+        return;
+    }
+    object.scene()->clearSelection();
+    object.setSelected(true);
+}
+
 QVector<CObjAction::ACT_Def> CPSRootObjectPrivate::handles(CPSRootObject &object)
 {
     QVector<CObjAction::ACT_Def> offered;
@@ -136,16 +146,6 @@ void CPSRootObjectPrivate::refreshBounds(CPSRootObject &object)
     }
     item->prepareGeometryChange();
     object.d->bounds = bounds;
-}
-
-QRectF CPSRootObjectPrivate::currentBounds(CBaseObject &object)
-{
-    CPSRootObjectPrivate &host = of(object);
-    if (host.boundsAreStale) {
-        host.boundsAreStale = false;
-        host.bounds = wantedBounds(object);
-    }
-    return host.bounds;
     dropPicture(object);
 }
 
@@ -156,6 +156,16 @@ void CPSRootObjectPrivate::dropPicture(CPSRootObject &object)
         // Setting the mode, even to what it is, makes Qt forget.
         item->setCacheMode(item->cacheMode());
     }
+}
+
+QRectF CPSRootObjectPrivate::currentBounds(CBaseObject &object)
+{
+    CPSRootObjectPrivate &host = of(object);
+    if (host.boundsAreStale) {
+        host.boundsAreStale = false;
+        host.bounds = wantedBounds(object);
+    }
+    return host.bounds;
 }
 
 QRectF CPSRootObjectPrivate::wantedBounds(CBaseObject &object)
@@ -237,6 +247,11 @@ bool CPSRootObjectPrivate::isNextPicture(CPSRootObject &object)
     return false;
 }
 
+QSizeF possibleSize(const QSizeF &size)
+{
+    return size.expandedTo({0, 0}).boundedTo({longestSide, longestSide});
+}
+
 double normalizedDegrees(double degrees)
 {
     const double rest = std::fmod(degrees, 360);
@@ -247,11 +262,6 @@ double normalizedDegrees(double degrees)
 QPointF rotated(const QPointF &vector, double degrees)
 {
     return QTransform().rotate(degrees).map(vector);
-QSizeF possibleSize(const QSizeF &size)
-{
-    return size.expandedTo({0, 0}).boundedTo({longestSide, longestSide});
-}
-
 }
 
 bool isFinite(const QPointF &point)

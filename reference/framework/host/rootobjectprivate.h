@@ -64,6 +64,8 @@ public:
     /// The document of the object's page, else the current one; null when there is none at all.
     static IDocument *documentOf(const CPSRootObject &object);
     static bool isEditingBlocked(const CPSRootObject &object);
+    /// Makes the object the only selected one of the scene that it is in.
+    static void selectAlone(CBaseObject &object);
     /// The handles that the object offers, in drawing order.
     static QVector<CObjAction::ACT_Def> handles(CPSRootObject &object);
 
@@ -78,12 +80,12 @@ public:
     static QSizeF savedSize(const QJsonObject &object);
     /// Bounding rectangle from client rectangle, region and editing aids.
     static void refreshBounds(CPSRootObject &object);
-    /// The bounding rectangle of now, item coordinates.
-    static QRectF currentBounds(CBaseObject &object);
     /// Lets views forget the pictures that they keep of the object. A repaint that Qt is asked for is not enough:
     /// of an object that is larger than the view, it takes over what the old picture shows of the view's area and
     /// paints only what was scrolled into it.
     static void dropPicture(CPSRootObject &object);
+    /// The bounding rectangle of now, item coordinates.
+    static QRectF currentBounds(CBaseObject &object);
     /// Selection has changed, and with it what is painted.
     static void dropPaintedArea(CPSRootObject &object);
     /// Size or look have changed, and with them the region.
@@ -106,13 +108,13 @@ private:
     static QRectF wantedBounds(CBaseObject &object);
 };
 
-/// Degrees brought into 0 to 360, 360 excluded.
-double normalizedDegrees(double degrees);
 /// The longest side of an object, item units. Objects keep a picture with a pixel to the unit for other threads: a
 /// square of this side takes 1 GiB.
 constexpr double longestSide = 16384;
 /// `size` with each side brought into 0 to longestSide.
 QSizeF possibleSize(const QSizeF &size);
+/// Degrees brought into 0 to 360, 360 excluded.
+double normalizedDegrees(double degrees);
 /// A vector of item coordinates as the item's rotation turns it.
 QPointF rotated(const QPointF &vector, double degrees);
 bool isFinite(const QPointF &point);

@@ -25,6 +25,11 @@ CPageBgProp paper(IPsPage *page)
     return background;
 }
 
+QSet<QGraphicsItem *> toSet(const QList<QGraphicsItem *> &items)
+{
+    return {items.begin(), items.end()};
+}
+
 QVector<CBaseObject *> sorted(QVector<CBaseObject *> objects)
 {
     std::sort(objects.begin(), objects.end());
@@ -100,11 +105,23 @@ QVector<CBaseObject *> Page::selectedObjects() const
 
 void Page::select(const QVector<CBaseObject *> &objects)
 {
-    m_scene->clearSelection();
-    for (CBaseObject *object : objects) {
-        if (object->scene() == m_scene.get()) {
-            object->setSelected(true);
+    const QSet<QGraphicsItem *> wanted(objects.begin(), objects.end());
+    const QList<QGraphicsItem *> before = m_scene->selectedItems();
+    {
+        // The scene would tell of each object, and whoever listens would look at all of them each time.
+        const QSignalBlocker quiet(m_scene.get());
+        for (QGraphicsItem *item : before) {
+            item->setSelected(wanted.contains(item));
         }
+        for (CBaseObject *object : objects) {
+            if (object->scene() == m_scene.get()) {
+                object->setSelected(true);
+            }
+        }
+    }
+    const QList<QGraphicsItem *> after = m_scene->selectedItems();
+    if (toSet(after) != toSet(before)) {
+        Q_EMIT m_scene->selectionChanged();
     }
 }
 

@@ -53,7 +53,8 @@ public:
     bool contains(const CBaseObject *object) const { return m_members.contains(object); }
     /// The selected objects in stacking order.
     QVector<CBaseObject *> selectedObjects() const;
-    /// Selects exactly these; objects of other pages are passed over.
+    /// Selects exactly these; objects of other pages are passed over. Gives one selectionChanged(), none when the
+    /// same objects were selected before.
     void select(const QVector<CBaseObject *> &objects);
     /// The topmost visible object whose shape contains `scenePos` (scene coordinates); null when none does.
     CBaseObject *objectAt(const QPointF &scenePos) const;
@@ -90,6 +91,7 @@ Q_SIGNALS:
     void stackingChanged();
     void backgroundChanged();
     void sizeChanged(const QSizeF &size);
+    /// Once for each select(), addObjects(), removeObjects() and what a user does; at once.
     void selectionChanged();
     /// Something that the page shows has changed; at most once per turn of the event loop.
     void contentChanged();

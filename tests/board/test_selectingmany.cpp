@@ -1,0 +1,266 @@
+// Selecting many shapes at once: one selection, one signal, and one look at each shape by the panel in front.
+
+#include <board/boarddriver.h>
+
+#include <page/pageview.h>
+#include <panels/properties/propertypanel.h>
+#include <panels/settings/settingspanel.h>
+#include <panels/stylepanel.h>
+#include <window/actions.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/objectplugin.h>
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QDataStream>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QUndoStack>
+
+using namespace boardtest;
+
+namespace {
+
+constexpr int shapes = 12;
+constexpr int ownId = 6001;
+
+/// Counts how often somebody asks what it is like.
+class AskedObject : public CBaseObject
+{
+public:
+    AskedObject()
+        : CBaseObject(1, true, nullptr, nullptr)
+    {
+        CPSRootObject::setSize(QSizeF(40, 30), false, false);
+        attributeIds = {ownId};
+    }
+    QString kindName() const override { return QStringLiteral("IDS_TEST_ASKED"); }
+    bool GetSettingJson(QString &) override
+    {
+        ++settingsAsked;
+        return false;
+    }
+    bool GetAttribute(int id, QDataStream &out) override
+    {
+        propertyAsked += id == ownId ? 1 : 0;
+        styleAsked += id == ownId ? 0 : 1;
+        return CBaseObject::GetAttribute(id, out);
+    }
+
+    int settingsAsked = 0;
+    int propertyAsked = 0;
+    int styleAsked = 0;
+};
+
+class AskedPlugin : public pagehost::ObjectPlugin
+{
+public:
+    QVector<pagehost::ObjectKind> objectKinds() const override
+    {
+        return {{QStringLiteral("test.asked"), QStringLiteral("IDS_TEST_ASKED"), {}}};
+    }
+    CBaseObject *createObject(const QString &) const override { return new AskedObject; }
+    pagehost::TextTable texts(const QString &) const override { return {{"IDS_TEST_ASKED", "Asked"}}; }
+};
+
+/// Shapes in a row on the page, one of the panels in front, and nothing asked yet.
+struct Crowd
+{
+    explicit Crowd(QWidget *(*panelOf)(board::MainWindow &))
+    {
+        board.workspace().registry().addPlugin(&plugin, "test");
+        board.window().raisePanel(panelOf(board.window()));
+        for (int i = 0; i < shapes; ++i) {
+            CBaseObject *object = board.workspace().registry().createObject("test.asked");
+            object->CPSRootObject::setPos(QPointF(100 + 60 * i, 200), false);
+            board.page().addObject(object);
+        }
+        QCoreApplication::processEvents();
+        QObject::connect(&board.page(), &pagehost::Page::selectionChanged, [this] { ++signalCount; });
+        forget();
+    }
+    QVector<AskedObject *> objects() const
+    {
+        QVector<AskedObject *> all;
+        for (CBaseObject *object : board.page().objects())
+            all.append(static_cast<AskedObject *>(object));
+        return all;
+    }
+    void forget()
+    {
+        signalCount = 0;
+        for (AskedObject *object : objects())
+            object->settingsAsked = object->propertyAsked = object->styleAsked = 0;
+    }
+    /// How often each was asked, where all were asked equally often; -1 else.
+    int each(int AskedObject::*count) const
+    {
+        const QVector<AskedObject *> all = objects();
+        const bool alike = std::all_of(all.begin(), all.end(),
+                                       [&](AskedObject *one) { return one->*count == all.first()->*count; });
+        return alike ? all.first()->*count : -1;
+    }
+    void selectAll() { board.key(Qt::Key_A, Qt::ControlModifier); }
+
+    AskedPlugin plugin;
+    BoardDriver board;
+    int signalCount = 0;
+};
+
+QWidget *stylePanel(board::MainWindow &window)
+{
+    return window.findChild<board::StylePanel *>();
+}
+
+QWidget *settingsPanel(board::MainWindow &window)
+{
+    return window.settings();
+}
+
+QWidget *propertyPanel(board::MainWindow &window)
+{
+    return window.properties();
+}
+
+} // namespace
+
+class TestSelectingMany : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void selectAllIsOneSignalAndOneLookAtEachShape();
+    void onlyThePanelInFrontLooks();
+    void theBandIsOneLookAtEachShapeHoweverOftenItMoves();
+    void duplicatingIsOneSignalAndOneLookAtEachCopy();
+    void deletingAllIsOneSignalAndNoLook();
+    void aPanelThatComesToTheFrontShowsTheSelection();
+    void deleteRightAfterSelectAllDeletes();
+};
+
+void TestSelectingMany::selectAllIsOneSignalAndOneLookAtEachShape()
+{
+    Crowd t(settingsPanel);
+    t.selectAll();
+    QCOMPARE(t.board.selection().size(), shapes);
+    QCOMPARE(t.signalCount, 1);
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
+    t.selectAll();
+    QCoreApplication::processEvents();
+    QCOMPARE(t.signalCount, 1);
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
+}
+
+void TestSelectingMany::onlyThePanelInFrontLooks()
+{
+    Crowd settings(settingsPanel);
+    settings.selectAll();
+    QCoreApplication::processEvents();
+    QCOMPARE(settings.each(&AskedObject::settingsAsked), 1);
+    QCOMPARE(settings.each(&AskedObject::propertyAsked), 0);
+    QCOMPARE(settings.each(&AskedObject::styleAsked), 0);
+    Crowd properties(propertyPanel);
+    properties.selectAll();
+    QCoreApplication::processEvents();
+    QCOMPARE(properties.each(&AskedObject::settingsAsked), 0);
+    QCOMPARE(properties.each(&AskedObject::propertyAsked), 1);
+    QCOMPARE(properties.each(&AskedObject::styleAsked), 0);
+    Crowd style(stylePanel);
+    style.selectAll();
+    QCoreApplication::processEvents();
+    QCOMPARE(style.each(&AskedObject::settingsAsked), 0);
+    QCOMPARE(style.each(&AskedObject::propertyAsked), 0);
+    // A look at the style asks for several properties; one shape alone is looked at once.
+    const int asked = style.each(&AskedObject::styleAsked);
+    QVERIFY(asked > 0);
+    style.board.page().select({});
+    QCoreApplication::processEvents();
+    style.forget();
+    style.board.page().select({style.objects().first()});
+    QCoreApplication::processEvents();
+    QCOMPARE(style.objects().first()->styleAsked, asked);
+}
+
+void TestSelectingMany::theBandIsOneLookAtEachShapeHoweverOftenItMoves()
+{
+    Crowd t(settingsPanel);
+    t.board.hold({80, 180}, {1000, 260});
+    t.board.moveTo({990, 255});
+    t.board.moveTo({1010, 255});
+    QCOMPARE(t.board.selection().size(), shapes);
+    QCoreApplication::processEvents();
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
+    const int soFar = t.signalCount;
+    t.board.moveTo({1000, 250});
+    t.board.release({1000, 250});
+    QCoreApplication::processEvents();
+    QCOMPARE(t.signalCount, soFar);
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
+}
+
+void TestSelectingMany::duplicatingIsOneSignalAndOneLookAtEachCopy()
+{
+    Crowd t(settingsPanel);
+    t.selectAll();
+    QCoreApplication::processEvents();
+    t.forget();
+    t.board.key(Qt::Key_D, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QCOMPARE(t.signalCount, 1);
+    const QVector<AskedObject *> all = t.objects();
+    QCOMPARE(all.size(), 2 * shapes);
+    for (int i = 0; i < all.size(); ++i)
+        QCOMPARE(all[i]->settingsAsked, i < shapes ? 0 : 1);
+}
+
+void TestSelectingMany::deletingAllIsOneSignalAndNoLook()
+{
+    Crowd t(settingsPanel);
+    const QVector<AskedObject *> all = t.objects();
+    t.selectAll();
+    QCoreApplication::processEvents();
+    t.forget();
+    t.board.key(Qt::Key_Delete);
+    QCoreApplication::processEvents();
+    QCOMPARE(t.board.page().objectCount(), 0);
+    QCOMPARE(t.signalCount, 1);
+    for (const AskedObject *object : all)
+        QCOMPARE(object->settingsAsked, 0);
+    t.signalCount = 0;
+    t.board.history().undo();
+    QCOMPARE(t.board.selection().size(), shapes);
+    QCOMPARE(t.signalCount, 1);
+}
+
+void TestSelectingMany::aPanelThatComesToTheFrontShowsTheSelection()
+{
+    Crowd t(settingsPanel);
+    t.selectAll();
+    t.board.window().raisePanel(stylePanel(t.board.window()));
+    QCoreApplication::processEvents();
+    QStringList captions;
+    for (const QLabel *label : stylePanel(t.board.window())->findChildren<QLabel *>()) {
+        if (label->isVisible())
+            captions.append(label->text());
+    }
+    QVERIFY2(captions.contains("12 objects"), qPrintable(captions.join(", ")));
+}
+
+/// Keys may come faster than the event loop turns.
+void TestSelectingMany::deleteRightAfterSelectAllDeletes()
+{
+    Crowd t(stylePanel);
+    QTest::keyClick(&t.board.view(), Qt::Key_A, Qt::ControlModifier);
+    QVERIFY(t.board.window().actions()->remove->isEnabled());
+    t.board.window().actions()->remove->trigger();
+    QCOMPARE(t.board.page().objectCount(), 0);
+}
+
+QTEST_MAIN(TestSelectingMany)
+#include "test_selectingmany.moc"
