@@ -34,6 +34,8 @@ constexpr double degreesPerNotch = 120;
 constexpr std::array<double, 14> zoomSteps{0.1, 0.25, 0.33, 0.5, 0.67, 0.75, 1, 1.25, 1.5, 2, 3, 4, 6, 8};
 constexpr double zoomEpsilon = 1e-6;
 constexpr int shadowSize = 7;
+/// In every theme.
+constexpr Qt::GlobalColor paperColor = Qt::white;
 /// How far beyond the area to repaint the canvas is filled, pixels: that area's edges lie beside the pixels' own,
 /// and a smooth edge would leave a line.
 constexpr int repaintMargin = 2;
@@ -372,6 +374,8 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
         painter->drawRoundedRect(m_page->rect().adjusted(-grow, -grow / 2, grow, grow * 1.5), grow, grow);
     }
     painter->restore();
+    // A background that can be seen through lies on paper, not on its shadow.
+    painter->fillRect(m_page->rect(), paperColor);
     QGraphicsView::drawBackground(painter, rect);
 }
 

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void zoomStepsGoUpAndDown();
     void spaceBarAndMouseDragThePage();
     void emptyPageSaysWhatToDo();
+    void aBackgroundThatCanBeSeenThroughLiesOnPaper_data();
+    void aBackgroundThatCanBeSeenThroughLiesOnPaper();
     void iconsFollowTheColours();
     void iconsOfNoSizeAreNoTrouble();
     void everyControlHasANameForScreenReaders();
@@ -176,6 +178,42 @@ void TestView::emptyPageSaysWhatToDo()
     QVERIFY(!hasInk());
 }
 
+void TestView::aBackgroundThatCanBeSeenThroughLiesOnPaper_data()
+{
+    QTest::addColumn<bool>("isDark");
+    QTest::addColumn<int>("fillType");
+    for (const bool isDark : {false, true}) {
+        const char *name = isDark ? "dark, %s" : "light, %s";
+        QTest::addRow(name, "none") << isDark << int(CPageBgProp::NoFill);
+        QTest::addRow(name, "pattern") << isDark << int(CPageBgProp::PatternFill);
+        QTest::addRow(name, "half transparent") << isDark << int(CPageBgProp::SolidFill);
+    }
+}
+
+/// The page's shadow lies around the page only.
+void TestView::aBackgroundThatCanBeSeenThroughLiesOnPaper()
+{
+    QFETCH(bool, isDark);
+    QFETCH(int, fillType);
+    board::applyTheme(isDark ? board::Theme::Dark : board::Theme::Light);
+    BoardDriver board;
+    board.view().setEmptyHint({});
+    CPageBgProp fill(&board.page());
+    fill.setFillEnable(fillType != CPageBgProp::NoFill);
+    fill.setFillType(fillType);
+    fill.setFillColor(Qt::white);
+    fill.setPattern(Qt::BDiagPattern);
+    fill.setOpacity(fillType == CPageBgProp::SolidFill ? 128 : 255);
+    board.page().setBackground(fill);
+    const QRect page = board.view().mapFromScene(board.page().rect()).boundingRect();
+    const QImage picture = board.view().viewport()->grab(page.adjusted(20, 20, -20, -20)).toImage();
+    for (int y = 0; y < 200; ++y) {
+        for (int x = 0; x < 200; ++x)
+            QCOMPARE(picture.pixelColor(x, y), QColor(Qt::white));
+    }
+    board::applyTheme(board::Theme::Light);
+}
+
 void TestView::iconsFollowTheColours()
 {
     const auto brightest = [] {
@@ -229,12 +267,12 @@ void TestView::screenReadersLearnWhatIsSelected()
     BoardDriver board;
     board.draw(rectangle, {500, 300}, {700, 420});
     board.draw(flask, {300, 300}, {390, 420});
+    QCoreApplication::processEvents();
     QCOMPARE(board.view().accessibleDescription(), QString("2 objects; selected: Flask"));
     board.key(Qt::Key_Escape);
+    QCoreApplication::processEvents();
     QCOMPARE(board.view().accessibleDescription(), QString("2 objects"));
 }
 
 QTEST_MAIN(TestView)
 #include "test_view.moc"
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
