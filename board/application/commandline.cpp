@@ -20,8 +20,8 @@ struct Parser
                                "folder"};
     QCommandLineOption exportPages{"export",
                                    "Write the pages of the file, else of --demo, as pictures into <folder>, print "
-                                   "their paths and stop. Needs no "
-                                   "display.",
+                                   "their paths and stop. Replaces page-1.png, page-2.png ... that are there. "
+                                   "Needs no display.",
                                    "folder"};
     QCommandLineOption format{"format", "Format of exported pages: png or svg (png without this option).", "format",
                               "png"};

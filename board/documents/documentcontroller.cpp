@@ -74,12 +74,14 @@ void DocumentController::createNew()
     });
 }
 
+QString DocumentController::folder() const
+{
+    return QFileInfo(suggestion()).absolutePath();
+}
+
 void DocumentController::askAndOpen()
 {
-    whenSafe([this] {
-        m_dialogs.askForFileToOpen(QFileInfo(suggestion()).absolutePath(),
-                                   [this](const QString &file) { openNow(file); });
-    });
+    whenSafe([this] { m_dialogs.askForFileToOpen(folder(), [this](const QString &file) { openNow(file); }); });
 }
 
 void DocumentController::open(const QString &file)

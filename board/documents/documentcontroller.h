@@ -29,6 +29,8 @@ public:
 
     /// Absolute path of the file that save() writes; empty for none.
     QString file() const { return m_file; }
+    /// Where the user keeps boards: the folder of file(), else of the last one.
+    QString folder() const;
     /// For people: the file's name without its folder.
     QString name() const;
     bool isModified() const;

@@ -22,6 +22,8 @@ QVector<TextEntry> documentTexts()
         {"IDS_BOARD_KEEP_DISCARD", "Don't save", "Nicht speichern"},
         {"IDS_BOARD_KEEP_CANCEL", "Cancel", "Abbrechen"},
         {"IDS_BOARD_REPLACE_TITLE", "“%1” exists already. Replace it?", "„%1“ gibt es schon. Ersetzen?"},
+        {"IDS_BOARD_REPLACE_SEVERAL", "%1 files exist already. Replace them?",
+         "%1 Dateien gibt es schon. Ersetzen?"},
         {"IDS_BOARD_REPLACE", "Replace", "Ersetzen"},
 
         {"IDS_BOARD_SAVED", "Saved: %1", "Gespeichert: %1"},

@@ -14,6 +14,8 @@ namespace board {
 namespace {
 
 constexpr int questionIconSide = 36;
+/// Files that are to be replaced and named one by one.
+constexpr int mostNames = 8;
 const QString binarySuffix = QStringLiteral("board");
 const QString jsonSuffix = QStringLiteral("board.json");
 
@@ -110,11 +112,36 @@ void FileDialogs::takeWithSuffix(const QString &file, const QString &suffix, con
     const QString complete = hasFormatSuffix(file) ? file : file + QLatin1Char('.') + suffix;
     if (!QFileInfo::exists(complete))
         return take(complete);
-    QMessageBox *box = makeQuestion(
-        m_window, m_workspace->text("IDS_BOARD_REPLACE_TITLE").arg(QFileInfo(complete).fileName()), {});
-    QPushButton *replace = box->addButton(m_workspace->text("IDS_BOARD_REPLACE"), QMessageBox::DestructiveRole);
-    box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
-    QObject::connect(replace, &QPushButton::clicked, m_window, [take, complete] { take(complete); });
+    askToReplace({complete}, [take, complete] { take(complete); });
+}
+
+void FileDialogs::askForFolder(const QString &title, const QString &folder, const TakeFile &take) const
+{
+    QString plain = title;
+    QFileDialog *dialog = makeDialog(m_window, plain.remove(QChar(0x2026)));
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setDirectory(folder);
+    QObject::connect(dialog, &QFileDialog::fileSelected, m_window, take);
+    dialog->open();
+}
+
+void FileDialogs::askToReplace(const QStringList &files, const Work &replace) const
+{
+    QStringList names;
+    for (const QString &file : files.mid(0, mostNames))
+        names.append(QFileInfo(file).fileName());
+    if (files.size() > mostNames)
+        names.append(m_workspace->text("IDS_BOARD_MORE_PROBLEMS").arg(files.size() - mostNames));
+    const bool isOne = files.size() == 1;
+    QMessageBox *box = makeQuestion(m_window,
+                                    isOne ? m_workspace->text("IDS_BOARD_REPLACE_TITLE").arg(names.first())
+                                          : m_workspace->text("IDS_BOARD_REPLACE_SEVERAL").arg(files.size()),
+                                    isOne ? QString() : names.join(QLatin1Char('\n')));
+    QPushButton *agree = box->addButton(m_workspace->text("IDS_BOARD_REPLACE"), QMessageBox::DestructiveRole);
+    QPushButton *cancel = box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
+    box->setDefaultButton(cancel);
+    QObject::connect(agree, &QPushButton::clicked, m_window, replace);
     box->open();
 }
 

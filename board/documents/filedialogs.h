@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <functional>
 
@@ -26,6 +26,10 @@ public:
     /// For a file to write, beginning with `suggestion`. The name that is taken ends in one of the two formats'
     /// suffixes, and the user has agreed to replace a file that exists.
     void askForFileToSave(const QString &suggestion, const TakeFile &take) const;
+    /// For a folder to write to, beginning with `folder`.
+    void askForFolder(const QString &title, const QString &folder, const TakeFile &take) const;
+    /// Whether these files, at least one of them, may be replaced.
+    void askToReplace(const QStringList &files, const Work &replace) const;
     /// What to do with unsaved changes to `name`.
     void askToKeepChanges(const QString &name, const Work &save, const Work &discard) const;
 

@@ -49,6 +49,18 @@ void exportPage(pagehost::Page *page, const pagehost::ObjectRegistry &registry, 
 
 } // namespace
 
+QStringList exportFiles(const pagehost::Document *document, const QString &folder, PageFormat format)
+{
+    const QDir target(QDir(folder).absolutePath());
+    const QString suffix = format == PageFormat::Svg ? QStringLiteral("svg") : QStringLiteral("png");
+    const int digits = QString::number(document->pageCount()).size();
+    QStringList files;
+    for (int i = 1; i <= document->pageCount(); ++i)
+        files.append(
+            target.filePath(QStringLiteral("page-%1.%2").arg(i, digits, 10, QLatin1Char('0')).arg(suffix)));
+    return files;
+}
+
 ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectRegistry &registry,
                          const QString &folder, const ExportFormat &format)
 {
@@ -58,12 +70,9 @@ ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectReg
         result.problems.append(QStringLiteral("The folder %1 could not be made.").arg(target.path()));
         return result;
     }
-    const int digits = QString::number(document->pageCount()).size();
-    for (int i = 0; i < document->pageCount(); ++i) {
-        const QString suffix = format.format == PageFormat::Svg ? QStringLiteral("svg") : QStringLiteral("png");
-        const QString name = QStringLiteral("page-%1.%2").arg(i + 1, digits, 10, QLatin1Char('0')).arg(suffix);
-        exportPage(document->page(i), registry, target.filePath(name), format, result);
-    }
+    const QStringList files = exportFiles(document, folder, format.format);
+    for (int i = 0; i < files.size(); ++i)
+        exportPage(document->page(i), registry, files[i], format, result);
     return result;
 }
 

@@ -23,9 +23,12 @@ struct ExportResult
     QStringList problems; ///< what could not be written, a sentence each, in English
 };
 
-/// Writes every page into page-1.png or page-1.svg, page-2 ... (as many digits as the last number has) in `folder`,
-/// which is made when it does not exist. Files of these names are replaced. A page with an object that has no look
-/// as SVG can't become a drawing.
+/// The files that the pages go to, absolute paths in page order: page-1.png or page-1.svg, page-2 ... (as many
+/// digits as the last number has) in `folder`.
+QStringList exportFiles(const pagehost::Document *document, const QString &folder, PageFormat format);
+
+/// Writes every page into its file of exportFiles(). The folder is made when it does not exist; files that exist
+/// are replaced. A page with an object that has no look as SVG can't become a drawing.
 ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectRegistry &registry,
                          const QString &folder, const ExportFormat &format);
 

@@ -30,10 +30,10 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QFileInfo>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDockWidget>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
@@ -41,6 +41,8 @@
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace board {
 
@@ -78,11 +80,12 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
     , m_animation(new pagehost::AnimationPlayer(m_view, this))
     , m_lock(this, m_view)
+    , m_dialogs(workspace, this)
     , m_tool(&workspace->registry())
+    , m_describeSelection([this] { describeSelection(); })
 {
     m_view->setCreationTool(&m_tool);
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
-    , m_describeSelection([this] { describeSelection(); })
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
@@ -178,12 +181,12 @@ void MainWindow::addPanels()
     QDockWidget *settings = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_SETTINGS", scrolling(m_settings));
     QDockWidget *properties = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_PROPERTIES", scrolling(m_properties));
     QDockWidget *history = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_HISTORY", new HistoryPanel(m_workspace));
-    tabifyDockWidget(style, settings);
-    tabifyDockWidget(settings, properties);
-    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
     connect(style, &QDockWidget::visibilityChanged, m_style, &StylePanel::comeToFront);
     connect(settings, &QDockWidget::visibilityChanged, m_settings, &SelectionPanel::comeToFront);
     connect(properties, &QDockWidget::visibilityChanged, m_properties, &SelectionPanel::comeToFront);
+    tabifyDockWidget(style, settings);
+    tabifyDockWidget(settings, properties);
+    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
     style->raise();
     for (QTabBar *tabs : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
         tabs->setElideMode(Qt::ElideNone);
@@ -312,8 +315,8 @@ void MainWindow::connectParts()
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
-    connect(m_actions->exportPages, &QAction::triggered, this, [this] { exportPages(PageFormat::Png); });
-    connect(m_actions->exportSvg, &QAction::triggered, this, [this] { exportPages(PageFormat::Svg); });
+    connect(m_actions->exportPages, &QAction::triggered, this, [this] { askAndExport(PageFormat::Png); });
+    connect(m_actions->exportSvg, &QAction::triggered, this, [this] { askAndExport(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
 }
@@ -347,17 +350,17 @@ void MainWindow::takeDrop(const QMimeData &data, const QPointF &scenePos)
 
 void MainWindow::showSelection()
 {
+    // At once: the next key that is pressed may be theirs.
     m_actions->update();
     m_clipboardMenu->update();
-    const pagehost::Page *page = m_view->page();
-    // At once: the next key that is pressed may be theirs.
-    m_status->showBounds(page ? pagehost::boundsOf(page->selectedObjects()) : QRectF());
-    describeView();
     m_describeSelection.request();
 }
 
 void MainWindow::describeSelection()
 {
+    const pagehost::Page *page = m_view->page();
+    m_status->showBounds(page ? pagehost::boundsOf(page->selectedObjects()) : QRectF());
+    describeView();
     showHint();
 }
 
@@ -406,11 +409,23 @@ void MainWindow::placeInMiddle(const QString &kindId)
     m_tool.createAt(m_view->page()->scene(), kindId, middle - halfUsualSize);
 }
 
-void MainWindow::exportPages(PageFormat format)
+void MainWindow::askAndExport(PageFormat format)
 {
-    const QString folder = QFileDialog::getExistingDirectory(this, m_workspace->text("IDS_BOARD_EXPORT"));
-    if (folder.isEmpty())
-        return;
+    const char *titleKey = format == PageFormat::Svg ? "IDS_BOARD_EXPORT_SVG" : "IDS_BOARD_EXPORT";
+    m_dialogs.askForFolder(m_workspace->text(titleKey), m_documents->folder(), [=](const QString &folder) {
+        QStringList present = exportFiles(m_workspace->document(), folder, format);
+        present.erase(std::remove_if(present.begin(), present.end(),
+                                     [](const QString &file) { return !QFileInfo::exists(file); }),
+                      present.end());
+        if (present.isEmpty())
+            exportPages(folder, format);
+        else
+            m_dialogs.askToReplace(present, [=] { exportPages(folder, format); });
+    });
+}
+
+void MainWindow::exportPages(const QString &folder, PageFormat format)
+{
     const ExportResult result =
         board::exportPages(m_workspace->document(), m_workspace->registry(), folder, {format, 1});
     if (!result.files.isEmpty())

@@ -90,7 +90,8 @@ private:
     void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
-    void exportPages(PageFormat format);
+    void askAndExport(PageFormat format);
+    void exportPages(const QString &folder, PageFormat format);
     void showAbout();
 
     Workspace *m_workspace;
@@ -107,6 +108,7 @@ private:
     LessonBar *m_lessonBar;
     pagehost::AnimationPlayer *m_animation;
     EditingLock m_lock;
+    FileDialogs m_dialogs;
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     StylePanel *m_style = nullptr;
@@ -114,8 +116,8 @@ private:
     PropertyPanel *m_properties = nullptr;
     StatusLine *m_status = nullptr;
     pagehost::CreationTool m_tool;
+    OncePerTurn m_describeSelection;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };
-    OncePerTurn m_describeSelection;
 
 } // namespace board
