@@ -36,8 +36,10 @@ private:
     const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
     bool addPrimitives(NodeIndex filter, FilterStep *step);
     ImagePointer image(NodeIndex node);
-    void buildElementImage(NodeIndex node, FilterPrimitive *primitive);
-    void buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive);
+    FactsPointer useFacts(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region) const;
+    void buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive);
+    void buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
+                    FilterPrimitive *primitive);
 
     BuildContext &m_context;
     const FilterTarget &m_target;
@@ -57,9 +59,28 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     return read;
 }
 
-// An element is shown as "use" would, in the units of the filtered one and moved by "x" and "y" where they are
-// given (Filter Effects 1 §9.12).
-void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive)
+// As those of a "use" that stands in the filtered element, or in units of its bounding box: moved by "x" and "y",
+// which with "width" and "height" are known in the units of the element (SVG 1.1 §15.18).
+FactsPointer FilterBuilder::useFacts(NodeIndex node, const PrimitiveUnits &units,
+                                     const PrimitiveRegion &region) const
+{
+    auto *facts = new Facts;
+    const FactsPointer result(facts);
+    facts->style = StylePointer(new SharedStyle(inheritedStyle(*m_context.document.facts(node)->style)));
+    facts->viewport = m_target.viewport;
+    const QRectF box = units.ofBounds ? units.bounds : QRectF(0, 0, 1, 1);
+    facts->toDocument = QTransform::fromScale(box.width(), box.height()) *
+                        QTransform::fromTranslate(region.x.value_or(box.x()), region.y.value_or(box.y())) *
+                        m_target.toDocument;
+    if (region.width && box.width() > 0)
+        facts->ownFitting().usedSize.width = *region.width / box.width();
+    if (region.height && box.height() > 0)
+        facts->ownFitting().usedSize.height = *region.height / box.height();
+    return result;
+}
+
+// An element is shown as "use" would show it.
+void FilterBuilder::buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive)
 {
     const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
     if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown) ||
@@ -69,13 +90,7 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
     if (!isDrawable(kind) && kind != ElementKind::Symbol)
         return;
     const OpenReference open(m_context, shown);
-    auto *around = new Facts;
-    const FactsPointer holder(around);
-    around->style = StylePointer(new SharedStyle(inheritedStyle(*m_context.document.facts(node)->style)));
-    around->viewport = m_target.viewport;
-    const PrimitiveRegion &region = primitive->region;
-    const QTransform moved = QTransform::fromTranslate(region.x.value_or(0), region.y.value_or(0));
-    around->toDocument = moved * m_target.toDocument;
+    const FactsPointer holder = useFacts(node, units, primitive->region);
     const Resolver resolver = m_context.document.resolver();
     const FactsPointer own = m_context.document.facts(shown);
     const FactsPointer facts = resolver.resolve(shown, holder, {own.data(), false, false, true});
@@ -83,11 +98,12 @@ void FilterBuilder::buildElementImage(NodeIndex node, FilterPrimitive *primitive
 }
 
 // The picture of an "feImage" is fitted into its subregion (Filter Effects 1 §9.12).
-void FilterBuilder::buildImage(NodeIndex node, const FilterStep &step, FilterPrimitive *primitive)
+void FilterBuilder::buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
+                               FilterPrimitive *primitive)
 {
     const Attributes &attributes = element(node).attributes;
     if (!hrefTarget(attributes).isEmpty()) {
-        buildElementImage(node, primitive);
+        buildElementImage(node, units, primitive);
         return;
     }
     auto *facts = new Facts;
@@ -125,7 +141,7 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
         FilterPrimitive primitive =
             readPrimitive(m_context.document.tree(), at, *m_context.document.facts(at)->style, units);
         if (kind == ElementKind::FeImage)
-            buildImage(at, *step, &primitive);
+            buildImage(at, units, *step, &primitive);
         step->primitives.append(primitive);
     }
     return true;
