@@ -15,6 +15,20 @@ namespace Svg {
 namespace {
 
 const QLatin1String transformName("transform");
+const QLatin1String currentColor("currentColor");
+
+bool namesCurrentColor(const Attributes &attributes)
+{
+    const auto names = [&attributes](const char *name) {
+        return attributes.value(QLatin1String(name)).contains(currentColor, Qt::CaseInsensitive);
+    };
+    return names("from") || names("to") || names("by") || names("values");
+}
+
+std::optional<Effect> readEffect(const Node &node, const ValueContext &context)
+{
+    return Effect::read(node.attributes, context, node.kind == ElementKind::SetValue);
+}
 
 class ModelReader
 {
@@ -33,6 +47,7 @@ private:
     AnimatedAttribute &attributeOf(NodeIndex target, const QString &name, const ValueContext &context);
     ValueContext contextOf(NodeIndex target, const QString &name) const;
     QString baseOf(NodeIndex target, const QString &name) const;
+    bool baseFollowsColor(NodeIndex target, AttributeId id) const;
     bool isStyled(NodeIndex target, AttributeId id) const;
     void readTransform(NodeIndex index, NodeIndex target);
     void readMotion(NodeIndex index, NodeIndex target);
@@ -95,6 +110,13 @@ QString ModelReader::baseOf(NodeIndex target, const QString &name) const
     return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
 }
 
+bool ModelReader::baseFollowsColor(NodeIndex target, AttributeId id) const
+{
+    const ComputedStyle &style = *m_document.facts(target)->style;
+    return (id == AttributeId::Fill && style.fill.followsColor) ||
+           (id == AttributeId::Stroke && style.stroke.followsColor);
+}
+
 AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &name, const ValueContext &context)
 {
     AnimatedAttribute &attribute = m_attributes[{target, name}];
@@ -105,6 +127,8 @@ AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &nam
         attribute.isProperty = isProperty(attribute.id) || isStyled(target, attribute.id);
         attribute.context = context;
         attribute.base = baseOf(target, name);
+        attribute.baseFollowsColor = baseFollowsColor(target, attribute.id);
+        attribute.followsColor = attribute.baseFollowsColor;
     }
     return attribute;
 }
@@ -118,7 +142,8 @@ void ModelReader::readTransform(NodeIndex index, NodeIndex target)
     if (name.isEmpty())
         name = transformName;
     if (effect && name.endsWith(transformName, Qt::CaseInsensitive))
-        attributeOf(target, name, context).animations.append({m_model.timeline.size(), effect, std::nullopt});
+        attributeOf(target, name, context)
+            .animations.append({m_model.timeline.size(), effect, std::nullopt, index});
 }
 
 void ModelReader::readMotion(NodeIndex index, NodeIndex target)
@@ -129,7 +154,8 @@ void ModelReader::readMotion(NodeIndex index, NodeIndex target)
     if (!motion)
         return;
     const ValueContext context = transformContext(QString());
-    attributeOf(target, transformName, context).animations.append({m_model.timeline.size(), std::nullopt, motion});
+    attributeOf(target, transformName, context)
+        .animations.append({m_model.timeline.size(), std::nullopt, motion, index});
 }
 
 // Neither what things are called nor a whole transform can be animated (SVG 1.1 §19.2.6).
@@ -146,9 +172,12 @@ void ModelReader::readPlain(NodeIndex index, NodeIndex target)
     if (!isAnimatable(name))
         return;
     const ValueContext context = contextOf(target, name);
-    const std::optional<Effect> effect = Effect::read(node.attributes, context, node.kind == ElementKind::SetValue);
-    if (effect)
-        attributeOf(target, name, context).animations.append({m_model.timeline.size(), effect, std::nullopt});
+    const std::optional<Effect> effect = readEffect(node, context);
+    if (!effect)
+        return;
+    AnimatedAttribute &attribute = attributeOf(target, name, context);
+    attribute.animations.append({m_model.timeline.size(), effect, std::nullopt, index});
+    attribute.followsColor = attribute.followsColor || namesCurrentColor(node.attributes);
 }
 
 void ModelReader::readElement(NodeIndex index)
@@ -179,6 +208,20 @@ AnimationModel ModelReader::read()
 }
 
 } // namespace
+
+bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree &tree)
+{
+    if (!attribute->followsColor || attribute->context.currentColor == current)
+        return false;
+    attribute->context.currentColor = current;
+    if (attribute->baseFollowsColor)
+        attribute->base = currentColor;
+    for (Animation &animation : attribute->animations) {
+        if (const std::optional<Effect> effect = readEffect(tree.node(animation.node), attribute->context))
+            animation.effect = effect;
+    }
+    return true;
+}
 
 AnimationModel readAnimations(Document &document)
 {

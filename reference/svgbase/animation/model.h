@@ -16,6 +16,10 @@ struct AnimationModel
     bool lacksMotions = false;
 };
 
+/// Reads what an attribute's animations say anew, where "currentColor" is another colour than before. Whether it
+/// is.
+bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree &tree);
+
 /// Reads the animation elements as they are now. Those without a target or without usable values play their part in
 /// the timeline but show nothing.
 AnimationModel readAnimations(Document &document);

@@ -39,7 +39,10 @@ DrawReport Presentation::report() const
 
 bool Presentation::update(AnimatedAttribute *attribute)
 {
-    if (!refreshStates(attribute, m_model.timeline))
+    const bool recolored =
+        attribute->followsColor &&
+        followColor(attribute, m_document.facts(attribute->target)->style->color, m_document.tree());
+    if (!refreshStates(attribute, m_model.timeline) && !recolored)
         return false;
     const std::optional<QString> text = animatedText(*attribute);
     if (text == attribute->shown)
@@ -75,15 +78,24 @@ void Presentation::write(const AnimatedAttribute &attribute, const Document &bas
     m_document.setAttribute(attribute.target, attribute.name, attribute.shown.value_or(own));
 }
 
+void Presentation::showAttribute(AnimatedAttribute *attribute, const Document &base)
+{
+    if (update(attribute))
+        write(*attribute, base);
+}
+
+// Colours first, since others may follow them (SVG 1.1 §19.2.6).
 bool Presentation::show(Document &base, ClockTime time)
 {
     const quint32 before = m_document.revision();
     if (!m_read || m_baseRevision != base.revision())
         takeOver(base);
     m_model.timeline.goTo(time);
-    for (AnimatedAttribute &attribute : m_model.attributes) {
-        if (update(&attribute))
-            write(attribute, base);
+    for (const bool first : {true, false}) {
+        for (AnimatedAttribute &attribute : m_model.attributes) {
+            if ((attribute.id == AttributeId::Color) == first)
+                showAttribute(&attribute, base);
+        }
     }
     return m_document.revision() != before;
 }

@@ -23,6 +23,7 @@ public:
 
 private:
     void takeOver(Document &base);
+    void showAttribute(AnimatedAttribute *attribute, const Document &base);
     bool update(AnimatedAttribute *attribute);
     void write(const AnimatedAttribute &attribute, const Document &base);
     void writeStyle(NodeIndex target, const Document &base);

@@ -15,6 +15,8 @@ struct Animation
     int timing = 0;
     std::optional<Effect> effect;
     std::optional<Motion> motion;
+    /// The element that says it.
+    NodeIndex node = noNode;
 };
 
 /// Everything that is animated of one attribute of one node: the later an animation began, the higher it lies
@@ -27,6 +29,9 @@ struct AnimatedAttribute
     AttributeId id = AttributeId::Unknown;
     /// Whether it is a property, whose animated value lies over every other declaration.
     bool isProperty = false;
+    /// Whether a value, or the attribute without animation, is "currentColor", which may be animated, too.
+    bool followsColor = false;
+    bool baseFollowsColor = false;
     ValueContext context;
     QVector<Animation> animations;
     /// What the attribute amounts to without animation.
