@@ -85,7 +85,7 @@ QRectF shownArea(const Node &root, const QSizeF &window)
 std::optional<QRectF> viewportCut(const ComputedStyle &style, const QRectF &box, const QSizeF &viewport)
 {
     if (!style.effects)
-        return box;
+        return std::nullopt;
     if (const std::optional<ClipRect> clip = parseClipRect(style.effects->clipRect))
         return clipRectIn(box, *clip, {viewport, style.font.size});
     return style.effects->overflow == Overflow::Visible ? std::nullopt : std::optional<QRectF>(box);

@@ -35,6 +35,21 @@ bool isForStyleOnly(AttributeId property)
            property == AttributeId::Isolation;
 }
 
+// What browsers' own style sheets say of them (SVG 2 §6.7): "hidden" is no initial value of "overflow".
+bool hidesOverflow(ElementKind kind)
+{
+    switch (kind) {
+    case ElementKind::NestedSvg:
+    case ElementKind::Symbol:
+    case ElementKind::Image:
+    case ElementKind::Marker:
+    case ElementKind::Pattern:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Declarations in rising order of rank.
 class DeclarationList
 {
@@ -157,9 +172,12 @@ void DeclarationList::addStyle(const QString &text, bool important)
 
 bool DeclarationList::collect(NodeIndex element)
 {
+    static const QString hidden = QStringLiteral("hidden");
     bool complete = true;
     m_customLeft = mostCustomProperties(m_tree, element);
     m_stepsLeft = qMax(Limits::leastSelectorSteps, Limits::selectorSteps / m_tree.size());
+    if (hidesOverflow(m_tree.node(element).kind))
+        m_list.append({AttributeId::Overflow, hidden, false});
     const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;

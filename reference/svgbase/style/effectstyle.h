@@ -34,7 +34,7 @@ enum class BlendMode : quint8 {
 /// What of a mask's picture counts: what its own element says, or one of both (CSS Masking 1 §7.2).
 enum class MaskMode : quint8 { MatchSource, Alpha, Luminance };
 
-enum class Overflow : quint8 { Unset, Visible, Hidden };
+enum class Overflow : quint8 { Visible, Hidden };
 
 /// Properties that few elements have and none inherits. Ids are empty where nothing is referred to.
 struct EffectStyle : QSharedData
@@ -51,7 +51,7 @@ struct EffectStyle : QSharedData
     FilterUnits filterUnits = FilterUnits::Required;
     BlendMode blendMode = BlendMode::Normal;
     bool isolated = false;
-    Overflow overflow = Overflow::Unset;
+    Overflow overflow = Overflow::Visible;
     /// Of a mask: whether its alpha counts instead of its luminance.
     bool alphaMask = false;
     QColor floodColor = Qt::black;
