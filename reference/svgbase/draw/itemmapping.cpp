@@ -4,6 +4,7 @@
 #include "draw/layereffects.h"
 #include "draw/paintingwork.h"
 #include "inputlimits.h"
+#include "resolve/contextpaint.h"
 #include "resolve/images.h"
 
 #include <QtCore/QtMath>
@@ -222,10 +223,23 @@ Outline paintedOutline(const DisplayItem &item)
 // Tiles are painted for the scale that they are seen at.
 void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline *outline)
 {
+// In the units of the item; a pattern of its context has others.
+QBrush patternOf(const DisplayItem &item, const PatternPaint &pattern, Paint::Kind kind,
+                 const QTransform &transform)
+{
+    const ContextPaint *paint = contextPaint(*item.facts, kind);
+    if (!paint)
+        return patternBrush(pattern, transform);
+    const QTransform toItem = fromContext(*paint, *item.facts);
+    QBrush brush = patternBrush(pattern, toItem * transform);
+    brush.setTransform(brush.transform() * toItem);
+    return brush;
+}
+
     if (item.fillPattern && outline->fill.style() != Qt::NoBrush)
-        outline->fill = patternBrush(*item.fillPattern, transform);
+        outline->fill = patternOf(item, *item.fillPattern, outline->fillKind, transform);
     if (item.strokePattern && outline->pen.style() != Qt::NoPen)
-        outline->pen.setBrush(patternBrush(*item.strokePattern, transform));
+        outline->pen.setBrush(patternOf(item, *item.strokePattern, outline->strokeKind, transform));
 }
 
 /// What a path takes besides its elements, in elements.

@@ -49,7 +49,7 @@ private:
     void addText(NodeIndex node, const FactsPointer &facts, bool layered);
     void addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
                     int outline);
-    PatternPointer pattern(NodeIndex node, const FactsPointer &facts, double opacity);
+    PatternPointer pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity);
     bool hasMarkers(ElementKind kind, const Facts &facts) const;
     void addMarkers(NodeIndex node, const FactsPointer &facts);
     void beginLayer(NodeIndex node, const FactsPointer &facts, const std::shared_ptr<LayerEffects> &effects);
@@ -141,9 +141,13 @@ void ListBuilder::endLayer()
 }
 
 // Null where the outline's own paint counts; what can't be built leaves nothing to paint.
-PatternPointer ListBuilder::pattern(int node, const FactsPointer &facts, double opacity)
+PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity)
 {
-    return node == noNode ? nullptr : buildPattern(m_context, node, {facts, opacity});
+    if (node == noNode)
+        return nullptr;
+    if (const ContextPaint *paint = contextPaint(facts, kind))
+        return buildPattern(m_context, node, {paint->bounds, paint->viewport, opacity});
+    return buildPattern(m_context, node, {facts.localBounds, facts.viewport, opacity});
 }
 
 void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
@@ -170,9 +174,10 @@ void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool lay
     item.paintsFill = parts.fill;
     item.paintsStroke = parts.stroke;
     if (parts.fill && !isSilhouette())
-        item.fillPattern = pattern(outline.fillPattern, facts, double(outline.fillOpacity));
+        item.fillPattern = pattern(outline.fillPattern, *facts, outline.fillKind, double(outline.fillOpacity));
     if (parts.stroke && !isSilhouette())
-        item.strokePattern = pattern(outline.strokePattern, facts, double(outline.strokeOpacity));
+        item.strokePattern =
+            pattern(outline.strokePattern, *facts, outline.strokeKind, double(outline.strokeOpacity));
     if (!layered && !isSilhouette())
         item.opacity = facts->style->opacity;
     target().append(item);
@@ -220,10 +225,12 @@ void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
         element.strokeWidth = *override->strokeWidth;
     if (!facts->outlines.isEmpty()) {
         const Outline outline = effectiveOutline(m_document, node, *facts, 0);
-        element.fill = unfadedBrush(outline.fill, facts->style->fillOpacity);
-        element.stroke = override && override->strokeColor
-                             ? QBrush(*override->strokeColor)
-                             : unfadedBrush(outline.strokePaint, facts->style->strokeOpacity);
+        element.fill = handedDown(*facts, outline.fillKind, unfadedBrush(outline.fill, facts->style->fillOpacity),
+                                  outline.fillPattern);
+        const QBrush stroke = override && override->strokeColor
+                                  ? QBrush(*override->strokeColor)
+                                  : unfadedBrush(outline.strokePaint, facts->style->strokeOpacity);
+        element.stroke = handedDown(*facts, outline.strokeKind, stroke, outline.strokePattern);
     }
     appendMarkers(m_context, element, &target());
 }

@@ -135,7 +135,6 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
     const auto context = std::make_shared<PaintContext>();
     context->fill = m_element.fill;
     context->stroke = m_element.stroke;
-    context->toDocument = m_element.facts->toDocument;
     facts->context = context;
     QVector<DisplayItem> content = buildContent(m_context, form.node, holder, ContentUse::Drawing);
     if (content.isEmpty())

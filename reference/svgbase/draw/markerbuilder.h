@@ -12,8 +12,8 @@ struct MarkedElement
     FactsPointer facts;
     /// As painted, document-wide styling included; user units.
     double strokeWidth = 1;
-    QBrush fill = Qt::NoBrush;
-    QBrush stroke = Qt::NoBrush;
+    ContextPaint fill;
+    ContextPaint stroke;
 };
 
 /// Appends what the markers of an element draw at its vertices (SVG 2 §13.7).

@@ -4,77 +4,20 @@
 #include "draw/openreference.h"
 #include "grammar/viewboxes.h"
 #include "inputlimits.h"
-#include "resolve/servertransform.h"
-#include "tree/references.h"
+#include "resolve/patternchain.h"
 
 namespace Svg {
 
 namespace {
-
-const QLatin1String objectBoundingBox("objectBoundingBox");
-const QLatin1String userSpaceOnUse("userSpaceOnUse");
-
-/// A pattern and those it refers to, nearest first: what one leaves out, the next may say.
-class PatternChain
-{
-public:
-    PatternChain(const Tree &tree, NodeIndex pattern)
-        : m_tree(tree)
-    {
-        NodeIndex at = pattern;
-        while (at != noNode && tree.node(at).kind == ElementKind::Pattern && !m_nodes.contains(at) &&
-               m_nodes.size() < Limits::gradientReferences) {
-            m_nodes.append(at);
-            at = tree.findId(hrefTarget(tree.node(at).attributes));
-        }
-    }
-
-    QString value(const QString &name) const
-    {
-        for (const NodeIndex index : m_nodes) {
-            if (m_tree.node(index).attributes.contains(name))
-                return m_tree.node(index).attributes.value(name);
-        }
-        return QString();
-    }
-
-    /// The nearest that says something.
-    ServerTransform transform(Document &document) const
-    {
-        ServerTransform result;
-        for (const NodeIndex index : m_nodes) {
-            const Node &node = m_tree.node(index);
-            const ServerTransform own = serverTransform(node, *document.facts(index)->style,
-                                                        node.attributes.value(QStringLiteral("patternTransform")));
-            if (result.transform.isEmpty())
-                result.transform = own.transform;
-            if (result.origin.isEmpty())
-                result.origin = own.origin;
-        }
-        return result;
-    }
-
-    /// The first that has content; `noNode` when none has.
-    NodeIndex holder() const
-    {
-        const auto hasContent = [this](NodeIndex index) { return m_tree.node(index).firstChild != noNode; };
-        const auto found = std::find_if(m_nodes.begin(), m_nodes.end(), hasContent);
-        return found == m_nodes.end() ? noNode : *found;
-    }
-
-private:
-    const Tree &m_tree;
-    QVector<NodeIndex> m_nodes;
-};
 
 class PatternBuilder
 {
 public:
     PatternBuilder(BuildContext &context, NodeIndex pattern, const PatternTarget &target)
         : m_context(context)
-        , m_target(*target.facts)
+        , m_target(target)
         , m_chain(context.document.tree(), pattern)
-        , m_ofBounds(m_chain.value(QStringLiteral("patternUnits")) != userSpaceOnUse)
+        , m_ofBounds(m_chain.isTileOfBounds())
         , m_fontSize(context.document.facts(pattern)->style->font.size)
     {
         m_pattern.node = pattern;
@@ -90,13 +33,9 @@ private:
     QTransform ownTransform() const;
     uint key() const;
     PatternPointer known() const;
-    bool contentOfBounds() const
-    {
-        return m_chain.value(QStringLiteral("patternContentUnits")) == objectBoundingBox;
-    }
 
     BuildContext &m_context;
-    const Facts &m_target;
+    const PatternTarget &m_target;
     PatternChain m_chain;
     bool m_ofBounds;
     /// Of the pattern's own element, user units.
@@ -115,7 +54,7 @@ bool PatternBuilder::placeTile()
 {
     const QRectF box(length("x", Axis::Horizontal), length("y", Axis::Vertical), length("width", Axis::Horizontal),
                      length("height", Axis::Vertical));
-    const QRectF &b = m_target.localBounds;
+    const QRectF &b = m_target.bounds;
     m_pattern.tile = box;
     if (m_ofBounds)
         m_pattern.tile = QRectF(b.x() + box.x() * b.width(), b.y() + box.y() * b.height(), box.width() * b.width(),
@@ -137,15 +76,15 @@ bool PatternBuilder::placeContent(QTransform *toPattern, QSizeF *viewport) const
         *viewport = box->size();
         return fitted.has_value();
     }
-    const QSizeF scale = contentOfBounds() ? m_target.localBounds.size() : QSizeF(1, 1);
+    const QSizeF scale = m_chain.isContentOfBounds() ? m_target.bounds.size() : QSizeF(1, 1);
     *toPattern = QTransform(scale.width(), 0, 0, scale.height(), tile.x(), tile.y());
-    return !contentOfBounds() || !m_target.localBounds.isEmpty();
+    return !m_chain.isContentOfBounds() || !m_target.bounds.isEmpty();
 }
 
 QTransform PatternBuilder::ownTransform() const
 {
     const QSizeF box = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
-    return resolved(m_chain.transform(m_context.document), QRectF(QPointF(), box), m_fontSize);
+    return resolved(m_chain.transform(), QRectF(QPointF(), box), m_fontSize);
 }
 
 uint PatternBuilder::key() const
@@ -179,8 +118,8 @@ PatternPointer PatternBuilder::build()
     const NodeIndex holder = m_chain.holder();
     if (holder == noNode || !OpenReference::isAllowed(m_context, m_pattern.node))
         return nullptr;
-    if (m_ofBounds || contentOfBounds())
-        m_pattern.bounds = m_target.localBounds;
+    if (m_ofBounds || m_chain.isContentOfBounds())
+        m_pattern.bounds = m_target.bounds;
     m_pattern.viewport = m_target.viewport;
     if (const PatternPointer pattern = known())
         return pattern;

@@ -8,7 +8,9 @@ namespace Svg {
 /// What a pattern is painted on.
 struct PatternTarget
 {
-    FactsPointer facts;
+    /// Bounds of the painted geometry without its stroke, user units.
+    QRectF bounds;
+    QSizeF viewport;
     /// Of the fill or the stroke.
     double opacity = 1;
 };

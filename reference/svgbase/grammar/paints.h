@@ -10,7 +10,7 @@ namespace Svg {
 /// What a "fill" or a "stroke" asks for (SVG 1.1 §11.2).
 struct Paint
 {
-    enum Kind {
+    enum Kind : quint8 {
         /// Never mentioned: draws nothing, as `None` does, but document-wide styling may still reach it.
         Unset,
         None,

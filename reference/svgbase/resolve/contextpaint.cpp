@@ -26,25 +26,39 @@ QBrush fadedBrush(const QBrush &brush, double opacity)
     return result;
 }
 
-QBrush plainBrush(const Facts &facts, const Paint &paint)
+ContextPaint plainPaint(const Facts &facts, const Paint &paint)
 {
-    if (paint.kind == Paint::ContextFill || paint.kind == Paint::ContextStroke)
-        return contextBrush(facts, paint.kind, 1);
-    if (paint.kind != Paint::Color && paint.kind != Paint::Server)
-        return Qt::NoBrush;
-    return paint.color.isValid() ? QBrush(paint.color) : QBrush(Qt::NoBrush);
+    if (const ContextPaint *above = contextPaint(facts, paint.kind))
+        return *above;
+    const bool hasColor = paint.kind == Paint::Color || paint.kind == Paint::Server;
+    ContextPaint plain;
+    if (hasColor && paint.color.isValid())
+        plain.brush = paint.color;
+    return plain;
 }
 
 } // namespace
 
+const ContextPaint *contextPaint(const Facts &facts, Paint::Kind kind)
+{
+    if (!facts.context || (kind != Paint::ContextFill && kind != Paint::ContextStroke))
+        return nullptr;
+    return kind == Paint::ContextFill ? &facts.context->fill : &facts.context->stroke;
+}
+
+QTransform fromContext(const ContextPaint &paint, const Facts &facts)
+{
+    return paint.toDocument * facts.toDocument.inverted();
+}
+
 QBrush contextBrush(const Facts &facts, Paint::Kind kind, double opacity)
 {
-    const PaintContext *context = facts.context.get();
-    if (!context)
+    const ContextPaint *paint = contextPaint(facts, kind);
+    if (!paint)
         return Qt::NoBrush;
-    QBrush brush = fadedBrush(kind == Paint::ContextFill ? context->fill : context->stroke, opacity);
+    QBrush brush = fadedBrush(paint->brush, opacity);
     if (brush.style() > Qt::SolidPattern)
-        brush.setTransform(brush.transform() * context->toDocument * facts.toDocument.inverted());
+        brush.setTransform(brush.transform() * fromContext(*paint, facts));
     return brush;
 }
 
@@ -53,12 +67,17 @@ QBrush unfadedBrush(const QBrush &brush, double opacity)
     return opacity > 0 ? fadedBrush(brush, 1 / opacity) : brush;
 }
 
+ContextPaint handedDown(const Facts &facts, Paint::Kind kind, const QBrush &brush, int pattern)
+{
+    const ContextPaint *above = pattern == -1 ? nullptr : contextPaint(facts, kind);
+    return above ? *above : ContextPaint{brush, pattern, facts.localBounds, facts.viewport, facts.toDocument};
+}
+
 std::shared_ptr<const PaintContext> useContext(const Facts &use)
 {
     const auto context = std::make_shared<PaintContext>();
-    context->fill = plainBrush(use, use.style->fill);
-    context->stroke = plainBrush(use, use.style->stroke);
-    context->toDocument = use.toDocument;
+    context->fill = plainPaint(use, use.style->fill);
+    context->stroke = plainPaint(use, use.style->stroke);
     return context;
 }
 

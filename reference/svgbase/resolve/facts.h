@@ -31,6 +31,9 @@ struct Outline
     int strokePattern = -1;
     /// Of the style that it is painted with, for the patterns.
     float fillOpacity = 1;
+    /// What the style asks for: a pattern may be that of a context.
+    Paint::Kind fillKind = Paint::Unset;
+    Paint::Kind strokeKind = Paint::Unset;
     float strokeOpacity = 1;
     /// Whether its edges are smoothed.
     bool smooth = true;
@@ -42,11 +45,21 @@ struct Outline
 
 /// What "context-fill" and "context-stroke" stand for.
 struct PaintContext
+/// A paint with all that it is measured by, for other elements to be painted with.
+struct ContextPaint
 {
-    QBrush fill = Qt::NoBrush;
-    QBrush stroke = Qt::NoBrush;
-    /// Of the element that the brushes belong to.
+    QBrush brush = Qt::NoBrush;
+    /// A pattern in the place of the brush.
+    int pattern = -1;
+    /// Of the element that the paint belongs to, its user units.
+    QRectF bounds;
+    QSizeF viewport;
     QTransform toDocument;
+};
+
+{
+    ContextPaint fill;
+    ContextPaint stroke;
 };
 
 /// The sides that are given; the others are the used element's own.

@@ -346,22 +346,23 @@ const GradientCache::Known *GradientCache::insert(NodeIndex gradient, double opa
     return (m_known[{gradient, opacity}] = std::make_shared<const Known>(known)).get();
 }
 
-QBrush gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target, GradientCache *cache)
+std::optional<QBrush> gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target,
+                                    GradientCache *cache)
 {
     const GradientChain chain(tree, index);
     cache->setCutChain(chain.isCut());
     if (chain.isEmpty())
-        return Qt::NoBrush;
+        return std::nullopt;
     const GradientCache::Known *known = cache->find(index, target.opacity);
     if (!known)
         known = cache->insert(index, target.opacity, prepared(chain, target.opacity, styleInTree(tree, index)));
     if (known->stops == 0)
-        return Qt::NoBrush;
+        return QBrush(Qt::NoBrush);
     if (known->stops == 1)
         return QBrush(known->last);
     const GradientLengths lengths(chain, target, known->fontSize);
     if (lengths.ofBounds() && target.bounds.isEmpty())
-        return Qt::NoBrush;
+        return std::nullopt;
     const bool linear = chain.kind() == ElementKind::LinearGradient;
     QBrush brush = linear ? linearBrush(lengths, *known) : radialBrush(lengths, *known);
     const QSizeF box = lengths.ofBounds() ? QSizeF(1, 1) : target.viewport;

@@ -8,6 +8,7 @@
 #include <QtGui/QBrush>
 
 #include <memory>
+#include <optional>
 
 namespace Svg {
 
@@ -50,8 +51,10 @@ private:
     bool m_cutChain = false;
 };
 
-/// The brush of a linear or radial gradient (SVG 1.1 §13.2) in the user units of its target. No brush when the node
-/// is no gradient, has no stops, or measures itself by bounds without area.
-QBrush gradientBrush(const Tree &tree, NodeIndex gradient, const GradientTarget &target, GradientCache *cache);
+/// The brush of a linear or radial gradient (SVG 1.1 §13.2) in the user units of its target; one that paints
+/// nothing without stops. Nothing when the node is no gradient, or measures itself by bounds without area, so that
+/// it can't be used (SVG 1.1 §7.11).
+std::optional<QBrush> gradientBrush(const Tree &tree, NodeIndex gradient, const GradientTarget &target,
+                                    GradientCache *cache);
 
 } // namespace Svg

@@ -14,6 +14,7 @@
 #include "resolve/outlinebounds.h"
 #include "resolve/pathmeasure.h"
 #include "resolve/pathslack.h"
+#include "resolve/patternchain.h"
 #include "resolve/pens.h"
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
@@ -200,7 +201,14 @@ QRectF Resolver::transformBox(NodeIndex index, const Facts &facts, const LengthC
     return content.tooMuch ? view : content.bounds;
 }
 
-// What is used may be painted with gradients that relate to the bounds of all of it.
+ContextPaint Resolver::ownPaint(const Paint &paint, Facts *facts) const
+{
+    NodeIndex pattern = noNode;
+    const QBrush brush = brushOf(paint, 1, facts, &pattern);
+    return handedDown(*facts, paint.kind, brush, pattern);
+}
+
+// What is used may be painted with gradients and patterns that relate to the bounds of all of it.
 void Resolver::resolveContext(NodeIndex index, Facts *facts) const
 {
     facts->context = useContext(*facts);
@@ -214,13 +222,12 @@ void Resolver::resolveContext(NodeIndex index, Facts *facts) const
     m_measuring->used = true;
     Facts target = *facts;
     target.localBounds = content.bounds;
-    int pattern = noNode;
+    target.toDocument = ownTransform(index, *facts) * (facts->parent ? facts->parent->toDocument : QTransform());
     const auto context = std::make_shared<PaintContext>(*facts->context);
     if (style.fill.kind == Paint::Server)
-        context->fill = brushOf(style.fill, 1, &target, &pattern);
+        context->fill = ownPaint(style.fill, &target);
     if (style.stroke.kind == Paint::Server)
-        context->stroke = brushOf(style.stroke, 1, &target, &pattern);
-    context->toDocument = ownTransform(index, *facts) * (facts->parent ? facts->parent->toDocument : QTransform());
+        context->stroke = ownPaint(style.stroke, &target);
     facts->context = context;
     facts->referenceRevision = m_referenceRevision;
 }
@@ -311,27 +318,36 @@ void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
                 QStringLiteral("What is magnified more than %1 times is left out.").arg(Limits::transformEntry)});
 }
 
+// Nothing where there is no server that can be used, so that the paint behind the reference counts.
+std::optional<QBrush> Resolver::servedBrush(NodeIndex server, double opacity, const Facts &facts,
+                                            NodeIndex *pattern) const
+{
+    if (server == noNode)
+        return std::nullopt;
+    if (m_tree.node(server).kind == ElementKind::Pattern) {
+        if (facts.localBounds.isEmpty() && needsBounds(PatternChain(m_tree, server)))
+            return std::nullopt;
+        *pattern = server;
+        return QBrush(Qt::transparent);
+    }
+    const GradientTarget target{facts.localBounds, facts.viewport, opacity};
+    const std::optional<QBrush> brush = gradientBrush(m_tree, server, target, m_gradients);
+    if (m_gradients->hasCutChain())
+        warn(m_tree.node(server), {Message::GradientChainTooLong,
+                                   QStringLiteral("Gradients beyond %1 that refer to each other are left out.")
+                                       .arg(Limits::gradientReferences)});
+    return brush;
+}
+
 QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const
 {
     QColor color = paint.color;
     if (paint.kind == Paint::Server) {
         facts->referenceRevision = m_referenceRevision;
-        const NodeIndex server = m_tree.findId(paint.server);
-        if (server != noNode && isPaintServerPart(m_tree.node(server).kind)) {
-            const GradientTarget target{facts->localBounds, facts->viewport, opacity};
-            const QBrush brush = gradientBrush(m_tree, server, target, m_gradients);
-            if (m_gradients->hasCutChain())
-                warn(m_tree.node(server),
-                     {Message::GradientChainTooLong,
-                      QStringLiteral("Gradients beyond %1 that refer to each other are left out.")
-                          .arg(Limits::gradientReferences)});
-            return brush;
-        }
-        if (server != noNode && m_tree.node(server).kind == ElementKind::Pattern) {
-            *pattern = server;
-            return QBrush(Qt::transparent);
-        }
-    } else if (paint.kind == Paint::ContextFill || paint.kind == Paint::ContextStroke) {
+        if (const std::optional<QBrush> served = servedBrush(m_tree.findId(paint.server), opacity, *facts, pattern))
+            return *served;
+    } else if (const ContextPaint *above = contextPaint(*facts, paint.kind)) {
+        *pattern = above->pattern;
         return contextBrush(*facts, paint.kind, opacity);
     } else if (paint.kind != Paint::Color) {
         return Qt::NoBrush;

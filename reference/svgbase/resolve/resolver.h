@@ -66,6 +66,8 @@ private:
     void resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
                     Facts *facts) const;
+    std::optional<QBrush> servedBrush(NodeIndex server, double opacity, const Facts &facts, NodeIndex *pattern) const;
+    ContextPaint ownPaint(const Paint &paint, Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
     static QBrush plainBrush(const QColor &color);
     void warn(const Node &node, const Problem &problem) const;

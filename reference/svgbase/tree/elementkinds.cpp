@@ -150,7 +150,8 @@ bool isAnimation(ElementKind kind)
 
 bool isPaintServerPart(ElementKind kind)
 {
-    return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient || kind == ElementKind::Stop;
+    return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient ||
+           kind == ElementKind::Stop || kind == ElementKind::Pattern;
 }
 
 bool isFontPart(ElementKind kind)
