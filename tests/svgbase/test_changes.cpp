@@ -38,7 +38,9 @@ const QString scene = QStringLiteral(
     "<g id='gt' font-size='%17' letter-spacing='%18' xml:space='%19' fill='%20' transform='%21' fill-rule='%22'>"
     "<text id='tg' x='5' y='78'>a   b</text><text id='tp' x='45' y='78'>c <tspan id='ts' dy='%23'>d</tspan></text>"
     "<rect id='re' x='2em' y='80' width='1em' height='1em'/><path id='pr' d='M70 70h20v20h-20zm5 "
-    "5h10v10h-10z'/></g>");
+    "5h10v10h-10z'/></g>"
+    "<pattern id='pt' patternUnits='%24' width='10' height='10'><rect width='5' height='10'/></pattern>"
+    "<path d='M5 98H95' stroke='url(#pt) lime' stroke-width='4'/>");
 
 const QVector<Slot> slotsOfScene = {{"lg", "x1"},
                                     {"st", "stop-color"},
@@ -62,7 +64,8 @@ const QVector<Slot> slotsOfScene = {{"lg", "x1"},
                                     {"gt", "fill"},
                                     {"gt", "transform"},
                                     {"gt", "fill-rule"},
-                                    {"ts", "dy"}};
+                                    {"ts", "dy"},
+                                    {"pt", "patternUnits"}};
 
 const QVector<QStringList> choices = {
     {"0", "0.5", "50%", "nonsense"},
@@ -75,7 +78,8 @@ const QVector<QStringList> choices = {
     {"10", "-4.5", "10%", "1e999"},
     {"0", "5", "500", "x"},
     {"", "fill:lime;stroke-width:3", "display:none", "opacity:.5;fill:red"},
-    {"M5 50H45V65H5z", "M5 50a10 8 20 1 0 20 9", "M5 50q10 20 30 0t10 10", "M5 50L40 60 broken"},
+    {"M5 50H45V65H5z", "M5 50a10 8 20 1 0 20 9", "M5 50q10 20 30 0t10 10", "M5 50h30v9h-30v-9",
+     "M5 50L40 60 broken"},
     {"", "4 2", "3", "0 0"},
     {"20", "8", "2em", "0"},
     {"#def", "#rc", "#us", "#missing"},
@@ -88,6 +92,7 @@ const QVector<QStringList> choices = {
     {"", "rotate(5)", "translate(3 2)"},
     {"nonzero", "evenodd"},
     {"0", "5"},
+    {"userSpaceOnUse", "objectBoundingBox", ""},
 };
 
 QString sceneText(const QVector<int> &chosen)

@@ -6,6 +6,7 @@
 #include "inputlimits.h"
 #include "resolve/contextpaint.h"
 #include "resolve/images.h"
+#include "resolve/openends.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainterPathStroker>
@@ -217,12 +218,11 @@ Outline paintedOutline(const DisplayItem &item)
         outline.fill = Qt::NoBrush;
     if (!item.paintsStroke || (outline.strokePattern != noNode && !item.strokePattern))
         outline.pen = QPen(Qt::NoPen);
+    if (outline.pen.style() != Qt::NoPen)
+        outline.path = withOpenEnds(outline.path, outline.openEnds);
     return outline;
 }
 
-// Tiles are painted for the scale that they are seen at.
-void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline *outline)
-{
 // In the units of the item; a pattern of its context has others.
 QBrush patternOf(const DisplayItem &item, const PatternPaint &pattern, Paint::Kind kind,
                  const QTransform &transform)
@@ -236,6 +236,9 @@ QBrush patternOf(const DisplayItem &item, const PatternPaint &pattern, Paint::Ki
     return brush;
 }
 
+// Tiles are painted for the scale that they are seen at.
+void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline *outline)
+{
     if (item.fillPattern && outline->fill.style() != Qt::NoBrush)
         outline->fill = patternOf(item, *item.fillPattern, outline->fillKind, transform);
     if (item.strokePattern && outline->pen.style() != Qt::NoPen)

@@ -26,7 +26,7 @@ public:
         const char *begin = m_cursor.at;
         if (!readCommands())
             m_result.errorAt = m_cursor.at - begin;
-        finishSubpath();
+        endOpenSubpath();
         return std::move(m_result);
     }
 
@@ -47,6 +47,8 @@ private:
     bool readFlag(bool *flag);
     bool close();
     bool finishSubpath();
+    void endOpenSubpath();
+    void beginSubpath(const QPointF &start);
     void record(char command, const QPointF &from, int elementsBefore);
     bool isInRange(const QPointF &point) const;
     QPointF reflected(bool curveBefore) const;
@@ -63,6 +65,8 @@ private:
     char m_previous = 0;
     int m_segments = 0;
     bool m_closed = false;
+    /// The element that the subpath begins with.
+    int m_firstElement = 0;
     /// Whether the subpath has a segment, if only one without length.
     bool m_drawn = false;
 };
@@ -124,15 +128,32 @@ bool PathReader::finishSubpath()
     return isDot;
 }
 
+// One that comes back to its start has caps there all the same, unless it is closed (SVG 2 §13.5.4).
+void PathReader::endOpenSubpath()
+{
+    const QPainterPath &path = m_result.path;
+    const int last = path.elementCount() - 1;
+    const bool isDot = finishSubpath();
+    if (!isDot && !m_closed && last > m_firstElement &&
+        isAtSamePlace(path.elementAt(m_firstElement), path.elementAt(last)))
+        m_result.openEnds.append(last);
+}
+
+void PathReader::beginSubpath(const QPointF &start)
+{
+    m_result.path.moveTo(start);
+    m_firstElement = m_result.path.elementCount() - 1;
+    m_closed = false;
+}
+
 bool PathReader::readMove(bool relative)
 {
     QPointF point;
     if (!readPoint(relative, &point))
         return false;
-    finishSubpath();
-    m_result.path.moveTo(point);
+    endOpenSubpath();
+    beginSubpath(point);
     m_current = m_start = point;
-    m_closed = false;
     // Further pairs are lines (SVG 1.1 §8.3.2).
     m_command = relative ? 'l' : 'L';
     return true;
@@ -285,8 +306,7 @@ bool PathReader::readSegment(char command, bool relative)
 {
     // After a closing command a drawing command starts a new subpath where the last one began.
     if (m_closed && command != 'm') {
-        m_result.path.moveTo(m_start);
-        m_closed = false;
+        beginSubpath(m_start);
     }
     switch (command) {
     case 'm':
@@ -371,6 +391,13 @@ bool PathReader::readCommands()
 }
 
 } // namespace
+
+bool isAtSamePlace(const QPointF &a, const QPointF &b)
+{
+    constexpr double share = 1e-9;
+    const double farthest = qMax(qMax(qAbs(a.x()), qAbs(a.y())), qMax(qAbs(b.x()), qAbs(b.y())));
+    return (a - b).manhattanLength() <= share * farthest;
+}
 
 PathData parsePathData(QStringView text, QVector<PathSegment> *segments)
 {

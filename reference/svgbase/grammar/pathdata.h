@@ -15,6 +15,8 @@ struct PathData
 {
     /// Everything before the first error, user units.
     QPainterPath path;
+    /// Elements of the path that end an open subpath where it began, which a painter takes for a closed one.
+    QVector<int> openEnds;
     /// Offset of the first letter, coordinate or pair that could not be used; -1 when all of the text was.
     qsizetype errorAt = -1;
     /// Whether reading stopped at the limit of segments.
@@ -32,6 +34,9 @@ struct PathSegment
     QPointF lastControl;
     QPointF to;
 };
+
+/// Whether a line from one point to the other is too short for a painter to see.
+bool isAtSamePlace(const QPointF &a, const QPointF &b);
 
 /// Reads path data (SVG 1.1 §8.3). A path is drawn up to its first error. `segments`, when given, gets the segments
 /// one by one.

@@ -2,6 +2,7 @@
 
 #include "inputlimits.h"
 #include "resolve/conditions.h"
+#include "resolve/openends.h"
 #include "resolve/resolver.h"
 #include "tree/references.h"
 
@@ -35,10 +36,10 @@ QRectF strokedBounds(const Facts &facts)
         QPen pen = outline.pen;
         pen.setStyle(Qt::SolidLine);
         QPainterPathStroker stroker(pen);
-
         const QRectF box = outline.path.controlPointRect();
         stroker.setCurveThreshold((box.width() + box.height() + outline.pen.widthF()) * strokeTolerance);
-        bounds |= facts.toDocument.map(stroker.createStroke(outline.path)).boundingRect();
+        bounds |=
+            facts.toDocument.map(stroker.createStroke(withOpenEnds(outline.path, outline.openEnds))).boundingRect();
     }
     return bounds;
 }

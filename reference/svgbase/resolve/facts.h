@@ -22,6 +22,8 @@ using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
 struct Outline
 {
     QPainterPath path;
+    /// Elements that end an open subpath where it began; a stroke has caps there.
+    QVector<int> openEnds;
     QBrush fill = Qt::NoBrush;
     /// What the pen paints with; known even where the pen draws nothing, since document-wide styling may widen it.
     QBrush strokePaint = Qt::NoBrush;
@@ -29,11 +31,11 @@ struct Outline
     /// Patterns in the place of the brushes, which then only tell that there is something.
     int fillPattern = -1;
     int strokePattern = -1;
-    /// Of the style that it is painted with, for the patterns.
-    float fillOpacity = 1;
     /// What the style asks for: a pattern may be that of a context.
     Paint::Kind fillKind = Paint::Unset;
     Paint::Kind strokeKind = Paint::Unset;
+    /// Of the style that it is painted with, for the patterns.
+    float fillOpacity = 1;
     float strokeOpacity = 1;
     /// Whether its edges are smoothed.
     bool smooth = true;
@@ -43,8 +45,6 @@ struct Outline
     double dashScale = 1;
 };
 
-/// What "context-fill" and "context-stroke" stand for.
-struct PaintContext
 /// A paint with all that it is measured by, for other elements to be painted with.
 struct ContextPaint
 {
@@ -57,6 +57,8 @@ struct ContextPaint
     QTransform toDocument;
 };
 
+/// What "context-fill" and "context-stroke" stand for.
+struct PaintContext
 {
     ContextPaint fill;
     ContextPaint stroke;

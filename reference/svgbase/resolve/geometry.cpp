@@ -96,6 +96,8 @@ Geometry pointsGeometry(const Attributes &attributes, bool closed, Problem *prob
         geometry.path.lineTo(beside(points.points.first()));
     else if (closed)
         geometry.path.closeSubpath();
+    else if (geometry.path.elementCount() > 1 && isAtSamePlace(points.points.first(), points.points.last()))
+        geometry.openEnds.append(geometry.path.elementCount() - 1);
     return geometry;
 }
 
@@ -126,7 +128,7 @@ Geometry pathGeometry(const QString &text, Problem *problem)
         *problem = pathProblem(data);
     if (data.path.elementCount() == 0)
         return Geometry();
-    return {data.path, data.path.boundingRect(), true};
+    return {data.path, data.path.boundingRect(), true, data.openEnds};
 }
 
 } // namespace

@@ -16,6 +16,8 @@ struct Geometry
     /// Known exactly even where nothing is drawn, as for a rectangle without width.
     QRectF bounds;
     bool valid = false;
+    /// Elements that end an open subpath where it began.
+    QVector<int> openEnds{};
 };
 
 /// Reads the lengths of one element, from its attributes or from what style says in their place.

@@ -368,20 +368,22 @@ QBrush Resolver::plainBrush(const QColor &color)
     return known;
 }
 
-void Resolver::addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
-                          Facts *facts) const
+void Resolver::addOutline(const DrawnPath &path, const ComputedStyle &style, Facts *facts) const
 {
     Outline outline;
-    outline.path = withoutSlack(path);
+    outline.path = withoutSlack(path.path);
+    outline.openEnds = path.openEnds;
     outline.path.setFillRule(style.fillRule);
     // A path computes these when first asked; done now, since facts are shared between threads.
     outline.path.boundingRect();
     outline.path.controlPointRect();
     outline.fill = brushOf(style.fill, style.fillOpacity, facts, &outline.fillPattern);
     outline.strokePaint = brushOf(style.stroke, style.strokeOpacity, facts, &outline.strokePattern);
-    outline.dashScale = dashScale;
-    outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt, dashScale});
-    outline.smooth = isText ? style.smoothText : style.smoothShapes;
+    outline.dashScale = path.dashScale;
+    outline.pen = strokePen(style, {outline.strokePaint, style.strokeWidth, std::nullopt, path.dashScale});
+    outline.smooth = path.isText ? style.smoothText : style.smoothShapes;
+    outline.fillKind = style.fill.kind;
+    outline.strokeKind = style.stroke.kind;
     outline.fillOpacity = float(style.fillOpacity);
     outline.strokeOpacity = float(style.strokeOpacity);
     const auto first = std::find_if(style.paintOrder.begin(), style.paintOrder.end(),
@@ -406,7 +408,8 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
     facts->localBounds = geometry.bounds;
     facts->bounds = mappedBounds(*facts, geometry.path);
     if (geometry.path.elementCount() > 0)
-        addOutline(geometry.path, *facts->style, false, dashScale(node, *facts->style, geometry.path), facts);
+        addOutline({geometry.path, geometry.openEnds, dashScale(node, *facts->style, geometry.path), false},
+                   *facts->style, facts);
     if (!kept.facts || kept.facts->outlines.isEmpty() || facts->outlines.isEmpty())
         return;
     // The same outline, or pen, again takes no memory of its own.
@@ -438,7 +441,8 @@ void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) c
     facts->hasGeometry = kept.hasGeometry;
     facts->localBounds = kept.localBounds;
     for (const Outline &outline : kept.outlines)
-        addOutline(outline.path, style, isText, isText ? 1 : dashScale(node, style, outline.path), facts);
+        addOutline({outline.path, outline.openEnds, isText ? 1 : dashScale(node, style, outline.path), isText},
+                   style, facts);
     if (kept.toDocument == facts->toDocument)
         facts->bounds = kept.bounds;
     else if (isText)
@@ -466,7 +470,7 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
     facts->hasGeometry = !text.cells.isNull();
     facts->localBounds = text.cells;
     for (const TextRun &run : text.runs)
-        addOutline(run.path, run.style, true, 1, facts);
+        addOutline({run.path, {}, 1, true}, run.style, facts);
     facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
 }
 

@@ -24,6 +24,15 @@ struct KeptFacts
     bool image = false;
 };
 
+/// A path to make an outline of.
+struct DrawnPath
+{
+    QPainterPath path;
+    QVector<int> openEnds;
+    double dashScale = 1;
+    bool isText = false;
+};
+
 /// Turns elements into facts: style, units, references and geometry settled.
 class Resolver
 {
@@ -64,9 +73,9 @@ private:
     bool keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const;
     void keepGeometry(const Node &node, const Facts &kept, Facts *facts) const;
     void resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
-    void addOutline(const QPainterPath &path, const ComputedStyle &style, bool isText, double dashScale,
-                    Facts *facts) const;
-    std::optional<QBrush> servedBrush(NodeIndex server, double opacity, const Facts &facts, NodeIndex *pattern) const;
+    void addOutline(const DrawnPath &path, const ComputedStyle &style, Facts *facts) const;
+    std::optional<QBrush> servedBrush(NodeIndex server, double opacity, const Facts &facts,
+                                      NodeIndex *pattern) const;
     ContextPaint ownPaint(const Paint &paint, Facts *facts) const;
     QBrush brushOf(const Paint &paint, double opacity, Facts *facts, int *pattern) const;
     static QBrush plainBrush(const QColor &color);
