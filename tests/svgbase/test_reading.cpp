@@ -30,6 +30,9 @@ private slots:
     void widthAndHeightMakeNoViewBox();
     void animationsAreNoticed();
     void aKnownTextGivesAnIndependentDocument();
+    void entityMayHoldSeveralLines_data();
+    void entityMayHoldSeveralLines();
+    void linesAroundATypeDeclarationStayAsTheyAre();
 };
 
 void TestReading::loadsTheSmallestDocument()
@@ -240,6 +243,53 @@ void TestReading::aKnownTextGivesAnIndependentDocument()
     QCOMPARE(second->viewBox(), QRectF(0, 0, 100, 100));
     QVERIFY(second->namedNode("r")->isFillEnabled());
     QVERIFY(first->namedNode("r") != second->namedNode("r"));
+}
+
+void TestReading::entityMayHoldSeveralLines_data()
+{
+    QTest::addColumn<QByteArray>("literal");
+    QTest::addColumn<int>("line");
+    QTest::newRow("between attributes") << QByteArray("'<rect id=\"r\"\n data-a=\"1 > 2\"\n/>'") << 3;
+    QTest::newRow("in a value") << QByteArray("'<rect id=\"r\" data-a=\"1\n> 2\"/>'") << 2;
+    QTest::newRow("in an end") << QByteArray("'<rect id=\"r\" data-a=\"1 > 2\"></rect\n>'") << 2;
+    QTest::newRow("carriage returns") << QByteArray("\"<rect\r\nid='r'\rdata-a='1 > 2'/>\"") << 3;
+    QTest::newRow("behind an instruction") << QByteArray("'<?a\n<b ?><rect id=\"r\" data-a=\"1 > 2\"/>'") << 2;
+    QTest::newRow("behind style") << QByteArray(
+                                         "'<style><![CDATA[a>\nb{}]]></style><rect id=\"r\" data-a=\"1 > 2\"/>'")
+                                  << 2;
+    QTest::newRow("behind a comment") << QByteArray("'<!-- a\n<b -->\n<rect id=\"r\"\ndata-a=\"1 > 2\"/>'") << 4;
+}
+
+// XML 1.0 §3.1: white space of any kind separates attributes; §3.3.3: in a value it becomes a space.
+void TestReading::entityMayHoldSeveralLines()
+{
+    QFETCH(QByteArray, literal);
+    QFETCH(int, line);
+    const QByteArray text =
+        "<!DOCTYPE svg [<!-- it's --><?p 'x?><!ENTITY e " + literal + ">]><svg>&e;<g fill='?'/></svg>";
+    QVector<Message> messages;
+    const DocumentPointer document(QZeSvgTinyDocument::load(text, &messages));
+    QVERIFY2(document, messages.isEmpty() ? "" : qPrintable(messages.first().text));
+    const QString value = document->namedNode(QStringLiteral("r"))->attribute(QStringLiteral("data-a"));
+    QCOMPARE(value, QStringLiteral("1 > 2"));
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages.first().line, line);
+}
+
+// What only looks like a declaration of a type, and quotes that nothing closes, lead no further.
+void TestReading::linesAroundATypeDeclarationStayAsTheyAre()
+{
+    const QByteArray text =
+        "<!-- <!DOCTYPE svg [<!ENTITY e '<a\nb'>]> --><svg><title>it's\n<![CDATA[<a\nb>]]>\n'&gt;"
+        "</title></svg>";
+    const DocumentPointer document(QZeSvgTinyDocument::load(text + " &"));
+    QVERIFY(!document);
+    const DocumentPointer sound(QZeSvgTinyDocument::load(text));
+    QVERIFY(sound);
+    QVERIFY(sound->toSvg().contains("it's\n&lt;a\nb&gt;\n'&gt;"));
+    for (const char *cut : {"<!DOCTYPE", "<!DOCTYPE svg [<!ENTITY e '", "<!DOCTYPE svg [<!ENTITY e '<a\n",
+                            "<!DOCTYPE svg [<!--", "<!DOCTYPE svg [<?", "<!DOCTYPE svg [<!ENTITY e '<a\n'"})
+        QVERIFY(!DocumentPointer(QZeSvgTinyDocument::load(cut)));
 }
 
 QTEST_MAIN(TestReading)

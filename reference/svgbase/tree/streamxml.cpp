@@ -1,6 +1,7 @@
 #include "tree/streamxml.h"
 
 #include "inputlimits.h"
+#include "tree/entitylines.h"
 #include "tree/tagscanner.h"
 #include "tree/treebuilder.h"
 
@@ -126,7 +127,7 @@ bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages)
     // Other encodings may take fewer bytes.
     if (isTextTooLong(decoded, messages))
         return false;
-    const std::optional<QByteArray> thinned = withoutCrowdedTags(decoded);
+    const std::optional<QByteArray> thinned = withoutCrowdedTags(withEntityMarkupOnOneLine(decoded));
     if (!thinned) {
         messages->fail(Message::TooManyAttributes,
                        QStringLiteral("A tag or an entity has more than %1 attributes.").arg(Limits::attributes), 0,
