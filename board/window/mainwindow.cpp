@@ -21,6 +21,7 @@
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
 #include "window/actions.h"
+#include "window/fieldundo.h"
 #include "window/notices.h"
 #include "window/statusline.h"
 
@@ -104,6 +105,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectLessons();
     connectAnimation();
     connectDocument();
+    new FieldUndo(this);
     showPluginProblems();
     showTitle();
     resize(firstSize);

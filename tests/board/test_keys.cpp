@@ -13,6 +13,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QUndoStack>
 #include <QtWidgets/QUndoView>
 
@@ -51,6 +52,8 @@ private Q_SLOTS:
     void historyShowsWordsInTheUsersLanguage_data();
     void historyShowsWordsInTheUsersLanguage();
     void clickInTheHistoryGoesBack();
+    void undoRightAfterTypingAWidthTakesItBack();
+    void undoWhileTypingTakesTheTypingBack();
 };
 
 void TestKeys::arrowKeysNudge_data()
@@ -264,6 +267,49 @@ void TestKeys::clickInTheHistoryGoesBack()
     const QModelIndex drawn = view->model()->index(1, 0);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(drawn).center());
     QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+}
+
+/// The field for the width in the panel that is in front, its text selected.
+QDoubleSpinBox *widthField(const BoardDriver &board)
+{
+    QCoreApplication::processEvents();
+    for (QDoubleSpinBox *box : board.window().findChildren<QDoubleSpinBox *>()) {
+        if (box->accessibleName() == "Width" && box->isVisible()) {
+            board.window().activateWindow();
+            box->setFocus();
+            box->selectAll();
+            return box;
+        }
+    }
+    return nullptr;
+}
+
+/// The cursor is still in the field, which has nothing to take back itself.
+void TestKeys::undoRightAfterTypingAWidthTakesItBack()
+{
+    OneShape t;
+    QDoubleSpinBox *field = widthField(t.board);
+    QTest::keyClicks(field, "300");
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(t.place(), QRectF(500, 300, 300, 120));
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(t.place(), QRectF(500, 300, 300, 120));
+}
+
+void TestKeys::undoWhileTypingTakesTheTypingBack()
+{
+    OneShape t;
+    const int steps = t.board.history().index();
+    QDoubleSpinBox *field = widthField(t.board);
+    const QString before = field->text();
+    QTest::keyClicks(field, "3");
+    QCOMPARE(field->text(), QString("3"));
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field->text(), before);
+    QCOMPARE(t.board.history().index(), steps);
+    QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
 }
 
 QTEST_MAIN(TestKeys)
