@@ -23,6 +23,10 @@ namespace board {
 
 namespace {
 
+/// Lighter lines are not seen on paper.
+constexpr int lightestPattern = 235;
+constexpr QRgb patternColor = 0xffb4bfcc;
+
 bool takesFill(const CBaseObject &object, const pagehost::ObjectStyle &style)
 {
     return style.hasFill && object.getFillProp();
@@ -37,6 +41,16 @@ QVector<CBaseObject *> filledOf(const QVector<CBaseObject *> &objects)
             filled.append(object);
     }
     return filled;
+}
+
+/// Of a page of which the user only knows that it is white, a pattern in its colour would show nothing.
+CPageBgProp seenOnPaper(CPageBgProp fill, const CPageBgProp &present)
+{
+    const bool becomesPattern =
+        fill.fillType() == CPageBgProp::PatternFill && present.fillType() != CPageBgProp::PatternFill;
+    if (becomesPattern && fill.fillColor().lightness() > lightestPattern)
+        fill.setFillColor(QColor(patternColor));
+    return fill;
 }
 
 bool isPlain(const CPageBgProp &fill)
@@ -98,7 +112,7 @@ void StylePanel::connectControls()
     connect(m_fill, &FillControls::opacityPicked, this, &StylePanel::takeOpacity);
     connect(m_background, &FillControls::fillPicked, this, [this](const CPageBgProp &fill) {
         if (m_page)
-            pagehost::setPageBackground(m_page, fill);
+            pagehost::setPageBackground(m_page, seenOnPaper(fill, m_page->background()));
     });
     connect(m_background, &FillControls::opacityPicked, this, [this](int opacity) {
         if (!m_page)

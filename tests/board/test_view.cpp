@@ -6,6 +6,8 @@
 #include <look/icons.h>
 #include <look/theme.h>
 #include <page/pageview.h>
+#include <panels/fillcontrols.h>
+#include <panels/stylepanel.h>
 #include <window/actions.h>
 #include <window/mainwindow.h>
 
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void emptyPageSaysWhatToDo();
     void aBackgroundThatCanBeSeenThroughLiesOnPaper_data();
     void aBackgroundThatCanBeSeenThroughLiesOnPaper();
+    void aPatternChosenForAWhitePageIsSeen();
     void iconsFollowTheColours();
     void iconsOfNoSizeAreNoTrouble();
     void everyControlHasANameForScreenReaders();
@@ -212,6 +215,38 @@ void TestView::aBackgroundThatCanBeSeenThroughLiesOnPaper()
             QCOMPARE(picture.pixelColor(x, y), QColor(Qt::white));
     }
     board::applyTheme(board::Theme::Light);
+}
+
+void TestView::aPatternChosenForAWhitePageIsSeen()
+{
+    BoardDriver board;
+    QCoreApplication::processEvents();
+    const auto chooseFill = [&](const QString &name) {
+        for (QToolButton *button : board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>()) {
+            if (button->isVisible() && button->accessibleName() == name)
+                button->click();
+        }
+    };
+    chooseFill("Pattern");
+    QCOMPARE(board.page().background().fillType(), int(CPageBgProp::PatternFill));
+    QCOMPARE(board.page().background().fillColor(), QColor(0xb4, 0xbf, 0xcc));
+    // Whoever wants another colour, however light, gets it.
+    CPageBgProp light = board.page().background();
+    light.setFillColor(QColor(250, 250, 240));
+    Q_EMIT board.window()
+        .findChild<board::StylePanel *>()
+        ->findChildren<board::FillControls *>()
+        .last()
+        ->fillPicked(light);
+    QCOMPARE(board.page().background().fillColor(), QColor(250, 250, 240));
+    board.history().undo();
+    board.history().undo();
+    CPageBgProp dark = board.page().background();
+    dark.setFillColor(QColor(40, 60, 80));
+    board.page().setBackground(dark);
+    QCoreApplication::processEvents();
+    chooseFill("Pattern");
+    QCOMPARE(board.page().background().fillColor(), QColor(40, 60, 80));
 }
 
 void TestView::iconsFollowTheColours()
