@@ -45,6 +45,8 @@ private slots:
     void flagsNeedNoSeparator();
     void stopsAtTheLimitOfSegments();
     void coordinatesBeyondTheRangeEndThePath();
+    void openSubpathsThatComeBackAreTold_data();
+    void openSubpathsThatComeBackAreTold();
 };
 
 void TestPathData::commands_data()
@@ -216,6 +218,32 @@ void TestPathData::coordinatesBeyondTheRangeEndThePath()
     QCOMPARE(written(parsePathData(u"M0 0L1 1L2e9 0").path), QStringLiteral("M 0 0 L 1 1"));
     // Each step is in range, their sum is not.
     QCOMPARE(parsePathData(u"m0 0l9e8 0l9e8 0").path.elementCount(), 2);
+}
+
+void TestPathData::openSubpathsThatComeBackAreTold_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVector<int>>("ends");
+    QTest::newRow("lines") << "M0 0L10 0L10 10L0 0" << QVector<int>{3};
+    QTest::newRow("closed") << "M0 0L10 0L10 10L0 0z" << QVector<int>{};
+    QTest::newRow("elsewhere") << "M0 0L10 0L10 10L0 1" << QVector<int>{};
+    QTest::newRow("there and back") << "M5 5h10h-10" << QVector<int>{2};
+    QTest::newRow("curve") << "M1 1C2 1 2 2 1 1" << QVector<int>{3};
+    QTest::newRow("rounded sums") << "M.1 .1l.1 0l.1 .3l-.2 -.3" << QVector<int>{3};
+    QTest::newRow("before another") << "M0 0L10 0L0 0M5 5L6 6" << QVector<int>{2};
+    QTest::newRow("both") << "M0 0L10 0L0 0M5 5L6 6L5 5" << QVector<int>{2, 5};
+    QTest::newRow("going on behind a closed one") << "M0 0L10 0L10 10zL5 5L0 0" << QVector<int>{6};
+    QTest::newRow("a dot") << "M0 0L0 0" << QVector<int>{};
+    QTest::newRow("a move") << "M0 0M5 5" << QVector<int>{};
+    QTest::newRow("up to an error") << "M0 0L10 0L0 0X" << QVector<int>{2};
+}
+
+// Such a subpath has caps at both ends, which a painter would join (SVG 2 §13.5.4).
+void TestPathData::openSubpathsThatComeBackAreTold()
+{
+    QFETCH(QString, text);
+    QFETCH(QVector<int>, ends);
+    QCOMPARE(parsePathData(text).openEnds, ends);
 }
 
 QTEST_APPLESS_MAIN(TestPathData)
