@@ -70,6 +70,7 @@ private:
     void addMatches(bool important);
     void turnLayers();
     void addStyle(const QString &text, bool important);
+    void addAnimated(const QString &text);
     void addShorthand(const StyleDeclaration &declaration);
 
     const Tree &m_tree;
@@ -170,6 +171,15 @@ void DeclarationList::addStyle(const QString &text, bool important)
     }
 }
 
+// Values of animations are those that the attribute takes.
+void DeclarationList::addAnimated(const QString &text)
+{
+    const int before = m_list.size();
+    addStyle(text, false);
+    for (int i = before; i < m_list.size(); ++i)
+        m_list[i].isAttribute = true;
+}
+
 bool DeclarationList::collect(NodeIndex element)
 {
     static const QString hidden = QStringLiteral("hidden");
@@ -198,7 +208,7 @@ bool DeclarationList::collect(NodeIndex element)
     if (style && style->value.contains(QLatin1Char('!')))
         addStyle(style->value, true);
     if (animated)
-        addStyle(animated->value, false);
+        addAnimated(animated->value);
     return complete && m_stepsLeft >= 0;
 }
 
