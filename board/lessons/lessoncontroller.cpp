@@ -16,7 +16,7 @@ constexpr qint64 momentLength = 400;
 pagehost::Lesson lessonOf(const pagehost::LessonData &data)
 {
     pagehost::Lesson lesson;
-    lesson.fromData(data.data);
+    lesson.fromDamagedData(data.data);
     return lesson;
 }
 
@@ -154,11 +154,14 @@ bool LessonController::show()
         return false;
     const pagehost::LessonData data = m_workspace->document()->lessons().at(m_chosen);
     pagehost::Lesson lesson;
-    if (!lesson.fromData(data.data)) {
+    const pagehost::LessonExtent extent = lesson.fromDamagedData(data.data);
+    if (extent == pagehost::LessonExtent::Nothing) {
         m_notices->add({m_workspace->text("IDS_LESSON_UNREADABLE").arg(data.name), {}, {}, noticeId});
         return false;
     }
     m_notices->remove(noticeId);
+    if (extent == pagehost::LessonExtent::Part)
+        m_notices->add({m_workspace->text("IDS_LESSON_CUT").arg(data.name), {}, {}, noticeId});
     m_showing = true;
     m_player.setLesson(lesson);
     Q_EMIT stateChanged();

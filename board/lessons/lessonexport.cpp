@@ -15,14 +15,18 @@ ExportResult exportLesson(const Workspace &workspace, const pagehost::LessonData
 {
     ExportResult result;
     pagehost::Lesson lesson;
-    if (!lesson.fromData(data.data)) {
+    const pagehost::LessonExtent extent = lesson.fromDamagedData(data.data);
+    if (extent == pagehost::LessonExtent::Nothing) {
         result.problems.append(QStringLiteral("The lesson \"%1\" cannot be read.").arg(data.name));
         return result;
     }
     pagehost::LessonPlayer player(&workspace.registry());
     player.setLesson(lesson);
     player.playToEnd();
-    return exportPages(player.document(), workspace.registry(), folder, format);
+    result = exportPages(player.document(), workspace.registry(), folder, format);
+    if (extent == pagehost::LessonExtent::Part)
+        result.problems.append(QStringLiteral("The lesson \"%1\" is damaged and ends early.").arg(data.name));
+    return result;
 }
 
 } // namespace

@@ -5,12 +5,14 @@
 #include <pagehost/autosave.h>
 #include <pagehost/commands.h>
 #include <pagehost/documentfile.h>
+#include <pagehost/lesson.h>
 #include <pagehost/localizer.h>
 #include <pagehost/objectid.h>
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
 #include <QtTest/QtTest>
 
 /// Offers the objects of tests under kinds of their own.
@@ -44,6 +46,29 @@ inline TestObject *addPlain(pagehost::Page *page, const QPointF &pos)
     pagehost::setKindId(object, QStringLiteral("test.plain"));
     page->addObject(object);
     return object;
+}
+
+/// Opens a page and turns to it `turns` times, a second apart.
+inline pagehost::Lesson turningLesson(const QString &title, int turns)
+{
+    pagehost::Lesson lesson;
+    lesson.title = title;
+    lesson.start = {pagehost::PageAppeared{0, QSizeF(400, 300), "paper"}};
+    for (int turn = 1; turn <= turns; ++turn) {
+        lesson.events.append({turn * 1000, pagehost::PageTurned{0}});
+    }
+    lesson.duration = turns * 1000;
+    return lesson;
+}
+
+/// Its two stored forms.
+inline QByteArray lessonBytes(const QString &title, int turns = 3)
+{
+    return turningLesson(title, turns).toBytes();
+}
+inline QByteArray lessonText(const QString &title, int turns = 3)
+{
+    return QJsonDocument(turningLesson(title, turns).toJson()).toJson(QJsonDocument::Compact);
 }
 
 inline QByteArray contentsOf(const QString &file)

@@ -1,6 +1,8 @@
 #include "chunkedit.h"
 #include "filetest.h"
 
+#include <QtCore/QJsonArray>
+
 #include <cmath>
 #include <limits>
 
@@ -45,6 +47,17 @@ QByteArray withWrongSum(QByteArray file, const QByteArray &tag, int place = 0)
     return file;
 }
 
+/// What is kept of damaged parts.
+QList<QByteArray> damagedParts(const ExtraData &extra)
+{
+    QList<QByteArray> parts;
+    const QJsonArray texts = extra.members.value(QLatin1String("damaged")).toArray();
+    for (const QJsonValue &text : texts) {
+        parts.append(QByteArray::fromBase64(text.toString().toLatin1()));
+    }
+    return parts;
+}
+
 // Of an object's payload: flags, the kind's length, the kind, and what the flags announce.
 const QByteArray kind = "test.plain";
 const QByteArray kindWithLength = QByteArray("\x00\x0a", 2) + kind;
@@ -73,9 +86,10 @@ private Q_SLOTS:
     void damageThatAnObjectCannotHoldIsKept();
     void messagesCountTheObjectsOfEachPage();
     void missingObjectsAreCountedOnEachPage();
-    void brokenLessonIsToldAndTheOthersStay_data();
-    void brokenLessonIsToldAndTheOthersStay();
-    void damagedUnknownPartIsToldAndLeftOut();
+    void damagedLessonIsToldAndKeptWithItsBytes_data();
+    void damagedLessonIsToldAndKeptWithItsBytes();
+    void missingLessonIsCounted();
+    void damagedUnknownPartIsToldAndKept();
     void unknownPartsStayWithTheirPage();
     void bytesBehindTheEndAreTold();
     void damagedHeadIsTold();
@@ -153,6 +167,8 @@ void TestDamagedParts::objectThatCannotBeReadKeepsItsBytes()
     QCOMPARE(opened.messages[0].page, 1);
     QCOMPARE(opened.messages[0].object, 1);
     QCOMPARE(opened.messages[0].offset, qint64(file.indexOf("OBJT")));
+    // The text has no place for a kind.
+    QCOMPARE(opened.messages[0].arguments, QStringList());
     const QVector<CBaseObject *> objects = opened.document->page(0)->objects();
     QCOMPARE(objects.size(), 2);
     QVERIFY(isPlaceholder(objects[0]));
@@ -209,7 +225,8 @@ void TestDamagedParts::membersThatAreNoneAreTold()
     document->page(0)->setExtraData({{}, {{QStringLiteral("grid"), 5}}});
     const OpenResult opened = decodeDocument(withPayload(fileOf(*document), "JSON", payload), m_registry);
     QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
-    QVERIFY(opened.document->page(0)->extraData() == ExtraData());
+    QCOMPARE(opened.messages[0].arguments, QStringList{QString::number(payload.size())});
+    QCOMPARE(damagedParts(opened.document->page(0)->extraData()), QList<QByteArray>{payload});
     QCOMPARE(opened.document->page(0)->objectCount(), 2);
 }
 
@@ -285,36 +302,78 @@ void TestDamagedParts::missingObjectsAreCountedOnEachPage()
     QCOMPARE(opened.messages[0].page, 2);
 }
 
-void TestDamagedParts::brokenLessonIsToldAndTheOthersStay_data()
+void TestDamagedParts::damagedLessonIsToldAndKeptWithItsBytes_data()
 {
-    QTest::addColumn<bool>("isCut");
-    QTest::newRow("cut") << true;
-    QTest::newRow("a byte changed") << false;
-}
-
-void TestDamagedParts::brokenLessonIsToldAndTheOthersStay()
-{
-    QFETCH(bool, isCut);
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<int>("events");
     const std::unique_ptr<Document> document = fourObjects();
-    document->setLessons({{QStringLiteral("first"), QByteArray("1")}, {QStringLiteral("second"), QByteArray("2")}});
+    const QByteArray bytes = lessonBytes(QStringLiteral("first"));
+    document->setLessons({{QStringLiteral("first"), bytes}, {QStringLiteral("second"), lessonBytes({})}});
     const QByteArray file = fileOf(*document);
-    const QByteArray tag = "LESS";
-    QByteArray payload = payloadOf(file, tag);
-    payload.chop(1);
-    const QByteArray damaged = isCut ? withPayload(file, tag, payload) : withWrongSum(file, tag, payload.size());
-    const OpenResult opened = decodeDocument(damaged, m_registry);
-    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_LESSON_BROKEN")});
-    QCOMPARE(opened.document->lessons().size(), 1);
-    QCOMPARE(opened.document->lessons()[0].name, QStringLiteral("second"));
+    const QByteArray payload = payloadOf(file, "LESS");
+    // An event is 17 bytes: its time, its kind, and 4 bytes with their length before. The time of the second
+    // becomes one beyond the end of the lesson.
+    const int place = payload.size() - 2 * 17;
+    QByteArray changed = bytes;
+    changed[bytes.size() - 2 * 17] = 1;
+    QTest::newRow("a byte changed") << withWrongSum(file, "LESS", place) << "first" << changed << 1;
+    // Behind the name, 4 bytes for its length and 10 for its letters, come 4 bytes for the length of the data.
+    const QByteArray cut = payload.left(payload.size() - 1);
+    QTest::newRow("cut") << withPayload(file, "LESS", cut) << "first" << cut << 2;
+    QTest::newRow("a huge name") << withWrongSum(file, "LESS", 0) << QString()
+                                 << payloadOf(withWrongSum(file, "LESS", 0), "LESS") << 3;
 }
 
-void TestDamagedParts::damagedUnknownPartIsToldAndLeftOut()
+/// And plays up to the damage; the lesson behind it stays whole.
+void TestDamagedParts::damagedLessonIsToldAndKeptWithItsBytes()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, data);
+    QFETCH(int, events);
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_LESSON_DAMAGED")});
+    const QVector<LessonData> lessons = opened.document->lessons();
+    QCOMPARE(lessons.size(), 2);
+    QTEST(lessons[0].name, "name");
+    QCOMPARE(lessons[0].data, data);
+    QVERIFY(lessons[0].isDamaged);
+    QCOMPARE(lessons[1], (LessonData{QStringLiteral("second"), lessonBytes({})}));
+    Lesson played;
+    QCOMPARE(played.fromDamagedData(lessons[0].data), LessonExtent::Part);
+    QCOMPARE(played.events.size(), events);
+    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
+        const OpenResult again = decodeDocument(encodeDocument(*opened.document, format), m_registry);
+        QCOMPARE(again.document->lessons(), lessons);
+        QCOMPARE(textKeys(again.messages), QStringList{QStringLiteral("IDS_FILE_LESSON_DAMAGED")});
+    }
+}
+
+void TestDamagedParts::missingLessonIsCounted()
+{
+    const std::unique_ptr<Document> document = fourObjects();
+    document->setLessons({{QStringLiteral("only"), lessonBytes({})}});
+    QByteArray file = fileOf(*document);
+    file.remove(file.indexOf("LESS"), chunkOf("LESS", payloadOf(file, "LESS")).size());
+    const OpenResult opened = decodeDocument(file, m_registry);
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_LESSONS_MISSING")});
+    QCOMPARE(opened.messages[0].arguments, QStringList{QStringLiteral("1")});
+}
+
+void TestDamagedParts::damagedUnknownPartIsToldAndKept()
 {
     const std::unique_ptr<Document> document = fourObjects();
     document->setExtraData({{{"NEWD", "of the document"}, {"newd", "more"}}, {}});
     const OpenResult opened = decodeDocument(withWrongSum(fileOf(*document), "NEWD"), m_registry);
     QCOMPARE(textKeys(opened.messages), QStringList{damagedPart});
-    QVERIFY(opened.document->extraData() == (ExtraData{{{"newd", "more"}}, {}}));
+    QCOMPARE(opened.messages[0].arguments, QStringList{QStringLiteral("15")});
+    QCOMPARE(opened.document->extraData().chunks, (QVector<ExtraData::Chunk>{{"newd", "more"}}));
+    // The first letter, "o", with its lowest bit changed.
+    QCOMPARE(damagedParts(opened.document->extraData()), QList<QByteArray>{"nf the document"});
+    const OpenResult again = decodeDocument(fileOf(*opened.document), m_registry);
+    QVERIFY(again.messages.isEmpty());
+    QVERIFY(again.document->extraData() == opened.document->extraData());
 }
 
 void TestDamagedParts::unknownPartsStayWithTheirPage()

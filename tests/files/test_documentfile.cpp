@@ -28,8 +28,8 @@ std::unique_ptr<Document> smallDocument()
     red.setFillEnable(true);
     red.setFillColor(Qt::red);
     document->appendPage()->setBackground(red);
-    document->setLessons({{QStringLiteral("Größe"), QByteArray("\x00\x01\xff", 3)},
-                          {QStringLiteral("readable"), QByteArray("{\"steps\":[1,2.5]}")}});
+    document->setLessons({{QStringLiteral("Größe"), lessonBytes(QStringLiteral("Größe"))},
+                          {QStringLiteral("readable"), lessonText(QStringLiteral("readable"))}});
     document->clearModified();
     return document;
 }
@@ -146,7 +146,7 @@ private Q_SLOTS:
     void documentThatCannotBeSavedLeavesTheOldFile();
     void fileThatIsNotThereIsTold();
     void deviceIsNoDocument();
-    void fileBeyondTheLargestIsNoDocument();
+    void fileBeyondTheLargestIsRefusedWithItsSize();
 
 private:
     FileTestRegistry m_registry;
@@ -337,7 +337,7 @@ void TestDocumentFile::deviceIsNoDocument()
 }
 
 /// Not read at all, though it begins like a document. The rest of it is a hole, which takes no room on the disk.
-void TestDocumentFile::fileBeyondTheLargestIsNoDocument()
+void TestDocumentFile::fileBeyondTheLargestIsRefusedWithItsSize()
 {
     constexpr qint64 largest = 1 << 30;
     const QTemporaryDir folder;
@@ -346,7 +346,9 @@ void TestDocumentFile::fileBeyondTheLargestIsNoDocument()
     QVERIFY(QFile::resize(file, largest + 1));
     const OpenResult opened = openDocument(file, m_registry);
     QVERIFY(!opened.document);
-    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_NO_DOCUMENT")});
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_BEYOND_LIMIT")});
+    QCOMPARE(describe(opened.messages[0], Localizer()),
+             QStringLiteral("The file has 1073741825 bytes; files of more than 1073741824 bytes are not opened."));
 }
 
 QTEST_MAIN(TestDocumentFile)

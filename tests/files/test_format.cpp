@@ -30,7 +30,8 @@ std::unique_ptr<Document> variedDocument()
     Page *page = source->appendPage(QSizeF(300, 200.5));
     setObjectId(addPlain(page, QPointF(1, 2)), 3);
     addPlain(page, QPointF(4, 5))->setRotation(std::numeric_limits<double>::infinity());
-    source->setLessons({{QStringLiteral("text"), "{\"a\":1}"}, {QStringLiteral("bytes"), "\x01"}});
+    source->setLessons({{QStringLiteral("text"), lessonText(QStringLiteral("text"))},
+                        {QStringLiteral("bytes"), lessonBytes(QStringLiteral("bytes"))}});
     source->setExtraData({{{"ABCD", "x"}}, {{QStringLiteral("author"), 1}}});
     page->setExtraData({{{"ABCD", "x"}}, {{QStringLiteral("grid"), 1}}});
     const ObjectRegistry ignorant;
@@ -66,19 +67,20 @@ private Q_SLOTS:
 void TestFormat::emptyDocumentIsTheseBytes()
 {
     Document document;
-    // The signature; version 1 and no page; the end.
+    // The signature; version 1, no page and no lesson; the end.
     QCOMPARE(encodeDocument(document, DocumentFormat::Binary).toHex(), QByteArray("894252440d0a1a0a"
                                                                                   "56455253"
-                                                                                  "00000008"
-                                                                                  "5842f6d9"
-                                                                                  "098cbe81"
-                                                                                  "0000000100000000"
+                                                                                  "0000000c"
+                                                                                  "6caed22c"
+                                                                                  "1f82b946"
+                                                                                  "000000010000000000000000"
                                                                                   "444f4e45"
                                                                                   "00000000"
                                                                                   "00000000"
                                                                                   "1976d692"));
     QCOMPARE(encodeDocument(document, DocumentFormat::Json),
-             QByteArray("{\n  \"format\": \"gliololok board\",\n  \"version\": 1,\n  \"pages\": []\n}\n"));
+             QByteArray("{\n  \"format\": \"gliololok board\",\n  \"version\": 1,\n  \"pageCount\": 0,\n"
+                        "  \"lessonCount\": 0,\n  \"pages\": []\n}\n"));
 }
 
 void TestFormat::objectIsTheseBytes()

@@ -477,8 +477,12 @@ void TestPlaceholders::unknownPartsOfABinaryFileAreKept()
 
 void TestPlaceholders::unknownPartsOfAJsonFileAreKept()
 {
+    QJsonObject fill;
+    Document().appendPage()->background().saveJson(fill);
+    const QByteArray background = QJsonDocument(fill).toJson();
     const QByteArray bytes = "{\"format\": \"gliololok board\", \"version\": 1, \"author\": {\"age\": 41},\n"
-                             "\"pages\": [{\"page\": 1, \"grid\": [1, 2.5, null], \"objects\": []}]}";
+                             "\"pages\": [{\"page\": 1, \"width\": 400, \"height\": 300, \"background\": " +
+                             background + ", \"grid\": [1, 2.5, null], \"objects\": []}]}";
     const OpenResult opened = decodeDocument(bytes, m_registry);
     QVERIFY(opened.messages.isEmpty());
     const QJsonObject saved =

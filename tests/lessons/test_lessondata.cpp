@@ -10,6 +10,7 @@
 #include <limits>
 
 using pagehost::Lesson;
+using pagehost::LessonExtent;
 using pagehost::LessonStep;
 
 // The two stored forms of a lesson, and the stopwatch.
@@ -27,6 +28,13 @@ private Q_SLOTS:
     void nothingElseIsALesson();
     void truncatedBytesAreRefused();
     void flippedBytesNeverCrash();
+    void bytesWithOneFlippedBitGiveWhatIsBefore();
+    void textWithOneFlippedBitGivesWhatIsBefore();
+    void partOfALessonEndsWithItsLastEvent_data();
+    void partOfALessonEndsWithItsLastEvent();
+    void wholeLessonIsReadWhole();
+    void dataOfNoLessonGiveNothing_data();
+    void dataOfNoLessonGiveNothing();
     void countsBeyondTheBytesAreRefused();
     void timesMustGrow_data();
     void timesMustGrow();
@@ -280,6 +288,125 @@ void TestLessonData::flippedBytesNeverCrash()
         }
     }
     QVERIFY(refused > 1000);
+}
+
+/// Whether all events of `lesson` that end before `place` in `stored` are the first ones of `read`.
+static bool hasEventsBefore(const Lesson &read, const Lesson &lesson, const QVector<int> &ends, int place)
+{
+    const auto before = std::upper_bound(ends.begin(), ends.end(), place) - ends.begin();
+    const auto sameEvent = [](const pagehost::LessonEvent &a, const pagehost::LessonEvent &b) {
+        return a.time == b.time && isSame(a.step, b.step);
+    };
+    return read.events.size() >= before &&
+           std::equal(lesson.events.begin(), lesson.events.begin() + before, read.events.begin(), sameEvent);
+}
+
+void TestLessonData::bytesWithOneFlippedBitGiveWhatIsBefore()
+{
+    const Lesson lesson = everyLesson();
+    const QByteArray whole = lesson.toBytes();
+    // Without its events a lesson ends with their count, 4 bytes.
+    Lesson start = lesson;
+    start.events.clear();
+    const int head = start.toBytes().size();
+    QVector<int> ends;
+    for (const pagehost::LessonEvent &event : lesson.events) {
+        Lesson one = start;
+        one.events = {event};
+        ends.append((ends.isEmpty() ? head : ends.last()) + one.toBytes().size() - head);
+    }
+    QCOMPARE(ends.last(), whole.size());
+    for (int place = head; place < whole.size(); ++place) {
+        for (int bit = 0; bit < 8; ++bit) {
+            QByteArray damaged = whole;
+            damaged[place] = char(damaged[place] ^ (1 << bit));
+            Lesson read;
+            QVERIFY(read.fromDamagedData(damaged) != LessonExtent::Nothing);
+            QVERIFY2(hasEventsBefore(read, lesson, ends, place), qPrintable(QString::number(place)));
+            QVERIFY(read.events.isEmpty() || read.duration >= read.events.last().time);
+        }
+    }
+}
+
+void TestLessonData::textWithOneFlippedBitGivesWhatIsBefore()
+{
+    const Lesson lesson = turning({100, 200, 300, 400}, 400);
+    const QByteArray whole = QJsonDocument(lesson.toJson()).toJson(QJsonDocument::Compact);
+    const int first = whole.indexOf("\"events\":[{");
+    QVector<int> ends;
+    for (int end = whole.indexOf('}', first); ends.size() < lesson.events.size();
+         end = whole.indexOf('}', end + 1)) {
+        ends.append(end + 1);
+    }
+    const int behind = ends.last() + 1;
+    for (int place = first + 11; place < behind; ++place) {
+        for (int bit = 0; bit < 8; ++bit) {
+            QByteArray damaged = whole;
+            damaged[place] = char(damaged[place] ^ (1 << bit));
+            Lesson read;
+            QVERIFY2(read.fromDamagedData(damaged) != LessonExtent::Nothing, damaged.constData());
+            QVERIFY2(hasEventsBefore(read, lesson, ends, place), damaged.constData());
+        }
+    }
+}
+
+void TestLessonData::partOfALessonEndsWithItsLastEvent_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<int>("events");
+    QTest::addColumn<qint64>("duration");
+    const QByteArray bytes = turning({100, 200, 300}, 5000).toBytes();
+    QTest::newRow("cut in the last event") << bytes.left(bytes.size() - 1) << 2 << qint64(200);
+    QTest::newRow("more behind") << bytes + "x" << 3 << qint64(300);
+    QTest::newRow("time falls") << turning({100, 200, 150, 300}, 5000).toBytes() << 2 << qint64(200);
+    QTest::newRow("time beyond the end") << turning({100, 6000, 6001}, 5000).toBytes() << 1 << qint64(100);
+    QTest::newRow("bytes before it") << QByteArray("abc") + bytes << 3 << qint64(300);
+    const QByteArray text = QJsonDocument(turning({100, 200, 300}, 5000).toJson()).toJson();
+    QByteArray wrong = text;
+    QTest::newRow("text, no number in the third event") << wrong.replace("300", "3oo") << 2 << qint64(200);
+    QTest::newRow("text, cut before the start") << text.left(text.indexOf("\"start\"")) << 0 << qint64(0);
+    QByteArray renamed = text;
+    QTest::newRow("text, its title renamed") << renamed.replace("\"title\"", "\"titlf\"") << 3 << qint64(300);
+}
+
+/// And is a part, since silence behind it cannot be trusted either.
+void TestLessonData::partOfALessonEndsWithItsLastEvent()
+{
+    QFETCH(QByteArray, data);
+    Lesson read;
+    QCOMPARE(read.fromDamagedData(data), LessonExtent::Part);
+    QTEST(read.events.size(), "events");
+    QTEST(read.duration, "duration");
+    QVERIFY(!Lesson().fromData(data));
+}
+
+void TestLessonData::wholeLessonIsReadWhole()
+{
+    const Lesson lesson = everyLesson();
+    for (const QByteArray &data : {lesson.toBytes(), QJsonDocument(lesson.toJson()).toJson()}) {
+        Lesson read;
+        QCOMPARE(read.fromDamagedData(data), LessonExtent::Whole);
+        QVERIFY(isSame(read, lesson));
+    }
+}
+
+void TestLessonData::dataOfNoLessonGiveNothing_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("text") << QByteArray("neither");
+    QTest::newRow("an empty object") << QByteArray("{}");
+    QTest::newRow("a newer version") << QByteArray(
+        "{\"version\": 2, \"title\": \"\", \"start\": [], \"events\": []}");
+    QTest::newRow("only the head") << everyLesson().toBytes().left(10);
+}
+
+void TestLessonData::dataOfNoLessonGiveNothing()
+{
+    QFETCH(QByteArray, data);
+    Lesson lesson = everyLesson();
+    QCOMPARE(lesson.fromDamagedData(data), LessonExtent::Nothing);
+    QVERIFY(isSame(lesson, everyLesson()));
 }
 
 void TestLessonData::countsBeyondTheBytesAreRefused()

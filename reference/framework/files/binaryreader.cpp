@@ -5,6 +5,8 @@
 #include <pagehost/page.h>
 
 #include <files/chunks.h>
+#include <files/damagedparts.h>
+#include <files/lessoncheck.h>
 #include <files/objectrecordstream.h>
 
 #include <QtCore/QJsonDocument>
@@ -40,8 +42,9 @@ private:
     void takeExtra(const chunks::Chunk &chunk);
     void takeMembers(const chunks::Chunk &chunk);
     void finishPage();
-    void reportGap();
+    void takeGap();
     void reportMissing();
+    void keepDamaged(const QByteArray &bytes, qint64 offset);
     void report(FileMessage message, qint64 offset);
 
     bool m_hasSignature;
@@ -50,13 +53,15 @@ private:
     QVector<FileMessage> &m_messages;
     std::unique_ptr<Document> m_document = std::make_unique<Document>();
     Page *m_page = nullptr;
-    ExtraData m_extra;                ///< of the document, then of the present page
+    ExtraData m_extra; ///< of the document, then of the present page
+    DamagedParts m_damaged;
     QVector<CBaseObject *> m_objects; ///< of the present page
     QVector<LessonData> m_lessons;
     quint32 m_version = 0;
     qint64 m_objectsClaimed = 0; ///< by the present page
     qint64 m_objectsSeen = 0;
     qint64 m_pagesClaimed = 0;
+    qint64 m_lessonsClaimed = 0;
     bool m_isComplete = false;
 };
 
@@ -65,7 +70,7 @@ std::unique_ptr<Document> BinaryReader::read()
     const CurrentDocumentScope scope(m_document.get());
     chunks::Chunk chunk;
     while (m_chunks.next(chunk)) {
-        reportGap();
+        takeGap();
         take(chunk);
         if (m_version > formatVersion) {
             m_messages = {error(QStringLiteral("IDS_FILE_NEWER_VERSION"),
@@ -73,9 +78,9 @@ std::unique_ptr<Document> BinaryReader::read()
             return nullptr;
         }
     }
-    reportGap();
+    takeGap();
     finishPage();
-    if (m_document->pageCount() == 0 && !m_isComplete) {
+    if (m_document->pageCount() == 0 && m_lessons.isEmpty() && !m_isComplete) {
         m_messages = {
             error(m_hasSignature ? QStringLiteral("IDS_FILE_NO_PAGE") : QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
         return nullptr;
@@ -105,26 +110,35 @@ void BinaryReader::take(const chunks::Chunk &chunk)
 void BinaryReader::takeVersion(const chunks::Chunk &chunk)
 {
     if (chunk.isDamaged) {
-        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        keepDamaged(chunk.payload, chunk.offset);
         return;
     }
     QDataStream in(chunk.payload);
     quint32 pages = 0;
-    in >> m_version >> pages;
+    quint32 lessons = 0;
+    in >> m_version >> pages >> lessons;
     m_pagesClaimed = pages;
+    m_lessonsClaimed = lessons;
 }
 
+/// A damaged lesson keeps its bytes, of which the player takes what it can.
 void BinaryReader::takeLesson(const chunks::Chunk &chunk)
 {
     QDataStream in(chunk.payload);
     in.setVersion(chunks::streamVersion);
     LessonData lesson;
     in >> lesson.name >> lesson.data;
-    if (chunk.isDamaged || in.status() != QDataStream::Ok) {
-        report(warning(QStringLiteral("IDS_FILE_LESSON_BROKEN")), chunk.offset);
-        return;
+    const bool isReadable = in.status() == QDataStream::Ok;
+    if (!isReadable) {
+        lesson.data = QByteArray(chunk.payload.constData(), chunk.payload.size());
+    } else if (!in.atEnd()) {
+        in >> lesson.isDamaged;
     }
+    lesson.isDamaged = lesson.isDamaged || chunk.isDamaged || !isReadable;
     m_lessons.append(lesson);
+    if (isBroken(lesson)) {
+        report(warning(QStringLiteral("IDS_FILE_LESSON_DAMAGED"), {lesson.name}), chunk.offset);
+    }
 }
 
 void BinaryReader::takePage(const chunks::Chunk &chunk)
@@ -146,6 +160,7 @@ void BinaryReader::takePage(const chunks::Chunk &chunk)
     m_objectsClaimed = chunk.isDamaged ? 0 : objects;
     if (chunk.isDamaged || !isPageSize(size) || !hasBackground) {
         report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), chunk.offset);
+        m_damaged.keep(chunk.payload);
     }
 }
 
@@ -153,7 +168,8 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
 {
     ++m_objectsSeen;
     if (!m_page) {
-        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        finishPage();
+        report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), chunk.offset);
         m_page = m_document->appendPage();
     }
     ObjectRecord record = recordOf(chunk.payload);
@@ -171,7 +187,7 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
 void BinaryReader::takeExtra(const chunks::Chunk &chunk)
 {
     if (chunk.isDamaged) {
-        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        keepDamaged(chunk.payload, chunk.offset);
         return;
     }
     if (chunk.tag == chunks::membersTag) {
@@ -186,7 +202,7 @@ void BinaryReader::takeMembers(const chunks::Chunk &chunk)
 {
     const QJsonDocument members = QJsonDocument::fromJson(chunk.payload);
     if (!members.isObject()) {
-        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), chunk.offset);
+        keepDamaged(chunk.payload, chunk.offset);
     }
     m_extra.members = members.object();
 }
@@ -194,6 +210,7 @@ void BinaryReader::takeMembers(const chunks::Chunk &chunk)
 /// Of the document when no page has begun.
 void BinaryReader::finishPage()
 {
+    m_damaged.moveTo(m_extra);
     if (!m_page) {
         m_document->setExtraData(m_extra);
         m_extra = {};
@@ -212,11 +229,32 @@ void BinaryReader::finishPage()
     m_objectsClaimed = 0;
 }
 
-void BinaryReader::reportGap()
+/// What stands before a chunk or the end and is none: a chunk whose header is damaged, or anything.
+void BinaryReader::takeGap()
 {
-    if (m_chunks.skipped() > 0) {
-        report(warning(QStringLiteral("IDS_FILE_DAMAGED_PART")), m_chunks.offset());
+    QByteArray gap = m_chunks.gap();
+    const qint64 start = m_chunks.gapStart();
+    if (gap.isEmpty()) {
+        return;
     }
+    if (start == 0) {
+        gap.remove(0, chunks::signatureSize);
+    }
+    chunks::Chunk chunk;
+    chunk.offset = start;
+    if (gap.isEmpty()) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_READ")), start);
+    } else if (chunks::readDamagedHeader(gap, chunk)) {
+        report(warning(QStringLiteral("IDS_FILE_DAMAGED_READ")), start);
+        take(chunk);
+    } else {
+        keepDamaged(gap, start);
+    }
+}
+
+void BinaryReader::keepDamaged(const QByteArray &bytes, qint64 offset)
+{
+    report(m_damaged.keep(bytes), offset);
 }
 
 void BinaryReader::reportMissing()
@@ -224,6 +262,11 @@ void BinaryReader::reportMissing()
     const qint64 missing = m_pagesClaimed - m_document->pageCount();
     if (missing > 0) {
         addMessage(m_messages, warning(QStringLiteral("IDS_FILE_PAGES_MISSING"), {QString::number(missing)}));
+    }
+    const qint64 missingLessons = m_lessonsClaimed - m_lessons.size();
+    if (missingLessons > 0) {
+        addMessage(m_messages,
+                   warning(QStringLiteral("IDS_FILE_LESSONS_MISSING"), {QString::number(missingLessons)}));
     }
     if (!m_isComplete) {
         addMessage(m_messages, warning(QStringLiteral("IDS_FILE_ENDS_EARLY")));
@@ -239,11 +282,6 @@ void BinaryReader::report(FileMessage message, qint64 offset)
 }
 
 } // namespace
-
-bool binaryformat::isFormat(const QByteArray &bytes)
-{
-    return chunks::Reader::hasSignature(bytes);
-}
 
 std::unique_ptr<Document> binaryformat::read(const QByteArray &bytes, const ObjectFactory &factory,
                                              QVector<FileMessage> &messages)

@@ -25,7 +25,10 @@ bool writeExtraData(chunks::Writer &writer, const ExtraData &extra)
 
 bool writeLesson(chunks::Writer &writer, const LessonData &lesson)
 {
-    writer.begin(chunks::lessonTag) << lesson.name << lesson.data;
+    QDataStream &out = writer.begin(chunks::lessonTag) << lesson.name << lesson.data;
+    if (lesson.isDamaged) {
+        out << true;
+    }
     return writer.end();
 }
 
@@ -47,9 +50,9 @@ bool writePage(chunks::Writer &writer, const Page &page)
 
 bool writeDocument(chunks::Writer &writer, const Document &document)
 {
-    writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount());
-    bool done = writer.end() && writeExtraData(writer, document.extraData());
     const QVector<LessonData> lessons = document.lessons();
+    writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount()) << quint32(lessons.size());
+    bool done = writer.end() && writeExtraData(writer, document.extraData());
     for (const LessonData &lesson : lessons) {
         done = done && writeLesson(writer, lesson);
     }

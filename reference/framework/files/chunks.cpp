@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
+#include <numeric>
 
 namespace chunks {
 
@@ -15,6 +17,8 @@ namespace {
 constexpr int lengthPlace = 4;
 constexpr int sumPlace = 8;
 constexpr int headerSumPlace = 12;
+
+constexpr const char *knownTags[] = {versionTag, lessonTag, membersTag, pageTag, objectTag, endTag};
 
 void writeHeader(char *header, const char *tag, const char *payload, int size)
 {
@@ -33,6 +37,17 @@ bool isTagAt(const char *bytes)
 quint32 number(const char *bytes)
 {
     return qFromBigEndian<quint32>(bytes);
+}
+
+/// The tag of which at most one letter is another one here; empty for none.
+QByteArray nearestTag(const char *bytes)
+{
+    for (const char *tag : knownTags) {
+        if (std::inner_product(tag, tag + tagSize, bytes, 0, std::plus<>(), std::not_equal_to<>()) <= 1) {
+            return QByteArray(tag, tagSize);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -91,6 +106,18 @@ bool Reader::hasSignature(const QByteArray &bytes)
     return bytes.startsWith(QByteArray::fromRawData(signature, signatureSize));
 }
 
+bool Reader::hasKnownChunk() const
+{
+    for (const char *tag : knownTags) {
+        for (int place = m_bytes.indexOf(tag); place >= 0; place = m_bytes.indexOf(tag, place + 1)) {
+            if (isHeader(place)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 bool Reader::isHeader(qint64 offset) const
 {
     const char *header = m_bytes.constData() + offset;
@@ -98,28 +125,57 @@ bool Reader::isHeader(qint64 offset) const
            number(header + headerSumPlace) == checksum(header, headerSumPlace);
 }
 
+qint64 Reader::findHeader(qint64 from, qint64 end) const
+{
+    while (from < end && !isHeader(from)) {
+        ++from;
+    }
+    return from;
+}
+
 bool Reader::next(Chunk &chunk)
 {
-    const qint64 start = m_offset;
-    while (m_bytes.size() - m_offset >= headerSize && !isHeader(m_offset)) {
-        ++m_offset;
-    }
-    if (m_bytes.size() - m_offset < headerSize) {
-        m_skipped = m_bytes.size() - start;
-        m_offset = m_bytes.size();
-        m_endsEarly = m_endsEarly || m_skipped > 0;
+    const qint64 size = m_bytes.size();
+    m_gapStart = m_offset;
+    m_offset = findHeader(m_offset, size);
+    m_gapSize = m_offset - m_gapStart;
+    if (m_offset == size) {
+        m_endsEarly = m_endsEarly || m_gapSize > 0;
         return false;
     }
-    m_skipped = m_offset - start;
     const char *header = m_bytes.constData() + m_offset;
-    const qint64 there = m_bytes.size() - m_offset - headerSize;
-    const qint64 length = std::min<qint64>(number(header + lengthPlace), there);
-    m_endsEarly = length < number(header + lengthPlace);
+    const qint64 start = m_offset + headerSize;
+    const qint64 claimed = number(header + lengthPlace);
+    qint64 length = std::min(claimed, size - start);
+    m_endsEarly = length < claimed;
+    chunk.isDamaged = m_endsEarly || number(header + sumPlace) != checksum(header + headerSize, length);
+    if (chunk.isDamaged) {
+        // Bytes may have gone from the payload, and what follows has moved up.
+        length = findHeader(start, start + length) - start;
+    }
     chunk.tag = QByteArray(header, tagSize);
     chunk.payload = QByteArray::fromRawData(header + headerSize, int(length));
     chunk.offset = m_offset;
-    chunk.isDamaged = m_endsEarly || number(header + sumPlace) != checksum(header + headerSize, length);
-    m_offset += headerSize + length;
+    m_offset = start + length;
+    return true;
+}
+
+bool readDamagedHeader(const QByteArray &bytes, Chunk &chunk)
+{
+    if (bytes.size() < headerSize) {
+        return false;
+    }
+    const char *const header = bytes.constData();
+    const QByteArray tag = nearestTag(header);
+    const qint64 length = bytes.size() - headerSize;
+    const bool hasSum = number(header + sumPlace) == checksum(header + headerSize, length);
+    const bool hasLength = number(header + lengthPlace) == length;
+    if (tag.isEmpty() || !(hasSum || hasLength)) {
+        return false;
+    }
+    chunk.tag = tag;
+    chunk.payload = QByteArray::fromRawData(header + headerSize, int(length));
+    chunk.isDamaged = !hasSum;
     return true;
 }
 

@@ -68,21 +68,30 @@ public:
     explicit Reader(const QByteArray &bytes);
 
     static bool hasSignature(const QByteArray &bytes);
+    /// Whether any of the chunks that this version writes begins somewhere.
+    bool hasKnownChunk() const;
     /// The next chunk; false at the end.
     bool next(Chunk &chunk);
-    /// Bytes that next() had to pass over before the chunk, since they are no chunk.
-    qint64 skipped() const { return m_skipped; }
+    /// What next() had to pass over before the chunk, or before the end, since it is no chunk.
+    QByteArray gap() const { return m_bytes.mid(int(m_gapStart), int(m_gapSize)); }
+    qint64 gapStart() const { return m_gapStart; }
     /// Whether the bytes ended inside a chunk or with what is no chunk.
     bool endsEarly() const { return m_endsEarly; }
-    qint64 offset() const { return m_offset; }
 
 private:
     bool isHeader(qint64 offset) const;
+    /// Where the next header is, at `from` or behind it; `end` for nowhere before it.
+    qint64 findHeader(qint64 from, qint64 end) const;
 
     QByteArray m_bytes;
     qint64 m_offset = 0;
-    qint64 m_skipped = 0;
+    qint64 m_gapStart = 0;
+    qint64 m_gapSize = 0;
     bool m_endsEarly = false;
 };
+
+/// Takes bytes that are no chunk for one whose header is damaged. False when nothing in them proves that; else
+/// `chunk` refers to the bytes.
+bool readDamagedHeader(const QByteArray &bytes, Chunk &chunk);
 
 } // namespace chunks

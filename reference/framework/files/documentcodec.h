@@ -38,7 +38,6 @@ private:
 /// too large; readers give null and an error message for bytes of which nothing can be read.
 namespace binaryformat {
 
-bool isFormat(const QByteArray &bytes);
 QByteArray write(Document &document, FileMessage &problem);
 std::unique_ptr<Document> read(const QByteArray &bytes, const ObjectFactory &factory,
                                QVector<FileMessage> &messages);

@@ -5,7 +5,6 @@
 #include <files/chunks.h>
 #include <files/documentcodec.h>
 #include <files/durablefile.h>
-#include <files/jsonnames.h>
 #include <files/objectrecordstream.h>
 #include <files/placeholderobject.h>
 
@@ -23,11 +22,11 @@ FileMessage writeProblem(const WriteResult &result, const QString &file)
                : error(QStringLiteral("IDS_FILE_CANNOT_WRITE"), {file, result.problem});
 }
 
-/// Of bytes without the binary format's signature. The brace may be what is damaged.
-bool looksLikeJson(const QByteArray &bytes)
+/// The front of a file may be what is damaged.
+DocumentFormat formatOf(const QByteArray &bytes)
 {
-    constexpr int headSize = 200;
-    return bytes.left(headSize).trimmed().startsWith('{') || bytes.left(headSize).contains(jsonnames::formatText);
+    return chunks::Reader::hasSignature(bytes) || chunks::Reader(bytes).hasKnownChunk() ? DocumentFormat::Binary
+                                                                                        : DocumentFormat::Json;
 }
 
 } // namespace
@@ -59,8 +58,13 @@ OpenResult openDocument(const QString &file, const ObjectRegistry &registry)
     OpenResult result;
     const bool isOpen = in.open(QIODevice::ReadOnly);
     // A device could go on for ever.
-    if (isOpen && (!QFileInfo(file).isFile() || in.size() > chunks::mostBytes)) {
+    if (isOpen && !QFileInfo(file).isFile()) {
         result.messages = {error(QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
+        return result;
+    }
+    if (isOpen && in.size() > chunks::mostBytes) {
+        result.messages = {error(QStringLiteral("IDS_FILE_BEYOND_LIMIT"),
+                                 {QString::number(in.size()), QString::number(chunks::mostBytes)})};
         return result;
     }
     const QByteArray bytes = isOpen ? in.readAll() : QByteArray();
@@ -82,9 +86,8 @@ OpenResult decodeDocument(const QByteArray &bytes, const ObjectRegistry &registr
 {
     OpenResult result;
     const ObjectFactory factory(registry);
-    result.document = !binaryformat::isFormat(bytes) && looksLikeJson(bytes)
-                          ? jsonformat::read(bytes, factory, result.messages)
-                          : binaryformat::read(bytes, factory, result.messages);
+    result.document = formatOf(bytes) == DocumentFormat::Json ? jsonformat::read(bytes, factory, result.messages)
+                                                              : binaryformat::read(bytes, factory, result.messages);
     if (!result.document) {
         return result;
     }

@@ -73,9 +73,13 @@ void addMessage(QVector<FileMessage> &messages, const FileMessage &message)
 {
     if (messages.size() < mostMessages || message.severity == FileMessage::Error) {
         messages.append(message);
-    } else if (messages.size() == mostMessages) {
-        messages.append(warning(QStringLiteral("IDS_FILE_MORE_PROBLEMS")));
+        return;
     }
+    if (messages.size() == mostMessages) {
+        messages.append(warning(QStringLiteral("IDS_FILE_MORE_PROBLEMS"), {QString::number(0)}));
+    }
+    QString &count = messages[mostMessages].arguments[0];
+    count = QString::number(count.toInt() + 1);
 }
 
 bool isPageSize(const QSizeF &size)

@@ -132,29 +132,6 @@ bool JsonCursor::skipBracketed()
     return false;
 }
 
-bool JsonCursor::hasFirstKey(qint64 offset, const char *key) const
-{
-    JsonCursor cursor(*this);
-    cursor.setOffset(offset);
-    QByteArray first;
-    return cursor.take('{') && cursor.takeKey(first) && first == key;
-}
-
-qint64 JsonCursor::findMarker(qint64 from) const
-{
-    for (qint64 at = m_text.indexOf('{', int(from)); at >= 0; at = m_text.indexOf('{', int(at) + 1)) {
-        if (hasFirstKey(at, "kind") || hasFirstKey(at, "page")) {
-            return at;
-        }
-    }
-    return -1;
-}
-
-bool JsonCursor::isPageMarker(qint64 offset) const
-{
-    return hasFirstKey(offset, "page");
-}
-
 QJsonValue parseJson(const QByteArray &text, JsonProblem &problem)
 {
     const bool isBracketed = text.startsWith('{') || text.startsWith('[');

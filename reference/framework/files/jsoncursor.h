@@ -27,15 +27,10 @@ public:
     /// Takes one value, whatever it is; `value` refers to its text. False when it does not end or is none; the
     /// cursor then stands where it was.
     bool takeValue(QByteArray &value);
-    /// Where an object begins whose first member is `"kind"` or `"page"`, at `from` or behind it; -1 for nowhere.
-    qint64 findMarker(qint64 from) const;
-    /// Whether the object that begins at `offset` is one of a page.
-    bool isPageMarker(qint64 offset) const;
 
 private:
     bool takeString(QByteArray &contents);
     bool skipBracketed();
-    bool hasFirstKey(qint64 offset, const char *key) const;
 
     QByteArray m_text;
     qint64 m_pos = 0;

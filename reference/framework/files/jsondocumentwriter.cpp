@@ -107,6 +107,7 @@ bool writePage(JsonWriter &writer, const Page &page, int number)
     writer.member(pageName, number);
     writer.member(widthName, page.size().width());
     writer.member(heightName, page.size().height());
+    writer.member(objectCountName, page.objectCount());
     writer.member(backgroundName, background);
     writeExtraData(writer, page.extraData());
     writer.beginArray(objectsName);
@@ -137,6 +138,9 @@ void writeLesson(JsonWriter &writer, const LessonData &lesson)
     } else {
         writer.member(bytesName, lesson.data.toBase64());
     }
+    if (lesson.isDamaged) {
+        writer.member(damagedName, true);
+    }
     writer.endObject();
 }
 
@@ -148,8 +152,10 @@ QByteArray jsonformat::write(Document &document, FileMessage &problem)
     writer.beginObject();
     writer.member(formatName, QByteArray(formatText));
     writer.member(versionName, int(formatVersion));
-    writeExtraData(writer, document.extraData());
     const QVector<LessonData> lessons = document.lessons();
+    writer.member(pageCountName, document.pageCount());
+    writer.member(lessonCountName, lessons.size());
+    writeExtraData(writer, document.extraData());
     if (!lessons.isEmpty()) {
         writer.beginArray(lessonsName);
         for (const LessonData &lesson : lessons) {

@@ -6,6 +6,8 @@ namespace pagehost::jsonnames {
 constexpr char formatName[] = "format";
 constexpr char formatText[] = "gliololok board";
 constexpr char versionName[] = "version";
+constexpr char pageCountName[] = "pageCount";
+constexpr char lessonCountName[] = "lessonCount";
 constexpr char lessonsName[] = "lessons";
 constexpr char pagesName[] = "pages";
 
@@ -13,6 +15,7 @@ constexpr char pageName[] = "page";
 constexpr char widthName[] = "width";
 constexpr char heightName[] = "height";
 constexpr char backgroundName[] = "background";
+constexpr char objectCountName[] = "objectCount";
 constexpr char objectsName[] = "objects";
 
 constexpr char kindName[] = "kind";

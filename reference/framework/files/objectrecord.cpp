@@ -154,33 +154,33 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
     return true;
 }
 
-/// Null with the key of the reason when the object cannot be made.
-CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, QString &reason) const
+/// Null with the reason when the object cannot be made.
+CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, FileMessage &reason) const
 {
+    const auto refuse = [&](const QString &textKey) {
+        reason.textKey = textKey;
+        reason.arguments = QStringList{record.kindId};
+        return nullptr;
+    };
     if (record.encoding == ObjectRecord::Payload) {
-        reason = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
+        // No kind is known of it.
+        reason.textKey = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
         return nullptr;
     }
     if (!m_registry.hasKind(record.kindId)) {
-        reason = QStringLiteral("IDS_FILE_OBJECT_UNKNOWN");
-        return nullptr;
+        return refuse(QStringLiteral("IDS_FILE_OBJECT_UNKNOWN"));
     }
     if (!hasRoomFor(record)) {
-        reason = QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
-        return nullptr;
+        return refuse(QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE"));
     }
     CBaseObject *object = load(record);
-    if (!object) {
-        reason = QStringLiteral("IDS_FILE_OBJECT_BROKEN");
-    }
-    return object;
+    return object ? object : refuse(QStringLiteral("IDS_FILE_OBJECT_BROKEN"));
 }
 
 CBaseObject *ObjectFactory::make(const ObjectRecord &record, FileMessage &message) const
 {
-    CBaseObject *object = tryToMake(record, message.textKey);
+    CBaseObject *object = tryToMake(record, message);
     if (!object) {
-        message.arguments = QStringList{record.kindId};
         object = new PlaceholderObject(record);
     }
     setObjectId(object, record.id);

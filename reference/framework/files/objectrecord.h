@@ -60,7 +60,7 @@ public:
     CBaseObject *make(const ObjectRecord &record, FileMessage &message) const;
 
 private:
-    CBaseObject *tryToMake(const ObjectRecord &record, QString &reason) const;
+    CBaseObject *tryToMake(const ObjectRecord &record, FileMessage &reason) const;
     CBaseObject *load(const ObjectRecord &record) const;
     bool hasRoomFor(const ObjectRecord &record) const;
 

@@ -1,6 +1,7 @@
 #include <pagehost/lesson.h>
 
 #include <lessons/lessonfields.h>
+#include <lessons/lessonparts.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
@@ -190,14 +191,21 @@ QByteArray Lesson::toBytes() const
     return bytes;
 }
 
-bool Lesson::fromBytes(const QByteArray &bytes)
+LessonExtent lessonparts::readBytes(const QByteArray &bytes, Lesson &lesson)
 {
     QDataStream in(bytes);
     prepare(in);
+    if (!readHead(in, lesson)) {
+        return LessonExtent::Nothing;
+    }
+    const bool isWhole = readSteps(in, lesson.start) && readEvents(in, lesson.events) && in.atEnd();
+    return endAtDamage(lesson, isWhole);
+}
+
+bool Lesson::fromBytes(const QByteArray &bytes)
+{
     Lesson read;
-    const bool isWhole =
-        readHead(in, read) && readSteps(in, read.start) && readEvents(in, read.events) && in.atEnd();
-    if (!isWhole || !lessonfields::hasPlausibleTimes(read)) {
+    if (lessonparts::readBytes(bytes, read) != LessonExtent::Whole) {
         return false;
     }
     *this = read;

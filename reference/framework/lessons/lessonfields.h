@@ -102,17 +102,4 @@ inline bool makeStep(std::size_t kind, LessonStep &step)
     return makeStep(kind, step, std::make_index_sequence<std::variant_size_v<LessonStep>>());
 }
 
-/// Whether times only grow and end within the duration.
-inline bool hasPlausibleTimes(const Lesson &lesson)
-{
-    qint64 last = 0;
-    for (const LessonEvent &event : lesson.events) {
-        if (event.time < last) {
-            return false;
-        }
-        last = event.time;
-    }
-    return lesson.duration >= last;
-}
-
 } // namespace pagehost::lessonfields

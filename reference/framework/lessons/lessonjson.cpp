@@ -1,9 +1,9 @@
 #include <pagehost/lesson.h>
 
 #include <lessons/lessonfields.h>
+#include <lessons/lessonparts.h>
 
 #include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -180,20 +180,29 @@ QJsonObject Lesson::toJson() const
             {eventsKey, timedSteps}};
 }
 
-bool Lesson::fromData(const QByteArray &data)
+LessonExtent lessonparts::readJson(const QJsonObject &object, Lesson &lesson)
 {
-    return data.startsWith('{') ? fromJson(QJsonDocument::fromJson(data).object()) : fromBytes(data);
+    const QJsonValue version = object.value(versionKey);
+    if ((!version.isUndefined() && version != currentVersion) ||
+        !(object.value(startKey).isArray() || object.value(eventsKey).isArray())) {
+        return LessonExtent::Nothing;
+    }
+    const bool hasHead = version == currentVersion && object.value(titleKey).isString();
+    lesson.title = object.value(titleKey).toString();
+    const bool hasDuration = readWhole(object.value(durationKey), lesson.duration, largestWholeNumber);
+    if (!hasDuration) {
+        lesson.duration = std::numeric_limits<qint64>::max();
+    }
+    const bool hasStart = readAll(object.value(startKey), lesson.start);
+    // Without a part of the start, events would happen to other objects and pages.
+    const bool hasEvents = hasStart && readAll(object.value(eventsKey), lesson.events);
+    return endAtDamage(lesson, hasHead && hasDuration && hasEvents);
 }
 
 bool Lesson::fromJson(const QJsonObject &object)
 {
     Lesson read;
-    read.title = object.value(titleKey).toString();
-    const bool isWhole = object.value(versionKey) == currentVersion && object.value(titleKey).isString() &&
-                         readWhole(object.value(durationKey), read.duration, largestWholeNumber) &&
-                         readAll(object.value(startKey), read.start) &&
-                         readAll(object.value(eventsKey), read.events);
-    if (!isWhole || !lessonfields::hasPlausibleTimes(read)) {
+    if (lessonparts::readJson(object, read) != LessonExtent::Whole) {
         return false;
     }
     *this = read;

@@ -22,11 +22,12 @@ struct LessonData
     QString name; ///< for people
     /// Stands readable in the JSON format when it is the text of a JSON object.
     QByteArray data;
+    bool isDamaged = false; ///< the data are known not to be those that were saved
 };
 
 inline bool operator==(const LessonData &one, const LessonData &other)
 {
-    return one.name == other.name && one.data == other.data;
+    return one.name == other.name && one.data == other.data && one.isDamaged == other.isDamaged;
 }
 
 /// A document: pages in order, one of them current, and the state that page objects ask for.

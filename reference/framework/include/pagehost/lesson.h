@@ -111,6 +111,13 @@ struct LessonEvent
     LessonStep step;
 };
 
+/// How much of stored data is a lesson.
+enum class LessonExtent {
+    Nothing,
+    Part, ///< what stands before some damage
+    Whole
+};
+
 /// A lesson as plain data. See docs/lessons.md for the two stored forms.
 class FRAMEWORK_EXPORT Lesson
 {
@@ -132,6 +139,9 @@ public:
 
     /// Reads what a document keeps of a lesson (LessonData::data): bytes of toBytes(), or the text of toJson().
     bool fromData(const QByteArray &data);
+    /// Reads stored data of either form up to what is damaged in them: the steps and events before the first that
+    /// cannot be read. The duration of a part ends with its last event. For Nothing the lesson is unchanged.
+    LessonExtent fromDamagedData(const QByteArray &data);
 };
 
 } // namespace pagehost
