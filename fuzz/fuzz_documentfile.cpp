@@ -1,5 +1,6 @@
-// Opens bytes as a document of either format, saves what was read in both and opens that again. The kinds of object
-// are plain ones of the host, so that what is searched is the reading itself.
+// Opens bytes as a document of either format, saves what was read in both and opens that again, which must give the
+// same without any text being searched for its parts once more. The kinds of object are plain ones of the host, so
+// that what is searched is the reading itself.
 
 #include <framework/cbaseobject.h>
 
@@ -7,6 +8,7 @@
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 
+#include <QtCore/QJsonDocument>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -50,6 +52,16 @@ const ObjectRegistry &registry()
     return *made;
 }
 
+/// How many objects each page has, and behind them the number of lessons.
+QVector<int> partsOf(const Document &document)
+{
+    QVector<int> counts;
+    const QVector<Page *> pages = document.pages();
+    for (const Page *page : pages)
+        counts.append(page->objectCount());
+    return counts << document.lessons().size();
+}
+
 void silence(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 } // namespace
@@ -72,9 +84,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     }
     for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
-        const OpenResult again = decodeDocument(encodeDocument(*opened.document, format), registry());
-        if (!again.document || again.document->pageCount() != opened.document->pageCount())
+        const QByteArray saved = encodeDocument(*opened.document, format);
+        if (format == DocumentFormat::Json && !QJsonDocument::fromJson(saved).isObject())
             std::abort();
+        const OpenResult again = decodeDocument(saved, registry());
+        if (!again.document || partsOf(*again.document) != partsOf(*opened.document))
+            std::abort();
+        for (const FileMessage &message : again.messages) {
+            if (message.textKey == QLatin1String("IDS_FILE_DAMAGED_PART") ||
+                message.textKey == QLatin1String("IDS_FILE_DAMAGED_READ"))
+                std::abort();
+        }
     }
     return 0;
 }

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void boardIsBackAfterTheLesson();
     void anotherDocumentEndsEverything();
     void damagedLessonIsToldOf();
+    void damagedLessonPlaysUpToTheDamageAndIsToldOf();
     void barSpeaksGerman();
     void playNeedsAFile();
 };
@@ -404,6 +405,26 @@ void TestLessons::damagedLessonIsToldOf()
     const QList<QLabel *> labels = driver.window().findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
         return label->text().contains(QStringLiteral("“Broken” cannot be played"));
+    }));
+}
+
+void TestLessons::damagedLessonPlaysUpToTheDamageAndIsToldOf()
+{
+    BoardDriver driver;
+    record(driver);
+    pagehost::LessonData data = driver.workspace().document()->lessons().first();
+    pagehost::Lesson lesson;
+    QVERIFY(lesson.fromData(data.data));
+    data.data.chop(1);
+    driver.workspace().document()->setLessons({data});
+    const qint64 end = lesson.events.at(lesson.events.size() - 2).time;
+    QCOMPARE(lessons(driver).duration(), end);
+    lessons(driver).seek(end);
+    QCOMPARE(lessons(driver).state(), LessonController::Showing);
+    QCOMPARE(driver.view().page()->objectCount(), 1);
+    const QList<QLabel *> labels = driver.window().findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+        return label->text().contains(QStringLiteral("“Lesson 1” is damaged and plays up to the damage."));
     }));
 }
 

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void severalPlayedLessonsGetAFolderEach();
     void playingWithoutALessonFails();
     void playingADamagedLessonFails();
+    void lessonIsExportedUpToItsDamage();
     void exportIntoAnImpossibleFolderFails();
     void unusablePlugInsAreReported();
     void missingPlugInFolderIsReported();
@@ -252,6 +253,22 @@ void TestProgram::playingADamagedLessonFails()
     QVERIFY2(outcome.errors.contains("Broken"), qPrintable(outcome.errors));
     // The other one is there all the same.
     QCOMPARE(outcome.out, folder.filePath("pages/lesson-2/page-1.png") + '\n');
+}
+
+/// With the page that came last in the part that is left.
+void TestProgram::lessonIsExportedUpToItsDamage()
+{
+    QTemporaryDir folder;
+    pagehost::LessonData lesson = pagesLesson("Pages", 2, {120, 80});
+    lesson.data.chop(1);
+    const QString target = folder.filePath("pages");
+    const Outcome outcome = run({"--play", boardWith(folder, {lesson}), "--export", target});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.errors.contains("The lesson \"Pages\" is damaged and ends early."),
+             qPrintable(outcome.errors));
+    // Without the event that gives the first page its new size.
+    QCOMPARE(QImage(target + "/page-1.png").size(), QSize(50, 50));
+    QCOMPARE(QImage(target + "/page-2.png").size(), QSize(120, 80));
 }
 
 void TestProgram::exportIntoAnImpossibleFolderFails()

@@ -108,6 +108,8 @@ private Q_SLOTS:
     void moreDamageIsKeptBesideTheFirst();
     void damagedNameOfAPageMemberIsTold();
     void damagedNameOfAnObjectMemberIsTold();
+    void damagedNameInAnObjectsDataIsTold();
+    void colourThatIsNoneMakesAPlaceholder();
     void damagedDigitOfBytesCostsNothingBehindIt();
     void brokenLessonKeepsItsTextAndPlaysUpToTheDamage_data();
     void brokenLessonKeepsItsTextAndPlaysUpToTheDamage();
@@ -358,6 +360,28 @@ void TestDamagedText::damagedNameOfAnObjectMemberIsTold()
     QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_DAMAGED_PART")});
     QCOMPARE(opened.messages[0].object, 1);
     QCOMPARE(damagedParts(opened.document->page(0)->extraData()), QList<QByteArray>{"\"ie\": 7"});
+}
+
+/// It comes with what is left at its default, and the text stays in the file.
+void TestDamagedText::damagedNameInAnObjectsDataIsTold()
+{
+    const QByteArray text = replaced(textOf(1, 2), "\"rotation\"", "\"rotatipn\"");
+    const OpenResult opened = decodeDocument(text, m_registry);
+    QCOMPARE(placesIn(opened), (QList<QList<double>>{{1, 2}}));
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_MEMBERS")});
+    QCOMPARE(opened.messages[0].object, 1);
+    const QList<QByteArray> kept = damagedParts(opened.document->page(0)->extraData());
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(QJsonDocument::fromJson(kept[0]).object().value(QLatin1String("rotatipn")), QJsonValue(0));
+}
+
+void TestDamagedText::colourThatIsNoneMakesAPlaceholder()
+{
+    const QByteArray text = replaced(textOf(1, 2), "\"#ff000000\"", "\"#ff0000g0\"");
+    const OpenResult opened = decodeDocument(text, m_registry);
+    QCOMPARE(placesIn(opened), (QList<QList<double>>{{2}}));
+    QCOMPARE(textKeys(opened.messages), QStringList{QStringLiteral("IDS_FILE_OBJECT_BROKEN")});
+    QVERIFY(encodeDocument(*opened.document, DocumentFormat::Json).contains("\"#ff0000g0\""));
 }
 
 /// Each digit stands for six bits in a place of their own.

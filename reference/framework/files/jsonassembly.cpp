@@ -363,6 +363,9 @@ void JsonAssembly::addRecord(const ObjectRecord &record, qint64 offset)
 {
     FileMessage message = warning(QString());
     m_objects.append(m_factory.make(record, message));
+    if (message.textKey == QLatin1String("IDS_FILE_OBJECT_MEMBERS")) {
+        keepToldDamage(record.data);
+    }
     if (message.textKey.isEmpty() && record.isDamaged) {
         message.textKey = QStringLiteral("IDS_FILE_OBJECT_DAMAGED");
     }

@@ -13,6 +13,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -177,11 +178,31 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, FileMessage &r
     return object ? object : refuse(QStringLiteral("IDS_FILE_OBJECT_BROKEN"));
 }
 
+/// False when the file says more of the object than it saves itself: the names of members may be damaged.
+bool ObjectFactory::knowsAllMembers(CBaseObject *object, const ObjectRecord &record) const
+{
+    const QStringList names = record.json.keys();
+    QSet<QString> &known = m_members[record.kindId];
+    const auto isKnown = [&](const QString &name) { return known.contains(name); };
+    if (std::all_of(names.begin(), names.end(), isKnown)) {
+        return true;
+    }
+    // Only an object with a member that none before had is asked.
+    QJsonObject saved;
+    object->saveJson(saved);
+    const QStringList savedNames = saved.keys();
+    known.unite(QSet<QString>(savedNames.begin(), savedNames.end()));
+    return std::all_of(names.begin(), names.end(), isKnown);
+}
+
 CBaseObject *ObjectFactory::make(const ObjectRecord &record, FileMessage &message) const
 {
     CBaseObject *object = tryToMake(record, message);
     if (!object) {
         object = new PlaceholderObject(record);
+    } else if (!knowsAllMembers(object, record)) {
+        message.textKey = QStringLiteral("IDS_FILE_OBJECT_MEMBERS");
+        message.arguments = QStringList{record.kindId};
     }
     setObjectId(object, record.id);
     return object;

@@ -3,8 +3,10 @@
 #include <pagehost/documentfile.h>
 
 #include <QtCore/QByteArray>
+#include <QtCore/QHash>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointF>
+#include <QtCore/QSet>
 #include <QtCore/QString>
 
 #include <optional>
@@ -63,9 +65,11 @@ private:
     CBaseObject *tryToMake(const ObjectRecord &record, FileMessage &reason) const;
     CBaseObject *load(const ObjectRecord &record) const;
     bool hasRoomFor(const ObjectRecord &record) const;
+    bool knowsAllMembers(CBaseObject *object, const ObjectRecord &record) const;
 
     const ObjectRegistry &m_registry;
-    mutable double m_area = 0; ///< of the objects made so far, item units squared
+    mutable double m_area = 0;                       ///< of the objects made so far, item units squared
+    mutable QHash<QString, QSet<QString>> m_members; ///< that objects of each kind have saved as JSON so far
 };
 
 } // namespace pagehost

@@ -171,6 +171,13 @@ void read(const QJsonObject &object, HostState &state)
     state.locked = object.value(lockedKey).toBool(state.locked);
 }
 
+/// A name that is no colour is damage; none keeps the present one.
+bool hasReadableColor(const QJsonObject &object)
+{
+    const QJsonValue color = object.value(penColorKey);
+    return color.isUndefined() || QColor(color.toString()).isValid();
+}
+
 } // namespace
 
 QSizeF CPSRootObjectPrivate::savedSize(QDataStream &in)
@@ -220,7 +227,7 @@ bool CPSRootObject::loadJson(QJsonObject &object)
     read(object, state);
     CPageBgProp fill(*fillProp);
     const bool hasFill = fill.loadJson(object.value(fillKey).toObject());
-    d->refusedState = !isPlausible(state);
+    d->refusedState = !isPlausible(state) || !hasReadableColor(object);
     if (d->refusedState) {
         return false;
     }

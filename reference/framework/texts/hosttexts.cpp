@@ -80,6 +80,10 @@ constexpr Entry entries[] = {
      "Ein Objekt der Art „%1“ ist zu groß, um es zu zeigen; ein Platzhalter bewahrt es auf."},
     {"IDS_FILE_OBJECT_DAMAGED", "An object was damaged and may not look as it did.",
      "Ein Objekt wurde beschädigt und sieht vielleicht anders aus."},
+    {"IDS_FILE_OBJECT_MEMBERS",
+     "The file says more of an object of the kind \"%1\" than is known of this kind; the document keeps it unseen.",
+     "Die Datei sagt mehr von einem Objekt der Art „%1“, als von dieser Art bekannt ist; das Dokument bewahrt es "
+     "ungesehen auf."},
     {"IDS_FILE_OBJECT_UNREADABLE", "An object cannot be read; a placeholder keeps its bytes.",
      "Ein Objekt ist nicht lesbar; ein Platzhalter bewahrt seine Bytes auf."},
     {"IDS_FILE_OBJECTS_MISSING", "%1 objects are missing.", "%1 Objekte fehlen."},
