@@ -100,6 +100,8 @@ private slots:
     void messagesOfADrawingGoWhenItsCauseGoes();
     void aRootWithTooManyAttributesIsRefused();
     void namespacesInForceAreLimited();
+    void whatStandsBeforeTooManyNamespacesIsDrawn();
+    void namespacesOfWhatIsLeftOutCount();
     void everyLimitIsDocumented();
     void documentedCodesExist();
     void noReferenceToAFileIsFollowed();
@@ -370,9 +372,34 @@ void TestLimits::namespacesInForceAreLimited()
 {
     QVector<Message> messages;
     const QString open = "<svg" + numbered(" xmlns:n#N='urn:n'", Limits::namespaceDeclarations);
-    QVERIFY(DocumentPointer(QZeSvgTinyDocument::load((open + "/>").toUtf8())));
-    QVERIFY(!QZeSvgTinyDocument::load((open + "><g xmlns:m='urn:m'/></svg>").toUtf8(), &messages));
+    QVERIFY(DocumentPointer(QZeSvgTinyDocument::load((open + "/>").toUtf8(), &messages)));
+    QVERIFY(messages.isEmpty());
+    QVERIFY(!QZeSvgTinyDocument::load((open + " xmlns:m='urn:m'/>").toUtf8(), &messages));
     QCOMPARE(messages.last().code, Message::TooManyNamespaces);
+}
+
+// The root has two of its own.
+void TestLimits::whatStandsBeforeTooManyNamespacesIsDrawn()
+{
+    const QString svg = "<svg xmlns='http://www.w3.org/2000/svg'>";
+    for (const bool isBeyond : {false, true}) {
+        const int inner = Limits::namespaceDeclarations - (isBeyond ? 1 : 2);
+        const DocumentPointer document = loadContent(rect("fill='#00f'") + nested(svg, "</svg>", inner, rect()));
+        QVERIFY(document);
+        QCOMPARE(drawn(*document).pixelColor(probe), isBeyond ? QColor(0, 0, 255) : QColor(0, 255, 0));
+        QCOMPARE(has(document->messages(), Message::TooManyNamespaces), isBeyond);
+    }
+}
+
+void TestLimits::namespacesOfWhatIsLeftOutCount()
+{
+    const QString deep =
+        nested("<g>", "</g>", Limits::depth,
+               nested("<g xmlns='http://www.w3.org/2000/svg'>", "</g>", Limits::namespaceDeclarations, QString()));
+    const DocumentPointer document = loadContent(rect() + deep);
+    QCOMPARE(drawn(*document).pixelColor(probe), QColor(0, 255, 0));
+    QVERIFY(has(document->messages(), Message::NestedTooDeep));
+    QVERIFY(has(document->messages(), Message::TooManyNamespaces));
 }
 
 void TestLimits::everyLimitIsDocumented()

@@ -304,7 +304,7 @@ bool PlainReader::readStartTag()
     m_element.name = name.local;
     m_element.qualifiedName = name.whole;
     m_builder->startElement(m_element, place());
-    if (!m_builder->refusal().text.isEmpty())
+    if (!m_builder->refusal().text.isEmpty() || m_builder->hasEnded())
         return false;
     if (empty) {
         m_namespaces.resize(namespaces);

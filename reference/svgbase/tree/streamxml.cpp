@@ -60,7 +60,7 @@ void StreamReading::tellNext(QXmlStreamReader::TokenType token)
 
 bool StreamReading::read()
 {
-    while (!m_xml.atEnd()) {
+    while (!m_xml.atEnd() && !m_builder->hasEnded()) {
         tellNext(m_xml.readNext());
         if (!m_builder->refusal().text.isEmpty())
             m_xml.raiseError(m_builder->refusal().text);

@@ -141,7 +141,11 @@ NodeIndex TreeBuilder::add(Node &node, XmlPlace place)
 
 void TreeBuilder::startElement(const XmlElement &element, XmlPlace place)
 {
-    if (m_leftOut > 0)
+    m_openNamespaces.append(element.declarations.size());
+    m_namespaces += element.declarations.size();
+    if (m_namespaces > Limits::namespaceDeclarations)
+        endAtNamespaces(element, place);
+    else if (m_leftOut > 0)
         ++m_leftOut;
     else if (m_open.isEmpty() && isCrowded(element))
         refuse(Message::TooManyAttributes,
@@ -167,22 +171,29 @@ void TreeBuilder::startOpen(const XmlElement &element, XmlPlace place)
     takeAttributes(element, &node.attributes);
     takeDeclarations(element, &node.attributes);
     m_open.append(add(node, place));
-    m_openNamespaces.append(element.declarations.size());
-    m_namespaces += element.declarations.size();
-    if (m_namespaces > Limits::namespaceDeclarations)
-        refuse(
-            Message::TooManyNamespaces,
-            QStringLiteral("More than %1 namespace declarations are in force.").arg(Limits::namespaceDeclarations));
+}
+
+// Reading on would take the longer the more of them there are.
+void TreeBuilder::endAtNamespaces(const XmlElement &element, XmlPlace place)
+{
+    const QString limit =
+        QStringLiteral("More than %1 namespace declarations are in force").arg(Limits::namespaceDeclarations);
+    if (m_open.isEmpty()) {
+        refuse(Message::TooManyNamespaces, limit + QLatin1Char('.'));
+        return;
+    }
+    m_messages->warn(Message::TooManyNamespaces, limit + QStringLiteral("; what follows is left out."), place.line,
+                     place.column, idOfElement(element));
+    m_ended = true;
 }
 
 void TreeBuilder::endElement()
 {
-    if (m_leftOut > 0) {
-        --m_leftOut;
-        return;
-    }
-    m_open.removeLast();
     m_namespaces -= m_openNamespaces.takeLast();
+    if (m_leftOut > 0)
+        --m_leftOut;
+    else
+        m_open.removeLast();
 }
 
 void TreeBuilder::characters(QStringView text, bool cdata, XmlPlace place)

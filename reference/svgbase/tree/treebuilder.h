@@ -23,11 +23,14 @@ public:
 
     /// Why the text can't be used; nothing while it can.
     const Problem &refusal() const { return m_refusal; }
+    /// Whether nothing more is taken; what is there already counts.
+    bool hasEnded() const { return m_ended; }
 
 private:
     void startOpen(const XmlElement &element, XmlPlace place);
     bool isLeftOut(const XmlElement &element, XmlPlace place);
     void refuse(Message::Code code, const QString &why) { m_refusal = {code, why}; }
+    void endAtNamespaces(const XmlElement &element, XmlPlace place);
     ElementKind kindOfElement(const XmlElement &element, XmlPlace place);
     bool isInText() const;
     NodeIndex add(Node &node, XmlPlace place);
@@ -35,8 +38,10 @@ private:
     Tree *m_tree;
     Messages *m_messages;
     Problem m_refusal;
-    /// Open elements, and how many namespace declarations each brought into force.
+    bool m_ended = false;
+    /// Open elements, those that are left out aside.
     QVector<NodeIndex> m_open;
+    /// How many namespace declarations each open element brought into force.
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
     int m_textPaths = 0;
