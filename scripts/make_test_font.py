@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""Writes the font of the golden cases css-font-face-*: boxes for "A" and "B", 1000 units per em, ascent 800, descent 200.
+"""Writes the fonts of the golden cases css-font-face-*: boxes for "A" and "B", 1000 units per em, ascent 800, descent 200.
 
-Usage: make_test_font.py [woff] > font
+Usage: make_test_font.py [woff] [colors [LIST IMAGE]] [alone] [cut] > font
 "A" is the box from (100, 0) to (500, 700) in an advance of 600, "B" that from (0, -200) to (1000, 800) in one of 1000.
+With "colors", the font is called "Test Colors" and "A" has a picture, too: of 6 by 10 pixels, 10 per em, from (0, -200) to
+(600, 800), red on the left and blue on the right. LIST is how its place is listed (1 to 5), IMAGE how its sizes are (17 to
+19). "alone" leaves out the outlines, "cut" the end of the picture.
 """
 import struct
 import sys
@@ -38,6 +41,41 @@ def tables():
             b"post": post}
 
 
+def picture():
+    row = b"\0" + 3 * b"\xff\0\0\xff" + 3 * b"\0\0\xff\xff"
+    png = b"\x89PNG\r\n\x1a\n"
+    for tag, data in ((b"IHDR", struct.pack(">IIBBBBB", 6, 10, 8, 6, 0, 0, 0)), (b"IDAT", zlib.compress(10 * row, 9)),
+                      (b"IEND", b"")):
+        png += struct.pack(">I", len(data)) + tag + data + struct.pack(">I", zlib.crc32(tag + data))
+    return png
+
+
+def color_tables(listed, image, cut):
+    sizes = struct.pack(">BBbbBbbB", 10, 6, 0, 8, 6, 0, 0, 10)
+    png = picture()
+    data = {17: sizes[:5], 18: sizes, 19: b""}[image] + struct.pack(">I", len(png)) + png
+    header = struct.pack(">HHI", listed, image, 4)
+    shared = struct.pack(">I", len(data)) + sizes
+    ranges = {1: struct.pack(">II", 0, len(data)), 2: shared, 3: struct.pack(">HH", 0, len(data)),
+              4: struct.pack(">IHHHH", 1, 1, 0, 0, len(data)), 5: shared + struct.pack(">IHH", 1, 1, 0)}[listed]
+    line = struct.pack(">bbBbbbbbbbbb", 8, -2, 10, 0, 0, 0, 0, 0, 0, 0, 0, 0)
+    strike = struct.pack(">IIII", 56, 8 + 8 + len(ranges), 1, 0) + 2 * line + struct.pack(">HHBBBb", 1, 1, 10, 10, 32, 1)
+    places = struct.pack(">II", 0x30000, 1) + strike + struct.pack(">HHI", 1, 1, 8) + header + ranges
+    family = "Test Colors".encode("utf-16-be")
+    name = struct.pack(">HHHHHHHHH", 0, 1, 18, 3, 1, 0x409, 1, len(family), 0) + family
+    return {b"CBLC": places, b"CBDT": struct.pack(">I", 0x30000) + (data[:-20] if cut else data), b"name": name}
+
+
+def font(words):
+    parts = tables()
+    if "colors" in words:
+        numbers = [int(word) for word in words if word.isdigit()]
+        parts.update(color_tables(*(numbers or (1, 17)), "cut" in words))
+    if "alone" in words:
+        del parts[b"glyf"], parts[b"loca"]
+    return woff(parts) if "woff" in words else sfnt(parts)
+
+
 def padded(data):
     return data + b"\0" * (-len(data) % 4)
 
@@ -69,4 +107,4 @@ def woff(parts):
     return header + directory + body
 
 
-sys.stdout.buffer.write(woff(tables()) if "woff" in sys.argv[1:] else sfnt(tables()))
+sys.stdout.buffer.write(font(sys.argv[1:]))

@@ -77,6 +77,8 @@ constexpr int askedFamilies = 1000;
 constexpr int fonts = 100;
 constexpr int kerningPairs = 50000;
 constexpr int glyphsOfCharacter = 128;
+/// Most records of its tables that are looked at for the pictures of a font.
+constexpr int fontPictureSteps = 10000000;
 /// Most characters that one glyph of a document's font stands for.
 constexpr int glyphCharacters = 64;
 /// Longest lists of names, languages or weights of a glyph or a font, characters.

@@ -2,6 +2,7 @@
 #include "resolve/fonts.h"
 #include "svgdrawing.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtGui/QFontMetricsF>
 #include <QtTest>
 
@@ -22,6 +23,20 @@ double advance(const QString &characters)
     style.family = QStringLiteral("DejaVu Sans");
     return QFontMetricsF(outlineFont(style)).horizontalAdvance(characters) * 20 / outlineFontSize;
 }
+
+/// What "make_test_font.py colors" writes, as Base64: of "A" a picture of 0.6 by 1 of the font size, its left half
+/// red, its right half blue.
+const char colorFont[] =
+    "AAEAAAALAIAAAwAwQ0JEVH6phUEAAAC8AAAAW0NCTEMcDDTJAAABGAAAAFBjbWFwAAwAdQAAAWgAAAAsZ2x5ZgvMCKoAAAGUAAAA"
+    "RGhlYWRi/EM+AAAB2AAAADZoaGVhBwoDJAAAAhAAAAAkaG10eAg0AGQAAAI0AAAADGxvY2EAAABmAAACQAAAABBtYXhwAAUABQAA"
+    "AlAAAAAgbmFtZQIOBlsAAAJwAAAAKHBvc3T/nwAyAAACmAAAACAAAwAACgYACAYAAABOiVBORw0KGgoAAAANSUhEUgAAAAYAAAAK"
+    "CAYAAACXDi8zAAAAFUlEQVR42mP4z8DwH4aRmP8ZhrsEACYEd4ltutnDAAAAAElFTkSuQmCCAAADAAAAAAABAAAAOAAAABgAAAAB"
+    "AAAAAAj+CgAAAAAAAAAAAAj+CgAAAAAAAAAAAAABAAEKCiABAAEAAQAAAAgAAQARAAAABAAAAAAAAABXAAAAAQADAAEAAAAMAAQA"
+    "IAAAAAQABAABAAAAQv//AAAAQf///8AAAQAAAAAAAQBkAAAB9AK8AAMAAAEBAQEAZAAAAZAAAAAAArwAAP1EAAEAAP84A+gDIAAD"
+    "AAABAQEBAAAAAAPoAAD/OAPoAAD8GAABAAAAAQAAAAAAAF8PPPUAAAPoAAAAAAAAAAAAAAAAAAAAAAAA/zgD6AMgAAAACAACAAEA"
+    "AAAAAAEAAAMg/zgAAAPoAAAAAAPoAAEAAAAAAAAAAAAAAAAAAAADAfQAAAJYAGQD6AAAAAAAAAAAAAAAAAAiAAAARAABAAAAAwAE"
+    "AAEAAAAAAAEAAAAAAAAAAAAAAAAAAAAAAAAAAQASAAMAAQQJAAEAFgAAAFQAZQBzAHQAIABDAG8AbABvAHIAcwADAAAAAAAA/5wA"
+    "MgAAAAAAAAAAAAAAAAAAAAAAAAAA";
 
 const QString start = QStringLiteral("<text id='t' font-family='DejaVu Sans' font-size='20' ");
 
@@ -61,6 +76,7 @@ private slots:
     void outlinesScaleWithTheFontSize();
     void arabicLettersAreJoined();
     void textPathsAreLimited();
+    void installedFontsShowTheirPictures();
     void fontWeights_data();
     void fontWeights();
 };
@@ -351,6 +367,27 @@ void TestText::arabicLettersAreJoined()
     const QRectF apart = textBounds(start + "y='50'>\u0628\u200c\u0628</text>");
     QVERIFY(!joined.isEmpty());
     QVERIFY(joined.width() < apart.width() - 1);
+}
+
+// CSS Fonts 4 §9. An "l" of 0.278 of the font size stands in front; the pictures begin at 10 + 13.9 and 30 later.
+void TestText::installedFontsShowTheirPictures()
+{
+    const int font = QFontDatabase::addApplicationFontFromData(QByteArray::fromBase64(colorFont));
+    QVERIFY(font >= 0);
+    const DocumentPointer document =
+        loadContent("<text id='t' x='10' y='60' font-size='50' fill='#0f0' font-family='DejaVu Sans'>l<tspan "
+                    "font-family='Test Colors'>AA</tspan></text>");
+    const QImage image = drawn(*document);
+    QCOMPARE(image.pixelColor(31, 45), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(46, 45), QColor(0, 0, 255));
+    QCOMPARE(image.pixelColor(61, 45), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(76, 45), QColor(0, 0, 255));
+    QCOMPARE(image.pixelColor(90, 45).alpha(), 0);
+    QCOMPARE(image.pixelColor(17, 45), QColor(0, 255, 0));
+    const QRectF bounds = document->namedNode("t")->boundingRect();
+    QVERIFY(isNear(bounds.right(), 10 + advance("l") * 50 / 20 + 60));
+    QVERIFY(isNear(bounds.top(), 20) && isNear(bounds.bottom(), 70));
+    QVERIFY(QFontDatabase::removeApplicationFont(font));
 }
 
 void TestText::fontWeights_data()

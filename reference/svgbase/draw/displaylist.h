@@ -7,6 +7,7 @@
 #include "draw/keptpicture.h"
 #include "draw/mappingbudget.h"
 #include "draw/patternpaint.h"
+#include "resolve/images.h"
 
 #include <memory>
 
@@ -17,11 +18,15 @@ struct LayerEffects;
 /// What an image shows, scaled down where it is much larger than its place, and where it goes.
 struct ShownPicture : QSharedData
 {
+    ImagePointer content;
+    /// From pixels of the content to the units of the target, and from these to those of the element.
+    QTransform fit;
+    QTransform toElement;
     QImage image;
-    /// The part that is shown, pixels, and where that goes, units of its element.
+    /// The part that is shown, pixels, and where that goes.
     QRectF source;
     QRectF target;
-    /// From these units to the painter's.
+    /// From the units of the target to the painter's.
     QTransform toPainter;
 };
 

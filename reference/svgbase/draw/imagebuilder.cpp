@@ -30,28 +30,34 @@ bool takePixels(BuildContext &context, const ImageContent &content)
     return true;
 }
 
-void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+void appendShown(BuildContext &context, DisplayItem item, const ShownPicture &shown, QVector<DisplayItem> *items)
 {
-    const QSizeF size = facts->image->size;
-    if (!takePixels(context, *facts->image)) {
+    if (!takePixels(context, *shown.content)) {
         context.report.add(
             Message::TooManyImagePixels,
             QStringLiteral("Images with more than %1 pixels together are left out.").arg(Limits::imagePixels),
-            node);
+            item.node);
         return;
     }
-    DisplayItem item;
     item.kind = DisplayItem::Image;
-    item.node = node;
-    item.facts = facts;
     item.control = context.control != noNode;
     item.controlCentre = context.controlCentre;
-    const QRectF whole(QPointF(), size);
-    item.picture = new ShownPicture;
-    item.picture->target = facts->fitted().fit.mapRect(whole);
-    if (const std::optional<QRectF> cut = cutOf(*facts))
-        item.picture->target &= *cut;
+    item.picture = new ShownPicture(shown);
     items->append(item);
+}
+
+void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+{
+    DisplayItem item;
+    item.node = node;
+    item.facts = facts;
+    ShownPicture shown;
+    shown.content = facts->image;
+    shown.fit = facts->fitted().fit;
+    shown.target = shown.fit.mapRect(QRectF(QPointF(), shown.content->size));
+    if (const std::optional<QRectF> cut = cutOf(*facts))
+        shown.target &= *cut;
+    appendShown(context, item, shown, items);
 }
 
 // The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
@@ -122,6 +128,17 @@ void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &fact
         appendDocument(context, node, facts, items);
     else
         appendPicture(context, node, facts, items);
+}
+
+void appendGlyphPicture(BuildContext &context, const DisplayItem &item, const PlacedPicture &picture,
+                        QVector<DisplayItem> *items)
+{
+    ShownPicture shown;
+    shown.content = picture.content;
+    shown.toElement = picture.place;
+    shown.target = QRectF(QPointF(), picture.content->size);
+    if (picture.place.isInvertible())
+        appendShown(context, item, shown, items);
 }
 
 } // namespace Svg

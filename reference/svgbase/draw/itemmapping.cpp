@@ -324,16 +324,15 @@ void shrinkPicture(ShownPicture *picture)
 
 void mapImage(DisplayItem *item, const QTransform &stretch, const QTransform &world)
 {
-    const Facts &facts = *item->facts;
     ShownPicture *picture = item->picture.data();
     item->mapped = true;
-    picture->toPainter = itemTransform(*item, stretch, world);
+    picture->toPainter = picture->toElement * itemTransform(*item, stretch, world);
     item->bounds = picture->toPainter.mapRect(picture->target);
     if (!isPaintable(item->bounds))
         item->bounds = QRectF();
-    picture->image = item->bounds.isEmpty() ? QImage() : decodedPicture(facts.image);
-    picture->source = facts.fitted().fit.inverted().mapRect(picture->target);
-    if (!picture->image.isNull() && facts.style->smoothImages)
+    picture->image = item->bounds.isEmpty() ? QImage() : decodedPicture(picture->content);
+    picture->source = picture->fit.inverted().mapRect(picture->target);
+    if (!picture->image.isNull() && item->facts->style->smoothImages)
         shrinkPicture(picture);
 }
 

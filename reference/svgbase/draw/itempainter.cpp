@@ -232,7 +232,8 @@ void ItemPainter::paintShape(const DisplayItem &item)
 void ItemPainter::paintImage(const DisplayItem &item)
 {
     const ShownPicture &picture = *item.picture;
-    if (picture.image.isNull() || !reaches(item.bounds, m_layers.back().area))
+    m_budget->work -= paintingWork(item, m_layers.back().area, m_pixelRatio);
+    if (m_budget->work < 0 || picture.image.isNull() || !reaches(item.bounds, m_layers.back().area))
         return;
     const Layer &layer = m_layers.back();
     QPainter *painter = layer.painter;

@@ -49,6 +49,8 @@ private:
     void addText(NodeIndex node, const FactsPointer &facts, bool layered);
     void addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
                     int outline);
+    void addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
+                         int index);
     PatternPointer pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity);
     bool hasMarkers(ElementKind kind, const Facts &facts) const;
     void addMarkers(NodeIndex node, const FactsPointer &facts);
@@ -150,10 +152,34 @@ PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::K
     return buildPattern(m_context, node, {facts.localBounds, facts.viewport, opacity});
 }
 
+// The colours are the font's own; of the fill it takes whether there is one, and how much of it shows. Pictures
+// clip nothing: they have no silhouette.
+void ListBuilder::addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
+                                  int index)
+{
+    if (isSilhouette() || outline.fill.style() == Qt::NoBrush)
+        return;
+    DisplayItem item;
+    item.node = node;
+    item.facts = facts;
+    item.override = m_document.stylePointer(node);
+    item.outline = index;
+    const bool isPlain = outline.fill.style() == Qt::SolidPattern && outline.fillPattern == noNode;
+    item.opacity = isPlain ? outline.fill.color().alphaF() : double(outline.fillOpacity);
+    if (!layered)
+        item.opacity *= facts->style->opacity;
+    appendGlyphPicture(m_context, item, *outline.picture, &target());
+}
+
 void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
                              int index)
 {
     Outline outline = effectiveOutline(m_document, node, *facts, index);
+    if (outline.picture) {
+        if (parts.fill)
+            addGlyphPicture(node, facts, layered, outline, index);
+        return;
+    }
     if (!parts.fill)
         outline.fill = Qt::NoBrush;
     if (!parts.stroke)

@@ -16,6 +16,7 @@ namespace Svg {
 
 struct Facts;
 struct ImageContent;
+struct PlacedPicture;
 using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
 
 /// One outline with the paint that fills and strokes it; user units of its element.
@@ -43,6 +44,8 @@ struct Outline
     bool strokeFirst = false;
     /// What the lengths of its dashes are multiplied with; 0 for a solid line.
     double dashScale = 1;
+    /// A glyph's picture that is shown instead, within the path; user units. Null for all other outlines.
+    std::shared_ptr<const PlacedPicture> picture;
 };
 
 /// A paint with all that it is measured by, for other elements to be painted with.

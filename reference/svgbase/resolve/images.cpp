@@ -25,30 +25,6 @@ bool isPictureFormat(const QByteArray &format)
     return format == "png" || format == "jpeg" || format == "jpg" || format == "gif";
 }
 
-ImagePointer readPicture(const QByteArray &bytes, Problem *problem)
-{
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (!isPictureFormat(reader.format()) || size.isEmpty()) {
-        *problem = {Message::InvalidImage, QStringLiteral("The image is none that can be shown.")};
-        return nullptr;
-    }
-    if (qint64(size.width()) * size.height() > Limits::imagePixels) {
-        *problem = {Message::TooManyImagePixels,
-                    QStringLiteral("The image has more than %1 pixels.").arg(Limits::imagePixels)};
-        return nullptr;
-    }
-    const auto content = std::make_shared<ImageContent>();
-    content->size = size;
-    content->box = QRectF(QPointF(), content->size);
-    content->picture = bytes;
-    return content;
-}
-
 bool looksLikeDocument(const QByteArray &bytes)
 {
     const QByteArray start = bytes.left(bytesPerKibibyte);
@@ -103,6 +79,30 @@ QImage decode(const ImageContent &content)
 }
 
 } // namespace
+
+ImagePointer readPicture(const QByteArray &bytes, Problem *problem)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (!isPictureFormat(reader.format()) || size.isEmpty()) {
+        *problem = {Message::InvalidImage, QStringLiteral("The image is none that can be shown.")};
+        return nullptr;
+    }
+    if (qint64(size.width()) * size.height() > Limits::imagePixels) {
+        *problem = {Message::TooManyImagePixels,
+                    QStringLiteral("The image has more than %1 pixels.").arg(Limits::imagePixels)};
+        return nullptr;
+    }
+    const auto content = std::make_shared<ImageContent>();
+    content->size = size;
+    content->box = QRectF(QPointF(), content->size);
+    content->picture = bytes;
+    return content;
+}
 
 ImagePointer readImage(const QString &reference, Problem *problem)
 {

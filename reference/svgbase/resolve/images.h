@@ -30,6 +30,16 @@ struct ImageContent
 
 using ImagePointer = std::shared_ptr<const ImageContent>;
 
+/// A picture where it stands.
+struct PlacedPicture
+{
+    ImagePointer content;
+    /// From its pixels to the units around it.
+    QTransform place;
+};
+
+/// The content of a PNG, JPEG or GIF. Null for anything else, and for what is too large; `problem` then says why.
+ImagePointer readPicture(const QByteArray &bytes, Problem *problem);
 /// The content of a "data:" URI. Null for every other reference, which is never followed, and for what can't be
 /// shown; `problem` then says why.
 ImagePointer readImage(const QString &reference, Problem *problem);

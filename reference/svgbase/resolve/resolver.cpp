@@ -115,6 +115,18 @@ double dashScale(const Node &node, const ComputedStyle &style, const QPainterPat
     return claimed == 0 ? 0 : PathMeasure(path).length() / claimed;
 }
 
+// A picture has no stroke.
+void showPicture(const std::shared_ptr<const PlacedPicture> &picture, Outline *outline)
+{
+    if (!picture)
+        return;
+    outline->picture = picture;
+    outline->pen = QPen(Qt::NoPen);
+    outline->strokePaint = Qt::NoBrush;
+    outline->strokePattern = noNode;
+    outline->strokeFirst = false;
+}
+
 } // namespace
 
 void Resolver::warn(const Node &node, const Problem &problem) const
@@ -440,9 +452,11 @@ void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) c
         style.fillRule = textFillRule;
     facts->hasGeometry = kept.hasGeometry;
     facts->localBounds = kept.localBounds;
-    for (const Outline &outline : kept.outlines)
+    for (const Outline &outline : kept.outlines) {
         addOutline({outline.path, outline.openEnds, isText ? 1 : dashScale(node, style, outline.path), isText},
                    style, facts);
+        showPicture(outline.picture, &facts->outlines.last());
+    }
     if (kept.toDocument == facts->toDocument)
         facts->bounds = kept.bounds;
     else if (isText)
@@ -469,8 +483,10 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
     // Boxes are of the cells of all characters, hidden ones and spaces included (SVG 2 §8.10).
     facts->hasGeometry = !text.cells.isNull();
     facts->localBounds = text.cells;
-    for (const TextRun &run : text.runs)
+    for (const TextRun &run : text.runs) {
         addOutline({run.path, {}, 1, true}, run.style, facts);
+        showPicture(run.picture, &facts->outlines.last());
+    }
     facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
 }
 

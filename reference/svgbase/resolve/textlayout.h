@@ -18,6 +18,8 @@ struct TextRun
     ComputedStyle style;
     /// User units of the text element.
     QPainterPath path;
+    /// Shown in the place of the path, which is its box then.
+    std::shared_ptr<const PlacedPicture> picture = nullptr;
 };
 
 /// What a text element amounts to.

@@ -52,7 +52,7 @@ bool needsBidi(const TextContent &content, int begin, int end)
         const ComputedStyle &style = content.levels.at(character.level).style;
         if (textStyleOf(style).rightToLeft)
             return true;
-        switch (content.text.at(character.begin).direction()) {
+        switch (QChar::direction(codeOf(content.text, character))) {
         case QChar::DirR:
         case QChar::DirAL:
         case QChar::DirAN:
@@ -61,9 +61,7 @@ bool needsBidi(const TextContent &content, int begin, int end)
         case QChar::DirRLI:
             return true;
         default:
-            // Beyond the first plane only some old scripts go left; the layout knows.
-            if (character.length == 2)
-                return true;
+            break;
         }
     }
     return false;

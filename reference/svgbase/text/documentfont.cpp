@@ -342,6 +342,11 @@ double DocumentFont::kerning(const FontGlyph &first, const FontGlyph &second, bo
     return found.value;
 }
 
+const GlyphPicture *DocumentFont::picture(const FontGlyph &glyph) const
+{
+    return m_file ? m_file->picture(quint32(glyph.kerningKeys.first())) : nullptr;
+}
+
 const QPainterPath &DocumentFont::outline(const FontGlyph &glyph) const
 {
     auto known = m_outlines.find(glyph.node);

@@ -2,8 +2,7 @@
 
 #include "inputlimits.h"
 #include "resolve/fonts.h"
-
-#include <QtCore/QtEndian>
+#include "text/fonttables.h"
 
 namespace Svg {
 
@@ -20,7 +19,7 @@ constexpr int woffHeaderBytes = 44;
 
 quint32 numberAt(const QByteArray &file, int offset)
 {
-    return offset + int(sizeof(quint32)) <= file.size() ? qFromBigEndian<quint32>(file.constData() + offset) : 0;
+    return tableNumber<quint32>(file, offset).value_or(0);
 }
 
 bool isTrueType(quint32 tag)
@@ -45,8 +44,9 @@ std::shared_ptr<FileFont> FileFont::load(const QByteArray &file)
         return nullptr;
     auto font = std::make_shared<FileFont>();
     font->m_font.loadFromData(file, outlineFontSize, QFont::PreferNoHinting);
-    const bool isUsable = font->m_font.isValid() && !font->m_font.fontTable("glyf").isEmpty() &&
-                          font->m_font.fontTable("CFF ").isEmpty();
+    font->m_pictures = std::make_unique<FontPictures>(font->m_font);
+    const bool hasGlyphs = !font->m_font.fontTable("glyf").isEmpty() || !font->m_pictures->isEmpty();
+    const bool isUsable = font->m_font.isValid() && hasGlyphs && font->m_font.fontTable("CFF ").isEmpty();
     return isUsable ? font : nullptr;
 }
 
@@ -63,6 +63,8 @@ quint32 FileFont::glyph(uint character) const
 
 double FileFont::advance(quint32 glyph) const
 {
+    if (const GlyphPicture *picture = m_pictures->find(glyph))
+        return picture->advance;
     return m_font.advancesForGlyphIndexes({glyph}, QRawFont::UseDesignMetrics).value(0).x();
 }
 
@@ -75,8 +77,15 @@ QPainterPath FileFont::outline(quint32 glyph)
     return path;
 }
 
+const GlyphPicture *FileFont::picture(quint32 glyph)
+{
+    return m_pictures->find(glyph);
+}
+
 double FileFont::kerning(quint32 first, quint32 second) const
 {
+    if (m_pictures->find(first))
+        return 0;
     const auto flags = QRawFont::UseDesignMetrics | QRawFont::KernedAdvances;
     return advance(first) - m_font.advancesForGlyphIndexes({first, second}, flags).value(0).x();
 }

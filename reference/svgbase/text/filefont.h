@@ -1,6 +1,7 @@
 #pragma once
 
 #include "text/fontmeasures.h"
+#include "text/fontpictures.h"
 
 #include <QtGui/QPainterPath>
 #include <QtGui/QRawFont>
@@ -9,8 +10,9 @@
 
 namespace Svg {
 
-/// A font file inside a document: TrueType outlines, plain or packed as WOFF. It is never installed: the process
-/// knows it by this object alone. All lengths are in pixels of `outlineFontSize`, y pointing down.
+/// A font file inside a document: TrueType outlines or bitmaps in colour, plain or packed as WOFF. It is never
+/// installed: the process knows it by this object alone. All lengths are in pixels of `outlineFontSize`, y pointing
+/// down.
 class FileFont
 {
 public:
@@ -24,11 +26,16 @@ public:
     double advance(quint32 glyph) const;
     /// Empty once outlines of more elements were asked for than texts may show.
     QPainterPath outline(quint32 glyph);
+    /// What is shown in the place of the outline; null for most glyphs.
+    const GlyphPicture *picture(quint32 glyph);
+    /// What of its pictures was left out because of a limit.
+    Problem problem() const { return m_pictures->problem(); }
     /// How much closer than their advance two neighbours stand.
     double kerning(quint32 first, quint32 second) const;
 
 private:
     QRawFont m_font;
+    std::unique_ptr<FontPictures> m_pictures;
     int m_elements = 0;
 };
 

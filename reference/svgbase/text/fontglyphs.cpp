@@ -65,9 +65,16 @@ TextCluster LevelGlyphs::cluster(const FontGlyph &glyph, int at, int end) const
 
 void LevelGlyphs::addGlyph(const FontGlyph &glyph, TextCluster *cluster) const
 {
-    const QPainterPath &outline = m_level.font.font->outline(glyph);
     const QTransform place = QTransform(m_scale, 0, 0, m_scale, cluster->advance, 0);
     cluster->advance += glyph.advance * m_scale;
+    if (const GlyphPicture *picture = m_level.font.font->picture(glyph)) {
+        cluster->pictures.append({picture->shown.content, picture->shown.place * place});
+        return;
+    }
+    const Problem problem = m_level.font.font->pictureProblem();
+    if (!problem.text.isEmpty())
+        *m_services.problem = problem;
+    const QPainterPath &outline = m_level.font.font->outline(glyph);
     if (m_services.fonts->takeOutline(outline.elementCount()))
         cluster->outline.addPath(place.map(outline));
     else

@@ -2,15 +2,16 @@
 
 #include "resolve/fonts.h"
 #include "style/textproperties.h"
+#include "text/fonttables.h"
 
-#include <QtCore/QtEndian>
 #include <QtGui/QRawFont>
 
 namespace Svg {
 
 namespace {
 
-// Where values stand in the tables of a font (OpenType, "hhea", "OS/2" and "post").
+// Where values stand in the tables of a font (OpenType, "head", "hhea", "OS/2" and "post").
+constexpr int unitsPerEmOffset = 18;
 constexpr int ascenderOffset = 4;
 constexpr int descenderOffset = 6;
 constexpr int subscriptOffset = 16;
@@ -26,18 +27,27 @@ constexpr double usualSuperscript = 0.4;
 constexpr double usualUnderline = -0.1;
 constexpr double usualThickness = 0.05;
 
+/// Of fonts that don't tell.
+constexpr double usualUnitsPerEm = 1000;
+
 // Shares of the ascent (CSS Inline 3, appendix A).
 constexpr double hangingShare = 0.8;
 constexpr double mathematicalShare = 0.5;
 
 double tableValue(const QByteArray &table, int offset, double unit, double otherwise)
 {
-    if (table.size() < offset + int(sizeof(qint16)))
-        return otherwise;
-    return qFromBigEndian<qint16>(table.constData() + offset) * unit;
+    const std::optional<qint16> value = tableNumber<qint16>(table, offset);
+    return value ? *value * unit : otherwise;
 }
 
 } // namespace
+
+// Of fonts without outlines Qt gives the pixels of a bitmap.
+double unitsPerEm(const QRawFont &font)
+{
+    const int units = tableNumber<quint16>(font.fontTable("head"), unitsPerEmOffset).value_or(0);
+    return units > 0 ? units : usualUnitsPerEm;
+}
 
 FontMeasures fontMeasures(const ComputedStyle &style)
 {
@@ -47,7 +57,7 @@ FontMeasures fontMeasures(const ComputedStyle &style)
 FontMeasures fontMeasures(const QRawFont &font, double size)
 {
     const double scale = size / outlineFontSize;
-    const double unit = font.unitsPerEm() > 0 ? size / font.unitsPerEm() : 0;
+    const double unit = size / unitsPerEm(font);
     const QByteArray hhea = font.fontTable("hhea");
     const QByteArray os2 = font.fontTable("OS/2");
     const QByteArray post = font.fontTable("post");

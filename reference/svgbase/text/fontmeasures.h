@@ -24,6 +24,8 @@ struct FontMeasures
 FontMeasures fontMeasures(const ComputedStyle &style);
 /// Those of a font in pixels of `outlineFontSize`, at a size in user units.
 FontMeasures fontMeasures(const QRawFont &font, double size);
+/// Units of the tables of a font per font size.
+double unitsPerEm(const QRawFont &font);
 /// How far a baseline lies above the alphabetic one, user units.
 double baselineHeight(Baseline baseline, const FontMeasures &measures);
 

@@ -13,4 +13,12 @@ const QPainterPath &GlyphOutlines::outline(const QRawFont &font, quint32 glyph)
     return *known;
 }
 
+FontPictures &GlyphOutlines::pictures(const QRawFont &font)
+{
+    std::shared_ptr<FontPictures> &known = m_pictures[font];
+    if (!known)
+        known = std::make_shared<FontPictures>(font);
+    return *known;
+}
+
 } // namespace Svg

@@ -59,6 +59,7 @@ private:
     void addGlyphs();
     bool isDrawn(const PlacedCluster &cluster) const;
     int addRun(int first);
+    void addPictures(const PlacedCluster &cluster);
     void addCells();
     void addLines(const Line &line);
     LinePiece pieceOf(const Line &line, int level, const ComputedStyle &asking) const;
@@ -152,7 +153,7 @@ void TextPainter::addGlyphs()
 bool TextPainter::isDrawn(const PlacedCluster &cluster) const
 {
     return cluster.shown && m_content.levels.at(cluster.glyphs.level).style.visible &&
-           !cluster.glyphs.outline.isEmpty();
+           !(cluster.glyphs.outline.isEmpty() && cluster.glyphs.pictures.isEmpty());
 }
 
 // The glyphs from one that is drawn up to those of another level. Returns where the next run may begin.
@@ -177,8 +178,24 @@ int TextPainter::addRun(int first)
         // Not before: an empty path takes over what is added together with its room.
         path.reserve(elements);
     }
-    m_result.runs.append({m_levels.at(level).paint, path});
+    if (!path.isEmpty())
+        m_result.runs.append({m_levels.at(level).paint, path});
+    for (int i = first; i < end; ++i) {
+        if (isDrawn(m_clusters.at(i)))
+            addPictures(m_clusters.at(i));
+    }
     return end;
+}
+
+void TextPainter::addPictures(const PlacedCluster &cluster)
+{
+    for (const PlacedPicture &picture : cluster.glyphs.pictures) {
+        const PlacedPicture placed{picture.content, picture.place * glyphTransform(cluster)};
+        QPainterPath box;
+        box.addRect(QRectF(QPointF(), picture.content->size));
+        m_result.runs.append({m_levels.at(cluster.glyphs.level).paint, placed.place.map(box),
+                              std::make_shared<const PlacedPicture>(placed)});
+    }
 }
 
 // The bounding box of a text is that of its character cells (SVG 2 §8.10).

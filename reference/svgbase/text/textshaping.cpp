@@ -35,12 +35,6 @@ constexpr CodeRange uprightRanges[] = {
     {0xfe30, 0xfe4f}, {0xff01, 0xff60}, {0xffe0, 0xffe6}, {0x1f000, 0x1faff}, {0x20000, 0x3ffff},
 };
 
-uint codeOf(const QString &text, const TextCharacter &character)
-{
-    const QChar first = text.at(character.begin);
-    return character.length == 2 ? QChar::surrogateToUcs4(first, text.at(character.begin + 1)) : first.unicode();
-}
-
 bool isUpright(uint code)
 {
     return std::any_of(std::begin(uprightRanges), std::end(uprightRanges),
@@ -88,7 +82,8 @@ private:
     QVector<TextCluster> systemClusters();
     QVector<TextCluster> separateClusters();
     QVector<TextCluster> fontClusters();
-    QPainterPath outlineOf(const QList<QGlyphRun> &runs, double left);
+    bool hasPictures(const QList<QGlyphRun> &runs) const;
+    void addGlyphs(const QList<QGlyphRun> &runs, double left, TextCluster *cluster) const;
     void space(TextCluster *cluster) const;
     void turnUpright(TextCluster *cluster) const;
     void turnGlyphUpright(const FontGlyph &glyph, TextCluster *cluster) const;
@@ -157,20 +152,40 @@ void Row::layOut()
     m_layout.endLayout();
 }
 
-QPainterPath Row::outlineOf(const QList<QGlyphRun> &runs, double left)
+bool Row::hasPictures(const QList<QGlyphRun> &runs) const
+{
+    return std::any_of(runs.begin(), runs.end(), [this](const QGlyphRun &run) {
+        return !m_services.glyphs->pictures(run.rawFont()).isEmpty();
+    });
+}
+
+// Pictures tell their advance; the layout's is not that of their font.
+void Row::addGlyphs(const QList<QGlyphRun> &runs, double left, TextCluster *cluster) const
 {
     QPainterPath outline;
+    double advance = 0;
+    const QTransform toUser = QTransform::fromScale(m_scale, m_scale);
     const double baseline = m_line.y() + m_line.ascent();
     for (const QGlyphRun &run : runs) {
         const QRawFont font = run.rawFont();
         const QVector<quint32> glyphs = run.glyphIndexes();
         const QVector<QPointF> positions = run.positions();
+        FontPictures &pictures = m_services.glyphs->pictures(font);
         for (int i = 0; i < glyphs.size(); ++i) {
             const QPointF at = positions.at(i) - QPointF(left, baseline);
-            outline.addPath(m_services.glyphs->outline(font, glyphs.at(i)).translated(at));
+            const GlyphPicture *picture = pictures.find(glyphs.at(i));
+            if (!picture) {
+                outline.addPath(m_services.glyphs->outline(font, glyphs.at(i)).translated(at));
+                continue;
+            }
+            const QTransform place = QTransform::fromTranslate(at.x(), at.y()) * toUser;
+            cluster->pictures.append({picture->shown.content, picture->shown.place * place});
+            advance += picture->advance * m_scale;
         }
     }
-    return QTransform::fromScale(m_scale, m_scale).map(outline);
+    cluster->outline.addPath(toUser.map(outline));
+    if (advance > 0)
+        cluster->advance = advance;
 }
 
 void Row::space(TextCluster *cluster) const
@@ -181,6 +196,13 @@ void Row::space(TextCluster *cluster) const
         cluster->advance += text.spacing();
     if (first == QLatin1Char(' ') || first == QChar(QChar::Nbsp))
         cluster->advance += text.wordSpacing;
+}
+
+void turnGlyphs(const QTransform &turn, TextCluster *cluster)
+{
+    cluster->outline = turn.map(cluster->outline);
+    for (PlacedPicture &picture : cluster->pictures)
+        picture.place *= turn;
 }
 
 // An upright character fills a square whose middle lies on the line; its outline is turned back here so that all of
@@ -196,7 +218,7 @@ void Row::turnUpright(TextCluster *cluster) const
     turn.translate(0, -middle);
     turn.rotate(-90);
     turn.translate(-cluster->advance / 2, baseline);
-    cluster->outline = turn.map(cluster->outline);
+    turnGlyphs(turn, cluster);
     cluster->advance = size;
 }
 
@@ -210,7 +232,7 @@ void Row::turnGlyphUpright(const FontGlyph &glyph, TextCluster *cluster) const
     turn.translate(0, -(measures.ascent + measures.descent) / 2);
     turn.rotate(-90);
     turn.translate(-origin.x(), origin.y());
-    cluster->outline = turn.map(cluster->outline);
+    turnGlyphs(turn, cluster);
     cluster->advance = glyphs.verticalAdvance(glyph);
 }
 
@@ -233,16 +255,18 @@ QVector<TextCluster> Row::separateClusters()
         if (!clusters.isEmpty() && (isSameGlyph(runs, before) || !canBePlaced(m_content.text, character))) {
             TextCluster &cluster = clusters.last();
             if (!isSameGlyph(runs, before))
-                cluster.outline.addPath(outlineOf(runs, qMin(from, to) - cluster.advance / m_scale));
+                addGlyphs(runs, qMin(from, to) - cluster.advance / m_scale, &cluster);
             ++cluster.characterCount;
-            cluster.advance += advance;
+            if (cluster.pictures.isEmpty())
+                cluster.advance += advance;
             continue;
         }
         double left = qMin(from, to);
         // The place of a ligature is that of its glyph, not that of its first letter.
         if (m_run.rightToLeft && !runs.isEmpty() && !runs.first().positions().isEmpty())
             left = runs.first().positions().first().x();
-        clusters.append({i, 1, character.level, outlineOf(runs, left), advance, 0});
+        clusters.append({i, 1, character.level, QPainterPath(), advance, 0});
+        addGlyphs(runs, left, &clusters.last());
         before = runs;
     }
     return clusters;
@@ -251,14 +275,17 @@ QVector<TextCluster> Row::separateClusters()
 QVector<TextCluster> Row::systemClusters()
 {
     layOut();
-    if (m_mode.separate)
+    const QList<QGlyphRun> runs = m_line.glyphRuns();
+    if (m_mode.separate || hasPictures(runs))
         return separateClusters();
     const int level = m_content.characters.at(m_run.begin).level;
     // The natural width holds what sticks out of the last glyph, too.
     const double begin = m_line.cursorToX(0);
     const double end = m_line.cursorToX(m_layout.text().size());
-    return {{m_run.begin, m_run.end - m_run.begin, level, outlineOf(m_line.glyphRuns(), qMin(begin, end)),
-             qAbs(end - begin) * m_scale, 0}};
+    TextCluster cluster{m_run.begin,    m_run.end - m_run.begin,     level,
+                        QPainterPath(), qAbs(end - begin) * m_scale, 0};
+    addGlyphs(runs, qMin(begin, end), &cluster);
+    return {cluster};
 }
 
 // Characters that the font lacks are set together in fonts of the system.
@@ -355,6 +382,12 @@ QVector<TextCluster> rowClusters(const TextContent &content, const BidiRun &run,
 }
 
 } // namespace
+
+uint codeOf(const QString &text, const TextCharacter &character)
+{
+    const QChar first = text.at(character.begin);
+    return character.length == 2 ? QChar::surrogateToUcs4(first, text.at(character.begin + 1)) : first.unicode();
+}
 
 bool canBePlaced(const QString &text, const TextCharacter &character)
 {

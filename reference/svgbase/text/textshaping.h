@@ -18,6 +18,8 @@ struct TextCluster
     double advance = 0;
     /// Distance of its left end from that of the chunk.
     double offset = 0;
+    /// What is shown beside the outline, in its units.
+    QVector<PlacedPicture> pictures = {};
 };
 
 /// How the characters of a text are to be shaped.
@@ -29,6 +31,7 @@ struct ShapingMode
     bool vertical = false;
 };
 
+uint codeOf(const QString &text, const TextCharacter &character);
 /// Whether a character may be given a place; marks and joiners stay with what they follow.
 bool canBePlaced(const QString &text, const TextCharacter &character);
 /// Whether it is moved from where it would stand behind the one before.
