@@ -5,6 +5,8 @@
 
 #include <framework/iframework.h>
 
+#include "shape/emptytext.h"
+
 #include <QtCore/QThread>
 
 namespace {
@@ -28,7 +30,7 @@ CSVGObj::CSVGObj(int kind, bool selectable, QGraphicsItem *parent)
     , svgBase(nullptr)
     , baseSize(-1.0, -1.0)
 {
-    objName = QString();
+    objName = emptyText();
     createFinished = false;
     for (int id : hostAttributesNotOffered)
         removeAttributeId(id);

@@ -2,6 +2,8 @@
 
 #include <framework/cutil.h>
 
+#include "shape/emptytext.h"
+
 #include <QtCore/QDataStream>
 
 namespace {
@@ -19,8 +21,7 @@ QByteArray makeLineStyles()
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out << lineStyleCount << qint32(IconList);
     for (int style = 0; style < lineStyleCount; ++style)
-        out << QString(QLatin1String("")) // empty, not null: the two differ on a stream
-            << CUtil::genIconForLineStyle(iconWidth, iconHeight, iconLineWidth, style, Qt::black);
+        out << emptyText() << CUtil::genIconForLineStyle(iconWidth, iconHeight, iconLineWidth, style, Qt::black);
     return bytes;
 }
 

@@ -4,6 +4,7 @@
 #include <svgobj/csvgobj.h>
 
 #include "properties/editorlists.h"
+#include "shape/emptytext.h"
 
 #include <algorithm>
 
@@ -62,7 +63,7 @@ QString CSVGBase::getPropName(int propId)
     case PROP_SVG_FILLCOLOR:
         return QStringLiteral("IDS_SVG_FILLCOLOR");
     default:
-        return QString();
+        return emptyText();
     }
 }
 

@@ -95,7 +95,8 @@ void TestShell::aNewObjectHasItsDefaults()
     QVERIFY(object.cacheMutex.tryLock());
     QVERIFY2(!object.cacheMutex.tryLock(), "the mutex must not be recursive");
     object.cacheMutex.unlock();
-    QCOMPARE(object.getObjName(), QString());
+    QCOMPARE(object.getObjName(), QString(""));
+    QVERIFY(!object.getObjName().isNull());
     QVERIFY(!object.createFinished);
 }
 

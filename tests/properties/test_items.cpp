@@ -340,6 +340,7 @@ void TestItems::namesOfTheCommonProperties()
     QFETCH(int, propId);
     const ShapeFixture fixture;
     QTEST(fixture.shape->getPropName(propId), "name");
+    QVERIFY(!fixture.shape->getPropName(propId).isNull());
 }
 
 void TestItems::anItemIsFoundByItsId()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void loadingTakesTheTemplateAsUtf8();
     void aTemplateThatDoesNotParseGivesTheFallback();
     void withoutATemplateTheFallbackIsLoaded();
+    void theTemplateOfTheBaseIsEmptyButNotNull();
     void theFallbackIsTwentyByTwentyAndEmpty();
     void whenEvenTheFallbackFailsLoadingAnswersFalse();
     void aFailedLoadStillRedrawsAndNotifies();
@@ -175,6 +176,14 @@ void TestDocument::theFallbackIsTwentyByTwentyAndEmpty()
     fixture.load();
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(0, 0, 20, 20));
     QVERIFY(fixture.shape->document->children().isEmpty());
+}
+
+void TestDocument::theTemplateOfTheBaseIsEmptyButNotNull()
+{
+    const ShapeFixture fixture;
+    const QString text = fixture.shape->CSVGBase::getSVG();
+    QVERIFY(text.isEmpty());
+    QVERIFY(!text.isNull());
 }
 
 void TestDocument::whenEvenTheFallbackFailsLoadingAnswersFalse()
