@@ -114,5 +114,6 @@ private:
 
     void startCreation(QPointF pos);
     void followCreation(QPointF scenePos);
+    QSizeF releasedSize(QPointF scenePos);
     void finishCreation(QPointF scenePos);
 };

@@ -15,6 +15,16 @@ namespace {
 /// Layer caches are dropped for this reason when a control point moved.
 constexpr int editingAidsChanged = 2;
 
+QPointF pointOf(QSizeF size)
+{
+    return QPointF(size.width(), size.height());
+}
+
+QSizeF sizeOf(QPointF way)
+{
+    return QSizeF(way.x(), way.y());
+}
+
 } // namespace
 
 void CSVGObj::mousePressEvent(QGraphicsSceneMouseEvent *event)
@@ -85,9 +95,9 @@ void CSVGObj::followCreation(QPointF scenePos)
         if (svgBase->keepAspectRatio)
             size = limitSize(size, getDefaultSize());
     }
-    dragEnd = dragStart + QPointF(size.width(), size.height());
+    dragEnd = dragStart + pointOf(size);
     const QSizeF sizeBefore = clientRect.size();
-    clientRect = QRectF(dragStart, QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y()));
+    clientRect = QRectF(dragStart, sizeOf(dragEnd - dragStart));
     if (svgBase) {
         if (svgBase->resizeRewritesSVG)
             svgBase->setSize(sizeBefore, clientRect.size());
@@ -98,21 +108,27 @@ void CSVGObj::followCreation(QPointF scenePos)
     CPSRootObject::update();
 }
 
+/// Puts the end of the drag rectangle where the release leaves it, and gives the size of the object.
+QSizeF CSVGObj::releasedSize(QPointF scenePos)
+{
+    const bool isClick = dragStart == dragEnd;
+    if (isClick)
+        dragEnd += pointOf(getDefaultSize());
+    else
+        dragEnd = SizeRules::releasedEnd(dragStart, scenePos - getPos());
+    const QSizeF dragged = sizeOf(dragEnd - dragStart);
+    if (isClick || !svgBase || !svgBase->keepAspectRatio)
+        return dragged;
+    // Here alone the size is not taken from the two points again, which would round it.
+    const QSizeF size = limitSize(dragged, getDefaultSize());
+    dragEnd = dragStart + pointOf(size);
+    return size;
+}
+
 void CSVGObj::finishCreation(QPointF scenePos)
 {
-    if (dragStart == dragEnd) {
-        const QSizeF size = getDefaultSize();
-        dragEnd += QPointF(size.width(), size.height());
-    } else {
-        dragEnd = SizeRules::releasedEnd(dragStart, scenePos - getPos());
-        if (svgBase && svgBase->keepAspectRatio) {
-            const QSizeF size =
-                limitSize(QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y()), getDefaultSize());
-            dragEnd = dragStart + QPointF(size.width(), size.height());
-        }
-    }
-    clientRect = QRectF(dragStart, QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y()));
-    baseSize = clientRect.size();
+    baseSize = releasedSize(scenePos);
+    clientRect = QRectF(dragStart, baseSize);
     doAfterObjCreated();
     onCreateFinished(true);
     if (svgBase)

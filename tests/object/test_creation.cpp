@@ -6,6 +6,7 @@
 
 #include <QtTest/QtTest>
 
+using support::drag;
 using support::exact;
 using support::moveTo;
 using support::press;
@@ -44,6 +45,10 @@ private Q_SLOTS:
     void aReleaseWithinRoundingOfThePressIsAClick();
     void aTinyDragIsRaisedToThirty();
     void aTinyDragKeepsTheAspect();
+    void aReleaseGivesTheKeptAspectToTheLastBit();
+    void aReleaseWithoutAspectTakesItsSizeFromTheTwoPoints();
+    void aClickTakesItsSizeFromTheTwoPoints();
+    void aMoveTakesItsSizeFromTheTwoPoints();
     void aReleaseIsTakenRelativeToTheObjectsPosition();
     void aReleaseLeftOfTheObjectEndsAtTheStart();
     void aReleaseAboveTheObjectCrossesTheStartsY();
@@ -316,6 +321,45 @@ void TestCreation::aTinyDragKeepsTheAspect()
     release(fixture.object, {50, 72});
     QCOMPARE(exact(fixture.object.clientRect), exact(QRectF(40, 60, 30, 15)));
     QCOMPARE(exact(fixture.object.dragEnd), exact(QPointF(70, 75)));
+}
+
+// 179.6 × 26, raised to 179.6 × 30, at 2:1. From 4.6 to 64.6 it is a little less than 60.
+void TestCreation::aReleaseGivesTheKeptAspectToTheLastBit()
+{
+    NewShape fixture; // 100 × 50 by default
+    drag(fixture.object, {4.6, 18.9}, {184.2, 44.9});
+    QCOMPARE(exact(fixture.object.clientRect), exact(QRectF(4.6, 18.9, 60, 30)));
+    QCOMPARE(exact(fixture.object.baseSize), exact(QSizeF(60, 30)));
+    QCOMPARE(exact(fixture.object.dragEnd), exact(QPointF(4.6 + 60, 18.9 + 30)));
+}
+
+void TestCreation::aReleaseWithoutAspectTakesItsSizeFromTheTwoPoints()
+{
+    NewShape fixture;
+    fixture.shape->keepAspectRatio = false;
+    drag(fixture.object, {4.6, 18.9}, {64.6, 78.9});
+    QVERIFY(64.6 - 4.6 < 60);
+    QCOMPARE(exact(fixture.object.clientRect.size()), exact(QSizeF(64.6 - 4.6, 78.9 - 18.9)));
+    QCOMPARE(exact(fixture.object.baseSize), exact(QSizeF(64.6 - 4.6, 78.9 - 18.9)));
+}
+
+void TestCreation::aClickTakesItsSizeFromTheTwoPoints()
+{
+    NewShape fixture;
+    fixture.shape->onGetDefaultSVGSize = [] { return QSizeF(60, 30); };
+    press(fixture.object, {4.6, 18.9});
+    release(fixture.object, {4.6, 18.9});
+    QVERIFY((4.6 + 60) - 4.6 < 60);
+    QCOMPARE(exact(fixture.object.clientRect.size()), exact(QSizeF((4.6 + 60) - 4.6, (18.9 + 30) - 18.9)));
+    QCOMPARE(exact(fixture.object.baseSize), exact(QSizeF((4.6 + 60) - 4.6, (18.9 + 30) - 18.9)));
+}
+
+void TestCreation::aMoveTakesItsSizeFromTheTwoPoints()
+{
+    NewShape fixture;
+    press(fixture.object, {4.6, 18.9});
+    moveTo(fixture.object, {184.2, 48.9}); // 179.6 × 30 at 2:1
+    QCOMPARE(exact(fixture.object.clientRect.size()), exact(QSizeF((4.6 + 60) - 4.6, (18.9 + 30) - 18.9)));
 }
 
 void TestCreation::aReleaseIsTakenRelativeToTheObjectsPosition()
