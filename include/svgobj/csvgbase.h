@@ -283,10 +283,10 @@ public:
 
 protected:
     // The order of the members is part of the binary interface.
-    IDocument *belongDoc = nullptr;           ///< found lazily by getBelongDoc(); not owned
-    CSVGObj *owner;                           ///< not owned
-    QZeSvgTinyDocument *document = nullptr;   ///< owned
-    QPointF lastMousePos;                     ///< press position of a control-point drag, object coordinates
+    IDocument *belongDoc = nullptr;         ///< found lazily by getBelongDoc(); not owned; null again when it dies
+    CSVGObj *owner;                         ///< not owned
+    QZeSvgTinyDocument *document = nullptr; ///< owned
+    QPointF lastMousePos;                   ///< press position of a control-point drag, object coordinates
     QZeSvgNode *activeControlPoint = nullptr; ///< the control point being dragged
     bool flipHorizontal = false;
     bool flipVertical = false;
@@ -319,6 +319,7 @@ protected:
 private:
     friend class CSVGObj;
     friend class CSVGAnimate;
+    friend class LivingCores;
     void discoverControlPoints();
     bool isEditingBlocked();
     void beginDrag(QZeSvgNode *node, QPointF pressPos);

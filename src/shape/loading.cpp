@@ -6,7 +6,9 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include "render/livingcores.h"
 #include "shape/controlpoints.h"
+#include "shape/emptytext.h"
 
 namespace {
 
@@ -30,10 +32,12 @@ CSVGBase::CSVGBase(CSVGObj *owner)
     , controlPoints(new QZeSvgNode *[maxControlPoints]())
     , zoomRate(owner ? owner->getCurZoomRate() : 1.0)
 {
+    LivingCores::add(this);
 }
 
 CSVGBase::~CSVGBase()
 {
+    LivingCores::remove(this);
     delete document;
     clearPropItems();
     delete animator;
@@ -81,7 +85,7 @@ void CSVGBase::discoverControlPoints()
 
 QString CSVGBase::getSVG()
 {
-    return QString();
+    return emptyText();
 }
 
 void CSVGBase::setExternalFilled(bool on)
@@ -100,7 +104,8 @@ void CSVGBase::addNode(QZeSvgNode *node, const QString &id)
     if (!node)
         return;
     QZeSvgStructureNode *parent = node->parent();
-    (parent ? parent : document)->addChild(node, id);
+    if (QZeSvgStructureNode *holder = parent ? parent : document)
+        holder->addChild(node, id);
 }
 
 void CSVGBase::removeNode(QZeSvgNode *node)
@@ -108,5 +113,6 @@ void CSVGBase::removeNode(QZeSvgNode *node)
     if (!node)
         return;
     QZeSvgStructureNode *parent = node->parent();
-    (parent ? parent : document)->removeChild(node);
+    if (QZeSvgStructureNode *holder = parent ? parent : document)
+        holder->removeChild(node);
 }

@@ -1,10 +1,48 @@
 #pragma once
 
-/// The document that pages and their objects belong to, as objects see it.
-class IDocument
+#include <framework/framework_global.h>
+
+class IDocument;
+
+/// Hears of every document that dies, while it lives itself. For whoever keeps pointers to documents that are not
+/// its own. GUI thread only.
+class FRAMEWORK_EXPORT IDocumentWatcher
 {
 public:
-    virtual ~IDocument() = default;
+    IDocumentWatcher()
+        : m_next(s_first)
+    {
+        s_first = this;
+    }
+    virtual ~IDocumentWatcher()
+    {
+        IDocumentWatcher **link = &s_first;
+        while (*link != this)
+            link = &(*link)->m_next;
+        *link = m_next;
+    }
+    IDocumentWatcher(const IDocumentWatcher &) = delete;
+    IDocumentWatcher &operator=(const IDocumentWatcher &) = delete;
+
+    /// `document` is dying: its address may be compared, and nothing else.
+    virtual void documentDied(const IDocument *document) = 0;
+
+private:
+    friend class IDocument;
+    inline static IDocumentWatcher *s_first = nullptr;
+    IDocumentWatcher *m_next;
+};
+
+/// The document that pages and their objects belong to, as objects see it.
+class FRAMEWORK_EXPORT IDocument
+{
+public:
+    /// Tells all watchers.
+    virtual ~IDocument()
+    {
+        for (IDocumentWatcher *watcher = IDocumentWatcher::s_first; watcher; watcher = watcher->m_next)
+            watcher->documentDied(this);
+    }
     /// 0 while the document is being edited; any other value (presenting, exporting) hides editing aids such as
     /// control points.
     virtual int documentState() const = 0;

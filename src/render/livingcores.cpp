@@ -1,0 +1,27 @@
+#include "render/livingcores.h"
+
+#include <svgobj/csvgbase.h>
+
+LivingCores &LivingCores::instance()
+{
+    static LivingCores cores; // made by the first core's constructor, so that it outlives them all
+    return cores;
+}
+
+void LivingCores::add(CSVGBase *core)
+{
+    instance().m_cores.insert(core);
+}
+
+void LivingCores::remove(CSVGBase *core)
+{
+    instance().m_cores.remove(core);
+}
+
+void LivingCores::documentDied(const IDocument *document)
+{
+    for (CSVGBase *core : qAsConst(m_cores)) {
+        if (core->belongDoc == document)
+            core->belongDoc = nullptr;
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <framework/idocument.h>
+
+#include <QtCore/QSet>
+
+class CSVGBase;
+
+/// All shape cores that are alive: when a document dies, those that hold it forget it.
+class LivingCores : private IDocumentWatcher
+{
+public:
+    static void add(CSVGBase *core);
+    static void remove(CSVGBase *core);
+
+private:
+    static LivingCores &instance();
+    void documentDied(const IDocument *document) override;
+
+    QSet<CSVGBase *> m_cores;
+};
