@@ -5,12 +5,19 @@
 
 #include "object/sizerules.h"
 #include "shape/constants.h"
+#include "shape/emptytext.h"
 #include "shape/shapetype.h"
 
 namespace {
 
 constexpr QSizeF minimumWithoutCore(1.0, 1.0);
 constexpr QSizeF defaultWithoutCore(30, 30);
+
+/// To the last bit, unlike QSizeF's own comparison.
+bool isIdentical(QSizeF a, QSizeF b)
+{
+    return a.width() == b.width() && a.height() == b.height();
+}
 
 } // namespace
 
@@ -41,10 +48,12 @@ void CSVGObj::setSize2(QSizeF size, bool flag)
     dragEnd = dragStart + QPointF(size.width(), size.height());
     // Recomputed from the two points, as everything that reads them will.
     baseSize = QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y());
-    clientRect.setSize(baseSize);
+    // Another thread may be reading the rectangle, to copy the picture into it.
+    if (!isIdentical(clientRect.size(), baseSize))
+        clientRect.setSize(baseSize);
     CBaseObject::setSize(size, flag, true);
     OnQPainterDraw(nullptr);
-    notifyObjPropertyChanged(SizeChanged, QString());
+    notifyObjPropertyChanged(SizeChanged, emptyText());
 }
 
 void CSVGObj::validateSize(QSizeF &size)

@@ -3,6 +3,9 @@
 
 #include <QtTest/QtTest>
 
+#include <cmath>
+#include <limits>
+
 using support::exact;
 using support::ShapeFixture;
 using support::svgText;
@@ -45,6 +48,8 @@ private Q_SLOTS:
 
     void aFinalSizeSetsRectangleDragAndBase();
     void aFinalSizeIsRecomputedFromTheDragPoints();
+    void anEqualSizeWritesNoRectangle();
+    void theSizeChangeIsToldWithTextThatIsEmptyButNotNull();
     void aFinalSizeTellsHostThenRendersThenNotifies();
     void theHostsFlagIsPassedOn();
     void everyAppliedSizeRendersAndNotifiesOnce_data();
@@ -316,6 +321,29 @@ void TestSizing::aFinalSizeIsRecomputedFromTheDragPoints()
     QCOMPARE(exact(object.dragEnd), exact(QPointF(1e16 + 4, 5)));
     QCOMPARE(exact(object.baseSize), exact(QSizeF(4, 5)));
     QCOMPARE(recording::lastArguments("object", "setSize"), QVariantList({QSizeF(3, 5), false, true}));
+}
+
+/// 0 and -0 are equal, but not the same bits: who writes one over the other is seen.
+void TestSizing::anEqualSizeWritesNoRectangle()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.place({0, 0, -0.0, 50});
+    fixture.load();
+    fixture.object.setSize2({0.0, 50}, false);
+    QVERIFY(std::signbit(fixture.object.clientRect.width()));
+    QVERIFY(!std::signbit(fixture.object.baseSize.width()));
+    fixture.object.setSize2({std::numeric_limits<double>::min(), 50}, false);
+    QCOMPARE(exact(fixture.object.clientRect.width()), exact(std::numeric_limits<double>::min()));
+}
+
+void TestSizing::theSizeChangeIsToldWithTextThatIsEmptyButNotNull()
+{
+    ShapeFixture fixture(twoPointTemplate());
+    fixture.load();
+    fixture.object.setSize2({60, 30}, false);
+    const QVariantList told = recording::lastArguments("notifyObjPropertyChanged");
+    QCOMPARE(told, QVariantList({105, QString("")}));
+    QVERIFY(!told[1].toString().isNull());
 }
 
 void TestSizing::aFinalSizeTellsHostThenRendersThenNotifies()

@@ -101,7 +101,8 @@ bool CPSRootObject::loadJson(QJsonObject &object)
 void CPSRootObject::setSize(QSizeF size, bool flag, bool redraw)
 {
     log("setSize", {size, flag, redraw});
-    clientRect.setSize(size);
+    if (size.width() != clientRect.width() || size.height() != clientRect.height())
+        clientRect.setSize(size);
 }
 
 void CPSRootObject::regenRegionShape(QGraphicsItem *item)
