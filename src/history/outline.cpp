@@ -47,10 +47,10 @@ bool CSVGBase::getOutlineRegion(QPainterPath *path)
     const QRectF clientRect = owner->getClientRect();
     if (clientRect.width() <= 0 || clientRect.height() <= 0)
         return false;
-    const QRectF box = settledViewBox(document);
-    if (box.width() == 0 || box.height() == 0)
-        return false; // nothing that could be stretched over the object
-    *path = OutlineBuilder::mapped(*outlineRegion, box, clientRect);
+    const QPainterPath region = OutlineBuilder::mapped(*outlineRegion, settledViewBox(document), clientRect);
+    if (!OutlineBuilder::isWithinReach(region))
+        return false;
+    *path = region;
     return true;
 }
 

@@ -18,6 +18,13 @@ namespace {
 constexpr double lineHitMargin = 2.0;
 /// Wider strokes than this cost time and change nothing that can be seen.
 constexpr double maxStrokeWidth = 1e5;
+/// Outlines reach this far from the origin, item units; what reaches farther counts as no outline.
+constexpr double maxOutlineReach = 1e7;
+
+bool isWithin(double coordinate)
+{
+    return qAbs(coordinate) <= maxOutlineReach; // never for one that is not a number
+}
 
 void addItem(const QZeSvgNode *node, QPainterPath *path)
 {
@@ -69,7 +76,7 @@ void OutlineBuilder::addChildren(const QZeSvgStructureNode *node, QPainterPath *
 
 QPainterPath OutlineBuilder::mapped(const QPainterPath &outline, const QRectF &viewBox, const QRectF &clientRect)
 {
-    if (viewBox == clientRect)
+    if (viewBox == clientRect || outline.isEmpty())
         return outline;
     const bool sameWidth = sameLength(viewBox.width(), clientRect.width());
     const bool sameHeight = sameLength(viewBox.height(), clientRect.height());
@@ -82,6 +89,16 @@ QPainterPath OutlineBuilder::mapped(const QPainterPath &outline, const QRectF &v
     const QTransform moving =
         QTransform::fromTranslate(clientRect.x() - scaledBox.x(), clientRect.y() - scaledBox.y());
     return (scaling * moving).map(outline);
+}
+
+bool OutlineBuilder::isWithinReach(const QPainterPath &outline)
+{
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element element = outline.elementAt(i);
+        if (!isWithin(element.x) || !isWithin(element.y))
+            return false;
+    }
+    return true;
 }
 
 QPainterPath OutlineBuilder::stroked(const QPainterPath &path, double width)

@@ -14,6 +14,10 @@ void addChildren(const QZeSvgStructureNode *node, QPainterPath *path);
 /// `outline` (document units) moved from the view box into the client rectangle (item coordinates), never mirrored.
 QPainterPath mapped(const QPainterPath &outline, const QRectF &viewBox, const QRectF &clientRect);
 
+/// Whether the outline is one that can be hit. A view box without width or height, or one that is tiny beside what
+/// it shows, takes outlines to places that are none; regions of those cost much and serve nobody.
+bool isWithinReach(const QPainterPath &outline);
+
 /// The area that a pen of `width` covers along `path`, with round caps and mitred joins.
 QPainterPath stroked(const QPainterPath &path, double width);
 

@@ -53,22 +53,22 @@ int roundedHalfUp(double width)
 
 QColor CSVGBase::getPenColor()
 {
-    return document->getAllStrokeColor();
+    return document ? document->getAllStrokeColor() : QColor();
 }
 
 Qt::PenStyle CSVGBase::getPenStyle()
 {
-    return document->getAllStrokeStyle();
+    return document ? document->getAllStrokeStyle() : Qt::NoPen;
 }
 
 int CSVGBase::getPenWidth()
 {
-    return roundedHalfUp(document->getAllStrokeWidth());
+    return document ? roundedHalfUp(document->getAllStrokeWidth()) : 0;
 }
 
 QBrush CSVGBase::getFillBrush()
 {
-    return document->getAllFillBrush();
+    return document ? document->getAllFillBrush() : QBrush();
 }
 
 int CSVGBase::getMaxPenWidth()
@@ -78,6 +78,8 @@ int CSVGBase::getMaxPenWidth()
 
 void CSVGBase::setPenColor(QColor color, bool record)
 {
+    if (!document)
+        return;
     if (record)
         RecordColor(color, ACT_SVG_PENCOLOR);
     document->setAllStrokeColor(color);
@@ -85,6 +87,8 @@ void CSVGBase::setPenColor(QColor color, bool record)
 
 void CSVGBase::setPenStyle(Qt::PenStyle style, bool record)
 {
+    if (!document)
+        return;
     if (record)
         RecordInt(style, ACT_SVG_PENSTYLE);
     document->setAllStrokeStyle(style);
@@ -92,6 +96,8 @@ void CSVGBase::setPenStyle(Qt::PenStyle style, bool record)
 
 void CSVGBase::setPenWidth(int width, bool record)
 {
+    if (!document)
+        return;
     if (record)
         RecordInt(width, ACT_SVG_PENWIDTH);
     document->setAllStrokeWidth(double(width));
@@ -104,14 +110,14 @@ void CSVGBase::setPenWidth(int width, bool record)
     const int size = controlPointPixels(width);
     resizeControlPoints(size);
     updateAfterPenWidthChanged(size);
-    controlPointSize = size / usableZoom(zoomRate);
+    controlPointSize = size / usableZoom(zoomRate, size);
 }
 
 void CSVGBase::resizeControlPoints(int size)
 {
-    const double half =
-        (size >> 1) / usableZoom(zoomRate); // halved as a whole number: an odd size leaves the centre
-    const double side = size / usableZoom(zoomRate);
+    const double zoom = usableZoom(zoomRate, size);
+    const double half = (size >> 1) / zoom; // halved as a whole number: an odd size leaves the centre
+    const double side = size / zoom;
     forEachControlPoint(controlPoints, controlPointCount, [half, side](QZeSvgNode *node) {
         const QRectF before = node->boundingRect();
         node->setNumericAttribute(QStringLiteral("x"), before.x() + 0.5 * before.width() - half);
@@ -132,7 +138,7 @@ void CSVGBase::updateAfterPenWidthChanged(int)
 void CSVGBase::setFillBrush(const QBrush &brush, bool record, bool)
 {
     // Only colours are compared: a change of the brush style alone is dropped, as intended.
-    if (document->getAllFillBrush().color() == brush.color())
+    if (!document || document->getAllFillBrush().color() == brush.color())
         return;
     if (record)
         RecordColor(brush.color(), ACT_SVG_FILLCOLOR);

@@ -6,16 +6,17 @@ namespace {
 
 constexpr double minimumCreatedSide = 30;
 
+double raisedSide(double side, double minimum)
+{
+    const double whole = std::trunc(minimum);
+    return std::isfinite(whole) && whole > side ? whole : side;
+}
+
 } // namespace
 
 QSizeF SizeRules::raised(QSizeF size, QSizeF minimum)
 {
-    const QSizeF whole(std::trunc(minimum.width()), std::trunc(minimum.height()));
-    if (whole.width() > size.width())
-        size.setWidth(whole.width());
-    if (whole.height() > size.height())
-        size.setHeight(whole.height());
-    return size;
+    return QSizeF(raisedSide(size.width(), minimum.width()), raisedSide(size.height(), minimum.height()));
 }
 
 QSizeF SizeRules::withAspect(QSizeF size, QSizeF ratio)

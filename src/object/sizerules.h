@@ -6,7 +6,8 @@
 /// Pure rules of object sizes, item units.
 namespace SizeRules {
 
-/// `size` with each side raised to the minimum's, taken in whole units.
+/// `size` with each side raised to the minimum's, taken in whole units. A minimum that is not finite raises
+/// nothing.
 QSizeF raised(QSizeF size, QSizeF minimum);
 
 /// `size` brought to the aspect ratio of `ratio`: the largest such size inside it. For the ratio (-1, -1) of an

@@ -44,8 +44,10 @@ bool CSVGBase::saveJson(QJsonObject &object)
 {
     if (rawControlPoints)
         object[viewBoxKey] = GetJsonUtil()->variantToJson(settledViewBox(document));
-    object[controlCountKey] = int(controlPointCount);
-    for (quint32 i = 1; i <= controlPointCount; ++i) {
+    // Without a document there are no points, whatever count was loaded.
+    const quint32 count = document ? controlPointCount : 0;
+    object[controlCountKey] = int(count);
+    for (quint32 i = 1; i <= count; ++i) {
         const QZeSvgNode *node = document->namedNode(controlPointId(i));
         if (!node)
             continue;
@@ -69,7 +71,7 @@ bool CSVGBase::saveJson(QJsonObject &object)
 bool CSVGBase::loadJson(QJsonObject &object)
 {
     if (rawControlPoints)
-        document->setViewBox(GetJsonUtil()->jsonToVariant(object[viewBoxKey].toObject()).toRectF());
+        setViewBoxOf(document, GetJsonUtil()->jsonToVariant(object[viewBoxKey].toObject()).toRectF());
     controlPointCount = quint32(qBound(0, object[controlCountKey].toInt(), int(maxControlPoints)));
     for (quint32 i = 1; i <= controlPointCount; ++i) {
         QZeSvgNode *node = storedControlPoint(i);

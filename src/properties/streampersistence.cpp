@@ -15,8 +15,10 @@ bool CSVGBase::save(QDataStream &out)
 {
     if (rawControlPoints)
         out << settledViewBox(document);
-    out << qint32(controlPointCount);
-    for (quint32 i = 1; i <= controlPointCount; ++i) {
+    // Without a document there are no points, whatever count was loaded.
+    const quint32 count = document ? controlPointCount : 0;
+    out << qint32(count);
+    for (quint32 i = 1; i <= count; ++i) {
         if (const QZeSvgNode *node = document->namedNode(controlPointId(i)))
             out << node->boundingRect().x() << node->boundingRect().y();
     }
@@ -36,7 +38,7 @@ bool CSVGBase::save(QDataStream &out)
 bool CSVGBase::load(QDataStream &in)
 {
     if (rawControlPoints)
-        document->setViewBox(decodeValue<QRectF>(in));
+        setViewBoxOf(document, decodeValue<QRectF>(in));
     const qint32 storedCount = decodeValue<qint32>(in);
     controlPointCount = quint32(qBound(0, storedCount, int(maxControlPoints)));
     for (qint32 i = 1; i <= storedCount; ++i) {
@@ -68,11 +70,13 @@ bool CSVGBase::load(QDataStream &in)
 QZeSvgNode *CSVGBase::storedControlPoint(quint32 number)
 {
     const QString id = controlPointId(number);
-    if (QZeSvgNode *node = document->namedNode(id))
+    if (QZeSvgNode *node = document ? document->namedNode(id) : nullptr)
         return node;
     if (number == 1 || !controlPoints[0])
         return nullptr;
     QZeSvgNode *copy = controlPoints[0]->clone();
+    if (!copy)
+        return nullptr;
     copy->setAttribute(QStringLiteral("id"), id);
     addNode(copy, id);
     controlPoints[number - 1] = copy;

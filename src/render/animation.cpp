@@ -62,11 +62,13 @@ void CSVGAnimate::startAnimate()
     if (m_timer) {
         m_timer->stop();
         // Deliberate: a restart stops the document's animation and restarts only the repainting.
-        m_shape->document->stopAnimate();
+        if (m_shape->document)
+            m_shape->document->stopAnimate();
     } else {
         m_timer = new QTimer(this);
         connect(m_timer, SIGNAL(timeout()), this, SLOT(doAnimate()));
-        m_shape->document->startAnimate();
+        if (m_shape->document)
+            m_shape->document->startAnimate();
     }
     m_timer->start(millisecondsPerSecond / m_frameRate);
     m_running = true;

@@ -13,10 +13,13 @@
 #include "properties/valuecodec.h"
 #include "shape/controlpoints.h"
 #include "shape/controlpointsize.h"
+#include "shape/emptytext.h"
 #include "shape/shapetype.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsScene>
+
+#include <limits>
 
 namespace {
 
@@ -98,9 +101,10 @@ void CSVGBase::followZoom()
     if (zoom == zoomRate)
         return;
     zoomRate = zoom;
-    if (!isUsableZoom(zoom))
+    const int pixels = controlPointPixels(getPenWidth());
+    if (!isUsableZoom(zoom, pixels))
         return;
-    controlPointSize = controlPointPixels(getPenWidth()) / zoom;
+    controlPointSize = pixels / zoom;
     forEachControlPoint(controlPoints, controlPointCount,
                         [this](QZeSvgNode *node) { changeControlPointSize(node, controlPointSize, true); });
 }
@@ -112,7 +116,9 @@ float CSVGBase::storedDrawScale(float scale)
     GetSpecialProperty(PROP_SVG_DRAWSCALE, out);
     QDataStream in(bytes);
     const double unitsPerDrawnUnit = decodeValue<double>(in);
-    return unitsPerDrawnUnit > 0 ? float(1.0 / unitsPerDrawnUnit) : scale;
+    const double stored = 1.0 / unitsPerDrawnUnit;
+    const bool isUsable = unitsPerDrawnUnit > 0 && stored <= double(std::numeric_limits<float>::max());
+    return isUsable ? float(stored) : scale;
 }
 
 void CSVGBase::invalidate()
@@ -120,7 +126,7 @@ void CSVGBase::invalidate()
     if (!owner)
         return;
     owner->OnQPainterDraw(nullptr);
-    owner->notifyObjPropertyChanged(CPSRootObject::AppearanceChanged, QString());
+    owner->notifyObjPropertyChanged(CPSRootObject::AppearanceChanged, emptyText());
 }
 
 void CSVGBase::setSelected(bool selected)

@@ -13,13 +13,14 @@ constexpr int controlPointPixels(int penWidth)
     return qMax(qMin(penWidth, maxControlPointPixels), minControlPointPixels);
 }
 
-inline bool isUsableZoom(double zoom)
+/// Whether that many pixels have a size, finite and positive, at a zoom rate.
+inline bool isUsableZoom(double zoom, int pixels)
 {
-    return std::isfinite(zoom) && zoom > 0;
+    return std::isfinite(zoom) && zoom > 0 && std::isfinite(pixels / zoom);
 }
 
-/// A zoom rate that sizes can be divided by: 1 stands in for one that is no zoom at all.
-inline double usableZoom(double zoom)
+/// A zoom rate that so many pixels can be divided by: 1 stands in for one at which they have no size.
+inline double usableZoom(double zoom, int pixels)
 {
-    return isUsableZoom(zoom) ? zoom : 1.0;
+    return isUsableZoom(zoom, pixels) ? zoom : 1.0;
 }

@@ -6,6 +6,7 @@
 #include <svgbase/qzesvgtinydocument.h>
 
 #include "shape/constants.h"
+#include "shape/viewbox.h"
 #include "shape/viewmapping.h"
 
 namespace {
@@ -16,7 +17,7 @@ constexpr QSizeF minimumWithoutControlPoints(1, 1);
 
 double limitAttribute(const QZeSvgNode *node, const QString &name, double unlimited)
 {
-    const QString text = node->attribute(name);
+    const QString text = node ? node->attribute(name) : QString();
     return text.isEmpty() ? unlimited : text.toDouble();
 }
 
@@ -24,7 +25,7 @@ double limitAttribute(const QZeSvgNode *node, const QString &name, double unlimi
 ViewMapping mappingOf(const QZeSvgTinyDocument *document, const CSVGObj *owner, bool flipHorizontal,
                       bool flipVertical)
 {
-    const QRectF box = document->viewBox();
+    const QRectF box = viewBoxOf(document);
     return {box, owner ? owner->getClientRect().size() : box.size(), flipHorizontal, flipVertical};
 }
 

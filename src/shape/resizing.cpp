@@ -7,6 +7,7 @@
 
 #include "shape/constants.h"
 #include "shape/controlpoints.h"
+#include "shape/emptytext.h"
 #include "shape/travel.h"
 #include "shape/viewbox.h"
 
@@ -60,12 +61,13 @@ void CSVGBase::adjustSvgPosition(QPointF offset, double dw, double dh, bool upda
     bool restoreRotation = false;
 
     if (isLength(dx) || isLength(dy) || flipHorizontal || flipVertical) {
-        document->setViewBox(document->viewBox().translated(dx, dy));
+        setViewBoxOf(document, viewBoxOf(document).translated(dx, dy));
         if (flipHorizontal)
             dx = -(dx + dw);
         if (flipVertical)
             dy = -(dy + dh);
-        const QPointF moved(mapXToObject(dx), mapYToObject(dy));
+        // A view box without width or height maps lengths to no finite ones.
+        const QPointF moved(finiteOrZero(mapXToObject(dx)), finiteOrZero(mapYToObject(dy)));
         lastMousePos -= moved;
         if (owner && updateObject && (isLength(moved.x()) || isLength(moved.y()))) {
             if (isLength(rotation)) {
@@ -78,8 +80,8 @@ void CSVGBase::adjustSvgPosition(QPointF offset, double dw, double dh, bool upda
     }
 
     if (isLength(dw) || isLength(dh)) {
-        const QRectF box = document->viewBox();
-        document->setViewBox(QRectF(box.x(), box.y(), box.width() + dw, box.height() + dh));
+        const QRectF box = viewBoxOf(document);
+        setViewBoxOf(document, QRectF(box.x(), box.y(), box.width() + dw, box.height() + dh));
         if (updateFinished)
             updateOutlineRegion();
         if (owner && updateObject) {
@@ -99,7 +101,7 @@ void CSVGBase::adjustSvgPosition(QPointF offset, double dw, double dh, bool upda
 
 void CSVGBase::adjustSvgPosition(QRectF rect, bool updateObject)
 {
-    const QRectF box = document->viewBox();
+    const QRectF box = viewBoxOf(document);
     adjustSvgPosition(rect.topLeft() - box.topLeft(), rect.width() - box.width(), rect.height() - box.height(),
                       updateObject);
 }
@@ -125,5 +127,5 @@ void CSVGBase::setSize(QSizeF oldSize, QSizeF newSize)
     if (!owner)
         return;
     owner->OnQPainterDraw(nullptr);
-    owner->notifyObjPropertyChanged(CPSRootObject::SizeChanged, QString());
+    owner->notifyObjPropertyChanged(CPSRootObject::SizeChanged, emptyText());
 }

@@ -4,6 +4,12 @@
 
 class QZeSvgTinyDocument;
 
-/// The document's view box, document units. One whose width and height are both exactly 0 is first replaced, in the
+/// @name View boxes, document units
+/// Without a document the view box is the zero rectangle, and setting it does nothing.
+/// @{
+QRectF viewBoxOf(const QZeSvgTinyDocument *document);
+void setViewBoxOf(QZeSvgTinyDocument *document, const QRectF &box);
+/// The document's view box. One whose width and height are both exactly 0 is first replaced, in the
 /// document, by what the document covers.
 QRectF settledViewBox(QZeSvgTinyDocument *document);
+/// @}

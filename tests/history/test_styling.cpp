@@ -495,7 +495,7 @@ void TestStyling::aCountBeyondTheTableEndsAtTheTable()
 
 void TestStyling::aZoomThatIsNoneCountsAsOne()
 {
-    for (double zoom : {0.0, qQNaN(), qInf(), -2.0}) {
+    for (double zoom : {0.0, qQNaN(), qInf(), -2.0, 1e-310}) {
         Following following;
         following.shape->zoomRate = zoom;
         following.shape->setPenWidth(20, false);

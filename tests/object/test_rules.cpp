@@ -40,6 +40,13 @@ void TestRules::sizesAreRaised_data()
     QTest::newRow("negative") << QSizeF(-50, -1) << QSizeF(16, 17) << QSizeF(16, 17);
     QTest::newRow("fractions do not count") << QSizeF(10, 100) << QSizeF(16.7, 16.2) << QSizeF(16, 100);
     QTest::newRow("between whole and fraction") << QSizeF(16.3, 16.1) << QSizeF(16.7, 16.2) << QSizeF(16.3, 16.1);
+    const double endless = std::numeric_limits<double>::infinity();
+    const double noNumber = std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("endless minimum") << QSizeF(10, 20) << QSizeF(endless, endless) << QSizeF(10, 20);
+    QTest::newRow("endless below") << QSizeF(10, 20) << QSizeF(-endless, -endless) << QSizeF(10, 20);
+    QTest::newRow("no number") << QSizeF(10, 20) << QSizeF(noNumber, noNumber) << QSizeF(10, 20);
+    QTest::newRow("endless in width alone") << QSizeF(10, 20) << QSizeF(endless, 30) << QSizeF(10, 30);
+    QTest::newRow("endless in height alone") << QSizeF(10, 20) << QSizeF(30, endless) << QSizeF(30, 20);
     QTest::newRow("negative minimum, toward zero") << QSizeF(-2, -2) << QSizeF(-1.9, -0.5) << QSizeF(-1, 0);
 }
 

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void aMissingViewBoxIsSettledFirst();
     void aFlatViewBoxHasNoRegion_data();
     void aFlatViewBoxHasNoRegion();
+    void anOutlineThatReachesTooFarIsNone_data();
+    void anOutlineThatReachesTooFarIsNone();
     void theStoredOutlineStays();
     void anEarlierPathIsReplaced();
 };
@@ -209,6 +211,35 @@ void TestMapping::aFlatViewBoxHasNoRegion()
     QPainterPath path = pathOf({1, 2, 3, 4});
     QVERIFY(!fixture.shape->getOutlineRegion(&path));
     QCOMPARE(path, pathOf({1, 2, 3, 4}));
+}
+
+void TestMapping::anOutlineThatReachesTooFarIsNone_data()
+{
+    QTest::addColumn<QRectF>("viewBox");
+    QTest::addColumn<bool>("reaches");
+    // The outline ends at (40, 40), the object is 100 × 50.
+    QTest::newRow("to 10,000,000 along x") << QRectF(0, 0, 4e-4, 50) << true;
+    QTest::newRow("beyond it along x") << QRectF(0, 0, 3.99e-4, 50) << false;
+    QTest::newRow("to 10,000,000 along y") << QRectF(0, 0, 100, 2e-4) << true;
+    QTest::newRow("beyond it along y") << QRectF(0, 0, 100, 1.99e-4) << false;
+    QTest::newRow("beyond it backward") << QRectF(4e7, 0, 100, 50) << false;
+    QTest::newRow("tiny") << QRectF(0, 0, 1e-300, 1e-300) << false;
+    QTest::newRow("no number") << QRectF(0, 0, qQNaN(), 50) << false;
+    QTest::newRow("endless at the left") << QRectF(-qInf(), 0, 100, 50) << false;
+}
+
+void TestMapping::anOutlineThatReachesTooFarIsNone()
+{
+    QFETCH(const QRectF, viewBox);
+    QFETCH(const bool, reaches);
+    Outlined fixture({10, 20, 30, 20});
+    fixture.place({0, 0, 100, 50});
+    fixture.shape->document->setViewBox(viewBox);
+    const QPainterPath before = pathOf({1, 2, 3, 4});
+    QPainterPath path = before;
+    QCOMPARE(fixture.shape->getOutlineRegion(&path), reaches);
+    QCOMPARE(path == before, !reaches);
+    QCOMPARE(exact(fixture.shape->document->viewBox()), exact(viewBox)); // it stays as it was stored
 }
 
 void TestMapping::theStoredOutlineStays()

@@ -28,6 +28,9 @@ private Q_SLOTS:
     void aHoleInTheRegionGetsItsBorder();
     void withoutOutlineTheRegionIsRefused();
     void anEmptyObjectsRegionIsRefused();
+    void aTemplateWithoutContentHasAnEmptyRegion_data();
+    void aTemplateWithoutContentHasAnEmptyRegion();
+    void anObjectWithoutContentHasAnEmptyRegion();
     void withoutObjectTheRegionIsRefused();
     void controlPointsAreNotAddedToTheRegion();
     void anyPenWidthGivesARegion_data();
@@ -195,6 +198,41 @@ void TestOutline::anEmptyObjectsRegionIsRefused()
     QPainterPath path = pathOf({1, 2, 3, 4});
     QVERIFY(!fixture.shape->getOutlinePath(&path));
     QCOMPARE(path, pathOf({1, 2, 3, 4}));
+}
+
+void TestOutline::aTemplateWithoutContentHasAnEmptyRegion_data()
+{
+    QTest::addColumn<QString>("viewBox");
+    QTest::newRow("as large as the object") << "0 0 100 50";
+    QTest::newRow("larger than the object") << "7 8 300 200";
+    QTest::newRow("no view box") << "";
+    QTest::newRow("no width") << "0 0 0 50";
+    QTest::newRow("no height") << "0 0 100 0";
+}
+
+void TestOutline::aTemplateWithoutContentHasAnEmptyRegion()
+{
+    QFETCH(const QString, viewBox);
+    ShapeFixture fixture(svgText(viewBox, {}));
+    fixture.shape->keepOutlineRegion = true;
+    fixture.place({0, 0, 100, 50});
+    fixture.load();
+    fixture.shape->updateOutlineRegion();
+    QPainterPath path = pathOf({1, 2, 3, 4});
+    QVERIFY(fixture.shape->getOutlinePath(&path));
+    QVERIFY(path.isEmpty());
+}
+
+void TestOutline::anObjectWithoutContentHasAnEmptyRegion()
+{
+    ShapeFixture fixture(svgText({}, {}));
+    fixture.shape->keepOutlineRegion = true;
+    fixture.place({0, 0, 100, 50});
+    fixture.load();
+    fixture.shape->updateOutlineRegion();
+    fixture.object.regenRegionShape(nullptr);
+    QVERIFY(fixture.object.regionPath);
+    QVERIFY(fixture.object.regionPath->isEmpty());
 }
 
 void TestOutline::withoutObjectTheRegionIsRefused()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void aMissingPenStyleIsNoLine();
     void aMissingCoordinateIsZero();
     void missingPointsAreCloned();
+    void aPointThatCannotBeClonedIsDropped();
     void keysThatWereAskedForAreLeftBehindAsNull();
     void coloursThatAreNoneAreInvalidWithoutAWarning();
     void theFillComesFromThePageObject();
@@ -183,6 +184,17 @@ void TestJson::missingPointsAreCloned()
     fixture.shape->loadJson(object);
     QCOMPARE(fixture.shape->pointRect(2), QRectF(1, 2, 8, 8));
     QCOMPARE(fixture.shape->node(QStringLiteral("control_2")), fixture.shape->point(2));
+}
+
+void TestJson::aPointThatCannotBeClonedIsDropped()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    recording::svg().clonesFail = true;
+    QJsonObject object{{"SVG_ControlCount", 2}, {"SVG_PosX_1", 3.0}, {"SVG_PosY_1", 4.0}, {"SVG_PosX_2", 1.0}};
+    QVERIFY(fixture.shape->loadJson(object));
+    QCOMPARE(fixture.shape->pointRect(1), QRectF(3, 4, 8, 8));
+    QVERIFY(!fixture.shape->point(2));
 }
 
 void TestJson::keysThatWereAskedForAreLeftBehindAsNull()

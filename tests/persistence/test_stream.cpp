@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aPositionThatIsNoNumberIsNotApplied();
     void aCloneStandsWhereTheFirstHasMoved();
     void aCloneHasTheParentOfTheFirst();
+    void aPointThatCannotBeClonedIsReadAndDropped();
     void aStreamOfAShapeWithAMissingPointIsOutOfStep();
     void everyTruncationLoads();
 };
@@ -286,6 +287,18 @@ void TestStream::aMissingPointWithoutFirstIsReadAndDropped()
     QVERIFY(!fixture.shape->node(QStringLiteral("control_2")));
     QCOMPARE(fixture.shape->getPenColor(), QColor(Qt::green));
     QCOMPARE(in.status(), QDataStream::Ok);
+}
+
+void TestStream::aPointThatCannotBeClonedIsReadAndDropped()
+{
+    ShapeFixture fixture(svgText(QStringLiteral("0 0 100 50"), controlPointsText(1)));
+    fixture.load();
+    recording::svg().clonesFail = true;
+    QVERIFY(fixture.shape->load(
+        inputOf(qint32(2), 1.0, 2.0, 11.0, 12.0, false, true, QColor(Qt::green), false, false)));
+    QCOMPARE(fixture.shape->pointRect(1), QRectF(1, 2, 8, 8));
+    QVERIFY(!fixture.shape->point(2));
+    QCOMPARE(fixture.shape->getPenColor(), QColor(Qt::green));
 }
 
 void TestStream::aShapeWithFewerNodesThanItsCountStaysUsable()

@@ -1,11 +1,13 @@
 #include "messagecatcher.h"
 
+#include <support/mouse.h>
 #include <support/shapefixture.h>
 
 #include <QtGui/QPixmap>
 #include <QtTest/QtTest>
 #include <QtWidgets/QGraphicsView>
 
+#include <cstring>
 #include <limits>
 #include <memory>
 
@@ -54,6 +56,11 @@ private Q_SLOTS:
     void aPageWithoutDocumentFallsBackOnTheFramework();
     void aPageWithoutDocumentOverwritesWhatWasKnown();
     void withoutPageWhatWasKnownStays();
+    void aDocumentThatDiesIsForgottenByEveryShape();
+    void anotherDocumentThatDiesLeavesShapesAlone();
+    void aShapeThatIsGoneIsNotTouched();
+    void aLivingDocumentStaysKnownOnAnotherPage();
+    void theNewLookIsToldWithTextThatIsEmptyButNotNull();
     void theFirstVisibleViewIsTheHosts();
 };
 
@@ -231,6 +238,9 @@ void TestCorePainting::aScaledDrawingIsDrawnAtItsStoredScale_data()
     QTest::newRow("negative") << -2.0 << 1.0f << 1.0f;
     QTest::newRow("negative, asked for more") << -2.0 << 3.0f << 3.0f;
     QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << 1.0f << 1.0f;
+    QTest::newRow("reciprocal that no float holds") << 1e-39 << 3.0f << 3.0f;
+    QTest::newRow("reciprocal that no double holds") << 5e-324 << 3.0f << 3.0f;
+    QTest::newRow("reciprocal that a float just holds") << 1e-38 << 3.0f << float(1 / 1e-38);
 }
 
 void TestCorePainting::aScaledDrawingIsDrawnAtItsStoredScale()
@@ -436,6 +446,72 @@ void TestCorePainting::withoutPageWhatWasKnownStays()
     fixture.shape->belongDoc = &known;
     fixture.object.SetPage(nullptr);
     QCOMPARE(fixture.shape->getBelongDoc(), static_cast<IDocument *>(&known));
+}
+
+void TestCorePainting::aDocumentThatDiesIsForgottenByEveryShape()
+{
+    Loaded fixture;
+    TestShape other(&fixture.object, twoPointTemplate());
+    auto former = std::make_unique<recording::Document>();
+    recording::framework().currentDocument = former.get();
+    fixture.object.SetPage(nullptr);
+    fixture.shape->getBelongDoc();
+    other.belongDoc = former.get(); // however it came to know it
+    recording::framework().currentDocument = nullptr;
+    former.reset();
+    QVERIFY(!fixture.shape->belongDoc);
+    QVERIFY(!other.belongDoc);
+    fixture.object.SetPage(&fixture.page);
+    fixture.document.blocked = 1;
+    QVERIFY(!press(*fixture.shape, {14, 24}));
+    QCOMPARE(fixture.shape->belongDoc, static_cast<IDocument *>(&fixture.document));
+}
+
+void TestCorePainting::anotherDocumentThatDiesLeavesShapesAlone()
+{
+    Loaded fixture;
+    fixture.shape->getBelongDoc();
+    {
+        const recording::Document other;
+    }
+    QCOMPARE(fixture.shape->belongDoc, static_cast<IDocument *>(&fixture.document));
+}
+
+void TestCorePainting::aShapeThatIsGoneIsNotTouched()
+{
+    auto document = std::make_unique<recording::Document>();
+    alignas(TestShape) char memory[sizeof(TestShape)];
+    auto *shape = new (memory) TestShape(nullptr);
+    shape->belongDoc = document.get();
+    IDocument *const *known = &shape->belongDoc;
+    const auto offset = reinterpret_cast<const char *>(known) - memory;
+    shape->~TestShape();
+    IDocument *const address = document.get();
+    std::memcpy(memory + offset, &address, sizeof address);
+    document.reset();
+    QVERIFY(!std::memcmp(memory + offset, &address, sizeof address)); // the memory is somebody else's by now
+}
+
+void TestCorePainting::aLivingDocumentStaysKnownOnAnotherPage()
+{
+    Loaded fixture;
+    recording::Document former;
+    recording::framework().currentDocument = &former;
+    fixture.object.SetPage(nullptr);
+    fixture.shape->getBelongDoc();
+    fixture.object.SetPage(&fixture.page);
+    Canvas canvas;
+    fixture.shape->paintEx(&canvas.painter, 1, false);
+    QCOMPARE(fixture.shape->belongDoc, static_cast<IDocument *>(&former));
+}
+
+void TestCorePainting::theNewLookIsToldWithTextThatIsEmptyButNotNull()
+{
+    Loaded fixture;
+    fixture.shape->invalidate();
+    const QVariantList told = recording::lastArguments("notifyObjPropertyChanged");
+    QCOMPARE(told, QVariantList({1002, QString("")}));
+    QVERIFY(!told[1].toString().isNull());
 }
 
 void TestCorePainting::theFirstVisibleViewIsTheHosts()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aTinyChangeOfZoomCounts();
     void aZoomThatIsNoneIsStoredButNotFollowed_data();
     void aZoomThatIsNoneIsStoredButNotFollowed();
+    void aZoomMayHoldTheSizeOfOnePenAndNotOfAnother();
     void aZoomThatIsNoNumberIsDifferentEachTime();
     void afterNoZoomTheNextOneIsFollowed();
     void withoutBelongingDocumentNothingFollows();
@@ -147,6 +148,7 @@ void TestZoom::aZoomThatIsNoneIsStoredButNotFollowed_data()
     QTest::newRow("0") << 0.0;
     QTest::newRow("negative") << -1.0;
     QTest::newRow("endless") << std::numeric_limits<double>::infinity();
+    QTest::newRow("so small that points would be endless") << 1e-310;
 }
 
 void TestZoom::aZoomThatIsNoneIsStoredButNotFollowed()
@@ -159,6 +161,17 @@ void TestZoom::aZoomThatIsNoneIsStoredButNotFollowed()
     QCOMPARE(fixture.shape->controlPointSize, 8.0);
     QCOMPARE(recording::count("setNumericAttribute"), 0);
     QCOMPARE(recording::count("draw"), 1);
+}
+
+// 8 pixels at a zoom of 1e-307 are 8e307 units, 20 pixels are more than a double holds.
+void TestZoom::aZoomMayHoldTheSizeOfOnePenAndNotOfAnother()
+{
+    for (const int width : {3, 20}) {
+        Zoomed fixture(1, 1e-307);
+        fixture.shape->document->setAllStrokeWidth(width);
+        fixture.paint();
+        QCOMPARE(exact(fixture.shape->controlPointSize), exact(width == 3 ? 8 / 1e-307 : 8.0));
+    }
 }
 
 void TestZoom::aZoomThatIsNoNumberIsDifferentEachTime()

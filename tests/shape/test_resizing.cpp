@@ -63,6 +63,10 @@ private Q_SLOTS:
     void resizingIsGrowingWithoutOffset();
     void offsetsThatAreNoNumberCountAsZero();
     void anEndlessGrowthIsNone();
+    void aRotatedObjectThatShowsNothingKeepsItsRotation();
+    void aViewBoxWithoutWidthMovesTheObjectAlongItsHeight();
+    void aViewBoxWithoutHeightMovesTheObjectAlongItsWidth();
+    void theSizeChangeIsToldWithTextThatIsEmptyButNotNull();
     void aShapeWithoutObjectChangesItsViewBox();
 };
 
@@ -505,6 +509,49 @@ void TestResizing::anEndlessGrowthIsNone()
     QCOMPARE(placed.shape->document->viewBox(), QRectF(box.x(), box.y(), box.width() + 10, box.height()));
     placed.shape->resizeSVG(-qInf(), 5, true);
     QCOMPARE(placed.shape->document->viewBox(), QRectF(box.x(), box.y(), box.width() + 10, box.height() + 5));
+}
+
+void TestResizing::aRotatedObjectThatShowsNothingKeepsItsRotation()
+{
+    ShapeFixture fixture(svgText({}, {})); // neither view box nor content
+    fixture.place({0, 0, 100, 50});
+    fixture.load();
+    fixture.object.setPos(QPointF(200, 300));
+    fixture.object.setRotation(30);
+    fixture.shape->adjustSvgPosition(QPointF(10, 10), 0, 0, true);
+    QCOMPARE(exact(fixture.object.rotation()), exact(30.0));
+    QCOMPARE(exact(fixture.object.pos()), exact(QPointF(200, 300)));
+    QCOMPARE(exact(fixture.shape->lastMousePos), exact(QPointF(0, 0)));
+}
+
+void TestResizing::aViewBoxWithoutWidthMovesTheObjectAlongItsHeight()
+{
+    ShapeFixture fixture(svgText("0 0 0 100", {}));
+    fixture.place({0, 0, 50, 100});
+    fixture.load();
+    fixture.shape->adjustSvgPosition(QPointF(10, 10), 0, 0, true);
+    QCOMPARE(exact(fixture.object.pos()), exact(QPointF(0, 10)));
+    QCOMPARE(exact(fixture.shape->lastMousePos), exact(QPointF(0, -10)));
+    QCOMPARE(exact(fixture.shape->document->viewBox()), exact(QRectF(10, 10, 0, 100)));
+}
+
+void TestResizing::aViewBoxWithoutHeightMovesTheObjectAlongItsWidth()
+{
+    ShapeFixture fixture(svgText("0 0 100 0", {}));
+    fixture.place({0, 0, 200, 50});
+    fixture.load();
+    fixture.shape->adjustSvgPosition(QPointF(10, 0), 0, 0, true); // 0 units of no height are no number
+    QCOMPARE(exact(fixture.object.pos()), exact(QPointF(20, 0)));
+    QCOMPARE(exact(fixture.shape->lastMousePos), exact(QPointF(-20, 0)));
+}
+
+void TestResizing::theSizeChangeIsToldWithTextThatIsEmptyButNotNull()
+{
+    Placed placed;
+    placed.shape->setSize({100, 50}, {120, 50});
+    const QVariantList told = recording::lastArguments("notifyObjPropertyChanged");
+    QCOMPARE(told, QVariantList({105, QString("")}));
+    QVERIFY(!told[1].toString().isNull());
 }
 
 void TestResizing::aShapeWithoutObjectChangesItsViewBox()

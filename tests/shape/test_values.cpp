@@ -27,6 +27,7 @@ private Q_SLOTS:
     void lengthsAreComparedWithATolerance();
     void aZoomMustBeFiniteAndPositive_data();
     void aZoomMustBeFiniteAndPositive();
+    void aZoomMustGivePixelsASize();
     void penStylesOutsideTheTypeAreSolid_data();
     void penStylesOutsideTheTypeAreSolid();
     void aViewBoxIsSettledOnlyWhenBothSidesAreZero();
@@ -114,7 +115,13 @@ void TestValues::aZoomMustBeFiniteAndPositive_data()
 void TestValues::aZoomMustBeFiniteAndPositive()
 {
     QFETCH(double, zoom);
-    QTEST(usableZoom(zoom), "used");
+    QTEST(usableZoom(zoom, 50), "used");
+}
+
+void TestValues::aZoomMustGivePixelsASize()
+{
+    QCOMPARE(usableZoom(1e-307, 8), 1e-307);
+    QCOMPARE(usableZoom(1e-307, 50), 1.0); // 5e308 is more than a double holds
 }
 
 void TestValues::penStylesOutsideTheTypeAreSolid_data()

@@ -105,7 +105,7 @@ QPolygonF QZeSvgNode::polygon() const
 QZeSvgNode *QZeSvgNode::clone() const
 {
     log(d->name(), "clone");
-    return QZeSvgNodePrivate::clone(this);
+    return recording::svg().clonesFail ? nullptr : QZeSvgNodePrivate::clone(this);
 }
 
 QZeSvgStructureNode::QZeSvgStructureNode(std::unique_ptr<QZeSvgNodePrivate> record)

@@ -14,6 +14,8 @@ struct Svg
 {
     /// So many of the next QZeSvgTinyDocument::load() calls give null, whatever the text.
     int failingLoads = 0;
+    /// QZeSvgNode::clone() gives null.
+    bool clonesFail = false;
     /// While false, numeric attributes are logged and stored but bounding rectangles stay as they are, as in a
     /// library that updates them lazily.
     bool boundsFollow = true;
