@@ -1,75 +1,55 @@
 #include "properties/streamcheck.h"
 
+#include "properties/brushlayout.h"
+#include "properties/lookahead.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
+#include <QtCore/QtEndian>
+#include <QtGui/QBrush>
 #include <QtGui/QColor>
 
 #include <cstring>
+#include <limits>
 
 namespace {
 
-/// More bytes than stand before the stops of a gradient.
-constexpr int headBytes = 64;
-/// Qt sorts stops in by comparing each with those before it.
-constexpr quint32 maxGradientStops = 16384;
-constexpr int colorBytes = 11;
+using namespace BrushLayout;
+
+/// Qt's lists hold no more of them.
+constexpr qint64 mostStops = std::numeric_limits<int>::max() / qint64(sizeof(QGradientStop)) - 1;
 /// A texture that would take more than 256 MiB is none that a person made.
 constexpr qint64 maxTexturePixels = 64 * 1024 * 1024;
-constexpr qint64 maxTextureBytes = 4 * maxTexturePixels;
 
+constexpr int textureOffset = styleBytes + colorBytes;
 constexpr char pngSignature[] = "\x89PNG\r\n\x1a\n";
 constexpr int pngSignatureBytes = 8;
-constexpr quint32 imageHeaderBytes = 13;
+/// Of a chunk: its length and its type stand before its data, a checksum behind.
+constexpr int chunkHeadBytes = 4 + 4;
+constexpr int checksumBytes = 4;
+constexpr int imageHeaderBytes = 13;
 /// Deflate makes at most 258 bytes of two bits; the rest is for the frame around the data.
 constexpr qint64 maxInflation = 1032;
 constexpr qint64 inflationSlack = 1024;
-
-/// Reads bytes that were looked at ahead as their stream would.
-class AheadStream : public QDataStream
-{
-public:
-    AheadStream(const QByteArray &bytes, const QDataStream &model)
-        : QDataStream(bytes)
-    {
-        setVersion(model.version());
-        setByteOrder(model.byteOrder());
-        setFloatingPointPrecision(model.floatingPointPrecision());
-    }
-};
-
-bool isGradient(int style)
-{
-    return style == Qt::LinearGradientPattern || style == Qt::RadialGradientPattern ||
-           style == Qt::ConicalGradientPattern;
-}
 
 bool isKnownStyle(int style)
 {
     return style <= Qt::ConicalGradientPattern || style == Qt::TexturePattern;
 }
 
-/// Streams of older versions have colours without a kind and no gradients.
-bool isModern(const QDataStream &in)
+bool isPng(const QByteArray &bytes)
 {
-    return in.version() >= QDataStream::Qt_4_6;
+    return bytes.size() == pngSignatureBytes && !std::memcmp(bytes, pngSignature, pngSignatureBytes);
 }
 
-/// A colour without its kind, which may be a number that the enumeration does not have.
-void skipColor(QDataStream &in)
+bool stopsFit(const QDataStream &in, Lookahead &ahead)
 {
-    in.skipRawData(colorBytes);
-}
-
-/// `head` stands behind the colour.
-bool stopsFit(AheadStream &head, qint64 available)
-{
-    qint32 setting = 0;
-    head >> setting >> setting >> setting >> setting; // type, spread, coordinate mode, interpolation
-    quint32 count = 0;
-    head >> count;
-    const bool single = head.floatingPointPrecision() == QDataStream::SinglePrecision;
-    const int stopBytes = (single ? 4 : 8) + colorBytes;
-    return count <= maxGradientStops && qint64(count) * stopBytes <= available - head.device()->pos();
+    const QByteArray bytes = ahead.bytes(stopCountOffset(in), intBytes);
+    if (bytes.size() < intBytes)
+        return true; // the stream ends here
+    const quint32 count = in.byteOrder() == QDataStream::BigEndian ? qFromBigEndian<quint32>(bytes.constData())
+                                                                   : qFromLittleEndian<quint32>(bytes.constData());
+    return count <= mostStops && qint64(count) * stopBytes(in) <= ahead.available() - stopsOffset(in);
 }
 
 /// The first chunk of a PNG picture.
@@ -93,43 +73,46 @@ struct ImageHeader
     qint64 rawBytes() const { return qint64(height) * (1 + (qint64(width) * channels() * depth + 7) / 8); }
 };
 
-/// `png` stands behind the signature of a picture. Walks over its chunks up to the last.
-bool dataFillsPicture(QDataStream &png)
+ImageHeader imageHeader(const QByteArray &data)
+{
+    ImageHeader header;
+    QDataStream in(data);
+    in >> header.width >> header.height >> header.depth >> header.colorType;
+    return header;
+}
+
+/// Walks over the chunks of a PNG picture from the first, `offset` bytes ahead, to the last.
+bool dataFillsPicture(Lookahead &ahead, qint64 offset)
 {
     ImageHeader header;
     qint64 dataBytes = 0;
-    while (!png.atEnd()) {
-        quint32 length = 0;
-        char type[4] = {};
-        png >> length;
-        png.readRawData(type, sizeof type);
-        const qint64 next = png.device()->pos() + qint64(length) + qint64(sizeof(quint32)); // behind the checksum
-        if (next > png.device()->size())
+    for (;;) {
+        const QByteArray head = ahead.bytes(offset, chunkHeadBytes);
+        if (head.size() < chunkHeadBytes)
             return false;
-        if (!std::memcmp(type, "IHDR", sizeof type) && length == imageHeaderBytes)
-            png >> header.width >> header.height >> header.depth >> header.colorType;
-        else if (!std::memcmp(type, "IDAT", sizeof type))
+        const quint32 length = qFromBigEndian<quint32>(head.constData());
+        const QByteArray type = head.mid(4);
+        const qint64 next = offset + chunkHeadBytes + length + checksumBytes;
+        if (next > ahead.available())
+            return false;
+        if (type == "IHDR" && length == imageHeaderBytes)
+            header = imageHeader(ahead.bytes(offset + chunkHeadBytes, imageHeaderBytes));
+        else if (type == "IDAT")
             dataBytes += length;
-        else if (!std::memcmp(type, "IEND", sizeof type))
+        else if (type == "IEND")
             return header.isUsable() && header.rawBytes() <= dataBytes * maxInflation + inflationSlack;
-        png.device()->seek(next);
+        offset = next;
     }
-    return false;
 }
 
-/// `head` stands behind the colour.
-bool textureFits(AheadStream &head)
+bool textureFits(Lookahead &ahead)
 {
-    qint32 isThere = 0;
-    head >> isThere;
-    if (isThere == 0)
-        return true;
-    char signature[pngSignatureBytes] = {};
-    head.readRawData(signature, pngSignatureBytes);
-    if (std::memcmp(signature, pngSignature, pngSignatureBytes) != 0)
-        return false;
-    head.setByteOrder(QDataStream::BigEndian); // a PNG picture's own
-    return dataFillsPicture(head);
+    const QByteArray isThere = ahead.bytes(textureOffset, intBytes);
+    if (isThere.count('\0') == isThere.size())
+        return true; // no picture
+    constexpr int pictureOffset = textureOffset + intBytes;
+    return isPng(ahead.bytes(pictureOffset, pngSignatureBytes)) &&
+           dataFillsPicture(ahead, pictureOffset + pngSignatureBytes);
 }
 
 } // namespace
@@ -142,25 +125,22 @@ bool StreamCheck::hasKnownColorKind(QDataStream &in, int offset)
     return kind.isEmpty() || (kind.at(0) >= char(QColor::Invalid) && kind.at(0) <= char(QColor::ExtendedRgb));
 }
 
+bool StreamCheck::isGradient(QDataStream &in)
+{
+    char style = 0;
+    return in.device() && in.device()->peek(&style, styleBytes) == styleBytes &&
+           BrushLayout::isGradient(quint8(style));
+}
+
 bool StreamCheck::isReadableBrush(QDataStream &in)
 {
-    QIODevice *device = in.device();
-    if (!device)
+    if (!in.device())
         return true;
-    AheadStream head(device->peek(headBytes), in);
-    quint8 style = Qt::NoBrush;
-    head >> style;
-    const bool isPlain = !isGradient(style) && style != Qt::TexturePattern;
+    Lookahead ahead(*in.device());
+    const QByteArray bytes = ahead.bytes(0, styleBytes);
+    const int style = bytes.isEmpty() ? int(Qt::NoBrush) : quint8(bytes[0]);
+    const bool isPlain = !BrushLayout::isGradient(style) && style != Qt::TexturePattern;
     if (!isKnownStyle(style) || (!isPlain && !isModern(in)))
         return false;
-    if (isPlain)
-        return true;
-    if (isGradient(style)) {
-        skipColor(head);
-        return stopsFit(head, device->bytesAvailable());
-    }
-    AheadStream whole(device->peek(qMin(device->bytesAvailable(), maxTextureBytes)), in);
-    whole >> style;
-    skipColor(whole);
-    return textureFits(whole);
+    return isPlain || (style == Qt::TexturePattern ? textureFits(ahead) : stopsFit(in, ahead));
 }

@@ -10,9 +10,11 @@ namespace StreamCheck {
 /// Whether the colour that begins `offset` bytes ahead is of a kind that QColor has.
 bool hasKnownColorKind(QDataStream &in, int offset = 0);
 
-/// Whether Qt can be left to read the brush that the stream stands at: its style is one of Qt's; a gradient has no
-/// more stops than the bytes that follow can hold, and at most 16,384; a texture is a picture in the PNG format
-/// that its data can fill, of at most 64 Mi pixels.
+/// Whether the brush that the stream stands at can be read: its style is one of Qt's; the stops of a gradient are
+/// all there; a texture is a picture in the PNG format that its data can fill, of at most 64 Mi pixels.
 bool isReadableBrush(QDataStream &in);
+
+/// Whether the brush that the stream stands at is a gradient.
+bool isGradient(QDataStream &in);
 
 } // namespace StreamCheck

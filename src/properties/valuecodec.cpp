@@ -1,5 +1,7 @@
 #include "properties/valuecodec.h"
 
+#include "properties/brushlayout.h"
+#include "properties/gradientreading.h"
 #include "properties/streamcheck.h"
 
 #include <QtGui/QBrush>
@@ -18,9 +20,11 @@ template<> QBrush decodeValue<QBrush>(QDataStream &in, QBrush start)
         in.setStatus(QDataStream::ReadCorruptData);
         return QBrush();
     }
-    constexpr int styleBytes = 1;
-    const bool isKnown = StreamCheck::hasKnownColorKind(in, styleBytes);
-    in >> start;
+    const bool isKnown = StreamCheck::hasKnownColorKind(in, BrushLayout::styleBytes);
+    if (StreamCheck::isGradient(in))
+        start = readGradient(in);
+    else
+        in >> start;
     if (!isKnown)
         start.setColor(start.color().toRgb());
     return start;
