@@ -218,6 +218,10 @@ QBrush StyledShape::getFillBrush()
 
 void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
 {
+    if (m_fillBeingRead) {
+        *m_fillBeingRead = brush;
+        return;
+    }
     if (!isFilledByPageObject()) {
         CSVGBase::setFillBrush(brush, record, notify);
         if (notify)
@@ -244,15 +248,33 @@ void StyledShape::setPenColor(QColor color, bool record)
 
 bool StyledShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
 {
-    if (propId != PROP_SVG_FILLCOLOR || !addUndo || !hasRichFill())
+    if (propId != PROP_SVG_FILLCOLOR)
         return CSVGBase::setInnerProperty(propId, in, record, addUndo);
-    const QByteArray before = bytesOf(*owner->getFillProp());
-    if (!CSVGBase::setInnerProperty(propId, in, record, false))
-        return false;
-    auto *command = new CSVGBaseUndoCmd(this, pageFillAction, nullptr, true);
-    command->setDataBuffer(before, bytesOf(*owner->getFillProp()));
-    addUndoRedo(command);
+    QBrush fill;
+    if (!readFill(in, fill))
+        return false; // damage must not blacken a shape
+    const bool keepsWholeFill = addUndo && hasRichFill();
+    const QByteArray before = keepsWholeFill ? bytesOf(*owner->getFillProp()) : QByteArray();
+    if (addUndo && !keepsWholeFill) {
+        auto *command = new CSVGBaseUndoCmd(this, ACT_SVG_FILLCOLOR, nullptr, true);
+        command->setBrush(getFillBrush(), fill);
+        addUndoRedo(command);
+    }
+    setFillBrush(fill, record, true);
+    if (keepsWholeFill) {
+        auto *command = new CSVGBaseUndoCmd(this, pageFillAction, nullptr, true);
+        command->setDataBuffer(before, bytesOf(*owner->getFillProp()));
+        addUndoRedo(command);
+    }
     return true;
+}
+
+bool StyledShape::readFill(QDataStream &in, QBrush &fill)
+{
+    m_fillBeingRead = &fill;
+    const bool isRead = CSVGBase::setInnerProperty(PROP_SVG_FILLCOLOR, in, false, false);
+    m_fillBeingRead = nullptr;
+    return isRead && in.status() == QDataStream::Ok;
 }
 
 bool StyledShape::DoPlaybackActionEx(int actionId, QDataStream &in)

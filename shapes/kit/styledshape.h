@@ -94,6 +94,8 @@ private:
     void play(bool on);
     void readLook();
     void colorPenFollowers();
+    /// Reads a fill as the library does, and applies nothing. False when the stream does not hold a whole one.
+    bool readFill(QDataStream &in, QBrush &fill);
     void fillPageObject(const QBrush &brush);
     /// Whether a brush could not say how the shape is filled.
     bool hasRichFill() const;
@@ -101,6 +103,7 @@ private:
     int m_type;
     bool m_lookRead = false;
     QBrush m_templateFill;
+    QBrush *m_fillBeingRead = nullptr; ///< takes what setFillBrush() gets, while readFill() runs
     /// What is painted, and how far a line around it reaches as a part of its width.
     struct PaintedNode
     {

@@ -120,6 +120,8 @@ private Q_SLOTS:
     void aRichFillThatIsSwitchedOffIsNotSwitchedOn();
     void oneGradientRunsOverBothGears();
     void theGradientStaysWhenTeethChange();
+    void aDamagedFillDoesNotBlackenAShape_data();
+    void aDamagedFillDoesNotBlackenAShape();
 };
 
 void TestFills::aColourThatReplacesARichFillIsUndone()
@@ -134,6 +136,42 @@ void TestFills::anAnswerThatReplacesARichFillIsUndone()
     QFETCH(QString, name);
     QFETCH(int, type);
     replaceRichFillAndUndo(name, type, answerWith);
+}
+
+void TestFills::aDamagedFillDoesNotBlackenAShape_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("filled by the page object") << "roundedrectangle";
+    QTest::newRow("filled by its document") << "gears";
+}
+
+void TestFills::aDamagedFillDoesNotBlackenAShape()
+{
+    QFETCH(const QString, name);
+    ShapeDriver shape(name);
+    shape.createByClick();
+    fillWith(shape, Qt::yellow);
+    shape.undoStack().clear();
+    const QByteArray before = savedBytes(shape);
+    const QImage look = shape.painted();
+    QByteArray solid;
+    QDataStream out(&solid, QIODevice::WriteOnly);
+    out << QBrush(Qt::green);
+    const QByteArray noStyle = QByteArray(1, char(200)) + solid.mid(1);
+    for (const QByteArray &damaged : {QByteArray(), solid.left(5), solid.chopped(1), noStyle}) {
+        QDataStream replayed(damaged);
+        QVERIFY(!shape.core().DoPlaybackActionEx(1005, replayed));
+        QDataStream set(damaged);
+        QVERIFY(!shape.core().SetAttribute(PROP_SVG_FILLCOLOR, set, true, true));
+        QDataStream special(damaged);
+        QVERIFY(!shape.core().SetSpecialProperty(PROP_SVG_FILLCOLOR, special, false));
+        QCOMPARE(savedBytes(shape), before);
+        QCOMPARE(shape.painted(), look);
+        QCOMPARE(shape.undoStack().count(), 0);
+    }
+    QDataStream whole(solid);
+    QVERIFY(shape.core().DoPlaybackActionEx(1005, whole));
+    QVERIFY(shape.painted() != look);
 }
 
 void TestFills::aRichFillThatIsSwitchedOffIsNotSwitchedOn_data()

@@ -1,16 +1,14 @@
 #include <framework/cpagebgprop.h>
 
+#include <host/pngpicture.h>
+
 #include <QtCore/QBuffer>
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonObject>
-#include <QtGui/QImageReader>
 
 #include <cmath>
 
 namespace {
-
-/// Pictures beyond this are refused: compressed data can claim any size.
-constexpr qint64 mostPicturePixels = qint64(1) << 26;
 
 QByteArray toPng(const QPixmap &picture)
 {
@@ -24,19 +22,9 @@ QByteArray toPng(const QPixmap &picture)
 }
 
 /// Null for data that is no acceptable picture.
-QPixmap fromPng(QByteArray bytes)
+QPixmap fromPng(const QByteArray &bytes)
 {
-    if (bytes.isEmpty()) {
-        return {};
-    }
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, "PNG");
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > mostPicturePixels) {
-        return {};
-    }
-    return QPixmap::fromImage(reader.read());
+    return bytes.isEmpty() ? QPixmap() : QPixmap::fromImage(pngPicture(bytes));
 }
 
 bool isFillType(int type)

@@ -66,10 +66,11 @@ CBaseObject *LessonStage::perform(const LessonStep &step)
 CBaseObject *LessonStage::perform(const ObjectActed &step)
 {
     CBaseObject *acting = object(step.object);
-    if (!acting) {
+    const std::optional<QByteArray> payload = replayedPayload(step.actionId, step.payload);
+    if (!acting || !payload) {
         return nullptr;
     }
-    replayAction(acting, step.actionId, replayedPayload(step.actionId, step.payload));
+    replayAction(acting, step.actionId, *payload);
     return acting;
 }
 
