@@ -29,7 +29,9 @@ public:
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     QString getObjName() override;
-    /// Paints onto `painter`; with null renders the off-screen picture that other threads copy.
+    /// Paints onto `painter`; with null renders the off-screen picture that other threads copy. Another thread gets
+    /// a copy of that picture in the client rectangle; the host alone keeps such copying apart from resizing,
+    /// loading and deleting the object, which take no lock.
     void OnQPainterDraw(QPainter *painter) override;
     bool canDo(OperationType operation) override;
     bool save(QDataStream &out) override;
@@ -64,6 +66,7 @@ public:
     virtual bool createSVGBase(int type, bool flag) = 0;
 
     /// Takes a final size (item units) over: client rectangle, host, off-screen picture, notification.
+    /// An equal size writes no client rectangle.
     void setSize2(QSizeF size, bool flag);
     /// Raises each side of `size` to the core's minimum size in whole units (1 without a core).
     void validateSize(QSizeF &size);
@@ -103,7 +106,7 @@ protected:
     /// The size last applied; keep-aspect resizing keeps its ratio. (-1, -1) at first.
     QSizeF baseSize;
     Qt::HANDLE createThreadId;
-    QMutex cacheMutex; ///< guards cacheImage
+    QMutex cacheMutex; ///< guards cacheImage, and nothing else
     QImage cacheImage; ///< the object rendered off screen, for painting from other threads
 
 private:

@@ -35,6 +35,12 @@ QRectF askedPaintedArea(CPSRootObject &object)
     return isFinite(area) ? area : QRectF();
 }
 
+/// To the last bit, unlike QRectF's own comparison.
+bool isIdentical(const QRectF &a, const QRectF &b)
+{
+    return a.x() == b.x() && a.y() == b.y() && a.width() == b.width() && a.height() == b.height();
+}
+
 OperationType operationOf(CObjAction::ACT_Def handle)
 {
     if (HandleLayout::isResize(handle)) {
@@ -102,7 +108,10 @@ void CPSRootObjectPrivate::assignClientSize(CPSRootObject &object, const QSizeF 
 
 void CPSRootObjectPrivate::setClientRect(CPSRootObject &object, const QRectF &rect)
 {
-    object.clientRect = rect;
+    // Another thread may be reading the rectangle, to copy the object's picture into it.
+    if (!isIdentical(object.clientRect, rect)) {
+        object.clientRect = rect;
+    }
     object.dragStart = rect.topLeft();
     object.dragEnd = rect.topLeft() + QPointF(rect.width(), rect.height());
     if (object.fillProp->needCreatBrush(rect)) {

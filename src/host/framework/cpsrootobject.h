@@ -44,7 +44,8 @@ public:
     virtual QString getObjName();
 
     /// Paints the object's content in item coordinates; a null painter asks for the off-screen picture to be made
-    /// anew. Called in the owning thread, or in another thread with a painter.
+    /// anew. Called in the owning thread, or in another thread with a painter; the host never resizes, loads or
+    /// deletes the object meanwhile.
     virtual void OnQPainterDraw(QPainter *painter);
     /// Brackets all painting of content. Saves the painter's state and applies the object's mirroring about the
     /// client rectangle's centre. An inactive painter is left alone, silently.
@@ -61,7 +62,8 @@ public:
     virtual bool loadJson(QJsonObject &object);
 
     /// Takes `size` (item units) as the client size. `flag` asks for a playback record of the change, `redraw` for
-    /// the graphics item to be updated at once. A size that is not finite is ignored.
+    /// the graphics item to be updated at once. A size that is not finite is ignored, and one that the object has
+    /// writes no client rectangle.
     virtual void setSize(QSizeF size, bool flag, bool redraw);
     /// Tells the host that the region path (item coordinates) is new; `item` is the graphics item to update, null
     /// for the object's own.
