@@ -6,9 +6,9 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
-#include "render/livingcores.h"
 #include "shape/controlpoints.h"
 #include "shape/emptytext.h"
+#include "shape/livingcores.h"
 
 namespace {
 

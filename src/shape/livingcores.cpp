@@ -1,4 +1,4 @@
-#include "render/livingcores.h"
+#include "shape/livingcores.h"
 
 #include <svgobj/csvgbase.h>
 
