@@ -225,8 +225,8 @@ void TestRules::unusableZoomsCountAsOne()
 {
     QFETCH(const double, zoom);
     QFETCH(const double, used);
-    QCOMPARE(exact(usableZoom(zoom)), exact(used));
-    QCOMPARE(isUsableZoom(zoom), zoom == used);
+    QCOMPARE(exact(usableZoom(zoom, maxControlPointPixels)), exact(used));
+    QCOMPARE(isUsableZoom(zoom, maxControlPointPixels), zoom == used);
 }
 
 void TestRules::typesOfHostFilledShapes()
