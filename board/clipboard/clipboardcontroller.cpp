@@ -129,8 +129,8 @@ ClipboardController::Pasted ClipboardController::read(const QMimeData &data)
     const bool isOurs = data.hasFormat(pagehost::objectsMimeType());
     if (isOurs) {
         QVector<pagehost::FileMessage> messages;
-        objects =
-            pagehost::decodeObjects(data.data(pagehost::objectsMimeType()), m_workspace->registry(), &messages);
+        objects = pagehost::decodeObjects(data.data(pagehost::objectsMimeType()), m_workspace->registry(),
+                                          &messages, m_view->page());
         for (const pagehost::FileMessage &message : messages)
             problems.append(pagehost::describe(message, m_workspace->localizer()));
     } else {

@@ -175,7 +175,7 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
     ObjectRecord record = recordOf(chunk.payload);
     record.isDamaged = record.isDamaged || chunk.isDamaged;
     FileMessage message = warning(QString());
-    m_objects.append(m_factory.make(record, message));
+    m_objects.append(m_factory.make(record, m_page, message));
     if (message.textKey.isEmpty() && chunk.isDamaged) {
         message.textKey = QStringLiteral("IDS_FILE_OBJECT_DAMAGED");
     }

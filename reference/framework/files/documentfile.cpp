@@ -116,7 +116,7 @@ QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
 }
 
 QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
-                                     QVector<FileMessage> *messages)
+                                     QVector<FileMessage> *messages, IPsPage *page)
 {
     QVector<CBaseObject *> objects;
     if (!chunks::Reader::hasSignature(bytes)) {
@@ -132,7 +132,7 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
         ObjectRecord record = recordOf(chunk.payload);
         record.id = 0; // the original may be on the page
         FileMessage message = warning(QString());
-        objects.append(factory.make(record, message));
+        objects.append(factory.make(record, page, message));
         if (messages && !message.textKey.isEmpty()) {
             message.object = objects.size();
             message.offset = chunk.offset;

@@ -294,7 +294,7 @@ void JsonAssembly::takeObject(const QByteArray &text)
     record.json = {};
     record.data = text.trimmed();
     FileMessage ignored;
-    m_objects.append(m_factory.make(record, ignored));
+    m_objects.append(m_factory.make(record, m_page, ignored));
 }
 
 bool JsonAssembly::takeRecord(const QByteArray &text, ObjectRecord &record)
@@ -362,7 +362,7 @@ bool JsonAssembly::readRecordMember(const QByteArray &key, const QByteArray &tex
 void JsonAssembly::addRecord(const ObjectRecord &record, qint64 offset)
 {
     FileMessage message = warning(QString());
-    m_objects.append(m_factory.make(record, message));
+    m_objects.append(m_factory.make(record, m_page, message));
     if (message.textKey == QLatin1String("IDS_FILE_OBJECT_MEMBERS")) {
         keepToldDamage(record.data);
     }

@@ -2,11 +2,13 @@
 
 #include <framework/cbaseobject.h>
 #include <framework/iframework.h>
+#include <framework/ipspage.h>
 
 #include <pagehost/objectid.h>
 #include <pagehost/objectregistry.h>
 
 #include <files/chunks.h>
+#include <files/documentcodec.h>
 #include <files/placeholderobject.h>
 #include <host/rootobjectprivate.h>
 
@@ -49,6 +51,27 @@ private:
 };
 
 namespace {
+
+/// Lets an object know its page while it is read.
+class ReadingScope
+{
+public:
+    ReadingScope(CBaseObject &object, IPsPage *page)
+        : m_object(object)
+    {
+        CPSRootObjectPrivate::of(m_object).isBeingRead = true;
+        m_object.SetPage(page);
+    }
+    ~ReadingScope()
+    {
+        m_object.SetPage(nullptr);
+        CPSRootObjectPrivate::of(m_object).isBeingRead = false;
+    }
+    Q_DISABLE_COPY(ReadingScope)
+
+private:
+    CBaseObject &m_object;
+};
 
 /// False when the object took more or less than the bytes that are its own, or found them to be no state of it.
 bool loadFromStream(CBaseObject *object, const QByteArray &data)
@@ -111,14 +134,18 @@ QByteArray streamed(CBaseObject *object)
     return bytes;
 }
 
-CBaseObject *ObjectFactory::load(const ObjectRecord &record) const
+CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) const
 {
+    // Objects look for their document when they are made and read, and remember it.
+    IDocument *document = page ? page->document() : nullptr;
+    const CurrentDocumentScope current(document ? document : GetFramework()->currentDocument());
     const ZoomScope zoom(record.zoom);
     std::unique_ptr<CBaseObject> object(m_registry.createObject(record.kindId));
     if (!object || record.encoding > ObjectRecord::Json) {
         return nullptr;
     }
     CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*object);
+    const ReadingScope reading(*object, page);
     host.refusedState = false;
     const bool loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
                                                                 : loadFromJson(object.get(), record);
@@ -156,7 +183,7 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
 }
 
 /// Null with the reason when the object cannot be made.
-CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, FileMessage &reason) const
+CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page, FileMessage &reason) const
 {
     const auto refuse = [&](const QString &textKey) {
         reason.textKey = textKey;
@@ -174,7 +201,7 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, FileMessage &r
     if (!hasRoomFor(record)) {
         return refuse(QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE"));
     }
-    CBaseObject *object = load(record);
+    CBaseObject *object = load(record, page);
     return object ? object : refuse(QStringLiteral("IDS_FILE_OBJECT_BROKEN"));
 }
 
@@ -195,9 +222,9 @@ bool ObjectFactory::knowsAllMembers(CBaseObject *object, const ObjectRecord &rec
     return std::all_of(names.begin(), names.end(), isKnown);
 }
 
-CBaseObject *ObjectFactory::make(const ObjectRecord &record, FileMessage &message) const
+CBaseObject *ObjectFactory::make(const ObjectRecord &record, IPsPage *page, FileMessage &message) const
 {
-    CBaseObject *object = tryToMake(record, message);
+    CBaseObject *object = tryToMake(record, page, message);
     if (!object) {
         object = new PlaceholderObject(record);
     } else if (!knowsAllMembers(object, record)) {

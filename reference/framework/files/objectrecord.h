@@ -12,6 +12,7 @@
 #include <optional>
 
 class CBaseObject;
+class IPsPage;
 
 namespace pagehost {
 
@@ -59,11 +60,12 @@ public:
     }
 
     /// Never null: what cannot be made is a placeholder, and `message` gets its text. The caller owns the object.
-    CBaseObject *make(const ObjectRecord &record, FileMessage &message) const;
+    /// It knows `page`, where that is not null, while it is read, and stands on none afterwards.
+    CBaseObject *make(const ObjectRecord &record, IPsPage *page, FileMessage &message) const;
 
 private:
-    CBaseObject *tryToMake(const ObjectRecord &record, FileMessage &reason) const;
-    CBaseObject *load(const ObjectRecord &record) const;
+    CBaseObject *tryToMake(const ObjectRecord &record, IPsPage *page, FileMessage &reason) const;
+    CBaseObject *load(const ObjectRecord &record, IPsPage *page) const;
     bool hasRoomFor(const ObjectRecord &record) const;
     bool knowsAllMembers(CBaseObject *object, const ObjectRecord &record) const;
 

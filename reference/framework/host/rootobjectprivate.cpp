@@ -58,7 +58,7 @@ CBaseObject *CPSRootObjectPrivate::baseObject(CPSRootObject &object)
 
 pagehost::Page *CPSRootObjectPrivate::pageOf(const CPSRootObject &object)
 {
-    return dynamic_cast<pagehost::Page *>(object.GetPage());
+    return object.d->isBeingRead ? nullptr : dynamic_cast<pagehost::Page *>(object.GetPage());
 }
 
 pagehost::PageScene *CPSRootObjectPrivate::pageScene(const CPSRootObject &object)

@@ -30,6 +30,8 @@ public:
     /// The last load() or loadJson() of the base class found its data bad. Objects may answer for their own data
     /// alone.
     bool refusedState = false;
+    /// The object takes its state from saved data. It knows its page already, which hears nothing of it yet.
+    bool isBeingRead = false;
     /// Zoom that the object followed last: objects may size parts of theirs in pixels, and save them so.
     double followedZoom = 1;
     /// What the object saves as long as it plays and nothing but its picture changes.
@@ -58,6 +60,7 @@ public:
 
     /// The graphics item; null for an object whose item is no CBaseObject.
     static CBaseObject *baseObject(CPSRootObject &object);
+    /// The page to tell of the object's changes.
     static pagehost::Page *pageOf(const CPSRootObject &object);
     /// The scene that shows the object when it is a page's.
     static pagehost::PageScene *pageScene(const CPSRootObject &object);

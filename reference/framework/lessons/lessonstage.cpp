@@ -81,7 +81,7 @@ CBaseObject *LessonStage::perform(const ObjectAppeared &step)
     if (!page || object(step.object) || !readRecord(step.data, record)) {
         return nullptr;
     }
-    CBaseObject *made = makeObject(record);
+    CBaseObject *made = makeObject(record, page);
     put(made, step.object, *page, step.place);
     return made;
 }
@@ -94,17 +94,17 @@ void LessonStage::put(CBaseObject *object, quint32 number, Page &page, int place
     m_objects.insert(number, object);
 }
 
-CBaseObject *LessonStage::makeObject(ObjectRecord record) const
+CBaseObject *LessonStage::makeObject(ObjectRecord record, Page *page) const
 {
     // The lesson may go before the object.
     record.data = QByteArray(record.data.constData(), record.data.size());
     FileMessage message;
-    CBaseObject *made = ObjectFactory(*m_registry).make(record, message);
+    CBaseObject *made = ObjectFactory(*m_registry).make(record, page, message);
     if (record.encoding != ObjectRecord::Stream || isPlaceholder(made) || loadExactly(*made, record.data)) {
         return made;
     }
     delete made;
-    return ObjectFactory(*m_registry).make(record, message);
+    return ObjectFactory(*m_registry).make(record, page, message);
 }
 
 CBaseObject *LessonStage::perform(const ObjectVanished &step)
@@ -127,8 +127,8 @@ CBaseObject *LessonStage::perform(const ObjectSettled &step)
         return nullptr;
     }
     // A new object: one that has a past may keep some of it when it loads.
-    CBaseObject *settled = makeObject(record);
     Page *page = CPSRootObjectPrivate::pageOf(*former);
+    CBaseObject *settled = makeObject(record, page);
     const int place = page->removeObject(former);
     delete former;
     put(settled, step.object, *page, place);

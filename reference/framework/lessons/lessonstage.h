@@ -48,7 +48,7 @@ private:
     CBaseObject *perform(const ZoomChanged &step);
 
     /// Never null; a placeholder for what cannot be made.
-    CBaseObject *makeObject(ObjectRecord record) const;
+    CBaseObject *makeObject(ObjectRecord record, Page *page) const;
     void put(CBaseObject *object, quint32 number, Page &page, int place);
     void forgetObjectsOf(const Page &page);
 

@@ -66,7 +66,8 @@ QRectF boundsOf(const QVector<CBaseObject *> &objects)
 
 CBaseObject *cloneObject(CBaseObject *object, const ObjectRegistry *registry)
 {
-    std::unique_ptr<CBaseObject> copy(decodeObjects(encodeObjects({object}), *registry).value(0));
+    std::unique_ptr<CBaseObject> copy(
+        decodeObjects(encodeObjects({object}), *registry, nullptr, object->GetPage()).value(0));
     const bool isCopy = copy && isPlaceholder(copy.get()) == isPlaceholder(object);
     return isCopy ? copy.release() : nullptr;
 }

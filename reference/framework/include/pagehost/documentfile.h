@@ -14,6 +14,7 @@
 
 class CBaseObject;
 class ILocalize;
+class IPsPage;
 
 /// Documents as files and page objects as clipboard data. docs/board-format.md describes both formats.
 namespace pagehost {
@@ -81,9 +82,11 @@ FRAMEWORK_EXPORT QString objectsMimeType();
 /// Objects in this order, with their places on their page.
 FRAMEWORK_EXPORT QByteArray encodeObjects(const QVector<CBaseObject *> &objects);
 /// New objects on no page; the caller owns them. Objects that cannot be made are placeholders, as when opening.
-/// Empty for bytes that are no such data; `messages` may be null.
+/// Empty for bytes that are no such data; `messages` may be null. `page` is the one that they will stand on, where
+/// that is known: objects remember the document that they find while they are read.
 FRAMEWORK_EXPORT QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
-                                                      QVector<FileMessage> *messages = nullptr);
+                                                      QVector<FileMessage> *messages = nullptr,
+                                                      IPsPage *page = nullptr);
 
 /// True for an object that stands for one that could not be made: it can be selected, moved, restacked, locked,
 /// copied and deleted, and is saved with the bytes that it was read with.
