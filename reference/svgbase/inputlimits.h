@@ -18,6 +18,10 @@ constexpr int depth = 512;
 constexpr int elements = 200000;
 /// Most attributes of one element; Qt's reader compares each with all others.
 constexpr int attributes = 256;
+/// Most characters of all attributes of a document, those that its document type gives elements included; each
+/// attribute counts some more, for the memory that it takes.
+constexpr int attributeCharacters = 128 * 1024 * 1024;
+constexpr int charactersOfAttribute = 32;
 /// Most namespace declarations in force at one element; Qt's reader searches them one by one.
 constexpr int namespaceDeclarations = 64;
 /// Most segments of one path; an arc counts as one.
@@ -28,13 +32,19 @@ constexpr int styleRules = 20000;
 constexpr int styleLayers = 1000;
 /// Most classes of one element that rules are looked for by.
 constexpr int classes = 256;
-/// Most custom properties that all elements of a document declare, that each may declare in any case, and the root.
+/// Most custom properties that all elements of a document declare, that each may declare in any case, and the root;
+/// every 16 characters of a value count as one more.
 constexpr int customProperties = 4000000;
 constexpr int leastCustomProperties = 20;
 constexpr int rootCustomProperties = 10000;
+constexpr int customPropertyCharacters = 16;
+/// Most characters that take the places of "var()" in all elements of a document, and that each may have in any
+/// case.
+constexpr int substitutedCharacters = 20000000;
+constexpr int leastSubstitutedCharacters = 200;
 /// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
 constexpr int selectorSteps = 20000000;
-constexpr int leastSelectorSteps = 2000;
+constexpr int leastSelectorSteps = 200;
 /// Most stops of one gradient; a painter tells no more apart.
 constexpr int gradientStops = 1000;
 /// Longest side of a pattern's tile, and its most pixels; larger ones are painted more coarsely.
@@ -55,8 +65,10 @@ constexpr int useInstances = 100000;
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of attributes that are read again for all "use" elements, and for markers and the like.
 constexpr int usedCharacters = 10000000;
-/// Most characters of one document that are set; the rest is left out.
+/// Most characters of one document that are set; the rest is left out. A text counts a few besides, for the time that
+/// its layout takes.
 constexpr int textCharacters = 100000;
+constexpr int charactersOfText = 4;
 /// Most "tref" elements of a document, and most characters that one shows.
 constexpr int trefs = 100;
 constexpr int trefCharacters = 1000;
@@ -72,10 +84,10 @@ constexpr int familyCharacters = 2000;
 constexpr int listedFamilies = 32;
 /// Most names of font families that the system is asked about, in a process; others count as not installed.
 constexpr int askedFamilies = 1000;
-/// Most fonts of a document, most pairs of characters or glyphs that one of them kerns, and most of its glyphs that
-/// begin with the same character.
+/// Most fonts of a document, most pairs of characters or glyphs that all of them kern, repeated ones included, and
+/// most glyphs of one that begin with the same character.
 constexpr int fonts = 100;
-constexpr int kerningPairs = 50000;
+constexpr int kerningPairs = 500000;
 constexpr int glyphsOfCharacter = 128;
 /// Most records of its tables that are looked at for the pictures of a font.
 constexpr int fontPictureSteps = 10000000;
@@ -121,18 +133,21 @@ constexpr int keptOutlines = 10000;
 constexpr int keptElements = 500000;
 /// Elements of the outline of one part of a text; longer parts are painted in pieces.
 constexpr int textRunElements = 200000;
-/// Most work that one drawing does on outlines, about in nanoseconds, and as much more for every pixel of its
-/// target; what comes when it is used up is not painted.
-constexpr double paintedWork = 1.5e9;
-constexpr double paintedWorkPerPixel = 500;
+/// Most work that one drawing does on elements of outlines, about in nanoseconds, and, for what grows with its
+/// size, as much more for every pixel of its target; what comes when it is used up is not painted.
+constexpr double paintedWork = 1e9;
+constexpr double paintedWorkPerPixel = 400;
+/// What tiles of patterns may take of that, and of the pixels painted aside, besides.
+constexpr double shareOfTiles = 0.25;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
 constexpr int layerDepth = 64;
 /// Most pixels that one drawing paints aside, all groups, clip paths and masks together.
 constexpr double layerPixels = 256.0 * 1024 * 1024;
 /// What one of them counts besides its pixels, for the time that its making takes.
 constexpr double layerOverhead = 8192;
-/// The same at any one time.
+/// The same at any one time, those that filters work on included, and as many times more as the target has.
 constexpr double openLayerPixels = 32.0 * 1024 * 1024;
+constexpr double openLayerTargets = 8;
 /// Most items of a "begin" or an "end".
 constexpr int animationConditions = 1000;
 /// Most values of one animation.
@@ -150,6 +165,8 @@ constexpr int keptPictureBytes = 64 * 1024 * 1024;
 constexpr int imageDepth = 4;
 /// Most primitives of a filter, and functions in a list of them.
 constexpr int filterPrimitives = 100;
+/// Most primitives of all filters of one drawing, each counted wherever it is applied.
+constexpr int appliedPrimitives = 200000;
 /// Most factors of an "feConvolveMatrix".
 constexpr int convolutionFactors = 1024;
 /// Most messages that a document keeps.

@@ -220,9 +220,16 @@ inline QString commas(const QString &what, int count)
 
 inline QString kernedPairs(const QString &more = QString())
 {
-    static_assert(Limits::kerningPairs == 250 * 200);
-    return fontWith("<glyph unicode='a'/><hkern k='1' g1='" + numbered("a#N,", 250) + "' g2='" +
-                    numbered("b#N,", 200) + "'/>" + more);
+    static_assert(Limits::kerningPairs == 1000 * 500);
+    return fontWith("<glyph unicode='a'/><hkern k='1' g1='" + numbered("a#N,", 1000) + "' g2='" +
+                    numbered("b#N,", 500) + "'/>" + more);
+}
+
+/// A pair behind others that are paired with nothing.
+inline QString kernedWithNothing(int characters)
+{
+    return fontWith("<glyph unicode='a'/><hkern k='1' g1='" + commas("a", characters) +
+                    "'/><hkern k='1' g1='a' g2='b'/>");
 }
 
 inline QString underlinedGroups(int groups)

@@ -224,7 +224,7 @@ void TestCoverage::numbersThatAreNoneAreRefused()
 void TestCoverage::outlinesThatTurnOftenAddUpOrAreRefused()
 {
     QPainterPath path;
-    for (int i = 0; i < 3999; ++i)
+    for (int i = 0; i < 7999; ++i)
         path.addPolygon(QPolygonF({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
     FlatOutline outline;
     QVERIFY(flatten(path, &outline));
@@ -274,10 +274,13 @@ void TestCoverage::everyPixelOfARowIsMixedWithWhatIsBelowIt()
             image.setPixelColor(x, 0, QColor(0, 0, 255));
         image.setPixelColor(4, 0, QColor(0, 255, 0));
         QPainter painter(&image);
-        QPainterPath row;
-        row.addRect(image.rect());
+        DisplayItem row;
+        row.path.addRect(image.rect());
+        row.bounds = image.rect();
+        row.pen = QPen(Qt::NoPen);
         // Alpha 102 leaves 153 of 255.
-        QVERIFY(fillSolid(row, QColor(255, 0, 0, 102), pixelTarget(painter)));
+        row.fill = QColor(255, 0, 0, 102);
+        QVERIFY(paintSolid(row, 1, pixelTarget(painter), false));
         painter.end();
         const QColor overNothing(255, 0, 0, 102);
         const QColor overBlue(102, 0, 153);

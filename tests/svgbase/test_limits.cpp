@@ -120,8 +120,9 @@ void addFontRows()
     const QString font = "<font><font-face font-family='f#N'/></font>";
     add("fonts", numbered(font, Limits::fonts) + rect(), numbered(font, Limits::fonts + 1) + rect());
     add("pairs of kerning", kernedPairs(), kernedPairs("<hkern k='1' g1='a0' g2='c'/>"));
-    add("the same pair of kerning again", kernedPairs("<hkern k='1' g1='a0' g2='b0'/>"),
-        kernedPairs("<vkern k='1' g1='a' g2='" + numbered("b#N,", Limits::kerningPairs + 1) + "'/>"));
+    add("the same pair of kerning again", kernedPairs(), kernedPairs("<vkern k='1' g1='a0' g2='b0'/>"));
+    add("kerning with nothing", kernedWithNothing(Limits::kerningPairs - 1),
+        kernedWithNothing(Limits::kerningPairs));
     const QString glyph = "<glyph unicode='a'/>";
     add("glyphs of a character", fontWith(glyph.repeated(Limits::glyphsOfCharacter)),
         fontWith(glyph.repeated(Limits::glyphsOfCharacter + 1)));
@@ -193,8 +194,8 @@ void TestLimits::drawUpToTheLimit_data()
     const QString wordy = "<g data-x='" + QString(100000, 'x') + "'/>";
     addRow("attributes of references", Message::TooManyReferences,
            usesOf(Limits::usedCharacters / 100000 - 1, wordy), usesOf(Limits::usedCharacters / 100000, wordy));
-    addRow("characters", Message::TooManyCharacters, textOf(Limits::textCharacters),
-           textOf(Limits::textCharacters + 1), true);
+    addRow("characters", Message::TooManyCharacters, textOf(Limits::textCharacters - Limits::charactersOfText),
+           textOf(Limits::textCharacters - Limits::charactersOfText + 1), true);
     addRow("text paths", Message::TooManyTextPaths, textPathsOf(Limits::textPaths),
            textPathsOf(Limits::textPaths + 1), true);
     addRow("text references", Message::TooManyCharacters, trefsOf(Limits::trefs), trefsOf(Limits::trefs + 1), true);
@@ -288,7 +289,7 @@ void TestLimits::whatComesLateInALongDrawingLooksTheSame()
 // Groups inside each other, each a picture of 941 × 941 pixels: 940 and one for smoothing.
 void TestLimits::pixelsOpenAtATimeAreLimited()
 {
-    const int fitting = int(Limits::openLayerPixels / (941.0 * 941));
+    const int fitting = int((Limits::openLayerPixels + Limits::openLayerTargets * 1000 * 1000) / (941.0 * 941));
     for (const bool isBeyond : {false, true}) {
         const DocumentPointer document = loadContent(deeplyIsolated(isBeyond ? fitting + 1 : fitting));
         const QImage image = drawn(*document, QSize(1000, 1000));

@@ -23,6 +23,8 @@ struct BuildContext
     WalkBudget budget;
     WalkBudget boundsBudget;
     int boundsVisits = 0;
+    /// Primitives of all filters so far.
+    int appliedPrimitives = 0;
     /// Clip paths, masks and markers whose content is being built; one of them in its own content is an error.
     QVector<NodeIndex> open;
     /// What "feImage" elements show, so that every use of a filter need not read it again.

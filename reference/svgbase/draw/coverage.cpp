@@ -30,9 +30,9 @@ void Coverage::begin(const Band &band)
 // `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
 inline void Coverage::addCell(int row, int column, int height, int twiceInset)
 {
-    int *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
-    cell[0] += height * (2 * subpixels - twiceInset);
-    cell[1] += height * twiceInset;
+    uint *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
+    cell[0] += uint(height * (2 * subpixels - twiceInset));
+    cell[1] += uint(height * twiceInset);
     const uint bit = uint(column) % wordBits;
     quint64 *word = m_written.data() + size_t(row) * size_t(m_words) + uint(column) / wordBits;
     word[0] |= quint64(3) << bit;

@@ -55,8 +55,9 @@ private:
     Band m_band{};
     int m_columns = 0;
     int m_words = 0;
-    /// What each pixel adds to the covered area of all pixels from it on, by rows.
-    std::vector<int> m_cells;
+    /// What each pixel adds to the covered area of all pixels from it on, by rows; where lines crowd that may go
+    /// around, but their sums do not.
+    std::vector<uint> m_cells;
     /// A bit for each pixel that was written.
     std::vector<quint64> m_written;
 };
@@ -74,10 +75,10 @@ inline int Coverage::coverageOf(int sum, Qt::FillRule rule)
 
 template<typename Sink> void Coverage::sweepRow(int row, Qt::FillRule rule, const Sink &sink)
 {
-    int *cells = m_cells.data() + size_t(row) * size_t(m_columns);
+    uint *cells = m_cells.data() + size_t(row) * size_t(m_columns);
     quint64 *words = m_written.data() + size_t(row) * size_t(m_words);
     const int y = m_band.top + row;
-    int sum = 0;
+    uint sum = 0;
     int start = 0;
     int coverage = 0;
     for (int word = 0; word < m_words; ++word) {
@@ -90,7 +91,7 @@ template<typename Sink> void Coverage::sweepRow(int row, Qt::FillRule rule, cons
             sum += cells[column];
             cells[column] = 0;
             start = column;
-            coverage = coverageOf(sum, rule);
+            coverage = coverageOf(int(sum), rule);
         }
     }
     if (coverage > 0 && start < m_band.width)

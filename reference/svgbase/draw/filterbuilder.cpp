@@ -34,6 +34,7 @@ public:
 
 private:
     const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
+    bool takePrimitive(NodeIndex filter, const FilterStep &step);
     bool addPrimitives(NodeIndex filter, FilterStep *step);
     ImagePointer image(NodeIndex node);
     FactsPointer useFacts(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region) const;
@@ -122,6 +123,26 @@ void FilterBuilder::buildImage(NodeIndex node, const PrimitiveUnits &units, cons
     appendImage(m_context, node, holder, &primitive->items);
 }
 
+// False when the filter, or all of them together, would have too many.
+bool FilterBuilder::takePrimitive(NodeIndex filter, const FilterStep &step)
+{
+    if (step.primitives.size() == Limits::filterPrimitives) {
+        m_context.report.add(
+            Message::TooManyFilterPrimitives,
+            QStringLiteral("A filter of more than %1 primitives has no effect.").arg(Limits::filterPrimitives),
+            filter);
+        return false;
+    }
+    if (m_context.appliedPrimitives == Limits::appliedPrimitives) {
+        m_context.report.add(Message::TooManyFilterPrimitives,
+                             QStringLiteral("Filters of more than %1 primitives together have no effect.")
+                                 .arg(Limits::appliedPrimitives));
+        return false;
+    }
+    ++m_context.appliedPrimitives;
+    return true;
+}
+
 bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
 {
     const PrimitiveUnits units{element(filter).attributes.value(QStringLiteral("primitiveUnits")) ==
@@ -131,13 +152,8 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
         const ElementKind kind = element(at).kind;
         if (!isPrimitive(kind))
             continue;
-        if (step->primitives.size() == Limits::filterPrimitives) {
-            m_context.report.add(
-                Message::TooManyFilterPrimitives,
-                QStringLiteral("A filter of more than %1 primitives has no effect.").arg(Limits::filterPrimitives),
-                filter);
+        if (!takePrimitive(filter, *step))
             return false;
-        }
         FilterPrimitive primitive =
             readPrimitive(m_context.document.tree(), at, *m_context.document.facts(at)->style, units);
         if (kind == ElementKind::FeImage)

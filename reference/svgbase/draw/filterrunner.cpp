@@ -30,6 +30,9 @@ constexpr double octaveCost = 24;
 /// How far from a pixel's edge a region may end and still be taken to end there.
 constexpr double alignmentTolerance = 1e-3;
 constexpr int greatestComponent = 255;
+/// Pictures that are held besides named results: the source and its alpha, the result before, an input, the result
+/// and what is left of it in its region.
+constexpr int heldPictures = 6;
 
 struct FilterResult
 {
@@ -51,13 +54,18 @@ public:
         , m_services(services)
     {
     }
+    ~StepRunner() { m_services.holdPixels(-m_heldPixels); }
+    StepRunner(const StepRunner &) = delete;
+    StepRunner &operator=(const StepRunner &) = delete;
 
     bool run(QImage *picture);
 
 private:
     bool apply(const FilterPrimitive &primitive);
     bool isNeededAfter(int index, const QString &name) const;
-    bool keepNeeded(int index);
+    void keepNeeded(int index);
+    double pixelCount() const { return double(m_source.picture.width()) * m_source.picture.height(); }
+    bool holdResults();
     FilterResult input(const FilterPrimitive &primitive, int index) const;
     QImage inputPicture(const FilterPrimitive &primitive, int index) const;
     QRectF primitiveRegion(const FilterPrimitive &primitive) const;
@@ -91,6 +99,7 @@ private:
     FilterResult m_sourceAlpha;
     FilterResult m_last;
     QHash<QString, FilterResult> m_named;
+    double m_heldPixels = 0;
 };
 
 QImage inSpace(const FilterResult &result, bool linear)
@@ -444,8 +453,7 @@ double costOfPixel(const FilterPrimitive &primitive)
 
 bool StepRunner::apply(const FilterPrimitive &primitive)
 {
-    const double pixels = double(m_source.picture.width()) * m_source.picture.height();
-    if (!m_services.takePixels(pixels * costOfPixel(primitive)))
+    if (!m_services.takePixels(pixelCount() * costOfPixel(primitive)) || !holdResults())
         return false;
     FilterResult made;
     made.region = primitiveRegion(primitive) & m_region;
@@ -471,12 +479,18 @@ bool StepRunner::isNeededAfter(int index, const QString &name) const
 }
 
 // False when more results are waiting than may be held.
-bool StepRunner::keepNeeded(int index)
+bool StepRunner::holdResults()
+{
+    const double pixels = pixelCount() * (m_named.size() + heldPictures);
+    const bool fits = m_services.holdPixels(pixels - m_heldPixels);
+    m_heldPixels = pixels;
+    return fits;
+}
+
+void StepRunner::keepNeeded(int index)
 {
     for (auto it = m_named.begin(); it != m_named.end();)
         it = isNeededAfter(index, it.key()) ? std::next(it) : m_named.erase(it);
-    const double pixels = double(m_source.picture.width()) * m_source.picture.height();
-    return pixels * (m_named.size() + 1) <= Limits::openLayerPixels;
 }
 
 bool StepRunner::run(QImage *picture)
@@ -490,8 +504,9 @@ bool StepRunner::run(QImage *picture)
     keepAlpha(&m_sourceAlpha.picture);
     m_last = m_source;
     for (int i = 0; i < m_step.primitives.size(); ++i) {
-        if (!apply(m_step.primitives.at(i)) || !keepNeeded(i))
+        if (!apply(m_step.primitives.at(i)))
             return false;
+        keepNeeded(i);
     }
     *picture = inSpace(m_last, false);
     return true;

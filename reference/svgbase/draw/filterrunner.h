@@ -11,6 +11,8 @@ struct FilterServices
 {
     /// Whether so many pixels more may be worked on.
     std::function<bool(double)> takePixels;
+    /// Counts so many pixels more, or less, of pictures that are held besides; false when these are too many.
+    std::function<bool(double)> holdPixels;
     /// The picture of items over the filtered area, null when there is none to be had.
     std::function<QImage(const QVector<DisplayItem> &)> paint;
 };

@@ -12,8 +12,9 @@ namespace {
 constexpr double flatness = 0.025;
 /// Farther from the origin than this nothing is flattened, pixels.
 constexpr double farthest = 32000;
-/// So few that the areas of all lines of a row, each at most a pixel's, add up without overflow.
-constexpr int mostPoints = 16000;
+/// So few that the areas of all lines of a row that go the same way, at most half of them and each at most a
+/// pixel's, add up without overflow.
+constexpr int mostPoints = 32000;
 
 QPoint inSubpixels(const QPointF &point)
 {

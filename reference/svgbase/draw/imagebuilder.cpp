@@ -70,6 +70,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     inner.budget = context.budget;
     inner.boundsBudget = context.boundsBudget;
     inner.boundsVisits = context.boundsVisits;
+    inner.appliedPrimitives = context.appliedPrimitives;
     inner.images = context.images;
     inner.imagePixels = context.imagePixels;
     inner.shownPixels = context.shownPixels;
@@ -86,6 +87,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     context.budget = inner.budget;
     context.boundsBudget = inner.boundsBudget;
     context.boundsVisits = inner.boundsVisits;
+    context.appliedPrimitives = inner.appliedPrimitives;
     context.images = inner.images;
     context.imagePixels = inner.imagePixels;
     context.shownPixels = inner.shownPixels;

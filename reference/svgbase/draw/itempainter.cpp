@@ -72,8 +72,7 @@ public:
     {
         const double pixels = pixelCount(area, pixelRatio);
         const bool affordable = pixels >= 1 && pixels <= budget->left &&
-                                budget->open + pixels <= Limits::openLayerPixels &&
-                                budget->depth < Limits::layerDepth;
+                                budget->open + pixels <= budget->mostOpen && budget->depth < Limits::layerDepth;
         budget->lacksPixels = budget->lacksPixels || !affordable;
         return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget, toCanvas) : nullptr;
     }
@@ -209,14 +208,19 @@ void ItemPainter::drawOutline(QPainter *painter, const DisplayItem &item)
 void ItemPainter::paintShape(const DisplayItem &item)
 {
     const Layer &layer = m_layers.back();
-    m_budget->work -= paintingWork(item, layer.area, m_pixelRatio);
-    if (m_budget->work < 0 || !reaches(item.bounds, layer.area))
+    const PaintingWork work = paintingWork(item, layer.area, m_pixelRatio);
+    m_budget->outlineWork -= work.elements;
+    m_budget->work -= work.elements + work.pixels;
+    if (m_budget->lacksWork() || !reaches(item.bounds, layer.area))
         return;
     const bool keep = m_budget->outlines < Limits::keptOutlines;
     if (paintSolid(item, layer.opacity * item.opacity, layer.pixels, keep)) {
         ++m_budget->outlines;
         return;
     }
+    m_budget->work -= work.crowding;
+    if (m_budget->lacksWork())
+        return;
     QPainter *painter = layer.painter;
     painter->setOpacity(layer.opacity * item.opacity);
     takePaint(painter, item);
@@ -232,10 +236,12 @@ void ItemPainter::paintShape(const DisplayItem &item)
 void ItemPainter::paintImage(const DisplayItem &item)
 {
     const ShownPicture &picture = *item.picture;
-    m_budget->work -= paintingWork(item, m_layers.back().area, m_pixelRatio);
-    if (m_budget->work < 0 || picture.image.isNull() || !reaches(item.bounds, m_layers.back().area))
-        return;
     const Layer &layer = m_layers.back();
+    if (picture.image.isNull() || !reaches(item.bounds, layer.area))
+        return;
+    m_budget->work -= imageWork(item, layer.area, m_pixelRatio);
+    if (m_budget->lacksWork())
+        return;
     QPainter *painter = layer.painter;
     const QTransform before = painter->worldTransform();
     painter->setOpacity(layer.opacity * item.opacity);
@@ -372,6 +378,18 @@ std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &it
     return picture;
 }
 
+DisplayItem filledOutline(const QPainterPath &path)
+{
+    DisplayItem item;
+    item.path = path;
+    item.fill = Qt::black;
+    item.pen = QPen(Qt::NoPen);
+    item.bounds = path.controlPointRect();
+    item.elementCount = path.elementCount();
+    item.outlineLength = paintedLength(item);
+    return item;
+}
+
 // What can't be afforded hides the picture altogether.
 void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
 {
@@ -387,6 +405,11 @@ bool ItemPainter::filtered(const Filter &filter, const Layer &layer, QImage *pic
     services.takePixels = [this](double pixels) {
         m_budget->left -= pixels;
         return m_budget->left >= 0;
+    };
+    services.holdPixels = [this](double pixels) {
+        m_budget->open += pixels;
+        m_budget->lacksPixels = m_budget->lacksPixels || m_budget->open > m_budget->mostOpen;
+        return m_budget->open <= m_budget->mostOpen;
     };
     services.paint = [this, &layer](const QVector<DisplayItem> &items) {
         const std::unique_ptr<SidePicture> side = painted(items, layer);
@@ -428,12 +451,8 @@ void ItemPainter::finish(Layer *layer)
         layer->picture->image()->fill(Qt::transparent);
     leaveCanvas(layer);
     QImage *picture = layer->picture->image();
-    if (effects->hasRegion) {
-        const std::unique_ptr<SidePicture> region = SidePicture::make(layer->area, m_pixelRatio, m_budget);
-        if (region && !fillSolid(effects->regionPath, Qt::black, region->pixels()))
-            region->painter()->fillPath(effects->regionPath, Qt::black);
-        keepWhere(picture, region);
-    }
+    if (effects->hasRegion)
+        keepWhere(picture, painted({filledOutline(effects->regionPath)}, layer->area));
     if (effects->clips)
         keepWhere(picture, painted(effects->clip, layer->area));
     if (effects->masks) {

@@ -4,32 +4,47 @@
 
 namespace Svg {
 
-/// What a drawing may still do: pixels painted aside, in all and at a time, and work on outlines.
+/// What a drawing may still do: pixels painted aside, in all and at a time, and work on outlines and pixels.
 struct PaintBudget
 {
     PaintBudget() = default;
     /// More for a target of more pixels.
     explicit PaintBudget(double targetPixels)
-        : work(Limits::paintedWork + Limits::paintedWorkPerPixel * targetPixels)
+        : mostOpen(Limits::openLayerPixels + Limits::openLayerTargets * targetPixels)
+        , work(Limits::paintedWork + Limits::paintedWorkPerPixel * targetPixels)
         , wholeWork(work)
     {
     }
 
+    /// Of all tiles of patterns of a drawing, which are painted besides it.
+    static PaintBudget ofTiles()
+    {
+        PaintBudget budget;
+        budget.left *= Limits::shareOfTiles;
+        budget.work *= Limits::shareOfTiles;
+        budget.outlineWork *= Limits::shareOfTiles;
+        return budget;
+    }
+
     double left = Limits::layerPixels;
     double open = 0;
+    double mostOpen = Limits::openLayerPixels;
     int depth = 0;
     double work = Limits::paintedWork;
     double wholeWork = work;
+    /// The part of the work that does not grow with the target.
+    double outlineWork = Limits::paintedWork;
     /// How many outlines were drawn that may keep what painters make of them.
     int outlines = 0;
     /// Whether a picture was refused.
     bool lacksPixels = false;
 
-    bool lacksWork() const { return work < 0; }
+    bool lacksWork() const { return work < 0 || outlineWork < 0; }
     /// How much of it was taken; 1 or more where something was left out or simplified.
     double taken() const
     {
-        const double share = qMax(1 - left / Limits::layerPixels, 1 - work / wholeWork);
+        const double share =
+            qMax(qMax(1 - left / Limits::layerPixels, 1 - work / wholeWork), 1 - outlineWork / Limits::paintedWork);
         return lacksPixels ? qMax(1.0, share) : share;
     }
 };

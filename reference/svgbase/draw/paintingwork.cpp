@@ -8,13 +8,18 @@ namespace Svg {
 
 namespace {
 
-// Measured with Qt's raster engine, which walks along a row of pixels to where an edge crosses it.
+// Measured. Qt's raster engine walks along a row of pixels to where an edge crosses it.
 constexpr double workPerCrossing = 10;
-constexpr double workPerStep = 0.5;
+constexpr double workPerStep = 4;
 constexpr double workPerElement = 50;
 constexpr double workPerStrokedPiece = 1000;
-constexpr double workPerPixel = 1;
+constexpr double workPerOpaquePixel = 1;
+constexpr double workPerFadedPixel = 2;
+constexpr double workPerGradientPixel = 3;
+constexpr double workPerTilePixel = 2;
+constexpr double workPerScaledPixel = 8;
 constexpr double sidesOfStroke = 2;
+constexpr int opaque = 255;
 
 double lengthOf(const QPainterPath &path)
 {
@@ -26,6 +31,29 @@ double lengthOf(const QPainterPath &path)
             length += qAbs(b.x - a.x) + qAbs(b.y - a.y);
     }
     return length;
+}
+
+double workPerPixel(const QBrush &brush, double opacity)
+{
+    switch (brush.style()) {
+    case Qt::NoBrush:
+        return 0;
+    case Qt::SolidPattern:
+        return brush.color().alpha() == opaque && opacity >= 1 ? workPerOpaquePixel : workPerFadedPixel;
+    case Qt::TexturePattern:
+        return brush.transform().type() > QTransform::TxTranslate ? workPerScaledPixel : workPerTilePixel;
+    default:
+        return workPerGradientPixel;
+    }
+}
+
+// Of so many pixels that are seen of the item.
+double strokedPixels(const DisplayItem &item, double seen, double pixelRatio)
+{
+    if (!item.strokePath.isEmpty())
+        return seen;
+    const bool stroked = item.pen.style() != Qt::NoPen;
+    return stroked ? qMin(seen, item.outlineLength * item.pen.widthF() * pixelRatio * pixelRatio) : 0;
 }
 
 } // namespace
@@ -54,19 +82,29 @@ double paintedLength(const DisplayItem &item)
     return filled + sidesOfStroke * outline + ends;
 }
 
-double paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
+PaintingWork paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
 {
     const QRectF visible = item.bounds & QRectF(area);
-    const double elements = item.elementCount;
+    PaintingWork work;
+    work.elements = item.elementCount * workPerElement;
     if (visible.isEmpty())
-        return elements * workPerElement;
+        return work;
+    work.elements += item.strokedPieces * workPerStrokedPiece;
     // What is seen of an outline may be the densest part of it.
     const double share = std::sqrt(qMin(1.0, visible.height() / item.bounds.height()));
     const double crossings = item.outlineLength * share * pixelRatio;
     const double density = qMin(crossings / qMax(1.0, visible.height() * pixelRatio), visible.width() * pixelRatio);
-    return elements * workPerElement + item.strokedPieces * workPerStrokedPiece +
-           crossings * (workPerCrossing + density * workPerStep) +
-           visible.width() * visible.height() * pixelRatio * pixelRatio * workPerPixel;
+    const double pixels = visible.width() * visible.height() * pixelRatio * pixelRatio;
+    work.pixels = crossings * workPerCrossing + pixels * workPerPixel(item.fill, item.opacity) +
+                  strokedPixels(item, pixels, pixelRatio) * workPerPixel(item.pen.brush(), item.opacity);
+    work.crowding = crossings * density * workPerStep;
+    return work;
+}
+
+double imageWork(const DisplayItem &item, const QRect &area, double pixelRatio)
+{
+    const QRectF visible = item.bounds & QRectF(area);
+    return visible.width() * visible.height() * pixelRatio * pixelRatio * workPerScaledPixel;
 }
 
 } // namespace Svg

@@ -8,8 +8,18 @@ namespace Svg {
 double paintedLength(const DisplayItem &item);
 /// How many segments and dashes a mapped item's pen goes along.
 double strokedPieces(const DisplayItem &item);
-/// What painting a mapped item within an area takes, about in nanoseconds: for its outline where it is dense, for
-/// its elements, and for the pixels that it fills.
-double paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio);
+/// What painting a mapped item within an area takes, about in nanoseconds.
+struct PaintingWork
+{
+    /// For its elements, whatever its size.
+    double elements = 0;
+    /// For the pixels that its outline crosses and that it fills.
+    double pixels = 0;
+    /// For crossings that crowd in a row of pixels, where Qt's raster engine paints it.
+    double crowding = 0;
+};
+PaintingWork paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio);
+/// The same for a picture.
+double imageWork(const DisplayItem &item, const QRect &area, double pixelRatio);
 
 } // namespace Svg

@@ -20,7 +20,7 @@ struct PatternTiles
 {
     QHash<QPair<const PatternPaint *, QPair<int, int>>, QImage> pictures;
     double pixelsLeft = Limits::patternsPixels;
-    PaintBudget budget;
+    PaintBudget budget = PaintBudget::ofTiles();
     MappingBudget mapping;
     /// Whether a tile was left out.
     bool exhausted = false;

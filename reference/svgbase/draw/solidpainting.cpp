@@ -194,14 +194,4 @@ bool paintSolid(const DisplayItem &item, double opacity, const PixelTarget &targ
     return true;
 }
 
-bool fillSolid(const QPainterPath &path, const QColor &color, const PixelTarget &target)
-{
-    FlatOutline outline;
-    if (!target.picture || !flatten(path, &outline))
-        return false;
-    sharedCoverage().sweep(outline, paintedPixels(path.controlPointRect(), target.window),
-                           Overlay(target, premultiplied(color, 1)));
-    return true;
-}
-
 } // namespace Svg

@@ -28,7 +28,4 @@ PixelTarget pixelTarget(const QPainter &painter);
 /// item may keep what is worked out for it.
 bool paintSolid(const DisplayItem &item, double opacity, const PixelTarget &target, bool keep);
 
-/// Fills a path in the same way. False where that can't be done.
-bool fillSolid(const QPainterPath &path, const QColor &color, const PixelTarget &target);
-
 } // namespace Svg

@@ -16,6 +16,8 @@ namespace {
 
 /// How far bounds of a stroke may stray, as a share of its size.
 constexpr double strokeTolerance = 1e-3;
+/// What a text counts, which is laid out to be measured.
+constexpr int visitsOfText = 10;
 
 /// An element whose children are being measured.
 struct Level
@@ -98,7 +100,7 @@ NodeIndex ContentMeter::usedNode(const Node &use) const
 void ContentMeter::enter(NodeIndex index, const FactsPointer &facts)
 {
     const Node &node = m_tree.node(index);
-    ++m_measuring->visits;
+    m_measuring->visits += node.kind == ElementKind::Text ? visitsOfText : 1;
     if (!facts->displayed)
         return;
     const auto isContext = [](const Paint &paint) {

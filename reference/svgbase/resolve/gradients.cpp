@@ -26,7 +26,7 @@ constexpr int mostKnown = 1000;
 class GradientChain
 {
 public:
-    GradientChain(const Tree &tree, NodeIndex gradient);
+    GradientChain(const Tree &tree, NodeIndex gradient, TreeStyles *styles);
 
     bool isEmpty() const { return m_nodes.isEmpty(); }
     bool isCut() const { return m_cut; }
@@ -39,6 +39,7 @@ private:
     NodeIndex nodeWithStops() const;
 
     const Tree &m_tree;
+    TreeStyles *m_styles;
     QVector<NodeIndex> m_nodes;
     bool m_cut = false;
 };
@@ -49,8 +50,9 @@ bool isGradient(ElementKind kind)
 }
 
 // A chain that returns to one of its own ends there.
-GradientChain::GradientChain(const Tree &tree, NodeIndex gradient)
+GradientChain::GradientChain(const Tree &tree, NodeIndex gradient, TreeStyles *styles)
     : m_tree(tree)
+    , m_styles(styles)
 {
     NodeIndex at = gradient;
     while (at != noNode && isGradient(tree.node(at).kind) && !m_nodes.contains(at)) {
@@ -100,7 +102,7 @@ ServerTransform GradientChain::transform() const
     ServerTransform result;
     for (const NodeIndex index : m_nodes) {
         const Node &node = m_tree.node(index);
-        const ServerTransform own = serverTransform(node, styleInTree(m_tree, index),
+        const ServerTransform own = serverTransform(node, m_styles->styleOf(m_tree, index),
                                                     node.attributes.value(AttributeId::GradientTransform));
         if (result.transform.isEmpty())
             result.transform = own.transform;
@@ -127,7 +129,7 @@ QGradientStops GradientChain::stops(double opacity) const
     const NodeIndex holder = nodeWithStops();
     if (holder == noNode)
         return stops;
-    const ComputedStyle around = styleInTree(m_tree, holder);
+    const ComputedStyle around = m_styles->styleOf(m_tree, holder);
     for (NodeIndex child = m_tree.node(holder).firstChild; child != noNode; child = m_tree.node(child).next) {
         const Node &stop = m_tree.node(child);
         if (stop.kind != ElementKind::Stop)
@@ -329,8 +331,10 @@ QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &k
 
 void GradientCache::setRevision(quint32 revision)
 {
-    if (revision != m_revision)
-        m_known.clear();
+    if (revision == m_revision)
+        return;
+    m_known.clear();
+    m_styles.clear();
     m_revision = revision;
 }
 
@@ -349,13 +353,14 @@ const GradientCache::Known *GradientCache::insert(NodeIndex gradient, double opa
 std::optional<QBrush> gradientBrush(const Tree &tree, NodeIndex index, const GradientTarget &target,
                                     GradientCache *cache)
 {
-    const GradientChain chain(tree, index);
+    const GradientChain chain(tree, index, cache->styles());
     cache->setCutChain(chain.isCut());
     if (chain.isEmpty())
         return std::nullopt;
     const GradientCache::Known *known = cache->find(index, target.opacity);
     if (!known)
-        known = cache->insert(index, target.opacity, prepared(chain, target.opacity, styleInTree(tree, index)));
+        known = cache->insert(index, target.opacity,
+                              prepared(chain, target.opacity, cache->styles()->styleOf(tree, index)));
     if (known->stops == 0)
         return QBrush(Qt::NoBrush);
     if (known->stops == 1)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "resolve/servertransform.h"
+#include "style/treestyles.h"
 #include "tree/tree.h"
 
 #include <QtCore/QHash>
@@ -44,9 +45,11 @@ public:
     void setCutChain(bool cut) { m_cutChain = cut; }
     const Known *find(NodeIndex gradient, double opacity) const;
     const Known *insert(NodeIndex gradient, double opacity, const Known &known);
+    TreeStyles *styles() { return &m_styles; }
 
 private:
     QHash<QPair<NodeIndex, double>, std::shared_ptr<const Known>> m_known;
+    TreeStyles m_styles;
     quint32 m_revision = 0;
     bool m_cutChain = false;
 };

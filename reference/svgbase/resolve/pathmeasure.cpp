@@ -10,7 +10,7 @@ namespace Svg {
 namespace {
 
 /// Parts that each curve is measured in.
-constexpr int piecesPerCurve = 16;
+constexpr qint16 piecesPerCurve = 16;
 /// How far beside a cusp its direction is looked for, as a share of the curve.
 constexpr double besideCusp = 1e-3;
 
@@ -54,20 +54,19 @@ void PathMeasure::addLine(int element)
 {
     const QPointF from = m_path.elementAt(element - 1);
     const QPointF to = m_path.elementAt(element);
-    const double begin = length();
-    m_pieces.append({element, 0, 1, begin, begin + norm(to - from)});
+    m_pieces.append({element, 0, 1, length() + norm(to - from)});
     m_vertices.append(length());
 }
 
 void PathMeasure::addCurve(int element)
 {
-    for (int i = 0; i < piecesPerCurve; ++i) {
+    for (qint16 i = 0; i < piecesPerCurve; ++i) {
         const double step = 1.0 / piecesPerCurve;
-        Piece piece{element, i * step, (i + 1) * step, length(), 0};
+        Piece piece{element, i, piecesPerCurve, length()};
         double sum = 0;
         for (const GaussPoint &gauss : gaussPoints)
-            sum += gauss.weight * norm(derivative(piece, piece.from + gauss.place * step));
-        piece.end = piece.begin + sum * step;
+            sum += gauss.weight * norm(derivative(piece, piece.from() + gauss.place * step));
+        piece.end += sum * step;
         m_pieces.append(piece);
     }
     m_vertices.append(length());
@@ -106,6 +105,11 @@ double PathMeasure::angleAt(const Piece &piece, double t) const
     return qRadiansToDegrees(std::atan2(direction.y(), direction.x()));
 }
 
+double PathMeasure::beginOf(QVector<Piece>::const_iterator piece) const
+{
+    return piece == m_pieces.begin() ? 0 : (piece - 1)->end;
+}
+
 PathMeasure::Place PathMeasure::at(double distance) const
 {
     if (m_pieces.isEmpty())
@@ -114,11 +118,12 @@ PathMeasure::Place PathMeasure::at(double distance) const
     auto found = std::lower_bound(m_pieces.begin(), m_pieces.end(), held,
                                   [](const Piece &piece, double value) { return piece.end < value; });
     // Pieces without length have no direction.
-    while (found != m_pieces.end() - 1 && found->end <= found->begin)
+    while (found != m_pieces.end() - 1 && found->end <= beginOf(found))
         ++found;
-    const double extent = found->end - found->begin;
-    const double share = extent > 0 ? qBound(0.0, (held - found->begin) / extent, 1.0) : 0;
-    const double t = found->from + (found->to - found->from) * share;
+    const double begin = beginOf(found);
+    const double extent = found->end - begin;
+    const double share = extent > 0 ? qBound(0.0, (held - begin) / extent, 1.0) : 0;
+    const double t = found->from() + (found->to() - found->from()) * share;
     return {point(*found, t), angleAt(*found, t)};
 }
 

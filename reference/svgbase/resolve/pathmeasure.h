@@ -30,14 +30,19 @@ private:
     struct Piece
     {
         int element;
-        double from;
-        double to;
-        double begin;
+        /// Which one of its element's parts, and of how many.
+        qint16 part;
+        qint16 parts;
+        /// Distance of its end; it begins where the one before it ends.
         double end;
+
+        double from() const { return double(part) / parts; }
+        double to() const { return double(part + 1) / parts; }
     };
 
     void addLine(int element);
     void addCurve(int element);
+    double beginOf(QVector<Piece>::const_iterator piece) const;
     QPointF point(const Piece &piece, double t) const;
     QPointF derivative(const Piece &piece, double t) const;
     double angleAt(const Piece &piece, double t) const;

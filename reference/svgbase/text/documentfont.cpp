@@ -4,6 +4,7 @@
 #include "grammar/pathdata.h"
 #include "inputlimits.h"
 #include "resolve/fonts.h"
+#include "style/cascade.h"
 #include "text/glyphshapes.h"
 
 namespace Svg {
@@ -73,24 +74,29 @@ QStringList keysOfRange(const QString &range)
     return keys;
 }
 
-// What one side of a pair lists: characters, or names of glyphs.
-QStringList sideOf(const QString &characters, const QString &names)
+// What one side of a pair lists: characters, or names of glyphs; not much more than `most` of them.
+QStringList sideOf(const QString &characters, const QString &names, int most)
 {
     QStringList keys;
     for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (keys.size() > most)
+            return keys;
         if (isCodeRange(part))
             keys += keysOfRange(part.trimmed());
         else
             keys.append(characterKey + (part.size() > 1 ? part.trimmed() : part));
     }
-    for (const QString &part : names.split(QLatin1Char(','), Qt::SkipEmptyParts))
+    for (const QString &part : names.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (keys.size() > most)
+            return keys;
         keys.append(nameKey + part.trimmed());
+    }
     return keys;
 }
 
 bool speaks(QStringView language, const QString &tag)
 {
-    if (!language.startsWith(tag, Qt::CaseInsensitive))
+    if (!language.startsWith(tag))
         return false;
     return language.size() == tag.size() || language.at(tag.size()) == QLatin1Char('-');
 }
@@ -99,7 +105,7 @@ QStringList tagsOf(const QString &list)
 {
     QStringList tags = list.split(QLatin1Char(','), Qt::SkipEmptyParts).mid(0, Limits::glyphLanguages);
     for (QString &tag : tags)
-        tag = tag.trimmed();
+        tag = tag.trimmed().toLower();
     return tags;
 }
 
@@ -131,7 +137,7 @@ const Node *faceOf(const Tree &tree, const Node &font)
 
 } // namespace
 
-DocumentFont::DocumentFont(const Tree &tree, NodeIndex index)
+DocumentFont::DocumentFont(const Tree &tree, NodeIndex index, int *kerningPairsLeft)
 {
     const Node &font = tree.node(index);
     m_advance = numberOf(font, "horiz-adv-x", 0);
@@ -145,16 +151,17 @@ DocumentFont::DocumentFont(const Tree &tree, NodeIndex index)
     for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
         const ElementKind kind = tree.node(at).kind;
         if (kind == ElementKind::HorizontalKerning)
-            readKerning(tree.node(at), &m_horizontalKerning);
+            readKerning(tree.node(at), &m_horizontalKerning, kerningPairsLeft);
         else if (kind == ElementKind::VerticalKerning)
-            readKerning(tree.node(at), &m_verticalKerning);
+            readKerning(tree.node(at), &m_verticalKerning, kerningPairsLeft);
     }
+    const ComputedStyle style = styleInTree(tree, index);
     for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
         const ElementKind kind = tree.node(at).kind;
         if (kind == ElementKind::Glyph)
-            addGlyph(readGlyph(tree, at));
+            addGlyph(readGlyph(tree, at, style));
         else if (kind == ElementKind::MissingGlyph && m_missing.node == noNode)
-            m_missing = readGlyph(tree, at);
+            m_missing = readGlyph(tree, at, style);
     }
 }
 
@@ -194,7 +201,7 @@ FontMeasures DocumentFont::measures(double size) const
     return scaled;
 }
 
-FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index) const
+FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index, const ComputedStyle &style) const
 {
     const Node &node = tree.node(index);
     FontGlyph glyph;
@@ -205,7 +212,7 @@ FontGlyph DocumentFont::readGlyph(const Tree &tree, NodeIndex index) const
     glyph.form = formNamed(textOf(node, "arabic-form"));
     glyph.data = node.attributes.value(AttributeId::D);
     if (glyph.data.isEmpty() && node.firstChild != noNode)
-        glyph.shapes = glyphShapes(tree, index);
+        glyph.shapes = glyphShapes(tree, index, style);
     const QString orientation = textOf(node, "orientation");
     glyph.onHorizontal = orientation != QLatin1String("v");
     glyph.onVertical = orientation != QLatin1String("h");
@@ -282,21 +289,26 @@ const FontGlyph *DocumentFont::glyphOf(NodeIndex node) const
     return found == m_glyphs.end() ? nullptr : found;
 }
 
-// Of several elements for a pair the first counts (SVG 1.1 §20.7).
-void DocumentFont::readKerning(const Node &node, KerningTable *table)
+// Of several elements for a pair the first counts (SVG 1.1 §20.7). Looking for one that is known takes as long as a
+// new one does, and so do characters that are paired with nothing.
+void DocumentFont::readKerning(const Node &node, KerningTable *table, int *pairsLeft)
 {
     const double value = numberOf(node, "k", 0);
-    const QVector<int> firsts = keysOf(sideOf(textOf(node, "u1"), textOf(node, "g1")));
-    const QVector<int> seconds = keysOf(sideOf(textOf(node, "u2"), textOf(node, "g2")));
+    const QVector<int> firsts = keysOf(sideOf(textOf(node, "u1"), textOf(node, "g1"), *pairsLeft));
+    if (firsts.isEmpty())
+        return;
+    const QVector<int> seconds = keysOf(sideOf(textOf(node, "u2"), textOf(node, "g2"), *pairsLeft));
+    if (seconds.isEmpty())
+        *pairsLeft = qMax(0, *pairsLeft - firsts.size());
     for (const int first : firsts) {
         for (const int second : seconds) {
-            if (table->contains({first, second}))
-                continue;
-            if (table->size() >= Limits::kerningPairs) {
+            if (*pairsLeft == 0) {
                 m_leavesOut = true;
                 return;
             }
-            table->insert({first, second}, {table->size(), value});
+            --*pairsLeft;
+            if (!table->contains({first, second}))
+                table->insert({first, second}, {table->size(), value});
         }
     }
 }
@@ -315,7 +327,8 @@ QVector<int> DocumentFont::keysOf(const QStringList &names)
 QVector<int> DocumentFont::knownKeys(const FontGlyph &glyph, const QString &names) const
 {
     QVector<int> keys;
-    for (const QString &name : QStringList(characterKey + glyph.characters) + sideOf(QString(), names)) {
+    for (const QString &name :
+         QStringList(characterKey + glyph.characters) + sideOf(QString(), names, Limits::glyphNames)) {
         const auto known = m_keys.constFind(name);
         if (known != m_keys.constEnd() && keys.size() < Limits::glyphNames)
             keys.append(*known);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "style/computedstyle.h"
 #include "text/filefont.h"
 #include "text/fontmeasures.h"
 #include "tree/tree.h"
@@ -18,7 +19,7 @@ struct FontGlyph
     NodeIndex node = noNode;
     /// What it stands for; empty for a glyph that only its name reaches.
     QString characters;
-    /// Language tags that it is for; empty for one that is for all.
+    /// Language tags that it is for, in small letters; empty for one that is for all.
     QStringList languages;
     /// What pairs of kerning know it by.
     QVector<int> kerningKeys;
@@ -41,7 +42,7 @@ struct GlyphPlace
     QStringView text;
     ArabicForm form = ArabicForm::Isolated;
     bool vertical = false;
-    /// Of the text; empty where it is not said.
+    /// Of the text, in small letters; empty where it is not said.
     QString language;
     /// Whether a glyph may stand for several characters.
     bool ligatures = true;
@@ -51,7 +52,8 @@ struct GlyphPlace
 class DocumentFont
 {
 public:
-    DocumentFont(const Tree &tree, NodeIndex font);
+    /// Takes the pairs that it kerns, repeated ones included, from those that are left to the document.
+    DocumentFont(const Tree &tree, NodeIndex font, int *kerningPairsLeft);
     explicit DocumentFont(const std::shared_ptr<FileFont> &file);
 
     double unitsPerEm() const { return m_unitsPerEm; }
@@ -85,9 +87,9 @@ private:
     using KerningTable = QHash<QPair<int, int>, Kerning>;
 
     void readFace(const Node &face);
-    FontGlyph readGlyph(const Tree &tree, NodeIndex node) const;
+    FontGlyph readGlyph(const Tree &tree, NodeIndex node, const ComputedStyle &style) const;
     void addGlyph(const FontGlyph &glyph);
-    void readKerning(const Node &node, KerningTable *table);
+    void readKerning(const Node &node, KerningTable *table, int *pairsLeft);
     QVector<int> keysOf(const QStringList &names);
     QVector<int> knownKeys(const FontGlyph &glyph, const QString &names) const;
     const FontGlyph *findInFile(QStringView text) const;

@@ -104,6 +104,7 @@ void DocumentFonts::setRevision(quint32 revision)
     m_read = false;
     m_faces.clear();
     m_loadsLeft = Limits::fonts;
+    m_kerningPairsLeft = Limits::kerningPairs;
     m_fonts.clear();
 }
 
@@ -220,7 +221,7 @@ DocumentFontPointer DocumentFonts::font(const Tree &tree, NodeIndex index)
 {
     DocumentFontPointer &known = m_fonts[index];
     if (!known)
-        known = std::make_shared<DocumentFont>(tree, index);
+        known = std::make_shared<DocumentFont>(tree, index, &m_kerningPairsLeft);
     return known;
 }
 

@@ -64,6 +64,7 @@ private:
     bool m_read = false;
     /// Files that may still be tried.
     int m_loadsLeft = Limits::fonts;
+    int m_kerningPairsLeft = Limits::kerningPairs;
     QVector<Face> m_faces;
     /// By their elements; those of style sheets by numbers below `noNode`.
     QHash<NodeIndex, DocumentFontPointer> m_fonts;

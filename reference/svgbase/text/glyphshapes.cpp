@@ -8,28 +8,41 @@ namespace Svg {
 
 namespace {
 
-QTransform toGlyph(const Tree &tree, NodeIndex shape, NodeIndex glyph)
+/// An element inside of a glyph.
+struct GlyphPart
 {
-    QTransform transform;
-    for (NodeIndex at = shape; at != glyph && at != noNode; at = tree.node(at).parent)
-        transform *= parseTransform(tree.node(at).attributes.value(AttributeId::Transform)).value_or(QTransform());
-    return transform;
+    NodeIndex element;
+    ComputedStyle style;
+    QTransform toGlyph;
+};
+
+// Behind its parent, which makes place for it; each is worked out once, however deep it stands.
+void enter(const Tree &tree, NodeIndex element, QVector<GlyphPart> *open)
+{
+    const Node &node = tree.node(element);
+    while (open->constLast().element != node.parent)
+        open->removeLast();
+    const GlyphPart above = open->constLast();
+    const QTransform own = parseTransform(node.attributes.value(AttributeId::Transform)).value_or(QTransform());
+    open->append({element, cascade(tree, element, {above.style, QSizeF()}), own * above.toGlyph});
 }
 
 } // namespace
 
-QPainterPath glyphShapes(const Tree &tree, NodeIndex glyph)
+QPainterPath glyphShapes(const Tree &tree, NodeIndex glyph, const ComputedStyle &font)
 {
     QPainterPath whole;
+    QVector<GlyphPart> open{{glyph, cascade(tree, glyph, {font, QSizeF()}), QTransform()}};
     int left = Limits::glyphShapes;
     for (NodeIndex at = tree.following(glyph, glyph); at != noNode && left > 0; at = tree.following(at, glyph)) {
+        enter(tree, at, &open);
         if (!hasGeometry(tree.node(at).kind))
             continue;
         --left;
-        const ComputedStyle style = styleInTree(tree, at);
-        const Geometry geometry = shapeGeometry(tree.node(at), style, QSizeF());
-        if (geometry.valid && style.displayed && style.fill.kind != Paint::None)
-            whole.addPath(toGlyph(tree, at, glyph).map(geometry.path));
+        const GlyphPart &shape = open.constLast();
+        const Geometry geometry = shapeGeometry(tree.node(at), shape.style, QSizeF());
+        if (geometry.valid && shape.style.displayed && shape.style.fill.kind != Paint::None)
+            whole.addPath(shape.toGlyph.map(geometry.path));
     }
     return whole;
 }

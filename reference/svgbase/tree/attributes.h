@@ -179,6 +179,7 @@ public:
     /// Appends without looking for an attribute of that name.
     void append(const Attribute &attribute) { m_list.append(attribute); }
     void reserve(int count) { m_list.reserve(count); }
+    int count() const { return m_list.size(); }
 
     QVector<Attribute>::const_iterator begin() const { return m_list.constBegin(); }
     QVector<Attribute>::const_iterator end() const { return m_list.constEnd(); }

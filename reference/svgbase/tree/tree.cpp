@@ -17,7 +17,11 @@ bool hasLocalName(const Node &node, const QString &name)
 {
     if (node.name.isEmpty())
         return name == elementName(node.kind);
-    return QStringView(node.name).mid(node.name.indexOf(QLatin1Char(':')) + 1) == name;
+    // Most names differ at their ends; looking for a prefix takes the longer the longer they are.
+    if (!node.name.endsWith(name))
+        return false;
+    const int prefix = node.name.size() - name.size();
+    return prefix == 0 ? !name.contains(QLatin1Char(':')) : node.name.indexOf(QLatin1Char(':')) == prefix - 1;
 }
 
 NodeIndex Tree::place(const NodePointer &node)

@@ -60,6 +60,15 @@ bool isCrowded(const XmlElement &element)
                        [](const XmlAttribute &attribute) { return attribute.qualifiedName == crowdedMark; });
 }
 
+// What a document type gives every element may be much more than the text has.
+qint64 attributeCharacters(const XmlElement &element)
+{
+    qint64 characters = 0;
+    for (const XmlAttribute &attribute : element.attributes)
+        characters += attribute.qualifiedName.size() + attribute.value.size() + Limits::charactersOfAttribute;
+    return characters;
+}
+
 } // namespace
 
 bool TreeBuilder::isInText() const
@@ -115,6 +124,10 @@ bool TreeBuilder::isLeftOut(const XmlElement &element, XmlPlace place)
     if (isCrowded(element))
         problem = {Message::TooManyAttributes,
                    QStringLiteral("An element with more than %1 attributes is left out.").arg(Limits::attributes)};
+    else if (attributeCharacters(element) > m_attributeCharactersLeft)
+        problem = {Message::TooManyAttributes,
+                   QStringLiteral("Elements whose attributes have more than %1 characters together are left out.")
+                       .arg(Limits::attributeCharacters)};
     else if (m_open.size() >= Limits::depth)
         problem = {Message::NestedTooDeep,
                    QStringLiteral("What is nested deeper than %1 elements is left out.").arg(Limits::depth)};
@@ -168,6 +181,9 @@ void TreeBuilder::startOpen(const XmlElement &element, XmlPlace place)
     }
     if (element.qualifiedName != elementName(node.kind))
         node.name = element.qualifiedName.toString();
+    if (node.kind == ElementKind::Text)
+        m_charactersLeft = qMax(0, m_charactersLeft - Limits::charactersOfText);
+    m_attributeCharactersLeft -= attributeCharacters(element);
     takeAttributes(element, &node.attributes);
     takeDeclarations(element, &node.attributes);
     m_open.append(add(node, place));

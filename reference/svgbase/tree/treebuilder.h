@@ -52,6 +52,7 @@ private:
     int m_stops = 0;
     bool m_withoutNamespace = false;
     int m_charactersLeft = Limits::textCharacters;
+    qint64 m_attributeCharactersLeft = Limits::attributeCharacters;
 };
 
 } // namespace Svg
