@@ -93,6 +93,28 @@ char closing(QChar open)
     }
 }
 
+/// Passes over the strings of a text. Where one does not end, no later one in the same quotes does, so that the
+/// rest is looked through but once.
+class StringPassing
+{
+public:
+    bool pass(CssCursor *cursor)
+    {
+        bool *isOpen = cursor->peek() == QLatin1Char('"')    ? &m_isDoubleOpen
+                       : cursor->peek() == QLatin1Char('\'') ? &m_isSingleOpen
+                                                             : nullptr;
+        if (!isOpen || *isOpen)
+            return false;
+        QString ignored;
+        *isOpen = !cursor->takeString(&ignored);
+        return !*isOpen;
+    }
+
+private:
+    bool m_isDoubleOpen = false;
+    bool m_isSingleOpen = false;
+};
+
 bool isOneOf(QChar c, const char *characters)
 {
     return c.unicode() != 0 && c.unicode() < 0x80 && strchr(characters, char(c.unicode()));
@@ -173,7 +195,7 @@ bool CssCursor::takeString(QString *value)
 void CssCursor::skipTo(const char *stops)
 {
     QVarLengthArray<char, 32> open;
-    QString ignored;
+    StringPassing strings;
     while (!atEnd()) {
         if (isComment(*this)) {
             skipComment(this);
@@ -187,7 +209,7 @@ void CssCursor::skipTo(const char *stops)
             ++at;
         } else if (isEscape(*this)) {
             at += 2;
-        } else if (!takeString(&ignored)) {
+        } else if (!strings.pass(this)) {
             ++at;
         }
     }
@@ -211,14 +233,14 @@ QString withoutComments(QStringView text)
 {
     QString result;
     CssCursor cursor(text);
+    StringPassing strings;
     while (!cursor.atEnd()) {
         const QChar *begin = cursor.at;
-        QString ignored;
         if (isComment(cursor)) {
             skipComment(&cursor);
             continue;
         }
-        if (!cursor.takeString(&ignored))
+        if (!strings.pass(&cursor))
             ++cursor.at;
         result.append(begin, int(cursor.at - begin));
     }

@@ -101,10 +101,26 @@ bool is(const QString &name, const char *known)
     return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
 }
 
+// That of a list is the one of its most specific selector (Selectors 4 §17).
+int highestOf(const QVector<Selector> &selectors)
+{
+    int most = 0;
+    for (const Selector &selector : selectors)
+        most = qMax(most, selector.specificity);
+    return most;
+}
+
+/// The selectors of the rule around; null outside of rules.
+struct Around
+{
+    const QVector<Selector> *selectors = nullptr;
+    int specificity = 0;
+};
+
 class SelectorParser
 {
 public:
-    SelectorParser(QStringView text, int nesting, const QVector<Selector> *around)
+    SelectorParser(QStringView text, int nesting, const Around &around)
         : m_cursor(text)
         , m_nesting(nesting)
         , m_around(around)
@@ -138,12 +154,12 @@ private:
     bool parseCount(PseudoClass::Kind kind, QStringView argument, Compound *compound);
     bool parseSelectorFunction(const QString &name, QStringView argument, Compound *compound);
     bool parseLanguages(QStringView argument, Compound *compound);
-    void addSpecificity(const QVector<Selector> &selectors);
+    void addSpecificity(int specificity);
     bool takeCombinator(Combinator *combinator);
 
     CssCursor m_cursor;
     int m_nesting;
-    const QVector<Selector> *m_around;
+    Around m_around;
     bool m_namesAround = false;
     int m_ids = 0;
     int m_classes = 0;
@@ -256,7 +272,7 @@ bool SelectorParser::parseCount(PseudoClass::Kind kind, QStringView argument, Co
         if (!counted)
             return false;
         pseudo.selectors = *counted;
-        addSpecificity(*counted);
+        addSpecificity(highestOf(*counted));
     }
     compound->pseudoClasses.append(pseudo);
     return parseSteps(steps, &compound->pseudoClasses.last());
@@ -295,19 +311,15 @@ bool SelectorParser::parseSelectorFunction(const QString &name, QStringView argu
     m_namesAround = m_namesAround || inner.m_namesAround;
     compound->pseudoClasses.append(pseudo);
     if (!is(name, "where"))
-        addSpecificity(pseudo.selectors);
+        addSpecificity(highestOf(pseudo.selectors));
     return true;
 }
 
-// That of the most specific one of a list (Selectors 4 §17).
-void SelectorParser::addSpecificity(const QVector<Selector> &selectors)
+void SelectorParser::addSpecificity(int specificity)
 {
-    int most = 0;
-    for (const Selector &selector : selectors)
-        most = qMax(most, selector.specificity);
-    m_ids += most >> 16;
-    m_classes += (most >> 8) & 0xff;
-    m_tags += most & 0xff;
+    m_ids += specificity >> 16;
+    m_classes += (specificity >> 8) & 0xff;
+    m_tags += specificity & 0xff;
 }
 
 bool SelectorParser::parseLanguages(QStringView argument, Compound *compound)
@@ -369,10 +381,10 @@ bool SelectorParser::parsePseudoClass(Compound *compound)
 PseudoClass SelectorParser::whatIsAround()
 {
     PseudoClass pseudo;
-    pseudo.kind = m_around ? PseudoClass::Is : PseudoClass::Root;
-    if (m_around) {
-        pseudo.selectors = *m_around;
-        addSpecificity(*m_around);
+    pseudo.kind = m_around.selectors ? PseudoClass::Is : PseudoClass::Root;
+    if (m_around.selectors) {
+        pseudo.selectors = *m_around.selectors;
+        addSpecificity(m_around.specificity);
     }
     m_namesAround = true;
     return pseudo;
@@ -480,7 +492,7 @@ bool SelectorParser::parseSelector(Selector *selector)
     m_namesAround = false;
     m_cursor.skipSpace();
     const CssCursor begin = m_cursor;
-    const bool nested = m_around && m_nesting == 0;
+    const bool nested = m_around.selectors && m_nesting == 0;
     if (!(nested && leads()) && !parseChain(selector, Combinator::Descendant))
         return false;
     if (nested && !m_namesAround) {
@@ -545,7 +557,7 @@ QVector<Selector> SelectorParser::parseForgivingList()
 
 std::optional<QVector<Selector>> parseSelectors(QStringView text, const QVector<Selector> *around)
 {
-    return SelectorParser(text, 0, around).parseList();
+    return SelectorParser(text, 0, {around, around ? highestOf(*around) : 0}).parseList();
 }
 
 } // namespace Svg

@@ -5,8 +5,6 @@
 #include "grammar/mediaqueries.h"
 #include "inputlimits.h"
 
-#include <QtCore/QRegularExpression>
-
 namespace Svg {
 
 namespace {
@@ -21,12 +19,13 @@ QString quoted(QStringView text)
 
 bool takeImportance(QString *value)
 {
-    static const QRegularExpression pattern(QStringLiteral("\\s*!\\s*important\\s*$"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = pattern.match(*value);
-    if (!match.hasMatch())
+    const QLatin1String keyword("important");
+    if (!value->endsWith(keyword, Qt::CaseInsensitive))
         return false;
-    value->truncate(match.capturedStart());
+    const QStringView before = QStringView(*value).chopped(keyword.size()).trimmed();
+    if (!before.endsWith(QLatin1Char('!')))
+        return false;
+    *value = before.chopped(1).trimmed().toString();
     return true;
 }
 

@@ -160,6 +160,9 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
     if (notes.propertiesLeftOut)
         warn(node, {Message::TooManyStyleRules,
                     QStringLiteral("The element declares too many custom properties; the rest is left out.")});
+    if (notes.substitutesLeftOut)
+        warn(node, {Message::TooManyStyleRules,
+                    QStringLiteral("Values of the element get too long by \"var()\"; the rest counts as unset.")});
     if (notes.linesLeftOut)
         warn(node, {Message::EffectsTooDeep,
                     QStringLiteral("Lines that groups of texts ask for are drawn for %1 groups inside each other.")

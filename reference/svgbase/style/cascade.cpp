@@ -4,6 +4,7 @@
 #include "grammar/styleattribute.h"
 #include "inputlimits.h"
 #include "style/rules.h"
+#include "style/settlingorder.h"
 #include "style/shorthands.h"
 #include "style/textproperties.h"
 
@@ -66,7 +67,7 @@ public:
 
 private:
     /// False once the element may have no more of them.
-    bool takeCustomProperty();
+    bool takeCustomProperty(QStringView declaration);
     void addMatches(bool important);
     void turnLayers();
     void addStyle(const QString &text, bool important);
@@ -90,9 +91,9 @@ int mostCustomProperties(const Tree &tree, NodeIndex element)
                                : qMax(Limits::leastCustomProperties, Limits::customProperties / tree.size());
 }
 
-bool DeclarationList::takeCustomProperty()
+bool DeclarationList::takeCustomProperty(QStringView declaration)
 {
-    m_customLeft = qMax(m_customLeft - 1, -1);
+    m_customLeft = qMax(m_customLeft - 1 - int(declaration.size()) / Limits::customPropertyCharacters, -1);
     return m_customLeft >= 0;
 }
 
@@ -113,14 +114,14 @@ void DeclarationList::addMatches(bool important)
     if (important)
         turnLayers();
     for (const RuleBlock *block : qAsConst(m_matches)) {
-        m_stepsLeft -= block->declarations.size();
+        m_stepsLeft -= important ? 0 : block->steps;
         if (m_stepsLeft < 0)
             break;
         for (int i = block->declarations.size() - 1; i >= 0; --i) {
             const RuleDeclaration &declaration = block->declarations.at(i);
             if (declaration.important != important || known.test(size_t(declaration.property)))
                 continue;
-            if (declaration.property == AttributeId::CustomProperty && !takeCustomProperty())
+            if (declaration.property == AttributeId::CustomProperty && !takeCustomProperty(declaration.value))
                 continue;
             known.set(size_t(declaration.property), declaration.property != AttributeId::CustomProperty);
             m_list.append({declaration.property, declaration.value, false});
@@ -161,9 +162,10 @@ void DeclarationList::addStyle(const QString &text, bool important)
         if (isProperty(id) || isStyledAttribute(id)) {
             m_list.append({id, declaration.value});
         } else if (isCustomProperty(declaration.name)) {
-            if (!takeCustomProperty())
+            const QString text = declaration.name.toString() + QLatin1Char(':') + declaration.value.toString();
+            if (!takeCustomProperty(text))
                 continue;
-            m_texts.append(declaration.name.toString() + QLatin1Char(':') + declaration.value.toString());
+            m_texts.append(text);
             m_list.append({AttributeId::CustomProperty, m_texts.constLast()});
         } else {
             addShorthand(declaration);
@@ -248,13 +250,22 @@ void declare(const Declaration &declaration, ComputedStyle *style)
     style->custom.insert(declaration.value.left(colon).toString(), value.toString());
 }
 
-// What refers to nothing counts as "unset" (CSS Custom Properties 1 §3.1).
-bool applyDeclaration(const Declaration &declaration, const PropertyContext &context, ComputedStyle *style)
+// What refers to nothing counts as "unset" (CSS Custom Properties 1 §3.1), and so does what gets too long.
+QString substituted(QStringView value, const CustomProperties &properties, int *charactersLeft)
+{
+    const QString unset = QStringLiteral("unset");
+    const QString text = *charactersLeft < 0 ? unset : withVariables(value, properties).value_or(unset);
+    *charactersLeft = qMax(*charactersLeft - text.size(), -1);
+    return *charactersLeft < 0 ? unset : text;
+}
+
+bool applyDeclaration(const Declaration &declaration, const PropertyContext &context, int *charactersLeft,
+                      ComputedStyle *style)
 {
     Declaration used = declaration;
     QString text;
     if (hasVariables(declaration.value)) {
-        text = withVariables(declaration.value, style->custom).value_or(QStringLiteral("unset"));
+        text = substituted(declaration.value, style->custom, charactersLeft);
         used.value = text;
     }
     if (!isStyledAttribute(declaration.property))
@@ -264,7 +275,7 @@ bool applyDeclaration(const Declaration &declaration, const PropertyContext &con
     return true;
 }
 
-void declareAll(const DeclarationList &declarations, ComputedStyle *style)
+void declareAll(const DeclarationList &declarations, int *charactersLeft, ComputedStyle *style)
 {
     bool declares = false;
     for (const Declaration &declaration : declarations.list()) {
@@ -274,7 +285,7 @@ void declareAll(const DeclarationList &declarations, ComputedStyle *style)
         declares = true;
     }
     if (declares)
-        style->custom.settle();
+        style->custom.settle(charactersLeft);
 }
 
 /// The element that a style is worked out for.
@@ -290,12 +301,14 @@ ComputedStyle applied(const DeclarationList &declarations, const StyledElement &
                       const PropertyContext &context, CascadeNotes *notes)
 {
     ComputedStyle style = inheritedStyle(context.parent);
-    declareAll(declarations, &style);
+    int charactersLeft =
+        qMax(Limits::leastSubstitutedCharacters, Limits::substitutedCharacters / element.tree.size());
+    declareAll(declarations, &charactersLeft, &style);
     for (const bool first : {true, false}) {
         for (const Declaration &declaration : declarations.list()) {
             if (comesFirst(declaration.property) != first || declaration.property == AttributeId::CustomProperty)
                 continue;
-            if (!applyDeclaration(declaration, context, &style) && notes && declaration.own)
+            if (!applyDeclaration(declaration, context, &charactersLeft, &style) && notes && declaration.own)
                 notes->rejected.append({declaration.property, declaration.value.toString()});
         }
     }
@@ -303,6 +316,8 @@ ComputedStyle applied(const DeclarationList &declarations, const StyledElement &
     followColor(style.color, &style.stroke);
     if (asksForLines(style) && !element.isText() && !decorateTextBelow(style) && notes)
         notes->linesLeftOut = true;
+    if (charactersLeft < 0 && notes)
+        notes->substitutesLeftOut = true;
     return style;
 }
 
@@ -357,7 +372,7 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
         return style;
     style = StylePointer(new SharedStyle(applied(declarations, styled, {*parent, viewport}, notes)));
     // What is wrong is to be told of every element.
-    if (!notes || notes->rejected.isEmpty())
+    if (!notes || (notes->rejected.isEmpty() && !notes->substitutesLeftOut))
         cache->insert(origin, style);
     return style;
 }

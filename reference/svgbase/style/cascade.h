@@ -22,6 +22,8 @@ struct CascadeNotes
     bool rulesLeftOut = false;
     /// Whether it declares more custom properties than it may.
     bool propertiesLeftOut = false;
+    /// Whether what takes the places of "var()" in its values got too long.
+    bool substitutesLeftOut = false;
     /// Whether lines that it asks for would be one group too many around a text.
     bool linesLeftOut = false;
 };

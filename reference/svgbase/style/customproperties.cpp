@@ -1,18 +1,18 @@
 #include "style/customproperties.h"
 
+#include "style/settlingorder.h"
+
+#include <algorithm>
+
 namespace Svg {
 
 namespace {
 
-/// Deepest chain of references, and longest text that they may make.
-constexpr int deepestReference = 16;
+/// Deepest nesting of fallbacks, and longest text that references may make.
+constexpr int deepestFallback = 16;
 constexpr int longestValue = 4096;
-/// Most references that one value is made of.
-constexpr int mostReferences = 64;
 /// Deepest nesting of elements that declare any; deeper ones declare none.
 constexpr int deepestLevel = 32;
-
-const QLatin1String variableStart("var(");
 
 qsizetype closingBracket(QStringView text, qsizetype from)
 {
@@ -38,12 +38,14 @@ public:
 
 private:
     bool appendReference(QStringView arguments, QString *result);
+    static bool appendPlain(QStringView text, QString *result);
 
     const CustomProperties &m_properties;
     int m_depth = 0;
     int m_references = 0;
 };
 
+// What is declared is settled by now: it refers to nothing.
 bool Substitution::appendReference(QStringView arguments, QString *result)
 {
     if (++m_references > mostReferences)
@@ -53,18 +55,25 @@ bool Substitution::appendReference(QStringView arguments, QString *result)
     const QString *known = m_properties.find(name.trimmed().toString());
     if (!known)
         return comma >= 0 && append(arguments.mid(comma + 1).trimmed(), result);
-    return append(*known, result);
+    return appendPlain(*known, result);
+}
+
+bool Substitution::appendPlain(QStringView text, QString *result)
+{
+    if (result->size() + text.size() > longestValue)
+        return false;
+    *result += text;
+    return true;
 }
 
 bool Substitution::append(QStringView value, QString *result)
 {
-    if (++m_depth > deepestReference)
+    if (++m_depth > deepestFallback)
         return false;
     qsizetype from = 0;
     for (;;) {
         const qsizetype start = value.indexOf(variableStart, from, Qt::CaseInsensitive);
-        *result += value.mid(from, start < 0 ? -1 : start - from);
-        if (result->size() > longestValue)
+        if (!appendPlain(value.mid(from, start < 0 ? -1 : start - from), result))
             return false;
         if (start < 0)
             break;
@@ -104,23 +113,21 @@ void CustomProperties::insert(const QString &name, const QString &value)
     m_level->values.insert(name, value.isNull() ? QStringLiteral("") : value);
 }
 
-void CustomProperties::settle()
+void CustomProperties::settle(int *charactersLeft)
 {
     if (!m_level)
         return;
-    QHash<QString, QString> settled;
-    for (auto at = m_level->values.constBegin(); at != m_level->values.constEnd(); ++at) {
-        if (hasVariables(*at))
-            settled.insert(at.key(), withVariables(*at, *this).value_or(QString()));
+    QHash<QString, QString> &values = m_level->values;
+    if (std::none_of(values.constBegin(), values.constEnd(), hasVariables))
+        return;
+    const QVector<Settling> order = SettlingOrder(values).find();
+    for (const Settling &next : order) {
+        QString settled;
+        if (!next.isCircular && *charactersLeft >= 0)
+            settled = withVariables(values.value(next.name), *this).value_or(QString());
+        *charactersLeft = qMax(*charactersLeft - settled.size(), -1);
+        values[next.name] = *charactersLeft < 0 ? QString() : settled;
     }
-    for (auto at = settled.constBegin(); at != settled.constEnd(); ++at)
-        m_level->values[at.key()] = *at;
-}
-
-bool hasVariables(QStringView value)
-{
-    // Few values have brackets, and looking for one is quick.
-    return value.contains(QLatin1Char('(')) && value.contains(variableStart, Qt::CaseInsensitive);
 }
 
 std::optional<QString> withVariables(QStringView value, const CustomProperties &properties)

@@ -18,8 +18,8 @@ public:
     /// Declares a property in front of what was copied from the parent.
     void insert(const QString &name, const QString &value);
     /// Replaces what was declared by what its references stand for here, so that children inherit that (CSS Custom
-    /// Properties 1 §2.2). What refers to nothing is no value.
-    void settle();
+    /// Properties 1 §2.2). What refers to nothing is no value, nor is what takes more than the characters left.
+    void settle(int *charactersLeft);
 
 private:
     struct Level;
@@ -39,8 +39,6 @@ inline bool isCustomProperty(QStringView name)
     return name.startsWith(QLatin1String("--"));
 }
 
-/// Whether a value refers to custom properties.
-bool hasVariables(QStringView value);
 /// The value with every "var()" replaced by what it stands for, or by its fallback (CSS Custom Properties 1 §3).
 /// Nothing when one stands for nothing, refers back to itself, or when the result gets too long.
 std::optional<QString> withVariables(QStringView value, const CustomProperties &properties);

@@ -4,10 +4,12 @@
 #include "inputlimits.h"
 #include "style/properties.h"
 #include "style/selectormatching.h"
+#include "style/settlingorder.h"
 #include "style/shorthands.h"
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
 #include <optional>
 
 namespace Svg {
@@ -16,6 +18,8 @@ namespace {
 
 /// Most characters of a value that a message repeats.
 constexpr int longestQuote = 40;
+/// Characters of a value that take as long as a step of finding rules.
+constexpr int charactersPerStep = 2;
 
 bool isStyleSheet(const Node &node)
 {
@@ -26,16 +30,41 @@ bool isStyleSheet(const Node &node)
     return css && includesScreens(node.attributes.value(QStringLiteral("media")));
 }
 
-// Line and column of a character of a style sheet.
-void report(const Node &style, const StyleProblem &problem, Messages *messages)
+/// Lines and columns of characters of a style sheet; those behind the one before it are found from there on.
+class SheetPlaces
 {
-    const QString before = style.text.left(problem.offset);
-    const int lines = before.count(QLatin1Char('\n'));
-    const int lineStart = before.lastIndexOf(QLatin1Char('\n')) + 1;
-    const int column = before.size() - lineStart + (lines == 0 ? style.column : 1);
-    messages->warn(problem.tooMany ? Message::TooManyStyleRules : Message::InvalidStyleSheet, problem.text,
-                   style.line + lines, column, style.attributes.value(AttributeId::Id));
-}
+public:
+    explicit SheetPlaces(const Node &style)
+        : m_style(style)
+    {
+    }
+
+    void report(const StyleProblem &problem, Messages *messages)
+    {
+        goTo(problem.offset);
+        const int column = m_offset - m_lineStart + (m_lines == 0 ? m_style.column : 1);
+        messages->warn(problem.tooMany ? Message::TooManyStyleRules : Message::InvalidStyleSheet, problem.text,
+                       m_style.line + m_lines, column, m_style.attributes.value(AttributeId::Id));
+    }
+
+private:
+    void goTo(int offset)
+    {
+        if (offset < m_offset)
+            m_offset = m_lines = m_lineStart = 0;
+        for (; m_offset < offset; ++m_offset) {
+            if (m_style.text.at(m_offset) != QLatin1Char('\n'))
+                continue;
+            ++m_lines;
+            m_lineStart = m_offset + 1;
+        }
+    }
+
+    const Node &m_style;
+    int m_offset = 0;
+    int m_lines = 0;
+    int m_lineStart = 0;
+};
 
 // `complete` is set to false when there are more than are looked at.
 QVector<QString> classesOf(const Node &node, bool *complete)
@@ -68,6 +97,15 @@ QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
     }
     std::reverse(result.begin(), result.end());
     return result;
+}
+
+// A value is read again for every element.
+int stepsOf(const QVector<RuleDeclaration> &declarations)
+{
+    return std::accumulate(declarations.begin(), declarations.end(), 0,
+                           [](int sum, const RuleDeclaration &declaration) {
+                               return sum + 1 + declaration.value.size() / charactersPerStep;
+                           });
 }
 
 int lastOfAll(const QVector<SheetDeclaration> &declarations, bool important)
@@ -112,9 +150,12 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
             rules->add(rule, &sheet);
         for (const QVector<SheetDeclaration> &descriptors : qAsConst(sheet.fontFaces))
             rules->addFontFace(descriptors);
+        std::stable_sort(sheet.problems.begin(), sheet.problems.end(),
+                         [](const StyleProblem &a, const StyleProblem &b) { return a.offset < b.offset; });
+        SheetPlaces places(node);
         for (const StyleProblem &problem : qAsConst(sheet.problems)) {
             if (messages)
-                report(node, problem, messages);
+                places.report(problem, messages);
         }
     }
     rules->index(layers.ranks());
@@ -164,7 +205,8 @@ void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)
         m_full = true;
         return;
     }
-    m_blocks.append({withoutOverruled(block), rule.layer});
+    const QVector<RuleDeclaration> effective = withoutOverruled(block);
+    m_blocks.append({effective, rule.layer, stepsOf(effective)});
     for (const Selector &selector : rule.selectors)
         addEntry(selector);
 }
@@ -220,8 +262,11 @@ void StyleRules::noteAttributes(const Selector &selector)
                 m_attributes << QStringLiteral("href") << QStringLiteral("xlink:href");
             if (pseudo.kind == PseudoClass::Language)
                 m_attributes << QStringLiteral("lang") << QStringLiteral("xml:lang");
-            for (const Selector &inner : pseudo.selectors)
+            for (const Selector &inner : pseudo.selectors) {
+                if (m_anyNamespace)
+                    return;
                 noteAttributes(inner);
+            }
         }
     }
 }
@@ -242,21 +287,22 @@ bool StyleRules::match(const Tree &tree, NodeIndex element, QVector<const RuleBl
     const auto mayMatch = [&](const Entry &entry) {
         if (entry.above.isEmpty())
             return true;
-        if (!names)
+        if (!names) {
             names.emplace(tree, element);
+            matcher.countAncestors(names->elementCount());
+        }
+        matcher.countNames(entry.above.size());
         return names->mayHold(entry.above);
     };
     // The most specific first: what is left of the steps goes to the others.
     const auto tryAll = [&](const QVector<int> &places) {
-        const int before = found.size();
         for (int i = places.size() - 1; i >= 0 && !matcher.isExhausted(); --i) {
             const Entry &entry = m_entries.at(places.at(i));
             if (!mayMatch(entry))
                 matcher.countPassed();
-            else if (matcher.matches(element, entry.selector))
+            else if (matcher.matches(element, entry.selector) && !matcher.isExhausted())
                 found.append(places.at(i));
         }
-        std::inplace_merge(found.begin(), found.begin() + before, found.end(), std::greater<int>());
     };
     // The rarest first: what is left of the steps goes to the others.
     const QString id = node.attributes.value(AttributeId::Id);
@@ -268,6 +314,8 @@ bool StyleRules::match(const Tree &tree, NodeIndex element, QVector<const RuleBl
         tryAll(m_byClass.value(name));
     tryAll(m_byTag.value(localName(node)));
     tryAll(m_universal);
+    if (!std::is_sorted(found.begin(), found.end(), std::greater<int>()))
+        std::sort(found.begin(), found.end(), std::greater<int>());
     for (const int place : qAsConst(found))
         matches->append(&m_blocks.at(m_entries.at(place).block));
     return complete && !matcher.isExhausted();

@@ -23,6 +23,8 @@ struct RuleBlock
 {
     QVector<RuleDeclaration> declarations;
     int layer = 0;
+    /// What taking them for an element counts.
+    int steps = 0;
 };
 
 /// A font that a style sheet describes (CSS Fonts 3 §4), as far as it is read.

@@ -1,6 +1,7 @@
 #include "style/selectormatching.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace Svg {
 
@@ -20,7 +21,9 @@ bool isSpaceCharacter(QChar c)
 bool startsWithWord(const QString &value, const QString &word,
                     Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive)
 {
-    return value.compare(word, sensitivity) == 0 || value.startsWith(word + QLatin1Char('-'), sensitivity);
+    if (!value.startsWith(word, sensitivity))
+        return false;
+    return value.size() == word.size() || value.at(word.size()) == QLatin1Char('-');
 }
 
 bool includesWord(QStringView list, const QString &word, Qt::CaseSensitivity sensitivity)
@@ -28,6 +31,13 @@ bool includesWord(QStringView list, const QString &word, Qt::CaseSensitivity sen
     if (sensitivity == Qt::CaseSensitive)
         return containsWord(list, word);
     return containsWord(list.toString().toLower(), word.toLower());
+}
+
+bool contains(const QString &value, const QString &part, Qt::CaseSensitivity sensitivity)
+{
+    if (sensitivity == Qt::CaseSensitive)
+        return containsText(value, part);
+    return containsText(value.toLower(), part.toLower());
 }
 
 bool matchesValue(const QString &value, const AttributeTest &test)
@@ -47,30 +57,50 @@ bool matchesValue(const QString &value, const AttributeTest &test)
     case AttributeTest::Ends:
         return !test.value.isEmpty() && value.endsWith(test.value, sensitivity);
     case AttributeTest::Contains:
-        return !test.value.isEmpty() && value.contains(test.value, sensitivity);
+        return !test.value.isEmpty() && contains(value, test.value, sensitivity);
     }
     return false;
 }
 
-QString nameOf(const Attribute &attribute)
+// How many characters of a value its test may look at, those of the test included where it looks at all of them.
+qsizetype charactersOfTest(const QString &value, const AttributeTest &test)
 {
-    return attribute.id == AttributeId::Unknown ? attribute.name : QString(attributeName(attribute.id));
+    if (test.relation == AttributeTest::Exists)
+        return 0;
+    if (test.relation == AttributeTest::Includes || test.relation == AttributeTest::Contains)
+        return qsizetype(value.size()) + test.value.size();
+    return qMin(value.size(), test.value.size());
 }
 
-bool matchesAttribute(const Node &node, const AttributeTest &test)
+bool isNamed(const Attribute &attribute, AttributeId id, const QString &name)
 {
-    if (!test.anyNamespace)
-        return node.attributes.contains(test.name) && matchesValue(node.attributes.value(test.name), test);
-    return std::any_of(node.attributes.begin(), node.attributes.end(), [&](const Attribute &attribute) {
-        const QString name = nameOf(attribute);
-        return name.mid(name.indexOf(QLatin1Char(':')) + 1) == test.name && matchesValue(attribute.value, test);
-    });
+    return id == AttributeId::Unknown ? attribute.id == id && attribute.name == name : attribute.id == id;
+}
+
+bool isNamedLocally(const Attribute &attribute, AttributeId id, const QString &name)
+{
+    switch (attribute.id) {
+    case AttributeId::Unknown:
+        return QStringView(attribute.name).mid(attribute.name.indexOf(QLatin1Char(':')) + 1) == name;
+    case AttributeId::XlinkHref:
+        return id == AttributeId::Href;
+    case AttributeId::XmlSpace:
+        return name == QLatin1String("space");
+    default:
+        return attribute.id == id;
+    }
 }
 
 bool isLink(const Node &node)
 {
     return hasLocalName(node, QStringLiteral("a")) &&
            (node.attributes.contains(AttributeId::Href) || node.attributes.contains(AttributeId::XlinkHref));
+}
+
+int testCount(const Compound &compound)
+{
+    return compound.ids.size() + compound.classes.size() + compound.attributes.size() +
+           compound.pseudoClasses.size();
 }
 
 // Whether "a n + b" gives the position for some n of 0 or more.
@@ -83,8 +113,8 @@ bool isCounted(int position, const PseudoClass &pseudo)
 /// Tags, ids and classes of the same text are different names.
 enum NameSpace : uint { TagNames = 1, IdNames = 2, ClassNames = 3 };
 
-/// Longest ids and classes of all elements above that are looked at.
-constexpr int mostNameCharacters = 1024;
+/// Longest tags, ids and classes of all elements above that are looked at.
+constexpr int mostNameCharacters = 8192;
 
 uint tagHash(const QString &tag)
 {
@@ -103,17 +133,40 @@ uint classHash(QStringView name)
 
 } // namespace
 
+// Knuth, Morris and Pratt: as many steps as there are characters, whatever these are.
+bool containsText(QStringView text, QStringView part)
+{
+    if (part.isEmpty() || part.size() > text.size())
+        return part.isEmpty();
+    // Of the part's beginning up to each character: how much of its end is a beginning, too.
+    std::vector<int> borders(size_t(part.size()), 0);
+    for (int at = 1, border = 0; at < int(part.size()); ++at) {
+        while (border > 0 && part[at] != part[border])
+            border = borders[size_t(border) - 1];
+        border += part[at] == part[border] ? 1 : 0;
+        borders[size_t(at)] = border;
+    }
+    int matched = 0;
+    for (const QChar c : text) {
+        while (matched > 0 && c != part[matched])
+            matched = borders[size_t(matched) - 1];
+        matched += c == part[matched] ? 1 : 0;
+        if (matched == int(part.size()))
+            return true;
+    }
+    return false;
+}
+
 bool containsWord(QStringView list, QStringView word)
 {
     if (word.isEmpty() || std::any_of(word.begin(), word.end(), isSpaceCharacter))
         return false;
-    qsizetype from = 0;
-    while ((from = list.indexOf(word, from)) >= 0) {
-        const qsizetype end = from + word.size();
-        const bool startsThere = from == 0 || isSpaceCharacter(list[from - 1]);
-        if (startsThere && (end == list.size() || isSpaceCharacter(list[end])))
+    const QChar *at = list.begin();
+    while (at != list.end()) {
+        const QChar *end = std::find_if(at, list.end(), isSpaceCharacter);
+        if (QStringView(at, end) == word)
             return true;
-        from = end;
+        at = end == list.end() ? end : end + 1;
     }
     return false;
 }
@@ -136,7 +189,8 @@ void forEachWord(QStringView list, int most, const std::function<void(QStringVie
 AncestorNames::AncestorNames(const Tree &tree, NodeIndex element)
 {
     int charactersLeft = mostNameCharacters;
-    for (NodeIndex at = tree.node(element).parent; at != noNode; at = tree.node(at).parent)
+    for (NodeIndex at = tree.node(element).parent; at != noNode && charactersLeft >= 0;
+         at = tree.node(at).parent, ++m_elementCount)
         add(tree.node(at), &charactersLeft);
     if (charactersLeft < 0)
         m_bits.set();
@@ -149,15 +203,13 @@ void AncestorNames::add(uint hash)
 
 void AncestorNames::add(const Node &node, int *charactersLeft)
 {
-    if (node.name.isEmpty())
-        add(tagHash(elementName(node.kind)));
-    else
-        add(tagHash(localName(node)));
+    const QString tag = localName(node);
     const QStringView id = node.attributes.view(AttributeId::Id);
     const QStringView classes = node.attributes.view(AttributeId::Class);
-    *charactersLeft -= int(id.size() + classes.size());
+    *charactersLeft -= int(tag.size() + id.size() + classes.size());
     if (*charactersLeft < 0)
         return;
+    add(tagHash(tag));
     if (!id.isEmpty())
         add(idHash(id));
     forEachWord(classes, mostNameCharacters, [this](QStringView name) { add(classHash(name)); });
@@ -190,7 +242,7 @@ bool SelectorMatcher::hasSibling(NodeIndex element, bool after, bool ofType)
 {
     const QString name = ofType ? localName(m_tree.node(element)) : QString();
     NodeIndex at = after ? m_tree.node(element).next : m_tree.node(element).previous;
-    while (at != noNode && takeStep()) {
+    while (at != noNode && takeStep() && takeText(name.size())) {
         const Node &node = m_tree.node(at);
         if (isElement(node) && (!ofType || hasLocalName(node, name)))
             return true;
@@ -209,7 +261,7 @@ bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo,
     const QString name = ofType ? localName(m_tree.node(element)) : QString();
     int position = 1;
     NodeIndex at = fromEnd ? m_tree.node(element).next : m_tree.node(element).previous;
-    while (at != noNode && takeStep()) {
+    while (at != noNode && takeStep() && takeText(name.size())) {
         const Node &node = m_tree.node(at);
         const bool counts = isElement(node) && (!ofType || hasLocalName(node, name));
         if (counts && (!countsSome || matchesAny(at, pseudo.selectors)))
@@ -244,17 +296,26 @@ bool SelectorMatcher::matchesRelative(NodeIndex element, const Selector &selecto
     return found;
 }
 
+bool SelectorMatcher::speaks(const QString &own, const QStringList &languages)
+{
+    return std::any_of(languages.begin(), languages.end(), [&](const QString &language) {
+        if (!takeStep() || !takeText(qMin(own.size(), language.size())))
+            return false;
+        return language == QLatin1String("*") || startsWithWord(own, language);
+    });
+}
+
 // The nearest element that names its language decides.
 bool SelectorMatcher::matchesLanguage(NodeIndex element, const QStringList &languages)
 {
     for (NodeIndex at = element; at != noNode && takeStep(); at = m_tree.node(at).parent) {
         const Attributes &attributes = m_tree.node(at).attributes;
+        if (!takeLook(attributes))
+            return false;
         const QString plain = attributes.value(QStringLiteral("lang"));
         const QString own = plain.isEmpty() ? attributes.value(QStringLiteral("xml:lang")) : plain;
         if (!own.isEmpty())
-            return std::any_of(languages.begin(), languages.end(), [&](const QString &language) {
-                return language == QLatin1String("*") || startsWithWord(own, language);
-            });
+            return speaks(own, languages);
     }
     return false;
 }
@@ -269,7 +330,7 @@ bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &p
     case PseudoClass::Empty:
         return m_tree.node(element).firstChild == noNode && m_tree.node(element).text.isEmpty();
     case PseudoClass::Link:
-        return isLink(m_tree.node(element));
+        return takeLook(m_tree.node(element).attributes) && isLink(m_tree.node(element));
     case PseudoClass::NthChild:
         return matchesCount(element, pseudo, false, false);
     case PseudoClass::NthLastChild:
@@ -297,33 +358,42 @@ bool SelectorMatcher::matchesPseudoClass(NodeIndex element, const PseudoClass &p
     return false;
 }
 
-void SelectorMatcher::takeText(const AttributeTest &test, const Node &node)
+bool SelectorMatcher::takeSteps(qsizetype steps)
 {
-    if (!test.anyNamespace) {
-        takeText(node.attributes.value(test.name));
-        return;
+    if (steps > m_stepsLeft) {
+        m_stepsLeft = 0;
+        return false;
     }
-    for (const Attribute &attribute : node.attributes) {
-        m_stepsLeft -= stepsOfName;
-        takeText(attribute.value);
-    }
+    m_stepsLeft -= int(steps);
+    return true;
 }
 
-bool SelectorMatcher::matchesAttributes(const Node &node, const Compound &compound)
+bool SelectorMatcher::matchesAttribute(const Node &node, const AttributeTest &test)
 {
+    if (!takeLook(node.attributes))
+        return false;
+    const AttributeId id = attributeId(test.name);
+    for (const Attribute &attribute : node.attributes) {
+        if (attribute.id == AttributeId::Unknown && !takeText(qMin(attribute.name.size(), test.name.size())))
+            return false;
+        const bool isMeant =
+            test.anyNamespace ? isNamedLocally(attribute, id, test.name) : isNamed(attribute, id, test.name);
+        if (isMeant && takeText(charactersOfTest(attribute.value, test)) && matchesValue(attribute.value, test))
+            return true;
+    }
+    return false;
+}
+
+bool SelectorMatcher::matchesNames(const Node &node, const Compound &compound)
+{
+    const QStringView id = node.attributes.view(AttributeId::Id);
     for (const QString &wanted : compound.ids) {
-        if (node.attributes.view(AttributeId::Id) != wanted)
+        if (!takeText(qMin(id.size(), qsizetype(wanted.size()))) || id != wanted)
             return false;
     }
+    const QStringView classes = node.attributes.view(AttributeId::Class);
     for (const QString &wanted : compound.classes) {
-        const QStringView classes = node.attributes.view(AttributeId::Class);
-        takeText(classes);
-        if (!containsWord(classes, wanted))
-            return false;
-    }
-    for (const AttributeTest &test : compound.attributes) {
-        takeText(test, node);
-        if (!matchesAttribute(node, test))
+        if (!takeText(classes.size()) || !containsWord(classes, wanted))
             return false;
     }
     return true;
@@ -332,17 +402,16 @@ bool SelectorMatcher::matchesAttributes(const Node &node, const Compound &compou
 bool SelectorMatcher::matchesCompound(NodeIndex element, const Compound &compound)
 {
     const Node &node = m_tree.node(element);
-    if (!takeStep() || !isElement(node))
+    if (!takeStep() || !isElement(node) || !takeSteps(testCount(compound) / testsPerStep))
         return false;
-    if (!compound.tag.isEmpty() && !hasLocalName(node, compound.tag))
+    if (!compound.tag.isEmpty() && !(takeText(compound.tag.size()) && hasLocalName(node, compound.tag)))
         return false;
-    if (!matchesAttributes(node, compound))
+    if (!matchesNames(node, compound))
         return false;
-    for (const PseudoClass &pseudo : compound.pseudoClasses) {
-        if (!matchesPseudoClass(element, pseudo))
-            return false;
-    }
-    return true;
+    return std::all_of(compound.attributes.begin(), compound.attributes.end(),
+                       [&](const AttributeTest &test) { return matchesAttribute(node, test); }) &&
+           std::all_of(compound.pseudoClasses.begin(), compound.pseudoClasses.end(),
+                       [&](const PseudoClass &pseudo) { return matchesPseudoClass(element, pseudo); });
 }
 
 NodeIndex SelectorMatcher::step(NodeIndex element, Combinator combinator)

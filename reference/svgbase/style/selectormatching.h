@@ -14,12 +14,15 @@ class AncestorNames
 public:
     AncestorNames(const Tree &tree, NodeIndex element);
     bool mayHold(const QVector<uint> &names) const;
+    /// How many elements were looked at.
+    int elementCount() const { return m_elementCount; }
 
 private:
     void add(uint hash);
     void add(const Node &node, int *charactersLeft);
 
     std::bitset<1024> m_bits;
+    int m_elementCount = 0;
 };
 
 /// What a selector asks of the names of elements above, each as a number for `AncestorNames`.
@@ -36,29 +39,36 @@ public:
     }
 
     bool matches(NodeIndex element, const Selector &selector);
-    /// Counts a selector that was ruled out without a closer look.
+    /// Counts looking for names above the element, and a selector that these ruled out without a closer look.
+    void countAncestors(int elements) { takeSteps(elements); }
+    void countNames(int names) { takeSteps(names / testsPerStep); }
     void countPassed() { takeStep(); }
     bool isExhausted() const { return m_stepsLeft <= 0; }
 
 private:
     bool matchesFrom(NodeIndex element, const Selector &selector, int compound);
     bool matchesCompound(NodeIndex element, const Compound &compound);
-    bool matchesAttributes(const Node &node, const Compound &compound);
+    bool matchesNames(const Node &node, const Compound &compound);
+    bool matchesAttribute(const Node &node, const AttributeTest &test);
     bool matchesPseudoClass(NodeIndex element, const PseudoClass &pseudo);
     bool matchesAny(NodeIndex element, const QVector<Selector> &selectors);
     bool matchesRelative(NodeIndex element, const Selector &selector);
     bool matchesLanguage(NodeIndex element, const QStringList &languages);
+    bool speaks(const QString &own, const QStringList &languages);
     bool matchesCount(NodeIndex element, const PseudoClass &pseudo, bool fromEnd, bool ofType);
     bool hasSibling(NodeIndex element, bool after, bool ofType);
     NodeIndex step(NodeIndex element, Combinator combinator);
     bool takeStep() { return m_stepsLeft > 0 && m_stepsLeft-- > 0; }
+    /// False, with no steps left, where that takes more than there are.
+    bool takeSteps(qsizetype steps);
     /// Looking through a text takes the longer the longer it is.
-    void takeText(QStringView text) { m_stepsLeft -= int(text.size() / charactersPerStep); }
-    void takeText(const AttributeTest &test, const Node &node);
+    bool takeText(qsizetype characters) { return takeSteps(characters / charactersPerStep); }
+    /// Looking for an attribute takes the longer the more there are.
+    bool takeLook(const Attributes &attributes) { return takeSteps(attributes.count() / attributesPerStep); }
 
     static constexpr int charactersPerStep = 32;
-    /// What finding the name of an attribute costs.
-    static constexpr int stepsOfName = 8;
+    static constexpr int attributesPerStep = 4;
+    static constexpr int testsPerStep = 4;
 
     const Tree &m_tree;
     int m_stepsLeft;
@@ -68,6 +78,8 @@ private:
 
 /// Calls a function with the words of a list separated by white space, the first ones up to a number.
 void forEachWord(QStringView list, int most, const std::function<void(QStringView)> &use);
+/// Whether a text holds another one.
+bool containsText(QStringView text, QStringView part);
 /// Whether one of the words of a list separated by white space is `word`; never where that holds white space itself
 /// (Selectors 4 §6.1).
 bool containsWord(QStringView list, QStringView word);
