@@ -240,3 +240,213 @@ def blurs_beyond_edges(n):
         shapes += (f'<filter id="f{i}" x="0" y="0" width="1" height="1"><feGaussianBlur stdDeviation="{size}" '
                    f'edgeMode="{edges}"/></filter><rect width="100" height="100" filter="url(#f{i})"/>')
     return svg(shapes)
+
+
+@document
+def animations_of_values_used(n):
+    values = ";".join(str(i) for i in range(9999))
+    shape = f'<rect id="r" width="9" height="9"><animate attributeName="x" dur="9s" values="{values}"/></rect>'
+    return svg(shape + '<use href="#r"/>' * (20000 // n))
+
+
+@document
+def animation_key_splines(n):
+    count = 9000 // n
+    times = ";".join(f"{i / count:.6f}" for i in range(count)) + ";1"
+    splines = ";".join([".1 .9 .9 .1"] * count)
+    values = ";".join(["1"] * (count + 1))
+    return svg(f'<rect width="9" height="9"><animate attributeName="x" dur="9s" values="{values}" keyTimes="{times}" '
+               f'keySplines="{splines}" calcMode="spline"/></rect>' * 40)
+
+
+@document
+def animation_key_points(n):
+    count = 9000 // n
+    times = ";".join(f"{i / count:.6f}" for i in range(count)) + ";1"
+    points = ";".join(["1"] * (count + 1))
+    return svg(f'<rect width="9" height="9"><animateMotion dur="9s" path="M0 0h9v9" keyPoints="{points}" '
+               f'keyTimes="{times}" calcMode="linear"/></rect>' * 40)
+
+
+@document
+def animation_paced_paths(n):
+    path = "M0 0" + "l1 1-1 1" * 500
+    values = ";".join([path] * (100 // n or 1))
+    return svg(f'<path d="{path}"><animate attributeName="d" dur="9s" calcMode="paced" values="{values}"/></path>' * 20)
+
+
+@document
+def animations_of_lists(n):
+    numbers = " ".join(["1"] * 1000)
+    return svg(f'<polyline points="{numbers}" stroke="red"><animate attributeName="points" dur="9s" additive="sum" '
+               f'values="{numbers};{numbers}"/></polyline>' * (600 // n))
+
+
+@document
+def animations_of_transforms(n):
+    return svg('<g><animateTransform attributeName="transform" type="rotate" from="0" to="9" dur="9s" additive="sum"/>' *
+               400 + '<rect width="9" height="9"/>' * (20000 // n) + "</g>" * 400)
+
+
+@document
+def animations_of_styles(n):
+    many = ";".join(f"--a{i}:{i}" for i in range(900))
+    return svg(f'<g style="{many}"><animate attributeName="fill" values="red;blue" dur="9s"/>' +
+               '<rect width="9" height="9"><set attributeName="stroke" to="red"/></rect>' * (40000 // n) + "</g>")
+
+
+@document
+def animations_of_classes(n):
+    return svg("<style>.b rect{fill:red}.a ~ rect{fill:blue}</style>" +
+               '<g class="a"><set attributeName="class" to="b"/>' * 200 + '<rect width="9" height="9"/>' * (40000 // n) +
+               "</g>" * 200)
+
+
+@document
+def animation_chain(n):
+    return svg("".join(f'<rect width="9" height="9"><animate id="a{i}" attributeName="x" to="9" dur=".001s" '
+                       f'begin="{"a%d.end" % (i - 1) if i else "0s"}"/></rect>' for i in range(30000 // n)))
+
+
+@document
+def animation_targets_of_one(n):
+    return svg('<rect id="r" width="9" height="9"/>' + "".join(
+        f'<animate href="#r" attributeName="a{i}" to="9" dur="9s"/>' for i in range(60000 // n)))
+
+
+@document
+def animation_sandwiches(n):
+    return svg('<rect id="r" width="9" height="9"/>' +
+               '<animate href="#r" attributeName="fill" values="red;blue;color-mix(in oklch, red, blue)" dur="9s" '
+               'additive="sum" accumulate="sum"/>' * (60000 // n))
+
+
+@document
+def animations_restarting(n):
+    begins = ";".join(f"{i / 1000}s" for i in range(1000))
+    return svg("".join(f'<rect width="9" height="9"><set id="a{i}" attributeName="x" to="9" dur="1ms" '
+                       f'begin="{begins};a{(i + 1) % 50}.begin+.5ms"/></rect>' for i in range(50)))
+
+
+@document
+def nested_symbols(n):
+    levels = "".join(f'<symbol id="s{i}" viewBox="0 0 9 9" overflow="hidden"><use href="#s{i - 1}"/><use href="#s{i - 1}" '
+                     f'x="1"/></symbol>' for i in range(1, 30))
+    return svg(f'<symbol id="s0" viewBox="0 0 9 9"><rect width="9" height="9"/></symbol>{levels}<use href="#s29"/>')
+
+
+@document
+def nested_viewports_cut(n):
+    return svg('<svg viewBox="0 0 9 9" width="90" height="90" transform="rotate(1)" overflow="hidden">' * 300 +
+               '<circle r="9"/>' * (5000 // n) + "</svg>" * 300)
+
+
+@document
+def viewports_many(n):
+    return svg('<svg viewBox="0 0 9 9" width="90" height="90" transform="rotate(1)"><circle r="9"/></svg>' *
+               (50000 // n))
+
+
+@document
+def uses_of_texts(n):
+    return svg(f'<text id="t" y="50" class="a">{"ab" * 20}</text><style>.a{{fill:red}}</style>' +
+               "".join(f'<use href="#t" fill="#{i:06x}" font-size="{1 + i / 1000}"/>' for i in range(40000 // n)))
+
+
+@document
+def uses_of_long_attributes(n):
+    path = "M0 0" + "l1 1-1 1" * 10000
+    return svg(f'<path id="p" data-x="{"x" * 100000}" d="{path}"/>' + '<use href="#p" fill="red"/>' * (20000 // n))
+
+
+@document
+def comments_and_instructions(n):
+    return svg("<!--x-->" * (900000 // n) + "<?x y?>" * (900000 // n) + '<rect width="9" height="9"/>')
+
+
+@document
+def characters_in_runs(n):
+    return svg("<text>" + "a<!--x-->" * (300000 // n) + "&amp;&#65;" * (90000 // n) + "</text>")
+
+
+@document
+def references_of_characters(n):
+    return svg(f'<rect width="9" height="9" data-x="{"&amp;&#x41;" * (1500000 // n)}"/><text>{"&lt;" * (2000000 // n)}'
+               "</text>")
+
+
+@document
+def declarations_of_entities(n):
+    names = "".join(f'<!ENTITY e{i} "a">' for i in range(300000 // n))
+    return f"<!DOCTYPE svg [{names}]>" + svg("<text>&e1;&e2;</text>" + '<rect width="9" height="9"/>')
+
+
+@document
+def declarations_of_attributes(n):
+    names = "".join(f'<!ATTLIST rect a{i} CDATA "1">' for i in range(200))
+    return f"<!DOCTYPE svg [{names}]>" + svg('<rect width="9" height="9"/>' * (100000 // n))
+
+
+@document
+def names_of_elements(n):
+    return svg("".join(f"<e{i}/>" for i in range(190000 // n)) + '<rect width="9" height="9"/>')
+
+
+@document
+def names_of_attributes(n):
+    return svg("".join(f'<rect width="9" height="9" a{i}="1"/>' for i in range(190000 // n)))
+
+
+@document
+def names_long(n):
+    name = "n" * (30000 // n)
+    return svg(f"<{name}>" * 250 + '<rect width="9" height="9"/>' + f"</{name}>" * 250)
+
+
+@document
+def numbers_long(n):
+    number = "1" + "0" * (100000 // n) + "." + "1" * (100000 // n) + "e-99999"
+    return svg(f'<rect width="{number}" height="9" rx="{number}" transform="scale({number})" '
+               f'stroke-dasharray="{number}" points="{number}"/>' * 20)
+
+
+@document
+def calculations_long(n):
+    width = "calc(" + "1px + " * (200000 // n) + "1px)"
+    return svg(f'<rect height="9" style="width:{width};x:{width}"/>' * 3)
+
+
+@document
+def calculations_deep(n):
+    width = "calc(" * (200000 // n) + "1px" + ")" * (200000 // n)
+    return svg(f'<rect height="9" style="width:{width};x:{width};fill:color-mix(in oklch, {"rgb(" * (99999 // n)}"/>' * 3)
+
+
+@document
+def colors_from_colors(n):
+    color = "rgb(from " * 400 + "red" + " r g b)" * 400
+    return svg(f'<rect width="9" height="9" style="fill:{color};stroke:{color}"/>' * (3000 // n))
+
+
+@document
+def shapes_of_css(n):
+    points = ",".join(f"{i % 100}% {(i * 37) % 100}%" for i in range(30000 // n))
+    return svg(f'<rect width="90" height="90" style="clip-path:polygon({points})"/>' * 20)
+
+
+@document
+def switches_of_languages(n):
+    languages = ",".join(f"x{i}" for i in range(20000 // n))
+    return svg("".join(f'<switch><g systemLanguage="{languages}"/><rect width="9" height="9"/></switch>' for _ in range(80)))
+
+
+@document
+def declarations_of_long_attributes(n):
+    return (f"<!DOCTYPE svg [<!ATTLIST rect a CDATA '{'x' * (4000000 // n)}'>]>" +
+            svg('<rect width="9" height="9"/>' * (100000 // n)))
+
+
+@document
+def entities_in_an_attribute(n):
+    text = f"<!DOCTYPE svg [<!ENTITY e '{'x' * 4000}'>]>"
+    return text + svg(f'<rect width="9" height="9" data-x="{"&e;" * (30000 // n)}"/>')

@@ -180,3 +180,153 @@ def text_capitals(n):
 def text_font_faces(n):
     face = "@font-face{font-family:a;src:url(data:font/ttf;base64,AAEAAAAAAAA=)}"
     return svg(f"<style>{face * (20000 // n)}</style>" + '<text font-family="a" y="50">abc</text>')
+
+
+@document
+def text_font_kerning_of_equal_names(n):
+    """Pairs that are there already."""
+    names = ",".join(["a"] * (7000 // n))
+    return svg(font(f'<glyph unicode="a" glyph-name="a" d="M0 0H9V9"/><hkern g1="{names}" g2="{names}" k="1"/>') +
+               '<text y="50" font-family="F">aaa</text>')
+
+
+@document
+def text_font_kerning_many(n):
+    names = ",".join(f"n{i}" for i in range(200))
+    kerning = f'<hkern g1="{names}" g2="{names}" k="1"/>' * (5000 // n)
+    return svg(font(f'<glyph unicode="a" glyph-name="n1" d="M0 0H9V9"/>{kerning}') +
+               '<text y="50" font-family="F">aaa</text>')
+
+
+@document
+def text_font_kerning_ranges(n):
+    ranges = ",".join(["U+4e??"] * (4000 // n))
+    return svg(font(f'<glyph unicode="a" d="M0 0H9V9"/><hkern u1="{ranges}" u2="{ranges}" k="1"/>') +
+               '<text y="50" font-family="F">aaa</text>')
+
+
+@document
+def text_fonts_of_kerning(n):
+    """As many pairs as there may be, in each of as many fonts as there may be."""
+    names = ",".join(f"n{i}" for i in range(223))
+    one = f'<glyph unicode="a" d="M0 0H9V9"/><hkern g1="{names}" g2="{names}" k="1"/>' \
+          f'<vkern g1="{names}" g2="{names}" k="1"/>'
+    fonts = "".join(font(one).replace('"F"', f'"F{i}"') for i in range(100))
+    return svg(fonts + "".join(f'<text y="50" font-family="F{i}">aa</text>' for i in range(100 // n)))
+
+
+@document
+def text_font_ligatures(n):
+    """Glyphs that begin alike, tried at every letter."""
+    glyphs = "".join(f'<glyph unicode="{"a" * 63}{chr(0x4e00 + i)}" d="M0 0H9V9"/>' for i in range(128))
+    return svg(font(glyphs) + f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_font_ligatures_of_languages(n):
+    tags = ",".join(f"{'x' * 50}{i}" for i in range(4))
+    glyphs = f'<glyph unicode="a" lang="{tags}" d="M0 0H9V9"/>' * 128
+    return svg(font(glyphs) + f'<text y="50" font-family="F, sans-serif" xml:lang="{"x" * 50}-y">'
+                              f'{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_font_ligatures_of_names(n):
+    names = ",".join(f"name{i}" for i in range(20))
+    glyphs = f'<glyph unicode="a" glyph-name="{names}" d="M0 0H9V9"/>' * (60000 // n)
+    return svg(font(glyphs + f'<hkern g1="{names}" g2="{names}" k="1"/>') +
+               f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_font_glyphs_of_shapes(n):
+    glyphs = "".join(f'<glyph unicode="{chr(0x4e00 + i)}">{"<circle r=" + chr(34) + "9" + chr(34) + "/>"}</glyph>' * 1
+                     for i in range(15000 // n))
+    return svg(font(glyphs) + f'<text y="50" font-family="F">{"".join(chr(0x4e00 + i) for i in range(15000 // n))}</text>')
+
+
+@document
+def text_alternate_glyphs(n):
+    glyphs = "".join(f'<glyph id="g{i}" d="M0 0H9V9"/>' for i in range(50000 // n))
+    return svg(font(glyphs) + '<text y="50">' + "".join(f'<altGlyph href="#g{49999 - i % 50000}">a</altGlyph>'
+                                                        for i in range(40000 // n)) + "</text>")
+
+
+@document
+def text_fonts_asked_often(n):
+    """The family is found last, for every part of the text."""
+    fonts = "".join(font('<glyph unicode="a" d="M0 0H9V9"/>').replace('"F"', f'"G{i}"') for i in range(100))
+    families = ",".join(f"H{i}" for i in range(30)) + ",G99"
+    return svg(fonts + f'<text y="50" font-family="{families}">' + "<tspan>a</tspan>" * (60000 // n) + "</text>")
+
+
+@document
+def text_anchors(n):
+    parts = "".join(f'<tspan x="{i % 90}" text-anchor="middle">ab</tspan>' for i in range(40000 // n))
+    return svg(f'<text y="50">{parts}</text>')
+
+
+@document
+def text_anchored_chunk_long(n):
+    part = '<tspan dx="1">ab</tspan>'
+    return svg(f'<text y="50" text-anchor="end">{part * (40000 // n)}</text>')
+
+
+@document
+def text_lengths_nested(n):
+    return svg("<text>" + '<tspan textLength="9">ab' * 400 + "c" * (50000 // n) + "</tspan>" * 400 + "</text>")
+
+
+@document
+def text_rotated(n):
+    return svg(f'<text rotate="{"1 2 " * (40000 // n)}" textLength="90">{"fi " * (30000 // n)}</text>')
+
+
+@document
+def text_bidi_nested(n):
+    return svg("<text>" + "\u202ea\u202bb" * (15000 // n) + "\u05d0 1" * (15000 // n) + "</text>")
+
+
+@document
+def text_bidi_tspans(n):
+    return svg('<text direction="rtl">' + '<tspan direction="rtl" unicode-bidi="embed">a \u05d0' * 400 +
+               "b" * (50000 // n) + "</tspan>" * 400 + "</text>")
+
+
+@document
+def text_spaces(n):
+    return svg('<text y="50">' + " <tspan> </tspan> " * (40000 // n) + "</text>" +
+               '<text xml:space="preserve" y="60">' + " " * (5000000 // n) + "</text>")
+
+
+@document
+def text_lines_of_nothing(n):
+    return svg(f'<text y="5" inline-size="1e-9" font-size="9">{"a" * (90000 // n)}</text>')
+
+
+@document
+def text_paths_following(n):
+    path = "M0 50" + "c9 9 9-9 1 0" * 1300
+    return svg(f'<path id="p" d="{path}"/><text font-size=".1">' +
+               f'<textPath href="#p" textLength="90">{"ab" * 50}</textPath>' * (500 // n or 1) + "</text>")
+
+
+@document
+def text_measured_often(n):
+    box = "transform-box:fill-box;transform-origin:center;transform:rotate(1deg)"
+    return svg(f'<g style="{box}" filter="blur(1px)">' + f'<text y="50" style="{box}">abcd</text>' * (20000 // n) +
+               "</g>")
+
+
+@document
+def text_in_patterns(n):
+    return svg(f'<pattern id="p" width=".1" height=".1">{"<text>abcd</text>" * 100}</pattern>' + "".join(
+        f'<text y="50" font-size="{20 + i / 100}" fill="url(#p)">abcd</text>' for i in range(2000 // n)))
+
+
+@document
+def text_font_shapes_deep(n):
+    glyph = '<glyph unicode="a"><rect width="9" height="9"/></glyph>'
+    deep = "<g>" * 200 + '<rect width="9" height="9"/>' * 900 + "</g>" * 200
+    return svg("<g>" * 250 + font(glyph * (60000 // n) + f'<glyph unicode="b">{deep}</glyph>' * 60) + "</g>" * 250 +
+               '<text y="50" font-family="F">ab</text>')
