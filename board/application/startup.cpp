@@ -64,11 +64,16 @@ void installQtTexts(QApplication &application, const QString &language)
         QApplication::installTranslator(translator);
 }
 
+void printProblem(const pagehost::PluginReport &report)
+{
+    QTextStream(stderr) << pluginProblemText(report) << '\n';
+}
+
 void printProblems(const Workspace &workspace)
 {
-    QTextStream stream(stderr);
     for (const pagehost::PluginReport &report : workspace.pluginProblems())
-        stream << pluginProblemText(report) << '\n';
+        printProblem(report);
+    QObject::connect(&workspace, &Workspace::pluginProblemFound, &workspace, printProblem);
 }
 
 /// False when nothing of the file could be read.

@@ -41,6 +41,8 @@ public:
 Q_SIGNALS:
     /// document() is the new one; the one before is still alive.
     void documentReplaced();
+    /// A plug-in that had been loaded failed.
+    void pluginProblemFound(const pagehost::PluginReport &report);
 
 private:
     pagehost::Localizer m_localizer;

@@ -308,6 +308,9 @@ void MainWindow::connectTools()
 void MainWindow::connectParts()
 {
     connect(m_workspace, &Workspace::documentReplaced, this, &MainWindow::connectDocument);
+    // Problems turn up in the middle of opening and drawing.
+    connect(m_workspace, &Workspace::pluginProblemFound, this, &MainWindow::showPluginProblems,
+            Qt::QueuedConnection);
     m_documents->setSettle([this] { settle(); });
     connect(m_actions, &Actions::aboutToStep, m_settings, &SelectionPanel::settle);
     connect(m_actions, &Actions::aboutToStep, m_properties, &SelectionPanel::settle);

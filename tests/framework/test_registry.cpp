@@ -88,6 +88,12 @@ private Q_SLOTS:
     void unusableKindsAreReported();
     void fileThatIsNoLibraryIsReported();
     void missingFileIsReported();
+    void pluginOfANewerLibraryIsRefused();
+    void pluginOfAnotherMajorVersionIsRefused();
+    void pluginThatTellsNoVersionIsLoaded();
+    void versionsThatFit_data();
+    void versionsThatFit();
+    void pluginThatThrowsBeforeItIsThereIsReported();
     void directoryIsLoadedByName();
     void otherFilesOfADirectoryArePassedOver();
     void loadedFilesArePassedOverTheSecondTime();
@@ -213,6 +219,73 @@ void TestRegistry::missingFileIsReported()
     QVERIFY(!report.problem.isEmpty());
 }
 
+void TestRegistry::pluginOfANewerLibraryIsRefused()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("newer"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(
+        report.problem,
+        QStringLiteral("it was built against version 1.99.0 of the library, this is version " PAGEHOST_VERSION));
+    QVERIFY(registry.kinds().isEmpty());
+}
+
+void TestRegistry::pluginOfAnotherMajorVersionIsRefused()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("nextmajor"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(
+        report.problem,
+        QStringLiteral("it was built against version 2.0.0 of the library, this is version " PAGEHOST_VERSION));
+}
+
+void TestRegistry::pluginThatTellsNoVersionIsLoaded()
+{
+    ObjectRegistry registry;
+    QVERIFY(registry.loadFile(pluginFile("unversioned")).loaded);
+    QVERIFY(registry.hasKind(QStringLiteral("test.unversioned")));
+}
+
+void TestRegistry::versionsThatFit_data()
+{
+    QTest::addColumn<QString>("builtAgainst");
+    QTest::addColumn<QString>("present");
+    QTest::addColumn<bool>("fits");
+    const auto row = [](const char *builtAgainst, const char *present, bool fits) {
+        QTest::addRow("%s with %s", builtAgainst, present)
+            << QString::fromLatin1(builtAgainst) << QString::fromLatin1(present) << fits;
+    };
+    row("1.2.3", "1.2.3", true);
+    row("1.2.2", "1.2.3", true);
+    row("1.1.9", "1.2.3", true);
+    row("1.0.0", "1.10.0", true);
+    row("1.9.0", "1.10.0", true);
+    row("1.2.4", "1.2.3", false);
+    row("1.3.0", "1.2.3", false);
+    row("1.10.0", "1.9.0", false);
+    row("2.0.0", "1.2.3", false);
+    row("0.9.0", "1.2.3", false);
+    row("nonsense", "1.2.3", false);
+    row("", "1.2.3", true);
+}
+
+void TestRegistry::versionsThatFit()
+{
+    QFETCH(QString, builtAgainst);
+    QFETCH(QString, present);
+    QFETCH(bool, fits);
+    QCOMPARE(pagehost::versionProblem(builtAgainst, present).isEmpty(), fits);
+}
+
+void TestRegistry::pluginThatThrowsBeforeItIsThereIsReported()
+{
+    ObjectRegistry registry;
+    const PluginReport report = registry.loadFile(pluginFile("stillborn"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.problem, QStringLiteral("its constructor threw an exception: no licence"));
+}
+
 void TestRegistry::directoryIsLoadedByName()
 {
     ObjectRegistry registry;
@@ -223,14 +296,15 @@ void TestRegistry::directoryIsLoadedByName()
         files.append(QFileInfo(report.file).fileName());
         loaded.append(report.loaded);
     }
-    const QStringList expected{QStringLiteral("libbarren.so"), QStringLiteral("libduplicate.so"),
-                               QStringLiteral("libforeign.so"), QStringLiteral("libgood.so"),
-                               QStringLiteral("libspeechless.so")};
+    const QStringList expected{
+        QStringLiteral("libbarren.so"),     QStringLiteral("libduplicate.so"), QStringLiteral("libforeign.so"),
+        QStringLiteral("libgood.so"),       QStringLiteral("libnewer.so"),     QStringLiteral("libnextmajor.so"),
+        QStringLiteral("libspeechless.so"), QStringLiteral("libstillborn.so"), QStringLiteral("libunversioned.so")};
     QCOMPARE(files, expected);
-    const QVector<bool> expectedLoaded{false, true, false, true, false};
+    const QVector<bool> expectedLoaded{false, true, false, true, false, false, false, false, true};
     QCOMPARE(loaded, expectedLoaded);
     const QStringList expectedKinds{QStringLiteral("test.one"), QStringLiteral("test.three"),
-                                    QStringLiteral("test.two")};
+                                    QStringLiteral("test.two"), QStringLiteral("test.unversioned")};
     QCOMPARE(idsOf(registry.kinds()), expectedKinds);
 }
 
@@ -252,7 +326,7 @@ void TestRegistry::loadedFilesArePassedOverTheSecondTime()
     for (const PluginReport &report : again) {
         QVERIFY(!report.loaded);
     }
-    QCOMPARE(registry.kinds().size(), 3);
+    QCOMPARE(registry.kinds().size(), 4);
 }
 
 void TestRegistry::missingDirectoryIsReported()

@@ -147,8 +147,11 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) cons
     CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*object);
     const ReadingScope reading(*object, page);
     host.refusedState = false;
-    const bool loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
-                                                                : loadFromJson(object.get(), record);
+    bool loaded = false;
+    m_registry.run(record.kindId, QStringLiteral("load()"), [&] {
+        loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
+                                                         : loadFromJson(object.get(), record);
+    });
     // Objects may forget to say that their base class refused its part.
     if (!loaded || host.refusedState || !holdsAll(object.get(), record)) {
         return nullptr;

@@ -4,12 +4,15 @@
 
 #include <pagehost/localizer.h>
 
+#include <plugins/guarded.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonObject>
 #include <QtCore/QLibrary>
 #include <QtCore/QPluginLoader>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QVersionNumber>
 
 #include <algorithm>
 #include <memory>
@@ -20,6 +23,12 @@ namespace {
 
 /// Where an object keeps its kind among the data of its graphics item.
 constexpr int kindIdData = 0x6b696e64;
+/// More are taken for nonsense.
+constexpr int mostKinds = 1000;
+/// Letters. Files hold the length of an id in two bytes.
+constexpr int longestKindId = 200;
+/// Letters of the problems of one plug-in: whatever happens again and again is told often enough then.
+constexpr int longestProblem = 2000;
 
 PluginReport failure(PluginReport report, const QString &problem)
 {
@@ -32,10 +41,26 @@ void addProblem(PluginReport &report, const QString &problem)
     report.problem += report.problem.isEmpty() ? problem : QStringLiteral("; ") + problem;
 }
 
+QString quoted(const char *operation, const QString &argument)
+{
+    return QStringLiteral("%1(\"%2\")").arg(QLatin1String(operation), argument);
+}
+
 bool isKindId(const QString &id)
 {
     static const QRegularExpression form(QStringLiteral("\\A[A-Za-z0-9]+(\\.[A-Za-z0-9]+)*\\z"));
-    return form.match(id).hasMatch();
+    return id.size() <= longestKindId && form.match(id).hasMatch();
+}
+
+/// Of the interface that a library says it has: its name, and the version that it was built against behind a space.
+QString interfaceProblem(const QString &iid)
+{
+    const QString wanted = QStringLiteral(PAGEHOST_OBJECTPLUGIN_INTERFACE);
+    const QString name = iid.section(QLatin1Char(' '), 0, 0);
+    if (name != wanted) {
+        return QStringLiteral("it implements \"%1\", not \"%2\"").arg(iid, wanted);
+    }
+    return versionProblem(iid.section(QLatin1Char(' '), 1), QStringLiteral(PAGEHOST_VERSION));
 }
 
 } // namespace
@@ -77,15 +102,24 @@ PluginReport ObjectRegistry::loadFile(const QString &file)
 {
     PluginReport report;
     report.file = QFileInfo(file).absoluteFilePath();
-    QPluginLoader loader(report.file);
+    return load(report.file, report);
+}
+
+PluginReport ObjectRegistry::load(const QString &file, PluginReport report)
+{
+    QPluginLoader loader(file);
     const QString iid = loader.metaData().value(QLatin1String("IID")).toString();
-    const QString wantedIid = QStringLiteral(PAGEHOST_OBJECTPLUGIN_IID);
-    if (!iid.isEmpty() && iid != wantedIid) {
-        report = failure(report, QStringLiteral("it implements \"%1\", not \"%2\"").arg(iid, wantedIid));
+    const QString problem = iid.isEmpty() ? QString() : interfaceProblem(iid);
+    QObject *root = nullptr;
+    QString thrown;
+    if (!problem.isEmpty()) {
+        report = failure(report, problem);
     } else if (!loader.load()) {
         report = failure(report, loader.errorString());
-    } else if (auto *plugin = qobject_cast<ObjectPlugin *>(loader.instance())) {
-        report = add(plugin, report);
+    } else if (!guarded(QStringLiteral("its constructor"), thrown, [&] { root = loader.instance(); })) {
+        report = failure(report, thrown);
+    } else if (auto *plugin = qobject_cast<ObjectPlugin *>(root)) {
+        return add(plugin, report);
     } else {
         report = failure(report, QStringLiteral("its root object is no plug-in for page objects"));
     }
@@ -97,36 +131,87 @@ PluginReport ObjectRegistry::addPlugin(ObjectPlugin *plugin, const QString &name
 {
     PluginReport report;
     report.file = name;
-    report = plugin ? add(plugin, report) : failure(report, QStringLiteral("there is no plug-in"));
+    if (plugin) {
+        return add(plugin, report);
+    }
+    report = failure(report, QStringLiteral("there is no plug-in"));
     m_reports.append(report);
     return report;
 }
 
+/// The report is among the others from the start, where all that goes wrong is added to it.
 PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
 {
-    const TextTable english = plugin->texts(QStringLiteral("en"));
-    if (english.isEmpty()) {
-        return failure(report, QStringLiteral("it has no English texts"));
+    const Source source{plugin, m_reports.size()};
+    m_reports.append(report);
+    TextTable english;
+    QVector<ObjectKind> offered;
+    if (!run(source, QStringLiteral("texts(\"en\")"), [&] { english = plugin->texts(QStringLiteral("en")); }) ||
+        !run(source, QStringLiteral("objectKinds()"), [&] { offered = plugin->objectKinds(); })) {
+        return m_reports.at(source.report);
     }
-    const QVector<ObjectKind> offered = plugin->objectKinds();
-    for (const ObjectKind &kind : offered) {
+    if (english.isEmpty()) {
+        addProblem(source, QStringLiteral("it has no English texts"));
+        return m_reports.at(source.report);
+    }
+    if (offered.size() > mostKinds) {
+        addProblem(source, QStringLiteral("it offers more than %1 kinds of object").arg(mostKinds));
+        return m_reports.at(source.report);
+    }
+    PluginReport &told = m_reports[source.report];
+    for (const ObjectKind &kind : qAsConst(offered)) {
         const QString problem = kindProblem(kind, english);
         if (!problem.isEmpty()) {
-            addProblem(report, problem);
+            pagehost::addProblem(told, problem);
             continue;
         }
         m_kinds.append(kind);
-        m_plugins.insert(kind.id, plugin);
-        report.kindIds.append(kind.id);
+        m_plugins.insert(kind.id, source);
+        told.kindIds.append(kind.id);
     }
-    if (report.kindIds.isEmpty()) {
-        addProblem(report, QStringLiteral("it offers no kind of object that can be used"));
-        return report;
+    if (told.kindIds.isEmpty()) {
+        pagehost::addProblem(told, QStringLiteral("it offers no kind of object that can be used"));
+        return told;
     }
-    report.loaded = true;
-    m_sources.append(plugin);
-    mergeTexts(*plugin);
-    return report;
+    told.loaded = true;
+    m_sources.append(source);
+    mergeTexts(source);
+    return m_reports.at(source.report);
+}
+
+bool ObjectRegistry::run(const QString &kindId, const QString &operation, const std::function<void()> &work) const
+{
+    return run(sourceOf(kindId), operation, work);
+}
+
+bool ObjectRegistry::run(const Source &source, const QString &operation, const std::function<void()> &work) const
+{
+    QString problem;
+    if (guarded(operation, problem, work)) {
+        return true;
+    }
+    addProblem(source, problem);
+    return false;
+}
+
+void ObjectRegistry::addProblem(const Source &source, const QString &problem) const
+{
+    if (!source.plugin) {
+        return;
+    }
+    PluginReport &report = m_reports[source.report];
+    if (report.problem.contains(problem) || report.problem.size() > longestProblem) {
+        return;
+    }
+    pagehost::addProblem(report, problem);
+    if (report.loaded && m_listener) {
+        m_listener(report);
+    }
+}
+
+ObjectRegistry::Source ObjectRegistry::sourceOf(const QString &kindId) const
+{
+    return m_plugins.value(kindId, {nullptr, -1});
 }
 
 QString ObjectRegistry::kindProblem(const ObjectKind &kind, const TextTable &english) const
@@ -143,14 +228,16 @@ QString ObjectRegistry::kindProblem(const ObjectKind &kind, const TextTable &eng
     return {};
 }
 
-void ObjectRegistry::mergeTexts(const ObjectPlugin &plugin)
+void ObjectRegistry::mergeTexts(const Source &source)
 {
     if (!m_localizer) {
         return;
     }
     const QStringList languages = m_localizer->languages();
     for (const QString &language : languages) {
-        m_localizer->addTexts(language, plugin.texts(language));
+        TextTable texts;
+        run(source, quoted("texts", language), [&] { texts = source.plugin->texts(language); });
+        m_localizer->addTexts(language, texts);
     }
 }
 
@@ -166,19 +253,36 @@ ObjectKind ObjectRegistry::kind(const QString &kindId) const
 
 CBaseObject *ObjectRegistry::createObject(const QString &kindId) const
 {
-    const ObjectPlugin *plugin = m_plugins.value(kindId);
-    CBaseObject *object = plugin ? plugin->createObject(kindId) : nullptr;
-    if (object) {
-        setKindId(object, kindId);
+    const Source source = sourceOf(kindId);
+    if (!source.plugin) {
+        return nullptr;
     }
+    const QString operation = quoted("createObject", kindId);
+    CBaseObject *object = nullptr;
+    run(source, operation, [&] { object = source.plugin->createObject(kindId); });
+    return taken(source, operation, object, kindId);
+}
+
+/// Null for an object that somebody else has: it was given before, or put on a page.
+CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operation, CBaseObject *object,
+                                   const QString &kindId) const
+{
+    if (!object) {
+        return nullptr;
+    }
+    if (object->scene() || !kindIdOf(object).isEmpty()) {
+        addProblem(source, QStringLiteral("%1 gave an object that is in use").arg(operation));
+        return nullptr;
+    }
+    setKindId(object, kindId);
     return object;
 }
 
 QStringList ObjectRegistry::dataTypes() const
 {
     QStringList types;
-    for (const ObjectPlugin *plugin : m_sources) {
-        types += plugin->dataTypes();
+    for (const Source &source : m_sources) {
+        run(source, QStringLiteral("dataTypes()"), [&] { types += source.plugin->dataTypes(); });
     }
     types.removeDuplicates();
     return types;
@@ -186,14 +290,17 @@ QStringList ObjectRegistry::dataTypes() const
 
 CBaseObject *ObjectRegistry::createFromData(const QString &mimeType, const QByteArray &data) const
 {
-    for (const ObjectPlugin *plugin : m_sources) {
-        if (!plugin->dataTypes().contains(mimeType)) {
-            continue;
-        }
+    const QString operation = quoted("createFromData", mimeType);
+    for (const Source &source : m_sources) {
         QString kindId;
-        std::unique_ptr<CBaseObject> object(plugin->createFromData(mimeType, data, kindId));
-        if (object && m_plugins.value(kindId) == plugin) {
-            setKindId(object.get(), kindId);
+        CBaseObject *made = nullptr;
+        run(source, operation, [&] {
+            if (source.plugin->dataTypes().contains(mimeType)) {
+                made = source.plugin->createFromData(mimeType, data, kindId);
+            }
+        });
+        std::unique_ptr<CBaseObject> object(taken(source, operation, made, kindId));
+        if (object && sourceOf(kindId).plugin == source.plugin) {
             return object.release();
         }
     }
@@ -202,8 +309,23 @@ CBaseObject *ObjectRegistry::createFromData(const QString &mimeType, const QByte
 
 QByteArray ObjectRegistry::dataOf(CBaseObject *object, const QString &mimeType) const
 {
-    const ObjectPlugin *plugin = m_plugins.value(kindIdOf(object));
-    return plugin ? plugin->dataOf(object, mimeType) : QByteArray();
+    const Source source = sourceOf(kindIdOf(object));
+    QByteArray data;
+    if (source.plugin) {
+        run(source, quoted("dataOf", mimeType), [&] { data = source.plugin->dataOf(object, mimeType); });
+    }
+    return data;
+}
+
+QString versionProblem(const QString &builtAgainst, const QString &present)
+{
+    const QVersionNumber theirs = QVersionNumber::fromString(builtAgainst);
+    const QVersionNumber ours = QVersionNumber::fromString(present);
+    if (builtAgainst.isEmpty() || (theirs.majorVersion() == ours.majorVersion() && theirs <= ours)) {
+        return {};
+    }
+    return QStringLiteral("it was built against version %1 of the library, this is version %2")
+        .arg(builtAgainst, present);
 }
 
 QString kindIdOf(const CBaseObject *object)

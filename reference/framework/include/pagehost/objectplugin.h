@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/version.h>
+
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
 #include <QtCore/QString>
@@ -40,7 +42,8 @@ enum SpecialProperty {
 /// Texts by localisation key.
 using TextTable = QMap<QString, QString>;
 
-/// What a plug-in for page objects implements. It needs no metadata file:
+/// What a plug-in for page objects implements. An exception that leaves one of these operations counts as nothing
+/// given, and is named in the plug-in's report. It needs no metadata file:
 ///
 ///     class ArrowPlugin : public QObject, public pagehost::ObjectPlugin {
 ///         Q_OBJECT
@@ -89,5 +92,9 @@ public:
 
 } // namespace pagehost
 
-#define PAGEHOST_OBJECTPLUGIN_IID "gliololok.pagehost.ObjectPlugin/2"
-Q_DECLARE_INTERFACE(pagehost::ObjectPlugin, PAGEHOST_OBJECTPLUGIN_IID)
+/// What a plug-in implements.
+#define PAGEHOST_OBJECTPLUGIN_INTERFACE "gliololok.pagehost.ObjectPlugin/2"
+/// The same with the version of the library that a plug-in is built against. A plug-in of an older version with the
+/// same major number is loaded, one of a newer version is not.
+#define PAGEHOST_OBJECTPLUGIN_IID PAGEHOST_OBJECTPLUGIN_INTERFACE " " PAGEHOST_VERSION
+Q_DECLARE_INTERFACE(pagehost::ObjectPlugin, PAGEHOST_OBJECTPLUGIN_INTERFACE)

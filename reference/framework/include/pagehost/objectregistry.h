@@ -10,6 +10,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
+#include <functional>
+
 class CBaseObject;
 
 namespace pagehost {
@@ -44,8 +46,10 @@ public:
     /// Registers a plug-in that is part of the program. `name` stands for its file; the plug-in must outlive the
     /// registry. Reported as loadFile() does.
     PluginReport addPlugin(ObjectPlugin *plugin, const QString &name);
-    /// Everything reported so far.
+    /// Everything reported so far. What a plug-in fails in later is added to its report.
     QVector<PluginReport> reports() const { return m_reports; }
+    /// Hears of a loaded plug-in whose report has got another problem.
+    void setProblemListener(const std::function<void(const PluginReport &)> &listener) { m_listener = listener; }
 
     /// All kinds, in the order in which they were registered.
     QVector<ObjectKind> kinds() const { return m_kinds; }
@@ -55,6 +59,10 @@ public:
     /// A new object in the creating state, tagged with its kind; null when the kind is unknown or its plug-in
     /// fails. The caller owns it.
     CBaseObject *createObject(const QString &kindId) const;
+
+    /// Runs what belongs to the plug-in of a kind. False when it throws: the plug-in's report then names
+    /// `operation` and what was thrown.
+    bool run(const QString &kindId, const QString &operation, const std::function<void()> &work) const;
 
     /// MIME types that createFromData() takes: those of the plug-ins in the order in which they were registered,
     /// each type once.
@@ -67,17 +75,35 @@ public:
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const;
 
 private:
+    struct Source
+    {
+        ObjectPlugin *plugin;
+        int report; ///< its place in m_reports
+    };
+
+    PluginReport load(const QString &file, PluginReport report);
     PluginReport add(ObjectPlugin *plugin, PluginReport report);
     QString kindProblem(const ObjectKind &kind, const TextTable &english) const;
     bool hasLoaded(const QString &file) const;
-    void mergeTexts(const ObjectPlugin &plugin);
+    void mergeTexts(const Source &source);
+    bool run(const Source &source, const QString &operation, const std::function<void()> &work) const;
+    void addProblem(const Source &source, const QString &problem) const;
+    Source sourceOf(const QString &kindId) const;
+    CBaseObject *taken(const Source &source, const QString &operation, CBaseObject *object,
+                       const QString &kindId) const;
 
     Localizer *m_localizer;
-    QVector<PluginReport> m_reports;
+    mutable QVector<PluginReport> m_reports;
+    std::function<void(const PluginReport &)> m_listener;
     QVector<ObjectKind> m_kinds;
-    QVector<ObjectPlugin *> m_sources;        ///< every plug-in in use, in the order of registration
-    QHash<QString, ObjectPlugin *> m_plugins; ///< by kind id
+    QVector<Source> m_sources;        ///< every plug-in in use, in the order of registration
+    QHash<QString, Source> m_plugins; ///< by kind id
 };
+
+/// Why a plug-in that was built against one version of the library cannot be used with another, in English for
+/// people; empty when it can: the major versions are the same, and the plug-in's is no newer. A plug-in that tells
+/// no version is older than this rule.
+FRAMEWORK_EXPORT QString versionProblem(const QString &builtAgainst, const QString &present);
 
 /// The kind that the object was created as; empty for one that no registry made.
 FRAMEWORK_EXPORT QString kindIdOf(const CBaseObject *object);
