@@ -17,9 +17,21 @@ namespace {
 
 FileMessage writeProblem(const WriteResult &result, const QString &file)
 {
-    return result.outcome == WriteResult::ShortWrite
+    return result.outcome == WriteResult::DiskFull
                ? error(QStringLiteral("IDS_FILE_DISK_FULL"), {file})
                : error(QStringLiteral("IDS_FILE_CANNOT_WRITE"), {file, result.problem});
+}
+
+SaveResult saveResult(const WriteResult &written, const QString &file)
+{
+    SaveResult result;
+    result.saved = written.outcome == WriteResult::Written;
+    result.isConflict = written.outcome == WriteResult::Conflict;
+    result.stamp = written.stamp;
+    if (!result.saved) {
+        result.problem = writeProblem(written, file);
+    }
+    return result;
 }
 
 /// The front of a file may be what is damaged.
@@ -37,19 +49,26 @@ DocumentFormat documentFormatOf(const QString &fileName)
                                                                                 : DocumentFormat::Binary;
 }
 
-SaveResult saveDocument(Document &document, const QString &file)
+SaveResult saveDocument(Document &document, const QString &file, const std::optional<FileStamp> &expected)
 {
     SaveResult result;
     const QByteArray bytes = encodeDocument(document, documentFormatOf(file), &result.problem);
     if (bytes.isEmpty()) {
         return result;
     }
-    const WriteResult written = writeDurably(file, bytes);
-    result.saved = written.outcome == WriteResult::Written;
-    if (!result.saved) {
-        result.problem = writeProblem(written, file);
+    return saveResult(writeDurably(file, bytes, expected), file);
+}
+
+SaveResult copyFile(const QString &file, const QString &copy)
+{
+    QFile in(file);
+    const QByteArray bytes = in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    if (in.error() != QFileDevice::NoError) {
+        SaveResult result;
+        result.problem = error(QStringLiteral("IDS_FILE_CANNOT_READ"), {file, in.errorString()});
+        return result;
     }
-    return result;
+    return saveResult(writeDurably(copy, bytes, FileStamp()), copy);
 }
 
 OpenResult openDocument(const QString &file, const ObjectRegistry &registry)
@@ -72,7 +91,9 @@ OpenResult openDocument(const QString &file, const ObjectRegistry &registry)
         result.messages = {error(QStringLiteral("IDS_FILE_CANNOT_READ"), {file, in.errorString()})};
         return result;
     }
-    return decodeDocument(bytes, registry);
+    result = decodeDocument(bytes, registry);
+    result.stamp = FileStamp::of(in.handle(), bytes);
+    return result;
 }
 
 QByteArray encodeDocument(Document &document, DocumentFormat format, FileMessage *problem)

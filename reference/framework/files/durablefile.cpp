@@ -1,80 +1,115 @@
 #include <files/durablefile.h>
 
+#include <files/workfile.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
+#include <QtCore/QThread>
 
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace pagehost {
 
 namespace {
 
-WriteResult failed(const QString &problem)
+/// As many links as the system itself follows.
+constexpr int mostLinks = 40;
+/// Another board holds the lock of a folder for as long as it takes to look at the file and to rename one. One that
+/// stands still must not hold up this one.
+constexpr int lockAttempts = 100;
+constexpr int lockPause = 10;        ///< milliseconds
+constexpr mode_t newFileMode = 0666; ///< less what the process's mask takes away
+constexpr mode_t privateMode = 0600; ///< until the file has its owner
+
+/// The result of a system call that has just failed.
+WriteResult failed()
 {
-    return {WriteResult::Failed, problem};
+    const bool isFull = errno == ENOSPC || errno == EDQUOT || errno == EFBIG;
+    return {isFull ? WriteResult::DiskFull : WriteResult::Failed, QString::fromLocal8Bit(std::strerror(errno)), {}};
 }
 
-QString systemProblem()
+WriteResult failed(int error)
 {
-    return QString::fromLocal8Bit(std::strerror(errno));
+    errno = error;
+    return failed();
 }
 
-/// Devices and pipes: a file would take their place.
-bool isSpecial(const QString &file)
+/// The file that a link leads to, there or not.
+QString withoutLinks(QString file)
 {
-    const QFileInfo info(file);
-    return info.exists() && !info.isFile() && !info.isDir();
+    for (int hop = 0; hop < mostLinks && QFileInfo(file).isSymLink(); ++hop) {
+        file = QFileInfo(file).symLinkTarget();
+    }
+    return file;
+}
+
+/// A folder while something in it is replaced: one board at a time, as far as boards ask.
+class LockedFolder
+{
+public:
+    explicit LockedFolder(const QString &folder)
+        : m_descriptor(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        int attempt = 0;
+        while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK && ++attempt < lockAttempts) {
+            QThread::msleep(lockPause);
+        }
+    }
+    ~LockedFolder()
+    {
+        if (m_descriptor >= 0) {
+            ::close(m_descriptor);
+        }
+    }
+    Q_DISABLE_COPY(LockedFolder)
+
+    /// Brings the names in the folder to the disk.
+    void sync() { ::fsync(m_descriptor); }
+
+private:
+    int m_descriptor;
+};
+
+bool isExpected(const QString &file, const FileStamp &expected)
+{
+    return !QFileInfo::exists(file) || FileStamp::of(file).hasSameContents(expected);
 }
 
 } // namespace
 
-WriteResult writeDurably(const QString &file, const QByteArray &bytes)
+WriteResult writeDurably(const QString &file, const QByteArray &bytes, const std::optional<FileStamp> &expected)
 {
-    if (isSpecial(file)) {
-        return failed(QString::fromLocal8Bit(std::strerror(EOPNOTSUPP)));
+    const QString target = withoutLinks(file);
+    const QByteArray name = QFile::encodeName(target);
+    struct stat before = {};
+    const bool exists = ::stat(name.constData(), &before) == 0;
+    // A file would take the place of devices and pipes.
+    if (exists && !S_ISREG(before.st_mode) && !S_ISDIR(before.st_mode)) {
+        return failed(EOPNOTSUPP);
     }
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly)) {
-        return failed(out.errorString());
+    // Whoever may write in the folder could replace a file that is protected.
+    if (exists && ::access(name.constData(), W_OK) != 0) {
+        return failed();
     }
-    // QSaveFile takes a short write for success and would put the torn file in the good one's place.
-    const qint64 written = out.write(bytes);
-    if (written >= 0 && written < bytes.size()) {
-        out.cancelWriting();
-        return {WriteResult::ShortWrite, out.errorString()};
+    const QString folder = QFileInfo(target).absolutePath();
+    WorkFile work;
+    if (!work.create(folder, exists ? privateMode : newFileMode) || !work.write(bytes) ||
+        (exists && !work.resemble(before)) || !work.sync()) {
+        return failed();
     }
-    if (written < 0 || !out.flush()) {
-        const QString problem = out.errorString();
-        out.cancelWriting();
-        return failed(problem);
+    LockedFolder lock(folder);
+    if (expected && !isExpected(target, *expected)) {
+        return {WriteResult::Conflict, QString::fromLocal8Bit(std::strerror(EEXIST)), {}};
     }
-    // Before the rename, and with its result: commit() tells nobody when the disk did not take the bytes.
-    if (::fsync(out.handle()) != 0) {
-        const QString problem = systemProblem();
-        out.cancelWriting();
-        return failed(problem);
+    if (!work.takePlaceOf(target)) {
+        return failed();
     }
-    if (!out.commit()) {
-        return failed(out.errorString());
-    }
-    syncDirectoryOf(file);
-    return {};
-}
-
-bool syncDirectoryOf(const QString &file)
-{
-    const QByteArray directory = QFile::encodeName(QFileInfo(file).absolutePath());
-    const int descriptor = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) {
-        return false;
-    }
-    const bool synced = ::fsync(descriptor) == 0;
-    ::close(descriptor);
-    return synced;
+    lock.sync();
+    return {WriteResult::Written, {}, FileStamp::of(work.descriptor(), bytes)};
 }
 
 } // namespace pagehost

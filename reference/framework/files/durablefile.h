@@ -1,22 +1,32 @@
 #pragma once
 
+#include <pagehost/filestamp.h>
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+
+#include <optional>
 
 namespace pagehost {
 
 struct WriteResult
 {
-    enum Outcome { Written, ShortWrite, Failed };
+    enum Outcome {
+        Written,
+        DiskFull,
+        Failed,
+        Conflict ///< another file, or other contents, are there than were expected
+    };
     Outcome outcome = Written;
     QString problem; ///< what the system says
+    FileStamp stamp; ///< of what was written
 };
 
 /// Replaces `file` by one with these bytes in one step, after all of them are on the disk, and has the directory
-/// remember it. Anything but Written leaves the file as it was.
-WriteResult writeDurably(const QString &file, const QByteArray &bytes);
-
-/// False when it is known that the file's name may be lost when the power fails now.
-bool syncDirectoryOf(const QString &file);
+/// remember it. Owner, group and mode stay as far as the system allows. Anything but Written leaves the file as it
+/// was. With `expected`, whatever has other contents than that stamp tells of is left alone; a null stamp expects
+/// no file. A file that is gone is no conflict.
+WriteResult writeDurably(const QString &file, const QByteArray &bytes,
+                         const std::optional<FileStamp> &expected = std::nullopt);
 
 } // namespace pagehost

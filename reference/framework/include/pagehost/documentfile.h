@@ -1,6 +1,7 @@
 #pragma once
 
 #include <pagehost/document.h>
+#include <pagehost/filestamp.h>
 
 #include <framework/framework_global.h>
 
@@ -11,6 +12,7 @@
 #include <QtCore/QVector>
 
 #include <memory>
+#include <optional>
 
 class CBaseObject;
 class ILocalize;
@@ -52,7 +54,9 @@ FRAMEWORK_EXPORT QString describe(const FileMessage &message, const ILocalize &l
 struct SaveResult
 {
     bool saved = false;
-    FileMessage problem; ///< of a save that failed
+    bool isConflict = false; ///< not saved, since the file was not what was expected
+    FileMessage problem;     ///< of a save that failed
+    FileStamp stamp;         ///< of the saved file
 };
 
 struct OpenResult
@@ -60,13 +64,20 @@ struct OpenResult
     /// Null when nothing could be read; the messages then say why.
     std::unique_ptr<Document> document;
     QVector<FileMessage> messages;
+    FileStamp stamp; ///< of the file that the document belongs to, as it was when this was its contents
 };
 
 /// Writes the document to `file` in the format of its name. The file is replaced in one step when all of the new
 /// one is safely on the disk: whatever goes wrong, and whenever, the old or the new one is there, whole. The
 /// document's state (Document::isModified()) is left alone; call Document::markSaved() where the file is now the
-/// document's.
-FRAMEWORK_EXPORT SaveResult saveDocument(Document &document, const QString &file);
+/// document's. Owner, group and mode stay as far as the system allows (effectsOfReplacing()).
+///
+/// With `expected`, a file with other contents than that stamp tells of is left alone: somebody else has written
+/// it. A null stamp expects that there is no file.
+FRAMEWORK_EXPORT SaveResult saveDocument(Document &document, const QString &file,
+                                         const std::optional<FileStamp> &expected = std::nullopt);
+/// Makes `copy`, which must not be there, of a file of any kind as durably.
+FRAMEWORK_EXPORT SaveResult copyFile(const QString &file, const QString &copy);
 /// Reads a file of either format, told apart by content. Reads as much as can be read: an object whose kind is
 /// unknown or whose data are broken becomes a placeholder that keeps its bytes. A file of a newer version is
 /// refused. The undo stack is not touched, and the new document is not made the current one.
