@@ -1,6 +1,8 @@
 #include "documents/documentcontroller.h"
 
 #include "application/workspace.h"
+#include "documents/freenames.h"
+#include "documents/savefolders.h"
 #include "window/notices.h"
 
 #include <QtCore/QDir>
@@ -12,6 +14,7 @@ namespace board {
 namespace {
 
 const QString fileNotice = QStringLiteral("fileNotice");
+const QString otherNotice = QStringLiteral("changedFileNotice");
 
 QString shown(const QString &file)
 {
@@ -25,7 +28,9 @@ DocumentController::DocumentController(Workspace *workspace, QWidget *window, No
     , m_workspace(workspace)
     , m_notices(notices)
     , m_dialogs(workspace, window)
+    , m_watch(this)
 {
+    connect(&m_watch, &FileWatch::stateChanged, this, &DocumentController::showFileState);
     connect(workspace, &Workspace::documentReplaced, this, &DocumentController::watchDocument);
     watchDocument();
 }
@@ -38,7 +43,7 @@ void DocumentController::watchDocument()
 
 QString DocumentController::name() const
 {
-    const QString file = m_file.isEmpty() ? m_damagedFile : m_file;
+    const QString file = origin();
     return file.isEmpty() ? m_workspace->text("IDS_BOARD_UNTITLED") : QFileInfo(file).fileName();
 }
 
@@ -65,9 +70,9 @@ void DocumentController::whenSafe(const Work &next)
 void DocumentController::createNew()
 {
     whenSafe([this] {
-        m_file.clear();
         m_damagedFile.clear();
         m_notices->remove(fileNotice);
+        belongTo({}, {});
         m_workspace->replaceDocument(std::make_unique<pagehost::Document>());
         // The page that it got is no work to be lost.
         m_workspace->document()->markSaved();
@@ -113,12 +118,45 @@ void DocumentController::takeRecovered(pagehost::OpenResult result, const QStrin
 void DocumentController::take(pagehost::OpenResult &result, const QString &file, const char *noticeKey)
 {
     const bool isWhole = result.messages.isEmpty();
-    m_file = isWhole ? file : QString();
     m_damagedFile = isWhole ? QString() : file;
     m_notices->remove(fileNotice);
     if (!isWhole)
         m_notices->add({m_workspace->text(noticeKey).arg(shown(file)), texts(result.messages), {}, fileNotice});
+    belongTo(isWhole ? file : QString(), isWhole ? result.stamp : pagehost::FileStamp());
     m_workspace->replaceDocument(std::move(result.document));
+}
+
+void DocumentController::belongTo(const QString &file, const pagehost::FileStamp &stamp)
+{
+    m_file = file;
+    m_stamp = stamp;
+    m_notices->remove(otherNotice);
+    m_watch.watch(file, stamp);
+}
+
+void DocumentController::showFileState()
+{
+    const QString name = QFileInfo(m_file).fileName();
+    const Notice::Answer answer{m_workspace->text("IDS_BOARD_CONFLICT_DECIDE"), [this] { decide(m_file, {}); }};
+    switch (m_watch.state()) {
+    case FileWatch::Same:
+        m_notices->remove(otherNotice);
+        break;
+    case FileWatch::Gone:
+        m_notices->add({m_workspace->text("IDS_BOARD_FILE_GONE").arg(name), {}, {}, otherNotice});
+        break;
+    case FileWatch::Changed:
+        m_notices->add({m_workspace->text("IDS_BOARD_CONFLICT_TITLE").arg(name), {}, {answer}, otherNotice});
+        break;
+    }
+}
+
+void DocumentController::decide(const QString &file, const Work &next)
+{
+    settle();
+    m_dialogs.askAboutConflict(
+        file, [this, file, next] { saveTo(file, std::nullopt, next); }, [this, file] { openNow(file); },
+        [this, file, next] { write(freeNameBeside(file, QStringLiteral("%1")), pagehost::FileStamp(), next); });
 }
 
 void DocumentController::save(const Work &next)
@@ -127,40 +165,75 @@ void DocumentController::save(const Work &next)
     if (m_file.isEmpty())
         saveAs(next);
     else
-        saveTo(m_file, next);
+        saveTo(m_file, m_stamp, next);
 }
 
 void DocumentController::saveAs(const Work &next)
 {
     settle();
-    m_dialogs.askForFileToSave(suggestion(), [this, next](const QString &file) { saveTo(file, next); });
+    m_dialogs.askForFileToSave(suggestion(), [this, next](const QString &file) {
+        const QString path = QFileInfo(file).absoluteFilePath();
+        // The user has agreed to replace a file that is there.
+        const Expectation other = QFileInfo::exists(path) ? Expectation() : pagehost::FileStamp();
+        saveTo(path, path == m_file ? m_stamp : other, next);
+    });
 }
 
-void DocumentController::saveTo(const QString &file, const Work &next)
+void DocumentController::saveTo(const QString &file, const Expectation &expected, const Work &next)
 {
-    const QString path = QFileInfo(file).absoluteFilePath();
-    const pagehost::SaveResult result = pagehost::saveDocument(*m_workspace->document(), path);
-    if (!result.saved) {
-        m_notices->add(
-            {m_workspace->text("IDS_BOARD_NOT_SAVED").arg(shown(path)), texts({result.problem}), {}, fileNotice});
+    const pagehost::ReplacementEffects effects = pagehost::effectsOfReplacing(file);
+    if (effects.otherNames == 0 && !effects.changesOwner)
+        return write(file, expected, next);
+    m_dialogs.askToSaveShared(
+        file, effects, [this, file, expected, next] { write(file, expected, next); },
+        [this, next] { saveAs(next); });
+}
+
+void DocumentController::write(const QString &file, const Expectation &expected, const Work &next)
+{
+    if (!keepDamaged(file))
         return;
-    }
-    m_file = path;
+    SaveFolders::add(QFileInfo(file).absolutePath());
+    const pagehost::SaveResult result = pagehost::saveDocument(*m_workspace->document(), file, expected);
+    if (result.isConflict)
+        return decide(file, next);
+    if (!result.saved)
+        return showNotSaved(file, result.problem);
     m_damagedFile.clear();
     m_notices->remove(fileNotice);
-    m_recent.add(path);
+    belongTo(file, result.stamp);
+    m_recent.add(file);
     m_workspace->document()->markSaved();
     Q_EMIT stateChanged();
-    Q_EMIT saved(path);
+    Q_EMIT saved(file);
     if (next)
         next();
 }
 
+/// What could not be read of a file may be read by somebody, as long as it is there.
+bool DocumentController::keepDamaged(const QString &file)
+{
+    if (m_damagedFile.isEmpty() || QFileInfo(file) != QFileInfo(m_damagedFile) || !QFileInfo::exists(file))
+        return true;
+    const QString kept = freeNameBeside(file, m_workspace->text("IDS_BOARD_DAMAGED_NAME"));
+    SaveFolders::add(QFileInfo(file).absolutePath());
+    const pagehost::SaveResult result = pagehost::copyFile(file, kept);
+    if (!result.saved)
+        showNotSaved(kept, result.problem);
+    return result.saved;
+}
+
+void DocumentController::showNotSaved(const QString &file, const pagehost::FileMessage &problem)
+{
+    m_notices->add({m_workspace->text("IDS_BOARD_NOT_SAVED").arg(shown(file)), texts({problem}), {}, fileNotice});
+}
+
 QString DocumentController::suggestion() const
 {
-    const QString file = m_file.isEmpty() ? m_damagedFile : m_file;
-    if (!file.isEmpty())
-        return file;
+    if (!m_damagedFile.isEmpty())
+        return freeNameBeside(m_damagedFile, m_workspace->text("IDS_BOARD_REPAIRED_NAME"));
+    if (!m_file.isEmpty())
+        return m_file;
     const QStringList recent = m_recent.files();
     QDir folder = recent.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                    : QFileInfo(recent.first()).absolutePath();

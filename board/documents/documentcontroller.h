@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/filedialogs.h"
+#include "documents/filewatch.h"
 #include "documents/recentfiles.h"
 
 #include <pagehost/documentfile.h>
@@ -10,6 +11,7 @@
 #include <QtCore/QVector>
 
 #include <functional>
+#include <optional>
 
 namespace board {
 
@@ -31,6 +33,11 @@ public:
     QString file() const { return m_file; }
     /// Where the user keeps boards: the folder of file(), else of the last one.
     QString folder() const;
+    /// Of file() as the board knows it.
+    const pagehost::FileStamp &stamp() const { return m_stamp; }
+    FileWatch &fileWatch() { return m_watch; }
+    /// The file that the document was opened from or saved to, though save() may not write it.
+    QString origin() const { return m_file.isEmpty() ? m_damagedFile : m_file; }
     /// For people: the file's name without its folder.
     QString name() const;
     bool isModified() const;
@@ -63,9 +70,19 @@ Q_SIGNALS:
     void saved(const QString &file);
 
 private:
+    /// What is known to be at the place of a file that is written: nothing means whatever is there.
+    using Expectation = std::optional<pagehost::FileStamp>;
+
     void watchDocument();
     void take(pagehost::OpenResult &result, const QString &file, const char *noticeKey);
-    void saveTo(const QString &file, const Work &next);
+    void belongTo(const QString &file, const pagehost::FileStamp &stamp);
+    /// Asks first when others have something of the file.
+    void saveTo(const QString &file, const Expectation &expected, const Work &next);
+    void write(const QString &file, const Expectation &expected, const Work &next);
+    bool keepDamaged(const QString &file);
+    void decide(const QString &file, const Work &next);
+    void showFileState();
+    void showNotSaved(const QString &file, const pagehost::FileMessage &problem);
     void settle();
     QString suggestion() const;
     QStringList texts(const QVector<pagehost::FileMessage> &messages) const;
@@ -74,8 +91,10 @@ private:
     Notices *m_notices;
     FileDialogs m_dialogs;
     RecentFiles m_recent;
+    FileWatch m_watch;
     Work m_settle;
     QString m_file;
+    pagehost::FileStamp m_stamp;
     /// A file that save() must not write unasked, since not all of it was read.
     QString m_damagedFile;
 };

@@ -1,23 +1,19 @@
 #include "documents/filedialogs.h"
 
 #include "application/workspace.h"
-#include "look/icons.h"
+#include "documents/freenames.h"
+#include "documents/question.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
 
 namespace board {
 
 namespace {
 
-constexpr int questionIconSide = 36;
 /// Files that are to be replaced and named one by one.
 constexpr int mostNames = 8;
-const QString binarySuffix = QStringLiteral("board");
-const QString jsonSuffix = QStringLiteral("board.json");
 
 QString filterOf(const QString &name, const QStringList &patterns)
 {
@@ -40,22 +36,6 @@ QString typedFile(const QFileDialog &dialog, const QString &selected)
     const QString name = nameEdit ? nameEdit->text() : QString();
     const bool isPlain = !name.isEmpty() && !name.startsWith(QLatin1Char('~')) && !name.contains(QLatin1Char('"'));
     return isPlain ? dialog.directory().absoluteFilePath(name) : selected;
-}
-
-bool hasFormatSuffix(const QString &file)
-{
-    return file.endsWith(QLatin1Char('.') + binarySuffix, Qt::CaseInsensitive) ||
-           file.endsWith(QLatin1Char('.') + jsonSuffix, Qt::CaseInsensitive);
-}
-
-QMessageBox *makeQuestion(QWidget *window, const QString &text, const QString &explanation)
-{
-    auto *box = new QMessageBox(QMessageBox::NoIcon, window->windowTitle().remove(QStringLiteral("[*]")), text,
-                                QMessageBox::NoButton, window);
-    box->setInformativeText(explanation);
-    box->setIconPixmap(icon(Icon::Info).pixmap(questionIconSide, questionIconSide));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    return box;
 }
 
 } // namespace
@@ -109,7 +89,7 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
 /// The dialog adds its suffix only to names without a dot.
 void FileDialogs::takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const
 {
-    const QString complete = hasFormatSuffix(file) ? file : file + QLatin1Char('.') + suffix;
+    const QString complete = !formatSuffixOf(file).isEmpty() ? file : file + QLatin1Char('.') + suffix;
     if (!QFileInfo::exists(complete))
         return take(complete);
     askToReplace({complete}, [take, complete] { take(complete); });
@@ -134,30 +114,52 @@ void FileDialogs::askToReplace(const QStringList &files, const Work &replace) co
     if (files.size() > mostNames)
         names.append(m_workspace->text("IDS_BOARD_MORE_PROBLEMS").arg(files.size() - mostNames));
     const bool isOne = files.size() == 1;
-    QMessageBox *box = makeQuestion(m_window,
-                                    isOne ? m_workspace->text("IDS_BOARD_REPLACE_TITLE").arg(names.first())
-                                          : m_workspace->text("IDS_BOARD_REPLACE_SEVERAL").arg(files.size()),
-                                    isOne ? QString() : names.join(QLatin1Char('\n')));
-    QPushButton *agree = box->addButton(m_workspace->text("IDS_BOARD_REPLACE"), QMessageBox::DestructiveRole);
-    QPushButton *cancel = box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
-    box->setDefaultButton(cancel);
-    QObject::connect(agree, &QPushButton::clicked, m_window, replace);
-    box->open();
+    const auto text = [this](const char *key) { return m_workspace->text(key); };
+    ask(*m_workspace, m_window,
+        {isOne ? text("IDS_BOARD_REPLACE_TITLE").arg(names.first())
+               : text("IDS_BOARD_REPLACE_SEVERAL").arg(files.size()),
+         isOne ? QString() : names.join(QLatin1Char('\n')),
+         {{text("IDS_BOARD_REPLACE"), true, replace}},
+         {}});
 }
 
 void FileDialogs::askToKeepChanges(const QString &name, const Work &save, const Work &discard) const
 {
-    QMessageBox *box = makeQuestion(m_window, m_workspace->text("IDS_BOARD_KEEP_TITLE").arg(name),
-                                    m_workspace->text("IDS_BOARD_KEEP_TEXT"));
-    QPushButton *saveButton = box->addButton(m_workspace->text("IDS_BOARD_SAVE"), QMessageBox::AcceptRole);
-    QPushButton *discardButton =
-        box->addButton(m_workspace->text("IDS_BOARD_KEEP_DISCARD"), QMessageBox::DestructiveRole);
-    QPushButton *cancel = box->addButton(m_workspace->text("IDS_BOARD_KEEP_CANCEL"), QMessageBox::RejectRole);
-    box->setDefaultButton(saveButton);
-    box->setEscapeButton(cancel);
-    QObject::connect(saveButton, &QPushButton::clicked, m_window, save);
-    QObject::connect(discardButton, &QPushButton::clicked, m_window, discard);
-    box->open();
+    const auto text = [this](const char *key) { return m_workspace->text(key); };
+    ask(*m_workspace, m_window,
+        {text("IDS_BOARD_KEEP_TITLE").arg(name),
+         text("IDS_BOARD_KEEP_TEXT"),
+         {{text("IDS_BOARD_SAVE"), false, save}, {text("IDS_BOARD_KEEP_DISCARD"), true, discard}},
+         {}});
+}
+
+void FileDialogs::askAboutConflict(const QString &file, const Work &keepMine, const Work &takeTheirs,
+                                   const Work &saveBoth) const
+{
+    const auto text = [this](const char *key) { return m_workspace->text(key); };
+    ask(*m_workspace, m_window,
+        {text("IDS_BOARD_CONFLICT_TITLE").arg(QFileInfo(file).fileName()),
+         text("IDS_BOARD_CONFLICT_TEXT"),
+         {{text("IDS_BOARD_CONFLICT_BOTH"), false, saveBoth},
+          {text("IDS_BOARD_CONFLICT_MINE"), true, keepMine},
+          {text("IDS_BOARD_CONFLICT_THEIRS"), true, takeTheirs}},
+         {}});
+}
+
+void FileDialogs::askToSaveShared(const QString &file, const pagehost::ReplacementEffects &effects,
+                                  const Work &save, const Work &saveAs) const
+{
+    const auto text = [this](const char *key) { return m_workspace->text(key); };
+    QStringList explanation;
+    if (effects.otherNames > 0)
+        explanation.append(text("IDS_BOARD_LINKS_TEXT").arg(effects.otherNames));
+    if (effects.changesOwner)
+        explanation.append(text("IDS_BOARD_OWNER_TEXT"));
+    ask(*m_workspace, m_window,
+        {text("IDS_BOARD_SHARED_TITLE").arg(QFileInfo(file).fileName()),
+         explanation.join(QLatin1Char('\n')),
+         {{text("IDS_BOARD_SAVE_AS"), false, saveAs}, {text("IDS_BOARD_SAVE_HERE"), true, save}},
+         {}});
 }
 
 } // namespace board

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/filestamp.h>
+
 #include <QtCore/QStringList>
 
 #include <functional>
@@ -32,6 +34,12 @@ public:
     void askToReplace(const QStringList &files, const Work &replace) const;
     /// What to do with unsaved changes to `name`.
     void askToKeepChanges(const QString &name, const Work &save, const Work &discard) const;
+    /// What to do about `file`, which somebody else has changed.
+    void askAboutConflict(const QString &file, const Work &keepMine, const Work &takeTheirs,
+                          const Work &saveBoth) const;
+    /// Before saving to `file` changes what others have of it.
+    void askToSaveShared(const QString &file, const pagehost::ReplacementEffects &effects, const Work &save,
+                         const Work &saveAs) const;
 
 private:
     void takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const;

@@ -31,6 +31,8 @@ void RecentFiles::add(const QString &file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
     QStringList all = stored();
+    if (!all.isEmpty() && all.first() == path)
+        return;
     all.removeAll(path);
     all.prepend(path);
     QSettings().setValue(settingsKey, QStringList(all.mid(0, most)));

@@ -2,9 +2,13 @@
 
 #include "application/workspace.h"
 #include "documents/documentcontroller.h"
+#include "documents/question.h"
+#include "documents/savefolders.h"
 #include "window/notices.h"
 
 #include <pagehost/documentfile.h>
+#include <pagehost/page.h>
+#include <pagehost/pagepainter.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -13,8 +17,25 @@
 
 namespace board {
 
-Recovery::Recovery(Workspace *workspace, DocumentController *documents, Notices *notices, QObject *parent)
-    : QObject(parent)
+namespace {
+
+constexpr int pictureWidth = 120;
+
+/// A page with something on it; the first one where all are empty.
+pagehost::Page *telling(const pagehost::Document &document)
+{
+    for (pagehost::Page *page : document.pages()) {
+        if (page->objectCount() > 0)
+            return page;
+    }
+    return document.page(0);
+}
+
+} // namespace
+
+Recovery::Recovery(Workspace *workspace, DocumentController *documents, Notices *notices, QWidget *window)
+    : QObject(window)
+    , m_window(window)
     , m_workspace(workspace)
     , m_documents(documents)
     , m_notices(notices)
@@ -22,7 +43,7 @@ Recovery::Recovery(Workspace *workspace, DocumentController *documents, Notices 
 {
     connect(workspace, &Workspace::documentReplaced, this, &Recovery::watchDocument);
     connect(documents, &DocumentController::saved, this,
-            [this](const QString &file) { m_autosave.setOriginalFile(file); });
+            [this](const QString &file) { m_autosave.setOriginalFile(file, m_documents->stamp()); });
     connect(&m_autosave, &pagehost::Autosave::failed, this, [this](const pagehost::FileMessage &problem) {
         m_notices->add({m_workspace->text("IDS_BOARD_AUTOSAVE_FAILED"),
                         {pagehost::describe(problem, m_workspace->localizer())},
@@ -32,25 +53,67 @@ Recovery::Recovery(Workspace *workspace, DocumentController *documents, Notices 
     watchDocument();
 }
 
+void Recovery::setCompletion(const std::function<void()> &complete)
+{
+    connect(&m_autosave, &pagehost::Autosave::aboutToLook, this, complete);
+}
+
 void Recovery::watchDocument()
 {
-    m_autosave.setDocument(m_workspace->document(), m_documents->file());
+    m_autosave.setDocument(m_workspace->document(), m_documents->origin(), m_documents->stamp());
 }
 
 void Recovery::offer()
 {
+    SaveFolders::tidy();
+    m_autosave.tidy();
+    for (const pagehost::RecoverableDocument &copy : m_autosave.recoverable())
+        show(offerOf(copy));
+}
+
+Recovery::Offer Recovery::offerOf(const pagehost::RecoverableDocument &copy) const
+{
     const QLocale locale(m_workspace->localizer().language());
-    for (const pagehost::RecoverableDocument &copy : m_autosave.recoverable()) {
-        const QString name = copy.originalFile.isEmpty() ? m_workspace->text("IDS_BOARD_UNTITLED")
-                                                         : QFileInfo(copy.originalFile).fileName();
-        const QString time = locale.toString(copy.time, QLocale::ShortFormat);
-        const QString text = m_workspace->text("IDS_BOARD_RECOVERABLE").arg(name, time);
-        m_notices->add({text,
-                        {},
-                        {{m_workspace->text("IDS_BOARD_RECOVER"), [this, copy] { recover(copy); }},
-                         {m_workspace->text("IDS_BOARD_FORGET"), [copy] { pagehost::Autosave::discard(copy); }}},
-                        copy.recoveryFile});
-    }
+    const QString name = copy.originalFile.isEmpty() ? m_workspace->text("IDS_BOARD_UNTITLED")
+                                                     : QFileInfo(copy.originalFile).fileName();
+    const QString time = locale.toString(copy.time, QLocale::ShortFormat);
+    Offer offer{copy, m_workspace->text("IDS_BOARD_RECOVERY_NAME").arg(name, time), {}};
+    const pagehost::OpenResult opened = pagehost::openDocument(copy.recoveryFile, m_workspace->registry());
+    if (!opened.document)
+        return offer;
+    const int pages = opened.document->pageCount();
+    const char *key = pages == 1 ? "IDS_BOARD_RECOVERY_ONE_PAGE" : "IDS_BOARD_RECOVERY_PAGES";
+    offer.description = m_workspace->text(key).arg(offer.description, QString::number(pages));
+    pagehost::Page *page = telling(*opened.document);
+    offer.picture = QPixmap::fromImage(pagehost::pageImage(page, pictureWidth / page->size().width()));
+    return offer;
+}
+
+void Recovery::show(const Offer &offer)
+{
+    const pagehost::RecoverableDocument copy = offer.copy;
+    m_notices->add({m_workspace->text("IDS_BOARD_RECOVERABLE").arg(offer.description),
+                    {},
+                    {{m_workspace->text("IDS_BOARD_RECOVER"), [this, copy] { recover(copy); }},
+                     {m_workspace->text("IDS_BOARD_FORGET"), [this, offer] { askToDiscard(offer); }}},
+                    copy.recoveryFile,
+                    offer.picture});
+}
+
+/// The offer stays until the answer.
+void Recovery::askToDiscard(const Offer &offer)
+{
+    show(offer);
+    const pagehost::RecoverableDocument copy = offer.copy;
+    const auto discard = [this, copy] {
+        m_notices->remove(copy.recoveryFile);
+        pagehost::Autosave::discard(copy);
+    };
+    ask(*m_workspace, m_window,
+        {m_workspace->text("IDS_BOARD_FORGET_TITLE").arg(offer.description),
+         m_workspace->text("IDS_BOARD_FORGET_TEXT"),
+         {{m_workspace->text("IDS_BOARD_FORGET_FOR_EVER"), true, discard}},
+         offer.picture});
 }
 
 void Recovery::recover(const pagehost::RecoverableDocument &copy)

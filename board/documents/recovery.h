@@ -3,6 +3,9 @@
 #include <pagehost/autosave.h>
 
 #include <QtCore/QObject>
+#include <QtGui/QPixmap>
+
+#include <functional>
 
 namespace board {
 
@@ -16,17 +19,32 @@ class Recovery : public QObject
     Q_OBJECT
 
 public:
-    /// All must outlive this.
-    Recovery(Workspace *workspace, DocumentController *documents, Notices *notices, QObject *parent = nullptr);
+    /// All must outlive this. Questions belong to `window`.
+    Recovery(Workspace *workspace, DocumentController *documents, Notices *notices, QWidget *window);
 
-    /// One notice for each copy that a program which is gone left behind.
+    /// Clears away what interrupted saves left, and gives one notice for each copy that a program which is gone
+    /// left behind.
     void offer();
+    /// Puts into the document what belongs into a copy and is not in it yet.
+    void setCompletion(const std::function<void()> &complete);
     pagehost::Autosave &autosave() { return m_autosave; }
 
 private:
+    /// What tells one copy from another.
+    struct Offer
+    {
+        pagehost::RecoverableDocument copy;
+        QString description; ///< name, time, number of pages
+        QPixmap picture;     ///< of the first page with something on it
+    };
+
     void watchDocument();
+    Offer offerOf(const pagehost::RecoverableDocument &copy) const;
+    void show(const Offer &offer);
+    void askToDiscard(const Offer &offer);
     void recover(const pagehost::RecoverableDocument &copy);
 
+    QWidget *m_window;
     Workspace *m_workspace;
     DocumentController *m_documents;
     Notices *m_notices;

@@ -3,7 +3,11 @@
 #include "application/workspace.h"
 #include "window/notices.h"
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <algorithm>
 
 namespace board {
 
@@ -52,25 +56,33 @@ pagehost::Document *LessonController::shownDocument() const
 void LessonController::followDocument()
 {
     m_recorder.stop();
-    m_kept = -1;
     close();
-    connect(m_workspace->document(), &pagehost::Document::lessonsChanged, this, &LessonController::readLessons);
-    m_chosen = -1;
+    connect(m_workspace->document(), &pagehost::Document::lessonsChanged, this, &LessonController::followLessons);
     readLessons();
+    m_chosen = m_names.size() - 1;
+    Q_EMIT lessonsChanged();
     Q_EMIT stateChanged();
 }
 
 void LessonController::readLessons()
 {
+    m_lessons = m_workspace->document()->lessons();
     m_names.clear();
     m_durations.clear();
-    const QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
-    for (const pagehost::LessonData &data : lessons) {
+    for (const pagehost::LessonData &data : qAsConst(m_lessons)) {
         m_names.append(data.name);
         m_durations.append(lessonOf(data).duration);
     }
-    if (m_chosen < 0 || m_chosen >= m_names.size())
-        m_chosen = m_names.size() - 1;
+}
+
+/// The first lesson that is another is the one that was changed, came, or came back.
+void LessonController::followLessons()
+{
+    close();
+    const QVector<pagehost::LessonData> before = m_lessons;
+    readLessons();
+    const auto difference = std::mismatch(before.begin(), before.end(), m_lessons.begin(), m_lessons.end());
+    m_chosen = qMin(int(difference.second - m_lessons.begin()), m_lessons.size() - 1);
     Q_EMIT lessonsChanged();
 }
 
@@ -89,8 +101,7 @@ QVector<qint64> LessonController::moments() const
     if (m_chosen < 0)
         return times;
     qint64 last = -momentLength - 1;
-    const pagehost::Lesson lesson =
-        m_showing ? m_player.lesson() : lessonOf(m_workspace->document()->lessons().at(m_chosen));
+    const pagehost::Lesson lesson = m_showing ? m_player.lesson() : lessonOf(m_lessons.at(m_chosen));
     for (const pagehost::LessonEvent &event : lesson.events) {
         if (event.time - last > momentLength)
             times.append(event.time);
@@ -109,8 +120,9 @@ qint64 LessonController::position() const
 void LessonController::recordOrStop()
 {
     if (isRecording()) {
-        keep(m_recorder.stop());
-        m_kept = -1;
+        const pagehost::LessonData lesson = named(m_recorder.stop());
+        m_workspace->document()->setUnfinishedLesson({});
+        pagehost::addLesson(m_workspace->document(), lesson);
     } else {
         close();
         m_recorder.start(m_workspace->document());
@@ -129,21 +141,16 @@ void LessonController::pauseOrResumeRecording()
 
 void LessonController::keepSoFar()
 {
-    if (isRecording())
-        keep(m_recorder.soFar());
+    pagehost::Document *document = m_workspace->document();
+    // In the middle of a drag an object is in a state that it never will be in again.
+    if (isRecording() && !document->currentPage()->scene()->isDragging())
+        document->setUnfinishedLesson(named(m_recorder.soFar()));
 }
 
-void LessonController::keep(pagehost::Lesson lesson)
+pagehost::LessonData LessonController::named(pagehost::Lesson lesson) const
 {
-    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
-    if (m_kept < 0 || m_kept >= lessons.size()) {
-        m_kept = lessons.size();
-        lessons.append({m_workspace->text("IDS_LESSON_NAME").arg(m_kept + 1), {}});
-    }
-    lesson.title = lessons[m_kept].name;
-    lessons[m_kept].data = lesson.toBytes();
-    m_chosen = m_kept;
-    m_workspace->document()->setLessons(lessons);
+    lesson.title = m_workspace->text("IDS_LESSON_NAME").arg(m_lessons.size() + 1);
+    return {lesson.title, lesson.toBytes()};
 }
 
 bool LessonController::show()
@@ -152,7 +159,7 @@ bool LessonController::show()
         return true;
     if (isRecording() || m_chosen < 0)
         return false;
-    const pagehost::LessonData data = m_workspace->document()->lessons().at(m_chosen);
+    const pagehost::LessonData data = m_lessons.at(m_chosen);
     pagehost::Lesson lesson;
     const pagehost::LessonExtent extent = lesson.fromDamagedData(data.data);
     if (extent == pagehost::LessonExtent::Nothing) {
@@ -212,27 +219,25 @@ void LessonController::setSpeed(double speed)
 
 void LessonController::renameChosen(const QString &name)
 {
-    if (isRecording() || m_chosen < 0 || name.trimmed().isEmpty() || name.trimmed() == m_names.at(m_chosen))
-        return;
-    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
-    pagehost::LessonData &renamed = lessons[m_chosen];
-    renamed.name = name.trimmed();
-    pagehost::Lesson lesson;
-    if (lesson.fromData(renamed.data)) {
-        lesson.title = renamed.name;
-        renamed.data = lesson.toBytes();
-    }
-    m_workspace->document()->setLessons(lessons);
+    if (!isRecording() && !name.trimmed().isEmpty())
+        pagehost::renameLesson(m_workspace->document(), m_chosen, name.trimmed());
 }
 
 void LessonController::removeChosen()
 {
-    if (isRecording() || m_chosen < 0)
-        return;
-    close();
-    QVector<pagehost::LessonData> lessons = m_workspace->document()->lessons();
-    lessons.removeAt(m_chosen);
-    m_workspace->document()->setLessons(lessons);
+    if (!isRecording())
+        pagehost::removeLesson(m_workspace->document(), m_chosen);
+}
+
+bool LessonController::canCut() const
+{
+    return m_showing && position() < duration();
+}
+
+void LessonController::cutChosen()
+{
+    if (canCut())
+        pagehost::cutLesson(m_workspace->document(), m_chosen, position());
 }
 
 } // namespace board

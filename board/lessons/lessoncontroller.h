@@ -1,5 +1,6 @@
 #pragma once
 
+#include <pagehost/document.h>
 #include <pagehost/lessonplayer.h>
 #include <pagehost/lessonrecorder.h>
 
@@ -56,12 +57,15 @@ public:
     /// Shows the document again.
     void close();
     void removeChosen();
+    /// Takes away what comes after the moment that is shown, and shows the document again.
+    void cutChosen();
+    bool canCut() const;
     /// Takes another name for the chosen lesson; spaces around it are dropped, and an empty one is ignored.
     void renameChosen(const QString &name);
     /// Milliseconds of a lesson for one of real time.
     double speed() const { return m_player.speed(); }
     void setSpeed(double speed);
-    /// Keeps what has been recorded so far with the document, which is about to be saved or left.
+    /// Has what is being recorded saved with the document, as far as it goes.
     void keepSoFar();
 
 Q_SIGNALS:
@@ -74,7 +78,8 @@ Q_SIGNALS:
 private:
     void followDocument();
     void readLessons();
-    void keep(pagehost::Lesson lesson);
+    void followLessons();
+    pagehost::LessonData named(pagehost::Lesson lesson) const;
     bool show();
     void showDocument();
 
@@ -82,10 +87,10 @@ private:
     Notices *m_notices;
     pagehost::LessonRecorder m_recorder;
     pagehost::LessonPlayer m_player;
+    QVector<pagehost::LessonData> m_lessons; ///< of the document
     QStringList m_names;
     QVector<qint64> m_durations;
     int m_chosen = -1;
-    int m_kept = -1; ///< place of the lesson that is being recorded among the document's; -1 before it is kept
     bool m_showing = false;
 };
 

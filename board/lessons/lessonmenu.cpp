@@ -27,18 +27,21 @@ LessonMenu::LessonMenu(const Workspace *workspace, LessonController *lessons, QO
     // The bar has the field for the name.
     rename = new QAction(workspace->text("IDS_LESSON_RENAME"), this);
     rename->setShortcut(Qt::Key_F2);
+    cut = make({}, &LessonController::cutChosen);
+    cut->setText(workspace->text("IDS_LESSON_CUT"));
     remove = make({}, &LessonController::removeChosen);
     close->setText(workspace->text("IDS_LESSON_CLOSE"));
     remove->setText(workspace->text("IDS_LESSON_REMOVE"));
     remove->setIcon(icon(Icon::Delete));
     connect(lessons, &LessonController::stateChanged, this, &LessonMenu::update);
     connect(lessons, &LessonController::lessonsChanged, this, &LessonMenu::update);
+    connect(lessons, &LessonController::positionChanged, this, [this] { cut->setEnabled(m_lessons->canCut()); });
     update();
 }
 
 QList<QAction *> LessonMenu::actions() const
 {
-    return {record, pauseRecording, nullptr, play, close, nullptr, rename, remove};
+    return {record, pauseRecording, nullptr, play, close, nullptr, rename, cut, remove};
 }
 
 void LessonMenu::update()
@@ -60,8 +63,9 @@ void LessonMenu::update()
     play->setEnabled(hasLesson && !recording);
     close->setEnabled(m_lessons->isShowing());
     rename->setEnabled(hasLesson && !recording);
+    cut->setEnabled(m_lessons->canCut());
     remove->setEnabled(hasLesson && !recording);
-    for (QAction *action : {record, pauseRecording, play, close, rename, remove})
+    for (QAction *action : {record, pauseRecording, play, close, rename, cut, remove})
         describe(action);
 }
 

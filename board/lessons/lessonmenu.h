@@ -18,7 +18,7 @@ public:
     /// All must outlive this.
     LessonMenu(const Workspace *workspace, LessonController *lessons, QObject *parent);
 
-    QAction *record, *pauseRecording, *play, *close, *rename, *remove;
+    QAction *record, *pauseRecording, *play, *close, *rename, *cut, *remove;
     /// In menu order; null for a separator.
     QList<QAction *> actions() const;
 

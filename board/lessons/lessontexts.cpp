@@ -17,6 +17,7 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_PAUSE", "Pause the lesson", "Lektion anhalten"},
         {"IDS_LESSON_CLOSE", "Back to the board", "Zurück zur Tafel"},
         {"IDS_LESSON_REMOVE", "Delete the lesson", "Lektion löschen"},
+        {"IDS_LESSON_CUT", "Cut the lesson off here", "Lektion hier abschneiden"},
         {"IDS_LESSON_RENAME", "Rename the lesson", "Lektion umbenennen"},
         {"IDS_LESSON_NEW_NAME", "Name of the lesson", "Name der Lektion"},
         {"IDS_LESSON_SPEED", "Speed of the lesson", "Geschwindigkeit der Lektion"},

@@ -264,6 +264,7 @@ void MainWindow::connectLessons()
         m_lock.setLocked(m_lessons->isShowing());
         showCurrentPage();
     });
+    m_recovery->setCompletion([this] { m_lessons->keepSoFar(); });
 }
 
 void MainWindow::connectAnimation()

@@ -79,7 +79,7 @@ QWidget *Notices::makeBar(const Notice &notice)
     row->setContentsMargins(largeGap, mediumGap, largeGap, mediumGap);
     row->setSpacing(mediumGap);
     auto *sign = new QLabel(bar);
-    sign->setPixmap(icon(Icon::Info).pixmap(signSide, signSide));
+    sign->setPixmap(notice.picture.isNull() ? icon(Icon::Info).pixmap(signSide, signSide) : notice.picture);
     row->addWidget(sign, 0, Qt::AlignTop);
     row->addWidget(makeTexts(notice, bar), 1);
     const auto addButton = [&](const QString &text, const std::function<void()> &work) {

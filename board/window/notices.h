@@ -2,6 +2,7 @@
 
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
 #include <functional>
@@ -26,6 +27,7 @@ struct Notice
     QVector<Answer> answers; ///< an answer closes the notice
     /// A notice with an id takes the place of the one that has the same.
     QString id;
+    QPixmap picture{}; ///< in place of the sign
 };
 
 /// Bars above the page that stay until the user closes or answers them.

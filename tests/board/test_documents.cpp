@@ -1,6 +1,6 @@
 // The document's file: new, open, save, what is asked before changes are lost, recent files, recovery.
 
-#include <board/boarddriver.h>
+#include <board/desk.h>
 
 #include <documents/documentcontroller.h>
 #include <documents/documentmenu.h>
@@ -36,51 +36,6 @@
 #include <sys/resource.h>
 
 using namespace boardtest;
-
-/// A board, a folder for its files, and the answers to its dialogs.
-struct Desk
-{
-    Desk() { QSettings().clear(); }
-
-    QString path(const QString &name) const { return folder.filePath(name); }
-    board::DocumentController &documents() { return *board.window().documents(); }
-    CBaseObject *drawOne() { return board.draw(rectangle, {500, 300}, {700, 420}); }
-    void press(const QString &buttonText)
-    {
-        QPushButton *button = board.button(buttonText);
-        QVERIFY2(button, qPrintable(buttonText));
-        QTest::mouseClick(button, Qt::LeftButton);
-    }
-    /// Writes the name into the open file dialog and agrees.
-    void answerFile(const QString &file)
-    {
-        auto *dialog = board.window().findChild<QFileDialog *>();
-        QVERIFY(dialog);
-        auto *line = dialog->findChild<QLineEdit *>();
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        line->setFocus();
-        line->setText(file);
-        QTest::keyClick(line, Qt::Key_Return);
-        QTRY_VERIFY(!board.window().findChild<QFileDialog *>());
-    }
-    bool isAsked() const { return board.window().findChild<QMessageBox *>() != nullptr; }
-    QString notices() const
-    {
-        QStringList texts;
-        for (const QLabel *label : board.window().notices()->findChildren<QLabel *>())
-            texts.append(label->text());
-        return texts.join('\n');
-    }
-    int objectCount() { return board.page().objectCount(); }
-    void saveAs(const QString &name)
-    {
-        board.key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-        answerFile(path(name));
-    }
-
-    QTemporaryDir folder;
-    BoardDriver board;
-};
 
 /// While it lives, no file of this process can grow beyond a few bytes.
 class FullDisk
@@ -129,6 +84,8 @@ private Q_SLOTS:
     void aFullDiskIsToldAndLosesNothing();
     void aFileThatIsNoBoardIsRefusedWithAReason();
     void aDamagedBoardTellsWhatIsMissingAndIsNotOverwrittenUnasked();
+    void aDamagedBoardGetsANewName();
+    void aDamagedBoardIsKeptBesideTheOneThatTakesItsName();
     void recentFilesAreOffered();
     void recentFilesThatAreGoneAreNotOffered();
     void newBoardIsEmpty();
@@ -136,7 +93,10 @@ private Q_SLOTS:
     void theNameOfADottedFileGetsTheFormat();
     void anExistingFileIsNotReplacedBehindASuffix();
     void workOfACrashIsOfferedAndBroughtBack();
-    void workOfACrashCanBeForgotten();
+    void offersOfWorkAreToldApart();
+    void workOfACrashIsDeletedAfterAQuestionOnly();
+    void workOverAnOriginalThatHasChangedIsNotSavedUnasked();
+    void remainsOfAnInterruptedSaveAreClearedAwayAtTheStart();
     void workOfThisWindowIsNotOfferedToIt();
     void aFailedCopyOfTheWorkIsTold();
     void keysHaveFallbacks_data();
@@ -408,6 +368,51 @@ void TestDocuments::aDamagedBoardTellsWhatIsMissingAndIsNotOverwrittenUnasked()
     QVERIFY(desk.board.window().findChild<QFileDialog *>());
 }
 
+/// Cuts the last quarter of a saved board off and opens what is left.
+static void openDamaged(Desk &desk)
+{
+    desk.drawOne();
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    desk.saveAs("half.board");
+    QVERIFY(QFile::resize(desk.path("half.board"), QFileInfo(desk.path("half.board")).size() * 3 / 4));
+    QVERIFY(desk.documents().openNow(desk.path("half.board")));
+}
+
+void TestDocuments::aDamagedBoardGetsANewName()
+{
+    Desk desk;
+    openDamaged(desk);
+    const QByteArray damaged = desk.contents("half.board");
+    desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    auto *dialog = desk.board.window().findChild<QFileDialog *>();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->findChild<QLineEdit *>()->text(), QString("half (repaired).board"));
+    desk.answerFile(desk.path("half (repaired).board"));
+    QCOMPARE(desk.contents("half.board"), damaged);
+    QCOMPARE(desk.documents().name(), QString("half (repaired).board"));
+    QVERIFY(QFile::exists(desk.path("half (repaired).board")));
+}
+
+void TestDocuments::aDamagedBoardIsKeptBesideTheOneThatTakesItsName()
+{
+    Desk desk;
+    openDamaged(desk);
+    const QByteArray damaged = desk.contents("half.board");
+    desk.saveAs("half.board");
+    desk.press("Replace");
+    QVERIFY(desk.contents("half.board") != damaged);
+    QCOMPARE(desk.contents("half (damaged).board"), damaged);
+    const pagehost::OpenResult saved =
+        pagehost::openDocument(desk.path("half.board"), desk.board.workspace().registry());
+    QCOMPARE(saved.document->page(0)->objectCount(), desk.objectCount());
+    // Now it is whole: the next save is a plain one.
+    QTRY_VERIFY(!desk.isAsked());
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!desk.board.window().isWindowModified());
+    QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files).size(), 2);
+}
+
 void TestDocuments::recentFilesAreOffered()
 {
     Desk desk;
@@ -526,16 +531,90 @@ void TestDocuments::workOfACrashIsOfferedAndBroughtBack()
     QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
 }
 
-void TestDocuments::workOfACrashCanBeForgotten()
+void TestDocuments::offersOfWorkAreToldApart()
+{
+    Desk desk;
+    desk.saveAs("lesson.board");
+    desk.drawOne();
+    QTest::mouseClick(&desk.board.view(), Qt::NoButton);
+    desk.board.action("Add page")->trigger();
+    leaveCopy(desk);
+    const QDateTime noon(QDate(2024, 5, 6), QTime(12, 34));
+    QFile copy(
+        QFileInfo(desk.board.window().recovery()->autosave().recoveryFile()).dir().filePath("crashed.board"));
+    QVERIFY(copy.open(QIODevice::ReadWrite));
+    QVERIFY(copy.setFileTime(noon, QFileDevice::FileModificationTime));
+    copy.close();
+    desk.board.window().recovery()->offer();
+    const QString time = QLocale("en").toString(noon, QLocale::ShortFormat);
+    QVERIFY2(desk.notices().contains("“lesson.board” from " + time + ", 2 pages"), qPrintable(desk.notices()));
+    // The picture of the page with the rectangle: 120 pixels of 1280 units, the rectangle from 500 to 700.
+    QImage picture;
+    for (const QLabel *label : desk.board.window().notices()->findChildren<QLabel *>()) {
+        if (label->pixmap(Qt::ReturnByValue).width() == 120)
+            picture = label->pixmap(Qt::ReturnByValue).toImage();
+    }
+    QVERIFY(!picture.isNull());
+    QVERIFY(picture.pixel(56, 34) != picture.pixel(10, 10));
+}
+
+void TestDocuments::workOfACrashIsDeletedAfterAQuestionOnly()
 {
     Desk desk;
     desk.drawOne();
     leaveCopy(desk);
     QCOMPARE(desk.board.window().recovery()->autosave().recoverable().size(), 1);
     desk.board.window().recovery()->offer();
-    desk.press("Delete");
+    desk.press("Delete…");
+    QVERIFY(desk.isAsked());
+    desk.press("Cancel");
+    QCOMPARE(desk.board.window().recovery()->autosave().recoverable().size(), 1);
+    QTRY_VERIFY(!desk.isAsked());
+    // It is still offered.
+    desk.press("Delete…");
+    desk.press("Delete for ever");
     QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
+    QTRY_COMPARE(desk.notices(), QString());
     QCOMPARE(desk.objectCount(), 1);
+}
+
+void TestDocuments::workOverAnOriginalThatHasChangedIsNotSavedUnasked()
+{
+    Desk desk;
+    desk.drawOne();
+    desk.saveAs("lesson.board");
+    desk.board.draw(arrow, {100, 100}, {200, 200});
+    leaveCopy(desk);
+    QVERIFY(desk.documents().openNow(desk.path("lesson.board")));
+    desk.board.key(Qt::Key_A, Qt::ControlModifier);
+    desk.board.key(Qt::Key_Delete);
+    desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    const QByteArray newer = desk.contents("lesson.board");
+    desk.board.window().recovery()->offer();
+    desk.press("Bring back");
+    QCOMPARE(desk.objectCount(), 2);
+    QCOMPARE(desk.documents().name(), QString("lesson.board"));
+    QVERIFY2(desk.notices().contains("“lesson.board” was changed by somebody else"), qPrintable(desk.notices()));
+    desk.board.key(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(desk.isAsked());
+    QCOMPARE(desk.contents("lesson.board"), newer);
+    desk.press("Save both");
+    QCOMPARE(desk.contents("lesson.board"), newer);
+    QCOMPARE(desk.documents().name(), QString("lesson 2.board"));
+}
+
+void TestDocuments::remainsOfAnInterruptedSaveAreClearedAwayAtTheStart()
+{
+    Desk desk;
+    desk.drawOne();
+    desk.saveAs("lesson.board");
+    const QString remains = desk.path(".00000000-0000-4000-8000-000000000000.unfinished-board");
+    QFile file(remains);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    desk.board.window().recovery()->offer();
+    QVERIFY(!QFile::exists(remains));
+    QVERIFY(QFile::exists(desk.path("lesson.board")));
 }
 
 void TestDocuments::workOfThisWindowIsNotOfferedToIt()

@@ -1,26 +1,19 @@
-// What is left when the board is killed: while it saves, and while nothing has been saved.
+// What is left when the board is killed: at each system call of a save, and while nothing has been saved.
 
-#include <board/boarddriver.h>
+#include <board/desk.h>
 
-#include <documents/documentcontroller.h>
+#include <support/systemcalls.h>
+
 #include <documents/recovery.h>
-#include <objects/demopages.h>
-#include <window/mainwindow.h>
-#include <window/notices.h>
+#include <lessons/lessoncontroller.h>
 
 #include <pagehost/documentfile.h>
-#include <pagehost/page.h>
 
 #include <framework/cbaseobject.h>
 
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
+#include <QtCore/QDir>
 
 #include <csignal>
-#include <random>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,41 +21,55 @@ using namespace boardtest;
 
 namespace {
 
-constexpr int kills = 100; ///< in each format
-/// Milliseconds after which a slow build, with a sanitizer for instance, has been killed often enough in one
-/// format.
-constexpr int patience = 30000;
-constexpr int measuredSaves = 4;
-/// What becomes of the last moment of a kill after one that found the old file and the new one: where the board
-/// gets through many saves both are found equally often, so that the moments come nearer again.
-constexpr double later = 1.25;
-constexpr double earlier = 0.5;
 const QPointF corner(500, 300);
 const QPointF oppositeCorner(700, 420);
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void takeBackAndSave(BoardDriver &board)
-{
-    board.key(Qt::Key_Z, Qt::ControlModifier);
-    board.key(Qt::Key_S, Qt::ControlModifier);
-}
-
-void doAgainAndSave(BoardDriver &board)
-{
-    board.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    board.key(Qt::Key_S, Qt::ControlModifier);
-}
+const QStringList writingCalls{QStringLiteral("openat"), QStringLiteral("write"), QStringLiteral("fchown"),
+                               QStringLiteral("fchmod"), QStringLiteral("fsync"), QStringLiteral("flock"),
+                               QStringLiteral("rename")};
 
 void killAndWait(pid_t process)
 {
     ::kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
 }
+
+/// A board with changes over a saved file.
+struct ChangedDesk : Desk
+{
+    explicit ChangedDesk(const QString &fileName)
+        : name(fileName)
+    {
+        drawOne();
+        saveAs(name);
+        oldBytes = contents(name);
+        board.draw(arrow, {100, 100}, {200, 200});
+        newBytes = pagehost::encodeDocument(*board.workspace().document(), pagehost::documentFormatOf(name));
+    }
+
+    /// To be run in a copy of this process; 0 when the board says that it has saved.
+    int save()
+    {
+        documents().save();
+        return board.window().isWindowModified() ? 1 : 0;
+    }
+    support::TracedRun traced(const QString &disturbance = {})
+    {
+        return support::traced([this] { return save(); }, disturbance);
+    }
+    void putOldFileBack()
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(oldBytes) != oldBytes.size())
+            qFatal("the file cannot be written");
+    }
+    /// What the program does when it starts.
+    void startAgain() { board.window().recovery()->offer(); }
+    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    QString name;
+    QByteArray oldBytes;
+    QByteArray newBytes;
+};
 
 } // namespace
 
@@ -74,9 +81,21 @@ private Q_SLOTS:
     void initTestCase() { useOwnFolders(); }
     // First: a child has none of the threads that boards start in this process, and would wait for them.
     void workOfAKilledBoardIsOfferedAndBroughtBack();
-    void killedWhileSavingItLeavesTheOldOrTheNewFile_data();
-    void killedWhileSavingItLeavesTheOldOrTheNewFile();
+    void saveKilledAtAnyOfItsCallsLeavesTheOldOrTheNewFile_data() { addNames(); }
+    void saveKilledAtAnyOfItsCallsLeavesTheOldOrTheNewFile();
+    void diskThatIsFullAtAnyCallLeavesTheOldOrTheNewFile_data() { addNames(); }
+    void diskThatIsFullAtAnyCallLeavesTheOldOrTheNewFile();
+
+private:
+    void addNames();
 };
+
+void TestKilled::addNames()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("binary") << "lesson.board";
+    QTest::newRow("json") << "lesson.board.json";
+}
 
 void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
 {
@@ -86,6 +105,7 @@ void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
     const pid_t child = fork();
     if (child == 0) {
         BoardDriver board;
+        board.window().lessons()->recordOrStop();
         board.draw(rectangle, corner, oppositeCorner);
         const char made = board.window().recovery()->autosave().saveNow() ? 1 : 0;
         const bool told = write(ready[1], &made, 1) == 1;
@@ -109,66 +129,52 @@ void TestKilled::workOfAKilledBoardIsOfferedAndBroughtBack()
     QCOMPARE(next.placeOf(qAsConst(next).page().objects().first()), QRectF(corner, oppositeCorner));
     QVERIFY(next.window().isWindowModified());
     QVERIFY(next.window().recovery()->autosave().recoverable().isEmpty());
+    // The lesson that was being recorded, too.
+    QCOMPARE(next.window().lessons()->names(), QStringList{"Lesson 1"});
+    next.window().lessons()->seek(next.window().lessons()->duration());
+    QVERIFY(next.window().lessons()->isShowing());
+    QCOMPARE(next.page().objectCount(), 1);
 }
 
-void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("binary") << "lesson.board";
-    QTest::newRow("json") << "lesson.board.json";
-}
-
-void TestKilled::killedWhileSavingItLeavesTheOldOrTheNewFile()
+void TestKilled::saveKilledAtAnyOfItsCallsLeavesTheOldOrTheNewFile()
 {
     QFETCH(QString, name);
-    QSettings().clear();
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(name);
-    BoardDriver board;
-    board::fillWithDemo(board.workspace());
-    QVERIFY(pagehost::saveDocument(*board.workspace().document(), file).saved);
-    QVERIFY(board.window().documents()->openNow(file));
-    board.draw(rectangle, corner, oppositeCorner);
-    board.key(Qt::Key_S, Qt::ControlModifier);
-    const QByteArray newBytes = contentsOf(file);
-    takeBackAndSave(board);
-    const QByteArray oldBytes = contentsOf(file);
-    QVERIFY(oldBytes.size() < newBytes.size());
-
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < measuredSaves / 2; ++i) {
-        doAgainAndSave(board);
-        QCOMPARE(contentsOf(file), newBytes);
-        takeBackAndSave(board);
-        QCOMPARE(contentsOf(file), oldBytes);
+    ChangedDesk desk(name);
+    const support::TracedRun whole = desk.traced();
+    QVERIFY2(whole.problem.isEmpty(), qPrintable(whole.problem));
+    QCOMPARE(whole.exitCode, 0);
+    QCOMPARE(desk.contents(name), desk.newBytes);
+    QVERIFY(support::isPast(whole, "rename"));
+    for (const support::SystemCall &call : whole.calls) {
+        desk.putOldFileBack();
+        const support::TracedRun run = desk.traced(call.killing());
+        QVERIFY2(run.problem.isEmpty(), qPrintable(run.problem));
+        QVERIFY2(desk.contents(name) == (support::isPast(run, "rename") ? desk.newBytes : desk.oldBytes),
+                 call.name);
+        desk.startAgain();
+        QCOMPARE(desk.files(), QStringList{name});
     }
-    const int saveTime = int(timer.nsecsElapsed() / 1000 / measuredSaves);
+}
 
-    std::mt19937 random(20240609);
-    // A machine that is busy gets to its first save later than the one that was measured: the moments follow it.
-    double latest = 3 * saveTime;
-    int oldSeen = 0;
-    int newSeen = 0;
-    timer.restart();
-    const auto isEnough = [&] { return oldSeen > 0 && newSeen > 0 && timer.hasExpired(patience); };
-    for (int round = 0; round < kills && !isEnough(); ++round) {
-        const pid_t child = fork();
-        if (child == 0) {
-            for (;;) {
-                doAgainAndSave(board);
-                takeBackAndSave(board);
-            }
-        }
-        usleep(useconds_t(std::uniform_real_distribution<double>(0, latest)(random)));
-        killAndWait(child);
-        const QByteArray found = contentsOf(file);
-        QVERIFY(found == oldBytes || found == newBytes);
-        ++(found == oldBytes ? oldSeen : newSeen);
-        latest *= found == oldBytes ? later : earlier;
+void TestKilled::diskThatIsFullAtAnyCallLeavesTheOldOrTheNewFile()
+{
+    QFETCH(QString, name);
+    ChangedDesk desk(name);
+    const support::TracedRun whole = desk.traced();
+    QVERIFY2(whole.problem.isEmpty(), qPrintable(whole.problem));
+    int refusals = 0;
+    for (const support::SystemCall &call : whole.calls) {
+        if (!writingCalls.contains(QString::fromLatin1(call.name)))
+            continue;
+        desk.putOldFileBack();
+        const support::TracedRun run = desk.traced(call.failing("ENOSPC"));
+        QVERIFY2(run.problem.isEmpty(), qPrintable(run.problem));
+        QVERIFY2(run.exitCode == 0 || run.exitCode == 1, call.name);
+        QVERIFY2(desk.contents(name) == (run.exitCode == 0 ? desk.newBytes : desk.oldBytes), call.name);
+        QCOMPARE(desk.files(), QStringList{name});
+        refusals += run.exitCode;
     }
-    // Else the moments missed the saves.
-    QVERIFY(oldSeen > 0 && newSeen > 0);
+    QVERIFY(refusals > 0); // else the disk was full beside the save
 }
 
 QTEST_MAIN(TestKilled)

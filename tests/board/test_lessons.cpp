@@ -3,6 +3,7 @@
 #include <support/virtualtime.h>
 
 #include <application/commandline.h>
+#include <documents/recovery.h>
 #include <lessons/lessonbar.h>
 #include <lessons/lessoncontroller.h>
 #include <lessons/timeline.h>
@@ -47,6 +48,13 @@ private Q_SLOTS:
     void speedIsChosenInTheBar();
     void lessonMarksTheDocumentModified();
     void savingWhileRecordingKeepsWhatIsRecorded();
+    void recoveryCopyHasWhatIsBeingRecorded();
+    void recoveryCopyLeavesAHeldObjectAlone();
+    void deletedLessonComesBackWithUndo();
+    void recordedLessonGoesAndComesWithUndoAndRedo();
+    void newNameIsTakenBackByUndo();
+    void lessonIsCutOffWhereItStandsUntilUndone();
+    void undoWhileRecordingLeavesWhatIsRecorded();
     void nothingCanBeEditedWhileALessonIsShown();
     void boardIsBackAfterTheLesson();
     void anotherDocumentEndsEverything();
@@ -85,6 +93,7 @@ void record(BoardDriver &driver)
 QByteArray pagesOf(pagehost::Document &document)
 {
     const QVector<pagehost::LessonData> kept = document.lessons();
+    const QSignalBlocker quiet(&document);
     document.setLessons({});
     const QByteArray bytes = pagehost::encodeDocument(document, pagehost::DocumentFormat::Binary);
     document.setLessons(kept);
@@ -335,16 +344,132 @@ void TestLessons::savingWhileRecordingKeepsWhatIsRecorded()
     lessons(driver).recordOrStop();
     teach(driver);
     lessons(driver).keepSoFar();
-    QCOMPARE(driver.workspace().document()->lessons().size(), 1);
-    const pagehost::LessonData early = driver.workspace().document()->lessons().first();
+    QCOMPARE(driver.workspace().document()->lessons().size(), 0);
+    QCOMPARE(driver.workspace().document()->lessonsToSave().size(), 1);
+    const pagehost::LessonData early = driver.workspace().document()->lessonsToSave().first();
+    QCOMPARE(early.name, QStringLiteral("Lesson 1"));
     driver.draw(arrow, {600, 400}, {760, 500});
     lessons(driver).keepSoFar();
     lessons(driver).recordOrStop();
     QCOMPARE(driver.workspace().document()->lessons().size(), 1);
+    QCOMPARE(driver.workspace().document()->lessonsToSave().size(), 1);
     QVERIFY(driver.workspace().document()->lessons().first().data.size() > early.data.size());
     pagehost::Lesson lesson;
     QVERIFY(lesson.fromData(early.data));
     QVERIFY(!lesson.events.isEmpty());
+}
+
+void TestLessons::recoveryCopyHasWhatIsBeingRecorded()
+{
+    BoardDriver driver;
+    lessons(driver).recordOrStop();
+    teach(driver);
+    pagehost::Autosave &autosave = driver.window().recovery()->autosave();
+    QVERIFY(autosave.saveNow());
+    const pagehost::OpenResult copy =
+        pagehost::openDocument(autosave.recoveryFile(), driver.workspace().registry());
+    QCOMPARE(copy.document->lessons().size(), 1);
+    pagehost::Lesson lesson;
+    QVERIFY(lesson.fromData(copy.document->lessons().first().data));
+    QVERIFY(lesson.events.size() > 2);
+    QVERIFY(lessons(driver).isRecording());
+    QCOMPARE(driver.workspace().document()->lessons().size(), 0);
+}
+
+/// An object in the middle of a drag is where it never will have been.
+void TestLessons::recoveryCopyLeavesAHeldObjectAlone()
+{
+    BoardDriver driver;
+    lessons(driver).recordOrStop();
+    teach(driver);
+    lessons(driver).keepSoFar();
+    const pagehost::LessonData before = driver.workspace().document()->lessonsToSave().first();
+    driver.hold({560, 260}, {700, 400});
+    lessons(driver).keepSoFar();
+    QCOMPARE(driver.workspace().document()->lessonsToSave().first().data, before.data);
+    driver.release({700, 400});
+    lessons(driver).keepSoFar();
+    QVERIFY(driver.workspace().document()->lessonsToSave().first().data != before.data);
+}
+
+void TestLessons::deletedLessonComesBackWithUndo()
+{
+    BoardDriver driver;
+    record(driver);
+    record(driver);
+    record(driver);
+    const QVector<pagehost::LessonData> before = driver.workspace().document()->lessons();
+    lessons(driver).choose(1);
+    driver.action(QStringLiteral("Delete the lesson"))->trigger();
+    QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), QStringLiteral("Lesson 3")}));
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(driver.workspace().document()->lessons() == before);
+    QCOMPARE(lessons(driver).chosen(), 1);
+    QCOMPARE(driver.window().lessonBar()->list()->currentIndex(), 1);
+    driver.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), QStringLiteral("Lesson 3")}));
+}
+
+void TestLessons::recordedLessonGoesAndComesWithUndoAndRedo()
+{
+    BoardDriver driver;
+    record(driver);
+    const QVector<pagehost::LessonData> recorded = driver.workspace().document()->lessons();
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(driver.workspace().document()->lessons().isEmpty());
+    QCOMPARE(driver.page().objectCount(), 1); // what was drawn has steps of its own
+    QCOMPARE(lessons(driver).chosen(), -1);
+    driver.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(driver.workspace().document()->lessons() == recorded);
+    QCOMPARE(lessons(driver).chosen(), 0);
+}
+
+void TestLessons::newNameIsTakenBackByUndo()
+{
+    BoardDriver driver;
+    record(driver);
+    record(driver);
+    driver.workspace().document()->markSaved();
+    lessons(driver).choose(0);
+    lessons(driver).renameChosen(QStringLiteral("Halves"));
+    QCOMPARE(lessons(driver).chosen(), 0);
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), QStringLiteral("Lesson 2")}));
+    QVERIFY(!driver.workspace().document()->isModified());
+}
+
+void TestLessons::lessonIsCutOffWhereItStandsUntilUndone()
+{
+    BoardDriver driver;
+    pagehost::Lesson lesson;
+    lesson.duration = 20000;
+    driver.workspace().document()->setLessons({{QStringLiteral("Silence"), lesson.toBytes()}});
+    QAction *cut = driver.action(QStringLiteral("Cut the lesson off here"));
+    QVERIFY(cut && !cut->isEnabled());
+    lessons(driver).seek(20000);
+    QVERIFY(!cut->isEnabled()); // nothing comes after it
+    lessons(driver).seek(7000);
+    QVERIFY(cut->isEnabled());
+    cut->trigger();
+    QCOMPARE(lessons(driver).duration(), qint64(7000));
+    QCOMPARE(lessons(driver).state(), LessonController::Idle);
+    driver.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(lessons(driver).duration(), qint64(20000));
+}
+
+void TestLessons::undoWhileRecordingLeavesWhatIsRecorded()
+{
+    BoardDriver driver;
+    record(driver);
+    driver.action(QStringLiteral("Delete the lesson"))->trigger();
+    lessons(driver).recordOrStop();
+    lessons(driver).keepSoFar();
+    driver.key(Qt::Key_Z, Qt::ControlModifier); // brings the deleted lesson back
+    driver.draw(arrow, {600, 400}, {760, 500});
+    lessons(driver).recordOrStop();
+    QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), QStringLiteral("Lesson 2")}));
+    lessons(driver).seek(lessons(driver).duration());
+    QCOMPARE(driver.view().page()->objectCount(), 2);
 }
 
 void TestLessons::nothingCanBeEditedWhileALessonIsShown()

@@ -5,6 +5,7 @@
 #include <support/virtualtime.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QSysInfo>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 
@@ -38,6 +39,13 @@ private Q_SLOTS:
     void unsavedWorkIsCopiedAgainUnderItsNewName();
     void ownCopyIsNotOffered();
     void newestCopyComesFirst();
+    void lockThatNamesNobodyHereHidesACopyForAWhileOnly_data();
+    void lockThatNamesNobodyHereHidesACopyForAWhileOnly();
+    void lockOfALivingProcessHidesItsCopyHoweverOldItIs();
+    void everyLookTouchesTheLock();
+    void lastChangesAreAskedForBeforeALook();
+    void copyKnowsWhatItsOriginalWas();
+    void remainsOfAFirstCopyAreClearedAway();
 
 private:
     QVector<RecoverableDocument> crash(const QString &originalFile);
@@ -282,6 +290,137 @@ void TestAutosave::newestCopyComesFirst()
     }
     QCOMPARE(names, QStringList({QStringLiteral("copy3"), QStringLiteral("copy2"), QStringLiteral("copy1")}));
     QCOMPARE(copies[0].time, noon.addSecs(3600 * 3));
+}
+
+static void setAge(const QString &file, int seconds)
+{
+    QFile aged(file);
+    QVERIFY(aged.open(QIODevice::ReadWrite));
+    QVERIFY(aged.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime));
+}
+
+static pid_t processThatIsGone()
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(0);
+    }
+    waitpid(child, nullptr, 0);
+    return child;
+}
+
+void TestAutosave::lockThatNamesNobodyHereHidesACopyForAWhileOnly_data()
+{
+    QTest::addColumn<QByteArray>("lock");
+    QTest::addColumn<int>("age");
+    QTest::addColumn<bool>("isOffered");
+    // What QLockFile writes: process, program, machine.
+    const QByteArray foreign("1\nboard\nanother-machine\n");
+    constexpr int justNow = 60;
+    constexpr int longAgo = 601;
+    QTest::newRow("of another machine, touched a minute ago") << foreign << justNow << false;
+    QTest::newRow("of another machine, left alone for ten minutes") << foreign << longAgo << true;
+    QTest::newRow("empty, made a minute ago") << QByteArray() << justNow << false;
+    QTest::newRow("empty, left alone for ten minutes") << QByteArray() << longAgo << true;
+    QTest::newRow("of this machine, whose process has gone")
+        << QByteArray(QByteArray::number(processThatIsGone()) + "\nboard\n" +
+                      QSysInfo::machineHostName().toLocal8Bit() + "\n")
+        << justNow << true;
+}
+
+void TestAutosave::lockThatNamesNobodyHereHidesACopyForAWhileOnly()
+{
+    QFETCH(QByteArray, lock);
+    QFETCH(int, age);
+    QFETCH(bool, isOffered);
+    QVERIFY(QDir().mkpath(m_folder));
+    const QString lockFile = QDir(m_folder).filePath(QStringLiteral("other.lock"));
+    writeContents(QDir(m_folder).filePath(QStringLiteral("other.board")), "bytes");
+    writeContents(lockFile, lock);
+    setAge(lockFile, age);
+    QCOMPARE(Autosave(m_folder).recoverable().size(), isOffered ? 1 : 0);
+    QVERIFY(QFile::exists(QDir(m_folder).filePath(QStringLiteral("other.board"))));
+}
+
+/// It may have been standing still, as a computer does that was put to sleep.
+void TestAutosave::lockOfALivingProcessHidesItsCopyHoweverOldItIs()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    const QStringList locks = QDir(m_folder).entryList({QStringLiteral("*.lock")}, QDir::Files);
+    QCOMPARE(locks.size(), 1);
+    constexpr int day = 24 * 3600;
+    setAge(QDir(m_folder).filePath(locks[0]), day);
+    QCOMPARE(Autosave(m_folder).recoverable().size(), 0);
+}
+
+void TestAutosave::everyLookTouchesTheLock()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    addObjects(m_page, {new TestObject});
+    QVERIFY(autosave.saveNow());
+    const QString lock =
+        QDir(m_folder).filePath(QDir(m_folder).entryList({QStringLiteral("*.lock")}, QDir::Files).value(0));
+    constexpr int hour = 3600;
+    setAge(lock, hour);
+    QVERIFY(autosave.saveNow()); // though nothing has changed
+    QVERIFY(QFileInfo(lock).lastModified().secsTo(QDateTime::currentDateTime()) < hour / 2);
+}
+
+void TestAutosave::lastChangesAreAskedForBeforeALook()
+{
+    Autosave autosave(m_folder);
+    autosave.setDocument(m_document.get(), QString());
+    connect(&autosave, &Autosave::aboutToLook, m_document.get(), [this] {
+        m_document->setUnfinishedLesson({QStringLiteral("Halves"), QByteArray("so far")});
+    });
+    QVERIFY(autosave.saveNow());
+    const OpenResult copy = openDocument(autosave.recoveryFile(), m_registry);
+    QVERIFY(copy.document);
+    QCOMPARE(copy.document->lessons().size(), 1);
+    QCOMPARE(copy.document->lessons().first().data, QByteArray("so far"));
+    QCOMPARE(m_document->lessons().size(), 0);
+}
+
+/// An old copy must not take the place of a newer original unasked.
+void TestAutosave::copyKnowsWhatItsOriginalWas()
+{
+    const QString original = m_parent->filePath(QStringLiteral("one.board"));
+    writeContents(original, "as it was");
+    const FileStamp stamp = FileStamp::of(original);
+    QDir(m_parent->path()).mkdir(QStringLiteral("recovery"));
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            Autosave autosave(m_folder);
+            autosave.setDocument(m_document.get(), original, stamp);
+            m_document->noteChange();
+            autosave.saveNow();
+            ::raise(SIGKILL);
+        }
+        waitpid(child, nullptr, 0);
+    }
+    const Autosave autosave(m_folder);
+    const RecoverableDocument copy = autosave.recoverable().value(0);
+    QVERIFY(copy.originalStamp.isSameFile(stamp));
+    QVERIFY(copy.originalStamp.hasSameContents(stamp));
+    QVERIFY(autosave.recover(copy, m_registry).stamp.hasSameContents(stamp));
+}
+
+void TestAutosave::remainsOfAFirstCopyAreClearedAway()
+{
+    QVERIFY(QDir().mkpath(m_folder));
+    const QDir folder(m_folder);
+    writeContents(folder.filePath(QStringLiteral("died.json")), "{}");
+    writeContents(folder.filePath(QStringLiteral("whole.json")), "{}");
+    writeContents(folder.filePath(QStringLiteral("whole.board")), "bytes");
+    writeContents(folder.filePath(QStringLiteral(".00000000-0000-4000-8000-000000000000.unfinished-board")), "by");
+    Autosave(m_folder).tidy();
+    const QStringList kept{QStringLiteral("whole.board"), QStringLiteral("whole.json")};
+    QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), kept);
 }
 
 QTEST_MAIN(TestAutosave)

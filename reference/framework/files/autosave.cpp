@@ -9,7 +9,11 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QLockFile>
+#include <QtCore/QSysInfo>
 #include <QtCore/QUuid>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace pagehost {
 
@@ -19,27 +23,44 @@ const QString copySuffix = QStringLiteral(".board");
 const QString noteSuffix = QStringLiteral(".json");
 const QString lockSuffix = QStringLiteral(".lock");
 const QString originalKey = QStringLiteral("original");
+const QString stampKey = QStringLiteral("stamp");
 
 QString besides(const QString &copy, const QString &suffix)
 {
     return copy.left(copy.size() - copySuffix.size()) + suffix;
 }
 
-QString originalFileOf(const QString &copy)
+QJsonObject noteOf(const QString &copy)
 {
     QFile note(besides(copy, noteSuffix));
     if (!note.open(QIODevice::ReadOnly)) {
         return {};
     }
-    return QJsonDocument::fromJson(note.readAll()).object().value(originalKey).toString();
+    return QJsonDocument::fromJson(note.readAll()).object();
+}
+
+/// Whether a process of this machine can be asked for.
+bool namesProcessHere(const QLockFile &lock)
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.getLockInfo(&process, &host, &program) && (host.isEmpty() || host == QSysInfo::machineHostName());
 }
 
 /// Whether the process that made the copy is gone.
 bool isAbandoned(const QString &copy)
 {
     QLockFile lock(besides(copy, lockSuffix));
-    lock.setStaleLockTime(0); // however long the other one lives
+    // A process that is there keeps its lock however long it stands still. No lock is stale by its age alone when
+    // 0.
+    lock.setStaleLockTime(namesProcessHere(lock) ? 0 : Autosave::longestSilence);
     return lock.tryLock(0);
+}
+
+void touch(const QString &file)
+{
+    ::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), nullptr, 0);
 }
 
 } // namespace
@@ -57,19 +78,19 @@ Autosave::~Autosave()
     close();
 }
 
-void Autosave::setDocument(Document *document, const QString &originalFile)
+void Autosave::setDocument(Document *document, const QString &originalFile, const FileStamp &originalStamp)
 {
-    removeCopy();
+    setOriginalFile(originalFile, originalStamp);
     m_document = document;
-    m_originalFile = originalFile;
     m_savedMark = 0;
     document ? m_timer.start() : m_timer.stop();
 }
 
-void Autosave::setOriginalFile(const QString &originalFile)
+void Autosave::setOriginalFile(const QString &originalFile, const FileStamp &originalStamp)
 {
     removeCopy();
     m_originalFile = originalFile;
+    m_originalStamp = originalStamp;
 }
 
 void Autosave::setInterval(int milliseconds)
@@ -111,33 +132,44 @@ bool Autosave::claim()
 
 bool Autosave::saveNow()
 {
-    if (!m_document || !m_document->isModified()) {
+    if (!m_document) {
         return true;
     }
+    Q_EMIT aboutToLook();
+    if (m_lock) {
+        touch(besides(recoveryFile(), lockSuffix));
+    }
     const quint64 mark = m_document->revision();
-    if (m_hasCopy && mark == m_savedMark && QFile::exists(recoveryFile())) {
+    const bool hasThis = m_hasCopy && mark == m_savedMark && QFile::exists(recoveryFile());
+    if (!m_document->isModified() || hasThis) {
         return true;
     }
     FileMessage problem;
     problem.severity = FileMessage::Error;
     problem.textKey = QStringLiteral("IDS_FILE_CANNOT_WRITE");
     problem.arguments = QStringList{m_folder, QString()};
-    if (!claim()) {
+    if (!claim() || !writeCopy(problem)) {
         Q_EMIT failed(problem);
-        return false;
-    }
-    const QByteArray note = QJsonDocument(QJsonObject{{originalKey, m_originalFile}}).toJson();
-    const WriteResult noted = writeDurably(besides(recoveryFile(), noteSuffix), note);
-    const SaveResult result = noted.outcome == WriteResult::Written ? saveDocument(*m_document, recoveryFile())
-                                                                    : SaveResult{false, problem};
-    if (!result.saved) {
-        Q_EMIT failed(result.problem);
         return false;
     }
     m_hasCopy = true;
     m_savedMark = mark;
     Q_EMIT saved(recoveryFile());
     return true;
+}
+
+bool Autosave::writeCopy(FileMessage &problem)
+{
+    const QJsonObject note{{originalKey, m_originalFile}, {stampKey, m_originalStamp.toJson()}};
+    const WriteResult noted = writeDurably(besides(recoveryFile(), noteSuffix), QJsonDocument(note).toJson());
+    if (noted.outcome != WriteResult::Written) {
+        return false;
+    }
+    const SaveResult result = saveDocument(*m_document, recoveryFile());
+    if (!result.saved) {
+        problem = result.problem;
+    }
+    return result.saved;
 }
 
 void Autosave::removeCopy()
@@ -149,6 +181,20 @@ void Autosave::removeCopy()
     m_hasCopy = false;
 }
 
+void Autosave::tidy() const
+{
+    removeUnfinishedSaves(m_folder);
+    const QDir folder(m_folder);
+    const QStringList notes = folder.entryList({QStringLiteral("*") + noteSuffix}, QDir::Files);
+    for (const QString &note : notes) {
+        const QString stem = folder.filePath(note.left(note.size() - noteSuffix.size()));
+        const QString copy = stem + copySuffix;
+        if (copy != recoveryFile() && !QFile::exists(copy) && isAbandoned(copy)) {
+            discard({copy, {}, {}, {}});
+        }
+    }
+}
+
 QVector<RecoverableDocument> Autosave::recoverable() const
 {
     QVector<RecoverableDocument> copies;
@@ -157,7 +203,9 @@ QVector<RecoverableDocument> Autosave::recoverable() const
     for (const QFileInfo &file : files) {
         const QString copy = file.absoluteFilePath();
         if (copy != recoveryFile() && isAbandoned(copy)) {
-            copies.append({copy, originalFileOf(copy), file.lastModified()});
+            const QJsonObject note = noteOf(copy);
+            copies.append({copy, note.value(originalKey).toString(),
+                           FileStamp::fromJson(note.value(stampKey).toObject()), file.lastModified()});
         }
     }
     return copies;
@@ -166,6 +214,7 @@ QVector<RecoverableDocument> Autosave::recoverable() const
 OpenResult Autosave::recover(const RecoverableDocument &copy, const ObjectRegistry &registry) const
 {
     OpenResult result = openDocument(copy.recoveryFile, registry);
+    result.stamp = copy.originalStamp;
     if (result.document) {
         result.document->noteChange();
     }

@@ -50,7 +50,7 @@ bool writePage(chunks::Writer &writer, const Page &page)
 
 bool writeDocument(chunks::Writer &writer, const Document &document)
 {
-    const QVector<LessonData> lessons = document.lessons();
+    const QVector<LessonData> lessons = document.lessonsToSave();
     writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount()) << quint32(lessons.size());
     bool done = writer.end() && writeExtraData(writer, document.extraData());
     for (const LessonData &lesson : lessons) {

@@ -152,7 +152,7 @@ QByteArray jsonformat::write(Document &document, FileMessage &problem)
     writer.beginObject();
     writer.member(formatName, QByteArray(formatText));
     writer.member(versionName, int(formatVersion));
-    const QVector<LessonData> lessons = document.lessons();
+    const QVector<LessonData> lessons = document.lessonsToSave();
     writer.member(pageCountName, document.pageCount());
     writer.member(lessonCountName, lessons.size());
     writeExtraData(writer, document.extraData());

@@ -230,8 +230,26 @@ void Document::setLessons(const QVector<LessonData> &lessons)
         return;
     }
     m_lessons = lessons;
-    noteChange();
+    ++m_revision;
     Q_EMIT lessonsChanged();
+}
+
+void Document::setUnfinishedLesson(const LessonData &lesson)
+{
+    if (lesson == m_unfinishedLesson) {
+        return;
+    }
+    m_unfinishedLesson = lesson;
+    noteChange();
+}
+
+QVector<LessonData> Document::lessonsToSave() const
+{
+    QVector<LessonData> lessons = m_lessons;
+    if (!m_unfinishedLesson.data.isEmpty()) {
+        lessons.append(m_unfinishedLesson);
+    }
+    return lessons;
 }
 
 void Document::dropIfUnused(Page *page)

@@ -38,6 +38,10 @@ constexpr Entry entries[] = {
     {"IDS_UNDO_ADD_PAGE", "Add page", "Seite hinzufügen"},
     {"IDS_UNDO_REMOVE_PAGE", "Delete page", "Seite löschen"},
     {"IDS_UNDO_MOVE_PAGE", "Move page", "Seite verschieben"},
+    {"IDS_UNDO_ADD_LESSON", "Record lesson", "Lektion aufnehmen"},
+    {"IDS_UNDO_REMOVE_LESSON", "Delete lesson", "Lektion löschen"},
+    {"IDS_UNDO_RENAME_LESSON", "Rename lesson", "Lektion umbenennen"},
+    {"IDS_UNDO_CUT_LESSON", "Cut lesson", "Lektion kürzen"},
     // Files
     {"IDS_PLACEHOLDER_OBJECT", "Unreadable object", "Nicht lesbares Objekt"},
     {"IDS_FILE_WHERE_PAGE", "page %1", "Seite %1"},

@@ -18,6 +18,7 @@ namespace pagehost {
 
 class Document;
 class Page;
+struct LessonData;
 
 /// Adds objects on top, in the order given, and selects them.
 FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects);
@@ -51,5 +52,13 @@ FRAMEWORK_EXPORT Page *addPage(Document *document, int index, const QSizeF &size
 /// Never removes the last page.
 FRAMEWORK_EXPORT bool removePage(Document *document, int index);
 FRAMEWORK_EXPORT bool movePage(Document *document, int from, int to);
+
+/// Puts a lesson behind the others.
+FRAMEWORK_EXPORT bool addLesson(Document *document, const LessonData &lesson);
+FRAMEWORK_EXPORT bool removeLesson(Document *document, int index);
+/// Gives a lesson another name.
+FRAMEWORK_EXPORT bool renameLesson(Document *document, int index, const QString &name);
+/// Takes away what happens in a lesson after `time`, milliseconds.
+FRAMEWORK_EXPORT bool cutLesson(Document *document, int index, qint64 time);
 
 } // namespace pagehost

@@ -109,14 +109,19 @@ public:
     void clearModified();
     /// Tells of a change that leaves no undo step.
     void noteChange();
-    /// Counts up with every change of what the document's pages show and with noteChange().
+    /// Counts up with every change of what the document's pages show, of its lessons, and with noteChange().
     quint64 revision() const;
     /// @}
 
     /// @name What is saved with the pages
     /// @{
     QVector<LessonData> lessons() const { return m_lessons; }
+    /// pagehost/commands.h has the undoable changes.
     void setLessons(const QVector<LessonData> &lessons);
+    /// A lesson that is still being recorded, as far as it goes: saved behind the others so that nothing of it is
+    /// lost, and no lesson of the document yet. One without data is none.
+    void setUnfinishedLesson(const LessonData &lesson);
+    QVector<LessonData> lessonsToSave() const;
     ExtraData extraData() const { return m_extraData; }
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
     /// @}
@@ -152,6 +157,7 @@ private:
     QVector<Page *> m_outside; ///< owned pages that are not in the order
     QHash<Page *, int> m_retained;
     QVector<LessonData> m_lessons;
+    LessonData m_unfinishedLesson;
     ExtraData m_extraData;
     bool m_modified = false;
     bool m_changedBySteps = false;     ///< the undo stack is not where it was at markSaved()

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <board/boarddriver.h>
+
+#include <documents/documentcontroller.h>
+#include <documents/recovery.h>
+#include <window/mainwindow.h>
+#include <window/notices.h>
+
+#include <pagehost/page.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+namespace boardtest {
+
+/// A board, a folder for its files, and the answers to its dialogs.
+struct Desk
+{
+    Desk()
+    {
+        QSettings().clear();
+        QDir(board::recoveryFolder()).removeRecursively();
+    }
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    board::DocumentController &documents() { return *board.window().documents(); }
+    CBaseObject *drawOne() { return board.draw(rectangle, {500, 300}, {700, 420}); }
+    void press(const QString &buttonText)
+    {
+        QPushButton *button = board.button(buttonText);
+        QVERIFY2(button, qPrintable(buttonText));
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+    /// Writes the name into the open file dialog and agrees.
+    void answerFile(const QString &file)
+    {
+        auto *dialog = board.window().findChild<QFileDialog *>();
+        QVERIFY(dialog);
+        auto *line = dialog->findChild<QLineEdit *>();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        line->setFocus();
+        line->setText(file);
+        QTest::keyClick(line, Qt::Key_Return);
+        QTRY_VERIFY(!board.window().findChild<QFileDialog *>());
+    }
+    bool isAsked() const { return board.window().findChild<QMessageBox *>() != nullptr; }
+    QString notices() const
+    {
+        QStringList texts;
+        for (const QLabel *label : board.window().notices()->findChildren<QLabel *>())
+            texts.append(label->text());
+        return texts.join('\n');
+    }
+    QByteArray contents(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    int objectCount() { return board.page().objectCount(); }
+    void saveAs(const QString &name)
+    {
+        board.key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        answerFile(path(name));
+    }
+
+    QTemporaryDir folder;
+    BoardDriver board;
+};
+
+} // namespace boardtest
