@@ -2,6 +2,9 @@
 
 #include <pagehost/filestamp.h>
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QLockFile>
 #include <QtCore/QSettings>
 #include <QtCore/QStringList>
 
@@ -10,6 +13,20 @@ namespace board {
 namespace {
 
 const QString settingsKey = QStringLiteral("saveFolders");
+
+/// Qt writes the settings beside their file, too, under its name with a dot and six letters behind it.
+void tidySettings()
+{
+    const QFileInfo settings(QSettings().fileName());
+    QLockFile lock(settings.filePath() + QStringLiteral(".lock")); // which Qt takes while it writes
+    if (!lock.tryLock(0))
+        return;
+    const QDir folder = settings.dir();
+    const QStringList remains =
+        folder.entryList({settings.fileName() + QStringLiteral(".??????")}, QDir::Files | QDir::Hidden);
+    for (const QString &name : remains)
+        QFile::remove(folder.filePath(name));
+}
 
 } // namespace
 
@@ -27,6 +44,7 @@ void SaveFolders::add(const QString &folder)
 
 void SaveFolders::tidy()
 {
+    tidySettings();
     const QStringList folders = QSettings().value(settingsKey).toStringList();
     for (const QString &folder : folders)
         pagehost::removeUnfinishedSaves(folder);

@@ -612,9 +612,14 @@ void TestDocuments::remainsOfAnInterruptedSaveAreClearedAwayAtTheStart()
     QFile file(remains);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
+    QFile settings(QSettings().fileName() + ".a1B2c3");
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.close();
     desk.board.window().recovery()->offer();
     QVERIFY(!QFile::exists(remains));
+    QVERIFY(!settings.exists());
     QVERIFY(QFile::exists(desk.path("lesson.board")));
+    QVERIFY(QFile::exists(QSettings().fileName()));
 }
 
 void TestDocuments::workOfThisWindowIsNotOfferedToIt()

@@ -151,7 +151,7 @@ void TestSharedFiles::changeByAnotherProgramIsToldWhileTheBoardIsOpen()
     SharedDesk desk;
     desk.theySave();
     // The system tells the board; nobody has to do anything.
-    QTRY_VERIFY(desk.notices().contains("“lesson.board” was changed by somebody else."));
+    QTRY_VERIFY_WITH_TIMEOUT(desk.notices().contains("“lesson.board” was changed by somebody else."), 60000);
     QCOMPARE(desk.objectCount(), 1);
 }
 

@@ -11,11 +11,17 @@
 #include <panels/palettepanel.h>
 #include <window/actions.h>
 #include <window/mainwindow.h>
+#include <window/notices.h>
 #include <window/windowmemory.h>
+
+#include <pagehost/objectplugin.h>
+#include <pagehost/page.h>
 
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
+
+#include <stdexcept>
 
 using namespace boardtest;
 
@@ -33,7 +39,27 @@ private Q_SLOTS:
     void smallestWindowCutsNoPaletteButton();
     void darkColoursAreRemembered();
     void longNamesAreShortenedInTheStatusLine();
+    void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
 };
+
+namespace {
+
+/// Promises a shape and throws when it is drawn.
+class EmptyPromise : public pagehost::ObjectPlugin
+{
+public:
+    QVector<pagehost::ObjectKind> objectKinds() const override
+    {
+        return {{QStringLiteral("promise"), QStringLiteral("IDS_PROMISE"), QString()}};
+    }
+    CBaseObject *createObject(const QString &) const override { throw std::runtime_error("nothing there"); }
+    pagehost::TextTable texts(const QString &) const override
+    {
+        return {{QStringLiteral("IDS_PROMISE"), QStringLiteral("Promise")}};
+    }
+};
+
+} // namespace
 
 void TestWindow::init()
 {
@@ -150,6 +176,25 @@ void TestWindow::longNamesAreShortenedInTheStatusLine()
     QVERIFY2(text.startsWith("Saved: /folder") && text.endsWith("end.board"), qPrintable(text));
     QVERIFY(text.contains(QChar(0x2026)));
     QVERIFY(bar->fontMetrics().horizontalAdvance(text) < bar->width());
+}
+
+void TestWindow::shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn()
+{
+    EmptyPromise plugin;
+    BoardDriver board;
+    QVERIFY(board.workspace().registry().addPlugin(&plugin, "promise.so").loaded);
+    board.window().beginCreation("promise");
+    board.drag({300, 200}, {420, 280});
+    support::deliverEvents();
+    QCOMPARE(board.page().objectCount(), 0);
+    QStringList notices;
+    for (const QLabel *label : board.window().notices()->findChildren<QLabel *>())
+        notices.append(label->text());
+    const QString told = notices.join('\n');
+    QVERIFY2(told.contains("promise.so could be used: createObject(\"promise\") threw an exception: nothing there"),
+             qPrintable(told));
+    QVERIFY(board.draw(rectangle, {300, 200}, {420, 280}));
+    QCOMPARE(board.page().objectCount(), 1);
 }
 
 QTEST_MAIN(TestWindow)
