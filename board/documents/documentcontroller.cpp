@@ -118,11 +118,13 @@ void DocumentController::takeRecovered(pagehost::OpenResult result, const QStrin
 void DocumentController::take(pagehost::OpenResult &result, const QString &file, const char *noticeKey)
 {
     const bool isWhole = result.messages.isEmpty();
-    m_damagedFile = isWhole ? QString() : file;
+    // A recovered copy of a damaged file is whole, and does not know what it belongs over.
+    const bool isKnown = isWhole && !result.stamp.isNull();
+    m_damagedFile = isKnown ? QString() : file;
     m_notices->remove(fileNotice);
     if (!isWhole)
         m_notices->add({m_workspace->text(noticeKey).arg(shown(file)), texts(result.messages), {}, fileNotice});
-    belongTo(isWhole ? file : QString(), isWhole ? result.stamp : pagehost::FileStamp());
+    belongTo(isKnown ? file : QString(), isKnown ? result.stamp : pagehost::FileStamp());
     m_workspace->replaceDocument(std::move(result.document));
 }
 

@@ -71,6 +71,15 @@ struct Desk
         board.key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
         answerFile(path(name));
     }
+    /// Saves a board as half.board, cuts its last quarter off and opens what is left.
+    void openDamaged()
+    {
+        drawOne();
+        board.draw(arrow, {100, 100}, {200, 200});
+        saveAs("half.board");
+        QVERIFY(QFile::resize(path("half.board"), QFileInfo(path("half.board")).size() * 3 / 4));
+        QVERIFY(documents().openNow(path("half.board")));
+    }
 
     QTemporaryDir folder;
     BoardDriver board;

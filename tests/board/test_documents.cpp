@@ -1,10 +1,9 @@
-// The document's file: new, open, save, what is asked before changes are lost, recent files, recovery.
+// The document's file: new, open, save, what is asked before changes are lost, recent files.
 
 #include <board/desk.h>
 
 #include <documents/documentcontroller.h>
 #include <documents/documentmenu.h>
-#include <documents/recovery.h>
 #include <objects/demopages.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
@@ -92,13 +91,6 @@ private Q_SLOTS:
     void droppedBoardOpens();
     void theNameOfADottedFileGetsTheFormat();
     void anExistingFileIsNotReplacedBehindASuffix();
-    void workOfACrashIsOfferedAndBroughtBack();
-    void offersOfWorkAreToldApart();
-    void workOfACrashIsDeletedAfterAQuestionOnly();
-    void workOverAnOriginalThatHasChangedIsNotSavedUnasked();
-    void remainsOfAnInterruptedSaveAreClearedAwayAtTheStart();
-    void workOfThisWindowIsNotOfferedToIt();
-    void aFailedCopyOfTheWorkIsTold();
     void keysHaveFallbacks_data();
     void keysHaveFallbacks();
 };
@@ -368,20 +360,10 @@ void TestDocuments::aDamagedBoardTellsWhatIsMissingAndIsNotOverwrittenUnasked()
     QVERIFY(desk.board.window().findChild<QFileDialog *>());
 }
 
-/// Cuts the last quarter of a saved board off and opens what is left.
-static void openDamaged(Desk &desk)
-{
-    desk.drawOne();
-    desk.board.draw(arrow, {100, 100}, {200, 200});
-    desk.saveAs("half.board");
-    QVERIFY(QFile::resize(desk.path("half.board"), QFileInfo(desk.path("half.board")).size() * 3 / 4));
-    QVERIFY(desk.documents().openNow(desk.path("half.board")));
-}
-
 void TestDocuments::aDamagedBoardGetsANewName()
 {
     Desk desk;
-    openDamaged(desk);
+    desk.openDamaged();
     const QByteArray damaged = desk.contents("half.board");
     desk.board.key(Qt::Key_S, Qt::ControlModifier);
     auto *dialog = desk.board.window().findChild<QFileDialog *>();
@@ -396,7 +378,7 @@ void TestDocuments::aDamagedBoardGetsANewName()
 void TestDocuments::aDamagedBoardIsKeptBesideTheOneThatTakesItsName()
 {
     Desk desk;
-    openDamaged(desk);
+    desk.openDamaged();
     const QByteArray damaged = desk.contents("half.board");
     desk.saveAs("half.board");
     desk.press("Replace");
@@ -500,152 +482,6 @@ void TestDocuments::anExistingFileIsNotReplacedBehindASuffix()
     desk.press("Replace");
     QVERIFY(QFileInfo(other).size() > 8);
     QVERIFY(!desk.board.window().isWindowModified());
-}
-
-/// Leaves a copy behind as a process does that is killed.
-static void leaveCopy(Desk &desk)
-{
-    QVERIFY(desk.board.window().recovery()->autosave().saveNow());
-    const QString copy = desk.board.window().recovery()->autosave().recoveryFile();
-    QVERIFY(QFile::exists(copy));
-    QDir folder = QFileInfo(copy).dir();
-    const QString stem = QFileInfo(copy).baseName();
-    for (const QString &name : folder.entryList({stem + "*"}, QDir::Files)) {
-        if (!name.endsWith(".lock"))
-            QVERIFY(QFile::copy(folder.filePath(name), folder.filePath("crashed" + name.mid(stem.size()))));
-    }
-}
-
-void TestDocuments::workOfACrashIsOfferedAndBroughtBack()
-{
-    Desk desk;
-    desk.drawOne();
-    leaveCopy(desk);
-    desk.board.key(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(desk.objectCount(), 0);
-    desk.board.window().recovery()->offer();
-    QVERIFY2(desk.notices().contains("“Untitled”"), qPrintable(desk.notices()));
-    desk.press("Bring back");
-    QCOMPARE(desk.objectCount(), 1);
-    QVERIFY(desk.board.window().isWindowModified());
-    QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
-}
-
-void TestDocuments::offersOfWorkAreToldApart()
-{
-    Desk desk;
-    desk.saveAs("lesson.board");
-    desk.drawOne();
-    QTest::mouseClick(&desk.board.view(), Qt::NoButton);
-    desk.board.action("Add page")->trigger();
-    leaveCopy(desk);
-    const QDateTime noon(QDate(2024, 5, 6), QTime(12, 34));
-    QFile copy(
-        QFileInfo(desk.board.window().recovery()->autosave().recoveryFile()).dir().filePath("crashed.board"));
-    QVERIFY(copy.open(QIODevice::ReadWrite));
-    QVERIFY(copy.setFileTime(noon, QFileDevice::FileModificationTime));
-    copy.close();
-    desk.board.window().recovery()->offer();
-    const QString time = QLocale("en").toString(noon, QLocale::ShortFormat);
-    QVERIFY2(desk.notices().contains("“lesson.board” from " + time + ", 2 pages"), qPrintable(desk.notices()));
-    // The picture of the page with the rectangle: 120 pixels of 1280 units, the rectangle from 500 to 700.
-    QImage picture;
-    for (const QLabel *label : desk.board.window().notices()->findChildren<QLabel *>()) {
-        if (label->pixmap(Qt::ReturnByValue).width() == 120)
-            picture = label->pixmap(Qt::ReturnByValue).toImage();
-    }
-    QVERIFY(!picture.isNull());
-    QVERIFY(picture.pixel(56, 34) != picture.pixel(10, 10));
-}
-
-void TestDocuments::workOfACrashIsDeletedAfterAQuestionOnly()
-{
-    Desk desk;
-    desk.drawOne();
-    leaveCopy(desk);
-    QCOMPARE(desk.board.window().recovery()->autosave().recoverable().size(), 1);
-    desk.board.window().recovery()->offer();
-    desk.press("Delete…");
-    QVERIFY(desk.isAsked());
-    desk.press("Cancel");
-    QCOMPARE(desk.board.window().recovery()->autosave().recoverable().size(), 1);
-    QTRY_VERIFY(!desk.isAsked());
-    // It is still offered.
-    desk.press("Delete…");
-    desk.press("Delete for ever");
-    QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
-    QTRY_COMPARE(desk.notices(), QString());
-    QCOMPARE(desk.objectCount(), 1);
-}
-
-void TestDocuments::workOverAnOriginalThatHasChangedIsNotSavedUnasked()
-{
-    Desk desk;
-    desk.drawOne();
-    desk.saveAs("lesson.board");
-    desk.board.draw(arrow, {100, 100}, {200, 200});
-    leaveCopy(desk);
-    QVERIFY(desk.documents().openNow(desk.path("lesson.board")));
-    desk.board.key(Qt::Key_A, Qt::ControlModifier);
-    desk.board.key(Qt::Key_Delete);
-    desk.board.key(Qt::Key_S, Qt::ControlModifier);
-    const QByteArray newer = desk.contents("lesson.board");
-    desk.board.window().recovery()->offer();
-    desk.press("Bring back");
-    QCOMPARE(desk.objectCount(), 2);
-    QCOMPARE(desk.documents().name(), QString("lesson.board"));
-    QVERIFY2(desk.notices().contains("“lesson.board” was changed by somebody else"), qPrintable(desk.notices()));
-    desk.board.key(Qt::Key_S, Qt::ControlModifier);
-    QVERIFY(desk.isAsked());
-    QCOMPARE(desk.contents("lesson.board"), newer);
-    desk.press("Save both");
-    QCOMPARE(desk.contents("lesson.board"), newer);
-    QCOMPARE(desk.documents().name(), QString("lesson 2.board"));
-}
-
-void TestDocuments::remainsOfAnInterruptedSaveAreClearedAwayAtTheStart()
-{
-    Desk desk;
-    desk.drawOne();
-    desk.saveAs("lesson.board");
-    const QString remains = desk.path(".00000000-0000-4000-8000-000000000000.unfinished-board");
-    QFile file(remains);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    QFile settings(QSettings().fileName() + ".a1B2c3");
-    QVERIFY(settings.open(QIODevice::WriteOnly));
-    settings.close();
-    desk.board.window().recovery()->offer();
-    QVERIFY(!QFile::exists(remains));
-    QVERIFY(!settings.exists());
-    QVERIFY(QFile::exists(desk.path("lesson.board")));
-    QVERIFY(QFile::exists(QSettings().fileName()));
-}
-
-void TestDocuments::workOfThisWindowIsNotOfferedToIt()
-{
-    Desk desk;
-    desk.drawOne();
-    QVERIFY(desk.board.window().recovery()->autosave().saveNow());
-    desk.board.window().recovery()->offer();
-    QCOMPARE(desk.notices(), QString());
-}
-
-void TestDocuments::aFailedCopyOfTheWorkIsTold()
-{
-    Desk desk;
-    desk.drawOne();
-    pagehost::Autosave &autosave = desk.board.window().recovery()->autosave();
-    QVERIFY(autosave.saveNow());
-    desk.board.draw(arrow, {100, 100}, {200, 200});
-    QVERIFY(QFile::remove(autosave.recoveryFile()));
-    QVERIFY(QDir().mkpath(autosave.recoveryFile())); // a folder in its way
-    QVERIFY(!autosave.saveNow());
-    QVERIFY2(desk.notices().contains("could not be put aside in case of a crash"), qPrintable(desk.notices()));
-    QVERIFY(desk.notices().contains(autosave.folder()));
-    QCOMPARE(desk.objectCount(), 2);
-    QVERIFY(QDir().rmdir(autosave.recoveryFile()));
-    QVERIFY(autosave.saveNow());
 }
 
 void TestDocuments::keysHaveFallbacks_data()
