@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/virtualtime.h>
+
 #include <page/pageview.h>
 
 #include <pagehost/page.h>
@@ -197,10 +199,10 @@ void TestSelecting::controlPointsShowOnlyWhileSelected()
         return count;
     };
     TwoShapes t;
-    QTest::qWait(20);
+    support::deliverEvents();
     QCOMPARE(countControlPixels(t.board), 0);
     t.board.click({450, 350});
-    QTest::qWait(20);
+    support::deliverEvents();
     QVERIFY(countControlPixels(t.board) > 4);
 }
 

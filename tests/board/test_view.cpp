@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 #include <render/messagecatcher.h>
+#include <support/virtualtime.h>
 
 #include <look/icons.h>
 #include <look/theme.h>
@@ -108,11 +109,11 @@ void TestView::fitFollowsTheWindowUntilTheUserZooms()
     board.view().fitPage();
     const double before = board.view().zoom();
     board.window().resize(1300, 800);
-    QTest::qWait(20);
+    support::deliverEvents();
     QVERIFY(board.view().zoom() < before);
     board.view().setZoom(1);
     board.window().resize(1600, 1100);
-    QTest::qWait(20);
+    support::deliverEvents();
     QCOMPARE(board.view().zoom(), 1.0);
 }
 
@@ -177,7 +178,7 @@ void TestView::emptyPageSaysWhatToDo()
     QVERIFY(hasInk());
     board.draw(rectangle, {20, 20}, {80, 80});
     board.page().select({});
-    QTest::qWait(20);
+    support::deliverEvents();
     QVERIFY(!hasInk());
 }
 

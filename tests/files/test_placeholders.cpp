@@ -257,7 +257,7 @@ void TestPlaceholders::placeholderOfAPlaceThatNoPageReachesIsSeen_data()
     const QSizeF plain(160, 100);
     QTest::newRow("far away") << "pos" << QJsonArray{1e101, 5} << corner << plain;
     QTest::newRow("box far away") << "clientRect" << QJsonArray{1e101, 0, 50, 30} << corner << plain;
-    QTest::newRow("endless") << "clientRect" << QJsonArray{0, 0, 1e101, 30} << corner << plain;
+    QTest::newRow("endless") << "clientRect" << QJsonArray{0, 0, 1e101, 30} << QPointF(50, 60) << QSizeF(16384, 30);
     QTest::newRow("beside the largest page")
         << "pos" << QJsonArray{-90000, 190000} << QPointF(-90000, 190000) << QSizeF(100, 60);
 }
