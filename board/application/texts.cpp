@@ -122,12 +122,17 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_CLOSE", "Close", "Schließen"},
 };
 
-void insert(pagehost::TextTable &texts, const TextEntry &entry, bool german)
-{
-    texts.insert(QLatin1String(entry.key), QString::fromUtf8(german ? entry.german : entry.english));
-}
-
 } // namespace
+
+QVector<TextEntry> textEntries()
+{
+    QVector<TextEntry> all(std::begin(entries), std::end(entries));
+    all += documentTexts();
+    all += clipboardTexts();
+    all += formTexts();
+    all += lessonTexts();
+    return all;
+}
 
 pagehost::TextTable boardTexts(const QString &language)
 {
@@ -135,12 +140,8 @@ pagehost::TextTable boardTexts(const QString &language)
     pagehost::TextTable texts;
     if (!german && language != QLatin1String("en"))
         return texts;
-    for (const TextEntry &entry : entries)
-        insert(texts, entry, german);
-    for (const QVector<TextEntry> &table : {documentTexts(), clipboardTexts(), formTexts(), lessonTexts()}) {
-        for (const TextEntry &entry : table)
-            insert(texts, entry, german);
-    }
+    for (const TextEntry &entry : textEntries())
+        texts.insert(QLatin1String(entry.key), QString::fromUtf8(german ? entry.german : entry.english));
     return texts;
 }
 

@@ -14,6 +14,9 @@ struct TextEntry
     const char *german;
 };
 
+/// Everything that the board itself says.
+QVector<TextEntry> textEntries();
+
 /// The board's own texts in a language ("en" or "de") by localisation key; empty for other languages.
 pagehost::TextTable boardTexts(const QString &language);
 

@@ -23,6 +23,7 @@ Workspace::Workspace(const QString &language)
     for (const QString &code : {QStringLiteral("en"), QStringLiteral("de")})
         m_localizer.addTexts(code, boardTexts(code));
     m_localizer.setLanguage(language);
+    qRegisterMetaType<pagehost::PluginReport>();
     m_registry.setProblemListener(
         [this](const pagehost::PluginReport &report) { Q_EMIT pluginProblemFound(report); });
     pagehost::setColorSetting(IFramework::DefaultPenColor, false, QColor(newPenColor));

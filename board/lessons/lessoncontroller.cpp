@@ -168,7 +168,7 @@ bool LessonController::show()
     }
     m_notices->remove(noticeId);
     if (extent == pagehost::LessonExtent::Part)
-        m_notices->add({m_workspace->text("IDS_LESSON_CUT").arg(data.name), {}, {}, noticeId});
+        m_notices->add({m_workspace->text("IDS_LESSON_PLAYS_IN_PART").arg(data.name), {}, {}, noticeId});
     m_showing = true;
     m_player.setLesson(lesson);
     Q_EMIT stateChanged();

@@ -32,7 +32,7 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_RECORDING", "Recording  %1", "Aufnahme läuft  %1"},
         {"IDS_LESSON_RECORDING_PAUSED", "Recording paused  %1", "Aufnahme angehalten  %1"},
         {"IDS_LESSON_TIME", "%1 / %2", "%1 / %2"},
-        {"IDS_LESSON_CUT", "“%1” is damaged and plays up to the damage.",
+        {"IDS_LESSON_PLAYS_IN_PART", "“%1” is damaged and plays up to the damage.",
          "„%1“ ist beschädigt und läuft bis zum Schaden."},
         {"IDS_LESSON_UNREADABLE", "“%1” cannot be played: its data are damaged or of a newer program.",
          "„%1“ kann nicht abgespielt werden: die Daten sind beschädigt oder von einem neueren Programm."},

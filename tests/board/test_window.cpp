@@ -4,6 +4,7 @@
 
 #include <support/virtualtime.h>
 
+#include <application/texts.h>
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
 #include <panels/historypanel.h>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void darkColoursAreRemembered();
     void longNamesAreShortenedInTheStatusLine();
     void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
+    void noKeyStandsForTwoTexts();
 };
 
 namespace {
@@ -195,6 +197,17 @@ void TestWindow::shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn()
              qPrintable(told));
     QVERIFY(board.draw(rectangle, {300, 200}, {420, 280}));
     QCOMPARE(board.page().objectCount(), 1);
+}
+
+void TestWindow::noKeyStandsForTwoTexts()
+{
+    QStringList keys;
+    for (const board::TextEntry &entry : board::textEntries())
+        keys.append(QLatin1String(entry.key));
+    QVERIFY(keys.size() > 100);
+    const QStringList all = keys;
+    keys.removeDuplicates();
+    QCOMPARE(keys, all);
 }
 
 QTEST_MAIN(TestWindow)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include <csignal>
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -125,6 +126,7 @@ bool isPast(const TracedRun &run, const QByteArray &name)
 
 TracedRun traced(const std::function<int()> &work, const QString &disturbance)
 {
+    ::signal(SIGPIPE, SIG_IGN);
     const QTemporaryDir folder;
     const QString log = folder.filePath(QStringLiteral("calls"));
     const Copy copy = copyThatWaits(work);
@@ -136,7 +138,9 @@ TracedRun traced(const std::function<int()> &work, const QString &disturbance)
     strace.start(QStringLiteral("strace"), arguments);
     TracedRun run;
     run.problem = problemOf(strace);
-    if (run.problem.isEmpty() && ::write(copy.start, "w", 1) != 1)
+    // A process that dies at its first call may be gone before it is told to begin.
+    const bool begins = run.problem.isEmpty() && ::write(copy.start, "w", 1) == 1;
+    if (run.problem.isEmpty() && !begins && disturbance.isEmpty())
         run.problem = QStringLiteral("the traced process has gone");
     ::close(copy.start);
     int status = 0;

@@ -23,6 +23,8 @@ namespace {
 
 /// Where an object keeps its kind among the data of its graphics item.
 constexpr int kindIdData = 0x6b696e64;
+/// Set once a plug-in has given the object.
+constexpr int givenData = 0x67697665;
 /// More are taken for nonsense.
 constexpr int mostKinds = 1000;
 /// Letters. Files hold the length of an id in two bytes.
@@ -270,10 +272,11 @@ CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operatio
     if (!object) {
         return nullptr;
     }
-    if (object->scene() || !kindIdOf(object).isEmpty()) {
+    if (object->scene() || object->data(givenData).toBool()) {
         addProblem(source, QStringLiteral("%1 gave an object that is in use").arg(operation));
         return nullptr;
     }
+    object->setData(givenData, true);
     setKindId(object, kindId);
     return object;
 }

@@ -111,3 +111,5 @@ FRAMEWORK_EXPORT QString kindIdOf(const CBaseObject *object);
 FRAMEWORK_EXPORT void setKindId(CBaseObject *object, const QString &kindId);
 
 } // namespace pagehost
+
+Q_DECLARE_METATYPE(pagehost::PluginReport)
