@@ -29,7 +29,7 @@ constexpr int bandSteps = 20;
 
 void settle()
 {
-    // What a turn of the event loop leaves to do is done in the next ones.
+    // Work that a turn of the event loop postpones is done in the next ones.
     for (int turn = 0; turn < 4; ++turn)
         QCoreApplication::processEvents();
 }
@@ -45,7 +45,7 @@ public:
         m_window = std::make_unique<board::MainWindow>(&m_workspace);
         m_window->resize(1600, 1100);
         m_window->show();
-        // What moves costs its ticks, selected or not.
+        // Animated shapes cost their ticks, selected or not.
         m_window->animation()->setPlaying(false);
         const QStringList kinds = shapeKinds();
         for (int i = 0; i < shapeCount; ++i) {

@@ -212,7 +212,7 @@ void DocumentController::write(const QString &file, const Expectation &expected,
         next();
 }
 
-/// What could not be read of a file may be read by somebody, as long as it is there.
+/// Keeps the damaged file: somebody else may be able to read more of it.
 bool DocumentController::keepDamaged(const QString &file)
 {
     if (m_damagedFile.isEmpty() || QFileInfo(file) != QFileInfo(m_damagedFile) || !QFileInfo::exists(file))

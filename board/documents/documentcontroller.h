@@ -70,7 +70,7 @@ Q_SIGNALS:
     void saved(const QString &file);
 
 private:
-    /// What is known to be at the place of a file that is written: nothing means whatever is there.
+    /// The file that a save expects to replace; nothing when it may replace any.
     using Expectation = std::optional<pagehost::FileStamp>;
 
     void watchDocument();

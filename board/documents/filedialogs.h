@@ -34,7 +34,7 @@ public:
     void askToReplace(const QStringList &files, const Work &replace) const;
     /// What to do with unsaved changes to `name`.
     void askToKeepChanges(const QString &name, const Work &save, const Work &discard) const;
-    /// What to do about `file`, which somebody else has changed.
+    /// Asks how to go on with `file`, which somebody else has changed.
     void askAboutConflict(const QString &file, const Work &keepMine, const Work &takeTheirs,
                           const Work &saveBoth) const;
     /// Before saving to `file` changes what others have of it.

@@ -30,7 +30,7 @@ public:
     pagehost::Autosave &autosave() { return m_autosave; }
 
 private:
-    /// What tells one copy from another.
+    /// One copy, with the facts that tell it from others.
     struct Offer
     {
         pagehost::RecoverableDocument copy;

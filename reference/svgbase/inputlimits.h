@@ -65,8 +65,8 @@ constexpr int useInstances = 100000;
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of attributes that are read again for all "use" elements, and for markers and the like.
 constexpr int usedCharacters = 10000000;
-/// Most characters of one document that are set; the rest is left out. A text counts a few besides, for the time that
-/// its layout takes.
+/// Most characters of one document that are set; the rest is left out. A text counts a few besides, for the time
+/// that its layout takes.
 constexpr int textCharacters = 100000;
 constexpr int charactersOfText = 4;
 /// Most "tref" elements of a document, and most characters that one shows.
@@ -137,7 +137,7 @@ constexpr int textRunElements = 200000;
 /// size, as much more for every pixel of its target; what comes when it is used up is not painted.
 constexpr double paintedWork = 1e9;
 constexpr double paintedWorkPerPixel = 400;
-/// What tiles of patterns may take of that, and of the pixels painted aside, besides.
+/// Additional share of that, and of the pixels painted aside, for tiles of patterns.
 constexpr double shareOfTiles = 0.25;
 /// Deepest nesting of groups that are painted aside for their opacity; deeper ones apply it to each shape.
 constexpr int layerDepth = 64;

@@ -48,7 +48,7 @@ inline int stopBytes(const QDataStream &in)
     return stopPlaceBytes(in) + colorBytes;
 }
 
-/// What stands behind the stops is no longer than this: two points, a radius and a matrix.
+/// Most bytes behind the stops: two points, a radius and a matrix.
 constexpr int mostBytesBehindStops = (2 + 2 + 1 + 9) * int(sizeof(double));
 
 } // namespace BrushLayout

@@ -1,4 +1,4 @@
-// What is left when the board is killed: at each system call of a save, and while nothing has been saved.
+// Files left when the board is killed: at each system call of a save, and while nothing has been saved.
 
 #include <board/desk.h>
 
@@ -62,7 +62,7 @@ struct ChangedDesk : Desk
         if (!file.open(QIODevice::WriteOnly) || file.write(oldBytes) != oldBytes.size())
             qFatal("the file cannot be written");
     }
-    /// What the program does when it starts.
+    /// Does as the program does when it starts.
     void startAgain() { board.window().recovery()->offer(); }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
 

@@ -314,7 +314,7 @@ void TestAutosave::lockThatNamesNobodyHereHidesACopyForAWhileOnly_data()
     QTest::addColumn<QByteArray>("lock");
     QTest::addColumn<int>("age");
     QTest::addColumn<bool>("isOffered");
-    // What QLockFile writes: process, program, machine.
+    // In the format of QLockFile: process, program, machine.
     const QByteArray foreign("1\nboard\nanother-machine\n");
     constexpr int justNow = 60;
     constexpr int longAgo = 601;

@@ -47,7 +47,7 @@ QByteArray withWrongSum(QByteArray file, const QByteArray &tag, int place = 0)
     return file;
 }
 
-/// What is kept of damaged parts.
+/// Damaged parts that were kept.
 QList<QByteArray> damagedParts(const ExtraData &extra)
 {
     QList<QByteArray> parts;

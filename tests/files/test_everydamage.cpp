@@ -109,7 +109,7 @@ Sample sampleOf(DocumentFormat format)
     return sample;
 }
 
-/// What happens at a place; gives the bytes from there on that are other ones afterwards.
+/// Damages the bytes at a place; returns how many bytes from there on differ afterwards.
 using Damage = int (*)(QByteArray &bytes, int place);
 
 int lowestBitFlipped(QByteArray &bytes, int place)

@@ -59,7 +59,7 @@ void limitFileSize(rlim_t limit)
     setrlimit(RLIMIT_FSIZE, &bytes);
 }
 
-/// What a board that is saving has in a folder, until it dies.
+/// The unfinished file of another board that is saving, until it dies.
 class WorkFileOfAnotherBoard
 {
 public:

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// What a board knows of the file that it has opened.
+// Facts that a board keeps about the file that it has opened.
 
 using namespace pagehost;
 

@@ -23,7 +23,7 @@ const QString mimeType = QStringLiteral("text/faulty");
 class FaultyPlugin : public ObjectPlugin
 {
 public:
-    /// What it throws in an operation of that name.
+    /// Makes it throw in an operation of that name.
     void failIn(const QString &operation) { m_failing = operation; }
 
     QVector<ObjectKind> objectKinds() const override

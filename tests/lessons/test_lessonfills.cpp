@@ -74,7 +74,7 @@ QByteArray textureWithoutPicture()
     return texture().left(1 + 11) + QByteArray(4 + 72, '\0');
 }
 
-/// What an object hears of a lesson in which it is filled.
+/// Actions that an object gets from a lesson in which it is filled.
 QVector<QPair<int, QByteArray>> heardOf(const QByteArray &payload)
 {
     Editor editor;

@@ -69,7 +69,7 @@ struct Bare : ShapeFixture
     }
 };
 
-/// What nothing to draw with is on a stream: no raw points, no point, a flag and a value for each kind of pen.
+/// A core without a document on a stream: no raw points, no point, a flag and a value for each kind of pen.
 QByteArray savedWithoutDocument()
 {
     return bytesOf(qint32(0), true, true, QColor(), true, qint32(0), true, qint32(0));

@@ -21,7 +21,7 @@ struct SystemCall
     QString failing(const char *error) const;
 };
 
-/// What became of a traced process.
+/// Outcome of a traced process.
 struct TracedRun
 {
     QString problem;           ///< why it could not be traced; empty when it was

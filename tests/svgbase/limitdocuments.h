@@ -73,8 +73,8 @@ inline QString rulesOf(int rules)
 // More elements than selectorSteps / leastSelectorSteps leave each of them the least number of steps.
 inline QString selectorsOf(int selectors)
 {
-    return "<style>" + QString("rect:root{fill:red}").repeated(selectors - 1) + "rect{fill:#0f0}</style>" + rect("") +
-           QString("<desc/>").repeated(Limits::selectorSteps / Limits::leastSelectorSteps);
+    return "<style>" + QString("rect:root{fill:red}").repeated(selectors - 1) + "rect{fill:#0f0}</style>" +
+           rect("") + QString("<desc/>").repeated(Limits::selectorSteps / Limits::leastSelectorSteps);
 }
 
 inline QString classesOf(int classes)

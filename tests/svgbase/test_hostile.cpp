@@ -438,8 +438,8 @@ void TestHostile::attributesOfADocumentTypeAreCounted()
     for (const int given : {127, 128}) {
         QVector<Message> messages;
         const QByteArray text = "<!DOCTYPE svg [<!ATTLIST g a CDATA '" + QByteArray(1024 * 1024, 'x') +
-                                "'>]><svg xmlns='http://www.w3.org/2000/svg'>" + QByteArray("<g/>").repeated(given) +
-                                "</svg>";
+                                "'>]><svg xmlns='http://www.w3.org/2000/svg'>" +
+                                QByteArray("<g/>").repeated(given) + "</svg>";
         QVERIFY(DocumentPointer(QZeSvgTinyDocument::load(text, &messages)));
         QCOMPARE(!messages.isEmpty(), given == 128);
         QVERIFY(messages.isEmpty() || messages.constFirst().code == Message::TooManyAttributes);

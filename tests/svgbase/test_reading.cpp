@@ -276,7 +276,7 @@ void TestReading::entityMayHoldSeveralLines()
     QCOMPARE(messages.first().line, line);
 }
 
-// What only looks like a declaration of a type, and quotes that nothing closes, lead no further.
+// Text that only looks like a document type, and quotes that nothing closes, change nothing.
 void TestReading::linesAroundATypeDeclarationStayAsTheyAre()
 {
     const QByteArray text =

@@ -24,7 +24,7 @@ double advance(const QString &characters)
     return QFontMetricsF(outlineFont(style)).horizontalAdvance(characters) * 20 / outlineFontSize;
 }
 
-/// What "make_test_font.py colors" writes, as Base64: of "A" a picture of 0.6 by 1 of the font size, its left half
+/// Output of "make_test_font.py colors" as Base64: of "A" a picture of 0.6 by 1 of the font size, its left half
 /// red, its right half blue.
 const char colorFont[] =
     "AAEAAAALAIAAAwAwQ0JEVH6phUEAAAC8AAAAW0NCTEMcDDTJAAABGAAAAFBjbWFwAAwAdQAAAWgAAAAsZ2x5ZgvMCKoAAAGUAAAA"

@@ -229,7 +229,7 @@ void BinaryReader::finishPage()
     m_objectsClaimed = 0;
 }
 
-/// What stands before a chunk or the end and is none: a chunk whose header is damaged, or anything.
+/// Takes the bytes before a chunk or the end that are no chunk: one with a damaged header, or anything else.
 void BinaryReader::takeGap()
 {
     QByteArray gap = m_chunks.gap();

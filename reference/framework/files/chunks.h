@@ -72,7 +72,7 @@ public:
     bool hasKnownChunk() const;
     /// The next chunk; false at the end.
     bool next(Chunk &chunk);
-    /// What next() had to pass over before the chunk, or before the end, since it is no chunk.
+    /// Bytes that next() passed over before the chunk, or before the end, since they are no chunk.
     QByteArray gap() const { return m_bytes.mid(int(m_gapStart), int(m_gapSize)); }
     qint64 gapStart() const { return m_gapStart; }
     /// Whether the bytes ended inside a chunk or with what is no chunk.

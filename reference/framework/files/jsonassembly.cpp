@@ -29,7 +29,7 @@ bool isBase64Digit(char character)
            (character >= '0' && character <= '9') || character == '+' || character == '/';
 }
 
-/// What is behind a damaged digit keeps its place.
+/// Decodes damaged digits as zeros, so that the bytes behind them keep their places.
 QByteArray decoded(QByteArray base64, bool &isDamaged)
 {
     const auto bytes = QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
@@ -64,14 +64,14 @@ QString nameOf(const QByteArray &key)
     return QString::fromUtf8(key.constData(), key.size());
 }
 
-/// Whatever its name has become.
+/// Recognises it by its contents: the name may be damaged.
 bool isArrayOfChunks(const QJsonValue &value)
 {
     const QJsonObject first = value.toArray().at(0).toObject();
     return first.size() == 2 && first.contains(QLatin1String(tagName)) && first.contains(QLatin1String(bytesName));
 }
 
-/// What stands behind the key of a broken text, to its end; empty when there is no such key.
+/// The text behind a key, to the end of the broken text; empty when there is no such key.
 QByteArray behindKey(const QByteArray &text, const char *key)
 {
     const QByteArray quoted = '"' + QByteArray(key) + '"';

@@ -41,8 +41,8 @@ QJsonValue takePlain(JsonCursor &cursor)
     return cursor.takeValue(text) ? parseJson(text, problem) : QJsonValue(QJsonValue::Undefined);
 }
 
-/// What stands behind the first `"name":` of a text that is broken somewhere. Inside of strings the quotes of such
-/// a name are escaped.
+/// The value behind the first `"name":` of a text that is broken somewhere. Quotes inside strings are escaped, so a
+/// string never looks like a name.
 QJsonValue findMember(const QByteArray &text, const char *name, QJsonValue (*takeValue)(JsonCursor &))
 {
     const QByteArray key = '"' + QByteArray(name) + '"';

@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// What a drawing may still do: pixels painted aside, in all and at a time, and work on outlines and pixels.
+/// Work left to a drawing: pixels painted aside, in all and at a time, and work on outlines and pixels.
 struct PaintBudget
 {
     PaintBudget() = default;

@@ -8,7 +8,7 @@ namespace Svg {
 double paintedLength(const DisplayItem &item);
 /// How many segments and dashes a mapped item's pen goes along.
 double strokedPieces(const DisplayItem &item);
-/// What painting a mapped item within an area takes, about in nanoseconds.
+/// Estimated cost of painting a mapped item within an area, in nanoseconds.
 struct PaintingWork
 {
     /// For its elements, whatever its size.

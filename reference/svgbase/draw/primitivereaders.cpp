@@ -121,7 +121,7 @@ QSize readOrder(const Attributes &attributes)
     return isWhole(order.width()) && isWhole(order.height()) ? order.toSize() : usual.toSize();
 }
 
-// What is left of factors that cancel each other out, in no order of adding them up exactly, counts as 0.
+// Factors that cancel each other out leave a rounding error, whatever their order: it counts as 0.
 double sumOf(const QVector<double> &factors)
 {
     constexpr double roundingShare = 1e-12;

@@ -16,7 +16,7 @@ namespace {
 
 /// How far bounds of a stroke may stray, as a share of its size.
 constexpr double strokeTolerance = 1e-3;
-/// What a text counts, which is laid out to be measured.
+/// Visits that a text counts, since it is laid out to be measured.
 constexpr int visitsOfText = 10;
 
 /// An element whose children are being measured.

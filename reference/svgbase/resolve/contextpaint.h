@@ -4,8 +4,7 @@
 
 namespace Svg {
 
-/// What a paint of this kind stands for where an element is shown by another; null for other kinds and without a
-/// context.
+/// The paint that `kind` takes from the element that shows this one; null for other kinds and without a context.
 const ContextPaint *contextPaint(const Facts &facts, Paint::Kind kind);
 /// From the units of the element that a context's paint belongs to.
 QTransform fromContext(const ContextPaint &paint, const Facts &facts);

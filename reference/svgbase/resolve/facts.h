@@ -32,7 +32,7 @@ struct Outline
     /// Patterns in the place of the brushes, which then only tell that there is something.
     int fillPattern = -1;
     int strokePattern = -1;
-    /// What the style asks for: a pattern may be that of a context.
+    /// Paints that the style asks for: a pattern may come from a context.
     Paint::Kind fillKind = Paint::Unset;
     Paint::Kind strokeKind = Paint::Unset;
     /// Of the style that it is painted with, for the patterns.

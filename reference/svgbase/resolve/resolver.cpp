@@ -223,7 +223,7 @@ ContextPaint Resolver::ownPaint(const Paint &paint, Facts *facts) const
     return handedDown(*facts, paint.kind, brush, pattern);
 }
 
-// What is used may be painted with gradients and patterns that relate to the bounds of all of it.
+// A used element may be painted with gradients and patterns that relate to the bounds of all of it.
 void Resolver::resolveContext(NodeIndex index, Facts *facts) const
 {
     facts->context = useContext(*facts);

@@ -26,7 +26,7 @@ struct Declaration
     bool isAttribute = false;
 };
 
-/// What tells a presentation attribute apart from a style of the same text.
+/// Tells a presentation attribute apart from a style of the same text.
 constexpr ushort attributeMark = 0x100;
 
 // These have no presentation attribute (SVG 2 §6.6).
@@ -36,7 +36,7 @@ bool isForStyleOnly(AttributeId property)
            property == AttributeId::Isolation;
 }
 
-// What browsers' own style sheets say of them (SVG 2 §6.7): "hidden" is no initial value of "overflow".
+// The user agent style sheet of SVG 2 §6.7 says so; the initial value of "overflow" is "visible".
 bool hidesOverflow(ElementKind kind)
 {
     switch (kind) {
@@ -250,7 +250,7 @@ void declare(const Declaration &declaration, ComputedStyle *style)
     style->custom.insert(declaration.value.left(colon).toString(), value.toString());
 }
 
-// What refers to nothing counts as "unset" (CSS Custom Properties 1 §3.1), and so does what gets too long.
+// A reference to nothing counts as "unset" (CSS Custom Properties 1 §3.1), and so does a text that gets too long.
 QString substituted(QStringView value, const CustomProperties &properties, int *charactersLeft)
 {
     const QString unset = QStringLiteral("unset");

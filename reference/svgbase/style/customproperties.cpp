@@ -45,7 +45,7 @@ private:
     int m_references = 0;
 };
 
-// What is declared is settled by now: it refers to nothing.
+// Declared properties are settled by now and refer to nothing.
 bool Substitution::appendReference(QStringView arguments, QString *result)
 {
     if (++m_references > mostReferences)

@@ -23,7 +23,7 @@ struct RuleBlock
 {
     QVector<RuleDeclaration> declarations;
     int layer = 0;
-    /// What taking them for an element counts.
+    /// Steps that taking them for an element counts.
     int steps = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// What references to custom properties begin with.
+/// Beginning of a reference to a custom property.
 constexpr QLatin1String variableStart("var(");
 /// Most references that one value is made of.
 constexpr int mostReferences = 64;

@@ -73,7 +73,7 @@ bool readFontWord(const QString &word, FontWords *font)
     return true;
 }
 
-// What the shorthand has no word for becomes as usual (CSS Fonts 4 §2.7).
+// Longhands that the shorthand has no word for get their initial values (CSS Fonts 4 §2.7).
 QVector<Longhand> fontOf(const FontWords &font, const QString &kerning, const QString &sizeAdjust)
 {
     return {{AttributeId::FontStyle, font.style},     {AttributeId::FontVariant, font.variant},

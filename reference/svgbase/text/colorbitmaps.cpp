@@ -30,7 +30,7 @@ constexpr int shortOffsets = 3;
 constexpr int sparseOffsets = 4;
 constexpr int sparseSameSize = 5;
 
-// What stands in front of a PNG (OpenType, "CBDT").
+// Bytes in front of a PNG, by its format (OpenType, "CBDT").
 constexpr int smallMetrics = 17;
 constexpr int bigMetrics = 18;
 constexpr int sharedMetrics = 19;

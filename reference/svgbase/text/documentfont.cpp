@@ -74,7 +74,7 @@ QStringList keysOfRange(const QString &range)
     return keys;
 }
 
-// What one side of a pair lists: characters, or names of glyphs; not much more than `most` of them.
+// Keys that one side of a pair lists, characters or names of glyphs; not much more than `most` of them.
 QStringList sideOf(const QString &characters, const QString &names, int most)
 {
     QStringList keys;

@@ -67,14 +67,14 @@ public:
     const FontGlyph *glyphOf(NodeIndex node) const;
     /// How much closer than their advance two neighbours stand, font units.
     double kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const;
-    /// What a font file shows in the place of the outline, font units; null for most glyphs.
+    /// Picture that a font file shows in the place of the outline, font units; null for most glyphs.
     const GlyphPicture *picture(const FontGlyph &glyph) const;
     /// The outline in font units, y pointing down, its baseline beginning at the origin.
     const QPainterPath &outline(const FontGlyph &glyph) const;
 
     /// Whether some of its glyphs or of its kerning were beyond a limit.
     bool leavesOut() const { return m_leavesOut; }
-    /// What of the pictures of a file was left out because of a limit.
+    /// Tells which pictures of a file a limit left out.
     Problem pictureProblem() const { return m_file ? m_file->problem() : Problem(); }
 
 private:

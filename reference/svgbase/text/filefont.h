@@ -26,9 +26,9 @@ public:
     double advance(quint32 glyph) const;
     /// Empty once outlines of more elements were asked for than texts may show.
     QPainterPath outline(quint32 glyph);
-    /// What is shown in the place of the outline; null for most glyphs.
+    /// Picture in the place of the outline; null for most glyphs.
     const GlyphPicture *picture(quint32 glyph);
-    /// What of its pictures was left out because of a limit.
+    /// Tells which of its pictures a limit left out.
     Problem problem() const { return m_pictures->problem(); }
     /// How much closer than their advance two neighbours stand.
     double kerning(quint32 first, quint32 second) const;

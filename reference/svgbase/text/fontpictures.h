@@ -23,7 +23,7 @@ public:
     explicit FontPictures(const QRawFont &font);
 
     bool isEmpty() const { return m_bitmaps.isEmpty(); }
-    /// What was left out because of a limit.
+    /// Tells what a limit left out.
     Problem problem() const;
     /// Null for a glyph without a picture that can be shown.
     const GlyphPicture *find(quint32 glyph);

@@ -107,7 +107,7 @@ void TextCollector::findFont(TextLevel *level)
         substituteGlyphs(level);
     for (NodeIndex at = level->node; at != noNode && level->language.isEmpty(); at = m_tree.node(at).parent)
         level->language = m_tree.node(at).attributes.value(QStringLiteral("xml:lang"));
-    // What follows on the longest tag of a glyph makes no difference.
+    // Characters beyond the longest tag of a glyph make no difference.
     level->language = level->language.left(Limits::glyphListCharacters + 1).toLower();
 }
 

@@ -12,7 +12,7 @@
 
 namespace Svg {
 
-/// What an element's own transform amounts to where percentages are of the given view.
+/// An element's own transform, with percentages of the given view.
 using OwnTransform = std::function<QTransform(NodeIndex node, const QSizeF &viewport)>;
 
 /// What setting a text needs besides the text.

@@ -18,7 +18,7 @@ struct TextCluster
     double advance = 0;
     /// Distance of its left end from that of the chunk.
     double offset = 0;
-    /// What is shown beside the outline, in its units.
+    /// Pictures shown beside the outline, in its units.
     QVector<PlacedPicture> pictures = {};
 };
 

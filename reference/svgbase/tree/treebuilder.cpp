@@ -60,7 +60,7 @@ bool isCrowded(const XmlElement &element)
                        [](const XmlAttribute &attribute) { return attribute.qualifiedName == crowdedMark; });
 }
 
-// What a document type gives every element may be much more than the text has.
+// A document type may give every element far more attributes than the text has.
 qint64 attributeCharacters(const XmlElement &element)
 {
     qint64 characters = 0;

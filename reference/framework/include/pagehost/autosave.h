@@ -79,7 +79,7 @@ public:
     static void discard(const RecoverableDocument &copy);
 
 Q_SIGNALS:
-    /// What belongs into a copy may be put into the document now.
+    /// Emitted before a copy is made: receivers bring the document up to date.
     void aboutToLook();
     void saved(const QString &recoveryFile);
     void failed(const pagehost::FileMessage &problem);

@@ -38,7 +38,7 @@ struct FRAMEWORK_EXPORT FileStamp
     static FileStamp fromJson(const QJsonObject &object);
 };
 
-/// What becomes of a file beyond its contents when another one takes its place.
+/// Effects of replacing a file, its contents apart.
 struct ReplacementEffects
 {
     int otherNames = 0;        ///< hard links, which keep the file as it was

@@ -42,7 +42,7 @@ enum SpecialProperty {
 /// Texts by localisation key.
 using TextTable = QMap<QString, QString>;
 
-/// What a plug-in for page objects implements. An exception that leaves one of these operations counts as nothing
+/// The interface of plug-ins for page objects. An exception that leaves one of these operations counts as nothing
 /// given, and is named in the plug-in's report. It needs no metadata file:
 ///
 ///     class ArrowPlugin : public QObject, public pagehost::ObjectPlugin {
@@ -92,7 +92,7 @@ public:
 
 } // namespace pagehost
 
-/// What a plug-in implements.
+/// Identifies the interface to Qt's plug-in system.
 #define PAGEHOST_OBJECTPLUGIN_INTERFACE "gliololok.pagehost.ObjectPlugin/2"
 /// The same with the version of the library that a plug-in is built against. A plug-in of an older version with the
 /// same major number is loaded, one of a newer version is not.
