@@ -55,8 +55,8 @@ private:
     Band m_band{};
     int m_columns = 0;
     int m_words = 0;
-    /// What each pixel adds to the covered area of all pixels from it on, by rows; where lines crowd that may go
-    /// around, but their sums do not.
+    /// Area that each pixel adds to itself and to all pixels behind it, by rows. Single values may wrap around
+    /// where lines crowd; their sums do not.
     std::vector<uint> m_cells;
     /// A bit for each pixel that was written.
     std::vector<quint64> m_written;
