@@ -1,4 +1,4 @@
-#include "draw/controlpoints.h"
+#include "scene/controlpoints.h"
 #include "svgdrawing.h"
 
 #include <QPainter>

@@ -2,8 +2,8 @@
 
 #include "svgdrawing.h"
 
-#include "draw/coverage.h"
-#include "draw/solidpainting.h"
+#include "paint/solidpainting.h"
+#include "raster/coverage.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QPainter>

@@ -1,9 +1,9 @@
 // Documents that were made to take long or much: what is drawn of them, and what says that something is left out.
 // scripts/hostile_svg.py measures such documents.
 
-#include "draw/paintbudget.h"
 #include "grammar/csstext.h"
 #include "inputlimits.h"
+#include "paint/paintbudget.h"
 #include "style/selectormatching.h"
 #include "svgdrawing.h"
 

@@ -1,6 +1,6 @@
 #include "document/documentprivate.h"
-#include "draw/displaylistcache.h"
 #include "inputlimits.h"
+#include "paint/displaylistcache.h"
 #include "svgdrawing.h"
 
 #include <QtGui/QPaintEngine>

@@ -1,4 +1,4 @@
-#include "draw/keptpicture.h"
+#include "paint/keptpicture.h"
 #include "svgdrawing.h"
 
 #include <QtTest>

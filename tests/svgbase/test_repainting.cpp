@@ -1,6 +1,6 @@
 #include "document/documentprivate.h"
-#include "draw/displaylist.h"
 #include "inputlimits.h"
+#include "paint/displaylist.h"
 #include "svgdrawing.h"
 
 #include <QtTest>

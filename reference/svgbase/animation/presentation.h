@@ -2,7 +2,7 @@
 
 #include "animation/model.h"
 #include "document/document.h"
-#include "draw/drawreport.h"
+#include "scene/drawreport.h"
 
 namespace Svg {
 

@@ -1,8 +1,8 @@
 // Drawing a document onto a painter.
 
 #include "document/documentprivate.h"
-#include "draw/displaylistcache.h"
 #include "grammar/viewboxes.h"
+#include "paint/displaylistcache.h"
 #include "resolve/viewports.h"
 
 #include <QtGui/QPainter>

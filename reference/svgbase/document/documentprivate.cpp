@@ -1,8 +1,8 @@
 #include "document/documentprivate.h"
 
-#include "draw/controlpoints.h"
-#include "draw/displaylistcache.h"
+#include "paint/displaylistcache.h"
 #include "resolve/viewports.h"
+#include "scene/controlpoints.h"
 
 using namespace Svg;
 

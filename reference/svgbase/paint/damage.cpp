@@ -1,0 +1,102 @@
+#include "paint/damage.h"
+
+#include "paint/displaylist.h"
+
+namespace Svg {
+
+namespace {
+
+/// How far antialiasing reaches beyond what is painted, pixels, with room to spare.
+constexpr int smoothingMargin = 2;
+/// More rectangles than this are not worth a painting each.
+constexpr int mostRects = 4;
+/// Where growing takes more passes over a list, all of it is painted.
+constexpr int mostPasses = 8;
+
+QRectF withMargin(const QRectF &bounds)
+{
+    return bounds.adjusted(-smoothingMargin, -smoothingMargin, smoothingMargin, smoothingMargin);
+}
+
+double areaOf(const QRectF &rect)
+{
+    return rect.width() * rect.height();
+}
+
+// Makes one of those two that waste least by it.
+void uniteNearest(QVector<QRectF> *rects)
+{
+    int first = 0;
+    int second = 1;
+    double least = -1;
+    for (int i = 0; i < rects->size(); ++i) {
+        for (int j = i + 1; j < rects->size(); ++j) {
+            const QRectF &a = rects->at(i);
+            const QRectF &b = rects->at(j);
+            const double waste = areaOf(a | b) - areaOf(a) - areaOf(b);
+            if (least >= 0 && waste >= least)
+                continue;
+            least = qMax(0.0, waste);
+            first = i;
+            second = j;
+        }
+    }
+    const QRectF united = rects->at(first) | rects->at(second);
+    rects->remove(second);
+    rects->remove(first);
+    addApart(rects, united);
+}
+
+bool isPaintedWhole(const DisplayItem &item)
+{
+    return item.kind != DisplayItem::Shape || item.isIndivisible;
+}
+
+} // namespace
+
+QRect paintedPixels(const QRectF &bounds, const QRect &within)
+{
+    return bounds.isNull() ? QRect() : (withMargin(bounds) & QRectF(within)).toAlignedRect() & within;
+}
+
+void Damage::add(const QRectF &bounds)
+{
+    if (bounds.isNull())
+        return;
+    addApart(&m_rects, withMargin(bounds));
+    if (m_rects.size() > mostRects)
+        uniteNearest(&m_rects);
+}
+
+QVector<QRect> Damage::pixels(const QRect &within) const
+{
+    QVector<QRect> result;
+    for (const QRectF &rect : m_rects) {
+        const QRect aligned = (rect & QRectF(within)).toAlignedRect() & within;
+        if (!aligned.isEmpty())
+            addApart(&result, aligned);
+    }
+    return result;
+}
+
+QRect grownToItems(const QRect &rect, const QVector<DisplayItem> &items, const QRect &within)
+{
+    QRect grown = rect;
+    for (int pass = 0; pass < mostPasses; ++pass) {
+        const QRect before = grown;
+        for (int i = 0; i < items.size(); ++i) {
+            const DisplayItem &item = items.at(i);
+            if (isPaintedWhole(item)) {
+                const QRect reach = paintedPixels(item.bounds, within);
+                grown = reach.intersects(grown) ? grown | reach : grown;
+            }
+            if (item.kind == DisplayItem::BeginLayer)
+                i = item.end;
+        }
+        if (grown == before)
+            return grown;
+    }
+    return within;
+}
+
+} // namespace Svg

@@ -1,0 +1,139 @@
+// Each line adds to the pixels that it passes how much of the pixels to its right it covers, up or down; summed
+// along a row that gives the area that the outline goes around.
+
+#include "raster/coverage.h"
+
+namespace Svg {
+
+namespace {
+
+constexpr int subpixelBits = 8;
+static_assert(subpixels == 1 << subpixelBits);
+
+} // namespace
+
+// What was written before was cleared when it was swept.
+void Coverage::begin(const Band &band)
+{
+    m_band = band;
+    // What ends in the last pixel goes on in one more.
+    m_columns = band.width + 2;
+    m_words = (m_columns + wordBits - 1) / wordBits;
+    const size_t cells = size_t(m_columns) * size_t(band.height);
+    const size_t words = size_t(m_words) * size_t(band.height);
+    if (m_cells.size() < cells)
+        m_cells.resize(cells);
+    if (m_written.size() < words)
+        m_written.resize(words);
+}
+
+// `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
+inline void Coverage::addCell(int row, int column, int height, int twiceInset)
+{
+    uint *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
+    cell[0] += uint(height * (2 * subpixels - twiceInset));
+    cell[1] += uint(height * twiceInset);
+    const uint bit = uint(column) % wordBits;
+    quint64 *word = m_written.data() + size_t(row) * size_t(m_words) + uint(column) / wordBits;
+    word[0] |= quint64(3) << bit;
+    if (bit == wordBits - 1)
+        word[1] |= 1;
+}
+
+void Coverage::addLines(const FlatOutline &outline)
+{
+    int begin = 0;
+    for (const int end : outline.ends) {
+        addPolygon(outline.points.constData() + begin, outline.points.constData() + end);
+        begin = end;
+    }
+}
+
+void Coverage::addPolygon(const QPoint *begin, const QPoint *end)
+{
+    const QPoint origin(m_band.left * subpixels, m_band.top * subpixels);
+    QPoint from = end[-1] - origin;
+    for (const QPoint *at = begin; at != end; ++at) {
+        const QPoint to = *at - origin;
+        if (from.y() < to.y())
+            addLine(from, to, 1);
+        else if (from.y() > to.y())
+            addLine(to, from, -1);
+        from = to;
+    }
+}
+
+// Where a line passes from row to row depends on its ends alone, not on the band.
+void Coverage::addLine(QPoint upper, QPoint lower, int direction)
+{
+    const int end = qMin(lower.y(), m_band.height * subpixels);
+    int y = qMax(upper.y(), 0);
+    if (y >= end)
+        return;
+    if (upper.x() == lower.x()) {
+        addUpright(upper.x(), y, end, direction);
+        return;
+    }
+    const double slope = double(lower.x() - upper.x()) / (lower.y() - upper.y());
+    const auto xAt = [&](int at) { return upper.x() + qRound((at - upper.y()) * slope); };
+    int x = xAt(y);
+    while (y < end) {
+        const int row = y >> subpixelBits;
+        const int nextY = qMin((row + 1) * subpixels, end);
+        const int nextX = xAt(nextY);
+        addInRow(row, qMin(x, nextX), qMax(x, nextX), (nextY - y) * direction);
+        y = nextY;
+        x = nextX;
+    }
+}
+
+// What addLine() does where `x` is the same in all rows.
+void Coverage::addUpright(int x, int from, int to, int direction)
+{
+    if (x >= m_band.width * subpixels)
+        return;
+    const int column = qMax(x, 0) >> subpixelBits;
+    const int twiceInset = x > 0 ? 2 * (x - column * subpixels) : 0;
+    for (int y = from; y < to;) {
+        const int row = y >> subpixelBits;
+        const int nextY = qMin((row + 1) * subpixels, to);
+        addCell(row, column, (nextY - y) * direction, twiceInset);
+        y = nextY;
+    }
+}
+
+// A part of a line from `left` to `right` that is `height` high; what is left of the band covers all of its pixels.
+void Coverage::addInRow(int row, int left, int right, int height)
+{
+    const int width = m_band.width * subpixels;
+    if (left >= width)
+        return;
+    if (right <= 0) {
+        addCell(row, 0, height, 0);
+        return;
+    }
+    int column = left >> subpixelBits;
+    if (right <= (column + 1) * subpixels) {
+        addCell(row, column, height, left + right - 2 * column * subpixels);
+        return;
+    }
+    const double steepness = double(height) / (right - left);
+    int passed = 0;
+    int at = left;
+    if (left < 0) {
+        passed = qRound(-left * steepness);
+        addCell(row, 0, passed, 0);
+        column = 0;
+        at = 0;
+    }
+    while (at < right && at < width) {
+        const int next = qMin((column + 1) * subpixels, right);
+        const int passedThen = next == right ? height : qRound((next - left) * steepness);
+        addCell(row, column, passedThen - passed, at + next - 2 * column * subpixels);
+        passed = passedThen;
+        at = next;
+        ++column;
+    }
+}
+
+} // namespace Svg

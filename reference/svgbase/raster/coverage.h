@@ -1,0 +1,114 @@
+#pragma once
+
+#include "raster/flatoutline.h"
+
+#include <QtCore/QRect>
+
+#include <vector>
+
+namespace Svg {
+
+/// Tells how much of each pixel an outline covers: the exact area, in 256 steps. What a pixel gets does not depend
+/// on the window that is looked at.
+class Coverage
+{
+public:
+    /// Pixels from `x` on, `length` of them in row `y`, are covered alike; 255 is all of a pixel, 0 is not told.
+    struct Span
+    {
+        int x;
+        int y;
+        int length;
+        int coverage;
+    };
+
+    /// Calls `sink(span)` for what is covered within `window` (pixels), from top to bottom.
+    template<typename Sink> void sweep(const FlatOutline &outline, const QRect &window, const Sink &sink);
+
+private:
+    /// Rows that are worked on together, the window's left edge being 0.
+    struct Band
+    {
+        int left;
+        int top;
+        int width;
+        int height;
+    };
+
+    void begin(const Band &band);
+    void addLines(const FlatOutline &outline);
+    void addPolygon(const QPoint *begin, const QPoint *end);
+    void addLine(QPoint upper, QPoint lower, int direction);
+    void addUpright(int x, int from, int to, int direction);
+    void addInRow(int row, int left, int right, int height);
+    void addCell(int row, int column, int height, int twiceInset);
+    template<typename Sink> void sweepRow(int row, Qt::FillRule rule, const Sink &sink);
+    static int coverageOf(int sum, Qt::FillRule rule);
+
+    /// Twice the area of a pixel, in subpixels, as a power of two.
+    static constexpr int areaBits = 17;
+    static constexpr int coverageBits = 8;
+    static constexpr int wordBits = 64;
+    /// Pixels of a band.
+    static constexpr int bandPixels = 1 << 16;
+
+    Band m_band{};
+    int m_columns = 0;
+    int m_words = 0;
+    /// Area that each pixel adds to itself and to all pixels behind it, by rows. Single values may wrap around
+    /// where lines crowd; their sums do not.
+    std::vector<uint> m_cells;
+    /// A bit for each pixel that was written.
+    std::vector<quint64> m_written;
+};
+
+inline int Coverage::coverageOf(int sum, Qt::FillRule rule)
+{
+    constexpr int whole = 1 << coverageBits;
+    int coverage = qAbs(sum) >> (areaBits - coverageBits);
+    if (rule == Qt::OddEvenFill) {
+        coverage &= 2 * whole - 1;
+        coverage = coverage > whole ? 2 * whole - coverage : coverage;
+    }
+    return qMin(coverage, whole - 1);
+}
+
+template<typename Sink> void Coverage::sweepRow(int row, Qt::FillRule rule, const Sink &sink)
+{
+    uint *cells = m_cells.data() + size_t(row) * size_t(m_columns);
+    quint64 *words = m_written.data() + size_t(row) * size_t(m_words);
+    const int y = m_band.top + row;
+    uint sum = 0;
+    int start = 0;
+    int coverage = 0;
+    for (int word = 0; word < m_words; ++word) {
+        quint64 bits = words[word];
+        words[word] = 0;
+        for (; bits; bits &= bits - 1) {
+            const int column = word * wordBits + int(qCountTrailingZeroBits(bits));
+            if (const int end = qMin(column, m_band.width); coverage > 0 && end > start)
+                sink(Span{m_band.left + start, y, end - start, coverage});
+            sum += cells[column];
+            cells[column] = 0;
+            start = column;
+            coverage = coverageOf(int(sum), rule);
+        }
+    }
+    if (coverage > 0 && start < m_band.width)
+        sink(Span{m_band.left + start, y, m_band.width - start, coverage});
+}
+
+template<typename Sink> void Coverage::sweep(const FlatOutline &outline, const QRect &window, const Sink &sink)
+{
+    if (window.isEmpty())
+        return;
+    const int rows = qMax(1, bandPixels / window.width());
+    for (int top = window.top(); top <= window.bottom(); top += rows) {
+        begin({window.left(), top, window.width(), qMin(rows, window.bottom() + 1 - top)});
+        addLines(outline);
+        for (int row = 0; row < m_band.height; ++row)
+            sweepRow(row, outline.fillRule, sink);
+    }
+}
+
+} // namespace Svg

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "scene/buildcontext.h"
+#include "scene/layereffects.h"
+
+namespace Svg {
+
+/// What becomes of an element that has a clip path, a mask or the like.
+struct BuiltEffects
+{
+    /// False when nothing of the element shows.
+    bool drawn = true;
+    /// Null when the element is drawn as if it had none.
+    std::shared_ptr<LayerEffects> layer;
+};
+
+/// Builds what the style of an element asks for. References to nothing, or to elements of another kind, count as
+/// none (CSS Masking 1 §5.1 and §7.1); an element whose reference leads back to itself is not drawn.
+BuiltEffects buildEffects(BuildContext &context, NodeIndex node, const FactsPointer &facts);
+/// The same for an element inside a clip path, where its own clip path counts and nothing else.
+BuiltEffects buildClipOnly(BuildContext &context, NodeIndex node, const FactsPointer &facts);
+
+} // namespace Svg

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "scene/filter.h"
+#include "tree/tree.h"
+
+namespace Svg {
+
+/// What lengths and numbers of primitives count: shares of the bounding box, or user units.
+struct PrimitiveUnits
+{
+    bool ofBounds = false;
+    QRectF bounds;
+    QSizeF viewport;
+};
+
+/// Reads a filter primitive (Filter Effects 1 §9). Values that break their grammar leave their defaults.
+FilterPrimitive readPrimitive(const Tree &tree, NodeIndex node, const ComputedStyle &style,
+                              const PrimitiveUnits &units);
+
+} // namespace Svg

@@ -1,0 +1,208 @@
+#include "scene/filterbuilder.h"
+
+#include "inputlimits.h"
+#include "resolve/images.h"
+#include "resolve/resolver.h"
+#include "scene/effectregion.h"
+#include "scene/filterattributes.h"
+#include "scene/filterfunctions.h"
+#include "scene/imagebuilder.h"
+#include "scene/listbuilder.h"
+#include "scene/openreference.h"
+#include "tree/references.h"
+
+namespace Svg {
+
+namespace {
+
+bool isPrimitive(ElementKind kind)
+{
+    return kind >= ElementKind::FeBlend && kind <= ElementKind::FeTurbulence && kind != ElementKind::FeMergeNode;
+}
+
+class FilterBuilder
+{
+public:
+    FilterBuilder(BuildContext &context, const FilterTarget &target)
+        : m_context(context)
+        , m_target(target)
+    {
+    }
+
+    /// False when the element is not one that can be applied.
+    bool addElement(NodeIndex filter, Filter *result, bool *drawn);
+
+private:
+    const Node &element(NodeIndex index) const { return m_context.document.tree().node(index); }
+    bool takePrimitive(NodeIndex filter, const FilterStep &step);
+    bool addPrimitives(NodeIndex filter, FilterStep *step);
+    ImagePointer image(NodeIndex node);
+    FactsPointer useFacts(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region) const;
+    void buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive);
+    void buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
+                    FilterPrimitive *primitive);
+
+    BuildContext &m_context;
+    const FilterTarget &m_target;
+};
+
+ImagePointer FilterBuilder::image(NodeIndex node)
+{
+    const auto known = m_context.filterImages.constFind(node);
+    if (known != m_context.filterImages.constEnd())
+        return *known;
+    const Attributes &attributes = element(node).attributes;
+    const bool plain = attributes.contains(AttributeId::Href);
+    Problem problem;
+    const ImagePointer read =
+        readImage(attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
+    m_context.filterImages.insert(node, read);
+    return read;
+}
+
+// As those of a "use" that stands in the filtered element, or in units of its bounding box: moved by "x" and "y",
+// which with "width" and "height" are known in the units of the element (SVG 1.1 §15.18).
+FactsPointer FilterBuilder::useFacts(NodeIndex node, const PrimitiveUnits &units,
+                                     const PrimitiveRegion &region) const
+{
+    auto *facts = new Facts;
+    const FactsPointer result(facts);
+    facts->style = StylePointer(new SharedStyle(inheritedStyle(*m_context.document.facts(node)->style)));
+    facts->viewport = m_target.viewport;
+    const QRectF box = units.ofBounds ? units.bounds : QRectF(0, 0, 1, 1);
+    facts->toDocument = QTransform::fromScale(box.width(), box.height()) *
+                        QTransform::fromTranslate(region.x.value_or(box.x()), region.y.value_or(box.y())) *
+                        m_target.toDocument;
+    if (region.width && box.width() > 0)
+        facts->ownFitting().usedSize.width = *region.width / box.width();
+    if (region.height && box.height() > 0)
+        facts->ownFitting().usedSize.height = *region.height / box.height();
+    return result;
+}
+
+// An element is shown as "use" would show it.
+void FilterBuilder::buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive)
+{
+    const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
+    if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown) ||
+        ++m_context.budget.instances > Limits::useInstances)
+        return;
+    const ElementKind kind = element(shown).kind;
+    if (!isDrawable(kind) && kind != ElementKind::Symbol)
+        return;
+    const OpenReference open(m_context, shown);
+    const FactsPointer holder = useFacts(node, units, primitive->region);
+    const Resolver resolver = m_context.document.resolver();
+    const FactsPointer own = m_context.document.facts(shown);
+    const FactsPointer facts = resolver.resolve(shown, holder, {own.data(), false, false, true});
+    primitive->items = buildElement(m_context, shown, facts);
+}
+
+// The picture of an "feImage" is fitted into its subregion (Filter Effects 1 §9.12).
+void FilterBuilder::buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
+                               FilterPrimitive *primitive)
+{
+    const Attributes &attributes = element(node).attributes;
+    if (!hrefTarget(attributes).isEmpty()) {
+        buildElementImage(node, units, primitive);
+        return;
+    }
+    auto *facts = new Facts;
+    const FactsPointer holder(facts);
+    facts->image = image(node);
+    if (!facts->image)
+        return;
+    facts->style = m_context.document.facts(node)->style;
+    facts->toDocument = m_target.toDocument;
+    const QRectF &whole = *step.region;
+    const PrimitiveRegion &r = primitive->region;
+    facts->localBounds = QRectF(r.x.value_or(whole.x()), r.y.value_or(whole.y()), r.width.value_or(whole.width()),
+                                r.height.value_or(whole.height()));
+    const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
+    facts->ownFitting().fit = contentFit(*facts->image, facts->localBounds, ratio);
+    appendImage(m_context, node, holder, &primitive->items);
+}
+
+// False when the filter, or all of them together, would have too many.
+bool FilterBuilder::takePrimitive(NodeIndex filter, const FilterStep &step)
+{
+    if (step.primitives.size() == Limits::filterPrimitives) {
+        m_context.report.add(
+            Message::TooManyFilterPrimitives,
+            QStringLiteral("A filter of more than %1 primitives has no effect.").arg(Limits::filterPrimitives),
+            filter);
+        return false;
+    }
+    if (m_context.appliedPrimitives == Limits::appliedPrimitives) {
+        m_context.report.add(Message::TooManyFilterPrimitives,
+                             QStringLiteral("Filters of more than %1 primitives together have no effect.")
+                                 .arg(Limits::appliedPrimitives));
+        return false;
+    }
+    ++m_context.appliedPrimitives;
+    return true;
+}
+
+bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
+{
+    const PrimitiveUnits units{element(filter).attributes.value(QStringLiteral("primitiveUnits")) ==
+                                   QLatin1String("objectBoundingBox"),
+                               m_target.bounds, m_target.viewport};
+    for (NodeIndex at = element(filter).firstChild; at != noNode; at = element(at).next) {
+        const ElementKind kind = element(at).kind;
+        if (!isPrimitive(kind))
+            continue;
+        if (!takePrimitive(filter, *step))
+            return false;
+        FilterPrimitive primitive =
+            readPrimitive(m_context.document.tree(), at, *m_context.document.facts(at)->style, units);
+        if (kind == ElementKind::FeImage)
+            buildImage(at, units, *step, &primitive);
+        step->primitives.append(primitive);
+    }
+    return true;
+}
+
+bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
+{
+    if (filter == noNode || element(filter).kind != ElementKind::Filter)
+        return false;
+    const Attributes &attributes = element(filter).attributes;
+    const bool ofBounds = attributes.value(QStringLiteral("filterUnits")) != QLatin1String("userSpaceOnUse");
+    if (ofBounds && m_target.bounds.isEmpty())
+        return false;
+    FilterStep step;
+    const double fontSize = m_context.document.facts(filter)->style->font.size;
+    step.region = effectRegion(attributes, ofBounds, {m_target.bounds, m_target.viewport, fontSize});
+    if (!addPrimitives(filter, &step))
+        return false;
+    *drawn = *drawn && !step.region->isEmpty() && !step.primitives.isEmpty();
+    result->steps.append(step);
+    return true;
+}
+
+} // namespace
+
+BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target)
+{
+    BuiltFilter result;
+    const std::optional<QVector<FilterFunction>> functions =
+        parseFilterList(target.style.effects->filter, target.style.effects->filterUnits);
+    if (!functions || functions->isEmpty())
+        return result;
+    const auto filter = std::make_shared<Filter>();
+    filter->toDocument = target.toDocument;
+    filter->fillPaint = target.fillPaint;
+    filter->strokePaint = target.strokePaint;
+    FilterBuilder builder(context, target);
+    for (const FilterFunction &function : *functions) {
+        if (function.kind != FilterFunction::Reference)
+            filter->steps.append(functionStep(function, target.style));
+        else if (!builder.addElement(context.document.tree().findId(function.id), filter.get(), &result.drawn))
+            return BuiltFilter();
+    }
+    result.filter = filter;
+    return result;
+}
+
+} // namespace Svg

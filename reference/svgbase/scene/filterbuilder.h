@@ -1,0 +1,36 @@
+#pragma once
+
+#include "scene/buildcontext.h"
+#include "scene/filter.h"
+
+#include <memory>
+
+namespace Svg {
+
+/// Where a filter is built.
+struct FilterTarget
+{
+    /// The bounding box of the filtered element and the viewport, its units.
+    QRectF bounds;
+    QSizeF viewport;
+    QTransform toDocument;
+    /// Of the filtered element, whose "filter" it says.
+    const ComputedStyle &style;
+    /// What paints it, where it is one shape.
+    QBrush fillPaint = Qt::NoBrush;
+    QBrush strokePaint = Qt::NoBrush;
+};
+
+/// What becomes of an element with a "filter" property.
+struct BuiltFilter
+{
+    /// False when the filter leaves nothing to see.
+    bool drawn = true;
+    /// Null when the element is drawn as if it had none: a list that refers to nothing or to another kind of
+    /// element (Filter Effects 1 §5), or one that is too long.
+    std::shared_ptr<Filter> filter;
+};
+
+BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target);
+
+} // namespace Svg

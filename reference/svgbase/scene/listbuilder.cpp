@@ -1,0 +1,423 @@
+#include "scene/listbuilder.h"
+
+#include "document/drawingwalk.h"
+#include "inputlimits.h"
+#include "resolve/contextpaint.h"
+#include "scene/controlpoints.h"
+#include "scene/effectbuilder.h"
+#include "scene/imagebuilder.h"
+#include "scene/layereffects.h"
+#include "scene/layerwrapping.h"
+#include "scene/markerbuilder.h"
+#include "scene/patternbuilder.h"
+
+namespace Svg {
+
+namespace {
+
+/// In the place of a layer's begin for an element without one.
+constexpr int noLayer = -1;
+
+struct PaintedParts
+{
+    bool fill = true;
+    bool stroke = true;
+};
+
+class ListBuilder
+{
+public:
+    ListBuilder(BuildContext &context, ContentUse use)
+        : m_context(context)
+        , m_document(context.document)
+        , m_use(use)
+    {
+    }
+
+    BuiltList build();
+    QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
+    QVector<DisplayItem> buildElement(NodeIndex node, const FactsPointer &facts);
+
+private:
+    DrawingVisitor visitor();
+    bool enter(NodeIndex node, const FactsPointer &facts);
+    void leave(NodeIndex node);
+    void reportReferences();
+    bool isAllowed(ElementKind kind) const;
+    void addPainted(NodeIndex node, const FactsPointer &facts, bool layered);
+    void addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts);
+    void addText(NodeIndex node, const FactsPointer &facts, bool layered);
+    void addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
+                    int outline);
+    void addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
+                         int index);
+    PatternPointer pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity);
+    bool hasMarkers(ElementKind kind, const Facts &facts) const;
+    void addMarkers(NodeIndex node, const FactsPointer &facts);
+    void beginLayer(NodeIndex node, const FactsPointer &facts, const std::shared_ptr<LayerEffects> &effects);
+    void endLayer();
+    bool isFadedAsOne(NodeIndex node, const FactsPointer &facts) const;
+    bool isSilhouette() const { return m_use == ContentUse::Clipping; }
+    bool isInControl() const { return m_context.control != noNode; }
+    QVector<DisplayItem> &target()
+    {
+        return isInControl() && !m_isContent ? m_result.controlPoints : m_result.items;
+    }
+
+    BuildContext &m_context;
+    Document &m_document;
+    ContentUse m_use;
+    /// Control points are only what stands in the drawing itself.
+    bool m_isContent = false;
+    BuiltList m_result;
+    /// By open element: where its layer begins in the present target.
+    QVector<int> m_layers;
+    /// Kinds of open elements; a clip path looks at the one above.
+    QVector<ElementKind> m_kinds;
+};
+
+bool paintsNothing(const Outline &outline)
+{
+    return outline.fill.style() == Qt::NoBrush && outline.pen.style() == Qt::NoPen;
+}
+
+template<typename Painted> bool paintsTwice(const Painted &painted)
+{
+    return painted.fill.style() != Qt::NoBrush && painted.pen.style() != Qt::NoPen;
+}
+
+Outline effectiveOutline(const Document &document, NodeIndex node, const Facts &facts, int index)
+{
+    const StyleOverride *override = document.styleOverride(node);
+    const Outline &own = facts.outlines.at(index);
+    return override ? overridden(own, *facts.style, *override) : own;
+}
+
+// Fill and stroke of one shape, and the shapes of a group, are faded as one picture (SVG 1.1 §14.5).
+bool ListBuilder::isFadedAsOne(NodeIndex node, const FactsPointer &facts) const
+{
+    if (facts->style->opacity >= 1 || isSilhouette())
+        return false;
+    const ElementKind kind = m_document.tree().node(node).kind;
+    if (!hasGeometry(kind) || hasMarkers(kind, *facts))
+        return true;
+    return facts->outlines.size() > 1 ||
+           (facts->outlines.size() == 1 && paintsTwice(effectiveOutline(m_document, node, *facts, 0)));
+}
+
+void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts,
+                             const std::shared_ptr<LayerEffects> &effects)
+{
+    DisplayItem item;
+    item.kind = DisplayItem::BeginLayer;
+    item.node = node;
+    item.facts = facts;
+    item.effects = effects;
+    item.opacity = isSilhouette() ? 1 : facts->style->opacity;
+    item.control = isInControl();
+    item.controlCentre = m_context.controlCentre;
+    m_layers.last() = target().size();
+    target().append(item);
+}
+
+void ListBuilder::endLayer()
+{
+    QVector<DisplayItem> &items = target();
+    const int begin = m_layers.constLast();
+    // A layer around one single stroke, fill or image is the same as fading that one.
+    const bool single = items.size() == begin + 2;
+    const bool filtered = items.at(begin).effects && items.at(begin).effects->filter;
+    if (items.size() == begin + 1 && !filtered) {
+        items.removeLast();
+    } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
+        DisplayItem shape = items.takeLast();
+        shape.opacity *= items.takeLast().opacity;
+        items.append(shape);
+    } else {
+        DisplayItem end;
+        end.kind = DisplayItem::EndLayer;
+        end.node = items.at(begin).node;
+        items[begin].end = items.size();
+        items.append(end);
+    }
+}
+
+// Null where the outline's own paint counts; what can't be built leaves nothing to paint.
+PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity)
+{
+    if (node == noNode)
+        return nullptr;
+    if (const ContextPaint *paint = contextPaint(facts, kind))
+        return buildPattern(m_context, node, {paint->bounds, paint->viewport, opacity});
+    return buildPattern(m_context, node, {facts.localBounds, facts.viewport, opacity});
+}
+
+// The colours are the font's own; of the fill it takes whether there is one, and how much of it shows. Pictures
+// clip nothing: they have no silhouette.
+void ListBuilder::addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
+                                  int index)
+{
+    if (isSilhouette() || outline.fill.style() == Qt::NoBrush)
+        return;
+    DisplayItem item;
+    item.node = node;
+    item.facts = facts;
+    item.override = m_document.stylePointer(node);
+    item.outline = index;
+    const bool isPlain = outline.fill.style() == Qt::SolidPattern && outline.fillPattern == noNode;
+    item.opacity = isPlain ? outline.fill.color().alphaF() : double(outline.fillOpacity);
+    if (!layered)
+        item.opacity *= facts->style->opacity;
+    appendGlyphPicture(m_context, item, *outline.picture, &target());
+}
+
+void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
+                             int index)
+{
+    Outline outline = effectiveOutline(m_document, node, *facts, index);
+    if (outline.picture) {
+        if (parts.fill)
+            addGlyphPicture(node, facts, layered, outline, index);
+        return;
+    }
+    if (!parts.fill)
+        outline.fill = Qt::NoBrush;
+    if (!parts.stroke)
+        outline.pen = QPen(Qt::NoPen);
+    if (isSilhouette() ? !parts.fill : paintsNothing(outline))
+        return;
+    DisplayItem item;
+    item.node = node;
+    item.facts = facts;
+    item.override = m_document.stylePointer(node);
+    item.outline = index;
+    item.silhouette = isSilhouette();
+    item.control = isInControl();
+    item.controlCentre = m_context.controlCentre;
+    item.fill = outline.fill;
+    item.pen = outline.pen;
+    item.smooth = outline.smooth;
+    item.paintsFill = parts.fill;
+    item.paintsStroke = parts.stroke;
+    if (parts.fill && !isSilhouette())
+        item.fillPattern = pattern(outline.fillPattern, *facts, outline.fillKind, double(outline.fillOpacity));
+    if (parts.stroke && !isSilhouette())
+        item.strokePattern =
+            pattern(outline.strokePattern, *facts, outline.strokeKind, double(outline.strokeOpacity));
+    if (!layered && !isSilhouette())
+        item.opacity = facts->style->opacity;
+    target().append(item);
+}
+
+void ListBuilder::addShape(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts)
+{
+    for (int i = 0; i < facts->outlines.size(); ++i)
+        addOutline(node, facts, layered, parts, i);
+}
+
+// Each part of a text is painted in an order of its own.
+void ListBuilder::addText(NodeIndex node, const FactsPointer &facts, bool layered)
+{
+    for (int i = 0; i < facts->outlines.size(); ++i) {
+        if (!facts->outlines.at(i).strokeFirst) {
+            addOutline(node, facts, layered, {true, true}, i);
+            continue;
+        }
+        addOutline(node, facts, layered, {false, true}, i);
+        addOutline(node, facts, layered, {true, false}, i);
+    }
+}
+
+// Only these have vertices for markers (SVG 1.1 §11.6.2).
+bool takesMarkers(ElementKind kind)
+{
+    return kind == ElementKind::Line || kind == ElementKind::Polyline || kind == ElementKind::Polygon ||
+           kind == ElementKind::Path;
+}
+
+bool ListBuilder::hasMarkers(ElementKind kind, const Facts &facts) const
+{
+    return facts.style->markers && takesMarkers(kind) && facts.hasGeometry && !isSilhouette();
+}
+
+void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
+{
+    const StyleOverride *override = m_document.styleOverride(node);
+    MarkedElement element;
+    element.node = node;
+    element.facts = facts;
+    element.strokeWidth = facts->style->strokeWidth;
+    if (override && override->strokeWidth)
+        element.strokeWidth = *override->strokeWidth;
+    if (!facts->outlines.isEmpty()) {
+        const Outline outline = effectiveOutline(m_document, node, *facts, 0);
+        element.fill = handedDown(*facts, outline.fillKind, unfadedBrush(outline.fill, facts->style->fillOpacity),
+                                  outline.fillPattern);
+        const QBrush stroke = override && override->strokeColor
+                                  ? QBrush(*override->strokeColor)
+                                  : unfadedBrush(outline.strokePaint, facts->style->strokeOpacity);
+        element.stroke = handedDown(*facts, outline.strokeKind, stroke, outline.strokePattern);
+    }
+    appendMarkers(m_context, element, &target());
+}
+
+// A clip path takes shapes, texts, and uses of them, but no use of a use and no groups.
+bool ListBuilder::isAllowed(ElementKind kind) const
+{
+    if (!isSilhouette())
+        return true;
+    if (kind == ElementKind::Use)
+        return m_kinds.isEmpty();
+    return hasGeometry(kind);
+}
+
+void ListBuilder::addPainted(NodeIndex node, const FactsPointer &facts, bool layered)
+{
+    if (m_document.tree().node(node).kind == ElementKind::Text) {
+        addText(node, facts, layered);
+        return;
+    }
+    const PaintOrder &order = facts->style->paintOrder;
+    for (int i = 0; i < int(order.size()); ++i) {
+        const bool strokeFollows = i + 1 < int(order.size()) && order[i + 1] == PaintStep::Stroke;
+        if (order[i] == PaintStep::Markers) {
+            if (hasMarkers(m_document.tree().node(node).kind, *facts))
+                addMarkers(node, facts);
+        } else if (order[i] == PaintStep::Fill && strokeFollows) {
+            addShape(node, facts, layered, {true, true});
+            ++i;
+        } else {
+            addShape(node, facts, layered, {order[i] == PaintStep::Fill, order[i] == PaintStep::Stroke});
+        }
+    }
+}
+
+void addCut(const Facts &facts, std::shared_ptr<LayerEffects> *layer)
+{
+    if (!*layer)
+        *layer = std::make_shared<LayerEffects>();
+    QPainterPath cut;
+    cut.addRect(*facts.fitted().cut);
+    const QTransform map = facts.fitted().aroundToDocument;
+    LayerEffects &effects = **layer;
+    if (effects.hasRegion)
+        effects.region = effects.regionToDocument.map(effects.region) & map.map(cut);
+    else
+        effects.region = cut;
+    effects.regionToDocument = effects.hasRegion ? QTransform() : map;
+    effects.hasRegion = true;
+}
+
+bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
+{
+    const Node &element = m_document.tree().node(node);
+    if (!facts->displayed || !isAllowed(element.kind) || (facts->style->opacity <= 0 && !isSilhouette()))
+        return false;
+    const bool startsControl =
+        !isInControl() && !m_isContent && isControlPointId(element.attributes.value(AttributeId::Id));
+    if (startsControl) {
+        m_context.control = node;
+        m_context.controlCentre = m_document.visibleBounds(node).center();
+    }
+    BuiltEffects effects;
+    if (facts->style->effects)
+        effects = isSilhouette() ? buildClipOnly(m_context, node, facts) : buildEffects(m_context, node, facts);
+    if (!effects.drawn) {
+        if (startsControl)
+            m_context.control = noNode;
+        return false;
+    }
+    if (facts->fitted().cut && !isSilhouette())
+        addCut(*facts, &effects.layer);
+    const bool layered = effects.layer || isFadedAsOne(node, facts);
+    m_layers.append(noLayer);
+    m_kinds.append(element.kind);
+    if (layered)
+        beginLayer(node, facts, effects.layer);
+    // Of a text only the visible parts have outlines.
+    if (facts->style->visible || element.kind == ElementKind::Text)
+        addPainted(node, facts, layered);
+    if (facts->style->visible && facts->image)
+        appendImage(m_context, node, facts, &target());
+    return true;
+}
+
+void ListBuilder::leave(NodeIndex node)
+{
+    if (m_layers.constLast() != noLayer)
+        endLayer();
+    m_layers.removeLast();
+    m_kinds.removeLast();
+    if (m_context.control != node)
+        return;
+    m_context.control = noNode;
+    m_context.controlCentre = QPointF();
+}
+
+DrawingVisitor ListBuilder::visitor()
+{
+    return {[this](NodeIndex node, const FactsPointer &facts) { return enter(node, facts); },
+            [this](NodeIndex node, const FactsPointer &) { leave(node); }};
+}
+
+void ListBuilder::reportReferences()
+{
+    const WalkBudget &budget = m_context.budget;
+    if (budget.exhausted || m_context.boundsBudget.exhausted)
+        m_context.report.add(
+            Message::TooManyReferences,
+            QStringLiteral("References add more than %1 elements; some are left out.").arg(Limits::useInstances));
+    if (budget.tooDeep != noNode)
+        m_context.report.add(
+            Message::UseTooDeep,
+            QStringLiteral("What is used more than %1 times inside each other is left out.").arg(Limits::useDepth),
+            budget.tooDeep);
+}
+
+BuiltList ListBuilder::build()
+{
+    walkDrawing(m_document, rootNode, visitor(), &m_context.budget);
+    // What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
+    if (m_context.blends)
+        wrapInLayer(m_context, rootNode, nullptr, &m_result.items);
+    reportReferences();
+    m_result.tiles = m_context.tiles;
+    m_result.report = m_context.report;
+    return std::move(m_result);
+}
+
+QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPointer &facts)
+{
+    m_isContent = true;
+    walkChildren(m_document, holder, facts, visitor(), &m_context.budget);
+    return m_result.items;
+}
+
+QVector<DisplayItem> ListBuilder::buildElement(NodeIndex node, const FactsPointer &facts)
+{
+    m_isContent = true;
+    walkUsed(m_document, node, facts, visitor(), &m_context.budget);
+    return m_result.items;
+}
+
+} // namespace
+
+QVector<DisplayItem> buildElement(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+{
+    return ListBuilder(context, ContentUse::Drawing).buildElement(node, facts);
+}
+
+BuiltList buildList(Document &document)
+{
+    document.settle();
+    BuildContext context(document);
+    return ListBuilder(context, ContentUse::Drawing).build();
+}
+
+QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
+                                  ContentUse use)
+{
+    return ListBuilder(context, use).buildContent(holder, facts);
+}
+
+} // namespace Svg

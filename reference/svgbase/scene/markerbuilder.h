@@ -1,0 +1,22 @@
+#pragma once
+
+#include "paint/displaylist.h"
+#include "scene/buildcontext.h"
+
+namespace Svg {
+
+/// What the markers of an element take from it.
+struct MarkedElement
+{
+    NodeIndex node = noNode;
+    FactsPointer facts;
+    /// As painted, document-wide styling included; user units.
+    double strokeWidth = 1;
+    ContextPaint fill;
+    ContextPaint stroke;
+};
+
+/// Appends what the markers of an element draw at its vertices (SVG 2 §13.7).
+void appendMarkers(BuildContext &context, const MarkedElement &element, QVector<DisplayItem> *items);
+
+} // namespace Svg

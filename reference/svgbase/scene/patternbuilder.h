@@ -1,0 +1,22 @@
+#pragma once
+
+#include "paint/patternpaint.h"
+#include "scene/buildcontext.h"
+
+namespace Svg {
+
+/// What a pattern is painted on.
+struct PatternTarget
+{
+    /// Bounds of the painted geometry without its stroke, user units.
+    QRectF bounds;
+    QSizeF viewport;
+    /// Of the fill or the stroke.
+    double opacity = 1;
+};
+
+/// A pattern as it fills its target (SVG 2 §14.3). Null when it paints nothing: without content, without a size,
+/// measured by bounds without an area, or inside itself.
+PatternPointer buildPattern(BuildContext &context, NodeIndex pattern, const PatternTarget &target);
+
+} // namespace Svg
