@@ -1,4 +1,4 @@
-#include <kit/shape.h>
+#include <shapekit/shape.h>
 
 using namespace shapekit;
 

@@ -38,14 +38,15 @@ class CheckRules(unittest.TestCase):
     def test_good_includes_pass(self):
         self.include("src/shape/mapping.h", "<QtCore/QPointF>", "<cmath>")
         self.include("src/shape/mapping.cpp", '"shape/mapping.h"', "<svgobj/csvgbase.h>", "<framework/idocument.h>")
-        self.include("shapes/flask/flask.cpp", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
+        self.include("kit/src/shapeplugin.cpp", "<shapekit/kind.h>", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
+        self.include("shapes/flask/flask.cpp", "<shapekit/shape.h>", "<QtCore/QString>")
         self.include("board/window.cpp", "<pagehost/document.h>", "<QtPrintSupport/QPrinter>")
         self.assertEqual(self.tree.breaches(), [])
 
     def test_shape_of_forty_lines_passes_blank_ones_aside(self):
         self.tree.write("shapes/star/star.cpp", "int a;\n\n" * 30)
         self.tree.write("shapes/star/star.h", "int a;\n" * 10)
-        self.tree.write("shapes/kit/shape.cpp", "int a;\n" * 41)
+        self.tree.write("kit/src/shape.cpp", "int a;\n" * 41)
         self.assertEqual(self.tree.breaches(), [])
 
     def test_shape_of_more_lines_is_found(self):
@@ -74,9 +75,17 @@ class CheckRules(unittest.TestCase):
         self.include("board/window.cpp", "<svgbase/qzesvgnode.h>", '"flask/flask.h"', '"../shapes/flask/flask.h"')
         self.assertEqual(len(self.tree.breaches()), 3)
 
-    def test_shapes_may_see_only_the_plugin_interface(self):
-        self.include("shapes/flask/flask.cpp", "<pagehost/document.h>")
-        self.assertEqual(len(self.tree.breaches()), 1)
+    def test_kit_may_see_only_the_plugin_interface(self):
+        self.include("kit/src/shapeplugin.cpp", "<pagehost/document.h>")
+        self.assertEqual(
+            self.tree.breaches(), ["kit/src/shapeplugin.cpp:1: may not include pagehost/document.h"]
+        )
+
+    def test_shapes_may_not_see_the_plugin_interface(self):
+        self.include("shapes/flask/flask.cpp", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
+        self.assertEqual(
+            self.tree.breaches(), ["shapes/flask/flask.cpp:2: may not include pagehost/objectplugin.h"]
+        )
 
     def test_other_qt_modules_are_refused(self):
         self.include("src/render/painting.cpp", "<QtSvg/QSvgRenderer>")

@@ -1,7 +1,7 @@
 // Shapes that are opened: what that paints.
 
-#include <kit/shape.h>
-#include <kit/shapeobject.h>
+#include <shapekit/shape.h>
+#include <shapekit/shapeobject.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QJsonObject>

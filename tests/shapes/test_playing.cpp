@@ -4,8 +4,8 @@
 
 #include <support/virtualtime.h>
 
-#include <kit/shape.h>
-#include <kit/shapeobject.h>
+#include <shapekit/shape.h>
+#include <shapekit/shapeobject.h>
 
 #include <pagehost/animationplayer.h>
 #include <pagehost/commands.h>

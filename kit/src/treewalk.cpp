@@ -1,4 +1,4 @@
-#include <kit/treewalk.h>
+#include <shapekit/treewalk.h>
 
 #include <svgbase/qzesvgstructurenode.h>
 

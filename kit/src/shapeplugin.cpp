@@ -1,10 +1,10 @@
-#include <kit/shapeplugin.h>
+#include <shapekit/shapeplugin.h>
 
-#include <kit/kind.h>
-#include <kit/picturedata.h>
-#include <kit/shapeobject.h>
-#include <kit/styledshape.h>
-#include <kit/text.h>
+#include <shapekit/kind.h>
+#include <shapekit/picturedata.h>
+#include <shapekit/shapeobject.h>
+#include <shapekit/styledshape.h>
+#include <shapekit/text.h>
 
 namespace shapekit {
 

@@ -1,8 +1,8 @@
-#include <kit/styledshape.h>
+#include <shapekit/styledshape.h>
 
-#include <kit/kind.h>
-#include <kit/picturedata.h>
-#include <kit/treewalk.h>
+#include <shapekit/kind.h>
+#include <shapekit/picturedata.h>
+#include <shapekit/treewalk.h>
 
 #include <svgobj/csvganimate.h>
 #include <svgobj/csvgbaseundocmd.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <kit/kind.h>
+#include <shapekit/kind.h>
 
-#include <kit/styledshape.h>
+#include <shapekit/styledshape.h>
 
 #include <svgobj/csvgobj.h>
 

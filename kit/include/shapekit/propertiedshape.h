@@ -1,7 +1,7 @@
 #pragma once
 
-#include <kit/property.h>
-#include <kit/styledshape.h>
+#include <shapekit/property.h>
+#include <shapekit/styledshape.h>
 
 namespace shapekit {
 

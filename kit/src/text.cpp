@@ -1,6 +1,6 @@
-#include <kit/text.h>
+#include <shapekit/text.h>
 
-#include <kit/kind.h>
+#include <shapekit/kind.h>
 
 #include <QtCore/QVector>
 

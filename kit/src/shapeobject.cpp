@@ -1,4 +1,4 @@
-#include <kit/shapeobject.h>
+#include <shapekit/shapeobject.h>
 
 #include <svgobj/csvgbase.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <kit/text.h>
+#include <shapekit/text.h>
 
 #include <svgobj/csvgpropitem.h>
 

@@ -1,4 +1,4 @@
-#include <kit/propertiedshape.h>
+#include <shapekit/propertiedshape.h>
 
 #include <svgobj/csvgbaseundocmd.h>
 #include <svgobj/csvgobj.h>

@@ -1,6 +1,6 @@
-#include <kit/property.h>
+#include <shapekit/property.h>
 
-#include <kit/propertiedshape.h>
+#include <shapekit/propertiedshape.h>
 
 #include <svgobj/csvgobj.h>
 

@@ -1,4 +1,4 @@
-#include <kit/picturedata.h>
+#include <shapekit/picturedata.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 

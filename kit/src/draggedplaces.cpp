@@ -1,4 +1,4 @@
-#include <kit/draggedplaces.h>
+#include <shapekit/draggedplaces.h>
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include <kit/pathtext.h>
+#include <shapekit/pathtext.h>
 
 #include <QtCore/QHash>
 #include <QtGui/QFont>

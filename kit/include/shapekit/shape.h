@@ -1,10 +1,10 @@
 #pragma once
 
-#include <kit/draggedplaces.h>
-#include <kit/kind.h>
-#include <kit/pathtext.h>
-#include <kit/place.h>
-#include <kit/propertiedshape.h>
+#include <shapekit/draggedplaces.h>
+#include <shapekit/kind.h>
+#include <shapekit/pathtext.h>
+#include <shapekit/place.h>
+#include <shapekit/propertiedshape.h>
 
 #include <QtCore/QMap>
 

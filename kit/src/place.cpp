@@ -1,4 +1,4 @@
-#include <kit/place.h>
+#include <shapekit/place.h>
 
 #include <algorithm>
 
