@@ -3,7 +3,7 @@
 
 #include "pageobjects.h"
 
-#include <application/workspace.h>
+#include <core/workspace.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 

@@ -1,6 +1,6 @@
 #include "application/commandline.h"
 
-#include "output/screenshot.h"
+#include "application/screenshot.h"
 
 #include <QtCore/QCommandLineParser>
 

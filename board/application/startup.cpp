@@ -1,18 +1,18 @@
 #include "application/startup.h"
 
 #include "application/commandline.h"
-#include "application/pluginfolders.h"
-#include "application/workspace.h"
+#include "application/demopages.h"
+#include "application/screenshot.h"
+#include "core/pluginfolders.h"
+#include "core/windowmemory.h"
+#include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/recovery.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonexport.h"
 #include "look/theme.h"
-#include "objects/demopages.h"
 #include "output/pageexport.h"
-#include "output/screenshot.h"
 #include "window/mainwindow.h"
-#include "window/windowmemory.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>

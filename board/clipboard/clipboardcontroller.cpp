@@ -1,12 +1,12 @@
 #include "clipboard/clipboardcontroller.h"
 
-#include "application/workspace.h"
 #include "clipboard/foreigndata.h"
+#include "core/notices.h"
+#include "core/workspace.h"
 #include "objects/objectmaker.h"
 #include "output/objectsimage.h"
 #include "output/svgdrawing.h"
 #include "page/pageview.h"
-#include "window/notices.h"
 
 #include <pagehost/commands.h>
 #include <pagehost/documentfile.h>

@@ -1,10 +1,10 @@
 #include "clipboard/clipboardmenu.h"
 
-#include "application/workspace.h"
 #include "clipboard/clipboardcontroller.h"
+#include "core/shortcuts.h"
+#include "core/workspace.h"
 #include "look/icons.h"
 #include "page/pageview.h"
-#include "window/shortcuts.h"
 
 #include <pagehost/page.h>
 

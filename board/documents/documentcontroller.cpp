@@ -1,9 +1,9 @@
 #include "documents/documentcontroller.h"
 
-#include "application/workspace.h"
+#include "core/notices.h"
+#include "core/workspace.h"
 #include "documents/freenames.h"
 #include "documents/savefolders.h"
-#include "window/notices.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

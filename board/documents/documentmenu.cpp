@@ -1,9 +1,9 @@
 #include "documents/documentmenu.h"
 
-#include "application/workspace.h"
+#include "core/shortcuts.h"
+#include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "look/icons.h"
-#include "window/shortcuts.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QMenu>

@@ -1,6 +1,6 @@
 #include "documents/filedialogs.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "documents/freenames.h"
 #include "documents/question.h"
 

@@ -1,6 +1,6 @@
 #include "documents/question.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/icons.h"
 
 #include <QtWidgets/QMessageBox>

@@ -1,10 +1,10 @@
 #include "documents/recovery.h"
 
-#include "application/workspace.h"
+#include "core/notices.h"
+#include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/question.h"
 #include "documents/savefolders.h"
-#include "window/notices.h"
 
 #include <pagehost/documentfile.h>
 #include <pagehost/page.h>

@@ -1,6 +1,6 @@
 #include "lessons/lessonbar.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
 #include "lessons/timeline.h"

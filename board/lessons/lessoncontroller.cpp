@@ -1,7 +1,7 @@
 #include "lessons/lessoncontroller.h"
 
-#include "application/workspace.h"
-#include "window/notices.h"
+#include "core/notices.h"
+#include "core/workspace.h"
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>

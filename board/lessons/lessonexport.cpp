@@ -1,6 +1,6 @@
 #include "lessons/lessonexport.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 
 #include <pagehost/lessonplayer.h>
 

@@ -1,9 +1,9 @@
 #include "lessons/lessonmenu.h"
 
-#include "application/workspace.h"
+#include "core/shortcuts.h"
+#include "core/workspace.h"
 #include "lessons/lessoncontroller.h"
 #include "look/icons.h"
-#include "window/shortcuts.h"
 
 #include <QtWidgets/QAction>
 

@@ -1,6 +1,6 @@
 #include "panels/colorpopup.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #include "panels/fillcontrols.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/icons.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"

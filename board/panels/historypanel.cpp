@@ -1,6 +1,6 @@
 #include "panels/historypanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 
 #include <framework/cundoredo.h>

@@ -1,6 +1,6 @@
 #include "panels/pagepanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/pagedelegate.h"
 

@@ -1,6 +1,6 @@
 #include "panels/paletteorder.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 
 #include <QtCore/QCollator>
 

@@ -1,6 +1,6 @@
 #include "panels/palettepanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 #include "objects/objectpictures.h"
 #include "panels/buttonflow.h"

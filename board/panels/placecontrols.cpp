@@ -1,6 +1,6 @@
 #include "panels/placecontrols.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 
 #include <QtWidgets/QDoubleSpinBox>

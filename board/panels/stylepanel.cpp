@@ -1,6 +1,6 @@
 #include "panels/stylepanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/fillcontrols.h"
 #include "panels/pencontrols.h"

@@ -1,9 +1,11 @@
 #include "window/mainwindow.h"
 
-#include "application/pluginfolders.h"
-#include "application/workspace.h"
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
+#include "core/actions.h"
+#include "core/notices.h"
+#include "core/pluginfolders.h"
+#include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/documentmenu.h"
 #include "documents/droppeddocument.h"
@@ -20,9 +22,7 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
-#include "window/actions.h"
 #include "window/fieldundo.h"
-#include "window/notices.h"
 #include "window/statusline.h"
 
 #include <pagehost/animationplayer.h>

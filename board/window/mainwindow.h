@@ -1,6 +1,6 @@
 #pragma once
 
-#include "application/onceperturn.h"
+#include "core/onceperturn.h"
 #include "documents/filedialogs.h"
 #include "lessons/editinglock.h"
 #include "output/pageexport.h"

@@ -1,6 +1,6 @@
 #include "window/statusline.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "window/zoomcontrol.h"

@@ -1,8 +1,8 @@
 #include "window/zoomcontrol.h"
 
-#include "application/workspace.h"
+#include "core/actions.h"
+#include "core/workspace.h"
 #include "page/pageview.h"
-#include "window/actions.h"
 
 #include <QtWidgets/QAction>
 #include <QtWidgets/QHBoxLayout>

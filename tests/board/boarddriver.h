@@ -1,6 +1,6 @@
 #pragma once
 
-#include <application/workspace.h>
+#include <core/workspace.h>
 
 #include <framework/cobjaction.h>
 

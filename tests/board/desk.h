@@ -2,10 +2,10 @@
 
 #include <board/boarddriver.h>
 
+#include <core/notices.h>
 #include <documents/documentcontroller.h>
 #include <documents/recovery.h>
 #include <window/mainwindow.h>
-#include <window/notices.h>
 
 #include <pagehost/page.h>
 

@@ -3,9 +3,9 @@
 #include <board/boarddriver.h>
 
 #include <clipboard/clipboardcontroller.h>
+#include <core/notices.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
-#include <window/notices.h>
 
 #include <pagehost/commands.h>
 #include <pagehost/documentfile.h>

@@ -2,12 +2,12 @@
 
 #include <board/desk.h>
 
+#include <application/demopages.h>
+#include <core/notices.h>
 #include <documents/documentcontroller.h>
 #include <documents/documentmenu.h>
-#include <objects/demopages.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
-#include <window/notices.h>
 
 #include <pagehost/documentfile.h>
 #include <pagehost/page.h>

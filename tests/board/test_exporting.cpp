@@ -2,7 +2,7 @@
 
 #include <board/boarddriver.h>
 
-#include <window/actions.h>
+#include <core/actions.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/commands.h>

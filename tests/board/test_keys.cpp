@@ -2,9 +2,9 @@
 
 #include <board/boarddriver.h>
 
+#include <core/actions.h>
 #include <page/pageview.h>
 #include <panels/historypanel.h>
-#include <window/actions.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>

@@ -3,11 +3,11 @@
 #include <support/virtualtime.h>
 
 #include <application/commandline.h>
+#include <application/demopages.h>
 #include <documents/recovery.h>
 #include <lessons/lessonbar.h>
 #include <lessons/lessoncontroller.h>
 #include <lessons/timeline.h>
-#include <objects/demopages.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 

@@ -4,9 +4,9 @@
 
 #include <support/virtualtime.h>
 
+#include <core/actions.h>
 #include <page/pageview.h>
 #include <panels/pagepanel.h>
-#include <window/actions.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>

@@ -2,11 +2,11 @@
 
 #include <board/boarddriver.h>
 
+#include <core/actions.h>
 #include <page/pageview.h>
 #include <panels/properties/propertypanel.h>
 #include <panels/settings/settingspanel.h>
 #include <panels/stylepanel.h>
-#include <window/actions.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/objectplugin.h>

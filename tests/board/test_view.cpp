@@ -4,12 +4,12 @@
 #include <render/messagecatcher.h>
 #include <support/virtualtime.h>
 
+#include <core/actions.h>
 #include <look/icons.h>
 #include <look/theme.h>
 #include <page/pageview.h>
 #include <panels/fillcontrols.h>
 #include <panels/stylepanel.h>
-#include <window/actions.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>

@@ -4,16 +4,16 @@
 
 #include <support/virtualtime.h>
 
-#include <application/texts.h>
+#include <core/actions.h>
+#include <core/notices.h>
+#include <core/texts.h>
+#include <core/windowmemory.h>
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
 #include <panels/historypanel.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
-#include <window/actions.h>
 #include <window/mainwindow.h>
-#include <window/notices.h>
-#include <window/windowmemory.h>
 
 #include <pagehost/objectplugin.h>
 #include <pagehost/page.h>

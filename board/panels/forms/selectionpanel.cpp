@@ -1,6 +1,6 @@
 #include "panels/forms/selectionpanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 
 #include <framework/cbaseobject.h>

@@ -1,6 +1,6 @@
 #include "panels/properties/propertypanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "panels/editors/choiceeditor.h"
 #include "panels/editors/coloreditor.h"
 #include "panels/editors/slidereditor.h"

@@ -1,6 +1,6 @@
 #include "panels/settings/settingspanel.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "panels/editors/choiceeditor.h"
 #include "panels/editors/coloreditor.h"
 #include "panels/editors/commandeditor.h"

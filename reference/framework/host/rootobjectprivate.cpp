@@ -9,7 +9,7 @@
 #include <pagehost/pagescene.h>
 
 #include <host/handlelayout.h>
-#include <lessons/objectdata.h>
+#include <host/saveddata.h>
 
 #include <QtCore/QDataStream>
 

@@ -6,7 +6,7 @@
 #include <pagehost/page.h>
 
 #include <files/objectrecordstream.h>
-#include <lessons/objectdata.h>
+#include <host/saveddata.h>
 
 #include <QtCore/QDataStream>
 

@@ -5,7 +5,7 @@
 #include <pagehost/recorder.h>
 
 #include <host/payload.h>
-#include <lessons/objectdata.h>
+#include <host/saveddata.h>
 
 #include <algorithm>
 #include <iterator>

@@ -8,8 +8,9 @@
 #include <pagehost/pagescene.h>
 
 #include <host/rootobjectprivate.h>
+#include <host/saveddata.h>
 #include <lessons/documentsteps.h>
-#include <lessons/objectdata.h>
+#include <lessons/documentzoom.h>
 
 #include <QtWidgets/QUndoStack>
 

@@ -7,8 +7,8 @@
 
 #include <files/objectrecordstream.h>
 #include <host/rootobjectprivate.h>
+#include <lessons/documentzoom.h>
 #include <lessons/exactloading.h>
-#include <lessons/objectdata.h>
 #include <lessons/replaying.h>
 
 #include <QtCore/QDataStream>

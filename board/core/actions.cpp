@@ -1,10 +1,10 @@
-#include "window/actions.h"
+#include "core/actions.h"
 
-#include "application/workspace.h"
+#include "core/shortcuts.h"
+#include "core/windowmemory.h"
+#include "core/workspace.h"
 #include "look/theme.h"
 #include "page/pageview.h"
-#include "window/shortcuts.h"
-#include "window/windowmemory.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>

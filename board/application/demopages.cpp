@@ -1,6 +1,6 @@
-#include "objects/demopages.h"
+#include "application/demopages.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "objects/objectmaker.h"
 
 #include <pagehost/commands.h>

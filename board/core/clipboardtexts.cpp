@@ -1,4 +1,4 @@
-#include "clipboard/clipboardtexts.h"
+#include "core/texttables.h"
 
 namespace board {
 

@@ -1,4 +1,4 @@
-#include "application/pluginfolders.h"
+#include "core/pluginfolders.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

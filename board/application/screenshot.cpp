@@ -1,9 +1,9 @@
-#include "output/screenshot.h"
+#include "application/screenshot.h"
 
-#include "application/workspace.h"
+#include "application/demopages.h"
+#include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "lessons/lessoncontroller.h"
-#include "objects/demopages.h"
 #include "page/pageview.h"
 #include "panels/pagepanel.h"
 #include "panels/properties/propertypanel.h"

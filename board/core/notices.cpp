@@ -1,6 +1,6 @@
-#include "window/notices.h"
+#include "core/notices.h"
 
-#include "application/workspace.h"
+#include "core/workspace.h"
 #include "look/icons.h"
 #include "look/theme.h"
 

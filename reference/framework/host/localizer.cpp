@@ -1,6 +1,6 @@
 #include <pagehost/localizer.h>
 
-#include <texts/hosttexts.h>
+#include <host/hosttexts.h>
 
 namespace pagehost {
 

@@ -1,4 +1,4 @@
-#include "application/onceperturn.h"
+#include "core/onceperturn.h"
 
 namespace board {
 

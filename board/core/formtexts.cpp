@@ -1,4 +1,4 @@
-#include "panels/forms/formtexts.h"
+#include "core/texttables.h"
 
 namespace board {
 

@@ -1,6 +1,6 @@
-#include "application/workspace.h"
+#include "core/workspace.h"
 
-#include "application/texts.h"
+#include "core/texts.h"
 
 #include <pagehost/application.h>
 

@@ -1,4 +1,4 @@
-#include "window/shortcuts.h"
+#include "core/shortcuts.h"
 
 #include <QtWidgets/QAction>
 

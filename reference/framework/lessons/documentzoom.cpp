@@ -1,4 +1,4 @@
-#include <lessons/objectdata.h>
+#include <lessons/documentzoom.h>
 
 #include <framework/cbaseobject.h>
 
@@ -6,27 +6,10 @@
 #include <pagehost/document.h>
 #include <pagehost/page.h>
 
-#include <QtCore/QDataStream>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
 namespace pagehost {
-
-QByteArray savedData(CBaseObject &object)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    object.save(out);
-    return bytes;
-}
-
-QByteArray savedData(const CPageBgProp &fill)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    fill.save(out);
-    return bytes;
-}
 
 void followZoom(CBaseObject &object)
 {

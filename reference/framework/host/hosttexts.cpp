@@ -1,4 +1,4 @@
-#include <texts/hosttexts.h>
+#include <host/hosttexts.h>
 
 namespace hosttexts {
 

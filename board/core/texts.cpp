@@ -1,9 +1,6 @@
-#include "application/texts.h"
+#include "core/texts.h"
 
-#include "clipboard/clipboardtexts.h"
-#include "documents/documenttexts.h"
-#include "lessons/lessontexts.h"
-#include "panels/forms/formtexts.h"
+#include "core/texttables.h"
 
 namespace board {
 

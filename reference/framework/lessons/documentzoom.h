@@ -1,19 +1,11 @@
 #pragma once
 
-#include <QtCore/QByteArray>
-
 class CBaseObject;
-class CPageBgProp;
 class IDocument;
 
 namespace pagehost {
 
 class Document;
-
-/// What the object saves.
-QByteArray savedData(CBaseObject &object);
-/// What the fill saves.
-QByteArray savedData(const CPageBgProp &fill);
 
 /// Has the object follow the zoom of its document. Objects do so when they are painted; here they paint on a single
 /// pixel, which leaves their cached pictures alone.

@@ -1,18 +1,10 @@
 #pragma once
 
+#include "core/texttables.h"
+
 #include <pagehost/objectplugin.h>
 
-#include <QtCore/QVector>
-
 namespace board {
-
-/// A text in every language of the board, UTF-8.
-struct TextEntry
-{
-    const char *key;
-    const char *english;
-    const char *german;
-};
 
 /// Everything that the board itself says.
 QVector<TextEntry> textEntries();

@@ -1,4 +1,4 @@
-#include "documents/documenttexts.h"
+#include "core/texttables.h"
 
 namespace board {
 

@@ -1,4 +1,4 @@
-#include "lessons/lessontexts.h"
+#include "core/texttables.h"
 
 namespace board {
 

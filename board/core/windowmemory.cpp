@@ -1,4 +1,4 @@
-#include "window/windowmemory.h"
+#include "core/windowmemory.h"
 
 #include <QtCore/QSettings>
 #include <QtGui/QGuiApplication>

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "application/texts.h"
-
-namespace board {
-
-QVector<TextEntry> documentTexts();
-
-} // namespace board
