@@ -2,6 +2,7 @@
 
 #include "document/documentprivate.h"
 #include "grammar/points.h"
+#include "resolve/visiblebounds.h"
 
 using namespace Svg;
 
@@ -167,7 +168,7 @@ QRectF QZeSvgNode::boundingRect() const
 
 QRectF QZeSvgNode::transformedBounds() const
 {
-    return d->document ? d->document->content.visibleBounds(d->index) : QRectF();
+    return d->document ? visibleBounds(d->document->content, d->index) : QRectF();
 }
 
 double QZeSvgNode::strokeWidth() const

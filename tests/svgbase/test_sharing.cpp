@@ -1,8 +1,8 @@
 // What elements have in common takes memory once.
 
 #include "document/document.h"
-#include "document/drawingwalk.h"
 #include "inputlimits.h"
+#include "resolve/drawingwalk.h"
 #include "svgdrawing.h"
 
 #include <QtCore/QBuffer>

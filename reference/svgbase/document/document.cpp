@@ -1,6 +1,5 @@
 #include "document/document.h"
 
-#include "document/drawingwalk.h"
 #include "resolve/resolver.h"
 #include "resolve/viewports.h"
 #include "style/cascade.h"
@@ -69,22 +68,12 @@ KeptFacts Document::keptFacts(NodeIndex index, const FactsPointer &above) const
     return {facts.data(), sameStyle, sameGeometry, sameGeometry};
 }
 
-QRectF Document::visibleBounds(NodeIndex top)
+std::unique_ptr<SettledTree> Document::imageDocument(const ImageContent &image, const QSizeF &window) const
 {
-    QRectF bounds;
-    bool first = true;
-    walkDrawing(*this, top, [&](NodeIndex node, const FactsPointer &facts) {
-        if (!facts->displayed)
-            return false;
-        // Of a text the visible parts alone have bounds.
-        const bool isText = m_tree.node(node).kind == ElementKind::Text;
-        if (isText ? !facts->outlines.isEmpty() : facts->hasGeometry && facts->style->visible) {
-            bounds = first ? facts->bounds : bounds | facts->bounds;
-            first = false;
-        }
-        return true;
-    });
-    return bounds;
+    auto shown = std::make_unique<Document>(image.document);
+    shown->setWindow(window);
+    shown->settle();
+    return shown;
 }
 
 StyleOverridePointer Document::stylePointer(NodeIndex index) const

@@ -1,40 +1,35 @@
 #pragma once
 
 #include "document/prototype.h"
-#include "document/styleoverride.h"
-#include "resolve/resolver.h"
+#include "resolve/settledtree.h"
 
 namespace Svg {
 
 /// A document that can be changed: elements, their facts, and what document-wide styling put over them. Nodes are
 /// named by index; the public node objects stand in front of this.
-class Document
+class Document : public SettledTree
 {
 public:
     explicit Document(const PrototypePointer &prototype);
 
-    /// The elements. Their styling flags count once settle() was called.
-    const Tree &tree() const { return m_tree; }
-    /// Takes over what is resolved of the prototype, if that has not been done. Everything that measures, draws or
-    /// changes does so first.
-    void settle();
+    const Tree &tree() const override { return m_tree; }
+    /// Takes over what is resolved of the prototype, if that has not been done.
+    void settle() override;
     QVector<Message> messages() const { return m_prototype->settled().messages; }
-    /// Counts every change that could show.
-    quint32 revision() const { return m_revision; }
+    quint32 revision() const override { return m_revision; }
     quint32 referenceRevision() const { return m_referenceRevision; }
     /// Counts every change that could concern what is animated, and how.
     quint32 animationRevision() const { return m_animationRevision; }
     /// Makes the revision one that no drawing up to `last` was made of.
     void raiseRevision(quint32 last) { m_revision = qMax(m_revision, last) + 1; }
 
-    /// The facts of a node as of now; what changed since they were last asked for is resolved first.
-    FactsPointer facts(NodeIndex index);
-    /// The same for a child of a node whose facts are at hand.
-    FactsPointer factsBelow(NodeIndex child, const FactsPointer &above);
-    /// Resolves elements at other places than their own.
-    Resolver resolver() { return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts, &m_measuring); }
-    /// Bounds of the visible geometry of a subtree, document units.
-    QRectF visibleBounds(NodeIndex top);
+    FactsPointer facts(NodeIndex index) override;
+    FactsPointer factsBelow(NodeIndex child, const FactsPointer &above) override;
+    Resolver resolver() override
+    {
+        return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts, &m_measuring);
+    }
+    std::unique_ptr<SettledTree> imageDocument(const ImageContent &image, const QSizeF &window) const override;
 
     /// Says how large the window is that shows the document, which percentages refer to where the root gives itself
     /// no size.
@@ -56,7 +51,7 @@ public:
 
     const StyleOverride *styleOverride(NodeIndex index) const { return stylePointer(index).data(); }
     void setStylingFlags(NodeIndex index, bool takesFill, bool takesStroke);
-    StyleOverridePointer stylePointer(NodeIndex index) const;
+    StyleOverridePointer stylePointer(NodeIndex index) const override;
     void setStyleOverride(NodeIndex index, const StyleOverridePointer &override);
 
 private:

@@ -2,6 +2,7 @@
 
 #include "paint/displaylistcache.h"
 #include "resolve/viewports.h"
+#include "resolve/visiblebounds.h"
 #include "scene/controlpoints.h"
 
 using namespace Svg;
@@ -183,7 +184,7 @@ void DocumentPrivate::readViewBox()
 QRectF DocumentPrivate::settledViewBox()
 {
     if (viewBox.isNull()) {
-        viewBox = content.visibleBounds(rootNode);
+        viewBox = visibleBounds(content, rootNode);
         viewBoxMeasured = true;
     }
     return viewBox;

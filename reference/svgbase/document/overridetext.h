@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/styleoverride.h"
+#include "resolve/styleoverride.h"
 #include "tree/tree.h"
 
 #include <QtGui/QGradient>

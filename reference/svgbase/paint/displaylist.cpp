@@ -222,7 +222,7 @@ void DisplayList::replaceItems(QVector<DisplayItem> *items, QVector<DisplayItem>
     addDifference(fresh, *items, changed, &m_damage);
 }
 
-void DisplayList::update(Document &document, const QTransform &stretch, const QTransform &world)
+void DisplayList::update(SettledTree &document, const QTransform &stretch, const QTransform &world)
 {
     const bool sameMapping = m_built && m_stretch == stretch && m_world == world;
     const bool sameContent = m_built && m_revision == document.revision();

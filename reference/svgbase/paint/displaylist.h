@@ -1,12 +1,12 @@
 #pragma once
 
-#include "document/document.h"
 #include "paint/damage.h"
 #include "paint/keptpicture.h"
 #include "paint/mappingbudget.h"
 #include "paint/patternpaint.h"
 #include "raster/flatoutline.h"
 #include "resolve/images.h"
+#include "resolve/settledtree.h"
 #include "scene/drawreport.h"
 
 #include <memory>
@@ -98,7 +98,7 @@ class DisplayList
 public:
     /// Brings the list up to date. `stretch` maps the document to the target, `world` the target to the painter's
     /// coordinates; control points keep their size under the first.
-    void update(Document &document, const QTransform &stretch, const QTransform &world);
+    void update(SettledTree &document, const QTransform &stretch, const QTransform &world);
 
     /// Paints the items, then the control points if they are wanted. The painter's world transform must be the
     /// identity.

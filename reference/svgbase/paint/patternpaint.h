@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/document.h"
 #include "paint/mappingbudget.h"
 #include "paint/paintbudget.h"
+#include "resolve/settledtree.h"
 
 #include <QtCore/QHash>
 #include <QtGui/QBrush>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/document.h"
-#include "document/drawingwalk.h"
 #include "paint/patternpaint.h"
+#include "resolve/drawingwalk.h"
+#include "resolve/settledtree.h"
 #include "scene/drawreport.h"
 
 #include <QtCore/QHash>
@@ -13,12 +13,12 @@ namespace Svg {
 /// What all parts of a list share while it is built.
 struct BuildContext
 {
-    explicit BuildContext(Document &built)
+    explicit BuildContext(SettledTree &built)
         : document(built)
     {
     }
 
-    Document &document;
+    SettledTree &document;
     /// What was taken by references; bounding boxes count apart.
     WalkBudget budget;
     WalkBudget boundsBudget;

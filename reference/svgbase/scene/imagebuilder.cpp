@@ -63,10 +63,9 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
 // The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
 QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
 {
-    Document document(facts.image->document);
-    document.setWindow(facts.image->takesSize ? facts.localBounds.size() : facts.image->window);
-    document.settle();
-    BuildContext inner(document);
+    const QSizeF window = facts.image->takesSize ? facts.localBounds.size() : facts.image->window;
+    const std::unique_ptr<SettledTree> document = context.document.imageDocument(*facts.image, window);
+    BuildContext inner(*document);
     inner.budget = context.budget;
     inner.boundsBudget = context.boundsBudget;
     inner.boundsVisits = context.boundsVisits;
@@ -78,7 +77,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     inner.control = context.control;
     inner.tiles = context.tiles;
     inner.controlCentre = context.controlCentre;
-    auto *root = new Facts(*document.facts(rootNode));
+    auto *root = new Facts(*document->facts(rootNode));
     const FactsPointer rootFacts(root);
     root->toDocument = root->toDocument * facts.fitted().fit * facts.toDocument;
     QVector<DisplayItem> items = buildElement(inner, rootNode, rootFacts);

@@ -1,8 +1,9 @@
 #include "scene/listbuilder.h"
 
-#include "document/drawingwalk.h"
 #include "inputlimits.h"
 #include "resolve/contextpaint.h"
+#include "resolve/drawingwalk.h"
+#include "resolve/visiblebounds.h"
 #include "scene/controlpoints.h"
 #include "scene/effectbuilder.h"
 #include "scene/imagebuilder.h"
@@ -65,7 +66,7 @@ private:
     }
 
     BuildContext &m_context;
-    Document &m_document;
+    SettledTree &m_document;
     ContentUse m_use;
     /// Control points are only what stands in the drawing itself.
     bool m_isContent = false;
@@ -86,9 +87,9 @@ template<typename Painted> bool paintsTwice(const Painted &painted)
     return painted.fill.style() != Qt::NoBrush && painted.pen.style() != Qt::NoPen;
 }
 
-Outline effectiveOutline(const Document &document, NodeIndex node, const Facts &facts, int index)
+Outline effectiveOutline(const SettledTree &document, NodeIndex node, const Facts &facts, int index)
 {
-    const StyleOverride *override = document.styleOverride(node);
+    const StyleOverridePointer override = document.stylePointer(node);
     const Outline &own = facts.outlines.at(index);
     return override ? overridden(own, *facts.style, *override) : own;
 }
@@ -242,7 +243,7 @@ bool ListBuilder::hasMarkers(ElementKind kind, const Facts &facts) const
 
 void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
 {
-    const StyleOverride *override = m_document.styleOverride(node);
+    const StyleOverridePointer override = m_document.stylePointer(node);
     MarkedElement element;
     element.node = node;
     element.facts = facts;
@@ -317,7 +318,7 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         !isInControl() && !m_isContent && isControlPointId(element.attributes.value(AttributeId::Id));
     if (startsControl) {
         m_context.control = node;
-        m_context.controlCentre = m_document.visibleBounds(node).center();
+        m_context.controlCentre = visibleBounds(m_document, node).center();
     }
     BuiltEffects effects;
     if (facts->style->effects)
@@ -407,7 +408,7 @@ QVector<DisplayItem> buildElement(BuildContext &context, NodeIndex node, const F
     return ListBuilder(context, ContentUse::Drawing).buildElement(node, facts);
 }
 
-BuiltList buildList(Document &document)
+BuiltList buildList(SettledTree &document)
 {
     document.settle();
     BuildContext context(document);

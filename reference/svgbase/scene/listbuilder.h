@@ -15,7 +15,7 @@ struct BuiltList
     DrawReport report;
 };
 
-BuiltList buildList(Document &document);
+BuiltList buildList(SettledTree &document);
 
 /// What content is built for.
 enum class ContentUse {

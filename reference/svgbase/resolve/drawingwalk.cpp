@@ -1,9 +1,9 @@
-#include "document/drawingwalk.h"
+#include "resolve/drawingwalk.h"
 
-#include "document/document.h"
 #include "inputlimits.h"
 #include "resolve/conditions.h"
 #include "resolve/resolver.h"
+#include "resolve/settledtree.h"
 #include "tree/references.h"
 
 namespace Svg {
@@ -25,7 +25,7 @@ struct Level
 class Walk
 {
 public:
-    Walk(Document &document, const DrawingVisitor &visitor, WalkBudget *budget)
+    Walk(SettledTree &document, const DrawingVisitor &visitor, WalkBudget *budget)
         : m_document(document)
         , m_visitor(visitor)
         , m_budget(budget)
@@ -45,7 +45,7 @@ private:
     void count(const Node &node, const Facts &facts);
     FactsPointer factsOf(NodeIndex node, const Level &level) const;
 
-    Document &m_document;
+    SettledTree &m_document;
     const DrawingVisitor &m_visitor;
     QVector<Level> m_levels;
     WalkBudget *m_budget;
@@ -164,25 +164,25 @@ void Walk::runChildren(NodeIndex holder, const FactsPointer &facts)
 
 } // namespace
 
-void walkDrawing(Document &document, NodeIndex top, const DrawingVisitor &visitor, WalkBudget *budget)
+void walkDrawing(SettledTree &document, NodeIndex top, const DrawingVisitor &visitor, WalkBudget *budget)
 {
     WalkBudget own;
     Walk(document, visitor, budget ? budget : &own).run(top, document.facts(top), false);
 }
 
-void walkChildren(Document &document, NodeIndex holder, const FactsPointer &facts, const DrawingVisitor &visitor,
+void walkChildren(SettledTree &document, NodeIndex holder, const FactsPointer &facts, const DrawingVisitor &visitor,
                   WalkBudget *budget)
 {
     Walk(document, visitor, budget).runChildren(holder, facts);
 }
 
-void walkUsed(Document &document, NodeIndex top, const FactsPointer &facts, const DrawingVisitor &visitor,
+void walkUsed(SettledTree &document, NodeIndex top, const FactsPointer &facts, const DrawingVisitor &visitor,
               WalkBudget *budget)
 {
     Walk(document, visitor, budget).run(top, facts, true);
 }
 
-void walkDrawing(Document &document, NodeIndex top,
+void walkDrawing(SettledTree &document, NodeIndex top,
                  const std::function<bool(NodeIndex, const FactsPointer &)> &enter)
 {
     walkDrawing(document, top, DrawingVisitor{enter, {}});

@@ -1,4 +1,4 @@
-#include "document/styleoverride.h"
+#include "resolve/styleoverride.h"
 
 #include "resolve/pens.h"
 

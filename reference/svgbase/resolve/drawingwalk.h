@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-class Document;
+class SettledTree;
 
 /// What a walk over drawable nodes does at each of them.
 struct DrawingVisitor
@@ -36,16 +36,16 @@ struct WalkBudget
 /// Visits a node and all that is drawn below it, in drawing order, with what each "use" refers to in its place.
 /// References to themselves and more instances than the limit are left out. Facts of used nodes are those of the
 /// place where they are used.
-void walkDrawing(Document &document, NodeIndex top, const DrawingVisitor &visitor, WalkBudget *budget = nullptr);
+void walkDrawing(SettledTree &document, NodeIndex top, const DrawingVisitor &visitor, WalkBudget *budget = nullptr);
 /// Visits the children of a node, which is not visited itself, under the given facts: content that is drawn where
 /// another element refers to it.
-void walkChildren(Document &document, NodeIndex holder, const FactsPointer &facts, const DrawingVisitor &visitor,
+void walkChildren(SettledTree &document, NodeIndex holder, const FactsPointer &facts, const DrawingVisitor &visitor,
                   WalkBudget *budget);
 /// Visits a node and all that is drawn below it under the facts of its own at some place of use.
-void walkUsed(Document &document, NodeIndex top, const FactsPointer &facts, const DrawingVisitor &visitor,
+void walkUsed(SettledTree &document, NodeIndex top, const FactsPointer &facts, const DrawingVisitor &visitor,
               WalkBudget *budget);
 /// The same, where nothing is to be done on the way out.
-void walkDrawing(Document &document, NodeIndex top,
+void walkDrawing(SettledTree &document, NodeIndex top,
                  const std::function<bool(NodeIndex, const FactsPointer &)> &enter);
 
 } // namespace Svg

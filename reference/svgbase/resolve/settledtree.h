@@ -1,0 +1,40 @@
+#pragma once
+
+#include "resolve/images.h"
+#include "resolve/resolver.h"
+#include "resolve/styleoverride.h"
+
+#include <memory>
+
+namespace Svg {
+
+/// A tree whose facts are kept up to date: all that drawing and measuring know of a document.
+class SettledTree
+{
+public:
+    SettledTree() = default;
+    virtual ~SettledTree() = default;
+
+    /// The elements. Their styling flags count once settle() was called.
+    virtual const Tree &tree() const = 0;
+    /// Makes facts available. Everything that measures, draws or changes does so first.
+    virtual void settle() = 0;
+    /// Counts every change that could show.
+    virtual quint32 revision() const = 0;
+    /// The facts of a node as of now; changes since the last call are resolved first.
+    virtual FactsPointer facts(NodeIndex index) = 0;
+    /// The same for a child of a node whose facts are at hand.
+    virtual FactsPointer factsBelow(NodeIndex child, const FactsPointer &above) = 0;
+    /// Resolves elements at other places than their own.
+    virtual Resolver resolver() = 0;
+    /// Document-wide styling of a node; null for none.
+    virtual StyleOverridePointer stylePointer(NodeIndex index) const = 0;
+    /// The document that an image shows, settled for a window of the given size.
+    virtual std::unique_ptr<SettledTree> imageDocument(const ImageContent &image, const QSizeF &window) const = 0;
+
+protected:
+    SettledTree(const SettledTree &) = default;
+    SettledTree &operator=(const SettledTree &) = default;
+};
+
+} // namespace Svg
