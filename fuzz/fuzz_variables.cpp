@@ -2,7 +2,7 @@
 
 #include "grammarinput.h"
 
-#include "style/customproperties.h"
+#include "properties/customproperties.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "animation/presentation.h"
 #include "document/document.h"
 #include "document/handles.h"
+#include "document/presentation.h"
 
 #include <svgbase/qzesvgtinydocument.h>
 

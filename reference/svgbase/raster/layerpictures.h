@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/effectstyle.h"
+#include "properties/effectstyle.h"
 
 #include <QtGui/QImage>
 

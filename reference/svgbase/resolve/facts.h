@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 
 #include <QtCore/QRectF>
 #include <QtCore/QSharedData>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grammar/fontfamilies.h"
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 
 #include <QtGui/QFont>
 

@@ -5,6 +5,7 @@
 #include "grammar/numbers.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
+#include "properties/textproperties.h"
 #include "resolve/conditions.h"
 #include "resolve/contextpaint.h"
 #include "resolve/geometry.h"
@@ -19,7 +20,6 @@
 #include "resolve/textlayout.h"
 #include "resolve/viewports.h"
 #include "style/cascade.h"
-#include "style/textproperties.h"
 
 #include <array>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grammar/lengths.h"
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 #include "tree/tree.h"
 
 #include <QtCore/QRectF>

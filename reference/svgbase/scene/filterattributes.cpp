@@ -3,10 +3,10 @@
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
+#include "properties/effectproperties.h"
+#include "properties/keywords.h"
 #include "scene/filterfunctions.h"
 #include "scene/primitivereaders.h"
-#include "style/effectproperties.h"
-#include "style/keywords.h"
 
 #include <cmath>
 

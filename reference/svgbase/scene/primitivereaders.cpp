@@ -2,8 +2,8 @@
 
 #include "grammar/numbers.h"
 #include "inputlimits.h"
-#include "style/effectproperties.h"
-#include "style/keywords.h"
+#include "properties/effectproperties.h"
+#include "properties/keywords.h"
 
 #include <cmath>
 #include <numeric>

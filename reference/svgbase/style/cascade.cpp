@@ -3,10 +3,10 @@
 #include "grammar/csstext.h"
 #include "grammar/styleattribute.h"
 #include "inputlimits.h"
+#include "properties/settlingorder.h"
+#include "properties/shorthands.h"
+#include "properties/textproperties.h"
 #include "style/rules.h"
-#include "style/settlingorder.h"
-#include "style/shorthands.h"
-#include "style/textproperties.h"
 
 #include <algorithm>
 #include <bitset>

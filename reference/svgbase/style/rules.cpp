@@ -2,10 +2,10 @@
 
 #include "grammar/mediaqueries.h"
 #include "inputlimits.h"
-#include "style/properties.h"
+#include "properties/properties.h"
+#include "properties/settlingorder.h"
+#include "properties/shorthands.h"
 #include "style/selectormatching.h"
-#include "style/settlingorder.h"
-#include "style/shorthands.h"
 
 #include <algorithm>
 #include <functional>

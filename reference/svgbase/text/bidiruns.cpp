@@ -1,8 +1,8 @@
 #include "text/bidiruns.h"
 
 #include "inputlimits.h"
+#include "properties/textproperties.h"
 #include "resolve/fonts.h"
-#include "style/textproperties.h"
 #include "text/textshaping.h"
 
 #include <QtGui/QGlyphRun>

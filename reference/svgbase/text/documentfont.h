@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 #include "text/filefont.h"
 #include "text/fontmeasures.h"
 #include "tree/tree.h"

@@ -4,9 +4,9 @@
 #include "grammar/datauris.h"
 #include "grammar/fontfamilies.h"
 #include "inputlimits.h"
+#include "properties/textproperties.h"
 #include "resolve/fonts.h"
 #include "style/rules.h"
-#include "style/textproperties.h"
 #include "tree/references.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inputlimits.h"
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 #include "text/documentfont.h"
 
 #include <QtCore/QVector>

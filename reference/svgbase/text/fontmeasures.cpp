@@ -1,7 +1,7 @@
 #include "text/fontmeasures.h"
 
+#include "properties/textproperties.h"
 #include "resolve/fonts.h"
-#include "style/textproperties.h"
 #include "text/fonttables.h"
 
 #include <QtGui/QRawFont>

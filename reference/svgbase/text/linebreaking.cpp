@@ -1,6 +1,6 @@
 #include "text/linebreaking.h"
 
-#include "style/textproperties.h"
+#include "properties/textproperties.h"
 
 #include <QtCore/QTextBoundaryFinder>
 

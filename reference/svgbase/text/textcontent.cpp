@@ -1,9 +1,9 @@
 #include "text/textcontent.h"
 
 #include "inputlimits.h"
+#include "properties/textproperties.h"
 #include "resolve/conditions.h"
 #include "style/cascade.h"
-#include "style/textproperties.h"
 #include "text/altglyphs.h"
 #include "text/fontmeasures.h"
 #include "tree/references.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/textstyle.h"
+#include "properties/textstyle.h"
 
 #include <QtGui/QPainterPath>
 

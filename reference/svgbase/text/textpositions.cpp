@@ -2,7 +2,7 @@
 
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
-#include "style/textproperties.h"
+#include "properties/textproperties.h"
 
 namespace Svg {
 

@@ -1,8 +1,8 @@
 #include "text/textshaping.h"
 
 #include "inputlimits.h"
+#include "properties/textproperties.h"
 #include "resolve/fonts.h"
-#include "style/textproperties.h"
 #include "text/arabicforms.h"
 #include "text/bidiruns.h"
 #include "text/fontglyphs.h"

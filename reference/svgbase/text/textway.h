@@ -1,7 +1,7 @@
 #pragma once
 
+#include "properties/computedstyle.h"
 #include "resolve/pathmeasure.h"
-#include "style/computedstyle.h"
 #include "text/textservices.h"
 
 namespace Svg {

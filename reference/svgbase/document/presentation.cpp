@@ -1,4 +1,4 @@
-#include "animation/presentation.h"
+#include "document/presentation.h"
 
 #include "inputlimits.h"
 #include "resolve/viewports.h"

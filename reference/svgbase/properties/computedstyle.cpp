@@ -1,4 +1,4 @@
-#include "style/computedstyle.h"
+#include "properties/computedstyle.h"
 
 namespace Svg {
 

@@ -1,4 +1,4 @@
-#include "style/settlingorder.h"
+#include "properties/settlingorder.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
-#include "style/properties.h"
+#include "properties/properties.h"
 
 #include "grammar/angles.h"
 #include "grammar/colors.h"
 #include "grammar/fontfamilies.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
-#include "style/effectproperties.h"
-#include "style/keywords.h"
-#include "style/textproperties.h"
+#include "properties/effectproperties.h"
+#include "properties/keywords.h"
+#include "properties/textproperties.h"
 
 #include <cmath>
 #include <numeric>

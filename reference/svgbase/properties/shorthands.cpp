@@ -1,4 +1,4 @@
-#include "style/shorthands.h"
+#include "properties/shorthands.h"
 
 #include "grammar/csstext.h"
 #include "grammar/lengths.h"

@@ -1,6 +1,6 @@
-#include "style/customproperties.h"
+#include "properties/customproperties.h"
 
-#include "style/settlingorder.h"
+#include "properties/settlingorder.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "grammar/paints.h"
-#include "style/customproperties.h"
-#include "style/effectstyle.h"
-#include "style/textstyle.h"
+#include "properties/customproperties.h"
+#include "properties/effectstyle.h"
+#include "properties/textstyle.h"
 #include "tree/attributes.h"
 
 #include <QtCore/QSharedData>

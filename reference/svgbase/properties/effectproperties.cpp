@@ -1,11 +1,11 @@
-#include "style/effectproperties.h"
+#include "properties/effectproperties.h"
 
 #include "grammar/basicshapes.h"
 #include "grammar/cliprects.h"
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
-#include "style/keywords.h"
+#include "properties/keywords.h"
 
 namespace Svg {
 

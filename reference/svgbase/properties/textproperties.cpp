@@ -1,10 +1,10 @@
-#include "style/textproperties.h"
+#include "properties/textproperties.h"
 
 #include "grammar/colors.h"
 #include "grammar/csstext.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
-#include "style/keywords.h"
+#include "properties/keywords.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/properties.h"
+#include "properties/properties.h"
 
 namespace Svg {
 
