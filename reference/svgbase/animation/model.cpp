@@ -1,7 +1,6 @@
 #include "animation/model.h"
 
 #include "animation/basevalue.h"
-#include "document/document.h"
 #include "grammar/paints.h"
 #include "inputlimits.h"
 #include "style/cascade.h"
@@ -33,9 +32,9 @@ std::optional<Effect> readEffect(const Node &node, const ValueContext &context)
 class ModelReader
 {
 public:
-    explicit ModelReader(Document &document)
-        : m_document(document)
-        , m_tree(document.tree())
+    ModelReader(const Tree &tree, const FactsOfNode &facts)
+        : m_tree(tree)
+        , m_facts(facts)
     {
     }
 
@@ -53,8 +52,8 @@ private:
     void readMotion(NodeIndex index, NodeIndex target);
     void readPlain(NodeIndex index, NodeIndex target);
 
-    Document &m_document;
     const Tree &m_tree;
+    const FactsOfNode &m_facts;
     AnimationModel m_model;
     int m_motionRoom = Limits::motionElements;
     QMap<std::pair<NodeIndex, QString>, AnimatedAttribute> m_attributes;
@@ -80,7 +79,7 @@ LengthContext lengthsOf(const Facts &facts)
 
 ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
 {
-    const FactsPointer facts = m_document.facts(target);
+    const FactsPointer facts = m_facts(target);
     ValueContext context = valueContext(name, lengthsOf(*facts), facts->style->color);
     const AttributeId id = attributeId(name);
     if (isProperty(id) && facts->parent)
@@ -91,7 +90,7 @@ ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
 // Style may give an attribute's value in its place; only style can hide that.
 bool ModelReader::isStyled(NodeIndex target, AttributeId id) const
 {
-    const QVector<Attribute> &styled = m_document.facts(target)->style->attributes;
+    const QVector<Attribute> &styled = m_facts(target)->style->attributes;
     return std::any_of(styled.begin(), styled.end(),
                        [id](const Attribute &attribute) { return attribute.id == id; });
 }
@@ -100,19 +99,19 @@ QString ModelReader::baseOf(NodeIndex target, const QString &name) const
 {
     const AttributeId id = attributeId(name);
     if (isProperty(id)) {
-        const QString computed = propertyText(*m_document.facts(target)->style, id);
+        const QString computed = propertyText(*m_facts(target)->style, id);
         if (!computed.isEmpty())
             return computed;
     }
     const Node &node = m_tree.node(target);
-    const QString own = isStyled(target, id) ? styledAttribute(node, *m_document.facts(target)->style, id)
-                                             : node.attributes.value(name);
+    const QString own =
+        isStyled(target, id) ? styledAttribute(node, *m_facts(target)->style, id) : node.attributes.value(name);
     return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
 }
 
 bool ModelReader::baseFollowsColor(NodeIndex target, AttributeId id) const
 {
-    const ComputedStyle &style = *m_document.facts(target)->style;
+    const ComputedStyle &style = *m_facts(target)->style;
     return (id == AttributeId::Fill && style.fill.followsColor) ||
            (id == AttributeId::Stroke && style.stroke.followsColor);
 }
@@ -148,8 +147,7 @@ void ModelReader::readTransform(NodeIndex index, NodeIndex target)
 
 void ModelReader::readMotion(NodeIndex index, NodeIndex target)
 {
-    const std::optional<Motion> motion =
-        Motion::read(m_tree, index, lengthsOf(*m_document.facts(target)), &m_motionRoom);
+    const std::optional<Motion> motion = Motion::read(m_tree, index, lengthsOf(*m_facts(target)), &m_motionRoom);
     m_model.lacksMotions = m_model.lacksMotions || m_motionRoom < 0;
     if (!motion)
         return;
@@ -223,10 +221,9 @@ bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree
     return true;
 }
 
-AnimationModel readAnimations(Document &document)
+AnimationModel readAnimations(const Tree &tree, const FactsOfNode &facts)
 {
-    document.settle();
-    return ModelReader(document).read();
+    return ModelReader(tree, facts).read();
 }
 
 } // namespace Svg

@@ -2,9 +2,12 @@
 
 #include "animation/sandwich.h"
 
+#include <functional>
+
 namespace Svg {
 
-class Document;
+/// Gives the facts of a node without animation.
+using FactsOfNode = std::function<FactsPointer(NodeIndex)>;
 
 /// All animation of a document, read from its elements.
 struct AnimationModel
@@ -22,6 +25,6 @@ bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree
 
 /// Reads the animation elements as they are now. Those without a target or without usable values play their part in
 /// the timeline but show nothing.
-AnimationModel readAnimations(Document &document);
+AnimationModel readAnimations(const Tree &tree, const FactsOfNode &facts);
 
 } // namespace Svg

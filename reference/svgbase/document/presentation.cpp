@@ -15,7 +15,8 @@ Presentation::Presentation(const Document &base)
 void Presentation::takeOver(Document &base)
 {
     const quint32 shown = m_document.revision();
-    m_model = readAnimations(base);
+    base.settle();
+    m_model = readAnimations(base.tree(), [&base](NodeIndex index) { return base.facts(index); });
     m_document = base;
     m_document.raiseRevision(shown);
     m_baseRevision = base.revision();
