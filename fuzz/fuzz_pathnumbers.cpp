@@ -2,7 +2,7 @@
 
 #include "pathtextinput.h"
 
-#include <pathtext/comparison.h>
+#include <shape/pathcomparison.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {

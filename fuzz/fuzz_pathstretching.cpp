@@ -3,7 +3,7 @@
 
 #include "pathtextinput.h"
 
-#include <pathtext/comparison.h>
+#include <shape/pathcomparison.h>
 
 #include <iterator>
 #include <limits>

@@ -2,7 +2,7 @@
 
 #include "grammarinput.h"
 
-#include <svgbase/treereading.h>
+#include <svgbase/tree/treereading.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {

@@ -5,7 +5,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
-#include "testobject.h"
+#include "framework/testobject.h"
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QGraphicsView>

@@ -1,4 +1,4 @@
-#include "sceneevent.h"
+#include "object/sceneevent.h"
 
 #include <support/exact.h>
 #include <support/mouse.h>

@@ -1,4 +1,4 @@
-#include "messagecatcher.h"
+#include "render/messagecatcher.h"
 
 #include <support/shapefixture.h>
 

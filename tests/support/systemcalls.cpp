@@ -1,4 +1,4 @@
-#include "systemcalls.h"
+#include "support/systemcalls.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QHash>

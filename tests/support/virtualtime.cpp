@@ -1,4 +1,4 @@
-#include "virtualtime.h"
+#include "support/virtualtime.h"
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCoreApplication>

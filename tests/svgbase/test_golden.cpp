@@ -1,7 +1,7 @@
 // Runs the cases of the folder "golden": each is an SVG file, drawn as a viewer shows it, with expectations beside
 // it. golden/README.md describes them.
 
-#include "svgdrawing.h"
+#include "svgbase/svgdrawing.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

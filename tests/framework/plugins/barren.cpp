@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Offers only kinds that cannot be used.
 class BarrenPlugin : public TestPlugin

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Offers a kind that "good" has too, and one of its own.
 class DuplicatePlugin : public TestPlugin

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 class GoodPlugin : public TestPlugin
 {

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Was built against a later version of the library.
 class NewerPlugin : public TestPlugin

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Was built against a version of the library that promises something else.
 class NextmajorPlugin : public TestPlugin

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Has German texts only.
 class SpeechlessPlugin : public TestPlugin

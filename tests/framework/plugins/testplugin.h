@@ -2,7 +2,7 @@
 
 #include <pagehost/objectplugin.h>
 
-#include "testobject.h"
+#include "framework/testobject.h"
 
 #include <QtCore/QObject>
 

@@ -1,4 +1,4 @@
-#include "testplugin.h"
+#include "framework/plugins/testplugin.h"
 
 /// Was built before plug-ins told the version of the library.
 class UnversionedPlugin : public TestPlugin
