@@ -3,10 +3,10 @@
 
 #include "svgbase/comparisonpage.h"
 #include "svgbase/comparisonrules.h"
+#include "svgbase/goldencases.h"
 
 #include <svgbase/qzesvgtinydocument.h>
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
@@ -16,19 +16,12 @@
 
 namespace {
 
-const QDir cases(QStringLiteral(GOLDEN_DIR));
 const QSize size(100, 100);
 
 /// Channels that differ less are a matter of antialiasing, and so are a few pixels.
 constexpr int smallDifference = 64;
 constexpr int fewPixels = 8;
 constexpr int framesPerSecond = 1000;
-
-QByteArray contents(const QString &name)
-{
-    QFile file(cases.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QImage blank()
 {
@@ -41,7 +34,7 @@ QImage blank()
 double momentOf(const QString &name)
 {
     const QStringList lines =
-        QString::fromUtf8(contents(name + QStringLiteral(".expect"))).split(QLatin1Char('\n'));
+        QString::fromUtf8(goldencases::contents(name + QStringLiteral(".expect"))).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         if (line.startsWith(QLatin1String("time ")))
             return line.mid(5).toDouble();
@@ -119,19 +112,16 @@ void TestComparison::initTestCase()
 void TestComparison::differenceHasItsRule_data()
 {
     QTest::addColumn<QString>("name");
-    const QStringList files = cases.entryList({QStringLiteral("*.svg")});
-    QVERIFY(!files.isEmpty());
-    for (const QString &file : files) {
-        const QString name = file.left(file.indexOf(QLatin1Char('.')));
-        if (!file.endsWith(QLatin1String(".same.svg")))
-            QTest::newRow(qPrintable(name)) << name;
-    }
+    const QStringList names = goldencases::all();
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names)
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void TestComparison::differenceHasItsRule()
 {
     QFETCH(QString, name);
-    const QByteArray text = contents(name + QStringLiteral(".svg"));
+    const QByteArray text = goldencases::contents(name + QStringLiteral(".svg"));
     const double moment = momentOf(name);
     const QImage own = ownPicture(text, moment);
     const QImage peer = peerPicture(text, moment);

@@ -1,10 +1,10 @@
 // Runs the cases of the folder "golden": each is an SVG file, drawn as a viewer shows it, with expectations beside
 // it. golden/README.md describes them.
 
+#include "svgbase/goldencases.h"
 #include "svgbase/svgdrawing.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtTest>
 
@@ -13,8 +13,6 @@
 namespace {
 
 using Messages = QVector<QZeSvgTinyDocument::Message>;
-
-const QDir cases(QStringLiteral(GOLDEN_DIR));
 
 struct Probe
 {
@@ -35,12 +33,6 @@ struct Expectations
     QStringList messages;
     QStringList problems;
 };
-
-QByteArray contents(const QString &name)
-{
-    QFile file(cases.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // #rrggbb, #rrggbbaa or "none"; alpha is last, as in SVG and unlike in QColor.
 QColor probeColor(const QString &text)
@@ -93,7 +85,7 @@ bool readLine(const QString &text, int line, Expectations *expected)
 Expectations readExpectations(const QString &name)
 {
     Expectations expected;
-    const QStringList lines = QString::fromUtf8(contents(name)).split(QLatin1Char('\n'));
+    const QStringList lines = QString::fromUtf8(goldencases::contents(name)).split(QLatin1Char('\n'));
     for (int i = 0; i < lines.size(); ++i) {
         if (!readLine(lines.at(i), i + 1, &expected))
             expected.problems.append(QStringLiteral("line %1 is not understood: %2").arg(i + 1).arg(lines.at(i)));
@@ -209,14 +201,14 @@ private slots:
     void momentsLookTheSameHoweverTheyAreReached();
     void everyCaseExpectsSomething_data();
     void everyCaseExpectsSomething();
+    void everyCaseHasANameOfItsOwn();
 };
 
 void TestGolden::looksAsExpected_data()
 {
     QTest::addColumn<QString>("name");
-    const QStringList files = cases.entryList({QStringLiteral("*.expect")});
-    for (const QString &file : files) {
-        const QString name = file.left(file.lastIndexOf(QLatin1Char('.')));
+    for (const QString &file : goldencases::namesWith(QStringLiteral(".expect"))) {
+        const QString name = goldencases::caseOf(file);
         QTest::newRow(qPrintable(name)) << name;
     }
 }
@@ -227,7 +219,8 @@ void TestGolden::looksAsExpected()
     const Expectations expected = readExpectations(name + QStringLiteral(".expect"));
     QVERIFY2(expected.problems.isEmpty(), qPrintable(expected.problems.join(QLatin1Char('\n'))));
     Messages messages;
-    const DocumentPointer document(QZeSvgTinyDocument::load(contents(name + QStringLiteral(".svg")), &messages));
+    const DocumentPointer document(
+        QZeSvgTinyDocument::load(goldencases::contents(name + QStringLiteral(".svg")), &messages));
     QVERIFY2(bool(document) != expected.refused, qPrintable(described(messages)));
     for (const QString &message : expected.messages)
         QVERIFY2(isThere(messages, message), qPrintable(message + described(messages)));
@@ -244,9 +237,8 @@ void TestGolden::looksAsExpected()
 void TestGolden::looksTheSame_data()
 {
     QTest::addColumn<QString>("name");
-    const QStringList files = cases.entryList({QStringLiteral("*.same.svg")});
-    for (const QString &file : files) {
-        const QString name = file.left(file.indexOf(QLatin1Char('.')));
+    for (const QString &file : goldencases::namesWith(QStringLiteral(".same.svg"))) {
+        const QString name = goldencases::caseOf(file);
         QTest::newRow(qPrintable(name)) << name;
     }
 }
@@ -255,8 +247,9 @@ void TestGolden::looksTheSame()
 {
     QFETCH(QString, name);
     const Expectations expected = readExpectations(name + QStringLiteral(".expect"));
-    const DocumentPointer first(QZeSvgTinyDocument::load(contents(name + QStringLiteral(".svg"))));
-    const DocumentPointer second(QZeSvgTinyDocument::load(contents(name + QStringLiteral(".same.svg"))));
+    const DocumentPointer first(QZeSvgTinyDocument::load(goldencases::contents(name + QStringLiteral(".svg"))));
+    const DocumentPointer second(
+        QZeSvgTinyDocument::load(goldencases::contents(name + QStringLiteral(".same.svg"))));
     QVERIFY(first && second);
     if (expected.time)
         first->setAnimationTime(*expected.time);
@@ -274,10 +267,9 @@ void TestGolden::momentsLookTheSameHoweverTheyAreReached_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("time");
-    const QStringList files = cases.entryList({QStringLiteral("*.expect")});
-    for (const QString &file : files) {
+    for (const QString &file : goldencases::namesWith(QStringLiteral(".expect"))) {
         const std::optional<double> time = readExpectations(file).time;
-        const QString name = file.left(file.lastIndexOf(QLatin1Char('.')));
+        const QString name = goldencases::caseOf(file);
         if (time)
             QTest::newRow(qPrintable(name)) << name << *time;
     }
@@ -287,7 +279,7 @@ void TestGolden::momentsLookTheSameHoweverTheyAreReached()
 {
     QFETCH(QString, name);
     QFETCH(double, time);
-    const QByteArray text = contents(name + QStringLiteral(".svg"));
+    const QByteArray text = goldencases::contents(name + QStringLiteral(".svg"));
     const QSize size(100, 100);
     const DocumentPointer direct(QZeSvgTinyDocument::load(text));
     direct->setAnimationTime(time);
@@ -311,20 +303,23 @@ void TestGolden::momentsLookTheSameHoweverTheyAreReached()
 void TestGolden::everyCaseExpectsSomething_data()
 {
     QTest::addColumn<QString>("name");
-    const QStringList files = cases.entryList({QStringLiteral("*.svg")});
-    QVERIFY(!files.isEmpty());
-    for (const QString &file : files) {
-        if (!file.endsWith(QLatin1String(".same.svg")))
-            QTest::newRow(qPrintable(file)) << file.left(file.indexOf(QLatin1Char('.')));
-    }
+    const QStringList names = goldencases::all();
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names)
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void TestGolden::everyCaseExpectsSomething()
 {
     QFETCH(QString, name);
     const Expectations expected = readExpectations(name + QStringLiteral(".expect"));
-    const bool paired = cases.exists(name + QStringLiteral(".same.svg"));
+    const bool paired = goldencases::exists(name + QStringLiteral(".same.svg"));
     QVERIFY(paired || expected.refused || !expected.probes.isEmpty());
+}
+
+void TestGolden::everyCaseHasANameOfItsOwn()
+{
+    QCOMPARE(goldencases::namesInSeveralFolders(), QStringList());
 }
 
 QTEST_MAIN(TestGolden)

@@ -1,10 +1,9 @@
 // Plain XML is read by a reader of its own. Whatever it accepts, it reads as Qt's reader does.
 
 #include "inputlimits.h"
+#include "svgbase/goldencases.h"
 #include "svgbase/tree/treereading.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
@@ -23,13 +22,8 @@ QByteArray inRoot(const QByteArray &content)
 QVector<QByteArray> knownTexts()
 {
     QVector<QByteArray> texts;
-    const QDir golden(QStringLiteral(GOLDEN_DIR));
-    const QStringList names = golden.entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
-    for (const QString &name : names) {
-        QFile file(golden.filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            texts.append(file.readAll());
-    }
+    for (const QString &name : goldencases::namesWith(QStringLiteral(".svg")))
+        texts.append(goldencases::contents(name));
     return texts;
 }
 
