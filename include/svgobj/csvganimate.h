@@ -7,7 +7,7 @@
 class CSVGBase;
 class QTimer;
 
-/// The pacemaker of an animated shape: repaints it 30 times a second while it runs.
+/// Timer of an animated shape: repaints it 30 times a second while it runs.
 class SVGOBJ_EXPORT CSVGAnimate : public QObject
 {
     Q_OBJECT

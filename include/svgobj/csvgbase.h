@@ -36,7 +36,7 @@ class QZeSvgTinyDocument;
 /// zero-terminated text. A null pointer gives 0.
 SVGOBJ_EXPORT double toDouble(const QChar *&str);
 
-/// The core of a vector shape: its SVG document, control points, and everything that the user does to them.
+/// The core of a vector shape: its SVG document, its control points, and all editing of them.
 ///
 /// A concrete shape derives, supplies a template (getSVG()) and a type number (getSVGType()), sets mode flags in
 /// its constructor and calls loadSVG() once. Most operations need that document. Two coordinate systems meet here:
@@ -170,7 +170,7 @@ public:
 
     /// @name Document
     /// @{
-    /// Takes the page object's mirror state over: `horizontal` mirrors x, `vertical` mirrors y.
+    /// Adopts the page object's mirror state: `horizontal` mirrors x, `vertical` mirrors y.
     void setFlipOn(bool horizontal, bool vertical);
     /// Adds a node under `id` to its parent, or to the document when it has none. Null is ignored.
     void addNode(QZeSvgNode *node, const QString &id);
@@ -183,15 +183,15 @@ public:
     /// Lengths; negative for a positive one when the axis is mirrored.
     double mapXToSVG(double length);
     double mapYToSVG(double length);
-    /// Lengths; the mirror state is not looked at.
+    /// Lengths; ignores the mirror state.
     double mapXToObject(double length);
     double mapYToObject(double length);
     /// @}
 
-    /// @name Resizing what the document shows
+    /// @name Resizing the visible part of the document
     /// @{
     /// Moves the view box by `offset` and grows it by (dw, dh), document units; with `updateObject` the page object
-    /// is moved and resized so that what was on the page stays where it was.
+    /// is moved and resized so that the drawing stays where it was on the page.
     void adjustSvgPosition(QPointF offset, double dw, double dh, bool updateObject);
     /// Makes the view box equal to `rect`.
     void adjustSvgPosition(QRectF rect, bool updateObject);

@@ -12,7 +12,7 @@
 class CSVGBase;
 class QZeSvgNode;
 
-/// One undoable change of a shape: a control point that moved, or a property that got another value.
+/// One undoable change of a shape: a moved control point, or a new value of a property.
 ///
 /// Undo and redo replay the old or new value through CSVGBase::DoPlaybackActionEx, as playback of a lesson does.
 /// The shape and the node are not owned and must outlive the command.

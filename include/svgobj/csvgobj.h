@@ -9,9 +9,10 @@
 
 class CSVGBase;
 
-/// The page object of a vector shape: what the host's scene, selection, undo, playback, panels and persistence see.
+/// The page object of a vector shape, as the host's scene, selection, undo, playback, panels and persistence see
+/// it.
 ///
-/// It owns one shape core (CSVGBase) and forwards to it; what the core declines, the host's own base class answers.
+/// It owns one shape core (CSVGBase) and forwards to it; the host's base class answers whatever the core declines.
 /// A concrete shape derives, makes its core in the constructor and in createSVGBase(), and names its kind.
 class SVGOBJ_EXPORT CSVGObj : public CBaseObject
 {
@@ -65,19 +66,19 @@ public:
     /// result.
     virtual bool createSVGBase(int type, bool flag) = 0;
 
-    /// Takes a final size (item units) over: client rectangle, host, off-screen picture, notification.
-    /// An equal size writes no client rectangle.
+    /// Applies a final size (item units): client rectangle, host, off-screen picture, notification. An equal size
+    /// writes no client rectangle.
     void setSize2(QSizeF size, bool flag);
     /// Raises each side of `size` to the core's minimum size in whole units (1 without a core).
     void validateSize(QSizeF &size);
     /// The core's default size, 30 × 30 without a core.
     QSizeF getDefaultSize();
-    /// `size` brought to the aspect ratio of `ratio`: the largest such size inside it.
+    /// The largest size of the aspect ratio of `ratio` that fits into `size`.
     QSizeF limitSize(QSizeF size, QSizeF ratio);
 
     /// The last step of creation, by hand or by loading: outline, host, off-screen picture.
     void doAfterObjCreated();
-    /// For cores and subclasses: the outline changed, make the region path anew.
+    /// For cores and subclasses: rebuilds the region path after the outline changed.
     void notifyOutlineRegionChanged();
     /// Called while the document of an externally filled shape draws; does nothing.
     void callback(QPainter *painter);

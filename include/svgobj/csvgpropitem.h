@@ -5,7 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
-/// Kind of a property's value; it decides which editor the host's property panel shows.
+/// Type of a property's value; it decides which editor the host's property panel shows.
 enum DATA_TYPE : int {
     DATA_TYPE_0 = 0,
     DATA_TYPE_INT = 1,

@@ -12,7 +12,7 @@
 
 /// Ids of the properties that every shape may offer to the host's panels.
 enum PropId : int {
-    PROP_SVG_NONE = 0,       ///< never a property; what a lookup gives when nothing matches
+    PROP_SVG_NONE = 0,       ///< never a property; result of a lookup that finds none
     PROP_SVG_DRAWSCALE = 26, ///< double, shapes of type 26 only: item units per drawn unit
     PROP_SVG_PENCOLOR = 5002,
     PROP_SVG_PENSTYLE = 5003,
@@ -29,5 +29,5 @@ enum ActionId : int {
     ACT_SVG_FILLCOLOR = 1005     ///< recorded as QColor, replayed as QBrush
 };
 
-/// Attribute ids that are no property: they keep and bring back a shape's style.
+/// Attribute ids that are not properties: they save and restore a shape's style.
 enum StyleAttributeId : int { ACT_SVG_STYLE_SNAPSHOT = 2804, ACT_SVG_STYLE_RESTORE = 2805 };

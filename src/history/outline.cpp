@@ -1,4 +1,4 @@
-// The outline of a shape, in document units, and the region that it gives the page object.
+// The outline of a shape, in document units, and the page object's region made from it.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>

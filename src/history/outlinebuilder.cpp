@@ -16,14 +16,14 @@ namespace {
 
 /// Added to the stroke width of a line so that it can be hit.
 constexpr double lineHitMargin = 2.0;
-/// Wider strokes than this cost time and change nothing that can be seen.
+/// Wider strokes cost time and make no visible difference.
 constexpr double maxStrokeWidth = 1e5;
-/// Outlines reach this far from the origin, item units; what reaches farther counts as no outline.
+/// Outlines must stay within this distance of the origin, item units; one that doesn't counts as no outline.
 constexpr double maxOutlineReach = 1e7;
 
 bool isWithin(double coordinate)
 {
-    return qAbs(coordinate) <= maxOutlineReach; // never for one that is not a number
+    return qAbs(coordinate) <= maxOutlineReach; // false for NaN
 }
 
 void addItem(const QZeSvgNode *node, QPainterPath *path)

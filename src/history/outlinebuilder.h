@@ -5,17 +5,18 @@
 
 class QZeSvgStructureNode;
 
-/// Outlines of a template's items and how they come to lie in an object.
+/// Outlines of a template's items, and their mapping into an object.
 namespace OutlineBuilder {
 
-/// Adds the outlines (document units) of the node's visible children to `path`, in document order, into groups.
+/// Adds the outlines (document units) of the node's visible children to `path`, in document order, descending into
+/// groups.
 void addChildren(const QZeSvgStructureNode *node, QPainterPath *path);
 
 /// `outline` (document units) moved from the view box into the client rectangle (item coordinates), never mirrored.
 QPainterPath mapped(const QPainterPath &outline, const QRectF &viewBox, const QRectF &clientRect);
 
-/// Whether the outline is one that can be hit. A view box without width or height, or one that is tiny beside what
-/// it shows, takes outlines to places that are none; regions of those cost much and serve nobody.
+/// Whether the outline can be hit. A view box without width or height, or one that is tiny compared with the
+/// drawing, maps outlines to meaningless places; their regions are expensive and useless.
 bool isWithinReach(const QPainterPath &outline);
 
 /// The area that a pen of `width` covers along `path`, with round caps and mitred joins.

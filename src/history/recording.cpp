@@ -1,4 +1,4 @@
-// What leaves a shape as history: undo commands and the playback record.
+// Undo commands and the playback record of a shape.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgbaseundocmd.h>

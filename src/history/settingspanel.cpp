@@ -38,7 +38,7 @@ QJsonObject colorControl(CSVGObj *owner, QString id, QString title, const QColor
     return owner->GetSettingJsonColorPicker(id, title, name);
 }
 
-/// The pen style of a list index in text; text that is no number counts as the first entry.
+/// The pen style of a list index given as text; text that isn't a number selects the first entry.
 qint32 lineStyleOfAnswer(const QString &text)
 {
     return qint32(qMin<qint64>(qint64(text.toInt()) + 1, std::numeric_limits<qint32>::max()));

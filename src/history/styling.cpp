@@ -1,4 +1,4 @@
-// One pen and one fill for the whole drawing. They live in the document as document-wide values.
+// One pen and one fill for the whole drawing, stored in the document as document-wide values.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -16,8 +16,8 @@ namespace {
 constexpr int defaultMaxPenWidth = 8;
 constexpr int opaque = 255;
 
-/// Telling the page object its fill comes back here through CSVGObj::setFillProp. That ends when the colours match;
-/// an alpha that the host rounds away can take one round per step of it, a host that never agrees would take for
+/// Setting the page object's fill re-enters here through CSVGObj::setFillProp. The recursion ends when the colours
+/// match; an alpha that the host rounds can take one round per step, and a host that never agrees would recurse for
 /// ever.
 constexpr int maxFillNesting = opaque + 1;
 thread_local int fillNesting = 0;
@@ -102,7 +102,7 @@ void CSVGBase::setPenWidth(int width, bool record)
         RecordInt(width, ACT_SVG_PENWIDTH);
     document->setAllStrokeWidth(double(width));
     const QZeSvgNode *first = controlPoints[0];
-    // The comparison is meant as it stands: the pen width with the width of a control point, unscaled.
+    // Deliberate: compares the pen width with the width of a control point, unscaled.
     if (!rawControlPoints || !first || double(width) == first->boundingRect().width()) {
         updateAllControlPoints(true, true);
         return;
@@ -148,7 +148,7 @@ void CSVGBase::setFillBrush(const QBrush &brush, bool record, bool)
 
 void CSVGBase::updateBrush(const QBrush &brush)
 {
-    // Painting comes here also for a shape whose document could not be loaded.
+    // Painting calls this also for a shape whose document could not be loaded.
     if (document)
         document->setAllFillBrush(brush);
 }

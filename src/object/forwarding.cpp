@@ -1,4 +1,4 @@
-// Operations of the page object that its shape core answers.
+// Operations of the page object that it forwards to its shape core.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -73,7 +73,7 @@ void CSVGObj::PopupObjectMenu(void *where)
     svgBase->PopupObjectMenu(where);
 }
 
-// Without a shape core special properties never reach the host base, unlike attributes.
+// Unlike attributes, special properties never reach the host base without a shape core.
 bool CSVGObj::GetSpecialProperty(int id, QDataStream &out)
 {
     if (!svgBase)

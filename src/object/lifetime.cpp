@@ -1,4 +1,4 @@
-// The page object's life: construction, the end of creation, destruction.
+// Lifetime of the page object: construction, the end of creation, destruction.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>

@@ -1,5 +1,5 @@
-// The mouse: a creating drag that the object follows itself, then control points first and the host's handles
-// after.
+// The mouse: the creating drag, which the object handles itself; afterwards control points, then the host's
+// handles.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -108,7 +108,7 @@ void CSVGObj::followCreation(QPointF scenePos)
     CPSRootObject::update();
 }
 
-/// Puts the end of the drag rectangle where the release leaves it, and gives the size of the object.
+/// Puts the end of the drag rectangle where the release leaves it, and returns the size of the object.
 QSizeF CSVGObj::releasedSize(QPointF scenePos)
 {
     const bool isClick = dragStart == dragEnd;
@@ -119,7 +119,7 @@ QSizeF CSVGObj::releasedSize(QPointF scenePos)
     const QSizeF dragged = sizeOf(dragEnd - dragStart);
     if (isClick || !svgBase || !svgBase->keepAspectRatio)
         return dragged;
-    // Here alone the size is not taken from the two points again, which would round it.
+    // Here alone the size isn't recomputed from the two points, which would round it.
     const QSizeF size = limitSize(dragged, getDefaultSize());
     dragEnd = dragStart + pointOf(size);
     return size;

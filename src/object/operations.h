@@ -1,4 +1,4 @@
 #pragma once
 
-/// Whether a shape can do the host operation with that number, so that the host's base class need not be asked.
+/// Whether a shape supports the host operation with that number, without asking the host's base class.
 bool isShapeOperation(int operation);

@@ -1,4 +1,4 @@
-// The page object's data around its shape core's, and what the two answer together.
+// Saving and loading of the page object with its shape core, and the attributes that the two answer together.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -39,7 +39,7 @@ bool CSVGObj::load(QDataStream &in)
                 setSubType(scaledDrawingSubType);
         }
     }
-    // Whatever the core's loading did to them.
+    // Loading the core may have changed them.
     clientRect = loadedRect;
     baseSize = loadedRect.size();
     doAfterObjCreated();
@@ -57,7 +57,7 @@ bool CSVGObj::saveJson(QJsonObject &object)
     return true;
 }
 
-// Deliberately unlike load(): the client rectangle is not put back and no sub type is set.
+// Deliberately unlike load(): doesn't restore the client rectangle and sets no sub type.
 bool CSVGObj::loadJson(QJsonObject &object)
 {
     CBaseObject::loadJson(object);

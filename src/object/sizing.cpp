@@ -1,4 +1,4 @@
-// The size that a page object really gets.
+// Applies sizes to the page object.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -13,7 +13,7 @@ namespace {
 constexpr QSizeF minimumWithoutCore(1.0, 1.0);
 constexpr QSizeF defaultWithoutCore(30, 30);
 
-/// To the last bit, unlike QSizeF's own comparison.
+/// Compares exactly, unlike QSizeF's own operator.
 bool isIdentical(QSizeF a, QSizeF b)
 {
     return a.width() == b.width() && a.height() == b.height();
@@ -46,7 +46,7 @@ void CSVGObj::setSize2(QSizeF size, bool flag)
 {
     dragStart = clientRect.topLeft();
     dragEnd = dragStart + QPointF(size.width(), size.height());
-    // Recomputed from the two points, as everything that reads them will.
+    // Recomputed from the two points, as all readers of them do.
     baseSize = QSizeF(dragEnd.x() - dragStart.x(), dragEnd.y() - dragStart.y());
     // Another thread may be reading the rectangle, to copy the picture into it.
     if (!isIdentical(clientRect.size(), baseSize))

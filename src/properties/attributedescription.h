@@ -2,10 +2,10 @@
 
 #include <svgobj/csvgpropitem.h>
 
-/// How a property is described to the host's property panel.
+/// Description of a property for the host's property panel.
 namespace AttributeDescription {
 
-/// Where the value stands relative to the editor description.
+/// Position of the value relative to the editor description.
 enum class Layout {
     ValueOnly,       ///< no editor description
     RangeThenValue,  ///< the whole description, then the value

@@ -47,7 +47,7 @@ bool CSVGBase::setAllAttributes(const QMap<QString, QVariant> &map, bool)
         }
     }
     if (map.contains(fillColorKey)) {
-        // Deliberate: the map gives a brush out but takes a colour in.
+        // Deliberate asymmetry: the map hands out a brush but takes a colour.
         const QBrush brush(map.value(fillColorKey).value<QColor>());
         if (brush != getFillBrush()) {
             setFillBrush(brush, false, true);

@@ -2,7 +2,7 @@
 
 #include <QtCore/QDataStream>
 
-/// Where things stand in a brush that QDataStream has written.
+/// Byte layout of a brush written by QDataStream.
 namespace BrushLayout {
 
 constexpr int styleBytes = 1;
@@ -16,14 +16,14 @@ inline bool isGradient(int style)
            style == Qt::ConicalGradientPattern;
 }
 
-/// Streams of Qt 3 have colours without a kind and no gradients.
+/// Streams of Qt 3 have colours without a kind, and no gradients.
 inline bool isModern(const QDataStream &in)
 {
     return in.version() >= QDataStream::Qt_4_0;
 }
 
-/// The number of a gradient's stops stands behind its settings: its type, since Qt 4.3 spread and coordinate mode,
-/// since Qt 4.5 interpolation.
+/// Offset of the stop count, which follows the gradient's settings: its type, since Qt 4.3 spread and coordinate
+/// mode, since Qt 4.5 interpolation.
 inline int stopCountOffset(const QDataStream &in)
 {
     const int settings = in.version() >= QDataStream::Qt_4_5 ? 4 : in.version() >= QDataStream::Qt_4_3 ? 3 : 1;
@@ -35,7 +35,7 @@ inline int stopsOffset(const QDataStream &in)
     return stopCountOffset(in) + intBytes;
 }
 
-/// The place of a stop; its colour follows.
+/// Size of a stop's position; its colour follows.
 inline int stopPlaceBytes(const QDataStream &in)
 {
     const bool single =
@@ -48,7 +48,7 @@ inline int stopBytes(const QDataStream &in)
     return stopPlaceBytes(in) + colorBytes;
 }
 
-/// Most bytes behind the stops: two points, a radius and a matrix.
+/// Upper limit of the bytes after the stops: two points, a radius and a matrix.
 constexpr int mostBytesBehindStops = (2 + 2 + 1 + 9) * int(sizeof(double));
 
 } // namespace BrushLayout

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A stream of bytes that were taken from another one.
+/// Reads bytes copied from another stream, with its version, byte order and precision.
 class TakenStream : public QDataStream
 {
 public:
@@ -37,7 +37,7 @@ struct Stop
     int index;
 };
 
-/// In order of their places.
+/// Sorted by position.
 QVector<Stop> sortedStops(const QByteArray &stops, const QDataStream &model)
 {
     const int count = stops.size() / BrushLayout::stopBytes(model);

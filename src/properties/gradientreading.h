@@ -5,12 +5,11 @@
 class QBrush;
 class QDataStream;
 
-/// Reads the gradient that the stream stands at, all of whose stops are there (StreamCheck::isReadableBrush), as Qt
-/// does. Qt sorts stops in by comparing each with those before it, which takes as long as the square of their
-/// number; they are sorted before it sees them. Stops at no place from 0 to 1 are left out, and of those at the
-/// same place the colour of the last one counts, as Qt has it.
+/// Reads the gradient at the stream's position, whose stops must be complete (StreamCheck::isReadableBrush), with
+/// Qt's result. Qt inserts each stop by comparing it with all before it, which takes quadratic time; this sorts
+/// them first. As in Qt, stops outside 0 to 1 are left out, and the last of several stops at one position wins.
 QBrush readGradient(QDataStream &in);
 
-/// The stops of a gradient, as a stream like `model` has them one behind the other, as readGradient() settles them:
-/// their number, then themselves in order.
+/// Encodes the stops of a gradient, laid out as in streams like `model`, in the order that readGradient() gives
+/// them: their count, then the stops.
 QByteArray settledStops(const QByteArray &stops, const QDataStream &model);

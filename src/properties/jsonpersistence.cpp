@@ -1,4 +1,4 @@
-// The state of a shape as members of the page object's JSON object: the same as its stream, key by key.
+// Saves and loads the state of a shape as members of the page object's JSON object: the same values as the stream.
 
 #include <svgobj/csvgbase.h>
 
@@ -67,7 +67,7 @@ bool CSVGBase::saveJson(QJsonObject &object)
     return true;
 }
 
-// Keys are read through the modifying access, which leaves those that are missing behind as null; that is intended.
+// Reads keys through the modifying operator, which deliberately adds missing ones as null.
 bool CSVGBase::loadJson(QJsonObject &object)
 {
     if (rawControlPoints)
@@ -84,7 +84,7 @@ bool CSVGBase::loadJson(QJsonObject &object)
     }
     if (rawControlPoints)
         updateAllControlPoints(false, false);
-    object[fillEnabledKey]; // asked for like the others, but the page object knows its fill
+    object[fillEnabledKey]; // read like the others, but the page object restores its own fill
     if (object[penEnabledKey].toBool())
         setPenColor(namedColor(object[penColorKey].toString()), false);
     if (object[penStyleEnabledKey].toBool())

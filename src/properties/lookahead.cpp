@@ -19,14 +19,14 @@ Lookahead::~Lookahead()
 
 QByteArray Lookahead::bytes(qint64 offset, int size)
 {
-    // A device that may be written to would grow to a place behind its end.
+    // Seeking a writable device past its end would extend it.
     if (offset >= m_available)
         return {};
     if (!m_device.isSequential()) {
         m_device.seek(m_start + offset);
         return m_device.read(size);
     }
-    // At least twice as much as before, so that many small steps do not copy the same bytes again and again.
+    // Doubles the window, so that many small steps don't copy the same bytes again and again.
     const qint64 end = qMin(offset + size, m_available);
     if (end > m_peeked.size())
         m_peeked = m_device.peek(qMin(qMax(end, qint64(m_peeked.size()) * 2), m_available));

@@ -4,8 +4,8 @@
 
 class QIODevice;
 
-/// Looks at bytes that a device is going to give, and takes none of them. Where the device can seek, only the bytes
-/// that are asked for are read; elsewhere they are copied together with those before them.
+/// Peeks at a device's next bytes without consuming them. Reads only the requested bytes from a device that can
+/// seek; from others it copies all bytes up to them.
 class Lookahead
 {
 public:
@@ -14,9 +14,9 @@ public:
     Lookahead(const Lookahead &) = delete;
     Lookahead &operator=(const Lookahead &) = delete;
 
-    /// So many bytes can be looked at: all there are, but no more than an array holds.
+    /// Number of bytes that can be peeked at: all, but no more than an array holds.
     qint64 available() const { return m_available; }
-    /// So many bytes from `offset` bytes ahead on; fewer where the device has no more.
+    /// The `size` bytes at `offset` bytes ahead; fewer at the end of the device.
     QByteArray bytes(qint64 offset, int size);
 
 private:

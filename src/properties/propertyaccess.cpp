@@ -32,7 +32,7 @@ void writeRaw(QDataStream &out, const QByteArray &bytes)
 }
 
 /// @name The list of pen widths, which begins with 1
-/// The ends of the integers, which no panel sends, wrap.
+/// Limits of the integer type, which no panel sends, wrap around.
 /// @{
 qint32 listIndexOf(int width)
 {
@@ -74,7 +74,7 @@ bool CSVGBase::getInnerProperty(int propId, QDataStream &out)
     }
 }
 
-// Each command takes the old value and is pushed before the new one is applied.
+// Each command stores the old value and is pushed before the new one is applied.
 bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
 {
     if (!document)
@@ -102,7 +102,8 @@ bool CSVGBase::setInnerProperty(int propId, QDataStream &in, bool record, bool a
     }
     case PROP_SVG_PENWIDTH: {
         qint32 width = decodeValue<qint32>(in);
-        // Intended: a panel, which records, sends the index in the list of widths; replay and undo send the width.
+        // Deliberate: a panel, which records, sends the index in the list of widths; replay and undo send the
+        // width.
         if (record)
             width = widthAt(width);
         if (addUndo) {

@@ -43,7 +43,7 @@ void CSVGBase::initCommonPropItems()
 void CSVGBase::clearPropItems()
 {
     for (CSVGPropItem *item : qAsConst(propItems)) {
-        // Whether or not it was ever added.
+        // Also when it was never added.
         if (owner)
             owner->removeAttributeId(item->propId);
         delete item;

@@ -16,19 +16,19 @@ namespace {
 
 using namespace BrushLayout;
 
-/// Qt's lists hold no more of them.
+/// Capacity of Qt's lists.
 constexpr qint64 mostStops = std::numeric_limits<int>::max() / qint64(sizeof(QGradientStop)) - 1;
-/// A texture that would take more than 256 MiB is none that a person made.
+/// Limits a texture to 256 MiB, larger than any that a person would make.
 constexpr qint64 maxTexturePixels = 64 * 1024 * 1024;
 
 constexpr int textureOffset = styleBytes + colorBytes;
 constexpr char pngSignature[] = "\x89PNG\r\n\x1a\n";
 constexpr int pngSignatureBytes = 8;
-/// Of a chunk: its length and its type stand before its data, a checksum behind.
+/// Length and type precede the data of a chunk, a checksum follows it.
 constexpr int chunkHeadBytes = 4 + 4;
 constexpr int checksumBytes = 4;
 constexpr int imageHeaderBytes = 13;
-/// Deflate makes at most 258 bytes of two bits; the rest is for the frame around the data.
+/// Deflate expands two bits to at most 258 bytes.
 constexpr qint64 maxInflation = 1032;
 constexpr qint64 inflationSlack = 1024;
 
@@ -52,7 +52,7 @@ bool stopsFit(const QDataStream &in, Lookahead &ahead)
     return count <= mostStops && qint64(count) * stopBytes(in) <= ahead.available() - stopsOffset(in);
 }
 
-/// The first chunk of a PNG picture.
+/// Contents of a PNG picture's first chunk.
 struct ImageHeader
 {
     quint32 width = 0;
@@ -69,7 +69,7 @@ struct ImageHeader
     {
         return width > 0 && height > 0 && depth > 0 && depth <= 16 && qint64(width) <= maxTexturePixels / height;
     }
-    /// What the data inflates to, each row with its filter byte.
+    /// Size of the inflated data, each row with its filter byte.
     qint64 rawBytes() const { return qint64(height) * (1 + (qint64(width) * channels() * depth + 7) / 8); }
 };
 
@@ -81,7 +81,7 @@ ImageHeader imageHeader(const QByteArray &data)
     return header;
 }
 
-/// Walks over the chunks of a PNG picture from the first, `offset` bytes ahead, to the last.
+/// Whether the chunks of the PNG picture, which begins `offset` bytes ahead, hold data for all of its pixels.
 bool dataFillsPicture(Lookahead &ahead, qint64 offset)
 {
     ImageHeader header;
@@ -109,7 +109,7 @@ bool textureFits(Lookahead &ahead)
 {
     const QByteArray isThere = ahead.bytes(textureOffset, intBytes);
     if (isThere.count('\0') == isThere.size())
-        return true; // no picture
+        return true; // not a picture
     constexpr int pictureOffset = textureOffset + intBytes;
     return isPng(ahead.bytes(pictureOffset, pngSignatureBytes)) &&
            dataFillsPicture(ahead, pictureOffset + pngSignatureBytes);

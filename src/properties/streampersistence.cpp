@@ -1,5 +1,5 @@
-// The state of a shape as a stream: view box, control points, pen. The template is the class's own, and the fill is
-// the page object's.
+// State of a shape in a stream: view box, control points, pen. The template belongs to the class, and the
+// fill to the page object.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -56,7 +56,7 @@ bool CSVGBase::load(QDataStream &in)
     }
     if (rawControlPoints)
         updateAllControlPoints(false, false);
-    decodeValue<bool>(in); // whether there was a fill; the page object knows
+    decodeValue<bool>(in); // whether there was a fill; the page object restores it
     if (decodeValue<bool>(in))
         setPenColor(decodeValue<QColor>(in), false);
     if (decodeValue<bool>(in))

@@ -6,8 +6,8 @@
 class QBrush;
 class QColor;
 
-/// The bytes of one or more values, one after the other, in QDataStream's default version and byte order: what undo
-/// buffers and playback payloads are made of.
+/// Encodes one or more values, one after the other, in QDataStream's default version and byte order, for undo
+/// buffers and playback payloads.
 template<typename... Values> QByteArray encodeValues(const Values &...values)
 {
     QByteArray bytes;
@@ -16,16 +16,16 @@ template<typename... Values> QByteArray encodeValues(const Values &...values)
     return bytes;
 }
 
-/// Reads a value; `start` is what it is when the stream ends early.
+/// Reads a value; `start` is the result when the stream ends early.
 template<typename Value> Value decodeValue(QDataStream &in, Value start = Value())
 {
     in >> start;
     return start;
 }
 
-/// As Qt reads a colour. One of a kind that QColor does not have acts as black of its alpha, and is read as that.
+/// Reads a colour as Qt does. A kind unknown to QColor, which acts as black of its alpha, is read as that.
 template<> QColor decodeValue<QColor>(QDataStream &in, QColor start);
 
-/// As Qt reads a brush, its colour as above; but no brush where the bytes claim what nothing can hold
-/// (StreamCheck). The stream then has the status ReadCorruptData and stands where it stood.
+/// Reads a brush as Qt does, its colour as above; but no brush when the data makes impossible claims (StreamCheck).
+/// The stream then has the status ReadCorruptData, and its position is unchanged.
 template<> QBrush decodeValue<QBrush>(QDataStream &in, QBrush start);

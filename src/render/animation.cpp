@@ -1,4 +1,4 @@
-// The pacemaker of animated shapes. The document animates itself; what it needs is a steady repaint.
+// Timer of animated shapes. The document animates itself; it only needs to be repainted steadily.
 
 #include <svgobj/csvganimate.h>
 #include <svgobj/csvgbase.h>
@@ -11,8 +11,7 @@ namespace {
 
 constexpr int millisecondsPerSecond = 1000;
 
-/// Says, while it lives, that an animator is asking for a repaint. It stands on the stack, since the repaint may
-/// destroy the animator.
+/// Marks that an animator is requesting a repaint. Lives on the stack, since the repaint may destroy the animator.
 class RepaintRequest
 {
 public:
@@ -50,7 +49,7 @@ CSVGAnimate::CSVGAnimate(QObject *parent, CSVGBase *shape)
 {
 }
 
-// The shape's document is gone by now: only the timer may be touched.
+// The shape's document is already destroyed: only the timer may be touched.
 CSVGAnimate::~CSVGAnimate()
 {
     stopAnimate();
@@ -82,8 +81,8 @@ void CSVGAnimate::stopAnimate()
     m_running = false;
 }
 
-// Repainting may destroy the shape, and this with it: no member may be touched afterwards. Who hears of the repaint
-// may start the animation again, which asks for a frame at once: the one that is being shown will do.
+// Repainting may destroy the shape, and this with it: no member may be touched afterwards. Whoever is notified of
+// the repaint may restart the animation, which requests a frame at once: the one being shown suffices.
 void CSVGAnimate::doAnimate()
 {
     if (RepaintRequest::isRunning(this))

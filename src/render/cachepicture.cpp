@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The longest side that an image can be asked for.
+/// Longest side of an image.
 constexpr double maxSide = std::numeric_limits<int>::max();
 /// Pictures up to this size, bytes, are copied to save memory.
 constexpr int smallPicture = 1 << 16;

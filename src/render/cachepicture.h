@@ -7,11 +7,11 @@
 /// sides beyond the range of int.
 QSize cachePictureSize(QSizeF size);
 
-/// A transparent ARGB32 picture of cachePictureSize(); a null image where QImage makes none of that size. It takes
-/// over the memory of `previous`, where that is such a picture and nobody else holds it: while something is dragged
-/// or moves, one of the same size follows the other.
+/// A transparent ARGB32 picture of cachePictureSize(); a null image where QImage can't create one of that size.
+/// Reuses the memory of `previous` if that is such a picture and nobody else holds it: during a drag or an
+/// animation, pictures of the same size follow each other.
 QImage emptyCachePicture(QSizeF size, QImage previous = QImage());
 
-/// The same pixels without the tools that Qt keeps with a picture once it was painted on: about 12 KB, more than a
-/// small picture itself takes. A large picture comes back as it is, since copying it would cost more than that.
+/// The same pixels without the paint engine that Qt keeps with a picture after painting on it: about 12 KB, more
+/// than the pixels of a small picture. Returns a large picture unchanged, since copying it would cost more.
 QImage withoutPaintingTools(const QImage &picture);

@@ -4,9 +4,9 @@
 
 class CSVGObj;
 
-/// Keeps cache rendering from entering itself: something called while an object renders its off-screen picture may
-/// ask for just that. The mutex is not recursive, so such a request returns at once, and one more rendering follows
-/// when the running one is done and has unlocked.
+/// Prevents recursion of cache rendering: code called while an object renders its off-screen picture may request
+/// another rendering. The mutex is not recursive, so such a request returns at once, and one more rendering follows
+/// after the running one has finished and unlocked.
 ///
 ///     CacheRendering rendering(object);
 ///     while (rendering.next()) { lock; render; unlock; }
@@ -17,12 +17,12 @@ public:
     ~CacheRendering();
     Q_DISABLE_COPY(CacheRendering)
 
-    /// Whether to render (again). A request made during the repetition is dropped, so that this ends.
+    /// Whether to render (again). Drops requests made during the repetition, so that the loop ends.
     bool next();
 
 private:
     const CSVGObj *m_object;
-    CacheRendering *m_outer; ///< the rendering that was running on this thread before, of whatever object
+    CacheRendering *m_outer; ///< the enclosing rendering on this thread, of any object
     bool m_nested = false;
     bool m_requested = false;
     int m_rounds = 0;

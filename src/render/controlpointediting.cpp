@@ -21,7 +21,7 @@
 
 namespace {
 
-/// A coordinate that is no finite number, as damaged data may bring, moves nothing.
+/// A coordinate that is not finite, which damaged data may contain, moves nothing.
 bool isMove(double from, double to)
 {
     return std::isfinite(to) && qAbs(from - to) >= sizeEpsilon;
@@ -93,7 +93,7 @@ bool CSVGBase::moveControlPoint(QPointF pos)
     const double dy = vertical ? mapYToSVG(pos.y() - lastMousePos.y()) : 0.0;
     if (dx == 0 && dy == 0)
         return true;
-    // Always from where the drag began, never step by step.
+    // Always relative to the start of the drag, never step by step.
     QPointF target = dragStartPos;
     if (horizontal)
         target.setX(limited(dragStartPos.x() + dx, dragXMin, dragXMax));
@@ -108,7 +108,7 @@ bool CSVGBase::updateSVGControlPoint(QZeSvgNode *node, QPointF pos, bool refresh
 {
     if (!node)
         return false;
-    // Also a position that changes nothing is recorded.
+    // Records also a position that changes nothing.
     if (record)
         RecordDataBuffer(encodeValues(node->nodeId(), pos), ACT_SVG_CONTROLPOINT);
     const QPointF before = node->boundingRect().topLeft();
@@ -168,7 +168,7 @@ void CSVGBase::changeControlPointSize(QZeSvgNode *node, double size, bool)
     node->setNumericAttribute(QStringLiteral("ry"), size * 0.5);
     node->setNumericAttribute(QStringLiteral("width"), size);
     node->setNumericAttribute(QStringLiteral("height"), size);
-    // The page object would follow a change of what the document covers, but the size of a control point makes
-    // none.
+    // The page object would follow a change of the document's bounds, but resizing a control point must not change
+    // them.
     settledViewBox(document);
 }

@@ -1,4 +1,4 @@
-// How the shape core has its document drawn: where, at which scale, with or without control points.
+// Draws the shape core's document: target, scale, and visibility of control points.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -28,8 +28,7 @@ const QString editingView = QStringLiteral("mainGraphicsView");
 /// Layer caches are dropped for this reason when only editing aids changed.
 constexpr int editingAidsChanged = 2;
 
-/// Keeps a painter's drawing inside a rectangle, replacing any clip, while it lives; not at all for an empty
-/// pointer.
+/// Clips a painter to a rectangle for its lifetime, replacing any clip; does nothing for a null pointer.
 class ClipGuard
 {
 public:

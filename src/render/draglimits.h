@@ -8,9 +8,9 @@ class QZeSvgNode;
 /// included, at any zoom.
 constexpr double hitMargin = 6.0;
 
-/// Whether a visible control point is hit at `pos` (document units). A rectangle that is not a number never is.
+/// Whether a visible control point is hit at `pos` (document units). False for a rectangle with NaN.
 bool isControlPointHit(const QZeSvgNode &node, QPointF pos);
 
-/// `value` brought into the range. The minimum is tested first, also where it lies above the maximum, and is what a
-/// value that is not a number becomes. Under a minimum that is not a number every value becomes the maximum.
+/// Clamps `value` to the range. The minimum is tested first, even if above the maximum, and is the result for NaN.
+/// With a minimum of NaN every value becomes the maximum.
 double limited(double value, double minimum, double maximum);

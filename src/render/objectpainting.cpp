@@ -1,5 +1,4 @@
-// Where the page object's picture goes: onto a painter, into the off-screen picture, or from there to another
-// thread.
+// Paints the page object: onto a painter, into the off-screen picture, or from there on another thread.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -18,7 +17,7 @@ namespace {
 constexpr QPainter::RenderHints fillHints =
     QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
 
-/// The rectangle's edges on whole pixels.
+/// Rounds the rectangle's edges to whole pixels.
 QRect wholePixels(const QRectF &rect)
 {
     const int left = qRound(rect.x());
@@ -26,7 +25,7 @@ QRect wholePixels(const QRectF &rect)
     return QRect(left, top, qRound(rect.x() + rect.width()) - left, qRound(rect.y() + rect.height()) - top);
 }
 
-/// Painting stores its own form of a path with the path, where it would stay as long as the outline does.
+/// Painting caches its own representation inside a path, where it would live as long as the outline.
 QPainterPath unshared(const QPainterPath &path)
 {
     if (path.isEmpty())
@@ -71,7 +70,7 @@ void CSVGObj::renderCache()
         cacheImage = emptyCachePicture(clientRect.size(), std::move(cacheImage));
         {
             QPainter target;
-            // A picture without pixels cannot be painted on; its painter stays inactive.
+            // Nothing can be painted on a picture without pixels; the painter stays inactive.
             if (!cacheImage.isNull())
                 target.begin(&cacheImage);
             paintContent(&target, true);

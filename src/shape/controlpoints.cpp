@@ -19,7 +19,7 @@ std::array<QString, maxControlPoints> makeIds()
 
 } // namespace
 
-// Asked for whenever a shape is made, saved or opened.
+// Cached: called whenever a shape is created, saved or opened.
 QString controlPointId(quint32 number)
 {
     static const std::array<QString, maxControlPoints> ids = makeIds();

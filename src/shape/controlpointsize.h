@@ -4,7 +4,8 @@
 
 #include <cmath>
 
-/// The side of a control point, screen pixels, for a pen width: the width, but never too small to grab nor huge.
+/// The side of a control point, screen pixels, for a pen width: the width, limited to sizes that can be grabbed and
+/// aren't huge.
 constexpr int minControlPointPixels = 8;
 constexpr int maxControlPointPixels = 50;
 
@@ -13,13 +14,13 @@ constexpr int controlPointPixels(int penWidth)
     return qMax(qMin(penWidth, maxControlPointPixels), minControlPointPixels);
 }
 
-/// Whether that many pixels have a size, finite and positive, at a zoom rate.
+/// Whether that many pixels have a finite, positive size at a zoom rate.
 inline bool isUsableZoom(double zoom, int pixels)
 {
     return std::isfinite(zoom) && zoom > 0 && std::isfinite(pixels / zoom);
 }
 
-/// A zoom rate that so many pixels can be divided by: 1 stands in for one at which they have no size.
+/// The zoom rate if usable for that many pixels, else 1.
 inline double usableZoom(double zoom, int pixels)
 {
     return isUsableZoom(zoom, pixels) ? zoom : 1.0;

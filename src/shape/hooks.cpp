@@ -1,4 +1,4 @@
-// Hooks that a concrete shape fills in; here they do nothing.
+// Default implementations of hooks for concrete shapes, which do nothing.
 
 #include <svgobj/csvgbase.h>
 

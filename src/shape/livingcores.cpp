@@ -4,7 +4,7 @@
 
 LivingCores &LivingCores::instance()
 {
-    static LivingCores cores; // made by the first core's constructor, so that it outlives them all
+    static LivingCores cores; // created by the first core's constructor, so that it outlives all cores
     return cores;
 }
 

@@ -6,7 +6,7 @@
 
 class CSVGBase;
 
-/// All shape cores that are alive: when a document dies, those that hold it forget it.
+/// The set of living shape cores: when a document dies, those that hold it drop their pointer.
 class LivingCores : private IDocumentWatcher
 {
 public:

@@ -1,4 +1,4 @@
-// The shape core's life: construction, the template with its control points, destruction.
+// Lifetime of the shape core: construction, loading of the template and its control points, destruction.
 
 #include <svgobj/csvganimate.h>
 #include <svgobj/csvgbase.h>
@@ -62,7 +62,7 @@ bool CSVGBase::loadSVG(bool initGlobals)
             initGlobalPropValues();
         initPropItems();
     }
-    // Also without a document: the page object shows what there is.
+    // Even without a document: the page object's picture must be rendered.
     invalidate();
     return document != nullptr;
 }
@@ -75,7 +75,7 @@ void CSVGBase::discoverControlPoints()
         controlPoints[i] = node;
         if (!node)
             return;
-        // Document-wide styling is for the drawing, never for its control points.
+        // Document-wide styling applies to the drawing, never to its control points.
         node->setFillEnabled(false);
         node->setStrokeEnabled(false);
         changeControlPointSize(node, controlPointSize, false);

@@ -21,7 +21,7 @@ double limitAttribute(const QZeSvgNode *node, const QString &name, double unlimi
     return text.isEmpty() ? unlimited : text.toDouble();
 }
 
-/// Without a page object the view box stands for it, one to one.
+/// Without a page object, maps the view box to itself.
 ViewMapping mappingOf(const QZeSvgTinyDocument *document, const CSVGObj *owner, bool flipHorizontal,
                       bool flipVertical)
 {

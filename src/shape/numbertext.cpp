@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    std::array<char, maxNumberCharacters + 1> m_text; // filled as far as it is used: most numbers are short
+    std::array<char, maxNumberCharacters + 1> m_text; // initialised only as far as used: most numbers are short
     int m_size = 0;
 };
 
@@ -72,14 +72,14 @@ double convertByHand(const char *text)
     return negative ? -value : value;
 }
 
-/// The longest prefix that is a number; 0 when none is. Beyond the range of double: infinite or 0.
+/// Converts the longest prefix that is a number; 0 when there is none. Out of range: infinite or 0.
 double convertPrefix(const char *text, int size)
 {
     double value = 0;
     const std::from_chars_result result = std::from_chars(text, text + size, value);
     if (result.ec != std::errc::result_out_of_range)
         return value;
-    return QByteArray(text, int(result.ptr - text)).toDouble(); // tells too large from too small
+    return QByteArray(text, int(result.ptr - text)).toDouble(); // distinguishes overflow from underflow
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Longest number text that is edited, in characters. Widths deliberately stop earlier than heights.
+/// Longest editable number text, in characters. The limit of widths is deliberately lower than that of heights.
 constexpr int maxWidthCharacters = 19;
 constexpr int maxOtherCharacters = 29;
 
@@ -44,8 +44,8 @@ bool isBeforeSeparator(QChar c)
 
 constexpr int notFound = -1;
 
-/// The index of the first character from `letter + 2` on that `belongs` does not accept; the end of the text counts
-/// as such a character. notFound when more than `maximum` characters lie between the letter and it.
+/// The index of the first character from `letter + 2` on that `belongs` rejects; the end of the text counts as one.
+/// notFound when more than `maximum` characters lie between the letter and it.
 template<typename Belongs> int scanEnd(const QString &path, int letter, int maximum, Belongs belongs)
 {
     const int lastEnd = letter + 1 + maximum;
@@ -55,7 +55,7 @@ template<typename Belongs> int scanEnd(const QString &path, int letter, int maxi
     return end > lastEnd ? notFound : end;
 }
 
-/// An edit of one piece: what stands from `begin` up to `end` gives way to `text`.
+/// An edit of one piece: replaces the characters from `begin` up to `end` by `text`.
 struct Edit
 {
     int begin = 0;
@@ -91,14 +91,15 @@ Edit grownLineY(const QString &path, int letter, double delta)
     int separator = pair.indexOf(QLatin1Char(','));
     if (separator == notFound)
         separator = pair.indexOf(QLatin1Char('-'));
-    // A pair without a comma that starts with its sign is lost, as it always was; templates write commas.
+    // A pair without a comma that starts with its sign is lost, deliberately as in all versions; templates write
+    // commas.
     if (separator <= 0)
         return {letter + 1, end, QString()};
     return {letter + 1, end, pair.left(separator + 1) + grownNumber(pair.mid(separator + 1), delta)};
 }
 
-/// Finds the pieces of a path, each search starting where the one before ended or later. A letter that is missing
-/// once is not searched for again, so that a long path of lines is read once.
+/// Finds the pieces of a path, each search starting at or after the end of the previous one. Never searches again
+/// for a letter that was missing once, so that a long path of lines is read only once.
 class PieceFinder
 {
 public:
@@ -161,8 +162,8 @@ QString PathText::grown(const QString &path, Axis axis, double delta, int from, 
         copied = edit.end;
         if (!all || path.indexOf(piece.letter(), edit.end) <= edit.end)
             break;
-        // The next search starts at the index that the edit ended at before it was made: behind a number that
-        // became shorter, as much is passed over.
+        // The next search starts at the end of the edit as it was before the edit: after a number that became
+        // shorter, as many characters are skipped.
         from = edit.end + qMax(0, edit.shortening());
     }
     return copied == 0 ? path : result + path.midRef(copied);

@@ -2,15 +2,15 @@
 
 #include <QtCore/QString>
 
-/// Edits of path data text. Text that does not have the expected form comes back unchanged.
+/// Edits of path data text. Text without the expected form is returned unchanged.
 namespace PathText {
 
-/// Which of a path's relative pieces an edit lengthens.
+/// Selects the relative pieces of a path that an edit lengthens.
 enum class Axis { Width, Height };
 
 /// Lengthens the first piece along the axis ("h" or "v", else an "l") that starts at or after `from`; with `all`
-/// also every later one, in time that grows with the length of the path. A piece grows by `delta` in the direction
-/// that it points; one of length 0 grows forward.
+/// also every later one, in linear time. A piece grows by `delta` in its own direction; one of length 0 grows
+/// forward.
 QString grown(const QString &path, Axis axis, double delta, int from, bool all);
 
 /// Moves the start point, which must be an absolute "M", by (dx, dy).

@@ -1,4 +1,4 @@
-// Moving and growing what the document shows, and following size changes of the page object.
+// Moves and grows the visible part of the document, and follows size changes of the page object.
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -25,8 +25,7 @@ bool isLength(double value)
     return qAbs(value) >= sizeEpsilon;
 }
 
-/// The object's side after its view box grew from `boxSide` by `growth`: one to one where it was drawn so, else at
-/// the scale it had.
+/// The object's side after its view box grew from `boxSide` by `growth`, at the same scale as before.
 double grownSide(double objectSide, double boxSide, double growth)
 {
     if (objectSide == boxSide)
@@ -66,7 +65,7 @@ void CSVGBase::adjustSvgPosition(QPointF offset, double dw, double dh, bool upda
             dx = -(dx + dw);
         if (flipVertical)
             dy = -(dy + dh);
-        // A view box without width or height maps lengths to no finite ones.
+        // A view box without width or height maps lengths to values that aren't finite.
         const QPointF moved(finiteOrZero(mapXToObject(dx)), finiteOrZero(mapYToObject(dy)));
         lastMousePos -= moved;
         if (owner && updateObject && (isLength(moved.x()) || isLength(moved.y()))) {
@@ -121,7 +120,7 @@ void CSVGBase::setSize(QSizeF oldSize, QSizeF newSize)
         const QPointF target(x.newStart(), y.newStart());
         node->setNumericAttribute(QStringLiteral("x"), target.x());
         node->setNumericAttribute(QStringLiteral("y"), target.y());
-        // Zero where the host's bounds follow their attributes at once.
+        // The delta is zero if the host's bounds follow their attributes at once.
         updateSVG(node, target - node->boundingRect().topLeft(), false);
     });
     if (!owner)

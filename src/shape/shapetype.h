@@ -1,6 +1,6 @@
 #pragma once
 
-/// Type numbers with a meaning of their own.
+/// Type numbers with special meaning.
 enum ShapeType : int {
     RectangularRegionShape = 2, ///< its region is its client rectangle
     LastHostFilledShape = 26,

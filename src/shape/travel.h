@@ -10,8 +10,8 @@ struct AxisTravel
     double oldSide;    ///< the object, item units
     double newSide;    ///< the object, item units
 
-    /// Where the point's bounding rectangle starts after the change: its centre moves in proportion to the growth
-    /// of the free travel. A point without free travel is centred on 0. Results are compared exactly: the order of
+    /// Start of the point's bounding rectangle after the change: its centre moves in proportion to the growth of
+    /// the free travel. A point without free travel is centred on 0. Results are compared exactly: the order of
     /// evaluation is fixed.
     double newStart() const;
 };

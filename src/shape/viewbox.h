@@ -9,7 +9,7 @@ class QZeSvgTinyDocument;
 /// @{
 QRectF viewBoxOf(const QZeSvgTinyDocument *document);
 void setViewBoxOf(QZeSvgTinyDocument *document, const QRectF &box);
-/// The document's view box. One whose width and height are both exactly 0 is first replaced, in the
-/// document, by what the document covers.
+/// The document's view box. If its width and height are both exactly 0, it is first replaced, in the document, by
+/// the document's bounds.
 QRectF settledViewBox(QZeSvgTinyDocument *document);
 /// @}

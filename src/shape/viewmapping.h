@@ -4,8 +4,8 @@
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
 
-/// How a view box (document units) lies over an object (object coordinates, origin at its top-left): stretched to
-/// its size and, where the object is mirrored, turned over.
+/// Mapping between a view box (document units) and an object (object coordinates, origin at its top-left): the view
+/// box is stretched to the object's size and mirrored with it.
 ///
 /// Results are compared exactly, so each operation keeps its own order of multiplication and division.
 struct ViewMapping
@@ -15,13 +15,13 @@ struct ViewMapping
     bool flipHorizontal = false;
     bool flipVertical = false;
 
-    /// An object point as a document point.
+    /// Maps an object point to a document point.
     QPointF toDocument(QPointF pos) const;
     /// Lengths along an axis, object to document, negated on a mirrored axis.
     double xToDocument(double length) const;
     double yToDocument(double length) const;
-    /// Lengths along an axis, document to object. The mirror state is deliberately not looked at: a caller who
-    /// needs the sign of a mirrored shape handles it.
+    /// Lengths along an axis, document to object. Deliberately ignores the mirror state: callers that need the sign
+    /// of a mirrored shape handle it.
     double xToObject(double length) const;
     double yToObject(double length) const;
 };

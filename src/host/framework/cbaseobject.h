@@ -11,8 +11,8 @@
 class FRAMEWORK_EXPORT CBaseObject : public QGraphicsTextItem, public CPSRootObject
 {
 public:
-    /// `kind` is the host's number for the kind of object, kept for the host's own lists; `selectable` makes the
-    /// item one that a user can select and move.
+    /// `kind` is the host's number for the kind of object, kept for the host's own lists; `selectable` lets users
+    /// select and move the item.
     CBaseObject(int kind, bool selectable, QGraphicsItem *parent, IPsPage *page);
     ~CBaseObject() override;
 
@@ -34,7 +34,7 @@ public:
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
-    // Redeclared so that every page object reaches these through the graphics item's table too; the order is fixed.
+    // Redeclared so that these can be called through the graphics item's virtual table too; the order is fixed.
     QString getObjName() override;
     void OnQPainterDraw(QPainter *painter) override;
     bool canDo(OperationType operation) override;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The actions that a press on a page object can start, which are at the same time the handles that offer them.
+/// The actions that a press on a page object can start; each also names the handle that offers it.
 class CObjAction
 {
 public:

@@ -32,11 +32,11 @@ public:
 
     /// The fill colour; opaque, its transparency stands in opacity().
     QColor fillColor() const { return m_color; }
-    /// Takes the colour's red, green and blue; its alpha is not looked at.
+    /// Takes the colour's red, green and blue; ignores its alpha.
     void setFillColor(const QColor &color) { m_color = QColor(color.rgb()); }
     /// 0 (transparent) to 255 (opaque); of the whole fill, whatever its type.
     int opacity() const { return m_opacity; }
-    /// Values outside 0 to 255 are brought to the nearer bound.
+    /// Clamps to 0 to 255.
     void setOpacity(int opacity) { m_opacity = qBound(0, opacity, 255); }
 
     /// Second colour of a gradient fill; the first is fillColor().
@@ -52,8 +52,7 @@ public:
     QPixmap pixmap() const { return m_pixmap; }
     void setPixmap(const QPixmap &pixmap) { m_pixmap = pixmap; }
 
-    /// True when the brush depends on the rectangle that it fills, so that it must be made anew for each: enabled
-    /// gradient fills.
+    /// True when the brush depends on the filled rectangle and must be recreated for each: enabled gradient fills.
     bool needCreatBrush(const QRectF &rect) const;
     /// The brush that fills `rect`: no brush for a disabled fill, else one whose colour() is fillColor() with
     /// opacity() as its alpha whatever the type. A picture is a texture stretched over `rect` only when
@@ -65,10 +64,10 @@ public:
     bool operator!=(const CPageBgProp &other) const { return !(*this == other); }
 
     bool save(QDataStream &out) const;
-    /// False when the stream ends early or holds values that are no fill; the fill is then unchanged.
+    /// False when the stream ends early or holds invalid values; the fill is then unchanged.
     bool load(QDataStream &in);
     bool saveJson(QJsonObject &object) const;
-    /// Missing and mistyped members keep their present values; false when any was.
+    /// Missing and mistyped members keep their present values; false when there were any.
     bool loadJson(const QJsonObject &object);
 
 private:

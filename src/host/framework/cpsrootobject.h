@@ -25,11 +25,11 @@ class QGraphicsItem;
 class QGraphicsView;
 class QPainter;
 
-/// The page-object half of every object on a page: what selection, handles, undo, recording, panels and persistence
-/// of the host work with. The graphics-item half is CBaseObject's other base.
+/// The page-object half of every object on a page, which the host's selection, handles, undo, recording, panels and
+/// persistence use. The graphics-item half is CBaseObject's other base.
 ///
-/// Virtual operations are also the seams at which tests and hosts step in. Unless said otherwise, operations that
-/// return bool answer whether the object knew what was asked.
+/// Tests and hosts can override the virtual operations. Unless noted otherwise, operations that return bool say
+/// whether the object handled the request.
 class FRAMEWORK_EXPORT CPSRootObject
 {
 public:
@@ -40,12 +40,12 @@ public:
     CPSRootObject(const CPSRootObject &) = delete;
     CPSRootObject &operator=(const CPSRootObject &) = delete;
 
-    /// Name given by the user; empty for none.
+    /// Name given by the user; empty when there is none.
     virtual QString getObjName();
 
-    /// Paints the object's content in item coordinates; a null painter asks for the off-screen picture to be made
-    /// anew. Called in the owning thread, or in another thread with a painter; the host never resizes, loads or
-    /// deletes the object meanwhile.
+    /// Paints the object's content in item coordinates; a null painter asks for the off-screen picture to be
+    /// rendered anew. Called in the owning thread, or in another thread with a painter; the host never resizes,
+    /// loads or deletes the object meanwhile.
     virtual void OnQPainterDraw(QPainter *painter);
     /// Brackets all painting of content. Saves the painter's state and applies the object's mirroring about the
     /// client rectangle's centre. An inactive painter is left alone, silently.
@@ -62,7 +62,7 @@ public:
     virtual bool loadJson(QJsonObject &object);
 
     /// Takes `size` (item units) as the client size. `flag` asks for a playback record of the change, `redraw` for
-    /// the graphics item to be updated at once. A size that is not finite is ignored, and one that the object has
+    /// an immediate update of the graphics item. Ignores a size that is not finite; a size equal to the present one
     /// writes no client rectangle.
     virtual void setSize(QSizeF size, bool flag, bool redraw);
     /// Tells the host that the region path (item coordinates) is new; `item` is the graphics item to update, null
@@ -84,9 +84,9 @@ public:
     /// Whether `scenePos` (scene coordinates) lies on one of the enabled handles of the selected object; `action`
     /// is then what it starts.
     virtual bool CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action);
-    /// Takes a copy of the fill and makes the fill brush of it. A fill that only names a colour (solid), and the
-    /// same colour and opacity that the object already has, keeps a present picture, pattern or gradient. `record`
-    /// asks for a playback record. Null is ignored. Never paints before it returns.
+    /// Copies the fill and creates the fill brush from it. A solid fill of the object's present colour and opacity
+    /// keeps an existing picture, pattern or gradient. `record` asks for a playback record. Null is ignored. Never
+    /// paints before it returns.
     virtual void setFillProp(CPageBgProp *prop, bool record);
     virtual bool GetSettingJson(QString &out);
     virtual bool SetSettingJson(const QString &json, bool record, bool undo);
@@ -99,9 +99,9 @@ public:
     virtual void setLocked(bool locked);
     virtual bool isLocked() const;
 
-    /// @name Seams: what an object tells its host
+    /// @name Notifications from an object to its host
     /// @{
-    /// Takes one step for the playback record: an action id and its payload, which is copied. Null is ignored.
+    /// Adds one step to the playback record: an action id and its payload, which is copied. Null is ignored.
     virtual void RecordAction(int actionId, QByteArray *data);
     /// Something about the object changed (see Notification); `value` is host-defined text.
     virtual void notifyObjPropertyChanged(int id, const QString &value);
@@ -125,7 +125,7 @@ public:
     /// Moves the item's origin to `pos` (scene coordinates); `record` asks for a playback record.
     void setPos(QPointF pos, bool record);
     /// Sets the rotation to `degrees` and moves the item so that `center` (item coordinates of the unrotated
-    /// object) comes to lie where the unrotated object has it; `record` asks for a playback record.
+    /// object) stays where the unrotated object has it; `record` asks for a playback record.
     void setRotateByPoint(double degrees, QPointF center, bool record);
     bool isMirrored() const { return mirrorHorizontal; }
     bool isFlipped() const { return mirrorVertical; }
@@ -147,19 +147,20 @@ public:
     void setMyPenColor(QColor color, bool notify);
     QPen getMyPen() const { return myPen; }
     CPageBgProp *getFillProp() const { return fillProp; }
-    /// The brush made of the fill property; no brush while the fill is disabled.
+    /// The brush created from the fill property; no brush while the fill is disabled.
     QBrush getHostFillBrush() const { return fillBrush; }
     /// Region for selection, hit tests and clipping, item coordinates; null until it is first made.
     const QPainterPath *getRegionPath() const { return regionPath; }
     QList<int> getAttributeIds() const { return attributeIds; }
     bool isCreateFinished() const { return createFinished; }
 
-    /// A host-defined sub kind of the object, 0 at first.
+    /// A host-defined sub type of the object, initially 0.
     void setSubType(int subType);
     int getSubType() const;
 
     /// @name Controls of a settings panel
-    /// Each gives one control as a JSON object whose members belong to the host's panel. References are read only.
+    /// Each returns one control as a JSON object whose members belong to the host's panel. References are only
+    /// read.
     /// @{
     QJsonObject GetSettingJsonComboBox(QString &id, QString &title, int index, QList<QString> &icons,
                                        QList<QString> &texts);
@@ -170,8 +171,8 @@ public:
     QJsonObject GetSettingJsonSlider(QString &id, QString &title, QString &value, QString &minimum,
                                      QString &maximum, QString &step, QString &unit);
     QJsonObject GetSettingJsonCommond(QString &id, QString &title, QString &command);
-    /// Reads a panel's answer, an object of id and value, into `values`. False, with `values` untouched, when the
-    /// text is no such object.
+    /// Reads a panel's answer, an object of ids and values, into `values`. False, with `values` untouched, when the
+    /// text is not such an object.
     bool ParseSettingJson(const QString &json, QMap<QString, QString> &values);
     /// @}
 
@@ -183,7 +184,7 @@ protected:
     bool createFinished = true;
     QList<int> attributeIds;
     QRectF clientRect;
-    /// The drag rectangle, item coordinates: where a creating drag began and where it is.
+    /// The drag rectangle, item coordinates: start and present end of a creating drag.
     QPointF dragStart;
     QPointF dragEnd;
     QPen myPen;

@@ -11,8 +11,8 @@ class FRAMEWORK_EXPORT CUndoRedo
 public:
     static CUndoRedo *GetInstance();
 
-    /// Takes the command over and calls its redo() once. The command outlives the call: the stack never deletes or
-    /// merges it while pushing.
+    /// Takes ownership of the command and calls its redo() once. The command outlives the call: the stack never
+    /// deletes or merges it while pushing.
     void push(CWbUndoCmd *command);
     /// The stack behind the facade, for undo views, menus and tests; never null.
     QUndoStack *stack() const;

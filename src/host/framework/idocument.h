@@ -4,8 +4,8 @@
 
 class IDocument;
 
-/// Hears of every document that dies, while it lives itself. For whoever keeps pointers to documents that are not
-/// its own. GUI thread only.
+/// Notified of the destruction of every document during its own lifetime. For classes that keep pointers to
+/// documents they don't own. GUI thread only.
 class FRAMEWORK_EXPORT IDocumentWatcher
 {
 public:
@@ -24,7 +24,7 @@ public:
     IDocumentWatcher(const IDocumentWatcher &) = delete;
     IDocumentWatcher &operator=(const IDocumentWatcher &) = delete;
 
-    /// `document` is dying: its address may be compared, and nothing else.
+    /// `document` is being destroyed: its address may be compared, but not dereferenced.
     virtual void documentDied(const IDocument *document) = 0;
 
 private:
@@ -37,7 +37,7 @@ private:
 class FRAMEWORK_EXPORT IDocument
 {
 public:
-    /// Tells all watchers.
+    /// Notifies all watchers.
     virtual ~IDocument()
     {
         for (IDocumentWatcher *watcher = IDocumentWatcher::s_first; watcher; watcher = watcher->m_next)

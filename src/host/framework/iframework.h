@@ -6,7 +6,7 @@
 
 class IDocument;
 
-/// Services that belong to the application as a whole.
+/// Application-wide services.
 class IFramework
 {
 public:
@@ -14,11 +14,10 @@ public:
     enum ColorSetting { DefaultPenColor = 1001 };
 
     virtual ~IFramework() = default;
-    /// Overwrites `color` with the colour configured for `settingId`; leaves it alone when none is. `flag` asks for
-    /// the colour of the presentation theme instead of the editing one.
+    /// Overwrites `color` with the colour configured for `settingId`; leaves it unchanged when there is none.
+    /// `flag` asks for the colour of the presentation theme instead of the editing one.
     virtual void colorSetting(int settingId, QColor &color, bool flag) = 0;
-    /// The document that the user works on; may be null only before the first one is made, and never while anything
-    /// paints.
+    /// The document that the user works on; null only before the first one is created, never during painting.
     virtual IDocument *currentDocument() = 0;
     /// Opens a grouped undo step: commands pushed until the matching endUndoGroup() undo and redo together under
     /// the localisation key `titleKey`. Groups nest.
@@ -29,6 +28,5 @@ public:
 
 /// The process-wide framework object; never null.
 FRAMEWORK_EXPORT IFramework *GetFramework();
-/// Replaces it and returns the one before; null brings the library's own back. The caller keeps owning what it
-/// sets.
+/// Replaces it and returns the previous one; null restores the library's own. The caller keeps ownership.
 FRAMEWORK_EXPORT IFramework *SetFramework(IFramework *framework);

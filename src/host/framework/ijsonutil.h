@@ -10,11 +10,11 @@ class IJsonUtil
 {
 public:
     virtual ~IJsonUtil() = default;
-    /// A QRectF gives {"x", "y", "width", "height"}; any other type what Qt converts it to, an empty object when Qt
-    /// does not.
+    /// A QRectF gives {"x", "y", "width", "height"}; any other type Qt's own conversion, or an empty object when Qt
+    /// has none.
     virtual QJsonObject variantToJson(const QVariant &value) = 0;
-    /// The inverse: an object with exactly the four numbers of a rectangle gives a QRectF, any other object the
-    /// variant that Qt makes of it.
+    /// The inverse: an object with exactly the four numbers of a rectangle gives a QRectF, any other object Qt's
+    /// own conversion.
     virtual QVariant jsonToVariant(const QJsonObject &object) = 0;
 };
 

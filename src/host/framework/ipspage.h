@@ -2,7 +2,7 @@
 
 class IDocument;
 
-/// A page: what an object can ask of the place it stands on.
+/// A page, as the objects on it see it.
 class IPsPage
 {
 public:

@@ -1,7 +1,7 @@
 #pragma once
 
-/// What a host may ask a page object whether it can do. The numbers are part of the interface; values without a
-/// name here are reserved for other kinds of object.
+/// Operations that a host may query a page object for. The numbers are part of the interface; values without a name
+/// here are reserved for other kinds of object.
 enum OperationType : int {
     OperationSelect = 0,
     OperationMove = 1,

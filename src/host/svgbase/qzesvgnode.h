@@ -57,14 +57,14 @@ public:
     /// False when the node's own "display" is none; for a node that is not a structure node also when its resolved
     /// "visibility" is not visible (a hidden group may hold visible children).
     bool isVisible() const;
-    /// Whether dragging may change x. A template takes this freedom with x_move="0".
+    /// Whether dragging may change x. A template forbids it with x_move="0".
     bool canMoveHorizontally() const;
-    /// Whether dragging may change y. A template takes this freedom with y_move="0".
+    /// Whether dragging may change y. A template forbids it with y_move="0".
     bool canMoveVertically() const;
 
-    /// Document-wide fill settings reach the node only while this is on; drawing does not look at it.
+    /// Document-wide fill settings reach the node only while this is on; drawing ignores it.
     void setFillEnabled(bool on) { m_fillEnabled = on; }
-    /// Document-wide stroke settings reach the node only while this is on; drawing does not look at it.
+    /// Document-wide stroke settings reach the node only while this is on; drawing ignores it.
     void setStrokeEnabled(bool on) { m_strokeEnabled = on; }
     bool isFillEnabled() const { return m_fillEnabled; }
     bool isStrokeEnabled() const { return m_strokeEnabled; }
@@ -72,9 +72,8 @@ public:
     /// The text of an attribute as the template or a later write gives it, presentation attributes included; empty
     /// when the node does not have it.
     QString attribute(const QString &name) const;
-    /// Sets an attribute from text, with the same effect as if the template had said so. Text that the attribute's
-    /// grammar does not accept is kept as text and has the effect that the same text has in a template. A null
-    /// string takes the attribute away.
+    /// Sets an attribute from text, with the same effect as in the template. Text that the attribute's grammar
+    /// rejects is kept as text and has the effect that it has in a template. A null string removes the attribute.
     void setAttribute(const QString &name, const QString &value);
     /// Sets one of "x", "y", "width", "height", "rx", "ry" (and any other numeric attribute) in the node's own user
     /// units. For a circle or an ellipse "x" and "y" are the corner of its bounding box, "width", "height", "rx"
@@ -83,7 +82,7 @@ public:
 
     /// Bounding rectangle of the geometry, document units, without the stroke; empty for a node without geometry.
     QRectF boundingRect() const;
-    /// Bounding rectangle, document units, of everything the node draws as geometry, children included.
+    /// Bounding rectangle, document units, of all geometry that the node draws, children included.
     QRectF transformedBounds() const;
     /// Width of the resolved stroke, user units; 0 for a stroke of "none".
     double strokeWidth() const;
@@ -95,8 +94,8 @@ public:
     /// The corners of a polygon node, document units; empty for any other type.
     QPolygonF polygon() const;
 
-    /// A copy of the node and its children, with the same attributes, flags and parent() but in no child list.
-    /// The caller owns it until QZeSvgStructureNode::addChild takes it over.
+    /// A copy of the node and its children, with the same attributes, flags and parent() but in no child list. The
+    /// caller owns it until QZeSvgStructureNode::addChild takes ownership.
     QZeSvgNode *clone() const;
 
 protected:

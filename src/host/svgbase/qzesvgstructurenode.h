@@ -12,12 +12,12 @@ public:
 
     /// The drawable children in document order. Definitions, titles, style sheets and removed nodes are not listed.
     QList<QZeSvgNode *> children() const;
-    /// Appends a node under the given id and takes it over: its "id" becomes that id and named lookup finds it.
-    /// A node that is already a child somewhere moves here. Null, an ancestor of this node and a node of another
+    /// Appends a node under the given id and takes ownership: its "id" becomes that id and named lookup finds it. A
+    /// node that is already a child somewhere moves here. Null, an ancestor of this node and a node of another
     /// document are ignored; the caller keeps those.
     void addChild(QZeSvgNode *node, const QString &id);
-    /// Takes a child out: it is drawn, listed and found by name no more, but stays alive until its document dies.
-    /// A node that is not a child of this one is left alone.
+    /// Removes a child: it is no longer drawn, listed or found by name, but stays alive until its document dies.
+    /// Ignores a node that is not a child of this one.
     void removeChild(QZeSvgNode *node);
 
 protected:

@@ -15,20 +15,20 @@ class QPainter;
 class SVGBASE_EXPORT QZeSvgTinyDocument : public QZeSvgStructureNode
 {
 public:
-    /// Something that parsing or drawing had to say. Line and column count from 1; 0 where there is no place.
+    /// A message of parsing or drawing. Line and column count from 1; 0 when there is no position.
     struct Message
     {
         enum Severity { Warning, Error };
-        /// What it is about, for programs; names and numbers stay what they are.
+        /// Stable identification for programs; names and numbers never change.
         enum Code {
             Unspecified = 0,
-            /// @name The text cannot be read.
+            /// @name Unreadable text
             /// @{
             NotWellFormed = 1,
             NoSvgRoot = 2,
             DamagedCompression = 3,
             /// @}
-            /// @name Something is not understood and has no effect.
+            /// @name Not understood and without effect
             /// @{
             InvalidProperty = 20,
             InvalidTransform = 21,
@@ -38,7 +38,7 @@ public:
             InvalidImage = 25,
             ForeignReference = 26,
             /// @}
-            /// @name A limit is exceeded, and what is beyond it is left out.
+            /// @name Limits exceeded; the excess is left out
             /// @{
             TextTooLong = 100,
             NestedTooDeep = 101,
@@ -82,7 +82,7 @@ public:
         Code code = Unspecified;
     };
 
-    /// What the last draw() was asked to do.
+    /// Arguments of the last draw().
     struct DrawRecord
     {
         QRectF target;
@@ -91,11 +91,12 @@ public:
     };
 
     /// Parses UTF-8 SVG text into a new document that the caller owns. Null when the text is not well-formed XML
-    /// with an "svg" root or exceeds a limit of the library; `messages`, when given, then says why and where.
+    /// with an "svg" root or exceeds a limit of the library; `messages`, if given, then receives reason and
+    /// position.
     static QZeSvgTinyDocument *load(const QByteArray &text, QVector<Message> *messages = nullptr);
     ~QZeSvgTinyDocument() override;
 
-    /// What parsing had to say about a document that could be loaded, and what its last drawing left out.
+    /// Messages of parsing this document, and of parts left out by its last drawing.
     QVector<Message> messages() const;
 
     /// The node with that id, control points and definitions included; null when there is none. The first in
@@ -108,7 +109,7 @@ public:
     void setViewBox(const QRectF &box);
 
     /// Stores a function that draw() calls with its painter, before the first node is drawn and with the painter in
-    /// document units. An empty function takes it away.
+    /// document units. An empty function removes it.
     void setCallback(const std::function<void(QPainter *)> &callback);
 
     /// @name Document-wide styling
@@ -146,13 +147,13 @@ public:
     /// @{
     /// Whether the document contains animation elements, running or not.
     bool animated() const;
-    /// Starts the document's clock, or lets it go on from where it was stopped. Before the first start nothing is
-    /// animated; animated values show in draw() alone, whatever reads a node gets its own values.
+    /// Starts the document's clock, or resumes it where it was stopped. Before the first start nothing is animated;
+    /// animated values show in draw() alone, and reading a node gives its base values.
     void startAnimate();
-    /// Stops the clock; the drawing stays at that moment.
+    /// Stops the clock; the drawing stays frozen at that moment.
     void stopAnimate();
-    /// Sets the clock, seconds since its start; it goes on from there while it runs. True when that changes the
-    /// drawing. Ignored when the time is no number.
+    /// Sets the clock, seconds since its start; a running clock goes on from there. True when that changes the
+    /// drawing. Ignores NaN.
     bool setAnimationTime(double seconds);
     /// The present time of the clock, seconds.
     double animationTime() const;
@@ -163,7 +164,7 @@ public:
     /// shows the area of its "width" and "height"; where those are absent or percentages, user units are painter
     /// units. Nothing is drawn when a size is 0 or negative (SVG 1.1 §5.1.2, §7.7).
     void drawFitted(QPainter *painter, const QRectF &viewport);
-    /// The document as UTF-8 text that draws the same: attributes as last set, document-wide styling as "style"
+    /// The document as UTF-8 text that draws identically: attributes as last set, document-wide styling as "style"
     /// attributes, the view box as last set. Comments, scripts and text that is never drawn are not written;
     /// control points are, under their ids. A brush that SVG has no paint for is written as its colour.
     QByteArray toSvg() const;
