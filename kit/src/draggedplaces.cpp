@@ -6,9 +6,9 @@ namespace shapekit {
 
 namespace {
 
-/// Two for each drag; whoever undoes more than that many drags across a change of zoom is a pixel or two off.
+/// Two for each drag; undoing more drags than that across a change of zoom is off by a pixel or two.
 constexpr int mostPlaces = 1000;
-/// Document units; nearer than this is the same corner.
+/// Document units; corners nearer than this are the same.
 constexpr double cornerEpsilon = 1e-6;
 
 bool isSameCorner(QPointF a, QPointF b)

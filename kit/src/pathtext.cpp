@@ -12,18 +12,18 @@ namespace shapekit {
 
 namespace {
 
-/// Enough for a thousandth of a pixel on the largest page, short enough to read.
+/// Resolves a thousandth of a pixel on the largest page, and stays readable.
 constexpr int numberDigits = 10;
-/// Characters of such a number: sign, point and exponent included.
+/// Most characters of such a number, sign, point and exponent included.
 constexpr int longestNumber = 32;
-/// Letters are laid out at this size and then brought to theirs, so that hinting doesn't show.
+/// Letters are laid out at this size and then scaled, so that hinting doesn't show.
 constexpr int layoutPixels = 100;
-/// Letters are made of many points; these are whole multiples of 1 / this.
+/// Letters have many points; their coordinates are whole multiples of 1 / this.
 constexpr double letterPrecision = 100;
-/// The height of digits as a part of the size of their font.
+/// Height of digits relative to the size of their font.
 constexpr double digitPart = 0.72;
 
-/// Letters are read from their font once; a label or two per shape is what there is.
+/// Capacity of the cache of letter outlines; a shape has a label or two.
 constexpr int knownTexts = 500;
 
 QPainterPath lettersFromFont(const QString &text)
@@ -178,7 +178,7 @@ void PathText::append(char command)
 void PathText::append(double number)
 {
     char digits[longestNumber];
-    // A sum of zeros has no sign.
+    // Adding zero turns -0 into 0.
     const auto end =
         std::to_chars(digits, digits + longestNumber, number + 0.0, std::chars_format::general, numberDigits);
     m_text += QLatin1String(digits, int(end.ptr - digits));

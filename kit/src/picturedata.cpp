@@ -13,12 +13,12 @@ namespace shapekit {
 namespace {
 
 const QString svgType = QStringLiteral("image/svg+xml");
-/// Pixels; a larger picture would take more than 160 MB while it is shown.
+/// Pixels; a larger picture would take more than 160 MB while shown.
 constexpr qint64 mostPixels = 40'000'000;
 constexpr double longestNaturalSide = 1000;
 constexpr double shortestNaturalSide = 4;
 
-/// Control points belong to shapes: what has such an id in a picture would be taken for one.
+/// Removes nodes with ids of control points from a picture; they would be taken for the shape's.
 QByteArray withoutControlPoints(const QByteArray &svg)
 {
     const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(svg));
@@ -59,7 +59,7 @@ QByteArray svgOfPixels(const QByteArray &data)
         .toUtf8();
 }
 
-/// Plain numbers and pixels; 0 for other units and nothing.
+/// Value of a length in plain numbers or pixels; 0 for other units and for empty text.
 double pixelsOf(const QString &length)
 {
     static const QRegularExpression plain(QStringLiteral("^\\s*(\\d+(?:\\.\\d*)?)(?:px)?\\s*$"));

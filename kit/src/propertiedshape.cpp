@@ -11,7 +11,7 @@ namespace {
 
 constexpr int firstPropertyId = 5101;
 constexpr int firstActionId = 1101;
-/// No shape has more; a larger count on a stream is damage.
+/// No shape has more; a larger count in a stream means damage.
 constexpr qint32 mostProperties = 64;
 
 } // namespace

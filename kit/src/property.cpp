@@ -13,10 +13,11 @@ namespace shapekit {
 
 namespace {
 
-/// Numbers of a list are whole multiples of 1 / this: what a control point stands for comes back from its place.
+/// Numbers of a list are whole multiples of 1 / this, so that a control point's value can be recovered from its
+/// position.
 constexpr double listPrecision = 1e4;
 
-/// A value as it stands on the stream; the present one when the stream has no whole value.
+/// Reads a value from the stream; the present one when the stream doesn't hold a complete value.
 template<class Value> Value valueFrom(QDataStream &in, const Value &present)
 {
     Value value;
@@ -325,7 +326,7 @@ void NumberList::setNumber(int index, double number)
 {
     if (index < 0 || index >= m_count || !std::isfinite(number))
         return;
-    // There are as many as there should be, whatever was read.
+    // Always yields the full count, whatever was read.
     QStringList texts = QString(*this).split(QLatin1Char(' '));
     texts[index] = textOf(number);
     TextValue::operator=(texts.join(QLatin1Char(' ')));
@@ -358,7 +359,7 @@ void NumberList::setNumbers(QVector<double> numbers)
     TextValue::operator=(texts.join(QLatin1Char(' ')));
 }
 
-// One by one: in a list the writer sets nothing between a number and a zero.
+// One by one: in a list the writer puts no separator before a zero.
 QString NumberList::textOf(double number) const
 {
     const double rounded = std::round(std::clamp(number, m_lowest, m_highest) * listPrecision) / listPrecision;
@@ -383,7 +384,7 @@ void DataValue::read(QDataStream &in)
 void DataValue::fromJson(const QJsonValue &value)
 {
     const QByteArray bytes = QByteArray::fromBase64(value.toString().toLatin1());
-    m_value = bytes.isEmpty() ? QByteArray() : bytes; // none, as a new shape has it
+    m_value = bytes.isEmpty() ? QByteArray() : bytes; // null when empty, as in a new shape
 }
 
 } // namespace shapekit

@@ -16,23 +16,22 @@ namespace shapekit {
 
 namespace {
 
-/// The smallest side of a redrawn object, item units: below it the control points have no room.
+/// Smallest side of a redrawn object, item units; control points need that much room.
 constexpr double smallestRedrawnSide = 24;
 constexpr double smallestStretchedSide = 16;
-/// The pen takes at most this part of the shorter side.
+/// The pen takes at most this share of the shorter side.
 constexpr double largestInsetShare = 0.25;
-/// No page is larger; a side beyond it is a mistake that is not drawn.
+/// No page is larger; shapes with a longer side aren't drawn.
 constexpr double largestSide = 1e6;
 constexpr quint32 controlPointCapacity = 32;
 /// Places are whole multiples of 1 / this, document units. Files, undo steps and recorded actions hold corners of
-/// control points; a centre that is worked out from a corner is off by a rounding error, and so comes back exactly.
+/// control points; rounding restores the exact centre from a corner despite rounding errors.
 constexpr double placesPerUnit = 1 << 20;
-/// A point this near to where its shape would have it stays; else it would creep with every reading.
+/// A point this close to its settled place stays; otherwise it would creep with every load.
 constexpr double settledEpsilon = 4 / placesPerUnit;
-/// Document units; far less than the distance of two places, far more than what is lost when a corner is worked
-/// out.
+/// Document units; far smaller than the distance of two places, far larger than the rounding error of a corner.
 constexpr double roundingEpsilon = 1e-9;
-/// Half of a control point in a template: limits there are those of its corner.
+/// Half the side of a control point in a template, whose limits are those of the corner.
 constexpr double templateHalf = 4;
 /// Points that limit each other settle within this many rounds.
 constexpr int settlingRounds = 2;
@@ -54,7 +53,7 @@ QPointF rounded(QPointF point)
             std::round(point.y() * placesPerUnit) / placesPerUnit};
 }
 
-/// The nearest place in a range; where a range leaves no room its end wins.
+/// The nearest place in a range; the end of an inverted range wins.
 double within(double value, double low, double high)
 {
     return std::min(std::max(value, low), high);
@@ -124,7 +123,7 @@ void Shape::finishLoading()
     if (!document)
         return;
     placeControlPoints();
-    // A new object makes its picture itself, once its core is loaded.
+    // A new object renders its picture itself, once its core is loaded.
     redraw(owner->isCreateFinished());
     settleDrawing();
 }
@@ -164,13 +163,13 @@ void Shape::setSize(QSizeF, QSizeF newSize)
 
 void Shape::notifyObjectCreated()
 {
-    // The last step of a creating drag may differ from the step before it, of which the shape heard.
+    // The last step of a creating drag may differ from the previous step, which the shape was notified of.
     if (m_redrawn && fitTo(owner->getClientRect().size()))
         invalidate();
 }
 
-/// Opening a shape sets its pen width after its control points. Whatever keeps its size and its centre then must
-/// keep its corner to the bit, or what is saved next would not be what was opened.
+/// Opening a shape sets its pen width after its control points. A point that keeps its size and centre then must
+/// keep its exact corner, or saving again would not reproduce the file.
 void Shape::setPenWidth(int width, bool record)
 {
     QVector<QRectF> before;
@@ -356,7 +355,7 @@ void Shape::setPath(const char *id, const PathText &path)
 
 void Shape::set(const char *id, const char *attribute, const QString &value)
 {
-    // What stays as it is keeps sharing its geometry with all shapes of the same template.
+    // An unchanged node keeps sharing its geometry with all shapes of the same template.
     QZeSvgNode *target = node(id);
     if (target && target->attribute(QLatin1String(attribute)) != value)
         target->setAttribute(QLatin1String(attribute), value);
@@ -442,7 +441,7 @@ void Shape::takeMovedControlPoints()
         if (!controlPoints[i])
             continue;
         const QPointF centre = rounded(controlPoints[i]->boundingRect().center());
-        // A damaged file may put them anywhere.
+        // A damaged file may contain any position.
         const bool isPlace = std::isfinite(centre.x()) && std::isfinite(centre.y());
         if (isPlace && (i >= m_points.size() || centre != m_points.at(i)))
             pointMoved(i + 1, centre);
@@ -470,8 +469,8 @@ void Shape::placeControlPoint(int index)
         return;
     const QRectF present = node->boundingRect();
     const QPointF centre = m_points.value(index);
-    // Sized anew for a zoom, a corner is a rounding error away from where it would be worked out; what is loaded
-    // must keep that to the bit.
+    // After resizing for a zoom, a corner is off from its computed place by a rounding error; loading must keep
+    // exactly that corner.
     if (isNear(present.center(), centre, roundingEpsilon))
         return;
     moveCorner(*node, {centre.x() - present.width() / 2, centre.y() - present.height() / 2});
@@ -491,7 +490,7 @@ void Shape::redraw(bool refresh)
         invalidate();
 }
 
-// Damaged files bring sizes and places for which a shape that repeats its parts would never end.
+// Damaged files contain sizes and places for which a shape that repeats its parts would draw for ever.
 bool Shape::isDrawable() const
 {
     const auto isPlace = [](QPointF point) {

@@ -10,7 +10,7 @@ namespace {
 
 /// The host's number for page objects that are shapes.
 constexpr int shapeKind = 1001;
-/// Shapes that have a drawing scale are of a sub type of their own, which the library gives to opened ones.
+/// Shapes with a drawing scale have a sub type of their own, which the library assigns to opened ones.
 constexpr int scaledType = 26;
 constexpr int scaledSubType = 13001;
 
@@ -42,10 +42,10 @@ bool ShapeObject::createSVGBase(int type, bool initGlobals)
 
 void ShapeObject::OnQPainterDraw(QPainter *painter)
 {
-    // A shape that is read makes its picture when all of it is known, not of what it was before.
+    // A shape being read renders its picture when everything is read, not from its previous state.
     if (!painter && core() && core()->isReadingData())
         return;
-    // Other threads copy a finished picture and leave the core alone.
+    // Other threads copy a finished picture and don't touch the core.
     if (core() && createThreadId == QThread::currentThreadId())
         core()->settleDrawing();
     CSVGObj::OnQPainterDraw(painter);

@@ -30,10 +30,10 @@ constexpr int extraHostFilledType = 1000;
 constexpr int pageFillAction = 1990;
 /// Added to the width of a line so that it can be hit, document units.
 constexpr double lineHitMargin = 6;
-/// The library makes the pen this much wider in the region, item units.
+/// The library widens the pen by this much in the region, item units.
 constexpr double regionPenMargin = 2;
-/// How far a line reaches beyond its middle, in widths: half of it, and with pointed corners as far as SVG lets
-/// them grow where a template says nothing else (SVG 1.1 §11.4).
+/// Reach of a line beyond its middle, in widths: half of it, and with mitred corners as far as SVG's default miter
+/// limit allows (SVG 1.1 §11.4).
 constexpr double lineReach = 0.5;
 constexpr double pointedLineReach = 0.5 * 4;
 
@@ -86,7 +86,7 @@ QString areaId()
     return QStringLiteral("area");
 }
 
-/// An attribute that groups hand down.
+/// An inherited attribute.
 QString inherited(const QZeSvgNode &node, const QString &name)
 {
     QString value = node.attribute(name);
@@ -122,7 +122,7 @@ StyledShape::StyledShape(CSVGObj *owner, int type)
     propPenStyleEnabled = true;
     propPenWidthEnabled = true;
     keepOutlineRegion = true;
-    // Pixels until here; the painting step only follows later changes of the zoom.
+    // In pixels up to here; painting only follows later changes of the zoom.
     controlPointSize /= zoomRate;
 }
 
@@ -228,8 +228,8 @@ void StyledShape::setFillBrush(const QBrush &brush, bool record, bool notify)
             takePageFill();
         return;
     }
-    // The page object hands its new fill back to this function; by then it is the present one, which ends the
-    // round.
+    // The page object passes its new fill back to this function; by then it is the present one, which ends the
+    // recursion.
     if (!fillsAlike(brush, getFillBrush())) {
         if (record)
             RecordColor(brush.color(), ACT_SVG_FILLCOLOR);
@@ -252,7 +252,7 @@ bool StyledShape::setInnerProperty(int propId, QDataStream &in, bool record, boo
         return CSVGBase::setInnerProperty(propId, in, record, addUndo);
     QBrush fill;
     if (!readFill(in, fill))
-        return false; // damage must not blacken a shape
+        return false; // damaged data must not blacken a shape
     const bool keepsWholeFill = addUndo && hasRichFill();
     const QByteArray before = keepsWholeFill ? bytesOf(*owner->getFillProp()) : QByteArray();
     if (addUndo && !keepsWholeFill) {
@@ -378,7 +378,7 @@ QZeSvgNode *StyledShape::node(const char *id) const
     return document ? document->namedNode(QLatin1String(id)) : nullptr;
 }
 
-/// Starting again paints a picture, whose listeners may delete the shape, and leaves the document's clock stopped.
+/// Restarting renders a picture, whose listeners may delete the shape, and leaves the document's clock stopped.
 void StyledShape::play(bool on)
 {
     if (!on) {
@@ -400,7 +400,7 @@ void StyledShape::readLook()
     forEachNode(*document, [this](QZeSvgNode &node, NodeLook look) {
         look.keepsFill |= keepsItsLook;
         look.keepsStroke |= keepsItsLook;
-        // Only ever off: a fill or stroke of "none" has switched it off already.
+        // Only switches off: a fill or stroke of "none" has already done so.
         if (look.keepsFill || look.fillFollowsPen)
             node.setFillEnabled(false);
         if (look.keepsStroke || look.strokeFollowsPen)

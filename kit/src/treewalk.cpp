@@ -11,7 +11,7 @@ namespace {
 struct Visit
 {
     QZeSvgNode *node;
-    NodeLook look; ///< of the groups that the node is in
+    NodeLook look; ///< from the enclosing groups
 };
 
 NodeLook withOwn(NodeLook look, const QZeSvgNode &node)
@@ -24,7 +24,7 @@ NodeLook withOwn(NodeLook look, const QZeSvgNode &node)
     return look;
 }
 
-/// Appends visits of the children, the first one last, so that it is taken first.
+/// Appends visits of the children in reverse, so that the first one is taken first.
 void addChildren(QVector<Visit> &pending, const QZeSvgStructureNode &parent, const NodeLook &look)
 {
     const QList<QZeSvgNode *> children = parent.children();

@@ -5,8 +5,8 @@ using namespace shapekit;
 const Text gridText("Grid", "Gitter"), acrossText("Label across", "Beschriftung waagrecht"),
     upText("Label up", "Beschriftung senkrecht");
 
-/// Two axes with a tick every 20 units from their origin, which the control point moves: more of them come with the
-/// size.
+/// Two axes with a tick every 20 units from their origin, which the control point moves; larger axes have more
+/// ticks.
 class Axes : public ShapeOfType<33>
 {
 public:

@@ -3,7 +3,7 @@
 using namespace shapekit;
 
 /// A thick arrow to the right. One control point sets the length of the head and the thickness of the shaft, the
-/// other the depth of a notch in its tail; each leaves the other its room.
+/// other the depth of a notch in its tail; each leaves room for the other.
 class BlockArrow : public ShapeOfType<5>
 {
 public:
@@ -36,7 +36,8 @@ protected:
 private:
     double notch() const { return point(2).x() - handleShift; }
 
-    /// From the corner of shaft and head, and from the notch, to the control point, which is thus always inside.
+    /// Distance of the control points from the corner of shaft and head, and from the notch: they are always
+    /// inside.
     static constexpr double handleDrop = 6, handleShift = 8, shortestShaft = 20;
 };
 

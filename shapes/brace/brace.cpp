@@ -2,7 +2,7 @@
 
 using namespace shapekit;
 
-/// A curly brace that opens to the right; the control point moves its tip along.
+/// A curly brace that opens to the right; the control point moves its tip along the side.
 class Brace : public ShapeOfType<28>
 {
 public:

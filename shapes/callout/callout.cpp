@@ -2,8 +2,8 @@
 
 using namespace shapekit;
 
-/// A balloon for what somebody says. Its sides grow with the page object; its corners and the root of its tail keep
-/// their size. The control point is the tip of the tail.
+/// A speech balloon. Its sides grow with the page object; its corners and the root of its tail keep their size. The
+/// control point is the tip of the tail.
 class Callout : public ShapeOfType<6>
 {
 public:
@@ -16,8 +16,7 @@ protected:
     {
         const QRectF box = frame().adjusted(0, 0, 0, -tailHeight);
         const QPointF tip = point(1) - box.bottomLeft() - QPointF(48, 0);
-        // Pieces that grow are "h" and "v"; the first piece of the tail starts 48 from the left, the second ends
-        // at 28.
+        // The pieces "h" and "v" grow; the first piece of the tail starts 48 from the left, the second ends at 28.
         QString path = QStringLiteral("M10,0h120a10,10 0 0 1 10,10v60a10,10 0 0 1-10,10h-82l%1l%2l-18,0"
                                       "a10,10 0 0 1-10-10v-60a10,10 0 0 1 10-10z")
                            .arg(numbersToString({tip.x(), tip.y()}), numbersToString({-20 - tip.x(), -tip.y()}));

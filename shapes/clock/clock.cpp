@@ -5,7 +5,7 @@ using namespace shapekit;
 const Text faceText("Face", "Zifferblatt"), digitsText("Digits", "Ziffern"), romanText("Roman", "Römisch"),
     plainText("Plain", "Schlicht");
 
-/// A clock whose hands are dragged from minute to minute; the hour hand goes along with the minutes.
+/// A clock whose hands are dragged from minute to minute; the hour hand follows the minute hand.
 class Clock : public ShapeOfType<35, Shape::Stretched>
 {
 public:

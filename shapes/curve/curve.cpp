@@ -4,8 +4,8 @@ using namespace shapekit;
 
 const Text valuesText("Values", "Werte");
 
-/// The graph of a function that is known at a dozen places: the user drags its points up and down, or writes its
-/// values, from -10 to 10, as text.
+/// The graph of a function through a dozen points: the user drags them up and down, or writes their values, from
+/// -10 to 10, as text.
 class Curve : public ShapeOfType<31>
 {
 public:

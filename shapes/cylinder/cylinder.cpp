@@ -2,7 +2,7 @@
 
 using namespace shapekit;
 
-/// A standing cylinder; the control point opens and closes the ellipse that its top is seen as.
+/// A standing cylinder; the control point opens and closes the ellipse of its top.
 class Cylinder : public ShapeOfType<12>
 {
 public:

@@ -4,7 +4,7 @@ using namespace shapekit;
 
 const Text drivingText("Driving teeth", "Zähne treibend"), drivenText("Driven teeth", "Zähne getrieben");
 
-/// Two gears that turn each other; the numbers of their teeth say how large they are and how fast they turn.
+/// Two gears that turn each other; their numbers of teeth determine their sizes and speeds.
 class Gears : public ShapeOfType<38, Shape::Stretched>
 {
 public:
@@ -30,15 +30,15 @@ private:
             i == 0 ? rim.moveTo(corner) : rim.lineTo(corner);
         }
         setPath("figure_" + id, rim.close().ellipse(QRectF(-3.5, -3.5, 7, 7).translated(centre)));
-        // No other place than where it turns: a gradient runs over both gears as one.
+        // No translation, only the rotation: a gradient runs over both gears as one.
         const QString turn = QStringLiteral("%1 %2 %3");
         set(id + "_turn", "from", turn.arg(start).arg(centre.x()).arg(centre.y()));
         set(id + "_turn", "to", turn.arg(360 - start).arg(centre.x()).arg(centre.y()));
         set(id + "_turn", "dur", QStringLiteral("%1s").arg(teeth * 0.5));
     }
-    /// What teeth rise above the circle on which the gears roll and go below it, in modules of the diameter.
+    /// Height of the teeth above the pitch circle and depth below it, in modules of the diameter.
     static constexpr double tip = 1.4, root = -2.2;
-    /// Of a tooth, in parts of the way to the next: so slim that the outlines of two gears pass each other.
+    /// Corners of a tooth, relative to the distance of two teeth: slim, so that the gears' outlines don't cross.
     static constexpr double corners[] = {-0.1, 0.1, 0.23, 0.77};
     WholeNumber driving{this, drivingText, 12, 6, 40}, driven{this, drivenText, 18, 6, 40};
 };

@@ -6,7 +6,7 @@ const Text firstText("First number", "Erste Zahl");
 const Text stepText("Step", "Schritt");
 const Text markerText("Marker", "Marke");
 
-/// A number line of ten steps with a marker to be moved along it.
+/// A number line of ten steps with a movable marker.
 class NumberLine : public ShapeOfType<32>
 {
 public:
@@ -19,7 +19,7 @@ protected:
     {
         const double y = middle().y() + 2, end = width() - 3;
         PathText ticks, labels;
-        const bool wide = width() > 160; // else there is no room for every number
+        const bool wide = width() > 160; // otherwise there is no room for every number
         for (int i = 0; i <= 10; i += wide ? 1 : 5) {
             const double x = margin + (width() - 3 * margin) * i / 10;
             ticks.line({x, y - 5}, {x, y + 5});

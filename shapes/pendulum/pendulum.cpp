@@ -2,7 +2,7 @@
 
 using namespace shapekit;
 
-/// A pendulum that swings as far as its control point, the bob, is pulled; a longer one takes longer.
+/// A pendulum that swings as far as its control point, the bob, is pulled; a longer one swings more slowly.
 class Pendulum : public ShapeOfType<36, Shape::Stretched>
 {
 public:

@@ -6,7 +6,7 @@ using namespace shapekit;
 
 const Text pictureText("Picture", "Bild"), opacityText("Opacity", "Deckkraft");
 
-/// A picture from elsewhere, in its own colours: what it shows is kept with it as SVG text.
+/// A dropped or pasted picture in its own colours, kept as SVG text.
 class Picture : public ShapeOfType<2, Shape::Stretched>
 {
 public:

@@ -2,7 +2,7 @@
 
 using namespace shapekit;
 
-/// A piece of a pie: its two control points go around the rim, and what is between them, clockwise, is there.
+/// A piece of a pie: the part between its two control points on the rim, clockwise.
 class Pie : public ShapeOfType<3>
 {
 public:
@@ -29,7 +29,7 @@ protected:
     }
 
 private:
-    /// As on the circle that the ellipse is a stretched form of.
+    /// The angle on the circle that the ellipse is stretched from.
     double angle(QPointF place) const
     {
         const QPointF arm = place - middle();

@@ -2,8 +2,8 @@
 
 using namespace shapekit;
 
-/// A closed figure of straight lines whose corners are its control points: as many as the template has, or as a
-/// saved polygon brings along.
+/// A closed figure of straight lines whose corners are its control points: as many as in the template or in the
+/// saved polygon.
 class Polygon : public ShapeOfType<9>
 {
 public:

@@ -2,7 +2,8 @@
 
 using namespace shapekit;
 
-/// A protractor: the control point turns its pointer from degree to degree, and the angle stands beside the middle.
+/// A protractor: the control point turns its pointer in steps of a degree, and the angle is shown beside the
+/// middle.
 class Protractor : public ShapeOfType<34, Shape::Stretched>
 {
 public:
@@ -23,7 +24,7 @@ protected:
 
 private:
     static constexpr QPointF centre{100, 94};
-    /// Counter-clockwise from the right, as angles are measured; below the base line it is the nearer end.
+    /// Counter-clockwise from the right, as usual in mathematics; below the base line, the nearer end.
     static double angle(QPointF place)
     {
         if (place.y() > centre.y())

@@ -17,7 +17,7 @@ protected:
         const double part = (2 * point(1).x() - width()) / width();
         const QPointF half(middle().x() * part, middle().y() * part);
         const QPointF left(middle().x() - half.x(), middle().y()), right(middle().x() + half.x(), middle().y());
-        // Against the direction of the rim: a hole.
+        // Opposite to the direction of the rim, which makes a hole.
         setPath("figure", PathText()
                               .ellipse(frame())
                               .moveTo(left)

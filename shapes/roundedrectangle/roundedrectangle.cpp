@@ -16,7 +16,7 @@ protected:
     }
 
 private:
-    /// From where the top left arc ends to the control point, which is thus always inside.
+    /// Distance of the control point from the end of the top left arc: it is always inside.
     static constexpr double handle = 8;
 };
 

@@ -4,7 +4,7 @@ using namespace shapekit;
 
 const Text cornersText("Corners", "Zacken");
 
-/// A star: as many corners as the user wants, and as deep between them as the control point goes.
+/// A star: the user sets the number of its corners, the control point the depth between them.
 class Star : public ShapeOfType<8>
 {
 public:
@@ -22,14 +22,14 @@ protected:
     }
 
 private:
-    /// How far from the middle a place is, in steps of a thousandth: the same for every number of corners.
+    /// Relative distance from the middle, in steps of a thousandth: independent of the number of corners.
     double depth(QPointF place) const
     {
         const QPointF arm = place - middle();
         const double part = std::hypot(arm.x() / width(), arm.y() / height()) * 2;
         return std::clamp(std::round(part * 1000) / 1000, 0.15, 0.95);
     }
-    /// Corners and what is between them, from the top; `depth` is the part of the way from the middle.
+    /// Outer and inner corners by turns, from the top; `depth` is the relative distance from the middle.
     QPointF corner(int index, double depth, const QRectF &box) const
     {
         return middle() + stretched(onCircle({0, 0}, depth, index * 180.0 / corners), box.size() / 2);

@@ -5,7 +5,7 @@ using namespace shapekit;
 const Text rowsText("Rows", "Zeilen");
 const Text columnsText("Columns", "Spalten");
 
-/// A table to write into; the control point sets the height of its head.
+/// A table to write into; the control point sets the height of its header.
 class Table : public Shape
 {
 public:

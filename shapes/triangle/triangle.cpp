@@ -2,7 +2,7 @@
 
 using namespace shapekit;
 
-/// A triangle whose corners go anywhere, but not so near to a line that it would be none.
+/// A triangle whose corners can be dragged anywhere unless it would become a line.
 class Triangle : public ShapeOfType<7>
 {
 public:

@@ -5,18 +5,18 @@
 
 namespace shapekit {
 
-/// What a control point's size was where the user dragged it from and to.
+/// Sizes of a control point at the start and end of its drags.
 ///
-/// Undo and redo name the top-left corner of a control point, whose size follows the zoom: the same corner means
-/// another centre once the user has zoomed. Shapes go by centres, so they remember how large the point was at that
-/// corner.
+/// Undo and redo record the top-left corner of a control point, whose size follows the zoom: after zooming, the
+/// same corner means another centre. Shapes work with centres, so they remember the point's size at that corner.
 class DraggedPlaces
 {
 public:
-    /// The user drags a control point, which had its corner at `start` when the drag began, and now is at `place`.
+    /// Notes a drag of the control point whose corner was at `start` when the drag began, and which now is at
+    /// `place`.
     void noteDrag(QPointF start, const QRectF &place);
-    /// The centre that was meant by the corner of `place`; the centre of `place` itself for a corner that no drag
-    /// began or ended at.
+    /// The centre at the time when a drag began or ended at the corner of `place`; the centre of `place` itself if
+    /// none did.
     QPointF meantCentre(const QRectF &place) const;
 
 private:

@@ -13,15 +13,15 @@ using CoreFactory = CSVGBase *(*)(CSVGObj *owner);
 /// The groups of the palette.
 enum class Group { Basic, Mathematics, Science };
 
-/// What there is to say about the one shape of a plug-in.
+/// Description of the one shape of a plug-in.
 struct Kind
 {
-    QString name; ///< of the shape's folder: part of its id, of its keys and of its resources
+    QString name; ///< the shape's folder: part of its id, its keys and its resource paths
     QString english;
     QString german;
     Group group = Group::Basic;
     CoreFactory makeCore = nullptr;
-    bool takesPictures = false; ///< whether pictures from elsewhere become objects of this kind
+    bool takesPictures = false; ///< whether dropped or pasted pictures become objects of this kind
 
     QString id() const { return QStringLiteral("shapes.") + name; }
     QString nameKey() const { return QStringLiteral("IDS_SHAPE_") + name.toUpper(); }
@@ -29,7 +29,7 @@ struct Kind
     QString templateFile() const { return QStringLiteral(":/gliololok/%1/template.svg").arg(name); }
 };
 
-/// The kind of this plug-in, which SHAPEKIT_PLUGIN defines.
+/// The kind of this plug-in, defined by SHAPEKIT_PLUGIN.
 const Kind &kind();
 
 template<class Core> CSVGBase *makeCore(CSVGObj *owner)
@@ -39,7 +39,7 @@ template<class Core> CSVGBase *makeCore(CSVGObj *owner)
 
 } // namespace shapekit
 
-/// Makes a plug-in of a shape core: the class, its name in English and German (UTF-8), and its place in the
+/// Defines the plug-in of a shape core: the class, its name in English and German (UTF-8), and its group in the
 /// palette.
 #define SHAPEKIT_PLUGIN(Core, english, german, group)                                                              \
     const shapekit::Kind &shapekit::kind()                                                                         \

@@ -29,7 +29,7 @@ public:
     PathText &polygon(std::initializer_list<QPointF> corners);
     PathText &ellipse(const QRectF &box);
     PathText &roundedRectangle(const QRectF &box, double radius);
-    /// The outlines of letters of that height, centred on a point.
+    /// The outlines of text whose digits have that height, centred on a point.
     PathText &text(QPointF centre, const QString &text, double height);
     /// @}
 

@@ -8,13 +8,13 @@ class QZeSvgTinyDocument;
 
 namespace shapekit {
 
-/// MIME types of pictures that can be shown: SVG first, then what this machine reads of pixels.
+/// MIME types of pictures that can be shown: SVG first, then the raster formats that the installed Qt reads.
 QStringList pictureTypes();
-/// The picture as SVG text; one of pixels becomes the image of a document as large as it is. Empty for a picture
-/// that cannot be read or is too large.
+/// The picture as SVG text; a raster picture becomes the image of a document of its size. Empty for a picture that
+/// can't be read or is too large.
 QByteArray svgOfPicture(const QString &mimeType, const QByteArray &data);
-/// The size that a document asks for by its "width" and "height" (pixels), else by its view box, at most 1000 on
-/// the longer side.
+/// The size requested by a document's "width" and "height" (pixels), else by its view box, at most 1000 on the
+/// longer side.
 QSizeF naturalSizeOf(const QZeSvgTinyDocument &document);
 
 } // namespace shapekit

@@ -7,12 +7,12 @@ namespace shapekit {
 
 /// A shape that has properties of its own besides pen and fill.
 ///
-/// They are saved behind the data that every shape has: their number, then each as a byte array that holds its
-/// value, so that a file with fewer or more of them can be read. In JSON each has a key of its own.
+/// They are saved after the data common to all shapes: their count, then the value of each as a byte array, so that
+/// files with fewer or more of them can be read. In JSON each has a key of its own.
 class PropertiedShape : public StyledShape
 {
 public:
-    /// A property of this id is the scale that the library draws a shape of type 26 at.
+    /// Id of the property that scales the drawing of a shape of type 26.
     static constexpr int drawingScaleId = 26;
 
     using StyledShape::StyledShape;
@@ -28,17 +28,17 @@ public:
     bool GetSettingArray(QJsonArray &settings) override;
     bool SetSettingArray(QMap<QString, QString> &values, bool record, bool undo) override;
 
-    /// For properties: takes one up and gives it its ids.
+    /// Called by properties: registers one and assigns its ids.
     void addProperty(Property *property, int &id, int &actionId);
 
 protected:
-    /// A property has a new value; without a property, several may have.
+    /// Called when a property has a new value; null when several may have changed.
     virtual void propertyChanged(const Property *property) = 0;
 
 private:
     Property *propertyWithId(int id) const;
 
-    QVector<Property *> m_properties; ///< members of the derived class
+    QVector<Property *> m_properties; ///< not owned: members of the derived class
 };
 
 } // namespace shapekit

@@ -19,8 +19,8 @@ namespace shapekit {
 
 class PropertiedShape;
 
-/// A value that a shape adds to what the user can set: in the property panel and in the settings panel, saved with
-/// the shape, recorded, and undone. A property is a member of its shape and registers itself there.
+/// A value of a shape that the user can set in the property panel and the settings panel, and that is saved,
+/// recorded and undone with the shape. A property is a member of its shape and registers itself there.
 class Property
 {
 public:
@@ -37,24 +37,23 @@ public:
     QString controlId() const { return QStringLiteral("id") + m_text.name(); }
 
     virtual DATA_TYPE dataType() const = 0;
-    /// The description of the editor that goes with the type; empty when it needs none.
+    /// The editor description for the type; empty when the type needs none.
     virtual QByteArray editor() const { return {}; }
     virtual void write(QDataStream &out) const = 0;
-    /// Takes a value over, brought into the bounds that the property has. A value that cannot be read changes
-    /// nothing.
+    /// Reads a value and limits it to the property's bounds. A value that can't be read changes nothing.
     virtual void read(QDataStream &in) = 0;
     virtual QJsonValue toJson() const = 0;
     virtual void fromJson(const QJsonValue &value) = 0;
-    /// The control of the settings panel; an empty object for a property that has none.
+    /// The control of the settings panel; an empty object for none.
     virtual QJsonObject control(CSVGObj &object) const = 0;
-    /// Takes the text over that the control answered.
+    /// Applies the text that the control answered.
     virtual void takeAnswer(const QString &text) = 0;
 
     QByteArray bytes() const;
     void setBytes(const QByteArray &bytes);
 
 protected:
-    /// With an id of 0 the property gets the next free one of its shape.
+    /// An id of 0 means the next free one of the shape.
     Property(PropertiedShape *shape, const Text &text, int id = 0);
 
 private:
@@ -105,7 +104,7 @@ private:
     int m_highest;
 };
 
-/// A number between two bounds, in steps that the panel offers.
+/// A number between two bounds, with the panel's step.
 class RealNumber : public Property
 {
 public:
@@ -130,7 +129,7 @@ private:
     double m_step;
 };
 
-/// The scale that a shape of type 26 is drawn at: at 2 it is half as large, about the middle of its frame.
+/// Item units per drawn unit of a shape of type 26: at 2 it is half as large, about the middle of its frame.
 class DrawingScale : public RealNumber
 {
 public:
@@ -138,7 +137,7 @@ public:
                  double step);
 };
 
-/// One of several texts.
+/// A choice between several texts.
 class Choice : public Property
 {
 public:
@@ -161,7 +160,7 @@ private:
     QStringList m_entries; ///< localisation keys
 };
 
-/// A colour besides those of pen and fill.
+/// A colour in addition to those of pen and fill.
 class ColorValue : public Property
 {
 public:
@@ -200,16 +199,16 @@ private:
     QString m_value;
 };
 
-/// A fixed count of numbers between two bounds, kept as text that the user may write: with blanks, commas or
-/// nothing between them, up to the first thing that is no number; missing ones are 0. The text is put into one
-/// form, four places after the point and a blank between two numbers.
+/// A fixed count of numbers between two bounds, as text that the user may write: separated by blanks, commas or
+/// nothing, up to the first non-number; missing ones are 0. The text is normalised: at most four decimal places and
+/// single blanks.
 class NumberList : public TextValue
 {
 public:
     NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest);
 
     const QVector<double> &numbers() const;
-    /// Sets the number at an index (from 0); an index that is not there is ignored.
+    /// Sets the number at an index (from 0); ignores an index out of range.
     void setNumber(int index, double number);
 
     void read(QDataStream &in) override;
@@ -224,7 +223,7 @@ private:
     int m_count;
     double m_lowest;
     double m_highest;
-    /// What the text was read as, and that text.
+    /// The numbers as last parsed, and the text that they were parsed from.
     mutable QVector<double> m_numbers;
     mutable QString m_numbersText;
 };

@@ -12,21 +12,21 @@
 
 namespace shapekit {
 
-/// What a shape author derives from: a template, what its control points may do, and a drawing.
+/// Base class for shape authors: a template, rules for its control points, and a drawing.
 ///
-/// The template gives the look and the form of a new shape. Control points are numbered from 1 as in the template;
-/// a shape asks where they stand (point()) and writes the geometry of template nodes for it (draw()). Everything
-/// else comes from here: undo, playback, saving, limits, mirroring and zooming, following the size, the outline,
-/// pen and fill, panels.
+/// The template defines the look and the form of a new shape. Control points are numbered from 1 as in the
+/// template; a shape reads their positions (point()) and writes the geometry of template nodes accordingly
+/// (draw()). This class does the rest: undo, playback, saving, limits, mirroring and zooming, following the size,
+/// the outline, pen and fill, panels.
 ///
 /// Attributes of control points in the template (besides those of the library, such as x_move="0"):
-/// - `x_follows`, `y_follows`: how the point goes along when the size of a redrawn shape changes (Following);
-/// - `x_offset`, `y_offset`: one or two numbers, the distances from the frame at which the point's free travel, and
-///   what is measured when the size changes, begins and ends; the second is like the first when it is left out.
+/// - `x_follows`, `y_follows`: how the point follows when the size of a redrawn shape changes (Following);
+/// - `x_offset`, `y_offset`: one or two numbers, the distances from the frame at which the point's free travel,
+///   which is also the stretch measured when the size changes, begins and ends; the second defaults to the first.
 class Shape : public PropertiedShape
 {
 public:
-    /// What becomes of the drawing when the page object gets another size.
+    /// Treatment of the drawing when the page object's size changes.
     enum Sizing {
         Redrawn, ///< drawn anew: lines keep their width, corners stay round; the document is as large as the object
         Stretched ///< stretched like a picture, in its own proportions
@@ -46,7 +46,7 @@ public:
     QSizeF getMinimizeSize() override;
     /// At a drawing scale the outline shrinks with the drawing.
     void updateOutlineRegion() override;
-    /// The region is the outline, the pen and the control points, so that each of them can be grasped.
+    /// The region consists of the outline, the pen and the control points, so that each of them can be grabbed.
     bool getOutlinePath(QPainterPath *path) override;
     QRectF paintedArea() override;
     QByteArray toSvg() override;
@@ -58,30 +58,30 @@ public:
     bool CanMoveControlPoint(QZeSvgNode *node, QPointF pos) override;
 
 protected:
-    /// @name What a shape says about itself. Points and sizes are document units.
+    /// @name Overrides for shapes; points and sizes in document units
     /// @{
 
-    /// Where the centre of a control point may be dragged to: by default wherever the offsets of the template leave
-    /// it, in a stretched shape where the limits of the template do. It may depend on other points.
+    /// The range of a control point's centre when dragged: by default as the offsets of the template allow, in a
+    /// stretched shape as its limits allow. It may depend on other points.
     virtual QRectF range(int number);
-    /// Where a control point that was put to `centre` stands, by default the nearest place in its range.
+    /// The position of a control point that was put to `centre`, by default the nearest place in its range.
     virtual QPointF settled(int number, QPointF centre);
     /// The smallest size of an object, item units; 24 × 24, or 16 × 16 if it is stretched.
     virtual QSizeF smallestSize() const;
-    /// Refuses a place that a drag would take a control point to: the point stays where it is then.
+    /// False to refuse a position that a drag would move a control point to; the point then stays where it is.
     virtual bool mayMove(int number, QPointF centre);
-    /// Writes the geometry for the present points, size and properties. Called when somebody is about to look at
-    /// the drawing, however much has changed since the last time.
+    /// Writes the geometry for the present points, size and properties. Called once before the drawing is needed,
+    /// however much has changed since the last time.
     virtual void draw() {}
-    /// The user, or a file, put the centre of a control point there.
+    /// Called when the user, or a file, has put the centre of a control point there.
     virtual void pointMoved(int number, QPointF centre);
-    /// Where a control point stands if nothing limits it: where it was put, gone along with the size.
+    /// The position of a control point without limits: where it was put, following the size.
     virtual QPointF wantedPoint(int number);
     void propertyChanged(const Property *property) override;
     QRectF drawnArea() override;
     /// @}
 
-    /// @name What a shape draws with
+    /// @name Tools for drawing
     /// @{
 
     /// The centre of a control point.
@@ -92,7 +92,7 @@ protected:
     double height() const { return size().height(); }
     double shorterSide() const;
     QPointF middle() const { return {width() / 2, height() / 2}; }
-    /// The frame as far as the middle of a line may go, so that the pen stays inside.
+    /// The frame inset by half the pen, so that lines along it stay inside.
     QRectF frame() const;
     void setPath(const char *id, const PathText &path);
     void set(const char *id, const char *attribute, const QString &value);
@@ -108,11 +108,11 @@ private:
     QRectF templateRange(int number);
     static Following readFollowing(const QZeSvgNode &point, const QString &axis);
     const Following &followingOf(int number, Qt::Orientation axis);
-    /// False when the drawing has that size already, or can't have it.
+    /// False when the drawing already has that size, or can't have it.
     bool fitTo(const QSizeF &newSize);
     bool isDrawable() const;
     void takeMovedControlPoints();
-    /// Where all points stand, each within the limits that the others leave it.
+    /// Positions all points, each within the limits that the others leave it.
     void settlePoints();
     void placeControlPoint(int index);
     void placeControlPoints();
@@ -121,14 +121,14 @@ private:
 
     bool m_redrawn;
     bool m_isDrawn = true;
-    /// What the template says of each point, by index: along x, along y.
+    /// Rules of the template for each point, by index: along x, along y.
     QVector<std::array<Following, 2>> m_following;
     QVector<Place> m_places;            ///< where the points were put, by index
     QVector<QPointF> m_points;          ///< where they stand
     QMap<int, DraggedPlaces> m_dragged; ///< by index
 };
 
-/// A shape of a type number, which is saved with it and tells who fills it (StyledShape).
+/// A shape with its type number, which is saved with it and decides who fills it (StyledShape).
 template<int Type, Shape::Sizing sizing = Shape::Redrawn> class ShapeOfType : public Shape
 {
 public:
@@ -138,7 +138,7 @@ public:
     }
 };
 
-/// The rectangle between two points that need not be in order; limits that leave no room give the second point's.
+/// The rectangle between two points in any order; limits that leave no room give the second point's.
 QRectF between(QPointF first, QPointF second);
 /// The point of a circle at an angle in degrees, clockwise from the top.
 QPointF onCircle(QPointF centre, double radius, double degrees);

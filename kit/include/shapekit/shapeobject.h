@@ -8,19 +8,19 @@
 
 namespace shapekit {
 
-/// The page object of a shape: everything particular to it is in its shape core.
+/// The page object of a shape; everything specific to the shape is in its core.
 class ShapeObject : public CSVGObj
 {
 public:
-    /// A new object with a core of its own, filled with the colour that the template has.
+    /// A new object with a core of its own, filled with the template's colour.
     explicit ShapeObject(const Kind &kind);
 
     QString kindName() const override { return m_kind.nameKey(); }
-    /// Makes a core unless there is one of that type already. A type that is not this shape's leaves no core.
+    /// Creates a core unless there is already one of that type. A type of another shape leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
     void OnQPainterDraw(QPainter *painter) override;
 
-    /// Null after loading a type that is not this shape's.
+    /// Null after loading the type of another shape.
     StyledShape *core() const { return static_cast<StyledShape *>(svgBase); }
 
 private:

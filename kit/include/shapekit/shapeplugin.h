@@ -6,8 +6,8 @@
 
 namespace shapekit {
 
-/// The plug-in of a shape: it offers the one kind that the shape's source file names. Each shape is built together
-/// with it.
+/// The plug-in of a shape: offers the one kind that the shape's source file defines. It is compiled into each
+/// shape.
 class ShapePlugin : public QObject, public pagehost::ObjectPlugin
 {
     Q_OBJECT

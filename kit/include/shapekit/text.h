@@ -5,20 +5,19 @@
 
 namespace shapekit {
 
-/// Words that the user reads, in the languages that shapes speak. Texts are constants of a shape's source file: the
-/// plug-in hands all of them to the host.
+/// Text shown to the user, in the languages of the shapes. Texts are constants of a shape's source file; the
+/// plug-in passes all of them to the host.
 class Text
 {
 public:
-    /// UTF-8. The English words, put together, make the key: they differ from those of every other text of the
-    /// shape.
+    /// UTF-8. The joined English words form the key: they must be unique within the shape.
     Text(const char *english, const char *german);
     Text(const Text &) = delete;
     Text &operator=(const Text &) = delete;
 
     /// The localisation key, "IDS_SHAPE_<kind>_<english words>".
     QString key() const;
-    /// The English words without what is between them: "Corner count" gives "CornerCount".
+    /// The English words joined without spaces: "Corner count" gives "CornerCount".
     QString name() const;
 
     /// All texts of this plug-in by key; empty for a language other than "en" and "de".

@@ -7,7 +7,7 @@ class QZeSvgStructureNode;
 
 namespace shapekit {
 
-/// What a template says about the look of a node, on the node or on a group that it is in.
+/// Look attributes of a template node, set on the node or on an enclosing group.
 struct NodeLook
 {
     bool keepsFill = false;
@@ -18,7 +18,7 @@ struct NodeLook
 
 using LookVisitor = std::function<void(QZeSvgNode &node, const NodeLook &look)>;
 
-/// Visits all nodes below `root` in document order, groups before what is in them.
+/// Visits all nodes below `root` in document order, groups before their contents.
 void forEachNode(const QZeSvgStructureNode &root, const LookVisitor &visit);
 
 } // namespace shapekit
