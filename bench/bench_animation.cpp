@@ -1,5 +1,5 @@
-// What moves: a tick of one shape, and a page on which a hundred of a thousand shapes move. The peer of a tick
-// draws the same template once with Qt's own SVG module.
+// Animation: a tick of one shape, and a page on which a hundred of a thousand shapes are animated. The peer of a
+// tick draws the same template once with Qt's own SVG module.
 
 #include "pageobjects.h"
 #include "templates.h"
@@ -31,7 +31,7 @@ constexpr int columns = 44;
 constexpr double spacing = 42;
 const QSizeF objectSize(36, 36);
 const QSize window(1920, 1080);
-/// Milliseconds before measuring, and of measuring.
+/// Duration of warm-up and measurement, milliseconds.
 constexpr int warmUp = 1000;
 constexpr int measured = 5000;
 
@@ -52,7 +52,7 @@ QStringList movingKinds()
     return moving;
 }
 
-/// All that the pacemaker of a shape does for a picture, at another moment each time.
+/// The work of a shape's timer for one picture, at a different time in each iteration.
 void tick(benchmark::State &state, const QString &kindId)
 {
     const std::unique_ptr<CBaseObject> object = makeShape(kindId, QSizeF(side, side));
@@ -76,7 +76,7 @@ void tickPeer(benchmark::State &state, const BenchTemplate &source)
     }
 }
 
-/// Counts the paint events of a widget by their moments, in milliseconds.
+/// Records the times of a widget's paint events, in milliseconds.
 class FrameWatch : public QObject
 {
 public:
@@ -92,7 +92,7 @@ public:
         return false;
     }
     void forget() { m_moments.clear(); }
-    /// Between one frame and the next, the shortest first.
+    /// Intervals between frames, the shortest first.
     std::vector<double> intervals() const
     {
         std::vector<double> between;
@@ -134,7 +134,7 @@ void fillPage(pagehost::Page &page, int movingCount)
     }
 }
 
-/// In real time, as an application runs.
+/// Runs in real time, like an application.
 void movingPage(benchmark::State &state, int movingCount)
 {
     pagehost::Document document;

@@ -1,5 +1,5 @@
-// Pages of many shapes saved and opened in both formats. The peers write and read records of the same fields with
-// nothing but QDataStream and QJsonDocument: no objects are asked or made.
+// Saving and opening pages of many shapes in both formats. The peers write and read records of the same fields with
+// QDataStream and QJsonDocument alone, without any objects.
 
 #include "pageobjects.h"
 
@@ -27,10 +27,10 @@ namespace {
 const QSizeF objectSize(32, 32);
 constexpr int columns = 300;
 constexpr double spacing = 40;
-constexpr int largestCount = 100000; ///< measured once: it takes long
+constexpr int largestCount = 100000; ///< measured once because it takes long
 constexpr int pointCount = 3;        ///< control points of a shape, on average
 
-/// What a file holds of a usual shape.
+/// Contents of a file for a typical shape.
 struct Record
 {
     QString kind, name;
@@ -102,7 +102,7 @@ std::unique_ptr<Document> documentOf(int count)
     return document;
 }
 
-/// The document of the last size asked for, since making it takes longer than what is measured.
+/// The document of the last requested size, kept because creating it takes longer than the measured work.
 std::unique_ptr<Document> &sharedDocument(int count)
 {
     static std::unique_ptr<Document> document;
@@ -115,8 +115,8 @@ std::unique_ptr<Document> &sharedDocument(int count)
     return document;
 }
 
-/// The document of that size as a file. It is let go: two documents of the largest size take more memory than small
-/// machines have.
+/// The document of that size as a file. The document itself is released: small machines can't hold two of the
+/// largest size.
 QByteArray fileOf(int count, DocumentFormat format)
 {
     std::unique_ptr<Document> &document = sharedDocument(count);
@@ -137,7 +137,7 @@ double processStatus(const std::string &name)
     return 0;
 }
 
-/// Makes "VmHWM", the most memory that the process had, begin anew.
+/// Resets "VmHWM", the peak memory of the process.
 void forgetPeak()
 {
     std::ofstream("/proc/self/clear_refs") << "5";
@@ -211,7 +211,7 @@ void openStreamPeer(benchmark::State &state, int count)
 
 using Members = QVector<QPair<QString, QJsonValue>>;
 
-/// The members that real shapes write, kind by kind.
+/// The members written by real shapes, one entry per kind.
 QVector<Members> memberLists()
 {
     QVector<Members> lists;

@@ -1,5 +1,5 @@
-// One step of a drag: mouse event in, 256 × 256 picture of the object out. The peer does what an application
-// without control points would: load the text of how the object looks now, and render it.
+// One step of a drag: mouse event in, 256 × 256 picture of the object out. The peer does the work of an application
+// without control points: loads the changed text and renders it.
 
 #include "pageobjects.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int side = 256;
 
-/// A point of the object on one of its control points; a null point when it has none.
+/// A point on one of the object's control points; a null point when it has none.
 QPointF findControlPoint(CBaseObject *object)
 {
     const QRectF rect = object->getClientRect();
@@ -30,7 +30,7 @@ QPointF findControlPoint(CBaseObject *object)
     return {};
 }
 
-/// An object that is being dragged by a control point; `grip` is where it was taken.
+/// An object during a drag of a control point; `grip` is where it was pressed.
 struct Dragged
 {
     std::unique_ptr<CBaseObject> object;

@@ -1,4 +1,4 @@
-// Drawing a document into a 256 × 256 picture: changed since the last time, and unchanged.
+// Drawing a document into a 256 × 256 picture, changed since the last drawing and unchanged.
 
 #include "templates.h"
 
@@ -30,7 +30,7 @@ void drawChanged(benchmark::State &state, const BenchTemplate &source)
     }
 }
 
-/// The peer has no way to change a document: what it draws is what it drew before, all of it again.
+/// The peer can't change a document: it redraws the same one completely.
 void drawPeer(benchmark::State &state, const BenchTemplate &source)
 {
     QSvgRenderer renderer(source.text);

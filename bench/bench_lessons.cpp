@@ -1,5 +1,5 @@
-// A lesson of 10,000 actions replayed as fast as it goes. The peer is the same actions applied to the same objects
-// directly, without a lesson around them.
+// A lesson of 10,000 actions replayed at full speed. The peer applies the same actions to the same objects
+// directly, without a lesson.
 
 #include "pageobjects.h"
 
@@ -35,7 +35,7 @@ struct Action
     QByteArray payload;
 };
 
-/// Moves, sizes, pen colours and fills (recorded as colours) by turns.
+/// Cycles through moves, sizes, pen colours and fills (recorded as colours).
 Action action(int number)
 {
     switch (number % 4) {
@@ -92,7 +92,7 @@ void applyDirectly(benchmark::State &state)
     for (auto _ : state) {
         for (int i = 0; i < actionCount; ++i) {
             const Action step = action(i);
-            // What an object reads for a fill is a brush.
+            // Objects read a fill as a brush.
             const QByteArray read = step.id == fillAction ? payload(QBrush(QColor(40, i % 256, 80))) : step.payload;
             pagehost::replayAction(objects[i % objects.size()], step.id, read);
         }

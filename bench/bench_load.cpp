@@ -1,4 +1,4 @@
-// Loading a template: never seen before, and known.
+// Loading a template, new and known.
 
 #include "templates.h"
 

@@ -1,5 +1,5 @@
-// A page of 10,000 shapes: making it, and repainting a window of it. The peer is an item of Qt's own SVG module
-// with a renderer of its own.
+// Creating a page of 10,000 shapes, and repainting a window of it. The peer is an item of Qt's own SVG module with
+// a renderer of its own.
 
 #include "pageobjects.h"
 #include "templates.h"
@@ -29,7 +29,7 @@ QPointF place(int index)
     return {(index % columns) * spacing, (index / columns) * spacing};
 }
 
-/// The picture caches of that many objects of objectSize, bytes.
+/// Size of the picture caches of that many objects of objectSize, bytes.
 double pictureBytes(int count)
 {
     return count * objectSize.width() * objectSize.height() * 4;
@@ -86,8 +86,7 @@ void createPagePeer(benchmark::State &state)
     }
 }
 
-/// Paints the window once before it measures, so that everybody's caches are as in an application that is being
-/// used.
+/// Paints the window once before measuring, so that all caches are filled as in a running application.
 void repaint(benchmark::State &state, QGraphicsScene *scene)
 {
     QGraphicsView view(scene);
@@ -110,7 +109,7 @@ void repaintWindow(benchmark::State &state)
     repaint(state, scene.get());
 }
 
-/// With the item's picture cache, as Qt's SVG items have it from the start.
+/// With the item's picture cache, the default of Qt's SVG items.
 void repaintWindowPeer(benchmark::State &state)
 {
     std::vector<std::unique_ptr<QSvgRenderer>> renderers;

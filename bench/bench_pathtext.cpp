@@ -1,5 +1,5 @@
 // Numbers in text: the library's scanner beside QString::toDouble (the peer) and std::from_chars, and the writer
-// and the path edits. Speeds are characters per second, whatever a character's size.
+// and the path edits. Speeds are characters per second, independent of the character size.
 
 #include <svgobj/csvgbase.h>
 
@@ -14,7 +14,7 @@ namespace {
 constexpr int numberCount = 20000;
 constexpr unsigned startValue = 42;
 
-/// What a concrete shape is to these operations.
+/// A concrete shape for these operations.
 class Shape : public CSVGBase
 {
 public:
@@ -25,7 +25,7 @@ public:
     int getSVGType() override { return 1; }
 };
 
-/// Numbers as they stand in text, separated by commas.
+/// Typical numbers as text, separated by commas.
 struct NumberTexts
 {
     std::string name;
@@ -132,7 +132,7 @@ QString pathOf(int pieces)
     return QLatin1String("M0,0") + stretchedPiece.repeated(pieces);
 }
 
-/// The floor: the lengths, whose places are known, are read by QString::toDouble and written by QString::number.
+/// Lower bound: reads the lengths at known positions by QString::toDouble and writes them by QString::number.
 void stretchPeer(benchmark::State &state, int pieces)
 {
     const QString path = pathOf(pieces);
@@ -149,7 +149,7 @@ void stretchPeer(benchmark::State &state, int pieces)
     setCharacters(state, path.size());
 }
 
-/// All widths of the path.
+/// Stretches all widths of the path.
 void stretch(benchmark::State &state, int pieces)
 {
     const QString path = pathOf(pieces);

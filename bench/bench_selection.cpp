@@ -1,5 +1,5 @@
-// Selecting all of a page in the board's window, with the panels and the repaint that follow. There is no peer;
-// what counts is that the time for each shape stays the same however many there are.
+// Selecting everything on a page in the board's window, with the update of panels and the repaint. There is no
+// peer; the time per shape must not grow with their number.
 
 #include "pageobjects.h"
 
@@ -29,7 +29,7 @@ constexpr int bandSteps = 20;
 
 void settle()
 {
-    // Work that a turn of the event loop postpones is done in the next ones.
+    // Turns of the event loop may postpone work to the next ones.
     for (int turn = 0; turn < 4; ++turn)
         QCoreApplication::processEvents();
 }
@@ -45,7 +45,7 @@ public:
         m_window = std::make_unique<board::MainWindow>(&m_workspace);
         m_window->resize(1600, 1100);
         m_window->show();
-        // Animated shapes cost their ticks, selected or not.
+        // Ticks of animated shapes take time, selected or not.
         m_window->animation()->setPlaying(false);
         const QStringList kinds = shapeKinds();
         for (int i = 0; i < shapeCount; ++i) {
@@ -96,7 +96,7 @@ void selectAll(benchmark::State &state)
     report(state);
 }
 
-/// Without the repaint: the selection itself and the panel in front.
+/// Without the repaint: the selection and the front panel only.
 void selectAllUnpainted(benchmark::State &state)
 {
     const Board board(int(state.range(0)));

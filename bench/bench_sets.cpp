@@ -1,5 +1,5 @@
-// Sets of documents beside Qt's SVG module: two hundred icons of a public icon set, fetched when this runs, and our
-// own templates. Each figure is about all documents of a set together.
+// Sets of documents, compared with Qt's SVG module: two hundred icons of a public icon set, downloaded when this
+// runs, and our own templates. Each figure covers all documents of a set together.
 
 #include "templates.h"
 
@@ -30,7 +30,7 @@ using Texts = QVector<QByteArray>;
 using Own = std::unique_ptr<QZeSvgTinyDocument>;
 using Peer = std::unique_ptr<QSvgRenderer>;
 
-/// The same text as never before, so that nothing known of it helps.
+/// The text made unique, so that no cache knows it.
 QByteArray fresh(const QByteArray &text)
 {
     static quint64 number = 0;
@@ -104,7 +104,7 @@ template<typename Document> void drawFirst(benchmark::State &state, const Texts 
     }
 }
 
-/// One document after the other, so that what is kept of drawings is kept for each in its turn.
+/// Draws one document after the other, so that caches serve each in turn.
 template<typename Document> void drawAgain(benchmark::State &state, const Texts &texts)
 {
     const std::vector<Document> documents = loadedAll<Document>(texts);
@@ -123,7 +123,7 @@ template<typename Document> void drawAgain(benchmark::State &state, const Texts 
     }
 }
 
-/// The first drawn child gets another colour.
+/// Changes the colour of the first drawn child.
 void changeAndDraw(benchmark::State &state, const Texts &texts)
 {
     const std::vector<Own> documents = loadedAll<Own>(texts);
@@ -140,7 +140,7 @@ void changeAndDraw(benchmark::State &state, const Texts &texts)
     }
 }
 
-/// There a change means another text.
+/// The peer needs a new text for a change.
 void changeAndDrawPeer(benchmark::State &state, const Texts &texts)
 {
     QImage image = canvas(smallSide);
@@ -162,7 +162,7 @@ template<typename Document> void memory(benchmark::State &state, const Texts &te
     }
 }
 
-/// Every so manieth file of the set, so that all letters of the alphabet come up.
+/// Picks files at equal distances, to cover the whole alphabet.
 Texts readIcons(const QString &folder)
 {
     const QFileInfoList files = QDir(folder).entryInfoList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);

@@ -1,4 +1,4 @@
-// Painting from another thread: a copy of the finished picture, beside drawing that picture.
+// Painting from another thread, which copies the finished picture, compared with drawing that picture.
 
 #include "pageobjects.h"
 

@@ -11,7 +11,7 @@ namespace pagehost {
 class ObjectRegistry;
 }
 
-/// The shape plug-ins.
+/// Registry of the shape plug-ins.
 const pagehost::ObjectRegistry &shapeRegistry();
 /// The kinds of object that the shape plug-ins offer.
 QStringList shapeKinds();
@@ -19,5 +19,5 @@ QStringList shapeKinds();
 std::unique_ptr<CBaseObject> makeShape(const QString &kindId, QSizeF size);
 /// Delivers a mouse event of that type with the given item position to the object.
 void sendMouse(CBaseObject *object, int eventType, QPointF pos);
-/// The template's file name of a kind ("shapes.flask" is "flask").
+/// The name of a kind's template ("flask" for "shapes.flask").
 QString templateName(const QString &kindId);

@@ -8,7 +8,7 @@
 namespace {
 
 const std::string peer = "peer";
-/// Benchmarks that measure memory set this counter; it is then what is compared.
+/// Set by benchmarks of memory; compared instead of the time.
 const std::string bytesCounter = "bytes";
 
 double figureOf(const benchmark::BenchmarkReporter::Run &run)

@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
-/// Prints the usual table, then ratios: benchmarks are named "figure/who/case", and for each figure the CPU time of
-/// everybody is set against the one called "peer" in the same case. The geometric mean over the cases is the
-/// figure.
+/// Prints the usual table, then ratios: benchmarks are named "figure/who/case", and each CPU time is divided by
+/// that of "peer" for the same figure and case. A figure's ratio is the geometric mean over its cases.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:

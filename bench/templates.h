@@ -17,5 +17,5 @@ const QVector<BenchTemplate> &benchTemplates();
 /// The template of that name; null when there is none.
 const BenchTemplate *findTemplate(const QString &name);
 
-/// The text made unlike any before it, as a template that was never seen: a comment is added at its end.
+/// The text made unique by a comment at its end, like a new template.
 QByteArray neverSeen(const BenchTemplate &source);

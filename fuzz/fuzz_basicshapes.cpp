@@ -1,4 +1,4 @@
-// Shapes of "clip-path" and lists of filter functions: what is accepted can be built on any box.
+// Shapes of "clip-path" and lists of filter functions: every accepted one can be built on any box.
 
 #include "grammarinput.h"
 

@@ -1,4 +1,4 @@
-// Data URIs, and what images are made of them.
+// Data URIs, and the images decoded from them.
 
 #include "grammarinput.h"
 

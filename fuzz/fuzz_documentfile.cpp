@@ -1,6 +1,6 @@
-// Opens bytes as a document of either format, saves what was read in both and opens that again, which must give the
-// same without any text being searched for its parts once more. The kinds of object are plain ones of the host, so
-// that what is searched is the reading itself.
+// Opens bytes as a document of either format, saves the result in both and opens that again, which must give the
+// same document without salvaging. Uses plain objects of the host, so that the fuzzer explores the readers
+// themselves.
 
 #include <framework/cbaseobject.h>
 
@@ -52,7 +52,7 @@ const ObjectRegistry &registry()
     return *made;
 }
 
-/// How many objects each page has, and behind them the number of lessons.
+/// The number of objects on each page, followed by the number of lessons.
 QVector<int> partsOf(const Document &document)
 {
     QVector<int> counts;

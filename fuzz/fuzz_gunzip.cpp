@@ -1,4 +1,4 @@
-// Compressed bytes: what comes out is bounded, whatever the input says of its size.
+// Compressed bytes: the output is bounded, whatever size the input claims.
 
 #include "grammarinput.h"
 

@@ -1,4 +1,4 @@
-// Lengths, view boxes and fits: user units stay within the range of coordinates.
+// Lengths, view boxes and aspect ratios: user units stay within the range of coordinates.
 
 #include "grammarinput.h"
 

@@ -1,4 +1,4 @@
-// Numbers and lists of them: what was read is written and reads back as the same.
+// Numbers and lists of them: writing and rereading gives the same numbers.
 
 #include "grammarinput.h"
 

@@ -1,4 +1,4 @@
-// Path data and points: coordinates stay in range, errors stand inside the text.
+// Path data and points: coordinates stay in range, positions of errors lie within the text.
 
 #include "grammarinput.h"
 

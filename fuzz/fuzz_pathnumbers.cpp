@@ -1,4 +1,4 @@
-// Reads a text as numbers, one by one and as a list, and holds everything against the literal implementation.
+// Reads a text as numbers, one by one and as a list, and compares all results with the literal implementation.
 
 #include "pathtextinput.h"
 

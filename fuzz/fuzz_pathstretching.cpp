@@ -1,5 +1,5 @@
-// Edits a text as a path and holds everything against the literal implementation. The first three bytes choose by
-// how much the path grows and where the edits start.
+// Edits a text as a path and compares all results with the literal implementation. The first three bytes choose the
+// growth of the path and the start of the edits.
 
 #include "pathtextinput.h"
 

@@ -1,4 +1,4 @@
-// Whatever the plain reader of XML accepts, it reads as Qt's reader does.
+// The plain XML reader reads every text that it accepts as Qt's reader does.
 
 #include "grammarinput.h"
 

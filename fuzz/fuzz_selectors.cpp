@@ -1,4 +1,4 @@
-// Selectors, held against the elements of a small tree: the ancestors' names never rule out what matches.
+// Selectors, matched against the elements of a small tree: the filter by ancestors' names never rejects a match.
 
 #include "grammarinput.h"
 

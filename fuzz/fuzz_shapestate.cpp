@@ -1,6 +1,6 @@
-// What a shape reads of a file, a lesson or a panel: its stream and its page object's, JSON, recorded actions and
-// property values. The first byte chooses which. Afterwards the shape is changed, undone, painted into nothing and
-// saved.
+// Data that a shape reads from a file, a lesson or a panel: its stream and its page object's, JSON, recorded
+// actions and property values. The first byte chooses the kind. Afterwards the shape is changed, undone, painted
+// and saved.
 
 #include <support/shapefixture.h>
 #include <support/streams.h>

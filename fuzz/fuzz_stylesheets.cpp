@@ -1,4 +1,4 @@
-// Style sheets, selectors and style attributes: problems stand inside the text.
+// Style sheets, selectors and style attributes: positions of problems lie within the text.
 
 #include "grammarinput.h"
 

@@ -18,7 +18,7 @@ void draw(QZeSvgTinyDocument &document, const QSize &size)
     document.draw(&painter, QRectF(QPointF(), QSizeF(size)), 1, true);
 }
 
-/// What the bytes at the end of the text say, so that a corpus can reach every operation.
+/// Applies the changes encoded in the bytes at the end of the text, so that a corpus can reach every operation.
 void change(QZeSvgTinyDocument &document, const QByteArray &script)
 {
     static const char *const attributes[] = {"x",    "width", "rx",     "d",    "transform",

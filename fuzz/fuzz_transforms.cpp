@@ -1,4 +1,4 @@
-// Lists of transforms, as attributes and as style sheets write them.
+// Lists of transforms, in the syntax of attributes and of style sheets.
 
 #include "grammarinput.h"
 

@@ -11,7 +11,7 @@ inline QString fuzzedText(const unsigned char *data, size_t size)
     return QString::fromUtf8(reinterpret_cast<const char *>(data), int(size));
 }
 
-/// Stops the run when a promise of a grammar is broken.
+/// Aborts the run when a grammar breaks a promise.
 inline void require(bool kept, const char *promise)
 {
     if (kept)

@@ -11,7 +11,7 @@ SpeechBubble::SpeechBubble(CSVGObj *owner)
     propPenStyleEnabled = true;
     propPenWidthEnabled = true;
     propFillEnabled = true;
-    controlPointSize /= zoomRate; // pixels so far; later changes of the zoom are followed
+    controlPointSize /= zoomRate; // in pixels up to here; later changes of the zoom are followed
 }
 
 QString SpeechBubble::getSVG()
@@ -23,7 +23,7 @@ QString SpeechBubble::getSVG()
 bool SpeechBubble::loadSVG(bool initGlobals)
 {
     const bool loaded = CSVGBase::loadSVG(initGlobals);
-    // The user's fill is for the bubble; the dots keep their own.
+    // The user's fill applies to the bubble; the dots keep their own.
     for (const char *id : {"dot_1", "dot_2", "dot_3"})
         document->namedNode(QLatin1String(id))->setFillEnabled(false);
     return loaded;

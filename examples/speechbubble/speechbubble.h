@@ -2,7 +2,7 @@
 
 #include <svgobj/csvgbase.h>
 
-/// A bubble whose tip the user drags to who is speaking, or thinking.
+/// A bubble whose tip the user drags to the person who is speaking, or thinking.
 class SpeechBubble : public CSVGBase
 {
 public:

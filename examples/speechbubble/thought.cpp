@@ -1,5 +1,5 @@
-// What the bubble's own property takes: the item that panels show, its value for panels, undo and playback, and its
-// place in both saved forms.
+// The bubble's own property: the item shown by panels, its value for panels, undo and playback, and its place in
+// both saved formats.
 
 #include "speechbubble.h"
 

@@ -1,4 +1,4 @@
-// What moves takes: the host asks for the property AnimationRuns and sets it for what is to be seen.
+// Animation of the bubble: the host reads the property AnimationRuns and sets it for visible objects.
 
 #include "speechbubble.h"
 
@@ -26,7 +26,7 @@ bool SpeechBubble::SetSpecialProperty(int propId, QDataStream &in, bool record)
         return true;
     if (on) {
         startAnimate();
-        // A start that is not the first leaves the document's clock stopped.
+        // A restart leaves the document's clock stopped.
         document->startAnimate();
         return true;
     }

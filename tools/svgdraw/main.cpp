@@ -1,4 +1,4 @@
-// Draws an SVG file into a PNG file, as people and tests want to see it.
+// Draws an SVG file into a PNG file, for people and tests.
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -25,8 +25,7 @@ enum ExitCode {
 };
 
 constexpr int longestSide = 32767;
-/// Bytes of a file. The library takes no longer text; what never ends must not fill the memory before it can say
-/// so.
+/// Bytes of a file. The library accepts no longer text; an endless input must not fill the memory first.
 constexpr int mostBytes = 16 * 1024 * 1024;
 constexpr double millisecondsPerSecond = 1000;
 
@@ -41,7 +40,7 @@ struct Request
     std::optional<double> time;
 };
 
-// Only messages about the document are of interest, not what Qt notices about its surroundings.
+// Suppresses Qt's messages about its environment; only those about the document are of interest.
 void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
@@ -63,7 +62,7 @@ void print(const QString &file, const Messages &messages)
     }
 }
 
-/// Null when there is not enough memory.
+/// Null when out of memory.
 QImage picture(QZeSvgTinyDocument &document, const QSize &size)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -75,7 +74,7 @@ QImage picture(QZeSvgTinyDocument &document, const QSize &size)
     return image;
 }
 
-/// At most one byte more than the library takes. A pipe gives what it has piece by piece.
+/// Reads at most one byte more than the library accepts. A pipe delivers its contents piece by piece.
 QByteArray contents(QFile &file)
 {
     QByteArray bytes;
@@ -88,7 +87,7 @@ QByteArray contents(QFile &file)
     return bytes;
 }
 
-/// Empty when all of it was taken.
+/// Empty when everything was written.
 QString problemOfWriting(QFileDevice &file, const QByteArray &bytes)
 {
     if (!file.open(QIODevice::WriteOnly))
@@ -97,7 +96,7 @@ QString problemOfWriting(QFileDevice &file, const QByteArray &bytes)
     return taken ? QString() : QStringLiteral("not all of it was taken; is the disk full?");
 }
 
-/// The whole picture, else a message and what was there before. Devices and pipes can only be written as they are.
+/// Writes the whole picture, or prints a message and leaves the old file. Devices and pipes are written in place.
 int write(const QImage &picture, const QString &path)
 {
     QByteArray bytes;
@@ -153,7 +152,7 @@ void describe(QCommandLineParser *parser)
         "PNG of the given size.\n\nMessages go to the standard error output, one per line, as "
         "file:line:column: severity: text.\n\nExit code: 0 drawn, 2 the file was refused, 1 wrong "
         "arguments or a file that can't be read or written."));
-    // What follows the file may begin with a minus: a time does.
+    // Arguments after the file may begin with a minus, as a time does.
     parser->setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     parser->addHelpOption();
     parser->addVersionOption();
@@ -172,7 +171,7 @@ void describe(QCommandLineParser *parser)
 
 int main(int argc, char **argv)
 {
-    // Pictures need fonts but no display.
+    // Drawing needs fonts but no display.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(keepQuiet);
