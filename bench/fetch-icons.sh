@@ -1,6 +1,6 @@
 #!/bin/sh
 # fetch-icons.sh FOLDER: puts the files of an icon set (MIT licence) into FOLDER/package/icons, with npm, unless they
-# are there. They are measured only; nothing of them becomes part of the project.
+# exist. They are only measured; none becomes part of the project.
 set -eu
 name=bootstrap-icons
 version=1.11.3

@@ -1,4 +1,4 @@
-# Settings that every target of the project shares.
+# Settings shared by all targets of the project.
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Kind of build" FORCE)
@@ -15,7 +15,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# One place for everything that runs or is loaded at run time, so that the board finds its plug-ins in the build tree.
+# All programs and libraries in one place, so that the board finds its plug-ins in the build tree.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(GLIOLOLOK_PLUGIN_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/gliololok/shapes")
@@ -26,7 +26,7 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    # Paths relative to the source tree let builds of different names share what they have in common.
+    # Paths relative to the source tree let builds of different names share objects.
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
                                     "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" "${CCACHE_PROGRAM}")
 endif()

@@ -1,5 +1,5 @@
-# What `cmake --install` gives: headers, the CMake package and the pkg-config file. Targets install themselves where
-# they are defined, into the export set "gliololok".
+# Rules of `cmake --install` for headers, the CMake package and the pkg-config file. Targets have their own rules where
+# they are defined, in the export set "gliololok".
 
 include(CMakePackageConfigHelpers)
 
@@ -15,7 +15,7 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
         DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
 install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
 
-# The file finds its prefix from where it lies, so that an installation can be moved.
+# The file derives its prefix from its own location, so that an installation can be moved.
 if(GLIOLOLOK_REFERENCE_HOST)
     set(GLIOLOLOK_PC_HOST_LIBRARIES "-lframework -lsvgbase")
 endif()

@@ -1,4 +1,4 @@
-# Functions that run and test share. Sourced by bash with the repository root in $root.
+# Functions shared by run, test and the scripts. Sourced by bash with the repository root in $root.
 
 jobs=$(nproc)
 
@@ -21,7 +21,7 @@ is_installed() {
     [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# as_root COMMAND...: runs it directly for root, through sudo for anybody else.
+# as_root COMMAND...: runs it directly as root, through sudo for other users.
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
@@ -30,10 +30,10 @@ as_root() {
     fi
 }
 
-# install_packages GROUP...: installs what is missing of these groups, and says so.
+# install_packages GROUP...: installs the missing packages of these groups, and lists them.
 install_packages() {
     if ! command -v apt-get >/dev/null; then
-        say "This is no Debian system: nothing is installed. Needed are: $(packages_of "$@" | tr '\n' ' ')"
+        say "This is not a Debian system: nothing is installed. Required packages: $(packages_of "$@" | tr '\n' ' ')"
         return
     fi
     local package missing=()
@@ -44,14 +44,14 @@ install_packages() {
 
     say "Installing ${missing[*]}"
     if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
-        fail "Neither root nor sudo. Please have these installed: apt-get install ${missing[*]}"
+        fail "Neither root nor sudo. Ask an administrator for: apt-get install ${missing[*]}"
     fi
     as_root apt-get update -q || fail "apt-get update failed."
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" ||
         fail "apt-get could not install the packages."
 }
 
-# prepare COMMAND: installs and builds what a command needs. Packages, preset and targets of each are decided here alone.
+# prepare COMMAND: installs and builds the requirements of a command. Packages, preset and targets of each are decided here alone.
 prepare() {
     case $1 in
     run)
@@ -74,7 +74,7 @@ prepare() {
         install_packages build test fuzz
         build fuzz fuzzers
         ;;
-    *) fail "Nothing is known about what '$1' needs." ;;
+    *) fail "No requirements are known for '$1'." ;;
     esac
 }
 

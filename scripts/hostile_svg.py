@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Draws documents that were made to be slow or large, and tells what each took.
+"""Draws documents designed to be slow or large, and reports the cost of each.
 
     scripts/hostile_svg.py SVGDRAW [--only PATTERN] [--divide N] [--keep FOLDER] [--check]
 
 Prints CPU seconds, memory and the exit code of svgdraw for each document, at 256 or with `--side 4096` at 4096 pixels
-a side, and marks what takes more than the library's aim for any input in a release build: 2 s and 512 MiB at 256, 10 s
+a side, and marks documents above the library's aim for any input in a release build: 2 s and 512 MiB at 256, 10 s
 and 1.5 GiB at 4096. `--divide` makes the documents smaller by that factor, for builds with sanitizers. `--check` fails
-when a document ends in a crash, is refused or drawn against expectation, or takes more memory than the aim; seconds
-are never judged, since machines differ.
+when a document crashes, is refused or drawn against expectation, or takes more memory than the aim; time is never
+judged, since machines differ.
 """
 
 import argparse
@@ -27,7 +27,7 @@ SECONDS_UNTIL_KILLED = 20
 
 
 def measured(svgdraw, path, picture, side):
-    """Exit code (negative for a signal), CPU seconds and MiB of drawing one file, at a moment of its animation."""
+    """Exit code (negative for a signal), CPU seconds and MiB of drawing one file, one second into its animation."""
     arguments = [svgdraw, path, picture, str(side), str(side), "1000"]
     process = subprocess.Popen(arguments, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
                                preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_CPU, (SECONDS_UNTIL_KILLED,) * 2))

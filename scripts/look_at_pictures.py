@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Looks at exported pages: every PNG in a folder decodes, is as large as a page, and shows a drawing rather than one colour.
+"""Checks exported pages: every PNG in a folder decodes, is as large as a page, and shows a drawing rather than one colour.
 
 Usage: look_at_pictures.py FOLDER
 
@@ -17,7 +17,7 @@ CHANNELS = {0: 1, 2: 3, 4: 2, 6: 4}  # by PNG colour type, ISO 15948, 11.2.2
 SMALLEST_SIDE = 300  # pixels
 FEWEST_PICTURES = 2
 FEWEST_COLOURS = 16
-SMALLEST_DRAWING = 0.005  # share of the pixels that do not have the commonest colour
+SMALLEST_DRAWING = 0.005  # share of the pixels that differ from the most common colour
 
 
 class BadPicture(Exception):
@@ -49,7 +49,7 @@ def paeth(left, above, corner):
 
 
 def unfilter(kind, line, above, step):
-    """A scan line without its filter (ISO 15948, 9.2)."""
+    """A scan line with its filter undone (ISO 15948, 9.2)."""
     line = bytearray(line)
     for i, value in enumerate(line):
         left = line[i - step] if i >= step else 0

@@ -19,7 +19,7 @@ ROOT = os.path.abspath(os.path.join(os.path.dirname(os.path.abspath(__file__)), 
 REVIEWED = os.path.join(ROOT, "docs", "abi.txt")
 CLASSES = ["CSVGBase", "CSVGObj", "CSVGBaseUndoCmd", "CSVGAnimate"]
 HEADERS = ["csvgobj", "csvgbase", "csvgpropitem", "csvgbaseundocmd", "csvganimate"]
-# Weak symbols are copies of inline code, which every user of the headers has too.
+# Weak symbols are copies of inline code, which users of the headers compile themselves.
 WEAK_KINDS = set("WwVvu")
 LINKER_SYMBOLS = {"__bss_start", "_edata", "_end", "_init", "_fini"}
 NOTE = "# Written by scripts/surface.py update BUILD-DIRECTORY; see there.\n"
@@ -39,7 +39,7 @@ def exported_symbols(library):
 
 
 def class_dump():
-    """What the compiler says about the layout of the classes."""
+    """The compiler's dump of the class layouts."""
     flags = output_of("pkg-config", "--cflags", "Qt5Widgets").split()
     includes = ["-I" + os.path.join(ROOT, "include"), "-I" + os.path.join(ROOT, "src", "host")]
     source = "".join(f"#include <svgobj/{header}.h>\n" for header in HEADERS)

@@ -1,1 +1,1 @@
-"""Documents that were made to be slow or large."""
+"""Documents designed to be slow or large."""

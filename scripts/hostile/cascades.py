@@ -7,7 +7,7 @@ RECT = '<rect width="9" height="9"/>'
 
 @document
 def selectors_of_long_strings(n):
-    """What is looked for is nearly everywhere."""
+    """The searched word is nearly everywhere."""
     size = 400000 // n
     rule = "".join(f'[data-x*="b{"a" * (size // 2)}"{flag}]{{fill:red}}' for flag in ("", " i"))
     return svg(f'<style>{rule}</style><g data-x="{"a" * size}">{RECT * 50}</g>')
@@ -21,7 +21,7 @@ def selectors_of_long_strings_above(n):
 
 @document
 def selectors_of_words(n):
-    """Words that only begin like the one that is looked for."""
+    """Words that share only the beginning of the searched one."""
     words = ("a" * 2000 + " ") * (1000 // n)
     rule = "".join(f'[data-x~="{"a" * 1999}{i}" i]{{fill:red}}' for i in range(200))
     return svg(f'<style>{rule}</style>' + f'<g data-x="{words}">{RECT * 50}</g>')
@@ -106,7 +106,7 @@ def selectors_counting_back(n):
 
 @document
 def selectors_only_texts(n):
-    """Runs of characters stand between all elements."""
+    """Text between all elements."""
     return svg("<style>rect + rect ~ circle{fill:red}</style>" + f"{RECT} x" * (90000 // n))
 
 
@@ -161,7 +161,7 @@ def variables_fallbacks(n):
 
 @document
 def values_long_of_each(n):
-    """A long value with an error in every declaration, of every element that the rule is for."""
+    """A long value with an error in every declaration, for every matching element."""
     value = "min(" + "1px," * 1000 + "1px)"
     return svg(f"<style>rect{{stroke-width:{value};x:{value};y:{value};width:{value}}}</style>" +
                '<rect height="9"/>' * (50000 // n))
@@ -228,7 +228,7 @@ def ids_long(n):
 
 @document
 def ids_that_collide(n):
-    """Names that differ at their ends alone."""
+    """Names that differ only at their ends."""
     name = "a" * 50
     return svg("".join(f'<rect id="{name}{i}" class="{name}{i}" width="9" height="9"/>' for i in range(50000 // n)) +
                "<style>" + "".join(f".{name}{i}{{fill:red}}" for i in range(20000 // n)) + "</style>")
@@ -236,7 +236,7 @@ def ids_that_collide(n):
 
 @document
 def sheet_escaped_quotes(n):
-    """Strings that do not end, and quotes that end none."""
+    """Unterminated strings, and closing quotes without a string."""
     return svg("<style>rect{fill:" + "\\'" * (700000 // n) + "}" + "g{x:'" + "\\'" * (700000 // n) + f"}}</style>{RECT}")
 
 
@@ -281,7 +281,7 @@ def selectors_universal_many(n):
 
 @document
 def variables_copied(n):
-    """Each element would hold the long value that it refers to many times."""
+    """Each element would contain the long value that it refers to many times."""
     declared = ";".join(f"--b{i}:var(--a)" for i in range(20))
     return svg(f'<g style="--a:{"x" * 4000}">' + "".join(f'<rect width="9" height="9" style="{declared};--c:{i}"/>'
                                                         for i in range(40000 // n)) + "</g>")

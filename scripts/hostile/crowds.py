@@ -1,4 +1,4 @@
-"""Documents with very many of one thing, each a little different, or one thing out of all proportion."""
+"""Documents with very many similar elements, or with one element of extreme size."""
 
 import base64
 import gzip
@@ -63,7 +63,7 @@ def classes_many(n):
 
 @document
 def variables_inherited(n):
-    """Every element declares one more than the many that it inherits."""
+    """Every element adds one custom property to the many that it inherits."""
     many = ";".join(f"--a{i}:{i}" for i in range(9000))
     return svg(f'<g style="{many}">' + "".join(f'<rect width="9" height="9" style="--b:{i};fill:var(--b)"/>'
                                                for i in range(100000 // n)) + "</g>")
@@ -147,7 +147,7 @@ def gzip_bombs_in_filters(n):
 
 @document
 def documents_differ(n):
-    """Documents in images, none like another."""
+    """Documents in images, all different."""
     def inner(i):
         text = svg(f"<style>rect{{fill:#{i:06x}}}</style>" + '<g stroke="red">' + RECT * 90 + "</g>")
         return base64.b64encode(text.encode()).decode()

@@ -1,4 +1,4 @@
-"""How hostile documents are made: a function each, registered under its name."""
+"""Tools for hostile documents: a function makes each, registered under its name."""
 
 import base64
 import struct

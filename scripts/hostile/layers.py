@@ -1,4 +1,4 @@
-"""Hostile clip paths, masks, filters, patterns and texts that are expensive to paint, and what repeats them."""
+"""Hostile clip paths, masks, filters, patterns and texts that are expensive to paint, and repetitions of them."""
 
 from hostile.document import data_uri, document, png, svg
 
@@ -62,7 +62,7 @@ def shape_of_crossing_curves(n):
 
 @document
 def shapes_of_crossing_edges_small(n):
-    """Many outlines, dense each."""
+    """Many outlines, each dense."""
     data = "M0 0" + "".join(f"L{10 * (i % 2)} {(i * 37) % 11}" for i in range(300 // n))
     return svg(f'<path id="p" d="{data}"/>' + '<use href="#p"/>' * 3000)
 
@@ -81,7 +81,7 @@ def letters_many(n):
 
 @document
 def letters_large(n):
-    """Most of each letter is seen."""
+    """Most of each letter is visible."""
     return svg("".join(f'<text x="{i % 50}" y="90" font-size="100">@</text>' for i in range(95000 // n)))
 
 
@@ -157,7 +157,7 @@ def documents_whole(n):
 
 @document
 def filter_images_doubling(n):
-    """Pictures in pictures, two of each."""
+    """Nested pictures, two of each."""
     levels = "".join(f'<filter id="f{i}" {WHOLE}><feImage href="#a{i - 1}" result="x"/><feImage href="#a{i - 1}"/>'
                      f'<feMerge><feMergeNode/><feMergeNode in="x"/></feMerge></filter>'
                      f'<rect id="a{i}" width="100" height="100" filter="url(#f{i})"/>' for i in range(1, 17))
@@ -289,7 +289,7 @@ def filters_of_long_lists(n):
 
 @document
 def filters_of_nothing(n):
-    """Each measures the group that it stands on."""
+    """Each filter measures its group."""
     return svg('<filter id="f"/>' + '<g filter="url(#f)">' * 300 + RECT * (90000 // n) + "</g>" * 300)
 
 

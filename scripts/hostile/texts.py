@@ -184,7 +184,7 @@ def text_font_faces(n):
 
 @document
 def text_font_kerning_of_equal_names(n):
-    """Pairs that are there already."""
+    """Pairs that exist already."""
     names = ",".join(["a"] * (7000 // n))
     return svg(font(f'<glyph unicode="a" glyph-name="a" d="M0 0H9V9"/><hkern g1="{names}" g2="{names}" k="1"/>') +
                '<text y="50" font-family="F">aaa</text>')
@@ -207,7 +207,7 @@ def text_font_kerning_ranges(n):
 
 @document
 def text_fonts_of_kerning(n):
-    """As many pairs as there may be, in each of as many fonts as there may be."""
+    """The maximum of pairs in each of the maximum of fonts."""
     names = ",".join(f"n{i}" for i in range(223))
     one = f'<glyph unicode="a" d="M0 0H9V9"/><hkern g1="{names}" g2="{names}" k="1"/>' \
           f'<vkern g1="{names}" g2="{names}" k="1"/>'
@@ -217,7 +217,7 @@ def text_fonts_of_kerning(n):
 
 @document
 def text_font_ligatures(n):
-    """Glyphs that begin alike, tried at every letter."""
+    """Glyphs with common beginnings, tried at every letter."""
     glyphs = "".join(f'<glyph unicode="{"a" * 63}{chr(0x4e00 + i)}" d="M0 0H9V9"/>' for i in range(128))
     return svg(font(glyphs) + f'<text y="50" font-family="F">{"a" * (90000 // n)}</text>')
 
@@ -254,7 +254,7 @@ def text_alternate_glyphs(n):
 
 @document
 def text_fonts_asked_often(n):
-    """The family is found last, for every part of the text."""
+    """The matching family comes last, for every part of the text."""
     fonts = "".join(font('<glyph unicode="a" d="M0 0H9V9"/>').replace('"F"', f'"G{i}"') for i in range(100))
     families = ",".join(f"H{i}" for i in range(30)) + ",G99"
     return svg(fonts + f'<text y="50" font-family="{families}">' + "<tspan>a</tspan>" * (60000 // n) + "</text>")
