@@ -16,7 +16,7 @@ constexpr int displayListBytes = 32 * 1024 * 1024;
 constexpr int depth = 512;
 /// Most elements of a document, whether drawn or not.
 constexpr int elements = 200000;
-/// Most attributes of one element; Qt's reader compares each with all others.
+/// Most attributes of one element, and most of them that are animated; Qt's reader compares each with all others.
 constexpr int attributes = 256;
 /// Most characters of all attributes of a document, those that its document type gives elements included; each
 /// attribute counts some more, for the memory that it takes.
@@ -43,7 +43,7 @@ constexpr int customPropertyCharacters = 16;
 constexpr int substitutedCharacters = 20000000;
 constexpr int leastSubstitutedCharacters = 200;
 /// Steps that finding the rules of all elements of a document may take, and those that each element has at least.
-constexpr int selectorSteps = 20000000;
+constexpr int selectorSteps = 15000000;
 constexpr int leastSelectorSteps = 200;
 /// Most stops of one gradient; a painter tells no more apart.
 constexpr int gradientStops = 1000;
@@ -135,7 +135,7 @@ constexpr int keptElements = 500000;
 constexpr int textRunElements = 200000;
 /// Most work that one drawing does on elements of outlines, about in nanoseconds, and, for what grows with its
 /// size, as much more for every pixel of its target; what comes when it is used up is not painted.
-constexpr double paintedWork = 1e9;
+constexpr double paintedWork = 9e8;
 constexpr double paintedWorkPerPixel = 400;
 /// Additional share of that, and of the pixels painted aside, for tiles of patterns.
 constexpr double shareOfTiles = 0.25;

@@ -5,6 +5,7 @@
 #include "inputlimits.h"
 #include "style/cascade.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QMap>
 
 #include <algorithm>
@@ -43,6 +44,7 @@ public:
 private:
     void readElement(NodeIndex index);
     NodeIndex targetOf(NodeIndex index) const;
+    bool hasRoomFor(NodeIndex target, const QString &name);
     AnimatedAttribute &attributeOf(NodeIndex target, const QString &name, const ValueContext &context);
     ValueContext contextOf(NodeIndex target, const QString &name) const;
     QString baseOf(NodeIndex target, const QString &name) const;
@@ -57,6 +59,8 @@ private:
     AnimationModel m_model;
     int m_motionRoom = Limits::motionElements;
     QMap<std::pair<NodeIndex, QString>, AnimatedAttribute> m_attributes;
+    /// How many of them each element has.
+    QHash<NodeIndex, int> m_attributeCounts;
 };
 
 NodeIndex ModelReader::targetOf(NodeIndex index) const
@@ -116,10 +120,19 @@ bool ModelReader::baseFollowsColor(NodeIndex target, AttributeId id) const
            (id == AttributeId::Stroke && style.stroke.followsColor);
 }
 
+bool ModelReader::hasRoomFor(NodeIndex target, const QString &name)
+{
+    if (m_attributes.contains({target, name}) || m_attributeCounts.value(target) < Limits::attributes)
+        return true;
+    m_model.lacksAttributes = true;
+    return false;
+}
+
 AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &name, const ValueContext &context)
 {
     AnimatedAttribute &attribute = m_attributes[{target, name}];
     if (attribute.target == noNode) {
+        ++m_attributeCounts[target];
         attribute.target = target;
         attribute.name = name;
         attribute.id = attributeId(name);
@@ -140,16 +153,17 @@ void ModelReader::readTransform(NodeIndex index, NodeIndex target)
     QString name = attributes.value(QStringLiteral("attributeName")).trimmed();
     if (name.isEmpty())
         name = transformName;
-    if (effect && name.endsWith(transformName, Qt::CaseInsensitive))
+    if (effect && name.endsWith(transformName, Qt::CaseInsensitive) && hasRoomFor(target, name))
         attributeOf(target, name, context)
             .animations.append({m_model.timeline.size(), effect, std::nullopt, index});
 }
 
 void ModelReader::readMotion(NodeIndex index, NodeIndex target)
 {
-    const std::optional<Motion> motion = Motion::read(m_tree, index, lengthsOf(*m_facts(target)), &m_motionRoom);
+    const std::optional<Motion> motion =
+        Motion::read(m_tree, index, lengthsOf(*m_facts(target)), m_facts, &m_motionRoom);
     m_model.lacksMotions = m_model.lacksMotions || m_motionRoom < 0;
-    if (!motion)
+    if (!motion || !hasRoomFor(target, transformName))
         return;
     const ValueContext context = transformContext(QString());
     attributeOf(target, transformName, context)
@@ -167,7 +181,7 @@ void ModelReader::readPlain(NodeIndex index, NodeIndex target)
 {
     const Node &node = m_tree.node(index);
     const QString name = node.attributes.value(QStringLiteral("attributeName")).trimmed();
-    if (!isAnimatable(name))
+    if (!isAnimatable(name) || !hasRoomFor(target, name))
         return;
     const ValueContext context = contextOf(target, name);
     const std::optional<Effect> effect = readEffect(node, context);

@@ -2,12 +2,7 @@
 
 #include "animation/sandwich.h"
 
-#include <functional>
-
 namespace Svg {
-
-/// Gives the facts of a node without animation.
-using FactsOfNode = std::function<FactsPointer(NodeIndex)>;
 
 /// All animation of a document, read from its elements.
 struct AnimationModel
@@ -17,6 +12,8 @@ struct AnimationModel
     QVector<AnimatedAttribute> attributes;
     /// Whether motions were left out because their paths are too long together.
     bool lacksMotions = false;
+    /// Whether attributes of an element were left out because too many of them are animated.
+    bool lacksAttributes = false;
 };
 
 /// Reads what an attribute's animations say anew, where "currentColor" is another colour than before. Whether it

@@ -5,7 +5,6 @@
 #include "grammar/pathdata.h"
 #include "inputlimits.h"
 #include "resolve/geometry.h"
-#include "style/cascade.h"
 
 namespace Svg {
 
@@ -26,7 +25,8 @@ NodeIndex motionPathOf(const Tree &tree, NodeIndex animation)
     return child;
 }
 
-QPainterPath referredPath(const Tree &tree, NodeIndex motionPath, const LengthContext &lengths)
+QPainterPath referredPath(const Tree &tree, NodeIndex motionPath, const LengthContext &lengths,
+                          const FactsOfNode &factsOf)
 {
     const Attributes &attributes = tree.node(motionPath).attributes;
     QString id = localReference(attributes.value(AttributeId::Href));
@@ -35,7 +35,7 @@ QPainterPath referredPath(const Tree &tree, NodeIndex motionPath, const LengthCo
     const NodeIndex target = tree.findId(id);
     if (target == noNode)
         return QPainterPath();
-    return shapeGeometry(tree.node(target), styleInTree(tree, target), lengths.viewport).path;
+    return shapeGeometry(tree.node(target), *factsOf(target)->style, lengths.viewport).path;
 }
 
 std::optional<QPointF> parsePlace(const QString &text, const LengthContext &lengths)
@@ -92,12 +92,12 @@ QPainterPath straightWay(const Attributes &attributes, const LengthContext &leng
 }
 
 // In this order of rank (SVG 1.1 §19.2.15).
-QPainterPath wayOf(const Tree &tree, NodeIndex animation, const LengthContext &lengths)
+QPainterPath wayOf(const Tree &tree, NodeIndex animation, const LengthContext &lengths, const FactsOfNode &factsOf)
 {
     const Attributes &attributes = tree.node(animation).attributes;
     const NodeIndex motionPath = motionPathOf(tree, animation);
     if (motionPath != noNode)
-        return referredPath(tree, motionPath, lengths);
+        return referredPath(tree, motionPath, lengths, factsOf);
     if (attributes.contains(QStringLiteral("path")))
         return parsePathData(attributes.value(QStringLiteral("path"))).path;
     const QString values = valueOf(attributes, "values");
@@ -155,13 +155,14 @@ void Motion::readRotation(const Attributes &attributes)
         m_angle = parseNumber(text).value_or(0);
 }
 
-std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths, int *room)
+std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths,
+                                   const FactsOfNode &factsOf, int *room)
 {
     // Once there is no room left, paths are not even read.
     if (*room < 0)
         return std::nullopt;
     const Attributes &attributes = tree.node(animation).attributes;
-    const QPainterPath way = wayOf(tree, animation, lengths);
+    const QPainterPath way = wayOf(tree, animation, lengths, factsOf);
     *room -= way.elementCount();
     if (way.elementCount() == 0 || *room < 0)
         return std::nullopt;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "animation/effect.h"
+#include "resolve/facts.h"
 #include "resolve/pathmeasure.h"
 #include "tree/tree.h"
 
@@ -13,7 +14,7 @@ public:
     /// Nothing when the element gives no usable way, or a longer one than there is room for. `room` counts down the
     /// elements of paths.
     static std::optional<Motion> read(const Tree &tree, NodeIndex animation, const LengthContext &lengths,
-                                      int *room);
+                                      const FactsOfNode &factsOf, int *room);
 
     /// The transform functions of a place on the way.
     QString transformText(const RoundPosition &position) const;

@@ -35,6 +35,9 @@ DrawReport Presentation::report() const
         report.add(Message::MotionPathsTooLong,
                    QStringLiteral("Motions beyond paths of %1 elements together are left out.")
                        .arg(Limits::motionElements));
+    if (m_model.lacksAttributes)
+        report.add(Message::TooManyAttributes,
+                   QStringLiteral("Attributes of one element beyond %1 are not animated.").arg(Limits::attributes));
     return report;
 }
 

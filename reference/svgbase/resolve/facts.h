@@ -1,6 +1,7 @@
 #pragma once
 
 #include "properties/computedstyle.h"
+#include "tree/tree.h"
 
 #include <QtCore/QRectF>
 #include <QtCore/QSharedData>
@@ -9,6 +10,7 @@
 #include <QtGui/QPen>
 #include <QtGui/QTransform>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,6 +20,8 @@ struct Facts;
 struct ImageContent;
 struct PlacedPicture;
 using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
+/// Gives the facts of a node without animation.
+using FactsOfNode = std::function<FactsPointer(NodeIndex)>;
 
 /// One outline with the paint that fills and strokes it; user units of its element.
 struct Outline

@@ -135,10 +135,10 @@ void TestHostile::wordsAreFoundAsWholes()
     QVERIFY(!containsWord(QString("a"), QString()));
 }
 
-// In a document of one more than 100000 elements each may look at 32 characters in each of 200 steps.
+// In a document of 100000 elements each may look at 32 characters in each of 200 steps.
 void TestHostile::selectorsCountTheTextThatTheyLookAt()
 {
-    static_assert(Limits::selectorSteps / Limits::leastSelectorSteps == 100000);
+    static_assert(Limits::selectorSteps / Limits::leastSelectorSteps < 100000);
     const QString others = QString("<desc/>").repeated(100000);
     for (const int length : {3200, 32000}) {
         const DocumentPointer document =

@@ -95,6 +95,7 @@ private slots:
     void pixelsOpenAtATimeAreLimited();
     void eventsOfAnimationsAreLimited();
     void pathsOfMotionsAreLimited();
+    void animatedAttributesOfAnElementAreLimited();
     void messagesNameTheElement();
     void firstOfEveryKindIsKeptAmongManyMessages();
     void messagesOfADrawingGoWhenItsCauseGoes();
@@ -325,6 +326,21 @@ void TestLimits::pathsOfMotionsAreLimited()
         document->setAnimationTime(0);
         QCOMPARE(drawn(*document).pixelColor(probe), isBeyond ? QColor(0, 255, 0) : QColor(0, 0, 255));
         QCOMPARE(has(document->messages(), Message::MotionPathsTooLong), isBeyond);
+    }
+}
+
+// The last attribute that is animated turns a square green.
+void TestLimits::animatedAttributesOfAnElementAreLimited()
+{
+    for (const bool isBeyond : {false, true}) {
+        QString animations;
+        for (int i = 0; i < Limits::attributes - (isBeyond ? 0 : 1); ++i)
+            animations += QString("<set attributeName='a%1' to='9'/>").arg(i);
+        const DocumentPointer document = loadContent("<rect width='94' height='94'>" + animations +
+                                                     "<set attributeName='fill' to='#0f0'/></rect>");
+        document->setAnimationTime(0);
+        QCOMPARE(drawn(*document).pixelColor(probe) == QColor(0, 255, 0), !isBeyond);
+        QCOMPARE(has(document->messages(), Message::TooManyAttributes), isBeyond);
     }
 }
 
