@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// The degrees of one "deg", "grad", "rad" or "turn", in any case; nothing for any other unit.
+/// Degrees per "deg", "grad", "rad" or "turn", in any case; no value for any other unit.
 std::optional<double> degreesOf(QLatin1String unit);
 
 /// Text that is one angle: a number of degrees, or one with the unit "deg", "grad", "rad" or "turn" (CSS Values 3

@@ -8,7 +8,7 @@ namespace Svg {
 
 namespace {
 
-/// The arc on the unit circle: where it starts and how far it turns, radians.
+/// The arc on the unit circle: start and sweep, radians.
 struct UnitArc
 {
     double start = 0;
@@ -16,7 +16,7 @@ struct UnitArc
     QTransform toUser;
 };
 
-// SVG 1.1 §F.6.5 and §F.6.6, in the coordinates of the turned ellipse centred between the end points.
+// SVG 1.1 §F.6.5 and §F.6.6, in the coordinates of the rotated ellipse centred between the end points.
 UnitArc unitArc(const Arc &arc)
 {
     const double angle = qDegreesToRadians(std::fmod(arc.rotation, 360.0));

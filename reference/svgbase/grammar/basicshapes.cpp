@@ -21,7 +21,7 @@ QStringList words(const QString &text)
     return text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-// Places beyond the numbers given repeat those across from them.
+// Missing values repeat the ones of the opposite side.
 int repeatedPlace(int place, int count)
 {
     if (place < count)
@@ -208,7 +208,7 @@ std::optional<QPainterPath> ShapeReader::ellipse(const QString &arguments, bool 
     return path;
 }
 
-// Takes a fill rule off the front of a list.
+// Removes a fill rule from the front of a list.
 Qt::FillRule takeFillRule(QStringList *parts)
 {
     const QString first = parts->isEmpty() ? QString() : parts->constFirst().trimmed();

@@ -13,11 +13,11 @@ namespace {
 
 /// Deepest nesting of parentheses.
 constexpr int deepest = 16;
-/// Most functions of one calculation that wait for what percentages and font sizes are.
+/// Most functions of one calculation that wait for the values of percentages and font sizes.
 constexpr int mostDeferred = 256;
 constexpr int mostArguments = 256;
 
-/// A function of what is not known yet.
+/// A function of values that are not known yet.
 struct Deferred;
 
 struct Term
@@ -150,7 +150,7 @@ QLatin1String takeFunctionName(Cursor &cursor)
     return QLatin1String(begin, int(cursor.at - begin));
 }
 
-// The way to round stands before the values.
+// The rounding strategy precedes the values.
 MathFunction Calculation::takeRounding()
 {
     Cursor probe = m_cursor;
@@ -200,7 +200,7 @@ SumKind resultKind(MathSignature signature, SumKind kind)
     }
 }
 
-// What is known is worked out at once; a plain number can't wait.
+// Known values are calculated at once; a plain number can't be deferred.
 bool Calculation::apply(MathFunction function, QVector<Sum> arguments, Sum *result)
 {
     const MathSignature signature = signatureOf(function);
@@ -247,7 +247,7 @@ bool Calculation::readBrackets(MathFunction function, Sum *result)
         arguments.append(argument);
         m_cursor.skipSpace();
     } while (m_cursor.take(','));
-    // Brackets that the text does not close end with it (CSS Syntax 3 §5.4.9).
+    // The end of the text closes open brackets (CSS Syntax 3 §5.4.9).
     if (!m_cursor.take(')') && !m_cursor.atEnd())
         return false;
     --m_depth;
@@ -302,7 +302,7 @@ bool Calculation::readValue(Sum *result)
     Cursor probe = m_cursor;
     if (!probe.take('-') || !isLetter(probe.peek()))
         return readDimension(result);
-    // "-infinity" is a word, too.
+    // "-infinity" is also a word.
     m_cursor = probe;
     if (!readWord(result))
         return false;
@@ -310,7 +310,7 @@ bool Calculation::readValue(Sum *result)
     return !qIsFinite(result->plain);
 }
 
-// One factor has to be a plain number, and so has what divides.
+// One factor must be a plain number, and so must a divisor.
 bool Calculation::readProduct(Sum *result)
 {
     if (!readValue(result))

@@ -39,7 +39,7 @@ int CascadeLayers::enter(int parent, const QString &name)
     return layer;
 }
 
-// What a layer holds directly wins over the layers inside of it.
+// Direct contents of a layer win over its inner layers.
 void CascadeLayers::rank(int layer, int *next, QVector<int> *ranks) const
 {
     for (const int inner : m_layers.at(layer).inside)

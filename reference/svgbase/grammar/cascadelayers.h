@@ -6,22 +6,21 @@
 
 namespace Svg {
 
-/// The cascade layers of all style sheets of a document, in the order in which they are first named (CSS Cascade 5
-/// §6.4).
+/// The cascade layers of all style sheets of a document, in the order of their first mention (CSS Cascade 5 §6.4).
 class CascadeLayers
 {
 public:
-    /// What stands in no layer.
+    /// Layer of rules outside all layers.
     static constexpr int none = 0;
-    /// Where there are too many layers, or too deep inside each other.
+    /// Result for too many or too deeply nested layers.
     static constexpr int leftOut = -1;
 
     CascadeLayers() { m_layers.append(Layer()); }
 
-    /// The layer of a name, with dots between its parts, inside another; without a name a new one. `leftOut` when
-    /// there can be no more.
+    /// The layer of a name, with dots between its parts, inside another; a new one without a name. `leftOut` at the
+    /// limit.
     int enter(int parent, const QString &name);
-    /// The rank of every layer: what has the higher one wins, and what is in no layer has the highest.
+    /// The rank of every layer: the higher rank wins, and rules outside all layers have the highest.
     QVector<int> ranks() const;
 
 private:

@@ -8,7 +8,7 @@
 
 namespace Svg {
 
-/// The rectangle of the property "clip" (CSS Masking 1, appendix on the clip property): how far its sides lie from
+/// The rectangle of the property "clip" (CSS Masking 1, appendix on the clip property): distances of its sides from
 /// the left and the top of a box; a side without a length is that of the box.
 struct ClipRect
 {
@@ -18,11 +18,10 @@ struct ClipRect
     std::optional<Length> left;
 };
 
-/// "auto" or "rect()" of four sides, all separated by commas or all by spaces. Nothing when the text breaks the
-/// grammar.
+/// "auto" or "rect()" of four sides, all separated by commas or all by spaces. No value for invalid text.
 std::optional<ClipRect> parseClipRect(QStringView text);
 
-/// The rectangle as it stands in `box`, in its units; empty where its sides cross.
+/// The rectangle in `box`, in units of the box; empty if its sides cross.
 QRectF clipRectIn(const QRectF &box, const ClipRect &clip, const LengthContext &context);
 
 } // namespace Svg

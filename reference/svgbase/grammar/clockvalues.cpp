@@ -20,7 +20,7 @@ const Metric metrics[] = {
     {QLatin1String("ms"), 0.001}, {QLatin1String(""), 1},
 };
 
-// "1e3" is a number elsewhere; a clock value has digits and one dot.
+// Rejects "1e3": a clock value has only digits and one dot.
 bool isPlainNumber(QStringView text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) {
@@ -35,7 +35,7 @@ std::optional<double> plainNumber(QStringView text)
     return parseNumber(text);
 }
 
-// "02:30:03.5" and "02:33": the parts but the first count to 59, and only the last has a fraction.
+// "02:30:03.5" and "02:33": all parts except the first go up to 59, and only the last has a fraction.
 std::optional<double> clockSeconds(QStringView text)
 {
     const auto parts = text.split(QLatin1Char(':'));
@@ -76,7 +76,7 @@ std::optional<ClockTime> signedClockValue(QStringView text)
     return time && negative ? -*time : time;
 }
 
-// In an id a backslash takes the next character as it is, so that "a\-b.begin" names "a-b".
+// In an id a backslash escapes the next character, so that "a\-b.begin" names "a-b".
 struct SyncBase
 {
     QString source;

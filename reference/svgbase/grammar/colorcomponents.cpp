@@ -1,4 +1,4 @@
-// From colours that painters have to the spaces of CSS Color 4.
+// Conversion of painters' colours to the spaces of CSS Color 4.
 
 #include "grammar/colormatrices.h"
 #include "grammar/colorspaces.h"
@@ -14,7 +14,7 @@ namespace Svg {
 
 namespace {
 
-/// Below these a colour counts as grey; colours of eight bits are no more exact.
+/// Below this saturation a colour counts as grey; eight-bit colours are not more exact.
 constexpr double leastSaturation = 1e-4;
 constexpr double leastLabChroma = 0.05;
 constexpr double leastOklabChroma = 5e-4;

@@ -34,9 +34,9 @@ struct ColorFunction
     QString space;
     Component components[componentCount];
     Component alpha{Component::Number, 1};
-    /// The older way to write it, with commas, which knows no missing components.
+    /// The legacy syntax with commas, without missing components.
     bool commas = false;
-    /// What the components of the colour that it begins with are called; none where it begins with none.
+    /// Names of the origin colour's components; empty without an origin.
     CalculationNames names;
 };
 
@@ -115,11 +115,11 @@ bool readComponents(Cursor &cursor, ColorFunction *function)
             return false;
         cursor.skipSpace();
     }
-    // What is not closed ends with the text (CSS Syntax 3 §5.4.9).
+    // The end of the text closes an open function (CSS Syntax 3 §5.4.9).
     return cursor.take(')') || cursor.atEnd();
 }
 
-/// What the components of a space are called, and by what they are multiplied.
+/// Names and factors of the components of a space.
 struct SpaceNames
 {
     QLatin1String function;
@@ -200,7 +200,7 @@ bool nameComponents(const QColor &origin, ColorFunction *function)
     return true;
 }
 
-// "from <colour>"; true where there is none, too.
+// Reads "from <colour>"; also true if there is none.
 bool takeOrigin(Cursor &cursor, const ColorContext &context, std::optional<QColor> *origin)
 {
     Cursor probe = cursor;
@@ -256,8 +256,7 @@ std::optional<QColor> rgbColor(const ColorFunction &function)
     return QColor(channel(c[0]), channel(c[1]), channel(c[2]));
 }
 
-// Hues are degrees where they have no unit; the others are percentages with or without the sign (CSS Color 4 §7,
-// §8).
+// Hues without a unit are degrees; the others are percentages with or without the sign (CSS Color 4 §7, §8).
 std::optional<QColor> hueColor(const ColorFunction &function)
 {
     const Component *c = function.components;
@@ -273,7 +272,7 @@ std::optional<QColor> hueColor(const ColorFunction &function)
     return colorOfHsl({c[0].value, second, third});
 }
 
-/// What 100 % of the components of a function are.
+/// Values of 100 % for the components of a function.
 struct LabScale
 {
     double lightness;

@@ -6,7 +6,7 @@ namespace Svg {
 
 using Matrix = double[3][3];
 
-// The matrices are those of CSS Color 4, chapters on predefined colour spaces and on conversions.
+// Matrices of CSS Color 4, chapters on predefined colour spaces and on conversions.
 
 constexpr Matrix srgbOfXyz = {
     {3.2409699419045226, -1.537383177570094, -0.4986107602930034},

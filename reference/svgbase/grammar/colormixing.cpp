@@ -12,7 +12,7 @@ namespace Svg {
 
 namespace {
 
-/// Deepest nesting of colours in colours.
+/// Deepest nesting of colours.
 constexpr int deepestColor = 8;
 
 enum class HueWay { Shorter, Longer, Increasing, Decreasing };
@@ -24,7 +24,7 @@ struct MixedColor
     std::optional<double> share;
 };
 
-// One less than the brackets that are opened are closed where the text ends before.
+// Skips to the closing bracket; the end of the text closes it, too.
 void skipBrackets(Cursor &cursor)
 {
     int open = 0;
@@ -51,7 +51,7 @@ bool takeShare(Cursor &cursor, MixedColor *mixed)
     return true;
 }
 
-// The share may stand on either side of its colour.
+// The share may precede or follow its colour.
 bool readMixed(Cursor &cursor, const ColorContext &context, MixedColor *mixed)
 {
     cursor.skipSpace();
@@ -82,7 +82,7 @@ bool takeHueWay(Cursor &cursor, HueWay *way)
     return cursor.takeWord().compare(QLatin1String("hue"), Qt::CaseInsensitive) == 0;
 }
 
-// How far the hue turns from one to the other, degrees (CSS Color 4 §12.4).
+// Change of hue from one to the other, degrees (CSS Color 4 §12.4).
 double turn(double from, double to, HueWay way)
 {
     const double forward = std::fmod(std::fmod(to - from, 360) + 360, 360);
@@ -99,7 +99,7 @@ double turn(double from, double to, HueWay way)
     return forward > 180 ? forward - 360 : forward;
 }
 
-// A hue that one of both lacks is the other's.
+// A missing hue is replaced by the other's.
 double mixedHue(double from, double to, double share, HueWay way)
 {
     if (qIsNaN(from))
@@ -116,7 +116,7 @@ HuePlace huePlace(const QString &space)
     return space.endsWith(QLatin1String("lch")) ? HuePlace::Last : HuePlace::None;
 }
 
-// Components count by how opaque their colours are (CSS Color 4 §12.3).
+// Components are premultiplied by their colour's alpha (CSS Color 4 §12.3).
 std::optional<QColor> mixture(const QString &space, HueWay way, const MixedColor &first, const MixedColor &second,
                               double share)
 {
@@ -139,7 +139,7 @@ std::optional<QColor> mixture(const QString &space, HueWay way, const MixedColor
     return color;
 }
 
-// Shares that are left out fill up what is missing; less than everything makes the mixture more transparent.
+// Omitted shares complete the sum; a sum below 100 % makes the mixture more transparent.
 std::optional<QColor> mixtureOfShares(const QString &space, HueWay way, const MixedColor &first,
                                       const MixedColor &second)
 {

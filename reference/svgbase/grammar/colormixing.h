@@ -8,23 +8,23 @@
 
 namespace Svg {
 
-/// What a colour may be made of, and how deep in others it stands.
+/// Context of a colour: the present colour, and the nesting depth.
 struct ColorContext
 {
-    /// What "currentColor" stands for; invalid where it is none.
+    /// Value of "currentColor"; invalid if there is none.
     QColor current;
     int depth = 0;
 };
 
-/// A colour inside another: the cursor is left behind it. Nothing for what is none, or nested too deep.
+/// Reads a colour inside another and moves the cursor behind it. No value for other text, or at the nesting limit.
 std::optional<QColor> readInnerColor(Cursor &cursor, const ColorContext &context);
 
 /// "color-mix(in <space> [shorter|longer|increasing|decreasing hue]?, <colour> <percentage>?, ...)" (CSS Color 5
-/// §2): two colours in a space of CSS Color 4. The cursor stands behind the bracket that opens, and is left behind
-/// the one that closes.
+/// §2): two colours in a space of CSS Color 4. The cursor starts behind the opening bracket and ends behind the
+/// closing one.
 std::optional<QColor> readColorMix(Cursor &cursor, const ColorContext &context);
 
-/// Names of spaces have digits and hyphens in them; in lower case.
+/// Reads the name of a space, which may contain digits and hyphens; in lower case.
 QString takeSpaceName(Cursor &cursor);
 
 } // namespace Svg

@@ -48,8 +48,8 @@ struct SystemColor
     QRgb color;
 };
 
-/// What documents take from the user's surroundings, as of a plain page of black on white (CSS Color 4 §6.2; the
-/// older names are mapped as its appendix A says).
+/// System colours of a plain page of black on white (CSS Color 4 §6.2; deprecated names are mapped as in its
+/// appendix A).
 const SystemColor systemColors[] = {
     {QLatin1String("accentcolor"), 0xff0078d7},
     {QLatin1String("accentcolortext"), 0xffffffff},
@@ -95,7 +95,7 @@ const SystemColor systemColors[] = {
     {QLatin1String("windowtext"), 0xff000000},
 };
 
-// A colour of a profile stands behind the one that screens use (SVG 1.1 §11.2).
+// A colour of a profile follows the one for screens (SVG 1.1 §11.2).
 QStringView withoutProfileColor(QStringView text)
 {
     const qsizetype profile = text.indexOf(QLatin1String("icc-color("));
@@ -112,7 +112,7 @@ std::optional<QColor> namedColor(QStringView name)
     }
     if (name.compare(QLatin1String("rebeccapurple"), Qt::CaseInsensitive) == 0)
         return QColor(0x66, 0x33, 0x99);
-    // Qt's list of names is SVG's, which lacks the one above.
+    // Qt's list of names is that of SVG, which lacks the one above.
     const QColor color(name.toString());
     if (!color.isValid())
         return std::nullopt;

@@ -25,7 +25,7 @@ QColor colorOfSrgb(const ColorComponents &encoded)
     return QColor(component(encoded.a), component(encoded.b), component(encoded.c));
 }
 
-// Functions of negative light are those of its mirror image (CSS Color 4 §10).
+// Transfer functions are odd: negative light mirrors positive (CSS Color 4 §10).
 template<typename Function> double mirrored(double value, Function function)
 {
     return std::copysign(function(std::abs(value)), value);

@@ -15,8 +15,7 @@ struct ColorComponents
     double c = 0;
 };
 
-/// These turn a colour of a space of CSS Color 4 into the nearest that painters have, each component of sRGB held
-/// between 0 and 1.
+/// Conversions of colours from spaces of CSS Color 4 to sRGB, each component clamped to 0 to 1.
 ///
 /// Hue in degrees, saturation and lightness from 0 to 1 (§7).
 QColor colorOfHsl(const ColorComponents &hueSaturationLightness);
@@ -26,11 +25,11 @@ QColor colorOfHwb(const ColorComponents &hueWhiteBlack);
 QColor colorOfLab(const ColorComponents &lab);
 /// Lightness from 0 to 1, a and b about ±0.4 (§9.4).
 QColor colorOfOklab(const ColorComponents &lab);
-/// A space that color() names (§10), components from 0 to 1; nothing for an unknown name.
+/// A space of color() (§10), components from 0 to 1; no value for an unknown name.
 std::optional<QColor> colorOfSpace(const QString &space, const ColorComponents &components);
 
-/// A colour of any space that functions and mixing name: those of color(), "hsl", "hwb", "lab", "lch", "oklab" and
-/// "oklch", the shares of the first two from 0 to 1. Nothing for an unknown name.
+/// A colour of any space of functions and mixing: those of color(), "hsl", "hwb", "lab", "lch", "oklab" and
+/// "oklch", the shares of the first two from 0 to 1. No value for an unknown name.
 std::optional<QColor> colorIn(const QString &space, const ColorComponents &components);
 /// The components of a colour in such a space. The hue of a grey is NaN (CSS Color 4 §12.2).
 std::optional<ColorComponents> componentsIn(const QString &space, const QColor &color);

@@ -38,7 +38,7 @@ private:
     int m_depth;
 };
 
-// A word with a parenthesis right behind it is the name of a function.
+// A word directly followed by a parenthesis is the name of a function.
 bool ConditionReader::takeWord(const char *word)
 {
     CssCursor probe = m_cursor;
@@ -77,7 +77,7 @@ std::optional<Truth> ConditionReader::readTerm()
     return truth;
 }
 
-// "and" and "or" are not mixed without parentheses.
+// "and" and "or" can't be mixed without parentheses.
 std::optional<Truth> ConditionReader::read()
 {
     m_cursor.skipSpace();

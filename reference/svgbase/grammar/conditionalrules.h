@@ -7,14 +7,14 @@
 
 namespace Svg {
 
-/// What a condition of a style sheet comes to; what is not known is neither (Media Queries 4 §3.2).
+/// Value of a condition of a style sheet; unknown parts are neither true nor false (Media Queries 4 §3.2).
 enum class Truth : quint8 { No, Unknown, Yes };
 
-/// Decides what stands in parentheses; the name in front of them is empty where there is none.
+/// Decides a term in parentheses; `function` is the name in front of them, empty if there is none.
 using ConditionLeaf = std::function<Truth(const QString &function, QStringView content)>;
 
-/// The condition of an at-rule: terms in parentheses, joined by "and", by "or", or turned by "not" (CSS Conditional
-/// Rules 3 §6). Nothing when it breaks the grammar or is nested too deep.
+/// The condition of an at-rule: terms in parentheses, joined by "and" or "or", or negated by "not" (CSS Conditional
+/// Rules 3 §6). No value if it is invalid or nested too deep.
 std::optional<Truth> evaluateCondition(QStringView text, const ConditionLeaf &leaf);
 
 } // namespace Svg

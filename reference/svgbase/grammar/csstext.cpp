@@ -7,7 +7,7 @@ namespace Svg {
 namespace {
 
 constexpr int mostEscapeDigits = 6;
-/// No value has nearly as many parts.
+/// Far more parts than any value has.
 constexpr int mostWords = 100;
 constexpr uint lastCodePoint = 0x10ffff;
 
@@ -57,7 +57,7 @@ void skipComment(CssCursor *cursor)
     }
 }
 
-// What follows a backslash (CSS Syntax 3 §4.3.7).
+// Reads an escape after its backslash (CSS Syntax 3 §4.3.7).
 QString takeEscaped(CssCursor *cursor)
 {
     uint code = 0;
@@ -93,8 +93,8 @@ char closing(QChar open)
     }
 }
 
-/// Passes over the strings of a text. Where one does not end, no later one in the same quotes does, so that the
-/// rest is looked through but once.
+/// Skips the strings of a text. After an unterminated string, no later one in the same quotes is terminated either,
+/// so the rest is scanned only once.
 class StringPassing
 {
 public:

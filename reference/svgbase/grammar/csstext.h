@@ -23,17 +23,17 @@ struct CssCursor
     bool take(char expected);
     /// White space and comments; true when there were any.
     bool skipSpace();
-    /// An identifier with its escapes resolved; empty, with the cursor where it was, when there is none.
+    /// An identifier with its escapes resolved; empty, with the cursor unchanged, if there is none.
     QString takeIdentifier();
-    /// Letters, digits, "-", "_" and escapes, whatever they begin with, as after "#".
+    /// Letters, digits, "-", "_" and escapes with any beginning, as after "#".
     QString takeName();
-    /// A string in quotes; false, with the cursor where it was, when there is none that ends.
+    /// A string in quotes; false, with the cursor unchanged, if there is no terminated one.
     bool takeString(QString *value);
-    /// Goes to the first of `stops` that stands outside of strings, comments and brackets, or to the end.
+    /// Moves to the first of `stops` outside of strings, comments and brackets, or to the end.
     void skipTo(const char *stops);
 };
 
-/// The parts of a value between white space, strings and brackets kept whole; the first hundred of them.
+/// The first hundred parts of a value between white space; strings and brackets are not split.
 QVector<QStringView> cssWords(QStringView text);
 /// The text without its comments.
 QString withoutComments(QStringView text);

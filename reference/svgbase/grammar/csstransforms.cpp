@@ -68,7 +68,7 @@ std::optional<double> parseAngle(const QString &text)
     return std::nullopt;
 }
 
-/// Reads the arguments of one function; what can't be read makes the whole function fail.
+/// Reads the arguments of one function; an unreadable one makes the whole function fail.
 class Arguments
 {
 public:
@@ -181,7 +181,7 @@ OriginWord originWord(const QString &word)
     return OriginWord();
 }
 
-// One coordinate; false for a word of the other side.
+// Reads one coordinate; false for a keyword of the other axis.
 bool readCoordinate(const QString &text, Axis axis, const LengthContext &context, double *value)
 {
     const OriginWord word = originWord(text);

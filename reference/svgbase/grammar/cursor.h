@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// White space as XML and the SVG grammars know it.
+/// White space of XML and the SVG grammars.
 inline bool isSpace(char c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
@@ -21,7 +21,7 @@ inline bool isLetter(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-/// A reading position in one-byte text. Grammars move it forward as far as they understand the text.
+/// A reading position in one-byte text. Grammars advance it over the text that they accept.
 struct Cursor
 {
     const char *at;
@@ -34,12 +34,12 @@ struct Cursor
     void skipSpace();
     /// White space around at most one comma; true when there was a comma.
     bool skipCommaSpace();
-    /// Letters up to the next character that is none.
+    /// Letters up to the next other character.
     QLatin1String takeWord();
 };
 
-/// A copy of text in one byte per character, on the stack while it is short. Characters beyond Latin-1, which no
-/// grammar here accepts, become control characters.
+/// A copy of text in one byte per character, on the stack if short. Characters beyond Latin-1, which no grammar
+/// here accepts, become control characters.
 class Latin1Text
 {
 public:

@@ -23,7 +23,7 @@ bool isHexDigit(char c)
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-// A percent sign that starts no escape stands for itself, as browsers have it.
+// A percent sign that starts no escape is literal, as in browsers.
 QByteArray percentDecoded(const QByteArray &bytes)
 {
     QByteArray result;

@@ -7,8 +7,8 @@
 
 namespace Svg {
 
-/// The bytes of a "data:" URI (RFC 2397), percent-encoded or in base 64, white space aside. Nothing for any other
-/// reference and for data that is not well formed.
+/// The bytes of a "data:" URI (RFC 2397), percent-encoded or in base 64, ignoring white space. No value for other
+/// references and malformed data.
 std::optional<QByteArray> parseDataUri(QStringView text);
 
 } // namespace Svg

@@ -28,7 +28,7 @@ const FunctionName functionNames[] = {
     {QLatin1String("sepia"), FilterFunction::Sepia},
 };
 
-// Words up to white space that stands outside of parentheses, or up to a parenthesis that closes.
+// Words that end at white space outside of parentheses, or at a closing parenthesis.
 QVector<QStringView> words(QStringView text)
 {
     QVector<QStringView> result;
@@ -60,7 +60,7 @@ bool readAmount(QStringView text, FilterFunction *function)
         return true;
     const std::optional<Length> amount = parseLength(text);
     const bool share = amount && (amount->unit == Unit::User || amount->unit == Unit::Percent);
-    // A unit other than "%" makes it no share.
+    // With a unit other than "%" it isn't a share.
     if (!share || amount->value < 0 || (amount->unit == Unit::User && text.back().isLetter()))
         return false;
     function->amount = amount->unit == Unit::Percent ? amount->value / 100 : amount->value;
@@ -113,7 +113,7 @@ bool readShadowColor(QStringView text, FilterFunction *function)
     return color.has_value();
 }
 
-// Two or three lengths, with a colour before or behind them.
+// Two or three lengths, with a colour before or after them.
 bool readShadow(QStringView text, FilterUnits units, FilterFunction *function)
 {
     QVector<QStringView> parts = words(text);

@@ -28,7 +28,7 @@ struct FilterFunction
     Kind kind = Reference;
     /// Of a reference.
     QString id;
-    /// A share, or degrees for a turn of the hue.
+    /// A share, or degrees for a hue rotation.
     double amount = 1;
     /// Of a blur: its standard deviation alone. Of a shadow: dx, dy and standard deviation.
     Length lengths[3];
@@ -36,11 +36,11 @@ struct FilterFunction
     QColor color;
 };
 
-/// Whether lengths and angles that are not 0 need their units, as in a style sheet, or are user units and degrees
-/// without them, as in a presentation attribute (SVG 1.1 §4.2).
+/// Whether lengths and angles other than 0 need units, as in a style sheet, or default to user units and degrees,
+/// as in a presentation attribute (SVG 1.1 §4.2).
 enum class FilterUnits : quint8 { Required, Optional };
 
-/// A list of filter functions and references; nothing when the text is none.
+/// A list of filter functions and references; no value for other text.
 std::optional<QVector<FilterFunction>> parseFilterList(QStringView text, FilterUnits units);
 
 } // namespace Svg

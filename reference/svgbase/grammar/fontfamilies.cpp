@@ -11,7 +11,7 @@ bool isQuote(QChar c)
     return c == QLatin1Char('"') || c == QLatin1Char('\'');
 }
 
-// The end of what begins at `from`: a comma outside of quotes, or the end of the list.
+// The end of the name that begins at `from`: a comma outside of quotes, or the end of the list.
 int endOfName(const QString &list, int from)
 {
     QChar quote;

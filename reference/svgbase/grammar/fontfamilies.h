@@ -9,12 +9,12 @@ namespace Svg {
 struct FamilyName
 {
     QString text;
-    /// A quoted name is no keyword.
+    /// A quoted name is never a keyword.
     bool quoted = false;
 };
 
-/// The names of a "font-family" (CSS Fonts 3 §3.1): strings, or words between commas. Empty names are left out, and
-/// what is beyond `Limits::listedFamilies`.
+/// The names of a "font-family" (CSS Fonts 3 §3.1): strings, or words between commas. Leaves out empty names, and
+/// those beyond `Limits::listedFamilies`.
 QVector<FamilyName> parseFontFamilies(const QString &list);
 
 /// Whether a list is longer than `Limits::familyCharacters` or has more commas than `Limits::listedFamilies` need.

@@ -19,9 +19,9 @@ struct UnitName
 
 constexpr double pixelsPerInch = 96;
 constexpr double centimetresPerInch = 2.54;
-/// Height of a lower-case x where a font does not tell, in font sizes.
+/// Default height of a lower-case x, in font sizes.
 constexpr double exPerEm = 0.5;
-/// Width of a "0" where a font does not tell, in font sizes (CSS Values 3 §5.1.1).
+/// Default width of a "0", in font sizes (CSS Values 3 §5.1.1).
 constexpr double chPerEm = 0.5;
 
 const UnitName unitNames[] = {

@@ -55,7 +55,7 @@ const FunctionRow &rowOf(MathFunction function)
                          [function](const FunctionRow &row) { return row.function == function; });
 }
 
-// Values halfway between two steps go up.
+// Rounds halves up.
 double roundedTo(MathFunction way, double value, double step)
 {
     const double steps = value / std::abs(step);

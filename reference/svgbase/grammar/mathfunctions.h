@@ -34,11 +34,11 @@ enum class MathFunction {
     ArcTangent2
 };
 
-/// What the arguments of a function have to be, and what it gives.
+/// Kinds of the arguments and the result of a function.
 enum class MathSignature {
-    /// All of one kind, which the result has, too.
+    /// Arguments of one kind, which is that of the result.
     SameKind,
-    /// All of one kind; a plain number.
+    /// Arguments of one kind; the result is a plain number.
     NumberOfAny,
     Numbers,
     /// Of an angle, in degrees, or a number, in radians.
@@ -47,7 +47,7 @@ enum class MathSignature {
     AngleOfAny
 };
 
-/// Nothing for a name of no function.
+/// No value for an unknown name.
 std::optional<MathFunction> mathFunction(QLatin1String name);
 MathSignature signatureOf(MathFunction function);
 bool takesArguments(MathFunction function, int count);

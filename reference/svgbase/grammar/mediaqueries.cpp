@@ -11,7 +11,7 @@ namespace Svg {
 
 namespace {
 
-/// Queries of a list that are looked at.
+/// Queries of a list that are evaluated.
 constexpr int mostQueries = 100;
 
 struct Feature
@@ -20,7 +20,7 @@ struct Feature
     QLatin1String value;
 };
 
-/// What is said of the screen in words.
+/// Features of the screen with keywords as values.
 const Feature features[] = {
     {QLatin1String("prefers-color-scheme"), QLatin1String("light")},
     {QLatin1String("prefers-contrast"), QLatin1String("no-preference")},
@@ -53,7 +53,7 @@ Truth truth(bool yes)
     return yes ? Truth::Yes : Truth::No;
 }
 
-// A feature alone holds where its value is neither zero nor "none".
+// A feature without a value holds if it is neither zero nor "none".
 Truth bareFeature(const QString &name)
 {
     if (isSize(name))
@@ -112,7 +112,7 @@ bool isWord(const QString &text, const char *word)
     return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
 }
 
-// "not" in front of a type turns all of the query.
+// "not" before a type negates the whole query.
 bool holdsForScreens(QStringView query)
 {
     CssCursor cursor(query);

@@ -5,8 +5,8 @@
 namespace Svg {
 
 /// Whether a list of media queries, as of a "media" attribute, includes screens (Media Queries 4 §3); an empty one
-/// does. Pictures are shown on screens that have colours, are wider than high, show dark on light and are as large
-/// as is asked for, however large that is.
+/// does. Pictures are shown on screens in landscape format with colours, dark on light, that satisfy every
+/// condition on their size.
 bool includesScreens(QStringView media);
 
 } // namespace Svg

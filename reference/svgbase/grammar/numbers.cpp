@@ -9,11 +9,11 @@ namespace Svg {
 
 namespace {
 
-/// Magnitudes that read better without an exponent.
+/// Magnitudes that are more readable without an exponent.
 constexpr double smallestPlain = 1e-6;
 constexpr double largestPlain = 1e15;
 
-// std::from_chars also knows "inf" and "nan", which SVG does not.
+// std::from_chars also accepts "inf" and "nan", which SVG doesn't.
 bool startsNumber(const char *at, const char *end)
 {
     if (at == end)

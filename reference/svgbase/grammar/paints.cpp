@@ -53,7 +53,7 @@ QString localReference(QStringView text)
     if (!trimmed.startsWith(QLatin1Char('#')))
         return QString();
     const QString id = trimmed.mid(1).toString();
-    // References are addresses, in which characters may be encoded (RFC 3986 §2.1).
+    // References are URIs, whose characters may be percent-encoded (RFC 3986 §2.1).
     return id.contains(QLatin1Char('%')) ? QUrl::fromPercentEncoding(id.toUtf8()) : id;
 }
 

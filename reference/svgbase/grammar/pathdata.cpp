@@ -61,13 +61,13 @@ private:
     /// The control point that a smooth segment reflects.
     QPointF m_control;
     char m_command = 0;
-    /// The segment before this one, in lower case: smooth segments look back at it.
+    /// The previous segment, in lower case: smooth segments depend on it.
     char m_previous = 0;
     int m_segments = 0;
     bool m_closed = false;
-    /// The element that the subpath begins with.
+    /// The first element of the subpath.
     int m_firstElement = 0;
-    /// Whether the subpath has a segment, if only one without length.
+    /// Whether the subpath has a segment, possibly one without length.
     bool m_drawn = false;
 };
 
@@ -115,8 +115,8 @@ QPointF PathReader::reflected(bool curveBefore) const
     return curveBefore ? m_current * 2 - m_control : m_current;
 }
 
-// A painter's path leaves out lines without length; a subpath of nothing else still has caps (SVG 2 §13.5.5), but
-// closed it would have none. True when it is such a subpath.
+// A painter's path drops lines without length; a subpath of such lines still has caps (SVG 2 §13.5.5), which
+// closing it would remove. True for such a subpath.
 bool PathReader::finishSubpath()
 {
     QPainterPath &path = m_result.path;
@@ -128,7 +128,7 @@ bool PathReader::finishSubpath()
     return isDot;
 }
 
-// One that comes back to its start has caps there all the same, unless it is closed (SVG 2 §13.5.4).
+// One that returns to its start has caps there unless it is closed (SVG 2 §13.5.4).
 void PathReader::endOpenSubpath()
 {
     const QPainterPath &path = m_result.path;
@@ -241,7 +241,7 @@ bool PathReader::readSmoothQuadratic(bool relative)
 {
     const QPointF control = reflected(m_previous == 'q' || m_previous == 't');
     QPointF point;
-    // Reflections double with every segment.
+    // Reflected coordinates can double with every segment.
     if (!isInRange(control) || !readPoint(relative, &point))
         return false;
     m_result.path.quadTo(control, point);
@@ -273,7 +273,7 @@ PathSegment::Kind kindOf(char command)
     return strchr("lhv", command) ? PathSegment::Line : PathSegment::Curve;
 }
 
-// A painter's path leaves out what has no length and cuts arcs into pieces.
+// A painter's path drops segments without length and splits arcs.
 void PathReader::record(char command, const QPointF &from, int elementsBefore)
 {
     PathSegment segment{kindOf(command), from, from, m_current, m_current};
@@ -304,7 +304,7 @@ bool PathReader::close()
 
 bool PathReader::readSegment(char command, bool relative)
 {
-    // After a closing command a drawing command starts a new subpath where the last one began.
+    // A drawing command after a closing command starts a new subpath at the start of the last one.
     if (m_closed && command != 'm') {
         beginSubpath(m_start);
     }

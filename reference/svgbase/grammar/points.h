@@ -11,7 +11,7 @@ struct Points
     /// Every pair before the first error, user units.
     QPolygonF points;
     bool complete = true;
-    /// Whether it was the limit that cut the list.
+    /// Whether the limit truncated the list.
     bool tooLong = false;
 };
 

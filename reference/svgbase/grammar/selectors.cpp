@@ -48,7 +48,7 @@ const PseudoName plainPseudoClasses[] = {
     {QLatin1String("fullscreen"), PseudoClass::Never},
 };
 
-/// There are none in a picture; the old four are written like classes, too (Selectors 4 §3.6).
+/// Pictures have none; the four legacy ones may be written with one colon (Selectors 4 §3.6).
 const char *const pseudoElements[] = {"before",    "after",  "first-line",  "first-letter",
                                       "selection", "marker", "placeholder", "backdrop"};
 constexpr int oldPseudoElements = 4;
@@ -101,7 +101,7 @@ bool is(const QString &name, const char *known)
     return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
 }
 
-// That of a list is the one of its most specific selector (Selectors 4 §17).
+// The specificity of a list is that of its most specific selector (Selectors 4 §17).
 int highestOf(const QVector<Selector> &selectors)
 {
     int most = 0;
@@ -110,7 +110,7 @@ int highestOf(const QVector<Selector> &selectors)
     return most;
 }
 
-/// The selectors of the rule around; null outside of rules.
+/// The selectors of the enclosing rule; null outside of rules.
 struct Around
 {
     const QVector<Selector> *selectors = nullptr;
@@ -128,9 +128,9 @@ public:
     }
 
     std::optional<QVector<Selector>> parseList();
-    /// What is not understood is left out alone (Selectors 4 §4.1).
+    /// Leaves out only the invalid selectors (Selectors 4 §4.1).
     QVector<Selector> parseForgivingList();
-    /// Selectors that begin with a combinator, or with that of descendants.
+    /// Selectors that begin with a combinator, by default the descendant combinator.
     std::optional<QVector<Selector>> parseRelativeList();
 
 private:
@@ -166,7 +166,7 @@ private:
     int m_tags = 0;
 };
 
-// A namespace before a tag is passed over: names of elements say enough where all that is drawn is SVG.
+// Skips the namespace of a tag: names of elements suffice, since only SVG is drawn.
 void SelectorParser::skipNamespace()
 {
     CssCursor probe = m_cursor;
@@ -210,7 +210,7 @@ bool SelectorParser::parseRelation(AttributeTest *test)
     return !test->value.isEmpty();
 }
 
-// Prefixes stand as they do in the names of attributes.
+// Prefixes are kept as in the names of attributes.
 bool SelectorParser::takeAttributeName(AttributeTest *test)
 {
     test->anyNamespace = m_cursor.take('*');
@@ -225,7 +225,7 @@ bool SelectorParser::takeAttributeName(AttributeTest *test)
     return !local.isEmpty();
 }
 
-// "i" passes over case (Selectors 4 §6.3).
+// "i" ignores case (Selectors 4 §6.3).
 void SelectorParser::takeFlag(AttributeTest *test)
 {
     if (m_cursor.take('i') || m_cursor.take('I'))
@@ -255,7 +255,7 @@ bool SelectorParser::parseAttribute(Compound *compound)
     return true;
 }
 
-// "2n+1 of .a": only what matches is counted.
+// "2n+1 of .a": counts only matching elements.
 bool SelectorParser::parseCount(PseudoClass::Kind kind, QStringView argument, Compound *compound)
 {
     static const QRegularExpression separator(QStringLiteral("\\sof\\s"),
@@ -447,7 +447,7 @@ bool SelectorParser::takeCombinator(Combinator *combinator)
     return true;
 }
 
-// Compounds and combinators up to the end; the first combinator joins what is there already.
+// Compounds and combinators up to the end; the first combinator follows the existing compounds.
 bool SelectorParser::parseChain(Selector *selector, Combinator combinator)
 {
     do {
@@ -473,7 +473,7 @@ bool SelectorParser::leads() const
     return c == QLatin1Char('>') || c == QLatin1Char('+') || c == QLatin1Char('~');
 }
 
-// From an origin of its own, which the selector does not name.
+// Anchored at an implicit origin.
 bool SelectorParser::parseRelative(Selector *selector, const PseudoClass &origin)
 {
     Compound first;
@@ -485,7 +485,7 @@ bool SelectorParser::parseRelative(Selector *selector, const PseudoClass &origin
     return parseChain(selector, combinator);
 }
 
-// Inside a rule a selector that does not name what is around begins below it.
+// Inside a rule, a selector without "&" is relative to the enclosing rule's elements.
 bool SelectorParser::parseSelector(Selector *selector)
 {
     m_ids = m_classes = m_tags = 0;

@@ -8,21 +8,21 @@
 
 namespace Svg {
 
-/// [name], [name=value] and their kin (Selectors 3 §6.3).
+/// [name], [name=value] and related forms (Selectors 3 §6.3).
 struct AttributeTest
 {
     enum Relation { Exists, Equals, Includes, StartsWithWord, Starts, Ends, Contains };
     QString name;
     QString value;
     Relation relation = Exists;
-    /// Whether the name is a local one, of any namespace.
+    /// Whether the name is a local name in any namespace.
     bool anyNamespace = false;
     Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive;
 };
 
 struct Selector;
 
-/// A pseudo-class (Selectors 3 §6.6); those about what a user does never match a picture.
+/// A pseudo-class (Selectors 3 §6.6); those about user actions never match in a picture.
 struct PseudoClass
 {
     enum Kind {
@@ -39,9 +39,9 @@ struct PseudoClass
         /// ":is()" and ":where()".
         Is,
         Not,
-        /// Whether something below or behind the element matches, which the selectors tell from `Anchor` on.
+        /// Whether a descendant or later sibling matches; its selectors begin at `Anchor`.
         Has,
-        /// The element that a ":has()" is asked of.
+        /// The element tested by ":has()".
         Anchor,
         Language
     };
@@ -49,8 +49,7 @@ struct PseudoClass
     /// Of the "a n + b" of the counting kinds.
     int step = 0;
     int offset = 1;
-    /// Of `Is`, `Not` and `Has`: whether one of them matches decides. Of the counting kinds: what is counted, all
-    /// siblings where there are none.
+    /// Alternatives of `Is`, `Not` and `Has`; for the counting kinds, the counted siblings, all if empty.
     QVector<Selector> selectors;
     QStringList languages;
 };
@@ -68,7 +67,7 @@ struct Compound
 
 enum class Combinator : quint8 { Descendant, Child, NextSibling, LaterSibling };
 
-/// A compound with those before it, right to left: `combinators[i]` stands between `compounds[i + 1]` and
+/// A compound and those before it, right to left: `combinators[i]` is between `compounds[i + 1]` and
 /// `compounds[i]`.
 struct Selector
 {
@@ -78,9 +77,9 @@ struct Selector
     int specificity = 0;
 };
 
-/// The selectors of a rule, comments taken out. Nothing when one of them is not understood: the rule is dropped
-/// then. Inside a rule with the selectors `around` they are relative to it, and "&" stands for what it matches (CSS
-/// Nesting 1 §3).
+/// The selectors of a rule, without comments. No value if one of them is invalid, since the rule is then dropped.
+/// Inside a rule with the selectors `around` they are relative to it, and "&" represents its elements (CSS Nesting
+/// 1 §3).
 std::optional<QVector<Selector>> parseSelectors(QStringView text, const QVector<Selector> *around = nullptr);
 
 } // namespace Svg

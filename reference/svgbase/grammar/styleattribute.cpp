@@ -4,7 +4,7 @@ namespace Svg {
 
 namespace {
 
-// The ";" that ends a declaration, one inside quotes or parentheses aside.
+// The ";" that ends a declaration, skipping quotes and parentheses.
 qsizetype declarationEnd(QStringView text, qsizetype from)
 {
     QChar quote;

@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// One "name: value" of a style attribute; views into the text that was read.
+/// One "name: value" of a style attribute, as views into its text.
 struct StyleDeclaration
 {
     QStringView name;
@@ -13,7 +13,7 @@ struct StyleDeclaration
     bool important = false;
 };
 
-/// The declarations of a style attribute in their order. Parts that are no declaration are left out.
+/// The declarations of a style attribute in order. Other parts are left out.
 QVector<StyleDeclaration> parseStyleAttribute(QStringView text);
 
 } // namespace Svg

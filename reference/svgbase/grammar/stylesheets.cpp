@@ -34,7 +34,7 @@ bool parseDeclaration(QStringView text, SheetDeclaration *declaration)
     CssCursor cursor(text);
     cursor.skipSpace();
     declaration->name = cursor.takeIdentifier();
-    // Names of custom properties are exact.
+    // Names of custom properties are case-sensitive.
     if (!declaration->name.startsWith(QLatin1String("--")))
         declaration->name = declaration->name.toLower();
     cursor.skipSpace();
@@ -57,12 +57,12 @@ bool isName(const QString &name, const char *known)
     return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
 }
 
-/// What rules stand in.
+/// Context of the rules of a block.
 struct Block
 {
     int layer = CascadeLayers::none;
     int depth = 0;
-    /// Of the rule around; null outside of rules.
+    /// Selectors of the enclosing rule; null outside of rules.
     const QVector<Selector> *selectors = nullptr;
 };
 
@@ -123,7 +123,7 @@ void SheetParser::skipBlock()
     m_cursor.take('}');
 }
 
-// What follows a rule inside of a rule is a rule of its own behind that one (CSS Nesting 1 §3.2).
+// Declarations after a nested rule form a rule of their own after it (CSS Nesting 1 §3.2).
 void SheetParser::keep(const Block &block, QVector<SheetDeclaration> *declarations)
 {
     if (declarations->isEmpty())
@@ -138,7 +138,7 @@ void SheetParser::keep(const Block &block, QVector<SheetDeclaration> *declaratio
     declarations->clear();
 }
 
-// Up to the brace that closes it, which is taken.
+// Reads up to and including the closing brace.
 void SheetParser::enter(const Block &block)
 {
     if (block.depth > deepestBlock) {
@@ -169,7 +169,7 @@ void SheetParser::parseRule(const Block &block)
     enter({block.layer, block.depth + 1, &*selectors});
 }
 
-// A declaration ends before a block begins, unless it is a custom property (CSS Syntax 3 §5.4.4).
+// A declaration ends before a block, unless it is a custom property (CSS Syntax 3 §5.4.4).
 void SheetParser::parseDeclarationOrRule(const Block &block, QVector<SheetDeclaration> *declarations)
 {
     const QChar *begin = m_cursor.at;
@@ -272,7 +272,7 @@ void SheetParser::parseAtRule(const Block &block)
         skipBlock();
 }
 
-// Its descriptors are written like declarations.
+// Its descriptors have the syntax of declarations.
 void SheetParser::parseFontFace(const Block &block)
 {
     static const QVector<Selector> none;

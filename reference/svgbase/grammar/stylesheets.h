@@ -13,50 +13,50 @@ struct SheetDeclaration
     QString name;
     QString value;
     bool important = false;
-    /// Where it stands in the text.
+    /// Offset in the text.
     int offset = 0;
 };
 
-/// Selectors with what they give.
+/// Selectors with their declarations.
 struct StyleRule
 {
     QVector<Selector> selectors;
     QVector<SheetDeclaration> declarations;
-    /// Of the sheet's layers; `CascadeLayers::none` outside of all.
+    /// One of the sheet's layers; `CascadeLayers::none` outside of all.
     int layer = CascadeLayers::none;
 };
 
-/// What could not be read, and where in the text it stands.
+/// Unreadable text and its position.
 struct StyleProblem
 {
     int offset = 0;
     QString text;
-    /// Whether a limit is the reason.
+    /// Whether a limit was exceeded.
     bool tooMany = false;
 };
 
 struct StyleSheet
 {
-    /// In the order of the text; rules inside of rules stand for themselves.
+    /// In the order of the text; nested rules have entries of their own.
     QVector<StyleRule> rules;
-    /// What each "@font-face" describes.
+    /// Descriptors of each "@font-face".
     QVector<QVector<SheetDeclaration>> fontFaces;
     QVector<StyleProblem> problems;
 
-    /// Notes a problem, unless there are many.
+    /// Records a problem, unless there are too many.
     void report(const StyleProblem &problem);
 };
 
-/// What a style sheet is read with.
+/// Context for reading a style sheet.
 struct SheetSurroundings
 {
-    /// Whether a declaration would have an effect, as "@supports" asks.
+    /// Whether a declaration would have an effect, for "@supports".
     std::function<bool(const SheetDeclaration &)> supports;
-    /// Layers of the document so far; those of the sheet are added.
+    /// Layers of the document so far; those of the sheet are appended.
     CascadeLayers *layers = nullptr;
 };
 
-/// The rules of a style sheet that concern a picture on a screen. A rule with an error is dropped, the rest kept.
+/// The rules of a style sheet that apply to a picture on a screen. A rule with an error is dropped, the rest kept.
 StyleSheet parseStyleSheet(QStringView text, const SheetSurroundings &surroundings);
 
 } // namespace Svg

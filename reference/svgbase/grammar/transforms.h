@@ -7,8 +7,8 @@
 
 namespace Svg {
 
-/// A list of transform functions (SVG 1.1 §7.6); the last of the list is applied to a point first. Nothing when the
-/// text breaks the grammar or the result is not finite.
+/// A list of transform functions (SVG 1.1 §7.6); the last of the list is applied to a point first. No value for
+/// invalid text or a result that is not finite.
 std::optional<QTransform> parseTransform(QStringView text);
 
 } // namespace Svg

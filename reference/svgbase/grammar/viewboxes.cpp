@@ -60,7 +60,7 @@ AspectRatio parseAspectRatio(QStringView text)
 {
     AspectRatio ratio;
     QStringView trimmed = text.trimmed();
-    // Once left the choice to an image of its own ratio; SVG 2 §8.6 has dropped it.
+    // SVG 1.1's keyword for the ratio of an image itself; SVG 2 §8.6 removed it.
     const QLatin1String defer("defer ");
     if (trimmed.startsWith(defer))
         trimmed = trimmed.mid(defer.size()).trimmed();
