@@ -54,7 +54,7 @@ QZeSvgNode::Type typeOf(ElementKind kind)
     }
 }
 
-/// Makes constructors reachable that only derived classes may call.
+/// Gives access to protected constructors.
 class PlainNode : public QZeSvgNode
 {
 public:

@@ -131,7 +131,7 @@ const AttributeName attributeNames[] = {
     {QLatin1String("y_move"), AttributeId::YMove},
 };
 
-/// The names by a hash of their length and their ends; a few share a place and stand behind each other.
+/// The names by a hash of their length and their ends; a few collide and are chained.
 class NameTable
 {
 public:

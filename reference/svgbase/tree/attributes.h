@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// Names that the library gives a meaning.
+/// Names that the library interprets.
 enum class AttributeId : quint8 {
     Unknown,
     // Properties, as presentation attributes or in a style attribute.
@@ -84,9 +84,9 @@ enum class AttributeId : quint8 {
     WordSpacing,
     WritingMode,
     // Attributes of elements.
-    /// Declarations that animation lays over the style of an element; no attribute of a text.
+    /// Declarations of animations that override the style of an element; not an attribute of a text.
     AnimatedStyle,
-    /// A custom property that style declares, its value being "--name:value"; no attribute of a text.
+    /// A custom property declared by style, with the value "--name:value"; not an attribute of a text.
     CustomProperty,
     Class,
     Cx,
@@ -150,14 +150,14 @@ inline bool isTextProperty(AttributeId id)
 }
 
 AttributeId attributeId(QStringView name);
-/// The name of an attribute; empty for `Unknown` and for what is no attribute of a text.
+/// The name of an attribute; empty for `Unknown` and for ids that are not attributes of a text.
 QLatin1String attributeName(AttributeId id);
 
-/// An attribute as its template or a later write gives it.
+/// An attribute as set by the template or a later write.
 struct Attribute
 {
     AttributeId id = AttributeId::Unknown;
-    /// Only for names without a meaning here; the id stands for the others.
+    /// Only for names that are not interpreted; others are given by the id.
     QString name;
     QString value;
 };
@@ -166,17 +166,17 @@ struct Attribute
 class Attributes
 {
 public:
-    /// The text of an attribute; empty when there is none of that name.
+    /// The text of an attribute; empty if there is none of that name.
     QString value(AttributeId id) const;
     QString value(const QString &name) const;
-    /// The text of an attribute, for as long as the attributes do not change.
+    /// The text of an attribute, valid until the attributes change.
     QStringView view(AttributeId id) const;
     bool contains(AttributeId id) const { return find(id) != nullptr; }
     bool contains(const QString &name) const { return find(attributeId(name), name) != nullptr; }
-    /// A null value takes the attribute away.
+    /// A null value removes the attribute.
     void set(const QString &name, const QString &value);
     void set(AttributeId id, const QString &value);
-    /// Appends without looking for an attribute of that name.
+    /// Appends without searching for an attribute of that name.
     void append(const Attribute &attribute) { m_list.append(attribute); }
     void reserve(int count) { m_list.reserve(count); }
     int count() const { return m_list.size(); }

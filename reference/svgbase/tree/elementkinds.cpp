@@ -10,7 +10,7 @@ struct KindName
     ElementKind kind;
 };
 
-// Ordered by how often templates use them: the table is searched from the front.
+// Ordered by frequency in templates: the table is searched from the front.
 const KindName kindNames[] = {
     {QLatin1String("path"), ElementKind::Path},
     {QLatin1String("rect"), ElementKind::Rect},
@@ -26,7 +26,7 @@ const KindName kindNames[] = {
     {QLatin1String("tspan"), ElementKind::Tspan},
     {QLatin1String("textPath"), ElementKind::TextPath},
     {QLatin1String("tref"), ElementKind::Tref},
-    // An old way to ask for certain glyphs; its own characters are set.
+    // A deprecated way to select glyphs; its own characters are set.
     {QLatin1String("altGlyph"), ElementKind::Tspan},
     {QLatin1String("use"), ElementKind::Use},
     {QLatin1String("defs"), ElementKind::Defs},

@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// What an element of a document is.
+/// Kind of an element.
 enum class ElementKind : quint8 {
     /// The root.
     Document,
@@ -25,9 +25,9 @@ enum class ElementKind : quint8 {
     Text,
     Tspan,
     TextPath,
-    /// An old way to show the characters of another element.
+    /// A deprecated way to show the characters of another element.
     Tref,
-    /// Character data of a text; not an element of its own.
+    /// Character data of a text; not an element.
     Characters,
     Image,
     LinearGradient,
@@ -45,7 +45,7 @@ enum class ElementKind : quint8 {
     Mask,
     Marker,
     Filter,
-    // Filter primitives, and what belongs to them.
+    // Filter primitives and their parts.
     FeBlend,
     FeColorMatrix,
     FeComponentTransfer,
@@ -76,7 +76,7 @@ enum class ElementKind : quint8 {
     Description,
     /// A style sheet.
     Style,
-    // A font inside the document, and what belongs to it.
+    // A font inside the document and its parts.
     Font,
     FontFace,
     Glyph,
@@ -88,11 +88,11 @@ enum class ElementKind : quint8 {
 };
 
 ElementKind elementKind(QStringView localName);
-/// The name of the kind's elements; of the first where it has several, empty for `Characters` and `Other`.
+/// The name of the kind's elements, the first of several; empty for `Characters` and `Other`.
 QLatin1String elementName(ElementKind kind);
-/// Whether the kind holds children as a structure node does.
+/// Whether the kind has children like a structure node.
 bool isStructure(ElementKind kind);
-/// Whether the kind is drawn where it stands.
+/// Whether the kind is drawn directly.
 bool isDrawable(ElementKind kind);
 /// Drawable and with a geometry of its own.
 bool hasGeometry(ElementKind kind);
@@ -102,9 +102,9 @@ bool isTextPart(ElementKind kind);
 bool isAnimation(ElementKind kind);
 /// Whether other elements refer to the kind for their paint.
 bool isPaintServerPart(ElementKind kind);
-/// Whether the kind only acts on texts that are set in its font.
+/// Whether the kind only affects texts set in its font.
 bool isFontPart(ElementKind kind);
-/// Whether the kind only acts on elements that refer to it: clip paths, masks, markers, filters and their parts.
+/// Whether the kind only affects elements that refer to it: clip paths, masks, markers, filters and their parts.
 bool isEffectPart(ElementKind kind);
 
 } // namespace Svg

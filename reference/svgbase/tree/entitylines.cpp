@@ -48,7 +48,7 @@ private:
     int m_at = 0;
 };
 
-// Looks no further than `end`, which counts where the text is not found.
+// Searches up to `end`, which is the result if the text is not found.
 int EntityLines::behind(const char *text, int from, int end) const
 {
     const char *begin = m_xml.constData();
@@ -63,7 +63,7 @@ void EntityLines::copyTo(int end)
     m_at = end;
 }
 
-// Comments and instructions may hold quotes and brackets of their own.
+// Comments and instructions may contain quotes and brackets.
 bool EntityLines::copyComment()
 {
     if (isAt("<!--"))
@@ -75,7 +75,7 @@ bool EntityLines::copyComment()
     return true;
 }
 
-// Before the root nothing else stands.
+// Only comments and instructions can precede it.
 bool EntityLines::findDoctype()
 {
     for (;;) {
@@ -88,7 +88,7 @@ bool EntityLines::findDoctype()
     }
 }
 
-// Quotes of a value may hold brackets.
+// Quoted values may contain brackets.
 int EntityLines::tagEnd(int end) const
 {
     char quote = '\0';
@@ -113,7 +113,7 @@ int EntityLines::markupEnd(int end) const
     return isAt("<?") ? behind("?>", m_at, end) : tagEnd(end);
 }
 
-// The number of lines that end in what is copied.
+// Returns the number of lines that end in the copied text.
 int EntityLines::copyOnOneLine(int end)
 {
     int lines = 0;

@@ -4,9 +4,9 @@
 
 namespace Svg {
 
-/// The same text for Qt's reader, which takes an end of a line for a letter where an entity brings it along: inside
-/// of a tag, where it counts as white space (XML 1.0 §3.1), it becomes a space and follows the entity's text
-/// instead, so that lines keep their numbers.
+/// Adapts text to Qt's reader, which treats an end of a line from an entity as a letter. Inside a tag, where it is
+/// white space (XML 1.0 §3.1), it becomes a space, and a line end is added after the entity's text, so that line
+/// numbers stay correct.
 QByteArray withEntityMarkupOnOneLine(const QByteArray &xml);
 
 } // namespace Svg

@@ -8,11 +8,11 @@ namespace Svg {
 
 namespace {
 
-/// Added to the window size, it makes zlib expect the header of a gzip file.
+/// Added to the window size, makes zlib expect the header of a gzip file.
 constexpr int gzipHeader = 16;
 constexpr size_t pieceBytes = 64 * 1024;
 
-/// A zlib stream that is ended whatever happens.
+/// Owns a zlib stream.
 class Inflater
 {
 public:
@@ -36,8 +36,8 @@ public:
         result->append(m_piece.data(), int(m_piece.size() - m_stream.avail_out));
         return status;
     }
-    /// Goes on to the next member of the file. False when what follows the last one is none: some programs fill
-    /// up the last block of a tape or a disk.
+    /// Continues with the next member of the file. False if no member follows: some programs pad the last block of
+    /// a tape or a disk.
     bool beginNextMember()
     {
         const QByteArray rest =

@@ -6,14 +6,14 @@ namespace Svg {
 
 using Message = QZeSvgTinyDocument::Message;
 
-/// What is wrong with an element; nothing while there is no text.
+/// An error of an element; none if the text is empty.
 struct Problem
 {
     Message::Code code = Message::Unspecified;
     QString text;
 };
 
-/// Collects messages up to the limit; of the rest the first with each code is kept.
+/// Collects messages up to the limit; beyond it, only the first of each code.
 class Messages
 {
 public:

@@ -11,7 +11,7 @@ namespace {
 
 const QLatin1String xmlNamespace("http://www.w3.org/XML/1998/namespace");
 const QLatin1String xmlnsNamespace("http://www.w3.org/2000/xmlns/");
-/// Of one tag; the search for duplicates compares each with all others.
+/// Most attributes of one tag; the search for duplicates compares each with all others.
 constexpr int mostAttributes = 32;
 
 enum CharacterClass : quint8 { NameStart = 1, NamePart = 2, Space = 4, Special = 8 };
@@ -37,7 +37,7 @@ bool is(CharacterClass wanted, QChar c)
     return c.unicode() < 128 && (classes[c.unicode()] & wanted);
 }
 
-// The replacement character stands for bytes that are no UTF-8.
+// The replacement character represents bytes that are not UTF-8.
 bool isPlainText(QStringView text)
 {
     for (const QChar c : text) {
@@ -92,7 +92,7 @@ private:
     struct Open
     {
         QStringView name;
-        int namespaces; ///< how many were in force outside
+        int namespaces; ///< number in scope outside
     };
 
     bool readXmlDeclaration();
@@ -122,7 +122,7 @@ private:
     TreeBuilder *m_builder;
     const QChar *m_at;
     const QChar *m_end;
-    /// How far lines were counted.
+    /// Lines were counted up to here.
     const QChar *m_counted;
     const QChar *m_lineStart;
     qint64 m_line = 1;
@@ -195,7 +195,7 @@ bool PlainReader::readName(Name *name)
             return false;
     }
     name->whole = {begin, m_at};
-    // What else may be part of a name is not plain.
+    // Other characters of names are not plain.
     return atEnd() || (m_at->unicode() < 128 && !isAt(':'));
 }
 
@@ -246,7 +246,7 @@ bool PlainReader::readText()
         return true;
     if (text.contains(QLatin1Char(']')) && text.contains(QLatin1String("]]>")))
         return false;
-    // Only the sign behind it ends a text, so it counts as read.
+    // Only the following "<" ends a text, so it counts as read.
     const XmlPlace end = place();
     m_builder->characters(text, false, {end.line, end.column + 1});
     return true;
@@ -361,7 +361,7 @@ QStringView PlainReader::normalized(QStringView value)
     return m_normalized.last();
 }
 
-// Also of names that differ in their prefixes alone, since those may mean the same.
+// Includes names that differ only in their prefixes, since those may be the same.
 bool PlainReader::hasDuplicates() const
 {
     for (int i = 1; i < m_attributes.size(); ++i) {
@@ -389,8 +389,8 @@ bool PlainReader::declareNamespaces()
     return true;
 }
 
-// Namespaces in XML 1.0 §3: a prefix can't be taken back, and two names are reserved. A normalised text doesn't
-// last as long as its element.
+// Namespaces in XML 1.0 §3: a prefix can't be undeclared, and two names are reserved. Normalised text isn't valid
+// as long as its element.
 bool PlainReader::declare(QStringView prefix, QStringView uri)
 {
     if (uri.contains(QLatin1Char(' ')) || uri == xmlNamespace || uri == xmlnsNamespace ||

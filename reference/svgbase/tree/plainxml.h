@@ -6,11 +6,10 @@ namespace Svg {
 
 class TreeBuilder;
 
-/// Reads XML of the plain kind that drawing programs and authors write, several times faster than Qt's reader, and
-/// tells the builder the same. False, the builder's tree then being of no use, for everything else, well formed or
-/// not: entities, sections of character data, processing instructions and document types, carriage returns, names
-/// beyond ASCII, tags with more than 32 attributes, and whatever has an error; what is wrong is left to Qt's reader
-/// to say.
+/// Reads plain XML, as drawing programs and authors write it, several times faster than Qt's reader and with the
+/// same result. False, with an unusable tree, for everything else, well formed or not: entities, CDATA sections,
+/// processing instructions and document types, carriage returns, names beyond ASCII, tags with more than 32
+/// attributes, and any error; Qt's reader then reports it.
 bool readPlainXml(const QString &text, TreeBuilder *builder);
 
 } // namespace Svg

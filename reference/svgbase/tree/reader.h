@@ -6,7 +6,7 @@
 namespace Svg {
 
 /// Reads SVG text, plain or compressed as gzip, into a tree. False when the text is not well-formed XML with an
-/// "svg" root or exceeds a limit; the last message then says why and where.
+/// "svg" root or exceeds a limit; the last message then gives reason and position.
 bool readTree(const QByteArray &text, Tree *tree, Messages *messages);
 
 } // namespace Svg

@@ -4,8 +4,8 @@
 
 namespace Svg {
 
-/// The id that an element's "href" refers to, or its "xlink:href" where it has no "href" (SVG 2 §16.1.4); empty for
-/// anything but a reference into the document itself.
+/// The id that an element's "href" refers to, or its "xlink:href" if it has no "href" (SVG 2 §16.1.4); empty unless
+/// it is a reference into the document itself.
 QString hrefTarget(const Attributes &attributes);
 
 } // namespace Svg

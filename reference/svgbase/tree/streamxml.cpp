@@ -13,7 +13,7 @@ namespace Svg {
 
 namespace {
 
-/// Has Qt's reader tell a builder what a text holds.
+/// Passes the events of Qt's reader to a builder.
 class StreamReading
 {
 public:
@@ -97,7 +97,7 @@ bool claimsUtf8(const QByteArray &declared)
     return declared.isEmpty() || declared.toLower() == "utf-8";
 }
 
-// Null for UTF-8. What is UTF-8 counts as that whatever it says: programs rewrite text and forget the declaration.
+// Null for UTF-8. Valid UTF-8 counts as that whatever its declaration says: programs rewrite text and forget it.
 QTextCodec *foreignCodec(const QByteArray &text, const QByteArray &declared)
 {
     if (isUtf16(text))
@@ -124,7 +124,7 @@ bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages)
     const QByteArray declared = declaredEncoding(text);
     const QTextCodec *codec = foreignCodec(text, declared);
     const QByteArray decoded = codec ? codec->toUnicode(text).toUtf8() : text;
-    // Other encodings may take fewer bytes.
+    // Other encodings may need fewer bytes than UTF-8.
     if (isTextTooLong(decoded, messages))
         return false;
     const std::optional<QByteArray> thinned = withoutCrowdedTags(withEntityMarkupOnOneLine(decoded));
@@ -135,7 +135,7 @@ bool readStreamedXml(const QByteArray &text, Tree *tree, Messages *messages)
         return false;
     }
     QXmlStreamReader xml;
-    // Characters, unlike bytes, keep the reader from following the encoding that a text claims to have.
+    // Given characters instead of bytes, the reader ignores the declared encoding.
     if (codec || !claimsUtf8(declared))
         xml.addData(QString::fromUtf8(thinned->constData(), thinned->size()));
     else

@@ -30,8 +30,7 @@ bool startsWith(const char *at, const char *end, const char *text)
     return size_t(end - at) >= length && memcmp(at, text, length) == 0;
 }
 
-/// A part of the text, and whether it has too many quoted values; where not even their end is known, it is
-/// `Hopeless`.
+/// A part of the text, and whether it has too many quoted values; `Hopeless` if their end is unknown.
 struct Scan
 {
     enum Finding { Fine, Crowded, Hopeless };
@@ -59,7 +58,7 @@ Scan scanTag(const char *at, const char *end)
     return {at, at == end ? Scan::Hopeless : Scan::Crowded};
 }
 
-// A literal may hold whole tags as an entity's text; their attributes show as equals signs.
+// A literal may contain whole tags as an entity's text; equals signs count their attributes.
 Scan scanDoctype(const char *at, const char *end)
 {
     int open = 0;
@@ -99,13 +98,13 @@ Scan scanMarkup(const char *at, const char *end)
     return scanTag(at, end);
 }
 
-// A quote does so too, though not in XML: behind the name there must be room for the mark.
+// A quote also does, although not in XML: there must be space for the mark after the name.
 bool endsName(char c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '/' || c == '>' || c == '"' || c == '\'';
 }
 
-// Lines keep their numbers: all ends of lines move to the end of the tag.
+// Moves all line ends to the end of the tag, so that line numbers stay correct.
 void replaceAttributes(char *at, char *end)
 {
     while (at != end && !endsName(*at))
@@ -113,7 +112,7 @@ void replaceAttributes(char *at, char *end)
     if (end[-1] == '/')
         --end;
     const auto lines = std::count(at, end, '\n');
-    // Shorter than the quotes of as many values as there must be.
+    // Shorter than the quotes of the minimum number of values.
     const QByteArray mark = " " + QByteArray(crowdedMark.data(), crowdedMark.size()) + "=''";
     memcpy(at, mark.constData(), size_t(mark.size()));
     memset(at + mark.size(), ' ', size_t(end - at) - size_t(mark.size()));

@@ -7,12 +7,12 @@
 
 namespace Svg {
 
-/// The one attribute that is left to a tag with too many.
+/// The only remaining attribute of a tag with too many.
 const QLatin1String crowdedMark("gliololok-crowded-tag");
 
-/// XML text with all attributes of tags that have more than the limit replaced by `crowdedMark`. Nothing when such
-/// a tag does not end, or an entity's replacement text holds so many. Done before Qt's reader sees the text, since
-/// its search for duplicates takes quadratic time. Whether the text is well formed is the reader's business.
+/// Replaces the attributes of tags with more than the limit by `crowdedMark`. No value if such a tag doesn't end,
+/// or an entity's replacement text has so many. Qt's reader needs this, since its search for duplicates takes
+/// quadratic time. The text need not be well formed.
 std::optional<QByteArray> withoutCrowdedTags(const QByteArray &xml);
 
 } // namespace Svg

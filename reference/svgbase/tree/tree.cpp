@@ -17,7 +17,8 @@ bool hasLocalName(const Node &node, const QString &name)
 {
     if (node.name.isEmpty())
         return name == elementName(node.kind);
-    // Most names differ at their ends; looking for a prefix takes the longer the longer they are.
+    // Most names differ at their ends, so compare these first; finding the prefix takes time in proportion to the
+    // length.
     if (!node.name.endsWith(name))
         return false;
     const int prefix = node.name.size() - name.size();

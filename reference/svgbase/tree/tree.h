@@ -14,7 +14,7 @@ namespace Svg {
 class StyleRules;
 using StyleRulesPointer = std::shared_ptr<const StyleRules>;
 
-/// The place of a node in its tree; it stays the same for as long as the tree lives.
+/// Index of a node in its tree; constant for the lifetime of the tree.
 using NodeIndex = int;
 constexpr NodeIndex noNode = -1;
 constexpr NodeIndex rootNode = 0;
@@ -23,9 +23,9 @@ constexpr NodeIndex rootNode = 0;
 struct Node : QSharedData
 {
     ElementKind kind = ElementKind::Other;
-    /// Whether the node stands in its parent's list of children. Removed nodes and fresh copies keep their parent.
+    /// Whether the node is in its parent's list of children. Removed nodes and fresh copies keep their parent.
     bool linked = false;
-    /// What the template says about document-wide styling: a paint of "none" keeps it out.
+    /// Whether document-wide styling applies: a paint of "none" in the template excludes it.
     bool takesFill = true;
     bool takesStroke = true;
     NodeIndex parent = noNode;
@@ -33,17 +33,17 @@ struct Node : QSharedData
     NodeIndex lastChild = noNode;
     NodeIndex previous = noNode;
     NodeIndex next = noNode;
-    /// Where its start tag ends in the text; for `Style` nodes, where the style sheet begins.
+    /// Position of the end of its start tag; for `Style` nodes, of the beginning of the style sheet.
     int line = 0;
     int column = 0;
     Attributes attributes;
     /// Characters of `Characters`, `Description` and `Style` nodes.
     QString text;
-    /// As the text has it, prefix included, where that is not the name of the kind.
+    /// As in the text, with prefix, unless it is the name of the kind.
     QString name;
 };
 
-/// The name of an element as its text has it; empty for `Characters`.
+/// The name of an element as in its text; empty for `Characters`.
 QString qualifiedName(const Node &node);
 /// The same without its prefix.
 QString localName(const Node &node);
@@ -55,43 +55,43 @@ class Tree
 {
 public:
     int size() const { return m_nodes.size(); }
-    /// Whether there are, or were, texts that refer to other elements for their way or their characters.
+    /// Whether there are, or were, texts that refer to other elements for their path or their characters.
     bool hasTextReferences() const { return m_textReferences; }
     /// Whether there are, or were, fonts.
     bool hasFonts() const { return m_hasFonts; }
     const Node &node(NodeIndex index) const { return *m_nodes.at(index); }
     Node &edit(NodeIndex index) { return *m_nodes[index]; }
 
-    /// Adds a node that is in no list of children yet.
+    /// Adds a node without linking it to a parent's list of children.
     NodeIndex add(const Node &node);
     void link(NodeIndex parent, NodeIndex child);
     void unlink(NodeIndex child);
-    /// A copy of the node and of everything below it, under the same parent but not linked.
+    /// Copies the node and everything below it, under the same parent but not linked.
     NodeIndex copySubtree(NodeIndex source);
-    /// Forgets the contents of an unlinked subtree and keeps its places for later copies.
+    /// Clears an unlinked subtree and keeps its indices for later copies.
     void discardSubtree(NodeIndex top);
 
-    /// What percentages of a root refer to that gives itself no size.
+    /// Reference size for percentages of a root without a size.
     const QSizeF &window() const { return m_window; }
     void setWindow(const QSizeF &size) { m_window = size; }
 
     /// Whether any node, linked or not, is a style sheet.
     bool hasStyleSheets() const { return m_hasStyleSheets; }
-    /// The rules of the style sheets; null where there are none.
+    /// The rules of the style sheets; null if there are none.
     const StyleRulesPointer &rules() const { return m_rules; }
     void setRules(const StyleRulesPointer &rules) { m_rules = rules; }
 
-    /// The first node in document order with that id; `noNode` when there is none.
+    /// The first node in document order with that id; `noNode` if there is none.
     NodeIndex findId(const QString &id) const;
-    /// Makes the index of ids now, so that lookups write nothing until the tree changes.
+    /// Builds the index of ids now, so that lookups don't modify anything until the tree changes.
     void settleIds() { indexIds(); }
-    /// To be called whenever an "id" changed.
+    /// Must be called whenever an "id" has changed.
     void forgetIds() { m_idsKnown = false; }
-    /// Whether `ancestor` is `index` or stands above it.
+    /// Whether `ancestor` is `index` or one of its ancestors.
     bool isWithin(NodeIndex index, NodeIndex ancestor) const;
     /// The node after `index` in document order within the subtree of `top`; `noNode` at its end.
     NodeIndex following(NodeIndex index, NodeIndex top) const;
-    /// The same, leaving out what is below `index`.
+    /// The same, skipping the descendants of `index`.
     NodeIndex followingBeside(NodeIndex index, NodeIndex top) const;
 
 private:

@@ -79,11 +79,11 @@ bool TreeBuilder::isInText() const
 
 ElementKind TreeBuilder::kindOfElement(const XmlElement &element, XmlPlace place)
 {
-    // Without a namespace at its root, a document is SVG all the same.
+    // A document without a namespace at its root is also SVG.
     if (element.namespaceUri != svgNamespace && (!element.namespaceUri.isEmpty() || !m_withoutNamespace))
         return ElementKind::Other;
     const ElementKind kind = elementKind(element.name);
-    // A link inside a text is a part of it.
+    // A link inside a text is part of the text.
     if (kind == ElementKind::Group && isInText())
         return element.name == QLatin1String("a") ? ElementKind::Tspan : ElementKind::Other;
     if (kind == ElementKind::TextPath && ++m_textPaths > Limits::textPaths) {
@@ -117,7 +117,7 @@ ElementKind TreeBuilder::kindOfElement(const XmlElement &element, XmlPlace place
     return kind == ElementKind::NestedSvg && m_open.isEmpty() ? ElementKind::Document : kind;
 }
 
-// The element and all that is inside of it.
+// Applies to the element and all its contents.
 bool TreeBuilder::isLeftOut(const XmlElement &element, XmlPlace place)
 {
     Problem problem;
@@ -189,7 +189,7 @@ void TreeBuilder::startOpen(const XmlElement &element, XmlPlace place)
     m_open.append(add(node, place));
 }
 
-// Reading on would take the longer the more of them there are.
+// Continuing would take longer the more of them there are.
 void TreeBuilder::endAtNamespaces(const XmlElement &element, XmlPlace place)
 {
     const QString limit =

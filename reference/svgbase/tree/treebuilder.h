@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// Makes a tree of what a reader of XML tells, within the limits.
+/// Builds a tree from the events of an XML reader, within the limits.
 class TreeBuilder
 {
 public:
@@ -21,9 +21,9 @@ public:
     void endElement();
     void characters(QStringView text, bool cdata, XmlPlace place);
 
-    /// Why the text can't be used; nothing while it can.
+    /// Reason why the text can't be used; empty while it can.
     const Problem &refusal() const { return m_refusal; }
-    /// Whether nothing more is taken; what is there already counts.
+    /// Whether the rest of the text is ignored; the tree so far is valid.
     bool hasEnded() const { return m_ended; }
 
 private:
@@ -39,15 +39,15 @@ private:
     Messages *m_messages;
     Problem m_refusal;
     bool m_ended = false;
-    /// Open elements, those that are left out aside.
+    /// Open elements, without those that are left out.
     QVector<NodeIndex> m_open;
-    /// How many namespace declarations each open element brought into force.
+    /// Number of namespace declarations of each open element.
     QVector<int> m_openNamespaces;
     int m_namespaces = 0;
     int m_textPaths = 0;
     int m_trefs = 0;
     int m_fontFaces = 0;
-    /// Open elements that are left out, all of them inside the outermost one.
+    /// Number of open elements that are left out, all inside the outermost one.
     int m_leftOut = 0;
     int m_stops = 0;
     bool m_withoutNamespace = false;

@@ -13,7 +13,7 @@ struct XmlAttribute
     QStringView value;
 };
 
-/// What an "xmlns" attribute says; the prefix of the default namespace is empty.
+/// An "xmlns" attribute; the prefix of the default namespace is empty.
 struct XmlDeclaration
 {
     QStringView prefix;
@@ -30,7 +30,7 @@ struct XmlElement
     QVarLengthArray<XmlDeclaration, 4> declarations;
 };
 
-/// How far a text has been read when something of it is told.
+/// Reading position at an event.
 struct XmlPlace
 {
     qint64 line = 1;
