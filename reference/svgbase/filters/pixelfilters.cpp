@@ -1,6 +1,6 @@
 #include "filters/pixelfilters.h"
 
-#include "resolve/linearlight.h"
+#include "grammar/linearlight.h"
 
 namespace Svg {
 

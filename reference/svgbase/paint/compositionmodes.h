@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scene/filter.h"
+#include "resolve/filterprimitive.h"
 
 #include <QtGui/QPainter>
 

@@ -1,7 +1,5 @@
 #include "paint/damage.h"
 
-#include "paint/displaylist.h"
-
 namespace Svg {
 
 namespace {
@@ -10,8 +8,6 @@ namespace {
 constexpr int smoothingMargin = 2;
 /// More rectangles than this are not worth a painting each.
 constexpr int mostRects = 4;
-/// Where growing takes more passes over a list, all of it is painted.
-constexpr int mostPasses = 8;
 
 QRectF withMargin(const QRectF &bounds)
 {
@@ -47,11 +43,6 @@ void uniteNearest(QVector<QRectF> *rects)
     addApart(rects, united);
 }
 
-bool isPaintedWhole(const DisplayItem &item)
-{
-    return item.kind != DisplayItem::Shape || item.isIndivisible;
-}
-
 } // namespace
 
 QRect paintedPixels(const QRectF &bounds, const QRect &within)
@@ -77,26 +68,6 @@ QVector<QRect> Damage::pixels(const QRect &within) const
             addApart(&result, aligned);
     }
     return result;
-}
-
-QRect grownToItems(const QRect &rect, const QVector<DisplayItem> &items, const QRect &within)
-{
-    QRect grown = rect;
-    for (int pass = 0; pass < mostPasses; ++pass) {
-        const QRect before = grown;
-        for (int i = 0; i < items.size(); ++i) {
-            const DisplayItem &item = items.at(i);
-            if (isPaintedWhole(item)) {
-                const QRect reach = paintedPixels(item.bounds, within);
-                grown = reach.intersects(grown) ? grown | reach : grown;
-            }
-            if (item.kind == DisplayItem::BeginLayer)
-                i = item.end;
-        }
-        if (grown == before)
-            return grown;
-    }
-    return within;
 }
 
 } // namespace Svg

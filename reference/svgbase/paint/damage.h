@@ -5,8 +5,6 @@
 
 namespace Svg {
 
-struct DisplayItem;
-
 /// Adds a rectangle to others that are apart; what it touches becomes one with it.
 template<typename Rect> void addApart(QVector<Rect> *rects, Rect rect)
 {
@@ -25,11 +23,11 @@ template<typename Rect> void addApart(QVector<Rect> *rects, Rect rect)
 /// The pixels that painting within `bounds` (painter units) may change.
 QRect paintedPixels(const QRectF &bounds, const QRect &within);
 
-/// What of a painted list no longer looks as it was painted: a few rectangles, painter units.
+/// Parts of a painted list that no longer look as they were painted: a few rectangles, painter units.
 class Damage
 {
 public:
-    /// Adds what painting within `bounds` may have changed.
+    /// Adds the pixels that painting within `bounds` may have changed.
     void add(const QRectF &bounds);
     bool isEmpty() const { return m_rects.isEmpty(); }
     /// The damaged pixels, as rectangles that are apart.
@@ -38,9 +36,5 @@ public:
 private:
     QVector<QRectF> m_rects;
 };
-
-/// Grows a rectangle of pixels until it holds the whole of every item that it touches and whose pixels depend on
-/// where its painting begins: layers, images, and what is painted with a gradient or a pattern.
-QRect grownToItems(const QRect &rect, const QVector<DisplayItem> &items, const QRect &within);
 
 } // namespace Svg

@@ -26,14 +26,14 @@ void reportStrokes(const MappingBudget &mapping, DrawReport *report)
                     QStringLiteral("Strokes of more than %1 dashes are drawn solid.").arg(Limits::dashes));
 }
 
-void forgetMapping(QVector<DisplayItem> *items)
+void forgetMapping(MappedItems *items)
 {
-    for (DisplayItem &item : *items)
+    for (MappedItem &item : *items)
         item.mapped = false;
 }
 
-/// What an item takes besides its outline: itself, pen and brush; and what its path keeps of being painted.
-/// Measured.
+/// Memory of an item besides its outline (itself, pen and brush), and of the data that its path keeps of being
+/// painted. Measured.
 constexpr double itemOverhead = 800;
 constexpr double paintedOverhead = 3200;
 
@@ -56,14 +56,23 @@ double flatWeight(const FlatShape &flat)
 }
 
 // An outline that is painted again and again is held twice, the second time as the painter's own copy.
-double itemWeight(const DisplayItem &item, bool isPaintedAgain)
+double shapeWeight(const MappedShape &shape, bool isPaintedAgain)
 {
-    const int elements = item.path.elementCount() + item.strokePath.elementCount();
-    const bool keepsCopy = isPaintedAgain && !item.mapping;
-    return itemOverhead + (keepsCopy ? paintedOverhead : 0) +
+    const int elements = shape.path.elementCount() + shape.strokePath.elementCount();
+    const bool keepsCopy = isPaintedAgain && !shape.mapping;
+    return (keepsCopy ? paintedOverhead : 0) +
            (keepsCopy ? 2.0 : 1.0) * double(sizeof(QPainterPath::Element)) * elements +
-           (item.picture ? double(item.picture->image.sizeInBytes()) : 0) +
-           (item.flat ? flatWeight(*item.flat) : 0);
+           (shape.flat ? flatWeight(*shape.flat) : 0);
+}
+
+double itemWeight(const MappedItem &item, bool isPaintedAgain)
+{
+    double weight = itemOverhead;
+    if (const auto *shape = std::get_if<MappedShape>(&item.content))
+        weight += shapeWeight(*shape, isPaintedAgain);
+    if (const auto *picture = std::get_if<MappedPicture>(&item.content))
+        weight += double(picture->image.sizeInBytes());
+    return weight;
 }
 
 } // namespace
@@ -72,9 +81,9 @@ int DisplayList::weight() const
 {
     double weight = double(sizeof(DisplayList)) + m_picture.bytes();
     const bool isPaintedAgain = m_paintings > 1;
-    for (const DisplayItem &item : m_items)
+    for (const MappedItem &item : m_items)
         weight += itemWeight(item, isPaintedAgain);
-    for (const DisplayItem &item : m_controlPoints)
+    for (const MappedItem &item : m_controlPoints)
         weight += itemWeight(item, isPaintedAgain);
     return int(qMin(weight, double(std::numeric_limits<int>::max())));
 }
@@ -82,10 +91,10 @@ int DisplayList::weight() const
 QRectF DisplayList::paintedBounds(bool withControlPoints) const
 {
     QRectF bounds;
-    for (const DisplayItem &item : m_items)
+    for (const MappedItem &item : m_items)
         bounds |= item.bounds;
     if (withControlPoints) {
-        for (const DisplayItem &item : m_controlPoints)
+        for (const MappedItem &item : m_controlPoints)
             bounds |= item.bounds;
     }
     return bounds;
@@ -108,15 +117,15 @@ double DisplayList::paintAll(QPainter *painter, bool withControlPoints)
 void DisplayList::reportPainting(const PaintBudget &budget)
 {
     m_paintReport = DrawReport();
-    if (budget.lacksWork() || (m_tiles && m_tiles->budget.lacksWork()))
+    if (budget.lacksWork() || m_tiles.budget().lacksWork())
         m_paintReport.add(Message::TooMuchPainting,
                           QStringLiteral("Painting takes too long; what comes last is left out."));
-    if (budget.lacksPixels || (m_tiles && m_tiles->budget.lacksPixels))
+    if (budget.lacksPixels || m_tiles.budget().lacksPixels)
         m_paintReport.add(
             Message::TooManyLayerPixels,
             QStringLiteral("Opacity, clip paths, masks and filters need too many pixels; some have no "
                            "effect or nothing to show."));
-    if (m_tiles && m_tiles->exhausted)
+    if (m_tiles.isExhausted())
         m_paintReport.add(Message::TooManyPatterns,
                           QStringLiteral("Tiles of patterns with too many pixels together are left out."));
 }
@@ -127,9 +136,8 @@ QVector<Message> DisplayList::messages(const Tree &tree) const
     m_buildReport.appendTo(&result, tree);
     m_paintReport.appendTo(&result, tree);
     DrawReport strokes;
-    reportStrokes(m_mapping, &strokes);
-    if (m_tiles)
-        reportStrokes(m_tiles->mapping, &strokes);
+    reportStrokes(m_mappingBudget, &strokes);
+    reportStrokes(m_tiles.mapping(), &strokes);
     strokes.appendTo(&result, tree);
     return result;
 }
@@ -156,7 +164,7 @@ void DisplayList::paint(QPainter *painter, bool withControlPoints)
     m_damage = Damage();
 }
 
-// What was cut short for want of time or memory depends on what was painted before, so it is not kept.
+// A picture that was cut short for want of time or memory depends on what was painted before: it is not kept.
 void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints)
 {
     m_repainted = {m_picture.area()};
@@ -213,43 +221,45 @@ QVector<QRect> DisplayList::damagedParts(bool withControlPoints) const
     return parts;
 }
 
-void DisplayList::replaceItems(QVector<DisplayItem> *items, QVector<DisplayItem> fresh, const QTransform &stretch,
-                               const QTransform &world)
+void DisplayList::map(MappedItems *items)
 {
+    mapItems(items, m_mapping, &m_mappingBudget, &m_tiles);
+}
+
+void DisplayList::replaceItems(MappedItems *items, const DisplayItems &built)
+{
+    MappedItems fresh = unmapped(built);
     const QVector<int> changed = takeOverMapped(&fresh, items);
     items->swap(fresh);
-    mapItems(items, stretch, world, &m_mapping);
+    map(items);
     addDifference(fresh, *items, changed, &m_damage);
 }
 
 void DisplayList::update(SettledTree &document, const QTransform &stretch, const QTransform &world)
 {
-    const bool sameMapping = m_built && m_stretch == stretch && m_world == world;
+    const bool sameMapping = m_built && m_mapping.stretch == stretch && m_mapping.world == world;
     const bool sameContent = m_built && m_revision == document.revision();
     if (sameMapping && sameContent)
         return;
-    m_mapping = MappingBudget();
+    m_mapping = {stretch, world};
+    m_mappingBudget = MappingBudget();
+    m_tiles = PatternTiles();
     if (!sameMapping) {
         m_picture.clear();
         forgetMapping(&m_items);
         forgetMapping(&m_controlPoints);
-        if (m_tiles)
-            *m_tiles = PatternTiles();
     }
     if (sameContent) {
-        mapItems(&m_items, stretch, world, &m_mapping);
-        mapItems(&m_controlPoints, stretch, world, &m_mapping);
+        map(&m_items);
+        map(&m_controlPoints);
     } else {
-        BuiltList built = buildList(document);
-        m_tiles = built.tiles;
+        const BuiltList built = buildList(document);
         m_buildReport = built.report;
-        replaceItems(&m_items, std::move(built.items), stretch, world);
-        replaceItems(&m_controlPoints, std::move(built.controlPoints), stretch, world);
+        replaceItems(&m_items, built.items);
+        replaceItems(&m_controlPoints, built.controlPoints);
     }
     if (!sameMapping)
         m_damage = Damage();
-    m_stretch = stretch;
-    m_world = world;
     m_revision = document.revision();
     m_built = true;
 }

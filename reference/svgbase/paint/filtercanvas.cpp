@@ -56,9 +56,9 @@ bool dependsOnAxes(const FilterPrimitive &primitive, bool similarity)
     }
 }
 
-bool dependsOnAxes(const Filter &filter)
+bool dependsOnAxes(const Filter &filter, const QTransform &toPainter)
 {
-    const bool similarity = isSimilarity(filter.toPainter);
+    const bool similarity = isSimilarity(toPainter);
     for (const FilterStep &step : filter.steps) {
         for (const FilterPrimitive &primitive : step.primitives) {
             if (dependsOnAxes(primitive, similarity))
@@ -82,10 +82,10 @@ QRectF neededRegion(const Filter &filter)
 
 } // namespace
 
-std::optional<FilterCanvas> filterCanvas(const Filter &filter)
+std::optional<FilterCanvas> filterCanvas(const Filter &filter, const QTransform &toPainter)
 {
-    const QTransform &t = filter.toPainter;
-    if (!isTurned(t) || !t.isInvertible() || !dependsOnAxes(filter))
+    const QTransform &t = toPainter;
+    if (!isTurned(t) || !t.isInvertible() || !dependsOnAxes(filter, t))
         return std::nullopt;
     const QTransform scale = QTransform::fromScale(across(t), down(t));
     FilterCanvas canvas;

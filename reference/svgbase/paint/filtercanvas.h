@@ -15,12 +15,12 @@ struct FilterCanvas
 {
     QTransform fromPainter;
     QTransform toPainter;
-    /// What the filter may need of it; null for everything.
+    /// The part that the filter may need; null for everything.
     QRectF needed;
 };
 
 /// The canvas of a filter that makes a difference between the axes of its element while these are turned or skewed;
 /// nothing for a filter that works on the painter's own pixels as well.
-std::optional<FilterCanvas> filterCanvas(const Filter &filter);
+std::optional<FilterCanvas> filterCanvas(const Filter &filter, const QTransform &toPainter);
 
 } // namespace Svg

@@ -5,10 +5,10 @@
 #include "filters/lighting.h"
 #include "filters/pixelfilters.h"
 #include "filters/turbulence.h"
+#include "grammar/linearlight.h"
 #include "inputlimits.h"
 #include "paint/compositionmodes.h"
-#include "raster/layerpictures.h"
-#include "resolve/linearlight.h"
+#include "raster/blending.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
@@ -19,7 +19,7 @@ namespace Svg {
 
 namespace {
 
-/// What a primitive costs, in plain passes over its pixels.
+/// Costs of primitives, in plain passes over their pixels.
 constexpr double plainCost = 2;
 /// How many times as long lines are at most where a blur looks beyond edges.
 constexpr double extendedLines = 5;
@@ -46,10 +46,10 @@ struct FilterResult
 class StepRunner
 {
 public:
-    StepRunner(const Filter &filter, const FilterStep &step, const QTransform &toPixels,
-               const FilterServices &services)
+    StepRunner(const Filter &filter, int step, const QTransform &toPixels, const FilterServices &services)
         : m_filter(filter)
-        , m_step(step)
+        , m_stepIndex(step)
+        , m_step(filter.steps.at(step))
         , m_toPixels(toPixels)
         , m_services(services)
     {
@@ -61,7 +61,7 @@ public:
     bool run(QImage *picture);
 
 private:
-    bool apply(const FilterPrimitive &primitive);
+    bool apply(int index);
     bool isNeededAfter(int index, const QString &name) const;
     void keepNeeded(int index);
     double pixelCount() const { return double(m_source.picture.width()) * m_source.picture.height(); }
@@ -69,7 +69,8 @@ private:
     FilterResult input(const FilterPrimitive &primitive, int index) const;
     QImage inputPicture(const FilterPrimitive &primitive, int index) const;
     QRectF primitiveRegion(const FilterPrimitive &primitive) const;
-    QImage result(const FilterPrimitive &primitive) const;
+    QImage result(int index) const;
+    QImage shownImage(int index) const;
     QImage blank() const;
     QImage painted(const QBrush &brush) const;
     QImage blurred(const FilterPrimitive &primitive, QImage picture) const;
@@ -91,6 +92,7 @@ private:
     void cut(QImage *picture, const QRectF &region) const;
 
     const Filter &m_filter;
+    int m_stepIndex;
     const FilterStep &m_step;
     QTransform m_toPixels;
     const FilterServices &m_services;
@@ -384,8 +386,15 @@ QImage StepRunner::turbulent(const FilterPrimitive &primitive) const
     return picture;
 }
 
-QImage StepRunner::result(const FilterPrimitive &primitive) const
+QImage StepRunner::shownImage(int index) const
 {
+    const QImage picture = m_step.images.contains(index) ? m_services.paint(m_stepIndex, index) : QImage();
+    return picture.isNull() ? blank() : picture;
+}
+
+QImage StepRunner::result(int index) const
+{
+    const FilterPrimitive &primitive = m_step.primitives.at(index);
     QImage picture;
     switch (primitive.kind) {
     case ElementKind::FeGaussianBlur:
@@ -424,8 +433,7 @@ QImage StepRunner::result(const FilterPrimitive &primitive) const
         applyTables(&picture, primitive.tables);
         return picture;
     case ElementKind::FeImage:
-        picture = primitive.items.isEmpty() ? blank() : m_services.paint(primitive.items);
-        return picture.isNull() ? blank() : picture;
+        return shownImage(index);
     default:
         return blank();
     }
@@ -451,14 +459,15 @@ double costOfPixel(const FilterPrimitive &primitive)
     return byLines ? lineCost : plainCost + primitive.inputs.size();
 }
 
-bool StepRunner::apply(const FilterPrimitive &primitive)
+bool StepRunner::apply(int index)
 {
+    const FilterPrimitive &primitive = m_step.primitives.at(index);
     if (!m_services.takePixels(pixelCount() * costOfPixel(primitive)) || !holdResults())
         return false;
     FilterResult made;
     made.region = primitiveRegion(primitive) & m_region;
     made.linear = primitive.linear && !isEncoded(primitive.kind);
-    made.picture = made.region.isEmpty() ? blank() : result(primitive);
+    made.picture = made.region.isEmpty() ? blank() : result(index);
     cut(&made.picture, made.region);
     m_last = made;
     if (!primitive.result.isEmpty())
@@ -504,7 +513,7 @@ bool StepRunner::run(QImage *picture)
     keepAlpha(&m_sourceAlpha.picture);
     m_last = m_source;
     for (int i = 0; i < m_step.primitives.size(); ++i) {
-        if (!apply(m_step.primitives.at(i)))
+        if (!apply(i))
             return false;
         keepNeeded(i);
     }
@@ -519,7 +528,7 @@ bool runFilter(const Filter &filter, const QTransform &toPixels, const FilterSer
     const double ratio = picture->devicePixelRatio();
     picture->setDevicePixelRatio(1);
     bool complete = true;
-    for (const FilterStep &step : filter.steps)
+    for (int step = 0; step < filter.steps.size(); ++step)
         complete = complete && StepRunner(filter, step, toPixels, services).run(picture);
     picture->setDevicePixelRatio(ratio);
     return complete;

@@ -1,12 +1,12 @@
 #include "paint/itemmapping.h"
 
 #include "inputlimits.h"
+#include "paint/filterreach.h"
 #include "paint/paintingwork.h"
 #include "raster/clippedmiters.h"
 #include "resolve/contextpaint.h"
-#include "resolve/images.h"
-#include "resolve/openends.h"
 #include "scene/layereffects.h"
+#include "scene/pattern.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainterPathStroker>
@@ -33,10 +33,17 @@ QTransform aboutCentre(const QPointF &centre, const QTransform &stretch)
     return QTransform::fromTranslate(place.x() - centre.x(), place.y() - centre.y());
 }
 
-QTransform itemTransform(const DisplayItem &item, const QTransform &stretch, const QTransform &world)
+// `toDocument` and the mapping, as the item is placed.
+QTransform toPainter(const QTransform &toDocument, const DisplayItem &item, const Mapping &mapping)
 {
-    const QTransform placed = item.control ? aboutCentre(item.controlCentre, stretch) : stretch;
-    return item.facts->toDocument * placed * world;
+    const QTransform placed =
+        item.controlCentre ? aboutCentre(*item.controlCentre, mapping.stretch) : mapping.stretch;
+    return toDocument * placed * mapping.world;
+}
+
+QTransform itemTransform(const DisplayItem &item, const Mapping &mapping)
+{
+    return toPainter(item.facts->toDocument, item, mapping);
 }
 
 bool keepsShapes(const QTransform &t)
@@ -126,9 +133,9 @@ bool isSingleLines(const QPainterPath &path)
 
 // Painters have a way of their own for single lines without round ends: these are cut where they leave the clip,
 // and the rounding of the cut shows in a pixel now and then.
-bool isCutAtClip(const DisplayItem &item)
+bool isCutAtClip(const MappedShape &shape)
 {
-    return item.pen.style() != Qt::NoPen && item.pen.capStyle() != Qt::RoundCap && isSingleLines(item.path);
+    return shape.pen.style() != Qt::NoPen && shape.pen.capStyle() != Qt::RoundCap && isSingleLines(shape.path);
 }
 
 bool isInRange(double coordinate)
@@ -153,164 +160,168 @@ QSizeF mappedReach(double reach, const QTransform &t)
     return QSizeF(reach * std::hypot(t.m11(), t.m21()), reach * std::hypot(t.m12(), t.m22()));
 }
 
-void mapStroke(DisplayItem *item, const QPen &asked, const QPainterPath &path, const QTransform &transform,
-               MappingBudget *budget)
+/// What a path takes besides its elements, in elements.
+constexpr int pathOverhead = 6;
+
+int keptElements(const MappedShape &shape)
 {
-    item->strokedWith = asked;
-    const double scale = meanScale(transform);
-    // Painters have no joins that are cut like these.
-    const QPainterPath tips = clippedMiters(path, asked);
-    QPen pen = asked;
-    if (pen.joinStyle() == Qt::MiterJoin)
-        pen.setJoinStyle(Qt::SvgMiterJoin);
-    if (tips.isEmpty() && keepsShapes(transform)) {
-        item->pen = pen;
-        item->pen.setBrush(mappedBrush(pen.brush(), transform));
-        // Control points are sized for the screen by whoever edits; their line is as wide at every zoom.
-        item->pen.setWidthF(item->control ? pen.widthF() : pen.widthF() * scale);
-        const double reach = strokeReach(item->pen);
-        item->bounds.adjust(-reach, -reach, reach, reach);
-        item->strokeReach = QSizeF(reach, reach);
-        return;
+    return shape.mapping ? 0 : shape.path.elementCount() + pathOverhead;
+}
+
+/// Maps one shape.
+class ShapeMapper
+{
+public:
+    ShapeMapper(MappedItem *item, const Mapping &mapping, MappingBudget *budget, PatternBrushes *patterns)
+        : m_item(item->item)
+        , m_source(std::get<ShapeItem>(item->item.content))
+        , m_bounds(item->bounds)
+        , m_shape(item->content.emplace<MappedShape>())
+        , m_mapping(mapping)
+        , m_transform(itemTransform(item->item, mapping))
+        , m_budget(budget)
+        , m_patterns(patterns)
+    {
     }
-    item->pen = QPen(Qt::NoPen);
-    if (budget->isUsedUp())
-        return;
-    QPainterPathStroker stroker(pen);
-    stroker.setCurveThreshold(userThreshold(path, pen.widthF(), scale));
-    QPainterPath stroke = stroker.createStroke(path);
-    stroke.addPath(tips);
-    item->strokePath = transform.map(stroke);
-    item->strokePath.setFillRule(Qt::WindingFill);
-    budget->strokeElements -= item->strokePath.elementCount();
-    item->pen.setBrush(mappedBrush(pen.brush(), transform));
-    item->bounds |= item->strokePath.controlPointRect();
-    item->strokeReach = mappedReach(strokeReach(pen), transform);
-}
 
-// The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
-void mapUnscaledStroke(DisplayItem *item, const Outline &outline, const QTransform &transform,
-                       const QTransform &world, MappingBudget *budget)
-{
-    const QTransform toTarget = transform * world.inverted();
-    const QPainterPath path = toTarget.map(outline.path);
-    QPen pen = boundedPen(outline.pen, path, budget);
-    pen.setBrush(mappedBrush(outline.pen.brush(), toTarget));
-    mapStroke(item, pen, path, world, budget);
-}
+    void map();
 
-Outline silhouette(const Outline &outline, const ComputedStyle &style)
-{
-    Outline result;
-    result.path = outline.path;
-    result.path.setFillRule(style.clipRule);
-    result.fill = QBrush(Qt::black);
-    return result;
-}
+private:
+    QBrush patternOf(const Pattern &pattern, Paint::Kind kind) const;
+    void paintPatterns(Outline *outline) const;
+    void mapStroke(const QPen &asked, const QPainterPath &path, const QTransform &transform);
+    void mapUnscaledStroke(const Outline &outline);
+    void outlineStroke(const QPen &pen, const QPainterPath &path, const QPainterPath &tips,
+                       const QTransform &transform);
+    void keepOrForget();
 
-Outline paintedOutline(const DisplayItem &item)
-{
-    const Outline &own = item.facts->outlines.at(item.outline);
-    if (item.silhouette)
-        return silhouette(own, *item.facts->style);
-    Outline outline = item.override ? overridden(own, *item.facts->style, *item.override) : own;
-    if (!item.paintsFill || (outline.fillPattern != noNode && !item.fillPattern))
-        outline.fill = Qt::NoBrush;
-    if (!item.paintsStroke || (outline.strokePattern != noNode && !item.strokePattern))
-        outline.pen = QPen(Qt::NoPen);
-    if (outline.pen.style() != Qt::NoPen)
-        outline.path = withOpenEnds(outline.path, outline.openEnds);
-    return outline;
-}
+    const DisplayItem &m_item;
+    const ShapeItem &m_source;
+    QRectF &m_bounds;
+    MappedShape &m_shape;
+    const Mapping &m_mapping;
+    QTransform m_transform;
+    MappingBudget *m_budget;
+    PatternBrushes *m_patterns;
+};
 
 // In the units of the item; a pattern of its context has others.
-QBrush patternOf(const DisplayItem &item, const PatternPaint &pattern, Paint::Kind kind,
-                 const QTransform &transform)
+QBrush ShapeMapper::patternOf(const Pattern &pattern, Paint::Kind kind) const
 {
-    const ContextPaint *paint = contextPaint(*item.facts, kind);
+    const ContextPaint *paint = contextPaint(*m_item.facts, kind);
     if (!paint)
-        return patternBrush(pattern, transform);
-    const QTransform toItem = fromContext(*paint, *item.facts);
-    QBrush brush = patternBrush(pattern, toItem * transform);
+        return m_patterns->brush(pattern, m_transform);
+    const QTransform toItem = fromContext(*paint, *m_item.facts);
+    QBrush brush = m_patterns->brush(pattern, toItem * m_transform);
     brush.setTransform(brush.transform() * toItem);
     return brush;
 }
 
 // Tiles are painted for the scale that they are seen at.
-void paintPatterns(const DisplayItem &item, const QTransform &transform, Outline *outline)
+void ShapeMapper::paintPatterns(Outline *outline) const
 {
-    if (item.fillPattern && outline->fill.style() != Qt::NoBrush)
-        outline->fill = patternOf(item, *item.fillPattern, outline->fillKind, transform);
-    if (item.strokePattern && outline->pen.style() != Qt::NoPen)
-        outline->pen.setBrush(patternOf(item, *item.strokePattern, outline->strokeKind, transform));
+    if (m_source.fillPattern && outline->fill.style() != Qt::NoBrush)
+        outline->fill = patternOf(*m_source.fillPattern, outline->fillKind);
+    if (m_source.strokePattern && outline->pen.style() != Qt::NoPen)
+        outline->pen.setBrush(patternOf(*m_source.strokePattern, outline->strokeKind));
 }
 
-/// What a path takes besides its elements, in elements.
-constexpr int pathOverhead = 6;
-
-int keptElements(const DisplayItem &item)
+void ShapeMapper::outlineStroke(const QPen &pen, const QPainterPath &path, const QPainterPath &tips,
+                                const QTransform &transform)
 {
-    return item.mapping ? 0 : item.path.elementCount() + pathOverhead;
+    if (m_budget->isUsedUp())
+        return;
+    QPainterPathStroker stroker(pen);
+    stroker.setCurveThreshold(userThreshold(path, pen.widthF(), meanScale(transform)));
+    QPainterPath stroke = stroker.createStroke(path);
+    stroke.addPath(tips);
+    m_shape.strokePath = transform.map(stroke);
+    m_shape.strokePath.setFillRule(Qt::WindingFill);
+    m_budget->strokeElements -= m_shape.strokePath.elementCount();
+    m_shape.pen.setBrush(mappedBrush(pen.brush(), transform));
+    m_bounds |= m_shape.strokePath.controlPointRect();
+    m_shape.strokeReach = mappedReach(strokeReach(pen), transform);
+}
+
+void ShapeMapper::mapStroke(const QPen &asked, const QPainterPath &path, const QTransform &transform)
+{
+    m_shape.strokedWith = asked;
+    // Painters have no joins that are cut like these.
+    const QPainterPath tips = clippedMiters(path, asked);
+    QPen pen = asked;
+    if (pen.joinStyle() == Qt::MiterJoin)
+        pen.setJoinStyle(Qt::SvgMiterJoin);
+    if (!tips.isEmpty() || !keepsShapes(transform)) {
+        outlineStroke(pen, path, tips, transform);
+        return;
+    }
+    m_shape.pen = pen;
+    m_shape.pen.setBrush(mappedBrush(pen.brush(), transform));
+    // Control points are sized for the screen by whoever edits; their line is as wide at every zoom.
+    if (!m_item.controlCentre)
+        m_shape.pen.setWidthF(pen.widthF() * meanScale(transform));
+    const double reach = strokeReach(m_shape.pen);
+    m_bounds.adjust(-reach, -reach, reach, reach);
+    m_shape.strokeReach = QSizeF(reach, reach);
+}
+
+// The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
+void ShapeMapper::mapUnscaledStroke(const Outline &outline)
+{
+    const QTransform toTarget = m_transform * m_mapping.world.inverted();
+    const QPainterPath path = toTarget.map(outline.path);
+    QPen pen = boundedPen(outline.pen, path, m_budget);
+    pen.setBrush(mappedBrush(outline.pen.brush(), toTarget));
+    mapStroke(pen, path, m_mapping.world);
 }
 
 // Long drawings would hold every outline twice.
-void keepOrForget(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
+void ShapeMapper::keepOrForget()
 {
-    item->elementCount = item->path.elementCount() + item->strokePath.elementCount();
-    if (keptElements(*item) <= budget->keptElements)
+    m_shape.elementCount = m_shape.path.elementCount() + m_shape.strokePath.elementCount();
+    if (keptElements(m_shape) <= m_budget->keptElements)
         return;
-    if (!budget->mapping || budget->mapping->stretch != stretch || budget->mapping->world != world)
-        budget->mapping = std::make_shared<const Mapping>(Mapping{stretch, world});
-    item->mapping = budget->mapping;
-    item->path = QPainterPath();
+    m_shape.mapping = m_budget->sharedMapping(m_mapping);
+    m_shape.path = QPainterPath();
 }
 
-void mapShape(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
+void ShapeMapper::map()
 {
-    Outline outline = paintedOutline(*item);
-    const QTransform transform = itemTransform(*item, stretch, world);
-    paintPatterns(*item, transform, &outline);
-    item->path = mappedPath(outline.path, transform);
-    item->mapping.reset();
-    item->elementCount = 0;
-    item->bounds = item->path.controlPointRect();
-    item->strokePath = QPainterPath();
-    item->flat.reset();
-    item->fill = mappedBrush(outline.fill, transform);
-    item->pen = QPen(Qt::NoPen);
-    item->strokedWith = QPen(Qt::NoPen);
-    item->strokeReach = QSizeF(0, 0);
-    item->mapped = true;
-    if (!isPaintable(item->bounds)) {
-        item->path = QPainterPath();
-        item->bounds = QRectF();
+    Outline outline = shownOutline(m_item, m_source);
+    paintPatterns(&outline);
+    m_shape.path = mappedPath(outline.path, m_transform);
+    m_shape.fill = mappedBrush(outline.fill, m_transform);
+    m_shape.smooth = outline.smooth;
+    m_bounds = m_shape.path.controlPointRect();
+    if (!isPaintable(m_bounds)) {
+        m_shape.path = QPainterPath();
+        m_bounds = QRectF();
         return;
     }
     const bool stroked = outline.pen.style() != Qt::NoPen;
-    if (stroked && item->facts->style->strokeScales)
-        mapStroke(item, boundedPen(outline.pen, outline.path, budget), outline.path, transform, budget);
+    if (stroked && m_item.facts->style->strokeScales)
+        mapStroke(boundedPen(outline.pen, outline.path, m_budget), outline.path, m_transform);
     else if (stroked)
-        mapUnscaledStroke(item, outline, transform, world, budget);
-    item->strokedPieces = strokedPieces(*item);
-    item->outlineLength = paintedLength(*item);
-    item->isIndivisible = !item->smooth || item->fill.style() > Qt::SolidPattern ||
-                          item->pen.brush().style() > Qt::SolidPattern || isCutAtClip(*item);
-    keepOrForget(item, stretch, world, budget);
+        mapUnscaledStroke(outline);
+    m_shape.strokedPieces = strokedPieces(m_shape);
+    m_shape.outlineLength = paintedLength(m_shape);
+    m_shape.isIndivisible = !m_shape.smooth || m_shape.fill.style() > Qt::SolidPattern ||
+                            m_shape.pen.brush().style() > Qt::SolidPattern || isCutAtClip(m_shape);
+    keepOrForget();
 }
 
 // How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
-QSizeF shrinkage(const ShownPicture &picture)
+QSizeF shrinkage(const MappedPicture &picture, const QRectF &bounds)
 {
-    const QRectF target = picture.toPainter.mapRect(picture.target);
     if (picture.toPainter.type() > QTransform::TxScale || picture.source.isEmpty())
         return QSizeF(1, 1);
-    return QSizeF(target.width() / picture.source.width(), target.height() / picture.source.height());
+    return QSizeF(bounds.width() / picture.source.width(), bounds.height() / picture.source.height());
 }
 
 // Painters look at four pixels for each of their own; averaging all of them is done once.
-void shrinkPicture(ShownPicture *picture)
+void shrinkPicture(MappedPicture *picture, const QRectF &bounds)
 {
-    const QSizeF factor = shrinkage(*picture);
+    const QSizeF factor = shrinkage(*picture, bounds);
     if (factor.width() > smoothFactor && factor.height() > smoothFactor)
         return;
     const QSize before = picture->image.size();
@@ -322,18 +333,21 @@ void shrinkPicture(ShownPicture *picture)
     picture->source = scale.mapRect(picture->source);
 }
 
-void mapImage(DisplayItem *item, const QTransform &stretch, const QTransform &world)
+void mapPicture(MappedItem *item, const PictureItem &shown, const Mapping &mapping)
 {
-    ShownPicture *picture = item->picture.data();
-    item->mapped = true;
-    picture->toPainter = picture->toElement * itemTransform(*item, stretch, world);
-    item->bounds = picture->toPainter.mapRect(picture->target);
+    auto &picture = item->content.emplace<MappedPicture>();
+    picture.toPainter = shown.toElement * itemTransform(item->item, mapping);
+    picture.target = shown.target;
+    item->bounds = picture.toPainter.mapRect(shown.target);
     if (!isPaintable(item->bounds))
         item->bounds = QRectF();
-    picture->image = item->bounds.isEmpty() ? QImage() : decodedPicture(picture->content);
-    picture->source = picture->fit.inverted().mapRect(picture->target);
-    if (!picture->image.isNull() && item->facts->style->smoothImages)
-        shrinkPicture(picture);
+    if (item->bounds.isEmpty())
+        return;
+    picture.image = decodedPicture(shown.content);
+    picture.source = shown.fit.inverted().mapRect(shown.target);
+    picture.smooth = item->item.facts->style->smoothImages;
+    if (!picture.image.isNull() && picture.smooth)
+        shrinkPicture(&picture, item->bounds);
 }
 
 // Regions are made of single rectangles, or of whatever shape cuts a viewport.
@@ -344,99 +358,150 @@ bool isRect(const QPainterPath &path)
     return path == rect;
 }
 
-void mapEffects(DisplayItem *item, const QTransform &stretch, const QTransform &world, MappingBudget *budget)
+/// Maps lists and the groups within.
+class ListMapper
 {
-    LayerEffects *effects = item->effects.get();
-    const QTransform placed = item->control ? aboutCentre(item->controlCentre, stretch) : stretch;
-    const QTransform regionTransform = effects->regionToDocument * placed * world;
-    effects->regionPath = regionTransform.map(effects->region);
-    effects->regionIsRect = regionTransform.type() <= QTransform::TxScale && isRect(effects->region);
-    if (effects->filter) {
-        effects->filter->toPainter = effects->filter->toDocument * placed * world;
-        for (FilterStep &step : effects->filter->steps) {
-            for (FilterPrimitive &primitive : step.primitives)
-                mapItems(&primitive.items, stretch, world, budget);
-        }
+public:
+    ListMapper(const Mapping &mapping, MappingBudget *budget, PatternBrushes *patterns)
+        : m_mapping(mapping)
+        , m_budget(budget)
+        , m_patterns(patterns)
+    {
     }
-    mapItems(&effects->clip, stretch, world, budget);
-    mapItems(&effects->mask, stretch, world, budget);
+
+    void map(MappedItems *items);
+
+private:
+    void mapShape(MappedItem *item);
+    void mapGroup(MappedItem *item, const LayerEffects *effects);
+    void mapFilter(const Filter &filter, const QTransform &toPainter, MappedFilter *mapped);
+
+    const Mapping &m_mapping;
+    MappingBudget *m_budget;
+    PatternBrushes *m_patterns;
+};
+
+void ListMapper::mapShape(MappedItem *item)
+{
+    if (!item->mapped)
+        ShapeMapper(item, m_mapping, m_budget, m_patterns).map();
+    item->mapped = true;
+    m_budget->keptElements -= keptElements(std::get<MappedShape>(item->content));
 }
 
-QRectF coveredBounds(const QVector<DisplayItem> &items)
+void ListMapper::mapFilter(const Filter &filter, const QTransform &toPainter, MappedFilter *mapped)
+{
+    mapped->toPainter = toPainter;
+    for (int step = 0; step < filter.steps.size(); ++step) {
+        const auto &images = filter.steps.at(step).images;
+        for (auto image = images.begin(); image != images.end(); ++image) {
+            MappedItems &items = mapped->images[{step, image.key()}];
+            if (items.empty())
+                items = unmapped(image.value());
+            map(&items);
+        }
+    }
+}
+
+void ListMapper::mapGroup(MappedItem *item, const LayerEffects *effects)
+{
+    if (!item->mapped) {
+        auto &group = item->content.emplace<MappedGroup>();
+        group.effects = effects ? std::make_unique<MappedEffects>() : nullptr;
+    }
+    item->mapped = true;
+    if (!effects)
+        return;
+    MappedEffects &mapped = *std::get<MappedGroup>(item->content).effects;
+    if (!mapped.source) {
+        mapped.source = effects;
+        mapped.clip = unmapped(effects->clip);
+        mapped.mask = unmapped(effects->mask);
+    }
+    const QTransform regionTransform = toPainter(effects->regionToDocument, item->item, m_mapping);
+    mapped.region = regionTransform.map(effects->region);
+    mapped.regionIsRect = regionTransform.type() <= QTransform::TxScale && isRect(effects->region);
+    if (effects->filter)
+        mapFilter(*effects->filter, toPainter(effects->filter->toDocument, item->item, m_mapping), &mapped.filter);
+    map(&mapped.clip);
+    map(&mapped.mask);
+}
+
+QRectF coveredBounds(const MappedItems &items)
 {
     QRectF bounds;
-    for (int i = 0; i < items.size(); i = (items.at(i).kind == DisplayItem::BeginLayer ? items.at(i).end : i) + 1)
-        bounds |= items.at(i).bounds;
+    for (size_t i = 0; i < items.size(); i += size_t(membersOf(items[i])) + 1)
+        bounds |= items[i].bounds;
     return bounds;
 }
 
-// What is left of a layer's content by what it goes through.
-void restrictBounds(DisplayItem *layer)
+// Bounds of a group's content after its effects.
+void restrictBounds(MappedItem *group)
 {
-    LayerEffects *effects = layer->effects.get();
-    if (!effects)
+    MappedEffects *mapped = std::get<MappedGroup>(group->content).effects.get();
+    if (!mapped)
         return;
-    if (effects->filter)
-        layer->bounds = filteredBounds(*effects->filter, layer->bounds);
-    if (effects->hasRegion) {
-        const QRectF region = effects->regionPath.controlPointRect();
-        effects->holdsContent = region.contains(layer->bounds);
-        layer->bounds &= region;
+    const LayerEffects &effects = *mapped->source;
+    if (effects.filter)
+        group->bounds = filteredBounds(*effects.filter, mapped->filter.toPainter, group->bounds);
+    if (effects.hasRegion) {
+        const QRectF region = mapped->region.controlPointRect();
+        mapped->holdsContent = region.contains(group->bounds);
+        group->bounds &= region;
     }
-    if (effects->clips)
-        layer->bounds &= coveredBounds(effects->clip);
-    if (effects->masks)
-        layer->bounds &= coveredBounds(effects->mask);
+    if (effects.clips)
+        group->bounds &= coveredBounds(mapped->clip);
+    if (effects.masks)
+        group->bounds &= coveredBounds(mapped->mask);
 }
 
-void measureLayers(QVector<DisplayItem> *items)
+// Groups stand before their members, so that the last ones are complete first.
+void measureGroups(MappedItems *items)
 {
-    QVector<int> open;
-    for (int i = 0; i < items->size(); ++i) {
-        DisplayItem &item = (*items)[i];
-        if (item.kind == DisplayItem::BeginLayer) {
-            item.bounds = QRectF();
-            open.append(i);
+    for (size_t i = items->size(); i-- > 0;) {
+        MappedItem &item = (*items)[i];
+        if (!std::holds_alternative<MappedGroup>(item.content))
             continue;
-        }
-        QRectF bounds = item.bounds;
-        if (item.kind == DisplayItem::EndLayer) {
-            DisplayItem &begin = (*items)[open.takeLast()];
-            restrictBounds(&begin);
-            bounds = begin.bounds;
-        }
-        if (!open.isEmpty())
-            (*items)[open.constLast()].bounds |= bounds;
+        item.bounds = QRectF();
+        const size_t end = i + 1 + size_t(membersOf(item));
+        for (size_t member = i + 1; member < end; member += size_t(membersOf((*items)[member])) + 1)
+            item.bounds |= (*items)[member].bounds;
+        restrictBounds(&item);
     }
+}
+
+void ListMapper::map(MappedItems *items)
+{
+    bool grouped = false;
+    for (MappedItem &item : *items) {
+        if (const auto *group = std::get_if<GroupItem>(&item.item.content)) {
+            grouped = true;
+            mapGroup(&item, group->effects.get());
+        } else if (std::holds_alternative<ShapeItem>(item.item.content)) {
+            mapShape(&item);
+        } else if (!item.mapped) {
+            item.mapped = true;
+            mapPicture(&item, *std::get<std::shared_ptr<const PictureItem>>(item.item.content), m_mapping);
+        }
+    }
+    if (grouped)
+        measureGroups(items);
 }
 
 } // namespace
 
-void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world,
-              MappingBudget *budget)
+void mapItems(MappedItems *items, const Mapping &mapping, MappingBudget *budget, PatternBrushes *patterns)
 {
-    bool layered = false;
-    for (DisplayItem &item : *items) {
-        layered = layered || item.kind == DisplayItem::BeginLayer;
-        if (item.kind == DisplayItem::Shape) {
-            if (!item.mapped)
-                mapShape(&item, stretch, world, budget);
-            budget->keptElements -= keptElements(item);
-        }
-        if (item.kind == DisplayItem::Image && !item.mapped)
-            mapImage(&item, stretch, world);
-        else if (item.effects)
-            mapEffects(&item, stretch, world, budget);
-    }
-    if (layered)
-        measureLayers(items);
+    ListMapper(mapping, budget, patterns).map(items);
 }
 
-QPainterPath mappedOutline(const DisplayItem &item)
+QPainterPath mappedOutline(const MappedItem &item)
 {
-    if (!item.mapping)
-        return item.path;
-    return mappedPath(paintedOutline(item).path, itemTransform(item, item.mapping->stretch, item.mapping->world));
+    const auto &shape = std::get<MappedShape>(item.content);
+    if (!shape.mapping)
+        return shape.path;
+    const Outline outline = shownOutline(item.item, std::get<ShapeItem>(item.item.content));
+    return mappedPath(outline.path, itemTransform(item.item, *shape.mapping));
 }
 
 } // namespace Svg

@@ -1,15 +1,26 @@
 #pragma once
 
-#include "paint/displaylist.h"
+#include "paint/mappeditem.h"
+#include "paint/mappingbudget.h"
 
 namespace Svg {
 
-/// Maps outlines, fills and pens to the painter's coordinates, as far as that is not done, and tells layers what
-/// they cover.
-void mapItems(QVector<DisplayItem> *items, const QTransform &stretch, const QTransform &world,
-              MappingBudget *budget);
+/// Gives patterns as brushes.
+class PatternBrushes
+{
+public:
+    /// A brush that paints the pattern in the units of its target, fine enough for a painter that these are mapped
+    /// to by `transform`. No brush when there is no room for another tile.
+    virtual QBrush brush(const Pattern &pattern, const QTransform &transform) = 0;
+
+protected:
+    ~PatternBrushes() = default;
+};
+
+/// Maps outlines, fills and pens to the painter's coordinates, as far as that is not done, and measures groups.
+void mapItems(MappedItems *items, const Mapping &mapping, MappingBudget *budget, PatternBrushes *patterns);
 
 /// The mapped outline of a shape, whether it is kept or not.
-QPainterPath mappedOutline(const DisplayItem &item);
+QPainterPath mappedOutline(const MappedItem &item);
 
 } // namespace Svg

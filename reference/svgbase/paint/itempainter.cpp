@@ -2,27 +2,25 @@
 
 #include "inputlimits.h"
 #include "paint/compositionmodes.h"
+#include "paint/damage.h"
 #include "paint/filtercanvas.h"
+#include "paint/filterreach.h"
 #include "paint/filterrunner.h"
 #include "paint/itemmapping.h"
 #include "paint/paintingwork.h"
+#include "paint/sidepicture.h"
 #include "paint/solidpainting.h"
-#include "raster/layerpictures.h"
+#include "raster/blending.h"
 #include "scene/layereffects.h"
 
 #include <QtCore/QtMath>
-#include <QtGui/QPainter>
 
-#include <memory>
 #include <optional>
-#include <vector>
 
 namespace Svg {
 
 namespace {
 
-constexpr QPainter::RenderHints smooth =
-    QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
 /// How far smoothing reaches beyond an outline, pixels.
 constexpr int smoothingReach = 1;
 /// Filters may ask for pixels from anywhere; farther than this no picture reaches.
@@ -33,75 +31,6 @@ constexpr double blendCost = 20;
 constexpr double alignmentTolerance = 1e-3;
 /// What is painted aside while a picture is recorded lies within this.
 constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
-
-double pixelCount(const QRect &area, double pixelRatio)
-{
-    return double(area.width()) * area.height() * pixelRatio * pixelRatio;
-}
-
-/// A picture that is painted aside, in the coordinates of the painter below, or of a canvas.
-class SidePicture
-{
-public:
-    SidePicture(const QRect &area, double pixelRatio, PaintBudget *budget, const QTransform &toCanvas)
-        : m_area(area)
-        , m_budget(budget)
-        , m_pixels(pixelCount(area, pixelRatio))
-        , m_isStraight(toCanvas.isIdentity())
-        , m_image(area.size() * pixelRatio, QImage::Format_ARGB32_Premultiplied)
-    {
-        m_budget->left -= m_pixels + Limits::layerOverhead;
-        m_budget->open += m_pixels;
-        ++m_budget->depth;
-        m_image.setDevicePixelRatio(pixelRatio);
-        m_image.fill(Qt::transparent);
-        m_painter.begin(&m_image);
-        m_painter.setRenderHints(smooth);
-        m_painter.setTransform(toCanvas * QTransform::fromTranslate(-area.x(), -area.y()));
-    }
-    ~SidePicture()
-    {
-        m_budget->open -= m_pixels;
-        --m_budget->depth;
-    }
-    SidePicture(const SidePicture &) = delete;
-    SidePicture &operator=(const SidePicture &) = delete;
-
-    static std::unique_ptr<SidePicture> make(const QRect &area, double pixelRatio, PaintBudget *budget,
-                                             const QTransform &toCanvas = QTransform())
-    {
-        const double pixels = pixelCount(area, pixelRatio);
-        const bool affordable = pixels >= 1 && pixels <= budget->left &&
-                                budget->open + pixels <= budget->mostOpen && budget->depth < Limits::layerDepth;
-        budget->lacksPixels = budget->lacksPixels || !affordable;
-        return affordable ? std::make_unique<SidePicture>(area, pixelRatio, budget, toCanvas) : nullptr;
-    }
-
-    const QRect &area() const { return m_area; }
-    QPainter *painter() { return &m_painter; }
-    /// The picture, once nothing more is painted.
-    QImage *finished()
-    {
-        if (m_painter.isActive())
-            m_painter.end();
-        return &m_image;
-    }
-    QImage *image() { return &m_image; }
-    /// Its pixels, to be written to besides painting, where they are those of the painter below.
-    PixelTarget pixels()
-    {
-        const bool alike = m_image.devicePixelRatio() == 1 && m_isStraight;
-        return alike ? PixelTarget{&m_image, m_area.topLeft(), m_area} : PixelTarget();
-    }
-
-private:
-    QRect m_area;
-    PaintBudget *m_budget;
-    double m_pixels;
-    bool m_isStraight;
-    QImage m_image;
-    QPainter m_painter;
-};
 
 /// A group that is painted aside, or the painter itself at the bottom of the stack.
 struct Layer
@@ -114,13 +43,16 @@ struct Layer
     /// What can be painted on.
     QRect area;
     PixelTarget pixels;
-    std::shared_ptr<LayerEffects> effects;
+    /// Null for none.
+    const MappedEffects *effects = nullptr;
     /// Null for a group that is painted straight on what lies below.
     std::unique_ptr<SidePicture> picture;
     /// What the picture is painted on until it is filtered, where that is not the pixels of the painter below.
     std::optional<FilterCanvas> canvas;
     /// Whether the painter below was given a clip for this group.
     bool clips = false;
+    /// Place behind the last member of the group.
+    size_t end = 0;
 };
 
 class ItemPainter
@@ -128,30 +60,30 @@ class ItemPainter
 public:
     ItemPainter(QPainter *painter, const QRect &area, double pixelRatio, PaintBudget *budget,
                 const PixelTarget &pixels);
-    void paint(const QVector<DisplayItem> &items);
+    void paint(const MappedItems &items);
 
 private:
-    void takePaint(QPainter *painter, const DisplayItem &item);
-    void drawOutline(QPainter *painter, const DisplayItem &item);
-    void paintShape(const DisplayItem &item);
-    void paintImage(const DisplayItem &item);
-    bool beginLayer(const DisplayItem &begin);
-    bool beginStraight(const DisplayItem &begin, Layer *layer);
+    void takePaint(QPainter *painter, const MappedShape &shape);
+    void drawOutline(QPainter *painter, const MappedItem &item);
+    void paintShape(const MappedItem &item);
+    void paintPicture(const MappedItem &item);
+    bool beginLayer(const MappedItem &group, size_t end);
+    bool beginStraight(const MappedItem &group, Layer *layer);
     void endLayer();
     Layer *pictureBelow();
-    bool beginPicture(const DisplayItem &begin, Layer *layer);
-    bool filtered(const Filter &filter, const Layer &layer, QImage *picture);
+    bool beginPicture(const MappedEffects *effects, Layer *layer);
+    bool filtered(const MappedEffects &effects, const Layer &layer, QImage *picture);
     void leaveCanvas(Layer *layer);
     void finish(Layer *layer);
     bool blendByHand(const Layer &done, BlendMode mode);
-    void paintPicture(Layer *done);
-    std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const QRect &area);
-    std::unique_ptr<SidePicture> painted(const QVector<DisplayItem> &items, const Layer &layer);
+    void paintLayer(Layer *done);
+    std::unique_ptr<SidePicture> painted(const MappedItems &items, const QRect &area);
+    std::unique_ptr<SidePicture> painted(const MappedItems &items, const Layer &layer);
 
     std::vector<Layer> m_layers;
-    /// The painter that has pen and brush of an item, and that item.
+    /// The painter that has pen and brush of a shape, and that shape.
     const QPainter *m_paintOwner = nullptr;
-    const DisplayItem *m_paintSource = nullptr;
+    const MappedShape *m_paintSource = nullptr;
     double m_pixelRatio;
     PaintBudget *m_budget;
 };
@@ -170,15 +102,15 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
 }
 
 // Neighbours are often painted alike, and a change costs the painter more than the comparison.
-void ItemPainter::takePaint(QPainter *painter, const DisplayItem &item)
+void ItemPainter::takePaint(QPainter *painter, const MappedShape &shape)
 {
-    const DisplayItem *last = m_paintOwner == painter ? m_paintSource : nullptr;
-    if (!last || last->pen != item.pen)
-        painter->setPen(item.pen);
-    if (!last || last->fill != item.fill)
-        painter->setBrush(item.fill);
+    const MappedShape *last = m_paintOwner == painter ? m_paintSource : nullptr;
+    if (!last || last->pen != shape.pen)
+        painter->setPen(shape.pen);
+    if (!last || last->fill != shape.fill)
+        painter->setBrush(shape.fill);
     m_paintOwner = painter;
-    m_paintSource = &item;
+    m_paintSource = &shape;
 }
 
 bool reaches(const QRectF &bounds, const QRect &area)
@@ -195,26 +127,29 @@ QPainterPath detachedCopy(const QPainterPath &path)
     return copy;
 }
 
-// A path that is drawn keeps what painters made of it, 3 KB at least. That is dear where there are many, so these
-// are drawn from copies.
-void ItemPainter::drawOutline(QPainter *painter, const DisplayItem &item)
+// A path that is drawn keeps what painters made of it, 3 KB at least. That is expensive where there are many:
+// these are drawn from copies.
+void ItemPainter::drawOutline(QPainter *painter, const MappedItem &item)
 {
-    if (item.mapping)
+    const auto &shape = std::get<MappedShape>(item.content);
+    if (shape.mapping)
         painter->drawPath(mappedOutline(item));
     else
-        painter->drawPath(++m_budget->outlines <= Limits::keptOutlines ? item.path : detachedCopy(item.path));
+        painter->drawPath(++m_budget->outlines <= Limits::keptOutlines ? shape.path : detachedCopy(shape.path));
 }
 
-void ItemPainter::paintShape(const DisplayItem &item)
+void ItemPainter::paintShape(const MappedItem &item)
 {
+    const auto &shape = std::get<MappedShape>(item.content);
     const Layer &layer = m_layers.back();
+    const double opacity = layer.opacity * item.item.opacity;
     const PaintingWork work = paintingWork(item, layer.area, m_pixelRatio);
     m_budget->outlineWork -= work.elements;
     m_budget->work -= work.elements + work.pixels;
     if (m_budget->lacksWork() || !reaches(item.bounds, layer.area))
         return;
     const bool keep = m_budget->outlines < Limits::keptOutlines;
-    if (paintSolid(item, layer.opacity * item.opacity, layer.pixels, keep)) {
+    if (paintSolid(item, opacity, layer.pixels, keep)) {
         ++m_budget->outlines;
         return;
     }
@@ -222,44 +157,49 @@ void ItemPainter::paintShape(const DisplayItem &item)
     if (m_budget->lacksWork())
         return;
     QPainter *painter = layer.painter;
-    painter->setOpacity(layer.opacity * item.opacity);
-    takePaint(painter, item);
-    if (!item.smooth)
+    painter->setOpacity(opacity);
+    takePaint(painter, shape);
+    if (!shape.smooth)
         painter->setRenderHint(QPainter::Antialiasing, false);
     drawOutline(painter, item);
-    if (!item.strokePath.isEmpty())
-        painter->fillPath(item.strokePath, item.pen.brush());
-    if (!item.smooth)
+    if (!shape.strokePath.isEmpty())
+        painter->fillPath(shape.strokePath, shape.pen.brush());
+    if (!shape.smooth)
         painter->setRenderHint(QPainter::Antialiasing);
 }
 
-void ItemPainter::paintImage(const DisplayItem &item)
+void ItemPainter::paintPicture(const MappedItem &item)
 {
-    const ShownPicture &picture = *item.picture;
+    const auto &picture = std::get<MappedPicture>(item.content);
     const Layer &layer = m_layers.back();
     if (picture.image.isNull() || !reaches(item.bounds, layer.area))
         return;
-    m_budget->work -= imageWork(item, layer.area, m_pixelRatio);
+    m_budget->work -= imageWork(item.bounds, layer.area, m_pixelRatio);
     if (m_budget->lacksWork())
         return;
     QPainter *painter = layer.painter;
     const QTransform before = painter->worldTransform();
-    painter->setOpacity(layer.opacity * item.opacity);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, item.facts->style->smoothImages);
+    painter->setOpacity(layer.opacity * item.item.opacity);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, picture.smooth);
     painter->setWorldTransform(picture.toPainter, true);
     painter->drawImage(picture.target, picture.image, picture.source);
     painter->setWorldTransform(before);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
-// What a filter moves or blurs may come from outside of what is painted on.
-QRectF inputArea(const DisplayItem &begin, const QRect &area)
+const MappedEffects *effectsOf(const MappedItem &group)
 {
-    if (!begin.effects || !begin.effects->filter)
+    return std::get<MappedGroup>(group.content).effects.get();
+}
+
+// A filter may move or blur pixels from outside of the painted area.
+QRectF inputArea(const MappedEffects *effects, const QRect &area)
+{
+    if (!effects || !effects->source->filter)
         return area;
-    const Filter &filter = *begin.effects->filter;
-    const QSizeF reach = filterReach(filter);
-    const QSizeF size = filter.toPainter.mapRect(QRectF(QPointF(), reach)).size();
+    const QTransform &toPainter = effects->filter.toPainter;
+    const QSizeF reach = filterReach(*effects->source->filter, toPainter);
+    const QSizeF size = toPainter.mapRect(QRectF(QPointF(), reach)).size();
     const QRectF grown = QRectF(area).adjusted(-size.width(), -size.height(), size.width(), size.height());
     return grown & QRectF(QPointF(-farthestPixel, -farthestPixel), QPointF(farthestPixel, farthestPixel));
 }
@@ -282,15 +222,19 @@ QRect wholePixels(const QRectF &rect)
                  QPoint(qRound(rect.right()) - 1, qRound(rect.bottom()) - 1));
 }
 
-// A group that is only cut needs no picture where nothing leaves its rectangle, or where that ends at whole pixels.
-bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
+bool onlyCuts(const LayerEffects &effects)
 {
-    const LayerEffects *effects = begin.effects.get();
-    const bool onlyCut = effects && effects->hasRegion && !effects->filter && !effects->clips && !effects->masks &&
-                         effects->blendMode == BlendMode::Normal && !effects->isolated && begin.opacity >= 1;
-    if (!onlyCut || !effects->regionIsRect)
+    return effects.hasRegion && !effects.filter && !effects.clips && !effects.masks &&
+           effects.blendMode == BlendMode::Normal && !effects.isolated;
+}
+
+// A group that is only cut needs no picture where nothing leaves its rectangle, or where that ends at whole pixels.
+bool ItemPainter::beginStraight(const MappedItem &group, Layer *layer)
+{
+    const MappedEffects *effects = effectsOf(group);
+    if (!effects || group.item.opacity < 1 || !effects->regionIsRect || !onlyCuts(*effects->source))
         return false;
-    const QRectF rect = effects->regionPath.controlPointRect();
+    const QRectF rect = effects->region.controlPointRect();
     if (!effects->holdsContent && !isOfPixels(rect, m_pixelRatio))
         return false;
     const Layer &below = m_layers.back();
@@ -309,30 +253,32 @@ bool ItemPainter::beginStraight(const DisplayItem &begin, Layer *layer)
 }
 
 // False when nothing of the layer shows, so that all of it is passed over.
-bool ItemPainter::beginLayer(const DisplayItem &begin)
+bool ItemPainter::beginLayer(const MappedItem &group, size_t end)
 {
     const Layer &below = m_layers.back();
-    const QRectF reach = begin.bounds.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach);
+    const MappedEffects *effects = effectsOf(group);
+    const QRectF reach = group.bounds.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach);
     Layer layer;
-    layer.area = (reach & inputArea(begin, below.area)).toAlignedRect();
+    layer.end = end;
+    layer.area = (reach & inputArea(effects, below.area)).toAlignedRect();
     if (layer.area.isEmpty())
         return false;
-    if (beginStraight(begin, &layer)) {
+    if (beginStraight(group, &layer)) {
         m_layers.push_back(std::move(layer));
         return true;
     }
-    if (beginPicture(begin, &layer)) {
+    if (beginPicture(effects, &layer)) {
         layer.painter = layer.picture->painter();
         layer.pixels = layer.picture->pixels();
-        layer.pictureOpacity = below.opacity * begin.opacity;
-        layer.effects = begin.effects;
-    } else if (begin.effects) {
+        layer.pictureOpacity = below.opacity * group.item.opacity;
+        layer.effects = effects;
+    } else if (effects) {
         return false;
     } else {
         // Without a picture of its own the group's shapes carry its opacity one by one.
         layer.painter = below.painter;
         layer.pixels = below.pixels;
-        layer.opacity = below.opacity * begin.opacity;
+        layer.opacity = below.opacity * group.item.opacity;
     }
     m_layers.push_back(std::move(layer));
     return true;
@@ -346,10 +292,10 @@ QRect canvasArea(const FilterCanvas &canvas, const QRect &area)
     return needed.adjusted(-smoothingReach, -smoothingReach, smoothingReach, smoothingReach).toAlignedRect();
 }
 
-bool ItemPainter::beginPicture(const DisplayItem &begin, Layer *layer)
+bool ItemPainter::beginPicture(const MappedEffects *effects, Layer *layer)
 {
-    if (begin.effects && begin.effects->filter)
-        layer->canvas = filterCanvas(*begin.effects->filter);
+    if (effects && effects->source->filter)
+        layer->canvas = filterCanvas(*effects->source->filter, effects->filter.toPainter);
     if (layer->canvas)
         layer->picture = SidePicture::make(canvasArea(*layer->canvas, layer->area), m_pixelRatio, m_budget,
                                            layer->canvas->fromPainter);
@@ -358,7 +304,7 @@ bool ItemPainter::beginPicture(const DisplayItem &begin, Layer *layer)
     return layer->picture != nullptr;
 }
 
-std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &items, const QRect &area)
+std::unique_ptr<SidePicture> ItemPainter::painted(const MappedItems &items, const QRect &area)
 {
     std::unique_ptr<SidePicture> picture = SidePicture::make(area, m_pixelRatio, m_budget);
     if (picture)
@@ -367,7 +313,7 @@ std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &it
 }
 
 // In the pixels of the layer's own picture.
-std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &items, const Layer &layer)
+std::unique_ptr<SidePicture> ItemPainter::painted(const MappedItems &items, const Layer &layer)
 {
     if (!layer.canvas)
         return painted(items, layer.area);
@@ -378,19 +324,19 @@ std::unique_ptr<SidePicture> ItemPainter::painted(const QVector<DisplayItem> &it
     return picture;
 }
 
-DisplayItem filledOutline(const QPainterPath &path)
+MappedItems filledOutline(const QPainterPath &path)
 {
-    DisplayItem item;
-    item.path = path;
-    item.fill = Qt::black;
-    item.pen = QPen(Qt::NoPen);
-    item.bounds = path.controlPointRect();
-    item.elementCount = path.elementCount();
-    item.outlineLength = paintedLength(item);
-    return item;
+    MappedItems items(1);
+    items.front().bounds = path.controlPointRect();
+    auto &shape = items.front().content.emplace<MappedShape>();
+    shape.path = path;
+    shape.fill = Qt::black;
+    shape.elementCount = path.elementCount();
+    shape.outlineLength = paintedLength(shape);
+    return items;
 }
 
-// What can't be afforded hides the picture altogether.
+// A coverage beyond the budget hides the picture altogether.
 void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
 {
     if (coverage)
@@ -399,7 +345,7 @@ void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
         picture->fill(Qt::transparent);
 }
 
-bool ItemPainter::filtered(const Filter &filter, const Layer &layer, QImage *picture)
+bool ItemPainter::filtered(const MappedEffects &effects, const Layer &layer, QImage *picture)
 {
     FilterServices services;
     services.takePixels = [this](double pixels) {
@@ -411,17 +357,18 @@ bool ItemPainter::filtered(const Filter &filter, const Layer &layer, QImage *pic
         m_budget->lacksPixels = m_budget->lacksPixels || m_budget->open > m_budget->mostOpen;
         return m_budget->open <= m_budget->mostOpen;
     };
-    services.paint = [this, &layer](const QVector<DisplayItem> &items) {
-        const std::unique_ptr<SidePicture> side = painted(items, layer);
+    services.paint = [this, &layer, &effects](int step, int place) {
+        const std::unique_ptr<SidePicture> side = painted(effects.filter.images.at({step, place}), layer);
         QImage image = side ? *side->finished() : QImage();
         image.setDevicePixelRatio(1);
         return image;
     };
     const QPoint corner = layer.picture->area().topLeft();
     const QTransform toCanvas = layer.canvas ? layer.canvas->fromPainter : QTransform();
-    const QTransform toPixels = filter.toPainter * toCanvas * QTransform::fromTranslate(-corner.x(), -corner.y()) *
+    const QTransform toPixels = effects.filter.toPainter * toCanvas *
+                                QTransform::fromTranslate(-corner.x(), -corner.y()) *
                                 QTransform::fromScale(m_pixelRatio, m_pixelRatio);
-    return runFilter(filter, toPixels, services, picture);
+    return runFilter(*effects.source->filter, toPixels, services, picture);
 }
 
 // The picture goes on in the pixels of the painter below.
@@ -431,7 +378,7 @@ void ItemPainter::leaveCanvas(Layer *layer)
         return;
     std::unique_ptr<SidePicture> picture = SidePicture::make(layer->area, m_pixelRatio, m_budget);
     if (!picture) {
-        // Too dear: nothing is left to show.
+        // Costs more than the budget: draw nothing.
         layer->picture->image()->fill(Qt::transparent);
         return;
     }
@@ -444,21 +391,22 @@ void ItemPainter::leaveCanvas(Layer *layer)
 void ItemPainter::finish(Layer *layer)
 {
     layer->picture->finished();
-    const LayerEffects *effects = layer->effects.get();
-    if (!effects)
+    const MappedEffects *mapped = layer->effects;
+    if (!mapped)
         return;
-    if (effects->filter && !filtered(*effects->filter, *layer, layer->picture->image()))
+    const LayerEffects &effects = *mapped->source;
+    if (effects.filter && !filtered(*mapped, *layer, layer->picture->image()))
         layer->picture->image()->fill(Qt::transparent);
     leaveCanvas(layer);
     QImage *picture = layer->picture->image();
-    if (effects->hasRegion)
-        keepWhere(picture, painted({filledOutline(effects->regionPath)}, layer->area));
-    if (effects->clips)
-        keepWhere(picture, painted(effects->clip, layer->area));
-    if (effects->masks) {
-        const std::unique_ptr<SidePicture> mask = painted(effects->mask, layer->area);
-        if (mask && !effects->alphaMask)
-            turnLuminanceIntoAlpha(mask->finished(), effects->linearMask);
+    if (effects.hasRegion)
+        keepWhere(picture, painted(filledOutline(mapped->region), layer->area));
+    if (effects.clips)
+        keepWhere(picture, painted(mapped->clip, layer->area));
+    if (effects.masks) {
+        const std::unique_ptr<SidePicture> mask = painted(mapped->mask, layer->area);
+        if (mask && !effects.alphaMask)
+            turnLuminanceIntoAlpha(mask->finished(), effects.linearMask);
         keepWhere(picture, mask);
     }
 }
@@ -485,9 +433,9 @@ bool ItemPainter::blendByHand(const Layer &done, BlendMode mode)
     return true;
 }
 
-void ItemPainter::paintPicture(Layer *done)
+void ItemPainter::paintLayer(Layer *done)
 {
-    const BlendMode mode = done->effects ? done->effects->blendMode : BlendMode::Normal;
+    const BlendMode mode = done->effects ? done->effects->source->blendMode : BlendMode::Normal;
     const Layer &below = m_layers.back();
     const QImage &picture = *done->picture->image();
     if (blendByHand(*done, mode))
@@ -520,29 +468,22 @@ void ItemPainter::endLayer()
     if (!done.picture)
         return;
     finish(&done);
-    paintPicture(&done);
+    paintLayer(&done);
 }
 
-void ItemPainter::paint(const QVector<DisplayItem> &items)
+void ItemPainter::paint(const MappedItems &items)
 {
-    m_layers.front().painter->setRenderHints(smooth);
-    for (int i = 0; i < items.size(); ++i) {
-        const DisplayItem &item = items.at(i);
-        switch (item.kind) {
-        case DisplayItem::Shape:
+    m_layers.front().painter->setRenderHints(smoothPainting);
+    for (size_t i = 0; i < items.size();) {
+        const MappedItem &item = items[i++];
+        if (std::holds_alternative<MappedShape>(item.content))
             paintShape(item);
-            break;
-        case DisplayItem::Image:
-            paintImage(item);
-            break;
-        case DisplayItem::BeginLayer:
-            if (!beginLayer(item))
-                i = item.end;
-            break;
-        case DisplayItem::EndLayer:
+        else if (std::holds_alternative<MappedPicture>(item.content))
+            paintPicture(item);
+        else if (const size_t end = i + size_t(membersOf(item)); !beginLayer(item, end))
+            i = end;
+        while (m_layers.size() > 1 && m_layers.back().end == i)
             endLayer();
-            break;
-        }
     }
     m_layers.front().painter->setOpacity(m_layers.front().opacity);
 }
@@ -564,7 +505,7 @@ PaintBudget paintBudget(const QPainter &painter)
     return PaintBudget(double(window.width()) * window.height());
 }
 
-void paintItems(QPainter *painter, const QVector<DisplayItem> &items, PaintBudget *budget)
+void paintItems(QPainter *painter, const MappedItems &items, PaintBudget *budget)
 {
     const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
     ItemPainter(painter, paintableArea(*painter), ratio, budget, pixelTarget(*painter)).paint(items);

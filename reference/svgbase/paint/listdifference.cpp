@@ -6,67 +6,80 @@ namespace Svg {
 
 namespace {
 
-// The same origin under the same mapping gives the same picture. A layer's end is counted from its beginning.
-bool hasSameOrigin(const DisplayItem &a, int placeOfA, const DisplayItem &b, int placeOfB)
+/// Where growing takes more passes over a list, all of it is painted.
+constexpr int mostPasses = 8;
+
+void takeOver(MappedItem *fresh, MappedItem *old)
 {
-    return a.kind == b.kind && a.node == b.node && a.outline == b.outline && a.facts == b.facts &&
-           a.override == b.override && a.opacity == b.opacity && a.controlCentre == b.controlCentre &&
-           a.effects == b.effects && (a.kind != DisplayItem::BeginLayer || a.end - placeOfA == b.end - placeOfB) &&
-           a.paintsFill == b.paintsFill && a.paintsStroke == b.paintsStroke && a.fillPattern == b.fillPattern &&
-           a.strokePattern == b.strokePattern;
+    *fresh = std::move(*old);
+    old->takenOver = true;
 }
 
-void takeOver(DisplayItem *fresh, DisplayItem *old)
+bool isPaintedWhole(const MappedItem &item)
 {
-    const int end = fresh->end;
-    *fresh = std::move(*old);
-    fresh->end = end;
-    old->takenOver = true;
+    const auto *shape = std::get_if<MappedShape>(&item.content);
+    return !shape || shape->isIndivisible;
 }
 
 } // namespace
 
-QVector<int> takeOverMapped(QVector<DisplayItem> *fresh, QVector<DisplayItem> *old)
+QVector<int> takeOverMapped(MappedItems *fresh, MappedItems *old)
 {
-    const int shift = fresh->size() - old->size();
-    const int common = qMin(fresh->size(), old->size());
+    const int size = int(fresh->size());
+    const int shift = size - int(old->size());
+    const int common = size - qMax(shift, 0);
     const auto isSame = [&](int inFresh, int inOld) {
-        return hasSameOrigin(fresh->at(inFresh), inFresh, old->at(inOld), inOld);
+        return hasSameOrigin((*fresh)[size_t(inFresh)].item, (*old)[size_t(inOld)].item);
     };
     int start = 0;
     while (start < common && isSame(start, start))
         ++start;
-    int end = fresh->size();
+    int end = size;
     while (end > start && end - shift > start && isSame(end - 1, end - 1 - shift))
         --end;
 
     QVector<int> changed;
-    for (int i = 0; i < fresh->size(); ++i) {
-        // What was added or taken away stands between what stayed in front of it and what stayed behind it.
+    for (int i = 0; i < size; ++i) {
+        // Items that were added or taken away stand between those that stayed.
         const int before = i < end ? i : i - shift;
-        if (i < start || i >= end || (shift == 0 && isSame(i, i))) {
-            takeOver(&(*fresh)[i], &(*old)[before]);
-            continue;
-        }
-        changed.append(i);
+        if (i < start || i >= end || (shift == 0 && isSame(i, i)))
+            takeOver(&(*fresh)[size_t(i)], &(*old)[size_t(before)]);
+        else
+            changed.append(i);
     }
     return changed;
 }
 
-void addDifference(const QVector<DisplayItem> &old, const QVector<DisplayItem> &fresh, const QVector<int> &changed,
-                   Damage *damage)
+void addDifference(const MappedItems &old, const MappedItems &fresh, const QVector<int> &changed, Damage *damage)
 {
     if (old.size() == fresh.size()) {
         for (const int place : changed)
-            addDifference(old.at(place), fresh.at(place), damage);
+            addDifference(old[size_t(place)], fresh[size_t(place)], damage);
         return;
     }
     for (const int place : changed)
-        damage->add(fresh.at(place).bounds);
-    for (const DisplayItem &item : old) {
+        damage->add(fresh[size_t(place)].bounds);
+    for (const MappedItem &item : old) {
         if (!item.takenOver)
             damage->add(item.bounds);
     }
+}
+
+QRect grownToItems(const QRect &rect, const MappedItems &items, const QRect &within)
+{
+    QRect grown = rect;
+    for (int pass = 0; pass < mostPasses; ++pass) {
+        const QRect before = grown;
+        for (size_t i = 0; i < items.size(); i += size_t(membersOf(items[i])) + 1) {
+            if (!isPaintedWhole(items[i]))
+                continue;
+            const QRect reach = paintedPixels(items[i].bounds, within);
+            grown = reach.intersects(grown) ? grown | reach : grown;
+        }
+        if (grown == before)
+            return grown;
+    }
+    return within;
 }
 
 } // namespace Svg

@@ -16,7 +16,7 @@ struct Mapping
 };
 using MappingPointer = std::shared_ptr<const Mapping>;
 
-/// What mapping the items of one drawing may still take.
+/// The rest of what mapping the items of one drawing may take.
 struct MappingBudget
 {
     /// Elements of the outlines of strokes that the drawing makes itself, because no pen can draw them.
@@ -29,6 +29,12 @@ struct MappingBudget
     MappingPointer mapping;
 
     bool isUsedUp() const { return strokeElements <= 0; }
+    MappingPointer sharedMapping(const Mapping &used)
+    {
+        if (!mapping || mapping->stretch != used.stretch || mapping->world != used.world)
+            mapping = std::make_shared<const Mapping>(used);
+        return mapping;
+    }
 };
 
 } // namespace Svg

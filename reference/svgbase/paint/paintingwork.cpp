@@ -48,62 +48,64 @@ double workPerPixel(const QBrush &brush, double opacity)
 }
 
 // Of so many pixels that are seen of the item.
-double strokedPixels(const DisplayItem &item, double seen, double pixelRatio)
+double strokedPixels(const MappedShape &shape, double seen, double pixelRatio)
 {
-    if (!item.strokePath.isEmpty())
+    if (!shape.strokePath.isEmpty())
         return seen;
-    const bool stroked = item.pen.style() != Qt::NoPen;
-    return stroked ? qMin(seen, item.outlineLength * item.pen.widthF() * pixelRatio * pixelRatio) : 0;
+    const bool stroked = shape.pen.style() != Qt::NoPen;
+    return stroked ? qMin(seen, shape.outlineLength * shape.pen.widthF() * pixelRatio * pixelRatio) : 0;
 }
 
 } // namespace
 
-double strokedPieces(const DisplayItem &item)
+double strokedPieces(const MappedShape &shape)
 {
-    if (item.pen.style() == Qt::NoPen)
+    if (shape.pen.style() == Qt::NoPen)
         return 0;
-    const double elements = item.path.elementCount();
-    if (item.pen.style() == Qt::SolidLine)
+    const double elements = shape.path.elementCount();
+    if (shape.pen.style() == Qt::SolidLine)
         return elements;
-    const QVector<qreal> pattern = item.pen.dashPattern();
-    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0) * item.pen.widthF();
-    return elements + (period > 0 ? lengthOf(item.path) / period * pattern.size() : 0);
+    const QVector<qreal> pattern = shape.pen.dashPattern();
+    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0) * shape.pen.widthF();
+    return elements + (period > 0 ? lengthOf(shape.path) / period * pattern.size() : 0);
 }
 
-double paintedLength(const DisplayItem &item)
+double paintedLength(const MappedShape &shape)
 {
-    const double outline = lengthOf(item.path);
-    const bool stroked = item.pen.style() != Qt::NoPen;
-    const double filled = item.fill.style() != Qt::NoBrush ? outline : 0;
+    const double outline = lengthOf(shape.path);
+    const bool stroked = shape.pen.style() != Qt::NoPen;
+    const double filled = shape.fill.style() != Qt::NoBrush ? outline : 0;
     if (!stroked)
-        return filled + lengthOf(item.strokePath);
-    const bool round = item.pen.joinStyle() == Qt::RoundJoin || item.pen.capStyle() == Qt::RoundCap;
-    const double ends = strokedPieces(item) * item.pen.widthF() * (round ? M_PI : sidesOfStroke);
+        return filled + lengthOf(shape.strokePath);
+    const bool round = shape.pen.joinStyle() == Qt::RoundJoin || shape.pen.capStyle() == Qt::RoundCap;
+    const double ends = strokedPieces(shape) * shape.pen.widthF() * (round ? M_PI : sidesOfStroke);
     return filled + sidesOfStroke * outline + ends;
 }
 
-PaintingWork paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio)
+PaintingWork paintingWork(const MappedItem &item, const QRect &area, double pixelRatio)
 {
+    const auto &shape = std::get<MappedShape>(item.content);
     const QRectF visible = item.bounds & QRectF(area);
     PaintingWork work;
-    work.elements = item.elementCount * workPerElement;
+    work.elements = shape.elementCount * workPerElement;
     if (visible.isEmpty())
         return work;
-    work.elements += item.strokedPieces * workPerStrokedPiece;
-    // What is seen of an outline may be the densest part of it.
+    work.elements += shape.strokedPieces * workPerStrokedPiece;
+    // The visible part of an outline may be the densest part of it.
     const double share = std::sqrt(qMin(1.0, visible.height() / item.bounds.height()));
-    const double crossings = item.outlineLength * share * pixelRatio;
+    const double crossings = shape.outlineLength * share * pixelRatio;
     const double density = qMin(crossings / qMax(1.0, visible.height() * pixelRatio), visible.width() * pixelRatio);
     const double pixels = visible.width() * visible.height() * pixelRatio * pixelRatio;
-    work.pixels = crossings * workPerCrossing + pixels * workPerPixel(item.fill, item.opacity) +
-                  strokedPixels(item, pixels, pixelRatio) * workPerPixel(item.pen.brush(), item.opacity);
+    const double opacity = item.item.opacity;
+    work.pixels = crossings * workPerCrossing + pixels * workPerPixel(shape.fill, opacity) +
+                  strokedPixels(shape, pixels, pixelRatio) * workPerPixel(shape.pen.brush(), opacity);
     work.crowding = crossings * density * workPerStep;
     return work;
 }
 
-double imageWork(const DisplayItem &item, const QRect &area, double pixelRatio)
+double imageWork(const QRectF &bounds, const QRect &area, double pixelRatio)
 {
-    const QRectF visible = item.bounds & QRectF(area);
+    const QRectF visible = bounds & QRectF(area);
     return visible.width() * visible.height() * pixelRatio * pixelRatio * workPerScaledPixel;
 }
 

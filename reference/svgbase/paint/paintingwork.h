@@ -1,14 +1,14 @@
 #pragma once
 
-#include "paint/displaylist.h"
+#include "paint/mappeditem.h"
 
 namespace Svg {
 
-/// How far a mapped item's outline and its stroke's two sides go along the axes, painter units.
-double paintedLength(const DisplayItem &item);
-/// How many segments and dashes a mapped item's pen goes along.
-double strokedPieces(const DisplayItem &item);
-/// Estimated cost of painting a mapped item within an area, in nanoseconds.
+/// Length of a mapped outline and of its stroke's two sides along the axes, painter units.
+double paintedLength(const MappedShape &shape);
+/// Number of segments and dashes that a mapped shape's pen goes along.
+double strokedPieces(const MappedShape &shape);
+/// Estimated cost of painting a mapped shape within an area, in nanoseconds.
 struct PaintingWork
 {
     /// For its elements, whatever its size.
@@ -18,8 +18,8 @@ struct PaintingWork
     /// For crossings that crowd in a row of pixels, where Qt's raster engine paints it.
     double crowding = 0;
 };
-PaintingWork paintingWork(const DisplayItem &item, const QRect &area, double pixelRatio);
-/// The same for a picture.
-double imageWork(const DisplayItem &item, const QRect &area, double pixelRatio);
+PaintingWork paintingWork(const MappedItem &item, const QRect &area, double pixelRatio);
+/// The same for a picture of the given bounds.
+double imageWork(const QRectF &bounds, const QRect &area, double pixelRatio);
 
 } // namespace Svg

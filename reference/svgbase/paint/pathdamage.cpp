@@ -26,29 +26,31 @@ bool isUndashed(const QPen &pen)
 }
 
 // A stroke that was outlined by itself follows the units of its element.
-bool hasSameStroke(const DisplayItem &a, const DisplayItem &b)
+bool hasSameStroke(const MappedShape &a, const MappedShape &b, const Facts &factsOfA, const Facts &factsOfB)
 {
     if (a.pen != b.pen || a.strokedWith != b.strokedWith || !isUndashed(a.strokedWith))
         return false;
     const bool isOutlined = !a.strokePath.isEmpty() || !b.strokePath.isEmpty();
-    return !isOutlined || (a.facts->toDocument == b.facts->toDocument && a.strokeReach == b.strokeReach &&
-                           a.facts->style->strokeScales == b.facts->style->strokeScales);
+    return !isOutlined || (factsOfA.toDocument == factsOfB.toDocument && a.strokeReach == b.strokeReach &&
+                           factsOfA.style->strokeScales == factsOfB.style->strokeScales);
 }
 
 // Whether only the outline can make the difference. Dashes behind a segment would move with its length.
-bool differsInOutlineAlone(const DisplayItem &a, const DisplayItem &b)
+bool differsInOutlineAlone(const MappedItem &before, const MappedItem &after)
 {
-    if (a.mapping || b.mapping)
+    const auto *a = std::get_if<MappedShape>(&before.content);
+    const auto *b = std::get_if<MappedShape>(&after.content);
+    if (!a || !b || a->mapping || b->mapping || a->isIndivisible || b->isIndivisible)
         return false;
-    return a.kind == DisplayItem::Shape && b.kind == DisplayItem::Shape && !a.isIndivisible && !b.isIndivisible &&
-           a.fill == b.fill && a.opacity == b.opacity && hasSameStroke(a, b) && hasSameElements(a.path, b.path);
+    return a->fill == b->fill && before.item.opacity == after.item.opacity &&
+           hasSameStroke(*a, *b, *before.item.facts, *after.item.facts) && hasSameElements(a->path, b->path);
 }
 
-/// What lies between a segment before and after, in pieces: a point of one and a point of the other for each cut.
+/// Areas between a segment before and after, in pieces: a point of one and a point of the other for each cut.
 class SegmentPair
 {
 public:
-    SegmentPair(const DisplayItem &before, const DisplayItem &after, Damage *damage)
+    SegmentPair(const MappedShape &before, const MappedShape &after, Damage *damage)
         : m_before(before.path)
         , m_after(after.path)
         , m_reach(after.strokeReach)
@@ -136,14 +138,14 @@ void SegmentPair::compare()
 
 } // namespace
 
-void addDifference(const DisplayItem &before, const DisplayItem &after, Damage *damage)
+void addDifference(const MappedItem &before, const MappedItem &after, Damage *damage)
 {
     if (!differsInOutlineAlone(before, after)) {
         damage->add(before.bounds);
         damage->add(after.bounds);
         return;
     }
-    SegmentPair(before, after, damage).compare();
+    SegmentPair(std::get<MappedShape>(before.content), std::get<MappedShape>(after.content), damage).compare();
 }
 
 } // namespace Svg

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "paint/damage.h"
-#include "paint/displaylist.h"
+#include "paint/mappeditem.h"
 
 namespace Svg {
 
-/// Adds what an item looks different in from the item that it takes the place of: where both are outlines of the
+/// Adds the parts in which an item looks different from the one that it replaces: where both are outlines of the
 /// same making, the surroundings of the segments that moved, else all of both.
-void addDifference(const DisplayItem &before, const DisplayItem &after, Damage *damage);
+void addDifference(const MappedItem &before, const MappedItem &after, Damage *damage);
 
 } // namespace Svg

@@ -1,135 +1,47 @@
 #include "paint/solidpainting.h"
 
+#include "paint/damage.h"
 #include "paint/itemmapping.h"
-#include "raster/coverage.h"
 
-#include <QtGui/QImage>
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPathStroker>
-#include <QtGui/QRgba64>
-
-#include <algorithm>
-#include <memory>
 
 namespace Svg {
 
 namespace {
-
-constexpr uint wholeByte = 255;
-/// What a painter's opacity is counted in.
-constexpr int opacitySteps = 256;
-
-/// Each channel times `factor` / 255, rounded; all four at once, apart from each other in the larger number.
-inline QRgb scaled(QRgb color, uint factor)
-{
-    constexpr quint64 apart = 0x00ff00ff00ff00ff;
-    constexpr quint64 halves = 0x0080008000800080;
-    quint64 channels = ((quint64(color) | (quint64(color) << 24)) & apart) * factor;
-    channels = ((channels + ((channels >> 8) & apart) + halves) >> 8) & apart;
-    return QRgb(channels) | QRgb(channels >> 24);
-}
-
-/// The colour as a painter lays it on pixels.
-QRgb premultiplied(const QColor &color, double opacity)
-{
-    const QRgba64 rgba = color.rgba64();
-    const int alpha = (rgba.alpha() * qRound(opacity * opacitySteps)) / opacitySteps;
-    return QRgba64::fromRgba64(rgba.red(), rgba.green(), rgba.blue(), quint16(alpha)).premultiplied().toArgb32();
-}
-
-/// Lays a colour over pixels.
-class Overlay
-{
-public:
-    Overlay(const PixelTarget &target, QRgb color)
-        : m_bits(target.picture->bits())
-        , m_bytesPerLine(target.picture->bytesPerLine())
-        , m_origin(target.origin)
-        , m_color(color)
-        , m_premultiplies(target.picture->format() == QImage::Format_ARGB32)
-    {
-    }
-
-    void operator()(const Coverage::Span &span) const
-    {
-        QRgb *pixels =
-            reinterpret_cast<QRgb *>(m_bits + (span.y - m_origin.y()) * m_bytesPerLine) + span.x - m_origin.x();
-        const QRgb color = span.coverage == int(wholeByte) ? m_color : scaled(m_color, uint(span.coverage));
-        const uint below = wholeByte - uint(qAlpha(color));
-        if (below == 0)
-            std::fill(pixels, pixels + span.length, color);
-        else if (m_premultiplies)
-            blendPlain(pixels, span.length, color, below);
-        else
-            blend(pixels, span.length, color, below);
-    }
-
-private:
-    static void blend(QRgb *pixels, int count, QRgb color, uint below)
-    {
-        for (int i = 0; i < count; ++i)
-            pixels[i] = color + scaled(pixels[i], below);
-    }
-    // What is covered alike mostly lies on one colour, whose mixture is worked out once.
-    static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
-    {
-        QRgb pixel = pixels[0];
-        QRgb mixed = mixedPlain(pixel, color, below);
-        for (int i = 0; i < count; ++i) {
-            if (pixels[i] != pixel) {
-                pixel = pixels[i];
-                mixed = mixedPlain(pixel, color, below);
-            }
-            pixels[i] = mixed;
-        }
-    }
-    // An opaque pixel is the same in both formats, and stays opaque.
-    static QRgb mixedPlain(QRgb pixel, QRgb color, uint below)
-    {
-        if (qAlpha(pixel) == int(wholeByte))
-            return color + scaled(pixel, below);
-        return qUnpremultiply(color + scaled(qPremultiply(pixel), below));
-    }
-
-    uchar *m_bits;
-    qsizetype m_bytesPerLine;
-    QPoint m_origin;
-    QRgb m_color;
-    bool m_premultiplies;
-};
 
 bool isPlain(const QBrush &brush)
 {
     return brush.style() == Qt::SolidPattern && brush.transform().isIdentity();
 }
 
-bool hasPlainStroke(const DisplayItem &item)
+bool hasPlainStroke(const MappedShape &shape)
 {
-    if (item.pen.style() == Qt::NoPen)
-        return item.strokePath.isEmpty() || isPlain(item.pen.brush());
-    return item.pen.style() == Qt::SolidLine && isPlain(item.pen.brush()) && !item.pen.isCosmetic() &&
-           item.pen.widthF() > 0;
+    if (shape.pen.style() == Qt::NoPen)
+        return shape.strokePath.isEmpty() || isPlain(shape.pen.brush());
+    return shape.pen.style() == Qt::SolidLine && isPlain(shape.pen.brush()) && !shape.pen.isCosmetic() &&
+           shape.pen.widthF() > 0;
 }
 
-bool isSolid(const DisplayItem &item)
+bool isSolid(const MappedShape &shape)
 {
-    return item.smooth && (item.fill.style() == Qt::NoBrush || isPlain(item.fill)) && hasPlainStroke(item);
+    return shape.smooth && (shape.fill.style() == Qt::NoBrush || isPlain(shape.fill)) && hasPlainStroke(shape);
 }
 
-std::shared_ptr<const FlatShape> flatShape(const DisplayItem &item)
+std::shared_ptr<const FlatShape> flatShape(const MappedItem &item, const MappedShape &shape)
 {
     auto flat = std::make_shared<FlatShape>();
     const QPainterPath path = mappedOutline(item);
-    if (item.fill.style() != Qt::NoBrush && !flatten(path, &flat->fill))
+    if (shape.fill.style() != Qt::NoBrush && !flatten(path, &flat->fill))
         return flat;
-    if (item.pen.style() != Qt::NoPen) {
-        const QPainterPathStroker stroker(item.pen);
+    if (shape.pen.style() != Qt::NoPen) {
+        const QPainterPathStroker stroker(shape.pen);
         if (!flatten(stroker.createStroke(path), &flat->stroke))
             return flat;
         flat->stroke.fillRule = Qt::WindingFill;
     }
-    flat->isUsable = item.strokePath.isEmpty() || flatten(item.strokePath, &flat->distorted);
+    flat->isUsable = shape.strokePath.isEmpty() || flatten(shape.strokePath, &flat->distorted);
     return flat;
 }
 
@@ -145,14 +57,6 @@ bool hasKnownPixels(const QImage &picture)
     const bool known =
         picture.format() == QImage::Format_ARGB32 || picture.format() == QImage::Format_ARGB32_Premultiplied;
     return known && picture.devicePixelRatio() == 1 && picture.isDetached();
-}
-
-// Large enough to be worth keeping, and in use only while a shape is painted. Behind a pointer, since a compiler
-// asks for the address of what belongs to a thread again and again.
-Coverage &sharedCoverage()
-{
-    static thread_local const auto coverage = std::make_unique<Coverage>();
-    return *coverage;
 }
 
 } // namespace
@@ -173,24 +77,23 @@ PixelTarget pixelTarget(const QPainter &painter)
     return painter.clipPath() == rectangle ? PixelTarget{picture, QPoint(), clip & picture->rect()} : PixelTarget();
 }
 
-bool paintSolid(const DisplayItem &item, double opacity, const PixelTarget &target, bool keep)
+bool paintSolid(const MappedItem &item, double opacity, const PixelTarget &target, bool keep)
 {
-    if (!target.picture || !isSolid(item))
+    const auto &shape = std::get<MappedShape>(item.content);
+    if (!target.picture || !isSolid(shape))
         return false;
-    const std::shared_ptr<const FlatShape> flat = item.flat ? item.flat : flatShape(item);
+    const std::shared_ptr<const FlatShape> flat = shape.flat ? shape.flat : flatShape(item, shape);
     if (keep)
-        item.flat = flat;
+        shape.flat = flat;
     if (!flat->isUsable)
         return false;
     const QRect window = paintedPixels(item.bounds, target.window);
-    Coverage &coverage = sharedCoverage();
-    if (item.fill.style() != Qt::NoBrush)
-        coverage.sweep(flat->fill, window, Overlay(target, premultiplied(item.fill.color(), opacity)));
-    const Overlay stroke(target, premultiplied(item.pen.color(), opacity));
+    if (shape.fill.style() != Qt::NoBrush)
+        fillSolid(flat->fill, shape.fill.color(), opacity, window, target);
     if (!flat->stroke.points.isEmpty())
-        coverage.sweep(flat->stroke, window, stroke);
+        fillSolid(flat->stroke, shape.pen.color(), opacity, window, target);
     if (!flat->distorted.points.isEmpty())
-        coverage.sweep(flat->distorted, window, stroke);
+        fillSolid(flat->distorted, shape.pen.color(), opacity, window, target);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grammar/blendmodes.h"
 #include "grammar/filterlists.h"
 
 #include <QtCore/QSharedData>
@@ -8,28 +9,6 @@
 #include <QtGui/QPainter>
 
 namespace Svg {
-
-/// What "mix-blend-mode" may ask for (Compositing 1 §5, and the operator that Compositing 2 adds). Painters know
-/// all but the four from `Hue` to `Luminosity`.
-enum class BlendMode : quint8 {
-    Normal,
-    Multiply,
-    Screen,
-    Overlay,
-    Darken,
-    Lighten,
-    ColorDodge,
-    ColorBurn,
-    HardLight,
-    SoftLight,
-    Difference,
-    Exclusion,
-    Hue,
-    Saturation,
-    Color,
-    Luminosity,
-    PlusLighter
-};
 
 /// What of a mask's picture counts: what its own element says, or one of both (CSS Masking 1 §7.2).
 enum class MaskMode : quint8 { MatchSource, Alpha, Luminance };

@@ -2,8 +2,8 @@
 
 #include "grammar/colors.h"
 #include "grammar/lengths.h"
+#include "grammar/linearlight.h"
 #include "inputlimits.h"
-#include "resolve/linearlight.h"
 #include "style/cascade.h"
 #include "tree/references.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "paint/patternpaint.h"
 #include "resolve/drawingwalk.h"
 #include "resolve/settledtree.h"
+#include "scene/displayitem.h"
 #include "scene/drawreport.h"
 
 #include <QtCore/QHash>
@@ -10,16 +10,41 @@
 
 namespace Svg {
 
-/// What all parts of a list share while it is built.
+struct BuildContext;
+
+/// What content is built for.
+enum class ContentUse {
+    Drawing,
+    /// Only silhouettes count, of shapes, texts and direct references to them (CSS Masking 1 §6.3.1).
+    Clipping
+};
+
+/// Builds the content of elements that others refer to.
+class ContentBuilder
+{
+public:
+    /// The items of an element's children as they are drawn under the given facts.
+    virtual DisplayItems children(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
+                                  ContentUse use) const = 0;
+    /// The items of an element, the root for all of a document, under the given facts.
+    virtual DisplayItems element(BuildContext &context, NodeIndex node, const FactsPointer &facts) const = 0;
+
+protected:
+    ~ContentBuilder() = default;
+};
+
+/// State that all parts of a list share while it is built.
 struct BuildContext
 {
-    explicit BuildContext(SettledTree &built)
+    BuildContext(SettledTree &built, const ContentBuilder &builder)
         : document(built)
+        , content(builder)
     {
     }
 
     SettledTree &document;
-    /// What was taken by references; bounding boxes count apart.
+    const ContentBuilder &content;
+    /// Taken by references; bounding boxes count apart.
     WalkBudget budget;
     WalkBudget boundsBudget;
     int boundsVisits = 0;
@@ -27,12 +52,10 @@ struct BuildContext
     int appliedPrimitives = 0;
     /// Clip paths, masks and markers whose content is being built; one of them in its own content is an error.
     QVector<NodeIndex> open;
-    /// What "feImage" elements show, so that every use of a filter need not read it again.
+    /// Images of "feImage" elements, so that every use of a filter need not read them again.
     QHash<NodeIndex, std::shared_ptr<const ImageContent>> filterImages;
     /// Patterns that were built, for all that are painted with the same, by what they were built from.
     QMultiHash<uint, PatternPointer> patterns;
-    std::shared_ptr<PatternTiles> tiles = std::make_shared<PatternTiles>();
-    /// What was left out.
     DrawReport report;
     /// Images that are shown, their pixels, and the same counted for every time that they are.
     QSet<const ImageContent *> images;
@@ -44,7 +67,7 @@ struct BuildContext
     bool blends = false;
     /// The control point that is being visited, and its centre in document units.
     NodeIndex control = noNode;
-    QPointF controlCentre;
+    std::optional<QPointF> controlCentre;
 };
 
 } // namespace Svg

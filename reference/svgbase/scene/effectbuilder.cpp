@@ -1,11 +1,10 @@
 #include "scene/effectbuilder.h"
 
 #include "grammar/basicshapes.h"
+#include "resolve/effectregion.h"
 #include "resolve/resolver.h"
-#include "scene/effectregion.h"
 #include "scene/filterbuilder.h"
 #include "scene/layerwrapping.h"
-#include "scene/listbuilder.h"
 #include "scene/objectbounds.h"
 #include "scene/openreference.h"
 
@@ -40,7 +39,7 @@ private:
     const QRectF &bounds();
     QRectF shapeBox(ShapeBox box);
     bool contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *facts);
-    bool buildClip(NodeIndex clip, QVector<DisplayItem> *items);
+    bool buildClip(NodeIndex clip, DisplayItems *items);
     bool buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer);
 
     BuildContext &m_context;
@@ -80,7 +79,7 @@ bool EffectBuilder::contentFacts(NodeIndex holder, bool ofBounds, const QTransfo
     return true;
 }
 
-bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
+bool EffectBuilder::buildClip(NodeIndex clip, DisplayItems *items)
 {
     if (OpenReference::isOpen(m_context, clip))
         return false;
@@ -92,7 +91,7 @@ bool EffectBuilder::buildClip(NodeIndex clip, QVector<DisplayItem> *items)
     FactsPointer facts;
     if (!contentFacts(clip, ofBounds, own, &facts))
         return false;
-    *items = buildContent(m_context, clip, facts, ContentUse::Clipping);
+    *items = m_context.content.children(m_context, clip, facts, ContentUse::Clipping);
     if (items->isEmpty())
         return false;
     const auto &effects = facts->style->effects;
@@ -176,7 +175,7 @@ bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer
     layer->masks = true;
     layer->alphaMask = isAlphaMask(mode, *facts->style);
     layer->linearMask = facts->style->mixesLinear;
-    layer->mask = buildContent(m_context, mask, facts, ContentUse::Drawing);
+    layer->mask = m_context.content.children(m_context, mask, facts, ContentUse::Drawing);
     if (layer->mask.isEmpty())
         return false;
     const auto &effects = facts->style->effects;

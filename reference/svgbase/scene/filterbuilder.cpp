@@ -1,13 +1,12 @@
 #include "scene/filterbuilder.h"
 
 #include "inputlimits.h"
+#include "resolve/effectregion.h"
+#include "resolve/filterattributes.h"
+#include "resolve/filterfunctions.h"
 #include "resolve/images.h"
 #include "resolve/resolver.h"
-#include "scene/effectregion.h"
-#include "scene/filterattributes.h"
-#include "scene/filterfunctions.h"
 #include "scene/imagebuilder.h"
-#include "scene/listbuilder.h"
 #include "scene/openreference.h"
 #include "tree/references.h"
 
@@ -38,9 +37,9 @@ private:
     bool addPrimitives(NodeIndex filter, FilterStep *step);
     ImagePointer image(NodeIndex node);
     FactsPointer useFacts(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region) const;
-    void buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive);
-    void buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
-                    FilterPrimitive *primitive);
+    DisplayItems elementImage(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region);
+    DisplayItems shownImage(NodeIndex node, const PrimitiveUnits &units, const QRectF &whole,
+                            const PrimitiveRegion &region);
 
     BuildContext &m_context;
     const FilterTarget &m_target;
@@ -81,46 +80,44 @@ FactsPointer FilterBuilder::useFacts(NodeIndex node, const PrimitiveUnits &units
 }
 
 // An element is shown as "use" would show it.
-void FilterBuilder::buildElementImage(NodeIndex node, const PrimitiveUnits &units, FilterPrimitive *primitive)
+DisplayItems FilterBuilder::elementImage(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region)
 {
     const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
     if (shown == noNode || shown == rootNode || !OpenReference::isAllowed(m_context, shown) ||
         ++m_context.budget.instances > Limits::useInstances)
-        return;
+        return {};
     const ElementKind kind = element(shown).kind;
     if (!isDrawable(kind) && kind != ElementKind::Symbol)
-        return;
+        return {};
     const OpenReference open(m_context, shown);
-    const FactsPointer holder = useFacts(node, units, primitive->region);
+    const FactsPointer holder = useFacts(node, units, region);
     const Resolver resolver = m_context.document.resolver();
     const FactsPointer own = m_context.document.facts(shown);
     const FactsPointer facts = resolver.resolve(shown, holder, {own.data(), false, false, true});
-    primitive->items = buildElement(m_context, shown, facts);
+    return m_context.content.element(m_context, shown, facts);
 }
 
 // The picture of an "feImage" is fitted into its subregion (Filter Effects 1 §9.12).
-void FilterBuilder::buildImage(NodeIndex node, const PrimitiveUnits &units, const FilterStep &step,
-                               FilterPrimitive *primitive)
+DisplayItems FilterBuilder::shownImage(NodeIndex node, const PrimitiveUnits &units, const QRectF &whole,
+                                       const PrimitiveRegion &region)
 {
     const Attributes &attributes = element(node).attributes;
-    if (!hrefTarget(attributes).isEmpty()) {
-        buildElementImage(node, units, primitive);
-        return;
-    }
+    if (!hrefTarget(attributes).isEmpty())
+        return elementImage(node, units, region);
     auto *facts = new Facts;
     const FactsPointer holder(facts);
     facts->image = image(node);
     if (!facts->image)
-        return;
+        return {};
     facts->style = m_context.document.facts(node)->style;
     facts->toDocument = m_target.toDocument;
-    const QRectF &whole = *step.region;
-    const PrimitiveRegion &r = primitive->region;
-    facts->localBounds = QRectF(r.x.value_or(whole.x()), r.y.value_or(whole.y()), r.width.value_or(whole.width()),
-                                r.height.value_or(whole.height()));
+    facts->localBounds = QRectF(region.x.value_or(whole.x()), region.y.value_or(whole.y()),
+                                region.width.value_or(whole.width()), region.height.value_or(whole.height()));
     const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
     facts->ownFitting().fit = contentFit(*facts->image, facts->localBounds, ratio);
-    appendImage(m_context, node, holder, &primitive->items);
+    DisplayItems items;
+    appendImage(m_context, node, holder, &items);
+    return items;
 }
 
 // False when the filter, or all of them together, would have too many.
@@ -154,10 +151,12 @@ bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
             continue;
         if (!takePrimitive(filter, *step))
             return false;
-        FilterPrimitive primitive =
+        const FilterPrimitive primitive =
             readPrimitive(m_context.document.tree(), at, *m_context.document.facts(at)->style, units);
-        if (kind == ElementKind::FeImage)
-            buildImage(at, units, *step, &primitive);
+        const DisplayItems image =
+            kind == ElementKind::FeImage ? shownImage(at, units, *step->region, primitive.region) : DisplayItems();
+        if (!image.isEmpty())
+            step->images.insert(step->primitives.size(), image);
         step->primitives.append(primitive);
     }
     return true;
@@ -197,7 +196,7 @@ BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target)
     FilterBuilder builder(context, target);
     for (const FilterFunction &function : *functions) {
         if (function.kind != FilterFunction::Reference)
-            filter->steps.append(functionStep(function, target.style));
+            filter->steps.append({std::nullopt, {functionPrimitive(function, target.style)}, {}});
         else if (!builder.addElement(context.document.tree().findId(function.id), filter.get(), &result.drawn))
             return BuiltFilter();
     }

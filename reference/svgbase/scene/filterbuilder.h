@@ -28,7 +28,7 @@ struct BuiltFilter
     bool drawn = true;
     /// Null when the element is drawn as if it had none: a list that refers to nothing or to another kind of
     /// element (Filter Effects 1 §5), or one that is too long.
-    std::shared_ptr<Filter> filter;
+    std::shared_ptr<const Filter> filter;
 };
 
 BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target);

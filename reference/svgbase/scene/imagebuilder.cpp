@@ -4,7 +4,6 @@
 #include "resolve/images.h"
 #include "resolve/viewports.h"
 #include "scene/layerwrapping.h"
-#include "scene/listbuilder.h"
 
 namespace Svg {
 
@@ -30,7 +29,7 @@ bool takePixels(BuildContext &context, const ImageContent &content)
     return true;
 }
 
-void appendShown(BuildContext &context, DisplayItem item, const ShownPicture &shown, QVector<DisplayItem> *items)
+void appendShown(BuildContext &context, DisplayItem item, const PictureItem &shown, DisplayItems *items)
 {
     if (!takePixels(context, *shown.content)) {
         context.report.add(
@@ -39,19 +38,17 @@ void appendShown(BuildContext &context, DisplayItem item, const ShownPicture &sh
             item.node);
         return;
     }
-    item.kind = DisplayItem::Image;
-    item.control = context.control != noNode;
     item.controlCentre = context.controlCentre;
-    item.picture = new ShownPicture(shown);
+    item.content = std::make_shared<const PictureItem>(shown);
     items->append(item);
 }
 
-void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &facts, DisplayItems *items)
 {
     DisplayItem item;
     item.node = node;
     item.facts = facts;
-    ShownPicture shown;
+    PictureItem shown;
     shown.content = facts->image;
     shown.fit = facts->fitted().fit;
     shown.target = shown.fit.mapRect(QRectF(QPointF(), shown.content->size));
@@ -61,11 +58,11 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
 }
 
 // The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
-QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
+DisplayItems documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
 {
     const QSizeF window = facts.image->takesSize ? facts.localBounds.size() : facts.image->window;
     const std::unique_ptr<SettledTree> document = context.document.imageDocument(*facts.image, window);
-    BuildContext inner(*document);
+    BuildContext inner(*document, context.content);
     inner.budget = context.budget;
     inner.boundsBudget = context.boundsBudget;
     inner.boundsVisits = context.boundsVisits;
@@ -75,12 +72,11 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     inner.shownPixels = context.shownPixels;
     inner.imageDepth = context.imageDepth + 1;
     inner.control = context.control;
-    inner.tiles = context.tiles;
     inner.controlCentre = context.controlCentre;
     auto *root = new Facts(*document->facts(rootNode));
     const FactsPointer rootFacts(root);
     root->toDocument = root->toDocument * facts.fitted().fit * facts.toDocument;
-    QVector<DisplayItem> items = buildElement(inner, rootNode, rootFacts);
+    DisplayItems items = inner.content.element(inner, rootNode, rootFacts);
     if (inner.blends)
         wrapInLayer(inner, rootNode, nullptr, &items);
     context.budget = inner.budget;
@@ -98,7 +94,7 @@ QVector<DisplayItem> documentItems(BuildContext &context, NodeIndex node, const 
     return items;
 }
 
-void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &facts, DisplayItems *items)
 {
     if (context.imageDepth >= Limits::imageDepth) {
         context.report.add(
@@ -106,7 +102,7 @@ void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &f
             QStringLiteral("Documents more than %1 deep in images are left out.").arg(Limits::imageDepth));
         return;
     }
-    QVector<DisplayItem> drawing = documentItems(context, node, *facts);
+    DisplayItems drawing = documentItems(context, node, *facts);
     if (drawing.isEmpty())
         return;
     if (const std::optional<QRectF> cut = cutOf(*facts)) {
@@ -116,12 +112,12 @@ void appendDocument(BuildContext &context, NodeIndex node, const FactsPointer &f
         layer->regionToDocument = facts->toDocument;
         wrapInLayer(context, node, layer, &drawing);
     }
-    appendItems(drawing, items);
+    *items += drawing;
 }
 
 } // namespace
 
-void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &facts, QVector<DisplayItem> *items)
+void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &facts, DisplayItems *items)
 {
     if (facts->localBounds.isEmpty() || !facts->fitted().fit.isInvertible())
         return;
@@ -132,9 +128,9 @@ void appendImage(BuildContext &context, NodeIndex node, const FactsPointer &fact
 }
 
 void appendGlyphPicture(BuildContext &context, const DisplayItem &item, const PlacedPicture &picture,
-                        QVector<DisplayItem> *items)
+                        DisplayItems *items)
 {
-    ShownPicture shown;
+    PictureItem shown;
     shown.content = picture.content;
     shown.toElement = picture.place;
     shown.target = QRectF(QPointF(), picture.content->size);

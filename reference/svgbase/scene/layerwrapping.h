@@ -5,10 +5,8 @@
 
 namespace Svg {
 
-/// Puts a list that is complete in itself into a layer.
-void wrapInLayer(const BuildContext &context, NodeIndex node, const std::shared_ptr<LayerEffects> &effects,
-                 QVector<DisplayItem> *items);
-/// Appends a list that is complete in itself.
-void appendItems(const QVector<DisplayItem> &added, QVector<DisplayItem> *items);
+/// Puts a list that is complete in itself into a group.
+void wrapInLayer(const BuildContext &context, NodeIndex node, const std::shared_ptr<const LayerEffects> &effects,
+                 DisplayItems *items);
 
 } // namespace Svg

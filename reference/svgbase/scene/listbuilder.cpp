@@ -4,6 +4,7 @@
 #include "resolve/contextpaint.h"
 #include "resolve/drawingwalk.h"
 #include "resolve/visiblebounds.h"
+#include "scene/buildcontext.h"
 #include "scene/controlpoints.h"
 #include "scene/effectbuilder.h"
 #include "scene/imagebuilder.h"
@@ -36,13 +37,14 @@ public:
     }
 
     BuiltList build();
-    QVector<DisplayItem> buildContent(NodeIndex holder, const FactsPointer &facts);
-    QVector<DisplayItem> buildElement(NodeIndex node, const FactsPointer &facts);
+    DisplayItems buildContent(NodeIndex holder, const FactsPointer &facts);
+    DisplayItems buildElement(NodeIndex node, const FactsPointer &facts);
 
 private:
     DrawingVisitor visitor();
     bool enter(NodeIndex node, const FactsPointer &facts);
     void leave(NodeIndex node);
+    void leaveControl();
     void reportReferences();
     bool isAllowed(ElementKind kind) const;
     void addPainted(NodeIndex node, const FactsPointer &facts, bool layered);
@@ -50,8 +52,7 @@ private:
     void addText(NodeIndex node, const FactsPointer &facts, bool layered);
     void addOutline(NodeIndex node, const FactsPointer &facts, bool layered, const PaintedParts &parts,
                     int outline);
-    void addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
-                         int index);
+    void addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline);
     PatternPointer pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity);
     bool hasMarkers(ElementKind kind, const Facts &facts) const;
     void addMarkers(NodeIndex node, const FactsPointer &facts);
@@ -60,10 +61,7 @@ private:
     bool isFadedAsOne(NodeIndex node, const FactsPointer &facts) const;
     bool isSilhouette() const { return m_use == ContentUse::Clipping; }
     bool isInControl() const { return m_context.control != noNode; }
-    QVector<DisplayItem> &target()
-    {
-        return isInControl() && !m_isContent ? m_result.controlPoints : m_result.items;
-    }
+    DisplayItems &target() { return isInControl() && !m_isContent ? m_result.controlPoints : m_result.items; }
 
     BuildContext &m_context;
     SettledTree &m_document;
@@ -82,9 +80,9 @@ bool paintsNothing(const Outline &outline)
     return outline.fill.style() == Qt::NoBrush && outline.pen.style() == Qt::NoPen;
 }
 
-template<typename Painted> bool paintsTwice(const Painted &painted)
+bool paintsTwice(const Outline &outline)
 {
-    return painted.fill.style() != Qt::NoBrush && painted.pen.style() != Qt::NoPen;
+    return outline.fill.style() != Qt::NoBrush && outline.pen.style() != Qt::NoPen;
 }
 
 Outline effectiveOutline(const SettledTree &document, NodeIndex node, const Facts &facts, int index)
@@ -110,36 +108,37 @@ void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts,
                              const std::shared_ptr<LayerEffects> &effects)
 {
     DisplayItem item;
-    item.kind = DisplayItem::BeginLayer;
     item.node = node;
     item.facts = facts;
-    item.effects = effects;
     item.opacity = isSilhouette() ? 1 : facts->style->opacity;
-    item.control = isInControl();
     item.controlCentre = m_context.controlCentre;
+    item.content = GroupItem{effects, 0};
     m_layers.last() = target().size();
     target().append(item);
 }
 
+// Whether fading the item is the same as fading a group that holds nothing else.
+bool canBeFaded(const DisplayItem &item)
+{
+    if (std::holds_alternative<GroupItem>(item.content))
+        return false;
+    const auto *shape = std::get_if<ShapeItem>(&item.content);
+    return !shape || !paintsTwice(shownOutline(item, *shape));
+}
+
 void ListBuilder::endLayer()
 {
-    QVector<DisplayItem> &items = target();
+    DisplayItems &items = target();
     const int begin = m_layers.constLast();
-    // A layer around one single stroke, fill or image is the same as fading that one.
-    const bool single = items.size() == begin + 2;
-    const bool filtered = items.at(begin).effects && items.at(begin).effects->filter;
-    if (items.size() == begin + 1 && !filtered) {
+    const int count = items.size() - begin - 1;
+    const auto &effects = std::get<GroupItem>(items.at(begin).content).effects;
+    if (count == 0 && !(effects && effects->filter)) {
         items.removeLast();
-    } else if (single && !items.at(begin).effects && !paintsTwice(items.at(begin + 1))) {
-        DisplayItem shape = items.takeLast();
-        shape.opacity *= items.takeLast().opacity;
-        items.append(shape);
+    } else if (count == 1 && !effects && canBeFaded(items.constLast())) {
+        items.last().opacity *= items.at(begin).opacity;
+        items.remove(begin);
     } else {
-        DisplayItem end;
-        end.kind = DisplayItem::EndLayer;
-        end.node = items.at(begin).node;
-        items[begin].end = items.size();
-        items.append(end);
+        std::get<GroupItem>(items[begin].content).count = count;
     }
 }
 
@@ -155,16 +154,13 @@ PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::K
 
 // The colours are the font's own; of the fill it takes whether there is one, and how much of it shows. Pictures
 // clip nothing: they have no silhouette.
-void ListBuilder::addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline,
-                                  int index)
+void ListBuilder::addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline)
 {
     if (isSilhouette() || outline.fill.style() == Qt::NoBrush)
         return;
     DisplayItem item;
     item.node = node;
     item.facts = facts;
-    item.override = m_document.stylePointer(node);
-    item.outline = index;
     const bool isPlain = outline.fill.style() == Qt::SolidPattern && outline.fillPattern == noNode;
     item.opacity = isPlain ? outline.fill.color().alphaF() : double(outline.fillOpacity);
     if (!layered)
@@ -178,7 +174,7 @@ void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool lay
     Outline outline = effectiveOutline(m_document, node, *facts, index);
     if (outline.picture) {
         if (parts.fill)
-            addGlyphPicture(node, facts, layered, outline, index);
+            addGlyphPicture(node, facts, layered, outline);
         return;
     }
     if (!parts.fill)
@@ -187,24 +183,22 @@ void ListBuilder::addOutline(NodeIndex node, const FactsPointer &facts, bool lay
         outline.pen = QPen(Qt::NoPen);
     if (isSilhouette() ? !parts.fill : paintsNothing(outline))
         return;
+    ShapeItem shape;
+    shape.override = m_document.stylePointer(node);
+    shape.outline = index;
+    shape.silhouette = isSilhouette();
+    shape.paintsFill = parts.fill;
+    shape.paintsStroke = parts.stroke;
+    if (parts.fill && !isSilhouette())
+        shape.fillPattern = pattern(outline.fillPattern, *facts, outline.fillKind, double(outline.fillOpacity));
+    if (parts.stroke && !isSilhouette())
+        shape.strokePattern =
+            pattern(outline.strokePattern, *facts, outline.strokeKind, double(outline.strokeOpacity));
     DisplayItem item;
     item.node = node;
     item.facts = facts;
-    item.override = m_document.stylePointer(node);
-    item.outline = index;
-    item.silhouette = isSilhouette();
-    item.control = isInControl();
     item.controlCentre = m_context.controlCentre;
-    item.fill = outline.fill;
-    item.pen = outline.pen;
-    item.smooth = outline.smooth;
-    item.paintsFill = parts.fill;
-    item.paintsStroke = parts.stroke;
-    if (parts.fill && !isSilhouette())
-        item.fillPattern = pattern(outline.fillPattern, *facts, outline.fillKind, double(outline.fillOpacity));
-    if (parts.stroke && !isSilhouette())
-        item.strokePattern =
-            pattern(outline.strokePattern, *facts, outline.strokeKind, double(outline.strokeOpacity));
+    item.content = shape;
     if (!layered && !isSilhouette())
         item.opacity = facts->style->opacity;
     target().append(item);
@@ -325,7 +319,7 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
         effects = isSilhouette() ? buildClipOnly(m_context, node, facts) : buildEffects(m_context, node, facts);
     if (!effects.drawn) {
         if (startsControl)
-            m_context.control = noNode;
+            leaveControl();
         return false;
     }
     if (facts->fitted().cut && !isSilhouette())
@@ -343,16 +337,20 @@ bool ListBuilder::enter(NodeIndex node, const FactsPointer &facts)
     return true;
 }
 
+void ListBuilder::leaveControl()
+{
+    m_context.control = noNode;
+    m_context.controlCentre.reset();
+}
+
 void ListBuilder::leave(NodeIndex node)
 {
     if (m_layers.constLast() != noLayer)
         endLayer();
     m_layers.removeLast();
     m_kinds.removeLast();
-    if (m_context.control != node)
-        return;
-    m_context.control = noNode;
-    m_context.controlCentre = QPointF();
+    if (m_context.control == node)
+        leaveControl();
 }
 
 DrawingVisitor ListBuilder::visitor()
@@ -382,43 +380,47 @@ BuiltList ListBuilder::build()
     if (m_context.blends)
         wrapInLayer(m_context, rootNode, nullptr, &m_result.items);
     reportReferences();
-    m_result.tiles = m_context.tiles;
     m_result.report = m_context.report;
     return std::move(m_result);
 }
 
-QVector<DisplayItem> ListBuilder::buildContent(NodeIndex holder, const FactsPointer &facts)
+DisplayItems ListBuilder::buildContent(NodeIndex holder, const FactsPointer &facts)
 {
     m_isContent = true;
     walkChildren(m_document, holder, facts, visitor(), &m_context.budget);
     return m_result.items;
 }
 
-QVector<DisplayItem> ListBuilder::buildElement(NodeIndex node, const FactsPointer &facts)
+DisplayItems ListBuilder::buildElement(NodeIndex node, const FactsPointer &facts)
 {
     m_isContent = true;
     walkUsed(m_document, node, facts, visitor(), &m_context.budget);
     return m_result.items;
 }
 
-} // namespace
-
-QVector<DisplayItem> buildElement(BuildContext &context, NodeIndex node, const FactsPointer &facts)
+/// Builds content the way the whole drawing is built.
+class WalkedContent final : public ContentBuilder
 {
-    return ListBuilder(context, ContentUse::Drawing).buildElement(node, facts);
-}
+public:
+    DisplayItems children(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
+                          ContentUse use) const override
+    {
+        return ListBuilder(context, use).buildContent(holder, facts);
+    }
+    DisplayItems element(BuildContext &context, NodeIndex node, const FactsPointer &facts) const override
+    {
+        return ListBuilder(context, ContentUse::Drawing).buildElement(node, facts);
+    }
+};
+
+} // namespace
 
 BuiltList buildList(SettledTree &document)
 {
     document.settle();
-    BuildContext context(document);
+    const WalkedContent content;
+    BuildContext context(document, content);
     return ListBuilder(context, ContentUse::Drawing).build();
-}
-
-QVector<DisplayItem> buildContent(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
-                                  ContentUse use)
-{
-    return ListBuilder(context, use).buildContent(holder, facts);
 }
 
 } // namespace Svg

@@ -7,7 +7,6 @@
 #include "resolve/viewports.h"
 #include "scene/layereffects.h"
 #include "scene/layerwrapping.h"
-#include "scene/listbuilder.h"
 #include "scene/openreference.h"
 
 #include <optional>
@@ -54,7 +53,7 @@ void readOrientation(const Attributes &attributes, MarkerForm *form)
 class MarkerBuilder
 {
 public:
-    MarkerBuilder(BuildContext &context, const MarkedElement &element, QVector<DisplayItem> *items)
+    MarkerBuilder(BuildContext &context, const MarkedElement &element, DisplayItems *items)
         : m_context(context)
         , m_element(element)
         , m_items(items)
@@ -70,7 +69,7 @@ private:
 
     BuildContext &m_context;
     const MarkedElement &m_element;
-    QVector<DisplayItem> *m_items;
+    DisplayItems *m_items;
 };
 
 bool MarkerBuilder::fitContent(const Attributes &attributes, const LengthContext &context, MarkerForm *form) const
@@ -136,7 +135,7 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
     context->fill = m_element.fill;
     context->stroke = m_element.stroke;
     facts->context = context;
-    QVector<DisplayItem> content = buildContent(m_context, form.node, holder, ContentUse::Drawing);
+    DisplayItems content = m_context.content.children(m_context, form.node, holder, ContentUse::Drawing);
     if (content.isEmpty())
         return;
     const double opacity = form.own->style->opacity;
@@ -148,7 +147,7 @@ void MarkerBuilder::appendOne(const MarkerForm &form, const MarkerVertex &vertex
         wrapInLayer(m_context, form.node, layer, &content);
         content.first().opacity = opacity;
     }
-    appendItems(content, m_items);
+    *m_items += content;
 }
 
 void MarkerBuilder::append(const QVector<MarkerVertex> &vertices)
@@ -169,7 +168,7 @@ void MarkerBuilder::append(const QVector<MarkerVertex> &vertices)
 
 } // namespace
 
-void appendMarkers(BuildContext &context, const MarkedElement &element, QVector<DisplayItem> *items)
+void appendMarkers(BuildContext &context, const MarkedElement &element, DisplayItems *items)
 {
     const Node &node = context.document.tree().node(element.node);
     const LengthContext lengths{element.facts->viewport, element.facts->style->font.size};

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "paint/displaylist.h"
 #include "scene/buildcontext.h"
 
 namespace Svg {
@@ -17,6 +16,6 @@ struct MarkedElement
 };
 
 /// Appends what the markers of an element draw at its vertices (SVG 2 §13.7).
-void appendMarkers(BuildContext &context, const MarkedElement &element, QVector<DisplayItem> *items);
+void appendMarkers(BuildContext &context, const MarkedElement &element, DisplayItems *items);
 
 } // namespace Svg

@@ -3,7 +3,6 @@
 #include "grammar/viewboxes.h"
 #include "inputlimits.h"
 #include "resolve/patternchain.h"
-#include "scene/listbuilder.h"
 #include "scene/openreference.h"
 
 namespace Svg {
@@ -40,7 +39,7 @@ private:
     bool m_ofBounds;
     /// Of the pattern's own element, user units.
     double m_fontSize;
-    PatternPaint m_pattern;
+    Pattern m_pattern;
 };
 
 double PatternBuilder::length(const char *name, Axis axis) const
@@ -138,11 +137,10 @@ PatternPointer PatternBuilder::build()
         return nullptr;
     facts->style = m_context.document.facts(holder)->style;
     const OpenReference open(m_context, m_pattern.node);
-    m_pattern.items = buildContent(m_context, holder, content, ContentUse::Drawing);
+    m_pattern.items = m_context.content.children(m_context, holder, content, ContentUse::Drawing);
     if (m_pattern.items.isEmpty())
         return nullptr;
-    m_pattern.tiles = m_context.tiles;
-    return *m_context.patterns.insert(key(), std::make_shared<const PatternPaint>(m_pattern));
+    return *m_context.patterns.insert(key(), std::make_shared<const Pattern>(m_pattern));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "paint/patternpaint.h"
 #include "scene/buildcontext.h"
+#include "scene/pattern.h"
 
 namespace Svg {
 

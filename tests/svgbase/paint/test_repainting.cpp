@@ -27,6 +27,7 @@ private slots:
     void changeBelowIsRepainted();
     void largeChangeRepaintsEverything();
     void changeOfPlaceRepaintsEverything();
+    void clipPathAndMaskFollowAChangeOfSize();
     void sameStyleAgainChangesNothing();
     void whatComesLateInALongDrawingIsRepaintedToo();
     void paintingLeavesOpacityAsItWas();
@@ -64,6 +65,15 @@ public:
     {
         QImage image(side, side, QImage::Format_ARGB32);
         image.fill(Qt::transparent);
+        return image;
+    }
+
+    QImage painted(const QTransform &stretch)
+    {
+        QImage image = blank();
+        m_list.update(m_document, stretch, QTransform());
+        QPainter painter(&image);
+        m_list.paint(&painter, false);
         return image;
     }
 
@@ -201,6 +211,21 @@ void TestRepainting::changeOfPlaceRepaintsEverything()
     drawing.repainted(below, moved);
     QCOMPARE(drawing.repainted(below, moved), Rects{QRect(0, 0, 100, 100)});
     QCOMPARE(drawing.repainted(below, moved), Rects());
+}
+
+void TestRepainting::clipPathAndMaskFollowAChangeOfSize()
+{
+    Drawing drawing(
+        "<clipPath id='c'><rect width='20' height='20'/></clipPath>"
+        "<mask id='m' maskContentUnits='userSpaceOnUse'><rect x='30' width='10' height='20' fill='white'/></mask>"
+        "<rect width='50' height='50' fill='red' clip-path='url(#c)'/>"
+        "<rect width='50' height='50' fill='blue' mask='url(#m)'/>");
+    const QImage doubled = drawing.painted(QTransform::fromScale(2, 2));
+    QCOMPARE(doubled.pixelColor(39, 39), QColor(Qt::red));
+    QCOMPARE(doubled.pixelColor(41, 39), QColor(Qt::transparent));
+    QCOMPARE(doubled.pixelColor(61, 39), QColor(Qt::blue));
+    QCOMPARE(doubled.pixelColor(79, 39), QColor(Qt::blue));
+    QCOMPARE(doubled.pixelColor(59, 39), QColor(Qt::transparent));
 }
 
 void TestRepainting::sameStyleAgainChangesNothing()

@@ -274,12 +274,12 @@ void TestCoverage::everyPixelOfARowIsMixedWithWhatIsBelowIt()
             image.setPixelColor(x, 0, QColor(0, 0, 255));
         image.setPixelColor(4, 0, QColor(0, 255, 0));
         QPainter painter(&image);
-        DisplayItem row;
-        row.path.addRect(image.rect());
+        MappedItem row;
         row.bounds = image.rect();
-        row.pen = QPen(Qt::NoPen);
+        auto &shape = row.content.emplace<MappedShape>();
+        shape.path.addRect(image.rect());
         // Alpha 102 leaves 153 of 255.
-        row.fill = QColor(255, 0, 0, 102);
+        shape.fill = QColor(255, 0, 0, 102);
         QVERIFY(paintSolid(row, 1, pixelTarget(painter), false));
         painter.end();
         const QColor overNothing(255, 0, 0, 102);

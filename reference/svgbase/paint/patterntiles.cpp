@@ -1,8 +1,6 @@
-#include "paint/patternpaint.h"
+#include "paint/patterntiles.h"
 
 #include "inputlimits.h"
-#include "paint/displaylist.h"
-#include "paint/itemmapping.h"
 #include "paint/itempainter.h"
 
 #include <QtCore/QtMath>
@@ -44,51 +42,49 @@ void fade(QImage *picture, double opacity)
     painter.fillRect(picture->rect(), QColor(0, 0, 0, qRound(opacity * opaque)));
 }
 
-QImage paintedTile(const PatternPaint &pattern, const QSize &size, const QTransform &tileToPicture)
+} // namespace
+
+QImage PatternTiles::painted(const Pattern &pattern, const QSize &size, const QTransform &tileToPicture)
 {
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    QVector<DisplayItem> items = pattern.items;
-    mapItems(&items, tileToPicture, QTransform(), &pattern.tiles->mapping);
+    MappedItems items = unmapped(pattern.items);
+    mapItems(&items, {tileToPicture, QTransform()}, &m_mapping, this);
     QPainter painter(&picture);
-    paintItems(&painter, items, &pattern.tiles->budget);
+    paintItems(&painter, items, &m_budget);
     painter.end();
     if (pattern.opacity < 1)
         fade(&picture, pattern.opacity);
     return picture;
 }
 
-// The same tile in many places, and in tiles of other patterns, is painted once.
-QImage tilePicture(const PatternPaint &pattern, const QSize &size, const QTransform &tileToPicture)
+QImage PatternTiles::picture(const Pattern &pattern, const QSize &size, const QTransform &tileToPicture)
 {
-    PatternTiles &tiles = *pattern.tiles;
     const auto key = qMakePair(&pattern, qMakePair(size.width(), size.height()));
-    const auto known = tiles.pictures.constFind(key);
-    if (known != tiles.pictures.constEnd())
+    const auto known = m_pictures.constFind(key);
+    if (known != m_pictures.constEnd())
         return *known;
     const double pixels = double(size.width()) * size.height();
-    if (pixels > tiles.pixelsLeft || tiles.budget.lacksWork()) {
-        tiles.exhausted = true;
+    if (pixels > m_pixelsLeft || m_budget.lacksWork()) {
+        m_exhausted = true;
         return QImage();
     }
-    tiles.pixelsLeft -= pixels;
-    const QImage picture = paintedTile(pattern, size, tileToPicture);
-    tiles.pictures.insert(key, picture);
-    return picture;
+    m_pixelsLeft -= pixels;
+    const QImage made = painted(pattern, size, tileToPicture);
+    m_pictures.insert(key, made);
+    return made;
 }
 
-} // namespace
-
-QBrush patternBrush(const PatternPaint &pattern, const QTransform &transform)
+QBrush PatternTiles::brush(const Pattern &pattern, const QTransform &transform)
 {
     const QSize size = tileSize(pattern.tile, pattern.toTarget * transform);
     const QTransform tileToPicture =
         QTransform::fromTranslate(-pattern.tile.x(), -pattern.tile.y()) *
         QTransform::fromScale(size.width() / pattern.tile.width(), size.height() / pattern.tile.height());
-    const QImage picture = tilePicture(pattern, size, tileToPicture);
-    if (picture.isNull())
+    const QImage tile = picture(pattern, size, tileToPicture);
+    if (tile.isNull())
         return Qt::NoBrush;
-    QBrush brush(picture);
+    QBrush brush(tile);
     brush.setTransform(tileToPicture.inverted() * pattern.toTarget);
     return brush;
 }

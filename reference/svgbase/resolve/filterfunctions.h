@@ -1,12 +1,13 @@
 #pragma once
 
 #include "grammar/filterlists.h"
-#include "scene/filter.h"
+#include "properties/computedstyle.h"
+#include "resolve/filterprimitive.h"
 
 namespace Svg {
 
-/// The step that a filter function stands for (Filter Effects 1 §13); it works on colours as they are encoded.
-FilterStep functionStep(const FilterFunction &function, const ComputedStyle &style);
+/// The primitive that a filter function stands for (Filter Effects 1 §13); it works on colours as they are encoded.
+FilterPrimitive functionPrimitive(const FilterFunction &function, const ComputedStyle &style);
 
 /// Matrices of "feColorMatrix" (Filter Effects 1 §9.6).
 std::array<double, 20> identityMatrix();

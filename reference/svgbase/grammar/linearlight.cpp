@@ -1,4 +1,4 @@
-#include "resolve/linearlight.h"
+#include "grammar/linearlight.h"
 
 #include <QtCore/QtGlobal>
 

@@ -1,4 +1,4 @@
-#include "scene/effectregion.h"
+#include "resolve/effectregion.h"
 
 #include "grammar/lengths.h"
 

@@ -1,12 +1,12 @@
-#include "scene/filterattributes.h"
+#include "resolve/filterattributes.h"
 
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "inputlimits.h"
 #include "properties/effectproperties.h"
 #include "properties/keywords.h"
-#include "scene/filterfunctions.h"
-#include "scene/primitivereaders.h"
+#include "resolve/filterfunctions.h"
+#include "resolve/primitivereaders.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "scene/primitivereaders.h"
+#include "resolve/primitivereaders.h"
 
 #include "grammar/numbers.h"
 #include "inputlimits.h"

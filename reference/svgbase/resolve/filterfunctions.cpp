@@ -1,4 +1,4 @@
-#include "scene/filterfunctions.h"
+#include "resolve/filterfunctions.h"
 
 #include <QtCore/QtMath>
 
@@ -160,7 +160,7 @@ Matrix luminanceToAlphaMatrix()
     return {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.2125, 0.7154, 0.0721, 0, 0};
 }
 
-FilterStep functionStep(const FilterFunction &function, const ComputedStyle &style)
+FilterPrimitive functionPrimitive(const FilterFunction &function, const ComputedStyle &style)
 {
     FilterPrimitive primitive;
     primitive.linear = false;
@@ -199,7 +199,7 @@ FilterStep functionStep(const FilterFunction &function, const ComputedStyle &sty
         setMatrix(&primitive, hueRotateMatrix(amount));
         break;
     }
-    return {std::nullopt, {primitive}};
+    return primitive;
 }
 
 } // namespace Svg

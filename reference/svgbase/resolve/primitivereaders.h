@@ -4,7 +4,7 @@
 #include "filters/displacement.h"
 #include "filters/lighting.h"
 #include "filters/turbulence.h"
-#include "scene/filterattributes.h"
+#include "resolve/filterattributes.h"
 
 namespace Svg {
 

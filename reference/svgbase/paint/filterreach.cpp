@@ -1,4 +1,4 @@
-#include "scene/filter.h"
+#include "paint/filterreach.h"
 
 #include "filters/convolution.h"
 #include "filters/displacement.h"
@@ -65,22 +65,22 @@ QSizeF stepReach(const FilterStep &step, const QSizeF &pixel)
 
 } // namespace
 
-QSizeF filterReach(const Filter &filter)
+QSizeF filterReach(const Filter &filter, const QTransform &toPainter)
 {
     QSizeF reach(0, 0);
     for (const FilterStep &step : filter.steps)
-        reach += stepReach(step, pixelSize(filter.toPainter));
+        reach += stepReach(step, pixelSize(toPainter));
     return reach;
 }
 
-QRectF filteredBounds(const Filter &filter, const QRectF &content)
+QRectF filteredBounds(const Filter &filter, const QTransform &toPainter, const QRectF &content)
 {
     QRectF bounds = content;
     for (const FilterStep &step : filter.steps) {
         if (step.region)
-            bounds = filter.toPainter.mapRect(*step.region);
+            bounds = toPainter.mapRect(*step.region);
         else if (!bounds.isEmpty())
-            bounds = expanded(bounds, stepReach(step, QSizeF(0, 0)), filter.toPainter);
+            bounds = expanded(bounds, stepReach(step, QSizeF(0, 0)), toPainter);
     }
     return bounds;
 }

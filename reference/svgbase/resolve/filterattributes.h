@@ -1,6 +1,7 @@
 #pragma once
 
-#include "scene/filter.h"
+#include "properties/computedstyle.h"
+#include "resolve/filterprimitive.h"
 #include "tree/tree.h"
 
 namespace Svg {

@@ -1,6 +1,6 @@
-#include "raster/layerpictures.h"
+#include "raster/blending.h"
 
-#include "resolve/linearlight.h"
+#include "grammar/linearlight.h"
 
 #include <QtCore/QtMath>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/effectstyle.h"
+#include "grammar/blendmodes.h"
 
 #include <QtGui/QImage>
 

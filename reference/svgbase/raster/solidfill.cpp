@@ -1,0 +1,113 @@
+#include "raster/solidfill.h"
+
+#include "raster/coverage.h"
+
+#include <QtGui/QRgba64>
+
+#include <algorithm>
+#include <memory>
+
+namespace Svg {
+
+namespace {
+
+constexpr uint wholeByte = 255;
+/// What a painter's opacity is counted in.
+constexpr int opacitySteps = 256;
+
+/// Each channel times `factor` / 255, rounded; all four at once, apart from each other in the larger number.
+inline QRgb scaled(QRgb color, uint factor)
+{
+    constexpr quint64 apart = 0x00ff00ff00ff00ff;
+    constexpr quint64 halves = 0x0080008000800080;
+    quint64 channels = ((quint64(color) | (quint64(color) << 24)) & apart) * factor;
+    channels = ((channels + ((channels >> 8) & apart) + halves) >> 8) & apart;
+    return QRgb(channels) | QRgb(channels >> 24);
+}
+
+/// The colour as a painter lays it on pixels.
+QRgb premultiplied(const QColor &color, double opacity)
+{
+    const QRgba64 rgba = color.rgba64();
+    const int alpha = (rgba.alpha() * qRound(opacity * opacitySteps)) / opacitySteps;
+    return QRgba64::fromRgba64(rgba.red(), rgba.green(), rgba.blue(), quint16(alpha)).premultiplied().toArgb32();
+}
+
+/// Lays a colour over pixels.
+class Overlay
+{
+public:
+    Overlay(const PixelTarget &target, QRgb color)
+        : m_bits(target.picture->bits())
+        , m_bytesPerLine(target.picture->bytesPerLine())
+        , m_origin(target.origin)
+        , m_color(color)
+        , m_premultiplies(target.picture->format() == QImage::Format_ARGB32)
+    {
+    }
+
+    void operator()(const Coverage::Span &span) const
+    {
+        QRgb *pixels =
+            reinterpret_cast<QRgb *>(m_bits + (span.y - m_origin.y()) * m_bytesPerLine) + span.x - m_origin.x();
+        const QRgb color = span.coverage == int(wholeByte) ? m_color : scaled(m_color, uint(span.coverage));
+        const uint below = wholeByte - uint(qAlpha(color));
+        if (below == 0)
+            std::fill(pixels, pixels + span.length, color);
+        else if (m_premultiplies)
+            blendPlain(pixels, span.length, color, below);
+        else
+            blend(pixels, span.length, color, below);
+    }
+
+private:
+    static void blend(QRgb *pixels, int count, QRgb color, uint below)
+    {
+        for (int i = 0; i < count; ++i)
+            pixels[i] = color + scaled(pixels[i], below);
+    }
+    // What is covered alike mostly lies on one colour, whose mixture is worked out once.
+    static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
+    {
+        QRgb pixel = pixels[0];
+        QRgb mixed = mixedPlain(pixel, color, below);
+        for (int i = 0; i < count; ++i) {
+            if (pixels[i] != pixel) {
+                pixel = pixels[i];
+                mixed = mixedPlain(pixel, color, below);
+            }
+            pixels[i] = mixed;
+        }
+    }
+    // An opaque pixel is the same in both formats, and stays opaque.
+    static QRgb mixedPlain(QRgb pixel, QRgb color, uint below)
+    {
+        if (qAlpha(pixel) == int(wholeByte))
+            return color + scaled(pixel, below);
+        return qUnpremultiply(color + scaled(qPremultiply(pixel), below));
+    }
+
+    uchar *m_bits;
+    qsizetype m_bytesPerLine;
+    QPoint m_origin;
+    QRgb m_color;
+    bool m_premultiplies;
+};
+
+// Large enough to be worth keeping, and in use only while an outline is filled. Behind a pointer, since a compiler
+// asks for the address of what belongs to a thread again and again.
+Coverage &sharedCoverage()
+{
+    static thread_local const auto coverage = std::make_unique<Coverage>();
+    return *coverage;
+}
+
+} // namespace
+
+void fillSolid(const FlatOutline &outline, const QColor &color, double opacity, const QRect &window,
+               const PixelTarget &target)
+{
+    sharedCoverage().sweep(outline, window, Overlay(target, premultiplied(color, opacity)));
+}
+
+} // namespace Svg

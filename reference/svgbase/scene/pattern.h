@@ -1,0 +1,24 @@
+#pragma once
+
+#include "scene/displayitem.h"
+
+namespace Svg {
+
+/// The content of a pattern's tile, and where tiles stand.
+struct Pattern
+{
+    /// What the tile was built from; the same gives the same tile.
+    NodeIndex node = noNode;
+    QRectF bounds;
+    QSizeF viewport;
+    double opacity = 1;
+
+    /// The tile at the origin; pattern units.
+    QRectF tile;
+    /// From pattern units to those of the target.
+    QTransform toTarget;
+    /// In pattern units.
+    DisplayItems items;
+};
+
+} // namespace Svg
