@@ -3,6 +3,7 @@
 #include "animation/basevalue.h"
 #include "grammar/paints.h"
 #include "inputlimits.h"
+#include "properties/property.h"
 #include "style/cascade.h"
 
 #include <QtCore/QHash>
@@ -87,7 +88,7 @@ ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
     ValueContext context = valueContext(name, lengthsOf(*facts), facts->style->color);
     const AttributeId id = attributeId(name);
     if (isProperty(id) && facts->parent)
-        context.inherited = propertyText(*facts->parent->style, id);
+        context.inherited = propertyOf(id).print(*facts->parent->style);
     return context;
 }
 
@@ -103,7 +104,7 @@ QString ModelReader::baseOf(NodeIndex target, const QString &name) const
 {
     const AttributeId id = attributeId(name);
     if (isProperty(id)) {
-        const QString computed = propertyText(*m_facts(target)->style, id);
+        const QString computed = propertyOf(id).print(*m_facts(target)->style);
         if (!computed.isEmpty())
             return computed;
     }

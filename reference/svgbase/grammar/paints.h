@@ -28,6 +28,12 @@ struct Paint
     QString server;
     /// Whether the colour is that of the "color" property, of the element itself even if the paint is inherited.
     bool followsColor = false;
+
+    bool operator==(const Paint &other) const
+    {
+        return kind == other.kind && color == other.color && server == other.server &&
+               followsColor == other.followsColor;
+    }
 };
 
 /// No value for text that is not a paint. Relative and mixed colours may refer to `current`.

@@ -1,6 +1,18 @@
 #include "properties/computedstyle.h"
 
+#include "inputlimits.h"
+
 namespace Svg {
+
+namespace {
+
+template<typename Record> const Record &recordOr(const QSharedDataPointer<Record> &record)
+{
+    static const QSharedDataPointer<Record> initial(new Record);
+    return record ? *record : *initial;
+}
+
+} // namespace
 
 const StylePointer &initialStyle()
 {
@@ -20,21 +32,44 @@ bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b)
 ComputedStyle inheritedStyle(const ComputedStyle &parent)
 {
     ComputedStyle style = parent;
-    style.opacity = 1;
-    style.displayed = true;
-    style.strokeScales = true;
-    style.attributes.clear();
-    style.stopColor = Qt::black;
-    style.stopOpacity = 1;
-    style.effects = nullptr;
-    style.inlineText = nullptr;
+    static_cast<OwnStyle &>(style) = OwnStyle();
     return style;
 }
 
-bool isInheritedWhole(const ComputedStyle &parent)
+const EffectStyle &effectStyleOf(const ComputedStyle &style)
 {
-    return parent.opacity >= 1 && parent.displayed && parent.strokeScales && parent.attributes.isEmpty() &&
-           parent.stopColor == Qt::black && parent.stopOpacity >= 1 && !parent.effects && !parent.inlineText;
+    return recordOr(style.effects);
+}
+
+const InlineStyle &inlineStyleOf(const ComputedStyle &style)
+{
+    return recordOr(style.inlineText);
+}
+
+const MarkerStyle &markerStyleOf(const ComputedStyle &style)
+{
+    return recordOr(style.markers);
+}
+
+const TextStyle &textStyleOf(const ComputedStyle &style)
+{
+    return recordOr(style.text);
+}
+
+bool asksForLines(const ComputedStyle &style)
+{
+    const InlineStyle &own = inlineStyleOf(style);
+    return own.underline || own.overline || own.lineThrough;
+}
+
+bool decorateTextBelow(ComputedStyle &group)
+{
+    QSharedDataPointer<TextStyle> changed(new TextStyle(textStyleOf(group)));
+    if (changed->decorations.size() >= Limits::decoratingGroups)
+        return false;
+    changed->decorations.append(std::make_shared<const ComputedStyle>(group));
+    group.text = changed;
+    return true;
 }
 
 } // namespace Svg

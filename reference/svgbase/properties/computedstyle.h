@@ -36,10 +36,31 @@ struct FontStyle
     }
 };
 
-/// The value of every property of one element, inheritance done (SVG 1.1 §6.1). A fresh one holds initial values.
-struct ComputedStyle
+/// Values that children don't inherit.
+struct OwnStyle
 {
-    // Inherited.
+    double opacity = 1;
+    bool displayed = true;
+    bool strokeScales = true;
+    /// Geometry and transforms that style gives in place of the attributes of those names.
+    QVector<Attribute> attributes;
+    QColor stopColor = Qt::black;
+    double stopOpacity = 1;
+    /// Null for an element without clip path, mask, filter, blending and the like.
+    QSharedDataPointer<EffectStyle> effects;
+    /// Null for most parts of texts.
+    QSharedDataPointer<InlineStyle> inlineText;
+
+    bool isInitial() const
+    {
+        return opacity >= 1 && displayed && strokeScales && attributes.isEmpty() && stopColor == Qt::black &&
+               stopOpacity >= 1 && !effects && !inlineText;
+    }
+};
+
+/// The value of every property of one element, inheritance done (SVG 1.1 §6.1). A fresh one holds initial values.
+struct ComputedStyle : OwnStyle
+{
     QColor color = Qt::black;
     Paint fill{Paint::Color, Qt::black, QString()};
     Paint stroke;
@@ -72,18 +93,6 @@ struct ComputedStyle
     CustomProperties custom;
     /// Null where a text says nothing but its font.
     QSharedDataPointer<TextStyle> text;
-    // Not inherited.
-    double opacity = 1;
-    bool displayed = true;
-    bool strokeScales = true;
-    /// Geometry and transforms that style gives in place of the attributes of those names.
-    QVector<Attribute> attributes;
-    QColor stopColor = Qt::black;
-    double stopOpacity = 1;
-    /// Null for an element without clip path, mask, filter, blending and the like.
-    QSharedDataPointer<EffectStyle> effects;
-    /// Null for most parts of texts.
-    QSharedDataPointer<InlineStyle> inlineText;
 };
 
 /// A style that elements share that are styled alike.
@@ -100,12 +109,24 @@ using StylePointer = QExplicitlySharedDataPointer<const SharedStyle>;
 /// A style of initial values, shared.
 const StylePointer &initialStyle();
 
+/// @name Records of a style, or their initial values where it has none
+/// @{
+const EffectStyle &effectStyleOf(const ComputedStyle &style);
+const InlineStyle &inlineStyleOf(const ComputedStyle &style);
+const MarkerStyle &markerStyleOf(const ComputedStyle &style);
+const TextStyle &textStyleOf(const ComputedStyle &style);
+/// @}
+
 /// Whether two styles give an element of the same attributes the same outlines. A false answer may be too careful.
 bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b);
 
 /// What a child starts from: the inherited values of its parent and initial values for the rest.
 ComputedStyle inheritedStyle(const ComputedStyle &parent);
-/// Whether a child starts from that very style, nothing in it being its parent's alone.
-bool isInheritedWhole(const ComputedStyle &parent);
+
+/// Whether a style asks for lines along its text.
+bool asksForLines(const ComputedStyle &style);
+/// Lines that a group asks for run along all text in it, painted as the group says (CSS Text Decoration 3 §2).
+/// False where `Limits::decoratingGroups` are around it already.
+bool decorateTextBelow(ComputedStyle &group);
 
 } // namespace Svg

@@ -5,7 +5,7 @@
 #include "grammar/colors.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
-#include "properties/keywords.h"
+#include "properties/propertyrows.h"
 
 namespace Svg {
 
@@ -33,6 +33,7 @@ const Keyword<BlendMode> blendModes[] = {
     {QLatin1String("saturation"), BlendMode::Saturation},
     {QLatin1String("color"), BlendMode::Color},
     {QLatin1String("luminosity"), BlendMode::Luminosity},
+    {QLatin1String("plus-lighter"), BlendMode::PlusLighter},
 };
 
 const Keyword<bool> isolations[] = {
@@ -86,295 +87,141 @@ const Keyword<bool> textRenderings[] = {
     {QLatin1String("optimizeSpeed"), false},
 };
 
-EffectStyle &effectsOf(ComputedStyle &style)
+struct ReferenceCodec
 {
-    if (!style.effects)
-        style.effects = new EffectStyle;
-    return *style.effects;
-}
-
-MarkerStyle &markersOf(ComputedStyle &style)
-{
-    if (!style.markers)
-        style.markers = new MarkerStyle;
-    return *style.markers;
-}
-
-// What is left out makes no record for values that say nothing.
-const EffectStyle &knownEffects(const ComputedStyle &style)
-{
-    static const QSharedDataPointer<EffectStyle> none(new EffectStyle);
-    return style.effects ? *style.effects : *none;
-}
-
-bool readReference(QStringView text, QString *id)
-{
-    if (text == QLatin1String("none")) {
-        id->clear();
-        return true;
+    static std::optional<QString> read(QStringView text, const ComputedStyle &, const PropertyContext &)
+    {
+        QString id;
+        return readReference(text, &id) ? std::optional<QString>(id) : std::nullopt;
     }
-    QStringView rest;
-    *id = functionReference(text, &rest);
-    return !id->isEmpty() || text.startsWith(QLatin1String("url("), Qt::CaseInsensitive);
-}
+    static QString print(const QString &id) { return referenceText(id); }
+};
 
-bool applyReference(ComputedStyle &style, QString EffectStyle::*member, QStringView text)
+// The shorthand also sets the mode; its other parts make no difference to the mask of an element of SVG.
+bool applyMask(ComputedStyle &style, QStringView text, const PropertyContext &)
 {
     QString id;
     if (!readReference(text, &id))
         return false;
-    if (knownEffects(style).*member != id)
-        effectsOf(style).*member = id;
-    return true;
-}
-
-// The shorthand also sets the mode; its other parts make no difference to the mask of an element of SVG.
-bool applyMask(ComputedStyle &style, QStringView text)
-{
-    if (!applyReference(style, &EffectStyle::mask, text))
-        return false;
-    MaskMode mode = MaskMode::MatchSource;
     const QStringView behind = text.mid(text.indexOf(QLatin1Char(')')) + 1).trimmed();
-    applyKeyword(mode, behind, maskModes);
-    if (knownEffects(style).maskMode != mode)
-        effectsOf(style).maskMode = mode;
+    setIn(style, &EffectStyle::mask, id);
+    setIn(style, &EffectStyle::maskMode, keywordValue(behind, maskModes).value_or(MaskMode::MatchSource));
     return true;
 }
 
-bool applyClipRect(ComputedStyle &style, QStringView text)
+QString printMask(const ComputedStyle &style)
 {
-    if (!parseClipRect(text))
-        return false;
-    const QString rect = text.endsWith(QLatin1Char(')')) ? text.toString() : QString();
-    if (knownEffects(style).clipRect != rect)
-        effectsOf(style).clipRect = rect;
-    return true;
+    const EffectStyle &effects = effectStyleOf(style);
+    const QString mask = referenceText(effects.mask);
+    return effects.maskMode == MaskMode::MatchSource
+               ? mask
+               : mask + QLatin1Char(' ') + keywordName(effects.maskMode, maskModes);
 }
 
-bool applyClip(ComputedStyle &style, QStringView text)
+struct ClipRectCodec
 {
-    if (applyReference(style, &EffectStyle::clipPath, text)) {
-        if (!knownEffects(style).clipShape.isEmpty())
-            effectsOf(style).clipShape.clear();
-        return true;
+    static std::optional<QString> read(QStringView text, const ComputedStyle &, const PropertyContext &)
+    {
+        if (!parseClipRect(text))
+            return std::nullopt;
+        return text.endsWith(QLatin1Char(')')) ? text.toString() : QString();
     }
-    if (!parseClipShape(text))
+    static QString print(const QString &rect) { return rect.isEmpty() ? QStringLiteral("auto") : rect; }
+};
+
+bool applyClipPath(ComputedStyle &style, QStringView text, const PropertyContext &)
+{
+    QString id;
+    const bool isReference = readReference(text, &id);
+    if (!isReference && !parseClipShape(text))
         return false;
-    effectsOf(style).clipShape = text.toString();
-    effectsOf(style).clipPath.clear();
+    setIn(style, &EffectStyle::clipPath, id);
+    setIn(style, &EffectStyle::clipShape, isReference ? QString() : text.toString());
     return true;
+}
+
+QString printClipPath(const ComputedStyle &style)
+{
+    const EffectStyle &effects = effectStyleOf(style);
+    return effects.clipShape.isEmpty() ? referenceText(effects.clipPath) : effects.clipShape;
 }
 
 bool applyFilter(ComputedStyle &style, QStringView text, const PropertyContext &context)
 {
-    const QString list = text == QLatin1String("none") ? QString() : text.toString();
-    if (knownEffects(style).filter != list)
-        effectsOf(style).filter = list;
-    const FilterUnits units = context.isAttribute ? FilterUnits::Optional : FilterUnits::Required;
-    if (!list.isEmpty() && knownEffects(style).filterUnits != units)
-        effectsOf(style).filterUnits = units;
-    return !text.isEmpty();
-}
-
-template<typename Value, size_t count>
-bool applyEffectKeyword(ComputedStyle &style, Value EffectStyle::*member, QStringView text,
-                        const Keyword<Value> (&keywords)[count])
-{
-    Value value = knownEffects(style).*member;
-    if (!applyKeyword(value, text, keywords))
+    if (text.isEmpty())
         return false;
-    if (knownEffects(style).*member != value)
-        effectsOf(style).*member = value;
+    const QString list = text == QLatin1String("none") ? QString() : text.toString();
+    setIn(style, &EffectStyle::filter, list);
+    if (!list.isEmpty())
+        setIn(style, &EffectStyle::filterUnits,
+              context.isAttribute ? FilterUnits::Optional : FilterUnits::Required);
     return true;
 }
 
-// Filters do not know the one that is no mode of blending.
-bool applyBlendMode(ComputedStyle &style, QStringView text)
+QString printFilter(const ComputedStyle &style)
 {
-    if (text.compare(QLatin1String("plus-lighter"), Qt::CaseInsensitive) != 0)
-        return applyEffectKeyword(style, &EffectStyle::blendMode, text, blendModes);
-    effectsOf(style).blendMode = BlendMode::PlusLighter;
-    return true;
+    const QString &list = effectStyleOf(style).filter;
+    return list.isEmpty() ? QStringLiteral("none") : list;
 }
 
-bool applyMarker(ComputedStyle &style, QStringView text, std::initializer_list<QString MarkerStyle::*> members)
+bool applyMarkers(ComputedStyle &style, QStringView text, const PropertyContext &)
 {
     QString id;
     if (!readReference(text, &id))
         return false;
-    if (id.isEmpty() && !style.markers)
-        return true;
-    for (QString MarkerStyle::*member : members)
-        markersOf(style).*member = id;
+    for (QString MarkerStyle::*member : {&MarkerStyle::start, &MarkerStyle::mid, &MarkerStyle::end})
+        setIn(style, member, id);
     return true;
 }
 
-bool applyEffectColor(ComputedStyle &style, QColor EffectStyle::*member, QStringView text)
+// A shorthand has no text for values that differ.
+QString printMarkers(const ComputedStyle &style)
 {
-    if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0) {
-        effectsOf(style).*member = style.color;
-        return true;
-    }
-    const std::optional<QColor> color = parseColor(text, {style.color});
-    if (color)
-        effectsOf(style).*member = *color;
-    return color.has_value();
+    const MarkerStyle &markers = markerStyleOf(style);
+    const bool alike = markers.start == markers.mid && markers.mid == markers.end;
+    return alike ? referenceText(markers.start) : QString();
 }
 
-bool applyFloodOpacity(ComputedStyle &style, QStringView text)
-{
-    const std::optional<double> opacity = parseOpacity(text);
-    if (opacity)
-        effectsOf(style).floodOpacity = *opacity;
-    return opacity.has_value();
-}
-
-template<typename Value>
-void inheritMember(ComputedStyle &style, Value EffectStyle::*member, const ComputedStyle &parent)
-{
-    if (knownEffects(style).*member != knownEffects(parent).*member)
-        effectsOf(style).*member = knownEffects(parent).*member;
-}
-
-void inheritMarker(ComputedStyle &style, QString MarkerStyle::*member, const ComputedStyle &parent)
-{
-    const QString above = parent.markers ? (*parent.markers).*member : QString();
-    if (style.markers || !above.isEmpty())
-        markersOf(style).*member = above;
-}
+constexpr Property rows[] = {
+    valueRow<&EffectStyle::clipRect, ClipRectCodec>(AttributeId::Clip),
+    propertyRow<&EffectStyle::clipPath, &EffectStyle::clipShape>(AttributeId::ClipPath, applyClipPath,
+                                                                 printClipPath, discrete),
+    keywordRow<&ComputedStyle::clipRule, clipRules>(AttributeId::ClipRule),
+    keywordRow<&ComputedStyle::mixesLinear, colorInterpolations>(AttributeId::ColorInterpolation),
+    keywordRow<&ComputedStyle::filtersLinear, colorInterpolations>(AttributeId::ColorInterpolationFilters),
+    propertyRow<&EffectStyle::filter, &EffectStyle::filterUnits>(AttributeId::Filter, applyFilter, printFilter,
+                                                                 discrete),
+    colorRow<&EffectStyle::floodColor, ColorCodec>(AttributeId::FloodColor),
+    numberRow<&EffectStyle::floodOpacity, OpacityCodec>(AttributeId::FloodOpacity),
+    keywordRow<&ComputedStyle::smoothImages, imageRenderings>(AttributeId::ImageRendering),
+    forStyleOnly(keywordRow<&EffectStyle::isolated, isolations>(AttributeId::Isolation)),
+    colorRow<&EffectStyle::lightingColor, ColorCodec>(AttributeId::LightingColor),
+    forStyleOnly(propertyRow<&MarkerStyle::start, &MarkerStyle::mid, &MarkerStyle::end>(
+        AttributeId::Marker, applyMarkers, printMarkers, discrete)),
+    valueRow<&MarkerStyle::end, ReferenceCodec>(AttributeId::MarkerEnd),
+    valueRow<&MarkerStyle::mid, ReferenceCodec>(AttributeId::MarkerMid),
+    valueRow<&MarkerStyle::start, ReferenceCodec>(AttributeId::MarkerStart),
+    propertyRow<&EffectStyle::mask, &EffectStyle::maskMode>(AttributeId::Mask, applyMask, printMask, discrete),
+    keywordRow<&EffectStyle::alphaMask, maskTypes>(AttributeId::MaskType),
+    forStyleOnly(keywordRow<&EffectStyle::blendMode, blendModes>(AttributeId::MixBlendMode)),
+    keywordRow<&EffectStyle::overflow, overflows>(AttributeId::Overflow),
+    keywordRow<&ComputedStyle::smoothShapes, shapeRenderings>(AttributeId::ShapeRendering),
+    keywordRow<&ComputedStyle::smoothText, textRenderings>(AttributeId::TextRendering),
+};
+static_assert(isComplete(rows, AttributeId::Clip, AttributeId::TextRendering));
 
 } // namespace
 
+const Property *effectProperties()
+{
+    return rows;
+}
+
+// Filters do not know the operator that is no mode of blending.
 BlendMode blendModeOf(QStringView name)
 {
-    BlendMode mode = BlendMode::Normal;
-    applyKeyword(mode, name, blendModes);
-    return mode;
-}
-
-bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView value,
-                         const PropertyContext &context)
-{
-    switch (property) {
-    case AttributeId::Clip:
-        return applyClipRect(style, value);
-    case AttributeId::ClipPath:
-        return applyClip(style, value);
-    case AttributeId::ClipRule:
-        return applyKeyword(style.clipRule, value, clipRules);
-    case AttributeId::ColorInterpolation:
-        return applyKeyword(style.mixesLinear, value, colorInterpolations);
-    case AttributeId::ColorInterpolationFilters:
-        return applyKeyword(style.filtersLinear, value, colorInterpolations);
-    case AttributeId::Filter:
-        return applyFilter(style, value, context);
-    case AttributeId::FloodColor:
-        return applyEffectColor(style, &EffectStyle::floodColor, value);
-    case AttributeId::FloodOpacity:
-        return applyFloodOpacity(style, value);
-    case AttributeId::ImageRendering:
-        return applyKeyword(style.smoothImages, value, imageRenderings);
-    case AttributeId::Isolation:
-        return applyEffectKeyword(style, &EffectStyle::isolated, value, isolations);
-    case AttributeId::LightingColor:
-        return applyEffectColor(style, &EffectStyle::lightingColor, value);
-    case AttributeId::Marker:
-        return applyMarker(style, value, {&MarkerStyle::start, &MarkerStyle::mid, &MarkerStyle::end});
-    case AttributeId::MarkerEnd:
-        return applyMarker(style, value, {&MarkerStyle::end});
-    case AttributeId::MarkerMid:
-        return applyMarker(style, value, {&MarkerStyle::mid});
-    case AttributeId::MarkerStart:
-        return applyMarker(style, value, {&MarkerStyle::start});
-    case AttributeId::Mask:
-        return applyMask(style, value);
-    case AttributeId::MaskType:
-        return applyEffectKeyword(style, &EffectStyle::alphaMask, value, maskTypes);
-    case AttributeId::MixBlendMode:
-        return applyBlendMode(style, value);
-    case AttributeId::Overflow:
-        return applyEffectKeyword(style, &EffectStyle::overflow, value, overflows);
-    case AttributeId::ShapeRendering:
-        return applyKeyword(style.smoothShapes, value, shapeRenderings);
-    case AttributeId::TextRendering:
-        return applyKeyword(style.smoothText, value, textRenderings);
-    default:
-        return false;
-    }
-}
-
-void inheritEffectProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent)
-{
-    switch (property) {
-    case AttributeId::Clip:
-        inheritMember(style, &EffectStyle::clipRect, parent);
-        break;
-    case AttributeId::ClipPath:
-        inheritMember(style, &EffectStyle::clipPath, parent);
-        inheritMember(style, &EffectStyle::clipShape, parent);
-        break;
-    case AttributeId::ClipRule:
-        style.clipRule = parent.clipRule;
-        break;
-    case AttributeId::ColorInterpolation:
-        style.mixesLinear = parent.mixesLinear;
-        break;
-    case AttributeId::ColorInterpolationFilters:
-        style.filtersLinear = parent.filtersLinear;
-        break;
-    case AttributeId::Filter:
-        inheritMember(style, &EffectStyle::filter, parent);
-        inheritMember(style, &EffectStyle::filterUnits, parent);
-        break;
-    case AttributeId::FloodColor:
-        inheritMember(style, &EffectStyle::floodColor, parent);
-        break;
-    case AttributeId::FloodOpacity:
-        inheritMember(style, &EffectStyle::floodOpacity, parent);
-        break;
-    case AttributeId::ImageRendering:
-        style.smoothImages = parent.smoothImages;
-        break;
-    case AttributeId::Isolation:
-        inheritMember(style, &EffectStyle::isolated, parent);
-        break;
-    case AttributeId::LightingColor:
-        inheritMember(style, &EffectStyle::lightingColor, parent);
-        break;
-    case AttributeId::Marker:
-        style.markers = parent.markers;
-        break;
-    case AttributeId::MarkerEnd:
-        inheritMarker(style, &MarkerStyle::end, parent);
-        break;
-    case AttributeId::MarkerMid:
-        inheritMarker(style, &MarkerStyle::mid, parent);
-        break;
-    case AttributeId::MarkerStart:
-        inheritMarker(style, &MarkerStyle::start, parent);
-        break;
-    case AttributeId::Mask:
-        inheritMember(style, &EffectStyle::mask, parent);
-        inheritMember(style, &EffectStyle::maskMode, parent);
-        break;
-    case AttributeId::MaskType:
-        inheritMember(style, &EffectStyle::alphaMask, parent);
-        break;
-    case AttributeId::MixBlendMode:
-        inheritMember(style, &EffectStyle::blendMode, parent);
-        break;
-    case AttributeId::Overflow:
-        inheritMember(style, &EffectStyle::overflow, parent);
-        break;
-    case AttributeId::ShapeRendering:
-        style.smoothShapes = parent.smoothShapes;
-        break;
-    case AttributeId::TextRendering:
-        style.smoothText = parent.smoothText;
-        break;
-    default:
-        break;
-    }
+    const BlendMode mode = keywordValue(name, blendModes).value_or(BlendMode::Normal);
+    return mode == BlendMode::PlusLighter ? BlendMode::Normal : mode;
 }
 
 } // namespace Svg

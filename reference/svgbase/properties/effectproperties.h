@@ -1,16 +1,14 @@
 #pragma once
 
-#include "properties/properties.h"
+#include "properties/property.h"
 
 namespace Svg {
 
-/// Applies one of the properties of clip paths, masks, markers, filters and blending. A value that its grammar does
-/// not accept changes nothing and gives false.
-bool applyEffectProperty(ComputedStyle &style, AttributeId property, QStringView value,
-                         const PropertyContext &context);
-/// Takes the parent's value of such a property.
-void inheritEffectProperty(ComputedStyle &style, AttributeId property, const ComputedStyle &parent);
-/// A blend mode by its name; normal for anything else.
+/// Rows of clip paths, masks, markers, filters and blending, `AttributeId::Clip` to `AttributeId::TextRendering`,
+/// in that order.
+const Property *effectProperties();
+
+/// A blend mode of filters by its name; normal for anything else.
 BlendMode blendModeOf(QStringView name);
 
 } // namespace Svg

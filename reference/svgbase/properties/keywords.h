@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include <optional>
+
 namespace Svg {
 
 template<typename Value> struct Keyword
@@ -10,18 +12,36 @@ template<typename Value> struct Keyword
     Value value;
 };
 
+/// The value of the keyword that `text` is; nothing when it is none of them. Case does not matter (CSS Values 3
+/// §2.1).
+template<typename Value, size_t count>
+std::optional<Value> keywordValue(QStringView text, const Keyword<Value> (&keywords)[count])
+{
+    for (const Keyword<Value> &keyword : keywords) {
+        if (text.compare(keyword.name, Qt::CaseInsensitive) == 0)
+            return keyword.value;
+    }
+    return std::nullopt;
+}
+
+/// The first keyword of a value; empty when there is none.
+template<typename Value, size_t count> QString keywordName(Value value, const Keyword<Value> (&keywords)[count])
+{
+    for (const Keyword<Value> &keyword : keywords) {
+        if (keyword.value == value)
+            return keyword.name;
+    }
+    return QString();
+}
+
 /// Replaces `target` by the value of the keyword that `text` is; false when it is none of them.
-/// Case does not matter (CSS Values 3 §2.1).
 template<typename Value, size_t count>
 bool applyKeyword(Value &target, QStringView text, const Keyword<Value> (&keywords)[count])
 {
-    for (const Keyword<Value> &keyword : keywords) {
-        if (text.compare(keyword.name, Qt::CaseInsensitive) == 0) {
-            target = keyword.value;
-            return true;
-        }
-    }
-    return false;
+    const std::optional<Value> value = keywordValue(text, keywords);
+    if (value)
+        target = *value;
+    return value.has_value();
 }
 
 } // namespace Svg

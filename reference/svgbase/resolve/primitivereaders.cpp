@@ -2,7 +2,6 @@
 
 #include "grammar/numbers.h"
 #include "inputlimits.h"
-#include "properties/effectproperties.h"
 #include "properties/keywords.h"
 
 #include <cmath>

@@ -5,7 +5,7 @@
 #include "grammar/numbers.h"
 #include "grammar/transforms.h"
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/paintproperties.h"
 #include "resolve/conditions.h"
 #include "resolve/contextpaint.h"
 #include "resolve/geometry.h"

@@ -5,7 +5,6 @@
 #include "inputlimits.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"
-#include "properties/textproperties.h"
 #include "style/rules.h"
 
 #include <algorithm>
@@ -28,13 +27,6 @@ struct Declaration
 
 /// Tells a presentation attribute apart from a style of the same text.
 constexpr ushort attributeMark = 0x100;
-
-// These have no presentation attribute (SVG 2 §6.6).
-bool isForStyleOnly(AttributeId property)
-{
-    return property == AttributeId::Marker || property == AttributeId::MixBlendMode ||
-           property == AttributeId::Isolation;
-}
 
 // The user agent style sheet of SVG 2 §6.7 says so; the initial value of "overflow" is "visible".
 bool hidesOverflow(ElementKind kind)
@@ -194,7 +186,7 @@ bool DeclarationList::collect(NodeIndex element)
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes) {
-        if (isProperty(attribute.id) && !isForStyleOnly(attribute.id))
+        if (isProperty(attribute.id) && !propertyOf(attribute.id).isForStyleOnly)
             m_list.append({attribute.id, attribute.value, true, true});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;
@@ -363,7 +355,7 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
         return StylePointer(new SharedStyle(cascade(tree, element, {*parent, viewport}, notes)));
     DeclarationList declarations(tree);
     collect(element, &declarations, notes);
-    if (declarations.list().isEmpty() && isInheritedWhole(*parent))
+    if (declarations.list().isEmpty() && parent->isInitial())
         return parent;
     const StyledElement styled{tree, element};
     const StyleOrigin origin{parent, viewport, styled.isText(), textOf(declarations)};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/properties.h"
+#include "properties/property.h"
 #include "style/stylecache.h"
 #include "tree/tree.h"
 

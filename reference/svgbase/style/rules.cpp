@@ -2,7 +2,7 @@
 
 #include "grammar/mediaqueries.h"
 #include "inputlimits.h"
-#include "properties/properties.h"
+#include "properties/property.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"
 #include "style/selectormatching.h"

@@ -1,7 +1,7 @@
 #include "text/bidiruns.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "resolve/fonts.h"
 #include "text/textshaping.h"
 

@@ -4,7 +4,7 @@
 #include "grammar/datauris.h"
 #include "grammar/fontfamilies.h"
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "resolve/fonts.h"
 #include "style/rules.h"
 #include "tree/references.h"

@@ -1,7 +1,7 @@
 #include "text/fontglyphs.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "text/arabicforms.h"
 
 namespace Svg {

@@ -1,6 +1,6 @@
 #include "text/fontmeasures.h"
 
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "resolve/fonts.h"
 #include "text/fonttables.h"
 

@@ -1,6 +1,6 @@
 #include "text/linebreaking.h"
 
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 
 #include <QtCore/QTextBoundaryFinder>
 

@@ -1,7 +1,7 @@
 #include "text/textcontent.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "resolve/conditions.h"
 #include "style/cascade.h"
 #include "text/altglyphs.h"

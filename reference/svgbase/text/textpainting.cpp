@@ -1,7 +1,7 @@
 #include "text/textpainting.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "text/fontmeasures.h"
 #include "text/textlines.h"
 

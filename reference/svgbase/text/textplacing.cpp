@@ -1,7 +1,7 @@
 #include "text/textplacing.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "text/textlength.h"
 
 #include <algorithm>

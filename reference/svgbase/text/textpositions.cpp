@@ -2,7 +2,7 @@
 
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 
 namespace Svg {
 

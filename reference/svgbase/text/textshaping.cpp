@@ -1,7 +1,7 @@
 #include "text/textshaping.h"
 
 #include "inputlimits.h"
-#include "properties/textproperties.h"
+#include "properties/computedstyle.h"
 #include "resolve/fonts.h"
 #include "text/arabicforms.h"
 #include "text/bidiruns.h"
