@@ -5,7 +5,7 @@
 
 namespace board {
 
-/// What the user asked for on the command line.
+/// Options of the command line.
 struct Options
 {
     enum Action { OpenWindow, ExportPages, TakeScreenshot, ShowText };

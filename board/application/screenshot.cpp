@@ -162,7 +162,7 @@ bool takeScreenshot(Workspace &workspace, const QString &state, const QString &f
 {
     if (document.isEmpty() && state != QLatin1String("empty") && state != QLatin1String("drag")) {
         fillWithDemo(workspace);
-        // What is selected is large on the last page.
+        // The last page shows the selected shape large.
         if (isAboutOneShape(state))
             workspace.document()->setCurrentIndex(workspace.document()->pageCount() - 1);
     }

@@ -40,7 +40,7 @@ public:
     void pasteLook();
     bool hasLook() const { return m_look.isSet(); }
 
-    /// What can be dropped on the page, besides documents.
+    /// Whether data other than documents can be dropped on the page.
     bool accepts(const QMimeData &data) const;
     /// Puts what was dropped on the page, its middle at `scenePos`.
     void drop(const QMimeData &data, const QPointF &scenePos);

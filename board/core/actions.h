@@ -17,7 +17,7 @@ namespace board {
 class PageView;
 class Workspace;
 
-/// What the user can do through menus, tool bar and keys. Actions that make no sense at the moment are disabled.
+/// Actions of menus, tool bar and keys. Actions without effect at the moment are disabled.
 class Actions : public QObject
 {
     Q_OBJECT

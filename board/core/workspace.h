@@ -10,7 +10,7 @@
 
 namespace board {
 
-/// What every part of the program works with: texts, kinds of object, and the document, which has a page at least.
+/// Shared by all parts of the program: texts, kinds of object, and the document, which has at least one page.
 class Workspace : public QObject
 {
     Q_OBJECT
@@ -30,8 +30,8 @@ public:
     pagehost::ObjectRegistry &registry() { return m_registry; }
     /// Never null; another one after replaceDocument().
     pagehost::Document *document() const { return m_document.get(); }
-    /// Takes a document in place of the present one, which goes with all its undo steps once everybody has heard of
-    /// it. A document without a page gets one.
+    /// Replaces the present document, which is deleted with all its undo steps once everybody has been notified. A
+    /// document without a page gets one.
     void replaceDocument(std::unique_ptr<pagehost::Document> document);
 
     /// The text of a localisation key in the user's language.

@@ -49,7 +49,7 @@ public:
     /// never when the user cancels.
     void whenSafe(const Work &next);
 
-    /// @name What the user asks for; unsaved changes come first
+    /// @name Requests of the user, which ask about unsaved changes first
     /// @{
     void createNew();
     void askAndOpen();

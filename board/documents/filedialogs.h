@@ -32,7 +32,7 @@ public:
     void askForFolder(const QString &title, const QString &folder, const TakeFile &take) const;
     /// Whether these files, at least one of them, may be replaced.
     void askToReplace(const QStringList &files, const Work &replace) const;
-    /// What to do with unsaved changes to `name`.
+    /// Asks whether to save or discard unsaved changes to `name`.
     void askToKeepChanges(const QString &name, const Work &save, const Work &discard) const;
     /// Asks how to go on with `file`, which somebody else has changed.
     void askAboutConflict(const QString &file, const Work &keepMine, const Work &takeTheirs,

@@ -14,7 +14,7 @@ namespace board {
 namespace {
 
 const QString noticeId = QStringLiteral("lessonNotice");
-/// What happens within this time, in milliseconds, is one moment of the time line.
+/// Events within this time, in milliseconds, share one mark on the timeline.
 constexpr qint64 momentLength = 400;
 
 pagehost::Lesson lessonOf(const pagehost::LessonData &data)

@@ -9,7 +9,7 @@ namespace board {
 class LessonController;
 class Workspace;
 
-/// What the user can do about lessons through the menu, the lesson bar and keys.
+/// Lesson actions of the menu, the lesson bar and keys.
 class LessonMenu : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace board {
 
 namespace {
 
-/// What must be known of a document before it is copied.
+/// Facts about a document that copying it needs.
 struct Survey
 {
     bool isSvg = false;

@@ -7,7 +7,7 @@ class QPainter;
 
 namespace board {
 
-/// What an empty page says to somebody who has just opened the board.
+/// Text on an empty page for new users.
 struct EmptyHint
 {
     QString title;

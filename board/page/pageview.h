@@ -68,7 +68,7 @@ Q_SIGNALS:
     void pointerLeft();
     /// A kind of shape was dragged here from the palette; scene coordinates.
     void kindDropped(const QString &kindId, const QPointF &scenePos);
-    /// What the drop test took was dropped; scene coordinates.
+    /// Data accepted by the drop test was dropped; scene coordinates.
     void dataDropped(const QMimeData &data, const QPointF &scenePos);
 
 protected:

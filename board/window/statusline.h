@@ -12,7 +12,7 @@ class Actions;
 class PageView;
 class Workspace;
 
-/// What stands at the bottom of the window: a hint, where the mouse is, how large the selection is, and the zoom.
+/// The status bar of the window: a hint, the mouse position, the size of the selection, and the zoom.
 class StatusLine : public QObject
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// What was saved once is read for ever, and written as it was: see README.md.
+// Saved files are readable for ever, and written unchanged: see README.md.
 
 #include <frozen/listing.h>
 #include <support/shapefixture.h>

@@ -12,7 +12,7 @@ using support::svgText;
 
 Q_DECLARE_METATYPE(QPainterPath)
 
-/// What each item of a template adds to the outline.
+/// The contribution of each item of a template to the outline.
 class TestItems : public QObject
 {
     Q_OBJECT

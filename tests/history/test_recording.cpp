@@ -14,7 +14,7 @@ using support::ShapeFixture;
 using support::TestShape;
 using support::twoPointTemplate;
 
-/// What a shape hands to the host's playback record, and handing over an undo command.
+/// A shape's entries in the host's playback record, and pushing an undo command.
 class TestRecording : public QObject
 {
     Q_OBJECT

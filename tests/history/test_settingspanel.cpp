@@ -341,7 +341,7 @@ void TestSettingsPanel::aFillColourThatIsNoneIsAppliedAsInvalid()
     recording::clear();
     recording::framework().settings = {{"idFillColor", "no colour"}};
     QVERIFY(fixture->shape->SetSettingJson(QString(), false, false));
-    // What the page object then makes of it comes back as a fill of its own.
+    // The page object passes its resulting fill back to the shape.
     const QVector<recording::Call> applied = recording::calls("document", "setAllFillBrush");
     QVERIFY(!applied.isEmpty());
     const QBrush brush = applied.first().arguments.first().value<QBrush>();

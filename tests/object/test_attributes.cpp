@@ -12,7 +12,7 @@ using support::ShapeFixture;
 using support::TestObject;
 using support::twoPointTemplate;
 
-/// What page object and core answer together: attributes by id and as a map, the fill, the region.
+/// Joint answers of page object and core: attributes by id and as a map, the fill, the region.
 class TestAttributes : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ using support::heapBytesInUse;
 using support::ShapeFixture;
 using support::twoPointTemplate;
 
-/// What an object took it gives back: nothing is left behind by many lives, regions, outlines and property lists.
+/// Objects release all of their memory: many lifetimes, regions, outlines and property lists leave nothing behind.
 class TestMemory : public QObject
 {
     Q_OBJECT

@@ -63,7 +63,7 @@ namespace {
 
 const QRectF hostRect(1, 2, 30, 40);
 
-/// What a stream holds whose host part is hostRect and that has a core of that type.
+/// A stream with hostRect as host part and a core of that type.
 template<typename... Rest> Input stored(int type, const Rest &...rest)
 {
     return inputOf(hostRect, true, qint32(type), rest...);

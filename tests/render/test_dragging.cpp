@@ -16,7 +16,7 @@ using support::ShapeFixture;
 using support::svgText;
 using support::twoPointTemplate;
 
-/// What the moves of a drag do to the control point and to the shape.
+/// Effects of a drag's moves on the control point and the shape.
 class TestDragging : public QObject
 {
     Q_OBJECT

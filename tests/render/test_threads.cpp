@@ -59,7 +59,7 @@ public:
     bool createSVGBase(int, bool) override { return false; }
 };
 
-/// What the object paints onto a transparent picture of that size, in a thread of its own.
+/// The object's painting on a transparent picture of that size, in another thread.
 QImage copyInAnotherThread(CSVGObj &object, QSize size)
 {
     QImage image(size, QImage::Format_ARGB32);

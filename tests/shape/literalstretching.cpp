@@ -5,7 +5,7 @@
 namespace {
 
 constexpr int noIndex = -1;
-/// What no character of a text is.
+/// Differs from all characters of a text.
 constexpr int noUnit = -1;
 
 int unitAt(const QString &text, int at)

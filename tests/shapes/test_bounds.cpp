@@ -17,7 +17,7 @@ namespace {
 
 /// Room around the object in which something might be painted, pixels.
 constexpr int room = 150;
-/// What antialiasing leaves of a line at its very edge.
+/// Alpha left by antialiasing at the very edge of a line.
 constexpr int faintestAlpha = 2;
 /// The margin that the host gives every object, pixels.
 constexpr double hostMargin = 1;

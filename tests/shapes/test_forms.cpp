@@ -1,5 +1,5 @@
-// What every shape has to stand: drags of its control points under any mirroring, rotation, size and zoom, its
-// smallest size, painting from another thread, and being made a thousand times.
+// Stress of every shape: drags of its control points under any mirroring, rotation, size and zoom, its smallest
+// size, painting from another thread, and a thousand creations.
 
 #include <shapes/randomedits.h>
 #include <shapes/shapedriver.h>
@@ -177,7 +177,7 @@ void TestForms::linesAreAsWideAsTheyAreOnceTheyAreSaved()
 
 void TestForms::templateIsDrawnAsItStands()
 {
-    // What the template shows is what the shape draws: the icon of an editor, the first look, the saved form.
+    // The shape draws the look of the template: the icon of an editor, the first look, the saved form.
     QFETCH(QString, name);
     ShapeDriver shape(name);
     QScopedPointer<QZeSvgTinyDocument> plain(QZeSvgTinyDocument::load(shape.core().getSVG().toUtf8()));

@@ -40,7 +40,7 @@ bool answer(const ShapeDriver &shape, const QJsonObject &values)
     return shape.object().SetSettingJson(QString::fromUtf8(QJsonDocument(values).toJson()), true, true);
 }
 
-/// What a shape tells of one property: the head, and the value with its editor.
+/// A shape's description of one property: the head, and the value with its editor.
 struct Description
 {
     int id = 0;

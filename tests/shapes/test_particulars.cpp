@@ -1,4 +1,4 @@
-// What is particular to one shape. Places are document units at the default size, worked out from the templates.
+// Particulars of single shapes. Places are document units at the default size, worked out from the templates.
 
 #include <shapes/shapedriver.h>
 

@@ -44,7 +44,7 @@ int stepsPerShape()
     return asked > 0 ? asked : usualSteps / shapetest::allShapeNames().size();
 }
 
-/// What a shape is after a step.
+/// State of a shape after a step.
 struct State
 {
     QByteArray stream;

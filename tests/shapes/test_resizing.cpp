@@ -1,4 +1,4 @@
-// What a shape makes of a new size.
+// Effects of a new size on a shape.
 
 #include <shapes/shapedriver.h>
 

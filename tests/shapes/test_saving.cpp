@@ -1,5 +1,5 @@
-// What every shape has to keep: saved and opened, undone and redone, recorded and played back, it is the same to
-// the byte.
+// Persistence of every shape: saved and opened, undone and redone, recorded and played back, it is the same to the
+// byte.
 
 #include <shapes/randomedits.h>
 #include <shapes/recordedactions.h>
@@ -162,7 +162,7 @@ void TestSaving::editsAreUndoneAndRedoneToTheByte()
     while (states.size() <= undoneEditCount) {
         const int before = shape.undoStack().count();
         edits.edit();
-        // What the shape does not offer makes no step.
+        // Properties that the shape doesn't offer make no step.
         if (shape.undoStack().count() == before)
             continue;
         QCOMPARE(shape.undoStack().count(), before + 1);

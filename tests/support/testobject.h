@@ -26,7 +26,7 @@ public:
 
     /// Whether OnQPainterDraw() paints or is only logged. Off at first: most tests have nothing to see.
     bool paints = false;
-    /// What createSVGBase() does after it was logged; empty: makeCore() with the given type and an empty template,
+    /// Called by createSVGBase() after logging; empty: makeCore() with the given type and an empty template,
     /// loaded.
     std::function<void(int type, bool flag)> onCreateCore;
     /// Called by setFillProp() after it was logged as "CSVGObj::setFillProp"; empty: the base's behaviour.

@@ -74,7 +74,7 @@ public:
     /// Any node of the document by its id.
     QZeSvgNode *node(const QString &id) const;
 
-    // What the library keeps for shapes, laid open.
+    // Makes protected members of the library accessible.
     using CSVGBase::activeControlPoint;
     using CSVGBase::animator;
     using CSVGBase::belongDoc;

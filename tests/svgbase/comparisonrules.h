@@ -7,7 +7,7 @@
 /// Why a drawing is right: where the standard says so, and what it says, in our words.
 struct ComparisonRule
 {
-    /// What the names of the cases begin with.
+    /// Prefix of the names of the cases.
     QString start;
     QString source;
     QString text;

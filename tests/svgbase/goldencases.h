@@ -9,7 +9,7 @@ namespace goldencases {
 /// Names that end with \p suffix, in order.
 QStringList namesWith(const QString &suffix);
 
-/// What stands before the first dot of a file's name.
+/// The part of a file's name before the first dot.
 QString caseOf(const QString &name);
 
 /// Cases of all SVG files but those that only stand beside others to be compared.

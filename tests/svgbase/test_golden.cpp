@@ -21,7 +21,7 @@ struct Probe
     QColor color;
 };
 
-/// What stands in a ".expect" file.
+/// Contents of an ".expect" file.
 struct Expectations
 {
     QSize size{100, 100};

@@ -8,7 +8,7 @@ namespace board {
 
 class NumberField;
 
-/// What numbers an editor offers.
+/// Range of numbers that an editor offers.
 struct NumberRange
 {
     double minimum = -std::numeric_limits<int>::max();

@@ -21,7 +21,7 @@ public:
     virtual bool isWide() const { return false; }
     /// Whether a caption is needed to say what is edited.
     virtual bool hasCaption() const { return true; }
-    /// What screen readers and tool tips call the value.
+    /// Sets the name of the value for screen readers and tool tips.
     virtual void setName(const QString &name) = 0;
 
 Q_SIGNALS:

@@ -12,7 +12,7 @@ namespace board {
 
 class ValueEditor;
 
-/// What one row of a form shows.
+/// Contents of one row of a form.
 struct FormRow
 {
     QString structure; ///< rows of the same structure can be shown by the same editor

@@ -121,7 +121,7 @@ void SelectionPanel::pick(int row, const QVariant &value)
     for (CBaseObject *object : objects)
         apply(object, row, value, true);
     GetFramework()->endUndoGroup();
-    // What the objects made of it, which need not be the value.
+    // Shows the objects' resulting value, which may differ.
     m_refresh.refreshNow();
 }
 

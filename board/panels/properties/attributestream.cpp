@@ -12,7 +12,7 @@ namespace board {
 
 namespace {
 
-/// What GetAttribute() writes after the property id.
+/// Code of the editor, written by GetAttribute() after the property id.
 enum EditorCode : qint32 { ListCode = 1, ColorCode = 2, SwitchCode = 4, TextCode = 5, RangeCode = 7 };
 
 constexpr int intRangeBytes = 3 * 4 + 4;  // minimum, maximum, step and the value

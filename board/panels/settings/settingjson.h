@@ -32,7 +32,7 @@ struct SettingControl
 /// colour that is none, bounds that are no numbers) are passed over; text that is no settings panel gives none.
 QVector<SettingControl> parseSettings(const QString &json);
 
-/// What a panel answers to SetSettingJson() when the user has chosen `value` for a control.
+/// The answer of a panel for SetSettingJson() after the user has chosen `value` for a control.
 QString settingAnswer(const SettingControl &control, const QVariant &value);
 
 } // namespace board

@@ -5,8 +5,7 @@
 
 namespace board {
 
-/// What the selected objects offer as their settings (CPSRootObject::GetSettingJson()), as far as all of them have
-/// it.
+/// Panel of the settings (CPSRootObject::GetSettingJson()) that all selected objects have.
 class SettingsPanel : public SelectionPanel
 {
     Q_OBJECT

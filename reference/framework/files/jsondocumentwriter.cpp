@@ -72,7 +72,7 @@ bool writeObject(JsonWriter &writer, CBaseObject *object)
     QJsonObject data;
     const bool isSaved = object->saveJson(data);
     writer.member(dataName, data);
-    // What JSON has no numbers for is kept as a stream has it.
+    // Objects with numbers that JSON can't represent are saved as a stream.
     if (!writer.isExact()) {
         writer.cutBack(start);
         writer.member(streamName, streamed(object).toBase64());

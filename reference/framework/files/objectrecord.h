@@ -16,7 +16,7 @@ class IPsPage;
 
 namespace pagehost {
 
-/// What a file holds of one object, whichever format it is in.
+/// A file's data of one object, in either format.
 struct ObjectRecord
 {
     enum Encoding : quint8 {
@@ -43,7 +43,7 @@ struct ObjectRecord
     std::optional<Place> place;
 };
 
-/// What is beside the data of an object that is no placeholder.
+/// The record of an object that isn't a placeholder, without its data.
 ObjectRecord headOf(CBaseObject *object);
 
 /// The streamed state of an object that is no placeholder; false when it could not be saved.

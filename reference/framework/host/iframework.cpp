@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What objects see before the application has made a document: editing, unblocked, at zoom 1.
+/// Stands in until the application has created a document: editing, unblocked, at zoom 1.
 class BuiltInDocument : public IDocument
 {
 public:

@@ -21,7 +21,7 @@ namespace {
 /// units.
 constexpr double overhang = 8;
 
-/// What the object answers to pagehost::PaintedArea; empty when it knows no answer, or none that is a rectangle.
+/// The object's answer to pagehost::PaintedArea; empty without an answer, or for one that is not a rectangle.
 QRectF askedPaintedArea(CPSRootObject &object)
 {
     QByteArray bytes;

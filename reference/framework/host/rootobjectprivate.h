@@ -17,7 +17,7 @@ class Page;
 class PageScene;
 } // namespace pagehost
 
-/// What the host keeps of a page object beside its public members, and the host's own way past virtual operations.
+/// The host's private data of a page object, and its access that bypasses virtual operations.
 class CPSRootObjectPrivate
 {
 public:
@@ -34,10 +34,9 @@ public:
     bool isBeingRead = false;
     /// Zoom that the object followed last: objects may size parts of theirs in pixels, and save them so.
     double followedZoom = 1;
-    /// What the object saves as long as it plays and nothing but its picture changes.
+    /// Saved data of the object, kept while its animation changes nothing but its picture.
     std::optional<QByteArray> playedState;
-    /// The region was made for another size or look. Making it is dear, so that it waits until somebody asks for
-    /// it.
+    /// The region was made for another size or look. Making it is expensive, so it waits for a request.
     bool regionIsStale = false;
     /// refreshBounds() has no effect.
     bool keepsBounds = false;
@@ -47,8 +46,7 @@ public:
     QRectF bounds;
     /// Outside of a scene the bounds wait until somebody asks for them.
     bool boundsAreStale = false;
-    /// What the object answered to pagehost::PaintedArea; null where it has to be asked, empty where it knows no
-    /// answer.
+    /// The object's answer to pagehost::PaintedArea; null before asking, empty without an answer.
     std::optional<QRectF> paintedArea;
     std::unique_ptr<GripDrag> drag;
 

@@ -26,7 +26,7 @@ bool displace(CBaseObject &object, int number, double to)
     return replayAction(&object, controlPointAction, payloadOf(name, QPointF(to, to)));
 }
 
-/// What the host itself keeps of the object, its fill among it, past the object's own load().
+/// Restores the host's own data of the object, such as its fill, bypassing the object's load().
 bool bringBackHostState(CBaseObject &object, const QByteArray &state)
 {
     QDataStream in(state);

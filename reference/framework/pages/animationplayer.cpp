@@ -118,7 +118,7 @@ void AnimationPlayer::setPlaying(bool playing)
     Q_EMIT playingChanged(playing);
 }
 
-/// What an object is may change with what it shows.
+/// The kind of an object may change with its contents.
 void AnimationPlayer::takeObject(CBaseObject *object)
 {
     if (!object || !m_page->contains(object)) {

@@ -4,7 +4,7 @@
 
 namespace pagehost {
 
-/// What a press at `scenePos` would take hold of.
+/// The grip that a press at `scenePos` would start.
 Grip findGrip(const Page &page, const QPointF &scenePos);
 /// The cursor that shows it; `pressed` while it is held.
 QCursor cursorFor(const Grip &grip, bool pressed);

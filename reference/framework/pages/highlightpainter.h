@@ -10,7 +10,7 @@ namespace pagehost {
 /// Draws a glowing frame around an object that a player points out; `painter` is in scene coordinates. Gives the
 /// size of a pixel of its device in scene units.
 double paintHighlight(CBaseObject &object, QPainter &painter);
-/// What the frame covers when a pixel is this large, scene coordinates; empty for null.
+/// Bounds of the frame for this size of a pixel, scene coordinates; empty for null.
 QRectF highlightBounds(const CBaseObject *object, double pixel);
 
 } // namespace pagehost

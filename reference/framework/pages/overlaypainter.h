@@ -8,7 +8,7 @@ namespace pagehost {
 
 /// Frames and handles of the selected objects, in scene coordinates.
 void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool framesOnly);
-/// What paintOverlay() covers, scene coordinates.
+/// Bounds of paintOverlay(), scene coordinates.
 QRectF overlayBounds(const Page &page);
 
 } // namespace pagehost

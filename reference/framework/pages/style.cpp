@@ -14,7 +14,7 @@ namespace {
 
 using Writer = std::function<void(QDataStream &)>;
 
-/// What GetAttribute() gives: property id, code of the editor, name, whether it may be changed, then the value.
+/// Answer of GetAttribute(): property id, code of the editor, name, whether it may be changed, then the value.
 class Description
 {
 public:
@@ -71,7 +71,7 @@ private:
     bool m_isValid = false;
 };
 
-/// What the first object that has the property calls it.
+/// The name of the property at the first object that has it.
 QString nameOf(const QVector<CBaseObject *> &objects, int id)
 {
     for (CBaseObject *object : objects) {

@@ -94,7 +94,7 @@ public:
     virtual void updateRectChanged();
 
     virtual bool isVisible() const;
-    /// What kind of object this is, as a localisation key ("IDS_..."): shown in lists, hints and to screen readers.
+    /// The kind of the object as a localisation key ("IDS_..."): shown in lists, hints and to screen readers.
     virtual QString kindName() const = 0;
     virtual void setLocked(bool locked);
     virtual bool isLocked() const;

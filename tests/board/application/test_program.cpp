@@ -321,7 +321,7 @@ void TestProgram::theFileThatIsGivenOpensInTheWindow()
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(BOARD_PROGRAM, {file});
-    // What was opened is offered again.
+    // The opened file is offered again.
     const QString settings = folder.filePath("gliololok/gliololok-board.conf");
     QTRY_COMPARE_WITH_TIMEOUT(QSettings(settings, QSettings::IniFormat).value("recentFiles").toStringList(),
                               QStringList{file}, 60000);

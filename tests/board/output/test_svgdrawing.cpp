@@ -30,7 +30,7 @@ static QByteArray svg(const QByteArray &content)
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 2 1\">" + content + "</svg>";
 }
 
-/// What the fragment of such a document holds inside its root.
+/// The contents of the root of such a document's fragment.
 static QByteArray inner(const QByteArray &content)
 {
     const QByteArray whole = fragment(svg(content));

@@ -1,4 +1,4 @@
-// What moves on the board: it plays while it is seen, and F7 holds it.
+// Animation on the board: it runs while visible, and F7 pauses it.
 
 #include "board/boarddriver.h"
 

@@ -88,7 +88,7 @@ void TestHandles::quickSecondPressDragsToo()
 {
     OneShape t;
     t.board.click({600, 360});
-    // What a window system sends for a second press soon after the first.
+    // The event of a window system for a second press soon after the first.
     const QPoint pos = t.board.view().mapFromScene(QPointF(600, 360));
     QMouseEvent again(QEvent::MouseButtonDblClick, pos, t.board.view().viewport()->mapToGlobal(pos), Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);

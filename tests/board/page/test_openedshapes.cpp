@@ -29,7 +29,7 @@ constexpr double zooms[] = {1, 2, 0.63};
 /// Of 255: slanted edges are antialiased a little differently where a view keeps an object's picture at another
 /// origin. Something missing differs by more.
 constexpr int mostAtEdges = 24;
-/// What is not at an edge differs by no more.
+/// Largest difference of pixels that are not at an edge.
 constexpr int mostInside = 2;
 /// Of the pixels of a picture around a shape.
 constexpr double edgePart = 0.05;
@@ -65,7 +65,7 @@ void openAgain(BoardDriver &driver)
     driver.workspace().replaceDocument(std::move(opened.document));
 }
 
-/// What is seen around a part of the page.
+/// The visible picture around a part of the page.
 QImage picture(BoardDriver &driver, const QRectF &part)
 {
     driver.hover({5, 5});

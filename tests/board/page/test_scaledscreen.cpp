@@ -31,7 +31,7 @@ void TestScaledScreen::partsThatArePaintedAgainLeaveNoLines_data()
         QTest::addRow("%g", zoom) << zoom;
 }
 
-/// What moves has its old and new place painted again, on the canvas around the page as well.
+/// Old and new place of a moved object are repainted, on the canvas around the page as well.
 void TestScaledScreen::partsThatArePaintedAgainLeaveNoLines()
 {
     QFETCH(double, zoom);

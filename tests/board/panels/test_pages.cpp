@@ -134,7 +134,7 @@ void TestPages::draggedThumbnailMovesThePage()
     board.window().actions()->addPage->trigger();
     board.window().actions()->addPage->trigger();
     const QVector<pagehost::Page *> before = document->pages();
-    // What a drop between the thumbnails does to the list.
+    // The effect of a drop between the thumbnails on the list.
     QVERIFY(listOf(board)->model()->moveRow(QModelIndex(), 0, QModelIndex(), 3));
     QCOMPARE(document->pages(), (QVector<pagehost::Page *>{before.at(1), before.at(2), before.at(0)}));
     board.key(Qt::Key_Z, Qt::ControlModifier);

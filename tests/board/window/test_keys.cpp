@@ -1,4 +1,4 @@
-// What the keys do to the selection: nudging, deleting, duplicating, order, mirroring, and the history.
+// Effects of keys on the selection: nudging, deleting, duplicating, order, mirroring, and the history.
 
 #include <board/boarddriver.h>
 

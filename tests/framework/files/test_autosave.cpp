@@ -72,7 +72,7 @@ void TestAutosave::cleanup()
     m_document.reset();
 }
 
-/// What a process leaves that autosaves the document with one object at (7, 8) and dies.
+/// The copies left by a process that autosaves the document with one object at (7, 8) and dies.
 QVector<RecoverableDocument> TestAutosave::crash(const QString &originalFile)
 {
     const pid_t child = fork();

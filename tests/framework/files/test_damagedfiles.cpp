@@ -258,7 +258,7 @@ void TestDamagedFiles::cutBinaryFileShowsAllObjectsBeforeTheCut()
         const QByteArray bytes = whole.left(size);
         const OpenResult opened = decodeDocument(bytes, registry());
         QVERIFY(!opened.messages.isEmpty());
-        // What begins after an object shows that all of it is there.
+        // The beginning of the next object shows that this one is complete.
         const int begun = bytes.count("OBJT");
         QVERIFY((opened.document ? wholeObjects(*opened.document) : 0) >= begun - 1);
     }

@@ -67,8 +67,7 @@ struct Shown : Editor
         picture(view);
         return greatestDifference(kept, painted) <= rounding;
     }
-    /// What stands in the window, of which each change has repainted a part, against the window painted as a whole
-    /// without kept pictures.
+    /// Compares the window, partly repainted by each change, with one painted as a whole without cached pictures.
     bool leavesNoTraces()
     {
         QCoreApplication::processEvents();

@@ -24,7 +24,7 @@ template<typename Value> Value recordedValue(const QByteArray &payload)
     return value;
 }
 
-/// What the object paints onto 20 × 10 pixels at its origin.
+/// The object's picture, 20 × 10 pixels at its origin.
 QImage painted(CBaseObject &object)
 {
     QImage image(20, 10, QImage::Format_ARGB32);

@@ -282,7 +282,7 @@ void TestLessonData::flippedBytesNeverCrash()
                 ++refused;
                 continue;
             }
-            // What is taken can be written and read again.
+            // Accepted data can be written and read again.
             Lesson again;
             QVERIFY(again.fromBytes(lesson.toBytes()));
         }

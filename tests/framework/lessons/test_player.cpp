@@ -288,7 +288,7 @@ void TestLessonPlayer::seeksInALongLesson()
 
 void TestLessonPlayer::everyMomentIsTheStateThen()
 {
-    // What was saved at a moment is what the player shows at that moment, wherever it comes from.
+    // At any time the player shows the state saved at that time, from wherever it seeks.
     Classroom room;
     CBaseObject *object = room.drawArrow();
     QVector<QStringList> states{savedState(room.document)};

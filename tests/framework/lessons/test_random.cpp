@@ -159,7 +159,7 @@ private:
         any()->SetAttribute(2010 + number(5), stream, number(4) != 0);
     }
 
-    /// What a settings panel sends for one or two controls, sometimes nonsense.
+    /// Sends a settings panel's answer for one or two controls, sometimes nonsense.
     void answer()
     {
         CBaseObject *object = any();

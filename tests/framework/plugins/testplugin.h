@@ -6,7 +6,7 @@
 
 #include <QtCore/QObject>
 
-/// What the test plug-ins have in common: kinds by id, English and German texts.
+/// Common base of the test plug-ins: kinds by id, English and German texts.
 class TestPlugin : public QObject, public pagehost::ObjectPlugin
 {
     Q_OBJECT

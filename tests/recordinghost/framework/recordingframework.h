@@ -11,7 +11,7 @@
 
 namespace recording {
 
-/// What a test can tell the recording framework to answer. resetFramework() brings the defaults back.
+/// Answers of the recording framework, set by tests. resetFramework() restores the defaults.
 struct Framework
 {
     /// CPSRootObject::getCurZoomRate() of every page object.
@@ -22,15 +22,15 @@ struct Framework
     QMap<int, QColor> colors;
     /// The attribute ids that a page object has after the host base's constructor.
     QList<int> attributeIds;
-    /// What painter_getGraphicsViewName() gives.
+    /// Result of painter_getGraphicsViewName().
     QString viewName;
     /// Answers of the host base where a shape declines: hit test, canDo, attributes, special properties.
     bool baseAnswer = false;
     /// The host base's answer after it wrote or read what a lesson starts from.
     bool playbackAnswer = true;
-    /// What the base's CheckHitTestHandlers() writes into its action when baseAnswer is set.
+    /// Action written by the base's CheckHitTestHandlers() when baseAnswer is set.
     int baseAction = 0;
-    /// What ParseSettingJson() reads and answers.
+    /// Result of ParseSettingJson().
     QMap<QString, QString> settings;
     bool settingsParse = true;
     /// Whether CUtil::genIconForLineStyle() gives pictures, whose encoding depends on the picture library, or null

@@ -4,7 +4,7 @@
 
 #include <QtCore/QSet>
 
-/// What the recording framework keeps about a page object besides its declared members.
+/// The recording framework's private data of a page object.
 class CPSRootObjectPrivate
 {
 public:

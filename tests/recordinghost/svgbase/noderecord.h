@@ -7,7 +7,7 @@
 
 class QXmlStreamReader;
 
-/// What a node of the recording SVG library consists of: a type and its attributes as text.
+/// A node of the recording SVG library: a type and its attributes as text.
 class QZeSvgNodePrivate
 {
 public:
@@ -41,7 +41,7 @@ private:
     void setRoundNumber(const QString &attribute, double value);
 };
 
-/// What the document has besides.
+/// Additional data of the document.
 class RecordingDocumentRecord : public QZeSvgNodePrivate
 {
 public:

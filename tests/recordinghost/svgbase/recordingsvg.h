@@ -9,7 +9,7 @@ class QZeSvgTinyDocument;
 
 namespace recording {
 
-/// What a test can tell the recording SVG library to do. reset() brings the defaults back.
+/// Behaviour of the recording SVG library, set by tests. reset() restores the defaults.
 struct Svg
 {
     /// So many of the next QZeSvgTinyDocument::load() calls give null, whatever the text.

@@ -3,7 +3,7 @@
 #include "document/documentprivate.h"
 #include "svgbase/svgdrawing.h"
 
-/// What is drawn of a node at the moment that its document shows.
+/// A node as drawn at its document's present time.
 class ShownNode
 {
 public:

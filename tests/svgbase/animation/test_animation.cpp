@@ -340,7 +340,7 @@ void TestAnimation::changedAttributesShow()
     document->setAnimationTime(1);
     QCOMPARE(ShownNode(*document, "t").bounds(), QRectF(40, 5, 10, 10));
     QCOMPARE(document->namedNode("t")->boundingRect(), QRectF(30, 5, 10, 10));
-    // What is animated hides the attribute until the animation is over.
+    // The animation overrides the attribute until it ends.
     const DocumentPointer replaced = square("<set attributeName='x' to='40' end='4s'/>");
     document->setAnimationTime(1);
     replaced->namedNode("t")->setAttribute("x", "30");

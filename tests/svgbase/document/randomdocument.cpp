@@ -404,7 +404,7 @@ RandomDocument::Change RandomDocument::changeStructure()
     default:
         change.kind = Change::Move;
         parent->children.remove(placeOf(*parent, element));
-        // What stood behind it has another place in memory now.
+        // The following elements have moved in memory.
         find(change.parentId)->children.append(copy);
         break;
     }

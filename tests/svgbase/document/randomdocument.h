@@ -25,7 +25,7 @@ public:
     const RandomElement &root() const { return m_root; }
     QByteArray text() const;
 
-    /// What was done to the first element with an id; the random document has the change already.
+    /// A change of the first element with an id; the random document already contains it.
     struct Change
     {
         enum Kind {

@@ -1,4 +1,4 @@
-// What elements have in common takes memory once.
+// Shared parts of elements take memory only once.
 
 #include "document/document.h"
 #include "inputlimits.h"

@@ -6,7 +6,7 @@
 #include <QtGui/QPaintEngine>
 #include <QtTest>
 
-// What drawing asks of a painter: no more than what shows.
+// Calls of a painter by drawing: no more than the visible parts need.
 class TestPainterCalls : public QObject
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ inline QStringList described(const Tree &tree, const Messages &messages)
     return lines;
 }
 
-/// What Qt's reader makes of a text; empty where it refuses it.
+/// The events of Qt's reader for a text; empty if it refuses the text.
 inline QStringList streamed(const QByteArray &text)
 {
     Tree tree;

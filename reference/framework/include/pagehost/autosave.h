@@ -22,7 +22,7 @@ class ObjectRegistry;
 struct FileMessage;
 struct OpenResult;
 
-/// What a process that ended without saving left behind.
+/// The copy left by a process that ended without saving.
 struct RecoverableDocument
 {
     QString recoveryFile; ///< absolute path of the copy, in the binary document format

@@ -98,7 +98,7 @@ public:
     void retain(Page *page);
     void release(Page *page);
 
-    /// @name What has been changed since the document was saved
+    /// @name Changes since the document was saved
     /// @{
     /// True when the undo stack is not where it was at markSaved(), or noteChange() was called since. Steps made
     /// while another document is the current one are that one's.
@@ -113,7 +113,7 @@ public:
     quint64 revision() const;
     /// @}
 
-    /// @name What is saved with the pages
+    /// @name Data saved with the pages
     /// @{
     QVector<LessonData> lessons() const { return m_lessons; }
     /// pagehost/commands.h has the undoable changes.

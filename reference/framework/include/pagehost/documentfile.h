@@ -31,7 +31,7 @@ enum class DocumentFormat {
 /// Json for a name that ends in ".board.json" in any case, Binary for every other one.
 FRAMEWORK_EXPORT DocumentFormat documentFormatOf(const QString &fileName);
 
-/// What could not be read or written, and where.
+/// A part of a file that could not be read or written.
 struct FRAMEWORK_EXPORT FileMessage
 {
     enum Severity {

@@ -16,7 +16,7 @@
 /// them when they first appear, counting up from 1, and that they keep when they go and come back.
 namespace pagehost {
 
-/// @name What can happen
+/// @name Kinds of events
 /// @{
 
 /// An object recorded an action (CPSRootObject::RecordAction()).

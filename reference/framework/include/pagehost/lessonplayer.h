@@ -40,8 +40,8 @@ public:
     /// Stops, and shows the start of this lesson in a new document.
     void setLesson(const Lesson &lesson);
     const Lesson &lesson() const { return m_lesson; }
-    /// What the lesson's pages look like at position(); null before the first setLesson(). Deleted when a new one
-    /// replaces it (documentReplaced()).
+    /// The lesson's pages at position(); null before the first setLesson(). Deleted when a new one replaces it
+    /// (documentReplaced()).
     Document *document() const;
 
     /// Goes on from position(), from the start when that is the end.

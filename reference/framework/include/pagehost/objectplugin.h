@@ -63,8 +63,8 @@ public:
     virtual TextTable texts(const QString &language) const = 0;
 
     /// @name Data of other programs
-    /// What a plug-in need not have: objects made of pasted or dropped data, and the look of its objects for
-    /// others.
+    /// Optional operations of a plug-in: creating objects from pasted or dropped data, and exporting the look of
+    /// its objects.
     /// @{
 
     /// MIME types that createFromData() takes, most wanted first ("image/svg+xml", "image/png").

@@ -18,7 +18,7 @@ namespace pagehost {
 
 class Localizer;
 
-/// What became of one plug-in file.
+/// Result of loading one plug-in file.
 struct PluginReport
 {
     QString file; ///< absolute path

@@ -95,7 +95,8 @@ Q_SIGNALS:
     void selectionChanged();
     /// Something that the page shows has changed; at most once per turn of the event loop.
     void contentChanged();
-    /// What an object of the page saves may have changed; at once, and for one change possibly several times.
+    /// The saved data of an object of the page may have changed; emitted at once, possibly several times for one
+    /// change.
     void objectChanged(CBaseObject *object);
     /// A notification of an object (CPSRootObject::notifyObjPropertyChanged), at once.
     void objectPropertyChanged(CBaseObject *object, int id, const QString &value);

@@ -16,7 +16,7 @@ namespace pagehost {
 class CreationTool;
 class Page;
 
-/// What lies under a point of the page for somebody who wants to edit.
+/// The editable thing under a point of the page.
 struct Grip
 {
     enum Kind {

@@ -8,8 +8,7 @@
 
 class CBaseObject;
 
-/// What a user does with the selected objects of a page. Each change is one undo step; false means that there was
-/// nothing to do.
+/// Operations on the selected objects of a page. Each change is one undo step; false if there was nothing to do.
 namespace pagehost {
 
 class ObjectRegistry;

@@ -31,7 +31,7 @@ FRAMEWORK_EXPORT bool setPenWidth(const QVector<CBaseObject *> &objects, int wid
 /// A colour with alpha 0 is "no fill".
 FRAMEWORK_EXPORT bool setFill(const QVector<CBaseObject *> &objects, const QColor &color);
 
-/// What an object says about its pen and fill. Each value comes with a flag that tells whether the object has it.
+/// Pen and fill of an object. Each value has a flag that says whether the object has it.
 struct ObjectStyle
 {
     bool hasPenColor = false;
