@@ -23,19 +23,19 @@ struct AnimatedValue
     };
     Kind kind = Text;
     QVector<double> numbers;
-    /// What else must agree: the units, the commands.
+    /// Other properties that must agree: the units, the commands.
     QString form;
     QString text;
 };
 
-/// What the attribute is like that a value is for.
+/// Facts about the animated attribute.
 struct ValueContext
 {
     enum Grammar { Lengths, Colors, PathData, TransformFunction };
     Grammar grammar = Lengths;
     /// The name of the transform function.
     QLatin1String function;
-    /// What "inherit" means, where it means anything.
+    /// Value of "inherit", if it has one.
     QString inherited;
     Axis axis = Axis::Diagonal;
     LengthContext lengths;

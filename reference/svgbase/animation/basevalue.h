@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// What an attribute amounts to that an element does not have: an empty text where that is nothing or 0.
+/// Value of an absent attribute: an empty text for nothing or 0.
 QString defaultAttributeText(ElementKind kind, AttributeId attribute);
 
 } // namespace Svg

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// What one animation element does to a value, apart from when (SMIL 3.0 §12.5).
+/// Effect of one animation element on a value, independent of its timing (SMIL 3.0 §12.5).
 class Effect
 {
 public:

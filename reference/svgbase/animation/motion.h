@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// What an `animateMotion` does: moves its target along a path (SVG 1.1 §19.2.15).
+/// An `animateMotion`: moves its target along a path (SVG 1.1 §19.2.15).
 class Motion
 {
 public:

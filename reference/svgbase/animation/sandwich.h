@@ -34,11 +34,11 @@ struct AnimatedAttribute
     bool baseFollowsColor = false;
     ValueContext context;
     QVector<Animation> animations;
-    /// What the attribute amounts to without animation.
+    /// Value of the attribute without animation.
     QString base;
     /// The value that is shown; nothing while no animation applies.
     std::optional<QString> shown;
-    /// What each animation does at the moment that is shown.
+    /// State of each animation at the displayed time.
     std::vector<Timeline::State> states;
 };
 

@@ -14,7 +14,7 @@ namespace Svg {
 class Timeline
 {
 public:
-    /// What an animation does at a moment.
+    /// State of an animation at a time.
     struct State
     {
         /// Whether it has an effect, playing or frozen.
@@ -34,7 +34,7 @@ public:
     void goTo(ClockTime time);
     /// Whether it could not get there, for too many begins and ends on the way.
     bool isExhausted() const { return m_eventsLeft <= 0; }
-    /// What an animation does at the moment that was gone to.
+    /// State of an animation at the present time.
     State state(int animation) const;
 
 private:

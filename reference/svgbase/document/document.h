@@ -56,7 +56,7 @@ public:
 
 private:
     bool isCurrent(NodeIndex index, const FactsPointer &above) const;
-    /// What of a node's facts has to be found out anew.
+    /// The facts of a node that must be resolved again.
     enum Change : quint8 { NoChange = 0, PlaceChange = 1, StyleChange = 2, GeometryChange = 4, AnyChange = 7 };
     static Change changeBy(AttributeId attribute);
     void nodeChanged(NodeIndex index, Change change);

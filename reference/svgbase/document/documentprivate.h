@@ -10,7 +10,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QSet>
 
-/// What stands behind a public document.
+/// Implementation of a public document.
 class DocumentPrivate : public QZeSvgNodePrivate
 {
 public:
@@ -59,7 +59,7 @@ public:
     /// Document-wide values as last set.
     Svg::StyleOverride lastSet;
     QZeSvgTinyDocument::DrawRecord lastDraw;
-    /// What the last drawing left out.
+    /// Messages about parts left out by the last drawing.
     QVector<Svg::Message> drawMessages;
     int selectionState = 0;
     bool beforeDraw = false;
@@ -71,7 +71,7 @@ public:
     /// Sets the clock. Whether that changes what is drawn.
     bool setAnimationTime(Svg::ClockTime time);
     Svg::ClockTime animationTime() const;
-    /// What is to be drawn: the content, or how it looked at the moment that was last shown.
+    /// The document to draw: the content, or its animated state at the last displayed time.
     Svg::Document &shown();
     /// @}
 

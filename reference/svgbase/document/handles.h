@@ -7,7 +7,7 @@
 class DocumentPrivate;
 class QZeSvgTinyDocument;
 
-/// What stands behind a public node: a place in a document. Node objects are made when somebody asks for one.
+/// Implementation of a public node: an index in a document. Node objects are created on request.
 class QZeSvgNodePrivate
 {
 public:

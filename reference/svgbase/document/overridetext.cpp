@@ -61,7 +61,7 @@ bool isWritableGradient(const QBrush &brush)
            (gradient->type() == QGradient::LinearGradient || gradient->type() == QGradient::RadialGradient);
 }
 
-// What stands in for a brush that SVG has no paint for.
+// Replaces a brush that SVG has no paint for.
 QColor substitute(const QBrush &brush)
 {
     const QGradient *gradient = brush.gradient();

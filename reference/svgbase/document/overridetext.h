@@ -39,7 +39,7 @@ private:
     int m_lastNumber = 0;
 };
 
-/// What document-wide styling put over a node of the given style, as declarations that win over all others.
+/// The document-wide styling of a node of the given style, as declarations that win over all others.
 QString overrideText(const StyleOverride &override, const ComputedStyle &style, PaintDefinitions *paints);
 
 } // namespace Svg

@@ -16,7 +16,7 @@ public:
     /// Goes to a moment. Whether that changes what is drawn.
     bool show(Document &base, ClockTime time);
     Document &document() { return m_document; }
-    /// What was left out because of limits.
+    /// Parts left out because of limits.
     DrawReport report() const;
     /// The view box of the moment, if it is animated.
     std::optional<QRectF> viewBox() const;

@@ -9,8 +9,8 @@
 
 namespace Svg {
 
-/// What a text amounts to. It never changes, so that documents of any thread start as copies of it and share what
-/// they do not change.
+/// The parsed form of a text. It is immutable, so that documents of any thread start as copies of it and share
+/// their unchanged parts.
 class Prototype
 {
 public:

@@ -4,8 +4,8 @@
 
 namespace Svg {
 
-/// What a text amounts to, parsed when it is seen for the first time and kept for later, least recently used ones
-/// going first. May be called from any thread. Null when the text can't be loaded; `messages` then says why.
+/// The parsed form of a text, from a cache that drops the least recently used ones. May be called from any thread.
+/// Null if the text can't be loaded; `messages` then gives the reason.
 PrototypePointer knownPrototype(const QByteArray &text, Messages *messages);
 
 } // namespace Svg

@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// What an "feConvolveMatrix" does (Filter Effects 1 §9.9).
+/// Parameters of an "feConvolveMatrix" (Filter Effects 1 §9.9).
 struct Convolution
 {
     enum Edges : quint8 { Duplicate, Wrap, Transparent };

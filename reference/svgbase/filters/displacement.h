@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// What an "feDisplacementMap" does (Filter Effects 1 §9.11).
+/// Parameters of an "feDisplacementMap" (Filter Effects 1 §9.11).
 struct Displacement
 {
     enum Channel : quint8 { Red, Green, Blue, Alpha };

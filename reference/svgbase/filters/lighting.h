@@ -23,7 +23,7 @@ struct LightSource
     std::optional<double> cone;
 };
 
-/// What "feDiffuseLighting" and "feSpecularLighting" make of a height map (Filter Effects 1 §9.9, §9.20).
+/// Lighting of a height map by "feDiffuseLighting" and "feSpecularLighting" (Filter Effects 1 §9.9, §9.20).
 struct Lighting
 {
     bool specular = false;

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// What counts as standing beyond the edges of a picture: nothing, the pixels at the edge, or the picture again.
+/// Pixels beyond the edges of a picture: none, those at the edge, or the picture repeated.
 enum class EdgeMode : quint8 { None, Duplicate, Wrap };
 
 /// Operations on pictures of premultiplied colours with alpha; outside of a picture everything is transparent.

@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// What an "feTurbulence" makes (Filter Effects 1 §9.21).
+/// Parameters of an "feTurbulence" (Filter Effects 1 §9.21).
 struct Turbulence
 {
     /// Waves per user unit across and down.

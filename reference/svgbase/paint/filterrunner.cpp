@@ -197,7 +197,7 @@ int inputCount(const FilterPrimitive &primitive)
     }
 }
 
-// What covers all inputs, or the whole region where one of them is a standard input (Filter Effects 1 §9.4).
+// The bounds of all inputs, or the whole region if one of them is a standard input (Filter Effects 1 §9.4).
 QRectF StepRunner::primitiveRegion(const FilterPrimitive &primitive) const
 {
     QRectF region;

@@ -160,7 +160,7 @@ QSizeF mappedReach(double reach, const QTransform &t)
     return QSizeF(reach * std::hypot(t.m11(), t.m21()), reach * std::hypot(t.m12(), t.m22()));
 }
 
-/// What a path takes besides its elements, in elements.
+/// Overhead of a path, in elements.
 constexpr int pathOverhead = 6;
 
 int keptElements(const MappedShape &shape)

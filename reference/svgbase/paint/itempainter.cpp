@@ -25,11 +25,11 @@ namespace {
 constexpr int smoothingReach = 1;
 /// Filters may ask for pixels from anywhere; farther than this no picture reaches.
 constexpr double farthestPixel = 1 << 24;
-/// What blending by hand costs, in pixels painted aside.
+/// Cost of blending by hand, in layer pixels.
 constexpr double blendCost = 20;
 /// How far from a pixel's edge a rectangle may end and still be taken to end there.
 constexpr double alignmentTolerance = 1e-3;
-/// What is painted aside while a picture is recorded lies within this.
+/// Bounds of layers while a picture is recorded.
 constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
 
 /// A group that is painted aside, or the painter itself at the bottom of the stack.
@@ -40,14 +40,14 @@ struct Layer
     double opacity = 1;
     /// Opacity of the finished picture.
     double pictureOpacity = 1;
-    /// What can be painted on.
+    /// The paintable area.
     QRect area;
     PixelTarget pixels;
     /// Null for none.
     const MappedEffects *effects = nullptr;
     /// Null for a group that is painted straight on what lies below.
     std::unique_ptr<SidePicture> picture;
-    /// What the picture is painted on until it is filtered, where that is not the pixels of the painter below.
+    /// Canvas of the picture until it is filtered, unless the pixels of the painter below serve as one.
     std::optional<FilterCanvas> canvas;
     /// Whether the painter below was given a clip for this group.
     bool clips = false;

@@ -59,7 +59,7 @@ struct MappedFilter
 {
     /// From the units of the filtered element.
     QTransform toPainter;
-    /// What "feImage" primitives show, by step and place among its primitives.
+    /// Contents of "feImage" primitives, by step and index of the primitive.
     std::map<std::pair<int, int>, MappedItems> images;
 };
 

@@ -120,7 +120,7 @@ const TextStyle &textStyleOf(const ComputedStyle &style);
 /// Whether two styles give an element of the same attributes the same outlines. A false answer may be too careful.
 bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b);
 
-/// What a child starts from: the inherited values of its parent and initial values for the rest.
+/// The initial style of a child: inherited values of its parent, and initial values for the rest.
 ComputedStyle inheritedStyle(const ComputedStyle &parent);
 
 /// Whether a style asks for lines along its text.

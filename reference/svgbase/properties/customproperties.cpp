@@ -101,7 +101,7 @@ const QString *CustomProperties::find(const QString &name) const
 
 void CustomProperties::insert(const QString &name, const QString &value)
 {
-    // What is shared is the parent's.
+    // A shared level belongs to the parent.
     if (!m_level || m_level->ref.loadRelaxed() > 1) {
         if (m_level && m_level->depth >= deepestLevel)
             return;

@@ -10,7 +10,7 @@
 
 namespace Svg {
 
-/// What of a mask's picture counts: what its own element says, or one of both (CSS Masking 1 §7.2).
+/// Channel of a mask's picture: as its own element says, or one of both (CSS Masking 1 §7.2).
 enum class MaskMode : quint8 { MatchSource, Alpha, Luminance };
 
 enum class Overflow : quint8 { Visible, Hidden };

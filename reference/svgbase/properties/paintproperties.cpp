@@ -230,7 +230,7 @@ struct PaintOrderCodec
     static QString print(const PaintOrder &order);
 };
 
-// What is not named follows in the usual order (SVG 2 §13.8).
+// Omitted parts follow in the default order (SVG 2 §13.8).
 std::optional<PaintOrder> PaintOrderCodec::read(QStringView text, const ComputedStyle &, const PropertyContext &)
 {
     PaintOrder order = initialStyle()->paintOrder;

@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// What a property's value may refer to.
+/// Context that a property's value may refer to.
 struct PropertyContext
 {
     const ComputedStyle &parent;

@@ -45,7 +45,7 @@ bool isFontStretch(const QString &word)
                           "expanded", "extra-expanded", "ultra-expanded"});
 }
 
-/// What a "font" says, as far as it is read.
+/// Words of a "font", as far as read.
 struct FontWords
 {
     QString style = QStringLiteral("normal");

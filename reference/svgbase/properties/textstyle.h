@@ -32,7 +32,7 @@ enum class WhiteSpace : quint8 { Unset, Collapse, Preserve };
 /// How capitals of a font stand for letters (CSS Fonts 4 §6.6).
 enum class SmallCaps : quint8 { None, OfSmallLetters, OfAllLetters };
 
-/// What is made of letters before they are set (CSS Text 3 §2.1).
+/// Transformation of letters before they are set (CSS Text 3 §2.1).
 enum class TextTransform : quint8 { None, Uppercase, Lowercase, Capitalize };
 
 /// Which way lines of text go (CSS Writing Modes 4 §3.2); `SidewaysLeft` goes up.

@@ -109,7 +109,7 @@ void MiterClipper::addCurve(const QPointF &c1, const QPointF &c2, const QPointF 
     add(segment);
 }
 
-// What a corner between dashes would have does not show.
+// A corner between dashes is invisible.
 bool MiterClipper::isInDash(double place) const
 {
     const double period = std::accumulate(m_dashes.begin(), m_dashes.end(), 0.0);

@@ -12,11 +12,11 @@ static_assert(subpixels == 1 << subpixelBits);
 
 } // namespace
 
-// What was written before was cleared when it was swept.
+// Sweeping has cleared all earlier contents.
 void Coverage::begin(const Band &band)
 {
     m_band = band;
-    // What ends in the last pixel goes on in one more.
+    // An edge that ends in the last pixel also writes to the next.
     m_columns = band.width + 2;
     m_words = (m_columns + wordBits - 1) / wordBits;
     const size_t cells = size_t(m_columns) * size_t(band.height);
@@ -87,7 +87,7 @@ void Coverage::addLine(QPoint upper, QPoint lower, int direction)
     }
 }
 
-// What addLine() does where `x` is the same in all rows.
+// Does the work of addLine() for the same `x` in all rows.
 void Coverage::addUpright(int x, int from, int to, int direction)
 {
     if (x >= m_band.width * subpixels)

@@ -18,7 +18,7 @@ struct FlatOutline
     Qt::FillRule fillRule = Qt::WindingFill;
 };
 
-/// What a shape covers, in the order in which it is painted.
+/// Areas of a shape, in painting order.
 struct FlatShape
 {
     FlatOutline fill;

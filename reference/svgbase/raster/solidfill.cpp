@@ -12,7 +12,7 @@ namespace Svg {
 namespace {
 
 constexpr uint wholeByte = 255;
-/// What a painter's opacity is counted in.
+/// Steps of a painter's opacity.
 constexpr int opacitySteps = 256;
 
 /// Each channel times `factor` / 255, rounded; all four at once, apart from each other in the larger number.
@@ -66,7 +66,7 @@ private:
         for (int i = 0; i < count; ++i)
             pixels[i] = color + scaled(pixels[i], below);
     }
-    // What is covered alike mostly lies on one colour, whose mixture is worked out once.
+    // Equally covered pixels mostly have one colour below, whose blend is computed once.
     static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
     {
         QRgb pixel = pixels[0];

@@ -15,7 +15,7 @@ struct PixelTarget
     QImage *picture = nullptr;
     /// The painter coordinates of its first pixel.
     QPoint origin;
-    /// What may be written, painter coordinates.
+    /// Writable area, painter coordinates.
     QRect window;
 };
 

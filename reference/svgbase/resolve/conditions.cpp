@@ -9,7 +9,7 @@ namespace Svg {
 
 namespace {
 
-/// What names of features begin with; versions of SVG have one each.
+/// Prefixes of names of features; each version of SVG has its own.
 const QLatin1String featureStarts[] = {
     QLatin1String("http://www.w3.org/TR/SVG11/feature#"),
     QLatin1String("http://www.w3.org/TR/SVG2/feature#"),

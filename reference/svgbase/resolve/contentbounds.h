@@ -7,7 +7,7 @@ namespace Svg {
 
 class Resolver;
 
-/// What measuring of content took, for a document as it is at a revision of its references.
+/// Cost of measuring content, for a document at a revision of its references.
 struct ContentMeasuring
 {
     quint32 revision = 0;
@@ -20,7 +20,7 @@ struct ContentMeasuring
 
 enum class ContentBox { Fill, Stroke };
 
-/// What is known of the content of an element once it was measured.
+/// Results of measuring the content of an element.
 struct MeasuredContent
 {
     /// In the units that the facts of the element are mapped to; null without geometry.

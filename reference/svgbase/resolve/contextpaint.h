@@ -17,7 +17,7 @@ QBrush unfadedBrush(const QBrush &brush, double opacity);
 /// A paint of an element as its markers, or what it uses, may be painted with it: the element's own, or that of its
 /// own context.
 ContextPaint handedDown(const Facts &facts, Paint::Kind kind, const QBrush &brush, int pattern);
-/// What a "use" hands down to what it uses: its own plain colours.
+/// The context paints of a "use" for its content: its own plain colours.
 std::shared_ptr<const PaintContext> useContext(const Facts &use);
 
 } // namespace Svg

@@ -9,7 +9,7 @@ namespace Svg {
 
 class SettledTree;
 
-/// What a walk over drawable nodes does at each of them.
+/// Visits each drawable node of a walk.
 struct DrawingVisitor
 {
     /// Called before a node's children; false leaves them out.
@@ -18,7 +18,7 @@ struct DrawingVisitor
     std::function<void(NodeIndex, const FactsPointer &)> leave;
 };
 
-/// What all walks of one drawing may take together.
+/// Budget of all walks of one drawing together.
 struct WalkBudget
 {
     /// Nodes that were visited through references.

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// What the region of a mask or a filter is measured by, user units.
+/// References of the region of a mask or a filter, user units.
 struct RegionContext
 {
     QRectF bounds;

@@ -30,7 +30,7 @@ struct Outline
     /// Elements that end an open subpath where it began; a stroke has caps there.
     QVector<int> openEnds;
     QBrush fill = Qt::NoBrush;
-    /// What the pen paints with; known even where the pen draws nothing, since document-wide styling may widen it.
+    /// Paint of the pen; set even if the pen draws nothing, since document-wide styling may widen it.
     QBrush strokePaint = Qt::NoBrush;
     QPen pen = Qt::NoPen;
     /// Patterns in the place of the brushes, which then only tell that there is something.
@@ -46,7 +46,7 @@ struct Outline
     bool smooth = true;
     /// Whether its stroke lies under its fill.
     bool strokeFirst = false;
-    /// What the lengths of its dashes are multiplied with; 0 for a solid line.
+    /// Scale of the lengths of dashes; 0 for a solid line.
     double dashScale = 1;
     /// A glyph's picture that is shown instead, within the path; user units. Null for all other outlines.
     std::shared_ptr<const PlacedPicture> picture;
@@ -64,7 +64,7 @@ struct ContextPaint
     QTransform toDocument;
 };
 
-/// What "context-fill" and "context-stroke" stand for.
+/// Values of "context-fill" and "context-stroke".
 struct PaintContext
 {
     ContextPaint fill;
@@ -78,7 +78,7 @@ struct UsedSize
     std::optional<double> height;
 };
 
-/// What only viewports, images and uses have.
+/// Facts of viewports, images and uses only.
 struct Fitting : QSharedData
 {
     /// How the box of an image's content, or a nested view box, is fitted into the units around it.
@@ -100,13 +100,13 @@ struct Facts : QSharedData
     /// Counts changes of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
     StylePointer style = initialStyle();
-    /// What an "image" shows; null for other elements.
+    /// Content of an "image"; null for other elements.
     std::shared_ptr<const ImageContent> image;
     /// Null for most elements; fitted() gives a default then.
     QSharedDataPointer<Fitting> fitting;
     /// Null outside of markers and used elements.
     std::shared_ptr<const PaintContext> context;
-    /// What percentages refer to, user units.
+    /// Reference of percentages, user units.
     QSizeF viewport;
     QTransform toDocument;
     /// Whether neither the element nor one above it has a "display" of none.

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// What lengths and numbers of primitives count: shares of the bounding box, or user units.
+/// Units of lengths and numbers of primitives: shares of the bounding box, or user units.
 struct PrimitiveUnits
 {
     bool ofBounds = false;

@@ -29,8 +29,8 @@ const GenericFamily genericFamilies[] = {
     {QLatin1String("emoji"), QFont::AnyStyle},
 };
 
-/// What the system gives for names of families, asked once for each name. It is asked for a few names only: looking
-/// for a replacement takes long.
+/// The system's fonts for names of families, looked up once per name. The number of lookups is limited: searching
+/// for a replacement is expensive.
 class KnownFamilies
 {
 public:
@@ -66,7 +66,7 @@ const GenericFamily *genericFamily(const FamilyName &name)
     return name.quoted || found == std::end(genericFamilies) ? nullptr : found;
 }
 
-/// What the system has for a name, and whether it is that family rather than a replacement.
+/// The system's font for a name, and whether it is that family or a replacement.
 struct SystemFamily
 {
     QString name;

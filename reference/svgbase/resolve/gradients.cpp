@@ -322,7 +322,7 @@ QBrush radialBrush(const GradientLengths &lengths, const GradientCache::Known &k
         return QBrush(known.last);
     const QPointF focus(lengths.valueOr(AttributeId::Fx, Axis::Horizontal, cx),
                         lengths.valueOr(AttributeId::Fy, Axis::Vertical, cy));
-    // What lies within the focal circle has the first colour.
+    // The area within the focal circle has the first colour.
     const double focalRadius = qMax(0.0, lengths.value(AttributeId::Fr, Axis::Diagonal, 0));
     return circlesBrush(known.radial, {focus, focalRadius}, {QPointF(cx, cy), r});
 }

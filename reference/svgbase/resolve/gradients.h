@@ -13,7 +13,7 @@
 
 namespace Svg {
 
-/// What a gradient is painted on.
+/// The element that a gradient paints.
 struct GradientTarget
 {
     /// Bounds of the painted geometry without its stroke, user units.

@@ -16,7 +16,7 @@ namespace Svg {
 
 namespace {
 
-/// What CSS gives content without a size of its own.
+/// CSS's default size of content without its own.
 constexpr QSizeF defaultSize(300, 150);
 constexpr int bytesPerKibibyte = 1024;
 

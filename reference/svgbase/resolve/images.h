@@ -12,12 +12,12 @@ namespace Svg {
 
 class Prototype;
 
-/// What an "image" element shows: a picture, not decoded yet, or another document. Never changes.
+/// Content of an "image" element: a picture, not decoded yet, or another document. Immutable.
 struct ImageContent
 {
     /// Own size, user units; judged from the header of a picture.
     QSizeF size;
-    /// What of the content is fitted into the element, in its own units.
+    /// Part of the content that is fitted into the element, in its own units.
     QRectF box;
     /// Of a document: the window that its percentages are of.
     QSizeF window;

@@ -5,8 +5,8 @@
 
 namespace Svg {
 
-/// What of an element's own lists is beyond a limit, so that whoever reads them leaves it out; that comes later, or
-/// never. Nothing for the elements whose readers tell it themselves.
+/// Items of an element's lists that exceed a limit; readers skip them. Empty for elements whose readers report that
+/// themselves.
 Problem leftOut(const Tree &tree, NodeIndex element);
 
 } // namespace Svg

@@ -22,7 +22,7 @@ QRectF mappedBounds(const Facts &facts, const QPainterPath &path)
     return facts.toDocument.map(path).boundingRect();
 }
 
-// What has no extent in one direction counts all the same, which a united rectangle would leave out.
+// Includes outlines without extent in one direction, which uniting rectangles would drop.
 QRectF mappedBounds(const QTransform &toDocument, const QVector<Outline> &outlines)
 {
     if (outlines.isEmpty())

@@ -8,7 +8,7 @@
 
 namespace Svg {
 
-/// What document-wide styling may put in the place of an element's own stroke.
+/// The stroke of an element, which document-wide styling may replace.
 struct Stroke
 {
     QBrush paint;
@@ -16,7 +16,7 @@ struct Stroke
     double width = 0;
     /// One of Qt's dash patterns, or none of them for the dashes of the style.
     std::optional<Qt::PenStyle> lineStyle;
-    /// What the dashes of the style are multiplied with; 0 for none.
+    /// Scale of the style's dashes; 0 for none.
     double dashScale = 1;
 };
 

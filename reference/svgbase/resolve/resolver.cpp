@@ -200,8 +200,8 @@ MeasuredContent Resolver::contentOf(NodeIndex index, const Facts &facts, Content
     return measuredContent(inner, m_tree, index, inner.resolve(index, around), box, m_measuring);
 }
 
-// What percentages and the origin of a transform refer to (CSS Transforms 1 §5): a bounding box of the element
-// where it asks for one, else the view.
+// Reference of percentages and of the origin of a transform (CSS Transforms 1 §5): a bounding box of the element if
+// requested, else the view.
 QRectF Resolver::transformBox(NodeIndex index, const Facts &facts, const LengthContext &context) const
 {
     const Node &node = m_tree.node(index);
@@ -327,7 +327,7 @@ void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
     facts->toDocument = facts->parent ? local * facts->parent->toDocument : local;
     if (isBounded(facts->toDocument))
         return;
-    // What is magnified beyond all bounds is collapsed to nothing.
+    // Content magnified beyond all bounds is collapsed to nothing.
     facts->toDocument = QTransform(0, 0, 0, 0, 0, 0);
     warn(node, {Message::TransformTooLarge,
                 QStringLiteral("What is magnified more than %1 times is left out.").arg(Limits::transformEntry)});

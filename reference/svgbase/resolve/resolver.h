@@ -20,7 +20,7 @@ struct KeptFacts
     bool style = false;
     /// Nothing that outlines depend on has changed, but perhaps the style.
     bool geometry = false;
-    /// What an "image" shows is the same.
+    /// The content of an "image" is unchanged.
     bool image = false;
 };
 
@@ -55,7 +55,7 @@ public:
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
     /// root.
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept = {}) const;
-    /// What "transform" says of an element, its origin applied.
+    /// The "transform" of an element, with its origin applied.
     QTransform ownTransform(NodeIndex index, const Facts &facts) const;
 
 private:

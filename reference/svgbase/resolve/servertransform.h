@@ -17,7 +17,7 @@ struct ServerTransform
     QString origin;
 };
 
-/// What the element itself says; `own` is the text of its "gradientTransform" or "patternTransform".
+/// The element's own transform; `own` is the text of its "gradientTransform" or "patternTransform".
 ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const QString &own);
 
 /// The transform in the units of the server; identity where its text breaks the grammar. Percentages, and the

@@ -7,8 +7,7 @@
 
 namespace Svg {
 
-/// What document-wide styling put in the place of a node's own paint. Nodes that were reached by the same calls
-/// share one.
+/// Document-wide styling that replaces a node's own paint. Nodes styled by the same calls share one.
 struct StyleOverride : QSharedData
 {
     std::optional<QColor> strokeColor;

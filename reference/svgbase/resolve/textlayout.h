@@ -22,7 +22,7 @@ struct TextRun
     std::shared_ptr<const PlacedPicture> picture = nullptr;
 };
 
-/// What a text element amounts to.
+/// Outlines of a text element.
 struct TextOutlines
 {
     /// Letters and the lines that decorate them, in painting order.
@@ -31,7 +31,7 @@ struct TextOutlines
     QRectF cells;
     /// Whether it depends on elements outside of the text.
     bool hasReferences = false;
-    /// What was left out because of a limit.
+    /// Parts left out because of a limit.
     Problem problem;
 };
 

@@ -11,14 +11,14 @@ namespace Svg {
 
 /// The view box that the root element's attributes give; null when they give none.
 QRectF rootViewBox(const Node &root);
-/// What percentages refer to directly below the root, user units.
+/// Reference of percentages directly below the root, user units.
 QSizeF rootViewport(const Node &root, const QSizeF &window);
 /// The size that the root gives itself; percentages are of the window.
 QSizeF rootSize(const Node &root, const QSizeF &window);
 /// The root's own transform, which moves what its view box was fitted into, as one of document units (SVG 2 §8.10).
 QTransform rootTransform(const Node &root, const QTransform &own, const QSizeF &window);
-/// What a window of that size shows of a document: its view box, else the area that its "width" and "height" give.
-/// Empty when nothing is to be shown.
+/// The area of a document shown in a window of that size: its view box, else the area of its "width" and "height".
+/// Empty if nothing is shown.
 QRectF shownArea(const Node &root, const QSizeF &window);
 
 /// Where a nested "svg" or a used "symbol" places its content.
@@ -31,8 +31,8 @@ struct Fit
     QRectF place;
 };
 
-/// What an element that makes a viewport of `box` is cut at, in the same units: the box, unless it may overflow, or
-/// the rectangle that "clip" gives (SVG 1.1 §14.3.3). Percentages are of `viewport`.
+/// Clip of an element with the viewport `box`, in the same units: the box, unless it may overflow, or the rectangle
+/// of "clip" (SVG 1.1 §14.3.3). Percentages refer to `viewport`.
 std::optional<QRectF> viewportCut(const ComputedStyle &style, const QRectF &box, const QSizeF &viewport);
 
 /// Where a "marker" or a "symbol" is put by its "refX" and "refY", units of its content (SVG 2 §5.5, §13.7.1).

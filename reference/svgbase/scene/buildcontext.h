@@ -12,7 +12,7 @@ namespace Svg {
 
 struct BuildContext;
 
-/// What content is built for.
+/// Purpose of built content.
 enum class ContentUse {
     Drawing,
     /// Only silhouettes count, of shapes, texts and direct references to them (CSS Masking 1 §6.3.1).

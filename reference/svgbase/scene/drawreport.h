@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// What a drawing left out because of limits: of every kind the first.
+/// Parts that a drawing left out because of limits: the first of every kind.
 class DrawReport
 {
 public:

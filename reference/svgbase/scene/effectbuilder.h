@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// What becomes of an element that has a clip path, a mask or the like.
+/// Effects of an element, such as a clip path or a mask.
 struct BuiltEffects
 {
     /// False when nothing of the element shows.

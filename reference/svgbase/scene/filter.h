@@ -12,7 +12,7 @@ struct FilterStep
 {
     std::optional<QRectF> region;
     QVector<FilterPrimitive> primitives;
-    /// What "feImage" primitives show, by place among the primitives.
+    /// Contents of "feImage" primitives, by index of the primitive.
     QHash<int, DisplayItems> images;
 };
 

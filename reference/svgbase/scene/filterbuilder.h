@@ -16,12 +16,12 @@ struct FilterTarget
     QTransform toDocument;
     /// Of the filtered element, whose "filter" it says.
     const ComputedStyle &style;
-    /// What paints it, where it is one shape.
+    /// Its paint, if it is a single shape.
     QBrush fillPaint = Qt::NoBrush;
     QBrush strokePaint = Qt::NoBrush;
 };
 
-/// What becomes of an element with a "filter" property.
+/// Result of building the filter of an element.
 struct BuiltFilter
 {
     /// False when the filter leaves nothing to see.

@@ -5,8 +5,8 @@
 
 namespace Svg {
 
-/// What a group's finished picture goes through before it is painted on what lies below: filter, region, clip path
-/// and mask, in this order, then the group's opacity and the blend mode.
+/// Effects on a group's finished picture before it is painted on its backdrop: filter, region, clip path and mask,
+/// in this order, then the group's opacity and the blend mode.
 struct LayerEffects
 {
     /// Null for none.

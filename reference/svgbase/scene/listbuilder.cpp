@@ -376,7 +376,7 @@ void ListBuilder::reportReferences()
 BuiltList ListBuilder::build()
 {
     walkDrawing(m_document, rootNode, visitor(), &m_context.budget);
-    // What blends does so with the drawing, never with what the drawing is painted on (Compositing 1 §3.3).
+    // Elements blend with the drawing, never with its backdrop (Compositing 1 §3.3).
     if (m_context.blends)
         wrapInLayer(m_context, rootNode, nullptr, &m_result.items);
     reportReferences();

@@ -24,7 +24,7 @@ struct MarkerForm
     FactsPointer own;
     /// The box that the content is fitted into.
     QRectF box;
-    /// What it is cut at, in the units of the box; none where it may overflow.
+    /// Its clip, in the units of the box; none if it may overflow.
     std::optional<QRectF> cut;
     /// From the content's units to those of the box, the reference point at the origin.
     QTransform contentToBox;

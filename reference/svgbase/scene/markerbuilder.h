@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// What the markers of an element take from it.
+/// Facts about an element that its markers need.
 struct MarkedElement
 {
     NodeIndex node = noNode;

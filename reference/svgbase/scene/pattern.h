@@ -7,7 +7,7 @@ namespace Svg {
 /// The content of a pattern's tile, and where tiles stand.
 struct Pattern
 {
-    /// What the tile was built from; the same gives the same tile.
+    /// The origin of the tile; equal origins give equal tiles.
     NodeIndex node = noNode;
     QRectF bounds;
     QSizeF viewport;

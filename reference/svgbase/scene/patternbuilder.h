@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// What a pattern is painted on.
+/// The element that a pattern paints.
 struct PatternTarget
 {
     /// Bounds of the painted geometry without its stroke, user units.

@@ -363,7 +363,7 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
     if (style)
         return style;
     style = StylePointer(new SharedStyle(applied(declarations, styled, {*parent, viewport}, notes)));
-    // What is wrong is to be told of every element.
+    // Errors must be reported for every element.
     if (!notes || (notes->rejected.isEmpty() && !notes->substitutesLeftOut))
         cache->insert(origin, style);
     return style;

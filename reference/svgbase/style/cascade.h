@@ -13,10 +13,10 @@ struct RejectedValue
     QString value;
 };
 
-/// What did not come out as its author meant it.
+/// Declarations without their intended effect.
 struct CascadeNotes
 {
-    /// What the element's own declarations say in vain.
+    /// Rejected declarations of the element itself.
     QVector<RejectedValue> rejected;
     /// Whether not all rules were looked at, since that would have taken too long.
     bool rulesLeftOut = false;

@@ -117,7 +117,7 @@ int lastOfAll(const QVector<SheetDeclaration> &declarations, bool important)
     return -1;
 }
 
-// What a value means depends on the element, but not whether it is one.
+// The meaning of a value depends on the element, but not its validity.
 bool isAccepted(const RuleDeclaration &declaration)
 {
     const bool custom = declaration.property == AttributeId::CustomProperty;

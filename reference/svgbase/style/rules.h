@@ -18,7 +18,7 @@ struct RuleDeclaration
     bool important = false;
 };
 
-/// What a rule gives, with the rank of its layer.
+/// Declarations of a rule, with the rank of its layer.
 struct RuleBlock
 {
     QVector<RuleDeclaration> declarations;
@@ -45,8 +45,8 @@ public:
     /// gets what could not be read.
     static StyleRulesPointer compile(const Tree &tree, Messages *messages = nullptr);
 
-    /// What the rules give an element, in falling order of layers and specificity; false when not all of it was
-    /// looked at, since that would have taken too long.
+    /// Collects the matching rules of an element, in falling order of layers and specificity; false if the search
+    /// was cut short, since it would have taken too long.
     bool match(const Tree &tree, NodeIndex element, QVector<const RuleBlock *> *matches) const;
     /// In the order of the style sheets.
     const QVector<FontFaceRule> &fontFaces() const { return m_fontFaces; }

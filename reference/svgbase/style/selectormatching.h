@@ -25,7 +25,7 @@ private:
     int m_elementCount = 0;
 };
 
-/// What a selector asks of the names of elements above, each as a number for `AncestorNames`.
+/// Names of ancestors that a selector requires, each as a number for `AncestorNames`.
 QVector<uint> ancestorNames(const Selector &selector);
 
 /// Holds selectors against elements. Every step is counted, and once there are none left nothing matches any more.
@@ -72,7 +72,7 @@ private:
 
     const Tree &m_tree;
     int m_stepsLeft;
-    /// What the ":has()" at hand is asked of.
+    /// The element tested by the present ":has()".
     NodeIndex m_anchor = noNode;
 };
 

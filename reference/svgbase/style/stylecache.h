@@ -8,11 +8,11 @@
 
 namespace Svg {
 
-/// What the style of an element follows from.
+/// Everything that determines the style of an element.
 struct StyleOrigin
 {
     StylePointer parent;
-    /// What percentages refer to, user units.
+    /// Reference of percentages, user units.
     QSizeF viewport;
     /// Lines that decorate text are for what is below anything else.
     bool isText = false;

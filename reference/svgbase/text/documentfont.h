@@ -17,11 +17,11 @@ enum class ArabicForm : quint8 { Any, Isolated, Initial, Medial, Terminal };
 struct FontGlyph
 {
     NodeIndex node = noNode;
-    /// What it stands for; empty for a glyph that only its name reaches.
+    /// Characters that it represents; empty for a glyph that is reached only by its name.
     QString characters;
     /// Language tags that it is for, in small letters; empty for one that is for all.
     QStringList languages;
-    /// What pairs of kerning know it by.
+    /// Keys of its kerning pairs.
     QVector<int> kerningKeys;
     /// Path data, or what the shapes inside of it amount to; y points up.
     QString data;
@@ -61,7 +61,7 @@ public:
     FontMeasures measures(double size) const;
     /// The first glyph that the place allows; null when there is none.
     const FontGlyph *find(const GlyphPlace &place) const;
-    /// What stands for characters without glyph; null when the font has none.
+    /// The glyph for characters without one; null if the font has none.
     const FontGlyph *missing() const { return m_missing.node == noNode ? nullptr : &m_missing; }
     /// The glyph that an element describes; null when it is none of this font.
     const FontGlyph *glyphOf(NodeIndex node) const;

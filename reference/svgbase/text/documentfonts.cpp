@@ -15,7 +15,7 @@ namespace Svg {
 
 namespace {
 
-// What weighs more than any difference of weights.
+// Outweighs any difference of weights.
 constexpr int wrongSlope = 10000;
 constexpr int wrongVariant = 100000;
 
@@ -58,7 +58,7 @@ bool asksFor(const QStringList &words, std::initializer_list<const char *> wante
     return words.isEmpty() || std::any_of(words.begin(), words.end(), isWanted);
 }
 
-// What a "url()" in a list of sources refers to, quoted or not; empty for anything else.
+// The reference of a "url()" in a list of sources, quoted or not; empty for anything else.
 QString urlIn(QStringView source)
 {
     constexpr int nameLength = 4;

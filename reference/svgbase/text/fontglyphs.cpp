@@ -23,7 +23,7 @@ LevelGlyphs::LevelGlyphs(const TextContent &content, const TextLevel &level, con
                 .arg(Limits::kerningPairs)};
 }
 
-// What no font that is asked for has shows the sign for that, if there is one (SVG 1.1 §20.5).
+// Characters missing in all requested fonts show the missing glyph, if there is one (SVG 1.1 §20.5).
 const FontGlyph *LevelGlyphs::find(int at, int end) const
 {
     if (!m_level.substitutes.isEmpty())

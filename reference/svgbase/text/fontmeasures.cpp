@@ -62,7 +62,7 @@ FontMeasures fontMeasures(const QRawFont &font, double size)
     const QByteArray os2 = font.fontTable("OS/2");
     const QByteArray post = font.fontTable("post");
     FontMeasures measures;
-    // What the font class gives is rounded to pixels.
+    // The font class rounds to pixels.
     measures.ascent = tableValue(hhea, ascenderOffset, unit, font.ascent() * scale);
     measures.descent = tableValue(hhea, descenderOffset, unit, -font.descent() * scale);
     measures.xHeight = font.xHeight() * scale;

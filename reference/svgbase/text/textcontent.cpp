@@ -284,8 +284,7 @@ TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)
             close();
         visit(at);
         const TextLevel &level = m_content.levels.at(m_open.constLast());
-        // What is not displayed takes no room, and what is no part of a text has none.
-        // Nor does a reference to characters show its own.
+        // Only displayed parts of a text take space. A reference to characters doesn't show its own.
         const bool skipped = !level.style.displayed || level.kind == ElementKind::Tref ||
                              (level.node != at && m_tree.node(at).firstChild != noNode);
         at = skipped ? m_tree.followingBeside(at, text) : m_tree.following(at, text);

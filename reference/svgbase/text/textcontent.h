@@ -18,7 +18,7 @@ struct TextLevel
     ElementKind kind = ElementKind::Text;
     /// With the size that "font-size-adjust" makes of the font's.
     ComputedStyle style;
-    /// What "em" stands for, user units.
+    /// Length of "em", user units.
     double emSize = 0;
     bool preservesSpace = false;
     /// The innermost `textPath` that holds it, as a place in the list of levels; -1 without one.
@@ -49,7 +49,7 @@ struct TextCharacter
     double rotate = 0;
 };
 
-/// What there is to set of a text element, white space settled.
+/// Characters of a text element to set, with white space processed.
 struct TextContent
 {
     QString text;

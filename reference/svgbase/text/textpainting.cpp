@@ -15,7 +15,7 @@ namespace {
 /// How far two ends may be apart that count as one, user units.
 constexpr double sameEnd = 1e-6;
 
-/// What all characters of a level have in common.
+/// Measures shared by all characters of a level.
 struct LevelMeasures
 {
     FontMeasures font;

@@ -60,7 +60,7 @@ private:
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
     QHash<int, std::shared_ptr<TextWay>> m_ways;
-    /// What absolute positions add to everything that follows.
+    /// Added by absolute positions to everything that follows.
     QPointF m_offset;
     /// The `textPath` of the chunk before, as a level.
     int m_pathBefore = -1;

@@ -15,7 +15,7 @@ namespace Svg {
 /// An element's own transform, with percentages of the given view.
 using OwnTransform = std::function<QTransform(NodeIndex node, const QSizeF &viewport)>;
 
-/// What setting a text needs besides the text.
+/// Services needed to set a text.
 struct TextServices
 {
     GlyphOutlines *glyphs;
