@@ -3,8 +3,8 @@
 #include "grammarinput.h"
 
 #include "grammar/datauris.h"
-#include "inputlimits.h"
-#include "resolve/images.h"
+#include "grammar/inputlimits.h"
+#include "images/images.h"
 
 #include <QtGui/QGuiApplication>
 

@@ -2,9 +2,9 @@
 
 #include "grammarinput.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/viewboxes.h"
-#include "inputlimits.h"
 
 #include <QtCore/QtMath>
 

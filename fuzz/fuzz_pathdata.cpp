@@ -2,10 +2,10 @@
 
 #include "grammarinput.h"
 
+#include "geometry/markervertices.h"
+#include "grammar/inputlimits.h"
 #include "grammar/pathdata.h"
 #include "grammar/points.h"
-#include "inputlimits.h"
-#include "resolve/markervertices.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {

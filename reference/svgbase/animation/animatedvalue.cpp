@@ -2,8 +2,8 @@
 
 #include "animation/pathvalue.h"
 #include "grammar/colors.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <cmath>
 #include <numeric>

@@ -1,6 +1,6 @@
 #include "animation/effect.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

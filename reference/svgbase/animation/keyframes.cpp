@@ -1,7 +1,7 @@
 #include "animation/keyframes.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <algorithm>
 #include <cmath>

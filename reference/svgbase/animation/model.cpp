@@ -1,8 +1,8 @@
 #include "animation/model.h"
 
 #include "animation/basevalue.h"
+#include "grammar/inputlimits.h"
 #include "grammar/paints.h"
-#include "inputlimits.h"
 #include "properties/property.h"
 #include "style/cascade.h"
 

@@ -1,10 +1,10 @@
 #include "animation/motion.h"
 
+#include "geometry/shapegeometry.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
 #include "grammar/pathdata.h"
-#include "inputlimits.h"
-#include "resolve/geometry.h"
 
 namespace Svg {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "animation/effect.h"
+#include "geometry/pathmeasure.h"
 #include "resolve/facts.h"
-#include "resolve/pathmeasure.h"
 #include "tree/tree.h"
 
 namespace Svg {

@@ -1,7 +1,7 @@
 #include "animation/pathvalue.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <QtCore/QPointF>
 

@@ -1,6 +1,6 @@
 #include "animation/timeline.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtCore/QHash>
 

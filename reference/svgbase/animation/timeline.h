@@ -1,7 +1,7 @@
 #pragma once
 
 #include "animation/timing.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <set>
 #include <utility>

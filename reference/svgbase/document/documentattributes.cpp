@@ -2,9 +2,9 @@
 
 #include "document/document.h"
 
+#include "geometry/shapegeometry.h"
 #include "grammar/numbers.h"
 #include "grammar/styleattribute.h"
-#include "resolve/geometry.h"
 #include "style/rules.h"
 
 namespace Svg {

@@ -2,7 +2,7 @@
 
 #include "document/document.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

@@ -1,6 +1,6 @@
 #include "document/presentation.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "resolve/viewports.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "document/prototypecache.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtCore/QCache>
 

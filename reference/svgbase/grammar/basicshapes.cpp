@@ -1,9 +1,9 @@
 #include "grammar/basicshapes.h"
 
 #include "grammar/csstransforms.h"
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/pathdata.h"
-#include "inputlimits.h"
 
 #include <QtCore/QStringList>
 

@@ -1,6 +1,6 @@
 #include "grammar/cascadelayers.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtCore/QStringList>
 

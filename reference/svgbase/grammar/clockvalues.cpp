@@ -1,7 +1,7 @@
 #include "grammar/clockvalues.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <QtCore/QtMath>
 

@@ -2,8 +2,8 @@
 
 #include "grammar/angles.h"
 #include "grammar/colors.h"
+#include "grammar/inputlimits.h"
 #include "grammar/paints.h"
-#include "inputlimits.h"
 
 namespace Svg {
 

@@ -1,6 +1,6 @@
 #include "grammar/fontfamilies.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

@@ -1,8 +1,8 @@
 #include "grammar/lengths.h"
 
 #include "grammar/calculations.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <QtCore/QtMath>
 

@@ -1,8 +1,8 @@
 #include "grammar/pathdata.h"
 
 #include "grammar/arcs.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 #include <QtCore/QByteArray>
 

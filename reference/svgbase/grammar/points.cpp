@@ -1,7 +1,7 @@
 #include "grammar/points.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 
 namespace Svg {
 

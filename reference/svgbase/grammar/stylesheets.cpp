@@ -2,8 +2,8 @@
 
 #include "grammar/conditionalrules.h"
 #include "grammar/csstext.h"
+#include "grammar/inputlimits.h"
 #include "grammar/mediaqueries.h"
-#include "inputlimits.h"
 
 namespace Svg {
 

@@ -1,6 +1,6 @@
 #include "paint/displaylist.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/itemmapping.h"
 #include "paint/itempainter.h"
 #include "paint/listdifference.h"

@@ -1,6 +1,6 @@
 #include "paint/displaylistcache.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtCore/QCache>
 

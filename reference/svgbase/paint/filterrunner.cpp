@@ -5,8 +5,8 @@
 #include "filters/lighting.h"
 #include "filters/pixelfilters.h"
 #include "filters/turbulence.h"
+#include "grammar/inputlimits.h"
 #include "grammar/linearlight.h"
-#include "inputlimits.h"
 #include "paint/compositionmodes.h"
 #include "raster/blending.h"
 

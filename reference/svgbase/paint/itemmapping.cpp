@@ -1,6 +1,6 @@
 #include "paint/itemmapping.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/filterreach.h"
 #include "paint/paintingwork.h"
 #include "raster/clippedmiters.h"

@@ -1,6 +1,6 @@
 #include "paint/itempainter.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/compositionmodes.h"
 #include "paint/damage.h"
 #include "paint/filtercanvas.h"

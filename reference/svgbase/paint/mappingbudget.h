@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtGui/QTransform>
 

@@ -1,6 +1,6 @@
 #include "paint/patterntiles.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/itempainter.h"
 
 #include <QtCore/QtMath>

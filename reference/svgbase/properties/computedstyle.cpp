@@ -1,6 +1,6 @@
 #include "properties/computedstyle.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

@@ -3,8 +3,8 @@
 #include "grammar/angles.h"
 #include "grammar/colors.h"
 #include "grammar/fontfamilies.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 #include "properties/propertyrows.h"
 
 #include <cmath>

@@ -2,8 +2,8 @@
 
 #include "grammar/colors.h"
 #include "grammar/csstext.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 #include "properties/linecodecs.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "resolve/contentbounds.h"
 
-#include "inputlimits.h"
-#include "resolve/conditions.h"
-#include "resolve/openends.h"
+#include "geometry/openends.h"
+#include "grammar/inputlimits.h"
 #include "resolve/resolver.h"
+#include "tree/conditions.h"
 #include "tree/references.h"
 
 #include <QtGui/QPainterPathStroker>

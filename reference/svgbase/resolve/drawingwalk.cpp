@@ -1,9 +1,9 @@
 #include "resolve/drawingwalk.h"
 
-#include "inputlimits.h"
-#include "resolve/conditions.h"
+#include "grammar/inputlimits.h"
 #include "resolve/resolver.h"
 #include "resolve/settledtree.h"
+#include "tree/conditions.h"
 #include "tree/references.h"
 
 namespace Svg {

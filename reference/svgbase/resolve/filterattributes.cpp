@@ -1,8 +1,8 @@
 #include "resolve/filterattributes.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 #include "properties/effectproperties.h"
 #include "properties/keywords.h"
 #include "resolve/filterfunctions.h"

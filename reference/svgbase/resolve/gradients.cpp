@@ -1,9 +1,9 @@
 #include "resolve/gradients.h"
 
 #include "grammar/colors.h"
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/linearlight.h"
-#include "inputlimits.h"
 #include "style/cascade.h"
 #include "tree/references.h"
 

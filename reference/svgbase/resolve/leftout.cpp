@@ -1,9 +1,9 @@
 #include "resolve/leftout.h"
 
+#include "geometry/shapegeometry.h"
 #include "grammar/fontfamilies.h"
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
-#include "resolve/geometry.h"
 #include "tree/references.h"
 
 namespace Svg {

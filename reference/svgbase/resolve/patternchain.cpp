@@ -1,7 +1,7 @@
 #include "resolve/patternchain.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/viewboxes.h"
-#include "inputlimits.h"
 #include "style/cascade.h"
 #include "tree/references.h"
 

@@ -1,6 +1,6 @@
 #include "resolve/pens.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

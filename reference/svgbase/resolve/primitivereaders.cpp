@@ -1,7 +1,7 @@
 #include "resolve/primitivereaders.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
-#include "inputlimits.h"
 #include "properties/keywords.h"
 
 #include <cmath>

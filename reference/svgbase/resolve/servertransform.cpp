@@ -1,8 +1,8 @@
 #include "resolve/servertransform.h"
 
+#include "geometry/shapegeometry.h"
 #include "grammar/csstransforms.h"
 #include "grammar/transforms.h"
-#include "resolve/geometry.h"
 #include "style/cascade.h"
 
 namespace Svg {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "resolve/images.h"
+#include "images/images.h"
 #include "resolve/resolver.h"
 #include "resolve/styleoverride.h"
 

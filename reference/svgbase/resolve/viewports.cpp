@@ -1,8 +1,8 @@
 #include "resolve/viewports.h"
 
+#include "geometry/shapegeometry.h"
 #include "grammar/cliprects.h"
 #include "grammar/viewboxes.h"
-#include "resolve/geometry.h"
 
 namespace Svg {
 

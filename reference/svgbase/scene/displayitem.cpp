@@ -1,6 +1,6 @@
 #include "scene/displayitem.h"
 
-#include "resolve/openends.h"
+#include "geometry/openends.h"
 
 namespace Svg {
 

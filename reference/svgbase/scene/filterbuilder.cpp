@@ -1,10 +1,10 @@
 #include "scene/filterbuilder.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
+#include "images/images.h"
 #include "resolve/effectregion.h"
 #include "resolve/filterattributes.h"
 #include "resolve/filterfunctions.h"
-#include "resolve/images.h"
 #include "resolve/resolver.h"
 #include "scene/imagebuilder.h"
 #include "scene/openreference.h"

@@ -1,7 +1,7 @@
 #include "scene/imagebuilder.h"
 
-#include "inputlimits.h"
-#include "resolve/images.h"
+#include "grammar/inputlimits.h"
+#include "images/images.h"
 #include "resolve/viewports.h"
 #include "scene/layerwrapping.h"
 

@@ -1,6 +1,6 @@
 #include "scene/listbuilder.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "resolve/contextpaint.h"
 #include "resolve/drawingwalk.h"
 #include "resolve/visiblebounds.h"

@@ -1,9 +1,9 @@
 #include "scene/markerbuilder.h"
 
+#include "geometry/markervertices.h"
+#include "geometry/shapegeometry.h"
 #include "grammar/angles.h"
 #include "grammar/viewboxes.h"
-#include "resolve/geometry.h"
-#include "resolve/markervertices.h"
 #include "resolve/viewports.h"
 #include "scene/layereffects.h"
 #include "scene/layerwrapping.h"

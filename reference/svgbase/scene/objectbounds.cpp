@@ -1,6 +1,6 @@
 #include "scene/objectbounds.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 namespace Svg {
 

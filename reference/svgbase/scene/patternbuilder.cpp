@@ -1,7 +1,7 @@
 #include "scene/patternbuilder.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/viewboxes.h"
-#include "inputlimits.h"
 #include "resolve/patternchain.h"
 #include "scene/openreference.h"
 

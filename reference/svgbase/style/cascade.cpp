@@ -1,8 +1,8 @@
 #include "style/cascade.h"
 
 #include "grammar/csstext.h"
+#include "grammar/inputlimits.h"
 #include "grammar/styleattribute.h"
-#include "inputlimits.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"
 #include "style/rules.h"

@@ -1,7 +1,7 @@
 #include "style/rules.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/mediaqueries.h"
-#include "inputlimits.h"
 #include "properties/property.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"

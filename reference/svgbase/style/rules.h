@@ -1,7 +1,7 @@
 #pragma once
 
+#include "grammar/inputlimits.h"
 #include "grammar/stylesheets.h"
-#include "inputlimits.h"
 #include "tree/message.h"
 #include "tree/tree.h"
 

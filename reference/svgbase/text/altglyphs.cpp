@@ -1,6 +1,6 @@
 #include "text/altglyphs.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/references.h"
 
 namespace Svg {

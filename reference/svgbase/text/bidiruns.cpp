@@ -1,8 +1,8 @@
 #include "text/bidiruns.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
-#include "resolve/fonts.h"
+#include "text/fonts.h"
 #include "text/textshaping.h"
 
 #include <QtGui/QGlyphRun>

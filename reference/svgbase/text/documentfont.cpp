@@ -1,10 +1,10 @@
 #include "text/documentfont.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
 #include "grammar/pathdata.h"
-#include "inputlimits.h"
-#include "resolve/fonts.h"
 #include "style/cascade.h"
+#include "text/fonts.h"
 #include "text/glyphshapes.h"
 
 namespace Svg {

@@ -3,10 +3,10 @@
 #include "grammar/csstext.h"
 #include "grammar/datauris.h"
 #include "grammar/fontfamilies.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
-#include "resolve/fonts.h"
 #include "style/rules.h"
+#include "text/fonts.h"
 #include "tree/references.h"
 
 #include <algorithm>

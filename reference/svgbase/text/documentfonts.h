@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
 #include "text/documentfont.h"
 

@@ -1,7 +1,7 @@
 #include "text/filefont.h"
 
-#include "inputlimits.h"
-#include "resolve/fonts.h"
+#include "grammar/inputlimits.h"
+#include "text/fonts.h"
 #include "text/fonttables.h"
 
 namespace Svg {

@@ -1,7 +1,7 @@
 #include "text/fontmeasures.h"
 
 #include "properties/computedstyle.h"
-#include "resolve/fonts.h"
+#include "text/fonts.h"
 #include "text/fonttables.h"
 
 #include <QtGui/QRawFont>

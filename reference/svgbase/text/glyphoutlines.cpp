@@ -1,6 +1,6 @@
 #include "text/glyphoutlines.h"
 
-#include "resolve/pathslack.h"
+#include "geometry/pathslack.h"
 
 namespace Svg {
 

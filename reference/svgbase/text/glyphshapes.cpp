@@ -1,8 +1,8 @@
 #include "text/glyphshapes.h"
 
+#include "geometry/shapegeometry.h"
+#include "grammar/inputlimits.h"
 #include "grammar/transforms.h"
-#include "inputlimits.h"
-#include "resolve/geometry.h"
 
 namespace Svg {
 

@@ -1,11 +1,11 @@
 #include "text/textcontent.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
-#include "resolve/conditions.h"
 #include "style/cascade.h"
 #include "text/altglyphs.h"
 #include "text/fontmeasures.h"
+#include "tree/conditions.h"
 #include "tree/references.h"
 
 namespace Svg {

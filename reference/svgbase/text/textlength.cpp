@@ -1,7 +1,7 @@
 #include "text/textlength.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
-#include "inputlimits.h"
 
 #include <algorithm>
 

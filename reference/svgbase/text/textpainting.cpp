@@ -1,6 +1,6 @@
 #include "text/textpainting.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
 #include "text/fontmeasures.h"
 #include "text/textlines.h"

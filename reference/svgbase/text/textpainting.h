@@ -1,6 +1,6 @@
 #pragma once
 
-#include "resolve/textlayout.h"
+#include "text/textlayout.h"
 #include "text/textplacing.h"
 
 namespace Svg {

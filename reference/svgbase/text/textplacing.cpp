@@ -1,6 +1,6 @@
 #include "text/textplacing.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
 #include "text/textlength.h"
 

@@ -1,11 +1,11 @@
 #include "text/textshaping.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
-#include "resolve/fonts.h"
 #include "text/arabicforms.h"
 #include "text/bidiruns.h"
 #include "text/fontglyphs.h"
+#include "text/fonts.h"
 
 #include <QtGui/QGlyphRun>
 #include <QtGui/QRawFont>

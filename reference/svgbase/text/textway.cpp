@@ -1,11 +1,11 @@
 #include "text/textway.h"
 
+#include "geometry/shapegeometry.h"
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
 #include "grammar/pathdata.h"
-#include "inputlimits.h"
-#include "resolve/geometry.h"
 #include "style/cascade.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "geometry/pathmeasure.h"
 #include "properties/computedstyle.h"
-#include "resolve/pathmeasure.h"
 #include "text/textservices.h"
 
 namespace Svg {

@@ -1,6 +1,6 @@
 #include "tree/message.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "tree/plainxml.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/treebuilder.h"
 
 #include <array>

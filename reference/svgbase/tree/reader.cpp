@@ -1,6 +1,6 @@
 #include "tree/reader.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/gunzip.h"
 #include "tree/plainxml.h"
 #include "tree/streamxml.h"

@@ -1,6 +1,6 @@
 #include "tree/streamxml.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/entitylines.h"
 #include "tree/tagscanner.h"
 #include "tree/treebuilder.h"

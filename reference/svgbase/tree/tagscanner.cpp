@@ -1,6 +1,6 @@
 #include "tree/tagscanner.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "tree/treebuilder.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/tagscanner.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "tree/message.h"
 #include "tree/tree.h"
 #include "tree/xmlevents.h"

@@ -1,5 +1,5 @@
-#include "inputlimits.h"
-#include "resolve/pathmeasure.h"
+#include "geometry/pathmeasure.h"
+#include "grammar/inputlimits.h"
 #include "svgbase/animation/animatedattributes.h"
 
 #include <QtMath>

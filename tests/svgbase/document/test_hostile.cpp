@@ -2,7 +2,7 @@
 // scripts/hostile_svg.py measures such documents.
 
 #include "grammar/csstext.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/paintbudget.h"
 #include "style/selectormatching.h"
 #include "svgbase/svgdrawing.h"

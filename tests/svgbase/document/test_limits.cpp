@@ -1,7 +1,7 @@
 // Every limit twice: what is just within it is drawn without a word, of what is just beyond it something is left
 // out with a message, and the rest is drawn.
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "svgbase/document/limitdocuments.h"
 #include "svgbase/svgdrawing.h"
 
@@ -423,7 +423,7 @@ void TestLimits::everyLimitIsDocumented()
 {
     const QMap<QString, Limit> documented = documentedLimits();
     const QMap<QString, QString> constants =
-        matches("/reference/svgbase/inputlimits.h", "constexpr \\w+ (\\w+) = ([^;]+);");
+        matches("/reference/svgbase/grammar/inputlimits.h", "constexpr \\w+ (\\w+) = ([^;]+);");
     QVERIFY(constants.size() > 50);
     QCOMPARE(documented.keys(), constants.keys());
     for (auto at = constants.begin(); at != constants.end(); ++at)

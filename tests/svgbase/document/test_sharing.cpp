@@ -1,7 +1,7 @@
 // Shared parts of elements take memory only once.
 
 #include "document/document.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "resolve/drawingwalk.h"
 #include "svgbase/svgdrawing.h"
 

@@ -1,4 +1,4 @@
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "svgbase/svgdrawing.h"
 
 #include <QtTest>

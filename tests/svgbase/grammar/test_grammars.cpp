@@ -1,5 +1,6 @@
 #include "grammar/colors.h"
 #include "grammar/fontfamilies.h"
+#include "grammar/inputlimits.h"
 #include "grammar/lengths.h"
 #include "grammar/numbers.h"
 #include "grammar/paints.h"
@@ -7,7 +8,6 @@
 #include "grammar/styleattribute.h"
 #include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
-#include "inputlimits.h"
 
 #include <QtTest>
 

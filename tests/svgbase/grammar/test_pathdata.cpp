@@ -1,6 +1,6 @@
 #include "grammar/arcs.h"
+#include "grammar/inputlimits.h"
 #include "grammar/pathdata.h"
-#include "inputlimits.h"
 
 #include <QtTest>
 

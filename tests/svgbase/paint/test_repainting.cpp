@@ -1,5 +1,5 @@
 #include "document/documentprivate.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "paint/displaylist.h"
 #include "svgbase/svgdrawing.h"
 

@@ -1,6 +1,6 @@
-#include "inputlimits.h"
-#include "resolve/fonts.h"
+#include "grammar/inputlimits.h"
 #include "svgbase/svgdrawing.h"
+#include "text/fonts.h"
 
 #include <QtGui/QFontDatabase>
 #include <QtGui/QFontMetricsF>

@@ -1,6 +1,6 @@
 // Plain XML is read by a reader of its own. Whatever it accepts, it reads as Qt's reader does.
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "svgbase/goldencases.h"
 #include "svgbase/tree/treereading.h"
 

@@ -1,4 +1,4 @@
-#include "resolve/openends.h"
+#include "geometry/openends.h"
 
 #include <cmath>
 

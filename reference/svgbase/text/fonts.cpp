@@ -1,6 +1,6 @@
-#include "resolve/fonts.h"
+#include "text/fonts.h"
 
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>

@@ -1,6 +1,6 @@
 #include "grammar/datauris.h"
-#include "inputlimits.h"
-#include "resolve/images.h"
+#include "grammar/inputlimits.h"
+#include "images/images.h"
 #include "svgbase/svgdrawing.h"
 
 #include <QtCore/QBuffer>

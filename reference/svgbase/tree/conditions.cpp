@@ -1,4 +1,4 @@
-#include "resolve/conditions.h"
+#include "tree/conditions.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QStringList>

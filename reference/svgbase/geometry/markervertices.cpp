@@ -1,7 +1,7 @@
-#include "resolve/markervertices.h"
+#include "geometry/markervertices.h"
 
+#include "geometry/shapegeometry.h"
 #include "grammar/points.h"
-#include "resolve/geometry.h"
 
 #include <QtCore/QtMath>
 

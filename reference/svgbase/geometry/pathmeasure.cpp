@@ -1,4 +1,4 @@
-#include "resolve/pathmeasure.h"
+#include "geometry/pathmeasure.h"
 
 #include <QtCore/QtMath>
 

@@ -1,4 +1,4 @@
-#include "resolve/pathslack.h"
+#include "geometry/pathslack.h"
 
 namespace Svg {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "geometry/shapegeometry.h"
 #include "grammar/viewboxes.h"
-#include "resolve/geometry.h"
 
 #include <QtCore/QByteArray>
 #include <QtGui/QImage>

@@ -1,8 +1,8 @@
-#include "resolve/geometry.h"
+#include "geometry/shapegeometry.h"
 
+#include "grammar/inputlimits.h"
 #include "grammar/pathdata.h"
 #include "grammar/points.h"
-#include "inputlimits.h"
 #include "style/cascade.h"
 
 namespace Svg {

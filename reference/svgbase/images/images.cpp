@@ -1,8 +1,8 @@
-#include "resolve/images.h"
+#include "images/images.h"
 
 #include "document/prototype.h"
 #include "grammar/datauris.h"
-#include "inputlimits.h"
+#include "grammar/inputlimits.h"
 #include "resolve/viewports.h"
 #include "tree/gunzip.h"
 

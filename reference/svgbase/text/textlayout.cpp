@@ -1,4 +1,4 @@
-#include "resolve/textlayout.h"
+#include "text/textlayout.h"
 
 #include "text/linebreaking.h"
 #include "text/textpainting.h"
