@@ -2,6 +2,7 @@
 
 #include "grammarinput.h"
 
+#include "document/documentreading.h"
 #include "grammar/datauris.h"
 #include "grammar/inputlimits.h"
 #include "images/images.h"
@@ -25,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     const std::optional<QByteArray> bytes = Svg::parseDataUri(text);
     require(!bytes || bytes->size() <= text.toUtf8().size(), "data is no longer than its text");
     Svg::Problem problem;
-    const Svg::ImagePointer image = Svg::readImage(text, &problem);
+    const Svg::ImagePointer image = Svg::readImage(text, Svg::documentReader(), &problem);
     require(image || !problem.text.isEmpty(), "what can't be shown has a reason");
     if (image && !image->document)
         require(image->size.width() * image->size.height() <= Svg::Limits::imagePixels, "an image is bounded");

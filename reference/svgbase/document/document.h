@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/documentreading.h"
 #include "document/prototype.h"
 #include "resolve/settledtree.h"
 
@@ -27,7 +28,7 @@ public:
     FactsPointer factsBelow(NodeIndex child, const FactsPointer &above) override;
     Resolver resolver() override
     {
-        return Resolver(m_tree, m_referenceRevision, &m_gradients, &m_fonts, &m_measuring);
+        return Resolver(m_tree, m_referenceRevision, {&m_gradients, &m_fonts, &m_measuring, documentReader()});
     }
     std::unique_ptr<SettledTree> imageDocument(const ImageContent &image, const QSizeF &window) const override;
 

@@ -1,5 +1,6 @@
 #include "document/prototype.h"
 
+#include "document/documentreading.h"
 #include "resolve/resolver.h"
 #include "resolve/viewports.h"
 #include "style/rules.h"
@@ -13,7 +14,7 @@ QVector<FactsPointer> resolveAll(const Tree &tree, Messages *messages, ContentMe
 {
     GradientCache gradients;
     DocumentFonts fonts;
-    const Resolver resolver(tree, 1, &gradients, &fonts, measuring, messages);
+    const Resolver resolver(tree, 1, {&gradients, &fonts, measuring, documentReader()}, messages);
     QVector<FactsPointer> facts(tree.size());
     for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
         const NodeIndex parent = tree.node(at).parent;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "geometry/shapegeometry.h"
-#include "grammar/viewboxes.h"
+#include "tree/message.h"
 
 #include <QtCore/QByteArray>
 #include <QtGui/QImage>
+#include <QtGui/QTransform>
 
 #include <memory>
 
@@ -30,6 +30,15 @@ struct ImageContent
 
 using ImagePointer = std::shared_ptr<const ImageContent>;
 
+/// Makes image content of the text of a document, which takes all that settles and draws documents.
+class DocumentReader
+{
+public:
+    virtual ~DocumentReader() = default;
+    /// Null for a text that is no document; `problem` then says why.
+    virtual ImagePointer read(const QByteArray &text, Problem *problem) const = 0;
+};
+
 /// A picture where it stands.
 struct PlacedPicture
 {
@@ -42,23 +51,8 @@ struct PlacedPicture
 ImagePointer readPicture(const QByteArray &bytes, Problem *problem);
 /// The content of a "data:" URI. Null for every other reference, which is never followed, and for what can't be
 /// shown; `problem` then says why.
-ImagePointer readImage(const QString &reference, Problem *problem);
+ImagePointer readImage(const QString &reference, const DocumentReader &documents, Problem *problem);
 /// The picture with its pixels; null for a damaged one. Lately decoded ones are kept for the whole process.
 QImage decodedPicture(const ImagePointer &content);
-
-/// Fits the content into a box; one without a size of its own is not scaled (SVG 2 §12.3).
-QTransform contentFit(const ImageContent &content, const QRectF &box, const AspectRatio &ratio);
-
-/// Where an "image" element shows its content.
-struct ImagePlacement
-{
-    /// The box of the element, user units; empty when nothing is shown.
-    QRectF box;
-    /// Maps the content's box into it.
-    QTransform fit;
-};
-
-/// Sizes that are absent or "auto" follow from the content (SVG 2 §7.8, §7.9).
-ImagePlacement imagePlacement(const Node &node, const LengthReader &lengths, const ImageContent *content);
 
 } // namespace Svg

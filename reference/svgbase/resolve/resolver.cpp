@@ -8,10 +8,10 @@
 #include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
 #include "grammar/transforms.h"
-#include "images/images.h"
 #include "properties/paintproperties.h"
 #include "resolve/contextpaint.h"
 #include "resolve/gradients.h"
+#include "resolve/imageplacement.h"
 #include "resolve/leftout.h"
 #include "resolve/outlinebounds.h"
 #include "resolve/patternchain.h"
@@ -176,19 +176,20 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
 
 bool Resolver::canMeasure() const
 {
-    if (m_measuring->revision != m_referenceRevision) {
-        m_measuring->revision = m_referenceRevision;
-        m_measuring->visits = 0;
+    if (m_services.measuring->revision != m_referenceRevision) {
+        m_services.measuring->revision = m_referenceRevision;
+        m_services.measuring->visits = 0;
     }
-    const bool can = m_measuringDepth < Limits::contentDepth && m_measuring->visits < Limits::contentVisits;
-    m_measuring->cut |= !can;
+    const bool can =
+        m_measuringDepth < Limits::contentDepth && m_services.measuring->visits < Limits::contentVisits;
+    m_services.measuring->cut |= !can;
     return can;
 }
 
 // In the units of the element, its own transform left out.
 MeasuredContent Resolver::contentOf(NodeIndex index, const Facts &facts, ContentBox box) const
 {
-    Resolver inner(m_tree, m_referenceRevision, m_gradients, m_fonts, m_measuring);
+    Resolver inner(m_tree, m_referenceRevision, m_services);
     inner.m_measured = index;
     inner.m_measuringDepth = m_measuringDepth + 1;
     FactsPointer around;
@@ -197,7 +198,7 @@ MeasuredContent Resolver::contentOf(NodeIndex index, const Facts &facts, Content
         around = FactsPointer(plain);
         plain->toDocument = QTransform();
     }
-    return measuredContent(inner, m_tree, index, inner.resolve(index, around), box, m_measuring);
+    return measuredContent(inner, m_tree, index, inner.resolve(index, around), box, m_services.measuring);
 }
 
 // Reference of percentages and of the origin of a transform (CSS Transforms 1 §5): a bounding box of the element if
@@ -234,7 +235,7 @@ void Resolver::resolveContext(NodeIndex index, Facts *facts) const
     const MeasuredContent content = contentOf(index, *facts, ContentBox::Fill);
     if (!content.takesContextPaint)
         return;
-    m_measuring->used = true;
+    m_services.measuring->used = true;
     Facts target = *facts;
     target.localBounds = content.bounds;
     target.toDocument = ownTransform(index, *facts) * (facts->parent ? facts->parent->toDocument : QTransform());
@@ -288,7 +289,7 @@ QTransform Resolver::transformInTree(NodeIndex index, const QSizeF &viewport) co
     around->style = StylePointer(new SharedStyle(styleInTree(m_tree, m_tree.node(index).parent)));
     around->viewport = facts->viewport = viewport;
     facts->style = StylePointer(new SharedStyle(styleInTree(m_tree, index)));
-    return Resolver(m_tree, m_referenceRevision, m_gradients, m_fonts, m_measuring).ownTransform(index, *facts);
+    return Resolver(m_tree, m_referenceRevision, m_services).ownTransform(index, *facts);
 }
 
 void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
@@ -298,7 +299,7 @@ void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
     const bool mayAsk = !facts->style->attributes.isEmpty() || node.attributes.contains(AttributeId::TransformBox);
     const TransformBox box = mayAsk ? transformBoxOf(node, *facts->style) : TransformBox::View;
     if (box == TransformBox::OfContent || box == TransformBox::OfStrokes) {
-        m_measuring->used = true;
+        m_services.measuring->used = true;
         facts->referenceRevision = m_referenceRevision;
     }
     QTransform local;
@@ -346,8 +347,8 @@ std::optional<QBrush> Resolver::servedBrush(NodeIndex server, double opacity, co
         return QBrush(Qt::transparent);
     }
     const GradientTarget target{facts.localBounds, facts.viewport, opacity};
-    const std::optional<QBrush> brush = gradientBrush(m_tree, server, target, m_gradients);
-    if (m_gradients->hasCutChain())
+    const std::optional<QBrush> brush = gradientBrush(m_tree, server, target, m_services.gradients);
+    if (m_services.gradients->hasCutChain())
         warn(m_tree.node(server), {Message::GradientChainTooLong,
                                    QStringLiteral("Gradients beyond %1 that refer to each other are left out.")
                                        .arg(Limits::gradientReferences)});
@@ -479,7 +480,7 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
         return transformInTree(shape, viewport);
     };
     const TextOutlines text =
-        layOutText(m_tree, index, *facts->style, facts->viewport, {&m_glyphs, m_fonts, transformOf});
+        layOutText(m_tree, index, *facts->style, facts->viewport, {&m_glyphs, m_services.fonts, transformOf});
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
@@ -493,13 +494,12 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
     facts->bounds = mappedBounds(facts->toDocument, facts->outlines);
 }
 
-// The same reference, however often, is read once.
-std::shared_ptr<const ImageContent> Resolver::image(const QString &reference, Problem *problem) const
+ImagePointer Resolver::image(const QString &reference, Problem *problem) const
 {
     const auto known = m_images.constFind(reference);
     if (known != m_images.constEnd())
         return *known;
-    const std::shared_ptr<const ImageContent> content = readImage(reference, problem);
+    const ImagePointer content = readImage(reference, m_services.documents, problem);
     if (content)
         m_images.insert(reference, content);
     return content;
@@ -532,16 +532,16 @@ FactsPointer Resolver::resolve(NodeIndex index, const FactsPointer &parent, cons
     facts->parent = parent;
     facts->viewport = parent ? parent->viewport : rootViewport(node, m_tree.window());
     resolveStyle(index, kept, facts);
-    const bool measuredBefore = std::exchange(m_measuring->cut, false);
+    const bool measuredBefore = std::exchange(m_services.measuring->cut, false);
     resolvePlace(index, facts);
     if (parent)
         facts->context = parent->context;
     if (node.kind == ElementKind::Use)
         resolveContext(index, facts);
-    if (m_measuring->cut)
+    if (m_services.measuring->cut)
         warn(node, {Message::TooManyBoundsVisits,
                     QStringLiteral("Boxes for transforms and paints take too long to measure; others are used.")});
-    m_measuring->cut |= measuredBefore;
+    m_services.measuring->cut |= measuredBefore;
     if (m_messages)
         warn(node, leftOut(m_tree, index));
     if (node.kind == ElementKind::Text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "images/images.h"
 #include "resolve/contentbounds.h"
 #include "resolve/facts.h"
 #include "resolve/gradients.h"
@@ -33,23 +34,31 @@ struct DrawnPath
     bool isText = false;
 };
 
+/// Parts of a document that resolving uses beside its tree. Gradients and fonts are kept as long as the reference
+/// revision stays the same.
+struct ResolverServices
+{
+    GradientCache *gradients;
+    DocumentFonts *fonts;
+    /// Counts what is measured for boxes of content.
+    ContentMeasuring *measuring;
+    const DocumentReader &documents;
+};
+
 /// Turns elements into facts: style, units, references and geometry settled.
 class Resolver
 {
 public:
-    /// `gradients` and `fonts` keep what is known of them as long as the reference revision stays; `messages`, when
-    /// given, gets what could not be understood, and `measuring` counts what is measured for boxes of content.
-    Resolver(const Tree &tree, quint32 referenceRevision, GradientCache *gradients, DocumentFonts *fonts,
-             ContentMeasuring *measuring, Messages *messages = nullptr)
+    /// `messages`, when given, gets what could not be understood.
+    Resolver(const Tree &tree, quint32 referenceRevision, const ResolverServices &services,
+             Messages *messages = nullptr)
         : m_tree(tree)
         , m_referenceRevision(referenceRevision)
-        , m_gradients(gradients)
-        , m_fonts(fonts)
-        , m_measuring(measuring)
+        , m_services(services)
         , m_messages(messages)
     {
-        m_gradients->setRevision(referenceRevision);
-        m_fonts->setRevision(referenceRevision);
+        m_services.gradients->setRevision(referenceRevision);
+        m_services.fonts->setRevision(referenceRevision);
     }
 
     /// The facts of an element that stands under (or is used under) one with the given facts; null facts for the
@@ -57,6 +66,8 @@ public:
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept = {}) const;
     /// The "transform" of an element, with its origin applied.
     QTransform ownTransform(NodeIndex index, const Facts &facts) const;
+    /// The content that a reference of an element shows; the same reference, however often, is read once.
+    ImagePointer image(const QString &reference, Problem *problem) const;
 
 private:
     StyleCache *styles() const;
@@ -68,7 +79,6 @@ private:
     QRectF transformBox(NodeIndex index, const Facts &facts, const LengthContext &context) const;
     void resolveContext(NodeIndex index, Facts *facts) const;
     void resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
-    std::shared_ptr<const ImageContent> image(const QString &reference, Problem *problem) const;
     void resolveImage(NodeIndex index, const KeptFacts &kept, Facts *facts) const;
     bool keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts &facts) const;
     void keepGeometry(const Node &node, const Facts &kept, Facts *facts) const;
@@ -83,9 +93,7 @@ private:
 
     const Tree &m_tree;
     quint32 m_referenceRevision;
-    GradientCache *m_gradients;
-    DocumentFonts *m_fonts;
-    ContentMeasuring *m_measuring;
+    ResolverServices m_services;
     Messages *m_messages;
     /// The element whose content is measured, which is done without its own transform.
     NodeIndex m_measured = noNode;
@@ -93,7 +101,7 @@ private:
     int m_measuringDepth = 0;
     mutable GlyphOutlines m_glyphs;
     mutable std::unique_ptr<StyleCache> m_styles;
-    mutable QHash<QString, std::shared_ptr<const ImageContent>> m_images;
+    mutable QHash<QString, ImagePointer> m_images;
 };
 
 } // namespace Svg

@@ -1,10 +1,10 @@
 #include "scene/filterbuilder.h"
 
 #include "grammar/inputlimits.h"
-#include "images/images.h"
 #include "resolve/effectregion.h"
 #include "resolve/filterattributes.h"
 #include "resolve/filterfunctions.h"
+#include "resolve/imageplacement.h"
 #include "resolve/resolver.h"
 #include "scene/imagebuilder.h"
 #include "scene/openreference.h"
@@ -53,8 +53,8 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     const Attributes &attributes = element(node).attributes;
     const bool plain = attributes.contains(AttributeId::Href);
     Problem problem;
-    const ImagePointer read =
-        readImage(attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
+    const ImagePointer read = m_context.document.resolver().image(
+        attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
     m_context.filterImages.insert(node, read);
     return read;
 }

@@ -3,7 +3,6 @@
 #include "grammar/inputlimits.h"
 #include "properties/computedstyle.h"
 #include "text/fonts.h"
-#include "text/textshaping.h"
 
 #include <QtGui/QGlyphRun>
 #include <QtGui/QTextLayout>

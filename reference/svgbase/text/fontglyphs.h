@@ -1,6 +1,8 @@
 #pragma once
 
-#include "text/textshaping.h"
+#include "text/textcluster.h"
+#include "text/textcontent.h"
+#include "text/textservices.h"
 
 namespace Svg {
 

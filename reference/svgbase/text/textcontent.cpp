@@ -308,4 +308,29 @@ TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &s
     return TextCollector(tree, viewport, fonts).collect(text, style);
 }
 
+uint codeOf(const QString &text, const TextCharacter &character)
+{
+    const QChar first = text.at(character.begin);
+    return character.length == 2 ? QChar::surrogateToUcs4(first, text.at(character.begin + 1)) : first.unicode();
+}
+
+bool canBePlaced(const QString &text, const TextCharacter &character)
+{
+    const uint code = codeOf(text, character);
+    switch (QChar::category(code)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Mark_Enclosing:
+    case QChar::Other_Format:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool isMoved(const TextCharacter &character)
+{
+    return character.dx != 0 || character.dy != 0;
+}
+
 } // namespace Svg

@@ -66,4 +66,10 @@ TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &s
 /// The heights of the font of a level.
 FontMeasures levelMeasures(const TextLevel &level);
 
+uint codeOf(const QString &text, const TextCharacter &character);
+/// Whether a character may be given a place; marks and joiners stay with what they follow.
+bool canBePlaced(const QString &text, const TextCharacter &character);
+/// Whether it is moved from where it would stand behind the one before.
+bool isMoved(const TextCharacter &character);
+
 } // namespace Svg

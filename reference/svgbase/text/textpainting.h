@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/textlayout.h"
+#include "text/textoutlines.h"
 #include "text/textplacing.h"
 
 namespace Svg {

@@ -383,31 +383,6 @@ QVector<TextCluster> rowClusters(const TextContent &content, const BidiRun &run,
 
 } // namespace
 
-uint codeOf(const QString &text, const TextCharacter &character)
-{
-    const QChar first = text.at(character.begin);
-    return character.length == 2 ? QChar::surrogateToUcs4(first, text.at(character.begin + 1)) : first.unicode();
-}
-
-bool canBePlaced(const QString &text, const TextCharacter &character)
-{
-    const uint code = codeOf(text, character);
-    switch (QChar::category(code)) {
-    case QChar::Mark_NonSpacing:
-    case QChar::Mark_SpacingCombining:
-    case QChar::Mark_Enclosing:
-    case QChar::Other_Format:
-        return false;
-    default:
-        return true;
-    }
-}
-
-bool isMoved(const TextCharacter &character)
-{
-    return character.dx != 0 || character.dy != 0;
-}
-
 QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
                                 const TextServices &services)
 {

@@ -1,3 +1,4 @@
+#include "document/documentreading.h"
 #include "grammar/datauris.h"
 #include "grammar/inputlimits.h"
 #include "images/images.h"
@@ -67,7 +68,7 @@ QByteArray claiming(int width, int height)
 QString problemOf(const QByteArray &bytes)
 {
     Problem problem;
-    readImage(base64Uri(bytes), &problem);
+    readImage(base64Uri(bytes), documentReader(), &problem);
     return problem.text;
 }
 
