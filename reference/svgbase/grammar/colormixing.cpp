@@ -1,6 +1,5 @@
 #include "grammar/colormixing.h"
 
-#include "grammar/colors.h"
 #include "grammar/colorspaces.h"
 #include "grammar/numbers.h"
 
@@ -179,7 +178,7 @@ std::optional<QColor> readInnerColor(Cursor &cursor, const ColorContext &context
     const QString text = QString::fromLatin1(begin, int(cursor.at - begin));
     if (text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0)
         return context.current.isValid() ? std::make_optional(context.current) : std::nullopt;
-    return parseColor(text, {context.current, context.depth + 1});
+    return context.parse(text, {context.current, context.depth + 1, context.parse});
 }
 
 std::optional<QColor> readColorMix(Cursor &cursor, const ColorContext &context)

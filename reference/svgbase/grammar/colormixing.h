@@ -2,6 +2,7 @@
 
 #include "grammar/cursor.h"
 
+#include <QtCore/QStringView>
 #include <QtGui/QColor>
 
 #include <optional>
@@ -14,6 +15,8 @@ struct ColorContext
     /// Value of "currentColor"; invalid if there is none.
     QColor current;
     int depth = 0;
+    /// Reads the colours inside of this one; parseColor() sets it.
+    std::optional<QColor> (*parse)(QStringView text, const ColorContext &context) = nullptr;
 };
 
 /// Reads a colour inside another and moves the cursor behind it. No value for other text, or at the nesting limit.

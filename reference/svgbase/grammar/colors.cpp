@@ -143,7 +143,9 @@ std::optional<QColor> parseColor(QStringView text, const ColorContext &context)
     afterName.takeWord();
     if (afterName.at == cursor.at)
         return std::nullopt;
-    return afterName.atEnd() ? namedColor(trimmed) : functionColor(cursor, context);
+    if (afterName.atEnd())
+        return namedColor(trimmed);
+    return functionColor(cursor, {context.current, context.depth, parseColor});
 }
 
 std::optional<double> parseOpacity(QStringView text)
