@@ -2,7 +2,7 @@
 #include <framework/cundoredo.h>
 #include <framework/cwbundocmd.h>
 #include <framework/ijsonutil.h>
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 #include <recordinghost/framework/recordingframework.h>
 #include <recordinghost/svgbase/recordingsvg.h>
 #include <svgbase/qzesvgtinydocument.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 #include <recordinghost/framework/recordingframework.h>
 #include <recordinghost/svgbase/recordingsvg.h>
 #include <support/testobject.h>

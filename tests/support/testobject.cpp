@@ -1,6 +1,6 @@
 #include <support/testobject.h>
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 namespace support {
 

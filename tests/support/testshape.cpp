@@ -1,6 +1,6 @@
 #include <support/testshape.h>
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 #include <svgbase/qzesvgtinydocument.h>
 
 namespace support {

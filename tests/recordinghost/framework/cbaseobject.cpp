@@ -2,7 +2,7 @@
 #include "rootrecord.h"
 
 #include <framework/cbaseobject.h>
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsSceneMouseEvent>

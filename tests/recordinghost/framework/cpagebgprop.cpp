@@ -1,6 +1,6 @@
 #include <framework/cpagebgprop.h>
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonObject>

@@ -1,7 +1,7 @@
 #include "recordingframework.h"
 #include "rootrecord.h"
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtCore/QDataStream>
 #include <QtGui/QPainter>

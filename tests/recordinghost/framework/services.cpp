@@ -6,7 +6,7 @@
 #include <framework/graphicsviewname.h>
 #include <framework/ijsonutil.h>
 #include <framework/ilocalize.h>
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtWidgets/QUndoStack>
 

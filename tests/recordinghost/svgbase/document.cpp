@@ -1,7 +1,7 @@
 #include "noderecord.h"
 #include "recordingsvg.h"
 
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QPainter>

@@ -1,4 +1,4 @@
-#include <recordinghost/calllog.h>
+#include <recordinghost/log/calllog.h>
 
 #include <QtCore/QMutex>
 
