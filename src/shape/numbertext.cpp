@@ -131,6 +131,11 @@ QVector<double> NumberText::parse(const QChar *&str)
     return numbers;
 }
 
+QString NumberText::write(double number)
+{
+    return QString::number(number, 'g', 6);
+}
+
 QString NumberText::write(const QVector<double> &numbers)
 {
     QString text;
@@ -138,7 +143,7 @@ QString NumberText::write(const QVector<double> &numbers)
         const double number = numbers[i];
         if (i > 0 && number > 0 && qAbs(number) >= sizeEpsilon)
             text += QLatin1Char(',');
-        text += QString::number(number, 'g', 6);
+        text += write(number);
     }
     return text;
 }

@@ -10,6 +10,9 @@ namespace NumberText {
 /// character that cannot start one. Empty for a null pointer.
 QVector<double> parse(const QChar *&str);
 
+/// Writes the number with six significant digits.
+QString write(double number);
+
 /// Writes the numbers with six significant digits. Only a positive number gets a separator before it: callers must
 /// not write 0 after another number.
 QString write(const QVector<double> &numbers);

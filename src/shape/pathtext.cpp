@@ -1,6 +1,7 @@
 #include "shape/pathtext.h"
 
 #include "shape/constants.h"
+#include "shape/numbertext.h"
 
 #include <algorithm>
 
@@ -10,16 +11,11 @@ namespace {
 constexpr int maxWidthCharacters = 19;
 constexpr int maxOtherCharacters = 29;
 
-QString numberText(double value)
-{
-    return QString::number(value, 'g', 6);
-}
-
 QString grownNumber(const QString &text, double delta)
 {
     const double value = text.toDouble();
     const bool pointsBack = value < 0 && qAbs(value) >= sizeEpsilon;
-    return numberText(pointsBack ? value - delta : value + delta);
+    return NumberText::write(pointsBack ? value - delta : value + delta);
 }
 
 bool isDigit(QChar c)
@@ -185,5 +181,5 @@ QString PathText::movedStart(const QString &path, double dx, double dy)
     const double x = path.mid(1, separator - 1).toDouble() + dx;
     const double y = path.mid(yStart, yEnd - yStart).toDouble() + dy;
     const QString between = y < 0 ? QString() : QStringLiteral(",");
-    return QLatin1Char('M') + numberText(x) + between + numberText(y) + path.mid(yEnd);
+    return QLatin1Char('M') + NumberText::write(x) + between + NumberText::write(y) + path.mid(yEnd);
 }

@@ -1,6 +1,7 @@
 // Drawing a document onto a painter.
 
 #include "document/documentprivate.h"
+#include "grammar/transforms.h"
 #include "grammar/viewboxes.h"
 #include "paint/displaylistcache.h"
 #include "resolve/viewports.h"
@@ -11,24 +12,15 @@ using namespace Svg;
 
 namespace {
 
-bool isFinite(const QTransform &t)
-{
-    return qIsFinite(t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy());
-}
-
 bool isDrawable(const QRectF &rect)
 {
     return !rect.isEmpty() && qIsFinite(rect.x() + rect.y() + rect.width() + rect.height());
 }
 
-// Stretches the box over the target and magnifies about the target's centre.
-QTransform stretchTransform(const QRectF &box, const QRectF &target, double scale)
+QRectF magnifiedAboutCentre(const QRectF &box, double scale)
 {
-    const double sx = target.width() / box.width() * scale;
-    const double sy = target.height() / box.height() * scale;
-    const QPointF from = box.center();
-    const QPointF to = target.center();
-    return QTransform(sx, 0, 0, sy, to.x() - from.x() * sx, to.y() - from.y() * sy);
+    const QSizeF size = box.size() * scale;
+    return QRectF(box.center() - QPointF(size.width(), size.height()) / 2, size);
 }
 
 } // namespace
@@ -60,7 +52,7 @@ void DocumentPrivate::draw(QPainter *painter, const QRectF &target, float scale,
     beforeDraw = false;
     if (!painter || !painter->isActive() || !isDrawable(target) || !isDrawable(box))
         return;
-    const QTransform stretch = stretchTransform(box, target, scale);
+    const QTransform stretch = boxMapping(box, magnifiedAboutCentre(target, scale));
     if (!(scale > 0) || !isFinite(stretch))
         return;
     painter->save();

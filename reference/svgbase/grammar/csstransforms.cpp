@@ -1,6 +1,7 @@
 #include "grammar/csstransforms.h"
 
 #include "grammar/numbers.h"
+#include "grammar/transforms.h"
 
 #include <QtCore/QStringList>
 #include <QtCore/QtMath>
@@ -151,11 +152,6 @@ std::optional<QTransform> matrixOf(const QString &name, Arguments &a)
     if (name == QLatin1String("skewy") && a.hasCount(1, 1))
         return skewed(0, a.angle(0));
     return std::nullopt;
-}
-
-bool isFinite(const QTransform &t)
-{
-    return qIsFinite(t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy());
 }
 
 enum class Side { None, Horizontal, Vertical, Centre };

@@ -63,13 +63,13 @@ std::optional<QTransform> matrixOf(const Function &f)
     return std::nullopt;
 }
 
-bool isFinite(const QTransform &t)
-{
-    const double sum = t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy();
-    return qIsFinite(sum);
-}
-
 } // namespace
+
+bool isFinite(const QTransform &transform)
+{
+    const QTransform &t = transform;
+    return qIsFinite(t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy());
+}
 
 std::optional<QTransform> parseTransform(QStringView text)
 {

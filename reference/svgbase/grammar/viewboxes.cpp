@@ -74,17 +74,25 @@ AspectRatio parseAspectRatio(QStringView text)
     return ratio;
 }
 
+QTransform boxMapping(const QRectF &box, const QRectF &target)
+{
+    const double sx = target.width() / box.width();
+    const double sy = target.height() / box.height();
+    return QTransform(sx, 0, 0, sy, target.x() - box.x() * sx, target.y() - box.y() * sy);
+}
+
 std::optional<QTransform> viewBoxTransform(const QRectF &viewBox, const QRectF &viewport, const AspectRatio &ratio)
 {
     if (viewBox.isEmpty() || viewport.isEmpty())
         return std::nullopt;
-    double sx = viewport.width() / viewBox.width();
-    double sy = viewport.height() / viewBox.height();
-    if (!ratio.stretch)
-        sx = sy = ratio.slice ? std::max(sx, sy) : std::min(sx, sy);
-    const double x = viewport.x() + (viewport.width() - sx * viewBox.width()) * ratio.alignX;
-    const double y = viewport.y() + (viewport.height() - sy * viewBox.height()) * ratio.alignY;
-    return QTransform(sx, 0, 0, sy, x - sx * viewBox.x(), y - sy * viewBox.y());
+    if (ratio.stretch)
+        return boxMapping(viewBox, viewport);
+    const double sx = viewport.width() / viewBox.width();
+    const double sy = viewport.height() / viewBox.height();
+    const double scale = ratio.slice ? std::max(sx, sy) : std::min(sx, sy);
+    const double x = viewport.x() + (viewport.width() - scale * viewBox.width()) * ratio.alignX;
+    const double y = viewport.y() + (viewport.height() - scale * viewBox.height()) * ratio.alignY;
+    return QTransform(scale, 0, 0, scale, x - scale * viewBox.x(), y - scale * viewBox.y());
 }
 
 } // namespace Svg

@@ -24,6 +24,8 @@ struct AspectRatio
 
 /// Invalid text gives the default, "xMidYMid meet".
 AspectRatio parseAspectRatio(QStringView text);
+/// Maps the corners of a box with an area to those of another.
+QTransform boxMapping(const QRectF &box, const QRectF &target);
 /// Maps the view box into the viewport; no value if either is empty.
 std::optional<QTransform> viewBoxTransform(const QRectF &viewBox, const QRectF &viewport, const AspectRatio &ratio);
 

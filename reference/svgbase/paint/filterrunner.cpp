@@ -7,6 +7,7 @@
 #include "filters/turbulence.h"
 #include "grammar/inputlimits.h"
 #include "grammar/linearlight.h"
+#include "grammar/viewboxes.h"
 #include "paint/compositionmodes.h"
 #include "raster/blending.h"
 
@@ -327,8 +328,7 @@ QImage StepRunner::tiled(const FilterPrimitive &primitive) const
     // Tiles follow each other as the region does, which may end between pixels.
     const QRectF exact = m_toPixels.mapRect(tile.region);
     if (m_toPixels.type() <= QTransform::TxScale && QRectF(m_source.picture.rect()).contains(exact))
-        brush.setTransform(QTransform::fromScale(exact.width() / rect.width(), exact.height() / rect.height()) *
-                           QTransform::fromTranslate(exact.x(), exact.y()));
+        brush.setTransform(boxMapping(QRectF(QPointF(), rect.size()), exact));
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(picture.rect(), brush);

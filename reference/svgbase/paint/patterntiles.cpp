@@ -1,6 +1,7 @@
 #include "paint/patterntiles.h"
 
 #include "grammar/inputlimits.h"
+#include "grammar/viewboxes.h"
 #include "paint/itempainter.h"
 
 #include <QtCore/QtMath>
@@ -78,9 +79,7 @@ QImage PatternTiles::picture(const Pattern &pattern, const QSize &size, const QT
 QBrush PatternTiles::brush(const Pattern &pattern, const QTransform &transform)
 {
     const QSize size = tileSize(pattern.tile, pattern.toTarget * transform);
-    const QTransform tileToPicture =
-        QTransform::fromTranslate(-pattern.tile.x(), -pattern.tile.y()) *
-        QTransform::fromScale(size.width() / pattern.tile.width(), size.height() / pattern.tile.height());
+    const QTransform tileToPicture = boxMapping(pattern.tile, QRectF(QPointF(), size));
     const QImage tile = picture(pattern, size, tileToPicture);
     if (tile.isNull())
         return Qt::NoBrush;
