@@ -3,7 +3,7 @@
 #include "animation/basevalue.h"
 #include "grammar/inputlimits.h"
 #include "grammar/paints.h"
-#include "properties/property.h"
+#include "properties/propertytable.h"
 #include "style/cascade.h"
 
 #include <QtCore/QHash>

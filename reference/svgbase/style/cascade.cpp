@@ -3,6 +3,7 @@
 #include "grammar/csstext.h"
 #include "grammar/inputlimits.h"
 #include "grammar/styleattribute.h"
+#include "properties/propertytable.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"
 #include "style/rules.h"

@@ -2,7 +2,7 @@
 
 #include "grammar/inputlimits.h"
 #include "grammar/mediaqueries.h"
-#include "properties/property.h"
+#include "properties/propertytable.h"
 #include "properties/settlingorder.h"
 #include "properties/shorthands.h"
 #include "style/selectormatching.h"

@@ -1,4 +1,4 @@
-#include "properties/property.h"
+#include "properties/propertytable.h"
 
 #include <QtTest/QtTest>
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "properties/property.h"
+
+namespace Svg {
+
+/// The row of a property; `isProperty(id)` holds.
+const Property &propertyOf(AttributeId id);
+
+/// Applies text to a style. A value that the property's grammar does not accept changes nothing and gives false.
+bool applyProperty(ComputedStyle &style, AttributeId property, QStringView text, const PropertyContext &context);
+
+} // namespace Svg
