@@ -9,15 +9,21 @@ import os
 import re
 import sys
 
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from include_graph import IncludeGraph, included_names  # noqa: E402
+
 LONGEST_FILE = 700
 LONGEST_SHAPE = 40  # non-blank lines of C++ of one shape
 SHAPE_SOURCE = re.compile(r"^shapes/([^/]+)/[^/]+\.(h|cpp)$")
-SKIPPED_DIRECTORIES = {".git", ".cache", "build", "pages"}
+MOST_UNITS_OF_A_KNOT = 2  # headers with their source files that all depend on each other
+MOST_GOLDEN_FILES = 200  # of one folder
+SKIPPED_DIRECTORIES = {".git", ".cache", "build"}
+SKIPPED_AT_THE_ROOT = {"pages"}
 TEXT_SUFFIXES = (".h", ".cpp", ".py", ".sh", ".md", ".txt", ".cmake", ".svg", ".qrc", ".json", ".in", ".ui", ".html")
 EXTENSIONLESS_TEXT = {"run", "test"}
 QT_MODULES = {"QtCore", "QtGui", "QtWidgets"}
 STANDARD_HEADER = re.compile(r"^[a-z_0-9]+$|^[a-z]+\.h$|^(sys|linux)/[a-z_]+\.h$")
-INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 MACHINE_PATH = re.compile(r"(?<![\w./$}\-])/(work|root|home|tmp/bash_jobs|Users)/\w")
 
 
@@ -50,10 +56,64 @@ COMPONENTS = [
 ]
 
 
+# The folders of each part of the tree, lowest first, and the other folders of the part that each may include.
+ROOMS = {
+    "reference/svgbase": {
+        "grammar": "",
+        "tree": "grammar",
+        "images": "grammar tree",
+        "properties": "grammar tree",
+        "style": "grammar tree properties",
+        "geometry": "grammar tree properties style",
+        "text": "grammar tree images properties style geometry",
+        "filters": "grammar",
+        "raster": "grammar",
+        "resolve": "grammar tree images properties style geometry text filters",
+        "scene": "grammar tree images properties geometry resolve",
+        "paint": "grammar filters raster resolve scene",
+        "animation": "grammar tree properties style geometry resolve",
+        "document": "grammar tree images properties style geometry resolve scene paint animation",
+    },
+    "reference/framework": {
+        "include/pagehost": "",
+        "host": "include/pagehost",
+        "pages": "include/pagehost host",
+        "commands": "include/pagehost host",
+        "files": "include/pagehost host",
+        "lessons": "include/pagehost host files",
+        "plugins": "include/pagehost",
+        "painting": "include/pagehost",
+    },
+    "board": {
+        "look": "",
+        "output": "",
+        "objects": "look",
+        "page": "look",
+        "core": "look page",
+        "clipboard": "look output objects page core",
+        "documents": "look core",
+        "lessons": "look output page core",
+        "panels": "look objects page core",
+        "panels/editors": "look panels",
+        "panels/forms": "look core panels panels/editors",
+        "panels/settings": "core panels/editors panels/forms",
+        "panels/properties": "core panels/editors panels/forms panels/settings",
+        "window": "look output page core clipboard documents lessons panels panels/settings panels/properties",
+        "application": "look output objects page core documents lessons panels panels/settings panels/properties window",
+        "": "application",
+    },
+}
+
+# Folders that tests of a folder may stand for, and those below "tests" that stand for none.
+TESTED_ROOTS = ("", "src", "reference")
+UNMIRRORED_TESTS = ("support", "recordinghost", "package", "frozen", "svgbase/golden")
+
+
 def text_files(root):
     """Paths, relative to the root, of hand-written files."""
     for directory, folders, files in os.walk(root):
-        folders[:] = sorted(f for f in folders if f not in SKIPPED_DIRECTORIES and not f.startswith("build-"))
+        skipped = SKIPPED_DIRECTORIES | (SKIPPED_AT_THE_ROOT if os.path.samefile(directory, root) else set())
+        folders[:] = sorted(f for f in folders if f not in skipped and not f.startswith("build-"))
         for name in sorted(files):
             if name.endswith(TEXT_SUFFIXES) or name in EXTENSIONLESS_TEXT:
                 yield os.path.relpath(os.path.join(directory, name), root)
@@ -94,10 +154,9 @@ def include_breaches(root, path, lines):
     component = component_of(path)
     if component is None or not path.endswith((".h", ".cpp")):
         return
-    for number, line in enumerate(lines, 1):
-        match = INCLUDE.match(line)
-        if match and not may_include(component, root, path, match.group(2)):
-            yield f"{path}:{number}: may not include {match.group(2)}"
+    for number, name in included_names(lines):
+        if not may_include(component, root, path, name):
+            yield f"{path}:{number}: may not include {name}"
 
 
 def length_breaches(path, lines):
@@ -118,11 +177,60 @@ def path_breaches(path, lines):
             yield f"{path}:{number}: names a directory of one machine: {match.group(0)}"
 
 
+def room_of(part, folder):
+    """Name of a folder inside of a part of the tree; None for one outside of it."""
+    if folder != part and not folder.startswith(part + "/"):
+        return None
+    return folder[len(part) + 1 :]
+
+
+def room_breaches(graph):
+    for part, rooms in ROOMS.items():
+        for (source, target), place in sorted(graph.folders.items()):
+            room, other = room_of(part, source), room_of(part, target)
+            if room is None or other is None:
+                continue
+            if other not in rooms.get(room, "").split():
+                yield f"{place}: {source} may not include {target}"
+
+
+def circle_breaches(graph):
+    for one, other, place, back in graph.mutual_folders():
+        yield f"{one} and {other} include each other: {place} and {back}"
+    for knot in graph.knots(MOST_UNITS_OF_A_KNOT):
+        yield f"{len(knot)} units depend on each other: {' '.join(knot)}"
+
+
+def folders_below(root, start):
+    """Folders with files below one, relative to it."""
+    top = os.path.join(root, start)
+    for directory, folders, files in os.walk(top):
+        folders[:] = sorted(f for f in folders if f != "__pycache__")
+        if files and directory != top:
+            yield os.path.relpath(directory, top), files
+
+
+def mirror_breaches(root):
+    for folder, _ in folders_below(root, "tests"):
+        if any(folder == name or folder.startswith(name + "/") for name in UNMIRRORED_TESTS):
+            continue
+        if not any(os.path.isdir(os.path.join(root, base, folder)) for base in TESTED_ROOTS):
+            yield f"tests/{folder}: mirrors no folder of the sources"
+
+
+def golden_breaches(root):
+    for folder, files in folders_below(root, "tests/svgbase/golden"):
+        if len(files) > MOST_GOLDEN_FILES:
+            yield f"tests/svgbase/golden/{folder}: {len(files)} files, more than {MOST_GOLDEN_FILES}"
+
+
 def breaches(root):
     lines_of_shapes = {}
+    graph = IncludeGraph(root)
     for path in text_files(root):
         with open(os.path.join(root, path), encoding="utf-8", errors="replace") as file:
             lines = file.read().splitlines()
+        graph.add(path, lines)
         yield from include_breaches(root, path, lines)
         yield from length_breaches(path, lines)
         yield from path_breaches(path, lines)
@@ -131,6 +239,10 @@ def breaches(root):
             written = sum(1 for line in lines if line.strip())
             lines_of_shapes[shape.group(1)] = lines_of_shapes.get(shape.group(1), 0) + written
     yield from shape_breaches(lines_of_shapes)
+    yield from room_breaches(graph)
+    yield from circle_breaches(graph)
+    yield from mirror_breaches(root)
+    yield from golden_breaches(root)
 
 
 def main():

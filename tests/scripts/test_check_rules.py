@@ -103,6 +103,89 @@ class CheckRules(unittest.TestCase):
         self.tree.write("docs/notes.md", f"See {home}/notes.\n")
         self.assertEqual(len(self.tree.breaches()), 1)
 
+    def test_a_folder_below_may_be_included(self):
+        self.include("reference/svgbase/grammar/numbers.h", "<QtCore/QString>")
+        self.include("reference/svgbase/tree/reader.cpp", '"grammar/numbers.h"')
+        self.assertEqual(self.tree.breaches(), [])
+
+    def test_a_folder_above_may_not_be_included(self):
+        self.include("reference/svgbase/tree/reader.h", "<QtCore/QString>")
+        self.include("reference/svgbase/grammar/numbers.cpp", "<cmath>", '"tree/reader.h"')
+        self.assertEqual(
+            self.tree.breaches(),
+            ["reference/svgbase/grammar/numbers.cpp:2: reference/svgbase/grammar may not include reference/svgbase/tree"],
+        )
+
+    def test_a_folder_that_nobody_listed_may_include_no_other(self):
+        self.include("reference/framework/host/page.h", "<QtCore/QString>")
+        self.include("reference/framework/cellar/wine.cpp", '"host/page.h"')
+        self.assertEqual(
+            self.tree.breaches(),
+            [
+                "reference/framework/cellar/wine.cpp:1: reference/framework/cellar may not include "
+                "reference/framework/host"
+            ],
+        )
+
+    def test_folders_that_include_each_other_are_found(self):
+        self.include("src/shape/mapping.h", "<QtCore/QPointF>")
+        self.include("src/shape/travel.cpp", '"render/zoom.h"')
+        self.include("src/render/zoom.h", "<shape/mapping.h>")
+        self.assertEqual(
+            self.tree.breaches(),
+            ["src/render and src/shape include each other: src/render/zoom.h:1 and src/shape/travel.cpp:1"],
+        )
+
+    def test_two_files_that_depend_on_each_other_pass_and_three_do_not(self):
+        self.include("src/shape/a.cpp", '"shape/b.h"')
+        self.include("src/shape/a.h", "<QtCore/QString>")
+        self.include("src/shape/b.h", '"a.h"')
+        self.assertEqual(self.tree.breaches(), [])
+        self.include("src/shape/b.h", '"shape/c.h"')
+        self.include("src/shape/c.h", "<QtCore/QString>")
+        self.include("src/shape/c.cpp", '"shape/a.h"')
+        self.assertEqual(
+            self.tree.breaches(), ["3 units depend on each other: src/shape/a src/shape/b src/shape/c"]
+        )
+
+    def test_circles_of_other_files_are_told_apart(self):
+        for one, other in ("ab", "cd"):
+            self.include(f"src/shape/{one}.h", f'"shape/{other}.h"')
+            self.include(f"src/shape/{other}.h", "<QtCore/QString>")
+            self.include(f"src/shape/{other}.cpp", f'"shape/{one}.h"')
+        self.include("src/shape/b.cpp", '"shape/a.h"', '"shape/c.h"')
+        self.assertEqual(self.tree.breaches(), [])
+
+    def test_tests_mirror_the_sources(self):
+        for path in ("src/shape/mapping.cpp", "reference/svgbase/text/fonts.cpp", "kit/src/kind.cpp"):
+            self.include(path, "<QtCore/QString>")
+        for path in ("shape", "svgbase", "svgbase/text", "kit", "support", "package/consumer", "svgbase/golden/css"):
+            self.include(f"tests/{path}/test_it.cpp", "<QtCore/QString>")
+        self.assertEqual(self.tree.breaches(), [])
+
+    def test_tests_of_no_folder_are_found(self):
+        self.include("reference/svgbase/text/fonts.cpp", "<QtCore/QString>")
+        self.include("tests/svgbase/words/test_it.cpp", "<QtCore/QString>")
+        self.include("tests/outline/test_it.cpp", "<QtCore/QString>")
+        self.assertEqual(
+            self.tree.breaches(),
+            ["tests/outline: mirrors no folder of the sources", "tests/svgbase/words: mirrors no folder of the sources"],
+        )
+
+    def test_200_golden_files_in_a_folder_pass_and_201_do_not(self):
+        for number in range(200):
+            self.tree.write(f"tests/svgbase/golden/css/case-{number}.svg", "<svg/>")
+        self.assertEqual(self.tree.breaches(), [])
+        self.tree.write("tests/svgbase/golden/css/case-200.svg", "<svg/>")
+        self.assertEqual(self.tree.breaches(), ["tests/svgbase/golden/css: 201 files, more than 200"])
+
+    def test_exported_pages_are_left_out_and_folders_of_that_name_are_not(self):
+        self.tree.write("pages/page.md", "line\n" * 701)
+        self.tree.write("reference/framework/pages/notes.md", "line\n" * 701)
+        self.assertEqual(
+            self.tree.breaches(), ["reference/framework/pages/notes.md: 701 lines, more than 700"]
+        )
+
 
 if __name__ == "__main__":
     unittest.main()
