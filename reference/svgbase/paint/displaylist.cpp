@@ -155,6 +155,11 @@ void DisplayList::paint(QPainter *painter, bool withControlPoints)
         paintAll(painter, withControlPoints);
         break;
     case KeptPicture::PaintAndKeep:
+        if (isMostOfArea(damagedParts(withControlPoints))) {
+            paintWhole(painter, withControlPoints);
+            break;
+        }
+        m_picture.keepBelow(*target);
         paintAndKeep(painter, *target, withControlPoints);
         break;
     case KeptPicture::Repair:
@@ -162,6 +167,19 @@ void DisplayList::paint(QPainter *painter, bool withControlPoints)
         break;
     }
     m_damage = Damage();
+}
+
+bool DisplayList::isMostOfArea(const QVector<QRect> &parts) const
+{
+    return areaOf(parts) > mostRepaired * areaOf({m_picture.area()});
+}
+
+// A drawing that changes all over is likely to do so again: a picture of it would be copied in vain.
+void DisplayList::paintWhole(QPainter *painter, bool withControlPoints)
+{
+    m_picture.drop();
+    m_repainted = {m_picture.area()};
+    paintAll(painter, withControlPoints);
 }
 
 // A picture that was cut short for want of time or memory depends on what was painted before: it is not kept.
@@ -177,9 +195,13 @@ void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool wit
 
 void DisplayList::repair(QPainter *painter, QImage *target, bool withControlPoints)
 {
+    if (isMostOfArea(damagedParts(withControlPoints))) {
+        paintWhole(painter, withControlPoints);
+        return;
+    }
     m_damage.add(m_picture.changedBelow(*target));
     const QVector<QRect> parts = damagedParts(withControlPoints);
-    if (areaOf(parts) > mostRepaired * areaOf({m_picture.area()})) {
+    if (isMostOfArea(parts)) {
         paintAndKeep(painter, *target, withControlPoints);
         return;
     }

@@ -32,6 +32,8 @@ private:
     QRectF paintedBounds(bool withControlPoints) const;
     double paintAll(QPainter *painter, bool withControlPoints);
     void reportPainting(const PaintBudget &budget);
+    bool isMostOfArea(const QVector<QRect> &parts) const;
+    void paintWhole(QPainter *painter, bool withControlPoints);
     void paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints);
     void repair(QPainter *painter, QImage *target, bool withControlPoints);
     QVector<QRect> damagedParts(bool withControlPoints) const;

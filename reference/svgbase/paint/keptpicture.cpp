@@ -114,11 +114,18 @@ KeptPicture::Answer KeptPicture::prepare(const QImage &target, const QRect &reac
         restart(target, reach, withControlPoints);
         return Paint;
     }
-    if (!m_picture.isNull())
-        return Repair;
-    if (!isBlank(target, m_area))
-        m_below = target.copy(m_area);
-    return PaintAndKeep;
+    return m_picture.isNull() ? PaintAndKeep : Repair;
+}
+
+void KeptPicture::keepBelow(const QImage &target)
+{
+    m_below = isBlank(target, m_area) ? QImage() : target.copy(m_area);
+}
+
+void KeptPicture::drop()
+{
+    m_picture = QImage();
+    m_below = QImage();
 }
 
 QRect KeptPicture::changedBelow(const QImage &target)

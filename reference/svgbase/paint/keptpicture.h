@@ -17,7 +17,7 @@ public:
     enum Answer {
         /// Paint; the first time in this place nothing is kept, since most lists are painted once.
         Paint,
-        /// Paint all of it, then call keep().
+        /// Call keepBelow(), paint all of it, then call keep(); or just paint.
         PaintAndKeep,
         /// Ask for what changed, restore() the rest, paint what changed, and keep() that.
         Repair
@@ -25,6 +25,10 @@ public:
 
     /// Says what is to be done to have the list on `target`, where it reaches `reach` (pixels).
     Answer prepare(const QImage &target, const QRect &reach, bool withControlPoints);
+    /// Keeps what the drawing is going to be painted over.
+    void keepBelow(const QImage &target);
+    /// Forgets the pixels, but not their place: the next painting there may be kept.
+    void drop();
     /// The pixels that are kept.
     const QRect &area() const { return m_area; }
     /// The part of the target that is not as it was below the kept drawing; from now on the present pixels count.

@@ -9,6 +9,20 @@ namespace {
 
 constexpr int subpixelBits = 8;
 static_assert(subpixels == 1 << subpixelBits);
+/// Bits behind the point of slopes. Points are so near to the origin that products with a slope stay within 64
+/// bits.
+constexpr int fixedBits = 32;
+constexpr double fixedOne = double(qint64(1) << fixedBits);
+
+inline qint64 fixedQuotient(int dividend, int divisor)
+{
+    return qint64(dividend * fixedOne / divisor);
+}
+
+inline int wholeOf(qint64 fixed)
+{
+    return int((fixed + (qint64(1) << (fixedBits - 1))) >> fixedBits);
+}
 
 } // namespace
 
@@ -27,14 +41,25 @@ void Coverage::begin(const Band &band)
         m_written.resize(words);
 }
 
-// `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
-inline void Coverage::addCell(int row, int column, int height, int twiceInset)
+inline Coverage::Row Coverage::rowAt(int row)
 {
-    uint *cell = m_cells.data() + size_t(row) * size_t(m_columns) + column;
+    return {m_cells.data() + size_t(row) * size_t(m_columns), m_written.data() + size_t(row) * size_t(m_words)};
+}
+
+inline void Coverage::advance(Row *row) const
+{
+    row->cells += m_columns;
+    row->written += m_words;
+}
+
+// `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
+inline void Coverage::addCell(const Row &row, int column, int height, int twiceInset)
+{
+    uint *cell = row.cells + column;
     cell[0] += uint(height * (2 * subpixels - twiceInset));
     cell[1] += uint(height * twiceInset);
     const uint bit = uint(column) % wordBits;
-    quint64 *word = m_written.data() + size_t(row) * size_t(m_words) + uint(column) / wordBits;
+    quint64 *word = row.written + uint(column) / wordBits;
     word[0] |= quint64(3) << bit;
     if (bit == wordBits - 1)
         word[1] |= 1;
@@ -74,14 +99,15 @@ void Coverage::addLine(QPoint upper, QPoint lower, int direction)
         addUpright(upper.x(), y, end, direction);
         return;
     }
-    const double slope = double(lower.x() - upper.x()) / (lower.y() - upper.y());
-    const auto xAt = [&](int at) { return upper.x() + qRound((at - upper.y()) * slope); };
+    const qint64 slope = fixedQuotient(lower.x() - upper.x(), lower.y() - upper.y());
+    const auto xAt = [&](int at) { return upper.x() + wholeOf((at - upper.y()) * slope); };
+    Row row = rowAt(y >> subpixelBits);
     int x = xAt(y);
     while (y < end) {
-        const int row = y >> subpixelBits;
-        const int nextY = qMin((row + 1) * subpixels, end);
+        const int nextY = qMin((y | (subpixels - 1)) + 1, end);
         const int nextX = xAt(nextY);
         addInRow(row, qMin(x, nextX), qMax(x, nextX), (nextY - y) * direction);
+        advance(&row);
         y = nextY;
         x = nextX;
     }
@@ -94,16 +120,27 @@ void Coverage::addUpright(int x, int from, int to, int direction)
         return;
     const int column = qMax(x, 0) >> subpixelBits;
     const int twiceInset = x > 0 ? 2 * (x - column * subpixels) : 0;
+    Row row = rowAt(from >> subpixelBits);
     for (int y = from; y < to;) {
-        const int row = y >> subpixelBits;
-        const int nextY = qMin((row + 1) * subpixels, to);
+        const int nextY = qMin((y | (subpixels - 1)) + 1, to);
         addCell(row, column, (nextY - y) * direction, twiceInset);
+        advance(&row);
         y = nextY;
     }
 }
 
 // A part of a line from `left` to `right` that is `height` high; what is left of the band covers all of its pixels.
-void Coverage::addInRow(int row, int left, int right, int height)
+inline void Coverage::addInRow(const Row &row, int left, int right, int height)
+{
+    const int column = left >> subpixelBits;
+    if (left >= 0 && right <= (column + 1) * subpixels && right < m_band.width * subpixels)
+        addCell(row, column, height, left + right - 2 * column * subpixels);
+    else
+        addAcross(row, left, right, height);
+}
+
+// The same for a part that goes across several columns, or leaves the band.
+void Coverage::addAcross(const Row &row, int left, int right, int height)
 {
     const int width = m_band.width * subpixels;
     if (left >= width)
@@ -112,23 +149,22 @@ void Coverage::addInRow(int row, int left, int right, int height)
         addCell(row, 0, height, 0);
         return;
     }
-    int column = left >> subpixelBits;
-    if (right <= (column + 1) * subpixels) {
+    int column = qMax(left, 0) >> subpixelBits;
+    if (left >= 0 && right <= (column + 1) * subpixels) {
         addCell(row, column, height, left + right - 2 * column * subpixels);
         return;
     }
-    const double steepness = double(height) / (right - left);
+    const qint64 steepness = fixedQuotient(height, right - left);
     int passed = 0;
     int at = left;
     if (left < 0) {
-        passed = qRound(-left * steepness);
+        passed = wholeOf(-left * steepness);
         addCell(row, 0, passed, 0);
-        column = 0;
         at = 0;
     }
     while (at < right && at < width) {
         const int next = qMin((column + 1) * subpixels, right);
-        const int passedThen = next == right ? height : qRound((next - left) * steepness);
+        const int passedThen = next == right ? height : wholeOf((next - left) * steepness);
         addCell(row, column, passedThen - passed, at + next - 2 * column * subpixels);
         passed = passedThen;
         at = next;

@@ -34,14 +34,23 @@ private:
         int width;
         int height;
     };
+    /// The cells of a row, and the bits that tell which of them were written.
+    struct Row
+    {
+        uint *cells;
+        quint64 *written;
+    };
 
     void begin(const Band &band);
     void addLines(const FlatOutline &outline);
     void addPolygon(const QPoint *begin, const QPoint *end);
     void addLine(QPoint upper, QPoint lower, int direction);
     void addUpright(int x, int from, int to, int direction);
-    void addInRow(int row, int left, int right, int height);
-    void addCell(int row, int column, int height, int twiceInset);
+    void addInRow(const Row &row, int left, int right, int height);
+    void addAcross(const Row &row, int left, int right, int height);
+    static void addCell(const Row &row, int column, int height, int twiceInset);
+    Row rowAt(int row);
+    void advance(Row *row) const;
     template<typename Sink> void sweepRow(int row, Qt::FillRule rule, const Sink &sink);
     static int coverageOf(int sum, Qt::FillRule rule);
 

@@ -226,6 +226,7 @@ void TestPictures::keptDrawingIsCopiedAroundWhatIsRepainted()
     background.fill(QColor(0, 0, 200));
     kept.prepare(background, reach, false);
     QCOMPARE(kept.prepare(background, reach, false), Svg::KeptPicture::PaintAndKeep);
+    kept.keepBelow(background);
     QImage drawing = canvas();
     drawing.fill(QColor(0, 200, 0));
     kept.keep(drawing, kept.area());

@@ -26,6 +26,7 @@ private slots:
     void groupWithOpacityIsRepaintedWhole();
     void changeBelowIsRepainted();
     void largeChangeRepaintsEverything();
+    void drawingThatChangesAllOverIsNotKept();
     void changeOfPlaceRepaintsEverything();
     void clipPathAndMaskFollowAChangeOfSize();
     void sameStyleAgainChangesNothing();
@@ -68,6 +69,7 @@ public:
         return image;
     }
 
+    int weight() const { return m_list.weight(); }
     QImage painted(const QTransform &stretch)
     {
         QImage image = blank();
@@ -201,6 +203,22 @@ void TestRepainting::largeChangeRepaintsEverything()
     Drawing drawing("<rect id='a' x='5' y='5' width='90' height='90'/>");
     drawing.set("a", "fill", "green");
     QCOMPARE(drawing.repainted(), Rects{QRect(0, 0, 100, 100)});
+}
+
+// A picture takes 4 bytes for each of 100 × 100 pixels; the list itself takes far less than that.
+void TestRepainting::drawingThatChangesAllOverIsNotKept()
+{
+    constexpr int pictureBytes = 4 * side * side;
+    Drawing drawing("<rect id='a' x='5' y='5' width='90' height='90'/>");
+    QVERIFY(drawing.weight() > pictureBytes);
+    for (const char *color : {"green", "blue"}) {
+        drawing.set("a", "fill", color);
+        drawing.repainted();
+        QVERIFY(drawing.weight() < pictureBytes);
+    }
+    QCOMPARE(drawing.repainted(), Rects{QRect(0, 0, 100, 100)});
+    QVERIFY(drawing.weight() > pictureBytes);
+    QCOMPARE(drawing.repainted(), Rects());
 }
 
 void TestRepainting::changeOfPlaceRepaintsEverything()
