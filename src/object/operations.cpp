@@ -7,7 +7,10 @@
 
 namespace {
 
-constexpr int shapeOperations[] = {0, 1, 2, 10, 11, 20, 21, 22, 23, 24, 30, 31, 32, 36, 100, 200};
+constexpr OperationType shapeOperations[] = {
+    OperationSelect,   OperationMove, OperationResize,    OperationRotate,  OperationMirror, OperationDelete,
+    OperationCopy,     OperationCut,  OperationDuplicate, OperationReorder, OperationSetPen, OperationSetFill,
+    OperationSettings, OperationLock, OperationAnimate,   OperationRecord};
 
 } // namespace
 
