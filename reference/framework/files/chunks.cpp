@@ -1,8 +1,8 @@
 #include <files/chunks.h>
 
-#include <files/checksum.h>
-
 #include <QtCore/QtEndian>
+
+#include <zlib.h>
 
 #include <algorithm>
 #include <cstring>
@@ -19,6 +19,11 @@ constexpr int sumPlace = 8;
 constexpr int headerSumPlace = 12;
 
 constexpr const char *knownTags[] = {versionTag, lessonTag, membersTag, pageTag, objectTag, endTag};
+
+quint32 checksum(const char *bytes, qint64 size)
+{
+    return quint32(crc32_z(0, reinterpret_cast<const Bytef *>(bytes), z_size_t(size)));
+}
 
 void writeHeader(char *header, const char *tag, const char *payload, int size)
 {
