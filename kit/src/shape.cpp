@@ -23,6 +23,8 @@ constexpr double smallestStretchedSide = 16;
 constexpr double largestInsetShare = 0.25;
 /// No page is larger; shapes with a longer side aren't drawn.
 constexpr double largestSide = 1e6;
+/// Where no control point stands, document units.
+constexpr double awayFromAll = 2 * largestSide;
 constexpr quint32 controlPointCapacity = 32;
 /// Places are whole multiples of 1 / this, document units. Files, undo steps and recorded actions hold corners of
 /// control points; rounding restores the exact centre from a corner despite rounding errors.
@@ -45,6 +47,12 @@ bool isSide(double length)
 bool isNear(QPointF a, QPointF b, double distance)
 {
     return qAbs(a.x() - b.x()) < distance && qAbs(a.y() - b.y()) < distance;
+}
+
+/// To the last bit: the operators of QPointF forgive small differences.
+bool isSame(QPointF a, QPointF b)
+{
+    return a.x() == b.x() && a.y() == b.y();
 }
 
 QPointF rounded(QPointF point)
@@ -104,7 +112,9 @@ bool Shape::loadSVG(bool initGlobals)
 bool Shape::load(QDataStream &in)
 {
     const QScopedValueRollback<bool> loading(isBeingLoaded, true);
+    const QVector<QPointF> corners = moveControlPointsAway();
     const bool loaded = PropertiedShape::load(in);
+    bringControlPointsBack(corners);
     finishLoading();
     return loaded;
 }
@@ -112,9 +122,35 @@ bool Shape::load(QDataStream &in)
 bool Shape::loadJson(QJsonObject &object)
 {
     const QScopedValueRollback<bool> loading(isBeingLoaded, true);
+    const QVector<QPointF> corners = moveControlPointsAway();
     const bool loaded = PropertiedShape::loadJson(object);
+    bringControlPointsBack(corners);
     finishLoading();
     return loaded;
+}
+
+/// Lets every control point come from far away to the place that data have for it: the library leaves a point where
+/// it is that would move by less than a drag can tell, and what is saved next would not be what was opened. Raw
+/// points are written as they are read. Gives the corners of before.
+QVector<QPointF> Shape::moveControlPointsAway()
+{
+    QVector<QPointF> corners;
+    for (int i = 0; !rawControlPoints && i < pointCount(); ++i) {
+        corners.append(controlPoints[i] ? controlPoints[i]->boundingRect().topLeft() : QPointF());
+        if (controlPoints[i])
+            moveCorner(*controlPoints[i], {awayFromAll, awayFromAll});
+    }
+    return corners;
+}
+
+/// Puts points that the data have no place for back to where they stood.
+void Shape::bringControlPointsBack(const QVector<QPointF> &corners)
+{
+    for (int i = 0; i < corners.size(); ++i) {
+        QZeSvgNode *node = controlPoints[i];
+        if (node && node->boundingRect().topLeft() == QPointF(awayFromAll, awayFromAll))
+            moveCorner(*node, corners.at(i));
+    }
 }
 
 void Shape::finishLoading()
@@ -137,7 +173,11 @@ bool Shape::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
     if (node == activeControlPoint)
         m_dragged[index].noteDrag(dragStartPos, place);
     pointMoved(index + 1, rounded(m_dragged.value(index).meantCentre(place)));
-    placeControlPoints();
+    // While data are read, each node stands where they put it, or waits far away: finishLoading() places all.
+    if (isBeingLoaded)
+        settlePoints();
+    else
+        placeControlPoints();
     redraw(refresh);
     return true;
 }
@@ -178,7 +218,7 @@ void Shape::setPenWidth(int width, bool record)
     PropertiedShape::setPenWidth(width, record);
     for (int i = 0; i < before.size(); ++i) {
         const QRectF present = controlPoints[i] ? controlPoints[i]->boundingRect() : QRectF();
-        if (present.topLeft() != before.at(i).topLeft() && present.size() == before.at(i).size() &&
+        if (!isSame(present.topLeft(), before.at(i).topLeft()) && present.size() == before.at(i).size() &&
             isNear(present.center(), before.at(i).center(), roundingEpsilon))
             moveCorner(*controlPoints[i], before.at(i).topLeft());
     }

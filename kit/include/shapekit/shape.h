@@ -114,6 +114,8 @@ private:
     void takeMovedControlPoints();
     /// Positions all points, each within the limits that the others leave it.
     void settlePoints();
+    QVector<QPointF> moveControlPointsAway();
+    void bringControlPointsBack(const QVector<QPointF> &corners);
     void placeControlPoint(int index);
     void placeControlPoints();
     void redraw(bool refresh);

@@ -9,10 +9,8 @@ namespace pagehost {
 /// Has a new object that was just loaded from `state` come to save exactly that. False when it still saves
 /// something else.
 ///
-/// Two things may be in the way. Shapes take a fill that is there but shows nothing for a colour, so that the
-/// host's part is loaded once more. And they leave a control point where it is when it is to move by less than 1e-7
-/// units; one of a new object may stand that near to its place, so that all are moved away and the state is loaded
-/// again.
+/// Shapes take a fill that is there but shows nothing for a colour. So the part of the state that the host keeps is
+/// loaded once more, past the object's own load().
 bool loadExactly(CBaseObject &object, const QByteArray &state);
 
 } // namespace pagehost
