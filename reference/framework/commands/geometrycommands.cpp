@@ -5,7 +5,7 @@
 #include <framework/iframework.h>
 
 #include <commands/pagecommand.h>
-#include <host/rootobjectprivate.h>
+#include <host/geometry.h>
 #include <pagehost/page.h>
 
 #include <algorithm>

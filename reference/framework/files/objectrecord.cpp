@@ -10,7 +10,8 @@
 #include <files/chunks.h>
 #include <files/documentcodec.h>
 #include <files/placeholderobject.h>
-#include <host/rootobjectprivate.h>
+#include <host/hoststate.h>
+#include <host/objectreading.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
@@ -51,27 +52,6 @@ private:
 };
 
 namespace {
-
-/// Lets an object know its page while it is read.
-class ReadingScope
-{
-public:
-    ReadingScope(CBaseObject &object, IPsPage *page)
-        : m_object(object)
-    {
-        CPSRootObjectPrivate::of(m_object).isBeingRead = true;
-        m_object.SetPage(page);
-    }
-    ~ReadingScope()
-    {
-        m_object.SetPage(nullptr);
-        CPSRootObjectPrivate::of(m_object).isBeingRead = false;
-    }
-    Q_DISABLE_COPY(ReadingScope)
-
-private:
-    CBaseObject &m_object;
-};
 
 /// False when the object took more or less than the bytes that are its own, or found them to be no state of it.
 bool loadFromStream(CBaseObject *object, const QByteArray &data)
@@ -116,7 +96,7 @@ ObjectRecord headOf(CBaseObject *object)
     ObjectRecord record;
     record.kindId = kindIdOf(object);
     record.id = objectId(object);
-    record.zoom = CPSRootObjectPrivate::of(*object).followedZoom;
+    record.zoom = followedZoom(*object);
     return record;
 }
 
@@ -144,16 +124,13 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) cons
     if (!object || record.encoding > ObjectRecord::Json) {
         return nullptr;
     }
-    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*object);
-    const ReadingScope reading(*object, page);
-    host.refusedState = false;
+    const ObjectReading reading(*object, page);
     bool loaded = false;
     m_registry.run(record.kindId, QStringLiteral("load()"), [&] {
         loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
                                                          : loadFromJson(object.get(), record);
     });
-    // Objects may forget to say that their base class refused its part.
-    if (!loaded || host.refusedState || !holdsAll(object.get(), record)) {
+    if (!loaded || reading.wasRefused() || !holdsAll(object.get(), record)) {
         return nullptr;
     }
     showWholeFill(object.get());
@@ -173,9 +150,9 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
     if (record.encoding == ObjectRecord::Stream) {
         QDataStream in(record.data);
         in.setVersion(chunks::streamVersion);
-        size = CPSRootObjectPrivate::savedSize(in);
+        size = savedClientSize(in);
     } else {
-        size = CPSRootObjectPrivate::savedSize(record.json);
+        size = savedClientSize(record.json);
     }
     const double area = std::abs(size.width() * size.height());
     if (!(area <= largestArea) || m_area + area > mostArea) {

@@ -5,7 +5,7 @@
 
 #include <files/chunks.h>
 #include <files/documentcodec.h>
-#include <host/rootobjectprivate.h>
+#include <host/objectplace.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
@@ -58,7 +58,7 @@ void PlaceholderObject::takePlace()
         isKnown = CPSRootObject::loadJson(json);
     }
     if (!isKnown || !isWithinReach(mapRectToScene(clientRect))) {
-        CPSRootObjectPrivate::setClientRect(*this, QRectF(QPointF(), plainSize));
+        assignClientRect(*this, QRectF(QPointF(), plainSize));
         CPSRootObject::setPos(plainPos, false);
         CPSRootObject::setSize(plainSize, false, false);
     }

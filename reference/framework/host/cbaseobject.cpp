@@ -3,6 +3,7 @@
 #include <pagehost/pagescene.h>
 
 #include <host/gripdrag.h>
+#include <host/objectpage.h>
 #include <host/rootobjectprivate.h>
 
 #include <QtCore/QLineF>
@@ -69,12 +70,14 @@ CBaseObject::~CBaseObject() = default;
 
 QRectF CBaseObject::boundingRect() const
 {
-    return CPSRootObjectPrivate::currentBounds(const_cast<CBaseObject &>(*this));
+    auto &object = const_cast<CBaseObject &>(*this);
+    return CPSRootObjectPrivate::of(object).bounds.rectangle(object);
 }
 
 QPainterPath CBaseObject::shape() const
 {
-    const QPainterPath region = CPSRootObjectPrivate::currentRegion(const_cast<CBaseObject &>(*this));
+    auto &object = const_cast<CBaseObject &>(*this);
+    const QPainterPath region = CPSRootObjectPrivate::of(object).bounds.region(object);
     if (!region.isEmpty()) {
         return region;
     }
@@ -153,23 +156,24 @@ void CBaseObject::setSize(QSizeF size, bool flag, bool redraw)
 
 QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &value)
 {
-    pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this);
+    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*this);
+    pagehost::PageScene *scene = pageSceneOf(*this);
     switch (change) {
     case ItemPositionChange:
         if (!movesByWholePixels(*this, value.toPointF() - pos())) {
-            CPSRootObjectPrivate::dropPicture(*this);
+            host.dropPicture();
         }
         return QGraphicsTextItem::itemChange(change, value);
     case ItemSelectedHasChanged:
-        CPSRootObjectPrivate::dropPaintedArea(*this);
-        CPSRootObjectPrivate::dropPicture(*this);
+        host.dropPaintedArea();
+        host.dropPicture();
         break;
     case ItemPositionHasChanged:
     case ItemRotationHasChanged:
     case ItemVisibleHasChanged:
     case ItemZValueHasChanged:
     case ItemOpacityHasChanged:
-        CPSRootObjectPrivate::noteChange(*this);
+        noteChange(*this);
         break;
     default:
         return QGraphicsTextItem::itemChange(change, value);

@@ -1,7 +1,9 @@
 #include <framework/cbaseobject.h>
 
+#include <host/baseobject.h>
 #include <host/gripdrag.h>
 #include <host/handlelayout.h>
+#include <host/objectpage.h>
 #include <host/rootobjectprivate.h>
 
 #include <QtWidgets/QGraphicsScene>
@@ -34,12 +36,12 @@ bool CPSRootObject::isHandleDisabled(CObjAction::ACT_Def handle) const
 
 bool CPSRootObject::CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action)
 {
-    const CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
-    if (!item || !isOnlySelected(*item) || isLocked() || CPSRootObjectPrivate::isEditingBlocked(*this)) {
+    const CBaseObject *item = baseObject(*this);
+    if (!item || !isOnlySelected(*item) || isLocked() || isEditingBlocked(*this)) {
         return false;
     }
     const HandleLayout layout(clientRect, getCurZoomRate());
-    const CObjAction::ACT_Def hit = layout.hit(item->mapFromScene(scenePos), CPSRootObjectPrivate::handles(*this));
+    const CObjAction::ACT_Def hit = layout.hit(item->mapFromScene(scenePos), offeredHandles(*this));
     if (hit == CObjAction::ACT_None) {
         return false;
     }
@@ -56,7 +58,7 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     event->accept();
-    const bool blocked = CPSRootObjectPrivate::isEditingBlocked(*this);
+    const bool blocked = isEditingBlocked(*this);
     CObjAction::ACT_Def action = CObjAction::ACT_None;
     if (isSelected() && CheckHitTestHandlers(event->scenePos(), action)) {
         if (action != CObjAction::ACT_None) {
@@ -67,7 +69,7 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
     if (extendsSelection(*event)) {
         setSelected(!isSelected());
     } else if (!isSelected()) {
-        CPSRootObjectPrivate::selectAlone(*this);
+        selectAlone(*this);
     }
     if (isSelected() && !blocked) {
         host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, !extendsSelection(*event));

@@ -8,7 +8,9 @@
 #include <pagehost/pagescene.h>
 #include <pagehost/recorder.h>
 
+#include <host/baseobject.h>
 #include <host/gripdrag.h>
+#include <host/objectpage.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
 
@@ -16,16 +18,20 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsView>
 
-CPSRootObjectPrivate::CPSRootObjectPrivate() = default;
+CPSRootObjectPrivate::CPSRootObjectPrivate(CPSRootObject &object, IPsPage *objectPage, QGraphicsItem *graphicsItem)
+    : item(graphicsItem)
+    , page(objectPage)
+    , m_object(object)
+{
+}
+
 CPSRootObjectPrivate::~CPSRootObjectPrivate() = default;
 
 CPSRootObject::CPSRootObject(IPsPage *page, QGraphicsItem *item)
     : attributeIds({2001, 2002, 2003, 2004, 2010, 2011, 2012, 2013, 2014, 2015, 2050, 2051})
     , fillProp(new CPageBgProp(page))
-    , d(std::make_unique<CPSRootObjectPrivate>())
+    , d(std::make_unique<CPSRootObjectPrivate>(*this, page, item))
 {
-    d->page = page;
-    d->item = item;
     d->followedZoom = CPSRootObject::getCurZoomRate();
 }
 
@@ -111,8 +117,8 @@ bool CPSRootObject::isVisible() const
 void CPSRootObject::setLocked(bool locked)
 {
     d->locked = locked;
-    CPSRootObjectPrivate::noteInvisibleChange(*this);
-    if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
+    noteInvisibleChange(*this);
+    if (pagehost::PageScene *scene = pageSceneOf(*this)) {
         scene->updateOverlay();
     }
 }
@@ -133,30 +139,30 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
     update();
-    const bool isNextPicture = id == AppearanceChanged && CPSRootObjectPrivate::isNextPicture(*this);
+    const bool isNextPicture = id == AppearanceChanged && d->played.isNextPicture(*baseObject(*this));
     if (!isNextPicture && (id == SizeChanged || id == AppearanceChanged)) {
-        CPSRootObjectPrivate::dropRegion(*this);
+        d->dropRegion();
     }
-    pagehost::Page *page = CPSRootObjectPrivate::pageOf(*this);
+    pagehost::Page *page = pageOf(*this);
     if (!page) {
         return;
     }
     if (!isNextPicture) {
-        CPSRootObjectPrivate::noteChange(*this);
+        noteChange(*this);
     }
-    Q_EMIT page->objectPropertyChanged(CPSRootObjectPrivate::baseObject(*this), id, value);
+    Q_EMIT page->objectPropertyChanged(baseObject(*this), id, value);
 }
 
 void CPSRootObject::onCreateFinished(bool)
 {
-    CPSRootObjectPrivate::noteChange(*this);
+    noteChange(*this);
 }
 
 void CPSRootObject::updateAfterObjRectChanged(QGraphicsItem *, bool redraw)
 {
-    CPSRootObjectPrivate::dropRegion(*this);
-    CPSRootObjectPrivate::noteChange(*this);
-    if (pagehost::PageScene *scene = CPSRootObjectPrivate::pageScene(*this)) {
+    d->dropRegion();
+    noteChange(*this);
+    if (pagehost::PageScene *scene = pageSceneOf(*this)) {
         scene->updateOverlay();
     }
     if (redraw) {
@@ -176,8 +182,8 @@ void CPSRootObject::SetPage(IPsPage *page)
 
 void CPSRootObject::regenRegionShape(QGraphicsItem *)
 {
-    d->regionIsStale = false;
-    CPSRootObjectPrivate::refreshBounds(*this);
+    d->bounds.takeRegion();
+    d->refreshBounds();
 }
 
 void CPSRootObject::update()
@@ -185,13 +191,13 @@ void CPSRootObject::update()
     if (!d->item) {
         return;
     }
-    CPSRootObjectPrivate::dropPicture(*this);
+    d->dropPicture();
     d->item->update();
 }
 
 double CPSRootObject::getCurZoomRate() const
 {
-    const IDocument *document = CPSRootObjectPrivate::documentOf(*this);
+    const IDocument *document = documentOf(*this);
     return document ? document->zoomRate() : 1;
 }
 
@@ -209,7 +215,7 @@ void CPSRootObject::setMyPenColor(QColor color, bool notify)
 {
     myPen.setColor(color);
     update();
-    CPSRootObjectPrivate::noteChange(*this);
+    noteChange(*this);
     if (!notify) {
         return;
     }
@@ -221,7 +227,7 @@ void CPSRootObject::setMyPenColor(QColor color, bool notify)
 void CPSRootObject::setSubType(int subType)
 {
     d->subType = subType;
-    CPSRootObjectPrivate::noteInvisibleChange(*this);
+    noteInvisibleChange(*this);
 }
 
 int CPSRootObject::getSubType() const

@@ -5,7 +5,9 @@
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
 
+#include <host/geometry.h>
 #include <host/handlelayout.h>
+#include <host/objectpage.h>
 #include <host/rootobjectprivate.h>
 
 #include <QtWidgets/QGraphicsScene>
@@ -79,6 +81,16 @@ GripDrag::GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraph
         const bool isResize = HandleLayout::isResize(action);
         m_before.append({&object, isResize ? GeometrySnapshot::WithContent : GeometrySnapshot::PlaceOnly});
     }
+}
+
+GripDrag *GripDrag::running(CBaseObject &object)
+{
+    return CPSRootObjectPrivate::of(object).drag.get();
+}
+
+void GripDrag::forget(CBaseObject &object)
+{
+    CPSRootObjectPrivate::of(object).drag.reset();
 }
 
 void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
@@ -162,5 +174,5 @@ void GripDrag::mirrorIfStillOnHandle(const QPointF &scenePos)
 
 void GripDrag::selectOnlyObject()
 {
-    CPSRootObjectPrivate::selectAlone(m_object);
+    selectAlone(m_object);
 }

@@ -20,6 +20,11 @@ public:
     GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
              bool selectsAlone);
 
+    /// The drag that runs with the object; null when none does.
+    static GripDrag *running(CBaseObject &object);
+    /// Ends it, with the object where it is.
+    static void forget(CBaseObject &object);
+
     CObjAction::ACT_Def action() const { return m_action; }
     void moveTo(const QGraphicsSceneMouseEvent &event);
     /// Ends the drag: one undo step when something changed.

@@ -1,5 +1,7 @@
 #include <host/handlelayout.h>
 
+#include <framework/cpsrootobject.h>
+
 #include <cmath>
 
 namespace {
@@ -10,6 +12,14 @@ constexpr double smallObjectPixels = 3 * HandleLayout::hitRadiusPixels;
 double distance(const QPointF &from, const QPointF &to)
 {
     return std::hypot(to.x() - from.x(), to.y() - from.y());
+}
+
+OperationType operationOf(CObjAction::ACT_Def handle)
+{
+    if (HandleLayout::isResize(handle)) {
+        return OperationResize;
+    }
+    return handle == CObjAction::ACT_Rotate ? OperationRotate : OperationMirror;
 }
 
 } // namespace
@@ -99,4 +109,15 @@ QRectF HandleLayout::bounds() const
 {
     const double reach = fromPixels(stemPixels + hitRadiusPixels);
     return frame().adjusted(-reach, -reach, reach, reach);
+}
+
+QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object)
+{
+    QVector<CObjAction::ACT_Def> offered;
+    for (const CObjAction::ACT_Def handle : HandleLayout::handles()) {
+        if (!object.isHandleDisabled(handle) && object.canDo(operationOf(handle))) {
+            offered.append(handle);
+        }
+    }
+    return offered;
 }

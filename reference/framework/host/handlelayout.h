@@ -6,6 +6,8 @@
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
 
+class CPSRootObject;
+
 /// Where the handles of a selected object stand: around its client rectangle, in item coordinates, at distances
 /// that are constant on screen.
 class HandleLayout
@@ -42,3 +44,6 @@ private:
     QRectF m_rect;
     double m_zoom;
 };
+
+/// The handles that the object offers, in drawing order.
+QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object);

@@ -1,7 +1,10 @@
 #include <framework/cbaseobject.h>
 
 #include <host/attributecommand.h>
+#include <host/baseobject.h>
+#include <host/geometry.h>
 #include <host/hostattributes.h>
+#include <host/objectpage.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
 
@@ -94,9 +97,9 @@ bool setBorderWidth(CBaseObject &item, QDataStream &in)
 {
     const auto width = readNumber(in, 0);
     if (width) {
-        CPSRootObjectPrivate::pen(item).setWidthF(*width);
+        CPSRootObjectPrivate::of(item).setPenWidth(*width);
         item.CPSRootObject::update();
-        CPSRootObjectPrivate::noteChange(item);
+        noteChange(item);
     }
     return width.has_value();
 }
@@ -213,13 +216,13 @@ bool HostAttribute::apply(CBaseObject &item, int id, QDataStream &in)
 
 bool CPSRootObject::GetAttribute(int id, QDataStream &out)
 {
-    CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
+    CBaseObject *item = baseObject(*this);
     return item && HostAttribute::write(*item, id, out);
 }
 
 bool CPSRootObject::SetAttribute(int id, QDataStream &in, bool record)
 {
-    CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
+    CBaseObject *item = baseObject(*this);
     if (!item) {
         return false;
     }
@@ -279,7 +282,7 @@ bool applyPlaceValue(CBaseObject &item, int id, const QVariant &variant)
 
 bool CPSRootObject::getAllAttributes(QMap<QString, QVariant> &map)
 {
-    CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
+    CBaseObject *item = baseObject(*this);
     if (!item) {
         return false;
     }
@@ -293,14 +296,14 @@ bool CPSRootObject::getAllAttributes(QMap<QString, QVariant> &map)
 
 bool CPSRootObject::setAllAttributes(const QMap<QString, QVariant> &map, bool)
 {
-    CBaseObject *item = CPSRootObjectPrivate::baseObject(*this);
+    CBaseObject *item = baseObject(*this);
     if (!item) {
         return false;
     }
     bool known = false;
     if (map.contains(nameAttribute)) {
         objName = map.value(nameAttribute).toString();
-        CPSRootObjectPrivate::noteInvisibleChange(*this);
+        noteInvisibleChange(*this);
         known = true;
     }
     if (map.contains(lockedAttribute)) {

@@ -2,6 +2,9 @@
 
 #include <pagehost/recorder.h>
 
+#include <host/geometry.h>
+#include <host/objectpage.h>
+#include <host/objectplace.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
 
@@ -34,7 +37,7 @@ void CPSRootObject::setRotateByPoint(double degrees, QPointF center, bool record
         return;
     }
     const QPointF fixedPoint = d->item->pos() + rotated(center, d->item->rotation());
-    CPSRootObjectPrivate::place(*this, fixedPoint - rotated(center, degrees), degrees);
+    placeItem(*this, fixedPoint - rotated(center, degrees), degrees);
     if (!record) {
         return;
     }
@@ -44,7 +47,8 @@ void CPSRootObject::setRotateByPoint(double degrees, QPointF center, bool record
 
 void CPSRootObject::setMirror(bool horizontal, bool vertical, bool record)
 {
-    CPSRootObjectPrivate::assignMirror(*this, horizontal, vertical);
+    mirrorHorizontal = horizontal;
+    mirrorVertical = vertical;
     OnQPainterDraw(nullptr);
     update();
     notifyObjPropertyChanged(AppearanceChanged, QString());
@@ -60,7 +64,7 @@ void CPSRootObject::setSize(QSizeF size, bool flag, bool redraw)
     if (!isFinite(size)) {
         return;
     }
-    CPSRootObjectPrivate::assignClientSize(*this, possibleSize(size));
+    assignClientSize(*this, possibleSize(size));
     updateAfterObjRectChanged(d->item, redraw);
     if (!flag) {
         return;
@@ -102,11 +106,10 @@ void CPSRootObject::setFillProp(CPageBgProp *prop, bool record)
     }
     const bool keepsPresent = isColorOnly(*prop) && showsMoreThanColor(*fillProp) && sameColor(*prop, *fillProp);
     if (!keepsPresent) {
-        const CPageBgProp copy = *prop;
-        CPSRootObjectPrivate::assignFill(*this, copy);
+        d->setFill(CPageBgProp(*prop));
     }
     update();
-    CPSRootObjectPrivate::noteChange(*this);
+    noteChange(*this);
     if (!record) {
         return;
     }
@@ -152,7 +155,7 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
         if (!readAll(in, degrees, pos) || !std::isfinite(degrees) || !isFinite(pos)) {
             return false;
         }
-        CPSRootObjectPrivate::place(*this, pos, degrees);
+        placeItem(*this, pos, degrees);
         return true;
     case pagehost::ActionMirrored:
         if (!readAll(in, horizontal, vertical)) {

@@ -5,7 +5,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
-#include <host/rootobjectprivate.h>
+#include <host/objectpage.h>
 #include <lessons/lessonstage.h>
 
 namespace pagehost {
@@ -161,7 +161,7 @@ void LessonPlayer::setPosition(qint64 time)
 
 void LessonPlayer::pointOut(CBaseObject *object)
 {
-    const Page *page = object ? CPSRootObjectPrivate::pageOf(*object) : nullptr;
+    const Page *page = object ? pageOf(*object) : nullptr;
     if (m_highlighted && (!page || page->scene() != m_highlighted)) {
         m_highlighted->setHighlight(nullptr);
     }

@@ -7,7 +7,8 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
-#include <host/rootobjectprivate.h>
+#include <host/baseobject.h>
+#include <host/objectpage.h>
 #include <host/saveddata.h>
 #include <lessons/documentsteps.h>
 #include <lessons/documentzoom.h>
@@ -76,7 +77,7 @@ void LessonRecording::actionRecorded(CPSRootObject *object, int actionId, const 
     if (m_nextSink) {
         m_nextSink->actionRecorded(object, actionId, payload);
     }
-    CBaseObject *acting = CPSRootObjectPrivate::baseObject(*object);
+    CBaseObject *acting = baseObject(*object);
     const quint32 number = acting ? knownNumberOf(acting) : 0;
     if (number == 0 || pageIndexOf(*acting) < 0) {
         return;
@@ -239,7 +240,7 @@ quint32 LessonRecording::knownNumberOf(CBaseObject *object) const
 
 int LessonRecording::pageIndexOf(const CBaseObject &object) const
 {
-    const Page *page = CPSRootObjectPrivate::pageOf(object);
+    const Page *page = pageOf(object);
     return m_document && page && page->contains(&object) ? m_document->indexOf(page) : -1;
 }
 

@@ -6,7 +6,7 @@
 #include <pagehost/recorder.h>
 
 #include <files/objectrecordstream.h>
-#include <host/rootobjectprivate.h>
+#include <host/objectpage.h>
 #include <lessons/documentzoom.h>
 #include <lessons/exactloading.h>
 #include <lessons/replaying.h>
@@ -111,7 +111,7 @@ CBaseObject *LessonStage::perform(const ObjectVanished &step)
 {
     CBaseObject *vanishing = object(step.object);
     if (vanishing) {
-        CPSRootObjectPrivate::pageOf(*vanishing)->removeObject(vanishing);
+        pageOf(*vanishing)->removeObject(vanishing);
         // At once: a lesson played as fast as possible would hoard what waits for the event loop.
         delete vanishing;
     }
@@ -127,7 +127,7 @@ CBaseObject *LessonStage::perform(const ObjectSettled &step)
         return nullptr;
     }
     // A new object: one that has a past may keep some of it when it loads.
-    Page *page = CPSRootObjectPrivate::pageOf(*former);
+    Page *page = pageOf(*former);
     CBaseObject *settled = makeObject(record, page);
     const int place = page->removeObject(former);
     delete former;

@@ -5,8 +5,8 @@
 #include <pagehost/objectplugin.h>
 #include <pagehost/page.h>
 
+#include <host/objectplaying.h>
 #include <host/payload.h>
-#include <host/rootobjectprivate.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QEvent>
@@ -36,7 +36,7 @@ void setRunning(CBaseObject &object, bool running)
     if (isRunning(object).value_or(running) == running) {
         return;
     }
-    CPSRootObjectPrivate::setPlayed(object, running);
+    setPlayed(object, running);
     const QByteArray bytes = payloadOf(running);
     QDataStream in(bytes);
     object.SetSpecialProperty(AnimationRuns, in, false);

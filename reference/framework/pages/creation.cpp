@@ -7,7 +7,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
-#include <host/rootobjectprivate.h>
+#include <host/geometry.h>
 #include <pages/eventcopy.h>
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>

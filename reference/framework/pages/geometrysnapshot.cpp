@@ -2,7 +2,7 @@
 
 #include <framework/cbaseobject.h>
 
-#include <host/rootobjectprivate.h>
+#include <host/objectplace.h>
 
 #include <QtCore/QDataStream>
 
@@ -72,7 +72,7 @@ void GeometrySnapshot::restoreSize() const
         m_object->setSize(m_size, false, true);
     }
     if (!identical(m_object->getClientRect().size(), m_size)) {
-        CPSRootObjectPrivate::assignClientSize(*m_object, m_size);
+        assignClientSize(*m_object, m_size);
         m_object->OnQPainterDraw(nullptr);
     }
     m_object->updateAfterObjRectChanged(m_object->GetGraphicsItemPtr(), true);

@@ -5,7 +5,7 @@
 #include <pagehost/page.h>
 
 #include <host/handlelayout.h>
-#include <host/rootobjectprivate.h>
+#include <host/geometry.h>
 
 #include <cmath>
 

@@ -5,7 +5,6 @@
 #include <pagehost/page.h>
 
 #include <host/handlelayout.h>
-#include <host/rootobjectprivate.h>
 
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
@@ -113,7 +112,7 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
     HandlePainter aids(painter, layout, accent);
     aids.drawFrame();
     if (withHandles) {
-        const QVector<CObjAction::ACT_Def> handles = CPSRootObjectPrivate::handles(object);
+        const QVector<CObjAction::ACT_Def> handles = offeredHandles(object);
         for (const CObjAction::ACT_Def handle : handles) {
             aids.drawHandle(handle, hovered.object == &object && hovered.action == handle);
         }

@@ -4,7 +4,7 @@
 
 #include <pagehost/pagescene.h>
 
-#include <host/rootobjectprivate.h>
+#include <host/geometry.h>
 
 #include <algorithm>
 #include <limits>

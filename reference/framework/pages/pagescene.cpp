@@ -8,7 +8,7 @@
 
 #include <host/gripdrag.h>
 #include <host/handlelayout.h>
-#include <host/rootobjectprivate.h>
+#include <host/objectplace.h>
 #include <host/undocapture.h>
 #include <pages/eventcopy.h>
 #include <pages/gripfinder.h>
@@ -181,10 +181,9 @@ bool PageScene::cancelDrag()
     if (!isDragging()) {
         return false;
     }
-    CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(*m_drag.object);
-    if (host.drag) {
-        host.drag->cancel();
-        host.drag.reset();
+    if (GripDrag *drag = GripDrag::running(*m_drag.object)) {
+        drag->cancel();
+        GripDrag::forget(*m_drag.object);
     } else {
         // The object's own release makes the step that puts its control point back.
         const UndoCapture capture;
@@ -201,7 +200,7 @@ bool PageScene::cancelDrag()
 void PageScene::forget(CBaseObject *object)
 {
     if (m_drag.object == object) {
-        CPSRootObjectPrivate::of(*object).drag.reset();
+        GripDrag::forget(*object);
         m_drag = {};
     }
     if (m_hover.object == object) {
@@ -259,7 +258,7 @@ void PageScene::zoomChanged()
 {
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
     for (CBaseObject *object : selected) {
-        CPSRootObjectPrivate::refreshBounds(*object);
+        refreshBounds(*object);
     }
     updateOverlay();
 }
