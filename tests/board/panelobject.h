@@ -1,5 +1,6 @@
 #pragma once
 
+#include <pagehost/attributestream.h>
 #include <pagehost/objectplugin.h>
 
 #include <framework/cbaseobject.h>
@@ -86,30 +87,9 @@ public:
 
     bool GetAttribute(int id, QDataStream &out) override
     {
-        out << qint32(id);
-        switch (id) {
-        case wholeId:
-            out << qint32(7) << QString("IDS_TEST_WHOLE") << true << qint32(0) << qint32(10) << qint32(1) << whole;
-            return true;
-        case realId:
-            out << QString("IDS_TEST_REAL") << true << real;
-            return true;
-        case switchId:
-            out << qint32(4) << QString("IDS_TEST_SWITCH") << true << on;
-            return true;
-        case textId:
-            out << qint32(5) << QString("IDS_TEST_TEXT") << true << text;
-            return true;
-        case colorId:
-            out << qint32(2) << QString("IDS_TEST_PAINT") << true << color;
-            return true;
-        case lockedId:
-            out << qint32(4) << QString("IDS_TEST_LOCKED") << false << false;
-            return true;
-        default:
-            out << qint32(8) << QString("IDS_TEST_DATA") << true << QByteArray("secret");
-            return id == dataId;
-        }
+        const QByteArray bytes = id == dataId ? describedData() : pagehost::writeAttribute(description(id));
+        out.writeRawData(bytes.constData(), bytes.size());
+        return attributeIds.contains(id);
     }
 
     bool SetAttribute(int id, QDataStream &in, bool record) override
@@ -150,6 +130,33 @@ public:
     int changes = 0;
 
 private:
+    pagehost::AttributeDescription description(int id) const
+    {
+        using Kind = pagehost::AttributeDescription;
+        switch (id) {
+        case wholeId:
+            return {Kind::WholeRange, id, "IDS_TEST_WHOLE", true, whole, {0, 10, 1}, {}};
+        case realId:
+            return {Kind::Real, id, "IDS_TEST_REAL", true, real, {}, {}};
+        case switchId:
+            return {Kind::Switch, id, "IDS_TEST_SWITCH", true, on, {}, {}};
+        case textId:
+            return {Kind::Text, id, "IDS_TEST_TEXT", true, text, {}, {}};
+        case colorId:
+            return {Kind::Color, id, "IDS_TEST_PAINT", true, color, {}, {}};
+        default:
+            return {Kind::Switch, id, "IDS_TEST_LOCKED", false, false, {}, {}};
+        }
+    }
+    /// Bytes that only the object understands.
+    static QByteArray describedData()
+    {
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << qint32(dataId) << qint32(8) << QString("IDS_TEST_DATA") << true << QByteArray("secret");
+        return bytes;
+    }
+
     template<typename Value> void change(Value &place, const Value &value, bool undo)
     {
         const Value before = place;

@@ -6,41 +6,35 @@
 #include "panels/editors/slidereditor.h"
 #include "panels/editors/switcheditor.h"
 #include "panels/editors/texteditor.h"
-#include "panels/properties/commonproperties.h"
 #include "panels/settings/settingicons.h"
 
 #include <framework/cbaseobject.h>
 
-#include <QtCore/QBuffer>
-#include <QtCore/QDataStream>
+using pagehost::AttributeDescription;
 
 namespace board {
 
 namespace {
 
-QVector<PropertyDescription> propertiesOf(CBaseObject *object)
+QVector<AttributeDescription> propertiesOf(CBaseObject *object)
 {
-    QVector<PropertyDescription> properties;
+    QVector<AttributeDescription> properties;
     for (const int id : object->getAttributeIds()) {
-        QByteArray bytes;
-        QDataStream out(&bytes, QIODevice::WriteOnly);
-        if (!object->GetAttribute(id, out))
-            continue;
-        if (const auto property = parseAttribute(id, bytes))
+        if (const auto property = pagehost::attributeOf(object, id))
             properties.append(*property);
     }
     return properties;
 }
 
-QString structureOf(const PropertyDescription &property)
+QString structureOf(const CommonProperty &common)
 {
     QString structure = QStringLiteral("%1 %2 %3 %4 %5")
-                            .arg(property.kind)
-                            .arg(property.id)
-                            .arg(property.range.minimum)
-                            .arg(property.range.maximum)
-                            .arg(property.range.step);
-    for (const PropertyDescription::Entry &entry : property.entries)
+                            .arg(common.property.kind)
+                            .arg(common.property.id)
+                            .arg(common.range.minimum)
+                            .arg(common.range.maximum)
+                            .arg(common.range.step);
+    for (const AttributeDescription::Entry &entry : common.property.entries)
         structure += QLatin1Char('|') + entry.text;
     return structure;
 }
@@ -54,67 +48,61 @@ PropertyPanel::PropertyPanel(const Workspace *workspace, QWidget *parent)
 
 QVector<FormRow> PropertyPanel::describe(const QVector<CBaseObject *> &objects)
 {
-    QVector<QVector<PropertyDescription>> all;
+    QVector<QVector<AttributeDescription>> all;
     for (CBaseObject *object : objects)
         all.append(propertiesOf(object));
+    m_properties = commonProperties(all);
     QVector<FormRow> rows;
-    m_properties.clear();
-    for (const CommonProperty &common : commonProperties(all)) {
-        m_properties.append(common.property);
-        rows.append(rowOf(common.property, common.isMixed));
-    }
+    for (const CommonProperty &common : qAsConst(m_properties))
+        rows.append(rowOf(common));
     return rows;
 }
 
-FormRow PropertyPanel::rowOf(const PropertyDescription &property, bool isMixed) const
+FormRow PropertyPanel::rowOf(const CommonProperty &common) const
 {
     FormRow row;
-    row.structure = structureOf(property);
-    row.caption = workspace().text(property.nameKey);
-    row.makeEditor = [this, property] { return makeEditor(property); };
-    row.value = property.value;
-    row.isMixed = isMixed;
-    row.isEnabled = property.isEnabled;
+    row.structure = structureOf(common);
+    row.caption = workspace().text(common.property.nameKey);
+    row.makeEditor = [this, common] { return makeEditor(common); };
+    row.value = common.property.value;
+    row.isMixed = common.isMixed;
+    row.isEnabled = common.property.isEnabled;
     return row;
 }
 
-ValueEditor *PropertyPanel::makeEditor(const PropertyDescription &property) const
+ValueEditor *PropertyPanel::makeEditor(const CommonProperty &common) const
 {
-    switch (property.kind) {
-    case PropertyDescription::Choice:
-        return makeChoice(property);
-    case PropertyDescription::Color:
-    case PropertyDescription::Brush:
+    switch (common.property.kind) {
+    case AttributeDescription::Choice:
+        return makeChoice(common.property);
+    case AttributeDescription::Color:
+    case AttributeDescription::Brush:
         return new ColorEditor(&workspace());
-    case PropertyDescription::Whole:
-    case PropertyDescription::Real:
-        return new NumberEditor(property.range, {});
-    case PropertyDescription::WholeRange:
-    case PropertyDescription::RealRange:
-        return new SliderEditor(property.range, {});
-    case PropertyDescription::Switch:
+    case AttributeDescription::Whole:
+    case AttributeDescription::Real:
+        return new NumberEditor(common.range, {});
+    case AttributeDescription::WholeRange:
+    case AttributeDescription::RealRange:
+        return new SliderEditor(common.range, {});
+    case AttributeDescription::Switch:
         return new SwitchEditor;
     default:
         return new TextEditor;
     }
 }
 
-ValueEditor *PropertyPanel::makeChoice(const PropertyDescription &property) const
+ValueEditor *PropertyPanel::makeChoice(const AttributeDescription &property) const
 {
     QVector<ChoiceEntry> entries;
-    for (const PropertyDescription::Entry &entry : property.entries)
+    for (const AttributeDescription::Entry &entry : property.entries)
         entries.append({workspace().text(entry.text), adaptedIcon(entry.icon, palette().color(QPalette::Text))});
     return new ChoiceEditor(entries, choiceIconSize);
 }
 
 void PropertyPanel::apply(CBaseObject *object, int row, const QVariant &value, bool forGood)
 {
-    // The object may write its own answer over the value.
-    QBuffer buffer;
-    buffer.setData(attributeAnswer(m_properties[row], value));
-    buffer.open(QIODevice::ReadWrite);
-    QDataStream stream(&buffer);
-    object->SetAttribute(m_properties[row].id, stream, forGood);
+    const AttributeDescription &property = m_properties[row].property;
+    pagehost::giveAttribute(object, property.id, pagehost::attributeAnswer(property, value), forGood);
 }
 
 } // namespace board

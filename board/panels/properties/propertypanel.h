@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/forms/selectionpanel.h"
-#include "panels/properties/attributestream.h"
+#include "panels/properties/commonproperties.h"
 
 namespace board {
 
@@ -16,15 +16,15 @@ public:
 
 protected:
     QVector<FormRow> describe(const QVector<CBaseObject *> &objects) override;
-    QString titleKey(int row) const override { return m_properties[row].nameKey; }
+    QString titleKey(int row) const override { return m_properties[row].property.nameKey; }
     void apply(CBaseObject *object, int row, const QVariant &value, bool forGood) override;
 
 private:
-    ValueEditor *makeEditor(const PropertyDescription &property) const;
-    ValueEditor *makeChoice(const PropertyDescription &property) const;
-    FormRow rowOf(const PropertyDescription &property, bool isMixed) const;
+    ValueEditor *makeEditor(const CommonProperty &common) const;
+    ValueEditor *makeChoice(const pagehost::AttributeDescription &property) const;
+    FormRow rowOf(const CommonProperty &common) const;
 
-    QVector<PropertyDescription> m_properties; ///< row by row
+    QVector<CommonProperty> m_properties; ///< row by row
 };
 
 } // namespace board

@@ -7,6 +7,7 @@
 #include <host/objectpage.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
+#include <host/streamedcolors.h>
 
 #include <QtCore/QDataStream>
 #include <QtGui/QTextDocument>
@@ -65,7 +66,7 @@ bool setTextSize(CBaseObject &item, QDataStream &in)
 
 bool setTextColor(CBaseObject &item, QDataStream &in)
 {
-    const auto color = readValue<QColor>(in);
+    const auto color = pagehost::readColor(in);
     if (color) {
         item.setDefaultTextColor(*color);
     }
@@ -86,7 +87,7 @@ bool setTextAlignment(CBaseObject &item, QDataStream &in)
 
 bool setBorderColor(CBaseObject &item, QDataStream &in)
 {
-    const auto color = readValue<QColor>(in);
+    const auto color = pagehost::readColor(in);
     if (color) {
         item.setMyPenColor(*color, false);
     }

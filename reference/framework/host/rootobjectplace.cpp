@@ -7,6 +7,7 @@
 #include <host/objectplace.h>
 #include <host/payload.h>
 #include <host/rootobjectprivate.h>
+#include <host/streamedcolors.h>
 
 #include <QtCore/QDataStream>
 
@@ -133,7 +134,7 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
 {
     QPointF pos;
     QSizeF size;
-    QColor color;
+    std::optional<QColor> color;
     double degrees = 0;
     bool horizontal = false;
     bool vertical = false;
@@ -170,11 +171,11 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
         setFillProp(&fill, false);
         return true;
     case pagehost::ActionPenColored:
-        if (!readAll(in, color)) {
-            return false;
+        color = pagehost::readColor(in);
+        if (color) {
+            setMyPenColor(*color, false);
         }
-        setMyPenColor(color, false);
-        return true;
+        return color.has_value();
     default:
         return false;
     }

@@ -4,8 +4,8 @@
 
 #include <pagehost/page.h>
 
-#include <host/handlelayout.h>
 #include <host/geometry.h>
+#include <host/handlelayout.h>
 
 #include <cmath>
 

@@ -3,103 +3,38 @@
 #include <framework/cbaseobject.h>
 #include <framework/iframework.h>
 
-#include <QtCore/QBuffer>
-#include <QtCore/QDataStream>
+#include <pagehost/attributestream.h>
 
-#include <functional>
+#include <host/attributehead.h>
+#include <host/payload.h>
+#include <host/streamedcolors.h>
 
 namespace pagehost {
 
 namespace {
 
-using Writer = std::function<void(QDataStream &)>;
-
-/// Answer of GetAttribute(): property id, code of the editor, name, whether it may be changed, then the value.
-class Description
+std::optional<AttributeHead> headOf(CBaseObject *object, int id)
 {
-public:
-    Description(CBaseObject *object, int id)
-    {
-        QDataStream out(&m_bytes, QIODevice::WriteOnly);
-        const bool known = object->GetAttribute(id, out);
-        QDataStream in(m_bytes);
-        qint32 foundId = 0;
-        qint32 editor = 0;
-        bool enabled = false;
-        in >> foundId >> editor >> m_name >> enabled;
-        m_isList = editor == listEditor;
-        m_isValid = known && in.status() == QDataStream::Ok && foundId == id;
-        m_valueAt = int(in.device()->pos());
-    }
+    return readAttributeHead(id, describedBy(object, id));
+}
 
-    /// The localisation key of the property's name; empty when the object does not have the property.
-    QString name() const { return m_isValid ? m_name : QString(); }
-
-    /// False, with `value` untouched, when the object does not have the property.
-    template<typename Value> bool read(Value &value) const
-    {
-        if (!m_isValid) {
-            return false;
-        }
-        QDataStream in(m_bytes.mid(m_valueAt));
-        Value read{};
-        in >> read;
-        if (in.status() != QDataStream::Ok) {
-            return false;
-        }
-        value = read;
-        return true;
-    }
-
-    /// A list gives the number of its entries before the number of the chosen one.
-    bool readChoice(qint32 &count, qint32 &chosen) const
-    {
-        if (!m_isValid || !m_isList) {
-            return false;
-        }
-        QDataStream in(m_bytes.mid(m_valueAt));
-        in >> count >> chosen;
-        return in.status() == QDataStream::Ok;
-    }
-
-private:
-    static constexpr qint32 listEditor = 1;
-    QByteArray m_bytes;
-    QString m_name;
-    int m_valueAt = 0;
-    bool m_isList = false;
-    bool m_isValid = false;
-};
-
-/// The name of the property at the first object that has it.
+/// What the first object that has the property calls it.
 QString nameOf(const QVector<CBaseObject *> &objects, int id)
 {
     for (CBaseObject *object : objects) {
-        const QString name = Description(object, id).name();
-        if (!name.isEmpty()) {
-            return name;
+        if (const auto head = headOf(object, id)) {
+            return head->nameKey;
         }
     }
     return QStringLiteral("IDS_ITEM_SET_ATTRIBUTE");
 }
 
-/// Objects may write their answer into the stream that brings the value.
-bool setAttribute(CBaseObject *object, int id, const Writer &write)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    QDataStream stream(&buffer);
-    write(stream);
-    buffer.seek(0);
-    return object->SetAttribute(id, stream, true);
-}
-
-bool setAttributes(const QVector<CBaseObject *> &objects, int id, const Writer &write)
+template<typename Value> bool setAttributes(const QVector<CBaseObject *> &objects, int id, const Value &value)
 {
     bool taken = false;
     GetFramework()->beginUndoGroup(nameOf(objects, id));
     for (CBaseObject *object : objects) {
-        taken |= setAttribute(object, id, write);
+        taken |= giveAttribute(object, id, payloadOf(value), true);
     }
     GetFramework()->endUndoGroup();
     return taken;
@@ -114,39 +49,49 @@ bool isPenStyle(qint32 style)
 
 bool setPenColor(const QVector<CBaseObject *> &objects, const QColor &color)
 {
-    return setAttributes(objects, PenColorProperty, [&](QDataStream &stream) { stream << color; });
+    return setAttributes(objects, PenColorProperty, color);
 }
 
 bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style)
 {
-    return setAttributes(objects, PenStyleProperty, [&](QDataStream &stream) { stream << qint32(style); });
+    return setAttributes(objects, PenStyleProperty, qint32(style));
 }
 
 bool setPenWidth(const QVector<CBaseObject *> &objects, int width)
 {
     // Panels send the number of the entry in the list of widths, which begins at 1.
-    return width >= 1 &&
-           setAttributes(objects, PenWidthProperty, [&](QDataStream &stream) { stream << qint32(width - 1); });
+    return width >= 1 && setAttributes(objects, PenWidthProperty, qint32(width - 1));
 }
 
 bool setFill(const QVector<CBaseObject *> &objects, const QColor &color)
 {
-    return setAttributes(objects, FillProperty, [&](QDataStream &stream) { stream << QBrush(color); });
+    return setAttributes(objects, FillProperty, QBrush(color));
 }
 
 ObjectStyle styleOf(CBaseObject *object)
 {
     ObjectStyle style;
-    qint32 count = 0;
-    qint32 chosen = 0;
-    style.hasPenColor = Description(object, PenColorProperty).read(style.penColor);
-    style.hasFill = Description(object, FillProperty).read(style.fill);
-    style.hasPenStyle = Description(object, PenStyleProperty).readChoice(count, chosen) && isPenStyle(chosen);
-    style.penStyle = style.hasPenStyle ? Qt::PenStyle(chosen) : style.penStyle;
-    style.hasPenWidth = Description(object, PenWidthProperty).readChoice(count, chosen);
-    if (style.hasPenWidth) {
-        style.penWidth = chosen + 1;
-        style.maxPenWidth = count;
+    if (const auto head = headOf(object, PenColorProperty)) {
+        const std::optional<QColor> color = colorFrom(head->value);
+        style.hasPenColor = color.has_value();
+        style.penColor = color.value_or(style.penColor);
+    }
+    if (const auto head = headOf(object, FillProperty)) {
+        const std::optional<QBrush> fill = brushFrom(head->value);
+        style.hasFill = fill.has_value();
+        style.fill = fill.value_or(style.fill);
+    }
+    if (const auto head = headOf(object, PenStyleProperty)) {
+        const std::optional<ListChoice> choice = choiceOf(*head);
+        style.hasPenStyle = choice && isPenStyle(choice->chosen);
+        style.penStyle = style.hasPenStyle ? Qt::PenStyle(choice->chosen) : style.penStyle;
+    }
+    if (const auto head = headOf(object, PenWidthProperty)) {
+        if (const std::optional<ListChoice> choice = choiceOf(*head)) {
+            style.hasPenWidth = true;
+            style.penWidth = choice->chosen + 1;
+            style.maxPenWidth = choice->count;
+        }
     }
     return style;
 }

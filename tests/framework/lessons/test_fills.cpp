@@ -2,6 +2,7 @@
 #include <pagehost/lessonplayer.h>
 #include <pagehost/lessonrecorder.h>
 #include <pagehost/objectregistry.h>
+#include <pagehost/style.h>
 
 #include "framework/editor.h"
 #include "framework/testobject.h"
@@ -10,7 +11,7 @@
 
 namespace {
 
-constexpr int fillAction = 1005;
+using pagehost::FillAction;
 
 /// Takes down what it is given to replay.
 class Listener : public TestObject
@@ -85,7 +86,7 @@ QVector<QPair<int, QByteArray>> heardOf(const QByteArray &payload)
     pagehost::LessonRecorder recorder(&registry);
     recorder.start(&editor.document);
     pagehost::Lesson lesson = recorder.stop();
-    lesson.events = {{0, pagehost::ObjectActed{1, fillAction, payload}}};
+    lesson.events = {{0, pagehost::ObjectActed{1, FillAction, payload}}};
     pagehost::LessonPlayer player(&registry);
     player.setLesson(lesson);
     player.playToEnd();
@@ -129,7 +130,7 @@ void TestLessonFills::aFillIsPlayed()
 {
     QFETCH(const QByteArray, recorded);
     QFETCH(const QByteArray, played);
-    QCOMPARE(heardOf(recorded), (QVector<QPair<int, QByteArray>>{{fillAction, played}}));
+    QCOMPARE(heardOf(recorded), (QVector<QPair<int, QByteArray>>{{FillAction, played}}));
 }
 
 void TestLessonFills::aFillThatIsNotWholeIsPassedOver_data()

@@ -23,6 +23,8 @@ enum StyleProperty : int {
     PenWidthProperty = 5004,
     FillProperty = 5005
 };
+/// The recorded action of a changed fill: objects record its colour, a QColor, and replay a QBrush.
+constexpr int FillAction = 1005;
 
 FRAMEWORK_EXPORT bool setPenColor(const QVector<CBaseObject *> &objects, const QColor &color);
 FRAMEWORK_EXPORT bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style);

@@ -1,15 +1,16 @@
 // The description of a property read from its stream by editor code, and the stream that sets it.
 
-#include <panels/properties/attributestream.h>
-#include <panels/properties/commonproperties.h>
+#include <pagehost/attributestream.h>
+
+#include <framework/testobject.h>
 
 #include <QtCore/QDataStream>
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 #include <QtTest/QtTest>
 
-using board::parseAttribute;
-using board::PropertyDescription;
+using pagehost::AttributeDescription;
+using pagehost::readAttribute;
 
 static constexpr int someId = 5100;
 
@@ -26,8 +27,8 @@ public:
         return *this;
     }
     QByteArray bytes() const { return m_bytes; }
-    PropertyDescription read() const { return parseAttribute(someId, m_bytes).value(); }
-    bool isReadable() const { return parseAttribute(someId, m_bytes).has_value(); }
+    AttributeDescription read() const { return readAttribute(someId, m_bytes).value(); }
+    bool isReadable() const { return readAttribute(someId, m_bytes).has_value(); }
 
 private:
     QByteArray m_bytes;
@@ -66,12 +67,16 @@ private Q_SLOTS:
     void everyFlippedByteIsSurvived();
     void hugePicturesAreRefused();
     void answers();
-    void commonPropertiesAreThoseOfAll();
+    void objectIsAsked();
+    void objectIsGivenAValue();
+    void unknownKindOfColourIsRefused();
+    void descriptionsAreWritten_data();
+    void descriptionsAreWritten();
 };
 
 void TestAttributeStream::headIsRead()
 {
-    const PropertyDescription property = (Described(4) << true).read();
+    const AttributeDescription property = (Described(4) << true).read();
     QCOMPARE(property.id, someId);
     QCOMPARE(property.nameKey, QString("IDS_X"));
     QVERIFY(property.isEnabled);
@@ -79,19 +84,19 @@ void TestAttributeStream::headIsRead()
 
 void TestAttributeStream::colorIsRead()
 {
-    const PropertyDescription property = (Described(2) << QColor(1, 2, 3, 4)).read();
-    QCOMPARE(property.kind, PropertyDescription::Color);
+    const AttributeDescription property = (Described(2) << QColor(1, 2, 3, 4)).read();
+    QCOMPARE(property.kind, AttributeDescription::Color);
     QCOMPARE(property.value.value<QColor>(), QColor(1, 2, 3, 4));
 }
 
 void TestAttributeStream::brushIsItsColour()
 {
-    const PropertyDescription property = (Described(2) << QBrush(QColor(1, 2, 3, 4))).read();
-    QCOMPARE(property.kind, PropertyDescription::Brush);
+    const AttributeDescription property = (Described(2) << QBrush(QColor(1, 2, 3, 4))).read();
+    QCOMPARE(property.kind, AttributeDescription::Brush);
     QCOMPARE(property.value.value<QColor>(), QColor(1, 2, 3, 4));
     QLinearGradient gradient(0, 0, 1, 1);
     gradient.setColorAt(0, Qt::red);
-    QCOMPARE((Described(2) << QBrush(gradient)).read().kind, PropertyDescription::Brush);
+    QCOMPARE((Described(2) << QBrush(gradient)).read().kind, AttributeDescription::Brush);
     QCOMPARE((Described(2) << QBrush(gradient)).read().value.value<QColor>(), QColor(Qt::transparent));
 }
 
@@ -102,10 +107,11 @@ void TestAttributeStream::emptyBrushIsTransparent()
 
 void TestAttributeStream::listOfTextsIsRead()
 {
-    const PropertyDescription property = (Described(1) << qint32(3) << qint32(2) << qint32(0) << QStringLiteral("1")
-                                                       << QStringLiteral("2") << QStringLiteral("3"))
-                                             .read();
-    QCOMPARE(property.kind, PropertyDescription::Choice);
+    const AttributeDescription property =
+        (Described(1) << qint32(3) << qint32(2) << qint32(0) << QStringLiteral("1") << QStringLiteral("2")
+                      << QStringLiteral("3"))
+            .read();
+    QCOMPARE(property.kind, AttributeDescription::Choice);
     QCOMPARE(property.value, QVariant(2));
     QCOMPARE(property.entries.size(), 3);
     QCOMPARE(property.entries.at(1).text, QString("2"));
@@ -116,7 +122,7 @@ void TestAttributeStream::listOfPicturesIsRead()
 {
     QPixmap picture(8, 4);
     picture.fill(Qt::black);
-    const PropertyDescription property =
+    const AttributeDescription property =
         (Described(1) << qint32(2) << qint32(7) << qint32(2) << QString() << picture << QString() << QPixmap())
             .read();
     QCOMPARE(property.entries.size(), 2);
@@ -128,17 +134,22 @@ void TestAttributeStream::listOfPicturesIsRead()
 
 void TestAttributeStream::wholeRangeIsRead()
 {
-    const PropertyDescription property = (Described(7) << qint32(3) << qint32(12) << qint32(1) << qint32(5)).read();
-    QCOMPARE(property.kind, PropertyDescription::WholeRange);
-    QCOMPARE(property.range, (board::NumberRange{3, 12, 1, 0}));
+    const AttributeDescription property =
+        (Described(7) << qint32(3) << qint32(12) << qint32(1) << qint32(5)).read();
+    QCOMPARE(property.kind, AttributeDescription::WholeRange);
+    QCOMPARE(property.range.minimum, 3.0);
+    QCOMPARE(property.range.maximum, 12.0);
+    QCOMPARE(property.range.step, 1.0);
     QCOMPARE(property.value, QVariant(5));
 }
 
 void TestAttributeStream::realRangeIsRead()
 {
-    const PropertyDescription property = (Described(7) << 0.5 << 2.0 << 0.25 << 1.75).read();
-    QCOMPARE(property.kind, PropertyDescription::RealRange);
-    QCOMPARE(property.range, (board::NumberRange{0.5, 2, 0.25, 2}));
+    const AttributeDescription property = (Described(7) << 0.5 << 2.0 << 0.25 << 1.75).read();
+    QCOMPARE(property.kind, AttributeDescription::RealRange);
+    QCOMPARE(property.range.minimum, 0.5);
+    QCOMPARE(property.range.maximum, 2.0);
+    QCOMPARE(property.range.step, 0.25);
     QCOMPARE(property.value, QVariant(1.75));
     // Outside its bounds it is shown at the nearer one.
     QCOMPARE((Described(7) << 0.5 << 2.0 << 0.25 << 9.0).read().value, QVariant(2.0));
@@ -146,41 +157,41 @@ void TestAttributeStream::realRangeIsRead()
 
 void TestAttributeStream::switchIsRead()
 {
-    QCOMPARE((Described(4) << true).read().kind, PropertyDescription::Switch);
+    QCOMPARE((Described(4) << true).read().kind, AttributeDescription::Switch);
     QCOMPARE((Described(4) << true).read().value, QVariant(true));
     QCOMPARE((Described(4) << false).read().value, QVariant(false));
 }
 
 void TestAttributeStream::textIsRead()
 {
-    const PropertyDescription property = (Described(5) << QStringLiteral("1 2 3")).read();
-    QCOMPARE(property.kind, PropertyDescription::Text);
+    const AttributeDescription property = (Described(5) << QStringLiteral("1 2 3")).read();
+    QCOMPARE(property.kind, AttributeDescription::Text);
     QCOMPARE(property.value, QVariant(QString("1 2 3")));
 }
 
 void TestAttributeStream::numberWithoutCode()
 {
-    const PropertyDescription property = (Described() << qint32(-7)).read();
-    QCOMPARE(property.kind, PropertyDescription::Whole);
+    const AttributeDescription property = (Described() << qint32(-7)).read();
+    QCOMPARE(property.kind, AttributeDescription::Whole);
     QCOMPARE(property.nameKey, QString("IDS_X"));
     QCOMPARE(property.value, QVariant(-7));
 }
 
 void TestAttributeStream::realNumberWithoutCode()
 {
-    const PropertyDescription property = (Described() << 2.5).read();
-    QCOMPARE(property.kind, PropertyDescription::Real);
+    const AttributeDescription property = (Described() << 2.5).read();
+    QCOMPARE(property.kind, AttributeDescription::Real);
     QCOMPARE(property.value, QVariant(2.5));
     QVERIFY(!(Described() << qInf()).isReadable());
     // The length of this name looks like an editor code.
     QByteArray bytes;
     QDataStream(&bytes, QIODevice::WriteOnly) << qint32(someId) << QStringLiteral("size") << true << 2.5;
-    QCOMPARE(parseAttribute(someId, bytes)->nameKey, QString("size"));
+    QCOMPARE(readAttribute(someId, bytes)->nameKey, QString("size"));
 }
 
 void TestAttributeStream::otherPropertyIsRefused()
 {
-    QVERIFY(!parseAttribute(someId + 1, (Described(4) << true).bytes()));
+    QVERIFY(!readAttribute(someId + 1, (Described(4) << true).bytes()));
 }
 
 void TestAttributeStream::bytesOfTheObjectsOwnAreNotShown()
@@ -211,7 +222,7 @@ void TestAttributeStream::nonsenseIsRefused_data()
 void TestAttributeStream::nonsenseIsRefused()
 {
     QFETCH(QByteArray, bytes);
-    QVERIFY(!parseAttribute(someId, bytes));
+    QVERIFY(!readAttribute(someId, bytes));
 }
 
 static QVector<QByteArray> samples()
@@ -227,14 +238,14 @@ static QVector<QByteArray> samples()
 void TestAttributeStream::everyCutIsRefused()
 {
     for (const QByteArray &whole : samples()) {
-        QVERIFY(parseAttribute(someId, whole));
+        QVERIFY(readAttribute(someId, whole));
         for (int size = 0; size < whole.size(); ++size) {
-            const auto property = parseAttribute(someId, whole.left(size));
+            const auto property = readAttribute(someId, whole.left(size));
             // A brush may lose what stands behind its colour, which is all that is shown of it.
-            const bool isColor = property && (property->kind == PropertyDescription::Brush ||
-                                              property->kind == PropertyDescription::Color);
+            const bool isColor = property && (property->kind == AttributeDescription::Brush ||
+                                              property->kind == AttributeDescription::Color);
             // Nor does a PNG file need the chunk of 12 bytes that ends it.
-            const bool isPicture = property && property->kind == PropertyDescription::Choice;
+            const bool isPicture = property && property->kind == AttributeDescription::Choice;
             QVERIFY2(!property || isColor || (isPicture && size >= whole.size() - 12),
                      qPrintable(QString("%1 of %2").arg(size).arg(whole.size())));
         }
@@ -248,7 +259,7 @@ void TestAttributeStream::everyFlippedByteIsSurvived()
             for (const char bits : {char(0xff), char(0x80), char(0x01)}) {
                 QByteArray changed = whole;
                 changed[i] = char(changed[i] ^ bits);
-                const auto property = parseAttribute(someId, changed);
+                const auto property = readAttribute(someId, changed);
                 QVERIFY(!property || property->entries.size() <= 1000);
             }
         }
@@ -264,52 +275,117 @@ void TestAttributeStream::hugePicturesAreRefused()
     QVERIFY(header > 0);
     // 2^31 - 1 pixels wide.
     bytes.replace(header + 4, 4, QByteArray("\x7f\xff\xff\xff", 4));
-    QVERIFY(!parseAttribute(someId, bytes));
+    QVERIFY(!readAttribute(someId, bytes));
 }
 
 void TestAttributeStream::answers()
 {
-    PropertyDescription property;
-    property.kind = PropertyDescription::Choice;
-    QCOMPARE(board::attributeAnswer(property, 3), stream(3));
-    property.kind = PropertyDescription::WholeRange;
+    AttributeDescription property;
+    property.kind = AttributeDescription::Choice;
+    QCOMPARE(pagehost::attributeAnswer(property, 3), stream(3));
+    property.kind = AttributeDescription::WholeRange;
     // Sliders give doubles.
-    QCOMPARE(board::attributeAnswer(property, 4.0), stream(4));
-    property.kind = PropertyDescription::Switch;
-    QCOMPARE(board::attributeAnswer(property, true), QByteArray(1, '\1'));
-    property.kind = PropertyDescription::RealRange;
+    QCOMPARE(pagehost::attributeAnswer(property, 4.0), stream(4));
+    property.kind = AttributeDescription::Switch;
+    QCOMPARE(pagehost::attributeAnswer(property, true), QByteArray(1, '\1'));
+    property.kind = AttributeDescription::RealRange;
     // The number 2 as eight big-endian bytes.
-    QCOMPARE(board::attributeAnswer(property, 2.0), QByteArray("\x40\0\0\0\0\0\0\0", 8));
-    property.kind = PropertyDescription::Text;
-    QCOMPARE(board::attributeAnswer(property, QString("a")), QByteArray("\0\0\0\2\0a", 6));
-    property.kind = PropertyDescription::Color;
-    const QByteArray color = board::attributeAnswer(property, QColor(255, 0, 0));
+    QCOMPARE(pagehost::attributeAnswer(property, 2.0), QByteArray("\x40\0\0\0\0\0\0\0", 8));
+    property.kind = AttributeDescription::Text;
+    QCOMPARE(pagehost::attributeAnswer(property, QString("a")), QByteArray("\0\0\0\2\0a", 6));
+    property.kind = AttributeDescription::Color;
+    const QByteArray color = pagehost::attributeAnswer(property, QColor(255, 0, 0));
     // RGB, then alpha, red, green, blue and padding as 16-bit numbers.
     QCOMPARE(color, QByteArray("\1\xff\xff\xff\xff\0\0\0\0\0\0", 11));
-    property.kind = PropertyDescription::Brush;
-    const QByteArray brush = board::attributeAnswer(property, QColor(255, 0, 0));
+    property.kind = AttributeDescription::Brush;
+    const QByteArray brush = pagehost::attributeAnswer(property, QColor(255, 0, 0));
     QCOMPARE(brush.left(12), QByteArray("\1", 1) + color);
 }
 
-void TestAttributeStream::commonPropertiesAreThoseOfAll()
+/// An object that says what it is told to, and writes over the value that it takes.
+class Speaker : public TestObject
 {
-    PropertyDescription width;
-    width.kind = PropertyDescription::WholeRange;
-    width.id = 1;
-    width.value = 3;
-    width.range = {1, 8, 1, 0};
-    PropertyDescription wide = width;
-    wide.value = 4;
-    wide.range = {2, 20, 1, 0};
-    PropertyDescription text;
-    text.id = 2;
-    PropertyDescription number = text;
-    number.kind = PropertyDescription::Whole;
-    const QVector<board::CommonProperty> common = board::commonProperties({{width, text}, {number, wide}});
-    QCOMPARE(common.size(), 1);
-    QCOMPARE(common.first().property.id, 1);
-    QVERIFY(common.first().isMixed);
-    QCOMPARE(common.first().property.range, (board::NumberRange{2, 8, 1, 0}));
+public:
+    bool GetAttribute(int id, QDataStream &out) override
+    {
+        out.writeRawData(said.constData(), said.size());
+        return id == someId;
+    }
+    bool SetAttribute(int id, QDataStream &in, bool record) override
+    {
+        in >> taken;
+        recorded = record;
+        in.device()->reset();
+        in << qint32(0);
+        return id == someId;
+    }
+
+    QByteArray said;
+    qint32 taken = 0;
+    bool recorded = false;
+};
+
+void TestAttributeStream::objectIsAsked()
+{
+    Speaker object;
+    object.said = (Described(4) << true).bytes();
+    QCOMPARE(pagehost::attributeOf(&object, someId)->value, QVariant(true));
+    QVERIFY(!pagehost::attributeOf(&object, someId + 1));
+}
+
+void TestAttributeStream::objectIsGivenAValue()
+{
+    Speaker object;
+    const QByteArray answer = stream(7);
+    QVERIFY(pagehost::giveAttribute(&object, someId, answer, true));
+    QCOMPARE(object.taken, 7);
+    QVERIFY(object.recorded);
+    QVERIFY(pagehost::giveAttribute(&object, someId, answer, false));
+    QVERIFY(!object.recorded);
+    QVERIFY(!pagehost::giveAttribute(&object, someId + 1, answer, true));
+    QCOMPARE(answer, stream(7));
+}
+
+void TestAttributeStream::unknownKindOfColourIsRefused()
+{
+    QByteArray color = (Described(2) << QColor(1, 2, 3, 4)).bytes();
+    color[color.size() - 11] = 6;
+    QVERIFY(!readAttribute(someId, color));
+    color[color.size() - 11] = 1;
+    QVERIFY(readAttribute(someId, color));
+    QByteArray brush = (Described(2) << QBrush(QColor(1, 2, 3, 4))).bytes();
+    const int kindAt = brush.size() - 72 - 11; // before the matrix
+    brush[kindAt] = 6;
+    QVERIFY(!readAttribute(someId, brush));
+    brush[kindAt] = 1;
+    QVERIFY(readAttribute(someId, brush));
+}
+
+void TestAttributeStream::descriptionsAreWritten_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QPixmap picture(8, 4);
+    picture.fill(Qt::black);
+    QTest::newRow("list of texts") << (Described(1) << qint32(2) << qint32(1) << qint32(0) << QStringLiteral("1")
+                                                    << QStringLiteral("2"))
+                                          .bytes();
+    QTest::newRow("list of pictures") << (Described(1) << qint32(2) << qint32(0) << qint32(2) << QString()
+                                                       << picture << QStringLiteral("b") << QPixmap())
+                                             .bytes();
+    QTest::newRow("colour") << (Described(2) << QColor(1, 2, 3, 4)).bytes();
+    QTest::newRow("brush") << (Described(2) << QBrush(QColor(1, 2, 3, 4))).bytes();
+    QTest::newRow("whole number") << (Described() << qint32(-7)).bytes();
+    QTest::newRow("real number") << (Described() << 2.5).bytes();
+    QTest::newRow("whole range") << (Described(7) << qint32(3) << qint32(12) << qint32(1) << qint32(5)).bytes();
+    QTest::newRow("real range") << (Described(7) << 0.5 << 2.0 << 0.25 << 1.75).bytes();
+    QTest::newRow("switch") << (Described(4) << true).bytes();
+    QTest::newRow("text") << (Described(5) << QStringLiteral("1 2 3")).bytes();
+}
+
+void TestAttributeStream::descriptionsAreWritten()
+{
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(pagehost::writeAttribute(readAttribute(someId, bytes).value()), bytes);
 }
 
 QTEST_MAIN(TestAttributeStream)
