@@ -100,6 +100,7 @@ private Q_SLOTS:
     void refusesToReplayWhatItDoesNotKnow();
     void refusesToReplayShortPayloads_data();
     void refusesToReplayShortPayloads();
+    void refusesToReplayAColourOfAnUnknownKind();
 };
 
 void TestPageObject::beginsFinishedUnlockedAndUnmirrored()
@@ -532,6 +533,15 @@ void TestPageObject::refusesToReplayShortPayloads()
     QCOMPARE(object.getPos(), QPointF(5, 6));
     QCOMPARE(object.getClientRect(), QRectF(0, 0, 20, 10));
     QVERIFY(!object.isMirrored());
+}
+
+void TestPageObject::refusesToReplayAColourOfAnUnknownKind()
+{
+    TestObject object;
+    object.setMyPenColor(Qt::green, false);
+    QDataStream in(QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11));
+    QVERIFY(!object.DoPlaybackActionEx(pagehost::ActionPenColored, in));
+    QCOMPARE(object.getMyPen().color(), QColor(Qt::green));
 }
 
 QTEST_MAIN(TestPageObject)

@@ -294,6 +294,9 @@ void TestPersistence::impossibleAttributesAreRefused_data()
     QTest::newRow("size beyond all") << 2002 << streamed(1e9);
     QTest::newRow("x not a number") << 2010 << streamed(qQNaN());
     QTest::newRow("infinite width") << 2012 << streamed(qInf());
+    // 11 bytes as a colour has, of a kind that there is not.
+    QTest::newRow("text colour of an unknown kind") << 2003 << QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11);
+    QTest::newRow("border colour of an unknown kind") << 2050 << QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11);
     QTest::newRow("negative border") << 2051 << streamed(-1.0);
     for (const int id : {2001, 2002, 2003, 2004, 2010, 2011, 2012, 2013, 2014, 2015, 2050, 2051}) {
         QTest::addRow("%d on an empty stream", id) << id << QByteArray();

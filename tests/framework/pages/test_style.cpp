@@ -119,6 +119,7 @@ private Q_SLOTS:
     void missingPropertiesAreToldApart_data();
     void missingPropertiesAreToldApart();
     void nonsenseDescriptionIsNoStyle();
+    void paintOfAnUnknownKindIsNoStyle();
     void styleMapHasTheLookAlone();
     void styleMapIsGivenAsOneStep();
     void takenBackStyleIsExactlyWhatItWas();
@@ -219,6 +220,26 @@ void TestStyle::nonsenseDescriptionIsNoStyle()
     Nonsense object;
     const pagehost::ObjectStyle style = pagehost::styleOf(&object);
     QVERIFY(!style.hasPenColor && !style.hasPenStyle && !style.hasPenWidth && !style.hasFill);
+}
+
+void TestStyle::paintOfAnUnknownKindIsNoStyle()
+{
+    class Strange : public TestObject
+    {
+    public:
+        bool GetAttribute(int id, QDataStream &out) override
+        {
+            out << qint32(id) << qint32(2) << QStringLiteral("IDS_NAME") << true;
+            QByteArray paint = id == pagehost::FillProperty ? QByteArray("\1", 1) : QByteArray();
+            paint += QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11);
+            paint += id == pagehost::FillProperty ? QByteArray(72, '\0') : QByteArray();
+            out.writeRawData(paint.constData(), paint.size());
+            return true;
+        }
+    };
+    Strange object;
+    const pagehost::ObjectStyle style = pagehost::styleOf(&object);
+    QVERIFY(!style.hasPenColor && !style.hasFill);
 }
 
 void TestStyle::styleMapHasTheLookAlone()
