@@ -8,8 +8,8 @@ class CBaseObject;
 class QDataStream;
 class QJsonObject;
 
-/// What the host saves of every object besides its fill. A stream holds the fields in their order, JSON the same
-/// facts by name.
+/// Saved data of every object, besides its fill and its own. A stream holds the fields in their order, JSON the
+/// same facts by name.
 struct HostState
 {
     QString name;

@@ -15,7 +15,7 @@ namespace {
 /// How far lines and labels may reach beyond the client rectangle of an object that does not say so, item units.
 constexpr double overhang = 8;
 
-/// The object's answer to pagehost::PaintedArea; empty when it knows none, or none that is a rectangle.
+/// The object's answer to pagehost::PaintedArea; empty without an answer, or for one that is not a rectangle.
 QRectF askedPaintedArea(CBaseObject &object)
 {
     QByteArray bytes;

@@ -36,6 +36,6 @@ private:
     bool m_regionIsStale = false;
     /// Whoever asks for the region may be looking through the scene, which must not be rearranged then.
     bool m_isFixed = false;
-    /// The answer to pagehost::PaintedArea; null where the object has to be asked, empty where it knows no answer.
+    /// The object's answer to pagehost::PaintedArea; null before asking, empty without an answer.
     std::optional<QRectF> m_paintedArea;
 };

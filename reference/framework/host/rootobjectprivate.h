@@ -11,9 +11,9 @@ class CBaseObject;
 class GripDrag;
 struct HostState;
 
-/// What the host keeps of a page object beside its public members: a few values, each with a header that says what
-/// it is for. Only files of this folder look in here; others ask objectpage.h, objectplace.h, objectreading.h,
-/// objectplaying.h and gripdrag.h.
+/// The host's private data of a page object: a few values, each with a header that says what it is for. Only files
+/// of this folder look in here; others ask objectpage.h, objectplace.h, objectreading.h, objectplaying.h and
+/// gripdrag.h.
 class CPSRootObjectPrivate
 {
 public:
