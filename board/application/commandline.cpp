@@ -1,6 +1,7 @@
 #include "application/commandline.h"
 
 #include "application/screenshot.h"
+#include "core/texts.h"
 
 #include <QtCore/QCommandLineParser>
 
@@ -12,6 +13,12 @@ namespace {
 
 constexpr double smallestScale = 0.05;
 constexpr double largestScale = 16;
+
+/// "en or de".
+QString languageChoice()
+{
+    return boardLanguages().join(QStringLiteral(" or "));
+}
 
 struct Parser
 {
@@ -30,7 +37,8 @@ struct Parser
     QCommandLineOption play{"play", "Play the lesson of the file; with --export, write the pages as it leaves them "
                                     "(several lessons: a folder for each)."};
     QCommandLineOption demo{"demo", "Open with pages that show every shape there is."};
-    QCommandLineOption language{"language", "Language of the user interface: en or de.", "code"};
+    QCommandLineOption language{
+        "language", QStringLiteral("Language of the user interface: %1.").arg(languageChoice()), "code"};
     QCommandLineOption dark{"dark", "Use dark colours."};
     QCommandLineOption screenshot{"screenshot", "Write a picture of the window to <file> and stop.", "file"};
     QCommandLineOption state{"screenshot-state", "What the picture shows.", "state", "shapes"};
@@ -73,8 +81,8 @@ QString problemOf(const Parser &p)
     if (!isNumber || !std::isfinite(scale) || scale < smallestScale || scale > largestScale)
         return QStringLiteral("--scale takes a number from 0.05 to 16, not \"%1\".").arg(p.parser.value(p.scale));
     const QString language = p.parser.value(p.language);
-    if (p.parser.isSet(p.language) && language != QLatin1String("en") && language != QLatin1String("de"))
-        return QStringLiteral("--language takes en or de, not \"%1\".").arg(language);
+    if (p.parser.isSet(p.language) && !boardLanguages().contains(language))
+        return QStringLiteral("--language takes %1, not \"%2\".").arg(languageChoice(), language);
     if (p.parser.isSet(p.exportPages) && p.parser.value(p.exportPages).isEmpty())
         return QStringLiteral("--export takes the folder to write to.");
     if (p.parser.isSet(p.play) && p.parser.positionalArguments().isEmpty())

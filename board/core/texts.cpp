@@ -2,121 +2,136 @@
 
 #include "core/texttables.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTranslator>
+
+/// Resources of a static library are there once somebody asks for them. Not in a namespace, as Qt wants it.
+static void initResource()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
 namespace board {
 
 namespace {
 
+const QString english = QStringLiteral("en");
+/// One file per language, named after its code.
+const QString translationFolder = QStringLiteral(":/gliololok/board/translations");
+/// The context that all texts have in files of Qt Linguist.
+constexpr char textContext[] = "board";
+
 constexpr TextEntry entries[] = {
-    {"IDS_BOARD_TITLE", "Board", "Tafel"},
-    {"IDS_BOARD_FILE", "&File", "&Datei"},
-    {"IDS_BOARD_EDIT", "&Edit", "&Bearbeiten"},
-    {"IDS_BOARD_ARRANGE", "&Arrange", "&Anordnen"},
-    {"IDS_BOARD_VIEW", "&View", "A&nsicht"},
-    {"IDS_BOARD_PANELS", "&Panels", "&Bereiche"},
-    {"IDS_BOARD_HELP", "&Help", "&Hilfe"},
-    {"IDS_BOARD_TOOLS", "Tools", "Werkzeuge"},
+    {"IDS_BOARD_TITLE", QT_TRANSLATE_NOOP("board", "Board")},
+    {"IDS_BOARD_FILE", QT_TRANSLATE_NOOP("board", "&File")},
+    {"IDS_BOARD_EDIT", QT_TRANSLATE_NOOP("board", "&Edit")},
+    {"IDS_BOARD_ARRANGE", QT_TRANSLATE_NOOP("board", "&Arrange")},
+    {"IDS_BOARD_VIEW", QT_TRANSLATE_NOOP("board", "&View")},
+    {"IDS_BOARD_PANELS", QT_TRANSLATE_NOOP("board", "&Panels")},
+    {"IDS_BOARD_HELP", QT_TRANSLATE_NOOP("board", "&Help")},
+    {"IDS_BOARD_TOOLS", QT_TRANSLATE_NOOP("board", "Tools")},
 
-    {"IDS_BOARD_UNDO", "Undo", "Rückgängig"},
-    {"IDS_BOARD_UNDO_STEP", "Undo: %1", "Rückgängig: %1"},
-    {"IDS_BOARD_REDO", "Redo", "Wiederholen"},
-    {"IDS_BOARD_REDO_STEP", "Redo: %1", "Wiederholen: %1"},
-    {"IDS_BOARD_SELECT_ALL", "Select all", "Alles auswählen"},
-    {"IDS_BOARD_DESELECT", "Select nothing", "Nichts auswählen"},
-    {"IDS_BOARD_DUPLICATE", "Duplicate", "Duplizieren"},
-    {"IDS_BOARD_DELETE", "Delete", "Löschen"},
-    {"IDS_BOARD_NUDGE", "Move with keys", "Mit Tasten verschieben"},
-    {"IDS_BOARD_TO_FRONT", "Bring to front", "Ganz nach vorn"},
-    {"IDS_BOARD_FORWARD", "Bring forward", "Nach vorn"},
-    {"IDS_BOARD_BACKWARD", "Send backward", "Nach hinten"},
-    {"IDS_BOARD_TO_BACK", "Send to back", "Ganz nach hinten"},
-    {"IDS_BOARD_MIRROR_H", "Mirror left to right", "Waagerecht spiegeln"},
-    {"IDS_BOARD_MIRROR_V", "Mirror top to bottom", "Senkrecht spiegeln"},
-    {"IDS_BOARD_ROTATE_LEFT", "Rotate left", "Nach links drehen"},
-    {"IDS_BOARD_ROTATE_RIGHT", "Rotate right", "Nach rechts drehen"},
-    {"IDS_BOARD_ZOOM", "Zoom", "Zoom"},
-    {"IDS_BOARD_ZOOM_IN", "Zoom in", "Vergrößern"},
-    {"IDS_BOARD_ZOOM_OUT", "Zoom out", "Verkleinern"},
-    {"IDS_BOARD_ACTUAL_SIZE", "100 %", "100 %"},
-    {"IDS_BOARD_FIT_PAGE", "Fit page", "Ganze Seite"},
-    {"IDS_BOARD_ANIMATION", "Play animations", "Animationen abspielen"},
-    {"IDS_BOARD_DARK", "Dark colours", "Dunkle Farben"},
-    {"IDS_BOARD_ADD_PAGE", "Add page", "Seite hinzufügen"},
-    {"IDS_BOARD_REMOVE_PAGE", "Remove page", "Seite entfernen"},
-    {"IDS_BOARD_PREVIOUS_PAGE", "Previous page", "Vorige Seite"},
-    {"IDS_BOARD_NEXT_PAGE", "Next page", "Nächste Seite"},
-    {"IDS_BOARD_EXPORT", "Export pages as pictures…", "Seiten als Bilder ausgeben…"},
-    {"IDS_BOARD_EXPORT_SVG", "Export pages as SVG drawings…", "Seiten als SVG-Zeichnungen ausgeben…"},
-    {"IDS_BOARD_NOT_EXPORTED", "Not all pages could be exported.", "Nicht alle Seiten konnten ausgegeben werden."},
-    {"IDS_BOARD_EXPORTED", "%1 pages written to %2", "%1 Seiten nach %2 geschrieben"},
-    {"IDS_BOARD_QUIT", "Quit", "Beenden"},
-    {"IDS_BOARD_ABOUT", "About this board", "Über diese Tafel"},
-    {"IDS_BOARD_ABOUT_TEXT", "A board to draw and teach on, version %1.",
-     "Eine Tafel zum Zeichnen und Unterrichten, Version %1."},
+    {"IDS_BOARD_UNDO", QT_TRANSLATE_NOOP("board", "Undo")},
+    {"IDS_BOARD_UNDO_STEP", QT_TRANSLATE_NOOP("board", "Undo: %1")},
+    {"IDS_BOARD_REDO", QT_TRANSLATE_NOOP("board", "Redo")},
+    {"IDS_BOARD_REDO_STEP", QT_TRANSLATE_NOOP("board", "Redo: %1")},
+    {"IDS_BOARD_SELECT_ALL", QT_TRANSLATE_NOOP("board", "Select all")},
+    {"IDS_BOARD_DESELECT", QT_TRANSLATE_NOOP("board", "Select nothing")},
+    {"IDS_BOARD_DUPLICATE", QT_TRANSLATE_NOOP("board", "Duplicate")},
+    {"IDS_BOARD_DELETE", QT_TRANSLATE_NOOP("board", "Delete")},
+    {"IDS_BOARD_NUDGE", QT_TRANSLATE_NOOP("board", "Move with keys")},
+    {"IDS_BOARD_TO_FRONT", QT_TRANSLATE_NOOP("board", "Bring to front")},
+    {"IDS_BOARD_FORWARD", QT_TRANSLATE_NOOP("board", "Bring forward")},
+    {"IDS_BOARD_BACKWARD", QT_TRANSLATE_NOOP("board", "Send backward")},
+    {"IDS_BOARD_TO_BACK", QT_TRANSLATE_NOOP("board", "Send to back")},
+    {"IDS_BOARD_MIRROR_H", QT_TRANSLATE_NOOP("board", "Mirror left to right")},
+    {"IDS_BOARD_MIRROR_V", QT_TRANSLATE_NOOP("board", "Mirror top to bottom")},
+    {"IDS_BOARD_ROTATE_LEFT", QT_TRANSLATE_NOOP("board", "Rotate left")},
+    {"IDS_BOARD_ROTATE_RIGHT", QT_TRANSLATE_NOOP("board", "Rotate right")},
+    {"IDS_BOARD_ZOOM", QT_TRANSLATE_NOOP("board", "Zoom")},
+    {"IDS_BOARD_ZOOM_IN", QT_TRANSLATE_NOOP("board", "Zoom in")},
+    {"IDS_BOARD_ZOOM_OUT", QT_TRANSLATE_NOOP("board", "Zoom out")},
+    {"IDS_BOARD_ACTUAL_SIZE", QT_TRANSLATE_NOOP("board", "100 %")},
+    {"IDS_BOARD_FIT_PAGE", QT_TRANSLATE_NOOP("board", "Fit page")},
+    {"IDS_BOARD_ANIMATION", QT_TRANSLATE_NOOP("board", "Play animations")},
+    {"IDS_BOARD_DARK", QT_TRANSLATE_NOOP("board", "Dark colours")},
+    {"IDS_BOARD_ADD_PAGE", QT_TRANSLATE_NOOP("board", "Add page")},
+    {"IDS_BOARD_REMOVE_PAGE", QT_TRANSLATE_NOOP("board", "Remove page")},
+    {"IDS_BOARD_PREVIOUS_PAGE", QT_TRANSLATE_NOOP("board", "Previous page")},
+    {"IDS_BOARD_NEXT_PAGE", QT_TRANSLATE_NOOP("board", "Next page")},
+    {"IDS_BOARD_EXPORT", QT_TRANSLATE_NOOP("board", "Export pages as pictures…")},
+    {"IDS_BOARD_EXPORT_SVG", QT_TRANSLATE_NOOP("board", "Export pages as SVG drawings…")},
+    {"IDS_BOARD_NOT_EXPORTED", QT_TRANSLATE_NOOP("board", "Not all pages could be exported.")},
+    {"IDS_BOARD_EXPORTED", QT_TRANSLATE_NOOP("board", "%1 pages written to %2")},
+    {"IDS_BOARD_QUIT", QT_TRANSLATE_NOOP("board", "Quit")},
+    {"IDS_BOARD_ABOUT", QT_TRANSLATE_NOOP("board", "About this board")},
+    {"IDS_BOARD_ABOUT_TEXT", QT_TRANSLATE_NOOP("board", "A board to draw and teach on, version %1.")},
 
-    {"IDS_BOARD_SHAPES", "Shapes", "Formen"},
-    {"IDS_BOARD_SEARCH", "Search shapes", "Formen suchen"},
-    {"IDS_BOARD_KIND_TIP", "%1: click, then drag on the page", "%1: anklicken, dann auf der Seite aufziehen"},
-    {"IDS_BOARD_NO_SHAPES", "No shapes were found. Start with --plugins and the folder that has them.",
-     "Es wurden keine Formen gefunden. Mit --plugins und dem Ordner starten, der sie enthält."},
-    {"IDS_BOARD_PAGES", "Pages", "Seiten"},
-    {"IDS_BOARD_PAGE_NUMBER", "Page %1", "Seite %1"},
-    {"IDS_BOARD_HISTORY", "History", "Verlauf"},
-    {"IDS_BOARD_HISTORY_START", "Start", "Anfang"},
-    {"IDS_BOARD_STYLE", "Look", "Aussehen"},
-    {"IDS_BOARD_PAGE", "Page", "Seite"},
-    {"IDS_BOARD_SEVERAL", "%1 objects", "%1 Objekte"},
+    {"IDS_BOARD_SHAPES", QT_TRANSLATE_NOOP("board", "Shapes")},
+    {"IDS_BOARD_SEARCH", QT_TRANSLATE_NOOP("board", "Search shapes")},
+    {"IDS_BOARD_KIND_TIP", QT_TRANSLATE_NOOP("board", "%1: click, then drag on the page")},
+    {"IDS_BOARD_NO_SHAPES",
+     QT_TRANSLATE_NOOP("board", "No shapes were found. Start with --plugins and the folder that has them.")},
+    {"IDS_BOARD_PAGES", QT_TRANSLATE_NOOP("board", "Pages")},
+    {"IDS_BOARD_PAGE_NUMBER", QT_TRANSLATE_NOOP("board", "Page %1")},
+    {"IDS_BOARD_HISTORY", QT_TRANSLATE_NOOP("board", "History")},
+    {"IDS_BOARD_HISTORY_START", QT_TRANSLATE_NOOP("board", "Start")},
+    {"IDS_BOARD_STYLE", QT_TRANSLATE_NOOP("board", "Look")},
+    {"IDS_BOARD_PAGE", QT_TRANSLATE_NOOP("board", "Page")},
+    {"IDS_BOARD_SEVERAL", QT_TRANSLATE_NOOP("board", "%1 objects")},
 
-    {"IDS_BOARD_SELECTED", "selected: %1", "ausgewählt: %1"},
+    {"IDS_BOARD_SELECTED", QT_TRANSLATE_NOOP("board", "selected: %1")},
 
-    {"IDS_BOARD_FILL", "Fill", "Füllung"},
-    {"IDS_BOARD_FILL_NONE", "No fill", "Keine Füllung"},
-    {"IDS_BOARD_FILL_SOLID", "Colour", "Farbe"},
-    {"IDS_BOARD_FILL_GRADIENT", "Gradient", "Verlauf"},
-    {"IDS_BOARD_FILL_PATTERN", "Pattern", "Muster"},
-    {"IDS_BOARD_FILL_PICTURE", "Picture", "Bild"},
-    {"IDS_BOARD_FILL_COLOR", "Fill colour", "Füllfarbe"},
-    {"IDS_BOARD_FILL_SECOND_COLOR", "Second colour", "Zweite Farbe"},
-    {"IDS_BOARD_FILL_ANGLE", "Direction of the gradient", "Richtung des Verlaufs"},
-    {"IDS_BOARD_OPACITY", "Opacity", "Deckkraft"},
-    {"IDS_BOARD_CHOOSE_PICTURE", "Choose picture…", "Bild wählen…"},
-    {"IDS_BOARD_PICTURES", "Pictures", "Bilder"},
-    {"IDS_BOARD_NO_PICTURE", "The picture could not be read", "Das Bild konnte nicht gelesen werden"},
-    {"IDS_BOARD_MORE_COLORS", "More colours…", "Weitere Farben…"},
-    {"IDS_BOARD_PICK_COLOR", "Choose colour", "Farbe wählen"},
-    {"IDS_BOARD_PEN", "Outline", "Kontur"},
-    {"IDS_BOARD_PEN_COLOR", "Outline colour", "Konturfarbe"},
-    {"IDS_BOARD_PEN_WIDTH", "Outline width", "Konturbreite"},
-    {"IDS_BOARD_PEN_STYLE", "Outline style", "Konturart"},
-    {"IDS_BOARD_PEN_SOLID", "Solid", "Durchgezogen"},
-    {"IDS_BOARD_PEN_DASHED", "Dashed", "Gestrichelt"},
-    {"IDS_BOARD_PEN_DOTTED", "Dotted", "Gepunktet"},
-    {"IDS_BOARD_PEN_DASHDOT", "Dash, dot", "Strich, Punkt"},
-    {"IDS_BOARD_PEN_DASHDOTDOT", "Dash, two dots", "Strich, zwei Punkte"},
-    {"IDS_BOARD_PEN_NONE", "None", "Keine"},
-    {"IDS_BOARD_PLACE", "Position and size", "Lage und Größe"},
-    {"IDS_BOARD_LEFT", "Left edge", "Linker Rand"},
-    {"IDS_BOARD_TOP", "Top edge", "Oberer Rand"},
-    {"IDS_BOARD_WIDTH", "Width", "Breite"},
-    {"IDS_BOARD_WIDTH_LETTER", "W", "B"},
-    {"IDS_BOARD_HEIGHT", "Height", "Höhe"},
-    {"IDS_BOARD_HEIGHT_LETTER", "H", "H"},
-    {"IDS_BOARD_ROTATION", "Rotation", "Drehung"},
-    {"IDS_BOARD_BACKGROUND", "Background", "Hintergrund"},
+    {"IDS_BOARD_FILL", QT_TRANSLATE_NOOP("board", "Fill")},
+    {"IDS_BOARD_FILL_NONE", QT_TRANSLATE_NOOP("board", "No fill")},
+    {"IDS_BOARD_FILL_SOLID", QT_TRANSLATE_NOOP("board", "Colour")},
+    {"IDS_BOARD_FILL_GRADIENT", QT_TRANSLATE_NOOP("board", "Gradient")},
+    {"IDS_BOARD_FILL_PATTERN", QT_TRANSLATE_NOOP("board", "Pattern")},
+    {"IDS_BOARD_FILL_PICTURE", QT_TRANSLATE_NOOP("board", "Picture")},
+    {"IDS_BOARD_FILL_COLOR", QT_TRANSLATE_NOOP("board", "Fill colour")},
+    {"IDS_BOARD_FILL_SECOND_COLOR", QT_TRANSLATE_NOOP("board", "Second colour")},
+    {"IDS_BOARD_FILL_ANGLE", QT_TRANSLATE_NOOP("board", "Direction of the gradient")},
+    {"IDS_BOARD_OPACITY", QT_TRANSLATE_NOOP("board", "Opacity")},
+    {"IDS_BOARD_CHOOSE_PICTURE", QT_TRANSLATE_NOOP("board", "Choose picture…")},
+    {"IDS_BOARD_PICTURES", QT_TRANSLATE_NOOP("board", "Pictures")},
+    {"IDS_BOARD_NO_PICTURE", QT_TRANSLATE_NOOP("board", "The picture could not be read")},
+    {"IDS_BOARD_MORE_COLORS", QT_TRANSLATE_NOOP("board", "More colours…")},
+    {"IDS_BOARD_PICK_COLOR", QT_TRANSLATE_NOOP("board", "Choose colour")},
+    {"IDS_BOARD_PEN", QT_TRANSLATE_NOOP("board", "Outline")},
+    {"IDS_BOARD_PEN_COLOR", QT_TRANSLATE_NOOP("board", "Outline colour")},
+    {"IDS_BOARD_PEN_WIDTH", QT_TRANSLATE_NOOP("board", "Outline width")},
+    {"IDS_BOARD_PEN_STYLE", QT_TRANSLATE_NOOP("board", "Outline style")},
+    {"IDS_BOARD_PEN_SOLID", QT_TRANSLATE_NOOP("board", "Solid")},
+    {"IDS_BOARD_PEN_DASHED", QT_TRANSLATE_NOOP("board", "Dashed")},
+    {"IDS_BOARD_PEN_DOTTED", QT_TRANSLATE_NOOP("board", "Dotted")},
+    {"IDS_BOARD_PEN_DASHDOT", QT_TRANSLATE_NOOP("board", "Dash, dot")},
+    {"IDS_BOARD_PEN_DASHDOTDOT", QT_TRANSLATE_NOOP("board", "Dash, two dots")},
+    {"IDS_BOARD_PEN_NONE", QT_TRANSLATE_NOOP("board", "None")},
+    {"IDS_BOARD_PLACE", QT_TRANSLATE_NOOP("board", "Position and size")},
+    {"IDS_BOARD_LEFT", QT_TRANSLATE_NOOP("board", "Left edge")},
+    {"IDS_BOARD_TOP", QT_TRANSLATE_NOOP("board", "Top edge")},
+    {"IDS_BOARD_WIDTH", QT_TRANSLATE_NOOP("board", "Width")},
+    {"IDS_BOARD_WIDTH_LETTER", QT_TRANSLATE_NOOP("board", "W")},
+    {"IDS_BOARD_HEIGHT", QT_TRANSLATE_NOOP("board", "Height")},
+    {"IDS_BOARD_HEIGHT_LETTER", QT_TRANSLATE_NOOP("board", "H")},
+    {"IDS_BOARD_ROTATION", QT_TRANSLATE_NOOP("board", "Rotation")},
+    {"IDS_BOARD_BACKGROUND", QT_TRANSLATE_NOOP("board", "Background")},
 
-    {"IDS_BOARD_HINT_TITLE", "Draw your first shape", "Die erste Form zeichnen"},
-    {"IDS_BOARD_HINT_ADVICE", "Pick one on the left, then drag on the page, or drag it here.",
-     "Links eine auswählen und auf der Seite aufziehen oder hierher ziehen."},
-    {"IDS_BOARD_HINT_IDLE", "Click to select · drag over shapes to select several · Ctrl+wheel zooms",
-     "Klick wählt aus · Aufziehen wählt mehrere aus · Strg+Mausrad ändert die Ansichtsgröße"},
-    {"IDS_BOARD_HINT_DRAW", "Drag to draw, click for the usual size · Shift: equal sides · Esc: cancel",
-     "Ziehen zeichnet, ein Klick nimmt die übliche Größe · Umschalt: gleiche Seiten · Esc: abbrechen"},
+    {"IDS_BOARD_HINT_TITLE", QT_TRANSLATE_NOOP("board", "Draw your first shape")},
+    {"IDS_BOARD_HINT_ADVICE",
+     QT_TRANSLATE_NOOP("board", "Pick one on the left, then drag on the page, or drag it here.")},
+    {"IDS_BOARD_HINT_IDLE",
+     QT_TRANSLATE_NOOP("board", "Click to select · drag over shapes to select several · Ctrl+wheel zooms")},
+    {"IDS_BOARD_HINT_DRAW",
+     QT_TRANSLATE_NOOP("board", "Drag to draw, click for the usual size · Shift: equal sides · Esc: cancel")},
     {"IDS_BOARD_HINT_SELECTED",
-     "Drag to move · drag handles to reshape · arrow keys: 1, with Shift 10 · Ctrl+D duplicates",
-     "Ziehen verschiebt · Griffe verformen · Pfeiltasten: 1, mit Umschalt 10 · Strg+D dupliziert"},
+     QT_TRANSLATE_NOOP(
+         "board", "Drag to move · drag handles to reshape · arrow keys: 1, with Shift 10 · Ctrl+D duplicates")},
 
-    {"IDS_BOARD_PLUGIN_PROBLEMS", "Plug-ins that could not be loaded", "Nicht geladene Erweiterungen"},
-    {"IDS_BOARD_MORE_PROBLEMS", "and %1 more", "und %1 weitere"},
-    {"IDS_BOARD_CLOSE", "Close", "Schließen"},
+    {"IDS_BOARD_PLUGIN_PROBLEMS", QT_TRANSLATE_NOOP("board", "Plug-ins that could not be loaded")},
+    {"IDS_BOARD_MORE_PROBLEMS", QT_TRANSLATE_NOOP("board", "and %1 more")},
+    {"IDS_BOARD_CLOSE", QT_TRANSLATE_NOOP("board", "Close")},
 };
 
 } // namespace
@@ -131,14 +146,29 @@ QVector<TextEntry> textEntries()
     return all;
 }
 
+QStringList boardLanguages()
+{
+    initResource();
+    QStringList codes{english};
+    const QStringList files = QDir(translationFolder).entryList();
+    for (const QString &file : files)
+        codes.append(QFileInfo(file).baseName());
+    return codes;
+}
+
 pagehost::TextTable boardTexts(const QString &language)
 {
-    const bool german = language == QLatin1String("de");
+    initResource();
+    QTranslator translator;
     pagehost::TextTable texts;
-    if (!german && language != QLatin1String("en"))
+    if (language != english && !translator.load(language, translationFolder))
         return texts;
-    for (const TextEntry &entry : textEntries())
-        texts.insert(QLatin1String(entry.key), QString::fromUtf8(german ? entry.german : entry.english));
+    for (const TextEntry &entry : textEntries()) {
+        const QString text = language == english ? QString::fromUtf8(entry.english)
+                                                 : translator.translate(textContext, entry.english);
+        if (!text.isEmpty())
+            texts.insert(QLatin1String(entry.key), text);
+    }
     return texts;
 }
 

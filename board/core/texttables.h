@@ -4,12 +4,11 @@
 
 namespace board {
 
-/// A text in every language of the board, UTF-8.
+/// A text of the board, UTF-8. Qt Linguist finds the English one and has it translated.
 struct TextEntry
 {
     const char *key;
     const char *english;
-    const char *german;
 };
 
 QVector<TextEntry> clipboardTexts();

@@ -20,7 +20,7 @@ Workspace::Workspace(const QString &language)
     : m_registry(&m_localizer)
     , m_document(std::make_unique<pagehost::Document>())
 {
-    for (const QString &code : {QStringLiteral("en"), QStringLiteral("de")})
+    for (const QString &code : boardLanguages())
         m_localizer.addTexts(code, boardTexts(code));
     m_localizer.setLanguage(language);
     qRegisterMetaType<pagehost::PluginReport>();

@@ -6,7 +6,6 @@
 
 #include <core/actions.h>
 #include <core/notices.h>
-#include <core/texts.h>
 #include <core/windowmemory.h>
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
@@ -41,7 +40,6 @@ private Q_SLOTS:
     void darkColoursAreRemembered();
     void longNamesAreShortenedInTheStatusLine();
     void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
-    void noKeyStandsForTwoTexts();
 };
 
 namespace {
@@ -197,17 +195,6 @@ void TestWindow::shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn()
              qPrintable(told));
     QVERIFY(board.draw(rectangle, {300, 200}, {420, 280}));
     QCOMPARE(board.page().objectCount(), 1);
-}
-
-void TestWindow::noKeyStandsForTwoTexts()
-{
-    QStringList keys;
-    for (const board::TextEntry &entry : board::textEntries())
-        keys.append(QLatin1String(entry.key));
-    QVERIFY(keys.size() > 100);
-    const QStringList all = keys;
-    keys.removeDuplicates();
-    QCOMPARE(keys, all);
 }
 
 QTEST_MAIN(TestWindow)

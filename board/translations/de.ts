@@ -1,0 +1,735 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>board</name>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Copy look</source>
+        <translation>Aussehen kopieren</translation>
+    </message>
+    <message>
+        <source>Paste look</source>
+        <translation>Aussehen einfügen</translation>
+    </message>
+    <message>
+        <source>Not everything could be pasted.</source>
+        <translation>Nicht alles konnte eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>There is nothing on the clipboard that can be pasted here.</source>
+        <translation>In der Zwischenablage ist nichts, was hier eingefügt werden kann.</translation>
+    </message>
+    <message>
+        <source>“%1” is nothing that can be put on a page.</source>
+        <translation>„%1“ kann nicht auf eine Seite gelegt werden.</translation>
+    </message>
+    <message>
+        <source>New board</source>
+        <translation>Neue Tafel</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen…</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Clear this list</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>Boards</source>
+        <translation>Tafeln</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Tafel</translation>
+    </message>
+    <message>
+        <source>Board as readable text</source>
+        <translation>Tafel als lesbarer Text</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Otherwise they are lost.</source>
+        <translation>Sonst gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Replace it?</source>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1 files exist already. Replace them?</source>
+        <translation>%1 Dateien gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by somebody else.</source>
+        <translation>„%1“ wurde von jemand anderem geändert.</translation>
+    </message>
+    <message>
+        <source>The file is not what this board was opened from or saved to.</source>
+        <translation>Die Datei ist nicht die, aus der diese Tafel geöffnet oder in die sie gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>Save both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meine behalten</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Andere übernehmen</translation>
+    </message>
+    <message>
+        <source>Decide…</source>
+        <translation>Entscheiden…</translation>
+    </message>
+    <message>
+        <source>“%1” is no longer there. Saving writes it again.</source>
+        <translation>„%1“ ist nicht mehr da. Speichern schreibt die Datei neu.</translation>
+    </message>
+    <message>
+        <source>Save over “%1”?</source>
+        <translation>Über „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>The file has further names (%1 hard links). Saving gives this name a file of its own: under the others the board stays as it was.</source>
+        <translation>Die Datei hat weitere Namen (%1 harte Verweise). Nach dem Speichern hat dieser Name eine eigene Datei: Unter den anderen bleibt die Tafel, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The file belongs to somebody else. Once you have saved it, it is yours.</source>
+        <translation>Die Datei gehört jemand anderem. Nach dem Speichern gehört sie dir.</translation>
+    </message>
+    <message>
+        <source>Save here</source>
+        <translation>Hier speichern</translation>
+    </message>
+    <message>
+        <source>%1 (repaired)</source>
+        <translation>%1 (repariert)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged)</source>
+        <translation>%1 (beschädigt)</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>“%1” was not saved. Your work is still here: save it elsewhere or try again.</source>
+        <translation>„%1“ wurde nicht gespeichert. Die Arbeit ist noch da: anderswo speichern oder noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>„%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read completely.</source>
+        <translation>„%1“ konnte nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The board was not closed properly. Unsaved work can be brought back: %1.</source>
+        <translation>Die Tafel wurde nicht ordentlich geschlossen. Ungespeicherte Arbeit ist noch da: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” from %2</source>
+        <translation>„%1“ von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 page</source>
+        <translation>%1, %2 Seite</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1, %2 Seiten</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Löschen…</translation>
+    </message>
+    <message>
+        <source>Delete the unsaved work? %1</source>
+        <translation>Die ungespeicherte Arbeit löschen? %1</translation>
+    </message>
+    <message>
+        <source>It cannot be brought back then.</source>
+        <translation>Danach ist sie nicht mehr wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>Delete for ever</source>
+        <translation>Endgültig löschen</translation>
+    </message>
+    <message>
+        <source>The unsaved work could not be read completely.</source>
+        <translation>Die ungespeicherte Arbeit konnte nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The changes could not be put aside in case of a crash.</source>
+        <translation>Die Änderungen konnten nicht für den Fall eines Absturzes gesichert werden.</translation>
+    </message>
+    <message>
+        <source>Show all…</source>
+        <translation>Alle zeigen…</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Select shapes to see what they let you set.</source>
+        <translation>Formen auswählen, um zu sehen, was sich an ihnen einstellen lässt.</translation>
+    </message>
+    <message>
+        <source>Select shapes to see their properties.</source>
+        <translation>Formen auswählen, um ihre Eigenschaften zu sehen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here that all of them have.</source>
+        <translation>Hier gibt es nichts einzustellen, was alle haben.</translation>
+    </message>
+    <message>
+        <source>&amp;Lesson</source>
+        <translation>&amp;Lektion</translation>
+    </message>
+    <message>
+        <source>Lesson</source>
+        <translation>Lektion</translation>
+    </message>
+    <message>
+        <source>Lesson %1</source>
+        <translation>Lektion %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Record a lesson</source>
+        <translation>Lektion aufnehmen</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>Aufnahme beenden</translation>
+    </message>
+    <message>
+        <source>Pause recording</source>
+        <translation>Aufnahme anhalten</translation>
+    </message>
+    <message>
+        <source>Go on recording</source>
+        <translation>Aufnahme fortsetzen</translation>
+    </message>
+    <message>
+        <source>Play the lesson</source>
+        <translation>Lektion abspielen</translation>
+    </message>
+    <message>
+        <source>Pause the lesson</source>
+        <translation>Lektion anhalten</translation>
+    </message>
+    <message>
+        <source>Back to the board</source>
+        <translation>Zurück zur Tafel</translation>
+    </message>
+    <message>
+        <source>Delete the lesson</source>
+        <translation>Lektion löschen</translation>
+    </message>
+    <message>
+        <source>Cut the lesson off here</source>
+        <translation>Lektion hier abschneiden</translation>
+    </message>
+    <message>
+        <source>Rename the lesson</source>
+        <translation>Lektion umbenennen</translation>
+    </message>
+    <message>
+        <source>Name of the lesson</source>
+        <translation>Name der Lektion</translation>
+    </message>
+    <message>
+        <source>Speed of the lesson</source>
+        <translation>Geschwindigkeit der Lektion</translation>
+    </message>
+    <message>
+        <source>Which lesson is played</source>
+        <translation>Welche Lektion abgespielt wird</translation>
+    </message>
+    <message>
+        <source>Moment of the lesson</source>
+        <translation>Stelle der Lektion</translation>
+    </message>
+    <message>
+        <source>A lesson is shown, your board stays as it is · F8 plays and pauses · Shift+F8 goes back</source>
+        <translation>Eine Lektion wird gezeigt, die Tafel bleibt, wie sie ist · F8 spielt und hält an · Umschalt+F8 kehrt zurück</translation>
+    </message>
+    <message>
+        <source>No lesson yet: record one while you draw.</source>
+        <translation>Noch keine Lektion: eine aufnehmen, während gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Recording  %1</source>
+        <translation>Aufnahme läuft  %1</translation>
+    </message>
+    <message>
+        <source>Recording paused  %1</source>
+        <translation>Aufnahme angehalten  %1</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged and plays up to the damage.</source>
+        <translation>„%1“ ist beschädigt und läuft bis zum Schaden.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be played: its data are damaged or of a newer program.</source>
+        <translation>„%1“ kann nicht abgespielt werden: die Daten sind beschädigt oder von einem neueren Programm.</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>&amp;Anordnen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>&amp;Bereiche</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Move with keys</source>
+        <translation>Mit Tasten verschieben</translation>
+    </message>
+    <message>
+        <source>Bring to front</source>
+        <translation>Ganz nach vorn</translation>
+    </message>
+    <message>
+        <source>Bring forward</source>
+        <translation>Nach vorn</translation>
+    </message>
+    <message>
+        <source>Send backward</source>
+        <translation>Nach hinten</translation>
+    </message>
+    <message>
+        <source>Send to back</source>
+        <translation>Ganz nach hinten</translation>
+    </message>
+    <message>
+        <source>Mirror left to right</source>
+        <translation>Waagerecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Mirror top to bottom</source>
+        <translation>Senkrecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Fit page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Play animations</source>
+        <translation>Animationen abspielen</translation>
+    </message>
+    <message>
+        <source>Dark colours</source>
+        <translation>Dunkle Farben</translation>
+    </message>
+    <message>
+        <source>Add page</source>
+        <translation>Seite hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Seite entfernen</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Export pages as pictures…</source>
+        <translation>Seiten als Bilder ausgeben…</translation>
+    </message>
+    <message>
+        <source>Export pages as SVG drawings…</source>
+        <translation>Seiten als SVG-Zeichnungen ausgeben…</translation>
+    </message>
+    <message>
+        <source>Not all pages could be exported.</source>
+        <translation>Nicht alle Seiten konnten ausgegeben werden.</translation>
+    </message>
+    <message>
+        <source>%1 pages written to %2</source>
+        <translation>%1 Seiten nach %2 geschrieben</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>About this board</source>
+        <translation>Über diese Tafel</translation>
+    </message>
+    <message>
+        <source>A board to draw and teach on, version %1.</source>
+        <translation>Eine Tafel zum Zeichnen und Unterrichten, Version %1.</translation>
+    </message>
+    <message>
+        <source>Shapes</source>
+        <translation>Formen</translation>
+    </message>
+    <message>
+        <source>Search shapes</source>
+        <translation>Formen suchen</translation>
+    </message>
+    <message>
+        <source>%1: click, then drag on the page</source>
+        <translation>%1: anklicken, dann auf der Seite aufziehen</translation>
+    </message>
+    <message>
+        <source>No shapes were found. Start with --plugins and the folder that has them.</source>
+        <translation>Es wurden keine Formen gefunden. Mit --plugins und dem Ordner starten, der sie enthält.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>%1 objects</source>
+        <translation>%1 Objekte</translation>
+    </message>
+    <message>
+        <source>selected: %1</source>
+        <translation>ausgewählt: %1</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>No fill</source>
+        <translation>Keine Füllung</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Fill colour</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>Second colour</source>
+        <translation>Zweite Farbe</translation>
+    </message>
+    <message>
+        <source>Direction of the gradient</source>
+        <translation>Richtung des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Choose picture…</source>
+        <translation>Bild wählen…</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>The picture could not be read</source>
+        <translation>Das Bild konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>More colours…</source>
+        <translation>Weitere Farben…</translation>
+    </message>
+    <message>
+        <source>Choose colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Kontur</translation>
+    </message>
+    <message>
+        <source>Outline colour</source>
+        <translation>Konturfarbe</translation>
+    </message>
+    <message>
+        <source>Outline width</source>
+        <translation>Konturbreite</translation>
+    </message>
+    <message>
+        <source>Outline style</source>
+        <translation>Konturart</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Dashed</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Dash, dot</source>
+        <translation>Strich, Punkt</translation>
+    </message>
+    <message>
+        <source>Dash, two dots</source>
+        <translation>Strich, zwei Punkte</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Position and size</source>
+        <translation>Lage und Größe</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Draw your first shape</source>
+        <translation>Die erste Form zeichnen</translation>
+    </message>
+    <message>
+        <source>Pick one on the left, then drag on the page, or drag it here.</source>
+        <translation>Links eine auswählen und auf der Seite aufziehen oder hierher ziehen.</translation>
+    </message>
+    <message>
+        <source>Click to select · drag over shapes to select several · Ctrl+wheel zooms</source>
+        <translation>Klick wählt aus · Aufziehen wählt mehrere aus · Strg+Mausrad ändert die Ansichtsgröße</translation>
+    </message>
+    <message>
+        <source>Drag to draw, click for the usual size · Shift: equal sides · Esc: cancel</source>
+        <translation>Ziehen zeichnet, ein Klick nimmt die übliche Größe · Umschalt: gleiche Seiten · Esc: abbrechen</translation>
+    </message>
+    <message>
+        <source>Drag to move · drag handles to reshape · arrow keys: 1, with Shift 10 · Ctrl+D duplicates</source>
+        <translation>Ziehen verschiebt · Griffe verformen · Pfeiltasten: 1, mit Umschalt 10 · Strg+D dupliziert</translation>
+    </message>
+    <message>
+        <source>Plug-ins that could not be loaded</source>
+        <translation>Nicht geladene Erweiterungen</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+</TS>
