@@ -11,6 +11,7 @@
 #include <framework/cpagebgprop.h>
 #include <framework/cundoredo.h>
 
+#include <QtCore/QtMath>
 #include <QtWidgets/QUndoStack>
 
 #include <array>

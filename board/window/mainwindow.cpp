@@ -31,6 +31,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAction>

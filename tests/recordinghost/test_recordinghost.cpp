@@ -2,11 +2,12 @@
 #include <framework/cundoredo.h>
 #include <framework/cwbundocmd.h>
 #include <framework/ijsonutil.h>
-#include <recordinghost/log/calllog.h>
 #include <recordinghost/framework/recordingframework.h>
+#include <recordinghost/log/calllog.h>
 #include <recordinghost/svgbase/recordingsvg.h>
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 

@@ -1,5 +1,6 @@
 #include <support/shapefixture.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
 using support::ShapeFixture;

@@ -2,6 +2,7 @@
 
 #include <support/shapefixture.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
 #include <limits>

@@ -1,6 +1,7 @@
 #include <support/exact.h>
 #include <support/shapefixture.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
 #include <cmath>

@@ -134,8 +134,8 @@ private:
 template<int Type, Shape::Sizing sizing = Shape::Redrawn> class ShapeOfType : public Shape
 {
 public:
-    explicit ShapeOfType(CSVGObj *owner)
-        : Shape(owner, Type, sizing)
+    explicit ShapeOfType(CSVGObj *object)
+        : Shape(object, Type, sizing)
     {
     }
 };

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QtCore/QStringList>
+
 namespace Svg {
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include <QtCore/QVarLengthArray>
+
 namespace Svg {
 
 namespace {

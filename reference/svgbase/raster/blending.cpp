@@ -3,6 +3,7 @@
 #include "grammar/linearlight.h"
 
 #include <QtCore/QtMath>
+#include <QtGui/QPainter>
 
 #include <algorithm>
 #include <cmath>
