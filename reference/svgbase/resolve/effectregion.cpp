@@ -11,11 +11,11 @@ const Length regionSize{120, Unit::Percent};
 
 } // namespace
 
-QRectF effectRegion(const Attributes &attributes, bool ofBounds, const RegionContext &context)
+QRectF effectRegion(const Node &effect, bool ofBounds, const RegionContext &context)
 {
     const LengthContext lengths{ofBounds ? QSizeF(1, 1) : context.viewport, context.fontSize};
     const auto read = [&](AttributeId id, Axis axis, const Length &fallback) {
-        return toUserUnits(parseLength(attributes.value(id)).value_or(fallback), axis, lengths);
+        return toUserUnits(parseLength(effect.attributes.value(id)).value_or(fallback), axis, lengths);
     };
     const QRectF region(read(AttributeId::X, Axis::Horizontal, regionStart),
                         read(AttributeId::Y, Axis::Vertical, regionStart),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tree/attributes.h"
+#include "tree/tree.h"
 
 #include <QtCore/QRectF>
 
@@ -17,6 +17,6 @@ struct RegionContext
 /// The region that "x", "y", "width" and "height" give, by default the bounds with a tenth of their size on every
 /// side (CSS Masking 1 §7.3, Filter Effects 1 §7). Numbers are shares of the bounds, or user units. Empty when a
 /// size is not positive.
-QRectF effectRegion(const Attributes &attributes, bool ofBounds, const RegionContext &context);
+QRectF effectRegion(const Node &effect, bool ofBounds, const RegionContext &context);
 
 } // namespace Svg

@@ -294,4 +294,16 @@ FilterPrimitive readPrimitive(const Tree &tree, NodeIndex node, const ComputedSt
     return PrimitiveReader(tree, node, style, units).read();
 }
 
+QString imageReference(const Node &node)
+{
+    const bool plain = node.attributes.contains(AttributeId::Href);
+    return node.attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref);
+}
+
+QTransform filterImageFit(const Node &node, const ImageContent &image, const QRectF &region)
+{
+    const AspectRatio ratio = parseAspectRatio(node.attributes.value(AttributeId::PreserveAspectRatio));
+    return contentFit(image, region, ratio);
+}
+
 } // namespace Svg

@@ -2,6 +2,7 @@
 
 #include "properties/computedstyle.h"
 #include "resolve/filterprimitive.h"
+#include "resolve/imageplacement.h"
 #include "tree/tree.h"
 
 namespace Svg {
@@ -17,5 +18,10 @@ struct PrimitiveUnits
 /// Reads a filter primitive (Filter Effects 1 §9). Values that break their grammar leave their defaults.
 FilterPrimitive readPrimitive(const Tree &tree, NodeIndex node, const ComputedStyle &style,
                               const PrimitiveUnits &units);
+
+/// The reference of an "feImage".
+QString imageReference(const Node &node);
+/// Fits the image into the subregion of its "feImage" (Filter Effects 1 §9.12).
+QTransform filterImageFit(const Node &node, const ImageContent &image, const QRectF &region);
 
 } // namespace Svg

@@ -202,4 +202,9 @@ FilterPrimitive functionPrimitive(const FilterFunction &function, const Computed
     return primitive;
 }
 
+QVector<FilterFunction> filterFunctions(const ComputedStyle &style)
+{
+    return parseFilterList(style.effects->filter, style.effects->filterUnits).value_or(QVector<FilterFunction>());
+}
+
 } // namespace Svg

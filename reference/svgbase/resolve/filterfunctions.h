@@ -9,6 +9,9 @@ namespace Svg {
 /// The primitive that a filter function stands for (Filter Effects 1 §13); it works on colours as they are encoded.
 FilterPrimitive functionPrimitive(const FilterFunction &function, const ComputedStyle &style);
 
+/// The functions of the "filter" property; none for a list that breaks the grammar.
+QVector<FilterFunction> filterFunctions(const ComputedStyle &style);
+
 /// Matrices of "feColorMatrix" (Filter Effects 1 §9.6).
 std::array<double, 20> identityMatrix();
 std::array<double, 20> saturateMatrix(double amount);

@@ -1,6 +1,6 @@
 #include "scene/effectbuilder.h"
 
-#include "grammar/basicshapes.h"
+#include "resolve/effectattributes.h"
 #include "resolve/effectregion.h"
 #include "resolve/resolver.h"
 #include "scene/filterbuilder.h"
@@ -13,9 +13,6 @@
 namespace Svg {
 
 namespace {
-
-const QLatin1String objectBoundingBox("objectBoundingBox");
-const QLatin1String userSpaceOnUse("userSpaceOnUse");
 
 class EffectBuilder
 {
@@ -84,12 +81,10 @@ bool EffectBuilder::buildClip(NodeIndex clip, DisplayItems *items)
     if (OpenReference::isOpen(m_context, clip))
         return false;
     const OpenReference open(m_context, clip);
-    const Attributes &attributes = element(clip).attributes;
     const Resolver resolver = m_context.document.resolver();
     const QTransform own = resolver.ownTransform(clip, *m_context.document.facts(clip));
-    const bool ofBounds = attributes.value(QStringLiteral("clipPathUnits")) == objectBoundingBox;
     FactsPointer facts;
-    if (!contentFacts(clip, ofBounds, own, &facts))
+    if (!contentFacts(clip, isClipOfBounds(element(clip)), own, &facts))
         return false;
     *items = m_context.content.children(m_context, clip, facts, ContentUse::Clipping);
     if (items->isEmpty())
@@ -121,18 +116,13 @@ QRectF EffectBuilder::shapeBox(ShapeBox box)
 // False when nothing is left.
 bool EffectBuilder::addClipShape(LayerEffects *layer)
 {
-    const std::optional<ClipShape> shape = parseClipShape(m_facts->style->effects->clipShape);
-    if (!shape)
+    const std::optional<ShapeBox> box = clipShapeBox(*m_facts->style);
+    if (!box)
         return true;
-    const QRectF box = shapeBox(shape->box);
-    QPainterPath path;
-    path.addRect(box);
-    if (!shape->function.isEmpty())
-        path = basicShape(shape->function, box, m_facts->style->font.size).value_or(QPainterPath());
     layer->hasRegion = true;
-    layer->region = path;
+    layer->region = clipShape(*m_facts->style, shapeBox(*box));
     layer->regionToDocument = m_space;
-    return !path.boundingRect().isEmpty();
+    return !layer->region.boundingRect().isEmpty();
 }
 
 bool EffectBuilder::addClip(LayerEffects *layer)
@@ -158,14 +148,13 @@ bool EffectBuilder::buildMask(NodeIndex mask, MaskMode mode, LayerEffects *layer
     if (OpenReference::isOpen(m_context, mask))
         return false;
     const OpenReference open(m_context, mask);
-    const Attributes &attributes = element(mask).attributes;
-    const bool regionOfBounds = attributes.value(QStringLiteral("maskUnits")) != userSpaceOnUse;
-    const bool ofBounds = attributes.value(QStringLiteral("maskContentUnits")) == objectBoundingBox;
+    const EffectUnits units = maskUnits(element(mask));
     FactsPointer facts;
-    if (!contentFacts(mask, ofBounds, QTransform(), &facts) || (regionOfBounds && bounds().isEmpty()))
+    if (!contentFacts(mask, units.contentOfBounds, QTransform(), &facts) ||
+        (units.regionOfBounds && bounds().isEmpty()))
         return false;
     const QRectF area =
-        effectRegion(attributes, regionOfBounds, {bounds(), facts->viewport, facts->style->font.size});
+        effectRegion(element(mask), units.regionOfBounds, {bounds(), facts->viewport, facts->style->font.size});
     if (area.isEmpty())
         return false;
     const auto region = std::make_shared<LayerEffects>();

@@ -1,6 +1,7 @@
 #include "scene/filterbuilder.h"
 
 #include "grammar/inputlimits.h"
+#include "resolve/effectattributes.h"
 #include "resolve/effectregion.h"
 #include "resolve/filterattributes.h"
 #include "resolve/filterfunctions.h"
@@ -50,11 +51,8 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     const auto known = m_context.filterImages.constFind(node);
     if (known != m_context.filterImages.constEnd())
         return *known;
-    const Attributes &attributes = element(node).attributes;
-    const bool plain = attributes.contains(AttributeId::Href);
     Problem problem;
-    const ImagePointer read = m_context.document.resolver().image(
-        attributes.value(plain ? AttributeId::Href : AttributeId::XlinkHref), &problem);
+    const ImagePointer read = m_context.document.resolver().image(imageReference(element(node)), &problem);
     m_context.filterImages.insert(node, read);
     return read;
 }
@@ -101,8 +99,7 @@ DisplayItems FilterBuilder::elementImage(NodeIndex node, const PrimitiveUnits &u
 DisplayItems FilterBuilder::shownImage(NodeIndex node, const PrimitiveUnits &units, const QRectF &whole,
                                        const PrimitiveRegion &region)
 {
-    const Attributes &attributes = element(node).attributes;
-    if (!hrefTarget(attributes).isEmpty())
+    if (!hrefTarget(element(node).attributes).isEmpty())
         return elementImage(node, units, region);
     auto *facts = new Facts;
     const FactsPointer holder(facts);
@@ -113,8 +110,7 @@ DisplayItems FilterBuilder::shownImage(NodeIndex node, const PrimitiveUnits &uni
     facts->toDocument = m_target.toDocument;
     facts->localBounds = QRectF(region.x.value_or(whole.x()), region.y.value_or(whole.y()),
                                 region.width.value_or(whole.width()), region.height.value_or(whole.height()));
-    const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
-    facts->ownFitting().fit = contentFit(*facts->image, facts->localBounds, ratio);
+    facts->ownFitting().fit = filterImageFit(element(node), *facts->image, facts->localBounds);
     DisplayItems items;
     appendImage(m_context, node, holder, &items);
     return items;
@@ -142,9 +138,7 @@ bool FilterBuilder::takePrimitive(NodeIndex filter, const FilterStep &step)
 
 bool FilterBuilder::addPrimitives(NodeIndex filter, FilterStep *step)
 {
-    const PrimitiveUnits units{element(filter).attributes.value(QStringLiteral("primitiveUnits")) ==
-                                   QLatin1String("objectBoundingBox"),
-                               m_target.bounds, m_target.viewport};
+    const PrimitiveUnits units{filterUnits(element(filter)).contentOfBounds, m_target.bounds, m_target.viewport};
     for (NodeIndex at = element(filter).firstChild; at != noNode; at = element(at).next) {
         const ElementKind kind = element(at).kind;
         if (!isPrimitive(kind))
@@ -166,13 +160,12 @@ bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
 {
     if (filter == noNode || element(filter).kind != ElementKind::Filter)
         return false;
-    const Attributes &attributes = element(filter).attributes;
-    const bool ofBounds = attributes.value(QStringLiteral("filterUnits")) != QLatin1String("userSpaceOnUse");
+    const bool ofBounds = filterUnits(element(filter)).regionOfBounds;
     if (ofBounds && m_target.bounds.isEmpty())
         return false;
     FilterStep step;
     const double fontSize = m_context.document.facts(filter)->style->font.size;
-    step.region = effectRegion(attributes, ofBounds, {m_target.bounds, m_target.viewport, fontSize});
+    step.region = effectRegion(element(filter), ofBounds, {m_target.bounds, m_target.viewport, fontSize});
     if (!addPrimitives(filter, &step))
         return false;
     *drawn = *drawn && !step.region->isEmpty() && !step.primitives.isEmpty();
@@ -185,16 +178,15 @@ bool FilterBuilder::addElement(NodeIndex filter, Filter *result, bool *drawn)
 BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target)
 {
     BuiltFilter result;
-    const std::optional<QVector<FilterFunction>> functions =
-        parseFilterList(target.style.effects->filter, target.style.effects->filterUnits);
-    if (!functions || functions->isEmpty())
+    const QVector<FilterFunction> functions = filterFunctions(target.style);
+    if (functions.isEmpty())
         return result;
     const auto filter = std::make_shared<Filter>();
     filter->toDocument = target.toDocument;
     filter->fillPaint = target.fillPaint;
     filter->strokePaint = target.strokePaint;
     FilterBuilder builder(context, target);
-    for (const FilterFunction &function : *functions) {
+    for (const FilterFunction &function : functions) {
         if (function.kind != FilterFunction::Reference)
             filter->steps.append({std::nullopt, {functionPrimitive(function, target.style)}, {}});
         else if (!builder.addElement(context.document.tree().findId(function.id), filter.get(), &result.drawn))

@@ -1,8 +1,7 @@
 #include "scene/patternbuilder.h"
 
 #include "grammar/inputlimits.h"
-#include "grammar/viewboxes.h"
-#include "resolve/patternchain.h"
+#include "resolve/patternplaces.h"
 #include "scene/openreference.h"
 
 namespace Svg {
@@ -16,8 +15,6 @@ public:
         : m_context(context)
         , m_target(target)
         , m_chain(context.document.tree(), pattern)
-        , m_ofBounds(m_chain.isTileOfBounds())
-        , m_fontSize(context.document.facts(pattern)->style->font.size)
     {
         m_pattern.node = pattern;
         m_pattern.opacity = target.opacity;
@@ -26,65 +23,14 @@ public:
     PatternPointer build();
 
 private:
-    bool placeTile();
-    bool placeContent(QTransform *toPattern, QSizeF *viewport) const;
-    double length(const char *name, Axis axis) const;
-    QTransform ownTransform() const;
     uint key() const;
     PatternPointer known() const;
 
     BuildContext &m_context;
     const PatternTarget &m_target;
     PatternChain m_chain;
-    bool m_ofBounds;
-    /// Of the pattern's own element, user units.
-    double m_fontSize;
     Pattern m_pattern;
 };
-
-double PatternBuilder::length(const char *name, Axis axis) const
-{
-    const QSizeF base = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
-    const Length length = parseLength(m_chain.value(QString(QLatin1String(name)))).value_or(Length());
-    return toUserUnits(length, axis, {base, m_fontSize});
-}
-
-bool PatternBuilder::placeTile()
-{
-    const QRectF box(length("x", Axis::Horizontal), length("y", Axis::Vertical), length("width", Axis::Horizontal),
-                     length("height", Axis::Vertical));
-    const QRectF &b = m_target.bounds;
-    m_pattern.tile = box;
-    if (m_ofBounds)
-        m_pattern.tile = QRectF(b.x() + box.x() * b.width(), b.y() + box.y() * b.height(), box.width() * b.width(),
-                                box.height() * b.height());
-    return box.width() > 0 && box.height() > 0 && !m_pattern.tile.isEmpty();
-}
-
-// The content starts at the corner of the tile.
-bool PatternBuilder::placeContent(QTransform *toPattern, QSizeF *viewport) const
-{
-    const QRectF &tile = m_pattern.tile;
-    const QString boxText = m_chain.value(QStringLiteral("viewBox"));
-    *viewport = m_target.viewport;
-    const std::optional<QRectF> box = parseViewBox(boxText);
-    if (box) {
-        const AspectRatio ratio = parseAspectRatio(m_chain.value(QStringLiteral("preserveAspectRatio")));
-        const std::optional<QTransform> fitted = viewBoxTransform(*box, tile, ratio);
-        *toPattern = fitted.value_or(QTransform());
-        *viewport = box->size();
-        return fitted.has_value();
-    }
-    const QSizeF scale = m_chain.isContentOfBounds() ? m_target.bounds.size() : QSizeF(1, 1);
-    *toPattern = QTransform(scale.width(), 0, 0, scale.height(), tile.x(), tile.y());
-    return !m_chain.isContentOfBounds() || !m_target.bounds.isEmpty();
-}
-
-QTransform PatternBuilder::ownTransform() const
-{
-    const QSizeF box = m_ofBounds ? QSizeF(1, 1) : m_target.viewport;
-    return resolved(m_chain.transform(), QRectF(QPointF(), box), m_fontSize);
-}
 
 uint PatternBuilder::key() const
 {
@@ -117,7 +63,7 @@ PatternPointer PatternBuilder::build()
     const NodeIndex holder = m_chain.holder();
     if (holder == noNode || !OpenReference::isAllowed(m_context, m_pattern.node))
         return nullptr;
-    if (m_ofBounds || m_chain.isContentOfBounds())
+    if (m_chain.isTileOfBounds() || m_chain.isContentOfBounds())
         m_pattern.bounds = m_target.bounds;
     m_pattern.viewport = m_target.viewport;
     if (const PatternPointer pattern = known())
@@ -128,13 +74,16 @@ PatternPointer PatternBuilder::build()
                              m_pattern.node);
         return nullptr;
     }
+    const double fontSize = m_context.document.facts(m_pattern.node)->style->font.size;
+    const std::optional<PatternPlace> place = patternPlace(m_chain, m_target.bounds, m_target.viewport, fontSize);
+    if (!place)
+        return nullptr;
+    m_pattern.tile = place->tile;
+    m_pattern.toTarget = place->toTarget;
     auto *facts = new Facts;
     const FactsPointer content(facts);
-    if (!placeTile() || !placeContent(&facts->toDocument, &facts->viewport))
-        return nullptr;
-    m_pattern.toTarget = ownTransform();
-    if (!m_pattern.toTarget.isInvertible())
-        return nullptr;
+    facts->toDocument = place->toPattern;
+    facts->viewport = place->contentViewport;
     facts->style = m_context.document.facts(holder)->style;
     const OpenReference open(m_context, m_pattern.node);
     m_pattern.items = m_context.content.children(m_context, holder, content, ContentUse::Drawing);
