@@ -139,7 +139,8 @@ void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
 {
     update();
-    const bool isNextPicture = id == AppearanceChanged && d->played.isNextPicture(*baseObject(*this));
+    CBaseObject *item = baseObject(*this);
+    const bool isNextPicture = item && id == AppearanceChanged && d->played.isNextPicture(*item);
     if (!isNextPicture && (id == SizeChanged || id == AppearanceChanged)) {
         d->dropRegion();
     }
@@ -150,7 +151,7 @@ void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
     if (!isNextPicture) {
         noteChange(*this);
     }
-    Q_EMIT page->objectPropertyChanged(baseObject(*this), id, value);
+    Q_EMIT page->objectPropertyChanged(item, id, value);
 }
 
 void CPSRootObject::onCreateFinished(bool)

@@ -107,6 +107,7 @@ void CPSRootObject::setFillProp(CPageBgProp *prop, bool record)
     }
     const bool keepsPresent = isColorOnly(*prop) && showsMoreThanColor(*fillProp) && sameColor(*prop, *fillProp);
     if (!keepsPresent) {
+        // A copy: it may be the object's own.
         d->setFill(CPageBgProp(*prop));
     }
     update();

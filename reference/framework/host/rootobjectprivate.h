@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class CBaseObject;
 class GripDrag;
 struct HostState;
 
