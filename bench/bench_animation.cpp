@@ -12,6 +12,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEvent>
 #include <QtCore/QEventLoop>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>

@@ -120,7 +120,7 @@ std::unique_ptr<Document> &sharedDocument(int count)
 QByteArray fileOf(int count, DocumentFormat format)
 {
     std::unique_ptr<Document> &document = sharedDocument(count);
-    const QByteArray bytes = encodeDocument(*document, format);
+    QByteArray bytes = encodeDocument(*document, format);
     document.reset();
     return bytes;
 }

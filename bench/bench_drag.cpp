@@ -86,7 +86,8 @@ void dragStepPeer(benchmark::State &state, const QString &kindId)
 
 void registerDragBenchmarks()
 {
-    for (const QString &kind : shapeKinds()) {
+    const QStringList kinds = shapeKinds();
+    for (const QString &kind : kinds) {
         if (beginDrag(kind).grip.isNull())
             continue;
         const std::string name = templateName(kind).toStdString();

@@ -21,7 +21,7 @@ void onOtherThread(const std::function<void()> &work)
 
 void copyPicture(benchmark::State &state)
 {
-    const std::unique_ptr<CBaseObject> object = makeShape(shapeKinds().first(), QSizeF(side, side));
+    const std::unique_ptr<CBaseObject> object = makeShape(shapeKinds().constFirst(), QSizeF(side, side));
     onOtherThread([&] {
         QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
@@ -32,7 +32,7 @@ void copyPicture(benchmark::State &state)
 
 void copyPicturePeer(benchmark::State &state)
 {
-    const std::unique_ptr<CBaseObject> object = makeShape(shapeKinds().first(), QSizeF(side, side));
+    const std::unique_ptr<CBaseObject> object = makeShape(shapeKinds().constFirst(), QSizeF(side, side));
     QImage picture(side, side, QImage::Format_ARGB32);
     picture.fill(Qt::transparent);
     QPainter picturePainter(&picture);

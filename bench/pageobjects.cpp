@@ -17,7 +17,8 @@ const pagehost::ObjectRegistry &shapeRegistry()
 QStringList shapeKinds()
 {
     QStringList ids;
-    for (const pagehost::ObjectKind &kind : shapeRegistry().kinds())
+    const QVector<pagehost::ObjectKind> kinds = shapeRegistry().kinds();
+    for (const pagehost::ObjectKind &kind : kinds)
         ids.append(kind.id);
     return ids;
 }

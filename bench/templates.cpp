@@ -22,7 +22,8 @@ BenchTemplate readTemplate(const QString &path)
 QVector<BenchTemplate> readTemplates()
 {
     QVector<BenchTemplate> templates;
-    for (const QString &folder : QStringLiteral(GLIOLOLOK_TEMPLATES).split(QLatin1Char(':'))) {
+    const QStringList folders = QStringLiteral(GLIOLOLOK_TEMPLATES).split(QLatin1Char(':'));
+    for (const QString &folder : folders) {
         QDirIterator files(folder, {QStringLiteral("*.svg")}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext())
             templates.append(readTemplate(files.next()));

@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     const Svg::PathData read = Svg::parsePathData(text, &segments);
     require(read.errorAt >= -1 && read.errorAt <= text.size(), "an error stands inside the text");
     require(read.path == Svg::parsePathData(text).path, "segments do not change the path");
-    for (const Svg::PathSegment &segment : segments)
+    for (const Svg::PathSegment &segment : qAsConst(segments))
         require(qAbs(segment.to.x()) <= Svg::Limits::coordinate && qAbs(segment.to.y()) <= Svg::Limits::coordinate,
                 "a segment ends in range");
     const QVector<Svg::MarkerVertex> vertices = Svg::verticesOf(segments);

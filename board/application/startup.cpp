@@ -71,7 +71,8 @@ void printProblem(const pagehost::PluginReport &report)
 
 void printProblems(const Workspace &workspace)
 {
-    for (const pagehost::PluginReport &report : workspace.pluginProblems())
+    const QVector<pagehost::PluginReport> problems = workspace.pluginProblems();
+    for (const pagehost::PluginReport &report : problems)
         printProblem(report);
     QObject::connect(&workspace, &Workspace::pluginProblemFound, &workspace, printProblem);
 }
@@ -81,7 +82,7 @@ bool loadFile(Workspace &workspace, const QString &file)
 {
     pagehost::OpenResult result = pagehost::openDocument(QFileInfo(file).absoluteFilePath(), workspace.registry());
     QTextStream errors(stderr);
-    for (const pagehost::FileMessage &message : result.messages)
+    for (const pagehost::FileMessage &message : qAsConst(result.messages))
         errors << pagehost::describe(message, workspace.localizer()) << '\n';
     if (!result.document)
         return false;

@@ -34,7 +34,7 @@ constexpr double copyOffset = 20;
 
 void moveBy(const QVector<CBaseObject *> &objects, const QPointF &delta)
 {
-    for (CBaseObject *object : objects)
+    for (CBaseObject *object : qAsConst(objects))
         object->setPos(object->getPos() + delta, false);
 }
 
@@ -131,14 +131,14 @@ ClipboardController::Pasted ClipboardController::read(const QMimeData &data)
         QVector<pagehost::FileMessage> messages;
         objects = pagehost::decodeObjects(data.data(pagehost::objectsMimeType()), m_workspace->registry(),
                                           &messages, m_view->page());
-        for (const pagehost::FileMessage &message : messages)
+        for (const pagehost::FileMessage &message : qAsConst(messages))
             problems.append(pagehost::describe(message, m_workspace->localizer()));
     } else {
         QStringList unreadable;
         objects = makeObjects(data, m_workspace->registry(), unreadable);
-        for (CBaseObject *object : objects)
+        for (CBaseObject *object : qAsConst(objects))
             finishForPage(object, m_view->page(), m_view->page()->rect().topLeft());
-        for (const QString &name : unreadable)
+        for (const QString &name : qAsConst(unreadable))
             problems.append(m_workspace->text("IDS_BOARD_NOT_DROPPED").arg(name));
     }
     const char *key = objects.isEmpty() ? "IDS_BOARD_NOT_PASTED" : "IDS_BOARD_PASTED_IN_PART";

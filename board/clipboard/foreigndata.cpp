@@ -63,7 +63,8 @@ QVector<CBaseObject *> fromFiles(const QMimeData &data, const pagehost::ObjectRe
                                  QStringList &unreadable)
 {
     QVector<CBaseObject *> objects;
-    for (const QUrl &url : data.urls()) {
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl &url : urls) {
         CBaseObject *object = url.isLocalFile() ? fromFile(url.toLocalFile(), registry) : nullptr;
         if (object)
             objects.append(object);
@@ -75,7 +76,8 @@ QVector<CBaseObject *> fromFiles(const QMimeData &data, const pagehost::ObjectRe
 
 CBaseObject *fromFormats(const QMimeData &data, const pagehost::ObjectRegistry &registry)
 {
-    for (const QString &type : registry.dataTypes()) {
+    const QStringList types = registry.dataTypes();
+    for (const QString &type : types) {
         if (!data.hasFormat(type))
             continue;
         if (CBaseObject *object = registry.createFromData(type, data.data(type)))

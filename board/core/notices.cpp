@@ -55,7 +55,8 @@ void Notices::remove(const QString &id)
 {
     if (id.isEmpty())
         return;
-    for (QFrame *bar : findChildren<QFrame *>(id, Qt::FindDirectChildrenOnly))
+    const QList<QFrame *> bars = findChildren<QFrame *>(id, Qt::FindDirectChildrenOnly);
+    for (QFrame *bar : bars)
         close(bar);
 }
 

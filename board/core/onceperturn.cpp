@@ -6,7 +6,7 @@ OncePerTurn::OncePerTurn(const std::function<void()> &work)
     : m_work(work)
 {
     m_timer.setSingleShot(true);
-    QObject::connect(&m_timer, &QTimer::timeout, [this] { m_work(); });
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { m_work(); });
 }
 
 void OncePerTurn::request()

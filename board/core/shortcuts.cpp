@@ -7,7 +7,8 @@ namespace board {
 QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QList<QKeySequence> &ours)
 {
     QList<QKeySequence> keys = ours;
-    for (const QKeySequence &binding : QKeySequence::keyBindings(key)) {
+    const QList<QKeySequence> bindings = QKeySequence::keyBindings(key);
+    for (const QKeySequence &binding : bindings) {
         if (!keys.contains(binding))
             keys.append(binding);
     }

@@ -163,7 +163,8 @@ pagehost::TextTable boardTexts(const QString &language)
     pagehost::TextTable texts;
     if (language != english && !translator.load(language, translationFolder))
         return texts;
-    for (const TextEntry &entry : textEntries()) {
+    const QVector<TextEntry> entries = textEntries();
+    for (const TextEntry &entry : entries) {
         const QString text = language == english ? QString::fromUtf8(entry.english)
                                                  : translator.translate(textContext, entry.english);
         if (!text.isEmpty())

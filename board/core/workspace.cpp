@@ -54,7 +54,8 @@ void Workspace::loadPlugins(const QStringList &folders)
 QVector<pagehost::PluginReport> Workspace::pluginProblems() const
 {
     QVector<pagehost::PluginReport> problems;
-    for (const pagehost::PluginReport &report : m_registry.reports()) {
+    const QVector<pagehost::PluginReport> reports = m_registry.reports();
+    for (const pagehost::PluginReport &report : reports) {
         if (!report.problem.isEmpty())
             problems.append(report);
     }

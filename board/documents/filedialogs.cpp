@@ -109,7 +109,8 @@ void FileDialogs::askForFolder(const QString &title, const QString &folder, cons
 void FileDialogs::askToReplace(const QStringList &files, const Work &replace) const
 {
     QStringList names;
-    for (const QString &file : files.mid(0, mostNames))
+    const QStringList named = files.mid(0, mostNames);
+    for (const QString &file : named)
         names.append(QFileInfo(file).fileName());
     if (files.size() > mostNames)
         names.append(m_workspace->text("IDS_BOARD_MORE_PROBLEMS").arg(files.size() - mostNames));

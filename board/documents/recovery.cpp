@@ -24,7 +24,8 @@ constexpr int pictureWidth = 120;
 /// A page with something on it; the first one where all are empty.
 pagehost::Page *telling(const pagehost::Document &document)
 {
-    for (pagehost::Page *page : document.pages()) {
+    const QVector<pagehost::Page *> pages = document.pages();
+    for (pagehost::Page *page : pages) {
         if (page->objectCount() > 0)
             return page;
     }
@@ -67,7 +68,8 @@ void Recovery::offer()
 {
     SaveFolders::tidy();
     m_autosave.tidy();
-    for (const pagehost::RecoverableDocument &copy : m_autosave.recoverable())
+    const QVector<pagehost::RecoverableDocument> copies = m_autosave.recoverable();
+    for (const pagehost::RecoverableDocument &copy : copies)
         show(offerOf(copy));
 }
 
@@ -122,7 +124,7 @@ void Recovery::recover(const pagehost::RecoverableDocument &copy)
         pagehost::OpenResult result = m_autosave.recover(copy, m_workspace->registry());
         if (!result.document) {
             QStringList lines;
-            for (const pagehost::FileMessage &message : result.messages)
+            for (const pagehost::FileMessage &message : qAsConst(result.messages))
                 lines.append(pagehost::describe(message, m_workspace->localizer()));
             m_notices->add({m_workspace->text("IDS_BOARD_NOT_OPENED").arg(copy.recoveryFile), lines, {}, {}});
             return;

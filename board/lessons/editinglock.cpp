@@ -18,13 +18,16 @@ EditingLock::EditingLock(QMainWindow *window, PageView *view)
 
 void EditingLock::setLocked(bool locked)
 {
-    for (QAction *title : m_window->menuBar()->actions()) {
+    const QList<QAction *> titles = m_window->menuBar()->actions();
+    for (QAction *title : titles) {
         if (!m_spared.contains(title->menu()))
             title->setEnabled(!locked);
     }
-    for (QToolBar *bar : m_window->findChildren<QToolBar *>())
+    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+    for (QToolBar *bar : bars)
         bar->setEnabled(!locked || m_sparedBars.contains(bar));
-    for (QDockWidget *panel : m_window->findChildren<QDockWidget *>())
+    const QList<QDockWidget *> panels = m_window->findChildren<QDockWidget *>();
+    for (QDockWidget *panel : panels)
         panel->setEnabled(!locked);
     m_view->setAcceptDrops(!locked);
 }

@@ -182,7 +182,8 @@ void LessonBar::showState()
 {
     const bool recording = m_lessons->isRecording();
     const bool playable = m_lessons->chosen() >= 0 && !recording;
-    for (QWidget *part : QList<QWidget *>{m_play, m_timeLine, m_time, m_speed, m_remove})
+    const QList<QWidget *> parts = {m_play, m_timeLine, m_time, m_speed, m_remove};
+    for (QWidget *part : parts)
         part->setVisible(playable);
     m_name->setVisible(playable && m_name->isVisibleTo(this));
     m_list->setVisible(playable && !m_name->isVisibleTo(this));

@@ -43,7 +43,8 @@ Survey surveyOf(const QByteArray &source)
         survey.isSvg |= isRoot && name == QLatin1String("svg");
         survey.hasStyleSheet |= name == QLatin1String("style");
         isRoot = false;
-        for (const QXmlStreamAttribute &attribute : in.attributes()) {
+        const QXmlStreamAttributes attributes = in.attributes();
+        for (const QXmlStreamAttribute &attribute : attributes) {
             if (attribute.qualifiedName() == QLatin1String("id"))
                 survey.ids.insert(attribute.value().toString());
         }
@@ -106,7 +107,8 @@ void writeElement(QXmlStreamWriter &out, const QXmlStreamReader &in, const Surve
                   const QSizeF *rootSize)
 {
     out.writeStartElement(in.qualifiedName().toString());
-    for (const QXmlStreamAttribute &attribute : in.attributes()) {
+    const QXmlStreamAttributes attributes = in.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes) {
         const QStringRef name = attribute.qualifiedName();
         if (!rootSize || !belongsToPlace(name))
             out.writeAttribute(name.toString(),

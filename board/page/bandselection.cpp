@@ -57,7 +57,8 @@ void BandSelection::selectTouched()
     area.addPolygon(m_view->mapToScene(m_band.geometry()));
     area.closeSubpath();
     QVector<CBaseObject *> selected = m_kept;
-    for (CBaseObject *object : m_page->objects()) {
+    const QVector<CBaseObject *> objects = m_page->objects();
+    for (CBaseObject *object : objects) {
         // The rectangles decide most cases, and cheaply.
         const bool touched = object->isVisible() && object->sceneBoundingRect().intersects(area.boundingRect()) &&
                              object->mapToScene(object->shape()).intersects(area);

@@ -12,7 +12,8 @@ namespace {
 QVector<CBaseObject *> movable(const pagehost::Page *page)
 {
     QVector<CBaseObject *> objects;
-    for (CBaseObject *object : page->selectedObjects()) {
+    const QVector<CBaseObject *> selected = page->selectedObjects();
+    for (CBaseObject *object : selected) {
         if (!object->isLocked())
             objects.append(object);
     }

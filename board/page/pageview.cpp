@@ -257,7 +257,8 @@ bool PageView::isNearSelection(const QPoint &pos) const
     QPainterPath area;
     area.addPolygon(mapToScene(around));
     area.closeSubpath();
-    for (const CBaseObject *object : m_page->selectedObjects()) {
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    for (const CBaseObject *object : selected) {
         if (object->mapToScene(object->shape()).intersects(area))
             return true;
     }

@@ -214,7 +214,8 @@ void FillControls::showDifferences(const QVector<CPageBgProp> &fills)
 void FillControls::checkType(int type)
 {
     m_types->setExclusive(false);
-    for (QAbstractButton *button : m_types->buttons())
+    const QList<QAbstractButton *> types = m_types->buttons();
+    for (QAbstractButton *button : types)
         button->setChecked(m_types->id(button) == type);
     m_types->setExclusive(true);
 }

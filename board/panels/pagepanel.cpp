@@ -90,7 +90,8 @@ void PagePanel::rebuild()
     const pagehost::Document *document = m_workspace->document();
     const QSignalBlocker quiet(m_list);
     m_list->clear();
-    for (pagehost::Page *page : document->pages()) {
+    const QVector<pagehost::Page *> pages = document->pages();
+    for (pagehost::Page *page : pages) {
         auto *item = new QListWidgetItem(QString::number(m_list->count() + 1), m_list);
         item->setData(Qt::AccessibleTextRole, m_workspace->text("IDS_BOARD_PAGE_NUMBER").arg(m_list->count()));
         disconnect(page, nullptr, this, nullptr);

@@ -23,7 +23,8 @@ QFont fittingFont(QFont font, const QString &text, int width)
 {
     const auto isTooWide = [&] {
         const QFontMetrics metrics(font);
-        for (const QString &word : text.split(QLatin1Char(' '))) {
+        const QStringList words = text.split(QLatin1Char(' '));
+        for (const QString &word : words) {
             if (metrics.horizontalAdvance(word) > width)
                 return true;
         }

@@ -11,7 +11,8 @@ namespace board {
 QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
 {
     QVector<PaletteEntry> entries;
-    for (const pagehost::ObjectKind &kind : workspace.registry().kinds())
+    const QVector<pagehost::ObjectKind> kinds = workspace.registry().kinds();
+    for (const pagehost::ObjectKind &kind : kinds)
         entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group)});
     const QString basic = workspace.text(pagehost::basicGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));

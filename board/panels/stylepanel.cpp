@@ -125,11 +125,11 @@ void StylePanel::connectControls()
             [this](const QPointF &delta) { pagehost::moveObjects(selection(), delta); });
     connect(m_place, &PlaceControls::sizePicked, this, [this](const QSizeF &size) {
         if (selection().size() == 1)
-            pagehost::resizeObject(selection().first(), size);
+            pagehost::resizeObject(selection().constFirst(), size);
     });
     connect(m_place, &PlaceControls::rotationPicked, this, [this](double degrees) {
         if (selection().size() == 1)
-            pagehost::rotateObjects(selection(), degrees - selection().first()->rotation());
+            pagehost::rotateObjects(selection(), degrees - selection().constFirst()->rotation());
     });
 }
 
@@ -171,7 +171,8 @@ void StylePanel::takeFill(const CPageBgProp &fill)
 void StylePanel::takeOpacity(int opacity)
 {
     GetFramework()->beginUndoGroup(QStringLiteral("IDS_UNDO_FILL"));
-    for (CBaseObject *object : filledOf(selection())) {
+    const QVector<CBaseObject *> filled = filledOf(selection());
+    for (CBaseObject *object : filled) {
         CPageBgProp fill = *object->getFillProp();
         fill.setOpacity(opacity);
         QColor color = fill.fillColor();

@@ -71,7 +71,8 @@ double pixelsOf(const QString &length)
 QStringList pictureTypes()
 {
     QStringList types{svgType};
-    for (const QByteArray &type : QImageReader::supportedMimeTypes()) {
+    const QList<QByteArray> supported = QImageReader::supportedMimeTypes();
+    for (const QByteArray &type : supported) {
         if (!type.startsWith("image/svg"))
             types.append(QString::fromLatin1(type));
     }

@@ -46,7 +46,7 @@ QMap<QString, QString> Text::all(const QString &language)
     const bool english = language == QLatin1String("en");
     if (!english && language != QLatin1String("de"))
         return texts;
-    for (const Text *text : knownTexts())
+    for (const Text *text : qAsConst(knownTexts()))
         texts.insert(text->key(), english ? text->m_english : text->m_german);
     return texts;
 }

@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 const Text faceText("Face", "Zifferblatt"), digitsText("Digits", "Ziffern"), romanText("Roman", "Römisch"),

@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 /// A pendulum that swings as far as its control point, the bob, is pulled; a longer one swings more slowly.

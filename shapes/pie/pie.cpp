@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 /// A piece of a pie: the part between its two control points on the rim, clockwise.

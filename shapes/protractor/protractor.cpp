@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 /// A protractor: the control point turns its pointer in steps of a degree, and the angle is shown beside the

@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 const Text cornersText("Corners", "Zacken");

@@ -1,5 +1,7 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 /// A triangle whose corners can be dragged anywhere unless it would become a line.

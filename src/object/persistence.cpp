@@ -135,5 +135,5 @@ void CSVGObj::regenRegionShape(QGraphicsItem *item)
         svgBase && svgBase->getSVGType() != RectangularRegionShape && svgBase->getOutlinePath(regionPath);
     if (!hasOutline)
         regionPath->addRect(clientRect);
-    CPSRootObject::regenRegionShape(item);
+    CPSRootObject::regenRegionShape(item); // Deliberately the root's. clazy:exclude=skipped-base-method
 }

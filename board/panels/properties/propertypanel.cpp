@@ -19,7 +19,8 @@ namespace {
 QVector<AttributeDescription> propertiesOf(CBaseObject *object)
 {
     QVector<AttributeDescription> properties;
-    for (const int id : object->getAttributeIds()) {
+    const QList<int> ids = object->getAttributeIds();
+    for (const int id : ids) {
         if (const auto property = pagehost::attributeOf(object, id))
             properties.append(*property);
     }

@@ -28,7 +28,8 @@ std::optional<double> numberIn(const QJsonValue &value)
 QStringList textsIn(const QJsonValue &value)
 {
     QStringList texts;
-    for (const QJsonValue &entry : value.toArray())
+    const QJsonArray entries = value.toArray();
+    for (const QJsonValue &entry : entries)
         texts.append(entry.toString());
     return texts;
 }
@@ -150,7 +151,8 @@ QVector<SettingControl> parseSettings(const QString &json)
 {
     QVector<SettingControl> controls;
     const QJsonObject panel = QJsonDocument::fromJson(json.toUtf8()).object();
-    for (const QJsonValue &entry : panel.value(QLatin1String("settings")).toArray()) {
+    const QJsonArray settings = panel.value(QLatin1String("settings")).toArray();
+    for (const QJsonValue &entry : settings) {
         if (controls.size() == mostControls)
             break;
         if (const Reading control = readControl(entry.toObject()))

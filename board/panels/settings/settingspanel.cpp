@@ -37,7 +37,8 @@ QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
     }
     QVector<FormRow> rows;
     m_controls.clear();
-    for (const CommonSetting &setting : commonSettings(panels)) {
+    const QVector<CommonSetting> settings = commonSettings(panels);
+    for (const CommonSetting &setting : settings) {
         m_controls.append(setting.control);
         rows.append(rowOf(setting.control, setting.isMixed));
     }

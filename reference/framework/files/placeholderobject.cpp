@@ -52,18 +52,18 @@ void PlaceholderObject::takePlace()
     if (m_record.encoding == ObjectRecord::Stream) {
         QDataStream in(m_record.data);
         in.setVersion(chunks::streamVersion);
-        isKnown = CPSRootObject::load(in);
+        isKnown = CBaseObject::load(in);
     } else if (m_record.encoding != ObjectRecord::Payload) {
         QJsonObject json = QJsonDocument::fromJson(m_record.data).object();
-        isKnown = CPSRootObject::loadJson(json);
+        isKnown = CBaseObject::loadJson(json);
     }
     if (!isKnown || !isWithinReach(mapRectToScene(clientRect))) {
         assignClientRect(*this, QRectF(QPointF(), plainSize));
         CPSRootObject::setPos(plainPos, false);
-        CPSRootObject::setSize(plainSize, false, false);
+        CBaseObject::setSize(plainSize, false, false);
     }
     const QSizeF size = getClientRect().size().expandedTo(QSizeF(smallestSide, smallestSide));
-    CPSRootObject::setSize(size, false, false);
+    CBaseObject::setSize(size, false, false);
     show();
     m_placeInData = {pos(), isLocked()};
     if (m_record.place) {

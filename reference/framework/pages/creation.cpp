@@ -150,7 +150,8 @@ CBaseObject *CreationTool::createAt(PageScene *scene, const QString &kindId, con
         return nullptr;
     }
     CBaseObject *made = nullptr;
-    const auto connection = connect(this, &CreationTool::created, [&](CBaseObject *object) { made = object; });
+    const auto take = [&made](CBaseObject *object) { made = object; };
+    const auto connection = connect(this, &CreationTool::created, this, take); // ends before `made` does
     QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
     event.setButton(Qt::LeftButton);
     event.setScenePos(scenePos);

@@ -3,6 +3,7 @@
 #include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
 
+#include <QtCore/QList>
 #include <QtCore/QtMath>
 
 namespace Svg {

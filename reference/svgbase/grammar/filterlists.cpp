@@ -170,7 +170,8 @@ bool readFunction(QStringView word, FilterUnits units, FilterFunction *function)
 std::optional<QVector<FilterFunction>> parseFilterList(QStringView text, FilterUnits units)
 {
     QVector<FilterFunction> list;
-    for (const QStringView word : words(text.trimmed())) {
+    const QVector<QStringView> items = words(text.trimmed());
+    for (const QStringView word : items) {
         FilterFunction function;
         if (!readFunction(word, units, &function) || list.size() == Limits::filterPrimitives)
             return std::nullopt;

@@ -7,7 +7,7 @@
 namespace Svg {
 
 /// Beginning of a reference to a custom property.
-constexpr QLatin1String variableStart("var(");
+const QLatin1String variableStart("var(");
 /// Most references that one value is made of.
 constexpr int mostReferences = 64;
 

@@ -134,7 +134,8 @@ QVector<Longhand> alignmentLonghands(const QString &value)
         return {{AttributeId::AlignmentBaseline, value}, {AttributeId::BaselineShift, value}};
     QString alignment = usual;
     QString shift = usual;
-    for (const QStringView word : cssWords(value)) {
+    const QVector<QStringView> words = cssWords(value);
+    for (const QStringView word : words) {
         const QString text = word.toString();
         const bool shifts = parseLength(text) || isOneOf(text, {"sub", "super"});
         (shifts ? shift : alignment) = text;

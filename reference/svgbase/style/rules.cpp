@@ -332,7 +332,8 @@ void appendLonghands(const QString &name, const QString &value, bool important, 
         list->append({AttributeId::CustomProperty, name + QLatin1Char(':') + value, important});
         return;
     }
-    for (const Longhand &longhand : longhands(name, value))
+    const QVector<Longhand> all = longhands(name, value);
+    for (const Longhand &longhand : all)
         list->append({longhand.property, longhand.value, important});
 }
 

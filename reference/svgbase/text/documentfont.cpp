@@ -78,7 +78,8 @@ QStringList keysOfRange(const QString &range)
 QStringList sideOf(const QString &characters, const QString &names, int most)
 {
     QStringList keys;
-    for (const QString &part : characters.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+    const QStringList listed = characters.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString &part : listed) {
         if (keys.size() > most)
             return keys;
         if (isCodeRange(part))
@@ -86,7 +87,8 @@ QStringList sideOf(const QString &characters, const QString &names, int most)
         else
             keys.append(characterKey + (part.size() > 1 ? part.trimmed() : part));
     }
-    for (const QString &part : names.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+    const QStringList named = names.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString &part : named) {
         if (keys.size() > most)
             return keys;
         keys.append(nameKey + part.trimmed());
@@ -327,8 +329,9 @@ QVector<int> DocumentFont::keysOf(const QStringList &names)
 QVector<int> DocumentFont::knownKeys(const FontGlyph &glyph, const QString &names) const
 {
     QVector<int> keys;
-    for (const QString &name :
-         QStringList(characterKey + glyph.characters) + sideOf(QString(), names, Limits::glyphNames)) {
+    const QStringList all =
+        QStringList(characterKey + glyph.characters) + sideOf(QString(), names, Limits::glyphNames);
+    for (const QString &name : all) {
         const auto known = m_keys.constFind(name);
         if (known != m_keys.constEnd() && keys.size() < Limits::glyphNames)
             keys.append(*known);

@@ -201,7 +201,7 @@ void TextPainter::addPictures(const PlacedCluster &cluster)
 // The bounding box of a text is that of its character cells (SVG 2 §8.10).
 void TextPainter::addCells()
 {
-    for (const PlacedCluster &cluster : m_clusters) {
+    for (const PlacedCluster &cluster : qAsConst(m_clusters)) {
         if (!cluster.shown)
             continue;
         const FontMeasures &font = m_levels.at(cluster.glyphs.level).font;

@@ -371,7 +371,8 @@ QVector<TextCluster> rowClusters(const TextContent &content, const BidiRun &run,
     double left = 0;
     for (const BidiRun &part : parts) {
         double width = 0;
-        for (TextCluster cluster : Row(content, part, mode, services).clusters()) {
+        const QVector<TextCluster> shaped = Row(content, part, mode, services).clusters();
+        for (TextCluster cluster : shaped) {
             cluster.offset += left;
             width += cluster.advance;
             clusters.append(cluster);
