@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be, and that
-no file names a directory of somebody's machine. Prints every breach and exits with 1 when there is one.
+"""Checks the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be, that
+no file names a directory of somebody's machine, and that comments name the thing first. Prints every breach and exits with 1 when there is one.
 
 Usage: check_rules.py [ROOT]
 """
@@ -24,6 +24,14 @@ TEXT_SUFFIXES = (".h", ".cpp", ".py", ".sh", ".md", ".txt", ".cmake", ".svg", ".
 EXTENSIONLESS_TEXT = {"run", "test"}
 QT_MODULES = {"QtCore", "QtGui", "QtWidgets"}
 STANDARD_HEADER = re.compile(r"^[a-z_0-9]+$|^[a-z]+\.h$|^(sys|linux)/[a-z_]+\.h$")
+# A comment that opens with "What" describes a thing instead of naming it.
+RIDDLES = {
+    ".cpp": re.compile(r"//[/!<]*\s*(@name\s+)?What\b"),
+    ".h": re.compile(r"//[/!<]*\s*(@name\s+)?What\b"),
+    ".cmake": re.compile(r"^\s*#\s*What\b"),
+    ".py": re.compile(r'^\s*(#|""")\s*What\b'),
+    ".sh": re.compile(r"^\s*#\s*What\b"),
+}
 MACHINE_PATH = re.compile(r"(?<![\w./$}\-])/(work|root|home|tmp/bash_jobs|Users)/\w")
 
 
@@ -222,6 +230,12 @@ def golden_breaches(root):
     for folder, files in folders_below(root, "tests/svgbase/golden"):
         if len(files) > MOST_GOLDEN_FILES:
             yield f"tests/svgbase/golden/{folder}: {len(files)} files, more than {MOST_GOLDEN_FILES}"
+def comment_breaches(path, lines):
+    kind = ".cmake" if os.path.basename(path) == "CMakeLists.txt" else os.path.splitext(path)[1]
+    riddle = RIDDLES.get(kind)
+    for number, line in enumerate(lines, 1):
+        if riddle and riddle.search(line):
+            yield f"{path}:{number}: the comment opens with 'What', name the thing instead"
 
 
 def breaches(root):
@@ -234,6 +248,7 @@ def breaches(root):
         yield from include_breaches(root, path, lines)
         yield from length_breaches(path, lines)
         yield from path_breaches(path, lines)
+        yield from comment_breaches(path, lines)
         shape = SHAPE_SOURCE.match(path)
         if shape:
             written = sum(1 for line in lines if line.strip())

@@ -77,7 +77,7 @@ def strongly_connected(graph):
 
 
 class IncludeGraph:
-    """What the files of a tree include of each other. Headers that are not in the tree don't count."""
+    """The includes between files of a tree. Headers that are not in the tree don't count."""
 
     def __init__(self, root):
         self.root = root

@@ -98,6 +98,20 @@ class CheckRules(unittest.TestCase):
         self.tree.write("docs/long.md", "line\n" * 701)
         self.assertEqual(self.tree.breaches(), ["docs/long.md: 701 lines, more than 700"])
 
+    def test_comments_that_open_with_what_are_found(self):
+        opening = "What"
+        self.tree.write("src/shape/a.h", f"/// {opening} a shape is.\nint a; ///< {opening} counts.\n/// @name {opening} is said\n")
+        self.tree.write("src/shape/CMakeLists.txt", f"# {opening} the shapes share.\n")
+        self.tree.write("scripts/a.py", f'"""{opening} was found."""\n')
+        self.assertEqual(
+            [breach.partition(" ")[0] for breach in self.tree.breaches()],
+            ["scripts/a.py:1:", "src/shape/CMakeLists.txt:1:", "src/shape/a.h:1:", "src/shape/a.h:2:", "src/shape/a.h:3:"],
+        )
+
+    def test_what_within_a_comment_passes(self):
+        self.tree.write("src/shape/a.h", "/// Says what a shape is. What follows is public.\n/// Whatever comes.\n")
+        self.assertEqual(self.tree.breaches(), [])
+
     def test_a_path_of_one_machine_is_found(self):
         home = "/" + "home" + "/somebody"
         self.tree.write("docs/notes.md", f"See {home}/notes.\n")

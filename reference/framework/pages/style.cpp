@@ -18,7 +18,7 @@ std::optional<AttributeHead> headOf(CBaseObject *object, int id)
     return readAttributeHead(id, describedBy(object, id));
 }
 
-/// What the first object that has the property calls it.
+/// The name of the property at the first object that has it.
 QString nameOf(const QVector<CBaseObject *> &objects, int id)
 {
     for (CBaseObject *object : objects) {

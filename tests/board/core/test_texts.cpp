@@ -1,4 +1,4 @@
-// What the board says, in the languages that it has.
+// Texts of the board in all its languages.
 
 #include <application/commandline.h>
 #include <core/texts.h>

@@ -4,7 +4,7 @@
 
 using pagehost::AttributeDescription;
 
-/// What the panel shows of properties that several objects have.
+/// Properties of several objects in the panel.
 class TestCommonProperties : public QObject
 {
     Q_OBJECT
