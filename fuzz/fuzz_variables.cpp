@@ -2,6 +2,7 @@
 
 #include "grammarinput.h"
 
+#include "grammar/inputlimits.h"
 #include "properties/customproperties.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
@@ -11,7 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     Svg::CustomProperties properties;
     for (const QString &line : lines)
         properties.insert(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));
-    properties.settle();
+    int charactersLeft = Svg::Limits::leastSubstitutedCharacters;
+    properties.settle(&charactersLeft);
     const std::optional<QString> value = Svg::withVariables(lines.constLast(), properties);
     require(!value || value->size() <= longestResult, "a value is not longer than it may be");
     return 0;
