@@ -23,7 +23,7 @@ public:
     };
 
     /// Calls `sink(span)` for what is covered within `window` (pixels), from top to bottom.
-    template<typename Sink> void sweep(const FlatOutline &outline, const QRect &window, const Sink &sink);
+    template<typename Sink> void sweep(const FlatOutline &outline, const QRect &window, Sink &&sink);
 
 private:
     /// Rows that are worked on together, the window's left edge being 0.
@@ -51,8 +51,9 @@ private:
     static void addCell(const Row &row, int column, int height, int twiceInset);
     Row rowAt(int row);
     void advance(Row *row) const;
-    template<typename Sink> void sweepRow(int row, Qt::FillRule rule, const Sink &sink);
-    static int coverageOf(int sum, Qt::FillRule rule);
+    template<Qt::FillRule rule, typename Sink> void sweepBand(Sink &sink);
+    template<Qt::FillRule rule, typename Sink> void sweepRow(int row, Sink &sink);
+    template<Qt::FillRule rule> static int coverageOf(int sum);
 
     /// Twice the area of a pixel, in subpixels, as a power of two.
     static constexpr int areaBits = 17;
@@ -71,18 +72,18 @@ private:
     std::vector<quint64> m_written;
 };
 
-inline int Coverage::coverageOf(int sum, Qt::FillRule rule)
+template<Qt::FillRule rule> inline int Coverage::coverageOf(int sum)
 {
     constexpr int whole = 1 << coverageBits;
     int coverage = qAbs(sum) >> (areaBits - coverageBits);
-    if (rule == Qt::OddEvenFill) {
+    if constexpr (rule == Qt::OddEvenFill) {
         coverage &= 2 * whole - 1;
         coverage = coverage > whole ? 2 * whole - coverage : coverage;
     }
     return qMin(coverage, whole - 1);
 }
 
-template<typename Sink> void Coverage::sweepRow(int row, Qt::FillRule rule, const Sink &sink)
+template<Qt::FillRule rule, typename Sink> void Coverage::sweepRow(int row, Sink &sink)
 {
     uint *cells = m_cells.data() + size_t(row) * size_t(m_columns);
     quint64 *words = m_written.data() + size_t(row) * size_t(m_words);
@@ -100,14 +101,20 @@ template<typename Sink> void Coverage::sweepRow(int row, Qt::FillRule rule, cons
             sum += cells[column];
             cells[column] = 0;
             start = column;
-            coverage = coverageOf(int(sum), rule);
+            coverage = coverageOf<rule>(int(sum));
         }
     }
     if (coverage > 0 && start < m_band.width)
         sink(Span{m_band.left + start, y, m_band.width - start, coverage});
 }
 
-template<typename Sink> void Coverage::sweep(const FlatOutline &outline, const QRect &window, const Sink &sink)
+template<Qt::FillRule rule, typename Sink> void Coverage::sweepBand(Sink &sink)
+{
+    for (int row = 0; row < m_band.height; ++row)
+        sweepRow<rule>(row, sink);
+}
+
+template<typename Sink> void Coverage::sweep(const FlatOutline &outline, const QRect &window, Sink &&sink)
 {
     if (window.isEmpty())
         return;
@@ -115,8 +122,10 @@ template<typename Sink> void Coverage::sweep(const FlatOutline &outline, const Q
     for (int top = window.top(); top <= window.bottom(); top += rows) {
         begin({window.left(), top, window.width(), qMin(rows, window.bottom() + 1 - top)});
         addLines(outline);
-        for (int row = 0; row < m_band.height; ++row)
-            sweepRow(row, outline.fillRule, sink);
+        if (outline.fillRule == Qt::OddEvenFill)
+            sweepBand<Qt::OddEvenFill>(sink);
+        else
+            sweepBand<Qt::WindingFill>(sink);
     }
 }
 

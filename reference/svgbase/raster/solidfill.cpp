@@ -5,6 +5,7 @@
 #include <QtGui/QRgba64>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 
@@ -46,17 +47,17 @@ public:
     Overlay(const PixelTarget &target, QRgb color)
         : m_bits(target.picture->bits())
         , m_bytesPerLine(target.picture->bytesPerLine())
-        , m_origin(target.origin)
+        , m_start(-target.origin.y() * m_bytesPerLine - target.origin.x() * qsizetype(sizeof(QRgb)))
         , m_color(color)
         , m_premultiplies(target.picture->format() == QImage::Format_ARGB32)
     {
     }
 
-    void operator()(const Coverage::Span &span) const
+    void operator()(const Coverage::Span &span)
     {
-        QRgb *pixels =
-            reinterpret_cast<QRgb *>(m_bits + (span.y - m_origin.y()) * m_bytesPerLine) + span.x - m_origin.x();
-        const QRgb color = span.coverage == int(wholeByte) ? m_color : scaled(m_color, uint(span.coverage));
+        const qsizetype place = m_start + span.y * m_bytesPerLine + span.x * qsizetype(sizeof(QRgb));
+        auto *pixels = reinterpret_cast<QRgb *>(m_bits + place);
+        const QRgb color = colorFor(span.coverage);
         const uint below = wholeByte - uint(qAlpha(color));
         if (below == 0)
             std::fill(pixels, pixels + span.length, color);
@@ -67,6 +68,15 @@ public:
     }
 
 private:
+    QRgb colorFor(int coverage)
+    {
+        if (coverage == int(wholeByte))
+            return m_color;
+        QRgb &known = m_scaled[size_t(coverage)];
+        if (known == 0)
+            known = scaled(m_color, uint(coverage));
+        return known;
+    }
     // Bytes in the loop are independent of each other, which lets compilers take sixteen at once.
     static void blend(QRgb *pixels, int count, QRgb color, uint below)
     {
@@ -113,8 +123,11 @@ private:
 
     uchar *m_bits;
     qsizetype m_bytesPerLine;
-    QPoint m_origin;
+    /// Bytes from the first pixel of the picture to the place of the painter's origin.
+    qsizetype m_start;
     QRgb m_color;
+    /// The colour by coverage; 0 where it was not needed yet.
+    std::array<QRgb, wholeByte> m_scaled{};
     bool m_premultiplies;
 };
 

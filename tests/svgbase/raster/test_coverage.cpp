@@ -98,6 +98,7 @@ private slots:
     void colorsAreLaidOverWhatIsBelow_data();
     void colorsAreLaidOverWhatIsBelow();
     void everyPixelOfARowIsMixedWithWhatIsBelowIt();
+    void longRunsOfARowEndWhereTheColourBelowChanges();
     void paintersWithMoreThanARectangleAreRefused();
     void aRectangularClipIsKept();
 };
@@ -289,6 +290,27 @@ void TestCoverage::everyPixelOfARowIsMixedWithWhatIsBelowIt()
         QCOMPARE(image.pixelColor(2, 0), overBlue);
         QCOMPARE(image.pixelColor(3, 0), overNothing);
         QCOMPARE(image.pixelColor(4, 0), QColor(102, 153, 0));
+    }
+}
+
+void TestCoverage::longRunsOfARowEndWhereTheColourBelowChanges()
+{
+    for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+        QImage image(22, 1, format);
+        image.fill(QColor(0, 0, 255));
+        image.setPixelColor(21, 0, QColor(0, 255, 0));
+        FlatOutline row;
+        QVERIFY(flatten(rectPath(0, 0, 22, 1), &row));
+        // Alpha 102 leaves 153 of 255.
+        fillSolid(row, QColor(255, 0, 0, 102), 1, image.rect(), {&image, QPoint(), image.rect()});
+        for (int x = 0; x < 21; ++x)
+            QCOMPARE(image.pixelColor(x, 0), QColor(102, 0, 153));
+        QCOMPARE(image.pixelColor(21, 0), QColor(102, 153, 0));
+        // The same colour all over.
+        image.fill(QColor(0, 0, 255));
+        fillSolid(row, QColor(255, 0, 0, 102), 1, image.rect(), {&image, QPoint(), image.rect()});
+        for (int x = 0; x < 22; ++x)
+            QCOMPARE(image.pixelColor(x, 0), QColor(102, 0, 153));
     }
 }
 
