@@ -146,9 +146,20 @@ PathText &PathText::text(QPointF centre, const QString &text, double height)
 {
     const QPainterPath &letters = lettersOf(text);
     const double scale = height / (layoutPixels * digitPart);
-    const QPointF middle(letters.boundingRect().center().x(), -layoutPixels * digitPart / 2);
+    return outlines(letters, centre, {letters.boundingRect().center().x(), -layoutPixels * digitPart / 2}, scale);
+}
+
+PathText &PathText::line(QPointF start, const QString &text, double fontSize, double partBefore)
+{
+    const QPainterPath &letters = lettersOf(text);
+    const QRectF box = letters.boundingRect();
+    return outlines(letters, start, {box.left() + partBefore * box.width(), 0}, fontSize / layoutPixels);
+}
+
+PathText &PathText::outlines(const QPainterPath &letters, QPointF place, QPointF origin, double scale)
+{
     const auto placed = [&](int i) {
-        const QPointF point = centre + (QPointF(letters.elementAt(i)) - middle) * scale;
+        const QPointF point = place + (QPointF(letters.elementAt(i)) - origin) * scale;
         return QPointF(std::round(point.x() * letterPrecision), std::round(point.y() * letterPrecision)) /
                letterPrecision;
     };

@@ -5,6 +5,8 @@
 
 #include <QtCore/QDataStream>
 
+#include <algorithm>
+
 namespace shapekit {
 
 namespace {
@@ -19,19 +21,30 @@ constexpr qint32 mostProperties = 64;
 bool PropertiedShape::save(QDataStream &out)
 {
     StyledShape::save(out);
+    saveValues(out);
+    return true;
+}
+
+void PropertiedShape::saveValues(QDataStream &out)
+{
     if (m_properties.isEmpty())
-        return true;
+        return;
     out << qint32(m_properties.size());
     for (const Property *property : qAsConst(m_properties))
         out << property->bytes();
-    return true;
 }
 
 bool PropertiedShape::load(QDataStream &in)
 {
     StyledShape::load(in);
+    loadValues(in);
+    return true;
+}
+
+void PropertiedShape::loadValues(QDataStream &in)
+{
     if (m_properties.isEmpty())
-        return true;
+        return;
     qint32 count = 0;
     in >> count;
     for (int i = 0; i < qMin(count, mostProperties) && in.status() == QDataStream::Ok; ++i) {
@@ -41,25 +54,34 @@ bool PropertiedShape::load(QDataStream &in)
             m_properties.at(i)->setBytes(bytes);
     }
     propertyChanged(nullptr);
-    return true;
 }
 
 bool PropertiedShape::saveJson(QJsonObject &object)
 {
     StyledShape::saveJson(object);
+    saveValues(object);
+    return true;
+}
+
+void PropertiedShape::saveValues(QJsonObject &object)
+{
     for (const Property *property : qAsConst(m_properties))
         object[property->jsonKey()] = property->toJson();
-    return true;
 }
 
 bool PropertiedShape::loadJson(QJsonObject &object)
 {
     StyledShape::loadJson(object);
+    loadValues(object);
+    return true;
+}
+
+void PropertiedShape::loadValues(const QJsonObject &object)
+{
     for (Property *property : qAsConst(m_properties))
         property->fromJson(object.value(property->jsonKey()));
     if (!m_properties.isEmpty())
         propertyChanged(nullptr);
-    return true;
 }
 
 bool PropertiedShape::getInnerProperty(int propId, QDataStream &out)
@@ -93,6 +115,8 @@ bool PropertiedShape::setInnerProperty(int propId, QDataStream &in, bool record,
 void PropertiedShape::initSpecialPropItems()
 {
     for (const Property *property : qAsConst(m_properties)) {
+        if (!property->isInPropertyPanel())
+            continue;
         QByteArray editor = property->editor();
         propItems.append(new CSVGPropItem(property->id(), property->nameKey(), property->actionId(),
                                           property->dataType(), &editor, true));
@@ -105,10 +129,18 @@ QString PropertiedShape::getPropName(int propId)
     return property ? property->nameKey() : StyledShape::getPropName(propId);
 }
 
+int PropertiedShape::actionIdToPropId(int actionId)
+{
+    // Undo and playback also change what no panel offers.
+    const auto isIt = [actionId](const Property *property) { return property->actionId() == actionId; };
+    const auto found = std::find_if(m_properties.cbegin(), m_properties.cend(), isIt);
+    return found == m_properties.cend() ? StyledShape::actionIdToPropId(actionId) : (*found)->id();
+}
+
 bool PropertiedShape::GetSettingArray(QJsonArray &settings)
 {
     for (const Property *property : qAsConst(m_properties)) {
-        const QJsonObject control = property->control(*owner);
+        const QJsonObject control = property->isInSettings() ? property->control(*owner) : QJsonObject();
         if (!control.isEmpty())
             settings.append(control);
     }

@@ -39,6 +39,18 @@ Property::Property(PropertiedShape *shape, const Text &text, int id)
     shape->addProperty(this, m_id, m_actionId);
 }
 
+void Property::setIds(int id, int actionId)
+{
+    m_id = id;
+    m_actionId = actionId;
+}
+
+void Property::setPanels(bool properties, bool settings)
+{
+    m_inPropertyPanel = properties;
+    m_inSettings = settings;
+}
+
 QByteArray Property::bytes() const
 {
     QByteArray bytes;
@@ -191,7 +203,7 @@ DrawingScale::DrawingScale(PropertiedShape *shape, const Text &text, double valu
 {
 }
 
-Choice::Choice(PropertiedShape *shape, const Text &text, int index, std::initializer_list<const Text *> entries)
+Choice::Choice(PropertiedShape *shape, const Text &text, int index, const QVector<const Text *> &entries)
     : Property(shape, text)
     , m_index(index)
 {

@@ -23,13 +23,21 @@ Text::Text(const char *english, const char *german)
     knownTexts().append(this);
 }
 
+Text::Text(const QString &key, const QString &name)
+    : m_key(key)
+    , m_english(name)
+{
+}
+
 QString Text::key() const
 {
-    return kind().textKey(name().toUpper());
+    return m_key.isEmpty() ? kind().textKey(name().toUpper()) : m_key;
 }
 
 QString Text::name() const
 {
+    if (!m_key.isEmpty())
+        return m_english;
     QString name;
     bool startsWord = true;
     for (const QChar character : m_english) {

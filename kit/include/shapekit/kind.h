@@ -2,13 +2,15 @@
 
 #include <QtCore/QString>
 
+#include <functional>
+
 class CSVGBase;
 class CSVGObj;
 
 namespace shapekit {
 
 /// Makes a shape core for a page object.
-using CoreFactory = CSVGBase *(*)(CSVGObj *owner);
+using CoreFactory = std::function<CSVGBase *(CSVGObj *owner)>;
 
 /// The groups of the palette.
 enum class Group { Basic, Mathematics, Science };
@@ -22,9 +24,11 @@ struct Kind
     Group group = Group::Basic;
     CoreFactory makeCore = nullptr;
     bool takesPictures = false; ///< whether dropped or pasted pictures become objects of this kind
+    QString idPrefix = QStringLiteral("shapes.");
+    QString keyPrefix = QStringLiteral("IDS_SHAPE_");
 
-    QString id() const { return QStringLiteral("shapes.") + name; }
-    QString nameKey() const { return QStringLiteral("IDS_SHAPE_") + name.toUpper(); }
+    QString id() const { return idPrefix + name; }
+    QString nameKey() const { return keyPrefix + name.toUpper(); }
     QString textKey(const QString &text) const { return nameKey() + QLatin1Char('_') + text; }
     QString templateFile() const { return QStringLiteral(":/gliololok/%1/template.svg").arg(name); }
 };
@@ -49,6 +53,8 @@ template<class Core> CSVGBase *makeCore(CSVGObj *owner)
                                QString::fromUtf8(german),                                                          \
                                Group::group,                                                                       \
                                &makeCore<Core>,                                                                    \
-                               Core::takesPictures};                                                               \
+                               Core::takesPictures,                                                                \
+                               QStringLiteral("shapes."),                                                          \
+                               QStringLiteral("IDS_SHAPE_")};                                                      \
         return kind;                                                                                               \
     }

@@ -6,6 +6,8 @@
 
 #include <initializer_list>
 
+class QPainterPath;
+
 namespace shapekit {
 
 /// Writes SVG path data (document units), command by command.
@@ -31,11 +33,14 @@ public:
     PathText &roundedRectangle(const QRectF &box, double radius);
     /// The outlines of text whose digits have that height, centred on a point.
     PathText &text(QPointF centre, const QString &text, double height);
+    /// Letters of a font size on a line that begins at `start`, or lies with that part of its length before it.
+    PathText &line(QPointF start, const QString &text, double fontSize, double partBefore);
     /// @}
 
     QString text() const { return m_text; }
 
 private:
+    PathText &outlines(const QPainterPath &letters, QPointF place, QPointF origin, double scale);
     void append(char command);
     void append(double number);
     void append(QPointF point);

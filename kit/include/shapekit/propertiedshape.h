@@ -25,6 +25,7 @@ public:
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
     void initSpecialPropItems() override;
     QString getPropName(int propId) override;
+    int actionIdToPropId(int actionId) override;
     bool GetSettingArray(QJsonArray &settings) override;
     bool SetSettingArray(QMap<QString, QString> &values, bool record, bool undo) override;
 
@@ -34,6 +35,13 @@ public:
 protected:
     /// Called when a property has a new value; null when several may have changed.
     virtual void propertyChanged(const Property *property) = 0;
+    /// @name Values behind the data that every shape saves
+    /// @{
+    virtual void saveValues(QDataStream &out);
+    virtual void loadValues(QDataStream &in);
+    virtual void saveValues(QJsonObject &object);
+    virtual void loadValues(const QJsonObject &object);
+    /// @}
 
 private:
     Property *propertyWithId(int id) const;

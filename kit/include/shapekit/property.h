@@ -8,9 +8,8 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 #include <QtGui/QColor>
-
-#include <initializer_list>
 
 class CSVGObj;
 class QDataStream;
@@ -30,6 +29,12 @@ public:
 
     int id() const { return m_id; }
     int actionId() const { return m_actionId; }
+    /// Replaces the ids that the shape has given; before the first object of the shape is there.
+    void setIds(int id, int actionId);
+    /// The panels that offer the property; both unless told otherwise.
+    void setPanels(bool properties, bool settings);
+    bool isInPropertyPanel() const { return m_inPropertyPanel; }
+    bool isInSettings() const { return m_inSettings; }
     QString nameKey() const { return m_text.key(); }
     /// The key of the value in saved JSON.
     QString jsonKey() const { return QStringLiteral("SVG_") + m_text.name(); }
@@ -60,6 +65,8 @@ private:
     const Text &m_text;
     int m_id;
     int m_actionId;
+    bool m_inPropertyPanel = true;
+    bool m_inSettings = true;
 };
 
 /// On or off.
@@ -141,7 +148,7 @@ public:
 class Choice : public Property
 {
 public:
-    Choice(PropertiedShape *shape, const Text &text, int index, std::initializer_list<const Text *> entries);
+    Choice(PropertiedShape *shape, const Text &text, int index, const QVector<const Text *> &entries);
     operator int() const { return m_index; }
 
     DATA_TYPE dataType() const override { return DATA_TYPE_INT; }

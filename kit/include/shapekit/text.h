@@ -12,6 +12,8 @@ class Text
 public:
     /// UTF-8. The joined English words form the key: they must be unique within the shape.
     Text(const char *english, const char *german);
+    /// A text that its owner passes to the host under that key, and that has that name.
+    Text(const QString &key, const QString &name);
     Text(const Text &) = delete;
     Text &operator=(const Text &) = delete;
 
@@ -24,6 +26,7 @@ public:
     static QMap<QString, QString> all(const QString &language);
 
 private:
+    QString m_key; ///< empty where the English words form it
     QString m_english;
     QString m_german;
 };
