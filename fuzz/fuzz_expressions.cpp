@@ -44,10 +44,13 @@ void evaluate(const Program &program, const File &file, const Expression &expres
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
+    static int count = 1;
+    static char name[] = "fuzz_expressions";
+    static char *arguments[] = {name, nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication application(*argc, *argv); // letters need fonts
+    new QGuiApplication(count, arguments); // letters need fonts
     return 0;
 }
 

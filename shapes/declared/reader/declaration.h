@@ -1,0 +1,166 @@
+#pragma once
+
+#include <declared/expressions/compiler.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QMap>
+#include <QtCore/QSizeF>
+#include <QtGui/QColor>
+
+#include <memory>
+
+namespace declared {
+
+/// A text by language; English under "en".
+using Texts = QMap<QString, QString>;
+
+enum class Sizing { Redrawn, Stretched };
+enum class Filling { Shape, Page, None };
+
+struct PropertyDeclaration
+{
+    enum Kind { Whole, Real, Switch, Choice, Colour, Text, Numbers, Points };
+
+    QString name;
+    Kind kind = Whole;
+    int id = 0;
+    Texts title;
+    QString text; ///< of a text
+    QColor colour;
+    double number = 0; ///< of a whole or real number; 0 or 1 of a switch; the index of a choice
+    double from = 0;
+    double to = 0;
+    double step = 1;
+    int count = 0;           ///< of a list
+    QVector<double> numbers; ///< of a list; points are pairs
+    QStringList entries;     ///< names of a choice
+    QVector<Texts> entryTitles;
+    bool inPropertyPanel = true;
+    bool inSettings = true;
+    qint32 slot = 0; ///< of its value, or of its list
+};
+
+/// A value that others are made of, in an order in which each only needs what stands before it.
+struct LetDeclaration
+{
+    qint32 slot = 0;
+    Expression value;
+};
+
+/// Along one axis.
+struct AxisDeclaration
+{
+    bool isLimited = false;
+    RangeExpression range;
+    Expression step;
+    QString follow = QStringLiteral("side");
+    double startOffset = 0;
+    double endOffset = 0;
+};
+
+struct TrackDeclaration
+{
+    enum Kind { None, Line, Circle, Ellipse, Arc, Sector };
+
+    Kind kind = None;
+    QVector<Expression> arguments;
+    Expression step;
+};
+
+struct PointDeclaration
+{
+    QPointF centre;
+    AxisDeclaration x;
+    AxisDeclaration y;
+    TrackDeclaration track;
+    Expression place;
+    Expression allowed;
+    Expression hint;
+    int mirrored = 0; ///< the number of the point that it mirrors; 0 for none
+    bool mirrorsX = false;
+    bool mirrorsY = false;
+};
+
+/// An SVG attribute and the text that it gets.
+struct AttributeDeclaration
+{
+    QString name;
+    Expression text;
+};
+
+/// Letters, drawn as outlines.
+struct LettersDeclaration
+{
+    Expression content;
+    Expression x; ///< texts of numbers; where they aren't valid the fixed ones hold
+    Expression y;
+    Expression size;
+    double fixedX = 0;
+    double fixedY = 0;
+    double fixedSize = 16;
+    double anchor = 0; ///< the part of the text's width that lies left of x
+};
+
+/// An element of the figure that is written anew.
+struct ElementDeclaration
+{
+    QString id;        ///< in the template
+    QVector<int> path; ///< for a part of a repeated element: the way from it, by index of child
+    int repeat = -1;   ///< index of the repetition that it belongs to
+    QVector<AttributeDeclaration> attributes;
+    Expression visible;
+    LettersDeclaration letters;
+    Place place; ///< in the file
+};
+
+struct LoopDeclaration
+{
+    qint32 slot = 0;
+    Expression from;
+    Expression to;
+};
+
+/// A group whose only child is there once for each round.
+struct RepeatDeclaration
+{
+    QString id;
+    QVector<LoopDeclaration> loops;
+};
+
+/// Slots of what every file knows.
+namespace slots_of {
+enum Fixed { Width, Height, Left, Top, Right, Bottom, Middle, PointCount, At, Pen, Fill, PenWidth, Pi, FirstPoint };
+/// The list of the control points.
+constexpr qint32 PointList = 0;
+} // namespace slots_of
+
+/// A shape as its file declares it; never changed once it is read.
+struct Declaration
+{
+    /// A control point by its number; one without rules for a number that damaged data has brought.
+    const PointDeclaration &point(int number) const;
+
+    QString id;
+    Texts name;
+    QString group; ///< "basic", "mathematics", "science", or a title
+    Sizing sizing = Sizing::Redrawn;
+    Filling filling = Filling::Shape;
+    bool keepsAspect = false;
+    QSizeF smallest{24, 24};
+    int widestPen = 8;
+    QSizeF size; ///< of a new shape
+    QVector<PropertyDeclaration> properties;
+    QVector<LetDeclaration> lets;
+    QVector<PointDeclaration> points;
+    QVector<RepeatDeclaration> repeats;
+    QVector<ElementDeclaration> elements;
+    Program program;
+    int slotCount = 0;
+    int listCount = 1;
+    QByteArray templateText; ///< plain SVG for the library
+    QString hash;            ///< of the file in one form
+};
+
+using SharedDeclaration = std::shared_ptr<const Declaration>;
+
+} // namespace declared

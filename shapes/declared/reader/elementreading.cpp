@@ -1,0 +1,305 @@
+// Elements of the figure that expressions write anew.
+
+#include <declared/reader/filelimits.h>
+#include <declared/reader/filereader.h>
+
+namespace declared {
+
+namespace {
+
+struct AttributeForm
+{
+    const char *name;
+    const char *elements; ///< those that have it, "*" for all
+};
+
+constexpr AttributeForm attributeForms[] = {
+    {"d", " path "},
+    {"points", " polygon polyline "},
+    {"x", " rect text tspan image use "},
+    {"y", " rect text tspan image use "},
+    {"width", " rect image use "},
+    {"height", " rect image use "},
+    {"rx", " rect ellipse "},
+    {"ry", " rect ellipse "},
+    {"cx", " circle ellipse "},
+    {"cy", " circle ellipse "},
+    {"r", " circle "},
+    {"x1", " line "},
+    {"y1", " line "},
+    {"x2", " line "},
+    {"y2", " line "},
+    {"text", " text "},
+    {"repeat", " g "},
+    {"transform", "*"},
+    {"fill", "*"},
+    {"fill-opacity", "*"},
+    {"stroke", "*"},
+    {"stroke-opacity", "*"},
+    {"stroke-width", "*"},
+    {"stroke-dasharray", "*"},
+    {"stroke-dashoffset", "*"},
+    {"opacity", "*"},
+    {"font-size", "*"},
+    {"visible", "*"},
+    {"keeps", "*"},
+};
+
+/// Elements that are drawn and may be written anew.
+const QStringList drawnElements{QStringLiteral("g"),       QStringLiteral("path"),     QStringLiteral("rect"),
+                                QStringLiteral("circle"),  QStringLiteral("ellipse"),  QStringLiteral("line"),
+                                QStringLiteral("polygon"), QStringLiteral("polyline"), QStringLiteral("text"),
+                                QStringLiteral("image"),   QStringLiteral("use")};
+
+const QString penText = QStringLiteral("{pen}");
+
+QStringList attributeNames()
+{
+    QStringList names;
+    for (const AttributeForm &form : attributeForms)
+        names.append(QLatin1String(form.name));
+    return names;
+}
+
+const AttributeForm *formOf(const QString &name)
+{
+    for (const AttributeForm &form : attributeForms) {
+        if (name == QLatin1String(form.name))
+            return &form;
+    }
+    return nullptr;
+}
+
+bool takes(const AttributeForm &form, const QString &element)
+{
+    const QString elements = QLatin1String(form.elements);
+    return elements == QLatin1String("*") || elements.contains(QLatin1Char(' ') + element + QLatin1Char(' '));
+}
+
+double numberOr(const QString &text, double otherwise)
+{
+    QString digits = text.trimmed();
+    if (digits.endsWith(QLatin1String("px")))
+        digits.chop(2);
+    bool isNumber = false;
+    const double number = digits.toDouble(&isNumber);
+    return isNumber && qIsFinite(number) ? number : otherwise;
+}
+
+} // namespace
+
+bool FileReader::isDrawn(const Element &element) const
+{
+    return isSvg(element) && drawnElements.contains(element.name);
+}
+
+void FileReader::readElements()
+{
+    for (int i = 0; i < m_elements.size(); ++i) {
+        const Element &element = m_elements.at(i);
+        if (isSvg(element) && !m_done.contains(i) && shapeAttribute(element, "repeat"))
+            readRepeat(i);
+    }
+    for (int i = 0; i < m_elements.size(); ++i) {
+        if (isSvg(m_elements.at(i)) && !m_done.contains(i))
+            readElement(i, -1, {});
+    }
+}
+
+void FileReader::readElement(int index, int repeat, const QVector<int> &path)
+{
+    const Element &element = m_elements.at(index);
+    m_done.insert(index);
+    ElementDeclaration declared;
+    declared.repeat = repeat;
+    declared.path = path;
+    declared.place = m_tree.placeOf(element.offset);
+    TemplateElement written;
+    bool isDeclared = false;
+    for (const Attribute &attribute : element.attributes) {
+        if (attribute.namespaceUri != shapeNamespace)
+            continue;
+        isDeclared = true;
+        readAttribute(element, attribute, declared, written);
+    }
+    if (!isDeclared)
+        return;
+    if (declared.letters.content.isValid())
+        readLetters(element, declared, written);
+    declared.id = element.value("id");
+    if (declared.id.isEmpty())
+        declared.id = written.id = QStringLiteral("declared_%1").arg(index);
+    m_written.insert(index, written);
+    if (!declared.attributes.isEmpty() || declared.visible.isValid() || declared.letters.content.isValid())
+        m_shape.elements.append(declared);
+}
+
+void FileReader::readAttribute(const Element &element, const Attribute &attribute, ElementDeclaration &declared,
+                               TemplateElement &written)
+{
+    const AttributeForm *form = formOf(attribute.name);
+    if (!form) {
+        error("C04", attribute,
+              QStringLiteral("there is no attribute \"%1\"%2")
+                  .arg(attribute.name, suggestion(attribute.name, attributeNames())));
+        return;
+    }
+    if (!drawnElements.contains(element.name) || !takes(*form, element.name)) {
+        error("C38", attribute, QStringLiteral("\"%1\" has no \"%2\"").arg(element.name, attribute.name));
+        return;
+    }
+    if (attribute.name == QLatin1String("keeps")) {
+        readKeeps(attribute, written);
+    } else if (attribute.name == QLatin1String("visible")) {
+        take(m_compiler.expression(attribute.value, Type::Number), declared.visible, attribute);
+    } else if (attribute.name == QLatin1String("text")) {
+        take(m_compiler.text(attribute.value), declared.letters.content, attribute);
+    } else if (attribute.name != QLatin1String("repeat")) {
+        readWritten(attribute, declared, written);
+    }
+}
+
+/// A fill or stroke of an expression is the shape's own; one of the pen's colour is left to the kit.
+void FileReader::readWritten(const Attribute &attribute, ElementDeclaration &declared, TemplateElement &written)
+{
+    const bool isPaint = attribute.name == QLatin1String("fill") || attribute.name == QLatin1String("stroke");
+    if (isPaint && attribute.value.trimmed() == penText) {
+        written.attributes.append({attribute.name + QStringLiteral("_follows"), QStringLiteral("pen")});
+        return;
+    }
+    AttributeDeclaration expression{attribute.name, {}};
+    if (!take(m_compiler.text(attribute.value), expression.text, attribute))
+        return;
+    declared.attributes.append(expression);
+    if (isPaint)
+        written.kept.append(attribute.name);
+}
+
+void FileReader::readKeeps(const Attribute &attribute, TemplateElement &written)
+{
+    const QStringList paints = attribute.value.simplified().split(QLatin1Char(' '));
+    for (const QString &paint : paints) {
+        if (paint != QLatin1String("fill") && paint != QLatin1String("stroke")) {
+            error("C39", attribute, QStringLiteral("\"keeps\" takes \"fill\", \"stroke\", or both"));
+            return;
+        }
+    }
+    written.kept += paints;
+}
+
+QString FileReader::inheritedValue(const Element &element, const char *name) const
+{
+    const Element *holder = &element;
+    while (holder->value(name).isEmpty() && holder->parent >= 0)
+        holder = &m_elements.at(holder->parent);
+    return holder->value(name);
+}
+
+/// Text that changes is drawn as outlines: where it stands is read here, and its attributes are not written.
+void FileReader::readLetters(const Element &element, ElementDeclaration &declared, TemplateElement &written)
+{
+    LettersDeclaration &letters = declared.letters;
+    letters.fixedX = numberOr(element.value("x"), letters.fixedX);
+    letters.fixedY = numberOr(element.value("y"), letters.fixedY);
+    letters.fixedSize = numberOr(inheritedValue(element, "font-size"), letters.fixedSize);
+    const QString anchor = inheritedValue(element, "text-anchor");
+    letters.anchor = anchor == QLatin1String("middle") ? 0.5 : anchor == QLatin1String("end") ? 1 : 0;
+    QVector<AttributeDeclaration> others;
+    for (const AttributeDeclaration &attribute : qAsConst(declared.attributes)) {
+        if (attribute.name == QLatin1String("x"))
+            letters.x = attribute.text;
+        else if (attribute.name == QLatin1String("y"))
+            letters.y = attribute.text;
+        else if (attribute.name == QLatin1String("font-size"))
+            letters.size = attribute.text;
+        else
+            others.append(attribute);
+    }
+    declared.attributes = others;
+    written.isLetters = true;
+    written.dropped = QStringList{QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("font-size"),
+                                  QStringLiteral("text-anchor")};
+}
+
+void FileReader::readRepeat(int index)
+{
+    const Element &group = m_elements.at(index);
+    if (group.name != QLatin1String("g"))
+        return; // told with the other attributes of the element
+    const Attribute &repeat = *shapeAttribute(group, "repeat");
+    QVector<LoopExpression> loops;
+    if (!take(m_compiler.loops(repeat.value), loops, repeat))
+        return;
+    if (loops.size() > 2 || m_shape.repeats.size() == limits::repeats) {
+        error("C17", repeat, QStringLiteral("a group has one loop or two, and a file 64 such groups"));
+        return;
+    }
+    RepeatDeclaration declared;
+    QHash<QString, Symbol> names;
+    for (const LoopExpression &loop : qAsConst(loops)) {
+        const qint32 slot = newSlot();
+        declared.loops.append({slot, loop.from, loop.to});
+        names.insert(loop.name, {Symbol::Variable, Type::Number, slot, 0});
+    }
+    const QVector<int> children = drawnChildren(group);
+    if (children.isEmpty()) {
+        error("C38", group, QStringLiteral("there is nothing in the group to repeat"));
+        return;
+    }
+    readElement(index, -1, {});
+    m_written[index].hasOneChild = true;
+    declared.id = group.value("id").isEmpty() ? m_written.value(index).id : group.value("id");
+    m_shape.repeats.append(declared);
+    m_compiler.setExtraNames(names);
+    readRepeated(children.first(), m_shape.repeats.size() - 1, {});
+    m_compiler.setExtraNames({});
+    // The others only show what the first look is like.
+    for (int i = 1; i < children.size(); ++i)
+        m_done.insert(children.at(i));
+}
+
+QVector<int> FileReader::drawnChildren(const Element &element) const
+{
+    QVector<int> children;
+    for (const SourceContent &content : element.contents) {
+        if (content.element >= 0 && isDrawn(m_elements.at(content.element)))
+            children.append(content.element);
+    }
+    return children;
+}
+
+void FileReader::readRepeated(int index, int repeat, const QVector<int> &path)
+{
+    const Element &element = m_elements.at(index);
+    if (m_done.contains(index) || shapeAttribute(element, "repeat")) {
+        error("C38", element, QStringLiteral("a group is not repeated inside of another, nor is a control point"));
+        return;
+    }
+    readElement(index, repeat, path);
+    const QVector<int> children = drawnChildren(element);
+    for (int i = 0; i < children.size(); ++i)
+        readRepeated(children.at(i), repeat, path + QVector<int>{i});
+}
+
+/// Held against the rules; nothing asks for them yet.
+void FileReader::readConnections()
+{
+    for (const Element &element : m_elements) {
+        if (!isShape(element, "connection"))
+            continue;
+        checkNames(element, {QStringLiteral("name"), QStringLiteral("at"), QStringLiteral("out")});
+        const Attribute *name = element.attribute(QStringLiteral("name"));
+        const Attribute *at = element.attribute(QStringLiteral("at"));
+        const Attribute *out = element.attribute(QStringLiteral("out"));
+        if (!name || !at || !isName(name->value)) {
+            error("C12", element, QStringLiteral("a connection needs a name and \"at\""));
+            continue;
+        }
+        Expression unused;
+        take(m_compiler.expression(at->value, Type::Point), unused, *at);
+        if (out)
+            take(m_compiler.expression(out->value, Type::Number), unused, *out);
+    }
+}
+
+} // namespace declared

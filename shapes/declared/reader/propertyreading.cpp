@@ -1,0 +1,231 @@
+// Properties: values that the user sets.
+
+#include <declared/reader/filelimits.h>
+#include <declared/reader/filereader.h>
+
+#include <QtCore/QCryptographicHash>
+
+#include <cmath>
+
+namespace declared {
+
+namespace {
+
+const QStringList kinds{QStringLiteral("whole"),   QStringLiteral("real"),   QStringLiteral("switch"),
+                        QStringLiteral("choice"),  QStringLiteral("colour"), QStringLiteral("text"),
+                        QStringLiteral("numbers"), QStringLiteral("points")};
+const QStringList panels{QStringLiteral("both"), QStringLiteral("properties"), QStringLiteral("settings"),
+                         QStringLiteral("none")};
+constexpr double largestNumber = 1e6;
+/// Ids of declared properties begin there, above those of all others.
+constexpr int firstPropertyId = 1 << 20;
+
+/// The same for every version of a file that keeps type and name, wherever the property stands in it.
+int propertyId(const QString &kind, const QString &name)
+{
+    const QByteArray text = kind.toUtf8() + ':' + name.toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha1);
+    return firstPropertyId + (uchar(hash.at(0)) << 12 | uchar(hash.at(1)) << 4 | uchar(hash.at(2)) >> 4);
+}
+
+bool isList(PropertyDeclaration::Kind kind)
+{
+    return kind == PropertyDeclaration::Numbers || kind == PropertyDeclaration::Points;
+}
+
+Type typeOf(PropertyDeclaration::Kind kind)
+{
+    switch (kind) {
+    case PropertyDeclaration::Choice:
+    case PropertyDeclaration::Colour:
+    case PropertyDeclaration::Text:
+        return Type::Text;
+    case PropertyDeclaration::Points:
+        return Type::Point;
+    default:
+        return Type::Number;
+    }
+}
+
+} // namespace
+
+void FileReader::readProperties()
+{
+    int count = 0;
+    for (int i = 0; i < m_elements.size(); ++i) {
+        const Element &element = m_elements.at(i);
+        if (isShape(element, "entry") &&
+            (element.parent < 0 || !isShape(m_elements.at(element.parent), "property")))
+            error("C16", element, QStringLiteral("an entry stands inside of a property"));
+        if (!isShape(element, "property"))
+            continue;
+        if (++count > limits::properties) {
+            error("C17", element, QStringLiteral("a file has at most 64 properties"));
+            return;
+        }
+        readProperty(element);
+    }
+}
+
+void FileReader::readProperty(const Element &element)
+{
+    checkNames(element, {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("value"),
+                         QStringLiteral("from"), QStringLiteral("to"), QStringLiteral("step"),
+                         QStringLiteral("count"), QStringLiteral("title"), QStringLiteral("panel")});
+    const Attribute *name = element.attribute(QStringLiteral("name"));
+    const Attribute *type = element.attribute(QStringLiteral("type"));
+    if (!name || !type) {
+        name ? error("C13", element, QStringLiteral("a property needs a type"))
+             : error("C12", element, QStringLiteral("a property needs a name"));
+        return;
+    }
+    PropertyDeclaration property;
+    int kind = 0;
+    if (!readChoice(type, kinds, kind, "C13"))
+        return;
+    property.name = name->value;
+    property.kind = PropertyDeclaration::Kind(kind);
+    property.id = propertyId(type->value, name->value);
+    property.title = texts(element, "title");
+    if (!property.title.contains(QStringLiteral("en")))
+        property.title.insert(QStringLiteral("en"), name->value);
+    const bool listed = isList(property.kind);
+    property.slot = listed ? m_shape.listCount++ : newSlot();
+    if (!define(name->value, *name,
+                {listed ? Symbol::List : Symbol::Variable, typeOf(property.kind), property.slot, 0}))
+        return;
+    for (const PropertyDeclaration &other : qAsConst(m_shape.properties)) {
+        if (other.id == property.id)
+            error("C14", *name,
+                  QStringLiteral("\"%1\" gets the id of \"%2\": rename one").arg(name->value, other.name));
+    }
+    readBounds(element, property);
+    readValue(element, property);
+    int panel = 0;
+    if (readChoice(element.attribute(QStringLiteral("panel")), panels, panel, "C15")) {
+        property.inPropertyPanel = panel <= 1;
+        property.inSettings = panel == 0 || panel == 2;
+    }
+    m_shape.properties.append(property);
+}
+
+void FileReader::readBounds(const Element &element, PropertyDeclaration &property)
+{
+    const bool isNumber = property.kind == PropertyDeclaration::Whole || property.kind == PropertyDeclaration::Real;
+    const bool isBounded = isNumber || isList(property.kind);
+    property.from = isBounded ? -largestNumber : 0;
+    property.to = isBounded ? largestNumber : 1;
+    const Attribute *from = element.attribute(QStringLiteral("from"));
+    const Attribute *to = element.attribute(QStringLiteral("to"));
+    if (isNumber && (!from || !to)) {
+        error("C15", element, QStringLiteral("a number needs its bounds: \"from\" and \"to\""));
+        return;
+    }
+    if (!isBounded && (from || to)) {
+        error("C15", from ? *from : *to, QStringLiteral("only numbers have bounds"));
+        return;
+    }
+    if ((from && !readNumber(*from, property.from, "C15")) || (to && !readNumber(*to, property.to, "C15")))
+        return;
+    const double widest = property.kind == PropertyDeclaration::Whole ? 1e9 : largestNumber;
+    if (property.from >= property.to || property.from < -widest || property.to > widest)
+        error("C15", from ? *from : element.attributes.first(),
+              QStringLiteral("\"from\" is less than \"to\", both within a million"));
+    const Attribute *step = element.attribute(QStringLiteral("step"));
+    if (step && readNumber(*step, property.step, "C15") && property.step <= 0)
+        error("C15", *step, QStringLiteral("a step is above 0"));
+    else if (!step && property.kind == PropertyDeclaration::Real)
+        property.step = (property.to - property.from) / 100;
+}
+
+void FileReader::readValue(const Element &element, PropertyDeclaration &property)
+{
+    const Attribute *value = element.attribute(QStringLiteral("value"));
+    if (!value) {
+        error("C15", element, QStringLiteral("a property needs the value that new shapes have"));
+        return;
+    }
+    const QString text = value->value;
+    int on = 0;
+    switch (property.kind) {
+    case PropertyDeclaration::Whole:
+    case PropertyDeclaration::Real:
+        if (!readNumber(*value, property.number, "C15"))
+            return;
+        if (property.number < property.from || property.number > property.to)
+            error("C15", *value, QStringLiteral("the value is out of its bounds"));
+        else if (property.kind == PropertyDeclaration::Whole && property.number != std::floor(property.number))
+            error("C15", *value, QStringLiteral("\"%1\" is no whole number").arg(text));
+        return;
+    case PropertyDeclaration::Switch:
+        if (readChoice(value, {QStringLiteral("no"), QStringLiteral("yes")}, on, "C15"))
+            property.number = on;
+        return;
+    case PropertyDeclaration::Choice:
+        readEntries(element, property, *value);
+        return;
+    case PropertyDeclaration::Colour:
+        property.colour = QColor(text);
+        if (text.size() != 7 || !text.startsWith(QLatin1Char('#')) || !property.colour.isValid())
+            error("C15", *value, QStringLiteral("a colour is \"#rrggbb\""));
+        return;
+    case PropertyDeclaration::Text:
+        property.text = text;
+        if (text.size() > limits::textCharacters)
+            error("C15", *value, QStringLiteral("a text has at most 10000 characters"));
+        return;
+    case PropertyDeclaration::Numbers:
+    case PropertyDeclaration::Points:
+        readList(element, *value, property);
+        return;
+    }
+}
+
+void FileReader::readList(const Element &element, const Attribute &value, PropertyDeclaration &property)
+{
+    const int parts = property.kind == PropertyDeclaration::Points ? 2 : 1;
+    bool isRead = false;
+    property.numbers = numbers(value.value, isRead);
+    property.count = property.numbers.size() / parts;
+    double count = property.count;
+    const Attribute *counted = element.attribute(QStringLiteral("count"));
+    if (counted && !readNumber(*counted, count, "C15"))
+        return;
+    if (!isRead || property.numbers.size() != count * parts || count < 1 || count > limits::entriesOfList) {
+        error("C15", value, QStringLiteral("a list has 1 to 200 entries, as many as \"count\" says"));
+        return;
+    }
+    for (const double number : qAsConst(property.numbers)) {
+        if (number < property.from || number > property.to) {
+            error("C15", value, QStringLiteral("the value is out of its bounds"));
+            return;
+        }
+    }
+}
+
+void FileReader::readEntries(const Element &element, PropertyDeclaration &property, const Attribute &value)
+{
+    for (const SourceContent &content : element.contents) {
+        if (content.element < 0 || !isShape(m_elements.at(content.element), "entry"))
+            continue;
+        const Element &entry = m_elements.at(content.element);
+        checkNames(entry, {QStringLiteral("name"), QStringLiteral("title")});
+        const Attribute *name = entry.attribute(QStringLiteral("name"));
+        if (!name || name->value.isEmpty() || property.entries.contains(name->value)) {
+            error("C16", entry, QStringLiteral("an entry needs a name of its own"));
+            continue;
+        }
+        Texts title = texts(entry, "title");
+        if (!title.contains(QStringLiteral("en")))
+            title.insert(QStringLiteral("en"), name->value);
+        property.entries.append(name->value);
+        property.entryTitles.append(title);
+    }
+    if (property.entries.size() > limits::entriesOfChoice)
+        error("C17", element, QStringLiteral("a choice has at most 64 entries"));
+    int index = 0;
+    if (readChoice(&value, property.entries, index, "C16"))
+        property.number = index;
+}
+
+} // namespace declared

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <declared/reader/declaration.h>
+#include <declared/reader/message.h>
+
+namespace declared {
+
+/// Reads what a file declares. `name` is the name of the file without ".shape.svg". Null for a file that has a
+/// fault; `messages` says which, and what else is to be said. Nothing but the bytes is read.
+SharedDeclaration readShape(const QByteArray &bytes, const QString &name, QVector<Message> *messages = nullptr);
+
+} // namespace declared

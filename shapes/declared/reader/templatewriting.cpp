@@ -1,0 +1,157 @@
+// The file as plain SVG for the library, and in the one form that its hash is made of.
+
+#include <declared/reader/filereader.h>
+
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QXmlStreamWriter>
+
+#include <algorithm>
+
+namespace declared {
+
+namespace {
+
+const QString linkNamespace = QStringLiteral("http://www.w3.org/1999/xlink");
+constexpr int hashDigits = 32;
+/// Template attributes of the kit, which files declare in another way.
+const QStringList attributesOfTheKit{QStringLiteral("keeps"), QStringLiteral("fill_follows"),
+                                     QStringLiteral("stroke_follows")};
+
+/// Only the file itself is read: a link leads to another element, or holds its data.
+bool leadsOutside(const SourceAttribute &attribute)
+{
+    return attribute.name == QLatin1String("href") && !attribute.value.startsWith(QLatin1Char('#')) &&
+           !attribute.value.startsWith(QLatin1String("data:"));
+}
+
+bool isWritten(const SourceAttribute &attribute)
+{
+    const bool isKnown = attribute.namespaceUri.isEmpty() || attribute.namespaceUri == linkNamespace ||
+                         attribute.prefix == QLatin1String("xml");
+    return isKnown && !leadsOutside(attribute) && !attribute.name.startsWith(QLatin1String("on"));
+}
+
+void writeAttribute(QXmlStreamWriter &writer, const SourceAttribute &attribute)
+{
+    if (attribute.namespaceUri.isEmpty())
+        writer.writeAttribute(attribute.name, attribute.value);
+    else
+        writer.writeAttribute(attribute.namespaceUri, attribute.name, attribute.value);
+}
+
+} // namespace
+
+bool FileReader::isLeftOut(const Element &element) const
+{
+    return !isSvg(element) || element.name == QLatin1String("script") ||
+           element.name == QLatin1String("foreignObject");
+}
+
+/// The "fill" or "stroke" of an element or of the groups around it; empty where none is given.
+QString FileReader::paintOf(int index, const QString &paint) const
+{
+    for (; index >= 0; index = m_elements.at(index).parent) {
+        const Element &element = m_elements.at(index);
+        const Attribute *own = element.attribute(paint);
+        const bool isElsewhere = element.attribute(paint, shapeNamespace) ||
+                                 element.value("style").contains(paint + QLatin1Char(':')) ||
+                                 element.attribute(QStringLiteral("class"));
+        if (isElsewhere || own)
+            return own && !isElsewhere ? own->value : QStringLiteral("declared");
+    }
+    return {};
+}
+
+/// The user's pen reaches what has a line, and the fill what isn't told to have none.
+QStringList FileReader::keptPaints(int index) const
+{
+    QStringList kept = m_written.value(index).kept;
+    const Element &element = m_elements.at(index);
+    if (!isDrawn(element) || element.name == QLatin1String("g") || m_points.contains(index))
+        return kept;
+    const QString stroke = paintOf(index, QStringLiteral("stroke"));
+    if ((stroke.isEmpty() || stroke == QLatin1String("none")) && !kept.contains(QStringLiteral("stroke")))
+        kept.append(QStringLiteral("stroke"));
+    if (paintOf(index, QStringLiteral("fill")) == QLatin1String("none") && !kept.contains(QStringLiteral("fill")))
+        kept.append(QStringLiteral("fill"));
+    return kept;
+}
+
+void FileReader::writeElement(QXmlStreamWriter &writer, int index) const
+{
+    const Element &element = m_elements.at(index);
+    const TemplateElement written = m_written.value(index);
+    writer.writeStartElement(written.isLetters ? QStringLiteral("path") : element.name);
+    QStringList dropped = written.dropped + attributesOfTheKit;
+    for (const auto &attribute : written.attributes)
+        dropped.append(attribute.first);
+    for (const Attribute &attribute : element.attributes) {
+        if (isWritten(attribute) && !dropped.contains(attribute.name))
+            writeAttribute(writer, attribute);
+    }
+    for (const auto &attribute : written.attributes)
+        writer.writeAttribute(attribute.first, attribute.second);
+    if (!written.id.isEmpty())
+        writer.writeAttribute(QStringLiteral("id"), written.id);
+    const QStringList kept = keptPaints(index);
+    if (!kept.isEmpty())
+        writer.writeAttribute(QStringLiteral("keeps"), kept.join(QLatin1Char(' ')));
+    const QVector<int> drawn = drawnChildren(element);
+    for (const SourceContent &content : element.contents) {
+        const bool isText = content.element < 0;
+        const bool isSpare = !isText && written.hasOneChild && drawn.indexOf(content.element) > 0;
+        if (written.isLetters || isSpare)
+            continue;
+        if (isText)
+            writer.writeCharacters(content.text);
+        else if (!isLeftOut(m_elements.at(content.element)))
+            writeElement(writer, content.element);
+    }
+    writer.writeEndElement();
+}
+
+QByteArray FileReader::templateText() const
+{
+    QByteArray text;
+    QXmlStreamWriter writer(&text);
+    writer.writeStartDocument();
+    writer.writeDefaultNamespace(svgNamespace);
+    writer.writeNamespace(linkNamespace, QStringLiteral("xlink"));
+    writeElement(writer, 0);
+    writer.writeEndDocument();
+    return text;
+}
+
+/// Comments, blank space, the order of attributes, and what other programs have added make no difference.
+void FileReader::writeCanonical(QXmlStreamWriter &writer, int index) const
+{
+    const Element &element = m_elements.at(index);
+    writer.writeStartElement(element.namespaceUri == shapeNamespace ? QStringLiteral("shape.") + element.name
+                                                                    : element.name);
+    QMap<QString, QString> sorted;
+    for (const Attribute &attribute : element.attributes) {
+        const bool isOurs = attribute.namespaceUri == shapeNamespace;
+        if (isOurs || isWritten(attribute))
+            sorted.insert((isOurs ? QStringLiteral("shape.") : QString()) + attribute.name, attribute.value);
+    }
+    for (auto attribute = sorted.constBegin(); attribute != sorted.constEnd(); ++attribute)
+        writer.writeAttribute(attribute.key(), attribute.value());
+    for (const SourceContent &content : element.contents) {
+        if (content.element < 0 && !content.text.trimmed().isEmpty())
+            writer.writeCharacters(content.text.simplified());
+        else if (content.element >= 0 && (m_elements.at(content.element).namespaceUri == shapeNamespace ||
+                                          !isLeftOut(m_elements.at(content.element))))
+            writeCanonical(writer, content.element);
+    }
+    writer.writeEndElement();
+}
+
+QString FileReader::hash() const
+{
+    QByteArray text;
+    QXmlStreamWriter writer(&text);
+    writeCanonical(writer, 0);
+    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().left(hashDigits));
+}
+
+} // namespace declared
