@@ -59,6 +59,11 @@ COMPONENTS = [
         prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h",),
     ),
+    Component(
+        ["shapes/declared/plugin"],
+        prefixes=("declared/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
+        headers=("pagehost/objectplugin.h",),
+    ),
     Component(["shapes"], prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"), own=("shapes",)),
     Component(["board"], prefixes=("framework/", "pagehost/"), own=("board",), qt=frozenset({"QtPrintSupport"})),
 ]

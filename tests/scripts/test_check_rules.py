@@ -40,6 +40,8 @@ class CheckRules(unittest.TestCase):
         self.include("src/shape/mapping.cpp", '"shape/mapping.h"', "<svgobj/csvgbase.h>", "<framework/idocument.h>")
         self.include("kit/src/shapeplugin.cpp", "<shapekit/kind.h>", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
         self.include("shapes/flask/flask.cpp", "<shapekit/shape.h>", "<QtCore/QString>")
+        self.include("shapes/declared/core/shape.h", "<shapekit/shape.h>")
+        self.include("shapes/declared/plugin/plugin.cpp", "<declared/core/shape.h>", "<pagehost/objectplugin.h>")
         self.include("board/window.cpp", "<pagehost/document.h>", "<QtPrintSupport/QPrinter>")
         self.assertEqual(self.tree.breaches(), [])
 
@@ -85,6 +87,17 @@ class CheckRules(unittest.TestCase):
         self.include("shapes/flask/flask.cpp", "<svgobj/csvgbase.h>", "<pagehost/objectplugin.h>")
         self.assertEqual(
             self.tree.breaches(), ["shapes/flask/flask.cpp:2: may not include pagehost/objectplugin.h"]
+        )
+
+    def test_declared_shapes_may_not_see_their_plugin(self):
+        self.include("shapes/declared/plugin/plugin.h", "<QtCore/QString>")
+        self.include("shapes/declared/core/shape.cpp", "<declared/plugin/plugin.h>", "<pagehost/objectplugin.h>")
+        self.assertEqual(
+            self.tree.breaches(),
+            [
+                "shapes/declared/core/shape.cpp:1: may not include declared/plugin/plugin.h",
+                "shapes/declared/core/shape.cpp:2: may not include pagehost/objectplugin.h",
+            ],
         )
 
     def test_other_qt_modules_are_refused(self):

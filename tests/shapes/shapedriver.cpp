@@ -51,6 +51,11 @@ QStringList allShapeNames()
         QDir(QStringLiteral(SHAPE_PLUGIN_DIRECTORY)).entryList({QStringLiteral("*.so")}, QDir::Files);
     for (QString &name : names)
         name.chop(3);
+    names.removeOne(QStringLiteral("declared"));
+    const QStringList files =
+        QDir(QStringLiteral(SHAPE_PLUGIN_DIRECTORY)).entryList({QStringLiteral("*.shape.svg")}, QDir::Files);
+    for (const QString &file : files)
+        names.append(QStringLiteral("declared/") + file.section(QLatin1Char('.'), 0, 0));
     return names;
 }
 
@@ -60,13 +65,15 @@ QString pluginFile(const QString &name)
 }
 
 ShapeDriver::ShapeDriver(const QString &name)
-    : m_loader(pluginFile(name))
+    : m_loader(pluginFile(name.section(QLatin1Char('/'), 0, 0)))
 {
     undoStack().clear();
     m_plugin = qobject_cast<pagehost::ObjectPlugin *>(m_loader.instance());
     if (!m_plugin)
         qFatal("%s", qPrintable(m_loader.errorString()));
-    CBaseObject *object = m_plugin->createObject(m_plugin->objectKinds().value(0).id);
+    const QString declaredName = name.section(QLatin1Char('/'), 1);
+    CBaseObject *object = m_plugin->createObject(
+        declaredName.isEmpty() ? m_plugin->objectKinds().value(0).id : QStringLiteral("declared.") + declaredName);
     m_object.reset(dynamic_cast<CSVGObj *>(object));
     m_scene.addItem(m_object.get());
 }

@@ -19,7 +19,7 @@ namespace shapetest {
 
 /// The shapes that are tested number by number, by the name of their file.
 QStringList shapeNames();
-/// All shapes there are.
+/// All shapes there are; one that is declared in a file is "declared/NAME".
 QStringList allShapeNames();
 /// The file of a plug-in.
 QString pluginFile(const QString &name);
@@ -28,7 +28,7 @@ QString pluginFile(const QString &name);
 class ShapeDriver
 {
 public:
-    /// A new, unfinished object of the plug-in's only kind.
+    /// A new, unfinished object of the plug-in's only kind, or of a declared shape.
     explicit ShapeDriver(const QString &name);
     ~ShapeDriver();
 

@@ -233,8 +233,8 @@ void TestDrawing::paletteBeginsWithTheBasicShapes_data()
     QTest::addColumn<QStringList>("groups");
     QTest::addColumn<QStringList>("firstNames");
     QTest::newRow("English") << "en" << QStringList{"Basic shapes", "Mathematics", "Science"}
-                             << QStringList{"Block arrow", "Callout", "Ellipse"};
-    // Not in the order of the files: there the block arrow is the first, the ellipse after the callout.
+                             << QStringList{"Block arrow", "Callout", "Chevron"};
+    // Not in the order of the files: there the block arrow is the first.
     QTest::newRow("German") << "de" << QStringList{"Grundformen", "Mathematik", "Naturwissenschaft"}
                             << QStringList{"Abgerundetes Rechteck", "Bild", "Blockpfeil"};
 }

@@ -1,0 +1,271 @@
+#include <declared/core/declaredshape.h>
+
+#include <declared/reader/filelimits.h>
+
+#include <svgobj/csvgobj.h>
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+#include <cmath>
+
+namespace declared {
+
+namespace {
+
+/// A shape that the page object fills, and one that its document fills.
+constexpr int pageFilledType = 24;
+constexpr int shapeFilledType = 1024;
+/// Where nothing limits a drag.
+constexpr double farAway = 1e6;
+constexpr int presentForm = 1;
+const QString declaredKey = QStringLiteral("SVG_Declared");
+
+int typeOf(const Declaration &declaration)
+{
+    return declaration.filling == Filling::Page ? pageFilledType : shapeFilledType;
+}
+
+QString listText(const QVector<double> &numbers)
+{
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(numberText(number));
+    return texts.join(QLatin1Char(' '));
+}
+
+QVector<QPointF> entriesOf(const QVector<double> &numbers, bool arePoints)
+{
+    QVector<QPointF> entries;
+    for (int i = 0; i < numbers.size(); i += arePoints ? 2 : 1)
+        entries.append({numbers.at(i), arePoints ? numbers.value(i + 1) : 0});
+    return entries;
+}
+
+} // namespace
+
+DeclaredShape::DeclaredShape(CSVGObj *owner, const ShapeKind &kind)
+    : Shape(owner, typeOf(kind.declaration()),
+            kind.declaration().sizing == declared::Sizing::Redrawn ? Redrawn : Stretched)
+    , m_declaration(kind.declaration())
+    , m_state(kind.declaration())
+    , m_figure(kind.declaration())
+{
+    keepAspectRatio = m_declaration.keepsAspect;
+    addProperties(kind);
+}
+
+void DeclaredShape::addProperties(const ShapeKind &kind)
+{
+    for (int i = 0; i < m_declaration.properties.size(); ++i) {
+        const PropertyDeclaration &declared = m_declaration.properties.at(i);
+        std::unique_ptr<shapekit::Property> property = makeProperty(kind, i);
+        property->setIds(declared.id, declared.id);
+        property->setPanels(declared.inPropertyPanel, declared.inSettings);
+        m_values.push_back(std::move(property));
+    }
+}
+
+std::unique_ptr<shapekit::Property> DeclaredShape::makeProperty(const ShapeKind &kind, int index)
+{
+    const PropertyDeclaration &declared = m_declaration.properties.at(index);
+    const shapekit::Text &title = kind.title(index);
+    switch (declared.kind) {
+    case PropertyDeclaration::Whole:
+        return std::make_unique<shapekit::WholeNumber>(this, title, int(declared.number),
+                                                       int(std::ceil(declared.from)), int(std::floor(declared.to)));
+    case PropertyDeclaration::Real:
+        return std::make_unique<shapekit::RealNumber>(this, title, declared.number, declared.from, declared.to,
+                                                      declared.step);
+    case PropertyDeclaration::Switch:
+        return std::make_unique<shapekit::Switch>(this, title, declared.number != 0);
+    case PropertyDeclaration::Choice:
+        return std::make_unique<shapekit::Choice>(this, title, int(declared.number), kind.entries(index));
+    case PropertyDeclaration::Colour:
+        return std::make_unique<shapekit::ColorValue>(this, title, declared.colour.rgb());
+    case PropertyDeclaration::Text:
+        return std::make_unique<shapekit::TextValue>(this, title, declared.text);
+    case PropertyDeclaration::Numbers:
+    case PropertyDeclaration::Points:
+        break;
+    }
+    auto list =
+        std::make_unique<shapekit::NumberList>(this, title, declared.numbers.size(), declared.from, declared.to);
+    list->takeAnswer(listText(declared.numbers));
+    return list;
+}
+
+QString DeclaredShape::getSVG()
+{
+    return QString::fromUtf8(m_declaration.templateText);
+}
+
+void DeclaredShape::setPenColor(QColor color, bool record)
+{
+    Shape::setPenColor(color, record);
+    m_figure.copyPaints();
+}
+
+QRectF DeclaredShape::paintedArea()
+{
+    QRectF area = Shape::paintedArea();
+    if (!document || document->viewBox().isEmpty())
+        return area;
+    const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
+    const double reach = 2 * document->getAllStrokeWidth();
+    for (const QZeSvgNode *group : m_figure.repeatedGroups()) {
+        const QRectF bounds = group->transformedBounds();
+        if (!bounds.isEmpty())
+            area |= toObject.mapRect(bounds.adjusted(-reach, -reach, reach, reach));
+    }
+    return area;
+}
+
+void DeclaredShape::updateState()
+{
+    m_state.renewBudget();
+    m_state.setSize(size());
+    m_state.setFrame(frame());
+    m_state.setStyle(getPenColor().name(), getFillBrush().color().name(), document->getAllStrokeWidth());
+    m_state.setPoints(standingPoints());
+    for (int i = 0; i < m_declaration.properties.size(); ++i)
+        updateProperty(i);
+}
+
+void DeclaredShape::updateProperty(int index)
+{
+    const PropertyDeclaration &declared = m_declaration.properties.at(index);
+    const shapekit::Property &property = *m_values.at(size_t(index));
+    switch (declared.kind) {
+    case PropertyDeclaration::Whole:
+        m_state.setProperty(declared, double(static_cast<const shapekit::WholeNumber &>(property)));
+        return;
+    case PropertyDeclaration::Real:
+        m_state.setProperty(declared, double(static_cast<const shapekit::RealNumber &>(property)));
+        return;
+    case PropertyDeclaration::Switch:
+        m_state.setProperty(declared, static_cast<const shapekit::Switch &>(property) ? 1.0 : 0.0);
+        return;
+    case PropertyDeclaration::Choice:
+        m_state.setProperty(declared, declared.entries.value(static_cast<const shapekit::Choice &>(property)));
+        return;
+    case PropertyDeclaration::Colour:
+        m_state.setProperty(declared, QColor(static_cast<const shapekit::ColorValue &>(property)).name());
+        return;
+    case PropertyDeclaration::Text:
+        m_state.setProperty(
+            declared, QString(static_cast<const shapekit::TextValue &>(property)).left(limits::textCharacters));
+        return;
+    case PropertyDeclaration::Numbers:
+    case PropertyDeclaration::Points:
+        m_state.setList(declared, entriesOf(static_cast<const shapekit::NumberList &>(property).numbers(),
+                                            declared.kind == PropertyDeclaration::Points));
+        return;
+    }
+}
+
+QVector<QPointF> DeclaredShape::standingPoints() const
+{
+    QVector<QPointF> points;
+    for (int number = 1; number <= m_declaration.points.size(); ++number)
+        points.append(point(number));
+    return points;
+}
+
+QRectF DeclaredShape::range(int number)
+{
+    const PointDeclaration &point = m_declaration.point(number);
+    if (point.place.isValid() || point.track.kind != TrackDeclaration::None || point.mirrored > 0)
+        return QRectF(QPointF(-farAway, -farAway), QPointF(farAway, farAway));
+    updateState();
+    return m_state.range(number, Shape::range(number));
+}
+
+QPointF DeclaredShape::settled(int number, QPointF centre)
+{
+    updateState();
+    return m_state.settled(number, centre, Shape::range(number));
+}
+
+bool DeclaredShape::mayMove(int number, QPointF centre)
+{
+    updateState();
+    const QPointF stands = m_state.settled(number, centre, Shape::range(number));
+    return m_state.isAllowed(number, centre, stands);
+}
+
+void DeclaredShape::pointMoved(int number, QPointF centre)
+{
+    const PointDeclaration &point = m_declaration.point(number);
+    Shape::pointMoved(number, centre);
+    if (point.mirrored == 0)
+        return;
+    m_state.setSize(size());
+    Shape::pointMoved(point.mirrored, m_state.mirrored(point, centre));
+}
+
+void DeclaredShape::draw()
+{
+    updateState();
+    m_figure.write(*document, m_state);
+}
+
+QJsonObject DeclaredShape::values() const
+{
+    QJsonObject values;
+    for (int i = 0; i < m_declaration.properties.size(); ++i) {
+        const PropertyDeclaration &declared = m_declaration.properties.at(i);
+        const shapekit::Property &property = *m_values.at(size_t(i));
+        const bool isChoice = declared.kind == PropertyDeclaration::Choice;
+        values[declared.name] =
+            isChoice ? QJsonValue(declared.entries.at(static_cast<const shapekit::Choice &>(property)))
+                     : property.toJson();
+    }
+    return {{QStringLiteral("form"), presentForm},
+            {QStringLiteral("id"), m_declaration.id},
+            {QStringLiteral("text"), m_declaration.hash},
+            {QStringLiteral("values"), values}};
+}
+
+/// Properties that are missing or unknown keep the value of a new shape.
+void DeclaredShape::takeValues(const QJsonObject &saved)
+{
+    const QJsonObject values = saved.value(QLatin1String("values")).toObject();
+    for (int i = 0; i < m_declaration.properties.size(); ++i) {
+        const PropertyDeclaration &declared = m_declaration.properties.at(i);
+        QJsonValue value = values.value(declared.name);
+        if (declared.kind == PropertyDeclaration::Choice) {
+            const int entry = declared.entries.indexOf(value.toString());
+            value = entry < 0 ? QJsonValue() : QJsonValue(entry);
+        }
+        m_values.at(size_t(i))->fromJson(value);
+    }
+    propertyChanged(nullptr);
+}
+
+void DeclaredShape::saveValues(QDataStream &out)
+{
+    out << QJsonDocument(values()).toJson(QJsonDocument::Compact);
+}
+
+void DeclaredShape::loadValues(QDataStream &in)
+{
+    QByteArray bytes;
+    in >> bytes;
+    takeValues(QJsonDocument::fromJson(bytes).object());
+}
+
+void DeclaredShape::saveValues(QJsonObject &object)
+{
+    object[declaredKey] = values();
+}
+
+void DeclaredShape::loadValues(const QJsonObject &object)
+{
+    takeValues(object.value(declaredKey).toObject());
+}
+
+} // namespace declared

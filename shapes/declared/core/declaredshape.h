@@ -1,0 +1,56 @@
+#pragma once
+
+#include <declared/core/figure.h>
+#include <declared/core/shapekind.h>
+
+#include <shapekit/shape.h>
+
+#include <memory>
+#include <vector>
+
+namespace declared {
+
+/// A shape that a file declares: its points, properties and figure are what the file's expressions say.
+///
+/// Behind the data of every shape it saves one JSON object under "SVG_Declared": "form" 1, the "id" of the shape,
+/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry.
+class DeclaredShape : public shapekit::Shape
+{
+public:
+    /// `kind` outlives the shape.
+    DeclaredShape(CSVGObj *owner, const ShapeKind &kind);
+
+    QString getSVG() override;
+    int getMaxPenWidth() override { return m_declaration.widestPen; }
+    void setPenColor(QColor color, bool record) override;
+    QRectF paintedArea() override;
+
+protected:
+    QRectF range(int number) override;
+    QPointF settled(int number, QPointF centre) override;
+    QSizeF smallestSize() const override { return m_declaration.smallest; }
+    bool mayMove(int number, QPointF centre) override;
+    void pointMoved(int number, QPointF centre) override;
+    void draw() override;
+    void saveValues(QDataStream &out) override;
+    void loadValues(QDataStream &in) override;
+    void saveValues(QJsonObject &object) override;
+    void loadValues(const QJsonObject &object) override;
+
+private:
+    void addProperties(const ShapeKind &kind);
+    std::unique_ptr<shapekit::Property> makeProperty(const ShapeKind &kind, int index);
+    /// Hands the present size, look, points and properties to the expressions.
+    void updateState();
+    void updateProperty(int index);
+    QVector<QPointF> standingPoints() const;
+    QJsonObject values() const;
+    void takeValues(const QJsonObject &values);
+
+    const Declaration &m_declaration;
+    ShapeState m_state;
+    Figure m_figure;
+    std::vector<std::unique_ptr<shapekit::Property>> m_values; ///< by index of the declared property
+};
+
+} // namespace declared

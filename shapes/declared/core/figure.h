@@ -1,0 +1,46 @@
+#pragma once
+
+#include <declared/core/shapestate.h>
+
+#include <QtCore/QVector>
+
+class QZeSvgNode;
+class QZeSvgStructureNode;
+class QZeSvgTinyDocument;
+
+namespace declared {
+
+/// The elements of one shape's document that expressions write, and the copies of those that are repeated.
+class Figure
+{
+public:
+    explicit Figure(const Declaration &declaration);
+
+    /// Writes what differs from what is there. Elements with a value that isn't finite are not drawn.
+    void write(QZeSvgTinyDocument &document, ShapeState &state);
+    /// Copies have the paints of what they are copies of.
+    void copyPaints();
+    /// Groups whose content is repeated.
+    QVector<QZeSvgNode *> repeatedGroups() const;
+
+private:
+    struct Repeated
+    {
+        QZeSvgStructureNode *group = nullptr;
+        QVector<QZeSvgNode *> copies; ///< the template's own first
+    };
+
+    void find(QZeSvgTinyDocument &document);
+    void writeRepeated(int index, ShapeState &state);
+    bool addCopy(Repeated &repeated);
+    void writeRound(int index, int round, ShapeState &state);
+    void writeElement(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state);
+    bool writeAttributes(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state);
+    bool writeLetters(const LettersDeclaration &letters, QZeSvgNode &node, ShapeState &state);
+
+    const Declaration &m_declaration;
+    QVector<Repeated> m_repeated;
+    int m_copies = 0;
+};
+
+} // namespace declared

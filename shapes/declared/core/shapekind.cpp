@@ -1,0 +1,104 @@
+#include <declared/core/shapekind.h>
+
+#include <declared/core/declaredshape.h>
+
+namespace declared {
+
+namespace {
+
+struct KnownGroup
+{
+    const char *name;
+    const char *key;
+    const char *english;
+    const char *german;
+};
+
+constexpr KnownGroup knownGroups[] = {{"basic", "IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"},
+                                      {"mathematics", "IDS_SHAPEGROUP_MATHEMATICS", "Mathematics", "Mathematik"},
+                                      {"science", "IDS_SHAPEGROUP_SCIENCE", "Science", "Naturwissenschaft"}};
+
+const KnownGroup *knownGroup(const QString &name)
+{
+    for (const KnownGroup &group : knownGroups) {
+        if (name == QLatin1String(group.name))
+            return &group;
+    }
+    return nullptr;
+}
+
+void addText(QMap<QString, QString> &table, const QString &key, const Texts &texts, const QString &language)
+{
+    // A name in no other language than its own stands for the English one, which must be there.
+    const bool isEnglish = language == QLatin1String("en");
+    const QString text = texts.value(language, isEnglish && !texts.isEmpty() ? texts.first() : QString());
+    if (!text.isEmpty())
+        table.insert(key, text);
+}
+
+} // namespace
+
+ShapeKind::ShapeKind(const SharedDeclaration &declaration)
+    : m_declaration(declaration)
+{
+    m_kind.name = declaration->id;
+    m_kind.idPrefix = QStringLiteral("declared.");
+    m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");
+    m_kind.makeCore = [this](CSVGObj *owner) -> CSVGBase * { return new DeclaredShape(owner, *this); };
+    m_entries.resize(size_t(declaration->properties.size()));
+    for (int i = 0; i < declaration->properties.size(); ++i) {
+        const PropertyDeclaration &property = declaration->properties.at(i);
+        m_titles.push_back(
+            std::make_unique<shapekit::Text>(propertyKey(i), QStringLiteral("Declared_") + property.name));
+        for (int entry = 0; entry < property.entries.size(); ++entry)
+            m_entries[size_t(i)].push_back(
+                std::make_unique<shapekit::Text>(entryKey(i, entry), property.entries.at(entry)));
+    }
+}
+
+QString ShapeKind::groupKey() const
+{
+    const KnownGroup *known = knownGroup(m_declaration->group);
+    return known ? QString::fromLatin1(known->key) : QStringLiteral("IDS_DECLAREDGROUP_") + m_declaration->group;
+}
+
+/// Ids that differ in their case alone have keys of their own.
+QString ShapeKind::propertyKey(int property) const
+{
+    return m_kind.keyPrefix + m_declaration->id + QLatin1Char('_') + m_declaration->properties.at(property).name;
+}
+
+QString ShapeKind::entryKey(int property, int entry) const
+{
+    return propertyKey(property) + QLatin1Char('_') + m_declaration->properties.at(property).entries.at(entry);
+}
+
+QVector<const shapekit::Text *> ShapeKind::entries(int property) const
+{
+    QVector<const shapekit::Text *> found;
+    for (const auto &entry : m_entries.at(size_t(property)))
+        found.append(entry.get());
+    return found;
+}
+
+QMap<QString, QString> ShapeKind::texts(const QString &language) const
+{
+    QMap<QString, QString> table;
+    addText(table, m_kind.nameKey(), m_declaration->name, language);
+    for (int i = 0; i < m_declaration->properties.size(); ++i) {
+        const PropertyDeclaration &property = m_declaration->properties.at(i);
+        addText(table, propertyKey(i), property.title, language);
+        for (int entry = 0; entry < property.entries.size(); ++entry)
+            addText(table, entryKey(i, entry), property.entryTitles.at(entry), language);
+    }
+    const KnownGroup *known = knownGroup(m_declaration->group);
+    if (!known && language == QLatin1String("en"))
+        table.insert(groupKey(), m_declaration->group);
+    else if (known && language == QLatin1String("en"))
+        table.insert(groupKey(), QString::fromUtf8(known->english));
+    else if (known && language == QLatin1String("de"))
+        table.insert(groupKey(), QString::fromUtf8(known->german));
+    return table;
+}
+
+} // namespace declared

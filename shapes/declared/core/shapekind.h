@@ -1,0 +1,39 @@
+#pragma once
+
+#include <declared/reader/declaration.h>
+
+#include <shapekit/kind.h>
+#include <shapekit/text.h>
+
+#include <memory>
+#include <vector>
+
+namespace declared {
+
+/// A shape that a file declares, as plug-in and panels know it.
+class ShapeKind
+{
+public:
+    explicit ShapeKind(const SharedDeclaration &declaration);
+    ShapeKind(const ShapeKind &) = delete;
+
+    const Declaration &declaration() const { return *m_declaration; }
+    const shapekit::Kind &kind() const { return m_kind; }
+    QString groupKey() const;
+    /// The title of a property, and those of the entries of a choice, by index.
+    const shapekit::Text &title(int property) const { return *m_titles.at(size_t(property)); }
+    QVector<const shapekit::Text *> entries(int property) const;
+    /// In a language, else in English where that is wanted.
+    QMap<QString, QString> texts(const QString &language) const;
+
+private:
+    QString propertyKey(int property) const;
+    QString entryKey(int property, int entry) const;
+
+    SharedDeclaration m_declaration;
+    shapekit::Kind m_kind;
+    std::vector<std::unique_ptr<shapekit::Text>> m_titles;
+    std::vector<std::vector<std::unique_ptr<shapekit::Text>>> m_entries; ///< by property
+};
+
+} // namespace declared

@@ -1,0 +1,166 @@
+#include <declared/core/shapestate.h>
+
+#include <declared/core/tracks.h>
+#include <declared/expressions/functions.h>
+
+#include <QtCore/QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace declared {
+
+ShapeState::ShapeState(const Declaration &declaration)
+    : m_declaration(declaration)
+{
+    m_inputs.values.resize(declaration.slotCount);
+    m_inputs.lists.resize(declaration.listCount);
+    m_inputs.values[slots_of::Pi] = M_PI;
+}
+
+void ShapeState::set(qint32 slot, const Value &value)
+{
+    m_inputs.values[slot] = value;
+    m_letsAreValid = false;
+}
+
+void ShapeState::setSize(QSizeF size)
+{
+    set(slots_of::Width, size.width());
+    set(slots_of::Height, size.height());
+    set(slots_of::Middle, QPointF(size.width() / 2, size.height() / 2));
+}
+
+void ShapeState::setFrame(const QRectF &frame)
+{
+    set(slots_of::Left, frame.left());
+    set(slots_of::Top, frame.top());
+    set(slots_of::Right, frame.right());
+    set(slots_of::Bottom, frame.bottom());
+}
+
+void ShapeState::setStyle(const QString &pen, const QString &fill, double penWidth)
+{
+    set(slots_of::Pen, pen);
+    set(slots_of::Fill, fill);
+    set(slots_of::PenWidth, penWidth);
+}
+
+void ShapeState::setPoints(const QVector<QPointF> &centres)
+{
+    m_inputs.lists[slots_of::PointList] = centres;
+    set(slots_of::PointCount, double(m_declaration.points.size()));
+    for (int i = 0; i < m_declaration.points.size(); ++i)
+        set(slots_of::FirstPoint + i, centres.value(i));
+}
+
+void ShapeState::setProperty(const PropertyDeclaration &property, const Value &value)
+{
+    set(property.slot, value);
+}
+
+void ShapeState::setList(const PropertyDeclaration &property, const QVector<QPointF> &entries)
+{
+    m_inputs.lists[property.slot] = entries;
+    m_letsAreValid = false;
+}
+
+void ShapeState::setLoop(const LoopDeclaration &loop, double value)
+{
+    // Lets know nothing of loops.
+    m_inputs.values[loop.slot] = value;
+}
+
+void ShapeState::evaluateLets()
+{
+    m_letsAreValid = true;
+    for (const LetDeclaration &let : m_declaration.lets)
+        m_inputs.values[let.slot] = Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(let.value);
+}
+
+Value ShapeState::valueOf(const Expression &expression)
+{
+    if (!m_letsAreValid)
+        evaluateLets();
+    return Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(expression);
+}
+
+bool ShapeState::holds(const Expression &expression)
+{
+    const Value value = valueOf(expression);
+    return !value.isFinite() || value.number() != 0;
+}
+
+double ShapeState::limitOf(const Expression &expression, double otherwise)
+{
+    const Value limit = valueOf(expression);
+    return limit.isFinite() ? limit.number() : otherwise;
+}
+
+QRectF ShapeState::range(int number, QRectF limits)
+{
+    const PointDeclaration &point = m_declaration.point(number);
+    if (point.x.isLimited) {
+        const double low = limitOf(point.x.range.low, limits.left());
+        const double high = limitOf(point.x.range.high, limits.right());
+        limits = {QPointF(low, limits.top()), QPointF(high, limits.bottom())};
+    }
+    if (point.y.isLimited) {
+        const double low = limitOf(point.y.range.low, limits.top());
+        const double high = limitOf(point.y.range.high, limits.bottom());
+        limits = {QPointF(limits.left(), low), QPointF(limits.right(), high)};
+    }
+    return limits;
+}
+
+double ShapeState::steppedFrom(double low, double value, double high, const Expression &step)
+{
+    const double within = std::min(std::max(value, low), high);
+    const double width = step.isValid() ? valueOf(step).number() : 0;
+    if (!(width > 0) || !qIsFinite(width))
+        return within;
+    const double rounded = low + wholeOf((within - low) / width) * width;
+    return rounded > high ? low + std::floor((high - low) / width) * width : rounded;
+}
+
+QPointF ShapeState::settled(int number, QPointF at, const QRectF &limits)
+{
+    const PointDeclaration &point = m_declaration.point(number);
+    m_inputs.values[slots_of::At] = at;
+    if (point.mirrored > 0)
+        return mirrored(point, m_inputs.values.at(slots_of::FirstPoint + point.mirrored - 1).point);
+    if (point.place.isValid()) {
+        const Value place = valueOf(point.place);
+        return place.isFinite() ? place.point : at;
+    }
+    if (point.track.kind != TrackDeclaration::None) {
+        QVector<Value> arguments;
+        for (const Expression &argument : point.track.arguments)
+            arguments.append(valueOf(argument));
+        const double step = point.track.step.isValid() ? valueOf(point.track.step).number() : 0;
+        return nearestOnTrack(point.track.kind, arguments, step, at);
+    }
+    const QRectF within = range(number, limits);
+    return {steppedFrom(within.left(), at.x(), within.right(), point.x.step),
+            steppedFrom(within.top(), at.y(), within.bottom(), point.y.step)};
+}
+
+bool ShapeState::isAllowed(int number, QPointF at, QPointF stands)
+{
+    const PointDeclaration &point = m_declaration.point(number);
+    if (!point.allowed.isValid())
+        return true;
+    m_inputs.values[slots_of::At] = at;
+    m_inputs.lists[slots_of::PointList][number - 1] = stands;
+    set(slots_of::FirstPoint + number - 1, stands);
+    return holds(point.allowed);
+}
+
+QPointF ShapeState::mirrored(const PointDeclaration &point, QPointF centre) const
+{
+    const QPointF size(m_inputs.values.at(slots_of::Width).number(), m_inputs.values.at(slots_of::Height).number());
+    return {point.mirrorsX ? size.x() - centre.x() : centre.x(),
+            point.mirrorsY ? size.y() - centre.y() : centre.y()};
+}
+
+} // namespace declared

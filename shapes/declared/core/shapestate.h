@@ -1,0 +1,51 @@
+#pragma once
+
+#include <declared/reader/declaration.h>
+
+#include <QtCore/QRectF>
+
+namespace declared {
+
+/// The values that the expressions of one shape read, and their results. Points and sizes are document units.
+class ShapeState
+{
+public:
+    explicit ShapeState(const Declaration &declaration);
+
+    void setSize(QSizeF size);
+    /// The frame that the middle of a line may reach.
+    void setFrame(const QRectF &frame);
+    void setStyle(const QString &pen, const QString &fill, double penWidth);
+    void setPoints(const QVector<QPointF> &centres);
+    void setProperty(const PropertyDeclaration &property, const Value &value);
+    void setList(const PropertyDeclaration &property, const QVector<QPointF> &entries);
+    void setLoop(const LoopDeclaration &loop, double value);
+
+    /// Allows for another drawing, or for settling once more.
+    void renewBudget() { m_budget = {}; }
+    bool isExhausted() const { return m_budget.isExhausted; }
+
+    Value valueOf(const Expression &expression);
+    bool holds(const Expression &expression);
+    /// `limits` with the ranges of a point instead, where it has any; what isn't finite doesn't limit.
+    QRectF range(int number, QRectF limits);
+    /// Where a point stands that is wanted at `at`, the others standing where they were set to.
+    QPointF settled(int number, QPointF at, const QRectF &limits);
+    /// Whether a drag may take a point to `at`, where it stands at `stands`.
+    bool isAllowed(int number, QPointF at, QPointF stands);
+    /// The place on the other side of the middle, for a point that mirrors another one.
+    QPointF mirrored(const PointDeclaration &point, QPointF centre) const;
+
+private:
+    void set(qint32 slot, const Value &value);
+    void evaluateLets();
+    double limitOf(const Expression &expression, double otherwise);
+    double steppedFrom(double low, double value, double high, const Expression &step);
+
+    const Declaration &m_declaration;
+    Inputs m_inputs;
+    Budget m_budget;
+    bool m_letsAreValid = false;
+};
+
+} // namespace declared
