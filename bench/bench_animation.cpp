@@ -46,10 +46,9 @@ bool plays(CBaseObject &object)
 QStringList movingKinds()
 {
     QStringList moving;
-    for (const QString &kind : shapeKinds()) {
+    for (const QString &kind : shapeKinds())
         if (plays(*makeShape(kind, objectSize)))
             moving.append(kind);
-    }
     return moving;
 }
 

@@ -130,10 +130,9 @@ double processStatus(const std::string &name)
 {
     std::ifstream status("/proc/self/status");
     std::string line;
-    while (std::getline(status, line)) {
+    while (std::getline(status, line))
         if (line.compare(0, name.size(), name) == 0)
             return std::stod(line.substr(name.size() + 1)) * 1024;
-    }
     return 0;
 }
 

@@ -82,10 +82,9 @@ QImage canvas(int side)
 
 template<typename Document> void load(benchmark::State &state, const Texts &texts)
 {
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const QByteArray &text : texts)
             benchmark::DoNotOptimize(loaded<Document>(fresh(text)));
-    }
 }
 
 /// Documents that were never drawn.
@@ -144,10 +143,9 @@ void changeAndDraw(benchmark::State &state, const Texts &texts)
 void changeAndDrawPeer(benchmark::State &state, const Texts &texts)
 {
     QImage image = canvas(smallSide);
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const QByteArray &text : texts)
             drawInto(&image, loaded<Peer>(fresh(text)));
-    }
 }
 
 template<typename Document> void memory(benchmark::State &state, const Texts &texts)

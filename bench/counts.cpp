@@ -158,8 +158,7 @@ int main(int argc, char **argv)
     if (!isWanted("drag-step"))
         return 0;
     const QStringList kinds = shapeKinds();
-    for (const QString &kind : kinds) {
+    for (const QString &kind : kinds)
         countDragStep(kind);
-    }
     return 0;
 }

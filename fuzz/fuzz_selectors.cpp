@@ -32,10 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     require(!selectors->isEmpty(), "a list has selectors");
     for (const Svg::Selector &selector : *selectors) {
         const QVector<uint> above = Svg::ancestorNames(selector);
-        for (Svg::NodeIndex at = 0; at < tree.size(); ++at) {
+        for (Svg::NodeIndex at = 0; at < tree.size(); ++at)
             if (Svg::SelectorMatcher(tree, steps).matches(at, selector))
                 require(Svg::AncestorNames(tree, at).mayHold(above), "what matches is not ruled out");
-        }
     }
     return 0;
 }

@@ -101,10 +101,9 @@ CBaseObject *fromPictureOrText(const QMimeData &data, const pagehost::ObjectRegi
 bool hasForeignData(const QMimeData &data, const pagehost::ObjectRegistry &registry)
 {
     const QStringList types = registry.dataTypes();
-    for (const QString &type : types) {
+    for (const QString &type : types)
         if (data.hasFormat(type))
             return true;
-    }
     return !types.isEmpty() && (data.hasUrls() || data.hasImage() || looksLikeSvg(data.text()));
 }
 

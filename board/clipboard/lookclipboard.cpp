@@ -14,10 +14,9 @@ const QString fillKey = QStringLiteral("fill_color");
 QVector<CBaseObject *> filledOnes(const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> filled;
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         if (pagehost::styleOf(object).hasFill && object->getFillProp())
             filled.append(object);
-    }
     return filled;
 }
 

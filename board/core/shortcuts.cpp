@@ -8,10 +8,9 @@ QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QList<QKeySeque
 {
     QList<QKeySequence> keys = ours;
     const QList<QKeySequence> bindings = QKeySequence::keyBindings(key);
-    for (const QKeySequence &binding : bindings) {
+    for (const QKeySequence &binding : bindings)
         if (!keys.contains(binding))
             keys.append(binding);
-    }
     return keys;
 }
 

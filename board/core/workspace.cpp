@@ -55,10 +55,9 @@ QVector<pagehost::PluginReport> Workspace::pluginProblems() const
 {
     QVector<pagehost::PluginReport> problems;
     const QVector<pagehost::PluginReport> reports = m_registry.reports();
-    for (const pagehost::PluginReport &report : reports) {
+    for (const pagehost::PluginReport &report : reports)
         if (!report.problem.isEmpty())
             problems.append(report);
-    }
     return problems;
 }
 

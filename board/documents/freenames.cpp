@@ -10,10 +10,9 @@ const QString jsonSuffix = QStringLiteral("board.json");
 
 QString formatSuffixOf(const QString &file)
 {
-    for (const QString &suffix : {jsonSuffix, binarySuffix}) {
+    for (const QString &suffix : {jsonSuffix, binarySuffix})
         if (file.endsWith(QLatin1Char('.') + suffix, Qt::CaseInsensitive))
             return file.right(suffix.size() + 1);
-    }
     return {};
 }
 

@@ -25,10 +25,9 @@ constexpr int pictureWidth = 120;
 pagehost::Page *telling(const pagehost::Document &document)
 {
     const QVector<pagehost::Page *> pages = document.pages();
-    for (pagehost::Page *page : pages) {
+    for (pagehost::Page *page : pages)
         if (page->objectCount() > 0)
             return page;
-    }
     return document.page(0);
 }
 

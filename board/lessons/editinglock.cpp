@@ -19,10 +19,9 @@ EditingLock::EditingLock(QMainWindow *window, PageView *view)
 void EditingLock::setLocked(bool locked)
 {
     const QList<QAction *> titles = m_window->menuBar()->actions();
-    for (QAction *title : titles) {
+    for (QAction *title : titles)
         if (!m_spared.contains(title->menu()))
             title->setEnabled(!locked);
-    }
     const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
     for (QToolBar *bar : bars)
         bar->setEnabled(!locked || m_sparedBars.contains(bar));

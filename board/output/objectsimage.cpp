@@ -38,10 +38,9 @@ bool isRowEmpty(const QImage &image, int y)
 
 bool isColumnEmpty(const QImage &image, int x)
 {
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < image.height(); ++y)
         if (qAlpha(reinterpret_cast<const QRgb *>(image.constScanLine(y))[x]) != 0)
             return false;
-    }
     return true;
 }
 
@@ -74,10 +73,9 @@ ObjectsImage imageOf(const QVector<CBaseObject *> &objects, double scale)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     painter.scale(fitting, fitting);
     painter.translate(-area.topLeft());
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         if (object->isVisible())
             paintObject(painter, object);
-    }
     painter.end();
     const QRect part = paintedPart(image);
     if (part.isEmpty())

@@ -121,10 +121,9 @@ private:
 QByteArray finished(SvgDrawing &drawing, const QVector<CBaseObject *> &objects,
                     const pagehost::ObjectRegistry &registry)
 {
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         if (object->isVisible() && !drawing.add(object, registry.dataOf(object, svgMimeType)))
             return {};
-    }
     return drawing.finish();
 }
 

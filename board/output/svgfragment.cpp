@@ -44,10 +44,9 @@ Survey surveyOf(const QByteArray &source)
         survey.hasStyleSheet |= name == QLatin1String("style");
         isRoot = false;
         const QXmlStreamAttributes attributes = in.attributes();
-        for (const QXmlStreamAttribute &attribute : attributes) {
+        for (const QXmlStreamAttribute &attribute : attributes)
             if (attribute.qualifiedName() == QLatin1String("id"))
                 survey.ids.insert(attribute.value().toString());
-        }
     }
     survey.isSvg = survey.isSvg && !in.hasError();
     return survey;

@@ -13,10 +13,9 @@ QVector<CBaseObject *> movable(const pagehost::Page *page)
 {
     QVector<CBaseObject *> objects;
     const QVector<CBaseObject *> selected = page->selectedObjects();
-    for (CBaseObject *object : selected) {
+    for (CBaseObject *object : selected)
         if (!object->isLocked())
             objects.append(object);
-    }
     return objects;
 }
 

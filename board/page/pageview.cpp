@@ -105,18 +105,16 @@ void PageView::setZoom(double rate)
 
 void PageView::zoomIn()
 {
-    for (const double step : zoomSteps) {
+    for (const double step : zoomSteps)
         if (step > m_zoom + zoomEpsilon)
             return setZoom(step);
-    }
 }
 
 void PageView::zoomOut()
 {
-    for (auto step = zoomSteps.rbegin(); step != zoomSteps.rend(); ++step) {
+    for (auto step = zoomSteps.rbegin(); step != zoomSteps.rend(); ++step)
         if (*step < m_zoom - zoomEpsilon)
             return setZoom(*step);
-    }
 }
 
 void PageView::fitPage()
@@ -258,10 +256,9 @@ bool PageView::isNearSelection(const QPoint &pos) const
     area.addPolygon(mapToScene(around));
     area.closeSubpath();
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    for (const CBaseObject *object : selected) {
+    for (const CBaseObject *object : selected)
         if (object->mapToScene(object->shape()).intersects(area))
             return true;
-    }
     return false;
 }
 

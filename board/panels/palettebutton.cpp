@@ -24,10 +24,9 @@ QFont fittingFont(QFont font, const QString &text, int width)
     const auto isTooWide = [&] {
         const QFontMetrics metrics(font);
         const QStringList words = text.split(QLatin1Char(' '));
-        for (const QString &word : words) {
+        for (const QString &word : words)
             if (metrics.horizontalAdvance(word) > width)
                 return true;
-        }
         return false;
     };
     while (isTooWide() && font.pointSizeF() > smallestPointSize)

@@ -36,10 +36,9 @@ bool takesFill(const CBaseObject &object, const pagehost::ObjectStyle &style)
 QVector<CBaseObject *> filledOf(const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> filled;
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         if (takesFill(*object, pagehost::styleOf(object)))
             filled.append(object);
-    }
     return filled;
 }
 

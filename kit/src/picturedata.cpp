@@ -72,10 +72,9 @@ QStringList pictureTypes()
 {
     QStringList types{svgType};
     const QList<QByteArray> supported = QImageReader::supportedMimeTypes();
-    for (const QByteArray &type : supported) {
+    for (const QByteArray &type : supported)
         if (!type.startsWith("image/svg"))
             types.append(QString::fromLatin1(type));
-    }
     return types;
 }
 

@@ -172,10 +172,9 @@ void PropertiedShape::addProperty(Property *property, int &id, int &actionId)
 
 Property *PropertiedShape::propertyWithId(int id) const
 {
-    for (Property *property : m_properties) {
+    for (Property *property : m_properties)
         if (property->id() == id)
             return property;
-    }
     return nullptr;
 }
 

@@ -300,10 +300,9 @@ QRectF Shape::paintedArea()
     if (magnification > 1)
         area |= scaledAbout(target.center(), magnification).mapRect(area);
     const QTransform toObject = stretching(document->viewBox(), target);
-    for (int i = 0; owner->isSelected() && i < pointCount(); ++i) {
+    for (int i = 0; owner->isSelected() && i < pointCount(); ++i)
         if (controlPoints[i])
             area |= toObject.mapRect(controlPoints[i]->boundingRect());
-    }
     return area;
 }
 

@@ -160,10 +160,9 @@ QByteArray StyledShape::toSvg()
         updateBrush(QBrush());
     if (!copy)
         return {};
-    for (quint32 i = 0; i < controlPointCount; ++i) {
+    for (quint32 i = 0; i < controlPointCount; ++i)
         if (QZeSvgNode *point = copy->namedNode(QStringLiteral("control_%1").arg(i + 1)))
             (point->parent() ? point->parent() : copy.get())->removeChild(point);
-    }
     const QSizeF size = owner->getClientRect().size();
     copy->setViewBox(drawnArea());
     copy->setAttribute(QStringLiteral("width"), QString::number(size.width()));

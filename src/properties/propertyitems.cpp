@@ -15,10 +15,9 @@ void CSVGBase::initPropItems()
     initCommonPropItems();
     if (!owner)
         return;
-    for (const CSVGPropItem *item : qAsConst(propItems)) {
+    for (const CSVGPropItem *item : qAsConst(propItems))
         if (item->isAttribute)
             owner->addAttributeId(item->propId);
-    }
 }
 
 void CSVGBase::initCommonPropItems()

@@ -18,10 +18,9 @@ bool CSVGBase::save(QDataStream &out)
     // Without a document there are no points, whatever count was loaded.
     const quint32 count = document ? controlPointCount : 0;
     out << qint32(count);
-    for (quint32 i = 1; i <= count; ++i) {
+    for (quint32 i = 1; i <= count; ++i)
         if (const QZeSvgNode *node = document->namedNode(controlPointId(i)))
             out << node->boundingRect().x() << node->boundingRect().y();
-    }
     out << propFillEnabled;
     out << propPenEnabled;
     if (propPenEnabled)

@@ -14,8 +14,7 @@ QString controlPointId(quint32 number);
 template<typename Action> void forEachControlPoint(QZeSvgNode *const *table, quint32 count, Action action)
 {
     const quint32 end = qMin(count, maxControlPoints);
-    for (quint32 i = 0; i < end; ++i) {
+    for (quint32 i = 0; i < end; ++i)
         if (table[i])
             action(table[i]);
-    }
 }

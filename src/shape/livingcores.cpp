@@ -20,8 +20,7 @@ void LivingCores::remove(CSVGBase *core)
 
 void LivingCores::documentDied(const IDocument *document)
 {
-    for (CSVGBase *core : qAsConst(m_cores)) {
+    for (CSVGBase *core : qAsConst(m_cores))
         if (core->belongDoc == document)
             core->belongDoc = nullptr;
-    }
 }

@@ -165,28 +165,25 @@ void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 QAction *BoardDriver::action(const QString &text) const
 {
-    for (QAction *candidate : m_window->findChildren<QAction *>()) {
+    for (QAction *candidate : m_window->findChildren<QAction *>())
         if (candidate->text() == text)
             return candidate;
-    }
     return nullptr;
 }
 
 QPushButton *BoardDriver::button(const QString &text) const
 {
-    for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
+    for (QPushButton *candidate : m_window->findChildren<QPushButton *>())
         if (candidate->isVisible() && candidate->text().remove(QLatin1Char('&')) == text)
             return candidate;
-    }
     return nullptr;
 }
 
 void BoardDriver::pick(const QString &kindId)
 {
-    for (board::PaletteButton *button : m_window->palettePanel()->buttons()) {
+    for (board::PaletteButton *button : m_window->palettePanel()->buttons())
         if (button->kindId() == kindId)
             QTest::mouseClick(button, Qt::LeftButton);
-    }
 }
 
 CBaseObject *BoardDriver::draw(const QString &kindId, const QPointF &from, const QPointF &to)
@@ -233,10 +230,9 @@ QVector<QPoint> BoardDriver::answering(CObjAction::ACT_Def action, const QRect &
 {
     QVector<QPoint> found;
     for (int y = area.top(); y <= area.bottom(); y += step) {
-        for (int x = area.left(); x <= area.right(); x += step) {
+        for (int x = area.left(); x <= area.right(); x += step)
             if (scene().gripAt(QPointF(x, y)).action == action)
                 found.append({x, y});
-        }
     }
     return found;
 }

@@ -28,9 +28,8 @@ public:
         view.viewport()->setMouseTracking(true);
         view.resize(1000, 800);
         view.show();
-        if (!QTest::qWaitForWindowExposed(&view)) {
+        if (!QTest::qWaitForWindowExposed(&view))
             qFatal("the view is not shown");
-        }
         setZoom(zoom);
     }
 

@@ -66,14 +66,12 @@ public:
     void setSize(QSizeF size, bool flag, bool redraw) override
     {
         const QSizeF ratio = clientRect.size();
-        if (ratio.height() * size.width() > ratio.width() * size.height()) {
+        if (ratio.height() * size.width() > ratio.width() * size.height())
             size.setWidth(ratio.width() * size.height() / ratio.height());
-        } else {
+        else
             size.setHeight(ratio.height() * size.width() / ratio.width());
-        }
-        if (qAbs(size.width() - ratio.width()) >= 1e-7) {
+        if (qAbs(size.width() - ratio.width()) >= 1e-7)
             content *= size.width() / ratio.width() * 1.0000001;
-        }
         CBaseObject::setSize(size, flag, redraw);
         OnQPainterDraw(nullptr);
         notifyObjPropertyChanged(SizeChanged, QString());
@@ -235,8 +233,7 @@ inline QUndoStack *undoStack()
 inline QStringList stepTexts()
 {
     QStringList texts;
-    for (int i = 0; i < undoStack()->count(); ++i) {
+    for (int i = 0; i < undoStack()->count(); ++i)
         texts.append(undoStack()->text(i));
-    }
     return texts;
 }

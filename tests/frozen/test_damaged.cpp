@@ -122,10 +122,9 @@ void sampleRows(const QString &suffix, const QStringList &beginnings)
 {
     QTest::addColumn<QString>("sample");
     for (const QString &name : frozen::sampleNames(suffix)) {
-        for (const QString &beginning : beginnings) {
+        for (const QString &beginning : beginnings)
             if (name.startsWith(beginning))
                 QTest::newRow(qPrintable(name)) << name;
-        }
     }
 }
 

@@ -72,10 +72,9 @@ QJsonObject jsonOf(const QString &name)
 QByteArray part(const QString &sample, const QString &beginning)
 {
     QByteArray bytes;
-    for (const Field &field : frozen::streamListing(sample)) {
+    for (const Field &field : frozen::streamListing(sample))
         if (field.name.startsWith(beginning))
             bytes += field.encoded;
-    }
     return bytes;
 }
 
@@ -131,10 +130,9 @@ QByteArray rest(QDataStream &in)
 void sampleRows(const QString &suffix, const QString &beginning = {})
 {
     QTest::addColumn<QString>("sample");
-    for (const QString &name : frozen::sampleNames(suffix)) {
+    for (const QString &name : frozen::sampleNames(suffix))
         if (name.startsWith(beginning))
             QTest::newRow(qPrintable(name)) << name;
-    }
 }
 
 } // namespace

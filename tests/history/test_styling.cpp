@@ -439,10 +439,9 @@ void TestStyling::theRectangleIsReadAgainForY()
     Following following;
     following.shape->setPenWidth(20, false);
     QStringList steps;
-    for (const recording::Call &call : recording::calls({"setNumericAttribute", "boundingRect"})) {
+    for (const recording::Call &call : recording::calls({"setNumericAttribute", "boundingRect"}))
         if (call.object == "control_2")
             steps.append(call.arguments.isEmpty() ? "read" : call.arguments.first().toString());
-    }
     QCOMPARE(steps, QStringList({"read", "x", "rx", "read", "y", "ry", "width", "height"}));
 }
 

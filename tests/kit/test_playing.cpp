@@ -424,11 +424,9 @@ void TestPlaying::listenerMayTakeTheObjectAway()
     stage.page->addObject(new Counted(moving, {300, 300}));
     QObject::connect(stage.page, &pagehost::Page::objectPropertyChanged, stage.player.get(),
                      [&](CBaseObject *object) {
-                         for (CBaseObject *each : stage.page->objects()) {
-                             if (each != object) {
+                         for (CBaseObject *each : stage.page->objects())
+                             if (each != object)
                                  stage.page->removeObject(each);
-                             }
-                         }
                      });
     stage.player->setPlaying(true);
     QCOMPARE(stage.page->objectCount(), 1);

@@ -322,10 +322,9 @@ void TestHostile::everyChangedByteOfABrushIsRead()
     const QByteArray bytes = bytesOf(brush);
     int changed = 0;
     const Silence silence;
-    for (int offset = 0; offset < bytes.size(); ++offset) {
+    for (int offset = 0; offset < bytes.size(); ++offset)
         for (const quint8 value : {0x00, 0x01, 0x0f, 0x18, 0x7f, 0x80, 0xff})
             changed += full.shape->setInnerProperty(5005, Input(withByte(bytes, offset, value)), false, false);
-    }
     QCOMPARE(changed, bytes.size() * 7);
 }
 

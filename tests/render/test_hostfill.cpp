@@ -187,10 +187,9 @@ void TestHostFill::withoutOutlineNothingIsFilled()
     fixture.shape->outlineRegion = nullptr;
     Canvas canvas;
     fixture.object.OnQPainterDraw(&canvas.painter);
-    for (int y = 0; y < 12; ++y) {
+    for (int y = 0; y < 12; ++y)
         for (int x = 0; x < 12; ++x)
             QCOMPARE(canvas.at(x, y), nothing);
-    }
     QCOMPARE(recording::count("setAllFillBrush"), 1);
 }
 

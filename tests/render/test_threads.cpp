@@ -172,10 +172,9 @@ private:
     static bool isOneColor(const QImage &image)
     {
         for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
+            for (int x = 0; x < image.width(); ++x)
                 if (image.pixel(x, y) != image.pixel(0, 0) || qAlpha(image.pixel(x, y)) != 255)
                     return false;
-            }
         }
         return true;
     }

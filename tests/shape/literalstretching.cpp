@@ -46,10 +46,9 @@ int find(const QString &text, char letter, qint64 from)
         from = from + text.size();
     if (from < 0)
         from = 0;
-    for (qint64 at = from; at < text.size(); ++at) {
+    for (qint64 at = from; at < text.size(); ++at)
         if (unitAt(text, int(at)) == letter)
             return int(at);
-    }
     return noIndex;
 }
 

@@ -261,10 +261,9 @@ void TestMapping::limitsAreReadFromTheNode()
     QFETCH(double, minimum);
     QFETCH(double, maximum);
     QString attributes;
-    for (const char *name : {"x_from", "x_to", "y_from", "y_to"}) {
+    for (const char *name : {"x_from", "x_to", "y_from", "y_to"})
         if (!attribute.isEmpty())
             attributes += QString(" %1%2").arg(name, attribute);
-    }
     ShapeFixture fixture(svgText("0 0 9 9", QString("<rect id='control_1'%1/>").arg(attributes)));
     fixture.load();
     QZeSvgNode *node = fixture.shape->point(1);

@@ -35,10 +35,9 @@ QRect paintedPixels(const ShapeDriver &shape)
     painter.end();
     QRect painted;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (qAlpha(image.pixel(x, y)) > faintestAlpha)
                 painted |= QRect(x, y, 1, 1);
-        }
     }
     return painted.translated(-room, -room);
 }

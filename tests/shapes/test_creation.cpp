@@ -33,10 +33,9 @@ QString paintOutsideTheFrame(const ShapeDriver &shape)
     shape.object().OnQPainterDraw(&painter);
     painter.end();
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
+        for (int x = 0; x < picture.width(); ++x)
             if (!frame.contains(x, y) && picture.pixelColor(x, y) != QColor(Qt::white))
                 return QStringLiteral("painted at %1, %2").arg(x - room).arg(y - room);
-        }
     }
     return {};
 }

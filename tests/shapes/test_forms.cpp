@@ -64,12 +64,11 @@ QStringList boundPoints()
 QVector<const QZeSvgNode *> partsOf(const QZeSvgStructureNode &root)
 {
     QVector<const QZeSvgNode *> parts;
-    for (const QZeSvgNode *node : root.children()) {
+    for (const QZeSvgNode *node : root.children())
         if (node->type() == QZeSvgNode::Group)
             parts += partsOf(*static_cast<const QZeSvgStructureNode *>(node));
         else if (!node->nodeId().startsWith(QLatin1String("control_")))
             parts.append(node);
-    }
     return parts;
 }
 
@@ -338,10 +337,9 @@ void TestForms::iconShowsTheShape()
     shape.object().OnQPainterDraw(&painter);
     painter.end();
     int seen = 0;
-    for (int y = 0; y < side; ++y) {
+    for (int y = 0; y < side; ++y)
         for (int x = 0; x < side; ++x)
             seen += picture.pixelColor(x, y) != QColor(Qt::white);
-    }
     QVERIFY2(seen >= side, qPrintable(QString::number(seen)));
 }
 

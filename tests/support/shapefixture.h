@@ -1,7 +1,7 @@
 #pragma once
 
-#include <recordinghost/log/calllog.h>
 #include <recordinghost/framework/recordingframework.h>
+#include <recordinghost/log/calllog.h>
 #include <recordinghost/svgbase/recordingsvg.h>
 #include <support/testobject.h>
 #include <support/testshape.h>

@@ -24,10 +24,9 @@ bool isComplete(const QStringList &parts)
 const ComparisonRule *ComparisonRules::take(const QString &name)
 {
     const ComparisonRule *found = nullptr;
-    for (const ComparisonRule &rule : qAsConst(m_rules)) {
+    for (const ComparisonRule &rule : qAsConst(m_rules))
         if (name.startsWith(rule.start) && (!found || rule.start.size() > found->start.size()))
             found = &rule;
-    }
     if (found)
         m_used.insert(found->start);
     return found;
@@ -36,10 +35,9 @@ const ComparisonRule *ComparisonRules::take(const QString &name)
 QStringList ComparisonRules::unused() const
 {
     QStringList starts;
-    for (const ComparisonRule &rule : m_rules) {
+    for (const ComparisonRule &rule : m_rules)
         if (!m_used.contains(rule.start))
             starts.append(rule.start);
-    }
     return starts;
 }
 

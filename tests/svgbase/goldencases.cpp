@@ -45,10 +45,9 @@ QString goldencases::caseOf(const QString &name)
 QStringList goldencases::all()
 {
     QStringList cases;
-    for (const QString &name : namesWith(QStringLiteral(".svg"))) {
+    for (const QString &name : namesWith(QStringLiteral(".svg")))
         if (!name.endsWith(QLatin1String(".same.svg")))
             cases.append(caseOf(name));
-    }
     return cases;
 }
 
@@ -66,9 +65,8 @@ QByteArray goldencases::contents(const QString &name)
 QStringList goldencases::namesInSeveralFolders()
 {
     QStringList names;
-    for (const QString &name : paths().uniqueKeys()) {
+    for (const QString &name : paths().uniqueKeys())
         if (paths().count(name) > 1)
             names.append(name);
-    }
     return names;
 }

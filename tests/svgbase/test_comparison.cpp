@@ -35,10 +35,9 @@ double momentOf(const QString &name)
 {
     const QStringList lines =
         QString::fromUtf8(goldencases::contents(name + QStringLiteral(".expect"))).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
+    for (const QString &line : lines)
         if (line.startsWith(QLatin1String("time ")))
             return line.mid(5).toDouble();
-    }
     return 0;
 }
 
@@ -78,10 +77,9 @@ bool differ(QRgb a, QRgb b)
 bool looksDifferent(const QImage &a, const QImage &b)
 {
     int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
+    for (int y = 0; y < a.height(); ++y)
         for (int x = 0; x < a.width(); ++x)
             count += differ(a.pixel(x, y), b.pixel(x, y));
-    }
     return count > fewPixels;
 }
 

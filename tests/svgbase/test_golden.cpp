@@ -86,10 +86,9 @@ Expectations readExpectations(const QString &name)
 {
     Expectations expected;
     const QStringList lines = QString::fromUtf8(goldencases::contents(name)).split(QLatin1Char('\n'));
-    for (int i = 0; i < lines.size(); ++i) {
+    for (int i = 0; i < lines.size(); ++i)
         if (!readLine(lines.at(i), i + 1, &expected))
             expected.problems.append(QStringLiteral("line %1 is not understood: %2").arg(i + 1).arg(lines.at(i)));
-    }
     return expected;
 }
 

@@ -20,10 +20,9 @@ QVector<AttributeDescription> propertiesOf(CBaseObject *object)
 {
     QVector<AttributeDescription> properties;
     const QList<int> ids = object->getAttributeIds();
-    for (const int id : ids) {
+    for (const int id : ids)
         if (const auto property = pagehost::attributeOf(object, id))
             properties.append(*property);
-    }
     return properties;
 }
 

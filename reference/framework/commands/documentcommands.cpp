@@ -26,9 +26,8 @@ public:
 
     ~PagePresenceCommand() override
     {
-        if (m_document) {
+        if (m_document)
             m_document->release(m_page);
-        }
     }
 
     void undo() override { setPresent(!m_adds); }
@@ -39,11 +38,10 @@ protected:
 private:
     void setPresent(bool present)
     {
-        if (present) {
+        if (present)
             m_document->insertPage(m_index, m_page);
-        } else {
+        else
             m_document->takePage(m_document->indexOf(m_page));
-        }
     }
 
     QPointer<Document> m_document;
@@ -87,18 +85,16 @@ Page *addPage(Document *document, int index, const QSizeF &size)
 bool removePage(Document *document, int index)
 {
     Page *page = document->page(index);
-    if (!page || document->pageCount() < 2) {
+    if (!page || document->pageCount() < 2)
         return false;
-    }
     CUndoRedo::GetInstance()->push(new PagePresenceCommand(document, page, index, false));
     return true;
 }
 
 bool movePage(Document *document, int from, int to)
 {
-    if (from == to || !document->page(from) || !document->page(to)) {
+    if (from == to || !document->page(from) || !document->page(to))
         return false;
-    }
     CUndoRedo::GetInstance()->push(new MovePageCommand(document, from, to));
     return true;
 }

@@ -46,24 +46,21 @@ public:
         , m_objects(objects)
         , m_after(fill)
     {
-        for (const CBaseObject *object : objects) {
+        for (const CBaseObject *object : objects)
             m_before.append(*object->getFillProp());
-        }
     }
 
     void undo() override
     {
-        for (int i = 0; i < m_objects.size(); ++i) {
+        for (int i = 0; i < m_objects.size(); ++i)
             replaceFill(m_objects[i], m_before[i], false);
-        }
     }
 
 protected:
     void apply() override
     {
-        for (CBaseObject *object : qAsConst(m_objects)) {
+        for (CBaseObject *object : qAsConst(m_objects))
             replaceFill(object, m_after, m_records);
-        }
         m_records = false;
     }
 
@@ -78,9 +75,8 @@ private:
 
 bool setPageBackground(Page *page, const CPageBgProp &background)
 {
-    if (background == page->background()) {
+    if (background == page->background())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new BackgroundCommand(page, background));
     return true;
 }
@@ -88,14 +84,11 @@ bool setPageBackground(Page *page, const CPageBgProp &background)
 bool setObjectsFill(const QVector<CBaseObject *> &objects, const CPageBgProp &fill)
 {
     QVector<CBaseObject *> changed;
-    for (CBaseObject *object : objects) {
-        if (*object->getFillProp() != fill) {
+    for (CBaseObject *object : objects)
+        if (*object->getFillProp() != fill)
             changed.append(object);
-        }
-    }
-    if (changed.isEmpty()) {
+    if (changed.isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new FillCommand(changed, fill));
     return true;
 }

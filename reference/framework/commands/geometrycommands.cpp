@@ -34,9 +34,8 @@ protected:
 private:
     static void restore(const QVector<GeometrySnapshot> &snapshots)
     {
-        for (const GeometrySnapshot &snapshot : snapshots) {
+        for (const GeometrySnapshot &snapshot : snapshots)
             snapshot.restore();
-        }
     }
 
     QVector<GeometrySnapshot> m_before;
@@ -61,9 +60,8 @@ protected:
 private:
     void setAll(bool locked)
     {
-        for (CBaseObject *object : qAsConst(m_objects)) {
+        for (CBaseObject *object : qAsConst(m_objects))
             object->setLocked(locked);
-        }
     }
 
     QVector<CBaseObject *> m_objects;
@@ -92,9 +90,8 @@ bool pushGeometryChange(const QVector<GeometrySnapshot> &before, const QString &
             after.append(now);
         }
     }
-    if (changed.isEmpty()) {
+    if (changed.isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new GeometryCommand(changed, after, textKey));
     return true;
 }
@@ -102,9 +99,8 @@ bool pushGeometryChange(const QVector<GeometrySnapshot> &before, const QString &
 bool moveObjects(const QVector<CBaseObject *> &objects, const QPointF &delta)
 {
     const QVector<GeometrySnapshot> before = takeSnapshots(unlocked(objects), GeometrySnapshot::PlaceOnly);
-    for (const GeometrySnapshot &snapshot : before) {
+    for (const GeometrySnapshot &snapshot : before)
         snapshot.object()->CPSRootObject::setPos(snapshot.pos() + delta, true);
-    }
     return pushGeometryChange(before, QStringLiteral("IDS_UNDO_MOVE"));
 }
 
@@ -121,9 +117,8 @@ bool rotateObjects(const QVector<CBaseObject *> &objects, double degrees)
 
 bool resizeObject(CBaseObject *object, const QSizeF &size)
 {
-    if (object->isLocked() || !isFinite(size)) {
+    if (object->isLocked() || !isFinite(size))
         return false;
-    }
     const QVector<GeometrySnapshot> before{{object, GeometrySnapshot::WithContent}};
     object->setSize(possibleSize(size), true, false);
     object->CPSRootObject::setPos(before.first().pos(), true);
@@ -145,9 +140,8 @@ bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked)
     QVector<CBaseObject *> changed;
     std::copy_if(objects.begin(), objects.end(), std::back_inserter(changed),
                  [&](const CBaseObject *object) { return object->isLocked() != locked; });
-    if (changed.isEmpty()) {
+    if (changed.isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new LockCommand(changed, locked));
     return true;
 }

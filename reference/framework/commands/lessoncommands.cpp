@@ -38,9 +38,8 @@ private:
 
 bool push(Document *document, const QVector<LessonData> &lessons, const QString &textKey)
 {
-    if (lessons == document->lessons()) {
+    if (lessons == document->lessons())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new LessonsCommand(document, lessons, textKey));
     return true;
 }
@@ -59,9 +58,8 @@ bool addLesson(Document *document, const LessonData &lesson)
 
 bool removeLesson(Document *document, int index)
 {
-    if (!hasLesson(*document, index)) {
+    if (!hasLesson(*document, index))
         return false;
-    }
     QVector<LessonData> lessons = document->lessons();
     lessons.removeAt(index);
     return push(document, lessons, QStringLiteral("IDS_UNDO_REMOVE_LESSON"));
@@ -69,9 +67,8 @@ bool removeLesson(Document *document, int index)
 
 bool renameLesson(Document *document, int index, const QString &name)
 {
-    if (!hasLesson(*document, index) || document->lessons().at(index).name == name) {
+    if (!hasLesson(*document, index) || document->lessons().at(index).name == name)
         return false;
-    }
     QVector<LessonData> lessons = document->lessons();
     LessonData &renamed = lessons[index];
     renamed.name = name;
@@ -88,9 +85,8 @@ bool cutLesson(Document *document, int index, qint64 time)
 {
     Lesson lesson;
     if (!hasLesson(*document, index) || !lesson.fromData(document->lessons().at(index).data) || time < 0 ||
-        time >= lesson.duration) {
+        time >= lesson.duration)
         return false;
-    }
     const auto isLater = [time](const LessonEvent &event) { return event.time > time; };
     lesson.events.erase(std::find_if(lesson.events.begin(), lesson.events.end(), isLater), lesson.events.end());
     lesson.duration = time;

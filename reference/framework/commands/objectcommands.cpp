@@ -41,9 +41,8 @@ void takeOff(Page &page, const QVector<CBaseObject *> &objects)
                                   [&](CBaseObject *object) { return going.contains(object); }),
                    selected.end());
     page.select(selected);
-    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
+    for (auto object = objects.rbegin(); object != objects.rend(); ++object)
         page.removeObject(*object);
-    }
 }
 
 class AddObjectsCommand : public PageCommand
@@ -61,9 +60,8 @@ protected:
     void apply() override
     {
         int index = m_first;
-        for (CBaseObject *object : objects()) {
+        for (CBaseObject *object : objects())
             page()->addObject(object, index++);
-        }
         page()->select(objects());
     }
 
@@ -80,18 +78,15 @@ public:
     {
         const QSet<CBaseObject *> removed = toSet(objects);
         const QVector<CBaseObject *> all = page->objects();
-        for (int place = 0; place < all.size(); ++place) {
-            if (removed.contains(all[place])) {
+        for (int place = 0; place < all.size(); ++place)
+            if (removed.contains(all[place]))
                 m_places.append(place);
-            }
-        }
     }
 
     void undo() override
     {
-        for (int i = 0; i < objects().size(); ++i) {
+        for (int i = 0; i < objects().size(); ++i)
             page()->addObject(objects()[i], m_places[i]);
-        }
         page()->select(objects());
     }
 
@@ -125,11 +120,9 @@ using ObjectTest = std::function<bool(CBaseObject *)>;
 /// Lets every moving object that stands below one that does not move change places with it, from the top down.
 void passForward(QVector<CBaseObject *> &order, const ObjectTest &isMoving)
 {
-    for (int i = order.size() - 2; i >= 0; --i) {
-        if (isMoving(order[i]) && !isMoving(order[i + 1])) {
+    for (int i = order.size() - 2; i >= 0; --i)
+        if (isMoving(order[i]) && !isMoving(order[i + 1]))
             order.swapItemsAt(i, i + 1);
-        }
-    }
 }
 
 QVector<CBaseObject *> restacked(QVector<CBaseObject *> order, StackingMove move, const ObjectTest &isMoving)
@@ -166,9 +159,8 @@ bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
             seen.insert(object);
         }
     }
-    if (added.isEmpty()) {
+    if (added.isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added));
     return true;
 }
@@ -176,9 +168,8 @@ bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
 bool removeObjects(Page *page, const QVector<CBaseObject *> &objects)
 {
     const QVector<CBaseObject *> removed = onPage(*page, objects);
-    if (removed.isEmpty()) {
+    if (removed.isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new RemoveObjectsCommand(page, removed));
     return true;
 }
@@ -188,9 +179,8 @@ bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove mov
     const QSet<CBaseObject *> moving = toSet(objects);
     const auto isMoving = [&](CBaseObject *object) { return moving.contains(object); };
     const QVector<CBaseObject *> order = restacked(page->objects(), move, isMoving);
-    if (order == page->objects()) {
+    if (order == page->objects())
         return false;
-    }
     CUndoRedo::GetInstance()->push(new StackingCommand(page, order));
     return true;
 }

@@ -25,19 +25,16 @@ PageCommand::PageCommand(Page *page, const QVector<CBaseObject *> &objects, cons
     , m_page(page)
     , m_objects(objects)
 {
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         page->retain(object);
-    }
 }
 
 PageCommand::~PageCommand()
 {
-    if (!m_page) {
+    if (!m_page)
         return;
-    }
-    for (CBaseObject *object : qAsConst(m_objects)) {
+    for (CBaseObject *object : qAsConst(m_objects))
         m_page->release(object);
-    }
 }
 
 } // namespace pagehost

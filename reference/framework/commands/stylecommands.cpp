@@ -24,9 +24,8 @@ const QString ownKeys[] = {QStringLiteral("name"),    QStringLiteral("locked"), 
 /// Maps give a brush where they take a colour; no brush is a colour that cannot be seen.
 QVariant asTaken(const QVariant &value)
 {
-    if (value.userType() != QMetaType::QBrush) {
+    if (value.userType() != QMetaType::QBrush)
         return value;
-    }
     const auto brush = value.value<QBrush>();
     return brush.style() == Qt::NoBrush ? QColor(Qt::transparent) : brush.color();
 }
@@ -82,11 +81,9 @@ StyleMap styleMapOf(CBaseObject *object)
     QMap<QString, QVariant> all;
     object->getAllAttributes(all);
     StyleMap style;
-    for (auto entry = all.cbegin(); entry != all.cend(); ++entry) {
-        if (std::find(std::begin(ownKeys), std::end(ownKeys), entry.key()) == std::end(ownKeys)) {
+    for (auto entry = all.cbegin(); entry != all.cend(); ++entry)
+        if (std::find(std::begin(ownKeys), std::end(ownKeys), entry.key()) == std::end(ownKeys))
             style.insert(entry.key(), asTaken(entry.value()));
-        }
-    }
     return style;
 }
 
@@ -95,13 +92,11 @@ bool setStyleMap(const QVector<CBaseObject *> &objects, const StyleMap &style)
     auto command = std::make_unique<StyleCommand>(QStringLiteral("IDS_UNDO_STYLE"));
     for (CBaseObject *object : objects) {
         const QByteArray before = stateOf(object);
-        if (object->setAllAttributes(style, true) && stateOf(object) != before) {
+        if (object->setAllAttributes(style, true) && stateOf(object) != before)
             command->add(object, before);
-        }
     }
-    if (command->isEmpty()) {
+    if (command->isEmpty())
         return false;
-    }
     CUndoRedo::GetInstance()->push(command.release());
     return true;
 }

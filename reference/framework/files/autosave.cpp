@@ -33,9 +33,8 @@ QString besides(const QString &copy, const QString &suffix)
 QJsonObject noteOf(const QString &copy)
 {
     QFile note(besides(copy, noteSuffix));
-    if (!note.open(QIODevice::ReadOnly)) {
+    if (!note.open(QIODevice::ReadOnly))
         return {};
-    }
     return QJsonDocument::fromJson(note.readAll()).object();
 }
 
@@ -114,17 +113,15 @@ QString Autosave::recoveryFile() const
 /// folder.
 bool Autosave::claim()
 {
-    if (m_lock && QFile::exists(besides(recoveryFile(), lockSuffix))) {
+    if (m_lock && QFile::exists(besides(recoveryFile(), lockSuffix)))
         return true;
-    }
     m_lock.reset();
     QDir().mkpath(m_folder);
     const QString id = m_id.isEmpty() ? QUuid::createUuid().toString(QUuid::WithoutBraces) : m_id;
     auto lock = std::make_unique<QLockFile>(QDir(m_folder).filePath(id + lockSuffix));
     lock->setStaleLockTime(0);
-    if (!lock->tryLock(0)) {
+    if (!lock->tryLock(0))
         return false;
-    }
     m_lock = std::move(lock);
     m_id = id;
     return true;
@@ -132,18 +129,15 @@ bool Autosave::claim()
 
 bool Autosave::saveNow()
 {
-    if (!m_document) {
+    if (!m_document)
         return true;
-    }
     Q_EMIT aboutToLook();
-    if (m_lock) {
+    if (m_lock)
         touch(besides(recoveryFile(), lockSuffix));
-    }
     const quint64 mark = m_document->revision();
     const bool hasThis = m_hasCopy && mark == m_savedMark && QFile::exists(recoveryFile());
-    if (!m_document->isModified() || hasThis) {
+    if (!m_document->isModified() || hasThis)
         return true;
-    }
     FileMessage problem;
     problem.severity = FileMessage::Error;
     problem.textKey = QStringLiteral("IDS_FILE_CANNOT_WRITE");
@@ -162,13 +156,11 @@ bool Autosave::writeCopy(FileMessage &problem)
 {
     const QJsonObject note{{originalKey, m_originalFile}, {stampKey, m_originalStamp.toJson()}};
     const WriteResult noted = writeDurably(besides(recoveryFile(), noteSuffix), QJsonDocument(note).toJson());
-    if (noted.outcome != WriteResult::Written) {
+    if (noted.outcome != WriteResult::Written)
         return false;
-    }
     const SaveResult result = saveDocument(*m_document, recoveryFile());
-    if (!result.saved) {
+    if (!result.saved)
         problem = result.problem;
-    }
     return result.saved;
 }
 
@@ -189,9 +181,8 @@ void Autosave::tidy() const
     for (const QString &note : notes) {
         const QString stem = folder.filePath(note.left(note.size() - noteSuffix.size()));
         const QString copy = stem + copySuffix;
-        if (copy != recoveryFile() && !QFile::exists(copy) && isAbandoned(copy)) {
+        if (copy != recoveryFile() && !QFile::exists(copy) && isAbandoned(copy))
             discard({copy, {}, {}, {}});
-        }
     }
 }
 
@@ -215,17 +206,15 @@ OpenResult Autosave::recover(const RecoverableDocument &copy, const ObjectRegist
 {
     OpenResult result = openDocument(copy.recoveryFile, registry);
     result.stamp = copy.originalStamp;
-    if (result.document) {
+    if (result.document)
         result.document->noteChange();
-    }
     return result;
 }
 
 void Autosave::discard(const RecoverableDocument &copy)
 {
-    for (const QString &suffix : {copySuffix, noteSuffix, lockSuffix}) {
+    for (const QString &suffix : {copySuffix, noteSuffix, lockSuffix})
         QFile::remove(besides(copy.recoveryFile, suffix));
-    }
 }
 
 } // namespace pagehost

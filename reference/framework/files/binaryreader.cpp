@@ -92,19 +92,18 @@ std::unique_ptr<Document> BinaryReader::read()
 
 void BinaryReader::take(const chunks::Chunk &chunk)
 {
-    if (chunk.tag == chunks::objectTag) {
+    if (chunk.tag == chunks::objectTag)
         takeObject(chunk);
-    } else if (chunk.tag == chunks::pageTag) {
+    else if (chunk.tag == chunks::pageTag)
         takePage(chunk);
-    } else if (chunk.tag == chunks::lessonTag) {
+    else if (chunk.tag == chunks::lessonTag)
         takeLesson(chunk);
-    } else if (chunk.tag == chunks::versionTag) {
+    else if (chunk.tag == chunks::versionTag)
         takeVersion(chunk);
-    } else if (chunk.tag == chunks::endTag) {
+    else if (chunk.tag == chunks::endTag)
         m_isComplete = !chunk.isDamaged;
-    } else {
+    else
         takeExtra(chunk);
-    }
 }
 
 void BinaryReader::takeVersion(const chunks::Chunk &chunk)
@@ -129,16 +128,14 @@ void BinaryReader::takeLesson(const chunks::Chunk &chunk)
     LessonData lesson;
     in >> lesson.name >> lesson.data;
     const bool isReadable = in.status() == QDataStream::Ok;
-    if (!isReadable) {
+    if (!isReadable)
         lesson.data = QByteArray(chunk.payload.constData(), chunk.payload.size());
-    } else if (!in.atEnd()) {
+    else if (!in.atEnd())
         in >> lesson.isDamaged;
-    }
     lesson.isDamaged = lesson.isDamaged || chunk.isDamaged || !isReadable;
     m_lessons.append(lesson);
-    if (isBroken(lesson)) {
+    if (isBroken(lesson))
         report(warning(QStringLiteral("IDS_FILE_LESSON_DAMAGED"), {lesson.name}), chunk.offset);
-    }
 }
 
 void BinaryReader::takePage(const chunks::Chunk &chunk)
@@ -154,9 +151,8 @@ void BinaryReader::takePage(const chunks::Chunk &chunk)
     m_page = m_document->appendPage(isPageSize(size) ? size : Document::defaultPageSize());
     CPageBgProp background = m_page->background();
     const bool hasBackground = background.load(in);
-    if (hasBackground) {
+    if (hasBackground)
         m_page->setBackground(background);
-    }
     m_objectsClaimed = chunk.isDamaged ? 0 : objects;
     if (chunk.isDamaged || !isPageSize(size) || !hasBackground) {
         report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), chunk.offset);
@@ -176,12 +172,10 @@ void BinaryReader::takeObject(const chunks::Chunk &chunk)
     record.isDamaged = record.isDamaged || chunk.isDamaged;
     FileMessage message = warning(QString());
     m_objects.append(m_factory.make(record, m_page, message));
-    if (message.textKey.isEmpty() && chunk.isDamaged) {
+    if (message.textKey.isEmpty() && chunk.isDamaged)
         message.textKey = QStringLiteral("IDS_FILE_OBJECT_DAMAGED");
-    }
-    if (!message.textKey.isEmpty()) {
+    if (!message.textKey.isEmpty())
         report(message, chunk.offset);
-    }
 }
 
 void BinaryReader::takeExtra(const chunks::Chunk &chunk)
@@ -201,9 +195,8 @@ void BinaryReader::takeExtra(const chunks::Chunk &chunk)
 void BinaryReader::takeMembers(const chunks::Chunk &chunk)
 {
     const QJsonDocument members = QJsonDocument::fromJson(chunk.payload);
-    if (!members.isObject()) {
+    if (!members.isObject())
         keepDamaged(chunk.payload, chunk.offset);
-    }
     m_extra.members = members.object();
 }
 
@@ -234,12 +227,10 @@ void BinaryReader::takeGap()
 {
     QByteArray gap = m_chunks.gap();
     const qint64 start = m_chunks.gapStart();
-    if (gap.isEmpty()) {
+    if (gap.isEmpty())
         return;
-    }
-    if (start == 0) {
+    if (start == 0)
         gap.remove(0, chunks::signatureSize);
-    }
     chunks::Chunk chunk;
     chunk.offset = start;
     if (gap.isEmpty()) {
@@ -260,17 +251,15 @@ void BinaryReader::keepDamaged(const QByteArray &bytes, qint64 offset)
 void BinaryReader::reportMissing()
 {
     const qint64 missing = m_pagesClaimed - m_document->pageCount();
-    if (missing > 0) {
+    if (missing > 0)
         addMessage(m_messages, warning(QStringLiteral("IDS_FILE_PAGES_MISSING"), {QString::number(missing)}));
-    }
     const qint64 missingLessons = m_lessonsClaimed - m_lessons.size();
     if (missingLessons > 0) {
         addMessage(m_messages,
                    warning(QStringLiteral("IDS_FILE_LESSONS_MISSING"), {QString::number(missingLessons)}));
     }
-    if (!m_isComplete) {
+    if (!m_isComplete)
         addMessage(m_messages, warning(QStringLiteral("IDS_FILE_ENDS_EARLY")));
-    }
 }
 
 void BinaryReader::report(FileMessage message, qint64 offset)

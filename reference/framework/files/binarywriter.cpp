@@ -17,18 +17,16 @@ bool writeExtraData(chunks::Writer &writer, const ExtraData &extra)
 {
     bool done = extra.members.isEmpty() ||
                 writer.write(chunks::membersTag, QJsonDocument(extra.members).toJson(QJsonDocument::Compact));
-    for (const ExtraData::Chunk &chunk : extra.chunks) {
+    for (const ExtraData::Chunk &chunk : extra.chunks)
         done = done && writer.write(chunk.tag, chunk.data);
-    }
     return done;
 }
 
 bool writeLesson(chunks::Writer &writer, const LessonData &lesson)
 {
     QDataStream &out = writer.begin(chunks::lessonTag) << lesson.name << lesson.data;
-    if (lesson.isDamaged) {
+    if (lesson.isDamaged)
         out << true;
-    }
     return writer.end();
 }
 
@@ -41,9 +39,8 @@ bool writePage(chunks::Writer &writer, const Page &page)
     const QVector<CBaseObject *> objects = page.objects();
     for (CBaseObject *object : objects) {
         done = done && writeObject(writer.begin(chunks::objectTag), object) && writer.end();
-        if (!done) {
+        if (!done)
             return false;
-        }
     }
     return done;
 }
@@ -53,13 +50,11 @@ bool writeDocument(chunks::Writer &writer, const Document &document)
     const QVector<LessonData> lessons = document.lessonsToSave();
     writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount()) << quint32(lessons.size());
     bool done = writer.end() && writeExtraData(writer, document.extraData());
-    for (const LessonData &lesson : lessons) {
+    for (const LessonData &lesson : lessons)
         done = done && writeLesson(writer, lesson);
-    }
     const QVector<Page *> pages = document.pages();
-    for (const Page *page : pages) {
+    for (const Page *page : pages)
         done = done && writePage(writer, *page);
-    }
     return done && writer.write(chunks::endTag, QByteArray());
 }
 

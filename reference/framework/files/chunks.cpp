@@ -47,11 +47,9 @@ quint32 number(const char *bytes)
 /// The tag of which at most one letter is another one here; empty for none.
 QByteArray nearestTag(const char *bytes)
 {
-    for (const char *tag : knownTags) {
-        if (std::inner_product(tag, tag + tagSize, bytes, 0, std::plus<>(), std::not_equal_to<>()) <= 1) {
+    for (const char *tag : knownTags)
+        if (std::inner_product(tag, tag + tagSize, bytes, 0, std::plus<>(), std::not_equal_to<>()) <= 1)
             return QByteArray(tag, tagSize);
-        }
-    }
     return {};
 }
 
@@ -93,9 +91,8 @@ bool Writer::end()
 
 bool Writer::write(const QByteArray &tag, const QByteArray &payload)
 {
-    if (payload.size() > mostBytes - m_bytes.size()) {
+    if (payload.size() > mostBytes - m_bytes.size())
         return false;
-    }
     begin(tag.constData()).writeRawData(payload.constData(), payload.size());
     return end();
 }
@@ -114,11 +111,9 @@ bool Reader::hasSignature(const QByteArray &bytes)
 bool Reader::hasKnownChunk() const
 {
     for (const char *tag : knownTags) {
-        for (int place = m_bytes.indexOf(tag); place >= 0; place = m_bytes.indexOf(tag, place + 1)) {
-            if (isHeader(place)) {
+        for (int place = m_bytes.indexOf(tag); place >= 0; place = m_bytes.indexOf(tag, place + 1))
+            if (isHeader(place))
                 return true;
-            }
-        }
     }
     return false;
 }
@@ -132,9 +127,8 @@ bool Reader::isHeader(qint64 offset) const
 
 qint64 Reader::findHeader(qint64 from, qint64 end) const
 {
-    while (from < end && !isHeader(from)) {
+    while (from < end && !isHeader(from))
         ++from;
-    }
     return from;
 }
 
@@ -167,17 +161,15 @@ bool Reader::next(Chunk &chunk)
 
 bool readDamagedHeader(const QByteArray &bytes, Chunk &chunk)
 {
-    if (bytes.size() < headerSize) {
+    if (bytes.size() < headerSize)
         return false;
-    }
     const char *const header = bytes.constData();
     const QByteArray tag = nearestTag(header);
     const qint64 length = bytes.size() - headerSize;
     const bool hasSum = number(header + sumPlace) == checksum(header + headerSize, length);
     const bool hasLength = number(header + lengthPlace) == length;
-    if (tag.isEmpty() || !(hasSum || hasLength)) {
+    if (tag.isEmpty() || !(hasSum || hasLength))
         return false;
-    }
     chunk.tag = tag;
     chunk.payload = QByteArray::fromRawData(header + headerSize, int(length));
     chunk.isDamaged = !hasSum;

@@ -24,12 +24,10 @@ bool isAllZero(const QByteArray &bytes)
 FileMessage DamagedParts::keep(const QByteArray &bytes)
 {
     const QStringList count{QString::number(bytes.size())};
-    if (!bytes.isEmpty() && isAllZero(bytes)) {
+    if (!bytes.isEmpty() && isAllZero(bytes))
         return warning(QStringLiteral("IDS_FILE_ZEROS"), count);
-    }
-    if (bytes.size() > mostBytes - m_size) {
+    if (bytes.size() > mostBytes - m_size)
         return warning(QStringLiteral("IDS_FILE_DAMAGED_TOO_MUCH"), count);
-    }
     m_size += bytes.size();
     m_parts.append(QString::fromLatin1(bytes.toBase64()));
     return warning(QStringLiteral("IDS_FILE_DAMAGED_PART"), count);
@@ -37,14 +35,12 @@ FileMessage DamagedParts::keep(const QByteArray &bytes)
 
 void DamagedParts::moveTo(ExtraData &extra)
 {
-    if (m_parts.isEmpty()) {
+    if (m_parts.isEmpty())
         return;
-    }
     const QJsonValue before = extra.members.value(damagedKey);
     QJsonArray parts = before.isArray() || before.isUndefined() ? before.toArray() : QJsonArray{before};
-    for (const QJsonValue &part : qAsConst(m_parts)) {
+    for (const QJsonValue &part : qAsConst(m_parts))
         parts.append(part);
-    }
     extra.members.insert(damagedKey, parts);
     m_parts = {};
 }

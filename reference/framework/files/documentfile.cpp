@@ -28,9 +28,8 @@ SaveResult saveResult(const WriteResult &written, const QString &file)
     result.saved = written.outcome == WriteResult::Written;
     result.isConflict = written.outcome == WriteResult::Conflict;
     result.stamp = written.stamp;
-    if (!result.saved) {
+    if (!result.saved)
         result.problem = writeProblem(written, file);
-    }
     return result;
 }
 
@@ -53,9 +52,8 @@ SaveResult saveDocument(Document &document, const QString &file, const std::opti
 {
     SaveResult result;
     const QByteArray bytes = encodeDocument(document, documentFormatOf(file), &result.problem);
-    if (bytes.isEmpty()) {
+    if (bytes.isEmpty())
         return result;
-    }
     return saveResult(writeDurably(file, bytes, expected), file);
 }
 
@@ -109,12 +107,10 @@ OpenResult decodeDocument(const QByteArray &bytes, const ObjectRegistry &registr
     const ObjectFactory factory(registry);
     result.document = formatOf(bytes) == DocumentFormat::Json ? jsonformat::read(bytes, factory, result.messages)
                                                               : binaryformat::read(bytes, factory, result.messages);
-    if (!result.document) {
+    if (!result.document)
         return result;
-    }
-    if (result.document->pageCount() == 0) {
+    if (result.document->pageCount() == 0)
         result.document->appendPage();
-    }
     result.document->setCurrentIndex(0);
     result.document->clearModified();
     return result;
@@ -128,11 +124,9 @@ QString objectsMimeType()
 QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
 {
     chunks::Writer writer;
-    for (CBaseObject *object : objects) {
-        if (!writeObject(writer.begin(chunks::objectTag), object) || !writer.end()) {
+    for (CBaseObject *object : objects)
+        if (!writeObject(writer.begin(chunks::objectTag), object) || !writer.end())
             return {};
-        }
-    }
     return writer.write(chunks::endTag, QByteArray()) ? writer.bytes() : QByteArray();
 }
 
@@ -140,16 +134,14 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
                                      QVector<FileMessage> *messages, IPsPage *page)
 {
     QVector<CBaseObject *> objects;
-    if (!chunks::Reader::hasSignature(bytes)) {
+    if (!chunks::Reader::hasSignature(bytes))
         return objects;
-    }
     const ObjectFactory factory(registry);
     chunks::Reader reader(bytes);
     chunks::Chunk chunk;
     while (reader.next(chunk)) {
-        if (chunk.tag != chunks::objectTag) {
+        if (chunk.tag != chunks::objectTag)
             continue;
-        }
         ObjectRecord record = recordOf(chunk.payload);
         record.id = 0; // the original may be on the page
         FileMessage message = warning(QString());

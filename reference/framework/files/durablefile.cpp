@@ -41,9 +41,8 @@ WriteResult failed(int error)
 /// The file that a link leads to, there or not.
 QString withoutLinks(QString file)
 {
-    for (int hop = 0; hop < mostLinks && QFileInfo(file).isSymLink(); ++hop) {
+    for (int hop = 0; hop < mostLinks && QFileInfo(file).isSymLink(); ++hop)
         file = QFileInfo(file).symLinkTarget();
-    }
     return file;
 }
 
@@ -55,15 +54,13 @@ public:
         : m_descriptor(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
     {
         int attempt = 0;
-        while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK && ++attempt < lockAttempts) {
+        while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK && ++attempt < lockAttempts)
             QThread::msleep(lockPause);
-        }
     }
     ~LockedFolder()
     {
-        if (m_descriptor >= 0) {
+        if (m_descriptor >= 0)
             ::close(m_descriptor);
-        }
     }
     Q_DISABLE_COPY(LockedFolder)
 
@@ -88,26 +85,21 @@ WriteResult writeDurably(const QString &file, const QByteArray &bytes, const std
     struct stat before = {};
     const bool exists = ::stat(name.constData(), &before) == 0;
     // A file would take the place of devices and pipes.
-    if (exists && !S_ISREG(before.st_mode) && !S_ISDIR(before.st_mode)) {
+    if (exists && !S_ISREG(before.st_mode) && !S_ISDIR(before.st_mode))
         return failed(EOPNOTSUPP);
-    }
     // Whoever may write in the folder could replace a file that is protected.
-    if (exists && ::access(name.constData(), W_OK) != 0) {
+    if (exists && ::access(name.constData(), W_OK) != 0)
         return failed();
-    }
     const QString folder = QFileInfo(target).absolutePath();
     WorkFile work;
     if (!work.create(folder, exists ? privateMode : newFileMode) || !work.write(bytes) ||
-        (exists && !work.resemble(before)) || !work.sync()) {
+        (exists && !work.resemble(before)) || !work.sync())
         return failed();
-    }
     LockedFolder lock(folder);
-    if (expected && !isExpected(target, *expected)) {
+    if (expected && !isExpected(target, *expected))
         return {WriteResult::Conflict, QString::fromLocal8Bit(std::strerror(EEXIST)), {}};
-    }
-    if (!work.takePlaceOf(target)) {
+    if (!work.takePlaceOf(target))
         return failed();
-    }
     lock.sync();
     return {WriteResult::Written, {}, FileStamp::of(work.descriptor(), bytes)};
 }

@@ -27,17 +27,14 @@ QString place(const FileMessage &message, const ILocalize &localizer)
     const auto add = [&](const char *key, const QStringList &arguments) {
         parts.append(withArguments(localizer.text(QLatin1String(key)), arguments));
     };
-    if (message.page > 0) {
+    if (message.page > 0)
         add("IDS_FILE_WHERE_PAGE", {QString::number(message.page)});
-    }
-    if (message.object > 0) {
+    if (message.object > 0)
         add("IDS_FILE_WHERE_OBJECT", {QString::number(message.object)});
-    }
-    if (message.line > 0) {
+    if (message.line > 0)
         add("IDS_FILE_WHERE_LINE", {QString::number(message.line), QString::number(message.column)});
-    } else if (message.offset >= 0) {
+    else if (message.offset >= 0)
         add("IDS_FILE_WHERE_BYTE", {QString::number(message.offset)});
-    }
     return parts.join(QStringLiteral(", "));
 }
 
@@ -75,9 +72,8 @@ void addMessage(QVector<FileMessage> &messages, const FileMessage &message)
         messages.append(message);
         return;
     }
-    if (messages.size() == mostMessages) {
+    if (messages.size() == mostMessages)
         messages.append(warning(QStringLiteral("IDS_FILE_MORE_PROBLEMS"), {QString::number(0)}));
-    }
     QString &count = messages[mostMessages].arguments[0];
     count = QString::number(count.toInt() + 1);
 }

@@ -52,9 +52,8 @@ FileStamp FileStamp::of(int descriptor, const QByteArray &contents)
 {
     struct stat facts = {};
     FileStamp stamp;
-    if (::fstat(descriptor, &facts) == 0) {
+    if (::fstat(descriptor, &facts) == 0)
         stamp = stampOf(facts);
-    }
     stamp.size = contents.size();
     stamp.hash = QCryptographicHash::hash(contents, QCryptographicHash::Sha256);
     return stamp;
@@ -66,9 +65,8 @@ FileStamp FileStamp::of(const QString &file)
     QFile in(file);
     QCryptographicHash hash(QCryptographicHash::Sha256);
     // A device could go on for ever.
-    if (stamp.isNull() || !QFileInfo(file).isFile() || !in.open(QIODevice::ReadOnly) || !hash.addData(&in)) {
+    if (stamp.isNull() || !QFileInfo(file).isFile() || !in.open(QIODevice::ReadOnly) || !hash.addData(&in))
         return {};
-    }
     stamp.hash = hash.result();
     return stamp;
 }
@@ -81,9 +79,8 @@ FileStamp FileStamp::atAGlance(const QString &file)
 
 QJsonObject FileStamp::toJson() const
 {
-    if (isNull()) {
+    if (isNull())
         return {};
-    }
     return {{QStringLiteral("device"), text(qint64(device))},
             {QStringLiteral("inode"), text(qint64(inode))},
             {QStringLiteral("size"), text(size)},
@@ -114,9 +111,8 @@ FileStamp FileStamp::fromJson(const QJsonObject &object)
 ReplacementEffects effectsOfReplacing(const QString &file)
 {
     struct stat facts = {};
-    if (::stat(QFile::encodeName(file).constData(), &facts) != 0 || !S_ISREG(facts.st_mode)) {
+    if (::stat(QFile::encodeName(file).constData(), &facts) != 0 || !S_ISREG(facts.st_mode))
         return {};
-    }
     return {int(facts.st_nlink) - 1, ::geteuid() != 0 && facts.st_uid != ::geteuid()};
 }
 

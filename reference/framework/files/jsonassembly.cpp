@@ -33,13 +33,11 @@ bool isBase64Digit(char character)
 QByteArray decoded(QByteArray base64, bool &isDamaged)
 {
     const auto bytes = QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
-    if (bytes) {
+    if (bytes)
         return *bytes;
-    }
     isDamaged = true;
-    while (base64.endsWith('=')) {
+    while (base64.endsWith('='))
         base64.chop(1);
-    }
     std::replace_if(
         base64.begin(), base64.end(), [](char character) { return !isBase64Digit(character); }, 'A');
     return QByteArray::fromBase64(base64);
@@ -78,9 +76,8 @@ QByteArray behindKey(const QByteArray &text, const char *key)
     const int place = text.indexOf(quoted);
     JsonCursor cursor(text);
     cursor.setOffset(place + quoted.size());
-    if (place < 0 || !cursor.take(':')) {
+    if (place < 0 || !cursor.take(':'))
         return {};
-    }
     cursor.peek();
     return text.mid(int(cursor.offset()));
 }
@@ -89,13 +86,11 @@ QByteArray behindKey(const QByteArray &text, const char *key)
 QByteArray dataOfBroken(const QByteArray &text)
 {
     const QByteArray object = behindKey(text, dataName);
-    if (object.startsWith('{')) {
+    if (object.startsWith('{'))
         return object;
-    }
     QByteArray digits = behindKey(text, bytesName);
-    while (!digits.isEmpty() && !isBase64Digit(digits.at(digits.size() - 1))) {
+    while (!digits.isEmpty() && !isBase64Digit(digits.at(digits.size() - 1)))
         digits.chop(1);
-    }
     bool isDamaged = true;
     return digits.isEmpty() ? text : decoded(digits.mid(digits.startsWith('"') ? 1 : 0), isDamaged);
 }
@@ -130,50 +125,44 @@ bool JsonAssembly::parse(const QByteArray &key, const QByteArray &value, QJsonVa
 void JsonAssembly::takeDocumentMember(const QByteArray &key, const QByteArray &text)
 {
     QJsonValue value;
-    if (!parse(key, text, value)) {
+    if (!parse(key, text, value))
         return;
-    }
-    if (key == formatName || key == versionName) {
+    if (key == formatName || key == versionName)
         ++m_knownMembers;
-    }
-    if (key == formatName) {
+    if (key == formatName)
         m_hasFormat = value.toString() == QLatin1String(formatText);
-    } else if (key == versionName) {
+    else if (key == versionName)
         readVersion(value);
-    } else if (key == pageCountName) {
+    else if (key == pageCountName)
         m_pagesClaimed = qint64(value.toDouble());
-    } else if (key == lessonCountName) {
+    else if (key == lessonCountName)
         m_lessonsClaimed = qint64(value.toDouble());
-    } else if (key == chunksName || isArrayOfChunks(value)) {
+    else if (key == chunksName || isArrayOfChunks(value))
         readChunks(key, value.toArray(), m_documentExtra, offsetOf(text));
-    } else {
+    else
         m_documentExtra.members.insert(nameOf(key), value);
-    }
 }
 
 void JsonAssembly::takePageMember(const QByteArray &key, const QByteArray &text)
 {
     QJsonValue value;
-    if (!parse(key, text, value)) {
+    if (!parse(key, text, value))
         return;
-    }
     const qint64 offset = offsetOf(text);
-    if (key == pageName || key == widthName || key == heightName || key == backgroundName) {
+    if (key == pageName || key == widthName || key == heightName || key == backgroundName)
         ++m_knownPageMembers;
-    }
-    if (key == widthName || key == heightName) {
+    if (key == widthName || key == heightName)
         readSide(key, value, offset);
-    } else if (key == backgroundName) {
+    else if (key == backgroundName)
         readBackground(value.toObject(), offset);
-    } else if (key == objectCountName) {
+    else if (key == objectCountName)
         m_objectsClaimed = qint64(value.toDouble());
-    } else if (key == chunksName || isArrayOfChunks(value)) {
+    else if (key == chunksName || isArrayOfChunks(value))
         readChunks(key, value.toArray(), m_pageExtra, offset);
-    } else if (key == pageName) {
+    else if (key == pageName)
         m_hasPageNumber = true;
-    } else {
+    else
         m_pageExtra.members.insert(nameOf(key), value);
-    }
 }
 
 void JsonAssembly::readVersion(const QJsonValue &version)
@@ -208,18 +197,16 @@ void JsonAssembly::keepBrokenLesson(const QByteArray &text)
     QByteArray name;
     JsonProblem problem;
     LessonData lesson{QString(), dataOfBroken(text), true};
-    if (cursor.takeValue(name)) {
+    if (cursor.takeValue(name))
         lesson.name = parseJson(name, problem).toString();
-    }
     addLesson(lesson, offsetOf(text));
 }
 
 void JsonAssembly::addLesson(const LessonData &lesson, qint64 offset)
 {
     m_lessons.append(lesson);
-    if (isBroken(lesson)) {
+    if (isBroken(lesson))
         report(warning(QStringLiteral("IDS_FILE_LESSON_DAMAGED"), {lesson.name}), offset);
-    }
 }
 
 void JsonAssembly::beginPage(qint64 offset)
@@ -254,9 +241,8 @@ void JsonAssembly::readBackground(const QJsonObject &json, qint64 offset)
 
 void JsonAssembly::readChunks(const QByteArray &key, const QJsonArray &chunks, ExtraData &extra, qint64 offset)
 {
-    if (key != chunksName) {
+    if (key != chunksName)
         reportReadDamage(offset);
-    }
     for (const QJsonValue &entry : chunks) {
         const QJsonObject chunk = entry.toObject();
         const QByteArray tag = chunk.value(QLatin1String(tagName)).toString().toLatin1();
@@ -304,9 +290,8 @@ bool JsonAssembly::takeRecord(const QByteArray &text, ObjectRecord &record)
         m_problem = {true, QStringLiteral("\"{\" is missing"), cursor.offset()};
         return false;
     }
-    if (cursor.take('}')) {
+    if (cursor.take('}'))
         return true;
-    }
     do {
         QByteArray key;
         QByteArray value;
@@ -319,9 +304,8 @@ bool JsonAssembly::takeRecord(const QByteArray &text, ObjectRecord &record)
             return false;
         }
     } while (cursor.take(','));
-    if (cursor.take('}') && cursor.peek() == '\0' && cursor.atEnd()) {
+    if (cursor.take('}') && cursor.peek() == '\0' && cursor.atEnd())
         return true;
-    }
     m_problem = {true, QStringLiteral("\",\" or \"}\" is missing"), cursor.offset()};
     return false;
 }
@@ -329,9 +313,8 @@ bool JsonAssembly::takeRecord(const QByteArray &text, ObjectRecord &record)
 bool JsonAssembly::readRecordMember(const QByteArray &key, const QByteArray &text, ObjectRecord &record)
 {
     const QJsonValue value = parseJson(text, m_problem);
-    if (m_problem.isThere) {
+    if (m_problem.isThere)
         return false;
-    }
     if (key == dataName && value.isObject()) {
         record.encoding = ObjectRecord::Json;
         record.data = text;
@@ -363,15 +346,12 @@ void JsonAssembly::addRecord(const ObjectRecord &record, qint64 offset)
 {
     FileMessage message = warning(QString());
     m_objects.append(m_factory.make(record, m_page, message));
-    if (message.textKey == QLatin1String("IDS_FILE_OBJECT_MEMBERS")) {
+    if (message.textKey == QLatin1String("IDS_FILE_OBJECT_MEMBERS"))
         keepToldDamage(record.data);
-    }
-    if (message.textKey.isEmpty() && record.isDamaged) {
+    if (message.textKey.isEmpty() && record.isDamaged)
         message.textKey = QStringLiteral("IDS_FILE_OBJECT_DAMAGED");
-    }
-    if (!message.textKey.isEmpty()) {
+    if (!message.textKey.isEmpty())
         report(message, offset);
-    }
 }
 
 void JsonAssembly::keepDamaged(const QByteArray &text, qint64 offset)
@@ -391,9 +371,8 @@ void JsonAssembly::finishPage()
         return;
     }
     // The name of a member may be what is damaged.
-    if (m_knownPageMembers < mostPageMembers && !m_pageExtra.members.isEmpty()) {
+    if (m_knownPageMembers < mostPageMembers && !m_pageExtra.members.isEmpty())
         report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), m_pageOffset);
-    }
     reportMissing(QStringLiteral("IDS_FILE_OBJECTS_MISSING"), m_objectsClaimed - m_objectNumber, m_pageOffset);
     m_damaged.moveTo(m_pageExtra);
     m_page->setExtraData(m_pageExtra);
@@ -421,9 +400,8 @@ std::unique_ptr<Document> JsonAssembly::finish()
         m_messages.append(error(QStringLiteral("IDS_FILE_NO_PAGE")));
         return nullptr;
     }
-    if (m_knownMembers < mostMembers && !m_documentExtra.members.isEmpty()) {
+    if (m_knownMembers < mostMembers && !m_documentExtra.members.isEmpty())
         reportReadDamage(0);
-    }
     reportMissing(QStringLiteral("IDS_FILE_PAGES_MISSING"), m_pagesClaimed - m_document->pageCount(), 0);
     reportMissing(QStringLiteral("IDS_FILE_LESSONS_MISSING"), m_lessonsClaimed - m_lessons.size(), 0);
     m_document->setLessons(m_lessons);
@@ -459,9 +437,8 @@ void JsonAssembly::report(FileMessage message, qint64 offset)
     message.page = m_document->pageCount();
     message.object = m_objectNumber;
     message.offset = offset;
-    if (offset >= 0) {
+    if (offset >= 0)
         m_lines.locate(offset, message.line, message.column);
-    }
     addMessage(m_messages, message);
 }
 

@@ -25,9 +25,8 @@ bool endsPlainValue(char character)
 /// False where an escape is none.
 bool unescape(QByteArray &string)
 {
-    if (!string.contains('\\')) {
+    if (!string.contains('\\'))
         return true;
-    }
     const QJsonDocument document = QJsonDocument::fromJson("[\"" + string + "\"]");
     string = document.array().at(0).toString().toUtf8();
     return !document.isNull();
@@ -43,17 +42,15 @@ JsonCursor::JsonCursor(const QByteArray &text)
 
 char JsonCursor::peek()
 {
-    while (!atEnd() && isSpace(m_text.at(int(m_pos)))) {
+    while (!atEnd() && isSpace(m_text.at(int(m_pos))))
         ++m_pos;
-    }
     return atEnd() ? '\0' : m_text.at(int(m_pos));
 }
 
 bool JsonCursor::take(char character)
 {
-    if (peek() != character || atEnd()) {
+    if (peek() != character || atEnd())
         return false;
-    }
     ++m_pos;
     return true;
 }
@@ -61,9 +58,8 @@ bool JsonCursor::take(char character)
 bool JsonCursor::takeKey(QByteArray &key)
 {
     const qint64 start = m_pos;
-    if (peek() == '"' && takeString(key) && take(':') && unescape(key)) {
+    if (peek() == '"' && takeString(key) && take(':') && unescape(key))
         return true;
-    }
     m_pos = start;
     return false;
 }
@@ -73,12 +69,10 @@ bool JsonCursor::takeString(QByteArray &contents)
     const char *const begin = m_text.constData() + m_pos + 1;
     const char *const end = m_text.constData() + m_text.size();
     const char *at = begin;
-    while (at < end && *at != '"') {
+    while (at < end && *at != '"')
         at += *at == '\\' ? 2 : 1;
-    }
-    if (at >= end) {
+    if (at >= end)
         return false;
-    }
     contents = QByteArray::fromRawData(begin, int(at - begin));
     m_pos = at + 1 - m_text.constData();
     return true;
@@ -95,9 +89,8 @@ bool JsonCursor::takeValue(QByteArray &value)
     } else if (first == '{' || first == '[') {
         isWhole = skipBracketed();
     } else {
-        while (!atEnd() && !endsPlainValue(m_text.at(int(m_pos)))) {
+        while (!atEnd() && !endsPlainValue(m_text.at(int(m_pos))))
             ++m_pos;
-        }
         isWhole = m_pos > start;
     }
     if (!isWhole) {
@@ -117,17 +110,15 @@ bool JsonCursor::skipBracketed()
     while (m_pos < m_text.size()) {
         const char character = text[m_pos];
         if (character == '"') {
-            if (!takeString(ignored)) {
+            if (!takeString(ignored))
                 return false;
-            }
             continue;
         }
         ++m_pos;
-        if (character == '{' || character == '[') {
+        if (character == '{' || character == '[')
             ++depth;
-        } else if ((character == '}' || character == ']') && --depth == 0) {
+        else if ((character == '}' || character == ']') && --depth == 0)
             return true;
-        }
     }
     return false;
 }
@@ -143,9 +134,8 @@ QJsonValue parseJson(const QByteArray &text, JsonProblem &problem)
         problem.offset = std::max(0, error.offset - (isBracketed ? 0 : 1));
         return QJsonValue(QJsonValue::Undefined);
     }
-    if (!isBracketed) {
+    if (!isBracketed)
         return document.array().at(0);
-    }
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }
 
@@ -159,9 +149,8 @@ void LineCounter::locate(qint64 offset, int &line, int &column)
     const qint64 end = std::min<qint64>(offset, m_text.size());
     while (m_pos < end) {
         const void *found = std::memchr(text + m_pos, '\n', size_t(end - m_pos));
-        if (!found) {
+        if (!found)
             break;
-        }
         m_lineStart = m_pos = static_cast<const char *>(found) + 1 - text;
         ++m_line;
     }

@@ -26,18 +26,16 @@ bool JsonDocumentReader::read()
 void JsonDocumentReader::takeMembers(TakeMember takeMember)
 {
     m_cursor.take('{');
-    if (m_cursor.take('}')) {
+    if (m_cursor.take('}'))
         return;
-    }
     do {
         QByteArray key;
         m_cursor.peek();
         const qint64 start = m_cursor.offset();
-        if (m_cursor.takeKey(key)) {
+        if (m_cursor.takeKey(key))
             (this->*takeMember)(key);
-        } else {
+        else
             skipBrokenKey(start);
-        }
     } while (m_cursor.take(','));
     m_cursor.take('}');
 }
@@ -71,31 +69,28 @@ bool JsonDocumentReader::isArrayOfLessons() const
 {
     JsonCursor ahead(m_cursor);
     JsonScan scan(m_text);
-    if (!isArrayOf(nameName) || !ahead.take('[') || !scan.takeValue(ahead.offset())) {
+    if (!isArrayOf(nameName) || !ahead.take('[') || !scan.takeValue(ahead.offset()))
         return false;
-    }
     const QVector<JsonEntry> entries = scan.entries();
     return entries.size() == 1 && entries[0].sort == JsonEntry::Lesson && entries[0].end == scan.end();
 }
 
 void JsonDocumentReader::takeDocumentMember(const QByteArray &key)
 {
-    if (key == pagesName || isArrayOf(pageName)) {
+    if (key == pagesName || isArrayOf(pageName))
         takeArray(key, pagesName, &JsonDocumentReader::takePage);
-    } else if (key == lessonsName || isArrayOfLessons()) {
+    else if (key == lessonsName || isArrayOfLessons())
         takeArray(key, lessonsName, &JsonDocumentReader::takeLesson);
-    } else {
+    else
         m_assembly.takeDocumentMember(key, takeValue());
-    }
 }
 
 void JsonDocumentReader::takePageMember(const QByteArray &key)
 {
-    if (key == objectsName || isArrayOf(kindName)) {
+    if (key == objectsName || isArrayOf(kindName))
         takeArray(key, objectsName, &JsonDocumentReader::takeObject);
-    } else {
+    else
         m_assembly.takePageMember(key, takeValue());
-    }
 }
 
 /// An array that should stand under `name`.
@@ -103,26 +98,23 @@ void JsonDocumentReader::takeArray(const QByteArray &key, const char *name, Take
 {
     m_cursor.peek();
     const qint64 start = m_cursor.offset();
-    if (key != name) {
+    if (key != name)
         m_assembly.reportReadDamage(start);
-    }
     if (!m_cursor.take('[')) {
         m_assembly.reportType(name, start);
         m_assembly.keepToldDamage('"' + key + "\": " + takeValue());
         return;
     }
-    if (m_cursor.take(']')) {
+    if (m_cursor.take(']'))
         return;
-    }
     do {
         m_cursor.peek();
         const qint64 element = m_cursor.offset();
         const QByteArray text = takeValue();
-        if (text.startsWith('{')) {
+        if (text.startsWith('{'))
             (this->*takeElement)(text);
-        } else {
+        else
             m_assembly.keepDamaged(text, element);
-        }
     } while (m_cursor.take(','));
     m_cursor.take(']');
 }
@@ -178,16 +170,14 @@ std::unique_ptr<Document> jsonformat::read(const QByteArray &bytes, const Object
     const qint64 broken = brokenPlace(bytes);
     if (broken < 0) {
         JsonAssembly assembly(bytes, factory, messages);
-        if (JsonDocumentReader(bytes, assembly).read()) {
+        if (JsonDocumentReader(bytes, assembly).read())
             return assembly.finish();
-        }
         messages.clear();
     }
     JsonAssembly assembly(bytes, factory, messages);
     JsonSalvage(bytes, assembly).read();
-    if (messages.isEmpty()) {
+    if (messages.isEmpty())
         assembly.reportReadDamage(std::max<qint64>(broken, 0));
-    }
     return assembly.finish();
 }
 

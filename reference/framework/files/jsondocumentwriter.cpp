@@ -29,15 +29,12 @@ bool isJson(const QByteArray &text)
 void writeHead(JsonWriter &writer, const ObjectRecord &record)
 {
     writer.member(kindName, record.kindId);
-    if (record.id) {
+    if (record.id)
         writer.member(idName, double(record.id));
-    }
-    if (record.zoom != 1) {
+    if (record.zoom != 1)
         writer.member(zoomName, record.zoom);
-    }
-    if (record.isDamaged) {
+    if (record.isDamaged)
         writer.member(damagedName, true);
-    }
     if (record.place) {
         const QPointF pos = record.place->pos;
         writer.member(placeName,
@@ -48,15 +45,14 @@ void writeHead(JsonWriter &writer, const ObjectRecord &record)
 void writePlaceholder(JsonWriter &writer, const ObjectRecord &record)
 {
     writeHead(writer, record);
-    if (record.encoding == ObjectRecord::Stream) {
+    if (record.encoding == ObjectRecord::Stream)
         writer.member(streamName, record.data.toBase64());
-    } else if (record.encoding == ObjectRecord::Payload) {
+    else if (record.encoding == ObjectRecord::Payload)
         writer.member(payloadName, record.data.toBase64());
-    } else if (record.encoding == ObjectRecord::Json && isJson(record.data)) {
+    else if (record.encoding == ObjectRecord::Json && isJson(record.data))
         writer.rawMember(dataName, record.data);
-    } else {
+    else
         writer.member(textName, record.data.toBase64());
-    }
 }
 
 bool writeObject(JsonWriter &writer, CBaseObject *object)
@@ -83,12 +79,10 @@ bool writeObject(JsonWriter &writer, CBaseObject *object)
 
 void writeExtraData(JsonWriter &writer, const ExtraData &extra)
 {
-    for (auto member = extra.members.begin(); member != extra.members.end(); ++member) {
+    for (auto member = extra.members.begin(); member != extra.members.end(); ++member)
         writer.member(member.key(), member.value());
-    }
-    if (extra.chunks.isEmpty()) {
+    if (extra.chunks.isEmpty())
         return;
-    }
     writer.beginArray(chunksName);
     for (const ExtraData::Chunk &chunk : extra.chunks) {
         writer.beginObject();
@@ -115,9 +109,8 @@ bool writePage(JsonWriter &writer, const Page &page, int number)
     const QVector<CBaseObject *> objects = page.objects();
     for (CBaseObject *object : objects) {
         done = done && writeObject(writer, object) && writer.size() <= chunks::mostBytes;
-        if (!done) {
+        if (!done)
             return false;
-        }
     }
     writer.endArray();
     writer.endObject();
@@ -133,14 +126,12 @@ void writeLesson(JsonWriter &writer, const LessonData &lesson)
     const QJsonObject data =
         lesson.data.startsWith('{') ? parseJson(lesson.data, problem).toObject() : QJsonObject();
     const bool isText = !data.isEmpty() && QJsonDocument(data).toJson(QJsonDocument::Compact) == lesson.data;
-    if (isText) {
+    if (isText)
         writer.member(dataName, data);
-    } else {
+    else
         writer.member(bytesName, lesson.data.toBase64());
-    }
-    if (lesson.isDamaged) {
+    if (lesson.isDamaged)
         writer.member(damagedName, true);
-    }
     writer.endObject();
 }
 
@@ -158,9 +149,8 @@ QByteArray jsonformat::write(Document &document, FileMessage &problem)
     writeExtraData(writer, document.extraData());
     if (!lessons.isEmpty()) {
         writer.beginArray(lessonsName);
-        for (const LessonData &lesson : lessons) {
+        for (const LessonData &lesson : lessons)
             writeLesson(writer, lesson);
-        }
         writer.endArray();
     }
     writer.beginArray(pagesName);

@@ -61,9 +61,8 @@ qint64 MarkFinder::lastLineOf(const JsonEntry &entry) const
 {
     const char *const text = m_text.constData();
     qint64 place = entry.end;
-    while (place > entry.start && text[place - 1] != '\n') {
+    while (place > entry.start && text[place - 1] != '\n')
         --place;
-    }
     return place > entry.start ? place : 0;
 }
 
@@ -71,11 +70,10 @@ void MarkFinder::search(qint64 from, qint64 to)
 {
     for (qint64 place = from; place < to; ++place) {
         const char character = m_text.at(int(place));
-        if (character == '{') {
+        if (character == '{')
             noteBrace(place);
-        } else if (character == '\n' && m_isOwnLayout) {
+        else if (character == '\n' && m_isOwnLayout)
             noteLine(place + 1);
-        }
     }
 }
 
@@ -88,11 +86,10 @@ void MarkFinder::noteLine(qint64 start)
         m_documentArray = key;
     } else if (indentation == pageMemberIndentation && !key.isEmpty()) {
         m_pageArray = key;
-        if (key == pageName) {
+        if (key == pageName)
             note(JsonMark::Page, m_line);
-        } else if (key == nameName && m_documentArray == lessonsName) {
+        else if (key == nameName && m_documentArray == lessonsName)
             note(JsonMark::Lesson, m_line);
-        }
     } else if (indentation == objectMemberIndentation && key == kindName && m_pageArray == objectsName) {
         note(JsonMark::Object, m_line);
     }
@@ -108,24 +105,21 @@ void MarkFinder::noteBrace(qint64 place)
     cursor.peek();
     const QByteArray key = keyAt(cursor.offset());
     const bool isObject = isOwn ? indentation == objectIndentation && m_pageArray == objectsName : key == kindName;
-    if (key == pageName || (isOwn && indentation == pageIndentation && m_documentArray == pagesName)) {
+    if (key == pageName || (isOwn && indentation == pageIndentation && m_documentArray == pagesName))
         note(JsonMark::Page, place);
-    } else if (isObject) {
+    else if (isObject)
         note(JsonMark::Object, place);
-    } else if (isOwn && indentation == lessonIndentation && m_documentArray == lessonsName) {
+    else if (isOwn && indentation == lessonIndentation && m_documentArray == lessonsName)
         note(JsonMark::Lesson, place);
-    }
 }
 
 void MarkFinder::note(JsonMark::Sort sort, qint64 start)
 {
     // A brace and the first member behind it tell of the same part.
-    if (m_marks.isEmpty() || (start > m_marks.last().start && start >= m_marks.last().end)) {
+    if (m_marks.isEmpty() || (start > m_marks.last().start && start >= m_marks.last().end))
         m_marks.append({sort, false, start, start});
-    }
-    if (sort == JsonMark::Page) {
+    if (sort == JsonMark::Page)
         m_documentArray = pagesName;
-    }
 }
 
 /// The name of the member that begins there; empty for none.
@@ -159,9 +153,8 @@ bool isInOwnLayout(const QByteArray &text)
 int indentationAt(const QByteArray &text, qint64 lineStart)
 {
     qint64 place = lineStart;
-    while (place < text.size() && text.at(int(place)) == ' ') {
+    while (place < text.size() && text.at(int(place)) == ' ')
         ++place;
-    }
     return int(place - lineStart);
 }
 

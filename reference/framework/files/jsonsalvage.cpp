@@ -73,9 +73,8 @@ qint64 JsonSalvage::take(const JsonMark &mark, qint64 limit)
 
 void JsonSalvage::readLoose(qint64 from, qint64 to)
 {
-    while (from < to) {
+    while (from < to)
         from = readNext(from, to);
-    }
     keepUnread();
 }
 
@@ -101,9 +100,8 @@ qint64 JsonSalvage::readNext(qint64 from, qint64 to)
         readMember(key, slice(cursor.offset(), valueEnd), context);
         return valueEnd;
     }
-    if (isMember && isArrayOfMarks(key) && cursor.peek() == '[') {
+    if (isMember && isArrayOfMarks(key) && cursor.peek() == '[')
         return cursor.offset();
-    }
     const int indentation = isOfPage ? pageMemberIndentation : memberIndentation;
     const qint64 end = isMember && (isOfPage || isOfDocument) ? endOfBroken(from, to, indentation)
                                                               : std::min(nextLine(m_text, from), to);
@@ -115,12 +113,10 @@ qint64 JsonSalvage::readNext(qint64 from, qint64 to)
 qint64 JsonSalvage::endOfValue(qint64 from, qint64 to)
 {
     JsonScan scan(slice(0, to));
-    if (m_vainReading > mostVainReading * m_text.size()) {
+    if (m_vainReading > mostVainReading * m_text.size())
         return -1;
-    }
-    if (scan.takeValue(from)) {
+    if (scan.takeValue(from))
         return scan.end();
-    }
     m_vainReading += scan.failure() - from;
     return -1;
 }
@@ -130,12 +126,10 @@ void JsonSalvage::readMember(const QByteArray &key, const QByteArray &value, Con
     const qint64 offset = value.constData() - m_text.constData();
     if (isArrayOfMarks(key)) {
         // Nothing of it is an object or a page.
-        if (!value.startsWith('[')) {
+        if (!value.startsWith('['))
             m_assembly.reportType(key, offset);
-        }
-        if (!isStructure(offset, offset + value.size())) {
+        if (!isStructure(offset, offset + value.size()))
             m_assembly.keepDamaged(value, offset);
-        }
     } else if (context == Context::Page && m_assembly.hasPage()) {
         m_assembly.takePageMember(key, value);
     } else {
@@ -146,27 +140,23 @@ void JsonSalvage::readMember(const QByteArray &key, const QByteArray &value, Con
 /// In other layouts brackets alone tell where a page ends.
 void JsonSalvage::takeStructure(char character)
 {
-    if (character == '}') {
+    if (character == '}')
         m_context = Context::Document;
-    }
 }
 
 void JsonSalvage::addUnread(qint64 from, qint64 to)
 {
-    if (m_unreadStart == m_unreadEnd) {
+    if (m_unreadStart == m_unreadEnd)
         m_unreadStart = from;
-    }
     m_unreadEnd = to;
 }
 
 void JsonSalvage::keepUnread()
 {
-    while (m_unreadEnd > m_unreadStart && isStructural(m_text.at(int(m_unreadEnd) - 1))) {
+    while (m_unreadEnd > m_unreadStart && isStructural(m_text.at(int(m_unreadEnd) - 1)))
         --m_unreadEnd;
-    }
-    if (m_unreadEnd > m_unreadStart) {
+    if (m_unreadEnd > m_unreadStart)
         m_assembly.keepDamaged(slice(m_unreadStart, m_unreadEnd), m_unreadStart);
-    }
     m_unreadStart = m_unreadEnd = 0;
 }
 
@@ -207,9 +197,8 @@ qint64 JsonSalvage::endOfBroken(qint64 start, qint64 limit, int indentation) con
 bool JsonSalvage::isFirstOnLine(qint64 place, int indentation) const
 {
     qint64 start = place;
-    while (start > 0 && m_text.at(int(start) - 1) == ' ') {
+    while (start > 0 && m_text.at(int(start) - 1) == ' ')
         --start;
-    }
     const bool isFirst = start == 0 || m_text.at(int(start) - 1) == '\n';
     return isFirst && (indentation < 0 || place - start == indentation);
 }

@@ -37,24 +37,18 @@ bool isWordCharacter(char character)
 quint32 memberOf(const QByteArray &key, char firstOfValue)
 {
     const bool isText = firstOfValue == '"';
-    if (key == kindName) {
+    if (key == kindName)
         return isText ? KindText : AnyOther;
-    }
-    if (key == dataName) {
+    if (key == dataName)
         return firstOfValue == '{' ? DataObject : AnyOther;
-    }
-    if (key == streamName || key == textName || key == payloadName) {
+    if (key == streamName || key == textName || key == payloadName)
         return isText ? RecordBytes : AnyOther;
-    }
-    if (key == nameName) {
+    if (key == nameName)
         return isText ? NameText : AnyOther;
-    }
-    if (key == bytesName) {
+    if (key == bytesName)
         return isText ? LessonBytes : AnyOther;
-    }
-    if (key == idName || key == zoomName || key == placeName) {
+    if (key == idName || key == zoomName || key == placeName)
         return RecordHead;
-    }
     return key == damagedName ? AnyEntry : AnyOther;
 }
 
@@ -95,9 +89,8 @@ bool JsonScan::takeValue(qint64 start)
 
 char JsonScan::peek()
 {
-    while (m_pos < m_text.size() && isSpace(m_text.at(int(m_pos)))) {
+    while (m_pos < m_text.size() && isSpace(m_text.at(int(m_pos))))
         ++m_pos;
-    }
     return m_pos < m_text.size() ? m_text.at(int(m_pos)) : '\0';
 }
 
@@ -105,17 +98,15 @@ bool JsonScan::takeNext()
 {
     const char next = peek();
     const bool mayEnd = m_expected == Separator || m_expected == ValueOrEnd || m_expected == KeyOrEnd;
-    if (mayEnd && (next == '}' || next == ']')) {
+    if (mayEnd && (next == '}' || next == ']'))
         return close(next);
-    }
     if (m_expected == Separator) {
         m_pos += next == ',' ? 1 : 0;
         m_expected = m_isObject.back() ? Key : Value;
         return next == ',';
     }
-    if (m_expected == Key || m_expected == KeyOrEnd) {
+    if (m_expected == Key || m_expected == KeyOrEnd)
         return takeKey();
-    }
     noteMember(next);
     m_expected = Separator;
     if (next == '{' || next == '[') {
@@ -127,13 +118,11 @@ bool JsonScan::takeNext()
 
 bool JsonScan::takeKey()
 {
-    if (peek() != '"' || !takeString()) {
+    if (peek() != '"' || !takeString())
         return false;
-    }
     m_key = QByteArray::fromRawData(m_text.constData() + m_lastString + 1, int(m_pos - m_lastString - 2));
-    if (peek() != ':') {
+    if (peek() != ':')
         return false;
-    }
     ++m_pos;
     m_expected = Value;
     return true;
@@ -158,14 +147,12 @@ bool JsonScan::takeWord()
 {
     const qint64 start = m_pos;
     qint64 at = start;
-    while (at < m_text.size() && isWordCharacter(m_text.at(int(at)))) {
+    while (at < m_text.size() && isWordCharacter(m_text.at(int(at))))
         ++at;
-    }
     const QByteArray word = QByteArray::fromRawData(m_text.constData() + start, int(at - start));
     const bool isNumber = !word.isEmpty() && (word.at(0) == '-' || (word.at(0) >= '0' && word.at(0) <= '9'));
-    if (!isNumber && word != "true" && word != "false" && word != "null") {
+    if (!isNumber && word != "true" && word != "false" && word != "null")
         return false;
-    }
     m_pos = at;
     return true;
 }
@@ -186,33 +173,28 @@ void JsonScan::open(bool isObject)
 
 bool JsonScan::close(char bracket)
 {
-    if (m_isObject.empty() || m_isObject.back() != (bracket == '}')) {
+    if (m_isObject.empty() || m_isObject.back() != (bracket == '}'))
         return false;
-    }
     ++m_pos;
     m_expected = Separator;
-    if (innermost().depth == m_isObject.size()) {
+    if (innermost().depth == m_isObject.size())
         noteEntry(innermost());
-    }
     m_isObject.pop_back();
     return true;
 }
 
 void JsonScan::noteMember(char firstOfValue)
 {
-    if (!m_isObject.empty() && m_isObject.back()) {
+    if (!m_isObject.empty() && m_isObject.back())
         innermost().members |= memberOf(m_key, firstOfValue);
-    }
 }
 
 void JsonScan::noteEntry(const Level &level)
 {
-    if (!isRecord(level.members) && !isLesson(level.members)) {
+    if (!isRecord(level.members) && !isLesson(level.members))
         return;
-    }
-    while (!m_entries.isEmpty() && m_entries.last().start > level.start) {
+    while (!m_entries.isEmpty() && m_entries.last().start > level.start)
         m_entries.removeLast();
-    }
     m_entries.append({isRecord(level.members) ? JsonEntry::Object : JsonEntry::Lesson, level.start, m_pos});
 }
 

@@ -67,9 +67,8 @@ void JsonWriter::beginObject(const char *key)
 void JsonWriter::endObject()
 {
     --m_depth;
-    if (!m_text.endsWith('{')) {
+    if (!m_text.endsWith('{'))
         newLine();
-    }
     m_text.append('}');
 }
 
@@ -83,9 +82,8 @@ void JsonWriter::beginArray(const char *key)
 void JsonWriter::endArray()
 {
     --m_depth;
-    if (!m_text.endsWith('[')) {
+    if (!m_text.endsWith('['))
         newLine();
-    }
     m_text.append(']');
 }
 
@@ -124,14 +122,12 @@ void JsonWriter::cutBack(int size)
 void JsonWriter::beginItem(const char *key)
 {
     if (m_depth > 0) {
-        if (!m_text.endsWith('{') && !m_text.endsWith('[')) {
+        if (!m_text.endsWith('{') && !m_text.endsWith('['))
             m_text.append(',');
-        }
         newLine();
     }
-    if (key) {
+    if (key)
         m_text.append('"').append(key).append("\": ");
-    }
 }
 
 void JsonWriter::newLine()
@@ -170,9 +166,8 @@ void JsonWriter::writeObject(const QJsonObject &object)
 {
     m_text.append('{');
     ++m_depth;
-    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+    for (auto entry = object.begin(); entry != object.end(); ++entry)
         member(entry.key(), entry.value());
-    }
     endObject();
 }
 
@@ -213,13 +208,11 @@ void JsonWriter::writeString(const QString &text)
 {
     const QByteArray utf8 = text.toUtf8();
     m_text.append('"');
-    if (std::none_of(utf8.begin(), utf8.end(), needsEscape)) {
+    if (std::none_of(utf8.begin(), utf8.end(), needsEscape))
         m_text.append(utf8);
-    } else {
-        for (const char character : utf8) {
+    else
+        for (const char character : utf8)
             needsEscape(character) ? appendEscaped(m_text, uchar(character)) : void(m_text.append(character));
-        }
-    }
     m_text.append('"');
 }
 

@@ -27,13 +27,11 @@ quint32 freeId(const Document &document)
 {
     quint32 highest = 0;
     forEachObject(document, [&](const CBaseObject *object) { highest = std::max(highest, objectId(object)); });
-    if (highest < std::numeric_limits<quint32>::max()) {
+    if (highest < std::numeric_limits<quint32>::max())
         return highest + 1;
-    }
     quint32 free = 1;
-    while (objectWithId(document, free)) {
+    while (objectWithId(document, free))
         ++free;
-    }
     return free;
 }
 
@@ -46,16 +44,14 @@ quint32 objectId(const CBaseObject *object)
 
 void setObjectId(CBaseObject *object, quint32 id)
 {
-    if (id != objectId(object)) {
+    if (id != objectId(object))
         object->setData(objectIdData, id);
-    }
 }
 
 quint32 ensureObjectId(CBaseObject *object, const Document &document)
 {
-    if (objectId(object) == 0) {
+    if (objectId(object) == 0)
         setObjectId(object, freeId(document));
-    }
     return objectId(object);
 }
 
@@ -63,9 +59,8 @@ CBaseObject *objectWithId(const Document &document, quint32 id)
 {
     CBaseObject *found = nullptr;
     forEachObject(document, [&](CBaseObject *object) {
-        if (!found && id != 0 && objectId(object) == id) {
+        if (!found && id != 0 && objectId(object) == id)
             found = object;
-        }
     });
     return found;
 }

@@ -39,9 +39,8 @@ private:
     static bool isPlausible(double zoom) { return zoom >= smallestZoom && zoom <= largestZoom; }
     void set(double zoom)
     {
-        if (m_document) {
+        if (m_document)
             m_document->m_zoom = zoom;
-        }
     }
 
     static constexpr double smallestZoom = 1e-3;
@@ -79,9 +78,8 @@ bool loadFromJson(CBaseObject *object, const ObjectRecord &record)
 void showWholeFill(CBaseObject *object)
 {
     CPageBgProp fill = *object->getFillProp();
-    if (!fill.isFillEnable() || fill.fillType() <= CPageBgProp::SolidFill) {
+    if (!fill.isFillEnable() || fill.fillType() <= CPageBgProp::SolidFill)
         return;
-    }
     // They pass over a fill whose colour is the present one, so that another one comes first.
     CPageBgProp other = fill;
     other.setFillColor(QColor(fill.fillColor().rgb() ^ 0xffffff));
@@ -121,18 +119,16 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) cons
     const CurrentDocumentScope current(document ? document : GetFramework()->currentDocument());
     const ZoomScope zoom(record.zoom);
     std::unique_ptr<CBaseObject> object(m_registry.createObject(record.kindId));
-    if (!object || record.encoding > ObjectRecord::Json) {
+    if (!object || record.encoding > ObjectRecord::Json)
         return nullptr;
-    }
     const ObjectReading reading(*object, page);
     bool loaded = false;
     m_registry.run(record.kindId, QStringLiteral("load()"), [&] {
         loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
                                                          : loadFromJson(object.get(), record);
     });
-    if (!loaded || reading.wasRefused() || !holdsAll(object.get(), record)) {
+    if (!loaded || reading.wasRefused() || !holdsAll(object.get(), record))
         return nullptr;
-    }
     showWholeFill(object.get());
     if (record.place) {
         object->CPSRootObject::setPos(record.place->pos, false);
@@ -155,9 +151,8 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
         size = savedClientSize(record.json);
     }
     const double area = std::abs(size.width() * size.height());
-    if (!(area <= largestArea) || m_area + area > mostArea) {
+    if (!(area <= largestArea) || m_area + area > mostArea)
         return false;
-    }
     m_area += area;
     return true;
 }
@@ -175,12 +170,10 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page,
         reason.textKey = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
         return nullptr;
     }
-    if (!m_registry.hasKind(record.kindId)) {
+    if (!m_registry.hasKind(record.kindId))
         return refuse(QStringLiteral("IDS_FILE_OBJECT_UNKNOWN"));
-    }
-    if (!hasRoomFor(record)) {
+    if (!hasRoomFor(record))
         return refuse(QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE"));
-    }
     CBaseObject *object = load(record, page);
     return object ? object : refuse(QStringLiteral("IDS_FILE_OBJECT_BROKEN"));
 }
@@ -191,9 +184,8 @@ bool ObjectFactory::knowsAllMembers(CBaseObject *object, const ObjectRecord &rec
     const QStringList names = record.json.keys();
     QSet<QString> &known = m_members[record.kindId];
     const auto isKnown = [&](const QString &name) { return known.contains(name); };
-    if (std::all_of(names.begin(), names.end(), isKnown)) {
+    if (std::all_of(names.begin(), names.end(), isKnown))
         return true;
-    }
     // Only an object with a member that none before had is asked.
     QJsonObject saved;
     object->saveJson(saved);

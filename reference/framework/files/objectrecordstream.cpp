@@ -27,15 +27,12 @@ void writeHead(QDataStream &out, const ObjectRecord &record)
     const QByteArray kindId = record.kindId.toUtf8();
     out << flags << quint16(kindId.size());
     out.writeRawData(kindId.constData(), kindId.size());
-    if (record.id) {
+    if (record.id)
         out << record.id;
-    }
-    if (record.place) {
+    if (record.place)
         out << record.place->pos << record.place->locked;
-    }
-    if (record.zoom != 1) {
+    if (record.zoom != 1)
         out << record.zoom;
-    }
 }
 
 } // namespace
@@ -61,29 +58,24 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
     in >> flags >> kindSize;
     const int kindStart = int(in.device()->pos());
     if (in.status() != QDataStream::Ok || (flags & ~knownBits) || kindSize > longestKindId ||
-        kindSize > payload.size() - kindStart) {
+        kindSize > payload.size() - kindStart)
         return false;
-    }
     record.kindId = QString::fromUtf8(payload.constData() + kindStart, kindSize);
-    if (record.kindId.toUtf8() != payload.mid(kindStart, kindSize)) {
+    if (record.kindId.toUtf8() != payload.mid(kindStart, kindSize))
         return false;
-    }
     record.encoding = ObjectRecord::Encoding(flags & encodingBits);
     record.isDamaged = flags & damaged;
     in.skipRawData(kindSize);
-    if (flags & hasId) {
+    if (flags & hasId)
         in >> record.id;
-    }
     if (flags & hasPlace) {
         ObjectRecord::Place place;
         in >> place.pos >> place.locked;
-        if (std::isfinite(place.pos.x()) && std::isfinite(place.pos.y())) {
+        if (std::isfinite(place.pos.x()) && std::isfinite(place.pos.y()))
             record.place = place;
-        }
     }
-    if (flags & hasZoom) {
+    if (flags & hasZoom)
         in >> record.zoom;
-    }
     const int start = int(in.device()->pos());
     record.data = QByteArray::fromRawData(payload.constData() + start, payload.size() - start);
     return in.status() == QDataStream::Ok && record.encoding <= ObjectRecord::Payload;
@@ -92,9 +84,8 @@ bool readRecord(const QByteArray &payload, ObjectRecord &record)
 ObjectRecord recordOf(const QByteArray &payload)
 {
     ObjectRecord record;
-    if (readRecord(payload, record)) {
+    if (readRecord(payload, record))
         return record;
-    }
     ObjectRecord whole;
     whole.encoding = ObjectRecord::Payload;
     whole.data = payload;

@@ -77,9 +77,8 @@ ObjectRecord PlaceholderObject::record() const
     ObjectRecord record = m_record;
     record.id = objectId(this);
     record.place.reset();
-    if (pos() != m_placeInData.pos || isLocked() != m_placeInData.locked) {
+    if (pos() != m_placeInData.pos || isLocked() != m_placeInData.locked)
         record.place = ObjectRecord::Place{pos(), isLocked()};
-    }
     return record;
 }
 
@@ -97,9 +96,8 @@ bool PlaceholderObject::canDo(OperationType operation)
 
 void PlaceholderObject::OnQPainterDraw(QPainter *painter)
 {
-    if (!painter) {
+    if (!painter)
         return;
-    }
     painter->save();
     painter->setPen(QPen(QColor::fromRgba(lineColor), 0, Qt::DashLine));
     painter->setBrush(QColor::fromRgba(areaColor));

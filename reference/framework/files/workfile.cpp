@@ -44,9 +44,8 @@ bool lockOwn(int descriptor)
 bool removeIfAbandoned(const QByteArray &name)
 {
     const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    if (descriptor < 0) {
+    if (descriptor < 0)
         return false;
-    }
     const bool removed = lockOwn(descriptor) && ::unlink(name.constData()) == 0;
     ::close(descriptor);
     return removed;
@@ -80,9 +79,8 @@ bool WorkFile::create(const QString &folder, mode_t mode)
             m_name.clear();
             return false;
         }
-        if (lockOwn(m_descriptor)) {
+        if (lockOwn(m_descriptor))
             return true;
-        }
         remove();
     }
     errno = EAGAIN;
@@ -93,9 +91,8 @@ bool WorkFile::write(const QByteArray &bytes)
 {
     for (qint64 done = 0; done < bytes.size();) {
         const ssize_t taken = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
-        if (taken < 0 && errno != EINTR) {
+        if (taken < 0 && errno != EINTR)
             return false;
-        }
         done += qMax<ssize_t>(taken, 0);
     }
     return true;
@@ -105,13 +102,11 @@ bool WorkFile::resemble(const struct stat &original)
 {
     mode_t mode = original.st_mode & 07777;
     const bool keepsGroup = ::fchown(m_descriptor, uid_t(-1), original.st_gid) == 0;
-    if (!keepsGroup) {
+    if (!keepsGroup)
         mode = (mode & ~mode_t(S_IRWXG | S_ISGID)) | ((mode & S_IRWXO) << 3);
-    }
     // Last, since a change of the owner clears bits of the mode, and takes away the right to set them.
-    if (::fchown(m_descriptor, original.st_uid, gid_t(-1)) != 0) {
+    if (::fchown(m_descriptor, original.st_uid, gid_t(-1)) != 0)
         mode &= ~mode_t(S_ISUID);
-    }
     return ::fchmod(m_descriptor, mode) == 0;
 }
 
@@ -122,9 +117,8 @@ bool WorkFile::sync()
 
 bool WorkFile::takePlaceOf(const QString &file)
 {
-    if (std::rename(m_name.constData(), QFile::encodeName(file).constData()) != 0) {
+    if (std::rename(m_name.constData(), QFile::encodeName(file).constData()) != 0)
         return false;
-    }
     m_name.clear();
     return true;
 }
@@ -134,11 +128,9 @@ int removeUnfinishedSaves(const QString &folder)
     const QDir directory(folder);
     int removed = 0;
     const QStringList names = directory.entryList(QDir::Files | QDir::Hidden);
-    for (const QString &name : names) {
-        if (isWorkFileName(name) && removeIfAbandoned(QFile::encodeName(directory.absoluteFilePath(name)))) {
+    for (const QString &name : names)
+        if (isWorkFileName(name) && removeIfAbandoned(QFile::encodeName(directory.absoluteFilePath(name))))
             ++removed;
-        }
-    }
     return removed;
 }
 

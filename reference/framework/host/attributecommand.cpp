@@ -23,14 +23,12 @@ AttributeCommand::AttributeCommand(CBaseObject &object, int id)
 bool AttributeCommand::applyUndoably(CBaseObject &object, int id, QDataStream &in)
 {
     std::unique_ptr<AttributeCommand> command(new AttributeCommand(object, id));
-    if (!HostAttribute::apply(object, id, in)) {
+    if (!HostAttribute::apply(object, id, in))
         return false;
-    }
     command->m_after = valueOf(object, id);
     command->m_placeAfter = placeOf(object, id);
-    if (command->m_after != command->m_before) {
+    if (command->m_after != command->m_before)
         CUndoRedo::GetInstance()->push(command.release());
-    }
     return true;
 }
 
@@ -68,8 +66,7 @@ QByteArray AttributeCommand::valueOf(CBaseObject &object, int id)
 
 GeometrySnapshot AttributeCommand::placeOf(CBaseObject &object, int id)
 {
-    if (!HostAttribute::changesPlace(id)) {
+    if (!HostAttribute::changesPlace(id))
         return {};
-    }
     return {&object, HostAttribute::changesSize(id) ? GeometrySnapshot::WithContent : GeometrySnapshot::PlaceOnly};
 }

@@ -23,13 +23,11 @@ std::optional<AttributeHead> readHead(int id, const QByteArray &bytes, bool hasC
     AttributeHead head;
     qint32 found = 0;
     in >> found;
-    if (hasCode) {
+    if (hasCode)
         in >> head.code;
-    }
     in >> head.nameKey >> head.isEnabled;
-    if (in.status() != QDataStream::Ok || found != id || !isName(head.nameKey)) {
+    if (in.status() != QDataStream::Ok || found != id || !isName(head.nameKey))
         return {};
-    }
     head.value = bytes.mid(int(in.device()->pos()));
     return head;
 }

@@ -54,12 +54,10 @@ bool isModestPixmap(const QByteArray &bytes)
 {
     constexpr int widthAt = 4 + 16; // behind the marker, the PNG signature and the head of its first chunk
     constexpr int heightAt = widthAt + 4;
-    if (bytes.size() < 4 || qFromBigEndian<qint32>(bytes.constData()) == 0) {
+    if (bytes.size() < 4 || qFromBigEndian<qint32>(bytes.constData()) == 0)
         return true;
-    }
-    if (bytes.size() < heightAt + 4) {
+    if (bytes.size() < heightAt + 4)
         return false;
-    }
     const auto width = qFromBigEndian<quint32>(bytes.constData() + widthAt);
     const auto height = qFromBigEndian<quint32>(bytes.constData() + heightAt);
     return width <= mostIconPixels && height <= mostIconPixels;
@@ -72,16 +70,14 @@ Reading readList(AttributeDescription attribute, const QByteArray &bytes)
     const auto count = in.take<qint32>();
     const auto chosen = in.take<qint32>();
     const auto listKind = in.take<qint32>();
-    if (!in.isGood() || count < 1 || count > mostEntries) {
+    if (!in.isGood() || count < 1 || count > mostEntries)
         return {};
-    }
     for (int i = 0; i < count && in.isGood(); ++i) {
         AttributeDescription::Entry entry;
         entry.text = in.take<QString>();
         if (listKind == iconList) {
-            if (!isModestPixmap(in.rest())) {
+            if (!isModestPixmap(in.rest()))
                 return {};
-            }
             entry.icon = in.take<QPixmap>();
         }
         attribute.entries.append(entry);
@@ -102,9 +98,8 @@ Reading readPaint(AttributeDescription attribute, const QByteArray &bytes)
 {
     const bool isBrush = bytes.size() > streamedColorBytes;
     const std::optional<QColor> color = colorFrom(bytes.mid(isBrush ? colorInBrush : 0, streamedColorBytes));
-    if (!color) {
+    if (!color)
         return {};
-    }
     const QColor shown = isBrush ? shownColor(Qt::BrushStyle(bytes.at(0)), *color) : *color;
     attribute.kind = isBrush ? AttributeDescription::Brush : AttributeDescription::Color;
     attribute.value = shown;
@@ -121,9 +116,8 @@ template<typename Number> Reading readRangeOf(AttributeDescription attribute, Ki
     const double numbers[] = {double(minimum), double(maximum), double(step), double(value)};
     const bool isFinite =
         std::all_of(std::begin(numbers), std::end(numbers), [](double number) { return std::isfinite(number); });
-    if (!isFinite || minimum >= maximum || step < 0) {
+    if (!isFinite || minimum >= maximum || step < 0)
         return {};
-    }
     attribute.kind = kind;
     attribute.range = {double(minimum), double(maximum), double(step)};
     attribute.value = qBound(minimum, value, maximum);
@@ -132,9 +126,8 @@ template<typename Number> Reading readRangeOf(AttributeDescription attribute, Ki
 
 Reading readRange(const AttributeDescription &attribute, const QByteArray &bytes)
 {
-    if (bytes.size() == intRangeBytes) {
+    if (bytes.size() == intRangeBytes)
         return readRangeOf<qint32>(attribute, AttributeDescription::WholeRange, bytes);
-    }
     const bool isReal = bytes.size() == realRangeBytes;
     return isReal ? readRangeOf<double>(attribute, AttributeDescription::RealRange, bytes) : Reading();
 }
@@ -197,9 +190,8 @@ QByteArray listBytes(const AttributeDescription &attribute)
         std::any_of(entries.begin(), entries.end(), [](const auto &entry) { return !entry.icon.isNull(); });
     QByteArray bytes =
         payloadOf(qint32(entries.size()), qint32(attribute.value.toInt()), hasIcons ? iconList : textList);
-    for (const AttributeDescription::Entry &entry : entries) {
+    for (const AttributeDescription::Entry &entry : entries)
         bytes += hasIcons ? payloadOf(entry.text, entry.icon) : payloadOf(entry.text);
-    }
     return bytes;
 }
 
@@ -237,9 +229,8 @@ std::optional<qint32> codeOf(Kind kind)
 std::optional<AttributeDescription> readAttribute(int id, const QByteArray &bytes)
 {
     if (const auto head = readAttributeHead(id, bytes)) {
-        if (const Reading reading = readCoded(id, *head)) {
+        if (const Reading reading = readCoded(id, *head))
             return reading;
-        }
     }
     // Without a code the name stands where the code would.
     const auto plain = readPlainHead(id, bytes);
@@ -257,9 +248,8 @@ QByteArray writeAttribute(const AttributeDescription &attribute)
     QByteArray bytes = payloadOf(qint32(attribute.id));
     bytes += code ? payloadOf(*code) : QByteArray();
     bytes += payloadOf(attribute.nameKey, attribute.isEnabled);
-    if (attribute.kind == AttributeDescription::Choice) {
+    if (attribute.kind == AttributeDescription::Choice)
         return bytes + listBytes(attribute);
-    }
     bytes += code == RangeEditor ? rangeBytes(attribute) : QByteArray();
     return bytes + attributeAnswer(attribute, attribute.value);
 }

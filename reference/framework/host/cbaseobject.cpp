@@ -46,9 +46,8 @@ bool movesByWholePixels(const CBaseObject &object, const QPointF &delta)
 
 void makeRoomForPictures()
 {
-    if (QPixmapCache::cacheLimit() < pictureRoom) {
+    if (QPixmapCache::cacheLimit() < pictureRoom)
         QPixmapCache::setCacheLimit(pictureRoom);
-    }
 }
 
 } // namespace
@@ -78,9 +77,8 @@ QPainterPath CBaseObject::shape() const
 {
     auto &object = const_cast<CBaseObject &>(*this);
     const QPainterPath region = CPSRootObjectPrivate::of(object).bounds.region(object);
-    if (!region.isEmpty()) {
+    if (!region.isEmpty())
         return region;
-    }
     QPainterPath path;
     path.addRect(clientRect);
     return path;
@@ -160,9 +158,8 @@ QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &valu
     pagehost::PageScene *scene = pageSceneOf(*this);
     switch (change) {
     case ItemPositionChange:
-        if (!movesByWholePixels(*this, value.toPointF() - pos())) {
+        if (!movesByWholePixels(*this, value.toPointF() - pos()))
             host.dropPicture();
-        }
         return QGraphicsTextItem::itemChange(change, value);
     case ItemSelectedHasChanged:
         host.dropPaintedArea();
@@ -178,9 +175,8 @@ QVariant CBaseObject::itemChange(GraphicsItemChange change, const QVariant &valu
     default:
         return QGraphicsTextItem::itemChange(change, value);
     }
-    if (scene) {
+    if (scene)
         scene->updateOverlay();
-    }
     return QGraphicsTextItem::itemChange(change, value);
 }
 

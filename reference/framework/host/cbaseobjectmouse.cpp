@@ -37,14 +37,12 @@ bool CPSRootObject::isHandleDisabled(CObjAction::ACT_Def handle) const
 bool CPSRootObject::CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action)
 {
     const CBaseObject *item = baseObject(*this);
-    if (!item || !isOnlySelected(*item) || isLocked() || isEditingBlocked(*this)) {
+    if (!item || !isOnlySelected(*item) || isLocked() || isEditingBlocked(*this))
         return false;
-    }
     const HandleLayout layout(clientRect, getCurZoomRate());
     const CObjAction::ACT_Def hit = layout.hit(item->mapFromScene(scenePos), offeredHandles(*this));
-    if (hit == CObjAction::ACT_None) {
+    if (hit == CObjAction::ACT_None)
         return false;
-    }
     action = hit;
     return true;
 }
@@ -61,32 +59,27 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
     const bool blocked = isEditingBlocked(*this);
     CObjAction::ACT_Def action = CObjAction::ACT_None;
     if (isSelected() && CheckHitTestHandlers(event->scenePos(), action)) {
-        if (action != CObjAction::ACT_None) {
+        if (action != CObjAction::ACT_None)
             host.drag = std::make_unique<GripDrag>(*this, action, *event, false);
-        }
         return;
     }
-    if (extendsSelection(*event)) {
+    if (extendsSelection(*event))
         setSelected(!isSelected());
-    } else if (!isSelected()) {
+    else if (!isSelected())
         selectAlone(*this);
-    }
-    if (isSelected() && !blocked) {
+    if (isSelected() && !blocked)
         host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, !extendsSelection(*event));
-    }
 }
 
 void CBaseObject::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (GripDrag *drag = CPSRootObjectPrivate::of(*this).drag.get()) {
+    if (GripDrag *drag = CPSRootObjectPrivate::of(*this).drag.get())
         drag->moveTo(*event);
-    }
 }
 
 void CBaseObject::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     const std::unique_ptr<GripDrag> drag = std::move(CPSRootObjectPrivate::of(*this).drag);
-    if (drag) {
+    if (drag)
         drag->finish(*event);
-    }
 }

@@ -69,9 +69,8 @@ bool CPageBgProp::needCreatBrush(const QRectF &) const
 
 QBrush CPageBgProp::createBrushByProp(const QRectF &rect, bool forTexture) const
 {
-    if (!m_fillEnabled) {
+    if (!m_fillEnabled)
         return {};
-    }
     const QColor color = withAlpha(m_color, m_opacity);
     QBrush brush(color);
     if (m_fillType == NoFill) {

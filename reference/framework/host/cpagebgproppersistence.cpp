@@ -70,15 +70,13 @@ bool CPageBgProp::load(QDataStream &in)
     in >> followsPage >> type >> enabled >> color >> opacity >> gradientColor >> gradientAngle >> pattern >>
         picture;
     if (in.status() != QDataStream::Ok || !isFillType(type) || !isPatternNumber(pattern) ||
-        !std::isfinite(gradientAngle)) {
+        !std::isfinite(gradientAngle))
         return false;
-    }
     QPixmap pixmap;
     if (!picture.isEmpty()) {
         pixmap = fromPng(picture);
-        if (pixmap.isNull()) {
+        if (pixmap.isNull())
             return false;
-        }
     }
     m_followsPage = followsPage;
     m_fillType = type;
@@ -136,13 +134,11 @@ bool CPageBgProp::loadJson(const QJsonObject &object)
     m_gradientAngle = object.value(gradientAngleKey).toDouble(m_gradientAngle);
 
     const QJsonValue picture = object.value(pictureKey);
-    if (!picture.isString()) {
+    if (!picture.isString())
         return false;
-    }
     const QPixmap pixmap = fromPng(QByteArray::fromBase64(picture.toString().toLatin1()));
-    if (pixmap.isNull() && !picture.toString().isEmpty()) {
+    if (pixmap.isNull() && !picture.toString().isEmpty())
         return false;
-    }
     m_pixmap = pixmap;
     return complete;
 }

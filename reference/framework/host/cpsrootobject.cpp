@@ -48,9 +48,8 @@ QString CPSRootObject::getObjName()
 
 void CPSRootObject::OnQPainterDraw(QPainter *painter)
 {
-    if (!painter) {
+    if (!painter)
         return;
-    }
     beginPaint(painter);
     painter->fillRect(clientRect, fillBrush);
     endPaint(painter);
@@ -59,16 +58,13 @@ void CPSRootObject::OnQPainterDraw(QPainter *painter)
 void CPSRootObject::beginPaint(QPainter *painter)
 {
     const double zoom = getCurZoomRate();
-    if (zoom != d->followedZoom) {
+    if (zoom != d->followedZoom)
         d->followedZoom = zoom;
-    }
-    if (!painter || !painter->isActive()) {
+    if (!painter || !painter->isActive())
         return;
-    }
     painter->save();
-    if (!mirrorHorizontal && !mirrorVertical) {
+    if (!mirrorHorizontal && !mirrorVertical)
         return;
-    }
     const QPointF center = clientRect.center();
     painter->translate(center);
     painter->scale(mirrorHorizontal ? -1 : 1, mirrorVertical ? -1 : 1);
@@ -77,9 +73,8 @@ void CPSRootObject::beginPaint(QPainter *painter)
 
 void CPSRootObject::endPaint(QPainter *painter)
 {
-    if (painter && painter->isActive()) {
+    if (painter && painter->isActive())
         painter->restore();
-    }
 }
 
 void CPSRootObject::clearLayerEffectCache(int)
@@ -118,9 +113,8 @@ void CPSRootObject::setLocked(bool locked)
 {
     d->locked = locked;
     noteInvisibleChange(*this);
-    if (pagehost::PageScene *scene = pageSceneOf(*this)) {
+    if (pagehost::PageScene *scene = pageSceneOf(*this))
         scene->updateOverlay();
-    }
 }
 
 bool CPSRootObject::isLocked() const
@@ -131,9 +125,8 @@ bool CPSRootObject::isLocked() const
 void CPSRootObject::RecordAction(int actionId, QByteArray *data)
 {
     pagehost::ActionSink *sink = pagehost::actionSink();
-    if (sink && data) {
+    if (sink && data)
         sink->actionRecorded(this, actionId, *data);
-    }
 }
 
 void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
@@ -141,16 +134,13 @@ void CPSRootObject::notifyObjPropertyChanged(int id, const QString &value)
     update();
     CBaseObject *item = baseObject(*this);
     const bool isNextPicture = item && id == AppearanceChanged && d->played.isNextPicture(*item);
-    if (!isNextPicture && (id == SizeChanged || id == AppearanceChanged)) {
+    if (!isNextPicture && (id == SizeChanged || id == AppearanceChanged))
         d->dropRegion();
-    }
     pagehost::Page *page = pageOf(*this);
-    if (!page) {
+    if (!page)
         return;
-    }
-    if (!isNextPicture) {
+    if (!isNextPicture)
         noteChange(*this);
-    }
     Q_EMIT page->objectPropertyChanged(item, id, value);
 }
 
@@ -163,12 +153,10 @@ void CPSRootObject::updateAfterObjRectChanged(QGraphicsItem *, bool redraw)
 {
     d->dropRegion();
     noteChange(*this);
-    if (pagehost::PageScene *scene = pageSceneOf(*this)) {
+    if (pagehost::PageScene *scene = pageSceneOf(*this))
         scene->updateOverlay();
-    }
-    if (redraw) {
+    if (redraw)
         update();
-    }
 }
 
 IPsPage *CPSRootObject::GetPage() const
@@ -189,9 +177,8 @@ void CPSRootObject::regenRegionShape(QGraphicsItem *)
 
 void CPSRootObject::update()
 {
-    if (!d->item) {
+    if (!d->item)
         return;
-    }
     d->dropPicture();
     d->item->update();
 }
@@ -204,11 +191,9 @@ double CPSRootObject::getCurZoomRate() const
 
 QGraphicsView *CPSRootObject::FindFirstVisibleView(QList<QGraphicsView *> &views)
 {
-    for (QGraphicsView *view : qAsConst(views)) {
-        if (view && view->isVisible()) {
+    for (QGraphicsView *view : qAsConst(views))
+        if (view && view->isVisible())
             return view;
-        }
-    }
     return nullptr;
 }
 
@@ -217,9 +202,8 @@ void CPSRootObject::setMyPenColor(QColor color, bool notify)
     myPen.setColor(color);
     update();
     noteChange(*this);
-    if (!notify) {
+    if (!notify)
         return;
-    }
     QByteArray payload = payloadOf(color);
     RecordAction(pagehost::ActionPenColored, &payload);
     notifyObjPropertyChanged(AppearanceChanged, QString());

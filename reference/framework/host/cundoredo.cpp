@@ -26,9 +26,8 @@ UndoCapture *g_capture = nullptr;
 void openWaitingGroups(QUndoStack *stack)
 {
     Groups &all = groups();
-    for (const QString &title : qAsConst(all.waiting)) {
+    for (const QString &title : qAsConst(all.waiting))
         stack->beginMacro(title);
-    }
     all.opened += all.waiting.size();
     all.waiting.clear();
 }
@@ -49,9 +48,8 @@ void end()
         all.waiting.removeLast();
         return;
     }
-    if (all.opened == 0) {
+    if (all.opened == 0)
         return;
-    }
     --all.opened;
     CUndoRedo::GetInstance()->stack()->endMacro();
 }
@@ -67,16 +65,14 @@ UndoCapture::UndoCapture()
 UndoCapture::~UndoCapture()
 {
     stopTaking();
-    for (auto command = m_commands.rbegin(); command != m_commands.rend(); ++command) {
+    for (auto command = m_commands.rbegin(); command != m_commands.rend(); ++command)
         (*command)->undo();
-    }
 }
 
 void UndoCapture::stopTaking()
 {
-    if (m_takes) {
+    if (m_takes)
         g_capture = m_outer;
-    }
     m_takes = false;
 }
 
@@ -110,9 +106,8 @@ CUndoRedo::~CUndoRedo()
 
 void CUndoRedo::push(CWbUndoCmd *command)
 {
-    if (!command) {
+    if (!command)
         return;
-    }
     if (UndoCapture *capture = UndoCapture::current()) {
         capture->take(command);
         return;

@@ -15,14 +15,12 @@ bool isDrawnStyle(int penStyle)
 
 QPixmap CUtil::genIconForLineStyle(int width, int height, int lineWidth, int penStyle, const QColor &color)
 {
-    if (width <= 0 || height <= 0) {
+    if (width <= 0 || height <= 0)
         return {};
-    }
     QPixmap icon(qMin(width, largestIconSide), qMin(height, largestIconSide));
     icon.fill(Qt::transparent);
-    if (!isDrawnStyle(penStyle)) {
+    if (!isDrawnStyle(penStyle))
         return icon;
-    }
     QPainter painter(&icon);
     painter.setPen(QPen(color, lineWidth, Qt::PenStyle(penStyle), Qt::FlatCap));
     const double middle = icon.height() / 2.0;

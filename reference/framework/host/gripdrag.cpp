@@ -30,18 +30,16 @@ QVector<CBaseObject *> movableSelection(CBaseObject &object)
     const QList<QGraphicsItem *> selected = object.scene()->selectedItems();
     for (QGraphicsItem *item : selected) {
         auto *other = dynamic_cast<CBaseObject *>(item);
-        if (other && !other->isLocked() && other->canDo(OperationMove)) {
+        if (other && !other->isLocked() && other->canDo(OperationMove))
             objects.append(other);
-        }
     }
     return objects;
 }
 
 QString textKeyOf(CObjAction::ACT_Def action)
 {
-    if (HandleLayout::isResize(action)) {
+    if (HandleLayout::isResize(action))
         return QStringLiteral("IDS_UNDO_RESIZE");
-    }
     switch (action) {
     case CObjAction::ACT_Rotate:
         return QStringLiteral("IDS_UNDO_ROTATE");
@@ -96,45 +94,38 @@ void GripDrag::forget(CBaseObject &object)
 void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
 {
     const QPointF away = event.scenePos() - m_press;
-    if (!m_moved && std::hypot(away.x(), away.y()) < m_threshold) {
+    if (!m_moved && std::hypot(away.x(), away.y()) < m_threshold)
         return;
-    }
     m_moved = true;
-    if (m_action == CObjAction::ACT_Move) {
+    if (m_action == CObjAction::ACT_Move)
         moveSelection(event.scenePos());
-    } else if (HandleLayout::isResize(m_action)) {
+    else if (HandleLayout::isResize(m_action))
         resize(event.scenePos());
-    } else if (m_action == CObjAction::ACT_Rotate) {
+    else if (m_action == CObjAction::ACT_Rotate)
         rotate(event.scenePos(), event.modifiers().testFlag(Qt::ShiftModifier));
-    }
 }
 
 void GripDrag::finish(const QGraphicsSceneMouseEvent &event)
 {
-    if (m_moved) {
+    if (m_moved)
         moveTo(event);
-    }
-    if (m_action == CObjAction::ACT_MirrorHorizontal || m_action == CObjAction::ACT_MirrorVertical) {
+    if (m_action == CObjAction::ACT_MirrorHorizontal || m_action == CObjAction::ACT_MirrorVertical)
         mirrorIfStillOnHandle(event.scenePos());
-    }
-    if (!m_moved && m_selectsAlone) {
+    if (!m_moved && m_selectsAlone)
         selectOnlyObject();
-    }
     pagehost::pushGeometryChange(m_before, textKeyOf(m_action));
 }
 
 void GripDrag::cancel()
 {
-    for (const GeometrySnapshot &snapshot : qAsConst(m_before)) {
+    for (const GeometrySnapshot &snapshot : qAsConst(m_before))
         snapshot.restore();
-    }
 }
 
 void GripDrag::moveSelection(const QPointF &scenePos)
 {
-    for (const GeometrySnapshot &snapshot : qAsConst(m_before)) {
+    for (const GeometrySnapshot &snapshot : qAsConst(m_before))
         snapshot.object()->CPSRootObject::setPos(snapshot.pos() + (scenePos - m_press), true);
-    }
 }
 
 void GripDrag::resize(const QPointF &scenePos)
@@ -156,18 +147,16 @@ void GripDrag::rotate(const QPointF &scenePos, bool inSteps)
     const QPointF center = start().pos() + rotated(rect.center(), start().rotation());
     const double turned = angleOf(scenePos - center) - angleOf(m_press - center);
     double degrees = normalizedDegrees(start().rotation() + turned);
-    if (inSteps) {
+    if (inSteps)
         degrees = normalizedDegrees(std::round(degrees / rotationStep) * rotationStep);
-    }
     m_object.setRotateByPoint(degrees, rect.center(), true);
 }
 
 void GripDrag::mirrorIfStillOnHandle(const QPointF &scenePos)
 {
     CObjAction::ACT_Def under = CObjAction::ACT_None;
-    if (!m_object.CheckHitTestHandlers(scenePos, under) || under != m_action) {
+    if (!m_object.CheckHitTestHandlers(scenePos, under) || under != m_action)
         return;
-    }
     const bool horizontally = m_action == CObjAction::ACT_MirrorHorizontal;
     m_object.setMirror(m_object.isMirrored() != horizontally, m_object.isFlipped() == horizontally, true);
 }

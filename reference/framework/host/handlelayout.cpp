@@ -16,9 +16,8 @@ double distance(const QPointF &from, const QPointF &to)
 
 OperationType operationOf(CObjAction::ACT_Def handle)
 {
-    if (HandleLayout::isResize(handle)) {
+    if (HandleLayout::isResize(handle))
         return OperationResize;
-    }
     return handle == CObjAction::ACT_Rotate ? OperationRotate : OperationMirror;
 }
 
@@ -84,9 +83,8 @@ QPointF HandleLayout::position(CObjAction::ACT_Def handle) const
 CObjAction::ACT_Def HandleLayout::hit(const QPointF &itemPos, const QVector<CObjAction::ACT_Def> &enabled) const
 {
     const bool isSmall = qMin(m_rect.width(), m_rect.height()) < fromPixels(smallObjectPixels);
-    if (isSmall && m_rect.contains(itemPos)) {
+    if (isSmall && m_rect.contains(itemPos))
         return CObjAction::ACT_None;
-    }
     CObjAction::ACT_Def nearest = CObjAction::ACT_None;
     double best = fromPixels(hitRadiusPixels);
     for (const CObjAction::ACT_Def handle : enabled) {
@@ -114,10 +112,8 @@ QRectF HandleLayout::bounds() const
 QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object)
 {
     QVector<CObjAction::ACT_Def> offered;
-    for (const CObjAction::ACT_Def handle : HandleLayout::handles()) {
-        if (!object.isHandleDisabled(handle) && object.canDo(operationOf(handle))) {
+    for (const CObjAction::ACT_Def handle : HandleLayout::handles())
+        if (!object.isHandleDisabled(handle) && object.canDo(operationOf(handle)))
             offered.append(handle);
-        }
-    }
     return offered;
 }

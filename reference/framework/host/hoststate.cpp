@@ -31,9 +31,8 @@ const QLatin1String lockedKey("locked");
 QJsonArray numbers(std::initializer_list<double> values)
 {
     QJsonArray array;
-    for (const double value : values) {
+    for (const double value : values)
         array.append(value);
-    }
     return array;
 }
 
@@ -116,9 +115,8 @@ bool HostState::read(const QJsonObject &object)
     mirrored = object.value(mirroredKey).toBool(mirrored);
     flipped = object.value(flippedKey).toBool(flipped);
     stacking = object.value(stackingKey).toDouble(stacking);
-    if (rect.size() == 4) {
+    if (rect.size() == 4)
         clientRect = {rect[0].toDouble(), rect[1].toDouble(), rect[2].toDouble(), rect[3].toDouble()};
-    }
     penColor = color.isValid() ? color.rgba() : penColor;
     penWidth = object.value(penWidthKey).toDouble(penWidth);
     penStyle = object.value(penStyleKey).toInt(penStyle);

@@ -102,18 +102,16 @@ constexpr Entry entries[] = {
 pagehost::TextTable english()
 {
     pagehost::TextTable table;
-    for (const Entry &entry : entries) {
+    for (const Entry &entry : entries)
         table.insert(QString::fromUtf8(entry.key), QString::fromUtf8(entry.english));
-    }
     return table;
 }
 
 pagehost::TextTable german()
 {
     pagehost::TextTable table;
-    for (const Entry &entry : entries) {
+    for (const Entry &entry : entries)
         table.insert(QString::fromUtf8(entry.key), QString::fromUtf8(entry.german));
-    }
     return table;
 }
 

@@ -69,11 +69,10 @@ IDocument *setCurrentDocument(IDocument *document)
 
 void setColorSetting(int settingId, bool presentation, const QColor &color)
 {
-    if (color.isValid()) {
+    if (color.isValid())
         builtIn().colors.insert({settingId, presentation}, color);
-    } else {
+    else
         builtIn().colors.remove({settingId, presentation});
-    }
 }
 
 } // namespace pagehost

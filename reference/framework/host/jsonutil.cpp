@@ -13,9 +13,8 @@ class JsonUtil : public IJsonUtil
 public:
     QJsonObject variantToJson(const QVariant &value) override
     {
-        if (value.type() != QVariant::RectF) {
+        if (value.type() != QVariant::RectF)
             return QJsonValue::fromVariant(value).toObject();
-        }
         const QRectF rect = value.toRectF();
         return {{QStringLiteral("x"), rect.x()},
                 {QStringLiteral("y"), rect.y()},
@@ -25,9 +24,8 @@ public:
 
     QVariant jsonToVariant(const QJsonObject &object) override
     {
-        if (!isRectangle(object)) {
+        if (!isRectangle(object))
             return object.toVariantMap();
-        }
         return QRectF(number(object, "x"), number(object, "y"), number(object, "width"), number(object, "height"));
     }
 

@@ -18,9 +18,8 @@ const QLatin1String keyPrefix("IDS_");
 QString wordsOf(const QString &key)
 {
     QString words = key.mid(keyPrefix.size()).replace(QLatin1Char('_'), QLatin1Char(' ')).simplified().toLower();
-    if (!words.isEmpty()) {
+    if (!words.isEmpty())
         words[0] = words[0].toUpper();
-    }
     return words;
 }
 
@@ -34,12 +33,10 @@ Localizer::Localizer()
 
 QString Localizer::text(const QString &key) const
 {
-    if (hasText(m_language, key)) {
+    if (hasText(m_language, key))
         return m_tables.value(m_language).value(key);
-    }
-    if (hasText(english(), key)) {
+    if (hasText(english(), key))
         return m_tables.value(english()).value(key);
-    }
     return key.startsWith(keyPrefix) ? wordsOf(key) : key;
 }
 
@@ -52,19 +49,17 @@ bool Localizer::hasText(const QString &language, const QString &key) const
 void Localizer::setLanguage(const QString &language)
 {
     const QString stem = language.section(QLatin1Char('_'), 0, 0);
-    if (m_tables.contains(language)) {
+    if (m_tables.contains(language))
         m_language = language;
-    } else {
+    else
         m_language = m_tables.contains(stem) ? stem : english();
-    }
 }
 
 void Localizer::addTexts(const QString &language, const TextTable &texts)
 {
     TextTable &table = m_tables[language];
-    for (auto text = texts.begin(); text != texts.end(); ++text) {
+    for (auto text = texts.begin(); text != texts.end(); ++text)
         table.insert(text.key(), text.value());
-    }
 }
 
 LocalizedDelegate::LocalizedDelegate(const ILocalize *localizer, QObject *parent)

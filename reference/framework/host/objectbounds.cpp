@@ -20,9 +20,8 @@ QRectF askedPaintedArea(CBaseObject &object)
 {
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!object.GetSpecialProperty(pagehost::PaintedArea, out)) {
+    if (!object.GetSpecialProperty(pagehost::PaintedArea, out))
         return {};
-    }
     QRectF area;
     QDataStream in(bytes);
     in >> area;
@@ -52,17 +51,14 @@ QPainterPath ObjectBounds::region(CBaseObject &object)
 
 bool ObjectBounds::refresh(CBaseObject &object, const std::function<void()> &aboutToChange)
 {
-    if (m_isFixed) {
+    if (m_isFixed)
         return false;
-    }
     m_rectangleIsStale = !object.scene();
-    if (m_rectangleIsStale) {
+    if (m_rectangleIsStale)
         return false;
-    }
     const QRectF next = wanted(object);
-    if (next == m_rectangle) {
+    if (next == m_rectangle)
         return false;
-    }
     aboutToChange();
     m_rectangle = next;
     return true;
@@ -76,9 +72,8 @@ void ObjectBounds::dropRegion()
 
 QRectF ObjectBounds::wanted(CBaseObject &object)
 {
-    if (!m_paintedArea) {
+    if (!m_paintedArea)
         m_paintedArea = askedPaintedArea(object);
-    }
     QRectF bounds = object.getClientRect().united(*m_paintedArea);
     if (m_paintedArea->isEmpty()) {
         const double margin = m_regionIsStale ? overhang : 0;

@@ -46,15 +46,13 @@ void selectAlone(CBaseObject &object)
 
 void noteChange(CPSRootObject &object)
 {
-    if (pagehost::Page *page = pageOf(object)) {
+    if (pagehost::Page *page = pageOf(object))
         page->noteChange();
-    }
     noteInvisibleChange(object);
 }
 
 void noteInvisibleChange(CPSRootObject &object)
 {
-    if (pagehost::Page *page = pageOf(object)) {
+    if (pagehost::Page *page = pageOf(object))
         Q_EMIT page->objectChanged(baseObject(object));
-    }
 }

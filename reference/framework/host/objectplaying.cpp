@@ -7,9 +7,8 @@
 void setPlayed(CBaseObject &object, bool played)
 {
     PlayedState &state = CPSRootObjectPrivate::of(object).played;
-    if (played) {
+    if (played)
         state.begin(object);
-    } else {
+    else
         state.end();
-    }
 }

@@ -9,13 +9,11 @@ void PlayedState::begin(CBaseObject &object)
 
 bool PlayedState::isNextPicture(CBaseObject &object)
 {
-    if (!m_saved) {
+    if (!m_saved)
         return false;
-    }
     const QByteArray state = pagehost::savedData(object);
-    if (state == *m_saved) {
+    if (state == *m_saved)
         return true;
-    }
     m_saved = state;
     return false;
 }

@@ -16,8 +16,7 @@ QImage pngPicture(const QByteArray &png)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, "PNG");
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > mostPicturePixels) {
+    if (!size.isValid() || qint64(size.width()) * size.height() > mostPicturePixels)
         return {};
-    }
     return reader.read();
 }

@@ -45,9 +45,8 @@ bool setTextFont(CBaseObject &item, const QFont &font)
 bool setTextFamily(CBaseObject &item, QDataStream &in)
 {
     const auto family = readValue<QString>(in);
-    if (!family || family->isEmpty()) {
+    if (!family || family->isEmpty())
         return false;
-    }
     QFont font = textFont(item);
     font.setFamily(*family);
     return setTextFont(item, font);
@@ -56,9 +55,8 @@ bool setTextFamily(CBaseObject &item, QDataStream &in)
 bool setTextSize(CBaseObject &item, QDataStream &in)
 {
     const auto points = readNumber(in, HostAttribute::smallestTextSize);
-    if (!points || *points > HostAttribute::largestTextSize) {
+    if (!points || *points > HostAttribute::largestTextSize)
         return false;
-    }
     QFont font = textFont(item);
     font.setPointSizeF(*points);
     return setTextFont(item, font);
@@ -67,18 +65,16 @@ bool setTextSize(CBaseObject &item, QDataStream &in)
 bool setTextColor(CBaseObject &item, QDataStream &in)
 {
     const auto color = pagehost::readColor(in);
-    if (color) {
+    if (color)
         item.setDefaultTextColor(*color);
-    }
     return color.has_value();
 }
 
 bool setTextAlignment(CBaseObject &item, QDataStream &in)
 {
     const auto alignment = readValue<qint32>(in);
-    if (!alignment) {
+    if (!alignment)
         return false;
-    }
     QTextOption option = item.document()->defaultTextOption();
     option.setAlignment(Qt::Alignment(*alignment) & Qt::AlignHorizontal_Mask);
     item.document()->setDefaultTextOption(option);
@@ -88,9 +84,8 @@ bool setTextAlignment(CBaseObject &item, QDataStream &in)
 bool setBorderColor(CBaseObject &item, QDataStream &in)
 {
     const auto color = pagehost::readColor(in);
-    if (color) {
+    if (color)
         item.setMyPenColor(*color, false);
-    }
     return color.has_value();
 }
 
@@ -108,9 +103,8 @@ bool setBorderWidth(CBaseObject &item, QDataStream &in)
 bool setPlace(CBaseObject &item, int id, QDataStream &in)
 {
     const auto value = readValue<double>(in);
-    if (!value || !std::isfinite(*value)) {
+    if (!value || !std::isfinite(*value))
         return false;
-    }
     const QPointF pos = item.getPos();
     const QSizeF size = item.getClientRect().size();
     switch (id) {
@@ -135,9 +129,8 @@ bool setPlace(CBaseObject &item, int id, QDataStream &in)
 bool setLockedState(CBaseObject &item, QDataStream &in)
 {
     const auto locked = readValue<bool>(in);
-    if (locked) {
+    if (locked)
         item.setLocked(*locked);
-    }
     return locked.has_value();
 }
 
@@ -224,9 +217,8 @@ bool CPSRootObject::GetAttribute(int id, QDataStream &out)
 bool CPSRootObject::SetAttribute(int id, QDataStream &in, bool record)
 {
     CBaseObject *item = baseObject(*this);
-    if (!item) {
+    if (!item)
         return false;
-    }
     return record ? AttributeCommand::applyUndoably(*item, id, in) : HostAttribute::apply(*item, id, in);
 }
 
@@ -271,9 +263,8 @@ bool applyPlaceValue(CBaseObject &item, int id, const QVariant &variant)
 {
     bool isNumber = false;
     const double value = variant.toDouble(&isNumber);
-    if (!isNumber) {
+    if (!isNumber)
         return false;
-    }
     QByteArray bytes = payloadOf(value);
     QDataStream in(bytes);
     return HostAttribute::apply(item, id, in);
@@ -284,23 +275,20 @@ bool applyPlaceValue(CBaseObject &item, int id, const QVariant &variant)
 bool CPSRootObject::getAllAttributes(QMap<QString, QVariant> &map)
 {
     CBaseObject *item = baseObject(*this);
-    if (!item) {
+    if (!item)
         return false;
-    }
     map[nameAttribute] = getObjName();
     map[lockedAttribute] = isLocked();
-    for (const PlaceAttribute &attribute : placeAttributes) {
+    for (const PlaceAttribute &attribute : placeAttributes)
         map[attribute.key] = placeValue(*item, attribute.id);
-    }
     return true;
 }
 
 bool CPSRootObject::setAllAttributes(const QMap<QString, QVariant> &map, bool)
 {
     CBaseObject *item = baseObject(*this);
-    if (!item) {
+    if (!item)
         return false;
-    }
     bool known = false;
     if (map.contains(nameAttribute)) {
         objName = map.value(nameAttribute).toString();
@@ -311,10 +299,8 @@ bool CPSRootObject::setAllAttributes(const QMap<QString, QVariant> &map, bool)
         setLocked(map.value(lockedAttribute).toBool());
         known = true;
     }
-    for (const PlaceAttribute &attribute : placeAttributes) {
-        if (map.contains(attribute.key)) {
+    for (const PlaceAttribute &attribute : placeAttributes)
+        if (map.contains(attribute.key))
             known |= applyPlaceValue(*item, attribute.id, map.value(attribute.key));
-        }
-    }
     return known;
 }

@@ -13,9 +13,8 @@ bool readState(CPSRootObject &object, QDataStream &in, HostState &state)
 {
     CPageBgProp fill(*object.getFillProp());
     in >> state;
-    if (in.status() != QDataStream::Ok || !state.isPlausible() || !fill.load(in)) {
+    if (in.status() != QDataStream::Ok || !state.isPlausible() || !fill.load(in))
         return false;
-    }
     CPSRootObjectPrivate &host = CPSRootObjectPrivate::of(object);
     host.setFill(fill);
     host.setState(state);
@@ -36,9 +35,8 @@ bool CPSRootObject::load(QDataStream &in)
 {
     HostState state;
     d->refusedState = !readState(*this, in, state);
-    if (d->refusedState) {
+    if (d->refusedState)
         return false;
-    }
     baseObject(*this)->setZValue(state.stacking);
     return true;
 }
@@ -59,9 +57,8 @@ bool CPSRootObject::loadJson(QJsonObject &object)
     CPageBgProp fill(*fillProp);
     const bool hasFill = fill.loadJson(object.value(fillKey).toObject());
     d->refusedState = !state.isPlausible() || !hasReadableColor;
-    if (d->refusedState) {
+    if (d->refusedState)
         return false;
-    }
     d->setFill(fill);
     d->setState(state);
     baseObject(*this)->setZValue(state.stacking);

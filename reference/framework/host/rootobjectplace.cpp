@@ -20,28 +20,24 @@ QPointF CPSRootObject::getPos() const
 
 void CPSRootObject::setPos(QPointF pos, bool record)
 {
-    if (!d->item || !isFinite(pos)) {
+    if (!d->item || !isFinite(pos))
         return;
-    }
     const QGraphicsItem *parent = d->item->parentItem();
     d->item->setPos(parent ? parent->mapFromScene(pos) : pos);
-    if (!record) {
+    if (!record)
         return;
-    }
     QByteArray payload = payloadOf(pos);
     RecordAction(pagehost::ActionMoved, &payload);
 }
 
 void CPSRootObject::setRotateByPoint(double degrees, QPointF center, bool record)
 {
-    if (!d->item || !std::isfinite(degrees) || !isFinite(center)) {
+    if (!d->item || !std::isfinite(degrees) || !isFinite(center))
         return;
-    }
     const QPointF fixedPoint = d->item->pos() + rotated(center, d->item->rotation());
     placeItem(*this, fixedPoint - rotated(center, degrees), degrees);
-    if (!record) {
+    if (!record)
         return;
-    }
     QByteArray payload = payloadOf(degrees, getPos());
     RecordAction(pagehost::ActionRotated, &payload);
 }
@@ -53,23 +49,20 @@ void CPSRootObject::setMirror(bool horizontal, bool vertical, bool record)
     OnQPainterDraw(nullptr);
     update();
     notifyObjPropertyChanged(AppearanceChanged, QString());
-    if (!record) {
+    if (!record)
         return;
-    }
     QByteArray payload = payloadOf(horizontal, vertical);
     RecordAction(pagehost::ActionMirrored, &payload);
 }
 
 void CPSRootObject::setSize(QSizeF size, bool flag, bool redraw)
 {
-    if (!isFinite(size)) {
+    if (!isFinite(size))
         return;
-    }
     assignClientSize(*this, possibleSize(size));
     updateAfterObjRectChanged(d->item, redraw);
-    if (!flag) {
+    if (!flag)
         return;
-    }
     QByteArray payload = payloadOf(size);
     RecordAction(pagehost::ActionResized, &payload);
 }
@@ -102,9 +95,8 @@ bool sameColor(const CPageBgProp &one, const CPageBgProp &other)
 
 void CPSRootObject::setFillProp(CPageBgProp *prop, bool record)
 {
-    if (!prop) {
+    if (!prop)
         return;
-    }
     const bool keepsPresent = isColorOnly(*prop) && showsMoreThanColor(*fillProp) && sameColor(*prop, *fillProp);
     if (!keepsPresent) {
         // A copy: it may be the object's own.
@@ -112,9 +104,8 @@ void CPSRootObject::setFillProp(CPageBgProp *prop, bool record)
     }
     update();
     noteChange(*this);
-    if (!record) {
+    if (!record)
         return;
-    }
     QByteArray payload;
     QDataStream stream(&payload, QIODevice::WriteOnly);
     fillProp->save(stream);
@@ -142,40 +133,34 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
     CPageBgProp fill(*fillProp);
     switch (actionId) {
     case pagehost::ActionMoved:
-        if (!readAll(in, pos)) {
+        if (!readAll(in, pos))
             return false;
-        }
         setPos(pos, false);
         return true;
     case pagehost::ActionResized:
-        if (!readAll(in, size) || !isFinite(size)) {
+        if (!readAll(in, size) || !isFinite(size))
             return false;
-        }
         setSize(possibleSize(size), false, false);
         return true;
     case pagehost::ActionRotated:
-        if (!readAll(in, degrees, pos) || !std::isfinite(degrees) || !isFinite(pos)) {
+        if (!readAll(in, degrees, pos) || !std::isfinite(degrees) || !isFinite(pos))
             return false;
-        }
         placeItem(*this, pos, degrees);
         return true;
     case pagehost::ActionMirrored:
-        if (!readAll(in, horizontal, vertical)) {
+        if (!readAll(in, horizontal, vertical))
             return false;
-        }
         setMirror(horizontal, vertical, false);
         return true;
     case pagehost::ActionFilled:
-        if (!fill.load(in)) {
+        if (!fill.load(in))
             return false;
-        }
         setFillProp(&fill, false);
         return true;
     case pagehost::ActionPenColored:
         color = pagehost::readColor(in);
-        if (color) {
+        if (color)
             setMyPenColor(*color, false);
-        }
         return color.has_value();
     default:
         return false;

@@ -19,9 +19,8 @@ bool isIdentical(const QRectF &a, const QRectF &b)
 void CPSRootObjectPrivate::refreshBounds()
 {
     CBaseObject *object = baseObject(m_object);
-    if (object && bounds.refresh(*object, [object] { object->prepareGeometryChange(); })) {
+    if (object && bounds.refresh(*object, [object] { object->prepareGeometryChange(); }))
         dropPicture();
-    }
 }
 
 void CPSRootObjectPrivate::dropPaintedArea()
@@ -47,14 +46,12 @@ void CPSRootObjectPrivate::dropPicture()
 void CPSRootObjectPrivate::setClientRect(const QRectF &rect)
 {
     // Another thread may be reading the rectangle, to copy the object's picture into it.
-    if (!isIdentical(m_object.clientRect, rect)) {
+    if (!isIdentical(m_object.clientRect, rect))
         m_object.clientRect = rect;
-    }
     m_object.dragStart = rect.topLeft();
     m_object.dragEnd = rect.topLeft() + QPointF(rect.width(), rect.height());
-    if (m_object.fillProp->needCreatBrush(rect)) {
+    if (m_object.fillProp->needCreatBrush(rect))
         m_object.fillBrush = m_object.fillProp->createBrushByProp(rect, false);
-    }
 }
 
 void CPSRootObjectPrivate::setFill(const CPageBgProp &fill)

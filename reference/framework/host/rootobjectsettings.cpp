@@ -23,15 +23,12 @@ QJsonArray toArray(const QList<QString> &texts)
 /// Null text for values that no control gives.
 QString answerText(const QJsonValue &value)
 {
-    if (value.isString()) {
+    if (value.isString())
         return value.toString().isNull() ? QLatin1String("") : value.toString();
-    }
-    if (value.isBool()) {
+    if (value.isBool())
         return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-    }
-    if (value.isDouble() && std::isfinite(value.toDouble())) {
+    if (value.isDouble() && std::isfinite(value.toDouble()))
         return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
-    }
     return {};
 }
 
@@ -39,9 +36,8 @@ bool readMembers(const QJsonObject &answer, QMap<QString, QString> &values)
 {
     for (auto member = answer.begin(); member != answer.end(); ++member) {
         const QString text = answerText(member.value());
-        if (text.isNull()) {
+        if (text.isNull())
             return false;
-        }
         values.insert(member.key(), text);
     }
     return true;
@@ -52,9 +48,8 @@ bool readEntries(const QJsonArray &answer, QMap<QString, QString> &values)
     for (const QJsonValue &entry : answer) {
         const QString id = entry[QLatin1String("id")].toString();
         const QString text = answerText(entry[QLatin1String("value")]);
-        if (id.isEmpty() || text.isNull()) {
+        if (id.isEmpty() || text.isNull())
             return false;
-        }
         values.insert(id, text);
     }
     return true;
@@ -123,9 +118,8 @@ bool CPSRootObject::ParseSettingJson(const QString &json, QMap<QString, QString>
     QMap<QString, QString> read;
     const bool understood = answer.isObject() ? readMembers(answer.object(), read)
                                               : answer.isArray() && readEntries(answer.array(), read);
-    if (understood) {
+    if (understood)
         values = read;
-    }
     return understood;
 }
 

@@ -58,9 +58,8 @@ bool isWholeTexture(const QByteArray &brush)
 {
     constexpr int pictureOffset = styleBytes + streamedColorBytes + numberBytes;
     const QByteArray picture = brush.mid(pictureOffset, brush.size() - pictureOffset - matrixBytes);
-    if (numberAt(brush, styleBytes + streamedColorBytes) == 0) {
+    if (numberAt(brush, styleBytes + streamedColorBytes) == 0)
         return brush.size() == plainBytes + numberBytes;
-    }
     return picture.endsWith(QByteArray("IEND\xae\x42\x60\x82", 8)) && !pngPicture(picture).isNull();
 }
 
@@ -69,9 +68,8 @@ bool isWholeTexture(const QByteArray &brush)
 std::optional<QColor> readColor(QDataStream &in)
 {
     char kind = 0;
-    if (!in.device() || in.device()->peek(&kind, 1) != 1 || !isColorKind(kind)) {
+    if (!in.device() || in.device()->peek(&kind, 1) != 1 || !isColorKind(kind))
         return {};
-    }
     QColor color;
     in >> color;
     return in.status() == QDataStream::Ok ? std::optional(color) : std::nullopt;
@@ -85,9 +83,8 @@ std::optional<QColor> colorFrom(const QByteArray &bytes)
 
 bool isWholeBrush(const QByteArray &bytes)
 {
-    if (bytes.size() < plainBytes || !isColorKind(bytes.at(colorInBrush))) {
+    if (bytes.size() < plainBytes || !isColorKind(bytes.at(colorInBrush)))
         return false;
-    }
     switch (const int style = uchar(bytes.at(0))) {
     case Qt::LinearGradientPattern:
     case Qt::RadialGradientPattern:
@@ -102,9 +99,8 @@ bool isWholeBrush(const QByteArray &bytes)
 
 std::optional<QBrush> brushFrom(const QByteArray &bytes)
 {
-    if (!isWholeBrush(bytes)) {
+    if (!isWholeBrush(bytes))
         return {};
-    }
     QBrush brush;
     QDataStream in(bytes);
     in >> brush;

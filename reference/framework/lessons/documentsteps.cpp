@@ -31,9 +31,8 @@ QVector<LessonStep> appearanceOf(const Page &page, int pageIndex, const ObjectNu
     steps.append(PageAppeared{pageIndex, page.size(), savedData(page.background())});
     int place = 0;
     const QVector<CBaseObject *> objects = page.objects();
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         steps.append(appearanceOf(object, numberOf(object), pageIndex, place++));
-    }
     return steps;
 }
 
@@ -41,9 +40,8 @@ QVector<LessonStep> appearanceOf(const Document &document, const ObjectNumbering
 {
     // The zoom comes first: objects are made for it.
     QVector<LessonStep> steps{ZoomChanged{document.zoomRate()}};
-    for (int index = 0; index < document.pageCount(); ++index) {
+    for (int index = 0; index < document.pageCount(); ++index)
         steps += appearanceOf(*document.page(index), index, numberOf);
-    }
     steps.append(PageTurned{document.currentIndex()});
     return steps;
 }

@@ -24,9 +24,8 @@ void followZoom(const Document &document)
     const QVector<Page *> pages = document.pages();
     for (const Page *page : pages) {
         const QVector<CBaseObject *> objects = page->objects();
-        for (CBaseObject *object : objects) {
+        for (CBaseObject *object : objects)
             followZoom(*object);
-        }
     }
 }
 

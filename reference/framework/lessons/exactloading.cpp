@@ -10,9 +10,8 @@ namespace pagehost {
 
 bool loadExactly(CBaseObject &object, const QByteArray &state)
 {
-    if (savedData(object) == state) {
+    if (savedData(object) == state)
         return true;
-    }
     QDataStream in(state);
     object.CPSRootObject::LoadPropertyForPlayback(in);
     object.OnQPainterDraw(nullptr);

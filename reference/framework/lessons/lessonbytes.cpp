@@ -45,9 +45,8 @@ public:
     void operator()(const char *, const QVector<quint32> &values)
     {
         m_out << quint32(values.size());
-        for (const quint32 value : values) {
+        for (const quint32 value : values)
             m_out << value;
-        }
     }
 
 private:
@@ -80,17 +79,15 @@ public:
             return;
         }
         values.resize(int(count));
-        for (quint32 &value : values) {
+        for (quint32 &value : values)
             m_in >> value;
-        }
     }
 
 private:
     void refuseUnless(bool good)
     {
-        if (!good) {
+        if (!good)
             m_in.setStatus(QDataStream::ReadCorruptData);
-        }
     }
 
     QDataStream &m_in;
@@ -116,9 +113,8 @@ bool read(QDataStream &in, LessonStep &step)
     quint8 kind = 0;
     QByteArray bytes;
     in >> kind >> bytes;
-    if (in.status() != QDataStream::Ok || !lessonfields::makeStep(kind, step)) {
+    if (in.status() != QDataStream::Ok || !lessonfields::makeStep(kind, step))
         return false;
-    }
     QDataStream fields(bytes);
     prepare(fields);
     Reader reader(fields);
@@ -129,14 +125,12 @@ bool read(QDataStream &in, LessonStep &step)
 bool readSteps(QDataStream &in, QVector<LessonStep> &steps)
 {
     quint32 count = 0;
-    if (!readCount(in, smallestStep, count)) {
+    if (!readCount(in, smallestStep, count))
         return false;
-    }
     for (quint32 i = 0; i < count; ++i) {
         LessonStep step;
-        if (!read(in, step)) {
+        if (!read(in, step))
             return false;
-        }
         steps.append(step);
     }
     return true;
@@ -145,15 +139,13 @@ bool readSteps(QDataStream &in, QVector<LessonStep> &steps)
 bool readEvents(QDataStream &in, QVector<LessonEvent> &events)
 {
     quint32 count = 0;
-    if (!readCount(in, smallestEvent, count)) {
+    if (!readCount(in, smallestEvent, count))
         return false;
-    }
     for (quint32 i = 0; i < count; ++i) {
         LessonEvent event;
         in >> event.time;
-        if (!read(in, event.step)) {
+        if (!read(in, event.step))
             return false;
-        }
         events.append(event);
     }
     return true;
@@ -164,9 +156,8 @@ bool readHead(QDataStream &in, Lesson &lesson)
     quint32 foundMagic = 0;
     quint16 version = 0;
     in >> foundMagic >> version;
-    if (foundMagic != magic || version != currentVersion) {
+    if (foundMagic != magic || version != currentVersion)
         return false;
-    }
     in >> lesson.title >> lesson.duration;
     return in.status() == QDataStream::Ok;
 }
@@ -180,9 +171,8 @@ QByteArray Lesson::toBytes() const
     prepare(out);
     out << magic << currentVersion << (title.isNull() ? QString(QLatin1String("")) : title) << duration
         << quint32(start.size());
-    for (const LessonStep &step : start) {
+    for (const LessonStep &step : start)
         write(out, step);
-    }
     out << quint32(events.size());
     for (const LessonEvent &event : events) {
         out << event.time;
@@ -195,9 +185,8 @@ LessonExtent lessonparts::readBytes(const QByteArray &bytes, Lesson &lesson)
 {
     QDataStream in(bytes);
     prepare(in);
-    if (!readHead(in, lesson)) {
+    if (!readHead(in, lesson))
         return LessonExtent::Nothing;
-    }
     const bool isWhole = readSteps(in, lesson.start) && readEvents(in, lesson.events) && in.atEnd();
     return endAtDamage(lesson, isWhole);
 }
@@ -205,9 +194,8 @@ LessonExtent lessonparts::readBytes(const QByteArray &bytes, Lesson &lesson)
 bool Lesson::fromBytes(const QByteArray &bytes)
 {
     Lesson read;
-    if (lessonparts::readBytes(bytes, read) != LessonExtent::Whole) {
+    if (lessonparts::readBytes(bytes, read) != LessonExtent::Whole)
         return false;
-    }
     *this = read;
     return true;
 }

@@ -41,9 +41,8 @@ qint64 LessonClock::time() const
 
 void LessonClock::setRate(double rate)
 {
-    if (!(rate > 0) || !std::isfinite(rate)) {
+    if (!(rate > 0) || !std::isfinite(rate))
         return;
-    }
     setTime(time());
     m_rate = rate;
 }

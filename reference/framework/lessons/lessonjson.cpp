@@ -38,9 +38,8 @@ public:
     void operator()(const char *name, const QVector<quint32> &values)
     {
         QJsonArray array;
-        for (const quint32 value : values) {
+        for (const quint32 value : values)
             array.append(double(value));
-        }
         put(name, array);
     }
 
@@ -56,9 +55,8 @@ template<typename Number> bool readWhole(const QJsonValue &value, Number &number
     const double read = value.toDouble(-1.5);
     const bool fits = std::floor(read) == read && std::abs(read) <= largest &&
                       (std::numeric_limits<Number>::is_signed || read >= 0);
-    if (fits) {
+    if (fits)
         number = Number(read);
-    }
     return fits;
 }
 
@@ -133,9 +131,8 @@ bool read(const QJsonValue &value, LessonStep &step)
     const QJsonObject object = value.toObject();
     const auto &names = lessonfields::kindNames;
     const auto name = std::find(names.begin(), names.end(), object.value(kindKey).toString());
-    if (!lessonfields::makeStep(std::size_t(name - names.begin()), step)) {
+    if (!lessonfields::makeStep(std::size_t(name - names.begin()), step))
         return false;
-    }
     Reader reader(object);
     std::visit([&](auto &kind) { lessonfields::visit(reader, kind); }, step);
     return reader.isGood();
@@ -151,9 +148,8 @@ template<typename Element> bool readAll(const QJsonValue &value, QVector<Element
     const QJsonArray array = value.toArray();
     for (const QJsonValue &entry : array) {
         Element element;
-        if (!read(entry, element)) {
+        if (!read(entry, element))
             return false;
-        }
         elements.append(element);
     }
     return value.isArray();
@@ -164,9 +160,8 @@ template<typename Element> bool readAll(const QJsonValue &value, QVector<Element
 QJsonObject Lesson::toJson() const
 {
     QJsonArray startSteps;
-    for (const LessonStep &step : start) {
+    for (const LessonStep &step : start)
         startSteps.append(written(step));
-    }
     QJsonArray timedSteps;
     for (const LessonEvent &event : events) {
         QJsonObject object = written(event.step);
@@ -184,15 +179,13 @@ LessonExtent lessonparts::readJson(const QJsonObject &object, Lesson &lesson)
 {
     const QJsonValue version = object.value(versionKey);
     if ((!version.isUndefined() && version != currentVersion) ||
-        !(object.value(startKey).isArray() || object.value(eventsKey).isArray())) {
+        !(object.value(startKey).isArray() || object.value(eventsKey).isArray()))
         return LessonExtent::Nothing;
-    }
     const bool hasHead = version == currentVersion && object.value(titleKey).isString();
     lesson.title = object.value(titleKey).toString();
     const bool hasDuration = readWhole(object.value(durationKey), lesson.duration, largestWholeNumber);
-    if (!hasDuration) {
+    if (!hasDuration)
         lesson.duration = std::numeric_limits<qint64>::max();
-    }
     const bool hasStart = readAll(object.value(startKey), lesson.start);
     // Without a part of the start, events would happen to other objects and pages.
     const bool hasEvents = hasStart && readAll(object.value(eventsKey), lesson.events);
@@ -202,9 +195,8 @@ LessonExtent lessonparts::readJson(const QJsonObject &object, Lesson &lesson)
 bool Lesson::fromJson(const QJsonObject &object)
 {
     Lesson read;
-    if (lessonparts::readJson(object, read) != LessonExtent::Whole) {
+    if (lessonparts::readJson(object, read) != LessonExtent::Whole)
         return false;
-    }
     *this = read;
     return true;
 }

@@ -16,20 +16,17 @@ constexpr char magic[] = "GLL1";
 QJsonValue takeElements(JsonCursor &cursor)
 {
     QJsonArray elements;
-    if (!cursor.take('[')) {
+    if (!cursor.take('['))
         return QJsonValue(QJsonValue::Undefined);
-    }
     QByteArray text;
     while (cursor.takeValue(text)) {
         JsonProblem problem;
         const QJsonValue element = parseJson(text, problem);
-        if (problem.isThere) {
+        if (problem.isThere)
             break;
-        }
         elements.append(element);
-        if (!cursor.take(',')) {
+        if (!cursor.take(','))
             break;
-        }
     }
     return elements;
 }
@@ -55,16 +52,13 @@ QJsonValue findMember(const QByteArray &text, const char *name, QJsonValue (*tak
 QJsonObject membersOf(const QByteArray &text)
 {
     const QJsonDocument whole = QJsonDocument::fromJson(text);
-    if (whole.isObject()) {
+    if (whole.isObject())
         return whole.object();
-    }
     QJsonObject members;
-    for (const char *name : {"title", "duration"}) {
+    for (const char *name : {"title", "duration"})
         members.insert(QLatin1String(name), findMember(text, name, takePlain));
-    }
-    for (const char *name : {"start", "events"}) {
+    for (const char *name : {"start", "events"})
         members.insert(QLatin1String(name), findMember(text, name, takeElements));
-    }
     return members;
 }
 
@@ -75,12 +69,10 @@ LessonExtent lessonparts::endAtDamage(Lesson &lesson, bool isWhole)
     int good = 0;
     qint64 last = 0;
     while (good < lesson.events.size() && lesson.events[good].time >= last &&
-           lesson.events[good].time <= lesson.duration) {
+           lesson.events[good].time <= lesson.duration)
         last = lesson.events[good++].time;
-    }
-    if (isWhole && good == lesson.events.size() && lesson.duration >= last) {
+    if (isWhole && good == lesson.events.size() && lesson.duration >= last)
         return LessonExtent::Whole;
-    }
     lesson.events.resize(good);
     lesson.duration = last;
     return LessonExtent::Part;
@@ -101,13 +93,11 @@ LessonExtent Lesson::fromDamagedData(const QByteArray &data)
         // Damage may have put other bytes before the lesson.
         const int start = data.indexOf(magic);
         extent = start >= 0 ? lessonparts::readBytes(data.mid(start), read) : LessonExtent::Nothing;
-        if (start > 0 && extent == LessonExtent::Whole) {
+        if (start > 0 && extent == LessonExtent::Whole)
             extent = lessonparts::endAtDamage(read, false);
-        }
     }
-    if (extent != LessonExtent::Nothing) {
+    if (extent != LessonExtent::Nothing)
         *this = read;
-    }
     return extent;
 }
 

@@ -47,12 +47,10 @@ void LessonPlayer::setLesson(const Lesson &lesson)
 
 void LessonPlayer::play()
 {
-    if (!m_stage || isPlaying()) {
+    if (!m_stage || isPlaying())
         return;
-    }
-    if (m_position >= duration()) {
+    if (m_position >= duration())
         seek(0);
-    }
     m_clock.setTime(m_position);
     m_clock.run();
     m_timer.start();
@@ -74,9 +72,8 @@ void LessonPlayer::setSpeed(double speed)
 
 void LessonPlayer::stopPlaying()
 {
-    if (!isPlaying()) {
+    if (!isPlaying())
         return;
-    }
     m_timer.stop();
     m_clock.halt();
     Q_EMIT playingChanged(false);
@@ -84,9 +81,8 @@ void LessonPlayer::stopPlaying()
 
 void LessonPlayer::seek(qint64 time)
 {
-    if (!m_stage) {
+    if (!m_stage)
         return;
-    }
     const qint64 target = qBound<qint64>(0, time, duration());
     pointOut(nullptr);
     if (target < m_position) {
@@ -101,9 +97,8 @@ void LessonPlayer::seek(qint64 time)
 
 void LessonPlayer::playToEnd()
 {
-    if (!m_stage) {
+    if (!m_stage)
         return;
-    }
     stopPlaying();
     seek(duration());
     Q_EMIT finished();
@@ -120,9 +115,8 @@ void LessonPlayer::tick()
         pointOut(nullptr);
     }
     setPosition(time);
-    if (time < duration() || !isPlaying()) {
+    if (time < duration() || !isPlaying())
         return;
-    }
     pointOut(nullptr);
     stopPlaying();
     Q_EMIT finished();
@@ -133,9 +127,8 @@ CBaseObject *LessonPlayer::advance(qint64 time)
 {
     QPointer<CBaseObject> changed;
     while (m_played < m_lesson.events.size() && m_lesson.events[m_played].time <= time) {
-        if (CBaseObject *object = m_stage->perform(m_lesson.events[m_played].step)) {
+        if (CBaseObject *object = m_stage->perform(m_lesson.events[m_played].step))
             changed = object;
-        }
         ++m_played;
     }
     return changed;
@@ -144,9 +137,8 @@ CBaseObject *LessonPlayer::advance(qint64 time)
 void LessonPlayer::showStart()
 {
     auto stage = std::make_unique<LessonStage>(m_registry);
-    for (const LessonStep &step : qAsConst(m_lesson.start)) {
+    for (const LessonStep &step : qAsConst(m_lesson.start))
         stage->perform(step);
-    }
     m_highlighted = nullptr;
     m_played = 0;
     m_stage.swap(stage);
@@ -162,13 +154,11 @@ void LessonPlayer::setPosition(qint64 time)
 void LessonPlayer::pointOut(CBaseObject *object)
 {
     const Page *page = object ? pageOf(*object) : nullptr;
-    if (m_highlighted && (!page || page->scene() != m_highlighted)) {
+    if (m_highlighted && (!page || page->scene() != m_highlighted))
         m_highlighted->setHighlight(nullptr);
-    }
     m_highlighted = page ? page->scene() : nullptr;
-    if (m_highlighted) {
+    if (m_highlighted)
         m_highlighted->setHighlight(object);
-    }
 }
 
 } // namespace pagehost

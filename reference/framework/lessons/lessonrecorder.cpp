@@ -14,9 +14,8 @@ LessonRecorder::~LessonRecorder() = default;
 
 bool LessonRecorder::start(Document *document)
 {
-    if (!document || isRecording()) {
+    if (!document || isRecording())
         return false;
-    }
     m_clock = LessonClock(m_source);
     m_recording = std::make_unique<LessonRecording>(document, m_registry, m_clock);
     m_clock.run();
@@ -26,9 +25,8 @@ bool LessonRecorder::start(Document *document)
 
 void LessonRecorder::pause()
 {
-    if (!isRecording() || isPaused()) {
+    if (!isRecording() || isPaused())
         return;
-    }
     m_recording->settle();
     m_clock.halt();
     Q_EMIT pausedChanged(true);
@@ -36,9 +34,8 @@ void LessonRecorder::pause()
 
 void LessonRecorder::resume()
 {
-    if (!isPaused()) {
+    if (!isPaused())
         return;
-    }
     m_recording->settle();
     m_clock.run();
     Q_EMIT pausedChanged(false);
@@ -51,16 +48,14 @@ Lesson LessonRecorder::soFar()
 
 Lesson LessonRecorder::stop()
 {
-    if (!isRecording()) {
+    if (!isRecording())
         return {};
-    }
     const Lesson lesson = m_recording->settled();
     const bool wasPaused = isPaused();
     m_recording.reset();
     m_clock.halt();
-    if (wasPaused) {
+    if (wasPaused)
         Q_EMIT pausedChanged(false);
-    }
     Q_EMIT recordingChanged(false);
     return lesson;
 }

@@ -28,13 +28,11 @@ LessonRecording::LessonRecording(Document *document, const ObjectRegistry *regis
     connect(&m_turn, &QTimer::timeout, this, &LessonRecording::settleIdle);
     followZoom(*document);
     m_lesson.start = appearanceOf(*document, [this](CBaseObject *object) { return numberOf(object); });
-    for (const LessonStep &step : qAsConst(m_lesson.start)) {
+    for (const LessonStep &step : qAsConst(m_lesson.start))
         m_rehearsal.perform(step);
-    }
     const QVector<Page *> pages = document->pages();
-    for (Page *page : pages) {
+    for (Page *page : pages)
         watch(page);
-    }
     connect(document, &Document::pageInserted, this, &LessonRecording::notePage);
     connect(document, &Document::pageRemoved, this, [this](int index) { append(PageVanished{index}); });
     connect(document, &Document::pageMoved, this, [this](int from, int to) { append(PageMoved{from, to}); });
@@ -44,18 +42,16 @@ LessonRecording::LessonRecording(Document *document, const ObjectRegistry *regis
 
 LessonRecording::~LessonRecording()
 {
-    if (actionSink() == this) {
+    if (actionSink() == this)
         setActionSink(m_nextSink);
-    }
 }
 
 void LessonRecording::watch(Page *page)
 {
     const auto ifShown = [this, page](const std::function<void(int)> &note) {
         const int index = m_document ? m_document->indexOf(page) : -1;
-        if (index >= 0) {
+        if (index >= 0)
             note(index);
-        }
     };
     disconnect(page, nullptr, this, nullptr);
     connect(page, &Page::objectAdded, this,
@@ -74,18 +70,15 @@ void LessonRecording::watch(Page *page)
 
 void LessonRecording::actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload)
 {
-    if (m_nextSink) {
+    if (m_nextSink)
         m_nextSink->actionRecorded(object, actionId, payload);
-    }
     CBaseObject *acting = baseObject(*object);
     const quint32 number = acting ? knownNumberOf(acting) : 0;
-    if (number == 0 || pageIndexOf(*acting) < 0) {
+    if (number == 0 || pageIndexOf(*acting) < 0)
         return;
-    }
     noteChange(acting);
-    if (m_clock.isRunning()) {
+    if (m_clock.isRunning())
         append(ObjectActed{number, actionId, payload});
-    }
 }
 
 void LessonRecording::notePage(int index)
@@ -93,9 +86,8 @@ void LessonRecording::notePage(int index)
     Page *page = m_document->page(index);
     watch(page);
     const auto steps = appearanceOf(*page, index, [this](CBaseObject *object) { return numberOf(object); });
-    for (const LessonStep &step : steps) {
+    for (const LessonStep &step : steps)
         append(step);
-    }
 }
 
 void LessonRecording::noteObject(const Page &page, CBaseObject *object)
@@ -112,9 +104,8 @@ void LessonRecording::noteOrder(const Page &page)
 {
     PageRestacked step{m_document->indexOf(&page), {}};
     const QVector<CBaseObject *> objects = page.objects();
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         step.objects.append(numberOf(object));
-    }
     append(step);
 }
 
@@ -122,9 +113,8 @@ void LessonRecording::noteChange(CBaseObject *object)
 {
     if (const quint32 number = object ? knownNumberOf(object) : 0) {
         m_changed.insert(number, object);
-        if (!m_turn.isActive()) {
+        if (!m_turn.isActive())
             m_turn.start(0);
-        }
     }
 }
 
@@ -148,9 +138,8 @@ void LessonRecording::settle()
     prepareComparison();
     const auto changed = m_changed;
     m_changed.clear();
-    for (auto object = changed.begin(); object != changed.end(); ++object) {
+    for (auto object = changed.begin(); object != changed.end(); ++object)
         compare(object.key(), object.value());
-    }
 }
 
 Lesson LessonRecording::settled()
@@ -160,9 +149,8 @@ Lesson LessonRecording::settled()
         const QVector<Page *> pages = m_document->pages();
         for (const Page *page : pages) {
             const QVector<CBaseObject *> objects = page->objects();
-            for (CBaseObject *object : objects) {
+            for (CBaseObject *object : objects)
                 compare(numberOf(object), object);
-            }
         }
     }
     m_lesson.duration = m_lesson.events.isEmpty() ? 0 : m_lesson.events.last().time;
@@ -184,9 +172,8 @@ void LessonRecording::noteTime(const LessonStep &step)
 
 void LessonRecording::noteZoom()
 {
-    if (!m_document || m_document->zoomRate() == m_zoom) {
+    if (!m_document || m_document->zoomRate() == m_zoom)
         return;
-    }
     m_zoom = m_document->zoomRate();
     // Objects here follow when they are painted, or at the latest when they are compared: one may be in the middle
     // of a change now.
@@ -196,9 +183,8 @@ void LessonRecording::noteZoom()
 
 void LessonRecording::catchUp()
 {
-    for (; m_rehearsed < m_lesson.events.size(); ++m_rehearsed) {
+    for (; m_rehearsed < m_lesson.events.size(); ++m_rehearsed)
         m_rehearsal.perform(m_lesson.events[m_rehearsed].step);
-    }
 }
 
 void LessonRecording::prepareComparison()
@@ -214,9 +200,8 @@ void LessonRecording::prepareComparison()
 void LessonRecording::compare(quint32 number, CBaseObject *object)
 {
     CBaseObject *rehearsed = m_rehearsal.object(number);
-    if (!object || !rehearsed || pageIndexOf(*object) < 0) {
+    if (!object || !rehearsed || pageIndexOf(*object) < 0)
         return;
-    }
     if (savedData(*rehearsed) != savedData(*object)) {
         append(ObjectSettled{number, recordOf(object)});
         catchUp();
@@ -226,9 +211,8 @@ void LessonRecording::compare(quint32 number, CBaseObject *object)
 quint32 LessonRecording::numberOf(CBaseObject *object)
 {
     Numbered &entry = m_numbers[object];
-    if (entry.object != object) {
+    if (entry.object != object)
         entry = {object, ++m_lastNumber};
-    }
     return entry.number;
 }
 

@@ -30,9 +30,8 @@ void restoreStackingNumber(const Page &page, CBaseObject &object, double number)
     const int place = objects.indexOf(&object);
     const bool isAbove = place == 0 || objects[place - 1]->zValue() < number;
     const bool isBelow = place + 1 == objects.size() || number < objects[place + 1]->zValue();
-    if (isAbove && isBelow) {
+    if (isAbove && isBelow)
         object.setZValue(number);
-    }
 }
 
 CPageBgProp backgroundOf(const Page &page, const QByteArray &data)
@@ -67,9 +66,8 @@ CBaseObject *LessonStage::perform(const ObjectActed &step)
 {
     CBaseObject *acting = object(step.object);
     const std::optional<QByteArray> payload = replayedPayload(step.actionId, step.payload);
-    if (!acting || !payload) {
+    if (!acting || !payload)
         return nullptr;
-    }
     replayAction(acting, step.actionId, *payload);
     return acting;
 }
@@ -78,9 +76,8 @@ CBaseObject *LessonStage::perform(const ObjectAppeared &step)
 {
     Page *page = m_document->page(step.page);
     ObjectRecord record;
-    if (!page || object(step.object) || !readRecord(step.data, record)) {
+    if (!page || object(step.object) || !readRecord(step.data, record))
         return nullptr;
-    }
     CBaseObject *made = makeObject(record, page);
     put(made, step.object, *page, step.place);
     return made;
@@ -100,9 +97,8 @@ CBaseObject *LessonStage::makeObject(ObjectRecord record, Page *page) const
     record.data = QByteArray(record.data.constData(), record.data.size());
     FileMessage message;
     CBaseObject *made = ObjectFactory(*m_registry).make(record, page, message);
-    if (record.encoding != ObjectRecord::Stream || isPlaceholder(made) || loadExactly(*made, record.data)) {
+    if (record.encoding != ObjectRecord::Stream || isPlaceholder(made) || loadExactly(*made, record.data))
         return made;
-    }
     delete made;
     return ObjectFactory(*m_registry).make(record, page, message);
 }
@@ -123,9 +119,8 @@ CBaseObject *LessonStage::perform(const ObjectSettled &step)
 {
     CBaseObject *former = object(step.object);
     ObjectRecord record;
-    if (!former || !readRecord(step.data, record)) {
+    if (!former || !readRecord(step.data, record))
         return nullptr;
-    }
     // A new object: one that has a past may keep some of it when it loads.
     Page *page = pageOf(*former);
     CBaseObject *settled = makeObject(record, page);
@@ -139,27 +134,23 @@ CBaseObject *LessonStage::perform(const PageRestacked &step)
 {
     Page *page = m_document->page(step.page);
     QVector<CBaseObject *> order;
-    for (const quint32 number : step.objects) {
+    for (const quint32 number : step.objects)
         order.append(object(number));
-    }
-    if (page) {
+    if (page)
         page->setStackingOrder(order);
-    }
     return nullptr;
 }
 
 void LessonStage::forgetObjectsOf(const Page &page)
 {
-    for (auto object = m_objects.begin(); object != m_objects.end();) {
+    for (auto object = m_objects.begin(); object != m_objects.end();)
         object = page.contains(object.value()) ? m_objects.erase(object) : std::next(object);
-    }
 }
 
 CBaseObject *LessonStage::perform(const PageAppeared &step)
 {
-    if (m_document->pageCount() >= mostPages) {
+    if (m_document->pageCount() >= mostPages)
         return nullptr;
-    }
     Page *page = m_document->createPage(step.size);
     page->setBackground(backgroundOf(*page, step.background));
     m_document->insertPage(step.page, page);
@@ -184,17 +175,15 @@ CBaseObject *LessonStage::perform(const PageMoved &step)
 
 CBaseObject *LessonStage::perform(const PageResized &step)
 {
-    if (Page *page = m_document->page(step.page)) {
+    if (Page *page = m_document->page(step.page))
         page->setSize(step.size);
-    }
     return nullptr;
 }
 
 CBaseObject *LessonStage::perform(const PageBackgroundChanged &step)
 {
-    if (Page *page = m_document->page(step.page)) {
+    if (Page *page = m_document->page(step.page))
         page->setBackground(backgroundOf(*page, step.background));
-    }
     return nullptr;
 }
 

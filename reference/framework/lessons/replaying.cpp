@@ -9,12 +9,10 @@ namespace pagehost {
 
 std::optional<QByteArray> replayedPayload(int actionId, const QByteArray &recorded)
 {
-    if (actionId != FillAction) {
+    if (actionId != FillAction)
         return recorded;
-    }
-    if (const std::optional<QColor> color = colorFrom(recorded)) {
+    if (const std::optional<QColor> color = colorFrom(recorded))
         return payloadOf(QBrush(*color));
-    }
     return isWholeBrush(recorded) ? std::optional(recorded) : std::nullopt;
 }
 

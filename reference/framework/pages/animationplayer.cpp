@@ -23,9 +23,8 @@ std::optional<bool> isRunning(CBaseObject &object)
 {
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!object.GetSpecialProperty(AnimationRuns, out)) {
+    if (!object.GetSpecialProperty(AnimationRuns, out))
         return std::nullopt;
-    }
     bool running = false;
     QDataStream(bytes) >> running;
     return running;
@@ -33,9 +32,8 @@ std::optional<bool> isRunning(CBaseObject &object)
 
 void setRunning(CBaseObject &object, bool running)
 {
-    if (isRunning(object).value_or(running) == running) {
+    if (isRunning(object).value_or(running) == running)
         return;
-    }
     setPlayed(object, running);
     const QByteArray bytes = payloadOf(running);
     QDataStream in(bytes);
@@ -44,9 +42,8 @@ void setRunning(CBaseObject &object, bool running)
 
 QRectF visibleArea(const QGraphicsView &view)
 {
-    if (!view.isVisible() || view.window()->isMinimized()) {
+    if (!view.isVisible() || view.window()->isMinimized())
         return {};
-    }
     return view.mapToScene(view.viewport()->rect()).boundingRect();
 }
 
@@ -73,9 +70,8 @@ AnimationPlayer::~AnimationPlayer()
 
 void AnimationPlayer::setPage(Page *page)
 {
-    if (page == m_page && page) {
+    if (page == m_page && page)
         return;
-    }
     const bool before = hasAnimation();
     leavePage();
     m_page = page;
@@ -84,11 +80,9 @@ void AnimationPlayer::setPage(Page *page)
         connect(m_page, &Page::objectChanged, this, &AnimationPlayer::takeObject);
         connect(m_page, &Page::objectRemoved, this, &AnimationPlayer::dropObject);
         const QVector<CBaseObject *> objects = m_page->objects();
-        for (CBaseObject *object : objects) {
-            if (isRunning(*object)) {
+        for (CBaseObject *object : objects)
+            if (isRunning(*object))
                 m_moving.append(object);
-            }
-        }
     }
     m_turn.start(0);
     reportAnimation(before);
@@ -99,20 +93,17 @@ void AnimationPlayer::leavePage()
 {
     const QVector<CBaseObject *> moving = m_moving;
     m_moving.clear();
-    if (!m_page) {
+    if (!m_page)
         return;
-    }
     disconnect(m_page, nullptr, this, nullptr);
-    for (CBaseObject *object : moving) {
+    for (CBaseObject *object : moving)
         setRunning(*object, false);
-    }
 }
 
 void AnimationPlayer::setPlaying(bool playing)
 {
-    if (playing == m_playing) {
+    if (playing == m_playing)
         return;
-    }
     m_playing = playing;
     settle();
     Q_EMIT playingChanged(playing);
@@ -121,16 +112,14 @@ void AnimationPlayer::setPlaying(bool playing)
 /// The kind of an object may change with its contents.
 void AnimationPlayer::takeObject(CBaseObject *object)
 {
-    if (!object || !m_page->contains(object)) {
+    if (!object || !m_page->contains(object))
         return;
-    }
     const bool before = hasAnimation();
     if (!isRunning(*object)) {
         m_moving.removeOne(object);
     } else {
-        if (!m_moving.contains(object)) {
+        if (!m_moving.contains(object))
             m_moving.append(object);
-        }
         m_turn.start(0);
     }
     reportAnimation(before);
@@ -139,33 +128,28 @@ void AnimationPlayer::takeObject(CBaseObject *object)
 void AnimationPlayer::dropObject(CBaseObject *object)
 {
     const bool before = hasAnimation();
-    if (m_moving.removeOne(object)) {
+    if (m_moving.removeOne(object))
         setRunning(*object, false);
-    }
     reportAnimation(before);
 }
 
 void AnimationPlayer::reportAnimation(bool before)
 {
-    if (hasAnimation() != before) {
+    if (hasAnimation() != before)
         Q_EMIT hasAnimationChanged(hasAnimation());
-    }
 }
 
 void AnimationPlayer::settle()
 {
     m_turn.stop();
-    if (!m_page) {
+    if (!m_page)
         return;
-    }
     const QRectF area = m_playing ? visibleArea(*m_view) : QRectF();
     // A start paints, and who hears of that may take objects away.
     const QVector<CBaseObject *> moving = m_moving;
-    for (CBaseObject *object : moving) {
-        if (m_moving.contains(object)) {
+    for (CBaseObject *object : moving)
+        if (m_moving.contains(object))
             setRunning(*object, isIn(*object, area));
-        }
-    }
 }
 
 /// Scrolling and zooming show as a repaint.
@@ -173,9 +157,8 @@ bool AnimationPlayer::eventFilter(QObject *watched, QEvent *event)
 {
     const bool mayMatter = event->type() == QEvent::Paint || event->type() == QEvent::Resize ||
                            event->type() == QEvent::Show || event->type() == QEvent::Hide;
-    if (mayMatter && hasAnimation() && !m_turn.isActive()) {
+    if (mayMatter && hasAnimation() && !m_turn.isActive())
         m_turn.start(0);
-    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -51,9 +51,8 @@ CreationTool::~CreationTool()
 bool CreationTool::begin(PageScene *scene, const QString &kindId)
 {
     cancel();
-    if (!scene || !m_registry->hasKind(kindId)) {
+    if (!scene || !m_registry->hasKind(kindId))
         return false;
-    }
     m_scene = scene;
     m_kindId = kindId;
     m_scene->setCreationTool(this);
@@ -62,9 +61,8 @@ bool CreationTool::begin(PageScene *scene, const QString &kindId)
 
 void CreationTool::cancel()
 {
-    if (!isActive()) {
+    if (!isActive())
         return;
-    }
     if (m_object) {
         m_scene->removeItem(m_object);
         m_object->SetPage(nullptr);
@@ -77,9 +75,8 @@ void CreationTool::cancel()
 
 void CreationTool::stop()
 {
-    if (m_scene && m_scene->creationTool() == this) {
+    if (m_scene && m_scene->creationTool() == this)
         m_scene->setCreationTool(nullptr);
-    }
     m_scene = nullptr;
     m_object = nullptr;
     m_kindId.clear();
@@ -87,9 +84,8 @@ void CreationTool::stop()
 
 bool CreationTool::press(QGraphicsSceneMouseEvent *event)
 {
-    if (!isActive() || m_object || event->button() != Qt::LeftButton) {
+    if (!isActive() || m_object || event->button() != Qt::LeftButton)
         return isActive();
-    }
     m_object = m_registry->createObject(m_kindId);
     if (!m_object) {
         cancel();
@@ -108,12 +104,10 @@ bool CreationTool::press(QGraphicsSceneMouseEvent *event)
 
 bool CreationTool::move(QGraphicsSceneMouseEvent *event)
 {
-    if (!m_object) {
+    if (!m_object)
         return isActive();
-    }
-    if (!follow(*event)) {
+    if (!follow(*event))
         return true;
-    }
     m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
     sendToObject(QEvent::GraphicsSceneMouseMove, *event);
     keepStartCorner();
@@ -122,12 +116,10 @@ bool CreationTool::move(QGraphicsSceneMouseEvent *event)
 
 bool CreationTool::release(QGraphicsSceneMouseEvent *event)
 {
-    if (!m_object) {
+    if (!m_object)
         return isActive();
-    }
-    if (event->button() != Qt::LeftButton) {
+    if (event->button() != Qt::LeftButton)
         return true;
-    }
     follow(*event);
     m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
     sendToObject(QEvent::GraphicsSceneMouseRelease, *event);
@@ -146,9 +138,8 @@ bool CreationTool::release(QGraphicsSceneMouseEvent *event)
 
 CBaseObject *CreationTool::createAt(PageScene *scene, const QString &kindId, const QPointF &scenePos)
 {
-    if (!begin(scene, kindId)) {
+    if (!begin(scene, kindId))
         return nullptr;
-    }
     CBaseObject *made = nullptr;
     const auto take = [&made](CBaseObject *object) { made = object; };
     const auto connection = connect(this, &CreationTool::created, this, take); // ends before `made` does
@@ -171,9 +162,8 @@ bool CreationTool::follow(const QGraphicsSceneMouseEvent &event)
     const QPointF way = possibleWay(event.scenePos() - m_start);
     const double clickDistance = clickPixels / m_object->getCurZoomRate();
     m_dragged = m_dragged || std::hypot(way.x(), way.y()) >= clickDistance;
-    if (m_dragged) {
+    if (m_dragged)
         m_end = m_start + (event.modifiers().testFlag(Qt::ShiftModifier) ? square(way) : way);
-    }
     return m_dragged;
 }
 
@@ -201,11 +191,10 @@ void CreationTool::sendToObject(int eventType, const QGraphicsSceneMouseEvent &e
 
 void CreationTool::sizeFinishedObject(int eventType)
 {
-    if (m_dragged) {
+    if (m_dragged)
         m_object->setSize(dragRect().size(), false, false);
-    } else if (eventType == QEvent::GraphicsSceneMouseRelease && m_object->getClientRect().isEmpty()) {
+    else if (eventType == QEvent::GraphicsSceneMouseRelease && m_object->getClientRect().isEmpty())
         m_object->setSize({plainSide, plainSide}, false, false);
-    }
 }
 
 void CreationTool::keepStartCorner()

@@ -25,12 +25,10 @@ Document::~Document()
 {
     QUndoStack *stack = CUndoRedo::GetInstance()->stack();
     stack->disconnect(this);
-    if (m_mayHaveSteps) {
+    if (m_mayHaveSteps)
         stack->clear();
-    }
-    if (GetFramework()->currentDocument() == this) {
+    if (GetFramework()->currentDocument() == this)
         setCurrentDocument(nullptr);
-    }
     const QVector<Page *> owned = m_pages + m_outside;
     m_pages.clear();
     m_outside.clear();
@@ -39,27 +37,24 @@ Document::~Document()
 
 void Document::setDocumentState(int state)
 {
-    if (state == m_state) {
+    if (state == m_state)
         return;
-    }
     m_state = state;
     Q_EMIT documentStateChanged(state);
 }
 
 void Document::setEditingBlocked(int blocked)
 {
-    if (blocked == m_blocked) {
+    if (blocked == m_blocked)
         return;
-    }
     m_blocked = blocked;
     Q_EMIT editingBlockedChanged(blocked);
 }
 
 void Document::setZoomRate(double rate)
 {
-    if (m_zoomFixed || !std::isfinite(rate) || rate <= 0 || rate == m_zoom) {
+    if (m_zoomFixed || !std::isfinite(rate) || rate <= 0 || rate == m_zoom)
         return;
-    }
     m_zoom = rate;
     Q_EMIT zoomRateChanged(rate);
 }
@@ -81,16 +76,14 @@ Page *Document::currentPage() const
 
 void Document::setCurrentIndex(int index)
 {
-    if (index >= 0 && index < m_pages.size()) {
+    if (index >= 0 && index < m_pages.size())
         setCurrent(index);
-    }
 }
 
 void Document::setCurrent(int index)
 {
-    if (index == m_current) {
+    if (index == m_current)
         return;
-    }
     m_current = index;
     Q_EMIT currentPageChanged(index);
 }
@@ -104,9 +97,8 @@ Page *Document::createPage(const QSizeF &size)
 
 void Document::insertPage(int index, Page *page)
 {
-    if (!m_outside.removeOne(page)) {
+    if (!m_outside.removeOne(page))
         return;
-    }
     const int place = qBound(0, index, m_pages.size());
     m_pages.insert(place, page);
     ++m_revision;
@@ -125,9 +117,8 @@ Page *Document::appendPage(const QSizeF &size)
 Page *Document::takePage(int index)
 {
     Page *taken = page(index);
-    if (!taken) {
+    if (!taken)
         return nullptr;
-    }
     Page *current = currentPage();
     m_pages.removeAt(index);
     m_outside.append(taken);
@@ -142,9 +133,8 @@ Page *Document::takePage(int index)
 
 bool Document::movePage(int from, int to)
 {
-    if (!page(from) || !page(to)) {
+    if (!page(from) || !page(to))
         return false;
-    }
     Page *current = currentPage();
     m_pages.move(from, to);
     ++m_revision;
@@ -161,9 +151,8 @@ void Document::retain(Page *page)
 void Document::release(Page *page)
 {
     const auto count = m_retained.find(page);
-    if (count == m_retained.end() || --*count > 0) {
+    if (count == m_retained.end() || --*count > 0)
         return;
-    }
     m_retained.erase(count);
     dropIfUnused(page);
 }
@@ -176,9 +165,8 @@ bool Document::getsSteps() const
 
 void Document::followStack()
 {
-    if (!getsSteps()) {
+    if (!getsSteps())
         return;
-    }
     const QUndoStack *stack = CUndoRedo::GetInstance()->stack();
     m_mayHaveSteps = true;
     // A stack that was emptied is clean, but nothing has been undone.
@@ -189,18 +177,16 @@ void Document::followStack()
 
 void Document::setModified(bool modified)
 {
-    if (modified == m_modified) {
+    if (modified == m_modified)
         return;
-    }
     m_modified = modified;
     Q_EMIT modifiedChanged(modified);
 }
 
 void Document::markSaved()
 {
-    if (getsSteps()) {
+    if (getsSteps())
         CUndoRedo::GetInstance()->stack()->setClean();
-    }
     clearModified();
 }
 
@@ -226,9 +212,8 @@ quint64 Document::revision() const
 
 void Document::setLessons(const QVector<LessonData> &lessons)
 {
-    if (lessons == m_lessons) {
+    if (lessons == m_lessons)
         return;
-    }
     m_lessons = lessons;
     ++m_revision;
     Q_EMIT lessonsChanged();
@@ -236,9 +221,8 @@ void Document::setLessons(const QVector<LessonData> &lessons)
 
 void Document::setUnfinishedLesson(const LessonData &lesson)
 {
-    if (lesson == m_unfinishedLesson) {
+    if (lesson == m_unfinishedLesson)
         return;
-    }
     m_unfinishedLesson = lesson;
     noteChange();
 }
@@ -246,17 +230,15 @@ void Document::setUnfinishedLesson(const LessonData &lesson)
 QVector<LessonData> Document::lessonsToSave() const
 {
     QVector<LessonData> lessons = m_lessons;
-    if (!m_unfinishedLesson.data.isEmpty()) {
+    if (!m_unfinishedLesson.data.isEmpty())
         lessons.append(m_unfinishedLesson);
-    }
     return lessons;
 }
 
 void Document::dropIfUnused(Page *page)
 {
-    if (!m_retained.contains(page) && m_outside.removeOne(page)) {
+    if (!m_retained.contains(page) && m_outside.removeOne(page))
         page->deleteLater();
-    }
 }
 
 } // namespace pagehost

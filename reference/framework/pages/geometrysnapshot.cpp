@@ -40,20 +40,17 @@ GeometrySnapshot::GeometrySnapshot(CBaseObject *object, Content content)
     , m_flipped(object->isFlipped())
     , m_hasContent(content == WithContent)
 {
-    if (m_hasContent) {
+    if (m_hasContent)
         m_content = contentOf(*object);
-    }
 }
 
 void GeometrySnapshot::restore() const
 {
-    if (!m_object) {
+    if (!m_object)
         return;
-    }
     restoreSize();
-    if (m_object->isMirrored() != m_mirrored || m_object->isFlipped() != m_flipped) {
+    if (m_object->isMirrored() != m_mirrored || m_object->isFlipped() != m_flipped)
         m_object->setMirror(m_mirrored, m_flipped, false);
-    }
     m_object->setRotation(m_rotation);
     m_object->CPSRootObject::setPos(m_pos, false);
 }
@@ -61,9 +58,8 @@ void GeometrySnapshot::restore() const
 void GeometrySnapshot::restoreSize() const
 {
     const bool hasSize = identical(m_object->getClientRect().size(), m_size);
-    if (hasSize && (!m_hasContent || contentOf(*m_object) == m_content)) {
+    if (hasSize && (!m_hasContent || contentOf(*m_object) == m_content))
         return;
-    }
     m_object->setSize(m_size, false, false);
     if (m_hasContent) {
         QDataStream in(m_content);
@@ -88,9 +84,8 @@ QVector<GeometrySnapshot> takeSnapshots(const QVector<CBaseObject *> &objects, G
 {
     QVector<GeometrySnapshot> snapshots;
     snapshots.reserve(objects.size());
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         snapshots.append({object, content});
-    }
     return snapshots;
 }
 

@@ -23,9 +23,8 @@ constexpr int mostProbedObjects = 16;
 Grip askObject(CBaseObject *object, const QPointF &scenePos)
 {
     CObjAction::ACT_Def action = CObjAction::ACT_None;
-    if (object->isLocked() || !object->CheckHitTestHandlers(scenePos, action)) {
+    if (object->isLocked() || !object->CheckHitTestHandlers(scenePos, action))
         return {};
-    }
     return {action == CObjAction::ACT_None ? Grip::ControlPoint : Grip::Handle, object, action, {}};
 }
 
@@ -42,9 +41,8 @@ QPointF offsetIntoObject(CBaseObject *object, const QPointF &scenePos)
 Grip controlPointGrip(CBaseObject *object, const QPointF &scenePos, const QPointF &probeOffset)
 {
     Grip grip = askObject(object, scenePos + probeOffset);
-    if (grip.kind != Grip::ControlPoint) {
+    if (grip.kind != Grip::ControlPoint)
         return {};
-    }
     const QPointF inward = offsetIntoObject(object, scenePos + probeOffset);
     const bool inwardHits = askObject(object, scenePos + probeOffset + inward).kind == Grip::ControlPoint;
     grip.offset = inwardHits ? probeOffset + inward : probeOffset;
@@ -64,9 +62,8 @@ Grip nearbyControlPoint(CBaseObject *object, const QPointF &scenePos)
     for (int ring = 0; ring < probeRings; ++ring) {
         for (int direction = 0; direction < probeDirections; ++direction) {
             const Grip grip = controlPointGrip(object, scenePos, probe(ring, direction, zoom));
-            if (grip.object) {
+            if (grip.object)
                 return grip;
-            }
         }
     }
     return {};
@@ -80,11 +77,9 @@ Grip exactGrip(CBaseObject *object, const QPointF &scenePos)
 
 CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPointF &scenePos)
 {
-    for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
-        if ((*object)->getClientRect().contains((*object)->mapFromScene(scenePos))) {
+    for (auto object = selected.rbegin(); object != selected.rend(); ++object)
+        if ((*object)->getClientRect().contains((*object)->mapFromScene(scenePos)))
             return *object;
-        }
-    }
     return nullptr;
 }
 
@@ -105,22 +100,19 @@ Grip findGrip(const Page &page, const QPointF &scenePos)
     const QVector<CBaseObject *> selected = page.selectedObjects();
     for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
         const Grip grip = exactGrip(*object, scenePos);
-        if (grip.object) {
+        if (grip.object)
             return grip;
-        }
     }
     if (selected.size() <= mostProbedObjects) {
         for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
             const Grip grip = nearbyControlPoint(*object, scenePos);
-            if (grip.object) {
+            if (grip.object)
                 return grip;
-            }
         }
     }
     CBaseObject *object = page.objectAt(scenePos);
-    if (!object) {
+    if (!object)
         object = selectedAround(selected, scenePos);
-    }
     return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}} : Grip();
 }
 
@@ -136,12 +128,10 @@ QCursor cursorFor(const Grip &grip, bool pressed)
     case Grip::Handle:
         break;
     }
-    if (HandleLayout::isResize(grip.action)) {
+    if (HandleLayout::isResize(grip.action))
         return resizeCursor(grip);
-    }
-    if (grip.action == CObjAction::ACT_Rotate) {
+    if (grip.action == CObjAction::ACT_Rotate)
         return pressed ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
-    }
     return Qt::PointingHandCursor;
 }
 

@@ -50,9 +50,8 @@ double paintHighlight(CBaseObject &object, QPainter &painter)
 
 QRectF highlightBounds(const CBaseObject *object, double pixel)
 {
-    if (!object) {
+    if (!object)
         return {};
-    }
     const double reach = (haloPixels / 2 + 1) * pixel;
     return object->mapRectToScene(frameOf(*object, pixel).adjusted(-reach, -reach, reach, reach));
 }

@@ -45,9 +45,8 @@ public:
             m_painter.drawRect(square(center, HandleLayout::handlePixels));
             return;
         }
-        if (handle == CObjAction::ACT_Rotate) {
+        if (handle == CObjAction::ACT_Rotate)
             m_painter.drawLine(QPointF(center.x(), m_layout.frame().top()), center);
-        }
         m_painter.drawEllipse(square(center, buttonPixels));
         drawGlyph(handle, center, hovered ? QColor(Qt::white) : m_accent);
     }
@@ -65,11 +64,10 @@ private:
         m_painter.translate(center);
         const double unit = m_layout.fromPixels(1);
         m_painter.scale(unit, unit);
-        if (handle == CObjAction::ACT_Rotate) {
+        if (handle == CObjAction::ACT_Rotate)
             drawTurnGlyph(color);
-        } else {
+        else
             drawMirrorGlyph(handle == CObjAction::ACT_MirrorVertical, color);
-        }
         m_painter.restore();
     }
 
@@ -113,9 +111,8 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
     aids.drawFrame();
     if (withHandles) {
         const QVector<CObjAction::ACT_Def> handles = offeredHandles(object);
-        for (const CObjAction::ACT_Def handle : handles) {
+        for (const CObjAction::ACT_Def handle : handles)
             aids.drawHandle(handle, hovered.object == &object && hovered.action == handle);
-        }
     }
     painter.restore();
 }
@@ -125,16 +122,14 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
 void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool framesOnly)
 {
     const QVector<CBaseObject *> selected = page.selectedObjects();
-    if (selected.isEmpty()) {
+    if (selected.isEmpty())
         return;
-    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor accent = page.scene()->palette().color(QPalette::Highlight);
     const bool single = selected.size() == 1;
-    for (CBaseObject *object : selected) {
+    for (CBaseObject *object : selected)
         paintObjectOverlay(*object, painter, accent, hovered, single && !framesOnly && !object->isLocked());
-    }
     painter.restore();
 }
 
@@ -142,9 +137,8 @@ QRectF overlayBounds(const Page &page)
 {
     QRectF bounds;
     const QVector<CBaseObject *> selected = page.selectedObjects();
-    for (const CBaseObject *object : selected) {
+    for (const CBaseObject *object : selected)
         bounds |= object->mapRectToScene(layoutOf(*object).bounds());
-    }
     return bounds;
 }
 

@@ -55,17 +55,15 @@ Page::~Page()
     // Objects that go must not tell a page that is half gone.
     m_scene->disconnect(this);
     const QVector<CBaseObject *> owned = m_objects + m_outside;
-    for (CBaseObject *object : owned) {
+    for (CBaseObject *object : owned)
         object->SetPage(nullptr);
-    }
     qDeleteAll(owned);
 }
 
 void Page::setSize(const QSizeF &size)
 {
-    if (!isPageSize(size) || size == m_size) {
+    if (!isPageSize(size) || size == m_size)
         return;
-    }
     m_size = size;
     m_scene->setSceneRect(rect());
     noteChange();
@@ -74,9 +72,8 @@ void Page::setSize(const QSizeF &size)
 
 void Page::setBackground(const CPageBgProp &background)
 {
-    if (background == m_background) {
+    if (background == m_background)
         return;
-    }
     m_background = background;
     m_scene->update();
     noteChange();
@@ -94,9 +91,8 @@ QVector<CBaseObject *> Page::selectedObjects() const
     const QList<QGraphicsItem *> items = m_scene->selectedItems();
     for (QGraphicsItem *item : items) {
         auto *object = dynamic_cast<CBaseObject *>(item);
-        if (object && object->GetPage() == this) {
+        if (object && object->GetPage() == this)
             objects.append(object);
-        }
     }
     std::sort(objects.begin(), objects.end(),
               [](const CBaseObject *one, const CBaseObject *other) { return one->zValue() < other->zValue(); });
@@ -110,19 +106,15 @@ void Page::select(const QVector<CBaseObject *> &objects)
     {
         // The scene would tell of each object, and whoever listens would look at all of them each time.
         const QSignalBlocker quiet(m_scene.get());
-        for (QGraphicsItem *item : before) {
+        for (QGraphicsItem *item : before)
             item->setSelected(wanted.contains(item));
-        }
-        for (CBaseObject *object : objects) {
-            if (object->scene() == m_scene.get()) {
+        for (CBaseObject *object : objects)
+            if (object->scene() == m_scene.get())
                 object->setSelected(true);
-            }
-        }
     }
     const QList<QGraphicsItem *> after = m_scene->selectedItems();
-    if (toSet(after) != toSet(before)) {
+    if (toSet(after) != toSet(before))
         Q_EMIT m_scene->selectionChanged();
-    }
 }
 
 CBaseObject *Page::objectAt(const QPointF &scenePos) const
@@ -130,27 +122,24 @@ CBaseObject *Page::objectAt(const QPointF &scenePos) const
     const QList<QGraphicsItem *> items = m_scene->items(scenePos);
     for (QGraphicsItem *item : items) {
         auto *object = dynamic_cast<CBaseObject *>(item);
-        if (object && object->GetPage() == this) {
+        if (object && object->GetPage() == this)
             return object;
-        }
     }
     return nullptr;
 }
 
 void Page::addObject(CBaseObject *object, int index)
 {
-    if (!object || contains(object)) {
+    if (!object || contains(object))
         return;
-    }
     m_outside.removeOne(object);
     const int place = index < 0 ? m_objects.size() : qMin(index, m_objects.size());
     m_objects.insert(place, object);
     m_members.insert(object);
     object->SetPage(this);
     giveStackingNumber(place);
-    if (object->scene() != m_scene.get()) {
+    if (object->scene() != m_scene.get())
         m_scene->addItem(object);
-    }
     noteChange();
     Q_EMIT objectAdded(object);
 }
@@ -160,16 +149,14 @@ void Page::appendObjects(const QVector<CBaseObject *> &objects)
     double top = m_objects.isEmpty() ? -std::numeric_limits<double>::infinity() : m_objects.last()->zValue();
     m_objects.reserve(m_objects.size() + objects.size());
     for (CBaseObject *object : objects) {
-        if (!object || contains(object)) {
+        if (!object || contains(object))
             continue;
-        }
         m_outside.removeOne(object);
         m_objects.append(object);
         m_members.insert(object);
         object->SetPage(this);
-        if (!(object->zValue() > top)) {
+        if (!(object->zValue() > top))
             giveStackingNumber(m_objects.size() - 1);
-        }
         top = object->zValue();
         m_scene->addItem(object);
         noteChange();
@@ -180,9 +167,8 @@ void Page::appendObjects(const QVector<CBaseObject *> &objects)
 int Page::removeObject(CBaseObject *object)
 {
     const int index = indexOf(object);
-    if (index < 0) {
+    if (index < 0)
         return -1;
-    }
     object->setSelected(false);
     m_objects.removeAt(index);
     m_members.remove(object);
@@ -199,9 +185,8 @@ void Page::moveObject(CBaseObject *object, int index)
 {
     const int from = indexOf(object);
     const int to = qBound(0, index, m_objects.size() - 1);
-    if (from < 0 || from == to) {
+    if (from < 0 || from == to)
         return;
-    }
     m_objects.move(from, to);
     giveStackingNumber(to);
     noteChange();
@@ -210,12 +195,10 @@ void Page::moveObject(CBaseObject *object, int index)
 
 bool Page::setStackingOrder(const QVector<CBaseObject *> &objects)
 {
-    if (sorted(objects) != sorted(m_objects)) {
+    if (sorted(objects) != sorted(m_objects))
         return false;
-    }
-    if (objects == m_objects) {
+    if (objects == m_objects)
         return true;
-    }
     m_objects = objects;
     renumber();
     noteChange();
@@ -225,9 +208,8 @@ bool Page::setStackingOrder(const QVector<CBaseObject *> &objects)
 
 void Page::renumber()
 {
-    for (int index = 0; index < m_objects.size(); ++index) {
+    for (int index = 0; index < m_objects.size(); ++index)
         m_objects[index]->setZValue(index);
-    }
 }
 
 /// Only the order of the numbers counts, so that an object takes its place without touching the others.
@@ -254,9 +236,8 @@ void Page::retain(CBaseObject *object)
 void Page::release(CBaseObject *object)
 {
     const auto count = m_retained.find(object);
-    if (count == m_retained.end() || --*count > 0) {
+    if (count == m_retained.end() || --*count > 0)
         return;
-    }
     m_retained.erase(count);
     dropIfUnused(object);
 }
@@ -272,9 +253,8 @@ void Page::dropIfUnused(CBaseObject *object)
 void Page::noteChange()
 {
     ++m_revision;
-    if (!m_changeTimer.isActive()) {
+    if (!m_changeTimer.isActive())
         m_changeTimer.start(0);
-    }
 }
 
 } // namespace pagehost

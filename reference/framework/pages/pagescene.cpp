@@ -50,9 +50,8 @@ bool PageScene::isEditable() const
 
 QCursor PageScene::cursorAt(const QPointF &scenePos) const
 {
-    if (m_tool) {
+    if (m_tool)
         return Qt::CrossCursor;
-    }
     return cursorFor(isDragging() ? m_drag : gripAt(scenePos), isDragging());
 }
 
@@ -124,9 +123,8 @@ void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
     } else if (!event->buttons()) {
         setHover(m_tool ? Grip() : gripAt(event->scenePos()));
     }
-    if (QWidget *viewport = event->widget()) {
+    if (QWidget *viewport = event->widget())
         viewport->setCursor(cursorAt(event->scenePos()));
-    }
 }
 
 void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
@@ -171,16 +169,14 @@ void PageScene::keyPressEvent(QKeyEvent *event)
         return;
     }
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    if (selected.size() == 1) {
+    if (selected.size() == 1)
         selected.first()->keyPressEvent(event);
-    }
 }
 
 bool PageScene::cancelDrag()
 {
-    if (!isDragging()) {
+    if (!isDragging())
         return false;
-    }
     if (GripDrag *drag = GripDrag::running(*m_drag.object)) {
         drag->cancel();
         GripDrag::forget(*m_drag.object);
@@ -203,12 +199,10 @@ void PageScene::forget(CBaseObject *object)
         GripDrag::forget(*object);
         m_drag = {};
     }
-    if (m_hover.object == object) {
+    if (m_hover.object == object)
         m_hover = {};
-    }
-    if (m_highlight == object) {
+    if (m_highlight == object)
         m_highlight = nullptr;
-    }
     updateOverlay();
 }
 
@@ -216,25 +210,22 @@ void PageScene::setHover(const Grip &grip)
 {
     const bool same = grip.object == m_hover.object && grip.kind == m_hover.kind && grip.action == m_hover.action;
     m_hover = grip;
-    if (!same) {
+    if (!same)
         updateOverlay();
-    }
 }
 
 void PageScene::setHighlight(CBaseObject *object)
 {
-    if (object == m_highlight || (object && !m_page->contains(object))) {
+    if (object == m_highlight || (object && !m_page->contains(object)))
         return;
-    }
     m_highlight = object;
     updateOverlay();
 }
 
 void PageScene::updateOverlay()
 {
-    if (!m_overlayTimer.isActive()) {
+    if (!m_overlayTimer.isActive())
         m_overlayTimer.start(0);
-    }
 }
 
 void PageScene::repaintOverlay()
@@ -248,18 +239,16 @@ void PageScene::repaintOverlay()
 void PageScene::stateChanged()
 {
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    for (CBaseObject *object : selected) {
+    for (CBaseObject *object : selected)
         object->CPSRootObject::update();
-    }
     updateOverlay();
 }
 
 void PageScene::zoomChanged()
 {
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    for (CBaseObject *object : selected) {
+    for (CBaseObject *object : selected)
         refreshBounds(*object);
-    }
     updateOverlay();
 }
 
@@ -270,13 +259,11 @@ void PageScene::drawBackground(QPainter *painter, const QRectF &)
 
 void PageScene::drawForeground(QPainter *painter, const QRectF &)
 {
-    if (m_highlight) {
+    if (m_highlight)
         m_pixel = paintHighlight(*m_highlight, *painter);
-    }
     const Document *document = m_page->document();
-    if (document && document->documentState() != 0) {
+    if (document && document->documentState() != 0)
         return;
-    }
     const bool isMoving = isDragging() && m_drag.kind == Grip::Body;
     paintOverlay(*m_page, *painter, m_hover, isMoving || !isEditable());
 }

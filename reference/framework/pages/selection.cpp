@@ -19,11 +19,9 @@ bool deleteSelection(Page *page)
 {
     QVector<CBaseObject *> objects;
     const QVector<CBaseObject *> selected = page->selectedObjects();
-    for (CBaseObject *object : selected) {
-        if (!object->isLocked() && object->canDo(OperationDelete)) {
+    for (CBaseObject *object : selected)
+        if (!object->isLocked() && object->canDo(OperationDelete))
             objects.append(object);
-        }
-    }
     return removeObjects(page, objects);
 }
 
@@ -33,9 +31,8 @@ QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *regi
     const QVector<CBaseObject *> selected = page->selectedObjects();
     for (CBaseObject *object : selected) {
         CBaseObject *copy = cloneObject(object, registry);
-        if (!copy) {
+        if (!copy)
             continue;
-        }
         copy->CPSRootObject::setPos(object->getPos() + offset, false);
         copies.append(copy);
     }
@@ -47,20 +44,17 @@ void selectAll(Page *page)
 {
     QVector<CBaseObject *> visible;
     const QVector<CBaseObject *> objects = page->objects();
-    for (CBaseObject *object : objects) {
-        if (object->isVisible()) {
+    for (CBaseObject *object : objects)
+        if (object->isVisible())
             visible.append(object);
-        }
-    }
     page->select(visible);
 }
 
 QRectF boundsOf(const QVector<CBaseObject *> &objects)
 {
     QRectF bounds;
-    for (const CBaseObject *object : objects) {
+    for (const CBaseObject *object : objects)
         bounds |= object->mapRectToScene(object->getClientRect());
-    }
     return bounds;
 }
 

@@ -21,11 +21,9 @@ std::optional<AttributeHead> headOf(CBaseObject *object, int id)
 /// The name of the property at the first object that has it.
 QString nameOf(const QVector<CBaseObject *> &objects, int id)
 {
-    for (CBaseObject *object : objects) {
-        if (const auto head = headOf(object, id)) {
+    for (CBaseObject *object : objects)
+        if (const auto head = headOf(object, id))
             return head->nameKey;
-        }
-    }
     return QStringLiteral("IDS_ITEM_SET_ATTRIBUTE");
 }
 
@@ -33,9 +31,8 @@ template<typename Value> bool setAttributes(const QVector<CBaseObject *> &object
 {
     bool taken = false;
     GetFramework()->beginUndoGroup(nameOf(objects, id));
-    for (CBaseObject *object : objects) {
+    for (CBaseObject *object : objects)
         taken |= giveAttribute(object, id, payloadOf(value), true);
-    }
     GetFramework()->endUndoGroup();
     return taken;
 }

@@ -50,9 +50,8 @@ void paintPageBackground(const Page *page, QPainter *painter, const QRectF &targ
 
 void paintPage(Page *page, QPainter *painter, const QRectF &target)
 {
-    if (target.isEmpty()) {
+    if (target.isEmpty())
         return;
-    }
     const QRectF area = fitted(page->size(), target);
     painter->save();
     painter->setClipRect(area, Qt::IntersectClip);
@@ -61,11 +60,9 @@ void paintPage(Page *page, QPainter *painter, const QRectF &target)
     painter->translate(area.topLeft());
     painter->scale(area.width() / page->size().width(), area.height() / page->size().height());
     const QVector<CBaseObject *> objects = page->objects();
-    for (CBaseObject *object : objects) {
-        if (object->isVisible()) {
+    for (CBaseObject *object : objects)
+        if (object->isVisible())
             paintObject(object, painter);
-        }
-    }
     painter->restore();
 }
 
@@ -74,13 +71,11 @@ QImage pageImage(Page *page, double scale)
     const double width = std::ceil(page->size().width() * scale);
     const double height = std::ceil(page->size().height() * scale);
     if (!std::isfinite(scale) || width < 1 || height < 1 || width * height > mostPixels || width > 32767 ||
-        height > 32767) {
+        height > 32767)
         return {};
-    }
     QImage image(int(width), int(height), QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull()) {
+    if (image.isNull())
         return {};
-    }
     image.fill(Qt::transparent);
     QPainter painter(&image);
     paintPage(page, &painter, image.rect());

@@ -42,9 +42,8 @@ void ThumbnailJob::setSize(const QSize &size)
 
 void ThumbnailJob::prepare()
 {
-    if (!m_begun || m_revision != m_page->revision()) {
+    if (!m_begun || m_revision != m_page->revision())
         begin();
-    }
 }
 
 void ThumbnailJob::begin()
@@ -65,11 +64,9 @@ void ThumbnailJob::begin()
     const QTransform toPixels = QTransform::fromScale(m_canvas.width() / m_page->size().width(),
                                                       m_canvas.height() / m_page->size().height());
     const QVector<CBaseObject *> objects = m_page->objects();
-    for (CBaseObject *object : objects) {
-        if (object->isVisible()) {
+    for (CBaseObject *object : objects)
+        if (object->isVisible())
             m_steps.append({object, object->sceneTransform() * toPixels, object->effectiveOpacity()});
-        }
-    }
 }
 
 QImage ThumbnailJob::picture() const
@@ -79,9 +76,8 @@ QImage ThumbnailJob::picture() const
 
 void ThumbnailJob::run(const QDeadlineTimer &deadline)
 {
-    if (isFinished()) {
+    if (isFinished())
         return;
-    }
     QPainter painter(&m_canvas);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     do {

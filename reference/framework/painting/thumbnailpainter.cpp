@@ -47,9 +47,8 @@ ThumbnailPainter::~ThumbnailPainter() = default;
 
 void ThumbnailPainter::request(Page *page, const QSize &size)
 {
-    if (!page || size.isEmpty()) {
+    if (!page || size.isEmpty())
         return;
-    }
     const auto waiting =
         std::find_if(m_jobs.begin(), m_jobs.end(), [&](const auto &job) { return job->page() == page; });
     if (waiting != m_jobs.end()) {
@@ -62,9 +61,8 @@ void ThumbnailPainter::request(Page *page, const QSize &size)
 
 void ThumbnailPainter::finish()
 {
-    while (!isIdle()) {
+    while (!isIdle())
         paintWindow(windowMilliseconds);
-    }
 }
 
 void ThumbnailPainter::setWorkerCount(int count)
@@ -77,17 +75,14 @@ void ThumbnailPainter::paintWindow(int milliseconds)
     dropOrphans();
     const QDeadlineTimer deadline(milliseconds);
     const std::size_t active = qMin(m_jobs.size(), std::size_t(m_workers.maxThreadCount()));
-    for (std::size_t i = 0; i < active; ++i) {
+    for (std::size_t i = 0; i < active; ++i)
         m_jobs[i]->prepare();
-    }
-    for (std::size_t i = 0; i < active; ++i) {
+    for (std::size_t i = 0; i < active; ++i)
         m_workers.start(new JobRun(*m_jobs[i], deadline));
-    }
     m_workers.waitForDone();
     deliverFinished();
-    if (isIdle()) {
+    if (isIdle())
         m_timer.stop();
-    }
 }
 
 void ThumbnailPainter::dropOrphans()
@@ -104,11 +99,9 @@ void ThumbnailPainter::deliverFinished()
         std::stable_partition(m_jobs.begin(), m_jobs.end(), [](const auto &job) { return !job->isFinished(); });
     std::move(firstFinished, m_jobs.end(), std::back_inserter(finished));
     m_jobs.erase(firstFinished, m_jobs.end());
-    for (const auto &job : finished) {
-        if (job->page()) {
+    for (const auto &job : finished)
+        if (job->page())
             Q_EMIT ready(job->page(), job->picture());
-        }
-    }
 }
 
 } // namespace pagehost

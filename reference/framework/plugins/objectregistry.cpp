@@ -59,9 +59,8 @@ QString interfaceProblem(const QString &iid)
 {
     const QString wanted = QStringLiteral(PAGEHOST_OBJECTPLUGIN_INTERFACE);
     const QString name = iid.section(QLatin1Char(' '), 0, 0);
-    if (name != wanted) {
+    if (name != wanted)
         return QStringLiteral("it implements \"%1\", not \"%2\"").arg(iid, wanted);
-    }
     return versionProblem(iid.section(QLatin1Char(' '), 1), QStringLiteral(PAGEHOST_VERSION));
 }
 
@@ -84,11 +83,9 @@ QVector<PluginReport> ObjectRegistry::loadDirectory(const QString &path)
     }
     QVector<PluginReport> reports;
     const QFileInfoList files = directory.entryInfoList(QDir::Files, QDir::Name);
-    for (const QFileInfo &file : files) {
-        if (QLibrary::isLibrary(file.fileName()) && !hasLoaded(file.absoluteFilePath())) {
+    for (const QFileInfo &file : files)
+        if (QLibrary::isLibrary(file.fileName()) && !hasLoaded(file.absoluteFilePath()))
             reports.append(loadFile(file.absoluteFilePath()));
-        }
-    }
     return reports;
 }
 
@@ -114,17 +111,16 @@ PluginReport ObjectRegistry::load(const QString &file, PluginReport report)
     const QString problem = iid.isEmpty() ? QString() : interfaceProblem(iid);
     QObject *root = nullptr;
     QString thrown;
-    if (!problem.isEmpty()) {
+    if (!problem.isEmpty())
         report = failure(report, problem);
-    } else if (!loader.load()) {
+    else if (!loader.load())
         report = failure(report, loader.errorString());
-    } else if (!guarded(QStringLiteral("its constructor"), thrown, [&] { root = loader.instance(); })) {
+    else if (!guarded(QStringLiteral("its constructor"), thrown, [&] { root = loader.instance(); }))
         report = failure(report, thrown);
-    } else if (auto *plugin = qobject_cast<ObjectPlugin *>(root)) {
+    else if (auto *plugin = qobject_cast<ObjectPlugin *>(root))
         return add(plugin, report);
-    } else {
+    else
         report = failure(report, QStringLiteral("its root object is no plug-in for page objects"));
-    }
     m_reports.append(report);
     return report;
 }
@@ -133,9 +129,8 @@ PluginReport ObjectRegistry::addPlugin(ObjectPlugin *plugin, const QString &name
 {
     PluginReport report;
     report.file = name;
-    if (plugin) {
+    if (plugin)
         return add(plugin, report);
-    }
     report = failure(report, QStringLiteral("there is no plug-in"));
     m_reports.append(report);
     return report;
@@ -149,9 +144,8 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
     TextTable english;
     QVector<ObjectKind> offered;
     if (!run(source, QStringLiteral("texts(\"en\")"), [&] { english = plugin->texts(QStringLiteral("en")); }) ||
-        !run(source, QStringLiteral("objectKinds()"), [&] { offered = plugin->objectKinds(); })) {
+        !run(source, QStringLiteral("objectKinds()"), [&] { offered = plugin->objectKinds(); }))
         return m_reports.at(source.report);
-    }
     if (english.isEmpty()) {
         addProblem(source, QStringLiteral("it has no English texts"));
         return m_reports.at(source.report);
@@ -189,26 +183,22 @@ bool ObjectRegistry::run(const QString &kindId, const QString &operation, const 
 bool ObjectRegistry::run(const Source &source, const QString &operation, const std::function<void()> &work) const
 {
     QString problem;
-    if (guarded(operation, problem, work)) {
+    if (guarded(operation, problem, work))
         return true;
-    }
     addProblem(source, problem);
     return false;
 }
 
 void ObjectRegistry::addProblem(const Source &source, const QString &problem) const
 {
-    if (!source.plugin) {
+    if (!source.plugin)
         return;
-    }
     PluginReport &report = m_reports[source.report];
-    if (report.problem.contains(problem) || report.problem.size() > longestProblem) {
+    if (report.problem.contains(problem) || report.problem.size() > longestProblem)
         return;
-    }
     pagehost::addProblem(report, problem);
-    if (report.loaded && m_listener) {
+    if (report.loaded && m_listener)
         m_listener(report);
-    }
 }
 
 ObjectRegistry::Source ObjectRegistry::sourceOf(const QString &kindId) const
@@ -218,23 +208,19 @@ ObjectRegistry::Source ObjectRegistry::sourceOf(const QString &kindId) const
 
 QString ObjectRegistry::kindProblem(const ObjectKind &kind, const TextTable &english) const
 {
-    if (!isKindId(kind.id)) {
+    if (!isKindId(kind.id))
         return QStringLiteral("\"%1\" is no kind id (letters, digits and dots)").arg(kind.id);
-    }
-    if (hasKind(kind.id)) {
+    if (hasKind(kind.id))
         return QStringLiteral("the kind \"%1\" exists already").arg(kind.id);
-    }
-    if (!english.contains(kind.nameKey)) {
+    if (!english.contains(kind.nameKey))
         return QStringLiteral("the kind \"%1\" has no English name (\"%2\")").arg(kind.id, kind.nameKey);
-    }
     return {};
 }
 
 void ObjectRegistry::mergeTexts(const Source &source)
 {
-    if (!m_localizer) {
+    if (!m_localizer)
         return;
-    }
     const QStringList languages = m_localizer->languages();
     for (const QString &language : languages) {
         TextTable texts;
@@ -245,20 +231,17 @@ void ObjectRegistry::mergeTexts(const Source &source)
 
 ObjectKind ObjectRegistry::kind(const QString &kindId) const
 {
-    for (const ObjectKind &kind : m_kinds) {
-        if (kind.id == kindId) {
+    for (const ObjectKind &kind : m_kinds)
+        if (kind.id == kindId)
             return kind;
-        }
-    }
     return {};
 }
 
 CBaseObject *ObjectRegistry::createObject(const QString &kindId) const
 {
     const Source source = sourceOf(kindId);
-    if (!source.plugin) {
+    if (!source.plugin)
         return nullptr;
-    }
     const QString operation = quoted("createObject", kindId);
     CBaseObject *object = nullptr;
     run(source, operation, [&] { object = source.plugin->createObject(kindId); });
@@ -269,9 +252,8 @@ CBaseObject *ObjectRegistry::createObject(const QString &kindId) const
 CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operation, CBaseObject *object,
                                    const QString &kindId) const
 {
-    if (!object) {
+    if (!object)
         return nullptr;
-    }
     if (object->scene() || object->data(givenData).toBool()) {
         addProblem(source, QStringLiteral("%1 gave an object that is in use").arg(operation));
         return nullptr;
@@ -284,9 +266,8 @@ CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operatio
 QStringList ObjectRegistry::dataTypes() const
 {
     QStringList types;
-    for (const Source &source : m_sources) {
+    for (const Source &source : m_sources)
         run(source, QStringLiteral("dataTypes()"), [&] { types += source.plugin->dataTypes(); });
-    }
     types.removeDuplicates();
     return types;
 }
@@ -298,14 +279,12 @@ CBaseObject *ObjectRegistry::createFromData(const QString &mimeType, const QByte
         QString kindId;
         CBaseObject *made = nullptr;
         run(source, operation, [&] {
-            if (source.plugin->dataTypes().contains(mimeType)) {
+            if (source.plugin->dataTypes().contains(mimeType))
                 made = source.plugin->createFromData(mimeType, data, kindId);
-            }
         });
         std::unique_ptr<CBaseObject> object(taken(source, operation, made, kindId));
-        if (object && sourceOf(kindId).plugin == source.plugin) {
+        if (object && sourceOf(kindId).plugin == source.plugin)
             return object.release();
-        }
     }
     return nullptr;
 }
@@ -314,9 +293,8 @@ QByteArray ObjectRegistry::dataOf(CBaseObject *object, const QString &mimeType) 
 {
     const Source source = sourceOf(kindIdOf(object));
     QByteArray data;
-    if (source.plugin) {
+    if (source.plugin)
         run(source, quoted("dataOf", mimeType), [&] { data = source.plugin->dataOf(object, mimeType); });
-    }
     return data;
 }
 
@@ -324,9 +302,8 @@ QString versionProblem(const QString &builtAgainst, const QString &present)
 {
     const QVersionNumber theirs = QVersionNumber::fromString(builtAgainst);
     const QVersionNumber ours = QVersionNumber::fromString(present);
-    if (builtAgainst.isEmpty() || (theirs.majorVersion() == ours.majorVersion() && theirs <= ours)) {
+    if (builtAgainst.isEmpty() || (theirs.majorVersion() == ours.majorVersion() && theirs <= ours))
         return {};
-    }
     return QStringLiteral("it was built against version %1 of the library, this is version %2")
         .arg(builtAgainst, present);
 }

@@ -35,19 +35,17 @@ const UnitLetter unitLetters[] = {
 
 const UnitLetter &unitLetter(QChar letter)
 {
-    for (const UnitLetter &known : unitLetters) {
+    for (const UnitLetter &known : unitLetters)
         if (known.letter == letter)
             return known;
-    }
     return unitLetters[0];
 }
 
 QChar letterOf(Unit unit)
 {
-    for (const UnitLetter &known : unitLetters) {
+    for (const UnitLetter &known : unitLetters)
         if (known.unit == unit)
             return known.letter;
-    }
     return unitLetters[0].letter;
 }
 
@@ -175,10 +173,9 @@ ValueContext transformContext(const QString &type)
     ValueContext context;
     context.grammar = ValueContext::TransformFunction;
     context.function = translateName;
-    for (const QLatin1String name : names) {
+    for (const QLatin1String name : names)
         if (type == name)
             context.function = name;
-    }
     return context;
 }
 

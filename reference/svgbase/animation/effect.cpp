@@ -25,15 +25,13 @@ QStringList listedValues(const QString &text)
 
 bool Effect::makeAllAlike()
 {
-    for (int i = 1; i < m_values.size(); ++i) {
+    for (int i = 1; i < m_values.size(); ++i)
         if (!makeAlike(&m_values[0], &m_values[i], m_context))
             return false;
-    }
     // The first may have changed its form on the way.
-    for (int i = 1; i < m_values.size(); ++i) {
+    for (int i = 1; i < m_values.size(); ++i)
         if (!makeAlike(&m_values[0], &m_values[i], m_context))
             return false;
-    }
     return m_values.constFirst().kind != AnimatedValue::Text;
 }
 

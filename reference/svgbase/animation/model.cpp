@@ -68,10 +68,9 @@ NodeIndex ModelReader::targetOf(NodeIndex index) const
 {
     const Node &node = m_tree.node(index);
     NodeIndex target = node.parent;
-    for (const AttributeId id : {AttributeId::XlinkHref, AttributeId::Href}) {
+    for (const AttributeId id : {AttributeId::XlinkHref, AttributeId::Href})
         if (node.attributes.contains(id))
             target = m_tree.findId(localReference(node.attributes.value(id)));
-    }
     if (target == noNode || isAnimation(m_tree.node(target).kind))
         return noNode;
     return target;
@@ -210,10 +209,9 @@ void ModelReader::readElement(NodeIndex index)
 
 AnimationModel ModelReader::read()
 {
-    for (NodeIndex at = rootNode; at != noNode; at = m_tree.following(at, rootNode)) {
+    for (NodeIndex at = rootNode; at != noNode; at = m_tree.following(at, rootNode))
         if (isAnimation(m_tree.node(at).kind))
             readElement(at);
-    }
     m_model.attributes.reserve(m_attributes.size());
     for (const AnimatedAttribute &attribute : qAsConst(m_attributes))
         m_model.attributes.append(attribute);
@@ -229,10 +227,9 @@ bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree
     attribute->context.currentColor = current;
     if (attribute->baseFollowsColor)
         attribute->base = currentColor;
-    for (Animation &animation : attribute->animations) {
+    for (Animation &animation : attribute->animations)
         if (const std::optional<Effect> effect = readEffect(tree.node(animation.node), attribute->context))
             animation.effect = effect;
-    }
     return true;
 }
 

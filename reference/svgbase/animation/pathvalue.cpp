@@ -65,10 +65,9 @@ private:
 
 bool PathValueReader::readNumbers(int count, double *numbers)
 {
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         if (!readNextNumber(m_cursor, &numbers[i]))
             return false;
-    }
     return true;
 }
 

@@ -14,10 +14,9 @@ using States = std::vector<Timeline::State>;
 QVector<int> layers(const States &states)
 {
     QVector<int> order;
-    for (int i = 0; i < int(states.size()); ++i) {
+    for (int i = 0; i < int(states.size()); ++i)
         if (states[size_t(i)].applies)
             order.append(i);
-    }
     std::stable_sort(order.begin(), order.end(),
                      [&](int a, int b) { return states[size_t(a)].begin < states[size_t(b)].begin; });
     return order;

@@ -74,10 +74,9 @@ void Timeline::reset()
     m_news.clear();
     const auto offsets = [](const QVector<TimingCondition> &conditions) {
         std::vector<ClockTime> moments;
-        for (const TimingCondition &condition : conditions) {
+        for (const TimingCondition &condition : conditions)
             if (condition.kind == TimingCondition::Offset)
                 moments.push_back(condition.offset);
-        }
         std::sort(moments.begin(), moments.end());
         moments.erase(std::unique(moments.begin(), moments.end()), moments.end());
         return moments;
@@ -109,10 +108,9 @@ void Timeline::schedule(int index, ClockTime time)
 // Moments before the event itself must be told as soon as the event is foreseen, all others when it happens.
 void Timeline::announce(int index, bool end, ClockTime time, bool foretold)
 {
-    for (const Dependent &dependent : m_players[size_t(index)].dependents) {
+    for (const Dependent &dependent : m_players[size_t(index)].dependents)
         if (dependent.onEnd == end && (dependent.offset < 0) == foretold)
             m_news.push_back({dependent.player, added(time, dependent.offset), dependent.beginsThen});
-    }
 }
 
 void Timeline::spreadNews()

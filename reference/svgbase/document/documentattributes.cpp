@@ -213,10 +213,9 @@ void Document::dropOverriddenStyle(NodeIndex index, AttributeId attribute, const
         return;
     if (attribute == AttributeId::Style) {
         const QVector<StyleDeclaration> declarations = parseStyleAttribute(value);
-        for (const StyleDeclaration &declaration : declarations) {
+        for (const StyleDeclaration &declaration : declarations)
             if (override)
                 override = withoutProperty(override, attributeId(declaration.name));
-        }
     } else {
         override = withoutProperty(override, attribute);
     }

@@ -84,10 +84,9 @@ void DocumentPrivate::nodeDeleted(QZeSvgNodePrivate *node)
 
 void DocumentPrivate::storeFlags(NodeIndex top)
 {
-    for (auto it = m_nodes.constBegin(); it != m_nodes.constEnd(); ++it) {
+    for (auto it = m_nodes.constBegin(); it != m_nodes.constEnd(); ++it)
         if (content.tree().isWithin(it.key(), top))
             content.setStylingFlags(it.key(), it.value()->isFillEnabled(), it.value()->isStrokeEnabled());
-    }
 }
 
 bool DocumentPrivate::takesFill(NodeIndex index) const
@@ -159,10 +158,9 @@ NodeIndex DocumentPrivate::firstFilled()
 bool DocumentPrivate::hasAnimations() const
 {
     const Tree &tree = content.tree();
-    for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode)) {
+    for (NodeIndex at = rootNode; at != noNode; at = tree.following(at, rootNode))
         if (isAnimation(tree.node(at).kind))
             return true;
-    }
     return false;
 }
 

@@ -207,10 +207,9 @@ QString PaintDefinitions::freshId()
 
 QString PaintDefinitions::referenceTo(const QBrush &brush)
 {
-    for (const Definition &known : qAsConst(m_definitions)) {
+    for (const Definition &known : qAsConst(m_definitions))
         if (known.brush == brush)
             return known.id;
-    }
     m_definitions.append({freshId(), brush});
     return m_definitions.constLast().id;
 }

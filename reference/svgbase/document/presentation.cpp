@@ -63,10 +63,9 @@ void Presentation::writeStyle(NodeIndex target, const Document &base)
     };
     auto at = std::lower_bound(m_model.attributes.cbegin(), m_model.attributes.cend(), target, isBefore);
     QString declarations;
-    for (; at != m_model.attributes.cend() && at->target == target; ++at) {
+    for (; at != m_model.attributes.cend() && at->target == target; ++at)
         if (at->isProperty && at->shown)
             declarations += at->name + QLatin1Char(':') + *at->shown + QLatin1Char(';');
-    }
     m_document.setAnimatedStyle(target, declarations, base.stylePointer(target));
 }
 
@@ -96,10 +95,9 @@ bool Presentation::show(Document &base, ClockTime time)
         takeOver(base);
     m_model.timeline.goTo(time);
     for (const bool first : {true, false}) {
-        for (AnimatedAttribute &attribute : m_model.attributes) {
+        for (AnimatedAttribute &attribute : m_model.attributes)
             if ((attribute.id == AttributeId::Color) == first)
                 showAttribute(&attribute, base);
-        }
     }
     return m_document.revision() != before;
 }

@@ -18,10 +18,9 @@ QList<QZeSvgNode *> QZeSvgStructureNode::children() const
     if (!record->document)
         return list;
     const Tree &tree = record->document->content.tree();
-    for (NodeIndex child = tree.node(record->index).firstChild; child != noNode; child = tree.node(child).next) {
+    for (NodeIndex child = tree.node(record->index).firstChild; child != noNode; child = tree.node(child).next)
         if (Svg::isDrawable(tree.node(child).kind))
             list.append(record->document->nodeObject(child));
-    }
     return list;
 }
 

@@ -77,10 +77,9 @@ bool Writer::isDeclared(const QString &name) const
 
 void Writer::declarePrefixes(const Attributes &attributes)
 {
-    for (const Attribute &attribute : attributes) {
+    for (const Attribute &attribute : attributes)
         if (attribute.name.startsWith(QLatin1String("xmlns:")) && isWritableDeclaration(attribute))
             m_prefixes.append(attribute.name.mid(declarationStart.size() + 1));
-    }
 }
 
 bool Writer::isInText(NodeIndex index) const

@@ -54,10 +54,9 @@ bool isLoneSurrogate(const QString &text, int at)
 
 void appendText(QString *result, const QString &text, bool inAttribute)
 {
-    for (int i = 0; i < text.size(); ++i) {
+    for (int i = 0; i < text.size(); ++i)
         if (isXmlCharacter(text.at(i).unicode()) && !isLoneSurrogate(text, i))
             appendEscaped(result, text.at(i), inAttribute);
-    }
 }
 
 bool isNameStart(QChar c)

@@ -120,10 +120,9 @@ Gradient randomGradient(RandomNumbers *numbers)
 Noise::Noise(double start)
 {
     RandomNumbers numbers(start);
-    for (auto &channel : m_gradients) {
+    for (auto &channel : m_gradients)
         for (Gradient &gradient : channel)
             gradient = randomGradient(&numbers);
-    }
     for (int i = 0; i < latticeSize; ++i)
         m_order[size_t(i)] = i;
     for (int i = latticeSize - 1; i > 0; --i)

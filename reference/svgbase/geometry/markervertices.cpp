@@ -86,14 +86,12 @@ Direction Subpath::around(int segment, bool ends) const
     const Direction own = ends ? endDirection(m_begin[segment]) : startDirection(m_begin[segment]);
     if (own)
         return own;
-    for (int i = segment - 1; i > 0; --i) {
+    for (int i = segment - 1; i > 0; --i)
         if (const Direction before = endDirection(m_begin[i]))
             return before;
-    }
-    for (int i = segment + 1; i < count(); ++i) {
+    for (int i = segment + 1; i < count(); ++i)
         if (const Direction after = startDirection(m_begin[i]))
             return after;
-    }
     return Direction();
 }
 
@@ -143,10 +141,9 @@ void appendVertices(const QVector<PathSegment> &segments, int begin, int end, co
                     QVector<MarkerVertex> *vertices)
 {
     const Subpath subpath(segments.constData() + begin, segments.constData() + end);
-    for (int i = begin; i < end; ++i) {
+    for (int i = begin; i < end; ++i)
         if (!isAdded.at(i))
             vertices->append({MarkerVertex::Mid, segments.at(i).to, subpath.angleAt(i - begin)});
-    }
 }
 
 QVector<PathSegment> polySegments(const QPolygonF &points, bool closed)

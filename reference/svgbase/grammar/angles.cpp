@@ -25,10 +25,9 @@ const AngleUnit angleUnits[] = {
 
 std::optional<double> degreesOf(QLatin1String unit)
 {
-    for (const AngleUnit &known : angleUnits) {
+    for (const AngleUnit &known : angleUnits)
         if (unit.compare(known.name, Qt::CaseInsensitive) == 0)
             return known.degrees;
-    }
     return std::nullopt;
 }
 

@@ -61,10 +61,9 @@ std::optional<double> metricSeconds(QStringView text)
     const std::optional<double> value = plainNumber(text.left(end));
     if (!value)
         return std::nullopt;
-    for (const Metric &metric : metrics) {
+    for (const Metric &metric : metrics)
         if (text.mid(end) == metric.name)
             return *value * metric.seconds;
-    }
     return std::nullopt;
 }
 

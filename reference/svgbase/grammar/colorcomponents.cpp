@@ -34,10 +34,9 @@ struct Inverse
             return m[r1][c1] * m[r2][c2] - m[r1][c2] * m[r2][c1];
         };
         const double determinant = m[0][0] * cofactor(0, 0) + m[0][1] * cofactor(0, 1) + m[0][2] * cofactor(0, 2);
-        for (int row = 0; row < 3; ++row) {
+        for (int row = 0; row < 3; ++row)
             for (int column = 0; column < 3; ++column)
                 matrix[row][column] = cofactor(column, row) / determinant;
-        }
     }
 };
 

@@ -175,10 +175,9 @@ const SpaceNames *namesOf(const ColorFunction &function)
         name.chop(1);
     if (function.space.startsWith(QLatin1String("xyz")))
         name = QStringLiteral("xyz");
-    for (const SpaceNames &known : spaceNames) {
+    for (const SpaceNames &known : spaceNames)
         if (name == known.function)
             return &known;
-    }
     return nullptr;
 }
 

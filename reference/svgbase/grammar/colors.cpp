@@ -30,15 +30,14 @@ std::optional<QColor> hexColor(Cursor cursor)
         digits[count++] = digit;
     }
     int channels[4] = {0, 0, 0, 255};
-    if (count == 3 || count == 4) {
+    if (count == 3 || count == 4)
         for (int i = 0; i < count; ++i)
             channels[i] = digits[i] * 17;
-    } else if (count == 6 || count == 8) {
+    else if (count == 6 || count == 8)
         for (int i = 0; i < count / 2; ++i)
             channels[i] = digits[2 * i] * 16 + digits[2 * i + 1];
-    } else {
+    else
         return std::nullopt;
-    }
     return QColor(channels[0], channels[1], channels[2], channels[3]);
 }
 
@@ -106,10 +105,9 @@ std::optional<QColor> namedColor(QStringView name)
 {
     if (name.compare(QLatin1String("transparent"), Qt::CaseInsensitive) == 0)
         return QColor(0, 0, 0, 0);
-    for (const SystemColor &known : systemColors) {
+    for (const SystemColor &known : systemColors)
         if (name.compare(known.name, Qt::CaseInsensitive) == 0)
             return QColor::fromRgba(known.color);
-    }
     if (name.compare(QLatin1String("rebeccapurple"), Qt::CaseInsensitive) == 0)
         return QColor(0x66, 0x33, 0x99);
     // Qt's list of names is that of SVG, which lacks the one above.

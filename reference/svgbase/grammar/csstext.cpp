@@ -135,14 +135,13 @@ bool CssCursor::take(char expected)
 bool CssCursor::skipSpace()
 {
     const QChar *begin = at;
-    for (;;) {
+    for (;;)
         if (!atEnd() && isCssSpace(*at))
             ++at;
         else if (isComment(*this))
             skipComment(this);
         else
             return at != begin;
-    }
 }
 
 QString CssCursor::takeName()

@@ -62,10 +62,9 @@ std::optional<double> parseAngle(const QString &text)
     if (!readNumber(cursor, &value))
         return std::nullopt;
     const QLatin1String unit = cursor.takeWord();
-    for (const AngleUnit &known : angleUnits) {
+    for (const AngleUnit &known : angleUnits)
         if (cursor.atEnd() && unit.compare(known.name, Qt::CaseInsensitive) == 0)
             return value * known.degrees;
-    }
     return std::nullopt;
 }
 

@@ -88,10 +88,9 @@ double signOf(double value)
 
 std::optional<MathFunction> mathFunction(QLatin1String name)
 {
-    for (const FunctionRow &row : functionRows) {
+    for (const FunctionRow &row : functionRows)
         if (!row.name.isEmpty() && name.compare(row.name, Qt::CaseInsensitive) == 0)
             return row.function;
-    }
     return std::nullopt;
 }
 

@@ -72,10 +72,9 @@ Truth valuedFeature(const QString &name, const QString &value)
         return Truth::Yes;
     if (isSize(name) || (isSize(name.mid(4)) && name.startsWith(QLatin1String("max-"))))
         return Truth::No;
-    for (const Feature &feature : features) {
+    for (const Feature &feature : features)
         if (name == feature.name)
             return truth(value == feature.value);
-    }
     return Truth::Unknown;
 }
 

@@ -305,9 +305,8 @@ bool PathReader::close()
 bool PathReader::readSegment(char command, bool relative)
 {
     // A drawing command after a closing command starts a new subpath at the start of the last one.
-    if (m_closed && command != 'm') {
+    if (m_closed && command != 'm')
         beginSubpath(m_start);
-    }
     switch (command) {
     case 'm':
         return readMove(relative);

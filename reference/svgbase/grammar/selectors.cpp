@@ -63,10 +63,9 @@ const PseudoName countingPseudoClasses[] = {
 template<size_t count>
 std::optional<PseudoClass::Kind> kindOf(const QString &name, const PseudoName (&names)[count])
 {
-    for (const PseudoName &known : names) {
+    for (const PseudoName &known : names)
         if (name.compare(known.name, Qt::CaseInsensitive) == 0)
             return known.kind;
-    }
     return std::nullopt;
 }
 
@@ -421,10 +420,9 @@ bool SelectorParser::parseCompound(Compound *compound)
 {
     if (!startsPart(m_cursor.peek()) && !parseTag(compound))
         return false;
-    while (startsPart(m_cursor.peek())) {
+    while (startsPart(m_cursor.peek()))
         if (!parsePart(compound))
             return false;
-    }
     return true;
 }
 

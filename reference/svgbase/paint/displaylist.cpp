@@ -93,10 +93,9 @@ QRectF DisplayList::paintedBounds(bool withControlPoints) const
     QRectF bounds;
     for (const MappedItem &item : m_items)
         bounds |= item.bounds;
-    if (withControlPoints) {
+    if (withControlPoints)
         for (const MappedItem &item : m_controlPoints)
             bounds |= item.bounds;
-    }
     return bounds;
 }
 

@@ -60,10 +60,9 @@ bool dependsOnAxes(const Filter &filter, const QTransform &toPainter)
 {
     const bool similarity = isSimilarity(toPainter);
     for (const FilterStep &step : filter.steps) {
-        for (const FilterPrimitive &primitive : step.primitives) {
+        for (const FilterPrimitive &primitive : step.primitives)
             if (dependsOnAxes(primitive, similarity))
                 return true;
-        }
     }
     return false;
 }

@@ -76,12 +76,11 @@ QSizeF filterReach(const Filter &filter, const QTransform &toPainter)
 QRectF filteredBounds(const Filter &filter, const QTransform &toPainter, const QRectF &content)
 {
     QRectF bounds = content;
-    for (const FilterStep &step : filter.steps) {
+    for (const FilterStep &step : filter.steps)
         if (step.region)
             bounds = toPainter.mapRect(*step.region);
         else if (!bounds.isEmpty())
             bounds = expanded(bounds, stepReach(step, QSizeF(0, 0)), toPainter);
-    }
     return bounds;
 }
 

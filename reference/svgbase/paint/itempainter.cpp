@@ -451,10 +451,9 @@ void ItemPainter::paintLayer(Layer *done)
 // The next layer down that has a picture; null when the caller's painter comes first.
 Layer *ItemPainter::pictureBelow()
 {
-    for (auto layer = m_layers.rbegin(); layer != m_layers.rend(); ++layer) {
+    for (auto layer = m_layers.rbegin(); layer != m_layers.rend(); ++layer)
         if (layer->picture)
             return &*layer;
-    }
     return nullptr;
 }
 

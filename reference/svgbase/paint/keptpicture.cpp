@@ -39,10 +39,9 @@ bool isBlankRow(const QRgb *row, int count)
 
 bool isBlank(const QImage &image, const QRect &area)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
+    for (int y = area.top(); y <= area.bottom(); ++y)
         if (!isBlankRow(pixelsAt(image, area.left(), y), area.width()))
             return false;
-    }
     return true;
 }
 
@@ -153,12 +152,11 @@ QRect KeptPicture::changedBelow(const QImage &target)
 void KeptPicture::restore(QImage *target, const QVector<QRect> &repainted) const
 {
     copyRows(m_picture, QPoint(), target, m_area);
-    for (const QRect &rect : repainted) {
+    for (const QRect &rect : repainted)
         if (m_below.isNull())
             clearRows(target, rect);
         else
             copyRows(m_below, rect.topLeft() - m_area.topLeft(), target, rect);
-    }
 }
 
 void KeptPicture::restoreBelow(QImage *target) const

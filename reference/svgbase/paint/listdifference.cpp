@@ -59,10 +59,9 @@ void addDifference(const MappedItems &old, const MappedItems &fresh, const QVect
     }
     for (const int place : changed)
         damage->add(fresh[size_t(place)].bounds);
-    for (const MappedItem &item : old) {
+    for (const MappedItem &item : old)
         if (!item.takenOver)
             damage->add(item.bounds);
-    }
 }
 
 QRect grownToItems(const QRect &rect, const MappedItems &items, const QRect &within)

@@ -13,10 +13,9 @@ bool hasSameElements(const QPainterPath &a, const QPainterPath &b)
 {
     if (a.elementCount() != b.elementCount() || a.fillRule() != b.fillRule())
         return false;
-    for (int i = 0; i < a.elementCount(); ++i) {
+    for (int i = 0; i < a.elementCount(); ++i)
         if (a.elementAt(i).type != b.elementAt(i).type)
             return false;
-    }
     return true;
 }
 

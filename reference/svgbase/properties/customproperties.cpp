@@ -17,12 +17,11 @@ constexpr int deepestLevel = 32;
 qsizetype closingBracket(QStringView text, qsizetype from)
 {
     int open = 1;
-    for (qsizetype i = from; i < text.size(); ++i) {
+    for (qsizetype i = from; i < text.size(); ++i)
         if (text[i] == QLatin1Char('('))
             ++open;
         else if (text[i] == QLatin1Char(')') && --open == 0)
             return i;
-    }
     return -1;
 }
 

@@ -17,20 +17,18 @@ template<typename Value> struct Keyword
 template<typename Value, size_t count>
 std::optional<Value> keywordValue(QStringView text, const Keyword<Value> (&keywords)[count])
 {
-    for (const Keyword<Value> &keyword : keywords) {
+    for (const Keyword<Value> &keyword : keywords)
         if (text.compare(keyword.name, Qt::CaseInsensitive) == 0)
             return keyword.value;
-    }
     return std::nullopt;
 }
 
 /// The first keyword of a value; empty when there is none.
 template<typename Value, size_t count> QString keywordName(Value value, const Keyword<Value> (&keywords)[count])
 {
-    for (const Keyword<Value> &keyword : keywords) {
+    for (const Keyword<Value> &keyword : keywords)
         if (keyword.value == value)
             return keyword.name;
-    }
     return QString();
 }
 

@@ -244,10 +244,9 @@ std::optional<PaintOrder> PaintOrderCodec::read(QStringView text, const Computed
             return std::nullopt;
         steps.append(*step);
     }
-    for (const PaintStep step : initialStyle()->paintOrder) {
+    for (const PaintStep step : initialStyle()->paintOrder)
         if (!steps.contains(step))
             steps.append(step);
-    }
     std::copy(steps.begin(), steps.end(), order.begin());
     return order;
 }
@@ -421,10 +420,9 @@ bool hasTooManyDashes(QStringView list)
     Cursor cursor = bytes.cursor();
     cursor.skipSpace();
     Length length;
-    for (int count = 0; !cursor.atEnd() && readLength(cursor, &length); cursor.skipCommaSpace()) {
+    for (int count = 0; !cursor.atEnd() && readLength(cursor, &length); cursor.skipCommaSpace())
         if (++count > Limits::dashEntries)
             return true;
-    }
     return false;
 }
 

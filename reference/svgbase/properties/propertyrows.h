@@ -122,10 +122,9 @@ template<auto member, typename Codec> constexpr Property colorRow(AttributeId id
 /// Whether rows are those of all properties from the first to the last, in the order of their ids.
 template<size_t count> constexpr bool isComplete(const Property (&rows)[count], AttributeId first, AttributeId last)
 {
-    for (size_t i = 0; i < count; ++i) {
+    for (size_t i = 0; i < count; ++i)
         if (int(rows[i].id) != int(first) + int(i))
             return false;
-    }
     return int(first) + int(count) - 1 == int(last);
 }
 

@@ -55,10 +55,9 @@ QVector<Settling> SettlingOrder::find()
     for (int start = 0; start < m_entries.size(); ++start) {
         if (m_entries.at(start).met == 0)
             meet(start);
-        while (!m_followed.isEmpty()) {
+        while (!m_followed.isEmpty())
             if (!followNext(m_followed.constLast()))
                 leave(m_followed.takeLast());
-        }
     }
     return m_order;
 }

@@ -180,10 +180,9 @@ QVector<Longhand> allLonghands(const QString &value)
     if (!isWideKeyword(value))
         return {};
     QVector<Longhand> result;
-    for (int id = int(firstProperty); id <= int(lastProperty); ++id) {
+    for (int id = int(firstProperty); id <= int(lastProperty); ++id)
         if (AttributeId(id) != AttributeId::Direction && AttributeId(id) != AttributeId::UnicodeBidi)
             result.append({AttributeId(id), value});
-    }
     return result;
 }
 

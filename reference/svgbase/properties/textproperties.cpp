@@ -241,10 +241,9 @@ private:
     static int neighbour(int stretch, int step)
     {
         const int count = int(std::size(stretches));
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             if (stretches[i].value == stretch)
                 return stretches[qBound(0, i + step, count - 1)].value;
-        }
         return stretch;
     }
 };

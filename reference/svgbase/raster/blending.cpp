@@ -228,10 +228,9 @@ void turnLuminanceIntoAlpha(QImage *picture, bool linear)
 {
     for (int y = 0; y < picture->height(); ++y) {
         QRgb *row = rowOf(picture, y);
-        for (int x = 0; x < picture->width(); ++x) {
+        for (int x = 0; x < picture->width(); ++x)
             if (row[x] != 0)
                 row[x] = qRgba(0, 0, 0, linear ? linearLuminance(row[x]) : luminance(row[x]));
-        }
     }
 }
 

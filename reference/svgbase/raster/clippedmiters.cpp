@@ -41,10 +41,9 @@ QPointF unit(const QPointF &way)
 // Control points that lie on an end say nothing about the direction there.
 QPointF firstWay(std::initializer_list<QPointF> points)
 {
-    for (const QPointF &point : points) {
+    for (const QPointF &point : points)
         if (point != *points.begin())
             return unit(point - *points.begin());
-    }
     return QPointF();
 }
 

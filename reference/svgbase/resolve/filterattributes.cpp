@@ -219,10 +219,9 @@ void PrimitiveReader::readTransfer()
 void PrimitiveReader::readMergeInputs()
 {
     m_result.inputs.clear();
-    for (NodeIndex at = m_node.firstChild; at != noNode; at = m_tree.node(at).next) {
+    for (NodeIndex at = m_node.firstChild; at != noNode; at = m_tree.node(at).next)
         if (m_tree.node(at).kind == ElementKind::FeMergeNode && m_result.inputs.size() < Limits::filterPrimitives)
             m_result.inputs.append(m_tree.node(at).attributes.value(QStringLiteral("in")));
-    }
 }
 
 FilterPrimitive PrimitiveReader::read()

@@ -115,10 +115,9 @@ ServerTransform GradientChain::transform() const
 NodeIndex GradientChain::nodeWithStops() const
 {
     for (const NodeIndex index : m_nodes) {
-        for (NodeIndex child = m_tree.node(index).firstChild; child != noNode; child = m_tree.node(child).next) {
+        for (NodeIndex child = m_tree.node(index).firstChild; child != noNode; child = m_tree.node(child).next)
             if (m_tree.node(child).kind == ElementKind::Stop)
                 return index;
-        }
     }
     return noNode;
 }

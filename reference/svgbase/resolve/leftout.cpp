@@ -34,10 +34,9 @@ Problem ofTextReference(const Tree &tree, const Node &tref)
     const NodeIndex target = tree.findId(hrefTarget(tref.attributes));
     int characters = 0;
     for (NodeIndex at = target; at != noNode && characters <= Limits::trefCharacters;
-         at = tree.following(at, target)) {
+         at = tree.following(at, target))
         if (tree.node(at).kind == ElementKind::Characters)
             characters += tree.node(at).text.size();
-    }
     if (characters <= Limits::trefCharacters)
         return Problem();
     return {Message::TooManyCharacters, QStringLiteral("Of a text that is referred to, characters beyond %1 are "

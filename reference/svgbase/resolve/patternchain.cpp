@@ -23,10 +23,9 @@ PatternChain::PatternChain(const Tree &tree, NodeIndex pattern)
 
 QString PatternChain::value(const QString &name) const
 {
-    for (const NodeIndex index : m_nodes) {
+    for (const NodeIndex index : m_nodes)
         if (m_tree.node(index).attributes.contains(name))
             return m_tree.node(index).attributes.value(name);
-    }
     return QString();
 }
 

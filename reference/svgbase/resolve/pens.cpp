@@ -18,10 +18,9 @@ void setDashes(QPen &pen, const ComputedStyle &style, double scale)
     for (const double dash : style.strokeDasharray)
         pattern.append(dash * (scale / pen.widthF()));
     // A dash without length has caps, which a painter only gives to one with some.
-    if (style.strokeLinecap != Qt::FlatCap) {
+    if (style.strokeLinecap != Qt::FlatCap)
         for (int i = 0; i < pattern.size(); i += 2)
             pattern[i] = qMax(pattern.at(i), shortestDash);
-    }
     pen.setDashPattern(pattern);
     pen.setDashOffset(style.strokeDashoffset * scale / pen.widthF());
 }

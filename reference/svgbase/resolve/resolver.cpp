@@ -91,10 +91,9 @@ bool isBounded(const QTransform &t)
 // Without parts there is no style but the text's own.
 bool hasOneStyle(const Tree &tree, const Node &text)
 {
-    for (NodeIndex child = text.firstChild; child != noNode; child = tree.node(child).next) {
+    for (NodeIndex child = text.firstChild; child != noNode; child = tree.node(child).next)
         if (isTextPart(tree.node(child).kind) && tree.node(child).kind != ElementKind::Characters)
             return false;
-    }
     return true;
 }
 

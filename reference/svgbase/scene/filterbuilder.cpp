@@ -186,12 +186,11 @@ BuiltFilter buildFilter(BuildContext &context, const FilterTarget &target)
     filter->fillPaint = target.fillPaint;
     filter->strokePaint = target.strokePaint;
     FilterBuilder builder(context, target);
-    for (const FilterFunction &function : functions) {
+    for (const FilterFunction &function : functions)
         if (function.kind != FilterFunction::Reference)
             filter->steps.append({std::nullopt, {functionPrimitive(function, target.style)}, {}});
         else if (!builder.addElement(context.document.tree().findId(function.id), filter.get(), &result.drawn))
             return BuiltFilter();
-    }
     result.filter = filter;
     return result;
 }

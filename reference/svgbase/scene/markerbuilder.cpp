@@ -96,10 +96,9 @@ void MarkerBuilder::append(const QVector<MarkerVertex> &vertices)
         if (!known)
             continue;
         const OpenReference open(m_context, known->node);
-        for (const MarkerVertex &vertex : vertices) {
+        for (const MarkerVertex &vertex : vertices)
             if (vertex.role == role && !m_context.budget.exhausted)
                 appendOne(*known, vertex);
-        }
     }
 }
 

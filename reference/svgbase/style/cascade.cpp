@@ -186,14 +186,13 @@ bool DeclarationList::collect(NodeIndex element)
     const Attributes &attributes = m_tree.node(element).attributes;
     const Attribute *style = nullptr;
     const Attribute *animated = nullptr;
-    for (const Attribute &attribute : attributes) {
+    for (const Attribute &attribute : attributes)
         if (isProperty(attribute.id) && !propertyOf(attribute.id).isForStyleOnly)
             m_list.append({attribute.id, attribute.value, true, true});
         else if (attribute.id == AttributeId::Style)
             style = &attribute;
         else if (attribute.id == AttributeId::AnimatedStyle)
             animated = &attribute;
-    }
     if (m_tree.rules())
         complete = m_tree.rules()->match(m_tree, element, &m_matches);
     addMatches(false);
@@ -385,10 +384,9 @@ ComputedStyle styleInTree(const Tree &tree, NodeIndex element)
 
 QString styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled, AttributeId id)
 {
-    for (const Attribute &given : styled) {
+    for (const Attribute &given : styled)
         if (given.id == id)
             return given.value;
-    }
     return attributes.value(id);
 }
 

@@ -110,10 +110,9 @@ int stepsOf(const QVector<RuleDeclaration> &declarations)
 
 int lastOfAll(const QVector<SheetDeclaration> &declarations, bool important)
 {
-    for (int i = declarations.size() - 1; i >= 0; --i) {
+    for (int i = declarations.size() - 1; i >= 0; --i)
         if (declarations.at(i).important == important && declarations.at(i).name == allProperties)
             return i;
-    }
     return -1;
 }
 
@@ -153,10 +152,9 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
         std::stable_sort(sheet.problems.begin(), sheet.problems.end(),
                          [](const StyleProblem &a, const StyleProblem &b) { return a.offset < b.offset; });
         SheetPlaces places(node);
-        for (const StyleProblem &problem : qAsConst(sheet.problems)) {
+        for (const StyleProblem &problem : qAsConst(sheet.problems))
             if (messages)
                 places.report(problem, messages);
-        }
     }
     rules->index(layers.ranks());
     return rules->m_entries.isEmpty() && rules->m_fontFaces.isEmpty() ? nullptr : rules;
@@ -165,7 +163,7 @@ StyleRulesPointer StyleRules::compile(const Tree &tree, Messages *messages)
 void StyleRules::addFontFace(const QVector<SheetDeclaration> &descriptors)
 {
     FontFaceRule face;
-    for (const SheetDeclaration &descriptor : descriptors) {
+    for (const SheetDeclaration &descriptor : descriptors)
         if (descriptor.name == QLatin1String("font-family"))
             face.family = descriptor.value;
         else if (descriptor.name == QLatin1String("font-weight"))
@@ -174,7 +172,6 @@ void StyleRules::addFontFace(const QVector<SheetDeclaration> &descriptors)
             face.style = descriptor.value;
         else if (descriptor.name == QLatin1String("src"))
             face.source = descriptor.value;
-    }
     if (!face.family.isEmpty() && !face.source.isEmpty() && m_fontFaces.size() < Limits::fonts)
         m_fontFaces.append(face);
 }

@@ -387,15 +387,13 @@ bool SelectorMatcher::matchesAttribute(const Node &node, const AttributeTest &te
 bool SelectorMatcher::matchesNames(const Node &node, const Compound &compound)
 {
     const QStringView id = node.attributes.view(AttributeId::Id);
-    for (const QString &wanted : compound.ids) {
+    for (const QString &wanted : compound.ids)
         if (!takeText(qMin(id.size(), qsizetype(wanted.size()))) || id != wanted)
             return false;
-    }
     const QStringView classes = node.attributes.view(AttributeId::Class);
-    for (const QString &wanted : compound.classes) {
+    for (const QString &wanted : compound.classes)
         if (!takeText(classes.size()) || !containsWord(classes, wanted))
             return false;
-    }
     return true;
 }
 

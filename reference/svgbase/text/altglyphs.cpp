@@ -39,10 +39,9 @@ QVector<NodeIndex> alternateGlyphs(const Tree &tree, NodeIndex altGlyph)
     if (!isNamed(tree, target, "altGlyphDef"))
         return {};
     QVector<NodeIndex> glyphs = listedGlyphs(tree, target);
-    for (NodeIndex at = tree.node(target).firstChild; at != noNode && glyphs.isEmpty(); at = tree.node(at).next) {
+    for (NodeIndex at = tree.node(target).firstChild; at != noNode && glyphs.isEmpty(); at = tree.node(at).next)
         if (isNamed(tree, at, "altGlyphItem"))
             glyphs = listedGlyphs(tree, at);
-    }
     return glyphs;
 }
 

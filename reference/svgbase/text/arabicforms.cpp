@@ -15,10 +15,9 @@ QChar::JoiningType joiningAt(const QString &text, int at)
 // Marks don't come between letters.
 QChar::JoiningType neighbour(const QString &text, int at, int step)
 {
-    for (int i = at + step; i >= 0 && i < text.size() && qAbs(i - at) <= farthestNeighbour; i += step) {
+    for (int i = at + step; i >= 0 && i < text.size() && qAbs(i - at) <= farthestNeighbour; i += step)
         if (joiningAt(text, i) != QChar::Joining_Transparent)
             return joiningAt(text, i);
-    }
     return QChar::Joining_None;
 }
 

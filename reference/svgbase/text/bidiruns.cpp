@@ -110,15 +110,13 @@ ControlledText withControls(const TextContent &content, int begin, int end)
     QVector<int> open;
     for (int i = begin; i < end; ++i) {
         QVector<int> wanted;
-        for (int level = content.characters.at(i).level; level >= 0; level = content.levels.at(level).above) {
+        for (int level = content.characters.at(i).level; level >= 0; level = content.levels.at(level).above)
             if (inlineStyleOf(content.levels.at(level).style).unicodeBidi != UnicodeBidi::Normal)
                 wanted.prepend(level);
-        }
         const int common =
             int(std::mismatch(open.begin(), open.end(), wanted.begin(), wanted.end()).first - open.begin());
-        while (open.size() > common) {
+        while (open.size() > common)
             result.text += controlsOf(content.levels.at(open.takeLast()).style).closing;
-        }
         for (int k = common; k < wanted.size(); ++k) {
             result.text += controlsOf(content.levels.at(wanted.at(k)).style).opening;
             open.append(wanted.at(k));

@@ -38,10 +38,9 @@ const FormName formNames[] = {
 
 ArabicForm formNamed(const QString &name)
 {
-    for (const FormName &known : formNames) {
+    for (const FormName &known : formNames)
         if (name == known.name)
             return known.form;
-    }
     return ArabicForm::Any;
 }
 
@@ -130,10 +129,9 @@ double numberOf(const Node &node, const char *name, double otherwise)
 
 const Node *faceOf(const Tree &tree, const Node &font)
 {
-    for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next) {
+    for (NodeIndex at = font.firstChild; at != noNode; at = tree.node(at).next)
         if (tree.node(at).kind == ElementKind::FontFace)
             return &tree.node(at);
-    }
     return nullptr;
 }
 
@@ -277,10 +275,9 @@ const FontGlyph *DocumentFont::find(const GlyphPlace &place) const
     if (m_file)
         return findInFile(place.text);
     const QVector<int> known = m_byCharacter.value(place.text.front());
-    for (const int i : known) {
+    for (const int i : known)
         if (isAllowed(m_glyphs.at(i), place))
             return &m_glyphs.at(i);
-    }
     return nullptr;
 }
 

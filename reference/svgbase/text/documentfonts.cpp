@@ -76,10 +76,9 @@ QString urlIn(QStringView source)
 
 NodeIndex childNamed(const Tree &tree, NodeIndex node, const char *name)
 {
-    for (NodeIndex at = tree.node(node).firstChild; at != noNode; at = tree.node(at).next) {
+    for (NodeIndex at = tree.node(node).firstChild; at != noNode; at = tree.node(at).next)
         if (hasLocalName(tree.node(at), QString::fromLatin1(name)))
             return at;
-    }
     return noNode;
 }
 

@@ -122,10 +122,9 @@ int stretchOfStyle(const QString &style)
 {
     QString name = style.toLower();
     name.remove(QLatin1Char(' ')).remove(QLatin1Char('-'));
-    for (const NamedStretch &known : namedStretches) {
+    for (const NamedStretch &known : namedStretches)
         if (name.contains(known.word))
             return known.stretch;
-    }
     return QFont::Unstretched;
 }
 
@@ -150,10 +149,9 @@ public:
         if (known == m_stretches.end())
             known = m_stretches.insert(family, stretchesOf(family));
         int best = known->value(0, QFont::Unstretched);
-        for (const int stretch : qAsConst(*known)) {
+        for (const int stretch : qAsConst(*known))
             if (isBetterStretch(stretch, best, wanted))
                 best = stretch;
-        }
         return best;
     }
 

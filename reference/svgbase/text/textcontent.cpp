@@ -90,10 +90,9 @@ void TextCollector::substituteGlyphs(TextLevel *level)
 {
     const QVector<NodeIndex> nodes = alternateGlyphs(m_tree, level->node);
     const DocumentFontPointer font = nodes.isEmpty() ? nullptr : m_fonts.fontOfGlyph(m_tree, nodes.constFirst());
-    for (const NodeIndex node : nodes) {
+    for (const NodeIndex node : nodes)
         if (const FontGlyph *glyph = font ? font->glyphOf(node) : nullptr)
             level->substitutes.append(glyph);
-    }
     if (!level->substitutes.isEmpty())
         level->font.font = font;
 }
@@ -228,10 +227,9 @@ void TextCollector::dropSpaceAtEnd()
 // Only a text itself holds text along a way (SVG 2 §11.8.1), and there must be one.
 bool TextCollector::hasWay(const Node &textPath) const
 {
-    for (const int level : m_open) {
+    for (const int level : m_open)
         if (m_content.levels.at(level).kind != ElementKind::Text && !isLink(m_content.levels.at(level)))
             return false;
-    }
     if (!textPath.attributes.value(QStringLiteral("path")).isEmpty())
         return true;
     const NodeIndex shape = referred(textPath);
@@ -247,10 +245,9 @@ QString TextCollector::referredText(const Node &tref) const
 {
     const NodeIndex target = referred(tref);
     QString text;
-    for (NodeIndex at = target; at != noNode; at = m_tree.following(at, target)) {
+    for (NodeIndex at = target; at != noNode; at = m_tree.following(at, target))
         if (m_tree.node(at).kind == ElementKind::Characters && text.size() < Limits::trefCharacters)
             text += m_tree.node(at).text;
-    }
     return text.left(Limits::trefCharacters);
 }
 

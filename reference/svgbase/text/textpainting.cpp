@@ -142,12 +142,11 @@ QTransform TextPainter::glyphTransform(const PlacedCluster &cluster) const
 
 void TextPainter::addGlyphs()
 {
-    for (int i = 0; i < m_clusters.size();) {
+    for (int i = 0; i < m_clusters.size();)
         if (isDrawn(m_clusters.at(i)))
             i = addRun(i);
         else
             ++i;
-    }
 }
 
 bool TextPainter::isDrawn(const PlacedCluster &cluster) const
@@ -180,10 +179,9 @@ int TextPainter::addRun(int first)
     }
     if (!path.isEmpty())
         m_result.runs.append({m_levels.at(level).paint, path});
-    for (int i = first; i < end; ++i) {
+    for (int i = first; i < end; ++i)
         if (isDrawn(m_clusters.at(i)))
             addPictures(m_clusters.at(i));
-    }
     return end;
 }
 
@@ -298,10 +296,9 @@ void TextPainter::addLines(const Line &line)
         if (inlineStyleOf(paint).*(line.wanted))
             addLine(0, line, *group, paint);
     }
-    for (int level = 0; level < m_content.levels.size(); ++level) {
+    for (int level = 0; level < m_content.levels.size(); ++level)
         if (inlineStyleOf(m_content.levels.at(level).style).*(line.wanted))
             addLine(level, line, m_content.levels.at(level).style, m_levels.at(level).paint);
-    }
 }
 
 TextOutlines TextPainter::paint()

@@ -333,10 +333,9 @@ QVector<TextCluster> Row::clusters()
         cluster.offset = way;
         way += cluster.advance;
     }
-    if (m_run.rightToLeft) {
+    if (m_run.rightToLeft)
         for (TextCluster &cluster : clusters)
             cluster.offset = way - cluster.offset - cluster.advance;
-    }
     return clusters;
 }
 

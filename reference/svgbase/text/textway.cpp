@@ -44,10 +44,9 @@ QPainterPath wayOf(const Tree &tree, NodeIndex textPath, const QSizeF &viewport,
 
 bool isSingleLoop(const QPainterPath &path)
 {
-    for (int i = 1; i < path.elementCount(); ++i) {
+    for (int i = 1; i < path.elementCount(); ++i)
         if (path.elementAt(i).isMoveTo())
             return false;
-    }
     return path.elementCount() > 2 && QPointF(path.elementAt(0)) == path.currentPosition();
 }
 

@@ -179,19 +179,17 @@ AttributeId attributeId(QStringView name)
 
 QLatin1String attributeName(AttributeId id)
 {
-    for (const AttributeName &known : attributeNames) {
+    for (const AttributeName &known : attributeNames)
         if (known.id == id)
             return known.name;
-    }
     return QLatin1String();
 }
 
 const Attribute *Attributes::find(AttributeId id) const
 {
-    for (const Attribute &attribute : m_list) {
+    for (const Attribute &attribute : m_list)
         if (attribute.id == id)
             return &attribute;
-    }
     return nullptr;
 }
 
@@ -199,10 +197,9 @@ const Attribute *Attributes::find(AttributeId id, const QString &name) const
 {
     if (id != AttributeId::Unknown)
         return find(id);
-    for (const Attribute &attribute : m_list) {
+    for (const Attribute &attribute : m_list)
         if (attribute.id == AttributeId::Unknown && attribute.name == name)
             return &attribute;
-    }
     return nullptr;
 }
 

@@ -87,20 +87,18 @@ const KindName kindNames[] = {
 
 ElementKind elementKind(QStringView localName)
 {
-    for (const KindName &known : kindNames) {
+    for (const KindName &known : kindNames)
         if (localName == known.name)
             return known.kind;
-    }
     return ElementKind::Other;
 }
 
 QLatin1String elementName(ElementKind kind)
 {
     const ElementKind named = kind == ElementKind::Document ? ElementKind::NestedSvg : kind;
-    for (const KindName &known : kindNames) {
+    for (const KindName &known : kindNames)
         if (named == known.kind)
             return known.name;
-    }
     return QLatin1String();
 }
 

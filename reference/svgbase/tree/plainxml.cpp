@@ -40,19 +40,17 @@ bool is(CharacterClass wanted, QChar c)
 // The replacement character represents bytes that are not UTF-8.
 bool isPlainText(QStringView text)
 {
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (c.unicode() < 128 ? (classes[c.unicode()] & Special) != 0 : c.unicode() >= 0xfffd)
             return false;
-    }
     return true;
 }
 
 bool isBlank(QStringView text)
 {
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (!is(Space, c))
             return false;
-    }
     return true;
 }
 
@@ -227,10 +225,9 @@ bool PlainReader::read()
 {
     if (!isPlainText({m_at, m_end}) || !readXmlDeclaration())
         return false;
-    while (!atEnd()) {
+    while (!atEnd())
         if (!readText() || (!atEnd() && !readMarkup()) || !m_builder->refusal().text.isEmpty())
             return false;
-    }
     return m_rootSeen && m_open.isEmpty();
 }
 

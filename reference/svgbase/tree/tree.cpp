@@ -146,10 +146,9 @@ NodeIndex Tree::findId(const QString &id) const
 
 bool Tree::isWithin(NodeIndex index, NodeIndex ancestor) const
 {
-    for (NodeIndex at = index; at != noNode; at = node(at).parent) {
+    for (NodeIndex at = index; at != noNode; at = node(at).parent)
         if (at == ancestor)
             return true;
-    }
     return false;
 }
 

@@ -47,10 +47,9 @@ void takeDeclarations(const XmlElement &element, Attributes *attributes)
 
 QString idOfElement(const XmlElement &element)
 {
-    for (const XmlAttribute &attribute : element.attributes) {
+    for (const XmlAttribute &attribute : element.attributes)
         if (attribute.qualifiedName == QLatin1String("id"))
             return attribute.value.toString();
-    }
     return QString();
 }
 

@@ -185,19 +185,17 @@ bool Figure::writeLetters(const LettersDeclaration &letters, QZeSvgNode &node, S
 
 void Figure::copyPaints()
 {
-    for (const Repeated &repeated : qAsConst(m_repeated)) {
+    for (const Repeated &repeated : qAsConst(m_repeated))
         for (int i = 1; i < repeated.copies.size(); ++i)
             copyPaintsOf(*repeated.copies.first(), *repeated.copies.at(i));
-    }
 }
 
 QVector<QZeSvgNode *> Figure::repeatedGroups() const
 {
     QVector<QZeSvgNode *> groups;
-    for (const Repeated &repeated : m_repeated) {
+    for (const Repeated &repeated : m_repeated)
         if (repeated.group)
             groups.append(repeated.group);
-    }
     return groups;
 }
 

@@ -20,10 +20,9 @@ constexpr KnownGroup knownGroups[] = {{"basic", "IDS_SHAPEGROUP_BASIC", "Basic s
 
 const KnownGroup *knownGroup(const QString &name)
 {
-    for (const KnownGroup &group : knownGroups) {
+    for (const KnownGroup &group : knownGroups)
         if (name == QLatin1String(group.name))
             return &group;
-    }
     return nullptr;
 }
 

@@ -8,10 +8,9 @@ namespace declared {
 QStringList Symbols::valueNames() const
 {
     QStringList found;
-    for (auto symbol = names.begin(); symbol != names.end(); ++symbol) {
+    for (auto symbol = names.begin(); symbol != names.end(); ++symbol)
         if (symbol->kind != Symbol::Function)
             found.append(symbol.key());
-    }
     found.sort();
     return found;
 }

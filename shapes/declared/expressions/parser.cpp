@@ -33,10 +33,9 @@ enum Level { OrLevel, AndLevel, NotLevel, SumLevel, ProductLevel, UnaryLevel };
 
 template<int count> Operation operationOf(const OperatorSign (&signs)[count], const Token &token)
 {
-    for (const OperatorSign &entry : signs) {
+    for (const OperatorSign &entry : signs)
         if (token.is(entry.sign))
             return entry.operation;
-    }
     return Operation::Constant;
 }
 

@@ -43,10 +43,9 @@ QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const
 
 CBaseObject *DeclaredPlugin::createObject(const QString &kindId) const
 {
-    for (const auto &shape : m_kinds) {
+    for (const auto &shape : m_kinds)
         if (shape->kind().id() == kindId)
             return new shapekit::ShapeObject(shape->kind());
-    }
     return nullptr;
 }
 

@@ -63,10 +63,9 @@ QStringList attributeNames()
 
 const AttributeForm *formOf(const QString &name)
 {
-    for (const AttributeForm &form : attributeForms) {
+    for (const AttributeForm &form : attributeForms)
         if (name == QLatin1String(form.name))
             return &form;
-    }
     return nullptr;
 }
 
@@ -100,10 +99,9 @@ void FileReader::readElements()
         if (isSvg(element) && !m_done.contains(i) && shapeAttribute(element, "repeat"))
             readRepeat(i);
     }
-    for (int i = 0; i < m_elements.size(); ++i) {
+    for (int i = 0; i < m_elements.size(); ++i)
         if (isSvg(m_elements.at(i)) && !m_done.contains(i))
             readElement(i, -1, {});
-    }
 }
 
 void FileReader::readElement(int index, int repeat, const QVector<int> &path)
@@ -148,15 +146,14 @@ void FileReader::readAttribute(const Element &element, const Attribute &attribut
         error("C38", attribute, QStringLiteral("\"%1\" has no \"%2\"").arg(element.name, attribute.name));
         return;
     }
-    if (attribute.name == QLatin1String("keeps")) {
+    if (attribute.name == QLatin1String("keeps"))
         readKeeps(attribute, written);
-    } else if (attribute.name == QLatin1String("visible")) {
+    else if (attribute.name == QLatin1String("visible"))
         take(m_compiler.expression(attribute.value, Type::Number), declared.visible, attribute);
-    } else if (attribute.name == QLatin1String("text")) {
+    else if (attribute.name == QLatin1String("text"))
         take(m_compiler.text(attribute.value), declared.letters.content, attribute);
-    } else if (attribute.name != QLatin1String("repeat")) {
+    else if (attribute.name != QLatin1String("repeat"))
         readWritten(attribute, declared, written);
-    }
 }
 
 /// A fill or stroke of an expression is the shape's own; one of the pen's colour is left to the kit.
@@ -205,7 +202,7 @@ void FileReader::readLetters(const Element &element, ElementDeclaration &declare
     const QString anchor = inheritedValue(element, "text-anchor");
     letters.anchor = anchor == QLatin1String("middle") ? 0.5 : anchor == QLatin1String("end") ? 1 : 0;
     QVector<AttributeDeclaration> others;
-    for (const AttributeDeclaration &attribute : qAsConst(declared.attributes)) {
+    for (const AttributeDeclaration &attribute : qAsConst(declared.attributes))
         if (attribute.name == QLatin1String("x"))
             letters.x = attribute.text;
         else if (attribute.name == QLatin1String("y"))
@@ -214,7 +211,6 @@ void FileReader::readLetters(const Element &element, ElementDeclaration &declare
             letters.size = attribute.text;
         else
             others.append(attribute);
-    }
     declared.attributes = others;
     written.isLetters = true;
     written.dropped = QStringList{QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("font-size"),
@@ -261,10 +257,9 @@ void FileReader::readRepeat(int index)
 QVector<int> FileReader::drawnChildren(const Element &element) const
 {
     QVector<int> children;
-    for (const SourceContent &content : element.contents) {
+    for (const SourceContent &content : element.contents)
         if (content.element >= 0 && isDrawn(m_elements.at(content.element)))
             children.append(content.element);
-    }
     return children;
 }
 

@@ -130,12 +130,11 @@ void FileReader::checkNames(const Element &element, const QStringList &known)
 Texts FileReader::texts(const Element &element, const char *name)
 {
     Texts texts;
-    for (const Attribute &attribute : element.attributes) {
+    for (const Attribute &attribute : element.attributes)
         if (attribute.name == QLatin1String(name))
             texts.insert(QStringLiteral("en"), attribute.value);
         else if (attribute.name.startsWith(QLatin1String(name) + QLatin1Char('.')))
             texts.insert(attribute.name.section(QLatin1Char('.'), 1), attribute.value);
-    }
     return texts;
 }
 
@@ -215,10 +214,9 @@ void FileReader::readIds()
 void FileReader::readAbout()
 {
     QVector<const Element *> found;
-    for (const Element &element : m_elements) {
+    for (const Element &element : m_elements)
         if (isShape(element, "about"))
             found.append(&element);
-    }
     if (found.isEmpty()) {
         error("C03", m_elements.first(), QStringLiteral("\"about\" is missing, which names the shape"));
         return;
@@ -272,14 +270,13 @@ void FileReader::checkElements()
 {
     const QStringList known{QStringLiteral("about"), QStringLiteral("property"), QStringLiteral("entry"),
                             QStringLiteral("let"), QStringLiteral("connection")};
-    for (const Element &element : m_elements) {
+    for (const Element &element : m_elements)
         if (element.namespaceUri == shapeNamespace && !known.contains(element.name))
             error(
                 "C04", element,
                 QStringLiteral("there is no element \"%1\"%2").arg(element.name, suggestion(element.name, known)));
         else if (isSvg(element) && element.name == QLatin1String("script"))
             warning("C45", element, QStringLiteral("scripts are left out"));
-    }
 }
 
 } // namespace declared

@@ -46,10 +46,9 @@ bool fits(const TrackForm &form, const QVector<Expression> &arguments)
     const QByteArray parameters(form.parameters);
     if (arguments.size() != parameters.size())
         return false;
-    for (int i = 0; i < arguments.size(); ++i) {
+    for (int i = 0; i < arguments.size(); ++i)
         if (arguments.at(i).type != (parameters.at(i) == 'p' ? Type::Point : Type::Number))
             return false;
-    }
     return true;
 }
 
@@ -104,10 +103,9 @@ void FileReader::readPoint(const Element &element, int number)
     if (!isRead)
         error("C09", element,
               QStringLiteral("a control point is a \"rect\" with numbers as x, y, width and height"));
-    for (int i = m_points.at(number - 1); i >= 0; i = m_elements.at(i).parent) {
+    for (int i = m_points.at(number - 1); i >= 0; i = m_elements.at(i).parent)
         if (m_elements.at(i).attribute(QStringLiteral("transform")))
             error("C10", element, QStringLiteral("a control point lies inside of no transform"));
-    }
     point.centre = {values[0] + values[2] / 2, values[1] + values[3] / 2};
     for (const Attribute &attribute : element.attributes) {
         if (attribute.namespaceUri == shapeNamespace && !pointAttributes.contains(attribute.name))

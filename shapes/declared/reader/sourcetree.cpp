@@ -28,10 +28,9 @@ SourceElement elementOf(const QXmlStreamReader &reader, const RawTag &tag, int p
 
 const SourceAttribute *SourceElement::attribute(const QString &name, const QString &namespaceUri) const
 {
-    for (const SourceAttribute &attribute : attributes) {
+    for (const SourceAttribute &attribute : attributes)
         if (attribute.name == name && attribute.namespaceUri == namespaceUri)
             return &attribute;
-    }
     return nullptr;
 }
 

@@ -4,10 +4,9 @@ namespace declared {
 
 int RawTag::offsetOf(const QString &attribute) const
 {
-    for (const RawAttribute &candidate : attributes) {
+    for (const RawAttribute &candidate : attributes)
         if (candidate.name == attribute)
             return candidate.offset;
-    }
     return offset;
 }
 

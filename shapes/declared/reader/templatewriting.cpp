@@ -85,10 +85,9 @@ void FileReader::writeElement(QXmlStreamWriter &writer, int index) const
     QStringList dropped = written.dropped + attributesOfTheKit;
     for (const auto &attribute : written.attributes)
         dropped.append(attribute.first);
-    for (const Attribute &attribute : element.attributes) {
+    for (const Attribute &attribute : element.attributes)
         if (isWritten(attribute) && !dropped.contains(attribute.name))
             writeAttribute(writer, attribute);
-    }
     for (const auto &attribute : written.attributes)
         writer.writeAttribute(attribute.first, attribute.second);
     if (!written.id.isEmpty())
@@ -136,13 +135,12 @@ void FileReader::writeCanonical(QXmlStreamWriter &writer, int index) const
     }
     for (auto attribute = sorted.constBegin(); attribute != sorted.constEnd(); ++attribute)
         writer.writeAttribute(attribute.key(), attribute.value());
-    for (const SourceContent &content : element.contents) {
+    for (const SourceContent &content : element.contents)
         if (content.element < 0 && !content.text.trimmed().isEmpty())
             writer.writeCharacters(content.text.simplified());
         else if (content.element >= 0 && (m_elements.at(content.element).namespaceUri == shapeNamespace ||
                                           !isLeftOut(m_elements.at(content.element))))
             writeCanonical(writer, content.element);
-    }
     writer.writeEndElement();
 }
 

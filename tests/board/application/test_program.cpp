@@ -46,10 +46,9 @@ static double meanDifference(const QImage &one, const QImage &other)
     if (one.size() != other.size() || one.isNull())
         return 255;
     double sum = 0;
-    for (int y = 0; y < one.height(); ++y) {
+    for (int y = 0; y < one.height(); ++y)
         for (int x = 0; x < one.width(); ++x)
             sum += qAbs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y)));
-    }
     return sum / one.width() / one.height();
 }
 
@@ -143,10 +142,9 @@ void TestProgram::exportWritesThePages()
         const QImage picture(file);
         QCOMPARE(picture.size(), size);
         QSet<QRgb> colors;
-        for (int y = 0; y < picture.height(); y += 5) {
+        for (int y = 0; y < picture.height(); y += 5)
             for (int x = 0; x < picture.width(); x += 5)
                 colors.insert(picture.pixel(x, y));
-        }
         // Paper, and fills and outlines of several shapes.
         QVERIFY2(colors.size() > 8, qPrintable(file));
     }

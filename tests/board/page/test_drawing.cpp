@@ -206,10 +206,9 @@ void TestDrawing::everyKindHasAPictureAndAName()
         // The corners are free, the figure is not.
         QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
         int opaque = 0;
-        for (int y = 0; y < picture.height(); ++y) {
+        for (int y = 0; y < picture.height(); ++y)
             for (int x = 0; x < picture.width(); ++x)
                 opaque += picture.pixelColor(x, y).alpha() > 200;
-        }
         QVERIFY2(opaque >= 50, qPrintable(button->kindId()));
     }
 }

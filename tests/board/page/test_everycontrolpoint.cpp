@@ -151,10 +151,9 @@ void TestEveryControlPoint::pointFollowsTheMouseAndComesBack_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("pose");
-    for (const pagehost::ObjectKind &kind : m_board->workspace().registry().kinds()) {
+    for (const pagehost::ObjectKind &kind : m_board->workspace().registry().kinds())
         for (int pose = 0; pose < int(std::size(poses)); ++pose)
             QTest::newRow(qPrintable(QString("%1, %2").arg(kind.id, poses[pose].name))) << kind.id << pose;
-    }
 }
 
 void TestEveryControlPoint::pointFollowsTheMouseAndComesBack()

@@ -245,10 +245,9 @@ void TestSelectingMany::aPanelThatComesToTheFrontShowsTheSelection()
     t.board.window().raisePanel(stylePanel(t.board.window()));
     QCoreApplication::processEvents();
     QStringList captions;
-    for (const QLabel *label : stylePanel(t.board.window())->findChildren<QLabel *>()) {
+    for (const QLabel *label : stylePanel(t.board.window())->findChildren<QLabel *>())
         if (label->isVisible())
             captions.append(label->text());
-    }
     QVERIFY2(captions.contains("12 objects"), qPrintable(captions.join(", ")));
 }
 

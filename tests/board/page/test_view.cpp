@@ -163,10 +163,9 @@ void TestView::emptyPageSaysWhatToDo()
     const auto hasInk = [&] {
         const QImage picture = board.view().viewport()->grab(middle).toImage();
         for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
+            for (int x = 0; x < picture.width(); ++x)
                 if (picture.pixelColor(x, y).lightness() < 150)
                     return true;
-            }
         }
         return false;
     };
@@ -211,10 +210,9 @@ void TestView::aBackgroundThatCanBeSeenThroughLiesOnPaper()
     board.page().setBackground(fill);
     const QRect page = board.view().mapFromScene(board.page().rect()).boundingRect();
     const QImage picture = board.view().viewport()->grab(page.adjusted(20, 20, -20, -20)).toImage();
-    for (int y = 0; y < 200; ++y) {
+    for (int y = 0; y < 200; ++y)
         for (int x = 0; x < 200; ++x)
             QCOMPARE(picture.pixelColor(x, y), QColor(Qt::white));
-    }
     board::applyTheme(board::Theme::Light);
 }
 
@@ -223,10 +221,9 @@ void TestView::aPatternChosenForAWhitePageIsSeen()
     BoardDriver board;
     QCoreApplication::processEvents();
     const auto chooseFill = [&](const QString &name) {
-        for (QToolButton *button : board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>()) {
+        for (QToolButton *button : board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>())
             if (button->isVisible() && button->accessibleName() == name)
                 button->click();
-        }
     };
     chooseFill("Pattern");
     QCOMPARE(board.page().background().fillType(), int(CPageBgProp::PatternFill));
@@ -256,10 +253,9 @@ void TestView::iconsFollowTheColours()
         const QImage picture = board::icon(board::Icon::Delete).pixmap(32, 32).toImage();
         int value = -1;
         for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
+            for (int x = 0; x < picture.width(); ++x)
                 if (picture.pixelColor(x, y).alpha() > 250)
                     value = qMax(value, picture.pixelColor(x, y).lightness());
-            }
         }
         return value;
     };

@@ -41,10 +41,9 @@ struct StyledShape
     {
         // The panel follows in the next turn of the event loop.
         QCoreApplication::processEvents();
-        for (Control *candidate : panel->findChildren<Control *>()) {
+        for (Control *candidate : panel->findChildren<Control *>())
             if (candidate->accessibleName() == accessibleName && candidate->isVisibleTo(panel))
                 return candidate;
-        }
         return nullptr;
     }
     pagehost::ObjectStyle style() const { return pagehost::styleOf(shape); }

@@ -55,10 +55,9 @@ struct PanelDesk
 
     template<typename Widget> Widget *widget(const QString &name) const
     {
-        for (Widget *candidate : panel->findChildren<Widget *>()) {
+        for (Widget *candidate : panel->findChildren<Widget *>())
             if (candidate->accessibleName() == name && candidate->isVisible())
                 return candidate;
-        }
         return nullptr;
     }
     PanelObject &first() const { return *objects.first(); }
@@ -68,10 +67,9 @@ struct PanelDesk
     QStringList captions() const
     {
         QStringList texts;
-        for (const QLabel *label : panel->findChildren<QLabel *>()) {
+        for (const QLabel *label : panel->findChildren<QLabel *>())
             if (label->isVisible())
                 texts.append(label->text());
-        }
         return texts;
     }
 

@@ -30,26 +30,23 @@ struct Stack : Editor
 {
     Stack()
     {
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 5; ++i)
             objects.append(add(QSizeF(100, 60), QPointF(100 * i, 0)));
-        }
         undoStack()->clear();
     }
     QString order() const
     {
         QString letters;
         const QVector<CBaseObject *> all = page->objects();
-        for (CBaseObject *object : all) {
+        for (CBaseObject *object : all)
             letters.append(QLatin1Char(char('A' + objects.indexOf(object))));
-        }
         return letters;
     }
     QVector<CBaseObject *> pick(const QString &letters) const
     {
         QVector<CBaseObject *> picked;
-        for (const QChar letter : letters) {
+        for (const QChar letter : letters)
             picked.append(objects.at(letter.toLatin1() - 'A'));
-        }
         return picked;
     }
     QVector<CBaseObject *> objects;
@@ -292,12 +289,10 @@ void TestCommands::resizedStubbornObjectComesBackExactly()
     Editor editor;
     auto *object = editor.add<StubbornObject>(QSizeF(99.9, 33.1), QPointF(1, 2));
     const double content = object->content;
-    for (const QSizeF &size : {QSizeF(17.3, 90), QSizeF(1000, 1000), QSizeF(3.7, 3.1)}) {
+    for (const QSizeF &size : {QSizeF(17.3, 90), QSizeF(1000, 1000), QSizeF(3.7, 3.1)})
         QVERIFY(pagehost::resizeObject(object, size));
-    }
-    while (undoStack()->canUndo()) {
+    while (undoStack()->canUndo())
         undoStack()->undo();
-    }
     QVERIFY(object->getClientRect().width() == 99.9 && object->getClientRect().height() == 33.1);
     QVERIFY(object->content == content);
 }

@@ -12,9 +12,8 @@ inline quint32 crcOf(const QByteArray &bytes)
     quint32 sum = 0xffffffff;
     for (const char byte : bytes) {
         sum ^= quint8(byte);
-        for (int bit = 0; bit < 8; ++bit) {
+        for (int bit = 0; bit < 8; ++bit)
             sum = (sum >> 1) ^ ((sum & 1) ? 0xedb88320 : 0);
-        }
     }
     return ~sum;
 }

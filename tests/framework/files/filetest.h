@@ -54,9 +54,8 @@ inline pagehost::Lesson turningLesson(const QString &title, int turns)
     pagehost::Lesson lesson;
     lesson.title = title;
     lesson.start = {pagehost::PageAppeared{0, QSizeF(400, 300), "paper"}};
-    for (int turn = 1; turn <= turns; ++turn) {
+    for (int turn = 1; turn <= turns; ++turn)
         lesson.events.append({turn * 1000, pagehost::PageTurned{0}});
-    }
     lesson.duration = turns * 1000;
     return lesson;
 }
@@ -80,16 +79,14 @@ inline QByteArray contentsOf(const QString &file)
 inline void writeContents(const QString &file, const QByteArray &bytes)
 {
     QFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
         qFatal("%s cannot be written", qPrintable(file));
-    }
 }
 
 inline QStringList textKeys(const QVector<pagehost::FileMessage> &messages)
 {
     QStringList keys;
-    for (const pagehost::FileMessage &message : messages) {
+    for (const pagehost::FileMessage &message : messages)
         keys.append(message.textKey);
-    }
     return keys;
 }

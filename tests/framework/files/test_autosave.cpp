@@ -285,9 +285,8 @@ void TestAutosave::newestCopyComesFirst()
     }
     QStringList names;
     const QVector<RecoverableDocument> copies = Autosave(m_folder).recoverable();
-    for (const RecoverableDocument &copy : copies) {
+    for (const RecoverableDocument &copy : copies)
         names.append(QFileInfo(copy.recoveryFile).baseName());
-    }
     QCOMPARE(names, QStringList({QStringLiteral("copy3"), QStringLiteral("copy2"), QStringLiteral("copy1")}));
     QCOMPARE(copies[0].time, noon.addSecs(3600 * 3));
 }
@@ -302,9 +301,8 @@ static void setAge(const QString &file, int seconds)
 static pid_t processThatIsGone()
 {
     const pid_t child = fork();
-    if (child == 0) {
+    if (child == 0)
         _exit(0);
-    }
     waitpid(child, nullptr, 0);
     return child;
 }

@@ -137,9 +137,8 @@ void changeType(QByteArray &bytes, Random &random)
     const int colon = bytes.indexOf(": ", upTo(random, bytes.size() - 1));
     const int start = colon < 0 ? bytes.indexOf(": ") + 2 : colon + 2;
     int end = start;
-    while (end < bytes.size() && bytes.at(end) != ',' && bytes.at(end) != '\n') {
+    while (end < bytes.size() && bytes.at(end) != ',' && bytes.at(end) != '\n')
         ++end;
-    }
     bytes.replace(start, end - start, values[upTo(random, int(std::size(values)) - 1)]);
 }
 
@@ -188,9 +187,8 @@ void TestDamagedFiles::randomDamageIsSurvived()
     Random random(20240607);
     const int kindCount = registry().kinds().size();
     QVector<QByteArray> files;
-    for (int number = 0; number < kindCount; ++number) {
+    for (int number = 0; number < kindCount; ++number)
         files.append(encodeDocument(*document(number), format));
-    }
     for (int round = 0; round < fileCount(); ++round) {
         QByteArray bytes = files.at(round % files.size());
         const QByteArray whole = bytes;
@@ -199,9 +197,8 @@ void TestDamagedFiles::randomDamageIsSurvived()
         const bool mustTell = format == DocumentFormat::Binary && bytes != whole;
         QVERIFY2(!mustTell || !opened.messages.isEmpty(), qPrintable(QString::number(round)));
         QVERIFY(opened.document || !opened.messages.isEmpty());
-        if (!opened.document || round % 10 != 0) {
+        if (!opened.document || round % 10 != 0)
             continue;
-        }
         const QByteArray saved = encodeDocument(*opened.document, format);
         const OpenResult again = decodeDocument(saved, registry());
         QVERIFY(again.document);

@@ -52,9 +52,8 @@ QList<QByteArray> damagedParts(const ExtraData &extra)
 {
     QList<QByteArray> parts;
     const QJsonArray texts = extra.members.value(QLatin1String("damaged")).toArray();
-    for (const QJsonValue &text : texts) {
+    for (const QJsonValue &text : texts)
         parts.append(QByteArray::fromBase64(text.toString().toLatin1()));
-    }
     return parts;
 }
 
@@ -284,9 +283,8 @@ void TestDamagedParts::messagesCountTheObjectsOfEachPage()
     const ObjectRegistry ignorant;
     const OpenResult opened = decodeDocument(fileOf(*fourObjects()), ignorant);
     QVector<QPair<int, int>> places;
-    for (const FileMessage &message : opened.messages) {
+    for (const FileMessage &message : opened.messages)
         places.append({message.page, message.object});
-    }
     QCOMPARE(places, (QVector<QPair<int, int>>{{1, 1}, {1, 2}, {2, 1}, {2, 2}}));
 }
 

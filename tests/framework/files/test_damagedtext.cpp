@@ -16,9 +16,8 @@ std::unique_ptr<Document> makeDocument(int pages, int objectsEach)
     int number = 0;
     for (int i = 0; i < pages; ++i) {
         Page *page = document->appendPage(QSizeF(400, 300));
-        for (int j = 0; j < objectsEach; ++j) {
+        for (int j = 0; j < objectsEach; ++j)
             addPlain(page, QPointF(++number, 5));
-        }
     }
     document->setLessons({{QStringLiteral("first"), lessonText(QStringLiteral("first"))},
                           {QStringLiteral("second"), lessonBytes(QStringLiteral("second"))}});
@@ -47,11 +46,9 @@ QList<QList<double>> placesIn(const OpenResult &opened)
     QList<QList<double>> places;
     for (const Page *page : opened.document->pages()) {
         places.append(QList<double>());
-        for (const CBaseObject *object : page->objects()) {
-            if (!isPlaceholder(object)) {
+        for (const CBaseObject *object : page->objects())
+            if (!isPlaceholder(object))
                 places.last().append(object->pos().x());
-            }
-        }
     }
     return places;
 }
@@ -59,18 +56,16 @@ QList<QList<double>> placesIn(const OpenResult &opened)
 QStringList lessonNames(const OpenResult &opened)
 {
     QStringList names;
-    for (const LessonData &lesson : opened.document->lessons()) {
+    for (const LessonData &lesson : opened.document->lessons())
         names.append(lesson.name);
-    }
     return names;
 }
 
 QList<QByteArray> damagedParts(const ExtraData &extra)
 {
     QList<QByteArray> parts;
-    for (const QJsonValue &part : extra.members.value(QLatin1String("damaged")).toArray()) {
+    for (const QJsonValue &part : extra.members.value(QLatin1String("damaged")).toArray())
         parts.append(QByteArray::fromBase64(part.toString().toLatin1()));
-    }
     return parts;
 }
 
@@ -282,9 +277,8 @@ void TestDamagedText::objectsOfAOneLineFileAreFoundBehindDamage()
     const OpenResult opened = decodeDocument(text, m_registry);
     QVERIFY(opened.document);
     QList<double> all;
-    for (const QList<double> &places : placesIn(opened)) {
+    for (const QList<double> &places : placesIn(opened))
         all += places;
-    }
     QCOMPARE(all, (QList<double>{1, 2, 3, 4}));
     QCOMPARE(lessonNames(opened), bothLessons);
     QVERIFY(!opened.messages.isEmpty());

@@ -73,9 +73,8 @@ public:
     }
     bool load(QDataStream &in) override
     {
-        if (m_kind == QLatin1String("test.modest")) {
+        if (m_kind == QLatin1String("test.modest"))
             return true;
-        }
         const bool loaded = TestObject::load(in);
         if (m_kind == QLatin1String("test.greedy")) {
             quint32 more = 0;
@@ -101,9 +100,8 @@ public:
     {
         QVector<ObjectKind> kinds;
         for (const char *kind :
-             {"test.careful", "test.forgetful", "test.greedy", "test.modest", "test.refusing", "test.unsavable"}) {
+             {"test.careful", "test.forgetful", "test.greedy", "test.modest", "test.refusing", "test.unsavable"})
             kinds.append({QString::fromLatin1(kind), QStringLiteral("IDS_TEST_OBJECT"), QString()});
-        }
         return kinds;
     }
     CBaseObject *createObject(const QString &kind) const override { return new CarelessObject(kind); }

@@ -81,21 +81,18 @@ Sample sampleOf(DocumentFormat format)
     if (format == DocumentFormat::Json) {
         objects = rangesOf(sample.bytes, "{\n          \"kind\"", "\n        }");
         sample.lessons = rangesOf(sample.bytes, "{\n      \"name\"", "\n    }");
-        for (QVector<Range> *ranges : {&objects, &sample.lessons}) {
-            for (Range &range : *ranges) {
+        for (QVector<Range> *ranges : {&objects, &sample.lessons})
+            for (Range &range : *ranges)
                 range.end = sample.bytes.indexOf('}', range.end) + 1;
-            }
-        }
     } else {
         int offset = 8;
         while (offset < sample.bytes.size()) {
             const QByteArray tag = sample.bytes.mid(offset, 4);
             const int size = 16 + int(qFromBigEndian<quint32>(sample.bytes.constData() + offset + 4));
-            if (tag == "OBJT") {
+            if (tag == "OBJT")
                 objects.append({offset, offset + size});
-            } else if (tag == "LESS") {
+            else if (tag == "LESS")
                 sample.lessons.append({offset, offset + size});
-            }
             offset += size;
         }
     }
@@ -148,9 +145,8 @@ template<int Count> int zeroed(QByteArray &bytes, int place)
 /// The line that begins there stands there twice; nothing happens elsewhere.
 int doubledLine(QByteArray &bytes, int place)
 {
-    if (place > 0 && bytes.at(place - 1) != '\n') {
+    if (place > 0 && bytes.at(place - 1) != '\n')
         return 0;
-    }
     const int end = bytes.indexOf('\n', place) + 1;
     bytes.insert(place, bytes.mid(place, end - place));
     return 0;
@@ -171,11 +167,9 @@ bool hasPlaceForEach(const FileMessage &message)
     for (const char *language : {"en", "de"}) {
         localizer.setLanguage(QLatin1String(language));
         const QString text = localizer.text(message.textKey);
-        for (int number = 1; number <= 3; ++number) {
-            if (text.contains(QStringLiteral("%%1").arg(number)) != (number <= message.arguments.size())) {
+        for (int number = 1; number <= 3; ++number)
+            if (text.contains(QStringLiteral("%%1").arg(number)) != (number <= message.arguments.size()))
                 return false;
-            }
-        }
     }
     return true;
 }
@@ -183,9 +177,8 @@ bool hasPlaceForEach(const FileMessage &message)
 int countOfObjects(const Document &document)
 {
     int count = 0;
-    for (const Page *page : document.pages()) {
+    for (const Page *page : document.pages())
         count += page->objectCount();
-    }
     return count;
 }
 
@@ -224,9 +217,8 @@ void TestEveryDamage::whatIsNotTouchedComesBackAndTheRestIsTold_data()
         const QByteArray json = QByteArray("json, ") + name;
         const QByteArray binary = QByteArray("binary, ") + name;
         QTest::newRow(json.constData()) << DocumentFormat::Json << damage;
-        if (!isForText) {
+        if (!isForText)
             QTest::newRow(binary.constData()) << DocumentFormat::Binary << damage;
-        }
     };
     row("lowest bit flipped", lowestBitFlipped);
     row("a byte deleted", deleted<1>);
@@ -250,9 +242,8 @@ void TestEveryDamage::whatIsNotTouchedComesBackAndTheRestIsTold()
     QStringList problems;
     for (int place = 0; place < sample.bytes.size(); place += step) {
         const QString problem = problemAfter(sample, format, damage, place);
-        if (!problem.isEmpty()) {
+        if (!problem.isEmpty())
             problems.append(QStringLiteral("%1: %2").arg(place).arg(problem));
-        }
     }
     QVERIFY2(problems.isEmpty(),
              qPrintable(QStringLiteral("%1 places\n").arg(problems.size()) + problems.mid(0, 20).join('\n')));
@@ -269,44 +260,34 @@ QString TestEveryDamage::problemAfter(const Sample &sample, DocumentFormat forma
         return isNewer ? QString() : QStringLiteral("not opened");
     }
     const QString loss = lossIn(opened, sample, place, place + length);
-    if (!loss.isEmpty()) {
+    if (!loss.isEmpty())
         return loss;
-    }
-    if (format == DocumentFormat::Binary && bytes != sample.bytes && opened.messages.isEmpty()) {
+    if (format == DocumentFormat::Binary && bytes != sample.bytes && opened.messages.isEmpty())
         return QStringLiteral("not told");
-    }
-    for (const FileMessage &message : opened.messages) {
-        if (!hasPlaceForEach(message)) {
+    for (const FileMessage &message : opened.messages)
+        if (!hasPlaceForEach(message))
             return QStringLiteral("%1 has other places for its arguments").arg(message.textKey);
-        }
-    }
     return place % stepOfSaving == 0 ? savingProblem(opened, format) : QString();
 }
 
 QString TestEveryDamage::lossIn(const OpenResult &opened, const Sample &sample, int from, int to) const
 {
     QVector<QJsonObject> found;
-    for (const Page *page : opened.document->pages()) {
-        for (CBaseObject *object : page->objects()) {
+    for (const Page *page : opened.document->pages())
+        for (CBaseObject *object : page->objects())
             found.append(isPlaceholder(object) ? QJsonObject() : stateOf(object));
-        }
-    }
     for (auto object = sample.objects.begin(); object != sample.objects.end(); ++object) {
         const int times = found.count(sample.states.value(object.key()));
-        if (object->isApartFrom(from, to) && times != 1) {
+        if (object->isApartFrom(from, to) && times != 1)
             return QStringLiteral("object at %1 is there %2 times").arg(object.key()).arg(times);
-        }
     }
     const QVector<LessonData> lessons = opened.document->lessons();
     const QVector<LessonData> expected = makeDocument()->lessons();
-    for (int i = 0; i < expected.size(); ++i) {
-        if (sample.lessons[i].isApartFrom(from, to) && lessons.count(expected[i]) != 1) {
+    for (int i = 0; i < expected.size(); ++i)
+        if (sample.lessons[i].isApartFrom(from, to) && lessons.count(expected[i]) != 1)
             return QStringLiteral("lesson %1 is gone").arg(i);
-        }
-    }
-    if (!opened.messages.isEmpty()) {
+    if (!opened.messages.isEmpty())
         return {};
-    }
     const bool isAllThere = countOfObjects(*opened.document) == sample.objects.size() && lessons.size() == 2 &&
                             opened.document->pageCount() == sample.pages &&
                             opened.document->extraData().members.size() >= 1 &&
@@ -317,13 +298,11 @@ QString TestEveryDamage::lossIn(const OpenResult &opened, const Sample &sample, 
 QString TestEveryDamage::savingProblem(const OpenResult &opened, DocumentFormat format) const
 {
     const QByteArray saved = encodeDocument(*opened.document, format);
-    if (!isValidFile(saved, format)) {
+    if (!isValidFile(saved, format))
         return QStringLiteral("saved file is not valid");
-    }
     const OpenResult again = decodeDocument(saved, m_registry);
-    if (!again.document || encodeDocument(*again.document, format) != saved) {
+    if (!again.document || encodeDocument(*again.document, format) != saved)
         return QStringLiteral("saved file has other content");
-    }
     return {};
 }
 

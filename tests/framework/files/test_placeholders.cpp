@@ -208,9 +208,8 @@ void TestPlaceholders::placeholderIsADashedBox()
     const QImage picture = pageImage(opened.document->page(0), 1);
     // Along the upper edge of the box, from (50, 60) to (150, 60), dashes and gaps take turns.
     int dark = 0;
-    for (int x = 50; x < 150; ++x) {
+    for (int x = 50; x < 150; ++x)
         dark += qGray(picture.pixel(x, 60)) < 200 ? 1 : 0;
-    }
     QVERIFY(dark > 30 && dark < 90);
     QCOMPARE(QColor(picture.pixel(48, 60)), QColor(Qt::white));
     QVERIFY(QColor(picture.pixel(53, 117)) != QColor(Qt::white));
@@ -326,12 +325,10 @@ void TestPlaceholders::placeholderCannotBeReshaped()
     const OpenResult opened =
         decodeDocument(encodeDocument(*documentWithObject(), DocumentFormat::Binary), m_ignorant);
     CBaseObject *placeholder = firstObject(opened);
-    for (const OperationType operation : {OperationResize, OperationRotate, OperationMirror}) {
+    for (const OperationType operation : {OperationResize, OperationRotate, OperationMirror})
         QVERIFY(!placeholder->canDo(operation));
-    }
-    for (const OperationType operation : {OperationMove, OperationDelete, OperationCopy, OperationReorder}) {
+    for (const OperationType operation : {OperationMove, OperationDelete, OperationCopy, OperationReorder})
         QVERIFY(placeholder->canDo(operation));
-    }
 }
 
 /// A rotation that is no number, which no user can make.
@@ -412,17 +409,15 @@ void TestPlaceholders::objectsThatAreHugeTogetherBecomePlaceholders()
     constexpr int withRoom = 16;
     Document document;
     Page *page = document.appendPage();
-    for (int index = 0; index < count; ++index) {
+    for (int index = 0; index < count; ++index)
         addPlain(page, QPointF(0, 0))->setSize(QSizeF(8192, 8192), false, false);
-    }
     const OpenResult opened = decodeDocument(encodeDocument(document, DocumentFormat::Binary), m_registry);
     const QString tooLarge = QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE");
     QCOMPARE(textKeys(opened.messages), QStringList({tooLarge, tooLarge}));
     const QVector<CBaseObject *> objects = opened.document->page(0)->objects();
     QCOMPARE(objects.size(), count);
-    for (int index = 0; index < count; ++index) {
+    for (int index = 0; index < count; ++index)
         QCOMPARE(isPlaceholder(objects[index]), index >= withRoom);
-    }
 }
 
 void TestPlaceholders::brokenJsonIsToldWithLineAndColumn()

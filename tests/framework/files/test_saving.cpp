@@ -43,9 +43,8 @@ std::unique_ptr<Document> documentOfSize(int size, unsigned start)
 template<typename Work> int inChild(Work work)
 {
     const pid_t child = fork();
-    if (child == 0) {
+    if (child == 0)
         _exit(work());
-    }
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -368,9 +367,8 @@ void TestSaving::protectedFileIsNotReplaced()
     QCOMPARE(::chmod(qPrintable(folder.path()), 0777), 0);
     const int told = inChild([&] {
         // Nothing is protected from the administrator.
-        if (::geteuid() == 0 && ::setuid(65534) != 0) {
+        if (::geteuid() == 0 && ::setuid(65534) != 0)
             return 2;
-        }
         return saveDocument(*document, file).problem.textKey == QLatin1String("IDS_FILE_CANNOT_WRITE") ? 1 : 0;
     });
     QCOMPARE(told, 1);

@@ -147,9 +147,8 @@ void TestShapeFiles::addKinds()
 {
     QTest::addColumn<QString>("kind");
     const QVector<ObjectKind> kinds = registry().kinds();
-    for (const ObjectKind &kind : kinds) {
+    for (const ObjectKind &kind : kinds)
         QTest::newRow(qPrintable(kind.id)) << kind.id;
-    }
 }
 
 void TestShapeFiles::addRows()
@@ -157,11 +156,9 @@ void TestShapeFiles::addRows()
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("mode");
     const QVector<ObjectKind> kinds = registry().kinds();
-    for (const ObjectKind &kind : kinds) {
-        for (int mode = 0; mode < int(std::size(modes)); ++mode) {
+    for (const ObjectKind &kind : kinds)
+        for (int mode = 0; mode < int(std::size(modes)); ++mode)
             QTest::addRow("%s, %s", qPrintable(kind.id), modes[mode].name) << kind.id << mode;
-        }
-    }
 }
 
 std::unique_ptr<Document> TestShapeFiles::documentOf(const QString &kind, int mode)
@@ -196,9 +193,8 @@ void TestShapeFiles::bothFormatsOpenToEqualPages()
     const std::unique_ptr<Document> document = documentOf(kind, mode);
     const OpenResult one = decodeDocument(encodeDocument(*document, DocumentFormat::Binary), registry());
     const OpenResult other = decodeDocument(encodeDocument(*document, DocumentFormat::Json), registry());
-    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json}) {
+    for (const DocumentFormat format : {DocumentFormat::Binary, DocumentFormat::Json})
         QCOMPARE(encodeDocument(*one.document, format), encodeDocument(*other.document, format));
-    }
 }
 
 void TestShapeFiles::openedShapeLooksTheSame()

@@ -122,9 +122,8 @@ void TestFill::disabledFillGivesNoBrush()
 void TestFill::brushColorIsTheFillColorWhateverTheType_data()
 {
     QTest::addColumn<int>("type");
-    for (int type = CPageBgProp::NoFill; type <= CPageBgProp::PictureFill; ++type) {
+    for (int type = CPageBgProp::NoFill; type <= CPageBgProp::PictureFill; ++type)
         QTest::addRow("type %d", type) << type;
-    }
 }
 
 void TestFill::brushColorIsTheFillColorWhateverTheType()

@@ -118,9 +118,8 @@ void TestKeptPictures::everyChangeShows_data()
 {
     QTest::addColumn<QString>("kind");
     const QVector<pagehost::ObjectKind> kinds = registry().kinds();
-    for (const pagehost::ObjectKind &kind : kinds) {
+    for (const pagehost::ObjectKind &kind : kinds)
         QTest::newRow(qPrintable(kind.id)) << kind.id;
-    }
 }
 
 void TestKeptPictures::everyChangeShows()
@@ -271,9 +270,8 @@ void TestKeptPictures::randomChangesAtRandomZoomsShow()
     std::mt19937 chance(20260);
     QStringList done;
     for (int round = 0; round < rounds; ++round) {
-        for (int change = 0; change <= round % 3; ++change) {
+        for (int change = 0; change <= round % 3; ++change)
             done.append(changeByChance(shown, chance));
-        }
         QVERIFY2(shown.leavesNoTraces(), qPrintable(done.join(QStringLiteral(", "))));
     }
 }

@@ -19,13 +19,11 @@ QSet<QString> keysIn(const QString &folder)
                        QDir::Files, QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
     while (files.hasNext()) {
         QFile file(files.next());
-        if (!file.open(QIODevice::ReadOnly)) {
+        if (!file.open(QIODevice::ReadOnly))
             continue;
-        }
         auto matches = literal.globalMatch(QString::fromUtf8(file.readAll()));
-        while (matches.hasNext()) {
+        while (matches.hasNext())
             keys.insert(matches.next().captured(1));
-        }
     }
     return keys;
 }

@@ -41,9 +41,8 @@ public:
     using TestObject::TestObject;
     void OnQPainterDraw(QPainter *painter) override
     {
-        if (!painter) {
+        if (!painter)
             return;
-        }
         beginPaint(painter);
         painter->fillRect(QRectF(0, 0, clientRect.width() / 2, clientRect.height() / 2), Qt::red);
         endPaint(painter);
@@ -139,9 +138,8 @@ void TestPageObject::canDoTheHostsOperationsOnly()
 {
     TestObject object;
     const QVector<int> can{0, 1, 2, 10, 11, 20, 21, 22, 23, 24, 36};
-    for (int operation = -1; operation <= 1300; ++operation) {
+    for (int operation = -1; operation <= 1300; ++operation)
         QCOMPARE(object.canDo(OperationType(operation)), can.contains(operation));
-    }
 }
 
 void TestPageObject::paintPaintsTheContentAndNothingElse()
@@ -510,18 +508,16 @@ void TestPageObject::refusesToReplayWhatItDoesNotKnow()
 {
     TestObject object;
     QDataStream in(QByteArray(64, '\0'));
-    for (const int id : {0, 100, 107, 1001, 1005}) {
+    for (const int id : {0, 100, 107, 1001, 1005})
         QVERIFY(!object.DoPlaybackActionEx(id, in));
-    }
     QCOMPARE(in.device()->pos(), 0);
 }
 
 void TestPageObject::refusesToReplayShortPayloads_data()
 {
     QTest::addColumn<int>("action");
-    for (int action = 101; action <= 106; ++action) {
+    for (int action = 101; action <= 106; ++action)
         QTest::addRow("action %d", action) << action;
-    }
 }
 
 void TestPageObject::refusesToReplayShortPayloads()

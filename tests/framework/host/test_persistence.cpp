@@ -298,9 +298,8 @@ void TestPersistence::impossibleAttributesAreRefused_data()
     QTest::newRow("text colour of an unknown kind") << 2003 << QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11);
     QTest::newRow("border colour of an unknown kind") << 2050 << QByteArray("\x06\xff\xff\0\0\0\0\0\0\0\0", 11);
     QTest::newRow("negative border") << 2051 << streamed(-1.0);
-    for (const int id : {2001, 2002, 2003, 2004, 2010, 2011, 2012, 2013, 2014, 2015, 2050, 2051}) {
+    for (const int id : {2001, 2002, 2003, 2004, 2010, 2011, 2012, 2013, 2014, 2015, 2050, 2051})
         QTest::addRow("%d on an empty stream", id) << id << QByteArray();
-    }
 }
 
 void TestPersistence::impossibleAttributesAreRefused()

@@ -65,9 +65,8 @@ public:
 int opaquePixels(const QImage &image, int row)
 {
     int count = 0;
-    for (int x = 0; x < image.width(); ++x) {
+    for (int x = 0; x < image.width(); ++x)
         count += qAlpha(image.pixel(x, row)) > 0 ? 1 : 0;
-    }
     return count;
 }
 
@@ -255,9 +254,8 @@ void TestServices::lineIconShowsTheLineInTheMiddle()
 void TestServices::lineIconIsEmptyForNoLine_data()
 {
     QTest::addColumn<int>("style");
-    for (const int style : {-1, int(Qt::NoPen), int(Qt::CustomDashLine), 1000}) {
+    for (const int style : {-1, int(Qt::NoPen), int(Qt::CustomDashLine), 1000})
         QTest::addRow("style %d", style) << style;
-    }
 }
 
 void TestServices::lineIconIsEmptyForNoLine()
@@ -265,9 +263,8 @@ void TestServices::lineIconIsEmptyForNoLine()
     QFETCH(int, style);
     const QImage icon = CUtil::genIconForLineStyle(40, 11, 3, style, Qt::red).toImage();
     QCOMPARE(icon.size(), QSize(40, 11));
-    for (int row = 0; row < icon.height(); ++row) {
+    for (int row = 0; row < icon.height(); ++row)
         QCOMPARE(opaquePixels(icon, row), 0);
-    }
 }
 
 void TestServices::dashedLineHasGaps()
@@ -312,9 +309,8 @@ void TestServices::viewNameIsKnownInAGrabbedView()
     view.setObjectName(QStringLiteral("mainGraphicsView"));
     view.grab();
     QVERIFY(!item->names.isEmpty());
-    for (const QString &name : qAsConst(item->names)) {
+    for (const QString &name : qAsConst(item->names))
         QCOMPARE(name, QStringLiteral("mainGraphicsView"));
-    }
 }
 
 void TestServices::viewNameIsEmptyForImages()
@@ -499,9 +495,8 @@ void TestServices::otherTextIsNoSettingAnswer_data()
 {
     QTest::addColumn<QString>("json");
     for (const char *json : {"", "nonsense", "{", "3", "\"text\"", R"({"a": null})", R"({"a": [1]})",
-                             R"({"a": {"b": 1}})", R"([1])", R"([{"id": "a"}])", R"([{"value": 3}])"}) {
+                             R"({"a": {"b": 1}})", R"([1])", R"([{"id": "a"}])", R"([{"value": 3}])"})
         QTest::newRow(*json ? json : "nothing") << QString::fromLatin1(json);
-    }
 }
 
 void TestServices::otherTextIsNoSettingAnswer()

@@ -167,9 +167,8 @@ bool isSame(const Lesson &one, const Lesson &other)
 Lesson turning(QVector<qint64> times, qint64 duration)
 {
     Lesson lesson;
-    for (const qint64 time : qAsConst(times)) {
+    for (const qint64 time : qAsConst(times))
         lesson.events.append({time, pagehost::PageTurned{0}});
-    }
     lesson.duration = duration;
     return lesson;
 }
@@ -334,10 +333,8 @@ void TestLessonData::textWithOneFlippedBitGivesWhatIsBefore()
     const QByteArray whole = QJsonDocument(lesson.toJson()).toJson(QJsonDocument::Compact);
     const int first = whole.indexOf("\"events\":[{");
     QVector<int> ends;
-    for (int end = whole.indexOf('}', first); ends.size() < lesson.events.size();
-         end = whole.indexOf('}', end + 1)) {
+    for (int end = whole.indexOf('}', first); ends.size() < lesson.events.size(); end = whole.indexOf('}', end + 1))
         ends.append(end + 1);
-    }
     const int behind = ends.last() + 1;
     for (int place = first + 11; place < behind; ++place) {
         for (int bit = 0; bit < 8; ++bit) {
@@ -476,9 +473,8 @@ void TestLessonData::wrongJsonIsRefused_data()
         QJsonObject whole{{QStringLiteral("time"), 1},
                           {QStringLiteral("kind"), QStringLiteral("vanished")},
                           {QStringLiteral("object"), 1}};
-        for (auto member = members.begin(); member != members.end(); ++member) {
+        for (auto member = members.begin(); member != members.end(); ++member)
             whole.insert(member.key(), member.value());
-        }
         row(name, "events", QJsonArray{whole});
     };
     event("unknown kind", {{QStringLiteral("kind"), QStringLiteral("danced")}});

@@ -447,9 +447,8 @@ void TestLessonPlayer::everyActionIdIsReplayed()
         pagehost::setPenStyle({object}, Qt::DotLine);           // 1003
         pagehost::setPenWidth({object}, 6);                     // 1004
         room.page->select({object});
-        for (const QPointF &grip : {QPointF(112, 160), QPointF(240, 130), QPointF(238, 128)}) { // 1001
+        for (const QPointF &grip : {QPointF(112, 160), QPointF(240, 130), QPointF(238, 128)}) // 1001
             room.drag(grip, grip + QPointF(9, 7));
-        }
         pagehost::moveObjects({object}, QPointF(12.25, -3)); // 101
         pagehost::resizeObject(object, QSizeF(260, 171));    // 102
         pagehost::rotateObjects({object}, 41);               // 103
@@ -464,9 +463,8 @@ void TestLessonPlayer::everyActionIdIsReplayed()
         lesson.events = sink.actions;
     }
     QSet<int> ids;
-    for (const pagehost::LessonEvent &event : qAsConst(lesson.events)) {
+    for (const pagehost::LessonEvent &event : qAsConst(lesson.events))
         ids.insert(std::get<pagehost::ObjectActed>(event.step).actionId);
-    }
     QCOMPARE(ids, (QSet<int>{1001, 1002, 1003, 1004, 1005, 101, 102, 103, 104, 105, 106}));
     QVERIFY(savedState(object) != before);
     room.player.setLesson(lesson);
@@ -568,9 +566,8 @@ void TestLessonPlayer::stepsAboutNothingDoNothing()
         pagehost::PageTurned{8},
         pagehost::ZoomChanged{0},
     };
-    for (const pagehost::LessonStep &step : steps) {
+    for (const pagehost::LessonStep &step : steps)
         lesson.events.append({0, step});
-    }
     room.player.setLesson(lesson);
     const QStringList before = savedState(*room.player.document());
     room.player.playToEnd();

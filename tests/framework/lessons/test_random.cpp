@@ -48,9 +48,8 @@ public:
     {
         m_room.now += number(400);
         m_room.view.setScene(page()->scene());
-        if (page()->objects().isEmpty()) {
+        if (page()->objects().isEmpty())
             return draw();
-        }
         static const QVector<void (Teacher::*)()> changes{
             &Teacher::draw,      &Teacher::remove,     &Teacher::move,       &Teacher::resize,  &Teacher::rotate,
             &Teacher::mirror,    &Teacher::restack,    &Teacher::lock,       &Teacher::fill,    &Teacher::shade,
@@ -70,9 +69,8 @@ private:
 
     void draw()
     {
-        if (page()->objectCount() >= mostObjects) {
+        if (page()->objectCount() >= mostObjects)
             return remove();
-        }
         const QPointF from(real(10, 500), real(10, 400));
         m_room.draw(m_kinds[number(m_kinds.size())], from, from + QPointF(real(-80, 200), real(-60, 200)));
     }
@@ -125,15 +123,13 @@ private:
     void dragGrip(pagehost::Grip::Kind kind)
     {
         QPointF pos;
-        if (!pressGrip(kind, pos)) {
+        if (!pressGrip(kind, pos))
             return;
-        }
         for (int moves = number(4); moves >= 0; --moves) {
             pos += QPointF(real(-25, 25), real(-25, 25));
             m_room.moveTo(pos);
-            if (number(3) == 0) {
+            if (number(3) == 0)
                 Classroom::letTimersRun();
-            }
         }
         m_room.release(pos);
     }
@@ -177,18 +173,14 @@ private:
     QJsonValue anyAnswer(const QJsonObject &control)
     {
         const QString type = control.value(QLatin1String("type")).toString();
-        if (number(10) == 0) {
+        if (number(10) == 0)
             return QStringLiteral("nonsense");
-        }
-        if (type == QLatin1String("colorpicker")) {
+        if (type == QLatin1String("colorpicker"))
             return anyColor().name(QColor::HexArgb);
-        }
-        if (type == QLatin1String("combobox")) {
+        if (type == QLatin1String("combobox"))
             return number(6);
-        }
-        if (type == QLatin1String("switch")) {
+        if (type == QLatin1String("switch"))
             return number(2) == 0;
-        }
         const double smallest = control.value(QLatin1String("minimum")).toString().toDouble();
         const double largest = control.value(QLatin1String("maximum")).toString().toDouble();
         return smallest < largest ? QString::number(real(smallest, largest)) : QString::number(number(100));
@@ -200,9 +192,8 @@ private:
         const int index = number(document.pageCount());
         switch (number(5)) {
         case 0:
-            if (document.pageCount() < mostPages) {
+            if (document.pageCount() < mostPages)
                 pagehost::addPage(&document, index, QSizeF(real(300, 900), real(300, 900)));
-            }
             break;
         case 1:
             pagehost::removePage(&document, index);
@@ -222,11 +213,10 @@ private:
 
     void takeBreak()
     {
-        if (m_room.recorder.isPaused()) {
+        if (m_room.recorder.isPaused())
             m_room.recorder.resume();
-        } else {
+        else
             m_room.recorder.pause();
-        }
     }
 
     Classroom &m_room;
@@ -238,15 +228,13 @@ void recordAndPlay(const QStringList &kinds, quint32 start, int steps)
 {
     Classroom room;
     Teacher teacher(room, kinds, start);
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 5; ++i)
         teacher.doSomething();
-    }
     QVERIFY(room.recorder.start(&room.document));
     // Only now have all objects followed the zoom, as they do when they are painted.
     const QStringList before = savedState(room.document);
-    for (int i = 0; i < steps; ++i) {
+    for (int i = 0; i < steps; ++i)
         teacher.doSomething();
-    }
     const pagehost::Lesson lesson = room.recorder.stop();
     const QStringList after = savedState(room.document);
     QVERIFY(after != before);
@@ -273,9 +261,8 @@ void TestLessonRandom::everyShapePlaysWhatWasRecorded_data()
 {
     QTest::addColumn<QString>("kind");
     const QVector<pagehost::ObjectKind> all = shapes().kinds();
-    for (const pagehost::ObjectKind &kind : all) {
+    for (const pagehost::ObjectKind &kind : all)
         QTest::newRow(qPrintable(kind.id)) << kind.id;
-    }
 }
 
 void TestLessonRandom::everyShapePlaysWhatWasRecorded()
@@ -287,9 +274,8 @@ void TestLessonRandom::everyShapePlaysWhatWasRecorded()
 void TestLessonRandom::manyShapesPlayWhatWasRecorded_data()
 {
     QTest::addColumn<quint32>("start");
-    for (const quint32 start : {1u, 20u, 300u}) {
+    for (const quint32 start : {1u, 20u, 300u})
         QTest::newRow(qPrintable(QString::number(start))) << start;
-    }
 }
 
 void TestLessonRandom::manyShapesPlayWhatWasRecorded()
@@ -297,9 +283,8 @@ void TestLessonRandom::manyShapesPlayWhatWasRecorded()
     QFETCH(quint32, start);
     QStringList kinds;
     const QVector<pagehost::ObjectKind> all = shapes().kinds();
-    for (const pagehost::ObjectKind &kind : all) {
+    for (const pagehost::ObjectKind &kind : all)
         kinds.append(kind.id);
-    }
     recordAndPlay(kinds, start, scaled(stepsForAllShapes));
 }
 

@@ -65,9 +65,8 @@ QPointF controlPointOf(Classroom &classroom, CBaseObject *object)
     for (double x = 0; x < rect.width(); x += 2) {
         for (double y = 0; y < rect.height(); y += 2) {
             const QPointF pos = object->mapToScene(QPointF(x, y));
-            if (classroom.page->scene()->gripAt(pos).kind == pagehost::Grip::ControlPoint) {
+            if (classroom.page->scene()->gripAt(pos).kind == pagehost::Grip::ControlPoint)
                 return pos;
-            }
         }
     }
     return {};
@@ -79,9 +78,8 @@ void dragControlPoint(Classroom &classroom, CBaseObject *object, const QPointF &
     const QPointF from = controlPointOf(classroom, object);
     const QByteArray before = savedState(object);
     classroom.drag(from, from + way);
-    if (savedState(object) == before) {
+    if (savedState(object) == before)
         qFatal("the control point did not move");
-    }
 }
 
 } // namespace
@@ -202,9 +200,8 @@ void TestLessonRecorder::undoAndRedoArePlayed()
     CBaseObject *object = classroom.drawArrow();
     undoStack()->clear();
     change(classroom, object);
-    if (undoStack()->count() == 0) {
+    if (undoStack()->count() == 0)
         return; // a change that has no undo
-    }
     const auto record = [&](const std::function<void()> &travel) {
         classroom.recorder.start(&classroom.document);
         travel();
@@ -448,9 +445,8 @@ void TestLessonRecorder::playingLeavesUndoAlone()
     const QStringList steps = stepTexts();
     const int index = undoStack()->index();
     const QStringList state = savedState(classroom.document);
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < 2; ++i)
         classroom.played(lesson);
-    }
     QCOMPARE(stepTexts(), steps);
     QCOMPARE(undoStack()->index(), index);
     QCOMPARE(savedState(classroom.document), state);

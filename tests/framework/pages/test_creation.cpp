@@ -19,18 +19,14 @@ public:
     }
     CBaseObject *createObject(const QString &kindId) const override
     {
-        if (kindId == QLatin1String("finished")) {
+        if (kindId == QLatin1String("finished"))
             return new TestObject(QSizeF(70, 40));
-        }
-        if (kindId == QLatin1String("empty")) {
+        if (kindId == QLatin1String("empty"))
             return new TestObject(QSizeF(0, 0));
-        }
-        if (kindId == QLatin1String("failing")) {
+        if (kindId == QLatin1String("failing"))
             return nullptr;
-        }
-        if (kindId == QLatin1String("endless")) {
+        if (kindId == QLatin1String("endless"))
             return new EndlessObject;
-        }
         auto *object = new CreatedObject;
         object->keepsSquare = kindId == QLatin1String("square");
         return object;

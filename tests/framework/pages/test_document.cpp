@@ -388,11 +388,9 @@ void TestDocument::stackingNumbersNeverRunOut()
     page.addObject(new TestObject);
     const auto isAscending = [&] {
         const QVector<CBaseObject *> objects = page.objects();
-        for (int i = 1; i < objects.size(); ++i) {
-            if (!(objects[i - 1]->zValue() < objects[i]->zValue())) {
+        for (int i = 1; i < objects.size(); ++i)
+            if (!(objects[i - 1]->zValue() < objects[i]->zValue()))
                 return false;
-            }
-        }
         return true;
     };
     for (int i = 0; i < 200; ++i) {

@@ -16,9 +16,8 @@ struct Row
 {
     Row()
     {
-        for (int i = 0; i < objectCount; ++i) {
+        for (int i = 0; i < objectCount; ++i)
             objects.append(editor.add(QSizeF(50, 40), QPointF(100 + 100 * i, 100)));
-        }
     }
     QPointF middleOf(int index) const { return {125.0 + 100 * index, 120}; }
     QVector<CBaseObject *> selection() const { return editor.page->selectedObjects(); }

@@ -119,9 +119,8 @@ private:
 void TestShapes::initTestCase()
 {
     const QVector<pagehost::PluginReport> reports = registry().loadDirectory(QStringLiteral(SHAPE_PLUGIN_DIR));
-    for (const pagehost::PluginReport &report : reports) {
+    for (const pagehost::PluginReport &report : reports)
         QVERIFY2(report.loaded && report.problem.isEmpty(), qPrintable(report.file + report.problem));
-    }
     QVERIFY(registry().kinds().size() >= 4);
 }
 
@@ -129,9 +128,8 @@ void TestShapes::kinds()
 {
     QTest::addColumn<QString>("kind");
     const QVector<pagehost::ObjectKind> all = registry().kinds();
-    for (const pagehost::ObjectKind &kind : all) {
+    for (const pagehost::ObjectKind &kind : all)
         QTest::newRow(qPrintable(kind.id)) << kind.id;
-    }
 }
 
 void TestShapes::drawnFromAnyCorner_data()

@@ -21,27 +21,24 @@ class StyledObject : public TestObject
 public:
     bool GetAttribute(int id, QDataStream &out) override
     {
-        if (id == missing || id < 5002 || id > 5005) {
+        if (id == missing || id < 5002 || id > 5005)
             return TestObject::GetAttribute(id, out);
-        }
         const bool isList = id == 5003 || id == 5004;
         out << qint32(id) << qint32(isList ? 1 : 2) << QStringLiteral("IDS_NAME") << true;
-        if (id == 5002) {
+        if (id == 5002)
             out << color;
-        } else if (id == 5005) {
+        else if (id == 5005)
             out << fill;
-        } else if (id == 5003) {
+        else if (id == 5003)
             out << qint32(6) << style << qint32(2) << QString() << QPixmap();
-        } else {
+        else
             out << qint32(8) << width - 1 << qint32(0) << QStringLiteral("1") << QStringLiteral("2");
-        }
         return true;
     }
     bool SetAttribute(int id, QDataStream &in, bool record) override
     {
-        if (id == missing || id < 5002 || id > 5005) {
+        if (id == missing || id < 5002 || id > 5005)
             return TestObject::SetAttribute(id, in, record);
-        }
         recorded.append(record);
         if (id == 5002) {
             in >> color;
@@ -189,9 +186,8 @@ void TestStyle::styleIsReadBack()
 void TestStyle::missingPropertiesAreToldApart_data()
 {
     QTest::addColumn<int>("missing");
-    for (int id = 5002; id <= 5005; ++id) {
+    for (int id = 5002; id <= 5005; ++id)
         QTest::addRow("property %d", id) << id;
-    }
 }
 
 void TestStyle::missingPropertiesAreToldApart()

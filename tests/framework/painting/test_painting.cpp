@@ -37,12 +37,10 @@ public:
     }
     void OnQPainterDraw(QPainter *painter) override
     {
-        if (!painter) {
+        if (!painter)
             return;
-        }
-        if (g_guiThreadIsBusy && QThread::currentThread() != QCoreApplication::instance()->thread()) {
+        if (g_guiThreadIsBusy && QThread::currentThread() != QCoreApplication::instance()->thread())
             ++g_overlaps;
-        }
         {
             QMutexLocker lock(&mutex);
             threads.insert(QThread::currentThreadId());
@@ -336,9 +334,8 @@ void TestPainting::changedPageIsBegunAnew()
     support::pass(untilTheFirstWindow);
     QCOMPARE(first->pictures, 1);
     QVERIFY(pictures.images.isEmpty());
-    for (CBaseObject *object : page.objects()) {
+    for (CBaseObject *object : page.objects())
         object->CPSRootObject::setPos(QPointF(50, 0), false);
-    }
     painter.finish();
     QCOMPARE(first->pictures, 2);
     QCOMPARE(pictures.images.size(), 1);
@@ -373,9 +370,8 @@ void TestPainting::deletedObjectIsNotPainted()
     painter.request(&page, QSize(50, 25));
     support::pass(untilTheFirstWindow);
     QCOMPARE(static_cast<PictureObject *>(objects.first().data())->pictures, 1);
-    for (const auto &object : qAsConst(objects)) {
+    for (const auto &object : qAsConst(objects))
         page.removeObject(object);
-    }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!objects.last());
     painter.finish();
@@ -439,9 +435,8 @@ void TestPainting::listenerMayAskForMore()
     ThumbnailPainter painter;
     int count = 0;
     connect(&painter, &ThumbnailPainter::ready, [&](Page *ready) {
-        if (++count < 3) {
+        if (++count < 3)
             painter.request(ready, QSize(10, 5));
-        }
     });
     painter.request(&page, QSize(50, 25));
     painter.finish();

@@ -65,9 +65,8 @@ QString textType()
 QStringList idsOf(const QVector<pagehost::ObjectKind> &kinds)
 {
     QStringList ids;
-    for (const pagehost::ObjectKind &kind : kinds) {
+    for (const pagehost::ObjectKind &kind : kinds)
         ids.append(kind.id);
-    }
     return ids;
 }
 
@@ -323,9 +322,8 @@ void TestRegistry::loadedFilesArePassedOverTheSecondTime()
     ObjectRegistry registry;
     registry.loadDirectory(QStringLiteral(TEST_PLUGIN_DIR));
     const QVector<PluginReport> again = registry.loadDirectory(QStringLiteral(TEST_PLUGIN_DIR));
-    for (const PluginReport &report : again) {
+    for (const PluginReport &report : again)
         QVERIFY(!report.loaded);
-    }
     QCOMPARE(registry.kinds().size(), 4);
 }
 

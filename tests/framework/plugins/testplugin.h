@@ -16,11 +16,9 @@ public:
     QVector<pagehost::ObjectKind> objectKinds() const override { return kinds; }
     CBaseObject *createObject(const QString &kindId) const override
     {
-        for (const pagehost::ObjectKind &kind : kinds) {
-            if (kind.id == kindId) {
+        for (const pagehost::ObjectKind &kind : kinds)
+            if (kind.id == kindId)
                 return new TestObject(QSizeF(12, 34));
-            }
-        }
         return nullptr;
     }
     pagehost::TextTable texts(const QString &language) const override { return tables.value(language); }

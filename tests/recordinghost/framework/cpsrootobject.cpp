@@ -300,10 +300,9 @@ double CPSRootObject::getCurZoomRate() const
 
 QGraphicsView *CPSRootObject::FindFirstVisibleView(QList<QGraphicsView *> &views)
 {
-    for (QGraphicsView *view : qAsConst(views)) {
+    for (QGraphicsView *view : qAsConst(views))
         if (view && view->isVisible())
             return view;
-    }
     return nullptr;
 }
 

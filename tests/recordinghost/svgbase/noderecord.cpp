@@ -204,12 +204,11 @@ QPainterPath simplePath(const QString &data)
         else if (command == 'V')
             path.lineTo(path.currentPosition().x(), arguments.toDouble());
         const QPolygonF points = simplePolygon(arguments);
-        for (int i = 0; i < points.size(); ++i) {
+        for (int i = 0; i < points.size(); ++i)
             if (command == 'M' && i == 0)
                 path.moveTo(points[i]);
             else if (command == 'M' || command == 'L')
                 path.lineTo(points[i]);
-        }
     }
     return path;
 }

@@ -73,10 +73,9 @@ QRectF QZeSvgNode::boundingRect() const
 QRectF QZeSvgNode::transformedBounds() const
 {
     QRectF bounds = d->bounds();
-    for (const QZeSvgNode *child : qAsConst(d->children)) {
+    for (const QZeSvgNode *child : qAsConst(d->children))
         if (child->isVisible())
             bounds = bounds.united(child->transformedBounds());
-    }
     return bounds;
 }
 

@@ -91,10 +91,9 @@ bool areAlike(const QPainterPath &a, const QPainterPath &b, double distance)
 {
     if (a.elementCount() != b.elementCount())
         return false;
-    for (int i = 0; i < a.elementCount(); ++i) {
+    for (int i = 0; i < a.elementCount(); ++i)
         if (QLineF(a.elementAt(i), b.elementAt(i)).length() > distance)
             return false;
-    }
     return true;
 }
 
@@ -277,10 +276,9 @@ void TestExamples::figuresAreWhatTheirPropertiesSay()
     shape.createByClick();
     shape.painted();
     const auto firstFigure = [&] {
-        for (const QZeSvgNode *child : shape.document().children()) {
+        for (const QZeSvgNode *child : shape.document().children())
             if (child->type() == QZeSvgNode::Group)
                 return static_cast<const QZeSvgStructureNode *>(child)->children().first()->boundingRect().width();
-        }
         return 0.0;
     };
     const double one = firstFigure();
@@ -305,10 +303,9 @@ void TestExamples::figuresOfTheClockDisappear()
     shape.createByClick();
     const auto figures = [&]() -> const QZeSvgNode * {
         shape.painted();
-        for (const QZeSvgNode *child : shape.document().children()) {
+        for (const QZeSvgNode *child : shape.document().children())
             if (child->type() == QZeSvgNode::Group)
                 return child;
-        }
         return nullptr;
     };
     QVERIFY(figures()->isVisible());

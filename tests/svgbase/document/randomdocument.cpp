@@ -267,10 +267,9 @@ RandomElement RandomDocument::make(const QString &name, int depth)
     element.attributes.insert(QStringLiteral("id"), id);
     m_ids[name].append(id);
     const QStringList own = attributesOfElements().value(name);
-    for (const QString &attribute : own) {
+    for (const QString &attribute : own)
         if (below(4) != 0)
             element.attributes.insert(attribute, valueFor(attribute));
-    }
     for (int i = below(4); i > 0; --i) {
         const QString attribute = attributeFor(name);
         element.attributes.insert(attribute, valueFor(attribute));
@@ -344,10 +343,9 @@ RandomElement *RandomDocument::find(const QString &id)
 {
     QVector<RandomElement *> all;
     collect(&m_root, &all);
-    for (RandomElement *element : qAsConst(all)) {
+    for (RandomElement *element : qAsConst(all))
         if (element->attributes.value(QStringLiteral("id")) == id)
             return element;
-    }
     return nullptr;
 }
 

@@ -117,10 +117,9 @@ void TestDocument::numericAttributesReadBackExactly_data()
 {
     QTest::addColumn<QString>("element");
     QTest::addColumn<QString>("name");
-    for (const char *element : {"rect", "ellipse", "circle", "path", "g"}) {
+    for (const char *element : {"rect", "ellipse", "circle", "path", "g"})
         for (const char *name : {"x", "y", "width", "height", "rx", "ry", "own"})
             QTest::addRow("%s %s", element, name) << QString::fromLatin1(element) << QString::fromLatin1(name);
-    }
 }
 
 void TestDocument::numericAttributesReadBackExactly()

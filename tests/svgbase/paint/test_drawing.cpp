@@ -20,10 +20,9 @@ QRect paintedArea(const QImage &image)
 {
     QRect area;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixelColor(x, y).alpha() > 0)
                 area |= QRect(x, y, 1, 1);
-        }
     }
     return area;
 }

@@ -41,12 +41,11 @@ QPainterPath randomPath(QRandomGenerator &random)
 {
     const auto point = [&] { return QPointF(random.bounded(120.0) - 30, random.bounded(120.0) - 30); };
     QPainterPath path(point());
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 6; ++i)
         if (random.bounded(2))
             path.lineTo(point());
         else
             path.cubicTo(point(), point(), point());
-    }
     path.setFillRule(random.bounded(2) ? Qt::WindingFill : Qt::OddEvenFill);
     return path;
 }
@@ -56,10 +55,9 @@ double sampledCoverage(const QPainterPath &path, int x, int y)
 {
     constexpr int samples = 16;
     int inside = 0;
-    for (int i = 0; i < samples; ++i) {
+    for (int i = 0; i < samples; ++i)
         for (int j = 0; j < samples; ++j)
             inside += path.contains(QPointF(x + (i + 0.5) / samples, y + (j + 0.5) / samples)) ? 1 : 0;
-    }
     return 255.0 * inside / (samples * samples);
 }
 

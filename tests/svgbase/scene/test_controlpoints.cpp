@@ -12,10 +12,9 @@ QRect areaOf(const QImage &image, const QColor &color)
 {
     QRect area;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixelColor(x, y) == color)
                 area |= QRect(x, y, 1, 1);
-        }
     }
     return area;
 }

@@ -171,10 +171,9 @@ void TestText::tspanHasItsOwnPaint()
     const QImage image = drawnContent("<text font-family='DejaVu Sans' font-size='90' y='90' fill='red'>I<tspan "
                                       "x='50' fill='blue'>I</tspan></text>");
     QSet<QRgb> colors;
-    for (int x = 0; x < 100; ++x) {
+    for (int x = 0; x < 100; ++x)
         if (image.pixelColor(x, 60).alpha() == 255)
             colors.insert(image.pixel(x, 60));
-    }
     QCOMPARE(colors, QSet<QRgb>({qRgb(255, 0, 0), qRgb(0, 0, 255)}));
 }
 
