@@ -3,6 +3,7 @@
 #include <pagehost/document.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/recorder.h>
 
 #include "framework/testobject.h"
 
