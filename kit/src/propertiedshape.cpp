@@ -170,6 +170,12 @@ void PropertiedShape::addProperty(Property *property, int &id, int &actionId)
     m_properties.append(property);
 }
 
+double PropertiedShape::drawingScale() const
+{
+    const auto *scale = dynamic_cast<const DrawingScale *>(propertyWithId(drawingScaleId));
+    return scale ? double(*scale) : 1;
+}
+
 Property *PropertiedShape::propertyWithId(int id) const
 {
     for (Property *property : m_properties)

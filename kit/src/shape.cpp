@@ -261,18 +261,6 @@ QRectF Shape::drawnArea()
     return area;
 }
 
-double Shape::drawingScale()
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!getInnerProperty(drawingScaleId, out))
-        return 1;
-    double scale = 1;
-    QDataStream in(bytes);
-    in >> scale;
-    return scale;
-}
-
 bool Shape::getOutlinePath(QPainterPath *path)
 {
     settleDrawing();

@@ -42,6 +42,8 @@ protected:
     virtual void saveValues(QJsonObject &object);
     virtual void loadValues(const QJsonObject &object);
     /// @}
+    /// Item units per drawn unit; 1 for a shape without a `DrawingScale`.
+    double drawingScale() const;
 
 private:
     Property *propertyWithId(int id) const;

@@ -103,8 +103,6 @@ protected:
 
 private:
     int indexOf(QZeSvgNode *node) const;
-    /// 1 for a shape that has no such property.
-    double drawingScale();
     QRectF templateRange(int number);
     static Following readFollowing(const QZeSvgNode &point, const QString &axis);
     const Following &followingOf(int number, Qt::Orientation axis);
