@@ -17,8 +17,8 @@ void mix(const QString &first, const QString &second, const Svg::ValueContext &c
     const Svg::AnimatedValue half = Svg::between(a, b, 0.5);
     require(half.kind == a.kind && half.form == a.form && half.numbers.size() == a.numbers.size(),
             "what is between two values has their form");
-    Svg::attributeText(half, context);
-    Svg::attributeText(Svg::sumOf(a, b, 3), context);
+    Svg::attributeValue(half, context).text();
+    Svg::attributeValue(Svg::sumOf(a, b, 3), context).text();
     Svg::distanceBetween(a, b, context);
     Svg::zeroOf(a);
 }

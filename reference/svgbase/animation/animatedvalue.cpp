@@ -4,6 +4,7 @@
 #include "grammar/colors.h"
 #include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
+#include "properties/propertytable.h"
 
 #include <cmath>
 #include <numeric>
@@ -14,31 +15,26 @@ namespace {
 
 constexpr double fullChannel = 255;
 
-const QLatin1String rotateName("rotate");
-const QLatin1String scaleName("scale");
-const QLatin1String translateName("translate");
-
-/// Letters that stand for units in a form, and the text that they have in an attribute.
+/// Letters that stand for units in a form.
 struct UnitLetter
 {
     Unit unit;
     QChar letter;
-    QLatin1String text;
 };
 
 const UnitLetter unitLetters[] = {
-    {Unit::User, QLatin1Char('u'), QLatin1String("")},
-    {Unit::Percent, QLatin1Char('p'), QLatin1String("%")},
-    {Unit::Em, QLatin1Char('m'), QLatin1String("em")},
-    {Unit::Ex, QLatin1Char('x'), QLatin1String("ex")},
+    {Unit::User, QLatin1Char('u')},
+    {Unit::Percent, QLatin1Char('p')},
+    {Unit::Em, QLatin1Char('m')},
+    {Unit::Ex, QLatin1Char('x')},
 };
 
-const UnitLetter &unitLetter(QChar letter)
+Unit unitOf(QChar letter)
 {
     for (const UnitLetter &known : unitLetters)
         if (known.letter == letter)
-            return known;
-    return unitLetters[0];
+            return known.unit;
+    return Unit::User;
 }
 
 QChar letterOf(Unit unit)
@@ -49,19 +45,12 @@ QChar letterOf(Unit unit)
     return unitLetters[0].letter;
 }
 
-AnimatedValue plainText(const QString &text)
-{
-    AnimatedValue value;
-    value.text = text;
-    return value;
-}
-
 AnimatedValue parseColorValue(const QString &text, const ValueContext &context)
 {
     const bool current = text.compare(QLatin1String("currentColor"), Qt::CaseInsensitive) == 0;
     const std::optional<QColor> color = current ? context.currentColor : parseColor(text);
     if (!color || !color->isValid())
-        return plainText(text);
+        return replacedValue(text);
     AnimatedValue value;
     value.kind = AnimatedValue::Color;
     value.numbers = {color->redF() * fullChannel, color->greenF() * fullChannel, color->blueF() * fullChannel,
@@ -79,56 +68,73 @@ AnimatedValue parseNumbersValue(const QString &text)
     while (!cursor.atEnd()) {
         Length length;
         if (!readLength(cursor, &length))
-            return plainText(text);
+            return replacedValue(text);
         value.numbers.append(length.value);
         value.form += letterOf(length.unit);
         cursor.skipCommaSpace();
     }
-    return value.numbers.isEmpty() ? plainText(text) : value;
+    return value.numbers.isEmpty() ? replacedValue(text) : value;
+}
+
+/// How many arguments a function has when all are given.
+int argumentCount(TransformFunction::Kind kind)
+{
+    switch (kind) {
+    case TransformFunction::Rotate:
+        return 3;
+    case TransformFunction::SkewX:
+    case TransformFunction::SkewY:
+        return 1;
+    default:
+        return 2;
+    }
 }
 
 /// Arguments that are left out get the value that they stand for (SVG 1.1 §7.6).
-AnimatedValue parseTransformValue(const QString &text, QLatin1String function)
+AnimatedValue parseTransformValue(const QString &text, TransformFunction::Kind kind)
 {
     const std::optional<QVector<double>> numbers = parseNumberList(text);
-    const bool skew = function.latin1()[1] == 'k';
-    const int most = function == rotateName ? 3 : skew ? 1 : 2;
+    const int most = argumentCount(kind);
     const bool complete = numbers && !numbers->isEmpty() && numbers->size() <= most;
-    if (!complete || (function == rotateName && numbers->size() == 2))
-        return plainText(text);
+    if (!complete || (kind == TransformFunction::Rotate && numbers->size() == 2))
+        return replacedValue(text);
     AnimatedValue value;
     value.kind = AnimatedValue::Numbers;
     value.numbers = *numbers;
     while (value.numbers.size() < most)
-        value.numbers.append(function == scaleName ? value.numbers.constFirst() : 0);
+        value.numbers.append(kind == TransformFunction::Scale ? value.numbers.constFirst() : 0);
     value.form.fill(letterOf(Unit::User), most);
     return value;
 }
 
-QString colorText(const AnimatedValue &value)
+QColor colorOf(const AnimatedValue &value)
 {
     const auto channel = [&](int i) { return int(std::lround(qBound(0.0, value.numbers.at(i), fullChannel))); };
-    const QColor color(channel(0), channel(1), channel(2), channel(3));
-    const QString name = color.name(QColor::HexArgb);
-    // Attributes have the alpha behind the colour.
-    return color.alpha() == 255 ? color.name() : QLatin1Char('#') + name.mid(3) + name.mid(1, 2);
+    return QColor(channel(0), channel(1), channel(2), channel(3));
 }
 
-QString numbersText(const AnimatedValue &value, bool positive)
+QVector<Length> lengthsOf(const AnimatedValue &value, bool positive)
 {
-    QString text;
+    QVector<Length> lengths;
     for (int i = 0; i < value.numbers.size(); ++i) {
-        if (i > 0)
-            text += QLatin1Char(' ');
         const double number = positive ? qMax(0.0, value.numbers.at(i)) : value.numbers.at(i);
-        text += numberText(number) + unitLetter(value.form.at(i)).text;
+        lengths.append({number, unitOf(value.form.at(i))});
     }
-    return text;
+    return lengths;
+}
+
+TypedValue typedValue(const AnimatedValue &value, const ValueContext &context)
+{
+    if (value.kind == AnimatedValue::Color)
+        return colorOf(value);
+    if (value.kind == AnimatedValue::Path)
+        return pathOf(value);
+    return lengthsOf(value, context.positive);
 }
 
 void toUserUnits(AnimatedValue *value, int i, const ValueContext &context)
 {
-    const Length length{value->numbers.at(i), unitLetter(value->form.at(i)).unit};
+    const Length length{value->numbers.at(i), unitOf(value->form.at(i))};
     value->numbers[i] = Svg::toUserUnits(length, context.axis, context.lengths);
     value->form[i] = letterOf(Unit::User);
 }
@@ -139,6 +145,13 @@ void repeatTo(AnimatedValue *value, int count)
     value->form = value->form.repeated(count / numbers.size());
     while (value->numbers.size() < count)
         value->numbers += numbers;
+}
+
+ValueContext::Grammar grammarOf(PropertyAnimation::Kind kind)
+{
+    if (kind == PropertyAnimation::Discrete)
+        return ValueContext::Words;
+    return kind == PropertyAnimation::Colors ? ValueContext::Colors : ValueContext::Lengths;
 }
 
 bool isOneOf(const QString &name, std::initializer_list<const char *> names)
@@ -153,63 +166,98 @@ ValueContext valueContext(const QString &attribute, const LengthContext &lengths
     ValueContext context;
     context.lengths = lengths;
     context.currentColor = currentColor;
-    if (isOneOf(attribute, {"fill", "stroke", "color", "stop-color", "flood-color", "lighting-color"}))
-        context.grammar = ValueContext::Colors;
-    else if (attribute == QLatin1String("d"))
+    const AttributeId id = attributeId(attribute);
+    if (isProperty(id)) {
+        const PropertyAnimation &animation = propertyOf(id).animation;
+        context.grammar = grammarOf(animation.kind);
+        context.repeats = animation.kind == PropertyAnimation::RepeatedLengths;
+        context.positive = animation.positive;
+        return context;
+    }
+    if (id == AttributeId::D)
         context.grammar = ValueContext::PathData;
     if (isOneOf(attribute, {"x", "x1", "x2", "cx", "rx", "fx", "dx", "width", "refX", "markerWidth"}))
         context.axis = Axis::Horizontal;
     else if (isOneOf(attribute, {"y", "y1", "y2", "cy", "ry", "fy", "dy", "height", "refY", "markerHeight"}))
         context.axis = Axis::Vertical;
-    context.repeats = attribute == QLatin1String("stroke-dasharray");
-    context.positive = isOneOf(attribute, {"width", "height", "r", "rx", "ry", "stroke-width", "font-size",
-                                           "stroke-dasharray", "markerWidth", "markerHeight"});
+    context.positive = isOneOf(attribute, {"width", "height", "r", "rx", "ry", "markerWidth", "markerHeight"});
     return context;
 }
 
 ValueContext transformContext(const QString &type)
 {
-    static const QLatin1String names[] = {rotateName, scaleName, QLatin1String("skewX"), QLatin1String("skewY")};
+    const QByteArray name = type.toLatin1();
+    const auto kind = transformKind(QLatin1String(name));
     ValueContext context;
-    context.grammar = ValueContext::TransformFunction;
-    context.function = translateName;
-    for (const QLatin1String name : names)
-        if (type == name)
-            context.function = name;
+    context.grammar = ValueContext::Transforms;
+    context.function = kind && *kind != TransformFunction::Matrix ? *kind : TransformFunction::Translate;
     return context;
+}
+
+AnimatedValue animatedValue(const TypedValue &value)
+{
+    AnimatedValue result;
+    if (const auto *color = std::get_if<QColor>(&value)) {
+        result.kind = AnimatedValue::Color;
+        result.numbers = {double(color->red()), double(color->green()), double(color->blue()),
+                          double(color->alpha())};
+    } else if (const auto *lengths = std::get_if<QVector<Length>>(&value)) {
+        result.kind = AnimatedValue::Numbers;
+        for (const Length &length : *lengths) {
+            result.numbers.append(length.value);
+            result.form += letterOf(length.unit);
+        }
+    }
+    return result;
+}
+
+AnimatedValue replacedValue(const QString &text)
+{
+    AnimatedValue value;
+    value.text = text;
+    return value;
 }
 
 AnimatedValue parseAnimatedValue(const QString &text, const ValueContext &context)
 {
-    const bool inherits = !context.inherited.isEmpty() && text.trimmed() == QLatin1String("inherit");
-    const QString trimmed = inherits ? context.inherited : text.trimmed();
+    const QString trimmed = text.trimmed();
+    if (context.inherited && trimmed == QLatin1String("inherit"))
+        return *context.inherited;
     switch (context.grammar) {
     case ValueContext::Colors:
         return parseColorValue(trimmed, context);
     case ValueContext::PathData:
         return parsePathValue(trimmed);
-    case ValueContext::TransformFunction:
+    case ValueContext::Transforms:
         return parseTransformValue(trimmed, context.function);
+    case ValueContext::Words:
+        return replacedValue(trimmed);
     case ValueContext::Lengths:
         break;
     }
     return parseNumbersValue(trimmed);
 }
 
-QString attributeText(const AnimatedValue &value, const ValueContext &context)
+AttributeValue attributeValue(const AnimatedValue &value, const ValueContext &context)
 {
-    switch (value.kind) {
-    case AnimatedValue::Text:
+    if (value.kind == AnimatedValue::Text)
         return value.text;
-    case AnimatedValue::Color:
-        return colorText(value);
-    case AnimatedValue::Path:
-        return pathText(value);
-    case AnimatedValue::Numbers:
-        break;
-    }
-    const QString numbers = numbersText(value, context.positive);
-    return context.grammar == ValueContext::TransformFunction ? context.function + '(' + numbers + ')' : numbers;
+    const TypedValue typed = typedValue(value, context);
+    // A result beyond all numbers is an error of the attribute, as it is in a text.
+    if (!std::all_of(value.numbers.begin(), value.numbers.end(), [](double number) { return qIsFinite(number); }))
+        return valueText(typed);
+    const auto *lengths = std::get_if<QVector<Length>>(&typed);
+    const bool isNumber = lengths && lengths->size() == 1 && lengths->constFirst().unit == Unit::User;
+    return isNumber ? AttributeValue(lengths->constFirst().value) : AttributeValue(typed);
+}
+
+TransformFunction transformFunction(const AnimatedValue &value, const ValueContext &context)
+{
+    TransformFunction function;
+    function.kind = context.function;
+    function.count = value.numbers.size();
+    std::copy(value.numbers.begin(), value.numbers.end(), function.arguments.begin());
+    return function;
 }
 
 bool makeAlike(AnimatedValue *a, AnimatedValue *b, const ValueContext &context)
@@ -262,7 +310,7 @@ AnimatedValue between(const AnimatedValue &a, const AnimatedValue &b, double sha
 // Turns are as far apart as their angles, wherever their centres are.
 double distanceBetween(const AnimatedValue &a, const AnimatedValue &b, const ValueContext &context)
 {
-    const int count = context.function == rotateName ? 1 : a.numbers.size();
+    const int count = context.function == TransformFunction::Rotate ? 1 : a.numbers.size();
     double squares = 0;
     for (int i = 0; i < count; ++i) {
         const double difference = b.numbers.at(i) - a.numbers.at(i);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/lengths.h"
+#include "tree/attributevalue.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVector>
@@ -31,12 +31,11 @@ struct AnimatedValue
 /// Facts about the animated attribute.
 struct ValueContext
 {
-    enum Grammar { Lengths, Colors, PathData, TransformFunction };
+    enum Grammar { Lengths, Colors, PathData, Transforms, Words };
     Grammar grammar = Lengths;
-    /// The name of the transform function.
-    QLatin1String function;
+    TransformFunction::Kind function = TransformFunction::Translate;
     /// Value of "inherit", if it has one.
-    QString inherited;
+    std::optional<AnimatedValue> inherited;
     Axis axis = Axis::Diagonal;
     LengthContext lengths;
     QColor currentColor;
@@ -51,8 +50,14 @@ ValueContext transformContext(const QString &type);
 /// The context that goes with an attribute of that name.
 ValueContext valueContext(const QString &attribute, const LengthContext &lengths, const QColor &currentColor);
 AnimatedValue parseAnimatedValue(const QString &text, const ValueContext &context);
-/// The text that an attribute takes.
-QString attributeText(const AnimatedValue &value, const ValueContext &context);
+/// A computed value of a property.
+AnimatedValue animatedValue(const TypedValue &value);
+/// A value that can only be replaced.
+AnimatedValue replacedValue(const QString &text);
+/// The value as an attribute holds it.
+AttributeValue attributeValue(const AnimatedValue &value, const ValueContext &context);
+/// The value as a function of a list of transforms.
+TransformFunction transformFunction(const AnimatedValue &value, const ValueContext &context);
 
 /// Brings two values to the same form, lengths of different units to user units. False when there is nothing
 /// between the two.

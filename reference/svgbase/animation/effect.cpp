@@ -46,7 +46,7 @@ void Effect::pace()
 std::optional<Effect> Effect::fromValues(const Attributes &attributes, const QVector<AnimatedValue> &values,
                                          const ValueContext &context, CalcMode mode)
 {
-    const bool function = context.grammar == ValueContext::TransformFunction;
+    const bool function = context.grammar == ValueContext::Transforms;
     const bool usable = std::all_of(values.begin(), values.end(),
                                     [](const AnimatedValue &value) { return value.kind != AnimatedValue::Text; });
     if (function && !usable)
@@ -136,12 +136,12 @@ AnimatedValue Effect::valueAt(const RoundPosition &position) const
 }
 
 // A list takes the function up as it is. What goes "to" a value starts from the function that changes nothing.
-QString Effect::functionText(const RoundPosition &position) const
+TransformFunction Effect::function(const RoundPosition &position) const
 {
     AnimatedValue below = zeroOf(m_values.constFirst());
-    if (m_blends && m_context.function == QLatin1String("scale"))
+    if (m_blends && m_context.function == TransformFunction::Scale)
         below.numbers.fill(1);
-    return attributeText(applied(below, position), m_context);
+    return transformFunction(applied(below, position), m_context);
 }
 
 AnimatedValue Effect::applied(const AnimatedValue &underlying, const RoundPosition &position) const

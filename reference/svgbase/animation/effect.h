@@ -17,7 +17,7 @@ public:
     /// The value that the attribute has where it had `underlying` without the effect.
     AnimatedValue applied(const AnimatedValue &underlying, const RoundPosition &position) const;
     /// The value as a transform function, for a list of them to take up.
-    QString functionText(const RoundPosition &position) const;
+    TransformFunction function(const RoundPosition &position) const;
     /// Whether the value is added to what lies under the effect.
     bool isAdditive() const { return m_additive; }
 

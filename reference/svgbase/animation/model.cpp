@@ -48,7 +48,8 @@ private:
     bool hasRoomFor(NodeIndex target, const QString &name);
     AnimatedAttribute &attributeOf(NodeIndex target, const QString &name, const ValueContext &context);
     ValueContext contextOf(NodeIndex target, const QString &name) const;
-    QString baseOf(NodeIndex target, const QString &name) const;
+    QString baseTextOf(NodeIndex target, const QString &name) const;
+    void readBase(AnimatedAttribute *attribute) const;
     bool baseFollowsColor(NodeIndex target, AttributeId id) const;
     bool isStyled(NodeIndex target, AttributeId id) const;
     void readTransform(NodeIndex index, NodeIndex target);
@@ -76,6 +77,14 @@ NodeIndex ModelReader::targetOf(NodeIndex index) const
     return target;
 }
 
+AnimatedValue computedValue(const ComputedStyle &style, AttributeId id)
+{
+    const Property &property = propertyOf(id);
+    const std::optional<TypedValue> value =
+        property.animation.value ? property.animation.value(style) : std::nullopt;
+    return value ? animatedValue(*value) : replacedValue(property.print(style));
+}
+
 LengthContext lengthsOf(const Facts &facts)
 {
     return {facts.viewport, facts.style->font.size};
@@ -87,7 +96,7 @@ ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
     ValueContext context = valueContext(name, lengthsOf(*facts), facts->style->color);
     const AttributeId id = attributeId(name);
     if (isProperty(id) && facts->parent)
-        context.inherited = propertyOf(id).print(*facts->parent->style);
+        context.inherited = computedValue(*facts->parent->style, id);
     return context;
 }
 
@@ -99,18 +108,26 @@ bool ModelReader::isStyled(NodeIndex target, AttributeId id) const
                        [id](const Attribute &attribute) { return attribute.id == id; });
 }
 
-QString ModelReader::baseOf(NodeIndex target, const QString &name) const
+QString ModelReader::baseTextOf(NodeIndex target, const QString &name) const
 {
     const AttributeId id = attributeId(name);
-    if (isProperty(id)) {
-        const QString computed = propertyOf(id).print(*m_facts(target)->style);
-        if (!computed.isEmpty())
-            return computed;
-    }
     const Node &node = m_tree.node(target);
-    const QString own =
-        isStyled(target, id) ? styledAttribute(node, *m_facts(target)->style, id) : node.attributes.value(name);
+    const QString own = isStyled(target, id) ? styledAttribute(node, *m_facts(target)->style, id).text()
+                                             : node.attributes.value(name);
     return own.isEmpty() ? defaultAttributeText(node.kind, id) : own;
+}
+
+void ModelReader::readBase(AnimatedAttribute *attribute) const
+{
+    if (isProperty(attribute->id)) {
+        attribute->base = computedValue(*m_facts(attribute->target)->style, attribute->id);
+        return;
+    }
+    const QString text = baseTextOf(attribute->target, attribute->name);
+    if (attribute->context.grammar == ValueContext::Transforms)
+        attribute->baseTransforms = parseTransformList(text).value_or(TransformList());
+    else
+        attribute->base = parseAnimatedValue(text, attribute->context);
 }
 
 bool ModelReader::baseFollowsColor(NodeIndex target, AttributeId id) const
@@ -138,7 +155,7 @@ AnimatedAttribute &ModelReader::attributeOf(NodeIndex target, const QString &nam
         attribute.id = attributeId(name);
         attribute.isProperty = isProperty(attribute.id) || isStyled(target, attribute.id);
         attribute.context = context;
-        attribute.base = baseOf(target, name);
+        readBase(&attribute);
         attribute.baseFollowsColor = baseFollowsColor(target, attribute.id);
         attribute.followsColor = attribute.baseFollowsColor;
     }
@@ -226,7 +243,7 @@ bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree
         return false;
     attribute->context.currentColor = current;
     if (attribute->baseFollowsColor)
-        attribute->base = currentColor;
+        attribute->base = animatedValue(TypedValue(current));
     for (Animation &animation : attribute->animations)
         if (const std::optional<Effect> effect = readEffect(tree.node(animation.node), attribute->context))
             animation.effect = effect;

@@ -175,7 +175,7 @@ std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const 
     return motion;
 }
 
-QString Motion::transformText(const RoundPosition &position) const
+TransformList Motion::transforms(const RoundPosition &position) const
 {
     const KeyframePosition frame = m_frames.at(position.progress);
     double distance = m_stops.at(frame.index);
@@ -185,10 +185,10 @@ QString Motion::transformText(const RoundPosition &position) const
     if (m_accumulates)
         place.point += m_way.at(m_way.length()).point * double(position.round);
     const double turn = m_rotation == Fixed ? m_angle : m_rotation == Auto ? place.angle : place.angle + halfTurn;
-    QString text = QStringLiteral("translate(%1 %2)").arg(numberText(place.point.x()), numberText(place.point.y()));
+    TransformList list{{TransformFunction::Translate, 2, {place.point.x(), place.point.y()}}};
     if (turn != 0)
-        text += QStringLiteral(" rotate(%1)").arg(numberText(turn));
-    return text;
+        list.append({TransformFunction::Rotate, 1, {turn}});
+    return list;
 }
 
 } // namespace Svg

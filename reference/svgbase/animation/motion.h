@@ -17,7 +17,7 @@ public:
                                       const FactsOfNode &factsOf, int *room);
 
     /// The transform functions of a place on the way.
-    QString transformText(const RoundPosition &position) const;
+    TransformList transforms(const RoundPosition &position) const;
     /// Whether it is added to motions below it.
     bool isAdditive() const { return m_additive; }
 

@@ -13,23 +13,6 @@ namespace {
 
 constexpr char commandLetters[] = "MmLlHhVvCcSsQqTtAaZz";
 
-int coordinateCount(char command)
-{
-    switch (command) {
-    case 'M':
-    case 'L':
-        return 2;
-    case 'C':
-        return 6;
-    case 'Q':
-        return 4;
-    case 'A':
-        return 7;
-    default:
-        return 0;
-    }
-}
-
 class PathValueReader
 {
 public:
@@ -212,26 +195,21 @@ AnimatedValue parsePathValue(const QString &text)
         reader.result.kind = AnimatedValue::Path;
         return reader.result;
     }
-    AnimatedValue plain;
-    plain.text = text;
-    return plain;
+    return replacedValue(text);
 }
 
-QString pathText(const AnimatedValue &value)
+// A flag between two values counts as set as soon as it is not 0 (SVG 1.1 §8.3.2).
+PathValue pathOf(const AnimatedValue &value)
 {
-    QString text;
+    PathValue path{value.form.toLatin1(), value.numbers};
     int at = 0;
-    for (const QChar command : value.form) {
-        text += command;
-        const int count = coordinateCount(command.toLatin1());
-        for (int i = 0; i < count; ++i, ++at) {
-            const bool flag = command == QLatin1Char('A') && (i == 3 || i == 4);
-            // A flag between two values counts as set as soon as it is not 0 (SVG 1.1 §8.3.2).
-            const double number = flag && value.numbers.at(at) != 0 ? 1 : value.numbers.at(at);
-            text += QLatin1Char(' ') + numberText(number);
-        }
+    for (const char command : qAsConst(path.commands)) {
+        if (command == 'A')
+            for (const int flag : {at + 3, at + 4})
+                path.coordinates[flag] = path.coordinates.at(flag) == 0 ? 0 : 1;
+        at += coordinateCount(command);
     }
-    return text;
+    return path;
 }
 
 } // namespace Svg

@@ -1,7 +1,5 @@
 #include "animation/sandwich.h"
 
-#include "grammar/transforms.h"
-
 #include <algorithm>
 
 namespace Svg {
@@ -22,33 +20,35 @@ QVector<int> layers(const States &states)
     return order;
 }
 
-QString stacked(const QString &below, const QString &text, bool additive)
+void stack(TransformList *list, const TransformList &functions, bool additive)
 {
-    return additive && !below.isEmpty() ? below + QLatin1Char(' ') + text : text;
+    if (!additive)
+        list->clear();
+    *list += functions;
 }
 
 // A motion moves what the other transforms have placed (SVG 1.1 §19.2.15).
-QString transformText(const AnimatedAttribute &attribute, const QVector<int> &order)
+TransformList shownTransforms(const AnimatedAttribute &attribute, const QVector<int> &order)
 {
-    QString own = parseTransform(attribute.base) ? attribute.base.trimmed() : QString();
-    QString motion;
+    TransformList own = attribute.baseTransforms;
+    TransformList motion;
     for (const int i : order) {
         const Animation &animation = attribute.animations.at(i);
         const RoundPosition &position = attribute.states[size_t(i)].position;
         if (animation.motion)
-            motion = stacked(motion, animation.motion->transformText(position), animation.motion->isAdditive());
+            stack(&motion, animation.motion->transforms(position), animation.motion->isAdditive());
         else
-            own = stacked(own, animation.effect->functionText(position), animation.effect->isAdditive());
+            stack(&own, {animation.effect->function(position)}, animation.effect->isAdditive());
     }
-    return stacked(motion, own, true).trimmed();
+    return motion + own;
 }
 
-QString valueText(const AnimatedAttribute &attribute, const QVector<int> &order)
+AnimatedValue topValue(const AnimatedAttribute &attribute, const QVector<int> &order)
 {
-    AnimatedValue value = parseAnimatedValue(attribute.base, attribute.context);
+    AnimatedValue value = attribute.base;
     for (const int i : order)
         value = attribute.animations.at(i).effect->applied(value, attribute.states[size_t(i)].position);
-    return attributeText(value, attribute.context);
+    return value;
 }
 
 bool isSame(const Timeline::State &a, const Timeline::State &b)
@@ -59,13 +59,14 @@ bool isSame(const Timeline::State &a, const Timeline::State &b)
 
 } // namespace
 
-std::optional<QString> animatedText(const AnimatedAttribute &attribute)
+std::optional<AttributeValue> shownValue(const AnimatedAttribute &attribute)
 {
     const QVector<int> order = layers(attribute.states);
     if (order.isEmpty())
         return std::nullopt;
-    const bool transform = attribute.context.grammar == ValueContext::TransformFunction;
-    return transform ? transformText(attribute, order) : valueText(attribute, order);
+    if (attribute.context.grammar == ValueContext::Transforms)
+        return AttributeValue(TypedValue(shownTransforms(attribute, order)));
+    return attributeValue(topValue(attribute, order), attribute.context);
 }
 
 bool refreshStates(AnimatedAttribute *attribute, const Timeline &timeline)

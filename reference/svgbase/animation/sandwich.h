@@ -35,15 +35,17 @@ struct AnimatedAttribute
     ValueContext context;
     QVector<Animation> animations;
     /// Value of the attribute without animation.
-    QString base;
+    AnimatedValue base;
+    /// The same of a list of transforms.
+    TransformList baseTransforms;
     /// The value that is shown; nothing while no animation applies.
-    std::optional<QString> shown;
+    std::optional<AttributeValue> shown;
     /// State of each animation at the displayed time.
     std::vector<Timeline::State> states;
 };
 
 /// The value that the states make; nothing when no animation applies.
-std::optional<QString> animatedText(const AnimatedAttribute &attribute);
+std::optional<AttributeValue> shownValue(const AnimatedAttribute &attribute);
 /// Looks up what the animations of an attribute do now; false when nothing of it changed since.
 bool refreshStates(AnimatedAttribute *attribute, const Timeline &timeline);
 

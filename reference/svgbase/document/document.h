@@ -37,11 +37,11 @@ public:
     void setWindow(const QSizeF &size);
 
     QString attribute(NodeIndex index, const QString &name) const;
-    void setAttribute(NodeIndex index, const QString &name, const QString &value);
+    void setAttribute(NodeIndex index, const QString &name, const AttributeValue &value);
     void setNumericAttribute(NodeIndex index, const QString &name, double value);
-    /// Lays declarations over the style of a node, as animation does; empty text takes them away. What they say
-    /// counts more than `override`, which is the node's otherwise.
-    void setAnimatedStyle(NodeIndex index, const QString &declarations, const StyleOverridePointer &override);
+    /// Lays values over the style of a node, as animation does, in place of those before. They count more than
+    /// `override`, which is the node's otherwise.
+    void setAnimatedStyle(NodeIndex index, const Attributes &values, const StyleOverridePointer &override);
 
     NodeIndex copySubtree(NodeIndex source);
     void discardSubtree(NodeIndex top);
@@ -67,7 +67,7 @@ private:
     /// Reads the style sheets again, after which every style is out of date.
     void settleRules();
     void setEllipseBox(NodeIndex index, AttributeId side, double value);
-    void dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value);
+    void dropOverriddenStyle(NodeIndex index, AttributeId attribute, const AttributeValue &value);
 
     PrototypePointer m_prototype;
     Tree m_tree;

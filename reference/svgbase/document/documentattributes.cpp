@@ -3,7 +3,6 @@
 #include "document/document.h"
 
 #include "geometry/shapegeometry.h"
-#include "grammar/numbers.h"
 #include "grammar/styleattribute.h"
 #include "style/rules.h"
 
@@ -88,13 +87,13 @@ QString Document::attribute(NodeIndex index, const QString &name) const
     return value;
 }
 
-void Document::setAttribute(NodeIndex index, const QString &name, const QString &value)
+void Document::setAttribute(NodeIndex index, const QString &name, const AttributeValue &value)
 {
     settle();
     const AttributeId id = attributeId(name);
     // A property takes effect again where document-wide styling has put another value over it.
     const Attributes &present = std::as_const(m_tree).node(index).attributes;
-    const bool isThere = !value.isNull() && present.contains(name) && present.value(name) == value;
+    const bool isThere = !value.isNull() && present.contains(name) && present.held(name) == value;
     if (isThere && changeBy(id) != StyleChange)
         return;
     m_tree.edit(index).attributes.set(name, value);
@@ -119,12 +118,13 @@ void Document::setAttribute(NodeIndex index, const QString &name, const QString 
     nodeChanged(index, changeBy(id));
 }
 
-void Document::setAnimatedStyle(NodeIndex index, const QString &declarations, const StyleOverridePointer &override)
+void Document::setAnimatedStyle(NodeIndex index, const Attributes &values, const StyleOverridePointer &override)
 {
     settle();
     setStyleOverride(index, override);
-    m_tree.edit(index).attributes.set(AttributeId::AnimatedStyle, declarations);
-    dropOverriddenStyle(index, AttributeId::Style, declarations);
+    m_tree.setAnimatedStyle(index, values);
+    for (const Attribute &attribute : values)
+        dropOverriddenStyle(index, attribute.id, attribute.value);
     nodeChanged(index, StyleChange);
 }
 
@@ -134,7 +134,6 @@ Document::Change Document::changeBy(AttributeId attribute)
         return StyleChange;
     switch (attribute) {
     case AttributeId::Style:
-    case AttributeId::AnimatedStyle:
     case AttributeId::Class:
         return StyleChange;
     case AttributeId::Transform:
@@ -179,7 +178,7 @@ void Document::setNumericAttribute(NodeIndex index, const QString &name, double 
     if (isRound(m_tree.node(index).kind) && isBoxSide(id))
         setEllipseBox(index, id, value);
     else
-        setAttribute(index, name, numberText(value));
+        setAttribute(index, name, AttributeValue(value));
 }
 
 void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
@@ -187,32 +186,33 @@ void Document::setEllipseBox(NodeIndex index, AttributeId side, double value)
     const FactsPointer before = facts(index);
     QRectF box = ellipseBox(m_tree.node(index), *before->style, before->viewport);
     adjustBox(box, side, value);
-    if (m_tree.node(index).attributes.value(side) == numberText(value) &&
+    if (m_tree.node(index).attributes.held(side) == AttributeValue(value) &&
         box == ellipseBox(m_tree.node(index), *before->style, before->viewport))
         return;
     Node &node = m_tree.edit(index);
     // Kept so that the value reads back as it was written.
-    node.attributes.set(side, numberText(value));
+    node.attributes.set(side, AttributeValue(value));
     if (node.kind == ElementKind::Circle) {
         if (setsSize(side))
             box.setSize(setsHeight(side) ? QSizeF(box.height(), box.height()) : QSizeF(box.width(), box.width()));
-        node.attributes.set(AttributeId::R, numberText(box.width() / 2));
+        node.attributes.set(AttributeId::R, AttributeValue(box.width() / 2));
     } else if (setsSize(side)) {
-        node.attributes.set(AttributeId::Rx, numberText(box.width() / 2));
-        node.attributes.set(AttributeId::Ry, numberText(box.height() / 2));
+        node.attributes.set(AttributeId::Rx, AttributeValue(box.width() / 2));
+        node.attributes.set(AttributeId::Ry, AttributeValue(box.height() / 2));
     }
-    node.attributes.set(AttributeId::Cx, numberText(box.x() + box.width() / 2));
-    node.attributes.set(AttributeId::Cy, numberText(box.y() + box.height() / 2));
+    node.attributes.set(AttributeId::Cx, AttributeValue(box.x() + box.width() / 2));
+    node.attributes.set(AttributeId::Cy, AttributeValue(box.y() + box.height() / 2));
     nodeChanged(index, GeometryChange);
 }
 
-void Document::dropOverriddenStyle(NodeIndex index, AttributeId attribute, const QString &value)
+void Document::dropOverriddenStyle(NodeIndex index, AttributeId attribute, const AttributeValue &value)
 {
     StyleOverridePointer override = stylePointer(index);
     if (!override)
         return;
     if (attribute == AttributeId::Style) {
-        const QVector<StyleDeclaration> declarations = parseStyleAttribute(value);
+        const QString text = value.text();
+        const QVector<StyleDeclaration> declarations = parseStyleAttribute(text);
         for (const StyleDeclaration &declaration : declarations)
             if (override)
                 override = withoutProperty(override, attributeId(declaration.name));

@@ -19,7 +19,7 @@ QString opacityText(const QColor &color)
     return numberText(color.isValid() ? color.alphaF() : 1);
 }
 
-QString colorText(const QColor &color)
+QString opaqueText(const QColor &color)
 {
     return color.isValid() ? color.name() : QStringLiteral("#000000");
 }
@@ -161,7 +161,7 @@ void writeStops(XmlText *xml, const QGradientStops &stops)
     for (const QGradientStop &stop : stops) {
         xml->openTag(QStringLiteral("stop"));
         xml->attribute(QStringLiteral("offset"), numberText(stop.first));
-        xml->attribute(QStringLiteral("stop-color"), colorText(stop.second));
+        xml->attribute(QStringLiteral("stop-color"), opaqueText(stop.second));
         xml->attribute(QStringLiteral("stop-opacity"), opacityText(stop.second));
         xml->closeEmptyTag();
     }
@@ -219,7 +219,7 @@ QString PaintDefinitions::paintText(const QBrush &brush)
     if (brush.style() == Qt::NoBrush)
         return QStringLiteral("none");
     if (!isWritableGradient(brush))
-        return colorText(substitute(brush));
+        return opaqueText(substitute(brush));
     return QLatin1String("url(#") + referenceTo(brush) + QLatin1Char(')');
 }
 
@@ -242,7 +242,7 @@ QString overrideText(const StyleOverride &override, const ComputedStyle &style, 
     if (override.fill)
         text += fillText(*override.fill, paints);
     if (override.strokeColor) {
-        text += declaration("stroke", colorText(*override.strokeColor));
+        text += declaration("stroke", opaqueText(*override.strokeColor));
         text += declaration("stroke-opacity", opacityText(*override.strokeColor));
     }
     const double width = override.strokeWidth.value_or(style.strokeWidth);

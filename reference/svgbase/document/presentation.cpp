@@ -48,10 +48,10 @@ bool Presentation::update(AnimatedAttribute *attribute)
         followColor(attribute, m_document.facts(attribute->target)->style->color, m_document.tree());
     if (!refreshStates(attribute, m_model.timeline) && !recolored)
         return false;
-    const std::optional<QString> text = animatedText(*attribute);
-    if (text == attribute->shown)
+    const std::optional<AttributeValue> value = shownValue(*attribute);
+    if (value == attribute->shown)
         return false;
-    attribute->shown = text;
+    attribute->shown = value;
     return true;
 }
 
@@ -62,11 +62,11 @@ void Presentation::writeStyle(NodeIndex target, const Document &base)
         return attribute.target < node;
     };
     auto at = std::lower_bound(m_model.attributes.cbegin(), m_model.attributes.cend(), target, isBefore);
-    QString declarations;
+    Attributes values;
     for (; at != m_model.attributes.cend() && at->target == target; ++at)
         if (at->isProperty && at->shown)
-            declarations += at->name + QLatin1Char(':') + *at->shown + QLatin1Char(';');
-    m_document.setAnimatedStyle(target, declarations, base.stylePointer(target));
+            values.append({at->id, QString(), *at->shown});
+    m_document.setAnimatedStyle(target, values, base.stylePointer(target));
 }
 
 void Presentation::write(const AnimatedAttribute &attribute, const Document &base)
@@ -76,8 +76,8 @@ void Presentation::write(const AnimatedAttribute &attribute, const Document &bas
         return;
     }
     const Attributes &attributes = base.tree().node(attribute.target).attributes;
-    // A null text takes the attribute away.
-    const QString own = attributes.contains(attribute.name) ? attributes.value(attribute.name) : QString();
+    // A null value takes the attribute away.
+    const AttributeValue &own = attributes.held(attribute.name);
     m_document.setAttribute(attribute.target, attribute.name, attribute.shown.value_or(own));
 }
 

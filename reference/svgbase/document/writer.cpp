@@ -157,7 +157,7 @@ void Writer::writeAttributes(NodeIndex index)
             continue;
         const QString name =
             attribute.id == AttributeId::Unknown ? attribute.name : QString(attributeName(attribute.id));
-        m_xml.attribute(name, attribute.value);
+        m_xml.attribute(name, attribute.value.text());
     }
     writeStyle(index);
 }

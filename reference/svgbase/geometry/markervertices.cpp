@@ -199,11 +199,11 @@ QVector<MarkerVertex> markerVertices(const Node &node, const LengthContext &cont
         return verticesOf(polySegments(lineEnds(node.attributes, context), false));
     case ElementKind::Polyline:
     case ElementKind::Polygon:
-        return verticesOf(polySegments(parsePoints(node.attributes.value(AttributeId::Points)).points,
+        return verticesOf(polySegments(pointsOf(node.attributes.held(AttributeId::Points)).points,
                                        node.kind == ElementKind::Polygon));
     case ElementKind::Path: {
         QVector<PathSegment> segments;
-        parsePathData(node.attributes.value(AttributeId::D), &segments);
+        pathDataOf(node.attributes.held(AttributeId::D), &segments);
         return verticesOf(segments);
     }
     default:

@@ -84,7 +84,7 @@ Problem pointsProblem(const Points &points)
 
 Geometry pointsGeometry(const Attributes &attributes, bool closed, Problem *problem)
 {
-    const Points points = parsePoints(attributes.value(AttributeId::Points));
+    const Points points = pointsOf(attributes.held(AttributeId::Points));
     if (!points.complete && problem)
         *problem = pointsProblem(points);
     if (points.points.isEmpty())
@@ -112,18 +112,17 @@ Problem pathProblem(const PathData &data)
 }
 
 // Style sheets write path("M 0 0"), or "none".
-QString pathText(const Node &node, const ComputedStyle &style)
+PathData readPath(const AttributeValue &value)
 {
-    const QString text = styledAttribute(node, style, AttributeId::D);
-    if (!text.startsWith(QLatin1String("path(")))
-        return text;
-    const int begin = text.indexOf(text.at(qMin(5, text.size() - 1)), 5) + 1;
-    return text.mid(begin, text.lastIndexOf(QLatin1Char(')')) - begin - 1);
+    const QString *text = value.asText();
+    if (!text || !text->startsWith(QLatin1String("path(")))
+        return pathDataOf(value);
+    const int begin = text->indexOf(text->at(qMin(5, text->size() - 1)), 5) + 1;
+    return parsePathData(text->mid(begin, text->lastIndexOf(QLatin1Char(')')) - begin - 1));
 }
 
-Geometry pathGeometry(const QString &text, Problem *problem)
+Geometry pathGeometry(const PathData &data, Problem *problem)
 {
-    const PathData data = parsePathData(text);
     if (data.errorAt >= 0 && problem)
         *problem = pathProblem(data);
     if (data.path.elementCount() == 0)
@@ -135,10 +134,10 @@ Geometry pathGeometry(const QString &text, Problem *problem)
 
 double LengthReader::value(AttributeId id, Axis axis, double fallback) const
 {
-    const QString value = text(id);
+    const AttributeValue &value = held(id);
     if (value.isEmpty())
         return fallback;
-    const std::optional<Length> length = parseLength(value);
+    const std::optional<Length> length = lengthOf(value);
     return length ? toUserUnits(*length, axis, m_context) : fallback;
 }
 
@@ -150,12 +149,12 @@ double LengthReader::size(AttributeId id, Axis axis, double fallback) const
 
 bool LengthReader::has(AttributeId id) const
 {
-    return parseLength(text(id)).has_value();
+    return lengthOf(held(id)).has_value();
 }
 
 bool LengthReader::hasSize(AttributeId id) const
 {
-    const std::optional<Length> length = parseLength(text(id));
+    const std::optional<Length> length = lengthOf(held(id));
     return length && length->value >= 0;
 }
 
@@ -187,7 +186,7 @@ Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSize
     case ElementKind::Polygon:
         return pointsGeometry(node.attributes, true, problem);
     case ElementKind::Path:
-        return pathGeometry(pathText(node, style), problem);
+        return pathGeometry(readPath(styledAttribute(node, style, AttributeId::D)), problem);
     default:
         return Geometry();
     }

@@ -46,7 +46,7 @@ public:
     bool hasSize(AttributeId id) const;
 
 private:
-    QString text(AttributeId id) const { return styledAttribute(m_attributes, m_styled, id); }
+    const AttributeValue &held(AttributeId id) const { return styledAttribute(m_attributes, m_styled, id); }
 
     const Attributes &m_attributes;
     QVector<Attribute> m_styled;

@@ -105,6 +105,15 @@ double unbounded(const Length &length, Axis axis, const LengthContext &context)
 
 } // namespace
 
+QLatin1String unitText(Unit unit)
+{
+    if (unit == Unit::Percent)
+        return QLatin1String("%");
+    const auto known = std::find_if(std::begin(unitNames), std::end(unitNames),
+                                    [unit](const UnitName &name) { return name.unit == unit; });
+    return unit == Unit::User ? QLatin1String("") : known->name;
+}
+
 bool readLength(Cursor &cursor, Length *length)
 {
     Length result;

@@ -28,6 +28,12 @@ struct Length
     double plusEm = 0;
     /// Replaces everything above for a function that chooses between lengths; null for most.
     std::shared_ptr<const DeferredLength> deferred = nullptr;
+
+    bool operator==(const Length &other) const
+    {
+        return value == other.value && unit == other.unit && plusUser == other.plusUser && plusEm == other.plusEm &&
+               deferred == other.deferred;
+    }
 };
 
 /// Reference values of relative units; user units.
@@ -38,6 +44,8 @@ struct LengthContext
     double rootFontSize = 16;
 };
 
+/// As it stands behind a number; empty for user units.
+QLatin1String unitText(Unit unit);
 bool readLength(Cursor &cursor, Length *length);
 /// Text that is one length; ignores white space around it.
 std::optional<Length> parseLength(QStringView text);

@@ -1,11 +1,12 @@
 #include "grammar/pathdata.h"
 
-#include "grammar/arcs.h"
 #include "grammar/inputlimits.h"
 #include "grammar/numbers.h"
+#include "grammar/pathbuilder.h"
 
 #include <QtCore/QByteArray>
 
+#include <algorithm>
 #include <cstring>
 
 namespace Svg {
@@ -17,21 +18,23 @@ class PathReader
 public:
     PathReader(const QByteArray &bytes, QVector<PathSegment> *segments)
         : m_cursor{bytes.constBegin(), bytes.constEnd()}
-        , m_segmentList(segments)
+        , m_builder(segments)
     {
     }
 
     PathData read()
     {
         const char *begin = m_cursor.at;
-        if (!readCommands())
-            m_result.errorAt = m_cursor.at - begin;
-        endOpenSubpath();
-        return std::move(m_result);
+        const bool complete = readCommands();
+        PathData result = m_builder.finish();
+        result.errorAt = complete ? -1 : m_cursor.at - begin;
+        result.tooLong = m_tooLong;
+        return result;
     }
 
 private:
     bool readCommands();
+    bool hasRoom();
     bool readSegments();
     bool readSegment(char command, bool relative);
     bool readMove(bool relative);
@@ -45,30 +48,16 @@ private:
     bool readArc(bool relative);
     bool readPoint(bool relative, QPointF *point);
     bool readFlag(bool *flag);
-    bool close();
-    bool finishSubpath();
-    void endOpenSubpath();
-    void beginSubpath(const QPointF &start);
-    void record(char command, const QPointF &from, int elementsBefore);
-    bool isInRange(const QPointF &point) const;
     QPointF reflected(bool curveBefore) const;
 
     Cursor m_cursor;
-    QVector<PathSegment> *m_segmentList;
-    PathData m_result;
-    QPointF m_current;
-    QPointF m_start;
+    PathBuilder m_builder;
     /// The control point that a smooth segment reflects.
     QPointF m_control;
     char m_command = 0;
     /// The previous segment, in lower case: smooth segments depend on it.
     char m_previous = 0;
-    int m_segments = 0;
-    bool m_closed = false;
-    /// The first element of the subpath.
-    int m_firstElement = 0;
-    /// Whether the subpath has a segment, possibly one without length.
-    bool m_drawn = false;
+    bool m_tooLong = false;
 };
 
 char lowerCase(char c)
@@ -81,11 +70,6 @@ bool isCommand(char letter)
     return letter != '\0' && strchr("mlhvcsqtaz", lowerCase(letter));
 }
 
-bool PathReader::isInRange(const QPointF &point) const
-{
-    return qAbs(point.x()) <= Limits::coordinate && qAbs(point.y()) <= Limits::coordinate;
-}
-
 bool PathReader::readPoint(bool relative, QPointF *point)
 {
     Cursor probe = m_cursor;
@@ -93,8 +77,8 @@ bool PathReader::readPoint(bool relative, QPointF *point)
     double y = 0;
     if (!readNextNumber(probe, &x) || !readNextNumber(probe, &y))
         return false;
-    *point = relative ? m_current + QPointF(x, y) : QPointF(x, y);
-    if (!isInRange(*point))
+    *point = relative ? m_builder.current() + QPointF(x, y) : QPointF(x, y);
+    if (!PathBuilder::isInRange(*point))
         return false;
     m_cursor = probe;
     return true;
@@ -112,38 +96,7 @@ bool PathReader::readFlag(bool *flag)
 
 QPointF PathReader::reflected(bool curveBefore) const
 {
-    return curveBefore ? m_current * 2 - m_control : m_current;
-}
-
-// A painter's path drops lines without length; a subpath of such lines still has caps (SVG 2 §13.5.5), which
-// closing it would remove. True for such a subpath.
-bool PathReader::finishSubpath()
-{
-    QPainterPath &path = m_result.path;
-    const int count = path.elementCount();
-    const bool isDot = m_drawn && count > 0 && path.elementAt(count - 1).isMoveTo();
-    if (isDot)
-        path.lineTo(path.currentPosition() + QPointF(dotLength, 0));
-    m_drawn = false;
-    return isDot;
-}
-
-// One that returns to its start has caps there unless it is closed (SVG 2 §13.5.4).
-void PathReader::endOpenSubpath()
-{
-    const QPainterPath &path = m_result.path;
-    const int last = path.elementCount() - 1;
-    const bool isDot = finishSubpath();
-    if (!isDot && !m_closed && last > m_firstElement &&
-        isAtSamePlace(path.elementAt(m_firstElement), path.elementAt(last)))
-        m_result.openEnds.append(last);
-}
-
-void PathReader::beginSubpath(const QPointF &start)
-{
-    m_result.path.moveTo(start);
-    m_firstElement = m_result.path.elementCount() - 1;
-    m_closed = false;
+    return curveBefore ? m_builder.current() * 2 - m_control : m_builder.current();
 }
 
 bool PathReader::readMove(bool relative)
@@ -151,9 +104,7 @@ bool PathReader::readMove(bool relative)
     QPointF point;
     if (!readPoint(relative, &point))
         return false;
-    endOpenSubpath();
-    beginSubpath(point);
-    m_current = m_start = point;
+    m_builder.moveTo(point);
     // Further pairs are lines (SVG 1.1 §8.3.2).
     m_command = relative ? 'l' : 'L';
     return true;
@@ -164,8 +115,7 @@ bool PathReader::readLine(bool relative)
     QPointF point;
     if (!readPoint(relative, &point))
         return false;
-    m_result.path.lineTo(point);
-    m_current = point;
+    m_builder.lineTo(point);
     return true;
 }
 
@@ -175,12 +125,11 @@ bool PathReader::readHorizontal(bool relative)
     double x = 0;
     if (!readNextNumber(probe, &x))
         return false;
-    const QPointF point(relative ? m_current.x() + x : x, m_current.y());
-    if (!isInRange(point))
+    const QPointF point(relative ? m_builder.current().x() + x : x, m_builder.current().y());
+    if (!PathBuilder::isInRange(point))
         return false;
     m_cursor = probe;
-    m_result.path.lineTo(point);
-    m_current = point;
+    m_builder.lineTo(point);
     return true;
 }
 
@@ -190,12 +139,11 @@ bool PathReader::readVertical(bool relative)
     double y = 0;
     if (!readNextNumber(probe, &y))
         return false;
-    const QPointF point(m_current.x(), relative ? m_current.y() + y : y);
-    if (!isInRange(point))
+    const QPointF point(m_builder.current().x(), relative ? m_builder.current().y() + y : y);
+    if (!PathBuilder::isInRange(point))
         return false;
     m_cursor = probe;
-    m_result.path.lineTo(point);
-    m_current = point;
+    m_builder.lineTo(point);
     return true;
 }
 
@@ -206,9 +154,8 @@ bool PathReader::readCubic(bool relative)
     QPointF point;
     if (!readPoint(relative, &first) || !readPoint(relative, &second) || !readPoint(relative, &point))
         return false;
-    m_result.path.cubicTo(first, second, point);
+    m_builder.cubicTo(first, second, point);
     m_control = second;
-    m_current = point;
     return true;
 }
 
@@ -219,9 +166,8 @@ bool PathReader::readSmoothCubic(bool relative)
     QPointF point;
     if (!readPoint(relative, &second) || !readPoint(relative, &point))
         return false;
-    m_result.path.cubicTo(first, second, point);
+    m_builder.cubicTo(first, second, point);
     m_control = second;
-    m_current = point;
     return true;
 }
 
@@ -231,9 +177,8 @@ bool PathReader::readQuadratic(bool relative)
     QPointF point;
     if (!readPoint(relative, &control) || !readPoint(relative, &point))
         return false;
-    m_result.path.quadTo(control, point);
+    m_builder.quadTo(control, point);
     m_control = control;
-    m_current = point;
     return true;
 }
 
@@ -242,71 +187,30 @@ bool PathReader::readSmoothQuadratic(bool relative)
     const QPointF control = reflected(m_previous == 'q' || m_previous == 't');
     QPointF point;
     // Reflected coordinates can double with every segment.
-    if (!isInRange(control) || !readPoint(relative, &point))
+    if (!PathBuilder::isInRange(control) || !readPoint(relative, &point))
         return false;
-    m_result.path.quadTo(control, point);
+    m_builder.quadTo(control, point);
     m_control = control;
-    m_current = point;
     return true;
 }
 
 bool PathReader::readArc(bool relative)
 {
     Arc arc;
-    arc.from = m_current;
+    arc.from = m_builder.current();
     if (!readNextNumber(m_cursor, &arc.rx) || !readNextNumber(m_cursor, &arc.ry) ||
         !readNextNumber(m_cursor, &arc.rotation))
         return false;
     if (!readFlag(&arc.large) || !readFlag(&arc.sweep) || !readPoint(relative, &arc.to))
         return false;
-    if (!isInRange(QPointF(arc.rx, arc.ry)))
+    if (!PathBuilder::isInRange(QPointF(arc.rx, arc.ry)))
         return false;
-    appendArc(m_result.path, arc);
-    m_current = arc.to;
-    return true;
-}
-
-PathSegment::Kind kindOf(char command)
-{
-    if (command == 'm')
-        return PathSegment::Move;
-    return strchr("lhv", command) ? PathSegment::Line : PathSegment::Curve;
-}
-
-// A painter's path drops segments without length and splits arcs.
-void PathReader::record(char command, const QPointF &from, int elementsBefore)
-{
-    PathSegment segment{kindOf(command), from, from, m_current, m_current};
-    const QPainterPath &path = m_result.path;
-    int first = elementsBefore;
-    while (first < path.elementCount() && path.elementAt(first).type != QPainterPath::CurveToElement)
-        ++first;
-    if (segment.kind == PathSegment::Curve && first < path.elementCount()) {
-        segment.firstControl = path.elementAt(first);
-        segment.lastControl = path.elementAt(path.elementCount() - 2);
-    } else if (segment.kind == PathSegment::Curve) {
-        segment.kind = PathSegment::Line;
-    }
-    m_segmentList->append(segment);
-}
-
-bool PathReader::close()
-{
-    if (m_segmentList)
-        m_segmentList->append({PathSegment::Close, m_current, m_current, m_start, m_start});
-    m_drawn = true;
-    if (!finishSubpath())
-        m_result.path.closeSubpath();
-    m_current = m_start;
-    m_closed = true;
+    m_builder.arcTo(arc);
     return true;
 }
 
 bool PathReader::readSegment(char command, bool relative)
 {
-    // A drawing command after a closing command starts a new subpath at the start of the last one.
-    if (m_closed && command != 'm')
-        beginSubpath(m_start);
     switch (command) {
     case 'm':
         return readMove(relative);
@@ -331,6 +235,12 @@ bool PathReader::readSegment(char command, bool relative)
     }
 }
 
+bool PathReader::hasRoom()
+{
+    m_tooLong = m_builder.isFull();
+    return !m_tooLong;
+}
+
 bool PathReader::readSegments()
 {
     bool first = true;
@@ -345,18 +255,12 @@ bool PathReader::readSegments()
             return !comma;
         if (first && comma)
             return false;
-        if (m_segments == Limits::pathSegments) {
-            m_result.tooLong = true;
+        if (!hasRoom())
             return false;
-        }
-        const QPointF from = m_current;
-        const int elementsBefore = m_result.path.elementCount();
+        m_builder.begin(command);
         if (!readSegment(command, relative))
             return false;
-        m_drawn = m_drawn || command != 'm';
-        if (m_segmentList)
-            record(command, from, elementsBefore);
-        ++m_segments;
+        m_builder.end();
         m_previous = command;
         first = false;
     }
@@ -374,12 +278,9 @@ bool PathReader::readCommands()
             return false;
         ++m_cursor.at;
         if (lowerCase(letter) == 'z') {
-            if (m_segments == Limits::pathSegments) {
-                m_result.tooLong = true;
+            if (!hasRoom())
                 return false;
-            }
-            close();
-            ++m_segments;
+            m_builder.close();
             m_previous = 'z';
             continue;
         }
@@ -389,13 +290,101 @@ bool PathReader::readCommands()
     }
 }
 
+QPointF pointAt(const QVector<double> &coordinates, int at)
+{
+    return QPointF(coordinates.at(at), coordinates.at(at + 1));
+}
+
+bool areInRange(const QVector<double> &coordinates, int from, int count)
+{
+    const auto isInRange = [](double value) { return qAbs(value) <= Limits::coordinate; };
+    const auto begin = coordinates.begin() + from;
+    return std::all_of(begin, begin + count, isInRange);
+}
+
+void addArc(PathBuilder *builder, const QVector<double> &coordinates, int at)
+{
+    Arc arc;
+    arc.from = builder->current();
+    arc.rx = coordinates.at(at);
+    arc.ry = coordinates.at(at + 1);
+    arc.rotation = coordinates.at(at + 2);
+    arc.large = coordinates.at(at + 3) != 0;
+    arc.sweep = coordinates.at(at + 4) != 0;
+    arc.to = pointAt(coordinates, at + 5);
+    builder->arcTo(arc);
+}
+
+void addSegment(PathBuilder *builder, char command, const QVector<double> &coordinates, int at)
+{
+    switch (command) {
+    case 'M':
+        builder->moveTo(pointAt(coordinates, at));
+        break;
+    case 'L':
+        builder->lineTo(pointAt(coordinates, at));
+        break;
+    case 'C':
+        builder->cubicTo(pointAt(coordinates, at), pointAt(coordinates, at + 2), pointAt(coordinates, at + 4));
+        break;
+    case 'Q':
+        builder->quadTo(pointAt(coordinates, at), pointAt(coordinates, at + 2));
+        break;
+    default:
+        addArc(builder, coordinates, at);
+        break;
+    }
+}
+
 } // namespace
 
-bool isAtSamePlace(const QPointF &a, const QPointF &b)
+int coordinateCount(char command)
 {
-    constexpr double share = 1e-9;
-    const double farthest = qMax(qMax(qAbs(a.x()), qAbs(a.y())), qMax(qAbs(b.x()), qAbs(b.y())));
-    return (a - b).manhattanLength() <= share * farthest;
+    switch (command) {
+    case 'M':
+    case 'L':
+        return 2;
+    case 'C':
+        return 6;
+    case 'Q':
+        return 4;
+    case 'A':
+        return 7;
+    default:
+        return 0;
+    }
+}
+
+PathData pathDataOf(const PathValue &value, QVector<PathSegment> *segments)
+{
+    PathBuilder builder(segments);
+    int at = 0;
+    for (const char command : value.commands) {
+        const int count = coordinateCount(command);
+        if (builder.isFull() || !areInRange(value.coordinates, at, count))
+            break;
+        if (command == 'Z') {
+            builder.close();
+            continue;
+        }
+        builder.begin(char(command - 'A' + 'a'));
+        addSegment(&builder, command, value.coordinates, at);
+        builder.end();
+        at += count;
+    }
+    return builder.finish();
+}
+
+QString pathText(const PathValue &value)
+{
+    QString text;
+    int at = 0;
+    for (const char command : value.commands) {
+        text += QLatin1Char(command);
+        for (const int end = at + coordinateCount(command); at < end; ++at)
+            text += QLatin1Char(' ') + numberText(value.coordinates.at(at));
+    }
+    return text;
 }
 
 PathData parsePathData(QStringView text, QVector<PathSegment> *segments)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QStringView>
 #include <QtCore/QVector>
 #include <QtGui/QPainterPath>
@@ -41,5 +42,25 @@ bool isAtSamePlace(const QPointF &a, const QPointF &b);
 /// Reads path data (SVG 1.1 §8.3). A path is drawn up to its first error. `segments`, if given, receives the single
 /// segments.
 PathData parsePathData(QStringView text, QVector<PathSegment> *segments = nullptr);
+
+/// Path data without a text, all coordinates absolute.
+struct PathValue
+{
+    /// Letters of "MLCQAZ", "M" first.
+    QByteArray commands;
+    /// Coordinates of all commands in their order; flags of arcs are 0 or 1.
+    QVector<double> coordinates;
+
+    bool operator==(const PathValue &other) const
+    {
+        return commands == other.commands && coordinates == other.coordinates;
+    }
+};
+
+/// How many coordinates follow a letter of a `PathValue`.
+int coordinateCount(char command);
+/// The same as parsePathData() makes of the text.
+PathData pathDataOf(const PathValue &value, QVector<PathSegment> *segments = nullptr);
+QString pathText(const PathValue &value);
 
 } // namespace Svg

@@ -34,4 +34,20 @@ Points parsePoints(QStringView text)
     }
 }
 
+Points pointsOf(const QVector<double> &coordinates)
+{
+    Points result;
+    for (int i = 0; i + 1 < coordinates.size(); i += 2) {
+        const QPointF point(coordinates.at(i), coordinates.at(i + 1));
+        const bool isDrawable = qAbs(point.x()) <= Limits::coordinate && qAbs(point.y()) <= Limits::coordinate;
+        result.tooLong = result.points.size() > Limits::pathSegments;
+        result.complete = isDrawable && !result.tooLong;
+        if (!result.complete)
+            return result;
+        result.points.append(point);
+    }
+    result.complete = coordinates.size() % 2 == 0;
+    return result;
+}
+
 } // namespace Svg

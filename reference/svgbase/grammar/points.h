@@ -16,5 +16,7 @@ struct Points
 };
 
 Points parsePoints(QStringView text);
+/// The same of coordinates without a text.
+Points pointsOf(const QVector<double> &coordinates);
 
 } // namespace Svg

@@ -2,22 +2,29 @@
 
 #include "grammar/numbers.h"
 
+#include <QtCore/QStringList>
 #include <QtCore/QtMath>
 
 namespace Svg {
 
 namespace {
 
-constexpr int maximumArguments = 6;
-
-struct Function
+struct KindName
 {
+    TransformFunction::Kind kind;
     QLatin1String name;
-    double arguments[maximumArguments] = {};
-    int count = 0;
 };
 
-bool readArguments(Cursor &cursor, Function *function)
+const KindName kindNames[] = {
+    {TransformFunction::Matrix, QLatin1String("matrix")},
+    {TransformFunction::Translate, QLatin1String("translate")},
+    {TransformFunction::Scale, QLatin1String("scale")},
+    {TransformFunction::Rotate, QLatin1String("rotate")},
+    {TransformFunction::SkewX, QLatin1String("skewX")},
+    {TransformFunction::SkewY, QLatin1String("skewY")},
+};
+
+bool readArguments(Cursor &cursor, TransformFunction *function)
 {
     cursor.skipSpace();
     if (!cursor.take('('))
@@ -28,39 +35,87 @@ bool readArguments(Cursor &cursor, Function *function)
     function->count = 1;
     double value = 0;
     while (readNextNumber(cursor, &value)) {
-        if (function->count == maximumArguments)
+        if (function->count == int(function->arguments.size()))
             return false;
-        function->arguments[function->count++] = value;
+        function->arguments[size_t(function->count++)] = value;
     }
     cursor.skipSpace();
     return cursor.take(')');
 }
 
-QTransform rotation(const Function &f)
+bool hasItsArguments(const TransformFunction &function)
+{
+    switch (function.kind) {
+    case TransformFunction::Matrix:
+        return function.count == 6;
+    case TransformFunction::Translate:
+    case TransformFunction::Scale:
+        return function.count == 1 || function.count == 2;
+    case TransformFunction::Rotate:
+        return function.count == 1 || function.count == 3;
+    case TransformFunction::SkewX:
+    case TransformFunction::SkewY:
+        break;
+    }
+    return function.count == 1;
+}
+
+bool readFunction(Cursor &cursor, TransformFunction *function)
+{
+    const std::optional<TransformFunction::Kind> kind = transformKind(cursor.takeWord());
+    if (!kind)
+        return false;
+    function->kind = *kind;
+    return readArguments(cursor, function) && hasItsArguments(*function);
+}
+
+template<typename Visit> bool forEachFunction(QStringView text, Visit visit)
+{
+    const Latin1Text bytes(text);
+    Cursor cursor = bytes.cursor();
+    cursor.skipSpace();
+    while (!cursor.atEnd()) {
+        TransformFunction function;
+        if (!readFunction(cursor, &function))
+            return false;
+        visit(function);
+        cursor.skipCommaSpace();
+    }
+    return true;
+}
+
+QTransform rotation(double degrees, const QPointF &center)
 {
     QTransform result;
-    result.translate(f.arguments[1], f.arguments[2]);
-    result.rotate(f.arguments[0]);
-    result.translate(-f.arguments[1], -f.arguments[2]);
+    result.translate(center.x(), center.y());
+    result.rotate(degrees);
+    result.translate(-center.x(), -center.y());
     return result;
 }
 
-std::optional<QTransform> matrixOf(const Function &f)
+QTransform matrixOf(const TransformFunction &function)
 {
-    const double *a = f.arguments;
-    if (f.name == QLatin1String("matrix") && f.count == 6)
-        return QTransform(a[0], a[1], a[2], a[3], a[4], a[5]);
-    if (f.name == QLatin1String("translate") && f.count <= 2)
+    const auto &a = function.arguments;
+    switch (function.kind) {
+    case TransformFunction::Translate:
         return QTransform::fromTranslate(a[0], a[1]);
-    if (f.name == QLatin1String("scale") && f.count <= 2)
-        return QTransform::fromScale(a[0], f.count == 2 ? a[1] : a[0]);
-    if (f.name == QLatin1String("rotate") && (f.count == 1 || f.count == 3))
-        return rotation(f);
-    if (f.name == QLatin1String("skewX") && f.count == 1)
+    case TransformFunction::Scale:
+        return QTransform::fromScale(a[0], function.count == 2 ? a[1] : a[0]);
+    case TransformFunction::Rotate:
+        return rotation(a[0], QPointF(a[1], a[2]));
+    case TransformFunction::SkewX:
         return QTransform(1, 0, std::tan(qDegreesToRadians(a[0])), 1, 0, 0);
-    if (f.name == QLatin1String("skewY") && f.count == 1)
+    case TransformFunction::SkewY:
         return QTransform(1, std::tan(qDegreesToRadians(a[0])), 0, 1, 0, 0);
-    return std::nullopt;
+    case TransformFunction::Matrix:
+        break;
+    }
+    return QTransform(a[0], a[1], a[2], a[3], a[4], a[5]);
+}
+
+std::optional<QTransform> finite(const QTransform &t)
+{
+    return isFinite(t) ? std::optional<QTransform>(t) : std::nullopt;
 }
 
 } // namespace
@@ -71,26 +126,52 @@ bool isFinite(const QTransform &transform)
     return qIsFinite(t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy());
 }
 
+std::optional<TransformFunction::Kind> transformKind(QLatin1String name)
+{
+    for (const KindName &known : kindNames)
+        if (known.name == name)
+            return known.kind;
+    return std::nullopt;
+}
+
+std::optional<TransformList> parseTransformList(QStringView text)
+{
+    TransformList list;
+    const bool complete =
+        forEachFunction(text, [&list](const TransformFunction &function) { list.append(function); });
+    return complete ? std::optional<TransformList>(list) : std::nullopt;
+}
+
+std::optional<QTransform> matrixOf(const TransformList &list)
+{
+    QTransform result;
+    for (const TransformFunction &function : list) {
+        if (!hasItsArguments(function))
+            return std::nullopt;
+        result = matrixOf(function) * result;
+    }
+    return finite(result);
+}
+
+QString transformText(const TransformList &list)
+{
+    QStringList functions;
+    for (const TransformFunction &function : list) {
+        QStringList numbers;
+        for (int i = 0; i < function.count; ++i)
+            numbers.append(numberText(function.arguments[size_t(i)]));
+        functions.append(kindNames[function.kind].name + QLatin1Char('(') + numbers.join(QLatin1Char(' ')) +
+                         QLatin1Char(')'));
+    }
+    return functions.join(QLatin1Char(' '));
+}
+
 std::optional<QTransform> parseTransform(QStringView text)
 {
-    const Latin1Text bytes(text);
-    Cursor cursor = bytes.cursor();
     QTransform result;
-    cursor.skipSpace();
-    while (!cursor.atEnd()) {
-        Function function;
-        function.name = cursor.takeWord();
-        if (!readArguments(cursor, &function))
-            return std::nullopt;
-        const std::optional<QTransform> matrix = matrixOf(function);
-        if (!matrix)
-            return std::nullopt;
-        result = *matrix * result;
-        cursor.skipCommaSpace();
-    }
-    if (!isFinite(result))
-        return std::nullopt;
-    return result;
+    const bool complete = forEachFunction(
+        text, [&result](const TransformFunction &function) { result = matrixOf(function) * result; });
+    return complete ? finite(result) : std::nullopt;
 }
 
 } // namespace Svg

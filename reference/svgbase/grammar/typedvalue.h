@@ -1,26 +1,22 @@
 #pragma once
 
 #include "grammar/lengths.h"
+#include "grammar/pathdata.h"
+#include "grammar/transforms.h"
 
-#include <QtCore/QByteArray>
 #include <QtCore/QVector>
 #include <QtGui/QColor>
-#include <QtGui/QTransform>
 
 #include <variant>
 
 namespace Svg {
 
-/// Path data with all coordinates absolute.
-struct PathValue
-{
-    /// Letters of "MLCQAZ".
-    QByteArray commands;
-    /// Those of all commands one after another; flags of arcs are 0 or 1.
-    QVector<double> coordinates;
-};
-
 /// A value of a property or of an attribute that is no text.
-using TypedValue = std::variant<QVector<Length>, QColor, PathValue, QTransform>;
+using TypedValue = std::variant<QVector<Length>, QColor, PathValue, TransformList>;
+
+/// The shortest text that reads back as the same value.
+QString valueText(const TypedValue &value);
+/// A colour as "#rrggbb", or "#rrggbbaa" where it is not opaque; empty for an invalid one.
+QString colorText(const QColor &color);
 
 } // namespace Svg

@@ -48,12 +48,17 @@ bool parseAlignment(QStringView word, AspectRatio *ratio)
 std::optional<QRectF> parseViewBox(QStringView text)
 {
     const std::optional<QVector<double>> numbers = parseNumberList(text);
-    if (!numbers || numbers->size() != 4)
+    return numbers ? viewBoxOf(*numbers) : std::nullopt;
+}
+
+std::optional<QRectF> viewBoxOf(const QVector<double> &numbers)
+{
+    if (numbers.size() != 4)
         return std::nullopt;
     const auto drawable = [](double value) { return qAbs(value) <= Limits::coordinate; };
-    if (!std::all_of(numbers->begin(), numbers->end(), drawable) || numbers->at(2) < 0 || numbers->at(3) < 0)
+    if (!std::all_of(numbers.begin(), numbers.end(), drawable) || numbers.at(2) < 0 || numbers.at(3) < 0)
         return std::nullopt;
-    return QRectF(numbers->at(0), numbers->at(1), numbers->at(2), numbers->at(3));
+    return QRectF(numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3));
 }
 
 AspectRatio parseAspectRatio(QStringView text)

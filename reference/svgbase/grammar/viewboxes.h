@@ -2,6 +2,7 @@
 
 #include <QtCore/QRectF>
 #include <QtCore/QStringView>
+#include <QtCore/QVector>
 #include <QtGui/QTransform>
 
 #include <optional>
@@ -10,6 +11,8 @@ namespace Svg {
 
 /// A "viewBox" (SVG 1.1 §7.7); no value if it is invalid or has a negative side.
 std::optional<QRectF> parseViewBox(QStringView text);
+/// The same of numbers without a text.
+std::optional<QRectF> viewBoxOf(const QVector<double> &numbers);
 
 /// A "preserveAspectRatio": how a view box is fitted into a viewport (SVG 1.1 §7.8).
 struct AspectRatio

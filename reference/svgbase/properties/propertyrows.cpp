@@ -11,15 +11,6 @@ bool isWord(QStringView text, const char *word)
     return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
 }
 
-// Attributes have the alpha behind the colour.
-QString colorText(const QColor &color)
-{
-    if (!color.isValid())
-        return QString();
-    const QString name = color.name(QColor::HexArgb);
-    return color.alpha() == 255 ? color.name() : QLatin1Char('#') + name.mid(3) + name.mid(1, 2);
-}
-
 QString referenceText(const QString &id)
 {
     return id.isEmpty() ? QStringLiteral("none") : QStringLiteral("url(#%1)").arg(id);

@@ -132,7 +132,6 @@ template<size_t count> constexpr bool isComplete(const Property (&rows)[count], 
 /// @{
 
 bool isWord(QStringView text, const char *word);
-QString colorText(const QColor &color);
 /// A reference to an element, or "none" for an empty id.
 QString referenceText(const QString &id);
 /// "none" or a reference; false for anything else.

@@ -32,4 +32,13 @@ bool applyProperty(ComputedStyle &style, AttributeId property, QStringView text,
     return true;
 }
 
+bool assignProperty(ComputedStyle &style, AttributeId property, const AttributeValue &value,
+                    const PropertyContext &context)
+{
+    const PropertyAnimation &animation = propertyOf(property).animation;
+    const std::optional<TypedValue> typed = typedValueOf(value);
+    return typed && animation.assign ? animation.assign(style, *typed, context)
+                                     : applyProperty(style, property, QStringView(value.text()), context);
+}
+
 } // namespace Svg

@@ -9,5 +9,8 @@ const Property &propertyOf(AttributeId id);
 
 /// Applies text to a style. A value that the property's grammar does not accept changes nothing and gives false.
 bool applyProperty(ComputedStyle &style, AttributeId property, QStringView text, const PropertyContext &context);
+/// The same of a value that may have no text.
+bool assignProperty(ComputedStyle &style, AttributeId property, const AttributeValue &value,
+                    const PropertyContext &context);
 
 } // namespace Svg

@@ -63,7 +63,7 @@ void Walk::count(const Node &node, const Facts &facts)
 {
     ++m_budget->instances;
     for (const Attribute &attribute : node.attributes)
-        m_budget->characters += attribute.value.size();
+        m_budget->characters += attribute.value.characterCount();
     for (const Outline &outline : facts.outlines)
         m_budget->outlineElements += outline.path.elementCount();
 }

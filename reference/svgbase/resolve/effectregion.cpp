@@ -15,7 +15,7 @@ QRectF effectRegion(const Node &effect, bool ofBounds, const RegionContext &cont
 {
     const LengthContext lengths{ofBounds ? QSizeF(1, 1) : context.viewport, context.fontSize};
     const auto read = [&](AttributeId id, Axis axis, const Length &fallback) {
-        return toUserUnits(parseLength(effect.attributes.value(id)).value_or(fallback), axis, lengths);
+        return toUserUnits(lengthOf(effect.attributes.held(id)).value_or(fallback), axis, lengths);
     };
     const QRectF region(read(AttributeId::X, Axis::Horizontal, regionStart),
                         read(AttributeId::Y, Axis::Vertical, regionStart),

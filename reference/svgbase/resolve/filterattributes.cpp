@@ -94,7 +94,7 @@ QSizeF PrimitiveReader::scaled(const QSizeF &size) const
 
 std::optional<double> PrimitiveReader::place(AttributeId id, Axis axis) const
 {
-    const std::optional<Length> length = parseLength(m_node.attributes.value(id));
+    const std::optional<Length> length = lengthOf(m_node.attributes.held(id));
     if (!length)
         return std::nullopt;
     const QSizeF base = m_units.ofBounds ? QSizeF(1, 1) : m_units.viewport;
@@ -188,11 +188,11 @@ double stepped(const QVector<double> &values, double share)
 QByteArray readTable(const Attributes &attributes)
 {
     const auto number = [&](const char *name, double fallback) {
-        return parseNumber(attributes.value(QLatin1String(name))).value_or(fallback);
+        return numberOf(attributes.held(QLatin1String(name))).value_or(fallback);
     };
     const QString type = attributes.value(QStringLiteral("type"));
     const QVector<double> values =
-        parseNumberList(attributes.value(QStringLiteral("tableValues"))).value_or(QVector<double>());
+        numbersOf(attributes.held(QStringLiteral("tableValues"))).value_or(QVector<double>());
     if (type == QLatin1String("table") && !values.isEmpty())
         return transferTable([&](double c) { return interpolated(values, c); });
     if (type == QLatin1String("discrete") && !values.isEmpty())

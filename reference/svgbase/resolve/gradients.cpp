@@ -31,7 +31,7 @@ public:
     bool isEmpty() const { return m_nodes.isEmpty(); }
     bool isCut() const { return m_cut; }
     ElementKind kind() const { return m_tree.node(m_nodes.first()).kind; }
-    QString value(AttributeId id) const;
+    AttributeValue held(AttributeId id) const;
     ServerTransform transform() const;
     QGradientStops stops(double opacity) const;
 
@@ -86,14 +86,14 @@ bool isOfKind(AttributeId id, ElementKind kind)
     }
 }
 
-QString GradientChain::value(AttributeId id) const
+AttributeValue GradientChain::held(AttributeId id) const
 {
     for (const NodeIndex index : m_nodes) {
         const Node &node = m_tree.node(index);
         if (isOfKind(id, node.kind) && node.attributes.contains(id))
-            return node.attributes.value(id);
+            return node.attributes.held(id);
     }
-    return QString();
+    return AttributeValue();
 }
 
 // The nearest that says something.
@@ -103,7 +103,7 @@ ServerTransform GradientChain::transform() const
     for (const NodeIndex index : m_nodes) {
         const Node &node = m_tree.node(index);
         const ServerTransform own = serverTransform(node, m_styles->styleOf(m_tree, index),
-                                                    node.attributes.value(AttributeId::GradientTransform));
+                                                    node.attributes.held(AttributeId::GradientTransform));
         if (result.transform.isEmpty())
             result.transform = own.transform;
         if (result.origin.isEmpty())
@@ -138,7 +138,7 @@ QGradientStops GradientChain::stops(double opacity) const
         const ComputedStyle style = cascade(m_tree, child, {around, QSizeF()});
         QColor color = style.stopColor;
         color.setAlphaF(color.alphaF() * style.stopOpacity * opacity);
-        const double offset = parseOpacity(stop.attributes.value(AttributeId::Offset)).value_or(0);
+        const double offset = shareOf(stop.attributes.held(AttributeId::Offset)).value_or(0);
         // Offsets never fall back (SVG 1.1 §13.2.4).
         stops.append({stops.isEmpty() ? offset : qMax(offset, stops.constLast().first), color});
     }
@@ -191,7 +191,7 @@ class GradientLengths
 public:
     GradientLengths(const GradientChain &chain, const GradientTarget &target, double fontSize)
         : m_chain(chain)
-        , m_ofBounds(chain.value(AttributeId::GradientUnits) != QLatin1String("userSpaceOnUse"))
+        , m_ofBounds(chain.held(AttributeId::GradientUnits).text() != QLatin1String("userSpaceOnUse"))
         , m_context{m_ofBounds ? QSizeF(1, 1) : target.viewport, fontSize}
     {
     }
@@ -200,11 +200,11 @@ public:
     double value(AttributeId id, Axis axis, double fallbackPercent) const
     {
         const Length fallback{fallbackPercent, Unit::Percent};
-        return toUserUnits(parseLength(m_chain.value(id)).value_or(fallback), axis, m_context);
+        return toUserUnits(lengthOf(m_chain.held(id)).value_or(fallback), axis, m_context);
     }
     double valueOr(AttributeId id, Axis axis, double fallback) const
     {
-        const std::optional<Length> length = parseLength(m_chain.value(id));
+        const std::optional<Length> length = lengthOf(m_chain.held(id));
         return length ? toUserUnits(*length, axis, m_context) : fallback;
     }
 
@@ -245,7 +245,7 @@ GradientCache::Known prepared(const GradientChain &chain, double opacity, const 
     if (style.mixesLinear)
         stops = followingLight(stops);
     separate(stops);
-    const QGradient::Spread method = spread(chain.value(AttributeId::SpreadMethod));
+    const QGradient::Spread method = spread(chain.held(AttributeId::SpreadMethod).text());
     if (chain.kind() == ElementKind::LinearGradient)
         takeStops(&known.linear, stops, method);
     else

@@ -12,7 +12,7 @@ const Length defaultMarkerSize{3, Unit::User};
 
 double markerSide(const Attributes &attributes, const QString &name, Axis axis, const LengthContext &context)
 {
-    return toUserUnits(parseLength(attributes.value(name)).value_or(defaultMarkerSize), axis, context);
+    return toUserUnits(lengthOf(attributes.held(name)).value_or(defaultMarkerSize), axis, context);
 }
 
 void readOrientation(const Attributes &attributes, MarkerForm *form)
@@ -33,7 +33,7 @@ bool fitContent(const Attributes &attributes, const LengthContext &context, Mark
         return false;
     form->box = QRectF(QPointF(), size);
     form->viewport = size;
-    const std::optional<QRectF> viewBox = parseViewBox(attributes.value(AttributeId::ViewBox));
+    const std::optional<QRectF> viewBox = viewBoxOf(attributes.held(AttributeId::ViewBox));
     if (viewBox) {
         const AspectRatio ratio = parseAspectRatio(attributes.value(AttributeId::PreserveAspectRatio));
         const std::optional<QTransform> fitted = viewBoxTransform(*viewBox, form->box, ratio);

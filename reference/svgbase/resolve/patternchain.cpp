@@ -21,12 +21,12 @@ PatternChain::PatternChain(const Tree &tree, NodeIndex pattern)
     }
 }
 
-QString PatternChain::value(const QString &name) const
+AttributeValue PatternChain::held(const QString &name) const
 {
     for (const NodeIndex index : m_nodes)
         if (m_tree.node(index).attributes.contains(name))
-            return m_tree.node(index).attributes.value(name);
-    return QString();
+            return m_tree.node(index).attributes.held(name);
+    return AttributeValue();
 }
 
 ServerTransform PatternChain::transform() const
@@ -35,7 +35,7 @@ ServerTransform PatternChain::transform() const
     for (const NodeIndex index : m_nodes) {
         const Node &node = m_tree.node(index);
         const ServerTransform own = serverTransform(node, styleInTree(m_tree, index),
-                                                    node.attributes.value(QStringLiteral("patternTransform")));
+                                                    node.attributes.held(QStringLiteral("patternTransform")));
         if (result.transform.isEmpty())
             result.transform = own.transform;
         if (result.origin.isEmpty())
@@ -53,19 +53,19 @@ NodeIndex PatternChain::holder() const
 
 bool PatternChain::isTileOfBounds() const
 {
-    return value(QStringLiteral("patternUnits")) != QLatin1String("userSpaceOnUse");
+    return held(QStringLiteral("patternUnits")).text() != QLatin1String("userSpaceOnUse");
 }
 
 bool PatternChain::isContentOfBounds() const
 {
-    return value(QStringLiteral("patternContentUnits")) == QLatin1String("objectBoundingBox");
+    return held(QStringLiteral("patternContentUnits")).text() == QLatin1String("objectBoundingBox");
 }
 
 // A view box takes the place of the content's units.
 bool needsBounds(const PatternChain &chain)
 {
     return chain.isTileOfBounds() ||
-           (chain.isContentOfBounds() && !parseViewBox(chain.value(QStringLiteral("viewBox"))));
+           (chain.isContentOfBounds() && !viewBoxOf(chain.held(QStringLiteral("viewBox"))));
 }
 
 } // namespace Svg

@@ -11,7 +11,7 @@ class PatternChain
 public:
     PatternChain(const Tree &tree, NodeIndex pattern);
 
-    QString value(const QString &name) const;
+    AttributeValue held(const QString &name) const;
     /// The nearest that says something.
     ServerTransform transform() const;
     /// The first that has content; `noNode` when none has.

@@ -37,7 +37,7 @@ private:
 
 double PatternPlacing::length(const char *name, Axis axis) const
 {
-    const Length length = parseLength(m_chain.value(QString(QLatin1String(name)))).value_or(Length());
+    const Length length = lengthOf(m_chain.held(QString(QLatin1String(name)))).value_or(Length());
     return toUserUnits(length, axis, {m_units, m_fontSize});
 }
 
@@ -57,9 +57,9 @@ bool PatternPlacing::placeContent(PatternPlace *place) const
 {
     const QRectF &tile = place->tile;
     place->contentViewport = m_viewport;
-    const std::optional<QRectF> box = parseViewBox(m_chain.value(QStringLiteral("viewBox")));
+    const std::optional<QRectF> box = viewBoxOf(m_chain.held(QStringLiteral("viewBox")));
     if (box) {
-        const AspectRatio ratio = parseAspectRatio(m_chain.value(QStringLiteral("preserveAspectRatio")));
+        const AspectRatio ratio = parseAspectRatio(m_chain.held(QStringLiteral("preserveAspectRatio")).text());
         const std::optional<QTransform> fitted = viewBoxTransform(*box, tile, ratio);
         place->toPattern = fitted.value_or(QTransform());
         place->contentViewport = box->size();

@@ -37,7 +37,7 @@ QString text(const Attributes &attributes, const char *name)
 
 double number(const Attributes &attributes, const char *name, double fallback)
 {
-    const double read = parseNumber(text(attributes, name)).value_or(fallback);
+    const double read = numberOf(attributes.held(QLatin1String(name))).value_or(fallback);
     return qBound(-Limits::coordinate, read, Limits::coordinate);
 }
 

@@ -34,7 +34,7 @@ QPointF transformOrigin(const Node &node, const ComputedStyle &style, const QRec
 {
     const QPointF middle(context.viewport.width() / 2, context.viewport.height() / 2);
     const QPointF usual = node.kind == ElementKind::Document ? middle : QPointF();
-    const QString text = styledAttribute(node, style, AttributeId::TransformOrigin);
+    const QString text = styledAttribute(node, style, AttributeId::TransformOrigin).text();
     const std::optional<QPointF> origin =
         text.isEmpty() ? std::nullopt : parseTransformOrigin(text, {box.size(), style.font.size});
     return origin ? box.topLeft() + *origin : usual;
@@ -44,7 +44,7 @@ enum class TransformBox { View, OfShape, OfContent, OfStrokes };
 
 TransformBox transformBoxOf(const Node &node, const ComputedStyle &style)
 {
-    const QString text = styledAttribute(node, style, AttributeId::TransformBox).trimmed();
+    const QString text = styledAttribute(node, style, AttributeId::TransformBox).text().trimmed();
     if (!isDrawable(node.kind) || node.kind == ElementKind::Document)
         return TransformBox::View;
     if (text == QLatin1String("stroke-box") || text == QLatin1String("border-box"))
@@ -108,7 +108,7 @@ double dashScale(const Node &node, const ComputedStyle &style, const QPainterPat
 {
     if (style.strokeDasharray.isEmpty() || !node.attributes.contains(AttributeId::PathLength))
         return 1;
-    const double claimed = parseNumber(node.attributes.value(AttributeId::PathLength)).value_or(-1);
+    const double claimed = numberOf(node.attributes.held(AttributeId::PathLength)).value_or(-1);
     if (claimed < 0)
         return 1;
     return claimed == 0 ? 0 : PathMeasure(path).length() / claimed;
@@ -253,21 +253,23 @@ QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
         return QTransform();
     const Node &node = m_tree.node(index);
     const ComputedStyle &style = *facts.style;
-    const QString text = styledAttribute(node, style, AttributeId::Transform);
-    if (text.isEmpty() && style.attributes.isEmpty())
+    const AttributeValue &own = styledAttribute(node, style, AttributeId::Transform);
+    if (own.isEmpty() && style.attributes.isEmpty())
         return QTransform();
     const bool isRoot = node.kind == ElementKind::Document;
     LengthContext context{isRoot ? rootSize(node, m_tree.window()) : facts.viewport, style.font.size};
     const QRectF box = transformBox(index, facts, context);
     context.viewport = box.size();
-    std::optional<QTransform> transform = parseTransform(text);
+    std::optional<QTransform> transform = transformOf(own);
     if (!transform)
-        transform = parseCssTransform(text, context);
+        transform = parseCssTransform(own.text(), context);
     if (!transform)
         warn(node, {Message::InvalidTransform,
-                    QStringLiteral("The transform \"%1\" is not understood.").arg(shortened(text))});
+                    QStringLiteral("The transform \"%1\" is not understood.").arg(shortened(own.text()))});
     // Attributes of these names mean other things: only style counts.
-    const auto styled = [&style](AttributeId id) { return styledAttribute(Attributes(), style.attributes, id); };
+    const auto styled = [&style](AttributeId id) {
+        return styledAttribute(Attributes(), style.attributes, id).text();
+    };
     const QTransform whole = transform.value_or(QTransform()) *
                              individualTransforms(styled(AttributeId::Translate), styled(AttributeId::Rotate),
                                                   styled(AttributeId::Scale), context);

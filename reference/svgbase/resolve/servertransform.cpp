@@ -7,18 +7,18 @@
 
 namespace Svg {
 
-ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const QString &own)
+ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const AttributeValue &own)
 {
-    const QString styled = styledAttribute(Attributes(), style.attributes, AttributeId::Transform);
-    return {styled.isEmpty() ? own : styled, styledAttribute(node, style, AttributeId::TransformOrigin)};
+    const AttributeValue &styled = styledAttribute(Attributes(), style.attributes, AttributeId::Transform);
+    return {styled.isEmpty() ? own : styled, styledAttribute(node, style, AttributeId::TransformOrigin).text()};
 }
 
 QTransform resolved(const ServerTransform &transform, const QRectF &box, double fontSize)
 {
     const LengthContext context{box.size(), fontSize};
-    std::optional<QTransform> whole = parseTransform(transform.transform);
+    std::optional<QTransform> whole = transformOf(transform.transform);
     if (!whole)
-        whole = parseCssTransform(transform.transform, context);
+        whole = parseCssTransform(transform.transform.text(), context);
     if (!whole || transform.origin.isEmpty())
         return whole.value_or(QTransform());
     const std::optional<QPointF> given = parseTransformOrigin(transform.origin, context);

@@ -10,15 +10,15 @@
 namespace Svg {
 
 /// The property "transform" of a gradient or a pattern, for which these have attributes of other names
-/// (SVG 2 §14.2.2, §14.3.1), and the origin that it turns about. Empty texts where nothing is said.
+/// (SVG 2 §14.2.2, §14.3.1), and the origin that it turns about. Empty where nothing is said.
 struct ServerTransform
 {
-    QString transform;
+    AttributeValue transform;
     QString origin;
 };
 
-/// The element's own transform; `own` is the text of its "gradientTransform" or "patternTransform".
-ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const QString &own);
+/// The element's own transform; `own` is its "gradientTransform" or "patternTransform".
+ServerTransform serverTransform(const Node &node, const ComputedStyle &style, const AttributeValue &own);
 
 /// The transform in the units of the server; identity where its text breaks the grammar. Percentages, and the
 /// origin, are of `box` (CSS Transforms 1, "transform-box").

@@ -9,15 +9,17 @@ namespace Svg {
 namespace {
 
 // "left", "center" and the like are shares of the view box.
-double referenceLength(const QString &text, Axis axis, const LengthContext &context)
+double referenceLength(const AttributeValue &value, Axis axis, const LengthContext &context)
 {
+    const QString *held = value.asText();
+    const QString text = held ? held->trimmed() : QString();
     Length length{0, Unit::Percent};
     if (text == QLatin1String("center"))
         length.value = 50;
     else if (text == QLatin1String("right") || text == QLatin1String("bottom"))
         length.value = 100;
     else
-        length = parseLength(text).value_or(Length());
+        length = lengthOf(value).value_or(Length());
     return toUserUnits(length, axis, context);
 }
 
@@ -41,8 +43,8 @@ Fit moved(const Fit &fit, const QPointF &way)
 
 QPointF referencePoint(const Attributes &attributes, const LengthContext &context)
 {
-    return QPointF(referenceLength(attributes.value(AttributeId::RefX).trimmed(), Axis::Horizontal, context),
-                   referenceLength(attributes.value(AttributeId::RefY).trimmed(), Axis::Vertical, context));
+    return QPointF(referenceLength(attributes.held(AttributeId::RefX), Axis::Horizontal, context),
+                   referenceLength(attributes.held(AttributeId::RefY), Axis::Vertical, context));
 }
 
 QSizeF rootSize(const Node &root, const QSizeF &window)
@@ -64,7 +66,7 @@ QTransform rootTransform(const Node &root, const QTransform &own, const QSizeF &
 
 QRectF rootViewBox(const Node &root)
 {
-    return parseViewBox(root.attributes.value(AttributeId::ViewBox)).value_or(QRectF());
+    return viewBoxOf(root.attributes.held(AttributeId::ViewBox)).value_or(QRectF());
 }
 
 QSizeF rootViewport(const Node &root, const QSizeF &window)
@@ -78,7 +80,7 @@ QRectF shownArea(const Node &root, const QSizeF &window)
     const QSizeF size = rootSize(root, window);
     if (size.isEmpty())
         return QRectF();
-    const std::optional<QRectF> box = parseViewBox(root.attributes.value(AttributeId::ViewBox));
+    const std::optional<QRectF> box = viewBoxOf(root.attributes.held(AttributeId::ViewBox));
     return box.value_or(QRectF(QPointF(), size));
 }
 
@@ -99,7 +101,7 @@ Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewpo
     const QRectF place(lengths.value(AttributeId::X, Axis::Horizontal),
                        lengths.value(AttributeId::Y, Axis::Vertical), used.width.value_or(width),
                        used.height.value_or(height));
-    const std::optional<QRectF> box = parseViewBox(node.attributes.value(AttributeId::ViewBox));
+    const std::optional<QRectF> box = viewBoxOf(node.attributes.held(AttributeId::ViewBox));
     if (!box || place.isEmpty()) {
         const Fit fit{QTransform::fromTranslate(place.x(), place.y()), place.size(), place};
         return moved(fit, alignment(node, fit, style.font.size));

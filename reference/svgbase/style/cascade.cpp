@@ -19,11 +19,16 @@ namespace {
 struct Declaration
 {
     AttributeId property;
+    /// Empty for a value without a text.
     QStringView value;
     /// Said by the element itself rather than by a rule, whose errors are known already.
     bool own = true;
     /// Said by a presentation attribute.
     bool isAttribute = false;
+    /// A value without a text; null for a text.
+    const AttributeValue *held = nullptr;
+
+    QString text() const { return held ? held->text() : value.toString(); }
 };
 
 /// Tells a presentation attribute apart from a style of the same text.
@@ -57,6 +62,8 @@ public:
     bool collect(NodeIndex element);
     const QVarLengthArray<Declaration, 16> &list() const { return m_list; }
     bool lacksCustomProperties() const { return m_customLeft < 0; }
+    /// Whether any value has no text.
+    bool holdsValues() const { return m_holdsValues; }
 
 private:
     /// False once the element may have no more of them.
@@ -64,7 +71,7 @@ private:
     void addMatches(bool important);
     void turnLayers();
     void addStyle(const QString &text, bool important);
-    void addAnimated(const QString &text);
+    void addAttribute(const Attribute &attribute);
     void addShorthand(const StyleDeclaration &declaration);
 
     const Tree &m_tree;
@@ -72,8 +79,11 @@ private:
     /// Declarations of rules that may still be looked at.
     int m_stepsLeft = 0;
     QVarLengthArray<Declaration, 16> m_list;
+    bool m_holdsValues = false;
+    /// Texts and values that the list refers to, besides the attributes of the element.
+    QString m_style;
+    Attributes m_animated;
     QVector<const RuleBlock *> m_matches;
-    /// Texts that the list's views look at.
     QVector<QString> m_texts;
 };
 
@@ -166,13 +176,12 @@ void DeclarationList::addStyle(const QString &text, bool important)
     }
 }
 
-// Values of animations are those that the attribute takes.
-void DeclarationList::addAnimated(const QString &text)
+void DeclarationList::addAttribute(const Attribute &attribute)
 {
-    const int before = m_list.size();
-    addStyle(text, false);
-    for (int i = before; i < m_list.size(); ++i)
-        m_list[i].isAttribute = true;
+    const QString *text = attribute.value.asText();
+    m_list.append(
+        {attribute.id, text ? QStringView(*text) : QStringView(), true, true, text ? nullptr : &attribute.value});
+    m_holdsValues = m_holdsValues || !text;
 }
 
 bool DeclarationList::collect(NodeIndex element)
@@ -184,25 +193,22 @@ bool DeclarationList::collect(NodeIndex element)
     if (hidesOverflow(m_tree.node(element).kind))
         m_list.append({AttributeId::Overflow, hidden, false});
     const Attributes &attributes = m_tree.node(element).attributes;
-    const Attribute *style = nullptr;
-    const Attribute *animated = nullptr;
     for (const Attribute &attribute : attributes)
         if (isProperty(attribute.id) && !propertyOf(attribute.id).isForStyleOnly)
-            m_list.append({attribute.id, attribute.value, true, true});
+            addAttribute(attribute);
         else if (attribute.id == AttributeId::Style)
-            style = &attribute;
-        else if (attribute.id == AttributeId::AnimatedStyle)
-            animated = &attribute;
+            m_style = attribute.value.text();
     if (m_tree.rules())
         complete = m_tree.rules()->match(m_tree, element, &m_matches);
     addMatches(false);
-    if (style)
-        addStyle(style->value, false);
+    if (!m_style.isEmpty())
+        addStyle(m_style, false);
     addMatches(true);
-    if (style && style->value.contains(QLatin1Char('!')))
-        addStyle(style->value, true);
-    if (animated)
-        addAnimated(animated->value);
+    if (m_style.contains(QLatin1Char('!')))
+        addStyle(m_style, true);
+    m_animated = m_tree.animatedStyle(element);
+    for (const Attribute &attribute : m_animated)
+        addAttribute(attribute);
     return complete && m_stepsLeft >= 0;
 }
 
@@ -226,13 +232,15 @@ void followColor(const QColor &color, Paint *paint)
 
 void addStyledAttribute(ComputedStyle *style, const Declaration &declaration)
 {
+    const AttributeValue value =
+        declaration.held ? *declaration.held : AttributeValue(declaration.value.toString());
     for (Attribute &known : style->attributes) {
         if (known.id == declaration.property) {
-            known.value = declaration.value.toString();
+            known.value = value;
             return;
         }
     }
-    style->attributes.append({declaration.property, QString(), declaration.value.toString()});
+    style->attributes.append({declaration.property, QString(), value});
 }
 
 void declare(const Declaration &declaration, ComputedStyle *style)
@@ -260,11 +268,13 @@ bool applyDeclaration(const Declaration &declaration, const PropertyContext &con
         text = substituted(declaration.value, style->custom, charactersLeft);
         used.value = text;
     }
-    if (!isStyledAttribute(declaration.property))
-        return applyProperty(*style, used.property, used.value,
-                             {context.parent, context.viewport, declaration.isAttribute});
-    addStyledAttribute(style, used);
-    return true;
+    if (isStyledAttribute(declaration.property)) {
+        addStyledAttribute(style, used);
+        return true;
+    }
+    const PropertyContext own{context.parent, context.viewport, declaration.isAttribute};
+    return used.held ? assignProperty(*style, used.property, *used.held, own)
+                     : applyProperty(*style, used.property, used.value, own);
 }
 
 void declareAll(const DeclarationList &declarations, int *charactersLeft, ComputedStyle *style)
@@ -301,7 +311,7 @@ ComputedStyle applied(const DeclarationList &declarations, const StyledElement &
             if (comesFirst(declaration.property) != first || declaration.property == AttributeId::CustomProperty)
                 continue;
             if (!applyDeclaration(declaration, context, &charactersLeft, &style) && notes && declaration.own)
-                notes->rejected.append({declaration.property, declaration.value.toString()});
+                notes->rejected.append({declaration.property, declaration.text()});
         }
     }
     followColor(style.color, &style.fill);
@@ -358,6 +368,9 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
     if (declarations.list().isEmpty() && parent->isInitial())
         return parent;
     const StyledElement styled{tree, element};
+    // Values without a text change with the next frame: other elements have no use for them.
+    if (declarations.holdsValues())
+        return StylePointer(new SharedStyle(applied(declarations, styled, {*parent, viewport}, notes)));
     const StyleOrigin origin{parent, viewport, styled.isText(), textOf(declarations)};
     StylePointer style = cache->find(origin);
     if (style)
@@ -382,12 +395,13 @@ ComputedStyle styleInTree(const Tree &tree, NodeIndex element)
     return style;
 }
 
-QString styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled, AttributeId id)
+const AttributeValue &styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled,
+                                      AttributeId id)
 {
     for (const Attribute &given : styled)
         if (given.id == id)
             return given.value;
-    return attributes.value(id);
+    return attributes.held(id);
 }
 
 } // namespace Svg

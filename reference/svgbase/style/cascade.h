@@ -41,9 +41,10 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
 /// The style of an element where it stands in the tree, whatever uses it. Percentages count as 0.
 ComputedStyle styleInTree(const Tree &tree, NodeIndex element);
 
-/// The text of an attribute, or what style says in its place.
-QString styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled, AttributeId id);
-inline QString styledAttribute(const Node &node, const ComputedStyle &style, AttributeId id)
+/// The value of an attribute, or what style says in its place, for as long as neither changes.
+const AttributeValue &styledAttribute(const Attributes &attributes, const QVector<Attribute> &styled,
+                                      AttributeId id);
+inline const AttributeValue &styledAttribute(const Node &node, const ComputedStyle &style, AttributeId id)
 {
     return styledAttribute(node.attributes, style.attributes, id);
 }

@@ -70,7 +70,7 @@ private:
 QVector<QString> classesOf(const Node &node, bool *complete)
 {
     QVector<QString> result;
-    forEachWord(node.attributes.view(AttributeId::Class), Limits::classes + 1,
+    forEachWord(node.attributes.value(AttributeId::Class), Limits::classes + 1,
                 [&result](QStringView name) { result.append(name.toString()); });
     if (result.size() > Limits::classes) {
         *complete = false;

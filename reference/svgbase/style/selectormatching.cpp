@@ -204,8 +204,8 @@ void AncestorNames::add(uint hash)
 void AncestorNames::add(const Node &node, int *charactersLeft)
 {
     const QString tag = localName(node);
-    const QStringView id = node.attributes.view(AttributeId::Id);
-    const QStringView classes = node.attributes.view(AttributeId::Class);
+    const QString id = node.attributes.value(AttributeId::Id);
+    const QString classes = node.attributes.value(AttributeId::Class);
     *charactersLeft -= int(tag.size() + id.size() + classes.size());
     if (*charactersLeft < 0)
         return;
@@ -378,7 +378,10 @@ bool SelectorMatcher::matchesAttribute(const Node &node, const AttributeTest &te
             return false;
         const bool isMeant =
             test.anyNamespace ? isNamedLocally(attribute, id, test.name) : isNamed(attribute, id, test.name);
-        if (isMeant && takeText(charactersOfTest(attribute.value, test)) && matchesValue(attribute.value, test))
+        if (!isMeant)
+            continue;
+        const QString value = attribute.value.text();
+        if (takeText(charactersOfTest(value, test)) && matchesValue(value, test))
             return true;
     }
     return false;
@@ -386,11 +389,11 @@ bool SelectorMatcher::matchesAttribute(const Node &node, const AttributeTest &te
 
 bool SelectorMatcher::matchesNames(const Node &node, const Compound &compound)
 {
-    const QStringView id = node.attributes.view(AttributeId::Id);
+    const QString id = node.attributes.value(AttributeId::Id);
     for (const QString &wanted : compound.ids)
-        if (!takeText(qMin(id.size(), qsizetype(wanted.size()))) || id != wanted)
+        if (!takeText(qMin(id.size(), wanted.size())) || id != wanted)
             return false;
-    const QStringView classes = node.attributes.view(AttributeId::Class);
+    const QString classes = node.attributes.value(AttributeId::Class);
     for (const QString &wanted : compound.classes)
         if (!takeText(classes.size()) || !containsWord(classes, wanted))
             return false;

@@ -23,7 +23,7 @@ void enter(const Tree &tree, NodeIndex element, QVector<GlyphPart> *open)
     while (open->constLast().element != node.parent)
         open->removeLast();
     const GlyphPart above = open->constLast();
-    const QTransform own = parseTransform(node.attributes.value(AttributeId::Transform)).value_or(QTransform());
+    const QTransform own = transformOf(node.attributes.held(AttributeId::Transform)).value_or(QTransform());
     open->append({element, cascade(tree, element, {above.style, QSizeF()}), own * above.toGlyph});
 }
 

@@ -11,8 +11,8 @@ namespace {
 
 std::optional<Length> lengthOf(const Tree &tree, const TextLevel &level)
 {
-    const QString text = tree.node(level.node).attributes.value(QStringLiteral("textLength"));
-    const std::optional<Length> length = parseLength(text);
+    const AttributeValue &given = tree.node(level.node).attributes.held(QStringLiteral("textLength"));
+    const std::optional<Length> length = Svg::lengthOf(given);
     return length && length->value >= 0 ? length : std::nullopt;
 }
 

@@ -9,9 +9,17 @@ namespace Svg {
 namespace {
 
 // A list counts up to its first error.
-QVector<double> lengthList(const QString &text, Axis axis, const LengthContext &context)
+QVector<double> lengthList(const AttributeValue &list, Axis axis, const LengthContext &context)
 {
+    if (const double *number = list.asNumber())
+        return {toUserUnits({*number}, axis, context)};
     QVector<double> values;
+    if (const auto *lengths = list.as<QVector<Length>>()) {
+        for (const Length &length : *lengths)
+            values.append(toUserUnits(length, axis, context));
+        return values;
+    }
+    const QString text = list.text();
     const Latin1Text bytes(text);
     Cursor cursor = bytes.cursor();
     Length length;
@@ -39,10 +47,10 @@ private:
     template<typename Member>
     void apply(const TextLevel &level, AttributeId attribute, Axis axis, Member TextCharacter::*member)
     {
-        const QString text = m_tree.node(level.node).attributes.value(attribute);
-        if (text.isEmpty())
+        const AttributeValue &list = m_tree.node(level.node).attributes.held(attribute);
+        if (list.isEmpty())
             return;
-        const QVector<double> values = lengthList(text, axis, {m_viewport, level.emSize});
+        const QVector<double> values = lengthList(list, axis, {m_viewport, level.emSize});
         const int count = qMin(values.size(), level.endCharacter - level.firstCharacter);
         for (int i = 0; i < count; ++i)
             m_content->characters[level.firstCharacter + i].*member = values.at(i);
@@ -57,8 +65,8 @@ private:
 // The last angle counts for all characters that are left.
 void PositionResolver::applyRotation(const TextLevel &level)
 {
-    const QString text = m_tree.node(level.node).attributes.value(QStringLiteral("rotate"));
-    const QVector<double> angles = parseNumberList(text).value_or(QVector<double>());
+    const AttributeValue &list = m_tree.node(level.node).attributes.held(QStringLiteral("rotate"));
+    const QVector<double> angles = numbersOf(list).value_or(QVector<double>());
     if (angles.isEmpty())
         return;
     for (int i = level.firstCharacter; i < level.endCharacter; ++i)

@@ -56,8 +56,7 @@ double authorScale(const Tree &tree, NodeIndex textPath, double length)
     const NodeIndex shape = referredShape(tree, tree.node(textPath).attributes);
     if (shape == noNode)
         return 1;
-    const QString text = tree.node(shape).attributes.value(AttributeId::PathLength);
-    const std::optional<double> assumed = parseNumber(text);
+    const std::optional<double> assumed = numberOf(tree.node(shape).attributes.held(AttributeId::PathLength));
     return assumed && *assumed > 0 ? length / *assumed : 1;
 }
 
@@ -79,8 +78,8 @@ TextWay::TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &styl
     , m_tooLong(!isFollowed(path))
     , m_closed(isSingleLoop(path))
 {
-    const QString text = tree.node(textPath).attributes.value(QStringLiteral("startOffset"));
-    const std::optional<Length> offset = parseLength(text);
+    const std::optional<Length> offset =
+        lengthOf(tree.node(textPath).attributes.held(QStringLiteral("startOffset")));
     if (!offset)
         return;
     const double whole = length();

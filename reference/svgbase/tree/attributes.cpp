@@ -169,6 +169,12 @@ private:
     const AttributeName *m_places[placeCount] = {};
 };
 
+const AttributeValue &noValue()
+{
+    static const AttributeValue none;
+    return none;
+}
+
 } // namespace
 
 AttributeId attributeId(QStringView name)
@@ -205,20 +211,24 @@ const Attribute *Attributes::find(AttributeId id, const QString &name) const
 
 QString Attributes::value(AttributeId id) const
 {
-    const Attribute *attribute = find(id);
-    return attribute ? attribute->value : QString();
-}
-
-QStringView Attributes::view(AttributeId id) const
-{
-    const Attribute *attribute = find(id);
-    return attribute ? QStringView(attribute->value) : QStringView();
+    return held(id).text();
 }
 
 QString Attributes::value(const QString &name) const
 {
+    return held(name).text();
+}
+
+const AttributeValue &Attributes::held(AttributeId id) const
+{
+    const Attribute *attribute = find(id);
+    return attribute ? attribute->value : noValue();
+}
+
+const AttributeValue &Attributes::held(const QString &name) const
+{
     const Attribute *attribute = find(attributeId(name), name);
-    return attribute ? attribute->value : QString();
+    return attribute ? attribute->value : noValue();
 }
 
 void Attributes::change(const Attribute *known, const Attribute &wanted)
@@ -232,13 +242,13 @@ void Attributes::change(const Attribute *known, const Attribute &wanted)
         m_list.append(wanted);
 }
 
-void Attributes::set(const QString &name, const QString &value)
+void Attributes::set(const QString &name, const AttributeValue &value)
 {
     const AttributeId id = attributeId(name);
     change(find(id, name), {id, id == AttributeId::Unknown ? name : QString(), value});
 }
 
-void Attributes::set(AttributeId id, const QString &value)
+void Attributes::set(AttributeId id, const AttributeValue &value)
 {
     change(find(id), {id, QString(), value});
 }

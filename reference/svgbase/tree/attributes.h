@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tree/attributevalue.h"
+
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
@@ -84,8 +86,6 @@ enum class AttributeId : quint8 {
     WordSpacing,
     WritingMode,
     // Attributes of elements.
-    /// Declarations of animations that override the style of an element; not an attribute of a text.
-    AnimatedStyle,
     /// A custom property declared by style, with the value "--name:value"; not an attribute of a text.
     CustomProperty,
     Class,
@@ -159,7 +159,12 @@ struct Attribute
     AttributeId id = AttributeId::Unknown;
     /// Only for names that are not interpreted; others are given by the id.
     QString name;
-    QString value;
+    AttributeValue value;
+
+    bool operator==(const Attribute &other) const
+    {
+        return id == other.id && name == other.name && value == other.value;
+    }
 };
 
 /// The attributes of one element, shared between copies until one of them changes.
@@ -169,13 +174,14 @@ public:
     /// The text of an attribute; empty if there is none of that name.
     QString value(AttributeId id) const;
     QString value(const QString &name) const;
-    /// The text of an attribute, valid until the attributes change.
-    QStringView view(AttributeId id) const;
+    /// An attribute as it is held; a null value if there is none of that name.
+    const AttributeValue &held(AttributeId id) const;
+    const AttributeValue &held(const QString &name) const;
     bool contains(AttributeId id) const { return find(id) != nullptr; }
     bool contains(const QString &name) const { return find(attributeId(name), name) != nullptr; }
     /// A null value removes the attribute.
-    void set(const QString &name, const QString &value);
-    void set(AttributeId id, const QString &value);
+    void set(const QString &name, const AttributeValue &value);
+    void set(AttributeId id, const AttributeValue &value);
     /// Appends without searching for an attribute of that name.
     void append(const Attribute &attribute) { m_list.append(attribute); }
     void reserve(int count) { m_list.reserve(count); }

@@ -73,11 +73,11 @@ bool passesConditions(const Node &node)
         case AttributeId::RequiredExtensions:
             return false;
         case AttributeId::RequiredFeatures:
-            if (!hasFeatures(attribute.value))
+            if (!hasFeatures(attribute.value.text()))
                 return false;
             break;
         case AttributeId::SystemLanguage:
-            if (!hasLanguage(attribute.value))
+            if (!hasLanguage(attribute.value.text()))
                 return false;
             break;
         default:

@@ -81,6 +81,11 @@ public:
     const StyleRulesPointer &rules() const { return m_rules; }
     void setRules(const StyleRulesPointer &rules) { m_rules = rules; }
 
+    /// Animated values of properties and of attributes given by style, which override all other declarations for a
+    /// node; empty for most nodes.
+    Attributes animatedStyle(NodeIndex index) const { return m_animatedStyles.value(index); }
+    void setAnimatedStyle(NodeIndex index, const Attributes &values) { m_animatedStyles.insert(index, values); }
+
     /// The first node in document order with that id; `noNode` if there is none.
     NodeIndex findId(const QString &id) const;
     /// Builds the index of ids now, so that lookups don't modify anything until the tree changes.
@@ -103,6 +108,7 @@ private:
     QVector<NodePointer> m_nodes;
     QSizeF m_window{100, 100};
     StyleRulesPointer m_rules;
+    QHash<NodeIndex, Attributes> m_animatedStyles;
     bool m_hasStyleSheets = false;
     QVector<NodeIndex> m_free;
     mutable QHash<QString, NodeIndex> m_ids;

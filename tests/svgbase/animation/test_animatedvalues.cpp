@@ -25,7 +25,7 @@ QString textAt(const QString &name, Pairs pairs, double progress, const QString 
     if (!effect)
         return QStringLiteral("no effect");
     const ValueContext context = valueContext(name, lengths, QColor(0, 0, 255));
-    return attributeText(effect->applied(parseAnimatedValue(base, context), {round, progress}), context);
+    return attributeValue(effect->applied(parseAnimatedValue(base, context), {round, progress}), context).text();
 }
 
 QString functionAt(const char *type, Pairs pairs, double progress, qint64 round = 0)
@@ -35,7 +35,7 @@ QString functionAt(const char *type, Pairs pairs, double progress, qint64 round 
         attributes.set(QString::fromLatin1(attribute), QString::fromLatin1(value));
     const std::optional<Effect> effect =
         Effect::read(attributes, transformContext(QString::fromLatin1(type)), false);
-    return effect ? effect->functionText({round, progress}) : QStringLiteral("no effect");
+    return effect ? transformText({effect->function({round, progress})}) : QStringLiteral("no effect");
 }
 
 } // namespace

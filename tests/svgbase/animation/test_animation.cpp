@@ -31,6 +31,7 @@ private slots:
     void nothingMovesBeforeTheClockIsUsed();
     void attributesReadAsTheyAreWritten();
     void theDrawingShowsTheMoment();
+    void framesHoldNoTexts();
     void theElementComesBackAfterwards();
     void targetsByReference();
     void targetsThatAreNone();
@@ -108,6 +109,36 @@ void TestAnimation::theDrawingShowsTheMoment()
                  drawnContent(
                      QStringLiteral("<rect x='%1' y='20' width='10' height='10' fill='#00f'/>").arg(seconds * 20)));
     }
+}
+
+void TestAnimation::framesHoldNoTexts()
+{
+    const DocumentPointer document = loadContent(
+        "<path id='t' d='M0 0L9 9' transform='scale(2)'><animate attributeName='d' to='M4 4L8 8' dur='4s'/>"
+        "<animate attributeName='fill' from='#000' to='#0f0' dur='4s'/>"
+        "<animate attributeName='opacity' from='0' to='1' dur='4s'/>"
+        "<animate attributeName='stroke-dasharray' from='1 2' to='3 4' dur='4s'/>"
+        "<animate attributeName='pathLength' from='10' to='30' dur='4s'/>"
+        "<animateTransform attributeName='transform' type='rotate' from='0' to='80' dur='4s' "
+        "additive='sum'/></path>"
+        "<polygon id='p' points='0 0 4 0 4 4'><animate attributeName='points' to='8 8 4 0 4 4' "
+        "dur='4s'/></polygon>");
+    document->setAnimationTime(2);
+    const Tree &tree = DocumentPrivate::of(document.get())->shown().tree();
+    const NodeIndex path = tree.findId("t");
+    const Attributes &attributes = tree.node(path).attributes;
+    QCOMPARE(attributes.held(AttributeId::D).as<PathValue>()->coordinates, QVector<double>({2, 2, 8.5, 8.5}));
+    QCOMPARE(*attributes.held(AttributeId::PathLength).asNumber(), 20.0);
+    const auto *transforms = attributes.held(AttributeId::Transform).as<TransformList>();
+    QCOMPARE(transforms->size(), 2);
+    QCOMPARE(transforms->last().arguments[0], 40.0);
+    const Attributes styles = tree.animatedStyle(path);
+    QCOMPARE(*styles.held(AttributeId::Fill).as<QColor>(), QColor(0, 128, 0));
+    QCOMPARE(*styles.held(AttributeId::Opacity).asNumber(), 0.5);
+    QCOMPARE(styles.held(AttributeId::StrokeDasharray).as<QVector<Length>>()->last().value, 3.0);
+    const Attributes &polygon = tree.node(tree.findId("p")).attributes;
+    QCOMPARE(polygon.held(AttributeId::Points).as<QVector<Length>>()->first().value, 4.0);
+    QCOMPARE(ShownNode(*document, "t").attribute("d"), QString("M 2 2L 8.5 8.5"));
 }
 
 void TestAnimation::theElementComesBackAfterwards()

@@ -1,7 +1,10 @@
+#include "document/documentprivate.h"
 #include "grammar/inputlimits.h"
 #include "svgbase/svgdrawing.h"
 
 #include <QtTest>
+
+using namespace Svg;
 
 namespace {
 
@@ -32,6 +35,7 @@ private slots:
     void attributesReadBackAsWritten();
     void numericAttributesReadBackExactly_data();
     void numericAttributesReadBackExactly();
+    void numbersBecomeTextWhenTheyAreAskedFor();
     void rectangleBoundsFollowAtOnce();
     void ellipseIsPlacedByTheCornerOfItsBox();
     void circleIsPlacedByTheCornerOfItsBox();
@@ -132,6 +136,28 @@ void TestDocument::numericAttributesReadBackExactly()
         node->setNumericAttribute(name, value);
         QVERIFY(node->attribute(name).toDouble() == value);
     }
+}
+
+void TestDocument::numbersBecomeTextWhenTheyAreAskedFor()
+{
+    const DocumentPointer document =
+        loadContent("<rect id='r' width='4' height='4'/><ellipse id='e' cx='5' cy='5' rx='5' ry='5'/>");
+    document->namedNode("r")->setNumericAttribute("x", 12.5);
+    document->namedNode("r")->setNumericAttribute("stroke-width", 3);
+    document->namedNode("e")->setNumericAttribute("x", 10);
+    Document &content = DocumentPrivate::of(document.get())->content;
+    const auto number = [&content](const char *id, AttributeId attribute) {
+        const double *held = content.tree().node(content.tree().findId(id)).attributes.held(attribute).asNumber();
+        return held ? *held : qQNaN();
+    };
+    QCOMPARE(number("r", AttributeId::X), 12.5);
+    QCOMPARE(number("r", AttributeId::StrokeWidth), 3.0);
+    QCOMPARE(number("e", AttributeId::Cx), 15.0);
+    QCOMPARE(document->namedNode("r")->boundingRect(), QRectF(12.5, 0, 4, 4));
+    QCOMPARE(content.facts(content.tree().findId("r"))->style->strokeWidth, 3.0);
+    QCOMPARE(document->namedNode("e")->boundingRect(), QRectF(10, 0, 10, 10));
+    QCOMPARE(document->namedNode("r")->attribute("x"), QStringLiteral("12.5"));
+    QVERIFY(document->toSvg().contains("x=\"12.5\""));
 }
 
 void TestDocument::rectangleBoundsFollowAtOnce()

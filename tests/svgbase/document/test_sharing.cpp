@@ -137,10 +137,10 @@ void TestSharing::childrenOfAMovedGroupKeepTheirStyle()
 {
     Content content("<g id='g'><rect id='a' fill='red' width='9' height='9'/></g>");
     const StylePointer before = content.style("a");
-    content.document().setAttribute(content.node("g"), "transform", "translate(5)");
+    content.document().setAttribute(content.node("g"), "transform", QStringLiteral("translate(5)"));
     QCOMPARE(content.facts("a")->bounds, QRectF(5, 0, 9, 9));
     QCOMPARE(content.style("a"), before);
-    content.document().setAttribute(content.node("g"), "stroke", "blue");
+    content.document().setAttribute(content.node("g"), "stroke", QStringLiteral("blue"));
     QCOMPARE(content.style("a")->stroke.color, QColor(Qt::blue));
 }
 

@@ -20,7 +20,7 @@ inline QString described(const Node &node)
                        .arg(node.line)
                        .arg(node.column);
     for (const Attribute &attribute : node.attributes)
-        text += QStringLiteral(" [%1 %2=%3]").arg(int(attribute.id)).arg(attribute.name, attribute.value);
+        text += QStringLiteral(" [%1 %2=%3]").arg(int(attribute.id)).arg(attribute.name, attribute.value.text());
     return text + QStringLiteral(" \"%1\"").arg(node.text);
 }
 
