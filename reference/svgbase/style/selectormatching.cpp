@@ -273,8 +273,13 @@ bool SelectorMatcher::matchesCount(NodeIndex element, const PseudoClass &pseudo,
 
 bool SelectorMatcher::matchesAny(NodeIndex element, const QVector<Selector> &selectors)
 {
-    return std::any_of(selectors.begin(), selectors.end(),
-                       [&](const Selector &selector) { return matches(element, selector); });
+    for (const Selector &selector : selectors) {
+        if (isExhausted())
+            return false;
+        if (matches(element, selector))
+            return true;
+    }
+    return false;
 }
 
 // The last combinator of the chain tells where to look: below the element, or at and below what comes after it.
@@ -298,11 +303,13 @@ bool SelectorMatcher::matchesRelative(NodeIndex element, const Selector &selecto
 
 bool SelectorMatcher::speaks(const QString &own, const QStringList &languages)
 {
-    return std::any_of(languages.begin(), languages.end(), [&](const QString &language) {
+    for (const QString &language : languages) {
         if (!takeStep() || !takeText(qMin(own.size(), language.size())))
             return false;
-        return language == QLatin1String("*") || startsWithWord(own, language);
-    });
+        if (language == QLatin1String("*") || startsWithWord(own, language))
+            return true;
+    }
+    return false;
 }
 
 // The nearest element that names its language decides.
