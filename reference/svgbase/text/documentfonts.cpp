@@ -102,9 +102,17 @@ void DocumentFonts::setRevision(quint32 revision)
     m_revision = revision;
     m_read = false;
     m_faces.clear();
+    m_facesOfFamily.clear();
     m_loadsLeft = Limits::fonts;
     m_kerningPairsLeft = Limits::kerningPairs;
     m_fonts.clear();
+}
+
+void DocumentFonts::keepFace(const Face &face)
+{
+    for (const QString &family : face.families)
+        m_facesOfFamily[family].append(m_faces.size());
+    m_faces.append(face);
 }
 
 void DocumentFonts::addFace(const Tree &tree, NodeIndex face, NodeIndex font)
@@ -120,7 +128,7 @@ void DocumentFonts::addFace(const Tree &tree, NodeIndex face, NodeIndex font)
     read.upright = asksFor(slopes, {"normal"});
     read.italic = asksFor(slopes, {"italic", "oblique"});
     read.smallCaps = attribute(tree, face, "font-variant").contains(QLatin1String("small-caps"));
-    m_faces.append(read);
+    keepFace(read);
 }
 
 void DocumentFonts::readFaces(const Tree &tree)
@@ -165,7 +173,7 @@ void DocumentFonts::addSheetFace(const Tree &tree, const QString &source, const 
             found.font = noNode - 1 - m_faces.size();
             m_fonts.insert(found.font, std::make_shared<DocumentFont>(font));
         }
-        m_faces.append(found);
+        keepFace(found);
         return;
     } while (cursor.take(',') && m_loadsLeft > 0);
 }
@@ -208,9 +216,9 @@ int DocumentFonts::mismatch(const Face &face, const ComputedStyle &style)
 const DocumentFonts::Face *DocumentFonts::bestFace(const QString &family, const ComputedStyle &style) const
 {
     const Face *best = nullptr;
-    for (const Face &face : m_faces) {
-        const bool isOfFamily = face.families.contains(family);
-        if (isOfFamily && (!best || mismatch(face, style) < mismatch(*best, style)))
+    for (const int index : m_facesOfFamily.value(family)) {
+        const Face &face = m_faces.at(index);
+        if (!best || mismatch(face, style) < mismatch(*best, style))
             best = &face;
     }
     return best;

@@ -53,6 +53,7 @@ private:
     };
 
     void readFaces(const Tree &tree);
+    void keepFace(const Face &face);
     void addFace(const Tree &tree, NodeIndex face, NodeIndex font);
     void readSheetFaces(const Tree &tree);
     void addSheetFace(const Tree &tree, const QString &source, const Face &face);
@@ -66,6 +67,7 @@ private:
     int m_loadsLeft = Limits::fonts;
     int m_kerningPairsLeft = Limits::kerningPairs;
     QVector<Face> m_faces;
+    QHash<QString, QVector<int>> m_facesOfFamily;
     /// By their elements; those of style sheets by numbers below `noNode`.
     QHash<NodeIndex, DocumentFontPointer> m_fonts;
     QHash<NodeIndex, int> m_outlineElements;
