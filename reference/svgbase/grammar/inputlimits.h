@@ -20,7 +20,7 @@ constexpr int attributes = 256;
 /// Most characters of all attributes of a document, with defaults of its document type; each attribute counts some
 /// more, for its memory.
 constexpr int attributeCharacters = 128 * 1024 * 1024;
-constexpr int charactersOfAttribute = 32;
+constexpr int charactersOfAttribute = 48;
 /// Most namespace declarations in scope at one element; Qt's reader searches them one by one.
 constexpr int namespaceDeclarations = 64;
 /// Most segments of one path; an arc counts as one.
@@ -41,7 +41,7 @@ constexpr int customPropertyCharacters = 16;
 constexpr int substitutedCharacters = 20000000;
 constexpr int leastSubstitutedCharacters = 200;
 /// Most steps of selector matching for all elements of a document, and guaranteed to each element.
-constexpr int selectorSteps = 15000000;
+constexpr int selectorSteps = 10000000;
 constexpr int leastSelectorSteps = 200;
 /// Most stops of one gradient; painters don't distinguish more.
 constexpr int gradientStops = 1000;
@@ -133,8 +133,8 @@ constexpr int keptElements = 500000;
 constexpr int textRunElements = 200000;
 /// Most work on outline elements in one drawing, roughly nanoseconds, and an allowance for every pixel of its
 /// target for work that grows with its size; the rest is not painted.
-constexpr double paintedWork = 9e8;
-constexpr double paintedWorkPerPixel = 400;
+constexpr double paintedWork = 7e8;
+constexpr double paintedWorkPerPixel = 250;
 /// Additional share of that, and of the layer pixels, for tiles of patterns.
 constexpr double shareOfTiles = 0.25;
 /// Deepest nesting of layers; deeper groups apply their opacity to each shape.
