@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be, that
-no file names a directory of somebody's machine, and that comments name the thing first. Prints every breach and exits with 1 when there is one.
+no file names a directory of somebody's machine or keeps both sides of a merge, and that comments name the thing first. Prints every breach and exits with 1 when there is one.
 
 Usage: check_rules.py [ROOT]
 """
@@ -33,6 +33,7 @@ RIDDLES = {
     ".sh": re.compile(r"^\s*#\s*What\b"),
 }
 MACHINE_PATH = re.compile(r"(?<![\w./$}\-])/(work|root|home|tmp/bash_jobs|Users)/\w")
+MERGE_MARKER = re.compile(r"^(<{7} |>{7} )")
 
 
 class Component:
@@ -190,6 +191,12 @@ def path_breaches(path, lines):
             yield f"{path}:{number}: names a directory of one machine: {match.group(0)}"
 
 
+def merge_breaches(path, lines):
+    for number, line in enumerate(lines, 1):
+        if MERGE_MARKER.match(line):
+            yield f"{path}:{number}: a conflict of a merge was left open"
+
+
 def room_of(part, folder):
     """Name of a folder inside of a part of the tree; None for one outside of it."""
     if folder != part and not folder.startswith(part + "/"):
@@ -253,6 +260,7 @@ def breaches(root):
         yield from include_breaches(root, path, lines)
         yield from length_breaches(path, lines)
         yield from path_breaches(path, lines)
+        yield from merge_breaches(path, lines)
         yield from comment_breaches(path, lines)
         shape = SHAPE_SOURCE.match(path)
         if shape:

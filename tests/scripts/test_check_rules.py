@@ -206,6 +206,14 @@ class CheckRules(unittest.TestCase):
         self.tree.write("tests/svgbase/golden/css/case-200.svg", "<svg/>")
         self.assertEqual(self.tree.breaches(), ["tests/svgbase/golden/css: 201 files, more than 200"])
 
+    def test_an_open_merge_conflict_is_found_and_a_shift_is_not(self):
+        self.tree.write("fuzz/CMakeLists.txt", "a\n" + "<" * 7 + " HEAD\nb\n" + "=" * 7 + "\nc\n" + ">" * 7 + " d\n")
+        self.tree.write("src/shape/mapping.cpp", "stream << a << b >> c;\n")
+        self.assertEqual(
+            self.tree.breaches(),
+            [f"fuzz/CMakeLists.txt:{line}: a conflict of a merge was left open" for line in (2, 6)],
+        )
+
     def test_exported_pages_are_left_out_and_folders_of_that_name_are_not(self):
         self.tree.write("pages/page.md", "line\n" * 701)
         self.tree.write("reference/framework/pages/notes.md", "line\n" * 701)
