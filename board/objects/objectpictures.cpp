@@ -4,6 +4,8 @@
 #include "objects/objectmaker.h"
 
 #include <pagehost/application.h>
+#include <pagehost/objectplugin.h>
+#include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 
 #include <framework/cbaseobject.h>
@@ -60,6 +62,12 @@ QPixmap pictureOfKind(const pagehost::ObjectRegistry &registry, const QString &k
     CBaseObject *object = makeObject(&page, registry, kindId, QPointF(0, 0));
     if (!object || object->getClientRect().isEmpty())
         return {};
+    QPixmap icon;
+    if (icon.loadFromData(registry.dataOf(object, QLatin1String(pagehost::iconType)))) {
+        icon = icon.scaled(size * pixelRatio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        icon.setDevicePixelRatio(pixelRatio);
+        return icon;
+    }
     // As large as its picture, where it may be that small, so that its lines are not scaled down with it.
     object->setSize(object->getClientRect().size().scaled(roomOf(size), Qt::KeepAspectRatio), false, true);
     QPixmap picture(size * pixelRatio);

@@ -47,6 +47,11 @@ PaletteButton::PaletteButton(const QString &kindId, const QString &name, QWidget
     setFocusPolicy(Qt::StrongFocus);
 }
 
+bool PaletteButton::isFoundBy(const QString &searched) const
+{
+    return text().contains(searched, Qt::CaseInsensitive) || m_searchWords.contains(searched, Qt::CaseInsensitive);
+}
+
 QSize PaletteButton::sizeHint() const
 {
     return buttonSize;

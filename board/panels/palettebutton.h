@@ -14,6 +14,9 @@ public:
     PaletteButton(const QString &kindId, const QString &name, QWidget *parent = nullptr);
 
     QString kindId() const { return m_kindId; }
+    void setSearchWords(const QString &words) { m_searchWords = words; }
+    /// Whether the name or the search words contain a text.
+    bool isFoundBy(const QString &searched) const;
     QSize sizeHint() const override;
     /// The button's font, smaller where the longest word of the name needs it.
     QFont nameFont() const;
@@ -33,6 +36,7 @@ private:
     void dragOut();
 
     QString m_kindId;
+    QString m_searchWords;
     QPoint m_pressPos;
 };
 

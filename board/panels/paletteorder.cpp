@@ -8,12 +8,27 @@
 
 namespace board {
 
+namespace {
+
+/// Of the user's language, else English; kinds needn't have any.
+QString searchWords(const Workspace &workspace, const pagehost::ObjectKind &kind)
+{
+    const QString key = kind.nameKey + QStringLiteral("_WORDS");
+    const pagehost::Localizer &localizer = workspace.localizer();
+    const bool hasWords =
+        localizer.hasText(localizer.language(), key) || localizer.hasText(QStringLiteral("en"), key);
+    return hasWords ? localizer.text(key) : QString();
+}
+
+} // namespace
+
 QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
 {
     QVector<PaletteEntry> entries;
     const QVector<pagehost::ObjectKind> kinds = workspace.registry().kinds();
     for (const pagehost::ObjectKind &kind : kinds)
-        entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group)});
+        entries.append(
+            {kind.id, workspace.text(kind.nameKey), workspace.text(kind.group), searchWords(workspace, kind)});
     const QString basic = workspace.text(pagehost::basicGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));
     std::stable_sort(entries.begin(), entries.end(), [&](const PaletteEntry &one, const PaletteEntry &other) {

@@ -13,6 +13,7 @@ struct PaletteEntry
     QString kindId;
     QString name;
     QString group;
+    QString words; ///< that it is found by, besides its name
 };
 
 /// All kinds: the basic group first, then the groups by their titles, each by its names.

@@ -78,7 +78,7 @@ void PalettePanel::addGroups(QVBoxLayout *column)
             m_flows.append(flow);
             column->addWidget(flow);
         }
-        addButton(flow, entry.kindId, entry.name);
+        addButton(flow, entry);
     }
     if (!entries.isEmpty())
         return;
@@ -88,9 +88,11 @@ void PalettePanel::addGroups(QVBoxLayout *column)
     column->addWidget(nothing);
 }
 
-void PalettePanel::addButton(ButtonFlow *flow, const QString &kindId, const QString &name)
+void PalettePanel::addButton(ButtonFlow *flow, const PaletteEntry &entry)
 {
-    auto *button = new PaletteButton(kindId, name, flow);
+    const QString kindId = entry.kindId;
+    auto *button = new PaletteButton(kindId, entry.name, flow);
+    button->setSearchWords(entry.words);
     button->setIconSize(pictureSize);
     button->setToolTip(m_workspace->text("IDS_BOARD_KIND_TIP").arg(button->text()));
     connect(button, &PaletteButton::clicked, this,
@@ -116,7 +118,7 @@ void PalettePanel::showWaitingKind(const QString &kindId)
 void PalettePanel::filter(const QString &words)
 {
     for (PaletteButton *button : qAsConst(m_buttons))
-        button->setVisible(button->text().contains(words.trimmed(), Qt::CaseInsensitive));
+        button->setVisible(button->isFoundBy(words.trimmed()));
     for (ButtonFlow *flow : qAsConst(m_flows))
         flow->rearrange();
 }

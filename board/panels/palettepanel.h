@@ -12,6 +12,7 @@ namespace board {
 class ButtonFlow;
 class PaletteButton;
 class Workspace;
+struct PaletteEntry;
 
 /// The kinds of shape to draw with, by group, with pictures that the shapes paint themselves.
 class PalettePanel : public QWidget
@@ -38,7 +39,7 @@ protected:
 
 private:
     void addGroups(QVBoxLayout *column);
-    void addButton(ButtonFlow *flow, const QString &kindId, const QString &name);
+    void addButton(ButtonFlow *flow, const PaletteEntry &entry);
     int widthOfColumns(int columns) const;
     void paintPictures();
     void filter(const QString &words);

@@ -36,11 +36,14 @@ QString Text::key() const
 
 QString Text::name() const
 {
-    if (!m_key.isEmpty())
-        return m_english;
+    return m_key.isEmpty() ? joinedWords(m_english) : m_english;
+}
+
+QString Text::joinedWords(const QString &text)
+{
     QString name;
     bool startsWord = true;
-    for (const QChar character : m_english) {
+    for (const QChar character : text) {
         if (character.isLetterOrNumber())
             name += startsWord ? character.toUpper() : character;
         startsWord = !character.isLetterOrNumber();

@@ -30,6 +30,13 @@ struct CoreAccess : CSVGBase
     static quint32 controlPointCountOf(CSVGBase &core) { return core.*(&CoreAccess::controlPointCount); }
 };
 
+/// Whether a declared file has taken the place of a coded shape, with its kind.
+bool isSuccessor(const QString &fileName)
+{
+    QFile file(QStringLiteral(SHAPE_PLUGIN_DIRECTORY "/") + fileName);
+    return file.open(QIODevice::ReadOnly) && file.readAll().contains("layout=\"kit\"");
+}
+
 QImage whitePicture(const CSVGObj &object)
 {
     QImage picture(object.getClientRect().size().toSize(), QImage::Format_ARGB32);
@@ -54,14 +61,17 @@ QStringList allShapeNames()
     names.removeOne(QStringLiteral("declared"));
     const QStringList files =
         QDir(QStringLiteral(SHAPE_PLUGIN_DIRECTORY)).entryList({QStringLiteral("*.shape.svg")}, QDir::Files);
-    for (const QString &file : files)
-        names.append(QStringLiteral("declared/") + file.section(QLatin1Char('.'), 0, 0));
+    for (const QString &file : files) {
+        const QString name = file.section(QLatin1Char('.'), 0, 0);
+        names.append(isSuccessor(file) ? name : QStringLiteral("declared/") + name);
+    }
     return names;
 }
 
 QString pluginFile(const QString &name)
 {
-    return QStringLiteral(SHAPE_PLUGIN_DIRECTORY "/%1.so").arg(name);
+    const QString coded = QStringLiteral(SHAPE_PLUGIN_DIRECTORY "/%1.so").arg(name);
+    return QFile::exists(coded) ? coded : QStringLiteral(SHAPE_PLUGIN_DIRECTORY "/declared.so");
 }
 
 ShapeDriver::ShapeDriver(const QString &name)
@@ -73,7 +83,7 @@ ShapeDriver::ShapeDriver(const QString &name)
         qFatal("%s", qPrintable(m_loader.errorString()));
     const QString declaredName = name.section(QLatin1Char('/'), 1);
     CBaseObject *object = m_plugin->createObject(
-        declaredName.isEmpty() ? m_plugin->objectKinds().value(0).id : QStringLiteral("declared.") + declaredName);
+        declaredName.isEmpty() ? QStringLiteral("shapes.") + name : QStringLiteral("declared.") + declaredName);
     m_object.reset(dynamic_cast<CSVGObj *>(object));
     m_scene.addItem(m_object.get());
 }

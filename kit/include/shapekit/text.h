@@ -21,6 +21,7 @@ public:
     QString key() const;
     /// The English words joined without spaces: "Corner count" gives "CornerCount".
     QString name() const;
+    static QString joinedWords(const QString &text);
 
     /// All texts of this plug-in by key; empty for a language other than "en" and "de".
     static QMap<QString, QString> all(const QString &language);

@@ -10,6 +10,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 
 namespace declared {
@@ -19,6 +20,8 @@ namespace {
 /// A shape that the page object fills, and one that its document fills.
 constexpr int pageFilledType = 24;
 constexpr int shapeFilledType = 1024;
+/// The page object paints its fill for this type whatever the template says.
+constexpr int externallyFilledType = 1000;
 /// Where nothing limits a drag.
 constexpr double farAway = 1e6;
 constexpr int presentForm = 1;
@@ -26,7 +29,18 @@ const QString declaredKey = QStringLiteral("SVG_Declared");
 
 int typeOf(const Declaration &declaration)
 {
+    if (declaration.isSuccessor())
+        return declaration.type;
     return declaration.filling == Filling::Page ? pageFilledType : shapeFilledType;
+}
+
+/// The number that a whole or real one stands for; whole ones take the nearest.
+void takeNumber(shapekit::Property &property, PropertyKind kind, double number)
+{
+    if (kind == PropertyKind::Whole)
+        static_cast<shapekit::WholeNumber &>(property) = int(std::round(std::clamp(number, -1e9, 1e9)));
+    else
+        static_cast<shapekit::RealNumber &>(property) = number;
 }
 
 QString listText(const QVector<double> &numbers)
@@ -55,6 +69,7 @@ DeclaredShape::DeclaredShape(CSVGObj *owner, const ShapeKind &kind)
     , m_figure(kind.declaration())
 {
     keepAspectRatio = m_declaration.keepsAspect;
+    setExternalFilled(m_declaration.type == externallyFilledType);
     addProperties(kind);
 }
 
@@ -62,18 +77,31 @@ void DeclaredShape::addProperties(const ShapeKind &kind)
 {
     for (int i = 0; i < m_declaration.properties.size(); ++i) {
         const PropertyDeclaration &declared = m_declaration.properties.at(i);
-        std::unique_ptr<shapekit::Property> property = makeProperty(kind, i);
-        property->setIds(declared.id, declared.id);
+        std::unique_ptr<shapekit::Property> property = makeProperty(kind, i, declared.kind);
+        if (!m_declaration.isSuccessor())
+            property->setIds(declared.id, declared.id);
         property->setPanels(declared.inPropertyPanel, declared.inSettings);
         m_values.push_back(std::move(property));
     }
+    for (int i = 0; i < m_declaration.properties.size(); ++i)
+        addFormerProperties(kind, i);
 }
 
-std::unique_ptr<shapekit::Property> DeclaredShape::makeProperty(const ShapeKind &kind, int index)
+void DeclaredShape::addFormerProperties(const ShapeKind &kind, int index)
+{
+    for (const FormerProperty &former : m_declaration.properties.at(index).former) {
+        m_former.push_back({makeProperty(kind, index, former.kind), former.kind, index});
+        m_former.back().property->setIds(former.id, former.id);
+        m_former.back().property->setPanels(false, false);
+    }
+}
+
+std::unique_ptr<shapekit::Property> DeclaredShape::makeProperty(const ShapeKind &kind, int index,
+                                                                PropertyKind valueKind)
 {
     const PropertyDeclaration &declared = m_declaration.properties.at(index);
     const shapekit::Text &title = kind.title(index);
-    switch (declared.kind) {
+    switch (valueKind) {
     case PropertyDeclaration::Whole:
         return std::make_unique<shapekit::WholeNumber>(this, title, int(declared.number),
                                                        int(std::ceil(declared.from)), int(std::floor(declared.to)));
@@ -167,6 +195,21 @@ void DeclaredShape::updateProperty(int index)
     }
 }
 
+void DeclaredShape::propertyChanged(const shapekit::Property *property)
+{
+    for (const FormerValue &former : m_former) {
+        if (former.property.get() != property)
+            continue;
+        const PropertyKind kind = m_declaration.properties.at(former.successor).kind;
+        shapekit::Property &successor = *m_values.at(size_t(former.successor));
+        if (kind == former.kind)
+            successor.setBytes(property->bytes());
+        else
+            takeNumber(successor, kind, property->toJson().toDouble());
+    }
+    Shape::propertyChanged(property);
+}
+
 QVector<QPointF> DeclaredShape::standingPoints() const
 {
     QVector<QPointF> points;
@@ -237,6 +280,13 @@ void DeclaredShape::takeValues(const QJsonObject &saved)
     for (int i = 0; i < m_declaration.properties.size(); ++i) {
         const PropertyDeclaration &declared = m_declaration.properties.at(i);
         QJsonValue value = values.value(declared.name);
+        for (const FormerProperty &former : declared.former)
+            if (value.isUndefined())
+                value = values.value(former.name);
+        if (value.isDouble() && (declared.kind == PropertyKind::Whole || declared.kind == PropertyKind::Real)) {
+            takeNumber(*m_values.at(size_t(i)), declared.kind, value.toDouble());
+            continue;
+        }
         if (declared.kind == PropertyDeclaration::Choice) {
             const int entry = declared.entries.indexOf(value.toString());
             value = entry < 0 ? QJsonValue() : QJsonValue(entry);
@@ -248,11 +298,19 @@ void DeclaredShape::takeValues(const QJsonObject &saved)
 
 void DeclaredShape::saveValues(QDataStream &out)
 {
+    if (m_declaration.isSuccessor()) {
+        Shape::saveValues(out);
+        return;
+    }
     out << QJsonDocument(values()).toJson(QJsonDocument::Compact);
 }
 
 void DeclaredShape::loadValues(QDataStream &in)
 {
+    if (m_declaration.isSuccessor()) {
+        Shape::loadValues(in);
+        return;
+    }
     QByteArray bytes;
     in >> bytes;
     takeValues(QJsonDocument::fromJson(bytes).object());
@@ -260,12 +318,18 @@ void DeclaredShape::loadValues(QDataStream &in)
 
 void DeclaredShape::saveValues(QJsonObject &object)
 {
-    object[declaredKey] = values();
+    if (m_declaration.isSuccessor())
+        Shape::saveValues(object);
+    else
+        object[declaredKey] = values();
 }
 
 void DeclaredShape::loadValues(const QJsonObject &object)
 {
-    takeValues(object.value(declaredKey).toObject());
+    if (m_declaration.isSuccessor())
+        Shape::loadValues(object);
+    else
+        takeValues(object.value(declaredKey).toObject());
 }
 
 } // namespace declared

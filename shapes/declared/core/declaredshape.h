@@ -13,7 +13,8 @@ namespace declared {
 /// A shape that a file declares: its points, properties and figure are what the file's expressions say.
 ///
 /// Behind the data of every shape it saves one JSON object under "SVG_Declared": "form" 1, the "id" of the shape,
-/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry.
+/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry. A
+/// shape that succeeds a coded one saves what that one saved.
 class DeclaredShape : public shapekit::Shape
 {
 public:
@@ -24,6 +25,8 @@ public:
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
     QRectF paintedArea() override;
+    /// A picture for palettes, SVG; empty: the look of a new shape.
+    QByteArray icon() const { return m_declaration.icon; }
 
 protected:
     QRectF range(int number) override;
@@ -32,14 +35,24 @@ protected:
     bool mayMove(int number, QPointF centre) override;
     void pointMoved(int number, QPointF centre) override;
     void draw() override;
+    void propertyChanged(const shapekit::Property *property) override;
     void saveValues(QDataStream &out) override;
     void loadValues(QDataStream &in) override;
     void saveValues(QJsonObject &object) override;
     void loadValues(const QJsonObject &object) override;
 
 private:
+    /// Takes values that are recorded under the id of an earlier version of the file.
+    struct FormerValue
+    {
+        std::unique_ptr<shapekit::Property> property;
+        PropertyKind kind;
+        int successor; ///< index of the declared property
+    };
+
     void addProperties(const ShapeKind &kind);
-    std::unique_ptr<shapekit::Property> makeProperty(const ShapeKind &kind, int index);
+    void addFormerProperties(const ShapeKind &kind, int index);
+    std::unique_ptr<shapekit::Property> makeProperty(const ShapeKind &kind, int index, PropertyKind valueKind);
     /// Hands the present size, look, points and properties to the expressions.
     void updateState();
     void updateProperty(int index);
@@ -51,6 +64,7 @@ private:
     ShapeState m_state;
     Figure m_figure;
     std::vector<std::unique_ptr<shapekit::Property>> m_values; ///< by index of the declared property
+    std::vector<FormerValue> m_former;
 };
 
 } // namespace declared

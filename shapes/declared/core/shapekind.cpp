@@ -26,10 +26,12 @@ const KnownGroup *knownGroup(const QString &name)
     return nullptr;
 }
 
+const QString english = QStringLiteral("en");
+
 void addText(QMap<QString, QString> &table, const QString &key, const Texts &texts, const QString &language)
 {
     // A name in no other language than its own stands for the English one, which must be there.
-    const bool isEnglish = language == QLatin1String("en");
+    const bool isEnglish = language == english;
     const QString text = texts.value(language, isEnglish && !texts.isEmpty() ? texts.first() : QString());
     if (!text.isEmpty())
         table.insert(key, text);
@@ -41,14 +43,15 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
     : m_declaration(declaration)
 {
     m_kind.name = declaration->id;
-    m_kind.idPrefix = QStringLiteral("declared.");
-    m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");
+    if (!declaration->isSuccessor()) {
+        m_kind.idPrefix = QStringLiteral("declared.");
+        m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");
+    }
     m_kind.makeCore = [this](CSVGObj *owner) -> CSVGBase * { return new DeclaredShape(owner, *this); };
     m_entries.resize(size_t(declaration->properties.size()));
     for (int i = 0; i < declaration->properties.size(); ++i) {
         const PropertyDeclaration &property = declaration->properties.at(i);
-        m_titles.push_back(
-            std::make_unique<shapekit::Text>(propertyKey(i), QStringLiteral("Declared_") + property.name));
+        m_titles.push_back(std::make_unique<shapekit::Text>(propertyKey(i), propertyName(i)));
         for (int entry = 0; entry < property.entries.size(); ++entry)
             m_entries[size_t(i)].push_back(
                 std::make_unique<shapekit::Text>(entryKey(i, entry), property.entries.at(entry)));
@@ -61,14 +64,27 @@ QString ShapeKind::groupKey() const
     return known ? QString::fromLatin1(known->key) : QStringLiteral("IDS_DECLAREDGROUP_") + m_declaration->group;
 }
 
+/// Controls and saved JSON of a successor know its properties by their English titles.
+QString ShapeKind::propertyName(int property) const
+{
+    const PropertyDeclaration &declared = m_declaration->properties.at(property);
+    return m_declaration->isSuccessor() ? shapekit::Text::joinedWords(declared.title.value(english))
+                                        : QStringLiteral("Declared_") + declared.name;
+}
+
 /// Ids that differ in their case alone have keys of their own.
 QString ShapeKind::propertyKey(int property) const
 {
+    if (m_declaration->isSuccessor())
+        return m_kind.textKey(propertyName(property).toUpper());
     return m_kind.keyPrefix + m_declaration->id + QLatin1Char('_') + m_declaration->properties.at(property).name;
 }
 
 QString ShapeKind::entryKey(int property, int entry) const
 {
+    const Texts &title = m_declaration->properties.at(property).entryTitles.at(entry);
+    if (m_declaration->isSuccessor())
+        return m_kind.textKey(shapekit::Text::joinedWords(title.value(english)).toUpper());
     return propertyKey(property) + QLatin1Char('_') + m_declaration->properties.at(property).entries.at(entry);
 }
 
@@ -84,6 +100,7 @@ QMap<QString, QString> ShapeKind::texts(const QString &language) const
 {
     QMap<QString, QString> table;
     addText(table, m_kind.nameKey(), m_declaration->name, language);
+    addText(table, wordsKey(), m_declaration->words, language);
     for (int i = 0; i < m_declaration->properties.size(); ++i) {
         const PropertyDeclaration &property = m_declaration->properties.at(i);
         addText(table, propertyKey(i), property.title, language);
@@ -91,11 +108,11 @@ QMap<QString, QString> ShapeKind::texts(const QString &language) const
             addText(table, entryKey(i, entry), property.entryTitles.at(entry), language);
     }
     const KnownGroup *known = knownGroup(m_declaration->group);
-    if (!known && language == QLatin1String("en"))
-        table.insert(groupKey(), m_declaration->group);
-    else if (known && language == QLatin1String("en"))
+    if (!known)
+        addText(table, groupKey(), m_declaration->groupTitle, language);
+    else if (language == english)
         table.insert(groupKey(), QString::fromUtf8(known->english));
-    else if (known && language == QLatin1String("de"))
+    else if (language == QLatin1String("de"))
         table.insert(groupKey(), QString::fromUtf8(known->german));
     return table;
 }

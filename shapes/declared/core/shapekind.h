@@ -25,8 +25,11 @@ public:
     QVector<const shapekit::Text *> entries(int property) const;
     /// In a language, else in English where that is wanted.
     QMap<QString, QString> texts(const QString &language) const;
+    /// Of the text with the words that a search finds the shape by, besides its name.
+    QString wordsKey() const { return m_kind.nameKey() + QStringLiteral("_WORDS"); }
 
 private:
+    QString propertyName(int property) const;
     QString propertyKey(int property) const;
     QString entryKey(int property, int entry) const;
 

@@ -1,5 +1,7 @@
 #include <declared/plugin/declaredplugin.h>
 
+#include <declared/core/declaredshape.h>
+#include <declared/core/iconpicture.h>
 #include <declared/core/shapekind.h>
 #include <declared/plugin/shapefolders.h>
 
@@ -63,9 +65,12 @@ pagehost::TextTable DeclaredPlugin::texts(const QString &language) const
 QByteArray DeclaredPlugin::dataOf(CBaseObject *object, const QString &mimeType) const
 {
     auto *shape = dynamic_cast<shapekit::ShapeObject *>(object);
-    if (!shape || !shape->core() || mimeType != QLatin1String("image/svg+xml"))
+    auto *core = shape ? dynamic_cast<DeclaredShape *>(shape->core()) : nullptr;
+    if (!core)
         return {};
-    return shape->core()->toSvg();
+    if (mimeType == QLatin1String(pagehost::iconType))
+        return iconPicture(core->icon());
+    return mimeType == QLatin1String("image/svg+xml") ? core->toSvg() : QByteArray();
 }
 
 } // namespace declared

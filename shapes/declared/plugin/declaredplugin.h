@@ -26,7 +26,7 @@ public:
     QVector<pagehost::ObjectKind> objectKinds() const override;
     CBaseObject *createObject(const QString &kindId) const override;
     pagehost::TextTable texts(const QString &language) const override;
-    /// SVG alone.
+    /// SVG, and the icon for palettes.
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const override;
 
 private:

@@ -16,11 +16,9 @@ namespace {
 
 const QString suffix = QStringLiteral(".shape.svg");
 
-QString pluginFolder()
+Message errorAt(Place place, const char *code, const QString &text)
 {
-    Dl_info info;
-    const bool isFound = dladdr(reinterpret_cast<void *>(&shapeFolders), &info) != 0 && info.dli_fname;
-    return isFound ? QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() : QString();
+    return {Message::Error, QLatin1String(code), place.line, place.column, text};
 }
 
 /// Null, with lines about it, for a file that can't be used.
@@ -43,15 +41,23 @@ SharedDeclaration readFile(const QString &path, QStringList &problems)
 
 } // namespace
 
+QString installedFolder()
+{
+    Dl_info info;
+    const bool isFound = dladdr(reinterpret_cast<void *>(&shapeFolders), &info) != 0 && info.dli_fname;
+    return isFound ? QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() : QString();
+}
+
 QStringList shapeFolders()
 {
     QStringList folders = qEnvironmentVariable("GLIOLOLOK_SHAPES").split(QDir::listSeparator(), Qt::SkipEmptyParts);
     folders.append(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/shapes"));
-    folders.append(pluginFolder());
+    folders.append(installedFolder());
     return folders;
 }
 
-std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems)
+std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
+                                                    const QString &installed)
 {
     std::vector<std::unique_ptr<ShapeKind>> kinds;
     QSet<QString> ids;
@@ -64,14 +70,25 @@ std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, 
             const SharedDeclaration declaration = readFile(file.absoluteFilePath(), problems);
             if (!declaration)
                 continue;
-            // Keys of texts are in capitals.
-            if (ids.contains(declaration->id.toLower())) {
-                problems.append(QStringLiteral("%1: error C05: the id \"%2\" is that of another file")
-                                    .arg(file.absoluteFilePath(), declaration->id));
+            if (declaration->isSuccessor() && folder != installed) {
+                problems.append(
+                    errorAt(declaration->layoutPlace, "C51",
+                            QStringLiteral("only shapes that come with the plug-in have a type and a layout"))
+                        .told(file.absoluteFilePath()));
                 continue;
             }
-            ids.insert(declaration->id.toLower());
-            kinds.push_back(std::make_unique<ShapeKind>(declaration));
+            auto kind = std::make_unique<ShapeKind>(declaration);
+            // Keys of texts are in capitals.
+            const QString id = kind->kind().id().toLower();
+            if (ids.contains(id)) {
+                problems.append(
+                    errorAt(declaration->idPlace, "C05",
+                            QStringLiteral("the id \"%1\" is that of another file").arg(declaration->id))
+                        .told(file.absoluteFilePath()));
+                continue;
+            }
+            ids.insert(id);
+            kinds.push_back(std::move(kind));
         }
     }
     return kinds;

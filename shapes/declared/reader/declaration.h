@@ -17,13 +17,26 @@ using Texts = QMap<QString, QString>;
 enum class Sizing { Redrawn, Stretched };
 enum class Filling { Shape, Page, None };
 
+enum class PropertyKind { Whole, Real, Switch, Choice, Colour, Text, Numbers, Points };
+
+/// A name and type that a property had in an earlier version of its file.
+struct FormerProperty
+{
+    QString name;
+    PropertyKind kind = PropertyKind::Whole;
+    int id = 0;
+};
+
 struct PropertyDeclaration
 {
-    enum Kind { Whole, Real, Switch, Choice, Colour, Text, Numbers, Points };
+    using Kind = PropertyKind;
+    static constexpr Kind Whole = Kind::Whole, Real = Kind::Real, Switch = Kind::Switch, Choice = Kind::Choice,
+                          Colour = Kind::Colour, Text = Kind::Text, Numbers = Kind::Numbers, Points = Kind::Points;
 
     QString name;
     Kind kind = Whole;
     int id = 0;
+    QVector<FormerProperty> former;
     Texts title;
     QString text; ///< of a text
     QColor colour;
@@ -140,9 +153,18 @@ struct Declaration
     /// A control point by its number; one without rules for a number that damaged data has brought.
     const PointDeclaration &point(int number) const;
 
+    /// Whether the shape succeeds one that was written in C++, and is saved as that one.
+    bool isSuccessor() const { return type >= 0; }
+
     QString id;
     Texts name;
+    Texts words;   ///< for searching, besides the name
     QString group; ///< "basic", "mathematics", "science", or a title
+    Texts groupTitle;
+    QByteArray icon; ///< a picture for palettes, SVG; empty: the look of a new shape
+    int type = -1;   ///< of the shape that it succeeds; negative: of none
+    Place idPlace;   ///< in the file, as that of the layout
+    Place layoutPlace;
     Sizing sizing = Sizing::Redrawn;
     Filling filling = Filling::Shape;
     bool keepsAspect = false;

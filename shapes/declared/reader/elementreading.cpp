@@ -31,6 +31,14 @@ constexpr AttributeForm attributeForms[] = {
     {"y2", " line "},
     {"text", " text "},
     {"repeat", " g "},
+    {"from", " animate animateColor animateMotion animateTransform "},
+    {"to", " animate animateColor animateMotion animateTransform set "},
+    {"by", " animate animateColor animateMotion animateTransform "},
+    {"values", " animate animateColor animateMotion animateTransform "},
+    {"begin", " animate animateColor animateMotion animateTransform set "},
+    {"dur", " animate animateColor animateMotion animateTransform set "},
+    {"repeatCount", " animate animateColor animateMotion animateTransform set "},
+    {"path", " animateMotion "},
     {"transform", "*"},
     {"fill", "*"},
     {"fill-opacity", "*"},
@@ -72,7 +80,9 @@ const AttributeForm *formOf(const QString &name)
 bool takes(const AttributeForm &form, const QString &element)
 {
     const QString elements = QLatin1String(form.elements);
-    return elements == QLatin1String("*") || elements.contains(QLatin1Char(' ') + element + QLatin1Char(' '));
+    if (elements == QLatin1String("*"))
+        return drawnElements.contains(element);
+    return elements.contains(QLatin1Char(' ') + element + QLatin1Char(' '));
 }
 
 double numberOr(const QString &text, double otherwise)
@@ -142,7 +152,7 @@ void FileReader::readAttribute(const Element &element, const Attribute &attribut
                   .arg(attribute.name, suggestion(attribute.name, attributeNames())));
         return;
     }
-    if (!drawnElements.contains(element.name) || !takes(*form, element.name)) {
+    if (!takes(*form, element.name)) {
         error("C38", attribute, QStringLiteral("\"%1\" has no \"%2\"").arg(element.name, attribute.name));
         return;
     }

@@ -14,17 +14,11 @@ const QString svgNamespace = QStringLiteral("http://www.w3.org/2000/svg");
 
 namespace {
 
-const QStringList sizings{QStringLiteral("redraw"), QStringLiteral("stretch")};
-const QStringList fillings{QStringLiteral("shape"), QStringLiteral("page"), QStringLiteral("none")};
-const QStringList aspects{QStringLiteral("free"), QStringLiteral("kept")};
-constexpr int longestPen = 100;
+/// Attributes that may be given in several languages.
+const QStringList textAttributes{QStringLiteral("name"), QStringLiteral("title"), QStringLiteral("words"),
+                                 QStringLiteral("group")};
+const QString english = QStringLiteral("en");
 constexpr double largestSide = 10000;
-
-QString lettersAndDigits(const QString &text)
-{
-    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9]"));
-    return QString(text).remove(others);
-}
 
 } // namespace
 
@@ -63,6 +57,7 @@ SharedDeclaration FileReader::read()
     readPoints();
     readElements();
     readConnections();
+    checkReferences();
     if (isFaulty())
         return {};
     m_shape.templateText = templateText();
@@ -119,7 +114,8 @@ void FileReader::checkNames(const Element &element, const QStringList &known)
     for (const Attribute &attribute : element.attributes) {
         const QString name = attribute.name.section(QLatin1Char('.'), 0, 0);
         const bool hasLanguage = attribute.name.contains(QLatin1Char('.'));
-        const bool takesLanguage = name == QLatin1String("name") || name == QLatin1String("title");
+        const bool takesLanguage = textAttributes.contains(name) && element.name != QLatin1String("let") &&
+                                   element.name != QLatin1String("connection");
         if (!known.contains(name) || (hasLanguage && !takesLanguage))
             error("C04", attribute,
                   QStringLiteral("there is no attribute \"%1\" of \"%2\"%3")
@@ -130,11 +126,18 @@ void FileReader::checkNames(const Element &element, const QStringList &known)
 Texts FileReader::texts(const Element &element, const char *name)
 {
     Texts texts;
-    for (const Attribute &attribute : element.attributes)
-        if (attribute.name == QLatin1String(name))
-            texts.insert(QStringLiteral("en"), attribute.value);
-        else if (attribute.name.startsWith(QLatin1String(name) + QLatin1Char('.')))
-            texts.insert(attribute.name.section(QLatin1Char('.'), 1), attribute.value);
+    const Attribute *first = nullptr;
+    for (const Attribute &attribute : element.attributes) {
+        if (attribute.name.section(QLatin1Char('.'), 0, 0) != QLatin1String(name))
+            continue;
+        first = first ? first : &attribute;
+        const QString language = attribute.name.section(QLatin1Char('.'), 1);
+        texts.insert(language.isEmpty() ? english : language, attribute.value);
+    }
+    if (first && !texts.contains(english))
+        report(
+            Message::Warning, "C48", m_tree.placeIn(*first, 0),
+            QStringLiteral("there is no English text: write \"%1\" without a language").arg(QLatin1String(name)));
     return texts;
 }
 
@@ -211,61 +214,6 @@ void FileReader::readIds()
     }
 }
 
-void FileReader::readAbout()
-{
-    QVector<const Element *> found;
-    for (const Element &element : m_elements)
-        if (isShape(element, "about"))
-            found.append(&element);
-    if (found.isEmpty()) {
-        error("C03", m_elements.first(), QStringLiteral("\"about\" is missing, which names the shape"));
-        return;
-    }
-    if (found.size() > 1)
-        error("C03", *found.at(1), QStringLiteral("\"about\" is there twice"));
-    readAboutOf(*found.first());
-}
-
-void FileReader::readAboutOf(const Element &about)
-{
-    checkNames(about, {QStringLiteral("name"), QStringLiteral("id"), QStringLiteral("group"),
-                       QStringLiteral("sizing"), QStringLiteral("aspect"), QStringLiteral("filled"),
-                       QStringLiteral("smallest"), QStringLiteral("pen")});
-    m_shape.name = texts(about, "name");
-    if (m_shape.name.isEmpty() || m_shape.name.first().trimmed().isEmpty())
-        error("C03", about, QStringLiteral("\"about\" needs a name"));
-    else if (!m_shape.name.contains(QStringLiteral("en")))
-        warning("C48", about, QStringLiteral("there is no English name: write \"name\" without a language"));
-    const Attribute *id = about.attribute(QStringLiteral("id"));
-    m_shape.id = id ? id->value : lettersAndDigits(m_name);
-    if (m_shape.id.isEmpty() || m_shape.id != lettersAndDigits(m_shape.id)) {
-        const QString text = QStringLiteral("\"%1\" is no id: letters and digits").arg(id ? id->value : m_name);
-        id ? error("C05", *id, text) : error("C05", about, text);
-    }
-    m_shape.group = about.attribute(QStringLiteral("group")) ? about.value("group") : QStringLiteral("basic");
-    int index = 0;
-    if (readChoice(about.attribute(QStringLiteral("sizing")), sizings, index, "C06"))
-        m_shape.sizing = Sizing(index);
-    if (readChoice(about.attribute(QStringLiteral("filled")), fillings, index, "C06"))
-        m_shape.filling = Filling(index);
-    m_shape.keepsAspect = m_shape.sizing == Sizing::Stretched;
-    if (readChoice(about.attribute(QStringLiteral("aspect")), aspects, index, "C06"))
-        m_shape.keepsAspect = index == 1;
-    if (const Attribute *smallest = about.attribute(QStringLiteral("smallest"))) {
-        bool isRead = false;
-        const QVector<double> sides = numbers(smallest->value, isRead);
-        if (!isRead || sides.size() != 2 || sides[0] < 1 || sides[1] < 1)
-            error("C06", *smallest, QStringLiteral("the smallest size is two numbers of at least 1"));
-        else
-            m_shape.smallest = {sides[0], sides[1]};
-    }
-    double pen = m_shape.widestPen;
-    const Attribute *widest = about.attribute(QStringLiteral("pen"));
-    if (widest && readNumber(*widest, pen, "C06") && (pen < 1 || pen > longestPen))
-        error("C06", *widest, QStringLiteral("the widest pen is a number from 1 to 100"));
-    m_shape.widestPen = int(pen);
-}
-
 void FileReader::checkElements()
 {
     const QStringList known{QStringLiteral("about"), QStringLiteral("property"), QStringLiteral("entry"),
@@ -277,6 +225,34 @@ void FileReader::checkElements()
                 QStringLiteral("there is no element \"%1\"%2").arg(element.name, suggestion(element.name, known)));
         else if (isSvg(element) && element.name == QLatin1String("script"))
             warning("C45", element, QStringLiteral("scripts are left out"));
+}
+
+void FileReader::checkReference(const Attribute &attribute, const QString &id, int offset)
+{
+    if (!m_ids.contains(id))
+        error("C44", attribute,
+              QStringLiteral("there is no element with the id \"%1\"%2").arg(id, suggestion(id, m_ids.keys())),
+              offset);
+}
+
+/// Links to elements of the file, and paints and effects that are found by their id.
+void FileReader::checkReferences()
+{
+    static const QRegularExpression form(QStringLiteral("url\\(\\s*['\"]?#([^'\")\\s]+)"));
+    for (const Element &element : m_elements) {
+        if (isLeftOut(element))
+            continue;
+        for (const Attribute &attribute : element.attributes) {
+            if (attribute.namespaceUri == shapeNamespace)
+                continue;
+            if (attribute.name == QLatin1String("href") && attribute.value.startsWith(QLatin1Char('#')))
+                checkReference(attribute, attribute.value.mid(1), 1);
+            for (auto match = form.globalMatch(attribute.value); match.hasNext();) {
+                const QRegularExpressionMatch found = match.next();
+                checkReference(attribute, found.captured(1), found.capturedStart(1));
+            }
+        }
+    }
 }
 
 } // namespace declared

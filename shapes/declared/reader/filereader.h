@@ -60,6 +60,7 @@ private:
     /// @name Attributes
     /// @{
     void checkNames(const Element &element, const QStringList &known);
+    /// The texts of an attribute by language; warns when there are some, but no English one.
     Texts texts(const Element &element, const char *name);
     bool readNumber(const Attribute &attribute, double &number, const char *code);
     bool readChoice(const Attribute *attribute, const QStringList &values, int &index, const char *code);
@@ -72,8 +73,14 @@ private:
     bool readRoot();
     void readIds();
     void readAbout();
-    void readAboutOf(const Element &about);
+    void readNames(const Element &about);
+    void readId(const Element &about);
+    void readSizing(const Element &about);
+    void readIcon(const Element &about);
+    void readSuccession(const Element &about);
     void checkElements();
+    void checkReferences();
+    void checkReference(const Attribute &attribute, const QString &id, int offset);
 
     void defineFixedNames();
     bool define(const QString &name, const Attribute &attribute, const Symbol &symbol);
@@ -81,6 +88,8 @@ private:
 
     void readProperties();
     void readProperty(const Element &element);
+    void readFormer(const Element &element, PropertyDeclaration &property);
+    void checkFormer(const Element &element);
     void readValue(const Element &element, PropertyDeclaration &property);
     void readBounds(const Element &element, PropertyDeclaration &property);
     void readList(const Element &element, const Attribute &value, PropertyDeclaration &property);
@@ -129,6 +138,7 @@ private:
     void readConnections();
 
     QByteArray templateText() const;
+    QByteArray iconText(const Element &symbol) const;
     QString hash() const;
     bool isLeftOut(const Element &element) const;
     QString paintOf(int index, const QString &paint) const;

@@ -5,6 +5,7 @@
 
 #include <QtCore/QCryptographicHash>
 
+#include <algorithm>
 #include <cmath>
 
 namespace declared {
@@ -26,6 +27,11 @@ int propertyId(const QString &kind, const QString &name)
     const QByteArray text = kind.toUtf8() + ':' + name.toUtf8();
     const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha1);
     return firstPropertyId + (uchar(hash.at(0)) << 12 | uchar(hash.at(1)) << 4 | uchar(hash.at(2)) >> 4);
+}
+
+bool isNumber(PropertyDeclaration::Kind kind)
+{
+    return kind == PropertyDeclaration::Whole || kind == PropertyDeclaration::Real;
 }
 
 bool isList(PropertyDeclaration::Kind kind)
@@ -65,13 +71,17 @@ void FileReader::readProperties()
         }
         readProperty(element);
     }
+    for (const Element &element : m_elements)
+        if (isShape(element, "property"))
+            checkFormer(element);
 }
 
 void FileReader::readProperty(const Element &element)
 {
-    checkNames(element, {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("value"),
-                         QStringLiteral("from"), QStringLiteral("to"), QStringLiteral("step"),
-                         QStringLiteral("count"), QStringLiteral("title"), QStringLiteral("panel")});
+    checkNames(element,
+               {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("value"), QStringLiteral("from"),
+                QStringLiteral("to"), QStringLiteral("step"), QStringLiteral("count"), QStringLiteral("title"),
+                QStringLiteral("panel"), QStringLiteral("was")});
     const Attribute *name = element.attribute(QStringLiteral("name"));
     const Attribute *type = element.attribute(QStringLiteral("type"));
     if (!name || !type) {
@@ -106,18 +116,67 @@ void FileReader::readProperty(const Element &element)
         property.inPropertyPanel = panel <= 1;
         property.inSettings = panel == 0 || panel == 2;
     }
+    readFormer(element, property);
     m_shape.properties.append(property);
+}
+
+/// Former names with their types: "corners:real tips:whole".
+void FileReader::readFormer(const Element &element, PropertyDeclaration &property)
+{
+    const Attribute *was = element.attribute(QStringLiteral("was"));
+    if (!was)
+        return;
+    if (m_shape.isSuccessor()) {
+        error("C51", *was, QStringLiteral("properties of a shape with a layout go by their order"));
+        return;
+    }
+    const QStringList entries = was->value.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &entry : entries) {
+        const QString name = entry.section(QLatin1Char(':'), 0, 0);
+        const int kind = kinds.indexOf(entry.section(QLatin1Char(':'), 1));
+        if (!isName(name) || kind < 0) {
+            error("C47", *was, QStringLiteral("\"%1\" is no \"name:type\" of a property").arg(entry));
+            return;
+        }
+        const auto former = PropertyDeclaration::Kind(kind);
+        if (former != property.kind && !(isNumber(former) && isNumber(property.kind))) {
+            error("C47", *was, QStringLiteral("a value of \"%1\" can't become one of this property").arg(entry));
+            return;
+        }
+        property.former.append({name, former, propertyId(kinds.at(kind), name)});
+    }
+}
+
+/// A former name must not be that of another property, present or former.
+void FileReader::checkFormer(const Element &element)
+{
+    const Attribute *was = element.attribute(QStringLiteral("was"));
+    const QString name = element.value("name");
+    const auto property = std::find_if(m_shape.properties.begin(), m_shape.properties.end(),
+                                       [&](const PropertyDeclaration &one) { return one.name == name; });
+    if (!was || property == m_shape.properties.end())
+        return;
+    for (const FormerProperty &former : qAsConst(property->former)) {
+        int uses = 0;
+        for (const PropertyDeclaration &other : qAsConst(m_shape.properties)) {
+            uses += other.id == former.id || (&other != &*property && other.name == former.name) ? 1 : 0;
+            for (const FormerProperty &one : other.former)
+                uses += one.id == former.id ? 1 : 0;
+        }
+        if (uses > 1)
+            error("C47", *was, QStringLiteral("\"%1\" is the name of another property").arg(former.name));
+    }
 }
 
 void FileReader::readBounds(const Element &element, PropertyDeclaration &property)
 {
-    const bool isNumber = property.kind == PropertyDeclaration::Whole || property.kind == PropertyDeclaration::Real;
-    const bool isBounded = isNumber || isList(property.kind);
+    const bool needsBounds = isNumber(property.kind);
+    const bool isBounded = needsBounds || isList(property.kind);
     property.from = isBounded ? -largestNumber : 0;
     property.to = isBounded ? largestNumber : 1;
     const Attribute *from = element.attribute(QStringLiteral("from"));
     const Attribute *to = element.attribute(QStringLiteral("to"));
-    if (isNumber && (!from || !to)) {
+    if (needsBounds && (!from || !to)) {
         error("C15", element, QStringLiteral("a number needs its bounds: \"from\" and \"to\""));
         return;
     }

@@ -121,6 +121,27 @@ QByteArray FileReader::templateText() const
     return text;
 }
 
+/// The symbol in its view box, with the definitions of the file that it may refer to.
+QByteArray FileReader::iconText(const Element &symbol) const
+{
+    QByteArray text;
+    QXmlStreamWriter writer(&text);
+    writer.writeStartDocument();
+    writer.writeDefaultNamespace(svgNamespace);
+    writer.writeNamespace(linkNamespace, QStringLiteral("xlink"));
+    writer.writeStartElement(QStringLiteral("svg"));
+    if (const Attribute *box = symbol.attribute(QStringLiteral("viewBox")))
+        writer.writeAttribute(QStringLiteral("viewBox"), box->value);
+    for (int i = 0; i < m_elements.size(); ++i)
+        if (isSvg(m_elements.at(i)) && m_elements.at(i).name == QLatin1String("defs"))
+            writeElement(writer, i);
+    for (const SourceContent &content : symbol.contents)
+        if (content.element >= 0 && !isLeftOut(m_elements.at(content.element)))
+            writeElement(writer, content.element);
+    writer.writeEndDocument();
+    return text;
+}
+
 /// Comments, blank space, the order of attributes, and what other programs have added make no difference.
 void FileReader::writeCanonical(QXmlStreamWriter &writer, int index) const
 {

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void kindDroppedOnThePageAppearsThere();
     void everyKindHasAPictureAndAName();
     void paletteSearchHidesOtherKinds();
+    void paletteSearchKnowsOtherWordsForAShape();
     void paletteBeginsWithTheBasicShapes_data();
     void paletteBeginsWithTheBasicShapes();
     void namesInThePaletteCanBeRead_data();
@@ -224,6 +225,16 @@ void TestDrawing::paletteSearchHidesOtherKinds()
     search->clear();
     for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
         QVERIFY(button->isVisible());
+}
+
+void TestDrawing::paletteSearchKnowsOtherWordsForAShape()
+{
+    BoardDriver board;
+    auto *search = board.window().palettePanel()->findChild<QLineEdit *>();
+    QVERIFY(search);
+    QTest::keyClicks(search, "Plus");
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        QCOMPARE(button->isVisible(), button->kindId() == QLatin1String("declared.cross"));
 }
 
 void TestDrawing::paletteBeginsWithTheBasicShapes_data()

@@ -2,6 +2,7 @@
 
 #include "shapefile.h"
 
+#include <declared/core/iconpicture.h>
 #include <declared/core/shapekind.h>
 #include <declared/plugin/shapefolders.h>
 
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void firstFolderWins();
     void textsHaveTheLanguagesOfTheFile();
     void groupMayBeATitle();
+    void wordsForSearchingHaveTheirLanguages();
+    void iconIsThePictureOfItsSymbol();
     void foldersComeFromTheEnvironmentFirst();
 
 private:
@@ -106,7 +109,7 @@ void TestFolders::firstFolderWins()
     QCOMPARE(kinds.size(), size_t(1));
     QCOMPARE(kinds.front()->declaration().name.value(QStringLiteral("en")), QStringLiteral("Mine"));
     QCOMPARE(problems, QStringList({m_folder.filePath(QStringLiteral("second/Nut.shape.svg")) +
-                                    QStringLiteral(": error C05: the id \"Nut\" is that of another file")}));
+                                    QStringLiteral(":2:1: error C05: the id \"Nut\" is that of another file")}));
 }
 
 void TestFolders::textsHaveTheLanguagesOfTheFile()
@@ -126,8 +129,34 @@ void TestFolders::textsHaveTheLanguagesOfTheFile()
 
 void TestFolders::groupMayBeATitle()
 {
-    const ShapeKind kind(declaredtest::readOf(declaredtest::fileAbout("name='Nut' group='My tools'", "")));
+    const ShapeKind kind(declaredtest::readOf(
+        declaredtest::fileAbout("name='Nut' group='My tools' group.de='Meine Werkzeuge'", "")));
     QCOMPARE(kind.texts(QStringLiteral("en")).value(kind.groupKey()), QStringLiteral("My tools"));
+    QCOMPARE(kind.texts(QStringLiteral("de")).value(kind.groupKey()), QStringLiteral("Meine Werkzeuge"));
+}
+
+void TestFolders::wordsForSearchingHaveTheirLanguages()
+{
+    const ShapeKind kind(
+        declaredtest::readOf(declaredtest::fileAbout("name='Nut' words='bolt, hex' words.de='Sechskant'", "")));
+    QCOMPARE(kind.texts(QStringLiteral("en")).value(QStringLiteral("IDS_DECLARED_NUT_WORDS")),
+             QStringLiteral("bolt, hex"));
+    QCOMPARE(kind.texts(QStringLiteral("de")).value(QStringLiteral("IDS_DECLARED_NUT_WORDS")),
+             QStringLiteral("Sechskant"));
+}
+
+void TestFolders::iconIsThePictureOfItsSymbol()
+{
+    const SharedDeclaration shape = declaredtest::readOf(
+        declaredtest::fileAbout("name='Nut' icon='small'",
+                                "<symbol id='small' viewBox='0 0 20 10'><rect width='10' height='10' fill='#f00'/>"
+                                "<rect x='10' width='10' height='10' fill='#00f'/></symbol>"));
+    QVERIFY(shape);
+    const QImage picture = QImage::fromData(iconPicture(shape->icon), "PNG");
+    QCOMPARE(picture.size(), QSize(256, 128));
+    QCOMPARE(picture.pixelColor(60, 60), QColor(255, 0, 0));
+    QCOMPARE(picture.pixelColor(200, 60), QColor(0, 0, 255));
+    QVERIFY(iconPicture(QByteArray()).isEmpty());
 }
 
 void TestFolders::foldersComeFromTheEnvironmentFirst()

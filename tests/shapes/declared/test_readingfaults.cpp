@@ -15,6 +15,9 @@ private Q_SLOTS:
     void faultsOfFilesStandWhereTheyAre();
     void faultsInsideStandWhereTheyAre_data();
     void faultsInsideStandWhereTheyAre();
+    void faultsOfAboutStandWhereTheyAre_data();
+    void faultsOfAboutStandWhereTheyAre();
+    void successorsHaveNoFormerNames();
     void placesCountReferencesAsOneCharacter();
     void placesCountLines();
     void everyFaultOfAFileIsTold();
@@ -148,6 +151,18 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre_data()
     row("<g shape:repeat='i in 0..3'/>", "3:1 C38");
     row("<g shape:repeat='i in 0..1'><g shape:repeat='k in 0..1'><path/></g></g>", "3:29 C38");
     row("<path shape:keeps='all'/>", "3:20 C39");
+    row("<use href='#nothing'/>", "3:13 C44");
+    row("<path style='fill: url(#paint)'/>", "3:25 C44");
+    row("<shape:property name='a' type='whole' value='1' from='0' to='9' was='b'/>", "3:70 C47");
+    row("<shape:property name='a' type='whole' value='1' from='0' to='9' was='b:number'/>", "3:70 C47");
+    row("<shape:property name='a' type='whole' value='1' from='0' to='9' was='b:text'/>", "3:70 C47");
+    row("<shape:property name='a' type='whole' value='1' from='0' to='9' was='a:whole'/>", "3:70 C47");
+    row("<shape:property name='a' type='switch' value='no' was='b:switch'/>"
+        "<shape:property name='b' type='switch' value='no'/>",
+        "3:56 C47");
+    row("<shape:property name='a' type='switch' value='no' was='c:switch'/>"
+        "<shape:property name='b' type='switch' value='no' was='c:switch'/>",
+        "3:56 C47");
 }
 
 void TestReadingFaults::faultsInsideStandWhereTheyAre()
@@ -155,6 +170,44 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre()
     QFETCH(QByteArray, content);
     QFETCH(QString, fault);
     QCOMPARE(firstError(declaredtest::fileOf(content)), fault);
+}
+
+void TestReadingFaults::faultsOfAboutStandWhereTheyAre_data()
+{
+    QTest::addColumn<QString>("fault");
+    const auto row = [](const char *about, const char *fault) {
+        QTest::newRow(about) << QString::fromLatin1(fault);
+    };
+    row("name=''", "2:1 C03");
+    row("name='Nut' nam='x'", "2:30 C04");
+    row("name='Nut' id='a b'", "2:29 C05");
+    row("name='Nut' sizing='stretched'", "2:33 C06");
+    row("name='Nut' filled='all'", "2:33 C06");
+    row("name='Nut' aspect='wide'", "2:33 C06");
+    row("name='Nut' smallest='5'", "2:35 C06");
+    row("name='Nut' pen='0'", "2:30 C06");
+    row("name='Nut' icon='figure'", "2:31 C44");
+    row("name='Nut' type='8' filled='page'", "2:31 C51");
+    row("name='Nut' layout='kit'", "2:33 C51");
+    row("name='Nut' layout='coded' type='8' filled='page'", "2:33 C51");
+    row("name='Nut' layout='kit' type='26' filled='page'", "2:44 C51");
+    row("name='Nut' layout='kit' type='2000'", "2:44 C51");
+    row("name='Nut' layout='kit' type='8'", "2:44 C51");
+    row("name='Nut' layout='kit' type='30' filled='page'", "2:44 C51");
+}
+
+void TestReadingFaults::faultsOfAboutStandWhereTheyAre()
+{
+    QFETCH(QString, fault);
+    QCOMPARE(firstError(declaredtest::fileAbout(QTest::currentDataTag(), "")), fault);
+}
+
+void TestReadingFaults::successorsHaveNoFormerNames()
+{
+    QCOMPARE(
+        firstError(declaredtest::fileAbout("name='Nut' layout='kit' type='30'",
+                                           "<shape:property name='a' type='switch' value='no' was='b:switch'/>")),
+        QStringLiteral("3:56 C51"));
 }
 
 void TestReadingFaults::placesCountReferencesAsOneCharacter()

@@ -16,11 +16,15 @@ namespace pagehost {
 /// The palette group of what everybody draws, which comes before all others.
 constexpr char basicGroup[] = "IDS_SHAPEGROUP_BASIC";
 
+/// A picture for palettes instead of the look of a new object, PNG (ObjectPlugin::dataOf()); empty where the look
+/// is the picture.
+constexpr char iconType[] = "image/x-gliololok-icon";
+
 /// One kind of page object that a plug-in offers.
 struct ObjectKind
 {
     QString id;      ///< stable and unique, kept in documents; letters, digits and '.' ("shapes.arrow")
-    QString nameKey; ///< localisation key of the name shown in the palette
+    QString nameKey; ///< localisation key of the name; with "_WORDS" behind it, of words to search it by, if any
     QString group;   ///< localisation key of the palette group
 };
 

@@ -1,0 +1,133 @@
+// Values of declared shapes: what is saved under a former name, and what moves by them.
+
+#include "shapefile.h"
+
+#include <shapes/shapedriver.h>
+
+#include <declared/core/shapekind.h>
+
+#include <shapekit/shapeobject.h>
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QDataStream>
+#include <QtTest/QtTest>
+
+using namespace declared;
+
+/// The kind of the plug-in, which the kit asks for.
+const shapekit::Kind &shapekit::kind()
+{
+    static const Kind plugin;
+    return plugin;
+}
+
+namespace {
+
+const char *tips = "<shape:property name='tips' type='whole' value='5' from='3' to='24'/>";
+const char *corners = "<shape:property name='corners' type='real' value='4' from='3' to='24' was='tips:whole'/>";
+
+QByteArray bytesOf(CSVGObj &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    object.save(out);
+    return bytes;
+}
+
+template<class Number> Number valueOf(const shapekit::ShapeObject &object, int id)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    object.core()->getInnerProperty(id, out);
+    Number number = 0;
+    QDataStream(bytes) >> number;
+    return number;
+}
+
+} // namespace
+
+class TestValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void savedValueOfAFormerNameIsTaken();
+    void wholeNumberTakesTheNearest();
+    void presentNameWinsOverAFormerOne();
+    void lessonOfAFormerNameIsPlayed();
+    void movementTakesAsLongAsItsValueSays();
+};
+
+void TestValues::savedValueOfAFormerNameIsTaken()
+{
+    const ShapeKind before(declaredtest::readOf(declaredtest::fileOf(tips)));
+    const ShapeKind after(declaredtest::readOf(declaredtest::fileOf(corners)));
+    shapekit::ShapeObject old(before.kind());
+    old.SetSettingJson(QStringLiteral(R"({"idDeclared_tips": "9"})"), false, false);
+    shapekit::ShapeObject opened(after.kind());
+    QDataStream in(bytesOf(old));
+    QVERIFY(opened.load(in));
+    QCOMPARE(valueOf<double>(opened, after.declaration().properties.first().id), 9.0);
+}
+
+void TestValues::wholeNumberTakesTheNearest()
+{
+    const ShapeKind before(declaredtest::readOf(
+        declaredtest::fileOf("<shape:property name='size' type='real' value='5.6' from='3' to='24'/>")));
+    const ShapeKind after(declaredtest::readOf(declaredtest::fileOf(
+        "<shape:property name='size' type='whole' value='3' from='3' to='24' was='size:real'/>")));
+    shapekit::ShapeObject old(before.kind());
+    shapekit::ShapeObject opened(after.kind());
+    QDataStream in(bytesOf(old));
+    QVERIFY(opened.load(in));
+    QCOMPARE(valueOf<qint32>(opened, after.declaration().properties.first().id), 6);
+}
+
+void TestValues::presentNameWinsOverAFormerOne()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(corners)));
+    shapekit::ShapeObject object(kind.kind());
+    QJsonObject json;
+    object.saveJson(json);
+    QJsonObject saved = json.value(QLatin1String("SVG_Declared")).toObject();
+    saved[QStringLiteral("values")] = QJsonObject{{QStringLiteral("corners"), 7}, {QStringLiteral("tips"), 8}};
+    json[QStringLiteral("SVG_Declared")] = saved;
+    QVERIFY(object.loadJson(json));
+    QCOMPARE(valueOf<double>(object, kind.declaration().properties.first().id), 7.0);
+}
+
+void TestValues::lessonOfAFormerNameIsPlayed()
+{
+    const ShapeKind before(declaredtest::readOf(declaredtest::fileOf(tips)));
+    const ShapeKind after(declaredtest::readOf(declaredtest::fileOf(corners)));
+    const PropertyDeclaration &former = before.declaration().properties.first();
+    shapekit::ShapeObject object(after.kind());
+    QByteArray recorded;
+    QDataStream(&recorded, QIODevice::WriteOnly) << qint32(11);
+    QDataStream in(recorded);
+    QVERIFY(object.core()->DoPlaybackActionEx(former.id, in));
+    QCOMPARE(valueOf<double>(object, after.declaration().properties.first().id), 11.0);
+}
+
+void TestValues::movementTakesAsLongAsItsValueSays()
+{
+    const ShapeKind kind(declaredtest::readOf(
+        declaredtest::fileOf("<shape:property name='turns' type='whole' value='4' from='1' to='60'/>"
+                             "<g><path id='figure' fill='#fff' d='M0 0H9V9Z'/><animateTransform id='turning' "
+                             "attributeName='transform' type='rotate' from='0 60 40' to='360 60 40' dur='15s' "
+                             "repeatCount='indefinite' shape:dur='{60 / turns}s' "
+                             "shape:to='{turns * 90} {middle}'/></g>")));
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(kind.kind()));
+    shape.createByClick();
+    shape.object().SetSettingJson(QStringLiteral(R"({"idDeclared_turns": "8"})"), false, false);
+    shape.painted();
+    const QZeSvgNode *turning = shape.document().namedNode(QStringLiteral("turning"));
+    QVERIFY(turning);
+    QCOMPARE(turning->attribute(QStringLiteral("dur")), QStringLiteral("7.5s"));
+    QCOMPARE(turning->attribute(QStringLiteral("to")), QStringLiteral("720 60 40"));
+}
+
+QTEST_MAIN(TestValues)
+#include "test_values.moc"
