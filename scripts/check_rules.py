@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Checks the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be, that
-no file names a directory of somebody's machine or keeps both sides of a merge, and that comments name the thing first. Prints every breach and exits with 1 when there is one.
+"""Checks the source tree against the rules of ARCHITECTURE.md: who may include whom, how long a file and a shape may be,
+that no file names a directory of somebody's machine or keeps both sides of a merge, and that comments name the thing
+first. Prints every breach and exits with 1 when there is one.
 
 Usage: check_rules.py [ROOT]
 """
