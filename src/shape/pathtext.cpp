@@ -178,8 +178,8 @@ QString PathText::movedStart(const QString &path, double dx, double dy)
     const int separator = atComma ? comma : minus;
     const int yStart = atComma ? comma + 1 : minus; // a minus belongs to y
     const int yEnd = int(std::find_if(path.cbegin() + yStart, path.cend(), isLetter) - path.cbegin());
-    const double x = path.mid(1, separator - 1).toDouble() + dx;
-    const double y = path.mid(yStart, yEnd - yStart).toDouble() + dy;
+    const double x = path.midRef(1, separator - 1).toDouble() + dx;
+    const double y = path.midRef(yStart, yEnd - yStart).toDouble() + dy;
     const QString between = y < 0 ? QString() : QStringLiteral(",");
     return QLatin1Char('M') + NumberText::write(x) + between + NumberText::write(y) + path.mid(yEnd);
 }

@@ -165,7 +165,8 @@ void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 QAction *BoardDriver::action(const QString &text) const
 {
-    for (QAction *candidate : m_window->findChildren<QAction *>())
+    const QList<QAction *> candidates = m_window->findChildren<QAction *>();
+    for (QAction *candidate : candidates)
         if (candidate->text() == text)
             return candidate;
     return nullptr;
@@ -173,7 +174,8 @@ QAction *BoardDriver::action(const QString &text) const
 
 QPushButton *BoardDriver::button(const QString &text) const
 {
-    for (QPushButton *candidate : m_window->findChildren<QPushButton *>())
+    const QList<QPushButton *> candidates = m_window->findChildren<QPushButton *>();
+    for (QPushButton *candidate : candidates)
         if (candidate->isVisible() && candidate->text().remove(QLatin1Char('&')) == text)
             return candidate;
     return nullptr;
@@ -181,7 +183,8 @@ QPushButton *BoardDriver::button(const QString &text) const
 
 void BoardDriver::pick(const QString &kindId)
 {
-    for (board::PaletteButton *button : m_window->palettePanel()->buttons())
+    const auto buttons = m_window->palettePanel()->buttons();
+    for (board::PaletteButton *button : buttons)
         if (button->kindId() == kindId)
             QTest::mouseClick(button, Qt::LeftButton);
 }
@@ -210,9 +213,10 @@ QRectF BoardDriver::placeOf(const CBaseObject *object) const
 
 QPointF BoardDriver::handle(CObjAction::ACT_Def action) const
 {
-    if (selection().size() != 1)
+    const auto selected = selection();
+    if (selected.size() != 1)
         return {};
-    const QRectF bounds = selection().first()->mapToScene(selection().first()->getClientRect()).boundingRect();
+    const QRectF bounds = selected.first()->mapToScene(selected.first()->getClientRect()).boundingRect();
     const QRect area = bounds.adjusted(-handleReach, -handleReach, handleReach, handleReach).toAlignedRect();
     const QVector<QPoint> found = answering(action, area, coarseStep);
     if (found.isEmpty())

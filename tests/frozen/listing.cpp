@@ -108,7 +108,8 @@ QByteArray frozen::contents(const QString &fileName)
 QVector<frozen::Field> frozen::streamListing(const QString &name)
 {
     QVector<Field> fields;
-    for (const QRegularExpressionMatch &line : lines(name, "(\\d+) +" + typeAndValue)) {
+    const QVector<QRegularExpressionMatch> found = lines(name, "(\\d+) +" + typeAndValue);
+    for (const QRegularExpressionMatch &line : found) {
         const QString type = line.captured(2);
         const QString value = line.captured(3);
         fields.append({line.captured(1).toInt(), type, value, line.captured(4), encoded(type, value)});
@@ -119,7 +120,8 @@ QVector<frozen::Field> frozen::streamListing(const QString &name)
 QVector<frozen::Field> frozen::jsonListing(const QString &name)
 {
     QVector<Field> fields;
-    for (const QRegularExpressionMatch &line : lines(name, typeAndValue))
+    const QVector<QRegularExpressionMatch> found = lines(name, typeAndValue);
+    for (const QRegularExpressionMatch &line : found)
         fields.append({0, line.captured(1), line.captured(2), line.captured(3), {}});
     return fields;
 }

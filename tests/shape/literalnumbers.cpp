@@ -144,7 +144,7 @@ std::vector<double> literal::parseNumbersList(const QString &text, int &at)
 
 QString literal::numbersToString(const std::vector<double> &numbers)
 {
-    QString result = QStringLiteral("");
+    QString result(QLatin1String(""));
     bool first = true;
     for (const double number : numbers) {
         const bool positive = std::fabs(number) >= 1e-7 && number > 0;

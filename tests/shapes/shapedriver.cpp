@@ -195,7 +195,8 @@ int ShapeDriver::controlPointCount() const
 QString ShapeDriver::geometry() const
 {
     QString text;
-    for (const QZeSvgNode *node : document().children()) {
+    const auto children = document().children();
+    for (const QZeSvgNode *node : children) {
         for (const char *name : {"d", "points", "x", "y", "width", "height"})
             text += node->attribute(QLatin1String(name)) + QLatin1Char(' ');
         text += QLatin1Char('\n');

@@ -45,7 +45,8 @@ QString goldencases::caseOf(const QString &name)
 QStringList goldencases::all()
 {
     QStringList cases;
-    for (const QString &name : namesWith(QStringLiteral(".svg")))
+    const QStringList names = namesWith(QStringLiteral(".svg"));
+    for (const QString &name : names)
         if (!name.endsWith(QLatin1String(".same.svg")))
             cases.append(caseOf(name));
     return cases;
@@ -65,7 +66,8 @@ QByteArray goldencases::contents(const QString &name)
 QStringList goldencases::namesInSeveralFolders()
 {
     QStringList names;
-    for (const QString &name : paths().uniqueKeys())
+    const QStringList found = paths().uniqueKeys();
+    for (const QString &name : found)
         if (paths().count(name) > 1)
             names.append(name);
     return names;

@@ -79,7 +79,8 @@ QVariantList lastArguments(const QString &object, const QString &operation)
 QStringList names(const QStringList &operations)
 {
     QStringList found;
-    for (const Call &call : operations.isEmpty() ? calls() : calls(operations))
+    const QVector<Call> listed = operations.isEmpty() ? calls() : calls(operations);
+    for (const Call &call : listed)
         found.append(nameOf(call));
     return found;
 }

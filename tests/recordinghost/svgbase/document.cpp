@@ -45,7 +45,8 @@ const QString document = QStringLiteral("document");
 QMap<QString, QString> attributesOf(const QXmlStreamReader &xml)
 {
     QMap<QString, QString> attributes;
-    for (const QXmlStreamAttribute &attribute : xml.attributes())
+    const QXmlStreamAttributes read = xml.attributes();
+    for (const QXmlStreamAttribute &attribute : read)
         attributes[attribute.qualifiedName().toString()] = attribute.value().toString();
     return attributes;
 }

@@ -150,7 +150,8 @@ const QMap<QString, QStringList> &valuesOfAttributes()
     };
     static const QMap<QString, QStringList> all = [] {
         QMap<QString, QStringList> result = map;
-        for (const QString &name : words("x y width height rx ry cx cy r x1 y1 x2 y2 fx fy fr dx dy refX refY"))
+        const QStringList names = words("x y width height rx ry cx cy r x1 y1 x2 y2 fx fy fr dx dy refX refY");
+        for (const QString &name : names)
             result.insert(name, lengths);
         return result;
     }();
