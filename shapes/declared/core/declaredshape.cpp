@@ -64,6 +64,7 @@ QVector<QPointF> entriesOf(const QVector<double> &numbers, bool arePoints)
 DeclaredShape::DeclaredShape(CSVGObj *owner, const ShapeKind &kind)
     : Shape(owner, typeOf(kind.declaration()),
             kind.declaration().sizing == declared::Sizing::Redrawn ? Redrawn : Stretched)
+    , m_kind(kind)
     , m_declaration(kind.declaration())
     , m_state(kind.declaration())
     , m_figure(kind.declaration())
@@ -150,6 +151,12 @@ QRectF DeclaredShape::paintedArea()
             area |= toObject.mapRect(bounds.adjusted(-reach, -reach, reach, reach));
     }
     return area;
+}
+
+ShapeState &DeclaredShape::presentState()
+{
+    updateState();
+    return m_state;
 }
 
 void DeclaredShape::updateState()
@@ -254,6 +261,8 @@ void DeclaredShape::draw()
 {
     updateState();
     m_figure.write(*document, m_state);
+    for (const Message &note : m_state.takeNotes())
+        m_kind.tell(note);
 }
 
 QJsonObject DeclaredShape::values() const

@@ -28,6 +28,16 @@ public:
     /// A picture for palettes, SVG; empty: the look of a new shape.
     QByteArray icon() const { return m_declaration.icon; }
 
+    /// @name Seen by a review of the file
+    /// @{
+    QZeSvgTinyDocument *drawing() const { return document; }
+    /// The values of the present moment.
+    ShapeState &presentState();
+    QVector<QPointF> standingPoints() const;
+    /// The limits of a point that its file leaves open.
+    QRectF freeRange(int number) { return Shape::range(number); }
+    /// @}
+
 protected:
     QRectF range(int number) override;
     QPointF settled(int number, QPointF centre) override;
@@ -56,10 +66,10 @@ private:
     /// Hands the present size, look, points and properties to the expressions.
     void updateState();
     void updateProperty(int index);
-    QVector<QPointF> standingPoints() const;
     QJsonObject values() const;
     void takeValues(const QJsonObject &values);
 
+    const ShapeKind &m_kind;
     const Declaration &m_declaration;
     ShapeState m_state;
     Figure m_figure;

@@ -1,5 +1,6 @@
 #include <declared/core/figure.h>
 
+#include <declared/core/attributecheck.h>
 #include <declared/expressions/functions.h>
 #include <declared/reader/filelimits.h>
 
@@ -42,6 +43,12 @@ QZeSvgNode *partOf(QZeSvgNode *node, const QVector<int> &path)
     return node;
 }
 
+QString shortened(const QString &text)
+{
+    constexpr int longest = 40;
+    return text.size() > longest ? text.left(longest) + QStringLiteral("...") : text;
+}
+
 /// The number of a text that an expression has made; another number where it is none.
 double numberOf(const Expression &expression, ShapeState &state, double otherwise)
 {
@@ -50,6 +57,8 @@ double numberOf(const Expression &expression, ShapeState &state, double otherwis
     const Value value = state.valueOf(expression);
     bool isNumber = false;
     const double number = value.text.toDouble(&isNumber);
+    if (value.isFinite() && !isNumber)
+        state.note("C37", expression.place, QStringLiteral("\"%1\" is no number").arg(shortened(value.text)));
     return isNumber && value.isFinite() ? number : qQNaN();
 }
 
@@ -118,8 +127,10 @@ void Figure::writeRepeated(int index, ShapeState &state)
         for (double k = innerFrom; k <= innerTo && !state.isExhausted(); ++k) {
             if (isNested)
                 state.setLoop(loops.last(), k);
-            if (round == repeated.copies.size() && !addCopy(repeated))
+            if (round == repeated.copies.size() && !addCopy(repeated)) {
+                state.note("C41", outer.from.place, QStringLiteral("a drawing has at most 1000 repeated elements"));
                 return;
+            }
             writeRound(index, round++, state);
         }
     }
@@ -158,16 +169,30 @@ void Figure::writeElement(const ElementDeclaration &element, QZeSvgNode &node, S
 
 bool Figure::writeAttributes(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state)
 {
-    bool isFinite = true;
+    bool isDrawn = true;
     for (const AttributeDeclaration &attribute : element.attributes) {
         const Value value = state.valueOf(attribute.text);
-        isFinite = isFinite && value.isFinite();
-        if (value.isFinite())
-            setAttribute(node, attribute.name, value.text);
+        isDrawn = writeAttribute(attribute, value, node, state) && isDrawn;
     }
     if (element.letters.content.isValid())
-        isFinite = writeLetters(element.letters, node, state) && isFinite;
-    return isFinite;
+        isDrawn = writeLetters(element.letters, node, state) && isDrawn;
+    return isDrawn;
+}
+
+bool Figure::writeAttribute(const AttributeDeclaration &attribute, const Value &value, QZeSvgNode &node,
+                            ShapeState &state)
+{
+    if (!value.isFinite())
+        return false;
+    if (node.attribute(attribute.name) == value.text)
+        return true;
+    if (!isValidAttribute(attribute.name, value.text)) {
+        state.note("C37", attribute.text.place,
+                   QStringLiteral("\"%1\" is no value of \"%2\"").arg(shortened(value.text), attribute.name));
+        return false;
+    }
+    node.setAttribute(attribute.name, value.text);
+    return true;
 }
 
 bool Figure::writeLetters(const LettersDeclaration &letters, QZeSvgNode &node, ShapeState &state)

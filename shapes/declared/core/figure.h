@@ -16,7 +16,8 @@ class Figure
 public:
     explicit Figure(const Declaration &declaration);
 
-    /// Writes what differs from what is there. Elements with a value that isn't finite are not drawn.
+    /// Writes what differs from what is there. Elements with a value that isn't finite, or that their attribute
+    /// doesn't take, are not drawn.
     void write(QZeSvgTinyDocument &document, ShapeState &state);
     /// Copies have the paints of what they are copies of.
     void copyPaints();
@@ -36,6 +37,8 @@ private:
     void writeRound(int index, int round, ShapeState &state);
     void writeElement(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state);
     bool writeAttributes(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state);
+    bool writeAttribute(const AttributeDeclaration &attribute, const Value &value, QZeSvgNode &node,
+                        ShapeState &state);
     bool writeLetters(const LettersDeclaration &letters, QZeSvgNode &node, ShapeState &state);
 
     const Declaration &m_declaration;

@@ -2,6 +2,8 @@
 
 #include <declared/core/declaredshape.h>
 
+#include <algorithm>
+
 namespace declared {
 
 namespace {
@@ -56,6 +58,18 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
             m_entries[size_t(i)].push_back(
                 std::make_unique<shapekit::Text>(entryKey(i, entry), property.entries.at(entry)));
     }
+}
+
+void ShapeKind::tell(const Message &message) const
+{
+    const auto isIt = [&](const Message &known) {
+        return known.code == message.code && known.line == message.line && known.column == message.column;
+    };
+    if (std::any_of(m_told.cbegin(), m_told.cend(), isIt))
+        return;
+    m_told.append(message);
+    if (m_listener)
+        m_listener(message);
 }
 
 QString ShapeKind::groupKey() const

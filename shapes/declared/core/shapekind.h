@@ -1,10 +1,12 @@
 #pragma once
 
 #include <declared/reader/declaration.h>
+#include <declared/reader/message.h>
 
 #include <shapekit/kind.h>
 #include <shapekit/text.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -25,6 +27,11 @@ public:
     QVector<const shapekit::Text *> entries(int property) const;
     /// In a language, else in English where that is wanted.
     QMap<QString, QString> texts(const QString &language) const;
+    /// Something that is wrong with a drawing of the shape, as values of the user have made it. The listener gets
+    /// the same message once.
+    void tell(const Message &message) const;
+    const QVector<Message> &told() const { return m_told; }
+    void setListener(const std::function<void(const Message &)> &listener) { m_listener = listener; }
     /// Of the text with the words that a search finds the shape by, besides its name.
     QString wordsKey() const { return m_kind.nameKey() + QStringLiteral("_WORDS"); }
 
@@ -34,6 +41,8 @@ private:
     QString entryKey(int property, int entry) const;
 
     SharedDeclaration m_declaration;
+    mutable QVector<Message> m_told;
+    std::function<void(const Message &)> m_listener;
     shapekit::Kind m_kind;
     std::vector<std::unique_ptr<shapekit::Text>> m_titles;
     std::vector<std::vector<std::unique_ptr<shapekit::Text>>> m_entries; ///< by property

@@ -82,7 +82,22 @@ Value ShapeState::valueOf(const Expression &expression)
 {
     if (!m_letsAreValid)
         evaluateLets();
-    return Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(expression);
+    const bool wasExhausted = m_budget.isExhausted;
+    const Value value = Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(expression);
+    if (m_budget.isExhausted && !wasExhausted)
+        note("C41", expression.place, QStringLiteral("the drawing takes too many steps, or too much text"));
+    else if (!value.isFinite() && !m_budget.isExhausted)
+        note("C40", expression.place, QStringLiteral("the value is not finite"));
+    return value;
+}
+
+void ShapeState::note(const char *code, Place place, const QString &text)
+{
+    const auto isIt = [&](const Message &message) {
+        return message.code == QLatin1String(code) && message.line == place.line && message.column == place.column;
+    };
+    if (std::none_of(m_notes.cbegin(), m_notes.cend(), isIt))
+        m_notes.append({Message::Warning, QLatin1String(code), place.line, place.column, text});
 }
 
 bool ShapeState::holds(const Expression &expression)

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <declared/reader/declaration.h>
+#include <declared/reader/message.h>
 
 #include <QtCore/QRectF>
+
+#include <utility>
 
 namespace declared {
 
@@ -25,6 +28,7 @@ public:
     void renewBudget() { m_budget = {}; }
     bool isExhausted() const { return m_budget.isExhausted; }
 
+    /// Notes an expression whose value isn't finite.
     Value valueOf(const Expression &expression);
     bool holds(const Expression &expression);
     /// `limits` with the ranges of a point instead, where it has any; what isn't finite doesn't limit.
@@ -36,6 +40,10 @@ public:
     /// The place on the other side of the middle, for a point that mirrors another one.
     QPointF mirrored(const PointDeclaration &point, QPointF centre) const;
 
+    /// Notes something that is wrong with a part of the present drawing; the same is noted once.
+    void note(const char *code, Place place, const QString &text);
+    QVector<Message> takeNotes() { return std::exchange(m_notes, {}); }
+
 private:
     void set(qint32 slot, const Value &value);
     void evaluateLets();
@@ -46,6 +54,7 @@ private:
     Inputs m_inputs;
     Budget m_budget;
     bool m_letsAreValid = false;
+    QVector<Message> m_notes;
 };
 
 } // namespace declared

@@ -4,6 +4,7 @@
 #include <declared/expressions/program.h>
 
 #include <QtCore/QHash>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <optional>
@@ -80,6 +81,8 @@ public:
     void setExtraNames(const QHash<QString, Symbol> &names) { m_extraNames = names; }
 
     const Fault &fault() const { return m_fault; }
+    /// Names of the file that some expression has mentioned.
+    const QSet<QString> &usedNames() const { return m_usedNames; }
 
 private:
     friend class Parser;
@@ -97,6 +100,7 @@ private:
     const Symbols &m_symbols;
     QHash<QString, Symbol> m_extraNames;
     QHash<QString, Instance> m_instances; ///< by function and types of its arguments
+    QSet<QString> m_usedNames;
     int m_functionDepth = 0;
     Fault m_fault;
 };

@@ -80,7 +80,7 @@ Expression Parser::finished(qint32 step)
 {
     std::sort(m_inputs.begin(), m_inputs.end());
     m_inputs.erase(std::unique(m_inputs.begin(), m_inputs.end()), m_inputs.end());
-    return {step, typeOf(step), m_inputs};
+    return {step, typeOf(step), m_inputs, {}};
 }
 
 bool Parser::atEnd()
@@ -338,6 +338,7 @@ qint32 Parser::named(const Token &name)
 
 qint32 Parser::variable(const Token &name, const Symbol &symbol)
 {
+    m_compiler.m_usedNames.insert(name.text);
     Step step;
     step.type = symbol.type;
     step.slot = symbol.slot;
@@ -408,6 +409,7 @@ qint32 Parser::listCount(const Token &name)
     const Symbol symbol = m_compiler.m_symbols.names.value(list.text);
     if (list.kind != Token::Name || symbol.kind != Symbol::List)
         return fail("C22", name.offset, QStringLiteral("\"count\" takes the name of a list"));
+    m_compiler.m_usedNames.insert(list.text);
     m_inputs.append(-1 - symbol.slot);
     Step step;
     step.operation = Operation::Count;
@@ -417,6 +419,7 @@ qint32 Parser::listCount(const Token &name)
 
 qint32 Parser::fileFunction(const Token &name, const Symbol &symbol, const QVector<qint32> &arguments)
 {
+    m_compiler.m_usedNames.insert(name.text);
     const Function &function = m_compiler.m_symbols.functions.at(symbol.slot);
     if (arguments.size() != function.parameters.size())
         return fail(

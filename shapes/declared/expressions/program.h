@@ -60,6 +60,7 @@ struct Expression
     qint32 step = -1; ///< negative: none
     Type type = Type::Number;
     QVector<qint32> inputs; ///< slots that it reads, in order; lists follow as -1 - slot
+    Place place;            ///< in the file
 
     bool isValid() const { return step >= 0; }
 };

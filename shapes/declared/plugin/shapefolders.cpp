@@ -88,6 +88,9 @@ std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, 
                 continue;
             }
             ids.insert(id);
+            kind->setListener([path = file.absoluteFilePath()](const Message &message) {
+                qWarning("%s", qPrintable(message.told(path)));
+            });
             kinds.push_back(std::move(kind));
         }
     }

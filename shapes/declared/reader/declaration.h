@@ -83,6 +83,7 @@ struct TrackDeclaration
 struct PointDeclaration
 {
     QPointF centre;
+    Place source; ///< in the file
     AxisDeclaration x;
     AxisDeclaration y;
     TrackDeclaration track;
@@ -111,6 +112,7 @@ struct LettersDeclaration
     double fixedX = 0;
     double fixedY = 0;
     double fixedSize = 16;
+    QString drawn;     ///< in the file
     double anchor = 0; ///< the part of the text's width that lies left of x
 };
 
@@ -118,6 +120,7 @@ struct LettersDeclaration
 struct ElementDeclaration
 {
     QString id;        ///< in the template
+    QVector<int> way;  ///< from the root of the file, by index of drawn child
     QVector<int> path; ///< for a part of a repeated element: the way from it, by index of child
     int repeat = -1;   ///< index of the repetition that it belongs to
     QVector<AttributeDeclaration> attributes;
@@ -138,6 +141,8 @@ struct RepeatDeclaration
 {
     QString id;
     QVector<LoopDeclaration> loops;
+    QVector<int> way;    ///< from the root of the file, by index of drawn child
+    int drawnRounds = 0; ///< children in the file
 };
 
 /// Slots of what every file knows.

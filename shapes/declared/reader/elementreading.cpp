@@ -121,6 +121,7 @@ void FileReader::readElement(int index, int repeat, const QVector<int> &path)
     ElementDeclaration declared;
     declared.repeat = repeat;
     declared.path = path;
+    declared.way = wayTo(index);
     declared.place = m_tree.placeOf(element.offset);
     TemplateElement written;
     bool isDeclared = false;
@@ -206,6 +207,8 @@ QString FileReader::inheritedValue(const Element &element, const char *name) con
 void FileReader::readLetters(const Element &element, ElementDeclaration &declared, TemplateElement &written)
 {
     LettersDeclaration &letters = declared.letters;
+    for (const SourceContent &content : element.contents)
+        letters.drawn += content.text;
     letters.fixedX = numberOr(element.value("x"), letters.fixedX);
     letters.fixedY = numberOr(element.value("y"), letters.fixedY);
     letters.fixedSize = numberOr(inheritedValue(element, "font-size"), letters.fixedSize);
@@ -255,6 +258,8 @@ void FileReader::readRepeat(int index)
     readElement(index, -1, {});
     m_written[index].hasOneChild = true;
     declared.id = group.value("id").isEmpty() ? m_written.value(index).id : group.value("id");
+    declared.way = wayTo(index);
+    declared.drawnRounds = children.size();
     m_shape.repeats.append(declared);
     m_compiler.setExtraNames(names);
     readRepeated(children.first(), m_shape.repeats.size() - 1, {});
@@ -262,6 +267,14 @@ void FileReader::readRepeat(int index)
     // The others only show what the first look is like.
     for (int i = 1; i < children.size(); ++i)
         m_done.insert(children.at(i));
+}
+
+QVector<int> FileReader::wayTo(int index) const
+{
+    QVector<int> way;
+    for (int parent = m_elements.at(index).parent; parent >= 0; parent = m_elements.at(index = parent).parent)
+        way.prepend(drawnChildren(m_elements.at(parent)).indexOf(index));
+    return way;
 }
 
 QVector<int> FileReader::drawnChildren(const Element &element) const

@@ -60,6 +60,7 @@ SharedDeclaration FileReader::read()
     checkReferences();
     if (isFaulty())
         return {};
+    checkUse();
     m_shape.templateText = templateText();
     m_shape.hash = hash();
     return m_declaration;
@@ -90,6 +91,26 @@ void FileReader::faultIn(const Attribute &attribute)
     const Fault &fault = m_compiler.fault();
     report(Message::Error, fault.code.toLatin1().constData(), m_tree.placeIn(attribute, fault.offset),
            fault.message);
+}
+
+void FileReader::locate(RangeExpression &range, Place place)
+{
+    locate(range.low, place);
+    locate(range.high, place);
+}
+
+void FileReader::locate(CallExpression &call, Place place)
+{
+    for (Expression &argument : call.arguments)
+        locate(argument, place);
+}
+
+void FileReader::locate(QVector<LoopExpression> &loops, Place place)
+{
+    for (LoopExpression &loop : loops) {
+        locate(loop.from, place);
+        locate(loop.to, place);
+    }
 }
 
 bool FileReader::isFaulty() const
@@ -233,6 +254,22 @@ void FileReader::checkReference(const Attribute &attribute, const QString &id, i
         error("C44", attribute,
               QStringLiteral("there is no element with the id \"%1\"%2").arg(id, suggestion(id, m_ids.keys())),
               offset);
+}
+
+/// Warns of what has no effect, or leaves the shape without one.
+void FileReader::checkUse()
+{
+    for (const auto &defined : qAsConst(m_defined))
+        if (!m_compiler.usedNames().contains(defined.first))
+            report(Message::Warning, "C46", m_tree.placeIn(*defined.second, 0),
+                   QStringLiteral("\"%1\" is never used").arg(defined.first));
+    const auto isFigure = [](const QString &id) {
+        return id == QLatin1String("figure") || id.startsWith(QLatin1String("figure_"));
+    };
+    const QStringList ids = m_ids.keys();
+    if (std::none_of(ids.begin(), ids.end(), isFigure))
+        warning("C52", m_elements.first(),
+                QStringLiteral("no element has the id \"figure\", which is the outline that is hit and filled"));
 }
 
 /// Links to elements of the file, and paints and effects that are found by their id.

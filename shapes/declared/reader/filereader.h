@@ -49,12 +49,18 @@ private:
     /// Takes what the compiler made of an attribute; false, with its fault told, when there is nothing.
     template<class Result> bool take(std::optional<Result> compiled, Result &result, const Attribute &attribute)
     {
-        if (compiled)
+        if (compiled) {
             result = *compiled;
-        else
+            locate(result, m_tree.placeIn(attribute, 0));
+        } else {
             faultIn(attribute);
+        }
         return compiled.has_value();
     }
+    static void locate(Expression &expression, Place place) { expression.place = place; }
+    static void locate(RangeExpression &range, Place place);
+    static void locate(CallExpression &call, Place place);
+    static void locate(QVector<LoopExpression> &loops, Place place);
     /// @}
 
     /// @name Attributes
@@ -80,6 +86,7 @@ private:
     void readSuccession(const Element &about);
     void checkElements();
     void checkReferences();
+    void checkUse();
     void checkReference(const Attribute &attribute, const QString &id, int offset);
 
     void defineFixedNames();
@@ -132,6 +139,8 @@ private:
     void readRepeat(int index);
     void readRepeated(int index, int repeat, const QVector<int> &path);
     bool isDrawn(const Element &element) const;
+    /// The way from the root to an element, by index of drawn child.
+    QVector<int> wayTo(int index) const;
     /// The elements in an element that are drawn, without definitions and titles.
     QVector<int> drawnChildren(const Element &element) const;
     QString inheritedValue(const Element &element, const char *name) const;
@@ -154,11 +163,12 @@ private:
     Declaration &m_shape;
     Symbols m_symbols;
     Compiler m_compiler;
-    QHash<QString, int> m_ids;             ///< elements by id
-    QVector<int> m_points;                 ///< elements of the control points, by index
-    QHash<qint32, quint32> m_pointsOfSlot; ///< a bit for each point that a value depends on
-    QMap<int, TemplateElement> m_written;  ///< by element
-    QSet<int> m_done;                      ///< elements whose declarations are read
+    QHash<QString, int> m_ids;                            ///< elements by id
+    QVector<QPair<QString, const Attribute *>> m_defined; ///< names of the file
+    QVector<int> m_points;                                ///< elements of the control points, by index
+    QHash<qint32, quint32> m_pointsOfSlot;                ///< a bit for each point that a value depends on
+    QMap<int, TemplateElement> m_written;                 ///< by element
+    QSet<int> m_done;                                     ///< elements whose declarations are read
 };
 
 } // namespace declared

@@ -60,6 +60,7 @@ bool FileReader::define(const QString &name, const Attribute &attribute, const S
         return false;
     }
     m_symbols.names.insert(name, symbol);
+    m_defined.append({name, &attribute});
     return true;
 }
 

@@ -106,6 +106,7 @@ void FileReader::readPoint(const Element &element, int number)
     for (int i = m_points.at(number - 1); i >= 0; i = m_elements.at(i).parent)
         if (m_elements.at(i).attribute(QStringLiteral("transform")))
             error("C10", element, QStringLiteral("a control point lies inside of no transform"));
+    point.source = m_tree.placeOf(element.offset);
     point.centre = {values[0] + values[2] / 2, values[1] + values[3] / 2};
     for (const Attribute &attribute : element.attributes) {
         if (attribute.namespaceUri == shapeNamespace && !pointAttributes.contains(attribute.name))

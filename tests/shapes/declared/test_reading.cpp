@@ -43,7 +43,7 @@ private Q_SLOTS:
 void TestReading::smallestFileIsAShape()
 {
     QVector<Message> messages;
-    const SharedDeclaration shape = readOf(fileOf(""), &messages);
+    const SharedDeclaration shape = readOf(fileOf("<path id='figure'/>"), &messages);
     QVERIFY(shape);
     QVERIFY(messages.isEmpty());
     QCOMPARE(shape->id, QStringLiteral("nut"));
@@ -318,7 +318,7 @@ void TestReading::hashTellsFilesApart()
 void TestReading::missingEnglishIsAWarning()
 {
     QVector<Message> messages;
-    QVERIFY(readOf(declaredtest::fileAbout("name.de='Mutter'", ""), &messages));
+    QVERIFY(readOf(declaredtest::fileAbout("name.de='Mutter'", "<path id='figure'/>"), &messages));
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages.first().code, QStringLiteral("C48"));
     QVERIFY(messages.first().severity == Message::Warning);
