@@ -9,7 +9,7 @@
 class CBaseObject;
 class QDataStream;
 
-/// One host attribute of one object changed.
+/// A change of one host attribute of one object.
 class AttributeCommand : public CWbUndoCmd
 {
 public:
@@ -30,7 +30,8 @@ private:
     int m_id;
     QByteArray m_before;
     QByteArray m_after;
-    /// Places and sizes are put back by snapshot: turning moves the item, a kept aspect ratio changes both sides.
+    /// Position and size are restored from a snapshot: rotating moves the item, and a kept aspect ratio changes
+    /// both sides.
     pagehost::GeometrySnapshot m_placeBefore;
     pagehost::GeometrySnapshot m_placeAfter;
     bool m_applied = true;

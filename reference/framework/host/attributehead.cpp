@@ -10,7 +10,7 @@ namespace pagehost {
 
 namespace {
 
-/// Bytes that are something else seldom make text that can be printed.
+/// Unrelated bytes rarely form printable text.
 bool isName(const QString &text)
 {
     return !text.isEmpty() &&

@@ -17,17 +17,17 @@ namespace pagehost {
 
 namespace {
 
-constexpr int intRangeBytes = 3 * 4 + 4;  // minimum, maximum, step and the value
+constexpr int intRangeBytes = 3 * 4 + 4;  // minimum, maximum, step and value
 constexpr int realRangeBytes = 3 * 8 + 8; // the same as doubles
 constexpr qint32 textList = 0;
-constexpr qint32 iconList = 2; // its entries carry a pixmap behind the text
+constexpr qint32 iconList = 2; // each entry has a pixmap after its text
 constexpr qint32 mostEntries = 1000;
 constexpr int mostIconPixels = 1024;
 
 using Kind = AttributeDescription::Kind;
 using Reading = std::optional<AttributeDescription>;
 
-/// A stream over bytes that knows how many are left.
+/// A stream over bytes that knows how many remain.
 class Reader
 {
 public:
@@ -49,10 +49,10 @@ private:
     QDataStream m_stream;
 };
 
-/// A pixmap is a marker and a PNG file, whose header says how much memory it would take.
+/// A pixmap is a marker and a PNG file, whose header tells how much memory it takes.
 bool isModestPixmap(const QByteArray &bytes)
 {
-    constexpr int widthAt = 4 + 16; // behind the marker, the PNG signature and the head of its first chunk
+    constexpr int widthAt = 4 + 16; // after the marker, the PNG signature and the head of its first chunk
     constexpr int heightAt = widthAt + 4;
     if (bytes.size() < 4 || qFromBigEndian<qint32>(bytes.constData()) == 0)
         return true;
@@ -86,14 +86,14 @@ Reading readList(AttributeDescription attribute, const QByteArray &bytes)
     return in.isAtEnd() ? Reading(attribute) : Reading();
 }
 
-/// Gradients and textures need not have a colour, and one of no brush is not seen.
+/// Gradients and textures need no colour, and the colour of an empty brush is not visible.
 QColor shownColor(Qt::BrushStyle style, const QColor &color)
 {
     const bool isColorless = style >= Qt::LinearGradientPattern && !color.isValid();
     return style == Qt::NoBrush || isColorless ? QColor(Qt::transparent) : color;
 }
 
-/// Of a brush only the colour is read: its gradient or texture is the object's own, and could be anything.
+/// Read only the colour of a brush: its gradient or texture belongs to the object and may be anything.
 Reading readPaint(AttributeDescription attribute, const QByteArray &bytes)
 {
     const bool isBrush = bytes.size() > streamedColorBytes;
@@ -132,7 +132,7 @@ Reading readRange(const AttributeDescription &attribute, const QByteArray &bytes
     return isReal ? readRangeOf<double>(attribute, AttributeDescription::RealRange, bytes) : Reading();
 }
 
-/// Numbers without a range have no editor code; their size tells the type.
+/// Numbers without a range have no editor code; their size gives the type.
 Reading readPlainNumber(AttributeDescription attribute, const QByteArray &bytes)
 {
     Reader in(bytes);
@@ -203,7 +203,7 @@ QByteArray rangeBytes(const AttributeDescription &attribute)
                : payloadOf(range.minimum, range.maximum, range.step);
 }
 
-/// Nothing for plain numbers.
+/// Empty for numbers without a range.
 std::optional<qint32> codeOf(Kind kind)
 {
     switch (kind) {
@@ -232,7 +232,7 @@ std::optional<AttributeDescription> readAttribute(int id, const QByteArray &byte
         if (const Reading reading = readCoded(id, *head))
             return reading;
     }
-    // Without a code the name stands where the code would.
+    // Without a code, the name stands in its place.
     const auto plain = readPlainHead(id, bytes);
     return plain ? readPlainNumber(descriptionOf(id, *plain), plain->value) : Reading();
 }
@@ -278,7 +278,7 @@ QByteArray attributeAnswer(const AttributeDescription &attribute, const QVariant
 
 bool giveAttribute(CBaseObject *object, int id, const QByteArray &answer, bool record)
 {
-    // Objects may write over the value that they took.
+    // Objects may modify the value that they are passed.
     QBuffer buffer;
     buffer.setData(answer);
     buffer.open(QIODevice::ReadWrite);

@@ -18,13 +18,13 @@
 
 namespace {
 
-/// Host type of an object whose class does not give one of its own.
+/// Host type of objects whose class gives none.
 constexpr int plainObjectType = 1000;
-/// Room for the pictures of a large screen full of objects, KB. Qt's own 10 MB are less than a window of small
-/// objects takes; views would then paint every object anew each time.
+/// Room for the pictures of a large screen full of objects, KB. Qt's default of 10 MB is less than a window of
+/// small objects needs; views would then repaint every object each time.
 constexpr int pictureRoom = 64 * 1024;
 
-/// Closer to whole pixels than this, a kept picture shows a moved object as it is.
+/// Largest distance from whole pixels, in pixels, at which a cached picture still shows a moved object exactly.
 constexpr double pixelTolerance = 1e-3;
 
 bool isWhole(double pixels)
@@ -32,8 +32,8 @@ bool isWhole(double pixels)
     return std::abs(pixels - std::round(pixels)) < pixelTolerance;
 }
 
-/// Whether a kept picture of the object can be shown elsewhere: its edges lie between pixels as they did. `delta`
-/// in scene units.
+/// Whether a cached picture of the object can be shown elsewhere: its edges keep their position between pixels.
+/// `delta` in scene units.
 bool movesByWholePixels(const CBaseObject &object, const QPointF &delta)
 {
     const QList<QGraphicsView *> views = object.scene() ? object.scene()->views() : QList<QGraphicsView *>();
@@ -59,7 +59,7 @@ CBaseObject::CBaseObject(int kind, bool selectable, QGraphicsItem *parent, IPsPa
 {
     setFlag(ItemIsSelectable, selectable);
     setFlag(ItemSendsGeometryChanges);
-    // Views keep a picture of each object and paint it anew after update(): an untouched page costs next to
+    // Views cache a picture of each object and repaint it after update(), so an untouched page costs next to
     // nothing.
     setCacheMode(DeviceCoordinateCache);
     makeRoomForPictures();

@@ -21,7 +21,7 @@ QColor withAlpha(QColor color, int alpha)
     return color;
 }
 
-/// A line through the middle of `rect` at `angle` degrees, as long as the rectangle is in that direction.
+/// A line through the middle of `rect` at `angle` degrees, as long as the rectangle's extent in that direction.
 QLinearGradient gradientAcross(const QRectF &rect, double angle)
 {
     const double turn = angle * degreesToRadians;

@@ -21,7 +21,7 @@ QByteArray toPng(const QPixmap &picture)
     return bytes;
 }
 
-/// Null for data that is no acceptable picture.
+/// Null for data that is not an acceptable picture.
 QPixmap fromPng(const QByteArray &bytes)
 {
     return bytes.isEmpty() ? QPixmap() : QPixmap::fromImage(pngPicture(bytes));

@@ -11,8 +11,8 @@ namespace {
 
 struct Groups
 {
-    QStringList waiting; ///< titles of begun groups that hold no command yet
-    int opened = 0;      ///< groups that are macros on the stack
+    QStringList waiting; ///< titles of open groups without a command yet
+    int opened = 0;      ///< open groups that are macros on the stack
 };
 
 Groups &groups()
@@ -89,7 +89,7 @@ void UndoCapture::take(CWbUndoCmd *command)
 
 CUndoRedo *CUndoRedo::GetInstance()
 {
-    // Never destroyed: commands may refer to objects that go before static destructors run.
+    // Never destroyed: commands may refer to objects that are deleted before static destructors run.
     static auto *instance = new CUndoRedo;
     return instance;
 }

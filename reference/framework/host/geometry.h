@@ -4,14 +4,14 @@
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
 
-/// The longest side of an object, item units. Objects keep a picture with a pixel to the unit for other threads: a
+/// The longest side of an object, item units. Objects keep a picture with one pixel per unit for other threads; a
 /// square of this side takes 1 GiB.
 constexpr double longestSide = 16384;
-/// `size` with each side brought into 0 to longestSide.
+/// `size` with each side limited to 0 to longestSide.
 QSizeF possibleSize(const QSizeF &size);
-/// Degrees brought into 0 to 360, 360 excluded.
+/// Degrees normalised to 0 to 360, 360 excluded.
 double normalizedDegrees(double degrees);
-/// A vector of item coordinates as the item's rotation turns it.
+/// A vector in item coordinates, turned by the item's rotation.
 QPointF rotated(const QPointF &vector, double degrees);
 bool isFinite(const QPointF &point);
 bool isFinite(const QSizeF &size);

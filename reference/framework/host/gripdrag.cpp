@@ -56,7 +56,7 @@ double angleOf(const QPointF &vector)
     return std::atan2(vector.y(), vector.x()) * radiansToDegrees;
 }
 
-/// The corner or side of a client rectangle of this size that a handle leaves where it is, item coordinates.
+/// The corner or side of a client rectangle of this size that a handle keeps in place, item coordinates.
 QPointF fixedPoint(CObjAction::ACT_Def handle, const QSizeF &size)
 {
     const QPointF side(HandleLayout::side(handle));
@@ -135,7 +135,7 @@ void GripDrag::resize(const QPointF &scenePos)
     const QSizeF wanted(start().size().width() + side.x() * way.x(), start().size().height() + side.y() * way.y());
     m_object.setSize(possibleSize(wanted).expandedTo({smallestSide, smallestSide}), true, false);
 
-    // Only now is it known what size the object made of it.
+    // The object may have chosen another size.
     const QPointF shift =
         fixedPoint(m_action, start().size()) - fixedPoint(m_action, m_object.getClientRect().size());
     m_object.CPSRootObject::setPos(start().pos() + rotated(shift, start().rotation()), true);

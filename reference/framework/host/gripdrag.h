@@ -10,24 +10,25 @@
 class CBaseObject;
 class QGraphicsSceneMouseEvent;
 
-/// One drag of a page object by hand, from press to release: moving the selection, or a handle of one object.
+/// One drag of a page object by hand, from press to release: it moves the selection or a handle of one object.
 ///
-/// Every step starts from the snapshots of the press, so that nothing adds up and a cancelled drag leaves no trace.
+/// Every step starts from the snapshots of the press, so that errors don't accumulate and a cancelled drag leaves
+/// no trace.
 class GripDrag
 {
 public:
-    /// `object` is the one that was pressed. `selectsAlone` makes a press without a drag select only it.
+    /// `object` is the pressed one. `selectsAlone`: a press without a drag selects only it.
     GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
              bool selectsAlone);
 
-    /// The drag that runs with the object; null when none does.
+    /// The running drag of the object; null without one.
     static GripDrag *running(CBaseObject &object);
-    /// Ends it, with the object where it is.
+    /// Ends it and leaves the object where it is.
     static void forget(CBaseObject &object);
 
     CObjAction::ACT_Def action() const { return m_action; }
     void moveTo(const QGraphicsSceneMouseEvent &event);
-    /// Ends the drag: one undo step when something changed.
+    /// Ends the drag, with one undo step when something has changed.
     void finish(const QGraphicsSceneMouseEvent &event);
     void cancel();
 
@@ -42,7 +43,7 @@ private:
     CBaseObject &m_object;
     CObjAction::ACT_Def m_action;
     QPointF m_press;    ///< scene coordinates
-    double m_threshold; ///< scene units that the mouse must leave the press by
+    double m_threshold; ///< distance of the mouse from the press that starts the drag, scene units
     bool m_selectsAlone;
     bool m_moved = false;
     QVector<pagehost::GeometrySnapshot> m_before;

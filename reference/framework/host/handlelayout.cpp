@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Objects smaller than this on screen keep their inside for themselves.
+/// On objects smaller than this on screen, presses inside go to the object.
 constexpr double smallObjectPixels = 3 * HandleLayout::hitRadiusPixels;
 
 double distance(const QPointF &from, const QPointF &to)

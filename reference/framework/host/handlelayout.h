@@ -8,12 +8,12 @@
 
 class CPSRootObject;
 
-/// Where the handles of a selected object stand: around its client rectangle, in item coordinates, at distances
+/// Positions of the handles of a selected object: around its client rectangle, in item coordinates, at distances
 /// that are constant on screen.
 class HandleLayout
 {
 public:
-    /// `zoom` is scene units to screen pixels.
+    /// `zoom`: screen pixels per scene unit.
     HandleLayout(const QRectF &clientRect, double zoom);
 
     /// All handles in drawing order.
@@ -24,20 +24,20 @@ public:
 
     /// Centre of a handle, item coordinates.
     QPointF position(CObjAction::ACT_Def handle) const;
-    /// The handle whose hit area holds `itemPos`, the nearest when several do; ACT_None when none does. Inside a
-    /// small object, the body wins, so that it can be moved.
+    /// The handle whose hit area contains `itemPos`, the nearest of several; ACT_None without one. Inside a small
+    /// object the body wins, so that it can be moved.
     CObjAction::ACT_Def hit(const QPointF &itemPos, const QVector<CObjAction::ACT_Def> &enabled) const;
-    /// The frame that is drawn around the object, item coordinates.
+    /// The frame drawn around the object, item coordinates.
     QRectF frame() const;
-    /// Everything that belongs to the object's editing aids, item coordinates.
+    /// Bounds of the object's editing aids, item coordinates.
     QRectF bounds() const;
-    /// Item units of a length in screen pixels.
+    /// A length in screen pixels, in item units.
     double fromPixels(double pixels) const { return pixels / m_zoom; }
 
     static constexpr double handlePixels = 9;        ///< side or diameter of a drawn handle
-    static constexpr double hitRadiusPixels = 12;    ///< a handle answers this far around its centre
-    static constexpr double frameMarginPixels = 6;   ///< frame to client rectangle
-    static constexpr double stemPixels = 26;         ///< frame to the rotation and mirror handles
+    static constexpr double hitRadiusPixels = 12;    ///< radius of a handle's hit area
+    static constexpr double frameMarginPixels = 6;   ///< distance of the frame from the client rectangle
+    static constexpr double stemPixels = 26;         ///< distance of the rotation and mirror handles from the frame
     static constexpr double controlPointPixels = 50; ///< largest control point on screen
 
 private:

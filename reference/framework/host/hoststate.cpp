@@ -36,7 +36,7 @@ QJsonArray numbers(std::initializer_list<double> values)
     return array;
 }
 
-/// An empty name and none are the same to everybody but the stream.
+/// Empty and null names differ only on the stream.
 QString storedName(const QString &name)
 {
     return name.isEmpty() ? QString() : name;

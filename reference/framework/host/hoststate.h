@@ -8,8 +8,8 @@ class CBaseObject;
 class QDataStream;
 class QJsonObject;
 
-/// Saved data of every object, besides its fill and its own. A stream holds the fields in their order, JSON the
-/// same facts by name.
+/// Saved data of every object, apart from its fill and that of its class. A stream has the fields in their order,
+/// JSON has them by name.
 struct HostState
 {
     QString name;
@@ -27,17 +27,17 @@ struct HostState
     bool locked = false;
 
     static HostState of(CBaseObject &object);
-    /// Whether an object can be like that. Damaged data may hold any numbers.
+    /// Whether an object can have this state. Damaged data may contain any numbers.
     bool isPlausible() const;
 
     void write(QJsonObject &object) const;
-    /// Missing and mistyped members keep what the state holds. False for a pen colour that is no colour.
+    /// Missing and mistyped members keep their present value. False for an invalid pen colour.
     bool read(const QJsonObject &object);
 };
 
 QDataStream &operator<<(QDataStream &out, const HostState &state);
 QDataStream &operator>>(QDataStream &in, HostState &state);
 
-/// The client size that an object has saved; empty when the data do not begin with one.
+/// The client size in an object's saved data; empty when the data doesn't begin with one.
 QSizeF savedClientSize(QDataStream &in);
 QSizeF savedClientSize(const QJsonObject &object);

@@ -2,7 +2,7 @@
 
 #include <pagehost/objectplugin.h>
 
-/// The texts of the library and of this host.
+/// Texts of the library and of this host.
 namespace hosttexts {
 
 pagehost::TextTable english();

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Stands in until the application has created a document: editing, unblocked, at zoom 1.
+/// Used until the application has created a document: editing, unblocked, at zoom 1.
 class BuiltInDocument : public IDocument
 {
 public:

@@ -14,7 +14,7 @@ const QString &english()
 
 const QLatin1String keyPrefix("IDS_");
 
-/// The key without its prefix, as words.
+/// The key as words, without its prefix.
 QString wordsOf(const QString &key)
 {
     QString words = key.mid(keyPrefix.size()).replace(QLatin1Char('_'), QLatin1Char(' ')).simplified().toLower();

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// How far lines and labels may reach beyond the client rectangle of an object that does not say so, item units.
+/// Margin for lines and labels beyond the client rectangle of an object that gives no painted area, item units.
 constexpr double overhang = 8;
 
 /// The object's answer to pagehost::PaintedArea; empty without an answer, or for one that is not a rectangle.
@@ -78,11 +78,11 @@ QRectF ObjectBounds::wanted(CBaseObject &object)
     if (m_paintedArea->isEmpty()) {
         const double margin = m_regionIsStale ? overhang : 0;
         bounds.adjust(-margin, -margin, margin, margin);
-        // Of another look perhaps, but still the best that is known.
+        // It may show an earlier look, but is the best one known.
         const QPainterPath *region = object.getRegionPath();
         bounds = region ? bounds.united(region->controlPointRect()) : bounds;
     }
-    // Control points may stand half outside, whatever their size on screen.
+    // Control points may extend beyond the rectangle by half their size, whatever that is on screen.
     const double reach = object.isSelected() ? HandleLayout::controlPointPixels : 1;
     const double margin = HandleLayout(object.getClientRect(), object.getCurZoomRate()).fromPixels(reach);
     return bounds.adjusted(-margin, -margin, margin, margin);

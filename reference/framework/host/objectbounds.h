@@ -8,24 +8,24 @@
 class CBaseObject;
 class QPainterPath;
 
-/// How far an object reaches, item coordinates: the bounding rectangle that the scene knows, and whether the region
-/// is of the present size and look. Every operation takes the object that owns the bounds.
+/// Bounds of an object, item coordinates: the bounding rectangle that the scene knows, and whether the region
+/// matches the present size and look. Every operation takes the object that owns the bounds.
 class ObjectBounds
 {
 public:
-    /// The bounding rectangle of now.
+    /// The current bounding rectangle.
     QRectF rectangle(CBaseObject &object);
-    /// The region of now; empty when the object has none of its own.
+    /// The current region; empty when the object has none.
     QPainterPath region(CBaseObject &object);
 
-    /// Works the bounding rectangle out from client rectangle, region and editing aids; outside of a scene it waits
-    /// until somebody asks for it. True when it is another one than before; `aboutToChange` runs before it is.
+    /// Computes the bounding rectangle from client rectangle, region and editing aids; outside of a scene only when
+    /// it is asked for. True when it has changed; `aboutToChange` runs before that.
     bool refresh(CBaseObject &object, const std::function<void()> &aboutToChange);
-    /// The object may answer otherwise to pagehost::PaintedArea.
+    /// The object's answer to pagehost::PaintedArea may have changed.
     void dropPaintedArea() { m_paintedArea.reset(); }
-    /// Size or look have changed. Making a region is expensive: it waits until somebody asks for it.
+    /// Size or look have changed. Making a region is expensive and waits until it is asked for.
     void dropRegion();
-    /// The object has made its region anew.
+    /// The object has made a new region.
     void takeRegion() { m_regionIsStale = false; }
 
 private:
@@ -34,7 +34,7 @@ private:
     QRectF m_rectangle; ///< as the scene knows it
     bool m_rectangleIsStale = false;
     bool m_regionIsStale = false;
-    /// Whoever asks for the region may be looking through the scene, which must not be rearranged then.
+    /// The caller may be in the middle of a search of the scene, which must not be rearranged then.
     bool m_isFixed = false;
     /// The object's answer to pagehost::PaintedArea; null before asking, empty without an answer.
     std::optional<QRectF> m_paintedArea;

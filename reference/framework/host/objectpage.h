@@ -9,19 +9,19 @@ class Page;
 class PageScene;
 } // namespace pagehost
 
-/// Where an object stands, and who is told of its changes.
+/// The page of an object and notification of its changes.
 
-/// The page to tell of the object's changes.
+/// The page that is notified of the object's changes.
 pagehost::Page *pageOf(const CPSRootObject &object);
-/// The scene that shows the object when it is a page's.
+/// The scene that shows the object, if it is a page's.
 pagehost::PageScene *pageSceneOf(const CPSRootObject &object);
-/// The document of the object's page, else the current one; null when there is none at all.
+/// The document of the object's page, else the current one; null without either.
 IDocument *documentOf(const CPSRootObject &object);
 bool isEditingBlocked(const CPSRootObject &object);
-/// Makes the object the only selected one of the scene that it is in.
+/// Makes the object the only selected one of its scene.
 void selectAlone(CBaseObject &object);
 
-/// Tells the page of a change of what it shows.
+/// Notifies the page of a visible change.
 void noteChange(CPSRootObject &object);
-/// Of what is saved, but not shown.
+/// Notifies the page of a change that is saved but not visible.
 void noteInvisibleChange(CPSRootObject &object);

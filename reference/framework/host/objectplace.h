@@ -5,12 +5,12 @@
 
 class CPSRootObject;
 
-/// Place and size of an object past its virtual operations: exactly what is given, and nothing recorded.
+/// Sets position and size of an object without its virtual operations: exactly the given values, unrecorded.
 
-/// Position of the item's origin and rotation, as its parent has them.
+/// Position of the item's origin and rotation, in its parent's coordinates.
 void placeItem(CPSRootObject &object, const QPointF &pos, double degrees);
 void assignClientRect(CPSRootObject &object, const QRectF &rect);
-/// The client rectangle's corner stays.
+/// The corner of the client rectangle stays.
 void assignClientSize(CPSRootObject &object, const QSizeF &size);
 /// Something that the bounding rectangle depends on has changed.
 void refreshBounds(CPSRootObject &object);

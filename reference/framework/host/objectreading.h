@@ -6,22 +6,22 @@ class CBaseObject;
 class CPSRootObject;
 class IPsPage;
 
-/// Lets an object know its page while it is read, without the page being told of what it reads.
+/// Gives an object access to its page while it is read, without notifying the page of changes.
 class ObjectReading
 {
 public:
     ObjectReading(CBaseObject &object, IPsPage *page);
-    /// The object is on no page again.
+    /// Detaches the object from the page again.
     ~ObjectReading();
     Q_DISABLE_COPY(ObjectReading)
 
-    /// Whether the host's part of the object found its data bad. Objects may forget to say so and answer for their
-    /// own data alone.
+    /// Whether the host's part of the object found its data bad. Objects may forget to report this and answer for
+    /// their own data alone.
     bool wasRefused() const;
 
 private:
     CBaseObject &m_object;
 };
 
-/// Zoom that the object followed last, and that it has sized parts of itself for.
+/// The zoom that the object followed last, and sized its zoom-dependent parts for.
 double followedZoom(const CPSRootObject &object);

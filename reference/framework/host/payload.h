@@ -3,7 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QDataStream>
 
-/// Values one after another, each as QDataStream writes it in its default version.
+/// Values one after another, each written by QDataStream in its default version.
 template<typename... Values> QByteArray payloadOf(const Values &...values)
 {
     QByteArray bytes;

@@ -6,15 +6,15 @@
 
 class CBaseObject;
 
-/// Tells the pictures of what moves in an object from changes of the object: as long as an object that plays saves
-/// the same, only its picture is another one.
+/// Distinguishes frames of an animation from changes of the object: a playing object whose saved state stays the
+/// same has only a new picture.
 class PlayedState
 {
 public:
-    /// The object plays what moves in it from now on.
+    /// The object plays its animation from now on.
     void begin(CBaseObject &object);
     void end() { m_saved.reset(); }
-    /// Whether a new look of the object is only its next picture, which is no change of the page.
+    /// Whether a new look of the object is only the next frame, not a change of the page.
     bool isNextPicture(CBaseObject &object);
 
 private:

@@ -3,5 +3,5 @@
 #include <QtCore/QByteArray>
 #include <QtGui/QImage>
 
-/// Null for data that is no picture, or one beyond 2^26 pixels: compressed data can claim any size.
+/// Null for data that is not a picture, or for one of more than 2^26 pixels: compressed data can claim any size.
 QImage pngPicture(const QByteArray &png);

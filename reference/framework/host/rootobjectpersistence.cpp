@@ -8,7 +8,8 @@
 
 namespace {
 
-/// Reads the stream format and applies all but the stacking number; false, with nothing changed, for bad data.
+/// Reads the stream format and applies everything except the stacking number; false, with nothing changed, for bad
+/// data.
 bool readState(CPSRootObject &object, QDataStream &in, HostState &state)
 {
     CPageBgProp fill(*object.getFillProp());
@@ -72,7 +73,7 @@ bool CPSRootObject::SavePropertyForPlayback(QDataStream &out)
 
 bool CPSRootObject::LoadPropertyForPlayback(QDataStream &in)
 {
-    // Not the place in stacking order: that belongs to the page and may be another one by now.
+    // Not the stacking order, which belongs to the page and may have changed meanwhile.
     HostState state;
     return readState(*this, in, state);
 }

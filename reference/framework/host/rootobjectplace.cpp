@@ -99,7 +99,7 @@ void CPSRootObject::setFillProp(CPageBgProp *prop, bool record)
         return;
     const bool keepsPresent = isColorOnly(*prop) && showsMoreThanColor(*fillProp) && sameColor(*prop, *fillProp);
     if (!keepsPresent) {
-        // A copy: it may be the object's own.
+        // A copy, since the argument may be the object's own rectangle.
         d->setFill(CPageBgProp(*prop));
     }
     update();

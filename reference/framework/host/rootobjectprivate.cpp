@@ -8,7 +8,7 @@
 
 namespace {
 
-/// To the last bit, unlike QRectF's own comparison.
+/// Compares exactly, unlike QRectF.
 bool isIdentical(const QRectF &a, const QRectF &b)
 {
     return a.x() == b.x() && a.y() == b.y() && a.width() == b.width() && a.height() == b.height();
@@ -38,7 +38,7 @@ void CPSRootObjectPrivate::dropRegion()
 void CPSRootObjectPrivate::dropPicture()
 {
     if (item && !isPainting) {
-        // Setting the mode, even to what it is, makes Qt forget.
+        // Setting the mode, even to its present value, makes Qt discard the picture.
         item->setCacheMode(item->cacheMode());
     }
 }

@@ -10,8 +10,8 @@
 class GripDrag;
 struct HostState;
 
-/// The host's private data of a page object: a few values, each with a header that says what it is for. Only files
-/// of this folder look in here; others ask objectpage.h, objectplace.h, objectreading.h, objectplaying.h and
+/// The host's private data of a page object: a few values, each declared and explained in its own header. Only
+/// files of this folder use it; others use objectpage.h, objectplace.h, objectreading.h, objectplaying.h and
 /// gripdrag.h.
 class CPSRootObjectPrivate
 {
@@ -24,37 +24,37 @@ public:
 
     QGraphicsItem *item;
     IPsPage *page;
-    /// A bit per CObjAction::ACT_Def.
+    /// One bit for each CObjAction::ACT_Def.
     quint32 disabledHandles = 0;
     int subType = 0;
     bool locked = false;
     /// The last load() or loadJson() of the base class found its data bad.
     bool refusedState = false;
-    /// The object takes its state from saved data. It knows its page already, which is not told of it yet.
+    /// The object is being loaded. It knows its page already, which is not notified yet.
     bool isBeingRead = false;
-    /// A view is painting the object into the picture that it will keep; there is none to forget.
+    /// A view is painting the object into its cached picture; there is none to discard.
     bool isPainting = false;
-    /// Zoom that the object followed last: objects may size parts of theirs in pixels, and save them so.
+    /// The zoom that the object followed last: objects may size parts of themselves in pixels, and save those
+    /// sizes.
     double followedZoom = 1;
     ObjectBounds bounds;
     PlayedState played;
     std::unique_ptr<GripDrag> drag;
 
-    /// Brings the bounds up to date, and the pictures that views keep with them.
+    /// Updates the bounds and the pictures that views cache with them.
     void refreshBounds();
     void dropPaintedArea();
     void dropRegion();
-    /// Lets views forget the pictures that they keep of the object. A repaint that Qt is asked for is not enough:
-    /// of an object that is larger than the view, it takes over what the old picture shows of the view's area and
-    /// paints only what was scrolled into it.
+    /// Makes views discard their cached pictures of the object. A repaint request to Qt is not enough: for an
+    /// object larger than the view, Qt reuses the part of the old picture inside the view and paints only what was
+    /// scrolled in.
     void dropPicture();
 
-    /// @name Protected members of the object, with what follows from them
-    /// @{
+    /// @name Protected members of the object, with their consequences @{
     void setClientRect(const QRectF &rect);
     void setFill(const CPageBgProp &fill);
     void setPenWidth(double width);
-    /// Everything but the stacking number.
+    /// Everything except the stacking number.
     void setState(const HostState &state);
     /// @}
 

@@ -20,7 +20,7 @@ QJsonArray toArray(const QList<QString> &texts)
     return QJsonArray::fromStringList(QStringList(texts));
 }
 
-/// Null text for values that no control gives.
+/// Null text for a value that no control sends.
 QString answerText(const QJsonValue &value)
 {
     if (value.isString())

@@ -7,9 +7,9 @@ class CPageBgProp;
 
 namespace pagehost {
 
-/// The bytes that the object saves.
+/// The object's saved bytes.
 QByteArray savedData(CBaseObject &object);
-/// The bytes that the fill saves.
+/// The saved bytes of the fill.
 QByteArray savedData(const CPageBgProp &fill);
 
 } // namespace pagehost

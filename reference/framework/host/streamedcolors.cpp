@@ -9,8 +9,7 @@ namespace pagehost {
 namespace {
 
 /// @name A brush on a stream, bytes
-/// Style, colour, what the style asks for, a matrix.
-/// @{
+/// Style, colour, the data of the style, a matrix. @{
 constexpr int styleBytes = colorInBrush;
 constexpr int numberBytes = 4;
 constexpr int realBytes = 8;

@@ -8,22 +8,21 @@
 
 class QDataStream;
 
-/// Colours and brushes from streams of anybody. Qt takes over any number as the kind of a colour, and trips over it
-/// later.
+/// Colours and brushes from untrusted streams. Qt accepts any number as the kind of a colour and fails on it later.
 namespace pagehost {
 
-/// Bytes of a colour on a stream: its kind, and five numbers of 16 bits.
+/// Bytes of a colour on a stream: its kind and five numbers of 16 bits.
 constexpr int streamedColorBytes = 1 + 5 * 2;
-/// Where the colour stands in a brush, behind its style.
+/// Offset of the colour in a brush, after its style.
 constexpr int colorInBrush = 1;
 
-/// The colour that the stream stands at; nothing when there is none of a kind that Qt knows.
+/// The colour at the stream's position; empty unless it is of a kind that Qt knows.
 std::optional<QColor> readColor(QDataStream &in);
-/// The colour that the bytes are, to the last one.
+/// The colour in exactly these bytes.
 std::optional<QColor> colorFrom(const QByteArray &bytes);
-/// Whether the bytes are a brush, whole and nothing else, that can be read.
+/// Whether the bytes are exactly one readable brush.
 bool isWholeBrush(const QByteArray &bytes);
-/// Nothing for bytes that are no whole brush.
+/// Empty unless the bytes are exactly one brush.
 std::optional<QBrush> brushFrom(const QByteArray &bytes);
 
 } // namespace pagehost

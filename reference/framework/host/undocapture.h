@@ -8,7 +8,7 @@
 class CWbUndoCmd;
 
 /// Grouped undo steps of CUndoRedo. A group opens on the stack with its first command, so that an empty one leaves
-/// nothing behind.
+/// nothing.
 namespace undogroups {
 
 void begin(const QString &titleKey);
@@ -16,8 +16,8 @@ void end();
 
 } // namespace undogroups
 
-/// From construction to stopTaking(), commands that are pushed do not reach the stack; they are undone and deleted
-/// at the end. It takes back a gesture that the user cancelled without touching what could be redone before it.
+/// From construction to stopTaking(), pushed commands do not reach the stack; they are undone and deleted at the
+/// end. Reverts a gesture that the user cancelled, without losing the commands that could be redone before it.
 class UndoCapture
 {
 public:
