@@ -50,7 +50,8 @@ public:
     /// scrolled in.
     void dropPicture();
 
-    /// @name Protected members of the object, with their consequences @{
+    /// @name Protected members of the object, with their consequences
+    /// @{
     void setClientRect(const QRectF &rect);
     void setFill(const CPageBgProp &fill);
     void setPenWidth(double width);

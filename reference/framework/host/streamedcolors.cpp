@@ -9,7 +9,8 @@ namespace pagehost {
 namespace {
 
 /// @name A brush on a stream, bytes
-/// Style, colour, the data of the style, a matrix. @{
+/// Style, colour, the data of the style, a matrix.
+/// @{
 constexpr int styleBytes = colorInBrush;
 constexpr int numberBytes = 4;
 constexpr int realBytes = 8;

@@ -14,27 +14,27 @@ namespace pagehost {
 
 class Page;
 
-/// Plays what moves on the page that a view shows: the objects that know the special property AnimationRuns.
+/// Plays the animated objects of the page that a view shows: those with the special property AnimationRuns.
 ///
-/// Only what is to be seen runs. An object that is scrolled away, hidden or on another page stands still and costs
-/// nothing, and goes on when it is seen again; so does everything while the view is hidden or its window minimised.
+/// Only visible objects play. An object that is scrolled away, hidden or on another page stops, costs nothing, and
+/// continues when it is visible again; so does everything while the view is hidden or its window minimised.
 class FRAMEWORK_EXPORT AnimationPlayer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Plays as soon as there is a page. The player must not outlive the view.
+    /// Starts playing as soon as there is a page. The player must not outlive the view.
     explicit AnimationPlayer(QGraphicsView *view, QObject *parent = nullptr);
-    /// Everything stands still afterwards.
+    /// Stops all objects.
     ~AnimationPlayer() override;
 
-    /// The page that the view shows; null for none. What moved on the page before stands still.
+    /// The page that the view shows; null for none. Animations of the page before stop.
     void setPage(Page *page);
     bool isPlaying() const { return m_playing; }
     void setPlaying(bool playing);
-    /// Whether something on the page moves, playing or not.
+    /// Whether the page has animated objects, playing or not.
     bool hasAnimation() const { return !m_moving.isEmpty(); }
-    /// Starts and stops objects by what the view shows now, which otherwise happens in the next turn of the event
+    /// Starts and stops objects by their present visibility, which otherwise happens in the next turn of the event
     /// loop.
     void settle();
 

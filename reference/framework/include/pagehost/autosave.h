@@ -22,28 +22,27 @@ class ObjectRegistry;
 struct FileMessage;
 struct OpenResult;
 
-/// The copy left by a process that ended without saving.
+/// A copy left by a process that ended without saving.
 struct RecoverableDocument
 {
     QString recoveryFile; ///< absolute path of the copy, in the binary document format
-    QString originalFile; ///< empty for a document that never was saved
-    /// Of the original when the document was opened from it or saved to it last; null when that is not known.
+    QString originalFile; ///< empty for a document that was never saved
+    /// Of the file that the document was last opened from or saved to; null when unknown.
     FileStamp originalStamp;
     QDateTime time; ///< when the copy was made
 };
 
 /// Keeps a recovery copy of a modified document in a folder, so that little is lost in a crash.
 ///
-/// The copy stands beside a lock that names this process and is touched at every look at the document.
-/// recoverable() lists the copies whose processes are gone. Of a lock that names no process of this machine nobody
-/// can tell that but by its age.
+/// A lock beside the copy names this process and is touched at each check of the document. recoverable() lists the
+/// copies whose processes have ended. A lock that names no process of this machine is judged by its age alone.
 class FRAMEWORK_EXPORT Autosave : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr int defaultInterval = 60000; ///< milliseconds
-    /// Milliseconds after which a lock that names no process of this machine has been left behind.
+    /// Age in milliseconds at which a lock that names no process of this machine counts as abandoned.
     static constexpr int longestSilence = 10 * defaultInterval;
 
     /// `folder` is made when it is first needed.
@@ -51,31 +50,32 @@ public:
     /// Ends as close() does: a process that gets here has not crashed.
     ~Autosave() override;
 
-    /// Watches `document`, saved as `originalFile` (empty for none), in place of the one before, whose copy goes.
+    /// Watches `document`, saved as `originalFile` (empty for none), instead of the previous one, whose copy is
+    /// deleted.
     void setDocument(Document *document, const QString &originalFile, const FileStamp &originalStamp = {});
-    /// After the document has been saved (as): its copy goes.
+    /// Call after the document has been saved, under any name: deletes its copy.
     void setOriginalFile(const QString &originalFile, const FileStamp &originalStamp = {});
-    /// Milliseconds between two looks at the document; a copy is made at a look when the document is modified and
-    /// has changed since the last copy, or when that copy is gone.
+    /// Milliseconds between two checks of the document. A check makes a copy when the document is modified and has
+    /// changed since the last copy, or that copy is gone.
     void setInterval(int milliseconds);
     int interval() const { return m_timer.interval(); }
-    /// Looks now. False when a copy was wanted and could not be made; failed() tells why.
+    /// Checks now. False when a copy was needed and could not be made; failed() tells why.
     bool saveNow();
     /// Removes the copy and the lock and watches nothing.
     void close();
 
     QString folder() const { return m_folder; }
-    /// The copy's absolute path, whether it is there or not; empty while nothing is watched.
+    /// The copy's absolute path, whether it exists or not; empty while nothing is watched.
     QString recoveryFile() const;
 
-    /// Deletes what processes that died while they made their first copy left in the folder.
+    /// Deletes unfinished first copies of processes that ended while writing them.
     void tidy() const;
-    /// Copies in the folder that processes which are gone left behind, the newest first.
+    /// Copies in the folder whose processes have ended, newest first.
     QVector<RecoverableDocument> recoverable() const;
-    /// Opens a copy; the document is modified from the start, and the stamp is the original's. The copy stays until
+    /// Opens a copy. The document counts as modified, and its stamp is the original's. The copy stays until
     /// discard().
     OpenResult recover(const RecoverableDocument &copy, const ObjectRegistry &registry) const;
-    /// Deletes a copy and what belongs to it.
+    /// Deletes a copy and its other files.
     static void discard(const RecoverableDocument &copy);
 
 Q_SIGNALS:

@@ -13,31 +13,31 @@ class CPageBgProp;
 
 /// Undoable changes. Each function is one step on the process-wide stack (CUndoRedo), already applied when it
 /// returns, with a localisation key as its text. A call that would change nothing leaves no step and returns false
-/// or null. Objects and pages that a step refers to stay alive as long as the step does.
+/// or null. A step keeps the objects and pages that it refers to alive.
 namespace pagehost {
 
 class Document;
 class Page;
 struct LessonData;
 
-/// Adds objects on top, in the order given, and selects them.
+/// Adds objects on top, in this order, and selects them.
 FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects);
-/// Removes those of the objects that are on the page; undo puts each back at its place in stacking order.
+/// Removes those objects that are on the page; undo restores their places in stacking order.
 FRAMEWORK_EXPORT bool removeObjects(Page *page, const QVector<CBaseObject *> &objects);
 
 enum class StackingMove { ToFront, Forward, Backward, ToBack };
-/// Moves the objects in stacking order; they keep their order among themselves. Forward and Backward pass one
-/// object that is not among them.
+/// Moves the objects in stacking order; their own order stays. Forward and Backward pass one object that is not
+/// among them.
 FRAMEWORK_EXPORT bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move);
 
-/// Makes a step of what happened since the snapshots were taken; the change itself is already there. `textKey` is
-/// the step's localisation key.
+/// Makes a step of the changes since the snapshots, which have been made already. `textKey` is the step's
+/// localisation key.
 FRAMEWORK_EXPORT bool pushGeometryChange(const QVector<GeometrySnapshot> &before, const QString &textKey);
 /// Moves objects by `delta` (scene units). Locked objects stay.
 FRAMEWORK_EXPORT bool moveObjects(const QVector<CBaseObject *> &objects, const QPointF &delta);
 /// Turns each object about its own centre by `degrees`, clockwise on screen. Locked objects stay.
 FRAMEWORK_EXPORT bool rotateObjects(const QVector<CBaseObject *> &objects, double degrees);
-/// Resizes an object, its top-left corner staying where it is on the page; the object may keep its aspect ratio.
+/// Resizes an object and keeps its top-left corner in place on the page; the object may keep its aspect ratio.
 FRAMEWORK_EXPORT bool resizeObject(CBaseObject *object, const QSizeF &size);
 /// Mirrors each object about its own centre: left to right (`horizontally`) or top to bottom.
 FRAMEWORK_EXPORT bool mirrorObjects(const QVector<CBaseObject *> &objects, bool horizontally);
@@ -53,12 +53,12 @@ FRAMEWORK_EXPORT Page *addPage(Document *document, int index, const QSizeF &size
 FRAMEWORK_EXPORT bool removePage(Document *document, int index);
 FRAMEWORK_EXPORT bool movePage(Document *document, int from, int to);
 
-/// Puts a lesson behind the others.
+/// Appends a lesson.
 FRAMEWORK_EXPORT bool addLesson(Document *document, const LessonData &lesson);
 FRAMEWORK_EXPORT bool removeLesson(Document *document, int index);
-/// Gives a lesson another name.
+/// Renames a lesson.
 FRAMEWORK_EXPORT bool renameLesson(Document *document, int index, const QString &name);
-/// Takes away what happens in a lesson after `time`, milliseconds.
+/// Removes the events of a lesson after `time`, milliseconds.
 FRAMEWORK_EXPORT bool cutLesson(Document *document, int index, qint64 time);
 
 } // namespace pagehost

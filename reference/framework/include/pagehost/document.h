@@ -16,13 +16,13 @@ namespace pagehost {
 class Page;
 class ZoomScope;
 
-/// A recorded lesson as a document keeps it: bytes that only lessons themselves understand.
+/// A recorded lesson as a document stores it: bytes whose meaning only lessons know.
 struct LessonData
 {
     QString name; ///< for people
-    /// Stands readable in the JSON format when it is the text of a JSON object.
+    /// Stored as readable JSON when the bytes are the text of a JSON object.
     QByteArray data;
-    bool isDamaged = false; ///< the data are known not to be those that were saved
+    bool isDamaged = false; ///< the data are known to differ from those that were saved
 };
 
 inline bool operator==(const LessonData &one, const LessonData &other)
@@ -33,37 +33,38 @@ inline bool operator==(const LessonData &one, const LessonData &other)
 /// A document: pages in order, one of them current, and the state that page objects ask for.
 ///
 /// The operations here change the document at once and leave no undo step; pagehost/commands.h has the undoable
-/// ones. The process has one undo stack, which a document that goes clears, since its steps point to its objects.
+/// ones. The process has one undo stack. Deleting a document clears it, since its steps point to the document's
+/// objects.
 class FRAMEWORK_EXPORT Document : public QObject, public IDocument
 {
     Q_OBJECT
 
 public:
-    /// Has no page yet and is not modified.
+    /// Without pages and not modified.
     explicit Document(QObject *parent = nullptr);
-    /// Deletes its pages and their objects, clears the undo stack if steps were made while the document was not
-    /// kept from view by another current one, and stops being the current document.
+    /// Deletes its pages and their objects, clears the undo stack unless all its steps were made while another
+    /// document was current, and stops being the current document.
     ~Document() override;
-    /// False for a document that no undo step will ever refer to, such as one that only plays a lesson: when it
-    /// goes, the undo stack stays as it is. True after construction.
+    /// False for a document that no undo step will ever refer to, such as one that only plays a lesson: deleting it
+    /// keeps the undo stack. Initially true.
     void setUndoable(bool undoable) { m_undoable = undoable; }
 
     int documentState() const override { return m_state; }
     int editingBlocked() const override { return m_blocked; }
     double zoomRate() const override { return m_zoom; }
-    /// 0 while the document is being edited, anything else hides handles and control points.
+    /// 0 while the document is being edited; any other value hides handles and control points.
     void setDocumentState(int state);
     /// Nonzero refuses editing by hand.
     void setEditingBlocked(int blocked);
-    /// Scene units to screen pixels of the view that edits the document; the view calls this on every zoom. A rate
-    /// that is not finite or not above 0 is ignored.
+    /// Screen pixels per scene unit of the view that edits the document, which calls this on every zoom. A rate
+    /// that is not finite and positive is ignored.
     void setZoomRate(double rate);
-    /// While fixed, setZoomRate() does nothing: what objects save depends a little on the zoom, so that a lesson
-    /// brings its own.
+    /// While fixed, setZoomRate() does nothing: what objects save depends slightly on the zoom, so a lesson sets
+    /// its own.
     void setZoomFixed(bool fixed) { m_zoomFixed = fixed; }
 
     int pageCount() const { return m_pages.size(); }
-    /// Null when there is no such page.
+    /// Null for an index out of range.
     Page *page(int index) const;
     QVector<Page *> pages() const { return m_pages; }
     /// -1 for a page that is not in the document.
@@ -72,28 +73,27 @@ public:
     Page *currentPage() const;
     /// -1 only while the document has no page.
     int currentIndex() const { return m_current; }
-    /// Numbers that are no page are ignored.
+    /// An index out of range is ignored.
     void setCurrentIndex(int index);
 
-    /// A new page of this document and this size (scene units) that stands outside the order of pages until
-    /// insertPage() puts it there. The document owns it.
+    /// A new page of this size (scene units), owned by the document and outside the order of pages until
+    /// insertPage().
     Page *createPage(const QSizeF &size = defaultPageSize());
     /// 1280 × 720 scene units.
     static QSizeF defaultPageSize() { return {1280, 720}; }
-    /// Puts a page of createPage() or takePage() before the page at `index` (brought into 0 to pageCount()) and
-    /// makes it current.
+    /// Inserts a page from createPage() or takePage() at `index` (limited to 0 to pageCount()) and makes it
+    /// current.
     void insertPage(int index, Page *page);
     /// createPage() and insertPage() at the end.
     Page *appendPage(const QSizeF &size = defaultPageSize());
-    /// Takes a page out of the order; the next page, else the one before, becomes current if it was. It stays alive
-    /// while retained, else it is deleted when control returns to the event loop. Null for a number that is no
-    /// page.
+    /// Takes a page out of the order; if it was current, the next page becomes current, or else the one before. It
+    /// stays alive while retained, else it is deleted when control returns to the event loop. Null for an index out
+    /// of range.
     Page *takePage(int index);
-    /// Moves a page so that it has the number `to` afterwards. False, with nothing changed, for numbers that are no
-    /// page.
+    /// Moves a page to the index `to`. False, with nothing changed, for an index out of range.
     bool movePage(int from, int to);
 
-    /// Keeps a page alive outside the order of pages until the matching release(): undo steps and lessons hold
+    /// Keeps a page alive outside the order of pages until the matching release(): undo steps and lessons have
     /// plain pointers.
     void retain(Page *page);
     void release(Page *page);
@@ -101,15 +101,16 @@ public:
     /// @name Changes since the document was saved
     /// @{
     /// True when the undo stack is not where it was at markSaved(), or noteChange() was called since. Steps made
-    /// while another document is the current one are that one's.
+    /// while another document is current count for that one.
     bool isModified() const { return m_modified; }
-    /// The document as it is now is what is saved: marks this place of the undo stack.
+    /// The document's present state is saved: marks this position of the undo stack.
     void markSaved();
-    /// Not modified, and the undo stack is left alone: for a document that has just been read.
+    /// Marks the document as unmodified without touching the undo stack: for a document that has just been read.
     void clearModified();
-    /// Tells of a change that leaves no undo step.
+    /// Reports a change that leaves no undo step.
     void noteChange();
-    /// Counts up with every change of what the document's pages show, of its lessons, and with noteChange().
+    /// Increases with every visible change of the document's pages, with every change of its lessons, and with
+    /// noteChange().
     quint64 revision() const;
     /// @}
 
@@ -118,8 +119,8 @@ public:
     QVector<LessonData> lessons() const { return m_lessons; }
     /// pagehost/commands.h has the undoable changes.
     void setLessons(const QVector<LessonData> &lessons);
-    /// A lesson that is still being recorded, as far as it goes: saved behind the others so that nothing of it is
-    /// lost, and no lesson of the document yet. One without data is none.
+    /// The lesson being recorded, as far as it goes: saved after the others, so that nothing of it is lost, but not
+    /// yet a lesson of the document. Without data there is none.
     void setUnfinishedLesson(const LessonData &lesson);
     QVector<LessonData> lessonsToSave() const;
     ExtraData extraData() const { return m_extraData; }
@@ -133,7 +134,7 @@ Q_SIGNALS:
     /// After the page has left the order.
     void pageRemoved(int index);
     void pageMoved(int from, int to);
-    /// -1 when the last page has gone.
+    /// -1 after the last page was removed.
     void currentPageChanged(int index);
     void documentStateChanged(int state);
     void editingBlockedChanged(int blocked);
@@ -163,7 +164,7 @@ private:
     bool m_changedBySteps = false;     ///< the undo stack is not where it was at markSaved()
     bool m_changedBesideSteps = false; ///< noteChange() since markSaved()
     bool m_mayHaveSteps = false;
-    quint64 m_revision = 0; ///< of what is not on pages
+    quint64 m_revision = 0; ///< of changes other than to pages
 };
 
 } // namespace pagehost

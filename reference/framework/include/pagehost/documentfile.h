@@ -28,34 +28,34 @@ enum class DocumentFormat {
     Json    ///< ".board.json"
 };
 
-/// Json for a name that ends in ".board.json" in any case, Binary for every other one.
+/// Json for a name that ends in ".board.json" in any case, else Binary.
 FRAMEWORK_EXPORT DocumentFormat documentFormatOf(const QString &fileName);
 
-/// A part of a file that could not be read or written.
+/// A problem of a file that was read or written.
 struct FRAMEWORK_EXPORT FileMessage
 {
     enum Severity {
-        Warning, ///< the document is there, but not all of it as it was saved
+        Warning, ///< the document exists, but without everything that was saved
         Error    ///< there is no document, or it was not saved
     };
     Severity severity = Warning;
     QString textKey;       ///< localisation key; its text names the arguments %1, %2 ...
-    QStringList arguments; ///< file names, kinds, numbers, and what the system says
-    int page = 0;          ///< from 1; 0 when it is about no particular page
-    int object = 0;        ///< from 1, counted from the bottom of the page; 0 when it is about no particular object
+    QStringList arguments; ///< file names, kinds, numbers, and the system's own messages
+    int page = 0;          ///< from 1; 0 when it concerns no particular page
+    int object = 0;        ///< from 1, from the bottom of the page; 0 when it concerns no particular object
     qint64 offset = -1;    ///< bytes from the start of the file; -1 when unknown
     int line = 0;          ///< of a JSON text, from 1; 0 for the binary format
-    int column = 0;        ///< of a JSON text, from 1, counted in bytes
+    int column = 0;        ///< of a JSON text, from 1, in bytes
 };
 
-/// The message for people, in the localizer's language, with the place where it is known.
+/// The message for people, in the localizer's language, with its location where known.
 FRAMEWORK_EXPORT QString describe(const FileMessage &message, const ILocalize &localizer);
 
 struct SaveResult
 {
     bool saved = false;
-    bool isConflict = false; ///< not saved, since the file was not what was expected
-    FileMessage problem;     ///< of a save that failed
+    bool isConflict = false; ///< not saved, since the file differs from the expected one
+    FileMessage problem;     ///< of a failed save
     FileStamp stamp;         ///< of the saved file
 };
 
@@ -64,23 +64,22 @@ struct OpenResult
     /// Null when nothing could be read; the messages then say why.
     std::unique_ptr<Document> document;
     QVector<FileMessage> messages;
-    FileStamp stamp; ///< of the file that the document belongs to, as it was when this was its contents
+    FileStamp stamp; ///< of the document's file when it had these contents
 };
 
-/// Writes the document to `file` in the format of its name. The file is replaced in one step when all of the new
-/// one is safely on the disk: whatever goes wrong, and whenever, the old or the new one is there, whole. The
-/// document's state (Document::isModified()) is left alone; call Document::markSaved() where the file is now the
-/// document's. Owner, group and mode stay as far as the system allows (effectsOfReplacing()).
-///
-/// With `expected`, a file with other contents than that stamp tells of is left alone: somebody else has written
-/// it. A null stamp expects that there is no file.
+/// Writes the document to `file` in the format of its name. The new file replaces the old one in one step once it
+/// is safely on the disk: whenever anything goes wrong, either the old or the new file is there, whole. The
+/// document's state (Document::isModified()) stays as it is; call Document::markSaved() when the file is the
+/// document's from now on. Owner, group and mode stay as far as the system allows (effectsOfReplacing()). With
+/// `expected`, a file whose contents differ from that stamp's is left alone (changedMeanwhile); a null stamp
+/// expects that there is no file.
 FRAMEWORK_EXPORT SaveResult saveDocument(Document &document, const QString &file,
                                          const std::optional<FileStamp> &expected = std::nullopt);
-/// Makes `copy`, which must not be there, of a file of any kind as durably.
+/// Copies a file of any kind to `copy`, which must not exist, as durably.
 FRAMEWORK_EXPORT SaveResult copyFile(const QString &file, const QString &copy);
-/// Reads a file of either format, told apart by content. Reads as much as can be read: an object whose kind is
-/// unknown or whose data are broken becomes a placeholder that keeps its bytes. A file of a newer version is
-/// refused. The undo stack is not touched, and the new document is not made the current one.
+/// Reads a file of either format, told apart by content. Reads as much as possible: an object of unknown kind or
+/// with broken data becomes a placeholder that keeps its bytes. A file of a newer version is refused. The undo
+/// stack is not touched, and the new document does not become the current one.
 FRAMEWORK_EXPORT OpenResult openDocument(const QString &file, const ObjectRegistry &registry);
 
 /// The contents of such a file; empty, with `problem` set when given, for a document too large for one file.
@@ -90,17 +89,17 @@ FRAMEWORK_EXPORT OpenResult decodeDocument(const QByteArray &bytes, const Object
 
 /// The MIME type of encodeObjects().
 FRAMEWORK_EXPORT QString objectsMimeType();
-/// Objects in this order, with their places on their page.
+/// Objects in this order, with their positions on their page.
 FRAMEWORK_EXPORT QByteArray encodeObjects(const QVector<CBaseObject *> &objects);
-/// New objects on no page; the caller owns them. Objects that cannot be made are placeholders, as when opening.
-/// Empty for bytes that are no such data; `messages` may be null. `page` is the one that they will stand on, where
-/// that is known: objects remember the document that they find while they are read.
+/// New objects on no page, owned by the caller. Objects that cannot be made are placeholders, as in a file. Empty
+/// for bytes that are no such data; `messages` may be null. `page` is the one that they will be added to, if known:
+/// objects cache the document that they find while they are read.
 FRAMEWORK_EXPORT QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
                                                       QVector<FileMessage> *messages = nullptr,
                                                       IPsPage *page = nullptr);
 
-/// True for an object that stands for one that could not be made: it can be selected, moved, restacked, locked,
-/// copied and deleted, and is saved with the bytes that it was read with.
+/// True for a placeholder of an object that could not be made. It can be selected, moved, restacked, locked, copied
+/// and deleted, and is saved with the bytes that it was read from.
 FRAMEWORK_EXPORT bool isPlaceholder(const CBaseObject *object);
 
 } // namespace pagehost

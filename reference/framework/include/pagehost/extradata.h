@@ -8,7 +8,7 @@
 
 namespace pagehost {
 
-/// Parts of a file that this version does not know, kept so that saving writes them back.
+/// Parts of a file that this version does not know, kept and written back on saving.
 struct ExtraData
 {
     struct Chunk
