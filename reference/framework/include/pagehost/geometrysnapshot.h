@@ -11,7 +11,7 @@ class CBaseObject;
 
 namespace pagehost {
 
-/// Where an object is, how large, how turned and mirrored: enough to bring exactly that back.
+/// Position, size, rotation and mirroring of an object, exactly restorable.
 class FRAMEWORK_EXPORT GeometrySnapshot
 {
 public:
@@ -31,11 +31,10 @@ public:
     bool isMirrored() const { return m_mirrored; }
     bool isFlipped() const { return m_flipped; }
 
-    /// Brings the object back to the snapshot, to the last bit: sizes go through the object's virtual setSize(),
-    /// and what an object made of it (a kept aspect ratio, control points moved in proportion) is put right
-    /// afterwards.
+    /// Restores the snapshot to the last bit: sizes go through the object's virtual setSize(), and what the object
+    /// made of it (a kept aspect ratio, control points moved in proportion) is corrected afterwards.
     void restore() const;
-    /// Same place, size, rotation and mirroring; contents are not compared.
+    /// Same position, size, rotation and mirroring; contents are not compared.
     bool hasSameGeometry(const GeometrySnapshot &other) const;
 
 private:

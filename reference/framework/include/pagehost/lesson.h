@@ -10,10 +10,10 @@
 
 #include <variant>
 
-/// A lesson: what happened on the pages of a document, with time, from a state at its start.
+/// A lesson: the events on a document's pages over time, from an initial state.
 ///
-/// Pages are named by their number at that moment, 0 the first. Objects are named by numbers that a lesson gives
-/// them when they first appear, counting up from 1, and that they keep when they go and come back.
+/// Pages are named by their index at that moment, from 0. Objects are named by numbers that a lesson assigns when
+/// they first appear, counting from 1, and that they keep when they disappear and return.
 namespace pagehost {
 
 /// @name Kinds of events
@@ -27,7 +27,7 @@ struct ObjectActed
     QByteArray payload;
 };
 
-/// An object came onto a page, at this place in its stacking order.
+/// An object was put on a page, at this index in its stacking order.
 struct ObjectAppeared
 {
     quint32 object = 0;
@@ -41,22 +41,22 @@ struct ObjectVanished
     quint32 object = 0;
 };
 
-/// An object has come into a state that its recorded actions do not lead to: by undo and redo, which record
-/// nothing, and by changes that have no action.
+/// An object has reached a state that its recorded actions do not lead to: by undo and redo, which record nothing,
+/// or by changes that have no action.
 struct ObjectSettled
 {
     quint32 object = 0;
     QByteArray data; ///< as in ObjectAppeared
 };
 
-/// A page's objects stand in this order, the bottom one first.
+/// The objects of a page have this order now, bottom one first.
 struct PageRestacked
 {
     qint32 page = 0;
     QVector<quint32> objects;
 };
 
-/// An empty page came into the document and is the current one.
+/// An empty page was inserted and is the current one.
 struct PageAppeared
 {
     qint32 page = 0;
@@ -87,60 +87,60 @@ struct PageBackgroundChanged
     QByteArray background;
 };
 
-/// Another page became the current one.
+/// Another page became current.
 struct PageTurned
 {
     qint32 page = 0;
 };
 
-/// The editing view zoomed; objects keep their control points at one size on screen, so that they change with it.
+/// The editing view zoomed; objects keep their control points at one size on screen, so the zoom changes them.
 struct ZoomChanged
 {
-    double rate = 1; ///< scene units to screen pixels
+    double rate = 1; ///< screen pixels per scene unit
 };
 /// @}
 
-/// Stored by the number of the alternative: their order is fixed, new ones go to the end.
+/// Stored by the index of the alternative: the order is fixed, new ones are appended.
 using LessonStep =
     std::variant<ObjectActed, ObjectAppeared, ObjectVanished, ObjectSettled, PageRestacked, PageAppeared,
                  PageVanished, PageMoved, PageResized, PageBackgroundChanged, PageTurned, ZoomChanged>;
 
 struct LessonEvent
 {
-    qint64 time = 0; ///< milliseconds from the start, pauses not counted; never less than the event before
+    qint64 time = 0; ///< milliseconds from the start without pauses; never less than the previous event's
     LessonStep step;
 };
 
-/// How much of stored data is a lesson.
+/// How much of the stored data is a lesson.
 enum class LessonExtent {
     Nothing,
-    Part, ///< what stands before some damage
+    Part, ///< the part before the damage
     Whole
 };
 
-/// A lesson as plain data. See docs/lessons.md for the two stored forms.
+/// A lesson as plain data. docs/lessons.md describes the two stored forms.
 class FRAMEWORK_EXPORT Lesson
 {
 public:
     QString title;
-    /// Steps that make the state at the start out of a document without pages.
+    /// Steps that make the initial state from a document without pages.
     QVector<LessonStep> start;
     QVector<LessonEvent> events;
     qint64 duration = 0; ///< milliseconds, at least the time of the last event
 
     QByteArray toBytes() const;
-    /// False, with the lesson unchanged, for data that is no whole lesson. Counts are held against the bytes that
-    /// are there before anything is allocated.
+    /// False, with the lesson unchanged, unless the data is one whole lesson. Counts are compared with the
+    /// remaining bytes before anything is allocated.
     bool fromBytes(const QByteArray &bytes);
 
     QJsonObject toJson() const;
-    /// False, with the lesson unchanged, for an object that is no whole lesson.
+    /// False, with the lesson unchanged, unless the object is one whole lesson.
     bool fromJson(const QJsonObject &object);
 
-    /// Reads what a document keeps of a lesson (LessonData::data): bytes of toBytes(), or the text of toJson().
+    /// Reads a lesson as a document stores it (LessonData::data): bytes of toBytes(), or the text of toJson().
     bool fromData(const QByteArray &data);
-    /// Reads stored data of either form up to what is damaged in them: the steps and events before the first that
-    /// cannot be read. The duration of a part ends with its last event. For Nothing the lesson is unchanged.
+    /// Reads stored data of either form up to the first damaged step or event. The duration of a part ends with its
+    /// last event. Nothing leaves the lesson unchanged.
     LessonExtent fromDamagedData(const QByteArray &data);
 };
 

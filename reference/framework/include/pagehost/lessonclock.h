@@ -8,14 +8,14 @@
 
 namespace pagehost {
 
-/// Milliseconds that only grow, from any beginning.
+/// A number of milliseconds that only increases, from any start.
 using MillisecondSource = std::function<qint64()>;
 
 /// A stopwatch that can be set.
 class FRAMEWORK_EXPORT LessonClock
 {
 public:
-    /// Stands at 0. Without a source it runs on the system's steady clock.
+    /// Stopped at 0. Without a source it runs on the system's steady clock.
     explicit LessonClock(const MillisecondSource &source = {});
 
     bool isRunning() const { return m_running; }
@@ -23,16 +23,16 @@ public:
     void halt();
     /// Milliseconds.
     qint64 time() const;
-    /// Running or not, goes on from `time` (milliseconds).
+    /// Continues from `time` (milliseconds), running or stopped.
     void setTime(qint64 time);
-    /// How many milliseconds pass for one of the source; 1 at first. Rates that are not above 0 are ignored.
+    /// Milliseconds that pass for each one of the source; initially 1. Rates that are not positive are ignored.
     void setRate(double rate);
     double rate() const { return m_rate; }
 
 private:
     MillisecondSource m_source;
-    qint64 m_time = 0;  ///< when it last began to run, or stopped
-    qint64 m_since = 0; ///< what the source said then
+    qint64 m_time = 0;  ///< when it was last started or stopped
+    qint64 m_since = 0; ///< the source's time then
     double m_rate = 1;
     bool m_running = false;
 };

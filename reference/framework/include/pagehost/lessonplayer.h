@@ -20,10 +20,10 @@ class Document;
 class LessonStage;
 class ObjectRegistry;
 
-/// Plays a lesson on a document of its own, which nobody can edit: in real time, as fast as it goes, or to any
+/// Plays a lesson on a document of its own, which nobody can edit: in real time, as fast as possible, or up to any
 /// moment.
 ///
-/// In real time, the object that changes is pointed out (PageScene::setHighlight()).
+/// In real time the object that changes is highlighted (PageScene::setHighlight()).
 class FRAMEWORK_EXPORT LessonPlayer : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
     /// Deletes the document.
     ~LessonPlayer() override;
 
-    /// Where time comes from, from the next setLesson() on.
+    /// Sets the source of time from the next setLesson() on.
     void setTimeSource(const MillisecondSource &source) { m_source = source; }
 
     /// Stops, and shows the start of this lesson in a new document.
@@ -44,23 +44,23 @@ public:
     /// (documentReplaced()).
     Document *document() const;
 
-    /// Goes on from position(), from the start when that is the end.
+    /// Continues from position(), or from the start when that is the end.
     void play();
     void pause();
     bool isPlaying() const { return m_clock.isRunning(); }
-    /// Milliseconds of the lesson for one of real time, above 0; 1 at first. Other rates are ignored.
+    /// Milliseconds of the lesson per millisecond of real time, positive; initially 1. Other rates are ignored.
     void setSpeed(double speed);
     double speed() const { return m_clock.rate(); }
-    /// Shows the lesson at this moment, in milliseconds, brought into 0 to duration(); goes on playing if it was.
+    /// Shows the lesson at this moment, in milliseconds, limited to 0 to duration(); continues playing if it was.
     void seek(qint64 time);
-    /// Plays what is left as fast as it goes, and stops.
+    /// Plays the rest as fast as possible, and stops.
     void playToEnd();
 
     qint64 position() const { return m_position; } ///< milliseconds
     qint64 duration() const { return m_lesson.duration; }
 
 Q_SIGNALS:
-    /// Another document shows the lesson; the one before still exists while this is emitted.
+    /// Another document shows the lesson; the previous one still exists while this is emitted.
     void documentReplaced();
     void positionChanged(qint64 time);
     void playingChanged(bool playing);
@@ -84,7 +84,7 @@ private:
     int m_played = 0; ///< events that have happened
     qint64 m_position = 0;
     QPointer<PageScene> m_highlighted;
-    qint64 m_highlightEnd = 0; ///< position at which the highlight goes
+    qint64 m_highlightEnd = 0; ///< position at which the highlight ends
 };
 
 } // namespace pagehost

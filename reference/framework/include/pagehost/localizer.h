@@ -12,26 +12,26 @@
 
 namespace pagehost {
 
-/// Texts by key in several languages. Has the texts of the library and of this host in English and German from the
-/// start; applications and plug-ins add theirs.
+/// Texts by key in several languages. Contains the texts of the library and of this host in English and German;
+/// applications and plug-ins add theirs.
 class FRAMEWORK_EXPORT Localizer : public ILocalize
 {
 public:
-    /// Starts in English.
+    /// Initially English.
     Localizer();
 
-    /// The text in the current language, else the English one. A key that no table has gives its own words instead,
-    /// without the prefix, since users must never see a raw key; text that is no key stays as it is.
+    /// The text in the current language, or else in English. A key without a text gives the words of the key
+    /// without its prefix, since users must never see a raw key; other text is returned unchanged.
     QString text(const QString &key) const override;
     bool hasText(const QString &language, const QString &key) const;
 
-    /// A language code such as "en" or "de_AT"; the part before "_" counts when the whole has no table. English
-    /// when neither has.
+    /// A language code such as "en" or "de_AT"; without a table for it, the part before "_" is used, and English
+    /// without that, too.
     void setLanguage(const QString &language);
     QString language() const { return m_language; }
     /// Codes in alphabetical order.
     QStringList languages() const { return m_tables.keys(); }
-    /// Later texts win over earlier ones of the same key.
+    /// Later texts replace earlier ones of the same key.
     void addTexts(const QString &language, const TextTable &texts);
 
 private:

@@ -10,13 +10,13 @@ namespace pagehost {
 
 class Document;
 
-/// A number that tells an object from all others of its document, kept in files, so that lessons find it again.
-/// 0 while it has none, as objects have when they are made and when they are pasted.
+/// A number that identifies an object in its document. It is saved, so that lessons find the object again. 0 while
+/// it has none, as for new and pasted objects.
 FRAMEWORK_EXPORT quint32 objectId(const CBaseObject *object);
 FRAMEWORK_EXPORT void setObjectId(CBaseObject *object, quint32 id);
-/// The object's number; gives it one that no object on the document's pages has when it has none.
+/// The object's number; assigns one that is free in the document when it has none.
 FRAMEWORK_EXPORT quint32 ensureObjectId(CBaseObject *object, const Document &document);
-/// The object on the document's pages that has this number; null when none has.
+/// The object on the document's pages that has this number; null without one.
 FRAMEWORK_EXPORT CBaseObject *objectWithId(const Document &document, quint32 id);
 
 } // namespace pagehost

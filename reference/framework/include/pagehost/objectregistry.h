@@ -23,35 +23,36 @@ struct PluginReport
 {
     QString file; ///< absolute path
     bool loaded = false;
-    /// Why it was not loaded, or what of it could not be used, in English for people; empty when all is well.
+    /// Why it was not loaded, or which part of it could not be used, in English for people; empty without a
+    /// problem.
     QString problem;
-    QStringList kindIds; ///< kinds that it brought
+    QStringList kindIds; ///< kinds that it offers
 };
 
-/// The kinds of page object that plug-ins offer.
+/// The kinds of page objects that plug-ins offer.
 class FRAMEWORK_EXPORT ObjectRegistry
 {
 public:
-    /// The texts of plug-ins go to `localizer`, which may be null and must otherwise outlive the registry.
+    /// Texts of plug-ins are added to `localizer`, which may be null and must otherwise outlive the registry.
     explicit ObjectRegistry(Localizer *localizer = nullptr);
-    /// Plug-ins stay loaded, since objects of theirs may be alive.
+    /// Plug-ins stay loaded, since some of their objects may still exist.
     ~ObjectRegistry();
     ObjectRegistry(const ObjectRegistry &) = delete;
     ObjectRegistry &operator=(const ObjectRegistry &) = delete;
 
     /// Loads every library of a directory, by name, and reports on each. A directory that does not exist or cannot
-    /// be read is reported as one file that was not loaded; a file that has been loaded before is passed over.
+    /// be read is reported as one file that was not loaded; files loaded before are skipped.
     QVector<PluginReport> loadDirectory(const QString &path);
     PluginReport loadFile(const QString &file);
-    /// Registers a plug-in that is part of the program. `name` stands for its file; the plug-in must outlive the
-    /// registry. Reported as loadFile() does.
+    /// Registers a plug-in that is part of the program. `name` replaces the file's name; the plug-in must outlive
+    /// the registry. Reports like loadFile().
     PluginReport addPlugin(ObjectPlugin *plugin, const QString &name);
-    /// Everything reported so far. What a plug-in fails in later is added to its report.
+    /// All reports so far. Later failures of a plug-in are added to its report.
     QVector<PluginReport> reports() const { return m_reports; }
-    /// Hears of a loaded plug-in whose report has got another problem.
+    /// Called with a loaded plug-in whose report has got another problem.
     void setProblemListener(const std::function<void(const PluginReport &)> &listener) { m_listener = listener; }
 
-    /// All kinds, in the order in which they were registered.
+    /// All kinds, in order of registration.
     QVector<ObjectKind> kinds() const { return m_kinds; }
     bool hasKind(const QString &kindId) const { return m_plugins.contains(kindId); }
     /// A kind with an empty id when it is unknown.
@@ -60,25 +61,24 @@ public:
     /// fails. The caller owns it.
     CBaseObject *createObject(const QString &kindId) const;
 
-    /// Runs what belongs to the plug-in of a kind. False when it throws: the plug-in's report then names
-    /// `operation` and what was thrown.
+    /// Runs code of a kind's plug-in. False when it throws: the plug-in's report then has `operation` and the
+    /// exception.
     bool run(const QString &kindId, const QString &operation, const std::function<void()> &work) const;
 
-    /// MIME types that createFromData() takes: those of the plug-ins in the order in which they were registered,
-    /// each type once.
+    /// MIME types that createFromData() accepts: those of the plug-ins in order of registration, each once.
     QStringList dataTypes() const;
     /// A new object in the creating state that shows `data`, tagged with its kind, from the first plug-in that
     /// makes one; null when none does. The caller owns it.
     CBaseObject *createFromData(const QString &mimeType, const QByteArray &data) const;
-    /// The look of an object as data of a type (see ObjectPlugin::dataOf()), from the plug-in of its kind; empty
-    /// when that cannot give it or the kind is unknown.
+    /// The look of an object as data of a type (see ObjectPlugin::dataOf()) from its kind's plug-in; empty when
+    /// that cannot give it or the kind is unknown.
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const;
 
 private:
     struct Source
     {
         ObjectPlugin *plugin;
-        int report; ///< its place in m_reports
+        int report; ///< its index in m_reports
     };
 
     PluginReport load(const QString &file, PluginReport report);
@@ -96,16 +96,16 @@ private:
     mutable QVector<PluginReport> m_reports;
     std::function<void(const PluginReport &)> m_listener;
     QVector<ObjectKind> m_kinds;
-    QVector<Source> m_sources;        ///< every plug-in in use, in the order of registration
+    QVector<Source> m_sources;        ///< every plug-in in use, in order of registration
     QHash<QString, Source> m_plugins; ///< by kind id
 };
 
-/// Why a plug-in that was built against one version of the library cannot be used with another, in English for
-/// people; empty when it can: the major versions are the same, and the plug-in's is no newer. A plug-in that tells
-/// no version is older than this rule.
+/// Why a plug-in built against one version of the library cannot be used with another, in English for people; empty
+/// when it can: the major versions are the same, and the plug-in's is no newer. A plug-in without a version is
+/// older than this rule.
 FRAMEWORK_EXPORT QString versionProblem(const QString &builtAgainst, const QString &present);
 
-/// The kind that the object was created as; empty for one that no registry made.
+/// The kind that the object was created as; empty unless a registry made it.
 FRAMEWORK_EXPORT QString kindIdOf(const CBaseObject *object);
 /// Tags an object that no registry made.
 FRAMEWORK_EXPORT void setKindId(CBaseObject *object, const QString &kindId);

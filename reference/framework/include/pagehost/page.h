@@ -28,9 +28,9 @@ class FRAMEWORK_EXPORT Page : public QObject, public IPsPage
     Q_OBJECT
 
 public:
-    /// `size` in scene units. `document` may be null for a page that stands alone; documents make their own pages.
+    /// `size` in scene units. `document` may be null for a page on its own; documents make their own pages.
     explicit Page(Document *document, const QSizeF &size = Document::defaultPageSize(), QObject *parent = nullptr);
-    /// Deletes its objects, those that are only retained too.
+    /// Deletes its objects, retained ones too.
     ~Page() override;
 
     Document *document() const override { return m_document; }
@@ -39,50 +39,50 @@ public:
     QSizeF size() const { return m_size; }
     /// (0, 0) to size(), scene units.
     QRectF rect() const { return {QPointF(0, 0), m_size}; }
-    /// Sizes that are not finite or not above 0 are ignored.
+    /// Sizes that are not finite and positive are ignored.
     void setSize(const QSizeF &size);
-    /// Opaque white after construction.
+    /// Initially opaque white.
     const CPageBgProp &background() const { return m_background; }
     void setBackground(const CPageBgProp &background);
 
     /// Objects in stacking order, the bottom one first.
     QVector<CBaseObject *> objects() const { return m_objects; }
     int objectCount() const { return m_objects.size(); }
-    /// Position in stacking order; -1 for an object that is not on the page.
+    /// Index in stacking order; -1 for an object that is not on the page.
     int indexOf(const CBaseObject *object) const;
     bool contains(const CBaseObject *object) const { return m_members.contains(object); }
     /// The selected objects in stacking order.
     QVector<CBaseObject *> selectedObjects() const;
-    /// Selects exactly these; objects of other pages are passed over. Gives one selectionChanged(), none when the
-    /// same objects were selected before.
+    /// Selects exactly these objects; those of other pages are skipped. Emits selectionChanged() once, or not at
+    /// all when the selection stays the same.
     void select(const QVector<CBaseObject *> &objects);
-    /// The topmost visible object whose shape contains `scenePos` (scene coordinates); null when none does.
+    /// The topmost visible object whose shape contains `scenePos` (scene coordinates); null without one.
     CBaseObject *objectAt(const QPointF &scenePos) const;
 
-    /// Puts an object on the page and takes it over. `index` is its place in stacking order, -1 the top. An object
-    /// that is on the page already is left alone; one of another page must be removed there first.
+    /// Puts an object on the page, which owns it from then on. `index` is its place in stacking order, -1 the top.
+    /// An object that is on the page already stays as it is; one of another page must be removed there first.
     void addObject(CBaseObject *object, int index = -1);
-    /// Puts objects on top in the order given and takes them over. Their stacking numbers (zValue()) stay as they
-    /// are where they rise.
+    /// Puts objects on top in the order given and takes ownership. Their stacking numbers (zValue()) are kept if
+    /// they are increasing.
     void appendObjects(const QVector<CBaseObject *> &objects);
     /// Takes an object off the page, unselected. It stays alive while retained, else it is deleted when control
-    /// returns to the event loop. Gives the place it had in stacking order, -1 when it was not on the page.
+    /// returns to the event loop. Returns its index in stacking order, -1 when it was not on the page.
     int removeObject(CBaseObject *object);
-    /// Gives the object the place `index` (brought into the range) in stacking order.
+    /// Moves the object to `index` (limited to the range) in stacking order.
     void moveObject(CBaseObject *object, int index);
-    /// Puts the page's objects into this order, which must hold the same objects; else nothing changes.
+    /// Arranges the page's objects in this order, which must contain the same objects; else nothing changes.
     bool setStackingOrder(const QVector<CBaseObject *> &objects);
 
-    /// Keeps an object alive off the page until the matching release(): undo steps and lessons hold plain pointers.
+    /// Keeps an object alive off the page until the matching release(): undo steps and lessons have plain pointers.
     void retain(CBaseObject *object);
     void release(CBaseObject *object);
 
     ExtraData extraData() const { return m_extraData; }
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
 
-    /// Counts up with every change of what the page shows.
+    /// Increases with every visible change of the page.
     quint64 revision() const { return m_revision; }
-    /// Called by objects and commands after a change of what the page shows.
+    /// Called by objects and commands after a visible change.
     void noteChange();
 
 Q_SIGNALS:
@@ -91,12 +91,11 @@ Q_SIGNALS:
     void stackingChanged();
     void backgroundChanged();
     void sizeChanged(const QSizeF &size);
-    /// Once for each select(), addObjects(), removeObjects() and what a user does; at once.
+    /// Once for each select(), addObjects(), removeObjects() and action of the user; at once.
     void selectionChanged();
-    /// Something that the page shows has changed; at most once per turn of the event loop.
+    /// The page has changed visibly; at most once per turn of the event loop.
     void contentChanged();
-    /// The saved data of an object of the page may have changed; emitted at once, possibly several times for one
-    /// change.
+    /// The saved data of an object of the page may have changed; at once, possibly several times for one change.
     void objectChanged(CBaseObject *object);
     /// A notification of an object (CPSRootObject::notifyObjPropertyChanged), at once.
     void objectPropertyChanged(CBaseObject *object, int id, const QString &value);
@@ -112,7 +111,7 @@ private:
     ExtraData m_extraData;
     std::unique_ptr<PageScene> m_scene;
     QVector<CBaseObject *> m_objects;
-    QSet<const CBaseObject *> m_members; ///< the same objects, to be found at once
+    QSet<const CBaseObject *> m_members; ///< the same objects, for fast lookup
     QVector<CBaseObject *> m_outside;    ///< owned objects that are off the page
     QHash<CBaseObject *, int> m_retained;
     QTimer m_changeTimer;

@@ -16,19 +16,19 @@ namespace pagehost {
 class CreationTool;
 class Page;
 
-/// The editable thing under a point of the page.
+/// The editable thing at a point of the page.
 struct Grip
 {
     enum Kind {
         Nothing,     ///< empty page
         Body,        ///< an object that a press would select or move
         Handle,      ///< a handle of the selected object, see `action`
-        ControlPoint ///< a point of the object's own that it drags itself
+        ControlPoint ///< an object's own control point, which the object drags itself
     };
     Kind kind = Nothing;
     CBaseObject *object = nullptr;
     CObjAction::ACT_Def action = CObjAction::ACT_None;
-    /// Scene units from the point asked about to the one that the object answers to: fingers miss by a little.
+    /// Offset from the point asked for to the one that the object responds to, scene units: fingers miss slightly.
     QPointF offset;
 };
 
@@ -49,10 +49,10 @@ public:
     Page *page() const { return m_page; }
 
     Grip gripAt(const QPointF &scenePos) const;
-    /// The cursor that tells what a press at `scenePos` would do: by the handle's direction on screen (the object's
-    /// rotation counts), for control points, bodies, and the creation tool.
+    /// The cursor that shows what a press at `scenePos` would do, for handles by their direction on screen, for
+    /// control points, bodies, and the creation tool.
     QCursor cursorAt(const QPointF &scenePos) const;
-    /// Handle under the mouse, ACT_None when none is.
+    /// Handle under the mouse; ACT_None without one.
     CObjAction::ACT_Def hoveredHandle() const { return m_hover.action; }
     Grip hovered() const { return m_hover; }
 
@@ -62,20 +62,19 @@ public:
 
     /// True between a press that an object took and its release.
     bool isDragging() const;
-    /// Ends a running drag: handle drags put the objects back where they were, and a drag of an object's own
-    /// control point ends where it began; no undo step stays behind. False when none runs. The Esc key does the
-    /// same.
+    /// Cancels a running drag: objects return to their places, a control point to where it was; no undo step
+    /// remains. False when none runs. The Esc key does the same.
     bool cancelDrag();
 
-    /// Draws attention to an object of the page, over everything else and in every state of the document, until it
-    /// is taken back with null or the object leaves the page. Seen in views only: thumbnails, exported pages and
-    /// saved data know nothing of it.
+    /// Highlights an object of the page, above everything else and in every state of the document, until it is
+    /// reset with null or the object leaves the page. Visible in views only, not in thumbnails, exported pages or
+    /// saved data.
     void setHighlight(CBaseObject *object);
     CBaseObject *highlight() const { return m_highlight; }
 
-    /// Repaints frames and handles after an object changed place or size. Objects call it themselves.
+    /// Repaints frames and handles after an object has changed position or size. Objects call it themselves.
     void updateOverlay();
-    /// Ends whatever runs with an object that is about to leave the page.
+    /// Ends any action with an object that is about to leave the page.
     void forget(CBaseObject *object);
 
 protected:
@@ -103,8 +102,8 @@ private:
     CBaseObject *m_highlight = nullptr;
     QPointF m_pressPos; ///< scene coordinates
     QTimer m_overlayTimer;
-    QRectF m_overlay;   ///< what the overlay covered last, scene coordinates
-    double m_pixel = 1; ///< a pixel of the view that was painted last, scene units
+    QRectF m_overlay;   ///< area of the last overlay, scene coordinates
+    double m_pixel = 1; ///< a pixel of the view painted last, scene units
 };
 
 } // namespace pagehost

@@ -9,18 +9,18 @@ class UndoCapture;
 
 namespace pagehost {
 
-/// Shows what a change would look like while the user is still choosing, for instance while a slider moves. The
-/// undo steps of what is shown never reach the history: they take the change back.
+/// Shows the effect of a change while the user is still choosing, for instance while a slider moves. Its undo steps
+/// never reach the history: they revert the change.
 class FRAMEWORK_EXPORT Preview
 {
 public:
     Preview();
-    /// Takes back what is shown.
+    /// Reverts the shown change.
     ~Preview();
     Preview(const Preview &) = delete;
     Preview &operator=(const Preview &) = delete;
 
-    /// Takes back what was shown before and runs `change`, which must be undoable in full.
+    /// Reverts the change shown before and runs `change`, which must be completely undoable.
     void show(const std::function<void()> &change);
     void takeBack();
     bool isShowing() const { return m_capture != nullptr; }

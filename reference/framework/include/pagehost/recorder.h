@@ -8,27 +8,27 @@ class CPSRootObject;
 
 namespace pagehost {
 
-/// Action ids of what this host records itself. Payloads are QDataStream values in the default version.
+/// Ids of the actions that this host records itself. Payloads are QDataStream values in the default version.
 enum HostAction : int {
     ActionMoved = 101,     ///< QPointF: the new position, scene coordinates
-    ActionResized = 102,   ///< QSizeF: the size asked for, item units
+    ActionResized = 102,   ///< QSizeF: the requested size, item units
     ActionRotated = 103,   ///< double: degrees; QPointF: the position afterwards, scene coordinates
     ActionMirrored = 104,  ///< bool: left to right; bool: top to bottom
     ActionFilled = 105,    ///< the fill as CPageBgProp::save() writes it
     ActionPenColored = 106 ///< QColor
 };
 
-/// Takes what page objects record (CPSRootObject::RecordAction) while users edit them.
+/// Receives the actions that page objects record (CPSRootObject::RecordAction) while users edit them.
 class FRAMEWORK_EXPORT ActionSink
 {
 public:
     virtual ~ActionSink() = default;
-    /// One step of `object`, at once, in the GUI thread. HostAction numbers are this host's, all others the
+    /// One action of `object`, at once, in the GUI thread. HostAction numbers are this host's, all others the
     /// object's.
     virtual void actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload) = 0;
 };
 
-/// Sets the one sink of the process and gives the one before; null for none. The caller keeps owning it.
+/// Sets the process's only sink and returns the previous one; null for none. The caller keeps ownership.
 FRAMEWORK_EXPORT ActionSink *setActionSink(ActionSink *sink);
 FRAMEWORK_EXPORT ActionSink *actionSink();
 

@@ -8,7 +8,7 @@
 
 class CBaseObject;
 
-/// Operations on the selected objects of a page. Each change is one undo step; false if there was nothing to do.
+/// Operations on the selected objects of a page. Each change is one undo step; false when there is nothing to do.
 namespace pagehost {
 
 class ObjectRegistry;
@@ -19,15 +19,15 @@ FRAMEWORK_EXPORT bool nudgeSelection(Page *page, const QPointF &delta);
 /// Deletes the selected objects; locked ones stay.
 FRAMEWORK_EXPORT bool deleteSelection(Page *page);
 /// Copies the selected objects by saving each and loading it into a new object of its kind, `offset` (scene units)
-/// away, on top and selected. Objects whose kind the registry does not know are passed over. Gives the copies.
+/// away, on top and selected. Objects of unknown kinds are skipped. Returns the copies.
 FRAMEWORK_EXPORT QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry,
                                                            const QPointF &offset = {20, 20});
 FRAMEWORK_EXPORT void selectAll(Page *page);
-/// Bounding rectangle of objects with rotation, scene coordinates; null for none.
+/// Bounding rectangle of rotated objects, scene coordinates; null without objects.
 FRAMEWORK_EXPORT QRectF boundsOf(const QVector<CBaseObject *> &objects);
 
-/// A new object like `object`: same kind, same saved state, on no page. Null when the kind is unknown or the object
-/// could not be saved or loaded. The caller owns it.
+/// A new object of the same kind and saved state, on no page. Null when the kind is unknown or the object could not
+/// be saved or loaded. The caller owns it.
 FRAMEWORK_EXPORT CBaseObject *cloneObject(CBaseObject *object, const ObjectRegistry *registry);
 
 } // namespace pagehost

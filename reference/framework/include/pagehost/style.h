@@ -12,8 +12,8 @@
 class CBaseObject;
 
 /// Pen and fill of objects through the host base classes alone (CPSRootObject::SetAttribute and GetAttribute).
-/// Every setter is one undo step that is called what the property is called, whatever the number of objects, and is
-/// recorded for playback; false means that no object took the value.
+/// Every setter is one undo step, named after the property, for any number of objects, and is recorded for
+/// playback; false means that no object took the value.
 namespace pagehost {
 
 /// Property ids of pen and fill.
@@ -28,12 +28,12 @@ constexpr int FillAction = 1005;
 
 FRAMEWORK_EXPORT bool setPenColor(const QVector<CBaseObject *> &objects, const QColor &color);
 FRAMEWORK_EXPORT bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style);
-/// Whole units from 1.
+/// Whole units, at least 1.
 FRAMEWORK_EXPORT bool setPenWidth(const QVector<CBaseObject *> &objects, int width);
 /// A colour with alpha 0 is "no fill".
 FRAMEWORK_EXPORT bool setFill(const QVector<CBaseObject *> &objects, const QColor &color);
 
-/// Pen and fill of an object. Each value has a flag that says whether the object has it.
+/// Pen and fill of an object. Each value has a flag that tells whether the object has it.
 struct ObjectStyle
 {
     bool hasPenColor = false;
@@ -51,10 +51,10 @@ FRAMEWORK_EXPORT ObjectStyle styleOf(CBaseObject *object);
 /// A look by the names of the attribute map (CPSRootObject::getAllAttributes()), with values as setAllAttributes()
 /// takes them.
 using StyleMap = QMap<QString, QVariant>;
-/// The object's attribute map without its name, lock and place. A fill that is no plain colour is the colour it
-/// begins with; no fill is a transparent colour.
+/// The object's attribute map without its name, lock and position. A fill that is not a plain colour appears as its
+/// first colour, no fill as a transparent colour.
 FRAMEWORK_EXPORT StyleMap styleMapOf(CBaseObject *object);
-/// Gives the objects what they know of a look, as one undo step. False, with no step, when none of them changes.
+/// Applies the values that each object has, as one undo step. False, without a step, when no object changes.
 FRAMEWORK_EXPORT bool setStyleMap(const QVector<CBaseObject *> &objects, const StyleMap &style);
 
 } // namespace pagehost

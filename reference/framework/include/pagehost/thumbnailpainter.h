@@ -18,9 +18,9 @@ class ThumbnailJob;
 
 /// Pictures of whole pages, painted by worker threads from the pictures that objects keep of themselves.
 ///
-/// An object that paints in another thread reads its own rectangle and picture, and nothing may change these
-/// meanwhile. So workers run only in short windows in which the GUI thread waits for them: between windows objects
-/// may be resized and deleted freely, and no lock is held while an object paints in the GUI thread.
+/// An object that paints in another thread reads its own rectangle and picture, which nothing may change meanwhile.
+/// So workers run only in short windows during which the GUI thread waits for them: between windows objects may be
+/// resized and deleted freely, and no lock is held while an object paints in the GUI thread.
 class FRAMEWORK_EXPORT ThumbnailPainter : public QObject
 {
     Q_OBJECT
@@ -29,17 +29,18 @@ public:
     explicit ThumbnailPainter(QObject *parent = nullptr);
     ~ThumbnailPainter() override;
 
-    /// Asks for a picture of the page that fits into `size` (pixels), at the page's aspect ratio. A page that is
-    /// already waiting waits on with the new size; one that changes while it is being painted is begun anew.
+    /// Requests a picture of the page that fits into `size` (pixels), at the page's aspect ratio. A page that is
+    /// already waiting keeps its place with the new size; one that changes while it is being painted is started
+    /// again.
     void request(Page *page, const QSize &size);
     bool isIdle() const { return m_jobs.empty(); }
-    /// Paints everything that waits before it returns.
+    /// Paints all waiting pages before it returns.
     void finish();
-    /// Threads that paint at the same time; at first as many as the machine has cores, at most 4.
+    /// Number of threads that paint at the same time; by default the number of cores, at most 4.
     void setWorkerCount(int count);
 
 Q_SIGNALS:
-    /// In the GUI thread.
+    /// Emitted in the GUI thread.
     void ready(pagehost::Page *page, const QImage &picture);
 
 private:
