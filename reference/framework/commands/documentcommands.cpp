@@ -10,7 +10,7 @@ namespace pagehost {
 
 namespace {
 
-/// A page put into the document, or taken out of it, which the step keeps alive.
+/// Inserts a page into the document or removes it; the step keeps the page alive.
 class PagePresenceCommand : public AppliedCommand
 {
 public:

@@ -30,8 +30,8 @@ private:
     CPageBgProp m_after;
 };
 
-/// A solid fill equal in colour to a present picture or gradient would be dropped in its favour; a step must bring
-/// back exactly what was there.
+/// A solid fill equal in colour to a present picture or gradient would not replace it; a step must restore the
+/// exact fill.
 void replaceFill(CBaseObject *object, CPageBgProp fill, bool record)
 {
     object->getFillProp()->setFillType(CPageBgProp::SolidFill);
@@ -68,7 +68,7 @@ private:
     QVector<CBaseObject *> m_objects;
     QList<CPageBgProp> m_before;
     CPageBgProp m_after;
-    bool m_records = true; ///< only what the user does is recorded, not what redo repeats
+    bool m_records = true; ///< record what the user does, not what redo repeats
 };
 
 } // namespace

@@ -13,7 +13,7 @@ namespace pagehost {
 
 namespace {
 
-/// The document has other lessons. Lists share what they have in common.
+/// Replaces the document's lessons. Lists share their common lessons.
 class LessonsCommand : public AppliedCommand
 {
 public:
@@ -73,7 +73,7 @@ bool renameLesson(Document *document, int index, const QString &name)
     LessonData &renamed = lessons[index];
     renamed.name = name;
     Lesson lesson;
-    // Data that cannot be read stay as they are.
+    // Keep data that cannot be read unchanged.
     if (lesson.fromData(renamed.data)) {
         lesson.title = name;
         renamed.data = lesson.toBytes();

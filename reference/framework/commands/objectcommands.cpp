@@ -20,7 +20,7 @@ QSet<CBaseObject *> toSet(const QVector<CBaseObject *> &objects)
     return {objects.begin(), objects.end()};
 }
 
-/// The objects that are on the page, in stacking order, each once.
+/// The objects that are on the page, in stacking order, without repetitions.
 QVector<CBaseObject *> onPage(const Page &page, const QVector<CBaseObject *> &objects)
 {
     QVector<CBaseObject *> found;
@@ -31,8 +31,8 @@ QVector<CBaseObject *> onPage(const Page &page, const QVector<CBaseObject *> &ob
     return found;
 }
 
-/// Takes objects off the page, from the top, where that moves the fewest. They are deselected together, so that
-/// whoever listens hears of it once. `objects` in stacking order.
+/// Removes objects from the page from the top, which moves the fewest others. Deselects them together, so that
+/// listeners are notified once. `objects` in stacking order.
 void takeOff(Page &page, const QVector<CBaseObject *> &objects)
 {
     const QSet<CBaseObject *> going = toSet(objects);
@@ -66,7 +66,7 @@ protected:
     }
 
 private:
-    int m_first; ///< place of the first object in stacking order
+    int m_first; ///< index of the first object in stacking order
 };
 
 class RemoveObjectsCommand : public PageCommand
@@ -117,7 +117,7 @@ private:
 
 using ObjectTest = std::function<bool(CBaseObject *)>;
 
-/// Lets every moving object that stands below one that does not move change places with it, from the top down.
+/// Swaps every moving object below one that does not move with it, from the top down.
 void passForward(QVector<CBaseObject *> &order, const ObjectTest &isMoving)
 {
     for (int i = order.size() - 2; i >= 0; --i)

@@ -12,7 +12,8 @@ namespace pagehost {
 
 class Page;
 
-/// Base of steps whose change may be there already when they are pushed: the redo of the push is then left out.
+/// Base of steps whose change may have been made already when they are pushed: the redo of the push is then
+/// skipped.
 class AppliedCommand : public CWbUndoCmd
 {
 public:
@@ -26,7 +27,7 @@ private:
     bool m_skipsRedo;
 };
 
-/// A step about objects of a page, which it keeps alive.
+/// A step that changes objects of a page and keeps the page alive.
 class PageCommand : public AppliedCommand
 {
 public:

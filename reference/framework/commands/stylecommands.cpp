@@ -16,12 +16,12 @@ namespace pagehost {
 
 namespace {
 
-/// Keys of the map that belong to the object alone, not to its look.
+/// Keys of the map that belong to the object, not to its look.
 const QString ownKeys[] = {QStringLiteral("name"),    QStringLiteral("locked"), QStringLiteral("x"),
                            QStringLiteral("y"),       QStringLiteral("width"),  QStringLiteral("height"),
                            QStringLiteral("rotation")};
 
-/// Maps give a brush where they take a colour; no brush is a colour that cannot be seen.
+/// Maps may have a brush in place of a colour; no brush is a transparent colour.
 QVariant asTaken(const QVariant &value)
 {
     if (value.userType() != QMetaType::QBrush)
@@ -38,7 +38,7 @@ QByteArray stateOf(CBaseObject *object)
     return bytes;
 }
 
-/// The states before and after, since maps cannot tell a gradient from a colour.
+/// Keep the states before and after, since maps cannot tell a gradient from a colour.
 class StyleCommand : public AppliedCommand
 {
 public:

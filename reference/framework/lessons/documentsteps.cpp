@@ -38,7 +38,7 @@ QVector<LessonStep> appearanceOf(const Page &page, int pageIndex, const ObjectNu
 
 QVector<LessonStep> appearanceOf(const Document &document, const ObjectNumbering &numberOf)
 {
-    // The zoom comes first: objects are made for it.
+    // Set the zoom first: objects are made for it.
     QVector<LessonStep> steps{ZoomChanged{document.zoomRate()}};
     for (int index = 0; index < document.pageCount(); ++index)
         steps += appearanceOf(*document.page(index), index, numberOf);

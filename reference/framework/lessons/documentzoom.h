@@ -7,13 +7,13 @@ namespace pagehost {
 
 class Document;
 
-/// Has the object follow the zoom of its document. Objects do so when they are painted; here they paint on a single
+/// Makes the object follow the zoom of its document. Objects do so when they paint; here they paint on a single
 /// pixel, which leaves their cached pictures alone.
 void followZoom(CBaseObject &object);
-/// All objects of all pages.
+/// The same for all objects of all pages.
 void followZoom(const Document &document);
 
-/// Makes a document the current one while it lives: objects that are not on a page yet look there for the zoom.
+/// Makes a document current during its lifetime: objects that are not on a page yet read the zoom there.
 class CurrentDocument
 {
 public:

@@ -6,11 +6,11 @@ class CBaseObject;
 
 namespace pagehost {
 
-/// Has a new object that was just loaded from `state` come to save exactly that. False when it still saves
-/// something else.
+/// Makes a new object that was just loaded from `state` save exactly that. False when it still saves something
+/// else.
 ///
-/// Shapes take a fill that is there but shows nothing for a colour. So the part of the state that the host keeps is
-/// loaded once more, past the object's own load().
+/// Shapes turn an invisible fill into a colour. So the host's part of the state is loaded once more, past the
+/// object's own load().
 bool loadExactly(CBaseObject &object, const QByteArray &state);
 
 } // namespace pagehost

@@ -25,7 +25,7 @@ void prepare(QDataStream &stream)
     stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
 }
 
-/// Reads a count of elements of at least this many bytes each; false when the bytes that are left cannot hold them.
+/// Reads a count of elements of at least this many bytes each; false when the remaining bytes cannot contain them.
 bool readCount(QDataStream &in, qint64 bytesEach, quint32 &count)
 {
     in >> count;
@@ -40,7 +40,7 @@ public:
     {
     }
     template<typename Value> void operator()(const char *, const Value &value) { m_out << value; }
-    /// Nothing is written in one way only, whether it is null or empty.
+    /// Null and empty data are written alike.
     void operator()(const char *, const QByteArray &bytes) { m_out << (bytes.isNull() ? QByteArray("") : bytes); }
     void operator()(const char *, const QVector<quint32> &values)
     {

@@ -7,8 +7,8 @@
 #include <array>
 #include <utility>
 
-/// The fields of every kind of step, once for both stored forms: an archive is called with each field's JSON name
-/// and the field.
+/// The fields of every kind of step, listed once for both stored forms: an archive is called with each field's JSON
+/// name and the field.
 namespace pagehost::lessonfields {
 
 template<typename Archive> void visit(Archive &archive, ObjectActed &step)
@@ -96,7 +96,7 @@ bool makeStep(std::size_t kind, LessonStep &step, std::index_sequence<Indices...
     return ((kind == Indices && (step = LessonStep(std::in_place_index<Indices>), true)) || ...);
 }
 
-/// An empty step of the kind with this number; false when there is none.
+/// An empty step of the kind with this index; false without one.
 inline bool makeStep(std::size_t kind, LessonStep &step)
 {
     return makeStep(kind, step, std::make_index_sequence<std::variant_size_v<LessonStep>>());

@@ -21,7 +21,7 @@ const QLatin1String startKey("start");
 const QLatin1String eventsKey("events");
 const QLatin1String kindKey("kind");
 const QLatin1String timeKey("time");
-/// Beyond it a JSON number no longer holds every whole number.
+/// Above it, JSON numbers do not represent every whole number.
 constexpr double largestWholeNumber = 9007199254740991.0;
 
 class Writer
@@ -49,7 +49,7 @@ private:
     QJsonObject &m_object;
 };
 
-/// Whole numbers only, within the type's range.
+/// Accepts whole numbers within the type's range only.
 template<typename Number> bool readWhole(const QJsonValue &value, Number &number, double largest)
 {
     const double read = value.toDouble(-1.5);
@@ -187,7 +187,7 @@ LessonExtent lessonparts::readJson(const QJsonObject &object, Lesson &lesson)
     if (!hasDuration)
         lesson.duration = std::numeric_limits<qint64>::max();
     const bool hasStart = readAll(object.value(startKey), lesson.start);
-    // Without a part of the start, events would happen to other objects and pages.
+    // Without a part of the start, events would apply to other objects and pages.
     const bool hasEvents = hasStart && readAll(object.value(eventsKey), lesson.events);
     return endAtDamage(lesson, hasHead && hasDuration && hasEvents);
 }

@@ -9,10 +9,10 @@ namespace pagehost {
 
 namespace {
 
-/// Of the binary form, "GLL1".
+/// The signature of the binary form, "GLL1".
 constexpr char magic[] = "GLL1";
 
-/// The elements that stand before the first broken one; undefined when no array begins here.
+/// The elements before the first broken one; undefined when no array begins here.
 QJsonValue takeElements(JsonCursor &cursor)
 {
     QJsonArray elements;
@@ -38,7 +38,7 @@ QJsonValue takePlain(JsonCursor &cursor)
     return cursor.takeValue(text) ? parseJson(text, problem) : QJsonValue(QJsonValue::Undefined);
 }
 
-/// The value behind the first `"name":` of a text that is broken somewhere. Quotes inside strings are escaped, so a
+/// The value after the first `"name":` of a text that is broken somewhere. Quotes inside strings are escaped, so a
 /// string never looks like a name.
 QJsonValue findMember(const QByteArray &text, const char *name, QJsonValue (*takeValue)(JsonCursor &))
 {
@@ -90,7 +90,7 @@ LessonExtent Lesson::fromDamagedData(const QByteArray &data)
     if (data.startsWith('{')) {
         extent = lessonparts::readJson(membersOf(data), read);
     } else {
-        // Damage may have put other bytes before the lesson.
+        // Damage may have inserted bytes before the lesson.
         const int start = data.indexOf(magic);
         extent = start >= 0 ? lessonparts::readBytes(data.mid(start), read) : LessonExtent::Nothing;
         if (start > 0 && extent == LessonExtent::Whole)

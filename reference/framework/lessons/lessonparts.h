@@ -9,8 +9,8 @@ namespace pagehost::lessonparts {
 LessonExtent readBytes(const QByteArray &bytes, Lesson &lesson);
 LessonExtent readJson(const QJsonObject &object, Lesson &lesson);
 
-/// Takes events away from the first on whose time falls or exceeds the duration. A lesson that is not whole then
-/// ends with its last event.
+/// Removes the events from the first on whose time decreases or exceeds the duration. A lesson that is not whole
+/// then ends with its last event.
 LessonExtent endAtDamage(Lesson &lesson, bool isWhole);
 
 } // namespace pagehost::lessonparts

@@ -86,8 +86,8 @@ void LessonPlayer::seek(qint64 time)
     const qint64 target = qBound<qint64>(0, time, duration());
     pointOut(nullptr);
     if (target < m_position) {
-        // All the way: objects remember more of what happened to them than they save, so that no later state will
-        // do.
+        // Seek by playing from the start: objects keep more of their past than they save, so no saved state
+        // replaces it.
         showStart();
     }
     advance(target);
@@ -122,7 +122,7 @@ void LessonPlayer::tick()
     Q_EMIT finished();
 }
 
-/// Lets happen what lies up to `time`. Gives the object that changed last and is still there.
+/// Applies the events up to `time`. Returns the object that changed last and still exists.
 CBaseObject *LessonPlayer::advance(qint64 time)
 {
     QPointer<CBaseObject> changed;

@@ -118,7 +118,7 @@ void LessonRecording::noteChange(CBaseObject *object)
     }
 }
 
-/// Once per turn of the event loop. In the middle of a drag the recorded actions tell enough.
+/// Compare once per turn of the event loop. In the middle of a drag the recorded actions suffice.
 void LessonRecording::settleIdle()
 {
     const Page *page = m_document ? m_document->currentPage() : nullptr;
@@ -175,8 +175,8 @@ void LessonRecording::noteZoom()
     if (!m_document || m_document->zoomRate() == m_zoom)
         return;
     m_zoom = m_document->zoomRate();
-    // Objects here follow when they are painted, or at the latest when they are compared: one may be in the middle
-    // of a change now.
+    // Objects of the rehearsal follow the zoom when they are painted, at the latest when they are compared: one may
+    // be in the middle of a change now.
     m_mustFollowZoom = true;
     noteTime(ZoomChanged{m_zoom});
 }

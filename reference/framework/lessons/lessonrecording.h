@@ -20,20 +20,20 @@ class LessonClock;
 class ObjectRegistry;
 class Page;
 
-/// One recording while it runs.
+/// One running recording.
 class LessonRecording : public QObject, private ActionSink
 {
     Q_OBJECT
 
 public:
-    /// Begins with the document as it is. While the clock stands still, what objects record is left out. The clock
-    /// and the registry must outlive the recording; the document may go.
+    /// Starts with the document's present state. While the clock is stopped, actions of objects are not recorded.
+    /// The clock and the registry must outlive the recording; the document may be deleted.
     LessonRecording(Document *document, const ObjectRegistry *registry, const LessonClock &clock);
     ~LessonRecording() override;
 
-    /// Notes the states of changed objects that the lesson does not lead to.
+    /// Records the states of changed objects that the lesson does not lead to.
     void settle();
-    /// The same for all objects of the document; gives the lesson so far.
+    /// The same for all objects of the document; returns the lesson so far.
     Lesson settled();
 
 private:
@@ -50,7 +50,7 @@ private:
     void append(const LessonStep &step);
     void noteTime(const LessonStep &step);
     void noteZoom();
-    /// Plays what the rehearsal has not played yet.
+    /// Plays the events that the rehearsal has not played yet.
     void catchUp();
     void prepareComparison();
     void compare(quint32 number, CBaseObject *object);
@@ -75,7 +75,7 @@ private:
     Lesson m_lesson;
     QHash<CBaseObject *, Numbered> m_numbers;
     quint32 m_lastNumber = 0;
-    QMap<quint32, QPointer<CBaseObject>> m_changed; ///< since they were last compared
+    QMap<quint32, QPointer<CBaseObject>> m_changed; ///< since the last comparison
     QTimer m_turn;                                  ///< until control returns to the event loop
     double m_zoom = 1;
     bool m_mustFollowZoom = false;

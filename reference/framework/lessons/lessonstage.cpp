@@ -19,11 +19,11 @@ namespace {
 
 /// Objects do not paint editing aids while the document is in this state.
 constexpr int playingState = 1;
-/// A page is a few bytes of a lesson and many more in memory; damaged data shall not fill it.
+/// A page takes a few bytes of a lesson and many more in memory; damaged data must not exhaust it.
 constexpr int mostPages = 10000;
 
-/// Only the order of stacking numbers counts, but they are saved, so an object brings back the one it had where it
-/// agrees with the order.
+/// Only the order of stacking numbers matters, but they are saved, so an object gets its former number back where
+/// it fits the order.
 void restoreStackingNumber(const Page &page, CBaseObject &object, double number)
 {
     const QVector<CBaseObject *> objects = page.objects();
@@ -93,7 +93,7 @@ void LessonStage::put(CBaseObject *object, quint32 number, Page &page, int place
 
 CBaseObject *LessonStage::makeObject(ObjectRecord record, Page *page) const
 {
-    // The lesson may go before the object.
+    // The lesson may be deleted before the object.
     record.data = QByteArray(record.data.constData(), record.data.size());
     FileMessage message;
     CBaseObject *made = ObjectFactory(*m_registry).make(record, page, message);
@@ -108,7 +108,8 @@ CBaseObject *LessonStage::perform(const ObjectVanished &step)
     CBaseObject *vanishing = object(step.object);
     if (vanishing) {
         pageOf(*vanishing)->removeObject(vanishing);
-        // At once: a lesson played as fast as possible would hoard what waits for the event loop.
+        // At once: a lesson played as fast as possible would accumulate objects until control returns to the event
+        // loop.
         delete vanishing;
     }
     m_objects.remove(step.object);
@@ -121,7 +122,7 @@ CBaseObject *LessonStage::perform(const ObjectSettled &step)
     ObjectRecord record;
     if (!former || !readRecord(step.data, record))
         return nullptr;
-    // A new object: one that has a past may keep some of it when it loads.
+    // Load into a new object: a used one may keep some of its past.
     Page *page = pageOf(*former);
     CBaseObject *settled = makeObject(record, page);
     const int place = page->removeObject(former);
@@ -160,7 +161,7 @@ CBaseObject *LessonStage::perform(const PageAppeared &step)
 CBaseObject *LessonStage::perform(const PageVanished &step)
 {
     if (const Page *page = m_document->page(step.page)) {
-        // Views may hold on to the page, so that it goes with the event loop; its objects are gone from now on.
+        // Views may still show the page, so it is deleted from the event loop; its objects are deleted now.
         forgetObjectsOf(*page);
         m_document->takePage(step.page);
     }

@@ -16,21 +16,20 @@ class ObjectRegistry;
 struct ObjectRecord;
 class Page;
 
-/// Where a lesson happens again: a document of its own, which nobody edits and which leaves undo and recording
-/// alone.
+/// Replays a lesson on a document of its own, which nobody edits, without undo and recording.
 ///
-/// Steps that name pages or objects that are not there do nothing: data of lessons may be damaged.
+/// Steps that name missing pages or objects do nothing: data of lessons may be damaged.
 class LessonStage
 {
 public:
-    /// Has no page yet. The registry must outlive the stage.
+    /// Initially without pages. The registry must outlive the stage.
     explicit LessonStage(const ObjectRegistry *registry);
     ~LessonStage();
 
     Document *document() const { return m_document.get(); }
     /// The object with this number; null when it is on no page.
     CBaseObject *object(quint32 number) const { return m_objects.value(number); }
-    /// Brings a step about. Gives the object that it changed; null when it changed none.
+    /// Applies a step. Returns the object that it changed; null for none.
     CBaseObject *perform(const LessonStep &step);
 
 private:
@@ -47,7 +46,7 @@ private:
     CBaseObject *perform(const PageTurned &step);
     CBaseObject *perform(const ZoomChanged &step);
 
-    /// Never null; a placeholder for what cannot be made.
+    /// Never null; a placeholder for an object that cannot be made.
     CBaseObject *makeObject(ObjectRecord record, Page *page) const;
     void put(CBaseObject *object, quint32 number, Page &page, int place);
     void forgetObjectsOf(const Page &page);

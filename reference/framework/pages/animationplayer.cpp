@@ -18,7 +18,7 @@ namespace pagehost {
 
 namespace {
 
-/// Nothing for an object in which nothing moves.
+/// Empty for an object without animation.
 std::optional<bool> isRunning(CBaseObject &object)
 {
     QByteArray bytes;
@@ -88,7 +88,7 @@ void AnimationPlayer::setPage(Page *page)
     reportAnimation(before);
 }
 
-/// A page that has been deleted took its objects with it.
+/// A deleted page took its objects with it.
 void AnimationPlayer::leavePage()
 {
     const QVector<CBaseObject *> moving = m_moving;
@@ -109,7 +109,7 @@ void AnimationPlayer::setPlaying(bool playing)
     Q_EMIT playingChanged(playing);
 }
 
-/// The kind of an object may change with its contents.
+/// Contents decide whether an object has an animation, and they may change.
 void AnimationPlayer::takeObject(CBaseObject *object)
 {
     if (!object || !m_page->contains(object))
@@ -145,14 +145,14 @@ void AnimationPlayer::settle()
     if (!m_page)
         return;
     const QRectF area = m_playing ? visibleArea(*m_view) : QRectF();
-    // A start paints, and who hears of that may take objects away.
+    // Starting paints, and listeners may delete objects.
     const QVector<CBaseObject *> moving = m_moving;
     for (CBaseObject *object : moving)
         if (m_moving.contains(object))
             setRunning(*object, isIn(*object, area));
 }
 
-/// Scrolling and zooming show as a repaint.
+/// Scrolling and zooming appear as repaints.
 bool AnimationPlayer::eventFilter(QObject *watched, QEvent *event)
 {
     const bool mayMatter = event->type() == QEvent::Paint || event->type() == QEvent::Resize ||

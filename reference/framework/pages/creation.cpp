@@ -20,10 +20,10 @@ namespace {
 
 /// A press and release closer together than this are a click.
 constexpr double clickPixels = 4;
-/// Side of an object that has no size of its own when a click makes it, scene units.
+/// Side of an object without a default size that is made by a click, scene units.
 constexpr double plainSide = 100;
 
-/// No longer than an object can be.
+/// Limited to the largest size of an object.
 QPointF possibleWay(const QPointF &way)
 {
     return {qBound(-longestSide, way.x(), longestSide), qBound(-longestSide, way.y(), longestSide)};

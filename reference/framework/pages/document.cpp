@@ -122,7 +122,7 @@ Page *Document::takePage(int index)
     Page *current = currentPage();
     m_pages.removeAt(index);
     m_outside.append(taken);
-    m_revision += taken->revision() + 1; // which no longer counts by itself
+    m_revision += taken->revision() + 1; // it no longer counts by itself
     Q_EMIT pageRemoved(index);
     const int next = current == taken ? qMin(index, m_pages.size() - 1) : m_pages.indexOf(current);
     m_current = current == taken ? -2 : m_current;
@@ -169,7 +169,7 @@ void Document::followStack()
         return;
     const QUndoStack *stack = CUndoRedo::GetInstance()->stack();
     m_mayHaveSteps = true;
-    // A stack that was emptied is clean, but nothing has been undone.
+    // An emptied stack is clean although nothing was undone.
     m_changedBesideSteps = m_changedBesideSteps || (m_changedBySteps && stack->count() == 0);
     m_changedBySteps = !stack->isClean();
     setModified(m_changedBySteps || m_changedBesideSteps);

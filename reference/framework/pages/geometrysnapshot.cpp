@@ -10,7 +10,7 @@ namespace pagehost {
 
 namespace {
 
-/// To the last bit: the operators of QPointF and QSizeF forgive small differences.
+/// Compare exactly; the operators of QPointF and QSizeF allow small differences.
 bool identical(const QPointF &one, const QPointF &other)
 {
     return one.x() == other.x() && one.y() == other.y();
@@ -64,7 +64,7 @@ void GeometrySnapshot::restoreSize() const
     if (m_hasContent) {
         QDataStream in(m_content);
         m_object->LoadPropertyForPlayback(in);
-        // The same size again: now the object makes its outline and picture of the restored content.
+        // Setting the same size again makes the object update outline and picture from the restored content.
         m_object->setSize(m_size, false, true);
     }
     if (!identical(m_object->getClientRect().size(), m_size)) {

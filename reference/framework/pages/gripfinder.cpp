@@ -13,11 +13,11 @@ namespace pagehost {
 
 namespace {
 
-/// Fingers miss a control point by this much.
+/// Distance by which fingers miss a control point.
 constexpr double nearMissPixels = 8;
 constexpr int probeDirections = 8;
 constexpr int probeRings = 2;
-/// Beyond this many selected objects only exact hits count: looking around each would make hovering slow.
+/// Above this number of selected objects only exact hits count: searching around each would slow down hovering.
 constexpr int mostProbedObjects = 16;
 
 Grip askObject(CBaseObject *object, const QPointF &scenePos)
@@ -28,8 +28,8 @@ Grip askObject(CBaseObject *object, const QPointF &scenePos)
     return {action == CObjAction::ACT_None ? Grip::ControlPoint : Grip::Handle, object, action, {}};
 }
 
-/// An object takes a press on its control point only inside its client rectangle, but the point's margin reaches
-/// beyond.
+/// An object accepts a press on its control point only inside its client rectangle, but the point's margin extends
+/// beyond it.
 QPointF offsetIntoObject(CBaseObject *object, const QPointF &scenePos)
 {
     const QRectF rect = object->getClientRect();

@@ -6,7 +6,7 @@ namespace pagehost {
 
 /// The grip that a press at `scenePos` would start.
 Grip findGrip(const Page &page, const QPointF &scenePos);
-/// The cursor that shows it; `pressed` while it is held.
+/// The cursor for the grip; `pressed` while it is held.
 QCursor cursorFor(const Grip &grip, bool pressed);
 
 } // namespace pagehost

@@ -7,7 +7,7 @@ class QPainter;
 
 namespace pagehost {
 
-/// Draws a glowing frame around an object that a player points out; `painter` is in scene coordinates. Gives the
+/// Draws a glowing frame around an object that a player highlights; `painter` is in scene coordinates. Returns the
 /// size of a pixel of its device in scene units.
 double paintHighlight(CBaseObject &object, QPainter &painter);
 /// Bounds of the frame for this size of a pixel, scene coordinates; empty for null.

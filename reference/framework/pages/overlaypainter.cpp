@@ -16,7 +16,7 @@ namespace {
 constexpr double framePenPixels = 1.5;
 constexpr double buttonPixels = 16; ///< diameter of the rotation and mirror handles
 
-/// Draws in item coordinates; lengths are screen pixels brought into item units.
+/// Draws in item coordinates; lengths are screen pixels converted to item units.
 class HandlePainter
 {
 public:

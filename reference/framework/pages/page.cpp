@@ -52,7 +52,7 @@ Page::Page(Document *document, const QSizeF &size, QObject *parent)
 
 Page::~Page()
 {
-    // Objects that go must not tell a page that is half gone.
+    // Objects being deleted must not notify a page that is being deleted.
     m_scene->disconnect(this);
     const QVector<CBaseObject *> owned = m_objects + m_outside;
     for (CBaseObject *object : owned)
@@ -104,7 +104,7 @@ void Page::select(const QVector<CBaseObject *> &objects)
     const QSet<QGraphicsItem *> wanted(objects.begin(), objects.end());
     const QList<QGraphicsItem *> before = m_scene->selectedItems();
     {
-        // The scene would tell of each object, and whoever listens would look at all of them each time.
+        // Otherwise the scene would notify of each object, and listeners would examine all of them each time.
         const QSignalBlocker quiet(m_scene.get());
         for (QGraphicsItem *item : before)
             item->setSelected(wanted.contains(item));
@@ -212,7 +212,7 @@ void Page::renumber()
         m_objects[index]->setZValue(index);
 }
 
-/// Only the order of the numbers counts, so that an object takes its place without touching the others.
+/// Only the order of the numbers matters, so an object is moved without changing the others'.
 void Page::giveStackingNumber(int index)
 {
     const bool isTop = index + 1 == m_objects.size();

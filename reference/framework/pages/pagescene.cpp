@@ -181,7 +181,7 @@ bool PageScene::cancelDrag()
         drag->cancel();
         GripDrag::forget(*m_drag.object);
     } else {
-        // The object's own release makes the step that puts its control point back.
+        // The object's own release makes the undo step that restores its control point.
         const UndoCapture capture;
         QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
         release.setButton(Qt::LeftButton);
@@ -235,7 +235,7 @@ void PageScene::repaintOverlay()
     m_overlay = covered;
 }
 
-// Control points show in selected objects only.
+// Only selected objects show control points.
 void PageScene::stateChanged()
 {
     const QVector<CBaseObject *> selected = m_page->selectedObjects();

@@ -32,7 +32,7 @@ ActionSink *actionSink()
 bool replayAction(CPSRootObject *object, int actionId, const QByteArray &payload)
 {
     QDataStream in(payload);
-    // Objects answer for their own kinds only and do not ask the base class.
+    // Objects handle only their own actions and do not call the base class.
     return isHostAction(actionId) ? object->CPSRootObject::DoPlaybackActionEx(actionId, in)
                                   : object->DoPlaybackActionEx(actionId, in);
 }

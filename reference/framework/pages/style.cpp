@@ -56,7 +56,7 @@ bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style)
 
 bool setPenWidth(const QVector<CBaseObject *> &objects, int width)
 {
-    // Panels send the number of the entry in the list of widths, which begins at 1.
+    // Panels send the index in the list of widths, which begins at 1.
     return width >= 1 && setAttributes(objects, PenWidthProperty, qint32(width - 1));
 }
 

@@ -13,11 +13,11 @@ namespace pagehost {
 
 namespace {
 
-/// A page is painted that many times as large at most, along each axis, before it is brought to a thumbnail's size.
+/// Largest factor, along each axis, by which a page is painted larger than its thumbnail.
 constexpr int mostOversampling = 4;
 
 /// Objects are painted from finished pictures. Sampled at a quarter of their size these lose thin lines, so the
-/// page is painted about as large as it is and averaged.
+/// page is painted at nearly its own size and averaged.
 int oversampling(const QSizeF &pageSize, const QSize &thumbnail)
 {
     const double shrinking = pageSize.width() / thumbnail.width();

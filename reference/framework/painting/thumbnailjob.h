@@ -13,7 +13,7 @@ namespace pagehost {
 
 class Page;
 
-/// One page on its way to a thumbnail: what to paint, taken in the GUI thread, and the picture so far.
+/// One thumbnail in progress: the list of what to paint, taken in the GUI thread, and the picture so far.
 class ThumbnailJob
 {
 public:
@@ -22,13 +22,12 @@ public:
     Page *page() const { return m_page; }
     void setSize(const QSize &size);
     bool isFinished() const { return m_begun && m_next >= m_steps.size(); }
-    /// As large as the wanted size and the page's aspect ratio allow.
+    /// As large as the requested size and the page's aspect ratio allow.
     QImage picture() const;
 
-    /// In the GUI thread, before each run: begins anew when the page has changed since the last.
+    /// In the GUI thread, before each run: starts again when the page has changed since the last.
     void prepare();
-    /// In any thread, while the GUI thread waits: paints objects until done or until the time is over, at least
-    /// one.
+    /// In any thread, while the GUI thread waits: paints objects until done or the time is up, at least one.
     void run(const QDeadlineTimer &deadline);
 
 private:

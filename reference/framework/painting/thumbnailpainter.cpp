@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostDefaultWorkers = 4;
 constexpr int windowMilliseconds = 4;
-/// Between windows, so that the GUI thread has most of its time for the user.
+/// Pause between windows, so that the GUI thread has most of its time for the user.
 constexpr int pauseMilliseconds = 12;
 
 class JobRun : public QRunnable
@@ -93,7 +93,7 @@ void ThumbnailPainter::dropOrphans()
 
 void ThumbnailPainter::deliverFinished()
 {
-    // Whoever is told may ask for more, so the list is settled first.
+    // Listeners may request more, so update the list first.
     std::vector<std::unique_ptr<ThumbnailJob>> finished;
     const auto firstFinished =
         std::stable_partition(m_jobs.begin(), m_jobs.end(), [](const auto &job) { return !job->isFinished(); });

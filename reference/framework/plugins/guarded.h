@@ -6,7 +6,7 @@
 
 namespace pagehost {
 
-/// Runs what belongs to a plug-in; false, with `problem` in English for people, when it throws.
+/// Runs code of a plug-in; false, with `problem` in English for people, when it throws.
 template<typename Work> bool guarded(const QString &operation, QString &problem, const Work &work)
 {
     try {

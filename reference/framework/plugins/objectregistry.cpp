@@ -21,15 +21,15 @@ namespace pagehost {
 
 namespace {
 
-/// Where an object keeps its kind among the data of its graphics item.
+/// Key of an object's kind in the data of its graphics item.
 constexpr int kindIdData = 0x6b696e64;
-/// Set once a plug-in has given the object.
+/// Key that marks objects made by a plug-in.
 constexpr int givenData = 0x67697665;
-/// More are taken for nonsense.
+/// Most kinds accepted from one plug-in.
 constexpr int mostKinds = 1000;
-/// Letters. Files hold the length of an id in two bytes.
+/// Characters; files store the length of an id in two bytes.
 constexpr int longestKindId = 200;
-/// Letters of the problems of one plug-in: whatever happens again and again is told often enough then.
+/// Characters of the problems of one plug-in: repeated ones need no more.
 constexpr int longestProblem = 2000;
 
 PluginReport failure(PluginReport report, const QString &problem)
@@ -54,7 +54,7 @@ bool isKindId(const QString &id)
     return id.size() <= longestKindId && form.match(id).hasMatch();
 }
 
-/// Of the interface that a library says it has: its name, and the version that it was built against behind a space.
+/// Checks the interface id of a library: its name and, after a space, the version that it was built against.
 QString interfaceProblem(const QString &iid)
 {
     const QString wanted = QStringLiteral(PAGEHOST_OBJECTPLUGIN_INTERFACE);
@@ -136,7 +136,7 @@ PluginReport ObjectRegistry::addPlugin(ObjectPlugin *plugin, const QString &name
     return report;
 }
 
-/// The report is among the others from the start, where all that goes wrong is added to it.
+/// The report is in the list from the start, where every problem is added to it.
 PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
 {
     const Source source{plugin, m_reports.size()};
@@ -248,7 +248,7 @@ CBaseObject *ObjectRegistry::createObject(const QString &kindId) const
     return taken(source, operation, object, kindId);
 }
 
-/// Null for an object that somebody else has: it was given before, or put on a page.
+/// Null for an object that already has an owner: it was returned before, or put on a page.
 CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operation, CBaseObject *object,
                                    const QString &kindId) const
 {
