@@ -10,15 +10,15 @@ namespace Svg {
 
 namespace {
 
-/// From here on three box blurs look like the weights of a bell curve.
+/// From this deviation on three box blurs approximate the weights of a bell curve.
 constexpr double boxDeviation = 2;
-/// Below this nothing changes.
+/// Below this deviation nothing changes.
 constexpr double smallestDeviation = 0.01;
 constexpr double reachOfWeights = 3;
-/// How far beyond its edges a picture is looked at, at most, as a multiple of its size.
+/// How far beyond its edges a picture is extended at most, as a multiple of its size.
 constexpr int farthestEdge = 2;
 
-/// Averages `before` values before each one to `after` values after it.
+/// Averages each value with the `before` values before it and the `after` values after it.
 class BoxBlur
 {
 public:
@@ -48,12 +48,12 @@ private:
     int m_after;
 };
 
-// Blurs lines in place; `other` has room for one.
+// Blurs lines in place; `other` has room for one line.
 using LineBlur = std::function<void(uchar *line, uchar *other, int count)>;
 
 LineBlur boxBlur(double deviation, int length)
 {
-    // Wider boxes than the picture make no difference that could be seen.
+    // Boxes wider than the picture make no visible difference.
     const int size = int(qMin(deviation * 3 * std::sqrt(2 * M_PI) / 4 + 0.5, 2.0 * length + 1));
     const int half = size / 2;
     const bool odd = size % 2 == 1;
@@ -98,14 +98,14 @@ LineBlur weightedBlur(double deviation)
     };
 }
 
-/// The part of a line that counts as the picture.
+/// The part of a line that belongs to the picture.
 struct Span
 {
     int begin;
     int length;
 };
 
-// The picture with what stands beyond its edges on both sides.
+// The picture with its extension on both sides.
 void extend(const uchar *line, const Span &span, EdgeMode edges, int reach, PixelLine *extended)
 {
     for (int i = 0; i < extended->size(); ++i) {
@@ -134,7 +134,7 @@ void blurLines(QImage *picture, double deviation, bool columns, EdgeMode edges, 
     if (!(deviation > smallestDeviation))
         return;
     const int length = columns ? picture->height() : picture->width();
-    // Where edges go on, a wider blur makes no difference that could be seen.
+    // With repeated edges, a wider blur makes no visible difference.
     if (edges != EdgeMode::None)
         deviation = qMin(deviation, farthestEdge * length / reachOfWeights);
     const LineBlur blur =

@@ -48,7 +48,7 @@ QRgb Convolver::neighbour(int x, int y) const
     return at(qBound(m_area.left(), x, m_area.right()), qBound(m_area.top(), y, m_area.bottom()));
 }
 
-// The factors are turned by half a turn against the pixels.
+// The kernel is rotated by half a turn relative to the pixels.
 Channels Convolver::sum(int x, int y) const
 {
     const QSize &order = m_convolution.order;

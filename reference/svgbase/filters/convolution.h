@@ -10,7 +10,7 @@ struct Convolution
 {
     enum Edges : quint8 { Duplicate, Wrap, Transparent };
 
-    /// Factors of the neighbours, row by row, divided already; empty for none, which changes nothing.
+    /// Factors of the neighbours, row by row, already divided; empty to leave the picture unchanged.
     QVector<double> factors;
     QSize order{3, 3};
     QPoint target{1, 1};
@@ -19,7 +19,7 @@ struct Convolution
     bool preservesAlpha = false;
 };
 
-/// Replaces every pixel within `area`, whose edges count as the picture's, by a weighted sum of its neighbours.
+/// Replaces every pixel within `area`, whose edges are the picture's, by a weighted sum of its neighbours.
 void convolvePicture(QImage *picture, const Convolution &convolution, const QRect &area);
 
 } // namespace Svg

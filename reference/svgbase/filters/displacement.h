@@ -10,14 +10,14 @@ struct Displacement
 {
     enum Channel : quint8 { Red, Green, Blue, Alpha };
 
-    /// How far a channel that is full moves a pixel more than one that is empty, user units.
+    /// Displacement by a full channel relative to an empty one, user units.
     QSizeF scale{0, 0};
     Channel across = Alpha;
     Channel down = Alpha;
 };
 
-/// Takes every pixel of a picture from where the channels of `map` say; outside of it everything is transparent.
-/// The scale is in pixels.
+/// Takes every pixel from the position given by the channels of `map`; outside of the picture everything is
+/// transparent. The scale is in pixels.
 void displacePicture(QImage *picture, const QImage &map, const Displacement &displacement);
 
 } // namespace Svg

@@ -26,7 +26,7 @@ public:
     {
         return qAlpha(reinterpret_cast<const QRgb *>(m_picture.constScanLine(y))[x]) / double(opaque);
     }
-    /// The normal of the surface, by differences of neighbours, of which there are fewer at the edges.
+    /// The normal of the surface, by differences of neighbours, which are fewer at the edges.
     QVector3D normal(int x, int y, double scale) const
     {
         const QVector3D slope(float(-scale * slopeAcross(x, y)), float(-scale * slopeDown(x, y)), 1);

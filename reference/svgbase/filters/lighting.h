@@ -12,14 +12,14 @@ struct LightSource
 {
     enum Kind { None, Distant, Point, Spot };
     Kind kind = None;
-    /// Of a distant one: towards it, degrees.
+    /// Direction towards a distant light, degrees.
     double azimuth = 0;
     double elevation = 0;
-    /// Of the others, in pixels once a picture is lit.
+    /// Position of the others, in pixels once a picture is lit.
     QVector3D place;
     QVector3D pointsAt;
     double focus = 1;
-    /// Of a spot light: how far from its axis it shines, degrees.
+    /// Cone of a spot light, degrees from its axis.
     std::optional<double> cone;
 };
 

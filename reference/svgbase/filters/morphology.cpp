@@ -7,8 +7,8 @@ namespace Svg {
 
 namespace {
 
-/// The greatest or smallest value within a distance of each place, in time that does not depend on the distance:
-/// `m_places` holds the candidates that are still in reach, each beating all after it.
+/// The largest or smallest value within a distance of each position, in time independent of the distance:
+/// `m_places` has the candidates in reach, each beating all later ones.
 class SlidingExtreme
 {
 public:
@@ -46,7 +46,7 @@ private:
         m_places[m_last++] = place;
     }
     bool isBeaten(uchar value, uchar known) const { return m_greatest ? value < known : value > known; }
-    // Beyond the picture everything is transparent, which is the smallest.
+    // Beyond the picture everything is transparent, which is the smallest value.
     void clearEnds(uchar *line, int length) const
     {
         std::fill(line, line + qMin(m_reach, length), uchar(0));

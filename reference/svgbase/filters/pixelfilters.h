@@ -11,20 +11,20 @@ enum class EdgeMode : quint8 { None, Duplicate, Wrap };
 
 /// Operations on pictures of premultiplied colours with alpha; outside of a picture everything is transparent.
 
-/// Blurs by standard deviations in pixels across and down: by weights up to 2, by three box blurs from there on,
-/// as the standard suggests (Filter Effects 1 §9.14). The picture ends at `area` where edges are not transparent.
+/// Blurs by standard deviations in pixels across and down: by weights up to 2, by three box blurs above, as the
+/// standard suggests (Filter Effects 1 §9.14). The picture ends at `area` unless edges are transparent.
 void blurPicture(QImage *picture, double across, double down, EdgeMode edges = EdgeMode::None,
                  const QRect &area = QRect());
-/// Replaces every channel by its greatest (or smallest) value within a distance in pixels (Filter Effects 1 §9.18).
+/// Replaces every channel by its largest (or smallest) value within a distance in pixels (Filter Effects 1 §9.18).
 void morphPicture(QImage *picture, int across, int down, bool dilates);
-/// Multiplies plain colours by a matrix of four rows of five (Filter Effects 1 §9.6).
+/// Multiplies unpremultiplied colours by a matrix of four rows of five (Filter Effects 1 §9.6).
 void applyMatrix(QImage *picture, const std::array<double, 20> &matrix);
-/// Looks plain red, green, blue and alpha up in tables of 256 values.
+/// Maps unpremultiplied red, green, blue and alpha by tables of 256 values.
 void applyTables(QImage *picture, const std::array<QByteArray, 4> &tables);
 /// k1 * source * below + k2 * source + k3 * below + k4 on premultiplied channels, written over the picture below
 /// (Filter Effects 1 §9.8).
 void combinePictures(QImage *below, const QImage &source, const std::array<double, 4> &coefficients);
-/// Colours as linear light, or as they are encoded.
+/// Converts colours to linear light, or back to their encoding.
 void encodeLinear(QImage *picture);
 void decodeLinear(QImage *picture);
 /// Keeps the alpha and makes all colours black.

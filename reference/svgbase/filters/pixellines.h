@@ -8,7 +8,7 @@ namespace Svg {
 /// A channel of one row or column of a picture.
 using PixelLine = QVector<uchar>;
 
-/// Replaces every channel of every row (or column) of a picture by what `change` makes of it in place.
+/// Applies `change` to every channel of every row (or column) of a picture in place.
 template<typename Change> void changeLines(QImage *picture, bool columns, Change change)
 {
     constexpr int channels = 4;

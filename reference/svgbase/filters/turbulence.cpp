@@ -9,13 +9,13 @@ namespace {
 
 constexpr int latticeSize = 256;
 constexpr int channelCount = 4;
-/// Keeps lattice coordinates of ordinary places positive, as the standard has it.
+/// Keeps lattice coordinates of ordinary positions positive, as in the standard.
 constexpr double latticeOffset = 4096;
-/// Beyond it the fractions of lattice coordinates are lost, and with them the noise.
+/// Above it the fractions of lattice coordinates are lost, and with them the noise.
 constexpr double farthestPlace = 1e12;
 constexpr int greatest = 255;
 
-/// The generator of random numbers that the standard prescribes: a linear congruential one, modulo 2^31 - 1.
+/// The random number generator of the standard: a linear congruential one, modulo 2^31 - 1.
 class RandomNumbers
 {
 public:
@@ -32,7 +32,7 @@ private:
     qint64 m_state;
 };
 
-/// How the lattice repeats, so that a tile's edges meet.
+/// How the lattice repeats, so that a tile's edges match.
 struct Stitching
 {
     double width = 0;
@@ -66,7 +66,7 @@ double between(double share, double a, double b)
     return a + share * (b - a);
 }
 
-/// A place along one axis: the lattice lines around it, and the way from the first.
+/// A position along one axis: the lattice lines around it, and the distance from the first.
 struct LatticePlace
 {
     LatticePlace(double place, double wrap, double period)

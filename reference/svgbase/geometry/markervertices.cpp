@@ -26,7 +26,7 @@ Direction firstOf(const Direction &a, const Direction &b, const Direction &c)
     return a ? a : b ? b : c;
 }
 
-// A curve heads for the first point that differs from its start.
+// A curve starts towards the first point that differs from its start.
 Direction startDirection(const PathSegment &s)
 {
     if (s.kind != PathSegment::Curve)
@@ -80,7 +80,7 @@ private:
     const PathSegment *m_end;
 };
 
-// A segment without length takes the direction of the one before it, or else of the one after it (SVG 2 §9.5.1).
+// A segment without length takes the direction of the previous one, or else of the next one (SVG 2 §9.5.1).
 Direction Subpath::around(int segment, bool ends) const
 {
     const Direction own = ends ? endDirection(m_begin[segment]) : startDirection(m_begin[segment]);
@@ -120,7 +120,7 @@ double Subpath::angleAt(int vertex) const
     return 0;
 }
 
-// A subpath that goes on after being closed starts where it was closed.
+// A subpath that continues after being closed starts where it was closed.
 QVector<PathSegment> withMoves(const QVector<PathSegment> &segments, QVector<bool> *isAdded)
 {
     QVector<PathSegment> result;

@@ -6,11 +6,11 @@ namespace Svg {
 
 namespace {
 
-/// How far an end is drawn back, as a share of the size of its path: more than a painter takes for nothing, and
-/// less than shows.
+/// How far an end is drawn back, as a share of the size of its path: enough for a painter to notice, and too little
+/// to see.
 constexpr double gapShare = 1e-7;
 
-// The way to an end comes from the nearest point that differs from it.
+// The direction of an end comes from the nearest point that differs from it.
 QPointF arrivalAt(const QPainterPath &path, int end)
 {
     const QPointF place = path.elementAt(end);

@@ -9,12 +9,12 @@ namespace Svg {
 
 namespace {
 
-/// Parts that each curve is measured in.
+/// Number of parts that each curve is measured in.
 constexpr qint16 piecesPerCurve = 16;
-/// How far beside a cusp its direction is looked for, as a share of the curve.
+/// Distance from a cusp at which its direction is taken, as a share of the curve.
 constexpr double besideCusp = 1e-3;
 
-/// Places and weights of Gauss's rule with three points, on an interval of length 1.
+/// Positions and weights of Gauss's rule with three points, on an interval of length 1.
 struct GaussPoint
 {
     double place;
@@ -96,7 +96,7 @@ QPointF PathMeasure::derivative(const Piece &piece, double t) const
     return (p1 - p0) * (3 * s * s) + (p2 - p1) * (6 * s * t) + (p3 - p2) * (3 * t * t);
 }
 
-// A curve stands still where control points coincide; it leaves in the direction that it has beside that place.
+// A curve's velocity is zero where control points coincide; its direction there is that of nearby points.
 double PathMeasure::angleAt(const Piece &piece, double t) const
 {
     QPointF direction = derivative(piece, t);

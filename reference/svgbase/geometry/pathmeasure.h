@@ -5,11 +5,11 @@
 
 namespace Svg {
 
-/// Distances along a path, in the units of the path. Jumps to another subpath take no length.
+/// Distances along a path, in the units of the path. Jumps to another subpath have no length.
 class PathMeasure
 {
 public:
-    /// A point of the path and the direction there, degrees clockwise from the x axis (y pointing down).
+    /// A point of the path and its direction, degrees clockwise from the x axis (y pointing down).
     struct Place
     {
         QPointF point;
@@ -20,20 +20,20 @@ public:
 
     double length() const { return m_pieces.isEmpty() ? 0 : m_pieces.constLast().end; }
     bool isEmpty() const { return m_path.elementCount() == 0; }
-    /// The place at a distance from the begin, held between both ends of the path.
+    /// The place at a distance from the start, limited to the path.
     Place at(double distance) const;
-    /// Distance of every point that the path was made through: its first point and the end of each segment.
+    /// Distance of every point given for the path: its first point and the end of each segment.
     const QVector<double> &vertices() const { return m_vertices; }
 
 private:
-    /// A line, or a part of a curve that is short enough to take its length as even.
+    /// A line, or a part of a curve short enough to treat its speed as constant.
     struct Piece
     {
         int element;
-        /// Which one of its element's parts, and of how many.
+        /// Index of the part in its element, and their number.
         qint16 part;
         qint16 parts;
-        /// Distance of its end; it begins where the one before it ends.
+        /// Distance of its end; it begins where the previous one ends.
         double end;
 
         double from() const { return double(part) / parts; }

@@ -4,12 +4,12 @@ namespace Svg {
 
 namespace {
 
-/// Room that may stay, elements.
+/// Unused room that may stay, elements.
 constexpr int smallSlack = 2;
-/// Longer paths are rare, and theirs is at most as much as they need.
+/// Longer paths are rare, and their unused room is at most the size of the path.
 constexpr int longestCopied = 1000;
 
-// Elements of the right types in places that differ from each other, since a path leaves out what leads nowhere.
+// Elements of the right types at different points, since a path drops segments without length.
 QPainterPath typesOf(const QPainterPath &path)
 {
     QPainterPath copy{QPointF()};

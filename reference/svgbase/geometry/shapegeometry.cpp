@@ -17,7 +17,7 @@ QSizeF cornerRadii(const LengthReader &lengths)
     return QSizeF(lengths.hasSize(AttributeId::Rx) ? rx : ry, lengths.hasSize(AttributeId::Ry) ? ry : rx);
 }
 
-// Begins behind the first corner and goes clockwise, which dashes follow (SVG 2 §10.2).
+// Begins after the first corner and goes clockwise, which dashes follow (SVG 2 §10.2).
 void addRoundedRect(const QRectF &rect, double radiusX, double radiusY, QPainterPath *path)
 {
     const QSizeF corner(2 * radiusX, 2 * radiusY);
@@ -57,7 +57,7 @@ Geometry ellipseGeometry(const QRectF &box)
     return geometry;
 }
 
-// A line without length has caps, which a painter only gives to one with some (SVG 2 §13.5.5).
+// A line without length has caps, which a painter only gives to one that has some (SVG 2 §13.5.5).
 QPointF beside(const QPointF &point)
 {
     return point + QPointF(dotLength, 0);

@@ -13,14 +13,14 @@ namespace Svg {
 struct Geometry
 {
     QPainterPath path;
-    /// Known exactly even where nothing is drawn, as for a rectangle without width.
+    /// Exact even where nothing is drawn, as for a rectangle without width.
     QRectF bounds;
     bool valid = false;
     /// Elements that end an open subpath where it began.
     QVector<int> openEnds{};
 };
 
-/// Reads the lengths of one element, from its attributes or from what style says in their place.
+/// Reads the lengths of one element, from its attributes or its style.
 class LengthReader
 {
 public:
@@ -30,19 +30,19 @@ public:
         , m_context{viewport, style.font.size, style.font.rootSize}
     {
     }
-    /// For elements whose lengths style can't give.
+    /// For elements whose lengths are not properties.
     LengthReader(const Attributes &attributes, const LengthContext &context)
         : m_attributes(attributes)
         , m_context(context)
     {
     }
 
-    /// User units; the fallback where the attribute is absent or no length.
+    /// User units; the fallback when the attribute is absent or not a length.
     double value(AttributeId id, Axis axis, double fallback = 0) const;
-    /// The same, the fallback for what is below 0, too.
+    /// The same, with the fallback for negative values, too.
     double size(AttributeId id, Axis axis, double fallback = 0) const;
     bool has(AttributeId id) const;
-    /// Whether it is a length that a size can have, which a negative one is not.
+    /// Whether it is a length that a size can have, which excludes negative ones.
     bool hasSize(AttributeId id) const;
 
 private:
@@ -53,7 +53,7 @@ private:
     LengthContext m_context;
 };
 
-/// The geometry of every kind but text and images. What could not be read is described in `problem`, when given.
+/// The geometry of every kind except text and images. `problem`, when given, receives what could not be read.
 Geometry shapeGeometry(const Node &node, const ComputedStyle &style, const QSizeF &viewport,
                        Problem *problem = nullptr);
 /// The bounding box of a circle or an ellipse, user units.

@@ -15,26 +15,26 @@ namespace Svg {
 
 namespace {
 
-/// A property of one element, wherever it is said.
+/// One declaration of a property of an element, from any origin.
 struct Declaration
 {
     AttributeId property;
-    /// Empty for a value without a text.
+    /// Empty for a value without text.
     QStringView value;
-    /// Said by the element itself rather than by a rule, whose errors are known already.
+    /// Declared by the element itself rather than by a rule, whose errors have been reported.
     bool own = true;
-    /// Said by a presentation attribute.
+    /// Declared by a presentation attribute.
     bool isAttribute = false;
-    /// A value without a text; null for a text.
+    /// A value without text; null for a text.
     const AttributeValue *held = nullptr;
 
     QString text() const { return held ? held->text() : value.toString(); }
 };
 
-/// Tells a presentation attribute apart from a style of the same text.
+/// Distinguishes a presentation attribute from a style of the same text.
 constexpr ushort attributeMark = 0x100;
 
-// The user agent style sheet of SVG 2 §6.7 says so; the initial value of "overflow" is "visible".
+// From the user agent style sheet of SVG 2 §6.7; the initial value of "overflow" is "visible".
 bool hidesOverflow(ElementKind kind)
 {
     switch (kind) {
@@ -49,7 +49,7 @@ bool hidesOverflow(ElementKind kind)
     }
 }
 
-/// Declarations in rising order of rank.
+/// Declarations in increasing order of rank.
 class DeclarationList
 {
 public:
@@ -58,7 +58,7 @@ public:
     {
     }
 
-    /// False when not all rules were looked at.
+    /// False when not all rules were tried.
     bool collect(NodeIndex element);
     const QVarLengthArray<Declaration, 16> &list() const { return m_list; }
     bool lacksCustomProperties() const { return m_customLeft < 0; }
@@ -66,7 +66,7 @@ public:
     bool holdsValues() const { return m_holdsValues; }
 
 private:
-    /// False once the element may have no more of them.
+    /// False once the element has used its share.
     bool takeCustomProperty(QStringView declaration);
     void addMatches(bool important);
     void turnLayers();
@@ -76,7 +76,7 @@ private:
 
     const Tree &m_tree;
     int m_customLeft = 0;
-    /// Declarations of rules that may still be looked at.
+    /// Declarations of rules that may still be examined.
     int m_stepsLeft = 0;
     QVarLengthArray<Declaration, 16> m_list;
     bool m_holdsValues = false;
@@ -87,7 +87,7 @@ private:
     QVector<QString> m_texts;
 };
 
-// The more elements there are, the fewer each may have; the root is but one.
+// The more elements there are, the fewer declarations each may have; only the root gets all.
 int mostCustomProperties(const Tree &tree, NodeIndex element)
 {
     return element == rootNode ? Limits::rootCustomProperties
@@ -100,7 +100,7 @@ bool DeclarationList::takeCustomProperty(QStringView declaration)
     return m_customLeft >= 0;
 }
 
-// Of what is important, earlier layers win (CSS Cascade 5 §6.4.4).
+// Among important declarations, earlier layers win (CSS Cascade 5 §6.4.4).
 void DeclarationList::turnLayers()
 {
     const auto isLower = [](const RuleBlock *a, const RuleBlock *b) { return a->layer < b->layer; };
@@ -108,8 +108,8 @@ void DeclarationList::turnLayers()
         std::stable_sort(m_matches.begin(), m_matches.end(), isLower);
 }
 
-// From the highest rank down: what rules say was accepted already, so that only the first on a property counts.
-// Custom properties are many under one id.
+// From the highest rank down: the declarations of rules are valid, so only the first one of a property counts. All
+// custom properties have one id.
 void DeclarationList::addMatches(bool important)
 {
     std::bitset<256> known;
@@ -151,7 +151,7 @@ void DeclarationList::addStyle(const QString &text, bool important)
         view = m_texts.constLast();
     }
     const QVector<StyleDeclaration> declarations = parseStyleAttribute(view);
-    // Of those that set all properties the last one alone counts.
+    // Of the shorthands for all properties only the last one counts.
     const auto isAll = [important](const StyleDeclaration &declaration) {
         return declaration.important == important &&
                declaration.name.compare(allProperties, Qt::CaseInsensitive) == 0;
@@ -223,7 +223,7 @@ bool isTextElement(ElementKind kind)
     return kind == ElementKind::Text || isTextPart(kind);
 }
 
-// Inherited as the keyword that it is (CSS Color 4, the "currentcolor" keyword).
+// Inherited as the keyword itself (CSS Color 4, the "currentcolor" keyword).
 void followColor(const QColor &color, Paint *paint)
 {
     if (paint->followsColor)
@@ -290,7 +290,7 @@ void declareAll(const DeclarationList &declarations, int *charactersLeft, Comput
         style->custom.settle(charactersLeft);
 }
 
-/// The element that a style is worked out for.
+/// The element whose style is computed.
 struct StyledElement
 {
     const Tree &tree;
@@ -368,7 +368,7 @@ StylePointer sharedCascade(const Tree &tree, NodeIndex element, const StylePoint
     if (declarations.list().isEmpty() && parent->isInitial())
         return parent;
     const StyledElement styled{tree, element};
-    // Values without a text change with the next frame: other elements have no use for them.
+    // Values without text change with the next frame, so other elements cannot share the result.
     if (declarations.holdsValues())
         return StylePointer(new SharedStyle(applied(declarations, styled, {*parent, viewport}, notes)));
     const StyleOrigin origin{parent, viewport, styled.isText(), textOf(declarations)};

@@ -16,9 +16,9 @@ namespace Svg {
 
 namespace {
 
-/// Most characters of a value that a message repeats.
+/// Most characters of a value quoted in a message.
 constexpr int longestQuote = 40;
-/// Characters of a value that take as long as a step of finding rules.
+/// Characters of a value that count as one step of finding rules.
 constexpr int charactersPerStep = 2;
 
 bool isStyleSheet(const Node &node)
@@ -30,7 +30,7 @@ bool isStyleSheet(const Node &node)
     return css && includesScreens(node.attributes.value(QStringLiteral("media")));
 }
 
-/// Lines and columns of characters of a style sheet; those behind the one before it are found from there on.
+/// Lines and columns of characters of a style sheet; each search continues from the previous one.
 class SheetPlaces
 {
 public:
@@ -66,7 +66,7 @@ private:
     int m_lineStart = 0;
 };
 
-// `complete` is set to false when there are more than are looked at.
+// `complete` is set to false when there are more declarations than the limit.
 QVector<QString> classesOf(const Node &node, bool *complete)
 {
     QVector<QString> result;
@@ -81,7 +81,7 @@ QVector<QString> classesOf(const Node &node, bool *complete)
     return result;
 }
 
-// All of them are accepted, so that the last word of a block on a property is the only one that counts.
+// All of them are valid, so only the last declaration of a property in a block counts.
 QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
 {
     QSet<int> known;
@@ -90,7 +90,7 @@ QVector<RuleDeclaration> withoutOverruled(const QVector<RuleDeclaration> &block)
         const int key = 2 * int(block.at(i).property) + (block.at(i).important ? 1 : 0);
         if (known.contains(key))
             continue;
-        // Custom properties are many under one id.
+        // All custom properties have one id.
         if (block.at(i).property != AttributeId::CustomProperty)
             known.insert(key);
         result.append(block.at(i));
@@ -179,7 +179,7 @@ void StyleRules::addFontFace(const QVector<SheetDeclaration> &descriptors)
 void StyleRules::add(const StyleRule &rule, StyleSheet *sheet)
 {
     QVector<RuleDeclaration> block;
-    // Of those that set all properties the last one alone counts.
+    // Of the shorthands for all properties only the last one counts.
     const int lastAll[] = {lastOfAll(rule.declarations, false), lastOfAll(rule.declarations, true)};
     for (int i = 0; i < rule.declarations.size(); ++i) {
         const SheetDeclaration &declaration = rule.declarations.at(i);
@@ -236,7 +236,7 @@ void StyleRules::index(const QVector<int> &layerRanks)
     }
 }
 
-// Rules inside of rules hold each other's selectors many times over.
+// Nested rules repeat each other's selectors many times.
 void StyleRules::noteAttributes(const Selector &selector)
 {
     if (--m_notesLeft < 0) {
@@ -291,7 +291,7 @@ bool StyleRules::match(const Tree &tree, NodeIndex element, QVector<const RuleBl
         matcher.countNames(entry.above.size());
         return names->mayHold(entry.above);
     };
-    // The most specific first: what is left of the steps goes to the others.
+    // The most specific first: the others get the remaining steps.
     const auto tryAll = [&](const QVector<int> &places) {
         for (int i = places.size() - 1; i >= 0 && !matcher.isExhausted(); --i) {
             const Entry &entry = m_entries.at(places.at(i));
@@ -301,7 +301,7 @@ bool StyleRules::match(const Tree &tree, NodeIndex element, QVector<const RuleBl
                 found.append(places.at(i));
         }
     };
-    // The rarest first: what is left of the steps goes to the others.
+    // The rarest first: the others get the remaining steps.
     const QString id = node.attributes.value(AttributeId::Id);
     if (!id.isEmpty())
         tryAll(m_byId.value(id));

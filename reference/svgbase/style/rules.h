@@ -10,7 +10,7 @@
 
 namespace Svg {
 
-/// A declaration of a rule, its property known.
+/// A declaration of a rule with a known property.
 struct RuleDeclaration
 {
     AttributeId property;
@@ -23,30 +23,31 @@ struct RuleBlock
 {
     QVector<RuleDeclaration> declarations;
     int layer = 0;
-    /// Steps that taking them for an element counts.
+    /// Steps counted for applying them to an element.
     int steps = 0;
 };
 
-/// A font that a style sheet describes (CSS Fonts 3 §4), as far as it is read.
+/// A font described by a style sheet (CSS Fonts 3 §4), as far as it is supported.
 struct FontFaceRule
 {
     QString family;
     QString weight;
     QString style;
-    /// A list of where it may be found.
+    /// The list of its sources.
     QString source;
 };
 
-/// The rules of all style sheets of a document, indexed so that an element meets only rules that may concern it.
+/// The rules of all style sheets of a document, indexed so that an element is tested only against rules that may
+/// match it.
 class StyleRules
 {
 public:
-    /// The rules of a tree's "style" elements, in their order. Null when there are none. `messages`, when given,
-    /// gets what could not be read.
+    /// The rules of a tree's "style" elements, in document order. Null without any. `messages`, when given,
+    /// receives what could not be read.
     static StyleRulesPointer compile(const Tree &tree, Messages *messages = nullptr);
 
-    /// Collects the matching rules of an element, in falling order of layers and specificity; false if the search
-    /// was cut short, since it would have taken too long.
+    /// Collects the matching rules of an element, in decreasing order of layers and specificity; false if the
+    /// search was cut short because it would have taken too long.
     bool match(const Tree &tree, NodeIndex element, QVector<const RuleBlock *> *matches) const;
     /// In the order of the style sheets.
     const QVector<FontFaceRule> &fontFaces() const { return m_fontFaces; }
@@ -58,7 +59,7 @@ private:
     {
         Selector selector;
         int block = 0;
-        /// Names that must stand above the element.
+        /// Names that must occur above the element.
         QVector<uint> above;
     };
 
@@ -68,24 +69,24 @@ private:
     void index(const QVector<int> &layerRanks);
     void noteAttributes(const Selector &selector);
 
-    /// In rising order of specificity once they are indexed, else in that of the style sheets.
+    /// In increasing order of specificity once they are indexed, else in that of the style sheets.
     QVector<Entry> m_entries;
     QVector<RuleBlock> m_blocks;
-    /// Places of entries by what their last compound asks for: its id, else a class, else its tag, else nothing.
+    /// Indexes of entries by their last compound: its id, else a class, else its tag, else nothing.
     QHash<QString, QVector<int>> m_byId;
     QHash<QString, QVector<int>> m_byClass;
     QHash<QString, QVector<int>> m_byTag;
     QVector<int> m_universal;
     QSet<QString> m_attributes;
     QVector<FontFaceRule> m_fontFaces;
-    /// Whether a rule asks for an attribute of any namespace.
+    /// Whether a rule tests an attribute of any namespace.
     bool m_anyNamespace = false;
-    /// Selectors whose attributes are still noted; those of others may be any.
+    /// Selectors whose attributes may still be noted; those of further ones may be any.
     int m_notesLeft = Limits::styleRules;
     bool m_full = false;
 };
 
-/// Appends a declaration, a shorthand as the properties that it stands for. What is no property here is left out.
+/// Appends a declaration, a shorthand as its longhand properties. Unknown properties are left out.
 void appendLonghands(const QString &name, const QString &value, bool important, QVector<RuleDeclaration> *list);
 
 } // namespace Svg

@@ -62,7 +62,7 @@ bool matchesValue(const QString &value, const AttributeTest &test)
     return false;
 }
 
-// How many characters of a value its test may look at, those of the test included where it looks at all of them.
+// How many characters of a value its test may examine, those of the test included where it examines all of them.
 qsizetype charactersOfTest(const QString &value, const AttributeTest &test)
 {
     if (test.relation == AttributeTest::Exists)
@@ -113,7 +113,7 @@ bool isCounted(int position, const PseudoClass &pseudo)
 /// Tags, ids and classes of the same text are different names.
 enum NameSpace : uint { TagNames = 1, IdNames = 2, ClassNames = 3 };
 
-/// Longest tags, ids and classes of all elements above that are looked at.
+/// Limits on the length of the tags, ids and classes of all elements above together.
 constexpr int mostNameCharacters = 8192;
 
 uint tagHash(const QString &tag)
@@ -138,7 +138,7 @@ bool containsText(QStringView text, QStringView part)
 {
     if (part.isEmpty() || part.size() > text.size())
         return part.isEmpty();
-    // Of the part's beginning up to each character: how much of its end is a beginning, too.
+    // For each prefix of the part, the length of its longest proper suffix that is also a prefix.
     std::vector<int> borders(size_t(part.size()), 0);
     for (int at = 1, border = 0; at < int(part.size()); ++at) {
         while (border > 0 && part[at] != part[border])
@@ -282,7 +282,7 @@ bool SelectorMatcher::matchesAny(NodeIndex element, const QVector<Selector> &sel
     return false;
 }
 
-// The last combinator of the chain tells where to look: below the element, or at and below what comes after it.
+// The last combinator of the chain tells where to search: below the element, or at and below its later siblings.
 bool SelectorMatcher::matchesRelative(NodeIndex element, const Selector &selector)
 {
     const NodeIndex anchorBefore = m_anchor;
@@ -312,7 +312,7 @@ bool SelectorMatcher::speaks(const QString &own, const QStringList &languages)
     return false;
 }
 
-// The nearest element that names its language decides.
+// The nearest element that declares its language decides.
 bool SelectorMatcher::matchesLanguage(NodeIndex element, const QStringList &languages)
 {
     for (NodeIndex at = element; at != noNode && takeStep(); at = m_tree.node(at).parent) {
@@ -432,7 +432,7 @@ NodeIndex SelectorMatcher::step(NodeIndex element, Combinator combinator)
     return at;
 }
 
-// Right to left; "descendant" and "later sibling" try every place, which the budget of steps keeps in bounds.
+// Right to left; "descendant" and "later sibling" try every candidate, which the budget of steps limits.
 bool SelectorMatcher::matchesFrom(NodeIndex element, const Selector &selector, int compound)
 {
     if (!matchesCompound(element, selector.compounds.at(compound)))

@@ -8,13 +8,14 @@
 
 namespace Svg {
 
-/// Which names stand on the elements above one, roughly: a name that is there is found, one that is not may be too.
+/// The names of an element's ancestors, approximately: a name that occurs is found, one that does not may be found,
+/// too.
 class AncestorNames
 {
 public:
     AncestorNames(const Tree &tree, NodeIndex element);
     bool mayHold(const QVector<uint> &names) const;
-    /// How many elements were looked at.
+    /// How many elements were examined.
     int elementCount() const { return m_elementCount; }
 
 private:
@@ -28,7 +29,7 @@ private:
 /// Names of ancestors that a selector requires, each as a number for `AncestorNames`.
 QVector<uint> ancestorNames(const Selector &selector);
 
-/// Holds selectors against elements. Every step is counted, and once there are none left nothing matches any more.
+/// Matches selectors against elements. Every step is counted, and once none are left nothing matches.
 class SelectorMatcher
 {
 public:
@@ -39,7 +40,7 @@ public:
     }
 
     bool matches(NodeIndex element, const Selector &selector);
-    /// Counts looking for names above the element, and a selector that these ruled out without a closer look.
+    /// Counts looking up names of ancestors, and a selector that they ruled out without a closer look.
     void countAncestors(int elements) { takeSteps(elements); }
     void countNames(int names) { takeSteps(names / testsPerStep); }
     void countPassed() { takeStep(); }
@@ -59,11 +60,11 @@ private:
     bool hasSibling(NodeIndex element, bool after, bool ofType);
     NodeIndex step(NodeIndex element, Combinator combinator);
     bool takeStep() { return m_stepsLeft > 0 && m_stepsLeft-- > 0; }
-    /// False, with no steps left, where that takes more than there are.
+    /// False, with no steps left, when it takes more than are left.
     bool takeSteps(qsizetype steps);
-    /// Looking through a text takes the longer the longer it is.
+    /// Searching a text takes time proportional to its length.
     bool takeText(qsizetype characters) { return takeSteps(characters / charactersPerStep); }
-    /// Looking for an attribute takes the longer the more there are.
+    /// Looking for an attribute takes time proportional to their number.
     bool takeLook(const Attributes &attributes) { return takeSteps(attributes.count() / attributesPerStep); }
 
     static constexpr int charactersPerStep = 32;
@@ -76,11 +77,11 @@ private:
     NodeIndex m_anchor = noNode;
 };
 
-/// Calls a function with the words of a list separated by white space, the first ones up to a number.
+/// Calls a function with the words of a list separated by white space, at most a number of them.
 void forEachWord(QStringView list, int most, const std::function<void(QStringView)> &use);
-/// Whether a text holds another one.
+/// Whether a text contains another one.
 bool containsText(QStringView text, QStringView part);
-/// Whether one of the words of a list separated by white space is `word`; never where that holds white space itself
+/// Whether `word` is one of the words of a list separated by white space; never when it contains white space itself
 /// (Selectors 4 §6.1).
 bool containsWord(QStringView list, QStringView word);
 

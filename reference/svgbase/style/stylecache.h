@@ -14,9 +14,9 @@ struct StyleOrigin
     StylePointer parent;
     /// Reference of percentages, user units.
     QSizeF viewport;
-    /// Lines that decorate text are for what is below anything else.
+    /// Decoration lines lie below the elements of a text that declares them.
     bool isText = false;
-    /// Everything that is said of the element, in its order.
+    /// All declarations for the element, in order.
     QString declarations;
 
     bool operator==(const StyleOrigin &other) const
@@ -26,11 +26,11 @@ struct StyleOrigin
     }
 };
 
-/// Styles that were worked out lately: elements of which the same is said under the same parent share one.
+/// Recently computed styles: elements with the same declarations under the same parent share one.
 class StyleCache
 {
 public:
-    /// Null when it is not known.
+    /// Null when it is unknown.
     StylePointer find(const StyleOrigin &origin) const;
     void insert(const StyleOrigin &origin, const StylePointer &style);
 

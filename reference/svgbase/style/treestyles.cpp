@@ -16,7 +16,7 @@ ComputedStyle TreeStyles::styleOf(const Tree &tree, NodeIndex element)
     return cascade(tree, element, {around(tree, tree.node(element).parent), QSizeF()});
 }
 
-// From the nearest element whose style is known down to the one that is asked for.
+// From the nearest element with a known style down to the requested one.
 ComputedStyle TreeStyles::around(const Tree &tree, NodeIndex element)
 {
     QVarLengthArray<NodeIndex, 16> unknown;

@@ -7,13 +7,13 @@
 
 namespace Svg {
 
-/// Styles of elements where they stand in a tree, whatever uses them; percentages count as 0. Those of the elements
-/// above are kept, so that many elements deep down take no longer than as many at the top.
+/// Styles of elements at their place in the tree, regardless of "use" elements; percentages count as 0. Styles of
+/// ancestors are kept, so that many deep elements take no longer than as many at the top.
 class TreeStyles
 {
 public:
     ComputedStyle styleOf(const Tree &tree, NodeIndex element);
-    /// To be called when styles may be others than before.
+    /// Call this when styles may have changed.
     void clear() { m_known.clear(); }
 
 private:
