@@ -15,7 +15,7 @@ namespace {
 
 constexpr double fullChannel = 255;
 
-/// Letters that stand for units in a form.
+/// Letters that represent units in a form.
 struct UnitLetter
 {
     Unit unit;
@@ -76,7 +76,7 @@ AnimatedValue parseNumbersValue(const QString &text)
     return value.numbers.isEmpty() ? replacedValue(text) : value;
 }
 
-/// How many arguments a function has when all are given.
+/// Number of arguments of a function when all are given.
 int argumentCount(TransformFunction::Kind kind)
 {
     switch (kind) {
@@ -90,7 +90,7 @@ int argumentCount(TransformFunction::Kind kind)
     }
 }
 
-/// Arguments that are left out get the value that they stand for (SVG 1.1 §7.6).
+/// Omitted arguments get their default values (SVG 1.1 §7.6).
 AnimatedValue parseTransformValue(const QString &text, TransformFunction::Kind kind)
 {
     const std::optional<QVector<double>> numbers = parseNumberList(text);
@@ -243,7 +243,7 @@ AttributeValue attributeValue(const AnimatedValue &value, const ValueContext &co
     if (value.kind == AnimatedValue::Text)
         return value.text;
     const TypedValue typed = typedValue(value, context);
-    // A result beyond all numbers is an error of the attribute, as it is in a text.
+    // A result that is not finite is an error of the attribute, as it is in a text.
     if (!std::all_of(value.numbers.begin(), value.numbers.end(), [](double number) { return qIsFinite(number); }))
         return valueText(typed);
     const auto *lengths = std::get_if<QVector<Length>>(&typed);
@@ -294,7 +294,7 @@ AnimatedValue sumOf(const AnimatedValue &a, const AnimatedValue &b, double facto
     return result;
 }
 
-// Both ends are met exactly.
+// Both ends are reached exactly.
 AnimatedValue between(const AnimatedValue &a, const AnimatedValue &b, double share)
 {
     if (share <= 0)
@@ -307,7 +307,7 @@ AnimatedValue between(const AnimatedValue &a, const AnimatedValue &b, double sha
     return result;
 }
 
-// Turns are as far apart as their angles, wherever their centres are.
+// The distance of rotations is that of their angles, wherever their centres are.
 double distanceBetween(const AnimatedValue &a, const AnimatedValue &b, const ValueContext &context)
 {
     const int count = context.function == TransformFunction::Rotate ? 1 : a.numbers.size();

@@ -28,7 +28,7 @@ bool Effect::makeAllAlike()
     for (int i = 1; i < m_values.size(); ++i)
         if (!makeAlike(&m_values[0], &m_values[i], m_context))
             return false;
-    // The first may have changed its form on the way.
+    // The first value may have been converted on the way.
     for (int i = 1; i < m_values.size(); ++i)
         if (!makeAlike(&m_values[0], &m_values[i], m_context))
             return false;
@@ -115,7 +115,7 @@ std::optional<Effect> Effect::readBy(const Attributes &attributes, const ValueCo
     return effect;
 }
 
-// In this order of rank (SMIL 3.0 §12.5.2).
+// In this order of precedence (SMIL 3.0 §12.5.2).
 std::optional<Effect> Effect::read(const Attributes &attributes, const ValueContext &context, bool isSet)
 {
     const CalcMode mode = calcModeOf(attributes, CalcMode::Linear);
@@ -135,7 +135,7 @@ AnimatedValue Effect::valueAt(const RoundPosition &position) const
     return place.share > 0 ? between(value, m_values.at(place.index + 1), place.share) : value;
 }
 
-// A list takes the function up as it is. What goes "to" a value starts from the function that changes nothing.
+// A list appends the function. An animation "to" a value starts from the identity.
 TransformFunction Effect::function(const RoundPosition &position) const
 {
     AnimatedValue below = zeroOf(m_values.constFirst());
@@ -147,7 +147,7 @@ TransformFunction Effect::function(const RoundPosition &position) const
 AnimatedValue Effect::applied(const AnimatedValue &underlying, const RoundPosition &position) const
 {
     AnimatedValue below = underlying;
-    // An attribute that is absent counts as 0.
+    // An absent attribute counts as 0.
     if (below.kind == AnimatedValue::Text && below.text.isEmpty())
         below = zeroOf(m_values.constFirst());
     if (m_blends) {

@@ -10,15 +10,15 @@ namespace Svg {
 class Effect
 {
 public:
-    /// Reads "from", "to", "by", "values" and what goes with them; "to" alone for a `set`. Nothing when the element
-    /// gives no usable values.
+    /// Reads "from", "to", "by", "values" and the attributes around them; only "to" for a `set`. Empty when the
+    /// element gives no usable values.
     static std::optional<Effect> read(const Attributes &attributes, const ValueContext &context, bool isSet);
 
-    /// The value that the attribute has where it had `underlying` without the effect.
+    /// The value of an attribute that is `underlying` without the effect.
     AnimatedValue applied(const AnimatedValue &underlying, const RoundPosition &position) const;
-    /// The value as a transform function, for a list of them to take up.
+    /// The value as a transform function to append to a list.
     TransformFunction function(const RoundPosition &position) const;
-    /// Whether the value is added to what lies under the effect.
+    /// Whether the value is added to the underlying one.
     bool isAdditive() const { return m_additive; }
 
 private:
@@ -37,9 +37,9 @@ private:
     Keyframes m_frames;
     bool m_additive = false;
     bool m_accumulates = false;
-    /// "to" alone: goes from whatever the attribute has to the value.
+    /// "to" alone: from the underlying value to this one.
     bool m_blends = false;
-    /// Whether there is anything between two values.
+    /// Whether two values can be interpolated.
     bool m_interpolates = true;
 };
 

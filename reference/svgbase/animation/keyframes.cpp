@@ -12,7 +12,7 @@ namespace Svg {
 
 namespace {
 
-/// Halvings of the curve's parameter; enough for every bit of a double that shows.
+/// Bisections of the curve's parameter; enough for the visible precision of a double.
 constexpr int easingSteps = 50;
 
 QStringList listItems(const QString &text)
@@ -55,7 +55,7 @@ std::optional<QVector<EasingCurve>> parseCurves(const QString &text)
     return curves;
 }
 
-// From 0 on, never going back; the last value of a mode that moves must be reached at 1.
+// Times start at 0 and never decrease; in interpolating modes the last value is at 1.
 bool areKeyTimes(const QVector<double> &times, CalcMode mode)
 {
     if (times.isEmpty() || times.constFirst() != 0 || !std::is_sorted(times.begin(), times.end()))
@@ -90,7 +90,7 @@ std::optional<QVector<double>> parseSemicolonNumbers(const QString &text)
     return numbers;
 }
 
-// x(t) rises with t, so halving finds the parameter of a time.
+// x(t) increases with t, so bisection finds the parameter of a time.
 double EasingCurve::at(double time) const
 {
     double low = 0;

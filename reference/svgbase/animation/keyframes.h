@@ -11,7 +11,7 @@ enum class CalcMode { Discrete, Linear, Paced, Spline };
 /// "calcMode"; the fallback where it is absent or unknown.
 CalcMode calcModeOf(const Attributes &attributes, CalcMode fallback);
 
-/// A place between two values of a list: the share of the way from one to the next.
+/// A position between two values of a list: the interpolation share from one to the next.
 struct KeyframePosition
 {
     int index = 0;

@@ -89,7 +89,7 @@ struct LatticePlace
 
 using Channels = std::array<double, channelCount>;
 
-/// Gradient noise on a lattice of random directions, of all channels.
+/// Gradient noise on a lattice of random directions, for all channels.
 class Noise
 {
 public:
@@ -153,7 +153,7 @@ Channels Noise::at(const QPointF &place, const Stitching &stitching) const
     return result;
 }
 
-// The nearest frequency, by ratio, of which a whole number of waves fit.
+// The nearest frequency, by ratio, with a whole number of waves in the tile.
 double fittedFrequency(double frequency, double length)
 {
     if (frequency <= 0 || length <= 0)

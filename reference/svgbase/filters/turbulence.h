@@ -14,15 +14,15 @@ struct Turbulence
     QSizeF frequency{0, 0};
     int octaves = 1;
     bool fractal = false;
-    /// Whether the pattern meets itself at the edges of `tile`, user units.
+    /// Whether the pattern is continuous across the edges of `tile`, user units.
     bool stitches = false;
     QRectF tile;
-    /// Where the generator of random numbers starts.
+    /// Seed of the random number generator.
     double start = 0;
 };
 
-/// Fills a picture of premultiplied colours with the noise of its pixels' places; `toUser` maps its pixels to user
-/// units.
+/// Fills a picture of premultiplied colours with the noise at its pixels' positions; `toUser` maps its pixels to
+/// user units.
 void fillWithTurbulence(QImage *picture, const Turbulence &turbulence, const QTransform &toUser);
 
 } // namespace Svg

@@ -42,11 +42,11 @@ struct OwnStyle
     double opacity = 1;
     bool displayed = true;
     bool strokeScales = true;
-    /// Geometry and transforms that style gives in place of the attributes of those names.
+    /// Geometry and transforms from style that replace the attributes of those names.
     QVector<Attribute> attributes;
     QColor stopColor = Qt::black;
     double stopOpacity = 1;
-    /// Null for an element without clip path, mask, filter, blending and the like.
+    /// Null for an element without clip path, mask, filter, blending and similar properties.
     QSharedDataPointer<EffectStyle> effects;
     /// Null for most parts of texts.
     QSharedDataPointer<InlineStyle> inlineText;
@@ -58,7 +58,8 @@ struct OwnStyle
     }
 };
 
-/// The value of every property of one element, inheritance done (SVG 1.1 §6.1). A fresh one holds initial values.
+/// The value of every property of one element after inheritance (SVG 1.1 §6.1). A default-constructed one has
+/// initial values.
 struct ComputedStyle : OwnStyle
 {
     QColor color = Qt::black;
@@ -78,7 +79,7 @@ struct ComputedStyle : OwnStyle
     TextAnchor textAnchor = TextAnchor::Start;
     bool visible = true;
     Qt::FillRule clipRule = Qt::WindingFill;
-    /// Whether colours are mixed in linear light: gradients and masks, filters.
+    /// Whether colours are mixed in linear light: in gradients and masks, and in filters.
     bool mixesLinear = false;
     PaintOrder paintOrder{{PaintStep::Fill, PaintStep::Stroke, PaintStep::Markers}};
     bool filtersLinear = true;
@@ -91,11 +92,11 @@ struct ComputedStyle : OwnStyle
     QSharedDataPointer<MarkerStyle> markers;
     FontStyle font;
     CustomProperties custom;
-    /// Null where a text says nothing but its font.
+    /// Null for a text that sets only its font.
     QSharedDataPointer<TextStyle> text;
 };
 
-/// A style that elements share that are styled alike.
+/// A style shared by elements of equal style.
 struct SharedStyle : QSharedData, ComputedStyle
 {
     SharedStyle() = default;
@@ -109,7 +110,7 @@ using StylePointer = QExplicitlySharedDataPointer<const SharedStyle>;
 /// A style of initial values, shared.
 const StylePointer &initialStyle();
 
-/// @name Records of a style, or their initial values where it has none
+/// @name Records of a style, or their initial values when it has none
 /// @{
 const EffectStyle &effectStyleOf(const ComputedStyle &style);
 const InlineStyle &inlineStyleOf(const ComputedStyle &style);
@@ -117,7 +118,8 @@ const MarkerStyle &markerStyleOf(const ComputedStyle &style);
 const TextStyle &textStyleOf(const ComputedStyle &style);
 /// @}
 
-/// Whether two styles give an element of the same attributes the same outlines. A false answer may be too careful.
+/// Whether two styles give an element of the same attributes the same outlines. False is possible for equal
+/// outlines, too.
 bool isLaidOutAlike(const ComputedStyle &a, const ComputedStyle &b);
 
 /// The initial style of a child: inherited values of its parent, and initial values for the rest.
@@ -125,8 +127,8 @@ ComputedStyle inheritedStyle(const ComputedStyle &parent);
 
 /// Whether a style asks for lines along its text.
 bool asksForLines(const ComputedStyle &style);
-/// Lines that a group asks for run along all text in it, painted as the group says (CSS Text Decoration 3 §2).
-/// False where `Limits::decoratingGroups` are around it already.
+/// Decoration lines of a group run along all text in it, painted with the group's paint (CSS Text Decoration 3 §2).
+/// False when `Limits::decoratingGroups` already apply.
 bool decorateTextBelow(ComputedStyle &group);
 
 } // namespace Svg

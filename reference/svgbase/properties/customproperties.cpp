@@ -11,7 +11,7 @@ namespace {
 /// Deepest nesting of fallbacks, and longest text that references may make.
 constexpr int deepestFallback = 16;
 constexpr int longestValue = 4096;
-/// Deepest nesting of elements that declare any; deeper ones declare none.
+/// Deepest nesting of elements that declare custom properties; deeper ones declare none.
 constexpr int deepestLevel = 32;
 
 qsizetype closingBracket(QStringView text, qsizetype from)
@@ -44,7 +44,7 @@ private:
     int m_references = 0;
 };
 
-// Declared properties are settled by now and refer to nothing.
+// Declared properties have been resolved by now and contain no references.
 bool Substitution::appendReference(QStringView arguments, QString *result)
 {
     if (++m_references > mostReferences)

@@ -59,7 +59,7 @@ const Keyword<Overflow> overflows[] = {
     {QLatin1String("scroll"), Overflow::Hidden},
 };
 
-// "auto" leaves the choice, which is the one that the properties are specified with.
+// "auto" leaves the choice to the implementation: the default of the properties.
 const Keyword<bool> colorInterpolations[] = {
     {QLatin1String("sRGB"), false},
     {QLatin1String("linearRGB"), true},
@@ -97,7 +97,7 @@ struct ReferenceCodec
     static QString print(const QString &id) { return referenceText(id); }
 };
 
-// The shorthand also sets the mode; its other parts make no difference to the mask of an element of SVG.
+// The shorthand also sets the mode; its other parts have no effect on the masks of SVG elements.
 bool applyMask(ComputedStyle &style, QStringView text, const PropertyContext &)
 {
     QString id;
@@ -174,7 +174,7 @@ bool applyMarkers(ComputedStyle &style, QStringView text, const PropertyContext 
     return true;
 }
 
-// A shorthand has no text for values that differ.
+// A shorthand has no text for differing values.
 QString printMarkers(const ComputedStyle &style)
 {
     const MarkerStyle &markers = markerStyleOf(style);
@@ -217,7 +217,7 @@ const Property *effectProperties()
     return rows;
 }
 
-// Filters do not know the operator that is no mode of blending.
+// Filters lack the operators that are not blend modes.
 BlendMode blendModeOf(QStringView name)
 {
     const BlendMode mode = keywordValue(name, blendModes).value_or(BlendMode::Normal);

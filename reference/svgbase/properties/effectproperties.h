@@ -8,7 +8,7 @@ namespace Svg {
 /// in that order.
 const Property *effectProperties();
 
-/// A blend mode of filters by its name; normal for anything else.
+/// A blend mode of filters by its name; normal for any other name.
 BlendMode blendModeOf(QStringView name);
 
 } // namespace Svg

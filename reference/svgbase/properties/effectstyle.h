@@ -10,18 +10,18 @@
 
 namespace Svg {
 
-/// Channel of a mask's picture: as its own element says, or one of both (CSS Masking 1 §7.2).
+/// Channel of a mask's picture: as the mask element says, or always one of both (CSS Masking 1 §7.2).
 enum class MaskMode : quint8 { MatchSource, Alpha, Luminance };
 
 enum class Overflow : quint8 { Visible, Hidden };
 
-/// Properties that few elements have and none inherits. Ids are empty where nothing is referred to.
+/// Properties that few elements have and that aren't inherited. Ids are empty without a reference.
 struct EffectStyle : QSharedData
 {
     QString clipPath;
-    /// The text of the rectangle that a viewport is cut at instead of its box; empty for "auto".
+    /// The text of the rectangle that clips a viewport instead of its box; empty for "auto".
     QString clipRect;
-    /// The text of a shape that clips instead.
+    /// The text of a basic shape that clips.
     QString clipShape;
     QString mask;
     MaskMode maskMode = MaskMode::MatchSource;
@@ -31,14 +31,14 @@ struct EffectStyle : QSharedData
     BlendMode blendMode = BlendMode::Normal;
     bool isolated = false;
     Overflow overflow = Overflow::Visible;
-    /// Of a mask: whether its alpha counts instead of its luminance.
+    /// Of a mask: whether its alpha is used instead of its luminance.
     bool alphaMask = false;
     QColor floodColor = Qt::black;
     double floodOpacity = 1;
     QColor lightingColor = Qt::white;
 };
 
-/// Ids of the markers of an element; inherited. Empty where there is none.
+/// Ids of the markers of an element; inherited. Empty without a marker.
 struct MarkerStyle : QSharedData
 {
     QString start;

@@ -12,8 +12,7 @@ template<typename Value> struct Keyword
     Value value;
 };
 
-/// The value of the keyword that `text` is; nothing when it is none of them. Case does not matter (CSS Values 3
-/// §2.1).
+/// The value of the keyword in `text`; empty for any other text. Case does not matter (CSS Values 3 §2.1).
 template<typename Value, size_t count>
 std::optional<Value> keywordValue(QStringView text, const Keyword<Value> (&keywords)[count])
 {
@@ -23,7 +22,7 @@ std::optional<Value> keywordValue(QStringView text, const Keyword<Value> (&keywo
     return std::nullopt;
 }
 
-/// The first keyword of a value; empty when there is none.
+/// The first keyword of a value; empty without one.
 template<typename Value, size_t count> QString keywordName(Value value, const Keyword<Value> (&keywords)[count])
 {
     for (const Keyword<Value> &keyword : keywords)
@@ -32,7 +31,7 @@ template<typename Value, size_t count> QString keywordName(Value value, const Ke
     return QString();
 }
 
-/// Replaces `target` by the value of the keyword that `text` is; false when it is none of them.
+/// Sets `target` to the value of the keyword in `text`; false for any other text.
 template<typename Value, size_t count>
 bool applyKeyword(Value &target, QStringView text, const Keyword<Value> (&keywords)[count])
 {

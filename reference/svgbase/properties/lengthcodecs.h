@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// Percentages are shares of the font size (CSS Text 4 §9).
+/// Percentages refer to the font size (CSS Text 4 §9).
 double relativeToFont(const Length &length, const ComputedStyle &style);
 
 /// User units; "normal" is 0.
@@ -16,7 +16,7 @@ struct SpacingCodec
     static std::optional<double> number(double spacing) { return spacing; }
 };
 
-/// A length in user units, or nothing for "auto".
+/// A length in user units, empty for "auto".
 struct AutoLengthCodec
 {
     using Value = std::optional<double>;

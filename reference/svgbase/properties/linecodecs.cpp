@@ -17,7 +17,7 @@ struct Lines
     bool over = false;
     bool through = false;
 
-    /// Lines that blink have none that could be drawn. False for a word that names no line.
+    /// Blinking is accepted and draws nothing. False for a word that names no line.
     bool add(QStringView word)
     {
         under = under || isWord(word, "underline");

@@ -15,11 +15,11 @@ inline const Keyword<LineStyle> lineStyles[] = {
 bool applyLines(ComputedStyle &style, QStringView text, const PropertyContext &context);
 QString printLines(const ComputedStyle &style);
 
-/// Lines, style, thickness and colour in any order; initial values stand for what is not said.
+/// Lines, style, thickness and colour in any order; omitted ones get their initial values.
 bool applyDecoration(ComputedStyle &style, QStringView text, const PropertyContext &context);
 QString printDecoration(const ComputedStyle &style);
 
-/// Nothing leaves it to the font.
+/// Empty leaves it to the font.
 struct LineThicknessCodec : AutoLengthCodec
 {
     static std::optional<Value> read(QStringView text, const ComputedStyle &style, const PropertyContext &context);
@@ -27,7 +27,7 @@ struct LineThicknessCodec : AutoLengthCodec
                                        const PropertyContext &context);
 };
 
-/// Nothing stands for the paint of the part, stroke and all (SVG 2 §11.10.3).
+/// Empty for the paint of the part, including its stroke (SVG 2 §11.10.3).
 struct LineColorCodec
 {
     using Value = std::optional<QColor>;

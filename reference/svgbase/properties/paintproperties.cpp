@@ -22,7 +22,7 @@ const Keyword<Qt::PenCapStyle> caps[] = {
 
 const Keyword<Qt::PenJoinStyle> joins[] = {
     {QLatin1String("miter"), Qt::SvgMiterJoin},
-    // Cut at the limit; between straight lines, arcs are the same (SVG 2 §13.5.5).
+    // Cut at the limit; between straight lines, arcs look the same (SVG 2 §13.5.5).
     {QLatin1String("miter-clip"), Qt::MiterJoin},
     {QLatin1String("arcs"), Qt::MiterJoin},
     {QLatin1String("round"), Qt::RoundJoin},
@@ -81,7 +81,7 @@ const Keyword<double> relativeFontSizes[] = {
 };
 constexpr double maximumMiterLimit = 10000;
 
-/// The colour that "currentColor" stands for elsewhere; here that is the parent's.
+/// "currentColor" is the element's colour elsewhere; here it is the parent's.
 struct CurrentColorCodec
 {
     static std::optional<QColor> read(QStringView text, const ComputedStyle &, const PropertyContext &context)
@@ -91,7 +91,7 @@ struct CurrentColorCodec
     static QString print(const QColor &color) { return colorText(color); }
 };
 
-/// "none", or one of many words that all mean the same for graphics (SVG 1.1 §11.5).
+/// "none", or one of many words with the same meaning for graphics (SVG 1.1 §11.5).
 struct DisplayCodec
 {
     static std::optional<bool> read(QStringView text, const ComputedStyle &, const PropertyContext &)
@@ -176,7 +176,7 @@ struct FontSizeCodec
         const std::optional<Length> length = parseLength(text);
         return length ? settle(*length, style, context) : std::nullopt;
     }
-    // Percentages of a font size are of the parent's.
+    // Percentages of a font size refer to the parent's.
     static std::optional<double> settle(const Length &length, const ComputedStyle &, const PropertyContext &context)
     {
         if (length.value < 0)
@@ -189,7 +189,7 @@ struct FontSizeCodec
     static std::optional<double> number(double size) { return size; }
 };
 
-// How far letters lean is up to the font.
+// The font decides on the angle of its oblique letters.
 struct FontStyleCodec : KeywordCodec<fontStyles>
 {
     static std::optional<bool> read(QStringView text, const ComputedStyle &, const PropertyContext &)
@@ -323,7 +323,7 @@ bool setDashes(ComputedStyle &style, const QVector<Length> &lengths, const Prope
     }
     if (dashes.size() % 2 != 0)
         dashes += QVector<double>(dashes);
-    // A pattern without any length means a solid line.
+    // A pattern of zero length means a solid line.
     if (std::accumulate(dashes.constBegin(), dashes.constEnd(), 0.0) <= 0)
         dashes.clear();
     style.strokeDasharray = dashes;

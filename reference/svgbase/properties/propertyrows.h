@@ -21,7 +21,7 @@ using PrintText = QString (*)(const ComputedStyle &);
 
 constexpr PropertyAnimation discrete{};
 
-/// A property that lives in the given members.
+/// A property stored in the given members.
 template<auto... members>
 constexpr Property propertyRow(AttributeId id, ApplyText apply, PrintText print, const PropertyAnimation &animation)
 {
@@ -48,7 +48,7 @@ template<auto member, typename Codec> QString printMember(const ComputedStyle &s
     return Codec::print(valueIn(style, member));
 }
 
-/// A value that is replaced as a whole.
+/// A value that is not interpolated.
 template<auto member, typename Codec> constexpr Property valueRow(AttributeId id)
 {
     return propertyRow<member>(id, applyMember<member, Codec>, printMember<member, Codec>, discrete);
@@ -136,7 +136,7 @@ bool isWord(QStringView text, const char *word);
 QString referenceText(const QString &id);
 /// "none" or a reference; false for anything else.
 bool readReference(QStringView text, QString *id);
-/// Lengths of a property count relative to the viewport and the element's font.
+/// Lengths of a property are relative to the viewport and the element's font.
 LengthContext lengthContext(const ComputedStyle &style, const PropertyContext &context);
 
 /// Whether a text has words and all of them are accepted.

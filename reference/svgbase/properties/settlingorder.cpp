@@ -6,7 +6,7 @@ namespace Svg {
 
 namespace {
 
-// Names that a value refers to, in its fallbacks too. Of more than a value may have, the rest makes no difference.
+// Names that a value refers to, including those in fallbacks. References beyond the limit have no effect.
 QVector<QString> referencedNames(QStringView value)
 {
     QVector<QString> names;
@@ -97,7 +97,7 @@ void SettlingOrder::leave(int place)
         close(place);
 }
 
-// The circle that an entry began, or the entry alone.
+// The cycle that an entry began, or the entry alone.
 void SettlingOrder::close(int place)
 {
     const bool isAlone = m_open.constLast() == place && !m_entries.at(place).references.contains(place);

@@ -6,9 +6,9 @@
 
 namespace Svg {
 
-/// Beginning of a reference to a custom property.
+/// Start of a reference to a custom property.
 const QLatin1String variableStart("var(");
-/// Most references that one value is made of.
+/// Most references in one value.
 constexpr int mostReferences = 64;
 
 /// Whether a value refers to custom properties.
@@ -22,8 +22,8 @@ struct Settling
     bool isCircular = false;
 };
 
-/// In which order the values of one element can be settled, each once: behind those that it refers to. Finds
-/// circles by Tarjan's way along all references, without recursion.
+/// The order in which the values of one element are resolved, each once and after those that it refers to. Finds
+/// cycles by Tarjan's algorithm, without recursion.
 class SettlingOrder
 {
 public:
@@ -37,7 +37,7 @@ private:
         QString name;
         QVector<int> references;
         int nextReference = 0;
-        /// When it was met, counted from 1, and the earliest that is reached from it and still open.
+        /// When it was reached, counted from 1, and the earliest open entry reachable from it.
         int met = 0;
         int earliest = 0;
         bool isOpen = false;
@@ -49,7 +49,7 @@ private:
     void close(int place);
 
     QVector<Entry> m_entries;
-    /// Entries whose references are being followed, and those whose circle is not closed yet.
+    /// Entries whose references are being followed, and those whose cycle is not closed yet.
     QVector<int> m_followed;
     QVector<int> m_open;
     int m_met = 0;

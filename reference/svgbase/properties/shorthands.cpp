@@ -19,7 +19,7 @@ bool isOneOf(const QString &word, std::initializer_list<const char *> words)
     });
 }
 
-// Keywords that every property takes.
+// Keywords that every property accepts.
 bool isWideKeyword(const QString &value)
 {
     return isOneOf(value, {"inherit", "initial", "unset", "revert"});
@@ -45,7 +45,7 @@ bool isFontStretch(const QString &word)
                           "expanded", "extra-expanded", "ultra-expanded"});
 }
 
-/// Words of a "font", as far as read.
+/// Words of a "font" read so far.
 struct FontWords
 {
     QString style = QStringLiteral("normal");
@@ -57,7 +57,7 @@ struct FontWords
     QString family;
 };
 
-// The words before the size; false for one that has no place there.
+// The words before the size; false for one that is not allowed there.
 bool readFontWord(const QString &word, FontWords *font)
 {
     if (isOneOf(word, {"italic", "oblique"}))
@@ -73,7 +73,7 @@ bool readFontWord(const QString &word, FontWords *font)
     return true;
 }
 
-// Longhands that the shorthand has no word for get their initial values (CSS Fonts 4 §2.7).
+// Longhands that the shorthand cannot express get their initial values (CSS Fonts 4 §2.7).
 QVector<Longhand> fontOf(const FontWords &font, const QString &kerning, const QString &sizeAdjust)
 {
     return {{AttributeId::FontStyle, font.style},     {AttributeId::FontVariant, font.variant},
@@ -83,7 +83,7 @@ QVector<Longhand> fontOf(const FontWords &font, const QString &kerning, const QS
             {AttributeId::FontSizeAdjust, sizeAdjust}};
 }
 
-// "12px/1.5", "12px / 1.5" and "12px" alone. What stands behind, the families.
+// "12px/1.5", "12px / 1.5" or "12px". Returns the rest, the families.
 void readBehindSize(const QVector<QStringView> &words, int size, QStringView text, FontWords *font)
 {
     int last = size;
@@ -126,7 +126,7 @@ QVector<Longhand> fontLonghands(const QString &value)
     return {};
 }
 
-// A baseline to be aligned by, a shift, or both (CSS Inline 3 §4.2).
+// An alignment baseline, a shift, or both (CSS Inline 3 §4.2).
 QVector<Longhand> alignmentLonghands(const QString &value)
 {
     const QString usual = QStringLiteral("baseline");
@@ -156,7 +156,7 @@ QVector<Longhand> whiteSpaceLonghands(const QString &value)
                : QVector<Longhand>();
 }
 
-// Of what fonts can do, what Qt lets us ask for: "'liga' 0, 'kern' off".
+// The font features that Qt can select: "'liga' 0, 'kern' off".
 QVector<Longhand> featureLonghands(const QString &value)
 {
     if (isWideKeyword(value) || isOneOf(value, {"normal"}))
@@ -174,7 +174,7 @@ QVector<Longhand> featureLonghands(const QString &value)
     return result;
 }
 
-// Every property but the direction of writing, and custom ones (CSS Cascade 4 §3.2).
+// Every property except the direction of writing and custom ones (CSS Cascade 4 §3.2).
 QVector<Longhand> allLonghands(const QString &value)
 {
     if (!isWideKeyword(value))

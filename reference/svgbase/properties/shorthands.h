@@ -9,7 +9,7 @@ namespace Svg {
 /// The shorthand of (nearly) every property.
 inline const QLatin1String allProperties("all");
 
-/// A property that a shorthand stands for.
+/// A property set by a shorthand.
 struct Longhand
 {
     AttributeId property;
@@ -17,10 +17,10 @@ struct Longhand
 };
 
 /// The properties that a shorthand of CSS ("font" and the like) sets; none for any other name, and for a value that
-/// breaks the shorthand's grammar.
+/// violates the shorthand's grammar.
 QVector<Longhand> longhands(const QString &name, const QString &value);
-/// Whether an attribute that is no presentation attribute in SVG 1.1 may be given by style (SVG 2 §8.9): the
-/// geometry properties, and "transform".
+/// Whether style may set an attribute that is not a presentation attribute in SVG 1.1 (SVG 2 §8.9): the geometry
+/// properties, and "transform".
 bool isStyledAttribute(AttributeId id);
 
 } // namespace Svg

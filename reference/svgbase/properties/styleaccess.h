@@ -6,8 +6,8 @@
 
 namespace Svg {
 
-// A member of a style is read and written by a pointer to it, wherever it lives. Records that few elements have are
-// made, or split from those of other elements, only when a value changes.
+// Pointers to members read and write a value of a style in whichever record it is stored. Records that few elements
+// have are created, or detached from those of other elements, only when a value changes.
 
 template<typename Member> struct MemberOf;
 template<typename Member, typename Home> struct MemberOf<Member Home::*>
@@ -109,7 +109,7 @@ void setIn(ComputedStyle &style, Value Home::*member, const std::common_type_t<V
         changedHome(style, static_cast<const Home *>(nullptr)).*member = value;
 }
 
-/// Takes members of one style over into another.
+/// Copies members of one style to another.
 template<auto... members> void copyMembers(ComputedStyle &style, const ComputedStyle &from)
 {
     (setIn(style, members, valueIn(from, members)), ...);

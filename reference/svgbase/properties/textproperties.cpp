@@ -12,7 +12,7 @@ namespace Svg {
 
 namespace {
 
-/// Larger ones make no letters that could be read.
+/// Larger ones make no readable letters.
 constexpr double largestSizeAdjust = 100;
 
 const Keyword<Baseline> baselines[] = {
@@ -30,7 +30,7 @@ const Keyword<Baseline> baselines[] = {
     {QLatin1String("text-top"), Baseline::TextBeforeEdge},
 };
 
-// Three more are for the alignment of parts only (SVG 1.1 §10.9.2).
+// The other three align only parts (SVG 1.1 §10.9.2).
 const Keyword<Baseline> alignments[] = {
     {QLatin1String("auto"), Baseline::Auto},
     {QLatin1String("baseline"), Baseline::Auto},
@@ -87,7 +87,7 @@ const Keyword<TextTransform> textTransforms[] = {
     {QLatin1String("full-size-kana"), TextTransform::None},
 };
 
-// Single ones that add to the usual ligatures change nothing that is drawn here.
+// Ligatures beyond the usual ones do not change the drawing.
 const Keyword<bool> ligatures[] = {
     {QLatin1String("normal"), true},
     {QLatin1String("none"), false},
@@ -107,7 +107,7 @@ const Keyword<WhiteSpace> whiteSpaces[] = {
     {QLatin1String("pre-wrap"), WhiteSpace::Preserve}, {QLatin1String("break-spaces"), WhiteSpace::Preserve},
 };
 
-// Petite capitals are few fonts' and small ones otherwise (CSS Fonts 4 §6.6).
+// Few fonts have petite capitals; others show small ones (CSS Fonts 4 §6.6).
 const Keyword<SmallCaps> variants[] = {
     {QLatin1String("normal"), SmallCaps::None},
     {QLatin1String("small-caps"), SmallCaps::OfSmallLetters},
@@ -149,13 +149,13 @@ const Keyword<int> stretches[] = {
     {QLatin1String("ultra-expanded"), 200},
 };
 
-// The words of ligatures that change what is drawn here.
+// The words of ligatures that change the drawing.
 const Keyword<bool> printedLigatures[] = {
     {QLatin1String("normal"), true},
     {QLatin1String("none"), false},
 };
 
-// Words of "font-variant" for what few fonts have (CSS Fonts 4 §6.11).
+// Words of "font-variant" for features of few fonts (CSS Fonts 4 §6.11).
 const char *const otherVariants[] = {"sub",
                                      "super",
                                      "unicase",
@@ -182,7 +182,7 @@ const char *const otherVariants[] = {"sub",
                                      "emoji",
                                      "unicode"};
 
-// A length stands in the place of the font's own kerning (SVG 1.1 §10.11).
+// A length replaces the font's own kerning (SVG 1.1 §10.11).
 struct KerningCodec : AutoLengthCodec
 {
     static std::optional<Value> read(QStringView text, const ComputedStyle &style, const PropertyContext &context)
@@ -210,7 +210,7 @@ struct SizeAdjustCodec
     static std::optional<double> number(double adjust) { return adjust; }
 };
 
-/// Percent of the usual width.
+/// Percent of the normal width.
 struct StretchCodec
 {
     static std::optional<int> read(QStringView text, const ComputedStyle &style, const PropertyContext &context)
@@ -225,7 +225,7 @@ struct StretchCodec
         const std::optional<Length> length = parseLength(text);
         return length ? settle(*length, style, context) : std::nullopt;
     }
-    // Widths between those of the keywords are drawn as the nearest (CSS Fonts 4 §2.5).
+    // Widths between those of the keywords are drawn as the nearest one (CSS Fonts 4 §2.5).
     static std::optional<int> settle(const Length &length, const ComputedStyle &, const PropertyContext &)
     {
         const bool isShare = length.unit == Unit::Percent && length.value >= 0;
@@ -302,7 +302,7 @@ bool assignLineHeight(ComputedStyle &style, const TypedValue &value, const Prope
 constexpr PropertyAnimation lineHeightAnimation{PropertyAnimation::Lengths, false, lineHeightValue,
                                                 assignLineHeight};
 
-/// User units; 0 for lines without end.
+/// User units; 0 for lines of any length.
 struct InlineSizeCodec
 {
     static std::optional<double> read(QStringView text, const ComputedStyle &style, const PropertyContext &context)
@@ -312,7 +312,7 @@ struct InlineSizeCodec
         const std::optional<Length> length = parseLength(text);
         return length ? settle(*length, style, context) : std::nullopt;
     }
-    // Percentages are of the width of the viewport (SVG 2 §11.7.1).
+    // Percentages refer to the width of the viewport (SVG 2 §11.7.1).
     static std::optional<double> settle(const Length &length, const ComputedStyle &style,
                                         const PropertyContext &context)
     {
@@ -427,7 +427,7 @@ struct LigaturesCodec : KeywordCodec<printedLigatures>
     }
 };
 
-// Two old keywords leave the baseline as it is around the part (SVG 1.1 §10.9.2).
+// Two old keywords keep the baseline of the surrounding text (SVG 1.1 §10.9.2).
 struct DominantBaselineCodec : KeywordCodec<baselines>
 {
     static std::optional<Baseline> read(QStringView text, const ComputedStyle &, const PropertyContext &context)
@@ -437,7 +437,7 @@ struct DominantBaselineCodec : KeywordCodec<baselines>
     }
 };
 
-// Without a value of its own, a text follows "xml:space", whose usual meaning is the initial value's.
+// Without a value, a text follows "xml:space", whose default has the meaning of the initial value.
 struct WhiteSpaceCodec : KeywordCodec<whiteSpaces>
 {
     static QString print(WhiteSpace space)
