@@ -26,33 +26,33 @@ struct EasingCurve
     double x2 = 1;
     double y2 = 1;
 
-    /// How far the value has come when `time` of its time is over, both 0 to 1.
+    /// Progress of the value at a share of its time, both 0 to 1.
     double at(double time) const;
 };
 
-/// Which of its values an animation has at which time (SMIL 3.0 §12.4.1).
+/// Selects the values of an animation by time (SMIL 3.0 §12.4.1).
 class Keyframes
 {
 public:
-    /// Reads "keyTimes" and "keySplines" for a list of `count` values. Nothing when they don't fit the list: such
-    /// an animation has no effect.
+    /// Reads "keyTimes" and "keySplines" for a list of `count` values. Empty when they don't fit the list: such an
+    /// animation has no effect.
     static std::optional<Keyframes> read(const Attributes &attributes, CalcMode mode, int count);
 
     CalcMode mode() const { return m_mode; }
-    /// Spreads the values over time by the distance from each to the next, for the paced mode.
+    /// Spaces the key times by the distances between consecutive values, for the paced mode.
     void pace(const QVector<double> &distances);
-    /// The place at a share of the round, 0 to 1.
+    /// The position at a share of the iteration, 0 to 1.
     KeyframePosition at(double progress) const;
 
 private:
     CalcMode m_mode = CalcMode::Linear;
     int m_count = 0;
-    /// When each value is reached; empty for an even spread.
+    /// Key times of the values; empty for even spacing.
     QVector<double> m_times;
     QVector<EasingCurve> m_curves;
 };
 
-/// The numbers of a list separated by semicolons; nothing when one of them is none, or when there are too many.
+/// The numbers of a list separated by semicolons; empty when an item is not a number, or when there are too many.
 std::optional<QVector<double>> parseSemicolonNumbers(const QString &text);
 
 } // namespace Svg

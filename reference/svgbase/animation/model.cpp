@@ -100,7 +100,7 @@ ValueContext ModelReader::contextOf(NodeIndex target, const QString &name) const
     return context;
 }
 
-// Style may give an attribute's value in its place; only style can hide that.
+// Style may set an attribute's value in its place; only style can hide that.
 bool ModelReader::isStyled(NodeIndex target, AttributeId id) const
 {
     const QVector<Attribute> &styled = m_facts(target)->style->attributes;
@@ -187,7 +187,7 @@ void ModelReader::readMotion(NodeIndex index, NodeIndex target)
         .animations.append({m_model.timeline.size(), std::nullopt, motion, index});
 }
 
-// Neither what things are called nor a whole transform can be animated (SVG 1.1 §19.2.6).
+// Neither names nor a whole transform can be animated (SVG 1.1 §19.2.6).
 bool isAnimatable(const QString &name)
 {
     return !name.isEmpty() && name != QLatin1String("id") && name != QLatin1String("style") &&

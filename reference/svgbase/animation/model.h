@@ -16,12 +16,11 @@ struct AnimationModel
     bool lacksAttributes = false;
 };
 
-/// Reads what an attribute's animations say anew, where "currentColor" is another colour than before. Whether it
-/// is.
+/// Reads an attribute's animations again when "currentColor" has changed. Returns whether it has.
 bool followColor(AnimatedAttribute *attribute, const QColor &current, const Tree &tree);
 
-/// Reads the animation elements as they are now. Those without a target or without usable values play their part in
-/// the timeline but show nothing.
+/// Reads the animation elements in their present state. Those without a target or without usable values take part
+/// in the timeline but have no effect.
 AnimationModel readAnimations(const Tree &tree, const FactsOfNode &facts);
 
 } // namespace Svg

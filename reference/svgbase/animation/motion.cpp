@@ -91,7 +91,7 @@ QPainterPath straightWay(const Attributes &attributes, const LengthContext &leng
     return path;
 }
 
-// In this order of rank (SVG 1.1 §19.2.15).
+// In this order of precedence (SVG 1.1 §19.2.15).
 QPainterPath wayOf(const Tree &tree, NodeIndex animation, const LengthContext &lengths, const FactsOfNode &factsOf)
 {
     const Attributes &attributes = tree.node(animation).attributes;
@@ -158,7 +158,7 @@ void Motion::readRotation(const Attributes &attributes)
 std::optional<Motion> Motion::read(const Tree &tree, NodeIndex animation, const LengthContext &lengths,
                                    const FactsOfNode &factsOf, int *room)
 {
-    // Once there is no room left, paths are not even read.
+    // Once no room is left, paths are not even read.
     if (*room < 0)
         return std::nullopt;
     const Attributes &attributes = tree.node(animation).attributes;

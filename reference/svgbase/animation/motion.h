@@ -11,12 +11,12 @@ namespace Svg {
 class Motion
 {
 public:
-    /// Nothing when the element gives no usable way, or a longer one than there is room for. `room` counts down the
+    /// Empty when the element gives no usable path, or one longer than the room left. `room` counts down the
     /// elements of paths.
     static std::optional<Motion> read(const Tree &tree, NodeIndex animation, const LengthContext &lengths,
                                       const FactsOfNode &factsOf, int *room);
 
-    /// The transform functions of a place on the way.
+    /// The transform functions of a position on the path.
     TransformList transforms(const RoundPosition &position) const;
     /// Whether it is added to motions below it.
     bool isAdditive() const { return m_additive; }
@@ -29,7 +29,7 @@ private:
     void readRotation(const Attributes &attributes);
 
     PathMeasure m_way;
-    /// Distances along the way that the key frames stand for.
+    /// Distances along the path at the key times.
     QVector<double> m_stops;
     Keyframes m_frames;
     Rotation m_rotation = Fixed;

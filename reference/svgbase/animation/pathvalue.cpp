@@ -93,7 +93,7 @@ bool PathValueReader::readArc()
     return true;
 }
 
-// A smooth segment continues the curve before it, if that is one of its own kind.
+// A smooth segment continues the previous curve, if that is of its own kind.
 QPointF PathValueReader::reflected(char command) const
 {
     return m_previous == command ? m_current * 2 - m_control : m_current;
@@ -198,7 +198,7 @@ AnimatedValue parsePathValue(const QString &text)
     return replacedValue(text);
 }
 
-// A flag between two values counts as set as soon as it is not 0 (SVG 1.1 §8.3.2).
+// An interpolated flag is set unless it is 0 (SVG 1.1 §8.3.2).
 PathValue pathOf(const AnimatedValue &value)
 {
     PathValue path{value.form.toLatin1(), value.numbers};

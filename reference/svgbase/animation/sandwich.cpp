@@ -8,7 +8,7 @@ namespace {
 
 using States = std::vector<Timeline::State>;
 
-/// Places of the animations that apply, lowest first. Those that began together keep their document order.
+/// Indexes of the active animations, lowest first. Those that began together keep their document order.
 QVector<int> layers(const States &states)
 {
     QVector<int> order;
@@ -27,7 +27,7 @@ void stack(TransformList *list, const TransformList &functions, bool additive)
     *list += functions;
 }
 
-// A motion moves what the other transforms have placed (SVG 1.1 §19.2.15).
+// A motion moves the result of the other transforms (SVG 1.1 §19.2.15).
 TransformList shownTransforms(const AnimatedAttribute &attribute, const QVector<int> &order)
 {
     TransformList own = attribute.baseTransforms;

@@ -11,23 +11,23 @@ namespace Svg {
 /// One animation with an effect.
 struct Animation
 {
-    /// Its place in the timeline.
+    /// Its index in the timeline.
     int timing = 0;
     std::optional<Effect> effect;
     std::optional<Motion> motion;
-    /// The element that says it.
+    /// The animation element.
     NodeIndex node = noNode;
 };
 
-/// Everything that is animated of one attribute of one node: the later an animation began, the higher it lies
-/// (SMIL 3.0 §12.4.2).
+/// All animations of one attribute of one node: the later an animation began, the higher its priority (SMIL 3.0
+/// §12.4.2).
 struct AnimatedAttribute
 {
     NodeIndex target = noNode;
-    /// The attribute as the template names it.
+    /// The attribute's name in the template.
     QString name;
     AttributeId id = AttributeId::Unknown;
-    /// Whether it is a property, whose animated value lies over every other declaration.
+    /// Whether it is a property, whose animated value overrides every other declaration.
     bool isProperty = false;
     /// Whether a value, or the attribute without animation, is "currentColor", which may be animated, too.
     bool followsColor = false;
@@ -36,17 +36,17 @@ struct AnimatedAttribute
     QVector<Animation> animations;
     /// Value of the attribute without animation.
     AnimatedValue base;
-    /// The same of a list of transforms.
+    /// The same for a list of transforms.
     TransformList baseTransforms;
-    /// The value that is shown; nothing while no animation applies.
+    /// The displayed value; empty while no animation is active.
     std::optional<AttributeValue> shown;
     /// State of each animation at the displayed time.
     std::vector<Timeline::State> states;
 };
 
-/// The value that the states make; nothing when no animation applies.
+/// The value that results from the states; empty when no animation is active.
 std::optional<AttributeValue> shownValue(const AnimatedAttribute &attribute);
-/// Looks up what the animations of an attribute do now; false when nothing of it changed since.
+/// Updates the states of an attribute's animations; false when none has changed.
 bool refreshStates(AnimatedAttribute *attribute, const Timeline &timeline);
 
 } // namespace Svg

@@ -105,7 +105,7 @@ void Timeline::schedule(int index, ClockTime time)
         m_events.insert({time, index});
 }
 
-// Moments before the event itself must be told as soon as the event is foreseen, all others when it happens.
+// Moments before the event itself must be announced as soon as the event is known, all others when it happens.
 void Timeline::announce(int index, bool end, ClockTime time, bool foretold)
 {
     for (const Dependent &dependent : m_players[size_t(index)].dependents)
@@ -125,7 +125,7 @@ void Timeline::spreadNews()
     }
 }
 
-// The first "end" that does not lie before the begin; one that ended the interval before does not end this one too.
+// The first "end" that is not before the begin; one that ended the previous interval does not end this one, too.
 ClockTime Timeline::endFor(const Player &player, ClockTime begin, bool endUsed, bool *possible) const
 {
     *possible = true;
@@ -238,7 +238,7 @@ Timeline::State Timeline::state(int index) const
     const ClockTime elapsed = active ? m_now - player.lastBegin : player.lastEnd - player.lastBegin;
     const ClockTime rounds = player.timing.repeatedDuration;
     const bool over = elapsed >= rounds;
-    // "min" may keep an animation active when its rounds are over.
+    // "min" may keep an animation active after its last iteration.
     if (active && over && !player.timing.freezes)
         return State();
     State state;

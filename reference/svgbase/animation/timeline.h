@@ -9,8 +9,8 @@
 
 namespace Svg {
 
-/// When the animations of a document begin and end (SMIL 3.0 §5.4.3): their intervals are worked out in the order
-/// of time, so that one may begin with or after another, or after itself.
+/// Begins and ends of a document's animations (SMIL 3.0 §5.4.3). Their intervals are computed in the order of time,
+/// so that an animation may begin with or after another, or after itself.
 class Timeline
 {
 public:
@@ -30,9 +30,9 @@ public:
     void add(const AnimationTiming &timing, const QString &id);
     int size() const { return int(m_players.size()); }
 
-    /// Goes to a moment. Going back starts over.
+    /// Advances to a moment. Going back starts over.
     void goTo(ClockTime time);
-    /// Whether it could not get there, for too many begins and ends on the way.
+    /// Whether it stopped before the moment because of too many begins and ends.
     bool isExhausted() const { return m_eventsLeft <= 0; }
     /// State of an animation at the present time.
     State state(int animation) const;
@@ -60,9 +60,9 @@ private:
         Phase phase = Idle;
         ClockTime begin = 0;
         ClockTime end = 0;
-        /// Whether the interval before ended at this begin, by an "end" that doesn't count again.
+        /// Whether the previous interval ended at this begin, by an "end" that doesn't count again.
         bool endUsed = false;
-        /// The interval before; `begin` and `end` are the present or the next one.
+        /// The previous interval; `begin` and `end` are the present or the next one.
         bool played = false;
         ClockTime lastBegin = 0;
         ClockTime lastEnd = 0;
@@ -91,7 +91,7 @@ private:
 
     std::vector<Player> m_players;
     std::vector<News> m_news;
-    /// Next event of every player that has one.
+    /// Next event of every animation that has one.
     std::set<std::pair<ClockTime, int>> m_events;
     ClockTime m_now = 0;
     int m_eventsLeft = Limits::animationEvents;

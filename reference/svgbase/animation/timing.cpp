@@ -11,7 +11,7 @@ QString trimmedValue(const Attributes &attributes, const char *name)
     return attributes.value(QLatin1String(name)).trimmed();
 }
 
-// "indefinite", "media" and whatever breaks the grammar put no bound.
+// "indefinite", "media" and invalid text set no bound.
 ClockTime boundOf(const Attributes &attributes, const char *name)
 {
     return parseClockValue(trimmedValue(attributes, name)).value_or(indefiniteTime);
@@ -71,7 +71,7 @@ AnimationTiming readTiming(const Attributes &attributes)
     timing.shortest = parseClockValue(trimmedValue(attributes, "min")).value_or(0);
     const ClockTime longest = boundOf(attributes, "max");
     timing.longest = longest > 0 ? longest : indefiniteTime;
-    // Bounds that contradict each other are both left aside (SMIL 3.0 §5.4.3).
+    // Contradicting bounds are both ignored (SMIL 3.0 §5.4.3).
     if (timing.longest < timing.shortest) {
         timing.shortest = 0;
         timing.longest = indefiniteTime;

@@ -63,7 +63,7 @@ KeptFacts Document::keptFacts(NodeIndex index, const FactsPointer &above) const
         return {};
     const quint8 change = m_changes.value(index);
     const bool sameGeometry = !(change & GeometryChange);
-    // Rules may look at any attribute.
+    // Selectors may test any attribute.
     const bool sameStyle = !(change & StyleChange) && facts->inheritsAlike(above) && !m_tree.rules();
     return {facts.data(), sameStyle, sameGeometry, sameGeometry};
 }

@@ -6,22 +6,22 @@
 
 namespace Svg {
 
-/// A document that can be changed: elements, their facts, and what document-wide styling put over them. Nodes are
-/// named by index; the public node objects stand in front of this.
+/// A document that can be changed: elements, their facts, and overrides by document-wide styling. Nodes are named
+/// by index; the public node objects refer to it.
 class Document : public SettledTree
 {
 public:
     explicit Document(const PrototypePointer &prototype);
 
     const Tree &tree() const override { return m_tree; }
-    /// Takes over what is resolved of the prototype, if that has not been done.
+    /// Copies the resolved facts of the prototype, unless that has been done.
     void settle() override;
     QVector<Message> messages() const { return m_prototype->settled().messages; }
     quint32 revision() const override { return m_revision; }
     quint32 referenceRevision() const { return m_referenceRevision; }
-    /// Counts every change that could concern what is animated, and how.
+    /// Increases with every change that may affect animation, with its kind.
     quint32 animationRevision() const { return m_animationRevision; }
-    /// Makes the revision one that no drawing up to `last` was made of.
+    /// Makes the revision differ from those of all drawings up to `last`.
     void raiseRevision(quint32 last) { m_revision = qMax(m_revision, last) + 1; }
 
     FactsPointer facts(NodeIndex index) override;
@@ -32,15 +32,15 @@ public:
     }
     std::unique_ptr<SettledTree> imageDocument(const ImageContent &image, const QSizeF &window) const override;
 
-    /// Says how large the window is that shows the document, which percentages refer to where the root gives itself
-    /// no size.
+    /// Sets the size of the window that shows the document, which percentages refer to when the root has no size of
+    /// its own.
     void setWindow(const QSizeF &size);
 
     QString attribute(NodeIndex index, const QString &name) const;
     void setAttribute(NodeIndex index, const QString &name, const AttributeValue &value);
     void setNumericAttribute(NodeIndex index, const QString &name, double value);
-    /// Lays values over the style of a node, as animation does, in place of those before. They count more than
-    /// `override`, which is the node's otherwise.
+    /// Sets values that override the style of a node, as animation does, replacing the previous ones. They take
+    /// precedence over `override`, which the node has otherwise.
     void setAnimatedStyle(NodeIndex index, const Attributes &values, const StyleOverridePointer &override);
 
     NodeIndex copySubtree(NodeIndex source);
@@ -75,14 +75,14 @@ private:
     GradientCache m_gradients;
     DocumentFonts m_fonts;
     ContentMeasuring m_measuring;
-    /// By node index: a Change for each, since its facts were made. Shorter while nothing was changed.
+    /// By node index: the changes since the node's facts were made. Shorter while nothing has changed.
     QVector<quint8> m_changes;
-    /// By node index; shorter while nothing was styled.
+    /// By node index; shorter while nothing has been styled.
     QVector<StyleOverridePointer> m_overrides;
     quint32 m_revision = 0;
     quint32 m_referenceRevision = 1;
     quint32 m_animationRevision = 0;
-    /// Whether there was a change since the copy was made, so that facts have to be checked before use.
+    /// Whether there was a change since the copy was made, so that facts must be checked before use.
     bool m_changed = false;
     bool m_settled = false;
 };

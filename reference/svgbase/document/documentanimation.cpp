@@ -1,4 +1,4 @@
-// The clock of a document's animation, and what is drawn of the document at a moment.
+// The clock of a document's animation, and the drawing of the document at a moment.
 
 #include "document/documentprivate.h"
 

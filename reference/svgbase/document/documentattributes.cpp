@@ -1,4 +1,4 @@
-// Attributes of a document's nodes: reading, writing, and what a write puts out of date.
+// Attributes of a document's nodes: reading, writing, and invalidation by writing.
 
 #include "document/document.h"
 
@@ -40,7 +40,7 @@ bool isBoxSide(AttributeId id)
     }
 }
 
-// Moves or sizes a box with its corner fixed.
+// Moves or resizes a box and keeps its corner in place.
 void adjustBox(QRectF &box, AttributeId side, double value)
 {
     switch (side) {
@@ -91,7 +91,7 @@ void Document::setAttribute(NodeIndex index, const QString &name, const Attribut
 {
     settle();
     const AttributeId id = attributeId(name);
-    // A property takes effect again where document-wide styling has put another value over it.
+    // A property takes effect again where document-wide styling has overridden it.
     const Attributes &present = std::as_const(m_tree).node(index).attributes;
     const bool isThere = !value.isNull() && present.contains(name) && present.held(name) == value;
     if (isThere && changeBy(id) != StyleChange)
@@ -111,7 +111,7 @@ void Document::setAttribute(NodeIndex index, const QString &name, const Attribut
         m_tree.forgetIds();
         structureChanged();
     }
-    // Asked for by the texts below.
+    // Needed by the texts below.
     if (id == AttributeId::XmlSpace)
         m_facts.fill(FactsPointer());
     dropOverriddenStyle(index, id, value);
@@ -155,13 +155,13 @@ void Document::nodeChanged(NodeIndex index, Change change)
 {
     ++m_revision;
     m_changed = true;
-    // Stops inherit from what stands around their gradient.
+    // Stops inherit from the elements around their gradient.
     const ElementKind kind = m_tree.node(index).kind;
-    // Text may run along any shape.
+    // Text may follow any shape.
     const bool isWay = m_tree.hasTextReferences() && hasGeometry(kind);
     if (m_measuring.used || isWay || isPaintServerPart(kind) || isFontPart(kind) || isStructure(kind))
         ++m_referenceRevision;
-    // A text is laid out as one, whatever part of it changed.
+    // A text is laid out as a whole, whatever part of it changed.
     NodeIndex at = index;
     while (isTextPart(m_tree.node(at).kind) && m_tree.node(at).parent != noNode)
         at = m_tree.node(at).parent;

@@ -32,7 +32,8 @@ void DocumentPrivate::paint(QPainter *painter, const QTransform &stretch, bool w
         return;
     std::unique_ptr<DisplayList> list = DisplayListCache::take(this);
     list->update(shown(), stretch, world);
-    // Nothing of what the caller's painter is set to may show but its place, clip, opacity and composition.
+    // Of the state of the caller's painter, only its transform, clip, opacity and composition mode may have an
+    // effect.
     painter->setWorldTransform(QTransform());
     painter->setBrushOrigin(0, 0);
     painter->setBackgroundMode(Qt::TransparentMode);

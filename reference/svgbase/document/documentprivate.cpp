@@ -24,7 +24,7 @@ DocumentPrivate::DocumentPrivate(const DocumentPrivate &other)
 {
 }
 
-// Copies that callers still own outlive the document; they just stop meaning anything.
+// Copies that callers still own outlive the document; they have no effect any more.
 DocumentPrivate::~DocumentPrivate()
 {
     DisplayListCache::forget(this);
@@ -65,7 +65,7 @@ void DocumentPrivate::adopt(QZeSvgNode *node)
     m_loose.remove(QZeSvgNodePrivate::of(node)->index);
 }
 
-// Only a copy that never became part of the document is deleted by somebody else; it takes its children along.
+// Only a copy that never became part of the document is deleted by its caller; its children are deleted with it.
 void DocumentPrivate::nodeDeleted(QZeSvgNodePrivate *node)
 {
     m_nodes.remove(node->index);
@@ -112,7 +112,7 @@ void DocumentPrivate::restyle(bool (DocumentPrivate::*enabled)(NodeIndex) const,
         if (!hasGeometry(tree.node(at).kind) || !(this->*enabled)(at))
             continue;
         const StyleOverridePointer old = content.stylePointer(at);
-        // Nodes that shared an override go on sharing one.
+        // Nodes that shared an override continue to share one.
         if (!lastNew || old != lastOld) {
             auto *fresh = old ? new StyleOverride(*old) : new StyleOverride;
             lastNew = StyleOverridePointer(fresh);

@@ -21,31 +21,31 @@ public:
 
     static DocumentPrivate *of(const QZeSvgTinyDocument *document);
 
-    /// The node object of a place; made on first use, the document itself for the root.
+    /// The node object of an index; made on first use, the document itself for the root.
     QZeSvgNode *nodeObject(Svg::NodeIndex index);
-    /// A node object for a copy that its caller owns.
+    /// A node object for a copy, owned by the caller.
     QZeSvgNode *looseNode(Svg::NodeIndex index);
-    /// Takes over a node that its caller owned.
+    /// Takes ownership of a node from its caller.
     void adopt(QZeSvgNode *node);
-    /// To be called when a node object dies while the document lives.
+    /// Call this when a node object is deleted while the document exists.
     void nodeDeleted(QZeSvgNodePrivate *node);
-    /// Writes the styling flags of node objects below `top` to the tree, where copies are made from.
+    /// Writes the styling flags of node objects below `top` to the tree, from which copies are made.
     void storeFlags(Svg::NodeIndex top);
 
     bool takesFill(Svg::NodeIndex index) const;
     bool takesStroke(Svg::NodeIndex index) const;
-    /// Replaces the override of every enabled node by what `change` makes of it.
+    /// Replaces the override of every enabled node by the result of `change`.
     void restyle(bool (DocumentPrivate::*enabled)(Svg::NodeIndex) const,
                  const std::function<void(Svg::StyleOverride *)> &change);
-    /// The first enabled node in document order with a stroke (a fill), definitions and control points aside.
+    /// The first enabled node in document order with a stroke (a fill), except in definitions and control points.
     Svg::NodeIndex firstStroked();
     Svg::NodeIndex firstFilled();
     bool hasAnimations() const;
-    /// Outline and pen of a node as drawn, its override applied; a default one without geometry.
+    /// Outline and pen of a node as drawn, with its override; a default one without geometry.
     Svg::Outline drawnOutline(Svg::NodeIndex index);
 
     QRectF settledViewBox();
-    /// Takes the view box from the root's attributes.
+    /// Sets the view box from the root's attributes.
     void readViewBox();
     void draw(QPainter *painter, const QRectF &target, float scale, bool viewFlag);
     void drawFitted(QPainter *painter, const QRectF &viewport);
@@ -53,7 +53,7 @@ public:
     Svg::Document content;
     QZeSvgTinyDocument *publicDocument = nullptr;
     QRectF viewBox;
-    /// Whether the view box is the bounds of what is drawn, for want of another.
+    /// Whether the view box is the bounds of the drawing because the text gives none.
     bool viewBoxMeasured = false;
     std::function<void(QPainter *)> callback;
     /// Document-wide values as last set.
@@ -68,7 +68,7 @@ public:
     /// @{
     void startAnimation();
     void stopAnimation();
-    /// Sets the clock. Whether that changes what is drawn.
+    /// Sets the clock. Returns whether that changes the drawing.
     bool setAnimationTime(Svg::ClockTime time);
     Svg::ClockTime animationTime() const;
     /// The document to draw: the content, or its animated state at the last displayed time.
@@ -84,10 +84,10 @@ private:
     /// Made when a moment of the animation is first shown.
     std::unique_ptr<Svg::Presentation> m_presentation;
     QElapsedTimer m_clock;
-    /// The moment when the clock was last started, stopped or set.
+    /// The time when the clock was last started, stopped or set.
     Svg::ClockTime m_clockTime = 0;
     bool m_clockRuns = false;
-    /// Whether the clock was ever started or set; before that there is no animation to see.
+    /// Whether the clock was ever started or set; until then animations are not shown.
     bool m_clockUsed = false;
     QHash<Svg::NodeIndex, QZeSvgNode *> m_nodes;
     /// Copies that are in no document yet; their callers delete them.

@@ -8,7 +8,7 @@ namespace Svg {
 
 namespace {
 
-/// The size that CSS gives content without one of its own.
+/// The size that CSS gives to content without one of its own.
 constexpr QSizeF defaultSize(300, 150);
 
 class PrototypeReader : public DocumentReader

@@ -46,7 +46,7 @@ NodeIndex Document::copySubtree(NodeIndex source)
     const NodeIndex top = m_tree.copySubtree(source);
     if (m_tree.size() > before)
         m_facts.resize(m_tree.size());
-    // Document order is the order of both walks, so the copies meet their originals.
+    // Both walks have document order, so the copies meet their originals.
     NodeIndex original = source;
     for (NodeIndex at = top; at != noNode; at = m_tree.following(at, top)) {
         m_facts[at].reset();

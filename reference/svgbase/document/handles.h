@@ -24,7 +24,7 @@ public:
     static QZeSvgTinyDocument *cloneDocument(DocumentPrivate *document);
     static QZeSvgNode *makeNode(DocumentPrivate *document, Svg::NodeIndex index);
 
-    /// Null once the document is gone.
+    /// Null once the document is deleted.
     DocumentPrivate *document;
     Svg::NodeIndex index;
 };

@@ -31,7 +31,7 @@ QString matrixText(const QTransform &t)
     return QLatin1String("matrix(") + entries.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
-// A painter counts dashes in widths of the pen.
+// Painters count dashes in widths of the pen.
 QString dashText(Qt::PenStyle penStyle, double width)
 {
     if (penStyle == Qt::SolidLine)
@@ -49,7 +49,7 @@ QString lineStyleText(Qt::PenStyle penStyle, double width)
         return declaration("stroke", QStringLiteral("none"));
     if (penStyle == Qt::CustomDashLine)
         return QString();
-    // The offset of the node's own dashes does not count for a painter's line style.
+    // The offset of the node's own dashes has no effect on a painter's line style.
     return declaration("stroke-dasharray", dashText(penStyle, width)) +
            declaration("stroke-dashoffset", QStringLiteral("0"));
 }
@@ -61,7 +61,7 @@ bool isWritableGradient(const QBrush &brush)
            (gradient->type() == QGradient::LinearGradient || gradient->type() == QGradient::RadialGradient);
 }
 
-// Replaces a brush that SVG has no paint for.
+// Replaces a brush without an equivalent SVG paint.
 QColor substitute(const QBrush &brush)
 {
     const QGradient *gradient = brush.gradient();
@@ -117,8 +117,8 @@ QColor mixedColor(const QColor &from, const QColor &to, double share, double alp
                             mixed(from.blueF(), to.blueF(), share), alpha);
 }
 
-// Equal steps of the colour, which a painter weights by the alpha; the alpha itself changes evenly. The colour of
-// an end that can't be seen doesn't count.
+// Equal steps of the colour, which a painter weights by the alpha; the alpha itself changes evenly. The colour of a
+// transparent end doesn't count.
 void appendWeighted(const QGradientStop &from, const QGradientStop &to, QGradientStops *stops)
 {
     const double alpha = from.second.alphaF();
@@ -138,8 +138,8 @@ void appendWeighted(const QGradientStop &from, const QGradientStop &to, QGradien
     }
 }
 
-// Painters may multiply colours by their alpha before they mix them, SVG never does (SVG 1.1 §13.2.4): stops in
-// between keep the look.
+// Painters may multiply colours by their alpha before interpolating, SVG never does (SVG 1.1 §13.2.4): stops in
+// between preserve the look.
 QGradientStops stopsOfChannels(const QGradient &gradient)
 {
     const QGradientStops stops = gradient.stops();

@@ -9,11 +9,11 @@ namespace Svg {
 
 class XmlText;
 
-/// Gradients that document-wide styling brought in and that a written document has to define.
+/// Gradients of document-wide styling, which a written document has to define.
 class PaintDefinitions
 {
 public:
-    /// The tree says which ids are taken.
+    /// The tree tells which ids are taken.
     explicit PaintDefinitions(const Tree &tree)
         : m_tree(tree)
     {
@@ -21,7 +21,7 @@ public:
 
     /// The value of a "fill" or "stroke" that paints with the brush.
     QString paintText(const QBrush &brush);
-    /// Writes what was referred to.
+    /// Writes the gradients that were referred to.
     void write(XmlText *xml) const;
 
 private:
@@ -39,7 +39,7 @@ private:
     int m_lastNumber = 0;
 };
 
-/// The document-wide styling of a node of the given style, as declarations that win over all others.
+/// The document-wide styling of a node of the given style, as declarations that override all others.
 QString overrideText(const StyleOverride &override, const ComputedStyle &style, PaintDefinitions *paints);
 
 } // namespace Svg

@@ -55,7 +55,7 @@ bool Presentation::update(AnimatedAttribute *attribute)
     return true;
 }
 
-// All animated properties of a node lie over its style together.
+// All animated properties of a node override its style together.
 void Presentation::writeStyle(NodeIndex target, const Document &base)
 {
     const auto isBefore = [](const AnimatedAttribute &attribute, NodeIndex node) {
@@ -76,7 +76,7 @@ void Presentation::write(const AnimatedAttribute &attribute, const Document &bas
         return;
     }
     const Attributes &attributes = base.tree().node(attribute.target).attributes;
-    // A null value takes the attribute away.
+    // A null value removes the attribute.
     const AttributeValue &own = attributes.held(attribute.name);
     m_document.setAttribute(attribute.target, attribute.name, attribute.shown.value_or(own));
 }

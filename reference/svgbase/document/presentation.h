@@ -6,19 +6,19 @@
 
 namespace Svg {
 
-/// A document as it looks at a moment of its animation: a copy that shares everything that is not animated. The
-/// document itself keeps its own values; what is changed of it shows at the next moment.
+/// A document's look at a moment of its animation: a copy that shares everything that is not animated. The document
+/// keeps its own values; its changes appear at the next moment.
 class Presentation
 {
 public:
     explicit Presentation(const Document &base);
 
-    /// Goes to a moment. Whether that changes what is drawn.
+    /// Advances to a moment. Returns whether that changes the drawing.
     bool show(Document &base, ClockTime time);
     Document &document() { return m_document; }
     /// Parts left out because of limits.
     DrawReport report() const;
-    /// The view box of the moment, if it is animated.
+    /// The view box at the moment, if it is animated.
     std::optional<QRectF> viewBox() const;
 
 private:

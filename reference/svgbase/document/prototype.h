@@ -9,29 +9,29 @@
 
 namespace Svg {
 
-/// The parsed form of a text. It is immutable, so that documents of any thread start as copies of it and share
-/// their unchanged parts.
+/// The parsed form of a text. It is immutable, so documents in any thread start as copies of it and share their
+/// unchanged parts.
 class Prototype
 {
 public:
-    /// The elements with everything that is resolved of them.
+    /// The elements with all their resolved facts.
     struct Settled
     {
         Tree tree;
         /// By node index.
         QVector<FactsPointer> facts;
         QVector<Message> messages;
-        /// Whether facts of some element depend on what is inside of it.
+        /// Whether facts of some element depend on its content.
         bool measuresContent = false;
     };
 
     Prototype(const Tree &tree, const Messages &messages);
 
-    /// The elements as read; their styling flags are not settled yet.
+    /// The elements as read, before their styling flags are resolved.
     const Tree &tree() const { return m_tree; }
-    /// The view box that the text gives; null when it gives none.
+    /// The view box that the text gives; null without one.
     const QRectF &viewBox() const { return m_viewBox; }
-    /// Resolved when it is first asked for.
+    /// Resolved on first use.
     const Settled &settled() const;
 
 private:

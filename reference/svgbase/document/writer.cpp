@@ -65,7 +65,7 @@ private:
     const Tree &m_tree;
     XmlText m_xml;
     PaintDefinitions m_paints{m_tree};
-    /// Declared anywhere so far; a prefix of a removed declaration takes its attributes along.
+    /// Declared anywhere so far; attributes with the prefix of a removed declaration are removed with it.
     QStringList m_prefixes{QStringLiteral("xml"), QStringLiteral("xlink")};
 };
 
@@ -92,7 +92,7 @@ bool Writer::isInText(NodeIndex index) const
            (m_tree.node(parent).kind == ElementKind::Text || isTextPart(m_tree.node(parent).kind));
 }
 
-// Document-wide styling of a text counts for its parts too.
+// Document-wide styling of a text applies to its parts, too.
 NodeIndex Writer::styledNode(NodeIndex index) const
 {
     NodeIndex at = index;

@@ -6,7 +6,7 @@ class DocumentPrivate;
 
 namespace Svg {
 
-/// The text of a document as it is now, UTF-8.
+/// The text of a document in its present state, UTF-8.
 QByteArray documentText(DocumentPrivate &document);
 
 } // namespace Svg

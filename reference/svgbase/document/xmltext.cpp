@@ -43,7 +43,7 @@ void appendEscaped(QString *result, QChar c, bool inAttribute)
     }
 }
 
-// Half of a pair of surrogates would not survive UTF-8.
+// An unpaired surrogate would not survive UTF-8.
 bool isLoneSurrogate(const QString &text, int at)
 {
     const QChar c = text.at(at);

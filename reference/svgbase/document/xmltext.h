@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// Collects XML text; what can't stand in XML is left out.
+/// Collects XML text; characters that are not allowed in XML are left out.
 class XmlText
 {
 public:
@@ -22,7 +22,8 @@ private:
 };
 
 /// Whether text can be the name of an attribute (a subset of XML 1.0 §2.3: ASCII letters, digits, "-", "_", "." and
-/// one ":" between other characters).
+/// one
+/// ":" between other characters).
 bool isXmlName(const QString &name);
 
 } // namespace Svg
