@@ -14,9 +14,9 @@ namespace Svg {
 
 namespace {
 
-/// How far bounds of a stroke may stray, as a share of its size.
+/// Tolerance for bounds of a stroke, as a share of its size.
 constexpr double strokeTolerance = 1e-3;
-/// Visits that a text counts, since it is laid out to be measured.
+/// Visits counted for a text, since it is laid out to be measured.
 constexpr int visitsOfText = 10;
 
 /// An element whose children are being measured.
@@ -28,7 +28,7 @@ struct Level
     bool single;
 };
 
-// Bounds of outlines with their strokes, whatever these are painted with; dashes count as lines.
+// Bounds of outlines with their strokes, whatever their paint; dashes count as lines.
 QRectF strokedBounds(const Facts &facts)
 {
     QRectF bounds = facts.toDocument.mapRect(facts.localBounds);
@@ -73,7 +73,7 @@ private:
     bool m_any = false;
 };
 
-// Boxes without an area, which lines have, count, too.
+// Boxes without area, as lines have, count, too.
 void ContentMeter::add(ElementKind kind, const Facts &facts)
 {
     const QRectF filled =

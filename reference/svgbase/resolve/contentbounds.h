@@ -12,9 +12,9 @@ struct ContentMeasuring
 {
     quint32 revision = 0;
     int visits = 0;
-    /// Whether facts of some element depend on what is inside of it.
+    /// Whether facts of some element depend on its content.
     bool used = false;
-    /// Whether something was not measured since it would have taken too much.
+    /// Whether something was not measured because the budget was used up.
     bool cut = false;
 };
 
@@ -25,14 +25,14 @@ struct MeasuredContent
 {
     /// In the units that the facts of the element are mapped to; null without geometry.
     QRectF bounds;
-    /// Whether something inside is painted as whatever uses it.
+    /// Whether something inside uses the paint of the element that shows it.
     bool takesContextPaint = false;
     /// Whether there was too much of it.
     bool tooMuch = false;
 };
 
-/// Bounds of an element and all that is drawn inside of it, what it uses included (SVG 2 §8.10). Whatever is too
-/// much is left out.
+/// Bounds of an element and everything drawn inside of it, including what it uses (SVG 2 §8.10). Content beyond the
+/// limits is left out.
 MeasuredContent measuredContent(const Resolver &resolver, const Tree &tree, NodeIndex top,
                                 const FactsPointer &facts, ContentBox box, ContentMeasuring *measuring);
 

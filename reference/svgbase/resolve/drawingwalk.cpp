@@ -18,7 +18,7 @@ struct Level
     NodeIndex nextChild = noNode;
     /// Only the next child is visited, not its siblings.
     bool single = false;
-    /// Inside something used: facts depend on the place.
+    /// Inside used content: facts depend on the place of use.
     bool used = false;
 };
 

@@ -14,7 +14,7 @@ struct RegionContext
     double fontSize = 16;
 };
 
-/// The region that "x", "y", "width" and "height" give, by default the bounds with a tenth of their size on every
+/// The region by "x", "y", "width" and "height", by default the bounds extended by a tenth of their size on every
 /// side (CSS Masking 1 §7.3, Filter Effects 1 §7). Numbers are shares of the bounds, or user units. Empty when a
 /// size is not positive.
 QRectF effectRegion(const Node &effect, bool ofBounds, const RegionContext &context);

@@ -20,10 +20,10 @@ struct Facts;
 struct ImageContent;
 struct PlacedPicture;
 using FactsPointer = QExplicitlySharedDataPointer<const Facts>;
-/// Gives the facts of a node without animation.
+/// Returns the facts of a node without animation.
 using FactsOfNode = std::function<FactsPointer(NodeIndex)>;
 
-/// One outline with the paint that fills and strokes it; user units of its element.
+/// One outline with the paint of its fill and stroke; user units of its element.
 struct Outline
 {
     QPainterPath path;
@@ -33,13 +33,13 @@ struct Outline
     /// Paint of the pen; set even if the pen draws nothing, since document-wide styling may widen it.
     QBrush strokePaint = Qt::NoBrush;
     QPen pen = Qt::NoPen;
-    /// Patterns in the place of the brushes, which then only tell that there is something.
+    /// Patterns that replace the brushes, which then only tell that there is paint.
     int fillPattern = -1;
     int strokePattern = -1;
-    /// Paints that the style asks for: a pattern may come from a context.
+    /// Paints of the style: a pattern may come from a context.
     Paint::Kind fillKind = Paint::Unset;
     Paint::Kind strokeKind = Paint::Unset;
-    /// Of the style that it is painted with, for the patterns.
+    /// Of its style, for the patterns.
     float fillOpacity = 1;
     float strokeOpacity = 1;
     /// Whether its edges are smoothed.
@@ -48,15 +48,15 @@ struct Outline
     bool strokeFirst = false;
     /// Scale of the lengths of dashes; 0 for a solid line.
     double dashScale = 1;
-    /// A glyph's picture that is shown instead, within the path; user units. Null for all other outlines.
+    /// A glyph's picture shown instead, within the path; user units. Null for all other outlines.
     std::shared_ptr<const PlacedPicture> picture;
 };
 
-/// A paint with all that it is measured by, for other elements to be painted with.
+/// A paint with everything that it is relative to, so that other elements can be painted with it.
 struct ContextPaint
 {
     QBrush brush = Qt::NoBrush;
-    /// A pattern in the place of the brush.
+    /// A pattern that replaces the brush.
     int pattern = -1;
     /// Of the element that the paint belongs to, its user units.
     QRectF bounds;
@@ -71,7 +71,7 @@ struct PaintContext
     ContextPaint stroke;
 };
 
-/// The sides that are given; the others are the used element's own.
+/// The sides that are set; the others are the used element's own.
 struct UsedSize
 {
     std::optional<double> width;
@@ -83,26 +83,25 @@ struct Fitting : QSharedData
 {
     /// How the box of an image's content, or a nested view box, is fitted into the units around it.
     QTransform fit;
-    /// Of a "use": the size that it gives a used "svg" or "symbol", user units.
+    /// Of a "use": the size that it sets for a used "svg" or "symbol", user units.
     UsedSize usedSize;
-    /// Of a viewport that cuts its content: its box, in the units around it.
+    /// Of a viewport that clips its content: its box, in the units around it.
     std::optional<QRectF> cut;
-    /// Of a viewport: the units around it, where the cut stands.
+    /// Of a viewport: the units around it, in which the clip lies.
     QTransform aroundToDocument;
 };
 
-/// Everything that drawing and measuring need to know of one element where it stands, ready to use. Facts never
-/// change: an element that changes gets new ones, and so do its children, whose facts name the parent they were
-/// resolved against.
+/// Everything that drawing and measuring need to know of one element at its place. Facts never change: an element
+/// that changes gets new ones, and so do its children, whose facts name the parent they were resolved against.
 struct Facts : QSharedData
 {
     FactsPointer parent;
-    /// Counts changes of gradients and references; 0 when none of them matters here.
+    /// Revision of gradients and references; 0 when none of them matters here.
     quint32 referenceRevision = 0;
     StylePointer style = initialStyle();
     /// Content of an "image"; null for other elements.
     std::shared_ptr<const ImageContent> image;
-    /// Null for most elements; fitted() gives a default then.
+    /// Null for most elements; fitted() returns a default then.
     QSharedDataPointer<Fitting> fitting;
     /// Null outside of markers and used elements.
     std::shared_ptr<const PaintContext> context;
@@ -118,10 +117,10 @@ struct Facts : QSharedData
     QRectF bounds;
     bool hasGeometry = false;
 
-    /// Whether they were resolved against something that an element below inherits the same style from.
+    /// Whether they were resolved against a parent with the same inherited style.
     bool inheritsAlike(const FactsPointer &above) const;
     const Fitting &fitted() const;
-    /// To be changed while the facts are made.
+    /// For changes while the facts are made.
     Fitting &ownFitting();
 };
 

@@ -75,7 +75,7 @@ double PrimitiveReader::number(const char *name, double fallback) const
     return parseNumber(text(name)).value_or(fallback);
 }
 
-// One number counts for both directions; negative ones disable the effect.
+// One number is used for both directions; negative ones disable the effect.
 QSizeF PrimitiveReader::pair(const char *name, double fallback) const
 {
     const std::optional<QVector<double>> numbers = parseNumberList(text(name));
@@ -154,7 +154,7 @@ bool isColorMatrixType(const QString &type)
     return type == QLatin1String("saturate") || type == QLatin1String("hueRotate");
 }
 
-// Values of the wrong number leave colours as they are.
+// A wrong number of values leaves colours unchanged.
 void PrimitiveReader::readMatrix()
 {
     const QString type = text("type");

@@ -15,7 +15,7 @@ struct PrimitiveUnits
     QSizeF viewport;
 };
 
-/// Reads a filter primitive (Filter Effects 1 §9). Values that break their grammar leave their defaults.
+/// Reads a filter primitive (Filter Effects 1 §9). Invalid values keep their defaults.
 FilterPrimitive readPrimitive(const Tree &tree, NodeIndex node, const ComputedStyle &style,
                               const PrimitiveUnits &units);
 

@@ -6,10 +6,10 @@
 
 namespace Svg {
 
-/// The primitive that a filter function stands for (Filter Effects 1 §13); it works on colours as they are encoded.
+/// The primitive of a filter function (Filter Effects 1 §13); it works on colours as they are encoded.
 FilterPrimitive functionPrimitive(const FilterFunction &function, const ComputedStyle &style);
 
-/// The functions of the "filter" property; none for a list that breaks the grammar.
+/// The functions of the "filter" property; none for an invalid list.
 QVector<FilterFunction> filterFunctions(const ComputedStyle &style);
 
 /// Matrices of "feColorMatrix" (Filter Effects 1 §9.6).

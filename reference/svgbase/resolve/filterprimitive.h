@@ -15,7 +15,7 @@
 
 namespace Svg {
 
-/// The subregion of a primitive where its attributes give it, units of the filtered element.
+/// The subregion of a primitive, as far as its attributes set it, units of the filtered element.
 struct PrimitiveRegion
 {
     std::optional<double> x;
@@ -31,11 +31,11 @@ struct Displacement;
 struct Lighting;
 struct Turbulence;
 
-/// A primitive with its attributes settled; which members count depends on its kind.
+/// A primitive with its attributes resolved; its kind decides which members are used.
 struct FilterPrimitive
 {
     ElementKind kind = ElementKind::FeMerge;
-    /// Names of standard inputs or earlier results; empty for the result before this one.
+    /// Names of standard inputs or earlier results; empty for the previous result.
     QStringList inputs;
     QString result;
     PrimitiveRegion region;

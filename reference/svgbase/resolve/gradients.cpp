@@ -16,13 +16,13 @@ namespace Svg {
 
 namespace {
 
-/// Stops closer than a painter's colour table can tell apart.
+/// Distance of stops below the resolution of a painter's colour table.
 constexpr double offsetStep = 1e-6;
 
 /// Most gradients that are kept at a time.
 constexpr int mostKnown = 1000;
 
-/// A gradient and those it refers to, nearest first: what one leaves out, the next may say.
+/// A gradient and those it refers to, nearest first: later ones supply what earlier ones omit.
 class GradientChain
 {
 public:
@@ -49,7 +49,7 @@ bool isGradient(ElementKind kind)
     return kind == ElementKind::LinearGradient || kind == ElementKind::RadialGradient;
 }
 
-// A chain that returns to one of its own ends there.
+// A chain that returns to one of its own gradients ends there.
 GradientChain::GradientChain(const Tree &tree, NodeIndex gradient, TreeStyles *styles)
     : m_tree(tree)
     , m_styles(styles)
@@ -64,7 +64,7 @@ GradientChain::GradientChain(const Tree &tree, NodeIndex gradient, TreeStyles *s
     }
 }
 
-// Points belong to lines and circles to radial gradients: a reference to the other kind doesn't bring them along
+// Points belong to linear and circles to radial gradients: a reference to the other kind doesn't inherit them
 // (SVG 1.1 §13.2.2, §13.2.3).
 bool isOfKind(AttributeId id, ElementKind kind)
 {
@@ -96,7 +96,7 @@ AttributeValue GradientChain::held(AttributeId id) const
     return AttributeValue();
 }
 
-// The nearest that says something.
+// The nearest gradient that sets the attribute.
 ServerTransform GradientChain::transform() const
 {
     ServerTransform result;
@@ -139,7 +139,7 @@ QGradientStops GradientChain::stops(double opacity) const
         QColor color = style.stopColor;
         color.setAlphaF(color.alphaF() * style.stopOpacity * opacity);
         const double offset = shareOf(stop.attributes.held(AttributeId::Offset)).value_or(0);
-        // Offsets never fall back (SVG 1.1 §13.2.4).
+        // Offsets never decrease (SVG 1.1 §13.2.4).
         stops.append({stops.isEmpty() ? offset : qMax(offset, stops.constLast().first), color});
     }
     return stops;
@@ -167,7 +167,7 @@ QColor mixedInLight(const QColor &a, const QColor &b, double share)
     return color;
 }
 
-// Painters mix encoded colours only: stops in between follow the light (SVG 1.1 §11.7.1).
+// Painters interpolate encoded colours only: stops in between follow linear light (SVG 1.1 §11.7.1).
 QGradientStops followingLight(const QGradientStops &stops)
 {
     constexpr int parts = 16;
@@ -185,7 +185,7 @@ QGradientStops followingLight(const QGradientStops &stops)
     return result;
 }
 
-/// Lengths of a gradient; percentages are of the bounds or of the viewport, as its units say.
+/// Lengths of a gradient; its units decide whether percentages refer to the bounds or the viewport.
 class GradientLengths
 {
 public:
@@ -223,8 +223,7 @@ QGradient::Spread spread(const QString &method)
     return QGradient::PadSpread;
 }
 
-// Painters multiply colours by their alpha before they mix them; SVG mixes each channel on its own (SVG 1.1
-// §13.2.4).
+// Painters premultiply colours before interpolating; SVG interpolates each channel separately (SVG 1.1 §13.2.4).
 void takeStops(QGradient *gradient, const QGradientStops &stops, QGradient::Spread spread)
 {
     gradient->setInterpolationMode(QGradient::ComponentInterpolation);
@@ -273,8 +272,8 @@ struct Circle
     double radius;
 };
 
-// Painters draw nothing where the circles touch inside; a little farther in, the first makes no difference that
-// shows.
+// Painters draw nothing where the circles touch inside; moving the focus inwards a little makes no visible
+// difference.
 QPointF apart(const Circle &start, const Circle &end)
 {
     constexpr double nearness = 1e-4;
@@ -293,13 +292,13 @@ QGradientStops reversed(const QGradientStops &stops)
     return result;
 }
 
-// From the first circle to the second; nothing where both are the same (SVG 2 §14.2.3).
+// From the first circle to the second; empty where both are the same (SVG 2 §14.2.3).
 QBrush circlesBrush(QRadialGradient gradient, const Circle &start, const Circle &end)
 {
     const double distance = QLineF(start.centre, end.centre).length();
     if (distance <= 0 && start.radius == end.radius)
         return Qt::NoBrush;
-    // Painters only know a second circle that is the larger one.
+    // Painters require the second circle to be the larger one.
     const bool shrinks = start.radius - end.radius >= distance;
     if (shrinks)
         gradient.setStops(reversed(gradient.stops()));

@@ -23,7 +23,7 @@ struct GradientTarget
     double opacity = 1;
 };
 
-/// Gradients with their stops but without a place, by node and opacity: all brushes of one share its stops.
+/// Gradients with their stops but without a position, by node and opacity: all brushes of one share its stops.
 class GradientCache
 {
 public:
@@ -38,9 +38,9 @@ public:
         double fontSize = 16;
     };
 
-    /// Forgets everything when references may have another meaning than before.
+    /// Discards everything when references may have changed.
     void setRevision(quint32 revision);
-    /// Whether the gradient that was asked for last refers to too many others.
+    /// Whether the gradient requested last refers to too many others.
     bool hasCutChain() const { return m_cutChain; }
     void setCutChain(bool cut) { m_cutChain = cut; }
     const Known *find(NodeIndex gradient, double opacity) const;
@@ -54,9 +54,9 @@ private:
     bool m_cutChain = false;
 };
 
-/// The brush of a linear or radial gradient (SVG 1.1 §13.2) in the user units of its target; one that paints
-/// nothing without stops. Nothing when the node is no gradient, or measures itself by bounds without area, so that
-/// it can't be used (SVG 1.1 §7.11).
+/// The brush of a linear or radial gradient (SVG 1.1 §13.2) in the user units of its target; without stops one that
+/// paints nothing. Empty when the node is not a gradient, or is relative to bounds without area and cannot be used
+/// (SVG 1.1 §7.11).
 std::optional<QBrush> gradientBrush(const Tree &tree, NodeIndex gradient, const GradientTarget &target,
                                     GradientCache *cache);
 

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// Fits the content into a box; one without a size of its own is not scaled (SVG 2 §12.3).
+/// Fits the content into a box; content without a size of its own is not scaled (SVG 2 §12.3).
 QTransform contentFit(const ImageContent &content, const QRectF &box, const AspectRatio &ratio);
 
 /// Where an "image" element shows its content.

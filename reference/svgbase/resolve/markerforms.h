@@ -10,13 +10,12 @@
 
 namespace Svg {
 
-/// The attributes of a marker, settled for an element: the marker at every vertex before it is turned and moved
-/// there.
+/// A marker resolved for an element, before it is turned and moved to each vertex.
 struct MarkerForm
 {
     /// The box that the content is fitted into.
     QRectF box;
-    /// Its cut, in the units of the box; none where it may overflow.
+    /// Its clip, in the units of the box; none when it may overflow.
     std::optional<QRectF> cut;
     /// From the content's units to those of the box, the reference point at the origin.
     QTransform contentToBox;
@@ -28,7 +27,7 @@ struct MarkerForm
     bool turnsBackAtStart = false;
 };
 
-/// Nothing for a marker that shows nothing. `strokeWidth` and `viewport` are of the marked element.
+/// Empty for a marker that shows nothing. `strokeWidth` and `viewport` are of the marked element.
 std::optional<MarkerForm> markerForm(const Node &marker, const ComputedStyle &style, double strokeWidth,
                                      const QSizeF &viewport);
 

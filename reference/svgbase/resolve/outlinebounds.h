@@ -4,8 +4,8 @@
 
 namespace Svg {
 
-/// Bounds of an outline without its stroke, document units. The box of the geometry counts where nothing is turned,
-/// since it is known even of what draws nothing.
+/// Bounds of an outline without its stroke, document units. Without rotation they are those of the geometry, which
+/// is known even where nothing is drawn.
 QRectF mappedBounds(const Facts &facts, const QPainterPath &path);
 /// Bounds of all outlines together, mapped. Null without any.
 QRectF mappedBounds(const QTransform &toDocument, const QVector<Outline> &outlines);

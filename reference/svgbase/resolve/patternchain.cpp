@@ -9,7 +9,7 @@
 
 namespace Svg {
 
-// A chain that returns to one of its own ends there.
+// A chain that returns to one of its own patterns ends there.
 PatternChain::PatternChain(const Tree &tree, NodeIndex pattern)
     : m_tree(tree)
 {
@@ -61,7 +61,7 @@ bool PatternChain::isContentOfBounds() const
     return held(QStringLiteral("patternContentUnits")).text() == QLatin1String("objectBoundingBox");
 }
 
-// A view box takes the place of the content's units.
+// A view box replaces the units of the content.
 bool needsBounds(const PatternChain &chain)
 {
     return chain.isTileOfBounds() ||

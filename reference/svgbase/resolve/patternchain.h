@@ -5,18 +5,18 @@
 
 namespace Svg {
 
-/// A pattern and those it refers to, nearest first: what one leaves out, the next may say (SVG 1.1 §13.3).
+/// A pattern and those it refers to, nearest first: later ones supply what earlier ones omit (SVG 1.1 §13.3).
 class PatternChain
 {
 public:
     PatternChain(const Tree &tree, NodeIndex pattern);
 
     AttributeValue held(const QString &name) const;
-    /// The nearest that says something.
+    /// The nearest pattern that sets the attribute.
     ServerTransform transform() const;
     /// The first that has content; `noNode` when none has.
     NodeIndex holder() const;
-    /// Whether its tile, and its content, are measured by the bounding box of what it paints.
+    /// Whether its tile, and its content, are relative to the bounding box of the painted element.
     bool isTileOfBounds() const;
     bool isContentOfBounds() const;
 

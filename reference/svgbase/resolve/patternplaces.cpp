@@ -31,7 +31,7 @@ private:
     QSizeF m_viewport;
     /// Of the pattern's own element, user units.
     double m_fontSize;
-    /// Percentages of the tile are of these.
+    /// Percentages of the tile refer to these.
     QSizeF m_units;
 };
 

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// The tile of a pattern and its content, settled for a target.
+/// The tile of a pattern and its content, resolved for a target.
 struct PatternPlace
 {
     /// The tile at the origin; pattern units.

@@ -12,7 +12,7 @@ bool isNamed(const Tree &tree, NodeIndex node, const char *name)
     return hasLocalName(tree.node(node), QString::fromLatin1(name));
 }
 
-// The glyphs of all `glyphRef` elements right below a node; empty where one of them leads to none.
+// The glyphs of all `glyphRef` children of a node; empty when one of them has no target.
 QVector<NodeIndex> listedGlyphs(const Tree &tree, NodeIndex list)
 {
     QVector<NodeIndex> glyphs;

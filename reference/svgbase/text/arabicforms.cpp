@@ -4,7 +4,7 @@ namespace Svg {
 
 namespace {
 
-/// How far a neighbour is looked for behind marks.
+/// How many marks are skipped when looking for a neighbour.
 constexpr int farthestNeighbour = 16;
 
 QChar::JoiningType joiningAt(const QString &text, int at)
@@ -12,7 +12,7 @@ QChar::JoiningType joiningAt(const QString &text, int at)
     return QChar::joiningType(text.at(at).unicode());
 }
 
-// Marks don't come between letters.
+// Marks don't separate letters.
 QChar::JoiningType neighbour(const QString &text, int at, int step)
 {
     for (int i = at + step; i >= 0 && i < text.size() && qAbs(i - at) <= farthestNeighbour; i += step)

@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// The form of the character at a place of a text, as its neighbours let it join (Unicode §9.2).
+/// The joining form of the character at an index, decided by its neighbours (Unicode §9.2).
 ArabicForm arabicForm(const QString &text, int at);
 
 } // namespace Svg

@@ -28,7 +28,7 @@ bool isOverridden(const TextContent &content, int level)
     return mode == UnicodeBidi::Override || mode == UnicodeBidi::IsolateOverride;
 }
 
-// Splits by level alone, as if everything went from left to right.
+// Splits by level alone, as if all text ran from left to right.
 QVector<BidiRun> levelRuns(const TextContent &content, int begin, int end)
 {
     QVector<BidiRun> runs;
@@ -66,14 +66,14 @@ bool needsBidi(const TextContent &content, int begin, int end)
     return false;
 }
 
-/// The characters with the controls that elements ask for, and where each character is in it.
+/// The characters with the controls for elements, and the index of each character among them.
 struct ControlledText
 {
     QString text;
     QVector<int> places;
 };
 
-/// The controls that stand for an element (CSS Writing Modes 3 §2.2).
+/// The controls that represent an element (CSS Writing Modes 3 §2.2).
 struct Controls
 {
     QString opening;
@@ -103,7 +103,7 @@ Controls controlsOf(const ComputedStyle &style)
     return {};
 }
 
-// Levels that open and close between two characters are those on the way from one to the other.
+// The levels that close and open between two characters are those on the path from one to the other.
 ControlledText withControls(const TextContent &content, int begin, int end)
 {
     ControlledText result;
@@ -128,7 +128,7 @@ ControlledText withControls(const TextContent &content, int begin, int end)
     return result;
 }
 
-// Lays a part of the line out in one font, just to see where everything goes.
+// Lays a part of the line out in one font, only to find the visual order.
 QVector<BidiRun> orderedRuns(const TextContent &content, int begin, int end)
 {
     const ControlledText controlled = withControls(content, begin, end);

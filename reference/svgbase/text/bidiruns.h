@@ -7,13 +7,13 @@ namespace Svg {
 constexpr ushort leftToRightOverride = 0x202d;
 constexpr ushort rightToLeftOverride = 0x202e;
 
-/// Characters of one level and direction that stand together.
+/// Adjacent characters of one level and direction.
 struct BidiRun
 {
     int begin = 0;
     int end = 0;
     bool rightToLeft = false;
-    /// Whether the direction is forced upon the characters.
+    /// Whether the direction overrides that of the characters.
     bool overridden = false;
 };
 

@@ -6,7 +6,7 @@ namespace Svg {
 
 namespace {
 
-// Where values stand in the table of places, and how long its records are (OpenType, "CBLC").
+// Offsets of values in the location table, and the length of its records (OpenType, "CBLC").
 constexpr int strikeCountOffset = 4;
 constexpr int firstStrikeOffset = 8;
 constexpr int strikeBytes = 48;
@@ -18,19 +18,19 @@ constexpr int pixelsPerEmXOffset = 44;
 constexpr int pixelsPerEmYOffset = 45;
 constexpr int rangeBytes = 8;
 constexpr int rangeHeaderBytes = 8;
-/// Behind the size that all bitmaps of a range have.
+/// After the size shared by all bitmaps of a range.
 constexpr int sharedMetricsOffset = 12;
 constexpr int sharedCountOffset = 20;
 constexpr int sharedGlyphsOffset = 24;
 
-// How the places of bitmaps are listed.
+// Formats of the lists of offsets.
 constexpr int longOffsets = 1;
 constexpr int sameSize = 2;
 constexpr int shortOffsets = 3;
 constexpr int sparseOffsets = 4;
 constexpr int sparseSameSize = 5;
 
-// Bytes in front of a PNG, by its format (OpenType, "CBDT").
+// Bytes before a PNG, by its format (OpenType, "CBDT").
 constexpr int smallMetrics = 17;
 constexpr int bigMetrics = 18;
 constexpr int sharedMetrics = 19;
@@ -80,7 +80,7 @@ std::optional<ColorBitmaps::Range> ColorBitmaps::rangeOf(const Strike &strike, q
     return std::nullopt;
 }
 
-// Of ranges that list some of their glyphs only.
+// Ranges that list only some of their glyphs.
 std::optional<ColorBitmaps::Piece> ColorBitmaps::pieceOfSparse(const Range &range, quint32 glyph)
 {
     const bool same = numberAt<quint16>(m_places, range.begin) == sparseSameSize;

@@ -20,7 +20,7 @@ struct GlyphBitmap
     int pixelsPerEmY = 0;
 };
 
-/// The bitmaps in colour that a font has for its glyphs (OpenType, "CBLC" and "CBDT").
+/// The colour bitmaps of a font's glyphs (OpenType, "CBLC" and "CBDT").
 class ColorBitmaps
 {
 public:
@@ -32,25 +32,25 @@ public:
     }
 
     bool isEmpty() const { return m_places.isEmpty() || m_pictures.isEmpty(); }
-    /// The largest bitmap of a glyph; nothing for a glyph without one, for damaged tables, and once looking for
-    /// bitmaps took too long.
+    /// The largest bitmap of a glyph; empty for a glyph without one, for damaged tables, and once the budget of the
+    /// search is used up.
     std::optional<GlyphBitmap> find(quint32 glyph);
     bool tookTooLong() const { return m_stepsLeft < 0; }
 
 private:
-    /// Where the bitmaps of a range of glyphs are listed, and with how many pixels.
+    /// The list of a range of glyphs' bitmaps, and their size in pixels.
     struct Strike
     {
         qint64 record = 0;
         int pixelsPerEm = 0;
     };
-    /// A part of the list, and which of its glyphs is meant.
+    /// A part of the list, and the index of the glyph in it.
     struct Range
     {
         qint64 begin = 0;
         int place = 0;
     };
-    /// Bytes of a bitmap with what stands in front of them.
+    /// Bytes of a bitmap with its metrics.
     struct Piece
     {
         qint64 begin = 0;
@@ -65,7 +65,7 @@ private:
 
     QByteArray m_places;
     QByteArray m_pictures;
-    /// Records of the tables that may still be looked at.
+    /// Records of the tables that may still be examined.
     int m_stepsLeft = Limits::fontPictureSteps;
 };
 

@@ -11,7 +11,7 @@ namespace Svg {
 
 namespace {
 
-// Shares of the em where a font does not tell (SVG 1.1 §20.8.3 leaves most of them to the program).
+// Shares of the em for fonts without these values (SVG 1.1 §20.8.3 leaves most of them to the program).
 constexpr double usualAscent = 0.8;
 constexpr double usualDescent = 0.2;
 constexpr double usualXHeight = 0.5;
@@ -20,7 +20,7 @@ constexpr double usualSuperscript = 0.4;
 constexpr double usualUnderline = 0.1;
 constexpr double usualThickness = 0.05;
 
-/// Fonts with smaller ones would be magnified without bounds.
+/// Fonts with fewer units per em would be magnified without bounds.
 constexpr double leastUnitsPerEm = 0.01;
 
 struct FormName
@@ -47,7 +47,7 @@ ArabicForm formNamed(const QString &name)
 const QString characterKey = QStringLiteral("u");
 const QString nameKey = QStringLiteral("g");
 
-/// Most characters of a range that kerning lists.
+/// Most characters of a range in a kerning list.
 constexpr int longestRange = 256;
 
 bool isCodeRange(const QString &text)
@@ -55,7 +55,7 @@ bool isCodeRange(const QString &text)
     return text.trimmed().startsWith(QLatin1String("U+"), Qt::CaseInsensitive);
 }
 
-// "U+" with a code, with two of them, or with digits left open at its end (SVG 1.1 §20.7).
+// "U+" with a code, with two of them, or with wildcard digits at its end (SVG 1.1 §20.7).
 QStringList keysOfRange(const QString &range)
 {
     const QString codes = range.mid(2);
@@ -73,7 +73,7 @@ QStringList keysOfRange(const QString &range)
     return keys;
 }
 
-// Keys that one side of a pair lists, characters or names of glyphs; not much more than `most` of them.
+// Keys in the list of one side of a pair, characters or names of glyphs; not many more than `most`.
 QStringList sideOf(const QString &characters, const QString &names, int most)
 {
     QStringList keys;
@@ -247,7 +247,7 @@ bool DocumentFont::isAllowed(const FontGlyph &glyph, const GlyphPlace &place)
     return isForLanguage(glyph.languages, place.language);
 }
 
-// Nodes are no names for the glyphs of files; negative numbers are.
+// Glyphs of elements are known by their nodes, glyphs of files by negative numbers.
 const FontGlyph *DocumentFont::findInFile(QStringView text) const
 {
     const bool pair = text.size() > 1 && text.front().isHighSurrogate();
@@ -288,8 +288,8 @@ const FontGlyph *DocumentFont::glyphOf(NodeIndex node) const
     return found == m_glyphs.end() ? nullptr : found;
 }
 
-// Of several elements for a pair the first counts (SVG 1.1 §20.7). Looking for one that is known takes as long as a
-// new one does, and so do characters that are paired with nothing.
+// Of several elements for a pair the first counts (SVG 1.1 §20.7). Looking up a known pair takes as long as storing
+// a new one, and so do characters without a pair.
 void DocumentFont::readKerning(const Node &node, KerningTable *table, int *pairsLeft)
 {
     const double value = numberOf(node, "k", 0);

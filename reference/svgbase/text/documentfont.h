@@ -10,20 +10,20 @@
 
 namespace Svg {
 
-/// How an Arabic letter joins its neighbours; `Any` where that does not matter.
+/// Joining form of an Arabic letter; `Any` for others.
 enum class ArabicForm : quint8 { Any, Isolated, Initial, Medial, Terminal };
 
 /// A glyph of a font inside the document (SVG 1.1 §20.4), font units.
 struct FontGlyph
 {
     NodeIndex node = noNode;
-    /// Characters that it represents; empty for a glyph that is reached only by its name.
+    /// Characters that it represents; empty for a glyph used only by its name.
     QString characters;
-    /// Language tags that it is for, in small letters; empty for one that is for all.
+    /// Language tags that it is limited to, in lower case; empty for all.
     QStringList languages;
     /// Keys of its kerning pairs.
     QVector<int> kerningKeys;
-    /// Path data, or what the shapes inside of it amount to; y points up.
+    /// Path data, or the outlines of the shapes inside of it; y points up.
     QString data;
     QPainterPath shapes;
     ArabicForm form = ArabicForm::Any;
@@ -31,20 +31,20 @@ struct FontGlyph
     bool onVertical = true;
     double advance = 0;
     double verticalAdvance = 0;
-    /// Where it is held on a vertical line.
+    /// Its origin on a vertical line.
     QPointF verticalOrigin;
 };
 
-/// Where a glyph is looked for.
+/// The context in which a glyph is selected.
 struct GlyphPlace
 {
-    /// The characters, from the one that the glyph begins with up to the last that it may take.
+    /// The characters, from the first to the last one that the glyph may represent.
     QStringView text;
     ArabicForm form = ArabicForm::Isolated;
     bool vertical = false;
-    /// Of the text, in small letters; empty where it is not said.
+    /// Of the text, in lower case; empty when unknown.
     QString language;
-    /// Whether a glyph may stand for several characters.
+    /// Whether a glyph may represent several characters.
     bool ligatures = true;
 };
 
@@ -52,29 +52,29 @@ struct GlyphPlace
 class DocumentFont
 {
 public:
-    /// Takes the pairs that it kerns, repeated ones included, from those that are left to the document.
+    /// Its kerning pairs, repeated ones included, count towards those of the document.
     DocumentFont(const Tree &tree, NodeIndex font, int *kerningPairsLeft);
     explicit DocumentFont(const std::shared_ptr<FileFont> &file);
 
     double unitsPerEm() const { return m_unitsPerEm; }
-    /// Heights at a font size in user units.
+    /// Vertical metrics at a font size in user units.
     FontMeasures measures(double size) const;
-    /// The first glyph that the place allows; null when there is none.
+    /// The first glyph that fits the context; null without one.
     const FontGlyph *find(const GlyphPlace &place) const;
     /// The glyph for characters without one; null if the font has none.
     const FontGlyph *missing() const { return m_missing.node == noNode ? nullptr : &m_missing; }
-    /// The glyph that an element describes; null when it is none of this font.
+    /// The glyph of an element; null when it is not in this font.
     const FontGlyph *glyphOf(NodeIndex node) const;
-    /// How much closer than their advance two neighbours stand, font units.
+    /// Kerning of two neighbours, subtracted from the advance, font units.
     double kerning(const FontGlyph &first, const FontGlyph &second, bool vertical) const;
-    /// Picture that a font file shows in the place of the outline, font units; null for most glyphs.
+    /// Picture that replaces the outline of a font file's glyph, font units; null for most glyphs.
     const GlyphPicture *picture(const FontGlyph &glyph) const;
     /// The outline in font units, y pointing down, its baseline beginning at the origin.
     const QPainterPath &outline(const FontGlyph &glyph) const;
 
-    /// Whether some of its glyphs or of its kerning were beyond a limit.
+    /// Whether some of its glyphs or of its kerning exceeded a limit.
     bool leavesOut() const { return m_leavesOut; }
-    /// Tells which pictures of a file a limit left out.
+    /// Reports pictures of a file that a limit left out.
     Problem pictureProblem() const { return m_file ? m_file->problem() : Problem(); }
 
 private:
@@ -104,14 +104,14 @@ private:
     FontMeasures m_measures;
     QVector<FontGlyph> m_glyphs;
     FontGlyph m_missing;
-    /// Places of glyphs by the first unit of their characters.
+    /// Indexes of glyphs by the first code unit of their characters.
     QHash<QChar, QVector<int>> m_byCharacter;
-    /// Of characters and names that kerning speaks of.
+    /// Of characters and names used by kerning.
     QHash<QString, int> m_keys;
     KerningTable m_horizontalKerning;
     KerningTable m_verticalKerning;
     bool m_leavesOut = false;
-    /// Null for an element; its glyphs are read when they are asked for.
+    /// Null for an element, whose glyphs are read on first use.
     std::shared_ptr<FileFont> m_file;
     mutable QHash<quint32, std::shared_ptr<FontGlyph>> m_fileGlyphs;
     mutable QHash<NodeIndex, QPainterPath> m_outlines;

@@ -19,7 +19,7 @@ namespace {
 constexpr int wrongSlope = 10000;
 constexpr int wrongVariant = 100000;
 
-/// Weights that a face tells apart.
+/// Weights that a face distinguishes.
 constexpr int mostWeights = 9;
 
 QString attribute(const Tree &tree, NodeIndex node, const char *name)
@@ -82,7 +82,7 @@ NodeIndex childNamed(const Tree &tree, NodeIndex node, const char *name)
     return noNode;
 }
 
-// The font of this document that a description outside of it is for; `noNode` without one.
+// The font of this document that a description outside of it refers to; `noNode` without one.
 NodeIndex sourceOf(const Tree &tree, NodeIndex face)
 {
     const NodeIndex source = childNamed(tree, face, "font-face-src");
@@ -151,7 +151,7 @@ bool DocumentFonts::areIn(const Tree &tree)
     return tree.hasFonts() || (tree.rules() && !tree.rules()->fontFaces().isEmpty());
 }
 
-// The first source that can be used: a font of this document or a file inside of it. Nothing else is looked at.
+// The first usable source: a font of this document or an embedded file. Others are ignored.
 void DocumentFonts::addSheetFace(const Tree &tree, const QString &source, const Face &face)
 {
     CssCursor cursor(source);
@@ -188,7 +188,7 @@ void DocumentFonts::readSheetFaces(const Tree &tree)
         if (names.isEmpty() || m_faces.size() >= Limits::fonts)
             continue;
         face.families.append(names.constFirst().text.toLower());
-        // A range of weights, "100 900", is for all of them.
+        // A range of weights, "100 900", covers all of them.
         face.weights = weightsOf({rule.weight});
         const bool leans =
             rule.style.startsWith(QLatin1String("italic")) || rule.style.startsWith(QLatin1String("oblique"));
@@ -198,7 +198,7 @@ void DocumentFonts::readSheetFaces(const Tree &tree)
     }
 }
 
-// CSS 2.1 §15.6: the slope first, then the nearest weight; light texts look for lighter fonts first.
+// CSS 2.1 §15.6: the slope first, then the nearest weight; for light texts lighter fonts first.
 int DocumentFonts::mismatch(const Face &face, const ComputedStyle &style)
 {
     int sum = (style.font.italic ? face.italic : face.upright) ? 0 : wrongSlope;

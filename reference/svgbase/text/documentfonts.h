@@ -12,36 +12,36 @@ namespace Svg {
 
 using DocumentFontPointer = std::shared_ptr<const DocumentFont>;
 
-/// A font that a style finds in the document.
+/// The document's font for a style.
 struct FoundFont
 {
-    /// Null where the style asks for fonts of the system.
+    /// Null when the style uses fonts of the system.
     DocumentFontPointer font;
-    /// Whether the style names other families for characters that the font lacks.
+    /// Whether the style has further families for characters that the font lacks.
     bool hasOthers = false;
 };
 
-/// The "font" elements of a document and the font files in its style sheets, read when a text first asks for them.
+/// The "font" elements of a document and the font files in its style sheets, read when a text first needs them.
 class DocumentFonts
 {
 public:
     /// Whether a document has fonts of its own, as elements or in its style sheets.
     static bool areIn(const Tree &tree);
 
-    /// Forgets everything when fonts may be others than before.
+    /// Discards everything when the fonts may have changed.
     void setRevision(quint32 revision);
-    /// The font of the first family of a style that there is, nearest to its weight, slope and variant.
+    /// The font of the first existing family of a style, nearest to its weight, slope and variant.
     FoundFont find(const Tree &tree, const ComputedStyle &style);
     /// The font that a "glyph" element belongs to; null for any other node.
     DocumentFontPointer fontOfGlyph(const Tree &tree, NodeIndex glyph);
 
-    /// Begins to count the outlines of a text anew.
+    /// Starts counting the outlines of a text again.
     void beginText(NodeIndex text);
-    /// Whether the document may show so many more outline elements.
+    /// Whether the document may show that many more outline elements.
     bool takeOutline(int elements);
 
 private:
-    /// A description of a font: the family that it gives it, and for what styles it is meant.
+    /// Describes a font: its families and the styles that it suits.
     struct Face
     {
         NodeIndex font = noNode;

@@ -8,7 +8,7 @@ namespace Svg {
 
 namespace {
 
-// Tags that files begin with, and where packed ones tell the size of what they hold (WOFF File Format 1.0 §3).
+// Signatures of font files, and the offset of the unpacked size in packed ones (WOFF File Format 1.0 §3).
 constexpr quint32 trueTypeVersion = 0x00010000;
 constexpr quint32 trueTypeTag = 0x74727565;
 constexpr quint32 woffTag = 0x774f4646;

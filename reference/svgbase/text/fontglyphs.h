@@ -6,21 +6,21 @@
 
 namespace Svg {
 
-/// Glyphs that a font of the document has for characters of one level, in user units.
+/// Glyphs of a font of the document for characters of one level, in user units.
 class LevelGlyphs
 {
 public:
     /// The level must have such a font.
     LevelGlyphs(const TextContent &content, const TextLevel &level, const TextServices &services, bool vertical);
 
-    /// The glyph for the characters from `at` on, none of them behind `end`; null where fonts of the system are to
-    /// be asked.
+    /// The glyph for the characters from `at` on, none of them after `end`; null where fonts of the system are
+    /// used.
     const FontGlyph *find(int at, int end) const;
-    /// The cluster that a glyph makes of the characters that it stands for.
+    /// The cluster of a glyph for the characters that it represents.
     TextCluster cluster(const FontGlyph &glyph, int at, int end) const;
-    /// How much closer together the pair stands than its advances say.
+    /// Kerning of the pair, subtracted from the advance.
     double kerning(const FontGlyph &first, const FontGlyph &second) const;
-    /// Where a glyph is held on a vertical line, from its origin, and how far it goes down.
+    /// Origin of a glyph on a vertical line, relative to its own, and its vertical advance.
     QPointF verticalOrigin(const FontGlyph &glyph) const;
     double verticalAdvance(const FontGlyph &glyph) const;
 

@@ -10,7 +10,7 @@ namespace Svg {
 
 namespace {
 
-// Where values stand in the tables of a font (OpenType, "head", "hhea", "OS/2" and "post").
+// Offsets of values in the tables of a font (OpenType, "head", "hhea", "OS/2" and "post").
 constexpr int unitsPerEmOffset = 18;
 constexpr int ascenderOffset = 4;
 constexpr int descenderOffset = 6;
@@ -21,13 +21,13 @@ constexpr int strikeoutPosition = 28;
 constexpr int underlinePosition = 8;
 constexpr int underlineThickness = 10;
 
-// Shares of the font size for fonts that don't tell.
+// Shares of the font size for fonts without these values.
 constexpr double usualSubscript = 0.2;
 constexpr double usualSuperscript = 0.4;
 constexpr double usualUnderline = -0.1;
 constexpr double usualThickness = 0.05;
 
-/// Of fonts that don't tell.
+/// For fonts without these values.
 constexpr double usualUnitsPerEm = 1000;
 
 // Shares of the ascent (CSS Inline 3, appendix A).
@@ -42,7 +42,7 @@ double tableValue(const QByteArray &table, int offset, double unit, double other
 
 } // namespace
 
-// Of fonts without outlines Qt gives the pixels of a bitmap.
+// For fonts without outlines Qt gives the pixels of a bitmap.
 double unitsPerEm(const QRawFont &font)
 {
     const int units = tableNumber<quint16>(font.fontTable("head"), unitsPerEmOffset).value_or(0);
@@ -71,7 +71,7 @@ FontMeasures fontMeasures(const QRawFont &font, double size)
     measures.thickness = tableValue(post, underlineThickness, unit, usualThickness * size);
     if (!(measures.thickness > 0))
         measures.thickness = usualThickness * size;
-    // Fonts tell the upper edge of their lines.
+    // Fonts give the upper edge of their lines.
     measures.lineThrough = tableValue(os2, strikeoutPosition, unit, measures.xHeight / 2) -
                            tableValue(os2, strikeoutThickness, unit, 0) / 2;
     measures.underline = tableValue(post, underlinePosition, unit, usualUnderline * size) - measures.thickness / 2;

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// Heights of a font in user units; what lies below the baseline is negative.
+/// Vertical metrics of a font in user units; values below the baseline are negative.
 struct FontMeasures
 {
     double ascent = 0;
@@ -20,13 +20,13 @@ struct FontMeasures
     double thickness = 0;
 };
 
-/// The measures of the first font that a style finds.
+/// The metrics of the first font that a style finds.
 FontMeasures fontMeasures(const ComputedStyle &style);
-/// Those of a font in pixels of `outlineFontSize`, at a size in user units.
+/// The metrics of a font in pixels of `outlineFontSize`, at a size in user units.
 FontMeasures fontMeasures(const QRawFont &font, double size);
 /// Units of the tables of a font per font size.
 double unitsPerEm(const QRawFont &font);
-/// How far a baseline lies above the alphabetic one, user units.
+/// Distance of a baseline above the alphabetic one, user units.
 double baselineHeight(Baseline baseline, const FontMeasures &measures);
 
 } // namespace Svg

@@ -7,7 +7,7 @@ namespace Svg {
 
 namespace {
 
-// Where the number of advances stands, and how far these are apart (OpenType, "hhea" and "hmtx").
+// Offset of the number of advances, and their spacing (OpenType, "hhea" and "hmtx").
 constexpr int advanceCountOffset = 34;
 constexpr int advanceBytes = 4;
 
@@ -19,7 +19,7 @@ FontPictures::FontPictures(const QRawFont &font)
 {
 }
 
-// Qt scales the advances of fonts without outlines now by one strike, now by another.
+// Qt scales the advances of fonts without outlines by one strike or another.
 double FontPictures::advanceOf(quint32 glyph) const
 {
     const int count = tableNumber<quint16>(m_font.fontTable("hhea"), advanceCountOffset).value_or(0);

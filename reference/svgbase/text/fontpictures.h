@@ -8,7 +8,7 @@
 
 namespace Svg {
 
-/// A picture in the place of a glyph's outline, pixels of its font's size.
+/// A picture that replaces a glyph's outline, pixels of its font's size.
 struct GlyphPicture
 {
     /// From the origin of the glyph.
@@ -23,7 +23,7 @@ public:
     explicit FontPictures(const QRawFont &font);
 
     bool isEmpty() const { return m_bitmaps.isEmpty(); }
-    /// Tells what a limit left out.
+    /// Reports what a limit left out.
     Problem problem() const;
     /// Null for a glyph without a picture that can be shown.
     const GlyphPicture *find(quint32 glyph);

@@ -34,7 +34,7 @@ const GenericFamily genericFamilies[] = {
 class KnownFamilies
 {
 public:
-    /// The name of an installed family, or of what replaces it; empty where nothing is known.
+    /// The name of an installed family, or of its replacement; empty without either.
     QString find(const QString &name, QFont::StyleHint hint = QFont::AnyStyle)
     {
         const std::lock_guard lock(m_mutex);
@@ -82,7 +82,7 @@ SystemFamily systemFamily(const FamilyName &name)
     return {family, family.compare(name.text, Qt::CaseInsensitive) == 0};
 }
 
-// The families that are there, in their order (CSS Fonts 3 §5), else what replaces the first one.
+// The installed families in order (CSS Fonts 3 §5), else the replacement of the first one.
 void setFamilies(QFont &font, const QString &list)
 {
     QStringList there;
@@ -109,7 +109,7 @@ struct NamedStretch
     int stretch;
 };
 
-// The longest words first: they hold the others.
+// The longest words first: they contain the others.
 const NamedStretch namedStretches[] = {
     {QLatin1String("ultracondensed"), 50}, {QLatin1String("extracondensed"), 62},
     {QLatin1String("semicondensed"), 87},  {QLatin1String("condensed"), 75},
@@ -128,8 +128,8 @@ int stretchOfStyle(const QString &style)
     return QFont::Unstretched;
 }
 
-// Of two widths, the better one for what is wanted: narrower ones first for narrow letters, wider ones first for
-// wide ones (CSS Fonts 3 §5.2).
+// The better of two widths for the wanted one: narrower ones first for narrow letters, wider ones first for wide
+// ones (CSS Fonts 3 §5.2).
 bool isBetterStretch(int a, int b, int wanted)
 {
     const bool narrow = wanted <= QFont::Unstretched;
@@ -138,7 +138,7 @@ bool isBetterStretch(int a, int b, int wanted)
     return sideOfA != sideOfB ? sideOfA : qAbs(a - wanted) < qAbs(b - wanted);
 }
 
-/// The widths that families have, asked once for each.
+/// The widths of families, each looked up once.
 class KnownStretches
 {
 public:
@@ -169,7 +169,7 @@ private:
     QHash<QString, QVector<int>> m_stretches;
 };
 
-// Letters are never stretched where the family has no such face.
+// Letters are never stretched when the family has no such face.
 void setStretch(QFont &font, int wanted)
 {
     static KnownStretches stretches;

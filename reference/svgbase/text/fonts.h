@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// Outlines are taken at this size, pixels, and scaled: painters know whole pixel sizes only.
+/// Outlines are taken at this size, pixels, and scaled: painters support whole pixel sizes only.
 constexpr int outlineFontSize = 512;
 
 /// The font of a style at `outlineFontSize`, without hinting, so that it scales evenly.

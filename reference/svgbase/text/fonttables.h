@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// A number in a table of a font, which has the highest byte first; nothing beyond the table's end.
+/// A big-endian number in a table of a font; empty beyond the table's end.
 template<typename Number> std::optional<Number> tableNumber(const QByteArray &table, qint64 offset)
 {
     if (offset < 0 || offset + qint64(sizeof(Number)) > table.size())

@@ -8,7 +8,7 @@
 
 namespace Svg {
 
-/// Outlines of glyphs, and pictures in their place, read from their fonts once for each text.
+/// Outlines of glyphs, and pictures that replace them, read from their fonts once for each text.
 class GlyphOutlines
 {
 public:

@@ -16,7 +16,7 @@ struct GlyphPart
     QTransform toGlyph;
 };
 
-// Behind its parent, which makes place for it; each is worked out once, however deep it stands.
+// After its parent, which reserved its place; each style is computed once, however deep the element is.
 void enter(const Tree &tree, NodeIndex element, QVector<GlyphPart> *open)
 {
     const Node &node = tree.node(element);

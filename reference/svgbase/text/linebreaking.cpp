@@ -52,7 +52,7 @@ bool LineBreaker::isSpace(int character) const
     return m_content.text.at(m_content.characters.at(character).begin) == QLatin1Char(' ');
 }
 
-// As much on each line as there is room for; a word that is too long stays whole.
+// Fills each line as far as there is room; a word that is too long stays whole.
 QVector<int> LineBreaker::lineBegins() const
 {
     const QVector<TextCluster> clusters =

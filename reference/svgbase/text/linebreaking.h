@@ -4,9 +4,9 @@
 
 namespace Svg {
 
-/// Breaks a text with an "inline-size" into lines (SVG 2 §11.7.1): the first character of each line is given its
-/// place, white space at the ends of lines takes no room. Places that its lists of "x" and "y" give to others than
-/// the first character don't count. Lines are as far apart as the text element's "line-height" says.
+/// Breaks a text with an "inline-size" into lines (SVG 2 §11.7.1): positions the first character of each line, and
+/// gives no width to white space at the ends of lines. Of the lists of "x" and "y" only the first values count. The
+/// distance of lines is the text element's "line-height".
 void breakLines(TextContent *content, const TextServices &services);
 
 } // namespace Svg

@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// Glyphs that belong together: a letter with its marks, a ligature, or a whole row that needs not be told apart.
+/// Glyphs that belong together: a letter with its marks, a ligature, or a whole row that is never split.
 struct TextCluster
 {
     int firstCharacter = 0;

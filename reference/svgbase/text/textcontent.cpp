@@ -19,7 +19,7 @@ bool isWhiteSpace(QChar c)
     return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
 }
 
-// The size that makes lower case letters as tall as asked for (CSS Fonts 4 §2.6).
+// The size that makes lower case letters as tall as requested (CSS Fonts 4 §2.6).
 double adjustedSize(const TextLevel &level)
 {
     const double size = level.emSize;
@@ -66,11 +66,11 @@ private:
     TextContent m_content;
     /// Open levels, innermost last.
     QVector<int> m_open;
-    /// Whether the last character is white space that further white space is joined with.
+    /// Whether the last character is white space that collapses with following white space.
     bool m_afterSpace = true;
 };
 
-// "white-space" has the higher rank (SVG 2 §11.7.4).
+// "white-space" takes precedence (SVG 2 §11.7.4).
 bool TextCollector::preservesSpace(const Node &node, const ComputedStyle &style) const
 {
     const WhiteSpace asked = textStyleOf(style).whiteSpace;
@@ -106,7 +106,7 @@ void TextCollector::findFont(TextLevel *level)
         substituteGlyphs(level);
     for (NodeIndex at = level->node; at != noNode && level->language.isEmpty(); at = m_tree.node(at).parent)
         level->language = m_tree.node(at).attributes.value(QStringLiteral("xml:lang"));
-    // Characters beyond the longest tag of a glyph make no difference.
+    // Characters beyond the longest tag of a glyph have no effect.
     level->language = level->language.left(Limits::glyphListCharacters + 1).toLower();
 }
 
@@ -140,7 +140,7 @@ void TextCollector::close()
 
 void TextCollector::appendCharacter(const QString &characters, int at, int length)
 {
-    // Capitals may be more letters than there were.
+    // The capitals of a letter may be several letters.
     if (m_content.characters.size() >= Limits::textCharacters)
         return;
     TextCharacter character;
@@ -169,7 +169,7 @@ void TextCollector::append(const QString &characters)
 {
     const bool preserves = m_content.levels.at(m_open.constLast()).preservesSpace;
     for (int i = 0; i < characters.size(); ++i) {
-        // A line break of two characters is one.
+        // A line break of two characters counts as one.
         if (characters.at(i) == QLatin1Char('\r') && characters.midRef(i + 1).startsWith(QLatin1Char('\n')))
             continue;
         if (isWhiteSpace(characters.at(i))) {
@@ -211,7 +211,7 @@ QString TextCollector::transformed(const QString &characters) const
     return style.smallCaps == SmallCaps::OfAllLetters ? result.toLower() : result;
 }
 
-// Collapsible space at the very end is none.
+// Collapsible white space at the very end is removed.
 void TextCollector::dropSpaceAtEnd()
 {
     if (!m_afterSpace || m_content.characters.isEmpty())
@@ -224,7 +224,7 @@ void TextCollector::dropSpaceAtEnd()
     }
 }
 
-// Only a text itself holds text along a way (SVG 2 §11.8.1), and there must be one.
+// Only a text itself contains text on a path (SVG 2 §11.8.1), and the path must exist.
 bool TextCollector::hasWay(const Node &textPath) const
 {
     for (const int level : m_open)
@@ -281,7 +281,7 @@ TextContent TextCollector::collect(NodeIndex text, const ComputedStyle &style)
             close();
         visit(at);
         const TextLevel &level = m_content.levels.at(m_open.constLast());
-        // Only displayed parts of a text take space. A reference to characters doesn't show its own.
+        // Only displayed parts of a text count. A reference to characters doesn't show its own.
         const bool skipped = !level.style.displayed || level.kind == ElementKind::Tref ||
                              (level.node != at && m_tree.node(at).firstChild != noNode);
         at = skipped ? m_tree.followingBeside(at, text) : m_tree.following(at, text);

@@ -13,34 +13,34 @@ namespace Svg {
 struct TextLevel
 {
     NodeIndex node = noNode;
-    /// Place of the level around this one; -1 for the text itself.
+    /// Index of the level around this one; -1 for the text itself.
     int above = -1;
     ElementKind kind = ElementKind::Text;
-    /// With the size that "font-size-adjust" makes of the font's.
+    /// With the font size changed by "font-size-adjust".
     ComputedStyle style;
     /// Length of "em", user units.
     double emSize = 0;
     bool preservesSpace = false;
-    /// The innermost `textPath` that holds it, as a place in the list of levels; -1 without one.
+    /// The innermost `textPath` around it, as an index in the list of levels; -1 without one.
     int path = -1;
     int firstCharacter = 0;
     int endCharacter = 0;
-    /// Its font where the document has it.
+    /// Its font when the document has it.
     FoundFont font;
-    /// The glyphs that an `altGlyph` shows in place of its characters; empty for everything else.
+    /// The glyphs that an `altGlyph` shows instead of its characters; empty for everything else.
     QVector<const FontGlyph *> substitutes;
-    /// Language tag; empty where none is said.
+    /// Language tag; empty when unknown.
     QString language;
 };
 
-/// A character that can be given a place: white space that was collapsed is none (SVG 2 §11.1.2).
+/// An addressable character: collapsed white space is none (SVG 2 §11.1.2).
 struct TextCharacter
 {
     /// Its code units in the text.
     int begin = 0;
     int length = 1;
     int level = 0;
-    /// Where its element says it stands or moves to, user units.
+    /// Position and shift set by its element, user units.
     std::optional<double> x;
     std::optional<double> y;
     double dx = 0;
@@ -49,7 +49,7 @@ struct TextCharacter
     double rotate = 0;
 };
 
-/// Characters of a text element to set, with white space processed.
+/// Characters of a text element to lay out, with white space processed.
 struct TextContent
 {
     QString text;
@@ -60,16 +60,16 @@ struct TextContent
     bool hasReferences = false;
 };
 
-/// Collects the characters of a text element with the style of every part. The text's own style is at hand already.
+/// Collects the characters of a text element with the style of every part. The text's own style is passed in.
 TextContent collectText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
                         DocumentFonts *fonts);
-/// The heights of the font of a level.
+/// The vertical metrics of the font of a level.
 FontMeasures levelMeasures(const TextLevel &level);
 
 uint codeOf(const QString &text, const TextCharacter &character);
-/// Whether a character may be given a place; marks and joiners stay with what they follow.
+/// Whether a character may have a position of its own; marks and joiners stay with the preceding character.
 bool canBePlaced(const QString &text, const TextCharacter &character);
-/// Whether it is moved from where it would stand behind the one before.
+/// Whether it is moved from its natural position after the previous one.
 bool isMoved(const TextCharacter &character);
 
 } // namespace Svg

@@ -10,8 +10,8 @@
 
 namespace Svg {
 
-/// Sets the characters of a text element and of its parts. Nothing without a QGuiApplication, which fonts need.
-/// Problems are told in the result, not to `services`.
+/// Lays out the characters of a text element and its parts. Empty without a QGuiApplication, which fonts need.
+/// Problems are reported in the result, not to `services`.
 TextOutlines layOutText(const Tree &tree, NodeIndex text, const ComputedStyle &style, const QSizeF &viewport,
                         TextServices services);
 

@@ -41,8 +41,8 @@ private:
 
     const Tree &m_tree;
     QVector<PlacedCluster> &m_clusters;
-    /// For each cluster the outermost part with a length of its own that holds it so far, by its first cluster.
-    /// Such a part is moved as a whole.
+    /// For each cluster the outermost part with a "textLength" that contains it so far, by its first cluster. Such
+    /// a part is moved as a whole.
     QVector<int> m_parts;
     /// Clusters of the level.
     int m_begin = 0;
@@ -70,7 +70,7 @@ void LengthAdjustment::findExtent(const TextLevel &level)
     }
 }
 
-// Order along the line: text that runs to the left is spread like any other.
+// Order along the line: right-to-left text is spread like any other.
 void LengthAdjustment::spread(double extra)
 {
     QVector<int> order;

@@ -4,10 +4,10 @@
 
 namespace Svg {
 
-/// Whether a level says how long it is to be.
+/// Whether a level has a "textLength".
 bool givenLength(const Tree &tree, const TextLevel &level);
-/// Stretches the levels with a "textLength" to it, inner ones first (SVG 2 §11.5.4): by room between the characters
-/// or by widening them.
+/// Stretches the levels with a "textLength" to it, inner ones first (SVG 2 §11.5.4): by space between the
+/// characters or by widening them.
 bool adjustLengths(const Tree &tree, const TextContent &content, const QSizeF &viewport,
                    QVector<PlacedCluster> *clusters);
 

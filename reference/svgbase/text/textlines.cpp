@@ -37,7 +37,7 @@ double repetition(LineStyle style)
     return 0;
 }
 
-// Up and down in halves, as many whole waves as there is room for.
+// Up and down in halves, as many whole waves as fit.
 QPainterPath waves(const LinePiece &piece, int count)
 {
     const double length = piece.length / count;

@@ -6,7 +6,7 @@
 
 namespace Svg {
 
-/// A piece of a line that decorates text, along the x axis from the origin; user units.
+/// A piece of a decoration line, along the x axis from the origin; user units.
 struct LinePiece
 {
     double length = 0;
@@ -14,7 +14,7 @@ struct LinePiece
     double height = 0;
     double thickness = 0;
     LineStyle style = LineStyle::Solid;
-    /// Which way a second line goes from the first: 1 down, -1 up, 0 both from its place in the middle.
+    /// Direction of a second line from the first: 1 down, -1 up, 0 both from the middle.
     int away = 0;
 };
 

@@ -16,16 +16,16 @@ struct TextRun
     ComputedStyle style;
     /// User units of the text element.
     QPainterPath path;
-    /// Shown in the place of the path, which is its box then.
+    /// Shown instead of the path, which is its box then.
     std::shared_ptr<const PlacedPicture> picture = nullptr;
 };
 
 /// Outlines of a text element.
 struct TextOutlines
 {
-    /// Letters and the lines that decorate them, in painting order.
+    /// Letters and their decoration lines, in painting order.
     QVector<TextRun> runs;
-    /// Bounds of all character cells, user units, which units of the bounding box relate to.
+    /// Bounds of all character cells, user units: the bounding box for relative units.
     QRectF cells;
     /// Whether it depends on elements outside of the text.
     bool hasReferences = false;

@@ -12,14 +12,14 @@ namespace Svg {
 
 namespace {
 
-/// How far two ends may be apart that count as one, user units.
+/// Largest distance of two ends that count as one, user units.
 constexpr double sameEnd = 1e-6;
 
-/// Measures shared by all characters of a level.
+/// Metrics shared by all characters of a level.
 struct LevelMeasures
 {
     FontMeasures font;
-    /// How far the baseline is raised.
+    /// Rise of the baseline.
     double raised = 0;
     ComputedStyle paint;
 };
@@ -28,11 +28,11 @@ struct Line
 {
     bool InlineStyle::*wanted;
     double FontMeasures::*height;
-    /// Which way it grows from the letters: 1 down, -1 up, 0 both.
+    /// Direction in which it grows: 1 down, -1 up, 0 both.
     int away;
 };
 
-// Vertical lines of letters that all lie on their sides are set as horizontal ones (CSS Writing Modes 4 §4.2).
+// Vertical lines whose letters all lie on their sides are laid out as horizontal ones (CSS Writing Modes 4 §4.2).
 Baseline usualBaseline(const TextStyle &text)
 {
     const bool vertical =
@@ -67,7 +67,7 @@ private:
     int firstClusterOf(int character) const;
 
     const TextContent &m_content;
-    /// Their outlines are let go once they are part of a run.
+    /// Their outlines are released once they are part of a run.
     QVector<PlacedCluster> m_clusters;
     QHash<QString, FontMeasures> m_fonts;
     QVector<LevelMeasures> m_levels;
@@ -75,7 +75,7 @@ private:
     int m_repetitionsLeft = Limits::dashes;
 };
 
-// Sub- and superscript are where the font around says.
+// The surrounding font positions sub- and superscript.
 double TextPainter::shiftOf(const TextLevel &level, const FontMeasures &around) const
 {
     const InlineStyle &style = inlineStyleOf(level.style);
@@ -84,7 +84,7 @@ double TextPainter::shiftOf(const TextLevel &level, const FontMeasures &around) 
     return style.shift == InlineStyle::Sub ? around.subscript : around.superscript;
 }
 
-// Parts in one font are many, fonts are few.
+// There are many parts and few fonts, so look each font up once.
 const FontMeasures &TextPainter::measuresOf(const TextLevel &level)
 {
     const ComputedStyle &style = level.style;
@@ -119,7 +119,7 @@ void TextPainter::measureLevels()
         measures.raised = shift - baselineHeight(aligned, measures.font);
         measures.paint = level.style;
         measures.paint.fillRule = textFillRule;
-        // A part fades by itself; of the text as a whole the opacity is applied to the picture.
+        // Opacity of a part applies to it directly, that of the whole text to its picture.
         if (!isText) {
             const ComputedStyle &above = m_levels.at(level.above).paint;
             const double faded = level.above == 0 ? 1 : above.opacity;
@@ -174,7 +174,7 @@ int TextPainter::addRun(int first)
             continue;
         path.addPath(glyphTransform(m_clusters.at(i)).map(m_clusters.at(i).glyphs.outline));
         m_clusters[i].glyphs.outline = QPainterPath();
-        // Not before: an empty path takes over what is added together with its room.
+        // Not earlier: an empty path takes over an added path together with its room.
         path.reserve(elements);
     }
     if (!path.isEmpty())
@@ -235,7 +235,7 @@ LinePiece TextPainter::pieceOf(const Line &line, int level, const ComputedStyle 
     return piece;
 }
 
-// A line is as long as the characters that follow each other without a step.
+// A line runs along characters that follow each other without a step.
 void TextPainter::addLine(int level, const Line &line, const ComputedStyle &asking, ComputedStyle paint)
 {
     if (const auto &color = inlineStyleOf(asking).lineColor) {
@@ -264,7 +264,7 @@ void TextPainter::addLine(int level, const Line &line, const ComputedStyle &aski
         const PlacedCluster &cluster = m_clusters.at(i);
         const bool decorated = cluster.shown && m_content.levels.at(cluster.glyphs.level).style.visible;
         const bool onWay = m_content.levels.at(cluster.glyphs.level).path >= 0;
-        // Lines turn with a character that is turned.
+        // Lines turn with rotated characters.
         if (decorated && m_content.characters.at(cluster.glyphs.firstCharacter).rotate != 0) {
             finish();
             addPiece(glyphTransform(cluster), middle - m_levels.at(cluster.glyphs.level).raised,

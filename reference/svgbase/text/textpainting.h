@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// The outlines of placed characters and of the lines that decorate them, in painting order.
+/// The outlines of positioned characters and their decoration lines, in painting order.
 TextOutlines paintedText(const TextContent &content, QVector<PlacedCluster> clusters);
 
 } // namespace Svg

@@ -10,13 +10,13 @@ namespace Svg {
 
 namespace {
 
-/// Clusters that are aligned together: they end where a character is given a place of its own.
+/// Clusters that are anchored together; a chunk ends at the next character with a position of its own.
 struct Chunk
 {
     int firstCharacter = 0;
     int firstCluster = 0;
     int endCluster = 0;
-    /// The `textPath` that holds it, as a level; -1 without one.
+    /// The `textPath` around it, as a level; -1 without one.
     int path = -1;
 };
 
@@ -60,9 +60,9 @@ private:
     QVector<Chunk> m_chunks;
     QVector<PlacedCluster> m_clusters;
     QHash<int, std::shared_ptr<TextWay>> m_ways;
-    /// Added by absolute positions to everything that follows.
+    /// Offset by absolute positions of everything that follows.
     QPointF m_offset;
-    /// The `textPath` of the chunk before, as a level.
+    /// The `textPath` of the previous chunk, as a level.
     int m_pathBefore = -1;
 };
 
@@ -73,7 +73,7 @@ std::optional<double> TextPlacer::alongOf(const TextCharacter &c) const
     return m_vertical ? c.y : c.x;
 }
 
-// How far a character is moved along the line and aside of it.
+// Shift of a character along the line and across it.
 QPointF TextPlacer::shiftOf(const TextCharacter &c) const
 {
     if (m_upwards)
@@ -81,7 +81,7 @@ QPointF TextPlacer::shiftOf(const TextCharacter &c) const
     return m_vertical ? QPointF(c.dy, c.dx) : QPointF(c.dx, c.dy);
 }
 
-// Glyphs are only told apart where something needs it.
+// Split text into single glyphs only where that has an effect.
 ShapingMode TextPlacer::mode() const
 {
     ShapingMode mode;
@@ -107,7 +107,7 @@ bool TextPlacer::startsChunk(int index) const
     const TextCharacter &before = m_content.characters.at(index - 1);
     if (m_content.levels.at(character.level).path != m_content.levels.at(before.level).path)
         return true;
-    // Along a way only places along it count (SVG 1.1 §10.13.3).
+    // On a path, only positions along it count (SVG 1.1 §10.13.3).
     const bool onWay = m_content.levels.at(character.level).path >= 0;
     const bool placed = alongOf(character) || (asideOf(character) && !onWay);
     return placed && canBePlaced(m_content.text, character);
@@ -168,8 +168,8 @@ const TextWay &TextPlacer::way(int level)
     return *known;
 }
 
-// The first character of the chunk is anchored at its place; "start" and "end" change sides where text runs to the
-// left (SVG 2 §11.5.4).
+// The first character of the chunk is anchored at its position; "start" and "end" change sides for right-to-left
+// text (SVG 2 §11.5.4).
 void TextPlacer::setChunk(const Chunk &chunk)
 {
     const TextCharacter &first = firstOf(chunk);
@@ -177,7 +177,7 @@ void TextPlacer::setChunk(const Chunk &chunk)
     const bool rightToLeft = textStyleOf(m_content.levels.first().style).rightToLeft;
     PlacedCluster &leader = m_clusters[chunk.firstCluster];
     double left = leader.along;
-    // Where text that runs to the left comes first, the line does not begin with its first character.
+    // When right-to-left text comes first, the line does not begin with its first character.
     const auto isFarther = [](const PlacedCluster &a, const PlacedCluster &b) {
         return a.glyphs.offset < b.glyphs.offset;
     };
@@ -232,7 +232,7 @@ void TextPlacer::putOnLine(const Chunk &chunk)
     }
 }
 
-// A character stands upright on the way at its middle.
+// A character is perpendicular to the path at its middle.
 void TextPlacer::putOnWay(const Chunk &chunk)
 {
     const TextWay &path = way(chunk.path);

@@ -13,17 +13,17 @@ namespace Svg {
 struct PlacedCluster
 {
     TextCluster glyphs;
-    /// Left end on the line, and how far aside of it: down, or to the right of a vertical line. User units.
+    /// Left end on the line, and shift across it: down, or to the right of a vertical line. User units.
     double along = 0;
     double aside = 0;
-    /// How much its glyphs are widened.
+    /// Horizontal scale of its glyphs.
     double widening = 1;
     /// From the units of its outline, without baseline shift and rotation, to the text's.
     QTransform line;
     bool shown = true;
 };
 
-/// Places the characters of a text as SVG 2 §11.5 says: shaping, shifts, adjustment to a given length, absolute
+/// Positions the characters of a text as in SVG 2 §11.5: shaping, shifts, adjustment to a given length, absolute
 /// positions, anchors, paths.
 QVector<PlacedCluster> placeText(const Tree &tree, const TextContent &content, const QSizeF &viewport,
                                  const TextServices &services);

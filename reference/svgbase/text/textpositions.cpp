@@ -8,7 +8,7 @@ namespace Svg {
 
 namespace {
 
-// A list counts up to its first error.
+// A list is valid up to its first error.
 QVector<double> lengthList(const AttributeValue &list, Axis axis, const LengthContext &context)
 {
     if (const double *number = list.asNumber())
@@ -62,7 +62,7 @@ private:
     TextContent *m_content;
 };
 
-// The last angle counts for all characters that are left.
+// The last angle applies to all remaining characters.
 void PositionResolver::applyRotation(const TextLevel &level)
 {
     const AttributeValue &list = m_tree.node(level.node).attributes.held(QStringLiteral("rotate"));

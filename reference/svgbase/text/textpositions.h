@@ -4,8 +4,8 @@
 
 namespace Svg {
 
-/// Gives the characters what "x", "y", "dx", "dy" and "rotate" of their elements say (SVG 2 §11.5.2): a list speaks
-/// of the characters of its element in order, those of elements inside it included, which may say otherwise.
+/// Assigns "x", "y", "dx", "dy" and "rotate" of elements to the characters (SVG 2 §11.5.2): a list applies to the
+/// characters of its element in order, including those of elements inside it, whose own lists take precedence.
 void resolvePositions(const Tree &tree, const QSizeF &viewport, TextContent *content);
 
 } // namespace Svg

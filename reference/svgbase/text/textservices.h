@@ -15,13 +15,13 @@ namespace Svg {
 /// An element's own transform, with percentages of the given view.
 using OwnTransform = std::function<QTransform(NodeIndex node, const QSizeF &viewport)>;
 
-/// Services needed to set a text.
+/// Services needed to lay out a text.
 struct TextServices
 {
     GlyphOutlines *glyphs;
     DocumentFonts *fonts;
     OwnTransform transformOf;
-    /// Gets what was left out because of a limit.
+    /// Receives what was left out because of a limit.
     Problem *problem = nullptr;
 };
 

@@ -20,7 +20,7 @@ namespace {
 /// Room for a line that is never broken, layout units.
 constexpr double endlessLine = 16777215;
 constexpr ushort zeroWidthJoiner = 0x200d;
-/// Any spacing keeps letters from forming ligatures; this is the smallest that a font takes.
+/// Any letter spacing suppresses ligatures; this is the smallest that fonts accept.
 constexpr double leastSpacing = 1.0 / 64;
 
 struct CodeRange
@@ -29,7 +29,7 @@ struct CodeRange
     uint last;
 };
 
-// Scripts whose characters stay upright on a vertical line (Unicode UAX 50), roughly.
+// Scripts whose characters stay upright on a vertical line (Unicode UAX 50), approximately.
 constexpr CodeRange uprightRanges[] = {
     {0x1100, 0x11ff}, {0x2e80, 0xa4cf}, {0xa960, 0xa97f}, {0xac00, 0xd7ff},   {0xf900, 0xfaff},
     {0xfe30, 0xfe4f}, {0xff01, 0xff60}, {0xffe0, 0xffe6}, {0x1f000, 0x1faff}, {0x20000, 0x3ffff},
@@ -41,7 +41,7 @@ bool isUpright(uint code)
                        [code](const CodeRange &range) { return code >= range.first && code <= range.last; });
 }
 
-// Scripts whose letters join; room between them would tear words apart (CSS Text 3 §8.2.1).
+// Scripts with joined letters; space between them would tear words apart (CSS Text 3 §8.2.1).
 bool isCursive(uint code)
 {
     switch (QChar::script(code)) {
@@ -97,7 +97,7 @@ private:
     const ComputedStyle &m_style;
     double m_scale;
     int m_textBegin;
-    /// Control characters in front of the text.
+    /// Control characters before the text.
     int m_prefix = 0;
     QTextLayout m_layout;
     QTextLine m_line;
@@ -121,7 +121,7 @@ void Row::layOut()
 {
     const TextCharacter &last = m_content.characters.at(m_run.end - 1);
     QString text = m_content.text.mid(m_textBegin, last.begin + last.length - m_textBegin);
-    // Letters join those of other parts and places too.
+    // Letters join across parts and positions.
     const ArabicForm firstForm = arabicForm(m_content.text, m_textBegin);
     const ArabicForm lastForm = arabicForm(m_content.text, last.begin);
     if (lastForm == ArabicForm::Initial || lastForm == ArabicForm::Medial)
@@ -159,7 +159,7 @@ bool Row::hasPictures(const QList<QGlyphRun> &runs) const
     });
 }
 
-// Pictures tell their advance; the layout's is not that of their font.
+// Pictures have advances of their own, which the layout doesn't know.
 void Row::addGlyphs(const QList<QGlyphRun> &runs, double left, TextCluster *cluster) const
 {
     QPainterPath outline;
@@ -205,8 +205,8 @@ void turnGlyphs(const QTransform &turn, TextCluster *cluster)
         picture.place *= turn;
 }
 
-// An upright character fills a square whose middle lies on the line; its outline is turned back here so that all of
-// a vertical line can be turned alike.
+// An upright character fills a square centred on the line; its outline is turned back here so that the whole
+// vertical line can be turned alike.
 void Row::turnUpright(TextCluster *cluster) const
 {
     const FontMeasures measures = levelMeasures(m_level);
@@ -222,7 +222,7 @@ void Row::turnUpright(TextCluster *cluster) const
     cluster->advance = size;
 }
 
-// A glyph of the document's own tells where it is held.
+// A glyph of the document's own has its own origin.
 void Row::turnGlyphUpright(const FontGlyph &glyph, TextCluster *cluster) const
 {
     const LevelGlyphs glyphs(m_content, m_level, m_services, true);
@@ -262,7 +262,7 @@ QVector<TextCluster> Row::separateClusters()
             continue;
         }
         double left = qMin(from, to);
-        // The place of a ligature is that of its glyph, not that of its first letter.
+        // The position of a ligature is that of its glyph, not that of its first letter.
         if (m_run.rightToLeft && !runs.isEmpty() && !runs.first().positions().isEmpty())
             left = runs.first().positions().first().x();
         clusters.append({i, 1, character.level, QPainterPath(), advance, 0});
@@ -279,7 +279,7 @@ QVector<TextCluster> Row::systemClusters()
     if (m_mode.separate || hasPictures(runs))
         return separateClusters();
     const int level = m_content.characters.at(m_run.begin).level;
-    // The natural width holds what sticks out of the last glyph, too.
+    // The natural width includes the overhang of the last glyph.
     const double begin = m_line.cursorToX(0);
     const double end = m_line.cursorToX(m_layout.text().size());
     TextCluster cluster{m_run.begin,    m_run.end - m_run.begin,     level,
@@ -288,7 +288,7 @@ QVector<TextCluster> Row::systemClusters()
     return {cluster};
 }
 
-// Characters that the font lacks are set together in fonts of the system.
+// Characters that the font lacks are laid out together in fonts of the system.
 QVector<TextCluster> Row::fontClusters()
 {
     const LevelGlyphs glyphs(m_content, m_level, m_services, m_mode.vertical);
@@ -339,7 +339,7 @@ QVector<TextCluster> Row::clusters()
     return clusters;
 }
 
-// The run, split before characters that are moved away from others that they share a glyph with.
+// The run, split before characters that are shifted away from others in the same glyph.
 QVector<BidiRun> splitLigatures(const TextContent &content, const BidiRun &run,
                                 const QVector<TextCluster> &clusters)
 {

@@ -6,17 +6,17 @@
 
 namespace Svg {
 
-/// How the characters of a text are to be shaped.
+/// Options of shaping a text's characters.
 struct ShapingMode
 {
-    /// Whether the glyphs of each character are needed apart.
+    /// Whether each character's glyphs are needed separately.
     bool separate = false;
-    /// Whether ideographs stand upright on a line that goes down.
+    /// Whether ideographs are upright on a line that goes down.
     bool vertical = false;
 };
 
-/// The glyphs of the characters from `begin` up to `end` on one line, in the order of the characters; the
-/// bidirectional algorithm settles where each stands (Unicode UAX 9).
+/// The glyphs of the characters from `begin` up to `end` on one line, in logical order; the bidirectional algorithm
+/// decides their visual positions (Unicode UAX 9).
 QVector<TextCluster> shapeChunk(const TextContent &content, int begin, int end, const ShapingMode &mode,
                                 const TextServices &services);
 

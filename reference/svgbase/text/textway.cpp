@@ -22,7 +22,7 @@ NodeIndex referredShape(const Tree &tree, const Attributes &attributes)
     return tree.findId(id);
 }
 
-// The shape's own transform counts, those around it don't (SVG 2 §11.8.1).
+// The shape's own transform applies, those around it don't (SVG 2 §11.8.1).
 QPainterPath shapePath(const Tree &tree, NodeIndex shape, const QSizeF &viewport, const OwnTransform &transformOf)
 {
     if (shape == noNode)
@@ -50,7 +50,7 @@ bool isSingleLoop(const QPainterPath &path)
     return path.elementCount() > 2 && QPointF(path.elementAt(0)) == path.currentPosition();
 }
 
-// "pathLength" says what the author took the length for.
+// "pathLength" is the author's measure of the length.
 double authorScale(const Tree &tree, NodeIndex textPath, double length)
 {
     const NodeIndex shape = referredShape(tree, tree.node(textPath).attributes);

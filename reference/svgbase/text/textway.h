@@ -6,23 +6,23 @@
 
 namespace Svg {
 
-/// The way that a `textPath` puts its characters on (SVG 2 §11.8), user units of the text.
+/// The path that a `textPath` puts its characters on (SVG 2 §11.8), user units of the text.
 class TextWay
 {
 public:
-    /// The way of a `textPath` element; without length where it refers to nothing.
+    /// The path of a `textPath` element; of length 0 without a target.
     TextWay(const Tree &tree, NodeIndex textPath, const ComputedStyle &style, const QSizeF &viewport,
             const OwnTransform &transformOf);
 
     /// Whether the path has too many elements to be followed.
     bool isTooLong() const { return m_tooLong; }
     double length() const { return m_measure.length(); }
-    /// Where the text begins, before it is anchored.
+    /// Start of the text before anchoring.
     double startOffset() const { return m_startOffset; }
-    /// The place in the middle of a character, as far along the way as `distance`. Nothing where the character is
-    /// not shown: beyond the ends, or, on a closed way, more than once around from the start.
+    /// The transform at the middle of a character, `distance` along the path. Empty for a character that is not
+    /// shown: beyond the ends, or, on a closed path, more than once around from the start.
     std::optional<PathMeasure::Place> at(double distance, TextAnchor anchor) const;
-    /// Where text goes on behind the way.
+    /// Where text continues after the path.
     QPointF end() const { return m_measure.at(m_measure.length()).point; }
 
 private:
