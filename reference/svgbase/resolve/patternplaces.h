@@ -18,7 +18,7 @@ struct PatternPlace
     QTransform toTarget;
 };
 
-/// `bounds` and `viewport` are of the target, in its units. Nothing for a pattern that paints nothing.
+/// `bounds` and `viewport` are of the target, in its units. Empty for a pattern that paints nothing.
 std::optional<PatternPlace> patternPlace(const PatternChain &chain, const QRectF &bounds, const QSizeF &viewport,
                                          double fontSize);
 

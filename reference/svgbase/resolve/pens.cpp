@@ -9,15 +9,15 @@ namespace {
 /// Widths of the pen.
 constexpr double shortestDash = 1e-3;
 
-// A painter counts dashes in widths of the pen.
+// Painters count dashes in widths of the pen.
 void setDashes(QPen &pen, const ComputedStyle &style, double scale)
 {
-    // Not a copy, which would keep the room that reading left.
+    // Not a copy, which would keep the unused room of the reader's list.
     QVector<qreal> pattern;
     pattern.reserve(style.strokeDasharray.size());
     for (const double dash : style.strokeDasharray)
         pattern.append(dash * (scale / pen.widthF()));
-    // A dash without length has caps, which a painter only gives to one with some.
+    // A dash without length has caps, which a painter only gives to one that has some.
     if (style.strokeLinecap != Qt::FlatCap)
         for (int i = 0; i < pattern.size(); i += 2)
             pattern[i] = qMax(pattern.at(i), shortestDash);

@@ -12,7 +12,7 @@ namespace Svg {
 namespace {
 
 constexpr int usualOrder = 3;
-/// Octaves add half as much each; later ones change no byte.
+/// Each octave adds half as much as the one before; later ones change no byte.
 constexpr int mostOctaves = 10;
 constexpr double leastShininess = 1;
 constexpr double mostShininess = 128;
@@ -52,7 +52,7 @@ int wholeNumber(const Attributes &attributes, const char *name, int fallback)
     return int(number(attributes, name, fallback));
 }
 
-// One number counts for both directions.
+// One number is used for both directions.
 std::optional<QSizeF> numberPair(const QString &text)
 {
     const std::optional<QVector<double>> numbers = parseNumberList(text);
@@ -61,7 +61,7 @@ std::optional<QSizeF> numberPair(const QString &text)
     return QSizeF(numbers->first(), numbers->last());
 }
 
-/// Places and heights of lights: shares of the bounding box in its units.
+/// Positions and heights of lights: shares of the bounding box in its units.
 class LightReader
 {
 public:
@@ -120,7 +120,7 @@ QSize readOrder(const Attributes &attributes)
     return isWhole(order.width()) && isWhole(order.height()) ? order.toSize() : usual.toSize();
 }
 
-// Factors that cancel each other out leave a rounding error, whatever their order: it counts as 0.
+// Factors that cancel out leave a rounding error, depending on their order: it counts as 0.
 double sumOf(const QVector<double> &factors)
 {
     constexpr double roundingShare = 1e-12;
@@ -130,7 +130,7 @@ double sumOf(const QVector<double> &factors)
     return qAbs(sum) <= size * roundingShare ? 0 : sum;
 }
 
-// Zero and what is not said stand for the sum, which keeps brightness as it is (SVG 1.1 §15.13).
+// 0 and an absent value mean the sum, which preserves brightness (SVG 1.1 §15.13).
 void divide(QVector<double> *factors, double divisor)
 {
     const double sum = sumOf(*factors);
@@ -149,7 +149,7 @@ bool readTarget(const Attributes &attributes, Convolution *result)
 
 } // namespace
 
-// Frequencies are no lengths, so that the units of the filter's lengths leave them alone (SVG 1.1 §15.5).
+// Frequencies are not lengths, so the units of the filter's lengths do not apply (SVG 1.1 §15.5).
 Turbulence readTurbulence(const Attributes &attributes)
 {
     Turbulence result;

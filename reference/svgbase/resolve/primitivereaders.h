@@ -8,13 +8,13 @@
 
 namespace Svg {
 
-/// Readers of the primitives that have many attributes of their own. Values that break their grammar, or are out of
-/// their range, leave their defaults.
+/// Readers of the primitives with many attributes of their own. Values that are invalid or out of range keep their
+/// defaults.
 
 Turbulence readTurbulence(const Attributes &attributes);
-/// The light is the first child that is one.
+/// The light is the first child of such a kind.
 Lighting readLighting(const Tree &tree, NodeIndex node, const ComputedStyle &style, const PrimitiveUnits &units);
-/// A matrix that does not have as many numbers as "order" says leaves the input as it is.
+/// A matrix without exactly as many numbers as "order" requires leaves the input unchanged.
 Convolution readConvolution(const Attributes &attributes);
 Displacement readDisplacement(const Attributes &attributes, const PrimitiveUnits &units);
 

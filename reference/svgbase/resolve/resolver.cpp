@@ -28,7 +28,7 @@ namespace Svg {
 
 namespace {
 
-// Without one, everything but the root, which is a box of a page, turns about the origin (SVG 2 §8.10, §6.8).
+// Without one, every element except the root, which is a box of a page, turns about the origin (SVG 2 §8.10, §6.8).
 QPointF transformOrigin(const Node &node, const ComputedStyle &style, const QRectF &box,
                         const LengthContext &context)
 {
@@ -55,7 +55,7 @@ TransformBox transformBoxOf(const Node &node, const ComputedStyle &style)
     return isShape ? TransformBox::OfShape : TransformBox::OfContent;
 }
 
-/// Most characters of a value that a message repeats.
+/// Most characters of a value quoted in a message.
 constexpr int longestQuote = 80;
 
 QString shortened(const QString &value)
@@ -103,7 +103,7 @@ bool hasOnePaint(const ComputedStyle &text)
     return textStyleOf(text).decorations.isEmpty() && !inlineStyleOf(text).lineColor;
 }
 
-// "pathLength" says what the author took the length for (SVG 2 §9.6.1).
+// "pathLength" is the author's measure of the length (SVG 2 §9.6.1).
 double dashScale(const Node &node, const ComputedStyle &style, const QPainterPath &path)
 {
     if (style.strokeDasharray.isEmpty() || !node.attributes.contains(AttributeId::PathLength))
@@ -166,7 +166,7 @@ void Resolver::resolveStyle(NodeIndex index, const KeptFacts &kept, Facts *facts
         warn(node, {Message::EffectsTooDeep,
                     QStringLiteral("Lines that groups of texts ask for are drawn for %1 groups inside each other.")
                         .arg(Limits::decoratingGroups)});
-    // Their "fill" is no paint.
+    // Their "fill" is not a paint.
     if (isAnimation(node.kind))
         return;
     for (const RejectedValue &rejected : qAsConst(notes.rejected))
@@ -185,7 +185,7 @@ bool Resolver::canMeasure() const
     return can;
 }
 
-// In the units of the element, its own transform left out.
+// In the units of the element, without its own transform.
 MeasuredContent Resolver::contentOf(NodeIndex index, const Facts &facts, ContentBox box) const
 {
     Resolver inner(m_tree, m_referenceRevision, m_services);
@@ -223,7 +223,7 @@ ContextPaint Resolver::ownPaint(const Paint &paint, Facts *facts) const
     return handedDown(*facts, paint.kind, brush, pattern);
 }
 
-// A used element may be painted with gradients and patterns that relate to the bounds of all of it.
+// A used element may be painted with gradients and patterns relative to the bounds of all of it.
 void Resolver::resolveContext(NodeIndex index, Facts *facts) const
 {
     facts->context = useContext(*facts);
@@ -266,7 +266,7 @@ QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
     if (!transform)
         warn(node, {Message::InvalidTransform,
                     QStringLiteral("The transform \"%1\" is not understood.").arg(shortened(own.text()))});
-    // Attributes of these names mean other things: only style counts.
+    // Attributes of these names have other meanings, so only style is used.
     const auto styled = [&style](AttributeId id) {
         return styledAttribute(Attributes(), style.attributes, id).text();
     };
@@ -329,13 +329,13 @@ void Resolver::resolvePlace(NodeIndex index, Facts *facts) const
     facts->toDocument = facts->parent ? local * facts->parent->toDocument : local;
     if (isBounded(facts->toDocument))
         return;
-    // Content magnified beyond all bounds is collapsed to nothing.
+    // Content magnified beyond the limit is collapsed to nothing.
     facts->toDocument = QTransform(0, 0, 0, 0, 0, 0);
     warn(node, {Message::TransformTooLarge,
                 QStringLiteral("What is magnified more than %1 times is left out.").arg(Limits::transformEntry)});
 }
 
-// Nothing where there is no server that can be used, so that the paint behind the reference counts.
+// Empty without a usable server, so that the fallback paint after the reference applies.
 std::optional<QBrush> Resolver::servedBrush(NodeIndex server, double opacity, const Facts &facts,
                                             NodeIndex *pattern) const
 {
@@ -375,7 +375,7 @@ QBrush Resolver::brushOf(const Paint &paint, double opacity, Facts *facts, int *
     return plainBrush(color);
 }
 
-// Most elements are painted as those before them, in this document or in others; these share one brush.
+// Most elements are painted like earlier ones, in this document or in others; these share one brush.
 QBrush Resolver::plainBrush(const QColor &color)
 {
     static thread_local std::array<QBrush, 61> brushes;
@@ -391,7 +391,7 @@ void Resolver::addOutline(const DrawnPath &path, const ComputedStyle &style, Fac
     outline.path = withoutSlack(path.path);
     outline.openEnds = path.openEnds;
     outline.path.setFillRule(style.fillRule);
-    // A path computes these when first asked; done now, since facts are shared between threads.
+    // A path computes these on first use; done now, since facts are shared between threads.
     outline.path.boundingRect();
     outline.path.controlPointRect();
     outline.fill = brushOf(style.fill, style.fillOpacity, facts, &outline.fillPattern);
@@ -429,7 +429,7 @@ void Resolver::resolveShape(NodeIndex index, const KeptFacts &kept, Facts *facts
                    *facts->style, facts);
     if (!kept.facts || kept.facts->outlines.isEmpty() || facts->outlines.isEmpty())
         return;
-    // The same outline, or pen, again takes no memory of its own.
+    // A repeated outline, or pen, takes no memory of its own.
     const Outline &known = kept.facts->outlines.constFirst();
     Outline &fresh = facts->outlines.first();
     if (fresh.path == known.path)
@@ -485,7 +485,7 @@ void Resolver::resolveText(NodeIndex index, const KeptFacts &kept, Facts *facts)
     warn(m_tree.node(index), text.problem);
     if (text.hasReferences)
         facts->referenceRevision = m_referenceRevision;
-    // Boxes are of the cells of all characters, hidden ones and spaces included (SVG 2 §8.10).
+    // Boxes include the cells of all characters, also hidden ones and spaces (SVG 2 §8.10).
     facts->hasGeometry = !text.cells.isNull();
     facts->localBounds = text.cells;
     for (const TextRun &run : text.runs) {

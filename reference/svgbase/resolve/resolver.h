@@ -12,14 +12,14 @@
 
 namespace Svg {
 
-/// Facts of the same element, earlier or at another place, and what of them holds as long as its style does.
-/// Outlines that come out the same share their memory in any case.
+/// Facts of the same element, earlier or at another place, and the parts of them that are still valid while its
+/// style is the same. Equal outlines share their memory in any case.
 struct KeptFacts
 {
     const Facts *facts = nullptr;
     /// Nothing that style depends on has changed.
     bool style = false;
-    /// Nothing that outlines depend on has changed, but perhaps the style.
+    /// Nothing that outlines depend on has changed, except possibly the style.
     bool geometry = false;
     /// The content of an "image" is unchanged.
     bool image = false;
@@ -45,11 +45,11 @@ struct ResolverServices
     const DocumentReader &documents;
 };
 
-/// Turns elements into facts: style, units, references and geometry settled.
+/// Turns elements into facts: resolves style, units, references and geometry.
 class Resolver
 {
 public:
-    /// `messages`, when given, gets what could not be understood.
+    /// `messages`, when given, receives what could not be understood.
     Resolver(const Tree &tree, quint32 referenceRevision, const ResolverServices &services,
              Messages *messages = nullptr)
         : m_tree(tree)
@@ -66,7 +66,7 @@ public:
     FactsPointer resolve(NodeIndex index, const FactsPointer &parent, const KeptFacts &kept = {}) const;
     /// The "transform" of an element, with its origin applied.
     QTransform ownTransform(NodeIndex index, const Facts &facts) const;
-    /// The content that a reference of an element shows; the same reference, however often, is read once.
+    /// The content shown by a reference of an element; equal references are read once.
     ImagePointer image(const QString &reference, Problem *problem) const;
 
 private:
@@ -95,7 +95,7 @@ private:
     quint32 m_referenceRevision;
     ResolverServices m_services;
     Messages *m_messages;
-    /// The element whose content is measured, which is done without its own transform.
+    /// The element whose content is measured, without its own transform.
     NodeIndex m_measured = noNode;
     /// How many elements around this one are being measured.
     int m_measuringDepth = 0;

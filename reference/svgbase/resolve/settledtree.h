@@ -8,28 +8,28 @@
 
 namespace Svg {
 
-/// A tree whose facts are kept up to date: all that drawing and measuring know of a document.
+/// A tree whose facts are kept up to date: everything that drawing and measuring know of a document.
 class SettledTree
 {
 public:
     SettledTree() = default;
     virtual ~SettledTree() = default;
 
-    /// The elements. Their styling flags count once settle() was called.
+    /// The elements. Their styling flags are valid once settle() was called.
     virtual const Tree &tree() const = 0;
-    /// Makes facts available. Everything that measures, draws or changes does so first.
+    /// Makes facts available. Call this before measuring, drawing or changing anything.
     virtual void settle() = 0;
-    /// Counts every change that could show.
+    /// Increases with every change that may be visible.
     virtual quint32 revision() const = 0;
-    /// The facts of a node as of now; changes since the last call are resolved first.
+    /// The current facts of a node; changes since the last call are resolved first.
     virtual FactsPointer facts(NodeIndex index) = 0;
-    /// The same for a child of a node whose facts are at hand.
+    /// The same for a child of a node whose facts are given.
     virtual FactsPointer factsBelow(NodeIndex child, const FactsPointer &above) = 0;
     /// Resolves elements at other places than their own.
     virtual Resolver resolver() = 0;
     /// Document-wide styling of a node; null for none.
     virtual StyleOverridePointer stylePointer(NodeIndex index) const = 0;
-    /// The document that an image shows, settled for a window of the given size.
+    /// The document that an image shows, resolved for a window of the given size.
     virtual std::unique_ptr<SettledTree> imageDocument(const ImageContent &image, const QSizeF &window) const = 0;
 
 protected:

@@ -20,10 +20,10 @@ using StyleOverridePointer = QExplicitlySharedDataPointer<const StyleOverride>;
 
 bool operator==(const StyleOverride &a, const StyleOverride &b);
 
-/// An outline with its pen and fill replaced as far as the override says.
+/// An outline with its pen and fill replaced as far as the override sets them.
 Outline overridden(const Outline &outline, const ComputedStyle &style, const StyleOverride &override);
-/// The override that is left after the node itself was given `property`: the later word counts. Null when nothing
-/// is.
+/// The remaining override after the node itself was given `property`: the later value wins. Null when nothing
+/// remains.
 StyleOverridePointer withoutProperty(const StyleOverridePointer &override, AttributeId property);
 
 } // namespace Svg
