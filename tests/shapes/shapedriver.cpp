@@ -197,6 +197,9 @@ QString ShapeDriver::geometry() const
     QString text;
     const auto children = document().children();
     for (const QZeSvgNode *node : children) {
+        // A hidden figure is drawn when it is shown again.
+        if (!node->isVisible())
+            continue;
         for (const char *name : {"d", "points", "x", "y", "width", "height"})
             text += node->attribute(QLatin1String(name)) + QLatin1Char(' ');
         text += QLatin1Char('\n');

@@ -68,7 +68,7 @@ public:
     /// Of control point `number` (from 1), document units.
     QRectF controlPoint(int number) const;
     int controlPointCount() const;
-    /// The attributes of all nodes of the figure, as one text to compare.
+    /// The attributes of all visible nodes of the figure, as one text to compare.
     QString geometry() const;
 
     /// The object as it paints itself here, on white.
