@@ -56,8 +56,19 @@ const Pose poses[] = {
 /// Shapes that keep their points on a line or circle of their own: a drag takes these to the nearest place there.
 QStringList boundPoints()
 {
-    return {QStringLiteral("clock"), QStringLiteral("pendulum"), QStringLiteral("pie"),
-            QStringLiteral("protractor"), QStringLiteral("star")};
+    return {
+        QStringLiteral("clock"),
+        QStringLiteral("pendulum"),
+        QStringLiteral("pie"),
+        QStringLiteral("protractor"),
+        QStringLiteral("star"),
+        QStringLiteral("declared/balance"),
+        QStringLiteral("declared/fractioncircle"),
+        QStringLiteral("declared/gauge"),
+        QStringLiteral("declared/prism"),
+        QStringLiteral("declared/ramp"),
+        QStringLiteral("declared/switch"),
+    };
 }
 
 /// The figures and texts of a drawing, in groups or not, without control points.

@@ -1,9 +1,8 @@
 // The shapes of examples/declared as the board has them. Places are document units, worked out from the files.
 
-#include <shapes/shapedriver.h>
+#include "drivenshape.h"
 
 #include <svgobj/csvgbase.h>
-#include <svgobj/csvgobj.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -12,6 +11,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
+using namespace declaredtest;
 using shapetest::ShapeDriver;
 
 class TestExamples : public QObject
@@ -56,34 +56,11 @@ void addExampleRows()
         QTest::newRow(qPrintable(name)) << QStringLiteral("declared/") + name;
 }
 
-QByteArray savedBytes(const ShapeDriver &shape)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    shape.object().save(out);
-    return bytes;
-}
-
 QJsonObject savedJson(const ShapeDriver &shape)
 {
     QJsonObject object;
     shape.object().saveJson(object);
     return object;
-}
-
-void answer(const ShapeDriver &shape, const char *json)
-{
-    shape.object().SetSettingJson(QString::fromUtf8(json), true, true);
-}
-
-QPainterPath pathOf(const ShapeDriver &shape, const char *id)
-{
-    return shape.document().namedNode(QLatin1String(id))->path();
-}
-
-bool isNear(QPointF a, QPointF b)
-{
-    return QLineF(a, b).length() < 1e-4;
 }
 
 /// Whether both paths consist of the same points within what ten digits leave.
