@@ -36,12 +36,14 @@ constexpr std::array<Dress, 6> wardrobe{{{0xff1f5fa8, 0xffa9d0f5, 0xffe8f3fd},
 
 constexpr QRgb paper = 0xfffdfdfb;
 constexpr double pageMargin = 70;
+/// Dresses by which a varied shape is ahead of its plain one.
+constexpr int otherDress = 3;
 /// Part of its cell that a shape takes.
 constexpr double cellPart = 0.74;
 /// Proportion of the cells that the page is divided into.
 constexpr double cellAspect = 1.35;
 
-// The second page, scene units.
+// The last page, scene units.
 constexpr QPointF wreathRadius(490, 270);
 constexpr QSizeF wreathShape(124, 90);
 constexpr QSizeF middleShape(270, 220);
@@ -78,12 +80,12 @@ struct Grid
     {
     }
 
-    /// Two rows of cells for every `columns` kinds, as large as they can be.
+    /// A cell for every kind, as large as they can be.
     static Grid forKinds(const QRectF &page, int kinds)
     {
-        Grid best(page, kinds, 2);
+        Grid best(page, kinds, 1);
         for (int columns = 1; columns < kinds; ++columns) {
-            const Grid grid(page, columns, 2 * ((kinds + columns - 1) / columns));
+            const Grid grid(page, columns, (kinds + columns - 1) / columns);
             if (grid.room() > best.room())
                 best = grid;
         }
@@ -95,8 +97,10 @@ struct Grid
     /// Height of the largest picture of the usual proportions that fits into a cell.
     double room() const { return qMin(cellSize().width() / cellAspect, cellSize().height()); }
 
-    QRectF cell(int row, int column) const
+    QRectF cell(int index) const
     {
+        const int row = index / columns;
+        const int column = index % columns;
         const QPointF corner(column * cellSize().width(), row * cellSize().height());
         return {area.topLeft() + corner, cellSize()};
     }
@@ -115,22 +119,19 @@ public:
         page->setBackground(background);
     }
 
-    /// Every kind once, plain, and below it once more in another form and fill.
+    /// Every kind once, plain.
     void paintCatalogue()
     {
-        const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
-        const Grid grid = Grid::forKinds(m_page->rect(), kinds.size());
-        for (int i = 0; i < kinds.size(); ++i) {
-            const int row = i / grid.columns * 2;
-            const int column = i % grid.columns;
-            if (CBaseObject *plain = place(kinds.at(i).id, grid.cell(row, column), cellPart))
-                dress(plain, i);
-            CBaseObject *varied = place(kinds.at(i).id, grid.cell(row + 1, column), cellPart);
-            if (!varied)
-                continue;
-            dress(varied, i + 3);
-            vary(varied, i + 3);
-        }
+        paintKinds([this](CBaseObject *object, int index) { dress(object, index); });
+    }
+
+    /// Every kind once, in another form and fill.
+    void paintVariations()
+    {
+        paintKinds([this](CBaseObject *object, int index) {
+            dress(object, index + otherDress);
+            vary(object, index + otherDress);
+        });
     }
 
     /// All kinds again and again, each turned a little further, around a few large ones.
@@ -155,6 +156,15 @@ public:
     }
 
 private:
+    template<class Decorate> void paintKinds(Decorate decorate)
+    {
+        const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
+        const Grid grid = Grid::forKinds(m_page->rect(), kinds.size());
+        for (int i = 0; i < kinds.size(); ++i)
+            if (CBaseObject *object = place(kinds.at(i).id, grid.cell(i), cellPart))
+                decorate(object, i);
+    }
+
     /// In the middle of the cell, as large as fits into that part of it, in the proportions of a new object.
     CBaseObject *place(const QString &kindId, const QRectF &cell, double part)
     {
@@ -222,6 +232,7 @@ void fillWithDemo(Workspace &workspace)
     CUndoRedo::GetInstance()->stack()->clear();
     clearPages(document);
     DemoPainter(workspace, document->appendPage()).paintCatalogue();
+    DemoPainter(workspace, document->appendPage()).paintVariations();
     DemoPainter(workspace, document->appendPage()).paintWreath();
     for (pagehost::Page *page : document->pages())
         page->select({});

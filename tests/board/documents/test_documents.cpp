@@ -67,6 +67,7 @@ private Q_SLOTS:
     void aNewBoardHasNoNameAndNoChanges();
     void changesAreMarkedInTheTitleUntilUndone();
     void demoPagesAreNoWorkToBeSaved();
+    void demoPagesShowEveryKind();
     void savingAsksForANameOnce();
     void bothFormatsAreWritten_data();
     void bothFormatsAreWritten();
@@ -119,6 +120,23 @@ void TestDocuments::demoPagesAreNoWorkToBeSaved()
     board::fillWithDemo(desk.board.workspace());
     QVERIFY(desk.objectCount() > 10);
     QVERIFY(!desk.board.window().isWindowModified());
+}
+
+void TestDocuments::demoPagesShowEveryKind()
+{
+    Desk desk;
+    board::fillWithDemo(desk.board.workspace());
+    const QVector<pagehost::ObjectKind> kinds = desk.board.workspace().registry().kinds();
+    // Plain on the first page, varied on the second.
+    for (int page = 0; page < 2; ++page) {
+        QStringList shown;
+        for (const CBaseObject *object : desk.board.workspace().document()->page(page)->objects())
+            shown.append(object->kindName());
+        QStringList expected;
+        for (const pagehost::ObjectKind &kind : kinds)
+            expected.append(kind.nameKey);
+        QCOMPARE(shown, expected);
+    }
 }
 
 void TestDocuments::savingAsksForANameOnce()
