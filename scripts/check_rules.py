@@ -82,7 +82,7 @@ ROOMS = {
         "geometry": "grammar tree properties style",
         "text": "grammar tree images properties style geometry",
         "filters": "grammar",
-        "raster": "grammar",
+        "raster": "grammar geometry",
         "resolve": "grammar tree images properties style geometry text filters",
         "scene": "grammar tree images properties geometry resolve",
         "paint": "grammar filters raster resolve scene",

@@ -5,7 +5,6 @@
 
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPathStroker>
 
 namespace Svg {
 
@@ -20,8 +19,7 @@ bool hasPlainStroke(const MappedShape &shape)
 {
     if (shape.pen.style() == Qt::NoPen)
         return shape.strokePath.isEmpty() || isPlain(shape.pen.brush());
-    return shape.pen.style() == Qt::SolidLine && isPlain(shape.pen.brush()) && !shape.pen.isCosmetic() &&
-           shape.pen.widthF() > 0;
+    return isPlain(shape.pen.brush()) && !shape.pen.isCosmetic() && shape.pen.widthF() > 0;
 }
 
 bool isSolid(const MappedShape &shape)
@@ -35,12 +33,8 @@ std::shared_ptr<const FlatShape> flatShape(const MappedItem &item, const MappedS
     const QPainterPath path = mappedOutline(item);
     if (shape.fill.style() != Qt::NoBrush && !flatten(path, &flat->fill))
         return flat;
-    if (shape.pen.style() != Qt::NoPen) {
-        const QPainterPathStroker stroker(shape.pen);
-        if (!flatten(stroker.createStroke(path), &flat->stroke))
-            return flat;
-        flat->stroke.fillRule = Qt::WindingFill;
-    }
+    if (shape.pen.style() != Qt::NoPen && !flattenStroke(path, shape.pen, QTransform(), &flat->stroke))
+        return flat;
     flat->isUsable = shape.strokePath.isEmpty() || flatten(shape.strokePath, &flat->distorted);
     return flat;
 }

@@ -1,6 +1,7 @@
 #include "raster/flatoutline.h"
 
-#include <QtCore/QtMath>
+#include "geometry/curve.h"
+#include "geometry/stroking.h"
 
 #include <cmath>
 
@@ -8,7 +9,7 @@ namespace Svg {
 
 namespace {
 
-/// How far a line may stray from its curve, pixels.
+/// Largest distance of a line from the curve that it stands for, pixels.
 constexpr double flatness = 0.025;
 /// Farther from the origin than this nothing is flattened, pixels.
 constexpr double farthest = 32000;
@@ -21,34 +22,24 @@ QPoint inSubpixels(const QPointF &point)
     return QPoint(qRound(point.x() * subpixels), qRound(point.y() * subpixels));
 }
 
-double bend(const QPointF &a, const QPointF &b, const QPointF &c)
+// Numbers that are none are not.
+bool isNear(const QPointF &point)
 {
-    return std::hypot(a.x() - 2 * b.x() + c.x(), a.y() - 2 * b.y() + c.y());
+    return std::abs(point.x()) < farthest && std::abs(point.y()) < farthest;
 }
 
-// A chord strays from its curve by at most an eighth of the second derivative, which for a cubic curve is at most
-// six times the larger bend.
-int linesOf(const QPointF &p0, const QPointF &p1, const QPointF &p2, const QPointF &p3)
+bool isNear(const QPainterPath &path, const QTransform &toPainter)
 {
-    const double largest = qMax(bend(p0, p1, p2), bend(p1, p2, p3));
-    return qMax(1, qCeil(std::sqrt(largest * 6 / 8 / flatness)));
-}
-
-// Nor are numbers that are none.
-bool isNear(const QPainterPath &path)
-{
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element &element = path.elementAt(i);
-        if (!(std::abs(element.x) < farthest && std::abs(element.y) < farthest))
+    for (int i = 0; i < path.elementCount(); ++i)
+        if (!isNear(toPainter.map(QPointF(path.elementAt(i)))))
             return false;
-    }
     return true;
 }
 
-class Flattening
+class Flattener
 {
 public:
-    explicit Flattening(FlatOutline *outline)
+    explicit Flattener(FlatOutline *outline)
         : m_outline(outline)
     {
     }
@@ -56,13 +47,13 @@ public:
     bool add(const QPainterPath &path);
 
 private:
-    void addCurve(const QPainterPath &path, int first);
+    void addCurve(const Curve &curve);
     void endPolygon();
 
     FlatOutline *m_outline;
 };
 
-void Flattening::endPolygon()
+void Flattener::endPolygon()
 {
     const int end = m_outline->points.size();
     const int begin = m_outline->ends.isEmpty() ? 0 : m_outline->ends.constLast();
@@ -70,28 +61,20 @@ void Flattening::endPolygon()
         m_outline->ends.append(end);
 }
 
-void Flattening::addCurve(const QPainterPath &path, int first)
+void Flattener::addCurve(const Curve &curve)
 {
-    const QPointF p0 = path.elementAt(first - 1);
-    const QPointF p1 = path.elementAt(first);
-    const QPointF p2 = path.elementAt(first + 1);
-    const QPointF p3 = path.elementAt(first + 2);
-    const int lines = linesOf(p0, p1, p2, p3);
-    for (int i = 1; i < lines; ++i) {
-        const double t = double(i) / lines;
-        const double u = 1 - t;
-        m_outline->points.append(
-            inSubpixels(p0 * (u * u * u) + p1 * (3 * u * u * t) + p2 * (3 * u * t * t) + p3 * (t * t * t)));
-    }
-    m_outline->points.append(inSubpixels(p3));
+    const int lines = curve.lineCount(flatness);
+    for (int i = 1; i < lines; ++i)
+        m_outline->points.append(inSubpixels(curve.at(double(i) / lines)));
+    m_outline->points.append(inSubpixels(curve.end));
 }
 
-bool Flattening::add(const QPainterPath &path)
+bool Flattener::add(const QPainterPath &path)
 {
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element &element = path.elementAt(i);
         if (element.type == QPainterPath::CurveToElement) {
-            addCurve(path, i);
+            addCurve(Curve::ofElement(path, i));
             i += 2;
         } else {
             if (element.type == QPainterPath::MoveToElement)
@@ -112,7 +95,23 @@ bool flatten(const QPainterPath &path, FlatOutline *outline)
     outline->points.resize(0);
     outline->ends.resize(0);
     outline->fillRule = path.fillRule();
-    return isNear(path) && Flattening(outline).add(path);
+    return isNear(path, QTransform()) && Flattener(outline).add(path);
+}
+
+bool flattenStroke(const QPainterPath &path, const QPen &pen, const QTransform &toPainter, FlatOutline *outline)
+{
+    *outline = FlatOutline();
+    StrokeOutline stroke;
+    if (!isNear(path, toPainter) || !outlineStroke(path, pen, toPainter, {flatness, mostPoints}, &stroke))
+        return false;
+    outline->points.reserve(int(stroke.points.size()));
+    for (const QPointF &point : stroke.points) {
+        if (!isNear(point))
+            return false;
+        outline->points.append(inSubpixels(point));
+    }
+    outline->ends = QVector<int>(stroke.ends.begin(), stroke.ends.end());
+    return true;
 }
 
 } // namespace Svg

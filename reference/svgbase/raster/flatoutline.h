@@ -3,6 +3,8 @@
 #include <QtCore/QPoint>
 #include <QtCore/QVector>
 #include <QtGui/QPainterPath>
+#include <QtGui/QPen>
+#include <QtGui/QTransform>
 
 namespace Svg {
 
@@ -32,5 +34,8 @@ struct FlatShape
 /// Curves become lines that stray by less than can be seen. False, the outline then being of no use, where it
 /// reaches too far from the origin or has too many points.
 bool flatten(const QPainterPath &path, FlatOutline *outline);
+/// The same for the area that a pen covers along a path, both in units that `toPainter` maps, which must be a
+/// mapping of the plane.
+bool flattenStroke(const QPainterPath &path, const QPen &pen, const QTransform &toPainter, FlatOutline *outline);
 
 } // namespace Svg

@@ -1,6 +1,6 @@
 #include "text/textlines.h"
 
-#include <QtGui/QPainterPathStroker>
+#include "geometry/stroking.h"
 
 #include <cmath>
 
@@ -14,6 +14,10 @@ constexpr double dashLength = 3;
 constexpr double dashDistance = 5;
 constexpr double waveLength = 6;
 constexpr double waveHeight = 1.5;
+/// Largest distance of the outline of a wave from its curve, in thicknesses.
+constexpr double waveAccuracy = 0.0025;
+/// Most points of the outline of waves; longer lines are straight.
+constexpr int mostWavePoints = 100000;
 constexpr double secondLine = 2;
 
 void addBar(QPainterPath *path, double left, double middle, double length, double thickness)
@@ -37,6 +41,25 @@ double repetition(LineStyle style)
     return 0;
 }
 
+// Empty where it has too many points.
+QPainterPath strokeArea(const QPainterPath &middle, const QPen &pen)
+{
+    StrokeOutline stroke;
+    QPainterPath area;
+    if (!outlineStroke(middle, pen, QTransform(), {waveAccuracy * pen.widthF(), mostWavePoints}, &stroke))
+        return area;
+    area.setFillRule(Qt::WindingFill);
+    int begin = 0;
+    for (const int end : stroke.ends) {
+        area.moveTo(stroke.points[size_t(begin)]);
+        for (int i = begin + 1; i < end; ++i)
+            area.lineTo(stroke.points[size_t(i)]);
+        area.closeSubpath();
+        begin = end;
+    }
+    return area;
+}
+
 // Up and down in halves, as many whole waves as fit.
 QPainterPath waves(const LinePiece &piece, int count)
 {
@@ -49,10 +72,7 @@ QPainterPath waves(const LinePiece &piece, int count)
         middle.cubicTo(left + length / 2, -piece.height - reach, left + length / 2, -piece.height + reach,
                        left + length, -piece.height);
     }
-    QPainterPathStroker stroker;
-    stroker.setWidth(piece.thickness);
-    stroker.setCapStyle(Qt::FlatCap);
-    return stroker.createStroke(middle);
+    return strokeArea(middle, QPen(Qt::black, piece.thickness, Qt::SolidLine, Qt::FlatCap));
 }
 
 void addRepeated(QPainterPath *path, const LinePiece &piece, int count)
@@ -87,12 +107,12 @@ QPainterPath lineOutline(const LinePiece &piece, int *repetitionsLeft)
     if (repeats)
         *repetitionsLeft -= int(count);
     if (repeats && piece.style == LineStyle::Wavy)
-        return waves(piece, int(count));
-    if (repeats)
+        path = waves(piece, int(count));
+    else if (repeats)
         addRepeated(&path, piece, int(count));
     else if (piece.style == LineStyle::Double)
         addDouble(&path, piece);
-    else
+    if (path.isEmpty())
         addBar(&path, 0, -piece.height, piece.length, piece.thickness);
     return path;
 }
