@@ -12,16 +12,17 @@ static_assert(subpixels == 1 << subpixelBits);
 /// Bits behind the point of slopes. Points are so near to the origin that products with a slope stay within 64
 /// bits.
 constexpr int fixedBits = 32;
-constexpr double fixedOne = double(qint64(1) << fixedBits);
+constexpr qint64 fixedUnit = qint64(1) << fixedBits;
+constexpr qint64 fixedHalf = fixedUnit / 2;
 
 inline qint64 fixedQuotient(int dividend, int divisor)
 {
-    return qint64(dividend * fixedOne / divisor);
+    return qint64(dividend * double(fixedUnit) / divisor);
 }
 
 inline int wholeOf(qint64 fixed)
 {
-    return int((fixed + (qint64(1) << (fixedBits - 1))) >> fixedBits);
+    return int((fixed + fixedHalf) >> fixedBits);
 }
 
 } // namespace
@@ -50,6 +51,13 @@ inline void Coverage::advance(Row *row) const
 {
     row->cells += m_columns;
     row->written += m_words;
+}
+
+// Covers all of the pixels from a column on.
+inline void Coverage::addWhole(const Row &row, int column, int height)
+{
+    row.cells[column] += uint(height * 2 * subpixels);
+    row.written[uint(column) / wordBits] |= quint64(1) << (uint(column) % wordBits);
 }
 
 // `twiceInset` is the sum of the distances of both ends from the pixel's left edge.
@@ -100,15 +108,16 @@ void Coverage::addLine(QPoint upper, QPoint lower, int direction)
         return;
     }
     const qint64 slope = fixedQuotient(lower.x() - upper.x(), lower.y() - upper.y());
-    const auto xAt = [&](int at) { return upper.x() + wholeOf((at - upper.y()) * slope); };
+    qint64 fixedX = upper.x() * fixedUnit + fixedHalf + (y - upper.y()) * slope;
+    int x = int(fixedX >> fixedBits);
     Row row = rowAt(y >> subpixelBits);
-    int x = xAt(y);
-    while (y < end) {
-        const int nextY = qMin((y | (subpixels - 1)) + 1, end);
-        const int nextX = xAt(nextY);
-        addInRow(row, qMin(x, nextX), qMax(x, nextX), (nextY - y) * direction);
+    for (int nextRow = (y | (subpixels - 1)) + 1; y < end; nextRow += subpixels) {
+        const int height = qMin(nextRow, end) - y;
+        fixedX += height * slope;
+        const int nextX = int(fixedX >> fixedBits);
+        addInRow(row, qMin(x, nextX), qMax(x, nextX), height * direction);
         advance(&row);
-        y = nextY;
+        y += height;
         x = nextX;
     }
 }
@@ -123,7 +132,11 @@ void Coverage::addUpright(int x, int from, int to, int direction)
     Row row = rowAt(from >> subpixelBits);
     for (int y = from; y < to;) {
         const int nextY = qMin((y | (subpixels - 1)) + 1, to);
-        addCell(row, column, (nextY - y) * direction, twiceInset);
+        const int height = (nextY - y) * direction;
+        if (twiceInset == 0)
+            addWhole(row, column, height);
+        else
+            addCell(row, column, height, twiceInset);
         advance(&row);
         y = nextY;
     }
@@ -146,7 +159,7 @@ void Coverage::addAcross(const Row &row, int left, int right, int height)
     if (left >= width)
         return;
     if (right <= 0) {
-        addCell(row, 0, height, 0);
+        addWhole(row, 0, height);
         return;
     }
     int column = qMax(left, 0) >> subpixelBits;
@@ -159,16 +172,16 @@ void Coverage::addAcross(const Row &row, int left, int right, int height)
     int at = left;
     if (left < 0) {
         passed = wholeOf(-left * steepness);
-        addCell(row, 0, passed, 0);
+        addWhole(row, 0, passed);
         at = 0;
     }
-    while (at < right && at < width) {
+    const int end = qMin(right, width);
+    for (; at < end; ++column) {
         const int next = qMin((column + 1) * subpixels, right);
         const int passedThen = next == right ? height : wholeOf((next - left) * steepness);
         addCell(row, column, passedThen - passed, at + next - 2 * column * subpixels);
         passed = passedThen;
         at = next;
-        ++column;
     }
 }
 

@@ -48,6 +48,7 @@ private:
     void addUpright(int x, int from, int to, int direction);
     void addInRow(const Row &row, int left, int right, int height);
     void addAcross(const Row &row, int left, int right, int height);
+    static void addWhole(const Row &row, int column, int height);
     static void addCell(const Row &row, int column, int height, int twiceInset);
     Row rowAt(int row);
     void advance(Row *row) const;
@@ -88,24 +89,27 @@ template<Qt::FillRule rule, typename Sink> void Coverage::sweepRow(int row, Sink
     uint *cells = m_cells.data() + size_t(row) * size_t(m_columns);
     quint64 *words = m_written.data() + size_t(row) * size_t(m_words);
     const int y = m_band.top + row;
+    const int left = m_band.left;
+    const int width = m_band.width;
+    const int wordCount = m_words;
     uint sum = 0;
     int start = 0;
     int coverage = 0;
-    for (int word = 0; word < m_words; ++word) {
+    for (int word = 0; word < wordCount; ++word) {
         quint64 bits = words[word];
         words[word] = 0;
         for (; bits; bits &= bits - 1) {
             const int column = word * wordBits + int(qCountTrailingZeroBits(bits));
-            if (const int end = qMin(column, m_band.width); coverage > 0 && end > start)
-                sink(Span{m_band.left + start, y, end - start, coverage});
+            if (coverage > 0 && start < width)
+                sink(Span{left + start, y, qMin(column, width) - start, coverage});
             sum += cells[column];
             cells[column] = 0;
             start = column;
             coverage = coverageOf<rule>(int(sum));
         }
     }
-    if (coverage > 0 && start < m_band.width)
-        sink(Span{m_band.left + start, y, m_band.width - start, coverage});
+    if (coverage > 0 && start < width)
+        sink(Span{left + start, y, width - start, coverage});
 }
 
 template<Qt::FillRule rule, typename Sink> void Coverage::sweepBand(Sink &sink)

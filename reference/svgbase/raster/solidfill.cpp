@@ -40,8 +40,74 @@ QRgb premultiplied(const QColor &color, double opacity)
     return QRgba64::fromRgba64(rgba.red(), rgba.green(), rgba.blue(), quint16(alpha)).premultiplied().toArgb32();
 }
 
+/// Mixes a colour with pixels of premultiplied pictures.
+struct PremultipliedMixing
+{
+    static QRgb mixed(QRgb pixel, QRgb color, uint below) { return color + scaled(pixel, below); }
+    static void mix(QRgb *pixels, int count, QRgb color, uint below);
+};
+
+// Bytes in the loop are independent of each other, which lets compilers take sixteen at once.
+Q_NEVER_INLINE void PremultipliedMixing::mix(QRgb *pixels, int count, QRgb color, uint below)
+{
+    const QRgb colors[pixelsAtOnce] = {color, color, color, color};
+    uchar added[bytesAtOnce];
+    memcpy(added, colors, sizeof(added));
+    const auto factor = uchar(below);
+    for (; count >= pixelsAtOnce; count -= pixelsAtOnce, pixels += pixelsAtOnce) {
+        auto *bytes = reinterpret_cast<uchar *>(pixels);
+        for (int i = 0; i < bytesAtOnce; ++i) {
+            const auto product = quint16(bytes[i] * factor);
+            bytes[i] = uchar(added[i] + (quint16(product + (product >> 8) + roundingHalf) >> 8));
+        }
+    }
+    for (int i = 0; i < count; ++i)
+        pixels[i] = mixed(pixels[i], color, below);
+}
+
+/// The same for pictures that are not premultiplied; the colour is.
+struct PlainMixing
+{
+    // An opaque pixel is the same in both formats, and stays opaque.
+    static QRgb mixed(QRgb pixel, QRgb color, uint below)
+    {
+        return qAlpha(pixel) == int(wholeByte) ? color + scaled(pixel, below) : mixedFaded(pixel, color, below);
+    }
+    static void mix(QRgb *pixels, int count, QRgb color, uint below);
+
+private:
+    static QRgb mixedFaded(QRgb pixel, QRgb color, uint below);
+    static int sameAtStart(const QRgb *pixels, int count);
+};
+
+Q_NEVER_INLINE QRgb PlainMixing::mixedFaded(QRgb pixel, QRgb color, uint below)
+{
+    return qUnpremultiply(pixel == 0 ? color : color + scaled(qPremultiply(pixel), below));
+}
+
+int PlainMixing::sameAtStart(const QRgb *pixels, int count)
+{
+    if (count >= longRun && memcmp(pixels, pixels + 1, size_t(count - 1) * sizeof(QRgb)) == 0)
+        return count;
+    int same = 1;
+    while (same < count && pixels[same] == pixels[0])
+        ++same;
+    return same;
+}
+
+// Equally covered pixels mostly have one colour below, whose mixture is computed once.
+Q_NEVER_INLINE void PlainMixing::mix(QRgb *pixels, int count, QRgb color, uint below)
+{
+    for (int i = 0; i < count;) {
+        const QRgb pixel = pixels[i];
+        const int end = i + sameAtStart(pixels + i, count - i);
+        std::fill(pixels + i, pixels + end, mixed(pixel, color, below));
+        i = end;
+    }
+}
+
 /// Lays a colour over pixels.
-class Overlay
+template<typename Mixing> class Overlay
 {
 public:
     Overlay(const PixelTarget &target, QRgb color)
@@ -49,7 +115,6 @@ public:
         , m_bytesPerLine(target.picture->bytesPerLine())
         , m_start(-target.origin.y() * m_bytesPerLine - target.origin.x() * qsizetype(sizeof(QRgb)))
         , m_color(color)
-        , m_premultiplies(target.picture->format() == QImage::Format_ARGB32)
     {
     }
 
@@ -59,12 +124,13 @@ public:
         auto *pixels = reinterpret_cast<QRgb *>(m_bits + place);
         const QRgb color = colorFor(span.coverage);
         const uint below = wholeByte - uint(qAlpha(color));
+        // Most pixels of edges stand alone.
         if (below == 0)
             std::fill(pixels, pixels + span.length, color);
-        else if (m_premultiplies)
-            blendPlain(pixels, span.length, color, below);
+        else if (span.length == 1)
+            *pixels = Mixing::mixed(*pixels, color, below);
         else
-            blend(pixels, span.length, color, below);
+            Mixing::mix(pixels, span.length, color, below);
     }
 
 private:
@@ -77,49 +143,6 @@ private:
             known = scaled(m_color, uint(coverage));
         return known;
     }
-    // Bytes in the loop are independent of each other, which lets compilers take sixteen at once.
-    static void blend(QRgb *pixels, int count, QRgb color, uint below)
-    {
-        const QRgb colors[pixelsAtOnce] = {color, color, color, color};
-        uchar added[bytesAtOnce];
-        memcpy(added, colors, sizeof(added));
-        const auto factor = uchar(below);
-        for (; count >= pixelsAtOnce; count -= pixelsAtOnce, pixels += pixelsAtOnce) {
-            auto *bytes = reinterpret_cast<uchar *>(pixels);
-            for (int i = 0; i < bytesAtOnce; ++i) {
-                const auto product = quint16(bytes[i] * factor);
-                bytes[i] = uchar(added[i] + (quint16(product + (product >> 8) + roundingHalf) >> 8));
-            }
-        }
-        for (int i = 0; i < count; ++i)
-            pixels[i] = color + scaled(pixels[i], below);
-    }
-    // Equally covered pixels mostly have one colour below, whose blend is computed once.
-    static void blendPlain(QRgb *pixels, int count, QRgb color, uint below)
-    {
-        for (int i = 0; i < count;) {
-            const QRgb pixel = pixels[i];
-            const int end = i + sameAtStart(pixels + i, count - i);
-            std::fill(pixels + i, pixels + end, mixedPlain(pixel, color, below));
-            i = end;
-        }
-    }
-    static int sameAtStart(const QRgb *pixels, int count)
-    {
-        if (count >= longRun && memcmp(pixels, pixels + 1, size_t(count - 1) * sizeof(QRgb)) == 0)
-            return count;
-        int same = 1;
-        while (same < count && pixels[same] == pixels[0])
-            ++same;
-        return same;
-    }
-    // An opaque pixel is the same in both formats, and stays opaque.
-    static QRgb mixedPlain(QRgb pixel, QRgb color, uint below)
-    {
-        if (qAlpha(pixel) == int(wholeByte))
-            return color + scaled(pixel, below);
-        return qUnpremultiply(color + scaled(qPremultiply(pixel), below));
-    }
 
     uchar *m_bits;
     qsizetype m_bytesPerLine;
@@ -128,7 +151,6 @@ private:
     QRgb m_color;
     /// The colour by coverage; 0 where it was not needed yet.
     std::array<QRgb, wholeByte> m_scaled{};
-    bool m_premultiplies;
 };
 
 // Large enough to be worth keeping, and in use only while an outline is filled. Behind a pointer, since a compiler
@@ -144,7 +166,11 @@ Coverage &sharedCoverage()
 void fillSolid(const FlatOutline &outline, const QColor &color, double opacity, const QRect &window,
                const PixelTarget &target)
 {
-    sharedCoverage().sweep(outline, window, Overlay(target, premultiplied(color, opacity)));
+    const QRgb laid = premultiplied(color, opacity);
+    if (target.picture->format() == QImage::Format_ARGB32)
+        sharedCoverage().sweep(outline, window, Overlay<PlainMixing>(target, laid));
+    else
+        sharedCoverage().sweep(outline, window, Overlay<PremultipliedMixing>(target, laid));
 }
 
 } // namespace Svg
