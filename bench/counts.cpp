@@ -135,15 +135,19 @@ void countDragStep(const QString &kind)
 
 } // namespace
 
-/// The first argument, when given, is the one figure to count.
+/// The first argument, when given, is the one figure to count, the second one the name of the only template.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const QString only = application.arguments().value(1);
+    const QString onlyTemplate = application.arguments().value(2);
     const auto isWanted = [&](const char *figure) { return only.isEmpty() || only == QLatin1String(figure); };
+    const auto isCounted = [&](const QString &name) { return onlyTemplate.isEmpty() || onlyTemplate == name; };
     const QVector<BenchTemplate> &templates = benchTemplates();
     for (const BenchTemplate &source : templates) {
+        if (!isCounted(source.name))
+            continue;
         if (isWanted("load"))
             countLoad(source);
         if (isWanted("redraw-256"))
@@ -159,6 +163,7 @@ int main(int argc, char **argv)
         return 0;
     const QStringList kinds = shapeKinds();
     for (const QString &kind : kinds)
-        countDragStep(kind);
+        if (isCounted(templateName(kind)))
+            countDragStep(kind);
     return 0;
 }
