@@ -62,7 +62,7 @@ COMPONENTS = [
         headers=("pagehost/objectplugin.h",),
     ),
     Component(
-        ["shapes/declared/plugin"],
+        ["shapes/declared/core", "shapes/declared/plugin"],
         prefixes=("declared/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h",),
     ),
@@ -91,6 +91,7 @@ ROOMS = {
     },
     "reference/framework": {
         "include/pagehost": "",
+        "assets": "include/pagehost",
         "host": "include/pagehost",
         "pages": "include/pagehost host",
         "commands": "include/pagehost host",

@@ -170,6 +170,7 @@ bool LessonController::show()
     if (extent == pagehost::LessonExtent::Part)
         m_notices->add({m_workspace->text("IDS_LESSON_PLAYS_IN_PART").arg(data.name), {}, {}, noticeId});
     m_showing = true;
+    m_player.setAssets(m_workspace->document()->assets());
     m_player.setLesson(lesson);
     Q_EMIT stateChanged();
     return true;

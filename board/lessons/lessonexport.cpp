@@ -21,6 +21,7 @@ ExportResult exportLesson(const Workspace &workspace, const pagehost::LessonData
         return result;
     }
     pagehost::LessonPlayer player(&workspace.registry());
+    player.setAssets(workspace.document()->assets());
     player.setLesson(lesson);
     player.playToEnd();
     result = exportPages(player.document(), workspace.registry(), folder, format);

@@ -6,6 +6,7 @@
 
 #include <files/chunks.h>
 #include <files/damagedparts.h>
+#include <files/documentassets.h>
 #include <files/lessoncheck.h>
 #include <files/objectrecordstream.h>
 
@@ -37,6 +38,7 @@ private:
     void take(const chunks::Chunk &chunk);
     void takeVersion(const chunks::Chunk &chunk);
     void takeLesson(const chunks::Chunk &chunk);
+    void takeAsset(const chunks::Chunk &chunk);
     void takePage(const chunks::Chunk &chunk);
     void takeObject(const chunks::Chunk &chunk);
     void takeExtra(const chunks::Chunk &chunk);
@@ -98,6 +100,8 @@ void BinaryReader::take(const chunks::Chunk &chunk)
         takePage(chunk);
     else if (chunk.tag == chunks::lessonTag)
         takeLesson(chunk);
+    else if (chunk.tag == chunks::assetTag)
+        takeAsset(chunk);
     else if (chunk.tag == chunks::versionTag)
         takeVersion(chunk);
     else if (chunk.tag == chunks::endTag)
@@ -136,6 +140,19 @@ void BinaryReader::takeLesson(const chunks::Chunk &chunk)
     m_lessons.append(lesson);
     if (isBroken(lesson))
         report(warning(QStringLiteral("IDS_FILE_LESSON_DAMAGED"), {lesson.name}), chunk.offset);
+}
+
+/// Its key tells whether it is what was saved.
+void BinaryReader::takeAsset(const chunks::Chunk &chunk)
+{
+    const QByteArray key = chunk.payload.left(AssetStore::keySize);
+    if (m_document->assets().addCompressed(key, chunk.payload.mid(AssetStore::keySize))) {
+        if (chunk.isDamaged)
+            report(warning(QStringLiteral("IDS_FILE_DAMAGED_READ")), chunk.offset);
+        return;
+    }
+    report(warning(QStringLiteral("IDS_FILE_ASSET_DAMAGED")), chunk.offset);
+    m_damaged.keep(chunk.payload);
 }
 
 void BinaryReader::takePage(const chunks::Chunk &chunk)
@@ -198,6 +215,7 @@ void BinaryReader::takeMembers(const chunks::Chunk &chunk)
     if (!members.isObject())
         keepDamaged(chunk.payload, chunk.offset);
     m_extra.members = members.object();
+    takeAssetMembers(m_extra, m_document->assets());
 }
 
 /// Of the document when no page has begun.

@@ -5,6 +5,7 @@
 #include <pagehost/page.h>
 
 #include <files/chunks.h>
+#include <files/documentassets.h>
 #include <files/objectrecordstream.h>
 
 #include <QtCore/QJsonDocument>
@@ -45,11 +46,12 @@ bool writePage(chunks::Writer &writer, const Page &page)
     return done;
 }
 
-bool writeDocument(chunks::Writer &writer, const Document &document)
+bool writeDocument(chunks::Writer &writer, Document &document)
 {
     const QVector<LessonData> lessons = document.lessonsToSave();
     writer.begin(chunks::versionTag) << formatVersion << quint32(document.pageCount()) << quint32(lessons.size());
-    bool done = writer.end() && writeExtraData(writer, document.extraData());
+    bool done =
+        writer.end() && writeExtraData(writer, document.extraData()) && writeAssets(writer, namedAssets(document));
     for (const LessonData &lesson : lessons)
         done = done && writeLesson(writer, lesson);
     const QVector<Page *> pages = document.pages();

@@ -18,7 +18,7 @@ constexpr int lengthPlace = 4;
 constexpr int sumPlace = 8;
 constexpr int headerSumPlace = 12;
 
-constexpr const char *knownTags[] = {versionTag, lessonTag, membersTag, pageTag, objectTag, endTag};
+constexpr const char *knownTags[] = {versionTag, assetTag, lessonTag, membersTag, pageTag, objectTag, endTag};
 
 quint32 checksum(const char *bytes, qint64 size)
 {

@@ -16,6 +16,7 @@ constexpr int headerSize = 16;
 constexpr int tagSize = 4;
 
 constexpr char versionTag[] = "VERS";
+constexpr char assetTag[] = "ASST";
 constexpr char lessonTag[] = "LESS";
 constexpr char membersTag[] = "JSON";
 constexpr char pageTag[] = "PAGE";

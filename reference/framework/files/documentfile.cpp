@@ -1,8 +1,10 @@
 #include <pagehost/documentfile.h>
 
 #include <framework/cbaseobject.h>
+#include <framework/ipspage.h>
 
 #include <files/chunks.h>
+#include <files/documentassets.h>
 #include <files/documentcodec.h>
 #include <files/durablefile.h>
 #include <files/objectrecordstream.h>
@@ -38,6 +40,17 @@ DocumentFormat formatOf(const QByteArray &bytes)
 {
     return chunks::Reader::hasSignature(bytes) || chunks::Reader(bytes).hasKnownChunk() ? DocumentFormat::Binary
                                                                                         : DocumentFormat::Json;
+}
+
+AssetStore assetsOf(const QByteArray &bytes)
+{
+    AssetStore assets;
+    chunks::Reader reader(bytes);
+    chunks::Chunk chunk;
+    while (reader.next(chunk))
+        if (chunk.tag == chunks::assetTag)
+            assets.addCompressed(chunk.payload.left(AssetStore::keySize), chunk.payload.mid(AssetStore::keySize));
+    return assets;
 }
 
 } // namespace
@@ -124,6 +137,8 @@ QString objectsMimeType()
 QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
 {
     chunks::Writer writer;
+    if (!writeAssets(writer, namedAssets(objects)))
+        return {};
     for (CBaseObject *object : objects)
         if (!writeObject(writer.begin(chunks::objectTag), object) || !writer.end())
             return {};
@@ -136,7 +151,12 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
     QVector<CBaseObject *> objects;
     if (!chunks::Reader::hasSignature(bytes))
         return objects;
-    const ObjectFactory factory(registry);
+    ObjectFactory factory(registry);
+    const AssetStore assets = assetsOf(bytes);
+    factory.setAssets(assets);
+    // Placeholders leave what they name to their document.
+    if (auto *document = page ? dynamic_cast<Document *>(page->document()) : nullptr)
+        document->assets().unite(assets);
     chunks::Reader reader(bytes);
     chunks::Chunk chunk;
     while (reader.next(chunk)) {

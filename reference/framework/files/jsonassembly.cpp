@@ -3,6 +3,7 @@
 #include <framework/cbaseobject.h>
 
 #include <files/chunks.h>
+#include <files/documentassets.h>
 #include <files/jsonnames.h>
 #include <files/lessoncheck.h>
 
@@ -67,6 +68,13 @@ bool isArrayOfChunks(const QJsonValue &value)
 {
     const QJsonObject first = value.toArray().at(0).toObject();
     return first.size() == 2 && first.contains(QLatin1String(tagName)) && first.contains(QLatin1String(bytesName));
+}
+
+bool isObjectOfAssets(const QJsonValue &value)
+{
+    const QStringList keys = value.toObject().keys();
+    return !keys.isEmpty() && std::all_of(keys.begin(), keys.end(),
+                                          [](const QString &key) { return AssetStore::isKey(key.toLatin1()); });
 }
 
 /// The text behind a key, to the end of the broken text; empty when there is no such key.
@@ -137,6 +145,10 @@ void JsonAssembly::takeDocumentMember(const QByteArray &key, const QByteArray &t
         m_pagesClaimed = qint64(value.toDouble());
     else if (key == lessonCountName)
         m_lessonsClaimed = qint64(value.toDouble());
+    else if (key == assetsName || isObjectOfAssets(value))
+        readAssets(key, value.toObject(), offsetOf(text));
+    else if (AssetStore::isKey(key))
+        readAsset(key, value, offsetOf(text));
     else if (key == chunksName || isArrayOfChunks(value))
         readChunks(key, value.toArray(), m_documentExtra, offsetOf(text));
     else
@@ -255,6 +267,25 @@ void JsonAssembly::readChunks(const QByteArray &key, const QJsonArray &chunks, E
             extra.chunks.append({tag, bytes});
         }
     }
+    takeAssetChunks(extra, m_document->assets());
+}
+
+void JsonAssembly::readAssets(const QByteArray &key, const QJsonObject &assets, qint64 offset)
+{
+    if (key != assetsName)
+        reportReadDamage(offset);
+    for (auto asset = assets.begin(); asset != assets.end(); ++asset)
+        readAsset(asset.key().toUtf8(), *asset, offset);
+}
+
+void JsonAssembly::readAsset(const QByteArray &key, const QJsonValue &bytes, qint64 offset)
+{
+    bool isDamaged = false;
+    const QByteArray compressed = decoded(bytes, isDamaged);
+    if (!isDamaged && m_document->assets().addCompressed(key, compressed))
+        return;
+    report(warning(QStringLiteral("IDS_FILE_ASSET_DAMAGED")), offset);
+    keepToldDamage(QJsonDocument(QJsonObject{{nameOf(key), bytes}}).toJson(QJsonDocument::Compact));
 }
 
 void JsonAssembly::takeObject(const QByteArray &text)

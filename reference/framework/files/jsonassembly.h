@@ -49,6 +49,8 @@ private:
     bool parse(const QByteArray &key, const QByteArray &value, QJsonValue &parsed);
     void readVersion(const QJsonValue &version);
     void readChunks(const QByteArray &key, const QJsonArray &chunks, ExtraData &extra, qint64 offset);
+    void readAssets(const QByteArray &key, const QJsonObject &assets, qint64 offset);
+    void readAsset(const QByteArray &key, const QJsonValue &bytes, qint64 offset);
     void readBackground(const QJsonObject &background, qint64 offset);
     void readSide(const QByteArray &key, const QJsonValue &side, qint64 offset);
     void finishPage();

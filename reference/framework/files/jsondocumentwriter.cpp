@@ -5,6 +5,7 @@
 #include <pagehost/page.h>
 
 #include <files/chunks.h>
+#include <files/documentassets.h>
 #include <files/jsoncursor.h>
 #include <files/jsonnames.h>
 #include <files/jsonwriter.h>
@@ -93,6 +94,17 @@ void writeExtraData(JsonWriter &writer, const ExtraData &extra)
     writer.endArray();
 }
 
+void writeAssets(JsonWriter &writer, const AssetStore &assets)
+{
+    if (assets.isEmpty())
+        return;
+    writer.beginObject(assetsName);
+    const QList<QByteArray> keys = assets.keys();
+    for (const QByteArray &key : keys)
+        writer.member(key.constData(), assets.compressed(key).toBase64());
+    writer.endObject();
+}
+
 bool writePage(JsonWriter &writer, const Page &page, int number)
 {
     QJsonObject background;
@@ -147,6 +159,7 @@ QByteArray jsonformat::write(Document &document, FileMessage &problem)
     writer.member(pageCountName, document.pageCount());
     writer.member(lessonCountName, lessons.size());
     writeExtraData(writer, document.extraData());
+    writeAssets(writer, namedAssets(document));
     if (!lessons.isEmpty()) {
         writer.beginArray(lessonsName);
         for (const LessonData &lesson : lessons)

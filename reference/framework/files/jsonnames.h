@@ -8,6 +8,7 @@ constexpr char formatText[] = "gliololok board";
 constexpr char versionName[] = "version";
 constexpr char pageCountName[] = "pageCount";
 constexpr char lessonCountName[] = "lessonCount";
+constexpr char assetsName[] = "assets";
 constexpr char lessonsName[] = "lessons";
 constexpr char pagesName[] = "pages";
 

@@ -1,5 +1,7 @@
 #include <files/jsonsalvage.h>
 
+#include <pagehost/assetstore.h>
+
 #include <files/jsonnames.h>
 #include <files/jsonscan.h>
 
@@ -91,7 +93,8 @@ qint64 JsonSalvage::readNext(qint64 from, qint64 to)
     const bool isMember = cursor.takeKey(key);
     const bool isOfPage = m_isOwnLayout && isFirstOnLine(from, pageMemberIndentation);
     const bool isOfDocument = m_isOwnLayout && isFirstOnLine(from, memberIndentation);
-    const bool isPlaced = !m_isOwnLayout || isOfPage || isOfDocument || !isFirstOnLine(from, -1);
+    const bool isPlaced =
+        !m_isOwnLayout || isOfPage || isOfDocument || !isFirstOnLine(from, -1) || AssetStore::isKey(key);
     cursor.peek();
     const qint64 valueEnd = isMember && isPlaced ? endOfValue(cursor.offset(), to) : -1;
     if (valueEnd >= 0) {
@@ -101,6 +104,9 @@ qint64 JsonSalvage::readNext(qint64 from, qint64 to)
         return valueEnd;
     }
     if (isMember && isArrayOfMarks(key) && cursor.peek() == '[')
+        return cursor.offset();
+    // Each asset is read by itself.
+    if (isMember && key == assetsName && cursor.take('{'))
         return cursor.offset();
     const int indentation = isOfPage ? pageMemberIndentation : memberIndentation;
     const qint64 end = isMember && (isOfPage || isOfDocument) ? endOfBroken(from, to, indentation)

@@ -9,6 +9,7 @@
 
 #include <files/chunks.h>
 #include <files/documentcodec.h>
+#include <files/objecttexts.h>
 #include <files/placeholderobject.h>
 #include <host/hoststate.h>
 #include <host/objectreading.h>
@@ -122,6 +123,7 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) cons
     if (!object || record.encoding > ObjectRecord::Json)
         return nullptr;
     const ObjectReading reading(*object, page);
+    giveTexts(*object, record, page);
     bool loaded = false;
     m_registry.run(record.kindId, QStringLiteral("load()"), [&] {
         loaded = record.encoding == ObjectRecord::Stream ? loadFromStream(object.get(), record.data)
@@ -135,6 +137,35 @@ CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) cons
         object->setLocked(record.place->locked);
     }
     return object.release();
+}
+
+/// Each object gets copies: damaged data that name everything must not take for ever.
+void ObjectFactory::giveTexts(CBaseObject &object, const ObjectRecord &record, IPsPage *page) const
+{
+    constexpr qint64 mostBytes = 1 << 30;
+    const auto *document = page ? dynamic_cast<const Document *>(page->document()) : nullptr;
+    const AssetStore &assets = document ? document->assets() : m_assets;
+    if (assets.isEmpty())
+        return;
+    QMap<QByteArray, QByteArray> texts;
+    const QSet<QByteArray> keys = AssetStore::keysIn(record.data);
+    for (const QByteArray &key : keys) {
+        if (!assets.contains(key) || m_given > mostBytes)
+            continue;
+        const QByteArray contents = assets.contents(key);
+        m_given += contents.size();
+        texts.insert(key, contents);
+    }
+    if (!texts.isEmpty())
+        m_registry.run(record.kindId, QStringLiteral("SetSpecialProperty()"), [&] { tellTexts(object, texts); });
+}
+
+/// False for an object that is made of other texts than its data name.
+bool ObjectFactory::isOfSavedTexts(CBaseObject &object, const ObjectRecord &record) const
+{
+    const QList<QByteArray> needed = textsOf(object).keys();
+    return needed.isEmpty() ||
+           AssetStore::keysIn(record.data).contains(QSet<QByteArray>(needed.begin(), needed.end()));
 }
 
 /// Objects keep pictures of themselves: a few bytes of damage must not ask for more memory than there is.
@@ -170,12 +201,15 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page,
         reason.textKey = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
         return nullptr;
     }
-    if (!m_registry.hasKind(record.kindId))
+    if (!m_registry.canMake(record.kindId))
         return refuse(QStringLiteral("IDS_FILE_OBJECT_UNKNOWN"));
     if (!hasRoomFor(record))
         return refuse(QStringLiteral("IDS_FILE_OBJECT_TOO_LARGE"));
     CBaseObject *object = load(record, page);
-    return object ? object : refuse(QStringLiteral("IDS_FILE_OBJECT_BROKEN"));
+    if (object)
+        return object;
+    return refuse(m_registry.hasKind(record.kindId) ? QStringLiteral("IDS_FILE_OBJECT_BROKEN")
+                                                    : QStringLiteral("IDS_FILE_OBJECT_UNKNOWN"));
 }
 
 /// False when the file says more of the object than it saves itself: the names of members may be damaged.
@@ -201,6 +235,9 @@ CBaseObject *ObjectFactory::make(const ObjectRecord &record, IPsPage *page, File
         object = new PlaceholderObject(record);
     } else if (!knowsAllMembers(object, record)) {
         message.textKey = QStringLiteral("IDS_FILE_OBJECT_MEMBERS");
+        message.arguments = QStringList{record.kindId};
+    } else if (!isOfSavedTexts(*object, record)) {
+        message.textKey = QStringLiteral("IDS_FILE_OBJECT_VERSION");
         message.arguments = QStringList{record.kindId};
     }
     setObjectId(object, record.id);

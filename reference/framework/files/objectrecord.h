@@ -1,5 +1,6 @@
 #pragma once
 
+#include <pagehost/assetstore.h>
 #include <pagehost/documentfile.h>
 
 #include <QtCore/QByteArray>
@@ -58,6 +59,8 @@ public:
         : m_registry(registry)
     {
     }
+    /// Of objects without a page, whose document has others.
+    void setAssets(const AssetStore &assets) { m_assets = assets; }
 
     /// Never null: what cannot be made is a placeholder, and `message` gets its text. The caller owns the object.
     /// It knows `page`, where that is not null, while it is read, and stands on none afterwards.
@@ -66,10 +69,14 @@ public:
 private:
     CBaseObject *tryToMake(const ObjectRecord &record, IPsPage *page, FileMessage &reason) const;
     CBaseObject *load(const ObjectRecord &record, IPsPage *page) const;
+    void giveTexts(CBaseObject &object, const ObjectRecord &record, IPsPage *page) const;
+    bool isOfSavedTexts(CBaseObject &object, const ObjectRecord &record) const;
     bool hasRoomFor(const ObjectRecord &record) const;
     bool knowsAllMembers(CBaseObject *object, const ObjectRecord &record) const;
 
     const ObjectRegistry &m_registry;
+    AssetStore m_assets;
+    mutable qint64 m_given = 0;                      ///< bytes of the texts that objects were given so far
     mutable double m_area = 0;                       ///< of the objects made so far, item units squared
     mutable QHash<QString, QSet<QString>> m_members; ///< that objects of each kind have saved as JSON so far
 };

@@ -24,6 +24,7 @@ constexpr Entry entries[] = {
     // Steps of this host
     {"IDS_UNDO_ADD_OBJECTS", "Add", "Hinzufügen"},
     {"IDS_UNDO_REMOVE_OBJECTS", "Delete", "Löschen"},
+    {"IDS_UNDO_SHAPE_VERSION", "Update shape", "Form aktualisieren"},
     {"IDS_UNDO_STACKING", "Change order", "Reihenfolge ändern"},
     {"IDS_UNDO_MOVE", "Move", "Verschieben"},
     {"IDS_UNDO_RESIZE", "Resize", "Größe ändern"},
@@ -74,12 +75,19 @@ constexpr Entry entries[] = {
      "Die Datei ist hier beschädigt, war aber lesbar."},
     {"IDS_FILE_LESSON_DAMAGED", "The lesson \"%1\" is damaged; it is kept as it is and plays up to the damage.",
      "Die Lektion „%1“ ist beschädigt; sie bleibt, wie sie ist, und läuft bis zum Schaden."},
+    {"IDS_FILE_ASSET_DAMAGED", "The text of a shape is damaged or too large.",
+     "Der Text einer Form ist beschädigt oder zu groß."},
     {"IDS_FILE_PAGE_DAMAGED", "Size or background of the page cannot be read.",
      "Größe oder Hintergrund der Seite sind nicht lesbar."},
     {"IDS_FILE_OBJECT_BROKEN", "An object of the kind \"%1\" cannot be read; a placeholder keeps it.",
      "Ein Objekt der Art „%1“ ist nicht lesbar; ein Platzhalter bewahrt es auf."},
     {"IDS_FILE_OBJECT_UNKNOWN", "No plug-in knows the kind \"%1\"; a placeholder keeps the object.",
      "Kein Plug-in kennt die Art „%1“; ein Platzhalter bewahrt das Objekt auf."},
+    {"IDS_FILE_OBJECT_VERSION",
+     "An object of the kind \"%1\" is drawn with another version of its shape than it was saved with.",
+     "Ein Objekt der Art „%1“ wird mit einer anderen Fassung seiner Form gezeichnet als der, mit der es "
+     "gespeichert "
+     "wurde."},
     {"IDS_FILE_OBJECT_TOO_LARGE", "An object of the kind \"%1\" is too large to be shown; a placeholder keeps it.",
      "Ein Objekt der Art „%1“ ist zu groß, um es zu zeigen; ein Platzhalter bewahrt es auf."},
     {"IDS_FILE_OBJECT_DAMAGED", "An object was damaged and may not look as it did.",

@@ -137,6 +137,7 @@ CBaseObject *LessonPlayer::advance(qint64 time)
 void LessonPlayer::showStart()
 {
     auto stage = std::make_unique<LessonStage>(m_registry);
+    stage->document()->assets() = m_assets;
     for (const LessonStep &step : qAsConst(m_lesson.start))
         stage->perform(step);
     m_highlighted = nullptr;

@@ -7,6 +7,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
+#include <files/objecttexts.h>
 #include <host/baseobject.h>
 #include <host/objectpage.h>
 #include <host/saveddata.h>
@@ -28,6 +29,7 @@ LessonRecording::LessonRecording(Document *document, const ObjectRegistry *regis
     connect(&m_turn, &QTimer::timeout, this, &LessonRecording::settleIdle);
     followZoom(*document);
     m_lesson.start = appearanceOf(*document, [this](CBaseObject *object) { return numberOf(object); });
+    m_rehearsal.document()->assets() = document->assets();
     for (const LessonStep &step : qAsConst(m_lesson.start))
         m_rehearsal.perform(step);
     const QVector<Page *> pages = document->pages();
@@ -183,6 +185,8 @@ void LessonRecording::noteZoom()
 
 void LessonRecording::catchUp()
 {
+    if (m_document)
+        m_rehearsal.document()->assets() = m_document->assets();
     for (; m_rehearsed < m_lesson.events.size(); ++m_rehearsed)
         m_rehearsal.perform(m_lesson.events[m_rehearsed].step);
 }
@@ -203,6 +207,7 @@ void LessonRecording::compare(quint32 number, CBaseObject *object)
     if (!object || !rehearsed || pageIndexOf(*object) < 0)
         return;
     if (savedData(*rehearsed) != savedData(*object)) {
+        keepTextsOf(*object, m_document->assets());
         append(ObjectSettled{number, recordOf(object)});
         catchUp();
     }
@@ -211,8 +216,10 @@ void LessonRecording::compare(quint32 number, CBaseObject *object)
 quint32 LessonRecording::numberOf(CBaseObject *object)
 {
     Numbered &entry = m_numbers[object];
-    if (entry.object != object)
+    if (entry.object != object) {
         entry = {object, ++m_lastNumber};
+        keepTextsOf(*object, m_document->assets());
+    }
     return entry.number;
 }
 

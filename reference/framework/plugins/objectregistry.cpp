@@ -6,6 +6,7 @@
 
 #include <plugins/guarded.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonObject>
@@ -71,7 +72,12 @@ ObjectRegistry::ObjectRegistry(Localizer *localizer)
 {
 }
 
-ObjectRegistry::~ObjectRegistry() = default;
+ObjectRegistry::~ObjectRegistry()
+{
+    for (const Source &source : qAsConst(m_sources))
+        if (source.kinds)
+            source.kinds->setKindsListener({});
+}
 
 QVector<PluginReport> ObjectRegistry::loadDirectory(const QString &path)
 {
@@ -139,14 +145,16 @@ PluginReport ObjectRegistry::addPlugin(ObjectPlugin *plugin, const QString &name
 /// The report is in the list from the start, where every problem is added to it.
 PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
 {
-    const Source source{plugin, m_reports.size()};
+    Source source{plugin, m_reports.size(), nullptr, {}};
     m_reports.append(report);
     TextTable english;
     QVector<ObjectKind> offered;
     if (!run(source, QStringLiteral("texts(\"en\")"), [&] { english = plugin->texts(QStringLiteral("en")); }) ||
         !run(source, QStringLiteral("objectKinds()"), [&] { offered = plugin->objectKinds(); }))
         return m_reports.at(source.report);
-    if (english.isEmpty()) {
+    source.kinds = dynamic_cast<KindSource *>(plugin);
+    // Files may bring kinds and their texts later.
+    if (english.isEmpty() && !source.kinds) {
         addProblem(source, QStringLiteral("it has no English texts"));
         return m_reports.at(source.report);
     }
@@ -154,8 +162,24 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
         addProblem(source, QStringLiteral("it offers more than %1 kinds of object").arg(mostKinds));
         return m_reports.at(source.report);
     }
+    if (source.kinds)
+        followKinds(source);
+    takeKinds(source, offered, english);
     PluginReport &told = m_reports[source.report];
-    for (const ObjectKind &kind : qAsConst(offered)) {
+    if (told.kindIds.isEmpty() && !source.kinds) {
+        pagehost::addProblem(told, QStringLiteral("it offers no kind of object that can be used"));
+        return told;
+    }
+    told.loaded = true;
+    m_sources.append(source);
+    mergeTexts(source);
+    return m_reports.at(source.report);
+}
+
+void ObjectRegistry::takeKinds(const Source &source, const QVector<ObjectKind> &offered, const TextTable &english)
+{
+    PluginReport &told = m_reports[source.report];
+    for (const ObjectKind &kind : offered) {
         const QString problem = kindProblem(kind, english);
         if (!problem.isEmpty()) {
             pagehost::addProblem(told, problem);
@@ -165,14 +189,61 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
         m_plugins.insert(kind.id, source);
         told.kindIds.append(kind.id);
     }
-    if (told.kindIds.isEmpty()) {
-        pagehost::addProblem(told, QStringLiteral("it offers no kind of object that can be used"));
-        return told;
-    }
-    told.loaded = true;
-    m_sources.append(source);
+}
+
+void ObjectRegistry::followKinds(Source &source)
+{
+    run(source, QStringLiteral("kindFamily()"), [&] {
+        source.family = source.kinds->kindFamily();
+        if (!m_folders.isEmpty())
+            source.kinds->addFolders(m_folders);
+        source.kinds->setKindsListener(
+            [this, plugin = source.plugin](KindSource::Change change) { refresh(plugin, change); });
+    });
+}
+
+/// All kinds of the plug-in stand behind those of others from then on.
+void ObjectRegistry::refresh(ObjectPlugin *plugin, KindSource::Change change)
+{
+    const auto found = std::find_if(m_sources.begin(), m_sources.end(),
+                                    [&](const Source &source) { return source.plugin == plugin; });
+    if (found == m_sources.end())
+        return;
+    const Source source = *found;
     mergeTexts(source);
-    return m_reports.at(source.report);
+    if (change == KindSource::TextsChanged)
+        return;
+    QVector<ObjectKind> offered;
+    TextTable english;
+    run(source, QStringLiteral("objectKinds()"), [&] {
+        offered = plugin->objectKinds();
+        english = plugin->texts(QStringLiteral("en"));
+    });
+    const auto isOfPlugin = [&](const ObjectKind &kind) { return m_plugins.value(kind.id).plugin == plugin; };
+    m_kinds.erase(std::remove_if(m_kinds.begin(), m_kinds.end(), isOfPlugin), m_kinds.end());
+    for (const QString &id : qAsConst(m_reports[source.report].kindIds))
+        m_plugins.remove(id);
+    m_reports[source.report].kindIds.clear();
+    takeKinds(source, offered, english);
+    if (m_kindsListener)
+        m_kindsListener();
+}
+
+QStringList ObjectRegistry::faults() const
+{
+    QStringList faults;
+    for (const Source &source : m_sources)
+        if (source.kinds)
+            run(source, QStringLiteral("faults()"), [&] { faults += source.kinds->faults(); });
+    return faults;
+}
+
+void ObjectRegistry::addFolders(const QStringList &folders)
+{
+    m_folders += folders;
+    for (const Source &source : qAsConst(m_sources))
+        if (source.kinds)
+            run(source, QStringLiteral("addFolders()"), [&] { source.kinds->addFolders(folders); });
 }
 
 bool ObjectRegistry::run(const QString &kindId, const QString &operation, const std::function<void()> &work) const
@@ -203,7 +274,14 @@ void ObjectRegistry::addProblem(const Source &source, const QString &problem) co
 
 ObjectRegistry::Source ObjectRegistry::sourceOf(const QString &kindId) const
 {
-    return m_plugins.value(kindId, {nullptr, -1});
+    const auto found = m_plugins.constFind(kindId);
+    if (found != m_plugins.constEnd())
+        return *found;
+    const auto isOfFamily = [&](const Source &source) {
+        return !source.family.isEmpty() && kindId.startsWith(source.family);
+    };
+    const auto family = std::find_if(m_sources.begin(), m_sources.end(), isOfFamily);
+    return family == m_sources.end() ? Source{nullptr, -1, nullptr, {}} : *family;
 }
 
 QString ObjectRegistry::kindProblem(const ObjectKind &kind, const TextTable &english) const
@@ -260,6 +338,7 @@ CBaseObject *ObjectRegistry::taken(const Source &source, const QString &operatio
     }
     object->setData(givenData, true);
     setKindId(object, kindId);
+    run(source, QStringLiteral("SetSpecialProperty()"), [&] { tellTexts(*object, {}); });
     return object;
 }
 
@@ -296,6 +375,15 @@ QByteArray ObjectRegistry::dataOf(CBaseObject *object, const QString &mimeType) 
     if (source.plugin)
         run(source, quoted("dataOf", mimeType), [&] { data = source.plugin->dataOf(object, mimeType); });
     return data;
+}
+
+void tellTexts(CBaseObject &object, const QMap<QByteArray, QByteArray> &texts)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << texts;
+    QDataStream in(bytes);
+    object.SetSpecialProperty(KnownTexts, in, false);
 }
 
 QString versionProblem(const QString &builtAgainst, const QString &present)

@@ -43,6 +43,11 @@ FRAMEWORK_EXPORT bool resizeObject(CBaseObject *object, const QSizeF &size);
 FRAMEWORK_EXPORT bool mirrorObjects(const QVector<CBaseObject *> &objects, bool horizontally);
 FRAMEWORK_EXPORT bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked);
 
+/// Whether an object is made of the present version of the file that it comes from; true for objects of no file.
+FRAMEWORK_EXPORT bool isPresentVersion(CBaseObject &object);
+/// Makes objects be of the present version of their files.
+FRAMEWORK_EXPORT bool updateVersion(const QVector<CBaseObject *> &objects);
+
 FRAMEWORK_EXPORT bool setPageBackground(Page *page, const CPageBgProp &background);
 /// Fills objects with any fill, pictures and gradients included; plain colours go through pagehost/style.h.
 FRAMEWORK_EXPORT bool setObjectsFill(const QVector<CBaseObject *> &objects, const CPageBgProp &fill);

@@ -3,6 +3,7 @@
 #include <framework/framework_global.h>
 #include <framework/idocument.h>
 
+#include <pagehost/assetstore.h>
 #include <pagehost/extradata.h>
 
 #include <QtCore/QByteArray>
@@ -123,6 +124,9 @@ public:
     /// yet a lesson of the document. Without data there is none.
     void setUnfinishedLesson(const LessonData &lesson);
     QVector<LessonData> lessonsToSave() const;
+    /// Whatever objects and lessons have named so far; files hold what they name when they are written.
+    AssetStore &assets() { return m_assets; }
+    const AssetStore &assets() const { return m_assets; }
     ExtraData extraData() const { return m_extraData; }
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
     /// @}
@@ -159,6 +163,7 @@ private:
     QHash<Page *, int> m_retained;
     QVector<LessonData> m_lessons;
     LessonData m_unfinishedLesson;
+    AssetStore m_assets;
     ExtraData m_extraData;
     bool m_modified = false;
     bool m_changedBySteps = false;     ///< the undo stack is not where it was at markSaved()

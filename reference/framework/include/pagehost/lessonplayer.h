@@ -1,5 +1,6 @@
 #pragma once
 
+#include <pagehost/assetstore.h>
 #include <pagehost/lesson.h>
 #include <pagehost/lessonclock.h>
 #include <pagehost/pagescene.h>
@@ -37,6 +38,8 @@ public:
     /// Sets the source of time from the next setLesson() on.
     void setTimeSource(const MillisecondSource &source) { m_source = source; }
 
+    /// The assets that lessons from the next setLesson() on name: those of the document that holds them.
+    void setAssets(const AssetStore &assets) { m_assets = assets; }
     /// Stops, and shows the start of this lesson in a new document.
     void setLesson(const Lesson &lesson);
     const Lesson &lesson() const { return m_lesson; }
@@ -79,6 +82,7 @@ private:
     MillisecondSource m_source;
     LessonClock m_clock;
     QTimer m_timer;
+    AssetStore m_assets;
     Lesson m_lesson;
     std::unique_ptr<LessonStage> m_stage;
     int m_played = 0; ///< events that have happened

@@ -9,6 +9,8 @@
 #include <QtCore/QVector>
 #include <QtCore/QtPlugin>
 
+#include <functional>
+
 class CBaseObject;
 
 namespace pagehost {
@@ -40,7 +42,19 @@ enum SpecialProperty {
     /// editing aids while it is selected. Read when size, look or selection have changed. Without the property the
     /// host
     /// uses the region and a margin around the client rectangle.
-    PaintedArea = 2902
+    PaintedArea = 2902,
+    /// QMap<QByteArray, QByteArray>, read only: the texts that the object is made of beside its saved data, such as
+    /// the file that declares a shape, by the first 32 hexadecimal digits of their SHA-256. The object names each
+    /// of
+    /// these keys in its data. The host asks for them before it saves the object, and keeps them with the document.
+    NeededTexts = 2903,
+    /// The same, write only, of an object that nothing has been read into yet: the texts that its data name. The
+    /// host tells every new object, if only of no text: an object that has been told leaves its texts to the host,
+    /// any other one saves them itself.
+    KnownTexts = 2904,
+    /// bool: whether the object is made of the present version of the file that it comes from, which may have
+    /// changed since. Setting it to true makes it so, as an undo step of its own; setting it to false does nothing.
+    IsPresentVersion = 2905
 };
 
 /// Texts by localisation key.
@@ -92,6 +106,28 @@ public:
         return {};
     }
     /// @}
+};
+
+/// A plug-in whose kinds come from files.
+class KindSource
+{
+public:
+    enum Change {
+        TextsChanged, ///< texts() has further ones
+        KindsChanged  ///< kinds, their looks, texts or faults have changed
+    };
+    using Listener = std::function<void(Change change)>;
+
+    virtual ~KindSource() = default;
+    /// With what the ids of all its kinds begin ("declared."). The plug-in makes an object of any such id, on offer
+    /// or not: what it is like may come with KnownTexts.
+    virtual QString kindFamily() const = 0;
+    /// `listener` is notified of every change; an empty one of none.
+    virtual void setKindsListener(const Listener &listener) = 0;
+    /// Files that cannot be used, a line each, in English for people: "star.shape.svg:14:22: error C20: ...".
+    virtual QStringList faults() const = 0;
+    /// Looks for files in further folders, before all others.
+    virtual void addFolders(const QStringList &folders) = 0;
 };
 
 } // namespace pagehost

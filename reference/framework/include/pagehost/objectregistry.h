@@ -52,9 +52,18 @@ public:
     /// Called with a loaded plug-in whose report has got another problem.
     void setProblemListener(const std::function<void(const PluginReport &)> &listener) { m_listener = listener; }
 
+    /// Called when the kinds of a plug-in that come from files have changed: others, other looks, other faults.
+    void setKindsListener(const std::function<void()> &listener) { m_kindsListener = listener; }
+    /// Of files that cannot be used (KindSource::faults()).
+    QStringList faults() const;
+    /// Folders in which plug-ins look for files first, those that are loaded later, too.
+    void addFolders(const QStringList &folders);
+
     /// All kinds, in order of registration.
     QVector<ObjectKind> kinds() const { return m_kinds; }
     bool hasKind(const QString &kindId) const { return m_plugins.contains(kindId); }
+    /// Whether an object of that kind can be made, which may be on offer no more.
+    bool canMake(const QString &kindId) const { return sourceOf(kindId).plugin != nullptr; }
     /// A kind with an empty id when it is unknown.
     ObjectKind kind(const QString &kindId) const;
     /// A new object in the creating state, tagged with its kind; null when the kind is unknown or its plug-in
@@ -77,11 +86,16 @@ public:
 private:
     struct Source
     {
-        ObjectPlugin *plugin;
-        int report; ///< its index in m_reports
+        ObjectPlugin *plugin = nullptr;
+        int report = -1;             ///< its index in m_reports
+        KindSource *kinds = nullptr; ///< null for plug-ins whose kinds never change
+        QString family;              ///< KindSource::kindFamily(); empty for other plug-ins
     };
 
     PluginReport load(const QString &file, PluginReport report);
+    void takeKinds(const Source &source, const QVector<ObjectKind> &offered, const TextTable &english);
+    void followKinds(Source &source);
+    void refresh(ObjectPlugin *plugin, KindSource::Change change);
     PluginReport add(ObjectPlugin *plugin, PluginReport report);
     QString kindProblem(const ObjectKind &kind, const TextTable &english) const;
     bool hasLoaded(const QString &file) const;
@@ -95,10 +109,15 @@ private:
     Localizer *m_localizer;
     mutable QVector<PluginReport> m_reports;
     std::function<void(const PluginReport &)> m_listener;
+    std::function<void()> m_kindsListener;
+    QStringList m_folders;
     QVector<ObjectKind> m_kinds;
     QVector<Source> m_sources;        ///< every plug-in in use, in order of registration
     QHash<QString, Source> m_plugins; ///< by kind id
 };
+
+/// Tells a new object of texts by key (KnownTexts).
+FRAMEWORK_EXPORT void tellTexts(CBaseObject &object, const QMap<QByteArray, QByteArray> &texts);
 
 /// Why a plug-in built against one version of the library cannot be used with another, in English for people; empty
 /// when it can: the major versions are the same, and the plug-in's is no newer. A plug-in without a version is
