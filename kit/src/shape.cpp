@@ -347,6 +347,15 @@ void Shape::pointMoved(int number, QPointF centre)
     m_places[number - 1] = {centre, size()};
 }
 
+void Shape::inheritPoints(const Shape &former)
+{
+    for (int i = 0; i < std::min(m_places.size(), former.m_places.size()); ++i)
+        m_places[i] = former.m_places.at(i);
+    m_dragged = former.m_dragged;
+    placeControlPoints();
+    redraw(false);
+}
+
 QPointF Shape::wantedPoint(int number)
 {
     return m_places.value(number - 1)

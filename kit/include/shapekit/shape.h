@@ -78,6 +78,8 @@ protected:
     /// The position of a control point without limits: where it was put, following the size.
     virtual QPointF wantedPoint(int number);
     void propertyChanged(const Property *property) override;
+    /// Puts the points where those of a shape were put that this one takes the place of, as far as it had them.
+    void inheritPoints(const Shape &former);
     QRectF drawnArea() override;
     /// @}
 

@@ -1,5 +1,6 @@
 #include <declared/core/declaredshape.h>
 
+#include <declared/core/savedtext.h>
 #include <declared/reader/filelimits.h>
 
 #include <svgobj/csvgobj.h>
@@ -17,21 +18,24 @@ namespace declared {
 
 namespace {
 
-/// A shape that the page object fills, and one that its document fills.
-constexpr int pageFilledType = 24;
-constexpr int shapeFilledType = 1024;
 /// The page object paints its fill for this type whatever the template says.
 constexpr int externallyFilledType = 1000;
 /// Where nothing limits a drag.
 constexpr double farAway = 1e6;
 constexpr int presentForm = 1;
-const QString declaredKey = QStringLiteral("SVG_Declared");
+const QLatin1String savedKey(declaredKey);
+// Of the library, in the JSON of every shape.
+const QString controlCountKey = QStringLiteral("SVG_ControlCount");
+const QString viewBoxKey = QStringLiteral("SVG_viewBox");
+const QString cornerKeys = QStringLiteral("SVG_Pos");
+const QStringList knownMembers{QStringLiteral("form"), QStringLiteral("id"), QStringLiteral("text"),
+                               QStringLiteral("inline"), QStringLiteral("values")};
 
 int typeOf(const Declaration &declaration)
 {
     if (declaration.isSuccessor())
         return declaration.type;
-    return declaration.filling == Filling::Page ? pageFilledType : shapeFilledType;
+    return declaration.filling == Filling::Page ? DeclaredShape::pageFilledType : DeclaredShape::shapeFilledType;
 }
 
 /// The number that a whole or real one stands for; whole ones take the nearest.
@@ -257,6 +261,57 @@ void DeclaredShape::pointMoved(int number, QPointF centre)
     Shape::pointMoved(point.mirrored, m_state.mirrored(point, centre));
 }
 
+bool DeclaredShape::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    const bool isDragged = Shape::mouseReleaseEvent(event);
+    m_mayHaveUndoSteps = m_mayHaveUndoSteps || isDragged;
+    return isDragged;
+}
+
+bool DeclaredShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
+{
+    m_mayHaveUndoSteps = m_mayHaveUndoSteps || addUndo;
+    return Shape::setInnerProperty(propId, in, record, addUndo);
+}
+
+bool DeclaredShape::DoPlaybackActionEx(int actionId, QDataStream &in)
+{
+    if (m_replay && (m_isRetired || actionId == versionAction))
+        return m_replay(actionId, in);
+    return Shape::DoPlaybackActionEx(actionId, in);
+}
+
+void DeclaredShape::retire()
+{
+    m_isRetired = true;
+    stopAnimate();
+}
+
+void DeclaredShape::takeOver(DeclaredShape &former)
+{
+    QJsonObject state;
+    saveJson(state);
+    const bool isSizedAlike = former.resizeRewritesSVG == resizeRewritesSVG;
+    QJsonObject before;
+    former.saveJson(before);
+    const QJsonValue count = state.value(controlCountKey);
+    const QJsonValue box = state.value(viewBoxKey);
+    for (auto member = before.begin(); member != before.end(); ++member)
+        if (isSizedAlike || !member.key().startsWith(cornerKeys))
+            state[member.key()] = *member;
+    state[controlCountKey] = count;
+    if (!isSizedAlike)
+        state[viewBoxKey] = box;
+    loadJson(state);
+    if (isSizedAlike)
+        inheritPoints(former);
+    if (resizeRewritesSVG)
+        setSize(QSizeF(), owner->getClientRect().size());
+    document->setSelectionState(former.document->selectionState());
+    takePageFill();
+    m_isTextInlined = former.m_isTextInlined;
+}
+
 void DeclaredShape::draw()
 {
     updateState();
@@ -276,15 +331,22 @@ QJsonObject DeclaredShape::values() const
             isChoice ? QJsonValue(declared.entries.at(static_cast<const shapekit::Choice &>(property)))
                      : property.toJson();
     }
-    return {{QStringLiteral("form"), presentForm},
-            {QStringLiteral("id"), m_declaration.id},
-            {QStringLiteral("text"), m_declaration.hash},
-            {QStringLiteral("values"), values}};
+    QJsonObject saved = m_unknown;
+    saved[QStringLiteral("form")] = presentForm;
+    saved[QStringLiteral("id")] = m_declaration.id;
+    saved[QStringLiteral("text")] = m_declaration.hash;
+    saved[QStringLiteral("values")] = values;
+    if (m_isTextInlined)
+        saved[QStringLiteral("inline")] = inlined(m_declaration.text);
+    return saved;
 }
 
 /// Properties that are missing or unknown keep the value of a new shape.
 void DeclaredShape::takeValues(const QJsonObject &saved)
 {
+    m_unknown = saved;
+    for (const QString &member : knownMembers)
+        m_unknown.remove(member);
     const QJsonObject values = saved.value(QLatin1String("values")).toObject();
     for (int i = 0; i < m_declaration.properties.size(); ++i) {
         const PropertyDeclaration &declared = m_declaration.properties.at(i);
@@ -330,7 +392,7 @@ void DeclaredShape::saveValues(QJsonObject &object)
     if (m_declaration.isSuccessor())
         Shape::saveValues(object);
     else
-        object[declaredKey] = values();
+        object[savedKey] = values();
 }
 
 void DeclaredShape::loadValues(const QJsonObject &object)
@@ -338,7 +400,7 @@ void DeclaredShape::loadValues(const QJsonObject &object)
     if (m_declaration.isSuccessor())
         Shape::loadValues(object);
     else
-        takeValues(object.value(declaredKey).toObject());
+        takeValues(object.value(savedKey).toObject());
 }
 
 } // namespace declared

@@ -5,6 +5,9 @@
 
 #include <shapekit/shape.h>
 
+#include <QtCore/QJsonObject>
+
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -13,15 +16,43 @@ namespace declared {
 /// A shape that a file declares: its points, properties and figure are what the file's expressions say.
 ///
 /// Behind the data of every shape it saves one JSON object under "SVG_Declared": "form" 1, the "id" of the shape,
-/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry. A
-/// shape that succeeds a coded one saves what that one saved.
+/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry; for
+/// hosts that keep no texts also the text itself. Other members stay. A shape that succeeds a coded one saves what
+/// that one saved.
 class DeclaredShape : public shapekit::Shape
 {
 public:
+    /// Type numbers of a shape that the page object fills, and of one that its document fills.
+    static constexpr int pageFilledType = 24;
+    static constexpr int shapeFilledType = 1024;
+    /// Action of undo steps and lessons in which the page object becomes one of another text. Its data are the JSON
+    /// of the core, whose "SVG_Declared" names the text. Lies below the ids of properties.
+    static constexpr int versionAction = 1048574;
+
     /// `kind` outlives the shape.
     DeclaredShape(CSVGObj *owner, const ShapeKind &kind);
 
+    const ShapeKind &shapeKind() const { return m_kind; }
+    /// Whether the file's text is saved with the shape, which it is unless the host keeps it.
+    void setTextInlined(bool inlined) { m_isTextInlined = inlined; }
+    /// Takes the place of a shape that another text declares: points by number, properties by name.
+    void takeOver(DeclaredShape &former);
+    /// Receives versionAction, and after retire() everything that is replayed.
+    using Replay = std::function<bool(int actionId, QDataStream &in)>;
+    void setReplay(const Replay &replay) { m_replay = replay; }
+    /// Another core is the present one of the page object from now on.
+    void retire();
+    /// Becomes the present core again.
+    void resume() { m_isRetired = false; }
+    /// False as long as no undo step can refer to the shape.
+    bool isDragged() const { return activeControlPoint != nullptr; }
+    bool mayHaveUndoSteps() const { return m_mayHaveUndoSteps; }
+    void noteUndoStep() { m_mayHaveUndoSteps = true; }
+
     QString getSVG() override;
+    bool mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
+    bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
     QRectF paintedArea() override;
@@ -71,6 +102,11 @@ private:
 
     const ShapeKind &m_kind;
     const Declaration &m_declaration;
+    QJsonObject m_unknown; ///< members that a newer version has saved
+    bool m_isTextInlined = true;
+    bool m_mayHaveUndoSteps = false;
+    bool m_isRetired = false;
+    Replay m_replay;
     ShapeState m_state;
     Figure m_figure;
     std::vector<std::unique_ptr<shapekit::Property>> m_values; ///< by index of the declared property

@@ -1,12 +1,13 @@
 #include <declared/plugin/declaredplugin.h>
 
+#include <declared/core/declaredobject.h>
 #include <declared/core/declaredshape.h>
 #include <declared/core/iconpicture.h>
-#include <declared/core/shapekind.h>
-#include <declared/plugin/shapefolders.h>
 
 #include <shapekit/shapeobject.h>
 #include <shapekit/styledshape.h>
+
+#include <algorithm>
 
 namespace shapekit {
 
@@ -26,35 +27,96 @@ const Kind &kind()
 namespace declared {
 
 DeclaredPlugin::DeclaredPlugin()
+    : m_library(std::make_shared<ShapeLibrary>())
+    , m_folders(shapeFolders())
 {
-    QStringList problems;
-    m_kinds = readFolders(shapeFolders(), problems);
-    for (const QString &problem : qAsConst(problems))
-        qWarning("%s", qPrintable(problem));
+    m_library->setListener([this] {
+        if (m_listener)
+            m_listener(TextsChanged);
+    });
+    connect(&m_watch, &ShapeWatch::changed, this, &DeclaredPlugin::reload);
+    read();
 }
 
-DeclaredPlugin::~DeclaredPlugin() = default;
+void DeclaredPlugin::read()
+{
+    m_faults.clear();
+    m_folders.removeDuplicates();
+    m_library->offer(readFolders(m_folders, m_faults, m_good));
+    m_watch.watch(m_folders);
+}
+
+void DeclaredPlugin::reload()
+{
+    const QVector<DeclaredObject *> objects = m_library->objects();
+    if (std::any_of(objects.begin(), objects.end(),
+                    [](const DeclaredObject *object) { return object->isDragged(); })) {
+        m_watch.tellLater();
+        return;
+    }
+    const ShapeLibrary::Kinds before = m_library->offered();
+    read();
+    followFiles(before);
+    if (m_listener)
+        m_listener(KindsChanged);
+}
+
+void DeclaredPlugin::followFiles(const ShapeLibrary::Kinds &before)
+{
+    for (const ShapeKind *former : before) {
+        const ShapeKind *present = m_library->offered(former->kind().id());
+        if (!present || present == former)
+            continue;
+        // Drawing an object may make and delete others.
+        const QVector<DeclaredObject *> objects = m_library->objects();
+        for (DeclaredObject *object : objects)
+            if (m_library->objects().contains(object) && &object->shapeKind() == former)
+                object->become(*present);
+    }
+}
+
+/// Objects may live on, and the library with them.
+DeclaredPlugin::~DeclaredPlugin()
+{
+    m_library->setListener({});
+}
+
+QString DeclaredPlugin::kindFamily() const
+{
+    return QStringLiteral("declared.");
+}
+
+void DeclaredPlugin::setKindsListener(const Listener &listener)
+{
+    m_listener = listener;
+}
+
+void DeclaredPlugin::addFolders(const QStringList &folders)
+{
+    m_folders = folders + m_folders;
+    reload();
+}
 
 QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const
 {
     QVector<pagehost::ObjectKind> kinds;
-    for (const auto &shape : m_kinds)
+    for (const ShapeKind *shape : m_library->offered())
         kinds.append({shape->kind().id(), shape->kind().nameKey(), shape->groupKey()});
     return kinds;
 }
 
 CBaseObject *DeclaredPlugin::createObject(const QString &kindId) const
 {
-    for (const auto &shape : m_kinds)
-        if (shape->kind().id() == kindId)
-            return new shapekit::ShapeObject(shape->kind());
-    return nullptr;
+    const ShapeKind *offered = m_library->offered(kindId);
+    return new DeclaredObject(m_library, offered ? *offered : m_library->blank());
 }
 
 pagehost::TextTable DeclaredPlugin::texts(const QString &language) const
 {
     pagehost::TextTable table;
-    for (const auto &shape : m_kinds) {
+    // Versions of one shape share keys; the one on offer comes last.
+    const ShapeLibrary::Kinds kinds = m_library->remembered() + m_library->offered();
+    for (const ShapeKind *shape : kinds) {
         const QMap<QString, QString> texts = shape->texts(language);
         for (auto text = texts.begin(); text != texts.end(); ++text)
             table.insert(text.key(), text.value());

@@ -1,19 +1,20 @@
 #pragma once
 
+#include <declared/plugin/shapefolders.h>
+#include <declared/plugin/shapewatch.h>
+
 #include <pagehost/objectplugin.h>
 
 #include <QtCore/QObject>
 
 #include <memory>
-#include <vector>
 
 namespace declared {
 
-class ShapeKind;
+class ShapeLibrary;
 
-/// The plug-in of all shapes that files declare: a kind per file. Files are read when the plug-in is loaded; what
-/// is wrong with one is told on the standard error stream.
-class DeclaredPlugin : public QObject, public pagehost::ObjectPlugin
+/// The plug-in of all shapes that files declare: a kind per file.
+class DeclaredPlugin : public QObject, public pagehost::ObjectPlugin, public pagehost::KindSource
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID PAGEHOST_OBJECTPLUGIN_IID)
@@ -29,8 +30,25 @@ public:
     /// SVG, and the icon for palettes.
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const override;
 
+    QString kindFamily() const override;
+    void setKindsListener(const Listener &listener) override;
+    QStringList faults() const override { return m_faults; }
+    void addFolders(const QStringList &folders) override;
+
+    /// Reads all files again. Objects that are made of what a file declared before follow it; not while the user
+    /// drags one of them.
+    void reload();
+
 private:
-    std::vector<std::unique_ptr<ShapeKind>> m_kinds;
+    void read();
+    void followFiles(const QVector<const ShapeKind *> &before);
+
+    std::shared_ptr<ShapeLibrary> m_library;
+    ShapeWatch m_watch;
+    GoodFiles m_good;
+    QStringList m_folders;
+    QStringList m_faults;
+    Listener m_listener;
 };
 
 } // namespace declared

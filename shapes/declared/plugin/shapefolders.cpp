@@ -56,18 +56,24 @@ QStringList shapeFolders()
     return folders;
 }
 
+QFileInfoList shapeFilesIn(const QString &folder)
+{
+    return QDir(folder).entryInfoList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
+}
+
 std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
-                                                    const QString &installed)
+                                                    GoodFiles &good, const QString &installed)
 {
     std::vector<std::unique_ptr<ShapeKind>> kinds;
     QSet<QString> ids;
     for (const QString &folder : folders) {
         if (folder.isEmpty())
             continue;
-        const QFileInfoList files =
-            QDir(folder).entryInfoList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
+        const QFileInfoList files = shapeFilesIn(folder);
         for (const QFileInfo &file : files) {
-            const SharedDeclaration declaration = readFile(file.absoluteFilePath(), problems);
+            SharedDeclaration &declaration = good[file.absoluteFilePath()];
+            if (const SharedDeclaration read = readFile(file.absoluteFilePath(), problems))
+                declaration = read;
             if (!declaration)
                 continue;
             if (declaration->isSuccessor() && folder != installed) {
@@ -95,6 +101,13 @@ std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, 
         }
     }
     return kinds;
+}
+
+std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
+                                                    const QString &installed)
+{
+    GoodFiles good;
+    return readFolders(folders, problems, good, installed);
 }
 
 } // namespace declared

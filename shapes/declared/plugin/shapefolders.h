@@ -1,7 +1,10 @@
 #pragma once
 
+#include <declared/reader/declaration.h>
 #include <declared/reader/message.h>
 
+#include <QtCore/QFileInfo>
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
 #include <memory>
@@ -18,8 +21,16 @@ QStringList shapeFolders();
 /// The folder beside the plug-in. Only its files may succeed coded shapes.
 QString installedFolder();
 
-/// All shapes of the files "*.shape.svg" in some folders. A file with a fault is left out, and one whose id is
-/// taken; `problems` gets a line for each.
+/// The files "*.shape.svg" of a folder, by name.
+QFileInfoList shapeFilesIn(const QString &folder);
+
+/// Declarations of files when they could be read last, by path.
+using GoodFiles = QHash<QString, SharedDeclaration>;
+
+/// All shapes of the files in some folders. A file with a fault counts as what `good` holds of it, else it is left
+/// out, as is one whose id is taken; `problems` gets a line for each.
+std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
+                                                    GoodFiles &good, const QString &installed = installedFolder());
 std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
                                                     const QString &installed = installedFolder());
 

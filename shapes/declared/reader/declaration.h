@@ -185,7 +185,8 @@ struct Declaration
     int slotCount = 0;
     int listCount = 1;
     QByteArray templateText; ///< plain SVG for the library
-    QString hash;            ///< of the file in one form
+    QByteArray text;         ///< the file in one form, which declares the same shape
+    QString hash;            ///< hashOf(text)
 };
 
 using SharedDeclaration = std::shared_ptr<const Declaration>;

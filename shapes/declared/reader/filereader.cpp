@@ -62,7 +62,8 @@ SharedDeclaration FileReader::read()
         return {};
     checkUse();
     m_shape.templateText = templateText();
-    m_shape.hash = hash();
+    m_shape.text = canonicalText();
+    m_shape.hash = hashOf(m_shape.text);
     return m_declaration;
 }
 

@@ -148,7 +148,7 @@ private:
 
     QByteArray templateText() const;
     QByteArray iconText(const Element &symbol) const;
-    QString hash() const;
+    QByteArray canonicalText() const;
     bool isLeftOut(const Element &element) const;
     QString paintOf(int index, const QString &paint) const;
     QStringList keptPaints(int index) const;

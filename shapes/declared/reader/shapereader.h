@@ -9,4 +9,7 @@ namespace declared {
 /// fault; `messages` says which, and what else is to be said. Nothing but the bytes is read.
 SharedDeclaration readShape(const QByteArray &bytes, const QString &name, QVector<Message> *messages = nullptr);
 
+/// The name of a text in documents: the first 32 hexadecimal digits of its SHA-256.
+QString hashOf(const QByteArray &canonicalText);
+
 } // namespace declared

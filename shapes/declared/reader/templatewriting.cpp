@@ -3,6 +3,7 @@
 #include <declared/reader/filereader.h>
 
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QXmlStreamWriter>
 
 #include <algorithm>
@@ -12,6 +13,7 @@ namespace declared {
 namespace {
 
 const QString linkNamespace = QStringLiteral("http://www.w3.org/1999/xlink");
+const QString xmlNamespace = QStringLiteral("http://www.w3.org/XML/1998/namespace");
 constexpr int hashDigits = 32;
 /// Template attributes of the kit, which files declare in another way.
 const QStringList attributesOfTheKit{QStringLiteral("keeps"), QStringLiteral("fill_follows"),
@@ -37,6 +39,18 @@ void writeAttribute(QXmlStreamWriter &writer, const SourceAttribute &attribute)
         writer.writeAttribute(attribute.name, attribute.value);
     else
         writer.writeAttribute(attribute.namespaceUri, attribute.name, attribute.value);
+}
+
+/// Blank space between elements is layout of the file; in texts it is drawn, as a single blank.
+QString canonicalCharacters(const SourceElement &element, const QString &characters)
+{
+    static const QStringList texts{QStringLiteral("text"), QStringLiteral("tspan"), QStringLiteral("textPath")};
+    static const QRegularExpression space(QStringLiteral("[ \\t\\r\\n]+"));
+    if (element.attribute(QStringLiteral("space"), xmlNamespace))
+        return characters;
+    if (!texts.contains(element.name) && characters.trimmed().isEmpty())
+        return {};
+    return QString(characters).replace(space, QStringLiteral(" "));
 }
 
 } // namespace
@@ -142,35 +156,48 @@ QByteArray FileReader::iconText(const Element &symbol) const
     return text;
 }
 
-/// Comments, blank space, the order of attributes, and what other programs have added make no difference.
+/// Comments, blank space around elements, the order of attributes, and what other programs have added make no
+/// difference. The result declares the same shape, whatever its file is called.
 void FileReader::writeCanonical(QXmlStreamWriter &writer, int index) const
 {
     const Element &element = m_elements.at(index);
-    writer.writeStartElement(element.namespaceUri == shapeNamespace ? QStringLiteral("shape.") + element.name
-                                                                    : element.name);
-    QMap<QString, QString> sorted;
-    for (const Attribute &attribute : element.attributes) {
-        const bool isOurs = attribute.namespaceUri == shapeNamespace;
-        if (isOurs || isWritten(attribute))
-            sorted.insert((isOurs ? QStringLiteral("shape.") : QString()) + attribute.name, attribute.value);
-    }
+    const bool isOurs = element.namespaceUri == shapeNamespace;
+    writer.writeStartElement(isOurs ? shapeNamespace : svgNamespace, element.name);
+    QMap<QPair<QString, QString>, QString> sorted; // by namespace and name
+    if (isShape(element, "about"))
+        sorted.insert({QString(), QStringLiteral("id")}, m_shape.id);
+    for (const Attribute &attribute : element.attributes)
+        if (attribute.namespaceUri == shapeNamespace || isWritten(attribute))
+            sorted.insert({attribute.namespaceUri, attribute.name}, attribute.value);
     for (auto attribute = sorted.constBegin(); attribute != sorted.constEnd(); ++attribute)
-        writer.writeAttribute(attribute.key(), attribute.value());
+        if (attribute.key().first.isEmpty())
+            writer.writeAttribute(attribute.key().second, attribute.value());
+        else
+            writer.writeAttribute(attribute.key().first, attribute.key().second, attribute.value());
     for (const SourceContent &content : element.contents)
-        if (content.element < 0 && !content.text.trimmed().isEmpty())
-            writer.writeCharacters(content.text.simplified());
-        else if (content.element >= 0 && (m_elements.at(content.element).namespaceUri == shapeNamespace ||
-                                          !isLeftOut(m_elements.at(content.element))))
+        if (content.element < 0)
+            writer.writeCharacters(canonicalCharacters(element, content.text));
+        else if (m_elements.at(content.element).namespaceUri == shapeNamespace ||
+                 !isLeftOut(m_elements.at(content.element)))
             writeCanonical(writer, content.element);
     writer.writeEndElement();
 }
 
-QString FileReader::hash() const
+QByteArray FileReader::canonicalText() const
 {
     QByteArray text;
     QXmlStreamWriter writer(&text);
+    writer.writeDefaultNamespace(svgNamespace);
+    writer.writeNamespace(shapeNamespace, QStringLiteral("shape"));
+    writer.writeNamespace(linkNamespace, QStringLiteral("xlink"));
     writeCanonical(writer, 0);
-    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().left(hashDigits));
+    return text;
+}
+
+QString hashOf(const QByteArray &canonicalText)
+{
+    const QByteArray hash = QCryptographicHash::hash(canonicalText, QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex().left(hashDigits));
 }
 
 } // namespace declared
