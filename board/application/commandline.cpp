@@ -25,6 +25,10 @@ struct Parser
     QCommandLineParser parser;
     QCommandLineOption plugins{"plugins", "Also load the shape plug-ins in <folder>. May be given more than once.",
                                "folder"};
+    QCommandLineOption shapes{"shapes",
+                              "Also look for shapes (NAME.shape.svg) in <folder>, before all others. May be "
+                              "given more than once.",
+                              "folder"};
     QCommandLineOption exportPages{"export",
                                    "Write the pages of the file, else of --demo, as pictures into <folder>, print "
                                    "their paths and stop. Replaces page-1.png, page-2.png ... that are there. "
@@ -53,7 +57,8 @@ struct Parser
         parser.addPositionalArgument("file", "The board to open.", "[file]");
         screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
         state.setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.addOptions({plugins, exportPages, format, scale, play, demo, language, dark, screenshot, state});
+        parser.addOptions(
+            {plugins, shapes, exportPages, format, scale, play, demo, language, dark, screenshot, state});
     }
 };
 
@@ -107,6 +112,7 @@ Options optionsOf(const Parser &p)
     Options options;
     options.action = actionOf(p);
     options.pluginFolders = p.parser.values(p.plugins);
+    options.shapeFolders = p.parser.values(p.shapes);
     options.file = p.parser.positionalArguments().value(0);
     options.exportsSvg = p.parser.value(p.format) == QLatin1String("svg");
     options.exportFolder = p.parser.value(p.exportPages);

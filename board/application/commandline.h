@@ -14,6 +14,7 @@ struct Options
     QString message;
     bool failed = false;
 
+    QStringList shapeFolders;
     QStringList pluginFolders; ///< additional ones, in the order given
     QString file;              ///< document to open; empty for none
     QString exportFolder;

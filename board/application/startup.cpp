@@ -74,6 +74,9 @@ void printProblems(const Workspace &workspace)
     const QVector<pagehost::PluginReport> problems = workspace.pluginProblems();
     for (const pagehost::PluginReport &report : problems)
         printProblem(report);
+    const QStringList faults = workspace.registry().faults();
+    for (const QString &fault : faults)
+        QTextStream(stderr) << fault << '\n';
     QObject::connect(&workspace, &Workspace::pluginProblemFound, &workspace, printProblem);
 }
 
@@ -156,6 +159,7 @@ int runBoard(int argc, char **argv)
     applyTheme(dark ? Theme::Dark : Theme::Light);
 
     Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
+    workspace.registry().addFolders(options.shapeFolders);
     // Before Qt speaks the user's language: problems are told in English throughout.
     workspace.loadPlugins(defaultPluginFolders() + options.pluginFolders);
     printProblems(workspace);

@@ -65,6 +65,13 @@ QVector<TextEntry> documentTexts()
          QT_TRANSLATE_NOOP("board", "The unsaved work could not be read completely.")},
         {"IDS_BOARD_AUTOSAVE_FAILED",
          QT_TRANSLATE_NOOP("board", "The changes could not be put aside in case of a crash.")},
+        {"IDS_BOARD_SHAPE_FAULTS", QT_TRANSLATE_NOOP("board", "Files of shapes that cannot be used")},
+        {"IDS_BOARD_SHAPE_VERSION",
+         QT_TRANSLATE_NOOP("board", "A shape on the pages is of another version than its file has now.")},
+        {"IDS_BOARD_SHAPE_VERSIONS",
+         QT_TRANSLATE_NOOP("board", "%1 shapes on the pages are of another version than their files have now.")},
+        {"IDS_BOARD_UPDATE_SHAPE", QT_TRANSLATE_NOOP("board", "Update the shape")},
+        {"IDS_BOARD_UPDATE_SHAPES", QT_TRANSLATE_NOOP("board", "Update %1 shapes")},
         {"IDS_BOARD_ALL_MESSAGES", QT_TRANSLATE_NOOP("board", "Show all…")},
         {"IDS_BOARD_MESSAGES", QT_TRANSLATE_NOOP("board", "Messages")},
     };

@@ -26,6 +26,7 @@ Workspace::Workspace(const QString &language)
     qRegisterMetaType<pagehost::PluginReport>();
     m_registry.setProblemListener(
         [this](const pagehost::PluginReport &report) { Q_EMIT pluginProblemFound(report); });
+    m_registry.setKindsListener([this] { Q_EMIT kindsChanged(); });
     pagehost::setColorSetting(IFramework::DefaultPenColor, false, QColor(newPenColor));
     pagehost::setCurrentDocument(m_document.get());
     m_document->appendPage();

@@ -41,6 +41,8 @@ public:
 Q_SIGNALS:
     /// document() is the new one; the one before is still alive.
     void documentReplaced();
+    /// Kinds of shape that come from files have changed, or their looks or faults.
+    void kindsChanged();
     /// A plug-in that had been loaded failed.
     void pluginProblemFound(const pagehost::PluginReport &report);
 

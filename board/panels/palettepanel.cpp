@@ -33,15 +33,9 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this, &PalettePanel::filter);
 
-    auto *content = new QWidget;
-    auto *groups = new QVBoxLayout(content);
-    groups->setContentsMargins(0, 0, 0, 0);
-    groups->setSpacing(largeGap);
-    addGroups(groups);
-    groups->addStretch();
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setWidget(content);
+    fill();
     // In the smallest window one column is still whole.
     m_scroll->setMinimumWidth(widthOfColumns(1));
 
@@ -51,6 +45,29 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     column->addWidget(m_search);
     column->addWidget(m_scroll, 1);
     paintPictures();
+}
+
+void PalettePanel::fill()
+{
+    auto *content = new QWidget;
+    auto *groups = new QVBoxLayout(content);
+    groups->setContentsMargins(0, 0, 0, 0);
+    groups->setSpacing(largeGap);
+    addGroups(groups);
+    groups->addStretch();
+    m_scroll->setWidget(content);
+}
+
+void PalettePanel::showKinds()
+{
+    const int place = m_scroll->verticalScrollBar()->value();
+    m_buttons.clear();
+    m_flows.clear();
+    fill();
+    paintPictures();
+    showWaitingKind(m_waitingKind);
+    filter(m_search->text());
+    m_scroll->verticalScrollBar()->setValue(place);
 }
 
 /// Of the scrolled part.
@@ -111,6 +128,7 @@ void PalettePanel::paintPictures()
 
 void PalettePanel::showWaitingKind(const QString &kindId)
 {
+    m_waitingKind = kindId;
     for (PaletteButton *button : qAsConst(m_buttons))
         button->setChecked(button->kindId() == kindId);
 }

@@ -22,6 +22,8 @@ class PalettePanel : public QWidget
 public:
     explicit PalettePanel(const Workspace *workspace, QWidget *parent = nullptr);
 
+    /// Shows the present kinds in place of those before.
+    void showKinds();
     /// Shows which kind waits to be drawn; an empty id for none.
     void showWaitingKind(const QString &kindId);
     QVector<PaletteButton *> buttons() const { return m_buttons; }
@@ -38,6 +40,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void fill();
     void addGroups(QVBoxLayout *column);
     void addButton(ButtonFlow *flow, const PaletteEntry &entry);
     int widthOfColumns(int columns) const;
@@ -47,6 +50,7 @@ private:
     const Workspace *m_workspace;
     QLineEdit *m_search;
     QScrollArea *m_scroll;
+    QString m_waitingKind;
     QVector<PaletteButton *> m_buttons;
     QVector<ButtonFlow *> m_flows;
 };

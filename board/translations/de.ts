@@ -220,6 +220,26 @@
         <translation>Die Änderungen konnten nicht für den Fall eines Absturzes gesichert werden.</translation>
     </message>
     <message>
+        <source>Files of shapes that cannot be used</source>
+        <translation>Nicht verwendbare Dateien von Formen</translation>
+    </message>
+    <message>
+        <source>A shape on the pages is of another version than its file has now.</source>
+        <translation>Eine Form auf den Seiten hat eine andere Fassung als ihre Datei jetzt.</translation>
+    </message>
+    <message>
+        <source>%1 shapes on the pages are of another version than their files have now.</source>
+        <translation>%1 Formen auf den Seiten haben eine andere Fassung als ihre Dateien jetzt.</translation>
+    </message>
+    <message>
+        <source>Update the shape</source>
+        <translation>Die Form aktualisieren</translation>
+    </message>
+    <message>
+        <source>Update %1 shapes</source>
+        <translation>%1 Formen aktualisieren</translation>
+    </message>
+    <message>
         <source>Show all…</source>
         <translation>Alle zeigen…</translation>
     </message>

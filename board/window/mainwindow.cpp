@@ -10,6 +10,7 @@
 #include "documents/documentmenu.h"
 #include "documents/droppeddocument.h"
 #include "documents/recovery.h"
+#include "documents/shapenotices.h"
 #include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
@@ -108,6 +109,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectAnimation();
     connectDocument();
     new FieldUndo(this);
+    new ShapeNotices(m_workspace, m_notices, this);
     showPluginProblems();
     showTitle();
     resize(firstSize);
@@ -311,6 +313,7 @@ void MainWindow::connectTools()
 void MainWindow::connectParts()
 {
     connect(m_workspace, &Workspace::documentReplaced, this, &MainWindow::connectDocument);
+    connect(m_workspace, &Workspace::kindsChanged, m_palette, &PalettePanel::showKinds);
     // Problems turn up in the middle of opening and drawing.
     connect(m_workspace, &Workspace::pluginProblemFound, this, &MainWindow::showPluginProblems,
             Qt::QueuedConnection);
