@@ -312,6 +312,12 @@ def text_paths_following(n):
 
 
 @document
+def text_pictographs(n):
+    """Of consequence where a font with colour bitmaps is installed."""
+    return svg(f'<text y="50">{chr(0x1F600) * (50000 // n)}</text>')
+
+
+@document
 def text_measured_often(n):
     box = "transform-box:fill-box;transform-origin:center;transform:rotate(1deg)"
     return svg(f'<g style="{box}" filter="blur(1px)">' + f'<text y="50" style="{box}">abcd</text>' * (20000 // n) +

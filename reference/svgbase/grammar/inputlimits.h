@@ -63,10 +63,11 @@ constexpr int useInstances = 100000;
 constexpr int usedOutlineElements = 1000000;
 /// Most characters of attributes read again for "use" elements, markers and the like.
 constexpr int usedCharacters = 10000000;
-/// Most characters of one document that are set; the rest is left out. Each text counts a few more, for the time of
-/// its layout.
+/// Most characters of one document that are laid out; the rest is left out. Each text counts a few more, for the
+/// time of its layout, and each code unit of a pictograph more, since Qt decodes its bitmap several times.
 constexpr int textCharacters = 100000;
 constexpr int charactersOfText = 4;
+constexpr int charactersOfPictograph = 8;
 /// Most "tref" elements of a document, and most characters shown by one.
 constexpr int trefs = 100;
 constexpr int trefCharacters = 1000;

@@ -45,6 +45,15 @@ void takeDeclarations(const XmlElement &element, Attributes *attributes)
     }
 }
 
+// By the first code unit: most of U+1F000 to U+1FBFF, of U+2600 to U+27BF, and what turns other characters into
+// pictographs.
+bool mayBePictograph(QChar first)
+{
+    const ushort unit = first.unicode();
+    const bool isVariation = unit == 0xfe0f || unit == 0x20e3;
+    return (unit >= 0xd83c && unit <= 0xd83e) || (unit >= 0x2600 && unit <= 0x27bf) || isVariation;
+}
+
 QString idOfElement(const XmlElement &element)
 {
     for (const XmlAttribute &attribute : element.attributes)
@@ -225,14 +234,28 @@ void TreeBuilder::characters(QStringView text, bool cdata, XmlPlace place)
     } else if (isInText() && m_tree->size() < Limits::elements) {
         Node node;
         node.kind = ElementKind::Characters;
-        node.text = text.left(qMin(text.size(), qsizetype(m_charactersLeft))).toString();
+        node.text = takeCharacters(text).toString();
         if (node.text.size() < text.size())
             m_messages->warn(Message::TooManyCharacters,
                              QStringLiteral("Text beyond %1 characters is left out.").arg(Limits::textCharacters),
                              place.line, place.column);
-        m_charactersLeft -= node.text.size();
         add(node, place);
     }
+}
+
+// A surrogate pair is taken as a whole.
+QStringView TreeBuilder::takeCharacters(QStringView text)
+{
+    qsizetype end = 0;
+    while (end < text.size()) {
+        const int length = text.at(end).isHighSurrogate() && end + 1 < text.size() ? 2 : 1;
+        const int cost = length * (mayBePictograph(text.at(end)) ? Limits::charactersOfPictograph : 1);
+        if (cost > m_charactersLeft)
+            break;
+        m_charactersLeft -= cost;
+        end += length;
+    }
+    return text.left(end);
 }
 
 } // namespace Svg

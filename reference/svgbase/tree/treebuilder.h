@@ -33,6 +33,7 @@ private:
     void endAtNamespaces(const XmlElement &element, XmlPlace place);
     ElementKind kindOfElement(const XmlElement &element, XmlPlace place);
     bool isInText() const;
+    QStringView takeCharacters(QStringView text);
     NodeIndex add(Node &node, XmlPlace place);
 
     Tree *m_tree;

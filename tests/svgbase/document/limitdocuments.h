@@ -143,9 +143,9 @@ inline QString usesOf(int groups, const QString &used)
            QString("<use href='#u'/>").repeated(groups) + "<use href='#last'/>";
 }
 
-inline QString textOf(int characters)
+inline QString textOf(int characters, const QString &character = QStringLiteral("i"))
 {
-    return "<text x='9' y='9' font-size='.001'>" + QString(characters, 'i') + "</text>" + rect();
+    return "<text x='9' y='9' font-size='.001'>" + character.repeated(characters) + "</text>" + rect();
 }
 
 inline QString textPathsOf(int paths)

@@ -197,6 +197,11 @@ void TestLimits::drawUpToTheLimit_data()
            usesOf(Limits::usedCharacters / 100000 - 1, wordy), usesOf(Limits::usedCharacters / 100000, wordy));
     addRow("characters", Message::TooManyCharacters, textOf(Limits::textCharacters - Limits::charactersOfText),
            textOf(Limits::textCharacters - Limits::charactersOfText + 1), true);
+    // Each is two code units.
+    const int pictographs =
+        (Limits::textCharacters - Limits::charactersOfText) / (2 * Limits::charactersOfPictograph);
+    addRow("pictographs", Message::TooManyCharacters, textOf(pictographs, QStringLiteral("\U0001F600")),
+           textOf(pictographs + 1, QStringLiteral("\U0001F600")), true);
     addRow("text paths", Message::TooManyTextPaths, textPathsOf(Limits::textPaths),
            textPathsOf(Limits::textPaths + 1), true);
     addRow("text references", Message::TooManyCharacters, trefsOf(Limits::trefs), trefsOf(Limits::trefs + 1), true);
