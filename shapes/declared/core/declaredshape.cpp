@@ -224,7 +224,8 @@ void DeclaredShape::propertyChanged(const shapekit::Property *property)
 QVector<QPointF> DeclaredShape::standingPoints() const
 {
     QVector<QPointF> points;
-    for (int number = 1; number <= m_declaration.points.size(); ++number)
+    // Saved data may bring more points than the file has, or fewer.
+    for (int number = 1; number <= pointCount(); ++number)
         points.append(point(number));
     return points;
 }

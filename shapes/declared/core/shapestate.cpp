@@ -49,7 +49,7 @@ void ShapeState::setStyle(const QString &pen, const QString &fill, double penWid
 void ShapeState::setPoints(const QVector<QPointF> &centres)
 {
     m_inputs.lists[slots_of::PointList] = centres;
-    set(slots_of::PointCount, double(m_declaration.points.size()));
+    set(slots_of::PointCount, double(centres.size()));
     for (int i = 0; i < m_declaration.points.size(); ++i)
         set(slots_of::FirstPoint + i, centres.value(i));
 }

@@ -17,6 +17,7 @@ constexpr double fullCircle = 360;
 constexpr int mostDigits = 10;
 /// Texts drawn as letters are cut there: each letter becomes some hundred characters of path text.
 constexpr int mostLetters = 1000;
+constexpr int longestJoined = 10000;
 
 QPointF turned(QPointF arm, double degrees)
 {
@@ -84,6 +85,12 @@ Value ovalPath(const Value *a, int count)
         return Value::notFinite();
     const QPointF radii(a[1].number(), a[2].number());
     return shapekit::PathText().ellipse(QRectF(a[0].point - radii, a[0].point + radii)).text();
+}
+
+/// Cut, so that texts made of texts stay bounded.
+Value joinedText(const Value *a, int)
+{
+    return (a[0].text + a[1].text).left(longestJoined);
 }
 
 Value lettersPath(const Value *a, int count)
@@ -197,6 +204,7 @@ const QVector<Builtin> &builtins()
          [](A a, int) -> Value { return a[0].point.x() * a[1].point.y() - a[0].point.y() * a[1].point.x(); }},
         {"dot", "pp", Type::Number, [](A a, int) -> Value { return QPointF::dotProduct(a[0].point, a[1].point); }},
         {"digits", "nn", Type::Text, [](A a, int) -> Value { return digitsText(a[0].number(), a[1].number()); }},
+        {"join", "tt", Type::Text, joinedText},
         {"box", "nnnnn", Type::Text, boxPath},
         {"oval", "pnn", Type::Text, ovalPath},
         {"letters", "tpn", Type::Text, lettersPath},

@@ -171,6 +171,7 @@ void TestExpressions::functionsGiveTheirValues_data()
     row("turn(point(70, 40), middle, 90)", "60 50");
     row("cross(point(1, 2), point(3, 4))", "-2");
     row("dot(point(1, 2), point(3, 4))", "11");
+    row("join('a', join(digits(45, 0), '°'))", "a45°");
     row("digits(2.456, 1)", "2.5");
     row("digits(2, 3)", "2");
     row("digits(100, 0)", "100");
