@@ -68,6 +68,13 @@ QStringList allShapeNames()
     return names;
 }
 
+QString kindOf(const QString &name)
+{
+    const bool isDeclared = name.startsWith(QLatin1String("declared/"));
+    return isDeclared ? QString(name).replace(QLatin1Char('/'), QLatin1Char('.'))
+                      : QStringLiteral("shapes.") + name;
+}
+
 QString pluginFile(const QString &name)
 {
     const QString coded = QStringLiteral(SHAPE_PLUGIN_DIRECTORY "/%1.so").arg(name);
@@ -81,10 +88,7 @@ ShapeDriver::ShapeDriver(const QString &name)
     m_plugin = qobject_cast<pagehost::ObjectPlugin *>(m_loader.instance());
     if (!m_plugin)
         qFatal("%s", qPrintable(m_loader.errorString()));
-    const QString declaredName = name.section(QLatin1Char('/'), 1);
-    CBaseObject *object = m_plugin->createObject(
-        declaredName.isEmpty() ? QStringLiteral("shapes.") + name : QStringLiteral("declared.") + declaredName);
-    m_object.reset(dynamic_cast<CSVGObj *>(object));
+    m_object.reset(dynamic_cast<CSVGObj *>(m_plugin->createObject(kindOf(name))));
     m_scene.addItem(m_object.get());
 }
 

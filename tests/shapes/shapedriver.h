@@ -21,6 +21,8 @@ namespace shapetest {
 QStringList shapeNames();
 /// All shapes there are; one that is declared in a file is "declared/NAME".
 QStringList allShapeNames();
+/// The id of a shape's kind.
+QString kindOf(const QString &name);
 /// The file of a plug-in.
 QString pluginFile(const QString &name);
 

@@ -1,0 +1,321 @@
+// Shapes that became files are held against the same shapes in C++, which tests/shapes/coded keeps: whatever is
+// done to both, they save the same bytes and look the same.
+
+#include <shapes/randomedits.h>
+#include <shapes/shapedriver.h>
+
+#include <svgobj/csvgbase.h>
+#include <svgobj/csvgobj.h>
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QPluginLoader>
+#include <QtTest/QtTest>
+#include <QtWidgets/QUndoStack>
+
+#include <cmath>
+
+using shapetest::RandomEdits;
+using shapetest::ShapeDriver;
+
+class TestTwins : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mostShapesAreFiles();
+    void newTwinsAreTheSame_data() { addTwinRows(); }
+    void newTwinsAreTheSame();
+    void draggedTwinsAreTheSame_data() { addTwinRows(); }
+    void draggedTwinsAreTheSame();
+    void twinsOfOtherSizesAreTheSame_data() { addTwinRows(); }
+    void twinsOfOtherSizesAreTheSame();
+    void editedTwinsAreTheSame_data() { addTwinRows(); }
+    void editedTwinsAreTheSame();
+    void twinsUndoTheSame_data() { addTwinRows(); }
+    void twinsUndoTheSame();
+    void fileOpensWhatTheCodedShapeSaved_data() { addTwinRows(); }
+    void fileOpensWhatTheCodedShapeSaved();
+    void savedPolygonKeepsItsNumberOfCorners_data();
+    void savedPolygonKeepsItsNumberOfCorners();
+    void twinsMoveAlike_data();
+    void twinsMoveAlike();
+
+private:
+    static QStringList twinNames();
+    void addTwinRows();
+};
+
+namespace {
+
+constexpr unsigned seeds = 3;
+constexpr int editsOfSeed = 30;
+
+QByteArray savedBytes(const ShapeDriver &shape)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    shape.object().save(out);
+    return bytes;
+}
+
+QByteArray savedJson(const ShapeDriver &shape)
+{
+    QJsonObject object;
+    shape.object().saveJson(object);
+    return QJsonDocument(object).toJson();
+}
+
+CBaseObject *codedObject(const QString &name)
+{
+    QPluginLoader loader(QStringLiteral(CODED_TWINS "/%1.so").arg(name));
+    auto *plugin = qobject_cast<pagehost::ObjectPlugin *>(loader.instance());
+    return plugin ? plugin->createObject(shapetest::kindOf(name)) : nullptr;
+}
+
+/// A declared shape and its predecessor, in the same hands.
+class Twins
+{
+public:
+    explicit Twins(const QString &name)
+        : declared(name)
+        , coded(name)
+    {
+        coded.takeObject(codedObject(name));
+    }
+
+    template<class Action> void both(Action action)
+    {
+        action(declared);
+        action(coded);
+    }
+
+    /// Empty where both are alike, else what differs.
+    QString difference()
+    {
+        if (savedBytes(declared) != savedBytes(coded))
+            return QStringLiteral("bytes");
+        if (savedJson(declared) != savedJson(coded))
+            return QString::fromUtf8(savedJson(declared) + savedJson(coded));
+        if (declared.object().boundingRect() != coded.object().boundingRect())
+            return QStringLiteral("bounding rectangle");
+        if (declared.painted() != coded.painted())
+            return QStringLiteral("picture");
+        return {};
+    }
+
+    ShapeDriver declared;
+    ShapeDriver coded;
+};
+
+#define COMPARE_TWINS(twins)                                                                                       \
+    do {                                                                                                           \
+        const QString difference = (twins).difference();                                                           \
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                                    \
+    } while (false)
+
+} // namespace
+
+QStringList TestTwins::twinNames()
+{
+    QStringList names = QDir(QStringLiteral(CODED_TWINS)).entryList({QStringLiteral("*.so")}, QDir::Files);
+    for (QString &name : names)
+        name.chop(3);
+    return names;
+}
+
+void TestTwins::addTwinRows()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : twinNames())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void TestTwins::mostShapesAreFiles()
+{
+    QCOMPARE(twinNames().size(), 17);
+    for (const QString &name : twinNames())
+        QVERIFY2(QFile::exists(QFileInfo(shapetest::pluginFile(name)).path() + QLatin1Char('/') + name +
+                               QStringLiteral(".shape.svg")),
+                 qPrintable(name));
+}
+
+void TestTwins::newTwinsAreTheSame()
+{
+    QFETCH(QString, name);
+    Twins twins(name);
+    twins.both([](ShapeDriver &shape) { shape.createByClick(); });
+    COMPARE_TWINS(twins);
+    QCOMPARE(twins.declared.core().getSVGType(), twins.coded.core().getSVGType());
+    QCOMPARE(twins.declared.object().kindName(), twins.coded.object().kindName());
+    QCOMPARE(twins.declared.object().getAttributeIds(), twins.coded.object().getAttributeIds());
+}
+
+void TestTwins::draggedTwinsAreTheSame()
+{
+    QFETCH(QString, name);
+    Twins twins(name);
+    twins.both([](ShapeDriver &shape) {
+        shape.createByDrag({183.5, 147.25});
+        shape.select();
+    });
+    const QPointF ways[] = {{7.3, -4.1}, {-300, -300}, {300, 250}, {-90, 30}, {40, -170}, {0.1, 60}};
+    for (int number = 1; number <= twins.coded.controlPointCount(); ++number) {
+        for (const QPointF way : ways) {
+            twins.both([&](ShapeDriver &shape) { shape.dragControlPoint(number, way); });
+            COMPARE_TWINS(twins);
+        }
+    }
+}
+
+void TestTwins::twinsOfOtherSizesAreTheSame()
+{
+    QFETCH(QString, name);
+    Twins twins(name);
+    twins.both([](ShapeDriver &shape) {
+        shape.createByClick();
+        shape.select();
+    });
+    for (const QSizeF size : {QSizeF(300, 70), QSizeF(70, 300), QSizeF(1, 1), QSizeF(420.5, 333.25)}) {
+        for (const int penWidth : {1, 8}) {
+            twins.both([&](ShapeDriver &shape) {
+                shape.object().setSize(size, false, true);
+                shape.core().setPenWidth(penWidth, false);
+                shape.core().invalidate();
+            });
+            COMPARE_TWINS(twins);
+        }
+    }
+}
+
+void TestTwins::editedTwinsAreTheSame()
+{
+    QFETCH(QString, name);
+    for (unsigned seed = 1; seed <= seeds; ++seed) {
+        Twins twins(name);
+        twins.both([](ShapeDriver &shape) {
+            shape.createByDrag({183.5, 147.25});
+            shape.select();
+        });
+        RandomEdits edits(twins.declared, seed);
+        RandomEdits same(twins.coded, seed);
+        for (int i = 0; i < editsOfSeed; ++i) {
+            edits.edit();
+            same.edit();
+            COMPARE_TWINS(twins);
+        }
+    }
+}
+
+void TestTwins::twinsUndoTheSame()
+{
+    QFETCH(QString, name);
+    Twins twins(name);
+    twins.both([](ShapeDriver &shape) {
+        shape.createByDrag({183.5, 147.25});
+        shape.select();
+    });
+    QUndoStack &stack = twins.declared.undoStack();
+    stack.clear();
+    twins.both([](ShapeDriver &shape) { RandomEdits(shape, seeds).edit(editsOfSeed); });
+    COMPARE_TWINS(twins);
+    while (stack.canUndo())
+        stack.undo();
+    COMPARE_TWINS(twins);
+    while (stack.canRedo())
+        stack.redo();
+    COMPARE_TWINS(twins);
+}
+
+void TestTwins::fileOpensWhatTheCodedShapeSaved()
+{
+    QFETCH(QString, name);
+    Twins twins(name);
+    twins.coded.createByDrag({183.5, 147.25});
+    twins.coded.select();
+    RandomEdits(twins.coded, seeds).edit(editsOfSeed);
+    twins.coded.object().setSelected(false);
+    const QByteArray saved = savedBytes(twins.coded);
+    QDataStream in(saved);
+    QVERIFY(twins.declared.object().load(in));
+    QVERIFY(in.atEnd());
+    COMPARE_TWINS(twins);
+}
+
+void TestTwins::savedPolygonKeepsItsNumberOfCorners_data()
+{
+    QTest::addColumn<int>("corners");
+    QTest::newRow("three") << 3;
+    QTest::newRow("eight") << 8;
+}
+
+void TestTwins::savedPolygonKeepsItsNumberOfCorners()
+{
+    QFETCH(int, corners);
+    Twins twins(QStringLiteral("polygon"));
+    QJsonObject saved;
+    twins.coded.object().saveJson(saved);
+    saved[QStringLiteral("SVG_ControlCount")] = corners;
+    for (int number = 1; number <= corners; ++number) {
+        const double angle = 2 * M_PI * number / corners;
+        saved[QStringLiteral("SVG_PosX_%1").arg(number)] = 56 + 40 * std::cos(angle);
+        saved[QStringLiteral("SVG_PosY_%1").arg(number)] = 53 + 40 * std::sin(angle);
+    }
+    twins.both([&](ShapeDriver &shape) {
+        QJsonObject copy = saved;
+        QVERIFY(shape.object().loadJson(copy));
+        shape.painted();
+    });
+    COMPARE_TWINS(twins);
+    QCOMPARE(twins.declared.document().namedNode(QStringLiteral("figure"))->polygon().size(), corners);
+    twins.both([&](ShapeDriver &shape) {
+        shape.select();
+        shape.dragControlPoint(corners, {-7, 5});
+    });
+    COMPARE_TWINS(twins);
+}
+
+void TestTwins::twinsMoveAlike_data()
+{
+    QTest::addColumn<QStringList>("nodes");
+    QTest::newRow("gears") << QStringList{QStringLiteral("driving_turn"), QStringLiteral("driven_turn")};
+    QTest::newRow("pendulum") << QStringList{QStringLiteral("swing")};
+}
+
+/// The numbers of an attribute.
+QVector<double> numbersOf(const ShapeDriver &shape, const QString &node, const char *attribute)
+{
+    QString text = shape.document().namedNode(node)->attribute(QLatin1String(attribute));
+    QVector<double> numbers;
+    const QStringList parts = text.replace(QLatin1Char(';'), QLatin1Char(' ')).remove(QLatin1Char('s')).split(' ');
+    for (const QString &part : parts)
+        numbers.append(part.toDouble());
+    return numbers;
+}
+
+void TestTwins::twinsMoveAlike()
+{
+    QFETCH(QStringList, nodes);
+    Twins twins(QString::fromLatin1(QTest::currentDataTag()));
+    twins.both([](ShapeDriver &shape) {
+        shape.createByClick();
+        shape.select();
+        RandomEdits(shape, 1).edit(editsOfSeed);
+        shape.painted();
+    });
+    for (const QString &node : nodes) {
+        for (const char *attribute : {"from", "to", "values", "dur"}) {
+            const QVector<double> declared = numbersOf(twins.declared, node, attribute);
+            const QVector<double> coded = numbersOf(twins.coded, node, attribute);
+            QCOMPARE(declared.size(), coded.size());
+            // Six digits of the coded shapes.
+            for (int i = 0; i < coded.size(); ++i)
+                QVERIFY2(qAbs(declared.at(i) - coded.at(i)) < 1e-3, attribute);
+        }
+    }
+}
+
+QTEST_MAIN(TestTwins)
+#include "test_twins.moc"
