@@ -25,8 +25,12 @@ QVector<BenchTemplate> readTemplates()
     const QStringList folders = QStringLiteral(GLIOLOLOK_TEMPLATES).split(QLatin1Char(':'));
     for (const QString &folder : folders) {
         QDirIterator files(folder, {QStringLiteral("*.svg")}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext())
-            templates.append(readTemplate(files.next()));
+        while (files.hasNext()) {
+            const QString path = files.next();
+            // The peers would read declarations that they don't know.
+            if (!path.endsWith(QLatin1String(".shape.svg")))
+                templates.append(readTemplate(path));
+        }
     }
     std::sort(templates.begin(), templates.end(),
               [](const BenchTemplate &a, const BenchTemplate &b) { return a.name < b.name; });
