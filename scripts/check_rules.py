@@ -62,7 +62,20 @@ COMPONENTS = [
         headers=("pagehost/objectplugin.h",),
     ),
     Component(
-        ["shapes/declared/core", "shapes/declared/plugin"],
+        ["shapes/declared/core"],
+        prefixes=(
+            "declared/core/",
+            "declared/expressions/",
+            "declared/reader/",
+            "shapekit/",
+            "svgobj/",
+            "framework/",
+            "svgbase/",
+        ),
+        headers=("pagehost/objectplugin.h",),
+    ),
+    Component(
+        ["shapes/declared/plugin"],
         prefixes=("declared/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h",),
     ),

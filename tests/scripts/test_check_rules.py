@@ -92,11 +92,12 @@ class CheckRules(unittest.TestCase):
     def test_declared_shapes_may_not_see_their_plugin(self):
         self.include("shapes/declared/plugin/plugin.h", "<QtCore/QString>")
         self.include("shapes/declared/core/shape.cpp", "<declared/plugin/plugin.h>", "<pagehost/objectplugin.h>")
+        self.include("shapes/declared/reader/file.cpp", "<pagehost/objectplugin.h>")
         self.assertEqual(
             self.tree.breaches(),
             [
                 "shapes/declared/core/shape.cpp:1: may not include declared/plugin/plugin.h",
-                "shapes/declared/core/shape.cpp:2: may not include pagehost/objectplugin.h",
+                "shapes/declared/reader/file.cpp:1: may not include pagehost/objectplugin.h",
             ],
         )
 
