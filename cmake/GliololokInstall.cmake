@@ -1,5 +1,5 @@
 # Rules of `cmake --install` for headers, the CMake package and the pkg-config file. Targets have their own rules where
-# they are defined, in the export set "gliololok".
+# they are defined, in the export set "gliololok". Components: runtime, development, shapes, board, tools.
 
 include(CMakePackageConfigHelpers)
 
@@ -12,8 +12,9 @@ write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/gliololokConfigVer
                                  COMPATIBILITY SameMajorVersion)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
               "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfigVersion.cmake"
-        DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
-install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}")
+        DESTINATION "${GLIOLOLOK_CMAKE_DIR}" COMPONENT development)
+install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}"
+        COMPONENT development)
 
 # The file derives its prefix from its own location, so that an installation can be moved.
 if(GLIOLOLOK_REFERENCE_HOST)
@@ -21,4 +22,5 @@ if(GLIOLOLOK_REFERENCE_HOST)
 endif()
 file(RELATIVE_PATH GLIOLOLOK_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file("${CMAKE_CURRENT_SOURCE_DIR}/packaging/gliololok.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+        COMPONENT development)

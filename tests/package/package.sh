@@ -117,11 +117,33 @@ step_other_host() {
     local directory="$work/other-host" output
     rm -rf "$directory"
     output=$(cmake -S "$source/tests/package/otherhost" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
-        -DREPOSITORY="$source" 2>&1) || fail "it cannot be configured: $output"
+        -DREPOSITORY="$source" -DHEADERS="$source/src/host" 2>&1) || fail "it cannot be configured: $output"
+    [ ! -e "$directory/gliololok/tests" ] || fail "it builds our tests"
+    ! grep -q '^CMAKE_BUILD_TYPE:[^=]*=.' "$directory/CMakeCache.txt" || fail "it has a kind of build that nobody asked for"
+    ! grep -q -- -Werror "$directory/build.ninja" || fail "our warnings are its errors"
     ninja -C "$directory" -t query lib/gliololok.so.1.0.0 | grep -q otherhost_framework ||
         fail "the library is not linked to that host"
     ! grep -q -e -lframework -e -lsvgbase "$directory/gliololok/gliololok.pc" || fail "gliololok.pc names our host"
     grep -q -e '-lframework -lsvgbase' "$build/gliololok.pc" || fail "our own gliololok.pc lacks our host"
+}
+
+# refused TEXT ARGUMENT...: another host that is not given completely is refused with a sentence.
+refused() {
+    local directory="$work/other-host-refused" text=$1 output
+    shift
+    rm -rf "$directory"
+    ! output=$(cmake -S "$source/tests/package/otherhost" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+        -DREPOSITORY="$source" "$@" 2>&1) || fail "it is configured with $*"
+    case $(echo "$output" | tr -s ' \n' ' ') in
+    *"$text"*) ;;
+    *) fail "it does not say \"$text\": $output" ;;
+    esac
+}
+
+step_other_host_refused() {
+    refused "your host's <framework/cbaseobject.h> is not found: set GLIOLOLOK_HOST_INCLUDE_DIRS"
+    refused "there is no target OtherHost::nothing: set GLIOLOLOK_FRAMEWORK_TARGET" -DHEADERS="$source/src/host" \
+        -DFRAMEWORK=OtherHost::nothing
 }
 
 # The installed board must find its libraries and its shapes without any help.
