@@ -43,16 +43,19 @@ const ShapeKind *ShapeLibrary::offered(const QString &kindId) const
     return nullptr;
 }
 
-const ShapeKind *ShapeLibrary::remember(const QByteArray &text)
+const ShapeKind *ShapeLibrary::remember(const QByteArray &text, const QString &name)
 {
     const ShapeKind *known = withText(hashOf(text));
     if (known)
         return known;
-    const SharedDeclaration declaration = readShape(text, QString());
+    const SharedDeclaration declaration = readShape(text, name);
     // Only installed files succeed coded shapes.
     if (!declaration || declaration->isSuccessor())
         return nullptr;
-    const ShapeKind *kind = add(std::make_unique<ShapeKind>(declaration));
+    const ShapeKind *kind = withText(declaration->hash);
+    if (kind)
+        return kind;
+    kind = add(std::make_unique<ShapeKind>(declaration));
     m_remembered.append(kind);
     if (m_listener)
         m_listener();

@@ -31,8 +31,9 @@ public:
     const ShapeKind *offered(const QString &kindId) const;
     /// The kind that a text declares; null when nobody has brought it.
     const ShapeKind *withText(const QString &hash) const { return m_byText.value(hash); }
-    /// Gets to know the text of a document. Null for one that declares no shape.
-    const ShapeKind *remember(const QByteArray &text);
+    /// Gets to know the text of a document. Null for one that declares no shape. `name` is the id of a shape whose
+    /// text has none.
+    const ShapeKind *remember(const QByteArray &text, const QString &name = {});
     /// Those that documents have brought, in the order in which it came.
     const Kinds &remembered() const { return m_remembered; }
     /// Stands in for a kind that isn't known yet.

@@ -4,8 +4,12 @@
 #include <declared/core/declaredshape.h>
 #include <declared/core/iconpicture.h>
 
+#include <declared/reader/plaindrawing.h>
+
 #include <shapekit/shapeobject.h>
 #include <shapekit/styledshape.h>
+
+#include <svgbase/qzesvgtinydocument.h>
 
 #include <algorithm>
 
@@ -25,6 +29,24 @@ const Kind &kind()
 } // namespace shapekit
 
 namespace declared {
+
+namespace {
+
+const QLatin1String svgType("image/svg+xml");
+/// Of a file whose name isn't known.
+const QString droppedId = QStringLiteral("Dropped");
+
+/// Compressed data become text; the library bounds what it unpacks.
+QByteArray textOf(const QByteArray &svg)
+{
+    constexpr char compressed[] = "\x1f\x8b";
+    if (!svg.startsWith(compressed))
+        return svg;
+    const std::unique_ptr<QZeSvgTinyDocument> drawing(QZeSvgTinyDocument::load(svg));
+    return drawing ? drawing->toSvg() : QByteArray();
+}
+
+} // namespace
 
 DeclaredPlugin::DeclaredPlugin()
     : m_library(std::make_shared<ShapeLibrary>())
@@ -81,6 +103,21 @@ DeclaredPlugin::~DeclaredPlugin()
     m_library->setListener({});
 }
 
+QStringList DeclaredPlugin::dataTypes() const
+{
+    return {svgType};
+}
+
+CBaseObject *DeclaredPlugin::createFromData(const QString &mimeType, const QByteArray &data, QString &kindId) const
+{
+    const QByteArray text = mimeType == svgType ? declarationOfDrawing(textOf(data)) : QByteArray();
+    const ShapeKind *kind = text.isEmpty() ? nullptr : m_library->remember(text, droppedId);
+    if (!kind)
+        return nullptr;
+    kindId = kind->kind().id();
+    return new DeclaredObject(m_library, *kind);
+}
+
 QString DeclaredPlugin::kindFamily() const
 {
     return QStringLiteral("declared.");
@@ -132,7 +169,7 @@ QByteArray DeclaredPlugin::dataOf(CBaseObject *object, const QString &mimeType) 
         return {};
     if (mimeType == QLatin1String(pagehost::iconType))
         return iconPicture(core->icon());
-    return mimeType == QLatin1String("image/svg+xml") ? core->toSvg() : QByteArray();
+    return mimeType == svgType ? core->toSvg() : QByteArray();
 }
 
 } // namespace declared

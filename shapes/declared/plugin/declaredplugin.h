@@ -30,6 +30,9 @@ public:
     /// SVG, and the icon for palettes.
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const override;
 
+    /// SVG, plain or compressed: a drawing becomes a shape, a file that declares one the shape that it declares.
+    QStringList dataTypes() const override;
+    CBaseObject *createFromData(const QString &mimeType, const QByteArray &data, QString &kindId) const override;
     QString kindFamily() const override;
     void setKindsListener(const Listener &listener) override;
     QStringList faults() const override { return m_faults; }

@@ -220,8 +220,8 @@ void TestClipboard::pictureOfAnotherProgramIsPasted_data()
     QTest::addColumn<QSizeF>("size");
     QTest::newRow("PNG") << "png" << QSizeF(64, 48);
     QTest::newRow("picture in another format") << "image" << QSizeF(64, 48);
-    QTest::newRow("SVG") << "svg" << QSizeF(40, 30);
-    QTest::newRow("SVG as text") << "text" << QSizeF(40, 30);
+    QTest::newRow("SVG") << "svg" << QSizeF(120, 90);
+    QTest::newRow("SVG as text") << "text" << QSizeF(120, 90);
     QTest::newRow("file of a picture") << "file" << QSizeF(64, 48);
     QTest::newRow("file of a picture that is no PNG") << "bmp" << QSizeF(64, 48);
 }
