@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <numeric>
 #include <sstream>
+#include <vector>
 
 namespace {
 
@@ -28,6 +30,18 @@ std::vector<std::string> split(const std::string &name)
     return parts;
 }
 
+double arithmeticMean(const std::vector<double> &ratios)
+{
+    return std::accumulate(ratios.begin(), ratios.end(), 0.0) / double(ratios.size());
+}
+
+double geometricMean(const std::vector<double> &ratios)
+{
+    const double logs = std::accumulate(ratios.begin(), ratios.end(), 0.0,
+                                        [](double sum, double ratio) { return sum + std::log(ratio); });
+    return std::exp(logs / double(ratios.size()));
+}
+
 } // namespace
 
 void RatioReporter::ReportRuns(const std::vector<Run> &runs)
@@ -47,7 +61,7 @@ void RatioReporter::Finalize()
 {
     std::cout << "\nRatios of CPU time (of heap bytes for memory), peer = 1.00, best repetition each\n";
     for (const auto &[figure, cases] : m_best) {
-        std::map<std::string, std::pair<double, int>> logs;
+        std::map<std::string, std::vector<double>> ratios;
         std::cout << figure << "\n";
         for (const auto &[name, values] : cases) {
             const auto base = values.find(peer);
@@ -57,13 +71,16 @@ void RatioReporter::Finalize()
                 if (who == peer)
                     continue;
                 const double ratio = value / base->second;
-                logs[who].first += std::log(ratio);
-                ++logs[who].second;
+                ratios[who].push_back(ratio);
                 std::printf("    %-18s %-14s %8.3f\n", name.c_str(), who.c_str(), ratio);
             }
         }
-        for (const auto &[who, sum] : logs)
-            std::printf("  = %-18s %-14s %8.3f\n", "geometric mean", who.c_str(), std::exp(sum.first / sum.second));
+        for (const auto &[who, all] : ratios) {
+            std::printf("  = %-18s %-14s %8.3f\n", "geometric mean", who.c_str(), geometricMean(all));
+            std::printf("  = %-18s %-14s %8.3f\n", "arithmetic mean", who.c_str(), arithmeticMean(all));
+            std::printf("  = %-18s %-14s %8.3f\n", "largest", who.c_str(),
+                        *std::max_element(all.begin(), all.end()));
+        }
     }
     std::cout.flush();
 }
