@@ -1,6 +1,7 @@
 #include "page/pageview.h"
 
 #include "look/theme.h"
+#include "page/draghint.h"
 
 #include <pagehost/creation.h>
 #include <pagehost/page.h>
@@ -228,6 +229,8 @@ void PageView::mouseMoveEvent(QMouseEvent *event)
     QGraphicsView::mouseMoveEvent(event);
     if (event->buttons() == Qt::NoButton)
         updateCursor(event->pos());
+    else
+        showHint(event->globalPos());
 }
 
 void PageView::mouseReleaseEvent(QMouseEvent *event)
@@ -239,6 +242,17 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
     else
         QGraphicsView::mouseReleaseEvent(event);
     updateCursor(event->pos());
+    showHint(event->globalPos());
+}
+
+/// Of the drag that is going on, if the object has one.
+void PageView::showHint(const QPoint &pointer)
+{
+    auto *dragged = scene() ? dynamic_cast<CBaseObject *>(scene()->mouseGrabberItem()) : nullptr;
+    const QString hint = dragged ? dragHintOf(*dragged) : QString();
+    if (m_showsHint || !hint.isEmpty())
+        showDragHint(hint, pointer, viewport());
+    m_showsHint = !hint.isEmpty();
 }
 
 void PageView::endBand(const QMouseEvent *event)

@@ -93,6 +93,7 @@ private:
     bool wantsToPan(const QMouseEvent *event) const;
     void panTo(const QPoint &pos);
     void endBand(const QMouseEvent *event);
+    void showHint(const QPoint &pointer);
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
     bool nudge(const QKeyEvent *event);
@@ -110,6 +111,7 @@ private:
     bool m_fitted = true;
     bool m_spaceDown = false;
     bool m_panning = false;
+    bool m_showsHint = false;
     QPoint m_panPos; ///< viewport coordinates
 };
 

@@ -235,6 +235,17 @@ QSizeF Shape::smallestSize() const
     return {side, side};
 }
 
+QString Shape::hint(int)
+{
+    return {};
+}
+
+QString Shape::dragHint()
+{
+    const int index = indexOf(activeControlPoint);
+    return index < 0 ? QString() : hint(index + 1);
+}
+
 QByteArray Shape::toSvg()
 {
     settleDrawing();

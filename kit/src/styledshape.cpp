@@ -18,6 +18,7 @@
 #include <QtGui/QPainterPath>
 #include <QtGui/QPainterPathStroker>
 
+#include <cmath>
 #include <memory>
 
 namespace shapekit {
@@ -294,6 +295,16 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
         out << paintedArea();
         return true;
     }
+    if (propId == pagehost::ConnectionPlaces && document) {
+        writeConnections(out);
+        return true;
+    }
+    if (propId == pagehost::DragHint) {
+        const QString hint = dragHint();
+        if (!hint.isEmpty())
+            out << hint;
+        return !hint.isEmpty();
+    }
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::GetSpecialProperty(propId, out);
     if (!document || !document->animated())
@@ -358,6 +369,33 @@ QRectF StyledShape::paintedArea()
         area |= toObject.mapRect(outlineRegion->boundingRect()).adjusted(-reach, -reach, reach, reach);
     }
     return area;
+}
+
+QVector<Connection> StyledShape::connections()
+{
+    const QRectF box = drawnArea();
+    return {{QStringLiteral("left"), {box.left(), box.center().y()}, 180},
+            {QStringLiteral("top"), {box.center().x(), box.top()}, 270},
+            {QStringLiteral("right"), {box.right(), box.center().y()}, 0},
+            {QStringLiteral("bottom"), {box.center().x(), box.bottom()}, 90}};
+}
+
+/// Mirroring is part of how a shape is painted, not of its item.
+void StyledShape::writeConnections(QDataStream &out)
+{
+    const QRectF target = owner->getClientRect();
+    const bool acrossX = owner->isMirrored(), acrossY = owner->isFlipped();
+    const QTransform mirrored = QTransform::fromScale(acrossX ? -1 : 1, acrossY ? -1 : 1) *
+                                QTransform::fromTranslate(acrossX ? target.left() + target.right() : 0,
+                                                          acrossY ? target.top() + target.bottom() : 0);
+    const QTransform toObject = stretching(drawnArea(), target) * mirrored;
+    const QVector<Connection> places = connections();
+    out << qint32(places.size());
+    for (const Connection &connection : places) {
+        const double seenX = acrossX ? 180 - connection.out : connection.out;
+        const double seen = acrossY ? -seenX : seenX;
+        out << connection.name << toObject.map(connection.place) << seen - 360 * std::floor(seen / 360);
+    }
 }
 
 QTransform StyledShape::stretching(const QRectF &box, const QRectF &target)

@@ -49,6 +49,7 @@ public:
     /// The region consists of the outline, the pen and the control points, so that each of them can be grabbed.
     bool getOutlinePath(QPainterPath *path) override;
     QRectF paintedArea() override;
+    QString dragHint() override;
     QByteArray toSvg() override;
     void settleDrawing() override;
     double getXMin(QZeSvgNode *node) override;
@@ -70,6 +71,8 @@ protected:
     virtual QSizeF smallestSize() const;
     /// False to refuse a position that a drag would move a control point to; the point then stays where it is.
     virtual bool mayMove(int number, QPointF centre);
+    /// What a drag of a point does at this moment, for the user to read: "Corner radius 12".
+    virtual QString hint(int number);
     /// Writes the geometry for the present points, size and properties. Called once before the drawing is needed,
     /// however much has changed since the last time.
     virtual void draw() {}

@@ -7,6 +7,14 @@
 
 namespace shapekit {
 
+/// A place where a line to another object may end, document units.
+struct Connection
+{
+    QString name;
+    QPointF place;
+    double out = 0; ///< the direction of a line that leaves, degrees clockwise from the right; NaN for any
+};
+
 /// A shape that takes its look from the template: which nodes follow the user's pen and fill, and who fills it.
 ///
 /// The type number decides who fills a shape. For types up to 26 and for 1000 it is the page object, with
@@ -63,6 +71,10 @@ public:
     /// Answer to pagehost::PaintedArea: a box, item coordinates, around all lines and texts with their pens, and
     /// around the area where the shape can be hit.
     virtual QRectF paintedArea();
+    /// What a drag that is going on does, for the user to read; empty for nothing to say.
+    virtual QString dragHint() { return {}; }
+    /// Places for lines to other objects: the middles of the sides, named "left", "top", "right" and "bottom".
+    virtual QVector<Connection> connections();
     /// Whether the shape is reading its data; its owner renders its picture afterwards.
     bool isReadingData() const { return isBeingLoaded; }
     /// Brings the document up to date before it is used; for shapes that defer drawing.
@@ -90,6 +102,7 @@ protected:
     QZeSvgNode *node(const char *id) const;
 
 private:
+    void writeConnections(QDataStream &out);
     void play(bool on);
     void readLook();
     void colorPenFollowers();

@@ -313,6 +313,27 @@ void DeclaredShape::takeOver(DeclaredShape &former)
     m_isTextInlined = former.m_isTextInlined;
 }
 
+QString DeclaredShape::hint(int number)
+{
+    const Value hint = presentState().valueOf(m_declaration.point(number).hint);
+    return hint.isFinite() ? hint.text : QString();
+}
+
+QVector<shapekit::Connection> DeclaredShape::connections()
+{
+    if (m_declaration.connections.isEmpty())
+        return Shape::connections();
+    ShapeState &state = presentState();
+    QVector<shapekit::Connection> places;
+    for (const ConnectionDeclaration &declared : m_declaration.connections) {
+        const Value at = state.valueOf(declared.at);
+        const double out = declared.out.isValid() ? state.valueOf(declared.out).number() : qQNaN();
+        if (at.isFinite())
+            places.append({declared.name, at.point, out});
+    }
+    return places;
+}
+
 void DeclaredShape::draw()
 {
     updateState();

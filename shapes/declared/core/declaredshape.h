@@ -56,6 +56,8 @@ public:
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
     QRectF paintedArea() override;
+    /// Those of the file, if it has any.
+    QVector<shapekit::Connection> connections() override;
     /// A picture for palettes, SVG; empty: the look of a new shape.
     QByteArray icon() const { return m_declaration.icon; }
 
@@ -75,6 +77,7 @@ protected:
     QSizeF smallestSize() const override { return m_declaration.smallest; }
     bool mayMove(int number, QPointF centre) override;
     void pointMoved(int number, QPointF centre) override;
+    QString hint(int number) override;
     void draw() override;
     void propertyChanged(const shapekit::Property *property) override;
     void saveValues(QDataStream &out) override;

@@ -145,6 +145,14 @@ struct RepeatDeclaration
     int drawnRounds = 0; ///< children in the file
 };
 
+/// A place where lines to other objects may end.
+struct ConnectionDeclaration
+{
+    QString name;
+    Expression at;
+    Expression out; ///< degrees; none for any direction
+};
+
 /// Slots of what every file knows.
 namespace slots_of {
 enum Fixed { Width, Height, Left, Top, Right, Bottom, Middle, PointCount, At, Pen, Fill, PenWidth, Pi, FirstPoint };
@@ -180,6 +188,7 @@ struct Declaration
     QVector<LetDeclaration> lets;
     QVector<PointDeclaration> points;
     QVector<RepeatDeclaration> repeats;
+    QVector<ConnectionDeclaration> connections;
     QVector<ElementDeclaration> elements;
     Program program;
     int slotCount = 0;

@@ -3,6 +3,8 @@
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
 
+#include <algorithm>
+
 namespace declared {
 
 namespace {
@@ -299,7 +301,6 @@ void FileReader::readRepeated(int index, int repeat, const QVector<int> &path)
         readRepeated(children.at(i), repeat, path + QVector<int>{i});
 }
 
-/// Held against the rules; nothing asks for them yet.
 void FileReader::readConnections()
 {
     for (const Element &element : m_elements) {
@@ -313,10 +314,20 @@ void FileReader::readConnections()
             error("C12", element, QStringLiteral("a connection needs a name and \"at\""));
             continue;
         }
-        Expression unused;
-        take(m_compiler.expression(at->value, Type::Point), unused, *at);
+        const auto isIt = [&](const ConnectionDeclaration &other) { return other.name == name->value; };
+        if (std::any_of(m_shape.connections.cbegin(), m_shape.connections.cend(), isIt)) {
+            error("C12", *name, QStringLiteral("there is another connection \"%1\"").arg(name->value));
+            continue;
+        }
+        if (m_shape.connections.size() == limits::connections) {
+            error("C17", element, QStringLiteral("a file has at most 64 connections"));
+            return;
+        }
+        ConnectionDeclaration connection{name->value, {}, {}};
+        take(m_compiler.expression(at->value, Type::Point), connection.at, *at);
         if (out)
-            take(m_compiler.expression(out->value, Type::Number), unused, *out);
+            take(m_compiler.expression(out->value, Type::Number), connection.out, *out);
+        m_shape.connections.append(connection);
     }
 }
 

@@ -17,6 +17,7 @@ constexpr int parametersOfLet = 8;
 constexpr int entriesOfChoice = 64;
 constexpr int entriesOfList = 200;
 constexpr int repeats = 64;
+constexpr int connections = 64;
 constexpr int textCharacters = 10000;
 /// @}
 

@@ -10,6 +10,7 @@
 #include <framework/cbaseobject.h>
 
 #include <QtTest/QtTest>
+#include <QtWidgets/QToolTip>
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void cursorShowsWhatAPressWouldDo();
     void cursorFollowsTheRotation();
     void undoDuringADragCancelsTheDrag();
+    void draggingAControlPointTellsItsValue();
 };
 
 void TestHandles::draggingTheBodyMoves()
@@ -258,6 +260,19 @@ void TestHandles::undoDuringADragCancelsTheDrag()
     t.board.release({700, 400});
     QCOMPARE(t.board.only(), t.shape);
     QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
+}
+
+void TestHandles::draggingAControlPointTellsItsValue()
+{
+    BoardDriver board;
+    board.draw(QStringLiteral("declared.cross"), {500, 300}, {700, 500});
+    // The corner of the arms is at 33 of 100 along both sides.
+    board.press({566, 366});
+    board.moveTo({571, 366});
+    board.moveTo({576, 366});
+    QCOMPARE(QToolTip::text(), QStringLiteral("48 \u00d7 68"));
+    board.release({576, 366});
+    QVERIFY(!QToolTip::isVisible() || QToolTip::text().isEmpty());
 }
 
 QTEST_MAIN(TestHandles)

@@ -2,6 +2,8 @@
 
 #include "drivenshape.h"
 
+#include <pagehost/objectplugin.h>
+
 #include <svgobj/csvgbase.h>
 
 #include <svgbase/qzesvgtinydocument.h>
@@ -42,6 +44,9 @@ private Q_SLOTS:
     void savedJsonTellsTheValuesByName();
     void propertyIsUndoneInOneStep();
     void pointsThatDamagedDataBringsHaveNoRules();
+    void dragTellsTheRadius();
+    void linesToOtherObjectsEndAtTheTip();
+    void linesToOtherObjectsEndAtTheSidesOtherwise();
 };
 
 namespace {
@@ -393,6 +398,73 @@ void TestExamples::pointsThatDamagedDataBringsHaveNoRules()
     QVERIFY(isNear(shape.controlPoint(1).center(), {20, 6}));
     // At the top the head is as wide as the tail: of nine elements two lines have no length.
     QCOMPARE(pathOf(shape, "figure").elementCount(), 7);
+}
+
+namespace {
+
+QString dragHint(const ShapeDriver &shape)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!shape.object().GetSpecialProperty(pagehost::DragHint, out))
+        return {};
+    QString hint;
+    QDataStream(bytes) >> hint;
+    return hint;
+}
+
+/// "name x y direction" of each.
+QStringList connections(const ShapeDriver &shape)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!shape.object().GetSpecialProperty(pagehost::ConnectionPlaces, out))
+        return {};
+    QDataStream in(bytes);
+    qint32 count = 0;
+    in >> count;
+    QStringList places;
+    for (int i = 0; i < count; ++i) {
+        QString name;
+        QPointF place;
+        double direction = 0;
+        in >> name >> place >> direction;
+        places.append(QStringLiteral("%1 %2 %3 %4").arg(name).arg(place.x()).arg(place.y()).arg(direction));
+    }
+    return places;
+}
+
+} // namespace
+
+void TestExamples::dragTellsTheRadius()
+{
+    ShapeDriver shape(QStringLiteral("declared/roundedrectangle"));
+    shape.createByClick();
+    shape.select();
+    QCOMPARE(dragHint(shape), QString());
+    shape.holdControlPoint(1, {5, 0});
+    QCOMPARE(dragHint(shape), QStringLiteral("Radius 21"));
+    shape.release({29, 12});
+    QCOMPARE(dragHint(shape), QString());
+}
+
+void TestExamples::linesToOtherObjectsEndAtTheTip()
+{
+    ShapeDriver shape(QStringLiteral("declared/blockarrow"));
+    shape.createByDrag({280, 180});
+    // The frame ends half a pen before the edge.
+    QCOMPARE(connections(shape), QStringList({QStringLiteral("tip 279 90 0")}));
+    shape.object().setMirror(true, false, false);
+    QCOMPARE(connections(shape), QStringList({QStringLiteral("tip 1 90 180")}));
+}
+
+void TestExamples::linesToOtherObjectsEndAtTheSidesOtherwise()
+{
+    ShapeDriver shape(QStringLiteral("declared/star"));
+    shape.createByDrag({240, 180});
+    QCOMPARE(connections(shape),
+             QStringList({QStringLiteral("left 0 90 180"), QStringLiteral("top 120 0 270"),
+                          QStringLiteral("right 240 90 0"), QStringLiteral("bottom 120 180 90")}));
 }
 
 QTEST_MAIN(TestExamples)

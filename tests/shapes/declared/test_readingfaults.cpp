@@ -101,6 +101,8 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre_data()
     row("<shape:property name='end' type='switch' value='no'/>", "3:23 C12");
     row("<shape:property type='switch' value='no'/>", "3:1 C12");
     row("<shape:connection at='p1'/>", "3:1 C12");
+    row("<shape:connection name='a' at='w'/>", "3:32 C23");
+    row("<shape:connection name='a' at='middle'/><shape:connection name='a' at='middle'/>", "3:65 C12");
     row("<shape:property name='a' type='number' value='1'/>", "3:32 C13");
     row("<shape:property name='a' value='1'/>", "3:1 C13");
     row("<shape:property name='a' type='whole' value='1'/>", "3:1 C15");

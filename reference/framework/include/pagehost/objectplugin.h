@@ -54,7 +54,14 @@ enum SpecialProperty {
     KnownTexts = 2904,
     /// bool: whether the object is made of the present version of the file that it comes from, which may have
     /// changed since. Setting it to true makes it so, as an undo step of its own; setting it to false does nothing.
-    IsPresentVersion = 2905
+    IsPresentVersion = 2905,
+    /// QString, read only: what the drag of a part does at this moment, for the user to read ("Corner radius 12").
+    /// Unknown while nothing is dragged, and to objects that have nothing to say.
+    DragHint = 2906,
+    /// Read only: the places where lines to other objects may end: a qint32 count, then for each its name
+    /// (QString), the place (QPointF, item coordinates as they are seen) and the direction in which a line leaves
+    /// it (double, degrees clockwise from the right; NaN for any).
+    ConnectionPlaces = 2907
 };
 
 /// Texts by localisation key.

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtCore/QString>
+
+class CBaseObject;
+class QPoint;
+class QWidget;
+
+namespace board {
+
+/// What the drag of a part of an object does at this moment; empty when nothing is dragged or the object says nothing.
+QString dragHintOf(CBaseObject &object);
+
+/// Shows a hint in a bubble near the pointer (global coordinates); hides the bubble for an empty one.
+void showDragHint(const QString &hint, const QPoint &pointer, QWidget *view);
+
+} // namespace board
