@@ -168,7 +168,7 @@ void DeclaredShape::updateState()
     m_state.renewBudget();
     m_state.setSize(size());
     m_state.setFrame(frame());
-    m_state.setStyle(getPenColor().name(), getFillBrush().color().name(), document->getAllStrokeWidth());
+    m_state.setStyle(getPenColor().rgb(), getFillBrush().color().rgb(), document->getAllStrokeWidth());
     m_state.setPoints(standingPoints());
     for (int i = 0; i < m_declaration.properties.size(); ++i)
         updateProperty(i);
@@ -247,6 +247,8 @@ QPointF DeclaredShape::settled(int number, QPointF centre)
 
 bool DeclaredShape::mayMove(int number, QPointF centre)
 {
+    if (!m_declaration.point(number).allowed.isValid())
+        return true;
     updateState();
     const QPointF stands = m_state.settled(number, centre, Shape::range(number));
     return m_state.isAllowed(number, centre, stands);

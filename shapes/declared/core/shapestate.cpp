@@ -10,6 +10,18 @@
 
 namespace declared {
 
+namespace {
+
+/// To the last bit: the operators of QPointF forgive small differences.
+bool areSame(const QVector<QPointF> &present, const QVector<QPointF> &entries)
+{
+    const auto isSame = [](QPointF a, QPointF b) { return a.x() == b.x() && a.y() == b.y(); };
+    return present.size() == entries.size() &&
+           std::equal(present.cbegin(), present.cend(), entries.cbegin(), isSame);
+}
+
+} // namespace
+
 ShapeState::ShapeState(const Declaration &declaration)
     : m_declaration(declaration)
 {
@@ -18,9 +30,15 @@ ShapeState::ShapeState(const Declaration &declaration)
     m_inputs.values[slots_of::Pi] = M_PI;
 }
 
+/// Values that stay leave the lets as they are: most inputs do, from one step of a drag to the next.
 void ShapeState::set(qint32 slot, const Value &value)
 {
-    m_inputs.values[slot] = value;
+    Value &present = m_inputs.values[slot];
+    const bool isSame =
+        present.point.x() == value.point.x() && present.point.y() == value.point.y() && present.text == value.text;
+    if (isSame)
+        return;
+    present = value;
     m_letsAreValid = false;
 }
 
@@ -39,16 +57,23 @@ void ShapeState::setFrame(const QRectF &frame)
     set(slots_of::Bottom, frame.bottom());
 }
 
-void ShapeState::setStyle(const QString &pen, const QString &fill, double penWidth)
+void ShapeState::setStyle(QRgb pen, QRgb fill, double penWidth)
 {
-    set(slots_of::Pen, pen);
-    set(slots_of::Fill, fill);
+    if (m_pen != pen)
+        set(slots_of::Pen, QColor(pen).name());
+    if (m_fill != fill)
+        set(slots_of::Fill, QColor(fill).name());
+    m_pen = pen;
+    m_fill = fill;
     set(slots_of::PenWidth, penWidth);
 }
 
 void ShapeState::setPoints(const QVector<QPointF> &centres)
 {
+    if (areSame(m_inputs.lists.at(slots_of::PointList), centres))
+        return;
     m_inputs.lists[slots_of::PointList] = centres;
+    m_letsAreValid = false;
     set(slots_of::PointCount, double(centres.size()));
     for (int i = 0; i < m_declaration.points.size(); ++i)
         set(slots_of::FirstPoint + i, centres.value(i));
@@ -61,6 +86,8 @@ void ShapeState::setProperty(const PropertyDeclaration &property, const Value &v
 
 void ShapeState::setList(const PropertyDeclaration &property, const QVector<QPointF> &entries)
 {
+    if (areSame(m_inputs.lists.at(property.slot), entries))
+        return;
     m_inputs.lists[property.slot] = entries;
     m_letsAreValid = false;
 }

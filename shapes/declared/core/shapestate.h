@@ -5,6 +5,7 @@
 
 #include <QtCore/QRectF>
 
+#include <optional>
 #include <utility>
 
 namespace declared {
@@ -18,14 +19,19 @@ public:
     void setSize(QSizeF size);
     /// The frame that the middle of a line may reach.
     void setFrame(const QRectF &frame);
-    void setStyle(const QString &pen, const QString &fill, double penWidth);
+    void setStyle(QRgb pen, QRgb fill, double penWidth);
     void setPoints(const QVector<QPointF> &centres);
     void setProperty(const PropertyDeclaration &property, const Value &value);
     void setList(const PropertyDeclaration &property, const QVector<QPointF> &entries);
     void setLoop(const LoopDeclaration &loop, double value);
 
     /// Allows for another drawing, or for settling once more.
-    void renewBudget() { m_budget = {}; }
+    void renewBudget()
+    {
+        // Lets of an exhausted drawing have no values.
+        m_letsAreValid = m_letsAreValid && !m_budget.isExhausted;
+        m_budget = {};
+    }
     bool isExhausted() const { return m_budget.isExhausted; }
 
     /// Notes an expression whose value isn't finite.
@@ -54,6 +60,8 @@ private:
     Inputs m_inputs;
     Budget m_budget;
     bool m_letsAreValid = false;
+    std::optional<QRgb> m_pen; ///< whose name is known
+    std::optional<QRgb> m_fill;
     QVector<Message> m_notes;
 };
 

@@ -75,13 +75,13 @@ Value Evaluator::run(qint32 index)
     const Value result = resultOf(step);
     // Charge each piece of text once, where it is made.
     if (step.type == Type::Text && !isComposed(step.operation))
-        payFor(result.text);
+        payFor(result.text.size());
     return result;
 }
 
-void Evaluator::payFor(const QString &text)
+void Evaluator::payFor(int characters)
 {
-    m_budget.characters -= text.size();
+    m_budget.characters -= characters;
     m_budget.isExhausted = m_budget.isExhausted || m_budget.characters < 0;
 }
 
@@ -258,11 +258,13 @@ bool Evaluator::appendPart(QString &text, const Value &part, Type type)
         text += part.text;
         return true;
     }
-    QString numbers = numberText(part.point.x());
-    if (type == Type::Point)
-        numbers += QLatin1Char(' ') + numberText(part.point.y());
-    payFor(numbers);
-    text += numbers;
+    const int before = text.size();
+    appendNumber(text, part.point.x());
+    if (type == Type::Point) {
+        text += QLatin1Char(' ');
+        appendNumber(text, part.point.y());
+    }
+    payFor(text.size() - before);
     return true;
 }
 

@@ -110,7 +110,7 @@ public:
 private:
     Value run(qint32 index);
     Value resultOf(const Step &step);
-    void payFor(const QString &text);
+    void payFor(int characters);
     Value argument(const Step &step, int index);
     Value elementOf(const Step &step);
     Value compared(const Step &step);

@@ -3,6 +3,7 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
+#include <charconv>
 #include <numeric>
 
 namespace declared {
@@ -10,6 +11,8 @@ namespace declared {
 namespace {
 
 constexpr int numberDigits = 10;
+/// Most characters of such a number, sign, point and exponent included.
+constexpr int longestNumber = 32;
 /// Longer names are compared up to here: the cost grows with the square.
 constexpr int comparedLength = 40;
 
@@ -49,9 +52,20 @@ Place placeOf(const QString &text, int offset)
     return {before.count(QLatin1Char('\n')) + 1, offset - before.lastIndexOf(QLatin1Char('\n'))};
 }
 
+void appendNumber(QString &text, double number)
+{
+    char digits[longestNumber];
+    // Adding zero turns -0 into 0.
+    const auto end =
+        std::to_chars(digits, digits + longestNumber, number + 0.0, std::chars_format::general, numberDigits);
+    text += QLatin1String(digits, int(end.ptr - digits));
+}
+
 QString numberText(double number)
 {
-    return QString::number(number + 0.0, 'g', numberDigits); // no negative zero
+    QString text;
+    appendNumber(text, number);
+    return text;
 }
 
 QString nearestName(const QString &name, const QStringList &names)

@@ -58,6 +58,7 @@ Place placeOf(const QString &text, int offset);
 
 /// How numbers are written into attributes: ten digits.
 QString numberText(double number);
+void appendNumber(QString &text, double number);
 
 /// The name among `names` that was most likely meant by `name`; empty when none is near.
 QString nearestName(const QString &name, const QStringList &names);
