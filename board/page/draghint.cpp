@@ -16,7 +16,8 @@ QString dragHintOf(CBaseObject &object)
     if (!object.GetSpecialProperty(pagehost::DragHint, out))
         return {};
     QString hint;
-    QDataStream(bytes) >> hint;
+    QDataStream in(bytes);
+    in >> hint;
     return hint;
 }
 

@@ -8,7 +8,8 @@ class QWidget;
 
 namespace board {
 
-/// What the drag of a part of an object does at this moment; empty when nothing is dragged or the object says nothing.
+/// Tells the effect of the present drag of a part of an object; empty when nothing is dragged or the object says
+/// nothing.
 QString dragHintOf(CBaseObject &object);
 
 /// Shows a hint in a bubble near the pointer (global coordinates); hides the bubble for an empty one.

@@ -2,6 +2,7 @@
 
 #include "look/theme.h"
 #include "page/draghint.h"
+#include "page/labeleditor.h"
 
 #include <pagehost/creation.h>
 #include <pagehost/page.h>
@@ -12,10 +13,12 @@
 #include <QtCore/QMimeData>
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace board {
 
@@ -64,6 +67,7 @@ void PageView::setPage(pagehost::Page *page)
         return;
     cancel();
     m_nudging.finish();
+    endWriting();
     if (m_page)
         disconnect(m_page, nullptr, this, nullptr);
     m_page = page;
@@ -157,6 +161,7 @@ void PageView::updateSceneArea()
 void PageView::settle()
 {
     m_nudging.finish();
+    endWriting();
     if (!m_page)
         return;
     m_page->scene()->cancelDrag();
@@ -217,6 +222,7 @@ void PageView::mouseDoubleClickEvent(QMouseEvent *event)
     // second press is a press like any other.
     QGraphicsView::mouseDoubleClickEvent(event);
     mousePressEvent(event);
+    m_doubleClicked = event->pos();
 }
 
 void PageView::mouseMoveEvent(QMouseEvent *event)
@@ -243,13 +249,66 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
         QGraphicsView::mouseReleaseEvent(event);
     updateCursor(event->pos());
     showHint(event->globalPos());
+    const std::optional<QPoint> doubleClicked = std::exchange(m_doubleClicked, std::nullopt);
+    if (doubleClicked && (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
+        writeLabelAt(event->pos());
 }
 
-/// Of the drag that is going on, if the object has one.
+bool PageView::writeLabelAt(const QPoint &pos)
+{
+    CBaseObject *object = isEditable() ? objectAt(pos) : nullptr;
+    if (!object || object->isLocked())
+        return false;
+    const QPointF place = object->mapFromScene(mapToScene(pos));
+    const QVector<EditableLabel> labels = labelsOf(*object);
+    for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
+        if (!label->box.contains(place))
+            continue;
+        write(object, *label);
+        return true;
+    }
+    return false;
+}
+
+/// The topmost one; handles and other aids are none.
+CBaseObject *PageView::objectAt(const QPoint &pos) const
+{
+    const QList<QGraphicsItem *> found = items(pos);
+    for (QGraphicsItem *item : found)
+        if (auto *object = dynamic_cast<CBaseObject *>(item))
+            return object;
+    return nullptr;
+}
+
+bool PageView::writeFirstLabel()
+{
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    if (!isEditable() || selected.size() != 1 || selected.first()->isLocked())
+        return false;
+    const QVector<EditableLabel> labels = labelsOf(*selected.first());
+    if (labels.isEmpty())
+        return false;
+    write(selected.first(), labels.first());
+    return true;
+}
+
+void PageView::endWriting()
+{
+    if (m_labelEditor)
+        m_labelEditor->finish();
+}
+
+void PageView::write(CBaseObject *object, const EditableLabel &label)
+{
+    endWriting();
+    m_labelEditor = new LabelEditor(object, label, this);
+}
+
+/// Of the drag that is going on. Only an object that is selected alone shows what it can be dragged at.
 void PageView::showHint(const QPoint &pointer)
 {
-    auto *dragged = scene() ? dynamic_cast<CBaseObject *>(scene()->mouseGrabberItem()) : nullptr;
-    const QString hint = dragged ? dragHintOf(*dragged) : QString();
+    const QVector<CBaseObject *> selected = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
+    const QString hint = selected.size() == 1 ? dragHintOf(*selected.first()) : QString();
     if (m_showsHint || !hint.isEmpty())
         showDragHint(hint, pointer, viewport());
     m_showsHint = !hint.isEmpty();
@@ -327,6 +386,9 @@ void PageView::keyPressEvent(QKeyEvent *event)
         cancel();
         return event->accept();
     }
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && writeFirstLabel())
+        return event->accept();
     if (event->key() == Qt::Key_Space) {
         m_spaceDown = true;
         viewport()->setCursor(Qt::OpenHandCursor);

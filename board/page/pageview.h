@@ -10,7 +10,9 @@
 #include <QtWidgets/QGraphicsView>
 
 #include <functional>
+#include <optional>
 
+class CBaseObject;
 class QMimeData;
 
 namespace pagehost {
@@ -18,6 +20,9 @@ class CreationTool;
 } // namespace pagehost
 
 namespace board {
+
+class LabelEditor;
+struct EditableLabel;
 
 /// The view that a page is edited in. Its object name is the one that page objects show their control points in.
 ///
@@ -94,6 +99,13 @@ private:
     void panTo(const QPoint &pos);
     void endBand(const QMouseEvent *event);
     void showHint(const QPoint &pointer);
+    /// Begins to write the label there (viewport coordinates), or the first one of the only selected object. False
+    /// where there is none.
+    bool writeLabelAt(const QPoint &pos);
+    bool writeFirstLabel();
+    CBaseObject *objectAt(const QPoint &pos) const;
+    void write(CBaseObject *object, const EditableLabel &label);
+    void endWriting();
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
     bool nudge(const QKeyEvent *event);
@@ -113,6 +125,9 @@ private:
     bool m_panning = false;
     bool m_showsHint = false;
     QPoint m_panPos; ///< viewport coordinates
+    /// Of a double click that is going on, viewport coordinates.
+    std::optional<QPoint> m_doubleClicked;
+    QPointer<LabelEditor> m_labelEditor;
 };
 
 /// The format under which the palette drags a kind of shape: its id in UTF-8.

@@ -18,6 +18,7 @@
 #include <QtGui/QPainterPath>
 #include <QtGui/QPainterPathStroker>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -299,6 +300,10 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
         writeConnections(out);
         return true;
     }
+    if (propId == pagehost::LabelPlaces && document) {
+        writeLabels(out);
+        return true;
+    }
     if (propId == pagehost::DragHint) {
         const QString hint = dragHint();
         if (!hint.isEmpty())
@@ -315,6 +320,8 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
 
 bool StyledShape::SetSpecialProperty(int propId, QDataStream &in, bool record)
 {
+    if (propId == pagehost::LabelText)
+        return writeLabel(in, record);
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::SetSpecialProperty(propId, in, record);
     if (!document || !document->animated())
@@ -380,22 +387,55 @@ QVector<Connection> StyledShape::connections()
             {QStringLiteral("bottom"), {box.center().x(), box.bottom()}, 90}};
 }
 
-/// Mirroring is part of how a shape is painted, not of its item.
-void StyledShape::writeConnections(QDataStream &out)
+QTransform StyledShape::seenMapping()
 {
     const QRectF target = owner->getClientRect();
-    const bool acrossX = owner->isMirrored(), acrossY = owner->isFlipped();
-    const QTransform mirrored = QTransform::fromScale(acrossX ? -1 : 1, acrossY ? -1 : 1) *
-                                QTransform::fromTranslate(acrossX ? target.left() + target.right() : 0,
-                                                          acrossY ? target.top() + target.bottom() : 0);
-    const QTransform toObject = stretching(drawnArea(), target) * mirrored;
+    const bool acrossX = owner->isMirrored();
+    const bool acrossY = owner->isFlipped();
+    const double shiftX = acrossX ? target.left() + target.right() : 0;
+    const double shiftY = acrossY ? target.top() + target.bottom() : 0;
+    return stretching(drawnArea(), target) * QTransform::fromScale(acrossX ? -1 : 1, acrossY ? -1 : 1) *
+           QTransform::fromTranslate(shiftX, shiftY);
+}
+
+void StyledShape::writeConnections(QDataStream &out)
+{
+    const QTransform toObject = seenMapping();
     const QVector<Connection> places = connections();
     out << qint32(places.size());
     for (const Connection &connection : places) {
-        const double seenX = acrossX ? 180 - connection.out : connection.out;
-        const double seen = acrossY ? -seenX : seenX;
+        const double seenX = owner->isMirrored() ? 180 - connection.out : connection.out;
+        const double seen = owner->isFlipped() ? -seenX : seenX;
         out << connection.name << toObject.map(connection.place) << seen - 360 * std::floor(seen / 360);
     }
+}
+
+/// Letters as they are typed are recorded, but no steps to take back.
+bool StyledShape::writeLabel(QDataStream &in, bool record)
+{
+    qint32 id = 0;
+    QString text;
+    in >> id >> text;
+    const QVector<LabelPlace> places = labelPlaces();
+    const auto isIt = [id](const LabelPlace &label) { return label.propertyId == id; };
+    if (in.status() != QDataStream::Ok || std::none_of(places.cbegin(), places.cend(), isIt))
+        return false;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << text;
+    QDataStream value(bytes);
+    return SetAttribute(id, value, record, false);
+}
+
+void StyledShape::writeLabels(QDataStream &out)
+{
+    const QTransform toObject = seenMapping();
+    const QVector<LabelPlace> places = labelPlaces();
+    out << qint32(places.size());
+    for (const LabelPlace &label : places)
+        out << qint32(label.propertyId) << label.text << toObject.mapRect(label.box)
+            << label.fontSize * std::abs(toObject.m22()) << label.isBold << label.hasManyLines << label.color
+            << qint32(label.alignment);
 }
 
 QTransform StyledShape::stretching(const QRectF &box, const QRectF &target)

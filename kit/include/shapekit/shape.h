@@ -71,7 +71,7 @@ protected:
     virtual QSizeF smallestSize() const;
     /// False to refuse a position that a drag would move a control point to; the point then stays where it is.
     virtual bool mayMove(int number, QPointF centre);
-    /// What a drag of a point does at this moment, for the user to read: "Corner radius 12".
+    /// Tells the user the effect of the present drag of a point: "Corner radius 12".
     virtual QString hint(int number);
     /// Writes the geometry for the present points, size and properties. Called once before the drawing is needed,
     /// however much has changed since the last time.

@@ -15,6 +15,19 @@ struct Connection
     double out = 0; ///< the direction of a line that leaves, degrees clockwise from the right; NaN for any
 };
 
+/// A text of a shape that the user writes, document units.
+struct LabelPlace
+{
+    int propertyId = 0; ///< of the text
+    QString text;
+    QRectF box;
+    double fontSize = 0;
+    bool isBold = false;
+    bool hasManyLines = true;
+    QColor color;
+    Qt::Alignment alignment;
+};
+
 /// A shape that takes its look from the template: which nodes follow the user's pen and fill, and who fills it.
 ///
 /// The type number decides who fills a shape. For types up to 26 and for 1000 it is the page object, with
@@ -71,10 +84,12 @@ public:
     /// Answer to pagehost::PaintedArea: a box, item coordinates, around all lines and texts with their pens, and
     /// around the area where the shape can be hit.
     virtual QRectF paintedArea();
-    /// What a drag that is going on does, for the user to read; empty for nothing to say.
+    /// Tells the user the effect of the present drag; empty for nothing to say.
     virtual QString dragHint() { return {}; }
     /// Places for lines to other objects: the middles of the sides, named "left", "top", "right" and "bottom".
     virtual QVector<Connection> connections();
+    /// Texts that are written on the page, last drawn last.
+    virtual QVector<LabelPlace> labelPlaces() { return {}; }
     /// Whether the shape is reading its data; its owner renders its picture afterwards.
     bool isReadingData() const { return isBeingLoaded; }
     /// Brings the document up to date before it is used; for shapes that defer drawing.
@@ -102,7 +117,11 @@ protected:
     QZeSvgNode *node(const char *id) const;
 
 private:
+    /// The mapping of the drawing to the page object as it is seen: mirroring is part of how a shape is painted.
+    QTransform seenMapping();
     void writeConnections(QDataStream &out);
+    void writeLabels(QDataStream &out);
+    bool writeLabel(QDataStream &in, bool record);
     void play(bool on);
     void readLook();
     void colorPenFollowers();

@@ -24,6 +24,7 @@ constexpr int externallyFilledType = 1000;
 constexpr double farAway = 1e6;
 constexpr int presentForm = 1;
 const QLatin1String savedKey(declaredKey);
+const QString labelsKey = QStringLiteral("labels");
 // Of the library, in the JSON of every shape.
 const QString controlCountKey = QStringLiteral("SVG_ControlCount");
 const QString viewBoxKey = QStringLiteral("SVG_viewBox");
@@ -72,6 +73,7 @@ DeclaredShape::DeclaredShape(CSVGObj *owner, const ShapeKind &kind)
     , m_declaration(kind.declaration())
     , m_state(kind.declaration())
     , m_figure(kind.declaration())
+    , m_labels(this, kind.declaration().labels, kind.labelTitles())
 {
     keepAspectRatio = m_declaration.keepsAspect;
     setExternalFilled(m_declaration.type == externallyFilledType);
@@ -315,6 +317,17 @@ void DeclaredShape::takeOver(DeclaredShape &former)
     m_isTextInlined = former.m_isTextInlined;
 }
 
+QVector<shapekit::LabelPlace> DeclaredShape::labelPlaces()
+{
+    settleDrawing();
+    return m_labels.places();
+}
+
+QByteArray DeclaredShape::toSvg()
+{
+    return m_labels.withTexts(Shape::toSvg());
+}
+
 QString DeclaredShape::hint(int number)
 {
     const Value hint = presentState().valueOf(m_declaration.point(number).hint);
@@ -340,6 +353,7 @@ void DeclaredShape::draw()
 {
     updateState();
     m_figure.write(*document, m_state);
+    m_labels.draw(*document, m_state);
     for (const Message &note : m_state.takeNotes())
         m_kind.tell(note);
 }
@@ -362,6 +376,9 @@ QJsonObject DeclaredShape::values() const
     saved[QStringLiteral("values")] = values;
     if (m_isTextInlined)
         saved[QStringLiteral("inline")] = inlined(m_declaration.text);
+    const QJsonObject labels = m_labels.toJson();
+    if (!labels.isEmpty())
+        saved[labelsKey] = labels;
     return saved;
 }
 
@@ -388,6 +405,7 @@ void DeclaredShape::takeValues(const QJsonObject &saved)
         }
         m_values.at(size_t(i))->fromJson(value);
     }
+    m_labels.fromJson(saved.value(labelsKey).toObject());
     propertyChanged(nullptr);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <declared/core/figure.h>
+#include <declared/core/labels.h>
 #include <declared/core/shapekind.h>
 
 #include <shapekit/shape.h>
@@ -58,6 +59,8 @@ public:
     QRectF paintedArea() override;
     /// Those of the file, if it has any.
     QVector<shapekit::Connection> connections() override;
+    QVector<shapekit::LabelPlace> labelPlaces() override;
+    QByteArray toSvg() override;
     /// A picture for palettes, SVG; empty: the look of a new shape.
     QByteArray icon() const { return m_declaration.icon; }
 
@@ -114,6 +117,7 @@ private:
     Figure m_figure;
     std::vector<std::unique_ptr<shapekit::Property>> m_values; ///< by index of the declared property
     std::vector<FormerValue> m_former;
+    Labels m_labels;
 };
 
 } // namespace declared

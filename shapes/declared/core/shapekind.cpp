@@ -50,6 +50,8 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
         m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");
     }
     m_kind.makeCore = [this](CSVGObj *owner) -> CSVGBase * { return new DeclaredShape(owner, *this); };
+    for (const LabelDeclaration &label : declaration->labels)
+        m_labelTitles.push_back(makeLabelTitles(label));
     m_entries.resize(size_t(declaration->properties.size()));
     for (int i = 0; i < declaration->properties.size(); ++i) {
         const PropertyDeclaration &property = declaration->properties.at(i);
@@ -58,6 +60,39 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
             m_entries[size_t(i)].push_back(
                 std::make_unique<shapekit::Text>(entryKey(i, entry), property.entries.at(entry)));
     }
+}
+
+LabelTitles ShapeKind::makeLabelTitles(const LabelDeclaration &label) const
+{
+    const auto title = [&](const char *part) {
+        const QString name = label.id + QLatin1String(part);
+        return std::make_unique<shapekit::Text>(m_kind.keyPrefix + m_declaration->id + QLatin1Char('_') + name,
+                                                QStringLiteral("Declared_") + name);
+    };
+    return {title(""),       title("_size"),  title("_bold"),   title("_colour"),
+            title("_align"), title("_start"), title("_middle"), title("_end")};
+}
+
+/// The properties are named after the label: "Caption", "Caption: bold".
+void ShapeKind::addLabelTexts(QMap<QString, QString> &table, int label, const QString &language) const
+{
+    const bool isGerman = language == QLatin1String("de");
+    const Texts &given = m_declaration->labels.at(label).title;
+    const QString own = given.value(language, given.value(english, QStringLiteral("Text")));
+    if (!isGerman && language != english)
+        return;
+    const LabelTitles &titles = m_labelTitles.at(size_t(label));
+    const auto add = [&](const shapekit::Text &text, const char *inEnglish, const char *inGerman) {
+        table.insert(text.key(), own + QStringLiteral(": ") + QString::fromUtf8(isGerman ? inGerman : inEnglish));
+    };
+    table.insert(titles.text->key(), own);
+    add(*titles.size, "font size", "Schriftgröße");
+    add(*titles.bold, "bold", "fett");
+    add(*titles.colour, "colour", "Farbe");
+    add(*titles.alignment, "alignment", "Ausrichtung");
+    table.insert(titles.start->key(), isGerman ? QStringLiteral("Am Anfang") : QStringLiteral("Start"));
+    table.insert(titles.middle->key(), isGerman ? QStringLiteral("In der Mitte") : QStringLiteral("Middle"));
+    table.insert(titles.end->key(), isGerman ? QStringLiteral("Am Ende") : QStringLiteral("End"));
 }
 
 void ShapeKind::tell(const Message &message) const
@@ -121,6 +156,8 @@ QMap<QString, QString> ShapeKind::texts(const QString &language) const
         for (int entry = 0; entry < property.entries.size(); ++entry)
             addText(table, entryKey(i, entry), property.entryTitles.at(entry), language);
     }
+    for (int label = 0; label < m_declaration->labels.size(); ++label)
+        addLabelTexts(table, label, language);
     const KnownGroup *known = knownGroup(m_declaration->group);
     if (!known)
         addText(table, groupKey(), m_declaration->groupTitle, language);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <declared/core/labeltitles.h>
 #include <declared/reader/declaration.h>
 #include <declared/reader/message.h>
 
@@ -25,6 +26,7 @@ public:
     /// The title of a property, and those of the entries of a choice, by index.
     const shapekit::Text &title(int property) const { return *m_titles.at(size_t(property)); }
     QVector<const shapekit::Text *> entries(int property) const;
+    const std::vector<LabelTitles> &labelTitles() const { return m_labelTitles; }
     /// In a language, else in English where that is wanted.
     QMap<QString, QString> texts(const QString &language) const;
     /// Something that is wrong with a drawing of the shape, as values of the user have made it. The listener gets
@@ -39,6 +41,8 @@ private:
     QString propertyName(int property) const;
     QString propertyKey(int property) const;
     QString entryKey(int property, int entry) const;
+    LabelTitles makeLabelTitles(const LabelDeclaration &label) const;
+    void addLabelTexts(QMap<QString, QString> &table, int label, const QString &language) const;
 
     SharedDeclaration m_declaration;
     mutable QVector<Message> m_told;
@@ -46,6 +50,7 @@ private:
     shapekit::Kind m_kind;
     std::vector<std::unique_ptr<shapekit::Text>> m_titles;
     std::vector<std::vector<std::unique_ptr<shapekit::Text>>> m_entries; ///< by property
+    std::vector<LabelTitles> m_labelTitles;
 };
 
 } // namespace declared

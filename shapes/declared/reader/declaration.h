@@ -7,6 +7,7 @@
 #include <QtCore/QSizeF>
 #include <QtGui/QColor>
 
+#include <array>
 #include <memory>
 
 namespace declared {
@@ -145,6 +146,26 @@ struct RepeatDeclaration
     int drawnRounds = 0; ///< children in the file
 };
 
+enum class LabelAlignment { Start, Middle, End };
+
+/// A text in a box that the user writes.
+struct LabelDeclaration
+{
+    QString id; ///< of its element
+    /// Ids of its properties: text, size, bold, colour, alignment.
+    std::array<int, 5> ids{};
+    Texts title;
+    QString text;            ///< of a new shape
+    QVector<Expression> box; ///< left, top, width, height
+    double size = 12;        ///< of the font
+    double smallest = 0;     ///< above 0: the text gets smaller, down to this, until it fits
+    bool isBold = false;
+    bool hasManyLines = true;
+    QColor colour;
+    LabelAlignment alignment = LabelAlignment::Middle;
+    LabelAlignment vertical = LabelAlignment::Middle;
+};
+
 /// A place where lines to other objects may end.
 struct ConnectionDeclaration
 {
@@ -189,6 +210,7 @@ struct Declaration
     QVector<PointDeclaration> points;
     QVector<RepeatDeclaration> repeats;
     QVector<ConnectionDeclaration> connections;
+    QVector<LabelDeclaration> labels;
     QVector<ElementDeclaration> elements;
     Program program;
     int slotCount = 0;

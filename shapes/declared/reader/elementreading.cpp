@@ -33,6 +33,12 @@ constexpr AttributeForm attributeForms[] = {
     {"y2", " line "},
     {"text", " text "},
     {"repeat", " g "},
+    {"box", ""},
+    {"align", ""},
+    {"valign", ""},
+    {"size", ""},
+    {"lines", ""},
+    {"title", ""},
     {"from", " animate animateColor animateMotion animateTransform "},
     {"to", " animate animateColor animateMotion animateTransform set "},
     {"by", " animate animateColor animateMotion animateTransform "},
@@ -131,7 +137,12 @@ void FileReader::readElement(int index, int repeat, const QVector<int> &path)
         if (attribute.namespaceUri != shapeNamespace)
             continue;
         isDeclared = true;
-        readAttribute(element, attribute, declared, written);
+        if (!isLabel(element) || attribute.name == QLatin1String("visible"))
+            readAttribute(element, attribute, declared, written);
+    }
+    if (isLabel(element)) {
+        readLabel(index, repeat >= 0);
+        written = m_written.value(index);
     }
     if (!isDeclared)
         return;

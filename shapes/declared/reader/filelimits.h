@@ -18,6 +18,7 @@ constexpr int entriesOfChoice = 64;
 constexpr int entriesOfList = 200;
 constexpr int repeats = 64;
 constexpr int connections = 64;
+constexpr int labels = 256;
 constexpr int textCharacters = 10000;
 /// @}
 

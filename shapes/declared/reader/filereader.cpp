@@ -87,10 +87,10 @@ void FileReader::warning(const char *code, const Element &element, const QString
     report(Message::Warning, code, m_tree.placeOf(element.offset), text);
 }
 
-void FileReader::faultIn(const Attribute &attribute)
+void FileReader::faultIn(const Attribute &attribute, int offset)
 {
     const Fault &fault = m_compiler.fault();
-    report(Message::Error, fault.code.toLatin1().constData(), m_tree.placeIn(attribute, fault.offset),
+    report(Message::Error, fault.code.toLatin1().constData(), m_tree.placeIn(attribute, offset + fault.offset),
            fault.message);
 }
 
@@ -145,12 +145,13 @@ void FileReader::checkNames(const Element &element, const QStringList &known)
     }
 }
 
-Texts FileReader::texts(const Element &element, const char *name)
+Texts FileReader::textsOf(const Element &element, const char *name, const QString &namespaceUri)
 {
     Texts texts;
     const Attribute *first = nullptr;
     for (const Attribute &attribute : element.attributes) {
-        if (attribute.name.section(QLatin1Char('.'), 0, 0) != QLatin1String(name))
+        if (attribute.name.section(QLatin1Char('.'), 0, 0) != QLatin1String(name) ||
+            attribute.namespaceUri != namespaceUri)
             continue;
         first = first ? first : &attribute;
         const QString language = attribute.name.section(QLatin1Char('.'), 1);

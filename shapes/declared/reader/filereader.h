@@ -44,16 +44,18 @@ private:
     void error(const char *code, const Element &element, const QString &text);
     void error(const char *code, const Attribute &attribute, const QString &text, int offset = 0);
     void warning(const char *code, const Element &element, const QString &text);
-    void faultIn(const Attribute &attribute);
+    /// The fault of a part of an attribute that begins at `offset`.
+    void faultIn(const Attribute &attribute, int offset);
     bool isFaulty() const;
     /// Takes what the compiler made of an attribute; false, with its fault told, when there is nothing.
-    template<class Result> bool take(std::optional<Result> compiled, Result &result, const Attribute &attribute)
+    template<class Result>
+    bool take(std::optional<Result> compiled, Result &result, const Attribute &attribute, int offset = 0)
     {
         if (compiled) {
             result = *compiled;
             locate(result, m_tree.placeIn(attribute, 0));
         } else {
-            faultIn(attribute);
+            faultIn(attribute, offset);
         }
         return compiled.has_value();
     }
@@ -67,7 +69,8 @@ private:
     /// @{
     void checkNames(const Element &element, const QStringList &known);
     /// The texts of an attribute by language; warns when there are some, but no English one.
-    Texts texts(const Element &element, const char *name);
+    Texts texts(const Element &element, const char *name) { return textsOf(element, name, {}); }
+    Texts textsOf(const Element &element, const char *name, const QString &namespaceUri);
     bool readNumber(const Attribute &attribute, double &number, const char *code);
     bool readChoice(const Attribute *attribute, const QStringList &values, int &index, const char *code);
     QVector<double> numbers(const QString &text, bool &isRead) const;
@@ -95,6 +98,8 @@ private:
 
     void readProperties();
     void readProperty(const Element &element);
+    /// The same for every version of a file that keeps type and name, wherever the property stands in it.
+    static int propertyId(const QString &kind, const QString &name);
     void readFormer(const Element &element, PropertyDeclaration &property);
     void checkFormer(const Element &element);
     void readValue(const Element &element, PropertyDeclaration &property);
@@ -136,6 +141,10 @@ private:
     void readWritten(const Attribute &attribute, ElementDeclaration &declared, TemplateElement &written);
     void readKeeps(const Attribute &attribute, TemplateElement &written);
     void readLetters(const Element &element, ElementDeclaration &declared, TemplateElement &written);
+    bool isLabel(const Element &element) const;
+    void readLabel(int index, bool isRepeated);
+    void readLabelBox(const Element &element, LabelDeclaration &label);
+    void readLabelLook(const Element &element, LabelDeclaration &label);
     void readRepeat(int index);
     void readRepeated(int index, int repeat, const QVector<int> &path);
     bool isDrawn(const Element &element) const;

@@ -21,14 +21,6 @@ constexpr double largestNumber = 1e6;
 /// Ids of declared properties begin there, above those of all others.
 constexpr int firstPropertyId = 1 << 20;
 
-/// The same for every version of a file that keeps type and name, wherever the property stands in it.
-int propertyId(const QString &kind, const QString &name)
-{
-    const QByteArray text = kind.toUtf8() + ':' + name.toUtf8();
-    const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha1);
-    return firstPropertyId + (uchar(hash.at(0)) << 12 | uchar(hash.at(1)) << 4 | uchar(hash.at(2)) >> 4);
-}
-
 bool isNumber(PropertyDeclaration::Kind kind)
 {
     return kind == PropertyDeclaration::Whole || kind == PropertyDeclaration::Real;
@@ -54,6 +46,13 @@ Type typeOf(PropertyDeclaration::Kind kind)
 }
 
 } // namespace
+
+int FileReader::propertyId(const QString &kind, const QString &name)
+{
+    const QByteArray text = kind.toUtf8() + ':' + name.toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha1);
+    return firstPropertyId + (uchar(hash.at(0)) << 12 | uchar(hash.at(1)) << 4 | uchar(hash.at(2)) >> 4);
+}
 
 void FileReader::readProperties()
 {

@@ -409,7 +409,8 @@ QString dragHint(const ShapeDriver &shape)
     if (!shape.object().GetSpecialProperty(pagehost::DragHint, out))
         return {};
     QString hint;
-    QDataStream(bytes) >> hint;
+    QDataStream in(bytes);
+    in >> hint;
     return hint;
 }
 

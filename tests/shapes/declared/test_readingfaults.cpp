@@ -105,6 +105,19 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre_data()
     row("<shape:connection name='a' at='middle'/><shape:connection name='a' at='middle'/>", "3:65 C12");
     row("<shape:property name='a' type='number' value='1'/>", "3:32 C13");
     row("<shape:property name='a' value='1'/>", "3:1 C13");
+    // Both names have the SHA-1 beginning 8d810.
+    row("<shape:property name='bqj' type='switch' value='no'/><shape:property name='cnu' type='switch' "
+        "value='no'/>",
+        "3:76 C14");
+    row("<shape:let name='a' value='1" + QByteArray(" + 1").repeated(500) + "'/>", "3:2028 C26");
+    row("<text id='label_1'>a</text>", "3:1 C43");
+    row("<text id='label_1' shape:box='1; 2; 3'>a</text>", "3:31 C43");
+    row("<text id='label_1' shape:box='1; 2; 3; x'>a</text>", "3:40 C20");
+    row("<text id='label_1' shape:box='1; 2; 3; 4' shape:size='fit 9 .. 6'>a</text>", "3:55 C43");
+    row("<text id='label_1' shape:box='1; 2; 3; 4' shape:align='left'>a</text>", "3:56 C43");
+    row("<text id='label_1' shape:box='1; 2; 3; 4' shape:text='a'>a</text>", "3:55 C38");
+    row("<text id='title' shape:box='1; 2; 3; 4'>a</text>", "3:29 C38");
+    row("<g shape:repeat='i in 0..1'><text id='label_1' shape:box='1; 2; 3; 4'>a</text></g>", "3:29 C38");
     row("<shape:property name='a' type='whole' value='1'/>", "3:1 C15");
     row("<shape:property name='a' type='whole' from='1' to='5'/>", "3:1 C15");
     row("<shape:property name='a' type='whole' from='1' to='5' value='6'/>", "3:62 C15");

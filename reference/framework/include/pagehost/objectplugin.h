@@ -61,7 +61,18 @@ enum SpecialProperty {
     /// Read only: the places where lines to other objects may end: a qint32 count, then for each its name
     /// (QString), the place (QPointF, item coordinates as they are seen) and the direction in which a line leaves
     /// it (double, degrees clockwise from the right; NaN for any).
-    ConnectionPlaces = 2907
+    ConnectionPlaces = 2907,
+    /// Read only: texts that users write on the page: a qint32 count, then for each its property (qint32), the text
+    /// (QString), its box (QRectF, item coordinates as they are seen), the height of the font (double, item units),
+    /// whether it is bold, whether it may have several lines (bool each), its colour (QColor), and its place in the
+    /// box (qint32, Qt::Alignment).
+    LabelPlaces = 2908,
+    /// Write only: one of these texts while it is typed: its property (qint32) and the text (QString). Recorded
+    /// where
+    /// that is asked for, without an undo step: at the end the host puts the first text back in this way, and sets
+    /// the
+    /// property to the last one.
+    LabelText = 2909
 };
 
 /// Texts by localisation key.

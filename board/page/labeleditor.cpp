@@ -1,0 +1,132 @@
+#include "page/labeleditor.h"
+
+#include <pagehost/objectplugin.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtCore/QDataStream>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QGraphicsView>
+
+#include <cmath>
+
+namespace board {
+
+namespace {
+
+/// Room around the label, logical pixels.
+constexpr int margin = 3;
+constexpr int smallestFont = 6;
+/// Of paper that dark letters are written on, and of the other one.
+constexpr int lightLetters = 170;
+const QString lightPaper = QStringLiteral("#ffffff");
+const QString darkPaper = QStringLiteral("#404040");
+
+} // namespace
+
+QVector<EditableLabel> labelsOf(CBaseObject &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!object.GetSpecialProperty(pagehost::LabelPlaces, out))
+        return {};
+    QDataStream in(bytes);
+    qint32 count = 0;
+    in >> count;
+    QVector<EditableLabel> labels;
+    for (int i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        EditableLabel label;
+        qint32 alignment = 0;
+        in >> label.propertyId >> label.text >> label.box >> label.fontSize >> label.isBold >> label.hasManyLines >>
+            label.color >> alignment;
+        label.alignment = Qt::Alignment(alignment);
+        if (in.status() == QDataStream::Ok)
+            labels.append(label);
+    }
+    return labels;
+}
+
+LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, QGraphicsView *view)
+    : QTextEdit(view->viewport())
+    , m_object(object)
+    , m_label(label)
+{
+    const double zoom = std::hypot(view->transform().m11(), view->transform().m12());
+    QFont font(QStringLiteral("sans-serif"));
+    font.setPixelSize(std::max(smallestFont, qRound(label.fontSize * zoom)));
+    font.setBold(label.isBold);
+    setFont(font);
+    setAcceptRichText(false);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setLineWrapMode(label.hasManyLines ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
+    setStyleSheet(QStringLiteral("QTextEdit { color: %1; background: %2; }")
+                      .arg(label.color.name(), label.color.lightness() > lightLetters ? darkPaper : lightPaper));
+    QTextOption option = document()->defaultTextOption();
+    option.setAlignment(label.alignment & Qt::AlignHorizontal_Mask);
+    document()->setDefaultTextOption(option);
+    document()->setDocumentMargin(0);
+    setPlainText(label.text);
+    selectAll();
+
+    // A label of a turned object is written upright, about its middle.
+    const QPoint middle = view->mapFromScene(object->mapToScene(label.box.center()));
+    const QSize size = (label.box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
+    QRect place(QPoint(), size.expandedTo({40, font.pixelSize() + 2 * margin + 4}));
+    place.moveCenter(middle);
+    setGeometry(place);
+    connect(this, &QTextEdit::textChanged, this, [this] { type(toPlainText(), true); });
+    show();
+    setFocus();
+}
+
+void LabelEditor::type(const QString &text, bool record)
+{
+    if (!m_object || m_isFinished)
+        return;
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << m_label.propertyId << text;
+    QDataStream in(bytes);
+    m_object->SetSpecialProperty(pagehost::LabelText, in, record);
+}
+
+void LabelEditor::finish()
+{
+    if (m_isFinished)
+        return;
+    const QString text = toPlainText();
+    if (m_object && text != m_label.text) {
+        type(m_label.text, false);
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << text;
+        QDataStream in(&bytes, QIODevice::ReadWrite);
+        m_object->SetAttribute(m_label.propertyId, in, false);
+    }
+    m_isFinished = true;
+    hide();
+    deleteLater();
+}
+
+void LabelEditor::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool ends = isReturn && (!m_label.hasManyLines || (event->modifiers() & Qt::ControlModifier));
+    if (event->key() == Qt::Key_Escape || ends) {
+        event->accept();
+        finish();
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
+void LabelEditor::focusOutEvent(QFocusEvent *event)
+{
+    QTextEdit::focusOutEvent(event);
+    // A menu of the editor, or another window, is no end.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        finish();
+}
+
+} // namespace board

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QPointer>
+#include <QtCore/QRectF>
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+#include <QtWidgets/QTextEdit>
+
+class CBaseObject;
+class QGraphicsView;
+
+namespace board {
+
+/// A text of an object that is written on the page (pagehost::LabelPlaces).
+struct EditableLabel
+{
+    qint32 propertyId = 0;
+    QString text;
+    QRectF box;          ///< item coordinates
+    double fontSize = 0; ///< item units
+    bool isBold = false;
+    bool hasManyLines = true;
+    QColor color;
+    Qt::Alignment alignment;
+};
+
+/// In drawing order; empty for an object without such texts.
+QVector<EditableLabel> labelsOf(CBaseObject &object);
+
+/// Writes a text of an object in its place on the page, with input methods. The object shows and records every
+/// letter; the end makes one step to take back.
+///
+/// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line.
+class LabelEditor : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    /// Covers the label in the view, with all of its text selected.
+    LabelEditor(CBaseObject *object, const EditableLabel &label, QGraphicsView *view);
+
+    /// Makes the step and deletes the editor in the next turn of the event loop.
+    void finish();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void type(const QString &text, bool record);
+
+    QPointer<CBaseObject> m_object;
+    EditableLabel m_label;
+    bool m_isFinished = false;
+};
+
+} // namespace board

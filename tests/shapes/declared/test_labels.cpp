@@ -1,0 +1,342 @@
+// Texts that the user writes into declared shapes.
+
+#include "shapefile.h"
+
+#include <shapes/shapedriver.h>
+
+#include <declared/core/labellayout.h>
+#include <declared/core/shapekind.h>
+
+#include <pagehost/objectplugin.h>
+
+#include <shapekit/shapeobject.h>
+
+#include <framework/cundoredo.h>
+
+#include <svgbase/qzesvgtinydocument.h>
+
+#include <QtCore/QDataStream>
+#include <QtTest/QtTest>
+#include <QtWidgets/QUndoStack>
+
+using namespace declared;
+
+/// The kind of the plug-in, which the kit asks for.
+const shapekit::Kind &shapekit::kind()
+{
+    static const Kind plugin;
+    return plugin;
+}
+
+namespace {
+
+const QByteArray cloud = "<path id='figure' fill='#fff' d='M0 0H120V80H0Z' shape:d='M0 0H{w}V{h}H0Z'/>"
+                         "<text id='label_1' x='60' y='44' font-size='10' text-anchor='middle' fill='#334455' "
+                         "shape:box='10; 20; w - 20; h - 40' shape:title='Caption'>Hello</text>";
+
+LabelLook lookOf(const QString &text)
+{
+    LabelLook look;
+    look.text = text;
+    look.box = {100, 50};
+    look.size = 10;
+    return look;
+}
+
+QStringList textsOf(const LabelLayout &layout)
+{
+    QStringList texts;
+    for (const LabelLine &line : layout.lines)
+        texts.append(line.text);
+    return texts;
+}
+
+QByteArray bytesOf(CSVGObj &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    object.save(out);
+    return bytes;
+}
+
+} // namespace
+
+class TestLabels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textStandsInTheMiddleOfItsBox();
+    void textStandsAtTheSideItIsAlignedTo_data();
+    void textStandsAtTheSideItIsAlignedTo();
+    void longTextIsBrokenAtTheBox();
+    void lineBreaksAreKept();
+    void textThatFitsGetsAsLargeAsItMay();
+    void boldLettersAreWider();
+    void arabicBeginsAtTheRight();
+    void chineseIsBrokenBetweenSigns();
+    void labelIsDrawnInItsBox();
+    void labelFollowsTheSize();
+    void panelOffersTextAndLook();
+    void writtenTextIsUndoneInOneStep();
+    void labelIsSavedAndOpened();
+    void exportedPictureHasTheTextAsText();
+    void hostIsToldWhereALabelStands();
+    void typedTextIsNoStepOfItsOwn();
+    void titlesNameTheLabel();
+
+private:
+    const ShapeKind m_kind{declaredtest::readOf(declaredtest::fileOf(cloud))};
+};
+
+void TestLabels::textStandsInTheMiddleOfItsBox()
+{
+    const LabelLayout layout = layOut(lookOf(QStringLiteral("Hello")));
+    QCOMPARE(textsOf(layout), QStringList({QStringLiteral("Hello")}));
+    QCOMPARE(layout.size, 10.0);
+    QCOMPARE(layout.lines.first().anchor.x(), 50.0);
+    const QRectF letters = layout.outline.boundingRect();
+    QVERIFY(qAbs(letters.center().x() - 50) < 1);
+    QVERIFY(qAbs(letters.center().y() - 25) < 2);
+    QVERIFY(letters.height() > 6 && letters.height() < 10);
+}
+
+void TestLabels::textStandsAtTheSideItIsAlignedTo_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<int>("vertical");
+    QTest::newRow("top left") << int(LabelAlignment::Start) << int(LabelAlignment::Start);
+    QTest::newRow("bottom right") << int(LabelAlignment::End) << int(LabelAlignment::End);
+}
+
+void TestLabels::textStandsAtTheSideItIsAlignedTo()
+{
+    QFETCH(int, alignment);
+    QFETCH(int, vertical);
+    LabelLook look = lookOf(QStringLiteral("Hello"));
+    look.alignment = LabelAlignment(alignment);
+    look.vertical = LabelAlignment(vertical);
+    const LabelLayout layout = layOut(look);
+    const QRectF letters = layout.outline.boundingRect();
+    const bool isStart = look.alignment == LabelAlignment::Start;
+    QCOMPARE(layout.lines.first().anchor.x(), isStart ? 0.0 : 100.0);
+    QVERIFY(isStart ? letters.left() >= 0 && letters.left() < 2 : letters.right() <= 100 && letters.right() > 98);
+    QVERIFY(isStart ? letters.bottom() < 14 : letters.top() > 36);
+}
+
+void TestLabels::longTextIsBrokenAtTheBox()
+{
+    LabelLook look = lookOf(QStringLiteral("The quick brown fox jumps over the lazy dog"));
+    const LabelLayout broken = layOut(look);
+    QVERIFY(broken.lines.size() >= 2);
+    QCOMPARE(textsOf(broken).join(QLatin1Char(' ')), look.text);
+    QVERIFY(broken.outline.boundingRect().width() <= 100);
+    look.hasManyLines = false;
+    QCOMPARE(textsOf(layOut(look)), QStringList({look.text}));
+}
+
+void TestLabels::lineBreaksAreKept()
+{
+    const LabelLayout layout = layOut(lookOf(QStringLiteral("one\ntwo")));
+    QCOMPARE(textsOf(layout), QStringList({QStringLiteral("one"), QStringLiteral("two")}));
+    QVERIFY(layout.lines.at(1).anchor.y() > layout.lines.at(0).anchor.y() + 8);
+}
+
+void TestLabels::textThatFitsGetsAsLargeAsItMay()
+{
+    LabelLook look = lookOf(QStringLiteral("A"));
+    look.size = 30;
+    look.smallest = 6;
+    QCOMPARE(layOut(look).size, 30.0);
+    look.text = QStringLiteral("The quick brown fox jumps over the lazy dog and sleeps");
+    const LabelLayout smaller = layOut(look);
+    QVERIFY(smaller.size > 6 && smaller.size < 30);
+    const QRectF letters = smaller.outline.boundingRect();
+    QVERIFY(QRectF(0, 0, 100, 50).contains(letters));
+    look.text = QString(QStringLiteral("many words ")).repeated(80);
+    QCOMPARE(layOut(look).size, 6.0);
+}
+
+void TestLabels::boldLettersAreWider()
+{
+    LabelLook look = lookOf(QStringLiteral("Hello"));
+    const double plain = layOut(look).outline.boundingRect().width();
+    look.isBold = true;
+    QVERIFY(layOut(look).outline.boundingRect().width() > plain);
+}
+
+void TestLabels::arabicBeginsAtTheRight()
+{
+    LabelLook look = lookOf(QString::fromUtf8("مرحبا بالعالم"));
+    look.alignment = LabelAlignment::Start;
+    const LabelLayout layout = layOut(look);
+    QCOMPARE(layout.lines.size(), 1);
+    QVERIFY(layout.lines.first().isRightToLeft);
+    QCOMPARE(layout.lines.first().anchor.x(), 100.0);
+    QVERIFY(layout.outline.boundingRect().right() > 96);
+    look.alignment = LabelAlignment::End;
+    QVERIFY(layOut(look).outline.boundingRect().left() < 4);
+}
+
+void TestLabels::chineseIsBrokenBetweenSigns()
+{
+    // Long enough for every font, one without these signs included.
+    LabelLook look = lookOf(QString::fromUtf8("三角形的内角和等于一百八十度").repeated(4));
+    const LabelLayout layout = layOut(look);
+    QVERIFY(layout.lines.size() >= 2);
+    QCOMPARE(textsOf(layout).join(QString()), look.text);
+}
+
+void TestLabels::labelIsDrawnInItsBox()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(m_kind.kind()));
+    shape.createByClick();
+    shape.painted();
+    const QZeSvgNode *label = shape.document().namedNode(QStringLiteral("label_1"));
+    QVERIFY(label);
+    QCOMPARE(label->type(), QZeSvgNode::Path);
+    QVERIFY(QRectF(10, 20, 100, 40).contains(label->boundingRect()));
+    QVERIFY(qAbs(label->boundingRect().center().x() - 60) < 1);
+    QCOMPARE(label->attribute(QStringLiteral("fill")), QStringLiteral("#334455"));
+}
+
+void TestLabels::labelFollowsTheSize()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(m_kind.kind()));
+    shape.createByClick();
+    shape.object().setSize(QSizeF(300, 200), false, true);
+    shape.painted();
+    const QRectF letters = shape.document().namedNode(QStringLiteral("label_1"))->boundingRect();
+    QVERIFY(qAbs(letters.center().x() - 150) < 1);
+    QVERIFY(qAbs(letters.center().y() - 100) < 2);
+}
+
+void TestLabels::panelOffersTextAndLook()
+{
+    shapekit::ShapeObject object(m_kind.kind());
+    QJsonArray controls;
+    object.core()->GetSettingArray(controls);
+    QCOMPARE(controls.size(), 5);
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_label_1": "Nut", "idDeclared_label_1_size": "20",
+                                             "idDeclared_label_1_bold": "true", "idDeclared_label_1_align": "0",
+                                             "idDeclared_label_1_colour": "#ff112233"})"),
+                          false, false);
+    const QByteArray exported = object.core()->toSvg();
+    QVERIFY(exported.contains("fill=\"#112233\""));
+    QVERIFY(exported.contains("font-size=\"20\""));
+    QVERIFY(exported.contains("font-weight=\"bold\""));
+    QVERIFY(exported.contains("text-anchor=\"start\""));
+    QVERIFY(exported.contains(">Nut</"));
+}
+
+void TestLabels::writtenTextIsUndoneInOneStep()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(m_kind.kind()));
+    shape.createByClick();
+    shape.undoStack().clear();
+    const QByteArray before = bytesOf(shape.object());
+    shape.object().SetSettingJson(QStringLiteral(R"({"idDeclared_label_1": "Bolt"})"), true, true);
+    QVERIFY(bytesOf(shape.object()) != before);
+    QCOMPARE(shape.undoStack().count(), 1);
+    shape.undoStack().undo();
+    QCOMPARE(bytesOf(shape.object()), before);
+}
+
+void TestLabels::labelIsSavedAndOpened()
+{
+    shapekit::ShapeObject object(m_kind.kind());
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_label_1": "Bolt", "idDeclared_label_1_align": "2"})"),
+                          false, false);
+    QJsonObject json;
+    object.saveJson(json);
+    const QJsonObject label = json.value(QLatin1String("SVG_Declared"))
+                                  .toObject()
+                                  .value(QLatin1String("labels"))
+                                  .toObject()
+                                  .value(QLatin1String("label_1"))
+                                  .toObject();
+    QCOMPARE(label.value(QLatin1String("text")).toString(), QStringLiteral("Bolt"));
+    QCOMPARE(label.value(QLatin1String("align")).toString(), QStringLiteral("end"));
+    const QByteArray bytes = bytesOf(object);
+    shapekit::ShapeObject opened(m_kind.kind());
+    QDataStream in(bytes);
+    QVERIFY(opened.load(in));
+    QCOMPARE(bytesOf(opened), bytes);
+    QVERIFY(opened.core()->toSvg().contains(">Bolt</"));
+}
+
+void TestLabels::exportedPictureHasTheTextAsText()
+{
+    shapekit::ShapeObject object(m_kind.kind());
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_label_1": "one\ntwo <3"})"), false, false);
+    const QByteArray exported = object.core()->toSvg();
+    QVERIFY(exported.contains("<text id=\"label_1\""));
+    QVERIFY(exported.contains("<tspan x=\"60\" y=\""));
+    QVERIFY(exported.contains(">one</tspan>"));
+    QVERIFY(exported.contains(">two &lt;3</tspan>"));
+    QVERIFY(exported.contains("text-anchor=\"middle\""));
+    const std::unique_ptr<QZeSvgTinyDocument> seen(QZeSvgTinyDocument::load(exported));
+    QVERIFY(seen);
+    const QRectF letters = seen->namedNode(QStringLiteral("label_1"))->boundingRect();
+    QVERIFY(qAbs(letters.center().x() - 60) < 2);
+    QVERIFY(qAbs(letters.center().y() - 40) < 3);
+}
+
+void TestLabels::hostIsToldWhereALabelStands()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(m_kind.kind()));
+    shape.createByDrag({240, 160});
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    QVERIFY(shape.object().GetSpecialProperty(pagehost::LabelPlaces, out));
+    QDataStream in(bytes);
+    qint32 count = 0, id = 0, alignment = 0;
+    QRectF box;
+    double font = 0;
+    bool isBold = true, hasManyLines = false;
+    QColor color;
+    QString text;
+    in >> count >> id >> text >> box >> font >> isBold >> hasManyLines >> color >> alignment;
+    QCOMPARE(count, 1);
+    QCOMPARE(id, m_kind.declaration().labels.first().ids[0]);
+    QCOMPARE(text, QStringLiteral("Hello"));
+    QCOMPARE(box, QRectF(10, 20, 220, 120));
+    QCOMPARE(font, 10.0);
+    QVERIFY(!isBold && hasManyLines);
+    QCOMPARE(color, QColor(0x33, 0x44, 0x55));
+    QCOMPARE(Qt::Alignment(alignment), Qt::Alignment(Qt::AlignCenter));
+}
+
+void TestLabels::typedTextIsNoStepOfItsOwn()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(m_kind.kind()));
+    shape.createByClick();
+    shape.undoStack().clear();
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly)
+        << qint32(m_kind.declaration().labels.first().ids[0]) << QStringLiteral("Ty");
+    QDataStream in(bytes);
+    QVERIFY(shape.object().SetSpecialProperty(pagehost::LabelText, in, true));
+    QCOMPARE(shape.undoStack().count(), 0);
+    QByteArray other;
+    QDataStream(&other, QIODevice::WriteOnly) << qint32(5101) << QStringLiteral("Ty");
+    QDataStream unknown(other);
+    QVERIFY(!shape.object().SetSpecialProperty(pagehost::LabelText, unknown, true));
+}
+
+void TestLabels::titlesNameTheLabel()
+{
+    const QMap<QString, QString> english = m_kind.texts(QStringLiteral("en"));
+    QCOMPARE(english.value(QStringLiteral("IDS_DECLARED_nut_label_1")), QStringLiteral("Caption"));
+    QCOMPARE(english.value(QStringLiteral("IDS_DECLARED_nut_label_1_bold")), QStringLiteral("Caption: bold"));
+    QCOMPARE(m_kind.texts(QStringLiteral("de")).value(QStringLiteral("IDS_DECLARED_nut_label_1_colour")),
+             QStringLiteral("Caption: Farbe"));
+}
+
+QTEST_MAIN(TestLabels)
+#include "test_labels.moc"
