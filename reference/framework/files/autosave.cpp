@@ -38,7 +38,7 @@ QJsonObject noteOf(const QString &copy)
     return QJsonDocument::fromJson(note.readAll()).object();
 }
 
-/// Whether a process of this machine can be asked for.
+/// Whether the lock names a process of this machine.
 bool namesProcessHere(const QLockFile &lock)
 {
     qint64 process = 0;
@@ -47,12 +47,11 @@ bool namesProcessHere(const QLockFile &lock)
     return lock.getLockInfo(&process, &host, &program) && (host.isEmpty() || host == QSysInfo::machineHostName());
 }
 
-/// Whether the process that made the copy is gone.
+/// Whether the process that made the copy has ended.
 bool isAbandoned(const QString &copy)
 {
     QLockFile lock(besides(copy, lockSuffix));
-    // A process that is there keeps its lock however long it stands still. No lock is stale by its age alone when
-    // 0.
+    // A running process keeps its lock, however long it is inactive. With 0 no lock is stale by its age alone.
     lock.setStaleLockTime(namesProcessHere(lock) ? 0 : Autosave::longestSilence);
     return lock.tryLock(0);
 }
@@ -109,8 +108,8 @@ QString Autosave::recoveryFile() const
     return m_id.isEmpty() ? QString() : QDir(m_folder).filePath(m_id + copySuffix);
 }
 
-/// The lock comes first, so that nobody takes the copy for abandoned. It comes again when somebody has cleared the
-/// folder.
+/// The lock comes first, so that nobody takes the copy for abandoned. It is made again when somebody has cleared
+/// the folder.
 bool Autosave::claim()
 {
     if (m_lock && QFile::exists(besides(recoveryFile(), lockSuffix)))

@@ -16,8 +16,8 @@ namespace pagehost {
 
 namespace {
 
-/// Reads a document chunk by chunk. What comes before the first page belongs to the document, what comes behind a
-/// page to that page.
+/// Reads a document chunk by chunk. Chunks before the first page belong to the document, those after a page to that
+/// page.
 class BinaryReader
 {
 public:
@@ -124,7 +124,7 @@ void BinaryReader::takeVersion(const chunks::Chunk &chunk)
     m_lessonsClaimed = lessons;
 }
 
-/// A damaged lesson keeps its bytes, of which the player takes what it can.
+/// A damaged lesson keeps its bytes, of which the player uses as much as possible.
 void BinaryReader::takeLesson(const chunks::Chunk &chunk)
 {
     QDataStream in(chunk.payload);
@@ -218,7 +218,7 @@ void BinaryReader::takeMembers(const chunks::Chunk &chunk)
     takeAssetMembers(m_extra, m_document->assets());
 }
 
-/// Of the document when no page has begun.
+/// Of the document before the first page.
 void BinaryReader::finishPage()
 {
     m_damaged.moveTo(m_extra);
@@ -240,7 +240,7 @@ void BinaryReader::finishPage()
     m_objectsClaimed = 0;
 }
 
-/// Takes the bytes before a chunk or the end that are no chunk: one with a damaged header, or anything else.
+/// Takes the bytes before a chunk or the end that are not a chunk: one with a damaged header, or anything else.
 void BinaryReader::takeGap()
 {
     QByteArray gap = m_chunks.gap();

@@ -13,7 +13,7 @@ namespace chunks {
 
 namespace {
 
-// Places in a header.
+// Offsets in a header.
 constexpr int lengthPlace = 4;
 constexpr int sumPlace = 8;
 constexpr int headerSumPlace = 12;
@@ -44,7 +44,7 @@ quint32 number(const char *bytes)
     return qFromBigEndian<quint32>(bytes);
 }
 
-/// The tag of which at most one letter is another one here; empty for none.
+/// The tag that differs from this one in at most one letter; empty without one.
 QByteArray nearestTag(const char *bytes)
 {
     for (const char *tag : knownTags)
@@ -149,7 +149,7 @@ bool Reader::next(Chunk &chunk)
     m_endsEarly = length < claimed;
     chunk.isDamaged = m_endsEarly || number(header + sumPlace) != checksum(header + headerSize, length);
     if (chunk.isDamaged) {
-        // Bytes may have gone from the payload, and what follows has moved up.
+        // Bytes may be missing from the payload, so that the following ones have moved up.
         length = findHeader(start, start + length) - start;
     }
     chunk.tag = QByteArray(header, tagSize);

@@ -3,12 +3,11 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QDataStream>
 
-/// The frame of the binary format: a signature, then chunks one after the other, each a header of 16 bytes (tag,
-/// length of the payload, checksum of the payload, checksum of the three before) and a payload. Numbers are
-/// big-endian.
+/// The frame of the binary format: a signature, then a sequence of chunks, each a header of 16 bytes (tag, length
+/// of the payload, checksum of the payload, checksum of these three) and a payload. Numbers are big-endian.
 namespace chunks {
 
-/// Unlike any text, and damaged by everything that takes it for one.
+/// Unlike any text, and damaged by every program that treats it as text.
 constexpr char signature[] = "\x89"
                              "BRD\r\n\x1a\n";
 constexpr int signatureSize = 8;
@@ -23,10 +22,10 @@ constexpr char pageTag[] = "PAGE";
 constexpr char objectTag[] = "OBJT";
 constexpr char endTag[] = "DONE";
 
-/// Beyond this a file is refused before memory runs out: Qt's byte arrays end at 2 GiB.
+/// Larger files are refused before memory runs out: Qt's byte arrays end at 2 GiB.
 constexpr int mostBytes = 1 << 30;
 
-/// Values of one version of Qt, whatever a later one makes the default.
+/// Of one version of Qt, whatever the default of a later one.
 constexpr QDataStream::Version streamVersion = QDataStream::Qt_5_15;
 
 /// Four letters.
@@ -41,9 +40,9 @@ public:
 
     /// Everything streamed until end() is the payload.
     QDataStream &begin(const char *tag);
-    /// False when the payload or the whole has become too large; the chunk is then taken back.
+    /// False when the payload or the whole has become too large; the chunk is then removed.
     bool end();
-    /// A chunk whose payload is there already.
+    /// A chunk with a given payload.
     bool write(const QByteArray &tag, const QByteArray &payload);
     QByteArray bytes() const { return m_bytes; }
 
@@ -61,7 +60,7 @@ struct Chunk
     bool isDamaged = false;
 };
 
-/// Finds chunks, damaged ones and those behind damage too.
+/// Finds chunks, including damaged ones and those after damage.
 class Reader
 {
 public:
@@ -69,19 +68,19 @@ public:
     explicit Reader(const QByteArray &bytes);
 
     static bool hasSignature(const QByteArray &bytes);
-    /// Whether any of the chunks that this version writes begins somewhere.
+    /// Whether any chunk that this version writes begins somewhere.
     bool hasKnownChunk() const;
     /// The next chunk; false at the end.
     bool next(Chunk &chunk);
-    /// Bytes that next() passed over before the chunk, or before the end, since they are no chunk.
+    /// Bytes that next() skipped before the chunk, or before the end, because they are not a chunk.
     QByteArray gap() const { return m_bytes.mid(int(m_gapStart), int(m_gapSize)); }
     qint64 gapStart() const { return m_gapStart; }
-    /// Whether the bytes ended inside a chunk or with what is no chunk.
+    /// Whether the bytes ended inside a chunk or with bytes that are not a chunk.
     bool endsEarly() const { return m_endsEarly; }
 
 private:
     bool isHeader(qint64 offset) const;
-    /// Where the next header is, at `from` or behind it; `end` for nowhere before it.
+    /// Offset of the next header, at `from` or after it; `end` without one.
     qint64 findHeader(qint64 from, qint64 end) const;
 
     QByteArray m_bytes;
@@ -91,7 +90,7 @@ private:
     bool m_endsEarly = false;
 };
 
-/// Takes bytes that are no chunk for one whose header is damaged. False when nothing in them proves that; else
+/// Treats bytes that are not a chunk as one with a damaged header. False when nothing in them proves that; else
 /// `chunk` refers to the bytes.
 bool readDamagedHeader(const QByteArray &bytes, Chunk &chunk);
 

@@ -9,7 +9,7 @@ namespace pagehost {
 
 namespace {
 
-/// Of one document. More of it would make a file that cannot be saved any more.
+/// Of one document. More would make a file that can no longer be saved.
 constexpr qint64 mostBytes = 64 << 20;
 
 const QLatin1String damagedKey(jsonnames::damagedName);

@@ -7,14 +7,14 @@
 
 namespace pagehost {
 
-/// Bytes of a file that cannot be understood. They stay with the document or the page that they stood in, as base64
-/// in a member that is written again.
+/// Bytes of a file that cannot be understood. They stay with their document or page, as base64 in a member that is
+/// written again.
 class DamagedParts
 {
 public:
-    /// Keeps the bytes and gives the message that says so, or that they are too many. Zeros are not kept.
+    /// Keeps the bytes and returns the message about them, or about their being too many. Zeros are not kept.
     FileMessage keep(const QByteArray &bytes);
-    /// Adds what has been kept since the last call to the parts that `extra` has already.
+    /// Adds the parts kept since the last call to those in `extra`.
     void moveTo(ExtraData &extra);
 
 private:

@@ -8,7 +8,7 @@ namespace pagehost {
 
 class ObjectFactory;
 
-/// Makes `document` the current one while it lives, whatever framework object the application has: page objects
+/// Makes `document` current during its lifetime, whatever framework object the application has: page objects
 /// remember the current document from when they are made.
 class CurrentDocumentScope : public IFramework
 {
@@ -34,8 +34,8 @@ private:
     IFramework *m_outer;
 };
 
-/// The two formats write and read the same facts. Writers give empty bytes and set `problem` when the document is
-/// too large; readers give null and an error message for bytes of which nothing can be read.
+/// Both formats have the same content. Writers return empty bytes and set `problem` when the document is too large;
+/// readers return null and an error message for bytes of which nothing can be read.
 namespace binaryformat {
 
 QByteArray write(Document &document, FileMessage &problem);
@@ -54,14 +54,14 @@ std::unique_ptr<Document> read(const QByteArray &bytes, const ObjectFactory &fac
 
 constexpr quint32 formatVersion = 1;
 
-/// Page sizes beyond these are taken for damage, scene units.
+/// Page sizes beyond these count as damage, scene units.
 constexpr double smallestPageSide = 1;
 constexpr double largestPageSide = 100000;
 bool isPageSize(const QSizeF &size);
 
 FileMessage warning(const QString &textKey, const QStringList &arguments = {});
 FileMessage error(const QString &textKey, const QStringList &arguments = {});
-/// Beyond a number that people can read, one message stands for all further ones.
+/// Above a number that people can read, one message replaces all further ones.
 void addMessage(QVector<FileMessage> &messages, const FileMessage &message);
 
 } // namespace pagehost

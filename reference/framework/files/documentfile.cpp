@@ -35,7 +35,7 @@ SaveResult saveResult(const WriteResult &written, const QString &file)
     return result;
 }
 
-/// The front of a file may be what is damaged.
+/// The start of a file may be the damaged part.
 DocumentFormat formatOf(const QByteArray &bytes)
 {
     return chunks::Reader::hasSignature(bytes) || chunks::Reader(bytes).hasKnownChunk() ? DocumentFormat::Binary
@@ -87,7 +87,7 @@ OpenResult openDocument(const QString &file, const ObjectRegistry &registry)
     QFile in(file);
     OpenResult result;
     const bool isOpen = in.open(QIODevice::ReadOnly);
-    // A device could go on for ever.
+    // A device may never end.
     if (isOpen && !QFileInfo(file).isFile()) {
         result.messages = {error(QStringLiteral("IDS_FILE_NO_DOCUMENT"))};
         return result;

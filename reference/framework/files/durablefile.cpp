@@ -16,13 +16,13 @@ namespace pagehost {
 
 namespace {
 
-/// As many links as the system itself follows.
+/// The limit of the system itself.
 constexpr int mostLinks = 40;
-/// Another board holds the lock of a folder for as long as it takes to look at the file and to rename one. One that
-/// stands still must not hold up this one.
+/// Another board holds the lock of a folder while it examines a file and renames one. One that hangs must not block
+/// this one.
 constexpr int lockAttempts = 100;
 constexpr int lockPause = 10;        ///< milliseconds
-constexpr mode_t newFileMode = 0666; ///< less what the process's mask takes away
+constexpr mode_t newFileMode = 0666; ///< limited by the process's umask
 constexpr mode_t privateMode = 0600; ///< until the file has its owner
 
 /// The result of a system call that has just failed.
@@ -38,7 +38,7 @@ WriteResult failed(int error)
     return failed();
 }
 
-/// The file that a link leads to, there or not.
+/// The target of a link, whether it exists or not.
 QString withoutLinks(QString file)
 {
     for (int hop = 0; hop < mostLinks && QFileInfo(file).isSymLink(); ++hop)
@@ -46,7 +46,7 @@ QString withoutLinks(QString file)
     return file;
 }
 
-/// A folder while something in it is replaced: one board at a time, as far as boards ask.
+/// A folder while something in it is replaced: by one board at a time, as far as they use the lock.
 class LockedFolder
 {
 public:
@@ -64,7 +64,7 @@ public:
     }
     Q_DISABLE_COPY(LockedFolder)
 
-    /// Brings the names in the folder to the disk.
+    /// Writes the folder's entries to the disk.
     void sync() { ::fsync(m_descriptor); }
 
 private:
@@ -84,10 +84,10 @@ WriteResult writeDurably(const QString &file, const QByteArray &bytes, const std
     const QByteArray name = QFile::encodeName(target);
     struct stat before = {};
     const bool exists = ::stat(name.constData(), &before) == 0;
-    // A file would take the place of devices and pipes.
+    // A file would replace devices and pipes.
     if (exists && !S_ISREG(before.st_mode) && !S_ISDIR(before.st_mode))
         return failed(EOPNOTSUPP);
-    // Whoever may write in the folder could replace a file that is protected.
+    // Whoever may write to the folder could replace a protected file.
     if (exists && ::access(name.constData(), W_OK) != 0)
         return failed();
     const QString folder = QFileInfo(target).absolutePath();

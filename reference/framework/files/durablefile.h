@@ -15,11 +15,11 @@ struct WriteResult
         Written,
         DiskFull,
         Failed,
-        Conflict ///< another file, or other contents, are there than were expected
+        Conflict ///< another file, or other contents, exist than were expected
     };
     Outcome outcome = Written;
-    QString problem; ///< what the system says
-    FileStamp stamp; ///< of what was written
+    QString problem; ///< the system's message
+    FileStamp stamp; ///< of the bytes written
 };
 
 /// Replaces `file` by one with these bytes in one step, after all of them are on the disk, and has the directory

@@ -10,7 +10,7 @@ constexpr int mostMessages = 200;
 
 QString withArguments(QString text, const QStringList &arguments)
 {
-    // All at once, so that arguments may hold "%1" themselves.
+    // All at once, so that arguments may contain "%1" themselves.
     switch (arguments.size()) {
     case 0:
         return text;

@@ -29,7 +29,7 @@ FileStamp stampOf(const struct stat &facts)
     return stamp;
 }
 
-/// JSON numbers are doubles, which do not hold all of these.
+/// JSON numbers are doubles, which do not represent all of these.
 QString text(qint64 number)
 {
     return QString::number(number);
@@ -64,7 +64,7 @@ FileStamp FileStamp::of(const QString &file)
     FileStamp stamp = atAGlance(file);
     QFile in(file);
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    // A device could go on for ever.
+    // A device may never end.
     if (stamp.isNull() || !QFileInfo(file).isFile() || !in.open(QIODevice::ReadOnly) || !hash.addData(&in))
         return {};
     stamp.hash = hash.result();

@@ -18,7 +18,7 @@ using namespace jsonnames;
 
 namespace {
 
-// Of those that every document and every page has.
+// Members that every document and every page has.
 constexpr int mostMembers = 2;
 constexpr int mostPageMembers = 4;
 
@@ -30,7 +30,7 @@ bool isBase64Digit(char character)
            (character >= '0' && character <= '9') || character == '+' || character == '/';
 }
 
-/// Decodes damaged digits as zeros, so that the bytes behind them keep their places.
+/// Decodes damaged digits as zeros, so that the following bytes keep their positions.
 QByteArray decoded(QByteArray base64, bool &isDamaged)
 {
     const auto bytes = QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
@@ -63,7 +63,7 @@ QString nameOf(const QByteArray &key)
     return QString::fromUtf8(key.constData(), key.size());
 }
 
-/// Recognises it by its contents: the name may be damaged.
+/// Recognises it by its contents: its name may be damaged.
 bool isArrayOfChunks(const QJsonValue &value)
 {
     const QJsonObject first = value.toArray().at(0).toObject();
@@ -77,7 +77,7 @@ bool isObjectOfAssets(const QJsonValue &value)
                                           [](const QString &key) { return AssetStore::isKey(key.toLatin1()); });
 }
 
-/// The text behind a key, to the end of the broken text; empty when there is no such key.
+/// The text after a key, to the end of the broken text; empty without such a key.
 QByteArray behindKey(const QByteArray &text, const char *key)
 {
     const QByteArray quoted = '"' + QByteArray(key) + '"';
@@ -90,7 +90,7 @@ QByteArray behindKey(const QByteArray &text, const char *key)
     return text.mid(int(cursor.offset()));
 }
 
-/// The data of a lesson whose text is broken, for the player to read as far as it can.
+/// The data of a lesson whose text is broken, for the player to read as far as possible.
 QByteArray dataOfBroken(const QByteArray &text)
 {
     const QByteArray object = behindKey(text, dataName);
@@ -118,7 +118,7 @@ JsonAssembly::~JsonAssembly()
     qDeleteAll(m_objects);
 }
 
-/// False, with what is wrong told, for a value that is nested too deeply or holds a string that is none.
+/// False, with a message, for a value that is nested too deeply or contains an invalid string.
 bool JsonAssembly::parse(const QByteArray &key, const QByteArray &value, QJsonValue &parsed)
 {
     JsonProblem problem;
@@ -401,7 +401,7 @@ void JsonAssembly::finishPage()
         m_damaged.moveTo(m_documentExtra);
         return;
     }
-    // The name of a member may be what is damaged.
+    // The name of a member may be the damaged part.
     if (m_knownPageMembers < mostPageMembers && !m_pageExtra.members.isEmpty())
         report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), m_pageOffset);
     reportMissing(QStringLiteral("IDS_FILE_OBJECTS_MISSING"), m_objectsClaimed - m_objectNumber, m_pageOffset);

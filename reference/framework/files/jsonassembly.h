@@ -9,12 +9,12 @@
 
 namespace pagehost {
 
-/// Makes a document of the parts of a JSON text, in the order in which they stand there, and tells what of them is
-/// not as it should be. All texts passed are parts of the whole text, so that messages can say where they stand.
+/// Makes a document from the parts of a JSON text, in order, and reports their faults. All texts passed are parts
+/// of the whole text, so that messages can give their locations.
 class JsonAssembly
 {
 public:
-    /// Refers to all three. The new document is the current one from now on, until the assembly goes.
+    /// Refers to all three. The new document is current from now on, during the assembly's lifetime.
     JsonAssembly(const QByteArray &text, const ObjectFactory &factory, QVector<FileMessage> &messages);
     ~JsonAssembly();
     Q_DISABLE_COPY(JsonAssembly)
@@ -23,22 +23,22 @@ public:
     void takeLesson(const QByteArray &text);
     /// Of a lesson whose text is broken.
     void keepBrokenLesson(const QByteArray &text);
-    /// The members and objects that follow belong to this page.
+    /// The following members and objects belong to this page.
     void beginPage(qint64 offset);
     bool hasPage() const { return m_page != nullptr; }
     void takePageMember(const QByteArray &key, const QByteArray &value);
-    /// An object as it stands in the text, whole or broken.
+    /// An object as it appears in the text, whole or broken.
     void takeObject(const QByteArray &text);
-    /// Text that is no part of anything. Told, unless what is wrong with it has been.
+    /// Text that is not part of anything. Reported, unless its fault has been.
     void keepDamaged(const QByteArray &text, qint64 offset);
     void keepToldDamage(const QByteArray &text);
 
     void reportSyntax(const QString &problem, qint64 offset);
-    /// Of a member that is not an array of what it should be.
+    /// Of a member that is not an array of the expected kind.
     void reportType(const QByteArray &key, qint64 offset);
     void reportReadDamage(qint64 offset);
 
-    /// The document; null, with an error, when there is none in the text or it is of a newer version.
+    /// The document; null, with an error, when the text has none or is of a newer version.
     std::unique_ptr<Document> finish();
 
 private:
@@ -73,7 +73,7 @@ private:
     qint64 m_pageOffset = 0;
     ExtraData m_pageExtra;
     QVector<CBaseObject *> m_objects; ///< of the present page
-    JsonProblem m_problem;            ///< of the object that is being taken
+    JsonProblem m_problem;            ///< of the present object
     int m_objectNumber = 0;           ///< on the present page, from 1
     int m_objectCount = 0;            ///< of the document
     qint64 m_objectsClaimed = 0;      ///< by the present page

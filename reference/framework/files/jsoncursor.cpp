@@ -22,7 +22,7 @@ bool endsPlainValue(char character)
            character == '{' || character == '[' || character == '"';
 }
 
-/// False where an escape is none.
+/// False for an invalid escape.
 bool unescape(QByteArray &string)
 {
     if (!string.contains('\\'))
@@ -101,7 +101,7 @@ bool JsonCursor::takeValue(QByteArray &value)
     return true;
 }
 
-/// Counts brackets of both kinds together; whether they match is seen when the value is parsed.
+/// Counts brackets of both kinds together; parsing the value tells whether they match.
 bool JsonCursor::skipBracketed()
 {
     qint64 depth = 0;

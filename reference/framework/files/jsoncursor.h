@@ -6,8 +6,8 @@
 
 namespace pagehost {
 
-/// Goes over JSON text value by value, without recursion, and says where it stumbles. Only as much syntax is
-/// checked as is needed to find where values end; what is inside them is for parseJson().
+/// Moves over JSON text value by value, without recursion, and reports where it fails. It checks only the syntax
+/// needed to find the ends of values; parseJson() checks what is inside.
 class JsonCursor
 {
 public:
@@ -17,15 +17,15 @@ public:
     qint64 offset() const { return m_pos; }
     void setOffset(qint64 offset) { m_pos = offset; }
     bool atEnd() const { return m_pos >= m_text.size(); }
-    /// The next character that is no white space, without taking it; 0 at the end.
+    /// The next character that is not white space, without taking it; 0 at the end.
     char peek();
-    /// Takes `character` when it is the next.
+    /// Takes `character` if it is the next.
     bool take(char character);
 
-    /// Takes a member's key and the colon behind it.
+    /// Takes a member's key and its colon.
     bool takeKey(QByteArray &key);
-    /// Takes one value, whatever it is; `value` refers to its text. False when it does not end or is none; the
-    /// cursor then stands where it was.
+    /// Takes one value of any kind; `value` refers to its text. False, without moving, when it does not end or is
+    /// invalid.
     bool takeValue(QByteArray &value);
 
 private:
@@ -43,10 +43,10 @@ struct JsonProblem
     qint64 offset = 0;
 };
 
-/// The value of a text; undefined, with `problem` set, for one that is not valid or nested too deeply.
+/// The value of a text; undefined, with `problem` set, for one that is invalid or nested too deeply.
 QJsonValue parseJson(const QByteArray &text, JsonProblem &problem);
 
-/// Lines and columns of offsets, cheap for offsets that rise.
+/// Lines and columns of offsets, fast for increasing ones.
 class LineCounter
 {
 public:

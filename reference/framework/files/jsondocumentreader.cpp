@@ -40,7 +40,7 @@ void JsonDocumentReader::takeMembers(TakeMember takeMember)
     m_cursor.take('}');
 }
 
-/// A key with an escape that is none.
+/// A key with an invalid escape.
 void JsonDocumentReader::skipBrokenKey(qint64 start)
 {
     takeValue();
@@ -57,7 +57,7 @@ QByteArray JsonDocumentReader::takeValue()
     return value;
 }
 
-/// Whatever its name has become: whether an array comes next whose elements begin with this member.
+/// Whether an array follows whose elements begin with this member, whatever its name has become.
 bool JsonDocumentReader::isArrayOf(const char *firstMember) const
 {
     JsonCursor ahead(m_cursor);
@@ -93,7 +93,7 @@ void JsonDocumentReader::takePageMember(const QByteArray &key)
         m_assembly.takePageMember(key, takeValue());
 }
 
-/// An array that should stand under `name`.
+/// An array that belongs under `name`.
 void JsonDocumentReader::takeArray(const QByteArray &key, const char *name, TakeElement takeElement)
 {
     m_cursor.peek();
@@ -119,7 +119,7 @@ void JsonDocumentReader::takeArray(const QByteArray &key, const char *name, Take
     m_cursor.take(']');
 }
 
-/// Whether there is an object or a lesson inside of the value.
+/// Whether the value contains an object or a lesson.
 bool JsonDocumentReader::holdsOthers(const QByteArray &text) const
 {
     JsonScan scan(text);
@@ -151,7 +151,7 @@ void JsonDocumentReader::takePage(const QByteArray &text)
 
 namespace {
 
-/// Where the text stops being JSON; -1 when all of it is.
+/// Where the text stops being JSON; -1 when all of it is valid.
 qint64 brokenPlace(const QByteArray &text)
 {
     JsonScan scan(text);

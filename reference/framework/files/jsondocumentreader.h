@@ -4,21 +4,21 @@
 
 namespace pagehost {
 
-/// Goes over a text that is JSON throughout, from front to back, and hands its parts to the assembly.
+/// Reads a text that is valid JSON from start to end, and passes its parts to the assembly.
 class JsonDocumentReader
 {
 public:
     /// Refers to both.
     JsonDocumentReader(const QByteArray &text, JsonAssembly &assembly);
 
-    /// False when a part of the document stands inside of another one, where text between them has gone.
+    /// False when a part of the document is inside of another one because text between them is missing.
     bool read();
 
 private:
     using TakeMember = void (JsonDocumentReader::*)(const QByteArray &key);
     using TakeElement = void (JsonDocumentReader::*)(const QByteArray &text);
 
-    // Each takes what it is named after from the cursor.
+    // Each takes the part that it is named after from the cursor.
     void takeMembers(TakeMember takeMember);
     void takeDocumentMember(const QByteArray &key);
     void takePageMember(const QByteArray &key);

@@ -129,7 +129,7 @@ bool writePage(JsonWriter &writer, const Page &page, int number)
     return done;
 }
 
-/// As an object where the bytes are the text of one and come out of it again.
+/// As an object where the bytes are the text of one and are reproduced by it.
 void writeLesson(JsonWriter &writer, const LessonData &lesson)
 {
     writer.beginObject();

@@ -12,7 +12,7 @@ using namespace jsonnames;
 
 namespace {
 
-/// Goes over what is no entry, brace by brace and line by line.
+/// Reads text outside of entries, brace by brace and line by line.
 class MarkFinder
 {
 public:
@@ -36,7 +36,7 @@ private:
     QByteArray m_text;
     bool m_isOwnLayout;
     QVector<JsonMark> m_marks;
-    qint64 m_line = 0;          ///< where the present line starts
+    qint64 m_line = 0;          ///< start of the present line
     QByteArray m_documentArray; ///< the last key with the indentation of the document's members
     QByteArray m_pageArray;     ///< and of a page's
 };
@@ -56,7 +56,7 @@ QVector<JsonMark> MarkFinder::find()
     return m_marks;
 }
 
-/// Where the line starts that the entry ends on.
+/// Start of the line on which the entry ends.
 qint64 MarkFinder::lastLineOf(const JsonEntry &entry) const
 {
     const char *const text = m_text.constData();
@@ -77,7 +77,7 @@ void MarkFinder::search(qint64 from, qint64 to)
     }
 }
 
-/// The first member tells what it is even where the brace before is damaged.
+/// The first member tells the kind even when the brace before it is damaged.
 void MarkFinder::noteLine(qint64 start)
 {
     const int indentation = indentationAt(m_text, start);
@@ -115,14 +115,14 @@ void MarkFinder::noteBrace(qint64 place)
 
 void MarkFinder::note(JsonMark::Sort sort, qint64 start)
 {
-    // A brace and the first member behind it tell of the same part.
+    // A brace and the first member after it mark the same part.
     if (m_marks.isEmpty() || (start > m_marks.last().start && start >= m_marks.last().end))
         m_marks.append({sort, false, start, start});
     if (sort == JsonMark::Page)
         m_documentArray = pagesName;
 }
 
-/// The name of the member that begins there; empty for none.
+/// The name of the member that begins there; empty without one.
 QByteArray MarkFinder::keyAt(qint64 place) const
 {
     JsonCursor cursor(m_text);

@@ -14,8 +14,8 @@ using namespace jsonnames;
 
 namespace {
 
-/// How much text may be gone over in vain for the values of members, as a multiple of the file: what is nested in
-/// damage gets no more time.
+/// How much text may be read in vain for the values of members, as a multiple of the file: damaged nesting gets no
+/// more time.
 constexpr qint64 mostVainReading = 16;
 
 bool isStructural(char character)
@@ -57,7 +57,7 @@ qint64 JsonSalvage::take(const JsonMark &mark, qint64 limit)
         return mark.end;
     }
     if (limit < m_text.size() && isStructure(mark.start, limit)) {
-        // A bracket too many, or a line that stands there twice.
+        // A bracket too many, or a line that appears twice.
         m_assembly.reportReadDamage(mark.start);
         return limit;
     }
@@ -115,7 +115,7 @@ qint64 JsonSalvage::readNext(qint64 from, qint64 to)
     return end;
 }
 
-/// -1 for a value that is broken, or when too much has been gone over in vain.
+/// -1 for a value that is broken, or when too much has been read in vain.
 qint64 JsonSalvage::endOfValue(qint64 from, qint64 to)
 {
     JsonScan scan(slice(0, to));
@@ -131,7 +131,7 @@ void JsonSalvage::readMember(const QByteArray &key, const QByteArray &value, Con
 {
     const qint64 offset = value.constData() - m_text.constData();
     if (isArrayOfMarks(key)) {
-        // Nothing of it is an object or a page.
+        // It contains no object or page.
         if (!value.startsWith('['))
             m_assembly.reportType(key, offset);
         if (!isStructure(offset, offset + value.size()))
@@ -143,7 +143,7 @@ void JsonSalvage::readMember(const QByteArray &key, const QByteArray &value, Con
     }
 }
 
-/// In other layouts brackets alone tell where a page ends.
+/// In other layouts only brackets tell where a page ends.
 void JsonSalvage::takeStructure(char character)
 {
     if (character == '}')
@@ -199,7 +199,7 @@ qint64 JsonSalvage::endOfBroken(qint64 start, qint64 limit, int indentation) con
     return limit;
 }
 
-/// With that many spaces before; any number for -1.
+/// With that many spaces before it; any number for -1.
 bool JsonSalvage::isFirstOnLine(qint64 place, int indentation) const
 {
     qint64 start = place;

@@ -5,9 +5,8 @@
 
 namespace pagehost {
 
-/// Hands what can be told apart in a text that is not JSON throughout to the assembly: whole objects and lessons
-/// wherever they stand, what is left of broken ones, members of pages and of the document. All other text is kept
-/// as it is.
+/// Passes the recognisable parts of a broken JSON text to the assembly: whole objects and lessons at any place, the
+/// rest of broken ones, members of pages and of the document. All other text is kept unchanged.
 class JsonSalvage
 {
 public:
@@ -19,10 +18,10 @@ public:
 private:
     enum class Context { Document, Page };
 
-    /// Gives where what follows the mark's part begins, before `limit`.
+    /// Returns the end of the mark's part, before `limit`.
     qint64 take(const JsonMark &mark, qint64 limit);
     void readLoose(qint64 from, qint64 to);
-    /// Gives where the next begins.
+    /// Returns the start of the next one.
     qint64 readNext(qint64 from, qint64 to);
     qint64 endOfValue(qint64 from, qint64 to);
     void readMember(const QByteArray &key, const QByteArray &value, Context context);

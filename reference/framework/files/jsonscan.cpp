@@ -11,7 +11,7 @@ using namespace jsonnames;
 
 namespace {
 
-/// Members by which an entry is known.
+/// Members that identify an entry.
 enum Member : quint32 {
     AnyEntry = 0,
     KindText = 1,
@@ -52,8 +52,8 @@ quint32 memberOf(const QByteArray &key, char firstOfValue)
     return key == damagedName ? AnyEntry : AnyOther;
 }
 
-// Neither has other members: one that does may have swallowed what follows. The steps of lessons have kinds and
-// data, too, and others besides.
+// Neither has other members: one that does may have swallowed the text that follows. Steps of lessons have kinds
+// and data, too, but also other members.
 
 bool isRecord(quint32 members)
 {
@@ -128,7 +128,7 @@ bool JsonScan::takeKey()
     return true;
 }
 
-/// A line break ends no string, but shows that the end is missing.
+/// A line break does not end a string, but shows that its end is missing.
 bool JsonScan::takeString()
 {
     m_lastString = m_pos;
@@ -157,7 +157,7 @@ bool JsonScan::takeWord()
     return true;
 }
 
-/// Of the open brackets. It is only known of as many of them as levels are kept.
+/// Of the open brackets. Only known for as many of them as levels are kept.
 JsonScan::Level &JsonScan::innermost()
 {
     return m_levels[m_isObject.size() % m_levels.size()];
@@ -198,8 +198,8 @@ void JsonScan::noteEntry(const Level &level)
     m_entries.append({isRecord(level.members) ? JsonEntry::Object : JsonEntry::Lesson, level.start, m_pos});
 }
 
-/// A broken value is understood up to some place, and what is open there is broken at the same place, so that
-/// nothing before has to be looked at again.
+/// A broken value is understood up to some position, and the open values are broken at the same one, so nothing
+/// before has to be read again.
 QVector<JsonEntry> findEntries(const QByteArray &text)
 {
     QVector<JsonEntry> entries;

@@ -8,7 +8,7 @@
 
 namespace pagehost {
 
-/// An object in a text that is whole, and of a sort that stands for itself wherever it is found.
+/// An object in intact text, of a kind that is recognised anywhere.
 struct JsonEntry
 {
     enum Sort { Object, Lesson };
@@ -17,8 +17,8 @@ struct JsonEntry
     qint64 end = 0;
 };
 
-/// Holds JSON text against the grammar, without recursion. Inside strings only their end is looked for, and of
-/// numbers only that they begin as one.
+/// Checks JSON text against the grammar, without recursion. Of strings it only finds the end, and of numbers the
+/// start.
 class JsonScan
 {
 public:
@@ -28,20 +28,19 @@ public:
     {
     }
 
-    /// Whether a whole value begins at `start`, white space aside; end() is then behind it.
+    /// Whether a whole value begins at `start`, after white space; end() is then after it.
     bool takeValue(qint64 start);
     qint64 end() const { return m_pos; }
-    /// The entries of the value, outer ones only, those of a broken one too.
+    /// The entries of the value, outermost ones only, including those of a broken one.
     QVector<JsonEntry> entries() const { return m_entries; }
-    /// Of a broken value: where the grammar is left.
+    /// Of a broken value: where it violates the grammar.
     qint64 failure() const { return m_pos; }
-    /// Of a broken value: from where on nothing has been understood. Lies in the last string, since a quote may be
-    /// what is missing.
+    /// Of a broken value: where understanding ended. Lies in the last string, since a quote may be missing.
     qint64 resumption() const { return m_resumption; }
 
 private:
     enum Expectation { Value, ValueOrEnd, Key, KeyOrEnd, Separator };
-    /// An object that is open, and which of the members that matter it has so far.
+    /// An open object, and which of the relevant members it has so far.
     struct Level
     {
         std::size_t depth = 0; ///< of brackets, from 1; 0 for none
@@ -66,12 +65,12 @@ private:
     qint64 m_resumption = 0;
     Expectation m_expected = Value;
     std::vector<bool> m_isObject;   ///< of every open bracket
-    std::array<Level, 64> m_levels; ///< of the inner ones of them, by depth modulo their number
+    std::array<Level, 64> m_levels; ///< of the innermost ones, by depth modulo their number
     QByteArray m_key;               ///< of the member whose value comes next
     QVector<JsonEntry> m_entries;
 };
 
-/// All entries of a text that is broken somewhere, in their order. Takes time in proportion to the text.
+/// All entries of a text that is broken somewhere, in order. Takes time proportional to the text.
 QVector<JsonEntry> findEntries(const QByteArray &text);
 
 } // namespace pagehost

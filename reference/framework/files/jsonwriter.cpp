@@ -11,7 +11,7 @@ namespace pagehost {
 namespace {
 
 constexpr int indentation = 2;
-/// Integers below 2^53 are the same in every reader.
+/// Integers below 2^53 are the same for every reader.
 constexpr double exactIntegers = 9007199254740992.0;
 /// Room for the shortest text of any number.
 constexpr int numberCapacity = 32;
@@ -193,7 +193,7 @@ void JsonWriter::writeArray(const QJsonArray &array)
 void JsonWriter::writeNumber(const QJsonValue &value)
 {
     const double number = value.toDouble();
-    // Qt reads numbers below the normal ones as 0.
+    // Qt reads subnormal numbers as 0.
     if (!std::isfinite(number) || std::fpclassify(number) == FP_SUBNORMAL) {
         m_isExact = false;
         m_text.append("null");

@@ -23,12 +23,11 @@ public:
     /// `text` must be JSON.
     void rawMember(const char *key, const QByteArray &text);
 
-    /// False since a number that does not come back from JSON (infinite, NaN, subnormal) was written; it stands as
-    /// null.
+    /// False after a number that JSON cannot reproduce (infinite, NaN, subnormal) was written as null.
     bool isExact() const { return m_isExact; }
 
     int size() const { return m_text.size(); }
-    /// Takes back what was written after size() was `size`, which must have been between the same brackets.
+    /// Removes what was written after size() was `size`, which must have been between the same brackets.
     void cutBack(int size);
     /// Ends with a line break.
     QByteArray text() const { return m_text + '\n'; }

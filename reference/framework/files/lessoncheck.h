@@ -4,7 +4,7 @@
 
 namespace pagehost {
 
-/// Whether the lesson is known to be damaged, or its data are not all of a lesson.
+/// Whether the lesson is known to be damaged, or its data is not a whole lesson.
 bool isBroken(const LessonData &lesson);
 
 } // namespace pagehost

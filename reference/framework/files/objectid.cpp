@@ -11,7 +11,7 @@ namespace pagehost {
 
 namespace {
 
-/// Where an object keeps its number among the data of its graphics item.
+/// Key of an object's number in the data of its graphics item.
 constexpr int objectIdData = 0x6f626964;
 
 template<typename Function> void forEachObject(const Document &document, Function function)

@@ -23,7 +23,7 @@
 
 namespace pagehost {
 
-/// Gives the current document another zoom while it lives, unnoticed by its views.
+/// Changes the current document's zoom during its lifetime, without notifying views.
 class ZoomScope
 {
 public:
@@ -53,7 +53,7 @@ private:
 
 namespace {
 
-/// False when the object took more or less than the bytes that are its own, or found them to be no state of it.
+/// False when the object read more or less than its own bytes, or rejected them.
 bool loadFromStream(CBaseObject *object, const QByteArray &data)
 {
     QDataStream in(data);
@@ -62,7 +62,7 @@ bool loadFromStream(CBaseObject *object, const QByteArray &data)
     return loaded && in.status() == QDataStream::Ok && in.device()->atEnd();
 }
 
-/// Damaged data may load and yet be lost, as far as the object has no place for them.
+/// Damaged data may load and still be lost where the object does not store it.
 bool holdsAll(CBaseObject *object, const ObjectRecord &record)
 {
     return !record.isDamaged || record.encoding != ObjectRecord::Stream || streamed(object) == record.data;
@@ -74,14 +74,14 @@ bool loadFromJson(CBaseObject *object, const ObjectRecord &record)
     return !json.isEmpty() && object->loadJson(json);
 }
 
-/// Objects that fill themselves have read a colour only; this gives them the gradient, pattern or picture that the
-/// page object has read.
+/// Objects that paint their own fill have read only a colour; this gives them the gradient, pattern or picture that
+/// the page object has read.
 void showWholeFill(CBaseObject *object)
 {
     CPageBgProp fill = *object->getFillProp();
     if (!fill.isFillEnable() || fill.fillType() <= CPageBgProp::SolidFill)
         return;
-    // They pass over a fill whose colour is the present one, so that another one comes first.
+    // They ignore a fill of their present colour, so set another one first.
     CPageBgProp other = fill;
     other.setFillColor(QColor(fill.fillColor().rgb() ^ 0xffffff));
     object->setFillProp(&other, false);
@@ -115,7 +115,7 @@ QByteArray streamed(CBaseObject *object)
 
 CBaseObject *ObjectFactory::load(const ObjectRecord &record, IPsPage *page) const
 {
-    // Objects look for their document when they are made and read, and remember it.
+    // Objects look up their document when they are made and read, and remember it.
     IDocument *document = page ? page->document() : nullptr;
     const CurrentDocumentScope current(document ? document : GetFramework()->currentDocument());
     const ZoomScope zoom(record.zoom);
@@ -168,7 +168,7 @@ bool ObjectFactory::isOfSavedTexts(CBaseObject &object, const ObjectRecord &reco
            AssetStore::keysIn(record.data).contains(QSet<QByteArray>(needed.begin(), needed.end()));
 }
 
-/// Objects keep pictures of themselves: a few bytes of damage must not ask for more memory than there is.
+/// Objects keep pictures of themselves: a few damaged bytes must not request more memory than there is.
 bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
 {
     constexpr double largestArea = 1 << 26; // 256 MiB of picture
@@ -188,7 +188,7 @@ bool ObjectFactory::hasRoomFor(const ObjectRecord &record) const
     return true;
 }
 
-/// Null with the reason when the object cannot be made.
+/// Null, with the reason, when the object cannot be made.
 CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page, FileMessage &reason) const
 {
     const auto refuse = [&](const QString &textKey) {
@@ -197,7 +197,7 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page,
         return nullptr;
     };
     if (record.encoding == ObjectRecord::Payload) {
-        // No kind is known of it.
+        // Its kind is unknown.
         reason.textKey = QStringLiteral("IDS_FILE_OBJECT_UNREADABLE");
         return nullptr;
     }
@@ -212,7 +212,7 @@ CBaseObject *ObjectFactory::tryToMake(const ObjectRecord &record, IPsPage *page,
                                                     : QStringLiteral("IDS_FILE_OBJECT_UNKNOWN"));
 }
 
-/// False when the file says more of the object than it saves itself: the names of members may be damaged.
+/// False when the file has more about the object than it saves itself: the names of members may be damaged.
 bool ObjectFactory::knowsAllMembers(CBaseObject *object, const ObjectRecord &record) const
 {
     const QStringList names = record.json.keys();
@@ -220,7 +220,7 @@ bool ObjectFactory::knowsAllMembers(CBaseObject *object, const ObjectRecord &rec
     const auto isKnown = [&](const QString &name) { return known.contains(name); };
     if (std::all_of(names.begin(), names.end(), isKnown))
         return true;
-    // Only an object with a member that none before had is asked.
+    // Compare only objects with a member that no earlier one had.
     QJsonObject saved;
     object->saveJson(saved);
     const QStringList savedNames = saved.keys();

@@ -21,12 +21,12 @@ namespace pagehost {
 struct ObjectRecord
 {
     enum Encoding : quint8 {
-        Stream = 0, ///< what the object's save() wrote
-        Json = 1,   ///< the text of what the object's saveJson() wrote
-        Text = 2,   ///< text of a JSON file that is no object
-        Payload = 3 ///< of a chunk that is no record, whole
+        Stream = 0, ///< written by the object's save()
+        Json = 1,   ///< the text of the object's saveJson()
+        Text = 2,   ///< text of a JSON file that is not an object
+        Payload = 3 ///< of a chunk that is not a record, whole
     };
-    /// Where the user put a placeholder, whose data say something else.
+    /// Where the user put a placeholder, if its data say otherwise.
     struct Place
     {
         QPointF pos; ///< of the item's origin, scene coordinates
@@ -34,24 +34,23 @@ struct ObjectRecord
     };
 
     QString kindId;
-    quint32 id = 0; ///< objectId()
-    double zoom =
-        1; ///< that the object followed: control points are saved by their corner, whose place hangs on it
+    quint32 id = 0;  ///< objectId()
+    double zoom = 1; ///< that the object followed: the saved corners of control points depend on it
     Encoding encoding = Stream;
     QByteArray data;
-    bool isDamaged = false; ///< the data are known not to be those that were saved
-    QJsonObject json;       ///< what `data` say, when they have been parsed already
+    bool isDamaged = false; ///< the data are known to differ from those that were saved
+    QJsonObject json;       ///< parsed `data`, when available
     std::optional<Place> place;
 };
 
 /// The record of an object that isn't a placeholder, without its data.
 ObjectRecord headOf(CBaseObject *object);
 
-/// The streamed state of an object that is no placeholder; false when it could not be saved.
+/// The streamed state of an object that isn't a placeholder; false when it could not be saved.
 bool saveToStream(CBaseObject *object, QDataStream &out);
 QByteArray streamed(CBaseObject *object);
 
-/// Makes objects of records, in the name of a document that they will belong to.
+/// Makes objects from records for a document that they will belong to.
 class ObjectFactory
 {
 public:
@@ -62,8 +61,8 @@ public:
     /// Of objects without a page, whose document has others.
     void setAssets(const AssetStore &assets) { m_assets = assets; }
 
-    /// Never null: what cannot be made is a placeholder, and `message` gets its text. The caller owns the object.
-    /// It knows `page`, where that is not null, while it is read, and stands on none afterwards.
+    /// Never null: an object that cannot be made is a placeholder, and `message` gets its text. The caller owns the
+    /// object. It knows `page`, unless that is null, while it is read, and is on none afterwards.
     CBaseObject *make(const ObjectRecord &record, IPsPage *page, FileMessage &message) const;
 
 private:

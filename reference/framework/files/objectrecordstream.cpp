@@ -9,7 +9,8 @@ namespace pagehost {
 
 namespace {
 
-// The first byte of a payload: the encoding in the lower bits, and what stands between the kind and the data.
+// The first byte of a payload: the encoding in the lower bits, and flags for the fields between the kind and the
+// data.
 constexpr quint8 encodingBits = 0x0f;
 constexpr quint8 hasId = 0x10;
 constexpr quint8 hasPlace = 0x20;
@@ -17,7 +18,7 @@ constexpr quint8 hasZoom = 0x40;
 constexpr quint8 damaged = 0x80;
 constexpr quint8 knownBits = encodingBits | hasId | hasPlace | hasZoom | damaged;
 
-/// Longer ones are damage.
+/// Longer ones are damaged.
 constexpr int longestKindId = 1000;
 
 void writeHead(QDataStream &out, const ObjectRecord &record)

@@ -17,17 +17,17 @@ namespace {
 
 /// The host's number for placeholders among page objects.
 constexpr int placeholderKind = 1;
-// Where data tell no place, scene units.
+// Where data give no position, scene units.
 constexpr QPointF plainPos(40, 40);
 constexpr QSizeF plainSize(160, 100);
-/// A box that could be smaller than this could not be seen or seized, item units.
+/// Smallest box that can be seen and grabbed, item units.
 constexpr double smallestSide = 16;
 
 constexpr QRgb lineColor = 0xff8a8f98;
 constexpr QRgb areaColor = 0x18808890;
 constexpr double labelMargin = 6; ///< item units
 
-/// Whether a page could show something there. Damaged data may name any place.
+/// Whether a page could show something there. Damaged data may give any position.
 bool isWithinReach(const QRectF &sceneRect)
 {
     const QRectF reach(-largestPageSide, -largestPageSide, 3 * largestPageSide, 3 * largestPageSide);
@@ -40,7 +40,7 @@ PlaceholderObject::PlaceholderObject(const ObjectRecord &record)
     : CBaseObject(placeholderKind, true, nullptr, nullptr)
     , m_record(record)
 {
-    // The bytes of a file may go before the object does.
+    // The bytes of a file may be freed before the object.
     m_record.data = QByteArray(record.data.constData(), record.data.size());
     setKindId(this, record.kindId);
     takePlace();

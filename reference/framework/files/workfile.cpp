@@ -18,7 +18,7 @@ namespace pagehost {
 namespace {
 
 const QString namePattern = QStringLiteral(".%1.unfinished-board");
-/// Cleaning up may seize a file between its creation and its lock: then another one is made.
+/// Clean-up may take a file between its creation and its lock; another one is made then.
 constexpr int mostAttempts = 16;
 
 QString newName()
@@ -33,14 +33,14 @@ bool isWorkFileName(const QString &name)
     return form.match(name).hasMatch();
 }
 
-/// False when another process has the file, or has deleted it.
+/// False when another process holds the file, or has deleted it.
 bool lockOwn(int descriptor)
 {
     struct stat facts = {};
     return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &facts) == 0 && facts.st_nlink > 0;
 }
 
-/// Deletes the file unless a process writes it.
+/// Deletes the file unless a process is writing it.
 bool removeIfAbandoned(const QByteArray &name)
 {
     const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
@@ -104,7 +104,7 @@ bool WorkFile::resemble(const struct stat &original)
     const bool keepsGroup = ::fchown(m_descriptor, uid_t(-1), original.st_gid) == 0;
     if (!keepsGroup)
         mode = (mode & ~mode_t(S_IRWXG | S_ISGID)) | ((mode & S_IRWXO) << 3);
-    // Last, since a change of the owner clears bits of the mode, and takes away the right to set them.
+    // Last, since changing the owner clears bits of the mode, and loses the right to set them.
     if (::fchown(m_descriptor, original.st_uid, gid_t(-1)) != 0)
         mode &= ~mode_t(S_ISUID);
     return ::fchmod(m_descriptor, mode) == 0;

@@ -8,22 +8,22 @@
 
 namespace pagehost {
 
-/// A file that is written beside the one whose place it will take. Its name says what it is, and a lock that ends
-/// with the process tells whether somebody still writes it (removeUnfinishedSaves()). Failures are told by errno.
+/// A file written beside the one that it will replace. Its name tells what it is, and a lock that ends with the
+/// process tells whether it is still being written (removeUnfinishedSaves()). Failures set errno.
 class WorkFile
 {
 public:
     WorkFile() = default;
-    /// Removes what has not taken its place.
+    /// Deletes the file unless it has replaced the other one.
     ~WorkFile();
     Q_DISABLE_COPY(WorkFile)
 
     bool create(const QString &folder, mode_t mode);
     bool write(const QByteArray &bytes);
-    /// Takes over owner, group and mode as far as this process may. A group that it cannot keep gets no more than
-    /// everybody has.
+    /// Copies owner, group and mode as far as this process may. A group that it cannot keep gets no more rights
+    /// than everybody.
     bool resemble(const struct stat &original);
-    /// Brings the bytes to the disk.
+    /// Writes the bytes to the disk.
     bool sync();
     bool takePlaceOf(const QString &file);
 
@@ -33,7 +33,7 @@ private:
     void remove();
 
     int m_descriptor = -1;
-    QByteArray m_name; ///< absolute; empty when there is nothing to be removed
+    QByteArray m_name; ///< absolute; empty when there is nothing to delete
 };
 
 } // namespace pagehost

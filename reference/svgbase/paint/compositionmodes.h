@@ -6,11 +6,11 @@
 
 namespace Svg {
 
-/// Whether painters know a mode.
+/// Whether painters support a mode.
 bool isForPainters(BlendMode mode);
-/// The painter's name for a mode; plain painting for those that painters do not know.
+/// The painter's name for a mode; plain painting for unsupported ones.
 QPainter::CompositionMode compositionMode(BlendMode mode);
-/// The same for operators, "arithmetic" being the one that painters do not know.
+/// The same for operators; painters do not support "arithmetic".
 QPainter::CompositionMode compositionMode(CompositeOperator op);
 
 } // namespace Svg

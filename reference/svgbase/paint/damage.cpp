@@ -4,9 +4,9 @@ namespace Svg {
 
 namespace {
 
-/// How far antialiasing reaches beyond what is painted, pixels, with room to spare.
+/// Reach of antialiasing beyond the painted outline, pixels, with a margin.
 constexpr int smoothingMargin = 2;
-/// More rectangles than this are not worth a painting each.
+/// More rectangles than this are not worth separate paintings.
 constexpr int mostRects = 4;
 
 QRectF withMargin(const QRectF &bounds)
@@ -19,7 +19,7 @@ double areaOf(const QRectF &rect)
     return rect.width() * rect.height();
 }
 
-// Makes one of those two that waste least by it.
+// Unites the two that waste the least area.
 void uniteNearest(QVector<QRectF> *rects)
 {
     int first = 0;

@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// Adds a rectangle to others that are apart; what it touches becomes one with it.
+/// Adds a rectangle to disjoint ones; those that it touches are united with it.
 template<typename Rect> void addApart(QVector<Rect> *rects, Rect rect)
 {
     for (int i = 0; i < rects->size();) {
@@ -23,14 +23,14 @@ template<typename Rect> void addApart(QVector<Rect> *rects, Rect rect)
 /// The pixels that painting within `bounds` (painter units) may change.
 QRect paintedPixels(const QRectF &bounds, const QRect &within);
 
-/// Parts of a painted list that no longer look as they were painted: a few rectangles, painter units.
+/// Parts of a painted list that have changed: a few rectangles, painter units.
 class Damage
 {
 public:
     /// Adds the pixels that painting within `bounds` may have changed.
     void add(const QRectF &bounds);
     bool isEmpty() const { return m_rects.isEmpty(); }
-    /// The damaged pixels, as rectangles that are apart.
+    /// The damaged pixels, as disjoint rectangles.
     QVector<QRect> pixels(const QRect &within) const;
 
 private:

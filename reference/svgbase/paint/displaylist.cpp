@@ -32,12 +32,12 @@ void forgetMapping(MappedItems *items)
         item.mapped = false;
 }
 
-/// Memory of an item besides its outline (itself, pen and brush), and of the data that its path keeps of being
-/// painted. Measured.
+/// Memory of an item besides its outline (itself, pen and brush), and of the data that its path keeps from
+/// painting. Measured.
 constexpr double itemOverhead = 800;
 constexpr double paintedOverhead = 3200;
 
-/// Where more than this share of the kept area is to be painted, all of it is.
+/// When more than this share of the kept area is damaged, all of it is painted.
 constexpr double mostRepaired = 0.75;
 
 double areaOf(const QVector<QRect> &parts)
@@ -55,7 +55,7 @@ double flatWeight(const FlatShape &flat)
     return double(sizeof(FlatShape)) + double(sizeof(QPoint)) * points;
 }
 
-// An outline that is painted again and again is held twice, the second time as the painter's own copy.
+// An outline that is painted repeatedly is stored twice, the second time as the painter's own copy.
 double shapeWeight(const MappedShape &shape, bool isPaintedAgain)
 {
     const int elements = shape.path.elementCount() + shape.strokePath.elementCount();
@@ -173,7 +173,7 @@ bool DisplayList::isMostOfArea(const QVector<QRect> &parts) const
     return areaOf(parts) > mostRepaired * areaOf({m_picture.area()});
 }
 
-// A drawing that changes all over is likely to do so again: a picture of it would be copied in vain.
+// A drawing that changes completely is likely to do so again: keeping its picture would be wasted.
 void DisplayList::paintWhole(QPainter *painter, bool withControlPoints)
 {
     m_picture.drop();
@@ -181,7 +181,7 @@ void DisplayList::paintWhole(QPainter *painter, bool withControlPoints)
     paintAll(painter, withControlPoints);
 }
 
-// A picture that was cut short for want of time or memory depends on what was painted before: it is not kept.
+// A picture that was cut short for lack of time or memory depends on what was painted before, so it is not kept.
 void DisplayList::paintAndKeep(QPainter *painter, const QImage &target, bool withControlPoints)
 {
     m_repainted = {m_picture.area()};
@@ -211,7 +211,7 @@ void DisplayList::repair(QPainter *painter, QImage *target, bool withControlPoin
         m_effort += paintAll(painter, withControlPoints);
     }
     painter->setClipping(false);
-    // Whether the whole could still be painted is only known from painting it.
+    // Only painting tells whether the whole still fits the budget.
     if (m_effort >= 1) {
         m_picture.restoreBelow(target);
         paintAndKeep(painter, *target, withControlPoints);

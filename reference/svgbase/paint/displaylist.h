@@ -9,8 +9,8 @@
 
 namespace Svg {
 
-/// A document under one mapping: a flat list to paint from front to back. Items whose origin did
-/// not change keep their mapped outlines, and the part of the picture that they alone cover.
+/// A document under one mapping: a flat list to paint from front to back. Items whose origin did not change keep
+/// their mapped outlines, and the part of the picture that they alone cover.
 class DisplayList
 {
 public:
@@ -18,14 +18,13 @@ public:
     /// coordinates; control points keep their size under the first.
     void update(SettledTree &document, const QTransform &stretch, const QTransform &world);
 
-    /// Paints the items, then the control points if they are wanted. The painter's world transform must be the
-    /// identity.
+    /// Paints the items, then the control points if wanted. The painter's world transform must be the identity.
     void paint(QPainter *painter, bool withControlPoints);
-    /// The pixels that the last paint() painted where it could have copied others; empty where nothing changed.
+    /// The pixels that the last paint() painted instead of copying; empty when nothing had changed.
     const QVector<QRect> &repainted() const { return m_repainted; }
-    /// Parts that were left out when the list was built and painted last.
+    /// Parts left out when the list was last built and painted.
     QVector<Message> messages(const Tree &tree) const;
-    /// Memory that the list takes, bytes, estimated.
+    /// Estimated memory of the list, bytes.
     int weight() const;
 
 private:
@@ -50,9 +49,9 @@ private:
     /// Changes since the picture was kept.
     Damage m_damage;
     QVector<QRect> m_repainted;
-    /// Share of the budget of painting that the kept picture, and all repairs since, took; 1 is all of it.
+    /// Share of the painting budget used by the kept picture and all repairs since; 1 is all of it.
     double m_effort = 0;
-    /// How often it was painted, more than once counting as twice.
+    /// How often it was painted, counted up to two.
     int m_paintings = 0;
     Mapping m_mapping;
     quint32 m_revision = 0;

@@ -11,7 +11,7 @@ namespace Svg {
 
 namespace {
 
-/// How far axes may be off, as a share of their length, and still count as parallel to the painter's.
+/// Largest deviation of axes, as a share of their length, that still counts as parallel to the painter's.
 constexpr double turnTolerance = 1e-6;
 
 double across(const QTransform &t)
@@ -67,7 +67,7 @@ bool dependsOnAxes(const Filter &filter, const QTransform &toPainter)
     return false;
 }
 
-// A step without a region, a filter function, takes everything.
+// A step without a region, a filter function, uses everything.
 QRectF neededRegion(const Filter &filter)
 {
     QRectF needed;

@@ -9,8 +9,8 @@ namespace Svg {
 
 struct Filter;
 
-/// Where the pixels of a filter lie whose axes are not those of the painter: along the axes of the filtered
-/// element, as many of them as the painter has (Filter Effects 1 §5, "user coordinate system").
+/// Placement of a filter's pixels when its axes differ from those of the painter: along the axes of the filtered
+/// element, at the painter's resolution (Filter Effects 1 §5, "user coordinate system").
 struct FilterCanvas
 {
     QTransform fromPainter;
@@ -19,8 +19,8 @@ struct FilterCanvas
     QRectF needed;
 };
 
-/// The canvas of a filter that makes a difference between the axes of its element while these are turned or skewed;
-/// nothing for a filter that works on the painter's own pixels as well.
+/// The canvas of a filter that treats the axes of its element differently while these are turned or skewed; empty
+/// for a filter that can use the painter's own pixels.
 std::optional<FilterCanvas> filterCanvas(const Filter &filter, const QTransform &toPainter);
 
 } // namespace Svg

@@ -9,10 +9,10 @@ namespace Svg {
 
 namespace {
 
-/// How many standard deviations a blur reaches.
+/// Reach of a blur in standard deviations.
 constexpr double blurReach = 3;
 
-/// Reaches that are counted in pixels, and what a pixel is of the element's units.
+/// Reaches that are counted in pixels, and the size of a pixel in the element's units.
 QSizeF reachInPixels(const FilterPrimitive &primitive)
 {
     if (primitive.convolution)

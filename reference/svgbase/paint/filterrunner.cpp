@@ -22,17 +22,17 @@ namespace {
 
 /// Costs of primitives, in plain passes over their pixels.
 constexpr double plainCost = 2;
-/// How many times as long lines are at most where a blur looks beyond edges.
+/// Largest factor by which lines get longer where a blur extends beyond edges.
 constexpr double extendedLines = 5;
 constexpr double lineCost = 40;
 constexpr double lightCost = 40;
 constexpr double factorCost = 4;
 constexpr double octaveCost = 24;
-/// How far from a pixel's edge a region may end and still be taken to end there.
+/// Distance from a pixel's edge within which a region counts as ending there.
 constexpr double alignmentTolerance = 1e-3;
 constexpr int greatestComponent = 255;
-/// Pictures that are held besides named results: the source and its alpha, the result before, an input, the result
-/// and what is left of it in its region.
+/// Pictures held besides named results: the source and its alpha, the previous result, an input, the result and its
+/// part in the region.
 constexpr int heldPictures = 6;
 
 struct FilterResult
@@ -120,7 +120,7 @@ QImage StepRunner::blank() const
     return picture;
 }
 
-// The paint of the filtered element, without end (Filter Effects 1 §9.2).
+// The paint of the filtered element, extending infinitely (Filter Effects 1 §9.2).
 QImage StepRunner::painted(const QBrush &brush) const
 {
     QImage picture = blank();
@@ -157,7 +157,7 @@ void StepRunner::cut(QImage *picture, const QRectF &region) const
     *picture = kept;
 }
 
-// A name that nothing has stands for the result before (Filter Effects 1 §9.2).
+// An unknown name means the previous result (Filter Effects 1 §9.2).
 FilterResult StepRunner::input(const FilterPrimitive &primitive, int index) const
 {
     const QString name = primitive.inputs.value(index);
@@ -325,7 +325,7 @@ QImage StepRunner::tiled(const FilterPrimitive &primitive) const
         return picture;
     QBrush brush(inSpace(tile, primitive.linear).copy(rect));
     brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y()));
-    // Tiles follow each other as the region does, which may end between pixels.
+    // Tiles repeat at the size of the region, which may end between pixels.
     const QRectF exact = m_toPixels.mapRect(tile.region);
     if (m_toPixels.type() <= QTransform::TxScale && QRectF(m_source.picture.rect()).contains(exact))
         brush.setTransform(boxMapping(QRectF(QPointF(), rect.size()), exact));
@@ -355,7 +355,7 @@ QImage StepRunner::displaced(const FilterPrimitive &primitive) const
     return picture;
 }
 
-// Heights grow as the picture does.
+// Heights scale with the picture.
 QVector3D StepRunner::pixelPlace(const QVector3D &place) const
 {
     const QPointF mapped = m_toPixels.map(place.toPointF());
@@ -487,7 +487,7 @@ bool StepRunner::isNeededAfter(int index, const QString &name) const
     return false;
 }
 
-// False when more results are waiting than may be held.
+// False when more results are waiting than the limit allows.
 bool StepRunner::holdResults()
 {
     const double pixels = pixelCount() * (m_named.size() + heldPictures);

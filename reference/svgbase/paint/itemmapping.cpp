@@ -17,23 +17,23 @@ namespace Svg {
 
 namespace {
 
-/// Relative difference below which two scales count as one.
+/// Relative difference below which two scales are equal.
 constexpr double scaleTolerance = 1e-6;
 /// Down to this size the painter's own smoothing of a picture is good enough.
 constexpr double smoothFactor = 0.5;
-/// How far a flattened curve may stray, painter units; what Qt's painters use.
+/// Tolerance of a flattened curve, painter units; as in Qt's painters.
 constexpr double curveThreshold = 0.25;
-/// The same as a share of the size of what is flattened.
+/// The same as a share of the size of the curve.
 constexpr double finestThreshold = 1e-7;
 
-// A control point is moved to where its centre goes, but keeps its size in document units.
+// A control point moves with its centre, but keeps its size in document units.
 QTransform aboutCentre(const QPointF &centre, const QTransform &stretch)
 {
     const QPointF place = stretch.map(centre);
     return QTransform::fromTranslate(place.x() - centre.x(), place.y() - centre.y());
 }
 
-// `toDocument` and the mapping, as the item is placed.
+// `toDocument` and the mapping, with the item's placement.
 QTransform toPainter(const QTransform &toDocument, const DisplayItem &item, const Mapping &mapping)
 {
     const QTransform placed =
@@ -81,7 +81,7 @@ double controlPolygonLength(const QPainterPath &path)
     return length;
 }
 
-// A dash far below the size of a pixel costs time without end and shows nothing.
+// A dash far below the size of a pixel takes endless time and is not visible.
 bool hasTooManyDashes(const QPen &pen, const QPainterPath &path)
 {
     if (pen.style() == Qt::SolidLine)
@@ -101,7 +101,7 @@ QPen boundedPen(const QPen &pen, const QPainterPath &path, MappingBudget *budget
     return solid;
 }
 
-// Not shared with the facts: painting stores things in a path, and other threads may paint from the same facts.
+// Not shared with the facts: painting stores data in a path, and other threads may paint from the same facts.
 QPainterPath mappedPath(const QPainterPath &path, const QTransform &transform)
 {
     if (!transform.isIdentity())
@@ -112,7 +112,7 @@ QPainterPath mappedPath(const QPainterPath &path, const QTransform &transform)
     return copy;
 }
 
-// Never so fine that a curve falls into more pieces than a double can tell apart.
+// Never so fine that a double cannot distinguish the pieces of a curve.
 double userThreshold(const QPainterPath &path, double penWidth, double scale)
 {
     const QRectF box = path.controlPointRect();
@@ -120,7 +120,7 @@ double userThreshold(const QPainterPath &path, double penWidth, double scale)
     return scale > 0 ? qMax(finest, curveThreshold / scale) : curveThreshold;
 }
 
-// Whether the path is nothing but single lines, each after a move.
+// Whether the path consists of single lines, each after a move.
 bool isSingleLines(const QPainterPath &path)
 {
     for (int i = 0; i < path.elementCount(); ++i) {
@@ -131,8 +131,8 @@ bool isSingleLines(const QPainterPath &path)
     return true;
 }
 
-// Painters have a way of their own for single lines without round ends: these are cut where they leave the clip,
-// and the rounding of the cut shows in a pixel now and then.
+// Painters treat single lines without round ends specially: these are cut where they leave the clip, and the
+// rounding of the cut occasionally shows in a pixel.
 bool isCutAtClip(const MappedShape &shape)
 {
     return shape.pen.style() != Qt::NoPen && shape.pen.capStyle() != Qt::RoundCap && isSingleLines(shape.path);
@@ -217,7 +217,7 @@ QBrush ShapeMapper::patternOf(const Pattern &pattern, Paint::Kind kind) const
     return brush;
 }
 
-// Tiles are painted for the scale that they are seen at.
+// Tiles are painted for the scale at which they are seen.
 void ShapeMapper::paintPatterns(Outline *outline) const
 {
     if (m_source.fillPattern && outline->fill.style() != Qt::NoBrush)
@@ -246,7 +246,7 @@ void ShapeMapper::outlineStroke(const QPen &pen, const QPainterPath &path, const
 void ShapeMapper::mapStroke(const QPen &asked, const QPainterPath &path, const QTransform &transform)
 {
     m_shape.strokedWith = asked;
-    // Painters have no joins that are cut like these.
+    // Painters lack joins cut like these.
     const QPainterPath tips = clippedMiters(path, asked);
     QPen pen = asked;
     if (pen.joinStyle() == Qt::MiterJoin)
@@ -257,7 +257,7 @@ void ShapeMapper::mapStroke(const QPen &asked, const QPainterPath &path, const Q
     }
     m_shape.pen = pen;
     m_shape.pen.setBrush(mappedBrush(pen.brush(), transform));
-    // Control points are sized for the screen by whoever edits; their line is as wide at every zoom.
+    // Editors size control points for the screen; their line has the same width at every zoom.
     if (!m_item.controlCentre)
         m_shape.pen.setWidthF(pen.widthF() * meanScale(transform));
     const double reach = strokeReach(m_shape.pen);
@@ -265,7 +265,7 @@ void ShapeMapper::mapStroke(const QPen &asked, const QPainterPath &path, const Q
     m_shape.strokeReach = QSizeF(reach, reach);
 }
 
-// The stroke is taken around the outline as it stands in the target, whatever brought it there (SVG 2 §13.6).
+// The stroke is taken around the outline in the target, whatever transforms led there (SVG 2 §13.6).
 void ShapeMapper::mapUnscaledStroke(const Outline &outline)
 {
     const QTransform toTarget = m_transform * m_mapping.world.inverted();
@@ -275,7 +275,7 @@ void ShapeMapper::mapUnscaledStroke(const Outline &outline)
     mapStroke(pen, path, m_mapping.world);
 }
 
-// Long drawings would hold every outline twice.
+// Long drawings would store every outline twice.
 void ShapeMapper::keepOrForget()
 {
     m_shape.elementCount = m_shape.path.elementCount() + m_shape.strokePath.elementCount();
@@ -310,7 +310,7 @@ void ShapeMapper::map()
     keepOrForget();
 }
 
-// How much of a pixel of the painter a pixel of the picture covers, where nothing is turned; else all of it.
+// Share of the painter's pixel that a pixel of the picture covers, without rotation; else 1.
 QSizeF shrinkage(const MappedPicture &picture, const QRectF &bounds)
 {
     if (picture.toPainter.type() > QTransform::TxScale || picture.source.isEmpty())
@@ -318,7 +318,7 @@ QSizeF shrinkage(const MappedPicture &picture, const QRectF &bounds)
     return QSizeF(bounds.width() / picture.source.width(), bounds.height() / picture.source.height());
 }
 
-// Painters look at four pixels for each of their own; averaging all of them is done once.
+// Painters sample four pixels for each of their own; averaging all of them is done once.
 void shrinkPicture(MappedPicture *picture, const QRectF &bounds)
 {
     const QSizeF factor = shrinkage(*picture, bounds);
@@ -350,7 +350,7 @@ void mapPicture(MappedItem *item, const PictureItem &shown, const Mapping &mappi
         shrinkPicture(&picture, item->bounds);
 }
 
-// Regions are made of single rectangles, or of whatever shape cuts a viewport.
+// Regions are made of single rectangles, or of whatever shape clips a viewport.
 bool isRect(const QPainterPath &path)
 {
     QPainterPath rect;
@@ -358,7 +358,7 @@ bool isRect(const QPainterPath &path)
     return path == rect;
 }
 
-/// Maps lists and the groups within.
+/// Maps lists and the groups in them.
 class ListMapper
 {
 public:
@@ -455,7 +455,7 @@ void restrictBounds(MappedItem *group)
         group->bounds &= coveredBounds(mapped->mask);
 }
 
-// Groups stand before their members, so that the last ones are complete first.
+// Groups precede their members, so complete the last ones first.
 void measureGroups(MappedItems *items)
 {
     for (size_t i = items->size(); i-- > 0;) {

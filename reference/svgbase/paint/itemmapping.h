@@ -5,19 +5,19 @@
 
 namespace Svg {
 
-/// Gives patterns as brushes.
+/// Provides patterns as brushes.
 class PatternBrushes
 {
 public:
-    /// A brush that paints the pattern in the units of its target, fine enough for a painter that these are mapped
-    /// to by `transform`. No brush when there is no room for another tile.
+    /// A brush that paints the pattern in the units of its target, fine enough for a painter that `transform` maps
+    /// these to. No brush when there is no room for another tile.
     virtual QBrush brush(const Pattern &pattern, const QTransform &transform) = 0;
 
 protected:
     ~PatternBrushes() = default;
 };
 
-/// Maps outlines, fills and pens to the painter's coordinates, as far as that is not done, and measures groups.
+/// Maps outlines, fills and pens to the painter's coordinates where that is still to be done, and measures groups.
 void mapItems(MappedItems *items, const Mapping &mapping, MappingBudget *budget, PatternBrushes *patterns);
 
 /// The mapped outline of a shape, whether it is kept or not.

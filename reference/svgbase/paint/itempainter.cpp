@@ -21,22 +21,22 @@ namespace Svg {
 
 namespace {
 
-/// How far smoothing reaches beyond an outline, pixels.
+/// Reach of antialiasing beyond an outline, pixels.
 constexpr int smoothingReach = 1;
-/// Filters may ask for pixels from anywhere; farther than this no picture reaches.
+/// Filters may need pixels from anywhere; pictures are limited to this distance.
 constexpr double farthestPixel = 1 << 24;
 /// Cost of blending by hand, in layer pixels.
 constexpr double blendCost = 20;
-/// How far from a pixel's edge a rectangle may end and still be taken to end there.
+/// Distance from a pixel's edge within which a rectangle counts as ending there.
 constexpr double alignmentTolerance = 1e-3;
 /// Bounds of layers while a picture is recorded.
 constexpr QRect recordedWindow(-8192, -8192, 16384, 16384);
 
-/// A group that is painted aside, or the painter itself at the bottom of the stack.
+/// A group that is painted into a layer, or the painter itself at the bottom of the stack.
 struct Layer
 {
     QPainter *painter = nullptr;
-    /// Opacity that everything painted here carries.
+    /// Opacity of everything painted here.
     double opacity = 1;
     /// Opacity of the finished picture.
     double pictureOpacity = 1;
@@ -45,13 +45,13 @@ struct Layer
     PixelTarget pixels;
     /// Null for none.
     const MappedEffects *effects = nullptr;
-    /// Null for a group that is painted straight on what lies below.
+    /// Null for a group that is painted directly on its backdrop.
     std::unique_ptr<SidePicture> picture;
     /// Canvas of the picture until it is filtered, unless the pixels of the painter below serve as one.
     std::optional<FilterCanvas> canvas;
     /// Whether the painter below was given a clip for this group.
     bool clips = false;
-    /// Place behind the last member of the group.
+    /// Index after the last member of the group.
     size_t end = 0;
 };
 
@@ -101,7 +101,7 @@ ItemPainter::ItemPainter(QPainter *painter, const QRect &area, double pixelRatio
     m_layers.push_back(std::move(bottom));
 }
 
-// Neighbours are often painted alike, and a change costs the painter more than the comparison.
+// Neighbours often have the same paint, and a change costs the painter more than the comparison.
 void ItemPainter::takePaint(QPainter *painter, const MappedShape &shape)
 {
     const MappedShape *last = m_paintOwner == painter ? m_paintSource : nullptr;
@@ -118,7 +118,7 @@ bool reaches(const QRectF &bounds, const QRect &area)
     return !paintedPixels(bounds, area).isEmpty();
 }
 
-// One that shares no data with the path; a mere copy does until it changes.
+// A deep copy of the path; a mere copy shares its data until it changes.
 QPainterPath detachedCopy(const QPainterPath &path)
 {
     QPainterPath copy = path;
@@ -127,8 +127,7 @@ QPainterPath detachedCopy(const QPainterPath &path)
     return copy;
 }
 
-// A path that is drawn keeps what painters made of it, 3 KB at least. That is expensive where there are many:
-// these are drawn from copies.
+// A drawn path keeps data of the painters, 3 KB at least. Where there are many, draw copies of them.
 void ItemPainter::drawOutline(QPainter *painter, const MappedItem &item)
 {
     const auto &shape = std::get<MappedShape>(item.content);
@@ -228,7 +227,8 @@ bool onlyCuts(const LayerEffects &effects)
            effects.blendMode == BlendMode::Normal && !effects.isolated;
 }
 
-// A group that is only cut needs no picture where nothing leaves its rectangle, or where that ends at whole pixels.
+// A group that is only clipped needs no picture where nothing leaves its rectangle, or where that ends at whole
+// pixels.
 bool ItemPainter::beginStraight(const MappedItem &group, Layer *layer)
 {
     const MappedEffects *effects = effectsOf(group);
@@ -252,7 +252,7 @@ bool ItemPainter::beginStraight(const MappedItem &group, Layer *layer)
     return true;
 }
 
-// False when nothing of the layer shows, so that all of it is passed over.
+// False when nothing of the layer is visible, so that all of it is skipped.
 bool ItemPainter::beginLayer(const MappedItem &group, size_t end)
 {
     const Layer &below = m_layers.back();
@@ -336,7 +336,7 @@ MappedItems filledOutline(const QPainterPath &path)
     return items;
 }
 
-// A coverage beyond the budget hides the picture altogether.
+// A coverage beyond the budget hides the picture completely.
 void keepWhere(QImage *picture, const std::unique_ptr<SidePicture> &coverage)
 {
     if (coverage)
@@ -371,7 +371,7 @@ bool ItemPainter::filtered(const MappedEffects &effects, const Layer &layer, QIm
     return runFilter(*effects.source->filter, toPixels, services, picture);
 }
 
-// The picture goes on in the pixels of the painter below.
+// The picture continues in the pixels of the painter below.
 void ItemPainter::leaveCanvas(Layer *layer)
 {
     if (!layer->canvas)
@@ -411,8 +411,8 @@ void ItemPainter::finish(Layer *layer)
     }
 }
 
-// Blended by hand where that can be afforded: painters leave a trace where nothing lies on nothing, and follow the
-// rules of four modes not at all.
+// Blended by hand where the budget allows: painters leave a trace where nothing lies on nothing, and lack four
+// modes.
 bool ItemPainter::blendByHand(const Layer &done, BlendMode mode)
 {
     Layer *target = pictureBelow();

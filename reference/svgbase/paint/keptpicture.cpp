@@ -64,14 +64,14 @@ bool isSame(const QRgb *a, const QRgb *b, int count)
     return memcmp(a, b, size_t(count) * bytesPerPixel) == 0;
 }
 
-/// From the first to the last place where two rows differ; `first` is `count` where they do not.
+/// The range in which two rows differ; `first` is `count` where they are equal.
 struct Difference
 {
     int first;
     int last;
 };
 
-// Whole blocks are compared at once: rows are long, and what differs in them is short.
+// Compare whole blocks at once: rows are long, and differences in them short.
 Difference differenceOf(const QRgb *a, const QRgb *b, int count)
 {
     if (isSame(a, b, count))

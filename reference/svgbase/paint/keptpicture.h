@@ -8,9 +8,8 @@ class QPainter;
 
 namespace Svg {
 
-/// A finished drawing and what it was painted over, kept for the next time that the same list is painted in the
-/// same place: what did not change meanwhile, below or in the drawing, is copied instead of painted. That gives the
-/// very pixels that painting would.
+/// A finished drawing and its backdrop, kept for the next time that the same list is painted in the same place:
+/// unchanged parts of both are copied instead of painted, with exactly the pixels that painting would give.
 class KeptPicture
 {
 public:
@@ -19,26 +18,26 @@ public:
         Paint,
         /// Call keepBelow(), paint all of it, then call keep(); or just paint.
         PaintAndKeep,
-        /// Ask for what changed, restore() the rest, paint what changed, and keep() that.
+        /// Find the changed area, restore() the rest, paint the changes, and keep() them.
         Repair
     };
 
-    /// Says what is to be done to have the list on `target`, where it reaches `reach` (pixels).
+    /// Tells what to do to have the list on `target`, where it covers `reach` (pixels).
     Answer prepare(const QImage &target, const QRect &reach, bool withControlPoints);
-    /// Keeps what the drawing is going to be painted over.
+    /// Keeps the backdrop of the drawing.
     void keepBelow(const QImage &target);
-    /// Forgets the pixels, but not their place: the next painting there may be kept.
+    /// Discards the pixels, but not their place: the next painting there may be kept.
     void drop();
     /// The pixels that are kept.
     const QRect &area() const { return m_area; }
-    /// The part of the target that is not as it was below the kept drawing; from now on the present pixels count.
+    /// The part of the target where the backdrop has changed since it was kept; the present pixels become the kept
+    /// ones.
     QRect changedBelow(const QImage &target);
-    /// Copies the kept drawing to the target, except for what is to be painted again: there the target is left as
-    /// it is below the drawing.
+    /// Copies the kept drawing to the target, except for the area to be painted again, which gets the backdrop.
     void restore(QImage *target, const QVector<QRect> &repainted) const;
-    /// Puts back what was below a drawing that could not be finished.
+    /// Restores the backdrop of a drawing that could not be finished.
     void restoreBelow(QImage *target) const;
-    /// Keeps what was painted within a part of the area.
+    /// Keeps the pixels painted within a part of the area.
     void keep(const QImage &target, const QRect &part);
     void clear() { *this = KeptPicture(); }
     int bytes() const { return int(m_picture.sizeInBytes() + m_below.sizeInBytes()); }
@@ -55,8 +54,8 @@ private:
     QImage::Format m_format = QImage::Format_Invalid;
 };
 
-/// The picture that a painter paints on, if its pixels can be read and written behind the painter's back with the
-/// result that painting has: the painter neither clips nor fades nor maps nor mixes. Null for any other.
+/// The picture that a painter paints on, if its pixels can be read and written directly with the same result as
+/// painting: without clip, opacity, mapping and special composition. Null for any other.
 QImage *plainTarget(QPainter *painter);
 
 } // namespace Svg

@@ -6,7 +6,7 @@ namespace Svg {
 
 namespace {
 
-/// Where growing takes more passes over a list, all of it is painted.
+/// When growing takes more passes over a list, all of it is painted.
 constexpr int mostPasses = 8;
 
 void takeOver(MappedItem *fresh, MappedItem *old)
@@ -40,7 +40,7 @@ QVector<int> takeOverMapped(MappedItems *fresh, MappedItems *old)
 
     QVector<int> changed;
     for (int i = 0; i < size; ++i) {
-        // Items that were added or taken away stand between those that stayed.
+        // Added or removed items lie between unchanged ones.
         const int before = i < end ? i : i - shift;
         if (i < start || i >= end || (shift == 0 && isSame(i, i)))
             takeOver(&(*fresh)[size_t(i)], &(*old)[size_t(before)]);

@@ -18,27 +18,26 @@ using MappedItems = std::vector<MappedItem>;
 struct MappedShape
 {
     QPainterPath path;
-    /// Where the mapped outline is not kept: the mapping to make it again when it is painted. Else null.
+    /// When the mapped outline is not kept, the mapping that makes it again for painting. Else null.
     MappingPointer mapping;
     /// Of the mapped outlines, kept or not.
     int elementCount = 0;
     QBrush fill = Qt::NoBrush;
     QPen pen = Qt::NoPen;
-    /// The pen as it is in the units of the element, and its reach beyond the outline along the axes, painter
-    /// units.
+    /// The pen in the units of the element, and its reach beyond the outline along the axes, painter units.
     QPen strokedWith = Qt::NoPen;
     QSizeF strokeReach{0, 0};
     /// Outline of the stroke, where the mapping distorts it so that no pen can draw it.
     QPainterPath strokePath;
-    /// The outlines as they are painted in plain colours; null before that.
+    /// The outlines as painted in plain colours; null until then.
     mutable std::shared_ptr<const FlatShape> flat;
     /// Length of the outlines along the axes, painter units.
     double outlineLength = 0;
-    /// Segments, and dashes, that a pen goes along.
+    /// Segments, and dashes, along the pen's way.
     double strokedPieces = 0;
     bool smooth = true;
     /// Whether painting a part of the item may give other pixels than painting all of it: steps along a gradient or
-    /// a pattern are counted from where a row begins, and lines with hard edges or without round ends from where
+    /// a pattern are counted from the start of a row, and lines with hard edges or without round ends from where
     /// they enter the clip.
     bool isIndivisible = false;
 };
@@ -82,22 +81,22 @@ struct MappedGroup
     std::unique_ptr<MappedEffects> effects;
 };
 
-/// One thing to paint and how it comes to the painter.
+/// One thing to paint, mapped to the painter.
 struct MappedItem
 {
     DisplayItem item;
     bool mapped = false;
     /// Whether another list took over the mapped content.
     bool takenOver = false;
-    /// Everything that the item paints, painter coordinates.
+    /// Bounds of everything that the item paints, painter coordinates.
     QRectF bounds;
     /// Of the same kind as the content of `item` once it is mapped.
     std::variant<MappedShape, MappedPicture, MappedGroup> content;
 };
 
-/// The items as they are, to be mapped.
+/// The items before mapping.
 MappedItems unmapped(const DisplayItems &items);
-/// Items behind this one that belong to it; 0 for all but groups.
+/// Following items that belong to it; 0 except for groups.
 int membersOf(const MappedItem &item);
 
 } // namespace Svg

@@ -16,16 +16,16 @@ struct Mapping
 };
 using MappingPointer = std::shared_ptr<const Mapping>;
 
-/// The rest of what mapping the items of one drawing may take.
+/// Remaining budget for mapping the items of one drawing.
 struct MappingBudget
 {
     /// Elements of the outlines of strokes that the drawing makes itself, because no pen can draw them.
     double strokeElements = Limits::strokeElements;
-    /// Elements of mapped outlines that are kept; others are mapped whenever they are painted.
+    /// Elements of mapped outlines that are kept; others are mapped at each painting.
     int keptElements = Limits::keptElements;
-    /// Whether strokes of too many dashes became solid ones.
+    /// Whether strokes with too many dashes became solid ones.
     bool solidStrokes = false;
-    /// Shared by all items that are mapped alike and do not keep their outlines.
+    /// Shared by all items with the same mapping that do not keep their outlines.
     MappingPointer mapping;
 
     bool isUsedUp() const { return strokeElements <= 0; }

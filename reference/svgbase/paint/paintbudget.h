@@ -4,11 +4,11 @@
 
 namespace Svg {
 
-/// Work left to a drawing: pixels painted aside, in all and at a time, and work on outlines and pixels.
+/// Remaining work of a drawing: pixels of layers, in total and at a time, and work on outlines and pixels.
 struct PaintBudget
 {
     PaintBudget() = default;
-    /// More for a target of more pixels.
+    /// Grows with the pixels of the target.
     explicit PaintBudget(double targetPixels)
         : mostOpen(Limits::openLayerPixels + Limits::openLayerTargets * targetPixels)
         , work(Limits::paintedWork + Limits::paintedWorkPerPixel * targetPixels)
@@ -16,7 +16,7 @@ struct PaintBudget
     {
     }
 
-    /// Of all tiles of patterns of a drawing, which are painted besides it.
+    /// For the tiles of a drawing's patterns, painted in addition to it.
     static PaintBudget ofTiles()
     {
         PaintBudget budget;
@@ -34,13 +34,13 @@ struct PaintBudget
     double wholeWork = work;
     /// The part of the work that does not grow with the target.
     double outlineWork = Limits::paintedWork;
-    /// How many outlines were drawn that may keep what painters make of them.
+    /// How many outlines were drawn that may keep data of the painters.
     int outlines = 0;
     /// Whether a picture was refused.
     bool lacksPixels = false;
 
     bool lacksWork() const { return work < 0 || outlineWork < 0; }
-    /// How much of it was taken; 1 or more where something was left out or simplified.
+    /// Used share of the budget; 1 or more when something was left out or simplified.
     double taken() const
     {
         const double share =

@@ -47,7 +47,7 @@ double workPerPixel(const QBrush &brush, double opacity)
     }
 }
 
-// Of so many pixels that are seen of the item.
+// For this number of visible pixels of the item.
 double strokedPixels(const MappedShape &shape, double seen, double pixelRatio)
 {
     if (!shape.strokePath.isEmpty())

@@ -6,7 +6,7 @@ namespace Svg {
 
 /// Length of a mapped outline and of its stroke's two sides along the axes, painter units.
 double paintedLength(const MappedShape &shape);
-/// Number of segments and dashes that a mapped shape's pen goes along.
+/// Number of segments and dashes of a mapped shape's stroke.
 double strokedPieces(const MappedShape &shape);
 /// Estimated cost of painting a mapped shape within an area, in nanoseconds.
 struct PaintingWork
@@ -15,7 +15,7 @@ struct PaintingWork
     double elements = 0;
     /// For the pixels that its outline crosses and that it fills.
     double pixels = 0;
-    /// For crossings that crowd in a row of pixels, where Qt's raster engine paints it.
+    /// For crowded crossings in a row of pixels, when Qt's raster engine paints it.
     double crowding = 0;
 };
 PaintingWork paintingWork(const MappedItem &item, const QRect &area, double pixelRatio);

@@ -4,7 +4,7 @@ namespace Svg {
 
 namespace {
 
-/// Segments along a line are cut into pieces of about this length, pixels, for the rectangles around them to be
+/// Segments along a line are cut into pieces of about this length, pixels, to keep the rectangles around them
 /// small.
 constexpr double pieceLength = 48;
 constexpr int mostPieces = 8;
@@ -24,7 +24,7 @@ bool isUndashed(const QPen &pen)
     return pen.style() == Qt::NoPen || pen.style() == Qt::SolidLine;
 }
 
-// A stroke that was outlined by itself follows the units of its element.
+// A stroke with an outline of its own follows the units of its element.
 bool hasSameStroke(const MappedShape &a, const MappedShape &b, const Facts &factsOfA, const Facts &factsOfB)
 {
     if (a.pen != b.pen || a.strokedWith != b.strokedWith || !isUndashed(a.strokedWith))
@@ -34,7 +34,7 @@ bool hasSameStroke(const MappedShape &a, const MappedShape &b, const Facts &fact
                            factsOfA.style->strokeScales == factsOfB.style->strokeScales);
 }
 
-// Whether only the outline can make the difference. Dashes behind a segment would move with its length.
+// Whether only the outline can make the difference. Dashes after a segment would move with its length.
 bool differsInOutlineAlone(const MappedItem &before, const MappedItem &after)
 {
     const auto *a = std::get_if<MappedShape>(&before.content);
@@ -45,7 +45,7 @@ bool differsInOutlineAlone(const MappedItem &before, const MappedItem &after)
            hasSameStroke(*a, *b, *before.item.facts, *after.item.facts) && hasSameElements(a->path, b->path);
 }
 
-/// Areas between a segment before and after, in pieces: a point of one and a point of the other for each cut.
+/// Areas between a segment before and after, in pieces: a point of each for every cut.
 class SegmentPair
 {
 public:
@@ -116,7 +116,7 @@ void SegmentPair::compare()
     for (int i = 0; i < m_after.elementCount(); ++i) {
         switch (m_after.elementAt(i).type) {
         case QPainterPath::MoveToElement:
-            // A filled subpath is closed where it is left.
+            // A filled subpath is closed where it ends.
             if (i > 0)
                 addLine(i - 1, start);
             start = i;

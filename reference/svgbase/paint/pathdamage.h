@@ -5,8 +5,8 @@
 
 namespace Svg {
 
-/// Adds the parts in which an item looks different from the one that it replaces: where both are outlines of the
-/// same making, the surroundings of the segments that moved, else all of both.
+/// Adds the parts in which an item looks different from the one that it replaces: for outlines of the same
+/// structure, the surroundings of the segments that moved, else all of both.
 void addDifference(const MappedItem &before, const MappedItem &after, Damage *damage);
 
 } // namespace Svg

@@ -8,8 +8,8 @@
 
 namespace Svg {
 
-/// The pictures of tiles that a drawing made, one for each pattern and size, and the rest of what more of them may
-/// take. Tiles that appear in many places, and in tiles of other patterns, are painted once.
+/// The pictures of tiles that a drawing made, one for each pattern and size, and the remaining budget for more.
+/// Tiles that appear in many places, and in tiles of other patterns, are painted once.
 class PatternTiles final : public PatternBrushes
 {
 public:

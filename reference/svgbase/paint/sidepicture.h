@@ -16,7 +16,7 @@ constexpr QPainter::RenderHints smoothPainting =
 /// Pixels of an area of the painter.
 double pixelCount(const QRect &area, double pixelRatio);
 
-/// A picture that is painted aside, in the coordinates of the painter below, or of a canvas.
+/// A layer's picture, in the coordinates of the painter below, or of a canvas.
 class SidePicture
 {
 public:
@@ -31,10 +31,10 @@ public:
 
     const QRect &area() const { return m_area; }
     QPainter *painter() { return &m_painter; }
-    /// The picture, once nothing more is painted.
+    /// The picture, once painting is finished.
     QImage *finished();
     QImage *image() { return &m_image; }
-    /// Its pixels, to be written to besides painting, where they are those of the painter below.
+    /// Its pixels for direct writing, when they are those of the painter below.
     PixelTarget pixels();
 
 private:

@@ -27,7 +27,7 @@ const QRgb *rowOf(const QImage &image, int y)
     return reinterpret_cast<const QRgb *>(image.constScanLine(y));
 }
 
-// A premultiplied pixel's luminance has its alpha in it already.
+// A premultiplied pixel's luminance includes its alpha.
 int luminance(QRgb pixel)
 {
     return qRound(redShare * qRed(pixel) + greenShare * qGreen(pixel) + blueShare * qBlue(pixel));
@@ -69,7 +69,7 @@ double sat(const Rgb &c)
     return std::max({c.r, c.g, c.b}) - std::min({c.r, c.g, c.b});
 }
 
-// Pulls components that left their range back along the line to grey.
+// Pulls components outside their range back along the line to grey.
 Rgb clipped(const Rgb &c)
 {
     const double l = lum(c);
@@ -131,7 +131,7 @@ double burned(double below, double above)
     return above <= 0 ? 0 : 1 - qMin(1.0, (1 - below) / above);
 }
 
-// One component of the modes that mix each for itself (Compositing 1 §9.1).
+// One component of the separable modes (Compositing 1 §9.1).
 double mixedComponent(double below, double above, BlendMode mode)
 {
     switch (mode) {
@@ -192,7 +192,7 @@ int byteOf(double share)
     return qBound(0, qRound(share * opaque), opaque);
 }
 
-// Both lights are added up (Compositing 2, "plus-lighter").
+// Both colours are added (Compositing 2, "plus-lighter").
 QRgb added(QRgb below, QRgb above, double opacity)
 {
     const auto sum = [opacity](int a, int b) { return qMin(opaque, qRound(a + b * opacity)); };

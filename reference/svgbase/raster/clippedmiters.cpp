@@ -38,7 +38,7 @@ QPointF unit(const QPointF &way)
     return length > 0 ? way / length : QPointF();
 }
 
-// Control points that lie on an end say nothing about the direction there.
+// Control points that coincide with an end don't define the direction there.
 QPointF firstWay(std::initializer_list<QPointF> points)
 {
     for (const QPointF &point : points)
@@ -47,7 +47,7 @@ QPointF firstWay(std::initializer_list<QPointF> points)
     return QPointF();
 }
 
-/// Joins of one subpath after the other.
+/// Joins of the subpaths in order.
 class MiterClipper
 {
 public:
@@ -131,7 +131,7 @@ void MiterClipper::addJoin(const Segment &before, const Segment &after)
     const double side = cross(in, out) > 0 ? -1 : 1;
     const QPointF first = QPointF(-in.y(), in.x()) * side * m_halfWidth;
     const QPointF second = QPointF(-out.y(), out.x()) * side * m_halfWidth;
-    // Between lines that turn back, the way on is the way in.
+    // Between lines that turn back, the outgoing direction is the incoming one.
     const QPointF middle = dot(in, out) > -1 + 1e-12 ? unit(first + second) : in;
     const double halfSine = dot(first, middle) / m_halfWidth;
     const double forward = dot(in, middle);

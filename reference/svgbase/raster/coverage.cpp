@@ -1,5 +1,5 @@
-// Each line adds to the pixels that it passes how much of the pixels to its right it covers, up or down; summed
-// along a row that gives the area that the outline goes around.
+// Each line adds to the pixels that it crosses the signed area that it covers to the right; summed along a row that
+// gives the area inside the outline.
 
 #include "raster/coverage.h"
 
@@ -9,8 +9,7 @@ namespace {
 
 constexpr int subpixelBits = 8;
 static_assert(subpixels == 1 << subpixelBits);
-/// Bits behind the point of slopes. Points are so near to the origin that products with a slope stay within 64
-/// bits.
+/// Fractional bits of slopes. Points are so near to the origin that products with a slope stay within 64 bits.
 constexpr int fixedBits = 32;
 constexpr qint64 fixedUnit = qint64(1) << fixedBits;
 constexpr qint64 fixedHalf = fixedUnit / 2;
@@ -142,7 +141,8 @@ void Coverage::addUpright(int x, int from, int to, int direction)
     }
 }
 
-// A part of a line from `left` to `right` that is `height` high; what is left of the band covers all of its pixels.
+// A part of a line from `left` to `right` that is `height` high, with the remaining pixels of the band fully
+// covered.
 inline void Coverage::addInRow(const Row &row, int left, int right, int height)
 {
     const int column = left >> subpixelBits;

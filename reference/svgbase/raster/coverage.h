@@ -8,12 +8,13 @@
 
 namespace Svg {
 
-/// Tells how much of each pixel an outline covers: the exact area, in 256 steps. What a pixel gets does not depend
-/// on the window that is looked at.
+/// Computes how much of each pixel an outline covers: the exact area, in 256 steps. The result for a pixel does not
+/// depend on the window.
 class Coverage
 {
 public:
-    /// Pixels from `x` on, `length` of them in row `y`, are covered alike; 255 is all of a pixel, 0 is not told.
+    /// Pixels from `x` on, `length` of them in row `y`, have the same coverage; 255 is all of a pixel, 0 is not
+    /// reported.
     struct Span
     {
         int x;
@@ -22,11 +23,11 @@ public:
         int coverage;
     };
 
-    /// Calls `sink(span)` for what is covered within `window` (pixels), from top to bottom.
+    /// Calls `sink(span)` for everything covered within `window` (pixels), from top to bottom.
     template<typename Sink> void sweep(const FlatOutline &outline, const QRect &window, Sink &&sink);
 
 private:
-    /// Rows that are worked on together, the window's left edge being 0.
+    /// Rows processed together, the window's left edge being 0.
     struct Band
     {
         int left;
@@ -66,7 +67,7 @@ private:
     Band m_band{};
     int m_columns = 0;
     int m_words = 0;
-    /// Area that each pixel adds to itself and to all pixels behind it, by rows. Single values may wrap around
+    /// Area that each pixel adds to itself and to all following pixels, by rows. Single values may wrap around
     /// where lines crowd; their sums do not.
     std::vector<uint> m_cells;
     /// A bit for each pixel that was written.

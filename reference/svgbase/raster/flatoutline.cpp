@@ -11,9 +11,9 @@ namespace {
 
 /// Largest distance of a line from the curve that it stands for, pixels.
 constexpr double flatness = 0.025;
-/// Farther from the origin than this nothing is flattened, pixels.
+/// Nothing farther from the origin is flattened, pixels.
 constexpr double farthest = 32000;
-/// So few that the areas of all lines of a row that go the same way, at most half of them and each at most a
+/// Few enough that the areas of all lines of a row in one direction, at most half of them and each at most a
 /// pixel's, add up without overflow.
 constexpr int mostPoints = 32000;
 

@@ -8,14 +8,14 @@
 
 namespace Svg {
 
-/// Parts of a pixel that points of flat outlines are counted in, along each axis.
+/// Subdivision of a pixel for the points of flat outlines, along each axis.
 constexpr int subpixels = 256;
 
 /// An outline as closed polygons, painter coordinates in parts of a pixel.
 struct FlatOutline
 {
     QVector<QPoint> points;
-    /// Behind the last point of each polygon.
+    /// After the last point of each polygon.
     QVector<int> ends;
     Qt::FillRule fillRule = Qt::WindingFill;
 };
@@ -27,12 +27,12 @@ struct FlatShape
     FlatOutline stroke;
     /// The stroke that no pen can draw.
     FlatOutline distorted;
-    /// Whether all of it could be made flat.
+    /// Whether all of it could be flattened.
     bool isUsable = false;
 };
 
-/// Curves become lines that stray by less than can be seen. False, the outline then being of no use, where it
-/// reaches too far from the origin or has too many points.
+/// Replaces curves by lines within an invisible tolerance. False, with an unusable outline, when it reaches too far
+/// from the origin or has too many points.
 bool flatten(const QPainterPath &path, FlatOutline *outline);
 /// The same for the area that a pen covers along a path, both in units that `toPainter` maps, which must be a
 /// mapping of the plane.

@@ -22,7 +22,7 @@ constexpr int roundingHalf = 128;
 /// Runs of pixels from this length on are compared as a whole first.
 constexpr int longRun = 8;
 
-/// Each channel times `factor` / 255, rounded; all four at once, apart from each other in the larger number.
+/// Each channel times `factor` / 255, rounded; all four at once, spread in the wider number.
 inline QRgb scaled(QRgb color, uint factor)
 {
     constexpr quint64 apart = 0x00ff00ff00ff00ff;
@@ -32,7 +32,7 @@ inline QRgb scaled(QRgb color, uint factor)
     return QRgb(channels) | QRgb(channels >> 24);
 }
 
-/// The colour as a painter lays it on pixels.
+/// The colour in the form that a painter blends.
 QRgb premultiplied(const QColor &color, double opacity)
 {
     const QRgba64 rgba = color.rgba64();
@@ -106,7 +106,7 @@ Q_NEVER_INLINE void PlainMixing::mix(QRgb *pixels, int count, QRgb color, uint b
     }
 }
 
-/// Lays a colour over pixels.
+/// Blends a colour with pixels.
 template<typename Mixing> class Overlay
 {
 public:
@@ -154,7 +154,7 @@ private:
 };
 
 // Large enough to be worth keeping, and in use only while an outline is filled. Behind a pointer, since a compiler
-// asks for the address of what belongs to a thread again and again.
+// asks for the address of thread-local data again and again.
 Coverage &sharedCoverage()
 {
     static thread_local const auto coverage = std::make_unique<Coverage>();

@@ -8,7 +8,7 @@
 
 namespace Svg {
 
-/// Where colours are written straight into pixels: a picture of ARGB32, premultiplied or not.
+/// Where colours are written directly to pixels: a picture of ARGB32, premultiplied or not.
 struct PixelTarget
 {
     /// Null where a painter has to do it.

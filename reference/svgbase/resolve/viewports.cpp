@@ -23,7 +23,7 @@ double referenceLength(const AttributeValue &value, Axis axis, const LengthConte
     return toUserUnits(length, axis, context);
 }
 
-// A symbol stands with its reference point where it is used; without one, with its corner.
+// A symbol is placed by its reference point; without one, by its corner.
 QPointF alignment(const Node &node, const Fit &fit, double fontSize)
 {
     const Attributes &attributes = node.attributes;

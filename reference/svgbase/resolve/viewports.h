@@ -9,13 +9,13 @@
 
 namespace Svg {
 
-/// The view box that the root element's attributes give; null when they give none.
+/// The view box from the root element's attributes; null without one.
 QRectF rootViewBox(const Node &root);
 /// Reference of percentages directly below the root, user units.
 QSizeF rootViewport(const Node &root, const QSizeF &window);
-/// The size that the root gives itself; percentages are of the window.
+/// The root's own size; percentages are of the window.
 QSizeF rootSize(const Node &root, const QSizeF &window);
-/// The root's own transform, which moves what its view box was fitted into, as one of document units (SVG 2 §8.10).
+/// The root's own transform, which applies after its view box was fitted, in document units (SVG 2 §8.10).
 QTransform rootTransform(const Node &root, const QTransform &own, const QSizeF &window);
 /// The area of a document shown in a window of that size: its view box, else the area of its "width" and "height".
 /// Empty if nothing is shown.
@@ -35,10 +35,10 @@ struct Fit
 /// of "clip" (SVG 1.1 §14.3.3). Percentages refer to `viewport`.
 std::optional<QRectF> viewportCut(const ComputedStyle &style, const QRectF &box, const QSizeF &viewport);
 
-/// Where a "marker" or a "symbol" is put by its "refX" and "refY", units of its content (SVG 2 §5.5, §13.7.1).
+/// Origin of a "marker" or a "symbol" by its "refX" and "refY", units of its content (SVG 2 §5.5, §13.7.1).
 QPointF referencePoint(const Attributes &attributes, const LengthContext &context);
 
-/// `used` is the size that a "use" gives it.
+/// `used` is the size from a "use".
 Fit nestedFit(const Node &node, const ComputedStyle &style, const QSizeF &viewport, const UsedSize &used);
 
 } // namespace Svg

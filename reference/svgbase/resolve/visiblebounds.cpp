@@ -11,7 +11,7 @@ QRectF visibleBounds(SettledTree &document, NodeIndex top)
     walkDrawing(document, top, [&](NodeIndex node, const FactsPointer &facts) {
         if (!facts->displayed)
             return false;
-        // Of a text the visible parts alone have bounds.
+        // Of a text only the visible parts have bounds.
         const bool isText = document.tree().node(node).kind == ElementKind::Text;
         if (isText ? !facts->outlines.isEmpty() : facts->hasGeometry && facts->style->visible) {
             bounds = first ? facts->bounds : bounds | facts->bounds;

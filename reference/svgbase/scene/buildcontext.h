@@ -15,7 +15,7 @@ struct BuildContext;
 /// Purpose of built content.
 enum class ContentUse {
     Drawing,
-    /// Only silhouettes count, of shapes, texts and direct references to them (CSS Masking 1 §6.3.1).
+    /// Only silhouettes are used, of shapes, texts and direct references to them (CSS Masking 1 §6.3.1).
     Clipping
 };
 
@@ -23,17 +23,17 @@ enum class ContentUse {
 class ContentBuilder
 {
 public:
-    /// The items of an element's children as they are drawn under the given facts.
+    /// The items of an element's children as drawn under the given facts.
     virtual DisplayItems children(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
                                   ContentUse use) const = 0;
-    /// The items of an element, the root for all of a document, under the given facts.
+    /// The items of an element, the root for a whole document, under the given facts.
     virtual DisplayItems element(BuildContext &context, NodeIndex node, const FactsPointer &facts) const = 0;
 
 protected:
     ~ContentBuilder() = default;
 };
 
-/// State that all parts of a list share while it is built.
+/// State shared by all parts of a list while it is built.
 struct BuildContext
 {
     BuildContext(SettledTree &built, const ContentBuilder &builder)
@@ -44,7 +44,7 @@ struct BuildContext
 
     SettledTree &document;
     const ContentBuilder &content;
-    /// Taken by references; bounding boxes count apart.
+    /// Used by references; bounding boxes are counted separately.
     WalkBudget budget;
     WalkBudget boundsBudget;
     int boundsVisits = 0;
@@ -52,18 +52,18 @@ struct BuildContext
     int appliedPrimitives = 0;
     /// Clip paths, masks and markers whose content is being built; one of them in its own content is an error.
     QVector<NodeIndex> open;
-    /// Images of "feImage" elements, so that every use of a filter need not read them again.
+    /// Images of "feImage" elements, read once for all uses of a filter.
     QHash<NodeIndex, std::shared_ptr<const ImageContent>> filterImages;
-    /// Patterns that were built, for all that are painted with the same, by what they were built from.
+    /// Patterns built so far, by their inputs, shared by everything painted with the same.
     QMultiHash<uint, PatternPointer> patterns;
     DrawReport report;
-    /// Images that are shown, their pixels, and the same counted for every time that they are.
+    /// Distinct images shown, their pixels, and the pixels counted at every use.
     QSet<const ImageContent *> images;
     qint64 imagePixels = 0;
     qint64 shownPixels = 0;
-    /// How many images this document stands in.
+    /// How many images this document is nested in.
     int imageDepth = 0;
-    /// Whether anything blends with what lies below it.
+    /// Whether anything blends with its backdrop.
     bool blends = false;
     /// The control point that is being visited, and its centre in document units.
     NodeIndex control = noNode;

@@ -16,7 +16,7 @@ struct DisplayItem;
 struct LayerEffects;
 struct Pattern;
 using PatternPointer = std::shared_ptr<const Pattern>;
-/// Items in drawing order; a group stands before the items that belong to it.
+/// Items in drawing order; a group precedes its members.
 using DisplayItems = QVector<DisplayItem>;
 
 /// An outline of an element with its fill and stroke.
@@ -26,10 +26,10 @@ struct ShapeItem
     int outline = 0;
     /// Of a clip path: the outline is filled by the clip rule, whatever its paint.
     bool silhouette = false;
-    /// Which of both is painted; the order may be the other way round than painters have it.
+    /// Which of both is painted; the order may be the reverse of the painters'.
     bool paintsFill = true;
     bool paintsStroke = true;
-    /// In the place of a brush; null where the outline's own paint counts.
+    /// Replaces the brush; null where the outline's own paint is used.
     PatternPointer fillPattern;
     PatternPointer strokePattern;
 };
@@ -49,7 +49,7 @@ struct GroupItem
 {
     /// Null for nothing but opacity.
     std::shared_ptr<const LayerEffects> effects;
-    /// Number of items behind this one that belong to it, those of groups within included.
+    /// Number of following items that belong to it, including those of groups within.
     int count = 0;
 };
 
@@ -69,8 +69,8 @@ struct DisplayItem
 /// Whether two items give the same picture under the same mapping.
 bool hasSameOrigin(const DisplayItem &a, const DisplayItem &b);
 
-/// The outline that a shape shows, with its pen and brush: document-wide styling applied, and without what is not
-/// painted. Patterns are left to the painter.
+/// The outline that a shape shows, with its pen and brush: with document-wide styling, and without unpainted parts.
+/// Patterns are left to the painter.
 Outline shownOutline(const DisplayItem &item, const ShapeItem &shape);
 
 } // namespace Svg

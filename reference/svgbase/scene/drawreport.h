@@ -10,7 +10,7 @@ class DrawReport
 {
 public:
     void add(Message::Code code, const QString &text, NodeIndex node = noNode);
-    /// The same as messages, with the places of the elements in their document.
+    /// The same as messages, with the locations of the elements in their document.
     void appendTo(QVector<Message> *messages, const Tree &tree) const;
 
 private:

@@ -46,7 +46,7 @@ private:
     std::optional<QRectF> m_bounds;
 };
 
-// Nothing for one that is too deep in others, so that these cut what they can.
+// Empty for one nested too deeply in others, so that these still clip as far as they can.
 NodeIndex EffectBuilder::find(const QString &id, ElementKind kind) const
 {
     const NodeIndex found = m_context.document.tree().findId(id);
@@ -62,7 +62,7 @@ const QRectF &EffectBuilder::bounds()
     return *m_bounds;
 }
 
-// Content inherits from where it is defined and stands where it is referred to.
+// Content inherits from where it is defined and is placed where it is referred to.
 bool EffectBuilder::contentFacts(NodeIndex holder, bool ofBounds, const QTransform &own, FactsPointer *result)
 {
     if (ofBounds && bounds().isEmpty())
@@ -136,7 +136,7 @@ bool EffectBuilder::addClip(LayerEffects *layer)
     return buildClip(clip, &layer->clip);
 }
 
-// Whether the alpha of a mask counts, by the element that is masked and by the mask itself.
+// Whether a mask uses alpha, by the masked element and by the mask itself.
 bool isAlphaMask(MaskMode mode, const ComputedStyle &mask)
 {
     const bool own = mask.effects && mask.effects->alphaMask;

@@ -7,7 +7,7 @@
 
 namespace Svg {
 
-/// A "filter" element, or a filter function, which knows no region.
+/// A "filter" element, or a filter function, which has no region.
 struct FilterStep
 {
     std::optional<QRectF> region;
@@ -16,11 +16,11 @@ struct FilterStep
     QHash<int, DisplayItems> images;
 };
 
-/// The "filter" property of an element, settled.
+/// The "filter" property of an element, resolved.
 struct Filter
 {
     QVector<FilterStep> steps;
-    /// The paints that "FillPaint" and "StrokePaint" stand for, units of the filtered element.
+    /// The paints for "FillPaint" and "StrokePaint", units of the filtered element.
     QBrush fillPaint = Qt::NoBrush;
     QBrush strokePaint = Qt::NoBrush;
     /// From the units of the filtered element.

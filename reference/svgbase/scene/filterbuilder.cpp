@@ -57,8 +57,8 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     return read;
 }
 
-// As those of a "use" that stands in the filtered element, or in units of its bounding box: moved by "x" and "y",
-// which with "width" and "height" are known in the units of the element (SVG 1.1 §15.18).
+// Like those of a "use" in the filtered element, or in units of its bounding box: moved by "x" and "y", which like
+// "width" and "height" are known in the units of the element (SVG 1.1 §15.18).
 FactsPointer FilterBuilder::useFacts(NodeIndex node, const PrimitiveUnits &units,
                                      const PrimitiveRegion &region) const
 {
@@ -77,7 +77,7 @@ FactsPointer FilterBuilder::useFacts(NodeIndex node, const PrimitiveUnits &units
     return result;
 }
 
-// An element is shown as "use" would show it.
+// An element is shown as by a "use".
 DisplayItems FilterBuilder::elementImage(NodeIndex node, const PrimitiveUnits &units, const PrimitiveRegion &region)
 {
     const NodeIndex shown = m_context.document.tree().findId(hrefTarget(element(node).attributes));
@@ -116,7 +116,7 @@ DisplayItems FilterBuilder::shownImage(NodeIndex node, const PrimitiveUnits &uni
     return items;
 }
 
-// False when the filter, or all of them together, would have too many.
+// False when the filter, or all filters together, would have too many primitives.
 bool FilterBuilder::takePrimitive(NodeIndex filter, const FilterStep &step)
 {
     if (step.primitives.size() == Limits::filterPrimitives) {

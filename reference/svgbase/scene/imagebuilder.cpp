@@ -57,7 +57,7 @@ void appendPicture(BuildContext &context, NodeIndex node, const FactsPointer &fa
     appendShown(context, item, shown, items);
 }
 
-// The other document starts afresh: it inherits nothing and takes its share of what this drawing may take.
+// The other document starts anew: it inherits nothing and uses its share of this drawing's budget.
 DisplayItems documentItems(BuildContext &context, NodeIndex node, const Facts &facts)
 {
     const QSizeF window = facts.image->takesSize ? facts.localBounds.size() : facts.image->window;
@@ -86,7 +86,7 @@ DisplayItems documentItems(BuildContext &context, NodeIndex node, const Facts &f
     context.images = inner.images;
     context.imagePixels = inner.imagePixels;
     context.shownPixels = inner.shownPixels;
-    // Places in the inner document say nothing to whoever reads the outer one.
+    // Locations in the inner document mean nothing to readers of the outer one.
     QVector<Message> messages;
     inner.report.appendTo(&messages, Tree());
     for (const Message &message : qAsConst(messages))

@@ -12,16 +12,16 @@ struct LayerEffects
     /// Null for none.
     std::shared_ptr<const Filter> filter;
 
-    /// Nothing shows outside this outline.
+    /// Clips the picture to this outline.
     bool hasRegion = false;
     QPainterPath region;
     QTransform regionToDocument;
 
-    /// Silhouettes; the picture shows as far as they cover.
+    /// Silhouettes; the picture is visible where they cover.
     bool clips = false;
     DisplayItems clip;
 
-    /// The picture shows as far as this drawing is opaque, and bright unless only its alpha counts.
+    /// The picture is visible as far as this drawing is opaque, and, unless only alpha is used, bright.
     bool masks = false;
     bool alphaMask = false;
     bool linearMask = false;

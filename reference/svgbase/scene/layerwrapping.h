@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// Puts a list that is complete in itself into a group.
+/// Puts a complete list into a group.
 void wrapInLayer(const BuildContext &context, NodeIndex node, const std::shared_ptr<const LayerEffects> &effects,
                  DisplayItems *items);
 

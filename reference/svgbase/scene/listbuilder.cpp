@@ -17,7 +17,7 @@ namespace Svg {
 
 namespace {
 
-/// In the place of a layer's begin for an element without one.
+/// Marks an element without a layer.
 constexpr int noLayer = -1;
 
 struct PaintedParts
@@ -66,12 +66,12 @@ private:
     BuildContext &m_context;
     SettledTree &m_document;
     ContentUse m_use;
-    /// Control points are only what stands in the drawing itself.
+    /// Only elements of the drawing itself are control points.
     bool m_isContent = false;
     BuiltList m_result;
     /// By open element: where its layer begins in the present target.
     QVector<int> m_layers;
-    /// Kinds of open elements; a clip path looks at the one above.
+    /// Kinds of open elements; a clip path depends on its parent.
     QVector<ElementKind> m_kinds;
 };
 
@@ -117,7 +117,7 @@ void ListBuilder::beginLayer(NodeIndex node, const FactsPointer &facts,
     target().append(item);
 }
 
-// Whether fading the item is the same as fading a group that holds nothing else.
+// Whether fading the item equals fading a group with nothing else in it.
 bool canBeFaded(const DisplayItem &item)
 {
     if (std::holds_alternative<GroupItem>(item.content))
@@ -142,7 +142,7 @@ void ListBuilder::endLayer()
     }
 }
 
-// Null where the outline's own paint counts; what can't be built leaves nothing to paint.
+// Null where the outline's own paint is used; a pattern that can't be built leaves nothing to paint.
 PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::Kind kind, double opacity)
 {
     if (node == noNode)
@@ -152,8 +152,8 @@ PatternPointer ListBuilder::pattern(NodeIndex node, const Facts &facts, Paint::K
     return buildPattern(m_context, node, {facts.localBounds, facts.viewport, opacity});
 }
 
-// The colours are the font's own; of the fill it takes whether there is one, and how much of it shows. Pictures
-// clip nothing: they have no silhouette.
+// The colours are the font's own; the fill decides whether the picture is shown, and its opacity. Pictures clip
+// nothing: they have no silhouette.
 void ListBuilder::addGlyphPicture(NodeIndex node, const FactsPointer &facts, bool layered, const Outline &outline)
 {
     if (isSilhouette() || outline.fill.style() == Qt::NoBrush)
@@ -256,7 +256,7 @@ void ListBuilder::addMarkers(NodeIndex node, const FactsPointer &facts)
     appendMarkers(m_context, element, &target());
 }
 
-// A clip path takes shapes, texts, and uses of them, but no use of a use and no groups.
+// A clip path accepts shapes, texts, and uses of them, but no use of a use and no groups.
 bool ListBuilder::isAllowed(ElementKind kind) const
 {
     if (!isSilhouette())
@@ -398,7 +398,7 @@ DisplayItems ListBuilder::buildElement(NodeIndex node, const FactsPointer &facts
     return m_result.items;
 }
 
-/// Builds content the way the whole drawing is built.
+/// Builds content in the way the whole drawing is built.
 class WalkedContent final : public ContentBuilder
 {
 public:

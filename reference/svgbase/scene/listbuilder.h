@@ -6,7 +6,8 @@
 
 namespace Svg {
 
-/// The items of a document in drawing order, not mapped yet. Control points are apart, since they go on top.
+/// The items of a document in drawing order, not mapped yet. Control points are separate, since they are painted on
+/// top.
 struct BuiltList
 {
     DisplayItems items;

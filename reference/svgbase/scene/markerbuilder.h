@@ -9,13 +9,13 @@ struct MarkedElement
 {
     NodeIndex node = noNode;
     FactsPointer facts;
-    /// As painted, document-wide styling included; user units.
+    /// As painted, with document-wide styling; user units.
     double strokeWidth = 1;
     ContextPaint fill;
     ContextPaint stroke;
 };
 
-/// Appends what the markers of an element draw at its vertices (SVG 2 §13.7).
+/// Appends the markers of an element at its vertices (SVG 2 §13.7).
 void appendMarkers(BuildContext &context, const MarkedElement &element, DisplayItems *items);
 
 } // namespace Svg

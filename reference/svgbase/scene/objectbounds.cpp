@@ -6,7 +6,7 @@ namespace Svg {
 
 namespace {
 
-// Of a text the cells of its characters count, whatever is drawn in them.
+// A text's bounds are those of its character cells, whatever is drawn in them.
 QRectF boundsIn(const Facts &facts, ElementKind kind, const QTransform &fromDocument)
 {
     const QTransform transform = facts.toDocument * fromDocument;
@@ -18,7 +18,7 @@ QRectF boundsIn(const Facts &facts, ElementKind kind, const QTransform &fromDocu
     return bounds;
 }
 
-/// A union that keeps boxes without an area, which a line has.
+/// A union that keeps boxes without area, such as those of lines.
 class BoundsUnion
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace Svg {
 
-/// Marks a definition as being built, for as long as this lives.
+/// Marks a definition as being built during its lifetime.
 class OpenReference
 {
 public:
@@ -18,9 +18,9 @@ public:
     OpenReference(const OpenReference &) = delete;
     OpenReference &operator=(const OpenReference &) = delete;
 
-    /// Whether a definition stands in its own content.
+    /// Whether a definition occurs in its own content.
     static bool isOpen(const BuildContext &context, NodeIndex node) { return context.open.contains(node); }
-    /// Whether others hold it that are as many as may be inside each other, which is reported.
+    /// Whether it is nested in as many others as the limit allows, which is reported.
     static bool isTooDeep(BuildContext &context, NodeIndex node)
     {
         if (context.open.size() < Limits::effectDepth)

@@ -4,7 +4,7 @@
 
 namespace Svg {
 
-/// The content of a pattern's tile, and where tiles stand.
+/// The content of a pattern's tile, and the placement of tiles.
 struct Pattern
 {
     /// The origin of the tile; equal origins give equal tiles.

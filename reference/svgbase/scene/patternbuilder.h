@@ -15,8 +15,8 @@ struct PatternTarget
     double opacity = 1;
 };
 
-/// A pattern as it fills its target (SVG 2 §14.3). Null when it paints nothing: without content, without a size,
-/// measured by bounds without an area, or inside itself.
+/// A pattern that fills its target (SVG 2 §14.3). Null when it paints nothing: without content, without a size,
+/// relative to bounds without an area, or inside itself.
 PatternPointer buildPattern(BuildContext &context, NodeIndex pattern, const PatternTarget &target);
 
 } // namespace Svg
