@@ -63,6 +63,13 @@ QString nameOf(const QByteArray &key)
     return QString::fromUtf8(key.constData(), key.size());
 }
 
+// A number of things that a file claims to have. Damaged ones may be anything.
+qint64 countOf(const QJsonValue &value)
+{
+    constexpr double mostCounted = 1e9;
+    return qint64(qBound(0.0, value.toDouble(), mostCounted));
+}
+
 /// Recognises it by its contents: its name may be damaged.
 bool isArrayOfChunks(const QJsonValue &value)
 {
@@ -142,9 +149,9 @@ void JsonAssembly::takeDocumentMember(const QByteArray &key, const QByteArray &t
     else if (key == versionName)
         readVersion(value);
     else if (key == pageCountName)
-        m_pagesClaimed = qint64(value.toDouble());
+        m_pagesClaimed = countOf(value);
     else if (key == lessonCountName)
-        m_lessonsClaimed = qint64(value.toDouble());
+        m_lessonsClaimed = countOf(value);
     else if (key == assetsName || isObjectOfAssets(value))
         readAssets(key, value.toObject(), offsetOf(text));
     else if (AssetStore::isKey(key))
@@ -168,7 +175,7 @@ void JsonAssembly::takePageMember(const QByteArray &key, const QByteArray &text)
     else if (key == backgroundName)
         readBackground(value.toObject(), offset);
     else if (key == objectCountName)
-        m_objectsClaimed = qint64(value.toDouble());
+        m_objectsClaimed = countOf(value);
     else if (key == chunksName || isArrayOfChunks(value))
         readChunks(key, value.toArray(), m_pageExtra, offset);
     else if (key == pageName)

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void lineThatStandsTwiceLosesNothing_data();
     void lineThatStandsTwiceLosesNothing();
     void holeBetweenObjectsIsCounted();
+    void numberOfObjectsThatNoPageHasClaimsNothing();
     void holeThatJoinsALessonAndAPageLosesNoWholeObject();
     void fortyBrokenObjectsLeaveTheGoodOnes();
     void moreProblemsThanPeopleReadAreCounted();
@@ -166,6 +167,18 @@ void TestDamagedText::lineThatStandsTwiceLosesNothing()
     QCOMPARE(lessonNames(opened), bothLessons);
     QVERIFY(!opened.messages.isEmpty());
     QCOMPARE(decodeDocument(encodeDocument(*opened.document, DocumentFormat::Json), m_registry).messages.size(), 0);
+}
+
+void TestDamagedText::numberOfObjectsThatNoPageHasClaimsNothing()
+{
+    for (const char *number : {"-1", "-1e300", "-9223372036854775808"}) {
+        const QByteArray text =
+            replaced(textOf(1, 4), "\"objectCount\": 4", QByteArray("\"objectCount\": ") + number);
+        QVERIFY(text.contains(number));
+        const OpenResult opened = decodeDocument(text, m_registry);
+        QCOMPARE(placesIn(opened), (QList<QList<double>>{{1, 2, 3, 4}}));
+        QVERIFY(opened.messages.isEmpty());
+    }
 }
 
 /// From within one object into another one: the text is still JSON throughout.
