@@ -88,9 +88,10 @@ void TestProgram::helpNamesEveryOption()
 
 void TestProgram::versionIsPrinted()
 {
+    static const QRegularExpression line("^gliololok-board \\d+\\.\\d+\\.\\d+\n$");
     const Outcome outcome = run({"--version"});
     QCOMPARE(outcome.code, 0);
-    QVERIFY(QRegularExpression("^gliololok-board \\d+\\.\\d+\\.\\d+\n$").match(outcome.out).hasMatch());
+    QVERIFY(line.match(outcome.out).hasMatch());
 }
 
 void TestProgram::badArgumentsAreRefused_data()
@@ -231,10 +232,10 @@ void TestProgram::severalPlayedLessonsGetAFolderEach()
     const QString target = folder.filePath("pages");
     const Outcome outcome = run({"--play", file, "--export", target, "--format", "svg"});
     QCOMPARE(outcome.code, 0);
-    QCOMPARE(outcome.out.split('\n', Qt::SkipEmptyParts),
-             (QStringList{target + "/lesson-1/page-1.svg", target + "/lesson-2/page-1.svg",
-                          target + "/lesson-2/page-2.svg"}));
-    for (const QString &written : outcome.out.split('\n', Qt::SkipEmptyParts))
+    const QStringList files{target + "/lesson-1/page-1.svg", target + "/lesson-2/page-1.svg",
+                            target + "/lesson-2/page-2.svg"};
+    QCOMPARE(outcome.out.split('\n', Qt::SkipEmptyParts), files);
+    for (const QString &written : files)
         QVERIFY2(QFileInfo(written).size() > 0, qPrintable(written));
 }
 
