@@ -5,6 +5,7 @@
 #include "core/actions.h"
 #include "core/notices.h"
 #include "core/pluginfolders.h"
+#include "core/toolchoice.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/documentmenu.h"
@@ -24,6 +25,7 @@
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
 #include "window/fieldundo.h"
+#include "window/shapetool.h"
 #include "window/statusline.h"
 
 #include <pagehost/animationplayer.h>
@@ -83,12 +85,12 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_lessonMenu(new LessonMenu(workspace, m_lessons, this))
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
     , m_animation(new pagehost::AnimationPlayer(m_view, this))
+    , m_tools(new ToolChoice(this))
+    , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_view, this))
     , m_lock(this, m_view)
     , m_dialogs(workspace, this)
-    , m_tool(&workspace->registry())
     , m_describeSelection([this] { describeSelection(); })
 {
-    m_view->setCreationTool(&m_tool);
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
     auto *centre = new QWidget(this);
@@ -299,15 +301,13 @@ void MainWindow::connectTools()
     connect(m_palette, &PalettePanel::kindPicked, this, &MainWindow::beginCreation);
     connect(m_palette, &PalettePanel::placeRequested, this, &MainWindow::placeInMiddle);
     connect(m_view, &PageView::kindDropped, this, [this](const QString &kindId, const QPointF &pos) {
-        m_tool.createAt(m_view->page()->scene(), kindId, pos - halfUsualSize);
+        m_shapeTool->place(kindId, pos - halfUsualSize);
         m_view->setFocus();
     });
-    const auto toolRests = [this] {
-        m_palette->showWaitingKind({});
+    connect(m_shapeTool, &ShapeTool::waitingKindChanged, this, [this] {
+        m_palette->showWaitingKind(m_shapeTool->waitingKind());
         showHint();
-    };
-    connect(&m_tool, &pagehost::CreationTool::created, this, toolRests);
-    connect(&m_tool, &pagehost::CreationTool::cancelled, this, toolRests);
+    });
 }
 
 void MainWindow::connectParts()
@@ -334,7 +334,7 @@ void MainWindow::connectParts()
 
 void MainWindow::showCurrentPage()
 {
-    m_tool.cancel();
+    m_shapeTool->cancel();
     if (m_view->page())
         disconnect(m_view->page(), nullptr, this, nullptr);
     pagehost::Page *page = m_lessons->shownDocument()->currentPage();
@@ -396,7 +396,7 @@ void MainWindow::showHint()
     const char *key = "IDS_BOARD_HINT_IDLE";
     if (m_lessons->isShowing())
         key = "IDS_LESSON_HINT";
-    else if (m_tool.isActive())
+    else if (m_tools->tool() == Tool::Shape)
         key = "IDS_BOARD_HINT_DRAW";
     else if (m_view->page() && !m_view->page()->selectedObjects().isEmpty())
         key = "IDS_BOARD_HINT_SELECTED";
@@ -405,19 +405,14 @@ void MainWindow::showHint()
 
 void MainWindow::beginCreation(const QString &kindId)
 {
-    if (kindId.isEmpty())
-        m_tool.cancel();
-    else if (m_view->page() && m_tool.begin(m_view->page()->scene(), kindId))
-        m_palette->showWaitingKind(kindId);
-    showHint();
+    m_shapeTool->begin(kindId);
     m_view->setFocus();
 }
 
 void MainWindow::placeInMiddle(const QString &kindId)
 {
-    m_tool.cancel();
     const QPointF middle = m_view->mapToScene(m_view->viewport()->rect().center());
-    m_tool.createAt(m_view->page()->scene(), kindId, middle - halfUsualSize);
+    m_shapeTool->place(kindId, middle - halfUsualSize);
 }
 
 void MainWindow::askAndExport(PageFormat format)

@@ -5,8 +5,6 @@
 #include "lessons/editinglock.h"
 #include "output/pageexport.h"
 
-#include <pagehost/creation.h>
-
 #include <QtWidgets/QMainWindow>
 
 class QMimeData;
@@ -33,8 +31,10 @@ class PalettePanel;
 class PropertyPanel;
 class Recovery;
 class SettingsPanel;
+class ShapeTool;
 class StatusLine;
 class StylePanel;
+class ToolChoice;
 class Workspace;
 
 /// The window: the page in the middle, shapes to the left, look and history to the right, pages below.
@@ -61,6 +61,7 @@ public:
     LessonController *lessons() const { return m_lessons; }
     LessonBar *lessonBar() const { return m_lessonBar; }
     pagehost::AnimationPlayer *animation() const { return m_animation; }
+    ToolChoice *tools() const { return m_tools; }
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -107,6 +108,8 @@ private:
     LessonMenu *m_lessonMenu;
     LessonBar *m_lessonBar;
     pagehost::AnimationPlayer *m_animation;
+    ToolChoice *m_tools;
+    ShapeTool *m_shapeTool;
     EditingLock m_lock;
     FileDialogs m_dialogs;
     PagePanel *m_pages = nullptr;
@@ -115,7 +118,6 @@ private:
     SettingsPanel *m_settings = nullptr;
     PropertyPanel *m_properties = nullptr;
     StatusLine *m_status = nullptr;
-    pagehost::CreationTool m_tool;
     OncePerTurn m_describeSelection;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };
