@@ -1,9 +1,7 @@
 #include "clipboard/clipboardmenu.h"
 
 #include "clipboard/clipboardcontroller.h"
-#include "core/shortcuts.h"
-#include "core/workspace.h"
-#include "look/icons.h"
+#include "core/commands.h"
 #include "page/pageview.h"
 
 #include <pagehost/page.h>
@@ -12,28 +10,17 @@
 
 namespace board {
 
-ClipboardMenu::ClipboardMenu(const Workspace *workspace, ClipboardController *clipboard, const PageView *view,
+ClipboardMenu::ClipboardMenu(Commands *commands, ClipboardController *clipboard, const PageView *view,
                              QObject *parent)
     : QObject(parent)
     , m_clipboard(clipboard)
     , m_view(view)
 {
-    const auto make = [&](const char *textKey, const QList<QKeySequence> &keys, auto work) {
-        auto *action = new QAction(workspace->text(textKey), this);
-        action->setShortcuts(keys);
-        describe(action);
-        connect(action, &QAction::triggered, clipboard, work);
-        return action;
-    };
-    cut = make("IDS_BOARD_CUT", keysFor(QKeySequence::Cut, {Qt::CTRL | Qt::Key_X}), &ClipboardController::cut);
-    copy = make("IDS_BOARD_COPY", keysFor(QKeySequence::Copy, {Qt::CTRL | Qt::Key_C}), &ClipboardController::copy);
-    paste =
-        make("IDS_BOARD_PASTE", keysFor(QKeySequence::Paste, {Qt::CTRL | Qt::Key_V}), &ClipboardController::paste);
-    copyLook = make("IDS_BOARD_COPY_STYLE", {Qt::CTRL | Qt::ALT | Qt::Key_C}, &ClipboardController::copyLook);
-    pasteLook = make("IDS_BOARD_PASTE_STYLE", {Qt::CTRL | Qt::ALT | Qt::Key_V}, &ClipboardController::pasteLook);
-    cut->setIcon(icon(Icon::Cut));
-    copy->setIcon(icon(Icon::Copy));
-    paste->setIcon(icon(Icon::Paste));
+    cut = commands->perform(Command::Cut, clipboard, [clipboard] { clipboard->cut(); });
+    copy = commands->perform(Command::Copy, clipboard, [clipboard] { clipboard->copy(); });
+    paste = commands->perform(Command::Paste, clipboard, [clipboard] { clipboard->paste(); });
+    copyLook = commands->perform(Command::CopyLook, clipboard, [clipboard] { clipboard->copyLook(); });
+    pasteLook = commands->perform(Command::PasteLook, clipboard, [clipboard] { clipboard->pasteLook(); });
     connect(clipboard, &ClipboardController::stateChanged, this, &ClipboardMenu::update);
     update();
 }

@@ -7,8 +7,8 @@ class QAction;
 namespace board {
 
 class ClipboardController;
+class Commands;
 class PageView;
-class Workspace;
 
 /// The Edit menu's entries about the clipboard.
 class ClipboardMenu : public QObject
@@ -17,7 +17,7 @@ class ClipboardMenu : public QObject
 
 public:
     /// All must outlive this.
-    ClipboardMenu(const Workspace *workspace, ClipboardController *clipboard, const PageView *view,
+    ClipboardMenu(Commands *commands, ClipboardController *clipboard, const PageView *view,
                   QObject *parent = nullptr);
 
     QAction *cut, *copy, *paste, *copyLook, *pasteLook;

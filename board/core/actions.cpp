@@ -1,5 +1,6 @@
 #include "core/actions.h"
 
+#include "core/commands.h"
 #include "core/shortcuts.h"
 #include "core/windowmemory.h"
 #include "core/workspace.h"
@@ -30,9 +31,10 @@ QUndoStack *undoStack()
 
 } // namespace
 
-Actions::Actions(Workspace *workspace, PageView *view, QObject *parent)
+Actions::Actions(Workspace *workspace, Commands *commands, PageView *view, QObject *parent)
     : QObject(parent)
     , m_workspace(workspace)
+    , m_commands(commands)
     , m_view(view)
 {
     makeEditActions();
@@ -45,37 +47,14 @@ Actions::Actions(Workspace *workspace, PageView *view, QObject *parent)
     update();
 }
 
-QAction *Actions::add(const char *textKey, const QList<QKeySequence> &keys, const Work &work)
-{
-    auto *action = new QAction(m_workspace->text(textKey), this);
-    action->setShortcuts(keys);
-    describe(action);
-    connect(action, &QAction::triggered, this, work);
-    return action;
-}
-
-QAction *Actions::add(const char *textKey, Icon picture, const QList<QKeySequence> &keys, const Work &work)
-{
-    QAction *action = add(textKey, keys, work);
-    action->setIcon(icon(picture));
-    return action;
-}
-
 void Actions::makeEditActions()
 {
-    undo = add("IDS_BOARD_UNDO", Icon::Undo, keysFor(QKeySequence::Undo, {Qt::CTRL | Qt::Key_Z}),
-               [this] { step(&QUndoStack::undo); });
-    redo = add("IDS_BOARD_REDO", Icon::Redo,
-               keysFor(QKeySequence::Redo, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}),
-               [this] { step(&QUndoStack::redo); });
-    selectAll = add("IDS_BOARD_SELECT_ALL", keysFor(QKeySequence::SelectAll, {Qt::CTRL | Qt::Key_A}),
-                    [this] { pagehost::selectAll(m_view->page()); });
-    deselect = add("IDS_BOARD_DESELECT", keysFor(QKeySequence::Deselect, {Qt::CTRL | Qt::SHIFT | Qt::Key_A}),
-                   [this] { m_view->page()->select({}); });
-    duplicate =
-        add("IDS_BOARD_DUPLICATE", Icon::Duplicate, {Qt::CTRL | Qt::Key_D}, [this] { duplicateSelection(); });
-    // Not the platform's keys: on some, Ctrl+D is one of them.
-    remove = add("IDS_BOARD_DELETE", Icon::Delete, {Qt::Key_Delete, Qt::Key_Backspace}, [this] {
+    undo = m_commands->perform(Command::Undo, this, [this] { step(&QUndoStack::undo); });
+    redo = m_commands->perform(Command::Redo, this, [this] { step(&QUndoStack::redo); });
+    selectAll = m_commands->perform(Command::SelectAll, this, [this] { pagehost::selectAll(m_view->page()); });
+    deselect = m_commands->perform(Command::SelectNothing, this, [this] { m_view->page()->select({}); });
+    duplicate = m_commands->perform(Command::Duplicate, this, [this] { duplicateSelection(); });
+    remove = m_commands->perform(Command::Delete, this, [this] {
         if (!isDragging())
             pagehost::deleteSelection(m_view->page());
     });
@@ -84,62 +63,49 @@ void Actions::makeEditActions()
 void Actions::makeArrangeActions()
 {
     using Move = pagehost::StackingMove;
-    toFront = add("IDS_BOARD_TO_FRONT", Icon::ToFront, {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
-                  [this] { restackSelection(Move::ToFront); });
-    forward = add("IDS_BOARD_FORWARD", Icon::Forward, {Qt::CTRL | Qt::Key_BracketRight},
-                  [this] { restackSelection(Move::Forward); });
-    backward = add("IDS_BOARD_BACKWARD", Icon::Backward, {Qt::CTRL | Qt::Key_BracketLeft},
-                   [this] { restackSelection(Move::Backward); });
-    toBack = add("IDS_BOARD_TO_BACK", Icon::ToBack, {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft},
-                 [this] { restackSelection(Move::ToBack); });
-    mirrorHorizontally = add("IDS_BOARD_MIRROR_H", Icon::MirrorHorizontal, {Qt::SHIFT | Qt::Key_H},
-                             [this] { mirrorSelection(true); });
-    mirrorVertically = add("IDS_BOARD_MIRROR_V", Icon::MirrorVertical, {Qt::SHIFT | Qt::Key_V},
-                           [this] { mirrorSelection(false); });
-    rotateLeft = add("IDS_BOARD_ROTATE_LEFT", Icon::RotateLeft, {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
-                     [this] { rotateSelection(-quarterTurn); });
-    rotateRight = add("IDS_BOARD_ROTATE_RIGHT", Icon::RotateRight, {Qt::CTRL | Qt::Key_R},
-                      [this] { rotateSelection(quarterTurn); });
+    toFront = m_commands->perform(Command::BringToFront, this, [this] { restackSelection(Move::ToFront); });
+    forward = m_commands->perform(Command::BringForward, this, [this] { restackSelection(Move::Forward); });
+    backward = m_commands->perform(Command::SendBackward, this, [this] { restackSelection(Move::Backward); });
+    toBack = m_commands->perform(Command::SendToBack, this, [this] { restackSelection(Move::ToBack); });
+    mirrorHorizontally = m_commands->perform(Command::MirrorAcross, this, [this] { mirrorSelection(true); });
+    mirrorVertically = m_commands->perform(Command::MirrorUp, this, [this] { mirrorSelection(false); });
+    rotateLeft = m_commands->perform(Command::TurnLeft, this, [this] { rotateSelection(-quarterTurn); });
+    rotateRight = m_commands->perform(Command::TurnRight, this, [this] { rotateSelection(quarterTurn); });
 }
 
 void Actions::makeViewActions()
 {
-    zoomIn = add("IDS_BOARD_ZOOM_IN", Icon::ZoomIn,
-                 keysFor(QKeySequence::ZoomIn, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}),
-                 [this] { m_view->zoomIn(); });
-    zoomOut = add("IDS_BOARD_ZOOM_OUT", Icon::ZoomOut, keysFor(QKeySequence::ZoomOut, {Qt::CTRL | Qt::Key_Minus}),
-                  [this] { m_view->zoomOut(); });
-    actualSize = add("IDS_BOARD_ACTUAL_SIZE", {Qt::CTRL | Qt::Key_0}, [this] { m_view->setZoom(1); });
-    fitPage = add("IDS_BOARD_FIT_PAGE", Icon::ZoomFit, {Qt::CTRL | Qt::Key_9}, [this] { m_view->fitPage(); });
-    playAnimation = add("IDS_BOARD_ANIMATION", Icon::Animation, {Qt::Key_F7}, [] {});
-    playAnimation->setCheckable(true);
-    darkColors = add("IDS_BOARD_DARK", {}, [this] {
+    zoomIn = m_commands->perform(Command::ZoomIn, this, [this] { m_view->zoomIn(); });
+    zoomOut = m_commands->perform(Command::ZoomOut, this, [this] { m_view->zoomOut(); });
+    actualSize = m_commands->perform(Command::ActualSize, this, [this] { m_view->setZoom(1); });
+    fitPage = m_commands->perform(Command::FitPage, this, [this] { m_view->fitPage(); });
+    playAnimation = m_commands->perform(Command::Animations);
+    darkColors = m_commands->perform(Command::DarkColors, this, [this] {
         applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light);
         rememberDarkColors(darkColors->isChecked());
     });
-    darkColors->setCheckable(true);
     darkColors->setChecked(currentTheme() == Theme::Dark);
 }
 
 void Actions::makePageActions()
 {
-    addPage = add("IDS_BOARD_ADD_PAGE", Icon::Add, {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, [this] {
+    addPage = m_commands->perform(Command::AddPage, this, [this] {
         pagehost::Document *document = m_workspace->document();
         pagehost::addPage(document, document->currentIndex() + 1, document->currentPage()->size());
     });
-    removePage = add("IDS_BOARD_REMOVE_PAGE", Icon::Remove, {}, [this] {
+    removePage = m_commands->perform(Command::RemovePage, this, [this] {
         pagehost::removePage(m_workspace->document(), m_workspace->document()->currentIndex());
     });
-    previousPage = add("IDS_BOARD_PREVIOUS_PAGE", {Qt::Key_PageUp}, [this] { turnPage(-1); });
-    nextPage = add("IDS_BOARD_NEXT_PAGE", {Qt::Key_PageDown}, [this] { turnPage(1); });
+    previousPage = m_commands->perform(Command::PreviousPage, this, [this] { turnPage(-1); });
+    nextPage = m_commands->perform(Command::NextPage, this, [this] { turnPage(1); });
 }
 
 void Actions::makeProgramActions()
 {
-    exportPages = add("IDS_BOARD_EXPORT", {Qt::CTRL | Qt::Key_E}, [] {});
-    exportSvg = add("IDS_BOARD_EXPORT_SVG", {}, [] {});
-    quit = add("IDS_BOARD_QUIT", keysFor(QKeySequence::Quit, {Qt::CTRL | Qt::Key_Q}), [] {});
-    about = add("IDS_BOARD_ABOUT", {}, [] {});
+    exportPages = m_commands->perform(Command::ExportPictures);
+    exportSvg = m_commands->perform(Command::ExportDrawings);
+    quit = m_commands->perform(Command::Quit);
+    about = m_commands->perform(Command::About);
 }
 
 void Actions::nameHistory()

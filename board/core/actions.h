@@ -1,29 +1,26 @@
 #pragma once
 
-#include "look/icons.h"
-
 #include <pagehost/commands.h>
 
 #include <QtCore/QObject>
-#include <QtGui/QKeySequence>
-
-#include <functional>
 
 class QAction;
 class QUndoStack;
 
 namespace board {
 
+class Commands;
 class PageView;
 class Workspace;
 
-/// Actions of menus, tool bar and keys. Actions without effect at the moment are disabled.
+/// Performs the commands that concern the page, its objects and its view. Those without effect at the moment are
+/// disabled.
 class Actions : public QObject
 {
     Q_OBJECT
 
 public:
-    Actions(Workspace *workspace, PageView *view, QObject *parent = nullptr);
+    Actions(Workspace *workspace, Commands *commands, PageView *view, QObject *parent = nullptr);
 
     /// Looks at page and selection anew.
     void update();
@@ -40,9 +37,6 @@ Q_SIGNALS:
     void aboutToStep();
 
 private:
-    using Work = std::function<void()>;
-    QAction *add(const char *textKey, const QList<QKeySequence> &keys, const Work &work);
-    QAction *add(const char *textKey, Icon picture, const QList<QKeySequence> &keys, const Work &work);
     void makeEditActions();
     void makeArrangeActions();
     void makeViewActions();
@@ -59,6 +53,7 @@ private:
     void turnPage(int by);
 
     Workspace *m_workspace;
+    Commands *m_commands;
     PageView *m_view;
 };
 

@@ -4,16 +4,6 @@
 
 namespace board {
 
-QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QList<QKeySequence> &ours)
-{
-    QList<QKeySequence> keys = ours;
-    const QList<QKeySequence> bindings = QKeySequence::keyBindings(key);
-    for (const QKeySequence &binding : bindings)
-        if (!keys.contains(binding))
-            keys.append(binding);
-    return keys;
-}
-
 void describe(QAction *action)
 {
     QString name = action->text();

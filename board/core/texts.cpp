@@ -141,6 +141,7 @@ QVector<TextEntry> textEntries()
     QVector<TextEntry> all(std::begin(entries), std::end(entries));
     all += documentTexts();
     all += clipboardTexts();
+    all += commandTexts();
     all += formTexts();
     all += lessonTexts();
     return all;

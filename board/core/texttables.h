@@ -12,6 +12,8 @@ struct TextEntry
 };
 
 QVector<TextEntry> clipboardTexts();
+/// Names of commands that have no text elsewhere.
+QVector<TextEntry> commandTexts();
 QVector<TextEntry> documentTexts();
 /// Texts about recording and playing lessons.
 QVector<TextEntry> lessonTexts();

@@ -5,7 +5,7 @@
 
 namespace board {
 
-/// What a press on the page does.
+/// Meaning of a press on the page.
 enum class Tool { Select, Pen, Highlighter, Eraser, Text, Line, Connector, Shape, Laser };
 
 inline uint qHash(Tool tool, uint seed = 0)

@@ -8,6 +8,7 @@ class QWidget;
 
 namespace board {
 
+class Commands;
 class DocumentController;
 class Workspace;
 
@@ -18,7 +19,7 @@ class DocumentMenu : public QObject
 
 public:
     /// All must outlive this; the list of recent files belongs to `window`.
-    DocumentMenu(const Workspace *workspace, DocumentController *documents, QWidget *window);
+    DocumentMenu(const Workspace *workspace, Commands *commands, DocumentController *documents, QWidget *window);
 
     QList<QAction *> actions() const { return m_actions; }
     /// The one that stands in the tool bar, too.

@@ -132,6 +132,7 @@ void LessonBar::connectParts(const LessonMenu &menu)
     connect(m_list, QOverload<int>::of(&QComboBox::activated), m_lessons, &LessonController::choose);
     connect(m_speed, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { m_lessons->setSpeed(m_speed->itemData(index).toDouble()); });
+    addAction(menu.rename);
     connect(menu.rename, &QAction::triggered, this, &LessonBar::beginRenaming);
     connect(m_name, &QLineEdit::editingFinished, this, [this] { endRenaming(true); });
 }

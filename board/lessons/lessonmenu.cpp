@@ -1,5 +1,6 @@
 #include "lessons/lessonmenu.h"
 
+#include "core/commands.h"
 #include "core/shortcuts.h"
 #include "core/workspace.h"
 #include "lessons/lessoncontroller.h"
@@ -9,30 +10,22 @@
 
 namespace board {
 
-LessonMenu::LessonMenu(const Workspace *workspace, LessonController *lessons, QObject *parent)
+LessonMenu::LessonMenu(const Workspace *workspace, Commands *commands, LessonController *lessons, QObject *parent)
     : QObject(parent)
     , m_workspace(workspace)
     , m_lessons(lessons)
 {
-    const auto make = [&](const QList<QKeySequence> &keys, auto work) {
-        auto *action = new QAction(this);
-        action->setShortcuts(keys);
-        connect(action, &QAction::triggered, lessons, work);
-        return action;
+    const auto perform = [&](Command command, void (LessonController::*work)()) {
+        return commands->perform(command, lessons, [=] { (lessons->*work)(); });
     };
-    record = make({Qt::Key_F9}, &LessonController::recordOrStop);
-    pauseRecording = make({Qt::SHIFT | Qt::Key_F9}, &LessonController::pauseOrResumeRecording);
-    play = make({Qt::Key_F8}, &LessonController::playOrPause);
-    close = make({Qt::SHIFT | Qt::Key_F8}, &LessonController::close);
+    record = perform(Command::Record, &LessonController::recordOrStop);
+    pauseRecording = perform(Command::PauseRecording, &LessonController::pauseOrResumeRecording);
+    play = perform(Command::PlayLesson, &LessonController::playOrPause);
+    close = perform(Command::CloseLesson, &LessonController::close);
     // The bar has the field for the name.
-    rename = new QAction(workspace->text("IDS_LESSON_RENAME"), this);
-    rename->setShortcut(Qt::Key_F2);
-    cut = make({}, &LessonController::cutChosen);
-    cut->setText(workspace->text("IDS_LESSON_CUT"));
-    remove = make({}, &LessonController::removeChosen);
-    close->setText(workspace->text("IDS_LESSON_CLOSE"));
-    remove->setText(workspace->text("IDS_LESSON_REMOVE"));
-    remove->setIcon(icon(Icon::Delete));
+    rename = commands->perform(Command::RenameLesson);
+    cut = perform(Command::CutLesson, &LessonController::cutChosen);
+    remove = perform(Command::RemoveLesson, &LessonController::removeChosen);
     connect(lessons, &LessonController::stateChanged, this, &LessonMenu::update);
     connect(lessons, &LessonController::lessonsChanged, this, &LessonMenu::update);
     connect(lessons, &LessonController::positionChanged, this, [this] { cut->setEnabled(m_lessons->canCut()); });

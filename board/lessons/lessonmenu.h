@@ -6,6 +6,7 @@ class QAction;
 
 namespace board {
 
+class Commands;
 class LessonController;
 class Workspace;
 
@@ -16,7 +17,7 @@ class LessonMenu : public QObject
 
 public:
     /// All must outlive this.
-    LessonMenu(const Workspace *workspace, LessonController *lessons, QObject *parent);
+    LessonMenu(const Workspace *workspace, Commands *commands, LessonController *lessons, QObject *parent);
 
     QAction *record, *pauseRecording, *play, *close, *rename, *cut, *remove;
     /// In menu order; null for a separator.

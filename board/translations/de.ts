@@ -751,5 +751,193 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Edit text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Anordnen</translation>
+    </message>
+    <message>
+        <source>Align left edges</source>
+        <translation>Linke Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Align centres across</source>
+        <translation>Waagerecht mittig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align right edges</source>
+        <translation>Rechte Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Align top edges</source>
+        <translation>Obere Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Align centres down</source>
+        <translation>Senkrecht mittig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align bottom edges</source>
+        <translation>Untere Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Equal gaps across</source>
+        <translation>Waagerecht gleichmäßig verteilen</translation>
+    </message>
+    <message>
+        <source>Equal gaps down</source>
+        <translation>Senkrecht gleichmäßig verteilen</translation>
+    </message>
+    <message>
+        <source>Same size</source>
+        <translation>Gleiche Größe</translation>
+    </message>
+    <message>
+        <source>Duplicate page</source>
+        <translation>Seite duplizieren</translation>
+    </message>
+    <message>
+        <source>Move page</source>
+        <translation>Seite verschieben</translation>
+    </message>
+    <message>
+        <source>Move page back</source>
+        <translation>Seite nach vorn verschieben</translation>
+    </message>
+    <message>
+        <source>Move page on</source>
+        <translation>Seite nach hinten verschieben</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Highlighter</source>
+        <translation>Textmarker</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Radierer</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Connector</source>
+        <translation>Verbinder</translation>
+    </message>
+    <message>
+        <source>Laser pointer</source>
+        <translation>Laserpointer</translation>
+    </message>
+    <message>
+        <source>Keep the tool</source>
+        <translation>Werkzeug behalten</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Zoom to the selection</source>
+        <translation>Auswahl einpassen</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Snapping</source>
+        <translation>Einrasten</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>Next part of the window</source>
+        <translation>Nächster Teil des Fensters</translation>
+    </message>
+    <message>
+        <source>Previous part of the window</source>
+        <translation>Voriger Teil des Fensters</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>Page strip</source>
+        <translation>Seitenübersicht</translation>
+    </message>
+    <message>
+        <source>Context menu</source>
+        <translation>Kontextmenü</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Vorführen</translation>
+    </message>
+    <message>
+        <source>Present from page 1</source>
+        <translation>Von Seite 1 an vorführen</translation>
+    </message>
+    <message>
+        <source>Keys…</source>
+        <translation>Tasten…</translation>
+    </message>
+    <message>
+        <source>Find a command or shape…</source>
+        <translation>Befehl oder Form suchen…</translation>
+    </message>
+    <message>
+        <source>Keys without Ctrl</source>
+        <translation>Tasten ohne Strg</translation>
+    </message>
 </context>
 </TS>

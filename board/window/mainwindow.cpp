@@ -3,9 +3,11 @@
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
 #include "core/actions.h"
+#include "core/commands.h"
 #include "core/notices.h"
 #include "core/pluginfolders.h"
 #include "core/toolchoice.h"
+#include "core/toolcommands.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/documentmenu.h"
@@ -73,16 +75,17 @@ QScrollArea *scrolling(QWidget *panel)
 
 MainWindow::MainWindow(Workspace *workspace)
     : m_workspace(workspace)
+    , m_commands(new Commands(workspace, this))
     , m_view(new PageView)
-    , m_actions(new Actions(workspace, m_view, this))
+    , m_actions(new Actions(workspace, m_commands, m_view, this))
     , m_notices(new Notices(workspace, this))
     , m_documents(new DocumentController(workspace, this, m_notices))
-    , m_documentMenu(new DocumentMenu(workspace, m_documents, this))
+    , m_documentMenu(new DocumentMenu(workspace, m_commands, m_documents, this))
     , m_recovery(new Recovery(workspace, m_documents, m_notices, this))
     , m_clipboard(new ClipboardController(workspace, m_view, m_notices, this))
-    , m_clipboardMenu(new ClipboardMenu(workspace, m_clipboard, m_view, this))
+    , m_clipboardMenu(new ClipboardMenu(m_commands, m_clipboard, m_view, this))
     , m_lessons(new LessonController(workspace, m_notices, this))
-    , m_lessonMenu(new LessonMenu(workspace, m_lessons, this))
+    , m_lessonMenu(new LessonMenu(workspace, m_commands, m_lessons, this))
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
     , m_animation(new pagehost::AnimationPlayer(m_view, this))
     , m_tools(new ToolChoice(this))
@@ -111,6 +114,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectAnimation();
     connectDocument();
     new FieldUndo(this);
+    new ToolCommands(m_commands, m_tools, this);
     new ShapeNotices(m_workspace, m_notices, this);
     showPluginProblems();
     showTitle();
@@ -268,6 +272,7 @@ void MainWindow::connectLessons()
 {
     connect(m_lessons, &LessonController::shownPageChanged, this, [this] {
         m_lock.setLocked(m_lessons->isShowing());
+        m_commands->setEditingBlocked(m_lessons->isShowing());
         showCurrentPage();
     });
     m_recovery->setCompletion([this] { m_lessons->keepSoFar(); });

@@ -19,6 +19,7 @@ namespace board {
 class Actions;
 class ClipboardController;
 class ClipboardMenu;
+class Commands;
 class DocumentController;
 class DocumentMenu;
 class LessonBar;
@@ -47,6 +48,7 @@ public:
     explicit MainWindow(Workspace *workspace);
 
     PageView *view() const { return m_view; }
+    Commands *commands() const { return m_commands; }
     Actions *actions() const { return m_actions; }
     PagePanel *pages() const { return m_pages; }
     PalettePanel *palettePanel() const { return m_palette; }
@@ -96,6 +98,7 @@ private:
     void showAbout();
 
     Workspace *m_workspace;
+    Commands *m_commands;
     PageView *m_view;
     Actions *m_actions;
     Notices *m_notices;

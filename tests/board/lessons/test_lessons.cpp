@@ -71,6 +71,14 @@ LessonController &lessons(const BoardDriver &driver)
     return *driver.window().lessons();
 }
 
+void pressInTheBar(const BoardDriver &driver, Qt::Key key)
+{
+    driver.window().activateWindow();
+    QComboBox *list = driver.window().lessonBar()->list();
+    list->setFocus();
+    QTest::keyClick(list, key);
+}
+
 /// Draws a rectangle and drags it to the right.
 /// Between what a teacher does, milliseconds.
 constexpr int thought = 500;
@@ -263,7 +271,7 @@ void TestLessons::lessonIsRenamedInTheBar()
     record(driver);
     record(driver);
     driver.workspace().document()->markSaved();
-    driver.key(Qt::Key_F2);
+    pressInTheBar(driver, Qt::Key_F2);
     QLineEdit *field = driver.window().lessonBar()->name();
     QVERIFY(field->isVisible());
     QVERIFY(!driver.window().lessonBar()->list()->isVisible());
@@ -286,7 +294,7 @@ void TestLessons::escapeKeepsTheNameOfALesson()
 {
     BoardDriver driver;
     record(driver);
-    driver.key(Qt::Key_F2);
+    pressInTheBar(driver, Qt::Key_F2);
     QLineEdit *field = driver.window().lessonBar()->name();
     QTest::keyClicks(field, QStringLiteral("Thirds"));
     QTest::keyClick(field, Qt::Key_Escape);

@@ -1,0 +1,202 @@
+#include "core/commandlist.h"
+
+#include <QtCore/QString>
+
+#include <iterator>
+
+namespace board {
+
+namespace {
+
+using Group = CommandGroup;
+using Keys = QKeySequence;
+
+/// In the order of the enumeration.
+constexpr CommandFacts commands[] = {
+    {Command::NewBoard, Group::File, "new", "IDS_BOARD_NEW", "Ctrl+N", {}, Keys::New},
+    {Command::OpenBoard, Group::File, "open", "IDS_BOARD_OPEN", "Ctrl+O", Icon::Open, Keys::Open},
+    {Command::SaveBoard, Group::File, "save", "IDS_BOARD_SAVE", "Ctrl+S", Icon::Save, Keys::Save},
+    {Command::SaveBoardAs, Group::File, "saveAs", "IDS_BOARD_SAVE_AS", "Ctrl+Shift+S", {}, Keys::SaveAs},
+    {Command::ExportPictures, Group::File, "exportPictures", "IDS_BOARD_EXPORT", "Ctrl+E"},
+    {Command::ExportDrawings, Group::File, "exportDrawings", "IDS_BOARD_EXPORT_SVG", ""},
+    {Command::Quit, Group::File, "quit", "IDS_BOARD_QUIT", "Ctrl+Q", {}, Keys::Quit},
+
+    {Command::Undo, Group::Edit, "undo", "IDS_BOARD_UNDO", "Ctrl+Z", Icon::Undo, Keys::Undo},
+    {Command::Redo, Group::Edit, "redo", "IDS_BOARD_REDO", "Ctrl+Shift+Z Ctrl+Y", Icon::Redo, Keys::Redo},
+    {Command::Cut, Group::Edit, "cut", "IDS_BOARD_CUT", "Ctrl+X", Icon::Cut, Keys::Cut},
+    {Command::Copy, Group::Edit, "copy", "IDS_BOARD_COPY", "Ctrl+C", Icon::Copy, Keys::Copy},
+    {Command::Paste, Group::Edit, "paste", "IDS_BOARD_PASTE", "Ctrl+V", Icon::Paste, Keys::Paste},
+    {Command::Duplicate, Group::Edit, "duplicate", "IDS_BOARD_DUPLICATE", "Ctrl+D", Icon::Duplicate},
+    {Command::Delete, Group::Edit, "delete", "IDS_BOARD_DELETE", "Del Backspace", Icon::Delete, Keys::Delete},
+    {Command::CopyLook, Group::Edit, "copyLook", "IDS_BOARD_COPY_STYLE", "Ctrl+Alt+C"},
+    {Command::PasteLook, Group::Edit, "pasteLook", "IDS_BOARD_PASTE_STYLE", "Ctrl+Alt+V"},
+    {Command::SelectAll, Group::Edit, "selectAll", "IDS_BOARD_SELECT_ALL", "Ctrl+A", {}, Keys::SelectAll},
+    {Command::SelectNothing,
+     Group::Edit,
+     "selectNothing",
+     "IDS_BOARD_DESELECT",
+     "Ctrl+Shift+A",
+     {},
+     Keys::Deselect},
+    {Command::EditText,
+     Group::Edit,
+     "editText",
+     "IDS_BOARD_EDIT_TEXT",
+     "Return Enter F2",
+     {},
+     Keys::UnknownKey,
+     false,
+     KeyScope::Page},
+
+    {Command::BringToFront, Group::Arrange, "bringToFront", "IDS_BOARD_TO_FRONT", "Ctrl+Shift+] Ctrl+Shift+PgUp",
+     Icon::ToFront},
+    {Command::BringForward, Group::Arrange, "bringForward", "IDS_BOARD_FORWARD", "Ctrl+] Ctrl+PgUp", Icon::Forward},
+    {Command::SendBackward, Group::Arrange, "sendBackward", "IDS_BOARD_BACKWARD", "Ctrl+[ Ctrl+PgDown",
+     Icon::Backward},
+    {Command::SendToBack, Group::Arrange, "sendToBack", "IDS_BOARD_TO_BACK", "Ctrl+Shift+[ Ctrl+Shift+PgDown",
+     Icon::ToBack},
+    {Command::MirrorAcross, Group::Arrange, "mirrorAcross", "IDS_BOARD_MIRROR_H", "Ctrl+M", Icon::MirrorHorizontal},
+    {Command::MirrorUp, Group::Arrange, "mirrorUp", "IDS_BOARD_MIRROR_V", "Ctrl+Shift+M", Icon::MirrorVertical},
+    {Command::TurnLeft, Group::Arrange, "turnLeft", "IDS_BOARD_ROTATE_LEFT", "Ctrl+Shift+R", Icon::RotateLeft},
+    {Command::TurnRight, Group::Arrange, "turnRight", "IDS_BOARD_ROTATE_RIGHT", "Ctrl+R", Icon::RotateRight},
+    {Command::Lock, Group::Arrange, "lock", "IDS_BOARD_LOCK", "Ctrl+L"},
+    {Command::AlignLeft, Group::Arrange, "alignLeft", "IDS_BOARD_ALIGN_LEFT", ""},
+    {Command::AlignCenter, Group::Arrange, "alignCenter", "IDS_BOARD_ALIGN_CENTER", ""},
+    {Command::AlignRight, Group::Arrange, "alignRight", "IDS_BOARD_ALIGN_RIGHT", ""},
+    {Command::AlignTop, Group::Arrange, "alignTop", "IDS_BOARD_ALIGN_TOP", ""},
+    {Command::AlignMiddle, Group::Arrange, "alignMiddle", "IDS_BOARD_ALIGN_MIDDLE", ""},
+    {Command::AlignBottom, Group::Arrange, "alignBottom", "IDS_BOARD_ALIGN_BOTTOM", ""},
+    {Command::DistributeAcross, Group::Arrange, "distributeAcross", "IDS_BOARD_DISTRIBUTE_ACROSS", ""},
+    {Command::DistributeDown, Group::Arrange, "distributeDown", "IDS_BOARD_DISTRIBUTE_DOWN", ""},
+    {Command::SameSize, Group::Arrange, "sameSize", "IDS_BOARD_SAME_SIZE", ""},
+
+    {Command::AddPage, Group::Page, "addPage", "IDS_BOARD_ADD_PAGE", "Ctrl+Shift+N", Icon::Add},
+    {Command::DuplicatePage, Group::Page, "duplicatePage", "IDS_BOARD_DUPLICATE_PAGE", "Ctrl+Shift+D"},
+    {Command::RemovePage, Group::Page, "removePage", "IDS_BOARD_REMOVE_PAGE", "", Icon::Remove},
+    {Command::MovePageBack, Group::Page, "movePageBack", "IDS_BOARD_MOVE_PAGE_BACK", ""},
+    {Command::MovePageOn, Group::Page, "movePageOn", "IDS_BOARD_MOVE_PAGE_ON", ""},
+    {Command::PreviousPage, Group::Page, "previousPage", "IDS_BOARD_PREVIOUS_PAGE", "PgUp"},
+    {Command::NextPage, Group::Page, "nextPage", "IDS_BOARD_NEXT_PAGE", "PgDown"},
+    {Command::FirstPage, Group::Page, "firstPage", "IDS_BOARD_FIRST_PAGE", "Ctrl+Home"},
+    {Command::LastPage, Group::Page, "lastPage", "IDS_BOARD_LAST_PAGE", "Ctrl+End"},
+
+    {Command::SelectTool, Group::Tools, "selectTool", "IDS_TOOL_SELECT", "V", {}, Keys::UnknownKey, true},
+    {Command::PenTool, Group::Tools, "penTool", "IDS_TOOL_PEN", "P", {}, Keys::UnknownKey, true},
+    {Command::HighlighterTool,
+     Group::Tools,
+     "highlighterTool",
+     "IDS_TOOL_HIGHLIGHTER",
+     "H",
+     {},
+     Keys::UnknownKey,
+     true},
+    {Command::EraserTool, Group::Tools, "eraserTool", "IDS_TOOL_ERASER", "E", {}, Keys::UnknownKey, true},
+    {Command::TextTool, Group::Tools, "textTool", "IDS_TOOL_TEXT", "T", {}, Keys::UnknownKey, true},
+    {Command::LineTool, Group::Tools, "lineTool", "IDS_TOOL_LINE", "L", {}, Keys::UnknownKey, true},
+    {Command::ConnectorTool, Group::Tools, "connectorTool", "IDS_TOOL_CONNECTOR", "C", {}, Keys::UnknownKey, true},
+    {Command::LaserTool, Group::Tools, "laserTool", "IDS_TOOL_LASER", "K", {}, Keys::UnknownKey, true},
+    {Command::KeepTool, Group::Tools, "keepTool", "IDS_TOOL_KEEP", "Q", {}, Keys::UnknownKey, true},
+    {Command::Shapes, Group::Tools, "shapes", "IDS_BOARD_SHAPES", "S"},
+    {Command::InsertAnything, Group::Tools, "insert", "IDS_BOARD_INSERT", "I"},
+    {Command::Rectangle, Group::Tools, "rectangle", "IDS_TOOL_RECTANGLE", "R"},
+    {Command::Ellipse, Group::Tools, "ellipse", "IDS_TOOL_ELLIPSE", "O"},
+    {Command::Arrow, Group::Tools, "arrow", "IDS_TOOL_ARROW", "A"},
+
+    {Command::Record, Group::Lesson, "record", "IDS_LESSON_RECORD", "F9", Icon::Record},
+    {Command::PauseRecording, Group::Lesson, "pauseRecording", "IDS_LESSON_PAUSE_RECORDING", "Shift+F9",
+     Icon::Pause},
+    {Command::PlayLesson, Group::Lesson, "playLesson", "IDS_LESSON_PLAY", "F8", Icon::Play},
+    {Command::CloseLesson, Group::Lesson, "closeLesson", "IDS_LESSON_CLOSE", "Shift+F8"},
+    {Command::RenameLesson,
+     Group::Lesson,
+     "renameLesson",
+     "IDS_LESSON_RENAME",
+     "F2",
+     {},
+     Keys::UnknownKey,
+     false,
+     KeyScope::LessonBar},
+    {Command::CutLesson, Group::Lesson, "cutLesson", "IDS_LESSON_CUT", ""},
+    {Command::RemoveLesson, Group::Lesson, "removeLesson", "IDS_LESSON_REMOVE", "", Icon::Delete},
+
+    {Command::ZoomIn, Group::View, "zoomIn", "IDS_BOARD_ZOOM_IN", "Ctrl++ Ctrl+=", Icon::ZoomIn, Keys::ZoomIn},
+    {Command::ZoomOut, Group::View, "zoomOut", "IDS_BOARD_ZOOM_OUT", "Ctrl+-", Icon::ZoomOut, Keys::ZoomOut},
+    {Command::ActualSize, Group::View, "actualSize", "IDS_BOARD_ACTUAL_SIZE", "Ctrl+0"},
+    {Command::FitPage, Group::View, "fitPage", "IDS_BOARD_FIT_PAGE", "Ctrl+9", Icon::ZoomFit},
+    {Command::ZoomToSelection, Group::View, "zoomToSelection", "IDS_BOARD_ZOOM_SELECTION", "Ctrl+8"},
+    {Command::Grid, Group::View, "grid", "IDS_BOARD_GRID", "G", {}, Keys::UnknownKey, true},
+    {Command::Snapping, Group::View, "snapping", "IDS_BOARD_SNAPPING", "N", {}, Keys::UnknownKey, true},
+    {Command::Animations, Group::View, "animations", "IDS_BOARD_ANIMATION", "F7", Icon::Animation, Keys::UnknownKey,
+     true},
+    {Command::DarkColors, Group::View, "darkColors", "IDS_BOARD_DARK", "", {}, Keys::UnknownKey, true},
+    {Command::Panel, Group::View, "panel", "IDS_BOARD_PANEL", "F4", {}, Keys::UnknownKey, true},
+    {Command::NextPart, Group::View, "nextPart", "IDS_BOARD_NEXT_PART", "F6"},
+    {Command::PreviousPart, Group::View, "previousPart", "IDS_BOARD_PREVIOUS_PART", "Shift+F6"},
+    {Command::Menus, Group::View, "menus", "IDS_BOARD_MENUS", "F10"},
+    {Command::PageStrip, Group::View, "pageStrip", "IDS_BOARD_PAGE_STRIP", "F12", {}, Keys::UnknownKey, true},
+    {Command::ContextMenu, Group::View, "contextMenu", "IDS_BOARD_CONTEXT_MENU", "Menu Shift+F10"},
+
+    {Command::Present, Group::Present, "present", "IDS_BOARD_PRESENT", "F5 F11"},
+    {Command::PresentFromStart, Group::Present, "presentFromStart", "IDS_BOARD_PRESENT_FROM_START", "Shift+F5"},
+
+    {Command::ShowKeys, Group::Help, "showKeys", "IDS_BOARD_KEYS", "F1", {}, Keys::HelpContents},
+    {Command::FindCommand, Group::Help, "findCommand", "IDS_BOARD_FIND_COMMAND", "Ctrl+K"},
+    {Command::LetterKeys, Group::Help, "letterKeys", "IDS_BOARD_LETTER_KEYS", "", {}, Keys::UnknownKey, true},
+    {Command::About, Group::Help, "about", "IDS_BOARD_ABOUT", ""},
+};
+static_assert(std::size(commands) == commandCount, "each command has its row");
+
+QList<QKeySequence> listedKeys(const CommandFacts &facts)
+{
+    QList<QKeySequence> keys;
+    const QStringList texts = QString::fromLatin1(facts.keys).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &text : texts)
+        keys.append(QKeySequence(text, QKeySequence::PortableText));
+    return keys;
+}
+
+bool isListed(const QKeySequence &keys)
+{
+    for (const CommandFacts &facts : commands)
+        if (listedKeys(facts).contains(keys))
+            return true;
+    return false;
+}
+
+} // namespace
+
+const CommandFacts &factsOf(Command command)
+{
+    return commands[int(command)];
+}
+
+const char *groupTextKey(CommandGroup group)
+{
+    constexpr const char *keys[] = {"IDS_BOARD_FILE", "IDS_BOARD_EDIT",    "IDS_BOARD_ARRANGE",
+                                    "IDS_BOARD_PAGE", "IDS_BOARD_TOOLS",   "IDS_LESSON_MENU",
+                                    "IDS_BOARD_VIEW", "IDS_BOARD_PRESENT", "IDS_BOARD_HELP"};
+    return keys[int(group)];
+}
+
+QList<QKeySequence> defaultKeys(Command command)
+{
+    const CommandFacts &facts = factsOf(command);
+    QList<QKeySequence> keys = listedKeys(facts);
+    const QList<QKeySequence> bindings = QKeySequence::keyBindings(facts.standard);
+    for (const QKeySequence &binding : bindings)
+        if (!isListed(binding) && !keys.contains(binding))
+            keys.append(binding);
+    return keys;
+}
+
+bool isLetterKey(const QKeySequence &keys)
+{
+    if (keys.count() != 1)
+        return false;
+    const int key = keys[0] & ~Qt::KeyboardModifierMask;
+    const int modifiers = keys[0] & (Qt::KeyboardModifierMask & ~Qt::SHIFT & ~Qt::KeypadModifier);
+    // Keys beyond are those without a character, such as Del and F1.
+    return modifiers == 0 && key > Qt::Key_Space && key < Qt::Key_Escape;
+}
+
+} // namespace board
