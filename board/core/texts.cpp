@@ -144,6 +144,7 @@ QVector<TextEntry> textEntries()
     all += commandTexts();
     all += formTexts();
     all += lessonTexts();
+    all += toolTexts();
     return all;
 }
 

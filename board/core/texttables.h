@@ -19,5 +19,7 @@ QVector<TextEntry> documentTexts();
 QVector<TextEntry> lessonTexts();
 /// Texts of the panels that list what can be set.
 QVector<TextEntry> formTexts();
+/// Texts of the tools that draw on the page, and of their settings.
+QVector<TextEntry> toolTexts();
 
 } // namespace board

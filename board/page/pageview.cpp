@@ -4,9 +4,9 @@
 #include "page/draghint.h"
 #include "page/labeleditor.h"
 
-#include <pagehost/creation.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/pagetool.h>
 
 #include <framework/cbaseobject.h>
 
@@ -72,6 +72,7 @@ void PageView::setPage(pagehost::Page *page)
         disconnect(m_page, nullptr, this, nullptr);
     m_page = page;
     setScene(page ? page->scene() : nullptr);
+    Q_EMIT pageShown();
     if (!page)
         return;
     // Only the hint of an empty page is the view's own; objects ask for repaints themselves.
@@ -165,8 +166,6 @@ void PageView::settle()
     if (!m_page)
         return;
     m_page->scene()->cancelDrag();
-    if (m_tool)
-        m_tool->cancel();
 }
 
 void PageView::cancel()
@@ -177,8 +176,8 @@ void PageView::cancel()
         return m_band.cancel();
     if (m_page->scene()->cancelDrag())
         return;
-    if (m_tool && m_tool->isActive())
-        return m_tool->cancel();
+    if (m_page->scene()->tool())
+        return toolGivenUp();
     m_page->select({});
 }
 
@@ -250,7 +249,9 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
     updateCursor(event->pos());
     showHint(event->globalPos());
     const std::optional<QPoint> doubleClicked = std::exchange(m_doubleClicked, std::nullopt);
-    if (doubleClicked && (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
+    const bool usesTool = m_page && m_page->scene()->tool();
+    if (doubleClicked && !usesTool &&
+        (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
         writeLabelAt(event->pos());
 }
 
@@ -418,9 +419,46 @@ void PageView::focusOutEvent(QFocusEvent *event)
 
 bool PageView::viewportEvent(QEvent *event)
 {
-    if (event->type() == QEvent::Leave)
+    switch (event->type()) {
+    case QEvent::Leave:
         Q_EMIT pointerLeft();
+        break;
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+        if (usePen(static_cast<QTabletEvent *>(event)))
+            return true;
+        break;
+    default:
+        break;
+    }
     return QGraphicsView::viewportEvent(event);
+}
+
+/// Of a pen, the mouse events that Qt makes lack pressure and parts of pixels. A pen without a tool is a mouse.
+bool PageView::usePen(QTabletEvent *event)
+{
+    event->ignore();
+    if (!m_page)
+        return false;
+    pagehost::ToolPointer pointer;
+    pointer.pos = viewportTransform().inverted().map(event->posF());
+    pointer.pressure = event->pressure();
+    pointer.pixel = 1 / m_zoom;
+    pointer.modifiers = event->modifiers();
+    pagehost::PageScene *scene = m_page->scene();
+    const bool isMain = event->button() == Qt::LeftButton;
+    bool isUsed = scene->tool() != nullptr;
+    if (event->type() == QEvent::TabletPress && isMain)
+        isUsed = scene->pressTool(pointer);
+    else if (event->type() == QEvent::TabletMove)
+        isUsed = scene->moveTool(pointer);
+    else if (event->type() == QEvent::TabletRelease && isMain)
+        isUsed = scene->releaseTool(pointer);
+    event->setAccepted(isUsed);
+    if (isUsed)
+        Q_EMIT pointerMoved(pointer.pos);
+    return isUsed;
 }
 
 void PageView::resizeEvent(QResizeEvent *event)
@@ -456,7 +494,7 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (!isEditable() || m_page->objectCount() > 0 || (m_tool && m_tool->isDrawing()))
+    if (!isEditable() || m_page->objectCount() > 0 || m_page->scene()->isBusy())
         return;
     QPainter painter(viewport());
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);

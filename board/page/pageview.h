@@ -14,10 +14,7 @@
 
 class CBaseObject;
 class QMimeData;
-
-namespace pagehost {
-class CreationTool;
-} // namespace pagehost
+class QTabletEvent;
 
 namespace board {
 
@@ -43,8 +40,6 @@ public:
     pagehost::Page *page() const { return m_page; }
     /// False while the page only plays a lesson.
     bool isEditable() const;
-    /// The tool whose drawing the Esc key cancels; not owned.
-    void setCreationTool(pagehost::CreationTool *tool) { m_tool = tool; }
     void setEmptyHint(const EmptyHint &hint);
 
     /// Scene units to logical pixels.
@@ -63,10 +58,16 @@ public:
     void setDropTest(const std::function<bool(const QMimeData &)> &test) { m_dropTest = test; }
     /// Ends what is going on: keys that move become a step, a drag is taken back.
     void settle();
-    /// Takes back what is going on, else takes away the selection: what the Esc key does.
+    /// The effect of the Esc key: takes back what is going on, else gives the tool up, else deselects.
     void cancel();
+    /// Begins to write the first label of the only selected object. False where there is none.
+    bool writeFirstLabel();
 
 Q_SIGNALS:
+    /// page() is another one.
+    void pageShown();
+    /// The Esc key was pressed while a tool waited.
+    void toolGivenUp();
     void zoomChanged(double rate);
     /// Scene coordinates.
     void pointerMoved(const QPointF &scenePos);
@@ -99,10 +100,9 @@ private:
     void panTo(const QPoint &pos);
     void endBand(const QMouseEvent *event);
     void showHint(const QPoint &pointer);
-    /// Begins to write the label there (viewport coordinates), or the first one of the only selected object. False
-    /// where there is none.
+    /// Begins to write the label there (viewport coordinates). False where there is none.
     bool writeLabelAt(const QPoint &pos);
-    bool writeFirstLabel();
+    bool usePen(QTabletEvent *event);
     CBaseObject *objectAt(const QPoint &pos) const;
     void write(CBaseObject *object, const EditableLabel &label);
     void endWriting();
@@ -114,7 +114,6 @@ private:
     void showFitted();
 
     QPointer<pagehost::Page> m_page;
-    pagehost::CreationTool *m_tool = nullptr;
     std::function<bool(const QMimeData &)> m_dropTest;
     EmptyHint m_hint;
     BandSelection m_band;

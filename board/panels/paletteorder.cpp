@@ -27,8 +27,9 @@ QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
     QVector<PaletteEntry> entries;
     const QVector<pagehost::ObjectKind> kinds = workspace.registry().kinds();
     for (const pagehost::ObjectKind &kind : kinds)
-        entries.append(
-            {kind.id, workspace.text(kind.nameKey), workspace.text(kind.group), searchWords(workspace, kind)});
+        if (!kind.group.isEmpty())
+            entries.append(
+                {kind.id, workspace.text(kind.nameKey), workspace.text(kind.group), searchWords(workspace, kind)});
     const QString basic = workspace.text(pagehost::basicGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));
     std::stable_sort(entries.begin(), entries.end(), [&](const PaletteEntry &one, const PaletteEntry &other) {

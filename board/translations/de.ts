@@ -8,6 +8,34 @@
         <translation>Ausschneiden</translation>
     </message>
     <message>
+        <source>Whole strokes</source>
+        <translation>Ganze Striche</translation>
+    </message>
+    <message>
+        <source>Parts of strokes</source>
+        <translation>Teile von Strichen</translation>
+    </message>
+    <message>
+        <source>Straight line</source>
+        <translation>Gerade Linie</translation>
+    </message>
+    <message>
+        <source>Arrow line</source>
+        <translation>Pfeillinie</translation>
+    </message>
+    <message>
+        <source>Curved line</source>
+        <translation>Gebogene Linie</translation>
+    </message>
+    <message>
+        <source>Straight connector</source>
+        <translation>Gerade Verbindung</translation>
+    </message>
+    <message>
+        <source>Right-angled connector</source>
+        <translation>Rechtwinklige Verbindung</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>

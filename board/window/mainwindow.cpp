@@ -26,6 +26,8 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
+#include "tools/toolbox.h"
+#include "tools/toolsettings.h"
 #include "window/fieldundo.h"
 #include "window/shapetool.h"
 #include "window/statusline.h"
@@ -90,6 +92,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_animation(new pagehost::AnimationPlayer(m_view, this))
     , m_tools(new ToolChoice(this))
     , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_view, this))
+    , m_toolSettings(new ToolSettings(this))
     , m_lock(this, m_view)
     , m_dialogs(workspace, this)
     , m_describeSelection([this] { describeSelection(); })
@@ -113,6 +116,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectLessons();
     connectAnimation();
     connectDocument();
+    new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
     new FieldUndo(this);
     new ToolCommands(m_commands, m_tools, this);
     new ShapeNotices(m_workspace, m_notices, this);

@@ -36,6 +36,7 @@ class ShapeTool;
 class StatusLine;
 class StylePanel;
 class ToolChoice;
+class ToolSettings;
 class Workspace;
 
 /// The window: the page in the middle, shapes to the left, look and history to the right, pages below.
@@ -64,6 +65,7 @@ public:
     LessonBar *lessonBar() const { return m_lessonBar; }
     pagehost::AnimationPlayer *animation() const { return m_animation; }
     ToolChoice *tools() const { return m_tools; }
+    ToolSettings *toolSettings() const { return m_toolSettings; }
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -113,6 +115,7 @@ private:
     pagehost::AnimationPlayer *m_animation;
     ToolChoice *m_tools;
     ShapeTool *m_shapeTool;
+    ToolSettings *m_toolSettings;
     EditingLock m_lock;
     FileDialogs m_dialogs;
     PagePanel *m_pages = nullptr;

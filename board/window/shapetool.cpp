@@ -16,7 +16,6 @@ ShapeTool::ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools
     , m_view(view)
     , m_creation(registry)
 {
-    view->setCreationTool(&m_creation);
     connect(tools, &ToolChoice::changed, this, &ShapeTool::followChoice);
     connect(&m_creation, &pagehost::CreationTool::created, this, &ShapeTool::takeMade);
     connect(&m_creation, &pagehost::CreationTool::cancelled, this, &ShapeTool::rest);

@@ -124,7 +124,7 @@ void LessonRecording::noteChange(CBaseObject *object)
 void LessonRecording::settleIdle()
 {
     const Page *page = m_document ? m_document->currentPage() : nullptr;
-    if (page && page->scene()->isDragging()) {
+    if (page && page->scene()->isBusy()) {
         catchUp();
         return;
     }

@@ -8,7 +8,6 @@
 #include <pagehost/pagescene.h>
 
 #include <host/geometry.h>
-#include <pages/eventcopy.h>
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 
@@ -55,14 +54,14 @@ bool CreationTool::begin(PageScene *scene, const QString &kindId)
         return false;
     m_scene = scene;
     m_kindId = kindId;
-    m_scene->setCreationTool(this);
+    m_scene->setTool(this);
     return true;
 }
 
-void CreationTool::cancel()
+bool CreationTool::cancel()
 {
     if (!isActive())
-        return;
+        return false;
     if (m_object) {
         m_scene->removeItem(m_object);
         m_object->SetPage(nullptr);
@@ -71,69 +70,63 @@ void CreationTool::cancel()
     }
     stop();
     Q_EMIT cancelled();
+    return true;
 }
 
 void CreationTool::stop()
 {
-    if (m_scene && m_scene->creationTool() == this)
-        m_scene->setCreationTool(nullptr);
+    if (m_scene && m_scene->tool() == this)
+        m_scene->setTool(nullptr);
     m_scene = nullptr;
     m_object = nullptr;
     m_kindId.clear();
 }
 
-bool CreationTool::press(QGraphicsSceneMouseEvent *event)
+void CreationTool::press(const ToolPointer &pointer)
 {
-    if (!isActive() || m_object || event->button() != Qt::LeftButton)
-        return isActive();
+    if (!isActive() || m_object)
+        return;
     m_object = m_registry->createObject(m_kindId);
     if (!m_object) {
         cancel();
-        return true;
+        return;
     }
     m_dragged = false;
-    m_start = event->scenePos();
+    m_start = pointer.pos;
     m_end = m_start;
     m_object->SetPage(m_scene->page());
     m_object->setZValue(m_scene->page()->objectCount());
     m_object->CPSRootObject::setPos(m_start, false);
     m_scene->addItem(m_object);
-    sendToObject(QEvent::GraphicsSceneMousePress, *event);
-    return true;
+    sendToObject(QEvent::GraphicsSceneMousePress);
 }
 
-bool CreationTool::move(QGraphicsSceneMouseEvent *event)
+void CreationTool::move(const ToolPointer &pointer)
 {
-    if (!m_object)
-        return isActive();
-    if (!follow(*event))
-        return true;
+    if (!m_object || !follow(pointer))
+        return;
     m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
-    sendToObject(QEvent::GraphicsSceneMouseMove, *event);
+    sendToObject(QEvent::GraphicsSceneMouseMove);
     keepStartCorner();
-    return true;
 }
 
-bool CreationTool::release(QGraphicsSceneMouseEvent *event)
+void CreationTool::release(const ToolPointer &pointer)
 {
     if (!m_object)
-        return isActive();
-    if (event->button() != Qt::LeftButton)
-        return true;
-    follow(*event);
+        return;
+    follow(pointer);
     m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
-    sendToObject(QEvent::GraphicsSceneMouseRelease, *event);
+    sendToObject(QEvent::GraphicsSceneMouseRelease);
     keepStartCorner();
     if (!m_object->isCreateFinished()) {
         cancel();
-        return true;
+        return;
     }
     CBaseObject *object = m_object;
     Page *page = m_scene->page();
     stop();
     addObjects(page, {object});
     Q_EMIT created(object);
-    return true;
 }
 
 CBaseObject *CreationTool::createAt(PageScene *scene, const QString &kindId, const QPointF &scenePos)
@@ -143,11 +136,10 @@ CBaseObject *CreationTool::createAt(PageScene *scene, const QString &kindId, con
     CBaseObject *made = nullptr;
     const auto take = [&made](CBaseObject *object) { made = object; };
     const auto connection = connect(this, &CreationTool::created, this, take); // ends before `made` does
-    QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
-    event.setButton(Qt::LeftButton);
-    event.setScenePos(scenePos);
-    press(&event);
-    release(&event);
+    ToolPointer pointer;
+    pointer.pos = scenePos;
+    press(pointer);
+    release(pointer);
     disconnect(connection);
     return made;
 }
@@ -157,34 +149,38 @@ QRectF CreationTool::dragRect() const
     return QRectF(m_start, m_end).normalized();
 }
 
-bool CreationTool::follow(const QGraphicsSceneMouseEvent &event)
+bool CreationTool::follow(const ToolPointer &pointer)
 {
-    const QPointF way = possibleWay(event.scenePos() - m_start);
+    const QPointF way = possibleWay(pointer.pos - m_start);
     const double clickDistance = clickPixels / m_object->getCurZoomRate();
     m_dragged = m_dragged || std::hypot(way.x(), way.y()) >= clickDistance;
     if (m_dragged)
-        m_end = m_start + (event.modifiers().testFlag(Qt::ShiftModifier) ? square(way) : way);
+        m_end = m_start + (pointer.modifiers.testFlag(Qt::ShiftModifier) ? square(way) : way);
     return m_dragged;
 }
 
-void CreationTool::sendToObject(int eventType, const QGraphicsSceneMouseEvent &event)
+void CreationTool::sendToObject(int eventType)
 {
     if (m_object->isCreateFinished()) {
         sizeFinishedObject(eventType);
         return;
     }
-    QGraphicsSceneMouseEvent copy{QEvent::Type(eventType)};
-    copyMouseEvent(event, *m_object, dragRect().bottomRight() - event.scenePos(), copy);
-    copy.setModifiers(Qt::NoModifier);
+    QGraphicsSceneMouseEvent event{QEvent::Type(eventType)};
+    event.setScenePos(dragRect().bottomRight());
+    event.setPos(m_object->mapFromScene(event.scenePos()));
+    event.setButtonDownScenePos(Qt::LeftButton, m_start);
+    event.setButtonDownPos(Qt::LeftButton, m_object->mapFromScene(m_start));
+    event.setButton(eventType == QEvent::GraphicsSceneMouseMove ? Qt::NoButton : Qt::LeftButton);
+    event.setButtons(eventType == QEvent::GraphicsSceneMouseRelease ? Qt::NoButton : Qt::LeftButton);
     switch (eventType) {
     case QEvent::GraphicsSceneMousePress:
-        m_object->mousePressEvent(&copy);
+        m_object->mousePressEvent(&event);
         break;
     case QEvent::GraphicsSceneMouseMove:
-        m_object->mouseMoveEvent(&copy);
+        m_object->mouseMoveEvent(&event);
         break;
     default:
-        m_object->mouseReleaseEvent(&copy);
+        m_object->mouseReleaseEvent(&event);
         break;
     }
 }

@@ -2,9 +2,9 @@
 
 #include <framework/cbaseobject.h>
 
-#include <pagehost/creation.h>
 #include <pagehost/page.h>
 #include <pagehost/pagepainter.h>
+#include <pagehost/pagetool.h>
 
 #include <host/gripdrag.h>
 #include <host/handlelayout.h>
@@ -14,6 +14,7 @@
 #include <pages/gripfinder.h>
 #include <pages/highlightpainter.h>
 #include <pages/overlaypainter.h>
+#include <pages/toolinput.h>
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
@@ -24,6 +25,7 @@ namespace pagehost {
 PageScene::PageScene(Page *page)
     : QGraphicsScene(QRectF(QPointF(0, 0), page->size()))
     , m_page(page)
+    , m_tool(std::make_unique<ToolInput>())
 {
     connect(this, &QGraphicsScene::selectionChanged, this, &PageScene::updateOverlay);
     if (Document *document = page->document()) {
@@ -50,15 +52,62 @@ bool PageScene::isEditable() const
 
 QCursor PageScene::cursorAt(const QPointF &scenePos) const
 {
-    if (m_tool)
-        return Qt::CrossCursor;
+    if (usesTool())
+        return tool()->cursor(pixel());
     return cursorFor(isDragging() ? m_drag : gripAt(scenePos), isDragging());
 }
 
-void PageScene::setCreationTool(CreationTool *tool)
+void PageScene::setTool(PageTool *tool)
 {
-    m_tool = tool;
+    m_tool->setTool(tool);
     setHover({});
+}
+
+PageTool *PageScene::tool() const
+{
+    return m_tool->tool();
+}
+
+bool PageScene::usesTool() const
+{
+    return tool() && isEditable();
+}
+
+double PageScene::pixel() const
+{
+    const Document *document = m_page->document();
+    return document ? 1 / document->zoomRate() : 1;
+}
+
+bool PageScene::pressTool(const ToolPointer &pointer)
+{
+    if (!usesTool())
+        return false;
+    m_tool->press(pointer);
+    Q_EMIT toolUsed();
+    return true;
+}
+
+bool PageScene::moveTool(const ToolPointer &pointer)
+{
+    if (!usesTool())
+        return false;
+    m_tool->move(pointer);
+    return true;
+}
+
+bool PageScene::releaseTool(const ToolPointer &pointer)
+{
+    if (!usesTool())
+        return false;
+    m_tool->release(pointer);
+    Q_EMIT toolUsed();
+    return true;
+}
+
+bool PageScene::isBusy() const
+{
+    return isDragging() || (tool() && tool()->isDrawing());
 }
 
 bool PageScene::isDragging() const
@@ -68,7 +117,9 @@ bool PageScene::isDragging() const
 
 void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (m_tool && m_tool->press(event)) {
+    if (usesTool()) {
+        if (event->button() == Qt::LeftButton)
+            pressTool(toolPointer(*event, pixel()));
         event->accept();
         return;
     }
@@ -115,13 +166,13 @@ void PageScene::deliver(QGraphicsSceneMouseEvent *event) const
 
 void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (m_tool && m_tool->move(event)) {
+    if (moveTool(toolPointer(*event, pixel()))) {
         event->accept();
     } else if (isDragging()) {
         deliver(event);
         event->accept();
     } else if (!event->buttons()) {
-        setHover(m_tool ? Grip() : gripAt(event->scenePos()));
+        setHover(gripAt(event->scenePos()));
     }
     if (QWidget *viewport = event->widget())
         viewport->setCursor(cursorAt(event->scenePos()));
@@ -129,7 +180,9 @@ void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 
 void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (m_tool && m_tool->release(event)) {
+    if (usesTool()) {
+        if (event->button() == Qt::LeftButton)
+            releaseTool(toolPointer(*event, pixel()));
         event->accept();
         return;
     }
@@ -145,7 +198,7 @@ void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 
 void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
-    const Grip grip = m_tool || event->button() != Qt::LeftButton ? Grip() : gripAt(event->scenePos());
+    const Grip grip = usesTool() || event->button() != Qt::LeftButton ? Grip() : gripAt(event->scenePos());
     if (!grip.object) {
         event->ignore();
         return;
@@ -159,12 +212,7 @@ void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 void PageScene::keyPressEvent(QKeyEvent *event)
 {
     event->ignore();
-    if (event->key() == Qt::Key_Escape && m_tool && m_tool->isActive()) {
-        m_tool->cancel();
-        event->accept();
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && cancelDrag()) {
+    if ((event->key() == Qt::Key_Escape && cancelDrag()) || useToolKey(event)) {
         event->accept();
         return;
     }
@@ -173,8 +221,18 @@ void PageScene::keyPressEvent(QKeyEvent *event)
         selected.first()->keyPressEvent(event);
 }
 
+bool PageScene::useToolKey(QKeyEvent *event)
+{
+    if (!usesTool() || !tool()->keyPress(event->key()))
+        return false;
+    Q_EMIT toolUsed();
+    return true;
+}
+
 bool PageScene::cancelDrag()
 {
+    if (m_tool->cancel())
+        return true;
     if (!isDragging())
         return false;
     if (GripDrag *drag = GripDrag::running(*m_drag.object)) {

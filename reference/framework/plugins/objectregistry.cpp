@@ -145,7 +145,7 @@ PluginReport ObjectRegistry::addPlugin(ObjectPlugin *plugin, const QString &name
 /// The report is in the list from the start, where every problem is added to it.
 PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
 {
-    Source source{plugin, m_reports.size(), nullptr, {}};
+    Source source{plugin, m_reports.size(), nullptr, {}, nullptr, {}};
     m_reports.append(report);
     TextTable english;
     QVector<ObjectKind> offered;
@@ -164,6 +164,9 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
     }
     if (source.kinds)
         followKinds(source);
+    source.tools = dynamic_cast<ToolPlugin *>(plugin);
+    if (source.tools)
+        run(source, QStringLiteral("toolRoles()"), [&] { source.roles = source.tools->toolRoles(); });
     takeKinds(source, offered, english);
     PluginReport &told = m_reports[source.report];
     if (told.kindIds.isEmpty() && !source.kinds) {
@@ -281,7 +284,7 @@ ObjectRegistry::Source ObjectRegistry::sourceOf(const QString &kindId) const
         return !source.family.isEmpty() && kindId.startsWith(source.family);
     };
     const auto family = std::find_if(m_sources.begin(), m_sources.end(), isOfFamily);
-    return family == m_sources.end() ? Source{nullptr, -1, nullptr, {}} : *family;
+    return family == m_sources.end() ? Source{} : *family;
 }
 
 QString ObjectRegistry::kindProblem(const ObjectKind &kind, const TextTable &english) const
@@ -375,6 +378,22 @@ QByteArray ObjectRegistry::dataOf(CBaseObject *object, const QString &mimeType) 
     if (source.plugin)
         run(source, quoted("dataOf", mimeType), [&] { data = source.plugin->dataOf(object, mimeType); });
     return data;
+}
+
+bool ObjectRegistry::hasTool(ToolRole role) const
+{
+    return std::any_of(m_sources.begin(), m_sources.end(),
+                       [role](const Source &source) { return source.roles.contains(role); });
+}
+
+std::unique_ptr<PageTool> ObjectRegistry::createTool(ToolRole role, ToolPage *page) const
+{
+    std::unique_ptr<PageTool> tool;
+    for (const Source &source : m_sources) {
+        if (!tool && source.roles.contains(role))
+            run(source, QStringLiteral("createTool()"), [&] { tool.reset(source.tools->createTool(role, page)); });
+    }
+    return tool;
 }
 
 void tellTexts(CBaseObject &object, const QMap<QByteArray, QByteArray> &texts)

@@ -306,7 +306,7 @@ void TestCreation::escapeBeforeThePressStopsWaiting()
     Workshop workshop;
     workshop.begin("drawn");
     workshop.pressKey(Qt::Key_Escape);
-    QCOMPARE(workshop.page->scene()->creationTool(), nullptr);
+    QCOMPARE(workshop.page->scene()->tool(), nullptr);
     workshop.drag(QPointF(300, 300), QPointF(420, 380));
     QVERIFY(workshop.created.isEmpty());
 }
@@ -391,7 +391,7 @@ void TestCreation::destroyedToolLeavesTheSceneUsable()
         tool.begin(workshop.page->scene(), QStringLiteral("drawn"));
         workshop.press(QPointF(300, 300));
     }
-    QCOMPARE(workshop.page->scene()->creationTool(), nullptr);
+    QCOMPARE(workshop.page->scene()->tool(), nullptr);
     QVERIFY(workshop.page->scene()->items().isEmpty());
     workshop.click(QPointF(300, 300));
 }

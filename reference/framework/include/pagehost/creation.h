@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/pagetool.h>
+
 #include <framework/framework_global.h>
 
 #include <QtCore/QObject>
@@ -8,7 +10,6 @@
 #include <QtCore/QString>
 
 class CBaseObject;
-class QGraphicsSceneMouseEvent;
 
 namespace pagehost {
 
@@ -21,7 +22,7 @@ class PageScene;
 /// tool moves the item so that the corner where the drag began stays put, whatever direction the user drags. A
 /// click makes an object of its default size with its top-left corner at the click. Shift keeps the drag square.
 /// The result is one undo step, and the new object is the selection.
-class FRAMEWORK_EXPORT CreationTool : public QObject
+class FRAMEWORK_EXPORT CreationTool : public QObject, public PageTool
 {
     Q_OBJECT
 
@@ -36,18 +37,13 @@ public:
     bool begin(PageScene *scene, const QString &kindId);
     /// Waiting for a press, or drawing.
     bool isActive() const { return m_scene != nullptr; }
-    /// Between press and release.
-    bool isDrawing() const { return m_object != nullptr; }
     QString kindId() const { return m_kindId; }
-    /// Removes the unfinished object without a trace and stops waiting; nothing when not active.
-    void cancel();
-
-    /// @name The mouse, as the scene hands it on; true when the tool took the event
-    /// @{
-    bool press(QGraphicsSceneMouseEvent *event);
-    bool move(QGraphicsSceneMouseEvent *event);
-    bool release(QGraphicsSceneMouseEvent *event);
-    /// @}
+    /// Removes the unfinished object without a trace and stops waiting; false when not active.
+    bool cancel() override;
+    bool isDrawing() const override { return m_object != nullptr; }
+    void press(const ToolPointer &pointer) override;
+    void move(const ToolPointer &pointer) override;
+    void release(const ToolPointer &pointer) override;
 
     /// Makes an object of the kind at its default size with its top-left at `scenePos` as one undo step, as a click
     /// would; null when the kind is unknown. For keyboards and drops from a palette.
@@ -59,9 +55,9 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    bool follow(const QGraphicsSceneMouseEvent &event);
+    bool follow(const ToolPointer &pointer);
     QRectF dragRect() const;
-    void sendToObject(int eventType, const QGraphicsSceneMouseEvent &event);
+    void sendToObject(int eventType);
     void sizeFinishedObject(int eventType);
     void keepStartCorner();
     void stop();

@@ -26,7 +26,8 @@ struct ObjectKind
 {
     QString id;      ///< stable and unique, saved in documents; letters, digits and '.' ("shapes.arrow")
     QString nameKey; ///< localisation key of the name; with "_WORDS" appended, of search words, if any
-    QString group;   ///< localisation key of the palette group
+    /// Localisation key of the palette group; empty for kinds that only tools and files make.
+    QString group;
 };
 
 /// Special properties (CPSRootObject::GetSpecialProperty(), SetSpecialProperty()) that the host uses of any object.

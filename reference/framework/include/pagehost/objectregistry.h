@@ -1,6 +1,7 @@
 #pragma once
 
 #include <pagehost/objectplugin.h>
+#include <pagehost/pagetool.h>
 
 #include <framework/framework_global.h>
 
@@ -11,6 +12,7 @@
 #include <QtCore/QVector>
 
 #include <functional>
+#include <memory>
 
 class CBaseObject;
 
@@ -83,6 +85,11 @@ public:
     /// that cannot give it or the kind is unknown.
     QByteArray dataOf(CBaseObject *object, const QString &mimeType) const;
 
+    /// Whether a plug-in has a tool for the role.
+    bool hasTool(ToolRole role) const;
+    /// A tool of the first plug-in that has one for the role; null without one. `page` must outlive it.
+    std::unique_ptr<PageTool> createTool(ToolRole role, ToolPage *page) const;
+
 private:
     struct Source
     {
@@ -90,6 +97,8 @@ private:
         int report = -1;             ///< its index in m_reports
         KindSource *kinds = nullptr; ///< null for plug-ins whose kinds never change
         QString family;              ///< KindSource::kindFamily(); empty for other plug-ins
+        ToolPlugin *tools = nullptr; ///< null for plug-ins without tools
+        QVector<ToolRole> roles;
     };
 
     PluginReport load(const QString &file, PluginReport report);

@@ -9,12 +9,16 @@
 #include <QtGui/QCursor>
 #include <QtWidgets/QGraphicsScene>
 
+#include <memory>
+
 class CBaseObject;
 
 namespace pagehost {
 
-class CreationTool;
 class Page;
+class PageTool;
+class ToolInput;
+struct ToolPointer;
 
 /// The editable thing at a point of the page.
 struct Grip
@@ -36,7 +40,7 @@ struct Grip
 ///
 /// A press goes to handles and control points of the selected objects first, so that a near miss of one does not
 /// deselect; then to the object under the point; a press on empty page is left to the view, whose rubber band it
-/// starts. Shift or Ctrl adds to the selection and takes from it. While a creation tool is set, it gets the mouse.
+/// starts. Shift or Ctrl adds to the selection and takes from it. While a tool is set, it gets the mouse.
 /// Views show hover and cursors once mouse tracking is on for their viewport.
 class FRAMEWORK_EXPORT PageScene : public QGraphicsScene
 {
@@ -50,20 +54,29 @@ public:
 
     Grip gripAt(const QPointF &scenePos) const;
     /// The cursor that shows what a press at `scenePos` would do, for handles by their direction on screen, for
-    /// control points, bodies, and the creation tool.
+    /// control points, bodies, and the tool.
     QCursor cursorAt(const QPointF &scenePos) const;
     /// Handle under the mouse; ACT_None without one.
     CObjAction::ACT_Def hoveredHandle() const { return m_hover.action; }
     Grip hovered() const { return m_hover; }
 
     /// A tool that gets the mouse before any object; null for none. Not owned.
-    void setCreationTool(CreationTool *tool);
-    CreationTool *creationTool() const { return m_tool; }
+    void setTool(PageTool *tool);
+    PageTool *tool() const;
+    /// @name A pen that the view hands on itself, since scenes get no events of pens
+    /// False, without effect, where no tool can be used.
+    /// @{
+    bool pressTool(const ToolPointer &pointer);
+    bool moveTool(const ToolPointer &pointer);
+    bool releaseTool(const ToolPointer &pointer);
+    /// @}
 
     /// True between a press that an object took and its release.
     bool isDragging() const;
-    /// Cancels a running drag: objects return to their places, a control point to where it was; no undo step
-    /// remains. False when none runs. The Esc key does the same.
+    /// An object is being dragged or drawn.
+    bool isBusy() const;
+    /// Cancels a running drag: objects return to their places, a control point to where it was, a tool takes back
+    /// its drawing; no undo step remains. False when none runs. The Esc key does the same.
     bool cancelDrag();
 
     /// Highlights an object of the page, above everything else and in every state of the document, until it is
@@ -77,6 +90,10 @@ public:
     /// Ends any action with an object that is about to leave the page.
     void forget(CBaseObject *object);
 
+Q_SIGNALS:
+    /// The tool has dealt with a press, a release or a key.
+    void toolUsed();
+
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
@@ -87,6 +104,9 @@ protected:
     void drawForeground(QPainter *painter, const QRectF &rect) override;
 
 private:
+    bool usesTool() const;
+    bool useToolKey(QKeyEvent *event);
+    double pixel() const;
     void pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event);
     void deliver(QGraphicsSceneMouseEvent *event) const;
     void setHover(const Grip &grip);
@@ -96,7 +116,7 @@ private:
     void zoomChanged();
 
     Page *m_page;
-    CreationTool *m_tool = nullptr;
+    std::unique_ptr<ToolInput> m_tool;
     Grip m_hover;
     Grip m_drag;
     CBaseObject *m_highlight = nullptr;

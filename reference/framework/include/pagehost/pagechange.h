@@ -1,0 +1,50 @@
+#pragma once
+
+#include <framework/framework_global.h>
+
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+class CBaseObject;
+
+namespace pagehost {
+
+class Page;
+
+/// An object that came to a page or left it.
+struct PageChangeItem
+{
+    CBaseObject *object = nullptr;
+    int index = 0; ///< in stacking order, when it came or before it left
+    bool added = false;
+};
+
+/// Objects put on a page and taken off while the user is still at it, as one undo step in the end.
+class FRAMEWORK_EXPORT PageChange
+{
+public:
+    explicit PageChange(Page *page);
+    /// Reverts what has not been pushed.
+    ~PageChange();
+    PageChange(const PageChange &) = delete;
+    PageChange &operator=(const PageChange &) = delete;
+
+    bool isEmpty() const { return m_items.isEmpty(); }
+    /// The page takes ownership of the object. `index` is its place in stacking order, -1 the top.
+    void add(CBaseObject *object, int index = -1);
+    void remove(CBaseObject *object);
+    /// The objects that were added and are still there, in the order in which they came.
+    QVector<CBaseObject *> added() const;
+    /// Makes one undo step of everything so far; false without a change.
+    bool push(const QString &textKey);
+    void revert();
+
+private:
+    void releaseObjects();
+
+    QPointer<Page> m_page;
+    QVector<PageChangeItem> m_items;
+};
+
+} // namespace pagehost

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+#include <QtCore/QtGlobal>
+#include <QtGui/QColor>
+#include <QtGui/QCursor>
+
+class CBaseObject;
+
+namespace pagehost {
+
+/// The purpose of a tool. A plug-in implements some of them; applications offer those that some plug-in implements.
+enum class ToolRole { Pen, Highlighter, Eraser, Text, Line, Connector };
+
+/// The settings of a tool that the user chooses before using it.
+struct ToolStyle
+{
+    QColor color;
+    double width = 0; ///< of the line, of the eraser, or the height of letters, scene units
+    int variant = 0;  ///< 0 for the usual one; see the role's variants
+};
+
+/// @name Variants of tools
+/// @{
+enum EraserVariant { WholeStrokes, StrokeParts };
+enum LineVariant { PlainLine, ArrowLine, CurvedLine };
+enum ConnectorVariant { StraightConnector, AngledConnector };
+/// @}
+
+/// One position of the mouse, the pen or a finger.
+struct ToolPointer
+{
+    QPointF pos;          ///< scene coordinates
+    double pressure = -1; ///< 0 to 1; below 0 for a device that measures none
+    double pixel = 1;     ///< a pixel of the view, scene units
+    Qt::KeyboardModifiers modifiers;
+};
+
+/// The page as tools see it. Changes show at once; those since the last commit() are one undo step.
+class ToolPage
+{
+public:
+    /// How a change is followed up.
+    enum Afterwards {
+        Stay,   ///< the tool stays in use
+        Select, ///< the added objects become the selection, and the user goes on with selecting
+        Write   ///< like Select; the user writes the first label of the added object
+    };
+
+    virtual ~ToolPage() = default;
+
+    /// A new object of the kind, in the creating state and on no page; null for an unknown kind. add() or the
+    /// caller owns it.
+    virtual CBaseObject *createObject(const QString &kindId) = 0;
+    /// Puts an object on the page, which owns it from then on: directly above `below`, or on top.
+    virtual void add(CBaseObject *object, const CBaseObject *below = nullptr) = 0;
+    /// Takes an object off the page.
+    virtual void remove(CBaseObject *object) = 0;
+    /// Objects whose bounds meet the area (scene coordinates), bottom to top.
+    virtual QVector<CBaseObject *> objectsIn(const QRectF &area) const = 0;
+    /// Makes the changes an undo step. `textKey` is its localisation key. Without a change nothing happens.
+    virtual void commit(const QString &textKey, Afterwards afterwards) = 0;
+    /// Takes the changes back, without a trace.
+    virtual void revert() = 0;
+};
+
+/// Draws on a page with the pointer. The scene hands it each press of the main button with the moves that follow
+/// and the release; positions are in scene coordinates.
+class PageTool
+{
+public:
+    PageTool() = default;
+    virtual ~PageTool() = default;
+    PageTool(const PageTool &) = delete;
+    PageTool &operator=(const PageTool &) = delete;
+
+    /// Takes effect with the next press.
+    virtual void setStyle(const ToolStyle &style) { Q_UNUSED(style) }
+    /// Of the waiting tool. `pixel` is a pixel of the view, scene units.
+    virtual QCursor cursor(double pixel) const
+    {
+        Q_UNUSED(pixel)
+        return Qt::CrossCursor;
+    }
+
+    virtual void press(const ToolPointer &pointer) = 0;
+    virtual void move(const ToolPointer &pointer) = 0;
+    virtual void release(const ToolPointer &pointer) = 0;
+    /// Between press and release, or between the clicks of one drawing.
+    virtual bool isDrawing() const = 0;
+    /// Takes back the drawing that is going on, or ends waiting. False when there was nothing to cancel.
+    virtual bool cancel() = 0;
+
+    /// Milliseconds after which heldStill() is due while the pressed pointer rests; 0 for never.
+    virtual int stillTime() const { return 0; }
+    /// The pressed pointer has rested for stillTime().
+    virtual void heldStill() {}
+    /// True when the tool used the key (Qt::Key).
+    virtual bool keyPress(int key)
+    {
+        Q_UNUSED(key)
+        return false;
+    }
+};
+
+/// A plug-in that has tools. A second interface of an ObjectPlugin.
+class ToolPlugin
+{
+public:
+    virtual ~ToolPlugin() = default;
+    virtual QVector<ToolRole> toolRoles() const = 0;
+    /// A tool that works on `page`, which outlives it; the caller owns it. Null for a role that is not among
+    /// toolRoles().
+    virtual PageTool *createTool(ToolRole role, ToolPage *page) const = 0;
+};
+
+} // namespace pagehost

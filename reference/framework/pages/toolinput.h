@@ -1,0 +1,38 @@
+#pragma once
+
+#include <pagehost/pagetool.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+
+class QGraphicsSceneMouseEvent;
+
+namespace pagehost {
+
+/// Hands the pointer to the tool of a scene, and tells the tool when it is held still.
+class ToolInput : public QObject
+{
+public:
+    ToolInput();
+
+    PageTool *tool() const { return m_tool; }
+    /// Not owned; null for none. A press that is going on is forgotten.
+    void setTool(PageTool *tool);
+    void press(const ToolPointer &pointer);
+    void move(const ToolPointer &pointer);
+    void release(const ToolPointer &pointer);
+    bool cancel();
+
+private:
+    void waitForStillness(const ToolPointer &pointer);
+
+    PageTool *m_tool = nullptr;
+    bool m_isPressed = false;
+    QTimer m_still;
+    QPointF m_restingPlace; ///< scene coordinates
+};
+
+/// `pixel` is a pixel of the view, scene units.
+ToolPointer toolPointer(const QGraphicsSceneMouseEvent &event, double pixel);
+
+} // namespace pagehost
