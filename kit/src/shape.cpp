@@ -360,9 +360,14 @@ void Shape::pointMoved(int number, QPointF centre)
 
 void Shape::inheritPoints(const Shape &former)
 {
-    for (int i = 0; i < std::min(m_places.size(), former.m_places.size()); ++i)
-        m_places[i] = former.m_places.at(i);
     m_dragged = former.m_dragged;
+    takePlaces(former.m_places);
+}
+
+void Shape::takePlaces(const QVector<Place> &places)
+{
+    for (int i = 0; i < std::min(m_places.size(), places.size()); ++i)
+        m_places[i] = places.at(i);
     placeControlPoints();
     redraw(false);
 }

@@ -83,6 +83,10 @@ protected:
     void propertyChanged(const Property *property) override;
     /// Puts the points where those of a shape were put that this one takes the place of, as far as it had them.
     void inheritPoints(const Shape &former);
+    /// Where the points were put, by index.
+    const QVector<Place> &places() const { return m_places; }
+    /// Puts the points there, as many as the shape has; further ones stay.
+    void takePlaces(const QVector<Place> &places);
     QRectF drawnArea() override;
     /// @}
 

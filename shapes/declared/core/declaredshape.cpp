@@ -3,7 +3,10 @@
 #include <declared/core/savedtext.h>
 #include <declared/reader/filelimits.h>
 
+#include <svgobj/csvgbaseundocmd.h>
 #include <svgobj/csvgobj.h>
+
+#include <framework/idocument.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -13,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace declared {
 
@@ -25,12 +29,13 @@ constexpr double farAway = 1e6;
 constexpr int presentForm = 1;
 const QLatin1String savedKey(declaredKey);
 const QString labelsKey = QStringLiteral("labels");
+const QString pointsKey = QStringLiteral("points");
 // Of the library, in the JSON of every shape.
 const QString controlCountKey = QStringLiteral("SVG_ControlCount");
 const QString viewBoxKey = QStringLiteral("SVG_viewBox");
 const QString cornerKeys = QStringLiteral("SVG_Pos");
-const QStringList knownMembers{QStringLiteral("form"), QStringLiteral("id"), QStringLiteral("text"),
-                               QStringLiteral("inline"), QStringLiteral("values")};
+const QStringList knownMembers{QStringLiteral("form"),   QStringLiteral("id"),     QStringLiteral("text"),
+                               QStringLiteral("inline"), QStringLiteral("values"), pointsKey};
 
 int typeOf(const Declaration &declaration)
 {
@@ -266,11 +271,44 @@ void DeclaredShape::pointMoved(int number, QPointF centre)
     Shape::pointMoved(point.mirrored, m_state.mirrored(point, centre));
 }
 
+bool DeclaredShape::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    const bool isPressed = Shape::mousePressEvent(event);
+    m_placesBeforeDrag = places();
+    return isPressed;
+}
+
+/// The library makes its own undo step for an active point only.
 bool DeclaredShape::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
-    const bool isDragged = Shape::mouseReleaseEvent(event);
-    m_mayHaveUndoSteps = m_mayHaveUndoSteps || isDragged;
-    return isDragged;
+    QZeSvgNode *dragged = std::exchange(activeControlPoint, nullptr);
+    Shape::mouseReleaseEvent(event);
+    if (!dragged)
+        return false;
+    if (belongDoc && belongDoc->editingBlocked() != 0) {
+        activeControlPoint = dragged;
+        return false;
+    }
+    finishDrag();
+    updateOutlineRegion();
+    return true;
+}
+
+void DeclaredShape::finishDrag()
+{
+    const QByteArray after = bytesOf(places());
+    auto *command = new CSVGBaseUndoCmd(this, placesAction, nullptr, true);
+    command->setDataBuffer(bytesOf(m_placesBeforeDrag), after);
+    m_mayHaveUndoSteps = true;
+    addUndoRedo(command);
+    RecordDataBuffer(after, placesAction);
+}
+
+void DeclaredShape::putPoints(const Places &places)
+{
+    takePlaces(places);
+    updateOutlineRegion();
+    invalidate();
 }
 
 bool DeclaredShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
@@ -283,7 +321,13 @@ bool DeclaredShape::DoPlaybackActionEx(int actionId, QDataStream &in)
 {
     if (m_replay && (m_isRetired || actionId == versionAction))
         return m_replay(actionId, in);
-    return Shape::DoPlaybackActionEx(actionId, in);
+    if (actionId != placesAction)
+        return Shape::DoPlaybackActionEx(actionId, in);
+    const Places places = placesFrom(in);
+    if (!document || places.isEmpty())
+        return false;
+    putPoints(places);
+    return true;
 }
 
 void DeclaredShape::retire()
@@ -305,8 +349,12 @@ void DeclaredShape::takeOver(DeclaredShape &former)
         if (isSizedAlike || !member.key().startsWith(cornerKeys))
             state[member.key()] = *member;
     state[controlCountKey] = count;
-    if (!isSizedAlike)
+    if (!isSizedAlike) {
+        QJsonObject saved = state.value(savedKey).toObject();
+        saved.remove(pointsKey);
+        state[savedKey] = saved;
         state[viewBoxKey] = box;
+    }
     loadJson(state);
     if (isSizedAlike)
         inheritPoints(former);
@@ -374,6 +422,8 @@ QJsonObject DeclaredShape::values() const
     saved[QStringLiteral("id")] = m_declaration.id;
     saved[QStringLiteral("text")] = m_declaration.hash;
     saved[QStringLiteral("values")] = values;
+    if (!places().isEmpty())
+        saved[pointsKey] = toJson(places());
     if (m_isTextInlined)
         saved[QStringLiteral("inline")] = inlined(m_declaration.text);
     const QJsonObject labels = m_labels.toJson();
@@ -406,6 +456,7 @@ void DeclaredShape::takeValues(const QJsonObject &saved)
         m_values.at(size_t(i))->fromJson(value);
     }
     m_labels.fromJson(saved.value(labelsKey).toObject());
+    takePlaces(placesFrom(saved.value(pointsKey).toArray()));
     propertyChanged(nullptr);
 }
 

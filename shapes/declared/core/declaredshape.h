@@ -2,6 +2,7 @@
 
 #include <declared/core/figure.h>
 #include <declared/core/labels.h>
+#include <declared/core/savedplaces.h>
 #include <declared/core/shapekind.h>
 
 #include <shapekit/shape.h>
@@ -17,9 +18,9 @@ namespace declared {
 /// A shape that a file declares: its points, properties and figure are what the file's expressions say.
 ///
 /// Behind the data of every shape it saves one JSON object under "SVG_Declared": "form" 1, the "id" of the shape,
-/// the hash of the file's text, and the values of the properties by name, choices by the name of their entry; for
-/// hosts that keep no texts also the text itself. Other members stay. A shape that succeeds a coded one saves what
-/// that one saved.
+/// the hash of the file's text, the places where the points were put, and the values of the properties by name,
+/// choices by the name of their entry; for hosts that keep no texts also the text itself. Other members stay. A
+/// shape that succeeds a coded one saves what that one saved.
 class DeclaredShape : public shapekit::Shape
 {
 public:
@@ -29,6 +30,9 @@ public:
     /// Action of undo steps and lessons in which the page object becomes one of another text. Its data are the JSON
     /// of the core, whose "SVG_Declared" names the text. Lies below the ids of properties.
     static constexpr int versionAction = 1048574;
+    /// Action of undo steps and lessons at the end of a drag: where all points were put. The library's own action
+    /// names where one point stands, which other points and the size may keep from where it was put.
+    static constexpr int placesAction = 1048575;
 
     /// `kind` outlives the shape.
     DeclaredShape(CSVGObj *owner, const ShapeKind &kind);
@@ -51,6 +55,7 @@ public:
     void noteUndoStep() { m_mayHaveUndoSteps = true; }
 
     QString getSVG() override;
+    bool mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     bool mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
@@ -103,6 +108,8 @@ private:
     /// Hands the present size, look, points and properties to the expressions.
     void updateState();
     void updateProperty(int index);
+    void finishDrag();
+    void putPoints(const Places &places);
     QJsonObject values() const;
     void takeValues(const QJsonObject &values);
 
@@ -113,6 +120,7 @@ private:
     bool m_mayHaveUndoSteps = false;
     bool m_isRetired = false;
     Replay m_replay;
+    Places m_placesBeforeDrag;
     ShapeState m_state;
     Figure m_figure;
     std::vector<std::unique_ptr<shapekit::Property>> m_values; ///< by index of the declared property
