@@ -29,9 +29,12 @@ void PropertiedShape::saveValues(QDataStream &out)
 {
     if (m_properties.isEmpty())
         return;
-    out << qint32(m_properties.size());
+    const QByteArray further = furtherValue();
+    out << qint32(m_properties.size() + (further.isEmpty() ? 0 : 1));
     for (const Property *property : qAsConst(m_properties))
         out << property->bytes();
+    if (!further.isEmpty())
+        out << further;
 }
 
 bool PropertiedShape::load(QDataStream &in)
@@ -47,12 +50,16 @@ void PropertiedShape::loadValues(QDataStream &in)
         return;
     qint32 count = 0;
     in >> count;
+    QByteArray further;
     for (int i = 0; i < qMin(count, mostProperties) && in.status() == QDataStream::Ok; ++i) {
         QByteArray bytes;
         in >> bytes;
         if (i < m_properties.size())
             m_properties.at(i)->setBytes(bytes);
+        else if (i == m_properties.size())
+            further = bytes;
     }
+    takeFurtherValue(further);
     propertyChanged(nullptr);
 }
 

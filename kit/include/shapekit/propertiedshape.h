@@ -42,6 +42,10 @@ protected:
     virtual void saveValues(QJsonObject &object);
     virtual void loadValues(const QJsonObject &object);
     /// @}
+    /// A value behind those of the properties, such as one that a later version has added; empty for none, as in
+    /// data without one.
+    virtual QByteArray furtherValue() const { return {}; }
+    virtual void takeFurtherValue(const QByteArray &) {}
     /// Item units per drawn unit; 1 for a shape without a `DrawingScale`.
     double drawingScale() const;
 

@@ -311,9 +311,43 @@ void DeclaredShape::putPoints(const Places &places)
     invalidate();
 }
 
+bool DeclaredShape::getInnerProperty(int propId, QDataStream &out)
+{
+    if (!m_labels.hasRound(propId))
+        return Shape::getInnerProperty(propId, out);
+    out << m_labels.textOfRound(propId);
+    return true;
+}
+
+int DeclaredShape::actionIdToPropId(int actionId)
+{
+    return m_labels.hasRound(actionId) ? actionId : Shape::actionIdToPropId(actionId);
+}
+
+bool DeclaredShape::writeRound(int id, QDataStream &in, bool record, bool addUndo)
+{
+    const QString before = m_labels.textOfRound(id);
+    QString text;
+    in >> text;
+    if (in.status() != QDataStream::Ok)
+        return false;
+    if (addUndo) {
+        auto *command = new CSVGBaseUndoCmd(this, id, nullptr, true);
+        command->setString(before, text);
+        addUndoRedo(command);
+    }
+    if (record)
+        RecordString(text, id);
+    m_labels.setTextOfRound(id, text);
+    propertyChanged(nullptr);
+    return true;
+}
+
 bool DeclaredShape::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
 {
     m_mayHaveUndoSteps = m_mayHaveUndoSteps || addUndo;
+    if (m_labels.hasRound(propId))
+        return writeRound(propId, in, record, addUndo);
     return Shape::setInnerProperty(propId, in, record, addUndo);
 }
 
@@ -400,7 +434,11 @@ QVector<shapekit::Connection> DeclaredShape::connections()
 void DeclaredShape::draw()
 {
     updateState();
-    m_figure.write(*document, m_state);
+    m_labels.beginRounds();
+    m_figure.write(*document, m_state, [this](int repeat, QZeSvgNode &copy, const QVector<double> &values) {
+        m_labels.drawRound(repeat, copy, values, m_state);
+    });
+    m_labels.endRounds();
     m_labels.draw(*document, m_state);
     for (const Message &note : m_state.takeNotes())
         m_kind.tell(note);
@@ -482,18 +520,36 @@ void DeclaredShape::loadValues(QDataStream &in)
 
 void DeclaredShape::saveValues(QJsonObject &object)
 {
-    if (m_declaration.isSuccessor())
-        Shape::saveValues(object);
-    else
+    if (!m_declaration.isSuccessor()) {
         object[savedKey] = values();
+        return;
+    }
+    Shape::saveValues(object);
+    const QJsonObject labels = m_labels.toJson();
+    if (!labels.isEmpty())
+        object[savedKey] = QJsonObject{{labelsKey, labels}};
 }
 
 void DeclaredShape::loadValues(const QJsonObject &object)
 {
-    if (m_declaration.isSuccessor())
-        Shape::loadValues(object);
-    else
-        takeValues(object.value(savedKey).toObject());
+    const QJsonObject saved = object.value(savedKey).toObject();
+    if (!m_declaration.isSuccessor()) {
+        takeValues(saved);
+        return;
+    }
+    m_labels.fromJson(saved.value(labelsKey).toObject());
+    Shape::loadValues(object);
+}
+
+QByteArray DeclaredShape::furtherValue() const
+{
+    const QJsonObject labels = m_labels.toJson();
+    return labels.isEmpty() ? QByteArray() : QJsonDocument(labels).toJson(QJsonDocument::Compact);
+}
+
+void DeclaredShape::takeFurtherValue(const QByteArray &bytes)
+{
+    m_labels.fromJson(QJsonDocument::fromJson(bytes).object());
 }
 
 } // namespace declared

@@ -57,7 +57,9 @@ public:
     QString getSVG() override;
     bool mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     bool mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    bool getInnerProperty(int propId, QDataStream &out) override;
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
+    int actionIdToPropId(int actionId) override;
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
@@ -92,6 +94,8 @@ protected:
     void loadValues(QDataStream &in) override;
     void saveValues(QJsonObject &object) override;
     void loadValues(const QJsonObject &object) override;
+    QByteArray furtherValue() const override;
+    void takeFurtherValue(const QByteArray &bytes) override;
 
 private:
     /// Takes values that are recorded under the id of an earlier version of the file.
@@ -109,6 +113,7 @@ private:
     void updateState();
     void updateProperty(int index);
     void finishDrag();
+    bool writeRound(int id, QDataStream &in, bool record, bool addUndo);
     void putPoints(const Places &places);
     QJsonObject values() const;
     void takeValues(const QJsonObject &values);

@@ -36,13 +36,6 @@ QList<QZeSvgNode *> childrenOf(const QZeSvgNode &node)
     return isGroup ? static_cast<const QZeSvgStructureNode &>(node).children() : QList<QZeSvgNode *>();
 }
 
-QZeSvgNode *partOf(QZeSvgNode *node, const QVector<int> &path)
-{
-    for (const int index : path)
-        node = node ? childrenOf(*node).value(index) : nullptr;
-    return node;
-}
-
 QString shortened(const QString &text)
 {
     constexpr int longest = 40;
@@ -74,6 +67,13 @@ void copyPaintsOf(const QZeSvgNode &from, QZeSvgNode &to)
 
 } // namespace
 
+QZeSvgNode *partOf(QZeSvgNode *node, const QVector<int> &path)
+{
+    for (const int index : path)
+        node = node ? childrenOf(*node).value(index) : nullptr;
+    return node;
+}
+
 Figure::Figure(const Declaration &declaration)
     : m_declaration(declaration)
 {
@@ -94,7 +94,7 @@ void Figure::find(QZeSvgTinyDocument &document)
     }
 }
 
-void Figure::write(QZeSvgTinyDocument &document, ShapeState &state)
+void Figure::write(QZeSvgTinyDocument &document, ShapeState &state, const RoundListener &listener)
 {
     find(document);
     for (const ElementDeclaration &element : m_declaration.elements) {
@@ -103,10 +103,10 @@ void Figure::write(QZeSvgTinyDocument &document, ShapeState &state)
             writeElement(element, *node, state);
     }
     for (int i = 0; i < m_repeated.size(); ++i)
-        writeRepeated(i, state);
+        writeRepeated(i, state, listener);
 }
 
-void Figure::writeRepeated(int index, ShapeState &state)
+void Figure::writeRepeated(int index, ShapeState &state, const RoundListener &listener)
 {
     Repeated &repeated = m_repeated[index];
     if (!repeated.group)
@@ -131,7 +131,10 @@ void Figure::writeRepeated(int index, ShapeState &state)
                 state.note("C41", outer.from.place, QStringLiteral("a drawing has at most 1000 repeated elements"));
                 return;
             }
-            writeRound(index, round++, state);
+            writeRound(index, round, state);
+            if (listener)
+                listener(index, *repeated.copies.at(round), isNested ? QVector<double>{i, k} : QVector<double>{i});
+            ++round;
         }
     }
     for (int spare = round; spare < repeated.copies.size(); ++spare)

@@ -147,6 +147,9 @@ bool LabelLook::operator==(const LabelLook &other) const
 
 LabelLayout layOut(const LabelLook &look)
 {
+    // Most cells of a table are empty.
+    if (look.text.isEmpty())
+        return {{}, {}, look.size};
     const double smallest = look.smallest > 0 ? std::min(look.smallest, look.size) : look.size;
     // A size that fits has smaller ones that fit: the largest is found by halving.
     int fits = 0;

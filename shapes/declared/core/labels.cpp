@@ -1,5 +1,9 @@
 #include <declared/core/labels.h>
 
+#include <declared/core/figure.h>
+#include <declared/core/roundids.h>
+#include <declared/reader/filelimits.h>
+
 #include <shapekit/pathtext.h>
 #include <shapekit/propertiedshape.h>
 
@@ -20,6 +24,8 @@ constexpr double largestFont = 400;
 /// Coordinates of letters are whole multiples of 1 / this.
 constexpr double letterPrecision = 100;
 const QString nothing = QStringLiteral("M0 0");
+/// On the node of a label: the id of its text, until an export replaces the letters.
+const QString writingAttribute = QStringLiteral("label-text");
 
 QString pathText(const QPainterPath &outline, QPointF corner)
 {
@@ -67,7 +73,7 @@ void writeStart(QXmlStreamWriter &writer, const QXmlStreamReader &reader, const 
             writer.writeNamespace(declared.namespaceUri().toString(), declared.prefix().toString());
     const QXmlStreamAttributes attributes = reader.attributes();
     for (const QXmlStreamAttribute &attribute : attributes)
-        if (!isText || attribute.name() != QLatin1String("d"))
+        if ((!isText || attribute.name() != QLatin1String("d")) && attribute.name() != writingAttribute)
             writer.writeAttribute(attribute);
 }
 
@@ -92,96 +98,188 @@ Qt::Alignment alignmentOf(const LabelLook &look)
 } // namespace
 
 Labels::Labels(shapekit::PropertiedShape *shape, const QVector<LabelDeclaration> &declarations,
-               const std::vector<LabelTitles> &allTitles)
+               const std::vector<LabelTitles> &titles)
 {
     for (int i = 0; i < declarations.size(); ++i) {
-        const LabelDeclaration &declared = declarations.at(i);
-        const LabelTitles &titles = allTitles.at(size_t(i));
         Label label;
-        label.declared = &declared;
-        label.text = std::make_unique<shapekit::TextValue>(shape, *titles.text, declared.text);
-        label.size = std::make_unique<shapekit::RealNumber>(shape, *titles.size, declared.size, smallestFont,
-                                                            largestFont, 1);
-        label.bold = std::make_unique<shapekit::Switch>(shape, *titles.bold, declared.isBold);
-        label.colour = std::make_unique<shapekit::ColorValue>(shape, *titles.colour, declared.colour.rgb());
-        label.alignment = std::make_unique<shapekit::Choice>(
-            shape, *titles.alignment, int(declared.alignment),
-            QVector<const shapekit::Text *>{titles.start.get(), titles.middle.get(), titles.end.get()});
-        int part = 0;
-        for (shapekit::Property *property : std::initializer_list<shapekit::Property *>{
-                 label.text.get(), label.size.get(), label.bold.get(), label.colour.get(), label.alignment.get()}) {
-            property->setIds(declared.ids[size_t(part)], declared.ids[size_t(part)]);
-            ++part;
-        }
+        label.declared = &declarations.at(i);
+        if (label.declared->repeat < 0)
+            addProperties(shape, label, titles.at(size_t(i)));
         m_labels.push_back(std::move(label));
     }
 }
 
-LabelLook Labels::lookOf(const Label &label)
+void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles)
+{
+    const LabelDeclaration &declared = *label.declared;
+    label.text = std::make_unique<shapekit::TextValue>(shape, *titles.text, declared.text);
+    label.size =
+        std::make_unique<shapekit::RealNumber>(shape, *titles.size, declared.size, smallestFont, largestFont, 1);
+    label.bold = std::make_unique<shapekit::Switch>(shape, *titles.bold, declared.isBold);
+    label.colour = std::make_unique<shapekit::ColorValue>(shape, *titles.colour, declared.colour.rgb());
+    label.alignment = std::make_unique<shapekit::Choice>(
+        shape, *titles.alignment, int(declared.alignment),
+        QVector<const shapekit::Text *>{titles.start.get(), titles.middle.get(), titles.end.get()});
+    int part = 0;
+    for (shapekit::Property *property : std::initializer_list<shapekit::Property *>{
+             label.text.get(), label.size.get(), label.bold.get(), label.colour.get(), label.alignment.get()}) {
+        property->setIds(declared.ids[size_t(part)], declared.ids[size_t(part)]);
+        ++part;
+    }
+    label.writings.resize(1);
+    label.writings.front().id = label.text->id();
+}
+
+LabelLook Labels::lookOf(const Label &label, const Writing &writing)
 {
     LabelLook look;
-    look.text = *label.text;
-    look.box = label.box.size();
-    look.size = *label.size;
+    look.text = writing.text;
+    look.box = writing.box.size();
+    look.size = label.size ? double(*label.size) : label.declared->size;
     look.smallest = label.declared->smallest;
-    look.isBold = *label.bold;
+    look.isBold = label.bold ? bool(*label.bold) : label.declared->isBold;
     look.hasManyLines = label.declared->hasManyLines;
-    look.alignment = LabelAlignment(int(*label.alignment));
+    look.alignment = label.alignment ? LabelAlignment(int(*label.alignment)) : label.declared->alignment;
     look.vertical = label.declared->vertical;
     return look;
+}
+
+QColor Labels::colourOf(const Label &label)
+{
+    return label.colour ? QColor(*label.colour) : label.declared->colour;
 }
 
 void Labels::draw(QZeSvgTinyDocument &document, ShapeState &state)
 {
     for (Label &label : m_labels) {
-        QZeSvgNode *node = document.namedNode(label.declared->id);
+        QZeSvgNode *node = label.text ? document.namedNode(label.declared->id) : nullptr;
         if (!node)
             continue;
-        double sides[4] = {};
-        bool isFinite = true;
-        for (int i = 0; i < 4; ++i) {
-            const Value side = state.valueOf(label.declared->box.at(i));
-            isFinite = isFinite && side.isFinite();
-            sides[i] = side.number();
-        }
-        label.box =
-            isFinite ? QRectF(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3])) : QRectF();
-        const LabelLook look = lookOf(label);
-        if (isFinite && look != label.look) {
-            label.layout = layOut(look);
-            label.look = look;
-        }
-        setAttribute(*node, QStringLiteral("d"),
-                     isFinite ? pathText(label.layout.outline, label.box.topLeft()) : nothing);
-        setAttribute(*node, QStringLiteral("fill"), QColor(*label.colour).name());
+        label.writings.front().text = *label.text;
+        drawWriting(label, label.writings.front(), *node, state);
     }
+}
+
+void Labels::beginRounds()
+{
+    for (Label &label : m_labels)
+        label.shownRounds = 0;
+}
+
+void Labels::endRounds()
+{
+    for (Label &label : m_labels)
+        if (!label.text)
+            label.writings.resize(label.shownRounds);
+}
+
+void Labels::drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &values, ShapeState &state)
+{
+    for (Label &label : m_labels) {
+        QZeSvgNode *node = label.declared->repeat == repeat ? partOf(&copy, label.declared->path) : nullptr;
+        if (!node)
+            continue;
+        if (label.shownRounds == label.writings.size())
+            label.writings.emplace_back();
+        Writing &writing = label.writings.at(label.shownRounds++);
+        writing.id = idOfRound(*label.declared, values);
+        writing.givenText = label.declared->text;
+        if (label.declared->content.isValid())
+            writing.givenText = state.valueOf(label.declared->content).text.left(limits::textCharacters);
+        writing.text = label.ownTexts.value(writing.id, writing.givenText);
+        drawWriting(label, writing, *node, state);
+    }
+}
+
+void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state)
+{
+    double sides[4] = {};
+    bool isFinite = true;
+    for (int i = 0; i < 4; ++i) {
+        const Value side = state.valueOf(label.declared->box.at(i));
+        isFinite = isFinite && side.isFinite();
+        sides[i] = side.number();
+    }
+    writing.box =
+        isFinite ? QRectF(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3])) : QRectF();
+    const LabelLook look = lookOf(label, writing);
+    if (isFinite && look != writing.look) {
+        writing.layout = layOut(look);
+        writing.look = look;
+    }
+    if (!node.isVisible())
+        writing.box = QRectF();
+    // Empty cells of a table share their node with all tables.
+    if (writing.text.isEmpty() && node.attribute(QStringLiteral("d")).isEmpty())
+        return;
+    setAttribute(node, QStringLiteral("d"),
+                 isFinite ? pathText(writing.layout.outline, writing.box.topLeft()) : nothing);
+    setAttribute(node, QStringLiteral("fill"), colourOf(label).name());
+    setAttribute(node, writingAttribute, QString::number(writing.id));
 }
 
 QVector<shapekit::LabelPlace> Labels::places() const
 {
     QVector<shapekit::LabelPlace> places;
     for (const Label &label : m_labels) {
-        if (label.box.isNull())
-            continue;
-        shapekit::LabelPlace place;
-        place.propertyId = label.text->id();
-        place.text = *label.text;
-        place.box = label.box;
-        place.fontSize = label.layout.size;
-        place.isBold = *label.bold;
-        place.color = *label.colour;
-        place.alignment = alignmentOf(label.look);
-        place.hasManyLines = label.declared->hasManyLines;
-        places.append(place);
+        for (const Writing &writing : label.writings) {
+            if (writing.box.isNull() || writing.id == 0)
+                continue;
+            shapekit::LabelPlace place;
+            place.propertyId = writing.id;
+            place.text = writing.text;
+            place.box = writing.box;
+            place.fontSize = writing.layout.size;
+            place.isBold = writing.look.isBold;
+            place.color = colourOf(label);
+            place.alignment = alignmentOf(writing.look);
+            place.hasManyLines = label.declared->hasManyLines;
+            places.append(place);
+        }
     }
     return places;
 }
 
-const Labels::Label *Labels::labelWithId(const QString &id) const
+Labels::Found Labels::writingWithId(int id) const
+{
+    for (const Label &label : m_labels)
+        for (const Writing &writing : label.writings)
+            if (writing.id == id)
+                return {&label, &writing};
+    return {};
+}
+
+Labels::Label *Labels::labelOfRound(int id)
 {
     const auto found = std::find_if(m_labels.begin(), m_labels.end(),
-                                    [&](const Label &label) { return label.declared->id == id; });
+                                    [&](const Label &label) { return isRoundOf(*label.declared, id); });
     return found == m_labels.end() ? nullptr : &*found;
+}
+
+bool Labels::hasRound(int id) const
+{
+    return labelOfRound(id) != nullptr;
+}
+
+QString Labels::textOfRound(int id) const
+{
+    const Label *label = labelOfRound(id);
+    if (label && label->ownTexts.contains(id))
+        return label->ownTexts.value(id);
+    const Found shown = writingWithId(id);
+    return shown.writing ? shown.writing->givenText : label ? label->declared->text : QString();
+}
+
+/// The given text isn't kept, so that it goes on following what it is made of.
+void Labels::setTextOfRound(int id, const QString &text)
+{
+    Label *label = labelOfRound(id);
+    if (!label)
+        return;
+    const QString own = text.left(limits::textCharacters);
+    label->ownTexts.remove(id);
+    if (own != textOfRound(id))
+        label->ownTexts.insert(id, own);
 }
 
 QByteArray Labels::withTexts(const QByteArray &svg) const
@@ -198,26 +296,28 @@ QByteArray Labels::withTexts(const QByteArray &svg) const
                 writer.writeCurrentToken(reader);
             continue;
         }
-        const Label *label = labelWithId(reader.attributes().value(QLatin1String("id")).toString());
-        writeStart(writer, reader, label ? QStringLiteral("text") : reader.name().toString());
-        if (!label)
+        const int id = reader.attributes().value(writingAttribute).toInt();
+        const Found found = id == 0 ? Found() : writingWithId(id);
+        writeStart(writer, reader, found.writing ? QStringLiteral("text") : reader.name().toString());
+        if (!found.writing)
             continue;
-        writeText(writer, *label);
+        writeText(writer, found);
         writer.writeEndElement();
         reader.skipCurrentElement();
     }
     return reader.hasError() ? svg : changed;
 }
 
-void Labels::writeText(QXmlStreamWriter &writer, const Label &label)
+void Labels::writeText(QXmlStreamWriter &writer, const Found &found)
 {
+    const Writing &writing = *found.writing;
     writer.writeAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
-    writer.writeAttribute(QStringLiteral("font-size"), numberText(label.layout.size));
-    if (*label.bold)
+    writer.writeAttribute(QStringLiteral("font-size"), numberText(writing.layout.size));
+    if (writing.look.isBold)
         writer.writeAttribute(QStringLiteral("font-weight"), QStringLiteral("bold"));
-    writer.writeAttribute(QStringLiteral("text-anchor"), anchorName(label.look.alignment));
-    for (const LabelLine &line : label.layout.lines) {
-        const QPointF anchor = label.box.topLeft() + line.anchor;
+    writer.writeAttribute(QStringLiteral("text-anchor"), anchorName(writing.look.alignment));
+    for (const LabelLine &line : writing.layout.lines) {
+        const QPointF anchor = writing.box.topLeft() + line.anchor;
         writer.writeStartElement(QStringLiteral("tspan"));
         writer.writeAttribute(QStringLiteral("x"), numberText(anchor.x()));
         writer.writeAttribute(QStringLiteral("y"), numberText(anchor.y()));
@@ -231,30 +331,53 @@ void Labels::writeText(QXmlStreamWriter &writer, const Label &label)
 QJsonObject Labels::toJson() const
 {
     QJsonObject labels;
-    for (const Label &label : m_labels)
+    for (const Label &label : m_labels) {
+        for (auto own = label.ownTexts.begin(); own != label.ownTexts.end(); ++own)
+            labels[nameOfRound(*label.declared, own.key())] = QJsonObject{{QStringLiteral("text"), *own}};
+        if (!label.text)
+            continue;
         labels[label.declared->id] =
             QJsonObject{{QStringLiteral("text"), label.text->toJson()},
                         {QStringLiteral("size"), label.size->toJson()},
                         {QStringLiteral("bold"), label.bold->toJson()},
                         {QStringLiteral("colour"), label.colour->toJson()},
                         {QStringLiteral("align"), anchorName(LabelAlignment(int(*label.alignment)))}};
+    }
     return labels;
 }
 
 /// Values that are missing keep those of a new shape.
 void Labels::fromJson(const QJsonObject &labels)
 {
-    static const QStringList alignments{QStringLiteral("start"), QStringLiteral("middle"), QStringLiteral("end")};
     for (Label &label : m_labels) {
-        const QJsonObject saved = labels.value(label.declared->id).toObject();
-        label.text->fromJson(saved.value(QLatin1String("text")));
-        label.size->fromJson(saved.value(QLatin1String("size")));
-        label.bold->fromJson(saved.value(QLatin1String("bold")));
-        label.colour->fromJson(saved.value(QLatin1String("colour")));
-        const int alignment = alignments.indexOf(saved.value(QLatin1String("align")).toString());
-        if (alignment >= 0)
-            label.alignment->fromJson(alignment);
+        label.ownTexts.clear();
+        if (!label.text)
+            readRounds(label, labels);
+        else
+            readLabel(label, labels.value(label.declared->id).toObject());
     }
+}
+
+void Labels::readRounds(Label &label, const QJsonObject &labels)
+{
+    for (auto saved = labels.begin(); saved != labels.end(); ++saved) {
+        const int id = roundNamed(*label.declared, saved.key());
+        const QJsonValue text = saved->toObject().value(QLatin1String("text"));
+        if (id != 0 && text.isString())
+            label.ownTexts.insert(id, text.toString().left(limits::textCharacters));
+    }
+}
+
+void Labels::readLabel(Label &label, const QJsonObject &saved)
+{
+    static const QStringList alignments{QStringLiteral("start"), QStringLiteral("middle"), QStringLiteral("end")};
+    label.text->fromJson(saved.value(QLatin1String("text")));
+    label.size->fromJson(saved.value(QLatin1String("size")));
+    label.bold->fromJson(saved.value(QLatin1String("bold")));
+    label.colour->fromJson(saved.value(QLatin1String("colour")));
+    const int alignment = alignments.indexOf(saved.value(QLatin1String("align")).toString());
+    if (alignment >= 0)
+        label.alignment->fromJson(alignment);
 }
 
 } // namespace declared

@@ -8,6 +8,7 @@
 #include <shapekit/styledshape.h>
 
 #include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 
 #include <memory>
 #include <vector>
@@ -18,7 +19,7 @@ class QZeSvgTinyDocument;
 namespace declared {
 
 /// The labels of one shape: texts in boxes that the user writes, each with its size, weight, colour and alignment
-/// as properties.
+/// as properties. A repeated label has a text for each round, and the look that its file gives it.
 ///
 /// The document shows their letters as outlines, so that they look alike everywhere; exported pictures have them as
 /// SVG text.
@@ -29,16 +30,38 @@ public:
     Labels(shapekit::PropertiedShape *shape, const QVector<LabelDeclaration> &declarations,
            const std::vector<LabelTitles> &titles);
 
+    /// Draws those that aren't repeated.
     void draw(QZeSvgTinyDocument &document, ShapeState &state);
+    /// Draws those in a copy of a repeated element, whose loops have these values in the state. Rounds of a drawing
+    /// come between beginRounds() and endRounds().
+    void drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &values, ShapeState &state);
+    void beginRounds();
+    void endRounds();
+    /// @name Texts of rounds, by id; kept while their round is not shown
+    /// @{
+    bool hasRound(int id) const;
+    QString textOfRound(int id) const;
+    void setTextOfRound(int id, const QString &text);
+    /// @}
     /// Where the labels stand, document units; those without a box are left out.
     QVector<shapekit::LabelPlace> places() const;
     /// An exported picture with text instead of outlines.
     QByteArray withTexts(const QByteArray &svg) const;
-    /// By id; empty without labels.
+    /// By id, of repeated labels those that the user has written; empty without any.
     QJsonObject toJson() const;
     void fromJson(const QJsonObject &labels);
 
 private:
+    /// A text in its box.
+    struct Writing
+    {
+        int id = 0; ///< of its property; 0 for a round that can't be written
+        QString text;
+        QString givenText; ///< of a round: until the user writes another one
+        QRectF box;        ///< null while it has none
+        LabelLook look;
+        LabelLayout layout; ///< for that look
+    };
     struct Label
     {
         const LabelDeclaration *declared = nullptr;
@@ -47,14 +70,26 @@ private:
         std::unique_ptr<shapekit::Switch> bold;
         std::unique_ptr<shapekit::ColorValue> colour;
         std::unique_ptr<shapekit::Choice> alignment;
-        QRectF box; ///< null while it has none
-        LabelLook look;
-        LabelLayout layout; ///< for that look
+        std::vector<Writing> writings; ///< one, or one for each round
+        size_t shownRounds = 0;
+        QMap<int, QString> ownTexts; ///< of rounds, by id
+    };
+    struct Found
+    {
+        const Label *label = nullptr;
+        const Writing *writing = nullptr;
     };
 
-    static LabelLook lookOf(const Label &label);
-    static void writeText(QXmlStreamWriter &writer, const Label &label);
-    const Label *labelWithId(const QString &id) const;
+    static void readLabel(Label &label, const QJsonObject &saved);
+    static void readRounds(Label &label, const QJsonObject &labels);
+    void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
+    static LabelLook lookOf(const Label &label, const Writing &writing);
+    static QColor colourOf(const Label &label);
+    static void drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state);
+    static void writeText(QXmlStreamWriter &writer, const Found &found);
+    Found writingWithId(int id) const;
+    Label *labelOfRound(int id);
+    const Label *labelOfRound(int id) const { return const_cast<Labels *>(this)->labelOfRound(id); }
 
     std::vector<Label> m_labels;
 };

@@ -164,6 +164,14 @@ struct LabelDeclaration
     QColor colour;
     LabelAlignment alignment = LabelAlignment::Middle;
     LabelAlignment vertical = LabelAlignment::Middle;
+    /// @name Of a label that is repeated, whose text alone is the user's
+    /// @{
+    int repeat = -1;    ///< index of the repetition; negative for a single label
+    QVector<int> path;  ///< the way from the repeated element, by index of child
+    int loops = 1;      ///< of the repetition
+    int firstRound = 0; ///< ids of its texts begin here
+    Expression content; ///< the text of a new shape, where it isn't the same in all rounds
+    /// @}
 };
 
 /// A place where lines to other objects may end.

@@ -120,6 +120,7 @@ void FileReader::readElements()
     for (int i = 0; i < m_elements.size(); ++i)
         if (isSvg(m_elements.at(i)) && !m_done.contains(i))
             readElement(i, -1, {});
+    checkLabelIds();
 }
 
 void FileReader::readElement(int index, int repeat, const QVector<int> &path)
@@ -141,7 +142,7 @@ void FileReader::readElement(int index, int repeat, const QVector<int> &path)
             readAttribute(element, attribute, declared, written);
     }
     if (isLabel(element)) {
-        readLabel(index, repeat >= 0);
+        readLabel(index, repeat, path);
         written = m_written.value(index);
     }
     if (!isDeclared)

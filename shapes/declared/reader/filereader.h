@@ -142,7 +142,9 @@ private:
     void readKeeps(const Attribute &attribute, TemplateElement &written);
     void readLetters(const Element &element, ElementDeclaration &declared, TemplateElement &written);
     bool isLabel(const Element &element) const;
-    void readLabel(int index, bool isRepeated);
+    void readLabel(int index, int repeat, const QVector<int> &path);
+    void readRepeatedLabel(const Element &element, LabelDeclaration &label);
+    void checkLabelIds();
     void readLabelBox(const Element &element, LabelDeclaration &label);
     void readLabelLook(const Element &element, LabelDeclaration &label);
     void readRepeat(int index);

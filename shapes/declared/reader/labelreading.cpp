@@ -15,6 +15,12 @@ const QStringList lineCounts{QStringLiteral("many"), QStringLiteral("one")};
 const QStringList labelAttributes{QStringLiteral("box"),    QStringLiteral("align"), QStringLiteral("valign"),
                                   QStringLiteral("size"),   QStringLiteral("lines"), QStringLiteral("title"),
                                   QStringLiteral("visible")};
+/// Of a repeated label.
+const QString contentAttribute = QStringLiteral("text");
+/// Ids of the texts of repeated labels lie above those of all properties; the label takes the bits above its loops.
+constexpr int firstOfRounds = 1 << 30;
+constexpr int loopBits = 20;
+constexpr int labelBits = 10;
 constexpr double smallestSize = 2;
 constexpr double largestSize = 400;
 
@@ -26,13 +32,13 @@ bool FileReader::isLabel(const Element &element) const
            element.value("id").startsWith(QLatin1String("label_"));
 }
 
-void FileReader::readLabel(int index, bool isRepeated)
+void FileReader::readLabel(int index, int repeat, const QVector<int> &path)
 {
     const Element &element = m_elements.at(index);
-    if (m_shape.isSuccessor() || isRepeated) {
-        error(isRepeated ? "C38" : "C51", element,
-              isRepeated ? QStringLiteral("a label isn't repeated")
-                         : QStringLiteral("a shape with a layout has no labels"));
+    const bool isRepeated = repeat >= 0;
+    // Binary data of such a shape have a place for further values behind its properties only.
+    if (m_shape.isSuccessor() && (!isRepeated || m_shape.properties.isEmpty())) {
+        error("C51", element, QStringLiteral("a shape with a layout has repeated labels only, and properties"));
         return;
     }
     if (m_shape.labels.size() == limits::labels) {
@@ -41,7 +47,8 @@ void FileReader::readLabel(int index, bool isRepeated)
     }
     for (const Attribute &attribute : element.attributes)
         if (attribute.namespaceUri == shapeNamespace &&
-            !labelAttributes.contains(attribute.name.section(QLatin1Char('.'), 0, 0)))
+            !labelAttributes.contains(attribute.name.section(QLatin1Char('.'), 0, 0)) &&
+            !(isRepeated && attribute.name == contentAttribute))
             error("C38", attribute,
                   QStringLiteral("a label has no \"%1\"%2")
                       .arg(attribute.name, suggestion(attribute.name, labelAttributes)));
@@ -59,6 +66,10 @@ void FileReader::readLabel(int index, bool isRepeated)
     label.title = textsOf(element, "title", shapeNamespace);
     readLabelBox(element, label);
     readLabelLook(element, label);
+    label.repeat = repeat;
+    label.path = path;
+    if (isRepeated)
+        readRepeatedLabel(element, label);
     m_shape.labels.append(label);
     TemplateElement written = m_written.value(index);
     written.isLetters = true;
@@ -66,6 +77,31 @@ void FileReader::readLabel(int index, bool isRepeated)
     written.dropped = QStringList{QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("font-size"),
                                   QStringLiteral("font-weight"), QStringLiteral("text-anchor")};
     m_written.insert(index, written);
+}
+
+void FileReader::readRepeatedLabel(const Element &element, LabelDeclaration &label)
+{
+    label.loops = m_shape.repeats.at(label.repeat).loops.size();
+    label.firstRound = firstOfRounds + ((label.ids.front() & ((1 << labelBits) - 1)) << loopBits);
+    if (const Attribute *content = shapeAttribute(element, "text"))
+        take(m_compiler.text(content->value), label.content, *content);
+}
+
+/// Texts of a repeated label have ids and names of their own, which those of another label must not be.
+void FileReader::checkLabelIds()
+{
+    for (const LabelDeclaration &label : qAsConst(m_shape.labels)) {
+        for (const LabelDeclaration &other : qAsConst(m_shape.labels)) {
+            const bool isOther = &other != &label && label.repeat >= 0;
+            const Element &element = m_elements.at(m_ids.value(other.id));
+            if (isOther && other.id.startsWith(label.id + QLatin1Char('_')))
+                error("C11", element, QStringLiteral("\"%1\" may be a round of \"%2\"").arg(other.id, label.id));
+            if (isOther && other.repeat >= 0 && other.firstRound == label.firstRound && other.id < label.id)
+                error("C14", element,
+                      QStringLiteral("texts of \"%1\" and \"%2\" would get the same ids: rename one")
+                          .arg(other.id, label.id));
+        }
+    }
 }
 
 /// Four numbers with semicolons between them.

@@ -2,6 +2,7 @@
 
 #include "shapefile.h"
 
+#include <shapes/recordedactions.h>
 #include <shapes/shapedriver.h>
 
 #include <declared/core/labellayout.h>
@@ -84,6 +85,15 @@ private Q_SLOTS:
     void hostIsToldWhereALabelStands();
     void typedTextIsNoStepOfItsOwn();
     void titlesNameTheLabel();
+    void everyCellHasATextOfItsOwn();
+    void cellsAreSavedAndOpened();
+    void cellWrittenOnThePageIsUndone();
+    void cellsStayWhileTheirRowIsNotShown();
+    void givenTextOfARoundFollowsItsExpression();
+    void roundsFarFromZeroArentWritten();
+    void exportedCellsAreText();
+    void hiddenLabelIsNotWritten();
+    void lessonTypesLetterByLetter();
 
 private:
     const ShapeKind m_kind{declaredtest::readOf(declaredtest::fileOf(cloud))};
@@ -336,6 +346,191 @@ void TestLabels::titlesNameTheLabel()
     QCOMPARE(english.value(QStringLiteral("IDS_DECLARED_nut_label_1_bold")), QStringLiteral("Caption: bold"));
     QCOMPARE(m_kind.texts(QStringLiteral("de")).value(QStringLiteral("IDS_DECLARED_nut_label_1_colour")),
              QStringLiteral("Caption: Farbe"));
+}
+
+namespace {
+
+/// Rows of 40 and columns of 60.
+const QByteArray grid =
+    "<shape:property name='rows' type='whole' value='2' from='1' to='600'/>"
+    "<path id='figure' fill='#fff' d='M0 0H120V80H0Z'/>"
+    "<g shape:repeat='r in 1..rows, c in 1..2'><text id='label_cell' font-size='10' fill='#334455' "
+    "shape:box='60 * c - 60; 40 * r - 40; 60; 40' shape:align='start'/><text/><text/><text/></g>";
+
+/// The first label of a place, in item coordinates of a shape of the default size.
+shapekit::LabelPlace placeAt(const shapekit::ShapeObject &object, QPointF point)
+{
+    const QVector<shapekit::LabelPlace> places = object.core()->labelPlaces();
+    for (const shapekit::LabelPlace &place : places)
+        if (place.box.contains(point))
+            return place;
+    return {};
+}
+
+void write(shapekit::ShapeObject &object, int id, const char *text)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << QString::fromUtf8(text);
+    QDataStream in(&bytes, QIODevice::ReadWrite);
+    object.SetAttribute(id, in, true);
+}
+
+QJsonObject labelsIn(shapekit::ShapeObject &object)
+{
+    QJsonObject json;
+    object.saveJson(json);
+    return json.value(QLatin1String("SVG_Declared")).toObject().value(QLatin1String("labels")).toObject();
+}
+
+} // namespace
+
+void TestLabels::everyCellHasATextOfItsOwn()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(grid)));
+    shapekit::ShapeObject object(kind.kind());
+    QCOMPARE(object.core()->labelPlaces().size(), 4);
+    const shapekit::LabelPlace cell = placeAt(object, {70, 50});
+    QCOMPARE(cell.box, QRectF(60, 40, 60, 40));
+    QCOMPARE(cell.text, QString());
+    write(object, cell.propertyId, "seven");
+    QCOMPARE(placeAt(object, {70, 50}).text, QStringLiteral("seven"));
+    QCOMPARE(placeAt(object, {10, 50}).text, QString());
+    QCOMPARE(object.core()->labelPlaces().size(), 4);
+    const QJsonObject labels = labelsIn(object);
+    QCOMPARE(labels.keys(), QStringList{QStringLiteral("label_cell_2_2")});
+}
+
+void TestLabels::cellsAreSavedAndOpened()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(grid)));
+    shapekit::ShapeObject object(kind.kind());
+    const QByteArray empty = bytesOf(object);
+    write(object, placeAt(object, {70, 10}).propertyId, "top");
+    const QByteArray bytes = bytesOf(object);
+    shapekit::ShapeObject opened(kind.kind());
+    QDataStream in(bytes);
+    QVERIFY(opened.load(in));
+    QCOMPARE(bytesOf(opened), bytes);
+    QCOMPARE(placeAt(opened, {70, 10}).text, QStringLiteral("top"));
+    QDataStream again(empty);
+    QVERIFY(opened.load(again));
+    QCOMPARE(placeAt(opened, {70, 10}).text, QString());
+}
+
+void TestLabels::cellWrittenOnThePageIsUndone()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("table"));
+    shape.createByClick();
+    shape.undoStack().clear();
+    auto &object = static_cast<shapekit::ShapeObject &>(shape.object());
+    const QByteArray before = bytesOf(object);
+    // The head is 29 high, the columns are 59 1/3 wide.
+    const shapekit::LabelPlace head = placeAt(object, {90, 15});
+    QVERIFY(head.propertyId != 0);
+    write(object, head.propertyId, "Sum");
+    const QByteArray written = bytesOf(object);
+    QVERIFY(written != before);
+    shapetest::ShapeDriver other(QStringLiteral("table"));
+    auto &opened = static_cast<shapekit::ShapeObject &>(other.object());
+    QDataStream in(written);
+    QVERIFY(opened.load(in));
+    QVERIFY(in.atEnd());
+    QCOMPARE(placeAt(opened, {90, 15}).text, QStringLiteral("Sum"));
+    QCOMPARE(CUndoRedo::GetInstance()->stack()->count(), 0);
+    write(object, head.propertyId, "Total");
+    CUndoRedo::GetInstance()->stack()->undo();
+    QCOMPARE(bytesOf(object), written);
+}
+
+void TestLabels::cellsStayWhileTheirRowIsNotShown()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(grid)));
+    shapekit::ShapeObject object(kind.kind());
+    write(object, placeAt(object, {10, 50}).propertyId, "below");
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_rows": "1"})"), false, false);
+    QCOMPARE(object.core()->labelPlaces().size(), 2);
+    QVERIFY(!object.core()->toSvg().contains("below"));
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_rows": "2"})"), false, false);
+    QCOMPARE(placeAt(object, {10, 50}).text, QStringLiteral("below"));
+}
+
+void TestLabels::givenTextOfARoundFollowsItsExpression()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<shape:property name='first' type='whole' value='3' from='0' to='9'/>"
+        "<path id='figure' fill='#fff' d='M0 0H120V80H0Z'/><g shape:repeat='i in 0..1'>"
+        "<text id='label_n' shape:box='60 * i; 0; 60; 80' shape:text='{first + i}'>3</text><text>4</text></g>")));
+    shapekit::ShapeObject object(kind.kind());
+    QCOMPARE(placeAt(object, {70, 40}).text, QStringLiteral("4"));
+    write(object, placeAt(object, {70, 40}).propertyId, "four");
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_first": "7"})"), false, false);
+    QCOMPARE(placeAt(object, {10, 40}).text, QStringLiteral("7"));
+    QCOMPARE(placeAt(object, {70, 40}).text, QStringLiteral("four"));
+    write(object, placeAt(object, {70, 40}).propertyId, "8");
+    QVERIFY(labelsIn(object).isEmpty());
+}
+
+void TestLabels::roundsFarFromZeroArentWritten()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<path id='figure' fill='#fff' d='M0 0H120V80H0Z'/><g shape:repeat='r in 511..512, c in -512..-512'>"
+        "<text id='label_n' shape:box='0; 0; 60; 80'>a</text><text/></g>")));
+    shapekit::ShapeObject object(kind.kind());
+    QCOMPARE(object.core()->labelPlaces().size(), 1);
+    write(object, object.core()->labelPlaces().first().propertyId, "b");
+    QCOMPARE(labelsIn(object).keys(), QStringList{QStringLiteral("label_n_511_-512")});
+    QCOMPARE(object.core()->toSvg().count("<text "), 1);
+}
+
+void TestLabels::exportedCellsAreText()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(grid)));
+    shapekit::ShapeObject object(kind.kind());
+    write(object, placeAt(object, {10, 10}).propertyId, "first");
+    write(object, placeAt(object, {70, 50}).propertyId, "last");
+    const QByteArray exported = object.core()->toSvg();
+    QVERIFY(exported.contains("<tspan x=\"0\""));
+    QVERIFY(exported.contains(">first</tspan>"));
+    QVERIFY(exported.contains("<tspan x=\"60\""));
+    QVERIFY(exported.contains(">last</tspan>"));
+    QVERIFY(!exported.contains("label-text"));
+}
+
+void TestLabels::hiddenLabelIsNotWritten()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<shape:property name='on' type='switch' value='no'/><path id='figure' fill='#fff' d='M0 0H120V80H0Z'/>"
+        "<text id='label_1' shape:box='0; 0; w; h' shape:visible='on'>Hello</text>")));
+    shapekit::ShapeObject object(kind.kind());
+    QVERIFY(object.core()->labelPlaces().isEmpty());
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_on": "true"})"), false, false);
+    QCOMPARE(object.core()->labelPlaces().size(), 1);
+}
+
+void TestLabels::lessonTypesLetterByLetter()
+{
+    for (const QByteArray &file : {cloud, grid}) {
+        const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(file)));
+        shapekit::ShapeObject teachers(kind.kind());
+        shapekit::ShapeObject pupils(kind.kind());
+        const int id = placeAt(teachers, {20, 30}).propertyId;
+        shapetest::RecordedActions lesson;
+        const QStringList typed{QStringLiteral("N"), QStringLiteral("Nu"), QStringLiteral("Nut")};
+        for (const QString &text : typed) {
+            QByteArray bytes;
+            QDataStream(&bytes, QIODevice::WriteOnly) << qint32(id) << text;
+            QDataStream in(bytes);
+            QVERIFY(teachers.SetSpecialProperty(pagehost::LabelText, in, true));
+        }
+        QCOMPARE(lesson.actions.size(), 3);
+        for (int i = 0; i < typed.size(); ++i) {
+            QDataStream in(lesson.actions.at(i).second);
+            QVERIFY(pupils.core()->DoPlaybackActionEx(lesson.actions.at(i).first, in));
+            QCOMPARE(placeAt(pupils, {20, 30}).text, typed.at(i));
+        }
+        QCOMPARE(bytesOf(pupils), bytesOf(teachers));
+    }
 }
 
 QTEST_MAIN(TestLabels)

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void faultsInsideStandWhereTheyAre();
     void faultsOfAboutStandWhereTheyAre_data();
     void faultsOfAboutStandWhereTheyAre();
+    void successorsHaveRepeatedLabelsOnly();
     void successorsHaveNoFormerNames();
     void placesCountReferencesAsOneCharacter();
     void placesCountLines();
@@ -117,7 +118,10 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre_data()
     row("<text id='label_1' shape:box='1; 2; 3; 4' shape:align='left'>a</text>", "3:56 C43");
     row("<text id='label_1' shape:box='1; 2; 3; 4' shape:text='a'>a</text>", "3:55 C38");
     row("<text id='title' shape:box='1; 2; 3; 4'>a</text>", "3:29 C38");
-    row("<g shape:repeat='i in 0..1'><text id='label_1' shape:box='1; 2; 3; 4'>a</text></g>", "3:29 C38");
+    row("<text id='label_a_1' shape:box='1; 2; 3; 4'/><g shape:repeat='i in 0..1'>"
+        "<text id='label_a' shape:box='1; 2; 3; 4'/></g>",
+        "3:1 C11");
+    row("<g shape:repeat='i in 0..1'><text id='label_1' shape:box='1; 2; 3; i' shape:text='{j}'/></g>", "3:84 C20");
     row("<shape:property name='a' type='whole' value='1'/>", "3:1 C15");
     row("<shape:property name='a' type='whole' from='1' to='5'/>", "3:1 C15");
     row("<shape:property name='a' type='whole' from='1' to='5' value='6'/>", "3:62 C15");
@@ -215,6 +219,17 @@ void TestReadingFaults::faultsOfAboutStandWhereTheyAre()
 {
     QFETCH(QString, fault);
     QCOMPARE(firstError(declaredtest::fileAbout(QTest::currentDataTag(), "")), fault);
+}
+
+void TestReadingFaults::successorsHaveRepeatedLabelsOnly()
+{
+    const char *about = "name='Nut' layout='kit' type='30'";
+    const QByteArray property = "<shape:property name='a' type='whole' value='1' from='0' to='5' title='A'/>";
+    const QByteArray label = "<text id='label_1' shape:box='1; 2; 3; 4'/>";
+    const QByteArray repeated = "<g shape:repeat='i in 0..1'>" + label + "</g>";
+    QCOMPARE(firstError(declaredtest::fileAbout(about, property + label)), QStringLiteral("3:76 C51"));
+    QCOMPARE(firstError(declaredtest::fileAbout(about, repeated)), QStringLiteral("3:29 C51"));
+    QCOMPARE(firstError(declaredtest::fileAbout(about, property + repeated)), QString());
 }
 
 void TestReadingFaults::successorsHaveNoFormerNames()
