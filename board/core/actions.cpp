@@ -1,6 +1,8 @@
 #include "core/actions.h"
 
+#include "core/arranging.h"
 #include "core/commands.h"
+#include "core/pagecopy.h"
 #include "core/shortcuts.h"
 #include "core/windowmemory.h"
 #include "core/workspace.h"
@@ -18,15 +20,26 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
+
 namespace board {
 
 namespace {
 
 constexpr double quarterTurn = 90;
+/// Part of the view that the selection fills when it is zoomed to.
+constexpr double filledPart = 0.9;
 
 QUndoStack *undoStack()
 {
     return CUndoRedo::GetInstance()->stack();
+}
+
+/// All of them; false without any.
+bool areLocked(const QVector<CBaseObject *> &objects)
+{
+    return !objects.isEmpty() && std::all_of(objects.begin(), objects.end(),
+                                             [](const CBaseObject *object) { return object->isLocked(); });
 }
 
 } // namespace
@@ -39,6 +52,7 @@ Actions::Actions(Workspace *workspace, Commands *commands, PageView *view, QObje
 {
     makeEditActions();
     makeArrangeActions();
+    makeAlignActions();
     makeViewActions();
     makePageActions();
     makeProgramActions();
@@ -53,6 +67,7 @@ void Actions::makeEditActions()
     redo = m_commands->perform(Command::Redo, this, [this] { step(&QUndoStack::redo); });
     selectAll = m_commands->perform(Command::SelectAll, this, [this] { pagehost::selectAll(m_view->page()); });
     deselect = m_commands->perform(Command::SelectNothing, this, [this] { m_view->page()->select({}); });
+    m_view->addAction(m_commands->perform(Command::EditText, this, [this] { m_view->writeFirstLabel(); }));
     duplicate = m_commands->perform(Command::Duplicate, this, [this] { duplicateSelection(); });
     remove = m_commands->perform(Command::Delete, this, [this] {
         if (!isDragging())
@@ -73,12 +88,43 @@ void Actions::makeArrangeActions()
     rotateRight = m_commands->perform(Command::TurnRight, this, [this] { rotateSelection(quarterTurn); });
 }
 
+void Actions::makeAlignActions()
+{
+    struct AlignCommand
+    {
+        Command command;
+        Edge edge;
+    };
+    for (const AlignCommand &row : {AlignCommand{Command::AlignLeft, Edge::Left},
+                                    {Command::AlignCenter, Edge::Center},
+                                    {Command::AlignRight, Edge::Right},
+                                    {Command::AlignTop, Edge::Top},
+                                    {Command::AlignMiddle, Edge::Middle},
+                                    {Command::AlignBottom, Edge::Bottom}})
+        arrange(row.command, [edge = row.edge](const auto &objects) { align(objects, edge); });
+    arrange(Command::DistributeAcross, [](const auto &objects) { distribute(objects, Qt::Horizontal); });
+    arrange(Command::DistributeDown, [](const auto &objects) { distribute(objects, Qt::Vertical); });
+    arrange(Command::SameSize, [](const auto &objects) { makeSameSize(objects); });
+    arrange(Command::Lock, [](const auto &objects) { pagehost::setObjectsLocked(objects, !areLocked(objects)); });
+}
+
+/// Arranging in the middle of a drag would move what is under the mouse.
+void Actions::arrange(Command command, const std::function<void(const QVector<CBaseObject *> &)> &work)
+{
+    m_commands->perform(command, this, [this, work] {
+        if (!isDragging())
+            work(m_view->page()->selectedObjects());
+        update();
+    });
+}
+
 void Actions::makeViewActions()
 {
     zoomIn = m_commands->perform(Command::ZoomIn, this, [this] { m_view->zoomIn(); });
     zoomOut = m_commands->perform(Command::ZoomOut, this, [this] { m_view->zoomOut(); });
     actualSize = m_commands->perform(Command::ActualSize, this, [this] { m_view->setZoom(1); });
     fitPage = m_commands->perform(Command::FitPage, this, [this] { m_view->fitPage(); });
+    m_commands->perform(Command::ZoomToSelection, this, [this] { zoomToSelection(); });
     playAnimation = m_commands->perform(Command::Animations);
     darkColors = m_commands->perform(Command::DarkColors, this, [this] {
         applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light);
@@ -96,8 +142,15 @@ void Actions::makePageActions()
     removePage = m_commands->perform(Command::RemovePage, this, [this] {
         pagehost::removePage(m_workspace->document(), m_workspace->document()->currentIndex());
     });
-    previousPage = m_commands->perform(Command::PreviousPage, this, [this] { turnPage(-1); });
-    nextPage = m_commands->perform(Command::NextPage, this, [this] { turnPage(1); });
+    m_commands->perform(Command::DuplicatePage, this,
+                        [this] { duplicatePage(m_workspace->document(), m_workspace->registry()); });
+    m_commands->perform(Command::MovePageBack, this, [this] { movePage(-1); });
+    m_commands->perform(Command::MovePageOn, this, [this] { movePage(1); });
+    const auto index = [this] { return m_workspace->document()->currentIndex(); };
+    previousPage = m_commands->perform(Command::PreviousPage, this, [=] { showPage(index() - 1); });
+    nextPage = m_commands->perform(Command::NextPage, this, [=] { showPage(index() + 1); });
+    m_commands->perform(Command::FirstPage, this, [=] { showPage(0); });
+    m_commands->perform(Command::LastPage, this, [=] { showPage(m_workspace->document()->pageCount() - 1); });
 }
 
 void Actions::makeProgramActions()
@@ -130,16 +183,41 @@ void Actions::enableHistory()
 void Actions::update()
 {
     enableHistory();
+    enableArranging();
+    enablePages();
+}
+
+void Actions::enableArranging()
+{
     const pagehost::Page *page = m_view->page();
-    const int selected = page ? page->selectedObjects().size() : 0;
-    for (QAction *action : {deselect, duplicate, remove, mirrorHorizontally, mirrorVertically, rotateLeft,
-                            rotateRight, toFront, forward, backward, toBack})
-        action->setEnabled(selected > 0);
-    selectAll->setEnabled(page && page->objectCount() > selected);
+    const QVector<CBaseObject *> objects = page ? page->selectedObjects() : QVector<CBaseObject *>();
+    const auto needs = [&](int least, const QVector<Command> &commands) {
+        for (const Command command : commands)
+            m_commands->action(command)->setEnabled(objects.size() >= least);
+    };
+    needs(1, {Command::SelectNothing, Command::Duplicate, Command::Delete, Command::MirrorAcross, Command::MirrorUp,
+              Command::TurnLeft, Command::TurnRight, Command::BringToFront, Command::BringForward,
+              Command::SendBackward, Command::SendToBack, Command::Lock, Command::ZoomToSelection});
+    needs(2, {Command::AlignLeft, Command::AlignCenter, Command::AlignRight, Command::AlignTop,
+              Command::AlignMiddle, Command::AlignBottom, Command::SameSize});
+    needs(3, {Command::DistributeAcross, Command::DistributeDown});
+    m_commands->action(Command::EditText)->setEnabled(m_view->canWriteLabel());
+    selectAll->setEnabled(page && page->objectCount() > objects.size());
+    QAction *lock = m_commands->action(Command::Lock);
+    lock->setText(m_workspace->text(areLocked(objects) ? "IDS_BOARD_UNLOCK" : "IDS_BOARD_LOCK"));
+    describe(lock);
+}
+
+void Actions::enablePages()
+{
     const pagehost::Document *document = m_workspace->document();
+    const bool isFirst = document->currentIndex() <= 0;
+    const bool isLast = document->currentIndex() + 1 >= document->pageCount();
     removePage->setEnabled(document->pageCount() > 1);
-    previousPage->setEnabled(document->currentIndex() > 0);
-    nextPage->setEnabled(document->currentIndex() + 1 < document->pageCount());
+    for (const Command command : {Command::PreviousPage, Command::FirstPage, Command::MovePageBack})
+        m_commands->action(command)->setEnabled(!isFirst);
+    for (const Command command : {Command::NextPage, Command::LastPage, Command::MovePageOn})
+        m_commands->action(command)->setEnabled(!isLast);
 }
 
 bool Actions::isDragging() const
@@ -182,10 +260,26 @@ void Actions::rotateSelection(double degrees)
         pagehost::rotateObjects(m_view->page()->selectedObjects(), degrees);
 }
 
-void Actions::turnPage(int by)
+void Actions::zoomToSelection()
+{
+    const QRectF box = pagehost::boundsOf(m_view->page()->selectedObjects());
+    if (box.isEmpty())
+        return;
+    const QSizeF room = QSizeF(m_view->viewport()->size()) * filledPart;
+    m_view->setZoom(qMin(room.width() / box.width(), room.height() / box.height()));
+    m_view->centerOn(box.center());
+}
+
+void Actions::showPage(int index)
+{
+    m_workspace->document()->setCurrentIndex(index);
+}
+
+void Actions::movePage(int by)
 {
     pagehost::Document *document = m_workspace->document();
-    document->setCurrentIndex(document->currentIndex() + by);
+    pagehost::movePage(document, document->currentIndex(), document->currentIndex() + by);
+    enablePages();
 }
 
 } // namespace board

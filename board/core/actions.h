@@ -1,9 +1,14 @@
 #pragma once
 
+#include "core/commandlist.h"
+
 #include <pagehost/commands.h>
 
 #include <QtCore/QObject>
 
+#include <functional>
+
+class CBaseObject;
 class QAction;
 class QUndoStack;
 
@@ -39,18 +44,24 @@ Q_SIGNALS:
 private:
     void makeEditActions();
     void makeArrangeActions();
+    void makeAlignActions();
+    void arrange(Command command, const std::function<void(const QVector<CBaseObject *> &)> &work);
     void makeViewActions();
     void makePageActions();
     void makeProgramActions();
     void nameHistory();
     void enableHistory();
+    void enableArranging();
+    void enablePages();
     bool isDragging() const;
     void step(void (QUndoStack::*way)());
     void duplicateSelection();
     void restackSelection(pagehost::StackingMove move);
     void mirrorSelection(bool horizontally);
     void rotateSelection(double degrees);
-    void turnPage(int by);
+    void zoomToSelection();
+    void showPage(int index);
+    void movePage(int by);
 
     Workspace *m_workspace;
     Commands *m_commands;

@@ -130,6 +130,7 @@ constexpr CommandFacts commands[] = {
      true},
     {Command::DarkColors, Group::View, "darkColors", "IDS_BOARD_DARK", "", {}, Keys::UnknownKey, true},
     {Command::Panel, Group::View, "panel", "IDS_BOARD_PANEL", "F4", {}, Keys::UnknownKey, true},
+    {Command::AllProperties, Group::View, "allProperties", "IDS_BOARD_ALL_PROPERTIES", ""},
     {Command::NextPart, Group::View, "nextPart", "IDS_BOARD_NEXT_PART", "F6"},
     {Command::PreviousPart, Group::View, "previousPart", "IDS_BOARD_PREVIOUS_PART", "Shift+F6"},
     {Command::Menus, Group::View, "menus", "IDS_BOARD_MENUS", "F10"},

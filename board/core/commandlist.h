@@ -94,6 +94,7 @@ enum class Command {
     Animations,
     DarkColors,
     Panel,
+    AllProperties,
     NextPart,
     PreviousPart,
     Menus,

@@ -20,6 +20,8 @@ QVector<TextEntry> commandTexts()
         {"IDS_BOARD_ALIGN_BOTTOM", QT_TRANSLATE_NOOP("board", "Align bottom edges")},
         {"IDS_BOARD_DISTRIBUTE_ACROSS", QT_TRANSLATE_NOOP("board", "Equal gaps across")},
         {"IDS_BOARD_DISTRIBUTE_DOWN", QT_TRANSLATE_NOOP("board", "Equal gaps down")},
+        {"IDS_BOARD_DISTRIBUTE", QT_TRANSLATE_NOOP("board", "Equal gaps")},
+        {"IDS_BOARD_ALL_PROPERTIES", QT_TRANSLATE_NOOP("board", "All properties")},
         {"IDS_BOARD_SAME_SIZE", QT_TRANSLATE_NOOP("board", "Same size")},
         {"IDS_BOARD_DUPLICATE_PAGE", QT_TRANSLATE_NOOP("board", "Duplicate page")},
         {"IDS_BOARD_MOVE_PAGE", QT_TRANSLATE_NOOP("board", "Move page")},

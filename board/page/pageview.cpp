@@ -281,15 +281,18 @@ CBaseObject *PageView::objectAt(const QPoint &pos) const
     return nullptr;
 }
 
+bool PageView::canWriteLabel() const
+{
+    const QVector<CBaseObject *> selected = isEditable() ? m_page->selectedObjects() : QVector<CBaseObject *>();
+    return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.first()).isEmpty();
+}
+
 bool PageView::writeFirstLabel()
 {
-    const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    if (!isEditable() || selected.size() != 1 || selected.first()->isLocked())
+    if (!canWriteLabel())
         return false;
-    const QVector<EditableLabel> labels = labelsOf(*selected.first());
-    if (labels.isEmpty())
-        return false;
-    write(selected.first(), labels.first());
+    CBaseObject *object = m_page->selectedObjects().first();
+    write(object, labelsOf(*object).first());
     return true;
 }
 
@@ -387,9 +390,6 @@ void PageView::keyPressEvent(QKeyEvent *event)
         cancel();
         return event->accept();
     }
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && writeFirstLabel())
-        return event->accept();
     if (event->key() == Qt::Key_Space) {
         m_spaceDown = true;
         viewport()->setCursor(Qt::OpenHandCursor);

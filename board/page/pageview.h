@@ -60,6 +60,8 @@ public:
     void settle();
     /// The effect of the Esc key: takes back what is going on, else gives the tool up, else deselects.
     void cancel();
+    /// Whether the only selected object has a label that can be written.
+    bool canWriteLabel() const;
     /// Begins to write the first label of the only selected object. False where there is none.
     bool writeFirstLabel();
 

@@ -967,5 +967,13 @@
         <source>Keys without Ctrl</source>
         <translation>Tasten ohne Strg</translation>
     </message>
+    <message>
+        <source>Equal gaps</source>
+        <translation>Gleichmäßig verteilen</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Alle Eigenschaften</translation>
+    </message>
 </context>
 </TS>

@@ -2,8 +2,10 @@
 
 #include <board/boarddriver.h>
 
+#include <core/commands.h>
 #include <page/labeleditor.h>
 #include <page/pageview.h>
+#include <window/mainwindow.h>
 
 #include <pagehost/page.h>
 
@@ -12,6 +14,7 @@
 #include <QtCore/QDir>
 #include <QtGui/QTextBlock>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
@@ -58,6 +61,7 @@ private Q_SLOTS:
     void doubleClickWritesTheTextInItsPlace();
     void writtenTextIsTakenBackInOneStep();
     void doubleClickBesideTheTextWritesNothing();
+    void menuOffersToEditTheTextOfAShapeThatHasOne();
     void enterWritesTheTextOfTheSelectedShape();
     void enterDoesNothingForOtherShapes();
     void escapeWithoutAChangeMakesNoStep();
@@ -110,6 +114,19 @@ void TestLabels::writtenTextIsTakenBackInOneStep()
     QCOMPARE(t.text(), QStringLiteral("Hello"));
     t.board.history().redo();
     QCOMPARE(t.text(), QStringLiteral("Nut"));
+}
+
+void TestLabels::menuOffersToEditTheTextOfAShapeThatHasOne()
+{
+    OneNote t;
+    QAction *edit = t.board.window().commands()->action(board::Command::EditText);
+    QVERIFY(edit->isEnabled());
+    t.board.draw(arrow, {800, 300}, {900, 400});
+    QVERIFY(!edit->isEnabled());
+    t.board.page().select({t.note});
+    QVERIFY(edit->isEnabled());
+    edit->trigger();
+    QVERIFY(t.editor());
 }
 
 void TestLabels::doubleClickBesideTheTextWritesNothing()
