@@ -119,6 +119,7 @@ ROOMS = {
         "objects": "look",
         "page": "look",
         "core": "look page",
+        "commands": "look page core",
         "clipboard": "look output objects page core",
         "documents": "look core",
         "lessons": "look output page core",
@@ -128,7 +129,8 @@ ROOMS = {
         "panels/forms": "look core panels panels/editors",
         "panels/settings": "core panels/editors panels/forms",
         "panels/properties": "core panels/editors panels/forms panels/settings",
-        "window": "look output page core clipboard documents lessons tools panels panels/settings panels/properties",
+        "window": "look output page core commands clipboard documents lessons tools panels panels/settings "
+        "panels/properties",
         "application": "look output objects page core documents lessons panels panels/settings panels/properties window",
         "": "application",
     },

@@ -16,11 +16,10 @@ DocumentMenu::DocumentMenu(const Workspace *workspace, Commands *commands, Docum
     , m_documents(documents)
     , m_recent(new QMenu(workspace->text("IDS_BOARD_RECENT"), window))
 {
-    QAction *create = commands->perform(Command::NewBoard, documents, [documents] { documents->createNew(); });
-    m_open = commands->perform(Command::OpenBoard, documents, [documents] { documents->askAndOpen(); });
-    m_save = commands->perform(Command::SaveBoard, documents, [documents] { documents->save(); });
-    QAction *saveAs = commands->perform(Command::SaveBoardAs, documents, [documents] { documents->saveAs(); });
-    m_actions = {create, m_open, m_recent->menuAction(), nullptr, m_save, saveAs};
+    commands->perform(Command::NewBoard, documents, [documents] { documents->createNew(); });
+    commands->perform(Command::OpenBoard, documents, [documents] { documents->askAndOpen(); });
+    commands->perform(Command::SaveBoard, documents, [documents] { documents->save(); });
+    commands->perform(Command::SaveBoardAs, documents, [documents] { documents->saveAs(); });
     connect(m_recent, &QMenu::aboutToShow, this, &DocumentMenu::fillRecent);
     connect(documents, &DocumentController::stateChanged, this, &DocumentMenu::updateRecent);
     m_recent->setToolTipsVisible(true);

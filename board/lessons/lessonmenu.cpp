@@ -32,11 +32,6 @@ LessonMenu::LessonMenu(const Workspace *workspace, Commands *commands, LessonCon
     update();
 }
 
-QList<QAction *> LessonMenu::actions() const
-{
-    return {record, pauseRecording, nullptr, play, close, nullptr, rename, cut, remove};
-}
-
 void LessonMenu::update()
 {
     const auto name = [this](QAction *action, const char *textKey, Icon picture) {

@@ -20,8 +20,6 @@ public:
     LessonMenu(const Workspace *workspace, Commands *commands, LessonController *lessons, QObject *parent);
 
     QAction *record, *pauseRecording, *play, *close, *rename, *cut, *remove;
-    /// In menu order; null for a separator.
-    QList<QAction *> actions() const;
 
 private:
     void update();

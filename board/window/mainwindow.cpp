@@ -2,6 +2,8 @@
 
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
+#include "commands/contextmenus.h"
+#include "commands/menuplan.h"
 #include "core/actions.h"
 #include "core/commands.h"
 #include "core/notices.h"
@@ -44,6 +46,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
@@ -119,6 +122,8 @@ MainWindow::MainWindow(Workspace *workspace)
     new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
     new FieldUndo(this);
     new ToolCommands(m_commands, m_tools, this);
+    auto *contextMenus = new ContextMenus(m_workspace, m_commands, m_view, this);
+    contextMenus->addThumbnails(m_pages->list());
     new ShapeNotices(m_workspace, m_notices, this);
     showPluginProblems();
     showTitle();
@@ -213,33 +218,25 @@ void MainWindow::addPanels()
         dock->setTitleBarWidget(new QWidget(dock));
     resizeDocks({palette, style}, {m_palette->sizeHint().width(), rightPanelWidth}, Qt::Horizontal);
     resizeDocks({style, history}, {3, 2}, Qt::Vertical);
-    QMenu *panels = menuBar()->addMenu(m_workspace->text("IDS_BOARD_PANELS"));
+    auto *panels = new QMenu(m_workspace->text("IDS_BOARD_PANELS"), this);
     for (QDockWidget *dock : {palette, style, settings, properties, history, pages})
         panels->addAction(dock->toggleViewAction());
-    QMenu *help = menuBar()->addMenu(m_workspace->text("IDS_BOARD_HELP"));
-    help->addAction(m_actions->about);
+    // Help comes last.
+    menuBar()->insertMenu(menuBar()->actions().last(), panels);
 }
 
 void MainWindow::addMenus()
 {
-    const auto add = [this](const char *titleKey, const QList<QAction *> &entries) {
-        QMenu *menu = menuBar()->addMenu(m_workspace->text(titleKey));
-        for (QAction *entry : entries)
-            entry ? menu->addAction(entry) : (void)menu->addSeparator();
-        return menu;
-    };
-    const Actions &a = *m_actions;
-    const ClipboardMenu &c = *m_clipboardMenu;
-    m_lock.spare(add("IDS_BOARD_FILE", m_documentMenu->actions() +
-                                           QList<QAction *>{nullptr, a.exportPages, a.exportSvg, nullptr, a.quit}));
-    add("IDS_BOARD_EDIT", {a.undo, a.redo, nullptr, c.cut, c.copy, c.paste, a.duplicate, a.remove, nullptr,
-                           c.copyLook, c.pasteLook, nullptr, a.selectAll, a.deselect});
-    add("IDS_BOARD_ARRANGE", {a.toFront, a.forward, a.backward, a.toBack, nullptr, a.mirrorHorizontally,
-                              a.mirrorVertically, a.rotateLeft, a.rotateRight});
-    add("IDS_BOARD_PAGE", {a.addPage, a.removePage, nullptr, a.previousPage, a.nextPage});
-    m_lock.spare(add("IDS_LESSON_MENU", m_lessonMenu->actions()));
-    m_lock.spare(add("IDS_BOARD_VIEW", {a.zoomIn, a.zoomOut, a.actualSize, a.fitPage, nullptr, a.playAnimation,
-                                        nullptr, a.darkColors}));
+    const QStringList spared{QStringLiteral("IDS_BOARD_FILE"), QStringLiteral("IDS_LESSON_MENU"),
+                             QStringLiteral("IDS_BOARD_VIEW"), QStringLiteral("IDS_BOARD_HELP")};
+    for (const MenuEntry &entry : mainMenuPlan()) {
+        QMenu *menu = menuBar()->addMenu(m_workspace->text(entry.titleKey));
+        fillMenu(menu, entry.entries, *m_commands, *m_workspace);
+        if (spared.contains(QLatin1String(entry.titleKey)))
+            m_lock.spare(menu);
+    }
+    menuBar()->actions().first()->menu()->insertMenu(m_commands->action(Command::SaveBoard),
+                                                     m_documentMenu->recentMenu());
 }
 
 QToolBar *MainWindow::addTools(const QString &name, const char *titleKey)
@@ -257,11 +254,12 @@ void MainWindow::addTools()
     QToolBar *bar = addTools(QStringLiteral("tools"), "IDS_BOARD_TOOLS");
     const Actions &a = *m_actions;
     const ClipboardMenu &c = *m_clipboardMenu;
-    const QList<QList<QAction *>> groups{{m_documentMenu->openAction(), m_documentMenu->saveAction()},
-                                         {a.undo, a.redo},
-                                         {c.cut, c.copy, c.paste, a.duplicate, a.remove},
-                                         {a.toFront, a.forward, a.backward, a.toBack},
-                                         {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
+    const QList<QList<QAction *>> groups{
+        {m_commands->action(Command::OpenBoard), m_commands->action(Command::SaveBoard)},
+        {a.undo, a.redo},
+        {c.cut, c.copy, c.paste, a.duplicate, a.remove},
+        {a.toFront, a.forward, a.backward, a.toBack},
+        {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
     for (const QList<QAction *> &group : groups) {
         if (group != groups.first())
             bar->addSeparator();
@@ -338,6 +336,7 @@ void MainWindow::connectParts()
     connect(m_actions->exportPages, &QAction::triggered, this, [this] { askAndExport(PageFormat::Png); });
     connect(m_actions->exportSvg, &QAction::triggered, this, [this] { askAndExport(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
+    m_commands->perform(Command::AllProperties, this, [this] { raisePanel(m_properties); });
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
 }
 
