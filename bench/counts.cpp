@@ -133,6 +133,39 @@ void countDragStep(const QString &kind)
     sendMouse(dragged.object.get(), QEvent::GraphicsSceneMouseRelease, dragged.grip);
 }
 
+/// A shape of a file; the peer is the same shape in C++.
+void countTwinDrag(const QString &kind, const QString &who, const pagehost::ObjectRegistry &registry)
+{
+    const Dragged dragged = beginDrag(kind, side, registry);
+    if (dragged.grip.isNull())
+        return;
+    double step = 1;
+    count("twin-drag", who, templateName(kind), [&] {
+        step = 3 - step;
+        dragged.moveBy(step);
+    });
+    sendMouse(dragged.object.get(), QEvent::GraphicsSceneMouseRelease, dragged.grip);
+}
+
+void countTwinResize(const QString &kind, const QString &who, const pagehost::ObjectRegistry &registry)
+{
+    const std::unique_ptr<CBaseObject> object = makeShape(kind, QSizeF(side, side), registry);
+    int step = 1;
+    count("twin-resize", who, templateName(kind), [&] {
+        step = 3 - step;
+        object->setSize(QSizeF(side + step, side), false, true);
+    });
+}
+
+void countTwins(const QString &kind, const QString &who, const pagehost::ObjectRegistry &registry, bool drags,
+                bool resizes)
+{
+    if (drags)
+        countTwinDrag(kind, who, registry);
+    if (resizes)
+        countTwinResize(kind, who, registry);
+}
+
 } // namespace
 
 /// The first argument, when given, is the one figure to count, the second one the name of the only template.
@@ -158,6 +191,13 @@ int main(int argc, char **argv)
             countAgain(source);
         if (isWanted("moved-node"))
             countMovedNode(source);
+    }
+    const QStringList twins = twinKinds();
+    for (const QString &kind : twins) {
+        if (!isCounted(templateName(kind)))
+            continue;
+        countTwins(kind, "peer", codedTwins(), isWanted("twin-drag"), isWanted("twin-resize"));
+        countTwins(kind, "gliololok", shapeRegistry(), isWanted("twin-drag"), isWanted("twin-resize"));
     }
     if (!isWanted("drag-step"))
         return 0;

@@ -1,7 +1,5 @@
 #include "dragging.h"
 
-#include "pageobjects.h"
-
 #include <pagehost/objectregistry.h>
 
 #include <QtCore/QEvent>
@@ -35,9 +33,9 @@ QByteArray Dragged::look() const
     return shapeRegistry().dataOf(object.get(), QStringLiteral("image/svg+xml"));
 }
 
-Dragged beginDrag(const QString &kindId, int side)
+Dragged beginDrag(const QString &kindId, int side, const pagehost::ObjectRegistry &registry)
 {
-    Dragged dragged{makeShape(kindId, QSizeF(side, side)), {}};
+    Dragged dragged{makeShape(kindId, QSizeF(side, side), registry), {}};
     dragged.object->setAllAttributes({{QStringLiteral("doc_state_edit"), true}}, false);
     dragged.grip = findControlPoint(dragged.object.get());
     sendMouse(dragged.object.get(), QEvent::GraphicsSceneMousePress, dragged.grip);

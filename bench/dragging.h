@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pageobjects.h"
+
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QByteArray>
@@ -21,4 +23,4 @@ struct Dragged
 
 /// Presses the first control point of a new object that is `side` units wide and high; a null grip where the kind
 /// has none.
-Dragged beginDrag(const QString &kindId, int side);
+Dragged beginDrag(const QString &kindId, int side, const pagehost::ObjectRegistry &registry = shapeRegistry());

@@ -8,6 +8,7 @@ void registerDrawBenchmarks();
 void registerSetBenchmarks();
 void registerDocumentBenchmarks();
 void registerDragBenchmarks();
+void registerTwinBenchmarks();
 void registerPageBenchmarks();
 void registerThreadBenchmarks();
 void registerPathTextBenchmarks();
@@ -22,6 +23,7 @@ int main(int argc, char **argv)
     registerSetBenchmarks();
     registerDocumentBenchmarks();
     registerDragBenchmarks();
+    registerTwinBenchmarks();
     registerPageBenchmarks();
     registerThreadBenchmarks();
     registerPathTextBenchmarks();

@@ -4,14 +4,38 @@
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 
+namespace {
+
+std::unique_ptr<pagehost::ObjectRegistry> registryOf(const QString &folder)
+{
+    auto made = std::make_unique<pagehost::ObjectRegistry>();
+    made->loadDirectory(folder);
+    return made;
+}
+
+} // namespace
+
 const pagehost::ObjectRegistry &shapeRegistry()
 {
-    static const std::unique_ptr<pagehost::ObjectRegistry> loaded = [] {
-        auto made = std::make_unique<pagehost::ObjectRegistry>();
-        made->loadDirectory(QStringLiteral(GLIOLOLOK_SHAPES));
-        return made;
-    }();
+    static const auto loaded = registryOf(QStringLiteral(GLIOLOLOK_SHAPES));
     return *loaded;
+}
+
+const pagehost::ObjectRegistry &codedTwins()
+{
+    static const auto loaded = registryOf(QStringLiteral(GLIOLOLOK_CODED_TWINS));
+    return *loaded;
+}
+
+QStringList twinKinds()
+{
+    QStringList ids;
+    const QStringList declared = shapeKinds();
+    const QVector<pagehost::ObjectKind> coded = codedTwins().kinds();
+    for (const pagehost::ObjectKind &kind : coded)
+        if (declared.contains(kind.id))
+            ids.append(kind.id);
+    return ids;
 }
 
 QStringList shapeKinds()
@@ -38,9 +62,9 @@ void sendMouse(CBaseObject *object, int eventType, QPointF pos)
         object->mouseReleaseEvent(&event);
 }
 
-std::unique_ptr<CBaseObject> makeShape(const QString &kindId, QSizeF size)
+std::unique_ptr<CBaseObject> makeShape(const QString &kindId, QSizeF size, const pagehost::ObjectRegistry &registry)
 {
-    std::unique_ptr<CBaseObject> object(shapeRegistry().createObject(kindId));
+    std::unique_ptr<CBaseObject> object(registry.createObject(kindId));
     const QPointF end(size.width(), size.height());
     sendMouse(object.get(), QEvent::GraphicsSceneMousePress, QPointF(0, 0));
     sendMouse(object.get(), QEvent::GraphicsSceneMouseMove, end);
