@@ -12,6 +12,8 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_NAME", QT_TRANSLATE_NOOP("board", "Lesson %1")},
         {"IDS_LESSON_ENTRY", QT_TRANSLATE_NOOP("board", "%1 (%2)")},
         {"IDS_LESSON_RECORD", QT_TRANSLATE_NOOP("board", "Record a lesson")},
+        {"IDS_LESSON_RECORD_SHORT", QT_TRANSLATE_NOOP("board", "Record")},
+        {"IDS_LESSON_STOP_SHORT", QT_TRANSLATE_NOOP("board", "Stop")},
         {"IDS_LESSON_STOP_RECORDING", QT_TRANSLATE_NOOP("board", "Stop recording")},
         {"IDS_LESSON_PAUSE_RECORDING", QT_TRANSLATE_NOOP("board", "Pause recording")},
         {"IDS_LESSON_RESUME_RECORDING", QT_TRANSLATE_NOOP("board", "Go on recording")},

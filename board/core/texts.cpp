@@ -31,6 +31,7 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_PANELS", QT_TRANSLATE_NOOP("board", "&Panels")},
     {"IDS_BOARD_HELP", QT_TRANSLATE_NOOP("board", "&Help")},
     {"IDS_BOARD_TOOLS", QT_TRANSLATE_NOOP("board", "Tools")},
+    {"IDS_BOARD_MORE", QT_TRANSLATE_NOOP("board", "More")},
 
     {"IDS_BOARD_UNDO", QT_TRANSLATE_NOOP("board", "Undo")},
     {"IDS_BOARD_UNDO_STEP", QT_TRANSLATE_NOOP("board", "Undo: %1")},
@@ -121,13 +122,7 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_HINT_TITLE", QT_TRANSLATE_NOOP("board", "Draw your first shape")},
     {"IDS_BOARD_HINT_ADVICE",
      QT_TRANSLATE_NOOP("board", "Pick one on the left, then drag on the page, or drag it here.")},
-    {"IDS_BOARD_HINT_IDLE",
-     QT_TRANSLATE_NOOP("board", "Click to select · drag over shapes to select several · Ctrl+wheel zooms")},
-    {"IDS_BOARD_HINT_DRAW",
-     QT_TRANSLATE_NOOP("board", "Drag to draw, click for the usual size · Shift: equal sides · Esc: cancel")},
-    {"IDS_BOARD_HINT_SELECTED",
-     QT_TRANSLATE_NOOP(
-         "board", "Drag to move · drag handles to reshape · arrow keys: 1, with Shift 10 · Ctrl+D duplicates")},
+    {"IDS_BOARD_HINT_DRAW", QT_TRANSLATE_NOOP("board", "%1: drag to draw. Esc ends.")},
 
     {"IDS_BOARD_PLUGIN_PROBLEMS", QT_TRANSLATE_NOOP("board", "Plug-ins that could not be loaded")},
     {"IDS_BOARD_MORE_PROBLEMS", QT_TRANSLATE_NOOP("board", "and %1 more")},
@@ -143,6 +138,7 @@ QVector<TextEntry> textEntries()
     all += clipboardTexts();
     all += commandTexts();
     all += formTexts();
+    all += windowTexts();
     all += lessonTexts();
     all += toolTexts();
     return all;

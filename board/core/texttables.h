@@ -17,6 +17,8 @@ QVector<TextEntry> commandTexts();
 QVector<TextEntry> documentTexts();
 /// Texts about recording and playing lessons.
 QVector<TextEntry> lessonTexts();
+/// Texts of the bars and the dock.
+QVector<TextEntry> windowTexts();
 /// Texts of the panels that list what can be set.
 QVector<TextEntry> formTexts();
 /// Texts of the tools that draw on the page, and of their settings.

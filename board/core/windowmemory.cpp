@@ -11,6 +11,7 @@ namespace {
 
 const QString placeKey = QStringLiteral("window/place");
 const QString panelsKey = QStringLiteral("window/panels");
+const QString dockKey = QStringLiteral("window/dock");
 const QString darkKey = QStringLiteral("window/dark");
 /// To be counted up when panels of an earlier version don't fit any more.
 constexpr int panelsVersion = 1;
@@ -40,6 +41,20 @@ void rememberWindow(const QMainWindow *window)
     QSettings settings;
     settings.setValue(placeKey, window->saveGeometry());
     settings.setValue(panelsKey, window->saveState(panelsVersion));
+}
+
+Qt::Edge rememberedDockEdge()
+{
+    const int edge = QSettings().value(dockKey).toInt();
+    for (const Qt::Edge known : {Qt::TopEdge, Qt::RightEdge, Qt::BottomEdge})
+        if (known == edge)
+            return known;
+    return Qt::LeftEdge;
+}
+
+void rememberDockEdge(Qt::Edge edge)
+{
+    QSettings().setValue(dockKey, static_cast<int>(edge));
 }
 
 bool remembersDarkColors()

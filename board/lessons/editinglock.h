@@ -2,30 +2,28 @@
 
 #include <QtCore/QList>
 
-class QMainWindow;
 class QMenu;
-class QToolBar;
+class QWidget;
 
 namespace board {
 
 class PageView;
 
-/// While a lesson is shown, nothing but looking makes sense: menus, with their keys, tool bars and panels are off.
+/// While a lesson is shown, nothing but looking makes sense: menus, with their keys, bars and panels are off.
 class EditingLock
 {
 public:
-    EditingLock(QMainWindow *window, PageView *view);
+    explicit EditingLock(PageView *view);
 
-    /// A menu or bar that stays usable.
-    void spare(QMenu *menu) { m_spared.append(menu); }
-    void spare(QToolBar *bar) { m_sparedBars.append(bar); }
+    /// A menu, bar or panel that is off meanwhile.
+    void add(QMenu *menu) { m_menus.append(menu); }
+    void add(QWidget *part) { m_parts.append(part); }
     void setLocked(bool locked);
 
 private:
-    QMainWindow *m_window;
     PageView *m_view;
-    QList<QMenu *> m_spared;
-    QList<QToolBar *> m_sparedBars;
+    QList<QMenu *> m_menus;
+    QList<QWidget *> m_parts;
 };
 
 } // namespace board

@@ -222,7 +222,7 @@ void LessonBar::paintEvent(QPaintEvent *)
 {
     const bool live = m_lessons->state() == LessonController::Recording;
     QPainter painter(this);
-    painter.fillRect(QRect(0, 0, width(), live ? 2 : 1), live ? recordingColor() : themeColors().border);
+    painter.fillRect(QRect(0, 0, width(), live ? 2 : 1), live ? themeColors().record : themeColors().border);
 }
 
 } // namespace board

@@ -46,6 +46,7 @@ void LessonMenu::update()
          recording ? Icon::Stop : Icon::Record);
     name(pauseRecording, paused ? "IDS_LESSON_RESUME_RECORDING" : "IDS_LESSON_PAUSE_RECORDING",
          paused ? Icon::Record : Icon::Pause);
+    record->setIconText(m_workspace->text(recording ? "IDS_LESSON_STOP_SHORT" : "IDS_LESSON_RECORD_SHORT"));
     name(play, playing ? "IDS_LESSON_PAUSE" : "IDS_LESSON_PLAY", playing ? Icon::Pause : Icon::Play);
     pauseRecording->setEnabled(recording);
     play->setEnabled(hasLesson && !recording);

@@ -114,7 +114,7 @@ void TimeLine::paintEvent(QPaintEvent *)
     painter.setBrush(themeColors().border);
     painter.drawRoundedRect(line, grooveHeight / 2, grooveHeight / 2);
     for (const qint64 moment : qAsConst(m_moments)) {
-        painter.setBrush(moment <= value() ? accent : themeColors().faintText);
+        painter.setBrush(moment <= value() ? accent : themeColors().faint);
         painter.drawRect(QRectF(xOf(moment) - 0.5, middle - markHeight / 2, 1, markHeight));
     }
     painter.setBrush(accent);

@@ -1,6 +1,7 @@
 #include "look/icons.h"
 
 #include "look/iconshapes.h"
+#include "look/theme.h"
 
 #include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
@@ -11,24 +12,25 @@ namespace board {
 
 namespace {
 
-constexpr double lineWidth = 1.7;
+constexpr double lineWidth = 1.75;
 constexpr int shadeAlpha = 70;
 
 class ShapeIconEngine : public QIconEngine
 {
 public:
-    explicit ShapeIconEngine(Icon which)
+    ShapeIconEngine(Icon which, QPalette::ColorRole role)
         : m_which(which)
+        , m_role(role)
     {
     }
 
-    QIconEngine *clone() const override { return new ShapeIconEngine(m_which); }
+    QIconEngine *clone() const override { return new ShapeIconEngine(m_which, m_role); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const bool isLive = m_which == Icon::Record && mode != QIcon::Disabled;
-        const QColor color = isLive ? recordingColor() : QApplication::palette().color(group, QPalette::ButtonText);
+        const QColor color = isLive ? themeColors().record : QApplication::palette().color(group, m_role);
         QColor shade = color;
         shade.setAlpha(shadeAlpha);
         const IconShape shape = iconShape(m_which);
@@ -56,13 +58,14 @@ public:
 
 private:
     Icon m_which;
+    QPalette::ColorRole m_role;
 };
 
 } // namespace
 
-QIcon icon(Icon which)
+QIcon icon(Icon which, QPalette::ColorRole role)
 {
-    return QIcon(new ShapeIconEngine(which));
+    return QIcon(new ShapeIconEngine(which, role));
 }
 
 } // namespace board

@@ -1,23 +1,12 @@
 #include "look/iconshapes.h"
 
+#include "look/toolshapes.h"
+
 #include <QtGui/QTransform>
 
 namespace board {
 
 namespace {
-
-void addPolyline(QPainterPath &path, std::initializer_list<QPointF> points)
-{
-    path.moveTo(*points.begin());
-    for (auto point = points.begin() + 1; point != points.end(); ++point)
-        path.lineTo(*point);
-}
-
-void addPolygon(QPainterPath &path, std::initializer_list<QPointF> points)
-{
-    addPolyline(path, points);
-    path.closeSubpath();
-}
 
 /// The same icon as seen in a mirror.
 IconShape mirrored(const IconShape &shape)
@@ -368,8 +357,9 @@ IconShape iconShape(Icon which)
         return pauseShape();
     case Icon::Animation:
         return animationShape();
+    default:
+        return toolShape(which);
     }
-    return {};
 }
 
 } // namespace board

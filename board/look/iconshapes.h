@@ -1,21 +1,9 @@
 #pragma once
 
-#include "look/icons.h"
-
-#include <QtGui/QPainterPath>
+#include "look/iconnames.h"
+#include "look/iconpaths.h"
 
 namespace board {
-
-/// A pictogram on a square of 24 × 24 units.
-struct IconShape
-{
-    QPainterPath lines;  ///< stroked
-    QPainterPath areas;  ///< filled with the text colour
-    QPainterPath shades; ///< filled with a pale text colour
-};
-
-/// Side of the square that the paths are drawn on.
-constexpr double iconGrid = 24;
 
 IconShape iconShape(Icon which);
 

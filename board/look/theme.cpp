@@ -11,33 +11,35 @@ namespace {
 
 Theme theCurrentTheme = Theme::Light;
 
-/// The colours that a palette is made of.
-struct Tones
-{
-    QRgb window, base, button, text, placeholder, disabledText, accent, accentText, mid, tip;
-};
+const ThemeColors lightColors{QColor(0xfff7f8fa), QColor(0xffffffff),  QColor(0xffe4e8ee),  QColor(0xffffffff),
+                              QColor(0xff1f2630), QColor(0xff566070),  QColor(0xff8f98a4),  QColor(0xff2563cf),
+                              QColor(0xffffffff), QColor(0xffe3ecfb),  QColor(0xffd5dbe2),  QColor(0xff7d8896),
+                              QColor(0xffeceff4), QColor(0xffb3261e),  QColor(0xff1c7a43),  QColor(0xff8a5a00),
+                              QColor(0xffc9252d), QColor(0, 0, 0, 41), QColor(0, 0, 0, 56), QColor(0xff34495e)};
+const ThemeColors darkColors{QColor(0xff22262d), QColor(0xff2a2f37),   QColor(0xff16191e),   QColor(0xff1c2026),
+                             QColor(0xffe6eaf0), QColor(0xffa7b1be),   QColor(0xff6d7683),   QColor(0xff7aa9ff),
+                             QColor(0xff0f1725), QColor(0xff29395a),   QColor(0xff3c434e),   QColor(0xff7f8a99),
+                             QColor(0xff333943), QColor(0xffff8f87),   QColor(0xff6fd39a),   QColor(0xfff0c05a),
+                             QColor(0xffff6b6b), QColor(0, 0, 0, 128), QColor(0, 0, 0, 110), QColor(0xffc9d1da)};
+/// Bubbles are dark in every theme.
+constexpr QRgb bubbleColor = 0xff1f2630;
+constexpr QRgb bubbleText = 0xfff2f4f6;
 
-constexpr Tones lightTones{0xfff6f7f9, 0xffffffff, 0xffffffff, 0xff20262e, 0xff7a8491,
-                           0xffa9b1bb, 0xff2f6fde, 0xffffffff, 0xffd8dde3, 0xff2a3038};
-constexpr Tones darkTones{0xff24282e, 0xff1b1e23, 0xff2d323a, 0xffe4e8ec, 0xff8d97a3,
-                          0xff626b76, 0xff5b93f5, 0xff10141a, 0xff3a404a, 0xff3b424c};
-
-QPalette paletteOf(const Tones &tones)
+QPalette paletteOf(const ThemeColors &colors)
 {
-    QPalette palette(QColor(tones.text), QColor(tones.button), QColor(tones.button).lighter(), QColor(tones.mid),
-                     QColor(tones.mid), QColor(tones.text), QColor(tones.accentText), QColor(tones.base),
-                     QColor(tones.window));
-    palette.setColor(QPalette::AlternateBase, QColor(tones.window));
-    palette.setColor(QPalette::ButtonText, QColor(tones.text));
-    palette.setColor(QPalette::Highlight, QColor(tones.accent));
-    palette.setColor(QPalette::HighlightedText, QColor(tones.accentText));
-    palette.setColor(QPalette::Link, QColor(tones.accent));
-    palette.setColor(QPalette::PlaceholderText, QColor(tones.placeholder));
-    palette.setColor(QPalette::ToolTipBase, QColor(tones.tip));
-    palette.setColor(QPalette::ToolTipText, QColor(0xfff2f4f6));
+    QPalette palette(colors.text, colors.surface, colors.surface.lighter(), colors.border, colors.border,
+                     colors.text, colors.onAccent, colors.field, colors.bar);
+    palette.setColor(QPalette::AlternateBase, colors.bar);
+    palette.setColor(QPalette::ButtonText, colors.text);
+    palette.setColor(QPalette::Highlight, colors.accent);
+    palette.setColor(QPalette::HighlightedText, colors.onAccent);
+    palette.setColor(QPalette::Link, colors.accent);
+    palette.setColor(QPalette::PlaceholderText, colors.faint);
+    palette.setColor(QPalette::ToolTipBase, QColor(bubbleColor));
+    palette.setColor(QPalette::ToolTipText, QColor(bubbleText));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(tones.disabledText));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(tones.mid));
+        palette.setColor(QPalette::Disabled, role, colors.disabled);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colors.border);
     return palette;
 }
 
@@ -56,55 +58,53 @@ QString styleSheet()
     static const QString pattern = QStringLiteral(R"(
 QMainWindow::separator { background: %border; width: 1px; height: 1px; }
 QMainWindow::separator:hover { background: %accent; }
-QToolBar { border: none; border-bottom: 1px solid %border; padding: 4px 8px; spacing: 2px; background: %window; }
-QToolBar::separator { background: %border; width: 1px; margin: 6px 6px; }
-QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 5px; }
+QToolButton { border: 1px solid transparent; border-radius: 8px; padding: 5px; }
 QToolButton:hover { background: %hover; }
 QToolButton:pressed { background: %border; }
-QToolButton:checked { background: %tint; border-color: %accent; }
-QToolButton:focus { border-color: %accent; }
+QToolButton:checked { background: %soft; color: %accent; }
+QToolButton:focus { border: 2px solid %accent; padding: 4px; }
 QToolButton::menu-indicator { image: none; }
-QMenuBar { background: %window; border-bottom: 1px solid %border; }
-QStatusBar { background: %window; border-top: 1px solid %border; }
-QStatusBar::item { border: none; }
+QMenuBar { background: %bar; border: none; }
+QMenuBar::item { background: transparent; padding: 7px 10px; border-radius: 8px; }
+QMenuBar::item:selected { background: %hover; }
+QMenuBar::item:pressed { background: %soft; color: %accent; }
+QMenuBar::item:disabled { color: %disabled; }
 QDockWidget { titlebar-close-icon: none; titlebar-normal-icon: none; }
-QDockWidget::title { background: %window; padding: 10px 12px 6px 8px; }
-QMainWindow > QTabBar { background: %window; qproperty-drawBase: 0; }
-QMainWindow > QTabBar::tab { background: %window; border: none; border-bottom: 2px solid transparent;
+QDockWidget::title { background: %bar; padding: 10px 12px 6px 8px; }
+QMainWindow > QTabBar { background: %bar; qproperty-drawBase: 0; }
+QMainWindow > QTabBar::tab { background: %bar; border: none; border-bottom: 2px solid transparent;
                              padding: 9px 9px 7px 9px; color: %faint; }
 QMainWindow > QTabBar::tab:hover { color: %text; }
 QMainWindow > QTabBar::tab:selected { color: %text; border-bottom-color: %accent; }
 QGraphicsView, QScrollArea, QListView, QUndoView { border: none; }
-QListView { background: %window; }
-QUndoView::item { padding: 4px 6px; border-radius: 5px; color: %text; }
-QUndoView::item:selected { background: %tint; color: %text; }
+QListView { background: %bar; }
+QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }
+QUndoView::item:selected { background: %soft; color: %text; }
 QUndoView::item:hover { background: %hover; }
-QLineEdit { border: 1px solid %border; border-radius: 6px; padding: 5px 6px; background: %base; }
+QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 5px 6px; background: %field; }
 QLineEdit:focus { border-color: %accent; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: %handle; border-radius: 3px; margin: 3px; min-width: 32px; min-height: 32px; }
+QScrollBar::handle { background: %control; border-radius: 3px; margin: 3px; min-width: 32px; min-height: 32px; }
 QScrollBar::handle:hover { background: %accent; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; }
 QToolTip { border: none; padding: 4px 6px; }
 )");
-    const QPalette palette = QApplication::palette();
     const ThemeColors colors = themeColors();
-    QColor tint = palette.color(QPalette::Highlight);
-    tint.setAlpha(38);
     QString sheet = pattern;
     sheet.replace("%border", rgbaText(colors.border));
-    sheet.replace("%faint", rgbaText(colors.faintText));
-    sheet.replace("%accent", rgbaText(palette.color(QPalette::Highlight)));
-    sheet.replace("%window", rgbaText(palette.color(QPalette::Window)));
-    sheet.replace("%text", rgbaText(palette.color(QPalette::Text)));
-    sheet.replace("%base", rgbaText(palette.color(QPalette::Base)));
-    sheet.replace("%handle", rgbaText(colors.pageEdge));
+    sheet.replace("%faint", rgbaText(colors.faint));
+    sheet.replace("%disabled", rgbaText(colors.disabled));
+    sheet.replace("%accent", rgbaText(colors.accent));
+    sheet.replace("%bar", rgbaText(colors.bar));
+    sheet.replace("%text", rgbaText(colors.text));
+    sheet.replace("%field", rgbaText(colors.field));
+    sheet.replace("%control", rgbaText(colors.control));
     sheet.replace("%hover", rgbaText(colors.hover));
-    sheet.replace("%tint", rgbaText(tint));
+    sheet.replace("%soft", rgbaText(colors.soft));
     return sheet;
 }
 
@@ -114,7 +114,7 @@ void applyTheme(Theme theme)
 {
     theCurrentTheme = theme;
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(paletteOf(theme == Theme::Dark ? darkTones : lightTones));
+    QApplication::setPalette(paletteOf(themeColors()));
     qApp->setStyleSheet(styleSheet());
 }
 
@@ -125,11 +125,7 @@ Theme currentTheme()
 
 ThemeColors themeColors()
 {
-    if (theCurrentTheme == Theme::Dark)
-        return {QColor(0xff16181c), QColor(0xff3a404a),        QColor(0, 0, 0, 110), QColor(0xff353b44),
-                QColor(0xff8d97a3), QColor(255, 255, 255, 20), QColor(0xffc9d1da)};
-    return {QColor(0xffe6e9ee), QColor(0xffcfd5dc),     QColor(30, 40, 60, 40), QColor(0xffdfe3e8),
-            QColor(0xff6f7985), QColor(20, 40, 80, 16), QColor(0xff34495e)};
+    return theCurrentTheme == Theme::Dark ? darkColors : lightColors;
 }
 
 } // namespace board

@@ -10,15 +10,26 @@ enum class Theme { Light, Dark };
 void applyTheme(Theme theme);
 Theme currentTheme();
 
-/// Colours that have no role in QPalette.
+/// Colours by what they are for. Text on bars, surfaces and fields has a contrast of 4.5:1 at least, an edge of
+/// 3:1.
 struct ThemeColors
 {
-    QColor canvas;     ///< around the page
-    QColor pageEdge;   ///< the page's outline
-    QColor pageShadow; ///< with its alpha
-    QColor border;     ///< lines between parts of the window
-    QColor faintText;  ///< captions and hints
-    QColor hover;      ///< behind a button under the mouse
+    QColor bar;     ///< behind bars, the dock and the panel
+    QColor surface; ///< behind what pops up
+    QColor desk;    ///< around the page
+    QColor field;   ///< behind what is typed
+    QColor text;
+    QColor faint;    ///< captions, keys and hints
+    QColor disabled; ///< text of what can't be used now
+    QColor accent;
+    QColor onAccent; ///< text on the accent
+    QColor soft;     ///< behind what is chosen
+    QColor border;   ///< lines between parts of the window
+    QColor control;  ///< edges of fields and handles
+    QColor hover;    ///< behind a button under the mouse
+    QColor bad, good, warn, record;
+    QColor shadow;     ///< of what lies above something else, with its alpha
+    QColor pageShadow; ///< of paper, with its alpha
     QColor shapePen;   ///< outlines of shapes in pictures of them
 };
 ThemeColors themeColors();
@@ -27,5 +38,14 @@ ThemeColors themeColors();
 constexpr int smallGap = 4;
 constexpr int mediumGap = 8;
 constexpr int largeGap = 12;
+
+/// Sizes of the window, logical pixels.
+constexpr int topBarHeight = 40;
+constexpr int barButtonSide = 32;
+constexpr int barIconSide = 20;
+constexpr int dockThickness = 56;
+constexpr int shelfThickness = 40;
+constexpr int surfaceRadius = 10;
+constexpr int buttonRadius = 8;
 
 } // namespace board

@@ -26,8 +26,14 @@ const char *const kindMimeType = "application/x-gliololok-kind";
 
 namespace {
 
-/// Around a page that is shown as a whole, logical pixels.
-constexpr int fitMargin = 36;
+/// Above and below a page that is shown as a whole, in a low view, and at its sides, logical pixels.
+constexpr int usualMargin = 8;
+constexpr int lowMargin = 4;
+constexpr int sideMargin = 16;
+/// Between a page and the shelf.
+constexpr int shelfMargin = 8;
+/// A view in a window of 720.
+constexpr int lowHeight = 680;
 /// A click this far beside a selected object (logical pixels) was meant for it and does not deselect it.
 constexpr int nearMiss = 6;
 constexpr double arrowStep = 1;
@@ -90,6 +96,16 @@ void PageView::setEmptyHint(const EmptyHint &hint)
     viewport()->update();
 }
 
+void PageView::setShelfEdge(Qt::Edge edge)
+{
+    m_shelfEdge = edge;
+    const bool isBeside = edge == Qt::LeftEdge || edge == Qt::RightEdge;
+    m_shelfMargin = isBeside ? shelfMargin : sideMargin;
+    setViewportMargins(edge == Qt::LeftEdge ? shelfThickness : 0, 0, edge == Qt::RightEdge ? shelfThickness : 0, 0);
+    if (m_fitted)
+        showFitted();
+}
+
 void PageView::setZoom(double rate, const QPoint &anchor)
 {
     if (!m_page)
@@ -135,10 +151,12 @@ void PageView::showFitted()
         return;
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const QSizeF room = viewport()->size() - QSize(2 * fitMargin, 2 * fitMargin);
+    const int margin = height() < lowHeight ? lowMargin : usualMargin;
+    const QSizeF room = viewport()->size() - QSize(m_shelfMargin + sideMargin, 2 * margin);
     const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
     applyZoom(qBound(smallestZoom, rate, largestZoom));
-    centerOn(m_page->rect().center());
+    const double aside = (sideMargin - m_shelfMargin) / 2.0 / m_zoom;
+    centerOn(m_page->rect().center() + QPointF(m_shelfEdge == Qt::RightEdge ? -aside : aside, 0));
 }
 
 void PageView::applyZoom(double rate)
@@ -417,6 +435,14 @@ void PageView::focusOutEvent(QFocusEvent *event)
     QGraphicsView::focusOutEvent(event);
 }
 
+bool PageView::event(QEvent *event)
+{
+    // The shelf is part of the desk.
+    if (event->type() == QEvent::Paint)
+        QPainter(this).fillRect(rect(), themeColors().desk);
+    return QGraphicsView::event(event);
+}
+
 bool PageView::viewportEvent(QEvent *event)
 {
     switch (event->type()) {
@@ -473,7 +499,7 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 {
     const ThemeColors colors = themeColors();
     const double margin = repaintMargin / m_zoom;
-    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), colors.canvas);
+    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), colors.desk);
     if (!m_page)
         return;
     painter->save();

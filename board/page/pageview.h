@@ -54,6 +54,10 @@ public:
     void fitPage();
     bool isFitted() const { return m_fitted; }
 
+    /// The edge of the window where the tools are. At a side, the view keeps room for a shelf beside them, however
+    /// the page is zoomed.
+    void setShelfEdge(Qt::Edge edge);
+
     /// Decides what can be dropped besides kinds of shape.
     void setDropTest(const std::function<bool(const QMimeData &)> &test) { m_dropTest = test; }
     /// Ends what is going on: keys that move become a step, a drag is taken back.
@@ -88,6 +92,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -121,6 +126,8 @@ private:
     BandSelection m_band;
     Nudging m_nudging;
     double m_zoom = 1;
+    Qt::Edge m_shelfEdge = Qt::TopEdge;
+    int m_shelfMargin = 0; ///< between it and the page, logical pixels
     bool m_fitted = true;
     bool m_spaceDown = false;
     bool m_panning = false;

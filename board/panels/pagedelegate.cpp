@@ -44,13 +44,13 @@ void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->fillRect(place, Qt::white);
     painter->drawImage(place, picture);
-    const QColor edge = current ? option.palette.color(QPalette::Highlight) : themeColors().pageEdge;
+    const QColor edge = current ? option.palette.color(QPalette::Highlight) : themeColors().control;
     const double width = current ? currentFrameWidth : 1;
     painter->setPen(QPen(edge, width));
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(place.adjusted(-width / 2, -width / 2, width / 2, width / 2), frameRadius,
                              frameRadius);
-    painter->setPen(current ? option.palette.color(QPalette::Text) : themeColors().faintText);
+    painter->setPen(current ? option.palette.color(QPalette::Text) : themeColors().faint);
     const QRectF line(option.rect.left(), room.bottom() + 3, option.rect.width(), numberHeight);
     painter->drawText(line, Qt::AlignCenter, index.data(Qt::DisplayRole).toString());
     painter->restore();

@@ -133,6 +133,12 @@ void PalettePanel::showWaitingKind(const QString &kindId)
         button->setChecked(button->kindId() == kindId);
 }
 
+void PalettePanel::startSearch()
+{
+    m_search->setFocus();
+    m_search->selectAll();
+}
+
 void PalettePanel::filter(const QString &words)
 {
     for (PaletteButton *button : qAsConst(m_buttons))

@@ -26,6 +26,8 @@ public:
     void showKinds();
     /// Shows which kind waits to be drawn; an empty id for none.
     void showWaitingKind(const QString &kindId);
+    /// Gives the search the focus.
+    void startSearch();
     QVector<PaletteButton *> buttons() const { return m_buttons; }
     /// Room for two kinds beside each other.
     QSize sizeHint() const override;

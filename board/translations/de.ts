@@ -756,18 +756,6 @@
         <translation>Links eine auswählen und auf der Seite aufziehen oder hierher ziehen.</translation>
     </message>
     <message>
-        <source>Click to select · drag over shapes to select several · Ctrl+wheel zooms</source>
-        <translation>Klick wählt aus · Aufziehen wählt mehrere aus · Strg+Mausrad ändert die Ansichtsgröße</translation>
-    </message>
-    <message>
-        <source>Drag to draw, click for the usual size · Shift: equal sides · Esc: cancel</source>
-        <translation>Ziehen zeichnet, ein Klick nimmt die übliche Größe · Umschalt: gleiche Seiten · Esc: abbrechen</translation>
-    </message>
-    <message>
-        <source>Drag to move · drag handles to reshape · arrow keys: 1, with Shift 10 · Ctrl+D duplicates</source>
-        <translation>Ziehen verschiebt · Griffe verformen · Pfeiltasten: 1, mit Umschalt 10 · Strg+D dupliziert</translation>
-    </message>
-    <message>
         <source>Plug-ins that could not be loaded</source>
         <translation>Nicht geladene Erweiterungen</translation>
     </message>
@@ -858,6 +846,42 @@
     <message>
         <source>Last page</source>
         <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>Bar at the top</source>
+        <translation>Leiste am oberen Rand</translation>
+    </message>
+    <message>
+        <source>&amp;Menu</source>
+        <translation>&amp;Menü</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>At the left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>At the right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Select</source>
@@ -974,6 +998,22 @@
     <message>
         <source>All properties</source>
         <translation>Alle Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1: drag to draw. Esc ends.</source>
+        <translation>%1: Zum Zeichnen ziehen. Esc beendet.</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include "core/pluginfolders.h"
 #include "core/toolchoice.h"
 #include "core/toolcommands.h"
+#include "core/windowmemory.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "documents/documentmenu.h"
@@ -30,9 +31,11 @@
 #include "panels/stylepanel.h"
 #include "tools/toolbox.h"
 #include "tools/toolsettings.h"
+#include "window/dock.h"
 #include "window/fieldundo.h"
+#include "window/hintpill.h"
 #include "window/shapetool.h"
-#include "window/statusline.h"
+#include "window/topbar.h"
 
 #include <pagehost/animationplayer.h>
 #include <pagehost/page.h>
@@ -44,15 +47,14 @@
 #include <QtCore/QFileInfo>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
-#include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabBar>
-#include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -62,7 +64,6 @@ namespace board {
 namespace {
 
 constexpr QSize firstSize(1400, 900);
-constexpr QSize toolIconSize(22, 22);
 constexpr int rightPanelWidth = 300;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
@@ -96,24 +97,21 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_tools(new ToolChoice(this))
     , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_view, this))
     , m_toolSettings(new ToolSettings(this))
-    , m_lock(this, m_view)
+    , m_lock(m_view)
     , m_dialogs(workspace, this)
+    , m_topBar(new TopBar(workspace, m_actions, m_view, this))
+    , m_dock(new Dock(workspace, m_commands, m_tools))
+    , m_hint(new HintPill(m_view))
     , m_describeSelection([this] { describeSelection(); })
 {
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
-    auto *centre = new QWidget(this);
-    auto *column = new QVBoxLayout(centre);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_notices);
-    column->addWidget(m_view, 1);
-    column->addWidget(m_lessonBar);
-    setCentralWidget(centre);
+    layOut();
     addMenus();
-    addTools();
     addPanels();
-    m_status = new StatusLine(m_workspace, m_actions, m_view, statusBar());
+    m_topBar->addCommand(m_lessonMenu->record);
+    for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages()})
+        m_lock.add(part);
     connectParts();
     connectTools();
     connectLessons();
@@ -131,6 +129,57 @@ MainWindow::MainWindow(Workspace *workspace)
     m_view->setFocus();
 }
 
+void MainWindow::layOut()
+{
+    auto *middle = new QWidget;
+    auto *column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_notices);
+    column->addWidget(m_view, 1);
+    column->addWidget(m_lessonBar);
+    auto *centre = new QWidget(this);
+    m_body = new QBoxLayout(QBoxLayout::LeftToRight, centre);
+    m_body->setContentsMargins(0, 0, 0, 0);
+    m_body->setSpacing(0);
+    m_body->addWidget(m_dock);
+    m_body->addWidget(middle, 1);
+    setMenuWidget(m_topBar);
+    setCentralWidget(centre);
+    setDockEdge(rememberedDockEdge());
+}
+
+void MainWindow::setDockEdge(Qt::Edge edge)
+{
+    const QHash<Qt::Edge, QBoxLayout::Direction> directions{{Qt::LeftEdge, QBoxLayout::LeftToRight},
+                                                            {Qt::RightEdge, QBoxLayout::RightToLeft},
+                                                            {Qt::TopEdge, QBoxLayout::TopToBottom},
+                                                            {Qt::BottomEdge, QBoxLayout::BottomToTop}};
+    m_body->setDirection(directions.value(edge));
+    m_dock->setEdge(edge);
+    m_view->setShelfEdge(edge);
+    rememberDockEdge(edge);
+}
+
+/// To the edge that the pointer is nearest to.
+void MainWindow::followDrag(const QPoint &pos)
+{
+    const QRect area = centralWidget()->rect();
+    const QPoint at = centralWidget()->mapFromGlobal(pos);
+    const QPair<int, Qt::Edge> distances[] = {{at.x(), Qt::LeftEdge},
+                                              {area.width() - at.x(), Qt::RightEdge},
+                                              {at.y(), Qt::TopEdge},
+                                              {area.height() - at.y(), Qt::BottomEdge}};
+    const Qt::Edge nearest = std::min_element(std::begin(distances), std::end(distances))->second;
+    if (nearest != m_dock->edge())
+        setDockEdge(nearest);
+}
+
+QMenuBar *MainWindow::menus() const
+{
+    return m_topBar->menus();
+}
+
 void MainWindow::showPluginProblems()
 {
     QStringList lines;
@@ -144,6 +193,7 @@ void MainWindow::showTitle()
 {
     setWindowTitle(QStringLiteral("%1[*] – %2").arg(m_documents->name(), m_workspace->text("IDS_BOARD_TITLE")));
     setWindowModified(m_documents->isModified());
+    m_topBar->showSaved(!m_documents->isModified(), !m_documents->file().isEmpty());
 }
 
 void MainWindow::settle()
@@ -174,6 +224,7 @@ QDockWidget *MainWindow::addPanel(Qt::DockWidgetArea area, const char *titleKey,
     dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
     panel->setAccessibleName(dock->windowTitle());
     addDockWidget(area, dock);
+    m_lock.add(dock);
     return dock;
 }
 
@@ -221,8 +272,7 @@ void MainWindow::addPanels()
     auto *panels = new QMenu(m_workspace->text("IDS_BOARD_PANELS"), this);
     for (QDockWidget *dock : {palette, style, settings, properties, history, pages})
         panels->addAction(dock->toggleViewAction());
-    // Help comes last.
-    menuBar()->insertMenu(menuBar()->actions().last(), panels);
+    m_viewMenu->addMenu(panels);
 }
 
 void MainWindow::addMenus()
@@ -230,44 +280,35 @@ void MainWindow::addMenus()
     const QStringList spared{QStringLiteral("IDS_BOARD_FILE"), QStringLiteral("IDS_LESSON_MENU"),
                              QStringLiteral("IDS_BOARD_VIEW"), QStringLiteral("IDS_BOARD_HELP")};
     for (const MenuEntry &entry : mainMenuPlan()) {
-        QMenu *menu = menuBar()->addMenu(m_workspace->text(entry.titleKey));
+        QMenu *menu = m_topBar->addMenu(m_workspace->text(entry.titleKey));
         fillMenu(menu, entry.entries, *m_commands, *m_workspace);
-        if (spared.contains(QLatin1String(entry.titleKey)))
-            m_lock.spare(menu);
+        if (!spared.contains(QLatin1String(entry.titleKey)))
+            m_lock.add(menu);
+        if (QLatin1String(entry.titleKey) == QLatin1String("IDS_BOARD_VIEW"))
+            m_viewMenu = menu;
     }
-    menuBar()->actions().first()->menu()->insertMenu(m_commands->action(Command::SaveBoard),
-                                                     m_documentMenu->recentMenu());
+    menus()->actions().first()->menu()->insertMenu(m_commands->action(Command::SaveBoard),
+                                                   m_documentMenu->recentMenu());
+    addDockMenu();
 }
 
-QToolBar *MainWindow::addTools(const QString &name, const char *titleKey)
+void MainWindow::addDockMenu()
 {
-    QToolBar *bar = addToolBar(m_workspace->text(titleKey));
-    bar->setObjectName(name);
-    bar->setMovable(false);
-    bar->setIconSize(toolIconSize);
-    bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    return bar;
-}
-
-void MainWindow::addTools()
-{
-    QToolBar *bar = addTools(QStringLiteral("tools"), "IDS_BOARD_TOOLS");
-    const Actions &a = *m_actions;
-    const ClipboardMenu &c = *m_clipboardMenu;
-    const QList<QList<QAction *>> groups{
-        {m_commands->action(Command::OpenBoard), m_commands->action(Command::SaveBoard)},
-        {a.undo, a.redo},
-        {c.cut, c.copy, c.paste, a.duplicate, a.remove},
-        {a.toFront, a.forward, a.backward, a.toBack},
-        {a.mirrorHorizontally, a.mirrorVertically, a.rotateLeft, a.rotateRight}};
-    for (const QList<QAction *> &group : groups) {
-        if (group != groups.first())
-            bar->addSeparator();
-        bar->addActions(group);
+    QMenu *menu = m_viewMenu->addMenu(m_workspace->text("IDS_BOARD_DOCK"));
+    auto *group = new QActionGroup(menu);
+    const QPair<Qt::Edge, const char *> edges[] = {{Qt::LeftEdge, "IDS_BOARD_DOCK_LEFT"},
+                                                   {Qt::RightEdge, "IDS_BOARD_DOCK_RIGHT"},
+                                                   {Qt::TopEdge, "IDS_BOARD_DOCK_TOP"},
+                                                   {Qt::BottomEdge, "IDS_BOARD_DOCK_BOTTOM"}};
+    for (const auto &entry : edges) {
+        const Qt::Edge edge = entry.first;
+        QAction *action =
+            menu->addAction(m_workspace->text(entry.second), this, [this, edge] { setDockEdge(edge); });
+        action->setCheckable(true);
+        group->addAction(action);
+        connect(menu, &QMenu::aboutToShow, action,
+                [this, action, edge] { action->setChecked(m_dock->edge() == edge); });
     }
-    QToolBar *playing = addTools(QStringLiteral("animationTools"), "IDS_BOARD_ANIMATION");
-    playing->addAction(a.playAnimation);
-    m_lock.spare(playing);
 }
 
 void MainWindow::connectLessons()
@@ -305,6 +346,9 @@ void MainWindow::connectDocument()
 
 void MainWindow::connectTools()
 {
+    connect(m_dock, &Dock::dragged, this, &MainWindow::followDrag);
+    m_commands->perform(Command::Shapes, this, [this] { chooseShape(); });
+    connect(m_dock, &Dock::shapesRequested, m_commands->action(Command::Shapes), &QAction::trigger);
     connect(m_palette, &PalettePanel::kindPicked, this, &MainWindow::beginCreation);
     connect(m_palette, &PalettePanel::placeRequested, this, &MainWindow::placeInMiddle);
     connect(m_view, &PageView::kindDropped, this, [this](const QString &kindId, const QPointF &pos) {
@@ -328,8 +372,6 @@ void MainWindow::connectParts()
     connect(m_actions, &Actions::aboutToStep, m_settings, &SelectionPanel::settle);
     connect(m_actions, &Actions::aboutToStep, m_properties, &SelectionPanel::settle);
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
-    connect(m_documents, &DocumentController::saved, this,
-            [this](const QString &file) { m_status->showMessage(m_workspace->text("IDS_BOARD_SAVED"), file); });
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
@@ -377,8 +419,6 @@ void MainWindow::showSelection()
 
 void MainWindow::describeSelection()
 {
-    const pagehost::Page *page = m_view->page();
-    m_status->showBounds(page ? pagehost::boundsOf(page->selectedObjects()) : QRectF());
     describeView();
     showHint();
 }
@@ -401,14 +441,19 @@ void MainWindow::describeView()
 
 void MainWindow::showHint()
 {
-    const char *key = "IDS_BOARD_HINT_IDLE";
+    QString hint;
     if (m_lessons->isShowing())
-        key = "IDS_LESSON_HINT";
-    else if (m_tools->tool() == Tool::Shape)
-        key = "IDS_BOARD_HINT_DRAW";
-    else if (m_view->page() && !m_view->page()->selectedObjects().isEmpty())
-        key = "IDS_BOARD_HINT_SELECTED";
-    m_status->showHint(key);
+        hint = m_workspace->text("IDS_LESSON_HINT");
+    else if (!m_shapeTool->waitingKind().isEmpty())
+        hint = m_workspace->text("IDS_BOARD_HINT_DRAW")
+                   .arg(m_workspace->text(m_workspace->registry().kind(m_shapeTool->waitingKind()).nameKey));
+    m_hint->showHint(hint);
+}
+
+void MainWindow::chooseShape()
+{
+    raisePanel(m_palette);
+    m_palette->startSearch();
 }
 
 void MainWindow::beginCreation(const QString &kindId)
@@ -443,7 +488,10 @@ void MainWindow::exportPages(const QString &folder, PageFormat format)
     const ExportResult result =
         board::exportPages(m_workspace->document(), m_workspace->registry(), folder, {format, 1});
     if (!result.files.isEmpty())
-        m_status->showMessage(m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()), folder);
+        m_notices->add({m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()).arg(folder),
+                        {},
+                        {},
+                        QStringLiteral("exportedNotice")});
     if (!result.problems.isEmpty())
         m_notices->add(
             {m_workspace->text("IDS_BOARD_NOT_EXPORTED"), result.problems, {}, QStringLiteral("exportNotice")});

@@ -8,7 +8,9 @@
 #include <QtWidgets/QMainWindow>
 
 class QMimeData;
-class QToolBar;
+class QBoxLayout;
+class QMenu;
+class QMenuBar;
 
 namespace pagehost {
 class AnimationPlayer;
@@ -20,8 +22,10 @@ class Actions;
 class ClipboardController;
 class ClipboardMenu;
 class Commands;
+class Dock;
 class DocumentController;
 class DocumentMenu;
+class HintPill;
 class LessonBar;
 class LessonController;
 class LessonMenu;
@@ -33,13 +37,14 @@ class PropertyPanel;
 class Recovery;
 class SettingsPanel;
 class ShapeTool;
-class StatusLine;
 class StylePanel;
 class ToolChoice;
 class ToolSettings;
+class TopBar;
 class Workspace;
 
-/// The window: the page in the middle, shapes to the left, look and history to the right, pages below.
+/// The window: the page with a bar above it, tools at one of its edges, shapes to the left, look and history to the
+/// right, pages below.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -66,6 +71,11 @@ public:
     pagehost::AnimationPlayer *animation() const { return m_animation; }
     ToolChoice *tools() const { return m_tools; }
     ToolSettings *toolSettings() const { return m_toolSettings; }
+    Dock *dock() const { return m_dock; }
+    TopBar *topBar() const { return m_topBar; }
+    QMenuBar *menus() const;
+    /// Puts the tools at another edge of the window.
+    void setDockEdge(Qt::Edge edge);
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -80,8 +90,10 @@ private:
     QDockWidget *addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel);
     void addPanels();
     void addMenus();
-    void addTools();
-    QToolBar *addTools(const QString &name, const char *titleKey);
+    void addDockMenu();
+    void layOut();
+    void followDrag(const QPoint &pos);
+    void chooseShape();
     void connectParts();
     void connectTools();
     void connectLessons();
@@ -118,12 +130,16 @@ private:
     ToolSettings *m_toolSettings;
     EditingLock m_lock;
     FileDialogs m_dialogs;
+    TopBar *m_topBar;
+    Dock *m_dock;
+    HintPill *m_hint;
+    QMenu *m_viewMenu = nullptr;
+    QBoxLayout *m_body = nullptr; ///< the dock, its shelf, and the page
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     StylePanel *m_style = nullptr;
     SettingsPanel *m_settings = nullptr;
     PropertyPanel *m_properties = nullptr;
-    StatusLine *m_status = nullptr;
     OncePerTurn m_describeSelection;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };

@@ -2,6 +2,8 @@
 
 #include "core/actions.h"
 #include "core/workspace.h"
+#include "look/icons.h"
+#include "look/theme.h"
 #include "page/pageview.h"
 
 #include <QtWidgets/QAction>
@@ -22,7 +24,9 @@ QToolButton *buttonOf(QAction *action, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setDefaultAction(action);
-    button->setIconSize(QSize(16, 16));
+    button->setIconSize(QSize(barIconSide, barIconSide));
+    button->setFixedSize(barButtonSide, barButtonSide);
+    button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(action->text());
     return button;
 }
@@ -42,17 +46,29 @@ ZoomControl::ZoomControl(const Workspace *workspace, const Actions *actions, Pag
     m_rate->setPopupMode(QToolButton::InstantPopup);
     m_rate->setToolTip(workspace->text("IDS_BOARD_ZOOM"));
     m_rate->setAccessibleName(m_rate->toolTip());
+    m_rate->setFixedHeight(barButtonSide);
+    m_rate->setFocusPolicy(Qt::TabFocus);
     m_rate->setMinimumWidth(m_rate->fontMetrics().horizontalAdvance(percentText(8)) + 20);
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(buttonOf(actions->zoomOut, this));
+    m_steps = {buttonOf(actions->zoomOut, this), buttonOf(actions->zoomIn, this), buttonOf(actions->fitPage, this)};
+    row->addWidget(m_steps[0]);
     row->addWidget(m_rate);
-    row->addWidget(buttonOf(actions->zoomIn, this));
-    row->addWidget(buttonOf(actions->fitPage, this));
+    row->addWidget(m_steps[1]);
+    row->addWidget(m_steps[2]);
     connect(view, &PageView::zoomChanged, this, &ZoomControl::showZoom);
     showZoom(view->zoom());
+}
+
+void ZoomControl::setFolded(bool folded)
+{
+    for (QToolButton *button : qAsConst(m_steps))
+        button->setVisible(!folded);
+    // Whoever asks for the size at once gets the new one.
+    layout()->invalidate();
+    updateGeometry();
 }
 
 void ZoomControl::showZoom(double rate)

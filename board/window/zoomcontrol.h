@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
 class QToolButton;
@@ -18,10 +19,14 @@ class ZoomControl : public QWidget
 public:
     ZoomControl(const Workspace *workspace, const Actions *actions, PageView *view, QWidget *parent = nullptr);
 
+    /// Leaves only the button with the list.
+    void setFolded(bool folded);
+
 private:
     void showZoom(double rate);
 
     QToolButton *m_rate;
+    QVector<QToolButton *> m_steps;
 };
 
 } // namespace board

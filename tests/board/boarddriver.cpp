@@ -55,7 +55,7 @@ BoardDriver::BoardDriver(const QString &language)
 {
     m_workspace->loadPlugins({QStringLiteral(SHAPE_FOLDER)});
     m_window = std::make_unique<board::MainWindow>(m_workspace.get());
-    m_window->resize(1600, 1100);
+    m_window->resize(1700, 1100);
     m_window->show();
     if (!QTest::qWaitForWindowExposed(m_window.get()))
         qFatal("the window is not shown");

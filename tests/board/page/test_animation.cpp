@@ -18,7 +18,6 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QUndoStack>
 
@@ -91,7 +90,6 @@ private Q_SLOTS:
     void drawnPendulumSwings();
     void clockGearsAndPendulumPlayAndNothingElse();
     void keyHoldsAndGoesOn();
-    void buttonHoldsAndGoesOn();
     void actionIsOffWhereNothingMoves();
     void pageThatIsTurnedAwayStandsStill();
     void scrolledAwayPendulumStandsStill();
@@ -155,23 +153,6 @@ void TestAnimation::keyHoldsAndGoesOn()
     QVERIFY(plays(object));
     QVERIFY(playAction(driver)->isChecked());
     QVERIFY(moves(object, driver.page()));
-}
-
-void TestAnimation::buttonHoldsAndGoesOn()
-{
-    BoardDriver driver;
-    CBaseObject *object = drawPendulum(driver);
-    support::deliverEvents();
-    QVERIFY(plays(object));
-    const auto *bar = driver.window().findChild<QToolBar *>(QStringLiteral("animationTools"));
-    QWidget *button = bar->widgetForAction(playAction(driver));
-    QVERIFY(button);
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(!plays(object));
-    QVERIFY(!qobject_cast<QToolButton *>(button)->isChecked());
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(plays(object));
-    QVERIFY(qobject_cast<QToolButton *>(button)->isChecked());
 }
 
 void TestAnimation::actionIsOffWhereNothingMoves()

@@ -1,4 +1,4 @@
-// The window: how large it opens, what it remembers, what its status line tells.
+// The window: how large it opens, what it remembers, which colours it has.
 
 #include <board/boarddriver.h>
 
@@ -38,7 +38,6 @@ private Q_SLOTS:
     void smallestWindowCutsNoPaletteButton_data();
     void smallestWindowCutsNoPaletteButton();
     void darkColoursAreRemembered();
-    void longNamesAreShortenedInTheStatusLine();
     void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
 };
 
@@ -164,18 +163,6 @@ void TestWindow::darkColoursAreRemembered()
     QVERIFY(board::remembersDarkColors());
     board.window().actions()->darkColors->trigger();
     QVERIFY(!board::remembersDarkColors());
-}
-
-/// Both ends of the path are seen, and nothing is cut off.
-void TestWindow::longNamesAreShortenedInTheStatusLine()
-{
-    BoardDriver board;
-    Q_EMIT board.window().documents()->saved("/folder/" + QString("a very long name ").repeated(30) + "end.board");
-    QStatusBar *bar = board.window().statusBar();
-    const QString text = bar->currentMessage();
-    QVERIFY2(text.startsWith("Saved: /folder") && text.endsWith("end.board"), qPrintable(text));
-    QVERIFY(text.contains(QChar(0x2026)));
-    QVERIFY(bar->fontMetrics().horizontalAdvance(text) < bar->width());
 }
 
 void TestWindow::shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn()

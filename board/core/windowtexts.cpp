@@ -1,0 +1,23 @@
+#include "core/texttables.h"
+
+#include <QtCore/QtGlobal>
+
+namespace board {
+
+QVector<TextEntry> windowTexts()
+{
+    return {
+        {"IDS_BOARD_TOP_BAR", QT_TRANSLATE_NOOP("board", "Bar at the top")},
+        {"IDS_BOARD_MENU", QT_TRANSLATE_NOOP("board", "&Menu")},
+        {"IDS_BOARD_IS_SAVED", QT_TRANSLATE_NOOP("board", "Saved")},
+        {"IDS_BOARD_UNSAVED", QT_TRANSLATE_NOOP("board", "Not saved")},
+        {"IDS_BOARD_PAGE_OF", QT_TRANSLATE_NOOP("board", "Page %1 of %2")},
+        {"IDS_BOARD_DOCK", QT_TRANSLATE_NOOP("board", "Tools")},
+        {"IDS_BOARD_DOCK_LEFT", QT_TRANSLATE_NOOP("board", "At the left")},
+        {"IDS_BOARD_DOCK_RIGHT", QT_TRANSLATE_NOOP("board", "At the right")},
+        {"IDS_BOARD_DOCK_TOP", QT_TRANSLATE_NOOP("board", "At the top")},
+        {"IDS_BOARD_DOCK_BOTTOM", QT_TRANSLATE_NOOP("board", "At the bottom")},
+    };
+}
+
+} // namespace board

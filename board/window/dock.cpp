@@ -1,0 +1,298 @@
+#include "window/dock.h"
+
+#include "core/commands.h"
+#include "core/workspace.h"
+#include "look/theme.h"
+#include "window/dockbutton.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
+#include <utility>
+
+namespace board {
+
+namespace {
+
+constexpr int edgeGap = 8;
+constexpr int usualGap = 4;
+constexpr int usualSide = 40;
+constexpr int smallSide = 36;
+/// From a button to that of the next group.
+constexpr int groupGap = 12;
+/// Of a line between groups, from the bar's edges.
+constexpr int lineInset = 16;
+
+struct ToolEntry
+{
+    Tool tool;
+    Icon icon;
+    Command command;
+    int group;
+    bool isRare;
+};
+
+constexpr ToolEntry toolEntries[] = {{Tool::Select, Icon::Select, Command::SelectTool, 0, false},
+                                     {Tool::Pen, Icon::Pen, Command::PenTool, 1, false},
+                                     {Tool::Highlighter, Icon::Highlighter, Command::HighlighterTool, 1, true},
+                                     {Tool::Eraser, Icon::Eraser, Command::EraserTool, 1, false},
+                                     {Tool::Text, Icon::Text, Command::TextTool, 2, false},
+                                     {Tool::Line, Icon::Line, Command::LineTool, 2, false},
+                                     {Tool::Connector, Icon::Connector, Command::ConnectorTool, 2, true},
+                                     {Tool::Shape, Icon::Shapes, Command::Shapes, 3, false}};
+
+} // namespace
+
+Dock::Dock(const Workspace *workspace, const Commands *commands, ToolChoice *tools, QWidget *parent)
+    : QWidget(parent)
+    , m_commands(commands)
+    , m_tools(tools)
+    , m_more(new DockButton(this))
+    , m_moreMenu(new QMenu(m_more))
+{
+    setObjectName(QStringLiteral("dock"));
+    setAccessibleName(workspace->text("IDS_BOARD_TOOLS"));
+    addTools();
+    m_more->setPicture(Icon::More);
+    m_more->setMenu(m_moreMenu);
+    m_more->setToolTip(workspace->text("IDS_BOARD_MORE"));
+    m_more->setAccessibleName(m_more->toolTip());
+    addEnds();
+    connect(tools, &ToolChoice::changed, this, &Dock::showChoice);
+    connect(tools, &ToolChoice::offersChanged, this, &Dock::showOffers);
+    connect(commands, &Commands::keysChanged, this, &Dock::describeTools);
+    describeTools();
+    showOffers();
+    showChoice();
+}
+
+void Dock::addTools()
+{
+    for (const ToolEntry &entry : toolEntries) {
+        auto *button = new DockButton(this);
+        button->setCheckable(true);
+        button->setPicture(entry.icon);
+        button->setOpensMore(entry.tool == Tool::Shape);
+        const Tool tool = entry.tool;
+        connect(button, &QToolButton::clicked, this, [this, tool] { press(tool); });
+        m_entries.append({button, tool, entry.group, entry.isRare});
+    }
+}
+
+void Dock::addEnds()
+{
+    const std::pair<QAction *, Icon> ends[] = {{m_commands->action(Command::Redo), Icon::Redo},
+                                               {m_commands->action(Command::Undo), Icon::Undo}};
+    for (const auto &[action, picture] : ends) {
+        auto *button = new DockButton(this);
+        button->setDefaultAction(action);
+        button->setPicture(picture);
+        m_ends.append(button);
+    }
+}
+
+void Dock::describeTools()
+{
+    for (const ToolEntry &entry : toolEntries) {
+        DockButton *button = buttonOf(entry.tool);
+        const QAction *action = m_commands->action(entry.command);
+        button->setToolTip(action->toolTip());
+        button->setAccessibleName(m_commands->name(entry.command));
+        button->setAccessibleDescription(action->shortcut().toString(QKeySequence::NativeText));
+    }
+}
+
+DockButton *Dock::buttonOf(Tool tool) const
+{
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [tool](const Entry &entry) { return entry.tool == tool; });
+    return found == m_entries.end() ? nullptr : found->button;
+}
+
+/// A second press keeps the tool, or ends keeping it. Shapes are chosen first.
+void Dock::press(Tool tool)
+{
+    if (tool == Tool::Shape)
+        Q_EMIT shapesRequested();
+    else if (m_tools->tool() == tool)
+        m_tools->keep(!m_tools->isKept());
+    else
+        m_tools->choose(tool);
+    showChoice();
+}
+
+void Dock::showOffers()
+{
+    arrange();
+    updateGeometry();
+}
+
+void Dock::showChoice()
+{
+    for (const Entry &entry : qAsConst(m_entries)) {
+        const bool isChosen = entry.tool == m_tools->tool();
+        entry.button->setChecked(isChosen);
+        entry.button->setKept(isChosen && m_tools->isKept());
+    }
+}
+
+void Dock::setEdge(Qt::Edge edge)
+{
+    m_edge = edge;
+    const bool vertical = isVertical();
+    setSizePolicy(vertical ? QSizePolicy::Fixed : QSizePolicy::Expanding,
+                  vertical ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    updateGeometry();
+    arrange();
+    update();
+}
+
+bool Dock::isVertical() const
+{
+    return m_edge == Qt::LeftEdge || m_edge == Qt::RightEdge;
+}
+
+/// Length of the bar that buttons of this measure take.
+int Dock::needed(const Measure &measure) const
+{
+    int total = 2 * edgeGap + m_ends.size() * (measure.side + measure.gap) + groupGap;
+    int group = -1;
+    for (const Entry &entry : m_entries) {
+        if (!m_tools->isOffered(entry.tool) || (measure.isFolded && entry.isRare))
+            continue;
+        total += measure.side + (entry.group == group || group < 0 ? measure.gap : groupGap);
+        group = entry.group;
+    }
+    return total + (measure.isFolded ? measure.side + measure.gap : 0);
+}
+
+Dock::Measure Dock::fitting() const
+{
+    for (const Measure &measure :
+         {Measure{usualSide, usualGap, false}, {usualSide, 0, false}, {smallSide, 0, false}})
+        if (needed(measure) <= length())
+            return measure;
+    return {smallSide, 0, true};
+}
+
+QSize Dock::minimumSizeHint() const
+{
+    const int least = needed({smallSide, 0, true});
+    return isVertical() ? QSize(dockThickness, least) : QSize(least, dockThickness);
+}
+
+QSize Dock::sizeHint() const
+{
+    const int usual = needed({usualSide, usualGap, false});
+    return isVertical() ? QSize(dockThickness, usual) : QSize(usual, dockThickness);
+}
+
+void Dock::put(DockButton *button, int start, int side)
+{
+    const int across = (dockThickness - side) / 2;
+    const QRect place = isVertical() ? QRect(across, start, side, side) : QRect(start, across, side, side);
+    button->setGeometry(QStyle::visualRect(isVertical() ? Qt::LeftToRight : layoutDirection(), rect(), place));
+}
+
+void Dock::arrange()
+{
+    const Measure measure = fitting();
+    m_lines.clear();
+    int at = edgeGap;
+    int group = -1;
+    for (const Entry &entry : qAsConst(m_entries)) {
+        const bool isShown = m_tools->isOffered(entry.tool) && !(measure.isFolded && entry.isRare);
+        entry.button->setVisible(isShown);
+        if (!isShown)
+            continue;
+        if (group >= 0 && entry.group != group) {
+            m_lines.append(at - measure.gap + groupGap / 2);
+            at += groupGap - measure.gap;
+        }
+        group = entry.group;
+        put(entry.button, at, measure.side);
+        at += measure.side + measure.gap;
+    }
+    fillMore(measure.isFolded);
+    if (measure.isFolded)
+        put(m_more, at, measure.side);
+    int end = length() - edgeGap;
+    for (DockButton *button : qAsConst(m_ends)) {
+        end -= measure.side;
+        put(button, end, measure.side);
+        end -= measure.gap;
+    }
+    update();
+}
+
+void Dock::fillMore(bool folded)
+{
+    m_moreMenu->clear();
+    for (const Entry &entry : qAsConst(m_entries)) {
+        const Tool tool = entry.tool;
+        if (folded && entry.isRare && m_tools->isOffered(tool))
+            m_moreMenu->addAction(entry.button->accessibleName(), this, [this, tool] { press(tool); });
+    }
+    m_more->setVisible(!m_moreMenu->isEmpty());
+}
+
+void Dock::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void Dock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        arrange();
+    QWidget::changeEvent(event);
+}
+
+void Dock::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QColor line = themeColors().border;
+    painter.fillRect(rect(), themeColors().bar);
+    for (const int at : qAsConst(m_lines)) {
+        const QRect place = isVertical() ? QRect(lineInset, at, dockThickness - 2 * lineInset, 1)
+                                         : QRect(at, lineInset, 1, dockThickness - 2 * lineInset);
+        painter.fillRect(place, line);
+    }
+    switch (m_edge) {
+    case Qt::LeftEdge:
+        return painter.fillRect(QRect(width() - 1, 0, 1, height()), line);
+    case Qt::RightEdge:
+        return painter.fillRect(QRect(0, 0, 1, height()), line);
+    case Qt::TopEdge:
+        return painter.fillRect(QRect(0, height() - 1, width(), 1), line);
+    default:
+        return painter.fillRect(QRect(0, 0, width(), 1), line);
+    }
+}
+
+void Dock::mousePressEvent(QMouseEvent *event)
+{
+    m_dragging = event->button() == Qt::LeftButton;
+}
+
+void Dock::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_dragging)
+        return;
+    setCursor(Qt::SizeAllCursor);
+    if (!rect().contains(event->pos()))
+        Q_EMIT dragged(event->globalPos());
+}
+
+void Dock::mouseReleaseEvent(QMouseEvent *)
+{
+    m_dragging = false;
+    unsetCursor();
+}
+
+} // namespace board

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/toolchoice.h"
+
+#include <QtCore/QVector>
+#include <QtWidgets/QWidget>
+
+class QMenu;
+
+namespace board {
+
+class Commands;
+class DockButton;
+class Workspace;
+
+/// The tools in a bar at an edge of the window. Tools that nobody offers are left out.
+///
+/// Where the bar is too short, its gaps close, its buttons shrink, and then the rarer tools go into a menu.
+class Dock : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive this.
+    Dock(const Workspace *workspace, const Commands *commands, ToolChoice *tools, QWidget *parent = nullptr);
+
+    /// The edge of the window that the bar lies at.
+    void setEdge(Qt::Edge edge);
+    Qt::Edge edge() const { return m_edge; }
+    DockButton *buttonOf(Tool tool) const;
+    DockButton *moreButton() const { return m_more; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// The user wants to choose a shape.
+    void shapesRequested();
+    /// The user drags the bar by its empty part; global coordinates.
+    void dragged(const QPoint &pos);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    struct Entry
+    {
+        DockButton *button;
+        Tool tool;
+        int group;
+        bool isRare; ///< goes into the menu first
+    };
+    /// Of the buttons along the bar.
+    struct Measure
+    {
+        int side;
+        int gap;
+        bool isFolded; ///< rare tools are in the menu
+    };
+
+    void addTools();
+    void addEnds();
+    void describeTools();
+    void press(Tool tool);
+    void showOffers();
+    void showChoice();
+    bool isVertical() const;
+    int length() const { return isVertical() ? height() : width(); }
+    int needed(const Measure &measure) const;
+    Measure fitting() const;
+    void arrange();
+    void put(DockButton *button, int start, int side);
+    void fillMore(bool folded);
+
+    const Commands *m_commands;
+    ToolChoice *m_tools;
+    QVector<Entry> m_entries;
+    DockButton *m_more;
+    QMenu *m_moreMenu;
+    QVector<DockButton *> m_ends; ///< from the far end
+    QVector<int> m_lines;         ///< along the bar
+    Qt::Edge m_edge = Qt::LeftEdge;
+    bool m_dragging = false;
+};
+
+} // namespace board

@@ -1,0 +1,87 @@
+#include "window/dockbutton.h"
+
+#include "look/theme.h"
+
+#include <QtGui/QPainter>
+
+namespace board {
+
+namespace {
+
+constexpr int usualSide = 40;
+constexpr int pictureSide = 22;
+constexpr int cornerMark = 4;
+/// From a mark to the button's edges.
+constexpr double markInset = 4.5;
+constexpr int lockSide = 11;
+constexpr double focusWidth = 2;
+
+QColor backgroundOf(const DockButton &button)
+{
+    const ThemeColors colors = themeColors();
+    if (button.isChecked())
+        return colors.accent;
+    if (button.isDown())
+        return colors.soft;
+    return button.isEnabled() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
+}
+
+} // namespace
+
+DockButton::DockButton(QWidget *parent)
+    : QToolButton(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+    setPopupMode(QToolButton::InstantPopup);
+}
+
+void DockButton::setOpensMore(bool opens)
+{
+    m_opensMore = opens;
+    update();
+}
+
+void DockButton::setKept(bool kept)
+{
+    m_kept = kept;
+    update();
+}
+
+QSize DockButton::sizeHint() const
+{
+    return {usualSide, usualSide};
+}
+
+void DockButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(backgroundOf(*this));
+    painter.drawRoundedRect(rect(), buttonRadius, buttonRadius);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(themeColors().accent, focusWidth));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
+    }
+    const QPalette::ColorRole role = isChecked() ? QPalette::HighlightedText : QPalette::ButtonText;
+    QRect picture(0, 0, pictureSide, pictureSide);
+    picture.moveCenter(rect().center());
+    board::icon(m_picture, role)
+        .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    paintMarks(&painter, isChecked() ? QPalette::HighlightedText : QPalette::PlaceholderText);
+}
+
+void DockButton::paintMarks(QPainter *painter, QPalette::ColorRole role) const
+{
+    const QPointF corner(width() - markInset, height() - markInset);
+    if (m_opensMore) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(palette().color(role));
+        painter->drawPolygon(QPolygonF({corner, corner - QPointF(0, cornerMark), corner - QPointF(cornerMark, 0)}));
+    }
+    if (m_kept)
+        board::icon(Icon::Lock, role).paint(painter, QRect(width() - lockSide - 3, 3, lockSide, lockSide));
+}
+
+} // namespace board

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "look/icons.h"
+
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+/// A button of the dock: accent while its tool is in use, with marks for options and for a tool that is kept.
+class DockButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit DockButton(QWidget *parent = nullptr);
+
+    void setPicture(Icon picture) { m_picture = picture; }
+    /// Shows by a mark in the corner that the button opens something.
+    void setOpensMore(bool opens);
+    void setKept(bool kept);
+    bool isKept() const { return m_kept; }
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintMarks(QPainter *painter, QPalette::ColorRole role) const;
+
+    Icon m_picture = Icon::More;
+    bool m_opensMore = false;
+    bool m_kept = false;
+};
+
+} // namespace board

@@ -1,0 +1,61 @@
+#include "window/hintpill.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QPainter>
+
+namespace board {
+
+namespace {
+
+constexpr QMargins inside(14, 7, 14, 7);
+constexpr int footGap = 24;
+
+} // namespace
+
+HintPill::HintPill(QWidget *view)
+    : QLabel(view)
+{
+    setObjectName(QStringLiteral("hintPill"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setContentsMargins(inside);
+    setTextFormat(Qt::PlainText);
+    setForegroundRole(QPalette::ToolTipText);
+    view->installEventFilter(this);
+    hide();
+}
+
+void HintPill::showHint(const QString &text)
+{
+    setText(text);
+    setVisible(!text.isEmpty());
+    place();
+}
+
+/// Long hints are cut off rather than wider than the view.
+void HintPill::place()
+{
+    const QSize room = parentWidget()->size();
+    const QSize size = sizeHint().boundedTo(room);
+    setGeometry((room.width() - size.width()) / 2, room.height() - size.height() - footGap, size.width(),
+                size.height());
+}
+
+bool HintPill::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize)
+        place();
+    return QLabel::eventFilter(watched, event);
+}
+
+void HintPill::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::ToolTipBase));
+    painter.drawRoundedRect(rect(), height() / 2.0, height() / 2.0);
+    painter.end();
+    QLabel::paintEvent(event);
+}
+
+} // namespace board

@@ -1,0 +1,230 @@
+#include "window/topbar.h"
+
+#include "core/actions.h"
+#include "core/workspace.h"
+#include "look/icons.h"
+#include "look/theme.h"
+#include "page/pageview.h"
+#include "window/zoomcontrol.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+namespace {
+
+/// Folds of a bar that is too narrow, in their order.
+enum Fold { MenusFold = 1, SavedFold, CommandsFold, ZoomFold };
+constexpr int lineLength = 20;
+constexpr int dotSide = 8;
+
+QToolButton *barButton(QAction *action, QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setIconSize(QSize(barIconSide, barIconSide));
+    button->setFixedHeight(barButtonSide);
+    button->setMinimumWidth(barButtonSide);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QToolButton *pictureButton(QAction *action, Icon picture, QWidget *parent)
+{
+    QToolButton *button = barButton(action, parent);
+    button->setIcon(icon(picture));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    return button;
+}
+
+} // namespace
+
+TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWidget *parent)
+    : QWidget(parent)
+    , m_workspace(workspace)
+    , m_row(new QHBoxLayout(this))
+    , m_menus(new QMenuBar(this))
+    , m_allMenus(new QMenu(this))
+    , m_menuButton(new QToolButton(this))
+    , m_saved(new QLabel(this))
+    , m_dot(new QLabel(this))
+    , m_pages(new QWidget(this))
+    , m_pageNumber(new QLabel(m_pages))
+    , m_zoom(new ZoomControl(workspace, actions, view, this))
+{
+    setObjectName(QStringLiteral("topBar"));
+    setAccessibleName(workspace->text("IDS_BOARD_TOP_BAR"));
+    m_menus->setNativeMenuBar(false);
+    m_menus->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_menuButton->setText(workspace->text("IDS_BOARD_MENU"));
+    m_menuButton->setIcon(icon(Icon::Menu));
+    m_menuButton->setIconSize(QSize(barIconSide, barIconSide));
+    m_menuButton->setFixedHeight(barButtonSide);
+    m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_menuButton->setPopupMode(QToolButton::InstantPopup);
+    m_menuButton->setMenu(m_allMenus);
+    m_saved->setForegroundRole(QPalette::PlaceholderText);
+    m_dot->setFixedSize(dotSide, dotSide);
+    m_row->setContentsMargins(mediumGap - 2, 0, mediumGap, 1);
+    m_row->setSpacing(smallGap);
+    m_row->addWidget(m_menus);
+    m_row->addWidget(m_menuButton);
+    m_row->addStretch();
+    m_row->addWidget(m_saved);
+    m_row->addWidget(m_dot);
+    m_row->addSpacing(mediumGap);
+    addPages(*actions);
+    addLine(this);
+    m_row->addWidget(m_zoom);
+    addLine(this);
+    setFixedHeight(topBarHeight);
+    followDocument();
+    connect(workspace, &Workspace::documentReplaced, this, &TopBar::followDocument);
+    showSaved(true, false);
+}
+
+void TopBar::addPages(const Actions &actions)
+{
+    auto *row = new QHBoxLayout(m_pages);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(smallGap);
+    m_pageNumber->setAlignment(Qt::AlignCenter);
+    row->addWidget(pictureButton(actions.previousPage, Icon::Previous, m_pages));
+    row->addWidget(m_pageNumber);
+    row->addWidget(pictureButton(actions.nextPage, Icon::Next, m_pages));
+    m_row->addWidget(m_pages);
+}
+
+void TopBar::addLine(QWidget *parent)
+{
+    auto *line = new QWidget(parent);
+    line->setFixedSize(1, lineLength);
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::Mid);
+    m_row->addWidget(line);
+}
+
+QMenu *TopBar::addMenu(const QString &title)
+{
+    QMenu *menu = m_menus->addMenu(title);
+    m_allMenus->addMenu(menu);
+    measure();
+    return menu;
+}
+
+void TopBar::addCommand(QAction *action)
+{
+    QToolButton *button = barButton(action, this);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_row->addWidget(button);
+    m_commands.append(button);
+    connect(action, &QAction::changed, this, &TopBar::measure);
+    measure();
+}
+
+void TopBar::addSwitch(QAction *action)
+{
+    m_row->addWidget(barButton(action, this));
+    measure();
+}
+
+void TopBar::addPageSwitch(QAction *action)
+{
+    static_cast<QHBoxLayout *>(m_pages->layout())->insertWidget(1, barButton(action, m_pages));
+    measure();
+}
+
+void TopBar::showSaved(bool isSaved, bool hasFile)
+{
+    const ThemeColors colors = themeColors();
+    m_saved->setText(m_workspace->text(isSaved ? "IDS_BOARD_IS_SAVED" : "IDS_BOARD_UNSAVED"));
+    m_dot->setToolTip(m_saved->text());
+    m_dot->setAccessibleName(m_saved->text());
+    m_dot->setStyleSheet(QStringLiteral("background: %1; border-radius: %2px")
+                             .arg((isSaved ? colors.good : colors.warn).name())
+                             .arg(dotSide / 2));
+    m_showsSaved = hasFile || !isSaved;
+    measure();
+}
+
+void TopBar::followDocument()
+{
+    const pagehost::Document *document = m_workspace->document();
+    connect(document, &pagehost::Document::currentPageChanged, this, &TopBar::showPage);
+    connect(document, &pagehost::Document::pageInserted, this, &TopBar::showPage);
+    connect(document, &pagehost::Document::pageRemoved, this, &TopBar::showPage);
+    connect(document, &pagehost::Document::pageMoved, this, &TopBar::showPage);
+    showPage();
+}
+
+void TopBar::showPage()
+{
+    const pagehost::Document *document = m_workspace->document();
+    const int page = document->currentIndex() + 1;
+    m_pageNumber->setText(QStringLiteral("%1 / %2").arg(page).arg(document->pageCount()));
+    m_pageNumber->setAccessibleName(m_workspace->text("IDS_BOARD_PAGE_OF").arg(page).arg(document->pageCount()));
+    measure();
+}
+
+void TopBar::applyFolds(int folds)
+{
+    m_menus->setVisible(folds < MenusFold);
+    m_menuButton->setVisible(folds >= MenusFold);
+    m_saved->setVisible(m_showsSaved && folds < SavedFold);
+    m_dot->setVisible(m_showsSaved && folds >= SavedFold);
+    for (QToolButton *button : qAsConst(m_commands))
+        button->setToolButtonStyle(folds < CommandsFold ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    m_zoom->setFolded(folds >= ZoomFold);
+}
+
+/// Looks how much room every fold leaves, then takes as few as are needed.
+void TopBar::measure()
+{
+    m_widths.clear();
+    for (int folds = 0; folds <= ZoomFold; ++folds) {
+        applyFolds(folds);
+        m_row->invalidate();
+        m_widths.append(m_row->sizeHint().width());
+    }
+    fold();
+    updateGeometry();
+}
+
+void TopBar::fold()
+{
+    int folds = 0;
+    while (folds < ZoomFold && m_widths.value(folds) > width())
+        ++folds;
+    applyFolds(folds);
+}
+
+QSize TopBar::sizeHint() const
+{
+    return {m_widths.value(0), topBarHeight};
+}
+
+QSize TopBar::minimumSizeHint() const
+{
+    return {m_widths.value(ZoomFold), topBarHeight};
+}
+
+void TopBar::resizeEvent(QResizeEvent *)
+{
+    fold();
+}
+
+void TopBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), themeColors().bar);
+    painter.fillRect(QRect(0, height() - 1, width(), 1), themeColors().border);
+}
+
+} // namespace board
