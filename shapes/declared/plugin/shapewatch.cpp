@@ -9,8 +9,6 @@ namespace declared {
 
 namespace {
 
-/// Milliseconds without a change after which a saved file is complete.
-constexpr int quietTime = 50;
 /// The system watches a limited number of files for a user; further ones are noticed when they are replaced.
 constexpr int mostFiles = 1000;
 
@@ -50,6 +48,15 @@ ShapeWatch::ShapeWatch(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &ShapeWatch::changed);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &ShapeWatch::tellLater);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &ShapeWatch::tellLater);
+}
+
+bool ShapeWatch::tellLater()
+{
+    m_waits = m_timer.isActive() ? m_waits + 1 : 1;
+    if (m_waits > mostWaits)
+        return false;
+    m_timer.start();
+    return true;
 }
 
 void ShapeWatch::watch(const QStringList &folders)

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void updateIsPlayed();
     void coresThatNoUndoStepNeedsAreDropped();
     void replacedFilesAreNoticed();
+    void fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond();
 
 private:
     /// Saves the file and has it read, as the watch does a moment later.
@@ -419,6 +420,20 @@ void TestReloading::replacedFilesAreNoticed()
     }
     QVERIFY(QFile::remove(m_machine->pathOf(name)));
     QTRY_VERIFY_WITH_TIMEOUT(!m_machine->registry().hasKind(barKind), 60000);
+}
+
+void TestReloading::fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond()
+{
+    ShapeWatch watch;
+    for (int wait = 0; wait < 5; ++wait)
+        QVERIFY(watch.tellLater());
+    QVERIFY(!watch.tellLater());
+    QVERIFY(!watch.tellLater());
+    QCOMPARE(ShapeWatch::quietTime * ShapeWatch::mostWaits, 250);
+    QSignalSpy told(&watch, &ShapeWatch::changed);
+    QVERIFY(told.wait());
+    QCOMPARE(told.count(), 1);
+    QVERIFY(watch.tellLater());
 }
 
 QTEST_MAIN(TestReloading)
