@@ -110,7 +110,8 @@ QStringList DeclaredPlugin::dataTypes() const
 
 CBaseObject *DeclaredPlugin::createFromData(const QString &mimeType, const QByteArray &data, QString &kindId) const
 {
-    const QByteArray text = mimeType == svgType ? declarationOfDrawing(textOf(data)) : QByteArray();
+    const QByteArray text =
+        mimeType == svgType ? declarationOfDrawing(textOf(data), droppedDrawing()) : QByteArray();
     const ShapeKind *kind = text.isEmpty() ? nullptr : m_library->remember(text, droppedId);
     if (!kind)
         return nullptr;

@@ -24,6 +24,10 @@ const QSet<QString> attributesOfPlace{QStringLiteral("viewBox"),     QStringLite
                                       QStringLiteral("y"),           QStringLiteral("id"),
                                       QStringLiteral("transform"),   QStringLiteral("version"),
                                       QStringLiteral("baseProfile"), QStringLiteral("preserveAspectRatio")};
+/// Beginnings of ids that declarations and the template of a shape give a meaning to.
+const QStringList meaningfulIds{QStringLiteral("control_"), QStringLiteral("label_"), QStringLiteral("figure"),
+                                QStringLiteral("declared_")};
+const QString penText = QStringLiteral("{pen}");
 const QStringList paints{QStringLiteral("fill"), QStringLiteral("stroke"), QStringLiteral("stop-color"),
                          QStringLiteral("flood-color"), QStringLiteral("lighting-color")};
 
@@ -47,11 +51,16 @@ QRectF boxOf(const SourceElement &root)
     return {QPointF(), size.isEmpty() ? QSizeF(usualSide, usualSide) : size};
 }
 
+bool isColour(const QString &paint)
+{
+    return !paint.isEmpty() && paint != QLatin1String("none") && paint != QLatin1String("inherit") &&
+           paint != QLatin1String("transparent");
+}
+
 void addColour(QSet<QString> &colours, const QString &value)
 {
     const QString colour = value.trimmed().toLower();
-    if (!colour.isEmpty() && colour != QLatin1String("none") && colour != QLatin1String("inherit") &&
-        colour != QLatin1String("transparent"))
+    if (isColour(colour))
         colours.insert(colour);
 }
 
@@ -94,11 +103,33 @@ QString number(double value)
     return QString::number(value, 'g', 10);
 }
 
+/// New ids by those that mean something in declarations.
+QMap<QString, QString> renamedIds(const QVector<SourceElement> &elements)
+{
+    QSet<QString> ids;
+    for (const SourceElement &element : elements)
+        ids.insert(element.value("id"));
+    QMap<QString, QString> renamed;
+    for (const QString &id : qAsConst(ids)) {
+        const bool hasMeaning = std::any_of(meaningfulIds.begin(), meaningfulIds.end(),
+                                            [&](const QString &beginning) { return id.startsWith(beginning); });
+        QString other = id;
+        while (hasMeaning && ids.contains(other))
+            other.prepend(QLatin1String("drawn_"));
+        if (hasMeaning)
+            renamed.insert(id, other);
+    }
+    return renamed;
+}
+
 class DrawingWriter
 {
 public:
-    explicit DrawingWriter(const QVector<SourceElement> &elements)
+    DrawingWriter(const QVector<SourceElement> &elements, const DrawingAbout &about)
         : m_elements(elements)
+        , m_about(about)
+        , m_renamed(renamedIds(elements))
+        , m_hasOneColour(hasOneColour(elements))
         , m_writer(&m_text)
     {
     }
@@ -106,10 +137,16 @@ public:
     QByteArray write();
 
 private:
+    void writeAbout();
     void writeAttributes(const SourceElement &element, const QSet<QString> &leftOut);
+    void writePlain(const SourceAttribute &attribute);
+    QString withNewIds(QString text) const;
     void writeContents(const SourceElement &element);
 
     const QVector<SourceElement> &m_elements;
+    const DrawingAbout &m_about;
+    const QMap<QString, QString> m_renamed;
+    const bool m_hasOneColour;
     QByteArray m_text;
     QXmlStreamWriter m_writer;
 };
@@ -127,17 +164,13 @@ QByteArray DrawingWriter::write()
     m_writer.writeAttribute(
         QStringLiteral("viewBox"),
         QStringLiteral("0 0 %1 %2").arg(number(box.width() * scale), number(box.height() * scale)));
-    m_writer.writeEmptyElement(shapeNamespace, QStringLiteral("about"));
-    m_writer.writeAttribute(QStringLiteral("id"), QStringLiteral("PlainDrawing"));
-    m_writer.writeAttribute(QStringLiteral("name"), QStringLiteral("Drawing"));
-    m_writer.writeAttribute(QStringLiteral("name.de"), QStringLiteral("Zeichnung"));
-    m_writer.writeAttribute(QStringLiteral("sizing"), QStringLiteral("stretch"));
-    m_writer.writeAttribute(QStringLiteral("smallest"), QStringLiteral("8 8"));
+    writeAbout();
     m_writer.writeStartElement(svgNamespace, QStringLiteral("g"));
+    m_writer.writeAttribute(QStringLiteral("id"), QStringLiteral("figure"));
     m_writer.writeAttribute(
         QStringLiteral("transform"),
         QStringLiteral("scale(%1) translate(%2 %3)").arg(number(scale), number(-box.x()), number(-box.y())));
-    if (!hasOneColour(m_elements))
+    if (!m_hasOneColour)
         m_writer.writeAttribute(shapeNamespace, QStringLiteral("keeps"), QStringLiteral("fill stroke"));
     writeAttributes(root, attributesOfPlace);
     writeContents(root);
@@ -146,18 +179,50 @@ QByteArray DrawingWriter::write()
     return m_text;
 }
 
+void DrawingWriter::writeAbout()
+{
+    m_writer.writeCharacters(QStringLiteral("\n"));
+    m_writer.writeEmptyElement(shapeNamespace, QStringLiteral("about"));
+    if (!m_about.id.isEmpty())
+        m_writer.writeAttribute(QStringLiteral("id"), m_about.id);
+    for (auto name = m_about.name.begin(); name != m_about.name.end(); ++name) {
+        const bool isEnglish = name.key() == QLatin1String("en");
+        m_writer.writeAttribute(QStringLiteral("name") + (isEnglish ? QString() : QLatin1Char('.') + name.key()),
+                                *name);
+    }
+    if (!m_about.group.isEmpty())
+        m_writer.writeAttribute(QStringLiteral("group"), m_about.group);
+    m_writer.writeAttribute(QStringLiteral("sizing"), QStringLiteral("stretch"));
+    m_writer.writeAttribute(QStringLiteral("smallest"), QStringLiteral("8 8"));
+    m_writer.writeCharacters(QStringLiteral("\n"));
+}
+
+/// References to renamed elements: links, paints, the selectors of a style sheet.
+QString DrawingWriter::withNewIds(QString text) const
+{
+    for (auto id = m_renamed.begin(); id != m_renamed.end(); ++id)
+        text.replace(QRegularExpression(QStringLiteral("#%1(?![\\w-])").arg(QRegularExpression::escape(id.key()))),
+                     QLatin1Char('#') + *id);
+    return text;
+}
+
+/// A line takes the pen's colour and keeps its own width, which belongs to the drawing.
+void DrawingWriter::writePlain(const SourceAttribute &attribute)
+{
+    const bool isId = attribute.name == QLatin1String("id");
+    m_writer.writeAttribute(attribute.name,
+                            isId ? m_renamed.value(attribute.value, attribute.value) : withNewIds(attribute.value));
+    if (attribute.name == QLatin1String("stroke") && m_hasOneColour && isColour(attribute.value.trimmed()))
+        m_writer.writeAttribute(shapeNamespace, attribute.name, penText);
+}
+
 void DrawingWriter::writeAttributes(const SourceElement &element, const QSet<QString> &leftOut)
 {
     for (const SourceAttribute &attribute : element.attributes) {
-        // Ids that mean something in declarations.
-        const bool isOfShapes =
-            attribute.name == QLatin1String("id") && attribute.value.startsWith(QLatin1String("control_"));
-        if (isOfShapes || (attribute.namespaceUri.isEmpty() && leftOut.contains(attribute.name)))
-            continue;
-        if (attribute.namespaceUri.isEmpty())
-            m_writer.writeAttribute(attribute.name, attribute.value);
+        if (attribute.namespaceUri.isEmpty() && !leftOut.contains(attribute.name))
+            writePlain(attribute);
         else if (attribute.namespaceUri == linkNamespace)
-            m_writer.writeAttribute(linkNamespace, attribute.name, attribute.value);
+            m_writer.writeAttribute(linkNamespace, attribute.name, withNewIds(attribute.value));
     }
 }
 
@@ -166,7 +231,8 @@ void DrawingWriter::writeContents(const SourceElement &element)
 {
     for (const SourceContent &content : element.contents) {
         if (content.element < 0) {
-            m_writer.writeCharacters(content.text);
+            m_writer.writeCharacters(element.name == QLatin1String("style") ? withNewIds(content.text)
+                                                                            : content.text);
             continue;
         }
         const SourceElement &child = m_elements.at(content.element);
@@ -181,20 +247,31 @@ void DrawingWriter::writeContents(const SourceElement &element)
 
 } // namespace
 
-QByteArray declarationOfDrawing(const QByteArray &svg)
+DrawingAbout droppedDrawing()
+{
+    return {
+        QStringLiteral("PlainDrawing"),
+        {{QStringLiteral("en"), QStringLiteral("Drawing")}, {QStringLiteral("de"), QStringLiteral("Zeichnung")}},
+        {}};
+}
+
+QByteArray declarationOfDrawing(const QByteArray &svg, const DrawingAbout &about, QVector<Message> *messages)
 {
     SourceTree tree;
-    QVector<Message> messages;
-    if (!tree.read(svg, messages))
+    QVector<Message> ignored;
+    QVector<Message> &told = messages ? *messages : ignored;
+    if (!tree.read(svg, told))
         return {};
     const QVector<SourceElement> &elements = tree.elements();
     const SourceElement &root = elements.first();
-    if (root.name != QLatin1String("svg") || root.namespaceUri != svgNamespace)
+    if (root.name != QLatin1String("svg") || root.namespaceUri != svgNamespace) {
+        told.append({Message::Error, QStringLiteral("C02"), 1, 1, QStringLiteral("there is no svg root")});
         return {};
+    }
     const bool isDeclared = std::any_of(elements.begin(), elements.end(), [](const SourceElement &element) {
         return element.namespaceUri == shapeNamespace;
     });
-    return isDeclared ? svg : DrawingWriter(elements).write();
+    return isDeclared ? svg : DrawingWriter(elements, about).write();
 }
 
 } // namespace declared

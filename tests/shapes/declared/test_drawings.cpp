@@ -24,6 +24,8 @@ private Q_SLOTS:
     void iconFollowsPenAndFill();
     void drawingOfSeveralColoursKeepsThem_data();
     void drawingOfSeveralColoursKeepsThem();
+    void idsOfADrawingMeanNothing();
+    void widthOfALineBelongsToTheDrawing();
     void compressedDrawingIsRead();
     void boardWithADrawingOpensElsewhere();
     void droppedShapeFileIsThatShape();
@@ -159,6 +161,35 @@ void TestDrawings::drawingOfSeveralColoursKeepsThem()
     pagehost::setFill({object}, QColor("#ff0000"));
     QCOMPARE(colourAt({0.25, 0.5}), QColor("#0000ff"));
     QCOMPARE(colourAt({0.75, 0.5}), QColor("#ffff00"));
+}
+
+void TestDrawings::idsOfADrawingMeanNothing()
+{
+    // A clip path, a gradient, a text and a rectangle, named like parts of a shape.
+    DeclaredObject *object = drop(
+        drawing("viewBox='0 0 16 16'",
+                "<style>#label_2{fill:url(#label_1)}</style><clipPath id='control_1'><rect width='8' "
+                "height='16'/></clipPath><linearGradient id='label_1'><stop stop-color='#00f'/></linearGradient>"
+                "<rect id='figure' clip-path='url(#control_1)' width='16' height='8' fill='#0f0'/>"
+                "<rect id='label_2' y='8' width='16' height='8'/><text id='label_3' y='40'>none</text>"));
+    QVERIFY(object);
+    const Declaration &declaration = object->shapeKind().declaration();
+    QCOMPARE(declaration.points.size(), 0);
+    QCOMPARE(declaration.labels.size(), 0);
+    QCOMPARE(colourAt({0.25, 0.25}), QColor("#00ff00"));
+    QCOMPARE(colourAt({0.75, 0.25}), QColor(Qt::white));
+    QCOMPARE(colourAt({0.75, 0.75}), QColor("#0000ff"));
+}
+
+void TestDrawings::widthOfALineBelongsToTheDrawing()
+{
+    DeclaredObject *line = drop(
+        drawing("viewBox='0 0 16 16' fill='none' stroke='currentColor' stroke-width='4'", "<path d='M0 8H16'/>"));
+    pagehost::setPenWidth({line}, 1);
+    // 30 of 120 wide.
+    QCOMPARE(colourAt({0.5, 0.6}), colourAt({0.5, 0.5}));
+    QVERIFY(colourAt({0.5, 0.6}) != QColor(Qt::white));
+    QCOMPARE(colourAt({0.5, 0.65}), QColor(Qt::white));
 }
 
 void TestDrawings::compressedDrawingIsRead()
