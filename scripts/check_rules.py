@@ -119,7 +119,7 @@ ROOMS = {
         "objects": "look",
         "page": "look",
         "core": "look page",
-        "commands": "look page core",
+        "commands": "look objects page core",
         "clipboard": "look output objects page core",
         "documents": "look core",
         "lessons": "look output page core",

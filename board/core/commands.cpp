@@ -144,6 +144,11 @@ void Commands::setEditingBlocked(bool blocked)
     m_editing->setEnabled(!blocked);
 }
 
+bool Commands::isEditingBlocked() const
+{
+    return !m_editing->isEnabled();
+}
+
 void Commands::setKeys(Command command, const QList<QKeySequence> &keys)
 {
     for (const QKeySequence &key : keys) {

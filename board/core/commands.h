@@ -38,6 +38,7 @@ public:
 
     /// While blocked, commands that change the board are off, with their keys: a lesson is shown.
     void setEditingBlocked(bool blocked);
+    bool isEditingBlocked() const;
 
     /// @name Keys, remembered in the settings
     /// @{

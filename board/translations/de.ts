@@ -1015,5 +1015,93 @@
         <source>More</source>
         <translation>Mehr</translation>
     </message>
+    <message>
+        <source>Nothing called “%1”.</source>
+        <translation>Nichts heißt „%1“.</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Befehle und Tasten suchen</translation>
+    </message>
+    <message>
+        <source>New key:</source>
+        <translation>Neue Taste:</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Add it</source>
+        <translation>Hinzunehmen</translation>
+    </message>
+    <message>
+        <source>No keys</source>
+        <translation>Keine Tasten</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset all</source>
+        <translation>Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Letters and digits choose tools while nothing is typed</source>
+        <translation>Buchstaben und Ziffern wählen Werkzeuge, solange nichts getippt wird</translation>
+    </message>
+    <message>
+        <source>%1 belongs to “%2”, which will lose it.</source>
+        <translation>%1 gehört zu „%2“ und wird dort entfernt.</translation>
+    </message>
+    <message>
+        <source>full screen slideshow lecture</source>
+        <translation>Vollbild Präsentation Vortrag</translation>
+    </message>
+    <message>
+        <source>clone twice</source>
+        <translation>klonen verdoppeln</translation>
+    </message>
+    <message>
+        <source>unlock fix pin protect</source>
+        <translation>entsperren fixieren schützen</translation>
+    </message>
+    <message>
+        <source>flip across</source>
+        <translation>kippen waagerecht</translation>
+    </message>
+    <message>
+        <source>flip up down</source>
+        <translation>kippen senkrecht</translation>
+    </message>
+    <message>
+        <source>turn quarter 90</source>
+        <translation>drehen Vierteldrehung 90</translation>
+    </message>
+    <message>
+        <source>remove erase</source>
+        <translation>entfernen</translation>
+    </message>
+    <message>
+        <source>shortcuts keyboard hotkeys</source>
+        <translation>Tastenkürzel Tastatur</translation>
+    </message>
+    <message>
+        <source>format painter</source>
+        <translation>Format übertragen</translation>
+    </message>
+    <message>
+        <source>theme night</source>
+        <translation>Thema Nacht</translation>
+    </message>
+    <message>
+        <source>arrow pointer</source>
+        <translation>Pfeil Zeiger</translation>
+    </message>
+    <message>
+        <source>zoom whole</source>
+        <translation>Zoom ganze</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
 #include "commands/contextmenus.h"
+#include "commands/helpcommands.h"
 #include "commands/menuplan.h"
 #include "core/actions.h"
 #include "core/commands.h"
@@ -122,6 +123,8 @@ MainWindow::MainWindow(Workspace *workspace)
     new ToolCommands(m_commands, m_tools, this);
     auto *contextMenus = new ContextMenus(m_workspace, m_commands, m_view, this);
     contextMenus->addThumbnails(m_pages->list());
+    const auto *help = new HelpCommands(m_workspace, m_commands, this);
+    connect(help, &HelpCommands::kindChosen, this, &MainWindow::beginCreation);
     new ShapeNotices(m_workspace, m_notices, this);
     showPluginProblems();
     showTitle();
