@@ -79,6 +79,11 @@ COMPONENTS = [
         prefixes=("declared/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h",),
     ),
+    Component(
+        ["shapes/ink"],
+        prefixes=("ink/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
+        headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
+    ),
     Component(["shapes"], prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"), own=("shapes",)),
     Component(["board"], prefixes=("framework/", "pagehost/"), own=("board",), qt=frozenset({"QtPrintSupport"})),
 ]

@@ -71,11 +71,12 @@ void PageView::setPage(pagehost::Page *page)
 {
     if (page == m_page)
         return;
-    cancel();
-    m_nudging.finish();
-    endWriting();
-    if (m_page)
+    m_band.cancel();
+    settle();
+    if (m_page) {
+        m_page->select({});
         disconnect(m_page, nullptr, this, nullptr);
+    }
     m_page = page;
     setScene(page ? page->scene() : nullptr);
     Q_EMIT pageShown();

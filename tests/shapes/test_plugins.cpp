@@ -71,6 +71,7 @@ constexpr KnownShape knownShapes[] = {
     {"pendulum", 36, 1, "Pendulum", "Pendel", "Science"},
     {"spring", 37, 1, "Spring", "Feder", "Science"},
     {"gears", 38, 0, "Gears", "Zahnräder", "Science"},
+    {"ink", 41, 0, "Stroke", "Strich", ""},
     {"table", 1000, 1, "Table", "Tabelle", "Basic shapes"},
 };
 

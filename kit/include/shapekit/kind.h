@@ -12,8 +12,8 @@ namespace shapekit {
 /// Makes a shape core for a page object.
 using CoreFactory = std::function<CSVGBase *(CSVGObj *owner)>;
 
-/// The groups of the palette.
-enum class Group { Basic, Mathematics, Science };
+/// The groups of the palette; None for kinds that only tools make.
+enum class Group { Basic, Mathematics, Science, None };
 
 /// Description of the one shape of a plug-in.
 struct Kind

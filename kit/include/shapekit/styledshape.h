@@ -111,14 +111,14 @@ protected:
     bool isBeingLoaded = false;
 
     bool isFilledByPageObject() const;
+    /// The mapping of the drawing to the page object as it is seen: mirroring is part of how a shape is painted.
+    QTransform seenMapping();
     /// The mapping that stretches a non-empty view box over a rectangle.
     static QTransform stretching(const QRectF &box, const QRectF &target);
     /// A node of the template; null when no node has that id.
     QZeSvgNode *node(const char *id) const;
 
 private:
-    /// The mapping of the drawing to the page object as it is seen: mirroring is part of how a shape is painted.
-    QTransform seenMapping();
     void writeConnections(QDataStream &out);
     void writeLabels(QDataStream &out);
     bool writeLabel(QDataStream &in, bool record);

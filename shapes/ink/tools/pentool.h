@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ink/core/strokedata.h"
+
+#include <pagehost/pagetool.h>
+
+namespace ink {
+
+class Ink;
+
+/// Draws strokes, one undo step each. Shift, or holding the pen still, makes a stroke a straight line.
+class PenTool : public pagehost::PageTool
+{
+public:
+    /// A highlighter draws with translucent ink.
+    PenTool(pagehost::ToolPage *page, bool isHighlighter);
+
+    void setStyle(const pagehost::ToolStyle &style) override;
+    QCursor cursor(double pixel) const override;
+    void press(const pagehost::ToolPointer &pointer) override;
+    void move(const pagehost::ToolPointer &pointer) override;
+    void release(const pagehost::ToolPointer &pointer) override;
+    bool isDrawing() const override { return m_stroke != nullptr; }
+    bool cancel() override;
+    int stillTime() const override;
+    void heldStill() override;
+
+private:
+    void follow(const pagehost::ToolPointer &pointer);
+    void show();
+
+    pagehost::ToolPage *m_page;
+    bool m_isHighlighter;
+    QColor m_color;
+    double m_width = 1;
+    Ink *m_stroke = nullptr; ///< while it is drawn
+    QVector<StrokePoint> m_points;
+    bool m_isStraight = false; ///< since the pen was held still
+    bool m_hasShift = false;
+};
+
+} // namespace ink
