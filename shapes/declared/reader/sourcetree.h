@@ -46,6 +46,7 @@ public:
 
     /// In document order; the first one is the root.
     const QVector<SourceElement> &elements() const { return m_elements; }
+    const QString &text() const { return m_text; }
     Place placeOf(int offset) const { return declared::placeOf(m_text, offset); }
     /// The place of a character of an attribute's value; references such as "&lt;" are one character of it.
     Place placeIn(const SourceAttribute &attribute, int offset) const;

@@ -51,8 +51,11 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList examples{QStringLiteral("roundedrectangle"), QStringLiteral("blockarrow"), QStringLiteral("star"),
-                           QStringLiteral("numberline"), QStringLiteral("clock")};
+const QStringList examples{
+    QStringLiteral("roundedrectangle"), QStringLiteral("blockarrow"), QStringLiteral("star"),
+    QStringLiteral("numberline"),       QStringLiteral("clock"),      QStringLiteral("nut"),
+    QStringLiteral("speechcloud"),      QStringLiteral("barchart"),   QStringLiteral("spiral"),
+    QStringLiteral("trafficlight")};
 
 void addExampleRows()
 {
@@ -315,6 +318,7 @@ void TestExamples::undoBringsEveryByteBack()
     shape.select();
     shape.undoStack().clear();
     const QByteArray before = savedBytes(shape);
+    answer(shape, R"({"idDeclared_cycle": "20"})");
     for (int number = 1; number <= shape.controlPointCount(); ++number) {
         shape.dragControlPoint(number, {-17.3, 9.1});
         shape.dragControlPoint(number, {40.7, -23.9});

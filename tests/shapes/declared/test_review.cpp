@@ -2,6 +2,7 @@
 
 #include "shapefile.h"
 
+#include <declared/core/declaredlook.h>
 #include <declared/core/review.h>
 
 #include <shapekit/shapeobject.h>
@@ -30,6 +31,10 @@ private Q_SLOTS:
     void faultIsToldOnce();
     void examplesAndInstalledFilesAreFine_data();
     void examplesAndInstalledFilesAreFine();
+    void fileGetsItsDeclaredLook_data();
+    void fileGetsItsDeclaredLook();
+    void soundFilesStayAsTheyAre_data() { examplesAndInstalledFilesAreFine_data(); }
+    void soundFilesStayAsTheyAre();
 };
 
 namespace {
@@ -191,6 +196,48 @@ void TestReview::examplesAndInstalledFilesAreFine()
     for (const Message &message : all)
         told.append(message.told(QFileInfo(path).fileName()));
     QVERIFY2(told.isEmpty(), qPrintable(told.join(QLatin1Char('\n'))));
+}
+
+void TestReview::fileGetsItsDeclaredLook_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("look");
+    const auto row = [](const QByteArray &content, const QByteArray &look) {
+        QTest::newRow(content.constData()) << content << look;
+    };
+    row("<path fill='none' stroke='#000' d='M0 0' shape:d='M3 3H{w / 2}'/> <!-- kept -->",
+        "<path fill='none' stroke='#000' d='M3 3H60' shape:d='M3 3H{w / 2}'/> <!-- kept -->");
+    row("<circle shape:r='{w / 12}' cx='60' cy='40'/>", "<circle r=\"10\" shape:r='{w / 12}' cx='60' cy='40'/>");
+    row("<text x='9' y='40' shape:x='{w / 2}' shape:text='{w} &lt;'>100</text>",
+        "<text x='60' y='40' shape:x='{w / 2}' shape:text='{w} &lt;'>120 &lt;</text>");
+    row("<rect id='control_1' x='1' y='36' width='8' height='8' shape:range-x='w / 2' shape:range-y='h / 2'/>",
+        "<rect id='control_1' x='56' y='36' width='8' height='8' shape:range-x='w / 2' shape:range-y='h / 2'/>");
+    row("<g shape:repeat='i in 0..2'>\n  <path d='M3 3H9' stroke='#000' shape:d='M3 {3 + i}H9'/>\n</g>",
+        "<g shape:repeat='i in 0..2'>\n  <path d='M3 3H9' stroke='#000' shape:d='M3 {3 + i}H9'/>\n"
+        "  <path d=\"M3 4H9\" stroke=\"#000\"/>\n  <path d=\"M3 5H9\" stroke=\"#000\"/>\n</g>");
+    row("<g shape:repeat='i in 0..0'><text x='9' y='40' shape:text='{i}'>5</text><text>6</text></g>",
+        "<g shape:repeat='i in 0..0'><text x='9' y='40' shape:text='{i}'>0</text></g>");
+}
+
+void TestReview::fileGetsItsDeclaredLook()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, look);
+    const QByteArray file = declaredtest::fileOf(figure + content);
+    const ShapeKind kind(declaredtest::readOf(file));
+    const QByteArray written = withDeclaredLook(kind, file);
+    QCOMPARE(written, declaredtest::fileOf(figure + look));
+    QCOMPARE(withDeclaredLook(kind, written), written);
+}
+
+void TestReview::soundFilesStayAsTheyAre()
+{
+    QFETCH(QString, path);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    const ShapeKind kind(readShape(bytes, QFileInfo(path).baseName()));
+    QCOMPARE(withDeclaredLook(kind, bytes), bytes);
 }
 
 QTEST_MAIN(TestReview)
