@@ -125,6 +125,7 @@ ROOMS = {
         "page": "look",
         "core": "look page",
         "commands": "look objects page core",
+        "presenting": "look page core",
         "clipboard": "look output objects page core",
         "documents": "look core",
         "lessons": "look output page core",
@@ -134,9 +135,10 @@ ROOMS = {
         "panels/forms": "look core panels panels/editors",
         "panels/settings": "core panels/editors panels/forms",
         "panels/properties": "core panels/editors panels/forms panels/settings",
-        "window": "look output page core commands clipboard documents lessons tools panels panels/settings "
+        "window": "look output page core commands presenting clipboard documents lessons tools panels panels/settings "
         "panels/properties",
-        "application": "look output objects page core documents lessons panels panels/settings panels/properties window",
+        "application": "look output objects page core presenting documents lessons panels panels/settings "
+        "panels/properties window",
         "": "application",
     },
 }

@@ -40,6 +40,7 @@ struct Parser
                              "factor", "1"};
     QCommandLineOption play{"play", "Play the lesson of the file; with --export, write the pages as it leaves them "
                                     "(several lessons: a folder for each)."};
+    QCommandLineOption present{"present", "Present the file, else --demo, over the whole screen."};
     QCommandLineOption demo{"demo", "Open with pages that show every shape there is."};
     QCommandLineOption language{
         "language", QStringLiteral("Language of the user interface: %1.").arg(languageChoice()), "code"};
@@ -58,7 +59,7 @@ struct Parser
         screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
         state.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOptions(
-            {plugins, shapes, exportPages, format, scale, play, demo, language, dark, screenshot, state});
+            {plugins, shapes, exportPages, format, scale, play, present, demo, language, dark, screenshot, state});
     }
 };
 
@@ -120,6 +121,7 @@ Options optionsOf(const Parser &p)
     options.screenshotFile = p.parser.value(p.screenshot);
     options.screenshotState = p.parser.value(p.state);
     options.play = p.parser.isSet(p.play);
+    options.present = p.parser.isSet(p.present);
     options.demo = p.parser.isSet(p.demo);
     options.dark = p.parser.isSet(p.dark);
     options.language = p.parser.value(p.language);

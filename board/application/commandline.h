@@ -23,6 +23,7 @@ struct Options
     QString screenshotFile;
     QString screenshotState; ///< "empty", "shapes", "selection", "drag", "recording" or "playing"
     bool play = false;       ///< the file's lessons
+    bool present = false;    ///< the file, over the whole screen
     bool demo = false;
     bool dark = false;
     QString language; ///< empty for that of the system

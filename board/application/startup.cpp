@@ -12,6 +12,7 @@
 #include "lessons/lessonexport.h"
 #include "look/theme.h"
 #include "output/pageexport.h"
+#include "presenting/presentation.h"
 #include "window/mainwindow.h"
 
 #include <QtCore/QFileInfo>
@@ -125,6 +126,8 @@ int openWindow(Workspace &workspace, const Options &options)
     window.recovery()->offer();
     if (options.play)
         window.lessons()->playOrPause();
+    if (options.present)
+        window.presentation()->start();
     const int code = QApplication::exec();
     rememberWindow(&window);
     return code;

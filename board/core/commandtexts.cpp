@@ -80,6 +80,14 @@ QVector<TextEntry> commandTexts()
         {"IDS_BOARD_DARK_WORDS", QT_TRANSLATE_NOOP("board", "theme night")},
         {"IDS_TOOL_SELECT_WORDS", QT_TRANSLATE_NOOP("board", "arrow pointer")},
         {"IDS_BOARD_FIT_PAGE_WORDS", QT_TRANSLATE_NOOP("board", "zoom whole")},
+        {"IDS_BOARD_CURTAIN", QT_TRANSLATE_NOOP("board", "Curtain")},
+        {"IDS_BOARD_END_PRESENTING", QT_TRANSLATE_NOOP("board", "End presenting")},
+        {"IDS_BOARD_NEXT_IS", QT_TRANSLATE_NOOP("board", "Next: page %1")},
+        {"IDS_BOARD_NEXT_IS_NONE", QT_TRANSLATE_NOOP("board", "This is the last page")},
+        {"IDS_BOARD_SINCE_START", QT_TRANSLATE_NOOP("board", "since the start")},
+        {"IDS_BOARD_TIME_OF_DAY", QT_TRANSLATE_NOOP("board", "time of day")},
+        {"IDS_BOARD_END_WITH_KEY", QT_TRANSLATE_NOOP("board", "End (Esc)")},
+        {"IDS_BOARD_ON_OTHER_SCREEN", QT_TRANSLATE_NOOP("board", "Presenting on the other screen")},
     };
 }
 

@@ -56,7 +56,9 @@ enum class Icon {
     More,
     Pin,
     Search,
-    Lock
+    Lock,
+    Curtain,
+    EndPresenting
 };
 
 } // namespace board

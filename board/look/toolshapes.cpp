@@ -12,6 +12,26 @@ IconShape selectShape()
     return shape;
 }
 
+IconShape curtainShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{3.5, 4.5}, {20.5, 4.5}});
+    for (const double x : {5.0, 9.7, 14.3, 19.0})
+        addPolyline(shape.lines, {{x, 4.5}, {x, 19.5}});
+    addPolyline(shape.lines, {{5, 15}, {19, 15}});
+    return shape;
+}
+
+IconShape endPresentingShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{9, 3.5}, {9, 9}, {3.5, 9}});
+    addPolyline(shape.lines, {{15, 3.5}, {15, 9}, {20.5, 9}});
+    addPolyline(shape.lines, {{9, 20.5}, {9, 15}, {3.5, 15}});
+    addPolyline(shape.lines, {{15, 20.5}, {15, 15}, {20.5, 15}});
+    return shape;
+}
+
 IconShape penShape()
 {
     IconShape shape;
@@ -240,6 +260,10 @@ IconShape toolShape(Icon which)
         return searchShape();
     case Icon::Lock:
         return lockShape();
+    case Icon::Curtain:
+        return curtainShape();
+    case Icon::EndPresenting:
+        return endPresentingShape();
     default:
         return {};
     }

@@ -91,6 +91,12 @@ void PageView::setPage(pagehost::Page *page)
         page->document()->setZoomRate(m_zoom);
 }
 
+void PageView::setBare(bool bare)
+{
+    m_isBare = bare;
+    m_fitted ? showFitted() : viewport()->update();
+}
+
 void PageView::setEmptyHint(const EmptyHint &hint)
 {
     m_hint = hint;
@@ -153,10 +159,11 @@ void PageView::showFitted()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int margin = height() < lowHeight ? lowMargin : usualMargin;
-    const QSizeF room = viewport()->size() - QSize(m_shelfMargin + sideMargin, 2 * margin);
+    const QSize margins = m_isBare ? QSize(0, 0) : QSize(m_shelfMargin + sideMargin, 2 * margin);
+    const QSizeF room = viewport()->size() - margins;
     const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
     applyZoom(qBound(smallestZoom, rate, largestZoom));
-    const double aside = (sideMargin - m_shelfMargin) / 2.0 / m_zoom;
+    const double aside = m_isBare ? 0 : (sideMargin - m_shelfMargin) / 2.0 / m_zoom;
     centerOn(m_page->rect().center() + QPointF(m_shelfEdge == Qt::RightEdge ? -aside : aside, 0));
 }
 
@@ -500,12 +507,21 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 {
     const ThemeColors colors = themeColors();
     const double margin = repaintMargin / m_zoom;
-    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), colors.desk);
+    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), m_isBare ? QColor(Qt::black) : colors.desk);
     if (!m_page)
         return;
+    if (!m_isBare)
+        paintShadow(painter);
+    // A background that can be seen through lies on paper, not on its shadow.
+    painter->fillRect(m_page->rect(), paperColor);
+    QGraphicsView::drawBackground(painter, rect);
+}
+
+void PageView::paintShadow(QPainter *painter) const
+{
     painter->save();
     painter->setPen(Qt::NoPen);
-    QColor shadow = colors.pageShadow;
+    QColor shadow = themeColors().pageShadow;
     shadow.setAlpha(shadow.alpha() / shadowSize);
     painter->setBrush(shadow);
     for (int i = 1; i <= shadowSize; ++i) {
@@ -513,15 +529,12 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
         painter->drawRoundedRect(m_page->rect().adjusted(-grow, -grow / 2, grow, grow * 1.5), grow, grow);
     }
     painter->restore();
-    // A background that can be seen through lies on paper, not on its shadow.
-    painter->fillRect(m_page->rect(), paperColor);
-    QGraphicsView::drawBackground(painter, rect);
 }
 
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (!isEditable() || m_page->objectCount() > 0 || m_page->scene()->isBusy())
+    if (m_isBare || !isEditable() || m_page->objectCount() > 0 || m_page->scene()->isBusy())
         return;
     QPainter painter(viewport());
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);

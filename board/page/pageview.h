@@ -40,6 +40,8 @@ public:
     pagehost::Page *page() const { return m_page; }
     /// False while the page only plays a lesson.
     bool isEditable() const;
+    /// Shows nothing but the page, as large as it fits, on black.
+    void setBare(bool bare);
     void setEmptyHint(const EmptyHint &hint);
 
     /// Scene units to logical pixels.
@@ -118,6 +120,7 @@ private:
     bool nudge(const QKeyEvent *event);
     void applyZoom(double rate);
     void updateSceneArea();
+    void paintShadow(QPainter *painter) const;
     void showFitted();
 
     QPointer<pagehost::Page> m_page;
@@ -129,6 +132,7 @@ private:
     Qt::Edge m_shelfEdge = Qt::TopEdge;
     int m_shelfMargin = 0; ///< between it and the page, logical pixels
     bool m_fitted = true;
+    bool m_isBare = false;
     bool m_spaceDown = false;
     bool m_panning = false;
     bool m_showsHint = false;

@@ -976,6 +976,38 @@
         <translation>Vorführen</translation>
     </message>
     <message>
+        <source>Curtain</source>
+        <translation>Vorhang</translation>
+    </message>
+    <message>
+        <source>End presenting</source>
+        <translation>Vorführung beenden</translation>
+    </message>
+    <message>
+        <source>Next: page %1</source>
+        <translation>Nächste: Seite %1</translation>
+    </message>
+    <message>
+        <source>This is the last page</source>
+        <translation>Dies ist die letzte Seite</translation>
+    </message>
+    <message>
+        <source>since the start</source>
+        <translation>seit Beginn</translation>
+    </message>
+    <message>
+        <source>time of day</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>End (Esc)</source>
+        <translation>Beenden (Esc)</translation>
+    </message>
+    <message>
+        <source>Presenting on the other screen</source>
+        <translation>Vorführung auf dem anderen Bildschirm</translation>
+    </message>
+    <message>
         <source>Present from page 1</source>
         <translation>Von Seite 1 an vorführen</translation>
     </message>

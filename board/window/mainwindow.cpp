@@ -30,6 +30,7 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
+#include "presenting/presentation.h"
 #include "tools/toolbox.h"
 #include "tools/toolsettings.h"
 #include "window/dock.h"
@@ -100,6 +101,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_toolSettings(new ToolSettings(this))
     , m_lock(m_view)
     , m_dialogs(workspace, this)
+    , m_presentation(new Presentation(workspace, m_commands, m_tools, m_view, this))
     , m_topBar(new TopBar(workspace, m_actions, m_view, this))
     , m_dock(new Dock(workspace, m_commands, m_tools))
     , m_hint(new HintPill(m_view))
@@ -111,6 +113,7 @@ MainWindow::MainWindow(Workspace *workspace)
     addMenus();
     addPanels();
     m_topBar->addCommand(m_lessonMenu->record);
+    m_topBar->addCommand(m_commands->action(Command::Present));
     for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages()})
         m_lock.add(part);
     connectParts();

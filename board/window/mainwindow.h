@@ -32,6 +32,7 @@ class LessonMenu;
 class Notices;
 class PagePanel;
 class PageView;
+class Presentation;
 class PalettePanel;
 class PropertyPanel;
 class Recovery;
@@ -58,6 +59,7 @@ public:
     Actions *actions() const { return m_actions; }
     PagePanel *pages() const { return m_pages; }
     PalettePanel *palettePanel() const { return m_palette; }
+    Presentation *presentation() const { return m_presentation; }
     Notices *notices() const { return m_notices; }
     DocumentController *documents() const { return m_documents; }
     Recovery *recovery() const { return m_recovery; }
@@ -130,6 +132,7 @@ private:
     ToolSettings *m_toolSettings;
     EditingLock m_lock;
     FileDialogs m_dialogs;
+    Presentation *m_presentation;
     TopBar *m_topBar;
     Dock *m_dock;
     HintPill *m_hint;

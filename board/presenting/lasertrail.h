@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QPointF>
+#include <QtCore/QVector>
+
+namespace board {
+
+/// The places where a laser pointer was within the last second. Times are milliseconds of any clock.
+class LaserTrail
+{
+public:
+    static constexpr qint64 duration = 1000;
+
+    struct Place
+    {
+        QPointF pos;        ///< scene coordinates
+        double opacity = 1; ///< from 1 for a new place down to 0
+    };
+
+    void add(const QPointF &pos, qint64 now);
+    /// Oldest first; forgets those that have faded.
+    QVector<Place> places(qint64 now);
+    void clear() { m_points.clear(); }
+
+private:
+    struct Point
+    {
+        QPointF pos;
+        qint64 time;
+    };
+    QVector<Point> m_points;
+};
+
+} // namespace board

@@ -1,0 +1,97 @@
+#include "presenting/stage.h"
+
+#include "core/commands.h"
+#include "core/toolchoice.h"
+#include "page/pageview.h"
+#include "presenting/curtain.h"
+#include "presenting/laserpointer.h"
+
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+Stage::Stage(Commands *commands, ToolChoice *tools, QWidget *parent)
+    : QWidget(parent)
+    , m_commands(commands)
+    , m_tools(tools)
+    , m_view(new PageView(this))
+    , m_curtain(new Curtain(m_view->viewport()))
+    , m_laser(new LaserPointer(m_view, tools))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_view);
+    setFocusProxy(m_view);
+    m_view->setBare(true);
+    m_view->installEventFilter(this);
+    connect(m_view, &PageView::toolGivenUp, tools, [tools] { tools->choose(Tool::Select); });
+}
+
+bool Stage::eventFilter(QObject *, QEvent *event)
+{
+    return event->type() == QEvent::KeyPress && useKey(*static_cast<QKeyEvent *>(event));
+}
+
+/// Beside the commands' keys, those of clickers; arrows move a selected object instead.
+bool Stage::useKey(const QKeyEvent &event)
+{
+    const bool hasSelection = m_view->page() && !m_view->page()->selectedObjects().isEmpty();
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        return !hasSelection && turn(false);
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return !hasSelection && turn(true);
+    case Qt::Key_PageUp:
+        return turn(false);
+    case Qt::Key_PageDown:
+        return turn(true);
+    case Qt::Key_Space:
+        return turn(!(event.modifiers() & Qt::ShiftModifier));
+    case Qt::Key_Home:
+        return run(Command::FirstPage);
+    case Qt::Key_End:
+        return run(Command::LastPage);
+    case Qt::Key_B:
+    case Qt::Key_Period:
+        m_curtain->setDrawn(!m_curtain->isDrawn());
+        return true;
+    case Qt::Key_Escape:
+        return escape();
+    default:
+        return false;
+    }
+}
+
+bool Stage::turn(bool forwards)
+{
+    return run(forwards ? Command::NextPage : Command::PreviousPage);
+}
+
+bool Stage::run(Command command)
+{
+    m_commands->action(command)->trigger();
+    return true;
+}
+
+/// False while the view has something to take back first.
+bool Stage::escape()
+{
+    if (m_tools->tool() == Tool::Laser) {
+        m_tools->choose(Tool::Select);
+        return true;
+    }
+    const pagehost::Page *page = m_view->page();
+    if (page && (page->scene()->isBusy() || page->scene()->tool() || !page->selectedObjects().isEmpty()))
+        return false;
+    Q_EMIT endRequested();
+    return true;
+}
+
+} // namespace board
