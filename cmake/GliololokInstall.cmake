@@ -15,12 +15,25 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololokConfig.cmake"
         DESTINATION "${GLIOLOLOK_CMAKE_DIR}" COMPONENT development)
 install(EXPORT gliololok FILE gliololokTargets.cmake NAMESPACE gliololok:: DESTINATION "${GLIOLOLOK_CMAKE_DIR}"
         COMPONENT development)
+if(GLIOLOLOK_REFERENCE_HOST)
+    install(EXPORT gliololok_kit FILE gliololokKitTargets.cmake NAMESPACE gliololok::
+            DESTINATION "${GLIOLOLOK_CMAKE_DIR}" COMPONENT development)
+    install(FILES cmake/GliololokShape.cmake kit/plugin/shapeplugin.cpp DESTINATION "${GLIOLOLOK_CMAKE_DIR}"
+            COMPONENT development)
+endif()
 
 # The file derives its prefix from its own location, so that an installation can be moved.
 if(GLIOLOLOK_REFERENCE_HOST)
     set(GLIOLOLOK_PC_HOST_LIBRARIES "-lframework -lsvgbase")
 endif()
 file(RELATIVE_PATH GLIOLOLOK_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
-configure_file("${CMAKE_CURRENT_SOURCE_DIR}/packaging/gliololok.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/gliololok.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
-        COMPONENT development)
+set(packages gliololok)
+if(GLIOLOLOK_REFERENCE_HOST)
+    list(APPEND packages gliololok-shapekit)
+endif()
+foreach(package IN LISTS packages)
+    configure_file("${CMAKE_CURRENT_SOURCE_DIR}/packaging/${package}.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc"
+                   @ONLY)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+            COMPONENT development)
+endforeach()

@@ -1,58 +1,38 @@
-#include "speechbubble.h"
+#include <shapekit/shape.h>
 
-#include <svgbase/qzesvgtinydocument.h>
+using namespace shapekit;
 
-#include <QtCore/QFile>
+namespace {
 
-SpeechBubble::SpeechBubble(CSVGObj *owner)
-    : CSVGBase(owner)
+const Text thoughtText("Thought", "Gedanke");
+
+/// A bubble whose tip the user drags to the person who is speaking, or thinking.
+class SpeechBubble : public ShapeOfType<101, Shape::Stretched>
 {
-    keepAspectRatio = false;
-    propPenStyleEnabled = true;
-    propPenWidthEnabled = true;
-    propFillEnabled = true;
-    controlPointSize /= zoomRate; // in pixels up to here; later changes of the zoom are followed
-}
+public:
+    using ShapeOfType::ShapeOfType;
 
-QString SpeechBubble::getSVG()
-{
-    QFile file(QStringLiteral(":/speechbubble/template.svg"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
+protected:
+    void draw() override
+    {
+        PathText bubble;
+        bubble.moveTo({20, 5}).lineTo({120, 5}).arcTo(15, {135, 20});
+        bubble.lineTo({135, 52}).arcTo(15, {120, 67});
+        if (!thought)
+            bubble.lineTo({68, 67}).lineTo(point(1)).lineTo({44, 67});
+        bubble.lineTo({20, 67}).arcTo(15, {5, 52});
+        bubble.lineTo({5, 20}).arcTo(15, {20, 5}).close();
+        const QPointF middle = (QPointF(56, 67) + point(1)) / 2;
+        if (thought)
+            bubble.ellipse(QRectF(-4, -4, 8, 8).translated(middle))
+                .ellipse(QRectF(-2, -2, 4, 4).translated(point(1)));
+        setPath("figure", bubble);
+    }
 
-bool SpeechBubble::loadSVG(bool initGlobals)
-{
-    const bool loaded = CSVGBase::loadSVG(initGlobals);
-    // The user's fill applies to the bubble; the dots keep their own.
-    for (const char *id : {"dot_1", "dot_2", "dot_3"})
-        document->namedNode(QLatin1String(id))->setFillEnabled(false);
-    return loaded;
-}
+private:
+    Switch thought{this, thoughtText, false};
+};
 
-bool SpeechBubble::updateSVG(QZeSvgNode *node, QPointF, bool refresh)
-{
-    pointTo(node->boundingRect().center());
-    if (refresh)
-        invalidate();
-    return true;
-}
+} // namespace
 
-bool SpeechBubble::updateAllControlPoints(bool refresh, bool)
-{
-    return controlPoints[0] && updateSVG(controlPoints[0], QPointF(), refresh);
-}
-
-void SpeechBubble::pointTo(QPointF tip)
-{
-    const QString body = QStringLiteral("M20 5H120Q135 5 135 20V52Q135 67 120 67H%1H20Q5 67 5 52V20Q5 5 20 5Z");
-    const QString tail = QStringLiteral("68L%1 %2L44 67").arg(tip.x()).arg(tip.y());
-    const QPointF root(56, 67);
-    const QPointF middle = root + (tip - root) / 2;
-    const QString drops = QStringLiteral("M%1 %2a4 4 0 1 0 8 0a4 4 0 1 0 -8 0ZM%3 %4a2 2 0 1 0 4 0a2 2 0 1 0 -4 0Z")
-                              .arg(middle.x() - 4)
-                              .arg(middle.y())
-                              .arg(tip.x() - 2)
-                              .arg(tip.y());
-    document->namedNode(QStringLiteral("bubble"))
-        ->setAttribute(QStringLiteral("d"), m_isThought ? body.arg(44) + drops : body.arg(tail));
-}
+SHAPEKIT_PLUGIN(SpeechBubble, "Speech bubble", "Sprechblase", Basic)

@@ -18,12 +18,16 @@ double shorterOf(const QSizeF &size)
 
 } // namespace
 
+const QStringList &Following::ruleNames()
+{
+    static const QStringList names{QStringLiteral("side"),   QStringLiteral("start"),   QStringLiteral("end"),
+                                   QStringLiteral("middle"), QStringLiteral("shorter"), QStringLiteral("-shorter")};
+    return names;
+}
+
 Following::Rule Following::ruleNamed(const QString &name)
 {
-    static const QVector<QString> names{QStringLiteral("side"),    QStringLiteral("start"),
-                                        QStringLiteral("end"),     QStringLiteral("middle"),
-                                        QStringLiteral("shorter"), QStringLiteral("-shorter")};
-    return Rule(std::max(0, names.indexOf(name)));
+    return Rule(std::max(0, ruleNames().indexOf(name)));
 }
 
 double Following::moved(double at, double side, double shorter, double newSide, double newShorter) const

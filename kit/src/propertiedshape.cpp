@@ -144,6 +144,14 @@ int PropertiedShape::actionIdToPropId(int actionId)
     return found == m_properties.cend() ? StyledShape::actionIdToPropId(actionId) : (*found)->id();
 }
 
+QVector<const Text *> PropertiedShape::texts() const
+{
+    QVector<const Text *> texts;
+    for (const Property *property : m_properties)
+        texts += property->texts();
+    return texts;
+}
+
 bool PropertiedShape::GetSettingArray(QJsonArray &settings)
 {
     for (const Property *property : qAsConst(m_properties)) {

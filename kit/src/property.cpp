@@ -33,7 +33,8 @@ QString numberText(double value)
 } // namespace
 
 Property::Property(PropertiedShape *shape, const Text &text, int id)
-    : m_text(text)
+    : m_shape(shape)
+    , m_text(text)
     , m_id(id)
 {
     shape->addProperty(this, m_id, m_actionId);
@@ -49,6 +50,16 @@ void Property::setPanels(bool properties, bool settings)
 {
     m_inPropertyPanel = properties;
     m_inSettings = settings;
+}
+
+QString Property::nameKey() const
+{
+    return keyOf(m_text);
+}
+
+QString Property::keyOf(const Text &text) const
+{
+    return text.key(m_shape->kind());
 }
 
 QByteArray Property::bytes() const
@@ -206,14 +217,21 @@ DrawingScale::DrawingScale(PropertiedShape *shape, const Text &text, double valu
 Choice::Choice(PropertiedShape *shape, const Text &text, int index, const QVector<const Text *> &entries)
     : Property(shape, text)
     , m_index(index)
+    , m_entries(entries)
 {
-    for (const Text *entry : entries)
-        m_entries.append(entry->key());
+}
+
+QStringList Choice::entryKeys() const
+{
+    QStringList keys;
+    for (const Text *entry : m_entries)
+        keys.append(keyOf(*entry));
+    return keys;
 }
 
 void Choice::setIndex(int index)
 {
-    m_index = std::clamp(index, 0, m_entries.size() - 1);
+    m_index = std::max(0, std::min(index, m_entries.size() - 1));
 }
 
 QByteArray Choice::editor() const
@@ -222,8 +240,8 @@ QByteArray Choice::editor() const
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out << qint32(m_entries.size()) << textsOnly;
-    for (const QString &entry : m_entries)
-        out << entry;
+    for (const Text *entry : m_entries)
+        out << keyOf(*entry);
     return bytes;
 }
 
@@ -242,7 +260,7 @@ QJsonObject Choice::control(CSVGObj &object) const
     QString id = controlId();
     QString title = nameKey();
     QList<QString> icons;
-    QList<QString> texts = m_entries;
+    QList<QString> texts = entryKeys();
     return object.GetSettingJsonComboBox(id, title, m_index, icons, texts);
 }
 
@@ -315,7 +333,6 @@ QJsonObject TextValue::control(CSVGObj &object) const
 
 NumberList::NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest)
     : TextValue(shape, text, QString())
-    , m_shape(shape)
     , m_count(count)
     , m_lowest(lowest)
     , m_highest(highest)
@@ -328,7 +345,7 @@ const QVector<double> &NumberList::numbers() const
     const QString text = *this;
     if (text != m_numbersText) {
         const QChar *start = text.constData();
-        m_numbers = m_shape->parseNumbersList(start);
+        m_numbers = shape()->parseNumbersList(start);
         m_numbersText = text;
     }
     return m_numbers;
@@ -375,7 +392,7 @@ void NumberList::setNumbers(QVector<double> numbers)
 QString NumberList::textOf(double number) const
 {
     const double rounded = std::round(std::clamp(number, m_lowest, m_highest) * listPrecision) / listPrecision;
-    return m_shape->numbersToString({rounded + 0.0}); // no negative zero
+    return shape()->numbersToString({rounded + 0.0}); // no negative zero
 }
 
 DataValue::DataValue(PropertiedShape *shape, const Text &text)

@@ -353,6 +353,8 @@ QPointF Shape::settled(int number, QPointF centre)
 
 void Shape::pointMoved(int number, QPointF centre)
 {
+    if (!isPoint(number))
+        return;
     if (m_places.size() < number)
         m_places.resize(number);
     m_places[number - 1] = {centre, size()};
@@ -384,9 +386,28 @@ void Shape::propertyChanged(const Property *)
     redraw(false);
 }
 
+bool Shape::isPoint(int number) const
+{
+    return number >= 1 && number <= pointCount();
+}
+
+/// Damaged data may count fewer points than the template has; only the template's are worth a report.
+void Shape::reportMissingPoint(const QString &id) const
+{
+    if (document && !document->namedNode(id))
+        reportError("K10", id, QStringLiteral("there is no control point \"%1\"").arg(id));
+}
+
+QPointF Shape::point(int number) const
+{
+    if (!isPoint(number))
+        reportMissingPoint(QStringLiteral("control_%1").arg(number));
+    return m_points.value(number - 1);
+}
+
 QSizeF Shape::size() const
 {
-    return document->viewBox().size();
+    return document ? document->viewBox().size() : QSizeF();
 }
 
 double Shape::shorterSide() const
@@ -396,7 +417,8 @@ double Shape::shorterSide() const
 
 QRectF Shape::frame() const
 {
-    const double inset = std::min(document->getAllStrokeWidth() / 2, largestInsetShare * shorterSide());
+    const double stroke = document ? document->getAllStrokeWidth() : 0;
+    const double inset = std::min(stroke / 2, largestInsetShare * shorterSide());
     return QRectF(QPointF(0, 0), size()).adjusted(inset, inset, -inset, -inset);
 }
 
@@ -441,7 +463,7 @@ QRectF Shape::templateRange(int number)
     const Following x = followingOf(number, Qt::Horizontal);
     const Following y = followingOf(number, Qt::Vertical);
     QRectF limits(QPointF(x.offset, y.offset), QPointF(width() - x.endOffset, height() - y.endOffset));
-    const QZeSvgNode *point = controlPoints[number - 1];
+    const QZeSvgNode *point = isPoint(number) ? controlPoints[number - 1] : nullptr;
     if (m_redrawn || !point)
         return limits;
     const auto limit = [point](const char *name, double otherwise) {
@@ -467,6 +489,9 @@ Following Shape::readFollowing(const QZeSvgNode &point, const QString &axis)
 
 const Following &Shape::followingOf(int number, Qt::Orientation axis)
 {
+    static const Following none;
+    if (!isPoint(number))
+        return none;
     while (m_following.size() < number) {
         const QZeSvgNode *point = controlPoints[m_following.size()];
         m_following.append(point ? std::array<Following, 2>{readFollowing(*point, QStringLiteral("x")),

@@ -20,7 +20,7 @@ ShapeObject::ShapeObject(const Kind &kind)
     : CSVGObj(shapeKind, true, nullptr)
     , m_kind(kind)
 {
-    svgBase = m_kind.makeCore(this);
+    makeCore();
     svgBase->loadSVG(true);
     if (svgBase->getSVGType() == scaledType)
         setSubType(scaledSubType);
@@ -31,13 +31,20 @@ bool ShapeObject::createSVGBase(int type, bool initGlobals)
     if (svgBase && svgBase->getSVGType() == type)
         return true;
     delete svgBase;
-    svgBase = m_kind.makeCore(this);
+    makeCore();
     if (svgBase->getSVGType() != type) {
         delete svgBase;
         svgBase = nullptr;
         return false;
     }
     return svgBase->loadSVG(initGlobals);
+}
+
+void ShapeObject::makeCore()
+{
+    StyledShape *made = m_kind.makeCore(this);
+    made->setKind(m_kind);
+    svgBase = made;
 }
 
 void ShapeObject::OnQPainterDraw(QPainter *painter)

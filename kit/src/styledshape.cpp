@@ -2,6 +2,7 @@
 
 #include <shapekit/kind.h>
 #include <shapekit/picturedata.h>
+#include <shapekit/templatecheck.h>
 #include <shapekit/treewalk.h>
 
 #include <svgobj/csvganimate.h>
@@ -13,7 +14,6 @@
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
-#include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPainterPathStroker>
@@ -130,11 +130,32 @@ StyledShape::StyledShape(CSVGObj *owner, int type)
 
 QString StyledShape::getSVG()
 {
-    static const QString text = [] {
-        QFile file(kind().templateFile());
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }();
-    return text;
+    return m_kind ? m_kind->templateText : QString();
+}
+
+bool StyledShape::loadSVG(bool initGlobals)
+{
+    const bool loaded = CSVGBase::loadSVG(initGlobals);
+    // The library replaces a template that can't be read by an empty document.
+    if (document && document->children().isEmpty())
+        reportUnreadTemplate(getSVG());
+    return loaded;
+}
+
+void StyledShape::reportUnreadTemplate(const QString &text) const
+{
+    if (!m_kind)
+        return;
+    const QVector<pagehost::PluginMessage> faults = templateFaults(text, m_kind->templateName());
+    for (const pagehost::PluginMessage &fault : faults)
+        m_kind->log->report(fault);
+}
+
+void StyledShape::reportError(const char *code, const QString &element, const QString &text) const
+{
+    if (m_kind && !m_kind->log->has(QLatin1String(code), element))
+        m_kind->log->report(
+            {pagehost::PluginMessage::Error, QLatin1String(code), m_kind->templateName(), 0, 0, element, text});
 }
 
 void StyledShape::initGlobalPropValues()
@@ -452,7 +473,12 @@ bool StyledShape::isFilledByPageObject() const
 
 QZeSvgNode *StyledShape::node(const char *id) const
 {
-    return document ? document->namedNode(QLatin1String(id)) : nullptr;
+    if (!document)
+        return nullptr;
+    QZeSvgNode *found = document->namedNode(QLatin1String(id));
+    if (!found && m_kind)
+        reportUnknownNode(*m_kind, QLatin1String(id));
+    return found;
 }
 
 /// Restarting renders a picture, whose listeners may delete the shape, and leaves the document's clock stopped.

@@ -2,41 +2,39 @@
 
 #include <shapekit/kind.h>
 
-#include <QtCore/QVector>
-
 namespace shapekit {
 
-namespace {
-
-QVector<const Text *> &knownTexts()
+Words inEnglishAndGerman(const char *english, const char *german)
 {
-    static QVector<const Text *> texts;
-    return texts;
+    return {{QStringLiteral("en"), QString::fromUtf8(english)}, {QStringLiteral("de"), QString::fromUtf8(german)}};
 }
 
-} // namespace
-
 Text::Text(const char *english, const char *german)
-    : m_english(QString::fromUtf8(english))
-    , m_german(QString::fromUtf8(german))
+    : Text(inEnglishAndGerman(english, german))
 {
-    knownTexts().append(this);
+}
+
+Text::Text(const Words &words)
+    : m_words(words)
+{
 }
 
 Text::Text(const QString &key, const QString &name)
     : m_key(key)
-    , m_english(name)
+    , m_name(name)
 {
 }
 
-QString Text::key() const
+QString Text::key(const Kind *kind) const
 {
-    return m_key.isEmpty() ? kind().textKey(name().toUpper()) : m_key;
+    if (!m_key.isEmpty())
+        return m_key;
+    return kind ? kind->textKey(name().toUpper()) : name().toUpper();
 }
 
 QString Text::name() const
 {
-    return m_key.isEmpty() ? joinedWords(m_english) : m_english;
+    return m_key.isEmpty() ? joinedWords(m_words.value(QStringLiteral("en"))) : m_name;
 }
 
 QString Text::joinedWords(const QString &text)
@@ -49,17 +47,6 @@ QString Text::joinedWords(const QString &text)
         startsWord = !character.isLetterOrNumber();
     }
     return name;
-}
-
-QMap<QString, QString> Text::all(const QString &language)
-{
-    QMap<QString, QString> texts;
-    const bool english = language == QLatin1String("en");
-    if (!english && language != QLatin1String("de"))
-        return texts;
-    for (const Text *text : qAsConst(knownTexts()))
-        texts.insert(text->key(), english ? text->m_english : text->m_german);
-    return texts;
 }
 
 } // namespace shapekit

@@ -3,8 +3,20 @@
 #include "ink/core/ink.h"
 #include "ink/tools/erasertool.h"
 #include "ink/tools/pentool.h"
+#include "ink/tools/steptexts.h"
 
 namespace ink {
+
+InkPlugin::InkPlugin()
+    : ShapePlugin({shapekit::kindOf<Ink>(QStringLiteral(SHAPEKIT_NAME),
+                                         shapekit::inEnglishAndGerman("Stroke", "Strich"), shapekit::Group::None)})
+{
+}
+
+QVector<const shapekit::Text *> InkPlugin::furtherTexts() const
+{
+    return {&drawnText, &erasedText};
+}
 
 QVector<pagehost::ToolRole> InkPlugin::toolRoles() const
 {
@@ -16,14 +28,12 @@ pagehost::PageTool *InkPlugin::createTool(pagehost::ToolRole role, pagehost::Too
     switch (role) {
     case pagehost::ToolRole::Pen:
     case pagehost::ToolRole::Highlighter:
-        return new PenTool(page, role == pagehost::ToolRole::Highlighter);
+        return new PenTool(page, kind(0), role == pagehost::ToolRole::Highlighter);
     case pagehost::ToolRole::Eraser:
-        return new EraserTool(page);
+        return new EraserTool(page, kind(0));
     default:
         return nullptr;
     }
 }
 
 } // namespace ink
-
-SHAPEKIT_PLUGIN(ink::Ink, "Stroke", "Strich", None)

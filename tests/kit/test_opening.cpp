@@ -87,11 +87,6 @@ public:
 
 } // namespace
 
-const shapekit::Kind &shapekit::kind()
-{
-    return eager;
-}
-
 class TestOpening : public QObject
 {
     Q_OBJECT

@@ -115,11 +115,6 @@ struct Stage : Editor
 
 } // namespace
 
-const shapekit::Kind &shapekit::kind()
-{
-    return moving;
-}
-
 class TestPlaying : public QObject
 {
     Q_OBJECT

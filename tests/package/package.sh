@@ -13,7 +13,7 @@ fail() {
 
 # The compiler flags that an outside user gets.
 package_flags() {
-    PKG_CONFIG_PATH="$libraries/pkgconfig" pkg-config "$@" gliololok
+    PKG_CONFIG_PATH="$libraries/pkgconfig" pkg-config "$@"
 }
 
 step_install() {
@@ -36,12 +36,15 @@ step_headers() {
     same_headers "$source/src/host/framework" "$prefix/include/gliololok-host/framework"
     same_headers "$source/src/host/svgbase" "$prefix/include/gliololok-host/svgbase"
     same_headers "$source/reference/framework/include/pagehost" "$prefix/include/gliololok-host/pagehost"
+    same_headers "$source/kit/include/shapekit" "$prefix/include/shapekit"
 }
 
 step_soname() {
     local soname
     soname=$(readelf -d "$libraries/gliololok.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
     [ "$soname" = gliololok.so.1 ] || fail "the soname is '$soname'"
+    soname=$(readelf -d "$libraries/libgliololok-shapekit.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
+    [ "$soname" = libgliololok-shapekit.so.1 ] || fail "the soname of the kit is '$soname'"
 }
 
 # compile_alone COMPILER FLAGS: each header named in the input compiles by itself, without a warning.
@@ -55,12 +58,12 @@ compile_alone() {
 step_standalone_headers() {
     local flags headers compiler
     headers=$(for header in "$prefix"/include/svgobj/*.h "$prefix"/include/gliololok-host/*/*.h \
-        "$source"/kit/include/shapekit/*.h; do
+        "$prefix"/include/shapekit/*.h; do
         echo "$(basename "$(dirname "$header")")/$(basename "$header")"
     done)
     [ "$(echo "$headers" | wc -l)" -ge 20 ] || fail "only these headers were found: $headers"
     # Warnings about Qt's headers are not ours.
-    flags="$(package_flags --cflags | sed -E 's#-I(/[^ ]*/qt5)#-isystem \1#g') -I$source/kit/include"
+    flags=$(package_flags --cflags gliololok-shapekit | sed -E 's#-I(/[^ ]*/qt5)#-isystem \1#g')
     for compiler in g++ clang++; do
         echo "$headers" | compile_alone "$compiler" "$flags" || fail "not all headers compile with $compiler"
     done
@@ -87,29 +90,71 @@ step_pkgconfig_consumer() {
     mkdir -p "$directory"
     # shellcheck disable=SC2046
     "$CXX" -std=c++17 -Wall -Wextra -Werror -o "$directory/consumer" "$source"/tests/package/consumer/*.cpp \
-        $(package_flags --cflags --libs)
+        $(package_flags --cflags --libs gliololok)
     export LD_LIBRARY_PATH="$libraries"
     run_consumer "$directory/consumer"
 }
 
-# Builds the example of an outside shape, which the installed board must then accept.
-step_example() {
-    local directory="$work/example" pages="$work/pages-without-example" pages_with="$work/pages-with-example" output
-    rm -rf "$directory"
-    cmake -S "$source/examples/speechbubble" -B "$directory" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+# build_example NAME FOLDER COMPILER FLAGS: an example as its author builds it, without a warning.
+build_example() {
+    rm -rf "$2"
+    cmake -S "$source/examples/$1" -B "$2" -G Ninja -DCMAKE_CXX_COMPILER="$3" -DCMAKE_CXX_FLAGS="$4" \
         -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-    cmake --build "$directory" >/dev/null
-    mkdir -p "$work/plugins"
-    cp "$directory/speechbubble.so" "$work/plugins"
-    rm -rf "$pages" "$pages_with"
+    cmake --build "$2" >/dev/null || fail "$1 does not build with $3 $4"
+}
+
+# board_takes NAME PLUGIN: the installed board must accept the plug-in of an example, without a word, and show its shape.
+board_takes() {
+    local plugins="$work/plugins-$1" pages="$work/pages-without-$1" pages_with="$work/pages-with-$1" output
+    rm -rf "$plugins" "$pages" "$pages_with"
+    mkdir -p "$plugins"
+    cp "$2" "$plugins"
     "$prefix/bin/gliololok-board" --export "$pages" >/dev/null
-    output=$("$prefix/bin/gliololok-board" --plugins "$work/plugins" --export "$pages_with" 2>&1) ||
+    output=$("$prefix/bin/gliololok-board" --plugins "$plugins" --export "$pages_with" 2>&1) ||
         fail "the installed board failed: $output"
     case $output in
-    *speechbubble*) fail "the board has something to say about the example: $output" ;;
+    *"$1"*) fail "the board has something to say about the example: $output" ;;
     esac
     # The exported pages show every shape there is.
     ! diff -rq "$pages" "$pages_with" >/dev/null || fail "the pages do not show the example"
+}
+
+# An outside shape on the two bare base classes.
+step_bare_example() {
+    build_example bareshape "$work/bareshape" "$CXX" ""
+    board_takes thinkingbubble "$work/bareshape/thinkingbubble.so"
+}
+
+# An outside shape on the kit, for the strictest of authors.
+step_kit_example() {
+    local compiler
+    for compiler in g++ clang++; do
+        build_example speechbubble "$work/speechbubble-$compiler" "$compiler" \
+            "-Wall -Wextra -Wpedantic -Wshadow -Werror"
+        board_takes speechbubble "$work/speechbubble-$compiler/speechbubble.so"
+    done
+}
+
+# Several shapes in one plug-in.
+step_kit_two_shapes() {
+    build_example ../tests/package/twoshapes "$work/twoshapes" "$CXX" ""
+    board_takes twoshapes "$work/twoshapes/twoshapes.so"
+}
+
+# The kit without CMake: pkg-config names the library, the headers and the root object, which Qt's compiler completes.
+step_kit_pkgconfig() {
+    local directory="$work/kit-pkgconfig" flags libs plugin
+    rm -rf "$directory"
+    mkdir -p "$directory"
+    flags=$(package_flags --cflags gliololok-shapekit)
+    libs=$(package_flags --libs gliololok-shapekit)
+    plugin=$(package_flags --variable=shapeplugin gliololok-shapekit)
+    # shellcheck disable=SC2086,SC2046
+    "$(package_flags --variable=host_bins Qt5Core)/moc" $(echo "$flags" | grep -oE -- '-[ID][^ ]+') "$plugin" \
+        -o "$directory/shapeplugin.moc"
+    # shellcheck disable=SC2086
+    "$CXX" -std=c++17 -shared -o "$directory/speechbubble.so" -DSHAPEKIT_NAME='"speechbubble"' -I"$directory" \
+        "$source/examples/speechbubble/speechbubble.cpp" "$plugin" $flags -Wl,--no-undefined $libs
 }
 
 # An application that brings its own host adds the repository to its build; the package then does not name our host.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
 
@@ -9,7 +11,7 @@ namespace shapekit {
 ///
 /// Undo and redo record the top-left corner of a control point, whose size follows the zoom: after zooming, the
 /// same corner means another centre. Shapes work with centres, so they remember the point's size at that corner.
-class DraggedPlaces
+class SHAPEKIT_EXPORT DraggedPlaces
 {
 public:
     /// Notes a drag of the control point whose corner was at `start` when the drag began, and which now is at

@@ -1,60 +1,94 @@
 #pragma once
 
+#include <shapekit/messagelog.h>
+#include <shapekit/shapekit_global.h>
+#include <shapekit/text.h>
+
 #include <QtCore/QString>
+#include <QtCore/QVector>
 
 #include <functional>
+#include <memory>
 
-class CSVGBase;
 class CSVGObj;
 
 namespace shapekit {
 
+class StyledShape;
+
 /// Makes a shape core for a page object.
-using CoreFactory = std::function<CSVGBase *(CSVGObj *owner)>;
+using CoreFactory = std::function<StyledShape *(CSVGObj *owner)>;
 
-/// The groups of the palette; None for kinds that only tools make.
-enum class Group { Basic, Mathematics, Science, None };
-
-/// Description of the one shape of a plug-in.
-struct Kind
+/// A group of the palette.
+struct SHAPEKIT_EXPORT Group
 {
-    QString name; ///< the shape's folder: part of its id, its keys and its resource paths
-    QString english;
-    QString german;
-    Group group = Group::Basic;
+    /// The groups of the shapes that come with the library.
+    enum Known {
+        Basic,
+        Mathematics,
+        Science,
+        None ///< for kinds that only tools make
+    };
+
+    Group(Known known = Basic);
+    /// A group of its own; groups of the same key are one.
+    Group(const QString &key, const Words &title);
+
+    QString key; ///< localisation key; empty for kinds that palettes leave out
+    Words title;
+};
+
+/// Description of a shape that a plug-in offers.
+struct SHAPEKIT_EXPORT Kind
+{
+    QString name; ///< letters and digits; part of its id, its keys and its resource path
+    Words title;
+    Group group;
     CoreFactory makeCore = nullptr;
     bool takesPictures = false; ///< whether dropped or pasted pictures become objects of this kind
     QString idPrefix = QStringLiteral("shapes.");
     QString keyPrefix = QStringLiteral("IDS_SHAPE_");
+    QString templateText; ///< SVG
+    /// Faults of the template and of its use.
+    std::shared_ptr<MessageLog> log = std::make_shared<MessageLog>();
 
     QString id() const { return idPrefix + name; }
     QString nameKey() const { return keyPrefix + name.toUpper(); }
     QString textKey(const QString &text) const { return nameKey() + QLatin1Char('_') + text; }
-    QString templateFile() const { return QStringLiteral(":/gliololok/%1/template.svg").arg(name); }
+    /// The name of the template in messages.
+    QString templateName() const { return name + QStringLiteral("/template.svg"); }
+    /// Reads the text from the resource ":/gliololok/NAME/template.svg", where gliololok_add_shape() puts it.
+    void readTemplate();
 };
 
-/// The kind of this plug-in, defined by SHAPEKIT_PLUGIN.
-const Kind &kind();
+/// The kinds of a plug-in, in palette order; defined by the plug-in's source file or by SHAPEKIT_PLUGIN.
+QVector<Kind> pluginKinds();
 
-template<class Core> CSVGBase *makeCore(CSVGObj *owner)
+template<class Core> StyledShape *makeCore(CSVGObj *owner)
 {
     return new Core(owner);
 }
 
+/// The kind of a core whose template is in the resources.
+template<class Core> Kind kindOf(const QString &name, const Words &title, const Group &group = Group::Basic)
+{
+    Kind kind;
+    kind.name = name;
+    kind.title = title;
+    kind.group = group;
+    kind.makeCore = &makeCore<Core>;
+    kind.takesPictures = Core::takesPictures;
+    kind.readTemplate();
+    return kind;
+}
+
 } // namespace shapekit
 
-/// Defines the plug-in of a shape core: the class, its name in English and German (UTF-8), and its group in the
-/// palette.
+/// Defines a plug-in of one shape, named as its target is: the core, its name in English and German (UTF-8), and
+/// its group among Group::Known. Plug-ins of several shapes, languages or groups define shapekit::pluginKinds().
 #define SHAPEKIT_PLUGIN(Core, english, german, group)                                                              \
-    const shapekit::Kind &shapekit::kind()                                                                         \
+    QVector<shapekit::Kind> shapekit::pluginKinds()                                                                \
     {                                                                                                              \
-        static const Kind kind{QStringLiteral(SHAPEKIT_NAME),                                                      \
-                               QString::fromUtf8(english),                                                         \
-                               QString::fromUtf8(german),                                                          \
-                               Group::group,                                                                       \
-                               &makeCore<Core>,                                                                    \
-                               Core::takesPictures,                                                                \
-                               QStringLiteral("shapes."),                                                          \
-                               QStringLiteral("IDS_SHAPE_")};                                                      \
-        return kind;                                                                                               \
+        return {shapekit::kindOf<Core>(QStringLiteral(SHAPEKIT_NAME),                                              \
+                                       shapekit::inEnglishAndGerman(english, german), shapekit::Group::group)};    \
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
 #include <QtCore/QString>
@@ -11,7 +13,7 @@ class QPainterPath;
 namespace shapekit {
 
 /// Writes SVG path data (document units), command by command.
-class PathText
+class SHAPEKIT_EXPORT PathText
 {
 public:
     PathText &moveTo(QPointF point);

@@ -1,14 +1,16 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVector>
 
 namespace shapekit {
 
 /// How a control point follows changes of the size along one axis.
-struct Following
+struct SHAPEKIT_EXPORT Following
 {
     enum Rule {
         Side,          ///< in proportion to the side
@@ -19,8 +21,9 @@ struct Following
         ShorterFromEnd ///< its distance from the right or bottom is a share of the shorter side
     };
 
-    /// From the text of a template: "side", "start", "end", "middle", "shorter", "-shorter"; anything else is
-    /// "side".
+    /// The rules in templates: "side", "start", "end", "middle", "shorter", "-shorter".
+    static const QStringList &ruleNames();
+    /// "side" for an unknown name.
     static Rule ruleNamed(const QString &name);
 
     /// New coordinate of a point that was at `at` when the side was `side` and the shorter side `shorter`.
@@ -33,7 +36,7 @@ struct Following
 
 /// Where a control point was put, and the size of the shape at that time. Its place at any other size follows from
 /// that, so that restoring the size restores the place.
-struct Place
+struct SHAPEKIT_EXPORT Place
 {
     QPointF centre;
     QSizeF size;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <shapekit/property.h>
+#include <shapekit/shapekit_global.h>
 #include <shapekit/styledshape.h>
 
 namespace shapekit {
@@ -9,7 +10,7 @@ namespace shapekit {
 ///
 /// They are saved after the data common to all shapes: their count, then the value of each as a byte array, so that
 /// files with fewer or more of them can be read. In JSON each has a key of its own.
-class PropertiedShape : public StyledShape
+class SHAPEKIT_EXPORT PropertiedShape : public StyledShape
 {
 public:
     /// Id of the property that scales the drawing of a shape of type 26.
@@ -26,6 +27,7 @@ public:
     void initSpecialPropItems() override;
     QString getPropName(int propId) override;
     int actionIdToPropId(int actionId) override;
+    QVector<const Text *> texts() const override;
     bool GetSettingArray(QJsonArray &settings) override;
     bool SetSettingArray(QMap<QString, QString> &values, bool record, bool undo) override;
 

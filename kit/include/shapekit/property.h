@@ -1,5 +1,6 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
 #include <shapekit/text.h>
 
 #include <svgobj/csvgpropitem.h>
@@ -20,7 +21,7 @@ class PropertiedShape;
 
 /// A value of a shape that the user can set in the property panel and the settings panel, and that is saved,
 /// recorded and undone with the shape. A property is a member of its shape and registers itself there.
-class Property
+class SHAPEKIT_EXPORT Property
 {
 public:
     virtual ~Property() = default;
@@ -35,7 +36,9 @@ public:
     void setPanels(bool properties, bool settings);
     bool isInPropertyPanel() const { return m_inPropertyPanel; }
     bool isInSettings() const { return m_inSettings; }
-    QString nameKey() const { return m_text.key(); }
+    QString nameKey() const;
+    /// The texts that panels show for it.
+    virtual QVector<const Text *> texts() const { return {&m_text}; }
     /// The key of the value in saved JSON.
     QString jsonKey() const { return QStringLiteral("SVG_") + m_text.name(); }
     /// The id of the control in the settings panel.
@@ -60,8 +63,11 @@ public:
 protected:
     /// An id of 0 means the next free one of the shape.
     Property(PropertiedShape *shape, const Text &text, int id = 0);
+    PropertiedShape *shape() const { return m_shape; }
+    QString keyOf(const Text &text) const;
 
 private:
+    PropertiedShape *m_shape;
     const Text &m_text;
     int m_id;
     int m_actionId;
@@ -70,7 +76,7 @@ private:
 };
 
 /// On or off.
-class Switch : public Property
+class SHAPEKIT_EXPORT Switch : public Property
 {
 public:
     Switch(PropertiedShape *shape, const Text &text, bool on);
@@ -89,7 +95,7 @@ private:
 };
 
 /// A whole number between two bounds.
-class WholeNumber : public Property
+class SHAPEKIT_EXPORT WholeNumber : public Property
 {
 public:
     WholeNumber(PropertiedShape *shape, const Text &text, int value, int lowest, int highest);
@@ -112,7 +118,7 @@ private:
 };
 
 /// A number between two bounds, with the panel's step.
-class RealNumber : public Property
+class SHAPEKIT_EXPORT RealNumber : public Property
 {
 public:
     RealNumber(PropertiedShape *shape, const Text &text, double value, double lowest, double highest, double step,
@@ -137,7 +143,7 @@ private:
 };
 
 /// Item units per drawn unit of a shape of type 26: at 2 it is half as large, about the middle of its frame.
-class DrawingScale : public RealNumber
+class SHAPEKIT_EXPORT DrawingScale : public RealNumber
 {
 public:
     DrawingScale(PropertiedShape *shape, const Text &text, double value, double lowest, double highest,
@@ -145,12 +151,13 @@ public:
 };
 
 /// A choice between several texts.
-class Choice : public Property
+class SHAPEKIT_EXPORT Choice : public Property
 {
 public:
     Choice(PropertiedShape *shape, const Text &text, int index, const QVector<const Text *> &entries);
     operator int() const { return m_index; }
 
+    QVector<const Text *> texts() const override { return Property::texts() + m_entries; }
     DATA_TYPE dataType() const override { return DATA_TYPE_INT; }
     QByteArray editor() const override;
     void write(QDataStream &out) const override;
@@ -164,11 +171,13 @@ private:
     void setIndex(int index);
 
     int m_index;
-    QStringList m_entries; ///< localisation keys
+    QStringList entryKeys() const;
+
+    QVector<const Text *> m_entries;
 };
 
 /// A colour in addition to those of pen and fill.
-class ColorValue : public Property
+class SHAPEKIT_EXPORT ColorValue : public Property
 {
 public:
     ColorValue(PropertiedShape *shape, const Text &text, QRgb color);
@@ -187,7 +196,7 @@ private:
 };
 
 /// A line of text.
-class TextValue : public Property
+class SHAPEKIT_EXPORT TextValue : public Property
 {
 public:
     TextValue(PropertiedShape *shape, const Text &text, const QString &value);
@@ -209,7 +218,7 @@ private:
 /// A fixed count of numbers between two bounds, as text that the user may write: separated by blanks, commas or
 /// nothing, up to the first non-number; missing ones are 0. The text is normalised: at most four decimal places and
 /// single blanks.
-class NumberList : public TextValue
+class SHAPEKIT_EXPORT NumberList : public TextValue
 {
 public:
     NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest);
@@ -226,7 +235,6 @@ private:
     void setNumbers(QVector<double> numbers);
     QString textOf(double number) const;
 
-    PropertiedShape *m_shape;
     int m_count;
     double m_lowest;
     double m_highest;
@@ -236,7 +244,7 @@ private:
 };
 
 /// Bytes that only the shape can read, such as a picture. No control offers them.
-class DataValue : public Property
+class SHAPEKIT_EXPORT DataValue : public Property
 {
 public:
     DataValue(PropertiedShape *shape, const Text &text);

@@ -5,6 +5,7 @@
 #include <shapekit/pathtext.h>
 #include <shapekit/place.h>
 #include <shapekit/propertiedshape.h>
+#include <shapekit/shapekit_global.h>
 
 #include <QtCore/QMap>
 
@@ -23,7 +24,7 @@ namespace shapekit {
 /// - `x_follows`, `y_follows`: how the point follows when the size of a redrawn shape changes (Following);
 /// - `x_offset`, `y_offset`: one or two numbers, the distances from the frame at which the point's free travel,
 ///   which is also the stretch measured when the size changes, begins and ends; the second defaults to the first.
-class Shape : public PropertiedShape
+class SHAPEKIT_EXPORT Shape : public PropertiedShape
 {
 public:
     /// Treatment of the drawing when the page object's size changes.
@@ -93,8 +94,8 @@ protected:
     /// @name Tools for drawing
     /// @{
 
-    /// The centre of a control point.
-    QPointF point(int number) const { return m_points.value(number - 1); }
+    /// The centre of a control point; (0, 0) for one that the template lacks.
+    QPointF point(int number) const;
     int pointCount() const;
     QSizeF size() const;
     double width() const { return size().width(); }
@@ -112,6 +113,8 @@ protected:
 
 private:
     int indexOf(QZeSvgNode *node) const;
+    bool isPoint(int number) const;
+    void reportMissingPoint(const QString &id) const;
     QRectF templateRange(int number);
     static Following readFollowing(const QZeSvgNode &point, const QString &axis);
     const Following &followingOf(int number, Qt::Orientation axis);
@@ -148,12 +151,12 @@ public:
 };
 
 /// The rectangle between two points in any order; limits that leave no room give the second point's.
-QRectF between(QPointF first, QPointF second);
+SHAPEKIT_EXPORT QRectF between(QPointF first, QPointF second);
 /// The point of a circle at an angle in degrees, clockwise from the top.
-QPointF onCircle(QPointF centre, double radius, double degrees);
+SHAPEKIT_EXPORT QPointF onCircle(QPointF centre, double radius, double degrees);
 /// A vector with each coordinate multiplied by a side.
-QPointF stretched(QPointF vector, QSizeF factor);
+SHAPEKIT_EXPORT QPointF stretched(QPointF vector, QSizeF factor);
 /// The angle of a point seen from a centre, degrees clockwise from the top, 0 to 360.
-double angleOf(QPointF point, QPointF centre);
+SHAPEKIT_EXPORT double angleOf(QPointF point, QPointF centre);
 
 } // namespace shapekit

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <shapekit/kind.h>
+#include <shapekit/shapekit_global.h>
 
 #include <shapekit/styledshape.h>
 
@@ -9,12 +10,13 @@
 namespace shapekit {
 
 /// The page object of a shape; everything specific to the shape is in its core.
-class ShapeObject : public CSVGObj
+class SHAPEKIT_EXPORT ShapeObject : public CSVGObj
 {
 public:
     /// A new object with a core of its own, filled with the template's colour.
     explicit ShapeObject(const Kind &kind);
 
+    const Kind &kind() const { return m_kind; }
     QString kindName() const override { return m_kind.nameKey(); }
     /// Creates a core unless there is already one of that type. A type of another shape leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
@@ -24,6 +26,8 @@ public:
     StyledShape *core() const { return static_cast<StyledShape *>(svgBase); }
 
 private:
+    void makeCore();
+
     const Kind &m_kind;
 };
 

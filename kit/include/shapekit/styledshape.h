@@ -1,11 +1,16 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <svgobj/csvgbase.h>
 
 #include <QtCore/QVector>
 #include <QtGui/QTransform>
 
 namespace shapekit {
+
+struct Kind;
+class Text;
 
 /// A place where a line to another object may end, document units.
 struct Connection
@@ -40,13 +45,19 @@ struct LabelPlace
 /// user chooses;
 /// - `fill_follows="pen"`: filled with the colour of the pen, as letters and arrow heads are;
 /// - `stroke_follows="pen"`: a line in the colour of the pen, but of its own width and style, as fine ticks are.
-class StyledShape : public CSVGBase
+class SHAPEKIT_EXPORT StyledShape : public CSVGBase
 {
 public:
     /// Whether the shape shows dropped and pasted pictures (takePicture()).
     static constexpr bool takesPictures = false;
 
     StyledShape(CSVGObj *owner, int type);
+
+    /// The kind as which the page object was made; it outlives the core. Null before that is set.
+    const Kind *kind() const { return m_kind; }
+    void setKind(const Kind &kind) { m_kind = &kind; }
+    /// All texts that panels show for the shape's own properties.
+    virtual QVector<const Text *> texts() const { return {}; }
 
     /// The shape as an SVG document of its page object's size, with the page object's fill and without control
     /// points. Empty without a document.
@@ -57,6 +68,7 @@ public:
     int getSVGType() override { return m_type; }
     /// The template of the kind.
     QString getSVG() override;
+    bool loadSVG(bool initGlobals) override;
     /// Gives a new shape the page object's pen colour and the template's fill.
     void initGlobalPropValues() override;
     void initPropItems() override;
@@ -115,8 +127,10 @@ protected:
     QTransform seenMapping();
     /// The mapping that stretches a non-empty view box over a rectangle.
     static QTransform stretching(const QRectF &box, const QRectF &target);
-    /// A node of the template; null when no node has that id.
+    /// A node of the template; null, with a report, when no node has that id.
     QZeSvgNode *node(const char *id) const;
+    /// Reports an error of the template or its use, once for all shapes of the kind.
+    void reportError(const char *code, const QString &element, const QString &text) const;
 
 private:
     void writeConnections(QDataStream &out);
@@ -131,7 +145,10 @@ private:
     /// Whether the fill is more than a brush can describe.
     bool hasRichFill() const;
 
+    void reportUnreadTemplate(const QString &text) const;
+
     int m_type;
+    const Kind *m_kind = nullptr;
     bool m_lookRead = false;
     QBrush m_templateFill;
     QBrush *m_fillBeingRead = nullptr; ///< receives the brush of setFillBrush() while readFill() runs

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <functional>
 
 class QZeSvgNode;

@@ -77,6 +77,8 @@ ObjectRegistry::~ObjectRegistry()
     for (const Source &source : qAsConst(m_sources))
         if (source.kinds)
             source.kinds->setKindsListener({});
+    for (MessageSource *messages : qAsConst(m_messageSources))
+        messages->setMessageListener({});
 }
 
 QVector<PluginReport> ObjectRegistry::loadDirectory(const QString &path)
@@ -173,6 +175,7 @@ PluginReport ObjectRegistry::add(ObjectPlugin *plugin, PluginReport report)
         pagehost::addProblem(told, QStringLiteral("it offers no kind of object that can be used"));
         return told;
     }
+    listenTo(source);
     told.loaded = true;
     m_sources.append(source);
     mergeTexts(source);
@@ -247,6 +250,26 @@ void ObjectRegistry::addFolders(const QStringList &folders)
     for (const Source &source : qAsConst(m_sources))
         if (source.kinds)
             run(source, QStringLiteral("addFolders()"), [&] { source.kinds->addFolders(folders); });
+}
+
+void ObjectRegistry::listenTo(const Source &source)
+{
+    auto *messages = dynamic_cast<MessageSource *>(source.plugin);
+    if (!messages)
+        return;
+    m_messageSources.append(messages);
+    run(source, QStringLiteral("messages()"), [&] {
+        const QVector<PluginMessage> present = messages->messages();
+        for (const PluginMessage &message : present)
+            addMessage(source, message);
+        messages->setMessageListener([this, source](const PluginMessage &message) { addMessage(source, message); });
+    });
+}
+
+void ObjectRegistry::addMessage(const Source &source, const PluginMessage &message) const
+{
+    m_reports[source.report].messages.append(message);
+    addProblem(source, message.told());
 }
 
 bool ObjectRegistry::run(const QString &kindId, const QString &operation, const std::function<void()> &work) const

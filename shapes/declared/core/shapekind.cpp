@@ -49,7 +49,7 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
         m_kind.idPrefix = QStringLiteral("declared.");
         m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");
     }
-    m_kind.makeCore = [this](CSVGObj *owner) -> CSVGBase * { return new DeclaredShape(owner, *this); };
+    m_kind.makeCore = [this](CSVGObj *owner) -> shapekit::StyledShape * { return new DeclaredShape(owner, *this); };
     for (const LabelDeclaration &label : declaration->labels)
         m_labelTitles.push_back(makeLabelTitles(label));
     m_entries.resize(size_t(declaration->properties.size()));
@@ -83,16 +83,17 @@ void ShapeKind::addLabelTexts(QMap<QString, QString> &table, int label, const QS
         return;
     const LabelTitles &titles = m_labelTitles.at(size_t(label));
     const auto add = [&](const shapekit::Text &text, const char *inEnglish, const char *inGerman) {
-        table.insert(text.key(), own + QStringLiteral(": ") + QString::fromUtf8(isGerman ? inGerman : inEnglish));
+        table.insert(text.key(&m_kind),
+                     own + QStringLiteral(": ") + QString::fromUtf8(isGerman ? inGerman : inEnglish));
     };
-    table.insert(titles.text->key(), own);
+    table.insert(titles.text->key(&m_kind), own);
     add(*titles.size, "font size", "Schriftgröße");
     add(*titles.bold, "bold", "fett");
     add(*titles.colour, "colour", "Farbe");
     add(*titles.alignment, "alignment", "Ausrichtung");
-    table.insert(titles.start->key(), isGerman ? QStringLiteral("Am Anfang") : QStringLiteral("Start"));
-    table.insert(titles.middle->key(), isGerman ? QStringLiteral("In der Mitte") : QStringLiteral("Middle"));
-    table.insert(titles.end->key(), isGerman ? QStringLiteral("Am Ende") : QStringLiteral("End"));
+    table.insert(titles.start->key(&m_kind), isGerman ? QStringLiteral("Am Anfang") : QStringLiteral("Start"));
+    table.insert(titles.middle->key(&m_kind), isGerman ? QStringLiteral("In der Mitte") : QStringLiteral("Middle"));
+    table.insert(titles.end->key(&m_kind), isGerman ? QStringLiteral("Am Ende") : QStringLiteral("End"));
 }
 
 void ShapeKind::tell(const Message &message) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <shapekit/suggestion.h>
+
 #include <QtCore/QPointF>
 #include <QtCore/QString>
 #include <QtCore/QVector>
@@ -60,9 +62,7 @@ Place placeOf(const QString &text, int offset);
 QString numberText(double number);
 void appendNumber(QString &text, double number);
 
-/// The name among `names` that was most likely meant by `name`; empty when none is near.
-QString nearestName(const QString &name, const QStringList &names);
-/// " (did you mean \"...\"?)", or nothing.
-QString suggestion(const QString &name, const QStringList &names);
+using shapekit::nearestName;
+using shapekit::suggestion;
 
 } // namespace declared

@@ -13,21 +13,6 @@
 
 #include <algorithm>
 
-namespace shapekit {
-
-/// Shapes have kinds of their own here; texts of this name would be those of the plug-in itself.
-const Kind &kind()
-{
-    static const Kind plugin = [] {
-        Kind kind;
-        kind.name = QStringLiteral("declared");
-        return kind;
-    }();
-    return plugin;
-}
-
-} // namespace shapekit
-
 namespace declared {
 
 namespace {

@@ -1,11 +1,15 @@
 #include <declared/reader/sourcetree.h>
 
 #include <declared/reader/filelimits.h>
-#include <declared/reader/tagscanner.h>
+
+#include <shapekit/tagscanner.h>
 
 #include <QtCore/QXmlStreamReader>
 
 namespace declared {
+
+using shapekit::RawTag;
+using shapekit::TagScanner;
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include "ink/core/ink.h"
 #include "ink/core/strokepath.h"
+#include "ink/tools/steptexts.h"
 #include "ink/tools/tipcursor.h"
 
 #include <shapekit/kind.h>
-#include <shapekit/text.h>
 
 #include <framework/cbaseobject.h>
 
@@ -13,14 +13,9 @@
 
 namespace ink {
 
-namespace {
-
-const shapekit::Text erasedText("Erase", "Radieren");
-
-} // namespace
-
-EraserTool::EraserTool(pagehost::ToolPage *page)
+EraserTool::EraserTool(pagehost::ToolPage *page, const shapekit::Kind &kind)
     : m_page(page)
+    , m_kind(kind)
 {
 }
 
@@ -48,7 +43,7 @@ void EraserTool::release(const pagehost::ToolPointer &pointer)
         return;
     rub(pointer);
     m_isRubbing = false;
-    m_page->commit(erasedText.key(), pagehost::ToolPage::Stay);
+    m_page->commit(erasedText.key(&m_kind), pagehost::ToolPage::Stay);
 }
 
 bool EraserTool::cancel()
@@ -85,7 +80,7 @@ void EraserTool::rubOut(CBaseObject *object, const QLineF &way, bool wholeStroke
         return;
     const auto parts = wholeStroke ? QVector<QVector<StrokePoint>>() : partsBeside(points, way, reach);
     for (const QVector<StrokePoint> &part : parts) {
-        CBaseObject *rest = m_page->createObject(shapekit::kind().id());
+        CBaseObject *rest = m_page->createObject(m_kind.id());
         if (Ink *piece = Ink::of(rest)) {
             piece->begin(part, stroke->getPenColor(), stroke->sceneWidth());
             m_page->add(rest, object);

@@ -5,6 +5,10 @@
 class CBaseObject;
 class QLineF;
 
+namespace shapekit {
+struct Kind;
+}
+
 namespace ink {
 
 class Ink;
@@ -13,7 +17,8 @@ class Ink;
 class EraserTool : public pagehost::PageTool
 {
 public:
-    explicit EraserTool(pagehost::ToolPage *page);
+    /// What is left of a stroke is objects of `kind`.
+    EraserTool(pagehost::ToolPage *page, const shapekit::Kind &kind);
 
     void setStyle(const pagehost::ToolStyle &style) override { m_style = style; }
     QCursor cursor(double pixel) const override;
@@ -28,6 +33,7 @@ private:
     void rubOut(CBaseObject *object, const QLineF &way, bool wholeStroke);
 
     pagehost::ToolPage *m_page;
+    const shapekit::Kind &m_kind;
     pagehost::ToolStyle m_style;
     bool m_isRubbing = false;
     QPointF m_last; ///< scene coordinates

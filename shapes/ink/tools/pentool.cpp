@@ -1,18 +1,16 @@
 #include "ink/tools/pentool.h"
 
 #include "ink/core/ink.h"
+#include "ink/tools/steptexts.h"
 #include "ink/tools/tipcursor.h"
 
 #include <shapekit/kind.h>
-#include <shapekit/text.h>
 
 #include <cmath>
 
 namespace ink {
 
 namespace {
-
-const shapekit::Text drawnText("Draw a stroke", "Strich zeichnen");
 
 constexpr int highlighterAlpha = 110;
 constexpr int holdingTime = 500;
@@ -26,8 +24,9 @@ StrokePoint pointOf(const pagehost::ToolPointer &pointer)
 
 } // namespace
 
-PenTool::PenTool(pagehost::ToolPage *page, bool isHighlighter)
+PenTool::PenTool(pagehost::ToolPage *page, const shapekit::Kind &kind, bool isHighlighter)
     : m_page(page)
+    , m_kind(kind)
     , m_isHighlighter(isHighlighter)
 {
 }
@@ -48,7 +47,7 @@ QCursor PenTool::cursor(double pixel) const
 void PenTool::press(const pagehost::ToolPointer &pointer)
 {
     cancel();
-    CBaseObject *object = m_page->createObject(shapekit::kind().id());
+    CBaseObject *object = m_page->createObject(m_kind.id());
     m_stroke = Ink::of(object);
     if (!m_stroke)
         return;
@@ -90,7 +89,7 @@ void PenTool::release(const pagehost::ToolPointer &pointer)
     if (pointer.pos != m_points.last().place)
         follow({pointer.pos, m_points.last().pressure, pointer.pixel, pointer.modifiers});
     m_stroke = nullptr;
-    m_page->commit(drawnText.key(), pagehost::ToolPage::Stay);
+    m_page->commit(drawnText.key(&m_kind), pagehost::ToolPage::Stay);
 }
 
 bool PenTool::cancel()

@@ -4,6 +4,10 @@
 
 #include <pagehost/pagetool.h>
 
+namespace shapekit {
+struct Kind;
+}
+
 namespace ink {
 
 class Ink;
@@ -12,8 +16,8 @@ class Ink;
 class PenTool : public pagehost::PageTool
 {
 public:
-    /// A highlighter draws with translucent ink.
-    PenTool(pagehost::ToolPage *page, bool isHighlighter);
+    /// Strokes are objects of `kind`. A highlighter draws with translucent ink.
+    PenTool(pagehost::ToolPage *page, const shapekit::Kind &kind, bool isHighlighter);
 
     void setStyle(const pagehost::ToolStyle &style) override;
     QCursor cursor(double pixel) const override;
@@ -30,6 +34,7 @@ private:
     void show();
 
     pagehost::ToolPage *m_page;
+    const shapekit::Kind &m_kind;
     bool m_isHighlighter;
     QColor m_color;
     double m_width = 1;

@@ -57,6 +57,20 @@ private:
     QByteArray m_mark;
 };
 
+/// A plug-in that finds faults in the files of its kinds.
+class FindingPlugin : public DataPlugin, public pagehost::MessageSource
+{
+public:
+    using DataPlugin::DataPlugin;
+    QVector<pagehost::PluginMessage> messages() const override { return {present}; }
+    void setMessageListener(const pagehost::MessageListener &listener) override { tell = listener; }
+
+    pagehost::PluginMessage present{
+        pagehost::PluginMessage::Warning, QStringLiteral("K03"), QStringLiteral("a.svg"), 4, 7, QString(),
+        QStringLiteral("unknown")};
+    pagehost::MessageListener tell;
+};
+
 QString textType()
 {
     return QStringLiteral("text/plain");
@@ -77,6 +91,8 @@ class TestRegistry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void faultsOfFilesStandInTheReport();
+    void laterFaultIsToldOnceAndNotAfterTheRegistry();
     void goodPluginBringsItsKinds();
     void objectsAreCreatedAndTagged();
     void unknownKindGivesNoObject();
@@ -448,6 +464,37 @@ void TestRegistry::lookOfAnObjectComesFromThePluginOfItsKind()
     TestObject untagged;
     QCOMPARE(registry.dataOf(&untagged, textType()), QByteArray());
     QCOMPARE(registry.dataOf(nullptr, textType()), QByteArray());
+}
+
+void TestRegistry::faultsOfFilesStandInTheReport()
+{
+    FindingPlugin plugin(QStringLiteral("finding"), {}, {});
+    ObjectRegistry registry;
+    QStringList told;
+    registry.setProblemListener([&](const PluginReport &report) { told.append(report.problem); });
+    const PluginReport report = registry.addPlugin(&plugin, QStringLiteral("finding"));
+    QVERIFY(report.loaded);
+    QCOMPARE(report.problem, QStringLiteral("a.svg:4:7: warning K03: unknown"));
+    QCOMPARE(report.messages.size(), 1);
+    QCOMPARE(report.messages.first().line, 4);
+    QCOMPARE(told, QStringList());
+}
+
+void TestRegistry::laterFaultIsToldOnceAndNotAfterTheRegistry()
+{
+    FindingPlugin plugin(QStringLiteral("finding"), {}, {});
+    QStringList told;
+    {
+        ObjectRegistry registry;
+        registry.setProblemListener([&](const PluginReport &report) { told.append(report.problem); });
+        registry.addPlugin(&plugin, QStringLiteral("finding"));
+        plugin.tell({pagehost::PluginMessage::Error, QStringLiteral("K04"), QStringLiteral("a.svg"), 0, 0,
+                     QString(), QStringLiteral("no node")});
+        QCOMPARE(told, QStringList{QStringLiteral("a.svg:4:7: warning K03: unknown; a.svg: error K04: no node")});
+        QCOMPARE(registry.reports().first().messages.size(), 2);
+    }
+    QVERIFY(!plugin.tell);
+    QCOMPARE(told.size(), 1);
 }
 
 QTEST_MAIN(TestRegistry)

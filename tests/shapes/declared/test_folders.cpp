@@ -12,13 +12,6 @@
 
 using namespace declared;
 
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin;
-    return plugin;
-}
-
 class TestFolders : public QObject
 {
     Q_OBJECT

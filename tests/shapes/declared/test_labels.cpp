@@ -22,13 +22,6 @@
 
 using namespace declared;
 
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin;
-    return plugin;
-}
-
 namespace {
 
 const QByteArray cloud = "<path id='figure' fill='#fff' d='M0 0H120V80H0Z' shape:d='M0 0H{w}V{h}H0Z'/>"

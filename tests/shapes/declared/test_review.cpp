@@ -11,13 +11,6 @@
 
 using namespace declared;
 
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin;
-    return plugin;
-}
-
 class TestReview : public QObject
 {
     Q_OBJECT

@@ -71,13 +71,6 @@ QJsonObject savedJson(CSVGObj &object)
 
 } // namespace
 
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin = codedKind();
-    return plugin;
-}
-
 class TestSuccessors : public QObject
 {
     Q_OBJECT
@@ -169,8 +162,8 @@ void TestSuccessors::textsHaveTheKeysOfTheCodedShape()
 {
     const QMap<QString, QString> german = m_declared.texts(QStringLiteral("de"));
     QCOMPARE(german.value(QStringLiteral("IDS_SHAPE_NUT")), QStringLiteral("Mutter"));
-    QCOMPARE(german.value(teethText.key()), QStringLiteral("Zähne"));
-    QCOMPARE(m_declared.texts(QStringLiteral("en")).value(sadText.key()), QStringLiteral("Sad"));
+    QCOMPARE(german.value(teethText.key(&m_coded)), QStringLiteral("Zähne"));
+    QCOMPARE(m_declared.texts(QStringLiteral("en")).value(sadText.key(&m_coded)), QStringLiteral("Sad"));
 }
 
 void TestSuccessors::onlyInstalledFilesSucceed()

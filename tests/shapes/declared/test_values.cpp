@@ -15,13 +15,6 @@
 
 using namespace declared;
 
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin;
-    return plugin;
-}
-
 namespace {
 
 const char *tips = "<shape:property name='tips' type='whole' value='5' from='3' to='24'/>";

@@ -149,6 +149,41 @@ public:
     virtual void addFolders(const QStringList &folders) = 0;
 };
 
+/// A fault of a file that a plug-in makes objects of, or of their drawing.
+struct PluginMessage
+{
+    enum Severity { Warning, Error };
+
+    /// "star.shape.svg:14:22: error C07: ...", without the line where that is unknown.
+    QString told() const
+    {
+        const QString place = line > 0 ? QStringLiteral(":%1:%2").arg(line).arg(column) : QString();
+        const QString kind = severity == Error ? QStringLiteral("error") : QStringLiteral("warning");
+        return QStringLiteral("%1%2: %3 %4: %5").arg(file, place, kind, code, text);
+    }
+
+    Severity severity = Warning;
+    QString code; ///< of a documented list of the plug-in: "K03"
+    QString file;
+    qint64 line = 0; ///< from 1; 0 when it is unknown
+    qint64 column = 0;
+    QString element; ///< id of the element, if it has one
+    QString text;    ///< in English for people
+};
+
+using MessageListener = std::function<void(const PluginMessage &)>;
+
+/// A second interface, optional for plug-ins: faults of what they make objects of.
+class MessageSource
+{
+public:
+    virtual ~MessageSource() = default;
+    /// Everything found so far.
+    virtual QVector<PluginMessage> messages() const = 0;
+    /// `listener` is notified of every message that follows; an empty one of none.
+    virtual void setMessageListener(const MessageListener &listener) = 0;
+};
+
 } // namespace pagehost
 
 /// Identifies the interface to Qt's plug-in system.

@@ -29,6 +29,8 @@ struct PluginReport
     /// problem.
     QString problem;
     QStringList kindIds; ///< kinds that it offers
+    /// Faults of files that it makes objects of; their texts are part of `problem`.
+    QVector<PluginMessage> messages = {};
 };
 
 /// The kinds of page objects that plug-ins offer.
@@ -110,6 +112,8 @@ private:
     bool hasLoaded(const QString &file) const;
     void mergeTexts(const Source &source);
     bool run(const Source &source, const QString &operation, const std::function<void()> &work) const;
+    void listenTo(const Source &source);
+    void addMessage(const Source &source, const PluginMessage &message) const;
     void addProblem(const Source &source, const QString &problem) const;
     Source sourceOf(const QString &kindId) const;
     CBaseObject *taken(const Source &source, const QString &operation, CBaseObject *object,
@@ -123,6 +127,7 @@ private:
     QVector<ObjectKind> m_kinds;
     QVector<Source> m_sources;        ///< every plug-in in use, in order of registration
     QHash<QString, Source> m_plugins; ///< by kind id
+    QVector<MessageSource *> m_messageSources;
 };
 
 /// Tells a new object of texts by key (KnownTexts).

@@ -3,12 +3,12 @@
 #include <svgobj/csvgbase.h>
 
 /// A bubble whose tip the user drags to the person who is speaking, or thinking.
-class SpeechBubble : public CSVGBase
+class ThinkingBubble : public CSVGBase
 {
 public:
     static constexpr int typeNumber = 101;
 
-    explicit SpeechBubble(CSVGObj *owner);
+    explicit ThinkingBubble(CSVGObj *owner);
 
     QString getSVG() override;
     int getSVGType() override { return typeNumber; }

@@ -4,7 +4,7 @@
 
 #include <QtCore/QObject>
 
-class SpeechBubblePlugin : public QObject, public pagehost::ObjectPlugin
+class ThinkingBubblePlugin : public QObject, public pagehost::ObjectPlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID PAGEHOST_OBJECTPLUGIN_IID)

@@ -1,6 +1,6 @@
 // Animation of the bubble: the host reads the property AnimationRuns and sets it for visible objects.
 
-#include "speechbubble.h"
+#include "thinkingbubble.h"
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -8,7 +8,7 @@
 
 #include <QtCore/QDataStream>
 
-bool SpeechBubble::GetSpecialProperty(int propId, QDataStream &out)
+bool ThinkingBubble::GetSpecialProperty(int propId, QDataStream &out)
 {
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::GetSpecialProperty(propId, out);
@@ -16,12 +16,14 @@ bool SpeechBubble::GetSpecialProperty(int propId, QDataStream &out)
     return true;
 }
 
-bool SpeechBubble::SetSpecialProperty(int propId, QDataStream &in, bool record)
+bool ThinkingBubble::SetSpecialProperty(int propId, QDataStream &in, bool record)
 {
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::SetSpecialProperty(propId, in, record);
     bool on = false;
     in >> on;
+    if (!document || in.status() != QDataStream::Ok)
+        return false;
     if (on == isAnimating())
         return true;
     if (on) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <shapekit/shapekit_global.h>
+
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
-namespace declared {
+namespace shapekit {
 
 /// An attribute as it stands in a file.
 struct RawAttribute
@@ -13,7 +15,7 @@ struct RawAttribute
 };
 
 /// A start tag as it stands in a file.
-struct RawTag
+struct SHAPEKIT_EXPORT RawTag
 {
     QString name;   ///< with its prefix
     int offset = 0; ///< of its "<"
@@ -25,7 +27,7 @@ struct RawTag
 
 /// Finds the start tags of an XML text, which may be faulty, in their order: Qt's reader tells where a tag ends,
 /// but not where its attributes stand.
-class TagScanner
+class SHAPEKIT_EXPORT TagScanner
 {
 public:
     explicit TagScanner(const QString &text);
@@ -51,4 +53,4 @@ private:
     bool m_isEmptyTag = false;
 };
 
-} // namespace declared
+} // namespace shapekit

@@ -1,6 +1,6 @@
-#include <declared/reader/tagscanner.h>
+#include <shapekit/tagscanner.h>
 
-namespace declared {
+namespace shapekit {
 
 int RawTag::offsetOf(const QString &attribute) const
 {
@@ -117,4 +117,4 @@ void TagScanner::skipSpace()
         ++m_offset;
 }
 
-} // namespace declared
+} // namespace shapekit

@@ -3,10 +3,10 @@
 #include <svgobj/csvgobj.h>
 
 /// The page object of a speech bubble.
-class SpeechBubbleObject : public CSVGObj
+class ThinkingBubbleObject : public CSVGObj
 {
 public:
-    SpeechBubbleObject();
+    ThinkingBubbleObject();
 
     QString kindName() const override;
     bool createSVGBase(int type, bool initGlobals) override;

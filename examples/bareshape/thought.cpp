@@ -1,7 +1,7 @@
 // The bubble's own property: the item shown by panels, its value for panels, undo and playback, and its place in
 // both saved formats.
 
-#include "speechbubble.h"
+#include "thinkingbubble.h"
 
 #include <svgobj/csvgbaseundocmd.h>
 #include <svgobj/csvgpropitem.h>
@@ -18,12 +18,12 @@ const QString thoughtJsonKey = QStringLiteral("SVG_Thought");
 
 } // namespace
 
-void SpeechBubble::initSpecialPropItems()
+void ThinkingBubble::initSpecialPropItems()
 {
     propItems.append(new CSVGPropItem(thoughtId, thoughtNameKey, thoughtAction, DATA_TYPE_0, nullptr, true));
 }
 
-bool SpeechBubble::getInnerProperty(int propId, QDataStream &out)
+bool ThinkingBubble::getInnerProperty(int propId, QDataStream &out)
 {
     if (propId != thoughtId)
         return CSVGBase::getInnerProperty(propId, out);
@@ -31,12 +31,14 @@ bool SpeechBubble::getInnerProperty(int propId, QDataStream &out)
     return true;
 }
 
-bool SpeechBubble::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
+bool ThinkingBubble::setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo)
 {
     if (propId != thoughtId)
         return CSVGBase::setInnerProperty(propId, in, record, addUndo);
     bool on = m_isThought;
     in >> on;
+    if (in.status() != QDataStream::Ok)
+        return false;
     if (addUndo) {
         auto *command = new CSVGBaseUndoCmd(this, thoughtAction, nullptr, true);
         command->setBool(m_isThought, on);
@@ -48,20 +50,20 @@ bool SpeechBubble::setInnerProperty(int propId, QDataStream &in, bool record, bo
     return true;
 }
 
-void SpeechBubble::setThought(bool on)
+void ThinkingBubble::setThought(bool on)
 {
     m_isThought = on;
     updateAllControlPoints(true, true);
 }
 
-bool SpeechBubble::save(QDataStream &out)
+bool ThinkingBubble::save(QDataStream &out)
 {
     CSVGBase::save(out);
     out << m_isThought;
     return true;
 }
 
-bool SpeechBubble::load(QDataStream &in)
+bool ThinkingBubble::load(QDataStream &in)
 {
     CSVGBase::load(in);
     bool on = false;
@@ -70,14 +72,14 @@ bool SpeechBubble::load(QDataStream &in)
     return true;
 }
 
-bool SpeechBubble::saveJson(QJsonObject &object)
+bool ThinkingBubble::saveJson(QJsonObject &object)
 {
     CSVGBase::saveJson(object);
     object[thoughtJsonKey] = m_isThought;
     return true;
 }
 
-bool SpeechBubble::loadJson(QJsonObject &object)
+bool ThinkingBubble::loadJson(QJsonObject &object)
 {
     CSVGBase::loadJson(object);
     setThought(object.value(thoughtJsonKey).toBool());
