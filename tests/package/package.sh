@@ -127,12 +127,38 @@ step_bare_example() {
 
 # An outside shape on the kit, for the strictest of authors.
 step_kit_example() {
-    local compiler
+    local compiler output
     for compiler in g++ clang++; do
         build_example speechbubble "$work/speechbubble-$compiler" "$compiler" \
             "-Wall -Wextra -Wpedantic -Wshadow -Werror"
         board_takes speechbubble "$work/speechbubble-$compiler/speechbubble.so"
+        output=$("$prefix/bin/gliololok-shape" check "$work/speechbubble-$compiler/speechbubble.so") ||
+            fail "the example breaks a promise: $output"
     done
+}
+
+# An application on the reference host: it saves two shapes, and opens what it has saved.
+step_application() {
+    local file="$work/two.board" first
+    build_example application "$work/application" "$CXX" "-Wall -Wextra -Werror"
+    rm -f "$file"
+    export LD_LIBRARY_PATH="$libraries"
+    [ "$("$work/application/application" "$file" --once)" = "2 shapes" ] || fail "it does not make two shapes"
+    first=$(sha256sum <"$file")
+    [ "$("$work/application/application" "$file" --once)" = "2 shapes" ] || fail "it does not open two shapes"
+    [ "$(sha256sum <"$file")" = "$first" ] || fail "it does not save what it has opened"
+}
+
+# A project as the tool writes it builds against the package, and passes its own test.
+step_new_project() {
+    local directory="$work/new-project" output
+    rm -rf "$directory"
+    "$prefix/bin/gliololok-shape" new nut --cpp --dir "$directory" >/dev/null
+    cmake -S "$directory/nut" -B "$directory/build" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
+        -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+    cmake --build "$directory/build" >/dev/null || fail "the new project does not build"
+    output=$(cd "$directory/build" && PATH="$prefix/bin:$PATH" ctest --output-on-failure 2>&1) ||
+        fail "the new project does not pass: $output"
 }
 
 # Several shapes in one plug-in.

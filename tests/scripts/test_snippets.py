@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that snippets of docs/shape-author.md are excerpts of files that other tests build: the line before a block of code names the
+"""Checks that snippets of the documents for authors and integrators are excerpts of files that other tests build: the line before a block of code names the
 file, "..." in the block stands for lines that are left out.
 """
 
@@ -35,17 +35,21 @@ def missing_parts(snippet, source):
 
 class TestSnippets(unittest.TestCase):
     def setUp(self):
-        with open(os.path.join(ROOT, "docs", "shape-author.md"), encoding="utf-8") as file:
-            self.snippets = snippets_of(file.read())
+        self.author = self.snippets_in("shape-author.md")
+        self.all = self.author + self.snippets_in("host-integration.md")
+
+    def snippets_in(self, name):
+        with open(os.path.join(ROOT, "docs", name), encoding="utf-8") as file:
+            return snippets_of(file.read())
 
     def test_every_snippet_names_its_file(self):
-        self.assertGreater(len(self.snippets), 8)
-        for name, language, text in self.snippets:
+        self.assertGreater(len(self.author), 8)
+        for name, language, text in self.author:
             if language in LANGUAGES and READ_ELSEWHERE not in text:
                 self.assertIsNotNone(name, text)
 
     def test_every_snippet_stands_in_its_file(self):
-        for name, _, text in self.snippets:
+        for name, _, text in self.all:
             if name is None:
                 continue
             with open(os.path.join(ROOT, name), encoding="utf-8") as file:
