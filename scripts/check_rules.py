@@ -85,6 +85,11 @@ COMPONENTS = [
         headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
     ),
     Component(["shapes"], prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"), own=("shapes",)),
+    Component(
+        ["tools/checklist", "tools/shape"],
+        prefixes=("checklist/", "declared/", "shapekit/", "svgobj/", "framework/", "svgbase/", "pagehost/"),
+        own=("tools",),
+    ),
     Component(["board"], prefixes=("framework/", "pagehost/"), own=("board",), qt=frozenset({"QtPrintSupport"})),
 ]
 

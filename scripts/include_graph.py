@@ -16,9 +16,10 @@ OWN_BASES = {
     "reference/framework/": ("reference/framework",),
     "kit/": ("kit/src",),
     "shapes/": ("shapes",),
+    "tools/": ("tools", "shapes"),
     "board/": ("board",),
     "bench/": ("board",),
-    "tests/": ("tests", "src", "reference/svgbase", "reference/framework", "board"),
+    "tests/": ("tests", "tools", "src", "reference/svgbase", "reference/framework", "board"),
     "fuzz/": ("tests", "src", "reference/svgbase"),
 }
 

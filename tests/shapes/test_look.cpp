@@ -1,6 +1,6 @@
 // Pen and fill, as the host's panels set them.
 
-#include <shapes/recordedactions.h>
+#include <checklist/recordedactions.h>
 #include <shapes/shapedriver.h>
 
 #include <svgobj/csvgbase.h>
@@ -14,7 +14,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
-using shapetest::RecordedActions;
+using checklist::RecordedActions;
 using shapetest::ShapeDriver;
 
 class TestLook : public QObject

@@ -1,7 +1,7 @@
 // Shapes that became files are held against the same shapes in C++, which tests/shapes/coded keeps: whatever is
 // done to both, they save the same bytes and look the same.
 
-#include <shapes/randomedits.h>
+#include <checklist/randomedits.h>
 #include <shapes/shapedriver.h>
 
 #include <svgobj/csvgbase.h>
@@ -17,7 +17,7 @@
 
 #include <cmath>
 
-using shapetest::RandomEdits;
+using checklist::RandomEdits;
 using shapetest::ShapeDriver;
 
 class TestTwins : public QObject

@@ -5,7 +5,7 @@
 #include <QtCore/QPair>
 #include <QtCore/QVector>
 
-namespace shapetest {
+namespace checklist {
 
 /// Writes down what objects record while it lives.
 class RecordedActions : public pagehost::ActionSink
@@ -27,4 +27,4 @@ private:
     pagehost::ActionSink *m_before;
 };
 
-} // namespace shapetest
+} // namespace checklist

@@ -1,6 +1,6 @@
-#include <shapes/randomedits.h>
+#include <checklist/randomedits.h>
 
-#include <shapes/shapedriver.h>
+#include <checklist/shapedriver.h>
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
@@ -9,7 +9,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtGui/QBrush>
 
-namespace shapetest {
+namespace checklist {
 
 namespace {
 
@@ -128,4 +128,4 @@ QColor RandomEdits::anyColor()
     return QColor(upTo(255), upTo(255), upTo(255), 128 + upTo(127));
 }
 
-} // namespace shapetest
+} // namespace checklist

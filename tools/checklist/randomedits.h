@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace shapetest {
+namespace checklist {
 
 class ShapeDriver;
 
@@ -33,4 +33,4 @@ private:
     std::mt19937 m_random;
 };
 
-} // namespace shapetest
+} // namespace checklist
