@@ -4,6 +4,7 @@
 #include <shapekit/place.h>
 #include <shapekit/suggestion.h>
 #include <shapekit/tagscanner.h>
+#include <shapekit/textplaces.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 
@@ -13,8 +14,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <tuple>
-#include <utility>
 
 namespace shapekit {
 
@@ -79,13 +78,6 @@ bool isOfNobody(const QString &name)
            name == QLatin1String("role") || name == QLatin1String("tabindex");
 }
 
-/// Line and column, from 1.
-std::pair<qint64, qint64> placeOf(const QString &text, int offset)
-{
-    const QStringRef before = text.leftRef(offset);
-    return {before.count(QLatin1Char('\n')) + 1, offset - before.lastIndexOf(QLatin1Char('\n'))};
-}
-
 /// The value of an attribute that begins at `start`, behind its quote.
 QString valueAt(const QString &text, int start)
 {
@@ -113,7 +105,11 @@ public:
     TemplateCheck(const QString &text, const QString &file)
         : m_text(text)
         , m_file(file)
+        , m_places(text)
     {
+        TagScanner scanner(m_text);
+        for (RawTag tag; scanner.next(tag);)
+            m_tags.append(tag);
     }
     QVector<PluginMessage> faults();
 
@@ -136,6 +132,8 @@ private:
 
     QString m_text;
     QString m_file;
+    TextPlaces m_places;
+    QVector<RawTag> m_tags;
     QString m_element; ///< id of the element that is being checked
     QSet<QString> m_ids;
     QMap<int, int> m_points; ///< offsets by number
@@ -145,8 +143,7 @@ private:
 QVector<PluginMessage> TemplateCheck::faults()
 {
     if (isReadable()) {
-        TagScanner scanner(m_text);
-        for (RawTag tag; scanner.next(tag);)
+        for (const RawTag &tag : qAsConst(m_tags))
             checkTag(tag);
         checkNumbering();
     }
@@ -158,7 +155,7 @@ QVector<PluginMessage> TemplateCheck::faults()
 
 void TemplateCheck::report(PluginMessage::Severity severity, const char *code, int offset, const QString &text)
 {
-    const auto [line, column] = placeOf(m_text, offset);
+    const auto [line, column] = m_places.of(offset);
     m_messages.append({severity, QLatin1String(code), m_file, line, column, m_element, text});
 }
 
@@ -190,7 +187,7 @@ void TemplateCheck::reportLibraryMessage(const QZeSvgTinyDocument::Message &mess
     const int offset = isError ? -1 : attributeOffset(message);
     if (offset < 0)
         return;
-    const auto [line, column] = placeOf(m_text, offset);
+    const auto [line, column] = m_places.of(offset);
     m_messages.last().line = line;
     m_messages.last().column = column;
 }
@@ -217,12 +214,10 @@ int TemplateCheck::attributeOffset(const QZeSvgTinyDocument::Message &message) c
 /// The last start tag that begins before a place.
 RawTag TemplateCheck::tagBefore(qint64 line, qint64 column) const
 {
-    RawTag found;
-    TagScanner scanner(m_text);
-    for (RawTag tag; scanner.next(tag); found = tag)
-        if (placeOf(m_text, tag.offset) >= std::pair<qint64, qint64>(line, column))
-            break;
-    return found;
+    const int offset = m_places.offsetOf({line, column});
+    const auto next = std::lower_bound(m_tags.cbegin(), m_tags.cend(), offset,
+                                       [](const RawTag &tag, int place) { return tag.offset < place; });
+    return next == m_tags.cbegin() ? RawTag() : *(next - 1);
 }
 
 void TemplateCheck::checkTag(const RawTag &tag)
@@ -387,8 +382,11 @@ void reportUnknownNode(const Kind &kind, const QString &id)
                           0,
                           id,
                           QStringLiteral("no node has the id \"%1\"%2").arg(id, suggestion(id, ids.keys()))};
-    if (offset >= 0)
-        std::tie(message.line, message.column) = placeOf(kind.templateText, offset);
+    if (offset >= 0) {
+        const auto [line, column] = TextPlaces(kind.templateText).of(offset);
+        message.line = line;
+        message.column = column;
+    }
     kind.log->report(message);
 }
 
