@@ -110,7 +110,7 @@ board_takes() {
     mkdir -p "$plugins"
     cp "$2" "$plugins"
     "$prefix/bin/gliololok-board" --export "$pages" >/dev/null
-    output=$("$prefix/bin/gliololok-board" --plugins "$plugins" --export "$pages_with" 2>&1) ||
+    output=$("$prefix/bin/gliololok-board" --plugins "$plugins" --export "$pages_with" 2>&1 >/dev/null) ||
         fail "the installed board failed: $output"
     case $output in
     *"$1"*) fail "the board has something to say about the example: $output" ;;

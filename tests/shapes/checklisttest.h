@@ -6,6 +6,8 @@
 
 #include <QtTest/QtTest>
 
+Q_DECLARE_METATYPE(checklist::Check)
+
 namespace shapetest {
 
 /// Rows of every check with every shape there is.
@@ -30,5 +32,3 @@ inline QStringList findingsOfRow()
 }
 
 } // namespace shapetest
-
-Q_DECLARE_METATYPE(checklist::Check)

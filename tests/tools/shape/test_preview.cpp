@@ -23,11 +23,11 @@ QByteArray boxOf(int width)
 {
     return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:shape='urn:gliololok:shape' viewBox='0 0 " +
            QByteArray::number(width) +
-           " 40'>\n<shape:about name='Box'/>\n<shape:property name='round' type='switch' value='no' "
+           " 40'>\n<shape:about name='Box'/>\n<shape:property name='soft' type='switch' value='no' "
            "title='Round'/>\n"
            "<rect id='figure' width='60' height='40' fill='#ff0000' stroke='black' shape:width='{w}' "
            "shape:height='{h}' "
-           "shape:rx='{round ? 9 : 0}'/></svg>";
+           "shape:rx='{soft ? 9 : 0}'/></svg>";
 }
 
 } // namespace
