@@ -17,7 +17,7 @@ class Ink;
 class EraserTool : public pagehost::PageTool
 {
 public:
-    /// What is left of a stroke is objects of `kind`.
+    /// The remains of a stroke are objects of `kind`.
     EraserTool(pagehost::ToolPage *page, const shapekit::Kind &kind);
 
     void setStyle(const pagehost::ToolStyle &style) override { m_style = style; }

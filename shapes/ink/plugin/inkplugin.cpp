@@ -1,4 +1,4 @@
-#include "ink/inkplugin.h"
+#include "ink/plugin/inkplugin.h"
 
 #include "ink/core/ink.h"
 #include "ink/tools/erasertool.h"
