@@ -2,7 +2,7 @@
 
 #include "shapefile.h"
 
-#include <shapes/recordedactions.h>
+#include <checklist/recordedactions.h>
 #include <shapes/shapedriver.h>
 
 #include <declared/core/labellayout.h>
@@ -508,7 +508,7 @@ void TestLabels::lessonTypesLetterByLetter()
         shapekit::ShapeObject teachers(kind.kind());
         shapekit::ShapeObject pupils(kind.kind());
         const int id = placeAt(teachers, {20, 30}).propertyId;
-        shapetest::RecordedActions lesson;
+        checklist::RecordedActions lesson;
         const QStringList typed{QStringLiteral("N"), QStringLiteral("Nu"), QStringLiteral("Nut")};
         for (const QString &text : typed) {
             QByteArray bytes;

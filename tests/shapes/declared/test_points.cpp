@@ -4,7 +4,7 @@
 
 #include "shapefile.h"
 
-#include <shapes/recordedactions.h>
+#include <checklist/recordedactions.h>
 
 #include <declared/core/declaredshape.h>
 #include <declared/core/shapekind.h>
@@ -17,13 +17,6 @@
 #include <QtWidgets/QUndoStack>
 
 using namespace declaredtest;
-
-/// The kind of the plug-in, which the kit asks for.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind plugin;
-    return plugin;
-}
 
 class TestPoints : public QObject
 {
@@ -149,7 +142,7 @@ void TestPoints::lessonEndsWhereThePointWasPut()
 {
     Arrow arrow(m_kind);
     Arrow pupils(m_kind);
-    shapetest::RecordedActions lesson;
+    checklist::RecordedActions lesson;
     arrow.dragControlPoint(2, {11, 3});
     QCOMPARE(lesson.actions.size(), 3);
     QCOMPARE(lesson.actions.at(0).first, int(ACT_SVG_CONTROLPOINT));

@@ -2,21 +2,12 @@
 
 #include <ink/core/strokedata.h>
 
-#include <shapekit/kind.h>
-
 #include <QtTest/QtTest>
 
 using ink::decoded;
 using ink::encoded;
 using ink::StrokeData;
 using ink::StrokePoint;
-
-/// The kit asks for the kind of its plug-in.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind kind;
-    return kind;
-}
 
 class TestStrokeData : public QObject
 {

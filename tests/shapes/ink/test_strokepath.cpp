@@ -2,20 +2,11 @@
 
 #include <ink/core/strokepath.h>
 
-#include <shapekit/kind.h>
-
 #include <QtCore/QLineF>
 #include <QtTest/QtTest>
 
 using ink::StrokePoint;
 using Points = QVector<StrokePoint>;
-
-/// The kit asks for the kind of its plug-in.
-const shapekit::Kind &shapekit::kind()
-{
-    static const Kind kind;
-    return kind;
-}
 
 class TestStrokePath : public QObject
 {
