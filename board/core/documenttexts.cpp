@@ -45,7 +45,6 @@ QVector<TextEntry> documentTexts()
         {"IDS_BOARD_REPAIRED_NAME", QT_TRANSLATE_NOOP("board", "%1 (repaired)")},
         {"IDS_BOARD_DAMAGED_NAME", QT_TRANSLATE_NOOP("board", "%1 (damaged)")},
 
-        {"IDS_BOARD_SAVED", QT_TRANSLATE_NOOP("board", "Saved: %1")},
         {"IDS_BOARD_NOT_SAVED",
          QT_TRANSLATE_NOOP("board",
                            "“%1” was not saved. Your work is still here: save it elsewhere or try again.")},

@@ -7,10 +7,7 @@ namespace board {
 QVector<TextEntry> formTexts()
 {
     return {
-        {"IDS_BOARD_SETTINGS", QT_TRANSLATE_NOOP("board", "Settings")},
         {"IDS_BOARD_PROPERTIES", QT_TRANSLATE_NOOP("board", "Properties")},
-        {"IDS_BOARD_SETTINGS_ADVICE", QT_TRANSLATE_NOOP("board", "Select shapes to see what they let you set.")},
-        {"IDS_BOARD_PROPERTIES_ADVICE", QT_TRANSLATE_NOOP("board", "Select shapes to see their properties.")},
         {"IDS_BOARD_NOTHING_IN_COMMON",
          QT_TRANSLATE_NOOP("board", "There is nothing to set here that all of them have.")},
     };

@@ -30,7 +30,6 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_HINT",
          QT_TRANSLATE_NOOP(
              "board", "A lesson is shown, your board stays as it is · F8 plays and pauses · Shift+F8 goes back")},
-        {"IDS_LESSON_NONE", QT_TRANSLATE_NOOP("board", "No lesson yet: record one while you draw.")},
         {"IDS_LESSON_RECORDING", QT_TRANSLATE_NOOP("board", "Recording  %1")},
         {"IDS_LESSON_RECORDING_PAUSED", QT_TRANSLATE_NOOP("board", "Recording paused  %1")},
         {"IDS_LESSON_TIME", QT_TRANSLATE_NOOP("board", "%1 / %2")},

@@ -28,7 +28,6 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_EDIT", QT_TRANSLATE_NOOP("board", "&Edit")},
     {"IDS_BOARD_ARRANGE", QT_TRANSLATE_NOOP("board", "&Arrange")},
     {"IDS_BOARD_VIEW", QT_TRANSLATE_NOOP("board", "&View")},
-    {"IDS_BOARD_PANELS", QT_TRANSLATE_NOOP("board", "&Panels")},
     {"IDS_BOARD_HELP", QT_TRANSLATE_NOOP("board", "&Help")},
     {"IDS_BOARD_TOOLS", QT_TRANSLATE_NOOP("board", "Tools")},
     {"IDS_BOARD_MORE", QT_TRANSLATE_NOOP("board", "More")},
@@ -78,7 +77,6 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_PAGE_NUMBER", QT_TRANSLATE_NOOP("board", "Page %1")},
     {"IDS_BOARD_HISTORY", QT_TRANSLATE_NOOP("board", "History")},
     {"IDS_BOARD_HISTORY_START", QT_TRANSLATE_NOOP("board", "Start")},
-    {"IDS_BOARD_STYLE", QT_TRANSLATE_NOOP("board", "Look")},
     {"IDS_BOARD_PAGE", QT_TRANSLATE_NOOP("board", "Page")},
     {"IDS_BOARD_SEVERAL", QT_TRANSLATE_NOOP("board", "%1 objects")},
 
@@ -164,7 +162,7 @@ pagehost::TextTable boardTexts(const QString &language)
     const QVector<TextEntry> entries = textEntries();
     for (const TextEntry &entry : entries) {
         const QString text = language == english ? QString::fromUtf8(entry.english)
-                                                 : translator.translate(textContext, entry.english);
+                                                 : translator.translate(textContext, entry.english, entry.key);
         if (!text.isEmpty())
             texts.insert(QLatin1String(entry.key), text);
     }

@@ -10,11 +10,10 @@ namespace board {
 namespace {
 
 const QString placeKey = QStringLiteral("window/place");
-const QString panelsKey = QStringLiteral("window/panels");
+const QString pinnedKeys[] = {QStringLiteral("window/panelPinned"), QStringLiteral("window/palettePinned"),
+                              QStringLiteral("window/pagesShown")};
 const QString dockKey = QStringLiteral("window/dock");
 const QString darkKey = QStringLiteral("window/dark");
-/// To be counted up when panels of an earlier version don't fit any more.
-constexpr int panelsVersion = 1;
 /// Title bar and borders, which the window manager adds, logical pixels.
 constexpr QSize frameRoom(16, 40);
 
@@ -29,10 +28,8 @@ QSize roomOnScreen()
 void restoreWindow(QMainWindow *window)
 {
     const QSettings settings;
-    if (window->restoreGeometry(settings.value(placeKey).toByteArray())) {
-        window->restoreState(settings.value(panelsKey).toByteArray(), panelsVersion);
+    if (window->restoreGeometry(settings.value(placeKey).toByteArray()))
         return;
-    }
     window->resize(window->size().boundedTo(roomOnScreen()));
 }
 
@@ -40,7 +37,6 @@ void rememberWindow(const QMainWindow *window)
 {
     QSettings settings;
     settings.setValue(placeKey, window->saveGeometry());
-    settings.setValue(panelsKey, window->saveState(panelsVersion));
 }
 
 Qt::Edge rememberedDockEdge()
@@ -55,6 +51,16 @@ Qt::Edge rememberedDockEdge()
 void rememberDockEdge(Qt::Edge edge)
 {
     QSettings().setValue(dockKey, static_cast<int>(edge));
+}
+
+bool remembersPinned(Pane pane)
+{
+    return QSettings().value(pinnedKeys[int(pane)]).toBool();
+}
+
+void rememberPinned(Pane pane, bool pinned)
+{
+    QSettings().setValue(pinnedKeys[int(pane)], pinned);
 }
 
 bool remembersDarkColors()

@@ -6,7 +6,7 @@ class QMainWindow;
 
 namespace board {
 
-/// Gives a window that is not yet shown the place and the panels that it had when rememberWindow() was last called;
+/// Gives a window that is not yet shown the place that it had when rememberWindow() was last called;
 /// at first its own size. In either case no more of the screen than there is.
 void restoreWindow(QMainWindow *window);
 void rememberWindow(const QMainWindow *window);
@@ -14,6 +14,11 @@ void rememberWindow(const QMainWindow *window);
 /// The edge of the window that the user's tools lie at; at first the left one.
 Qt::Edge rememberedDockEdge();
 void rememberDockEdge(Qt::Edge edge);
+
+/// Parts of the window that users keep beside the page or not; at first none.
+enum class Pane { Panel, Palette, Pages };
+bool remembersPinned(Pane pane);
+void rememberPinned(Pane pane, bool pinned);
 
 /// Whether the user has chosen dark colours.
 bool remembersDarkColors();

@@ -211,7 +211,7 @@ void LessonBar::showTime()
         m_message->setText(m_workspace->text("IDS_LESSON_RECORDING_PAUSED").arg(now));
         break;
     default:
-        m_message->setText(m_workspace->text("IDS_LESSON_NONE"));
+        m_message->clear();
     }
     m_time->setText(m_workspace->text("IDS_LESSON_TIME").arg(now, timeText(m_lessons->duration())));
     m_timeLine->setPosition(m_lessons->isRecording() ? 0 : m_lessons->position());

@@ -56,8 +56,6 @@ QString rgbaText(const QColor &color)
 QString styleSheet()
 {
     static const QString pattern = QStringLiteral(R"(
-QMainWindow::separator { background: %border; width: 1px; height: 1px; }
-QMainWindow::separator:hover { background: %accent; }
 QToolButton { border: 1px solid transparent; border-radius: 8px; padding: 5px; }
 QToolButton:hover { background: %hover; }
 QToolButton:pressed { background: %border; }
@@ -69,13 +67,6 @@ QMenuBar::item { background: transparent; padding: 7px 10px; border-radius: 8px;
 QMenuBar::item:selected { background: %hover; }
 QMenuBar::item:pressed { background: %soft; color: %accent; }
 QMenuBar::item:disabled { color: %disabled; }
-QDockWidget { titlebar-close-icon: none; titlebar-normal-icon: none; }
-QDockWidget::title { background: %bar; padding: 10px 12px 6px 8px; }
-QMainWindow > QTabBar { background: %bar; qproperty-drawBase: 0; }
-QMainWindow > QTabBar::tab { background: %bar; border: none; border-bottom: 2px solid transparent;
-                             padding: 9px 9px 7px 9px; color: %faint; }
-QMainWindow > QTabBar::tab:hover { color: %text; }
-QMainWindow > QTabBar::tab:selected { color: %text; border-bottom-color: %accent; }
 QGraphicsView, QScrollArea, QListView, QUndoView { border: none; }
 QListView { background: %bar; }
 QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }

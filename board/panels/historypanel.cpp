@@ -5,6 +5,7 @@
 
 #include <framework/cundoredo.h>
 
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QUndoStack>
 #include <QtWidgets/QUndoView>
 #include <QtWidgets/QVBoxLayout>
@@ -19,7 +20,19 @@ HistoryPanel::HistoryPanel(const Workspace *workspace, QWidget *parent)
     m_view->setEmptyLabel(workspace->text("IDS_BOARD_HISTORY_START"));
     m_view->setAccessibleName(workspace->text("IDS_BOARD_HISTORY"));
     m_view->setFocusPolicy(Qt::TabFocus);
+    auto *nothing = new QLabel(workspace->text("IDS_BOARD_HISTORY_EMPTY"), this);
+    nothing->setForegroundRole(QPalette::PlaceholderText);
+    nothing->setWordWrap(true);
+    nothing->setContentsMargins(mediumGap, mediumGap, mediumGap, mediumGap);
+    const QUndoStack *stack = m_view->stack();
+    const auto show = [this, nothing, stack] {
+        nothing->setVisible(stack->count() == 0);
+        m_view->setVisible(stack->count() > 0);
+    };
+    connect(stack, &QUndoStack::indexChanged, this, show);
+    show();
     auto *column = new QVBoxLayout(this);
+    column->addWidget(nothing, 0, Qt::AlignTop);
     column->setContentsMargins(mediumGap, 0, mediumGap, mediumGap);
     column->addWidget(m_view);
 }

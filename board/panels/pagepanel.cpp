@@ -50,6 +50,8 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
 void PagePanel::makeList()
 {
     m_list->setFlow(QListView::LeftToRight);
+    // The page keeps the keys while the mouse is used here.
+    m_list->setFocusPolicy(Qt::TabFocus);
     m_list->setWrapping(false);
     m_list->setItemDelegate(new PageDelegate(m_list));
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

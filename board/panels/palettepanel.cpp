@@ -1,24 +1,46 @@
 #include "panels/palettepanel.h"
 
 #include "core/workspace.h"
+#include "look/icons.h"
 #include "look/theme.h"
 #include "objects/objectpictures.h"
 #include "panels/buttonflow.h"
 #include "panels/palettebutton.h"
 #include "panels/paletteorder.h"
 
-#include <QtCore/QEvent>
+#include <QtCore/QSettings>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace board {
 
 namespace {
 
 constexpr QSize pictureSize(52, 46);
+constexpr int columnsShown = 3;
+constexpr int mostRecent = 8;
+const QString recentKey = QStringLiteral("palette/lastUsed");
+
+QToolButton *headButton(Icon picture, const QString &name)
+{
+    auto *button = new QToolButton;
+    button->setIcon(icon(picture));
+    button->setIconSize(QSize(barIconSide, barIconSide));
+    button->setFixedSize(barButtonSide, barButtonSide);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
 
 } // namespace
 
@@ -27,24 +49,63 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     , m_workspace(workspace)
     , m_search(new QLineEdit(this))
     , m_scroll(new QScrollArea(this))
+    , m_pin(headButton(Icon::Pin, workspace->text("IDS_BOARD_PIN")))
+    , m_menu(new QMenu(this))
+    , m_nothing(new QLabel)
+    , m_all(new QPushButton(workspace->text("IDS_BOARD_ALL_SHAPES")))
 {
     m_search->setPlaceholderText(workspace->text("IDS_BOARD_SEARCH"));
     m_search->setAccessibleName(workspace->text("IDS_BOARD_SEARCH"));
     m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &PalettePanel::filter);
 
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(largeGap, largeGap, largeGap, largeGap);
+    column->setSpacing(largeGap);
+    column->addWidget(makeHead());
+    column->addWidget(makeNothing());
+    column->addWidget(m_scroll, 1);
     fill();
     // In the smallest window one column is still whole.
     m_scroll->setMinimumWidth(widthOfColumns(1));
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
-    column->setSpacing(largeGap);
-    column->addWidget(m_search);
-    column->addWidget(m_scroll, 1);
     paintPictures();
+    filter({});
+}
+
+QWidget *PalettePanel::makeHead()
+{
+    m_pin->setCheckable(true);
+    QToolButton *more = headButton(Icon::More, m_workspace->text("IDS_BOARD_MORE"));
+    more->setMenu(m_menu);
+    more->setPopupMode(QToolButton::InstantPopup);
+    auto *head = new QWidget(this);
+    auto *row = new QHBoxLayout(head);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(smallGap);
+    row->addWidget(m_search, 1);
+    row->addWidget(m_pin);
+    row->addWidget(more);
+    return head;
+}
+
+/// In place of shapes when a search finds none.
+QWidget *PalettePanel::makeNothing()
+{
+    m_nothing->setWordWrap(true);
+    m_nothing->setTextFormat(Qt::PlainText);
+    m_nothing->setForegroundRole(QPalette::PlaceholderText);
+    connect(m_all, &QPushButton::clicked, m_search, &QLineEdit::clear);
+    auto *part = new QWidget(this);
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_nothing);
+    column->addWidget(m_all, 0, Qt::AlignLeft);
+    return part;
 }
 
 void PalettePanel::fill()
@@ -53,16 +114,20 @@ void PalettePanel::fill()
     auto *groups = new QVBoxLayout(content);
     groups->setContentsMargins(0, 0, 0, 0);
     groups->setSpacing(largeGap);
+    addRecent(groups);
     addGroups(groups);
     groups->addStretch();
     m_scroll->setWidget(content);
+    content->setAutoFillBackground(false);
 }
 
 void PalettePanel::showKinds()
 {
     const int place = m_scroll->verticalScrollBar()->value();
     m_buttons.clear();
+    m_recentButtons.clear();
     m_flows.clear();
+    m_recentFlow = nullptr;
     fill();
     paintPictures();
     showWaitingKind(m_waitingKind);
@@ -80,7 +145,7 @@ int PalettePanel::widthOfColumns(int columns) const
 QSize PalettePanel::sizeHint() const
 {
     const QMargins margins = layout()->contentsMargins();
-    const int width = margins.left() + widthOfColumns(2) + margins.right();
+    const int width = margins.left() + widthOfColumns(columnsShown) + margins.right();
     return {width, QWidget::sizeHint().height()};
 }
 
@@ -95,7 +160,7 @@ void PalettePanel::addGroups(QVBoxLayout *column)
             m_flows.append(flow);
             column->addWidget(flow);
         }
-        addButton(flow, entry);
+        m_buttons.append(makeButton(flow, entry));
     }
     if (!entries.isEmpty())
         return;
@@ -105,7 +170,36 @@ void PalettePanel::addGroups(QVBoxLayout *column)
     column->addWidget(nothing);
 }
 
-void PalettePanel::addButton(ButtonFlow *flow, const PaletteEntry &entry)
+void PalettePanel::addRecent(QVBoxLayout *column)
+{
+    const QVector<PaletteEntry> entries = paletteEntries(*m_workspace);
+    const QStringList recent = QSettings().value(recentKey).toStringList();
+    for (const QString &kindId : recent) {
+        const auto entry = std::find_if(entries.begin(), entries.end(),
+                                        [&](const PaletteEntry &one) { return one.kindId == kindId; });
+        if (entry == entries.end())
+            continue;
+        if (!m_recentFlow) {
+            m_recentFlow = new ButtonFlow(m_workspace->text("IDS_BOARD_LAST_USED"));
+            column->addWidget(m_recentFlow);
+        }
+        m_recentButtons.append(makeButton(m_recentFlow, *entry));
+    }
+}
+
+void PalettePanel::remember(const QString &kindId)
+{
+    QStringList recent = QSettings().value(recentKey).toStringList();
+    if (recent.value(0) == kindId)
+        return;
+    recent.removeAll(kindId);
+    recent.prepend(kindId);
+    QSettings().setValue(recentKey, QStringList(recent.mid(0, mostRecent)));
+    // The button that was pressed may still be at work.
+    QMetaObject::invokeMethod(this, &PalettePanel::showKinds, Qt::QueuedConnection);
+}
+
+PaletteButton *PalettePanel::makeButton(ButtonFlow *flow, const PaletteEntry &entry)
 {
     const QString kindId = entry.kindId;
     auto *button = new PaletteButton(kindId, entry.name, flow);
@@ -115,13 +209,13 @@ void PalettePanel::addButton(ButtonFlow *flow, const PaletteEntry &entry)
     connect(button, &PaletteButton::clicked, this,
             [this, kindId](bool down) { Q_EMIT kindPicked(down ? kindId : QString()); });
     connect(button, &PaletteButton::placeRequested, this, [this, kindId] { Q_EMIT placeRequested(kindId); });
-    m_buttons.append(button);
     flow->addWidget(button);
+    return button;
 }
 
 void PalettePanel::paintPictures()
 {
-    for (PaletteButton *button : qAsConst(m_buttons))
+    for (PaletteButton *button : m_buttons + m_recentButtons)
         button->setIcon(
             QIcon(pictureOfKind(m_workspace->registry(), button->kindId(), pictureSize, devicePixelRatioF())));
 }
@@ -129,7 +223,7 @@ void PalettePanel::paintPictures()
 void PalettePanel::showWaitingKind(const QString &kindId)
 {
     m_waitingKind = kindId;
-    for (PaletteButton *button : qAsConst(m_buttons))
+    for (PaletteButton *button : m_buttons + m_recentButtons)
         button->setChecked(button->kindId() == kindId);
 }
 
@@ -139,12 +233,41 @@ void PalettePanel::startSearch()
     m_search->selectAll();
 }
 
+PaletteButton *PalettePanel::firstHit() const
+{
+    for (PaletteButton *button : m_buttons)
+        if (!button->isHidden())
+            return button;
+    return nullptr;
+}
+
 void PalettePanel::filter(const QString &words)
 {
+    const QString searched = words.trimmed();
     for (PaletteButton *button : qAsConst(m_buttons))
-        button->setVisible(button->isFoundBy(words.trimmed()));
+        button->setHidden(!button->isFoundBy(searched));
     for (ButtonFlow *flow : qAsConst(m_flows))
         flow->rearrange();
+    if (m_recentFlow)
+        m_recentFlow->setVisible(searched.isEmpty());
+    m_nothing->setText(m_workspace->text("IDS_BOARD_NO_SUCH_SHAPE").arg(searched));
+    m_nothing->parentWidget()->setVisible(!m_buttons.isEmpty() && !firstHit());
+}
+
+/// The return key draws the first shape that was found; with Ctrl it puts it in the middle.
+bool PalettePanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_search || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const PaletteButton *hit = firstHit();
+    if ((key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) || !hit)
+        return false;
+    if (key->modifiers() & Qt::ControlModifier)
+        Q_EMIT placeRequested(hit->kindId());
+    else
+        Q_EMIT kindPicked(hit->kindId());
+    return true;
 }
 
 void PalettePanel::changeEvent(QEvent *event)

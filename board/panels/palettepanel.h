@@ -3,7 +3,11 @@
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
+class QLabel;
 class QLineEdit;
+class QMenu;
+class QPushButton;
+class QToolButton;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -28,8 +32,16 @@ public:
     void showWaitingKind(const QString &kindId);
     /// Gives the search the focus.
     void startSearch();
+    /// One for each kind.
     QVector<PaletteButton *> buttons() const { return m_buttons; }
-    /// Room for two kinds beside each other.
+    /// Of the kinds that were used last, the latest first.
+    QVector<PaletteButton *> recentButtons() const { return m_recentButtons; }
+    QToolButton *pin() const { return m_pin; }
+    /// The menu of what is done with shapes as a whole.
+    QMenu *menu() const { return m_menu; }
+    /// Remembers that a kind was used.
+    void remember(const QString &kindId);
+    /// Room for three kinds beside each other.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -40,11 +52,16 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void fill();
     void addGroups(QVBoxLayout *column);
-    void addButton(ButtonFlow *flow, const PaletteEntry &entry);
+    void addRecent(QVBoxLayout *column);
+    PaletteButton *makeButton(ButtonFlow *flow, const PaletteEntry &entry);
+    QWidget *makeHead();
+    QWidget *makeNothing();
+    PaletteButton *firstHit() const;
     int widthOfColumns(int columns) const;
     void paintPictures();
     void filter(const QString &words);
@@ -52,8 +69,14 @@ private:
     const Workspace *m_workspace;
     QLineEdit *m_search;
     QScrollArea *m_scroll;
+    QToolButton *m_pin;
+    QMenu *m_menu;
+    QLabel *m_nothing;
+    QPushButton *m_all;
     QString m_waitingKind;
     QVector<PaletteButton *> m_buttons;
+    QVector<PaletteButton *> m_recentButtons;
+    ButtonFlow *m_recentFlow = nullptr; ///< null while no kind has been used
     QVector<ButtonFlow *> m_flows;
 };
 

@@ -62,7 +62,6 @@ bool isPlain(const CPageBgProp &fill)
 StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
-    , m_title(new QLabel(this))
     , m_pen(new PenControls(workspace))
     , m_fill(new FillControls(workspace))
     , m_background(new FillControls(workspace))
@@ -70,18 +69,12 @@ StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
     , m_refresh(this, [this] { refresh(); })
 {
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(largeGap);
-    QFont font = m_title->font();
-    font.setWeight(QFont::DemiBold);
-    m_title->setFont(font);
-    m_title->setWordWrap(true);
-    column->addWidget(m_title);
     m_fillSection = addSection(column, "IDS_BOARD_FILL", m_fill);
     m_penSection = addSection(column, "IDS_BOARD_PEN", m_pen);
     m_placeSection = addSection(column, "IDS_BOARD_PLACE", m_place);
     m_backgroundSection = addSection(column, "IDS_BOARD_BACKGROUND", m_background);
-    column->addStretch();
     connectControls();
 }
 
@@ -193,7 +186,6 @@ void StylePanel::refresh()
         return;
     }
     m_fillSection->hide();
-    m_title->setText(m_workspace->text("IDS_BOARD_PAGE"));
     if (m_page)
         m_background->showFill(m_page->background());
 }
@@ -201,8 +193,6 @@ void StylePanel::refresh()
 void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
 {
     CBaseObject *first = objects.first();
-    m_title->setText(objects.size() == 1 ? m_workspace->text(first->kindName())
-                                         : m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
     QVector<pagehost::ObjectStyle> styles;
     QVector<CPageBgProp> fills;
     for (CBaseObject *object : objects) {

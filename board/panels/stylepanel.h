@@ -9,7 +9,6 @@
 
 class CBaseObject;
 class QBoxLayout;
-class QLabel;
 
 namespace board {
 
@@ -41,7 +40,6 @@ private:
 
     const Workspace *m_workspace;
     QPointer<pagehost::Page> m_page;
-    QLabel *m_title;
     PenControls *m_pen;
     FillControls *m_fill;
     FillControls *m_background;

@@ -188,10 +188,6 @@
         <translation>%1 (beschädigt)</translation>
     </message>
     <message>
-        <source>Saved: %1</source>
-        <translation>Gespeichert: %1</translation>
-    </message>
-    <message>
         <source>“%1” was not saved. Your work is still here: save it elsewhere or try again.</source>
         <translation>„%1“ wurde nicht gespeichert. Die Arbeit ist noch da: anderswo speichern oder noch einmal versuchen.</translation>
     </message>
@@ -276,20 +272,8 @@
         <translation>Meldungen</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
         <source>Properties</source>
         <translation>Eigenschaften</translation>
-    </message>
-    <message>
-        <source>Select shapes to see what they let you set.</source>
-        <translation>Formen auswählen, um zu sehen, was sich an ihnen einstellen lässt.</translation>
-    </message>
-    <message>
-        <source>Select shapes to see their properties.</source>
-        <translation>Formen auswählen, um ihre Eigenschaften zu sehen.</translation>
     </message>
     <message>
         <source>There is nothing to set here that all of them have.</source>
@@ -372,10 +356,6 @@
         <translation>Eine Lektion wird gezeigt, die Tafel bleibt, wie sie ist · F8 spielt und hält an · Umschalt+F8 kehrt zurück</translation>
     </message>
     <message>
-        <source>No lesson yet: record one while you draw.</source>
-        <translation>Noch keine Lektion: eine aufnehmen, während gezeichnet wird.</translation>
-    </message>
-    <message>
         <source>Recording  %1</source>
         <translation>Aufnahme läuft  %1</translation>
     </message>
@@ -410,10 +390,6 @@
     <message>
         <source>&amp;View</source>
         <translation>A&amp;nsicht</translation>
-    </message>
-    <message>
-        <source>&amp;Panels</source>
-        <translation>&amp;Bereiche</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -594,10 +570,6 @@
     <message>
         <source>Start</source>
         <translation>Anfang</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Page</source>
@@ -1134,6 +1106,39 @@
     <message>
         <source>zoom whole</source>
         <translation>Zoom ganze</translation>
+    </message>
+    <message>
+        <source>Pin to the window</source>
+        <translation>Am Fenster anheften</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Nothing on this page yet.</source>
+        <translation>Noch nichts auf dieser Seite.</translation>
+    </message>
+    <message>
+        <source>Changes will be listed here.</source>
+        <translation>Hier werden Änderungen aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>No shape called “%1”.</source>
+        <translation>Keine Form namens „%1“.</translation>
+    </message>
+    <message>
+        <source>All shapes</source>
+        <translation>Alle Formen</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <comment>IDS_BOARD_OUTLINE</comment>
+        <translation>Gliederung</translation>
     </message>
 </context>
 </TS>

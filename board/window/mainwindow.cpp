@@ -25,18 +25,22 @@
 #include "output/pageexport.h"
 #include "page/pageview.h"
 #include "panels/historypanel.h"
+#include "panels/outlinepanel.h"
 #include "panels/pagepanel.h"
 #include "panels/palettepanel.h"
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
-#include "panels/stylepanel.h"
 #include "presenting/presentation.h"
 #include "tools/toolbox.h"
 #include "tools/toolsettings.h"
 #include "window/dock.h"
+#include "window/dockbutton.h"
+#include "window/drawer.h"
 #include "window/fieldundo.h"
 #include "window/hintpill.h"
+#include "window/objectpanel.h"
 #include "window/shapetool.h"
+#include "window/sidepanel.h"
 #include "window/topbar.h"
 
 #include <pagehost/animationplayer.h>
@@ -51,12 +55,10 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QScrollArea>
-#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -66,18 +68,13 @@ namespace board {
 namespace {
 
 constexpr QSize firstSize(1400, 900);
-constexpr int rightPanelWidth = 300;
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
-
-QScrollArea *scrolling(QWidget *panel)
-{
-    auto *area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidget(panel);
-    return area;
-}
+/// The panel, and shapes with three beside each other, logical pixels.
+constexpr int panelWidth = 296;
+constexpr int paletteWidth = 344;
+constexpr int tallestPalette = 560;
+constexpr int paletteInset = 8;
 
 } // namespace
 
@@ -111,10 +108,13 @@ MainWindow::MainWindow(Workspace *workspace)
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
     layOut();
     addMenus();
-    addPanels();
+    connectPanels();
     m_topBar->addCommand(m_lessonMenu->record);
     m_topBar->addCommand(m_commands->action(Command::Present));
-    for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages()})
+    m_topBar->addPageSwitch(m_commands->action(Command::PageStrip));
+    m_topBar->addSwitch(m_commands->action(Command::Panel));
+    for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages(), static_cast<QWidget *>(m_pages),
+                          static_cast<QWidget *>(m_palette), static_cast<QWidget *>(m_sidePanel)})
         m_lock.add(part);
     connectParts();
     connectTools();
@@ -137,21 +137,32 @@ MainWindow::MainWindow(Workspace *workspace)
 
 void MainWindow::layOut()
 {
-    auto *middle = new QWidget;
-    auto *column = new QVBoxLayout(middle);
-    column->setContentsMargins(0, 0, 0, 0);
+    m_palette = new PalettePanel(m_workspace);
+    m_pages = new PagePanel(m_workspace, {m_actions->addPage, m_actions->removePage});
+    m_middle = new QWidget;
+    m_leftSlot = new QWidget(m_middle);
+    m_rightSlot = new QWidget(m_middle);
+    auto *column = new QVBoxLayout;
     column->setSpacing(0);
     column->addWidget(m_notices);
     column->addWidget(m_view, 1);
+    column->addWidget(m_pages);
     column->addWidget(m_lessonBar);
+    auto *row = new QHBoxLayout(m_middle);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_leftSlot);
+    row->addLayout(column, 1);
+    row->addWidget(m_rightSlot);
     auto *centre = new QWidget(this);
     m_body = new QBoxLayout(QBoxLayout::LeftToRight, centre);
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(0);
     m_body->addWidget(m_dock);
-    m_body->addWidget(middle, 1);
+    m_body->addWidget(m_middle, 1);
     setMenuWidget(m_topBar);
     setCentralWidget(centre);
+    addPanels();
     setDockEdge(rememberedDockEdge());
 }
 
@@ -164,6 +175,7 @@ void MainWindow::setDockEdge(Qt::Edge edge)
     m_body->setDirection(directions.value(edge));
     m_dock->setEdge(edge);
     m_view->setShelfEdge(edge);
+    m_paletteDrawer->setSide(edge == Qt::RightEdge ? Qt::RightEdge : Qt::LeftEdge);
     rememberDockEdge(edge);
 }
 
@@ -204,8 +216,7 @@ void MainWindow::showTitle()
 
 void MainWindow::settle()
 {
-    m_settings->settle();
-    m_properties->settle();
+    m_object->settle();
     m_view->settle();
     m_lessons->keepSoFar();
 }
@@ -222,63 +233,72 @@ void MainWindow::closeEvent(QCloseEvent *event)
     });
 }
 
-QDockWidget *MainWindow::addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel)
+SettingsPanel *MainWindow::settings() const
 {
-    auto *dock = new QDockWidget(m_workspace->text(titleKey), this);
-    dock->setObjectName(QLatin1String(titleKey));
-    dock->setWidget(panel);
-    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-    panel->setAccessibleName(dock->windowTitle());
-    addDockWidget(area, dock);
-    m_lock.add(dock);
-    return dock;
+    return m_object->settings();
 }
 
-void MainWindow::raisePanel(const QWidget *panel)
+PropertyPanel *MainWindow::properties() const
 {
-    for (QDockWidget *dock : findChildren<QDockWidget *>()) {
-        if (dock->isAncestorOf(panel)) {
-            dock->show();
-            dock->raise();
-        }
-    }
+    return m_object->properties();
+}
+
+void MainWindow::raisePanel(const QWidget *part)
+{
+    m_panel->setOpen(true);
+    m_sidePanel->showTab(part);
+    if (part == properties())
+        m_object->showAllProperties();
 }
 
 void MainWindow::addPanels()
 {
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    m_palette = new PalettePanel(m_workspace);
-    m_pages = new PagePanel(m_workspace, {m_actions->addPage, m_actions->removePage});
-    m_style = new StylePanel(m_workspace);
-    m_settings = new SettingsPanel(m_workspace);
-    m_properties = new PropertyPanel(m_workspace);
-    QDockWidget *palette = addPanel(Qt::LeftDockWidgetArea, "IDS_BOARD_SHAPES", m_palette);
-    QDockWidget *pages = addPanel(Qt::BottomDockWidgetArea, "IDS_BOARD_PAGES", m_pages);
-    QDockWidget *style = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_STYLE", scrolling(m_style));
-    QDockWidget *settings = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_SETTINGS", scrolling(m_settings));
-    QDockWidget *properties = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_PROPERTIES", scrolling(m_properties));
-    QDockWidget *history = addPanel(Qt::RightDockWidgetArea, "IDS_BOARD_HISTORY", new HistoryPanel(m_workspace));
-    connect(style, &QDockWidget::visibilityChanged, m_style, &StylePanel::comeToFront);
-    connect(settings, &QDockWidget::visibilityChanged, m_settings, &SelectionPanel::comeToFront);
-    connect(properties, &QDockWidget::visibilityChanged, m_properties, &SelectionPanel::comeToFront);
-    tabifyDockWidget(style, settings);
-    tabifyDockWidget(settings, properties);
-    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
-    style->raise();
-    for (QTabBar *tabs : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
-        tabs->setElideMode(Qt::ElideNone);
-        tabs->setUsesScrollButtons(false);
-    }
-    // The strip of pages and the tabs speak for themselves.
-    for (QDockWidget *dock : {pages, style, settings, properties})
-        dock->setTitleBarWidget(new QWidget(dock));
-    resizeDocks({palette, style}, {m_palette->sizeHint().width(), rightPanelWidth}, Qt::Horizontal);
-    resizeDocks({style, history}, {3, 2}, Qt::Vertical);
-    auto *panels = new QMenu(m_workspace->text("IDS_BOARD_PANELS"), this);
-    for (QDockWidget *dock : {palette, style, settings, properties, history, pages})
-        panels->addAction(dock->toggleViewAction());
-    m_viewMenu->addMenu(panels);
+    m_object = new ObjectPanel(m_workspace);
+    m_outline = new OutlinePanel(m_workspace);
+    m_sidePanel = new SidePanel(m_workspace);
+    m_sidePanel->addTab(m_workspace->text("IDS_BOARD_OBJECT"), m_object);
+    m_sidePanel->addTab(m_workspace->text("IDS_BOARD_OUTLINE"), m_outline);
+    m_sidePanel->addTab(m_workspace->text("IDS_BOARD_HISTORY"), new HistoryPanel(m_workspace));
+    m_panel = new Drawer(m_middle, m_rightSlot, panelWidth, 0, QWIDGETSIZE_MAX);
+    m_panel->setContent(m_sidePanel);
+    m_paletteDrawer = new Drawer(m_middle, m_leftSlot, paletteWidth, paletteInset, tallestPalette);
+    m_paletteDrawer->setContent(m_palette);
+    m_palette->setAccessibleName(m_workspace->text("IDS_BOARD_SHAPES"));
+    m_paletteDrawer->setOpener(m_dock->buttonOf(Tool::Shape));
+}
+
+void MainWindow::connectPanels()
+{
+    const auto follow = [this](Drawer *drawer, QToolButton *pin, Pane pane) {
+        connect(pin, &QToolButton::toggled, drawer, &Drawer::setPinned);
+        connect(drawer, &Drawer::openChanged, this, [this](bool open) {
+            if (!open)
+                m_view->setFocus();
+        });
+        connect(drawer, &Drawer::pinnedChanged, this, [=](bool pinned) { rememberPinned(pane, pinned); });
+        pin->setChecked(remembersPinned(pane));
+        // Only what is pinned is a part of the window that comes back.
+        drawer->setOpen(drawer->isPinned());
+    };
+    follow(m_panel, m_sidePanel->pin(), Pane::Panel);
+    follow(m_paletteDrawer, m_palette->pin(), Pane::Palette);
+    QAction *panel = m_commands->perform(Command::Panel);
+    connect(panel, &QAction::triggered, m_panel, &Drawer::setOpen);
+    connect(m_panel, &Drawer::openChanged, panel, &QAction::setChecked);
+    panel->setChecked(m_panel->isOpen());
+    QAction *strip = m_commands->perform(Command::PageStrip);
+    connect(strip, &QAction::toggled, this, [this](bool shown) {
+        m_pages->setVisible(shown);
+        rememberPinned(Pane::Pages, shown);
+    });
+    strip->setChecked(remembersPinned(Pane::Pages));
+    m_pages->setVisible(strip->isChecked());
+    const auto showLessons = [this] {
+        m_lessonBar->setVisible(m_lessons->isRecording() || m_lessons->chosen() >= 0);
+    };
+    connect(m_lessons, &LessonController::stateChanged, this, showLessons);
+    connect(m_lessons, &LessonController::lessonsChanged, this, showLessons);
+    showLessons();
 }
 
 void MainWindow::addMenus()
@@ -375,8 +395,7 @@ void MainWindow::connectParts()
     connect(m_workspace, &Workspace::pluginProblemFound, this, &MainWindow::showPluginProblems,
             Qt::QueuedConnection);
     m_documents->setSettle([this] { settle(); });
-    connect(m_actions, &Actions::aboutToStep, m_settings, &SelectionPanel::settle);
-    connect(m_actions, &Actions::aboutToStep, m_properties, &SelectionPanel::settle);
+    connect(m_actions, &Actions::aboutToStep, m_object, &ObjectPanel::settle);
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
@@ -384,7 +403,7 @@ void MainWindow::connectParts()
     connect(m_actions->exportPages, &QAction::triggered, this, [this] { askAndExport(PageFormat::Png); });
     connect(m_actions->exportSvg, &QAction::triggered, this, [this] { askAndExport(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
-    m_commands->perform(Command::AllProperties, this, [this] { raisePanel(m_properties); });
+    m_commands->perform(Command::AllProperties, this, [this] { raisePanel(properties()); });
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
 }
 
@@ -396,9 +415,8 @@ void MainWindow::showCurrentPage()
     pagehost::Page *page = m_lessons->shownDocument()->currentPage();
     m_view->setPage(page);
     m_animation->setPage(page);
-    m_style->setPage(page);
-    m_settings->setPage(page);
-    m_properties->setPage(page);
+    m_object->setPage(page);
+    m_outline->setPage(page);
     if (page) {
         connect(page, &pagehost::Page::selectionChanged, this, &MainWindow::showSelection);
         connect(page, &pagehost::Page::contentChanged, this, &MainWindow::showSelection);
@@ -458,20 +476,29 @@ void MainWindow::showHint()
 
 void MainWindow::chooseShape()
 {
-    raisePanel(m_palette);
-    m_palette->startSearch();
+    // The key and the button close what they have opened.
+    m_paletteDrawer->setOpen(!m_paletteDrawer->isOpen() || m_paletteDrawer->isPinned());
+    if (m_paletteDrawer->isOpen())
+        m_palette->startSearch();
 }
 
 void MainWindow::beginCreation(const QString &kindId)
 {
+    if (!m_paletteDrawer->isPinned())
+        m_paletteDrawer->setOpen(false);
     m_shapeTool->begin(kindId);
     m_view->setFocus();
+    if (!kindId.isEmpty())
+        m_palette->remember(kindId);
 }
 
 void MainWindow::placeInMiddle(const QString &kindId)
 {
+    if (!m_paletteDrawer->isPinned())
+        m_paletteDrawer->setOpen(false);
     const QPointF middle = m_view->mapToScene(m_view->viewport()->rect().center());
     m_shapeTool->place(kindId, middle - halfUsualSize);
+    m_palette->remember(kindId);
 }
 
 void MainWindow::askAndExport(PageFormat format)

@@ -25,11 +25,14 @@ class Commands;
 class Dock;
 class DocumentController;
 class DocumentMenu;
+class Drawer;
 class HintPill;
 class LessonBar;
 class LessonController;
 class LessonMenu;
 class Notices;
+class ObjectPanel;
+class OutlinePanel;
 class PagePanel;
 class PageView;
 class Presentation;
@@ -38,14 +41,14 @@ class PropertyPanel;
 class Recovery;
 class SettingsPanel;
 class ShapeTool;
-class StylePanel;
+class SidePanel;
 class ToolChoice;
 class ToolSettings;
 class TopBar;
 class Workspace;
 
-/// The window: the page with a bar above it, tools at one of its edges, shapes to the left, look and history to the
-/// right, pages below.
+/// The window: the page with a bar above it and tools at one of its edges. Shapes and the panel open over it or,
+/// pinned, beside it; pages and lessons below it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -64,10 +67,12 @@ public:
     DocumentController *documents() const { return m_documents; }
     Recovery *recovery() const { return m_recovery; }
     ClipboardController *clipboard() const { return m_clipboard; }
-    SettingsPanel *settings() const { return m_settings; }
-    PropertyPanel *properties() const { return m_properties; }
-    /// Brings the panel to the front of those that share its place.
-    void raisePanel(const QWidget *panel);
+    SettingsPanel *settings() const;
+    PropertyPanel *properties() const;
+    /// Opens the side panel with this part of it in front.
+    void raisePanel(const QWidget *part);
+    Drawer *panel() const { return m_panel; }
+    Drawer *palette() const { return m_paletteDrawer; }
     LessonController *lessons() const { return m_lessons; }
     LessonBar *lessonBar() const { return m_lessonBar; }
     pagehost::AnimationPlayer *animation() const { return m_animation; }
@@ -89,8 +94,8 @@ protected:
 private:
     void settle();
     void showPluginProblems();
-    QDockWidget *addPanel(Qt::DockWidgetArea area, const char *titleKey, QWidget *panel);
     void addPanels();
+    void connectPanels();
     void addMenus();
     void addDockMenu();
     void layOut();
@@ -137,12 +142,17 @@ private:
     Dock *m_dock;
     HintPill *m_hint;
     QMenu *m_viewMenu = nullptr;
+    QWidget *m_middle = nullptr; ///< all but the bar at the top and the dock
+    QWidget *m_leftSlot = nullptr;
+    QWidget *m_rightSlot = nullptr;
+    Drawer *m_paletteDrawer = nullptr;
+    Drawer *m_panel = nullptr;
+    SidePanel *m_sidePanel = nullptr;
+    ObjectPanel *m_object = nullptr;
+    OutlinePanel *m_outline = nullptr;
     QBoxLayout *m_body = nullptr; ///< the dock, its shelf, and the page
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
-    StylePanel *m_style = nullptr;
-    SettingsPanel *m_settings = nullptr;
-    PropertyPanel *m_properties = nullptr;
     OncePerTurn m_describeSelection;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };

@@ -1,8 +1,10 @@
 #include <board/boarddriver.h>
 
+#include <core/commands.h>
 #include <page/pageview.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
+#include <window/drawer.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/pagescene.h>
@@ -59,6 +61,9 @@ BoardDriver::BoardDriver(const QString &language)
     m_window->show();
     if (!QTest::qWaitForWindowExposed(m_window.get()))
         qFatal("the window is not shown");
+    m_window->panel()->setPinned(true);
+    m_window->panel()->setOpen(true);
+    QCoreApplication::processEvents();
     view().setZoom(1);
     view().centerOn(page().rect().center());
     history().clear();
@@ -183,6 +188,8 @@ QPushButton *BoardDriver::button(const QString &text) const
 
 void BoardDriver::pick(const QString &kindId)
 {
+    if (!m_window->palette()->isOpen())
+        m_window->commands()->action(board::Command::Shapes)->trigger();
     const auto buttons = m_window->palettePanel()->buttons();
     for (board::PaletteButton *button : buttons)
         if (button->kindId() == kindId)

@@ -19,28 +19,22 @@ constexpr int mostDescribed = 500;
 
 } // namespace
 
-SelectionPanel::SelectionPanel(const Workspace *workspace, const char *adviceKey, QWidget *parent)
+SelectionPanel::SelectionPanel(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
-    , m_advice(workspace->text(adviceKey))
-    , m_title(new QLabel(this))
-    , m_hint(new QLabel(this))
+    , m_hint(new QLabel(workspace->text("IDS_BOARD_NOTHING_IN_COMMON"), this))
     , m_form(new ObjectForm(this))
     , m_refresh(this, [this] { refresh(); })
 {
+    // Without rows, too, there is something to see, and so a reason to be brought up to date.
+    setMinimumHeight(1);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(largeGap, mediumGap, largeGap, largeGap);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(largeGap);
-    QFont font = m_title->font();
-    font.setWeight(QFont::DemiBold);
-    m_title->setFont(font);
-    m_title->setWordWrap(true);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setWordWrap(true);
-    column->addWidget(m_title);
     column->addWidget(m_hint);
     column->addWidget(m_form);
-    column->addStretch();
     connect(m_form, &ObjectForm::previewed, this, &SelectionPanel::preview);
     connect(m_form, &ObjectForm::abandoned, this, &SelectionPanel::settle);
     connect(m_form, &ObjectForm::picked, this, &SelectionPanel::pick);
@@ -90,13 +84,7 @@ void SelectionPanel::refresh()
         return;
     const QVector<CBaseObject *> objects = selection();
     const QVector<FormRow> rows = objects.isEmpty() ? QVector<FormRow>() : describe(objects.mid(0, mostDescribed));
-    m_title->setVisible(!objects.isEmpty());
-    m_hint->setVisible(rows.isEmpty());
-    m_hint->setText(objects.isEmpty() ? m_advice : m_workspace->text("IDS_BOARD_NOTHING_IN_COMMON"));
-    if (objects.size() == 1)
-        m_title->setText(m_workspace->text(objects.first()->kindName()));
-    else
-        m_title->setText(m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
+    m_hint->setVisible(rows.isEmpty() && objects.size() > 1);
     m_form->showRows(rows);
 }
 

@@ -23,8 +23,7 @@ class SelectionPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// `adviceKey` is the text for when nothing is selected.
-    SelectionPanel(const Workspace *workspace, const char *adviceKey, QWidget *parent = nullptr);
+    explicit SelectionPanel(const Workspace *workspace, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
     /// The panel has come to the front of those that share its place.
@@ -53,9 +52,7 @@ private:
     QVector<CBaseObject *> selection() const;
 
     const Workspace *m_workspace;
-    QString m_advice;
     QPointer<pagehost::Page> m_page;
-    QLabel *m_title;
     QLabel *m_hint;
     ObjectForm *m_form;
     pagehost::Preview m_preview;

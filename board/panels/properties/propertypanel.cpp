@@ -42,7 +42,7 @@ QString structureOf(const CommonProperty &common)
 } // namespace
 
 PropertyPanel::PropertyPanel(const Workspace *workspace, QWidget *parent)
-    : SelectionPanel(workspace, "IDS_BOARD_PROPERTIES_ADVICE", parent)
+    : SelectionPanel(workspace, parent)
 {
 }
 

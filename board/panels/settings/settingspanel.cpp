@@ -24,7 +24,7 @@ QString rangeText(const NumberRange &range)
 } // namespace
 
 SettingsPanel::SettingsPanel(const Workspace *workspace, QWidget *parent)
-    : SelectionPanel(workspace, "IDS_BOARD_SETTINGS_ADVICE", parent)
+    : SelectionPanel(workspace, parent)
 {
 }
 

@@ -207,11 +207,11 @@ void TestContextMenus::menuKeysOpenTheMenuOfTheSelection()
     QFETCH(bool, shift);
     BoardDriver board;
     // So far left and up that the menu fits the screen below it.
-    board.draw(rectangle, {150, 20}, {250, 80});
+    board.draw(rectangle, {150, -60}, {250, 0});
     const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
     board.key(static_cast<Qt::Key>(key), modifiers);
     QCOMPARE(openMenu(board), QString("objectMenu"));
-    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, 80)));
+    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, 0)));
     QCOMPARE(menu(board, "objectMenu")->pos(), corner);
     menu(board, "objectMenu")->close();
     board.page().select({});

@@ -4,9 +4,11 @@
 
 #include <core/actions.h>
 #include <page/pageview.h>
+#include <panels/outlinepanel.h>
 #include <panels/properties/propertypanel.h>
 #include <panels/settings/settingspanel.h>
 #include <panels/stylepanel.h>
+#include <window/drawer.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/objectplugin.h>
@@ -116,6 +118,11 @@ QWidget *stylePanel(board::MainWindow &window)
     return window.findChild<board::StylePanel *>();
 }
 
+QWidget *outlinePanel(board::MainWindow &window)
+{
+    return window.findChild<board::OutlinePanel *>();
+}
+
 QWidget *settingsPanel(board::MainWindow &window)
 {
     return window.settings();
@@ -134,11 +141,12 @@ class TestSelectingMany : public QObject
 
 private Q_SLOTS:
     void selectAllIsOneSignalAndOneLookAtEachShape();
-    void onlyThePanelInFrontLooks();
+    void onlyPartsOfThePanelThatAreSeenLook();
+    void styleOfEachShapeIsLookedAtOnce();
     void theBandIsOneLookAtEachShapeHoweverOftenItMoves();
     void duplicatingIsOneSignalAndOneLookAtEachCopy();
     void deletingAllIsOneSignalAndNoLook();
-    void aPanelThatComesToTheFrontShowsTheSelection();
+    void aPartThatComesToTheFrontShowsTheSelection();
     void deleteRightAfterSelectAllDeletes();
 };
 
@@ -157,26 +165,32 @@ void TestSelectingMany::selectAllIsOneSignalAndOneLookAtEachShape()
     QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
 }
 
-void TestSelectingMany::onlyThePanelInFrontLooks()
+void TestSelectingMany::onlyPartsOfThePanelThatAreSeenLook()
 {
-    Crowd settings(settingsPanel);
-    settings.selectAll();
+    Crowd folded(settingsPanel);
+    folded.selectAll();
     QCoreApplication::processEvents();
-    QCOMPARE(settings.each(&AskedObject::settingsAsked), 1);
-    QCOMPARE(settings.each(&AskedObject::propertyAsked), 0);
-    QCOMPARE(settings.each(&AskedObject::styleAsked), 0);
-    Crowd properties(propertyPanel);
-    properties.selectAll();
+    QCOMPARE(folded.each(&AskedObject::settingsAsked), 1);
+    QCOMPARE(folded.each(&AskedObject::propertyAsked), 0);
+    Crowd unfolded(propertyPanel);
+    unfolded.selectAll();
     QCoreApplication::processEvents();
-    QCOMPARE(properties.each(&AskedObject::settingsAsked), 0);
-    QCOMPARE(properties.each(&AskedObject::propertyAsked), 1);
-    QCOMPARE(properties.each(&AskedObject::styleAsked), 0);
+    QCOMPARE(unfolded.each(&AskedObject::propertyAsked), 1);
+    Crowd closed(settingsPanel);
+    closed.board.window().panel()->setOpen(false);
+    closed.selectAll();
+    QCoreApplication::processEvents();
+    QCOMPARE(closed.each(&AskedObject::settingsAsked), 0);
+    QCOMPARE(closed.each(&AskedObject::propertyAsked), 0);
+    QCOMPARE(closed.each(&AskedObject::styleAsked), 0);
+}
+
+/// A look at the style asks for several properties; one shape alone is looked at once.
+void TestSelectingMany::styleOfEachShapeIsLookedAtOnce()
+{
     Crowd style(stylePanel);
     style.selectAll();
     QCoreApplication::processEvents();
-    QCOMPARE(style.each(&AskedObject::settingsAsked), 0);
-    QCOMPARE(style.each(&AskedObject::propertyAsked), 0);
-    // A look at the style asks for several properties; one shape alone is looked at once.
     const int asked = style.each(&AskedObject::styleAsked);
     QVERIFY(asked > 0);
     style.board.page().select({});
@@ -238,17 +252,17 @@ void TestSelectingMany::deletingAllIsOneSignalAndNoLook()
     QCOMPARE(t.signalCount, 1);
 }
 
-void TestSelectingMany::aPanelThatComesToTheFrontShowsTheSelection()
+void TestSelectingMany::aPartThatComesToTheFrontShowsTheSelection()
 {
-    Crowd t(settingsPanel);
+    Crowd t(outlinePanel);
     t.selectAll();
-    t.board.window().raisePanel(stylePanel(t.board.window()));
     QCoreApplication::processEvents();
-    QStringList captions;
-    for (const QLabel *label : stylePanel(t.board.window())->findChildren<QLabel *>())
-        if (label->isVisible())
-            captions.append(label->text());
-    QVERIFY2(captions.contains("12 objects"), qPrintable(captions.join(", ")));
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 0);
+    t.board.window().raisePanel(settingsPanel(t.board.window()));
+    // Painting finds that it is out of date.
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(t.each(&AskedObject::settingsAsked), 1);
 }
 
 /// Keys may come faster than the event loop turns.

@@ -133,7 +133,7 @@ private Q_SLOTS:
     void severalObjectsAreOneStep();
     void differentValuesAreShownAsSuch();
     void onlyWhatAllHaveIsShown();
-    void nothingSelectedGivesAdvice();
+    void nothingSelectedShowsNoSettings();
     void selectingElsewhereTakesALookBack();
     void undoWhileASliderMovesTakesTheLookBackFirst();
     void everyPropertyHasItsWidget();
@@ -151,7 +151,7 @@ private Q_SLOTS:
 void TestPanels::everySettingHasItsWidget()
 {
     PanelDesk t(PanelDesk::Settings);
-    QCOMPARE(t.captions(), (QStringList{"Panel", "Choice", "Colour", "Name", "On", "Size"}));
+    QCOMPARE(t.captions(), (QStringList{"Choice", "Colour", "Name", "On", "Size"}));
     QCOMPARE(t.widget<QComboBox>("Choice")->currentText(), QString("First"));
     QCOMPARE(t.widget<board::ColorButton>("Colour")->color(), QColor(Qt::blue));
     QCOMPARE(t.widget<QLineEdit>("Name")->text(), QString("old"));
@@ -331,12 +331,13 @@ void TestPanels::onlyWhatAllHaveIsShown()
     QVERIFY(t.captions().contains("There is nothing to set here that all of them have."));
 }
 
-void TestPanels::nothingSelectedGivesAdvice()
+void TestPanels::nothingSelectedShowsNoSettings()
 {
     PanelDesk t(PanelDesk::Settings);
     t.board.page().select({});
     t.settle();
-    QCOMPARE(t.captions(), QStringList{"Select shapes to see what they let you set."});
+    QCOMPARE(t.captions(), QStringList());
+    QVERIFY(!t.panel->isVisible());
 }
 
 void TestPanels::selectingElsewhereTakesALookBack()
@@ -371,7 +372,7 @@ void TestPanels::undoWhileASliderMovesTakesTheLookBackFirst()
 void TestPanels::everyPropertyHasItsWidget()
 {
     PanelDesk t(PanelDesk::Properties);
-    QCOMPARE(t.captions(), (QStringList{"Panel", "Whole", "Real", "Switch", "Text", "Paint", "Locked"}));
+    QCOMPARE(t.captions(), (QStringList{"Whole", "Real", "Switch", "Text", "Paint", "Locked"}));
     QCOMPARE(t.widget<QSlider>("Whole")->value(), 3);
     QCOMPARE(t.widget<QDoubleSpinBox>("Real")->value(), 1.5);
     QVERIFY(!t.widget<board::ToggleSwitch>("Switch")->isChecked());

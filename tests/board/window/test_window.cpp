@@ -5,13 +5,16 @@
 #include <support/virtualtime.h>
 
 #include <core/actions.h>
+#include <core/commands.h>
 #include <core/notices.h>
 #include <core/windowmemory.h>
 #include <documents/documentcontroller.h>
 #include <look/theme.h>
-#include <panels/historypanel.h>
+#include <page/pageview.h>
+#include <panels/pagepanel.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
+#include <window/drawer.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/objectplugin.h>
@@ -32,11 +35,12 @@ class TestWindow : public QObject
 private Q_SLOTS:
     void init();
     void firstWindowFitsTheScreen();
-    void windowShowsTwoShapesInARow();
+    void paletteShowsThreeShapesInARow();
     void windowOpensAsItWasLeft();
-    void panelsOpenAsTheyWereLeft();
-    void smallestWindowCutsNoPaletteButton_data();
-    void smallestWindowCutsNoPaletteButton();
+    void onlyPinnedPartsOpenAgain();
+    void pageTakesFourFifthsOfASmallScreen();
+    void smallWindowCutsNothingOff_data();
+    void smallWindowCutsNothingOff();
     void darkColoursAreRemembered();
     void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
 };
@@ -57,6 +61,23 @@ public:
         return {{QStringLiteral("IDS_PROMISE"), QStringLiteral("Promise")}};
     }
 };
+
+/// As layouts take it: what was set, else what the widget needs.
+QSize leastSize(const QWidget &widget)
+{
+    const QSize hint = widget.minimumSizeHint();
+    const QSize set = widget.minimumSize();
+    return {set.width() > 0 ? set.width() : hint.width(), set.height() > 0 ? set.height() : hint.height()};
+}
+
+/// Scrolled parts may be larger than their part of the window.
+bool isInScrollArea(const QWidget *widget)
+{
+    for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+        if (qobject_cast<const QAbstractScrollArea *>(parent))
+            return true;
+    return false;
+}
 
 } // namespace
 
@@ -79,16 +100,18 @@ void TestWindow::firstWindowFitsTheScreen()
     QCOMPARE(window.size(), screen - QSize(16, 40));
 }
 
-void TestWindow::windowShowsTwoShapesInARow()
+void TestWindow::paletteShowsThreeShapesInARow()
 {
     BoardDriver board;
-    const auto *palette = board.window().findChild<board::PalettePanel *>();
+    board.window().commands()->action(board::Command::Shapes)->trigger();
+    support::deliverEvents();
+    const auto *palette = board.window().palettePanel();
     const QWidget *shown = palette->findChild<QScrollArea *>()->viewport();
     const QPoint first = palette->buttons().at(0)->mapTo(shown, QPoint());
-    const QPoint second = palette->buttons().at(1)->mapTo(shown, QPoint());
-    QCOMPARE(second.y(), first.y());
-    QVERIFY(second.x() > first.x());
-    const int wanted = 2 * palette->buttons().at(0)->sizeHint().width() + board::smallGap;
+    const QPoint third = palette->buttons().at(2)->mapTo(shown, QPoint());
+    QCOMPARE(third.y(), first.y());
+    QVERIFY(third.x() > first.x());
+    const int wanted = 3 * palette->buttons().at(0)->sizeHint().width() + 2 * board::smallGap;
     QVERIFY2(shown->width() >= wanted, qPrintable(QStringLiteral("%1 of %2").arg(shown->width()).arg(wanted)));
 }
 
@@ -106,53 +129,74 @@ void TestWindow::windowOpensAsItWasLeft()
     QCOMPARE(window.geometry(), QRect(30, 60, 770, 620));
 }
 
-void TestWindow::panelsOpenAsTheyWereLeft()
+void TestWindow::onlyPinnedPartsOpenAgain()
 {
     board::Workspace workspace("en");
-    const auto historyDock = [](board::MainWindow &window) {
-        return qobject_cast<QDockWidget *>(window.findChild<board::HistoryPanel *>()->parentWidget());
-    };
     {
         board::MainWindow window(&workspace);
-        window.resize(760, 700);
         window.show();
-        historyDock(window)->close();
-        board::rememberWindow(&window);
+        QVERIFY(!window.panel()->isOpen());
+        window.panel()->setOpen(true);
+        window.palette()->setOpen(true);
+        window.palette()->setPinned(true);
+        window.commands()->action(board::Command::PageStrip)->trigger();
     }
     board::MainWindow window(&workspace);
-    board::restoreWindow(&window);
     window.show();
-    QVERIFY(!historyDock(window)->isVisible());
-    QVERIFY(!historyDock(window)->toggleViewAction()->isChecked());
+    QVERIFY(!window.panel()->isOpen());
+    QVERIFY(window.palette()->isOpen() && window.palette()->isPinned());
+    QVERIFY(window.pages()->isVisible());
 }
 
-void TestWindow::smallestWindowCutsNoPaletteButton_data()
+/// Of the largest page that an area of 1366 × 768 could hold.
+void TestWindow::pageTakesFourFifthsOfASmallScreen()
+{
+    board::Workspace workspace("en");
+    board::MainWindow window(&workspace);
+    window.resize(1366, 768);
+    window.show();
+    support::deliverEvents();
+    QCOMPARE(window.size(), QSize(1366, 768));
+    const QRectF page = window.view()->mapFromScene(window.view()->page()->rect()).boundingRect();
+    const double largest = 768.0 * 768 * 16 / 9;
+    const double share = page.width() * page.height() / largest;
+    QVERIFY2(share >= 0.8, qPrintable(QString::number(share)));
+    // Beside the dock, 56, and the strip for its shelf, 48; 16 remain at the other side.
+    const QPoint corner = window.view()->viewport()->mapTo(&window, page.topLeft().toPoint());
+    QCOMPARE(corner.x(), 104);
+    QVERIFY(qAbs(corner.x() + page.width() - 1350) <= 1);
+}
+
+void TestWindow::smallWindowCutsNothingOff_data()
 {
     QTest::addColumn<QString>("language");
     QTest::newRow("English") << "en";
     QTest::newRow("German") << "de";
 }
 
-void TestWindow::smallestWindowCutsNoPaletteButton()
+/// Half of a full high definition screen at 200 %.
+void TestWindow::smallWindowCutsNothingOff()
 {
     QFETCH(QString, language);
-    BoardDriver board(language);
-    QMainWindow &window = board.window();
-    window.resize(1, 1);
+    board::Workspace workspace(language);
+    workspace.loadPlugins({});
+    board::MainWindow window(&workspace);
+    window.resize(960, 540);
+    window.show();
+    window.panel()->setOpen(true);
     support::deliverEvents();
-    QVERIFY2(window.width() < 800, qPrintable(QString::number(window.width())));
-    const QList<board::PaletteButton *> buttons = window.findChildren<board::PaletteButton *>();
-    QVERIFY(buttons.size() > 20);
-    for (const board::PaletteButton *button : buttons) {
-        const QWidget *shown = window.findChild<board::PalettePanel *>()->findChild<QScrollArea *>()->viewport();
-        const int left = button->mapTo(shown, QPoint(0, 0)).x();
-        const QString place = QStringLiteral("%1: %2 to %3 of %4")
-                                  .arg(button->accessibleName())
-                                  .arg(left)
-                                  .arg(left + button->width())
-                                  .arg(shown->width());
-        QVERIFY2(left >= 0 && left + button->width() <= shown->width(), qPrintable(place));
+    QCOMPARE(window.size(), QSize(960, 540));
+    QStringList cut;
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        const QWidget *parent = widget->parentWidget();
+        if (!widget->isVisible() || widget->isWindow() || isInScrollArea(widget))
+            continue;
+        const QSize least = leastSize(*widget);
+        if (!parent->rect().contains(widget->geometry()) || widget->width() < least.width() ||
+            widget->height() < least.height())
+            cut.append(QStringLiteral("%1 %2").arg(widget->metaObject()->className(), widget->accessibleName()));
     }
+    QCOMPARE(cut.join('\n'), QString());
 }
 
 void TestWindow::darkColoursAreRemembered()

@@ -1,0 +1,125 @@
+#include "window/drawer.h"
+
+#include "look/theme.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
+    : QFrame(area)
+    , m_area(area)
+    , m_slot(slot)
+    , m_column(new QVBoxLayout(this))
+    , m_width(width)
+    , m_inset(inset)
+    , m_tallest(tallest)
+{
+    // A line at the side, or all round.
+    m_column->setContentsMargins(1, inset > 0 ? 1 : 0, 1, inset > 0 ? 1 : 0);
+    slot->hide();
+    slot->installEventFilter(this);
+    area->installEventFilter(this);
+    hide();
+}
+
+void Drawer::setContent(QWidget *content)
+{
+    m_column->addWidget(content);
+    // Texts of some languages are longer.
+    m_width = qMax(m_width, minimumSizeHint().width());
+    m_slot->setFixedWidth(m_width);
+}
+
+void Drawer::setSide(Qt::Edge side)
+{
+    m_side = side;
+    place();
+}
+
+void Drawer::setOpen(bool open)
+{
+    if (open == m_isOpen)
+        return;
+    m_isOpen = open;
+    arrange();
+    Q_EMIT openChanged(open);
+}
+
+void Drawer::setPinned(bool pinned)
+{
+    if (pinned == m_isPinned)
+        return;
+    m_isPinned = pinned;
+    arrange();
+    Q_EMIT pinnedChanged(pinned);
+}
+
+void Drawer::arrange()
+{
+    qApp->removeEventFilter(this);
+    if (m_isOpen && !m_isPinned)
+        qApp->installEventFilter(this);
+    m_slot->setVisible(m_isOpen && m_isPinned);
+    setVisible(m_isOpen);
+    raise();
+    place();
+}
+
+void Drawer::place()
+{
+    if (m_isPinned)
+        return setGeometry(m_slot->geometry());
+    const QRect room = m_area->rect().adjusted(m_inset, m_inset, -m_inset, -m_inset);
+    const int height = qMin(room.height(), m_tallest);
+    const int left = m_side == Qt::LeftEdge ? room.left() : room.right() + 1 - m_width;
+    setGeometry(left, room.top(), m_width, height);
+}
+
+/// In this window, since lists and menus of its fields are windows of their own.
+bool Drawer::isOutside(const QObject *watched) const
+{
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    return widget && widget->window() == window() && widget != this && widget != m_opener && !isAncestorOf(widget);
+}
+
+bool Drawer::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isPlace = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    if (isPlace && (watched == m_area || watched == m_slot))
+        place();
+    if (!m_isOpen || m_isPinned || !isOutside(watched))
+        return false;
+    if (event->type() == QEvent::MouseButtonPress)
+        setOpen(false);
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        return false;
+    setOpen(false);
+    return true;
+}
+
+void Drawer::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape || m_isPinned)
+        return QFrame::keyPressEvent(event);
+    setOpen(false);
+}
+
+void Drawer::paintEvent(QPaintEvent *)
+{
+    const ThemeColors colors = themeColors();
+    QPainter painter(this);
+    if (m_isPinned || m_inset == 0) {
+        painter.fillRect(rect(), colors.border);
+        return painter.fillRect(rect().adjusted(1, 0, -1, 0), colors.bar);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(colors.border);
+    painter.setBrush(colors.surface);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+}
+
+} // namespace board

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtWidgets/QFrame>
+
+class QVBoxLayout;
+
+namespace board {
+
+/// A part of the window that opens over the page and closes with Esc or a press outside. Pinned, it takes room of
+/// its own and stays.
+class Drawer : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// Lies in `area`. `slot` is a part of the area's layout, at its left or right, that keeps room for a pinned
+    /// drawer. An unpinned one stands `inset` pixels from the area's edges, and is `tallest` pixels high at most.
+    Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest);
+
+    /// The drawer becomes wider where the content needs it.
+    void setContent(QWidget *content);
+    /// The side of the area that an unpinned drawer stands at: Qt::LeftEdge or Qt::RightEdge.
+    void setSide(Qt::Edge side);
+    /// A press on it does not close the drawer, since it does so itself.
+    void setOpener(QWidget *opener) { m_opener = opener; }
+    void setOpen(bool open);
+    bool isOpen() const { return m_isOpen; }
+    void setPinned(bool pinned);
+    bool isPinned() const { return m_isPinned; }
+
+Q_SIGNALS:
+    void openChanged(bool open);
+    void pinnedChanged(bool pinned);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void arrange();
+    void place();
+    bool isOutside(const QObject *watched) const;
+
+    QWidget *m_area;
+    QWidget *m_slot;
+    QWidget *m_opener = nullptr;
+    QVBoxLayout *m_column;
+    int m_width;
+    int m_inset;
+    int m_tallest;
+    Qt::Edge m_side = Qt::RightEdge;
+    bool m_isOpen = false;
+    bool m_isPinned = false;
+};
+
+} // namespace board
