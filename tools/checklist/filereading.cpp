@@ -1,5 +1,7 @@
 #include <checklist/filereading.h>
 
+#include <declared/core/pluginmessage.h>
+#include <declared/core/review.h>
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
 #include <declared/reader/shapereader.h>
@@ -28,18 +30,6 @@ QString shapeName(const QString &path)
     return name.endsWith(suffix) ? name.chopped(suffix.size()) : QFileInfo(path).completeBaseName();
 }
 
-pagehost::PluginMessage faultOf(const declared::Message &message, const QString &path)
-{
-    const bool isError = message.severity == declared::Message::Error;
-    return {isError ? pagehost::PluginMessage::Error : pagehost::PluginMessage::Warning,
-            message.code,
-            path,
-            message.line,
-            message.column,
-            QString(),
-            message.text};
-}
-
 Faults declaredFaults(const QByteArray &bytes, const QString &path, declared::SharedDeclaration *declaration)
 {
     QVector<declared::Message> messages;
@@ -48,7 +38,7 @@ Faults declaredFaults(const QByteArray &bytes, const QString &path, declared::Sh
         *declaration = read;
     Faults faults;
     for (const declared::Message &message : qAsConst(messages))
-        faults.append(faultOf(message, path));
+        faults.append(declared::pluginMessage(message, path));
     return faults;
 }
 
@@ -65,6 +55,12 @@ ShapeFile readShapeFile(const QString &path)
     shape.isDeclared = isDeclaredFile(path) || shape.bytes.contains(declared::shapeNamespace.toUtf8());
     shape.faults = shape.isDeclared ? declaredFaults(shape.bytes, path, &shape.declaration)
                                     : shapekit::templateFaults(QString::fromUtf8(shape.bytes), path);
+    if (shape.declaration) {
+        const declared::ShapeKind kind(shape.declaration);
+        const QVector<declared::Message> warnings = declared::reviewed(kind, shape.bytes);
+        for (const declared::Message &warning : warnings)
+            shape.faults.append(declared::pluginMessage(warning, path));
+    }
     return shape;
 }
 

@@ -28,7 +28,6 @@ ShapeFile readShapeFile(const QString &path);
 /// The faults of a declared shape; `declaration` receives it.
 Faults declaredFaults(const QByteArray &bytes, const QString &path,
                       declared::SharedDeclaration *declaration = nullptr);
-pagehost::PluginMessage faultOf(const declared::Message &message, const QString &path);
 /// Whether a file has the name of a declared shape.
 bool isDeclaredFile(const QString &fileName);
 /// The name of a shape, from the name of its file.

@@ -2,6 +2,7 @@
 
 #include <checklist/filereading.h>
 
+#include <declared/core/pluginmessage.h>
 #include <declared/core/shapekind.h>
 
 #include <shapekit/shapeobject.h>
@@ -38,14 +39,14 @@ public:
     {
         QVector<pagehost::PluginMessage> messages;
         for (const declared::Message &message : m_shape.told())
-            messages.append(faultOf(message, m_path));
+            messages.append(declared::pluginMessage(message, m_path));
         return messages;
     }
     void setMessageListener(const pagehost::MessageListener &listener) override
     {
         m_shape.setListener([this, listener](const declared::Message &message) {
             if (listener)
-                listener(faultOf(message, m_path));
+                listener(declared::pluginMessage(message, m_path));
         });
     }
 

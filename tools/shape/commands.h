@@ -14,6 +14,7 @@ enum ExitCode {
 
 int runCheck(const QStringList &arguments);
 int runLint(const QStringList &arguments);
+int runLook(const QStringList &arguments);
 int runNew(const QStringList &arguments);
 int runImport(const QStringList &arguments);
 int runPreview(const QStringList &arguments);

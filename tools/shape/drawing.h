@@ -5,17 +5,14 @@
 
 namespace shapetool {
 
-/// A drawing that is to become a shape.
-struct Drawing
+/// A declared shape that shows a drawing.
+struct DrawnShape
 {
-    QString problem; ///< why it can't be used; empty when it can
-    QByteArray svg;
+    QString problem; ///< why the drawing can't become a shape; empty when it can
+    QByteArray text;
 };
 
-Drawing readDrawing(const QString &path);
-
-/// A declared shape that shows the drawing: an icon is enlarged to 120 units, the proportions are kept, and the
-/// user's pen or fill takes the place of the drawing's colour if it has only one.
-QByteArray shapeOfDrawing(const Drawing &drawing, const QString &name, const QString &group);
+/// As the board has a drawing that is dropped on a page. A file of a shape stays as it is.
+DrawnShape shapeOfDrawing(const QString &path, const QString &name, const QString &group);
 
 } // namespace shapetool

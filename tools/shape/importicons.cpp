@@ -92,14 +92,13 @@ int runImport(const QStringList &arguments)
     QSet<QString> taken;
     int made = 0;
     for (const QString &path : files) {
-        const Drawing drawing = readDrawing(path);
-        QString problem = drawing.problem;
+        const DrawnShape shape = shapeOfDrawing(path, titleOf(path), parser.value(group));
+        QString problem = shape.problem;
         if (problem.isEmpty()) {
             const QString target = folder.filePath(freeName(path, taken) + QStringLiteral(".shape.svg"));
-            const QByteArray text = shapeOfDrawing(drawing, titleOf(path), parser.value(group));
-            const Faults faults = declaredFaults(text, target);
+            const Faults faults = declaredFaults(shape.text, target);
             problem = faults.isEmpty()
-                          ? writeNewFile(target, text)
+                          ? writeNewFile(target, shape.text)
                           : QStringLiteral("%1 can't become a shape: %2").arg(path, faults.first().told());
         }
         problem.isEmpty() ? ++made : complain(problem);

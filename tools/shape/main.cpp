@@ -23,6 +23,7 @@ struct Command
 const Command commands[] = {
     {"new", "NAME [--cpp] [--from DRAWING] [--dir DIR]", "Writes a shape to begin with.", &runNew},
     {"lint", "FILE... [--json]", "Tells the faults of declared shapes and templates.", &runLint},
+    {"look", "FILE...", "Writes the declared look into files of shapes.", &runLook},
     {"check", "FILE|PLUGIN|DIR... [--only CHECK] [--json]", "Checks the promises that every shape keeps.",
      &runCheck},
     {"preview", "FILE [--png OUT] [--sheet OUT]", "Shows a shape, or draws it into a picture.", &runPreview},

@@ -136,10 +136,10 @@ int runNew(const QStringList &arguments)
         return writeProject(name, folder.filePath(name));
     QByteArray text = filled(declaredStart, name);
     if (parser.isSet(from)) {
-        const Drawing drawing = readDrawing(parser.value(from));
-        if (!drawing.problem.isEmpty())
-            return complain(drawing.problem);
-        text = shapeOfDrawing(drawing, name, QStringLiteral("basic"));
+        const DrawnShape shape = shapeOfDrawing(parser.value(from), name, QStringLiteral("basic"));
+        if (!shape.problem.isEmpty())
+            return complain(shape.problem);
+        text = shape.text;
     }
     if (!QDir().mkpath(folder.path()))
         return complain(QStringLiteral("%1 can't be made").arg(folder.path()));

@@ -269,7 +269,9 @@ void ObjectRegistry::listenTo(const Source &source)
 void ObjectRegistry::addMessage(const Source &source, const PluginMessage &message) const
 {
     m_reports[source.report].messages.append(message);
-    addProblem(source, message.told());
+    // Those of files are told by faults(), as long as the file has them.
+    if (!source.kinds || !source.kinds->faults().contains(message.told()))
+        addProblem(source, message.told());
 }
 
 bool ObjectRegistry::run(const QString &kindId, const QString &operation, const std::function<void()> &work) const

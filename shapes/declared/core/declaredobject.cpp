@@ -106,6 +106,7 @@ void DeclaredObject::putCoreOf(const ShapeKind &kind)
     const bool isNew = !core;
     if (isNew)
         core = std::make_unique<DeclaredShape>(this, kind);
+    core->setKind(kind.kind());
     core->setTextInlined(!m_hostKeepsTexts);
     core->setReplay([this](int actionId, QDataStream &in) { return DoPlaybackActionEx(actionId, in); });
     svgBase = core.release();

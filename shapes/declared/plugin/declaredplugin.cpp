@@ -49,7 +49,15 @@ void DeclaredPlugin::read()
 {
     m_faults.clear();
     m_folders.removeDuplicates();
-    m_library->offer(readFolders(m_folders, m_faults, m_good));
+    const FaultListeners listeners{[this](const pagehost::PluginMessage &fault) {
+                                       m_faults.append(fault.told());
+                                       m_log->report(fault);
+                                   },
+                                   [log = m_log](const pagehost::PluginMessage &fault) {
+                                       qWarning("%s", qPrintable(fault.told()));
+                                       log->report(fault);
+                                   }};
+    m_library->offer(readFolders(m_folders, listeners, m_good));
     m_watch.watch(m_folders);
 }
 
@@ -86,6 +94,7 @@ void DeclaredPlugin::followFiles(const ShapeLibrary::Kinds &before)
 DeclaredPlugin::~DeclaredPlugin()
 {
     m_library->setListener({});
+    m_log->setListener({});
 }
 
 QStringList DeclaredPlugin::dataTypes() const

@@ -3,6 +3,8 @@
 #include <declared/plugin/shapefolders.h>
 #include <declared/plugin/shapewatch.h>
 
+#include <shapekit/messagelog.h>
+
 #include <pagehost/objectplugin.h>
 
 #include <QtCore/QObject>
@@ -14,7 +16,10 @@ namespace declared {
 class ShapeLibrary;
 
 /// The plug-in of all shapes that files declare: a kind per file.
-class DeclaredPlugin : public QObject, public pagehost::ObjectPlugin, public pagehost::KindSource
+class DeclaredPlugin : public QObject,
+                       public pagehost::ObjectPlugin,
+                       public pagehost::KindSource,
+                       public pagehost::MessageSource
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID PAGEHOST_OBJECTPLUGIN_IID)
@@ -37,6 +42,9 @@ public:
     void setKindsListener(const Listener &listener) override;
     QStringList faults() const override { return m_faults; }
     void addFolders(const QStringList &folders) override;
+    /// Faults of files and of drawing their shapes.
+    QVector<pagehost::PluginMessage> messages() const override { return m_log->messages(); }
+    void setMessageListener(const pagehost::MessageListener &listener) override { m_log->setListener(listener); }
 
     /// Reads all files again. Objects that are made of what a file declared before follow it; not while the user
     /// drags one of them.
@@ -51,6 +59,8 @@ private:
     GoodFiles m_good;
     QStringList m_folders;
     QStringList m_faults;
+    /// Kinds live as long as their objects, and report there.
+    std::shared_ptr<shapekit::MessageLog> m_log = std::make_shared<shapekit::MessageLog>();
     Listener m_listener;
 };
 

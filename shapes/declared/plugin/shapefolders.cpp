@@ -21,12 +21,13 @@ Message errorAt(Place place, const char *code, const QString &text)
     return {Message::Error, QLatin1String(code), place.line, place.column, text};
 }
 
-/// Null, with lines about it, for a file that can't be used.
-SharedDeclaration readFile(const QString &path, QStringList &problems)
+/// Null, after telling the listener, for a file that can't be used.
+SharedDeclaration readFile(const QString &path, const pagehost::MessageListener &listener)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        problems.append(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        listener({pagehost::PluginMessage::Error, QStringLiteral("C01"), path, 0, 0, QString(),
+                  QStringLiteral("the file can't be read: ") + file.errorString()});
         return {};
     }
     QVector<Message> messages;
@@ -35,7 +36,7 @@ SharedDeclaration readFile(const QString &path, QStringList &problems)
     const SharedDeclaration declaration = readShape(file.read(limits::fileBytes + 1), name, &messages);
     for (const Message &message : qAsConst(messages))
         if (message.severity == Message::Error)
-            problems.append(message.told(path));
+            listener(pluginMessage(message, path));
     return declaration;
 }
 
@@ -61,7 +62,7 @@ QFileInfoList shapeFilesIn(const QString &folder)
     return QDir(folder).entryInfoList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
 }
 
-std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
+std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, const FaultListeners &listeners,
                                                     GoodFiles &good, const QString &installed)
 {
     std::vector<std::unique_ptr<ShapeKind>> kinds;
@@ -71,43 +72,38 @@ std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, 
             continue;
         const QFileInfoList files = shapeFilesIn(folder);
         for (const QFileInfo &file : files) {
-            SharedDeclaration &declaration = good[file.absoluteFilePath()];
-            if (const SharedDeclaration read = readFile(file.absoluteFilePath(), problems))
+            const QString path = file.absoluteFilePath();
+            SharedDeclaration &declaration = good[path];
+            if (const SharedDeclaration read = readFile(path, listeners.ofFile))
                 declaration = read;
             if (!declaration)
                 continue;
             if (declaration->isSuccessor() && folder != installed) {
-                problems.append(
+                listeners.ofFile(pluginMessage(
                     errorAt(declaration->layoutPlace, "C51",
-                            QStringLiteral("only shapes that come with the plug-in have a type and a layout"))
-                        .told(file.absoluteFilePath()));
+                            QStringLiteral("only shapes that come with the plug-in have a type and a layout")),
+                    path));
                 continue;
             }
             auto kind = std::make_unique<ShapeKind>(declaration);
             // Keys of texts are in capitals.
             const QString id = kind->kind().id().toLower();
             if (ids.contains(id)) {
-                problems.append(
+                listeners.ofFile(pluginMessage(
                     errorAt(declaration->idPlace, "C05",
-                            QStringLiteral("the id \"%1\" is that of another file").arg(declaration->id))
-                        .told(file.absoluteFilePath()));
+                            QStringLiteral("the id \"%1\" is that of another file").arg(declaration->id)),
+                    path));
                 continue;
             }
             ids.insert(id);
-            kind->setListener([path = file.absoluteFilePath()](const Message &message) {
-                qWarning("%s", qPrintable(message.told(path)));
+            kind->setListener([path, listener = listeners.ofDrawing](const Message &message) {
+                if (listener)
+                    listener(pluginMessage(message, path));
             });
             kinds.push_back(std::move(kind));
         }
     }
     return kinds;
-}
-
-std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
-                                                    const QString &installed)
-{
-    GoodFiles good;
-    return readFolders(folders, problems, good, installed);
 }
 
 } // namespace declared

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <declared/core/pluginmessage.h>
 #include <declared/reader/declaration.h>
-#include <declared/reader/message.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QHash>
@@ -27,11 +27,16 @@ QFileInfoList shapeFilesIn(const QString &folder);
 /// Declarations of files when they could be read last, by path.
 using GoodFiles = QHash<QString, SharedDeclaration>;
 
+/// Notified of faults while folders are read, and later of those of drawing the shapes.
+struct FaultListeners
+{
+    pagehost::MessageListener ofFile;
+    pagehost::MessageListener ofDrawing;
+};
+
 /// All shapes of the files in some folders. A file with a fault counts as what `good` holds of it, else it is left
-/// out, as is one whose id is taken; `problems` gets a line for each.
-std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
+/// out, as is one whose id is taken.
+std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, const FaultListeners &listeners,
                                                     GoodFiles &good, const QString &installed = installedFolder());
-std::vector<std::unique_ptr<ShapeKind>> readFolders(const QStringList &folders, QStringList &problems,
-                                                    const QString &installed = installedFolder());
 
 } // namespace declared

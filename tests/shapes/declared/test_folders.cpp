@@ -1,10 +1,10 @@
 // Folders of files that declare shapes.
 
+#include "folderreading.h"
 #include "shapefile.h"
 
 #include <declared/core/iconpicture.h>
 #include <declared/core/shapekind.h>
-#include <declared/plugin/shapefolders.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
@@ -57,7 +57,7 @@ void TestFolders::filesBecomeKindsByTheirNames()
 {
     write(QStringLiteral("a/nut.shape.svg"), declaredtest::fileOf(""));
     write(QStringLiteral("a/bolt.shape.svg"), declaredtest::fileOf(""));
-    const auto kinds = readFolders({m_folder.filePath(QStringLiteral("a"))}, m_problems);
+    const auto kinds = declaredtest::readFolders({m_folder.filePath(QStringLiteral("a"))}, m_problems);
     QCOMPARE(idsOf(kinds), QStringList({QStringLiteral("declared.bolt"), QStringLiteral("declared.nut")}));
     QVERIFY(m_problems.isEmpty());
 }
@@ -65,7 +65,7 @@ void TestFolders::filesBecomeKindsByTheirNames()
 void TestFolders::otherFilesAreLeftAlone()
 {
     write(QStringLiteral("other/drawing.svg"), "<svg/>");
-    const auto kinds = readFolders(
+    const auto kinds = declaredtest::readFolders(
         {m_folder.filePath(QStringLiteral("other")), QString(), m_folder.filePath(QStringLiteral("missing"))},
         m_problems);
     QVERIFY(kinds.empty());
@@ -77,7 +77,7 @@ void TestFolders::faultyFileIsToldAndLeftOut()
     write(QStringLiteral("faulty/bad.shape.svg"), declaredtest::fileOf("<path shape:d='M{width} 0'/>"));
     write(QStringLiteral("faulty/good.shape.svg"), declaredtest::fileOf(""));
     QStringList problems;
-    const auto kinds = readFolders({m_folder.filePath(QStringLiteral("faulty"))}, problems);
+    const auto kinds = declaredtest::readFolders({m_folder.filePath(QStringLiteral("faulty"))}, problems);
     QCOMPARE(idsOf(kinds), QStringList({QStringLiteral("declared.good")}));
     QCOMPARE(problems, QStringList({m_folder.filePath(QStringLiteral("faulty/bad.shape.svg")) +
                                     QStringLiteral(":3:18: error C20: there is no \"width\"")}));
@@ -87,7 +87,7 @@ void TestFolders::fileThatIsTooLargeIsTold()
 {
     write(QStringLiteral("large/large.shape.svg"), declaredtest::fileOf(QByteArray(1 << 20, ' ')));
     QStringList problems;
-    QVERIFY(readFolders({m_folder.filePath(QStringLiteral("large"))}, problems).empty());
+    QVERIFY(declaredtest::readFolders({m_folder.filePath(QStringLiteral("large"))}, problems).empty());
     QCOMPARE(problems.size(), 1);
     QVERIFY(problems.first().contains(QLatin1String("error C42")));
 }
@@ -97,7 +97,7 @@ void TestFolders::firstFolderWins()
     write(QStringLiteral("first/nut.shape.svg"), declaredtest::fileAbout("name='Mine'", ""));
     write(QStringLiteral("second/Nut.shape.svg"), declaredtest::fileAbout("name='Theirs'", ""));
     QStringList problems;
-    const auto kinds = readFolders(
+    const auto kinds = declaredtest::readFolders(
         {m_folder.filePath(QStringLiteral("first")), m_folder.filePath(QStringLiteral("second"))}, problems);
     QCOMPARE(kinds.size(), size_t(1));
     QCOMPARE(kinds.front()->declaration().name.value(QStringLiteral("en")), QStringLiteral("Mine"));

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void updateOfAPresentObjectDoesNothing();
     void updateIsPlayed();
     void coresThatNoUndoStepNeedsAreDropped();
+    void faultOfDrawingIsToldWithItsPlace();
+    void faultOfAFileIsToldOnce();
     void replacedFilesAreNoticed();
     void fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond();
 
@@ -409,6 +411,31 @@ void TestReloading::coresThatNoUndoStepNeedsAreDropped()
 }
 
 /// Editors write a new file and put it in the place of the old one.
+void TestReloading::faultOfDrawingIsToldWithItsPlace()
+{
+    QStringList told;
+    m_machine->registry().setProblemListener(
+        [&](const pagehost::PluginReport &report) { told.append(report.problem); });
+    save(barFile("#ff0000", "20 .. w - 8",
+                 "<path fill='none' stroke='#000' d='M0 0' shape:d='M0 0H{9 / (parts - 3)}'/>"));
+    pictureOf(*m_document);
+    const QString fault = m_machine->pathOf(name) + QStringLiteral(":6:51: warning C40: the value is not finite");
+    QCOMPARE(told, QStringList{fault});
+    QCOMPARE(m_machine->registry().reports().first().messages.last().column, 51);
+}
+
+void TestReloading::faultOfAFileIsToldOnce()
+{
+    QStringList told;
+    m_machine->registry().setProblemListener(
+        [&](const pagehost::PluginReport &report) { told.append(report.problem); });
+    save(barFile("#ff0000").replace("{p1.x}", "{p1.z}"));
+    QCOMPARE(m_machine->registry().faults().size(), 1);
+    QCOMPARE(m_machine->registry().reports().first().messages.last().told(),
+             m_machine->registry().faults().first());
+    QCOMPARE(told, QStringList());
+}
+
 void TestReloading::replacedFilesAreNoticed()
 {
     for (const char *colour : {"#00ff00", "#0000ff"}) {

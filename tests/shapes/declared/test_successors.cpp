@@ -1,9 +1,9 @@
 // Declared shapes that take the place of shapes written in C++: kinds, ids and saved data stay what they were.
 
+#include "folderreading.h"
 #include "shapefile.h"
 
 #include <declared/core/declaredshape.h>
-#include <declared/plugin/shapefolders.h>
 
 #include <shapekit/shapeobject.h>
 
@@ -174,13 +174,13 @@ void TestSuccessors::onlyInstalledFilesSucceed()
     file.write(declaredtest::fileAbout(aboutNut, contentOfNut));
     file.close();
     QStringList problems;
-    QVERIFY(readFolders({folder.path()}, problems, QStringLiteral("/elsewhere")).empty());
+    QVERIFY(declaredtest::readFolders({folder.path()}, problems, QStringLiteral("/elsewhere")).empty());
     QCOMPARE(problems,
              QStringList({file.fileName() +
                           QStringLiteral(":2:59: error C51: only shapes that come with the plug-in have a "
                                          "type and a layout")}));
     QStringList none;
-    const auto kinds = readFolders({folder.path()}, none, folder.path());
+    const auto kinds = declaredtest::readFolders({folder.path()}, none, folder.path());
     QVERIFY(none.isEmpty());
     QCOMPARE(kinds.size(), size_t(1));
     QCOMPARE(kinds.front()->kind().id(), QStringLiteral("shapes.nut"));

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void lintReadsTemplatesToo();
     void lintGivesJson();
     void lintOfAMissingFileCouldNotRun();
+    void lookIsWrittenIntoTheFile();
     void newShapeIsFineAtOnce();
     void newShapeOverwritesNothing();
     void newShapeShowsADrawing();
@@ -92,14 +93,14 @@ void TestShapeTool::helpListsTheCommands()
 {
     const Run help = run({QStringLiteral("--help")});
     QCOMPARE(help.exitCode, 0);
-    for (const char *command : {"new", "lint", "check", "preview", "import"})
+    for (const char *command : {"new", "lint", "look", "check", "preview", "import"})
         QVERIFY2(help.output.contains(QStringLiteral("\n  %1 ").arg(QLatin1String(command))), command);
 }
 
 void TestShapeTool::everyCommandExplainsItself_data()
 {
     QTest::addColumn<QString>("command");
-    for (const char *command : {"new", "lint", "check", "preview", "import"})
+    for (const char *command : {"new", "lint", "look", "check", "preview", "import"})
         QTest::newRow(command) << QString::fromLatin1(command);
 }
 
@@ -126,7 +127,7 @@ void TestShapeTool::manPageAndCompletionNameEveryCommand()
 {
     const QByteArray manual = read(QStringLiteral(TOOL_FOLDER "/gliololok-shape.1"));
     const QByteArray completion = read(QStringLiteral(TOOL_FOLDER "/completion.bash"));
-    for (const char *command : {"new", "lint", "check", "preview", "import"}) {
+    for (const char *command : {"new", "lint", "look", "check", "preview", "import"}) {
         QVERIFY2(manual.contains(QByteArray("\n.B ") + command + '\n'), command);
         QVERIFY2(completion.contains(QByteArray("    ") + command + ')'), command);
     }
@@ -174,6 +175,25 @@ void TestShapeTool::lintOfAMissingFileCouldNotRun()
     const Run lint = run({QStringLiteral("lint"), path(QStringLiteral("nowhere.shape.svg"))});
     QCOMPARE(lint.exitCode, 2);
     QVERIFY(lint.errors.contains(QLatin1String("nowhere.shape.svg can't be read")));
+}
+
+void TestShapeTool::lookIsWrittenIntoTheFile()
+{
+    const QString file = path(QStringLiteral("unseen.shape.svg"));
+    const QByteArray text =
+        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:shape='urn:gliololok:shape' viewBox='0 0 60 40'>"
+        "<shape:about name='Box'/><path id='figure' stroke='#000' stroke-width='2' d='M9 9' "
+        "shape:d='M1 1H{w - 1}V{h - 1}H1Z'/></svg>";
+    write(file, text);
+    QCOMPARE(run({QStringLiteral("lint"), file}).exitCode, 1);
+    QCOMPARE(run({QStringLiteral("look"), file}).output, file + QLatin1Char('\n'));
+    QCOMPARE(read(file), QByteArray(text).replace("M9 9", "M1 1H59V39H1Z"));
+    QCOMPARE(run({QStringLiteral("lint"), file}).exitCode, 0);
+    QCOMPARE(run({QStringLiteral("look"), file}).output, QString());
+    write(file, misspelled);
+    QCOMPARE(run({QStringLiteral("look"), file}).exitCode, 1);
+    QCOMPARE(read(file), misspelled);
+    QCOMPARE(run({QStringLiteral("look"), path(QStringLiteral("nowhere.shape.svg"))}).exitCode, 2);
 }
 
 void TestShapeTool::newShapeIsFineAtOnce()
@@ -260,7 +280,7 @@ void TestShapeTool::iconsBecomeShapes()
     const QByteArray shape = read(path(QStringLiteral("shapes/arrowleft.shape.svg")));
     QVERIFY(shape.contains("name=\"Arrow left\""));
     QVERIFY(shape.contains("group=\"Signs\""));
-    QVERIFY(shape.contains("aspect=\"kept\""));
+    QVERIFY(shape.contains("sizing=\"stretch\""));
     for (const QString &file : files)
         QCOMPARE(run({QStringLiteral("lint"), path(QStringLiteral("shapes/") + file)}).output, QString());
 }
