@@ -79,16 +79,20 @@ void PageView::setPage(pagehost::Page *page)
     }
     m_page = page;
     setScene(page ? page->scene() : nullptr);
+    if (page)
+        followPage();
     Q_EMIT pageShown();
-    if (!page)
-        return;
+}
+
+void PageView::followPage()
+{
     // Only the hint of an empty page is the view's own; objects ask for repaints themselves.
-    connect(page, &pagehost::Page::objectAdded, viewport(), QOverload<>::of(&QWidget::update));
-    connect(page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
-    connect(page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
+    connect(m_page, &pagehost::Page::objectAdded, viewport(), QOverload<>::of(&QWidget::update));
+    connect(m_page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
+    connect(m_page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
-    if (page->document())
-        page->document()->setZoomRate(m_zoom);
+    if (m_page->document())
+        m_page->document()->setZoomRate(m_zoom);
 }
 
 void PageView::setBare(bool bare)

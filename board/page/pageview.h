@@ -118,6 +118,7 @@ private:
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
     bool nudge(const QKeyEvent *event);
+    void followPage();
     void applyZoom(double rate);
     void updateSceneArea();
     void paintShadow(QPainter *painter) const;

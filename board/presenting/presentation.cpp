@@ -5,8 +5,10 @@
 #include "core/workspace.h"
 #include "look/theme.h"
 #include "page/pageview.h"
+#include "presenting/audiencewindow.h"
 #include "presenting/fadingdock.h"
 #include "presenting/laserpointer.h"
+#include "presenting/presenterwindow.h"
 #include "presenting/presentingbar.h"
 #include "presenting/stage.h"
 
@@ -16,7 +18,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QAction>
-#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QVBoxLayout>
 
 namespace board {
 
@@ -44,14 +46,10 @@ bool actsWhilePresenting(CommandGroup group)
     return group != CommandGroup::File && group != CommandGroup::View && group != CommandGroup::Help;
 }
 
-QWidget *makeWindow(QWidget *window, const QString &title, const QRect &place)
+void showOver(QWidget *window, const QRect &screen)
 {
-    auto *shown = new QWidget(window, Qt::Window | Qt::FramelessWindowHint);
-    shown->setWindowTitle(title);
-    shown->setGeometry(place);
-    auto *column = new QVBoxLayout(shown);
-    column->setContentsMargins(0, 0, 0, 0);
-    return shown;
+    window->setGeometry(screen);
+    window->showFullScreen();
 }
 
 } // namespace
@@ -85,17 +83,35 @@ void Presentation::start(const ScreenPlan &plan)
     if (isRunning())
         return;
     m_view->settle();
-    m_shown = makeWindow(m_window, m_commands->name(Command::Present), plan.page);
     m_stage = new Stage(m_commands, m_tools);
-    m_shown->layout()->addWidget(m_stage);
-    auto *dock = new FadingDock(m_stage->view()->viewport());
     showPage();
-    new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(), buttonSide);
     connect(m_stage, &Stage::endRequested, this, &Presentation::end);
-    lendKeys(m_shown);
-    m_shown->showFullScreen();
-    m_shown->activateWindow();
+    plan.presenter ? showOnTwoScreens(plan) : showOnOneScreen(plan.page);
+    lendKeys(m_stage->window());
+    m_stage->window()->activateWindow();
     m_stage->setFocus();
+}
+
+void Presentation::showOnOneScreen(const QRect &screen)
+{
+    m_single = new QWidget(m_window, Qt::Window | Qt::FramelessWindowHint);
+    m_single->setWindowTitle(m_commands->name(Command::Present));
+    auto *column = new QVBoxLayout(m_single);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_stage);
+    auto *dock = new FadingDock(m_stage->view()->viewport());
+    new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(), buttonSide);
+    showOver(m_single, screen);
+}
+
+void Presentation::showOnTwoScreens(const ScreenPlan &plan)
+{
+    m_audience = new AudienceWindow(m_stage, m_tools, m_window);
+    m_presenter = new PresenterWindow(m_workspace, *m_commands, m_stage, m_window);
+    for (QWidget *window : {static_cast<QWidget *>(m_audience), static_cast<QWidget *>(m_presenter)})
+        window->setWindowTitle(m_commands->name(Command::Present));
+    showOver(m_audience, plan.page);
+    showOver(m_presenter, *plan.presenter);
 }
 
 /// Keys of commands act in windows that have their actions.
@@ -121,9 +137,16 @@ void Presentation::end()
     m_stage->view()->settle();
     if (m_tools->tool() == Tool::Laser)
         m_tools->choose(Tool::Select);
-    m_shown->hide();
-    m_shown->deleteLater();
-    m_shown.clear();
+    for (QWidget *window :
+         {m_single.data(), static_cast<QWidget *>(m_presenter), static_cast<QWidget *>(m_audience)}) {
+        if (!window)
+            continue;
+        window->hide();
+        window->deleteLater();
+    }
+    m_single.clear();
+    m_presenter.clear();
+    m_audience.clear();
     m_stage.clear();
     // The larger view had set its own.
     if (m_view->page() && m_view->page()->document())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "presenting/audiencewindow.h"
+#include "presenting/presenterwindow.h"
 #include "presenting/screenplan.h"
 #include "presenting/stage.h"
 
@@ -31,8 +33,13 @@ public:
     void end();
     /// Null while nothing is presented.
     Stage *stage() const { return m_stage; }
+    /// Null without a second screen.
+    PresenterWindow *presenter() const { return m_presenter; }
+    AudienceWindow *audience() const { return m_audience; }
 
 private:
+    void showOnOneScreen(const QRect &screen);
+    void showOnTwoScreens(const ScreenPlan &plan);
     void lendKeys(QWidget *shown);
     void showPage();
 
@@ -41,8 +48,10 @@ private:
     ToolChoice *m_tools;
     PageView *m_view;
     QWidget *m_window;
-    QPointer<QWidget> m_shown; ///< the window over the screen
-    QPointer<Stage> m_stage;
+    QPointer<QWidget> m_single; ///< with one screen
+    QPointer<PresenterWindow> m_presenter;
+    QPointer<AudienceWindow> m_audience;
+    QPointer<Stage> m_stage; ///< in one of these
 };
 
 } // namespace board

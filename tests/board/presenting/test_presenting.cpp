@@ -11,6 +11,7 @@
 #include <presenting/curtain.h>
 #include <presenting/fadingdock.h>
 #include <presenting/laserpointer.h>
+#include <presenting/pagepictures.h>
 #include <presenting/presentation.h>
 #include <presenting/screenplan.h>
 #include <window/mainwindow.h>
@@ -76,6 +77,15 @@ struct Show
     QPoint farAway() const { return {viewport()->width() - 10, 10}; }
 };
 
+/// The same with the page on a second screen.
+struct TwoScreens
+{
+    Show show{false};
+
+    TwoScreens() { show.presentation().start({{0, 0, 800, 600}, QRect(800, 0, 1366, 768)}); }
+    board::AudienceWindow &audience() const { return *show.presentation().audience(); }
+};
+
 void drag(QWidget *widget, const QPoint &from, const QPoint &to)
 {
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
@@ -121,6 +131,15 @@ private Q_SLOTS:
     void trailFadesWithinASecond();
     void pageGoesToTheOtherScreen_data();
     void pageGoesToTheOtherScreen();
+    void audienceSeesThePageAlone();
+    void audienceFollowsThePresenter();
+    void audienceSeesCurtainAndLaser();
+    void presenterSeesTheNextPage();
+    void presenterTurnsToAPageByAClick();
+    void presenterSeesTheTimeSinceTheStart();
+    void timeSinceTheStart_data();
+    void timeSinceTheStart();
+    void escapeEndsBothScreens();
     void presentingFromTheCommandLine();
 };
 
@@ -187,6 +206,8 @@ void TestPresenting::keysAndClickersTurnPages()
     t.press(static_cast<Qt::Key>(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
     QCOMPARE(t.page(), page);
     QCOMPARE(t.stage().view()->page(), t.document().page(page));
+    // Handles have the size of this view, not of the window's.
+    QCOMPARE(t.document().zoomRate(), t.stage().view()->zoom());
 }
 
 void TestPresenting::pageTurnedAtTheEndsStays()
@@ -447,6 +468,109 @@ void TestPresenting::pageGoesToTheOtherScreen()
     const board::ScreenPlan plan = board::planScreens(screens, own);
     QCOMPARE(plan.page, page);
     QCOMPARE(plan.presenter.value_or(QRect()), presenter);
+}
+
+void TestPresenting::audienceSeesThePageAlone()
+{
+    TwoScreens t;
+    t.show.board.page().select({t.show.shape});
+    board::AudienceView &view = *t.audience().view();
+    QCOMPARE(view.page(), &t.show.board.page());
+    const double rate = qMin(view.viewport()->width() / 1280.0, view.viewport()->height() / 720.0);
+    QCOMPARE(view.transform().m11(), rate);
+    // The corner of the selected shape has a handle in the presenter's view.
+    const QPointF beside(497, 297);
+    const QImage picture = view.viewport()->grab().toImage();
+    QCOMPARE(picture.pixelColor(view.mapFromScene(beside)),
+             picture.pixelColor(view.mapFromScene(QPointF(100, 100))));
+    const QImage presented = t.show.viewport()->grab().toImage();
+    QVERIFY(presented.pixelColor(t.show.at(beside)) != presented.pixelColor(t.show.at({100, 100})));
+}
+
+void TestPresenting::audienceFollowsThePresenter()
+{
+    TwoScreens t;
+    t.show.press(Qt::Key_PageDown);
+    QCOMPARE(t.show.page(), 2);
+    QCOMPARE(t.audience().view()->page(), t.show.document().page(2));
+    // Not the audience's: handles have the size of the presenter's view.
+    QCOMPARE(t.show.document().zoomRate(), t.show.stage().view()->zoom());
+}
+
+void TestPresenting::audienceSeesCurtainAndLaser()
+{
+    TwoScreens t;
+    t.show.press(Qt::Key_B);
+    QVERIFY(t.audience().curtain()->isVisible());
+    t.show.stage().curtain()->setPart({0, 0.5, 1, 0.5});
+    QCOMPARE(t.audience().curtain()->part(), QRectF(0, 0.5, 1, 0.5));
+    t.show.press(Qt::Key_B);
+    QVERIFY(!t.audience().curtain()->isVisible());
+    t.show.press(Qt::Key_K);
+    t.show.movePointer(t.show.at({100, 100}));
+    QCOMPARE(t.audience().laser()->trail().size(), 1);
+    QCOMPARE(t.audience().laser()->trail().first().pos, t.show.stage().laser()->trail().first().pos);
+}
+
+void TestPresenting::presenterSeesTheNextPage()
+{
+    TwoScreens t;
+    const board::PagePictures &pictures = *t.show.presentation().presenter()->pictures();
+    QCOMPARE(pictures.nextName()->text(), QString("Next: page 3"));
+    QCOMPARE(pictures.list()->count(), 3);
+    QCOMPARE(pictures.list()->currentRow(), 1);
+    t.show.press(Qt::Key_PageDown);
+    QCOMPARE(pictures.nextName()->text(), QString("This is the last page"));
+    QCOMPARE(pictures.list()->currentRow(), 2);
+    t.show.run(Command::AddPage);
+    QCOMPARE(pictures.list()->count(), 4);
+    QCOMPARE(pictures.list()->currentRow(), 3);
+}
+
+void TestPresenting::presenterTurnsToAPageByAClick()
+{
+    TwoScreens t;
+    QListWidget *list = t.show.presentation().presenter()->pictures()->list();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(0)).center());
+    QCOMPARE(t.show.page(), 0);
+}
+
+void TestPresenting::presenterSeesTheTimeSinceTheStart()
+{
+    const TwoScreens t;
+    const QLabel *elapsed = t.show.presentation().presenter()->elapsed();
+    QCOMPARE(elapsed->text(), QString("00:00"));
+    support::pass(61000);
+    QCOMPARE(elapsed->text(), QString("01:01"));
+}
+
+void TestPresenting::timeSinceTheStart_data()
+{
+    QTest::addColumn<qint64>("time");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("start") << qint64(999) << "00:00";
+    QTest::newRow("minutes") << qint64(1450000) << "24:10";
+    QTest::newRow("just below an hour") << qint64(3599999) << "59:59";
+    QTest::newRow("hours") << qint64(5050000) << "1:24:10";
+}
+
+void TestPresenting::timeSinceTheStart()
+{
+    QFETCH(qint64, time);
+    QFETCH(QString, text);
+    QCOMPARE(board::elapsedText(time), text);
+}
+
+void TestPresenting::escapeEndsBothScreens()
+{
+    TwoScreens t;
+    t.show.press(Qt::Key_Escape);
+    QVERIFY(!t.show.presentation().isRunning());
+    support::deliverEvents();
+    QCOMPARE(t.show.board.window().findChildren<board::AudienceWindow *>().size(), 0);
+    QCOMPARE(t.show.board.window().findChildren<board::PresenterWindow *>().size(), 0);
+    QCOMPARE(t.show.document().zoomRate(), t.show.board.view().zoom());
 }
 
 void TestPresenting::presentingFromTheCommandLine()

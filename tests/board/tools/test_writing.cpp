@@ -72,7 +72,6 @@ void TestWriting::toolsOfPluginsCanBeChosen()
     Desk desk;
     for (const Tool tool : {Tool::Pen, Tool::Highlighter, Tool::Eraser})
         QVERIFY(desk.tools().isOffered(tool));
-    QVERIFY(!desk.tools().isOffered(Tool::Laser));
 }
 
 void TestWriting::thePenStaysAfterAStroke()

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+class QLabel;
+
+namespace board {
+
+class Commands;
+class PagePictures;
+class Stage;
+class Workspace;
+
+/// "24:10", from an hour on "1:24:10".
+QString elapsedText(qint64 milliseconds);
+
+/// The window of who presents, while the audience looks at another screen: the page to draw on, the next one, the
+/// time, and all pages.
+class PresenterWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Takes the stage into it. All others must outlive this.
+    PresenterWindow(const Workspace *workspace, const Commands &commands, Stage *stage, QWidget *parent);
+
+    PagePictures *pictures() const { return m_pictures; }
+    QLabel *elapsed() const { return m_elapsed; }
+
+private:
+    QWidget *makeTop(const Workspace *workspace, Stage *stage);
+    QWidget *makeTimes(const Workspace *workspace);
+    void showTime();
+
+    QLabel *m_elapsed;
+    QLabel *m_timeOfDay;
+    PagePictures *m_pictures = nullptr;
+    QElapsedTimer m_sinceStart;
+    QTimer m_seconds;
+};
+
+} // namespace board
