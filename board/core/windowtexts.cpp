@@ -12,6 +12,8 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_IS_SAVED", QT_TRANSLATE_NOOP("board", "Saved")},
         {"IDS_BOARD_UNSAVED", QT_TRANSLATE_NOOP("board", "Not saved")},
         {"IDS_BOARD_PAGE_OF", QT_TRANSLATE_NOOP("board", "Page %1 of %2")},
+        {"IDS_BOARD_SHELF", QT_TRANSLATE_NOOP("board", "Colours and widths")},
+        {"IDS_BOARD_TOOL_WIDTH", QT_TRANSLATE_NOOP("board", "Width %1")},
         {"IDS_BOARD_PIN", QT_TRANSLATE_NOOP("board", "Pin to the window")},
         {"IDS_BOARD_OBJECT", QT_TRANSLATE_NOOP("board", "Object")},
         {"IDS_BOARD_OUTLINE", QT_TRANSLATE_NOOP("board", "Outline")},

@@ -110,9 +110,9 @@ void PageView::setEmptyHint(const EmptyHint &hint)
 void PageView::setShelfEdge(Qt::Edge edge)
 {
     m_shelfEdge = edge;
-    const bool isBeside = edge == Qt::LeftEdge || edge == Qt::RightEdge;
-    m_shelfMargin = isBeside ? shelfMargin : sideMargin;
-    setViewportMargins(edge == Qt::LeftEdge ? shelfThickness : 0, 0, edge == Qt::RightEdge ? shelfThickness : 0, 0);
+    m_shelfMargin = edge == Qt::LeftEdge || edge == Qt::RightEdge ? shelfMargin : sideMargin;
+    const auto room = [edge](Qt::Edge one) { return edge == one ? shelfThickness : 0; };
+    setViewportMargins(room(Qt::LeftEdge), room(Qt::TopEdge), room(Qt::RightEdge), room(Qt::BottomEdge));
     if (m_fitted)
         showFitted();
 }

@@ -56,8 +56,8 @@ public:
     void fitPage();
     bool isFitted() const { return m_fitted; }
 
-    /// The edge of the window where the tools are. At a side, the view keeps room for a shelf beside them, however
-    /// the page is zoomed.
+    /// The edge of the window where the tools are. The view keeps room for a shelf beside them, however the page is
+    /// zoomed.
     void setShelfEdge(Qt::Edge edge);
 
     /// Decides what can be dropped besides kinds of shape.

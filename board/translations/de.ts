@@ -1140,5 +1140,13 @@
         <comment>IDS_BOARD_OUTLINE</comment>
         <translation>Gliederung</translation>
     </message>
+    <message>
+        <source>Colours and widths</source>
+        <translation>Farben und Breiten</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Breite %1</translation>
+    </message>
 </context>
 </TS>

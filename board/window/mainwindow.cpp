@@ -40,6 +40,7 @@
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
 #include "window/shapetool.h"
+#include "window/shelf.h"
 #include "window/sidepanel.h"
 #include "window/topbar.h"
 
@@ -102,6 +103,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_topBar(new TopBar(workspace, m_actions, m_view, this))
     , m_dock(new Dock(workspace, m_commands, m_tools))
     , m_hint(new HintPill(m_view))
+    , m_shelf(new Shelf(workspace, m_tools, m_toolSettings, m_view))
     , m_describeSelection([this] { describeSelection(); })
 {
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
@@ -175,6 +177,7 @@ void MainWindow::setDockEdge(Qt::Edge edge)
     m_body->setDirection(directions.value(edge));
     m_dock->setEdge(edge);
     m_view->setShelfEdge(edge);
+    m_shelf->setEdge(edge);
     m_paletteDrawer->setSide(edge == Qt::RightEdge ? Qt::RightEdge : Qt::LeftEdge);
     rememberDockEdge(edge);
 }

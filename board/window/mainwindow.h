@@ -41,6 +41,7 @@ class PropertyPanel;
 class Recovery;
 class SettingsPanel;
 class ShapeTool;
+class Shelf;
 class SidePanel;
 class ToolChoice;
 class ToolSettings;
@@ -141,6 +142,7 @@ private:
     TopBar *m_topBar;
     Dock *m_dock;
     HintPill *m_hint;
+    Shelf *m_shelf;
     QMenu *m_viewMenu = nullptr;
     QWidget *m_middle = nullptr; ///< all but the bar at the top and the dock
     QWidget *m_leftSlot = nullptr;

@@ -1,0 +1,178 @@
+#include "window/shelf.h"
+
+#include "core/workspace.h"
+#include "look/icons.h"
+#include "look/theme.h"
+#include "tools/toolsettings.h"
+#include "window/shelfbutton.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QActionGroup>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QMenu>
+
+namespace board {
+
+namespace {
+
+/// From the end of the dock to the first tool with a shelf.
+constexpr int startGap = 60;
+constexpr int sideGap = 6;
+constexpr int lineInset = 4;
+/// Strokes that stand for widths, the narrowest and the widest.
+constexpr double thinnest = 2;
+constexpr double thickest = 9;
+
+} // namespace
+
+Shelf::Shelf(const Workspace *workspace, const ToolChoice *tools, ToolSettings *settings, QWidget *view)
+    : QWidget(view)
+    , m_workspace(workspace)
+    , m_tools(tools)
+    , m_settings(settings)
+    , m_row(new QBoxLayout(QBoxLayout::TopToBottom, this))
+{
+    setObjectName(QStringLiteral("shelf"));
+    setAccessibleName(workspace->text("IDS_BOARD_SHELF"));
+    m_row->setContentsMargins(0, 0, 0, 0);
+    view->installEventFilter(this);
+    connect(tools, &ToolChoice::changed, this, &Shelf::rebuild);
+    connect(settings, &ToolSettings::changed, this, &Shelf::rebuild);
+    rebuild();
+}
+
+void Shelf::setEdge(Qt::Edge edge)
+{
+    m_edge = edge;
+    rebuild();
+}
+
+bool Shelf::isVertical() const
+{
+    return m_edge == Qt::LeftEdge || m_edge == Qt::RightEdge;
+}
+
+void Shelf::rebuild()
+{
+    const Tool tool = m_tools->tool();
+    if (m_content) {
+        // One of its buttons may be telling its choice just now.
+        m_content->hide();
+        m_content->deleteLater();
+        m_row->removeWidget(m_content);
+        m_content = nullptr;
+    }
+    const bool isNeeded = !m_settings->colors(tool).isEmpty() || !m_settings->widths(tool).isEmpty();
+    setVisible(isNeeded);
+    if (!isNeeded)
+        return;
+    m_content = new QWidget(this);
+    auto *column = new QBoxLayout(isVertical() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, m_content);
+    column->setContentsMargins(sideGap, sideGap, sideGap, sideGap);
+    column->setSpacing(smallGap);
+    addColors(tool);
+    if (!m_settings->colors(tool).isEmpty())
+        addLine();
+    addWidths(tool);
+    if (!m_settings->variants(tool).isEmpty()) {
+        addLine();
+        addVariants(tool);
+    }
+    m_row->addWidget(m_content);
+    m_content->show();
+    place();
+}
+
+void Shelf::addColors(Tool tool)
+{
+    const QVector<QColor> colors = m_settings->colors(tool);
+    for (const QColor &color : colors) {
+        auto *button = new ShelfButton(color, color.name(), m_content);
+        button->setChecked(color == m_settings->color(tool));
+        connect(button, &QToolButton::clicked, this, [this, tool, color] { m_settings->setColor(tool, color); });
+        m_content->layout()->addWidget(button);
+    }
+}
+
+void Shelf::addWidths(Tool tool)
+{
+    const QVector<double> widths = m_settings->widths(tool);
+    for (int i = 0; i < widths.size(); ++i) {
+        const double width = widths.at(i);
+        const double thickness = thinnest + (thickest - thinnest) * i / qMax(1, widths.size() - 1);
+        auto *button = new ShelfButton(thickness, m_workspace->text("IDS_BOARD_TOOL_WIDTH").arg(width), m_content);
+        button->setChecked(qFuzzyCompare(width, m_settings->width(tool)));
+        connect(button, &QToolButton::clicked, this, [this, tool, width] { m_settings->setWidth(tool, width); });
+        m_content->layout()->addWidget(button);
+    }
+}
+
+void Shelf::addVariants(Tool tool)
+{
+    auto *button = new QToolButton(m_content);
+    button->setIcon(icon(Icon::More));
+    button->setIconSize(QSize(barIconSide, barIconSide));
+    button->setFixedSize(shelfThickness - 2 * sideGap, shelfThickness - 2 * sideGap);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setToolTip(m_workspace->text("IDS_BOARD_MORE"));
+    button->setAccessibleName(button->toolTip());
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(button);
+    auto *group = new QActionGroup(menu);
+    const QVector<QString> variants = m_settings->variants(tool);
+    for (int i = 0; i < variants.size(); ++i) {
+        QAction *action =
+            menu->addAction(m_workspace->text(variants.at(i)), this, [=] { m_settings->setVariant(tool, i); });
+        action->setCheckable(true);
+        action->setChecked(i == m_settings->variant(tool));
+        group->addAction(action);
+    }
+    button->setMenu(menu);
+    m_content->layout()->addWidget(button);
+}
+
+void Shelf::addLine()
+{
+    auto *line = new QWidget(m_content);
+    const int length = shelfThickness - 2 * sideGap - 2 * lineInset;
+    line->setFixedSize(isVertical() ? length : 1, isVertical() ? 1 : length);
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::Mid);
+    m_content->layout()->addWidget(line);
+    m_content->layout()->setAlignment(line, Qt::AlignCenter);
+}
+
+/// As near to the tools as there is room.
+void Shelf::place()
+{
+    const QSize room = parentWidget()->size();
+    const QSize size = sizeHint();
+    const int length = isVertical() ? size.height() : size.width();
+    const int available = isVertical() ? room.height() : room.width();
+    const int start = qMax(0, qMin(startGap, available - length));
+    QPoint pos = isVertical() ? QPoint(0, start) : QPoint(start, 0);
+    if (m_edge == Qt::RightEdge)
+        pos.setX(room.width() - shelfThickness);
+    if (m_edge == Qt::BottomEdge)
+        pos.setY(room.height() - shelfThickness);
+    setGeometry(QRect(pos, isVertical() ? QSize(shelfThickness, length) : QSize(length, shelfThickness)));
+}
+
+bool Shelf::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize)
+        place();
+    return QWidget::eventFilter(watched, event);
+}
+
+void Shelf::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(themeColors().border);
+    painter.setBrush(themeColors().surface);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+}
+
+} // namespace board

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/toolchoice.h"
+
+#include <QtWidgets/QWidget>
+
+class QBoxLayout;
+
+namespace board {
+
+class ToolSettings;
+class Workspace;
+
+/// Colours, widths and variants of the tool in use, in the strip beside the dock. Hidden for tools that have none.
+class Shelf : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive this. Lies in the strip of `view` that is kept free for it.
+    Shelf(const Workspace *workspace, const ToolChoice *tools, ToolSettings *settings, QWidget *view);
+
+    /// Puts the shelf at an edge of the view.
+    void setEdge(Qt::Edge edge);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void rebuild();
+    void addColors(Tool tool);
+    void addWidths(Tool tool);
+    void addVariants(Tool tool);
+    void addLine();
+    void place();
+    bool isVertical() const;
+
+    const Workspace *m_workspace;
+    const ToolChoice *m_tools;
+    ToolSettings *m_settings;
+    QBoxLayout *m_row;
+    QWidget *m_content = nullptr; ///< null while there is nothing to choose
+    Qt::Edge m_edge = Qt::LeftEdge;
+};
+
+} // namespace board

@@ -1,0 +1,85 @@
+#include "window/shelfbutton.h"
+
+#include "look/theme.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+
+namespace board {
+
+namespace {
+
+constexpr int side = 28;
+constexpr double colorRadius = 9;
+constexpr double ringRadius = 13;
+constexpr double ringWidth = 2;
+
+} // namespace
+
+ShelfButton::ShelfButton(const QColor &color, const QString &name, QWidget *parent)
+    : QToolButton(parent)
+    , m_color(color)
+{
+    describe(name);
+}
+
+ShelfButton::ShelfButton(double thickness, const QString &name, QWidget *parent)
+    : QToolButton(parent)
+    , m_thickness(thickness)
+{
+    describe(name);
+}
+
+void ShelfButton::describe(const QString &name)
+{
+    setFixedSize(side, side);
+    setCheckable(true);
+    setFocusPolicy(Qt::TabFocus);
+    setToolTip(name);
+    setAccessibleName(name);
+}
+
+void ShelfButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ThemeColors colors = themeColors();
+    if (hasFocus() || underMouse()) {
+        painter.setPen(hasFocus() ? QPen(colors.accent, ringWidth) : QPen(Qt::NoPen));
+        painter.setBrush(underMouse() ? colors.hover : QColor(Qt::transparent));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
+    }
+    m_color.isValid() ? paintColor(&painter) : paintStroke(&painter);
+}
+
+void ShelfButton::paintColor(QPainter *painter) const
+{
+    const QPointF middle = QRectF(rect()).center();
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(m_color);
+    painter->drawEllipse(middle, colorRadius, colorRadius);
+    if (!isChecked())
+        return;
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(themeColors().accent, ringWidth));
+    painter->drawEllipse(middle, ringRadius, ringRadius);
+}
+
+void ShelfButton::paintStroke(QPainter *painter) const
+{
+    const ThemeColors colors = themeColors();
+    if (isChecked()) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(colors.soft);
+        painter->drawRoundedRect(rect(), buttonRadius, buttonRadius);
+    }
+    QPainterPath wave(QPointF(7, 17));
+    wave.cubicTo(11, 6, 14, 10, 14, 14);
+    wave.cubicTo(14, 18, 17, 22, 21, 11);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(
+        QPen(isChecked() ? colors.accent : colors.text, m_thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(wave);
+}
+
+} // namespace board

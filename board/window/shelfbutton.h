@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtGui/QColor>
+#include <QtWidgets/QToolButton>
+
+namespace board {
+
+/// A colour, or a width as a stroke, to choose from.
+class ShelfButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    ShelfButton(const QColor &color, const QString &name, QWidget *parent);
+    /// `thickness` of the stroke that is shown, logical pixels.
+    ShelfButton(double thickness, const QString &name, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void describe(const QString &name);
+    void paintColor(QPainter *painter) const;
+    void paintStroke(QPainter *painter) const;
+
+    QColor m_color; ///< invalid for a width
+    double m_thickness = 0;
+};
+
+} // namespace board

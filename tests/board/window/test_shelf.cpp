@@ -1,0 +1,124 @@
+// Colours and widths of the tool in use, beside the dock.
+
+#include <board/boarddriver.h>
+
+#include <core/toolchoice.h>
+#include <page/pageview.h>
+#include <tools/toolsettings.h>
+#include <window/mainwindow.h>
+#include <window/shelf.h>
+#include <window/shelfbutton.h>
+
+#include <QtCore/QSettings>
+#include <QtTest/QtTest>
+#include <QtWidgets/QMenu>
+
+using namespace boardtest;
+using board::Tool;
+
+class TestShelf : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void shelfIsThereForToolsWithSomethingToChoose();
+    void pressOnAColourGivesItToThePen();
+    void pressOnAWidthGivesItToThePen();
+    void variantsOfTheEraserAreInItsMenu();
+    void shelfCoversNoPartOfThePage_data();
+    void shelfCoversNoPartOfThePage();
+};
+
+namespace {
+
+board::Shelf *shelf(const BoardDriver &board)
+{
+    return board.window().findChild<board::Shelf *>();
+}
+
+board::ShelfButton *button(const BoardDriver &board, const QString &name)
+{
+    for (board::ShelfButton *candidate : shelf(board)->findChildren<board::ShelfButton *>())
+        if (candidate->accessibleName() == name && candidate->isVisible())
+            return candidate;
+    return nullptr;
+}
+
+} // namespace
+
+void TestShelf::init()
+{
+    useOwnFolders();
+    QSettings().clear();
+}
+
+void TestShelf::shelfIsThereForToolsWithSomethingToChoose()
+{
+    BoardDriver board;
+    QVERIFY(!shelf(board)->isVisible());
+    board.key(Qt::Key_P);
+    QVERIFY(shelf(board)->isVisible());
+    QVERIFY(button(board, "#1f2630")->isChecked());
+    QVERIFY(button(board, "Width 4")->isChecked());
+    board.key(Qt::Key_V);
+    QVERIFY(!shelf(board)->isVisible());
+}
+
+void TestShelf::pressOnAColourGivesItToThePen()
+{
+    BoardDriver board;
+    board.key(Qt::Key_P);
+    QTest::mouseClick(button(board, "#c9252d"), Qt::LeftButton);
+    QCOMPARE(board.window().toolSettings()->color(Tool::Pen), QColor(0xc9, 0x25, 0x2d));
+    QVERIFY(button(board, "#c9252d")->isChecked());
+    QVERIFY(!button(board, "#1f2630")->isChecked());
+}
+
+void TestShelf::pressOnAWidthGivesItToThePen()
+{
+    BoardDriver board;
+    board.key(Qt::Key_P);
+    QTest::mouseClick(button(board, "Width 14"), Qt::LeftButton);
+    QCOMPARE(board.window().toolSettings()->width(Tool::Pen), 14.0);
+    QVERIFY(button(board, "Width 14")->isChecked());
+    QVERIFY(!button(board, "Width 4")->isChecked());
+}
+
+void TestShelf::variantsOfTheEraserAreInItsMenu()
+{
+    BoardDriver board;
+    board.key(Qt::Key_E);
+    QMenu *menu = nullptr;
+    for (const QToolButton *candidate : shelf(board)->findChildren<QToolButton *>())
+        if (candidate->menu() && candidate->isVisible())
+            menu = candidate->menu();
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().size(), 2);
+    QVERIFY(menu->actions().first()->isChecked());
+    menu->actions().last()->trigger();
+    QCOMPARE(board.window().toolSettings()->variant(Tool::Eraser), 1);
+}
+
+void TestShelf::shelfCoversNoPartOfThePage_data()
+{
+    QTest::addColumn<Qt::Edge>("edge");
+    QTest::newRow("left") << Qt::LeftEdge;
+    QTest::newRow("right") << Qt::RightEdge;
+    QTest::newRow("top") << Qt::TopEdge;
+    QTest::newRow("bottom") << Qt::BottomEdge;
+}
+
+void TestShelf::shelfCoversNoPartOfThePage()
+{
+    QFETCH(Qt::Edge, edge);
+    BoardDriver board;
+    board.window().setDockEdge(edge);
+    board.key(Qt::Key_P);
+    QCoreApplication::processEvents();
+    QVERIFY(!shelf(board)->geometry().intersects(board.view().viewport()->geometry()));
+    QVERIFY(board.view().rect().contains(shelf(board)->geometry()));
+}
+
+QTEST_MAIN(TestShelf)
+#include "test_shelf.moc"
