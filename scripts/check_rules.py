@@ -84,6 +84,11 @@ COMPONENTS = [
         prefixes=("ink/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
     ),
+    Component(
+        ["shapes/text"],
+        prefixes=("text/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
+        headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
+    ),
     Component(["shapes"], prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"), own=("shapes",)),
     Component(
         ["tools/checklist", "tools/shape"],

@@ -8,6 +8,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGraphicsView>
 
+#include <algorithm>
 #include <cmath>
 
 namespace board {
@@ -17,6 +18,8 @@ namespace {
 /// Room around the label, logical pixels.
 constexpr int margin = 3;
 constexpr int smallestFont = 6;
+/// Of the editor, logical pixels.
+constexpr int smallestWidth = 40;
 /// Of paper that dark letters are written on, and of the other one.
 constexpr int lightLetters = 170;
 const QString lightPaper = QStringLiteral("#ffffff");
@@ -46,10 +49,12 @@ QVector<EditableLabel> labelsOf(CBaseObject &object)
     return labels;
 }
 
-LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, QGraphicsView *view)
+LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool isNewObject, QGraphicsView *view)
     : QTextEdit(view->viewport())
     , m_object(object)
     , m_label(label)
+    , m_view(view)
+    , m_isNewObject(isNewObject)
 {
     const double zoom = std::hypot(view->transform().m11(), view->transform().m12());
     QFont font(QStringLiteral("sans-serif"));
@@ -70,15 +75,44 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, QGraph
     setPlainText(label.text);
     selectAll();
 
-    // A label of a turned object is written upright, about its middle.
-    const QPoint middle = view->mapFromScene(object->mapToScene(label.box.center()));
-    const QSize size = (label.box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
-    QRect place(QPoint(), size.expandedTo({40, font.pixelSize() + 2 * margin + 4}));
-    place.moveCenter(middle);
-    setGeometry(place);
-    connect(this, &QTextEdit::textChanged, this, [this] { type(toPlainText(), true); });
+    takePlace();
+    connect(this, &QTextEdit::textChanged, this, [this] {
+        type(toPlainText(), true);
+        followLabel();
+    });
     show();
     setFocus();
+}
+
+/// A label of a turned object is written upright, about its middle.
+void LabelEditor::takePlace()
+{
+    const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
+    const QPoint middle = m_view->mapFromScene(m_object->mapToScene(m_label.box.center()));
+    const QSize size = (m_label.box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
+    QRect place(QPoint(), size.expandedTo({smallestWidth, font().pixelSize() + 2 * margin + 4}));
+    place.moveCenter(middle);
+    setGeometry(place);
+}
+
+/// The box of a text that is as large as its letters grows with them. A letter more than there are has room, so
+/// that no line is broken where the label doesn't break it.
+void LabelEditor::followLabel()
+{
+    if (!m_object || m_isFinished)
+        return;
+    const QVector<EditableLabel> labels = labelsOf(*m_object);
+    const auto present = std::find_if(labels.begin(), labels.end(), [this](const EditableLabel &label) {
+        return label.propertyId == m_label.propertyId;
+    });
+    if (present == labels.end() || present->box.size() == m_label.box.size())
+        return;
+    const bool isWider = present->box.width() != m_label.box.width();
+    m_label.box = present->box;
+    if (isWider)
+        m_label.box.setWidth(m_label.box.width() + m_label.fontSize);
+    takePlace();
+    m_label.box = present->box;
 }
 
 void LabelEditor::type(const QString &text, bool record)
@@ -96,7 +130,8 @@ void LabelEditor::finish()
     if (m_isFinished)
         return;
     const QString text = toPlainText();
-    if (m_object && text != m_label.text) {
+    const bool makesStep = m_object && !m_isNewObject && text != m_label.text;
+    if (makesStep) {
         type(m_label.text, false);
         QByteArray bytes;
         QDataStream out(&bytes, QIODevice::WriteOnly);
@@ -107,6 +142,7 @@ void LabelEditor::finish()
     m_isFinished = true;
     hide();
     deleteLater();
+    Q_EMIT finished(m_object, makesStep);
 }
 
 void LabelEditor::keyPressEvent(QKeyEvent *event)

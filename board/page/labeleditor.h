@@ -36,11 +36,16 @@ class LabelEditor : public QTextEdit
     Q_OBJECT
 
 public:
-    /// Covers the label in the view, with all of its text selected.
-    LabelEditor(CBaseObject *object, const EditableLabel &label, QGraphicsView *view);
+    /// Covers the label in the view, with all of its text selected. The text of a new object belongs to the step
+    /// that has added it, and makes none.
+    LabelEditor(CBaseObject *object, const EditableLabel &label, bool isNewObject, QGraphicsView *view);
 
     /// Makes the step and deletes the editor in the next turn of the event loop.
     void finish();
+
+Q_SIGNALS:
+    /// Null for an object that is gone. `madeStep` unless the text has stayed as it was.
+    void finished(CBaseObject *object, bool madeStep);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -48,9 +53,13 @@ protected:
 
 private:
     void type(const QString &text, bool record);
+    void takePlace();
+    void followLabel();
 
     QPointer<CBaseObject> m_object;
     EditableLabel m_label;
+    QGraphicsView *m_view;
+    bool m_isNewObject;
     bool m_isFinished = false;
 };
 

@@ -317,12 +317,12 @@ bool PageView::canWriteLabel() const
     return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.first()).isEmpty();
 }
 
-bool PageView::writeFirstLabel()
+bool PageView::writeFirstLabel(bool ofNewObject)
 {
     if (!canWriteLabel())
         return false;
     CBaseObject *object = m_page->selectedObjects().first();
-    write(object, labelsOf(*object).first());
+    write(object, labelsOf(*object).first(), ofNewObject);
     return true;
 }
 
@@ -332,10 +332,11 @@ void PageView::endWriting()
         m_labelEditor->finish();
 }
 
-void PageView::write(CBaseObject *object, const EditableLabel &label)
+void PageView::write(CBaseObject *object, const EditableLabel &label, bool isNewObject)
 {
     endWriting();
-    m_labelEditor = new LabelEditor(object, label, this);
+    m_labelEditor = new LabelEditor(object, label, isNewObject, this);
+    connect(m_labelEditor, &LabelEditor::finished, this, &PageView::writingEnded);
 }
 
 /// Of the drag that is going on. Only an object that is selected alone shows what it can be dragged at.

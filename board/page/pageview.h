@@ -69,11 +69,14 @@ public:
     /// Whether the only selected object has a label that can be written.
     bool canWriteLabel() const;
     /// Begins to write the first label of the only selected object. False where there is none.
-    bool writeFirstLabel();
+    bool writeFirstLabel(bool ofNewObject = false);
 
 Q_SIGNALS:
     /// page() is another one.
     void pageShown();
+    /// The user has ended writing a text of an object; null for one that is gone. `madeStep` unless the text has
+    /// stayed as it was.
+    void writingEnded(CBaseObject *object, bool madeStep);
     /// The Esc key was pressed while a tool waited.
     void toolGivenUp();
     void zoomChanged(double rate);
@@ -113,7 +116,7 @@ private:
     bool writeLabelAt(const QPoint &pos);
     bool usePen(QTabletEvent *event);
     CBaseObject *objectAt(const QPoint &pos) const;
-    void write(CBaseObject *object, const EditableLabel &label);
+    void write(CBaseObject *object, const EditableLabel &label, bool isNewObject = false);
     void endWriting();
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);

@@ -4,7 +4,14 @@
 #include "page/pageview.h"
 #include "tools/toolsettings.h"
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/cundoredo.h>
+
+#include <QtCore/QDataStream>
+#include <QtWidgets/QUndoStack>
 
 #include <optional>
 
@@ -31,6 +38,18 @@ std::optional<pagehost::ToolRole> roleOf(Tool tool)
     return std::nullopt;
 }
 
+bool vanishesEmpty(CBaseObject &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!object.GetSpecialProperty(pagehost::VanishesEmpty, out))
+        return false;
+    bool isEmpty = false;
+    QDataStream in(bytes);
+    in >> isEmpty;
+    return isEmpty;
+}
+
 } // namespace
 
 Toolbox::Toolbox(const Workspace *workspace, PageView *view, ToolChoice *choice, const ToolSettings *settings,
@@ -50,6 +69,7 @@ Toolbox::Toolbox(const Workspace *workspace, PageView *view, ToolChoice *choice,
     });
     connect(view, &PageView::pageShown, this, &Toolbox::takeUp);
     connect(view, &PageView::toolGivenUp, this, [this] { m_choice->choose(Tool::Select); });
+    connect(view, &PageView::writingEnded, this, &Toolbox::removeIfEmpty);
     connect(settings, &ToolSettings::changed, this, &Toolbox::applySettings);
     takeUp();
 }
@@ -104,10 +124,31 @@ void Toolbox::followUp()
     const std::optional<pagehost::ToolSession::Result> result = m_session->takeResult();
     if (!result || result->afterwards == pagehost::ToolPage::Stay)
         return;
-    const bool writes = result->afterwards == pagehost::ToolPage::Write;
     m_choice->finish();
-    if (writes)
-        m_view->writeFirstLabel();
+    if (result->afterwards != pagehost::ToolPage::Write || !m_view->writeFirstLabel(true))
+        return;
+    m_new = result->objects.value(0);
+}
+
+/// A new object leaves no trace. Another one comes back with its text when its removal is undone.
+void Toolbox::removeIfEmpty(CBaseObject *object, bool madeStep)
+{
+    const bool isNew = object && object == m_new;
+    m_new = nullptr;
+    if (!object || !vanishesEmpty(*object))
+        return;
+    QUndoStack *history = CUndoRedo::GetInstance()->stack();
+    if (isNew) {
+        // The stack drops an obsolete step instead of undoing it.
+        auto *creation = const_cast<QUndoCommand *>(history->command(history->index() - 1));
+        creation->undo();
+        creation->setObsolete(true);
+        history->undo();
+        return;
+    }
+    if (madeStep)
+        history->undo();
+    pagehost::removeObjects(m_view->page(), {object});
 }
 
 } // namespace board

@@ -34,6 +34,7 @@ private:
     void putDown();
     void applySettings();
     void followUp();
+    void removeIfEmpty(CBaseObject *object, bool madeStep);
 
     const Workspace *m_workspace;
     PageView *m_view;
@@ -43,6 +44,7 @@ private:
     Tool m_inHand = Tool::Select;          ///< the tool that m_tool is
     std::unique_ptr<pagehost::ToolSession> m_session;
     std::unique_ptr<pagehost::PageTool> m_tool; ///< null while no tool of a plug-in is chosen
+    QPointer<CBaseObject> m_new;                ///< its text is being written for the first time
 };
 
 } // namespace board

@@ -72,6 +72,7 @@ constexpr KnownShape knownShapes[] = {
     {"spring", 37, 1, "Spring", "Feder", "Science"},
     {"gears", 38, 0, "Gears", "Zahnräder", "Science"},
     {"ink", 41, 0, "Stroke", "Strich", ""},
+    {"text", 42, 0, "Text", "Text", ""},
     {"table", 1000, 1, "Table", "Tabelle", "Basic shapes"},
 };
 
@@ -186,12 +187,15 @@ void TestPlugins::newObjectIsBeingCreated()
     QFETCH(int, type);
     QFETCH(int, controlPoints);
     const ShapeDriver shape(QString::fromLatin1(QTest::currentDataTag()));
-    const bool hasPen = QLatin1String(QTest::currentDataTag()) != QLatin1String("picture");
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const bool hasPen = name != QLatin1String("picture");
+    const bool hasLines = hasPen && name != QLatin1String("text");
     QVERIFY(!shape.object().isCreateFinished());
     QCOMPARE(shape.core().getSVGType(), type);
     QCOMPARE(shape.controlPointCount(), controlPoints);
-    for (const int property : {PROP_SVG_PENCOLOR, PROP_SVG_PENSTYLE, PROP_SVG_PENWIDTH})
-        QCOMPARE(shape.object().getAttributeIds().count(property), hasPen ? 1 : 0);
+    QCOMPARE(shape.object().getAttributeIds().count(PROP_SVG_PENCOLOR), hasPen ? 1 : 0);
+    for (const int property : {PROP_SVG_PENSTYLE, PROP_SVG_PENWIDTH})
+        QCOMPARE(shape.object().getAttributeIds().count(property), hasLines ? 1 : 0);
 }
 
 void TestPlugins::coreIsMadeForItsOwnTypeOnly_data()

@@ -165,6 +165,7 @@ void TestWriting::aDoubleClickMakesTwoDots()
 {
     Desk desk;
     desk.doubleClick({500, 300});
+    desk.release({500, 300});
     QCOMPARE(desk.page().objectCount(), 2);
 }
 

@@ -1,6 +1,6 @@
 // Rubbing out strokes, whole or in parts. The eraser is 20 wide.
 
-#include "shapes/ink/writingdesk.h"
+#include "shapes/writingdesk.h"
 
 using pagehost::ToolRole;
 

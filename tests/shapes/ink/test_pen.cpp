@@ -1,6 +1,6 @@
 // Strokes of pen and highlighter. Their pen is 5 wide, so that 4 units of room are around the points.
 
-#include "shapes/ink/writingdesk.h"
+#include "shapes/writingdesk.h"
 
 using pagehost::ToolPointer;
 using pagehost::ToolRole;

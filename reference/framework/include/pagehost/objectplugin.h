@@ -73,7 +73,10 @@ enum SpecialProperty {
     /// that is asked for, without an undo step: at the end the host puts the first text back in this way, and sets
     /// the
     /// property to the last one.
-    LabelText = 2909
+    LabelText = 2909,
+    /// bool, read only: whether nothing of the object is to be seen, so that it leaves the page when the user has
+    /// ended writing it. Objects without such texts lack the property.
+    VanishesEmpty = 2910
 };
 
 /// Texts by localisation key.

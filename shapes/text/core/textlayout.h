@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+namespace text {
+
+enum class Alignment { Left, Middle, Right };
+
+/// Everything that decides how a text looks but its colour. Document units.
+struct TextLook
+{
+    QString text;
+    double fontSize = 24;
+    bool isBold = false;
+    bool isItalic = false;
+    Alignment alignment = Alignment::Left;
+    double wrapWidth = 0; ///< lines are broken to that width; 0 for no breaks but the text's own
+};
+
+/// A line of the text, with the end or the middle of its baseline that the alignment leaves in place.
+struct TextLine
+{
+    QString text;
+    QPointF anchor;
+};
+
+struct TextLayout
+{
+    QVector<TextLine> lines;
+    QSizeF size; ///< of the box, which has room for a cursor even without a letter
+};
+
+TextLayout layOut(const TextLook &look);
+
+} // namespace text
