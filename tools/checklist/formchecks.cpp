@@ -121,6 +121,7 @@ void smallestSizeCanBeDrawnAndLeft(const Subject &subject, Report &report)
     shape.select();
     const QSizeF size = shape.object().getClientRect().size();
     const QString before = shape.geometry();
+    const int penWidth = shape.core().getPenWidth();
     shape.object().setSize(QSizeF(1, 1), false, true);
     const QRectF frame = shape.object().getClientRect();
     report.expect(frame.width() >= 1 && frame.height() >= 1 && frame.width() < size.width() &&
@@ -132,9 +133,9 @@ void smallestSizeCanBeDrawnAndLeft(const Subject &subject, Report &report)
     for (int number = 1; number <= shape.controlPointCount(); ++number)
         report.expect(box.contains(shape.controlPoint(number).center()),
                       QStringLiteral("control_%1 leaves the smallest size").arg(number));
-    shape.core().setPenWidth(2, false);
+    shape.core().setPenWidth(penWidth, false);
     shape.object().setSize(size, false, true);
-    shape.core().setPenWidth(2, false);
+    shape.core().setPenWidth(penWidth, false);
     report.expect(shape.object().getClientRect().size() != size || shape.geometry() == before,
                   QStringLiteral("after its smallest size it has another form"));
 }

@@ -72,7 +72,11 @@ private Q_SLOTS:
     void newProjectHasATemplateWithoutFaults();
     void badNamesAreRefused_data();
     void badNamesAreRefused();
+    void examplesKeepEveryPromise_data();
+    void examplesKeepEveryPromise();
     void iconsBecomeShapes();
+    void everyIconOfAFolderPaints();
+    void idsOfIconsMeanNothing();
     void iconOfOneColourTakesThePen();
     void iconThatIsNoSvgIsLeftOut();
     void previewDrawsAPicture();
@@ -261,6 +265,61 @@ void TestShapeTool::badNamesAreRefused()
     const QString folder = path(QStringLiteral("names"));
     QCOMPARE(run({QStringLiteral("new"), name, QStringLiteral("--dir"), folder}).exitCode, 2);
     QVERIFY(!QDir(folder).exists());
+}
+
+void TestShapeTool::examplesKeepEveryPromise_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"nut", "speechcloud", "barchart", "spiral", "trafficlight"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+/// Shapes as authors make them, without C++.
+void TestShapeTool::examplesKeepEveryPromise()
+{
+    QFETCH(QString, name);
+    const QString file = QStringLiteral(EXAMPLE_FOLDER "/%1.shape.svg").arg(name);
+    QVERIFY(read(file).count('\n') <= 60);
+    const Run lint = run({QStringLiteral("lint"), file});
+    QCOMPARE(lint.output, QString());
+    QCOMPARE(lint.exitCode, 0);
+    const Run check = run({QStringLiteral("check"), file});
+    QCOMPARE(check.output, QString());
+    QCOMPARE(check.exitCode, 0);
+}
+
+void TestShapeTool::everyIconOfAFolderPaints()
+{
+    constexpr int count = 40;
+    QDir().mkpath(path(QStringLiteral("many")));
+    for (int i = 0; i < count; ++i) {
+        const QByteArray style = i % 2 ? "fill='currentColor'" : "fill='none' stroke='#123456' stroke-width='3'";
+        write(path(QStringLiteral("many/icon%1.svg").arg(i)),
+              "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24' " + style + "><path d='M3 " +
+                  QByteArray::number(3 + i % 12) + "H21V21H3Z'/></svg>");
+    }
+    const Run imported =
+        run({QStringLiteral("import"), path(QStringLiteral("many")), QStringLiteral("--group"),
+             QStringLiteral("Many"), QStringLiteral("--into"), path(QStringLiteral("manyshapes"))});
+    QCOMPARE(imported.output, QStringLiteral("40 of 40 icons became shapes\n"));
+    const Run check = run({QStringLiteral("check"), QStringLiteral("--only"), QStringLiteral("icon"),
+                           path(QStringLiteral("manyshapes"))});
+    QCOMPARE(check.output, QString());
+    QCOMPARE(check.exitCode, 0);
+}
+
+void TestShapeTool::idsOfIconsMeanNothing()
+{
+    QDir().mkpath(path(QStringLiteral("ids")));
+    write(path(QStringLiteral("ids/icon.svg")),
+          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'><text id='label_1' x='2' y='20'>A</text>"
+          "<rect id='control_1' width='9' height='9'/><rect id='figure' x='12' width='9' height='9'/></svg>");
+    const Run imported = run({QStringLiteral("import"), path(QStringLiteral("ids")), QStringLiteral("--group"),
+                              QStringLiteral("G"), QStringLiteral("--into"), path(QStringLiteral("idshapes"))});
+    QCOMPARE(imported.output, QStringLiteral("1 of 1 icons became shapes\n"));
+    const QByteArray shape = read(path(QStringLiteral("idshapes/icon.shape.svg")));
+    for (const char *id : {"drawn_label_1", "drawn_control_1", "drawn_figure"})
+        QVERIFY2(shape.contains(QByteArray("id=\"") + id + '"'), id);
 }
 
 void TestShapeTool::iconsBecomeShapes()
