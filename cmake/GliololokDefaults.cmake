@@ -36,6 +36,15 @@ if(GLIOLOLOK_SANITIZE)
     add_link_options(-fsanitize=${GLIOLOLOK_SANITIZE})
 endif()
 
+# gliololok_symbol_versions(<target> <NAME>): exported symbols get the version NAME_<major>, so that a program that was
+# linked to this library never takes those of another one of another major version.
+function(gliololok_symbol_versions target name)
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}.map")
+    file(CONFIGURE OUTPUT "${script}" CONTENT "${name}_${PROJECT_VERSION_MAJOR} {\n    global: *;\n};\n")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS "${script}")
+endfunction()
+
 # gliololok_own_code(<target> [PCH_FROM <other>]): our warnings for our own code, and a precompiled header, its own or that
 # of another target of the same kind (compiling one takes longer than most of our files).
 function(gliololok_own_code target)

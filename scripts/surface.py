@@ -21,6 +21,8 @@ CLASSES = ["CSVGBase", "CSVGObj", "CSVGBaseUndoCmd", "CSVGAnimate"]
 HEADERS = ["csvgobj", "csvgbase", "csvgpropitem", "csvgbaseundocmd", "csvganimate"]
 # Weak symbols are copies of inline code, which users of the headers compile themselves.
 WEAK_KINDS = set("WwVvu")
+# The name of the version of all symbols.
+VERSION_KINDS = set("A")
 LINKER_SYMBOLS = {"__bss_start", "_edata", "_end", "_init", "_fini"}
 NOTE = "# Written by scripts/surface.py update BUILD-DIRECTORY; see there.\n"
 
@@ -32,8 +34,8 @@ def output_of(*command, text=None):
 def exported_symbols(library):
     names = set()
     for line in output_of("nm", "-DC", "--defined-only", library).splitlines():
-        match = re.match(r"^[0-9a-f]+ (\w) (.*)$", line)
-        if match and match.group(1) not in WEAK_KINDS and match.group(2) not in LINKER_SYMBOLS:
+        match = re.match(r"^[0-9a-f]+ (\w) (.*?)(?:@@\w+)?$", line)
+        if match and match.group(1) not in WEAK_KINDS | VERSION_KINDS and match.group(2) not in LINKER_SYMBOLS:
             names.add(match.group(2))
     return sorted(names)
 

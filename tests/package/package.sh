@@ -47,6 +47,34 @@ step_soname() {
     [ "$soname" = libgliololok-shapekit.so.1 ] || fail "the soname of the kit is '$soname'"
 }
 
+# versions_of LIBRARY: the versions of its exported symbols, but for the one that names the version itself.
+versions_of() {
+    objdump -T "$1" | awk '/\*UND\*/ {next} /^[0-9a-f]+ [gwu]/ && !/\*ABS\*/ {print $(NF-1)}' | tr -d '()' | sort -u
+}
+
+step_symbol_versions() {
+    local pair versions
+    for pair in gliololok:GLIOLOLOK_1 libframework:FRAMEWORK_1 libsvgbase:SVGBASE_1 libgliololok-shapekit:SHAPEKIT_1; do
+        versions=$(versions_of "$libraries/${pair%:*}.so.1")
+        [ "$versions" = "${pair#*:}" ] || fail "symbols of ${pair%:*} have the versions: $versions"
+    done
+}
+
+# Flags that every linker and compiler knows. Qt's headers ask for -fPIC.
+step_pkgconfig_flags() {
+    local package flag
+    for package in gliololok gliololok-shapekit; do
+        for flag in $(package_flags --cflags --libs "$package"); do
+            case $flag in
+            -l:*) fail "$package names a library by its file: $flag" ;;
+            -l* | -L/* | -I/* | -D* | -fPIC) ;;
+            *) fail "$package has the flag $flag" ;;
+            esac
+        done
+    done
+    [ "$(readlink "$libraries/libgliololok.so")" = gliololok.so.1 ] || fail "libgliololok.so is no link to the library"
+}
+
 # compile_alone COMPILER FLAGS: each header named in the input compiles by itself, without a warning.
 compile_alone() {
     local compiler=$1 flags=$2
