@@ -63,13 +63,20 @@ MenuPlan pagePlan()
             Command::NextPage,     Command::FirstPage,     Command::LastPage};
 }
 
+MenuEntry colorMenu()
+{
+    return {"IDS_TOOL_COLOR_AND_WIDTH",
+            {Command::Color1, Command::Color2, Command::Color3, Command::Color4, Command::Color5, Command::Color6,
+             separator(), Command::Wider, Command::Narrower}};
+}
+
 MenuPlan toolPlan()
 {
-    return {Command::SelectTool,    separator(),      Command::PenTool,  Command::HighlighterTool,
-            Command::EraserTool,    separator(),      Command::TextTool, Command::LineTool,
-            Command::ConnectorTool, separator(),      Command::Shapes,   Command::InsertAnything,
-            Command::Rectangle,     Command::Ellipse, Command::Arrow,    separator(),
-            Command::LaserTool,     Command::KeepTool};
+    return {Command::SelectTool,    separator(),       Command::PenTool,  Command::HighlighterTool,
+            Command::EraserTool,    separator(),       Command::TextTool, Command::LineTool,
+            Command::ConnectorTool, separator(),       Command::Shapes,   Command::InsertAnything,
+            Command::Rectangle,     Command::Ellipse,  Command::Arrow,    separator(),
+            Command::LaserTool,     Command::KeepTool, colorMenu()};
 }
 
 MenuPlan lessonPlan()

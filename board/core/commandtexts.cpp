@@ -88,6 +88,15 @@ QVector<TextEntry> commandTexts()
         {"IDS_BOARD_TIME_OF_DAY", QT_TRANSLATE_NOOP("board", "time of day")},
         {"IDS_BOARD_END_WITH_KEY", QT_TRANSLATE_NOOP("board", "End (Esc)")},
         {"IDS_BOARD_ON_OTHER_SCREEN", QT_TRANSLATE_NOOP("board", "Presenting on the other screen")},
+        {"IDS_TOOL_COLOR_1", QT_TRANSLATE_NOOP("board", "Colour 1 of the tool")},
+        {"IDS_TOOL_COLOR_2", QT_TRANSLATE_NOOP("board", "Colour 2 of the tool")},
+        {"IDS_TOOL_COLOR_3", QT_TRANSLATE_NOOP("board", "Colour 3 of the tool")},
+        {"IDS_TOOL_COLOR_4", QT_TRANSLATE_NOOP("board", "Colour 4 of the tool")},
+        {"IDS_TOOL_COLOR_5", QT_TRANSLATE_NOOP("board", "Colour 5 of the tool")},
+        {"IDS_TOOL_COLOR_6", QT_TRANSLATE_NOOP("board", "Colour 6 of the tool")},
+        {"IDS_TOOL_WIDER", QT_TRANSLATE_NOOP("board", "Wider")},
+        {"IDS_TOOL_NARROWER", QT_TRANSLATE_NOOP("board", "Narrower")},
+        {"IDS_TOOL_COLOR_AND_WIDTH", QT_TRANSLATE_NOOP("board", "Colour and width")},
     };
 }
 

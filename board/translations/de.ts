@@ -980,6 +980,42 @@
         <translation>Vorführung auf dem anderen Bildschirm</translation>
     </message>
     <message>
+        <source>Colour 1 of the tool</source>
+        <translation>Farbe 1 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Colour 2 of the tool</source>
+        <translation>Farbe 2 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Colour 3 of the tool</source>
+        <translation>Farbe 3 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Colour 4 of the tool</source>
+        <translation>Farbe 4 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Colour 5 of the tool</source>
+        <translation>Farbe 5 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Colour 6 of the tool</source>
+        <translation>Farbe 6 des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>Breiter</translation>
+    </message>
+    <message>
+        <source>Narrower</source>
+        <translation>Schmaler</translation>
+    </message>
+    <message>
+        <source>Colour and width</source>
+        <translation>Farbe und Breite</translation>
+    </message>
+    <message>
         <source>Present from page 1</source>
         <translation>Von Seite 1 an vorführen</translation>
     </message>

@@ -5,6 +5,7 @@
 #include "commands/contextmenus.h"
 #include "commands/helpcommands.h"
 #include "commands/menuplan.h"
+#include "commands/shapecommands.h"
 #include "core/actions.h"
 #include "core/commands.h"
 #include "core/notices.h"
@@ -32,6 +33,7 @@
 #include "panels/settings/settingspanel.h"
 #include "presenting/presentation.h"
 #include "tools/toolbox.h"
+#include "tools/toolkeys.h"
 #include "tools/toolsettings.h"
 #include "window/dock.h"
 #include "window/dockbutton.h"
@@ -126,10 +128,13 @@ MainWindow::MainWindow(Workspace *workspace)
     new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
     new FieldUndo(this);
     new ToolCommands(m_commands, m_tools, this);
+    new ToolKeys(m_commands, m_tools, m_toolSettings, this);
     auto *contextMenus = new ContextMenus(m_workspace, m_commands, m_view, this);
     contextMenus->addThumbnails(m_pages->list());
     const auto *help = new HelpCommands(m_workspace, m_commands, this);
     connect(help, &HelpCommands::kindChosen, this, &MainWindow::beginCreation);
+    const auto *shapes = new ShapeCommands(m_workspace, m_commands, this);
+    connect(shapes, &ShapeCommands::kindChosen, this, &MainWindow::beginCreation);
     new ShapeNotices(m_workspace, m_notices, this);
     showPluginProblems();
     showTitle();
