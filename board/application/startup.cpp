@@ -4,6 +4,7 @@
 #include "application/demopages.h"
 #include "application/screenshot.h"
 #include "core/pluginfolders.h"
+#include "core/toolchoice.h"
 #include "core/windowmemory.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
@@ -14,7 +15,9 @@
 #include "output/pageexport.h"
 #include "presenting/presentation.h"
 #include "window/mainwindow.h"
+#include "window/shapefolder.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QLocale>
@@ -123,6 +126,8 @@ int openWindow(Workspace &workspace, const Options &options)
     window.show();
     if (!options.file.isEmpty())
         window.documents()->openNow(options.file);
+    else if (!options.demo)
+        window.tools()->choose(Tool::Pen);
     window.recovery()->offer();
     if (options.play)
         window.lessons()->playOrPause();
@@ -163,6 +168,8 @@ int runBoard(int argc, char **argv)
 
     Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
     workspace.registry().addFolders(options.shapeFolders);
+    // Only folders that are there can be watched.
+    QDir().mkpath(userShapeFolder());
     // Before Qt speaks the user's language: problems are told in English throughout.
     workspace.loadPlugins(defaultPluginFolders() + options.pluginFolders);
     printProblems(workspace);

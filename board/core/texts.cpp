@@ -117,9 +117,9 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_ROTATION", QT_TRANSLATE_NOOP("board", "Rotation")},
     {"IDS_BOARD_BACKGROUND", QT_TRANSLATE_NOOP("board", "Background")},
 
-    {"IDS_BOARD_HINT_TITLE", QT_TRANSLATE_NOOP("board", "Draw your first shape")},
+    {"IDS_BOARD_HINT_TITLE", QT_TRANSLATE_NOOP("board", "Start writing")},
     {"IDS_BOARD_HINT_ADVICE",
-     QT_TRANSLATE_NOOP("board", "Pick one on the left, then drag on the page, or drag it here.")},
+     QT_TRANSLATE_NOOP("board", "or press T to type, S for shapes, Ctrl+K to find anything")},
     {"IDS_BOARD_HINT_DRAW", QT_TRANSLATE_NOOP("board", "%1: drag to draw. Esc ends.")},
 
     {"IDS_BOARD_PLUGIN_PROBLEMS", QT_TRANSLATE_NOOP("board", "Plug-ins that could not be loaded")},

@@ -13,25 +13,24 @@ constexpr QRgb titleColor = 0xff5c6773;
 constexpr QRgb adviceColor = 0xff7f8a96;
 constexpr int smallestHeight = 170;
 constexpr int smallestWidth = 280;
-constexpr double figureWidth = 96;
-constexpr double figureHeight = 60;
+constexpr double figureWidth = 146;
+constexpr double figureHeight = 52;
+constexpr double figurePen = 3;
 constexpr int titlePointSize = 15;
 constexpr int lineGap = 10;
 
-/// A dashed frame being drawn from corner to corner by a pointer.
+/// A line as a pen draws it.
 void paintFigure(QPainter *painter, const QPointF &topLeft)
 {
-    const QRectF frame(topLeft, QSizeF(figureWidth, figureHeight));
+    QPainterPath line(QPointF(0, 30));
+    line.cubicTo(12, 8, 30, -8, 33, 10);
+    line.cubicTo(36, 32, 26, 51, 42, 51);
+    line.cubicTo(66, 51, 74, 0, 96, 1);
+    line.cubicTo(118, 2, 100, 46, 112, 46);
+    line.cubicTo(122, 46, 134, 34, 146, 26);
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(QColor(figureColor), 2, Qt::DashLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->drawRoundedRect(frame, 10, 10);
-    QPainterPath pointer;
-    pointer.addPolygon(QPolygonF({{0, 0}, {0, 19}, {5, 14.5}, {8.5, 22}, {11.5, 20.6}, {8.2, 13.4}, {14, 13}}));
-    pointer.closeSubpath();
-    pointer.translate(frame.bottomRight() - QPointF(3, 3));
-    painter->setPen(QPen(Qt::white, 2));
-    painter->setBrush(QColor(titleColor));
-    painter->drawPath(pointer);
+    painter->setPen(QPen(QColor(figureColor), figurePen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(line.translated(topLeft));
 }
 
 QFont titleFont(const QPainter *painter)

@@ -536,10 +536,16 @@ void PageView::paintShadow(QPainter *painter) const
     painter->restore();
 }
 
+/// Whoever has a second page has begun.
+bool PageView::isNewBoard() const
+{
+    return isEditable() && m_page->objectCount() == 0 && m_page->document() && m_page->document()->pageCount() == 1;
+}
+
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (m_isBare || !isEditable() || m_page->objectCount() > 0 || m_page->scene()->isBusy())
+    if (m_isBare || !isNewBoard() || m_page->scene()->isBusy())
         return;
     QPainter painter(viewport());
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);

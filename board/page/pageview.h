@@ -107,6 +107,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    bool isNewBoard() const;
     void acceptDrag(QDropEvent *event) const;
     bool wantsToPan(const QMouseEvent *event) const;
     void panTo(const QPoint &pos);

@@ -720,12 +720,12 @@
         <translation>Hintergrund</translation>
     </message>
     <message>
-        <source>Draw your first shape</source>
-        <translation>Die erste Form zeichnen</translation>
+        <source>Start writing</source>
+        <translation>Einfach losschreiben</translation>
     </message>
     <message>
-        <source>Pick one on the left, then drag on the page, or drag it here.</source>
-        <translation>Links eine auswählen und auf der Seite aufziehen oder hierher ziehen.</translation>
+        <source>or press T to type, S for shapes, Ctrl+K to find anything</source>
+        <translation>oder T zum Tippen, S für Formen, Strg+K zum Suchen</translation>
     </message>
     <message>
         <source>Plug-ins that could not be loaded</source>
@@ -1183,6 +1183,22 @@
     <message>
         <source>Width %1</source>
         <translation>Breite %1</translation>
+    </message>
+    <message>
+        <source>New shape…</source>
+        <translation>Neue Form…</translation>
+    </message>
+    <message>
+        <source>Name of the shape</source>
+        <translation>Name der Form</translation>
+    </message>
+    <message>
+        <source>Open folder of shapes</source>
+        <translation>Ordner der Formen öffnen</translation>
+    </message>
+    <message>
+        <source>The shape could not be written</source>
+        <translation>Die Form konnte nicht geschrieben werden</translation>
     </message>
 </context>
 </TS>

@@ -41,6 +41,7 @@
 #include "window/fieldundo.h"
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
+#include "window/shapefolder.h"
 #include "window/shapetool.h"
 #include "window/shelf.h"
 #include "window/sidepanel.h"
@@ -272,6 +273,7 @@ void MainWindow::addPanels()
     m_paletteDrawer = new Drawer(m_middle, m_leftSlot, paletteWidth, paletteInset, tallestPalette);
     m_paletteDrawer->setContent(m_palette);
     m_palette->setAccessibleName(m_workspace->text("IDS_BOARD_SHAPES"));
+    addShapeFolderActions(m_palette->menu(), m_workspace, this);
     m_paletteDrawer->setOpener(m_dock->buttonOf(Tool::Shape));
 }
 

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void zoomStepsGoUpAndDown();
     void spaceBarAndMouseDragThePage();
     void emptyPageSaysWhatToDo();
+    void laterPagesSayNothing();
     void aBackgroundThatCanBeSeenThroughLiesOnPaper_data();
     void aBackgroundThatCanBeSeenThroughLiesOnPaper();
     void aPatternChosenForAWhitePageIsSeen();
@@ -179,6 +180,17 @@ void TestView::emptyPageSaysWhatToDo()
     board.page().select({});
     support::deliverEvents();
     QVERIFY(!hasInk());
+}
+
+void TestView::laterPagesSayNothing()
+{
+    BoardDriver board;
+    board.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    support::deliverEvents();
+    const QRect page = board.view().mapFromScene(board.page().rect()).boundingRect().adjusted(4, 4, -4, -4);
+    QImage blank(page.size(), QImage::Format_RGB32);
+    blank.fill(Qt::white);
+    QCOMPARE(board.view().viewport()->grab(page).toImage().convertToFormat(blank.format()), blank);
 }
 
 void TestView::aBackgroundThatCanBeSeenThroughLiesOnPaper_data()

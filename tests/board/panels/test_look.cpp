@@ -19,6 +19,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QTimer>
 #include <QtTest/QtTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void fillColorWithAlpha();
     void fillTypes_data();
     void fillTypes();
+    void arrowKeyAfterTheChoiceOfAColourMovesTheShape();
     void gradientBackToTheSameColour();
     void pictureFillsTheShape();
     void panelShowsTheSelectedShape();
@@ -274,6 +276,21 @@ void TestLook::severalShapesAreOneStep()
     QCOMPARE(pagehost::styleOf(other).penColor, QColor(200, 10, 20));
     t.undo();
     QCOMPARE(pagehost::styleOf(other).penColor, before);
+}
+
+/// The panel doesn't scroll instead.
+void TestLook::arrowKeyAfterTheChoiceOfAColourMovesTheShape()
+{
+    StyledShape t;
+    t.board.view().setFocus();
+    auto *button = t.control<board::ColorButton>("Outline colour");
+    QTimer::singleShot(0, button, [] {
+        QTest::mouseClick(QApplication::activePopupWidget()->findChild<QToolButton *>(), Qt::LeftButton);
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(t.style().penColor, QColor(Qt::black));
+    QTest::keyClick(t.board.window().focusWidget(), Qt::Key_Right);
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(501, 300, 200, 120));
 }
 
 /// Two more shapes beside it that look otherwise, all three selected.

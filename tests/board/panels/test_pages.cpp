@@ -30,6 +30,7 @@ private Q_SLOTS:
     void addAndRemoveAPage();
     void lastPageStays();
     void clickOnAThumbnailTurnsToThatPage();
+    void escapeAfterAClickOnAThumbnailDeselects();
     void pageKeysTurnPages();
     void draggedThumbnailMovesThePage();
     void drawingGoesToTheCurrentPage();
@@ -113,6 +114,22 @@ void TestPages::clickOnAThumbnailTurnsToThatPage()
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                       list->visualItemRect(list->item(0)).center());
     QCOMPARE(board.view().page(), board.workspace().document()->page(0));
+}
+
+void TestPages::escapeAfterAClickOnAThumbnailDeselects()
+{
+    BoardDriver board;
+    board.key(Qt::Key_F12);
+    board.draw(rectangle, {500, 300}, {700, 420});
+    QCoreApplication::processEvents();
+    QListWidget *list = listOf(board);
+    QVERIFY(list->isVisible());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(0)).center());
+    QCOMPARE(board.selection().size(), 1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QCOMPARE(board.selection().size(), 0);
+    board.key(Qt::Key_F12);
 }
 
 void TestPages::pageKeysTurnPages()

@@ -1,0 +1,104 @@
+// The user's own shapes: making one from the palette, opening their folder.
+
+#include <board/boarddriver.h>
+
+#include <panels/palettebutton.h>
+#include <panels/palettepanel.h>
+#include <window/mainwindow.h>
+#include <window/shapefolder.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
+#include <QtTest/QtTest>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+
+using namespace boardtest;
+
+class TestShapeFolder : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void takeUrl(const QUrl &url) { m_opened.append(url.toLocalFile()); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void newShapeIsWrittenAndItsFolderOpened();
+    void newShapeIsInThePalette();
+    void secondShapeOfANameLeavesTheFirst();
+    void folderThatCannotBeWrittenIsTold();
+
+private:
+    QStringList m_opened;
+};
+
+void TestShapeFolder::init()
+{
+    useOwnFolders();
+    // The folder itself stays, since it is watched.
+    QDir folder(board::userShapeFolder());
+    folder.mkpath(".");
+    for (const QString &file : folder.entryList(QDir::Files))
+        folder.remove(file);
+    m_opened.clear();
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
+}
+
+void TestShapeFolder::cleanup()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+}
+
+void TestShapeFolder::newShapeIsWrittenAndItsFolderOpened()
+{
+    BoardDriver board;
+    board.window().palettePanel()->menu()->actions().first()->trigger();
+    auto *dialog = board.window().findChild<QInputDialog *>();
+    QVERIFY(dialog);
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(), "Small kite");
+    dialog->accept();
+    QVERIFY(QFile::exists(board::userShapeFolder() + "/smallkite.shape.svg"));
+    QCOMPARE(m_opened, QStringList{board::userShapeFolder()});
+}
+
+void TestShapeFolder::newShapeIsInThePalette()
+{
+    BoardDriver board;
+    const auto isThere = [&board] {
+        for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+            if (button->text() == "Small <kite>")
+                return true;
+        return false;
+    };
+    QVERIFY(!isThere());
+    QString problem;
+    QVERIFY2(!board::writeNewShape("Small <kite>", &problem).isEmpty(), qPrintable(problem));
+    QTRY_VERIFY(isThere());
+}
+
+void TestShapeFolder::secondShapeOfANameLeavesTheFirst()
+{
+    QString problem;
+    QCOMPARE(board::writeNewShape("Kite", &problem), board::userShapeFolder() + "/kite.shape.svg");
+    QCOMPARE(board::writeNewShape("KITE!", &problem), board::userShapeFolder() + "/kite2.shape.svg");
+    QCOMPARE(problem, QString());
+}
+
+void TestShapeFolder::folderThatCannotBeWrittenIsTold()
+{
+    QDir(board::userShapeFolder()).removeRecursively();
+    QFile inTheWay(board::userShapeFolder());
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    QString problem;
+    QCOMPARE(board::writeNewShape("Kite", &problem), QString());
+    QVERIFY(problem.contains("kite.shape.svg"));
+    QVERIFY(inTheWay.remove());
+}
+
+QTEST_MAIN(TestShapeFolder)
+#include "test_shapefolder.moc"
