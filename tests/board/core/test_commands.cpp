@@ -10,6 +10,7 @@
 
 #include <pagehost/page.h>
 
+#include <QtCore/QFile>
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void oneCommandIsReset();
     void allKeysAreReset();
     void settingsWithoutSenseGiveNoKeys();
+    void manualListsEveryKey();
 };
 
 void TestCommands::init()
@@ -339,6 +341,22 @@ void TestCommands::settingsWithoutSenseGiveNoKeys()
 {
     QSettings().setValue("keys/of/cut", QStringList{"no key at all", "", "F3"});
     QCOMPARE(Alone().commands.keys(Command::Cut), Keys{QKeySequence("F3")});
+}
+
+void TestCommands::manualListsEveryKey()
+{
+    QFile file(QStringLiteral(PROJECT_DIR "/docs/board.md"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    const Alone board;
+    for (const Command command : allCommands()) {
+        const QString keys = QString(board::factsOf(command).keys).replace(' ', ", ");
+        if (keys.isEmpty())
+            continue;
+        const QString line =
+            QStringLiteral("| %1 | %2 |").arg(board.commands.name(command).remove(QChar(0x2026)), keys);
+        QVERIFY2(lines.contains(line), qPrintable(line));
+    }
 }
 
 QTEST_MAIN(TestCommands)
