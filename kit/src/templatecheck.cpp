@@ -1,5 +1,6 @@
 #include <shapekit/templatecheck.h>
 
+#include <shapekit/attributeplaces.h>
 #include <shapekit/kind.h>
 #include <shapekit/place.h>
 #include <shapekit/suggestion.h>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace shapekit {
 
@@ -106,6 +108,7 @@ public:
         : m_text(text)
         , m_file(file)
         , m_places(text)
+        , m_attributes(text)
     {
         TagScanner scanner(m_text);
         for (RawTag tag; scanner.next(tag);)
@@ -117,8 +120,6 @@ private:
     void report(PluginMessage::Severity severity, const char *code, int offset, const QString &text);
     bool isReadable();
     void reportLibraryMessage(const QZeSvgTinyDocument::Message &message, const char *code);
-    int attributeOffset(const QZeSvgTinyDocument::Message &message) const;
-    RawTag tagBefore(qint64 line, qint64 column) const;
     void checkTag(const RawTag &tag);
     void checkNames(const RawTag &tag);
     void checkRoot(const RawTag &tag);
@@ -133,6 +134,7 @@ private:
     QString m_text;
     QString m_file;
     TextPlaces m_places;
+    AttributePlaces m_attributes;
     QVector<RawTag> m_tags;
     QString m_element; ///< id of the element that is being checked
     QSet<QString> m_ids;
@@ -184,40 +186,11 @@ void TemplateCheck::reportLibraryMessage(const QZeSvgTinyDocument::Message &mess
     const bool isError = message.severity == QZeSvgTinyDocument::Message::Error;
     m_messages.append({isError ? PluginMessage::Error : PluginMessage::Warning, QLatin1String(code), m_file,
                        message.line, message.column, message.elementId, message.text});
-    const int offset = isError ? -1 : attributeOffset(message);
-    if (offset < 0)
+    const std::optional<TextPlace> place = isError ? std::nullopt : m_attributes.of(message);
+    if (!place)
         return;
-    const auto [line, column] = m_places.of(offset);
-    m_messages.last().line = line;
-    m_messages.last().column = column;
-}
-
-/// The place of the attribute that a message is about; -1 when that isn't known.
-int TemplateCheck::attributeOffset(const QZeSvgTinyDocument::Message &message) const
-{
-    static const QRegularExpression character(QStringLiteral("character (\\d+)"));
-    static const QRegularExpression quoted(QStringLiteral("\"([^\"]+?)(?:\\.\\.\\.|…)?\""));
-    const RawTag tag = tagBefore(message.line, message.column);
-    if (message.code == QZeSvgTinyDocument::Message::InvalidPathData) {
-        const int number = character.match(message.text).captured(1).toInt();
-        return has(tag, QStringLiteral("d")) ? tag.offsetOf(QStringLiteral("d")) + std::max(0, number - 1) : -1;
-    }
-    if (message.code == QZeSvgTinyDocument::Message::InvalidPoints)
-        return has(tag, QStringLiteral("points")) ? tag.offsetOf(QStringLiteral("points")) : -1;
-    const QString value = quoted.match(message.text).captured(1);
-    for (const RawAttribute &attribute : tag.attributes)
-        if (!value.isEmpty() && valueAt(m_text, attribute.offset).contains(value))
-            return attribute.offset;
-    return -1;
-}
-
-/// The last start tag that begins before a place.
-RawTag TemplateCheck::tagBefore(qint64 line, qint64 column) const
-{
-    const int offset = m_places.offsetOf({line, column});
-    const auto next = std::lower_bound(m_tags.cbegin(), m_tags.cend(), offset,
-                                       [](const RawTag &tag, int place) { return tag.offset < place; });
-    return next == m_tags.cbegin() ? RawTag() : *(next - 1);
+    m_messages.last().line = place->line;
+    m_messages.last().column = place->column;
 }
 
 void TemplateCheck::checkTag(const RawTag &tag)

@@ -92,7 +92,7 @@ void TestSvgdraw::printsMessagesWithTheirPlace()
     const QString in = written("<svg viewBox='0 0 10 10'>\n<rect width='10' height='10' fill='no colour'/></svg>");
     const Outcome outcome = svgdraw({in, path("out.png"), QStringLiteral("10"), QStringLiteral("10")});
     QCOMPARE(outcome.code, 0);
-    QVERIFY2(outcome.errors.startsWith(in + QStringLiteral(":2:")), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.startsWith(in + QStringLiteral(":2:36: warning: ")), qPrintable(outcome.errors));
     QVERIFY2(outcome.errors.contains(QStringLiteral(": warning: ")), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
 }

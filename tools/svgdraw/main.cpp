@@ -1,5 +1,7 @@
 // Draws an SVG file into a PNG file, for people and tests.
 
+#include <shapekit/attributeplaces.h>
+
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QBuffer>
@@ -53,11 +55,15 @@ int complain(const QString &text)
     return NotAsked;
 }
 
-void print(const QString &file, const Messages &messages)
+/// Compressed text has no places that anybody sees.
+void print(const QString &file, const QByteArray &text, const Messages &messages)
 {
+    const shapekit::AttributePlaces attributes(messages.isEmpty() ? QString() : QString::fromUtf8(text));
     for (const QZeSvgTinyDocument::Message &message : messages) {
         const bool error = message.severity == QZeSvgTinyDocument::Message::Error;
-        fprintf(stderr, "%s:%lld:%lld: %s: %s\n", qPrintable(file), message.line, message.column,
+        const shapekit::TextPlace end{message.line, message.column};
+        const shapekit::TextPlace place = error ? end : attributes.of(message).value_or(end);
+        fprintf(stderr, "%s:%lld:%lld: %s: %s\n", qPrintable(file), place.line, place.column,
                 error ? "error" : "warning", qPrintable(message.text));
     }
 }
@@ -122,15 +128,16 @@ int drawFile(const Request &request)
     if (!file.open(QIODevice::ReadOnly))
         return complain(QStringLiteral("%1 can't be read: %2").arg(request.input, file.errorString()));
     Messages messages;
-    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(contents(file), &messages));
+    const QByteArray text = contents(file);
+    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(text, &messages));
     if (!document) {
-        print(request.input, messages);
+        print(request.input, text, messages);
         return Refused;
     }
     if (request.time)
         document->setAnimationTime(*request.time);
     const QImage drawing = picture(*document, request.size);
-    print(request.input, document->messages());
+    print(request.input, text, document->messages());
     if (drawing.isNull())
         return complain(QStringLiteral("There is not enough memory for a picture of %1 by %2 pixels.")
                             .arg(request.size.width())
