@@ -1,6 +1,8 @@
 #include "application/screenshot.h"
 
 #include "application/demopages.h"
+#include "core/commands.h"
+#include "core/toolchoice.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "lessons/lessoncontroller.h"
@@ -9,6 +11,7 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingjson.h"
 #include "panels/settings/settingspanel.h"
+#include "window/drawer.h"
 #include "window/mainwindow.h"
 
 #include <pagehost/commands.h>
@@ -18,12 +21,15 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QEventLoop>
+#include <QtCore/QSettings>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace board {
@@ -32,6 +38,8 @@ namespace {
 
 /// Without a desktop Qt takes a font that is larger than any desktop's.
 constexpr double fontPoints = 9.5;
+/// Of the whole window.
+constexpr QSize pictureSize(1366, 768);
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -119,6 +127,22 @@ void recordLesson(MainWindow &window, pagehost::Page *page)
     waitFor(lessonStep);
 }
 
+/// Leaves the mouse down, over a line that is being written.
+void startWriting(MainWindow &window)
+{
+    window.tools()->choose(Tool::Pen);
+    sendMouse(window.view(), QEvent::MouseButtonPress, {400, 320});
+    for (int step = 1; step <= 60; ++step)
+        sendMouse(window.view(), QEvent::MouseMove, {400 + step * 6.0, 320 + 60 * std::sin(step / 6.0)});
+}
+
+void pinPanel(MainWindow &window, const QWidget *part)
+{
+    window.panel()->setPinned(true);
+    window.raisePanel(part);
+    QApplication::processEvents();
+}
+
 bool isAboutOneShape(const QString &state)
 {
     return state == QLatin1String("selection") || state == QLatin1String("settings") ||
@@ -129,14 +153,22 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
     const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties");
-    if (state == QLatin1String("selection") && page->objectCount() > 1)
+    if (state == QLatin1String("selection") && page->objectCount() > 1) {
         changeMiddle(page);
+        pinPanel(window, window.settings());
+    }
     if (isAboutPanels && page->objectCount() > 0)
         selectRichest(page);
     if (state == QLatin1String("settings"))
-        window.raisePanel(window.settings());
+        pinPanel(window, window.settings());
     if (state == QLatin1String("properties"))
-        window.raisePanel(window.properties());
+        pinPanel(window, window.properties());
+    if (state == QLatin1String("palette"))
+        window.commands()->action(Command::Shapes)->trigger();
+    if (state == QLatin1String("pages"))
+        window.commands()->action(Command::PageStrip)->trigger();
+    if (state == QLatin1String("writing"))
+        startWriting(window);
     if (state == QLatin1String("recording") && page->objectCount() > 1)
         recordLesson(window, page);
     if (state == QLatin1String("playing") && page->objectCount() > 1) {
@@ -154,13 +186,18 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 QStringList screenshotStates()
 {
     return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
-            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("drag"),
+            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
+            QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
             QStringLiteral("recording"), QStringLiteral("playing")};
 }
 
 bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)
 {
-    if (document.isEmpty() && state != QLatin1String("empty") && state != QLatin1String("drag")) {
+    // The window as it is at first, whatever the user has made of it.
+    QCoreApplication::setApplicationName(QStringLiteral("gliololok-board-picture"));
+    QSettings().clear();
+    const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing")};
+    if (document.isEmpty() && !emptyStates.contains(state)) {
         fillWithDemo(workspace);
         // The last page shows the selected shape large.
         if (isAboutOneShape(state))
@@ -168,11 +205,14 @@ bool takeScreenshot(Workspace &workspace, const QString &state, const QString &f
     }
     useDesktopFont();
     MainWindow window(&workspace);
+    window.resize(pictureSize);
     window.show();
     QApplication::processEvents();
     if (!document.isEmpty())
         window.documents()->openNow(document);
     bring(window, workspace, state);
+    // Parts that have just opened are laid out first, then fill themselves.
+    QApplication::processEvents();
     window.pages()->thumbnails()->finish();
     QApplication::processEvents();
     if (window.grab().save(file))

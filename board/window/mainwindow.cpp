@@ -281,6 +281,7 @@ void MainWindow::connectPanels()
 {
     const auto follow = [this](Drawer *drawer, QToolButton *pin, Pane pane) {
         connect(pin, &QToolButton::toggled, drawer, &Drawer::setPinned);
+        connect(drawer, &Drawer::pinnedChanged, pin, &QToolButton::setChecked);
         connect(drawer, &Drawer::openChanged, this, [this](bool open) {
             if (!open)
                 m_view->setFocus();
