@@ -4,6 +4,9 @@
 
 #include <declared/expressions/functions.h>
 
+#include <QtCore/QDirIterator>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 #include <QtTest/QtTest>
 
 using namespace declared;
@@ -38,6 +41,9 @@ private Q_SLOTS:
     void missingEnglishIsAWarning();
     void shapeOfTheGuideIsAShape();
     void referenceListsEveryFunction();
+    void documentsListEveryCode_data();
+    void documentsListEveryCode();
+    void referenceListsEveryAttributeOfTheFigure();
 };
 
 void TestReading::smallestFileIsAShape()
@@ -353,6 +359,53 @@ void TestReading::referenceListsEveryFunction()
     QVERIFY(names.size() > 30);
     for (const QString &name : names)
         QVERIFY2(reference.contains(QLatin1Char('`') + name + QLatin1Char('(')), qPrintable(name));
+}
+
+void TestReading::documentsListEveryCode_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<int>("count");
+    QTest::newRow("declared") << "shapes/declared"
+                              << "shape-reference.md" << 52;
+    QTest::newRow("kit") << "kit/src"
+                         << "shape-author.md" << 11;
+}
+
+void TestReading::documentsListEveryCode()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, document);
+    static const QRegularExpression code(QStringLiteral("\"([CK]\\d\\d)\""));
+    QSet<QString> codes;
+    QDirIterator files(QStringLiteral(DOCUMENT_FOLDER "/../") + folder, {QStringLiteral("*.cpp")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QRegularExpressionMatchIterator found = code.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext())
+            codes.insert(found.next().captured(1));
+    }
+    QTEST(codes.size(), "count");
+    const QString text = documentText(qPrintable(document));
+    for (const QString &name : qAsConst(codes))
+        QVERIFY2(text.contains(QStringLiteral("\n| %1 | ").arg(name)), qPrintable(name));
+}
+
+void TestReading::referenceListsEveryAttributeOfTheFigure()
+{
+    QFile file(QStringLiteral(DOCUMENT_FOLDER "/../shapes/declared/reader/elementreading.cpp"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression form(QStringLiteral("\n    \\{\"([A-Za-z0-9-]+)\", \""));
+    QRegularExpressionMatchIterator forms = form.globalMatch(QString::fromUtf8(file.readAll()));
+    const QString reference = documentText("shape-reference.md");
+    int count = 0;
+    for (; forms.hasNext(); ++count) {
+        const QString name = forms.next().captured(1);
+        QVERIFY2(reference.contains(QLatin1Char('`') + name + QLatin1Char('`')), qPrintable(name));
+    }
+    QVERIFY(count > 40);
 }
 
 QTEST_MAIN(TestReading)
