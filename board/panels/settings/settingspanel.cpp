@@ -12,9 +12,15 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QStringList>
+
 namespace board {
 
 namespace {
+
+/// Settings that every shape has for its pen and fill. They are set as the look, for all shapes alike.
+const QStringList lookSettings{QStringLiteral("idLineStyle"), QStringLiteral("idOutlineColor"),
+                               QStringLiteral("idFillColor")};
 
 QString rangeText(const NumberRange &range)
 {
@@ -39,6 +45,8 @@ QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
     m_controls.clear();
     const QVector<CommonSetting> settings = commonSettings(panels);
     for (const CommonSetting &setting : settings) {
+        if (lookSettings.contains(setting.control.id))
+            continue;
         m_controls.append(setting.control);
         rows.append(rowOf(setting.control, setting.isMixed));
     }

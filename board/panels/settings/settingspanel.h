@@ -5,7 +5,8 @@
 
 namespace board {
 
-/// Panel of the settings (CPSRootObject::GetSettingJson()) that all selected objects have.
+/// Panel of the settings (CPSRootObject::GetSettingJson()) that all selected objects have, but for those of the
+/// look.
 class SettingsPanel : public SelectionPanel
 {
     Q_OBJECT

@@ -141,7 +141,8 @@ private Q_SLOTS:
     void propertyThatCantBeChangedIsDisabled();
     void propertySliderIsOneStep();
     void mixedPropertyTakesOneValue();
-    void lineStyleOfAShapeThroughBothPanels();
+    void lookIsNoSettingOfItsOwn();
+    void lineStyleOfAShapeThroughTheList();
     void lineWidthOfAShapeThroughTheList();
     void cornersOfAStarFollowTheSlider();
     void historyNamesWhatWasSet();
@@ -321,13 +322,12 @@ void TestPanels::differentValuesAreShownAsSuch()
 void TestPanels::onlyWhatAllHaveIsShown()
 {
     PanelDesk t(PanelDesk::Settings);
-    CBaseObject *shape = t.board.draw(rectangle, {500, 300}, {700, 420});
+    CBaseObject *star = t.board.draw(QStringLiteral("shapes.star"), {500, 300}, {700, 500});
     t.settle();
-    QVERIFY(t.widget<QComboBox>("Line style"));
-    QVERIFY(t.widget<board::ColorButton>("Outline colour"));
-    t.board.page().select({shape, t.objects.first()});
+    QVERIFY(t.widget<QSlider>("Corners"));
+    t.board.page().select({star, t.objects.first()});
     t.settle();
-    QVERIFY(!t.widget<QComboBox>("Line style"));
+    QVERIFY(!t.widget<QSlider>("Corners"));
     QVERIFY(t.captions().contains("There is nothing to set here that all of them have."));
 }
 
@@ -448,25 +448,29 @@ void TestPanels::mixedPropertyTakesOneValue()
     QCOMPARE(t.history().count(), 1);
 }
 
-void TestPanels::lineStyleOfAShapeThroughBothPanels()
+/// Colour and line stand under one name in one place.
+void TestPanels::lookIsNoSettingOfItsOwn()
 {
     PanelDesk t(PanelDesk::Settings);
+    t.board.draw(QStringLiteral("shapes.star"), {500, 300}, {700, 500});
+    t.settle();
+    QVERIFY(t.widget<QSlider>("Corners"));
+    QVERIFY(!t.widget<QComboBox>("Line style"));
+    QVERIFY(!t.widget<board::ColorButton>("Outline colour"));
+    QVERIFY(!t.widget<board::ColorButton>("Fill colour"));
+}
+
+void TestPanels::lineStyleOfAShapeThroughTheList()
+{
+    PanelDesk t(PanelDesk::Properties);
     CBaseObject *shape = t.board.draw(rectangle, {500, 300}, {700, 420});
+    pagehost::setPenStyle({shape}, Qt::DashLine);
     t.settle();
     auto *box = t.widget<QComboBox>("Line style");
-    QCOMPARE(box->count(), 5);
-    QVERIFY(!box->itemIcon(1).isNull());
-    const int steps = t.history().count();
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(pagehost::styleOf(shape).penStyle, Qt::DashLine);
-    QCOMPARE(t.history().count(), steps + 1);
-    t.panel = t.board.window().properties();
-    t.board.window().raisePanel(t.panel);
-    t.settle();
-    box = t.widget<QComboBox>("Line style");
     // With "no pen" before them.
     QCOMPARE(box->count(), 6);
+    QVERIFY(!box->itemIcon(1).isNull());
+    box->setFocus();
     QCOMPARE(box->currentIndex(), int(Qt::DashLine));
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(pagehost::styleOf(shape).penStyle, Qt::DotLine);
