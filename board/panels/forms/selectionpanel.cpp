@@ -7,6 +7,7 @@
 #include <framework/iframework.h>
 
 #include <QtCore/QEvent>
+#include <QtCore/QLocale>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
@@ -99,13 +100,26 @@ void SelectionPanel::preview(int row, const QVariant &value)
     });
 }
 
+/// Of one object, its name and the number that it gets; of several, or for other values, the key of the row's
+/// title.
+QString SelectionPanel::stepName(int row, const QVariant &value) const
+{
+    const QVector<CBaseObject *> objects = selection();
+    if (objects.size() != 1 || value.type() != QVariant::Double)
+        return titleKey(row);
+    const QLocale locale(m_workspace->localizer().language());
+    return QStringLiteral("%1: %2 %3")
+        .arg(m_workspace->text(objects.first()->kindName()), m_workspace->text(titleKey(row)),
+             locale.toString(value.toDouble(), 'g'));
+}
+
 void SelectionPanel::pick(int row, const QVariant &value)
 {
     settle();
     if (!bringUpToDate())
         return;
     const QVector<CBaseObject *> objects = selection();
-    GetFramework()->beginUndoGroup(titleKey(row));
+    GetFramework()->beginUndoGroup(stepName(row, value));
     for (CBaseObject *object : objects)
         apply(object, row, value, true);
     GetFramework()->endUndoGroup();

@@ -49,6 +49,7 @@ private:
     bool bringUpToDate();
     void preview(int row, const QVariant &value);
     void pick(int row, const QVariant &value);
+    QString stepName(int row, const QVariant &value) const;
     QVector<CBaseObject *> selection() const;
 
     const Workspace *m_workspace;

@@ -529,6 +529,13 @@ void TestPanels::historyNamesWhatWasSet()
     t.board.draw(rectangle, {500, 300}, {700, 420});
     pagehost::setPenColor(t.board.selection(), Qt::red);
     QCOMPARE(t.history().text(t.history().count() - 1), QString("IDS_SVG_PENCOLOR"));
+    t.board.draw(QStringLiteral("shapes.star"), {500, 300}, {700, 500});
+    t.settle();
+    auto *corners = t.widget<QSlider>("Corners");
+    QCOMPARE(t.widget<QDoubleSpinBox>("Corners")->value(), 5.0);
+    corners->setFocus();
+    QTest::keyClick(corners, Qt::Key_Right);
+    QCOMPARE(t.history().text(t.history().count() - 1), QString("Star: Corners 6"));
 }
 
 void TestPanels::panelsInGerman()
