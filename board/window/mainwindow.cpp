@@ -55,10 +55,13 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
+#include <QtCore/QMimeData>
+#include <QtCore/QUrl>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -385,6 +388,7 @@ void MainWindow::connectTools()
 {
     connect(m_dock, &Dock::dragged, this, &MainWindow::followDrag);
     m_commands->perform(Command::Shapes, this, [this] { chooseShape(); });
+    m_commands->perform(Command::InsertAnything, this, [this] { askAndInsert(); });
     connect(m_dock, &Dock::shapesRequested, m_commands->action(Command::Shapes), &QAction::trigger);
     connect(m_palette, &PalettePanel::kindPicked, this, &MainWindow::beginCreation);
     connect(m_palette, &PalettePanel::placeRequested, this, &MainWindow::placeInMiddle);
@@ -510,6 +514,22 @@ void MainWindow::placeInMiddle(const QString &kindId)
     const QPointF middle = m_view->mapToScene(m_view->viewport()->rect().center());
     m_shapeTool->place(kindId, middle - halfUsualSize);
     m_palette->remember(kindId);
+}
+
+/// Drawings and pictures, into the middle of what is seen.
+void MainWindow::askAndInsert()
+{
+    auto *dialog = new QFileDialog(this, m_commands->name(Command::InsertAnything), m_documents->folder());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(m_workspace->text("IDS_BOARD_PICTURES") +
+                          QStringLiteral(" (*.svg *.png *.jpg *.jpeg *.gif *.bmp)"));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        m_clipboard->drop(data, m_view->mapToScene(m_view->viewport()->rect().center()));
+    });
+    dialog->open();
 }
 
 void MainWindow::askAndExport(PageFormat format)

@@ -115,6 +115,7 @@ private:
     void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
+    void askAndInsert();
     void askAndExport(PageFormat format);
     void exportPages(const QString &folder, PageFormat format);
     void showAbout();

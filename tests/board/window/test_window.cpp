@@ -1,6 +1,7 @@
 // The window: how large it opens, what it remembers, which colours it has.
 
 #include <board/boarddriver.h>
+#include <board/desk.h>
 
 #include <support/virtualtime.h>
 
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void pageTakesFourFifthsOfASmallScreen();
     void smallWindowCutsNothingOff_data();
     void smallWindowCutsNothingOff();
+    void drawingOfAFileIsInsertedInTheMiddle();
     void darkColoursAreRemembered();
     void shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn();
 };
@@ -197,6 +199,21 @@ void TestWindow::smallWindowCutsNothingOff()
             cut.append(QStringLiteral("%1 %2").arg(widget->metaObject()->className(), widget->accessibleName()));
     }
     QCOMPARE(cut.join('\n'), QString());
+}
+
+void TestWindow::drawingOfAFileIsInsertedInTheMiddle()
+{
+    Desk desk;
+    QFile file(desk.path("drop.svg"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 80 60'><path d='M2 2H78V58Z' fill='#a00'/></svg>");
+    file.close();
+    desk.board.key(Qt::Key_I);
+    desk.answerFile(desk.path("drop.svg"));
+    QCOMPARE(desk.objectCount(), 1);
+    const QPointF middle = desk.board.view().mapToScene(desk.board.view().viewport()->rect().center());
+    QVERIFY(desk.board.placeOf(desk.board.only()).contains(middle));
 }
 
 void TestWindow::darkColoursAreRemembered()
