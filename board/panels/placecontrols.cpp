@@ -17,6 +17,22 @@ constexpr double farthest = 99999;
 constexpr double smallestSide = 1;
 const QString mixedSign = QStringLiteral("—");
 
+/// Shows whole numbers without a decimal.
+class PlaceBox : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    QString textFromValue(double value) const override
+    {
+        QString text = QDoubleSpinBox::textFromValue(value);
+        const QString nothing = locale().decimalPoint() + QLatin1Char('0');
+        if (text.endsWith(nothing))
+            text.chop(nothing.size());
+        return text;
+    }
+};
+
 void showQuietly(QDoubleSpinBox *box, double value)
 {
     const QSignalBlocker quiet(box);
@@ -66,7 +82,7 @@ QDoubleSpinBox *PlaceControls::addBox(QGridLayout *grid, int row, int column, co
                                       const QString &name)
 {
     auto *caption = new QLabel(label, this);
-    auto *box = new QDoubleSpinBox(this);
+    auto *box = new PlaceBox(this);
     box->setDecimals(1);
     box->setRange(-farthest, farthest);
     box->setKeyboardTracking(false);

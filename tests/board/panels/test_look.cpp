@@ -248,6 +248,7 @@ void TestLook::pageBackground()
 void TestLook::placeAsNumbers()
 {
     StyledShape t;
+    QCOMPARE(t.control<QDoubleSpinBox>("Left edge")->text(), QString("500"));
     t.control<QDoubleSpinBox>("Left edge")->setValue(450);
     t.control<QDoubleSpinBox>("Top edge")->setValue(320);
     QCOMPARE(t.board.placeOf(t.shape), QRectF(450, 320, 200, 120));
