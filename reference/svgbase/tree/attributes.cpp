@@ -10,125 +10,13 @@ struct AttributeName
     AttributeId id;
 };
 
+/// In the order of their ids, behind `Unknown`.
 const AttributeName attributeNames[] = {
-    {QLatin1String("alignment-baseline"), AttributeId::AlignmentBaseline},
-    {QLatin1String("baseline-shift"), AttributeId::BaselineShift},
-    {QLatin1String("class"), AttributeId::Class},
-    {QLatin1String("clip"), AttributeId::Clip},
-    {QLatin1String("clip-path"), AttributeId::ClipPath},
-    {QLatin1String("clip-rule"), AttributeId::ClipRule},
-    {QLatin1String("color"), AttributeId::Color},
-    {QLatin1String("color-interpolation"), AttributeId::ColorInterpolation},
-    {QLatin1String("color-interpolation-filters"), AttributeId::ColorInterpolationFilters},
-    {QLatin1String("cx"), AttributeId::Cx},
-    {QLatin1String("cy"), AttributeId::Cy},
-    {QLatin1String("d"), AttributeId::D},
-    {QLatin1String("direction"), AttributeId::Direction},
-    {QLatin1String("display"), AttributeId::Display},
-    {QLatin1String("dominant-baseline"), AttributeId::DominantBaseline},
-    {QLatin1String("dx"), AttributeId::Dx},
-    {QLatin1String("dy"), AttributeId::Dy},
-    {QLatin1String("fill"), AttributeId::Fill},
-    {QLatin1String("fill-opacity"), AttributeId::FillOpacity},
-    {QLatin1String("fill-rule"), AttributeId::FillRule},
-    {QLatin1String("filter"), AttributeId::Filter},
-    {QLatin1String("flood-color"), AttributeId::FloodColor},
-    {QLatin1String("flood-opacity"), AttributeId::FloodOpacity},
-    {QLatin1String("font-family"), AttributeId::FontFamily},
-    {QLatin1String("font-kerning"), AttributeId::FontKerning},
-    {QLatin1String("font-size"), AttributeId::FontSize},
-    {QLatin1String("font-size-adjust"), AttributeId::FontSizeAdjust},
-    {QLatin1String("font-stretch"), AttributeId::FontStretch},
-    {QLatin1String("font-style"), AttributeId::FontStyle},
-    {QLatin1String("font-variant"), AttributeId::FontVariant},
-    {QLatin1String("font-variant-ligatures"), AttributeId::FontVariantLigatures},
-    {QLatin1String("font-weight"), AttributeId::FontWeight},
-    {QLatin1String("fr"), AttributeId::Fr},
-    {QLatin1String("fx"), AttributeId::Fx},
-    {QLatin1String("fy"), AttributeId::Fy},
-    {QLatin1String("glyph-orientation-vertical"), AttributeId::GlyphOrientationVertical},
-    {QLatin1String("gradientTransform"), AttributeId::GradientTransform},
-    {QLatin1String("gradientUnits"), AttributeId::GradientUnits},
-    {QLatin1String("height"), AttributeId::Height},
-    {QLatin1String("href"), AttributeId::Href},
-    {QLatin1String("id"), AttributeId::Id},
-    {QLatin1String("image-rendering"), AttributeId::ImageRendering},
-    {QLatin1String("inline-size"), AttributeId::InlineSize},
-    {QLatin1String("isolation"), AttributeId::Isolation},
-    {QLatin1String("kerning"), AttributeId::Kerning},
-    {QLatin1String("letter-spacing"), AttributeId::LetterSpacing},
-    {QLatin1String("line-height"), AttributeId::LineHeight},
-    {QLatin1String("lighting-color"), AttributeId::LightingColor},
-    {QLatin1String("marker"), AttributeId::Marker},
-    {QLatin1String("marker-end"), AttributeId::MarkerEnd},
-    {QLatin1String("marker-mid"), AttributeId::MarkerMid},
-    {QLatin1String("marker-start"), AttributeId::MarkerStart},
-    {QLatin1String("mask"), AttributeId::Mask},
-    {QLatin1String("mask-type"), AttributeId::MaskType},
-    {QLatin1String("mix-blend-mode"), AttributeId::MixBlendMode},
-    {QLatin1String("offset"), AttributeId::Offset},
-    {QLatin1String("opacity"), AttributeId::Opacity},
-    {QLatin1String("paint-order"), AttributeId::PaintOrder},
-    {QLatin1String("overflow"), AttributeId::Overflow},
-    {QLatin1String("pathLength"), AttributeId::PathLength},
-    {QLatin1String("points"), AttributeId::Points},
-    {QLatin1String("preserveAspectRatio"), AttributeId::PreserveAspectRatio},
-    {QLatin1String("r"), AttributeId::R},
-    {QLatin1String("refX"), AttributeId::RefX},
-    {QLatin1String("refY"), AttributeId::RefY},
-    {QLatin1String("requiredExtensions"), AttributeId::RequiredExtensions},
-    {QLatin1String("requiredFeatures"), AttributeId::RequiredFeatures},
-    {QLatin1String("systemLanguage"), AttributeId::SystemLanguage},
-    {QLatin1String("rotate"), AttributeId::Rotate},
-    {QLatin1String("scale"), AttributeId::Scale},
-    {QLatin1String("translate"), AttributeId::Translate},
-    {QLatin1String("rx"), AttributeId::Rx},
-    {QLatin1String("ry"), AttributeId::Ry},
-    {QLatin1String("shape-rendering"), AttributeId::ShapeRendering},
-    {QLatin1String("spreadMethod"), AttributeId::SpreadMethod},
-    {QLatin1String("stop-color"), AttributeId::StopColor},
-    {QLatin1String("stop-opacity"), AttributeId::StopOpacity},
-    {QLatin1String("stroke"), AttributeId::Stroke},
-    {QLatin1String("stroke-dasharray"), AttributeId::StrokeDasharray},
-    {QLatin1String("stroke-dashoffset"), AttributeId::StrokeDashoffset},
-    {QLatin1String("stroke-linecap"), AttributeId::StrokeLinecap},
-    {QLatin1String("stroke-linejoin"), AttributeId::StrokeLinejoin},
-    {QLatin1String("stroke-miterlimit"), AttributeId::StrokeMiterlimit},
-    {QLatin1String("stroke-opacity"), AttributeId::StrokeOpacity},
-    {QLatin1String("stroke-width"), AttributeId::StrokeWidth},
-    {QLatin1String("style"), AttributeId::Style},
-    {QLatin1String("text-anchor"), AttributeId::TextAnchor},
-    {QLatin1String("text-rendering"), AttributeId::TextRendering},
-    {QLatin1String("text-decoration"), AttributeId::TextDecoration},
-    {QLatin1String("text-decoration-color"), AttributeId::TextDecorationColor},
-    {QLatin1String("text-decoration-line"), AttributeId::TextDecorationLine},
-    {QLatin1String("text-decoration-style"), AttributeId::TextDecorationStyle},
-    {QLatin1String("text-decoration-thickness"), AttributeId::TextDecorationThickness},
-    {QLatin1String("text-orientation"), AttributeId::TextOrientation},
-    {QLatin1String("text-transform"), AttributeId::TextTransform},
-    {QLatin1String("text-underline-offset"), AttributeId::TextUnderlineOffset},
-    {QLatin1String("text-underline-position"), AttributeId::TextUnderlinePosition},
-    {QLatin1String("transform"), AttributeId::Transform},
-    {QLatin1String("vector-effect"), AttributeId::VectorEffect},
-    {QLatin1String("transform-box"), AttributeId::TransformBox},
-    {QLatin1String("transform-origin"), AttributeId::TransformOrigin},
-    {QLatin1String("unicode-bidi"), AttributeId::UnicodeBidi},
-    {QLatin1String("viewBox"), AttributeId::ViewBox},
-    {QLatin1String("visibility"), AttributeId::Visibility},
-    {QLatin1String("white-space"), AttributeId::WhiteSpace},
-    {QLatin1String("width"), AttributeId::Width},
-    {QLatin1String("word-spacing"), AttributeId::WordSpacing},
-    {QLatin1String("writing-mode"), AttributeId::WritingMode},
-    {QLatin1String("x"), AttributeId::X},
-    {QLatin1String("x1"), AttributeId::X1},
-    {QLatin1String("x2"), AttributeId::X2},
-    {QLatin1String("x_move"), AttributeId::XMove},
-    {QLatin1String("xlink:href"), AttributeId::XlinkHref},
-    {QLatin1String("xml:space"), AttributeId::XmlSpace},
-    {QLatin1String("y"), AttributeId::Y},
-    {QLatin1String("y1"), AttributeId::Y1},
-    {QLatin1String("y2"), AttributeId::Y2},
-    {QLatin1String("y_move"), AttributeId::YMove},
+#define SVG_NAME(id, name) {QLatin1String(name), AttributeId::id},
+    SVG_STYLE_PROPERTIES(SVG_NAME) SVG_EFFECT_PROPERTIES(SVG_NAME)
+        SVG_TEXT_PROPERTIES(SVG_NAME){QLatin1String(), AttributeId::CustomProperty},
+    SVG_ELEMENT_ATTRIBUTES(SVG_NAME)
+#undef SVG_NAME
 };
 
 /// The names by a hash of their length and their ends; a few collide and are chained.
@@ -138,6 +26,8 @@ public:
     NameTable()
     {
         for (const AttributeName &known : attributeNames) {
+            if (known.name.isEmpty())
+                continue;
             size_t place = placeOf(known.name);
             while (m_places[place])
                 place = (place + 1) % placeCount;
@@ -185,10 +75,9 @@ AttributeId attributeId(QStringView name)
 
 QLatin1String attributeName(AttributeId id)
 {
-    for (const AttributeName &known : attributeNames)
-        if (known.id == id)
-            return known.name;
-    return QLatin1String();
+    if (id == AttributeId::Unknown)
+        return QLatin1String();
+    return attributeNames[int(id) - 1].name;
 }
 
 const Attribute *Attributes::find(AttributeId id) const
