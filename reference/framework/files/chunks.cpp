@@ -138,16 +138,13 @@ bool Reader::next(Chunk &chunk)
     m_gapStart = m_offset;
     m_offset = findHeader(m_offset, size);
     m_gapSize = m_offset - m_gapStart;
-    if (m_offset == size) {
-        m_endsEarly = m_endsEarly || m_gapSize > 0;
+    if (m_offset == size)
         return false;
-    }
     const char *header = m_bytes.constData() + m_offset;
     const qint64 start = m_offset + headerSize;
     const qint64 claimed = number(header + lengthPlace);
     qint64 length = std::min(claimed, size - start);
-    m_endsEarly = length < claimed;
-    chunk.isDamaged = m_endsEarly || number(header + sumPlace) != checksum(header + headerSize, length);
+    chunk.isDamaged = length < claimed || number(header + sumPlace) != checksum(header + headerSize, length);
     if (chunk.isDamaged) {
         // Bytes may be missing from the payload, so that the following ones have moved up.
         length = findHeader(start, start + length) - start;

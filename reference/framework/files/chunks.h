@@ -75,8 +75,6 @@ public:
     /// Bytes that next() skipped before the chunk, or before the end, because they are not a chunk.
     QByteArray gap() const { return m_bytes.mid(int(m_gapStart), int(m_gapSize)); }
     qint64 gapStart() const { return m_gapStart; }
-    /// Whether the bytes ended inside a chunk or with bytes that are not a chunk.
-    bool endsEarly() const { return m_endsEarly; }
 
 private:
     bool isHeader(qint64 offset) const;
@@ -87,7 +85,6 @@ private:
     qint64 m_offset = 0;
     qint64 m_gapStart = 0;
     qint64 m_gapSize = 0;
-    bool m_endsEarly = false;
 };
 
 /// Treats bytes that are not a chunk as one with a damaged header. False when nothing in them proves that; else
