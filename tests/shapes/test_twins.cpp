@@ -1,16 +1,18 @@
 // Shapes that became files are held against the same shapes in C++, which tests/shapes/coded keeps: whatever is
 // done to both, they save the same bytes and look the same.
 
-#include <checklist/randomedits.h>
 #include <shapes/shapedriver.h>
+
+#include <checklist/randomedits.h>
+#include <checklist/states.h>
 
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QDir>
-#include <QtCore/QJsonDocument>
 #include <QtCore/QPluginLoader>
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
@@ -18,6 +20,8 @@
 #include <cmath>
 
 using checklist::RandomEdits;
+using checklist::savedBytes;
+using checklist::savedJson;
 using shapetest::ShapeDriver;
 
 class TestTwins : public QObject
@@ -52,21 +56,6 @@ namespace {
 
 constexpr unsigned seeds = 3;
 constexpr int editsOfSeed = 30;
-
-QByteArray savedBytes(const ShapeDriver &shape)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    shape.object().save(out);
-    return bytes;
-}
-
-QByteArray savedJson(const ShapeDriver &shape)
-{
-    QJsonObject object;
-    shape.object().saveJson(object);
-    return QJsonDocument(object).toJson();
-}
 
 CBaseObject *codedObject(const QString &name)
 {
