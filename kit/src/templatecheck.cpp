@@ -25,47 +25,54 @@ using pagehost::PluginMessage;
 
 constexpr int mostPoints = 32;
 
-/// Attributes of SVG 1.1 and SMIL without a prefix (SVG 1.1 appendix M), then those of shapes.
-const char *const attributeNames[] = {
-    "accent-height accumulate additive alphabetic amplitude arabic-form ascent attributeName attributeType azimuth "
-    "baseFrequency baseProfile bbox begin bias by calcMode cap-height class clipPathUnits color contentScriptType "
-    "contentStyleType cx cy d descent diffuseConstant divisor dur dx dy edgeMode elevation end exponent "
-    "externalResourcesRequired fill filterRes filterUnits format from fx fy g1 g2 glyph-name glyphRef "
-    "gradientTransform gradientUnits hanging height href horiz-adv-x horiz-origin-x horiz-origin-y id ideographic "
-    "in in2 intercept k k1 k2 k3 k4 kernelMatrix kernelUnitLength keyPoints keySplines keyTimes lang lengthAdjust "
-    "limitingConeAngle local markerHeight markerUnits markerWidth maskContentUnits maskUnits mathematical max "
-    "media "
-    "method min mode name numOctaves offset onload operator order orient orientation origin overline-position "
+/// Attributes of SVG 1.1 (appendix M), SVG 2 and SMIL without a prefix.
+constexpr char elementAttributes[] =
+    "accent-height accumulate additive alphabetic amplitude arabic-form ascent attributeName "
+    "attributeType azimuth baseFrequency baseProfile bbox begin bias by calcMode cap-height class "
+    "clipPathUnits color contentScriptType contentStyleType cx cy d descent diffuseConstant divisor dur "
+    "dx dy edgeMode elevation end exponent externalResourcesRequired fill filterRes filterUnits format fr "
+    "from fx fy g1 g2 glyph-name glyphRef gradientTransform gradientUnits hanging height horiz-adv-x "
+    "horiz-origin-x horiz-origin-y href id ideographic in in2 intercept k k1 k2 k3 k4 kernelMatrix "
+    "kernelUnitLength keyPoints keySplines keyTimes lang lengthAdjust limitingConeAngle local "
+    "markerHeight markerUnits markerWidth maskContentUnits maskUnits mathematical max media method min "
+    "mode name numOctaves offset onload operator order orient orientation origin overline-position "
     "overline-thickness panose-1 path pathLength patternContentUnits patternTransform patternUnits points "
-    "pointsAtX "
-    "pointsAtY pointsAtZ preserveAlpha preserveAspectRatio primitiveUnits r radius refX refY rendering-intent "
-    "repeatCount repeatDur requiredExtensions requiredFeatures restart result rotate rx ry scale seed slope "
-    "spacing "
-    "specularConstant specularExponent spreadMethod startOffset stdDeviation stemh stemv stitchTiles "
-    "strikethrough-position strikethrough-thickness string style surfaceScale systemLanguage tableValues target "
-    "targetX targetY textLength title to transform type u1 u2 underline-position underline-thickness unicode "
-    "unicode-range units-per-em v-alphabetic v-hanging v-ideographic v-mathematical values version vert-adv-y "
-    "vert-origin-x vert-origin-y viewBox viewTarget width widths x x-height x1 x2 xChannelSelector xmlns y y1 y2 "
-    "yChannelSelector z zoomAndPan",
-    "alignment-baseline baseline-shift clip clip-path clip-rule color-interpolation color-interpolation-filters "
-    "color-profile color-rendering cursor direction display dominant-baseline enable-background fill-opacity "
-    "fill-rule filter flood-color flood-opacity font font-family font-size font-size-adjust font-stretch "
-    "font-style "
-    "font-variant font-weight glyph-orientation-horizontal glyph-orientation-vertical image-rendering kerning "
-    "letter-spacing lighting-color marker marker-end marker-mid marker-start mask mix-blend-mode isolation opacity "
-    "overflow paint-order pointer-events shape-rendering stop-color stop-opacity stroke stroke-dasharray "
-    "stroke-dashoffset stroke-linecap stroke-linejoin stroke-miterlimit stroke-opacity stroke-width text-anchor "
-    "text-decoration text-rendering transform-origin unicode-bidi vector-effect visibility white-space "
-    "word-spacing "
-    "writing-mode",
+    "pointsAtX pointsAtY pointsAtZ preserveAlpha preserveAspectRatio primitiveUnits r radius refX refY "
+    "rendering-intent repeatCount repeatDur requiredExtensions requiredFeatures restart result rotate rx "
+    "ry scale seed slope spacing specularConstant specularExponent spreadMethod startOffset stdDeviation "
+    "stemh stemv stitchTiles strikethrough-position strikethrough-thickness string style surfaceScale "
+    "systemLanguage tableValues target targetX targetY textLength title to transform type u1 u2 "
+    "underline-position underline-thickness unicode unicode-range units-per-em v-alphabetic v-hanging "
+    "v-ideographic v-mathematical values version vert-adv-y vert-origin-x vert-origin-y viewBox "
+    "viewTarget width widths x x-height x1 x2 xChannelSelector xmlns y y1 y2 yChannelSelector z "
+    "zoomAndPan";
+
+/// Presentation attributes of SVG 1.1, and those of CSS that the SVG library reads.
+constexpr char presentationAttributes[] =
+    "alignment-baseline baseline-shift clip clip-path clip-rule color-interpolation "
+    "color-interpolation-filters color-profile color-rendering cursor direction display dominant-baseline "
+    "enable-background fill-opacity fill-rule filter flood-color flood-opacity font font-family "
+    "font-kerning font-size font-size-adjust font-stretch font-style font-variant font-variant-ligatures "
+    "font-weight glyph-orientation-horizontal glyph-orientation-vertical image-rendering inline-size "
+    "isolation kerning letter-spacing lighting-color line-height marker marker-end marker-mid "
+    "marker-start mask mask-type mix-blend-mode opacity overflow paint-order pointer-events "
+    "shape-rendering stop-color stop-opacity stroke stroke-dasharray stroke-dashoffset stroke-linecap "
+    "stroke-linejoin stroke-miterlimit stroke-opacity stroke-width text-anchor text-decoration "
+    "text-decoration-color text-decoration-line text-decoration-style text-decoration-thickness "
+    "text-orientation text-rendering text-transform text-underline-offset text-underline-position "
+    "transform-box transform-origin translate unicode-bidi vector-effect visibility white-space "
+    "word-spacing writing-mode";
+
+/// Attributes of shapes.
+constexpr char shapeAttributes[] =
     "x_from x_to y_from y_to x_move y_move x_follows y_follows x_offset y_offset keeps fill_follows "
-    "stroke_follows"};
+    "stroke_follows";
 
 const QStringList &knownAttributes()
 {
     static const QStringList names = [] {
         QStringList all;
-        for (const char *part : attributeNames)
+        for (const char *part : {elementAttributes, presentationAttributes, shapeAttributes})
             all += QString::fromLatin1(part).split(QLatin1Char(' '));
         return all;
     }();
@@ -245,7 +252,7 @@ void TemplateCheck::checkLook(const RawTag &tag)
 void TemplateCheck::checkPoint(const RawTag &tag)
 {
     bool isNumber = false;
-    const int number = m_element.mid(int(qstrlen("control_"))).toInt(&isNumber);
+    const int number = m_element.midRef(int(qstrlen("control_"))).toInt(&isNumber);
     if (!isNumber || number < 1) {
         report(PluginMessage::Error, "K05", tag.offsetOf(QStringLiteral("id")),
                QStringLiteral("control points are numbered from 1: \"control_1\", \"control_2\""));
