@@ -46,7 +46,8 @@ bool plays(CBaseObject &object)
 QStringList movingKinds()
 {
     QStringList moving;
-    for (const QString &kind : shapeKinds())
+    const QStringList kinds = shapeKinds();
+    for (const QString &kind : kinds)
         if (plays(*makeShape(kind, objectSize)))
             moving.append(kind);
     return moving;
@@ -167,7 +168,8 @@ void movingPage(benchmark::State &state, int movingCount)
 
 void registerAnimationBenchmarks()
 {
-    for (const QString &kind : movingKinds()) {
+    const QStringList kinds = movingKinds();
+    for (const QString &kind : kinds) {
         const BenchTemplate *source = findTemplate(templateName(kind));
         if (!source)
             continue;

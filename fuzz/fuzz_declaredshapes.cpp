@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     QVector<Message> messages;
     const SharedDeclaration declaration = readShape(bytes, QStringLiteral("fuzzed"), &messages);
     bool isFaulty = false;
-    for (const Message &message : messages) {
+    for (const Message &message : qAsConst(messages)) {
         isFaulty = isFaulty || message.severity == Message::Error;
         require(message.line >= 1 && message.column >= 1, "a message has a place");
         require(message.code.size() == 3 && !message.text.isEmpty(), "a message has a code and a text");
