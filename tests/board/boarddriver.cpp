@@ -18,6 +18,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
+
 namespace boardtest {
 
 const QString rectangle = QStringLiteral("shapes.roundedrectangle");
@@ -194,6 +196,14 @@ void BoardDriver::pick(const QString &kindId)
     for (board::PaletteButton *button : buttons)
         if (button->kindId() == kindId)
             QTest::mouseClick(button, Qt::LeftButton);
+}
+
+QVector<pagehost::ObjectKind> BoardDriver::drawableKinds() const
+{
+    QVector<pagehost::ObjectKind> kinds = m_workspace->registry().kinds();
+    const auto isOfTools = [](const pagehost::ObjectKind &kind) { return kind.group.isEmpty(); };
+    kinds.erase(std::remove_if(kinds.begin(), kinds.end(), isOfTools), kinds.end());
+    return kinds;
 }
 
 CBaseObject *BoardDriver::draw(const QString &kindId, const QPointF &from, const QPointF &to)

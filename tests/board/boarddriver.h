@@ -44,6 +44,8 @@ public:
     ~BoardDriver();
 
     board::Workspace &workspace() { return *m_workspace; }
+    /// Kinds that users draw with the mouse; tools make the others.
+    QVector<pagehost::ObjectKind> drawableKinds() const;
     board::MainWindow &window() const { return *m_window; }
     board::PageView &view() const;
     pagehost::Page &page() const;

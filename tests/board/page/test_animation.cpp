@@ -116,7 +116,8 @@ void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
     BoardDriver driver;
     QMap<CBaseObject *, int> pictures;
     QMap<CBaseObject *, QString> kinds;
-    for (const pagehost::ObjectKind &kind : driver.workspace().registry().kinds()) {
+    const QVector<pagehost::ObjectKind> drawable = driver.drawableKinds();
+    for (const pagehost::ObjectKind &kind : drawable) {
         const QPointF corner(20 + kinds.size() % 6 * 120, 20 + kinds.size() / 6 * 120);
         kinds.insert(driver.draw(kind.id, corner, corner + QPointF(100, 100)), kind.id);
     }

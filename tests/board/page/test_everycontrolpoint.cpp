@@ -151,7 +151,8 @@ void TestEveryControlPoint::pointFollowsTheMouseAndComesBack_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("pose");
-    for (const pagehost::ObjectKind &kind : m_board->workspace().registry().kinds())
+    const QVector<pagehost::ObjectKind> drawable = m_board->drawableKinds();
+    for (const pagehost::ObjectKind &kind : drawable)
         for (int pose = 0; pose < int(std::size(poses)); ++pose)
             QTest::newRow(qPrintable(QString("%1, %2").arg(kind.id, poses[pose].name))) << kind.id << pose;
 }
