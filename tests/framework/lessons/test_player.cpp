@@ -437,7 +437,8 @@ void TestLessonPlayer::everyActionIdIsReplayed()
 {
     // Nothing but what the object recorded: no states, no help of the recorder.
     Classroom room;
-    CBaseObject *object = room.drawArrow();
+    // Declared shapes record where their points were put instead of 1001.
+    CBaseObject *object = room.draw(QStringLiteral("shapes.callout"), QPointF(100, 100), QPointF(300, 220));
     Lesson lesson = justStart(room);
     const QByteArray before = savedState(object);
     {
@@ -447,8 +448,7 @@ void TestLessonPlayer::everyActionIdIsReplayed()
         pagehost::setPenStyle({object}, Qt::DotLine);           // 1003
         pagehost::setPenWidth({object}, 6);                     // 1004
         room.page->select({object});
-        for (const QPointF &grip : {QPointF(112, 160), QPointF(240, 130), QPointF(238, 128)}) // 1001
-            room.drag(grip, grip + QPointF(9, 7));
+        room.drag(QPointF(124, 214), QPointF(150, 205));     // 1001
         pagehost::moveObjects({object}, QPointF(12.25, -3)); // 101
         pagehost::resizeObject(object, QSizeF(260, 171));    // 102
         pagehost::rotateObjects({object}, 41);               // 103
