@@ -313,7 +313,8 @@ TextValue::TextValue(PropertiedShape *shape, const Text &text, const QString &va
 
 void TextValue::write(QDataStream &out) const
 {
-    out << m_value;
+    // JSON doesn't tell null from empty: both formats must open to the same bytes.
+    out << (m_value.isNull() ? QStringLiteral("") : m_value);
 }
 
 void TextValue::read(QDataStream &in)
