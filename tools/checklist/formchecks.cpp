@@ -73,8 +73,19 @@ void templateIsDrawnAsItStands(const Subject &subject, Report &report)
     }
 }
 
+/// Kinds that only tools make are in no group, and have no form until they have been drawn.
+bool isMadeByClick(const Subject &subject)
+{
+    const QVector<pagehost::ObjectKind> kinds = subject.plugin->objectKinds();
+    return std::any_of(kinds.begin(), kinds.end(), [&subject](const pagehost::ObjectKind &kind) {
+        return kind.id == subject.kindId && !kind.group.isEmpty();
+    });
+}
+
 void outlineHoldsTheDrawingAndTheControlPoints(const Subject &subject, Report &report)
 {
+    if (!isMadeByClick(subject))
+        return;
     ShapeDriver shape(subject.plugin, subject.kindId);
     shape.createByDrag(QSizeF(200, 150));
     const QRectF frame = shape.object().getClientRect();
@@ -101,15 +112,6 @@ void outlineHoldsTheDrawingAndTheControlPoints(const Subject &subject, Report &r
     }
     report.expect(missed * 5 <= painted,
                   QStringLiteral("%1 of %2 dark places can't be grasped").arg(missed).arg(painted));
-}
-
-/// Kinds that only tools make are in no group, and have no form until they have been drawn.
-bool isMadeByClick(const Subject &subject)
-{
-    const QVector<pagehost::ObjectKind> kinds = subject.plugin->objectKinds();
-    return std::any_of(kinds.begin(), kinds.end(), [&subject](const pagehost::ObjectKind &kind) {
-        return kind.id == subject.kindId && !kind.group.isEmpty();
-    });
 }
 
 void smallestSizeCanBeDrawnAndLeft(const Subject &subject, Report &report)

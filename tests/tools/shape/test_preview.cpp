@@ -25,7 +25,9 @@ QByteArray boxOf(int width)
            QByteArray::number(width) +
            " 40'>\n<shape:about name='Box'/>\n<shape:property name='soft' type='switch' value='no' "
            "title='Round'/>\n"
-           "<rect id='figure' width='60' height='40' fill='#ff0000' stroke='black' shape:width='{w}' "
+           "<rect id='figure' width='" +
+           QByteArray::number(width) +
+           "' height='40' fill='#ff0000' stroke='black' shape:width='{w}' "
            "shape:height='{h}' "
            "shape:rx='{soft ? 9 : 0}'/></svg>";
 }
