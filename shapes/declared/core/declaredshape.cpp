@@ -412,7 +412,10 @@ QByteArray DeclaredShape::toSvg()
 
 QString DeclaredShape::hint(int number)
 {
-    const Value hint = presentState().valueOf(m_declaration.point(number).hint);
+    const Expression &declared = m_declaration.point(number).hint;
+    if (!declared.isValid())
+        return {};
+    const Value hint = presentState().valueOf(declared);
     return hint.isFinite() ? hint.text : QString();
 }
 

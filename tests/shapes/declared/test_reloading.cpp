@@ -43,6 +43,7 @@ private Q_SLOTS:
     void coresThatNoUndoStepNeedsAreDropped();
     void faultOfDrawingIsToldWithItsPlace();
     void faultOfAFileIsToldOnce();
+    void dragOfAPointWithoutAHintIsNoFault();
     void replacedFilesAreNoticed();
     void fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond();
 
@@ -83,7 +84,8 @@ void TestReloading::save(const QByteArray &content)
     m_machine->plugin().reload();
 }
 
-/// As a recorded step; the bar has no frame of its own, so that a place on the page is 100 more.
+/// As a recorded step, with the hint that boards ask for; the bar has no frame of its own, so that a place on the
+/// page is 100 more.
 void TestReloading::dragTo(double x)
 {
     m_document->page(0)->select({bar()});
@@ -104,6 +106,9 @@ void TestReloading::dragTo(double x)
     const QPointF end = start + QPointF(x - pointX(), 0);
     send(QEvent::GraphicsSceneMousePress, start, Qt::LeftButton);
     send(QEvent::GraphicsSceneMouseMove, end, Qt::LeftButton);
+    QByteArray hint;
+    QDataStream out(&hint, QIODevice::WriteOnly);
+    bar()->GetSpecialProperty(pagehost::DragHint, out);
     send(QEvent::GraphicsSceneMouseRelease, end, Qt::NoButton);
 }
 
@@ -410,7 +415,6 @@ void TestReloading::coresThatNoUndoStepNeedsAreDropped()
     QCOMPARE(bar()->formerCoreCount(), 2);
 }
 
-/// Editors write a new file and put it in the place of the old one.
 void TestReloading::faultOfDrawingIsToldWithItsPlace()
 {
     QStringList told;
@@ -436,6 +440,17 @@ void TestReloading::faultOfAFileIsToldOnce()
     QCOMPARE(told, QStringList());
 }
 
+void TestReloading::dragOfAPointWithoutAHintIsNoFault()
+{
+    QStringList told;
+    m_machine->registry().setProblemListener(
+        [&](const pagehost::PluginReport &report) { told.append(report.problem); });
+    dragTo(90);
+    QCOMPARE(pointX(), 90.0);
+    QCOMPARE(told, QStringList());
+}
+
+/// Editors write a new file and put it in the place of the old one.
 void TestReloading::replacedFilesAreNoticed()
 {
     for (const char *colour : {"#00ff00", "#0000ff"}) {
