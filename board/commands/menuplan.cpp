@@ -151,14 +151,13 @@ MenuPlan thumbnailMenuPlan()
 
 void fillMenu(QMenu *menu, const MenuPlan &plan, const Commands &commands, const Workspace &workspace)
 {
-    for (const MenuEntry &entry : plan) {
+    for (const MenuEntry &entry : plan)
         if (entry.command)
             menu->addAction(commands.action(*entry.command));
         else if (entry.titleKey)
             fillMenu(menu->addMenu(workspace.text(entry.titleKey)), entry.entries, commands, workspace);
         else
             menu->addSeparator();
-    }
 }
 
 } // namespace board

@@ -414,10 +414,9 @@ bool ObjectRegistry::hasTool(ToolRole role) const
 std::unique_ptr<PageTool> ObjectRegistry::createTool(ToolRole role, ToolPage *page) const
 {
     std::unique_ptr<PageTool> tool;
-    for (const Source &source : m_sources) {
+    for (const Source &source : m_sources)
         if (!tool && source.roles.contains(role))
             run(source, QStringLiteral("createTool()"), [&] { tool.reset(source.tools->createTool(role, page)); });
-    }
     return tool;
 }
 

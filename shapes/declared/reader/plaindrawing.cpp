@@ -218,12 +218,11 @@ void DrawingWriter::writePlain(const SourceAttribute &attribute)
 
 void DrawingWriter::writeAttributes(const SourceElement &element, const QSet<QString> &leftOut)
 {
-    for (const SourceAttribute &attribute : element.attributes) {
+    for (const SourceAttribute &attribute : element.attributes)
         if (attribute.namespaceUri.isEmpty() && !leftOut.contains(attribute.name))
             writePlain(attribute);
         else if (attribute.namespaceUri == linkNamespace)
             m_writer.writeAttribute(linkNamespace, attribute.name, withNewIds(attribute.value));
-    }
 }
 
 /// Recursion is as deep as files may be.

@@ -209,12 +209,11 @@ QVector<QVector<StrokePoint>> partsBeside(const QVector<StrokePoint> &points, co
         part.clear();
     };
     const QVector<StrokePoint> pieces = inPieces(points, line, distance);
-    for (const StrokePoint &point : pieces) {
+    for (const StrokePoint &point : pieces)
         if (distanceTo(line, point.place) > distance)
             part.append(point);
         else
             endPart();
-    }
     endPart();
     return parts;
 }
