@@ -39,9 +39,14 @@ LaserPointer::LaserPointer(QGraphicsView *view, const ToolChoice *tools)
     hide();
 }
 
+bool LaserPointer::isInUse() const
+{
+    return m_tools && m_tools->tool() == Tool::Laser;
+}
+
 void LaserPointer::followTool()
 {
-    if (m_tools->tool() == Tool::Laser)
+    if (isInUse())
         hidePointer();
     else
         leave();
@@ -50,7 +55,7 @@ void LaserPointer::followTool()
 void LaserPointer::hidePointer()
 {
     QWidget *viewport = m_view->viewport();
-    if (m_tools->tool() == Tool::Laser && viewport->cursor().shape() != Qt::BlankCursor)
+    if (isInUse() && viewport->cursor().shape() != Qt::BlankCursor)
         viewport->setCursor(Qt::BlankCursor);
 }
 
@@ -66,7 +71,7 @@ void LaserPointer::pointAt(const QPointF &scenePos)
 
 void LaserPointer::leave()
 {
-    if (m_tools->tool() != Tool::Laser)
+    if (!isInUse())
         m_view->viewport()->unsetCursor();
     if (!m_dot)
         return;
@@ -92,7 +97,7 @@ bool LaserPointer::eventFilter(QObject *, QEvent *event)
     // The view sets its cursor whenever something under the pointer changes.
     if (event->type() == QEvent::CursorChange)
         hidePointer();
-    return m_tools->tool() == Tool::Laser && usePointer(event);
+    return isInUse() && usePointer(event);
 }
 
 bool LaserPointer::usePointer(QEvent *event)

@@ -3,6 +3,7 @@
 #include "presenting/lasertrail.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
@@ -21,7 +22,7 @@ class LaserPointer : public QWidget
     Q_OBJECT
 
 public:
-    /// Covers the view's viewport. `tools` must outlive this.
+    /// Covers the view's viewport. Out of use once `tools` are gone, which may be before the view is.
     LaserPointer(QGraphicsView *view, const ToolChoice *tools);
 
     /// Shows the dot at a place (scene coordinates), as a mirror of another view's does.
@@ -41,13 +42,14 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool isInUse() const;
     bool usePointer(QEvent *event);
     void followTool();
     void hidePointer();
     void step();
 
     QGraphicsView *m_view;
-    const ToolChoice *m_tools;
+    QPointer<const ToolChoice> m_tools;
     LaserTrail m_trail;
     QElapsedTimer m_clock;
     QTimer m_frames;
