@@ -424,7 +424,10 @@ void TestShapeTool::checkFindsPlantedFaults_data()
     row("doesn't save its property", "forgetting", "answers");
     row("can't be undone", "undoless", "answers");
     row("has no English text", "german", "settings");
+#ifndef __SANITIZE_ADDRESS__
+    // The sanitizer's own allocator doesn't count what is in use, and would report the loss itself.
     row("loses memory", "leaking", "memory");
+#endif
     row("uses a node that isn't there", "unknown/template.svg", "K04");
     if (m_checkedCode >= 0)
         return;
