@@ -433,7 +433,8 @@ void TestShapeTool::checkFindsPlantedFaults_data()
         return;
     const Run check = run({QStringLiteral("check"), QStringLiteral("--json"), QStringLiteral(FAULTY_SHAPES)});
     m_checkedCode = check.exitCode;
-    for (const QJsonValue &finding : QJsonDocument::fromJson(check.output.toUtf8()).array())
+    const QJsonArray findings = QJsonDocument::fromJson(check.output.toUtf8()).array();
+    for (const QJsonValue &finding : findings)
         m_found[finding.toObject()[QStringLiteral("file")].toString()].append(
             finding.toObject()[QStringLiteral("code")].toString());
 }
