@@ -111,7 +111,10 @@ void outlineHoldsTheDrawingAndTheControlPoints(const Subject &subject, Report &r
         }
     }
     report.expect(missed * 5 <= painted,
-                  QStringLiteral("%1 of %2 dark places can't be grasped").arg(missed).arg(painted));
+                  QStringLiteral("%1 of %2 dark places can't be grasped, since they are outside of \"figure\", "
+                                 "\"figure_...\" and \"area\"")
+                      .arg(missed)
+                      .arg(painted));
 }
 
 void smallestSizeCanBeDrawnAndLeft(const Subject &subject, Report &report)

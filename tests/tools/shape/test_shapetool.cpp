@@ -1,6 +1,7 @@
 // The command line tool for authors of shapes, run as they run it.
 
 #include <QtCore/QDir>
+#include <QtCore/QDirIterator>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void badNamesAreRefused();
     void examplesKeepEveryPromise_data();
     void examplesKeepEveryPromise();
+    void shapesOfTheBoardHaveNoFaults();
     void iconsBecomeShapes();
     void everyIconOfAFolderPaints();
     void idsOfIconsMeanNothing();
@@ -269,16 +271,18 @@ void TestShapeTool::badNamesAreRefused()
 
 void TestShapeTool::examplesKeepEveryPromise_data()
 {
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"nut", "speechcloud", "barchart", "spiral", "trafficlight"})
-        QTest::newRow(name) << QString::fromLatin1(name);
+    QTest::addColumn<QString>("file");
+    const QFileInfoList files =
+        QDir(QStringLiteral(EXAMPLE_FOLDER)).entryInfoList({QStringLiteral("*.shape.svg")}, QDir::Files);
+    QVERIFY(files.size() >= 10);
+    for (const QFileInfo &file : files)
+        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
 }
 
 /// Shapes as authors make them, without C++.
 void TestShapeTool::examplesKeepEveryPromise()
 {
-    QFETCH(QString, name);
-    const QString file = QStringLiteral(EXAMPLE_FOLDER "/%1.shape.svg").arg(name);
+    QFETCH(QString, file);
     QVERIFY(read(file).count('\n') <= 60);
     const Run lint = run({QStringLiteral("lint"), file});
     QCOMPARE(lint.output, QString());
@@ -286,6 +290,21 @@ void TestShapeTool::examplesKeepEveryPromise()
     const Run check = run({QStringLiteral("check"), file});
     QCOMPARE(check.output, QString());
     QCOMPARE(check.exitCode, 0);
+}
+
+void TestShapeTool::shapesOfTheBoardHaveNoFaults()
+{
+    QStringList files;
+    QDirIterator found(QStringLiteral(SHAPE_FOLDER),
+                       {QStringLiteral("*.shape.svg"), QStringLiteral("template.svg")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (found.hasNext())
+        files.append(found.next());
+    QVERIFY(files.size() >= 50);
+    const Run lint = run(QStringList{QStringLiteral("lint")} + files);
+    QCOMPARE(lint.output, QString());
+    QCOMPARE(lint.errors, QString());
+    QCOMPARE(lint.exitCode, 0);
 }
 
 void TestShapeTool::everyIconOfAFolderPaints()
