@@ -32,7 +32,8 @@ if(CCACHE_PROGRAM)
 endif()
 
 if(GLIOLOLOK_SANITIZE)
-    add_compile_options(-fsanitize=${GLIOLOLOK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # Reports need line numbers alone: full debug information would double the size of the build.
+    add_compile_options(-fsanitize=${GLIOLOLOK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
     add_link_options(-fsanitize=${GLIOLOLOK_SANITIZE})
 endif()
 
@@ -45,10 +46,12 @@ function(gliololok_symbol_versions target name)
     set_target_properties(${target} PROPERTIES LINK_DEPENDS "${script}")
 endfunction()
 
-# gliololok_own_code(<target> [PCH_FROM <other>]): our warnings for our own code, and a precompiled header, its own or that
-# of another target of the same kind (compiling one takes longer than most of our files).
+# gliololok_own_code(<target> [PCH_FROM <other> | PCH_FOR_OTHERS]): our warnings for our own code, and a precompiled header,
+# its own or that of another target of the same kind. Compiling one takes longer than a few of our files, and 150 MB: small
+# targets that lend it to no others have none.
+set(GLIOLOLOK_FEWEST_SOURCES_FOR_PCH 5)
 function(gliololok_own_code target)
-    cmake_parse_arguments(ARG "" "PCH_FROM" "" ${ARGN})
+    cmake_parse_arguments(ARG "PCH_FOR_OTHERS" "PCH_FROM" "" ${ARGN})
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align
                                              -Wno-overloaded-virtual)
     if(GLIOLOLOK_WARNINGS_AS_ERRORS)
@@ -62,7 +65,11 @@ function(gliololok_own_code target)
     endif()
     if(ARG_PCH_FROM)
         target_precompile_headers(${target} REUSE_FROM ${ARG_PCH_FROM})
-    else()
+        return()
+    endif()
+    get_target_property(sources ${target} SOURCES)
+    list(LENGTH sources count)
+    if(ARG_PCH_FOR_OTHERS OR count GREATER_EQUAL GLIOLOLOK_FEWEST_SOURCES_FOR_PCH)
         target_precompile_headers(${target} PRIVATE <QtCore/QtCore> <QtGui/QPainter> <QtGui/QPainterPath>
                                                     <QtWidgets/QGraphicsItem>)
     endif()

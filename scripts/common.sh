@@ -78,6 +78,13 @@ prepare() {
     esac
 }
 
+# build_failed PRESET: compilers whose disk is full often end without a word.
+build_failed() {
+    local free
+    free=$(df --output=avail -h "$root" | tail -n 1)
+    fail "The $1 build failed. The disk has ${free// /} left."
+}
+
 # build PRESET [TARGET...]: configures and builds; without targets, everything.
 build() {
     local preset=$1
@@ -85,5 +92,5 @@ build() {
     say "Configuring the $preset build in build/$preset"
     (cd "$root" && cmake --preset "$preset") || fail "The $preset build could not be configured."
     say "Building ($jobs jobs)"
-    cmake --build "$root/build/$preset" --parallel "$jobs" ${1:+--target "$@"} || fail "The $preset build failed."
+    cmake --build "$root/build/$preset" --parallel "$jobs" ${1:+--target "$@"} || build_failed "$preset"
 }
