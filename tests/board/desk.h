@@ -9,6 +9,8 @@
 
 #include <pagehost/page.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
@@ -50,7 +52,7 @@ struct Desk
         line->setFocus();
         line->setText(file);
         QTest::keyClick(line, Qt::Key_Return);
-        QTRY_VERIFY(!board.window().findChild<QFileDialog *>());
+        QTRY_VERIFY_WITH_TIMEOUT(!board.window().findChild<QFileDialog *>(), support::patience);
     }
     bool isAsked() const { return board.window().findChild<QMessageBox *>() != nullptr; }
     QString notices() const

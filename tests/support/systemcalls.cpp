@@ -1,5 +1,7 @@
 #include "support/systemcalls.h"
 
+#include "support/patience.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QHash>
 #include <QtCore/QProcess>
@@ -15,8 +17,6 @@
 namespace support {
 
 namespace {
-
-constexpr int patience = 60000; ///< milliseconds; only for a strace that hangs
 
 /// A copy of this process that waits for a byte, works, and ends.
 struct Copy

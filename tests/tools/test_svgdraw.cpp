@@ -1,5 +1,7 @@
 // Runs svgdraw as people do.
 
+#include <support/patience.h>
+
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
@@ -18,7 +20,7 @@ Outcome svgdraw(const QStringList &arguments)
 {
     QProcess process;
     process.start(QStringLiteral(SVGDRAW), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(support::patience) || process.exitStatus() != QProcess::NormalExit)
         return Outcome();
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardError()),
             QString::fromUtf8(process.readAllStandardOutput())};

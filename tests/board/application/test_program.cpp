@@ -5,6 +5,8 @@
 #include <pagehost/documentfile.h>
 #include <pagehost/lesson.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QProcess>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -30,7 +32,7 @@ static Outcome run(const QStringList &arguments)
     process.setProcessEnvironment(environment);
     process.start(BOARD_PROGRAM, arguments);
     Outcome outcome;
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(support::patience) || process.exitStatus() != QProcess::NormalExit)
         return outcome;
     outcome.code = process.exitCode();
     outcome.out = QString::fromUtf8(process.readAllStandardOutput());
@@ -329,10 +331,10 @@ void TestProgram::theFileThatIsGivenOpensInTheWindow()
     // The opened file is offered again.
     const QString settings = folder.filePath("gliololok/gliololok-board.conf");
     QTRY_COMPARE_WITH_TIMEOUT(QSettings(settings, QSettings::IniFormat).value("recentFiles").toStringList(),
-                              QStringList{file}, 60000);
+                              QStringList{file}, support::patience);
     QCOMPARE(process.state(), QProcess::Running);
     process.kill();
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(support::patience));
 }
 
 void TestProgram::optionsAreRead()

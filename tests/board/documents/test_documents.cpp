@@ -14,6 +14,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QMimeData>
@@ -339,7 +341,7 @@ void TestDocuments::aFullDiskIsToldAndLosesNothing()
     QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{name});
     desk.board.key(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!desk.board.window().isWindowModified());
-    QTRY_VERIFY(!desk.notices().contains("was not saved"));
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.notices().contains("was not saved"), support::patience);
 }
 
 void TestDocuments::aFileThatIsNoBoardIsRefusedWithAReason()
@@ -406,7 +408,7 @@ void TestDocuments::aDamagedBoardIsKeptBesideTheOneThatTakesItsName()
         pagehost::openDocument(desk.path("half.board"), desk.board.workspace().registry());
     QCOMPARE(saved.document->page(0)->objectCount(), desk.objectCount());
     // Now it is whole: the next save is a plain one.
-    QTRY_VERIFY(!desk.isAsked());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.isAsked(), support::patience);
     desk.board.draw(arrow, {100, 100}, {200, 200});
     desk.board.key(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!desk.board.window().isWindowModified());
@@ -495,7 +497,7 @@ void TestDocuments::anExistingFileIsNotReplacedBehindASuffix()
     desk.press("Cancel");
     QCOMPARE(QFileInfo(other).size(), qint64(8));
     QVERIFY(desk.board.window().isWindowModified());
-    QTRY_VERIFY(!desk.isAsked());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.isAsked(), support::patience);
     desk.saveAs("lesson.v2");
     desk.press("Replace");
     QVERIFY(QFileInfo(other).size() > 8);

@@ -4,6 +4,8 @@
 
 #include <pagehost/autosave.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QLocale>
 #include <QtWidgets/QAction>
 
@@ -88,12 +90,12 @@ void TestRecovery::workOfACrashIsDeletedAfterAQuestionOnly()
     QVERIFY(desk.isAsked());
     desk.press("Cancel");
     QCOMPARE(desk.board.window().recovery()->autosave().recoverable().size(), 1);
-    QTRY_VERIFY(!desk.isAsked());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.isAsked(), support::patience);
     // It is still offered.
     desk.press("Delete…");
     desk.press("Delete for ever");
     QVERIFY(desk.board.window().recovery()->autosave().recoverable().isEmpty());
-    QTRY_COMPARE(desk.notices(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(desk.notices(), QString(), support::patience);
     QCOMPARE(desk.objectCount(), 1);
 }
 

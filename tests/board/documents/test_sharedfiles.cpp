@@ -6,6 +6,8 @@
 
 #include <pagehost/documentfile.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QDir>
 #include <QtWidgets/QAction>
 
@@ -101,7 +103,7 @@ void TestSharedFiles::keepMineOverwrites()
     QCOMPARE(desk.pagesIn(desk.name), 1);
     QVERIFY(!desk.board.window().isWindowModified());
     // The board knows what is there now.
-    QTRY_VERIFY(!desk.isAsked());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.isAsked(), support::patience);
     desk.iSave();
     QVERIFY(!desk.isAsked());
     QCOMPARE(desk.objectsIn(desk.name), 3);
@@ -151,7 +153,8 @@ void TestSharedFiles::changeByAnotherProgramIsToldWhileTheBoardIsOpen()
     SharedDesk desk;
     desk.theySave();
     // The system tells the board; nobody has to do anything.
-    QTRY_VERIFY_WITH_TIMEOUT(desk.notices().contains("“lesson.board” was changed by somebody else."), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(desk.notices().contains("“lesson.board” was changed by somebody else."),
+                             support::patience);
     QCOMPARE(desk.objectCount(), 1);
 }
 
@@ -163,7 +166,7 @@ void TestSharedFiles::changeThatIsToldCanBeTakenAtOnce()
     desk.press("Decide…");
     desk.press("Take theirs");
     QCOMPARE(desk.board.workspace().document()->pageCount(), 2);
-    QTRY_COMPARE(desk.notices(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(desk.notices(), QString(), support::patience);
 }
 
 /// As most programs save, and as this one does.
@@ -194,7 +197,7 @@ void TestSharedFiles::fileThatIsGoneIsToldOfAndWrittenAgain()
     desk.documents().save();
     QVERIFY(!desk.isAsked());
     QCOMPARE(desk.contents("lesson.board"), bytes);
-    QTRY_COMPARE(desk.notices(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(desk.notices(), QString(), support::patience);
 }
 
 void TestSharedFiles::ownSavesAreNoChanges()

@@ -8,6 +8,8 @@
 #include <pagehost/commands.h>
 #include <pagehost/document.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -51,7 +53,7 @@ struct ExportDesk
         auto *line = dialog->findChild<QLineEdit *>();
         line->setText(folder.path());
         QTest::keyClick(line, Qt::Key_Return);
-        QTRY_VERIFY(!board.window().findChild<QFileDialog *>());
+        QTRY_VERIFY_WITH_TIMEOUT(!board.window().findChild<QFileDialog *>(), support::patience);
     }
     void exportPictures() { exportWith(board.window().actions()->exportPages); }
     void exportDrawings() { exportWith(board.window().actions()->exportSvg); }
@@ -61,7 +63,7 @@ struct ExportDesk
         QPushButton *button = board.button(text);
         QVERIFY(button);
         QTest::mouseClick(button, Qt::LeftButton);
-        QTRY_VERIFY(!question());
+        QTRY_VERIFY_WITH_TIMEOUT(!question(), support::patience);
     }
 
     BoardDriver board;
@@ -117,7 +119,7 @@ void TestExporting::returnOnTheQuestionReplacesNothing()
     QVERIFY(t.question());
     QVERIFY(QTest::qWaitForWindowActive(t.question()));
     QTest::keyClick(t.question(), Qt::Key_Return);
-    QTRY_VERIFY(!t.question());
+    QTRY_VERIFY_WITH_TIMEOUT(!t.question(), support::patience);
     QCOMPARE(t.files(), QStringList{"page-1.png"});
     QCOMPARE(t.read("page-1.png"), somebodysWork);
 }
@@ -178,7 +180,7 @@ void TestExporting::cancellingTheFolderWritesNothing()
     QVERIFY(dialog);
     dialog->setDirectory(t.folder.path());
     dialog->reject();
-    QTRY_VERIFY(!t.board.window().findChild<QFileDialog *>());
+    QTRY_VERIFY_WITH_TIMEOUT(!t.board.window().findChild<QFileDialog *>(), support::patience);
     QVERIFY(!t.question());
     QCOMPARE(t.files(), QStringList());
 }

@@ -7,6 +7,8 @@
 #include <window/mainwindow.h>
 #include <window/shapefolder.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
@@ -77,7 +79,7 @@ void TestShapeFolder::newShapeIsInThePalette()
     QVERIFY(!isThere());
     QString problem;
     QVERIFY2(!board::writeNewShape("Small <kite>", &problem).isEmpty(), qPrintable(problem));
-    QTRY_VERIFY(isThere());
+    QTRY_VERIFY_WITH_TIMEOUT(isThere(), support::patience);
 }
 
 void TestShapeFolder::secondShapeOfANameLeavesTheFirst()

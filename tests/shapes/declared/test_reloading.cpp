@@ -5,6 +5,8 @@
 #include <svgbase/qzesvgtinydocument.h>
 #include <svgobj/csvgbase.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QSaveFile>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 #include <QtWidgets/QUndoStack>
@@ -461,10 +463,10 @@ void TestReloading::replacedFilesAreNoticed()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(barFile(colour));
         QVERIFY(file.commit());
-        QTRY_VERIFY_WITH_TIMEOUT(bar()->shapeKind().declaration().text.contains(colour), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(bar()->shapeKind().declaration().text.contains(colour), support::patience);
     }
     QVERIFY(QFile::remove(m_machine->pathOf(name)));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_machine->registry().hasKind(barKind), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_machine->registry().hasKind(barKind), support::patience);
 }
 
 void TestReloading::fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond()
@@ -476,7 +478,7 @@ void TestReloading::fileThatIsWrittenWithoutAPauseIsReadAfterAQuarterOfASecond()
     QVERIFY(!watch.tellLater());
     QCOMPARE(ShapeWatch::quietTime * ShapeWatch::mostWaits, 250);
     QSignalSpy told(&watch, &ShapeWatch::changed);
-    QVERIFY(told.wait());
+    QVERIFY(told.wait(support::patience));
     QCOMPARE(told.count(), 1);
     QVERIFY(watch.tellLater());
 }

@@ -6,6 +6,8 @@
 
 #include <svgobj/csvgobj.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QSaveFile>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -82,10 +84,10 @@ void TestPreview::shapeIsShownInItsSize()
 void TestPreview::savedFileIsShownAtOnce()
 {
     save(boxOf(90));
-    QTRY_COMPARE(shownWidth(), 90.0);
+    QTRY_COMPARE_WITH_TIMEOUT(shownWidth(), 90.0, support::patience);
     // The file that replaced the first one is followed, too.
     save(boxOf(120));
-    QTRY_COMPARE(shownWidth(), 120.0);
+    QTRY_COMPARE_WITH_TIMEOUT(shownWidth(), 120.0, support::patience);
 }
 
 void TestPreview::faultyFileLeavesTheLastGoodShape()
@@ -107,7 +109,7 @@ void TestPreview::missingFileIsToldAndAwaited()
     QVERIFY(!m_window->shape());
     QVERIFY(m_window->messages().contains(QLatin1String("there is no ")));
     save(boxOf(60));
-    QTRY_VERIFY(m_window->shape());
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->shape(), support::patience);
 }
 
 void TestPreview::answerIsAnUndoStepAndIsShownInTheState()
