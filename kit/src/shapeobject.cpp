@@ -3,6 +3,7 @@
 #include <svgobj/csvgbase.h>
 
 #include <QtCore/QThread>
+#include <QtWidgets/QGraphicsSceneMouseEvent>
 
 namespace shapekit {
 
@@ -56,6 +57,18 @@ void ShapeObject::OnQPainterDraw(QPainter *painter)
     if (core() && createThreadId == QThread::currentThreadId())
         core()->settleDrawing();
     CSVGObj::OnQPainterDraw(painter);
+}
+
+void finishCreation(CSVGObj &object)
+{
+    QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
+    press.setButton(Qt::LeftButton);
+    press.setScenePos(object.getPos());
+    object.mousePressEvent(&press);
+    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+    release.setButton(Qt::LeftButton);
+    release.setScenePos(object.getPos());
+    object.mouseReleaseEvent(&release);
 }
 
 } // namespace shapekit

@@ -31,4 +31,14 @@ private:
     const Kind &m_kind;
 };
 
+/// Ends the creating state of a new object as a click at its place does: it gets the size of its shape.
+SHAPEKIT_EXPORT void finishCreation(CSVGObj &object);
+
+/// The core of a page object; null for an object without a core of that class.
+template<typename Core> Core *coreOf(CBaseObject *object)
+{
+    const auto *shape = dynamic_cast<ShapeObject *>(object);
+    return shape ? dynamic_cast<Core *>(shape->core()) : nullptr;
+}
+
 } // namespace shapekit

@@ -7,7 +7,6 @@
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
-#include <QtWidgets/QGraphicsSceneMouseEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -22,18 +21,6 @@ const shapekit::Text pointsText("Points", "Punkte");
 constexpr int pointsAction = 1190;
 constexpr int widestPen = 40;
 
-void click(CSVGObj &object)
-{
-    QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
-    press.setButton(Qt::LeftButton);
-    press.setScenePos(object.getPos());
-    object.mousePressEvent(&press);
-    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
-    release.setButton(Qt::LeftButton);
-    release.setScenePos(object.getPos());
-    object.mouseReleaseEvent(&release);
-}
-
 } // namespace
 
 Ink::Ink(CSVGObj *owner)
@@ -45,8 +32,7 @@ Ink::Ink(CSVGObj *owner)
 
 Ink *Ink::of(CBaseObject *object)
 {
-    auto *shape = dynamic_cast<shapekit::ShapeObject *>(object);
-    return shape ? dynamic_cast<Ink *>(shape->core()) : nullptr;
+    return shapekit::coreOf<Ink>(object);
 }
 
 void Ink::begin(const QVector<StrokePoint> &points, const QColor &color, double width)
@@ -59,7 +45,7 @@ void Ink::begin(const QVector<StrokePoint> &points, const QColor &color, double 
     for (const StrokePoint &point : points)
         own.append(savedPoint({point.place - origin, point.pressure}));
     takePoints(own);
-    click(*owner);
+    shapekit::finishCreation(*owner);
     owner->setPos(origin + document->viewBox().topLeft(), false);
 }
 

@@ -7,7 +7,6 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QXmlStreamWriter>
-#include <QtWidgets/QGraphicsSceneMouseEvent>
 
 #include <algorithm>
 
@@ -102,18 +101,6 @@ void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<Te
     writer.writeEndElement();
 }
 
-void click(CSVGObj &object)
-{
-    QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
-    press.setButton(Qt::LeftButton);
-    press.setScenePos(object.getPos());
-    object.mousePressEvent(&press);
-    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
-    release.setButton(Qt::LeftButton);
-    release.setScenePos(object.getPos());
-    object.mouseReleaseEvent(&release);
-}
-
 } // namespace
 
 Writing::Writing(CSVGObj *owner)
@@ -130,8 +117,7 @@ Writing::Writing(CSVGObj *owner)
 
 Writing *Writing::of(CBaseObject *object)
 {
-    auto *shape = dynamic_cast<shapekit::ShapeObject *>(object);
-    return shape ? dynamic_cast<Writing *>(shape->core()) : nullptr;
+    return shapekit::coreOf<Writing>(object);
 }
 
 void Writing::begin(const QColor &color, double fontSize)
@@ -139,7 +125,7 @@ void Writing::begin(const QColor &color, double fontSize)
     setPenColor(color, false);
     m_fontSize = fontSize;
     rebuild();
-    click(*owner);
+    shapekit::finishCreation(*owner);
 }
 
 void Writing::wrapTo(double width)
