@@ -85,6 +85,11 @@ COMPONENTS = [
         headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
     ),
     Component(
+        ["shapes/line"],
+        prefixes=("line/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
+        headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
+    ),
+    Component(
         ["shapes/text"],
         prefixes=("text/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
         headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),

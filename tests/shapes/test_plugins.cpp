@@ -73,6 +73,7 @@ constexpr KnownShape knownShapes[] = {
     {"gears", 38, 0, "Gears", "Zahnräder", "Science"},
     {"ink", 41, 0, "Stroke", "Strich", ""},
     {"text", 42, 0, "Text", "Text", ""},
+    {"line", 43, 3, "Line", "Linie", ""},
     {"table", 1000, 1, "Table", "Tabelle", "Basic shapes"},
 };
 

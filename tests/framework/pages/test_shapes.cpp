@@ -376,7 +376,8 @@ void TestShapes::everyKindHasAName()
     QVERIFY(localizer().hasText(QStringLiteral("en"), registry().kind(kind).nameKey));
     // Kinds that only tools make have no group.
     const QString group = registry().kind(kind).group;
-    const QStringList withoutGroup{QStringLiteral("shapes.ink"), QStringLiteral("shapes.text")};
+    const QStringList withoutGroup{QStringLiteral("shapes.ink"), QStringLiteral("shapes.line"),
+                                   QStringLiteral("shapes.text")};
     QCOMPARE(group.isEmpty(), withoutGroup.contains(kind));
     QVERIFY(group.isEmpty() || localizer().hasText(QStringLiteral("en"), group));
 }

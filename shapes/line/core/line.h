@@ -1,0 +1,63 @@
+#pragma once
+
+#include "line/core/linecourse.h"
+
+#include <shapekit/shape.h>
+
+class CBaseObject;
+
+namespace line {
+
+/// A line between two points that the user drags anywhere, with a third point that bends it, and with arrow heads
+/// or dots at its ends. Its box fits it.
+class Line : public shapekit::ShapeOfType<43>
+{
+public:
+    enum End { Plain, Arrow, Dot };
+
+    explicit Line(CSVGObj *owner);
+
+    /// The line of a page object; null for an object that is none.
+    static Line *of(CBaseObject *object);
+
+    /// Makes a new object, in the creating state, a line that begins and ends at a place (scene coordinates).
+    void begin(QPointF place, const QColor &color, double width, End end);
+    /// Gives a line that is being drawn another end (scene coordinates), and records it; `bend` as in LineCourse.
+    void drawTo(QPointF end, QPointF bend);
+
+    void setSize(QSizeF oldSize, QSizeF newSize) override;
+    void notifyObjectCreated() override {}
+    bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
+    bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
+    void setPenWidth(int width, bool record) override;
+    QSizeF getDefaultSVGSize() override;
+    int getMaxPenWidth() override;
+
+protected:
+    QRectF range(int number) override;
+    QSizeF smallestSize() const override { return {1, 1}; }
+    QPointF wantedPoint(int number) override;
+    void pointMoved(int number, QPointF centre) override;
+    void propertyChanged(const shapekit::Property *property) override;
+    void draw() override;
+
+private:
+    double headLength();
+    double margin();
+    void keep(const LineCourse &course);
+    void take(const LineCourse &course);
+    /// The smallest view box with room for the line and its heads.
+    QRectF fittingBox();
+    /// The view box of an object of that size, with the line in its middle.
+    QRectF boxOfSize(const QSizeF &size);
+    /// Changes the box as the fitting one has changed since `before`; the line stays where it is on the page.
+    void fitBox(const QRectF &before);
+    void addHead(shapekit::PathText &path, End end, QPointF tip, QPointF direction);
+
+    LineCourse m_course; ///< decoded from the property
+    shapekit::Choice m_startEnd;
+    shapekit::Choice m_endEnd;
+    shapekit::DataValue m_saved;
+};
+
+} // namespace line
