@@ -16,8 +16,7 @@ MenuEntry separator()
 
 MenuEntry orderMenu()
 {
-    return {"IDS_BOARD_ORDER",
-            {Command::BringToFront, Command::BringForward, Command::SendBackward, Command::SendToBack}};
+    return {"IDS_BOARD_ORDER", orderMenuPlan()};
 }
 
 MenuEntry alignMenu()
@@ -123,6 +122,11 @@ MenuPlan mainMenuPlan()
     return {{"IDS_BOARD_FILE", filePlan()}, {"IDS_BOARD_EDIT", editPlan()},  {"IDS_BOARD_ARRANGE", arrangePlan()},
             {"IDS_BOARD_PAGE", pagePlan()}, {"IDS_BOARD_TOOLS", toolPlan()}, {"IDS_LESSON_MENU", lessonPlan()},
             {"IDS_BOARD_VIEW", viewPlan()}, {"IDS_BOARD_HELP", helpPlan()}};
+}
+
+MenuPlan orderMenuPlan()
+{
+    return {Command::BringToFront, Command::BringForward, Command::SendBackward, Command::SendToBack};
 }
 
 MenuPlan objectMenuPlan()

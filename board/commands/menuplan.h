@@ -32,6 +32,8 @@ using MenuPlan = QVector<MenuEntry>;
 /// The menus of the window, which have every command.
 MenuPlan mainMenuPlan();
 
+/// The place of objects above and below others.
+MenuPlan orderMenuPlan();
 /// Menus of what is under the pointer.
 MenuPlan objectMenuPlan();
 MenuPlan pageMenuPlan();

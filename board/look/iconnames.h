@@ -58,6 +58,7 @@ enum class Icon {
     Search,
     Lock,
     Curtain,
+    LineWidth,
     EndPresenting
 };
 

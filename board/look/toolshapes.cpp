@@ -12,6 +12,16 @@ IconShape selectShape()
     return shape;
 }
 
+/// Three lines, each thicker than the one above.
+IconShape lineWidthShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{4, 6}, {20, 6}});
+    shape.areas.addRect(QRectF(3, 10.5, 18, 3));
+    shape.areas.addRect(QRectF(3, 16, 18, 5));
+    return shape;
+}
+
 IconShape curtainShape()
 {
     IconShape shape;
@@ -262,6 +272,8 @@ IconShape toolShape(Icon which)
         return lockShape();
     case Icon::Curtain:
         return curtainShape();
+    case Icon::LineWidth:
+        return lineWidthShape();
     case Icon::EndPresenting:
         return endPresentingShape();
     default:

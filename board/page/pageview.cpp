@@ -86,6 +86,10 @@ void PageView::setPage(pagehost::Page *page)
 
 void PageView::followPage()
 {
+    const QVector<CBaseObject *> objects = m_page->objects();
+    for (CBaseObject *object : objects)
+        hideMirrorHandles(object);
+    connect(m_page, &pagehost::Page::objectAdded, this, &PageView::hideMirrorHandles);
     // Only the hint of an empty page is the view's own; objects ask for repaints themselves.
     connect(m_page, &pagehost::Page::objectAdded, viewport(), QOverload<>::of(&QWidget::update));
     connect(m_page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
@@ -93,6 +97,13 @@ void PageView::followPage()
     m_fitted ? showFitted() : updateSceneArea();
     if (m_page->document())
         m_page->document()->setZoomRate(m_zoom);
+}
+
+/// Mirroring is a command. Its handles would lie on neighbours and take their clicks.
+void PageView::hideMirrorHandles(CBaseObject *object)
+{
+    object->setHandlesDisable(CObjAction::ACT_MirrorHorizontal, true);
+    object->setHandlesDisable(CObjAction::ACT_MirrorVertical, true);
 }
 
 void PageView::setBare(bool bare)
@@ -309,6 +320,11 @@ CBaseObject *PageView::objectAt(const QPoint &pos) const
         if (auto *object = dynamic_cast<CBaseObject *>(item))
             return object;
     return nullptr;
+}
+
+bool PageView::isWriting() const
+{
+    return m_labelEditor;
 }
 
 bool PageView::canWriteLabel() const

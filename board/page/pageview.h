@@ -66,6 +66,7 @@ public:
     void settle();
     /// The effect of the Esc key: takes back what is going on, else gives the tool up, else deselects.
     void cancel();
+    bool isWriting() const;
     /// Whether the only selected object has a label that can be written.
     bool canWriteLabel() const;
     /// Begins to write the first label of the only selected object. False where there is none.
@@ -108,6 +109,7 @@ protected:
 
 private:
     bool isNewBoard() const;
+    static void hideMirrorHandles(CBaseObject *object);
     void acceptDrag(QDropEvent *event) const;
     bool wantsToPan(const QMouseEvent *event) const;
     void panTo(const QPoint &pos);

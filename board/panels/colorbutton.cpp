@@ -11,6 +11,8 @@ namespace {
 constexpr QSize buttonSize(52, 30);
 constexpr int swatchInset = 5;
 constexpr double swatchRadius = 4;
+/// Of a swatch that stands for an outline.
+constexpr double outlineWidth = 4;
 constexpr double disabledOpacity = 0.35;
 const QString mixedSign = QStringLiteral("—");
 
@@ -46,6 +48,12 @@ void ColorButton::setMixed()
     update();
 }
 
+void ColorButton::showAsOutline()
+{
+    m_isOutline = true;
+    update();
+}
+
 QSize ColorButton::sizeHint() const
 {
     return buttonSize;
@@ -64,6 +72,11 @@ void ColorButton::paintEvent(QPaintEvent *event)
         return;
     }
     paintSwatch(&painter, area.adjusted(0.5, 0.5, -0.5, -0.5), swatchRadius, m_color);
+    if (!m_isOutline)
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(area.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth), 2, 2);
 }
 
 } // namespace board

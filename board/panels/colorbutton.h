@@ -23,6 +23,8 @@ public:
     /// Shows that there are several colours; choosing begins at the last one shown.
     void setMixed();
     bool isMixed() const { return m_mixed; }
+    /// Shows the colour as that of an outline.
+    void showAsOutline();
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -35,6 +37,7 @@ protected:
 private:
     QColor m_color = Qt::black;
     bool m_mixed = false;
+    bool m_isOutline = false;
     ColorPopup *m_popup;
 };
 

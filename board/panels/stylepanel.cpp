@@ -5,6 +5,7 @@
 #include "panels/fillcontrols.h"
 #include "panels/pencontrols.h"
 #include "panels/placecontrols.h"
+#include "panels/selectionfill.h"
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
@@ -17,8 +18,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
-#include <algorithm>
-
 namespace board {
 
 namespace {
@@ -26,21 +25,6 @@ namespace {
 /// Lighter lines are not seen on paper.
 constexpr int lightestPattern = 235;
 constexpr QRgb patternColor = 0xffb4bfcc;
-
-bool takesFill(const CBaseObject &object, const pagehost::ObjectStyle &style)
-{
-    return style.hasFill && object.getFillProp();
-}
-
-/// Those of the objects that take a fill.
-QVector<CBaseObject *> filledOf(const QVector<CBaseObject *> &objects)
-{
-    QVector<CBaseObject *> filled;
-    for (CBaseObject *object : objects)
-        if (takesFill(*object, pagehost::styleOf(object)))
-            filled.append(object);
-    return filled;
-}
 
 /// Of a page of which the user only knows that it is white, a pattern in its colour would show nothing.
 CPageBgProp seenOnPaper(CPageBgProp fill, const CPageBgProp &present)
@@ -50,11 +34,6 @@ CPageBgProp seenOnPaper(CPageBgProp fill, const CPageBgProp &present)
     if (becomesPattern && fill.fillColor().lightness() > lightestPattern)
         fill.setFillColor(QColor(patternColor));
     return fill;
-}
-
-bool isPlain(const CPageBgProp &fill)
-{
-    return fill.isFillEnable() && fill.fillType() == CPageBgProp::SolidFill;
 }
 
 } // namespace
@@ -100,7 +79,8 @@ void StylePanel::connectControls()
             [this](int width) { pagehost::setPenWidth(selection(), width); });
     connect(m_pen, &PenControls::stylePicked, this,
             [this](Qt::PenStyle style) { pagehost::setPenStyle(selection(), style); });
-    connect(m_fill, &FillControls::fillPicked, this, &StylePanel::takeFill);
+    connect(m_fill, &FillControls::fillPicked, this,
+            [this](const CPageBgProp &fill) { giveFill(selection(), fill); });
     connect(m_fill, &FillControls::opacityPicked, this, &StylePanel::takeOpacity);
     connect(m_background, &FillControls::fillPicked, this, [this](const CPageBgProp &fill) {
         if (m_page)
@@ -144,21 +124,6 @@ QVector<CBaseObject *> StylePanel::selection() const
     return m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
 }
 
-void StylePanel::takeFill(const CPageBgProp &fill)
-{
-    const QVector<CBaseObject *> objects = filledOf(selection());
-    if (objects.isEmpty())
-        return;
-    QColor color = fill.fillColor();
-    color.setAlpha(fill.opacity());
-    const bool allPlain = std::all_of(objects.begin(), objects.end(),
-                                      [](const CBaseObject *object) { return isPlain(*object->getFillProp()); });
-    if (isPlain(fill) && allPlain)
-        pagehost::setFill(objects, color);
-    else
-        pagehost::setObjectsFill(objects, fill);
-}
-
 /// Each keeps the rest of its fill.
 void StylePanel::takeOpacity(int opacity)
 {
@@ -197,7 +162,7 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
     QVector<CPageBgProp> fills;
     for (CBaseObject *object : objects) {
         styles.append(pagehost::styleOf(object));
-        if (takesFill(*object, styles.last()))
+        if (styles.last().hasFill && object->getFillProp())
             fills.append(*object->getFillProp());
     }
     m_pen->showStyles(styles);

@@ -35,7 +35,6 @@ private:
     void refresh();
     void showObjects(const QVector<CBaseObject *> &objects);
     void takeOpacity(int opacity);
-    void takeFill(const CPageBgProp &fill);
     QVector<CBaseObject *> selection() const;
 
     const Workspace *m_workspace;

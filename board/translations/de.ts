@@ -1200,5 +1200,9 @@
         <source>The shape could not be written</source>
         <translation>Die Form konnte nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>Bar at the selection</source>
+        <translation>Leiste an der Auswahl</translation>
+    </message>
 </context>
 </TS>

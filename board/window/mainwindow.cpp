@@ -45,6 +45,7 @@
 #include "window/shapetool.h"
 #include "window/shelf.h"
 #include "window/sidepanel.h"
+#include "window/stylebar.h"
 #include "window/topbar.h"
 
 #include <pagehost/animationplayer.h>
@@ -126,6 +127,7 @@ MainWindow::MainWindow(Workspace *workspace)
         m_lock.add(part);
     connectParts();
     connectTools();
+    addStyleBar();
     connectLessons();
     connectAnimation();
     connectDocument();
@@ -400,6 +402,14 @@ void MainWindow::connectTools()
         m_palette->showWaitingKind(m_shapeTool->waitingKind());
         showHint();
     });
+}
+
+/// The panel shows the same, and more.
+void MainWindow::addStyleBar()
+{
+    auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
+    connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
+    bar->setReplaced(m_panel->isOpen());
 }
 
 void MainWindow::connectParts()

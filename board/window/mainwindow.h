@@ -99,6 +99,7 @@ private:
     void connectPanels();
     void addMenus();
     void addDockMenu();
+    void addStyleBar();
     void layOut();
     void followDrag(const QPoint &pos);
     void chooseShape();

@@ -65,14 +65,15 @@ void ObjectForm::addRow(const FormRow &row)
     ValueEditor *editor = row.makeEditor();
     editor->setName(row.caption);
     auto *layout = new QBoxLayout(editor->isWide() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const bool takesShare = !editor->isWide() && !m_isCompact;
     layout->setSpacing(editor->isWide() ? smallGap : mediumGap);
     if (editor->hasCaption()) {
         auto *caption = new QLabel(row.caption, m_content);
         caption->setForegroundRole(QPalette::PlaceholderText);
-        caption->setWordWrap(true);
-        layout->addWidget(caption, editor->isWide() ? 0 : captionShare);
+        caption->setWordWrap(!m_isCompact);
+        layout->addWidget(caption, takesShare ? captionShare : 0);
     }
-    layout->addWidget(editor, editor->isWide() ? 0 : editorShare);
+    layout->addWidget(editor, takesShare ? editorShare : 0);
     static_cast<QVBoxLayout *>(m_content->layout())->addLayout(layout);
     const int index = m_editors.size();
     m_editors.append(editor);

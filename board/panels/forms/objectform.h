@@ -32,6 +32,9 @@ class ObjectForm : public QWidget
 public:
     explicit ObjectForm(QWidget *parent = nullptr);
 
+    /// Captions take the room of their text alone, as in a bar.
+    void setCompact(bool compact) { m_isCompact = compact; }
+
     void showRows(const QVector<FormRow> &rows);
     /// Makes all editors anew the next time.
     void forgetEditors() { m_structure.clear(); }
@@ -51,6 +54,7 @@ private:
     QWidget *m_content = nullptr;
     QVector<ValueEditor *> m_editors;
     QStringList m_structure;
+    bool m_isCompact = false;
 };
 
 } // namespace board

@@ -41,6 +41,13 @@ SelectionPanel::SelectionPanel(const Workspace *workspace, QWidget *parent)
     connect(m_form, &ObjectForm::picked, this, &SelectionPanel::pick);
 }
 
+void SelectionPanel::makeCompact()
+{
+    m_isCompact = true;
+    m_hint->hide();
+    m_form->setCompact(true);
+}
+
 void SelectionPanel::setPage(pagehost::Page *page)
 {
     settle();
@@ -85,7 +92,7 @@ void SelectionPanel::refresh()
         return;
     const QVector<CBaseObject *> objects = selection();
     const QVector<FormRow> rows = objects.isEmpty() ? QVector<FormRow>() : describe(objects.mid(0, mostDescribed));
-    m_hint->setVisible(rows.isEmpty() && objects.size() > 1);
+    m_hint->setVisible(rows.isEmpty() && objects.size() > 1 && !m_isCompact);
     m_form->showRows(rows);
 }
 

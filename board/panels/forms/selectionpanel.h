@@ -28,11 +28,15 @@ public:
     void setPage(pagehost::Page *page);
     /// The panel has come to the front of those that share its place.
     void comeToFront() { m_refresh.finish(); }
+    /// Shows the selected objects at once, also while the panel is hidden.
+    void refresh();
     /// Takes back what is shown only while the user chooses.
     void settle();
     ObjectForm *form() const { return m_form; }
 
 protected:
+    /// Lays the rows out for a bar, and says nothing where there are none.
+    void makeCompact();
     const Workspace &workspace() const { return *m_workspace; }
     /// The rows for these objects, at least one, none of them null.
     virtual QVector<FormRow> describe(const QVector<CBaseObject *> &objects) = 0;
@@ -44,7 +48,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void refresh();
     void changeSelection();
     bool bringUpToDate();
     void preview(int row, const QVariant &value);
@@ -58,6 +61,7 @@ private:
     ObjectForm *m_form;
     pagehost::Preview m_preview;
     PanelRefresh m_refresh;
+    bool m_isCompact = false;
 };
 
 } // namespace board

@@ -29,9 +29,20 @@ QString rangeText(const NumberRange &range)
 
 } // namespace
 
-SettingsPanel::SettingsPanel(const Workspace *workspace, QWidget *parent)
+SettingsPanel::SettingsPanel(const Workspace *workspace, Extent extent, QWidget *parent)
     : SelectionPanel(workspace, parent)
+    , m_extent(extent)
 {
+    if (extent == First)
+        makeCompact();
+}
+
+bool SettingsPanel::isListed(const SettingControl &control) const
+{
+    if (lookSettings.contains(control.id))
+        return false;
+    const bool fitsIntoBar = control.kind != SettingControl::Text && control.kind != SettingControl::Command;
+    return m_extent == All || (m_controls.isEmpty() && fitsIntoBar);
 }
 
 QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
@@ -45,7 +56,7 @@ QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
     m_controls.clear();
     const QVector<CommonSetting> settings = commonSettings(panels);
     for (const CommonSetting &setting : settings) {
-        if (lookSettings.contains(setting.control.id))
+        if (!isListed(setting.control))
             continue;
         m_controls.append(setting.control);
         rows.append(rowOf(setting.control, setting.isMixed));
@@ -82,6 +93,8 @@ ValueEditor *SettingsPanel::makeEditor(const SettingControl &control) const
     case SettingControl::Switch:
         return new SwitchEditor;
     case SettingControl::Slider:
+        if (m_extent == First)
+            return new NumberEditor(control.range, control.unit);
         return new SliderEditor(control.range, control.unit);
     case SettingControl::Command:
         return new CommandEditor(control.value.toString());

@@ -12,7 +12,13 @@ class SettingsPanel : public SelectionPanel
     Q_OBJECT
 
 public:
-    explicit SettingsPanel(const Workspace *workspace, QWidget *parent = nullptr);
+    enum Extent {
+        All,
+        First ///< one that fits into a bar
+    };
+    explicit SettingsPanel(const Workspace *workspace, Extent extent = All, QWidget *parent = nullptr);
+
+    bool isEmpty() const { return m_controls.isEmpty(); }
 
 protected:
     QVector<FormRow> describe(const QVector<CBaseObject *> &objects) override;
@@ -24,6 +30,9 @@ private:
     ValueEditor *makeChoice(const SettingControl &control) const;
     FormRow rowOf(const SettingControl &control, bool isMixed) const;
 
+    bool isListed(const SettingControl &control) const;
+
+    Extent m_extent;
     QVector<SettingControl> m_controls; ///< row by row
 };
 

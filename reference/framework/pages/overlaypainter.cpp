@@ -16,6 +16,16 @@ namespace {
 constexpr double framePenPixels = 1.5;
 constexpr double buttonPixels = 16; ///< diameter of the rotation and mirror handles
 
+double sideOf(CObjAction::ACT_Def handle)
+{
+    return HandleLayout::isResize(handle) ? HandleLayout::handlePixels : buttonPixels;
+}
+
+QRectF squareAround(const QPointF &center, double side)
+{
+    return {center - QPointF(side, side) / 2, QSizeF(side, side)};
+}
+
 /// Draws in item coordinates; lengths are screen pixels converted to item units.
 class HandlePainter
 {
@@ -41,23 +51,18 @@ public:
         m_painter.setPen(m_pen);
         m_painter.setBrush(hovered ? m_accent : QColor(Qt::white));
         const QPointF center = m_layout.position(handle);
+        const QRectF place = squareAround(center, m_layout.fromPixels(sideOf(handle)));
         if (HandleLayout::isResize(handle)) {
-            m_painter.drawRect(square(center, HandleLayout::handlePixels));
+            m_painter.drawRect(place);
             return;
         }
         if (handle == CObjAction::ACT_Rotate)
             m_painter.drawLine(QPointF(center.x(), m_layout.frame().top()), center);
-        m_painter.drawEllipse(square(center, buttonPixels));
+        m_painter.drawEllipse(place);
         drawGlyph(handle, center, hovered ? QColor(Qt::white) : m_accent);
     }
 
 private:
-    QRectF square(const QPointF &center, double pixels) const
-    {
-        const double half = m_layout.fromPixels(pixels) / 2;
-        return {center - QPointF(half, half), center + QPointF(half, half)};
-    }
-
     void drawGlyph(CObjAction::ACT_Def handle, const QPointF &center, const QColor &color)
     {
         m_painter.save();
@@ -117,6 +122,18 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
     painter.restore();
 }
 
+QRectF frameBoundsOf(CBaseObject &object, bool withHandles)
+{
+    const HandleLayout layout = layoutOf(object);
+    QRectF bounds = object.mapRectToScene(layout.frame());
+    if (!withHandles)
+        return bounds;
+    const QVector<CObjAction::ACT_Def> handles = offeredHandles(object);
+    for (const CObjAction::ACT_Def handle : handles)
+        bounds |= object.mapRectToScene(squareAround(layout.position(handle), layout.fromPixels(sideOf(handle))));
+    return bounds;
+}
+
 } // namespace
 
 void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool framesOnly)
@@ -139,6 +156,15 @@ QRectF overlayBounds(const Page &page)
     const QVector<CBaseObject *> selected = page.selectedObjects();
     for (const CBaseObject *object : selected)
         bounds |= object->mapRectToScene(layoutOf(*object).bounds());
+    return bounds;
+}
+
+QRectF frameBounds(const Page &page)
+{
+    QRectF bounds;
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    for (CBaseObject *object : selected)
+        bounds |= frameBoundsOf(*object, selected.size() == 1 && !object->isLocked());
     return bounds;
 }
 

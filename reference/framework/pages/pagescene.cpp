@@ -286,6 +286,11 @@ void PageScene::updateOverlay()
         m_overlayTimer.start(0);
 }
 
+QRectF PageScene::frameBounds() const
+{
+    return pagehost::frameBounds(*m_page);
+}
+
 void PageScene::repaintOverlay()
 {
     const QRectF covered = overlayBounds(*m_page).united(highlightBounds(m_highlight, m_pixel));

@@ -1,4 +1,4 @@
-// Moving, resizing, turning and mirroring with the mouse, each with undo and redo.
+// Moving, resizing and turning with the mouse, each with undo and redo.
 
 #include <board/boarddriver.h>
 
@@ -41,8 +41,9 @@ private Q_SLOTS:
     void escapeDuringAResizePutsItBack();
     void rotationHandleTurnsAboutTheCentre();
     void resizingATurnedShapeKeepsTheOppositeCorner();
-    void mirrorHandlesMirror_data();
-    void mirrorHandlesMirror();
+    void mirroringIsACommand_data();
+    void mirroringIsACommand();
+    void clickOnANeighbourSelectsTheNeighbour();
     void handlesKeepTheirSizeOnScreen();
     void cursorShowsWhatAPressWouldDo();
     void cursorFollowsTheRotation();
@@ -187,27 +188,43 @@ void TestHandles::resizingATurnedShapeKeepsTheOppositeCorner()
     QVERIFY(QLineF(corner, fixedCorner).length() < 1e-6);
 }
 
-void TestHandles::mirrorHandlesMirror_data()
+void TestHandles::mirroringIsACommand_data()
 {
     QTest::addColumn<int>("handle");
+    QTest::addColumn<int>("modifiers");
     QTest::addColumn<bool>("leftToRight");
-    QTest::newRow("left to right") << int(CObjAction::ACT_MirrorHorizontal) << true;
-    QTest::newRow("top to bottom") << int(CObjAction::ACT_MirrorVertical) << false;
+    QTest::newRow("left to right") << int(CObjAction::ACT_MirrorHorizontal) << int(Qt::ControlModifier) << true;
+    QTest::newRow("top to bottom") << int(CObjAction::ACT_MirrorVertical)
+                                   << int(Qt::ControlModifier | Qt::ShiftModifier) << false;
 }
 
-void TestHandles::mirrorHandlesMirror()
+void TestHandles::mirroringIsACommand()
 {
     QFETCH(int, handle);
+    QFETCH(int, modifiers);
     QFETCH(bool, leftToRight);
     OneShape t;
     const auto mirrored = [&] { return qMakePair(t.shape->isMirrored(), t.shape->isFlipped()); };
-    t.board.click(t.board.handle(static_cast<CObjAction::ACT_Def>(handle)));
+    QVERIFY(t.board.handle(static_cast<CObjAction::ACT_Def>(handle)).isNull());
+    t.board.key(Qt::Key_M, Qt::KeyboardModifiers(modifiers));
     QCOMPARE(mirrored(), qMakePair(leftToRight, !leftToRight));
     QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
     t.undo();
     QCOMPARE(mirrored(), qMakePair(false, false));
     t.redo();
     QCOMPARE(mirrored(), qMakePair(leftToRight, !leftToRight));
+}
+
+/// 26 beside the frame there used to be a handle to mirror the selected shape.
+void TestHandles::clickOnANeighbourSelectsTheNeighbour()
+{
+    OneShape t;
+    CBaseObject *neighbour = t.board.draw(rectangle, {715, 330}, {800, 400});
+    t.board.click({600, 360});
+    QCOMPARE(t.board.selection(), QVector<CBaseObject *>{t.shape});
+    t.board.click({732, 360});
+    QCOMPARE(t.board.selection(), QVector<CBaseObject *>{neighbour});
+    QVERIFY(!t.shape->isMirrored());
 }
 
 void TestHandles::handlesKeepTheirSizeOnScreen()

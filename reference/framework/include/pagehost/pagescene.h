@@ -85,6 +85,8 @@ public:
     void setHighlight(CBaseObject *object);
     CBaseObject *highlight() const { return m_highlight; }
 
+    /// Bounds of the selected objects' frames and handles, scene coordinates; null without any.
+    QRectF frameBounds() const;
     /// Repaints frames and handles after an object has changed position or size. Objects call it themselves.
     void updateOverlay();
     /// Ends any action with an object that is about to leave the page.
