@@ -570,6 +570,9 @@ void Shape::redraw(bool refresh)
 // Damaged files contain sizes and places for which a shape that repeats its parts would draw for ever.
 bool Shape::isDrawable() const
 {
+    // Pen and fill of a template are read before its control points.
+    if (m_points.size() != pointCount())
+        return false;
     const auto isPlace = [](QPointF point) {
         return qAbs(point.x()) < largestSide && qAbs(point.y()) < largestSide;
     };

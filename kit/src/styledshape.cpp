@@ -104,6 +104,14 @@ double reachOfLine(const QZeSvgNode &node)
     return isRounded ? lineReach : pointedLineReach;
 }
 
+/// With its line.
+QRectF paintedBounds(const QZeSvgNode &node, double reachOfItsLine)
+{
+    const QRectF bounds = node.transformedBounds();
+    const double reach = reachOfItsLine * node.strokeWidth();
+    return bounds.isNull() ? bounds : bounds.adjusted(-reach, -reach, reach, reach);
+}
+
 bool isControlPoint(const QString &id)
 {
     return id.startsWith(QLatin1String("control_"));
@@ -386,10 +394,8 @@ QRectF StyledShape::paintedArea()
     if (box.isEmpty())
         return target;
     QRectF painted;
-    for (const PaintedNode &part : qAsConst(m_painted)) {
-        const double reach = part.reach * part.node->strokeWidth();
-        painted |= part.node->transformedBounds().adjusted(-reach, -reach, reach, reach);
-    }
+    for (const PaintedNode &part : qAsConst(m_painted))
+        painted |= paintedBounds(*part.node, part.reach);
     const QTransform toObject = stretching(box, target);
     QRectF area = target | toObject.mapRect(painted);
     if (outlineRegion && !outlineRegion->isEmpty()) {
@@ -429,6 +435,18 @@ void StyledShape::writeConnections(QDataStream &out)
         const double seen = owner->isFlipped() ? -seenX : seenX;
         out << connection.name << toObject.map(connection.place) << seen - 360 * std::floor(seen / 360);
     }
+}
+
+QRectF StyledShape::paintedBoundsOf(const QZeSvgNode &node)
+{
+    if (!node.isVisible())
+        return {};
+    if (node.type() != QZeSvgNode::Group)
+        return paintedBounds(node, reachOfLine(node));
+    QRectF painted;
+    for (const QZeSvgNode *child : static_cast<const QZeSvgStructureNode &>(node).children())
+        painted |= paintedBoundsOf(*child);
+    return painted;
 }
 
 /// Letters as they are typed are recorded, but no steps to take back.

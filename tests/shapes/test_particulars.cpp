@@ -2,6 +2,8 @@
 
 #include <shapes/shapedriver.h>
 
+#include <shapekit/styledshape.h>
+
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
@@ -23,6 +25,16 @@ QPainterPath pathOf(const ShapeDriver &shape, const char *id)
 void answer(const ShapeDriver &shape, const char *json)
 {
     shape.object().SetSettingJson(QString::fromUtf8(json), true, true);
+}
+
+/// Of the labels that are shown.
+QStringList textsOf(const ShapeDriver &shape)
+{
+    QStringList texts;
+    const auto labels = dynamic_cast<shapekit::StyledShape &>(shape.core()).labelPlaces();
+    for (const shapekit::LabelPlace &label : labels)
+        texts.append(label.text);
+    return texts;
 }
 
 bool isNear(QPointF a, QPointF b)
@@ -178,9 +190,12 @@ void TestParticulars::clockShowsTheFaceChosen()
     clock.createByClick();
     const auto shows = [&](const char *id) { return clock.document().namedNode(QLatin1String(id))->isVisible(); };
     QVERIFY(shows("digits") && !shows("roman"));
+    QCOMPARE(textsOf(clock).join(QLatin1Char(' ')), QStringLiteral("1 2 3 4 5 6 7 8 9 10 11 12"));
     answer(clock, "{\"idFace\": \"1\"}");
     QVERIFY(!shows("digits") && shows("roman"));
+    QCOMPARE(textsOf(clock).join(QLatin1Char(' ')), QStringLiteral("I II III IV V VI VII VIII IX X XI XII"));
     answer(clock, "{\"idFace\": \"2\"}");
+    QCOMPARE(textsOf(clock), QStringList());
     QVERIFY(!shows("digits") && !shows("roman"));
 }
 
@@ -221,11 +236,15 @@ void TestParticulars::numberLineCountsFromItsFirstNumber()
 {
     ShapeDriver line(QStringLiteral("numberline"));
     line.createByClick();
-    const QRectF before = pathOf(line, "labels").boundingRect();
     QCOMPARE(pathOf(line, "ticks").elementCount(), 22);
-    answer(line, "{\"idFirstNumber\": \"-100\"}");
-    // The first label is wider now, and the last one, -90, too.
-    QVERIFY(pathOf(line, "labels").boundingRect().left() < before.left() - 2);
+    QCOMPARE(textsOf(line).join(QLatin1Char(' ')), QStringLiteral("0 1 2 3 4 5 6 7 8 9 10"));
+    answer(line, "{\"idFirstNumber\": \"-100\", \"idStep\": \"0.5\"}");
+    QCOMPARE(textsOf(line).mid(0, 3).join(QLatin1Char(' ')), QStringLiteral("-100 -99.5 -99"));
+    // Where there is no room each fifth number stays, and none in the end.
+    line.object().setSize(QSizeF(150, 52), false, true);
+    QCOMPARE(textsOf(line).join(QLatin1Char(' ')), QStringLiteral("-100 -97.5 -95"));
+    line.object().setSize(QSizeF(70, 52), false, true);
+    QCOMPARE(textsOf(line), QStringList());
 }
 
 void TestParticulars::axesGetMoreTicksNotLongerOnes()

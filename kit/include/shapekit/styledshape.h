@@ -127,6 +127,8 @@ protected:
     QTransform seenMapping();
     /// The mapping that stretches a non-empty view box over a rectangle.
     static QTransform stretching(const QRectF &box, const QRectF &target);
+    /// Painted area of a node with all that it contains, document units; empty while it is hidden.
+    static QRectF paintedBoundsOf(const QZeSvgNode &node);
     /// A node of the template; null, with a report, when no node has that id.
     QZeSvgNode *node(const char *id) const;
     /// Reports an error of the template or its use, once for all shapes of the kind.

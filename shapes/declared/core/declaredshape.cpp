@@ -145,8 +145,16 @@ QString DeclaredShape::getSVG()
 
 void DeclaredShape::setPenColor(QColor color, bool record)
 {
+    // Expressions may name the colour: the next drawing is another one.
+    updateSVG(false);
     Shape::setPenColor(color, record);
     m_figure.copyPaints();
+}
+
+void DeclaredShape::setFillBrush(const QBrush &brush, bool record, bool notify)
+{
+    updateSVG(false);
+    Shape::setFillBrush(brush, record, notify);
 }
 
 QRectF DeclaredShape::paintedArea()
@@ -155,12 +163,8 @@ QRectF DeclaredShape::paintedArea()
     if (!document || document->viewBox().isEmpty())
         return area;
     const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
-    const double reach = 2 * document->getAllStrokeWidth();
-    for (const QZeSvgNode *group : m_figure.repeatedGroups()) {
-        const QRectF bounds = group->transformedBounds();
-        if (!bounds.isEmpty())
-            area |= toObject.mapRect(bounds.adjusted(-reach, -reach, reach, reach));
-    }
+    for (const QZeSvgStructureNode *group : m_figure.repeatedGroups())
+        area |= toObject.mapRect(paintedBoundsOf(*group));
     return area;
 }
 

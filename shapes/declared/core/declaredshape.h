@@ -63,6 +63,7 @@ public:
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
+    void setFillBrush(const QBrush &brush, bool record, bool notify) override;
     QRectF paintedArea() override;
     /// Those of the file, if it has any.
     QVector<shapekit::Connection> connections() override;

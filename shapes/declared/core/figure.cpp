@@ -109,7 +109,7 @@ void Figure::write(QZeSvgTinyDocument &document, ShapeState &state, const RoundL
 void Figure::writeRepeated(int index, ShapeState &state, const RoundListener &listener)
 {
     Repeated &repeated = m_repeated[index];
-    if (!repeated.group)
+    if (!repeated.group || !repeated.group->isVisible())
         return;
     const QVector<LoopDeclaration> &loops = m_declaration.repeats.at(index).loops;
     int round = 0;
@@ -218,9 +218,9 @@ void Figure::copyPaints()
             copyPaintsOf(*repeated.copies.first(), *repeated.copies.at(i));
 }
 
-QVector<QZeSvgNode *> Figure::repeatedGroups() const
+QVector<QZeSvgStructureNode *> Figure::repeatedGroups() const
 {
-    QVector<QZeSvgNode *> groups;
+    QVector<QZeSvgStructureNode *> groups;
     for (const Repeated &repeated : m_repeated)
         if (repeated.group)
             groups.append(repeated.group);

@@ -30,7 +30,7 @@ public:
     /// Copies have the paints of what they are copies of.
     void copyPaints();
     /// Groups whose content is repeated.
-    QVector<QZeSvgNode *> repeatedGroups() const;
+    QVector<QZeSvgStructureNode *> repeatedGroups() const;
 
 private:
     struct Repeated

@@ -59,6 +59,14 @@ void setAttribute(QZeSvgNode &node, const QString &name, const QString &value)
         node.setAttribute(name, value);
 }
 
+bool isShown(const QZeSvgNode &node)
+{
+    const QZeSvgNode *shown = &node;
+    while (shown && shown->isVisible())
+        shown = shown->parent();
+    return !shown;
+}
+
 /// Starts a copy of the reader's element under a name, without the path data of letters.
 void writeStart(QXmlStreamWriter &writer, const QXmlStreamReader &reader, const QString &name)
 {
@@ -130,11 +138,11 @@ void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const
     label.writings.front().id = label.text->id();
 }
 
-LabelLook Labels::lookOf(const Label &label, const Writing &writing)
+LabelLook Labels::lookOf(const Label &label, const QString &text, QSizeF box)
 {
     LabelLook look;
-    look.text = writing.text;
-    look.box = writing.box.size();
+    look.text = text;
+    look.box = box;
     look.size = label.size ? double(*label.size) : label.declared->size;
     look.smallest = label.declared->smallest;
     look.isBold = label.bold ? bool(*label.bold) : label.declared->isBold;
@@ -144,8 +152,10 @@ LabelLook Labels::lookOf(const Label &label, const Writing &writing)
     return look;
 }
 
-QColor Labels::colourOf(const Label &label)
+QColor Labels::colourOf(const Label &label, const ShapeState &state)
 {
+    if (label.declared->followsPen)
+        return state.penColour();
     return label.colour ? QColor(*label.colour) : label.declared->colour;
 }
 
@@ -191,30 +201,44 @@ void Labels::drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &valu
     }
 }
 
-void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state)
+std::optional<QRectF> Labels::boxOf(const Label &label, ShapeState &state)
 {
     double sides[4] = {};
-    bool isFinite = true;
     for (int i = 0; i < 4; ++i) {
         const Value side = state.valueOf(label.declared->box.at(i));
-        isFinite = isFinite && side.isFinite();
+        if (!side.isFinite())
+            return {};
         sides[i] = side.number();
     }
-    writing.box =
-        isFinite ? QRectF(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3])) : QRectF();
-    const LabelLook look = lookOf(label, writing);
-    if (isFinite && look != writing.look) {
+    return QRectF(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3]));
+}
+
+/// Most steps of a drag leave most texts where they are.
+void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &box)
+{
+    const LabelLook look = lookOf(label, writing.text, box.size());
+    const bool isAtPlace = writing.corner.x() == box.x() && writing.corner.y() == box.y();
+    if (isAtPlace && look == writing.look && !writing.path.isEmpty())
+        return;
+    if (look != writing.look)
         writing.layout = layOut(look);
-        writing.look = look;
-    }
-    if (!node.isVisible())
-        writing.box = QRectF();
+    writing.look = look;
+    writing.corner = box.topLeft();
+    writing.path = pathText(writing.layout.outline, writing.corner);
+}
+
+void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state)
+{
+    const std::optional<QRectF> box = boxOf(label, state);
+    if (box)
+        layOutWriting(label, writing, *box);
+    writing.box = box && isShown(node) ? *box : QRectF();
+    writing.colour = colourOf(label, state);
     // Empty cells of a table share their node with all tables.
     if (writing.text.isEmpty() && node.attribute(QStringLiteral("d")).isEmpty())
         return;
-    setAttribute(node, QStringLiteral("d"),
-                 isFinite ? pathText(writing.layout.outline, writing.box.topLeft()) : nothing);
-    setAttribute(node, QStringLiteral("fill"), colourOf(label).name());
+    setAttribute(node, QStringLiteral("d"), box ? writing.path : nothing);
+    setAttribute(node, QStringLiteral("fill"), writing.colour.name());
     setAttribute(node, writingAttribute, QString::number(writing.id));
 }
 
@@ -231,7 +255,7 @@ QVector<shapekit::LabelPlace> Labels::places() const
             place.box = writing.box;
             place.fontSize = writing.layout.size;
             place.isBold = writing.look.isBold;
-            place.color = colourOf(label);
+            place.color = writing.colour;
             place.alignment = alignmentOf(writing.look);
             place.hasManyLines = label.declared->hasManyLines;
             places.append(place);

@@ -11,6 +11,7 @@
 #include <QtCore/QMap>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QXmlStreamWriter;
@@ -59,8 +60,11 @@ private:
         QString text;
         QString givenText; ///< of a round: until the user writes another one
         QRectF box;        ///< null while it has none
+        QColor colour;
         LabelLook look;
         LabelLayout layout; ///< for that look
+        QPointF corner;
+        QString path; ///< of the layout, with that corner; empty before it is drawn
     };
     struct Label
     {
@@ -83,8 +87,11 @@ private:
     static void readLabel(Label &label, const QJsonObject &saved);
     static void readRounds(Label &label, const QJsonObject &labels);
     void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
-    static LabelLook lookOf(const Label &label, const Writing &writing);
-    static QColor colourOf(const Label &label);
+    static LabelLook lookOf(const Label &label, const QString &text, QSizeF box);
+    /// None where a side is not finite.
+    static std::optional<QRectF> boxOf(const Label &label, ShapeState &state);
+    static void layOutWriting(const Label &label, Writing &writing, const QRectF &box);
+    static QColor colourOf(const Label &label, const ShapeState &state);
     static void drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state);
     static void writeText(QXmlStreamWriter &writer, const Found &found);
     Found writingWithId(int id) const;

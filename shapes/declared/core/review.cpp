@@ -125,7 +125,7 @@ private:
         const RepeatDeclaration &repeat = m_declaration.repeats.at(index);
         const QZeSvgNode *group = m_shape.drawing()->namedNode(repeat.id);
         const QZeSvgNode *drawnGroup = partOf(m_drawn, repeat.way);
-        if (!group || !drawnGroup)
+        if (!group || !drawnGroup || !group->isVisible())
             return;
         const QList<QZeSvgNode *> copies = childrenOf(*group);
         const QList<QZeSvgNode *> drawn = childrenOf(*drawnGroup);
@@ -172,7 +172,8 @@ private:
         }
         if (!present.isVisible())
             return;
-        const bool isText = element.letters.content.isValid();
+        // Letters of a declared shape are outlines, those of the file are laid out by the viewer.
+        const bool isText = drawn->type() == QZeSvgNode::Text;
         const double distance =
             isText ? QLineF(drawn->transformedBounds().center(), present.transformedBounds().center()).length()
                    : outlineDistance(outlineOf(*drawn), outlineOf(present));

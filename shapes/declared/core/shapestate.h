@@ -4,6 +4,7 @@
 #include <declared/reader/message.h>
 
 #include <QtCore/QRectF>
+#include <QtGui/QColor>
 
 #include <optional>
 #include <utility>
@@ -20,6 +21,7 @@ public:
     /// The frame that the middle of a line may reach.
     void setFrame(const QRectF &frame);
     void setStyle(QRgb pen, QRgb fill, double penWidth);
+    QColor penColour() const { return QColor(m_pen.value_or(qRgb(0, 0, 0))); }
     void setPoints(const QVector<QPointF> &centres);
     void setProperty(const PropertyDeclaration &property, const Value &value);
     void setList(const PropertyDeclaration &property, const QVector<QPointF> &entries);

@@ -166,11 +166,12 @@ struct LabelDeclaration
     LabelAlignment vertical = LabelAlignment::Middle;
     /// @name Of a label that is repeated, whose text alone is the user's
     /// @{
-    int repeat = -1;    ///< index of the repetition; negative for a single label
-    QVector<int> path;  ///< the way from the repeated element, by index of child
-    int loops = 1;      ///< of the repetition
-    int firstRound = 0; ///< ids of its texts begin here
-    Expression content; ///< the text of a new shape, where it isn't the same in all rounds
+    int repeat = -1;         ///< index of the repetition; negative for a single label
+    QVector<int> path;       ///< the way from the repeated element, by index of child
+    int loops = 1;           ///< of the repetition
+    int firstRound = 0;      ///< ids of its texts begin here
+    Expression content;      ///< the text of a new shape, where it isn't the same in all rounds
+    bool followsPen = false; ///< has the pen's colour
     /// @}
 };
 

@@ -67,8 +67,6 @@ const QStringList drawnElements{QStringLiteral("g"),       QStringLiteral("path"
                                 QStringLiteral("polygon"), QStringLiteral("polyline"), QStringLiteral("text"),
                                 QStringLiteral("image"),   QStringLiteral("use")};
 
-const QString penText = QStringLiteral("{pen}");
-
 QStringList attributeNames()
 {
     QStringList names;
@@ -185,7 +183,7 @@ void FileReader::readAttribute(const Element &element, const Attribute &attribut
 void FileReader::readWritten(const Attribute &attribute, ElementDeclaration &declared, TemplateElement &written)
 {
     const bool isPaint = attribute.name == QLatin1String("fill") || attribute.name == QLatin1String("stroke");
-    if (isPaint && attribute.value.trimmed() == penText) {
+    if (isPaint && isPen(attribute.value)) {
         written.attributes.append({attribute.name + QStringLiteral("_follows"), QStringLiteral("pen")});
         return;
     }
@@ -212,8 +210,8 @@ void FileReader::readKeeps(const Attribute &attribute, TemplateElement &written)
 QString FileReader::inheritedValue(const Element &element, const char *name) const
 {
     const Element *holder = &element;
-    while (holder->value(name).isEmpty() && holder->parent >= 0)
-        holder = &m_elements.at(holder->parent);
+    while (holder->value(name).isEmpty() && parentOf(*holder))
+        holder = parentOf(*holder);
     return holder->value(name);
 }
 

@@ -25,6 +25,12 @@ struct TemplateElement
     bool hasOneChild = false;                    ///< a group that is repeated
 };
 
+/// The value of a "fill" or "stroke" that follows the pen's colour.
+inline bool isPen(const QString &paint)
+{
+    return paint.trimmed() == QLatin1String("{pen}");
+}
+
 /// Reads one file: fills a declaration and collects messages.
 class FileReader
 {
@@ -144,6 +150,7 @@ private:
     bool isLabel(const Element &element) const;
     void readLabel(int index, int repeat, const QVector<int> &path);
     void readRepeatedLabel(const Element &element, LabelDeclaration &label);
+    bool isFilledByPen(const Element &element) const;
     void checkLabelIds();
     void readLabelBox(const Element &element, LabelDeclaration &label);
     void readLabelLook(const Element &element, LabelDeclaration &label);
@@ -154,6 +161,10 @@ private:
     QVector<int> wayTo(int index) const;
     /// The elements in an element that are drawn, without definitions and titles.
     QVector<int> drawnChildren(const Element &element) const;
+    const Element *parentOf(const Element &element) const
+    {
+        return element.parent < 0 ? nullptr : &m_elements.at(element.parent);
+    }
     QString inheritedValue(const Element &element, const char *name) const;
     void readConnections();
 

@@ -16,7 +16,7 @@ const QStringList labelAttributes{QStringLiteral("box"),    QStringLiteral("alig
                                   QStringLiteral("size"),   QStringLiteral("lines"), QStringLiteral("title"),
                                   QStringLiteral("visible")};
 /// Of a repeated label.
-const QString contentAttribute = QStringLiteral("text");
+const QStringList furtherAttributes{QStringLiteral("text"), QStringLiteral("fill")};
 /// Ids of the texts of repeated labels lie above those of all properties; the label takes the bits above its loops.
 constexpr int firstOfRounds = 1 << 30;
 constexpr int loopBits = 20;
@@ -48,7 +48,7 @@ void FileReader::readLabel(int index, int repeat, const QVector<int> &path)
     for (const Attribute &attribute : element.attributes)
         if (attribute.namespaceUri == shapeNamespace &&
             !labelAttributes.contains(attribute.name.section(QLatin1Char('.'), 0, 0)) &&
-            !(isRepeated && attribute.name == contentAttribute))
+            !(isRepeated && furtherAttributes.contains(attribute.name)))
             error("C38", attribute,
                   QStringLiteral("a label has no \"%1\"%2")
                       .arg(attribute.name, suggestion(attribute.name, labelAttributes)));
@@ -85,6 +85,21 @@ void FileReader::readRepeatedLabel(const Element &element, LabelDeclaration &lab
     label.firstRound = firstOfRounds + ((label.ids.front() & ((1 << labelBits) - 1)) << loopBits);
     if (const Attribute *content = shapeAttribute(element, "text"))
         take(m_compiler.text(content->value), label.content, *content);
+    const Attribute *fill = shapeAttribute(element, "fill");
+    if (fill && !isPen(fill->value))
+        error("C43", *fill, QStringLiteral("the \"fill\" of a label is {pen}, or the colour in the file"));
+    label.followsPen = isFilledByPen(element);
+}
+
+/// Also by a group around it.
+bool FileReader::isFilledByPen(const Element &element) const
+{
+    for (const Element *holder = &element; holder; holder = parentOf(*holder)) {
+        const Attribute *fill = shapeAttribute(*holder, "fill");
+        if (fill && isPen(fill->value))
+            return true;
+    }
+    return false;
 }
 
 /// Texts of a repeated label have ids and names of their own, which those of another label must not be.

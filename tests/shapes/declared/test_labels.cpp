@@ -80,15 +80,24 @@ private Q_SLOTS:
     void titlesNameTheLabel();
     void everyCellHasATextOfItsOwn();
     void cellsAreSavedAndOpened();
-    void cellWrittenOnThePageIsUndone();
+    void figureWrittenOnThePageIsUndone_data() { addFigureRows(); }
+    void figureWrittenOnThePageIsUndone();
     void cellsStayWhileTheirRowIsNotShown();
     void givenTextOfARoundFollowsItsExpression();
     void roundsFarFromZeroArentWritten();
     void exportedCellsAreText();
     void hiddenLabelIsNotWritten();
     void lessonTypesLetterByLetter();
+    void lessonTypesFigures_data() { addFigureRows(); }
+    void lessonTypesFigures();
+    void writtenFigureIsExportedAsText_data() { addFigureRows(); }
+    void writtenFigureIsExportedAsText();
+    void figuresHaveTheColourOfThePen();
+    void labelOfAHiddenGroupIsNotWritten();
 
 private:
+    static void addFigureRows();
+
     const ShapeKind m_kind{declaredtest::readOf(declaredtest::fileOf(cloud))};
 };
 
@@ -411,27 +420,40 @@ void TestLabels::cellsAreSavedAndOpened()
     QCOMPARE(placeAt(opened, {70, 10}).text, QString());
 }
 
-void TestLabels::cellWrittenOnThePageIsUndone()
+/// Shapes that succeed coded ones, where one of their figures stands, and what it is at first.
+void TestLabels::addFigureRows()
 {
-    shapetest::ShapeDriver shape(QStringLiteral("table"));
+    QTest::addColumn<QPointF>("place");
+    QTest::addColumn<QString>("given");
+    // The head is 29 high, the columns are 59 1/3 wide.
+    QTest::newRow("table") << QPointF(90, 15) << QString();
+    QTest::newRow("clock") << QPointF(103.5, 60) << QStringLiteral("3");
+    QTest::newRow("numberline") << QPointF(91.2, 42) << QStringLiteral("3");
+}
+
+void TestLabels::figureWrittenOnThePageIsUndone()
+{
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    QFETCH(QPointF, place);
+    shapetest::ShapeDriver shape(name);
     shape.createByClick();
     shape.undoStack().clear();
     auto &object = static_cast<shapekit::ShapeObject &>(shape.object());
     const QByteArray before = bytesOf(object);
-    // The head is 29 high, the columns are 59 1/3 wide.
-    const shapekit::LabelPlace head = placeAt(object, {90, 15});
-    QVERIFY(head.propertyId != 0);
-    write(object, head.propertyId, "Sum");
+    const shapekit::LabelPlace figure = placeAt(object, place);
+    QTEST(figure.text, "given");
+    QVERIFY(figure.propertyId != 0);
+    write(object, figure.propertyId, "Sum");
     const QByteArray written = bytesOf(object);
     QVERIFY(written != before);
-    shapetest::ShapeDriver other(QStringLiteral("table"));
+    shapetest::ShapeDriver other(name);
     auto &opened = static_cast<shapekit::ShapeObject &>(other.object());
     QDataStream in(written);
     QVERIFY(opened.load(in));
     QVERIFY(in.atEnd());
-    QCOMPARE(placeAt(opened, {90, 15}).text, QStringLiteral("Sum"));
+    QCOMPARE(placeAt(opened, place).text, QStringLiteral("Sum"));
     QCOMPARE(CUndoRedo::GetInstance()->stack()->count(), 0);
-    write(object, head.propertyId, "Total");
+    write(object, figure.propertyId, "Total");
     CUndoRedo::GetInstance()->stack()->undo();
     QCOMPARE(bytesOf(object), written);
 }
@@ -501,29 +523,89 @@ void TestLabels::hiddenLabelIsNotWritten()
     QCOMPARE(object.core()->labelPlaces().size(), 1);
 }
 
+namespace {
+
+/// Types into the label at a place as the editor does, and plays that.
+void typeAndPlay(shapekit::ShapeObject &teachers, shapekit::ShapeObject &pupils, QPointF place)
+{
+    const int id = placeAt(teachers, place).propertyId;
+    checklist::RecordedActions lesson;
+    const QStringList typed{QStringLiteral("N"), QStringLiteral("Nu"), QStringLiteral("Nut")};
+    for (const QString &text : typed) {
+        QByteArray bytes;
+        QDataStream(&bytes, QIODevice::WriteOnly) << qint32(id) << text;
+        QDataStream in(bytes);
+        QVERIFY(teachers.SetSpecialProperty(pagehost::LabelText, in, true));
+    }
+    QCOMPARE(lesson.actions.size(), 3);
+    for (int i = 0; i < typed.size(); ++i) {
+        QDataStream in(lesson.actions.at(i).second);
+        QVERIFY(pupils.core()->DoPlaybackActionEx(lesson.actions.at(i).first, in));
+        QCOMPARE(placeAt(pupils, place).text, typed.at(i));
+    }
+    QCOMPARE(bytesOf(pupils), bytesOf(teachers));
+}
+
+} // namespace
+
 void TestLabels::lessonTypesLetterByLetter()
 {
     for (const QByteArray &file : {cloud, grid}) {
         const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(file)));
         shapekit::ShapeObject teachers(kind.kind());
         shapekit::ShapeObject pupils(kind.kind());
-        const int id = placeAt(teachers, {20, 30}).propertyId;
-        checklist::RecordedActions lesson;
-        const QStringList typed{QStringLiteral("N"), QStringLiteral("Nu"), QStringLiteral("Nut")};
-        for (const QString &text : typed) {
-            QByteArray bytes;
-            QDataStream(&bytes, QIODevice::WriteOnly) << qint32(id) << text;
-            QDataStream in(bytes);
-            QVERIFY(teachers.SetSpecialProperty(pagehost::LabelText, in, true));
-        }
-        QCOMPARE(lesson.actions.size(), 3);
-        for (int i = 0; i < typed.size(); ++i) {
-            QDataStream in(lesson.actions.at(i).second);
-            QVERIFY(pupils.core()->DoPlaybackActionEx(lesson.actions.at(i).first, in));
-            QCOMPARE(placeAt(pupils, {20, 30}).text, typed.at(i));
-        }
-        QCOMPARE(bytesOf(pupils), bytesOf(teachers));
+        typeAndPlay(teachers, pupils, {20, 30});
     }
+}
+
+void TestLabels::lessonTypesFigures()
+{
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    QFETCH(QPointF, place);
+    shapetest::ShapeDriver teachers(name);
+    shapetest::ShapeDriver pupils(name);
+    teachers.createByClick();
+    pupils.createByClick();
+    typeAndPlay(static_cast<shapekit::ShapeObject &>(teachers.object()),
+                static_cast<shapekit::ShapeObject &>(pupils.object()), place);
+}
+
+void TestLabels::writtenFigureIsExportedAsText()
+{
+    QFETCH(QPointF, place);
+    shapetest::ShapeDriver shape(QString::fromLatin1(QTest::currentDataTag()));
+    shape.createByClick();
+    auto &object = static_cast<shapekit::ShapeObject &>(shape.object());
+    QVERIFY(!object.core()->toSvg().contains(">here</tspan>"));
+    write(object, placeAt(object, place).propertyId, "here");
+    QVERIFY(object.core()->toSvg().contains(">here</tspan>"));
+}
+
+void TestLabels::figuresHaveTheColourOfThePen()
+{
+    shapetest::ShapeDriver shape(QStringLiteral("numberline"));
+    shape.createByClick();
+    auto &object = static_cast<shapekit::ShapeObject &>(shape.object());
+    object.core()->setPenColor(QColor(0xcc, 0x11, 0x22), false);
+    const QVector<shapekit::LabelPlace> numbers = object.core()->labelPlaces();
+    QCOMPARE(numbers.size(), 11);
+    QCOMPARE(numbers.first().color, QColor(0xcc, 0x11, 0x22));
+    QCOMPARE(numbers.last().color, QColor(0xcc, 0x11, 0x22));
+    const auto *group =
+        static_cast<const QZeSvgStructureNode *>(shape.document().namedNode(QStringLiteral("numbers")));
+    for (const QZeSvgNode *number : group->children())
+        QCOMPARE(number->attribute(QStringLiteral("fill")), QStringLiteral("#cc1122"));
+}
+
+void TestLabels::labelOfAHiddenGroupIsNotWritten()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<shape:property name='on' type='switch' value='no'/><path id='figure' fill='#fff' d='M0 0H120V80H0Z'/>"
+        "<g shape:visible='on'><text id='label_1' shape:box='0; 0; w; h'>Hello</text></g>")));
+    shapekit::ShapeObject object(kind.kind());
+    QVERIFY(object.core()->labelPlaces().isEmpty());
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_on": "true"})"), false, false);
+    QCOMPARE(object.core()->labelPlaces().size(), 1);
 }
 
 QTEST_MAIN(TestLabels)

@@ -167,6 +167,9 @@ void TestReadingFaults::faultsInsideStandWhereTheyAre_data()
     row("<circle shape:d='M0 0'/>", "3:18 C38");
     row("<path shape:repeat='i in 0..3'/>", "3:21 C38");
     row("<title shape:fill='{pen}'/>", "3:20 C38");
+    row("<text id='label_1' shape:box='0; 0; 9; 9' shape:fill='{pen}'/>", "3:55 C38");
+    row("<g shape:repeat='i in 0..1'><text id='label_1' shape:box='0; 0; 9; 9' shape:fill='{fill}'/></g>",
+        "3:83 C43");
     row("<g shape:repeat='i in 0..3'/>", "3:1 C38");
     row("<g shape:repeat='i in 0..1'><g shape:repeat='k in 0..1'><path/></g></g>", "3:29 C38");
     row("<path shape:keeps='all'/>", "3:20 C39");

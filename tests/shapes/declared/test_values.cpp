@@ -50,6 +50,7 @@ private Q_SLOTS:
     void presentNameWinsOverAFormerOne();
     void lessonOfAFormerNameIsPlayed();
     void movementTakesAsLongAsItsValueSays();
+    void partFollowsTheColourOfPenAndFill();
 };
 
 void TestValues::savedValueOfAFormerNameIsTaken()
@@ -120,6 +121,27 @@ void TestValues::movementTakesAsLongAsItsValueSays()
     QVERIFY(turning);
     QCOMPARE(turning->attribute(QStringLiteral("dur")), QStringLiteral("7.5s"));
     QCOMPARE(turning->attribute(QStringLiteral("to")), QStringLiteral("720 60 40"));
+}
+
+void TestValues::partFollowsTheColourOfPenAndFill()
+{
+    const ShapeKind kind(declaredtest::readOf(
+        declaredtest::fileOf("<path id='figure' fill='#fff' stroke='#000' d='M0 0H120V80H0Z'/>"
+                             "<path id='mark' fill='none' d='M9 9H30' shape:visible=\"pen == '#ff0000'\"/>"
+                             "<path id='dot' fill='none' d='M9 9H30' shape:visible=\"fill == '#00ff00'\"/>")));
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(kind.kind()));
+    shape.createByClick();
+    const auto shows = [&](const char *id) {
+        shape.painted();
+        return shape.document().namedNode(QLatin1String(id))->isVisible();
+    };
+    QVERIFY(!shows("mark"));
+    shape.core().setPenColor(Qt::red, false);
+    QVERIFY(shows("mark"));
+    QVERIFY(!shows("dot"));
+    shape.core().setFillBrush(QColor(0, 255, 0), false, true);
+    QVERIFY(shows("dot"));
 }
 
 QTEST_MAIN(TestValues)
