@@ -4,6 +4,7 @@
 #include "look/icons.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"
+#include "panels/fields/numberfield.h"
 
 #include <QtGui/QImageReader>
 #include <QtGui/QPainter>
@@ -15,7 +16,6 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
-#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -85,18 +85,14 @@ FillControls::FillControls(const Workspace *workspace, QWidget *parent)
     , m_typeRow(new QWidget(this))
     , m_color(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_COLOR"), this))
     , m_secondColor(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_SECOND_COLOR"), this))
-    , m_angle(new QSpinBox(this))
+    , m_angle(new NumberField(workspace, {0, 359, 15, 0}, QStringLiteral("°"), this))
     , m_pattern(new QComboBox(this))
     , m_picture(new QPushButton(workspace->text("IDS_BOARD_CHOOSE_PICTURE"), this))
     , m_opacityRow(new QWidget(this))
     , m_opacity(new QSlider(Qt::Horizontal, m_opacityRow))
     , m_opacityText(new QLabel(m_opacityRow))
 {
-    m_angle->setRange(0, 359);
-    m_angle->setWrapping(true);
-    m_angle->setSingleStep(15);
-    m_angle->setSuffix(QStringLiteral("°"));
-    m_angle->setKeyboardTracking(false);
+    m_angle->takeAngles();
     m_angle->setAccessibleName(workspace->text("IDS_BOARD_FILL_ANGLE"));
     m_angle->setToolTip(m_angle->accessibleName());
     m_opacity->setRange(0, 255);
@@ -172,7 +168,7 @@ void FillControls::connectControls()
         m_fill.setGradientColor(color);
         Q_EMIT fillPicked(m_fill);
     });
-    connect(m_angle, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int degrees) {
+    connect(m_angle, &NumberField::numberPicked, this, [this](double degrees) {
         m_fill.setGradientAngle(degrees);
         Q_EMIT fillPicked(m_fill);
     });
@@ -222,7 +218,6 @@ void FillControls::checkType(int type)
 
 void FillControls::refresh()
 {
-    const QSignalBlocker quietAngle(m_angle);
     const QSignalBlocker quietOpacity(m_opacity);
     const int type = shownType(m_fill);
     checkType(type);
@@ -230,7 +225,7 @@ void FillControls::refresh()
     color.setAlpha(m_fill.opacity());
     m_color->setColor(color);
     m_secondColor->setColor(m_fill.gradientColor());
-    m_angle->setValue(qRound(m_fill.gradientAngle()));
+    m_angle->showNumber(m_fill.gradientAngle());
     m_pattern->setCurrentIndex(m_pattern->findData(static_cast<int>(m_fill.pattern())));
     m_opacity->setValue(m_fill.opacity());
     m_color->setVisible(type != CPageBgProp::NoFill && type != CPageBgProp::PictureFill);

@@ -9,11 +9,11 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QSlider;
-class QSpinBox;
 
 namespace board {
 
 class ColorButton;
+class NumberField;
 class Workspace;
 
 /// How an area is filled: not at all, or with a colour, a gradient, a pattern or a picture.
@@ -54,7 +54,7 @@ private:
     QWidget *m_typeRow;
     ColorButton *m_color;
     ColorButton *m_secondColor;
-    QSpinBox *m_angle;
+    NumberField *m_angle;
     QComboBox *m_pattern;
     QPushButton *m_picture;
     QWidget *m_opacityRow;

@@ -3,6 +3,7 @@
 #include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"
+#include "panels/fields/numberfield.h"
 
 #include <framework/cutil.h>
 
@@ -10,7 +11,6 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QSpinBox>
 
 #include <algorithm>
 #include <array>
@@ -58,12 +58,9 @@ QPixmap sampleLine(int penStyle, const QColor &color)
 PenControls::PenControls(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
     , m_color(new ColorButton(workspace, workspace->text("IDS_BOARD_PEN_COLOR"), this))
-    , m_width(new QSpinBox(this))
+    , m_width(new NumberField(workspace, {1, 1, 1, 0}, QStringLiteral("px"), this))
     , m_style(new QComboBox(this))
 {
-    m_width->setMinimum(1);
-    m_width->setSuffix(QStringLiteral(" px"));
-    m_width->setKeyboardTracking(false);
     m_width->setAccessibleName(workspace->text("IDS_BOARD_PEN_WIDTH"));
     m_width->setToolTip(m_width->accessibleName());
     m_style->setIconSize(sampleSize + QSize(sampleGap, 0));
@@ -82,10 +79,7 @@ PenControls::PenControls(const Workspace *workspace, QWidget *parent)
     grid->setColumnStretch(1, 1);
 
     connect(m_color, &ColorButton::colorPicked, this, &PenControls::colorPicked);
-    connect(m_width, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int width) {
-        if (width > 0)
-            Q_EMIT widthPicked(width);
-    });
+    connect(m_width, &NumberField::numberPicked, this, [this](double width) { Q_EMIT widthPicked(qRound(width)); });
     connect(m_style, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { Q_EMIT stylePicked(static_cast<Qt::PenStyle>(m_style->itemData(index).toInt())); });
 }
@@ -120,15 +114,15 @@ void PenControls::showColor(const QVector<QColor> &colors)
         m_color->setColor(colors.first());
 }
 
-/// The dash stands for 0, which no outline has.
 void PenControls::showWidth(const QVector<int> &widths, int largest)
 {
     const QSignalBlocker quiet(m_width);
-    const bool alike = areAlike(widths);
     m_width->setEnabled(!widths.isEmpty());
-    m_width->setSpecialValueText(alike ? QString() : mixedSign);
-    m_width->setRange(alike ? 1 : 0, qMax(1, largest));
-    m_width->setValue(alike ? widths.value(0) : 0);
+    m_width->setRange(1, qMax(1, largest));
+    if (areAlike(widths))
+        m_width->showNumber(widths.value(0));
+    else
+        m_width->showMixed();
 }
 
 void PenControls::showPenStyle(const QVector<Qt::PenStyle> &styles)

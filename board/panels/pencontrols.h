@@ -5,11 +5,11 @@
 #include <QtWidgets/QWidget>
 
 class QComboBox;
-class QSpinBox;
 
 namespace board {
 
 class ColorButton;
+class NumberField;
 class Workspace;
 
 /// Colour, width and style of the outline.
@@ -38,7 +38,7 @@ private:
     void showPenStyle(const QVector<Qt::PenStyle> &styles);
 
     ColorButton *m_color;
-    QSpinBox *m_width;
+    NumberField *m_width;
     QComboBox *m_style;
 };
 

@@ -2,8 +2,8 @@
 
 #include "core/workspace.h"
 #include "look/theme.h"
+#include "panels/fields/numberfield.h"
 
-#include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 
@@ -15,29 +15,8 @@ namespace {
 
 constexpr double farthest = 99999;
 constexpr double smallestSide = 1;
-const QString mixedSign = QStringLiteral("—");
-
-/// Shows whole numbers without a decimal.
-class PlaceBox : public QDoubleSpinBox
-{
-public:
-    using QDoubleSpinBox::QDoubleSpinBox;
-
-    QString textFromValue(double value) const override
-    {
-        QString text = QDoubleSpinBox::textFromValue(value);
-        const QString nothing = locale().decimalPoint() + QLatin1Char('0');
-        if (text.endsWith(nothing))
-            text.chop(nothing.size());
-        return text;
-    }
-};
-
-void showQuietly(QDoubleSpinBox *box, double value)
-{
-    const QSignalBlocker quiet(box);
-    box->setValue(value);
-}
+const QString degreeSign = QStringLiteral("°");
+constexpr double tenth = 0.1;
 
 /// 0 to just below 360.
 double normalizedDegrees(double degrees)
@@ -55,71 +34,63 @@ PlaceControls::PlaceControls(const Workspace *workspace, QWidget *parent)
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(mediumGap);
-    m_x = addBox(grid, 0, 0, QStringLiteral("X"), workspace->text("IDS_BOARD_LEFT"));
-    m_y = addBox(grid, 0, 2, QStringLiteral("Y"), workspace->text("IDS_BOARD_TOP"));
-    m_width = addBox(grid, 1, 0, workspace->text("IDS_BOARD_WIDTH_LETTER"), workspace->text("IDS_BOARD_WIDTH"));
-    m_height = addBox(grid, 1, 2, workspace->text("IDS_BOARD_HEIGHT_LETTER"), workspace->text("IDS_BOARD_HEIGHT"));
-    m_rotation = addBox(grid, 2, 0, QStringLiteral("∠"), workspace->text("IDS_BOARD_ROTATION"));
-    m_width->setMinimum(smallestSide);
-    m_height->setMinimum(smallestSide);
-    m_rotation->setRange(0, 359.9);
-    m_rotation->setWrapping(true);
-    m_rotation->setSingleStep(15);
-    m_rotation->setSuffix(QStringLiteral("°"));
+    const NumberRange place{-farthest, farthest, 1, 1};
+    const NumberRange side{smallestSide, farthest, 1, 1};
+    const NumberRange angle{0, 360 - tenth, 15, 1};
+    m_x = addField(grid, 0, 0, {QStringLiteral("X"), "IDS_BOARD_LEFT"}, place);
+    m_y = addField(grid, 0, 2, {QStringLiteral("Y"), "IDS_BOARD_TOP"}, place);
+    m_width = addField(grid, 1, 0, {workspace->text("IDS_BOARD_WIDTH_LETTER"), "IDS_BOARD_WIDTH"}, side);
+    m_height = addField(grid, 1, 2, {workspace->text("IDS_BOARD_HEIGHT_LETTER"), "IDS_BOARD_HEIGHT"}, side);
+    m_rotation = addField(grid, 2, 0, {QStringLiteral("∠"), "IDS_BOARD_ROTATION"}, angle, degreeSign);
+    m_rotation->takeAngles();
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
 
-    const auto changed = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
-    connect(m_x, changed, this, [this](double x) { Q_EMIT movePicked({x - m_pos.x(), 0}); });
-    connect(m_y, changed, this, [this](double y) { Q_EMIT movePicked({0, y - m_pos.y()}); });
+    connect(m_x, &NumberField::numberPicked, this, [this](double x) { Q_EMIT movePicked({x - m_pos.x(), 0}); });
+    connect(m_y, &NumberField::numberPicked, this, [this](double y) { Q_EMIT movePicked({0, y - m_pos.y()}); });
     const auto pickSize = [this] { Q_EMIT sizePicked({m_width->value(), m_height->value()}); };
-    connect(m_width, changed, this, pickSize);
-    connect(m_height, changed, this, pickSize);
-    connect(m_rotation, changed, this, &PlaceControls::rotationPicked);
+    connect(m_width, &NumberField::numberPicked, this, pickSize);
+    connect(m_height, &NumberField::numberPicked, this, pickSize);
+    connect(m_rotation, &NumberField::numberPicked, this, &PlaceControls::rotationPicked);
 }
 
-QDoubleSpinBox *PlaceControls::addBox(QGridLayout *grid, int row, int column, const QString &label,
-                                      const QString &name)
+NumberField *PlaceControls::addField(QGridLayout *grid, int row, int column, const Label &label,
+                                     const NumberRange &range, const QString &unit)
 {
-    auto *caption = new QLabel(label, this);
-    auto *box = new PlaceBox(this);
-    box->setDecimals(1);
-    box->setRange(-farthest, farthest);
-    box->setKeyboardTracking(false);
-    box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    box->setAccessibleName(name);
-    box->setToolTip(name);
-    caption->setBuddy(box);
+    const QString name = m_workspace->text(label.nameKey);
+    auto *caption = new QLabel(label.letter, this);
+    auto *field = new NumberField(m_workspace, range, unit, this);
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    field->setAccessibleName(name);
+    field->setToolTip(name);
+    caption->setBuddy(field);
     caption->setToolTip(name);
     grid->addWidget(caption, row, column);
-    grid->addWidget(box, row, column + 1);
-    return box;
+    grid->addWidget(field, row, column + 1);
+    return field;
 }
 
 void PlaceControls::showPos(const QPointF &pos)
 {
     m_pos = pos;
-    showQuietly(m_x, pos.x());
-    showQuietly(m_y, pos.y());
+    m_x->showNumber(pos.x());
+    m_y->showNumber(pos.y());
 }
 
 void PlaceControls::showForm(const QSizeF &size, double rotation)
 {
-    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation}) {
-        box->setEnabled(true);
-        box->setSpecialValueText({});
-    }
-    showQuietly(m_width, size.width());
-    showQuietly(m_height, size.height());
-    showQuietly(m_rotation, normalizedDegrees(rotation));
+    for (NumberField *field : {m_width, m_height, m_rotation})
+        field->setEnabled(true);
+    m_width->showNumber(size.width());
+    m_height->showNumber(size.height());
+    m_rotation->showNumber(normalizedDegrees(rotation));
 }
 
 void PlaceControls::showNoForm()
 {
-    for (QDoubleSpinBox *box : {m_width, m_height, m_rotation}) {
-        box->setEnabled(false);
-        box->setSpecialValueText(mixedSign);
-        showQuietly(box, box->minimum());
+    for (NumberField *field : {m_width, m_height, m_rotation}) {
+        field->setEnabled(false);
+        field->showMixed();
     }
 }
 

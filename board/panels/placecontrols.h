@@ -3,11 +3,12 @@
 #include <QtCore/QRectF>
 #include <QtWidgets/QWidget>
 
-class QDoubleSpinBox;
 class QGridLayout;
 
 namespace board {
 
+class NumberField;
+struct NumberRange;
 class Workspace;
 
 /// Where the selection is, how large and how turned, as numbers.
@@ -31,15 +32,22 @@ Q_SIGNALS:
     void rotationPicked(double degrees);
 
 private:
-    QDoubleSpinBox *addBox(QGridLayout *grid, int row, int column, const QString &label, const QString &name);
+    struct Label
+    {
+        QString letter;
+        const char *nameKey;
+    };
+
+    NumberField *addField(QGridLayout *grid, int row, int column, const Label &label, const NumberRange &range,
+                          const QString &unit = QStringLiteral("px"));
 
     const Workspace *m_workspace;
     QPointF m_pos;
-    QDoubleSpinBox *m_x;
-    QDoubleSpinBox *m_y;
-    QDoubleSpinBox *m_width;
-    QDoubleSpinBox *m_height;
-    QDoubleSpinBox *m_rotation;
+    NumberField *m_x;
+    NumberField *m_y;
+    NumberField *m_width;
+    NumberField *m_height;
+    NumberField *m_rotation;
 };
 
 } // namespace board

@@ -1204,5 +1204,13 @@
         <source>Bar at the selection</source>
         <translation>Leiste an der Auswahl</translation>
     </message>
+    <message>
+        <source>“%1” is no number. Type one such as 40, 120/3 or +10.</source>
+        <translation>„%1“ ist keine Zahl. Richtig wäre zum Beispiel 40, 120/3 oder +10.</translation>
+    </message>
+    <message>
+        <source>Numbers from %1 to %2 can be set here.</source>
+        <translation>Hier sind Zahlen von %1 bis %2 möglich.</translation>
+    </message>
 </context>
 </TS>

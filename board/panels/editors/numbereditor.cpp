@@ -1,39 +1,15 @@
 #include "panels/editors/numbereditor.h"
 
-#include "panels/editors/numberfield.h"
+#include "panels/fields/numberfield.h"
 
 #include <QtWidgets/QHBoxLayout>
 
-#include <cmath>
-
 namespace board {
 
-NumberRange NumberRange::common(const NumberRange &other) const
-{
-    return {qMax(minimum, other.minimum), qMin(maximum, other.maximum), qMin(step, other.step),
-            qMax(decimals, other.decimals)};
-}
-
-int NumberRange::decimalsOf(double step)
-{
-    double scaled = std::abs(step);
-    for (int decimals = 0; decimals < mostDecimals; ++decimals) {
-        if (std::abs(scaled - std::round(scaled)) < 1e-6 * qMax(1.0, scaled))
-            return decimals;
-        scaled *= 10;
-    }
-    return mostDecimals;
-}
-
-bool operator==(const NumberRange &one, const NumberRange &other)
-{
-    return one.minimum == other.minimum && one.maximum == other.maximum && one.step == other.step &&
-           one.decimals == other.decimals;
-}
-
-NumberEditor::NumberEditor(const NumberRange &range, const QString &unit, QWidget *parent)
+NumberEditor::NumberEditor(const Workspace *workspace, const NumberRange &range, const QString &unit,
+                           QWidget *parent)
     : ValueEditor(parent)
-    , m_field(new NumberField(range, unit, this))
+    , m_field(new NumberField(workspace, range, unit, this))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -1,30 +1,12 @@
 #pragma once
 
 #include "panels/editors/valueeditor.h"
-
-#include <limits>
+#include "panels/fields/numberrange.h"
 
 namespace board {
 
 class NumberField;
-
-/// Range of numbers that an editor offers.
-struct NumberRange
-{
-    double minimum = -std::numeric_limits<int>::max();
-    double maximum = std::numeric_limits<int>::max();
-    double step = 1;
-    int decimals = 0; ///< places after the point that are shown
-
-    static constexpr int mostDecimals = 6;
-    static constexpr int usualDecimals = 2;
-    /// The range that both have. Its minimum is above its maximum when there is none.
-    NumberRange common(const NumberRange &other) const;
-    /// The places after the point that values of this step need.
-    static int decimalsOf(double step);
-};
-
-bool operator==(const NumberRange &one, const NumberRange &other);
+class Workspace;
 
 /// A number in a field, with a unit behind it.
 class NumberEditor : public ValueEditor
@@ -32,7 +14,8 @@ class NumberEditor : public ValueEditor
     Q_OBJECT
 
 public:
-    NumberEditor(const NumberRange &range, const QString &unit, QWidget *parent = nullptr);
+    NumberEditor(const Workspace *workspace, const NumberRange &range, const QString &unit,
+                 QWidget *parent = nullptr);
 
     void showValue(const QVariant &value) override;
     void showMixed() override;

@@ -1,7 +1,7 @@
 #include "panels/editors/slidereditor.h"
 
 #include "look/theme.h"
-#include "panels/editors/numberfield.h"
+#include "panels/fields/numberfield.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QSlider>
@@ -24,11 +24,12 @@ int positionsOf(const NumberRange &range)
 
 } // namespace
 
-SliderEditor::SliderEditor(const NumberRange &range, const QString &unit, QWidget *parent)
+SliderEditor::SliderEditor(const Workspace *workspace, const NumberRange &range, const QString &unit,
+                           QWidget *parent)
     : ValueEditor(parent)
     , m_range(range)
     , m_slider(new QSlider(Qt::Horizontal, this))
-    , m_field(new NumberField(range, unit, this))
+    , m_field(new NumberField(workspace, range, unit, this))
 {
     const int positions = positionsOf(range);
     const bool isTooFine = range.step <= 0 || positions >= int(mostPositions);

@@ -13,7 +13,8 @@ class SliderEditor : public ValueEditor
 
 public:
     /// `range` must have a minimum below its maximum.
-    SliderEditor(const NumberRange &range, const QString &unit, QWidget *parent = nullptr);
+    SliderEditor(const Workspace *workspace, const NumberRange &range, const QString &unit,
+                 QWidget *parent = nullptr);
 
     void showValue(const QVariant &value) override;
     void showMixed() override;

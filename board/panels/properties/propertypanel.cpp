@@ -80,10 +80,10 @@ ValueEditor *PropertyPanel::makeEditor(const CommonProperty &common) const
         return new ColorEditor(&workspace());
     case AttributeDescription::Whole:
     case AttributeDescription::Real:
-        return new NumberEditor(common.range, {});
+        return new NumberEditor(&workspace(), common.range, {});
     case AttributeDescription::WholeRange:
     case AttributeDescription::RealRange:
-        return new SliderEditor(common.range, {});
+        return new SliderEditor(&workspace(), common.range, {});
     case AttributeDescription::Switch:
         return new SwitchEditor;
     default:

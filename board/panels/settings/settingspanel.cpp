@@ -89,13 +89,13 @@ ValueEditor *SettingsPanel::makeEditor(const SettingControl &control) const
     case SettingControl::Color:
         return new ColorEditor(&workspace());
     case SettingControl::Number:
-        return new NumberEditor(control.range, control.unit);
+        return new NumberEditor(&workspace(), control.range, control.unit);
     case SettingControl::Switch:
         return new SwitchEditor;
     case SettingControl::Slider:
         if (m_extent == First)
-            return new NumberEditor(control.range, control.unit);
-        return new SliderEditor(control.range, control.unit);
+            return new NumberEditor(&workspace(), control.range, control.unit);
+        return new SliderEditor(&workspace(), control.range, control.unit);
     case SettingControl::Command:
         return new CommandEditor(control.value.toString());
     default:

@@ -104,7 +104,7 @@ void TestLook::penWidth()
 {
     StyledShape t;
     const int before = t.style().penWidth;
-    auto *box = t.control<QSpinBox>("Outline width");
+    auto *box = t.control<QDoubleSpinBox>("Outline width");
     QCOMPARE(box->value(), before);
     box->setValue(6);
     QCOMPARE(t.style().penWidth, 6);
@@ -218,7 +218,7 @@ void TestLook::panelShowsTheSelectedShape()
     pagehost::setFill({other}, QColor(1, 2, 3));
     t.board.page().select({t.shape});
     t.board.page().select({other});
-    QCOMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
+    QCOMPARE(t.control<QDoubleSpinBox>("Outline width")->value(), 5);
     QCOMPARE(t.control<board::ColorButton>("Fill colour")->color(), QColor(1, 2, 3));
     QCOMPARE(t.control<QDoubleSpinBox>("Left edge")->value(), 800.0);
     QCOMPARE(t.control<QDoubleSpinBox>("Width")->value(), 100.0);
@@ -228,7 +228,7 @@ void TestLook::panelShowsThePageWithoutASelection()
 {
     StyledShape t;
     t.board.page().select({});
-    QVERIFY(!t.control<QSpinBox>("Outline width"));
+    QVERIFY(!t.control<QDoubleSpinBox>("Outline width"));
     QCOMPARE(t.control<board::ColorButton>("Fill colour")->color(), QColor(Qt::white));
 }
 
@@ -248,7 +248,7 @@ void TestLook::pageBackground()
 void TestLook::placeAsNumbers()
 {
     StyledShape t;
-    QCOMPARE(t.control<QDoubleSpinBox>("Left edge")->text(), QString("500"));
+    QCOMPARE(t.control<QDoubleSpinBox>("Left edge")->text(), QString("500 px"));
     t.control<QDoubleSpinBox>("Left edge")->setValue(450);
     t.control<QDoubleSpinBox>("Top edge")->setValue(320);
     QCOMPARE(t.board.placeOf(t.shape), QRectF(450, 320, 200, 120));
@@ -325,14 +325,14 @@ void TestLook::valuesThatDifferAreShownAsADash()
     ThreeShapes t;
     const QString dash = QStringLiteral("—");
     QVERIFY(t.control<board::ColorButton>("Outline colour")->isMixed());
-    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), dash);
+    QCOMPARE(t.control<QDoubleSpinBox>("Outline width")->text(), dash + " px");
     QCOMPARE(t.control<QComboBox>("Outline style")->currentIndex(), -1);
     QCOMPARE(t.control<QComboBox>("Outline style")->placeholderText(), dash);
     for (const char *name : {"No fill", "Colour", "Gradient", "Pattern", "Picture"})
         QVERIFY2(!t.type(name)->isChecked(), name);
     QVERIFY(t.control<board::ColorButton>("Fill colour")->isMixed());
-    QCOMPARE(t.control<QDoubleSpinBox>("Width")->text(), dash);
-    QCOMPARE(t.control<QDoubleSpinBox>("Rotation")->text(), dash);
+    QCOMPARE(t.control<QDoubleSpinBox>("Width")->text(), dash + " px");
+    QCOMPARE(t.control<QDoubleSpinBox>("Rotation")->text(), dash + "°");
     QCOMPARE(t.newSteps(), 0);
 }
 
@@ -341,7 +341,7 @@ void TestLook::valuesThatAgreeAreShown()
     ThreeShapes t;
     t.board.page().select({t.second});
     support::deliverEvents();
-    QCOMPARE(t.control<QSpinBox>("Outline width")->value(), 5);
+    QCOMPARE(t.control<QDoubleSpinBox>("Outline width")->value(), 5);
     QVERIFY(!t.control<board::ColorButton>("Outline colour")->isMixed());
     QCOMPARE(t.control<QComboBox>("Outline style")->currentText(), QStringLiteral("Dotted"));
     QVERIFY(t.type("Colour")->isChecked());
@@ -349,18 +349,18 @@ void TestLook::valuesThatAgreeAreShown()
     pagehost::setPenWidth({t.shape}, 5);
     t.board.page().select({t.shape, t.second});
     support::deliverEvents();
-    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("5 px"));
+    QCOMPARE(t.control<QDoubleSpinBox>("Outline width")->text(), QStringLiteral("5 px"));
 }
 
 void TestLook::choosingAValueForADashGivesItToAll()
 {
     ThreeShapes t;
-    t.control<QSpinBox>("Outline width")->setValue(3);
+    t.control<QDoubleSpinBox>("Outline width")->setValue(3);
     QCOMPARE(t.newSteps(), 1);
     for (CBaseObject *object : {t.shape, t.second, t.third})
         QCOMPARE(pagehost::styleOf(object).penWidth, 3);
     support::deliverEvents();
-    QCOMPARE(t.control<QSpinBox>("Outline width")->text(), QStringLiteral("3 px"));
+    QCOMPARE(t.control<QDoubleSpinBox>("Outline width")->text(), QStringLiteral("3 px"));
     Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(1, 2, 3));
     QCOMPARE(t.newSteps(), 2);
     for (CBaseObject *object : {t.shape, t.second, t.third})
