@@ -120,19 +120,19 @@ void TestForms::controlPointGoesWhereItCanBeDragged()
     checklist::createInPose(shape, how);
     for (int number = 1; number <= shape.controlPointCount(); ++number) {
         // Wherever a drag takes it: the shape says where it can be. There it goes from where it was, exactly.
-        const QPointF start = shape.seenControlPoint(number);
+        const QPointF start = shape.scenePoint(number);
         const QPointF way(23, -17);
+        const QPointF target = shape.object().mapToScene(shape.seenControlPoint(number) + way);
         const bool isFree = !boundPoints().contains(name) && shape.hasRoom(number, way);
         freeDrags += isFree;
-        shape.dragTo(number, start + way);
-        const QPointF end = shape.seenControlPoint(number);
+        shape.dragInScene(number, target);
+        const QPointF end = shape.scenePoint(number);
         shape.undoStack().undo();
-        QVERIFY(QLineF(shape.seenControlPoint(number), start).length() < tolerance);
-        shape.dragTo(number, end);
-        QVERIFY2(QLineF(shape.seenControlPoint(number), end).length() < tolerance,
-                 qPrintable(QString::number(number)));
+        QVERIFY(QLineF(shape.scenePoint(number), start).length() < tolerance);
+        shape.dragInScene(number, end);
+        QVERIFY2(QLineF(shape.scenePoint(number), end).length() < tolerance, qPrintable(QString::number(number)));
         // A free point goes under the cursor at once.
-        QVERIFY2(!isFree || QLineF(end, start + way).length() < tolerance, qPrintable(QString::number(number)));
+        QVERIFY2(!isFree || QLineF(end, target).length() < tolerance, qPrintable(QString::number(number)));
         shape.undoStack().undo();
     }
 }

@@ -117,11 +117,21 @@ void ShapeDriver::holdControlPoint(int number, QPointF delta)
 
 void ShapeDriver::dragTo(int number, QPointF seen)
 {
-    const QPointF from = seenControlPoint(number);
-    press(from);
-    moveTo((from + seen) / 2);
-    moveTo(seen);
-    release(seen);
+    dragInScene(number, m_object->mapToScene(seen));
+}
+
+void ShapeDriver::dragInScene(int number, QPointF place)
+{
+    const QPointF from = scenePoint(number);
+    press(m_object->mapFromScene(from));
+    moveTo(m_object->mapFromScene((from + place) / 2));
+    moveTo(m_object->mapFromScene(place));
+    release(m_object->mapFromScene(place));
+}
+
+QPointF ShapeDriver::scenePoint(int number) const
+{
+    return m_object->mapToScene(seenControlPoint(number));
 }
 
 QPointF ShapeDriver::seenControlPoint(int number) const

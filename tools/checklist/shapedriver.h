@@ -55,6 +55,11 @@ public:
 
     /// Drags the control point to a place of item coordinates, as it is seen: mirrored with the object.
     void dragTo(int number, QPointF seen);
+    /// @name The same in scene coordinates, for shapes whose box follows their points
+    /// @{
+    void dragInScene(int number, QPointF place);
+    QPointF scenePoint(int number) const;
+    /// @}
     /// Where the centre of a control point is seen, item coordinates.
     QPointF seenControlPoint(int number) const;
     /// Whether the limits that the shape gives let the point be dragged by `way` (item units, as it is seen)

@@ -7,6 +7,7 @@
 #include <QtCore/QDataStream>
 
 #include <algorithm>
+#include <cmath>
 
 namespace line {
 
@@ -211,7 +212,8 @@ double Line::headLength()
 
 double Line::margin()
 {
-    return std::max(smallestMargin, headLength() * headSlope + getPenWidth());
+    // A whole number: the box comes back exactly when the line does.
+    return std::ceil(std::max(smallestMargin, headLength() * headSlope + getPenWidth()));
 }
 
 void Line::addHead(PathText &path, End end, QPointF tip, QPointF direction)

@@ -10,8 +10,9 @@ namespace line {
 
 namespace {
 
-/// A bend nearer to the straight way than this is none, document units.
-constexpr double straightDistance = 4;
+/// A smaller bend is none. In lengths of the way, so that it doesn't depend on where the ends have been meanwhile.
+constexpr double smallestBend = 1.0 / 64;
+constexpr double largestBend = 8;
 constexpr double stepDegrees = 15;
 /// Ends are whole multiples of 1 / this, document units.
 constexpr double placesPerUnit = 1 << 10;
@@ -44,6 +45,11 @@ bool isOnPaper(QPointF point)
 QPointF roundedTo(QPointF point, double parts)
 {
     return {std::round(point.x() * parts) / parts, std::round(point.y() * parts) / parts};
+}
+
+QPointF limited(QPointF bend)
+{
+    return {qBound(-largestBend, bend.x(), largestBend), qBound(-largestBend, bend.y(), largestBend)};
 }
 
 /// A length without extent, as the height of a level line, can't be stretched.
@@ -80,8 +86,9 @@ void LineCourse::bendThrough(QPointF point)
     if (square == 0)
         return;
     const QPointF offset = point - start;
-    bend = QPointF(QPointF::dotProduct(offset, way), QPointF::dotProduct(offset, rightOf(way))) / square;
-    if (std::abs(bend.y()) * std::sqrt(square) < straightDistance)
+    const QPointF wanted(QPointF::dotProduct(offset, way), QPointF::dotProduct(offset, rightOf(way)));
+    bend = limited(wanted / square);
+    if (std::abs(roundedTo(bend, bendsPerLength).y()) < smallestBend)
         bend = {0.5, 0};
 }
 
@@ -147,7 +154,7 @@ std::optional<LineCourse> decoded(const QByteArray &bytes)
     QDataStream in(bytes);
     in >> course.start >> course.end >> course.bend;
     const bool isWhole = in.status() == QDataStream::Ok && isOnPaper(course.start) && isOnPaper(course.end) &&
-                         isOnPaper(course.bend) && isOnPaper(course.bendPoint());
+                         limited(course.bend) == course.bend;
     return isWhole ? std::optional(course) : std::nullopt;
 }
 

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void aNewLineIsStraight();
     void aCurvePassesThroughItsBend();
     void aBendNextToTheWayMakesTheLineStraight();
+    void theBendOfAShortLineIsLimited();
     void theBendFollowsTheEnds();
     void boundsHoldTheTopOfTheCurve();
     void aLineWithoutLengthHasADirection();
@@ -45,11 +46,20 @@ void TestLineCourse::aCurvePassesThroughItsBend()
 void TestLineCourse::aBendNextToTheWayMakesTheLineStraight()
 {
     LineCourse course{{0, 0}, {100, 0}};
-    course.bendThrough({30, 3.9});
+    course.bendThrough({30, 1.5});
     QVERIFY(course.isStraight());
     QCOMPARE(course.bendPoint(), QPointF(50, 0));
-    course.bendThrough({30, 4.1});
+    course.bendThrough({30, 1.6});
     QVERIFY(!course.isStraight());
+}
+
+/// It would be far away when the line becomes long again.
+void TestLineCourse::theBendOfAShortLineIsLimited()
+{
+    LineCourse course{{0, 0}, {1, 0}};
+    course.bendThrough({0.5, 300});
+    course.end = {100, 0};
+    QCOMPARE(course.bendPoint(), QPointF(50, 800));
 }
 
 void TestLineCourse::theBendFollowsTheEnds()
@@ -120,6 +130,7 @@ void TestLineCourse::damagedDataAreNoCourse()
     QVERIFY(!line::decoded(bytes.left(bytes.size() - 1)));
     QVERIFY(!line::decoded(encoded(LineCourse{{1, 2}, {2e5, 40}})));
     QVERIFY(!line::decoded(encoded(LineCourse{{1, 2}, {qQNaN(), 40}})));
+    QVERIFY(!line::decoded(encoded(LineCourse{{1, 2}, {30, 40}, {0.5, 9}})));
 }
 
 QTEST_MAIN(TestLineCourse)
