@@ -441,11 +441,8 @@ QVector<shapekit::Connection> DeclaredShape::connections()
 void DeclaredShape::draw()
 {
     updateState();
-    m_labels.beginRounds();
-    m_figure.write(*document, m_state, [this](int repeat, QZeSvgNode &copy, const QVector<double> &values) {
-        m_labels.drawRound(repeat, copy, values, m_state);
-    });
-    m_labels.endRounds();
+    LabelRounds rounds(m_labels, m_state);
+    m_figure.write(*document, m_state, rounds);
     m_labels.draw(*document, m_state);
     for (const Message &note : m_state.takeNotes())
         m_kind.tell(note);

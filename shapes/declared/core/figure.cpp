@@ -74,6 +74,14 @@ QZeSvgNode *partOf(QZeSvgNode *node, const QVector<int> &path)
     return node;
 }
 
+bool isShown(const QZeSvgNode &node)
+{
+    const QZeSvgNode *shown = &node;
+    while (shown && shown->isVisible())
+        shown = shown->parent();
+    return !shown;
+}
+
 Figure::Figure(const Declaration &declaration)
     : m_declaration(declaration)
 {
@@ -86,15 +94,16 @@ void Figure::find(QZeSvgTinyDocument &document)
     for (const RepeatDeclaration &repeat : m_declaration.repeats) {
         Repeated repeated;
         QZeSvgNode *node = document.namedNode(repeat.id);
-        if (node && !childrenOf(*node).isEmpty()) {
+        const QList<QZeSvgNode *> children = node ? childrenOf(*node) : QList<QZeSvgNode *>();
+        if (!children.isEmpty()) {
             repeated.group = static_cast<QZeSvgStructureNode *>(node);
-            repeated.copies.append(childrenOf(*node).first());
+            repeated.copies.append(children.first());
         }
         m_repeated.append(repeated);
     }
 }
 
-void Figure::write(QZeSvgTinyDocument &document, ShapeState &state, const RoundListener &listener)
+void Figure::write(QZeSvgTinyDocument &document, ShapeState &state, RoundWriter &rounds)
 {
     find(document);
     for (const ElementDeclaration &element : m_declaration.elements) {
@@ -103,14 +112,37 @@ void Figure::write(QZeSvgTinyDocument &document, ShapeState &state, const RoundL
             writeElement(element, *node, state);
     }
     for (int i = 0; i < m_repeated.size(); ++i)
-        writeRepeated(i, state, listener);
+        writeRepeated(i, state, rounds);
 }
 
-void Figure::writeRepeated(int index, ShapeState &state, const RoundListener &listener)
+/// Rounds that are made of the same values stay: in most steps of a drag most do.
+void Figure::writeRepeated(int index, ShapeState &state, RoundWriter &rounds)
 {
     Repeated &repeated = m_repeated[index];
-    if (!repeated.group || !repeated.group->isVisible())
+    if (!repeated.group)
         return;
+    const Inputs inputs = state.valuesOf(m_declaration.repeats.at(index).inputs);
+    const bool isDrawn = isShown(*repeated.group);
+    const bool isWritten = repeated.written && areSame(*repeated.written, inputs) && !rounds.hasChanged(index);
+    if (isDrawn && isWritten && state.pay(repeated.cost))
+        return;
+    const Budget before = state.budget();
+    rounds.begin(index);
+    const int count = isDrawn ? writeRounds(index, state, rounds) : 0;
+    rounds.end(index);
+    for (int spare = count; isDrawn && spare < repeated.copies.size(); ++spare)
+        setShown(*repeated.copies.at(spare), false);
+    repeated.written.reset();
+    if (!isDrawn || state.isExhausted())
+        return;
+    repeated.written = inputs;
+    repeated.cost = before - state.budget();
+}
+
+/// Gives the number of rounds.
+int Figure::writeRounds(int index, ShapeState &state, RoundWriter &rounds)
+{
+    Repeated &repeated = m_repeated[index];
     const QVector<LoopDeclaration> &loops = m_declaration.repeats.at(index).loops;
     int round = 0;
     const auto boundOf = [&](const Expression &bound) {
@@ -129,16 +161,14 @@ void Figure::writeRepeated(int index, ShapeState &state, const RoundListener &li
                 state.setLoop(loops.last(), k);
             if (round == repeated.copies.size() && !addCopy(repeated)) {
                 state.note("C41", outer.from.place, QStringLiteral("a drawing has at most 1000 repeated elements"));
-                return;
+                return round;
             }
             writeRound(index, round, state);
-            if (listener)
-                listener(index, *repeated.copies.at(round), isNested ? QVector<double>{i, k} : QVector<double>{i});
+            rounds.write(index, *repeated.copies.at(round), isNested ? QVector<double>{i, k} : QVector<double>{i});
             ++round;
         }
     }
-    for (int spare = round; spare < repeated.copies.size(); ++spare)
-        setShown(*repeated.copies.at(spare), false);
+    return round;
 }
 
 bool Figure::addCopy(Repeated &repeated)
@@ -213,9 +243,11 @@ bool Figure::writeLetters(const LettersDeclaration &letters, QZeSvgNode &node, S
 
 void Figure::copyPaints()
 {
-    for (const Repeated &repeated : qAsConst(m_repeated))
+    for (Repeated &repeated : m_repeated) {
         for (int i = 1; i < repeated.copies.size(); ++i)
             copyPaintsOf(*repeated.copies.first(), *repeated.copies.at(i));
+        repeated.written.reset();
+    }
 }
 
 QVector<QZeSvgStructureNode *> Figure::repeatedGroups() const

@@ -4,7 +4,7 @@
 
 #include <QtCore/QVector>
 
-#include <functional>
+#include <optional>
 
 class QZeSvgNode;
 class QZeSvgStructureNode;
@@ -14,9 +14,21 @@ namespace declared {
 
 /// A node below another one, by index of child; null when there is none.
 QZeSvgNode *partOf(QZeSvgNode *node, const QVector<int> &path);
+/// Whether neither the node nor one around it is hidden.
+bool isShown(const QZeSvgNode &node);
 
-/// Notified of each round of a repetition, while its loops have the values of that round.
-using RoundListener = std::function<void(int repeat, QZeSvgNode &copy, const QVector<double> &values)>;
+/// Draws what the rounds of repetitions have besides their elements.
+class RoundWriter
+{
+public:
+    virtual ~RoundWriter() = default;
+    /// Whether rounds have to be written although their expressions have the values that they had.
+    virtual bool hasChanged(int repeat) const = 0;
+    virtual void begin(int repeat) = 0;
+    /// Called for each round, while its loops have these values.
+    virtual void write(int repeat, QZeSvgNode &copy, const QVector<double> &values) = 0;
+    virtual void end(int repeat) = 0;
+};
 
 /// The elements of one shape's document that expressions write, and the copies of those that are repeated.
 class Figure
@@ -26,7 +38,7 @@ public:
 
     /// Writes what differs from what is there. Elements with a value that isn't finite, or that their attribute
     /// doesn't take, are not drawn.
-    void write(QZeSvgTinyDocument &document, ShapeState &state, const RoundListener &listener = {});
+    void write(QZeSvgTinyDocument &document, ShapeState &state, RoundWriter &rounds);
     /// Copies have the paints of what they are copies of.
     void copyPaints();
     /// Groups whose content is repeated.
@@ -36,11 +48,14 @@ private:
     struct Repeated
     {
         QZeSvgStructureNode *group = nullptr;
-        QVector<QZeSvgNode *> copies; ///< the template's own first
+        QVector<QZeSvgNode *> copies;  ///< the template's own first
+        std::optional<Inputs> written; ///< what the rounds were made of; none while they have to be written
+        Budget cost;
     };
 
     void find(QZeSvgTinyDocument &document);
-    void writeRepeated(int index, ShapeState &state, const RoundListener &listener);
+    void writeRepeated(int index, ShapeState &state, RoundWriter &rounds);
+    int writeRounds(int index, ShapeState &state, RoundWriter &rounds);
     bool addCopy(Repeated &repeated);
     void writeRound(int index, int round, ShapeState &state);
     void writeElement(const ElementDeclaration &element, QZeSvgNode &node, ShapeState &state);

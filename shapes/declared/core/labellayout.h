@@ -1,5 +1,6 @@
 #pragma once
 
+#include <declared/core/typesetting.h>
 #include <declared/reader/declaration.h>
 
 #include <QtCore/QSizeF>
@@ -36,10 +37,11 @@ struct LabelLayout
     QVector<LabelLine> lines;
     QPainterPath outline; ///< of all letters, from the box's corner
     double size = 0;      ///< of the font
+    Typesetting letters;  ///< what it is made of
 };
 
 /// Breaks a text into lines and places them in the box. Start and end of a line are those of its writing direction.
-/// Text that has no room stands out of the box.
-LabelLayout layOut(const LabelLook &look);
+/// Text that has no room stands out of the box. Letters that are known from before are used again where they fit.
+LabelLayout layOut(const LabelLook &look, const Typesetting &known = {});
 
 } // namespace declared

@@ -1,6 +1,5 @@
 #include <declared/core/labels.h>
 
-#include <declared/core/figure.h>
 #include <declared/core/roundids.h>
 #include <declared/reader/filelimits.h>
 
@@ -57,14 +56,6 @@ void setAttribute(QZeSvgNode &node, const QString &name, const QString &value)
 {
     if (node.attribute(name) != value)
         node.setAttribute(name, value);
-}
-
-bool isShown(const QZeSvgNode &node)
-{
-    const QZeSvgNode *shown = &node;
-    while (shown && shown->isVisible())
-        shown = shown->parent();
-    return !shown;
 }
 
 /// Starts a copy of the reader's element under a name, without the path data of letters.
@@ -170,17 +161,28 @@ void Labels::draw(QZeSvgTinyDocument &document, ShapeState &state)
     }
 }
 
-void Labels::beginRounds()
+bool Labels::hasChangedRounds(int repeat) const
 {
-    for (Label &label : m_labels)
-        label.shownRounds = 0;
+    return std::any_of(m_labels.begin(), m_labels.end(), [repeat](const Label &label) {
+        return label.declared->repeat == repeat && label.hasChanged;
+    });
 }
 
-void Labels::endRounds()
+void Labels::beginRounds(int repeat)
 {
     for (Label &label : m_labels)
-        if (!label.text)
-            label.writings.resize(label.shownRounds);
+        if (label.declared->repeat == repeat)
+            label.shownRounds = 0;
+}
+
+void Labels::endRounds(int repeat)
+{
+    for (Label &label : m_labels) {
+        if (label.declared->repeat != repeat)
+            continue;
+        label.writings.resize(label.shownRounds);
+        label.hasChanged = false;
+    }
 }
 
 void Labels::drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &values, ShapeState &state)
@@ -221,7 +223,7 @@ void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &b
     if (isAtPlace && look == writing.look && !writing.path.isEmpty())
         return;
     if (look != writing.look)
-        writing.layout = layOut(look);
+        writing.layout = layOut(look, writing.layout.letters);
     writing.look = look;
     writing.corner = box.topLeft();
     writing.path = pathText(writing.layout.outline, writing.corner);
@@ -304,6 +306,7 @@ void Labels::setTextOfRound(int id, const QString &text)
     label->ownTexts.remove(id);
     if (own != textOfRound(id))
         label->ownTexts.insert(id, own);
+    label->hasChanged = true;
 }
 
 QByteArray Labels::withTexts(const QByteArray &svg) const
@@ -375,6 +378,7 @@ void Labels::fromJson(const QJsonObject &labels)
 {
     for (Label &label : m_labels) {
         label.ownTexts.clear();
+        label.hasChanged = true;
         if (!label.text)
             readRounds(label, labels);
         else

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <declared/core/figure.h>
 #include <declared/core/labellayout.h>
 #include <declared/core/labeltitles.h>
 #include <declared/core/shapestate.h>
@@ -33,11 +34,15 @@ public:
 
     /// Draws those that aren't repeated.
     void draw(QZeSvgTinyDocument &document, ShapeState &state);
-    /// Draws those in a copy of a repeated element, whose loops have these values in the state. Rounds of a drawing
-    /// come between beginRounds() and endRounds().
+    /// @name Texts in the copies of a repeated element
+    /// @{
+    /// Whether the user has written one since they were drawn.
+    bool hasChangedRounds(int repeat) const;
+    void beginRounds(int repeat);
+    /// In one copy, whose loops have these values in the state.
     void drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &values, ShapeState &state);
-    void beginRounds();
-    void endRounds();
+    void endRounds(int repeat);
+    /// @}
     /// @name Texts of rounds, by id; kept while their round is not shown
     /// @{
     bool hasRound(int id) const;
@@ -77,6 +82,7 @@ private:
         std::vector<Writing> writings; ///< one, or one for each round
         size_t shownRounds = 0;
         QMap<int, QString> ownTexts; ///< of rounds, by id
+        bool hasChanged = false;     ///< its rounds have to be drawn
     };
     struct Found
     {
@@ -99,6 +105,29 @@ private:
     const Label *labelOfRound(int id) const { return const_cast<Labels *>(this)->labelOfRound(id); }
 
     std::vector<Label> m_labels;
+};
+
+/// The labels of a drawing, for its figure.
+class LabelRounds : public RoundWriter
+{
+public:
+    /// Both outlive it.
+    LabelRounds(Labels &labels, ShapeState &state)
+        : m_labels(labels)
+        , m_state(state)
+    {
+    }
+    bool hasChanged(int repeat) const override { return m_labels.hasChangedRounds(repeat); }
+    void begin(int repeat) override { m_labels.beginRounds(repeat); }
+    void write(int repeat, QZeSvgNode &copy, const QVector<double> &values) override
+    {
+        m_labels.drawRound(repeat, copy, values, m_state);
+    }
+    void end(int repeat) override { m_labels.endRounds(repeat); }
+
+private:
+    Labels &m_labels;
+    ShapeState &m_state;
 };
 
 } // namespace declared

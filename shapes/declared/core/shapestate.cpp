@@ -13,14 +13,31 @@ namespace declared {
 namespace {
 
 /// To the last bit: the operators of QPointF forgive small differences.
+bool isSamePoint(QPointF a, QPointF b)
+{
+    return a.x() == b.x() && a.y() == b.y();
+}
+
 bool areSame(const QVector<QPointF> &present, const QVector<QPointF> &entries)
 {
-    const auto isSame = [](QPointF a, QPointF b) { return a.x() == b.x() && a.y() == b.y(); };
     return present.size() == entries.size() &&
-           std::equal(present.cbegin(), present.cend(), entries.cbegin(), isSame);
+           std::equal(present.cbegin(), present.cend(), entries.cbegin(), isSamePoint);
+}
+
+bool isSameValue(const Value &present, const Value &value)
+{
+    return isSamePoint(present.point, value.point) && present.text == value.text;
 }
 
 } // namespace
+
+bool areSame(const Inputs &present, const Inputs &others)
+{
+    return present.values.size() == others.values.size() && present.lists.size() == others.lists.size() &&
+           std::equal(present.values.cbegin(), present.values.cend(), others.values.cbegin(), isSameValue) &&
+           std::equal(present.lists.cbegin(), present.lists.cend(), others.lists.cbegin(),
+                      [](const auto &a, const auto &b) { return areSame(a, b); });
+}
 
 ShapeState::ShapeState(const Declaration &declaration)
     : m_declaration(declaration)
@@ -34,9 +51,7 @@ ShapeState::ShapeState(const Declaration &declaration)
 void ShapeState::set(qint32 slot, const Value &value)
 {
     Value &present = m_inputs.values[slot];
-    const bool isSame =
-        present.point.x() == value.point.x() && present.point.y() == value.point.y() && present.text == value.text;
-    if (isSame)
+    if (isSameValue(present, value))
         return;
     present = value;
     m_letsAreValid = false;
@@ -103,6 +118,28 @@ void ShapeState::evaluateLets()
     m_letsAreValid = true;
     for (const LetDeclaration &let : m_declaration.lets)
         m_inputs.values[let.slot] = Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(let.value);
+}
+
+bool ShapeState::pay(const Budget &cost)
+{
+    const Budget left = m_budget - cost;
+    if (m_budget.isExhausted || left.steps < 0 || left.characters < 0)
+        return false;
+    m_budget = left;
+    return true;
+}
+
+Inputs ShapeState::valuesOf(const QVector<qint32> &inputs)
+{
+    if (!m_letsAreValid)
+        evaluateLets();
+    Inputs values;
+    for (const qint32 slot : inputs)
+        if (slot < 0)
+            values.lists.append(m_inputs.lists.at(-1 - slot));
+        else
+            values.values.append(m_inputs.values.at(slot));
+    return values;
 }
 
 Value ShapeState::valueOf(const Expression &expression)

@@ -35,7 +35,13 @@ public:
         m_budget = {};
     }
     bool isExhausted() const { return m_budget.isExhausted; }
+    const Budget &budget() const { return m_budget; }
+    /// Pays for a part of the drawing that is there already, so that what is drawn does not depend on what was
+    /// drawn before. False, without paying, when the budget is too small.
+    bool pay(const Budget &cost);
 
+    /// The present values of inputs, in their order: slots, lists as -1 - slot.
+    Inputs valuesOf(const QVector<qint32> &inputs);
     /// Notes an expression whose value isn't finite.
     Value valueOf(const Expression &expression);
     bool holds(const Expression &expression);
@@ -66,5 +72,8 @@ private:
     std::optional<QRgb> m_fill;
     QVector<Message> m_notes;
 };
+
+/// To the last bit.
+bool areSame(const Inputs &present, const Inputs &others);
 
 } // namespace declared

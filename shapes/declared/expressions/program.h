@@ -95,6 +95,12 @@ struct Budget
     bool isExhausted = false;
 };
 
+/// The rest of `whole` without `part`; the cost of an evaluation, where `part` is what it left.
+inline Budget operator-(const Budget &whole, const Budget &part)
+{
+    return {whole.steps - part.steps, whole.characters - part.characters, whole.isExhausted};
+}
+
 /// Evaluates expressions of a program for given inputs.
 class Evaluator
 {

@@ -144,6 +144,8 @@ struct RepeatDeclaration
     QVector<LoopDeclaration> loops;
     QVector<int> way;    ///< from the root of the file, by index of drawn child
     int drawnRounds = 0; ///< children in the file
+    /// Inputs that its rounds are made of, its loops aside: slots, lists as -1 - slot.
+    QVector<qint32> inputs;
 };
 
 enum class LabelAlignment { Start, Middle, End };

@@ -119,6 +119,8 @@ void FileReader::readElements()
         if (isSvg(m_elements.at(i)) && !m_done.contains(i))
             readElement(i, -1, {});
     checkLabelIds();
+    for (int repeat = 0; repeat < m_shape.repeats.size(); ++repeat)
+        m_shape.repeats[repeat].inputs = inputsOfRounds(repeat);
 }
 
 void FileReader::readElement(int index, int repeat, const QVector<int> &path)
@@ -279,6 +281,41 @@ void FileReader::readRepeat(int index)
     // The others only show what the first look is like.
     for (int i = 1; i < children.size(); ++i)
         m_done.insert(children.at(i));
+}
+
+QVector<qint32> FileReader::inputsOfRounds(int repeat) const
+{
+    QSet<qint32> inputs;
+    const auto add = [&inputs](const Expression &expression) {
+        for (const qint32 slot : expression.inputs)
+            inputs.insert(slot);
+    };
+    for (const ElementDeclaration &element : qAsConst(m_shape.elements)) {
+        if (element.repeat != repeat)
+            continue;
+        for (const AttributeDeclaration &attribute : element.attributes)
+            add(attribute.text);
+        for (const Expression *part : {&element.visible, &element.letters.content, &element.letters.x,
+                                       &element.letters.y, &element.letters.size})
+            add(*part);
+    }
+    for (const LabelDeclaration &label : qAsConst(m_shape.labels)) {
+        if (label.repeat != repeat)
+            continue;
+        for (const Expression &side : label.box)
+            add(side);
+        add(label.content);
+        if (label.followsPen)
+            inputs.insert(slots_of::Pen);
+    }
+    const QVector<LoopDeclaration> &loops = m_shape.repeats.at(repeat).loops;
+    for (const LoopDeclaration &loop : loops) {
+        add(loop.from);
+        add(loop.to);
+    }
+    for (const LoopDeclaration &loop : loops)
+        inputs.remove(loop.slot);
+    return QVector<qint32>(inputs.cbegin(), inputs.cend());
 }
 
 QVector<int> FileReader::wayTo(int index) const

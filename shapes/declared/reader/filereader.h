@@ -156,6 +156,8 @@ private:
     void readLabelLook(const Element &element, LabelDeclaration &label);
     void readRepeat(int index);
     void readRepeated(int index, int repeat, const QVector<int> &path);
+    /// Slots that the rounds of a repetition read, its loops aside.
+    QVector<qint32> inputsOfRounds(int repeat) const;
     bool isDrawn(const Element &element) const;
     /// The way from the root to an element, by index of drawn child.
     QVector<int> wayTo(int index) const;

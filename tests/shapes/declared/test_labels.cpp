@@ -66,6 +66,9 @@ private Q_SLOTS:
     void longTextIsBrokenAtTheBox();
     void lineBreaksAreKept();
     void textThatFitsGetsAsLargeAsItMay();
+    void textOfOneLineHasOneLine();
+    void textStandsAlikeInWhicheverBoxItStoodBefore_data();
+    void textStandsAlikeInWhicheverBoxItStoodBefore();
     void boldLettersAreWider();
     void arabicBeginsAtTheRight();
     void chineseIsBrokenBetweenSigns();
@@ -94,6 +97,7 @@ private Q_SLOTS:
     void writtenFigureIsExportedAsText();
     void figuresHaveTheColourOfThePen();
     void labelOfAHiddenGroupIsNotWritten();
+    void labelsOfRoundsInAHiddenGroupArentWritten();
 
 private:
     static void addFigureRows();
@@ -167,6 +171,49 @@ void TestLabels::textThatFitsGetsAsLargeAsItMay()
     QVERIFY(QRectF(0, 0, 100, 50).contains(letters));
     look.text = QString(QStringLiteral("many words ")).repeated(80);
     QCOMPARE(layOut(look).size, 6.0);
+}
+
+void TestLabels::textOfOneLineHasOneLine()
+{
+    LabelLook look = lookOf(QStringLiteral("one\ntwo"));
+    look.hasManyLines = false;
+    QCOMPARE(textsOf(layOut(look)), QStringList({QStringLiteral("one two")}));
+}
+
+void TestLabels::textStandsAlikeInWhicheverBoxItStoodBefore_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasManyLines");
+    QTest::addColumn<double>("smallest");
+    QTest::newRow("a word") << QStringLiteral("Radius") << true << 0.0;
+    QTest::newRow("a word that gets smaller") << QStringLiteral("Radius") << true << 4.0;
+    QTest::newRow("one line") << QStringLiteral("12.5 and more") << false << 4.0;
+    QTest::newRow("many words") << QStringLiteral("The quick brown fox jumps\nover the dog") << true << 0.0;
+    QTest::newRow("many words that get smaller") << QStringLiteral("The quick brown fox\njumps ") << true << 4.0;
+    QTest::newRow("Arabic") << QString::fromUtf8("مرحبا بالعالم") << true << 4.0;
+}
+
+void TestLabels::textStandsAlikeInWhicheverBoxItStoodBefore()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, hasManyLines);
+    QFETCH(double, smallest);
+    LabelLook look = lookOf(text);
+    look.hasManyLines = hasManyLines;
+    look.smallest = smallest;
+    LabelLayout before;
+    for (const double width : {100.0, 20.0, 60.0, 61.0, 240.0, 5.0, 36.0}) {
+        look.box.setWidth(width);
+        const LabelLayout fresh = layOut(look);
+        before = layOut(look, before.letters);
+        QCOMPARE(before.size, fresh.size);
+        QCOMPARE(textsOf(before), textsOf(fresh));
+        QCOMPARE(before.outline, fresh.outline);
+    }
+    look.isBold = true;
+    QCOMPARE(layOut(look, before.letters).outline, layOut(look).outline);
+    look.text += QLatin1Char('.');
+    QCOMPARE(layOut(look, before.letters).outline, layOut(look).outline);
 }
 
 void TestLabels::boldLettersAreWider()
@@ -593,7 +640,8 @@ void TestLabels::figuresHaveTheColourOfThePen()
     QCOMPARE(numbers.last().color, QColor(0xcc, 0x11, 0x22));
     const auto *group =
         static_cast<const QZeSvgStructureNode *>(shape.document().namedNode(QStringLiteral("numbers")));
-    for (const QZeSvgNode *number : group->children())
+    const QList<QZeSvgNode *> children = group->children();
+    for (const QZeSvgNode *number : children)
         QCOMPARE(number->attribute(QStringLiteral("fill")), QStringLiteral("#cc1122"));
 }
 
@@ -606,6 +654,20 @@ void TestLabels::labelOfAHiddenGroupIsNotWritten()
     QVERIFY(object.core()->labelPlaces().isEmpty());
     object.SetSettingJson(QStringLiteral(R"({"idDeclared_on": "true"})"), false, false);
     QCOMPARE(object.core()->labelPlaces().size(), 1);
+}
+
+void TestLabels::labelsOfRoundsInAHiddenGroupArentWritten()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<shape:property name='on' type='switch' value='yes'/><path id='figure' fill='#fff' d='M0 0H120V80H0Z'/>"
+        "<g shape:visible='on'><g shape:repeat='i in 0..1'><text id='label_1' shape:box='60 * i; 0; 60; h'>A</text>"
+        "<text/></g></g>")));
+    shapekit::ShapeObject object(kind.kind());
+    QCOMPARE(object.core()->labelPlaces().size(), 2);
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_on": "false"})"), false, false);
+    QVERIFY(object.core()->labelPlaces().isEmpty());
+    object.SetSettingJson(QStringLiteral(R"({"idDeclared_on": "true"})"), false, false);
+    QCOMPARE(object.core()->labelPlaces().size(), 2);
 }
 
 QTEST_MAIN(TestLabels)

@@ -13,6 +13,8 @@
 #include <QtCore/QDataStream>
 #include <QtTest/QtTest>
 
+#include <algorithm>
+
 using namespace declared;
 
 namespace {
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void lessonOfAFormerNameIsPlayed();
     void movementTakesAsLongAsItsValueSays();
     void partFollowsTheColourOfPenAndFill();
+    void copiesKeepTheirColoursWhenPenAndFillChange();
+    void limitOfADrawingLeavesOutTheSameAtAnyTime();
 };
 
 void TestValues::savedValueOfAFormerNameIsTaken()
@@ -142,6 +146,66 @@ void TestValues::partFollowsTheColourOfPenAndFill()
     QVERIFY(!shows("dot"));
     shape.core().setFillBrush(QColor(0, 255, 0), false, true);
     QVERIFY(shows("dot"));
+}
+
+void TestValues::copiesKeepTheirColoursWhenPenAndFillChange()
+{
+    const ShapeKind kind(declaredtest::readOf(declaredtest::fileOf(
+        "<path id='figure' fill='#fff' stroke='#000' d='M0 0H120V80H0Z'/>"
+        "<g id='bars' shape:repeat='i in 0..1'><rect width='9' height='9' stroke='#000' fill='#ff0000' "
+        "shape:fill=\"{i == 0 ? '#ff0000' : '#00ff00'}\"/><rect width='9' height='9' fill='#00ff00'/></g>")));
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(kind.kind()));
+    shape.createByClick();
+    const auto fills = [&] {
+        shape.painted();
+        QStringList colours;
+        const auto *bars =
+            static_cast<const QZeSvgStructureNode *>(shape.document().namedNode(QStringLiteral("bars")));
+        const QList<QZeSvgNode *> children = bars->children();
+        for (const QZeSvgNode *bar : children)
+            colours.append(bar->attribute(QStringLiteral("fill")));
+        return colours.join(QLatin1Char(' '));
+    };
+    QCOMPARE(fills(), QStringLiteral("#ff0000 #00ff00"));
+    shape.core().setPenColor(Qt::blue, false);
+    QCOMPARE(fills(), QStringLiteral("#ff0000 #00ff00"));
+    shape.core().setFillBrush(QBrush(Qt::yellow), false, true);
+    QCOMPARE(fills(), QStringLiteral("#ff0000 #00ff00"));
+}
+
+namespace {
+
+/// How many children of a group are drawn.
+int drawnIn(const shapetest::ShapeDriver &shape, const char *group)
+{
+    shape.painted();
+    const auto *node = static_cast<const QZeSvgStructureNode *>(shape.document().namedNode(QLatin1String(group)));
+    const QList<QZeSvgNode *> children = node->children();
+    return int(
+        std::count_if(children.begin(), children.end(), [](const auto *child) { return child->isVisible(); }));
+}
+
+} // namespace
+
+void TestValues::limitOfADrawingLeavesOutTheSameAtAnyTime()
+{
+    // Each child takes some 14,000 of the 200,000 steps.
+    const QByteArray child = "<path fill='#000' d='M0 0' "
+                             "shape:d='M{i} 0{for k in 0..1000}{k + 1 + 1 + 1 + 1 &lt; 0 ? 1 : 2} {end}'/>";
+    const ShapeKind kind(declaredtest::readOf(
+        declaredtest::fileOf("<path id='figure' fill='#fff' d='M0 0H120V80H0Z'/>"
+                             "<shape:property name='n' type='whole' value='2' from='0' to='40'/>"
+                             "<g id='some' shape:repeat='i in 0..n'>" +
+                             child + "</g><g id='others' shape:repeat='i in 0..4'>" + child + "</g>")));
+    shapetest::ShapeDriver shape(QStringLiteral("star"));
+    shape.takeObject(new shapekit::ShapeObject(kind.kind()));
+    shape.createByClick();
+    QCOMPARE(drawnIn(shape, "others"), 5);
+    shape.object().SetSettingJson(QStringLiteral(R"({"idDeclared_n": "40"})"), false, false);
+    QCOMPARE(drawnIn(shape, "others"), 0);
+    shape.object().SetSettingJson(QStringLiteral(R"({"idDeclared_n": "2"})"), false, false);
+    QCOMPARE(drawnIn(shape, "others"), 5);
 }
 
 QTEST_MAIN(TestValues)
