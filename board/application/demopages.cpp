@@ -234,7 +234,8 @@ void fillWithDemo(Workspace &workspace)
     DemoPainter(workspace, document->appendPage()).paintCatalogue();
     DemoPainter(workspace, document->appendPage()).paintVariations();
     DemoPainter(workspace, document->appendPage()).paintWreath();
-    for (pagehost::Page *page : document->pages())
+    const QVector<pagehost::Page *> pages = document->pages();
+    for (pagehost::Page *page : pages)
         page->select({});
     document->setCurrentIndex(0);
     CUndoRedo::GetInstance()->stack()->clear();

@@ -16,7 +16,8 @@ QString wordsOf(const Workspace &workspace, const QString &textKey)
     const QString wordsKey = textKey + QStringLiteral("_WORDS");
     pagehost::Localizer localizer = workspace.localizer();
     QStringList words;
-    for (const QString &language : boardLanguages()) {
+    const QStringList languages = boardLanguages();
+    for (const QString &language : languages) {
         localizer.setLanguage(language);
         words.append(localizer.text(textKey).remove(QLatin1Char('&')));
         if (localizer.hasText(language, wordsKey))
@@ -46,7 +47,8 @@ int rankOf(const Findable &findable, const QString &text)
 QVector<Findable> findables(const Workspace &workspace, const Commands &commands)
 {
     QVector<Findable> all;
-    for (const Command command : commands.performed()) {
+    const QVector<Command> performed = commands.performed();
+    for (const Command command : performed) {
         const CommandFacts &facts = factsOf(command);
         const QString group = workspace.text(groupTextKey(facts.group)).remove(QLatin1Char('&'));
         all.append({commands.name(command), group, wordsOf(workspace, QLatin1String(facts.textKey)), command, {}});

@@ -88,7 +88,8 @@ void KeysDialog::makeList()
     m_list->header()->setSectionResizeMode(keysColumn, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
     std::map<CommandGroup, QTreeWidgetItem *> groups;
-    for (const Command command : m_commands->performed()) {
+    const QVector<Command> performed = m_commands->performed();
+    for (const Command command : performed) {
         const CommandGroup group = factsOf(command).group;
         QTreeWidgetItem *&title = groups[group];
         if (!title)

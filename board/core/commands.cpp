@@ -210,7 +210,8 @@ void Commands::setLettersAct(bool act)
 void Commands::give(Command command)
 {
     QList<QKeySequence> given;
-    for (const QKeySequence &key : keys(command))
+    const QList<QKeySequence> all = keys(command);
+    for (const QKeySequence &key : all)
         if (m_lettersAct || !isLetterKey(key))
             given.append(key);
     action(command)->setShortcuts(given);
