@@ -1,8 +1,9 @@
 #include "page/pageview.h"
 
 #include "look/theme.h"
+#include "page/desk.h"
 #include "page/draghint.h"
-#include "page/labeleditor.h"
+#include "page/labelwriting.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -43,18 +44,13 @@ constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
 constexpr std::array<double, 14> zoomSteps{0.1, 0.25, 0.33, 0.5, 0.67, 0.75, 1, 1.25, 1.5, 2, 3, 4, 6, 8};
 constexpr double zoomEpsilon = 1e-6;
-constexpr int shadowSize = 7;
-/// In every theme.
-constexpr Qt::GlobalColor paperColor = Qt::white;
-/// How far beyond the area to repaint the canvas is filled, pixels: that area's edges lie beside the pixels' own,
-/// and a smooth edge would leave a line.
-constexpr int repaintMargin = 2;
 
 } // namespace
 
 PageView::PageView(QWidget *parent)
     : QGraphicsView(parent)
     , m_band(this)
+    , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
     setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
@@ -65,6 +61,7 @@ PageView::PageView(QWidget *parent)
     setAcceptDrops(true);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
+    connect(m_writing, &LabelWriting::ended, this, &PageView::writingEnded);
 }
 
 void PageView::setPage(pagehost::Page *page)
@@ -203,7 +200,7 @@ void PageView::updateSceneArea()
 void PageView::settle()
 {
     m_nudging.finish();
-    endWriting();
+    m_writing->end();
     if (!m_page)
         return;
     m_page->scene()->cancelDrag();
@@ -293,66 +290,22 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
     const bool usesTool = m_page && m_page->scene()->tool();
     if (doubleClicked && !usesTool &&
         (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
-        writeLabelAt(event->pos());
-}
-
-bool PageView::writeLabelAt(const QPoint &pos)
-{
-    CBaseObject *object = isEditable() ? objectAt(pos) : nullptr;
-    if (!object || object->isLocked())
-        return false;
-    const QPointF place = object->mapFromScene(mapToScene(pos));
-    const QVector<EditableLabel> labels = labelsOf(*object);
-    for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
-        if (!label->box.contains(place))
-            continue;
-        write(object, *label);
-        return true;
-    }
-    return false;
-}
-
-/// The topmost one; handles and other aids are none.
-CBaseObject *PageView::objectAt(const QPoint &pos) const
-{
-    const QList<QGraphicsItem *> found = items(pos);
-    for (QGraphicsItem *item : found)
-        if (auto *object = dynamic_cast<CBaseObject *>(item))
-            return object;
-    return nullptr;
+        m_writing->writeAt(event->pos());
 }
 
 bool PageView::isWriting() const
 {
-    return m_labelEditor;
+    return m_writing->isWriting();
 }
 
 bool PageView::canWriteLabel() const
 {
-    const QVector<CBaseObject *> selected = isEditable() ? m_page->selectedObjects() : QVector<CBaseObject *>();
-    return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.first()).isEmpty();
+    return m_writing->canWriteSelected();
 }
 
 bool PageView::writeFirstLabel(bool ofNewObject)
 {
-    if (!canWriteLabel())
-        return false;
-    CBaseObject *object = m_page->selectedObjects().first();
-    write(object, labelsOf(*object).first(), ofNewObject);
-    return true;
-}
-
-void PageView::endWriting()
-{
-    if (m_labelEditor)
-        m_labelEditor->finish();
-}
-
-void PageView::write(CBaseObject *object, const EditableLabel &label, bool isNewObject)
-{
-    endWriting();
-    m_labelEditor = new LabelEditor(object, label, isNewObject, this);
-    connect(m_labelEditor, &LabelEditor::finished, this, &PageView::writingEnded);
+    return m_writing->writeSelected(ofNewObject);
 }
 
 /// Of the drag that is going on. Only an object that is selected alone shows what it can be dragged at.
@@ -526,30 +479,14 @@ void PageView::resizeEvent(QResizeEvent *event)
 
 void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 {
-    const ThemeColors colors = themeColors();
-    const double margin = repaintMargin / m_zoom;
-    painter->fillRect(rect.adjusted(-margin, -margin, margin, margin), m_isBare ? QColor(Qt::black) : colors.desk);
+    paintDesk(painter, rect, m_zoom, m_isBare);
     if (!m_page)
         return;
     if (!m_isBare)
-        paintShadow(painter);
+        paintShadow(painter, m_page->rect(), m_zoom);
     // A background that can be seen through lies on paper, not on its shadow.
-    painter->fillRect(m_page->rect(), paperColor);
+    paintPaper(painter, m_page->rect());
     QGraphicsView::drawBackground(painter, rect);
-}
-
-void PageView::paintShadow(QPainter *painter) const
-{
-    painter->save();
-    painter->setPen(Qt::NoPen);
-    QColor shadow = themeColors().pageShadow;
-    shadow.setAlpha(shadow.alpha() / shadowSize);
-    painter->setBrush(shadow);
-    for (int i = 1; i <= shadowSize; ++i) {
-        const double grow = i / m_zoom;
-        painter->drawRoundedRect(m_page->rect().adjusted(-grow, -grow / 2, grow, grow * 1.5), grow, grow);
-    }
-    painter->restore();
 }
 
 /// Whoever has a second page has begun.

@@ -18,8 +18,7 @@ class QTabletEvent;
 
 namespace board {
 
-class LabelEditor;
-struct EditableLabel;
+class LabelWriting;
 
 /// The view that a page is edited in. Its object name is the one that page objects show their control points in.
 ///
@@ -115,19 +114,13 @@ private:
     void panTo(const QPoint &pos);
     void endBand(const QMouseEvent *event);
     void showHint(const QPoint &pointer);
-    /// Begins to write the label there (viewport coordinates). False where there is none.
-    bool writeLabelAt(const QPoint &pos);
     bool usePen(QTabletEvent *event);
-    CBaseObject *objectAt(const QPoint &pos) const;
-    void write(CBaseObject *object, const EditableLabel &label, bool isNewObject = false);
-    void endWriting();
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
     bool nudge(const QKeyEvent *event);
     void followPage();
     void applyZoom(double rate);
     void updateSceneArea();
-    void paintShadow(QPainter *painter) const;
     void showFitted();
 
     QPointer<pagehost::Page> m_page;
@@ -146,7 +139,7 @@ private:
     QPoint m_panPos; ///< viewport coordinates
     /// Of a double click that is going on, viewport coordinates.
     std::optional<QPoint> m_doubleClicked;
-    QPointer<LabelEditor> m_labelEditor;
+    LabelWriting *m_writing;
 };
 
 /// The format under which the palette drags a kind of shape: its id in UTF-8.

@@ -23,7 +23,6 @@
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
 #include "look/theme.h"
-#include "output/pageexport.h"
 #include "page/pageview.h"
 #include "panels/historypanel.h"
 #include "panels/outlinepanel.h"
@@ -41,6 +40,7 @@
 #include "window/fieldundo.h"
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
+#include "window/pageexporting.h"
 #include "window/shapefolder.h"
 #include "window/shapetool.h"
 #include "window/shelf.h"
@@ -55,7 +55,6 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QCloseEvent>
@@ -105,7 +104,6 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_view, this))
     , m_toolSettings(new ToolSettings(this))
     , m_lock(m_view)
-    , m_dialogs(workspace, this)
     , m_presentation(new Presentation(workspace, m_commands, m_tools, m_view, this))
     , m_topBar(new TopBar(workspace, m_actions, m_view, this))
     , m_dock(new Dock(workspace, m_commands, m_tools))
@@ -425,8 +423,9 @@ void MainWindow::connectParts()
     m_view->setDropTest(
         [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
-    connect(m_actions->exportPages, &QAction::triggered, this, [this] { askAndExport(PageFormat::Png); });
-    connect(m_actions->exportSvg, &QAction::triggered, this, [this] { askAndExport(PageFormat::Svg); });
+    auto *exporting = new PageExporting(m_workspace, m_documents, m_notices, this);
+    connect(m_actions->exportPages, &QAction::triggered, this, [=] { exporting->ask(PageFormat::Png); });
+    connect(m_actions->exportSvg, &QAction::triggered, this, [=] { exporting->ask(PageFormat::Svg); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
     m_commands->perform(Command::AllProperties, this, [this] { raisePanel(properties()); });
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
@@ -540,37 +539,6 @@ void MainWindow::askAndInsert()
         m_clipboard->drop(data, m_view->mapToScene(m_view->viewport()->rect().center()));
     });
     dialog->open();
-}
-
-void MainWindow::askAndExport(PageFormat format)
-{
-    const char *titleKey = format == PageFormat::Svg ? "IDS_BOARD_EXPORT_SVG" : "IDS_BOARD_EXPORT";
-    m_dialogs.askForFolder(m_workspace->text(titleKey), m_documents->folder(), [=](const QString &folder) {
-        QStringList present = exportFiles(m_workspace->document(), folder, format);
-        present.erase(std::remove_if(present.begin(), present.end(),
-                                     [](const QString &file) { return !QFileInfo::exists(file); }),
-                      present.end());
-        if (present.isEmpty())
-            exportPages(folder, format);
-        else
-            m_dialogs.askToReplace(present, [=] { exportPages(folder, format); });
-    });
-}
-
-void MainWindow::exportPages(const QString &folder, PageFormat format)
-{
-    const ExportResult result =
-        board::exportPages(m_workspace->document(), m_workspace->registry(), folder, {format, 1});
-    if (!result.files.isEmpty())
-        m_notices->add({m_workspace->text("IDS_BOARD_EXPORTED").arg(result.files.size()).arg(folder),
-                        {},
-                        {},
-                        QStringLiteral("exportedNotice")});
-    if (!result.problems.isEmpty())
-        m_notices->add(
-            {m_workspace->text("IDS_BOARD_NOT_EXPORTED"), result.problems, {}, QStringLiteral("exportNotice")});
-    else
-        m_notices->remove(QStringLiteral("exportNotice"));
 }
 
 void MainWindow::showAbout()

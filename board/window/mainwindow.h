@@ -1,9 +1,7 @@
 #pragma once
 
 #include "core/onceperturn.h"
-#include "documents/filedialogs.h"
 #include "lessons/editinglock.h"
-#include "output/pageexport.h"
 
 #include <QtWidgets/QMainWindow>
 
@@ -117,8 +115,6 @@ private:
     void showHint();
     void placeInMiddle(const QString &kindId);
     void askAndInsert();
-    void askAndExport(PageFormat format);
-    void exportPages(const QString &folder, PageFormat format);
     void showAbout();
 
     Workspace *m_workspace;
@@ -139,7 +135,6 @@ private:
     ShapeTool *m_shapeTool;
     ToolSettings *m_toolSettings;
     EditingLock m_lock;
-    FileDialogs m_dialogs;
     Presentation *m_presentation;
     TopBar *m_topBar;
     Dock *m_dock;

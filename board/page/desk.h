@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QRectF>
+
+class QPainter;
+
+namespace board {
+
+/// Paints around a page: the desk, or black where the page stands `isBare`, over `exposed` and a little more. All
+/// in scene coordinates; `zoom` is pixels per scene unit.
+void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, bool isBare);
+/// Paints the page's shadow on the desk, and the paper that its background lies on.
+void paintShadow(QPainter *painter, const QRectF &page, double zoom);
+void paintPaper(QPainter *painter, const QRectF &page);
+
+} // namespace board

@@ -1,0 +1,76 @@
+#include "page/labelwriting.h"
+
+#include "page/labeleditor.h"
+#include "page/pageview.h"
+
+#include <framework/cbaseobject.h>
+
+namespace board {
+
+LabelWriting::LabelWriting(PageView *view)
+    : QObject(view)
+    , m_view(view)
+{
+}
+
+bool LabelWriting::writeAt(const QPoint &pos)
+{
+    CBaseObject *object = m_view->isEditable() ? objectAt(pos) : nullptr;
+    if (!object || object->isLocked())
+        return false;
+    const QPointF place = object->mapFromScene(m_view->mapToScene(pos));
+    const QVector<EditableLabel> labels = labelsOf(*object);
+    for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
+        if (!label->box.contains(place))
+            continue;
+        write(object, *label, false);
+        return true;
+    }
+    return false;
+}
+
+/// The topmost one; handles and other aids are none.
+CBaseObject *LabelWriting::objectAt(const QPoint &pos) const
+{
+    const QList<QGraphicsItem *> found = m_view->items(pos);
+    for (QGraphicsItem *item : found)
+        if (auto *object = dynamic_cast<CBaseObject *>(item))
+            return object;
+    return nullptr;
+}
+
+bool LabelWriting::isWriting() const
+{
+    return m_editor;
+}
+
+bool LabelWriting::canWriteSelected() const
+{
+    const QVector<CBaseObject *> selected =
+        m_view->isEditable() ? m_view->page()->selectedObjects() : QVector<CBaseObject *>();
+    return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.first()).isEmpty();
+}
+
+bool LabelWriting::writeSelected(bool isNewObject)
+{
+    if (!canWriteSelected())
+        return false;
+    CBaseObject *object = m_view->page()->selectedObjects().first();
+    write(object, labelsOf(*object).first(), isNewObject);
+    return true;
+}
+
+void LabelWriting::end()
+{
+    if (m_editor)
+        m_editor->finish();
+}
+
+void LabelWriting::write(CBaseObject *object, const EditableLabel &label, bool isNewObject)
+{
+    end();
+    m_editor = new LabelEditor(object, label, isNewObject, m_view);
+    connect(m_editor, &LabelEditor::finished, this, &LabelWriting::ended);
+}
+
+} // namespace board
