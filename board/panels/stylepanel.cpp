@@ -1,8 +1,11 @@
 #include "panels/stylepanel.h"
 
+#include "core/commands.h"
+#include "core/newlook.h"
 #include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/fillcontrols.h"
+#include "panels/foldingsection.h"
 #include "panels/pencontrols.h"
 #include "panels/placecontrols.h"
 #include "panels/selectionfill.h"
@@ -15,7 +18,10 @@
 #include <framework/cbaseobject.h>
 #include <framework/iframework.h>
 
+#include <QtWidgets/QAction>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -36,43 +42,85 @@ CPageBgProp seenOnPaper(CPageBgProp fill, const CPageBgProp &present)
     return fill;
 }
 
+QVBoxLayout *columnIn(QWidget *part)
+{
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(largeGap);
+    return column;
+}
+
 } // namespace
 
-StylePanel::StylePanel(const Workspace *workspace, QWidget *parent)
+StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
     , m_pen(new PenControls(workspace))
     , m_fill(new FillControls(workspace))
     , m_background(new FillControls(workspace))
     , m_place(new PlaceControls(workspace))
+    , m_newLook(newLook)
+    , m_forNewOnes(new QCheckBox(workspace->text("IDS_BOARD_FOR_NEW_ONES")))
+    , m_lookSection(new FoldingSection(workspace->text("IDS_BOARD_LOOK"), new QWidget))
+    , m_placeSection(new FoldingSection(workspace->text("IDS_BOARD_PLACE"), new QWidget))
     , m_refresh(this, [this] { refresh(); })
 {
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(largeGap);
-    m_fillSection = addSection(column, "IDS_BOARD_FILL", m_fill);
-    m_penSection = addSection(column, "IDS_BOARD_PEN", m_pen);
-    m_placeSection = addSection(column, "IDS_BOARD_PLACE", m_place);
-    m_backgroundSection = addSection(column, "IDS_BOARD_BACKGROUND", m_background);
+    QVBoxLayout *look = columnIn(m_lookSection->content());
+    m_fillPart = addPart(look, "IDS_BOARD_FILL", m_fill);
+    addPart(look, "IDS_BOARD_PEN", m_pen);
+    look->addWidget(m_forNewOnes);
+    QVBoxLayout *place = columnIn(m_placeSection->content());
+    place->addWidget(m_place);
+    place->addWidget(makeArrangeRow(*commands));
+    QVBoxLayout *column = columnIn(this);
+    column->addWidget(m_lookSection);
+    column->addWidget(m_placeSection);
+    m_backgroundSection = addPart(column, "IDS_BOARD_BACKGROUND", m_background);
+    m_lookSection->remember(QStringLiteral("look"), true);
+    m_placeSection->remember(QStringLiteral("place"), true);
+    m_forNewOnes->setToolTip(workspace->text("IDS_BOARD_FOR_NEW_ONES_TIP"));
     connectControls();
 }
 
-QWidget *StylePanel::addSection(QBoxLayout *column, const char *titleKey, QWidget *content)
+/// A part of a section, below a caption.
+QWidget *StylePanel::addPart(QBoxLayout *column, const char *titleKey, QWidget *content)
 {
-    auto *section = new QWidget(this);
-    auto *caption = new QLabel(m_workspace->text(titleKey), section);
+    auto *part = new QWidget;
+    auto *caption = new QLabel(m_workspace->text(titleKey), part);
     caption->setForegroundRole(QPalette::PlaceholderText);
-    auto *layout = new QVBoxLayout(section);
-    layout->setContentsMargins(0, 0, 0, 0);
+    QVBoxLayout *layout = columnIn(part);
     layout->setSpacing(smallGap + 2);
     layout->addWidget(caption);
     layout->addWidget(content);
-    column->addWidget(section);
-    return section;
+    column->addWidget(part);
+    return part;
+}
+
+/// Commands that have no number to type.
+QWidget *StylePanel::makeArrangeRow(const Commands &commands)
+{
+    auto *part = new QWidget;
+    auto *row = new QHBoxLayout(part);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(smallGap);
+    for (const Command command :
+         {Command::TurnLeft, Command::TurnRight, Command::MirrorAcross, Command::MirrorUp, Command::Lock}) {
+        auto *button = new QToolButton(part);
+        button->setDefaultAction(commands.action(command));
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        button->setIconSize(QSize(barIconSide, barIconSide));
+        button->setFixedSize(barButtonSide, barButtonSide);
+        button->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(button);
+    }
+    row->addStretch();
+    return part;
 }
 
 void StylePanel::connectControls()
 {
+    connect(m_forNewOnes, &QCheckBox::clicked, this, &StylePanel::useForNewOnes);
+    connect(m_newLook, &NewLook::changed, this, &StylePanel::showNewLook);
     connect(m_pen, &PenControls::colorPicked, this,
             [this](const QColor &color) { pagehost::setPenColor(selection(), color); });
     connect(m_pen, &PenControls::widthPicked, this,
@@ -119,6 +167,21 @@ void StylePanel::setPage(pagehost::Page *page)
     m_refresh.request();
 }
 
+/// New shapes look like the selected one from now on, or like their kind again.
+void StylePanel::useForNewOnes(bool use)
+{
+    if (use && !selection().isEmpty())
+        m_newLook->choose(selection().constFirst());
+    else
+        m_newLook->giveUp();
+}
+
+void StylePanel::showNewLook()
+{
+    const QVector<CBaseObject *> objects = selection();
+    m_forNewOnes->setChecked(!objects.isEmpty() && m_newLook->isLookOf(objects.first()));
+}
+
 QVector<CBaseObject *> StylePanel::selection() const
 {
     return m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
@@ -143,14 +206,13 @@ void StylePanel::refresh()
 {
     const QVector<CBaseObject *> objects = selection();
     const bool any = !objects.isEmpty();
-    for (QWidget *section : {m_penSection, m_placeSection})
-        section->setVisible(any);
+    m_lookSection->setVisible(any);
+    m_placeSection->setVisible(any);
     m_backgroundSection->setVisible(!any);
     if (any) {
         showObjects(objects);
         return;
     }
-    m_fillSection->hide();
     if (m_page)
         m_background->showFill(m_page->background());
 }
@@ -166,9 +228,10 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
             fills.append(*object->getFillProp());
     }
     m_pen->showStyles(styles);
-    m_fillSection->setVisible(!fills.isEmpty());
+    m_fillPart->setVisible(!fills.isEmpty());
     if (!fills.isEmpty())
         m_fill->showFills(fills);
+    showNewLook();
     m_place->showPos(pagehost::boundsOf(objects).topLeft());
     if (objects.size() == 1)
         m_place->showForm(first->getClientRect().size(), first->rotation());

@@ -9,10 +9,14 @@
 
 class CBaseObject;
 class QBoxLayout;
+class QCheckBox;
 
 namespace board {
 
+class Commands;
 class FillControls;
+class FoldingSection;
+class NewLook;
 class PenControls;
 class PlaceControls;
 class Workspace;
@@ -23,14 +27,18 @@ class StylePanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit StylePanel(const Workspace *workspace, QWidget *parent = nullptr);
+    /// All must outlive this.
+    StylePanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
     /// The panel has come to the front of those that share its place.
     void comeToFront() { m_refresh.finish(); }
 
 private:
-    QWidget *addSection(QBoxLayout *column, const char *titleKey, QWidget *content);
+    QWidget *addPart(QBoxLayout *column, const char *titleKey, QWidget *content);
+    QWidget *makeArrangeRow(const Commands &commands);
+    void useForNewOnes(bool use);
+    void showNewLook();
     void connectControls();
     void refresh();
     void showObjects(const QVector<CBaseObject *> &objects);
@@ -43,9 +51,11 @@ private:
     FillControls *m_fill;
     FillControls *m_background;
     PlaceControls *m_place;
-    QWidget *m_penSection;
-    QWidget *m_fillSection;
-    QWidget *m_placeSection;
+    NewLook *m_newLook;
+    QCheckBox *m_forNewOnes;
+    QWidget *m_fillPart = nullptr;
+    FoldingSection *m_lookSection;
+    FoldingSection *m_placeSection;
     QWidget *m_backgroundSection;
     PanelRefresh m_refresh;
 };

@@ -4,6 +4,18 @@
 <context>
     <name>board</name>
     <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Use for new ones</source>
+        <translation>Für neue verwenden</translation>
+    </message>
+    <message>
+        <source>Shapes that are drawn from now on look like this one</source>
+        <translation>Formen, die ab jetzt gezeichnet werden, sehen aus wie diese</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Ausschneiden</translation>
     </message>
@@ -270,10 +282,6 @@
     <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
-    </message>
-    <message>
-        <source>Properties</source>
-        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>There is nothing to set here that all of them have.</source>

@@ -8,6 +8,7 @@
 #include "commands/shapecommands.h"
 #include "core/actions.h"
 #include "core/commands.h"
+#include "core/newlook.h"
 #include "core/notices.h"
 #include "core/pluginfolders.h"
 #include "core/toolchoice.h"
@@ -101,7 +102,8 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
     , m_animation(new pagehost::AnimationPlayer(m_view, this))
     , m_tools(new ToolChoice(this))
-    , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_view, this))
+    , m_newLook(new NewLook(this))
+    , m_shapeTool(new ShapeTool(&workspace->registry(), m_tools, m_newLook, m_view, this))
     , m_toolSettings(new ToolSettings(this))
     , m_lock(m_view)
     , m_presentation(new Presentation(workspace, m_commands, m_tools, m_view, this))
@@ -265,7 +267,7 @@ void MainWindow::raisePanel(const QWidget *part)
 
 void MainWindow::addPanels()
 {
-    m_object = new ObjectPanel(m_workspace);
+    m_object = new ObjectPanel(m_workspace, m_commands, m_newLook);
     m_outline = new OutlinePanel(m_workspace);
     m_sidePanel = new SidePanel(m_workspace);
     m_sidePanel->addTab(m_workspace->text("IDS_BOARD_OBJECT"), m_object);

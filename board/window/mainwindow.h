@@ -28,6 +28,7 @@ class HintPill;
 class LessonBar;
 class LessonController;
 class LessonMenu;
+class NewLook;
 class Notices;
 class ObjectPanel;
 class OutlinePanel;
@@ -132,6 +133,7 @@ private:
     LessonBar *m_lessonBar;
     pagehost::AnimationPlayer *m_animation;
     ToolChoice *m_tools;
+    NewLook *m_newLook;
     ShapeTool *m_shapeTool;
     ToolSettings *m_toolSettings;
     EditingLock m_lock;

@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/theme.h"
+#include "panels/foldingsection.h"
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
@@ -9,7 +10,6 @@
 #include <framework/cbaseobject.h>
 
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -20,14 +20,14 @@ constexpr int headingPixels = 15;
 
 } // namespace
 
-ObjectPanel::ObjectPanel(const Workspace *workspace, QWidget *parent)
+ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent)
     : QScrollArea(parent)
     , m_workspace(workspace)
     , m_title(new QLabel)
     , m_settings(new SettingsPanel(workspace))
-    , m_style(new StylePanel(workspace))
-    , m_fold(new QToolButton)
+    , m_style(new StylePanel(workspace, commands, newLook))
     , m_properties(new PropertyPanel(workspace))
+    , m_allProperties(new FoldingSection(workspace->text("IDS_BOARD_ALL_PROPERTIES"), m_properties))
     , m_refresh([this] { refresh(); })
 {
     auto *content = new QWidget;
@@ -40,14 +40,9 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, QWidget *parent)
     m_title->setFont(font);
     m_title->setWordWrap(true);
     m_title->setTextFormat(Qt::PlainText);
-    m_fold->setText(workspace->text("IDS_BOARD_PROPERTIES"));
-    m_fold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_fold->setCheckable(true);
-    m_fold->setAutoRaise(true);
-    connect(m_fold, &QToolButton::toggled, this, &ObjectPanel::foldProperties);
-    for (QWidget *part :
-         {static_cast<QWidget *>(m_title), static_cast<QWidget *>(m_settings), static_cast<QWidget *>(m_style),
-          static_cast<QWidget *>(m_fold), static_cast<QWidget *>(m_properties)})
+    m_allProperties->remember(QStringLiteral("allProperties"), false);
+    for (QWidget *part : {static_cast<QWidget *>(m_title), static_cast<QWidget *>(m_settings),
+                          static_cast<QWidget *>(m_style), static_cast<QWidget *>(m_allProperties)})
         column->addWidget(part);
     column->addStretch();
     setWidget(content);
@@ -55,7 +50,6 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The page keeps the keys while the mouse is used here.
     setFocusPolicy(Qt::NoFocus);
-    foldProperties();
     refresh();
 }
 
@@ -80,16 +74,10 @@ void ObjectPanel::settle()
 
 void ObjectPanel::showAllProperties()
 {
-    m_fold->setChecked(true);
+    m_allProperties->setOpen(true);
     widget()->layout()->activate();
     ensureWidgetVisible(m_properties);
     m_properties->comeToFront();
-}
-
-void ObjectPanel::foldProperties()
-{
-    m_fold->setArrowType(m_fold->isChecked() ? Qt::DownArrow : Qt::RightArrow);
-    m_properties->setVisible(m_fold->isChecked());
 }
 
 void ObjectPanel::refresh()
@@ -102,8 +90,7 @@ void ObjectPanel::refresh()
     else
         m_title->setText(m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
     m_settings->setVisible(!objects.isEmpty());
-    m_fold->setVisible(!objects.isEmpty());
-    m_properties->setVisible(!objects.isEmpty() && m_fold->isChecked());
+    m_allProperties->setVisible(!objects.isEmpty());
     widget()->layout()->activate();
     m_settings->comeToFront();
     m_properties->comeToFront();

@@ -8,10 +8,12 @@
 #include <QtWidgets/QScrollArea>
 
 class QLabel;
-class QToolButton;
 
 namespace board {
 
+class Commands;
+class FoldingSection;
+class NewLook;
 class PropertyPanel;
 class SettingsPanel;
 class StylePanel;
@@ -24,7 +26,8 @@ class ObjectPanel : public QScrollArea
     Q_OBJECT
 
 public:
-    explicit ObjectPanel(const Workspace *workspace, QWidget *parent = nullptr);
+    /// All must outlive this.
+    ObjectPanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
     void showAllProperties();
@@ -35,15 +38,14 @@ public:
 
 private:
     void refresh();
-    void foldProperties();
 
     const Workspace *m_workspace;
     QPointer<pagehost::Page> m_page;
     QLabel *m_title;
     SettingsPanel *m_settings;
     StylePanel *m_style;
-    QToolButton *m_fold;
     PropertyPanel *m_properties;
+    FoldingSection *m_allProperties;
     OncePerTurn m_refresh;
 };
 

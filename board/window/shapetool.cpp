@@ -1,5 +1,6 @@
 #include "window/shapetool.h"
 
+#include "core/newlook.h"
 #include "page/pageview.h"
 
 #include <pagehost/objectregistry.h>
@@ -9,7 +10,8 @@
 
 namespace board {
 
-ShapeTool::ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools, PageView *view, QObject *parent)
+ShapeTool::ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools, const NewLook *look,
+                     PageView *view, QObject *parent)
     : QObject(parent)
     , m_registry(registry)
     , m_tools(tools)
@@ -17,6 +19,7 @@ ShapeTool::ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools
     , m_creation(registry)
 {
     connect(tools, &ToolChoice::changed, this, &ShapeTool::followChoice);
+    connect(&m_creation, &pagehost::CreationTool::finishing, look, &NewLook::giveTo);
     connect(&m_creation, &pagehost::CreationTool::created, this, &ShapeTool::takeMade);
     connect(&m_creation, &pagehost::CreationTool::cancelled, this, &ShapeTool::rest);
     tools->offer(Tool::Shape);

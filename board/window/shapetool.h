@@ -8,6 +8,7 @@
 
 namespace board {
 
+class NewLook;
 class PageView;
 
 /// Runs the tool that draws shapes: while it is in use, a kind of shape waits to be drawn.
@@ -17,7 +18,8 @@ class ShapeTool : public QObject
 
 public:
     /// All must outlive this.
-    ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools, PageView *view, QObject *parent);
+    ShapeTool(const pagehost::ObjectRegistry *registry, ToolChoice *tools, const NewLook *look, PageView *view,
+              QObject *parent);
     ~ShapeTool() override;
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.

@@ -125,6 +125,7 @@ void CreationTool::release(const ToolPointer &pointer)
     CBaseObject *object = m_object;
     Page *page = m_scene->page();
     stop();
+    Q_EMIT finishing(object);
     addObjects(page, {object});
     Q_EMIT created(object);
 }

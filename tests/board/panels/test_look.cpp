@@ -19,8 +19,11 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QSettings>
 #include <QtCore/QTimer>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QSlider>
@@ -83,6 +86,12 @@ private Q_SLOTS:
     void valuesThatAgreeAreShown();
     void choosingAValueForADashGivesItToAll();
     void opacityForSeveralLeavesTheirColours();
+    void newShapesHaveTheirOwnLookUntilOneIsChosen();
+    void lookUsedForNewOnesIsPartOfTheStepThatDrawsThem();
+    void lookForNewOnesIsGivenUpAtANewShape();
+    void lookForNewOnesIsNotCheckedAtAShapeThatLooksOtherwise();
+    void turnMirrorAndLockStandBesideThePosition();
+    void foldedSectionStaysFolded();
 };
 
 void TestLook::penColor()
@@ -389,6 +398,113 @@ void TestLook::opacityForSeveralLeavesTheirColours()
     t.undo();
     QCOMPARE(t.second->getFillProp()->opacity(), 255);
     QCOMPARE(pagehost::styleOf(t.third).fill.color(), flaskColor);
+}
+
+/// The shape has a red outline of 6; everything else is the kind's own.
+static void makeRed(StyledShape &t)
+{
+    Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(200, 10, 20));
+    t.control<QDoubleSpinBox>("Outline width")->setValue(6);
+    support::deliverEvents();
+}
+
+static QCheckBox *forNewOnes(const StyledShape &t)
+{
+    support::deliverEvents();
+    for (auto *box : t.panel->findChildren<QCheckBox *>())
+        if (box->text() == "Use for new ones" && box->isVisibleTo(t.panel))
+            return box;
+    return nullptr;
+}
+
+void TestLook::newShapesHaveTheirOwnLookUntilOneIsChosen()
+{
+    StyledShape t;
+    const pagehost::ObjectStyle own = t.style();
+    makeRed(t);
+    CBaseObject *plain = t.board.draw(rectangle, {800, 300}, {900, 400});
+    QCOMPARE(pagehost::styleOf(plain).penColor, own.penColor);
+    QCOMPARE(pagehost::styleOf(plain).penWidth, own.penWidth);
+    t.board.click({600, 360});
+    QVERIFY(!forNewOnes(t)->isChecked());
+    QTest::mouseClick(forNewOnes(t), Qt::LeftButton, {}, QPoint(8, forNewOnes(t)->height() / 2));
+    CBaseObject *red = t.board.draw(rectangle, {800, 500}, {900, 600});
+    QCOMPARE(pagehost::styleOf(red).penColor, QColor(200, 10, 20));
+    QCOMPARE(pagehost::styleOf(red).penWidth, 6);
+    QCOMPARE(pagehost::styleOf(red).fill.color(), own.fill.color());
+}
+
+void TestLook::lookUsedForNewOnesIsPartOfTheStepThatDrawsThem()
+{
+    StyledShape t;
+    makeRed(t);
+    QTest::mouseClick(forNewOnes(t), Qt::LeftButton, {}, QPoint(8, forNewOnes(t)->height() / 2));
+    const int steps = t.board.history().count();
+    CBaseObject *other = t.board.draw(flask, {800, 500}, {900, 600});
+    QCOMPARE(t.board.history().count(), steps + 1);
+    QCOMPARE(pagehost::styleOf(other).penColor, QColor(200, 10, 20));
+    t.undo();
+    QCOMPARE(t.board.page().objectCount(), 1);
+    t.redo();
+    QCOMPARE(pagehost::styleOf(t.board.page().objects().last()).penColor, QColor(200, 10, 20));
+}
+
+void TestLook::lookForNewOnesIsGivenUpAtANewShape()
+{
+    StyledShape t;
+    const QColor own = t.style().penColor;
+    makeRed(t);
+    QTest::mouseClick(forNewOnes(t), Qt::LeftButton, {}, QPoint(8, forNewOnes(t)->height() / 2));
+    t.board.draw(rectangle, {800, 500}, {900, 600});
+    QVERIFY(forNewOnes(t)->isChecked());
+    QTest::mouseClick(forNewOnes(t), Qt::LeftButton, {}, QPoint(8, forNewOnes(t)->height() / 2));
+    QCOMPARE(pagehost::styleOf(t.board.draw(rectangle, {800, 300}, {900, 400})).penColor, own);
+}
+
+void TestLook::lookForNewOnesIsNotCheckedAtAShapeThatLooksOtherwise()
+{
+    StyledShape t;
+    makeRed(t);
+    QTest::mouseClick(forNewOnes(t), Qt::LeftButton, {}, QPoint(8, forNewOnes(t)->height() / 2));
+    QVERIFY(forNewOnes(t)->isChecked());
+    Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(0, 0, 200));
+    QVERIFY(!forNewOnes(t)->isChecked());
+}
+
+void TestLook::turnMirrorAndLockStandBesideThePosition()
+{
+    StyledShape t;
+    const auto press = [&](const QString &text) {
+        for (auto *button : t.panel->findChildren<QToolButton *>())
+            if (button->defaultAction() && button->defaultAction()->text().remove('&') == text)
+                QTest::mouseClick(button, Qt::LeftButton);
+    };
+    press("Rotate right");
+    QCOMPARE(t.shape->rotation(), 90.0);
+    press("Mirror left to right");
+    QCOMPARE(t.newSteps(), 2);
+    press("Lock");
+    QVERIFY(t.shape->isLocked());
+    QCOMPARE(t.newSteps(), 3);
+}
+
+void TestLook::foldedSectionStaysFolded()
+{
+    const auto sectionOf = [](const StyledShape &t) {
+        support::deliverEvents();
+        return t.panel->findChild<board::PlaceControls *>()->isVisibleTo(t.panel);
+    };
+    {
+        StyledShape t;
+        QVERIFY(sectionOf(t));
+        for (auto *title : t.panel->findChildren<QToolButton *>())
+            if (title->text() == "Position and size")
+                QTest::mouseClick(title, Qt::LeftButton);
+        QVERIFY(!sectionOf(t));
+    }
+    StyledShape again;
+    QVERIFY(!sectionOf(again));
+    QSettings().clear();
 }
 
 QTEST_MAIN(TestLook)

@@ -50,6 +50,8 @@ public:
     CBaseObject *createAt(PageScene *scene, const QString &kindId, const QPointF &scenePos);
 
 Q_SIGNALS:
+    /// The object is finished. What is changed of it now belongs to the step that is about to be made.
+    void finishing(CBaseObject *object);
     /// The object stands on the page and its undo step on the stack; the tool waits no longer.
     void created(CBaseObject *object);
     void cancelled();

@@ -1,0 +1,65 @@
+#include "panels/foldingsection.h"
+
+#include "look/theme.h"
+
+#include <QtCore/QSettings>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace board {
+
+namespace {
+
+QString keyOf(const QString &name)
+{
+    return QStringLiteral("panel/open/") + name;
+}
+
+} // namespace
+
+FoldingSection::FoldingSection(const QString &title, QWidget *content, QWidget *parent)
+    : QWidget(parent)
+    , m_title(new QToolButton(this))
+    , m_content(content)
+{
+    m_title->setText(title);
+    m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_title->setCheckable(true);
+    m_title->setAutoRaise(true);
+    m_title->setFocusPolicy(Qt::TabFocus);
+    m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(smallGap + 2);
+    column->addWidget(m_title);
+    column->addWidget(content);
+    connect(m_title, &QToolButton::toggled, this, &FoldingSection::fold);
+    m_title->setChecked(true);
+}
+
+void FoldingSection::remember(const QString &name, bool isOpenAtFirst)
+{
+    setOpen(QSettings().value(keyOf(name), isOpenAtFirst).toBool());
+    m_name = name;
+}
+
+bool FoldingSection::isOpen() const
+{
+    return m_title->isChecked();
+}
+
+void FoldingSection::setOpen(bool open)
+{
+    m_title->setChecked(open);
+    fold(open);
+}
+
+void FoldingSection::fold(bool open)
+{
+    m_title->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+    m_content->setVisible(open);
+    if (!m_name.isEmpty())
+        QSettings().setValue(keyOf(m_name), open);
+}
+
+} // namespace board

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+class QToolButton;
+
+namespace board {
+
+/// A part of a panel below a title that folds it.
+class FoldingSection : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Takes ownership of `content`.
+    FoldingSection(const QString &title, QWidget *content, QWidget *parent = nullptr);
+
+    /// Comes up as the user left it when the program ran last; at first, open or not. `name` stands in the
+    /// settings.
+    void remember(const QString &name, bool isOpenAtFirst);
+    QWidget *content() const { return m_content; }
+    bool isOpen() const;
+    void setOpen(bool open);
+
+private:
+    void fold(bool open);
+
+    QToolButton *m_title;
+    QWidget *m_content;
+    QString m_name;
+};
+
+} // namespace board
