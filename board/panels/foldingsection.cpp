@@ -24,7 +24,9 @@ FoldingSection::FoldingSection(const QString &title, QWidget *content, QWidget *
 {
     m_title->setText(title);
     m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_title->setCheckable(true);
+    QFont font = m_title->font();
+    font.setBold(true);
+    m_title->setFont(font);
     m_title->setAutoRaise(true);
     m_title->setFocusPolicy(Qt::TabFocus);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -33,8 +35,8 @@ FoldingSection::FoldingSection(const QString &title, QWidget *content, QWidget *
     column->setSpacing(smallGap + 2);
     column->addWidget(m_title);
     column->addWidget(content);
-    connect(m_title, &QToolButton::toggled, this, &FoldingSection::fold);
-    m_title->setChecked(true);
+    connect(m_title, &QToolButton::clicked, this, [this] { setOpen(!m_isOpen); });
+    setOpen(true);
 }
 
 void FoldingSection::remember(const QString &name, bool isOpenAtFirst)
@@ -43,19 +45,9 @@ void FoldingSection::remember(const QString &name, bool isOpenAtFirst)
     m_name = name;
 }
 
-bool FoldingSection::isOpen() const
-{
-    return m_title->isChecked();
-}
-
 void FoldingSection::setOpen(bool open)
 {
-    m_title->setChecked(open);
-    fold(open);
-}
-
-void FoldingSection::fold(bool open)
-{
+    m_isOpen = open;
     m_title->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
     m_content->setVisible(open);
     if (!m_name.isEmpty())

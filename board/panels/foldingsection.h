@@ -19,15 +19,14 @@ public:
     /// settings.
     void remember(const QString &name, bool isOpenAtFirst);
     QWidget *content() const { return m_content; }
-    bool isOpen() const;
+    bool isOpen() const { return m_isOpen; }
     void setOpen(bool open);
 
 private:
-    void fold(bool open);
-
     QToolButton *m_title;
     QWidget *m_content;
-    QString m_name;
+    QString m_name; ///< in the settings; empty where nothing is remembered
+    bool m_isOpen = true;
 };
 
 } // namespace board
