@@ -28,11 +28,13 @@ QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
     const QVector<pagehost::ObjectKind> kinds = workspace.registry().kinds();
     for (const pagehost::ObjectKind &kind : kinds)
         if (!kind.group.isEmpty())
-            entries.append(
-                {kind.id, workspace.text(kind.nameKey), workspace.text(kind.group), searchWords(workspace, kind)});
+            entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group),
+                            searchWords(workspace, kind), kind.rank});
     const QString basic = workspace.text(pagehost::basicGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));
     std::stable_sort(entries.begin(), entries.end(), [&](const PaletteEntry &one, const PaletteEntry &other) {
+        if (one.group == other.group && one.rank != other.rank)
+            return other.rank == 0 || (one.rank != 0 && one.rank < other.rank);
         if (one.group == other.group)
             return collator.compare(one.name, other.name) < 0;
         if (one.group == basic || other.group == basic)

@@ -14,9 +14,10 @@ struct PaletteEntry
     QString name;
     QString group;
     QString words; ///< that it is found by, besides its name
+    int rank = 0;  ///< place in the group by use; 0 for kinds that follow by name
 };
 
-/// All kinds: the basic group first, then the groups by their titles, each by its names.
+/// All kinds: the basic group first, then the groups by their titles; in each what is used most comes first.
 QVector<PaletteEntry> paletteEntries(const Workspace &workspace);
 
 } // namespace board

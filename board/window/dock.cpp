@@ -30,7 +30,7 @@ constexpr int lineInset = 16;
 
 struct ToolEntry
 {
-    Tool tool;
+    std::optional<Tool> tool; ///< none for what is done at once
     Icon icon;
     Command command;
     int group;
@@ -44,7 +44,8 @@ constexpr ToolEntry toolEntries[] = {{Tool::Select, Icon::Select, Command::Selec
                                      {Tool::Text, Icon::Text, Command::TextTool, 2, false},
                                      {Tool::Line, Icon::Line, Command::LineTool, 2, false},
                                      {Tool::Connector, Icon::Connector, Command::ConnectorTool, 2, true},
-                                     {Tool::Shape, Icon::Shapes, Command::Shapes, 3, false}};
+                                     {Tool::Shape, Icon::Shapes, Command::Shapes, 3, false},
+                                     {{}, Icon::Insert, Command::InsertAnything, 3, true}};
 
 } // namespace
 
@@ -75,10 +76,12 @@ void Dock::addTools()
 {
     for (const ToolEntry &entry : toolEntries) {
         auto *button = new DockButton(this);
-        button->setCheckable(true);
+        button->setCheckable(entry.tool.has_value());
         button->setPicture(entry.icon);
         button->setOpensMore(entry.tool == Tool::Shape);
-        const Tool tool = entry.tool;
+        if (!entry.tool)
+            m_insert = button;
+        const std::optional<Tool> tool = entry.tool;
         connect(button, &QToolButton::clicked, this, [this, tool] { press(tool); });
         m_entries.append({button, tool, entry.group, entry.isRare});
     }
@@ -99,7 +102,7 @@ void Dock::addEnds()
 void Dock::describeTools()
 {
     for (const ToolEntry &entry : toolEntries) {
-        DockButton *button = buttonOf(entry.tool);
+        DockButton *button = entry.tool ? buttonOf(*entry.tool) : m_insert;
         const QAction *action = m_commands->action(entry.command);
         button->setToolTip(action->toolTip());
         button->setAccessibleName(m_commands->name(entry.command));
@@ -115,15 +118,22 @@ DockButton *Dock::buttonOf(Tool tool) const
 }
 
 /// A second press keeps the tool, or ends keeping it. Shapes are chosen first.
-void Dock::press(Tool tool)
+void Dock::press(std::optional<Tool> tool)
 {
-    if (tool == Tool::Shape)
+    if (!tool)
+        m_commands->action(Command::InsertAnything)->trigger();
+    else if (tool == Tool::Shape)
         Q_EMIT shapesRequested();
-    else if (m_tools->tool() == tool)
+    else if (m_tools->tool() == *tool)
         m_tools->keep(!m_tools->isKept());
     else
-        m_tools->choose(tool);
+        m_tools->choose(*tool);
     showChoice();
+}
+
+bool Dock::isOffered(const Entry &entry) const
+{
+    return !entry.tool || m_tools->isOffered(*entry.tool);
 }
 
 void Dock::showOffers()
@@ -163,7 +173,7 @@ int Dock::needed(const Measure &measure) const
     int total = 2 * edgeGap + m_ends.size() * (measure.side + measure.gap) + groupGap;
     int group = -1;
     for (const Entry &entry : m_entries) {
-        if (!m_tools->isOffered(entry.tool) || (measure.isFolded && entry.isRare))
+        if (!isOffered(entry) || (measure.isFolded && entry.isRare))
             continue;
         total += measure.side + (entry.group == group || group < 0 ? measure.gap : groupGap);
         group = entry.group;
@@ -206,7 +216,7 @@ void Dock::arrange()
     int at = edgeGap;
     int group = -1;
     for (const Entry &entry : qAsConst(m_entries)) {
-        const bool isShown = m_tools->isOffered(entry.tool) && !(measure.isFolded && entry.isRare);
+        const bool isShown = isOffered(entry) && !(measure.isFolded && entry.isRare);
         entry.button->setVisible(isShown);
         if (!isShown)
             continue;
@@ -234,8 +244,8 @@ void Dock::fillMore(bool folded)
 {
     m_moreMenu->clear();
     for (const Entry &entry : qAsConst(m_entries)) {
-        const Tool tool = entry.tool;
-        if (folded && entry.isRare && m_tools->isOffered(tool))
+        const std::optional<Tool> tool = entry.tool;
+        if (folded && entry.isRare && isOffered(entry))
             m_moreMenu->addAction(entry.button->accessibleName(), this, [this, tool] { press(tool); });
     }
     m_more->setVisible(!m_moreMenu->isEmpty());

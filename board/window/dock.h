@@ -5,6 +5,8 @@
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
+#include <optional>
+
 class QMenu;
 
 namespace board {
@@ -28,6 +30,7 @@ public:
     void setEdge(Qt::Edge edge);
     Qt::Edge edge() const { return m_edge; }
     DockButton *buttonOf(Tool tool) const;
+    DockButton *insertButton() const { return m_insert; }
     DockButton *moreButton() const { return m_more; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -50,7 +53,7 @@ private:
     struct Entry
     {
         DockButton *button;
-        Tool tool;
+        std::optional<Tool> tool; ///< none for what is done at once
         int group;
         bool isRare; ///< goes into the menu first
     };
@@ -65,7 +68,8 @@ private:
     void addTools();
     void addEnds();
     void describeTools();
-    void press(Tool tool);
+    void press(std::optional<Tool> tool);
+    bool isOffered(const Entry &entry) const;
     void showOffers();
     void showChoice();
     bool isVertical() const;
@@ -79,6 +83,7 @@ private:
     const Commands *m_commands;
     ToolChoice *m_tools;
     QVector<Entry> m_entries;
+    DockButton *m_insert = nullptr;
     DockButton *m_more;
     QMenu *m_moreMenu;
     QVector<DockButton *> m_ends; ///< from the far end

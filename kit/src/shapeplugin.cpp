@@ -24,7 +24,7 @@ QVector<pagehost::ObjectKind> ShapePlugin::objectKinds() const
 {
     QVector<pagehost::ObjectKind> kinds;
     for (const Kind &kind : m_kinds)
-        kinds.append({kind.id(), kind.nameKey(), kind.group.key});
+        kinds.append({kind.id(), kind.nameKey(), kind.group.key, kind.rank});
     return kinds;
 }
 

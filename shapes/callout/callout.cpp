@@ -29,4 +29,9 @@ private:
     static constexpr double tailHeight = 30;
 };
 
-SHAPEKIT_PLUGIN(Callout, "Callout", "Sprechblase", Basic)
+QVector<shapekit::Kind> shapekit::pluginKinds()
+{
+    Kind kind = kindOf<Callout>(QStringLiteral(SHAPEKIT_NAME), inEnglishAndGerman("Callout", "Sprechblase"));
+    kind.rank = 5;
+    return {kind};
+}

@@ -27,7 +27,7 @@ public:
     }
     QVector<pagehost::ObjectKind> objectKinds() const override
     {
-        return {{m_shape.kind().id(), m_shape.kind().nameKey(), m_shape.groupKey()}};
+        return {{m_shape.kind().id(), m_shape.kind().nameKey(), m_shape.groupKey(), m_shape.kind().rank}};
     }
     CBaseObject *createObject(const QString &kindId) const override
     {

@@ -44,6 +44,7 @@ struct SHAPEKIT_EXPORT Kind
     QString name; ///< letters and digits; part of its id, its keys and its resource path
     Words title;
     Group group;
+    int rank = 0; ///< place in the group by use, beginning with 1; 0 for after those, by name
     CoreFactory makeCore = nullptr;
     bool takesPictures = false; ///< whether dropped or pasted pictures become objects of this kind
     QString idPrefix = QStringLiteral("shapes.");

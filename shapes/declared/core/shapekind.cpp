@@ -18,6 +18,7 @@ struct KnownGroup
 
 constexpr KnownGroup knownGroups[] = {{"basic", "IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"},
                                       {"mathematics", "IDS_SHAPEGROUP_MATHEMATICS", "Mathematics", "Mathematik"},
+                                      {"diagrams", "IDS_SHAPEGROUP_DIAGRAMS", "Diagrams", "Diagramme"},
                                       {"science", "IDS_SHAPEGROUP_SCIENCE", "Science", "Naturwissenschaft"}};
 
 const KnownGroup *knownGroup(const QString &name)
@@ -45,6 +46,7 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
     : m_declaration(declaration)
 {
     m_kind.name = declaration->id;
+    m_kind.rank = declaration->rank;
     if (!declaration->isSuccessor()) {
         m_kind.idPrefix = QStringLiteral("declared.");
         m_kind.keyPrefix = QStringLiteral("IDS_DECLARED_");

@@ -133,7 +133,7 @@ QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const
 {
     QVector<pagehost::ObjectKind> kinds;
     for (const ShapeKind *shape : m_library->offered())
-        kinds.append({shape->kind().id(), shape->kind().nameKey(), shape->groupKey()});
+        kinds.append({shape->kind().id(), shape->kind().nameKey(), shape->groupKey(), shape->kind().rank});
     return kinds;
 }
 

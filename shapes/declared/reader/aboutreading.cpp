@@ -15,6 +15,7 @@ const QStringList fillings{QStringLiteral("shape"), QStringLiteral("page"), QStr
 const QStringList aspects{QStringLiteral("free"), QStringLiteral("kept")};
 const QStringList layouts{QStringLiteral("kit")};
 constexpr int longestPen = 100;
+constexpr int lastRank = 1000;
 /// Types of coded shapes; the host scales drawings of one of them itself.
 constexpr int lastType = 1023;
 constexpr int scaledType = 26;
@@ -47,10 +48,11 @@ void FileReader::readAbout()
     if (found.size() > 1)
         error("C03", *found.at(1), QStringLiteral("\"about\" is there twice"));
     const Element &about = *found.first();
-    checkNames(about, {QStringLiteral("name"), QStringLiteral("id"), QStringLiteral("words"),
-                       QStringLiteral("group"), QStringLiteral("sizing"), QStringLiteral("aspect"),
-                       QStringLiteral("filled"), QStringLiteral("smallest"), QStringLiteral("pen"),
-                       QStringLiteral("icon"), QStringLiteral("type"), QStringLiteral("layout")});
+    checkNames(about,
+               {QStringLiteral("name"), QStringLiteral("id"), QStringLiteral("words"), QStringLiteral("group"),
+                QStringLiteral("rank"), QStringLiteral("sizing"), QStringLiteral("aspect"),
+                QStringLiteral("filled"), QStringLiteral("smallest"), QStringLiteral("pen"), QStringLiteral("icon"),
+                QStringLiteral("type"), QStringLiteral("layout")});
     readNames(about);
     readId(about);
     readSizing(about);
@@ -66,6 +68,11 @@ void FileReader::readNames(const Element &about)
     m_shape.words = texts(about, "words");
     m_shape.groupTitle = texts(about, "group");
     m_shape.group = about.attribute(QStringLiteral("group")) ? about.value("group") : QStringLiteral("basic");
+    double rank = 0;
+    const Attribute *given = about.attribute(QStringLiteral("rank"));
+    if (given && readNumber(*given, rank, "C06") && (rank < 1 || rank > lastRank))
+        error("C06", *given, QStringLiteral("the rank is a number from 1 to 1000"));
+    m_shape.rank = int(rank);
 }
 
 void FileReader::readId(const Element &about)

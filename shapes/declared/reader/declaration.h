@@ -204,7 +204,8 @@ struct Declaration
     QString id;
     Texts name;
     Texts words;   ///< for searching, besides the name
-    QString group; ///< "basic", "mathematics", "science", or a title
+    QString group; ///< "basic", "mathematics", "diagrams", "science", or a title
+    int rank = 0;  ///< place in the group by use; 0 for after those that have one
     Texts groupTitle;
     QByteArray icon; ///< a picture for palettes, SVG; empty: the look of a new shape
     int type = -1;   ///< of the shape that it succeeds; negative: of none

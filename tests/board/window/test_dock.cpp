@@ -13,6 +13,7 @@
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenu>
 
 using namespace boardtest;
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void undoAndRedoStandAtTheFarEnd();
     void shortDockClosesGapsThenShrinksThenFolds();
     void foldedToolIsChosenInTheMenu();
+    void insertAsksForAFileAndLeavesTheToolAsItIs();
     void dockIsDraggedToAnotherEdge_data();
     void dockIsDraggedToAnotherEdge();
     void dockLiesWhereItWasLeft();
@@ -131,6 +133,7 @@ void TestDock::toolsStandInTheirOrderFromTheTop()
     QCOMPARE(t.place(Tool::Line), QRect(8, 244, 40, 40));
     QCOMPARE(t.place(Tool::Connector), QRect(8, 288, 40, 40));
     QCOMPARE(t.place(Tool::Shape), QRect(8, 340, 40, 40));
+    QCOMPARE(t.dock.insertButton()->geometry(), QRect(8, 384, 40, 40));
 }
 
 void TestDock::undoAndRedoStandAtTheFarEnd()
@@ -147,20 +150,20 @@ void TestDock::undoAndRedoStandAtTheFarEnd()
     QCOMPARE(placeOf(t.board.window().actions()->undo), QRect(8, 636, 40, 40));
 }
 
-/// Eight tools in four groups, and two at the end.
+/// Eight tools and Insert in four groups, and two at the end.
 void TestDock::shortDockClosesGapsThenShrinksThenFolds()
 {
     FullDock t;
-    // 16 at the edges, 10 × 40, four gaps of groups, and six others with the two at the end.
-    t.dock.resize(56, 492);
+    // 16 at the edges, 11 × 40, four gaps of 12 around groups, and eight others of 4.
+    t.dock.resize(56, 536);
     QCOMPARE(t.place(Tool::Highlighter).top() - t.place(Tool::Pen).bottom() - 1, 4);
-    t.dock.resize(56, 491);
+    t.dock.resize(56, 535);
     QCOMPARE(t.place(Tool::Highlighter).top() - t.place(Tool::Pen).bottom() - 1, 0);
     QCOMPARE(t.place(Tool::Pen).height(), 40);
-    t.dock.resize(56, 463);
+    t.dock.resize(56, 503);
     QCOMPARE(t.place(Tool::Pen).height(), 36);
     QVERIFY(!t.dock.moreButton()->isVisible());
-    t.dock.resize(56, 423);
+    t.dock.resize(56, 459);
     QVERIFY(t.dock.moreButton()->isVisible());
     QVERIFY(!t.dock.buttonOf(Tool::Highlighter)->isVisible());
     QVERIFY(!t.dock.buttonOf(Tool::Connector)->isVisible());
@@ -170,13 +173,24 @@ void TestDock::shortDockClosesGapsThenShrinksThenFolds()
 void TestDock::foldedToolIsChosenInTheMenu()
 {
     FullDock t;
-    t.dock.resize(56, 423);
+    t.dock.resize(56, 459);
     QStringList names;
     for (QAction *action : t.dock.moreButton()->menu()->actions())
         names.append(action->text());
-    QCOMPARE(names, QStringList({"Highlighter", "Connector"}));
-    t.dock.moreButton()->menu()->actions().last()->trigger();
+    QCOMPARE(names, QStringList({"Highlighter", "Connector", "Insert"}));
+    t.dock.moreButton()->menu()->actions().at(1)->trigger();
     QCOMPARE(t.tools.tool(), Tool::Connector);
+}
+
+void TestDock::insertAsksForAFileAndLeavesTheToolAsItIs()
+{
+    BoardDriver board;
+    clickOn(board.window().dock()->insertButton());
+    auto *dialog = board.window().findChild<QFileDialog *>();
+    QVERIFY(dialog);
+    dialog->reject();
+    QCOMPARE(board.window().tools()->tool(), Tool::Select);
+    QVERIFY(!board.window().dock()->insertButton()->isChecked());
 }
 
 void TestDock::dockIsDraggedToAnotherEdge_data()

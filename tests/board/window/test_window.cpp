@@ -37,6 +37,7 @@ private Q_SLOTS:
     void init();
     void firstWindowFitsTheScreen();
     void paletteShowsThreeShapesInARow();
+    void shapesUsedMostComeFirstInTheirGroup();
     void windowOpensAsItWasLeft();
     void onlyPinnedPartsOpenAgain();
     void pageTakesFourFifthsOfASmallScreen();
@@ -115,6 +116,25 @@ void TestWindow::paletteShowsThreeShapesInARow()
     QVERIFY(third.x() > first.x());
     const int wanted = 3 * palette->buttons().at(0)->sizeHint().width() + 2 * board::smallGap;
     QVERIFY2(shown->width() >= wanted, qPrintable(QStringLiteral("%1 of %2").arg(shown->width()).arg(wanted)));
+}
+
+void TestWindow::shapesUsedMostComeFirstInTheirGroup()
+{
+    BoardDriver board;
+    QStringList kinds;
+    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        kinds.append(button->kindId());
+    QCOMPARE(QStringList(kinds.mid(0, 7)),
+             QStringList({"shapes.roundedrectangle", "shapes.ellipse", "shapes.triangle", "shapes.blockarrow",
+                          "shapes.callout", "shapes.star", "shapes.polygon"}));
+    // Those without a place follow by name: cross, diamond.
+    QVERIFY(kinds.indexOf("declared.cross") < kinds.indexOf("declared.diamond"));
+    QVERIFY(kinds.indexOf("shapes.star") < kinds.indexOf("declared.cross"));
+    // Boxes of flow charts have a group of their own, before that of mathematics.
+    const int terminator = kinds.indexOf("declared.terminator");
+    QCOMPARE(QStringList(kinds.mid(terminator, 5)),
+             QStringList({"declared.terminator", "declared.subprocess", "declared.document", "declared.chevron",
+                          "shapes.numberline"}));
 }
 
 void TestWindow::windowOpensAsItWasLeft()

@@ -28,6 +28,8 @@ struct ObjectKind
     QString nameKey; ///< localisation key of the name; with "_WORDS" appended, of search words, if any
     /// Localisation key of the palette group; empty for kinds that only tools and files make.
     QString group;
+    /// Place in its group by use, beginning with 1; 0 for kinds that follow by name.
+    int rank = 0;
 };
 
 /// Special properties (CPSRootObject::GetSpecialProperty(), SetSpecialProperty()) that the host uses of any object.
