@@ -59,6 +59,11 @@ void ShapeObject::OnQPainterDraw(QPainter *painter)
     CSVGObj::OnQPainterDraw(painter);
 }
 
+bool ShapeObject::canDo(OperationType operation)
+{
+    return CSVGObj::canDo(operation) && (!core() || core()->permits(operation));
+}
+
 void finishCreation(CSVGObj &object)
 {
     QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);

@@ -329,6 +329,10 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
         writeConnections(out);
         return true;
     }
+    if (propId == pagehost::ConnectionOutline && document) {
+        out << connectionOutline();
+        return true;
+    }
     if (propId == pagehost::LabelPlaces && document) {
         writeLabels(out);
         return true;
@@ -447,6 +451,18 @@ QRectF StyledShape::paintedBoundsOf(const QZeSvgNode &node)
     for (const QZeSvgNode *child : static_cast<const QZeSvgStructureNode &>(node).children())
         painted |= paintedBoundsOf(*child);
     return painted;
+}
+
+/// The figures; of a shape without any, the frame.
+QPainterPath StyledShape::connectionOutline()
+{
+    settleDrawing();
+    QPainterPath outline;
+    for (const QZeSvgNode *figure : qAsConst(m_figures))
+        outline.addPath(outlineOf(*figure));
+    if (outline.isEmpty())
+        outline.addRect(drawnArea());
+    return seenMapping().map(outline);
 }
 
 /// Letters as they are typed are recorded, but no steps to take back.

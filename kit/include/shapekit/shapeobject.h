@@ -21,6 +21,7 @@ public:
     /// Creates a core unless there is already one of that type. A type of another shape leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
     void OnQPainterDraw(QPainter *painter) override;
+    bool canDo(OperationType operation) override;
 
     /// Null after loading the type of another shape.
     StyledShape *core() const { return static_cast<StyledShape *>(svgBase); }

@@ -4,6 +4,8 @@
 
 #include <svgobj/csvgbase.h>
 
+#include <framework/operationtype.h>
+
 #include <QtCore/QVector>
 #include <QtGui/QTransform>
 
@@ -56,6 +58,12 @@ public:
     /// The kind as which the page object was made; it outlives the core. Null before that is set.
     const Kind *kind() const { return m_kind; }
     void setKind(const Kind &kind) { m_kind = &kind; }
+    /// Whether the page object can do an operation at present, of those that shapes can do.
+    virtual bool permits(OperationType operation)
+    {
+        Q_UNUSED(operation)
+        return true;
+    }
     /// All texts that panels show for the shape's own properties.
     virtual QVector<const Text *> texts() const { return {}; }
 
@@ -136,6 +144,7 @@ protected:
 
 private:
     void writeConnections(QDataStream &out);
+    QPainterPath connectionOutline();
     void writeLabels(QDataStream &out);
     bool writeLabel(QDataStream &in, bool record);
     void play(bool on);

@@ -3,6 +3,8 @@
 #include <framework/cbaseobject.h>
 #include <framework/ipspage.h>
 
+#include <pagehost/objectid.h>
+
 #include <files/chunks.h>
 #include <files/documentassets.h>
 #include <files/documentcodec.h>
@@ -12,6 +14,8 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+
+#include <utility>
 
 namespace pagehost {
 
@@ -155,15 +159,17 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
     const AssetStore assets = assetsOf(bytes);
     factory.setAssets(assets);
     // Placeholders leave what they name to their document.
-    if (auto *document = page ? dynamic_cast<Document *>(page->document()) : nullptr)
+    auto *document = page ? dynamic_cast<Document *>(page->document()) : nullptr;
+    if (document)
         document->assets().unite(assets);
     chunks::Reader reader(bytes);
     chunks::Chunk chunk;
+    QVector<quint32> originals;
     while (reader.next(chunk)) {
         if (chunk.tag != chunks::objectTag)
             continue;
         ObjectRecord record = recordOf(chunk.payload);
-        record.id = 0; // the original may be on the page
+        originals.append(std::exchange(record.id, 0)); // the original may be on the page
         FileMessage message = warning(QString());
         objects.append(factory.make(record, page, message));
         if (messages && !message.textKey.isEmpty()) {
@@ -172,6 +178,7 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
             addMessage(*messages, message);
         }
     }
+    followCopies(objects, originals, document);
     return objects;
 }
 

@@ -4,6 +4,8 @@
 
 #include <pagehost/page.h>
 
+#include <host/followedobjects.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -23,10 +25,28 @@ template<typename Function> void forEachObject(const Document &document, Functio
     }
 }
 
-quint32 freeId(const Document &document)
+/// Also of objects that undo brings back, and of those that are followed although they are gone.
+quint32 highestId(const Document &document)
 {
     quint32 highest = 0;
-    forEachObject(document, [&](const CBaseObject *object) { highest = std::max(highest, objectId(object)); });
+    const auto look = [&](CBaseObject *object) {
+        highest = std::max(highest, objectId(object));
+        const QVector<quint32> followed = followedObjects(*object).value_or(QVector<quint32>());
+        for (const quint32 id : followed)
+            highest = std::max(highest, id);
+    };
+    forEachObject(document, look);
+    const QVector<Page *> pages = document.pages();
+    for (const Page *page : pages) {
+        const QVector<CBaseObject *> kept = page->keptObjects();
+        std::for_each(kept.begin(), kept.end(), look);
+    }
+    return highest;
+}
+
+quint32 freeId(const Document &document)
+{
+    const quint32 highest = highestId(document);
     if (highest < std::numeric_limits<quint32>::max())
         return highest + 1;
     quint32 free = 1;
@@ -63,6 +83,33 @@ CBaseObject *objectWithId(const Document &document, quint32 id)
             found = object;
     });
     return found;
+}
+
+void followCopies(const QVector<CBaseObject *> &copies, const QVector<quint32> &originals, const Document *document)
+{
+    quint32 next = 0;
+    const auto numberOfCopy = [&](quint32 original) -> quint32 {
+        const int index = original == 0 || !document ? -1 : originals.indexOf(original);
+        if (index < 0)
+            return 0;
+        if (objectId(copies.at(index)) == 0) {
+            next = next == 0 ? freeId(*document) : next + 1;
+            while (next == 0 || objectWithId(*document, next))
+                ++next;
+            setObjectId(copies.at(index), next);
+        }
+        return objectId(copies.at(index));
+    };
+    for (CBaseObject *copy : copies) {
+        const auto followed = followedObjects(*copy);
+        if (!followed)
+            continue;
+        QVector<quint32> numbers;
+        for (const quint32 number : *followed)
+            numbers.append(numberOfCopy(number));
+        if (numbers != *followed)
+            setFollowedObjects(*copy, numbers);
+    }
 }
 
 } // namespace pagehost

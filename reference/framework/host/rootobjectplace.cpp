@@ -1,7 +1,9 @@
 #include <framework/cbaseobject.h>
 
+#include <pagehost/objectid.h>
 #include <pagehost/recorder.h>
 
+#include <host/baseobject.h>
 #include <host/geometry.h>
 #include <host/objectpage.h>
 #include <host/objectplace.h>
@@ -131,6 +133,7 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
     bool horizontal = false;
     bool vertical = false;
     CPageBgProp fill(*fillProp);
+    quint32 number = 0;
     switch (actionId) {
     case pagehost::ActionMoved:
         if (!readAll(in, pos))
@@ -162,6 +165,11 @@ bool CPSRootObject::DoPlaybackActionEx(int actionId, QDataStream &in)
         if (color)
             setMyPenColor(*color, false);
         return color.has_value();
+    case pagehost::ActionNumbered:
+        if (!readAll(in, number))
+            return false;
+        pagehost::setObjectId(baseObject(*this), number);
+        return true;
     default:
         return false;
     }

@@ -2,6 +2,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <host/followedobjects.h>
+
 #include <QtGui/QPainter>
 
 #include <cmath>
@@ -16,6 +18,7 @@ constexpr double corePixels = 2.5;
 constexpr double haloPixels = 9;
 constexpr int haloAlpha = 70;
 constexpr double cornerPixels = 6;
+constexpr double dotPixels = 5; ///< radius
 
 double pixelOf(const QPainter &painter)
 {
@@ -46,6 +49,19 @@ double paintHighlight(CBaseObject &object, QPainter &painter)
     }
     painter.restore();
     return pixel;
+}
+
+void paintConnectionPlaces(CBaseObject &object, QPainter &painter)
+{
+    const double pixel = pixelOf(painter);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(glow, corePixels * pixel));
+    painter.setBrush(Qt::white);
+    const QVector<ConnectionPlace> places = connectionPlaces(object);
+    for (const ConnectionPlace &place : places)
+        painter.drawEllipse(place.point, dotPixels * pixel, dotPixels * pixel);
+    painter.restore();
 }
 
 QRectF highlightBounds(const CBaseObject *object, double pixel)

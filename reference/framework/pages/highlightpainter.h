@@ -7,9 +7,11 @@ class QPainter;
 
 namespace pagehost {
 
-/// Draws a glowing frame around an object that a player highlights; `painter` is in scene coordinates. Returns the
+/// Draws a glowing frame around a highlighted object; `painter` is in scene coordinates. Returns the
 /// size of a pixel of its device in scene units.
 double paintHighlight(CBaseObject &object, QPainter &painter);
+/// Draws a dot at each place of the object where lines may end.
+void paintConnectionPlaces(CBaseObject &object, QPainter &painter);
 /// Bounds of the frame for this size of a pixel, scene coordinates; empty for null.
 QRectF highlightBounds(const CBaseObject *object, double pixel);
 

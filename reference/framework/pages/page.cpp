@@ -5,6 +5,7 @@
 #include <pagehost/pagescene.h>
 
 #include <host/geometry.h>
+#include <pages/followers.h>
 
 #include <algorithm>
 #include <limits>
@@ -44,6 +45,7 @@ Page::Page(Document *document, const QSizeF &size, QObject *parent)
     , m_size(isPageSize(size) ? size : Document::defaultPageSize())
     , m_background(paper(this))
     , m_scene(std::make_unique<PageScene>(this))
+    , m_followers(std::make_unique<Followers>(this))
 {
     m_changeTimer.setSingleShot(true);
     connect(&m_changeTimer, &QTimer::timeout, this, &Page::contentChanged);

@@ -272,11 +272,12 @@ void PageScene::setHover(const Grip &grip)
         updateOverlay();
 }
 
-void PageScene::setHighlight(CBaseObject *object)
+void PageScene::setHighlight(CBaseObject *object, Highlight parts)
 {
-    if (object == m_highlight || (object && !m_page->contains(object)))
+    if ((object == m_highlight && parts == m_highlightedParts) || (object && !m_page->contains(object)))
         return;
     m_highlight = object;
+    m_highlightedParts = parts;
     updateOverlay();
 }
 
@@ -324,6 +325,8 @@ void PageScene::drawForeground(QPainter *painter, const QRectF &)
 {
     if (m_highlight)
         m_pixel = paintHighlight(*m_highlight, *painter);
+    if (m_highlight && m_highlightedParts == ObjectAndPlaces)
+        paintConnectionPlaces(*m_highlight, *painter);
     const Document *document = m_page->document();
     if (document && document->documentState() != 0)
         return;

@@ -12,7 +12,7 @@ ActionSink *g_sink = nullptr;
 
 bool isHostAction(int actionId)
 {
-    return actionId >= ActionMoved && actionId <= ActionPenColored;
+    return actionId >= ActionMoved && actionId <= ActionNumbered;
 }
 
 } // namespace

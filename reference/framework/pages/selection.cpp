@@ -10,6 +10,26 @@
 
 namespace pagehost {
 
+namespace {
+
+/// Objects of one page; without those that can't be copied.
+QVector<CBaseObject *> cloneObjects(const QVector<CBaseObject *> &objects, const ObjectRegistry *registry)
+{
+    QVector<CBaseObject *> copies;
+    if (objects.isEmpty())
+        return copies;
+    const QVector<CBaseObject *> decoded =
+        decodeObjects(encodeObjects(objects), *registry, nullptr, objects.first()->GetPage());
+    for (int i = 0; i < decoded.size(); ++i) {
+        std::unique_ptr<CBaseObject> copy(decoded.at(i));
+        if (isPlaceholder(copy.get()) == isPlaceholder(objects.value(i)))
+            copies.append(copy.release());
+    }
+    return copies;
+}
+
+} // namespace
+
 bool nudgeSelection(Page *page, const QPointF &delta)
 {
     return moveObjects(page->selectedObjects(), delta);
@@ -27,15 +47,9 @@ bool deleteSelection(Page *page)
 
 QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry, const QPointF &offset)
 {
-    QVector<CBaseObject *> copies;
-    const QVector<CBaseObject *> selected = page->selectedObjects();
-    for (CBaseObject *object : selected) {
-        CBaseObject *copy = cloneObject(object, registry);
-        if (!copy)
-            continue;
-        copy->CPSRootObject::setPos(object->getPos() + offset, false);
-        copies.append(copy);
-    }
+    const QVector<CBaseObject *> copies = cloneObjects(page->selectedObjects(), registry);
+    for (CBaseObject *copy : copies)
+        copy->CPSRootObject::setPos(copy->getPos() + offset, false);
     addObjects(page, copies);
     return copies;
 }
@@ -60,10 +74,7 @@ QRectF boundsOf(const QVector<CBaseObject *> &objects)
 
 CBaseObject *cloneObject(CBaseObject *object, const ObjectRegistry *registry)
 {
-    std::unique_ptr<CBaseObject> copy(
-        decodeObjects(encodeObjects({object}), *registry, nullptr, object->GetPage()).value(0));
-    const bool isCopy = copy && isPlaceholder(copy.get()) == isPlaceholder(object);
-    return isCopy ? copy.release() : nullptr;
+    return cloneObjects({object}, registry).value(0);
 }
 
 } // namespace pagehost

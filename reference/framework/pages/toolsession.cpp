@@ -2,9 +2,14 @@
 
 #include <framework/cbaseobject.h>
 
+#include <pagehost/objectid.h>
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/recorder.h>
+
+#include <host/payload.h>
+#include <pages/connectionfinder.h>
 
 #include <utility>
 
@@ -64,6 +69,32 @@ void ToolSession::commit(const QString &textKey, Afterwards afterwards)
 void ToolSession::revert()
 {
     m_change.revert();
+}
+
+ToolPage::Connection ToolSession::connectionAt(const ToolPointer &pointer) const
+{
+    return pagehost::connectionAt(objectsIn(connectionReach(pointer)), pointer);
+}
+
+quint32 ToolSession::numberOf(CBaseObject *object)
+{
+    const Document *document = m_page ? m_page->document() : nullptr;
+    if (!document)
+        return 0;
+    const bool isNew = objectId(object) == 0;
+    const quint32 number = ensureObjectId(object, *document);
+    if (isNew) {
+        // In a lesson, too, the object is followed by its number.
+        QByteArray payload = payloadOf(number);
+        object->RecordAction(ActionNumbered, &payload);
+    }
+    return number;
+}
+
+void ToolSession::highlight(CBaseObject *object)
+{
+    if (m_page)
+        m_page->scene()->setHighlight(object, PageScene::ObjectAndPlaces);
 }
 
 } // namespace pagehost

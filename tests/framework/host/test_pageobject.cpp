@@ -509,7 +509,7 @@ void TestPageObject::refusesToReplayWhatItDoesNotKnow()
 {
     TestObject object;
     QDataStream in(QByteArray(64, '\0'));
-    for (const int id : {0, 100, 107, 1001, 1005})
+    for (const int id : {0, 100, 108, 1001, 1005})
         QVERIFY(!object.DoPlaybackActionEx(id, in));
     QCOMPARE(in.device()->pos(), 0);
 }
@@ -517,7 +517,7 @@ void TestPageObject::refusesToReplayWhatItDoesNotKnow()
 void TestPageObject::refusesToReplayShortPayloads_data()
 {
     QTest::addColumn<int>("action");
-    for (int action = 101; action <= 106; ++action)
+    for (int action = 101; action <= 107; ++action)
         QTest::addRow("action %d", action) << action;
 }
 

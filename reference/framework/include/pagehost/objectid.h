@@ -2,6 +2,7 @@
 
 #include <framework/framework_global.h>
 
+#include <QtCore/QVector>
 #include <QtCore/QtGlobal>
 
 class CBaseObject;
@@ -18,5 +19,11 @@ FRAMEWORK_EXPORT void setObjectId(CBaseObject *object, quint32 id);
 FRAMEWORK_EXPORT quint32 ensureObjectId(CBaseObject *object, const Document &document);
 /// The object on the document's pages that has this number; null without one.
 FRAMEWORK_EXPORT CBaseObject *objectWithId(const Document &document, quint32 id);
+
+/// Lets copies, which are on no page yet, follow the copies of what their originals follow, and nothing where that
+/// was not copied along. The followed copies get numbers that are free in the document; without a document the
+/// copies follow nothing. `originals` are the numbers of the copied objects in the same order.
+FRAMEWORK_EXPORT void followCopies(const QVector<CBaseObject *> &copies, const QVector<quint32> &originals,
+                                   const Document *document);
 
 } // namespace pagehost

@@ -78,7 +78,21 @@ enum SpecialProperty {
     LabelText = 2909,
     /// bool, read only: whether nothing of the object is to be seen, so that it leaves the page when the user has
     /// ended writing it. Objects without such texts lack the property.
-    VanishesEmpty = 2910
+    VanishesEmpty = 2910,
+    /// Of an object that follows others, as a line does that connects two of them: a qint32 count, then for each
+    /// end
+    /// the number of the object that it follows (quint32, ToolPage::numberOf()), 0 for none. The object saves the
+    /// numbers. The host writes others into a copy whose originals were copied along, and 0 where they were not.
+    FollowedObjects = 2911,
+    /// Write only: where those objects are, in the same order: a qint32 count, then for each whether it is on the
+    /// page (bool), and if so its outline (QPainterPath) and its ConnectionPlaces, all in scene coordinates. The
+    /// host
+    /// writes it whenever one of them or the object itself has changed. The object follows unrecorded and without
+    /// undo steps, and is the same whenever it is told the same.
+    FollowedPlaces = 2912,
+    /// QPainterPath, read only, item coordinates as they are seen: the outline where lines to other objects end.
+    /// Without the property they end at the client rectangle.
+    ConnectionOutline = 2913
 };
 
 /// Texts by localisation key.

@@ -18,6 +18,7 @@ class CBaseObject;
 
 namespace pagehost {
 
+class Followers;
 class PageScene;
 
 /// One page: its size, its background and its objects, bottom to top, shown by a scene whose rectangle is the page.
@@ -76,6 +77,8 @@ public:
     /// Keeps an object alive off the page until the matching release(): undo steps and lessons have plain pointers.
     void retain(CBaseObject *object);
     void release(CBaseObject *object);
+    /// The objects of the page that are kept off it.
+    QVector<CBaseObject *> keptObjects() const { return m_outside; }
 
     ExtraData extraData() const { return m_extraData; }
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
@@ -114,6 +117,7 @@ private:
     QSet<const CBaseObject *> m_members; ///< the same objects, for fast lookup
     QVector<CBaseObject *> m_outside;    ///< owned objects that are off the page
     QHash<CBaseObject *, int> m_retained;
+    std::unique_ptr<Followers> m_followers;
     QTimer m_changeTimer;
     quint64 m_revision = 0;
 };

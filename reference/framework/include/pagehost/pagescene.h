@@ -79,10 +79,14 @@ public:
     /// its drawing; no undo step remains. False when none runs. The Esc key does the same.
     bool cancelDrag();
 
+    enum Highlight {
+        ObjectOnly,
+        ObjectAndPlaces ///< with its ConnectionPlaces
+    };
     /// Highlights an object of the page, above everything else and in every state of the document, until it is
     /// reset with null or the object leaves the page. Visible in views only, not in thumbnails, exported pages or
     /// saved data.
-    void setHighlight(CBaseObject *object);
+    void setHighlight(CBaseObject *object, Highlight parts = ObjectOnly);
     CBaseObject *highlight() const { return m_highlight; }
 
     /// Bounds of the selected objects' frames and handles, scene coordinates; null without any.
@@ -122,6 +126,7 @@ private:
     Grip m_hover;
     Grip m_drag;
     CBaseObject *m_highlight = nullptr;
+    Highlight m_highlightedParts = ObjectOnly;
     QPointF m_pressPos; ///< scene coordinates
     QTimer m_overlayTimer;
     QRectF m_overlay;   ///< area of the last overlay, scene coordinates

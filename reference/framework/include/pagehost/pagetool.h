@@ -49,6 +49,12 @@ public:
         Select, ///< the added objects become the selection, and the user goes on with selecting
         Write   ///< like Select; the user writes the first label of the added object
     };
+    /// Where a line is joined to an object; without an object it is not.
+    struct Connection
+    {
+        CBaseObject *object = nullptr;
+        QString place; ///< the name of one of its ConnectionPlaces; empty for its outline
+    };
 
     virtual ~ToolPage() = default;
 
@@ -65,6 +71,14 @@ public:
     virtual void commit(const QString &textKey, Afterwards afterwards) = 0;
     /// Takes the changes back, without a trace.
     virtual void revert() = 0;
+    /// The object that a line which ends at the pointer can be joined to, and where. Objects that can follow others
+    /// are not offered.
+    virtual Connection connectionAt(const ToolPointer &pointer) const = 0;
+    /// The number by which others follow the object (FollowedObjects); from then on it has one. 0 on a page without
+    /// document.
+    virtual quint32 numberOf(CBaseObject *object) = 0;
+    /// Highlights the object that a line is about to be joined to, and its ConnectionPlaces; null for none.
+    virtual void highlight(CBaseObject *object) = 0;
 };
 
 /// Draws on a page with the pointer. The scene hands it each press of the main button with the moves that follow

@@ -10,12 +10,13 @@ namespace pagehost {
 
 /// Ids of the actions that this host records itself. Payloads are QDataStream values in the default version.
 enum HostAction : int {
-    ActionMoved = 101,     ///< QPointF: the new position, scene coordinates
-    ActionResized = 102,   ///< QSizeF: the requested size, item units
-    ActionRotated = 103,   ///< double: degrees; QPointF: the position afterwards, scene coordinates
-    ActionMirrored = 104,  ///< bool: left to right; bool: top to bottom
-    ActionFilled = 105,    ///< the fill as CPageBgProp::save() writes it
-    ActionPenColored = 106 ///< QColor
+    ActionMoved = 101,      ///< QPointF: the new position, scene coordinates
+    ActionResized = 102,    ///< QSizeF: the requested size, item units
+    ActionRotated = 103,    ///< double: degrees; QPointF: the position afterwards, scene coordinates
+    ActionMirrored = 104,   ///< bool: left to right; bool: top to bottom
+    ActionFilled = 105,     ///< the fill as CPageBgProp::save() writes it
+    ActionPenColored = 106, ///< QColor
+    ActionNumbered = 107    ///< quint32: the object's number (setObjectId())
 };
 
 /// Receives the actions that page objects record (CPSRootObject::RecordAction) while users edit them.

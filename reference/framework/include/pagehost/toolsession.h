@@ -40,6 +40,9 @@ public:
     QVector<CBaseObject *> objectsIn(const QRectF &area) const override;
     void commit(const QString &textKey, Afterwards afterwards) override;
     void revert() override;
+    Connection connectionAt(const ToolPointer &pointer) const override;
+    quint32 numberOf(CBaseObject *object) override;
+    void highlight(CBaseObject *object) override;
 
 private:
     QPointer<Page> m_page;
