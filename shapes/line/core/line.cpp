@@ -4,6 +4,10 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <framework/operationtype.h>
+
+#include <pagehost/objectplugin.h>
+
 #include <QtCore/QDataStream>
 
 #include <algorithm>
@@ -23,9 +27,15 @@ const Text arrowText("Arrow head", "Pfeilspitze");
 const Text dotText("Dot", "Punkt");
 
 const Text courseText("Course", "Verlauf");
+const Text wayText("Way", "Führung");
+const Text directText("Direct", "Direkt");
+const Text angledText("Right-angled", "Rechtwinklig");
+const Text jointsText("Joined ends", "Verbundene Enden");
 
 /// A QByteArray: the course as encoded().
 constexpr int courseAction = 1191;
+/// Two QByteArrays: the course and the joints, as encoded().
+constexpr int jointAction = 1192;
 constexpr int widestPen = 40;
 /// Reach of the control points, document units.
 constexpr double farthest = 1e5;
@@ -48,8 +58,11 @@ Line::Line(CSVGObj *owner)
     , m_startEnd(this, startText, Plain, {&plainText, &arrowText, &dotText})
     , m_endEnd(this, endText, Plain, {&plainText, &arrowText, &dotText})
     , m_saved(this, courseText)
+    , m_way(this, wayText, Direct, {&directText, &angledText})
+    , m_savedJoints(this, jointsText)
 {
     m_saved.setPanels(false, false);
+    m_savedJoints.setPanels(false, false);
 }
 
 Line *Line::of(CBaseObject *object)
@@ -57,11 +70,12 @@ Line *Line::of(CBaseObject *object)
     return shapekit::coreOf<Line>(object);
 }
 
-void Line::begin(QPointF place, const QColor &color, double width, End end)
+void Line::begin(QPointF place, const QColor &color, double width, End end, Way way)
 {
     setPenColor(color, false);
     setPenWidth(std::max(1, qRound(width)), false);
     m_endEnd.takeAnswer(QString::number(end));
+    m_way.takeAnswer(QString::number(way));
     take({{0, 0}, {0, 0}, {0.5, 0}});
     document->setViewBox(fittingBox());
     shapekit::finishCreation(*owner);
@@ -71,7 +85,9 @@ void Line::begin(QPointF place, const QColor &color, double width, End end)
 void Line::drawTo(QPointF end, QPointF bend)
 {
     const QPointF origin = owner->getPos() - document->viewBox().topLeft();
-    const LineCourse course{m_course.start, end - origin, bend};
+    LineCourse course = m_course;
+    course.end = end - origin;
+    course.bend = bend;
     take(course);
     QByteArray record;
     QDataStream out(&record, QIODevice::WriteOnly);
@@ -79,8 +95,31 @@ void Line::drawTo(QPointF end, QPointF bend)
     RecordDataBuffer(record, courseAction);
 }
 
+void Line::join(int end, quint32 object, const QString &place)
+{
+    Joints joints = m_joints;
+    joints[end].object = object;
+    joints[end].place = place;
+    keepJoints(joints);
+}
+
+void Line::drawTo(QPointF end, quint32 object, const QString &place)
+{
+    join(1, object, place);
+    LineCourse course = m_course;
+    course.end = end - (owner->getPos() - document->viewBox().topLeft());
+    const QByteArray joints = encoded(m_joints);
+    take(course);
+    QByteArray record;
+    QDataStream out(&record, QIODevice::WriteOnly);
+    out << encoded(course) << joints;
+    RecordDataBuffer(record, jointAction);
+}
+
 bool Line::DoPlaybackActionEx(int actionId, QDataStream &in)
 {
+    if (actionId == jointAction)
+        return replayJoint(in);
     if (actionId != courseAction)
         return ShapeOfType::DoPlaybackActionEx(actionId, in);
     QByteArray bytes;
@@ -92,9 +131,119 @@ bool Line::DoPlaybackActionEx(int actionId, QDataStream &in)
     return true;
 }
 
+bool Line::permits(OperationType operation)
+{
+    const bool changesPlace = operation == OperationMove || operation == OperationResize ||
+                              operation == OperationRotate || operation == OperationMirror;
+    return !changesPlace || !isJoined();
+}
+
+bool Line::replayJoint(QDataStream &in)
+{
+    QByteArray bytes;
+    QByteArray joints;
+    in >> bytes >> joints;
+    const std::optional<LineCourse> course = decoded(bytes);
+    if (in.status() != QDataStream::Ok || !course || !document)
+        return false;
+    keepJoints(decodedJoints(joints));
+    take(*course);
+    return true;
+}
+
+bool Line::GetSpecialProperty(int propId, QDataStream &out)
+{
+    if (propId != pagehost::FollowedObjects)
+        return ShapeOfType::GetSpecialProperty(propId, out);
+    out << qint32(m_joints.size());
+    for (const Joint &joint : m_joints)
+        out << joint.object;
+    return true;
+}
+
+bool Line::SetSpecialProperty(int propId, QDataStream &in, bool record)
+{
+    if (propId == pagehost::FollowedPlaces) {
+        follow(readJoinedObjects(in));
+        return true;
+    }
+    if (propId != pagehost::FollowedObjects)
+        return ShapeOfType::SetSpecialProperty(propId, in, record);
+    qint32 count = 0;
+    in >> count;
+    Joints joints = m_joints;
+    for (int i = 0; i < std::min(count, qint32(joints.size())); ++i)
+        in >> joints[i].object;
+    keepJoints(joints);
+    return true;
+}
+
+void Line::follow(const QVector<std::optional<JoinedObject>> &objects)
+{
+    const bool wasJoined = isJoined();
+    for (int i = 0; i < 2; ++i)
+        m_isEndJoined[i] = objects.value(i).has_value();
+    if (!document || !isJoined())
+        return;
+    LineCourse course = m_course;
+    if (!wasJoined) {
+        const QPointF origin = owner->getPos() - document->viewBox().topLeft();
+        course.start += origin;
+        course.end += origin;
+        document->setViewBox(document->viewBox().translated(origin));
+    }
+    Joints joints = m_joints;
+    line::follow(course, joints, objects);
+    const QByteArray before = QByteArray(m_saved) + QByteArray(m_savedJoints);
+    keepJoints(joints);
+    keep(course);
+    if (isOnPage() && before == QByteArray(m_saved) + QByteArray(m_savedJoints))
+        return;
+    putOnPage();
+    ShapeOfType::propertyChanged(nullptr);
+    invalidate();
+}
+
+bool Line::isOnPage()
+{
+    const QRectF box = fittingBox();
+    return document->viewBox() == box && owner->getPos() == box.topLeft() &&
+           owner->getClientRect().size() == box.size() && owner->rotation() == 0 && !owner->isMirrored() &&
+           !owner->isFlipped();
+}
+
+/// Makes document units scene units.
+void Line::putOnPage()
+{
+    if (owner->rotation() != 0)
+        owner->setRotateByPoint(0, {0, 0}, false);
+    if (owner->isMirrored() || owner->isFlipped())
+        owner->setMirror(false, false, false);
+    const QRectF present = document->viewBox();
+    if (owner->getClientRect().size() != present.size())
+        owner->setSize2(present.size(), false);
+    owner->setPos(present.topLeft(), false);
+    adjustSvgPosition(fittingBox(), true);
+}
+
+void Line::keepJoints(const Joints &joints)
+{
+    m_joints = joints;
+    m_savedJoints = encoded(joints);
+    completeCourse();
+}
+
+void Line::completeCourse()
+{
+    m_course.isAngled = m_way == Angled;
+    m_course.startOut = m_joints[0].out;
+    m_course.endOut = m_joints[1].out;
+}
+
 void Line::keep(const LineCourse &course)
 {
     m_course = course.rounded();
+    completeCourse();
     m_saved = encoded(m_course);
 }
 
@@ -109,9 +258,15 @@ void Line::take(const LineCourse &course)
 
 void Line::propertyChanged(const shapekit::Property *property)
 {
+    const bool changesWay = property == &m_way && !isBeingLoaded;
+    const QRectF before = changesWay ? fittingBox() : QRectF();
     if (const std::optional<LineCourse> course = decoded(m_saved))
         m_course = *course;
+    m_joints = decodedJoints(m_savedJoints);
+    completeCourse();
     ShapeOfType::propertyChanged(property);
+    if (changesWay)
+        fitBox(before);
 }
 
 QRectF Line::fittingBox()
@@ -165,7 +320,8 @@ void Line::setPenWidth(int width, bool record)
 
 void Line::setSize(QSizeF, QSizeF newSize)
 {
-    if (!document || newSize.isEmpty())
+    // Its objects hold it.
+    if (!document || newSize.isEmpty() || isJoined())
         return;
     const double room = 2 * margin();
     keep(m_course.stretchedTo(newSize - QSizeF(room, room)));
@@ -183,8 +339,16 @@ int Line::getMaxPenWidth()
     return widestPen;
 }
 
-QRectF Line::range(int)
+/// Whether a control point stays where it is: an end on an object, and the middle of a right-angled line.
+bool Line::isFixed(int number) const
 {
+    return number == 3 ? m_course.isAngled : m_isEndJoined[number - 1];
+}
+
+QRectF Line::range(int number)
+{
+    if (isFixed(number))
+        return {wantedPoint(number), QSizeF(0, 0)};
     return {-farthest, -farthest, 2 * farthest, 2 * farthest};
 }
 
@@ -195,6 +359,8 @@ QPointF Line::wantedPoint(int number)
 
 void Line::pointMoved(int number, QPointF centre)
 {
+    if (isFixed(number))
+        return;
     LineCourse course = m_course;
     if (number == 1)
         course.start = centre;
@@ -237,7 +403,12 @@ void Line::draw()
     const QPointF end = m_course.end - m_course.directionAtEnd() * (endsWithArrow ? covered : 0);
     PathText figure;
     figure.moveTo(start);
-    if (m_course.isStraight())
+    if (m_course.isAngled) {
+        const QVector<QPointF> corners = m_course.corners();
+        for (int i = 1; i + 1 < corners.size(); ++i)
+            figure.lineTo(corners.at(i));
+        figure.lineTo(end);
+    } else if (m_course.isStraight())
         figure.lineTo(end);
     else
         figure.curveTo(m_course.controlPoint(), end);
@@ -246,6 +417,7 @@ void Line::draw()
     addHead(heads, End(int(m_startEnd)), m_course.start, -m_course.directionAtStart());
     addHead(heads, End(int(m_endEnd)), m_course.end, m_course.directionAtEnd());
     setPath("heads", heads);
+    set("control_3", "visibility", m_course.isAngled ? QStringLiteral("hidden") : QStringLiteral("visible"));
 }
 
 } // namespace line

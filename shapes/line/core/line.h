@@ -1,5 +1,6 @@
 #pragma once
 
+#include "line/core/joints.h"
 #include "line/core/linecourse.h"
 
 #include <shapekit/shape.h>
@@ -9,11 +10,13 @@ class CBaseObject;
 namespace line {
 
 /// A line between two points that the user drags anywhere, with a third point that bends it, and with arrow heads
-/// or dots at its ends. Its box fits it.
+/// or dots at its ends. Its box fits it. Ends that are joined to other objects stay at them wherever those go: as
+/// long as there is one, document units are scene units, and the line goes nowhere else.
 class Line : public shapekit::ShapeOfType<43>
 {
 public:
     enum End { Plain, Arrow, Dot };
+    enum Way { Direct, Angled };
 
     explicit Line(CSVGObj *owner);
 
@@ -21,17 +24,24 @@ public:
     static Line *of(CBaseObject *object);
 
     /// Makes a new object, in the creating state, a line that begins and ends at a place (scene coordinates).
-    void begin(QPointF place, const QColor &color, double width, End end);
+    void begin(QPointF place, const QColor &color, double width, End end, Way way = Direct);
     /// Gives a line that is being drawn another end (scene coordinates), and records it; `bend` as in LineCourse.
     void drawTo(QPointF end, QPointF bend);
+    /// Joins an end to an object, or to none; nobody records it.
+    void join(int end, quint32 object, const QString &place);
+    /// Gives a line that is being drawn another end (scene coordinates) on an object, or on none, and records it.
+    void drawTo(QPointF end, quint32 object, const QString &place);
 
     void setSize(QSizeF oldSize, QSizeF newSize) override;
     void notifyObjectCreated() override {}
     bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
+    bool GetSpecialProperty(int propId, QDataStream &out) override;
+    bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
     void setPenWidth(int width, bool record) override;
     QSizeF getDefaultSVGSize() override;
     int getMaxPenWidth() override;
+    bool permits(OperationType operation) override;
 
 protected:
     QRectF range(int number) override;
@@ -46,6 +56,15 @@ private:
     double margin();
     void keep(const LineCourse &course);
     void take(const LineCourse &course);
+    bool replayJoint(QDataStream &in);
+    void keepJoints(const Joints &joints);
+    /// Gives the course the parts that are saved elsewhere.
+    void completeCourse();
+    bool isJoined() const { return m_isEndJoined[0] || m_isEndJoined[1]; }
+    bool isFixed(int number) const;
+    void follow(const QVector<std::optional<JoinedObject>> &objects);
+    void putOnPage();
+    bool isOnPage();
     /// The smallest view box with room for the line and its heads.
     QRectF fittingBox();
     /// The view box of an object of that size, with the line in its middle.
@@ -58,6 +77,10 @@ private:
     shapekit::Choice m_startEnd;
     shapekit::Choice m_endEnd;
     shapekit::DataValue m_saved;
+    shapekit::Choice m_way;
+    Joints m_joints; ///< decoded from the property
+    shapekit::DataValue m_savedJoints;
+    std::array<bool, 2> m_isEndJoined{}; ///< to an object that is there
 };
 
 } // namespace line

@@ -1,5 +1,7 @@
 #include "line/core/linecourse.h"
 
+#include "line/core/angledway.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QtMath>
 
@@ -97,13 +99,26 @@ QPointF LineCourse::controlPoint() const
     return bendPoint() * 2 - (start + end) / 2;
 }
 
+QVector<QPointF> LineCourse::corners() const
+{
+    return angledWay(start, startOut, end, endOut);
+}
+
 QPointF LineCourse::directionAtStart() const
 {
+    if (isAngled) {
+        const QVector<QPointF> way = corners();
+        return unit(way.value(1, end) - start);
+    }
     return unit(isStraight() ? end - start : controlPoint() - start);
 }
 
 QPointF LineCourse::directionAtEnd() const
 {
+    if (isAngled) {
+        const QVector<QPointF> way = corners();
+        return unit(end - way.value(way.size() - 2, start));
+    }
     return unit(isStraight() ? end - start : end - controlPoint());
 }
 
@@ -111,7 +126,13 @@ QRectF LineCourse::bounds() const
 {
     QPointF least(std::min(start.x(), end.x()), std::min(start.y(), end.y()));
     QPointF most(std::max(start.x(), end.x()), std::max(start.y(), end.y()));
-    if (!isStraight()) {
+    if (isAngled) {
+        const QVector<QPointF> way = corners();
+        for (const QPointF &corner : way) {
+            least = {std::min(least.x(), corner.x()), std::min(least.y(), corner.y())};
+            most = {std::max(most.x(), corner.x()), std::max(most.y(), corner.y())};
+        }
+    } else if (!isStraight()) {
         const QPointF control = controlPoint();
         include(least.rx(), most.rx(), start.x(), control.x(), end.x());
         include(least.ry(), most.ry(), start.y(), control.y(), end.y());
@@ -122,7 +143,11 @@ QRectF LineCourse::bounds() const
 
 LineCourse LineCourse::rounded() const
 {
-    return {roundedTo(start, placesPerUnit), roundedTo(end, placesPerUnit), roundedTo(bend, bendsPerLength)};
+    LineCourse course = *this;
+    course.start = roundedTo(start, placesPerUnit);
+    course.end = roundedTo(end, placesPerUnit);
+    course.bend = roundedTo(bend, bendsPerLength);
+    return course;
 }
 
 LineCourse LineCourse::stretchedTo(const QSizeF &size) const
@@ -134,7 +159,9 @@ LineCourse LineCourse::stretchedTo(const QSizeF &size) const
         const QPointF way = point - box.topLeft();
         return box.topLeft() + QPointF(way.x() * x, way.y() * y);
     };
-    LineCourse course{stretched(start), stretched(end), bend};
+    LineCourse course = *this;
+    course.start = stretched(start);
+    course.end = stretched(end);
     if (!isStraight())
         course.bendThrough(stretched(bendPoint()));
     return course;

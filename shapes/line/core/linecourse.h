@@ -3,12 +3,13 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
+#include <QtCore/QVector>
 
 #include <optional>
 
 namespace line {
 
-/// The course of a line: straight, or a curve through a point between its ends. Document units.
+/// The course of a line: straight, a curve through a point between its ends, or at right angles. Document units.
 struct LineCourse
 {
     QPointF start;
@@ -16,9 +17,15 @@ struct LineCourse
     /// The point that the curve passes through, in the frame of the ends: along the way from start to end, and to
     /// its right, in lengths of that way. So it stays in proportion when an end moves.
     QPointF bend{0.5, 0};
+    bool isAngled = false; ///< then it has no bend
+    /// The directions in which a right-angled line leaves its ends, along an axis; (0, 0) for any.
+    QPointF startOut{};
+    QPointF endOut{};
 
     bool isStraight() const { return bend.y() == 0; }
     QPointF bendPoint() const;
+    /// The corners of a right-angled line, with its ends.
+    QVector<QPointF> corners() const;
     /// A bend next to the straight way makes the line straight. Without a way nothing changes.
     void bendThrough(QPointF point);
     /// Of the quadratic curve.
@@ -28,13 +35,13 @@ struct LineCourse
     QPointF directionAtEnd() const;
     /// To the places that lines have. A point that is dragged and put back gives exactly the course of before.
     LineCourse rounded() const;
-    /// Around the curve, in whole places.
+    /// Around the line, in whole places.
     QRectF bounds() const;
     /// With its bounds stretched to a size, as far as they have a length that can be stretched; their corner stays.
     LineCourse stretchedTo(const QSizeF &size) const;
 };
 
-/// The form in which lines are saved and recorded.
+/// Ends and bend, in the form in which lines are saved and recorded.
 QByteArray encoded(const LineCourse &course);
 /// Nothing for data that are damaged, or of a line that no page has room for.
 std::optional<LineCourse> decoded(const QByteArray &bytes);

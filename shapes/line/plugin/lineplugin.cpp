@@ -1,6 +1,7 @@
 #include "line/plugin/lineplugin.h"
 
 #include "line/core/line.h"
+#include "line/tools/connectortool.h"
 #include "line/tools/linetool.h"
 
 namespace line {
@@ -13,11 +14,13 @@ LinePlugin::LinePlugin()
 
 QVector<const shapekit::Text *> LinePlugin::furtherTexts() const
 {
-    return {&LineTool::stepText()};
+    return {&LineTool::stepText(), &ConnectorTool::stepText()};
 }
 
 pagehost::PageTool *LinePlugin::createTool(pagehost::ToolRole role, pagehost::ToolPage *page) const
 {
+    if (role == pagehost::ToolRole::Connector)
+        return new ConnectorTool(page, kind(0));
     return role == pagehost::ToolRole::Line ? new LineTool(page, kind(0)) : nullptr;
 }
 

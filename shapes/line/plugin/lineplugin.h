@@ -6,7 +6,7 @@
 
 namespace line {
 
-/// Lines, and the tool that draws them.
+/// Lines, and the tools that draw them.
 class LinePlugin : public shapekit::ShapePlugin, public pagehost::ToolPlugin
 {
     Q_OBJECT
@@ -15,7 +15,10 @@ class LinePlugin : public shapekit::ShapePlugin, public pagehost::ToolPlugin
 public:
     LinePlugin();
 
-    QVector<pagehost::ToolRole> toolRoles() const override { return {pagehost::ToolRole::Line}; }
+    QVector<pagehost::ToolRole> toolRoles() const override
+    {
+        return {pagehost::ToolRole::Line, pagehost::ToolRole::Connector};
+    }
     pagehost::PageTool *createTool(pagehost::ToolRole role, pagehost::ToolPage *page) const override;
 
 protected:

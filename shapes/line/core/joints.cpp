@@ -1,0 +1,155 @@
+#include "line/core/joints.h"
+
+#include "line/core/angledway.h"
+
+#include <QtCore/QtMath>
+#include <QtGui/QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace line {
+
+namespace {
+
+/// A larger count is damage.
+constexpr qint32 mostPlaces = 64;
+
+/// How many times the vector `along` from `from` it is to the farthest side of the outline; 0 when it meets none.
+double farthestMeeting(const QPainterPath &outline, QPointF from, QPointF along)
+{
+    double farthest = 0;
+    const QList<QPolygonF> polygons = outline.toSubpathPolygons();
+    for (const QPolygonF &polygon : polygons) {
+        for (int i = 1; i < polygon.size(); ++i) {
+            const QPointF side = polygon.at(i) - polygon.at(i - 1);
+            const QPointF offset = polygon.at(i - 1) - from;
+            const double divisor = along.x() * side.y() - along.y() * side.x();
+            if (divisor == 0)
+                continue;
+            const double part = (offset.x() * along.y() - offset.y() * along.x()) / divisor;
+            const double times = (offset.x() * side.y() - offset.y() * side.x()) / divisor;
+            if (part >= 0 && part <= 1)
+                farthest = std::max(farthest, times);
+        }
+    }
+    return farthest;
+}
+
+/// Where a ray leaves the outline, or else the box around it.
+QPointF edge(const QPainterPath &outline, QPointF from, QPointF along)
+{
+    double times = farthestMeeting(outline, from, along);
+    if (times <= 0) {
+        QPainterPath box;
+        box.addRect(outline.boundingRect());
+        times = farthestMeeting(box, from, along);
+    }
+    return from + along * times;
+}
+
+/// The side of a box that faces a point; the wider gap decides.
+QPointF sideTowards(const QRectF &box, QPointF point)
+{
+    const QPointF way = point - box.center();
+    const double gapX = std::abs(way.x()) - box.width() / 2;
+    const double gapY = std::abs(way.y()) - box.height() / 2;
+    return gapX >= gapY ? QPointF(way.x() < 0 ? -1 : 1, 0) : QPointF(0, way.y() < 0 ? -1 : 1);
+}
+
+QPointF vectorAt(double degrees)
+{
+    const double angle = qDegreesToRadians(degrees);
+    return {std::cos(angle), std::sin(angle)};
+}
+
+} // namespace
+
+QByteArray encoded(const Joints &joints)
+{
+    QByteArray bytes;
+    if (joints[0].isUnused() && joints[1].isUnused())
+        return bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    for (const Joint &joint : joints)
+        out << joint.object << joint.place << joint.out;
+    return bytes;
+}
+
+Joints decodedJoints(const QByteArray &bytes)
+{
+    Joints joints;
+    QDataStream in(bytes);
+    for (Joint &joint : joints) {
+        in >> joint.object >> joint.place >> joint.out;
+        joint.out = joint.out.isNull() ? QPointF() : mainAxis(joint.out);
+    }
+    return in.status() == QDataStream::Ok ? joints : Joints();
+}
+
+const JoinedObject::Place *JoinedObject::placeNamed(const QString &name) const
+{
+    const auto found =
+        std::find_if(places.begin(), places.end(), [&name](const Place &place) { return place.name == name; });
+    return name.isEmpty() || found == places.end() ? nullptr : &*found;
+}
+
+QPointF JoinedObject::aim(const QString &place) const
+{
+    const Place *named = placeNamed(place);
+    return named ? named->point : outline.boundingRect().center();
+}
+
+QVector<std::optional<JoinedObject>> readJoinedObjects(QDataStream &in)
+{
+    qint32 count = 0;
+    in >> count;
+    QVector<std::optional<JoinedObject>> objects;
+    for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        bool isThere = false;
+        in >> isThere;
+        objects.append(std::nullopt);
+        if (!isThere)
+            continue;
+        JoinedObject object;
+        qint32 places = 0;
+        in >> object.outline >> places;
+        object.places.resize(qBound(0, places, mostPlaces));
+        for (JoinedObject::Place &place : object.places)
+            in >> place.name >> place.point >> place.direction;
+        objects.last() = object;
+    }
+    return in.status() == QDataStream::Ok ? objects : QVector<std::optional<JoinedObject>>();
+}
+
+JoinedEnd joinedEnd(const JoinedObject &object, const QString &place, QPointF from, bool isAngled)
+{
+    const QRectF box = object.outline.boundingRect();
+    if (const JoinedObject::Place *named = object.placeNamed(place)) {
+        const bool isAny = std::isnan(named->direction);
+        return {named->point, isAny ? sideTowards(box, named->point) : mainAxis(vectorAt(named->direction))};
+    }
+    const QPointF centre = box.center();
+    const QPointF side = sideTowards(box, from);
+    const QPointF way = from - centre;
+    const QPointF along = isAngled || way.isNull() ? side : way;
+    return {edge(object.outline, centre, along), side};
+}
+
+void follow(LineCourse &course, Joints &joints, const QVector<std::optional<JoinedObject>> &objects)
+{
+    const std::array<QPointF *, 2> ends{&course.start, &course.end};
+    std::array<QPointF, 2> aims{course.start, course.end};
+    for (int i = 0; i < objects.size() && i < 2; ++i)
+        if (objects.at(i))
+            aims[i] = objects.at(i)->aim(joints[i].place);
+    for (int i = 0; i < objects.size() && i < 2; ++i) {
+        if (!objects.at(i))
+            continue;
+        const JoinedEnd end = joinedEnd(*objects.at(i), joints[i].place, aims[1 - i], course.isAngled);
+        *ends[i] = end.point;
+        joints[i].out = end.out;
+    }
+}
+
+} // namespace line
