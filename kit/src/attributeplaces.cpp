@@ -8,13 +8,6 @@ namespace shapekit {
 
 namespace {
 
-/// The value of an attribute that begins at `start`, behind its quote.
-QString valueAt(const QString &text, int start)
-{
-    const int end = text.indexOf(text.at(start - 1), start);
-    return end < 0 ? QString() : text.mid(start, end - start);
-}
-
 /// -1 when the tag has no such attribute.
 int offsetIn(const RawTag &tag, const QString &attribute)
 {
@@ -51,6 +44,10 @@ int AttributePlaces::offsetOf(const QZeSvgTinyDocument::Message &message) const
     }
     if (message.code == QZeSvgTinyDocument::Message::InvalidPoints)
         return offsetIn(tag, QStringLiteral("points"));
+    if (message.code == QZeSvgTinyDocument::Message::InvalidImage) {
+        const int offset = offsetIn(tag, QStringLiteral("href"));
+        return offset < 0 ? offsetIn(tag, QStringLiteral("xlink:href")) : offset;
+    }
     const QString value = quoted.match(message.text).captured(1);
     for (const RawAttribute &attribute : tag.attributes)
         if (!value.isEmpty() && valueAt(m_text, attribute.offset).contains(value))

@@ -10,6 +10,12 @@ int RawTag::offsetOf(const QString &attribute) const
     return offset;
 }
 
+QString valueAt(const QString &text, int start)
+{
+    const int end = text.indexOf(text.at(start - 1), start);
+    return end < 0 ? QString() : text.mid(start, end - start);
+}
+
 TagScanner::TagScanner(const QString &text)
     : m_text(text)
 {

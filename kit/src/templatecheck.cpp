@@ -87,13 +87,6 @@ bool isOfNobody(const QString &name)
            name == QLatin1String("role") || name == QLatin1String("tabindex");
 }
 
-/// The value of an attribute that begins at `start`, behind its quote.
-QString valueAt(const QString &text, int start)
-{
-    const int end = text.indexOf(text.at(start - 1), start);
-    return end < 0 ? QString() : text.mid(start, end - start);
-}
-
 /// The places of the ids of a template.
 QMap<QString, int> idsOf(const QString &text)
 {

@@ -25,6 +25,9 @@ struct SHAPEKIT_EXPORT RawTag
     int offsetOf(const QString &attribute) const;
 };
 
+/// The value of an attribute that begins at `start`, behind its quote; empty when it doesn't end.
+SHAPEKIT_EXPORT QString valueAt(const QString &text, int start);
+
 /// Finds the start tags of an XML text, which may be faulty, in their order: Qt's reader tells where a tag ends,
 /// but not where its attributes stand.
 class SHAPEKIT_EXPORT TagScanner

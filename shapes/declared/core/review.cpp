@@ -3,6 +3,7 @@
 #include <declared/core/declaredshape.h>
 #include <declared/core/outlinedistance.h>
 
+#include <shapekit/attributeplaces.h>
 #include <shapekit/shapeobject.h>
 
 #include <svgbase/qzesvgtinydocument.h>
@@ -93,6 +94,9 @@ private:
                  QStringLiteral("control_%1 doesn't stay where it settles: %2 %3 becomes %4 %5")
                      .arg(QString::number(number), numberText(stands.x()), numberText(stands.y()),
                           numberText(again.x()), numberText(again.y())));
+        if (!QRectF(QPointF(0, 0), m_declaration.size).contains(stands))
+            warn("C50", point.source,
+                 QStringLiteral("control_%1 stands outside of the size of the shape").arg(QString::number(number)));
         reviewRange(state, point.x);
         reviewRange(state, point.y);
     }
@@ -212,6 +216,22 @@ private:
     QVector<Message> m_messages;
 };
 
+/// The SVG library's messages about a file, but for those that its reader gives.
+QVector<Message> libraryMessages(const QByteArray &file, const QVector<QZeSvgTinyDocument::Message> &found)
+{
+    const shapekit::AttributePlaces attributes(found.isEmpty() ? QString() : QString::fromUtf8(file));
+    QVector<Message> messages;
+    for (const QZeSvgTinyDocument::Message &message : found) {
+        if (message.code == QZeSvgTinyDocument::Message::ForeignReference)
+            continue;
+        const shapekit::TextPlace end{message.line, message.column};
+        const shapekit::TextPlace place = attributes.of(message).value_or(end);
+        messages.append(
+            {Message::Warning, QStringLiteral("C37"), int(place.line), int(place.column), message.text});
+    }
+    return messages;
+}
+
 } // namespace
 
 QVector<Message> reviewed(const ShapeKind &kind, const QByteArray &file)
@@ -221,8 +241,9 @@ QVector<Message> reviewed(const ShapeKind &kind, const QByteArray &file)
     if (!shape || !shape->drawing())
         return {};
     shape->settleDrawing();
-    const std::unique_ptr<QZeSvgTinyDocument> drawn(QZeSvgTinyDocument::load(file));
-    QVector<Message> messages = Review(kind, *shape, drawn.get()).messages();
+    QVector<QZeSvgTinyDocument::Message> found;
+    const std::unique_ptr<QZeSvgTinyDocument> drawn(QZeSvgTinyDocument::load(file, &found));
+    QVector<Message> messages = Review(kind, *shape, drawn.get()).messages() + libraryMessages(file, found);
     std::stable_sort(messages.begin(), messages.end(), [](const Message &a, const Message &b) {
         return a.line != b.line ? a.line < b.line : a.column < b.column;
     });

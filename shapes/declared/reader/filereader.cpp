@@ -246,8 +246,8 @@ void FileReader::checkElements()
             error(
                 "C04", element,
                 QStringLiteral("there is no element \"%1\"%2").arg(element.name, suggestion(element.name, known)));
-        else if (isSvg(element) && element.name == QLatin1String("script"))
-            warning("C45", element, QStringLiteral("scripts are left out"));
+        else if (isSvg(element) && isLeftOut(element))
+            warning("C45", element, QStringLiteral("\"%1\" is left out").arg(element.name));
 }
 
 void FileReader::checkReference(const Attribute &attribute, const QString &id, int offset)
@@ -277,21 +277,30 @@ void FileReader::checkUse()
 /// Links to elements of the file, and paints and effects that are found by their id.
 void FileReader::checkReferences()
 {
-    static const QRegularExpression form(QStringLiteral("url\\(\\s*['\"]?#([^'\")\\s]+)"));
     for (const Element &element : m_elements) {
         if (isLeftOut(element))
             continue;
-        for (const Attribute &attribute : element.attributes) {
-            if (attribute.namespaceUri == shapeNamespace)
-                continue;
-            if (attribute.name == QLatin1String("href") && attribute.value.startsWith(QLatin1Char('#')))
-                checkReference(attribute, attribute.value.mid(1), 1);
-            for (auto match = form.globalMatch(attribute.value); match.hasNext();) {
-                const QRegularExpressionMatch found = match.next();
-                checkReference(attribute, found.captured(1), found.capturedStart(1));
-            }
-        }
+        for (const Attribute &attribute : element.attributes)
+            if (attribute.namespaceUri != shapeNamespace)
+                checkReferencesOf(attribute);
     }
+}
+
+void FileReader::checkReferencesOf(const Attribute &attribute)
+{
+    static const QRegularExpression inside(QStringLiteral("url\\(\\s*['\"]?#([^'\")\\s]+)"));
+    static const QRegularExpression outside(QStringLiteral("url\\(\\s*['\"]?(?![#'\"\\s]|data:)"));
+    if (attribute.name == QLatin1String("href") && attribute.value.startsWith(QLatin1Char('#')))
+        checkReference(attribute, attribute.value.mid(1), 1);
+    for (auto match = inside.globalMatch(attribute.value); match.hasNext();) {
+        const QRegularExpressionMatch found = match.next();
+        checkReference(attribute, found.captured(1), found.capturedStart(1));
+    }
+    if (isScript(attribute))
+        report(Message::Warning, "C45", m_tree.placeIn(attribute, 0), QStringLiteral("scripts are left out"));
+    else if (leadsOutside(attribute) || outside.match(attribute.value).hasMatch())
+        report(Message::Warning, "C45", m_tree.placeIn(attribute, 0),
+               QStringLiteral("links to elsewhere are left out"));
 }
 
 } // namespace declared

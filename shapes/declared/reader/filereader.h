@@ -96,6 +96,7 @@ private:
     void checkElements();
     void checkReferences();
     void checkUse();
+    void checkReferencesOf(const Attribute &attribute);
     void checkReference(const Attribute &attribute, const QString &id, int offset);
 
     void defineFixedNames();
@@ -174,6 +175,9 @@ private:
     QByteArray iconText(const Element &symbol) const;
     QByteArray canonicalText() const;
     bool isLeftOut(const Element &element) const;
+    static bool leadsOutside(const Attribute &attribute);
+    static bool isScript(const Attribute &attribute);
+    static bool isWritten(const Attribute &attribute);
     QString paintOf(int index, const QString &paint) const;
     QStringList keptPaints(int index) const;
     void writeElement(QXmlStreamWriter &writer, int index) const;

@@ -19,20 +19,6 @@ constexpr int hashDigits = 32;
 const QStringList attributesOfTheKit{QStringLiteral("keeps"), QStringLiteral("fill_follows"),
                                      QStringLiteral("stroke_follows")};
 
-/// Only the file itself is read: a link leads to another element, or holds its data.
-bool leadsOutside(const SourceAttribute &attribute)
-{
-    return attribute.name == QLatin1String("href") && !attribute.value.startsWith(QLatin1Char('#')) &&
-           !attribute.value.startsWith(QLatin1String("data:"));
-}
-
-bool isWritten(const SourceAttribute &attribute)
-{
-    const bool isKnown = attribute.namespaceUri.isEmpty() || attribute.namespaceUri == linkNamespace ||
-                         attribute.prefix == QLatin1String("xml");
-    return isKnown && !leadsOutside(attribute) && !attribute.name.startsWith(QLatin1String("on"));
-}
-
 void writeAttribute(QXmlStreamWriter &writer, const SourceAttribute &attribute)
 {
     if (attribute.namespaceUri.isEmpty())
@@ -54,6 +40,25 @@ QString canonicalCharacters(const SourceElement &element, const QString &charact
 }
 
 } // namespace
+
+/// Only the file itself is read: a link leads to another element, or holds its data.
+bool FileReader::leadsOutside(const Attribute &attribute)
+{
+    return attribute.name == QLatin1String("href") && !attribute.value.startsWith(QLatin1Char('#')) &&
+           !attribute.value.startsWith(QLatin1String("data:"));
+}
+
+bool FileReader::isScript(const Attribute &attribute)
+{
+    return attribute.namespaceUri.isEmpty() && attribute.name.startsWith(QLatin1String("on"));
+}
+
+bool FileReader::isWritten(const Attribute &attribute)
+{
+    const bool isKnown = attribute.namespaceUri.isEmpty() || attribute.namespaceUri == linkNamespace ||
+                         attribute.prefix == QLatin1String("xml");
+    return isKnown && !leadsOutside(attribute) && !isScript(attribute);
+}
 
 bool FileReader::isLeftOut(const Element &element) const
 {

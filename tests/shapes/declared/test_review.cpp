@@ -93,6 +93,19 @@ void TestReview::warningsStandWhereTheyAre_data()
         "<path d='M3 3H60V9' shape:d='M3 3H{60 + a}V9'/>",
         "4:64 C48");
     row("<path d='M3 3H130V9Z' shape:d='M3 3H{w + 10}V9Z'/>", "4:1 C50");
+    row("<rect id='control_1' x='126' y='36' width='8' height='8' shape:range-x='0 .. 2 * w'/>", "4:1 C50");
+    row("<path d='M3 3Hx'/>", "4:15 C37");
+    row("<polygon points='3 3 9'/>", "4:18 C37");
+    row("<path d='M3 3H9' stroke-width='wide'/>", "4:32 C37");
+    row("<style>@import 'other.css';</style>", "4:8 C37");
+    row("<image href='picture.png' width='9' height='9'/>", "4:14 C45");
+    row("<use href='other.svg#a'/>", "4:12 C45");
+    row("<path d='M3 3H9' fill='url(other.svg#a)'/>", "4:24 C45");
+    row("<path d='M3 3H9' style='fill:url(\"http://example.com/#a\")'/>", "4:25 C45");
+    row("<image href='data:image/png;base64,iVBORw0KGgo=' width='9' height='9'/>", "4:14 C37");
+    row("<linearGradient id='a'/><path d='M3 3H9' fill='url( \"#a\" )'/>", "");
+    row("<g onclick='x()'/>", "4:13 C45");
+    row("<script/><foreignObject/>", "4:1 C45, 4:10 C45");
 }
 
 void TestReview::warningsStandWhereTheyAre()
