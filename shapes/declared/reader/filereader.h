@@ -107,6 +107,7 @@ private:
     void readProperty(const Element &element);
     /// The same for every version of a file that keeps type and name, wherever the property stands in it.
     static int propertyId(const QString &kind, const QString &name);
+    void checkTitle(const Element &element, const PropertyDeclaration &property);
     void readFormer(const Element &element, PropertyDeclaration &property);
     void checkFormer(const Element &element);
     void readValue(const Element &element, PropertyDeclaration &property);

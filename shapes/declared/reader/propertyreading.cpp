@@ -3,6 +3,8 @@
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
 
+#include <shapekit/text.h>
+
 #include <QtCore/QCryptographicHash>
 
 #include <algorithm>
@@ -17,6 +19,20 @@ const QStringList kinds{QStringLiteral("whole"),   QStringLiteral("real"),   QSt
                         QStringLiteral("numbers"), QStringLiteral("points")};
 const QStringList panels{QStringLiteral("both"), QStringLiteral("properties"), QStringLiteral("settings"),
                          QStringLiteral("none")};
+/// Behind "SVG_" keys of saved shapes, behind "id" controls of the panel.
+const QStringList takenNames{QStringLiteral("SVGType"),
+                             QStringLiteral("ControlCount"),
+                             QStringLiteral("Declared"),
+                             QStringLiteral("PenColor"),
+                             QStringLiteral("PenStyle"),
+                             QStringLiteral("PenWidth"),
+                             QStringLiteral("PropPenEnabled"),
+                             QStringLiteral("PropPenStyleEnabled"),
+                             QStringLiteral("PropPenWidthEnabled"),
+                             QStringLiteral("PropFillEnabled"),
+                             QStringLiteral("FillColor"),
+                             QStringLiteral("LineStyle"),
+                             QStringLiteral("OutlineColor")};
 constexpr double largestNumber = 1e6;
 /// Ids of declared properties begin there, above those of all others.
 constexpr int firstPropertyId = 1 << 20;
@@ -98,6 +114,7 @@ void FileReader::readProperty(const Element &element)
     property.title = texts(element, "title");
     if (!property.title.contains(QStringLiteral("en")))
         property.title.insert(QStringLiteral("en"), name->value);
+    checkTitle(element, property);
     const bool listed = isList(property.kind);
     property.slot = listed ? m_shape.listCount++ : newSlot();
     if (!define(name->value, *name,
@@ -117,6 +134,24 @@ void FileReader::readProperty(const Element &element)
     }
     readFormer(element, property);
     m_shape.properties.append(property);
+}
+
+/// Properties of a successor are known by their titles; others have their names, apart from all keys.
+void FileReader::checkTitle(const Element &element, const PropertyDeclaration &property)
+{
+    if (!m_shape.isSuccessor())
+        return;
+    const auto keyOf = [](const PropertyDeclaration &one) {
+        return shapekit::Text::joinedWords(one.title.value(QStringLiteral("en")));
+    };
+    const QString key = keyOf(property);
+    const bool isTaken = takenNames.contains(key) ||
+                         std::any_of(m_shape.properties.cbegin(), m_shape.properties.cend(),
+                                     [&](const PropertyDeclaration &other) { return keyOf(other) == key; });
+    const Attribute *title = element.attribute(QStringLiteral("title"));
+    if (isTaken)
+        error("C12", title ? *title : *element.attribute(QStringLiteral("name")),
+              QStringLiteral("the key \"SVG_%1\" that is made of this title is taken").arg(key));
 }
 
 /// Former names with their types: "corners:real tips:whole".

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void faultsOfAboutStandWhereTheyAre();
     void successorsHaveRepeatedLabelsOnly();
     void successorsHaveNoFormerNames();
+    void titlesOfSuccessorsMakeNoKeyThatIsTaken_data();
+    void titlesOfSuccessorsMakeNoKeyThatIsTaken();
     void placesCountReferencesAsOneCharacter();
     void placesCountLines();
     void everyFaultOfAFileIsTold();
@@ -241,6 +243,32 @@ void TestReadingFaults::successorsHaveNoFormerNames()
         firstError(declaredtest::fileAbout("name='Nut' layout='kit' type='30'",
                                            "<shape:property name='a' type='switch' value='no' was='b:switch'/>")),
         QStringLiteral("3:56 C51"));
+}
+
+void TestReadingFaults::titlesOfSuccessorsMakeNoKeyThatIsTaken_data()
+{
+    QTest::addColumn<QByteArray>("properties");
+    QTest::addColumn<QString>("fault");
+    const QByteArray first = "<shape:property name='a' type='switch' value='no' title='Hole'/>";
+    const auto titled = [](const QByteArray &title) {
+        return "<shape:property name='b' type='switch' value='no' title='" + title + "'/>";
+    };
+    for (const char *title : {"SVG type", "Control count", "Pen color", "Line style", "Outline color", "Declared"})
+        QTest::newRow(title) << titled(title) << QStringLiteral("3:58 C12");
+    QTest::newRow("another's") << first + titled("hole") << QStringLiteral("3:122 C12");
+    QTest::newRow("free") << first + titled("Holes") << QString();
+    QTest::newRow("a name") << QByteArray("<shape:property name='penColor' type='switch' value='no'/>")
+                            << QStringLiteral("3:23 C12");
+}
+
+void TestReadingFaults::titlesOfSuccessorsMakeNoKeyThatIsTaken()
+{
+    QFETCH(QByteArray, properties);
+    QFETCH(QString, fault);
+    const char *about = "name='Nut' layout='kit' type='30'";
+    QCOMPARE(firstError(declaredtest::fileAbout(about, properties)), fault);
+    // The names of other shapes are apart from all keys.
+    QCOMPARE(firstError(declaredtest::fileAbout("name='Nut'", properties)), QString());
 }
 
 void TestReadingFaults::placesCountReferencesAsOneCharacter()
