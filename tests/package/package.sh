@@ -47,6 +47,43 @@ step_soname() {
     [ "$soname" = libgliololok-shapekit.so.1 ] || fail "the soname of the kit is '$soname'"
 }
 
+# A link without its target counts: names of libraries are in another component than these.
+is_there() {
+    [ -e "$1" ] || [ -L "$1" ]
+}
+
+# installs COMPONENT FILE...: that component alone has these files.
+installs() {
+    local component=$1 other file
+    shift
+    for other in runtime development board shapes tools; do
+        [ -d "$work/components/$other" ] ||
+            cmake --install "$build" --component "$other" --prefix "$work/components/$other" >/dev/null
+        for file in "$@"; do
+            if [ "$other" = "$component" ]; then
+                is_there "$work/components/$other/$file" || fail "component $other lacks $file"
+            else
+                ! is_there "$work/components/$other/$file" || fail "component $other has $file, too"
+            fi
+        done
+    done
+}
+
+step_components() {
+    local part all
+    rm -rf "$work/components"
+    installs runtime "$LIBDIR"/gliololok.so.1 "$LIBDIR"/lib{framework,svgbase,gliololok-shapekit}.so.1
+    installs development "$LIBDIR"/libgliololok-shapekit.so "$LIBDIR"/cmake/gliololok/gliololokConfig.cmake \
+        "$LIBDIR"/pkgconfig/gliololok.pc include/svgobj/csvgobj.h include/shapekit/shape.h
+    installs board bin/gliololok-board
+    installs shapes "$LIBDIR"/gliololok/shapes/{declared.so,star.shape.svg}
+    installs tools bin/gliololok-shape share/man/man1/gliololok-shape.1
+    # Every installed file belongs to one of them.
+    all=$(cd "$prefix" && find . ! -type d | sort)
+    part=$(for component in "$work"/components/*; do (cd "$component" && find . ! -type d); done | sort)
+    [ "$part" = "$all" ] || fail "the components are not the installation: $(diff <(echo "$all") <(echo "$part"))"
+}
+
 # versions_of LIBRARY: the versions of its exported symbols, but for the one that names the version itself.
 versions_of() {
     objdump -T "$1" | awk '/\*UND\*/ {next} /^[0-9a-f]+ [gwu]/ && !/\*ABS\*/ {print $(NF-1)}' | tr -d '()' | sort -u
