@@ -48,11 +48,7 @@ void FileReader::readAbout()
     if (found.size() > 1)
         error("C03", *found.at(1), QStringLiteral("\"about\" is there twice"));
     const Element &about = *found.first();
-    checkNames(about,
-               {QStringLiteral("name"), QStringLiteral("id"), QStringLiteral("words"), QStringLiteral("group"),
-                QStringLiteral("rank"), QStringLiteral("sizing"), QStringLiteral("aspect"),
-                QStringLiteral("filled"), QStringLiteral("smallest"), QStringLiteral("pen"), QStringLiteral("icon"),
-                QStringLiteral("type"), QStringLiteral("layout")});
+    checkNames(about);
     readNames(about);
     readId(about);
     readSizing(about);

@@ -2,94 +2,13 @@
 
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
+#include <declared/reader/vocabulary.h>
 
 #include <algorithm>
 
 namespace declared {
 
 namespace {
-
-struct AttributeForm
-{
-    const char *name;
-    const char *elements; ///< those that have it, "*" for all
-};
-
-constexpr AttributeForm attributeForms[] = {
-    {"d", " path "},
-    {"points", " polygon polyline "},
-    {"x", " rect text tspan image use "},
-    {"y", " rect text tspan image use "},
-    {"width", " rect image use "},
-    {"height", " rect image use "},
-    {"rx", " rect ellipse "},
-    {"ry", " rect ellipse "},
-    {"cx", " circle ellipse "},
-    {"cy", " circle ellipse "},
-    {"r", " circle "},
-    {"x1", " line "},
-    {"y1", " line "},
-    {"x2", " line "},
-    {"y2", " line "},
-    {"text", " text "},
-    {"repeat", " g "},
-    {"box", ""},
-    {"align", ""},
-    {"valign", ""},
-    {"size", ""},
-    {"lines", ""},
-    {"title", ""},
-    {"from", " animate animateColor animateMotion animateTransform "},
-    {"to", " animate animateColor animateMotion animateTransform set "},
-    {"by", " animate animateColor animateMotion animateTransform "},
-    {"values", " animate animateColor animateMotion animateTransform "},
-    {"begin", " animate animateColor animateMotion animateTransform set "},
-    {"dur", " animate animateColor animateMotion animateTransform set "},
-    {"repeatCount", " animate animateColor animateMotion animateTransform set "},
-    {"path", " animateMotion "},
-    {"transform", "*"},
-    {"fill", "*"},
-    {"fill-opacity", "*"},
-    {"stroke", "*"},
-    {"stroke-opacity", "*"},
-    {"stroke-width", "*"},
-    {"stroke-dasharray", "*"},
-    {"stroke-dashoffset", "*"},
-    {"opacity", "*"},
-    {"font-size", "*"},
-    {"visible", "*"},
-    {"keeps", "*"},
-};
-
-/// Elements that are drawn and may be written anew.
-const QStringList drawnElements{QStringLiteral("g"),       QStringLiteral("path"),     QStringLiteral("rect"),
-                                QStringLiteral("circle"),  QStringLiteral("ellipse"),  QStringLiteral("line"),
-                                QStringLiteral("polygon"), QStringLiteral("polyline"), QStringLiteral("text"),
-                                QStringLiteral("image"),   QStringLiteral("use")};
-
-QStringList attributeNames()
-{
-    QStringList names;
-    for (const AttributeForm &form : attributeForms)
-        names.append(QLatin1String(form.name));
-    return names;
-}
-
-const AttributeForm *formOf(const QString &name)
-{
-    for (const AttributeForm &form : attributeForms)
-        if (name == QLatin1String(form.name))
-            return &form;
-    return nullptr;
-}
-
-bool takes(const AttributeForm &form, const QString &element)
-{
-    const QString elements = QLatin1String(form.elements);
-    if (elements == QLatin1String("*"))
-        return drawnElements.contains(element);
-    return elements.contains(QLatin1Char(' ') + element + QLatin1Char(' '));
-}
 
 double numberOr(const QString &text, double otherwise)
 {
@@ -105,7 +24,7 @@ double numberOr(const QString &text, double otherwise)
 
 bool FileReader::isDrawn(const Element &element) const
 {
-    return isSvg(element) && drawnElements.contains(element.name);
+    return isSvg(element) && isDrawnElement(element.name);
 }
 
 void FileReader::readElements()
@@ -160,14 +79,13 @@ void FileReader::readElement(int index, int repeat, const QVector<int> &path)
 void FileReader::readAttribute(const Element &element, const Attribute &attribute, ElementDeclaration &declared,
                                TemplateElement &written)
 {
-    const AttributeForm *form = formOf(attribute.name);
-    if (!form) {
+    if (!figureAttributes().contains(attribute.name)) {
         error("C04", attribute,
               QStringLiteral("there is no attribute \"%1\"%2")
-                  .arg(attribute.name, suggestion(attribute.name, attributeNames())));
+                  .arg(attribute.name, suggestion(attribute.name, figureAttributes())));
         return;
     }
-    if (!takes(*form, element.name)) {
+    if (!takesAttribute(element.name, attribute.name)) {
         error("C38", attribute, QStringLiteral("\"%1\" has no \"%2\"").arg(element.name, attribute.name));
         return;
     }
@@ -353,7 +271,7 @@ void FileReader::readConnections()
     for (const Element &element : m_elements) {
         if (!isShape(element, "connection"))
             continue;
-        checkNames(element, {QStringLiteral("name"), QStringLiteral("at"), QStringLiteral("out")});
+        checkNames(element);
         const Attribute *name = element.attribute(QStringLiteral("name"));
         const Attribute *at = element.attribute(QStringLiteral("at"));
         const Attribute *out = element.attribute(QStringLiteral("out"));

@@ -2,6 +2,7 @@
 
 #include <declared/reader/filelimits.h>
 #include <declared/reader/shapereader.h>
+#include <declared/reader/vocabulary.h>
 
 #include <QtCore/QRegularExpression>
 
@@ -131,8 +132,9 @@ const SourceAttribute *FileReader::shapeAttribute(const Element &element, const 
 }
 
 /// A language stands behind a point: "title.de".
-void FileReader::checkNames(const Element &element, const QStringList &known)
+void FileReader::checkNames(const Element &element)
 {
+    const QStringList known = attributesOf(element.name);
     for (const Attribute &attribute : element.attributes) {
         const QString name = attribute.name.section(QLatin1Char('.'), 0, 0);
         const bool hasLanguage = attribute.name.contains(QLatin1Char('.'));
@@ -239,8 +241,7 @@ void FileReader::readIds()
 
 void FileReader::checkElements()
 {
-    const QStringList known{QStringLiteral("about"), QStringLiteral("property"), QStringLiteral("entry"),
-                            QStringLiteral("let"), QStringLiteral("connection")};
+    const QStringList known = declarations();
     for (const Element &element : m_elements)
         if (element.namespaceUri == shapeNamespace && !known.contains(element.name))
             error(

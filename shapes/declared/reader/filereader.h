@@ -73,7 +73,7 @@ private:
 
     /// @name Attributes
     /// @{
-    void checkNames(const Element &element, const QStringList &known);
+    void checkNames(const Element &element);
     /// The texts of an attribute by language; warns when there are some, but no English one.
     Texts texts(const Element &element, const char *name) { return textsOf(element, name, {}); }
     Texts textsOf(const Element &element, const char *name, const QString &namespaceUri);

@@ -2,6 +2,7 @@
 
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
+#include <declared/reader/vocabulary.h>
 
 #include <declared/expressions/functions.h>
 
@@ -18,18 +19,18 @@ struct FixedName
     Type type;
 };
 
-constexpr FixedName fixedNames[] = {{"w", slots_of::Width, Type::Number},
-                                    {"h", slots_of::Height, Type::Number},
-                                    {"left", slots_of::Left, Type::Number},
-                                    {"top", slots_of::Top, Type::Number},
-                                    {"right", slots_of::Right, Type::Number},
-                                    {"bottom", slots_of::Bottom, Type::Number},
-                                    {"middle", slots_of::Middle, Type::Point},
-                                    {"points", slots_of::PointCount, Type::Number},
-                                    {"pen", slots_of::Pen, Type::Text},
-                                    {"fill", slots_of::Fill, Type::Text},
-                                    {"penwidth", slots_of::PenWidth, Type::Number},
-                                    {"pi", slots_of::Pi, Type::Number}};
+constexpr FixedName fixedNameForms[] = {{"w", slots_of::Width, Type::Number},
+                                        {"h", slots_of::Height, Type::Number},
+                                        {"left", slots_of::Left, Type::Number},
+                                        {"top", slots_of::Top, Type::Number},
+                                        {"right", slots_of::Right, Type::Number},
+                                        {"bottom", slots_of::Bottom, Type::Number},
+                                        {"middle", slots_of::Middle, Type::Point},
+                                        {"points", slots_of::PointCount, Type::Number},
+                                        {"pen", slots_of::Pen, Type::Text},
+                                        {"fill", slots_of::Fill, Type::Text},
+                                        {"penwidth", slots_of::PenWidth, Type::Number},
+                                        {"pi", slots_of::Pi, Type::Number}};
 
 /// Words of the language, names of points, and "at", which has its meaning only in limits.
 bool isReserved(const QString &name)
@@ -40,9 +41,17 @@ bool isReserved(const QString &name)
 
 } // namespace
 
+QStringList fixedNames()
+{
+    QStringList names;
+    for (const FixedName &fixed : fixedNameForms)
+        names.append(QLatin1String(fixed.name));
+    return names;
+}
+
 void FileReader::defineFixedNames()
 {
-    for (const FixedName &fixed : fixedNames)
+    for (const FixedName &fixed : fixedNameForms)
         m_symbols.names.insert(QLatin1String(fixed.name), {Symbol::Variable, fixed.type, fixed.slot, 0});
     m_symbols.names.insert(QStringLiteral("p"), {Symbol::List, Type::Point, slots_of::PointList, 1});
     m_shape.slotCount = slots_of::FirstPoint;
@@ -98,7 +107,7 @@ void FileReader::readLets()
     for (const Element &element : m_elements) {
         if (!isShape(element, "let"))
             continue;
-        checkNames(element, {QStringLiteral("name"), QStringLiteral("value")});
+        checkNames(element);
         Let let{&element, element.attribute(QStringLiteral("value")), {}, false, {}};
         QStringList parameters;
         if (!let.value || !element.attribute(QStringLiteral("name"))) {

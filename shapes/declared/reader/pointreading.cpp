@@ -2,6 +2,7 @@
 
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
+#include <declared/reader/vocabulary.h>
 
 #include <QtCore/QRegularExpression>
 
@@ -27,20 +28,6 @@ constexpr TrackForm trackForms[] = {{"line", TrackDeclaration::Line, "pp"},
 const QStringList followRules{QStringLiteral("side"),   QStringLiteral("start"),   QStringLiteral("end"),
                               QStringLiteral("middle"), QStringLiteral("shorter"), QStringLiteral("-shorter")};
 
-const QStringList pointAttributes{
-    QStringLiteral("range-x"),  QStringLiteral("range-y"),  QStringLiteral("along"),    QStringLiteral("step"),
-    QStringLiteral("step-x"),   QStringLiteral("step-y"),   QStringLiteral("place"),    QStringLiteral("mirrors"),
-    QStringLiteral("allowed"),  QStringLiteral("follow-x"), QStringLiteral("follow-y"), QStringLiteral("offset-x"),
-    QStringLiteral("offset-y"), QStringLiteral("hint")};
-
-QStringList trackNames()
-{
-    QStringList names;
-    for (const TrackForm &form : trackForms)
-        names.append(QLatin1String(form.name));
-    return names;
-}
-
 bool fits(const TrackForm &form, const QVector<Expression> &arguments)
 {
     const QByteArray parameters(form.parameters);
@@ -53,6 +40,14 @@ bool fits(const TrackForm &form, const QVector<Expression> &arguments)
 }
 
 } // namespace
+
+QStringList trackNames()
+{
+    QStringList names;
+    for (const TrackForm &form : trackForms)
+        names.append(QLatin1String(form.name));
+    return names;
+}
 
 /// Points are numbered from 1, without a gap.
 void FileReader::findPoints()
@@ -109,10 +104,10 @@ void FileReader::readPoint(const Element &element, int number)
     point.source = m_tree.placeOf(element.offset);
     point.centre = {values[0] + values[2] / 2, values[1] + values[3] / 2};
     for (const Attribute &attribute : element.attributes) {
-        if (attribute.namespaceUri == shapeNamespace && !pointAttributes.contains(attribute.name))
+        if (attribute.namespaceUri == shapeNamespace && !pointAttributes().contains(attribute.name))
             error("C04", attribute,
                   QStringLiteral("there is no attribute \"%1\" of a control point%2")
-                      .arg(attribute.name, suggestion(attribute.name, pointAttributes)));
+                      .arg(attribute.name, suggestion(attribute.name, pointAttributes())));
     }
     readAxis(element, "x", point.x, number);
     readAxis(element, "y", point.y, number);

@@ -2,6 +2,7 @@
 
 #include <declared/reader/filelimits.h>
 #include <declared/reader/filereader.h>
+#include <declared/reader/vocabulary.h>
 
 #include <shapekit/text.h>
 
@@ -14,9 +15,6 @@ namespace declared {
 
 namespace {
 
-const QStringList kinds{QStringLiteral("whole"),   QStringLiteral("real"),   QStringLiteral("switch"),
-                        QStringLiteral("choice"),  QStringLiteral("colour"), QStringLiteral("text"),
-                        QStringLiteral("numbers"), QStringLiteral("points")};
 const QStringList panels{QStringLiteral("both"), QStringLiteral("properties"), QStringLiteral("settings"),
                          QStringLiteral("none")};
 /// Behind "SVG_" keys of saved shapes, behind "id" controls of the panel.
@@ -93,10 +91,7 @@ void FileReader::readProperties()
 
 void FileReader::readProperty(const Element &element)
 {
-    checkNames(element,
-               {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("value"), QStringLiteral("from"),
-                QStringLiteral("to"), QStringLiteral("step"), QStringLiteral("count"), QStringLiteral("title"),
-                QStringLiteral("panel"), QStringLiteral("was")});
+    checkNames(element);
     const Attribute *name = element.attribute(QStringLiteral("name"));
     const Attribute *type = element.attribute(QStringLiteral("type"));
     if (!name || !type) {
@@ -106,7 +101,7 @@ void FileReader::readProperty(const Element &element)
     }
     PropertyDeclaration property;
     int kind = 0;
-    if (!readChoice(type, kinds, kind, "C13"))
+    if (!readChoice(type, propertyTypes(), kind, "C13"))
         return;
     property.name = name->value;
     property.kind = PropertyDeclaration::Kind(kind);
@@ -167,7 +162,7 @@ void FileReader::readFormer(const Element &element, PropertyDeclaration &propert
     const QStringList entries = was->value.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &entry : entries) {
         const QString name = entry.section(QLatin1Char(':'), 0, 0);
-        const int kind = kinds.indexOf(entry.section(QLatin1Char(':'), 1));
+        const int kind = propertyTypes().indexOf(entry.section(QLatin1Char(':'), 1));
         if (!isName(name) || kind < 0) {
             error("C47", *was, QStringLiteral("\"%1\" is no \"name:type\" of a property").arg(entry));
             return;
@@ -177,7 +172,7 @@ void FileReader::readFormer(const Element &element, PropertyDeclaration &propert
             error("C47", *was, QStringLiteral("a value of \"%1\" can't become one of this property").arg(entry));
             return;
         }
-        property.former.append({name, former, propertyId(kinds.at(kind), name)});
+        property.former.append({name, former, propertyId(propertyTypes().at(kind), name)});
     }
 }
 
@@ -302,7 +297,7 @@ void FileReader::readEntries(const Element &element, PropertyDeclaration &proper
         if (content.element < 0 || !isShape(m_elements.at(content.element), "entry"))
             continue;
         const Element &entry = m_elements.at(content.element);
-        checkNames(entry, {QStringLiteral("name"), QStringLiteral("title")});
+        checkNames(entry);
         const Attribute *name = entry.attribute(QStringLiteral("name"));
         if (!name || name->value.isEmpty() || property.entries.contains(name->value)) {
             error("C16", entry, QStringLiteral("an entry needs a name of its own"));

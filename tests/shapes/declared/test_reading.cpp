@@ -2,11 +2,6 @@
 
 #include "shapefile.h"
 
-#include <declared/expressions/functions.h>
-
-#include <QtCore/QDirIterator>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QSet>
 #include <QtTest/QtTest>
 
 using namespace declared;
@@ -39,11 +34,6 @@ private Q_SLOTS:
     void hashIgnoresWhatMakesNoDifference();
     void hashTellsFilesApart();
     void missingEnglishIsAWarning();
-    void shapeOfTheGuideIsAShape();
-    void referenceListsEveryFunction();
-    void documentsListEveryCode_data();
-    void documentsListEveryCode();
-    void referenceListsEveryAttributeOfTheFigure();
 };
 
 void TestReading::smallestFileIsAShape()
@@ -333,84 +323,6 @@ void TestReading::missingEnglishIsAWarning()
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages.first().code, QStringLiteral("C48"));
     QVERIFY(messages.first().severity == Message::Warning);
-}
-
-namespace {
-
-QString documentText(const char *name)
-{
-    QFile file(QStringLiteral(DOCUMENT_FOLDER "/%1").arg(QLatin1String(name)));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-} // namespace
-
-void TestReading::shapeOfTheGuideIsAShape()
-{
-    const QString guide = documentText("shape-author.md");
-    const QString snippet = guide.section(QStringLiteral("```xml\n"), 1, 1).section(QStringLiteral("```"), 0, 0);
-    QVector<Message> messages;
-    const SharedDeclaration shape = readOf(snippet.toUtf8(), &messages);
-    QVERIFY(shape);
-    QVERIFY(messages.isEmpty());
-    QCOMPARE(shape->name.value(QStringLiteral("en")), QStringLiteral("Price tag"));
-    QCOMPARE(shape->elements.size(), 2);
-}
-
-void TestReading::referenceListsEveryFunction()
-{
-    const QString reference = documentText("shape-reference.md");
-    const QStringList names = builtinNames();
-    QVERIFY(names.size() > 30);
-    for (const QString &name : names)
-        QVERIFY2(reference.contains(QLatin1Char('`') + name + QLatin1Char('(')), qPrintable(name));
-}
-
-void TestReading::documentsListEveryCode_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("document");
-    QTest::addColumn<int>("count");
-    QTest::newRow("declared") << "shapes/declared"
-                              << "shape-reference.md" << 52;
-    QTest::newRow("kit") << "kit/src"
-                         << "shape-author.md" << 11;
-}
-
-void TestReading::documentsListEveryCode()
-{
-    QFETCH(QString, folder);
-    QFETCH(QString, document);
-    static const QRegularExpression code(QStringLiteral("\"([CK]\\d\\d)\""));
-    QSet<QString> codes;
-    QDirIterator files(QStringLiteral(DOCUMENT_FOLDER "/../") + folder, {QStringLiteral("*.cpp")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        QFile file(files.next());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QRegularExpressionMatchIterator found = code.globalMatch(QString::fromUtf8(file.readAll()));
-        while (found.hasNext())
-            codes.insert(found.next().captured(1));
-    }
-    QTEST(codes.size(), "count");
-    const QString text = documentText(qPrintable(document));
-    for (const QString &name : qAsConst(codes))
-        QVERIFY2(text.contains(QStringLiteral("\n| %1 | ").arg(name)), qPrintable(name));
-}
-
-void TestReading::referenceListsEveryAttributeOfTheFigure()
-{
-    QFile file(QStringLiteral(DOCUMENT_FOLDER "/../shapes/declared/reader/elementreading.cpp"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    static const QRegularExpression form(QStringLiteral("\n    \\{\"([A-Za-z0-9-]+)\", \""));
-    QRegularExpressionMatchIterator forms = form.globalMatch(QString::fromUtf8(file.readAll()));
-    const QString reference = documentText("shape-reference.md");
-    int count = 0;
-    for (; forms.hasNext(); ++count) {
-        const QString name = forms.next().captured(1);
-        QVERIFY2(reference.contains(QLatin1Char('`') + name + QLatin1Char('`')), qPrintable(name));
-    }
-    QVERIFY(count > 40);
 }
 
 QTEST_MAIN(TestReading)
