@@ -50,7 +50,7 @@ QVector<QStringList> rowsOf(const QString &section)
     return rows;
 }
 
-/// What stands between backticks.
+/// Texts between backticks.
 QStringList quotedIn(const QString &cell)
 {
     static const QRegularExpression form(QStringLiteral("`([^`]+)`"));

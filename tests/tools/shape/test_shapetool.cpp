@@ -83,6 +83,7 @@ private Q_SLOTS:
     void iconThatIsNoSvgIsLeftOut();
     void previewDrawsAPicture();
     void previewDrawsASheet();
+    void pictureOfTheGuideIsThatOfItsShape();
     void checkFindsPlantedFaults_data();
     void checkFindsPlantedFaults();
     void checkOfNothingCouldNotRun();
@@ -424,6 +425,26 @@ void TestShapeTool::previewDrawsASheet()
              0);
     // Five columns of sizes; rows of sizes, mirrored forms and the extremes of one control point, 184 pixels each.
     QCOMPARE(QImage(path(QStringLiteral("sheet.png"))).size(), QSize(5 * 184, 3 * 184));
+}
+
+/// docs/images/refresh draws it anew.
+void TestShapeTool::pictureOfTheGuideIsThatOfItsShape()
+{
+    const QByteArray guide = read(QStringLiteral(EXAMPLE_FOLDER "/../../docs/shape-author.md"));
+    QVERIFY(guide.contains("(images/tag.png)"));
+    const QString snippet =
+        QString::fromUtf8(guide).section(QStringLiteral("```xml\n"), 1, 1).section(QStringLiteral("```"), 0, 0);
+    write(path(QStringLiteral("tag.shape.svg")), snippet.toUtf8());
+    const Run check = run({QStringLiteral("check"), path(QStringLiteral("tag.shape.svg"))});
+    QCOMPARE(check.output, QString());
+    QCOMPARE(run({QStringLiteral("preview"), path(QStringLiteral("tag.shape.svg")), QStringLiteral("--sheet"),
+                  path(QStringLiteral("tag.png"))})
+                 .exitCode,
+             0);
+    const QImage drawn(path(QStringLiteral("tag.png")));
+    const QImage shown(QStringLiteral(EXAMPLE_FOLDER "/../../docs/images/tag.png"));
+    QVERIFY(!shown.isNull());
+    QCOMPARE(drawn, shown.convertToFormat(drawn.format()));
 }
 
 void TestShapeTool::checkFindsPlantedFaults_data()
