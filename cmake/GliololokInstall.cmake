@@ -22,6 +22,12 @@ if(GLIOLOLOK_REFERENCE_HOST)
             COMPONENT development)
 endif()
 
+# Documents and examples, in folders that keep the links between them.
+if(GLIOLOLOK_REFERENCE_HOST)
+    install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT tools
+            PATTERN refresh EXCLUDE PATTERN abi.txt EXCLUDE)
+endif()
+
 # The file derives its prefix from its own location, so that an installation can be moved.
 if(GLIOLOLOK_REFERENCE_HOST)
     set(GLIOLOLOK_PC_HOST_LIBRARIES "-lframework -lsvgbase")

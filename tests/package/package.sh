@@ -77,7 +77,8 @@ step_components() {
         "$LIBDIR"/pkgconfig/gliololok.pc include/svgobj/csvgobj.h include/shapekit/shape.h
     installs board bin/gliololok-board
     installs shapes "$LIBDIR"/gliololok/shapes/{declared.so,star.shape.svg}
-    installs tools bin/gliololok-shape share/man/man1/gliololok-shape.1
+    installs tools bin/gliololok-shape share/man/man1/gliololok-shape.1 \
+        share/doc/gliololok/docs/shape-{author,reference}.md share/doc/gliololok/examples/declared/star.shape.svg
     # Every installed file belongs to one of them.
     all=$(cd "$prefix" && find . ! -type d | sort)
     part=$(for component in "$work"/components/*; do (cd "$component" && find . ! -type d); done | sort)

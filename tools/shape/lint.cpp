@@ -12,12 +12,12 @@ using namespace checklist;
 int runLint(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Reads declared shapes (NAME.shape.svg) and templates of shapes in C++, and prints their "
-                       "faults, one per line, as\n"
-                       "file:line:column: severity code: text. docs/shape-reference.md and docs/shape-author.md "
-                       "list the codes.\n\n"
-                       "Exit code: 0 no faults, 1 faults, 2 a file can't be read or the arguments are wrong."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Reads declared shapes (NAME.shape.svg) and templates of shapes in C++, and prints their "
+        "faults, one per line, as\n"
+        "file:line:column: severity code: text. shape-reference.md and shape-author.md list the codes; they "
+        "are installed in\nshare/doc/gliololok/docs.\n\n"
+        "Exit code: 0 no faults, 1 faults, 2 a file can't be read or the arguments are wrong."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print a JSON array of objects."));
     parser.addOption(json);
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The files to read."),

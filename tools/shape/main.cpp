@@ -37,8 +37,11 @@ QString usage()
         text +=
             QStringLiteral("  %1 %2\n      %3\n")
                 .arg(QLatin1String(command.name), QLatin1String(command.arguments), QLatin1String(command.summary));
-    return text + QStringLiteral("\n\"gliololok-shape COMMAND --help\" tells more about a command.\n\n"
-                                 "Exit codes: 0 all is well, 1 there are findings, 2 the command could not run.\n");
+    return text +
+           QStringLiteral(
+               "\n\"gliololok-shape COMMAND --help\" tells more about a command. How a shape is made\n"
+               "is told by shape-author.md and shape-reference.md, installed in share/doc/gliololok/docs.\n\n"
+               "Exit codes: 0 all is well, 1 there are findings, 2 the command could not run.\n");
 }
 
 /// Only a preview in a window needs a display.

@@ -122,7 +122,8 @@ void TestReference::namesAreListed_data()
     const QVector<QStringList> pointRows = rowsOf(QStringLiteral("Control points"));
     for (const QStringList &row : pointRows)
         if (quotedIn(row.at(0)) == QStringList{QStringLiteral("along")})
-            tracks = quotedIn(row.at(1)).replaceInStrings(QRegularExpression(QStringLiteral("\\(.*")), QString());
+            tracks = quotedIn(row.at(1));
+    tracks.replaceInStrings(QRegularExpression(QStringLiteral("\\(.*")), QString());
     QTest::newRow("tracks") << tracks << trackNames();
     const QVector<QStringList> expressionRows = rowsOf(QStringLiteral("Expressions"));
     const QStringList ofPoints{QStringLiteral("p1"), QStringLiteral("p[k]"), QStringLiteral("at")};

@@ -26,10 +26,9 @@ void TestTracks::pointStaysOnItsTrack_data()
     QTest::addColumn<double>("step");
     QTest::addColumn<QPointF>("at");
     QTest::addColumn<QPointF>("lands");
-    const auto row = [](const char *name, TrackDeclaration::Kind kind, const QVector<QPointF> &arguments, double step,
-                        QPointF at, QPointF lands) {
-        QTest::newRow(name) << int(kind) << arguments << step << at << lands;
-    };
+    const auto row = [](const char *name, TrackDeclaration::Kind kind, const QVector<QPointF> &arguments,
+                        double step, QPointF at,
+                        QPointF lands) { QTest::newRow(name) << int(kind) << arguments << step << at << lands; };
     // Numbers stand in x.
     const QVector<QPointF> line{{0, 0}, {100, 0}};
     row("line", TrackDeclaration::Line, line, 0, {30, 40}, {30, 0});
