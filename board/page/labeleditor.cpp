@@ -1,10 +1,13 @@
 #include "page/labeleditor.h"
 
+#include "page/listediting.h"
+
 #include <pagehost/objectplugin.h>
 
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QDataStream>
+#include <QtCore/QMimeData>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGraphicsView>
 
@@ -154,7 +157,36 @@ void LabelEditor::keyPressEvent(QKeyEvent *event)
         finish();
         return;
     }
-    QTextEdit::keyPressEvent(event);
+    if (!m_label.hasManyLines || !editList(*event))
+        QTextEdit::keyPressEvent(event);
+}
+
+bool LabelEditor::editList(const QKeyEvent &event)
+{
+    QTextCursor cursor = textCursor();
+    bool isEdited = false;
+    if (event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && event.key() == Qt::Key_L) {
+        changeList(cursor);
+        return true;
+    }
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        isEdited = !(event.modifiers() & Qt::ShiftModifier) && continueList(cursor);
+    else if (event.key() == Qt::Key_Space)
+        isEdited = beginList(cursor);
+    if (isEdited)
+        setTextCursor(cursor);
+    return isEdited;
+}
+
+bool LabelEditor::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source->hasText() || source->hasHtml();
+}
+
+void LabelEditor::insertFromMimeData(const QMimeData *source)
+{
+    insertPlainText(textOf(*source));
+    ensureCursorVisible();
 }
 
 void LabelEditor::focusOutEvent(QFocusEvent *event)

@@ -30,7 +30,8 @@ QVector<EditableLabel> labelsOf(CBaseObject &object);
 /// Writes a text of an object in its place on the page, with input methods. The object shows and records every
 /// letter; the end makes one step to take back.
 ///
-/// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line.
+/// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line. In
+/// other texts there are lists (page/listediting.h). Pasted text loses its formats but for lists.
 class LabelEditor : public QTextEdit
 {
     Q_OBJECT
@@ -50,8 +51,11 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    bool editList(const QKeyEvent &event);
     void type(const QString &text, bool record);
     void takePlace();
     void followLabel();

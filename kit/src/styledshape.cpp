@@ -448,7 +448,8 @@ QRectF StyledShape::paintedBoundsOf(const QZeSvgNode &node)
     if (node.type() != QZeSvgNode::Group)
         return paintedBounds(node, reachOfLine(node));
     QRectF painted;
-    for (const QZeSvgNode *child : static_cast<const QZeSvgStructureNode &>(node).children())
+    const QList<QZeSvgNode *> children = static_cast<const QZeSvgStructureNode &>(node).children();
+    for (const QZeSvgNode *child : children)
         painted |= paintedBoundsOf(*child);
     return painted;
 }

@@ -1,5 +1,7 @@
 #include "text/core/textlayout.h"
 
+#include <pagehost/listmark.h>
+
 #include <QtGui/QFont>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
@@ -30,7 +32,8 @@ QFont fontOf(const TextLook &look)
 struct MeasuredLine
 {
     QString text;
-    double width = 0; ///< layout pixels
+    double width = 0;  ///< layout pixels
+    double indent = 0; ///< layout pixels
 };
 
 QVector<MeasuredLine> linesOf(const TextLook &look, const QFont &font, double lineWidth)
@@ -42,11 +45,16 @@ QVector<MeasuredLine> linesOf(const TextLook &look, const QFont &font, double li
         QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
         option.setWrapMode(look.wrapWidth > 0 ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
         layout.setTextOption(option);
+        // Further lines of an item of a list begin below its text.
+        const bool hangs = look.alignment == Alignment::Left;
+        const double hang = hangs ? QFontMetricsF(font).horizontalAdvance(pagehost::listMark(paragraph)) : 0;
+        double indent = 0;
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid() && lines.size() < mostLines;
              line = layout.createLine()) {
-            line.setLineWidth(lineWidth);
-            lines.append({paragraph.mid(line.textStart(), line.textLength()), line.naturalTextWidth()});
+            line.setLineWidth(std::max(lineWidth - indent, 1.0));
+            lines.append({paragraph.mid(line.textStart(), line.textLength()), line.naturalTextWidth(), indent});
+            indent = hang;
         }
         layout.endLayout();
     }
@@ -64,14 +72,15 @@ TextLayout layOut(const TextLook &look)
     const QVector<MeasuredLine> lines = linesOf(look, font, wraps ? look.wrapWidth / scale : unlimited);
     double width = emptyWidth * look.fontSize;
     for (const MeasuredLine &line : lines)
-        width = std::max(width, line.width * scale);
+        width = std::max(width, (line.indent + line.width) * scale);
     if (wraps)
         width = std::max(emptyWidth * look.fontSize, look.wrapWidth);
     const double x = look.alignment == Alignment::Left ? 0 : look.alignment == Alignment::Right ? width : width / 2;
     TextLayout layout;
     layout.size = {width, lines.size() * metrics.height() * scale};
     for (int i = 0; i < lines.size(); ++i)
-        layout.lines.append({lines.at(i).text, {x, (i * metrics.height() + metrics.ascent()) * scale}});
+        layout.lines.append({lines.at(i).text,
+                             {x + lines.at(i).indent * scale, (i * metrics.height() + metrics.ascent()) * scale}});
     return layout;
 }
 

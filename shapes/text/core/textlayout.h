@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointF>
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
 #include <QtCore/QVector>

@@ -13,7 +13,10 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QMimeData>
 #include <QtCore/QSettings>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -60,6 +63,12 @@ private Q_SLOTS:
     void aClickElsewhereEndsTheText();
     void theEditorGrowsWithTheText();
     void aKeptToolWritesTheNextText();
+    void aHyphenAndASpaceBeginAList();
+    void theReturnKeyContinuesAList();
+    void itemsAreNumberedAnew();
+    void aKeyChangesTheKindOfList();
+    void pastedListsKeepTheirMarks();
+    void pastedTextLosesItsFormats();
 };
 
 void TestTextWriting::aClickAndKeysMakeAText()
@@ -162,6 +171,99 @@ void TestTextWriting::aKeptToolWritesTheNextText()
     QCOMPARE(desk.written(0), QString("Light"));
     QCOMPARE(desk.written(1), QString("Shadow"));
     QCOMPARE(desk.tools().tool(), Tool::Text);
+}
+
+void TestTextWriting::aHyphenAndASpaceBeginAList()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("- Light");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("a - b");
+    desk.end();
+    QCOMPARE(desk.written(0), QString::fromUtf8("• Light\n• a - b"));
+}
+
+void TestTextWriting::theReturnKeyContinuesAList()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("9. Light");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("Shadow");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    QCOMPARE(desk.written(0), QString("9. Light\n10. Shadow\n11. "));
+    // An item without text ends the list.
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("End");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("of it");
+    desk.end();
+    QCOMPARE(desk.written(0), QString("9. Light\n10. Shadow\nEnd\nof it"));
+    QCOMPARE(desk.history().count(), 1);
+}
+
+void TestTextWriting::itemsAreNumberedAnew()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("1. one");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("three");
+    QTest::keyClick(desk.editor(), Qt::Key_Up);
+    QTest::keyClick(desk.editor(), Qt::Key_End);
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("two");
+    desk.end();
+    QCOMPARE(desk.written(0), QString("1. one\n2. two\n3. three"));
+}
+
+void TestTextWriting::aKeyChangesTheKindOfList()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("one");
+    QTest::keyClick(desk.editor(), Qt::Key_Return);
+    desk.type("two");
+    QTest::keyClick(desk.editor(), Qt::Key_A, Qt::ControlModifier);
+    const auto change = [&desk] {
+        QTest::keyClick(desk.editor(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+        return desk.written(0);
+    };
+    QCOMPARE(change(), QString::fromUtf8("• one\n• two"));
+    QCOMPARE(change(), QString("1. one\n2. two"));
+    QCOMPARE(change(), QString("one\ntwo"));
+    desk.end();
+}
+
+void TestTextWriting::pastedListsKeepTheirMarks()
+{
+    Desk desk;
+    desk.click({500, 300});
+    auto *copied = new QMimeData;
+    copied->setHtml(
+        "<p>Needed:</p><ul><li>a <b>lamp</b></li><li>a lens</li></ul><ol><li>dim</li><li>look</li></ol>");
+    QGuiApplication::clipboard()->setMimeData(copied);
+    QTest::keyClick(desk.editor(), Qt::Key_V, Qt::ControlModifier);
+    desk.end();
+    QCOMPARE(desk.written(0), QString::fromUtf8("Needed:\n• a lamp\n• a lens\n1. dim\n2. look"));
+}
+
+void TestTextWriting::pastedTextLosesItsFormats()
+{
+    Desk desk;
+    desk.click({500, 300});
+    auto *copied = new QMimeData;
+    copied->setHtml("<h1>Light</h1>is<br><i>fast</i>&nbsp;<img src=\"x.png\">");
+    copied->setText("unused");
+    QGuiApplication::clipboard()->setMimeData(copied);
+    QTest::keyClick(desk.editor(), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(desk.written(0), QString("Light\nis\nfast "));
+    QTest::keyClick(desk.editor(), Qt::Key_A, Qt::ControlModifier);
+    QGuiApplication::clipboard()->setText("<b>plain</b>");
+    QTest::keyClick(desk.editor(), Qt::Key_V, Qt::ControlModifier);
+    desk.end();
+    QCOMPARE(desk.written(0), QString("<b>plain</b>"));
 }
 
 QTEST_MAIN(TestTextWriting)

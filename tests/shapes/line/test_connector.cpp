@@ -208,7 +208,8 @@ void TestConnector::theWayIsChangedInThePanel()
     Desk desk(pagehost::StraightConnector, farRight);
     CBaseObject *connector = desk.connectBoth();
     const QByteArray before = savedState(connector);
-    QDataStream angled(QByteArray("\0\0\0\1", 4));
+    QByteArray bytes("\0\0\0\1", 4);
+    QDataStream angled(&bytes, QIODevice::ReadWrite);
     QVERIFY(connector->SetAttribute(wayProperty, angled, true));
     QCOMPARE(cornersOf(connector), (QVector<QPointF>{{199, 130}, {300, 130}, {300, 330}, {401, 330}}));
     QCOMPARE(desk.placeOf(connector), QRectF(191, 122, 218, 216));

@@ -41,6 +41,9 @@ private Q_SLOTS:
     void boldLettersAreWider();
     void theAlignmentIsThatOfTheAnchors();
     void endlessTextsHaveAnEnd();
+    void brokenItemsHangUnderTheirText_data();
+    void brokenItemsHangUnderTheirText();
+    void onlyMarksAtTheLeftMakeLinesHang();
 };
 
 void TestTextLayout::aTextBreaksWhereTheUserBreaksIt()
@@ -101,6 +104,40 @@ void TestTextLayout::theAlignmentIsThatOfTheAnchors()
 void TestTextLayout::endlessTextsHaveAnEnd()
 {
     QCOMPARE(layOut(lookOf(QString(5000, QLatin1Char('\n')))).lines.size(), 1000);
+}
+
+void TestTextLayout::brokenItemsHangUnderTheirText_data()
+{
+    QTest::addColumn<QString>("mark");
+    QTest::newRow("bullet") << QStringLiteral("\u2022 ");
+    QTest::newRow("number") << QStringLiteral("12. ");
+}
+
+/// In document units: fonts are 24 high, and measured at 100.
+void TestTextLayout::brokenItemsHangUnderTheirText()
+{
+    QFETCH(QString, mark);
+    QFont font(QStringLiteral("sans-serif"));
+    font.setPixelSize(100);
+    const double hang = QFontMetricsF(font).horizontalAdvance(mark) * 24 / 100;
+    QVERIFY(hang > 0);
+    const double oneWord = layOut(lookOf("wonderful")).size.width();
+    const TextLayout layout = layOut(lookOf(mark + "wonderful wonderful\nnext", oneWord * 1.8));
+    QCOMPARE(textsOf(layout), QStringList({mark + "wonderful", "wonderful", "next"}));
+    QCOMPARE(layout.lines[0].anchor.x(), 0.0);
+    QCOMPARE(layout.lines[1].anchor.x(), hang);
+    QCOMPARE(layout.lines[2].anchor.x(), 0.0);
+}
+
+void TestTextLayout::onlyMarksAtTheLeftMakeLinesHang()
+{
+    const double oneWord = layOut(lookOf("wonderful")).size.width();
+    const QString bullet = QStringLiteral("\u2022 ");
+    TextLook centred = lookOf(bullet + "wonderful wonderful", oneWord * 1.8);
+    centred.alignment = text::Alignment::Middle;
+    QCOMPARE(layOut(centred).lines[1].anchor.x(), oneWord * 0.9);
+    QCOMPARE(layOut(lookOf("1234. wonderful wonderful", oneWord * 1.8)).lines[1].anchor.x(), 0.0);
+    QCOMPARE(layOut(lookOf("1.wonderful wonderful", oneWord * 1.8)).lines[1].anchor.x(), 0.0);
 }
 
 QTEST_MAIN(TestTextLayout)
