@@ -83,7 +83,11 @@ void ContextMenus::openAt(const QPoint &pos)
     pagehost::Page *page = m_view->page();
     if (!page || !m_view->isEditable() || page->scene()->isDragging())
         return;
-    CBaseObject *object = page->scene()->gripAt(m_view->mapToScene(pos)).object;
+    const QPointF scenePos = m_view->mapToScene(pos);
+    CBaseObject *object = page->scene()->gripAt(scenePos).object;
+    // Other clicks pass through locked objects.
+    if (!object)
+        object = page->objectAt(scenePos);
     if (!object)
         page->select({});
     else if (!page->selectedObjects().contains(object))

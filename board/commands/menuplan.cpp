@@ -55,11 +55,19 @@ MenuPlan arrangePlan()
             Command::TurnLeft, Command::TurnRight, separator(), Command::Lock};
 }
 
+MenuEntry paperMenu()
+{
+    return {"IDS_BOARD_PAPER",
+            {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper, Command::DottedPaper,
+             Command::MusicPaper, Command::MillimetrePaper}};
+}
+
 MenuPlan pagePlan()
 {
     return {Command::AddPage,      Command::DuplicatePage, Command::RemovePage, separator(),
-            Command::MovePageBack, Command::MovePageOn,    separator(),         Command::PreviousPage,
-            Command::NextPage,     Command::FirstPage,     Command::LastPage};
+            Command::MovePageBack, Command::MovePageOn,    separator(),         paperMenu(),
+            separator(),           Command::PreviousPage,  Command::NextPage,   Command::FirstPage,
+            Command::LastPage};
 }
 
 MenuEntry colorMenu()
@@ -143,8 +151,9 @@ MenuPlan objectMenuPlan()
 
 MenuPlan pageMenuPlan()
 {
-    return {Command::Paste, Command::InsertAnything, Command::SelectAll, separator(),
-            Command::Grid,  Command::Snapping,       separator(),        Command::AddPage};
+    return {Command::Paste,  Command::InsertAnything, Command::SelectAll, separator(),
+            Command::Grid,   Command::Snapping,       separator(),        paperMenu(),
+            Command::AddPage};
 }
 
 MenuPlan thumbnailMenuPlan()

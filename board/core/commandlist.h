@@ -60,6 +60,12 @@ enum class Command {
     NextPage,
     FirstPage,
     LastPage,
+    BlankPaper,
+    RuledPaper,
+    SquaredPaper,
+    DottedPaper,
+    MusicPaper,
+    MillimetrePaper,
 
     SelectTool,
     PenTool,

@@ -2,6 +2,7 @@
 
 #include "core/notices.h"
 #include "core/workspace.h"
+#include "documents/droppeddocument.h"
 #include "documents/freenames.h"
 #include "documents/savefolders.h"
 
@@ -97,6 +98,10 @@ void DocumentController::open(const QString &file)
 bool DocumentController::openNow(const QString &file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
+    if (isPdf(path)) {
+        Q_EMIT worksheetChosen(path);
+        return true;
+    }
     pagehost::OpenResult result = pagehost::openDocument(path, m_workspace->registry());
     if (!result.document) {
         m_recent.remove(path);

@@ -68,6 +68,8 @@ Q_SIGNALS:
     /// Name, file or isModified() may be others.
     void stateChanged();
     void saved(const QString &file);
+    /// A PDF was opened, whose pages belong on pages of the document.
+    void worksheetChosen(const QString &file);
 
 private:
     /// The file that a save expects to replace; nothing when it may replace any.

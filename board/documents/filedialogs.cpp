@@ -54,6 +54,7 @@ void FileDialogs::askForFileToOpen(const QString &folder, const TakeFile &take) 
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({filterOf(m_workspace->text("IDS_BOARD_ALL_BOARDS"),
                                      {QStringLiteral("*.") + binarySuffix, QStringLiteral("*.") + jsonSuffix}),
+                            filterOf(m_workspace->text("IDS_BOARD_WORKSHEETS"), {QStringLiteral("*.pdf")}),
                             filterOf(m_workspace->text("IDS_BOARD_ALL_FILES"), {QStringLiteral("*")})});
     QObject::connect(dialog, &QFileDialog::fileSelected, m_window, take);
     dialog->open();

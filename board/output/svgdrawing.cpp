@@ -5,6 +5,7 @@
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagepainter.h>
+#include <pagehost/paper.h>
 
 #include <framework/cbaseobject.h>
 
@@ -61,12 +62,14 @@ public:
         const CPageBgProp &background = page->background();
         if (!background.isFillEnable())
             return;
-        if (background.fillType() != CPageBgProp::SolidFill)
+        const pagehost::Paper paper = pagehost::paperOf(background);
+        if (background.fillType() != CPageBgProp::SolidFill && paper == pagehost::Paper::Blank)
             return addPicture(page);
         m_out.writeEmptyElement(QStringLiteral("rect"));
         addSize(page->size());
         m_out.writeAttribute(QStringLiteral("fill"), background.fillColor().name());
         m_out.writeAttribute(QStringLiteral("fill-opacity"), numbers({background.opacity() / 255.0}));
+        addPaper(pagehost::paperLines(paper, page->size(), background.fillColor()), background.opacity() / 255.0);
     }
 
     bool add(CBaseObject *object, const QByteArray &look)
@@ -91,6 +94,22 @@ public:
     }
 
 private:
+    void addPaper(const QVector<pagehost::PaperLines> &papers, double opacity)
+    {
+        for (const pagehost::PaperLines &paper : papers) {
+            QString path;
+            for (const QLineF &line : paper.lines)
+                path +=
+                    QStringLiteral("M%1L%2").arg(numbers({line.x1(), line.y1()}), numbers({line.x2(), line.y2()}));
+            m_out.writeEmptyElement(QStringLiteral("path"));
+            m_out.writeAttribute(QStringLiteral("d"), path);
+            m_out.writeAttribute(QStringLiteral("stroke"), paper.color.name());
+            m_out.writeAttribute(QStringLiteral("stroke-opacity"), numbers({paper.color.alphaF() * opacity}));
+            m_out.writeAttribute(QStringLiteral("stroke-width"), numbers({paper.width}));
+            m_out.writeAttribute(QStringLiteral("stroke-linecap"), QStringLiteral("round"));
+        }
+    }
+
     void addSize(const QSizeF &size)
     {
         m_out.writeAttribute(QStringLiteral("width"), numbers({size.width()}));

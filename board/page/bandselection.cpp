@@ -60,7 +60,8 @@ void BandSelection::selectTouched()
     const QVector<CBaseObject *> objects = m_page->objects();
     for (CBaseObject *object : objects) {
         // The rectangles decide most cases, and cheaply.
-        const bool touched = object->isVisible() && object->sceneBoundingRect().intersects(area.boundingRect()) &&
+        const bool touched = object->isVisible() && !object->isLocked() &&
+                             object->sceneBoundingRect().intersects(area.boundingRect()) &&
                              object->mapToScene(object->shape()).intersects(area);
         if (touched && !selected.contains(object))
             selected.append(object);

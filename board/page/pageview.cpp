@@ -90,6 +90,8 @@ void PageView::followPage()
     // Only the hint of an empty page is the view's own; objects ask for repaints themselves.
     connect(m_page, &pagehost::Page::objectAdded, viewport(), QOverload<>::of(&QWidget::update));
     connect(m_page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
+    // The scene leaves out what it takes to be covered.
+    connect(m_page, &pagehost::Page::backgroundChanged, viewport(), QOverload<>::of(&QWidget::update));
     connect(m_page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
     if (m_page->document())

@@ -6,6 +6,8 @@
 #include "panels/colorbutton.h"
 #include "panels/fields/numberfield.h"
 
+#include <pagehost/paper.h>
+
 #include <QtGui/QImageReader>
 #include <QtGui/QPainter>
 #include <QtWidgets/QButtonGroup>
@@ -58,8 +60,11 @@ QIcon patternIcon(Qt::BrushStyle pattern)
     return QIcon(picture);
 }
 
+/// Paper is a plain fill with lines.
 int shownType(const CPageBgProp &fill)
 {
+    if (pagehost::paperOf(fill) != pagehost::Paper::Blank)
+        return CPageBgProp::SolidFill;
     return fill.isFillEnable() ? fill.fillType() : static_cast<int>(CPageBgProp::NoFill);
 }
 
@@ -246,6 +251,8 @@ void FillControls::setType(int type)
     m_fill.setFillEnable(type != CPageBgProp::NoFill);
     if (type != CPageBgProp::NoFill)
         m_fill.setFillType(type);
+    if (pagehost::isPaperPattern(m_fill.pattern()))
+        m_fill.setPattern(patterns.front());
     refresh();
     Q_EMIT fillPicked(m_fill);
 }

@@ -50,6 +50,26 @@ QVBoxLayout *columnIn(QWidget *part)
     return column;
 }
 
+/// Buttons of commands, which have no number to type.
+QWidget *makeButtonRow(const Commands &commands, const QVector<Command> &shown)
+{
+    auto *part = new QWidget;
+    auto *layout = new QHBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(smallGap);
+    for (const Command command : shown) {
+        auto *button = new QToolButton(part);
+        button->setDefaultAction(commands.action(command));
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        button->setIconSize(QSize(barIconSide, barIconSide));
+        button->setFixedSize(barButtonSide, barButtonSide);
+        button->setFocusPolicy(Qt::TabFocus);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+    return part;
+}
+
 } // namespace
 
 StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent)
@@ -71,10 +91,15 @@ StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, New
     look->addWidget(m_forNewOnes);
     QVBoxLayout *place = columnIn(m_placeSection->content());
     place->addWidget(m_place);
-    place->addWidget(makeArrangeRow(*commands));
+    place->addWidget(makeButtonRow(*commands, {Command::TurnLeft, Command::TurnRight, Command::MirrorAcross,
+                                               Command::MirrorUp, Command::Lock}));
     QVBoxLayout *column = columnIn(this);
     column->addWidget(m_lookSection);
     column->addWidget(m_placeSection);
+    m_paperPart =
+        addPart(column, "IDS_BOARD_PAPER",
+                makeButtonRow(*commands, {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper,
+                                          Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper}));
     m_backgroundSection = addPart(column, "IDS_BOARD_BACKGROUND", m_background);
     m_lookSection->remember(QStringLiteral("look"), true);
     m_placeSection->remember(QStringLiteral("place"), true);
@@ -93,27 +118,6 @@ QWidget *StylePanel::addPart(QBoxLayout *column, const char *titleKey, QWidget *
     layout->addWidget(caption);
     layout->addWidget(content);
     column->addWidget(part);
-    return part;
-}
-
-/// Commands that have no number to type.
-QWidget *StylePanel::makeArrangeRow(const Commands &commands)
-{
-    auto *part = new QWidget;
-    auto *row = new QHBoxLayout(part);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(smallGap);
-    for (const Command command :
-         {Command::TurnLeft, Command::TurnRight, Command::MirrorAcross, Command::MirrorUp, Command::Lock}) {
-        auto *button = new QToolButton(part);
-        button->setDefaultAction(commands.action(command));
-        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-        button->setIconSize(QSize(barIconSide, barIconSide));
-        button->setFixedSize(barButtonSide, barButtonSide);
-        button->setFocusPolicy(Qt::TabFocus);
-        row->addWidget(button);
-    }
-    row->addStretch();
     return part;
 }
 
@@ -208,6 +212,7 @@ void StylePanel::refresh()
     const bool any = !objects.isEmpty();
     m_lookSection->setVisible(any);
     m_placeSection->setVisible(any);
+    m_paperPart->setVisible(!any);
     m_backgroundSection->setVisible(!any);
     if (any) {
         showObjects(objects);

@@ -36,7 +36,6 @@ public:
 
 private:
     QWidget *addPart(QBoxLayout *column, const char *titleKey, QWidget *content);
-    QWidget *makeArrangeRow(const Commands &commands);
     void useForNewOnes(bool use);
     void showNewLook();
     void connectControls();
@@ -54,6 +53,7 @@ private:
     NewLook *m_newLook;
     QCheckBox *m_forNewOnes;
     QWidget *m_fillPart = nullptr;
+    QWidget *m_paperPart = nullptr;
     FoldingSection *m_lookSection;
     FoldingSection *m_placeSection;
     QWidget *m_backgroundSection;

@@ -4,6 +4,70 @@
 <context>
     <name>board</name>
     <message>
+        <source>Add worksheet</source>
+        <translation>Arbeitsblatt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Worksheets</source>
+        <translation>Arbeitsblätter</translation>
+    </message>
+    <message>
+        <source>Reading “%1” …</source>
+        <translation>„%1“ wird gelesen …</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read: install “poppler-utils”, which turns PDFs into pages.</source>
+        <translation>„%1“ konnte nicht gelesen werden: Installieren Sie „poppler-utils“, das aus PDFs Seiten macht.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read: it is damaged, locked with a password, or too large.</source>
+        <translation>„%1“ konnte nicht gelesen werden: Die Datei ist beschädigt, mit einem Kennwort geschützt oder zu groß.</translation>
+    </message>
+    <message>
+        <source>“%1” has more than 100 pages. Save those that you need as a PDF of their own.</source>
+        <translation>„%1“ hat mehr als 100 Seiten. Speichern Sie die benötigten als eigenes PDF.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read: a page of it takes more than 30 seconds.</source>
+        <translation>„%1“ konnte nicht gelesen werden: Eine Seite braucht mehr als 30 Sekunden.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Blank paper</source>
+        <translation>Leeres Papier</translation>
+    </message>
+    <message>
+        <source>Ruled paper</source>
+        <translation>Liniertes Papier</translation>
+    </message>
+    <message>
+        <source>Squared paper</source>
+        <translation>Kariertes Papier</translation>
+    </message>
+    <message>
+        <source>Dotted paper</source>
+        <translation>Gepunktetes Papier</translation>
+    </message>
+    <message>
+        <source>Music paper</source>
+        <translation>Notenpapier</translation>
+    </message>
+    <message>
+        <source>Millimetre paper</source>
+        <translation>Millimeterpapier</translation>
+    </message>
+    <message>
+        <source>lined lines writing background</source>
+        <translation>Linien Zeilen Schreiben Hintergrund</translation>
+    </message>
+    <message>
+        <source>grid checked mathematics background</source>
+        <translation>Kästchen Raster Mathematik Hintergrund</translation>
+    </message>
+    <message>
         <source>Look</source>
         <translation>Aussehen</translation>
     </message>

@@ -2,6 +2,7 @@
 
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
+#include "clipboard/worksheets.h"
 #include "commands/contextmenus.h"
 #include "commands/helpcommands.h"
 #include "commands/menuplan.h"
@@ -10,6 +11,7 @@
 #include "core/commands.h"
 #include "core/newlook.h"
 #include "core/notices.h"
+#include "core/paperactions.h"
 #include "core/pluginfolders.h"
 #include "core/toolchoice.h"
 #include "core/toolcommands.h"
@@ -97,6 +99,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_recovery(new Recovery(workspace, m_documents, m_notices, this))
     , m_clipboard(new ClipboardController(workspace, m_view, m_notices, this))
     , m_clipboardMenu(new ClipboardMenu(m_commands, m_clipboard, m_view, this))
+    , m_worksheets(new Worksheets(workspace, m_notices, this))
     , m_lessons(new LessonController(workspace, m_notices, this))
     , m_lessonMenu(new LessonMenu(workspace, m_commands, m_lessons, this))
     , m_lessonBar(new LessonBar(workspace, m_lessons, m_lessonMenu))
@@ -132,6 +135,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectAnimation();
     connectDocument();
     new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
+    new PaperActions(m_commands, m_view, this);
     new FieldUndo(this);
     new ToolCommands(m_commands, m_tools, this);
     new ToolKeys(m_commands, m_tools, m_toolSettings, this);
@@ -421,9 +425,12 @@ void MainWindow::connectParts()
             Qt::QueuedConnection);
     m_documents->setSettle([this] { settle(); });
     connect(m_actions, &Actions::aboutToStep, m_object, &ObjectPanel::settle);
+    connect(m_documents, &DocumentController::worksheetChosen, m_worksheets, &Worksheets::insert);
+    connect(m_worksheets, &Worksheets::inserted, m_view, QOverload<>::of(&QWidget::setFocus));
     connect(m_documents, &DocumentController::stateChanged, this, &MainWindow::showTitle);
-    m_view->setDropTest(
-        [this](const QMimeData &data) { return !droppedDocument(data).isEmpty() || m_clipboard->accepts(data); });
+    m_view->setDropTest([this](const QMimeData &data) {
+        return !droppedDocument(data).isEmpty() || !droppedPdf(data).isEmpty() || m_clipboard->accepts(data);
+    });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
     auto *exporting = new PageExporting(m_workspace, m_documents, m_notices, this);
     connect(m_actions->exportPages, &QAction::triggered, this, [=] { exporting->ask(PageFormat::Png); });
@@ -453,10 +460,13 @@ void MainWindow::showCurrentPage()
 void MainWindow::takeDrop(const QMimeData &data, const QPointF &scenePos)
 {
     const QString file = droppedDocument(data);
-    if (file.isEmpty())
-        m_clipboard->drop(data, scenePos);
-    else
+    const QString worksheet = droppedPdf(data);
+    if (!file.isEmpty())
         m_documents->open(file);
+    else if (!worksheet.isEmpty())
+        m_worksheets->insert(worksheet);
+    else
+        m_clipboard->drop(data, scenePos);
 }
 
 void MainWindow::showSelection()
@@ -534,11 +544,11 @@ void MainWindow::askAndInsert()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilter(m_workspace->text("IDS_BOARD_PICTURES") +
-                          QStringLiteral(" (*.svg *.png *.jpg *.jpeg *.gif *.bmp)"));
+                          QStringLiteral(" (*.svg *.png *.jpg *.jpeg *.gif *.bmp *.pdf)"));
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &file) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(file)});
-        m_clipboard->drop(data, m_view->mapToScene(m_view->viewport()->rect().center()));
+        takeDrop(data, m_view->mapToScene(m_view->viewport()->rect().center()));
     });
     dialog->open();
 }

@@ -45,6 +45,7 @@ class SidePanel;
 class ToolChoice;
 class ToolSettings;
 class TopBar;
+class Worksheets;
 class Workspace;
 
 /// The window: the page with a bar above it and tools at one of its edges. Shapes and the panel open over it or,
@@ -128,6 +129,7 @@ private:
     Recovery *m_recovery;
     ClipboardController *m_clipboard;
     ClipboardMenu *m_clipboardMenu;
+    Worksheets *m_worksheets;
     LessonController *m_lessons;
     LessonMenu *m_lessonMenu;
     LessonBar *m_lessonBar;

@@ -1,5 +1,7 @@
 #include <framework/cpagebgprop.h>
 
+#include <pagehost/paper.h>
+
 #include <host/pngpicture.h>
 
 #include <QtCore/QBuffer>
@@ -34,7 +36,7 @@ bool isFillType(int type)
 
 bool isPatternNumber(int style)
 {
-    return style >= Qt::NoBrush && style <= Qt::DiagCrossPattern;
+    return (style >= Qt::NoBrush && style <= Qt::DiagCrossPattern) || pagehost::isPaperPattern(style);
 }
 
 const QLatin1String followsPageKey("followsPage");

@@ -3,6 +3,7 @@
 #include <framework/cbaseobject.h>
 
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
 
 #include <host/geometry.h>
 #include <host/handlelayout.h>
@@ -75,10 +76,22 @@ Grip exactGrip(CBaseObject *object, const QPointF &scenePos)
     return grip.kind == Grip::ControlPoint ? controlPointGrip(object, scenePos, {}) : grip;
 }
 
+/// The topmost object there that is not locked: clicks pass through the others.
+CBaseObject *freeObjectAt(const Page &page, const QPointF &scenePos)
+{
+    const QList<QGraphicsItem *> items = page.scene()->items(scenePos);
+    for (QGraphicsItem *item : items) {
+        auto *object = dynamic_cast<CBaseObject *>(item);
+        if (object && object->GetPage() == &page && !object->isLocked())
+            return object;
+    }
+    return nullptr;
+}
+
 CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPointF &scenePos)
 {
     for (auto object = selected.rbegin(); object != selected.rend(); ++object)
-        if ((*object)->getClientRect().contains((*object)->mapFromScene(scenePos)))
+        if (!(*object)->isLocked() && (*object)->getClientRect().contains((*object)->mapFromScene(scenePos)))
             return *object;
     return nullptr;
 }
@@ -110,7 +123,7 @@ Grip findGrip(const Page &page, const QPointF &scenePos)
                 return grip;
         }
     }
-    CBaseObject *object = page.objectAt(scenePos);
+    CBaseObject *object = freeObjectAt(page, scenePos);
     if (!object)
         object = selectedAround(selected, scenePos);
     return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}} : Grip();
@@ -124,7 +137,7 @@ QCursor cursorFor(const Grip &grip, bool pressed)
     case Grip::ControlPoint:
         return Qt::CrossCursor;
     case Grip::Body:
-        return grip.object->isLocked() ? Qt::ArrowCursor : Qt::SizeAllCursor;
+        return Qt::SizeAllCursor;
     case Grip::Handle:
         break;
     }

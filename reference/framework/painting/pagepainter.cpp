@@ -3,6 +3,7 @@
 #include <framework/cbaseobject.h>
 
 #include <pagehost/page.h>
+#include <pagehost/paper.h>
 
 #include <QtGui/QPainter>
 
@@ -30,6 +31,23 @@ void paintObject(CBaseObject *object, QPainter *painter)
     painter->restore();
 }
 
+void paintPaper(const Page &page, QPainter *painter, const QRectF &target)
+{
+    const CPageBgProp &background = page.background();
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setClipRect(target, Qt::IntersectClip);
+    painter->setOpacity(painter->opacity() * background.opacity() / 255);
+    painter->translate(target.topLeft());
+    painter->scale(target.width() / page.size().width(), target.height() / page.size().height());
+    const QVector<PaperLines> all = paperLines(paperOf(background), page.size(), background.fillColor());
+    for (const PaperLines &paper : all) {
+        painter->setPen(QPen(paper.color, paper.width, Qt::SolidLine, Qt::RoundCap));
+        painter->drawLines(paper.lines);
+    }
+    painter->restore();
+}
+
 } // namespace
 
 void paintPageBackground(const Page *page, QPainter *painter, const QRectF &target)
@@ -39,6 +57,8 @@ void paintPageBackground(const Page *page, QPainter *painter, const QRectF &targ
                            !background.pixmap().isNull();
     if (!isPicture) {
         painter->fillRect(target, background.createBrushByProp(target, true));
+        if (paperOf(background) != Paper::Blank)
+            paintPaper(*page, painter, target);
         return;
     }
     painter->save();

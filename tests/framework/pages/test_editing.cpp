@@ -22,7 +22,8 @@ private Q_SLOTS:
     void dragOfASelectionMovesAllInOneStep();
     void dragOfAnUnselectedObjectMovesOnlyThatOne();
     void tremblingClickMovesNothing();
-    void lockedObjectIsSelectedButNotMoved();
+    void pressPassesThroughALockedObject();
+    void selectedLockedObjectIsNotMoved();
     void lockedObjectStaysWhenTheSelectionIsMoved();
     void blockedDocumentRefusesEveryDrag();
     void escapePutsAMovedObjectBack();
@@ -167,13 +168,25 @@ void TestEditing::tremblingClickMovesNothing()
     QCOMPARE(undoStack()->count(), 0);
 }
 
-void TestEditing::lockedObjectIsSelectedButNotMoved()
+void TestEditing::pressPassesThroughALockedObject()
+{
+    Editor editor;
+    auto *below = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    auto *locked = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    locked->setLocked(true);
+    editor.drag(QPointF(100, 80), QPointF(110, 90));
+    QVERIFY(!locked->isSelected());
+    QCOMPARE(below->getPos(), QPointF(60, 60));
+    QCOMPARE(locked->getPos(), QPointF(50, 50));
+}
+
+void TestEditing::selectedLockedObjectIsNotMoved()
 {
     Editor editor;
     auto *object = editor.add(QSizeF(100, 60), QPointF(50, 50));
     object->setLocked(true);
+    object->setSelected(true);
     editor.drag(QPointF(100, 80), QPointF(200, 200));
-    QVERIFY(object->isSelected());
     QCOMPARE(object->getPos(), QPointF(50, 50));
     editor.drag(cornerHandle(*object, bottomRight), QPointF(300, 300));
     QCOMPARE(object->getClientRect(), QRectF(0, 0, 100, 60));
