@@ -217,8 +217,9 @@ void PageView::cancel()
     if (m_page->scene()->cancelDrag())
         return;
     if (m_page->scene()->tool())
-        return toolGivenUp();
-    m_page->select({});
+        Q_EMIT toolGivenUp();
+    else
+        m_page->select({});
 }
 
 bool PageView::isEditable() const

@@ -75,7 +75,7 @@ QImage readPicture(const QString &file, QString *problem)
     QSize size = reader.size();
     if (size.width() > largestPictureSide || size.height() > largestPictureSide)
         reader.setScaledSize(size.scaled(largestPictureSide, largestPictureSide, Qt::KeepAspectRatio));
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     *problem = reader.errorString();
     return picture;
 }

@@ -219,7 +219,8 @@ QMenuBar *MainWindow::menus() const
 void MainWindow::showPluginProblems()
 {
     QStringList lines;
-    for (const pagehost::PluginReport &report : m_workspace->pluginProblems())
+    const QVector<pagehost::PluginReport> reports = m_workspace->pluginProblems();
+    for (const pagehost::PluginReport &report : reports)
         lines.append(pluginProblemText(report));
     if (!lines.isEmpty())
         m_notices->add({m_workspace->text("IDS_BOARD_PLUGIN_PROBLEMS"), lines, {}, QStringLiteral("pluginNotice")});
@@ -325,7 +326,8 @@ void MainWindow::addMenus()
 {
     const QStringList spared{QStringLiteral("IDS_BOARD_FILE"), QStringLiteral("IDS_LESSON_MENU"),
                              QStringLiteral("IDS_BOARD_VIEW"), QStringLiteral("IDS_BOARD_HELP")};
-    for (const MenuEntry &entry : mainMenuPlan()) {
+    const MenuPlan plan = mainMenuPlan();
+    for (const MenuEntry &entry : plan) {
         QMenu *menu = m_topBar->addMenu(m_workspace->text(entry.titleKey));
         fillMenu(menu, entry.entries, *m_commands, *m_workspace);
         if (!spared.contains(QLatin1String(entry.titleKey)))
@@ -490,7 +492,8 @@ void MainWindow::describeView()
     if (!page)
         return;
     QStringList selected;
-    for (CBaseObject *object : page->selectedObjects())
+    const QVector<CBaseObject *> objects = page->selectedObjects();
+    for (CBaseObject *object : objects)
         selected.append(m_workspace->text(object->kindName()));
     QString text = m_workspace->text("IDS_BOARD_SEVERAL").arg(page->objectCount());
     if (!selected.isEmpty())
