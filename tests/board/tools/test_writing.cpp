@@ -1,14 +1,17 @@
-// Pen and eraser in the board's window: chosen by key, used with mouse and pen.
+// Pen, eraser and connector in the board's window: chosen by key, used with mouse and pen.
 
 #include "board/boarddriver.h"
+#include "support/virtualtime.h"
 
 #include <core/toolchoice.h>
 #include <page/pageview.h>
 #include <tools/toolsettings.h>
 #include <window/mainwindow.h>
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/pagetool.h>
 
 #include <framework/cbaseobject.h>
 
@@ -65,6 +68,11 @@ private Q_SLOTS:
     void anotherPageIsWrittenOnToo();
     void anotherToolDuringAStrokeTakesItBack();
     void aDoubleClickMakesTwoDots();
+    void aPenThatIsPressedWritesWider();
+    void aPenHeldStillMakesItsStrokeStraight();
+    void theEraserTakesWholeStrokesOrParts();
+    void aConnectorFollowsItsShapes();
+    void pastedConnectorsFollowPastedShapes();
 };
 
 void TestWriting::toolsOfPluginsCanBeChosen()
@@ -167,6 +175,107 @@ void TestWriting::aDoubleClickMakesTwoDots()
     desk.doubleClick({500, 300});
     desk.release({500, 300});
     QCOMPARE(desk.page().objectCount(), 2);
+}
+
+/// Across the stroke; pixels at its edges are less dark.
+void TestWriting::aPenThatIsPressedWritesWider()
+{
+    Desk desk;
+    const auto strokeOf = [&desk](double pressure) {
+        desk.pen(QEvent::TabletPress, {500, 300}, pressure);
+        desk.pen(QEvent::TabletMove, {600, 300}, pressure);
+        desk.pen(QEvent::TabletRelease, {600, 300}, 0);
+        const QImage seen = desk.view().viewport()->grab().toImage();
+        int dark = 0;
+        for (int y = -10; y <= 10; ++y)
+            dark +=
+                QColor(seen.pixel(desk.view().mapFromScene(QPointF(550, 300)) + QPoint(0, y))).lightness() < 128;
+        desk.history().undo();
+        return dark;
+    };
+    const int light = strokeOf(0.1);
+    const int full = strokeOf(1);
+    QVERIFY2(light >= 1 && full >= light + 3, qPrintable(QStringLiteral("%1 %2").arg(light).arg(full)));
+}
+
+void TestWriting::aPenHeldStillMakesItsStrokeStraight()
+{
+    Desk desk;
+    desk.press({500, 300});
+    desk.moveTo({550, 340});
+    desk.moveTo({600, 300});
+    support::pass(400);
+    QCOMPARE(desk.placeOf(desk.stroke()).bottom(), 344.0);
+    support::pass(200);
+    QCOMPARE(desk.placeOf(desk.stroke()), QRectF(496, 296, 108, 8));
+    desk.release({600, 300});
+    QCOMPARE(desk.history().count(), 1);
+}
+
+void TestWriting::theEraserTakesWholeStrokesOrParts()
+{
+    Desk desk;
+    desk.drag({500, 300}, {700, 300});
+    const QRectF whole = desk.placeOf(desk.stroke());
+    desk.key(Qt::Key_E);
+    QCOMPARE(desk.tools().tool(), Tool::Eraser);
+    desk.window().toolSettings()->setVariant(Tool::Eraser, pagehost::StrokeParts);
+    desk.drag({600, 260}, {600, 340});
+    QCOMPARE(desk.page().objectCount(), 2);
+    const QRectF right = desk.placeOf(desk.page().objects().at(0));
+    const QRectF left = desk.placeOf(desk.page().objects().at(1));
+    QVERIFY(left.right() < 600 && right.left() > 600);
+    QCOMPARE(left.united(right), whole);
+    desk.history().undo();
+    QCOMPARE(desk.placeOf(desk.stroke()), whole);
+    desk.window().toolSettings()->setVariant(Tool::Eraser, pagehost::WholeStrokes);
+    desk.drag({600, 260}, {600, 340});
+    QCOMPARE(desk.page().objectCount(), 0);
+    desk.history().undo();
+    QCOMPARE(desk.placeOf(desk.stroke()), whole);
+}
+
+/// The line is 2 wide and has 8 of room; the outlines are 1 inside of their frames.
+void TestWriting::aConnectorFollowsItsShapes()
+{
+    Desk desk;
+    desk.draw(boardtest::rectangle, {500, 300}, {600, 360});
+    desk.draw(boardtest::rectangle, {800, 300}, {900, 360});
+    desk.key(Qt::Key_C);
+    QCOMPARE(desk.tools().tool(), Tool::Connector);
+    desk.drag({550, 330}, {850, 330});
+    QCOMPARE(desk.tools().tool(), Tool::Select);
+    CBaseObject *connector = desk.page().objects().last();
+    QCOMPARE(desk.selection(), QVector<CBaseObject *>{connector});
+    QCOMPARE(desk.placeOf(connector), QRectF(591, 322, 218, 16));
+    desk.key(Qt::Key_Escape);
+    desk.hold({820, 340}, {520, 540});
+    QCOMPARE(desk.placeOf(connector), QRectF(542, 351, 16, 158));
+    desk.release({520, 540});
+    QCOMPARE(desk.history().count(), 4);
+    desk.history().undo();
+    QCOMPARE(desk.placeOf(connector), QRectF(591, 322, 218, 16));
+}
+
+void TestWriting::pastedConnectorsFollowPastedShapes()
+{
+    Desk desk;
+    desk.draw(boardtest::rectangle, {500, 300}, {600, 360});
+    desk.draw(boardtest::rectangle, {800, 300}, {900, 360});
+    desk.key(Qt::Key_C);
+    desk.drag({550, 330}, {850, 330});
+    desk.key(Qt::Key_A, Qt::ControlModifier);
+    desk.key(Qt::Key_C, Qt::ControlModifier);
+    desk.key(Qt::Key_V, Qt::ControlModifier);
+    const QVector<CBaseObject *> objects = desk.page().objects();
+    QCOMPARE(objects.size(), 6);
+    const QPointF offset = objects.at(3)->getPos() - objects.at(0)->getPos();
+    const QRectF pasted = QRectF(591, 322, 218, 16).translated(offset);
+    QCOMPARE(desk.placeOf(objects.at(5)), pasted);
+    // The pasted shape 100 to the right: so much shorter is the pasted connector.
+    QVERIFY(pagehost::moveObjects({objects.at(3)}, {100, 0}));
+    QCOMPARE(desk.placeOf(objects.at(5)), pasted.adjusted(100, 0, 0, 0));
+    QCOMPARE(desk.placeOf(objects.at(2)), QRectF(591, 322, 218, 16));
 }
 
 QTEST_MAIN(TestWriting)

@@ -25,7 +25,7 @@ public:
         if (id != pagehost::FollowedObjects)
             return TestObject::GetSpecialProperty(id, out);
         out << qint32(numbers.size());
-        for (const quint32 number : numbers)
+        for (const quint32 number : qAsConst(numbers))
             out << number;
         return true;
     }

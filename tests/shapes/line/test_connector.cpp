@@ -21,7 +21,7 @@ constexpr int wayProperty = 5104;
 struct Desk : WritingDesk
 {
     explicit Desk(int variant = pagehost::StraightConnector, const QPointF &second = below)
-        : WritingDesk(ToolRole::Connector, {QColor("#2563cf"), 2, variant})
+        : WritingDesk(ToolRole::Connector, {QColor(0x25, 0x63, 0xcf), 2, variant})
         , one(box(QStringLiteral("shapes.roundedrectangle"), {100, 100}))
         , two(box(QStringLiteral("shapes.roundedrectangle"), second))
     {
@@ -38,7 +38,8 @@ struct Desk : WritingDesk
     CBaseObject *connect(const QPointF &from, const QPointF &to)
     {
         drag(from, to);
-        return page->objects().last();
+        const QVector<CBaseObject *> objects = page->objects();
+        return objects.last();
     }
     /// From the first rectangle's middle to the second one's.
     CBaseObject *connectBoth() { return connect(middleOf(one), middleOf(two)); }

@@ -6,7 +6,6 @@
 #include <QtTest/QtTest>
 
 using line::JoinedObject;
-using line::Joint;
 using line::Joints;
 using line::LineCourse;
 
