@@ -3,11 +3,13 @@
 #include <declared/core/declaredshape.h>
 #include <declared/core/review.h>
 #include <declared/expressions/functions.h>
+#include <declared/reader/filereader.h>
 #include <declared/reader/sourcetree.h>
 
 #include <shapekit/shapeobject.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace declared {
 
@@ -184,21 +186,21 @@ private:
     void writeRepeat(int index)
     {
         const RepeatDeclaration &repeat = m_declaration.repeats.at(index);
-        const auto isPart = [&](const ElementDeclaration &element) { return element.repeat == index; };
-        const auto found = std::find_if(m_declaration.elements.begin(), m_declaration.elements.end(), isPart);
-        const bool isAlone =
-            std::count_if(m_declaration.elements.begin(), m_declaration.elements.end(), isPart) == 1;
-        if (!isAlone || !found->path.isEmpty() ||
-            !(isTold("C35", found->place) || isTold("C35", repeat.loops.first().from.place)))
-            return;
-        const SourceElement *first = elementAt(found->place);
-        if (!first || isEmptyTag(*first) != !found->letters.content.isValid())
+        QVector<const ElementDeclaration *> parts;
+        bool isMeant = isTold("C35", repeat.loops.first().from.place);
+        for (const ElementDeclaration &element : m_declaration.elements) {
+            if (element.repeat != index)
+                continue;
+            parts.append(&element);
+            isMeant = isMeant || isTold("C35", element.place);
+        }
+        const SourceElement *first = parts.isEmpty() ? nullptr : repeatedElement(*parts.first());
+        if (!first || !isMeant)
             return;
         const QString &text = m_tree.text();
-        const QString closing = QStringLiteral("</%1>").arg(text.mid(first->offset + 1, nameLength(*first)));
-        const int firstEnd =
-            isEmptyTag(*first) ? tagEnd(*first) : text.indexOf(closing, tagEnd(*first)) + closing.size();
-        const int groupEnd = text.lastIndexOf(QLatin1String("</"), endOfParent(*first, firstEnd));
+        const int firstEnd = isEmptyTag(*first) ? tagEnd(*first) : endOf(*first, tagEnd(*first));
+        const int groupEnd =
+            text.lastIndexOf(QLatin1String("</"), endOf(m_tree.elements().at(first->parent), firstEnd) - 1);
         const int lineStart = text.lastIndexOf(QLatin1Char('\n'), first->offset) + 1;
         const QString indent = text.mid(lineStart, first->offset - lineStart).trimmed().isEmpty()
                                    ? text.mid(lineStart, first->offset - lineStart)
@@ -207,21 +209,62 @@ private:
         int round = 0;
         forEachRound(repeat, [&] {
             if (round++ == 0)
-                writeElement(*found);
+                writeParts(parts);
             else
-                rounds += QLatin1Char('\n') + indent + roundText(*first, *found);
+                rounds += QLatin1Char('\n') + indent + roundText(first->offset, firstEnd, parts);
         });
         const int lastBreak = text.lastIndexOf(QLatin1Char('\n'), groupEnd);
         const int end = lastBreak >= firstEnd ? lastBreak : groupEnd;
         m_edits.append({firstEnd, end - firstEnd, rounds});
     }
 
-    /// The end of the group's closing tag.
-    int endOfParent(const SourceElement &child, int from) const
+    /// The child of the group that is repeated, of which this is a part.
+    const SourceElement *repeatedElement(const ElementDeclaration &part) const
     {
-        const SourceElement &group = m_tree.elements().at(child.parent);
+        const SourceElement *element = elementAt(part.place);
+        for (int level = 0; element && level < part.path.size(); ++level)
+            element = &m_tree.elements().at(element->parent);
+        return element;
+    }
+
+    void writeParts(const QVector<const ElementDeclaration *> &parts)
+    {
+        for (const ElementDeclaration *part : parts)
+            writeElement(*part);
+    }
+
+    /// The element between two offsets as it looks in the present round; declarations and ids stay with the first.
+    QString roundText(int start, int end, const QVector<const ElementDeclaration *> &parts)
+    {
+        const QVector<Edit> others = std::exchange(m_edits, {});
+        writeParts(parts);
+        for (const SourceElement &element : m_tree.elements())
+            for (const SourceAttribute &attribute : element.attributes)
+                if (element.offset >= start && element.offset < end &&
+                    (attribute.namespaceUri == shapeNamespace || attribute.name == QLatin1String("id")))
+                    removeAttribute(attribute);
+        return applied(m_tree.text().mid(start, end - start), std::exchange(m_edits, others), start);
+    }
+
+    /// With the blank space before it.
+    void removeAttribute(const SourceAttribute &attribute)
+    {
+        const QString &text = m_tree.text();
+        const int prefix = attribute.prefix.isEmpty() ? 0 : attribute.prefix.size() + 1;
+        int start = text.lastIndexOf(QLatin1Char('='), attribute.offset);
+        while (text.at(start - 1).isSpace())
+            --start;
+        start -= prefix + attribute.name.size();
+        while (text.at(start - 1).isSpace())
+            --start;
+        m_edits.append({start, attribute.offset + lengthOf(attribute) + 1 - start, {}});
+    }
+
+    /// The end of an element's closing tag; `from` is behind its first children, or behind its tag.
+    int endOf(const SourceElement &element, int from) const
+    {
         int depth = 1;
-        const QString name = m_tree.text().mid(group.offset + 1, nameLength(group));
+        const QString name = m_tree.text().mid(element.offset + 1, nameLength(element));
         const QString opening = QLatin1Char('<') + name;
         const QString closing = QStringLiteral("</") + name;
         int position = from;
@@ -230,24 +273,9 @@ private:
             const int open = m_tree.text().indexOf(opening, position);
             const bool isOpened = open >= 0 && open < close;
             depth += isOpened ? 1 : -1;
-            position = (isOpened ? open : close) + name.size();
+            position = isOpened ? open + opening.size() : close + closing.size();
         }
-        return position;
-    }
-
-    QString roundText(const SourceElement &first, const ElementDeclaration &declared)
-    {
-        QMap<QString, QString> look = lookOf(declared);
-        for (const SourceAttribute &attribute : first.attributes)
-            if (attribute.namespaceUri.isEmpty() && attribute.name != QLatin1String("id") &&
-                !look.contains(attribute.name))
-                look.insert(attribute.name, attribute.value);
-        QString text = QLatin1Char('<') + first.name;
-        for (auto attribute = look.begin(); attribute != look.end(); ++attribute)
-            text += QStringLiteral(" %1=\"%2\"").arg(attribute.key(), attribute->toHtmlEscaped());
-        if (!declared.letters.content.isValid())
-            return text + QStringLiteral("/>");
-        return text + QStringLiteral(">%1</%2>").arg(textOf(declared.letters.content).toHtmlEscaped(), first.name);
+        return m_tree.text().indexOf(QLatin1Char('>'), position) + 1;
     }
 
     template<class Action> void forEachRound(const RepeatDeclaration &repeat, Action action)
@@ -269,14 +297,18 @@ private:
         }
     }
 
-    QByteArray edited()
+    QByteArray edited() const { return applied(m_tree.text(), m_edits, 0).toUtf8(); }
+
+    /// A piece of the file, which begins at `start`, with edits.
+    static QString applied(QString text, QVector<Edit> edits, int start)
     {
-        std::stable_sort(m_edits.begin(), m_edits.end(),
-                         [](const Edit &a, const Edit &b) { return a.offset > b.offset; });
-        QString text = m_tree.text();
-        for (const Edit &edit : qAsConst(m_edits))
-            text.replace(edit.offset, edit.length, edit.text);
-        return text.toUtf8();
+        // From the end on; at one place what goes before what comes.
+        std::stable_sort(edits.begin(), edits.end(), [](const Edit &a, const Edit &b) {
+            return a.offset != b.offset ? a.offset > b.offset : a.length > b.length;
+        });
+        for (const Edit &edit : qAsConst(edits))
+            text.replace(edit.offset - start, edit.length, edit.text);
+        return text;
     }
 
     const Declaration &m_declaration;

@@ -24,6 +24,7 @@ constexpr double lookTolerance = 0.5;
 constexpr double settledEpsilon = 4.0 / (1 << 20);
 /// Texts are drawn in the font at hand; this part of their size may be between the file's and the declared one.
 constexpr double textTolerance = 0.6;
+const QString advice = QStringLiteral("\"gliololok-shape look\" writes it");
 
 QList<QZeSvgNode *> childrenOf(const QZeSvgNode &node)
 {
@@ -137,8 +138,8 @@ private:
         const int shown = int(std::count_if(copies.begin(), copies.end(), isShown));
         if (shown != repeat.drawnRounds)
             warn("C35", repeat.loops.first().from.place,
-                 QStringLiteral("the group has %1 children, and %2 when it is repeated")
-                     .arg(QString::number(repeat.drawnRounds), QString::number(shown)));
+                 QStringLiteral("the group has %1 children in the file, and %2 when it is repeated: %3")
+                     .arg(QString::number(repeat.drawnRounds), QString::number(shown), advice));
         for (const ElementDeclaration &element : m_declaration.elements)
             for (int round = 0; element.repeat == index && round < std::min(shown, drawn.size()); ++round)
                 compareCopy(element, drawn.at(round), copies.at(round));
@@ -183,10 +184,12 @@ private:
                    : outlineDistance(outlineOf(*drawn), outlineOf(present));
         const double tolerance =
             isText ? std::max(lookTolerance, textTolerance * element.letters.fixedSize) : lookTolerance;
-        if (distance > tolerance)
+        if (qIsInf(distance))
+            warn("C35", element.place, QStringLiteral("the file lacks the declared look: %1").arg(advice));
+        else if (distance > tolerance)
             warn("C35", element.place,
-                 QStringLiteral("the look in the file is not the declared one; they are up to %1 apart")
-                     .arg(QString::number(distance, 'g', 3)));
+                 QStringLiteral("the look in the file is up to %1 apart from the declared one: %2")
+                     .arg(QString::number(distance, 'g', 3), advice));
     }
 
     /// Of a text that isn't repeated.

@@ -83,8 +83,16 @@ Value ovalPath(const Value *a, int count)
 {
     if (!areFinite(a, 0, count))
         return Value::notFinite();
-    const QPointF radii(a[1].number(), a[2].number());
-    return shapekit::PathText().ellipse(QRectF(a[0].point - radii, a[0].point + radii)).text();
+    const bool isClockwise = a[2].number() >= 0;
+    const QSizeF radii(a[1].number(), std::abs(a[2].number()));
+    const QPointF left = a[0].point - QPointF(radii.width(), 0);
+    const QPointF right = a[0].point + QPointF(radii.width(), 0);
+    return shapekit::PathText()
+        .moveTo(left)
+        .arcTo(radii, right, isClockwise)
+        .arcTo(radii, left, isClockwise)
+        .close()
+        .text();
 }
 
 /// Cut, so that texts made of texts stay bounded.

@@ -180,6 +180,8 @@ void TestExpressions::functionsGiveTheirValues_data()
     row("box(0, 0, 10, 20, 3)",
         "M3 0 L7 0 A3 3 0 0 1 10 3 L10 17 A3 3 0 0 1 7 20 L3 20 A3 3 0 0 1 0 17 L0 3 A3 3 0 0 1 3 0 Z");
     row("box(0, 0, 10, 20, 0)", "M0 0 L10 0 L10 0 L10 20 L10 20 L0 20 L0 20 L0 0 L0 0 Z");
+    row("oval(point(20, 30), 10, 5)", "M10 30 A10 5 0 0 1 30 30 A10 5 0 0 1 10 30 Z");
+    row("oval(point(20, 30), 10, -5)", "M10 30 A10 5 0 0 0 30 30 A10 5 0 0 0 10 30 Z");
     row("letters('', middle, 10)", "");
 }
 

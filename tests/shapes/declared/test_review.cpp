@@ -220,9 +220,15 @@ void TestReview::fileGetsItsDeclaredLook_data()
         "<rect id='control_1' x='56' y='36' width='8' height='8' shape:range-x='w / 2' shape:range-y='h / 2'/>");
     row("<g shape:repeat='i in 0..2'>\n  <path d='M3 3H9' stroke='#000' shape:d='M3 {3 + i}H9'/>\n</g>",
         "<g shape:repeat='i in 0..2'>\n  <path d='M3 3H9' stroke='#000' shape:d='M3 {3 + i}H9'/>\n"
-        "  <path d=\"M3 4H9\" stroke=\"#000\"/>\n  <path d=\"M3 5H9\" stroke=\"#000\"/>\n</g>");
+        "  <path d='M3 4H9' stroke='#000'/>\n  <path d='M3 5H9' stroke='#000'/>\n</g>");
     row("<g shape:repeat='i in 0..0'><text x='9' y='40' shape:text='{i}'>5</text><text>6</text></g>",
         "<g shape:repeat='i in 0..0'><text x='9' y='40' shape:text='{i}'>0</text></g>");
+    row("<g shape:repeat='i in 0..1'>\n <g id='one'><path\n  shape:d='M3 {i}H9' stroke='#000'/><text shape:x='{i}' "
+        "x='7' "
+        "shape:text='{i + 5}'>?</text></g>\n</g>",
+        "<g shape:repeat='i in 0..1'>\n <g id='one'><path d=\"M3 0H9\"\n  shape:d='M3 {i}H9' stroke='#000'/><text "
+        "shape:x='{i}' x='0' shape:text='{i + 5}'>5</text></g>\n"
+        " <g><path d=\"M3 1H9\" stroke='#000'/><text x='1'>6</text></g>\n</g>");
 }
 
 void TestReview::fileGetsItsDeclaredLook()
