@@ -6,11 +6,14 @@
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
 #include "lessons/lessoncontroller.h"
+#include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/pagepanel.h"
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingjson.h"
 #include "panels/settings/settingspanel.h"
+#include "presenting/presentation.h"
+#include "presenting/stage.h"
 #include "window/drawer.h"
 #include "window/mainwindow.h"
 
@@ -20,6 +23,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QSettings>
 #include <QtCore/QTextStream>
@@ -27,9 +31,11 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QTextEdit>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace board {
@@ -38,8 +44,36 @@ namespace {
 
 /// Without a desktop Qt takes a font that is larger than any desktop's.
 constexpr double fontPoints = 9.5;
+const QString allSituations = QStringLiteral("all");
 /// Of the whole window.
 constexpr QSize pictureSize(1366, 768);
+
+/// A window of this size, in this state and theme, with so many pixels to a logical one.
+struct Situation
+{
+    const char *name;
+    const char *state;
+    QSize size = pictureSize;
+    Theme theme = Theme::Light;
+    double pixels = 1;
+};
+
+constexpr Situation situations[] = {{"01-first-start", "empty"},
+                                    {"02-shapes", "shapes"},
+                                    {"03-selected", "selected"},
+                                    {"04-panel", "settings"},
+                                    {"05-all-properties", "properties"},
+                                    {"06-palette", "palette"},
+                                    {"07-pages", "pages"},
+                                    {"08-ink", "writing"},
+                                    {"09-text", "text"},
+                                    {"10-recording", "recording"},
+                                    {"11-lesson-playing", "playing"},
+                                    {"12-presenting", "presenting"},
+                                    {"13-dark", "selected", pictureSize, Theme::Dark},
+                                    {"14-dark-palette", "palette", pictureSize, Theme::Dark},
+                                    {"15-1024x600", "settings", QSize(1024, 600)},
+                                    {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -136,6 +170,16 @@ void startWriting(MainWindow &window)
         sendMouse(window.view(), QEvent::MouseMove, {400 + step * 6.0, 320 + 60 * std::sin(step / 6.0)});
 }
 
+/// Leaves the text unfinished.
+void startText(MainWindow &window)
+{
+    window.tools()->choose(Tool::Text);
+    sendMouse(window.view(), QEvent::MouseButtonPress, {400, 300});
+    sendMouse(window.view(), QEvent::MouseButtonRelease, {400, 300});
+    if (auto *editor = window.view()->findChild<QTextEdit *>())
+        editor->insertPlainText(QStringLiteral("3/4 + 1/4 = 1"));
+}
+
 void pinPanel(MainWindow &window, const QWidget *part)
 {
     window.panel()->setPinned(true);
@@ -145,7 +189,7 @@ void pinPanel(MainWindow &window, const QWidget *part)
 
 bool isAboutOneShape(const QString &state)
 {
-    return state == QLatin1String("selection") || state == QLatin1String("settings") ||
+    return state == QLatin1String("selection") || state == QLatin1String("selected") || state == QLatin1String("settings") ||
            state == QLatin1String("properties");
 }
 
@@ -159,6 +203,12 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
     }
     if (isAboutPanels && page->objectCount() > 0)
         selectRichest(page);
+    if (state == QLatin1String("selected") && page->objectCount() > 1)
+        changeMiddle(page);
+    if (state == QLatin1String("text"))
+        startText(window);
+    if (state == QLatin1String("presenting"))
+        window.presentation()->start({QRect(QPoint(), window.size()), {}});
     if (state == QLatin1String("settings"))
         pinPanel(window, window.settings());
     if (state == QLatin1String("properties"))
@@ -188,15 +238,34 @@ QStringList screenshotStates()
     return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
             QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
             QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
-            QStringLiteral("recording"), QStringLiteral("playing")};
+            QStringLiteral("recording"), QStringLiteral("playing"), QStringLiteral("selected"), QStringLiteral("text"), QStringLiteral("presenting"), allSituations};
 }
 
-bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)
+namespace {
+
+bool save(const QPixmap &picture, const QString &file)
 {
+    if (picture.save(file))
+        return true;
+    QTextStream(stderr) << file << " could not be written.\n";
+    return false;
+}
+
+QPixmap pictureOf(QWidget *window, double pixels)
+{
+    QPixmap picture(window->size() * pixels);
+    picture.setDevicePixelRatio(pixels);
+    window->render(&picture);
+    return picture;
+}
+
+bool take(Workspace &workspace, const Situation &situation, const QString &file, const QString &document)
+{
+    const QString state = QLatin1String(situation.state);
     // The window as it is at first, whatever the user has made of it.
     QCoreApplication::setApplicationName(QStringLiteral("gliololok-board-picture"));
     QSettings().clear();
-    const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing")};
+    const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing"), QStringLiteral("text")};
     if (document.isEmpty() && !emptyStates.contains(state)) {
         fillWithDemo(workspace);
         // The last page shows the selected shape large.
@@ -205,7 +274,7 @@ bool takeScreenshot(Workspace &workspace, const QString &state, const QString &f
     }
     useDesktopFont();
     MainWindow window(&workspace);
-    window.resize(pictureSize);
+    window.resize(situation.size);
     window.show();
     QApplication::processEvents();
     if (!document.isEmpty())
@@ -215,10 +284,36 @@ bool takeScreenshot(Workspace &workspace, const QString &state, const QString &f
     QApplication::processEvents();
     window.pages()->thumbnails()->finish();
     QApplication::processEvents();
-    if (window.grab().save(file))
-        return true;
-    QTextStream(stderr) << file << " could not be written.\n";
-    return false;
+    QWidget *shown = window.presentation()->isRunning() ? window.presentation()->stage()->window() : &window;
+    return save(pictureOf(shown, situation.pixels), file);
+}
+
+bool takeAll(Workspace &workspace, const QString &folder)
+{
+    if (!QDir().mkpath(folder)) {
+        QTextStream(stderr) << folder << " could not be made.\n";
+        return false;
+    }
+    bool areTaken = true;
+    for (const Situation &situation : situations) {
+        applyTheme(situation.theme);
+        workspace.replaceDocument(std::make_unique<pagehost::Document>());
+        const QString file = QDir(folder).filePath(QLatin1String(situation.name) + QStringLiteral(".png"));
+        areTaken &= take(workspace, situation, file, {});
+    }
+    return areTaken;
+}
+
+} // namespace
+
+bool takeScreenshot(Workspace &workspace, const QString &state, const QString &file, const QString &document)
+{
+    if (state == allSituations)
+        return takeAll(workspace, file);
+    const QByteArray name = state.toLatin1();
+    Situation situation{"", name.constData()};
+    situation.theme = currentTheme();
+    return take(workspace, situation, file, document);
 }
 
 } // namespace board

@@ -17,7 +17,8 @@ namespace board {
 namespace {
 
 constexpr int barHeight = 72;
-constexpr int buttonSide = 56;
+/// Of the bar's buttons, the largest that fit.
+constexpr int buttonSides[] = {56, 48, 40, 36};
 constexpr int timePixels = 40;
 constexpr int secondsPerHour = 3600;
 constexpr int milliseconds = 1000;
@@ -56,10 +57,12 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     , m_timeOfDay(makeTime(this))
 {
     setAutoFillBackground(true);
-    auto *bar = new QWidget(this);
-    bar->setFixedHeight(barHeight);
-    auto *row = new QHBoxLayout(bar);
-    new PresentingBar(workspace, commands, stage, row, buttonSide);
+    m_barArea = new QWidget(this);
+    m_barArea->setFixedHeight(barHeight);
+    auto *row = new QHBoxLayout(m_barArea);
+    row->setSpacing(smallGap);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_bar = new PresentingBar(workspace, commands, stage, row, buttonSides[0]);
     row->addStretch();
     m_pictures = new PagePictures(workspace, stage, makeTimes(workspace), this);
     auto *grid = new QGridLayout(this);
@@ -67,7 +70,9 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     grid->setSpacing(mediumGap);
     grid->addWidget(makeTop(workspace, stage), 0, 0, 1, 2);
     grid->addWidget(stage, 1, 0);
-    grid->addWidget(bar, 2, 0);
+    grid->addWidget(m_barArea, 2, 0);
+    // A screen may be smaller than the parts are at first.
+    grid->setSizeConstraint(QLayout::SetNoConstraint);
     grid->addWidget(m_pictures, 1, 1, 2, 1);
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(1, 1);
@@ -76,6 +81,19 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     m_seconds.start(milliseconds);
     connect(&m_seconds, &QTimer::timeout, this, &PresenterWindow::showTime);
     showTime();
+}
+
+void PresenterWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const QMargins margins = layout()->contentsMargins();
+    const int room = width() - margins.left() - margins.right() - m_pictures->width() - mediumGap;
+    for (const int side : buttonSides) {
+        m_bar->setButtonSide(side);
+        m_barArea->layout()->invalidate();
+        if (m_barArea->layout()->minimumSize().width() <= room)
+            return;
+    }
 }
 
 QWidget *PresenterWindow::makeTop(const Workspace *workspace, Stage *stage)

@@ -10,6 +10,7 @@ namespace board {
 
 class Commands;
 class PagePictures;
+class PresentingBar;
 class Stage;
 class Workspace;
 
@@ -29,6 +30,9 @@ public:
     PagePictures *pictures() const { return m_pictures; }
     QLabel *elapsed() const { return m_elapsed; }
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *makeTop(const Workspace *workspace, Stage *stage);
     QWidget *makeTimes(const Workspace *workspace);
@@ -37,6 +41,8 @@ private:
     QLabel *m_elapsed;
     QLabel *m_timeOfDay;
     PagePictures *m_pictures = nullptr;
+    PresentingBar *m_bar = nullptr;
+    QWidget *m_barArea = nullptr;
     QElapsedTimer m_sinceStart;
     QTimer m_seconds;
 };

@@ -35,23 +35,6 @@ void addLine(QHBoxLayout *row)
     row->addSpacing(smallGap);
 }
 
-QToolButton *addButton(QHBoxLayout *row, QAction *action, int side)
-{
-    auto *button = new QToolButton(row->parentWidget());
-    button->setDefaultAction(action);
-    button->setAutoRaise(true);
-    button->setFixedSize(side, side);
-    const int iconSide = qRound(side * iconPart);
-    button->setIconSize({iconSide, iconSide});
-    button->setAccessibleName(action->text());
-    // The page keeps the keys.
-    button->setFocusPolicy(Qt::TabFocus);
-    // A tool that nobody offers has no button.
-    button->setVisible(action->isVisible());
-    row->addWidget(button);
-    return button;
-}
-
 } // namespace
 
 PresentingBar::PresentingBar(const Workspace *workspace, const Commands &commands, Stage *stage, QHBoxLayout *row,
@@ -60,10 +43,9 @@ PresentingBar::PresentingBar(const Workspace *workspace, const Commands &command
     , m_stage(stage)
     , m_pageNumber(new QLabel(row->parentWidget()))
 {
-    const auto add = [&](Command command) { addButton(row, commands.action(command), buttonSide); };
+    const auto add = [&](Command command) { addButton(row, commands.action(command)); };
     add(Command::PreviousPage);
     m_pageNumber->setAlignment(Qt::AlignCenter);
-    m_pageNumber->setMinimumWidth(2 * buttonSide);
     row->addWidget(m_pageNumber);
     add(Command::NextPage);
     addLine(row);
@@ -77,13 +59,38 @@ PresentingBar::PresentingBar(const Workspace *workspace, const Commands &command
     connect(curtain, &QAction::triggered, stage->curtain(), &Curtain::setDrawn);
     connect(stage->curtain(), &Curtain::changed, curtain,
             [=] { curtain->setChecked(stage->curtain()->isDrawn()); });
-    addButton(row, curtain, buttonSide);
+    addButton(row, curtain);
     auto *end = new QAction(icon(Icon::EndPresenting), workspace->text("IDS_BOARD_END_PRESENTING"), this);
     end->setToolTip(QStringLiteral("%1 (Esc)").arg(end->text()));
     connect(end, &QAction::triggered, stage, &Stage::endRequested);
-    addButton(row, end, buttonSide);
+    addButton(row, end);
+    setButtonSide(buttonSide);
     connect(stage->view(), &PageView::pageShown, this, &PresentingBar::showPage);
     showPage();
+}
+
+void PresentingBar::addButton(QHBoxLayout *row, QAction *action)
+{
+    auto *button = new QToolButton(row->parentWidget());
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setAccessibleName(action->text());
+    // The page keeps the keys.
+    button->setFocusPolicy(Qt::TabFocus);
+    // A tool that nobody offers has no button.
+    button->setVisible(action->isVisible());
+    row->addWidget(button);
+    m_buttons.append(button);
+}
+
+void PresentingBar::setButtonSide(int side)
+{
+    const int iconSide = qRound(side * iconPart);
+    for (QToolButton *button : qAsConst(m_buttons)) {
+        button->setFixedSize(side, side);
+        button->setIconSize({iconSide, iconSide});
+    }
+    m_pageNumber->setMinimumWidth(2 * side);
 }
 
 void PresentingBar::showPage()

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QVector>
 
+class QAction;
 class QHBoxLayout;
 class QLabel;
+class QToolButton;
 
 namespace board {
 
@@ -21,13 +24,17 @@ public:
     PresentingBar(const Workspace *workspace, const Commands &commands, Stage *stage, QHBoxLayout *row,
                   int buttonSide);
 
+    /// Of all its buttons, logical pixels.
+    void setButtonSide(int side);
     QLabel *pageNumber() const { return m_pageNumber; }
 
 private:
+    void addButton(QHBoxLayout *row, QAction *action);
     void showPage();
 
     Stage *m_stage;
     QLabel *m_pageNumber;
+    QVector<QToolButton *> m_buttons;
 };
 
 } // namespace board

@@ -134,6 +134,7 @@ private Q_SLOTS:
     void audienceSeesThePageAlone();
     void audienceFollowsThePresenter();
     void audienceSeesCurtainAndLaser();
+    void barOfThePresenterFitsASmallScreen();
     void presenterSeesTheNextPage();
     void presenterTurnsToAPageByAClick();
     void presenterSeesTheTimeSinceTheStart();
@@ -510,6 +511,32 @@ void TestPresenting::audienceSeesCurtainAndLaser()
     t.show.movePointer(t.show.at({100, 100}));
     QCOMPARE(t.audience().laser()->trail().size(), 1);
     QCOMPARE(t.audience().laser()->trail().first().pos, t.show.stage().laser()->trail().first().pos);
+}
+
+/// The presenter's screen is 800 × 600.
+void TestPresenting::barOfThePresenterFitsASmallScreen()
+{
+    TwoScreens t;
+    support::deliverEvents();
+    QWidget *window = t.show.presentation().presenter();
+    QCOMPARE(window->size(), QSize(800, 600));
+    const auto placeOf = [window](const QWidget *widget) {
+        return QRect(widget->mapTo(window, QPoint()), widget->size());
+    };
+    const QRect pictures = placeOf(t.show.presentation().presenter()->pictures());
+    int right = 0;
+    int buttons = 0;
+    for (const QToolButton *button : window->findChildren<QToolButton *>()) {
+        if (!button->isVisible())
+            continue;
+        const QRect place = placeOf(button);
+        QVERIFY(place.left() >= right);
+        QVERIFY(place.right() < pictures.left());
+        QVERIFY(place.width() >= 36 && place.height() == place.width());
+        right = place.right() + 1;
+        ++buttons;
+    }
+    QCOMPARE(buttons, 9);
 }
 
 void TestPresenting::presenterSeesTheNextPage()
