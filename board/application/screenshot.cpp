@@ -12,6 +12,7 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingjson.h"
 #include "panels/settings/settingspanel.h"
+#include "presenting/fadingdock.h"
 #include "presenting/presentation.h"
 #include "presenting/stage.h"
 #include "window/drawer.h"
@@ -31,6 +32,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QGraphicsEffect>
 #include <QtWidgets/QTextEdit>
 
 #include <algorithm>
@@ -180,6 +182,13 @@ void startText(MainWindow &window)
         editor->insertPlainText(QStringLiteral("3/4 + 1/4 = 1"));
 }
 
+/// Widgets with an effect are left out of pictures.
+void startPresenting(MainWindow &window)
+{
+    window.presentation()->start({QRect(QPoint(), window.size()), {}});
+    window.presentation()->stage()->findChild<FadingDock *>()->graphicsEffect()->setEnabled(false);
+}
+
 void pinPanel(MainWindow &window, const QWidget *part)
 {
     window.panel()->setPinned(true);
@@ -189,8 +198,8 @@ void pinPanel(MainWindow &window, const QWidget *part)
 
 bool isAboutOneShape(const QString &state)
 {
-    return state == QLatin1String("selection") || state == QLatin1String("selected") || state == QLatin1String("settings") ||
-           state == QLatin1String("properties");
+    return state == QLatin1String("selection") || state == QLatin1String("selected") ||
+           state == QLatin1String("settings") || state == QLatin1String("properties");
 }
 
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
@@ -208,7 +217,7 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
     if (state == QLatin1String("text"))
         startText(window);
     if (state == QLatin1String("presenting"))
-        window.presentation()->start({QRect(QPoint(), window.size()), {}});
+        startPresenting(window);
     if (state == QLatin1String("settings"))
         pinPanel(window, window.settings());
     if (state == QLatin1String("properties"))
@@ -238,7 +247,8 @@ QStringList screenshotStates()
     return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
             QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
             QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
-            QStringLiteral("recording"), QStringLiteral("playing"), QStringLiteral("selected"), QStringLiteral("text"), QStringLiteral("presenting"), allSituations};
+            QStringLiteral("recording"), QStringLiteral("playing"),    QStringLiteral("selected"),
+            QStringLiteral("text"),      QStringLiteral("presenting"), allSituations};
 }
 
 namespace {
@@ -265,7 +275,8 @@ bool take(Workspace &workspace, const Situation &situation, const QString &file,
     // The window as it is at first, whatever the user has made of it.
     QCoreApplication::setApplicationName(QStringLiteral("gliololok-board-picture"));
     QSettings().clear();
-    const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing"), QStringLiteral("text")};
+    const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing"),
+                                  QStringLiteral("text")};
     if (document.isEmpty() && !emptyStates.contains(state)) {
         fillWithDemo(workspace);
         // The last page shows the selected shape large.
@@ -285,6 +296,8 @@ bool take(Workspace &workspace, const Situation &situation, const QString &file,
     window.pages()->thumbnails()->finish();
     QApplication::processEvents();
     QWidget *shown = window.presentation()->isRunning() ? window.presentation()->stage()->window() : &window;
+    shown->setFixedSize(situation.size);
+    QApplication::processEvents();
     return save(pictureOf(shown, situation.pixels), file);
 }
 

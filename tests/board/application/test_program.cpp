@@ -21,13 +21,15 @@ struct Outcome
 };
 
 /// Runs the board without any display.
-static Outcome run(const QStringList &arguments)
+static Outcome run(const QStringList &arguments, const QString &platform = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(name);
     const QTemporaryDir runtimeFolder;
     environment.insert("XDG_RUNTIME_DIR", runtimeFolder.path());
+    if (!platform.isEmpty())
+        environment.insert("QT_QPA_PLATFORM", platform);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(BOARD_PROGRAM, arguments);
@@ -76,8 +78,28 @@ private Q_SLOTS:
     void unusablePlugInsAreReported();
     void missingPlugInFolderIsReported();
     void theFileThatIsGivenOpensInTheWindow();
+    void picturesOfAllSituationsAreMadeByOneCommand();
     void optionsAreRead();
 };
+
+void TestProgram::picturesOfAllSituationsAreMadeByOneCommand()
+{
+    QTemporaryDir folder;
+    const QString target = folder.filePath("pictures");
+    const Outcome outcome =
+        run({"--language", "en", "--screenshot", target, "--screenshot-state", "all"}, "offscreen");
+    QCOMPARE(outcome.code, 0);
+    const QStringList names = QDir(target).entryList({"*.png"});
+    QCOMPARE(names.size(), 16);
+    const auto sizeOf = [&](const QString &name) { return QImage(QDir(target).filePath(name)).size(); };
+    QCOMPARE(sizeOf("01-first-start.png"), QSize(1366, 768));
+    QCOMPARE(sizeOf("15-1024x600.png"), QSize(1024, 600));
+    QCOMPARE(sizeOf("16-200-percent.png"), QSize(1920, 1080));
+    // Bars are light in one theme and dark in the other.
+    const auto barOf = [&](const QString &name) { return QImage(QDir(target).filePath(name)).pixelColor(600, 10); };
+    QCOMPARE(barOf("03-selected.png"), QColor(0xf7, 0xf8, 0xfa));
+    QCOMPARE(barOf("13-dark.png"), QColor(0x22, 0x26, 0x2d));
+}
 
 void TestProgram::helpNamesEveryOption()
 {
