@@ -58,7 +58,8 @@ struct Desk
     QString notices() const
     {
         QStringList texts;
-        for (const QLabel *label : board.window().notices()->findChildren<QLabel *>())
+        const QList<QLabel *> labels = board.window().notices()->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
             texts.append(label->text());
         return texts.join('\n');
     }

@@ -56,7 +56,7 @@ namespace {
 /// A4 upright, with a black square of 100 points in the upper left corner of each page.
 QString writePdf(Desk &desk, int pages)
 {
-    const QString file = desk.path("sheet.pdf");
+    QString file = desk.path("sheet.pdf");
     QPdfWriter writer(file);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins(QMarginsF());
@@ -144,7 +144,8 @@ void TestWorksheets::droppedPdfBecomesPagesInOneStep()
     drop(desk.board, writePdf(desk, 2));
     waitForPages(desk, 2);
     QCOMPARE(document(desk).currentIndex(), 0);
-    for (pagehost::Page *page : document(desk).pages()) {
+    const QVector<pagehost::Page *> pages = document(desk).pages();
+    for (pagehost::Page *page : pages) {
         // 595 × 842 points; scene units are 96 an inch.
         QVERIFY(qAbs(page->size().width() - 793.7) < 1 && qAbs(page->size().height() - 1122.5) < 1);
         const CBaseObject *sheet = page->objects().value(0);

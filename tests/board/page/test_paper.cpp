@@ -206,7 +206,8 @@ void TestPaper::wholePageIsRepaintedWithItsNewPaper()
     QCoreApplication::processEvents();
     PaintedArea painted(board.view().viewport());
     QToolButton *chosen = nullptr;
-    for (auto *button : board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>())
+    const auto buttons = board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>();
+    for (auto *button : buttons)
         if (button->defaultAction() == board.window().commands()->action(Command::RuledPaper))
             chosen = button;
     QTest::mouseClick(chosen, Qt::LeftButton);

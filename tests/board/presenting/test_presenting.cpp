@@ -525,8 +525,9 @@ void TestPresenting::barOfThePresenterFitsASmallScreen()
     };
     const QRect pictures = placeOf(t.show.presentation().presenter()->pictures());
     int right = 0;
-    int buttons = 0;
-    for (const QToolButton *button : window->findChildren<QToolButton *>()) {
+    int count = 0;
+    const QList<QToolButton *> buttons = window->findChildren<QToolButton *>();
+    for (const QToolButton *button : buttons) {
         if (!button->isVisible())
             continue;
         const QRect place = placeOf(button);
@@ -534,9 +535,9 @@ void TestPresenting::barOfThePresenterFitsASmallScreen()
         QVERIFY(place.right() < pictures.left());
         QVERIFY(place.width() >= 36 && place.height() == place.width());
         right = place.right() + 1;
-        ++buttons;
+        ++count;
     }
-    QCOMPARE(buttons, 9);
+    QCOMPARE(count, 9);
 }
 
 void TestPresenting::presenterSeesTheNextPage()
