@@ -295,8 +295,11 @@ QRectF PageScene::frameBounds() const
 void PageScene::repaintOverlay()
 {
     const QRectF covered = overlayBounds(*m_page).united(highlightBounds(m_highlight, m_pixel));
-    update(m_overlay.united(covered));
+    const QRectF damaged = m_overlay.united(covered);
     m_overlay = covered;
+    // A null rectangle would stand for the whole scene.
+    if (!damaged.isNull())
+        update(damaged);
 }
 
 // Only selected objects show control points.

@@ -10,6 +10,7 @@ class TestEditing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void aMoveRepaintsOnlyItsSurroundings();
     void clickSelectsOnlyTheObjectUnderTheMouse();
     void clickOnEmptyPageDeselects();
     void shiftClickAddsAndRemoves();
@@ -421,6 +422,23 @@ void TestEditing::removedObjectEndsItsDrag()
     editor.moveTo(QPointF(170, 80));
     editor.release(QPointF(170, 80));
     QCOMPARE(undoStack()->count(), 0);
+}
+
+/// Nothing is selected, so that there are no frames to repaint either.
+void TestEditing::aMoveRepaintsOnlyItsSurroundings()
+{
+    Editor editor;
+    auto *object = editor.add(QSizeF(100, 60), QPointF(200, 100));
+    QCoreApplication::processEvents();
+    QRectF repainted;
+    connect(editor.page->scene(), &QGraphicsScene::changed, this, [&repainted](const QList<QRectF> &areas) {
+        for (const QRectF &area : areas)
+            repainted |= area;
+    });
+    object->CPSRootObject::setPos({210, 100}, false);
+    QCoreApplication::processEvents();
+    QVERIFY(repainted.contains(QRectF(200, 100, 110, 60)));
+    QVERIFY(QRectF(150, 50, 220, 160).contains(repainted));
 }
 
 QTEST_MAIN(TestEditing)
