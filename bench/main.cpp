@@ -13,6 +13,7 @@ void registerPageBenchmarks();
 void registerThreadBenchmarks();
 void registerPathTextBenchmarks();
 void registerAnimationBenchmarks();
+void registerInkBenchmarks();
 
 int main(int argc, char **argv)
 {
@@ -28,6 +29,7 @@ int main(int argc, char **argv)
     registerThreadBenchmarks();
     registerPathTextBenchmarks();
     registerAnimationBenchmarks();
+    registerInkBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
