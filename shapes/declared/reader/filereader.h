@@ -100,6 +100,7 @@ private:
     void checkReference(const Attribute &attribute, const QString &id, int offset);
 
     void defineFixedNames();
+    QString nameFault(const QString &name) const;
     bool define(const QString &name, const Attribute &attribute, const Symbol &symbol);
     qint32 newSlot() { return m_shape.slotCount++; }
 

@@ -62,10 +62,27 @@ void FileReader::defineFixedNames()
     }
 }
 
+/// Why a name can't be given; empty for one that can.
+QString FileReader::nameFault(const QString &name) const
+{
+    if (!isName(name))
+        return QStringLiteral("\"%1\" is no name: letters, digits and \"_\", a letter first").arg(name);
+    if (builtinNames().contains(name))
+        return QStringLiteral("\"%1\" is a function").arg(name);
+    if (isReserved(name))
+        return QStringLiteral("\"%1\" is a word of expressions, or the name of a control point").arg(name);
+    if (fixedNames().contains(name))
+        return QStringLiteral("\"%1\" is a value of every shape").arg(name);
+    if (m_symbols.names.contains(name))
+        return QStringLiteral("\"%1\" is another value or function of this file").arg(name);
+    return {};
+}
+
 bool FileReader::define(const QString &name, const Attribute &attribute, const Symbol &symbol)
 {
-    if (!isName(name) || isReserved(name) || m_symbols.names.contains(name)) {
-        error("C12", attribute, QStringLiteral("\"%1\" is no name, or one that is taken").arg(name));
+    const QString fault = nameFault(name);
+    if (!fault.isEmpty()) {
+        error("C12", attribute, fault);
         return false;
     }
     m_symbols.names.insert(name, symbol);
@@ -90,9 +107,11 @@ bool FileReader::readLetName(const Element &element, Let &let, QStringList &para
             parameters.append(part.trimmed());
     }
     for (const QString &parameter : qAsConst(parameters)) {
-        const bool isTaken = isReserved(parameter) || m_symbols.names.contains(parameter);
-        if (!isName(parameter) || isTaken || parameters.count(parameter) > 1) {
-            error("C12", *name, QStringLiteral("\"%1\" is no name, or one that is taken").arg(parameter));
+        const bool isTwice = parameters.count(parameter) > 1;
+        const QString fault =
+            isTwice ? QStringLiteral("\"%1\" is there twice").arg(parameter) : nameFault(parameter);
+        if (!fault.isEmpty()) {
+            error("C12", *name, fault);
             return false;
         }
     }

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void faultsOfAboutStandWhereTheyAre();
     void successorsHaveRepeatedLabelsOnly();
     void successorsHaveNoFormerNames();
+    void messageSaysWhyANameIsRefused_data();
+    void messageSaysWhyANameIsRefused();
     void titlesOfSuccessorsMakeNoKeyThatIsTaken_data();
     void titlesOfSuccessorsMakeNoKeyThatIsTaken();
     void placesCountReferencesAsOneCharacter();
@@ -243,6 +245,31 @@ void TestReadingFaults::successorsHaveNoFormerNames()
         firstError(declaredtest::fileAbout("name='Nut' layout='kit' type='30'",
                                            "<shape:property name='a' type='switch' value='no' was='b:switch'/>")),
         QStringLiteral("3:56 C51"));
+}
+
+void TestReadingFaults::messageSaysWhyANameIsRefused_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("f(1)") << R"("1" is no name: letters, digits and "_", a letter first)";
+    QTest::newRow("sin") << R"("sin" is a function)";
+    QTest::newRow("end") << R"("end" is a word of expressions, or the name of a control point)";
+    QTest::newRow("p7") << R"("p7" is a word of expressions, or the name of a control point)";
+    QTest::newRow("middle") << R"("middle" is a value of every shape)";
+    QTest::newRow("used") << R"("used" is another value or function of this file)";
+    QTest::newRow("f(v, v)") << R"("v" is there twice)";
+}
+
+void TestReadingFaults::messageSaysWhyANameIsRefused()
+{
+    QFETCH(QString, text);
+    QVector<Message> messages;
+    declaredtest::readOf(
+        declaredtest::fileOf("<shape:property name='used' type='switch' value='no'/><shape:let name='" +
+                             QByteArray(QTest::currentDataTag()) + "' value='used'/>"),
+        &messages);
+    QVERIFY(!messages.isEmpty());
+    QCOMPARE(messages.first().code, QStringLiteral("C12"));
+    QCOMPARE(messages.first().text, text);
 }
 
 void TestReadingFaults::titlesOfSuccessorsMakeNoKeyThatIsTaken_data()
