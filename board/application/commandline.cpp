@@ -1,9 +1,11 @@
 #include "application/commandline.h"
 
 #include "application/screenshot.h"
+#include "application/shapefile.h"
 #include "core/texts.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QFileInfo>
 
 #include <cmath>
 
@@ -13,6 +15,8 @@ namespace {
 
 constexpr double smallestScale = 0.05;
 constexpr double largestScale = 16;
+constexpr int smallestThumbnail = 16;
+constexpr int largestThumbnail = 4096;
 
 /// "en or de".
 QString languageChoice()
@@ -38,6 +42,14 @@ struct Parser
                               "png"};
     QCommandLineOption scale{"scale", "Pixels per page unit of exported pages, 0.05 to 16 (1 without this option).",
                              "factor", "1"};
+    QCommandLineOption thumbnail{
+        "thumbnail",
+        "Write a picture of the first page of the file to <picture>, as PNG, and stop. Needs "
+        "no display.",
+        "picture"};
+    QCommandLineOption thumbnailSize{
+        "thumbnail-size", "Pixels of the longer side of a thumbnail, 16 to 4096 (256 without this option).",
+        "pixels", "256"};
     QCommandLineOption play{"play", "Play the lesson of the file; with --export, write the pages as it leaves them "
                                     "(several lessons: a folder for each)."};
     QCommandLineOption present{"present", "Present the file, else --demo, over the whole screen."};
@@ -55,11 +67,11 @@ struct Parser
         , version(parser.addVersionOption())
     {
         parser.setApplicationDescription("A board to draw and teach on: shapes that you reshape by hand.");
-        parser.addPositionalArgument("file", "The board to open.", "[file]");
+        parser.addPositionalArgument("file", "The board to open, or a shape (NAME.shape.svg) to try.", "[file]");
         screenshot.setFlags(QCommandLineOption::HiddenFromHelp);
         state.setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.addOptions(
-            {plugins, shapes, exportPages, format, scale, play, present, demo, language, dark, screenshot, state});
+        parser.addOptions({plugins, shapes, exportPages, format, scale, thumbnail, thumbnailSize, play, present,
+                           demo, language, dark, screenshot, state});
     }
 };
 
@@ -93,6 +105,12 @@ QString problemOf(const Parser &p)
         return QStringLiteral("--export takes the folder to write to.");
     if (p.parser.isSet(p.play) && p.parser.positionalArguments().isEmpty())
         return QStringLiteral("--play takes the file with the lesson.");
+    const int pixels = p.parser.value(p.thumbnailSize).toInt();
+    if (pixels < smallestThumbnail || pixels > largestThumbnail)
+        return QStringLiteral("--thumbnail-size takes a whole number from 16 to 4096, not \"%1\".")
+            .arg(p.parser.value(p.thumbnailSize));
+    if (p.parser.isSet(p.thumbnail) && p.parser.positionalArguments().isEmpty())
+        return QStringLiteral("--thumbnail takes the file to picture as well.");
     const QString format = p.parser.value(p.format);
     if (format != QLatin1String("png") && format != QLatin1String("svg"))
         return QStringLiteral("--format takes png or svg, not \"%1\".").arg(format);
@@ -105,6 +123,8 @@ Options::Action actionOf(const Parser &p)
 {
     if (p.parser.isSet(p.exportPages))
         return Options::ExportPages;
+    if (p.parser.isSet(p.thumbnail))
+        return Options::WriteThumbnail;
     return p.parser.isSet(p.screenshot) ? Options::TakeScreenshot : Options::OpenWindow;
 }
 
@@ -115,9 +135,14 @@ Options optionsOf(const Parser &p)
     options.pluginFolders = p.parser.values(p.plugins);
     options.shapeFolders = p.parser.values(p.shapes);
     options.file = p.parser.positionalArguments().value(0);
+    // Its kind is looked for as any other.
+    if (isShapeFile(options.file))
+        options.shapeFolders.prepend(QFileInfo(options.file).absolutePath());
     options.exportsSvg = p.parser.value(p.format) == QLatin1String("svg");
     options.exportFolder = p.parser.value(p.exportPages);
     options.scale = p.parser.value(p.scale).toDouble();
+    options.thumbnailFile = p.parser.value(p.thumbnail);
+    options.thumbnailSize = p.parser.value(p.thumbnailSize).toInt();
     options.screenshotFile = p.parser.value(p.screenshot);
     options.screenshotState = p.parser.value(p.state);
     options.play = p.parser.isSet(p.play);

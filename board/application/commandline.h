@@ -8,7 +8,7 @@ namespace board {
 /// Options of the command line.
 struct Options
 {
-    enum Action { OpenWindow, ExportPages, TakeScreenshot, ShowText };
+    enum Action { OpenWindow, ExportPages, WriteThumbnail, TakeScreenshot, ShowText };
     Action action = OpenWindow;
     /// For ShowText: what to print, on stderr when `failed`.
     QString message;
@@ -20,6 +20,8 @@ struct Options
     QString exportFolder;
     bool exportsSvg = false; ///< drawings in place of pictures
     double scale = 1;        ///< pixels per scene unit of exported pages
+    QString thumbnailFile;
+    int thumbnailSize = 256; ///< pixels of the longer side
     QString screenshotFile;
     QString screenshotState; ///< "empty", "shapes", "selection", "drag", "recording" or "playing"
     bool play = false;       ///< the file's lessons

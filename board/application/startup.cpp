@@ -3,6 +3,7 @@
 #include "application/commandline.h"
 #include "application/demopages.h"
 #include "application/screenshot.h"
+#include "application/shapefile.h"
 #include "core/pluginfolders.h"
 #include "core/toolchoice.h"
 #include "core/windowmemory.h"
@@ -23,6 +24,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QTextStream>
 #include <QtCore/QTranslator>
+#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
 namespace board {
@@ -52,7 +54,8 @@ int showText(const Options &options)
 
 void setUpScreens(const Options &options)
 {
-    if (options.action == Options::ExportPages && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool needsWindow = options.action == Options::OpenWindow || options.action == Options::TakeScreenshot;
+    if (!needsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -84,9 +87,20 @@ void printProblems(const Workspace &workspace)
     QObject::connect(&workspace, &Workspace::pluginProblemFound, &workspace, printProblem);
 }
 
+/// False, and told, when there is no such shape.
+bool tryShape(Workspace &workspace, const QString &file)
+{
+    const bool isPlaced = placeShapeOf(file, workspace);
+    if (!isPlaced)
+        QTextStream(stderr) << file << ": there is no shape that can be used\n";
+    return isPlaced;
+}
+
 /// False when nothing of the file could be read.
 bool loadFile(Workspace &workspace, const QString &file)
 {
+    if (isShapeFile(file))
+        return tryShape(workspace, file);
     pagehost::OpenResult result = pagehost::openDocument(QFileInfo(file).absoluteFilePath(), workspace.registry());
     QTextStream errors(stderr);
     for (const pagehost::FileMessage &message : qAsConst(result.messages))
@@ -117,6 +131,17 @@ int exportAll(Workspace &workspace, const Options &options)
     return result.files.isEmpty() || !result.problems.isEmpty() ? 1 : 0;
 }
 
+int makeThumbnail(Workspace &workspace, const Options &options)
+{
+    if (!loadFile(workspace, options.file))
+        return 1;
+    const QString problem =
+        writeThumbnail(workspace.document()->page(0), options.thumbnailFile, options.thumbnailSize);
+    if (!problem.isEmpty())
+        QTextStream(stderr) << problem << '\n';
+    return problem.isEmpty() ? 0 : 1;
+}
+
 int openWindow(Workspace &workspace, const Options &options)
 {
     if (options.demo)
@@ -124,7 +149,9 @@ int openWindow(Workspace &workspace, const Options &options)
     MainWindow window(&workspace);
     restoreWindow(&window);
     window.show();
-    if (!options.file.isEmpty())
+    if (isShapeFile(options.file))
+        tryShape(workspace, options.file);
+    else if (!options.file.isEmpty())
         window.documents()->openNow(options.file);
     else if (!options.demo)
         window.tools()->choose(Tool::Pen);
@@ -143,6 +170,8 @@ int work(Workspace &workspace, const Options &options)
     switch (options.action) {
     case Options::ExportPages:
         return exportAll(workspace, options);
+    case Options::WriteThumbnail:
+        return makeThumbnail(workspace, options);
     case Options::TakeScreenshot:
         return takeScreenshot(workspace, options.screenshotState, options.screenshotFile, options.file) ? 0 : 1;
     default:
@@ -162,6 +191,8 @@ int runBoard(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("gliololok"));
     QApplication::setApplicationName(QStringLiteral("gliololok-board"));
+    QApplication::setDesktopFileName(QStringLiteral("org.gliololok.Board"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.gliololok.Board")));
     QApplication::setApplicationVersion(QStringLiteral(BOARD_VERSION));
     const bool dark = options.dark || (options.action == Options::OpenWindow && remembersDarkColors());
     applyTheme(dark ? Theme::Dark : Theme::Light);

@@ -9,6 +9,7 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
+#include <QtGui/QPainter>
 
 namespace board {
 
@@ -74,6 +75,17 @@ ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectReg
     for (int i = 0; i < files.size(); ++i)
         exportPage(document->page(i), registry, files[i], format, result);
     return result;
+}
+
+QString writeThumbnail(pagehost::Page *page, const QString &path, int longestSide)
+{
+    const QSizeF size = page->size().scaled(longestSide, longestSide, Qt::KeepAspectRatio);
+    QImage picture(size.toSize().expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    pagehost::paintPage(page, &painter, picture.rect());
+    painter.end();
+    return writeFile(path, encodedAsPng(picture));
 }
 
 } // namespace board

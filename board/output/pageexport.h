@@ -5,6 +5,7 @@
 namespace pagehost {
 class Document;
 class ObjectRegistry;
+class Page;
 } // namespace pagehost
 
 namespace board {
@@ -31,5 +32,9 @@ QStringList exportFiles(const pagehost::Document *document, const QString &folde
 /// are replaced. A page with an object that has no look as SVG can't become a drawing.
 ExportResult exportPages(pagehost::Document *document, const pagehost::ObjectRegistry &registry,
                          const QString &folder, const ExportFormat &format);
+
+/// Writes a picture of the page, `longestSide` pixels in the longer direction, as PNG into `path`, which is
+/// replaced. The result is a sentence in English about what went wrong, empty if nothing.
+QString writeThumbnail(pagehost::Page *page, const QString &path, int longestSide);
 
 } // namespace board

@@ -252,6 +252,15 @@ void ObjectRegistry::addFolders(const QStringList &folders)
             run(source, QStringLiteral("addFolders()"), [&] { source.kinds->addFolders(folders); });
 }
 
+QString ObjectRegistry::kindOfFile(const QString &path) const
+{
+    QString kindId;
+    for (const Source &source : m_sources)
+        if (kindId.isEmpty() && source.kinds)
+            run(source, QStringLiteral("kindOfFile()"), [&] { kindId = source.kinds->kindOfFile(path); });
+    return kindId;
+}
+
 void ObjectRegistry::listenTo(const Source &source)
 {
     auto *messages = dynamic_cast<MessageSource *>(source.plugin);

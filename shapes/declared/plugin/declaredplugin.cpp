@@ -11,6 +11,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <QtCore/QFileInfo>
+
 #include <algorithm>
 
 namespace declared {
@@ -127,6 +129,15 @@ void DeclaredPlugin::addFolders(const QStringList &folders)
 {
     m_folders = folders + m_folders;
     reload();
+}
+
+QString DeclaredPlugin::kindOfFile(const QString &path) const
+{
+    const SharedDeclaration declaration = m_good.value(QFileInfo(path).absoluteFilePath());
+    for (const ShapeKind *shape : m_library->offered())
+        if (&shape->declaration() == declaration.get())
+            return shape->kind().id();
+    return {};
 }
 
 QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const

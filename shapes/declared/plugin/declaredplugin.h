@@ -42,6 +42,7 @@ public:
     void setKindsListener(const Listener &listener) override;
     QStringList faults() const override { return m_faults; }
     void addFolders(const QStringList &folders) override;
+    QString kindOfFile(const QString &path) const override;
     /// Faults of files and of drawing their shapes.
     QVector<pagehost::PluginMessage> messages() const override { return m_log->messages(); }
     void setMessageListener(const pagehost::MessageListener &listener) override { m_log->setListener(listener); }

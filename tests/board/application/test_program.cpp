@@ -4,6 +4,7 @@
 
 #include <pagehost/documentfile.h>
 #include <pagehost/lesson.h>
+#include <pagehost/page.h>
 
 #include <support/patience.h>
 
@@ -69,6 +70,9 @@ private Q_SLOTS:
     void exportWritesThePages();
     void exportWritesTheBoardThatIsGiven();
     void exportWritesDrawings();
+    void thumbnailShowsTheFirstPage();
+    void thumbnailOfAThinPageHasAPixelAcross();
+    void shapeFileIsTriedOnABlankPage();
     void playedLessonIsExported();
     void severalPlayedLessonsGetAFolderEach();
     void playingWithoutALessonFails();
@@ -105,8 +109,8 @@ void TestProgram::helpNamesEveryOption()
 {
     const Outcome outcome = run({"--help"});
     QCOMPARE(outcome.code, 0);
-    for (const char *option :
-         {"--plugins", "--export", "--format", "--scale", "--demo", "--language", "--dark", "--play", "--help"})
+    for (const char *option : {"--plugins", "--export", "--format", "--scale", "--thumbnail", "--thumbnail-size",
+                               "--demo", "--language", "--dark", "--play", "--help"})
         QVERIFY2(outcome.out.contains(option), option);
 }
 
@@ -130,6 +134,17 @@ void TestProgram::badArgumentsAreRefused_data()
     QTest::newRow("scale nan") << QStringList{"--export", "x", "--scale", "nan"} << "--scale";
     QTest::newRow("scale 1e999") << QStringList{"--export", "x", "--scale", "1e999"} << "--scale";
     QTest::newRow("language") << QStringList{"--language", "xx"} << "xx";
+    QTest::newRow("thumbnail of 15") << QStringList{"a.board", "--thumbnail", "x", "--thumbnail-size", "15"}
+                                     << "--thumbnail-size";
+    QTest::newRow("thumbnail of 4097") << QStringList{"a.board", "--thumbnail", "x", "--thumbnail-size", "4097"}
+                                       << "--thumbnail-size";
+    QTest::newRow("thumbnail of no number")
+        << QStringList{"a.board", "--thumbnail", "x", "--thumbnail-size", "big"} << "big";
+    QTest::newRow("thumbnail of nothing") << QStringList{"--thumbnail", "x"} << "--thumbnail";
+    QTest::newRow("thumbnail of a file that is not there")
+        << QStringList{"nowhere.board", "--thumbnail", "x"} << "nowhere.board";
+    QTest::newRow("shape that is not there")
+        << QStringList{"nowhere.shape.svg", "--thumbnail", "x"} << "nowhere.shape.svg: there is no shape";
     QTest::newRow("export without a folder") << QStringList{"--export"} << "export";
     QTest::newRow("export to nothing") << QStringList{"--export", ""} << "--export";
 }
@@ -210,6 +225,73 @@ void TestProgram::exportWritesDrawings()
     const double ofAllKinds = (differences.at(0) + differences.at(1)) / 2;
     QVERIFY2(ofAllKinds < mostDifference, qPrintable(QString::number(ofAllKinds)));
     QVERIFY2(differences.at(2) < mostDifference, qPrintable(QString::number(differences.at(2))));
+}
+
+/// A board with a page of one colour and another page.
+static QString boardOfColor(const QTemporaryDir &folder, const QSizeF &size, const QColor &color)
+{
+    pagehost::Document document;
+    pagehost::Page *page = document.appendPage(size);
+    CPageBgProp background(page);
+    background.setFillEnable(true);
+    background.setFillType(CPageBgProp::SolidFill);
+    background.setFillColor(color);
+    page->setBackground(background);
+    document.appendPage(QSizeF(50, 300));
+    const QString file = folder.filePath("first.board");
+    return pagehost::saveDocument(document, file).saved ? file : QString();
+}
+
+void TestProgram::thumbnailShowsTheFirstPage()
+{
+    const QTemporaryDir folder;
+    const QString file = boardOfColor(folder, {200, 100}, QColor(0, 100, 200));
+    const QString target = folder.filePath("thumbnail.png");
+    QCOMPARE(run({file, "--thumbnail", target}).code, 0);
+    QCOMPARE(QImage(target).size(), QSize(256, 128));
+    QCOMPARE(QImage(target).pixelColor(128, 64), QColor(0, 100, 200));
+    // An earlier one is replaced.
+    const Outcome outcome = run({file, "--thumbnail", target, "--thumbnail-size", "64"});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out + outcome.errors, QString());
+    QCOMPARE(QImage(target).size(), QSize(64, 32));
+    const Outcome impossible = run({file, "--thumbnail", folder.filePath("nowhere/thumbnail.png")});
+    QCOMPARE(impossible.code, 1);
+    QVERIFY2(impossible.errors.contains("nowhere/thumbnail.png"), qPrintable(impossible.errors));
+}
+
+void TestProgram::thumbnailOfAThinPageHasAPixelAcross()
+{
+    const QTemporaryDir folder;
+    const QString file = boardOfColor(folder, {2000, 1}, Qt::white);
+    const QString target = folder.filePath("thumbnail.png");
+    QCOMPARE(run({file, "--thumbnail", target, "--thumbnail-size", "16"}).code, 0);
+    QCOMPARE(QImage(target).size(), QSize(16, 1));
+}
+
+/// A shape that fills its frame with a colour.
+static QString fullShapeIn(const QTemporaryDir &folder, const char *color)
+{
+    QFile file(folder.filePath("full.shape.svg"));
+    const QString svg = QString("<svg xmlns='http://www.w3.org/2000/svg' xmlns:shape='urn:gliololok:shape' "
+                                "viewBox='0 0 120 80'><shape:about name='Full' id='colored'/>"
+                                "<path id='figure' fill='%1' stroke='%1' d='M0 0H120V80H0Z'/></svg>")
+                            .arg(color);
+    return file.open(QIODevice::WriteOnly) && file.write(svg.toUtf8()) > 0 ? file.fileName() : QString();
+}
+
+void TestProgram::shapeFileIsTriedOnABlankPage()
+{
+    const QTemporaryDir folder;
+    const QString file = fullShapeIn(folder, "#0064c8");
+    QCOMPARE(run({file, "--export", folder.path()}).code, 0);
+    const QImage page(folder.filePath("page-1.png"));
+    const QPoint middle = page.rect().center();
+    QCOMPARE(page.pixelColor(middle), QColor(0, 100, 200));
+    QCOMPARE(page.pixelColor(middle - QPoint(58, 38)), QColor(0, 100, 200));
+    QCOMPARE(page.pixelColor(middle + QPoint(58, 38)), QColor(0, 100, 200));
+    QCOMPARE(page.pixelColor(middle - QPoint(64, 44)), QColor(Qt::white));
+    QCOMPARE(page.pixelColor(middle + QPoint(64, 44)), QColor(Qt::white));
 }
 
 /// A lesson in which pages of a size appear, in a document whose own page is another.
@@ -369,6 +451,8 @@ void TestProgram::optionsAreRead()
     QCOMPARE(options.language, QString("de"));
     QCOMPARE(options.scale, 1.5);
     QCOMPARE(board::parseCommandLine({"board", "--export", "x"}).action, board::Options::ExportPages);
+    QCOMPARE(board::parseCommandLine({"board", "--shapes", "/a", "/b/nut.shape.svg"}).shapeFolders,
+             (QStringList{"/b", "/a"}));
 }
 
 QTEST_MAIN(TestProgram)

@@ -87,6 +87,7 @@ public:
     void setKindsListener(const Listener &) override {}
     QStringList faults() const override { return {}; }
     void addFolders(const QStringList &) override {}
+    QString kindOfFile(const QString &) const override { return {}; }
 
     QByteArray present;
 };

@@ -166,6 +166,8 @@ public:
     virtual QStringList faults() const = 0;
     /// Looks for files in further folders, before all others.
     virtual void addFolders(const QStringList &folders) = 0;
+    /// The id of the kind that a file declares; empty when the file cannot be used, or is in none of the folders.
+    virtual QString kindOfFile(const QString &path) const = 0;
 };
 
 /// A fault of a file that a plug-in makes objects of, or of their drawing.

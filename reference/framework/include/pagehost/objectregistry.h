@@ -62,6 +62,8 @@ public:
     QStringList faults() const;
     /// Folders in which plug-ins look for files first, those that are loaded later, too.
     void addFolders(const QStringList &folders);
+    /// The id of the kind that a file declares (KindSource::kindOfFile()); empty when there is none.
+    QString kindOfFile(const QString &path) const;
 
     /// All kinds, in order of registration.
     QVector<ObjectKind> kinds() const { return m_kinds; }
