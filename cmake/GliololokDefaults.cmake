@@ -21,8 +21,13 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(GLIOLOLOK_PLUGIN_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/gliololok/shapes")
 set(GLIOLOLOK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/gliololok/shapes")
 
+# The reference host's libraries have names that other packages may have, too.
+set(GLIOLOLOK_PRIVATE_LIBRARY_DIR "${CMAKE_INSTALL_LIBDIR}/gliololok")
+
 # Installed programs and libraries find each other wherever the prefix is.
-set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/gliololok")
+set(GLIOLOLOK_PROGRAM_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN/../${GLIOLOLOK_PRIVATE_LIBRARY_DIR}")
+set(GLIOLOLOK_PLUGIN_RPATH "$ORIGIN/.." "$ORIGIN/../..")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

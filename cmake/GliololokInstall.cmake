@@ -30,7 +30,8 @@ endif()
 
 # The file derives its prefix from its own location, so that an installation can be moved.
 if(GLIOLOLOK_REFERENCE_HOST)
-    set(GLIOLOLOK_PC_HOST_LIBRARIES "-lframework -lsvgbase")
+    set(GLIOLOLOK_PC_HOST_LIBRARIES
+        "-L\${privatelibdir} -lframework -lsvgbase -Wl,-rpath,\${privatelibdir}")
 endif()
 file(RELATIVE_PATH GLIOLOLOK_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 set(packages gliololok)

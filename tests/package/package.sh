@@ -92,19 +92,22 @@ versions_of() {
 
 step_symbol_versions() {
     local pair versions
-    for pair in gliololok:GLIOLOLOK_1 libframework:FRAMEWORK_1 libsvgbase:SVGBASE_1 libgliololok-shapekit:SHAPEKIT_1; do
+    for pair in gliololok:GLIOLOLOK_1 gliololok/libframework:FRAMEWORK_1 gliololok/libsvgbase:SVGBASE_1 \
+        libgliololok-shapekit:SHAPEKIT_1; do
         versions=$(versions_of "$libraries/${pair%:*}.so.1")
         [ "$versions" = "${pair#*:}" ] || fail "symbols of ${pair%:*} have the versions: $versions"
     done
 }
 
-# Flags that every linker and compiler knows. Qt's headers ask for -fPIC.
+# Flags that every linker and compiler knows. Qt's headers ask for -fPIC, and programs find the host's libraries in their
+# private folder.
 step_pkgconfig_flags() {
     local package flag
     for package in gliololok gliololok-shapekit; do
         for flag in $(package_flags --cflags --libs "$package"); do
             case $flag in
             -l:*) fail "$package names a library by its file: $flag" ;;
+            -Wl,-rpath,/*/gliololok) ;;
             -l* | -L/* | -I/* | -D* | -fPIC) ;;
             *) fail "$package has the flag $flag" ;;
             esac
@@ -260,7 +263,7 @@ step_other_host() {
     ! grep -q -- -Werror "$directory/build.ninja" || fail "our warnings are its errors"
     ninja -C "$directory" -t query lib/gliololok.so.1.0.0 | grep -q otherhost_framework ||
         fail "the library is not linked to that host"
-    ! grep -q -e -lframework -e -lsvgbase "$directory/gliololok/gliololok.pc" || fail "gliololok.pc names our host"
+    ! grep -q -e -lframework -e -lsvgbase -e -rpath "$directory/gliololok/gliololok.pc" || fail "gliololok.pc names our host"
     grep -q -e '-lframework -lsvgbase' "$build/gliololok.pc" || fail "our own gliololok.pc lacks our host"
 }
 
