@@ -14,6 +14,7 @@
 #include <QtCore/QtMath>
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -64,6 +65,15 @@ QPointF centreOf(const CBaseObject *object)
 void moveCentreTo(CBaseObject *object, const QPointF &centre)
 {
     object->setPos(object->getPos() + centre - centreOf(object), false);
+}
+
+/// Those of the palette; of kinds that only tools make, like texts, nothing is to be seen yet.
+QVector<pagehost::ObjectKind> shownKinds(const Workspace &workspace)
+{
+    QVector<pagehost::ObjectKind> kinds = workspace.registry().kinds();
+    const auto isHidden = [](const pagehost::ObjectKind &kind) { return kind.group.isEmpty(); };
+    kinds.erase(std::remove_if(kinds.begin(), kinds.end(), isHidden), kinds.end());
+    return kinds;
 }
 
 /// Cells of a page in reading order.
@@ -137,7 +147,7 @@ public:
     /// All kinds again and again, each turned a little further, around a few large ones.
     void paintWreath()
     {
-        const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
+        const QVector<pagehost::ObjectKind> kinds = shownKinds(m_workspace);
         constexpr int places = 12;
         constexpr double degrees = 360.0 / places;
         const QPointF centre = m_page->rect().center();
@@ -158,7 +168,7 @@ public:
 private:
     template<class Decorate> void paintKinds(Decorate decorate)
     {
-        const QVector<pagehost::ObjectKind> kinds = m_workspace.registry().kinds();
+        const QVector<pagehost::ObjectKind> kinds = shownKinds(m_workspace);
         const Grid grid = Grid::forKinds(m_page->rect(), kinds.size());
         for (int i = 0; i < kinds.size(); ++i)
             if (CBaseObject *object = place(kinds.at(i).id, grid.cell(i), cellPart))
@@ -226,7 +236,7 @@ void clearPages(pagehost::Document *document)
 
 void fillWithDemo(Workspace &workspace)
 {
-    if (workspace.registry().kinds().isEmpty())
+    if (shownKinds(workspace).isEmpty())
         return;
     pagehost::Document *document = workspace.document();
     CUndoRedo::GetInstance()->stack()->clear();

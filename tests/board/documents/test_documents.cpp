@@ -69,7 +69,7 @@ private Q_SLOTS:
     void aNewBoardHasNoNameAndNoChanges();
     void changesAreMarkedInTheTitleUntilUndone();
     void demoPagesAreNoWorkToBeSaved();
-    void demoPagesShowEveryKind();
+    void demoPagesShowEveryKindOfThePalette();
     void savingAsksForANameOnce();
     void bothFormatsAreWritten_data();
     void bothFormatsAreWritten();
@@ -124,7 +124,7 @@ void TestDocuments::demoPagesAreNoWorkToBeSaved()
     QVERIFY(!desk.board.window().isWindowModified());
 }
 
-void TestDocuments::demoPagesShowEveryKind()
+void TestDocuments::demoPagesShowEveryKindOfThePalette()
 {
     Desk desk;
     board::fillWithDemo(desk.board.workspace());
@@ -136,7 +136,9 @@ void TestDocuments::demoPagesShowEveryKind()
             shown.append(object->kindName());
         QStringList expected;
         for (const pagehost::ObjectKind &kind : kinds)
-            expected.append(kind.nameKey);
+            if (!kind.group.isEmpty())
+                expected.append(kind.nameKey);
+        QVERIFY(expected.size() < kinds.size()); // texts are made by a tool alone
         QCOMPARE(shown, expected);
     }
 }
