@@ -72,10 +72,11 @@ installs() {
 step_components() {
     local part all
     rm -rf "$work/components"
-    installs runtime "$LIBDIR"/gliololok.so.1 "$LIBDIR"/lib{framework,svgbase,gliololok-shapekit}.so.1
+    installs runtime "$LIBDIR"/{gliololok,libgliololok-shapekit}.so.1 "$LIBDIR"/gliololok/lib{framework,svgbase}.so.1
     installs development "$LIBDIR"/libgliololok-shapekit.so "$LIBDIR"/cmake/gliololok/gliololokConfig.cmake \
         "$LIBDIR"/pkgconfig/gliololok.pc include/svgobj/csvgobj.h include/shapekit/shape.h
-    installs board bin/gliololok-board
+    installs board bin/gliololok-board share/man/man1/gliololok-board.1 share/mime/packages/gliololok.xml \
+        share/applications/org.gliololok.Board.desktop share/icons/hicolor/256x256/apps/org.gliololok.Board.png
     installs shapes "$LIBDIR"/gliololok/shapes/{declared.so,star.shape.svg}
     installs tools bin/gliololok-shape share/man/man1/gliololok-shape.1 \
         share/doc/gliololok/docs/shape-{author,reference}.md share/doc/gliololok/examples/declared/star.shape.svg
