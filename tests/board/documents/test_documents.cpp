@@ -132,7 +132,8 @@ void TestDocuments::demoPagesShowEveryKindOfThePalette()
     // Plain on the first page, varied on the second.
     for (int page = 0; page < 2; ++page) {
         QStringList shown;
-        for (const CBaseObject *object : desk.board.workspace().document()->page(page)->objects())
+        const QVector<CBaseObject *> objects = desk.board.workspace().document()->page(page)->objects();
+        for (const CBaseObject *object : objects)
             shown.append(object->kindName());
         QStringList expected;
         for (const pagehost::ObjectKind &kind : kinds)
@@ -535,7 +536,7 @@ void TestDocuments::keysHaveFallbacks()
     BoardDriver board;
     const QAction *action = board.action(text);
     QVERIFY(action);
-    QCOMPARE(action->shortcuts().first(), QKeySequence(keys));
+    QCOMPARE(action->shortcuts().constFirst(), QKeySequence(keys));
 }
 
 QTEST_MAIN(TestDocuments)
