@@ -129,7 +129,7 @@ int drawFile(const Request &request)
         return complain(QStringLiteral("%1 can't be read: %2").arg(request.input, file.errorString()));
     Messages messages;
     const QByteArray text = contents(file);
-    const std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(text, &messages));
+    std::unique_ptr<QZeSvgTinyDocument> document(QZeSvgTinyDocument::load(text, &messages));
     if (!document) {
         print(request.input, text, messages);
         return Refused;
@@ -137,7 +137,10 @@ int drawFile(const Request &request)
     if (request.time)
         document->setAnimationTime(*request.time);
     const QImage drawing = picture(*document, request.size);
-    print(request.input, text, document->messages());
+    messages = document->messages();
+    // Places of messages need memory, too.
+    document.reset();
+    print(request.input, text, messages);
     if (drawing.isNull())
         return complain(QStringLiteral("There is not enough memory for a picture of %1 by %2 pixels.")
                             .arg(request.size.width())
