@@ -105,8 +105,8 @@ def filter_blur(n):
 @document
 def filter_chain(n):
     return svg('<filter id="f" x="-9" y="-9" width="20" height="20">' +
-               '<feGaussianBlur stdDeviation="9"/><feTurbulence baseFrequency=".1" numOctaves="99"/>' * 50 +
-               '</filter><rect width="90" height="90" filter="url(#f)"/>' * (20 // n or 1))
+               '<feGaussianBlur stdDeviation="9"/><feTurbulence baseFrequency=".1" numOctaves="99"/>' * 50 + '</filter>' +
+               '<rect width="90" height="90" filter="url(#f)"/>' * (20 // n or 1))
 
 
 @document

@@ -181,7 +181,7 @@ def entities(n):
     return text + "]><svg><text>&a11;</text></svg>"
 
 
-@document(refused=True)
+@document
 def namespaces(n):
     return svg("".join(f'<g xmlns:a{i}="urn:a" xmlns:b{i}="urn:b">' for i in range(500)) + "</g>" * 500 +
                '<rect width="9" height="9"/>')
@@ -371,7 +371,7 @@ def characters_in_runs(n):
 
 @document
 def references_of_characters(n):
-    return svg(f'<rect width="9" height="9" data-x="{"&amp;&#x41;" * (1500000 // n)}"/><text>{"&lt;" * (2000000 // n)}'
+    return svg(f'<rect width="9" height="9" data-x="{"&amp;&#x41;" * (900000 // n)}"/><text>{"&lt;" * (1500000 // n)}'
                "</text>")
 
 
@@ -407,7 +407,7 @@ def names_long(n):
 def numbers_long(n):
     number = "1" + "0" * (100000 // n) + "." + "1" * (100000 // n) + "e-99999"
     return svg(f'<rect width="{number}" height="9" rx="{number}" transform="scale({number})" '
-               f'stroke-dasharray="{number}" points="{number}"/>' * 20)
+               f'stroke-dasharray="{number}" points="{number}"/>' * 16)
 
 
 @document
@@ -425,7 +425,7 @@ def calculations_deep(n):
 @document
 def colors_from_colors(n):
     color = "rgb(from " * 400 + "red" + " r g b)" * 400
-    return svg(f'<rect width="9" height="9" style="fill:{color};stroke:{color}"/>' * (3000 // n))
+    return svg(f'<rect width="9" height="9" style="fill:{color};stroke:{color}"/>' * (1100 // n))
 
 
 @document
