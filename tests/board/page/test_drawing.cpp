@@ -342,11 +342,11 @@ void TestDrawing::paletteBeginsWithTheBasicShapes_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QStringList>("groups");
     QTest::addColumn<QStringList>("firstNames");
-    QTest::newRow("English") << "en" << QStringList{"Basic shapes", "Mathematics", "Science"}
-                             << QStringList{"Block arrow", "Callout", "Chevron"};
-    // Not in the order of the files: there the block arrow is the first.
-    QTest::newRow("German") << "de" << QStringList{"Grundformen", "Mathematik", "Naturwissenschaft"}
-                            << QStringList{"Abgerundetes Rechteck", "Bild", "Blockpfeil"};
+    QTest::newRow("English") << "en" << QStringList{"Basic shapes", "Diagrams", "Mathematics", "Science"}
+                             << QStringList{"Rounded rectangle", "Ellipse", "Triangle"};
+    // By use in every language: by name the picture would come before the ellipse.
+    QTest::newRow("German") << "de" << QStringList{"Grundformen", "Diagramme", "Mathematik", "Naturwissenschaft"}
+                            << QStringList{"Abgerundetes Rechteck", "Ellipse", "Dreieck"};
 }
 
 void TestDrawing::paletteBeginsWithTheBasicShapes()
