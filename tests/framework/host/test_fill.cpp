@@ -296,6 +296,8 @@ void TestFill::impossibleStreamValuesLeaveTheFillAlone_data()
     QTest::newRow("type above all") << 5 << 0 << 0.0;
     QTest::newRow("pattern below all") << 1 << -1 << 0.0;
     QTest::newRow("texture as pattern") << 1 << int(Qt::TexturePattern) << 0.0;
+    QTest::newRow("pattern below those of paper") << 1 << 25 << 0.0;
+    QTest::newRow("pattern above those of paper") << 1 << 31 << 0.0;
     QTest::newRow("angle not a number") << 1 << 0 << qQNaN();
 }
 

@@ -13,8 +13,9 @@ namespace pagehost {
 /// Lines printed on a page. They are part of its background: a pattern fill with a number of its own, whose colour
 /// is that of the paper.
 enum class Paper { Blank, Ruled, Squared, Dotted, Music, Millimetre };
-/// The pattern number of Paper::Ruled; the others follow.
-constexpr int firstPaperPattern = 32;
+/// The pattern number of Paper::Ruled; the others follow. No brush of Qt has such a number, and Qt::BrushStyle can
+/// hold it: the type ends with 31.
+constexpr int firstPaperPattern = 26;
 
 FRAMEWORK_EXPORT bool isPaperPattern(int pattern);
 /// Blank for backgrounds of any other kind.
