@@ -17,7 +17,7 @@ public:
     explicit TestObject(const QSizeF &size = QSizeF(100, 60), const QPointF &pos = QPointF(0, 0))
         : CBaseObject(1, true, nullptr, nullptr)
     {
-        CPSRootObject::setSize(size, false, false);
+        CBaseObject::setSize(size, false, false);
         CPSRootObject::setPos(pos, false);
     }
 
