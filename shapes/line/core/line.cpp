@@ -339,10 +339,19 @@ int Line::getMaxPenWidth()
     return widestPen;
 }
 
-/// Whether a control point stays where it is: an end on an object, and the middle of a right-angled line.
+/// Whether a control point stays where it is: an end on an object, and the middle of a right-angled line. Damaged
+/// data may claim further points, which are nobody's.
 bool Line::isFixed(int number) const
 {
-    return number == 3 ? m_course.isAngled : m_isEndJoined[number - 1];
+    switch (number) {
+    case 1:
+    case 2:
+        return m_isEndJoined[size_t(number) - 1];
+    case 3:
+        return m_course.isAngled;
+    default:
+        return true;
+    }
 }
 
 QRectF Line::range(int number)
