@@ -1,40 +1,21 @@
 #pragma once
 
-#include "line/core/line.h"
-
-#include <pagehost/pagetool.h>
-
-namespace shapekit {
-class Text;
-struct Kind;
-} // namespace shapekit
+#include "line/tools/draggedlinetool.h"
 
 namespace line {
 
 /// Draws lines, arrows and curves from end to end. Shift keeps to directions of whole steps of 15 degrees.
-class LineTool : public pagehost::PageTool
+class LineTool : public DraggedLineTool
 {
 public:
-    /// New lines are objects of `kind`.
     LineTool(pagehost::ToolPage *page, const shapekit::Kind &kind);
 
     /// The title of the undo step.
     static const shapekit::Text &stepText();
 
-    void setStyle(const pagehost::ToolStyle &style) override { m_style = style; }
-    void press(const pagehost::ToolPointer &pointer) override;
-    void move(const pagehost::ToolPointer &pointer) override;
-    void release(const pagehost::ToolPointer &pointer) override;
-    bool isDrawing() const override { return m_line != nullptr; }
-    bool cancel() override;
-
-private:
-    pagehost::ToolPage *m_page;
-    const shapekit::Kind &m_kind;
-    pagehost::ToolStyle m_style;
-    Line *m_line = nullptr; ///< while it is drawn
-    QPointF m_start;        ///< scene coordinates
-    bool m_isLong = false;  ///< dragged farther than a click
+protected:
+    void begin(Line &line, const pagehost::ToolPointer &pointer) override;
+    void draw(Line &line, const pagehost::ToolPointer &pointer) override;
 };
 
 } // namespace line
