@@ -45,7 +45,6 @@ constexpr int barButtonSide = 32;
 constexpr int barIconSide = 20;
 constexpr int dockThickness = 56;
 constexpr int shelfThickness = 40;
-constexpr int surfaceRadius = 10;
 constexpr int buttonRadius = 8;
 
 } // namespace board

@@ -1,5 +1,6 @@
 #include "presenting/fadingdock.h"
 
+#include "look/surface.h"
 #include "look/theme.h"
 
 #include <QtGui/QMouseEvent>
@@ -52,10 +53,7 @@ FadingDock::FadingDock(QWidget *under)
 void FadingDock::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(themeColors().border);
-    painter.setBrush(themeColors().surface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+    paintSurface(&painter, rect());
 }
 
 /// Above a curtain, too.

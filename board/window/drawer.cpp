@@ -1,5 +1,6 @@
 #include "window/drawer.h"
 
+#include "look/surface.h"
 #include "look/theme.h"
 
 #include <QtGui/QKeyEvent>
@@ -116,10 +117,7 @@ void Drawer::paintEvent(QPaintEvent *)
         painter.fillRect(rect(), colors.border);
         return painter.fillRect(rect().adjusted(1, 0, -1, 0), colors.bar);
     }
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(colors.border);
-    painter.setBrush(colors.surface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+    paintSurface(&painter, rect());
 }
 
 } // namespace board

@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/surface.h"
 #include "look/theme.h"
 #include "tools/toolsettings.h"
 #include "window/shelfbutton.h"
@@ -169,10 +170,7 @@ bool Shelf::eventFilter(QObject *watched, QEvent *event)
 void Shelf::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(themeColors().border);
-    painter.setBrush(themeColors().surface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+    paintSurface(&painter, rect());
 }
 
 } // namespace board

@@ -4,6 +4,7 @@
 #include "core/commands.h"
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/surface.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/colorbutton.h"
@@ -310,10 +311,7 @@ bool StyleBar::eventFilter(QObject *watched, QEvent *event)
 void StyleBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(themeColors().border);
-    painter.setBrush(themeColors().surface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius, surfaceRadius);
+    paintSurface(&painter, rect());
 }
 
 } // namespace board
