@@ -38,6 +38,14 @@ void moveBy(const QVector<CBaseObject *> &objects, const QPointF &delta)
         object->setPos(object->getPos() + delta, false);
 }
 
+/// The move that brings `area`, which is no larger than `page`, into it.
+QPointF wayInto(const QRectF &page, const QRectF &area)
+{
+    const double left = qBound(page.left(), area.left(), qMax(page.left(), page.right() - area.width()));
+    const double top = qBound(page.top(), area.top(), qMax(page.top(), page.bottom() - area.height()));
+    return QPointF(left, top) - area.topLeft();
+}
+
 } // namespace
 
 ClipboardController::ClipboardController(Workspace *workspace, PageView *view, Notices *notices, QObject *parent)
@@ -111,6 +119,7 @@ void ClipboardController::paste()
     const std::optional<QPointF> middle = isOverPage ? m_pointer : std::nullopt;
     place(pasted, middle);
     moveBy(pasted.objects, nextOffset(data->data(pagehost::objectsMimeType()), middle));
+    keepOnPage(pasted);
     add(pasted.objects);
 }
 
@@ -118,6 +127,7 @@ void ClipboardController::drop(const QMimeData &data, const QPointF &scenePos)
 {
     const Pasted pasted = read(data);
     place(pasted, scenePos);
+    keepOnPage(pasted);
     add(pasted.objects);
 }
 
@@ -160,6 +170,13 @@ void ClipboardController::place(const Pasted &pasted, const std::optional<QPoint
         const QRectF shown = m_view->mapToScene(m_view->viewport()->rect()).boundingRect() & page;
         moveBy(pasted.objects, (shown.isEmpty() ? page : shown).center() - bounds.center());
     }
+}
+
+/// Brings data of other programs wholly onto the page. Objects of a board may have stood partly off theirs.
+void ClipboardController::keepOnPage(const Pasted &pasted)
+{
+    if (!pasted.havePlaces)
+        moveBy(pasted.objects, wayInto(m_view->page()->rect(), pagehost::boundsOf(pasted.objects)));
 }
 
 QPointF ClipboardController::nextOffset(const QByteArray &data, const std::optional<QPointF> &middle)

@@ -42,7 +42,8 @@ public:
 
     /// Whether data other than documents can be dropped on the page.
     bool accepts(const QMimeData &data) const;
-    /// Puts what was dropped on the page, its middle at `scenePos`.
+    /// Puts what was dropped on the page, its middle at `scenePos`. What other programs give stays wholly on the
+    /// page.
     void drop(const QMimeData &data, const QPointF &scenePos);
 
 Q_SIGNALS:
@@ -60,6 +61,7 @@ private:
     bool isBusy() const;
     Pasted read(const QMimeData &data);
     void place(const Pasted &pasted, const std::optional<QPointF> &middle);
+    void keepOnPage(const Pasted &pasted);
     void add(const QVector<CBaseObject *> &objects);
     QPointF nextOffset(const QByteArray &data, const std::optional<QPointF> &middle);
 

@@ -48,6 +48,17 @@ struct CopyDesk
     void copy() { board.key(Qt::Key_C, Qt::ControlModifier); }
     void cut() { board.key(Qt::Key_X, Qt::ControlModifier); }
     void paste() { board.key(Qt::Key_V, Qt::ControlModifier); }
+    /// Whether the board took it.
+    bool drop(const QMimeData &data, const QPointF &pos)
+    {
+        QWidget *viewport = board.view().viewport();
+        const QPoint at = board.view().mapFromScene(pos);
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &enter);
+        QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &drop);
+        return enter.isAccepted();
+    }
     int newSteps() { return board.history().count() - steps; }
     QVector<CBaseObject *> objects() { return board.page().objects(); }
     QRectF placeOfLast() { return board.placeOf(objects().last()); }
@@ -83,6 +94,11 @@ private Q_SLOTS:
     void nothingUsableIsTold();
     void damagedDataDoNotCrash();
     void droppedPictureStandsUnderTheMouse();
+    void pictureDroppedNearAnEdgeStandsInsideThePage_data();
+    void pictureDroppedNearAnEdgeStandsInsideThePage();
+    void severalDroppedFilesStandInsideThePage();
+    void drawingPastedAtACornerStandsInsideThePage();
+    void largePictureDroppedAtACornerIsScaledDownIntoThePage();
     void pasteIsOfferedOnlyWhenThereIsSomething();
     void lookIsPastedAsOneStep();
     void gradientIsPartOfTheLook();
@@ -313,14 +329,72 @@ void TestClipboard::droppedPictureStandsUnderTheMouse()
     CopyDesk desk;
     QMimeData data;
     data.setImageData(picture(64, 48));
-    const QPoint at = desk.board.view().mapFromScene(QPointF(300, 200));
-    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(desk.board.view().viewport(), &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(desk.board.view().viewport(), &drop);
+    QVERIFY(desk.drop(data, {300, 200}));
     QCOMPARE(desk.placeOfLast(), QRectF(268, 176, 64, 48));
     QCOMPARE(desk.newSteps(), 1);
+}
+
+void TestClipboard::pictureDroppedNearAnEdgeStandsInsideThePage_data()
+{
+    QTest::addColumn<QPointF>("mouse");
+    QTest::addColumn<QRectF>("place");
+    QTest::newRow("left") << QPointF(10, 200) << QRectF(0, 176, 64, 48);
+    QTest::newRow("top") << QPointF(300, 5) << QRectF(268, 0, 64, 48);
+    QTest::newRow("right") << QPointF(1270, 200) << QRectF(1216, 176, 64, 48);
+    QTest::newRow("bottom") << QPointF(300, 715) << QRectF(268, 672, 64, 48);
+    QTest::newRow("corner") << QPointF(1275, 715) << QRectF(1216, 672, 64, 48);
+    QTest::newRow("beside the page") << QPointF(-20, 200) << QRectF(0, 176, 64, 48);
+    QTest::newRow("just inside") << QPointF(32, 24) << QRectF(0, 0, 64, 48);
+}
+
+void TestClipboard::pictureDroppedNearAnEdgeStandsInsideThePage()
+{
+    QFETCH(QPointF, mouse);
+    QFETCH(QRectF, place);
+    CopyDesk desk;
+    QMimeData data;
+    data.setImageData(picture(64, 48));
+    QVERIFY(desk.drop(data, mouse));
+    QCOMPARE(desk.placeOfLast(), place);
+    QCOMPARE(desk.newSteps(), 1);
+}
+
+/// The smaller one stands at the corner of the larger, as they lie on the page before they are placed.
+void TestClipboard::severalDroppedFilesStandInsideThePage()
+{
+    CopyDesk desk;
+    QTemporaryDir folder;
+    QVERIFY(picture(64, 48).save(folder.filePath("large.png")) &&
+            picture(20, 10).save(folder.filePath("small.png")));
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(folder.filePath("large.png")), QUrl::fromLocalFile(folder.filePath("small.png"))});
+    QVERIFY(desk.drop(data, {1275, 715}));
+    QCOMPARE(desk.objects().size(), 3);
+    QCOMPARE(desk.board.placeOf(desk.objects().at(1)), QRectF(1216, 672, 64, 48));
+    QCOMPARE(desk.board.placeOf(desk.objects().at(2)), QRectF(1216, 672, 20, 10));
+}
+
+void TestClipboard::drawingPastedAtACornerStandsInsideThePage()
+{
+    CopyDesk desk;
+    auto *data = new QMimeData;
+    data->setData("image/svg+xml", svgDrawing());
+    QGuiApplication::clipboard()->setMimeData(data);
+    Q_EMIT desk.board.view().pointerMoved(QPointF(1279, 1));
+    desk.paste();
+    // Small drawings come in a size that can be taken hold of.
+    QCOMPARE(desk.placeOfLast(), QRectF(1160, 0, 120, 90));
+}
+
+void TestClipboard::largePictureDroppedAtACornerIsScaledDownIntoThePage()
+{
+    CopyDesk desk;
+    QMimeData data;
+    desk.board.page().setSize(QSizeF(500, 400));
+    data.setImageData(picture(800, 200));
+    QVERIFY(desk.drop(data, {480, 390}));
+    QCOMPARE(desk.placeOfLast(), QRectF(0, 275, 500, 125));
 }
 
 void TestClipboard::pasteIsOfferedOnlyWhenThereIsSomething()
