@@ -1,9 +1,9 @@
 #include "look/theme.h"
 
+#include "look/controlstyle.h"
+
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleFactory>
 
 namespace board {
 
@@ -72,7 +72,7 @@ QListView { background: %bar; }
 QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }
 QUndoView::item:selected { background: %soft; color: %text; }
 QUndoView::item:hover { background: %hover; }
-QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 5px 6px; background: %field; }
+QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 4px 6px; background: %field; }
 QLineEdit:focus { border-color: %accent; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
@@ -104,7 +104,7 @@ QToolTip { border: none; padding: 4px 6px; }
 void applyTheme(Theme theme)
 {
     theCurrentTheme = theme;
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ControlStyle);
     QApplication::setPalette(paletteOf(themeColors()));
     qApp->setStyleSheet(styleSheet());
 }

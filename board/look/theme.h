@@ -46,5 +46,6 @@ constexpr int barIconSide = 20;
 constexpr int dockThickness = 56;
 constexpr int shelfThickness = 40;
 constexpr int buttonRadius = 8;
+constexpr int fieldHeight = 28;
 
 } // namespace board

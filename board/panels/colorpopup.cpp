@@ -59,7 +59,7 @@ void paintSwatch(QPainter *painter, const QRectF &area, double radius, const QCo
         }
         painter->setClipping(false);
     }
-    painter->setPen(QPen(QColor(128, 136, 146, 150), 1));
+    painter->setPen(QPen(themeColors().control, 1));
     painter->setBrush(color);
     painter->drawPath(shape);
     painter->restore();

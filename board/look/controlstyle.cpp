@@ -1,0 +1,259 @@
+#include "look/controlstyle.h"
+
+#include "look/theme.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QStyleOption>
+
+namespace board {
+
+namespace {
+
+constexpr double fieldRadius = 4;
+constexpr double edgeWidth = 1;
+/// Round edges are paler where they cross pixels.
+constexpr double roundEdgeWidth = 1.35;
+constexpr double focusWidth = 2;
+constexpr int boxSide = 16;
+constexpr double signWidth = 1.75;
+/// Half of a chevron.
+constexpr double chevronWidth = 3.5;
+constexpr double chevronHeight = 1.75;
+constexpr int knobSide = 16;
+constexpr double grooveWidth = 4;
+/// Part of a box's side that the dot of a chosen one takes.
+constexpr double dotShare = 0.5;
+
+bool isEnabled(const QStyleOption &option)
+{
+    return option.state & QStyle::State_Enabled;
+}
+
+bool hasFocus(const QStyleOption &option)
+{
+    return isEnabled(option) && (option.state & QStyle::State_HasFocus);
+}
+
+QColor edgeColor(const QStyleOption &option)
+{
+    const ThemeColors colors = themeColors();
+    if (!isEnabled(option))
+        return colors.border;
+    return hasFocus(option) ? colors.accent : colors.control;
+}
+
+QColor signColor(bool enabled)
+{
+    return enabled ? themeColors().text : themeColors().disabled;
+}
+
+/// Whole pixels of `rect`, an edge of the option's state around them.
+void paintBox(QPainter *painter, const QRect &rect, const QStyleOption &option, const QColor &background,
+              double radius = fieldRadius)
+{
+    const double usual = radius > fieldRadius ? roundEdgeWidth : edgeWidth;
+    const double width = hasFocus(option) ? focusWidth : usual;
+    painter->setPen(QPen(edgeColor(option), width));
+    painter->setBrush(background);
+    painter->drawRoundedRect(QRectF(rect).adjusted(width / 2, width / 2, -width / 2, -width / 2), radius, radius);
+}
+
+void paintLine(QPainter *painter, const QVector<QPointF> &line, const QColor &color)
+{
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(color, signWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPolyline(line.constData(), line.size());
+}
+
+void paintChevron(QPainter *painter, const QRect &rect, bool pointsUp, bool enabled)
+{
+    const QPointF centre = QRectF(rect).center();
+    const double tip = pointsUp ? -chevronHeight : chevronHeight;
+    paintLine(
+        painter,
+        {centre + QPointF(-chevronWidth, -tip), centre + QPointF(0, tip), centre + QPointF(chevronWidth, -tip)},
+        signColor(enabled));
+}
+
+/// In the middle of `rect`.
+QRect squareIn(const QRect &rect)
+{
+    const int side = qMin(rect.width(), rect.height());
+    QRect square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    return square;
+}
+
+QColor boxBackground(const QStyleOption &option)
+{
+    const ThemeColors colors = themeColors();
+    if (!(option.state & QStyle::State_On))
+        return colors.field;
+    return isEnabled(option) ? colors.accent : colors.border;
+}
+
+QColor markColor(const QStyleOption &option)
+{
+    return isEnabled(option) ? themeColors().onAccent : themeColors().disabled;
+}
+
+void paintCheckBox(QPainter *painter, const QStyleOption &option)
+{
+    const QRect box = squareIn(option.rect);
+    paintBox(painter, box, option, boxBackground(option));
+    const QPointF corner = QRectF(box).topLeft();
+    const double unit = box.width() / double(boxSide);
+    if (option.state & QStyle::State_On)
+        paintLine(
+            painter,
+            {corner + QPointF(4, 8.25) * unit, corner + QPointF(7, 11.25) * unit, corner + QPointF(12, 5) * unit},
+            markColor(option));
+    else if (option.state & QStyle::State_NoChange)
+        paintLine(painter, {corner + QPointF(4.5, 8) * unit, corner + QPointF(11.5, 8) * unit},
+                  signColor(isEnabled(option)));
+}
+
+void paintRadioButton(QPainter *painter, const QStyleOption &option)
+{
+    const QRect box = squareIn(option.rect);
+    paintBox(painter, box, option, boxBackground(option), box.width() / 2.0);
+    if (!(option.state & QStyle::State_On))
+        return;
+    const double radius = box.width() * dotShare / 2;
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(markColor(option));
+    painter->drawEllipse(QRectF(box).center(), radius, radius);
+}
+
+void paintPushButton(QPainter *painter, const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    const bool isFlat = button && (button->features & QStyleOptionButton::Flat);
+    const ThemeColors colors = themeColors();
+    const bool isPressed = option.state & (QStyle::State_Sunken | QStyle::State_On);
+    const bool isHovered = isEnabled(option) && (option.state & QStyle::State_MouseOver);
+    if (isFlat && !isPressed)
+        return;
+    paintBox(painter, option.rect, option, isPressed ? colors.soft : isHovered ? colors.hover : colors.surface);
+}
+
+} // namespace
+
+ControlStyle::ControlStyle()
+    : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+{
+}
+
+void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                                 const QWidget *widget) const
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    switch (element) {
+    case PE_IndicatorCheckBox:
+        paintCheckBox(painter, *option);
+        break;
+    case PE_IndicatorRadioButton:
+        paintRadioButton(painter, *option);
+        break;
+    case PE_PanelButtonCommand:
+        paintPushButton(painter, *option);
+        break;
+    default:
+        painter->restore();
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    painter->restore();
+}
+
+void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                                      const QWidget *widget) const
+{
+    const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (control == CC_ComboBox)
+        paintCombo(*option, painter, widget);
+    else if (control == CC_SpinBox && spinBox)
+        paintSpinBox(*spinBox, painter, widget);
+    else if (control == CC_Slider && slider && slider->orientation == Qt::Horizontal)
+        paintSlider(*slider, painter, widget);
+    else {
+        painter->restore();
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    painter->restore();
+}
+
+void ControlStyle::paintCombo(const QStyleOptionComplex &option, QPainter *painter, const QWidget *widget) const
+{
+    paintBox(painter, option.rect, option, themeColors().field);
+    const QRect arrow = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
+    paintChevron(painter, arrow, false, isEnabled(option));
+}
+
+void ControlStyle::paintSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, const QWidget *widget) const
+{
+    paintBox(painter, option.rect, option, themeColors().field);
+    if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
+        return;
+    for (const SubControl button : {SC_SpinBoxUp, SC_SpinBoxDown}) {
+        const bool isUp = button == SC_SpinBoxUp;
+        const bool isUsable =
+            option.stepEnabled & (isUp ? QAbstractSpinBox::StepUpEnabled : QAbstractSpinBox::StepDownEnabled);
+        const QRect place = proxy()->subControlRect(CC_SpinBox, &option, button, widget);
+        paintChevron(painter, place, isUp, isUsable && isEnabled(option));
+    }
+}
+
+/// The groove is filled up to the knob.
+void ControlStyle::paintSlider(const QStyleOptionSlider &option, QPainter *painter, const QWidget *widget) const
+{
+    const ThemeColors colors = themeColors();
+    const QColor filled = isEnabled(option) ? colors.accent : colors.border;
+    const QRectF knob = squareIn(proxy()->subControlRect(CC_Slider, &option, SC_SliderHandle, widget));
+    QRectF groove(option.rect.left(), 0, option.rect.width(), grooveWidth);
+    groove.moveCenter(QRectF(option.rect).center());
+    QRectF way = groove;
+    if (option.upsideDown)
+        way.setLeft(knob.center().x());
+    else
+        way.setRight(knob.center().x());
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(isEnabled(option) ? colors.control : colors.border);
+    painter->drawRoundedRect(groove, grooveWidth / 2, grooveWidth / 2);
+    painter->setBrush(filled);
+    painter->drawRoundedRect(way, grooveWidth / 2, grooveWidth / 2);
+    painter->setPen(QPen(filled, focusWidth));
+    painter->setBrush(hasFocus(option) ? filled : colors.field);
+    painter->drawEllipse(knob.adjusted(1, 1, -1, -1));
+}
+
+int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return boxSide;
+    case PM_SliderLength:
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return knobSide;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                                     const QWidget *widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const bool isField = type == CT_ComboBox || type == CT_PushButton;
+    return isField ? usual.expandedTo({0, fieldHeight}) : usual;
+}
+
+} // namespace board
