@@ -145,10 +145,10 @@ ROOMS = {
         "documents": "look core",
         "lessons": "look output page core",
         "tools": "look page core",
-        "panels/fields": "core",
+        "panels/fields": "look core",
         "panels": "look objects page core panels/fields",
         "panels/editors": "look panels panels/fields",
-        "panels/forms": "look core panels panels/editors",
+        "panels/forms": "look core panels panels/editors panels/fields",
         "panels/settings": "core panels/editors panels/forms",
         "panels/properties": "core panels/editors panels/forms panels/settings",
         "window": "look output page core commands presenting clipboard documents lessons tools panels panels/settings "

@@ -9,6 +9,7 @@ QVector<TextEntry> lessonTexts()
     return {
         {"IDS_LESSON_MENU", QT_TRANSLATE_NOOP("board", "&Lesson")},
         {"IDS_LESSON_BAR", QT_TRANSLATE_NOOP("board", "Lesson")},
+        {"IDS_LESSON_NONE", QT_TRANSLATE_NOOP("board", "Press %1 and teach: all you do is recorded.")},
         {"IDS_LESSON_NAME", QT_TRANSLATE_NOOP("board", "Lesson %1")},
         {"IDS_LESSON_ENTRY", QT_TRANSLATE_NOOP("board", "%1 (%2)")},
         {"IDS_LESSON_RECORD", QT_TRANSLATE_NOOP("board", "Record a lesson")},

@@ -7,6 +7,7 @@
 #include "look/icons.h"
 
 #include <QtWidgets/QAction>
+#include <QtWidgets/QMenu>
 
 namespace board {
 
@@ -30,6 +31,18 @@ LessonMenu::LessonMenu(const Workspace *workspace, Commands *commands, LessonCon
     connect(lessons, &LessonController::lessonsChanged, this, &LessonMenu::update);
     connect(lessons, &LessonController::positionChanged, this, [this] { cut->setEnabled(m_lessons->canCut()); });
     update();
+}
+
+void LessonMenu::addHint(QMenu *menu)
+{
+    menu->addSeparator();
+    QAction *hint = menu->addAction(QString());
+    hint->setEnabled(false);
+    connect(menu, &QMenu::aboutToShow, hint, [this, hint] {
+        const QString keys = record->shortcut().toString(QKeySequence::NativeText);
+        hint->setText(m_workspace->text("IDS_LESSON_NONE").arg(keys.isEmpty() ? record->iconText() : keys));
+        hint->setVisible(m_lessons->names().isEmpty());
+    });
 }
 
 void LessonMenu::update()

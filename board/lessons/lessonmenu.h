@@ -3,6 +3,7 @@
 #include <QtCore/QObject>
 
 class QAction;
+class QMenu;
 
 namespace board {
 
@@ -18,6 +19,9 @@ class LessonMenu : public QObject
 public:
     /// All must outlive this.
     LessonMenu(const Workspace *workspace, Commands *commands, LessonController *lessons, QObject *parent);
+
+    /// Shows how to record at the end of `menu` while the board has no lesson.
+    void addHint(QMenu *menu);
 
     QAction *record, *pauseRecording, *play, *close, *rename, *cut, *remove;
 

@@ -59,7 +59,22 @@ enum class Icon {
     Lock,
     Curtain,
     LineWidth,
-    EndPresenting
+    EndPresenting,
+    AlignLeft,
+    AlignCenter,
+    AlignRight,
+    AlignTop,
+    AlignMiddle,
+    AlignBottom,
+    DistributeAcross,
+    DistributeDown,
+    SameSize,
+    BlankPaper,
+    RuledPaper,
+    SquaredPaper,
+    DottedPaper,
+    MusicPaper,
+    MillimetrePaper
 };
 
 } // namespace board

@@ -1,5 +1,7 @@
 #include "look/toolshapes.h"
 
+#include "look/arrangingshapes.h"
+
 namespace board {
 
 namespace {
@@ -277,7 +279,7 @@ IconShape toolShape(Icon which)
     case Icon::EndPresenting:
         return endPresentingShape();
     default:
-        return {};
+        return arrangingShape(which);
     }
 }
 

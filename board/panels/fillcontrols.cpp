@@ -4,6 +4,7 @@
 #include "look/icons.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"
+#include "panels/fields/captionedrow.h"
 #include "panels/fields/numberfield.h"
 
 #include <pagehost/paper.h>
@@ -82,20 +83,18 @@ QImage readPicture(const QString &file, QString *problem)
 
 } // namespace
 
-FillControls::FillControls(const Workspace *workspace, QWidget *parent)
+FillControls::FillControls(const Workspace *workspace, const char *captionKey, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
     , m_fill(nullptr)
     , m_types(new QButtonGroup(this))
-    , m_typeRow(new QWidget(this))
     , m_color(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_COLOR"), this))
     , m_secondColor(new ColorButton(workspace, workspace->text("IDS_BOARD_FILL_SECOND_COLOR"), this))
     , m_angle(new NumberField(workspace, {0, 359, 15, 0}, QStringLiteral("°"), this))
     , m_pattern(new QComboBox(this))
     , m_picture(new QPushButton(workspace->text("IDS_BOARD_CHOOSE_PICTURE"), this))
-    , m_opacityRow(new QWidget(this))
-    , m_opacity(new QSlider(Qt::Horizontal, m_opacityRow))
-    , m_opacityText(new QLabel(m_opacityRow))
+    , m_opacity(new QSlider(Qt::Horizontal, this))
+    , m_opacityText(new QLabel(this))
 {
     m_angle->takeAngles();
     m_angle->setAccessibleName(workspace->text("IDS_BOARD_FILL_ANGLE"));
@@ -104,20 +103,18 @@ FillControls::FillControls(const Workspace *workspace, QWidget *parent)
     m_opacity->setTracking(false);
     m_opacity->setAccessibleName(workspace->text("IDS_BOARD_OPACITY"));
     m_opacity->setToolTip(m_opacity->accessibleName());
-    makeTypeButtons();
     makePatterns();
-    layOut();
+    layOut(captionKey);
     connectControls();
     refresh();
 }
 
-void FillControls::makeTypeButtons()
+QHBoxLayout *FillControls::makeTypeButtons()
 {
-    auto *row = new QHBoxLayout(m_typeRow);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
     row->setSpacing(smallGap);
     for (const TypeEntry &entry : fillTypes) {
-        auto *button = new QToolButton(m_typeRow);
+        auto *button = new QToolButton(this);
         button->setCheckable(true);
         button->setIcon(icon(entry.icon));
         button->setIconSize(QSize(20, 20));
@@ -127,6 +124,7 @@ void FillControls::makeTypeButtons()
         row->addWidget(button);
     }
     row->addStretch();
+    return row;
 }
 
 void FillControls::makePatterns()
@@ -138,7 +136,7 @@ void FillControls::makePatterns()
         m_pattern->addItem(patternIcon(pattern), QString(), static_cast<int>(pattern));
 }
 
-void FillControls::layOut()
+void FillControls::layOut(const char *captionKey)
 {
     auto *values = new QHBoxLayout;
     values->setSpacing(mediumGap);
@@ -148,20 +146,26 @@ void FillControls::layOut()
     values->addWidget(m_pattern, 1);
     values->addWidget(m_picture, 1);
     values->addStretch();
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(mediumGap);
-    column->addWidget(m_typeRow);
-    column->addLayout(values);
-    column->addWidget(m_opacityRow);
-    auto *opacity = new QHBoxLayout(m_opacityRow);
+    auto *fill = new QWidget(this);
+    auto *lines = new QVBoxLayout(fill);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(smallGap);
+    lines->addLayout(makeTypeButtons());
+    lines->addLayout(values);
+    auto *opacityField = new QWidget(this);
+    auto *opacity = new QHBoxLayout(opacityField);
     opacity->setContentsMargins(0, 0, 0, 0);
     opacity->setSpacing(mediumGap);
-    opacity->addWidget(new QLabel(m_workspace->text("IDS_BOARD_OPACITY"), m_opacityRow));
     opacity->addWidget(m_opacity, 1);
     opacity->addWidget(m_opacityText);
     m_opacityText->setMinimumWidth(m_opacityText->fontMetrics().horizontalAdvance(QStringLiteral("100 %")));
     m_opacityText->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_opacityRow = new CaptionedRow(m_workspace->text("IDS_BOARD_OPACITY"), opacityField, this);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(mediumGap);
+    column->addWidget(new CaptionedRow(m_workspace->text(captionKey), fill, this));
+    column->addWidget(m_opacityRow);
 }
 
 void FillControls::connectControls()

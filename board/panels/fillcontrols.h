@@ -6,6 +6,7 @@
 
 class QButtonGroup;
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QSlider;
@@ -22,7 +23,8 @@ class FillControls : public QWidget
     Q_OBJECT
 
 public:
-    explicit FillControls(const Workspace *workspace, QWidget *parent = nullptr);
+    /// The caption stands beside the first row.
+    FillControls(const Workspace *workspace, const char *captionKey, QWidget *parent = nullptr);
 
     /// Shows these values without telling anybody.
     void showFill(const CPageBgProp &fill) { showFills({fill}); }
@@ -37,9 +39,9 @@ Q_SIGNALS:
     void opacityPicked(int opacity);
 
 private:
-    void makeTypeButtons();
+    QHBoxLayout *makeTypeButtons();
     void makePatterns();
-    void layOut();
+    void layOut(const char *captionKey);
     void connectControls();
     void refresh();
     void checkType(int type);
@@ -51,13 +53,12 @@ private:
     const Workspace *m_workspace;
     CPageBgProp m_fill;
     QButtonGroup *m_types;
-    QWidget *m_typeRow;
     ColorButton *m_color;
     ColorButton *m_secondColor;
     NumberField *m_angle;
     QComboBox *m_pattern;
     QPushButton *m_picture;
-    QWidget *m_opacityRow;
+    QWidget *m_opacityRow = nullptr;
     QSlider *m_opacity;
     QLabel *m_opacityText;
 };

@@ -3,6 +3,7 @@
 #include "look/theme.h"
 
 #include <QtCore/QSettings>
+#include <QtGui/QPainter>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -31,7 +32,8 @@ FoldingSection::FoldingSection(const QString &title, QWidget *content, QWidget *
     m_title->setFocusPolicy(Qt::TabFocus);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    // Below the line above the section.
+    column->setContentsMargins(0, mediumGap, 0, 0);
     column->setSpacing(smallGap + 2);
     column->addWidget(m_title);
     column->addWidget(content);
@@ -43,6 +45,11 @@ void FoldingSection::remember(const QString &name, bool isOpenAtFirst)
 {
     setOpen(QSettings().value(keyOf(name), isOpenAtFirst).toBool());
     m_name = name;
+}
+
+void FoldingSection::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(QRect(0, 0, width(), 1), themeColors().border);
 }
 
 void FoldingSection::setOpen(bool open)

@@ -22,6 +22,9 @@ public:
     bool isOpen() const { return m_isOpen; }
     void setOpen(bool open);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     QToolButton *m_title;
     QWidget *m_content;

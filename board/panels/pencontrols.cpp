@@ -3,6 +3,7 @@
 #include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"
+#include "panels/fields/captionedrow.h"
 #include "panels/fields/numberfield.h"
 
 #include <framework/cutil.h>
@@ -10,7 +11,7 @@
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QHBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -70,13 +71,19 @@ PenControls::PenControls(const Workspace *workspace, QWidget *parent)
         m_style->addItem(workspace->text(entry.nameKey), static_cast<int>(entry.style));
     makeStyleIcons();
 
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(mediumGap);
-    grid->addWidget(m_color, 0, 0);
-    grid->addWidget(m_width, 0, 1);
-    grid->addWidget(m_style, 1, 0, 1, 2);
-    grid->setColumnStretch(1, 1);
+    // Names that are too long for the panel stay whole in the list.
+    m_style->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto *line = new QWidget(this);
+    auto *lineRow = new QHBoxLayout(line);
+    lineRow->setContentsMargins(0, 0, 0, 0);
+    lineRow->setSpacing(mediumGap);
+    lineRow->addWidget(m_color);
+    lineRow->addWidget(m_style, 1);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(mediumGap);
+    column->addWidget(new CaptionedRow(workspace->text("IDS_BOARD_PEN"), line, this));
+    column->addWidget(new CaptionedRow(workspace->text("IDS_BOARD_WIDTH"), m_width, this));
 
     connect(m_color, &ColorButton::colorPicked, this, &PenControls::colorPicked);
     connect(m_width, &NumberField::numberPicked, this, [this](double width) { Q_EMIT widthPicked(qRound(width)); });

@@ -4,6 +4,7 @@
 #include "core/newlook.h"
 #include "core/workspace.h"
 #include "look/theme.h"
+#include "panels/fields/captionedrow.h"
 #include "panels/fillcontrols.h"
 #include "panels/foldingsection.h"
 #include "panels/pencontrols.h"
@@ -20,7 +21,6 @@
 
 #include <QtWidgets/QAction>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -46,7 +46,7 @@ QVBoxLayout *columnIn(QWidget *part)
 {
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(largeGap);
+    column->setSpacing(mediumGap);
     return column;
 }
 
@@ -76,49 +76,50 @@ StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, New
     : QWidget(parent)
     , m_workspace(workspace)
     , m_pen(new PenControls(workspace))
-    , m_fill(new FillControls(workspace))
-    , m_background(new FillControls(workspace))
+    , m_fill(new FillControls(workspace, "IDS_BOARD_FILL"))
+    , m_background(new FillControls(workspace, "IDS_BOARD_BACKGROUND"))
     , m_place(new PlaceControls(workspace))
     , m_newLook(newLook)
     , m_forNewOnes(new QCheckBox(workspace->text("IDS_BOARD_FOR_NEW_ONES")))
     , m_lookSection(new FoldingSection(workspace->text("IDS_BOARD_LOOK"), new QWidget))
+    , m_alignSection(new FoldingSection(workspace->text("IDS_BOARD_ALIGN"), new QWidget))
     , m_placeSection(new FoldingSection(workspace->text("IDS_BOARD_PLACE"), new QWidget))
+    , m_paperPart(new CaptionedRow(
+          workspace->text("IDS_BOARD_PAPER"),
+          makeButtonRow(*commands, {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper,
+                                    Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper})))
     , m_refresh(this, [this] { refresh(); })
 {
     QVBoxLayout *look = columnIn(m_lookSection->content());
-    m_fillPart = addPart(look, "IDS_BOARD_FILL", m_fill);
-    addPart(look, "IDS_BOARD_PEN", m_pen);
+    look->addWidget(m_fill);
+    look->addWidget(m_pen);
     look->addWidget(m_forNewOnes);
+    addAlignment(*commands);
     QVBoxLayout *place = columnIn(m_placeSection->content());
     place->addWidget(m_place);
     place->addWidget(makeButtonRow(*commands, {Command::TurnLeft, Command::TurnRight, Command::MirrorAcross,
                                                Command::MirrorUp, Command::Lock}));
     QVBoxLayout *column = columnIn(this);
+    column->setSpacing(largeGap);
     column->addWidget(m_lookSection);
+    column->addWidget(m_alignSection);
     column->addWidget(m_placeSection);
-    m_paperPart =
-        addPart(column, "IDS_BOARD_PAPER",
-                makeButtonRow(*commands, {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper,
-                                          Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper}));
-    m_backgroundSection = addPart(column, "IDS_BOARD_BACKGROUND", m_background);
+    column->addWidget(m_paperPart);
+    column->addWidget(m_background);
     m_lookSection->remember(QStringLiteral("look"), true);
+    m_alignSection->remember(QStringLiteral("align"), true);
     m_placeSection->remember(QStringLiteral("place"), true);
     m_forNewOnes->setToolTip(workspace->text("IDS_BOARD_FOR_NEW_ONES_TIP"));
     connectControls();
 }
 
-/// A part of a section, below a caption.
-QWidget *StylePanel::addPart(QBoxLayout *column, const char *titleKey, QWidget *content)
+void StylePanel::addAlignment(const Commands &commands)
 {
-    auto *part = new QWidget;
-    auto *caption = new QLabel(m_workspace->text(titleKey), part);
-    caption->setForegroundRole(QPalette::PlaceholderText);
-    QVBoxLayout *layout = columnIn(part);
-    layout->setSpacing(smallGap + 2);
-    layout->addWidget(caption);
-    layout->addWidget(content);
-    column->addWidget(part);
-    return part;
+    QVBoxLayout *align = columnIn(m_alignSection->content());
+    align->addWidget(makeButtonRow(commands, {Command::AlignLeft, Command::AlignCenter, Command::AlignRight,
+                                              Command::AlignTop, Command::AlignMiddle, Command::AlignBottom}));
+    align->addWidget(
+        makeButtonRow(commands, {Command::DistributeAcross, Command::DistributeDown, Command::SameSize}));
 }
 
 void StylePanel::connectControls()
@@ -211,9 +212,10 @@ void StylePanel::refresh()
     const QVector<CBaseObject *> objects = selection();
     const bool any = !objects.isEmpty();
     m_lookSection->setVisible(any);
+    m_alignSection->setVisible(objects.size() > 1);
     m_placeSection->setVisible(any);
     m_paperPart->setVisible(!any);
-    m_backgroundSection->setVisible(!any);
+    m_background->setVisible(!any);
     if (any) {
         showObjects(objects);
         return;
@@ -233,7 +235,7 @@ void StylePanel::showObjects(const QVector<CBaseObject *> &objects)
             fills.append(*object->getFillProp());
     }
     m_pen->showStyles(styles);
-    m_fillPart->setVisible(!fills.isEmpty());
+    m_fill->setVisible(!fills.isEmpty());
     if (!fills.isEmpty())
         m_fill->showFills(fills);
     showNewLook();

@@ -8,7 +8,6 @@
 #include <QtWidgets/QWidget>
 
 class CBaseObject;
-class QBoxLayout;
 class QCheckBox;
 
 namespace board {
@@ -35,7 +34,7 @@ public:
     void comeToFront() { m_refresh.finish(); }
 
 private:
-    QWidget *addPart(QBoxLayout *column, const char *titleKey, QWidget *content);
+    void addAlignment(const Commands &commands);
     void useForNewOnes(bool use);
     void showNewLook();
     void connectControls();
@@ -52,11 +51,10 @@ private:
     PlaceControls *m_place;
     NewLook *m_newLook;
     QCheckBox *m_forNewOnes;
-    QWidget *m_fillPart = nullptr;
-    QWidget *m_paperPart = nullptr;
     FoldingSection *m_lookSection;
+    FoldingSection *m_alignSection; ///< of several objects
     FoldingSection *m_placeSection;
-    QWidget *m_backgroundSection;
+    QWidget *m_paperPart;
     PanelRefresh m_refresh;
 };
 

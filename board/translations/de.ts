@@ -1284,5 +1284,9 @@
         <source>Numbers from %1 to %2 can be set here.</source>
         <translation>Hier sind Zahlen von %1 bis %2 möglich.</translation>
     </message>
+    <message>
+        <source>Press %1 and teach: all you do is recorded.</source>
+        <translation>Drücken Sie %1 und unterrichten Sie: Alles wird aufgezeichnet.</translation>
+    </message>
 </context>
 </TS>

@@ -334,6 +334,8 @@ void MainWindow::addMenus()
             m_lock.add(menu);
         if (QLatin1String(entry.titleKey) == QLatin1String("IDS_BOARD_VIEW"))
             m_viewMenu = menu;
+        if (QLatin1String(entry.titleKey) == QLatin1String("IDS_LESSON_MENU"))
+            m_lessonMenu->addHint(menu);
     }
     menus()->actions().first()->menu()->insertMenu(m_commands->action(Command::SaveBoard),
                                                    m_documentMenu->recentMenu());

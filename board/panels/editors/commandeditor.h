@@ -16,7 +16,6 @@ public:
 
     void showValue(const QVariant &) override {}
     void showMixed() override {}
-    bool isWide() const override { return true; }
     bool hasCaption() const override { return false; }
     /// The name stands on the button.
     void setName(const QString &name) override;

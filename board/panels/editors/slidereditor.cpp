@@ -14,7 +14,7 @@ namespace {
 
 /// A slider is no finer than this.
 constexpr double mostPositions = 10000;
-constexpr int fieldWidth = 92;
+constexpr int fieldWidth = 80;
 
 int positionsOf(const NumberRange &range)
 {

@@ -18,7 +18,6 @@ public:
 
     void showValue(const QVariant &value) override;
     void showMixed() override;
-    bool isWide() const override { return true; }
     void setName(const QString &name) override;
 
 private:

@@ -17,8 +17,6 @@ public:
     virtual void showValue(const QVariant &value) = 0;
     /// Shows that the objects have different values.
     virtual void showMixed() = 0;
-    /// Whether the editor is so wide that its caption stands above it.
-    virtual bool isWide() const { return false; }
     /// Whether a caption is needed to say what is edited.
     virtual bool hasCaption() const { return true; }
     /// Sets the name of the value for screen readers and tool tips.

@@ -1,6 +1,7 @@
 #include "panels/fields/numberfield.h"
 
 #include "core/workspace.h"
+#include "look/theme.h"
 #include "panels/fields/expression.h"
 
 #include <QtGui/QKeyEvent>
@@ -66,6 +67,12 @@ void NumberField::showMixed()
     // Refreshes the text even when the number below it stays.
     setValue(minimum());
     lineEdit()->setText(shownText());
+}
+
+/// As high as other fields.
+QSize NumberField::sizeHint() const
+{
+    return QDoubleSpinBox::sizeHint().expandedTo({0, fieldHeight});
 }
 
 QString NumberField::textFromValue(double number) const

@@ -2,7 +2,9 @@
 
 #include "look/theme.h"
 #include "panels/editors/valueeditor.h"
+#include "panels/fields/captionedrow.h"
 
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
@@ -10,9 +12,18 @@ namespace board {
 
 namespace {
 
-/// Of a row whose caption stands beside its editor.
-constexpr int captionShare = 4;
-constexpr int editorShare = 5;
+QWidget *makeCompactRow(const QString &caption, QWidget *editor)
+{
+    auto *part = new QWidget;
+    auto *row = new QHBoxLayout(part);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(mediumGap);
+    auto *label = new QLabel(caption, part);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    row->addWidget(label);
+    row->addWidget(editor);
+    return part;
+}
 
 } // namespace
 
@@ -53,28 +64,27 @@ void ObjectForm::rebuild(const QVector<FormRow> &rows)
     m_content = new QWidget(this);
     auto *column = new QVBoxLayout(m_content);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(largeGap);
+    column->setSpacing(mediumGap);
     m_column->addWidget(m_content);
     for (const FormRow &row : rows)
         addRow(row);
     m_content->show();
 }
 
+QWidget *ObjectForm::makeRow(const QString &caption, ValueEditor *editor) const
+{
+    if (!editor->hasCaption())
+        return editor;
+    if (m_isCompact)
+        return makeCompactRow(caption, editor);
+    return new CaptionedRow(caption, editor);
+}
+
 void ObjectForm::addRow(const FormRow &row)
 {
     ValueEditor *editor = row.makeEditor();
     editor->setName(row.caption);
-    auto *layout = new QBoxLayout(editor->isWide() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    const bool takesShare = !editor->isWide() && !m_isCompact;
-    layout->setSpacing(editor->isWide() ? smallGap : mediumGap);
-    if (editor->hasCaption()) {
-        auto *caption = new QLabel(row.caption, m_content);
-        caption->setForegroundRole(QPalette::PlaceholderText);
-        caption->setWordWrap(!m_isCompact);
-        layout->addWidget(caption, takesShare ? captionShare : 0);
-    }
-    layout->addWidget(editor, takesShare ? editorShare : 0);
-    static_cast<QVBoxLayout *>(m_content->layout())->addLayout(layout);
+    m_content->layout()->addWidget(makeRow(row.caption, editor));
     const int index = m_editors.size();
     m_editors.append(editor);
     connect(editor, &ValueEditor::previewed, this,

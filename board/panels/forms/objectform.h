@@ -49,6 +49,7 @@ Q_SIGNALS:
 private:
     void rebuild(const QVector<FormRow> &rows);
     void addRow(const FormRow &row);
+    QWidget *makeRow(const QString &caption, ValueEditor *editor) const;
 
     QVBoxLayout *m_column;
     QWidget *m_content = nullptr;

@@ -210,7 +210,12 @@ void TestLook::pictureFillsTheShape()
     fill.setFillType(CPageBgProp::PictureFill);
     fill.setPixmap(picture);
     const QColor before = t.pixelAt({600, 360});
-    Q_EMIT t.panel->findChild<board::FillControls *>()->fillPicked(fill);
+    QCoreApplication::processEvents();
+    // That of the page's background is hidden.
+    const QList<board::FillControls *> both = t.panel->findChildren<board::FillControls *>();
+    for (auto *controls : both)
+        if (!controls->isHidden())
+            Q_EMIT controls->fillPicked(fill);
     QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::PictureFill));
     QCOMPARE(t.pixelAt({600, 360}), QColor(20, 160, 90));
     t.undo();

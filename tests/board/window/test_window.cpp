@@ -10,6 +10,7 @@
 #include <core/notices.h>
 #include <core/windowmemory.h>
 #include <documents/documentcontroller.h>
+#include <lessons/lessonbar.h>
 #include <look/theme.h>
 #include <page/pageview.h>
 #include <panels/pagepanel.h>
@@ -192,22 +193,38 @@ void TestWindow::pageTakesFourFifthsOfASmallScreen()
 void TestWindow::smallWindowCutsNothingOff_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::newRow("English") << "en";
-    QTest::newRow("German") << "de";
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("takes");
+    // Half of 1920 × 1080, and two thirds of 1366 × 768.
+    const QSize sizes[] = {{960, 540}, {910, 512}};
+    for (const char *language : {"en", "de"}) {
+        for (const QSize &size : sizes) {
+            const int width = size.width();
+            QTest::addRow("%s %d", language, width) << language << size << 0;
+            QTest::addRow("%s %d while recording", language, width) << language << size << 1;
+            QTest::addRow("%s %d with a lesson", language, width) << language << size << 2;
+        }
+    }
 }
 
-/// Half of a full high definition screen at 200 %.
 void TestWindow::smallWindowCutsNothingOff()
 {
     QFETCH(QString, language);
+    QFETCH(QSize, size);
+    QFETCH(int, takes); // presses of the key that begins and ends recording
     board::Workspace workspace(language);
     workspace.loadPlugins({});
     board::MainWindow window(&workspace);
-    window.resize(960, 540);
+    window.resize(size);
     window.show();
     window.panel()->setOpen(true);
+    for (int take = 0; take < takes; ++take) {
+        support::pass(100);
+        QTest::keyClick(&window, Qt::Key_F9);
+    }
     support::deliverEvents();
-    QCOMPARE(window.size(), QSize(960, 540));
+    QCOMPARE(window.lessonBar()->isVisible(), takes > 0);
+    QCOMPARE(window.size(), size);
     QStringList cut;
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
         const QWidget *parent = widget->parentWidget();

@@ -58,6 +58,7 @@ class TestNumberField : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void aFieldOfSmallLettersIsAsHighAsOthers();
     void expressionsSetTheWidth_data();
     void expressionsSetTheWidth();
     void leadingSignChangesTheWidth();
@@ -71,6 +72,15 @@ private Q_SLOTS:
     void shiftAndTheArrowKeysMakeTenSteps();
     void signOfDifferentNumbersHasNoHalf();
 };
+
+void TestNumberField::aFieldOfSmallLettersIsAsHighAsOthers()
+{
+    MeasuredShape t;
+    QFont font = t.field("Width")->font();
+    font.setPixelSize(8);
+    t.field("Width")->setFont(font);
+    QCOMPARE(t.field("Width")->sizeHint().height(), 28);
+}
 
 void TestNumberField::expressionsSetTheWidth_data()
 {

@@ -1,0 +1,50 @@
+#include "panels/fields/captionedrow.h"
+
+#include "look/theme.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+
+namespace board {
+
+namespace {
+
+/// Of the column of captions, logical pixels.
+constexpr int captionWidth = 72;
+
+} // namespace
+
+CaptionedRow::CaptionedRow(const QString &caption, QWidget *field, QWidget *parent)
+    : QWidget(parent)
+    , m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this))
+    , m_caption(new QLabel(caption, this))
+{
+    m_caption->setForegroundRole(QPalette::PlaceholderText);
+    m_caption->setTextFormat(Qt::PlainText);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->addWidget(m_caption);
+    m_layout->addWidget(field, 1);
+    arrange();
+}
+
+void CaptionedRow::arrange()
+{
+    const bool isBeside = m_caption->fontMetrics().horizontalAdvance(m_caption->text()) <= captionWidth;
+    m_layout->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_layout->setSpacing(isBeside ? mediumGap : smallGap);
+    // Beside the first line of fields that have several.
+    m_layout->setAlignment(m_caption, isBeside ? Qt::AlignTop : Qt::Alignment());
+    m_caption->setWordWrap(!isBeside);
+    m_caption->setMinimumSize(isBeside ? captionWidth : 0, isBeside ? fieldHeight : 0);
+    m_caption->setMaximumWidth(isBeside ? captionWidth : QWIDGETSIZE_MAX);
+}
+
+void CaptionedRow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        arrange();
+}
+
+} // namespace board
