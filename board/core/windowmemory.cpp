@@ -14,6 +14,8 @@ const QString pinnedKeys[] = {QStringLiteral("window/panelPinned"), QStringLiter
                               QStringLiteral("window/pagesShown")};
 const QString dockKey = QStringLiteral("window/dock");
 const QString darkKey = QStringLiteral("window/dark");
+const QString snappingKey = QStringLiteral("window/snapping");
+const QString gridKey = QStringLiteral("window/grid");
 /// Title bar and borders, which the window manager adds, logical pixels.
 constexpr QSize frameRoom(16, 40);
 
@@ -71,6 +73,26 @@ bool remembersDarkColors()
 void rememberDarkColors(bool dark)
 {
     QSettings().setValue(darkKey, dark);
+}
+
+bool remembersSnapping()
+{
+    return QSettings().value(snappingKey, true).toBool();
+}
+
+void rememberSnapping(bool on)
+{
+    QSettings().setValue(snappingKey, on);
+}
+
+bool remembersGrid()
+{
+    return QSettings().value(gridKey).toBool();
+}
+
+void rememberGrid(bool shown)
+{
+    QSettings().setValue(gridKey, shown);
 }
 
 } // namespace board

@@ -24,4 +24,12 @@ void rememberPinned(Pane pane, bool pinned);
 bool remembersDarkColors();
 void rememberDarkColors(bool dark);
 
+/// Whether drags snap; at first they do.
+bool remembersSnapping();
+void rememberSnapping(bool on);
+
+/// Whether pages show a grid; at first they don't.
+bool remembersGrid();
+void rememberGrid(bool shown);
+
 } // namespace board

@@ -37,8 +37,10 @@ constexpr int shelfMargin = 8;
 constexpr int lowHeight = 680;
 /// A click this far beside a selected object (logical pixels) was meant for it and does not deselect it.
 constexpr int nearMiss = 6;
-constexpr double arrowStep = 1;
-constexpr double largeArrowStep = 10;
+/// An arrow key moves by the lines of the grid, without grid by this, with Alt by a pixel; scene units.
+constexpr double arrowStep = 8;
+constexpr double fineArrowStep = 1;
+constexpr double arrowStepsWithShift = 10;
 /// Zoom by one notch of the wheel.
 constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
@@ -365,9 +367,18 @@ void PageView::wheelEvent(QWheelEvent *event)
     QGraphicsView::wheelEvent(event);
 }
 
+double PageView::nudgeStep(Qt::KeyboardModifiers modifiers) const
+{
+    if (modifiers & Qt::AltModifier)
+        return fineArrowStep;
+    const double grid = m_page->scene()->grid();
+    const double step = grid > 0 ? grid : arrowStep;
+    return modifiers & Qt::ShiftModifier ? arrowStepsWithShift * step : step;
+}
+
 bool PageView::nudge(const QKeyEvent *event)
 {
-    const double step = event->modifiers() & Qt::ShiftModifier ? largeArrowStep : arrowStep;
+    const double step = nudgeStep(event->modifiers());
     switch (event->key()) {
     case Qt::Key_Left:
         return m_nudging.move(m_page, {-step, 0});
@@ -393,7 +404,7 @@ void PageView::keyPressEvent(QKeyEvent *event)
         cancel();
         return event->accept();
     }
-    if (event->key() == Qt::Key_Space) {
+    if (event->key() == Qt::Key_Space && !m_page->scene()->isBusy()) {
         m_spaceDown = true;
         viewport()->setCursor(Qt::OpenHandCursor);
         return event->accept();

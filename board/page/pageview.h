@@ -117,6 +117,7 @@ private:
     bool usePen(QTabletEvent *event);
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
+    double nudgeStep(Qt::KeyboardModifiers modifiers) const;
     bool nudge(const QKeyEvent *event);
     void followPage();
     void applyZoom(double rate);

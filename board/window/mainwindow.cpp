@@ -13,6 +13,7 @@
 #include "core/notices.h"
 #include "core/paperactions.h"
 #include "core/pluginfolders.h"
+#include "core/snapactions.h"
 #include "core/toolchoice.h"
 #include "core/toolcommands.h"
 #include "core/windowmemory.h"
@@ -136,6 +137,7 @@ MainWindow::MainWindow(Workspace *workspace)
     connectDocument();
     new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
     new PaperActions(m_commands, m_view, this);
+    new SnapActions(m_commands, m_view, this);
     new FieldUndo(this);
     new ToolCommands(m_commands, m_tools, this);
     new ToolKeys(m_commands, m_tools, m_toolSettings, this);

@@ -63,6 +63,8 @@ BoardDriver::BoardDriver(const QString &language)
     m_window->show();
     if (!QTest::qWaitForWindowExposed(m_window.get()))
         qFatal("the window is not shown");
+    m_window->commands()->action(board::Command::Snapping)->setChecked(false);
+    m_window->commands()->action(board::Command::Grid)->setChecked(false);
     m_window->panel()->setPinned(true);
     m_window->panel()->setOpen(true);
     QCoreApplication::processEvents();

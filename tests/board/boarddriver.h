@@ -35,8 +35,9 @@ extern const QString flask;
 /// Folders of this process for settings and data, so that those of the user who runs the tests are left alone.
 void useOwnFolders();
 
-/// The board's window with its panel pinned and an empty page at 100 %, and the user's hands. Positions are scene
-/// coordinates; at 100 % they are whole pixels. The middle of the page, (640, 360), is in the middle of the view.
+/// The board's window with its panel pinned, without snapping, an empty page at 100 %, and the user's hands.
+/// Positions are scene coordinates; at 100 % they are whole pixels. The middle of the page, (640, 360), is in the
+/// middle of the view.
 class BoardDriver
 {
 public:

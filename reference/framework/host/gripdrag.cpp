@@ -4,6 +4,7 @@
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
 
 #include <host/geometry.h>
 #include <host/handlelayout.h>
@@ -21,6 +22,8 @@ namespace {
 
 constexpr double dragThresholdPixels = 3;
 constexpr double rotationStep = 15;
+/// Turning catches at steps this near, degrees.
+constexpr double rotationCatch = 2.5;
 constexpr double smallestSide = 1;
 constexpr double radiansToDegrees = 180 / 3.14159265358979323846;
 
@@ -91,10 +94,23 @@ void GripDrag::forget(CBaseObject &object)
     CPSRootObjectPrivate::of(object).drag.reset();
 }
 
+QVector<CBaseObject *> GripDrag::objects() const
+{
+    QVector<CBaseObject *> objects;
+    for (const GeometrySnapshot &snapshot : m_before)
+        objects.append(snapshot.object());
+    return objects;
+}
+
+bool GripDrag::isDragAt(const QPointF &scenePos) const
+{
+    const QPointF away = scenePos - m_press;
+    return m_moved || std::hypot(away.x(), away.y()) >= m_threshold;
+}
+
 void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
 {
-    const QPointF away = event.scenePos() - m_press;
-    if (!m_moved && std::hypot(away.x(), away.y()) < m_threshold)
+    if (!isDragAt(event.scenePos()))
         return;
     m_moved = true;
     if (m_action == CObjAction::ACT_Move)
@@ -102,7 +118,7 @@ void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
     else if (HandleLayout::isResize(m_action))
         resize(event.scenePos());
     else if (m_action == CObjAction::ACT_Rotate)
-        rotate(event.scenePos(), event.modifiers().testFlag(Qt::ShiftModifier));
+        rotate(event.scenePos(), catchOfTurn(event.modifiers()));
 }
 
 void GripDrag::finish(const QGraphicsSceneMouseEvent &event)
@@ -141,14 +157,23 @@ void GripDrag::resize(const QPointF &scenePos)
     m_object.CPSRootObject::setPos(start().pos() + rotated(shift, start().rotation()), true);
 }
 
-void GripDrag::rotate(const QPointF &scenePos, bool inSteps)
+/// Degrees from a step of rotation at which it is taken.
+double GripDrag::catchOfTurn(Qt::KeyboardModifiers modifiers) const
+{
+    if (modifiers.testFlag(Qt::ShiftModifier))
+        return rotationStep;
+    const pagehost::PageScene *scene = pageSceneOf(m_object);
+    return scene && scene->isSnapping() && !modifiers.testFlag(Qt::AltModifier) ? rotationCatch : -1;
+}
+
+void GripDrag::rotate(const QPointF &scenePos, double stepCatch)
 {
     const QRectF rect(QPointF(0, 0), start().size());
     const QPointF center = start().pos() + rotated(rect.center(), start().rotation());
     const double turned = angleOf(scenePos - center) - angleOf(m_press - center);
-    double degrees = normalizedDegrees(start().rotation() + turned);
-    if (inSteps)
-        degrees = normalizedDegrees(std::round(degrees / rotationStep) * rotationStep);
+    const double wanted = start().rotation() + turned;
+    const double step = std::round(wanted / rotationStep) * rotationStep;
+    const double degrees = normalizedDegrees(std::abs(step - wanted) <= stepCatch ? step : wanted);
     m_object.setRotateByPoint(degrees, rect.center(), true);
 }
 

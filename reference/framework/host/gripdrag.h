@@ -6,6 +6,7 @@
 
 #include <QtCore/QPointF>
 #include <QtCore/QVector>
+#include <QtCore/Qt>
 
 class CBaseObject;
 class QGraphicsSceneMouseEvent;
@@ -27,6 +28,10 @@ public:
     static void forget(CBaseObject &object);
 
     CObjAction::ACT_Def action() const { return m_action; }
+    /// The objects that it changes.
+    QVector<CBaseObject *> objects() const;
+    /// Whether a pointer there (scene coordinates) drags: one that trembles does not.
+    bool isDragAt(const QPointF &scenePos) const;
     void moveTo(const QGraphicsSceneMouseEvent &event);
     /// Ends the drag, with one undo step when something has changed.
     void finish(const QGraphicsSceneMouseEvent &event);
@@ -35,7 +40,8 @@ public:
 private:
     void moveSelection(const QPointF &scenePos);
     void resize(const QPointF &scenePos);
-    void rotate(const QPointF &scenePos, bool inSteps);
+    double catchOfTurn(Qt::KeyboardModifiers modifiers) const;
+    void rotate(const QPointF &scenePos, double stepCatch);
     void mirrorIfStillOnHandle(const QPointF &scenePos);
     void selectOnlyObject();
     const pagehost::GeometrySnapshot &start() const { return m_before.first(); }

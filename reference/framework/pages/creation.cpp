@@ -6,33 +6,19 @@
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/selection.h>
 
-#include <host/geometry.h>
+#include <pages/creationcourse.h>
+#include <pages/snapper.h>
 
 #include <QtWidgets/QGraphicsSceneMouseEvent>
-
-#include <cmath>
 
 namespace pagehost {
 
 namespace {
 
-/// A press and release closer together than this are a click.
-constexpr double clickPixels = 4;
 /// Side of an object without a default size that is made by a click, scene units.
 constexpr double plainSide = 100;
-
-/// Limited to the largest size of an object.
-QPointF possibleWay(const QPointF &way)
-{
-    return {qBound(-longestSide, way.x(), longestSide), qBound(-longestSide, way.y(), longestSide)};
-}
-
-QPointF square(const QPointF &way)
-{
-    const double side = qMax(std::abs(way.x()), std::abs(way.y()));
-    return {std::copysign(side, way.x()), std::copysign(side, way.y())};
-}
 
 } // namespace
 
@@ -67,6 +53,8 @@ bool CreationTool::cancel()
         m_object->SetPage(nullptr);
         m_object->deleteLater();
         m_object = nullptr;
+        m_scene->snapper().clearGuides();
+        m_scene->endSnapping();
     }
     stop();
     Q_EMIT cancelled();
@@ -79,6 +67,7 @@ void CreationTool::stop()
         m_scene->setTool(nullptr);
     m_scene = nullptr;
     m_object = nullptr;
+    m_course.reset();
     m_kindId.clear();
 }
 
@@ -91,33 +80,34 @@ void CreationTool::press(const ToolPointer &pointer)
         cancel();
         return;
     }
-    m_dragged = false;
-    m_start = pointer.pos;
-    m_end = m_start;
+    m_course = std::make_unique<CreationCourse>(pointer, m_scene->snapper());
     m_object->SetPage(m_scene->page());
     m_object->setZValue(m_scene->page()->objectCount());
-    m_object->CPSRootObject::setPos(m_start, false);
+    m_object->CPSRootObject::setPos(m_course->start(), false);
     m_scene->addItem(m_object);
     sendToObject(QEvent::GraphicsSceneMousePress);
 }
 
 void CreationTool::move(const ToolPointer &pointer)
 {
-    if (!m_object || !follow(pointer))
+    if (!m_object || !m_course->follow(pointer))
         return;
-    m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
+    m_object->CPSRootObject::setPos(m_course->box().topLeft(), false);
     sendToObject(QEvent::GraphicsSceneMouseMove);
-    keepStartCorner();
+    keepStart();
+    m_course->showGuides(boundsOf({m_object}));
+    m_scene->updateGuides();
 }
 
 void CreationTool::release(const ToolPointer &pointer)
 {
     if (!m_object)
         return;
-    follow(pointer);
-    m_object->CPSRootObject::setPos(dragRect().topLeft(), false);
+    m_course->follow(pointer);
+    m_object->CPSRootObject::setPos(m_course->box().topLeft(), false);
     sendToObject(QEvent::GraphicsSceneMouseRelease);
-    keepStartCorner();
+    keepStart();
+    m_scene->endSnapping();
     if (!m_object->isCreateFinished()) {
         cancel();
         return;
@@ -139,25 +129,11 @@ CBaseObject *CreationTool::createAt(PageScene *scene, const QString &kindId, con
     const auto connection = connect(this, &CreationTool::created, this, take); // ends before `made` does
     ToolPointer pointer;
     pointer.pos = scenePos;
+    pointer.modifiers = Qt::AltModifier; // the place is given: it does not snap
     press(pointer);
     release(pointer);
     disconnect(connection);
     return made;
-}
-
-QRectF CreationTool::dragRect() const
-{
-    return QRectF(m_start, m_end).normalized();
-}
-
-bool CreationTool::follow(const ToolPointer &pointer)
-{
-    const QPointF way = possibleWay(pointer.pos - m_start);
-    const double clickDistance = clickPixels / m_object->getCurZoomRate();
-    m_dragged = m_dragged || std::hypot(way.x(), way.y()) >= clickDistance;
-    if (m_dragged)
-        m_end = m_start + (pointer.modifiers.testFlag(Qt::ShiftModifier) ? square(way) : way);
-    return m_dragged;
 }
 
 void CreationTool::sendToObject(int eventType)
@@ -167,10 +143,10 @@ void CreationTool::sendToObject(int eventType)
         return;
     }
     QGraphicsSceneMouseEvent event{QEvent::Type(eventType)};
-    event.setScenePos(dragRect().bottomRight());
+    event.setScenePos(m_course->box().bottomRight());
     event.setPos(m_object->mapFromScene(event.scenePos()));
-    event.setButtonDownScenePos(Qt::LeftButton, m_start);
-    event.setButtonDownPos(Qt::LeftButton, m_object->mapFromScene(m_start));
+    event.setButtonDownScenePos(Qt::LeftButton, m_course->start());
+    event.setButtonDownPos(Qt::LeftButton, m_object->mapFromScene(m_course->start()));
     event.setButton(eventType == QEvent::GraphicsSceneMouseMove ? Qt::NoButton : Qt::LeftButton);
     event.setButtons(eventType == QEvent::GraphicsSceneMouseRelease ? Qt::NoButton : Qt::LeftButton);
     switch (eventType) {
@@ -188,18 +164,16 @@ void CreationTool::sendToObject(int eventType)
 
 void CreationTool::sizeFinishedObject(int eventType)
 {
-    if (m_dragged)
-        m_object->setSize(dragRect().size(), false, false);
+    if (m_course->isDrag())
+        m_object->setSize(m_course->box().size(), false, false);
     else if (eventType == QEvent::GraphicsSceneMouseRelease && m_object->getClientRect().isEmpty())
         m_object->setSize({plainSide, plainSide}, false, false);
 }
 
-void CreationTool::keepStartCorner()
+/// The object may have chosen another size.
+void CreationTool::keepStart()
 {
-    const QRectF rect = m_object->getClientRect();
-    const double left = m_end.x() < m_start.x() ? rect.right() : rect.left();
-    const double top = m_end.y() < m_start.y() ? rect.bottom() : rect.top();
-    m_object->CPSRootObject::setPos(m_start - QPointF(left, top), false);
+    m_object->CPSRootObject::setPos(m_course->placeOf(m_object->getClientRect()), false);
 }
 
 } // namespace pagehost

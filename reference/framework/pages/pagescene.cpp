@@ -11,21 +11,35 @@
 #include <host/objectplace.h>
 #include <host/undocapture.h>
 #include <pages/eventcopy.h>
+#include <pages/gripcourse.h>
 #include <pages/gripfinder.h>
+#include <pages/guidepainter.h>
 #include <pages/highlightpainter.h>
 #include <pages/overlaypainter.h>
+#include <pages/snapper.h>
 #include <pages/toolinput.h>
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <iterator>
+
 namespace pagehost {
+
+namespace {
+
+/// Guides stay this long after the end of a drag, milliseconds.
+constexpr int guideTime = 400;
+
+} // namespace
 
 PageScene::PageScene(Page *page)
     : QGraphicsScene(QRectF(QPointF(0, 0), page->size()))
     , m_page(page)
     , m_tool(std::make_unique<ToolInput>())
+    , m_snapper(std::make_unique<Snapper>(page))
 {
     connect(this, &QGraphicsScene::selectionChanged, this, &PageScene::updateOverlay);
     if (Document *document = page->document()) {
@@ -35,6 +49,11 @@ PageScene::PageScene(Page *page)
     }
     m_overlayTimer.setSingleShot(true);
     connect(&m_overlayTimer, &QTimer::timeout, this, &PageScene::repaintOverlay);
+    m_guideTimer.setSingleShot(true);
+    connect(&m_guideTimer, &QTimer::timeout, this, [this] {
+        m_snapper->clearGuides();
+        updateOverlay();
+    });
 }
 
 PageScene::~PageScene() = default;
@@ -105,6 +124,42 @@ bool PageScene::releaseTool(const ToolPointer &pointer)
     return true;
 }
 
+void PageScene::setSnapping(bool on)
+{
+    m_snapper->setOn(on);
+}
+
+bool PageScene::isSnapping() const
+{
+    return m_snapper->isOn();
+}
+
+void PageScene::setGrid(double distance)
+{
+    if (distance == grid())
+        return;
+    m_snapper->setGrid(distance);
+    update();
+}
+
+double PageScene::grid() const
+{
+    return m_snapper->grid();
+}
+
+void PageScene::updateGuides()
+{
+    m_guideTimer.stop();
+    updateOverlay();
+}
+
+void PageScene::endSnapping()
+{
+    m_snapper->end();
+    m_guideTimer.start(guideTime);
+    updateOverlay();
+}
+
 bool PageScene::isBusy() const
 {
     return isDragging() || (tool() && tool()->isDrawing());
@@ -139,15 +194,19 @@ void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
 {
     m_drag = grip;
     m_pressPos = event->scenePos();
-    deliver(event);
+    deliver(event, m_drag.offset);
     event->accept();
+    if (isDragging())
+        m_course = std::make_unique<GripCourse>(grip, m_pressPos + grip.offset, *m_snapper);
+    m_lastPos = m_pressPos;
     updateOverlay();
 }
 
-void PageScene::deliver(QGraphicsSceneMouseEvent *event) const
+/// `offset`: from the mouse to the point that the object gets, scene units.
+void PageScene::deliver(QGraphicsSceneMouseEvent *event, const QPointF &offset) const
 {
     QGraphicsSceneMouseEvent copy(event->type());
-    copyMouseEvent(*event, *m_drag.object, m_drag.offset, copy);
+    copyMouseEvent(*event, *m_drag.object, offset, copy);
     switch (event->type()) {
     case QEvent::GraphicsSceneMousePress:
         m_drag.object->mousePressEvent(&copy);
@@ -164,12 +223,26 @@ void PageScene::deliver(QGraphicsSceneMouseEvent *event) const
     }
 }
 
+/// Hands a move or the release of a drag to the object, where the drag's course leads it.
+void PageScene::lead(QGraphicsSceneMouseEvent *event)
+{
+    const bool isFinger = event->source() != Qt::MouseEventNotSynthesized;
+    const DragPointer pointer{event->scenePos() + m_drag.offset, event->modifiers(), pixel(), isFinger};
+    m_lastPos = event->scenePos();
+    const QPointF led = m_course->lead(pointer);
+    deliver(event, led - event->scenePos());
+    // The object may have left the page.
+    if (m_course)
+        m_course->showGuides();
+    updateGuides();
+}
+
 void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     if (moveTool(toolPointer(*event, pixel()))) {
         event->accept();
     } else if (isDragging()) {
-        deliver(event);
+        lead(event);
         event->accept();
     } else if (!event->buttons()) {
         setHover(gripAt(event->scenePos()));
@@ -190,9 +263,16 @@ void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         QGraphicsScene::mouseReleaseEvent(event);
         return;
     }
-    deliver(event);
+    lead(event);
     event->accept();
+    endDrag();
+}
+
+void PageScene::endDrag()
+{
     m_drag = {};
+    m_course.reset();
+    endSnapping();
     updateOverlay();
 }
 
@@ -204,7 +284,7 @@ void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     m_drag = grip;
-    deliver(event);
+    deliver(event, grip.offset);
     m_drag = {};
     event->accept();
 }
@@ -212,13 +292,46 @@ void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 void PageScene::keyPressEvent(QKeyEvent *event)
 {
     event->ignore();
-    if ((event->key() == Qt::Key_Escape && cancelDrag()) || useToolKey(event)) {
+    if ((event->key() == Qt::Key_Escape && cancelDrag()) || followKey(event, true) || useToolKey(event)) {
         event->accept();
         return;
     }
     const QVector<CBaseObject *> selected = m_page->selectedObjects();
     if (selected.size() == 1)
         selected.first()->keyPressEvent(event);
+}
+
+void PageScene::keyReleaseEvent(QKeyEvent *event)
+{
+    event->setAccepted(followKey(event, false));
+}
+
+/// Keys that are held while something is dragged or drawn.
+bool PageScene::followKey(const QKeyEvent *event, bool isPressed)
+{
+    if (event->key() == Qt::Key_Space)
+        return usesTool() && m_tool->setMovesStart(isPressed);
+    return followModifiers(event);
+}
+
+/// Modifiers count at once, not with the next move of the mouse.
+bool PageScene::followModifiers(const QKeyEvent *event)
+{
+    constexpr int followed[] = {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt};
+    if (std::find(std::begin(followed), std::end(followed), event->key()) == std::end(followed))
+        return false;
+    if (usesTool())
+        return m_tool->setModifiers(event->modifiers());
+    if (!isDragging())
+        return false;
+    QGraphicsSceneMouseEvent move(QEvent::GraphicsSceneMouseMove);
+    move.setScenePos(m_lastPos);
+    move.setLastScenePos(m_lastPos);
+    move.setButtonDownScenePos(Qt::LeftButton, m_pressPos);
+    move.setButtons(Qt::LeftButton);
+    move.setModifiers(event->modifiers());
+    lead(&move);
+    return true;
 }
 
 bool PageScene::useToolKey(QKeyEvent *event)
@@ -244,10 +357,10 @@ bool PageScene::cancelDrag()
         QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
         release.setButton(Qt::LeftButton);
         release.setScenePos(m_pressPos);
-        deliver(&release);
+        deliver(&release, m_drag.offset);
     }
-    m_drag = {};
-    updateOverlay();
+    m_snapper->clearGuides();
+    endDrag();
     return true;
 }
 
@@ -255,8 +368,12 @@ void PageScene::forget(CBaseObject *object)
 {
     if (m_drag.object == object) {
         GripDrag::forget(*object);
-        m_drag = {};
+        m_snapper->clearGuides();
+        endDrag();
+    } else if (m_course) {
+        m_course->forget(object);
     }
+    m_snapper->forget(object);
     if (m_hover.object == object)
         m_hover = {};
     if (m_highlight == object)
@@ -294,7 +411,9 @@ QRectF PageScene::frameBounds() const
 
 void PageScene::repaintOverlay()
 {
-    const QRectF covered = overlayBounds(*m_page).united(highlightBounds(m_highlight, m_pixel));
+    const QRectF covered = overlayBounds(*m_page)
+                               .united(highlightBounds(m_highlight, m_pixel))
+                               .united(guideBounds(m_snapper->guides(), pixel()));
     const QRectF damaged = m_overlay.united(covered);
     m_overlay = covered;
     // A null rectangle would stand for the whole scene.
@@ -322,6 +441,14 @@ void PageScene::zoomChanged()
 void PageScene::drawBackground(QPainter *painter, const QRectF &)
 {
     paintPageBackground(m_page, painter, m_page->rect());
+    if (grid() > 0 && !isPresented())
+        paintGrid(*painter, *m_page, grid());
+}
+
+bool PageScene::isPresented() const
+{
+    const Document *document = m_page->document();
+    return document && document->documentState() != 0;
 }
 
 void PageScene::drawForeground(QPainter *painter, const QRectF &)
@@ -330,11 +457,11 @@ void PageScene::drawForeground(QPainter *painter, const QRectF &)
         m_pixel = paintHighlight(*m_highlight, *painter);
     if (m_highlight && m_highlightedParts == ObjectAndPlaces)
         paintConnectionPlaces(*m_highlight, *painter);
-    const Document *document = m_page->document();
-    if (document && document->documentState() != 0)
+    if (isPresented())
         return;
     const bool isMoving = isDragging() && m_drag.kind == Grip::Body;
     paintOverlay(*m_page, *painter, m_hover, isMoving || !isEditable());
+    paintGuides(*painter, m_snapper->guides(), *m_page);
 }
 
 } // namespace pagehost

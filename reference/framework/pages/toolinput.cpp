@@ -3,6 +3,7 @@
 #include <QtWidgets/QGraphicsSceneMouseEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace pagehost {
 
@@ -34,6 +35,8 @@ void ToolInput::press(const ToolPointer &pointer)
     if (!m_tool)
         return;
     m_isPressed = true;
+    m_movesStart = false;
+    m_pointer = pointer;
     waitForStillness(pointer);
     m_tool->press(pointer);
 }
@@ -42,11 +45,13 @@ void ToolInput::move(const ToolPointer &pointer)
 {
     if (!m_tool)
         return;
+    m_pointer = pointer;
+    m_pointer.movesStart = m_movesStart;
     const QPointF way = pointer.pos - m_restingPlace;
     if (m_isPressed && std::hypot(way.x(), way.y()) > restingPixels * pointer.pixel)
         waitForStillness(pointer);
     if (m_isPressed || m_tool->isDrawing())
-        m_tool->move(pointer);
+        m_tool->move(m_pointer);
 }
 
 void ToolInput::release(const ToolPointer &pointer)
@@ -55,7 +60,9 @@ void ToolInput::release(const ToolPointer &pointer)
     if (!m_tool || !m_isPressed)
         return;
     m_isPressed = false;
-    m_tool->release(pointer);
+    m_pointer = pointer;
+    m_pointer.movesStart = std::exchange(m_movesStart, false);
+    m_tool->release(m_pointer);
 }
 
 bool ToolInput::cancel()
@@ -63,6 +70,22 @@ bool ToolInput::cancel()
     m_still.stop();
     m_isPressed = false;
     return m_tool && m_tool->cancel();
+}
+
+bool ToolInput::setModifiers(Qt::KeyboardModifiers modifiers)
+{
+    if (!m_tool || !m_isPressed || m_pointer.modifiers == modifiers)
+        return false;
+    m_pointer.modifiers = modifiers;
+    m_tool->move(m_pointer);
+    return true;
+}
+
+bool ToolInput::setMovesStart(bool moves)
+{
+    if (!m_isPressed && moves)
+        return false;
+    return std::exchange(m_movesStart, moves) || moves;
 }
 
 void ToolInput::waitForStillness(const ToolPointer &pointer)

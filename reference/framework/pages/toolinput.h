@@ -22,12 +22,18 @@ public:
     void move(const ToolPointer &pointer);
     void release(const ToolPointer &pointer);
     bool cancel();
+    /// The keys that modify a drawing have changed. False where nothing is drawn.
+    bool setModifiers(Qt::KeyboardModifiers modifiers);
+    /// From now on moves move the start, too. False where nothing is drawn.
+    bool setMovesStart(bool moves);
 
 private:
     void waitForStillness(const ToolPointer &pointer);
 
     PageTool *m_tool = nullptr;
     bool m_isPressed = false;
+    bool m_movesStart = false;
+    ToolPointer m_pointer; ///< last one of the press that is going on
     QTimer m_still;
     QPointF m_restingPlace; ///< scene coordinates
 };

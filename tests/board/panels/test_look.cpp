@@ -305,7 +305,7 @@ void TestLook::arrowKeyAfterTheChoiceOfAColourMovesTheShape()
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(t.style().penColor, QColor(Qt::black));
     QTest::keyClick(t.board.window().focusWidget(), Qt::Key_Right);
-    QCOMPARE(t.board.placeOf(t.shape), QRectF(501, 300, 200, 120));
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(508, 300, 200, 120));
 }
 
 /// Two more shapes beside it that look otherwise, all three selected.

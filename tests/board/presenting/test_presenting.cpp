@@ -229,7 +229,7 @@ void TestPresenting::arrowsMoveASelectedShape()
     t.board.page().select({t.shape});
     t.press(Qt::Key_Right);
     QCOMPARE(t.page(), 1);
-    QCOMPARE(t.board.placeOf(t.shape), QRectF(501, 300, 200, 120));
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(508, 300, 200, 120));
 }
 
 void TestPresenting::escapeGoesBackStepByStep()

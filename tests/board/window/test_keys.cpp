@@ -39,6 +39,7 @@ class TestKeys : public QObject
 private Q_SLOTS:
     void arrowKeysNudge_data();
     void arrowKeysNudge();
+    void arrowKeysMoveByTheGrid();
     void heldArrowKeyIsOneStep();
     void arrowKeysLeaveLockedShapesAlone();
     void deleteRemovesTheSelection();
@@ -59,29 +60,42 @@ private Q_SLOTS:
 void TestKeys::arrowKeysNudge_data()
 {
     QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("shift");
+    QTest::addColumn<int>("modifiers");
     QTest::addColumn<QPointF>("pos");
-    QTest::newRow("left") << int(Qt::Key_Left) << false << QPointF(499, 300);
-    QTest::newRow("right") << int(Qt::Key_Right) << false << QPointF(501, 300);
-    QTest::newRow("up") << int(Qt::Key_Up) << false << QPointF(500, 299);
-    QTest::newRow("down") << int(Qt::Key_Down) << false << QPointF(500, 301);
-    QTest::newRow("left by ten") << int(Qt::Key_Left) << true << QPointF(490, 300);
-    QTest::newRow("down by ten") << int(Qt::Key_Down) << true << QPointF(500, 310);
+    QTest::newRow("left") << int(Qt::Key_Left) << int(Qt::NoModifier) << QPointF(492, 300);
+    QTest::newRow("right") << int(Qt::Key_Right) << int(Qt::NoModifier) << QPointF(508, 300);
+    QTest::newRow("up") << int(Qt::Key_Up) << int(Qt::NoModifier) << QPointF(500, 292);
+    QTest::newRow("down") << int(Qt::Key_Down) << int(Qt::NoModifier) << QPointF(500, 308);
+    QTest::newRow("left by ten steps") << int(Qt::Key_Left) << int(Qt::ShiftModifier) << QPointF(420, 300);
+    QTest::newRow("down by ten steps") << int(Qt::Key_Down) << int(Qt::ShiftModifier) << QPointF(500, 380);
+    QTest::newRow("right by a pixel") << int(Qt::Key_Right) << int(Qt::AltModifier) << QPointF(501, 300);
 }
 
 void TestKeys::arrowKeysNudge()
 {
     QFETCH(int, key);
-    QFETCH(bool, shift);
+    QFETCH(int, modifiers);
     QFETCH(QPointF, pos);
     OneShape t;
-    t.board.key(static_cast<Qt::Key>(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
+    t.board.key(static_cast<Qt::Key>(key), Qt::KeyboardModifiers(modifiers));
     QCOMPARE(t.place(), QRectF(pos, QSizeF(200, 120)));
     QCOMPARE(t.board.history().count(), 2);
     t.undo();
     QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
     t.redo();
     QCOMPARE(t.place(), QRectF(pos, QSizeF(200, 120)));
+}
+
+void TestKeys::arrowKeysMoveByTheGrid()
+{
+    OneShape t;
+    t.board.key(Qt::Key_G);
+    t.board.key(Qt::Key_Right);
+    QCOMPARE(t.place().topLeft(), QPointF(532, 300));
+    t.board.key(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(t.place().topLeft(), QPointF(532, 620));
+    t.board.key(Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(t.place().topLeft(), QPointF(532, 619));
 }
 
 void TestKeys::heldArrowKeyIsOneStep()
@@ -93,7 +107,7 @@ void TestKeys::heldArrowKeyIsOneStep()
     }
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier);
     QApplication::sendEvent(&t.board.view(), &release);
-    QCOMPARE(t.place().topLeft(), QPointF(505, 300));
+    QCOMPARE(t.place().topLeft(), QPointF(540, 300));
     QCOMPARE(t.board.history().count(), 2);
     t.undo();
     QCOMPARE(t.place().topLeft(), QPointF(500, 300));

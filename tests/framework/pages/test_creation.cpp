@@ -82,6 +82,14 @@ private Q_SLOTS:
     void tremblingClickIsAClick_data();
     void tremblingClickIsAClick();
     void shiftKeepsTheDragSquare();
+    void modifiersCountAtAnyTimeOfTheDrag();
+    void controlDrawsAboutTheStart();
+    void controlKeepsTheCentreOfAnObjectThatTakesAnotherSize();
+    void spaceMovesTheStart();
+    void startAndEndCatchAtAnObject();
+    void shiftedSquareCatches();
+    void altDrawsWithoutSnapping();
+    void placedObjectDoesNotSnap();
     void resultIsOneStepAndTheSelection();
     void objectIsOnThePageWhileItIsDrawn();
     void finishedObjectTakesTheDraggedSize();
@@ -216,6 +224,103 @@ void TestCreation::shiftKeepsTheDragSquare()
     workshop.drag(QPointF(300, 300), QPointF(180, 350), Qt::ShiftModifier);
     QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 120, 120));
     QCOMPARE(workshop.last()->getPos(), QPointF(180, 300));
+}
+
+void TestCreation::modifiersCountAtAnyTimeOfTheDrag()
+{
+    Workshop workshop;
+    workshop.begin("drawn");
+    workshop.press({300, 300});
+    workshop.moveTo({420, 350});
+    QTest::keyPress(workshop.view.viewport(), Qt::Key_Shift);
+    auto *drawn = dynamic_cast<CreatedObject *>(workshop.page->scene()->items().first());
+    QCOMPARE(drawn->getClientRect(), QRectF(0, 0, 120, 120));
+    QTest::keyRelease(workshop.view.viewport(), Qt::Key_Shift, Qt::ShiftModifier);
+    QCOMPARE(drawn->getClientRect(), QRectF(0, 0, 120, 50));
+    workshop.release({420, 350});
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 120, 50));
+}
+
+void TestCreation::controlDrawsAboutTheStart()
+{
+    Workshop workshop;
+    workshop.begin("drawn");
+    workshop.drag({300, 300}, {360, 340}, Qt::ControlModifier);
+    QCOMPARE(workshop.last()->getPos(), QPointF(240, 260));
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 120, 80));
+    workshop.begin("drawn");
+    workshop.drag({300, 300}, {240, 330}, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(workshop.last()->getPos(), QPointF(240, 240));
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 120, 120));
+}
+
+void TestCreation::controlKeepsTheCentreOfAnObjectThatTakesAnotherSize()
+{
+    Workshop workshop;
+    workshop.begin("square");
+    workshop.drag({300, 300}, {360, 340}, Qt::ControlModifier);
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 80, 80));
+    QCOMPARE(workshop.last()->getPos(), QPointF(260, 260));
+}
+
+void TestCreation::spaceMovesTheStart()
+{
+    Workshop workshop;
+    workshop.begin("drawn");
+    workshop.press({300, 300});
+    workshop.moveTo({360, 340});
+    QTest::keyPress(workshop.view.viewport(), Qt::Key_Space);
+    workshop.moveTo({380, 330});
+    QTest::keyRelease(workshop.view.viewport(), Qt::Key_Space);
+    workshop.moveTo({400, 350});
+    workshop.release({400, 350});
+    QCOMPARE(workshop.last()->getPos(), QPointF(320, 290));
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 80, 60));
+}
+
+void TestCreation::startAndEndCatchAtAnObject()
+{
+    Workshop workshop;
+    workshop.add(QSizeF(100, 60), QPointF(400, 300));
+    workshop.page->scene()->setSnapping(true);
+    workshop.begin("drawn");
+    workshop.drag({504, 365}, {700, 500});
+    QCOMPARE(workshop.last()->getPos(), QPointF(500, 360));
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 200, 140));
+    workshop.begin("drawn");
+    workshop.drag({100, 100}, {396, 297});
+    QCOMPARE(workshop.last()->getPos(), QPointF(100, 100));
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 300, 200));
+}
+
+void TestCreation::shiftedSquareCatches()
+{
+    Workshop workshop;
+    workshop.add(QSizeF(100, 60), QPointF(400, 300));
+    workshop.page->scene()->setSnapping(true);
+    workshop.begin("drawn");
+    workshop.drag({100, 50}, {396, 120}, Qt::ShiftModifier);
+    QCOMPARE(workshop.last()->getClientRect(), QRectF(0, 0, 300, 300));
+}
+
+void TestCreation::altDrawsWithoutSnapping()
+{
+    Workshop workshop;
+    workshop.add(QSizeF(100, 60), QPointF(400, 300));
+    workshop.page->scene()->setSnapping(true);
+    workshop.begin("drawn");
+    workshop.drag({504, 365}, {700, 500}, Qt::AltModifier);
+    QCOMPARE(workshop.last()->getPos(), QPointF(504, 365));
+}
+
+void TestCreation::placedObjectDoesNotSnap()
+{
+    Workshop workshop;
+    workshop.add(QSizeF(100, 60), QPointF(400, 300));
+    workshop.page->scene()->setSnapping(true);
+    const CBaseObject *placed =
+        workshop.tool.createAt(workshop.page->scene(), QStringLiteral("drawn"), QPointF(504, 365));
+    QCOMPARE(placed->getPos(), QPointF(504, 365));
 }
 
 void TestCreation::resultIsOneStepAndTheSelection()

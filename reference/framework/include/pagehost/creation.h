@@ -6,13 +6,15 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
-#include <QtCore/QRectF>
 #include <QtCore/QString>
+
+#include <memory>
 
 class CBaseObject;
 
 namespace pagehost {
 
+class CreationCourse;
 class ObjectRegistry;
 class PageScene;
 
@@ -20,8 +22,9 @@ class PageScene;
 ///
 /// The object sees one press at its own (0, 0), moves, and one release, and always grows to the right and down: the
 /// tool moves the item so that the corner where the drag began stays put, whatever direction the user drags. A
-/// click makes an object of its default size with its top-left corner at the click. Shift keeps the drag square.
-/// The result is one undo step, and the new object is the selection.
+/// click makes an object of its default size with its top-left corner at the click. Shift keeps the drag square,
+/// Ctrl draws about the start, and the start moves along where the pointer says so. Start and end snap as the scene
+/// does. The result is one undo step, and the new object is the selection.
 class FRAMEWORK_EXPORT CreationTool : public QObject, public PageTool
 {
     Q_OBJECT
@@ -57,20 +60,16 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    bool follow(const ToolPointer &pointer);
-    QRectF dragRect() const;
     void sendToObject(int eventType);
     void sizeFinishedObject(int eventType);
-    void keepStartCorner();
+    void keepStart();
     void stop();
 
     const ObjectRegistry *m_registry;
     PageScene *m_scene = nullptr;
     QString m_kindId;
     CBaseObject *m_object = nullptr;
-    QPointF m_start; ///< scene coordinates
-    QPointF m_end;   ///< scene coordinates
-    bool m_dragged = false;
+    std::unique_ptr<CreationCourse> m_course; ///< of m_object
 };
 
 } // namespace pagehost

@@ -15,8 +15,10 @@ class CBaseObject;
 
 namespace pagehost {
 
+class GripCourse;
 class Page;
 class PageTool;
+class Snapper;
 class ToolInput;
 struct ToolPointer;
 
@@ -71,6 +73,23 @@ public:
     bool releaseTool(const ToolPointer &pointer);
     /// @}
 
+    /// @name Snapping, initially off
+    /// Moved, resized and newly drawn objects catch at others, at the page and at the grid, turned ones at steps
+    /// of 15 degrees, unless Alt is held.
+    /// @{
+    void setSnapping(bool on);
+    bool isSnapping() const;
+    /// Shows a grid with lines at this distance, scene units; 0 for none. Visible in views only.
+    void setGrid(double distance);
+    double grid() const;
+    /// Of this scene's tools.
+    Snapper &snapper() const { return *m_snapper; }
+    /// Shows what Snapper::guides() are now.
+    void updateGuides();
+    /// The drag has ended: its guides disappear in a moment.
+    void endSnapping();
+    /// @}
+
     /// True between a press that an object took and its release.
     bool isDragging() const;
     /// An object is being dragged or drawn.
@@ -106,6 +125,7 @@ protected:
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void drawBackground(QPainter *painter, const QRectF &rect) override;
     void drawForeground(QPainter *painter, const QRectF &rect) override;
 
@@ -114,7 +134,12 @@ private:
     bool useToolKey(QKeyEvent *event);
     double pixel() const;
     void pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event);
-    void deliver(QGraphicsSceneMouseEvent *event) const;
+    void deliver(QGraphicsSceneMouseEvent *event, const QPointF &offset) const;
+    void lead(QGraphicsSceneMouseEvent *event);
+    void endDrag();
+    bool followKey(const QKeyEvent *event, bool isPressed);
+    bool followModifiers(const QKeyEvent *event);
+    bool isPresented() const;
     void setHover(const Grip &grip);
     bool isEditable() const;
     void repaintOverlay();
@@ -128,6 +153,10 @@ private:
     CBaseObject *m_highlight = nullptr;
     Highlight m_highlightedParts = ObjectOnly;
     QPointF m_pressPos; ///< scene coordinates
+    QPointF m_lastPos;  ///< of the mouse in the drag that is going on, scene coordinates
+    std::unique_ptr<Snapper> m_snapper;
+    std::unique_ptr<GripCourse> m_course; ///< of the drag that is going on
+    QTimer m_guideTimer;
     QTimer m_overlayTimer;
     QRectF m_overlay;   ///< area of the last overlay, scene coordinates
     double m_pixel = 1; ///< a pixel of the view painted last, scene units

@@ -37,6 +37,7 @@ struct ToolPointer
     double pressure = -1; ///< 0 to 1; below 0 for a device that measures none
     double pixel = 1;     ///< a pixel of the view, scene units
     Qt::KeyboardModifiers modifiers;
+    bool movesStart = false; ///< a drag moves the place where it began along with the pointer
 };
 
 /// The page as tools see it. Changes show at once; those since the last commit() are one undo step.

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <pagehost/pagescene.h>
+
+#include <pages/snapping.h>
+
+#include <QtCore/QSizeF>
+
+namespace pagehost {
+
+class Snapper;
+
+/// The pointer of a drag: a place, and what modifies it.
+struct DragPointer
+{
+    QPointF pos; ///< scene coordinates
+    Qt::KeyboardModifiers modifiers;
+    double pixel = 1; ///< a pixel of the view, scene units
+    bool isFinger = false;
+};
+
+/// Leads a drag of a grip: the objects get the mouse where the modifiers and what they snap to put it.
+class GripCourse
+{
+public:
+    /// Of a press that the object has taken.
+    GripCourse(const Grip &grip, const QPointF &press, Snapper &snapper);
+
+    /// The place that the object gets, scene coordinates.
+    QPointF lead(const DragPointer &pointer);
+    /// The object has got it: shows guides where things lie now.
+    void showGuides();
+    void forget(CBaseObject *object) { m_moving.removeOne(object); }
+
+private:
+    QPointF leadBody(const DragPointer &pointer);
+    QPointF leadCorner(const DragPointer &pointer);
+    QPointF proportional(const QPointF &way) const;
+    bool isResize() const;
+    bool isCorner() const { return m_side.x() != 0 && m_side.y() != 0; }
+    std::optional<SnapSubject> cornerSubject(const QPointF &corner) const;
+    QPointF snapOffset(const SnapSubject &subject, const DragPointer &pointer);
+
+    Grip m_grip;
+    QPointF m_press; ///< scene coordinates
+    Snapper &m_snapper;
+    QVector<CBaseObject *> m_moving;
+    QRectF m_startBox;   ///< of the moving objects, scene coordinates
+    QSizeF m_startSize;  ///< of the resized object, item units
+    QPointF m_side;      ///< of the resized object, see HandleLayout::side()
+    QPointF m_sceneSide; ///< the same as it is turned, for objects that are turned by quarters; else null
+    QPointF m_corner;    ///< dragged corner or side of the resized object at the press, scene coordinates
+    QPointF m_fixed;     ///< the one opposite
+    std::optional<SnapSubject> m_subject; ///< of the last move
+};
+
+} // namespace pagehost
