@@ -16,7 +16,22 @@
 
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
+
 namespace pagehost {
+
+namespace {
+
+/// Events that a gesture causes. Others, such as zooming, may happen during one and stay.
+bool isOfObjects(const LessonEvent &event)
+{
+    const LessonStep &step = event.step;
+    return std::holds_alternative<ObjectActed>(step) || std::holds_alternative<ObjectAppeared>(step) ||
+           std::holds_alternative<ObjectVanished>(step) || std::holds_alternative<ObjectSettled>(step) ||
+           std::holds_alternative<PageRestacked>(step);
+}
+
+} // namespace
 
 LessonRecording::LessonRecording(Document *document, const ObjectRegistry *registry, const LessonClock &clock)
     : m_document(document)
@@ -56,6 +71,9 @@ void LessonRecording::watch(Page *page)
             note(index);
     };
     disconnect(page, nullptr, this, nullptr);
+    disconnect(page->scene(), nullptr, this, nullptr);
+    connect(page->scene(), &PageScene::gestureStarted, this, &LessonRecording::beginGesture);
+    connect(page->scene(), &PageScene::gestureCancelled, this, &LessonRecording::withdrawGesture);
     connect(page, &Page::objectAdded, this,
             [=](CBaseObject *object) { ifShown([=](int) { noteObject(*page, object); }); });
     connect(page, &Page::objectRemoved, this,
@@ -118,6 +136,24 @@ void LessonRecording::noteChange(CBaseObject *object)
         if (!m_turn.isActive())
             m_turn.start(0);
     }
+}
+
+void LessonRecording::beginGesture()
+{
+    settle();
+    m_gesture = m_lesson.events.size();
+}
+
+/// The rehearsal goes there and back; the lesson forgets both ways.
+void LessonRecording::withdrawGesture()
+{
+    if (!m_gesture)
+        return;
+    settle();
+    QVector<LessonEvent> &events = m_lesson.events;
+    events.erase(std::remove_if(events.begin() + *m_gesture, events.end(), isOfObjects), events.end());
+    m_gesture.reset();
+    m_rehearsed = events.size();
 }
 
 /// Compare once per turn of the event loop. In the middle of a drag the recorded actions suffice.

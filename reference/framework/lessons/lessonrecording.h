@@ -13,6 +13,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
+#include <optional>
+
 namespace pagehost {
 
 class Document;
@@ -45,6 +47,8 @@ private:
     void noteRemoval(CBaseObject *object);
     void noteOrder(const Page &page);
     void noteChange(CBaseObject *object);
+    void beginGesture();
+    void withdrawGesture();
     void settleIdle();
 
     void append(const LessonStep &step);
@@ -73,6 +77,7 @@ private:
     LessonStage m_rehearsal;
     int m_rehearsed = 0; ///< events that the rehearsal has played
     Lesson m_lesson;
+    std::optional<int> m_gesture; ///< events before the present drag or drawing began
     QHash<CBaseObject *, Numbered> m_numbers;
     quint32 m_lastNumber = 0;
     QMap<quint32, QPointer<CBaseObject>> m_changed; ///< since the last comparison

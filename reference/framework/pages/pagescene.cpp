@@ -102,6 +102,8 @@ bool PageScene::pressTool(const ToolPointer &pointer)
 {
     if (!usesTool())
         return false;
+    if (!tool()->isDrawing())
+        beginGesture();
     m_tool->press(pointer);
     Q_EMIT toolUsed();
     return true;
@@ -190,9 +192,19 @@ void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
     pressGrip(grip, event);
 }
 
+void PageScene::beginGesture()
+{
+    const QVector<CBaseObject *> selected = m_page->selectedObjects();
+    m_selectedBefore = QVector<QPointer<CBaseObject>>(selected.begin(), selected.end());
+    Q_EMIT gestureStarted();
+}
+
 void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
 {
+    beginGesture();
     m_drag = grip;
+    if (grip.kind == Grip::ControlPoint)
+        m_reshaped = {grip.object, GeometrySnapshot::WithContent};
     m_pressPos = event->scenePos();
     deliver(event, m_drag.offset);
     event->accept();
@@ -344,6 +356,27 @@ bool PageScene::useToolKey(QKeyEvent *event)
 
 bool PageScene::cancelDrag()
 {
+    const bool wasBusy = isBusy();
+    if (!takeBack())
+        return false;
+    if (wasBusy) {
+        selectAsBefore();
+        Q_EMIT gestureCancelled();
+    }
+    return true;
+}
+
+void PageScene::selectAsBefore()
+{
+    QVector<CBaseObject *> selected;
+    for (const QPointer<CBaseObject> &object : qAsConst(m_selectedBefore))
+        if (object)
+            selected.append(object);
+    m_page->select(selected);
+}
+
+bool PageScene::takeBack()
+{
     if (m_tool->cancel())
         return true;
     if (!isDragging())
@@ -352,16 +385,23 @@ bool PageScene::cancelDrag()
         drag->cancel();
         GripDrag::forget(*m_drag.object);
     } else {
-        // The object's own release makes the undo step that restores its control point.
-        const UndoCapture capture;
-        QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
-        release.setButton(Qt::LeftButton);
-        release.setScenePos(m_pressPos);
-        deliver(&release, m_drag.offset);
+        releaseAtStart();
+        // Undoing brings the point back, but what the shape has made of its moves may differ in the last digits.
+        m_reshaped.restore();
     }
     m_snapper->clearGuides();
     endDrag();
     return true;
+}
+
+/// The object's own release makes the undo step that restores its control point.
+void PageScene::releaseAtStart()
+{
+    const UndoCapture capture;
+    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+    release.setButton(Qt::LeftButton);
+    release.setScenePos(m_pressPos);
+    deliver(&release, m_drag.offset);
 }
 
 void PageScene::forget(CBaseObject *object)

@@ -58,6 +58,7 @@ QVector<CBaseObject *> ToolSession::objectsIn(const QRectF &area) const
 
 void ToolSession::commit(const QString &textKey, Afterwards afterwards)
 {
+    m_numbered.clear();
     const QVector<CBaseObject *> added = m_change.added();
     if (!m_change.push(textKey))
         return;
@@ -69,6 +70,9 @@ void ToolSession::commit(const QString &textKey, Afterwards afterwards)
 void ToolSession::revert()
 {
     m_change.revert();
+    const QVector<QPointer<CBaseObject>> numbered = std::exchange(m_numbered, {});
+    for (CBaseObject *object : numbered)
+        setObjectId(object, 0);
 }
 
 ToolPage::Connection ToolSession::connectionAt(const ToolPointer &pointer) const
@@ -84,6 +88,7 @@ quint32 ToolSession::numberOf(CBaseObject *object)
     const bool isNew = objectId(object) == 0;
     const quint32 number = ensureObjectId(object, *document);
     if (isNew) {
+        m_numbered.append(object);
         // In a lesson, too, the object is followed by its number.
         QByteArray payload = payloadOf(number);
         object->RecordAction(ActionNumbered, &payload);

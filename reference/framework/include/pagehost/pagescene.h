@@ -3,9 +3,13 @@
 #include <framework/cobjaction.h>
 #include <framework/framework_global.h>
 
+#include <pagehost/geometrysnapshot.h>
+
 #include <QtCore/QPointF>
+#include <QtCore/QPointer>
 #include <QtCore/QRectF>
 #include <QtCore/QTimer>
+#include <QtCore/QVector>
 #include <QtGui/QCursor>
 #include <QtWidgets/QGraphicsScene>
 
@@ -94,8 +98,9 @@ public:
     bool isDragging() const;
     /// An object is being dragged or drawn.
     bool isBusy() const;
-    /// Cancels a running drag: objects return to their places, a control point to where it was, a tool takes back
-    /// its drawing; no undo step remains. False when none runs. The Esc key does the same.
+    /// Cancels a running drag without a trace: objects and control points return to where they were, a tool takes
+    /// back its drawing, the selection is the one before the press; no undo step remains, what could be redone
+    /// still can be. False when none runs. The Esc key does the same.
     bool cancelDrag();
 
     enum Highlight {
@@ -118,6 +123,10 @@ public:
 Q_SIGNALS:
     /// The tool has dealt with a press, a release or a key.
     void toolUsed();
+    /// A press is about to begin a drag or a drawing.
+    void gestureStarted();
+    /// All is as it was at gestureStarted().
+    void gestureCancelled();
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
@@ -140,6 +149,10 @@ private:
     bool followKey(const QKeyEvent *event, bool isPressed);
     bool followModifiers(const QKeyEvent *event);
     bool isPresented() const;
+    void beginGesture();
+    bool takeBack();
+    void releaseAtStart();
+    void selectAsBefore();
     void setHover(const Grip &grip);
     bool isEditable() const;
     void repaintOverlay();
@@ -157,6 +170,8 @@ private:
     std::unique_ptr<Snapper> m_snapper;
     std::unique_ptr<GripCourse> m_course; ///< of the drag that is going on
     QTimer m_guideTimer;
+    QVector<QPointer<CBaseObject>> m_selectedBefore; ///< before the last gesture
+    GeometrySnapshot m_reshaped;                     ///< the object of a dragged control point, before the drag
     QTimer m_overlayTimer;
     QRectF m_overlay;   ///< area of the last overlay, scene coordinates
     double m_pixel = 1; ///< a pixel of the view painted last, scene units

@@ -48,6 +48,7 @@ private:
     QPointer<Page> m_page;
     const ObjectRegistry *m_registry;
     PageChange m_change;
+    QVector<QPointer<CBaseObject>> m_numbered; ///< since the last commit
     std::optional<Result> m_result;
 };
 
