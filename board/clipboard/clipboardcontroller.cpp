@@ -120,7 +120,7 @@ void ClipboardController::paste()
     place(pasted, middle);
     moveBy(pasted.objects, nextOffset(data->data(pagehost::objectsMimeType()), middle));
     keepOnPage(pasted);
-    add(pasted.objects);
+    add(pasted);
 }
 
 void ClipboardController::drop(const QMimeData &data, const QPointF &scenePos)
@@ -128,7 +128,7 @@ void ClipboardController::drop(const QMimeData &data, const QPointF &scenePos)
     const Pasted pasted = read(data);
     place(pasted, scenePos);
     keepOnPage(pasted);
-    add(pasted.objects);
+    add(pasted);
 }
 
 /// Finished objects on no page; what could not be read is told.
@@ -136,11 +136,12 @@ ClipboardController::Pasted ClipboardController::read(const QMimeData &data)
 {
     QStringList problems;
     QVector<CBaseObject *> objects;
+    pagehost::ObjectGroups groups;
     const bool isOurs = data.hasFormat(pagehost::objectsMimeType());
     if (isOurs) {
         QVector<pagehost::FileMessage> messages;
         objects = pagehost::decodeObjects(data.data(pagehost::objectsMimeType()), m_workspace->registry(),
-                                          &messages, m_view->page());
+                                          &messages, m_view->page(), &groups);
         for (const pagehost::FileMessage &message : qAsConst(messages))
             problems.append(pagehost::describe(message, m_workspace->localizer()));
     } else {
@@ -156,7 +157,7 @@ ClipboardController::Pasted ClipboardController::read(const QMimeData &data)
         m_notices->add({m_workspace->text(key), problems, {}, pasteNotice});
     else
         m_notices->remove(pasteNotice);
-    return {objects, isOurs};
+    return {objects, groups, isOurs};
 }
 
 /// Objects of this board stay where they were, those of others come to the middle of what is shown.
@@ -190,12 +191,12 @@ QPointF ClipboardController::nextOffset(const QByteArray &data, const std::optio
     return QPointF(copyOffset, copyOffset) * steps;
 }
 
-void ClipboardController::add(const QVector<CBaseObject *> &objects)
+void ClipboardController::add(const Pasted &pasted)
 {
-    if (objects.isEmpty())
+    if (pasted.objects.isEmpty())
         return;
     GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_PASTE"));
-    pagehost::addObjects(m_view->page(), objects);
+    pagehost::addObjects(m_view->page(), pasted.objects, pasted.groups);
     GetFramework()->endUndoGroup();
     m_view->setFocus();
 }

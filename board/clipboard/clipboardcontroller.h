@@ -2,6 +2,8 @@
 
 #include "clipboard/lookclipboard.h"
 
+#include <pagehost/groups.h>
+
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
 #include <QtCore/QVector>
@@ -54,6 +56,7 @@ private:
     struct Pasted
     {
         QVector<CBaseObject *> objects;
+        pagehost::ObjectGroups groups;
         bool havePlaces = false; ///< they stood on a page before
     };
 
@@ -62,7 +65,7 @@ private:
     Pasted read(const QMimeData &data);
     void place(const Pasted &pasted, const std::optional<QPointF> &middle);
     void keepOnPage(const Pasted &pasted);
-    void add(const QVector<CBaseObject *> &objects);
+    void add(const Pasted &pasted);
     QPointF nextOffset(const QByteArray &data, const std::optional<QPointF> &middle);
 
     Workspace *m_workspace;

@@ -91,7 +91,7 @@ void ContextMenus::openAt(const QPoint &pos)
     if (!object)
         page->select({});
     else if (!page->selectedObjects().contains(object))
-        page->select({object});
+        page->select(page->unitOf(object));
     (object ? m_object : m_page)->popup(m_view->viewport()->mapToGlobal(pos));
 }
 

@@ -51,8 +51,9 @@ MenuPlan editPlan()
 
 MenuPlan arrangePlan()
 {
-    return {orderMenu(),       alignMenu(),        separator(), Command::MirrorAcross, Command::MirrorUp,
-            Command::TurnLeft, Command::TurnRight, separator(), Command::Lock};
+    return {orderMenu(),       alignMenu(),       separator(),        Command::MirrorAcross,
+            Command::MirrorUp, Command::TurnLeft, Command::TurnRight, separator(),
+            Command::Group,    Command::Ungroup,  separator(),        Command::Lock};
 }
 
 MenuEntry paperMenu()
@@ -139,14 +140,10 @@ MenuPlan orderMenuPlan()
 
 MenuPlan objectMenuPlan()
 {
-    return {Command::EditText,  separator(),
-            Command::Cut,       Command::Copy,
-            Command::Paste,     Command::Duplicate,
-            separator(),        orderMenu(),
-            alignMenu(),        Command::Lock,
-            separator(),        Command::CopyLook,
-            Command::PasteLook, Command::AllProperties,
-            separator(),        Command::Delete};
+    return {Command::EditText,      separator(),   Command::Cut,   Command::Copy,     Command::Paste,
+            Command::Duplicate,     separator(),   orderMenu(),    alignMenu(),       Command::Group,
+            Command::Ungroup,       Command::Lock, separator(),    Command::CopyLook, Command::PasteLook,
+            Command::AllProperties, separator(),   Command::Delete};
 }
 
 MenuPlan pageMenuPlan()

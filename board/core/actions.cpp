@@ -101,11 +101,18 @@ void Actions::makeAlignActions()
                                     {Command::AlignTop, Edge::Top},
                                     {Command::AlignMiddle, Edge::Middle},
                                     {Command::AlignBottom, Edge::Bottom}})
-        arrange(row.command, [edge = row.edge](const auto &objects) { align(objects, edge); });
-    arrange(Command::DistributeAcross, [](const auto &objects) { distribute(objects, Qt::Horizontal); });
-    arrange(Command::DistributeDown, [](const auto &objects) { distribute(objects, Qt::Vertical); });
+        arrange(row.command, [this, edge = row.edge](const auto &objects) { align(units(objects), edge); });
+    arrange(Command::DistributeAcross, [this](const auto &objects) { distribute(units(objects), Qt::Horizontal); });
+    arrange(Command::DistributeDown, [this](const auto &objects) { distribute(units(objects), Qt::Vertical); });
     arrange(Command::SameSize, [](const auto &objects) { makeSameSize(objects); });
+    arrange(Command::Group, [this](const auto &objects) { pagehost::groupObjects(m_view->page(), objects); });
+    arrange(Command::Ungroup, [this](const auto &objects) { pagehost::ungroupObjects(m_view->page(), objects); });
     arrange(Command::Lock, [](const auto &objects) { pagehost::setObjectsLocked(objects, !areLocked(objects)); });
+}
+
+QVector<Unit> Actions::units(const QVector<CBaseObject *> &objects) const
+{
+    return unitsOf(*m_view->page(), objects);
 }
 
 /// Arranging in the middle of a drag would move what is under the mouse.
@@ -191,16 +198,18 @@ void Actions::enableArranging()
 {
     const pagehost::Page *page = m_view->page();
     const QVector<CBaseObject *> objects = page ? page->selectedObjects() : QVector<CBaseObject *>();
+    const int count = page ? units(objects).size() : 0;
     const auto needs = [&](int least, const QVector<Command> &commands) {
         for (const Command command : commands)
-            m_commands->action(command)->setEnabled(objects.size() >= least);
+            m_commands->action(command)->setEnabled(count >= least);
     };
     needs(1, {Command::SelectNothing, Command::Duplicate, Command::Delete, Command::MirrorAcross, Command::MirrorUp,
               Command::TurnLeft, Command::TurnRight, Command::BringToFront, Command::BringForward,
               Command::SendBackward, Command::SendToBack, Command::Lock, Command::ZoomToSelection});
-    needs(2, {Command::AlignLeft, Command::AlignCenter, Command::AlignRight, Command::AlignTop,
+    needs(2, {Command::Group, Command::AlignLeft, Command::AlignCenter, Command::AlignRight, Command::AlignTop,
               Command::AlignMiddle, Command::AlignBottom, Command::SameSize});
     needs(3, {Command::DistributeAcross, Command::DistributeDown});
+    m_commands->action(Command::Ungroup)->setEnabled(page && pagehost::hasGroup(*page, objects));
     m_commands->action(Command::EditText)->setEnabled(m_view->canWriteLabel());
     selectAll->setEnabled(page && page->objectCount() > objects.size());
     QAction *lock = m_commands->action(Command::Lock);

@@ -46,6 +46,7 @@ private:
     void makeArrangeActions();
     void makeAlignActions();
     void arrange(Command command, const std::function<void(const QVector<CBaseObject *> &)> &work);
+    QVector<QVector<CBaseObject *>> units(const QVector<CBaseObject *> &objects) const;
     void makeViewActions();
     void makePageActions();
     void makeProgramActions();

@@ -1,6 +1,7 @@
 #include "core/arranging.h"
 
 #include <pagehost/commands.h>
+#include <pagehost/page.h>
 #include <pagehost/selection.h>
 
 #include <framework/cbaseobject.h>
@@ -14,10 +15,10 @@ namespace {
 
 using pagehost::GeometrySnapshot;
 
-/// An object and how far it goes, scene units.
+/// An object or a group, and how far it goes, scene units.
 struct Shift
 {
-    CBaseObject *object;
+    Unit unit;
     QPointF delta;
 };
 
@@ -29,21 +30,27 @@ QVector<CBaseObject *> unlocked(const QVector<CBaseObject *> &objects)
     return free;
 }
 
-QRectF boxOf(CBaseObject *object)
+bool isLocked(const Unit &unit)
 {
-    return pagehost::boundsOf({object});
+    return std::any_of(unit.begin(), unit.end(), [](const CBaseObject *object) { return object->isLocked(); });
+}
+
+QRectF boxOf(const Unit &unit)
+{
+    return pagehost::boundsOf(unit);
 }
 
 /// One step for all; an object that is where it should be already gets no rounding errors.
 bool move(const QVector<Shift> &shifts, const QString &textKey)
 {
-    QVector<CBaseObject *> objects;
+    Unit objects;
     for (const Shift &shift : shifts)
-        objects.append(shift.object);
+        objects += shift.unit;
     const QVector<GeometrySnapshot> before = pagehost::takeSnapshots(objects, GeometrySnapshot::PlaceOnly);
     for (const Shift &shift : shifts)
-        if (!shift.delta.isNull() && !shift.object->isLocked())
-            shift.object->setPos(shift.object->getPos() + shift.delta, true);
+        if (!shift.delta.isNull() && !isLocked(shift.unit))
+            for (CBaseObject *object : shift.unit)
+                object->setPos(object->getPos() + shift.delta, true);
     return pagehost::pushGeometryChange(before, textKey);
 }
 
@@ -83,37 +90,48 @@ double areaOf(const CBaseObject *object)
 
 } // namespace
 
-bool align(const QVector<CBaseObject *> &objects, Edge edge)
+QVector<Unit> unitsOf(const pagehost::Page &page, const QVector<CBaseObject *> &objects)
 {
-    const QRectF all = pagehost::boundsOf(objects);
+    QVector<Unit> units;
+    const QVector<pagehost::GroupUnit> holding = page.grouping().unitsHolding(objects);
+    for (const pagehost::GroupUnit &unit : holding)
+        units.append(unit.objects);
+    return units;
+}
+
+bool align(const QVector<Unit> &units, Edge edge)
+{
+    QRectF all;
+    for (const Unit &unit : units)
+        all |= boxOf(unit);
     QVector<Shift> shifts;
-    for (CBaseObject *object : objects)
-        shifts.append({object, deltaTo(all, boxOf(object), edge)});
+    for (const Unit &unit : units)
+        shifts.append({unit, deltaTo(all, boxOf(unit), edge)});
     return move(shifts, QStringLiteral("IDS_BOARD_ALIGN"));
 }
 
-bool distribute(const QVector<CBaseObject *> &objects, Qt::Orientation direction)
+bool distribute(const QVector<Unit> &units, Qt::Orientation direction)
 {
-    if (objects.size() < 3)
+    if (units.size() < 3)
         return false;
-    QVector<CBaseObject *> ordered = objects;
-    const auto start = [direction](CBaseObject *object) { return startOf(boxOf(object), direction); };
+    QVector<Unit> ordered = units;
+    const auto start = [direction](const Unit &unit) { return startOf(boxOf(unit), direction); };
     std::stable_sort(ordered.begin(), ordered.end(),
-                     [&](CBaseObject *one, CBaseObject *other) { return start(one) < start(other); });
+                     [&](const Unit &one, const Unit &other) { return start(one) < start(other); });
     double lengths = 0;
-    for (CBaseObject *object : qAsConst(ordered))
-        lengths += lengthOf(boxOf(object), direction);
+    for (const Unit &unit : qAsConst(ordered))
+        lengths += lengthOf(boxOf(unit), direction);
     const QRectF last = boxOf(ordered.last());
     const double room = startOf(last, direction) + lengthOf(last, direction) - start(ordered.first());
     const double gap = (room - lengths) / (ordered.size() - 1);
     QVector<Shift> shifts;
     double place = start(ordered.first());
-    for (CBaseObject *object : qAsConst(ordered)) {
-        const double by = place - start(object);
-        const bool isOutermost = object == ordered.first() || object == ordered.last();
+    for (const Unit &unit : qAsConst(ordered)) {
+        const double by = place - start(unit);
+        const bool isOutermost = unit == ordered.first() || unit == ordered.last();
         if (!isOutermost)
-            shifts.append({object, direction == Qt::Horizontal ? QPointF(by, 0) : QPointF(0, by)});
-        place += lengthOf(boxOf(object), direction) + gap;
+            shifts.append({unit, direction == Qt::Horizontal ? QPointF(by, 0) : QPointF(0, by)});
+        place += lengthOf(boxOf(unit), direction) + gap;
     }
     return move(shifts, QStringLiteral("IDS_BOARD_DISTRIBUTE"));
 }

@@ -40,6 +40,8 @@ enum class Command {
     MirrorUp,
     TurnLeft,
     TurnRight,
+    Group,
+    Ungroup,
     Lock,
     AlignLeft,
     AlignCenter,

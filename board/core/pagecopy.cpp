@@ -16,7 +16,9 @@ void duplicatePage(pagehost::Document *document, const pagehost::ObjectRegistry 
     GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_DUPLICATE_PAGE"));
     pagehost::Page *copy = pagehost::addPage(document, document->currentIndex() + 1, page->size());
     pagehost::setPageBackground(copy, page->background());
-    pagehost::addObjects(copy, pagehost::decodeObjects(bytes, registry, nullptr, copy));
+    pagehost::ObjectGroups groups;
+    const QVector<CBaseObject *> objects = pagehost::decodeObjects(bytes, registry, nullptr, copy, &groups);
+    pagehost::addObjects(copy, objects, groups);
     GetFramework()->endUndoGroup();
     copy->select({});
 }

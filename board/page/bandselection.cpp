@@ -63,8 +63,12 @@ void BandSelection::selectTouched()
         const bool touched = object->isVisible() && !object->isLocked() &&
                              object->sceneBoundingRect().intersects(area.boundingRect()) &&
                              object->mapToScene(object->shape()).intersects(area);
-        if (touched && !selected.contains(object))
-            selected.append(object);
+        if (!touched || selected.contains(object))
+            continue;
+        const QVector<CBaseObject *> unit = m_page->unitOf(object);
+        for (CBaseObject *member : unit)
+            if (!selected.contains(member))
+                selected.append(member);
     }
     if (selected != m_page->selectedObjects())
         m_page->select(selected);

@@ -216,7 +216,7 @@ void PageView::cancel()
         return;
     if (m_band.isActive())
         return m_band.cancel();
-    if (m_page->scene()->cancelDrag())
+    if (m_page->scene()->cancelDrag() || m_page->leaveGroup())
         return;
     if (m_page->scene()->tool())
         Q_EMIT toolGivenUp();
@@ -262,9 +262,12 @@ void PageView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     // Somebody who clicks and then quickly drags means a drag: after the object has seen the double click, its
     // second press is a press like any other.
+    const quint32 group = m_page ? m_page->enteredGroup() : 0;
     QGraphicsView::mouseDoubleClickEvent(event);
+    const bool hasEntered = m_page && m_page->enteredGroup() != group;
     mousePressEvent(event);
-    m_doubleClicked = event->pos();
+    if (!hasEntered)
+        m_doubleClicked = event->pos();
 }
 
 void PageView::mouseMoveEvent(QMouseEvent *event)

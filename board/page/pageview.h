@@ -63,7 +63,8 @@ public:
     void setDropTest(const std::function<bool(const QMimeData &)> &test) { m_dropTest = test; }
     /// Ends what is going on: keys that move become a step, a drag is taken back.
     void settle();
-    /// The effect of the Esc key: takes back what is going on, else gives the tool up, else deselects.
+    /// The effect of the Esc key: takes back what is going on, else leaves a group, else gives the tool up, else
+    /// deselects.
     void cancel();
     bool isWriting() const;
     /// Whether the only selected object has a label that can be written.

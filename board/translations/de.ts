@@ -832,6 +832,22 @@
         <translation>Anordnen</translation>
     </message>
     <message>
+        <source>Group</source>
+        <translation>Gruppieren</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Gruppierung aufheben</translation>
+    </message>
+    <message>
+        <source>combine together</source>
+        <translation>zusammenfassen verbinden</translation>
+    </message>
+    <message>
+        <source>take apart dissolve</source>
+        <translation>trennen auflösen</translation>
+    </message>
+    <message>
         <source>Align left edges</source>
         <translation>Linke Kanten ausrichten</translation>
     </message>

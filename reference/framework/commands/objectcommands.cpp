@@ -48,13 +48,19 @@ void takeOff(Page &page, const QVector<CBaseObject *> &objects)
 class AddObjectsCommand : public PageCommand
 {
 public:
-    AddObjectsCommand(Page *page, const QVector<CBaseObject *> &objects)
+    AddObjectsCommand(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups)
         : PageCommand(page, objects, QStringLiteral("IDS_UNDO_ADD_OBJECTS"))
         , m_first(page->objectCount())
+        , m_before(page->groups())
+        , m_after(m_before + renumbered(groups, highestNumber(m_before)))
     {
     }
 
-    void undo() override { takeOff(*page(), objects()); }
+    void undo() override
+    {
+        takeOff(*page(), objects());
+        page()->setGroups(m_before);
+    }
 
 protected:
     void apply() override
@@ -62,11 +68,14 @@ protected:
         int index = m_first;
         for (CBaseObject *object : objects())
             page()->addObject(object, index++);
+        page()->setGroups(m_after);
         page()->select(objects());
     }
 
 private:
     int m_first; ///< index of the first object in stacking order
+    ObjectGroups m_before;
+    ObjectGroups m_after;
 };
 
 class RemoveObjectsCommand : public PageCommand
@@ -115,19 +124,19 @@ private:
     QVector<CBaseObject *> m_order;
 };
 
-using ObjectTest = std::function<bool(CBaseObject *)>;
+using UnitTest = std::function<bool(const GroupUnit &)>;
 
-/// Swaps every moving object below one that does not move with it, from the top down.
-void passForward(QVector<CBaseObject *> &order, const ObjectTest &isMoving)
+/// Swaps every moving unit below one that does not move with it, from the top down.
+void passForward(QVector<GroupUnit> &order, const UnitTest &isMoving)
 {
     for (int i = order.size() - 2; i >= 0; --i)
         if (isMoving(order[i]) && !isMoving(order[i + 1]))
             order.swapItemsAt(i, i + 1);
 }
 
-QVector<CBaseObject *> restacked(QVector<CBaseObject *> order, StackingMove move, const ObjectTest &isMoving)
+QVector<GroupUnit> restacked(QVector<GroupUnit> order, StackingMove move, const UnitTest &isMoving)
 {
-    const auto stays = [&](CBaseObject *object) { return !isMoving(object); };
+    const auto stays = [&](const GroupUnit &unit) { return !isMoving(unit); };
     switch (move) {
     case StackingMove::ToFront:
         std::stable_partition(order.begin(), order.end(), stays);
@@ -147,9 +156,23 @@ QVector<CBaseObject *> restacked(QVector<CBaseObject *> order, StackingMove move
     return order;
 }
 
+/// The page's objects with these units at the places that objects of theirs have.
+QVector<CBaseObject *> withUnits(QVector<CBaseObject *> objects, const QVector<GroupUnit> &units)
+{
+    QVector<CBaseObject *> order;
+    for (const GroupUnit &unit : units)
+        order += unit.objects;
+    const QSet<CBaseObject *> placed = toSet(order);
+    auto next = order.cbegin();
+    for (CBaseObject *&object : objects)
+        if (placed.contains(object))
+            object = *next++;
+    return objects;
+}
+
 } // namespace
 
-bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
+bool addObjects(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups)
 {
     QVector<CBaseObject *> added;
     QSet<CBaseObject *> seen{nullptr};
@@ -161,7 +184,7 @@ bool addObjects(Page *page, const QVector<CBaseObject *> &objects)
     }
     if (added.isEmpty())
         return false;
-    CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added));
+    CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added, groups));
     return true;
 }
 
@@ -177,10 +200,16 @@ bool removeObjects(Page *page, const QVector<CBaseObject *> &objects)
 bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move)
 {
     const QSet<CBaseObject *> moving = toSet(objects);
-    const auto isMoving = [&](CBaseObject *object) { return moving.contains(object); };
-    const QVector<CBaseObject *> order = restacked(page->objects(), move, isMoving);
-    if (order == page->objects())
+    const auto isMoving = [&](const GroupUnit &unit) {
+        return std::any_of(unit.objects.begin(), unit.objects.end(),
+                           [&](CBaseObject *object) { return moving.contains(object); });
+    };
+    const Grouping grouping = page->grouping();
+    const QVector<GroupUnit> before = grouping.unitsOf(grouping.levelOf(onPage(*page, objects)));
+    const QVector<GroupUnit> after = restacked(before, move, isMoving);
+    if (after == before)
         return false;
+    const QVector<CBaseObject *> order = withUnits(page->objects(), after);
     CUndoRedo::GetInstance()->push(new StackingCommand(page, order));
     return true;
 }

@@ -7,6 +7,7 @@
 #include <files/chunks.h>
 #include <files/damagedparts.h>
 #include <files/documentassets.h>
+#include <files/groupcodec.h>
 #include <files/lessoncheck.h>
 #include <files/objectrecordstream.h>
 
@@ -221,6 +222,11 @@ void BinaryReader::takeMembers(const chunks::Chunk &chunk)
 /// Of the document before the first page.
 void BinaryReader::finishPage()
 {
+    const TakenGroups taken = m_page ? takeGroups(m_extra) : TakenGroups();
+    if (taken.isDamaged)
+        report(warning(QStringLiteral("IDS_FILE_GROUPS_DAMAGED")), -1);
+    if (!taken.unreadable.isEmpty())
+        m_damaged.keep(taken.unreadable);
     m_damaged.moveTo(m_extra);
     if (!m_page) {
         m_document->setExtraData(m_extra);
@@ -229,6 +235,7 @@ void BinaryReader::finishPage()
     }
     m_page->setExtraData(m_extra);
     m_page->appendObjects(m_objects);
+    m_page->setGroups(taken.groups);
     if (m_objectsSeen < m_objectsClaimed) {
         report(warning(QStringLiteral("IDS_FILE_OBJECTS_MISSING"),
                        {QString::number(m_objectsClaimed - m_objectsSeen)}),

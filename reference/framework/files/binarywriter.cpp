@@ -6,9 +6,12 @@
 
 #include <files/chunks.h>
 #include <files/documentassets.h>
+#include <files/groupcodec.h>
 #include <files/objectrecordstream.h>
 
 #include <QtCore/QJsonDocument>
+
+#include <algorithm>
 
 namespace pagehost {
 
@@ -31,12 +34,19 @@ bool writeLesson(chunks::Writer &writer, const LessonData &lesson)
     return writer.end();
 }
 
+bool writeGroups(chunks::Writer &writer, const ObjectGroups &groups)
+{
+    return std::all_of(groups.begin(), groups.end(),
+                       [&](const ObjectGroup &group) { return writer.write(chunks::groupTag, streamed(group)); });
+}
+
 bool writePage(chunks::Writer &writer, const Page &page)
 {
     QDataStream &out = writer.begin(chunks::pageTag);
     out << page.size().width() << page.size().height() << quint32(page.objectCount());
     const bool hasBackground = page.background().save(out);
-    bool done = writer.end() && hasBackground && writeExtraData(writer, page.extraData());
+    bool done = writer.end() && hasBackground && writeGroups(writer, page.grouping().groups()) &&
+                writeExtraData(writer, page.extraData());
     const QVector<CBaseObject *> objects = page.objects();
     for (CBaseObject *object : objects) {
         done = done && writeObject(writer.begin(chunks::objectTag), object) && writer.end();

@@ -19,6 +19,7 @@ constexpr char assetTag[] = "ASST";
 constexpr char lessonTag[] = "LESS";
 constexpr char membersTag[] = "JSON";
 constexpr char pageTag[] = "PAGE";
+constexpr char groupTag[] = "GRUP";
 constexpr char objectTag[] = "OBJT";
 constexpr char endTag[] = "DONE";
 

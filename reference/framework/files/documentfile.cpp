@@ -4,11 +4,13 @@
 #include <framework/ipspage.h>
 
 #include <pagehost/objectid.h>
+#include <pagehost/page.h>
 
 #include <files/chunks.h>
 #include <files/documentassets.h>
 #include <files/documentcodec.h>
 #include <files/durablefile.h>
+#include <files/groupcodec.h>
 #include <files/objectrecordstream.h>
 #include <files/placeholderobject.h>
 
@@ -55,6 +57,38 @@ AssetStore assetsOf(const QByteArray &bytes)
         if (chunk.tag == chunks::assetTag)
             assets.addCompressed(chunk.payload.left(AssetStore::keySize), chunk.payload.mid(AssetStore::keySize));
     return assets;
+}
+
+/// The groups that objects of one page have among themselves.
+ObjectGroups groupsAmong(const QVector<CBaseObject *> &objects)
+{
+    const auto *page = objects.isEmpty() ? nullptr : dynamic_cast<const Page *>(objects.first()->GetPage());
+    return page ? Grouping(page->groups(), objects).groups() : ObjectGroups();
+}
+
+/// The groups in the bytes, of the copies, which get numbers. `originals` are the numbers in the bytes.
+ObjectGroups groupsOfCopies(const QByteArray &bytes, const QVector<CBaseObject *> &copies,
+                            const QVector<quint32> &originals, const Document &document)
+{
+    ObjectGroups groups;
+    chunks::Reader reader(bytes);
+    chunks::Chunk chunk;
+    while (reader.next(chunk)) {
+        ObjectGroup group;
+        if (chunk.tag == chunks::groupTag && readGroup(chunk.payload, group))
+            groups.append(group);
+    }
+    if (groups.isEmpty())
+        return groups;
+    ensureObjectIds(copies, document);
+    QHash<quint32, quint32> numbers;
+    for (int i = 0; i < copies.size(); ++i)
+        numbers.insert(originals.at(i), objectId(copies.at(i)));
+    numbers.insert(0, 0);
+    for (ObjectGroup &group : groups)
+        for (quint32 &member : group.members)
+            member = numbers.value(member);
+    return normalized(groups);
 }
 
 } // namespace
@@ -143,6 +177,10 @@ QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
     chunks::Writer writer;
     if (!writeAssets(writer, namedAssets(objects)))
         return {};
+    const ObjectGroups groups = groupsAmong(objects);
+    for (const ObjectGroup &group : groups)
+        if (!writer.write(chunks::groupTag, streamed(group)))
+            return {};
     for (CBaseObject *object : objects)
         if (!writeObject(writer.begin(chunks::objectTag), object) || !writer.end())
             return {};
@@ -150,7 +188,7 @@ QByteArray encodeObjects(const QVector<CBaseObject *> &objects)
 }
 
 QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
-                                     QVector<FileMessage> *messages, IPsPage *page)
+                                     QVector<FileMessage> *messages, IPsPage *page, ObjectGroups *groups)
 {
     QVector<CBaseObject *> objects;
     if (!chunks::Reader::hasSignature(bytes))
@@ -179,6 +217,8 @@ QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegist
         }
     }
     followCopies(objects, originals, document);
+    if (groups && document)
+        *groups = groupsOfCopies(bytes, objects, originals, *document);
     return objects;
 }
 

@@ -4,6 +4,7 @@
 
 #include <files/chunks.h>
 #include <files/documentassets.h>
+#include <files/groupcodec.h>
 #include <files/jsonnames.h>
 #include <files/lessoncheck.h>
 
@@ -412,9 +413,15 @@ void JsonAssembly::finishPage()
     if (m_knownPageMembers < mostPageMembers && !m_pageExtra.members.isEmpty())
         report(warning(QStringLiteral("IDS_FILE_PAGE_DAMAGED")), m_pageOffset);
     reportMissing(QStringLiteral("IDS_FILE_OBJECTS_MISSING"), m_objectsClaimed - m_objectNumber, m_pageOffset);
+    const TakenGroups taken = takeGroups(m_pageExtra);
+    if (taken.isDamaged)
+        report(warning(QStringLiteral("IDS_FILE_GROUPS_DAMAGED")), m_pageOffset);
+    if (!taken.unreadable.isEmpty())
+        keepToldDamage(taken.unreadable);
     m_damaged.moveTo(m_pageExtra);
     m_page->setExtraData(m_pageExtra);
     m_page->appendObjects(m_objects);
+    m_page->setGroups(taken.groups);
     m_pageExtra = {};
     m_objects.clear();
     m_objectNumber = 0;

@@ -6,6 +6,7 @@
 
 #include <files/chunks.h>
 #include <files/documentassets.h>
+#include <files/groupcodec.h>
 #include <files/jsoncursor.h>
 #include <files/jsonnames.h>
 #include <files/jsonwriter.h>
@@ -115,6 +116,9 @@ bool writePage(JsonWriter &writer, const Page &page, int number)
     writer.member(heightName, page.size().height());
     writer.member(objectCountName, page.objectCount());
     writer.member(backgroundName, background);
+    const ObjectGroups groups = page.grouping().groups();
+    if (!groups.isEmpty())
+        writer.member(groupsName, groupsToJson(groups));
     writeExtraData(writer, page.extraData());
     writer.beginArray(objectsName);
     bool done = true;

@@ -18,6 +18,10 @@ constexpr char heightName[] = "height";
 constexpr char backgroundName[] = "background";
 constexpr char objectCountName[] = "objectCount";
 constexpr char objectsName[] = "objects";
+constexpr char groupsName[] = "groups";
+constexpr char groupName[] = "group";
+constexpr char parentName[] = "parent";
+constexpr char membersName[] = "members";
 
 constexpr char kindName[] = "kind";
 constexpr char idName[] = "id";

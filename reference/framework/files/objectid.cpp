@@ -25,7 +25,7 @@ template<typename Function> void forEachObject(const Document &document, Functio
     }
 }
 
-/// Also of objects that undo brings back, and of those that are followed although they are gone.
+/// Also of objects that undo brings back, and of those that are followed or in groups although they are gone.
 quint32 highestId(const Document &document)
 {
     quint32 highest = 0;
@@ -40,6 +40,10 @@ quint32 highestId(const Document &document)
     for (const Page *page : pages) {
         const QVector<CBaseObject *> kept = page->keptObjects();
         std::for_each(kept.begin(), kept.end(), look);
+        const ObjectGroups groups = page->groups();
+        for (const ObjectGroup &group : groups)
+            for (const quint32 id : group.members)
+                highest = std::max(highest, id);
     }
     return highest;
 }
@@ -73,6 +77,32 @@ quint32 ensureObjectId(CBaseObject *object, const Document &document)
     if (objectId(object) == 0)
         setObjectId(object, freeId(document));
     return objectId(object);
+}
+
+void ensureObjectIds(const QVector<CBaseObject *> &objects, const Document &document)
+{
+    constexpr quint32 last = std::numeric_limits<quint32>::max();
+    quint32 highest = highestId(document);
+    for (const CBaseObject *object : objects)
+        highest = std::max(highest, objectId(object));
+    const auto isTaken = [&](quint32 id) {
+        return objectWithId(document, id) ||
+               std::any_of(objects.begin(), objects.end(),
+                           [id](const CBaseObject *object) { return objectId(object) == id; });
+    };
+    quint32 free = 0;
+    for (CBaseObject *object : objects) {
+        if (objectId(object) != 0)
+            continue;
+        if (highest < last) {
+            setObjectId(object, ++highest);
+            continue;
+        }
+        do {
+            ++free;
+        } while (isTaken(free));
+        setObjectId(object, free);
+    }
 }
 
 CBaseObject *objectWithId(const Document &document, quint32 id)

@@ -64,7 +64,7 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     if (extendsSelection(*event))
-        setSelected(!isSelected());
+        toggleSelected(*this);
     else if (!isSelected())
         selectAlone(*this);
     if (isSelected() && !blocked)

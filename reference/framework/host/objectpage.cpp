@@ -37,11 +37,26 @@ bool isEditingBlocked(const CPSRootObject &object)
 void selectAlone(CBaseObject &object)
 {
     if (const pagehost::PageScene *scene = pageSceneOf(object)) {
-        scene->page()->select({&object});
+        scene->page()->select(scene->page()->unitOf(&object));
         return;
     }
     object.scene()->clearSelection();
     object.setSelected(true);
+}
+
+void toggleSelected(CBaseObject &object)
+{
+    const pagehost::PageScene *scene = pageSceneOf(object);
+    if (!scene) {
+        object.setSelected(!object.isSelected());
+        return;
+    }
+    const QVector<CBaseObject *> unit = scene->page()->unitOf(&object);
+    QVector<CBaseObject *> selected = scene->page()->selectedObjects();
+    const bool wasSelected = object.isSelected();
+    for (CBaseObject *member : unit)
+        selected.removeAll(member);
+    scene->page()->select(wasSelected ? selected : selected + unit);
 }
 
 void noteChange(CPSRootObject &object)

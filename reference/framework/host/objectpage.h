@@ -18,8 +18,10 @@ pagehost::PageScene *pageSceneOf(const CPSRootObject &object);
 /// The document of the object's page, else the current one; null without either.
 IDocument *documentOf(const CPSRootObject &object);
 bool isEditingBlocked(const CPSRootObject &object);
-/// Makes the object the only selected one of its scene.
+/// Selects the object and nothing else of its scene, on a page with the group that a click takes.
 void selectAlone(CBaseObject &object);
+/// Adds the object, on a page with its group, to the selection of its scene, or takes it out.
+void toggleSelected(CBaseObject &object);
 
 /// Notifies the page of a visible change.
 void noteChange(CPSRootObject &object);

@@ -5,6 +5,7 @@
 #include <pagehost/document.h>
 #include <pagehost/page.h>
 
+#include <files/groupcodec.h>
 #include <files/objectrecordstream.h>
 #include <host/saveddata.h>
 
@@ -33,6 +34,8 @@ QVector<LessonStep> appearanceOf(const Page &page, int pageIndex, const ObjectNu
     const QVector<CBaseObject *> objects = page.objects();
     for (CBaseObject *object : objects)
         steps.append(appearanceOf(object, numberOf(object), pageIndex, place++));
+    if (!page.groups().isEmpty())
+        steps.append(PageGrouped{pageIndex, streamed(page.groups())});
     return steps;
 }
 

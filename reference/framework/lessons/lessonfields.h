@@ -83,12 +83,18 @@ template<typename Archive> void visit(Archive &archive, ZoomChanged &step)
     archive("rate", step.rate);
 }
 
+template<typename Archive> void visit(Archive &archive, PageGrouped &step)
+{
+    archive("page", step.page);
+    archive("groups", step.groups);
+}
+
 /// The name of each kind in JSON, in the order of LessonStep.
 const std::array<QLatin1String, std::variant_size_v<LessonStep>> kindNames{
     {QLatin1String("acted"), QLatin1String("appeared"), QLatin1String("vanished"), QLatin1String("settled"),
      QLatin1String("restacked"), QLatin1String("pageAppeared"), QLatin1String("pageVanished"),
      QLatin1String("pageMoved"), QLatin1String("pageResized"), QLatin1String("backgroundChanged"),
-     QLatin1String("pageTurned"), QLatin1String("zoomed")}};
+     QLatin1String("pageTurned"), QLatin1String("zoomed"), QLatin1String("grouped")}};
 
 template<std::size_t... Indices>
 bool makeStep(std::size_t kind, LessonStep &step, std::index_sequence<Indices...> /*all*/)

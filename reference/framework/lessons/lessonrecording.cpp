@@ -4,12 +4,15 @@
 #include <framework/cundoredo.h>
 
 #include <pagehost/lessonclock.h>
+#include <pagehost/objectid.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
+#include <files/groupcodec.h>
 #include <files/objecttexts.h>
 #include <host/baseobject.h>
 #include <host/objectpage.h>
+#include <host/payload.h>
 #include <host/saveddata.h>
 #include <lessons/documentsteps.h>
 #include <lessons/documentzoom.h>
@@ -80,6 +83,7 @@ void LessonRecording::watch(Page *page)
             [=](CBaseObject *object) { ifShown([=](int) { noteRemoval(object); }); });
     connect(page, &Page::objectChanged, this, &LessonRecording::noteChange);
     connect(page, &Page::stackingChanged, this, [=] { ifShown([=](int) { noteOrder(*page); }); });
+    connect(page, &Page::groupsChanged, this, [=] { ifShown([=](int) { noteGroups(*page); }); });
     connect(page, &Page::backgroundChanged, this, [=] {
         ifShown([=](int index) { append(PageBackgroundChanged{index, savedData(page->background())}); });
     });
@@ -127,6 +131,17 @@ void LessonRecording::noteOrder(const Page &page)
     for (CBaseObject *object : objects)
         step.objects.append(numberOf(object));
     append(step);
+}
+
+/// Objects get their numbers when they are first grouped, which is no action of theirs.
+void LessonRecording::noteGroups(const Page &page)
+{
+    catchUp();
+    const QVector<CBaseObject *> objects = page.objects();
+    for (CBaseObject *object : objects)
+        if (objectId(object) != objectId(m_rehearsal.object(numberOf(object))))
+            append(ObjectActed{numberOf(object), ActionNumbered, payloadOf(objectId(object))});
+    append(PageGrouped{m_document->indexOf(&page), streamed(page.groups())});
 }
 
 void LessonRecording::noteChange(CBaseObject *object)

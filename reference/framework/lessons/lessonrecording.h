@@ -46,6 +46,7 @@ private:
     void noteObject(const Page &page, CBaseObject *object);
     void noteRemoval(CBaseObject *object);
     void noteOrder(const Page &page);
+    void noteGroups(const Page &page);
     void noteChange(CBaseObject *object);
     void beginGesture();
     void withdrawGesture();

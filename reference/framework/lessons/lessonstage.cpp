@@ -5,6 +5,7 @@
 #include <pagehost/page.h>
 #include <pagehost/recorder.h>
 
+#include <files/groupcodec.h>
 #include <files/objectrecordstream.h>
 #include <host/objectpage.h>
 #include <lessons/documentzoom.h>
@@ -185,6 +186,13 @@ CBaseObject *LessonStage::perform(const PageBackgroundChanged &step)
 {
     if (Page *page = m_document->page(step.page))
         page->setBackground(backgroundOf(*page, step.background));
+    return nullptr;
+}
+
+CBaseObject *LessonStage::perform(const PageGrouped &step)
+{
+    if (Page *page = m_document->page(step.page))
+        page->setGroups(readGroups(step.groups));
     return nullptr;
 }
 

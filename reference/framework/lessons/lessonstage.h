@@ -43,6 +43,7 @@ private:
     CBaseObject *perform(const PageMoved &step);
     CBaseObject *perform(const PageResized &step);
     CBaseObject *perform(const PageBackgroundChanged &step);
+    CBaseObject *perform(const PageGrouped &step);
     CBaseObject *perform(const PageTurned &step);
     CBaseObject *perform(const ZoomChanged &step);
 

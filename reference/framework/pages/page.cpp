@@ -49,6 +49,7 @@ Page::Page(Document *document, const QSizeF &size, QObject *parent)
 {
     m_changeTimer.setSingleShot(true);
     connect(&m_changeTimer, &QTimer::timeout, this, &Page::contentChanged);
+    connect(m_scene.get(), &QGraphicsScene::selectionChanged, this, &Page::followSelection);
     connect(m_scene.get(), &QGraphicsScene::selectionChanged, this, &Page::selectionChanged);
 }
 
@@ -136,6 +137,7 @@ void Page::addObject(CBaseObject *object, int index)
         return;
     m_outside.removeOne(object);
     const int place = index < 0 ? m_objects.size() : qMin(index, m_objects.size());
+    dropGrouping();
     m_objects.insert(place, object);
     m_members.insert(object);
     object->SetPage(this);
@@ -154,6 +156,7 @@ void Page::appendObjects(const QVector<CBaseObject *> &objects)
         if (!object || contains(object))
             continue;
         m_outside.removeOne(object);
+        dropGrouping();
         m_objects.append(object);
         m_members.insert(object);
         object->SetPage(this);
@@ -172,6 +175,7 @@ int Page::removeObject(CBaseObject *object)
     if (index < 0)
         return -1;
     object->setSelected(false);
+    dropGrouping();
     m_objects.removeAt(index);
     m_members.remove(object);
     m_outside.append(object);
@@ -189,6 +193,7 @@ void Page::moveObject(CBaseObject *object, int index)
     const int to = qBound(0, index, m_objects.size() - 1);
     if (from < 0 || from == to)
         return;
+    dropGrouping();
     m_objects.move(from, to);
     giveStackingNumber(to);
     noteChange();
@@ -201,6 +206,7 @@ bool Page::setStackingOrder(const QVector<CBaseObject *> &objects)
         return false;
     if (objects == m_objects)
         return true;
+    dropGrouping();
     m_objects = objects;
     renumber();
     noteChange();
@@ -250,6 +256,74 @@ void Page::dropIfUnused(CBaseObject *object)
         object->SetPage(nullptr);
         object->deleteLater();
     }
+}
+
+void Page::setGroups(const ObjectGroups &groups)
+{
+    const ObjectGroups taken = normalized(groups);
+    if (taken == m_groups)
+        return;
+    m_groups = taken;
+    dropGrouping();
+    followSelection();
+    noteChange();
+    Q_EMIT groupsChanged();
+}
+
+const Grouping &Page::grouping() const
+{
+    if (!m_grouping)
+        m_grouping.emplace(m_groups, m_objects);
+    return *m_grouping;
+}
+
+void Page::dropGrouping()
+{
+    m_grouping.reset();
+}
+
+bool Page::enterGroupOf(CBaseObject *object)
+{
+    const quint32 group = grouping().unitOf(object, m_enteredGroup);
+    if (group == 0 || !grouping().holds(m_enteredGroup, object))
+        return false;
+    m_enteredGroup = group;
+    select(unitOf(object));
+    m_scene->updateOverlay();
+    return true;
+}
+
+bool Page::leaveGroup()
+{
+    const quint32 left = m_enteredGroup;
+    if (left == 0)
+        return false;
+    m_enteredGroup = grouping().parentOf(left);
+    select(grouping().objectsOf(left));
+    m_scene->updateOverlay();
+    return true;
+}
+
+QVector<CBaseObject *> Page::unitOf(CBaseObject *object) const
+{
+    quint32 level = m_enteredGroup;
+    while (!grouping().holds(level, object))
+        level = grouping().parentOf(level);
+    const quint32 group = grouping().unitOf(object, level);
+    return group == 0 ? QVector<CBaseObject *>{object} : grouping().objectsOf(group);
+}
+
+/// The entered group holds what is selected, or is left.
+void Page::followSelection()
+{
+    if (m_enteredGroup == 0)
+        return;
+    const QVector<CBaseObject *> selected = selectedObjects();
+    if (selected.isEmpty() || !grouping().contains(m_enteredGroup))
+        m_enteredGroup = 0;
+    for (const CBaseObject *object : selected)
+        while (!grouping().holds(m_enteredGroup, object))
+            m_enteredGroup = grouping().parentOf(m_enteredGroup);
 }
 
 void Page::noteChange()

@@ -295,10 +295,12 @@ void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
         event->ignore();
         return;
     }
+    event->accept();
+    if (grip.kind == Grip::Body && m_page->enterGroupOf(grip.object))
+        return;
     m_drag = grip;
     deliver(event, grip.offset);
     m_drag = {};
-    event->accept();
 }
 
 void PageScene::keyPressEvent(QKeyEvent *event)

@@ -13,13 +13,14 @@ namespace pagehost {
 namespace {
 
 /// Objects of one page; without those that can't be copied.
-QVector<CBaseObject *> cloneObjects(const QVector<CBaseObject *> &objects, const ObjectRegistry *registry)
+QVector<CBaseObject *> cloneObjects(const QVector<CBaseObject *> &objects, const ObjectRegistry *registry,
+                                    ObjectGroups *groups = nullptr)
 {
     QVector<CBaseObject *> copies;
     if (objects.isEmpty())
         return copies;
     const QVector<CBaseObject *> decoded =
-        decodeObjects(encodeObjects(objects), *registry, nullptr, objects.first()->GetPage());
+        decodeObjects(encodeObjects(objects), *registry, nullptr, objects.first()->GetPage(), groups);
     for (int i = 0; i < decoded.size(); ++i) {
         std::unique_ptr<CBaseObject> copy(decoded.at(i));
         if (isPlaceholder(copy.get()) == isPlaceholder(objects.value(i)))
@@ -47,10 +48,11 @@ bool deleteSelection(Page *page)
 
 QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry, const QPointF &offset)
 {
-    const QVector<CBaseObject *> copies = cloneObjects(page->selectedObjects(), registry);
+    ObjectGroups groups;
+    const QVector<CBaseObject *> copies = cloneObjects(page->selectedObjects(), registry, &groups);
     for (CBaseObject *copy : copies)
         copy->CPSRootObject::setPos(copy->getPos() + offset, false);
-    addObjects(page, copies);
+    addObjects(page, copies, groups);
     return copies;
 }
 

@@ -176,8 +176,8 @@ void TestContextMenus::objectMenuInOrder()
     TwoShapes t;
     rightClick(t.board, {350, 350});
     QCOMPARE(textsOf(menu(t.board, "objectMenu")),
-             (QStringList{"Edit text", "|", "Cut", "Copy", "Paste", "Duplicate", "|", "Order", "Align", "Lock", "|",
-                          "Copy look", "Paste look", "All properties", "|", "Delete"}));
+             (QStringList{"Edit text", "|", "Cut", "Copy", "Paste", "Duplicate", "|", "Order", "Align", "Group",
+                          "Ungroup", "Lock", "|", "Copy look", "Paste look", "All properties", "|", "Delete"}));
 }
 
 void TestContextMenus::thumbnailMenuActsOnThePageUnderIt()
@@ -207,11 +207,11 @@ void TestContextMenus::menuKeysOpenTheMenuOfTheSelection()
     QFETCH(bool, shift);
     BoardDriver board;
     // So far left and up that the menu fits the screen below it.
-    board.draw(rectangle, {150, -60}, {250, 0});
+    board.draw(rectangle, {150, -105}, {250, -45});
     const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
     board.key(static_cast<Qt::Key>(key), modifiers);
     QCOMPARE(openMenu(board), QString("objectMenu"));
-    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, 0)));
+    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, -45)));
     QCOMPARE(menu(board, "objectMenu")->pos(), corner);
     menu(board, "objectMenu")->close();
     board.page().select({});

@@ -48,6 +48,12 @@ inline QStringList savedState(const pagehost::Document &document)
             lines.append(pagehost::kindIdOf(object) + QLatin1Char(' ') +
                          QString::fromLatin1(savedState(object).toHex()));
         }
+        const pagehost::ObjectGroups groups = page->grouping().groups();
+        for (const pagehost::ObjectGroup &group : groups)
+            lines.append(QStringLiteral("group %1 in %2 of %3")
+                             .arg(group.number)
+                             .arg(group.parent)
+                             .arg(group.members.size()));
     }
     return lines;
 }

@@ -63,7 +63,8 @@ QVector<LessonStep> everyStep()
             pagehost::PageResized{10, QSizeF(640.5, 480)},
             pagehost::PageBackgroundChanged{11, "blue"},
             pagehost::PageTurned{12},
-            pagehost::ZoomChanged{1.0 / 3}};
+            pagehost::ZoomChanged{1.0 / 3},
+            pagehost::PageGrouped{13, "groups"}};
 }
 
 Lesson everyLesson()
@@ -108,6 +109,11 @@ struct SameStep
     {
         const auto &b = std::get<pagehost::PageRestacked>(other);
         return a.page == b.page && a.objects == b.objects;
+    }
+    bool operator()(const pagehost::PageGrouped &a) const
+    {
+        const auto &b = std::get<pagehost::PageGrouped>(other);
+        return a.page == b.page && a.groups == b.groups;
     }
     bool operator()(const pagehost::PageAppeared &a) const
     {
@@ -219,7 +225,7 @@ void TestLessonData::jsonIsReadable()
 {
     const QJsonObject object = everyLesson().toJson();
     QCOMPARE(object.value(QStringLiteral("version")), QJsonValue(1));
-    QCOMPARE(object.value(QStringLiteral("duration")), QJsonValue(3000));
+    QCOMPARE(object.value(QStringLiteral("duration")), QJsonValue(3250));
     const QJsonObject acted = object.value(QStringLiteral("events")).toArray().at(0).toObject();
     const QJsonObject expected{{QStringLiteral("time"), 0},
                                {QStringLiteral("kind"), QStringLiteral("acted")},
@@ -415,7 +421,7 @@ void TestLessonData::countsBeyondTheBytesAreRefused()
             damaged.replace(place, 4, QByteArray(count, 4));
             Lesson lesson;
             lesson.fromBytes(damaged);
-            QVERIFY(lesson.events.size() <= 12);
+            QVERIFY(lesson.events.size() <= 13);
         }
     }
     // A page with four thousand million objects.

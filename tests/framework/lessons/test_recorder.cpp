@@ -2,6 +2,7 @@
 
 #include <pagehost/lesson.h>
 #include <pagehost/recorder.h>
+#include <pagehost/selection.h>
 
 using pagehost::Lesson;
 
@@ -120,6 +121,23 @@ void TestLessonRecorder::everyKindOfChangeIsPlayed_data()
         room.draw(QStringLiteral("shapes.polygon"), QPointF(150, 150), QPointF(260, 260));
         room.draw(QStringLiteral("shapes.flask"), QPointF(170, 170), QPointF(290, 290));
         room.page->moveObject(object, 1);
+    });
+    row("group", [](Classroom &room, CBaseObject *object) {
+        CBaseObject *other = room.draw(QStringLiteral("shapes.polygon"), QPointF(400, 300), QPointF(560, 420));
+        pagehost::groupObjects(room.page, {object, other});
+    });
+    row("group, delete, bring back", [](Classroom &room, CBaseObject *object) {
+        CBaseObject *other = room.draw(QStringLiteral("shapes.polygon"), QPointF(400, 300), QPointF(560, 420));
+        pagehost::groupObjects(room.page, {object, other});
+        pagehost::removeObjects(room.page, {object});
+        undoStack()->undo();
+    });
+    row("group a copy", [](Classroom &room, CBaseObject *object) {
+        CBaseObject *other = room.draw(QStringLiteral("shapes.polygon"), QPointF(400, 300), QPointF(560, 420));
+        pagehost::groupObjects(room.page, {object, other});
+        room.page->select({object, other});
+        pagehost::duplicateSelection(room.page, &shapes());
+        pagehost::ungroupObjects(room.page, {object, other});
     });
     row("lock", [](Classroom &, CBaseObject *object) { pagehost::setObjectsLocked({object}, true); });
     row("fill", [](Classroom &, CBaseObject *object) { pagehost::setFill({object}, QColor(1, 2, 3, 4)); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <pagehost/geometrysnapshot.h>
+#include <pagehost/groups.h>
 
 #include <framework/framework_global.h>
 
@@ -20,15 +21,24 @@ class Document;
 class Page;
 struct LessonData;
 
-/// Adds objects on top, in this order, and selects them.
-FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects);
+/// Adds objects on top, in this order, with groups of theirs, and selects them.
+FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects,
+                                 const ObjectGroups &groups = {});
 /// Removes those objects that are on the page; undo restores their places in stacking order.
 FRAMEWORK_EXPORT bool removeObjects(Page *page, const QVector<CBaseObject *> &objects);
 
 enum class StackingMove { ToFront, Forward, Backward, ToBack };
 /// Moves the objects in stacking order; their own order stays. Forward and Backward pass one object that is not
-/// among them.
+/// among them. A group moves and is passed as one; objects of a group move within it.
 FRAMEWORK_EXPORT bool restack(Page *page, const QVector<CBaseObject *> &objects, StackingMove move);
+
+/// Makes a group of these objects and groups, directly below the topmost of them, within the group that they are
+/// in. False for fewer than two.
+FRAMEWORK_EXPORT bool groupObjects(Page *page, const QVector<CBaseObject *> &objects);
+/// Dissolves the groups that these objects make up; the groups in them stay.
+FRAMEWORK_EXPORT bool ungroupObjects(Page *page, const QVector<CBaseObject *> &objects);
+/// Whether ungroupObjects() has something to do.
+FRAMEWORK_EXPORT bool hasGroup(const Page &page, const QVector<CBaseObject *> &objects);
 
 /// Makes a step of the changes since the snapshots, which have been made already. `textKey` is the step's
 /// localisation key.

@@ -2,6 +2,7 @@
 
 #include <pagehost/document.h>
 #include <pagehost/filestamp.h>
+#include <pagehost/groups.h>
 
 #include <framework/framework_global.h>
 
@@ -89,14 +90,16 @@ FRAMEWORK_EXPORT OpenResult decodeDocument(const QByteArray &bytes, const Object
 
 /// The MIME type of encodeObjects().
 FRAMEWORK_EXPORT QString objectsMimeType();
-/// Objects in this order, with their positions on their page.
+/// Objects in this order, with their positions on their page and their groups there.
 FRAMEWORK_EXPORT QByteArray encodeObjects(const QVector<CBaseObject *> &objects);
 /// New objects on no page, owned by the caller. Objects that cannot be made are placeholders, as in a file. Empty
 /// for bytes that are no such data; `messages` may be null. `page` is the one that they will be added to, if known:
-/// objects cache the document that they find while they are read.
+/// objects cache the document that they find while they are read. `groups`, which may be null, gets those that the
+/// objects were in; their members are new objects, which have numbers then. Without the page's document there are
+/// none.
 FRAMEWORK_EXPORT QVector<CBaseObject *> decodeObjects(const QByteArray &bytes, const ObjectRegistry &registry,
                                                       QVector<FileMessage> *messages = nullptr,
-                                                      IPsPage *page = nullptr);
+                                                      IPsPage *page = nullptr, ObjectGroups *groups = nullptr);
 
 /// True for a placeholder of an object that could not be made. It can be selected, moved, restacked, locked, copied
 /// and deleted, and is saved with the bytes that it was read from.

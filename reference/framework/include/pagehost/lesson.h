@@ -98,12 +98,19 @@ struct ZoomChanged
 {
     double rate = 1; ///< screen pixels per scene unit
 };
+
+/// The groups of a page have changed; those of objects that are gone are there, too, since they may come back.
+struct PageGrouped
+{
+    qint32 page = 0;
+    QByteArray groups; ///< for each group its length and the payload of its chunk, see docs/board-format.md
+};
 /// @}
 
 /// Stored by the index of the alternative: the order is fixed, new ones are appended.
 using LessonStep =
     std::variant<ObjectActed, ObjectAppeared, ObjectVanished, ObjectSettled, PageRestacked, PageAppeared,
-                 PageVanished, PageMoved, PageResized, PageBackgroundChanged, PageTurned, ZoomChanged>;
+                 PageVanished, PageMoved, PageResized, PageBackgroundChanged, PageTurned, ZoomChanged, PageGrouped>;
 
 struct LessonEvent
 {

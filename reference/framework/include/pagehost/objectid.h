@@ -17,6 +17,8 @@ FRAMEWORK_EXPORT quint32 objectId(const CBaseObject *object);
 FRAMEWORK_EXPORT void setObjectId(CBaseObject *object, quint32 id);
 /// The object's number; assigns one that is free in the document when it has none.
 FRAMEWORK_EXPORT quint32 ensureObjectId(CBaseObject *object, const Document &document);
+/// The same for several objects, which may be on no page yet.
+FRAMEWORK_EXPORT void ensureObjectIds(const QVector<CBaseObject *> &objects, const Document &document);
 /// The object on the document's pages that has this number; null without one.
 FRAMEWORK_EXPORT CBaseObject *objectWithId(const Document &document, quint32 id);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <pagehost/document.h>
+#include <pagehost/groups.h>
 
 #include <framework/cpagebgprop.h>
 #include <framework/framework_global.h>
@@ -13,6 +14,7 @@
 #include <QtCore/QVector>
 
 #include <memory>
+#include <optional>
 
 class CBaseObject;
 
@@ -80,6 +82,26 @@ public:
     /// The objects of the page that are kept off it.
     QVector<CBaseObject *> keptObjects() const { return m_outside; }
 
+    /// @name Groups
+    /// @{
+    /// Also groups and members that are not there, since undo may bring them back.
+    ObjectGroups groups() const { return m_groups; }
+    /// Takes them as normalized() makes them.
+    void setGroups(const ObjectGroups &groups);
+    /// The groups among the objects that are on the page.
+    const Grouping &grouping() const;
+    /// The group that the user has entered, whose members are selected one by one; 0 for the page. It holds the
+    /// selected objects: selecting others leaves it.
+    quint32 enteredGroup() const { return m_enteredGroup; }
+    /// Enters the group that holds the object next, seen from the entered one, and selects the part of it that a
+    /// click takes then. False where the object is no part of such a group.
+    bool enterGroupOf(CBaseObject *object);
+    /// Goes back to the group around and selects the one that was left. False on the page.
+    bool leaveGroup();
+    /// The objects that a click on this one takes: all of its group, or itself in the entered group.
+    QVector<CBaseObject *> unitOf(CBaseObject *object) const;
+    /// @}
+
     ExtraData extraData() const { return m_extraData; }
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
 
@@ -92,6 +114,7 @@ Q_SIGNALS:
     void objectAdded(CBaseObject *object);
     void objectRemoved(CBaseObject *object);
     void stackingChanged();
+    void groupsChanged();
     void backgroundChanged();
     void sizeChanged(const QSizeF &size);
     /// Once for each select(), addObjects(), removeObjects() and action of the user; at once.
@@ -107,11 +130,16 @@ private:
     void renumber();
     void giveStackingNumber(int index);
     void dropIfUnused(CBaseObject *object);
+    void followSelection();
+    void dropGrouping();
 
     Document *m_document;
     QSizeF m_size;
     CPageBgProp m_background;
     ExtraData m_extraData;
+    ObjectGroups m_groups;
+    mutable std::optional<Grouping> m_grouping;
+    quint32 m_enteredGroup = 0;
     std::unique_ptr<PageScene> m_scene;
     QVector<CBaseObject *> m_objects;
     QSet<const CBaseObject *> m_members; ///< the same objects, for fast lookup

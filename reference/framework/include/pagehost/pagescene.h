@@ -46,8 +46,9 @@ struct Grip
 ///
 /// A press goes to handles and control points of the selected objects first, so that a near miss of one does not
 /// deselect; then to the object under the point; a press on empty page is left to the view, whose rubber band it
-/// starts. Shift or Ctrl adds to the selection and takes from it. While a tool is set, it gets the mouse.
-/// Views show hover and cursors once mouse tracking is on for their viewport.
+/// starts. Shift or Ctrl adds to the selection and takes from it. A press on a member takes its group, a double
+/// click enters the group. While a tool is set, it gets the mouse. Views show hover and cursors once mouse tracking
+/// is on for their viewport.
 class FRAMEWORK_EXPORT PageScene : public QGraphicsScene
 {
     Q_OBJECT
