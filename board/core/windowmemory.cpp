@@ -13,6 +13,8 @@ const QString placeKey = QStringLiteral("window/place");
 const QString pinnedKeys[] = {QStringLiteral("window/panelPinned"), QStringLiteral("window/palettePinned"),
                               QStringLiteral("window/pagesShown")};
 const QString dockKey = QStringLiteral("window/dock");
+const QString largeToolsKey = QStringLiteral("window/largeTools");
+const QString largeToolsOfferedKey = QStringLiteral("window/largeToolsOffered");
 const QString darkKey = QStringLiteral("window/dark");
 const QString snappingKey = QStringLiteral("window/snapping");
 const QString gridKey = QStringLiteral("window/grid");
@@ -53,6 +55,26 @@ Qt::Edge rememberedDockEdge()
 void rememberDockEdge(Qt::Edge edge)
 {
     QSettings().setValue(dockKey, static_cast<int>(edge));
+}
+
+bool remembersLargeTools()
+{
+    return QSettings().value(largeToolsKey).toBool();
+}
+
+void rememberLargeTools(bool large)
+{
+    QSettings().setValue(largeToolsKey, large);
+}
+
+bool remembersOfferOfLargeTools()
+{
+    return QSettings().value(largeToolsOfferedKey).toBool();
+}
+
+void rememberOfferOfLargeTools()
+{
+    QSettings().setValue(largeToolsOfferedKey, true);
 }
 
 bool remembersPinned(Pane pane)

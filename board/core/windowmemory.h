@@ -15,6 +15,12 @@ void rememberWindow(const QMainWindow *window);
 Qt::Edge rememberedDockEdge();
 void rememberDockEdge(Qt::Edge edge);
 
+/// Whether tools are large enough for fingers, and whether that has been offered; at first neither.
+bool remembersLargeTools();
+void rememberLargeTools(bool large);
+bool remembersOfferOfLargeTools();
+void rememberOfferOfLargeTools();
+
 /// Parts of the window that users keep beside the page or not; at first none.
 enum class Pane { Panel, Palette, Pages };
 bool remembersPinned(Pane pane);

@@ -24,6 +24,7 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_OUTLINE", QT_TRANSLATE_NOOP("board", "Outline")},
         {"IDS_BOARD_OUTLINE_EMPTY", QT_TRANSLATE_NOOP("board", "Nothing on this page yet.")},
         {"IDS_BOARD_HISTORY_EMPTY", QT_TRANSLATE_NOOP("board", "Changes will be listed here.")},
+        {"IDS_SHAPEGROUP_OWN", QT_TRANSLATE_NOOP("board", "My shapes")},
         {"IDS_BOARD_LAST_USED", QT_TRANSLATE_NOOP("board", "Last used")},
         {"IDS_BOARD_NO_SUCH_SHAPE", QT_TRANSLATE_NOOP("board", "No shape called “%1”.")},
         {"IDS_BOARD_ALL_SHAPES", QT_TRANSLATE_NOOP("board", "All shapes")},
@@ -32,6 +33,9 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_DOCK_RIGHT", QT_TRANSLATE_NOOP("board", "At the right")},
         {"IDS_BOARD_DOCK_TOP", QT_TRANSLATE_NOOP("board", "At the top")},
         {"IDS_BOARD_DOCK_BOTTOM", QT_TRANSLATE_NOOP("board", "At the bottom")},
+        {"IDS_BOARD_LARGE_TOOLS", QT_TRANSLATE_NOOP("board", "Large buttons")},
+        {"IDS_BOARD_LARGE_TOOLS_OFFER",
+         QT_TRANSLATE_NOOP("board", "Tools can have large buttons for fingers. View has the way back.")},
     };
 }
 

@@ -1304,5 +1304,17 @@
         <source>Press %1 and teach: all you do is recorded.</source>
         <translation>Drücken Sie %1 und unterrichten Sie: Alles wird aufgezeichnet.</translation>
     </message>
+    <message>
+        <source>Large buttons</source>
+        <translation>Große Knöpfe</translation>
+    </message>
+    <message>
+        <source>Tools can have large buttons for fingers. View has the way back.</source>
+        <translation>Die Werkzeuge können große Knöpfe für Finger haben. Unter „Ansicht“ geht es zurück.</translation>
+    </message>
+    <message>
+        <source>My shapes</source>
+        <translation>Meine Formen</translation>
+    </message>
 </context>
 </TS>

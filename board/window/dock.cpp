@@ -20,13 +20,12 @@ namespace board {
 namespace {
 
 constexpr int edgeGap = 8;
-constexpr int usualGap = 4;
-constexpr int usualSide = 40;
-constexpr int smallSide = 36;
+constexpr int pictureSide = 22;
+constexpr int largePictureSide = 32;
 /// From a button to that of the next group.
 constexpr int groupGap = 12;
-/// Of a line between groups, from the bar's edges.
-constexpr int lineInset = 16;
+/// Of a line between groups, along the buttons.
+constexpr int lineLength = 24;
 
 struct ToolEntry
 {
@@ -64,6 +63,11 @@ Dock::Dock(const Workspace *workspace, const Commands *commands, ToolChoice *too
     m_more->setToolTip(workspace->text("IDS_BOARD_MORE"));
     m_more->setAccessibleName(m_more->toolTip());
     addEnds();
+    const QList<DockButton *> buttons = findChildren<DockButton *>();
+    for (DockButton *button : buttons) {
+        button->setAttribute(Qt::WA_AcceptTouchEvents);
+        button->installEventFilter(this);
+    }
     connect(tools, &ToolChoice::changed, this, &Dock::showChoice);
     connect(tools, &ToolChoice::offersChanged, this, &Dock::showOffers);
     connect(commands, &Commands::keysChanged, this, &Dock::describeTools);
@@ -162,6 +166,13 @@ void Dock::setEdge(Qt::Edge edge)
     update();
 }
 
+void Dock::setLarge(bool large)
+{
+    m_isLarge = large;
+    updateGeometry();
+    arrange();
+}
+
 bool Dock::isVertical() const
 {
     return m_edge == Qt::LeftEdge || m_edge == Qt::RightEdge;
@@ -181,30 +192,44 @@ int Dock::needed(const Measure &measure) const
     return total + (measure.isFolded ? measure.side + measure.gap : 0);
 }
 
+QVector<Dock::Measure> Dock::measures() const
+{
+    if (m_isLarge)
+        return {{64, 8, false}, {64, 0, false}, {56, 0, false}, {56, 0, true}, {44, 0, true}};
+    return {{40, 4, false}, {40, 0, false}, {36, 0, false}, {36, 0, true}};
+}
+
 Dock::Measure Dock::fitting() const
 {
-    for (const Measure &measure :
-         {Measure{usualSide, usualGap, false}, {usualSide, 0, false}, {smallSide, 0, false}})
-        if (needed(measure) <= length())
-            return measure;
-    return {smallSide, 0, true};
+    const QVector<Measure> all = measures();
+    const auto fit = std::find_if(all.begin(), all.end(),
+                                  [this](const Measure &measure) { return needed(measure) <= length(); });
+    return fit == all.end() ? all.last() : *fit;
+}
+
+int Dock::thickness() const
+{
+    return m_isLarge ? largeDockThickness : dockThickness;
 }
 
 QSize Dock::minimumSizeHint() const
 {
-    const int least = needed({smallSide, 0, true});
-    return isVertical() ? QSize(dockThickness, least) : QSize(least, dockThickness);
+    const QVector<Measure> all = measures();
+    const int least = needed(all.last());
+    return isVertical() ? QSize(thickness(), least) : QSize(least, thickness());
 }
 
 QSize Dock::sizeHint() const
 {
-    const int usual = needed({usualSide, usualGap, false});
-    return isVertical() ? QSize(dockThickness, usual) : QSize(usual, dockThickness);
+    const QVector<Measure> all = measures();
+    const int usual = needed(all.first());
+    return isVertical() ? QSize(thickness(), usual) : QSize(usual, thickness());
 }
 
 void Dock::put(DockButton *button, int start, int side)
 {
-    const int across = (dockThickness - side) / 2;
+    const int across = (thickness() - side) / 2;
+    button->setPictureSide(m_isLarge ? largePictureSide : pictureSide);
     const QRect place = isVertical() ? QRect(across, start, side, side) : QRect(start, across, side, side);
     button->setGeometry(QStyle::visualRect(isVertical() ? Qt::LeftToRight : layoutDirection(), rect(), place));
 }
@@ -251,6 +276,14 @@ void Dock::fillMore(bool folded)
     m_more->setVisible(!m_moreMenu->isEmpty());
 }
 
+/// A touch that nobody takes becomes a press of the mouse.
+bool Dock::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::TouchBegin)
+        Q_EMIT touched();
+    return QWidget::eventFilter(watched, event);
+}
+
 void Dock::resizeEvent(QResizeEvent *)
 {
     arrange();
@@ -269,8 +302,8 @@ void Dock::paintEvent(QPaintEvent *)
     const QColor line = themeColors().border;
     painter.fillRect(rect(), themeColors().bar);
     for (const int at : qAsConst(m_lines)) {
-        const QRect place = isVertical() ? QRect(lineInset, at, dockThickness - 2 * lineInset, 1)
-                                         : QRect(at, lineInset, 1, dockThickness - 2 * lineInset);
+        const int across = (thickness() - lineLength) / 2;
+        const QRect place = isVertical() ? QRect(across, at, lineLength, 1) : QRect(at, across, 1, lineLength);
         painter.fillRect(place, line);
     }
     switch (m_edge) {

@@ -29,6 +29,11 @@ public:
     /// The edge of the window that the bar lies at.
     void setEdge(Qt::Edge edge);
     Qt::Edge edge() const { return m_edge; }
+    /// Buttons large enough for fingers.
+    void setLarge(bool large);
+    bool isLarge() const { return m_isLarge; }
+    /// Across the edge, logical pixels.
+    int thickness() const;
     DockButton *buttonOf(Tool tool) const;
     DockButton *insertButton() const { return m_insert; }
     DockButton *moreButton() const { return m_more; }
@@ -40,8 +45,11 @@ Q_SIGNALS:
     void shapesRequested();
     /// The user drags the bar by its empty part; global coordinates.
     void dragged(const QPoint &pos);
+    /// A finger has come down on a button.
+    void touched();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -75,6 +83,8 @@ private:
     bool isVertical() const;
     int length() const { return isVertical() ? height() : width(); }
     int needed(const Measure &measure) const;
+    /// From the widest to the shortest.
+    QVector<Measure> measures() const;
     Measure fitting() const;
     void arrange();
     void put(DockButton *button, int start, int side);
@@ -89,6 +99,7 @@ private:
     QVector<DockButton *> m_ends; ///< from the far end
     QVector<int> m_lines;         ///< along the bar
     Qt::Edge m_edge = Qt::LeftEdge;
+    bool m_isLarge = false;
     bool m_dragging = false;
 };
 

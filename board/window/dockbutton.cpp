@@ -9,7 +9,6 @@ namespace board {
 namespace {
 
 constexpr int usualSide = 40;
-constexpr int pictureSide = 22;
 constexpr int cornerMark = 4;
 /// From a mark to the button's edges.
 constexpr double markInset = 4.5;
@@ -41,6 +40,12 @@ void DockButton::setOpensMore(bool opens)
     update();
 }
 
+void DockButton::setPictureSide(int side)
+{
+    m_pictureSide = side;
+    update();
+}
+
 void DockButton::setKept(bool kept)
 {
     m_kept = kept;
@@ -65,7 +70,7 @@ void DockButton::paintEvent(QPaintEvent *)
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
     const QPalette::ColorRole role = isChecked() ? QPalette::HighlightedText : QPalette::ButtonText;
-    QRect picture(0, 0, pictureSide, pictureSide);
+    QRect picture(0, 0, m_pictureSide, m_pictureSide);
     picture.moveCenter(rect().center());
     board::icon(m_picture, role)
         .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);

@@ -15,6 +15,8 @@ public:
     explicit DockButton(QWidget *parent = nullptr);
 
     void setPicture(Icon picture) { m_picture = picture; }
+    /// Side of the picture, logical pixels.
+    void setPictureSide(int side);
     /// Shows by a mark in the corner that the button opens something.
     void setOpensMore(bool opens);
     void setKept(bool kept);
@@ -28,6 +30,7 @@ private:
     void paintMarks(QPainter *painter, QPalette::ColorRole role) const;
 
     Icon m_picture = Icon::More;
+    int m_pictureSide = 22;
     bool m_opensMore = false;
     bool m_kept = false;
 };

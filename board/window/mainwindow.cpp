@@ -174,29 +174,56 @@ void MainWindow::layOut()
     row->addLayout(column, 1);
     row->addWidget(m_rightSlot);
     auto *centre = new QWidget(this);
-    m_body = new QBoxLayout(QBoxLayout::LeftToRight, centre);
-    m_body->setContentsMargins(0, 0, 0, 0);
+    m_frame = new QBoxLayout(QBoxLayout::TopToBottom, centre);
+    m_frame->setContentsMargins(0, 0, 0, 0);
+    m_frame->setSpacing(0);
+    m_body = new QBoxLayout(QBoxLayout::LeftToRight);
     m_body->setSpacing(0);
     m_body->addWidget(m_dock);
     m_body->addWidget(m_middle, 1);
-    setMenuWidget(m_topBar);
+    m_frame->addWidget(m_topBar);
+    m_frame->addLayout(m_body, 1);
     setCentralWidget(centre);
     addPanels();
+    setLargeTools(remembersLargeTools());
     setDockEdge(rememberedDockEdge());
 }
 
 void MainWindow::setDockEdge(Qt::Edge edge)
 {
-    const QHash<Qt::Edge, QBoxLayout::Direction> directions{{Qt::LeftEdge, QBoxLayout::LeftToRight},
-                                                            {Qt::RightEdge, QBoxLayout::RightToLeft},
-                                                            {Qt::TopEdge, QBoxLayout::TopToBottom},
-                                                            {Qt::BottomEdge, QBoxLayout::BottomToTop}};
-    m_body->setDirection(directions.value(edge));
     m_dock->setEdge(edge);
+    m_frame->setDirection(edge == Qt::BottomEdge ? QBoxLayout::BottomToTop : QBoxLayout::TopToBottom);
+    m_body->setDirection(edge == Qt::RightEdge ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+    // At the top and the bottom, tools and bar are one.
+    if (edge == Qt::TopEdge || edge == Qt::BottomEdge) {
+        m_topBar->takeTools(m_dock, edge);
+    } else {
+        m_topBar->giveTools();
+        m_body->insertWidget(0, m_dock);
+    }
     m_view->setShelfEdge(edge);
     m_shelf->setEdge(edge);
     m_paletteDrawer->setSide(edge == Qt::RightEdge ? Qt::RightEdge : Qt::LeftEdge);
     rememberDockEdge(edge);
+}
+
+void MainWindow::setLargeTools(bool large)
+{
+    m_dock->setLarge(large);
+    m_topBar->setLarge(large);
+    rememberLargeTools(large);
+}
+
+/// Once, to those who use fingers.
+void MainWindow::offerLargeTools()
+{
+    if (m_dock->isLarge() || remembersOfferOfLargeTools())
+        return;
+    rememberOfferOfLargeTools();
+    m_notices->add({m_workspace->text("IDS_BOARD_LARGE_TOOLS_OFFER"),
+                    {},
+                    {{m_workspace->text("IDS_BOARD_LARGE_TOOLS"), [this] { setLargeTools(true); }}},
+                    QStringLiteral("largeToolsNotice")});
 }
 
 /// To the edge that the pointer is nearest to.
@@ -361,6 +388,11 @@ void MainWindow::addDockMenu()
         connect(menu, &QMenu::aboutToShow, action,
                 [this, action, edge] { action->setChecked(m_dock->edge() == edge); });
     }
+    menu->addSeparator();
+    QAction *large = menu->addAction(m_workspace->text("IDS_BOARD_LARGE_TOOLS"));
+    large->setCheckable(true);
+    connect(large, &QAction::triggered, this, &MainWindow::setLargeTools);
+    connect(menu, &QMenu::aboutToShow, large, [this, large] { large->setChecked(m_dock->isLarge()); });
 }
 
 void MainWindow::connectLessons()
@@ -399,6 +431,8 @@ void MainWindow::connectDocument()
 void MainWindow::connectTools()
 {
     connect(m_dock, &Dock::dragged, this, &MainWindow::followDrag);
+    // The bar of notices changes the layout below the finger only after its press.
+    connect(m_dock, &Dock::touched, this, &MainWindow::offerLargeTools, Qt::QueuedConnection);
     m_commands->perform(Command::Shapes, this, [this] { chooseShape(); });
     m_commands->perform(Command::InsertAnything, this, [this] { askAndInsert(); });
     connect(m_dock, &Dock::shapesRequested, m_commands->action(Command::Shapes), &QAction::trigger);

@@ -84,6 +84,8 @@ public:
     QMenuBar *menus() const;
     /// Puts the tools at another edge of the window.
     void setDockEdge(Qt::Edge edge);
+    /// Makes tools and bar large enough for fingers, or as usual.
+    void setLargeTools(bool large);
 
     /// Waits for the user to draw a shape of this kind; an empty id for none any more.
     void beginCreation(const QString &kindId);
@@ -99,6 +101,7 @@ private:
     void connectPanels();
     void addMenus();
     void addDockMenu();
+    void offerLargeTools();
     void addStyleBar();
     void layOut();
     void followDrag(const QPoint &pos);
@@ -153,7 +156,8 @@ private:
     SidePanel *m_sidePanel = nullptr;
     ObjectPanel *m_object = nullptr;
     OutlinePanel *m_outline = nullptr;
-    QBoxLayout *m_body = nullptr; ///< the dock, its shelf, and the page
+    QBoxLayout *m_frame = nullptr; ///< the bar at the top, and all the rest
+    QBoxLayout *m_body = nullptr;  ///< the dock, its shelf, and the page
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
     OncePerTurn m_describeSelection;

@@ -21,7 +21,7 @@ namespace board {
 namespace {
 
 /// Folds of a bar that is too narrow, in their order.
-enum Fold { MenusFold = 1, SavedFold, CommandsFold, ZoomFold };
+enum Fold { MenusFold = 1, SavedFold, CommandsFold, ZoomFold, SwitchesFold };
 constexpr int lineLength = 20;
 constexpr int dotSide = 8;
 
@@ -84,7 +84,7 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     addLine(this);
     m_row->addWidget(m_zoom);
     addLine(this);
-    setFixedHeight(topBarHeight);
+    applyHeight();
     followDocument();
     connect(workspace, &Workspace::documentReplaced, this, &TopBar::followDocument);
     showSaved(true, false);
@@ -126,19 +126,76 @@ void TopBar::addCommand(QAction *action)
     m_row->addWidget(button);
     m_commands.append(button);
     connect(action, &QAction::changed, this, &TopBar::measure);
+    applyHeight();
     measure();
 }
 
 void TopBar::addSwitch(QAction *action)
 {
-    m_row->addWidget(barButton(action, this));
+    m_switches.append(barButton(action, this));
+    m_row->addWidget(m_switches.last());
+    applyHeight();
     measure();
 }
 
 void TopBar::addPageSwitch(QAction *action)
 {
-    static_cast<QHBoxLayout *>(m_pages->layout())->insertWidget(1, barButton(action, m_pages));
+    m_switches.append(barButton(action, m_pages));
+    static_cast<QHBoxLayout *>(m_pages->layout())->insertWidget(1, m_switches.last());
+    applyHeight();
     measure();
+}
+
+void TopBar::takeTools(QWidget *tools, Qt::Edge edge)
+{
+    m_tools = tools;
+    m_edge = edge;
+    m_row->insertWidget(m_row->indexOf(m_pages) + 1, tools, 1);
+    applyHeight();
+    measure();
+    update();
+}
+
+void TopBar::giveTools()
+{
+    if (m_tools)
+        m_row->removeWidget(m_tools);
+    m_tools = nullptr;
+    m_edge = Qt::TopEdge;
+    applyHeight();
+    measure();
+    update();
+}
+
+void TopBar::setLarge(bool large)
+{
+    m_isLarge = large;
+    applyHeight();
+    measure();
+}
+
+int TopBar::barHeight() const
+{
+    if (m_tools)
+        return m_isLarge ? largeDockThickness : dockThickness;
+    return m_isLarge ? largeTopBarHeight : topBarHeight;
+}
+
+void TopBar::applyHeight()
+{
+    setFixedHeight(barHeight());
+    // A line at the side of the page.
+    m_row->setContentsMargins(mediumGap - 2, 0, mediumGap, m_tools ? 0 : 1);
+    const int side = m_isLarge ? largeBarButtonSide : barButtonSide;
+    const int picture = m_isLarge ? largeBarIconSide : barIconSide;
+    const QList<QToolButton *> buttons = findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (m_tools && m_tools->isAncestorOf(button))
+            continue;
+        button->setFixedHeight(side);
+        button->setMinimumWidth(side);
+        button->setIconSize(QSize(picture, picture));
+    }
 }
 
 void TopBar::showSaved(bool isSaved, bool hasFile)
@@ -182,37 +239,51 @@ void TopBar::applyFolds(int folds)
     for (QToolButton *button : qAsConst(m_commands))
         button->setToolButtonStyle(folds < CommandsFold ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     m_zoom->setFolded(folds >= ZoomFold);
+    m_menuButton->setToolButtonStyle(m_tools ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+    for (QToolButton *button : qAsConst(m_switches))
+        button->setVisible(folds < SwitchesFold);
+}
+
+int TopBar::firstFold() const
+{
+    return m_tools ? CommandsFold : 0;
+}
+
+int TopBar::lastFold() const
+{
+    return m_tools ? SwitchesFold : ZoomFold;
 }
 
 /// Looks how much room every fold leaves, then takes as few as are needed.
 void TopBar::measure()
 {
     m_widths.clear();
-    for (int folds = 0; folds <= ZoomFold; ++folds) {
+    for (int folds = 0; folds <= lastFold(); ++folds) {
         applyFolds(folds);
         m_row->invalidate();
         m_widths.append(m_row->sizeHint().width());
     }
+    m_leastWidth = m_row->minimumSize().width();
     fold();
     updateGeometry();
 }
 
 void TopBar::fold()
 {
-    int folds = 0;
-    while (folds < ZoomFold && m_widths.value(folds) > width())
+    int folds = firstFold();
+    while (folds < lastFold() && m_widths.value(folds) > width())
         ++folds;
     applyFolds(folds);
 }
 
 QSize TopBar::sizeHint() const
 {
-    return {m_widths.value(0), topBarHeight};
+    return {m_widths.value(firstFold()), barHeight()};
 }
 
 QSize TopBar::minimumSizeHint() const
 {
-    return {m_widths.value(ZoomFold), topBarHeight};
+    return {m_leastWidth, barHeight()};
 }
 
 void TopBar::resizeEvent(QResizeEvent *)
@@ -224,7 +295,7 @@ void TopBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), themeColors().bar);
-    painter.fillRect(QRect(0, height() - 1, width(), 1), themeColors().border);
+    painter.fillRect(QRect(0, m_edge == Qt::TopEdge ? height() - 1 : 0, width(), 1), themeColors().border);
 }
 
 } // namespace board

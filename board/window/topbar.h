@@ -20,7 +20,7 @@ class ZoomControl;
 /// The bar at the top of the window: menus, whether all is saved, pages, zoom, and what is done with all of it.
 ///
 /// Where it is too narrow, the menus go into one button, the saved state becomes a dot, commands lose their texts
-/// and the zoom its steps, in that order.
+/// and the zoom its steps, in that order. Together with the tools, it begins with less, and switches go last.
 class TopBar : public QWidget
 {
     Q_OBJECT
@@ -40,6 +40,12 @@ public:
     /// The part that turns pages.
     QWidget *pages() const { return m_pages; }
     void showSaved(bool isSaved, bool hasFile);
+    /// Has the tools in the middle, as the only bar of the window. It lies at `edge`.
+    void takeTools(QWidget *tools, Qt::Edge edge);
+    /// Gives the tools to the caller's layout.
+    void giveTools();
+    /// Height of the bar and of its buttons.
+    void setLarge(bool large);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -55,6 +61,10 @@ private:
     void fold();
     void applyFolds(int folds);
     void measure();
+    int firstFold() const;
+    int lastFold() const;
+    int barHeight() const;
+    void applyHeight();
 
     Workspace *m_workspace;
     QHBoxLayout *m_row;
@@ -66,8 +76,13 @@ private:
     QWidget *m_pages;
     QLabel *m_pageNumber;
     ZoomControl *m_zoom;
+    QWidget *m_tools = nullptr; ///< null while they have a bar of their own
+    Qt::Edge m_edge = Qt::TopEdge;
     QVector<QToolButton *> m_commands;
+    QVector<QToolButton *> m_switches;
     QVector<int> m_widths; ///< that are needed with so many folds
+    int m_leastWidth = 0;
+    bool m_isLarge = false;
     bool m_showsSaved = false;
 };
 

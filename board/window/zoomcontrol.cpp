@@ -25,7 +25,8 @@ QToolButton *buttonOf(QAction *action, QWidget *parent)
     auto *button = new QToolButton(parent);
     button->setDefaultAction(action);
     button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedSize(barButtonSide, barButtonSide);
+    button->setFixedHeight(barButtonSide);
+    button->setMinimumWidth(barButtonSide);
     button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(action->text());
     return button;

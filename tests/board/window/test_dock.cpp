@@ -3,6 +3,7 @@
 #include <board/boarddriver.h>
 
 #include <core/actions.h>
+#include <core/commands.h>
 #include <core/toolchoice.h>
 #include <page/pageview.h>
 #include <window/dock.h>
@@ -15,6 +16,8 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPushButton>
 
 using namespace boardtest;
 using board::Tool;
@@ -37,6 +40,12 @@ private Q_SLOTS:
     void dockIsDraggedToAnotherEdge_data();
     void dockIsDraggedToAnotherEdge();
     void dockLiesWhereItWasLeft();
+    void toolsAndBarAreOneAtTheTopAndTheBottom_data();
+    void toolsAndBarAreOneAtTheTopAndTheBottom();
+    void barIsAtTheTopAgainWhenTheToolsStandAtASide();
+    void largeToolsAreLargeEnoughForFingers();
+    void largeToolsShrinkThenFoldWhereTheyAreTooLong();
+    void firstTouchOffersLargeToolsOnce();
 };
 
 namespace {
@@ -61,6 +70,17 @@ struct FullDock
     board::ToolChoice tools;
     board::Dock dock;
 };
+
+/// Names of those that a finger misses.
+QString smallButtons(const QWidget &bar)
+{
+    QStringList names;
+    const QList<QToolButton *> buttons = bar.findChildren<QToolButton *>();
+    for (const QToolButton *button : buttons)
+        if (button->isVisible() && (button->height() < 44 || button->width() < 44))
+            names.append(button->text());
+    return names.join(", ");
+}
 
 void clickOn(QWidget *widget)
 {
@@ -233,6 +253,112 @@ void TestDock::dockLiesWhereItWasLeft()
     BoardDriver board;
     QCOMPARE(board.window().dock()->edge(), Qt::BottomEdge);
     QVERIFY(board.window().dock()->width() > board.window().dock()->height());
+}
+
+void TestDock::toolsAndBarAreOneAtTheTopAndTheBottom_data()
+{
+    QTest::addColumn<Qt::Edge>("edge");
+    QTest::newRow("top") << Qt::TopEdge;
+    QTest::newRow("bottom") << Qt::BottomEdge;
+}
+
+void TestDock::toolsAndBarAreOneAtTheTopAndTheBottom()
+{
+    QFETCH(Qt::Edge, edge);
+    BoardDriver board;
+    board::MainWindow &window = board.window();
+    window.setDockEdge(edge);
+    QCoreApplication::processEvents();
+    const QRect bar(window.topBar()->mapTo(&window, QPoint()), window.topBar()->size());
+    QCOMPARE(bar, QRect(0, edge == Qt::TopEdge ? 0 : window.height() - 56, window.width(), 56));
+    const QRect tools(window.dock()->mapTo(&window, QPoint()), window.dock()->size());
+    QVERIFY(bar.contains(tools));
+    QCOMPARE(tools.height(), 56);
+    QVERIFY(!window.menus()->isVisible());
+    // Pages at the left, what is done with all of it at the right.
+    const auto leftOf = [&](const QWidget *part) { return part->mapTo(&window, QPoint()).x(); };
+    QVERIFY(leftOf(window.topBar()->pages()) < tools.left());
+    const QList<QToolButton *> buttons = window.topBar()->findChildren<QToolButton *>();
+    for (const QToolButton *button : buttons)
+        if (button->defaultAction() == window.commands()->action(board::Command::Present))
+            QVERIFY(leftOf(button) > tools.right());
+    // All the rest is the page's.
+    QCOMPARE(board.view().height(), window.height() - 56);
+}
+
+void TestDock::barIsAtTheTopAgainWhenTheToolsStandAtASide()
+{
+    BoardDriver board;
+    board::MainWindow &window = board.window();
+    window.setDockEdge(Qt::BottomEdge);
+    window.setDockEdge(Qt::RightEdge);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.topBar()->geometry(), QRect(0, 0, window.width(), 40));
+    QVERIFY(window.menus()->isVisible());
+    QCOMPARE(QRect(window.dock()->mapTo(&window, QPoint()), window.dock()->size()),
+             QRect(window.width() - 56, 40, 56, window.height() - 40));
+}
+
+void TestDock::largeToolsAreLargeEnoughForFingers()
+{
+    {
+        BoardDriver board;
+        board.window().setLargeTools(true);
+        QCoreApplication::processEvents();
+        QCOMPARE(board.window().dock()->width(), 96);
+        QCOMPARE(board.window().dock()->buttonOf(Tool::Select)->geometry(), QRect(16, 8, 64, 64));
+        QCOMPARE(board.window().topBar()->height(), 56);
+        QCOMPARE(smallButtons(*board.window().topBar()), QString());
+        board.window().setDockEdge(Qt::BottomEdge);
+        QCoreApplication::processEvents();
+        QCOMPARE(board.window().topBar()->height(), 96);
+    }
+    BoardDriver again;
+    QVERIFY(again.window().dock()->isLarge());
+    QCOMPARE(smallButtons(*again.window().topBar()), QString());
+    again.window().setLargeTools(false);
+    QCoreApplication::processEvents();
+    QCOMPARE(again.window().topBar()->height(), 56);
+}
+
+/// Eight tools and Insert in four groups, and two at the end.
+void TestDock::largeToolsShrinkThenFoldWhereTheyAreTooLong()
+{
+    FullDock t;
+    t.dock.setLarge(true);
+    // 16 at the edges, 11 × 64, four gaps of 12 around groups, and eight others of 8.
+    t.dock.resize(96, 832);
+    QCOMPARE(t.place(Tool::Pen).height(), 64);
+    QCOMPARE(t.place(Tool::Highlighter).top() - t.place(Tool::Pen).bottom() - 1, 8);
+    t.dock.resize(96, 831);
+    QCOMPARE(t.place(Tool::Highlighter).top() - t.place(Tool::Pen).bottom() - 1, 0);
+    t.dock.resize(96, 767);
+    QCOMPARE(t.place(Tool::Pen).height(), 56);
+    t.dock.resize(96, 560);
+    QVERIFY(t.dock.moreButton()->isVisible());
+    QCOMPARE(t.place(Tool::Pen).height(), 44);
+    QVERIFY(t.dock.minimumSizeHint().height() <= 484);
+}
+
+void TestDock::firstTouchOffersLargeToolsOnce()
+{
+    BoardDriver board;
+    QTouchDevice *screen = QTest::createTouchDevice();
+    const auto touch = [&](QWidget *button) {
+        QTest::touchEvent(button, screen).press(0, button->rect().center(), button);
+        QTest::touchEvent(button, screen).release(0, button->rect().center(), button);
+        QCoreApplication::processEvents();
+    };
+    clickOn(board.window().dock()->buttonOf(Tool::Pen));
+    QCoreApplication::processEvents();
+    QVERIFY(!board.button("Large buttons"));
+    touch(board.window().dock()->buttonOf(Tool::Text));
+    QVERIFY(board.button("Large buttons"));
+    QTest::mouseClick(board.button("Large buttons"), Qt::LeftButton);
+    QVERIFY(board.window().dock()->isLarge());
+    board.window().setLargeTools(false);
+    touch(board.window().dock()->buttonOf(Tool::Pen));
+    QVERIFY(!board.button("Large buttons"));
 }
 
 QTEST_MAIN(TestDock)

@@ -195,15 +195,21 @@ void TestWindow::smallWindowCutsNothingOff_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("takes");
+    QTest::addColumn<Qt::Edge>("edge");
+    QTest::addColumn<bool>("large");
     // Half of 1920 × 1080, and two thirds of 1366 × 768.
     const QSize sizes[] = {{960, 540}, {910, 512}};
     for (const char *language : {"en", "de"}) {
         for (const QSize &size : sizes) {
             const int width = size.width();
-            QTest::addRow("%s %d", language, width) << language << size << 0;
-            QTest::addRow("%s %d while recording", language, width) << language << size << 1;
-            QTest::addRow("%s %d with a lesson", language, width) << language << size << 2;
+            QTest::addRow("%s %d", language, width) << language << size << 0 << Qt::LeftEdge << false;
+            QTest::addRow("%s %d while recording", language, width)
+                << language << size << 1 << Qt::LeftEdge << false;
+            QTest::addRow("%s %d with a lesson", language, width) << language << size << 2 << Qt::LeftEdge << false;
+            QTest::addRow("%s %d in one bar", language, width) << language << size << 0 << Qt::BottomEdge << false;
         }
+        QTest::addRow("%s for fingers", language) << language << sizes[0] << 0 << Qt::LeftEdge << true;
+        QTest::addRow("%s for fingers in one bar", language) << language << sizes[0] << 0 << Qt::TopEdge << true;
     }
 }
 
@@ -211,10 +217,14 @@ void TestWindow::smallWindowCutsNothingOff()
 {
     QFETCH(QString, language);
     QFETCH(QSize, size);
+    QFETCH(Qt::Edge, edge);
+    QFETCH(bool, large);
     QFETCH(int, takes); // presses of the key that begins and ends recording
     board::Workspace workspace(language);
     workspace.loadPlugins({});
     board::MainWindow window(&workspace);
+    window.setDockEdge(edge);
+    window.setLargeTools(large);
     window.resize(size);
     window.show();
     window.panel()->setOpen(true);
