@@ -1,5 +1,6 @@
 #include "page/labeleditor.h"
 
+#include "page/formulatyping.h"
 #include "page/listediting.h"
 
 #include <pagehost/objectplugin.h>
@@ -8,6 +9,8 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QMimeData>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGraphicsView>
 
@@ -157,8 +160,24 @@ void LabelEditor::keyPressEvent(QKeyEvent *event)
         finish();
         return;
     }
-    if (!m_label.hasManyLines || !editList(*event))
-        QTextEdit::keyPressEvent(event);
+    if (event->key() == Qt::Key_V && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
+        return pastePlain();
+    if (m_label.hasManyLines && editList(*event))
+        return;
+    QTextEdit::keyPressEvent(event);
+    const bool isTyped = !event->text().isEmpty() && event->text().at(0).isPrint();
+    if (isTyped && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
+        raiseOrLower(textCursor());
+}
+
+/// Without the marks of lists.
+void LabelEditor::pastePlain()
+{
+    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    if (!data || !canInsertFromMimeData(data))
+        return;
+    insertPlainText(data->hasText() ? data->text() : textOf(*data));
+    ensureCursorVisible();
 }
 
 bool LabelEditor::editList(const QKeyEvent &event)

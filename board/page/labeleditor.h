@@ -31,7 +31,8 @@ QVector<EditableLabel> labelsOf(CBaseObject &object);
 /// letter; the end makes one step to take back.
 ///
 /// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line. In
-/// other texts there are lists (page/listediting.h). Pasted text loses its formats but for lists.
+/// other texts there are lists (page/listediting.h). Pasted text loses its formats but for lists, with Ctrl+Shift+V
+/// those, too. Exponents and indices become raised and lowered characters (page/formulatyping.h).
 class LabelEditor : public QTextEdit
 {
     Q_OBJECT
@@ -56,6 +57,7 @@ protected:
 
 private:
     bool editList(const QKeyEvent &event);
+    void pastePlain();
     void type(const QString &text, bool record);
     void takePlace();
     void followLabel();

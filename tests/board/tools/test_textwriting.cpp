@@ -69,6 +69,10 @@ private Q_SLOTS:
     void aKeyChangesTheKindOfList();
     void pastedListsKeepTheirMarks();
     void pastedTextLosesItsFormats();
+    void plainPasteLeavesMarksOfListsOut();
+    void exponentsAndIndicesAreRaisedAndLowered_data();
+    void exponentsAndIndicesAreRaisedAndLowered();
+    void oneStepBringsTheTypedCharactersBack();
 };
 
 void TestTextWriting::aClickAndKeysMakeAText()
@@ -264,6 +268,74 @@ void TestTextWriting::pastedTextLosesItsFormats()
     QTest::keyClick(desk.editor(), Qt::Key_V, Qt::ControlModifier);
     desk.end();
     QCOMPARE(desk.written(0), QString("<b>plain</b>"));
+}
+
+void TestTextWriting::plainPasteLeavesMarksOfListsOut()
+{
+    Desk desk;
+    auto *data = new QMimeData;
+    data->setHtml("<ul><li>one</li><li>two</li></ul>");
+    data->setText("one, two");
+    QGuiApplication::clipboard()->setMimeData(data);
+    desk.click({500, 300});
+    QTest::keyClick(desk.editor(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(desk.written(0), QString("one, two"));
+}
+
+void TestTextWriting::exponentsAndIndicesAreRaisedAndLowered_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("square") << "x^2+1"
+                            << "x²+1";
+    QTest::newRow("unit") << "10 cm^3"
+                          << "10 cm³";
+    QTest::newRow("bracket") << "(a+b)^n"
+                             << "(a+b)ⁿ";
+    QTest::newRow("two digits") << "10^1^2"
+                                << "10¹²";
+    QTest::newRow("negative") << "s^-^1"
+                              << "s⁻¹";
+    QTest::newRow("water") << "H_2O"
+                           << "H₂O";
+    QTest::newRow("symbol of two letters") << "Cl_2"
+                                           << "Cl₂";
+    QTest::newRow("variable") << "a_n+a_1_0"
+                              << "aₙ+a₁₀";
+    QTest::newRow("charge") << "Ca^2^+"
+                            << "Ca²⁺";
+    QTest::newRow("without a counterpart") << "x_q x^Q"
+                                           << "x_q x^Q";
+    QTest::newRow("name of a file") << "file_1"
+                                    << "file_1";
+    QTest::newRow("two short words") << "is_a"
+                                     << "is_a";
+    QTest::newRow("several words") << "to_be_1"
+                                   << "to_be_1";
+    QTest::newRow("nothing to raise") << "^2 _2 ^ 2"
+                                      << "^2 _2 ^ 2";
+}
+
+void TestTextWriting::exponentsAndIndicesAreRaisedAndLowered()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, written);
+    Desk desk;
+    desk.click({500, 300});
+    desk.type(typed);
+    QCOMPARE(desk.written(0), written);
+}
+
+void TestTextWriting::oneStepBringsTheTypedCharactersBack()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("x^2");
+    QCOMPARE(desk.written(0), QString("x²"));
+    QTest::keyClick(desk.editor(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.written(0), QString("x^2"));
+    desk.type("y");
+    QCOMPARE(desk.written(0), QString("x^2y"));
 }
 
 QTEST_MAIN(TestTextWriting)
