@@ -31,6 +31,7 @@ QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
             entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group),
                             searchWords(workspace, kind), kind.rank});
     const QString basic = workspace.text(pagehost::basicGroup);
+    const QString own = workspace.text(pagehost::ownGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));
     std::stable_sort(entries.begin(), entries.end(), [&](const PaletteEntry &one, const PaletteEntry &other) {
         if (one.group == other.group && one.rank != other.rank)
@@ -39,6 +40,8 @@ QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
             return collator.compare(one.name, other.name) < 0;
         if (one.group == basic || other.group == basic)
             return one.group == basic;
+        if (one.group == own || other.group == own)
+            return other.group == own;
         return collator.compare(one.group, other.group) < 0;
     });
     return entries;

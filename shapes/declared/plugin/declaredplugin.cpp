@@ -140,11 +140,22 @@ QString DeclaredPlugin::kindOfFile(const QString &path) const
     return {};
 }
 
+bool DeclaredPlugin::isOwn(const ShapeKind &shape) const
+{
+    const QString folder = QFileInfo(userFolder()).absoluteFilePath();
+    for (auto file = m_good.begin(); file != m_good.end(); ++file)
+        if (file.value().get() == &shape.declaration())
+            return QFileInfo(file.key()).absolutePath() == folder;
+    return false;
+}
+
 QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const
 {
     QVector<pagehost::ObjectKind> kinds;
-    for (const ShapeKind *shape : m_library->offered())
-        kinds.append({shape->kind().id(), shape->kind().nameKey(), shape->groupKey(), shape->kind().rank});
+    for (const ShapeKind *shape : m_library->offered()) {
+        const QString group = isOwn(*shape) ? QString::fromLatin1(pagehost::ownGroup) : shape->groupKey();
+        kinds.append({shape->kind().id(), shape->kind().nameKey(), group, shape->kind().rank});
+    }
     return kinds;
 }
 

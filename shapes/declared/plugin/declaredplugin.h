@@ -53,6 +53,8 @@ public:
 
 private:
     void read();
+    /// Whether a file of the user's folder declares the shape.
+    bool isOwn(const ShapeKind &shape) const;
     void followFiles(const QVector<const ShapeKind *> &before);
 
     std::shared_ptr<ShapeLibrary> m_library;

@@ -49,10 +49,15 @@ QString installedFolder()
     return isFound ? QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() : QString();
 }
 
+QString userFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/shapes");
+}
+
 QStringList shapeFolders()
 {
     QStringList folders = qEnvironmentVariable("GLIOLOLOK_SHAPES").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    folders.append(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/shapes"));
+    folders.append(userFolder());
     folders.append(installedFolder());
     return folders;
 }

@@ -17,6 +17,8 @@ class ShapeKind;
 /// The folders that shapes are looked for in, first come first served: those of GLIOLOLOK_SHAPES, the user's own,
 /// and the one beside the plug-in. One that isn't there is empty.
 QStringList shapeFolders();
+/// The folder of the user's own shapes.
+QString userFolder();
 
 /// The folder beside the plug-in. Only its files may succeed coded shapes.
 QString installedFolder();

@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 
+#include <core/commands.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
 #include <window/mainwindow.h>
@@ -9,13 +10,18 @@
 
 #include <support/patience.h>
 
+#include <pagehost/page.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
 
 using namespace boardtest;
 
@@ -31,6 +37,8 @@ private Q_SLOTS:
     void cleanup();
     void newShapeIsWrittenAndItsFolderOpened();
     void newShapeIsInThePalette();
+    void ownShapesStandLastInAGroupOfTheirOwn();
+    void searchWithoutAHitSaysSoAndLeadsBack();
     void secondShapeOfANameLeavesTheFirst();
     void folderThatCannotBeWrittenIsTold();
 
@@ -80,6 +88,51 @@ void TestShapeFolder::newShapeIsInThePalette()
     QString problem;
     QVERIFY2(!board::writeNewShape("Small <kite>", &problem).isEmpty(), qPrintable(problem));
     QTRY_VERIFY_WITH_TIMEOUT(isThere(), support::patience);
+}
+
+/// Those that come with the board stay in their groups.
+void TestShapeFolder::ownShapesStandLastInAGroupOfTheirOwn()
+{
+    QString problem;
+    BoardDriver board;
+    QVERIFY2(!board::writeNewShape("Kite", &problem).isEmpty(), qPrintable(problem));
+    const auto groups = [&board] {
+        QStringList titles;
+        const QVector<board::PaletteButton *> buttons = board.window().palettePanel()->buttons();
+        for (const board::PaletteButton *button : buttons) {
+            const auto *title = button->parentWidget()->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+            titles.append(title->text() + (button->text() == "Kite" ? ": Kite" : ""));
+        }
+        return titles;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(groups().contains("My shapes: Kite"), support::patience);
+    QVERIFY(groups().last().startsWith("My shapes"));
+    QCOMPARE(groups().first(), QString("Basic shapes"));
+}
+
+void TestShapeFolder::searchWithoutAHitSaysSoAndLeadsBack()
+{
+    BoardDriver board;
+    board.window().commands()->action(board::Command::Shapes)->trigger();
+    QCoreApplication::processEvents();
+    const board::PalettePanel &palette = *board.window().palettePanel();
+    auto *search = palette.findChild<QLineEdit *>();
+    QVERIFY(search->hasFocus());
+    QTest::keyClicks(search, "qqq");
+    const auto isSaid = [&] {
+        for (const QLabel *label : palette.findChildren<QLabel *>())
+            if (label->isVisible() && label->text() == "No shape called “qqq”.")
+                return true;
+        return false;
+    };
+    QVERIFY(isSaid());
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(board.page().objectCount(), 0);
+    QTest::mouseClick(board.button("All shapes"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QVERIFY(!isSaid());
+    QCOMPARE(search->text(), QString());
+    QVERIFY(palette.buttons().first()->isVisible());
 }
 
 void TestShapeFolder::secondShapeOfANameLeavesTheFirst()

@@ -17,6 +17,8 @@ namespace pagehost {
 
 /// The palette group of basic shapes, which precedes all others.
 constexpr char basicGroup[] = "IDS_SHAPEGROUP_BASIC";
+/// Localisation key of the palette group of shapes that users have made; applications name it, and show it last.
+constexpr char ownGroup[] = "IDS_SHAPEGROUP_OWN";
 
 /// A PNG picture for palettes (ObjectPlugin::dataOf()); empty where palettes show the look of a new object.
 constexpr char iconType[] = "image/x-gliololok-icon";
