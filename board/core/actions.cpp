@@ -69,6 +69,7 @@ void Actions::makeEditActions()
     deselect = m_commands->perform(Command::SelectNothing, this, [this] { m_view->page()->select({}); });
     m_view->addAction(m_commands->perform(Command::EditText, this, [this] { m_view->writeFirstLabel(); }));
     duplicate = m_commands->perform(Command::Duplicate, this, [this] { duplicateSelection(); });
+    connect(m_view, &PageView::copyDropped, this, &Actions::dropCopy);
     remove = m_commands->perform(Command::Delete, this, [this] {
         if (!isDragging())
             pagehost::deleteSelection(m_view->page());
@@ -244,11 +245,16 @@ void Actions::step(void (QUndoStack::*way)())
 
 void Actions::duplicateSelection()
 {
-    if (isDragging())
-        return;
+    if (!isDragging())
+        dropCopy(pagehost::duplicateOffset);
+}
+
+/// As far from the selected objects as this.
+void Actions::dropCopy(const QPointF &way)
+{
     // In a group of its own the step is called what the user did.
     GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_DUPLICATE"));
-    pagehost::duplicateSelection(m_view->page(), &m_workspace->registry());
+    pagehost::duplicateSelection(m_view->page(), &m_workspace->registry(), way);
     GetFramework()->endUndoGroup();
 }
 

@@ -57,6 +57,7 @@ private:
     bool isDragging() const;
     void step(void (QUndoStack::*way)());
     void duplicateSelection();
+    void dropCopy(const QPointF &way);
     void restackSelection(pagehost::StackingMove move);
     void mirrorSelection(bool horizontally);
     void rotateSelection(double degrees);

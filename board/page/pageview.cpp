@@ -75,6 +75,7 @@ void PageView::setPage(pagehost::Page *page)
     if (m_page) {
         m_page->select({});
         disconnect(m_page, nullptr, this, nullptr);
+        disconnect(m_page->scene(), nullptr, this, nullptr);
     }
     m_page = page;
     setScene(page ? page->scene() : nullptr);
@@ -94,6 +95,7 @@ void PageView::followPage()
     connect(m_page, &pagehost::Page::objectRemoved, viewport(), QOverload<>::of(&QWidget::update));
     // The scene leaves out what it takes to be covered.
     connect(m_page, &pagehost::Page::backgroundChanged, viewport(), QOverload<>::of(&QWidget::update));
+    connect(m_page->scene(), &pagehost::PageScene::copyDropped, this, &PageView::copyDropped);
     connect(m_page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
     if (m_page->document())
@@ -320,7 +322,9 @@ bool PageView::writeFirstLabel(bool ofNewObject)
 void PageView::showHint(const QPoint &pointer)
 {
     const QVector<CBaseObject *> selected = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
-    const QString hint = selected.size() == 1 ? dragHintOf(*selected.first()) : QString();
+    QString hint = selected.size() == 1 ? dragHintOf(*selected.first()) : QString();
+    if (m_page && hint.isEmpty())
+        hint = textOf(m_page->scene()->dragFigures());
     if (m_showsHint || !hint.isEmpty())
         showDragHint(hint, pointer, viewport());
     m_showsHint = !hint.isEmpty();

@@ -80,6 +80,8 @@ Q_SIGNALS:
     void writingEnded(CBaseObject *object, bool madeStep);
     /// The Esc key was pressed while a tool waited.
     void toolGivenUp();
+    /// See PageScene::copyDropped().
+    void copyDropped(const QPointF &way);
     void zoomChanged(double rate);
     /// Scene coordinates.
     void pointerMoved(const QPointF &scenePos);

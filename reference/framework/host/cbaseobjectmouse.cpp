@@ -16,6 +16,14 @@ bool extendsSelection(const QGraphicsSceneMouseEvent &event)
     return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
 }
 
+/// A press with Shift or Ctrl may begin a drag, too, so that a selected object is deselected by its release.
+GripDrag::ClickEffect clickEffect(const QGraphicsSceneMouseEvent &event, bool isSelected)
+{
+    if (!extendsSelection(event))
+        return GripDrag::SelectsAlone;
+    return isSelected ? GripDrag::Deselects : GripDrag::NoEffect;
+}
+
 bool isOnlySelected(const CBaseObject &object)
 {
     return object.isSelected() && object.scene() && object.scene()->selectedItems().size() == 1;
@@ -60,15 +68,16 @@ void CBaseObject::mousePressEvent(QGraphicsSceneMouseEvent *event)
     CObjAction::ACT_Def action = CObjAction::ACT_None;
     if (isSelected() && CheckHitTestHandlers(event->scenePos(), action)) {
         if (action != CObjAction::ACT_None)
-            host.drag = std::make_unique<GripDrag>(*this, action, *event, false);
+            host.drag = std::make_unique<GripDrag>(*this, action, *event, GripDrag::NoEffect);
         return;
     }
-    if (extendsSelection(*event))
+    const GripDrag::ClickEffect click = clickEffect(*event, isSelected());
+    if (click == GripDrag::NoEffect || (click == GripDrag::Deselects && blocked))
         toggleSelected(*this);
     else if (!isSelected())
         selectAlone(*this);
     if (isSelected() && !blocked)
-        host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, !extendsSelection(*event));
+        host.drag = std::make_unique<GripDrag>(*this, CObjAction::ACT_Move, *event, click);
 }
 
 void CBaseObject::mouseMoveEvent(QGraphicsSceneMouseEvent *event)

@@ -4,12 +4,12 @@
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
-#include <pagehost/pagescene.h>
 
 #include <host/geometry.h>
 #include <host/handlelayout.h>
 #include <host/objectpage.h>
 #include <host/rootobjectprivate.h>
+#include <host/turncatch.h>
 
 #include <QtWidgets/QGraphicsScene>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
@@ -21,9 +21,6 @@ using pagehost::GeometrySnapshot;
 namespace {
 
 constexpr double dragThresholdPixels = 3;
-constexpr double rotationStep = 15;
-/// Turning catches at steps this near, degrees.
-constexpr double rotationCatch = 2.5;
 constexpr double smallestSide = 1;
 constexpr double radiansToDegrees = 180 / 3.14159265358979323846;
 
@@ -69,12 +66,12 @@ QPointF fixedPoint(CObjAction::ACT_Def handle, const QSizeF &size)
 } // namespace
 
 GripDrag::GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
-                   bool selectsAlone)
+                   ClickEffect click)
     : m_object(object)
     , m_action(action)
     , m_press(press.scenePos())
     , m_threshold(action == CObjAction::ACT_Move ? dragThresholdPixels / object.getCurZoomRate() : 0)
-    , m_selectsAlone(selectsAlone)
+    , m_click(click)
 {
     if (action == CObjAction::ACT_Move) {
         m_before = pagehost::takeSnapshots(movableSelection(object), GeometrySnapshot::PlaceOnly);
@@ -118,7 +115,7 @@ void GripDrag::moveTo(const QGraphicsSceneMouseEvent &event)
     else if (HandleLayout::isResize(m_action))
         resize(event.scenePos());
     else if (m_action == CObjAction::ACT_Rotate)
-        rotate(event.scenePos(), catchOfTurn(event.modifiers()));
+        rotate(event.scenePos(), event.modifiers());
 }
 
 void GripDrag::finish(const QGraphicsSceneMouseEvent &event)
@@ -127,8 +124,8 @@ void GripDrag::finish(const QGraphicsSceneMouseEvent &event)
         moveTo(event);
     if (m_action == CObjAction::ACT_MirrorHorizontal || m_action == CObjAction::ACT_MirrorVertical)
         mirrorIfStillOnHandle(event.scenePos());
-    if (!m_moved && m_selectsAlone)
-        selectOnlyObject();
+    if (!m_moved)
+        click();
     pagehost::pushGeometryChange(m_before, textKeyOf(m_action));
 }
 
@@ -136,6 +133,12 @@ void GripDrag::cancel()
 {
     for (const GeometrySnapshot &snapshot : qAsConst(m_before))
         snapshot.restore();
+}
+
+void GripDrag::putBack()
+{
+    for (const GeometrySnapshot &snapshot : qAsConst(m_before))
+        snapshot.object()->CPSRootObject::setPos(snapshot.pos(), true);
 }
 
 void GripDrag::moveSelection(const QPointF &scenePos)
@@ -157,23 +160,12 @@ void GripDrag::resize(const QPointF &scenePos)
     m_object.CPSRootObject::setPos(start().pos() + rotated(shift, start().rotation()), true);
 }
 
-/// Degrees from a step of rotation at which it is taken.
-double GripDrag::catchOfTurn(Qt::KeyboardModifiers modifiers) const
-{
-    if (modifiers.testFlag(Qt::ShiftModifier))
-        return rotationStep;
-    const pagehost::PageScene *scene = pageSceneOf(m_object);
-    return scene && scene->isSnapping() && !modifiers.testFlag(Qt::AltModifier) ? rotationCatch : -1;
-}
-
-void GripDrag::rotate(const QPointF &scenePos, double stepCatch)
+void GripDrag::rotate(const QPointF &scenePos, Qt::KeyboardModifiers modifiers)
 {
     const QRectF rect(QPointF(0, 0), start().size());
     const QPointF center = start().pos() + rotated(rect.center(), start().rotation());
     const double turned = angleOf(scenePos - center) - angleOf(m_press - center);
-    const double wanted = start().rotation() + turned;
-    const double step = std::round(wanted / rotationStep) * rotationStep;
-    const double degrees = normalizedDegrees(std::abs(step - wanted) <= stepCatch ? step : wanted);
+    const double degrees = normalizedDegrees(caughtTurn(start().rotation() + turned, modifiers, m_object));
     m_object.setRotateByPoint(degrees, rect.center(), true);
 }
 
@@ -186,7 +178,10 @@ void GripDrag::mirrorIfStillOnHandle(const QPointF &scenePos)
     m_object.setMirror(m_object.isMirrored() != horizontally, m_object.isFlipped() == horizontally, true);
 }
 
-void GripDrag::selectOnlyObject()
+void GripDrag::click()
 {
-    selectAlone(m_object);
+    if (m_click == SelectsAlone)
+        selectAlone(m_object);
+    else if (m_click == Deselects)
+        toggleSelected(m_object);
 }

@@ -18,9 +18,12 @@ class QGraphicsSceneMouseEvent;
 class GripDrag
 {
 public:
-    /// `object` is the pressed one. `selectsAlone`: a press without a drag selects only it.
+    /// The effect of a press without a drag.
+    enum ClickEffect { NoEffect, SelectsAlone, Deselects };
+
+    /// `object` is the pressed one.
     GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
-             bool selectsAlone);
+             ClickEffect click);
 
     /// The running drag of the object; null without one.
     static GripDrag *running(CBaseObject &object);
@@ -36,21 +39,25 @@ public:
     /// Ends the drag, with one undo step when something has changed.
     void finish(const QGraphicsSceneMouseEvent &event);
     void cancel();
+    bool hasMoved() const { return m_moved; }
+    /// The objects at the press.
+    const QVector<pagehost::GeometrySnapshot> &before() const { return m_before; }
+    /// Moves the objects back, recorded, without a step.
+    void putBack();
 
 private:
     void moveSelection(const QPointF &scenePos);
     void resize(const QPointF &scenePos);
-    double catchOfTurn(Qt::KeyboardModifiers modifiers) const;
-    void rotate(const QPointF &scenePos, double stepCatch);
+    void rotate(const QPointF &scenePos, Qt::KeyboardModifiers modifiers);
     void mirrorIfStillOnHandle(const QPointF &scenePos);
-    void selectOnlyObject();
+    void click();
     const pagehost::GeometrySnapshot &start() const { return m_before.first(); }
 
     CBaseObject &m_object;
     CObjAction::ACT_Def m_action;
     QPointF m_press;    ///< scene coordinates
     double m_threshold; ///< distance of the mouse from the press that starts the drag, scene units
-    bool m_selectsAlone;
+    ClickEffect m_click;
     bool m_moved = false;
     QVector<pagehost::GeometrySnapshot> m_before;
 };

@@ -117,3 +117,12 @@ QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object)
             offered.append(handle);
     return offered;
 }
+
+QVector<CObjAction::ACT_Def> frameHandles()
+{
+    QVector<CObjAction::ACT_Def> handles;
+    for (const CObjAction::ACT_Def handle : HandleLayout::handles())
+        if (operationOf(handle) != OperationMirror)
+            handles.append(handle);
+    return handles;
+}

@@ -47,3 +47,5 @@ private:
 
 /// The handles that the object offers, in drawing order.
 QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object);
+/// Those of a frame around several objects.
+QVector<CObjAction::ACT_Def> frameHandles();

@@ -16,6 +16,8 @@ namespace pagehost {
 
 namespace {
 
+/// A pointer that trembles by less than this while it clicks is not led elsewhere.
+constexpr double dragPixels = 3;
 constexpr double quarter = 90;
 /// Objects turned by less than this beside a quarter stand upright, degrees.
 constexpr double uprightTolerance = 1e-6;
@@ -65,34 +67,56 @@ QRectF boxBetween(const QPointF &from, const QPointF &to, const QPointF &side, c
 
 } // namespace
 
-GripCourse::GripCourse(const Grip &grip, const QPointF &press, Snapper &snapper)
+GripCourse::GripCourse(const Grip &grip, const QPointF &press, const QVector<CBaseObject *> &moving,
+                       Snapper &snapper)
     : m_grip(grip)
     , m_press(press)
     , m_snapper(snapper)
+    , m_moving(moving)
+    , m_startBox(boundsOf(moving))
 {
-    if (const GripDrag *drag = GripDrag::running(*grip.object))
-        m_moving = drag->objects();
-    m_snapper.begin(m_moving);
-    m_startBox = boundsOf(m_moving);
-    if (!isResize())
+    m_snapper.begin(moving);
+    if (isResize())
+        takeCorners();
+}
+
+void GripCourse::takeCorners()
+{
+    m_side = HandleLayout::side(m_grip.action);
+    if (m_grip.kind == Grip::FrameHandle) {
+        m_sceneSide = m_side;
+        m_startSize = m_startBox.size();
+        m_corner = m_startBox.topLeft() + pointAt(m_startSize, m_side);
+        m_fixed = m_startBox.topLeft() + pointAt(m_startSize, -m_side);
         return;
-    m_side = HandleLayout::side(grip.action);
-    m_sceneSide = turnedByQuarters(m_side, grip.object->rotation());
-    m_startSize = grip.object->getClientRect().size();
-    m_corner = grip.object->mapToScene(pointAt(m_startSize, m_side));
-    m_fixed = grip.object->mapToScene(pointAt(m_startSize, -m_side));
+    }
+    m_degrees = m_grip.object->rotation();
+    m_sceneSide = turnedByQuarters(m_side, m_degrees);
+    m_startSize = m_grip.object->getClientRect().size();
+    m_corner = m_grip.object->mapToScene(pointAt(m_startSize, m_side));
+    m_fixed = m_grip.object->mapToScene(pointAt(m_startSize, -m_side));
 }
 
 bool GripCourse::isResize() const
 {
-    return m_grip.kind == Grip::Handle && HandleLayout::isResize(m_grip.action);
+    return (m_grip.kind == Grip::Handle || m_grip.kind == Grip::FrameHandle) &&
+           HandleLayout::isResize(m_grip.action);
+}
+
+bool GripCourse::isDragAt(const QPointF &scenePos) const
+{
+    if (m_grip.kind == Grip::FrameHandle)
+        return true;
+    const GripDrag *drag = GripDrag::running(*m_grip.object);
+    return drag && drag->isDragAt(scenePos);
 }
 
 QPointF GripCourse::lead(const DragPointer &pointer)
 {
     m_subject.reset();
-    const GripDrag *drag = GripDrag::running(*m_grip.object);
-    if (!drag || !drag->isDragAt(pointer.pos))
+    const QPointF away = pointer.pos - m_press;
+    m_isDrag = m_isDrag || std::hypot(away.x(), away.y()) >= dragPixels * pointer.pixel;
+    if (!m_isDrag || !isDragAt(pointer.pos))
         return pointer.pos;
     if (m_grip.kind == Grip::Body)
         return leadBody(pointer);
@@ -136,13 +160,12 @@ QPointF GripCourse::leadCorner(const DragPointer &pointer)
 /// The way of a corner that keeps the proportions, scene coordinates: the axis that grows more decides.
 QPointF GripCourse::proportional(const QPointF &way) const
 {
-    const double degrees = m_grip.object->rotation();
-    const QPointF itemWay = rotated(way, -degrees);
+    const QPointF itemWay = rotated(way, -m_degrees);
     const double across = itemWay.x() * m_side.x() / m_startSize.width();
     const double down = itemWay.y() * m_side.y() / m_startSize.height();
     const double growth = std::max({across, down, -1.0});
     return rotated({growth * m_startSize.width() * m_side.x(), growth * m_startSize.height() * m_side.y()},
-                   degrees);
+                   m_degrees);
 }
 
 /// Nothing for the side of an object that is turned by other than quarters.

@@ -23,8 +23,8 @@ struct DragPointer
 class GripCourse
 {
 public:
-    /// Of a press that the object has taken.
-    GripCourse(const Grip &grip, const QPointF &press, Snapper &snapper);
+    /// Of a press that has begun the drag of the objects.
+    GripCourse(const Grip &grip, const QPointF &press, const QVector<CBaseObject *> &moving, Snapper &snapper);
 
     /// The place that the object gets, scene coordinates.
     QPointF lead(const DragPointer &pointer);
@@ -36,7 +36,9 @@ private:
     QPointF leadBody(const DragPointer &pointer);
     QPointF leadCorner(const DragPointer &pointer);
     QPointF proportional(const QPointF &way) const;
+    bool isDragAt(const QPointF &scenePos) const;
     bool isResize() const;
+    void takeCorners();
     bool isCorner() const { return m_side.x() != 0 && m_side.y() != 0; }
     std::optional<SnapSubject> cornerSubject(const QPointF &corner) const;
     QPointF snapOffset(const SnapSubject &subject, const DragPointer &pointer);
@@ -45,12 +47,14 @@ private:
     QPointF m_press; ///< scene coordinates
     Snapper &m_snapper;
     QVector<CBaseObject *> m_moving;
-    QRectF m_startBox;   ///< of the moving objects, scene coordinates
-    QSizeF m_startSize;  ///< of the resized object, item units
-    QPointF m_side;      ///< of the resized object, see HandleLayout::side()
-    QPointF m_sceneSide; ///< the same as it is turned, for objects that are turned by quarters; else null
-    QPointF m_corner;    ///< dragged corner or side of the resized object at the press, scene coordinates
-    QPointF m_fixed;     ///< the one opposite
+    QRectF m_startBox;    ///< of the moving objects, scene coordinates
+    QSizeF m_startSize;   ///< of the resized object, item units, or of the frame
+    double m_degrees = 0; ///< by which these are turned
+    QPointF m_side;       ///< of the resized object, see HandleLayout::side()
+    QPointF m_sceneSide;  ///< the same as it is turned, for objects that are turned by quarters; else null
+    QPointF m_corner;     ///< dragged corner or side of the resized object at the press, scene coordinates
+    QPointF m_fixed;      ///< the one opposite
+    bool m_isDrag = false;
     std::optional<SnapSubject> m_subject; ///< of the last move
 };
 

@@ -4,9 +4,11 @@
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/selection.h>
 
 #include <host/geometry.h>
 #include <host/handlelayout.h>
+#include <pages/framedrag.h>
 
 #include <cmath>
 
@@ -96,11 +98,22 @@ CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPoint
     return nullptr;
 }
 
+Grip handleOfFrame(const Page &page, const QPointF &scenePos)
+{
+    const QVector<CBaseObject *> framed = framedObjects(page);
+    if (framed.isEmpty())
+        return {};
+    const HandleLayout layout(boundsOf(framed), framed.last()->getCurZoomRate());
+    const CObjAction::ACT_Def handle = layout.hit(scenePos, frameHandles());
+    return handle == CObjAction::ACT_None ? Grip() : Grip{Grip::FrameHandle, framed.last(), handle, {}};
+}
+
 QCursor resizeCursor(const Grip &grip)
 {
-    const QPointF towards = rotated(HandleLayout::side(grip.action), grip.object->rotation());
-    const double degrees = std::atan2(towards.y(), towards.x()) * 180 / 3.14159265358979323846;
-    const int eighth = int(std::lround(normalizedDegrees(degrees) / 45)) % 4;
+    const double degrees = grip.kind == Grip::FrameHandle ? 0 : grip.object->rotation();
+    const QPointF towards = rotated(HandleLayout::side(grip.action), degrees);
+    const double direction = std::atan2(towards.y(), towards.x()) * 180 / 3.14159265358979323846;
+    const int eighth = int(std::lround(normalizedDegrees(direction) / 45)) % 4;
     static constexpr Qt::CursorShape shapes[] = {Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor,
                                                  Qt::SizeBDiagCursor};
     return shapes[eighth];
@@ -116,6 +129,9 @@ Grip findGrip(const Page &page, const QPointF &scenePos)
         if (grip.object)
             return grip;
     }
+    const Grip frameGrip = handleOfFrame(page, scenePos);
+    if (frameGrip.object)
+        return frameGrip;
     if (selected.size() <= mostProbedObjects) {
         for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
             const Grip grip = nearbyControlPoint(*object, scenePos);
@@ -139,6 +155,7 @@ QCursor cursorFor(const Grip &grip, bool pressed)
     case Grip::Body:
         return Qt::SizeAllCursor;
     case Grip::Handle:
+    case Grip::FrameHandle:
         break;
     }
     if (HandleLayout::isResize(grip.action))

@@ -3,8 +3,10 @@
 #include <framework/cbaseobject.h>
 
 #include <pagehost/page.h>
+#include <pagehost/selection.h>
 
 #include <host/handlelayout.h>
+#include <pages/framedrag.h>
 
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
@@ -14,7 +16,9 @@ namespace pagehost {
 namespace {
 
 constexpr double framePenPixels = 1.5;
-constexpr double buttonPixels = 16; ///< diameter of the rotation and mirror handles
+/// Objects may paint beyond their boxes.
+constexpr double oldPlaceReach = 16; ///< pixels
+constexpr double buttonPixels = 16;  ///< diameter of the rotation and mirror handles
 
 double sideOf(CObjAction::ACT_Def handle)
 {
@@ -122,6 +126,38 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
     painter.restore();
 }
 
+/// Of the frame around several objects, in scene coordinates.
+HandleLayout layoutOfFrame(const QVector<CBaseObject *> &objects)
+{
+    return {boundsOf(objects), objects.first()->getCurZoomRate()};
+}
+
+void paintCommonFrame(const QVector<CBaseObject *> &objects, QPainter &painter, const QColor &accent,
+                      const Grip &hovered)
+{
+    const HandleLayout layout = layoutOfFrame(objects);
+    HandlePainter aids(painter, layout, accent);
+    aids.drawFrame();
+    const QVector<CObjAction::ACT_Def> handles = frameHandles();
+    for (const CObjAction::ACT_Def handle : handles)
+        aids.drawHandle(handle, hovered.kind == Grip::FrameHandle && hovered.action == handle);
+}
+
+/// Of a frame with its handles, in the coordinates of the layout.
+QRectF handleBounds(const HandleLayout &layout, const QVector<CObjAction::ACT_Def> &handles)
+{
+    QRectF bounds = layout.frame();
+    for (const CObjAction::ACT_Def handle : handles)
+        bounds |= squareAround(layout.position(handle), layout.fromPixels(sideOf(handle)));
+    return bounds;
+}
+
+/// From the coordinates of an object to the scene's, as it was.
+QTransform placeOf(const GeometrySnapshot &snapshot)
+{
+    return QTransform::fromTranslate(snapshot.pos().x(), snapshot.pos().y()).rotate(snapshot.rotation());
+}
+
 QRectF frameBoundsOf(CBaseObject &object, bool withHandles)
 {
     const HandleLayout layout = layoutOf(object);
@@ -147,7 +183,38 @@ void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool
     const bool single = selected.size() == 1;
     for (CBaseObject *object : selected)
         paintObjectOverlay(*object, painter, accent, hovered, single && !framesOnly && !object->isLocked());
+    const QVector<CBaseObject *> framed = framedObjects(page);
+    if (!framed.isEmpty() && !framesOnly)
+        paintCommonFrame(framed, painter, accent, hovered);
     painter.restore();
+}
+
+void paintOldPlace(const QVector<GeometrySnapshot> &start, QPainter &painter, bool withObjects)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const GeometrySnapshot &snapshot : start) {
+        painter.save();
+        painter.setTransform(placeOf(snapshot), true);
+        if (withObjects)
+            snapshot.object()->OnQPainterDraw(&painter);
+        QPen pen(snapshot.object()->scene()->palette().color(QPalette::Highlight), 1, Qt::DashLine);
+        pen.setCosmetic(true);
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF({0, 0}, snapshot.size()));
+        painter.restore();
+    }
+    painter.restore();
+}
+
+QRectF oldPlaceBounds(const QVector<GeometrySnapshot> &start, double pixel)
+{
+    const double reach = oldPlaceReach * pixel;
+    QRectF bounds;
+    for (const GeometrySnapshot &snapshot : start)
+        bounds |= placeOf(snapshot).mapRect(QRectF({0, 0}, snapshot.size())).adjusted(-reach, -reach, reach, reach);
+    return bounds;
 }
 
 QRectF overlayBounds(const Page &page)
@@ -156,7 +223,8 @@ QRectF overlayBounds(const Page &page)
     const QVector<CBaseObject *> selected = page.selectedObjects();
     for (const CBaseObject *object : selected)
         bounds |= object->mapRectToScene(layoutOf(*object).bounds());
-    return bounds;
+    const QVector<CBaseObject *> framed = framedObjects(page);
+    return framed.isEmpty() ? bounds : bounds.united(layoutOfFrame(framed).bounds());
 }
 
 QRectF frameBounds(const Page &page)
@@ -165,7 +233,8 @@ QRectF frameBounds(const Page &page)
     const QVector<CBaseObject *> selected = page.selectedObjects();
     for (CBaseObject *object : selected)
         bounds |= frameBoundsOf(*object, selected.size() == 1 && !object->isLocked());
-    return bounds;
+    const QVector<CBaseObject *> framed = framedObjects(page);
+    return framed.isEmpty() ? bounds : bounds.united(handleBounds(layoutOfFrame(framed), frameHandles()));
 }
 
 } // namespace pagehost

@@ -5,12 +5,14 @@
 #include <pagehost/page.h>
 #include <pagehost/pagepainter.h>
 #include <pagehost/pagetool.h>
+#include <pagehost/selection.h>
 
 #include <host/gripdrag.h>
 #include <host/handlelayout.h>
 #include <host/objectplace.h>
 #include <host/undocapture.h>
 #include <pages/eventcopy.h>
+#include <pages/framedrag.h>
 #include <pages/gripcourse.h>
 #include <pages/gripfinder.h>
 #include <pages/guidepainter.h>
@@ -73,6 +75,8 @@ QCursor PageScene::cursorAt(const QPointF &scenePos) const
 {
     if (usesTool())
         return tool()->cursor(pixel());
+    if (m_dragModifiers.testFlag(Qt::ControlModifier) && isDragging() && canDropCopy())
+        return Qt::DragCopyCursor;
     return cursorFor(isDragging() ? m_drag : gripAt(scenePos), isDragging());
 }
 
@@ -206,12 +210,34 @@ void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
     if (grip.kind == Grip::ControlPoint)
         m_reshaped = {grip.object, GeometrySnapshot::WithContent};
     m_pressPos = event->scenePos();
-    deliver(event, m_drag.offset);
-    event->accept();
-    if (isDragging())
-        m_course = std::make_unique<GripCourse>(grip, m_pressPos + grip.offset, *m_snapper);
     m_lastPos = m_pressPos;
+    m_dragModifiers = {};
+    event->accept();
+    if (grip.kind == Grip::FrameHandle)
+        m_frameDrag = std::make_unique<FrameDrag>(framedObjects(*m_page), grip.action, m_pressPos);
+    else
+        deliver(event, m_drag.offset);
+    if (isDragging())
+        m_course = std::make_unique<GripCourse>(grip, m_pressPos + grip.offset, draggedObjects(), *m_snapper);
     updateOverlay();
+}
+
+/// The selected objects as they were at the press of the drag that is going on; none for a control point's.
+QVector<GeometrySnapshot> PageScene::dragStart() const
+{
+    if (m_frameDrag)
+        return m_frameDrag->before();
+    const GripDrag *drag = isDragging() ? GripDrag::running(*m_drag.object) : nullptr;
+    return drag ? drag->before() : QVector<GeometrySnapshot>();
+}
+
+QVector<CBaseObject *> PageScene::draggedObjects() const
+{
+    QVector<CBaseObject *> objects;
+    const QVector<GeometrySnapshot> start = dragStart();
+    for (const GeometrySnapshot &snapshot : start)
+        objects.append(snapshot.object());
+    return objects;
 }
 
 /// `offset`: from the mouse to the point that the object gets, scene units.
@@ -241,8 +267,12 @@ void PageScene::lead(QGraphicsSceneMouseEvent *event)
     const bool isFinger = event->source() != Qt::MouseEventNotSynthesized;
     const DragPointer pointer{event->scenePos() + m_drag.offset, event->modifiers(), pixel(), isFinger};
     m_lastPos = event->scenePos();
+    m_dragModifiers = event->modifiers();
     const QPointF led = m_course->lead(pointer);
-    deliver(event, led - event->scenePos());
+    if (m_frameDrag)
+        m_frameDrag->moveTo(led, event->modifiers());
+    else
+        deliver(event, led - event->scenePos());
     // The object may have left the page.
     if (m_course)
         m_course->showGuides();
@@ -275,15 +305,46 @@ void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         QGraphicsScene::mouseReleaseEvent(event);
         return;
     }
-    lead(event);
+    releaseGrip(event);
+}
+
+void PageScene::releaseGrip(QGraphicsSceneMouseEvent *event)
+{
     event->accept();
+    if (event->modifiers().testFlag(Qt::ControlModifier) && canDropCopy()) {
+        dropCopy(event->modifiers());
+        return;
+    }
+    lead(event);
+    if (m_frameDrag)
+        m_frameDrag->finish();
     endDrag();
+}
+
+bool PageScene::canDropCopy() const
+{
+    const GripDrag *drag = m_drag.kind == Grip::Body ? GripDrag::running(*m_drag.object) : nullptr;
+    return drag && drag->hasMoved() && !drag->before().isEmpty();
+}
+
+/// The objects return, and whoever can copy them makes copies where they were dragged to.
+void PageScene::dropCopy(Qt::KeyboardModifiers modifiers)
+{
+    leadAgain(modifiers);
+    GripDrag *drag = GripDrag::running(*m_drag.object);
+    const GeometrySnapshot &first = drag->before().first();
+    const QPointF way = first.object()->getPos() - first.pos();
+    drag->putBack();
+    GripDrag::forget(*m_drag.object);
+    endDrag();
+    Q_EMIT copyDropped(way);
 }
 
 void PageScene::endDrag()
 {
     m_drag = {};
     m_course.reset();
+    m_frameDrag.reset();
     endSnapping();
     updateOverlay();
 }
@@ -291,7 +352,7 @@ void PageScene::endDrag()
 void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
     const Grip grip = usesTool() || event->button() != Qt::LeftButton ? Grip() : gripAt(event->scenePos());
-    if (!grip.object) {
+    if (!grip.object || grip.kind == Grip::FrameHandle) {
         event->ignore();
         return;
     }
@@ -338,14 +399,20 @@ bool PageScene::followModifiers(const QKeyEvent *event)
         return m_tool->setModifiers(event->modifiers());
     if (!isDragging())
         return false;
+    leadAgain(event->modifiers());
+    return true;
+}
+
+/// As if the mouse had moved to where it is.
+void PageScene::leadAgain(Qt::KeyboardModifiers modifiers)
+{
     QGraphicsSceneMouseEvent move(QEvent::GraphicsSceneMouseMove);
     move.setScenePos(m_lastPos);
     move.setLastScenePos(m_lastPos);
     move.setButtonDownScenePos(Qt::LeftButton, m_pressPos);
     move.setButtons(Qt::LeftButton);
-    move.setModifiers(event->modifiers());
+    move.setModifiers(modifiers);
     lead(&move);
-    return true;
 }
 
 bool PageScene::useToolKey(QKeyEvent *event)
@@ -383,7 +450,9 @@ bool PageScene::takeBack()
         return true;
     if (!isDragging())
         return false;
-    if (GripDrag *drag = GripDrag::running(*m_drag.object)) {
+    if (m_frameDrag) {
+        m_frameDrag->cancel();
+    } else if (GripDrag *drag = GripDrag::running(*m_drag.object)) {
         drag->cancel();
         GripDrag::forget(*m_drag.object);
     } else {
@@ -408,8 +477,8 @@ void PageScene::releaseAtStart()
 
 void PageScene::forget(CBaseObject *object)
 {
-    if (m_drag.object == object) {
-        GripDrag::forget(*object);
+    if (m_drag.object == object || (m_frameDrag && m_frameDrag->contains(object))) {
+        GripDrag::forget(*m_drag.object);
         m_snapper->clearGuides();
         endDrag();
     } else if (m_course) {
@@ -446,6 +515,32 @@ void PageScene::updateOverlay()
         m_overlayTimer.start(0);
 }
 
+PageScene::DragFigures PageScene::dragFigures() const
+{
+    const QVector<CBaseObject *> objects = draggedObjects();
+    DragFigures figures;
+    if (objects.isEmpty() || (m_drag.kind == Grip::Body && !canDropCopy()))
+        return figures;
+    const bool isFrame = m_frameDrag != nullptr;
+    if (m_drag.kind == Grip::Body) {
+        figures.kind = DragFigures::Place;
+        figures.place = boundsOf(objects).topLeft();
+    } else if (HandleLayout::isResize(m_drag.action)) {
+        figures.kind = DragFigures::Size;
+        figures.size = isFrame ? boundsOf(objects).size() : m_drag.object->getClientRect().size();
+    } else if (m_drag.action == CObjAction::ACT_Rotate) {
+        figures.kind = DragFigures::Turn;
+        figures.degrees = isFrame ? m_frameDrag->degrees() : m_drag.object->rotation();
+    }
+    return figures;
+}
+
+/// With its old place, where it has left that.
+bool PageScene::showsOldPlace() const
+{
+    return m_drag.kind == Grip::Body ? canDropCopy() : isDragging();
+}
+
 QRectF PageScene::frameBounds() const
 {
     return pagehost::frameBounds(*m_page);
@@ -455,7 +550,8 @@ void PageScene::repaintOverlay()
 {
     const QRectF covered = overlayBounds(*m_page)
                                .united(highlightBounds(m_highlight, m_pixel))
-                               .united(guideBounds(m_snapper->guides(), pixel()));
+                               .united(guideBounds(m_snapper->guides(), pixel()))
+                               .united(oldPlaceBounds(dragStart(), pixel()));
     const QRectF damaged = m_overlay.united(covered);
     m_overlay = covered;
     // A null rectangle would stand for the whole scene.
@@ -501,7 +597,9 @@ void PageScene::drawForeground(QPainter *painter, const QRectF &)
         paintConnectionPlaces(*m_highlight, *painter);
     if (isPresented())
         return;
-    const bool isMoving = isDragging() && m_drag.kind == Grip::Body;
+    if (showsOldPlace())
+        paintOldPlace(dragStart(), *painter, m_dragModifiers.testFlag(Qt::ControlModifier) && canDropCopy());
+    const bool isMoving = isDragging() && (m_drag.kind == Grip::Body || m_frameDrag);
     paintOverlay(*m_page, *painter, m_hover, isMoving || !isEditable());
     paintGuides(*painter, m_snapper->guides(), *m_page);
 }

@@ -11,6 +11,8 @@
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QToolTip>
+#include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
 using board::Command;
@@ -22,6 +24,8 @@ class TestSnapActions : public QObject
 private Q_SLOTS:
     void drawnShapesCatchWhileSnappingIsOn();
     void movedShapeCatchesAtAShape();
+    void controlDragsACopyInOneStep();
+    void bubbleTellsPlaceSizeAndAngle();
     void spaceMovesTheStartInsteadOfTheView();
     void everyPageSnapsAlike();
     void gridIsShownOnEveryPage();
@@ -48,6 +52,39 @@ void TestSnapActions::movedShapeCatchesAtAShape()
     QCOMPARE(board.placeOf(moved), QRectF(500, 504, 100, 70));
     board.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(board.placeOf(moved), QRectF(150, 500, 100, 70));
+}
+
+void TestSnapActions::controlDragsACopyInOneStep()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(rectangle, {500, 300}, {700, 420});
+    board.drag({600, 400}, {650, 500}, Qt::ControlModifier);
+    QCOMPARE(board.page().objectCount(), 2);
+    QCOMPARE(board.placeOf(shape), QRectF(500, 300, 200, 120));
+    CBaseObject *copy = board.page().objects().last();
+    QCOMPARE(board.placeOf(copy), QRectF(550, 400, 200, 120));
+    QCOMPARE(board.selection(), QVector<CBaseObject *>{copy});
+    QCOMPARE(board.history().count(), 2);
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(board.only(), shape);
+    QCOMPARE(board.placeOf(shape), QRectF(500, 300, 200, 120));
+}
+
+void TestSnapActions::bubbleTellsPlaceSizeAndAngle()
+{
+    BoardDriver board;
+    board.draw(rectangle, {500, 300}, {700, 420});
+    board.hold({600, 400}, {621, 433});
+    QCOMPARE(QToolTip::text(), QStringLiteral("521, 333"));
+    board.release({621, 433});
+    const QPointF corner = board.handle(CObjAction::ACT_ResizeBottomRight);
+    board.hold(corner, corner + QPointF(10, 30));
+    QCOMPARE(QToolTip::text(), QStringLiteral("210 × 150"));
+    board.key(Qt::Key_Escape);
+    board.release(corner);
+    board.hold(board.handle(CObjAction::ACT_Rotate), {621 + 150, 393});
+    QCOMPARE(QToolTip::text(), QStringLiteral("90°"));
+    board.release({621 + 150, 393});
 }
 
 void TestSnapActions::spaceMovesTheStartInsteadOfTheView()

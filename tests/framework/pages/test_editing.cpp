@@ -23,6 +23,10 @@ private Q_SLOTS:
     void dragOfASelectionMovesAllInOneStep();
     void dragOfAnUnselectedObjectMovesOnlyThatOne();
     void tremblingClickMovesNothing();
+    void selectedObjectIsDraggedWithShiftFromThePressOn();
+    void controlDropsACopyAndLeavesTheObject();
+    void controlLetGoBeforeTheDropMoves();
+    void oldPlaceIsSeenDashedWhileDragging();
     void pressPassesThroughALockedObject();
     void selectedLockedObjectIsNotMoved();
     void lockedObjectStaysWhenTheSelectionIsMoved();
@@ -167,6 +171,73 @@ void TestEditing::tremblingClickMovesNothing()
     editor.release(QPointF(102, 80));
     QCOMPARE(object->getPos(), QPointF(50, 50));
     QCOMPARE(undoStack()->count(), 0);
+}
+
+void TestEditing::selectedObjectIsDraggedWithShiftFromThePressOn()
+{
+    Editor editor;
+    auto *object = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    object->setSelected(true);
+    editor.drag({100, 80}, {200, 110}, Qt::ShiftModifier);
+    QVERIFY(object->isSelected());
+    QCOMPARE(object->getPos(), QPointF(150, 50));
+}
+
+void TestEditing::controlDropsACopyAndLeavesTheObject()
+{
+    Editor editor;
+    auto *object = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    object->setSelected(true);
+    QVector<QPointF> drops;
+    connect(editor.page->scene(), &pagehost::PageScene::copyDropped, this,
+            [&drops](const QPointF &way) { drops.append(way); });
+    editor.drag({100, 80}, {230, 180}, Qt::ControlModifier);
+    QCOMPARE(drops, QVector<QPointF>{QPointF(130, 100)});
+    QCOMPARE(object->getPos(), QPointF(50, 50));
+    // The return is recorded, so that a lesson shows the object at its place.
+    QPointF recorded;
+    QDataStream record(object->records.last().second);
+    record >> recorded;
+    QCOMPARE(recorded, QPointF(50, 50));
+    QCOMPARE(undoStack()->count(), 0);
+    QVERIFY(!editor.page->scene()->isDragging());
+}
+
+void TestEditing::controlLetGoBeforeTheDropMoves()
+{
+    Editor editor;
+    auto *object = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    QVector<QPointF> drops;
+    connect(editor.page->scene(), &pagehost::PageScene::copyDropped, this,
+            [&drops](const QPointF &way) { drops.append(way); });
+    editor.press({100, 80});
+    editor.moveTo({200, 180}, Qt::ControlModifier);
+    QCOMPARE(int(editor.view.viewport()->cursor().shape()), int(Qt::DragCopyCursor));
+    QTest::keyRelease(editor.view.viewport(), Qt::Key_Control, Qt::ControlModifier);
+    editor.release({200, 180});
+    QVERIFY(drops.isEmpty());
+    QCOMPARE(object->getPos(), QPointF(150, 150));
+    QCOMPARE(undoStack()->count(), 1);
+}
+
+void TestEditing::oldPlaceIsSeenDashedWhileDragging()
+{
+    Editor editor;
+    editor.add(QSizeF(100, 60), QPointF(60, 60));
+    const auto colorsOfUpperSide = [&editor] {
+        const QImage picture = editor.view.viewport()->grab().toImage();
+        QSet<QRgb> colors;
+        for (int x = 70; x < 150; ++x)
+            colors.insert(picture.pixel(editor.at(QPointF(x, 60))));
+        return colors;
+    };
+    editor.press({100, 80});
+    editor.moveTo({500, 480});
+    // Dashes and the page between them.
+    QVERIFY(colorsOfUpperSide().size() > 1);
+    editor.release({500, 480});
+    QCoreApplication::processEvents();
+    QCOMPARE(colorsOfUpperSide(), QSet<QRgb>{QColor(Qt::white).rgb()});
 }
 
 void TestEditing::pressPassesThroughALockedObject()

@@ -19,6 +19,7 @@ class CBaseObject;
 
 namespace pagehost {
 
+class FrameDrag;
 class GripCourse;
 class Page;
 class PageTool;
@@ -30,10 +31,12 @@ struct ToolPointer;
 struct Grip
 {
     enum Kind {
-        Nothing,     ///< empty page
-        Body,        ///< an object that a press would select or move
-        Handle,      ///< a handle of the selected object, see `action`
-        ControlPoint ///< an object's own control point, which the object drags itself
+        Nothing,      ///< empty page
+        Body,         ///< an object that a press would select or move
+        Handle,       ///< a handle of the selected object, see `action`
+        ControlPoint, ///< an object's own control point, which the object drags itself
+        FrameHandle   ///< a handle of the frame around several selected objects, see `action`; `object` is one of
+                      ///< them
     };
     Kind kind = Nothing;
     CBaseObject *object = nullptr;
@@ -99,6 +102,16 @@ public:
     bool isDragging() const;
     /// An object is being dragged or drawn.
     bool isBusy() const;
+    /// Figures of the drag of a grip, for people to read.
+    struct DragFigures
+    {
+        enum Kind { None, Place, Size, Turn };
+        Kind kind = None;
+        QPointF place;      ///< top-left of what is moved, scene coordinates
+        QSizeF size;        ///< of the resized object, item units, or of the frame
+        double degrees = 0; ///< of the turned object, or by which several have been turned
+    };
+    DragFigures dragFigures() const;
     /// Cancels a running drag without a trace: objects and control points return to where they were, a tool takes
     /// back its drawing, the selection is the one before the press; no undo step remains, what could be redone
     /// still can be. False when none runs. The Esc key does the same.
@@ -128,6 +141,8 @@ Q_SIGNALS:
     void gestureStarted();
     /// All is as it was at gestureStarted().
     void gestureCancelled();
+    /// Selected objects were dragged by this way with Ctrl: copies are to be made there; they themselves are back.
+    void copyDropped(const QPointF &way);
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
@@ -147,6 +162,13 @@ private:
     void deliver(QGraphicsSceneMouseEvent *event, const QPointF &offset) const;
     void lead(QGraphicsSceneMouseEvent *event);
     void endDrag();
+    void releaseGrip(QGraphicsSceneMouseEvent *event);
+    void leadAgain(Qt::KeyboardModifiers modifiers);
+    bool canDropCopy() const;
+    void dropCopy(Qt::KeyboardModifiers modifiers);
+    bool showsOldPlace() const;
+    QVector<GeometrySnapshot> dragStart() const;
+    QVector<CBaseObject *> draggedObjects() const;
     bool followKey(const QKeyEvent *event, bool isPressed);
     bool followModifiers(const QKeyEvent *event);
     bool isPresented() const;
@@ -169,7 +191,9 @@ private:
     QPointF m_pressPos; ///< scene coordinates
     QPointF m_lastPos;  ///< of the mouse in the drag that is going on, scene coordinates
     std::unique_ptr<Snapper> m_snapper;
-    std::unique_ptr<GripCourse> m_course; ///< of the drag that is going on
+    std::unique_ptr<GripCourse> m_course;   ///< of the drag that is going on
+    std::unique_ptr<FrameDrag> m_frameDrag; ///< of a FrameHandle
+    Qt::KeyboardModifiers m_dragModifiers;
     QTimer m_guideTimer;
     QVector<QPointer<CBaseObject>> m_selectedBefore; ///< before the last gesture
     GeometrySnapshot m_reshaped;                     ///< the object of a dragged control point, before the drag

@@ -14,6 +14,9 @@ namespace pagehost {
 class ObjectRegistry;
 class Page;
 
+/// Of copies from their originals, scene units.
+constexpr QPointF duplicateOffset(20, 20);
+
 /// Moves the selected objects by `delta` (scene units).
 FRAMEWORK_EXPORT bool nudgeSelection(Page *page, const QPointF &delta);
 /// Deletes the selected objects; locked ones stay.
@@ -21,7 +24,7 @@ FRAMEWORK_EXPORT bool deleteSelection(Page *page);
 /// Copies the selected objects by saving each and loading it into a new object of its kind, `offset` (scene units)
 /// away, on top and selected. Objects of unknown kinds are skipped. Returns the copies.
 FRAMEWORK_EXPORT QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry,
-                                                           const QPointF &offset = {20, 20});
+                                                           const QPointF &offset = duplicateOffset);
 FRAMEWORK_EXPORT void selectAll(Page *page);
 /// Bounding rectangle of rotated objects, scene coordinates; null without objects.
 FRAMEWORK_EXPORT QRectF boundsOf(const QVector<CBaseObject *> &objects);
