@@ -5,7 +5,7 @@ _gliololok_board() {
     COMPREPLY=()
     case $before in
     --plugins | --shapes | --export) mapfile -t COMPREPLY < <(compgen -d -- "$word") && return ;;
-    --format) mapfile -t COMPREPLY < <(compgen -W "png svg" -- "$word") && return ;;
+    --format) mapfile -t COMPREPLY < <(compgen -W "png svg pdf" -- "$word") && return ;;
     --language) mapfile -t COMPREPLY < <(compgen -W "de en" -- "$word") && return ;;
     --scale | --thumbnail-size) return ;;
     esac

@@ -100,7 +100,13 @@ COMPONENTS = [
         prefixes=("checklist/", "declared/", "shapekit/", "svgobj/", "framework/", "svgbase/", "pagehost/"),
         own=("tools",),
     ),
-    Component(["board"], prefixes=("framework/", "pagehost/"), own=("board",), qt=frozenset({"QtPrintSupport"})),
+    Component(
+        ["board"],
+        prefixes=("framework/", "pagehost/"),
+        own=("board",),
+        headers=("svgbase/qzesvgtinydocument.h",),
+        qt=frozenset({"QtPrintSupport"}),
+    ),
 ]
 
 
@@ -151,8 +157,9 @@ ROOMS = {
         "panels/forms": "look core panels panels/editors panels/fields",
         "panels/settings": "core panels/editors panels/forms",
         "panels/properties": "core panels/editors panels/forms panels/settings",
-        "window": "look output page core commands presenting clipboard documents lessons tools panels panels/settings "
-        "panels/properties",
+        "exporting": "look output core documents panels/fields",
+        "window": "look output page core commands presenting clipboard documents exporting lessons tools panels "
+        "panels/settings panels/properties",
         "application": "look output objects page core presenting documents lessons panels panels/settings "
         "panels/properties window",
         "": "application",

@@ -8,6 +8,7 @@
 #include <QtCore/QFileInfo>
 
 #include <cmath>
+#include <optional>
 
 namespace board {
 
@@ -24,6 +25,14 @@ QString languageChoice()
     return boardLanguages().join(QStringLiteral(" or "));
 }
 
+std::optional<PageFormat> formatOf(const QString &name)
+{
+    for (const PageFormat format : {PageFormat::Png, PageFormat::Svg, PageFormat::Pdf})
+        if (name == suffixOf(format))
+            return format;
+    return {};
+}
+
 struct Parser
 {
     QCommandLineParser parser;
@@ -35,11 +44,11 @@ struct Parser
                               "folder"};
     QCommandLineOption exportPages{"export",
                                    "Write the pages of the file, else of --demo, as pictures into <folder>, print "
-                                   "their paths and stop. Replaces page-1.png, page-2.png ... that are there. "
-                                   "Needs no display.",
+                                   "their paths and stop. Replaces page-1.png, page-2.png ... that are there, "
+                                   "with --format pdf pages.pdf. Needs no display.",
                                    "folder"};
-    QCommandLineOption format{"format", "Format of exported pages: png or svg (png without this option).", "format",
-                              "png"};
+    QCommandLineOption format{"format", "Format of exported pages: png, svg or pdf (png without this option).",
+                              "format", "png"};
     QCommandLineOption scale{"scale", "Pixels per page unit of exported pages, 0.05 to 16 (1 without this option).",
                              "factor", "1"};
     QCommandLineOption thumbnail{
@@ -112,8 +121,8 @@ QString problemOf(const Parser &p)
     if (p.parser.isSet(p.thumbnail) && p.parser.positionalArguments().isEmpty())
         return QStringLiteral("--thumbnail takes the file to picture as well.");
     const QString format = p.parser.value(p.format);
-    if (format != QLatin1String("png") && format != QLatin1String("svg"))
-        return QStringLiteral("--format takes png or svg, not \"%1\".").arg(format);
+    if (!formatOf(format))
+        return QStringLiteral("--format takes png, svg or pdf, not \"%1\".").arg(format);
     if (!screenshotStates().contains(p.parser.value(p.state)))
         return QStringLiteral("--screenshot-state takes one of: %1.").arg(screenshotStates().join(", "));
     return {};
@@ -138,7 +147,7 @@ Options optionsOf(const Parser &p)
     // Its kind is looked for as any other.
     if (isShapeFile(options.file))
         options.shapeFolders.prepend(QFileInfo(options.file).absolutePath());
-    options.exportsSvg = p.parser.value(p.format) == QLatin1String("svg");
+    options.format = *formatOf(p.parser.value(p.format));
     options.exportFolder = p.parser.value(p.exportPages);
     options.scale = p.parser.value(p.scale).toDouble();
     options.thumbnailFile = p.parser.value(p.thumbnail);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "output/pageexport.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -18,8 +20,8 @@ struct Options
     QStringList pluginFolders; ///< additional ones, in the order given
     QString file;              ///< document to open; empty for none
     QString exportFolder;
-    bool exportsSvg = false; ///< drawings in place of pictures
-    double scale = 1;        ///< pixels per scene unit of exported pages
+    PageFormat format = PageFormat::Png;
+    double scale = 1; ///< pixels per scene unit of exported pages
     QString thumbnailFile;
     int thumbnailSize = 256; ///< pixels of the longer side
     QString screenshotFile;

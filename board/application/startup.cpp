@@ -119,8 +119,7 @@ int exportAll(Workspace &workspace, const Options &options)
         return 1;
     QTextStream out(stdout);
     QTextStream errors(stderr);
-    const PageFormat format = options.exportsSvg ? PageFormat::Svg : PageFormat::Png;
-    const ExportFormat look{format, options.scale};
+    const ExportFormat look{options.format, options.scale};
     const ExportResult result =
         options.play ? exportLessons(workspace, options.exportFolder, look)
                      : exportPages(workspace.document(), workspace.registry(), options.exportFolder, look);

@@ -29,16 +29,8 @@ MenuEntry alignMenu()
 
 MenuPlan filePlan()
 {
-    return {Command::NewBoard,
-            Command::OpenBoard,
-            separator(),
-            Command::SaveBoard,
-            Command::SaveBoardAs,
-            separator(),
-            Command::ExportPictures,
-            Command::ExportDrawings,
-            separator(),
-            Command::Quit};
+    return {Command::NewBoard, Command::OpenBoard, separator(),    Command::SaveBoard, Command::SaveBoardAs,
+            separator(),       Command::Export,    Command::Print, separator(),        Command::Quit};
 }
 
 MenuPlan editPlan()

@@ -163,8 +163,6 @@ void Actions::makePageActions()
 
 void Actions::makeProgramActions()
 {
-    exportPages = m_commands->perform(Command::ExportPictures);
-    exportSvg = m_commands->perform(Command::ExportDrawings);
     quit = m_commands->perform(Command::Quit);
     about = m_commands->perform(Command::About);
 }

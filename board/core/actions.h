@@ -35,7 +35,7 @@ public:
     QAction *mirrorHorizontally, *mirrorVertically, *rotateLeft, *rotateRight;
     QAction *zoomIn, *zoomOut, *actualSize, *fitPage, *playAnimation;
     QAction *addPage, *removePage, *previousPage, *nextPage;
-    QAction *exportPages, *exportSvg, *darkColors, *quit, *about;
+    QAction *darkColors, *quit, *about;
 
 Q_SIGNALS:
     /// Undo or redo comes next: what is only shown must go first.

@@ -17,8 +17,8 @@ constexpr CommandFacts commands[] = {
     {Command::OpenBoard, Group::File, "open", "IDS_BOARD_OPEN", "Ctrl+O", Icon::Open, Keys::Open},
     {Command::SaveBoard, Group::File, "save", "IDS_BOARD_SAVE", "Ctrl+S", Icon::Save, Keys::Save},
     {Command::SaveBoardAs, Group::File, "saveAs", "IDS_BOARD_SAVE_AS", "Ctrl+Shift+S", {}, Keys::SaveAs},
-    {Command::ExportPictures, Group::File, "exportPictures", "IDS_BOARD_EXPORT", "Ctrl+E"},
-    {Command::ExportDrawings, Group::File, "exportDrawings", "IDS_BOARD_EXPORT_SVG", ""},
+    {Command::Export, Group::File, "export", "IDS_BOARD_EXPORT", "Ctrl+E"},
+    {Command::Print, Group::File, "print", "IDS_BOARD_PRINT", "Ctrl+P", {}, Keys::Print},
     {Command::Quit, Group::File, "quit", "IDS_BOARD_QUIT", "Ctrl+Q", {}, Keys::Quit},
 
     {Command::Undo, Group::Edit, "undo", "IDS_BOARD_UNDO", "Ctrl+Z", Icon::Undo, Keys::Undo},

@@ -15,8 +15,8 @@ enum class Command {
     OpenBoard,
     SaveBoard,
     SaveBoardAs,
-    ExportPictures,
-    ExportDrawings,
+    Export,
+    Print,
     Quit,
 
     Undo,

@@ -60,10 +60,6 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_REMOVE_PAGE", QT_TRANSLATE_NOOP("board", "Remove page")},
     {"IDS_BOARD_PREVIOUS_PAGE", QT_TRANSLATE_NOOP("board", "Previous page")},
     {"IDS_BOARD_NEXT_PAGE", QT_TRANSLATE_NOOP("board", "Next page")},
-    {"IDS_BOARD_EXPORT", QT_TRANSLATE_NOOP("board", "Export pages as pictures…")},
-    {"IDS_BOARD_EXPORT_SVG", QT_TRANSLATE_NOOP("board", "Export pages as SVG drawings…")},
-    {"IDS_BOARD_NOT_EXPORTED", QT_TRANSLATE_NOOP("board", "Not all pages could be exported.")},
-    {"IDS_BOARD_EXPORTED", QT_TRANSLATE_NOOP("board", "%1 pages written to %2")},
     {"IDS_BOARD_QUIT", QT_TRANSLATE_NOOP("board", "Quit")},
     {"IDS_BOARD_ABOUT", QT_TRANSLATE_NOOP("board", "About this board")},
     {"IDS_BOARD_ABOUT_TEXT", QT_TRANSLATE_NOOP("board", "A board to draw and teach on, version %1.")},
@@ -133,6 +129,7 @@ QVector<TextEntry> textEntries()
 {
     QVector<TextEntry> all(std::begin(entries), std::end(entries));
     all += documentTexts();
+    all += outputTexts();
     all += clipboardTexts();
     all += commandTexts();
     all += formTexts();

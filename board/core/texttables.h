@@ -15,6 +15,8 @@ QVector<TextEntry> clipboardTexts();
 /// Names of commands that have no text elsewhere.
 QVector<TextEntry> commandTexts();
 QVector<TextEntry> documentTexts();
+/// Texts of exporting and printing.
+QVector<TextEntry> outputTexts();
 /// Texts about recording and playing lessons.
 QVector<TextEntry> lessonTexts();
 /// Texts of the bars and the dock.

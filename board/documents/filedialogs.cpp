@@ -28,6 +28,18 @@ QFileDialog *makeDialog(QWidget *window, const QString &title)
     return dialog;
 }
 
+/// For a file to write. Names are completed and files that exist are asked about by us: the dialog itself would ask
+/// before it has added a suffix to a name with a dot, and block.
+QFileDialog *makeSaveDialog(QWidget *window, const QString &title, const QString &suggestion)
+{
+    QFileDialog *dialog = makeDialog(window, title);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDirectory(QFileInfo(suggestion).absolutePath());
+    return dialog;
+}
+
 /// The file that the name field names. The dialog itself prefers a file that is selected in its list, which lags
 /// behind what is typed.
 QString typedFile(const QFileDialog &dialog, const QString &selected)
@@ -63,11 +75,7 @@ void FileDialogs::askForFileToOpen(const QString &folder, const TakeFile &take) 
 void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &take) const
 {
     QString title = m_workspace->text("IDS_BOARD_SAVE_AS");
-    QFileDialog *dialog = makeDialog(m_window, title.remove(QChar(0x2026)));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    // The dialog itself would ask before it has added a suffix to a name with a dot, and block.
-    dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    dialog->setFileMode(QFileDialog::AnyFile);
+    QFileDialog *dialog = makeSaveDialog(m_window, title.remove(QChar(0x2026)), suggestion);
     const QString binary =
         filterOf(m_workspace->text("IDS_BOARD_BINARY_BOARDS"), {QStringLiteral("*.") + binarySuffix});
     const QString json = filterOf(m_workspace->text("IDS_BOARD_JSON_BOARDS"), {QStringLiteral("*.") + jsonSuffix});
@@ -78,7 +86,6 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
     const bool isJson = suggestion.endsWith(jsonSuffix, Qt::CaseInsensitive);
     dialog->selectNameFilter(isJson ? json : binary);
     useFilter(isJson ? json : binary);
-    dialog->setDirectory(QFileInfo(suggestion).absolutePath());
     dialog->selectFile(suggestion);
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, useFilter);
     QObject::connect(dialog, &QFileDialog::fileSelected, m_window, [*this, dialog, take](const QString &file) {
@@ -87,13 +94,32 @@ void FileDialogs::askForFileToSave(const QString &suggestion, const TakeFile &ta
     dialog->open();
 }
 
+void FileDialogs::askForFileToWrite(const QString &title, const QString &suggestion, const TakeFile &take) const
+{
+    QFileDialog *dialog = makeSaveDialog(m_window, title, suggestion);
+    const QString suffix = QFileInfo(suggestion).suffix();
+    dialog->setNameFilter(filterOf(suffix.toUpper(), {QStringLiteral("*.") + suffix}));
+    dialog->selectFile(suggestion);
+    QObject::connect(
+        dialog, &QFileDialog::fileSelected, m_window, [*this, dialog, suffix, take](const QString &file) {
+            const QString typed = typedFile(*dialog, file);
+            const bool isComplete = QFileInfo(typed).suffix().compare(suffix, Qt::CaseInsensitive) == 0;
+            takeUnlessPresent(isComplete ? typed : typed + QLatin1Char('.') + suffix, take);
+        });
+    dialog->open();
+}
+
 /// The dialog adds its suffix only to names without a dot.
 void FileDialogs::takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const
 {
-    const QString complete = !formatSuffixOf(file).isEmpty() ? file : file + QLatin1Char('.') + suffix;
-    if (!QFileInfo::exists(complete))
-        return take(complete);
-    askToReplace({complete}, [take, complete] { take(complete); });
+    takeUnlessPresent(!formatSuffixOf(file).isEmpty() ? file : file + QLatin1Char('.') + suffix, take);
+}
+
+void FileDialogs::takeUnlessPresent(const QString &file, const TakeFile &take) const
+{
+    if (!QFileInfo::exists(file))
+        return take(file);
+    askToReplace({file}, [take, file] { take(file); });
 }
 
 void FileDialogs::askForFolder(const QString &title, const QString &folder, const TakeFile &take) const

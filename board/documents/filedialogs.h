@@ -28,6 +28,8 @@ public:
     /// For a file to write, beginning with `suggestion`. The name that is taken ends in one of the two formats'
     /// suffixes, and the user has agreed to replace a file that exists.
     void askForFileToSave(const QString &suggestion, const TakeFile &take) const;
+    /// The same with the suffix of `suggestion`, which is not that of a board.
+    void askForFileToWrite(const QString &title, const QString &suggestion, const TakeFile &take) const;
     /// For a folder to write to, beginning with `folder`.
     void askForFolder(const QString &title, const QString &folder, const TakeFile &take) const;
     /// Whether these files, at least one of them, may be replaced.
@@ -43,6 +45,7 @@ public:
 
 private:
     void takeWithSuffix(const QString &file, const QString &suffix, const TakeFile &take) const;
+    void takeUnlessPresent(const QString &file, const TakeFile &take) const;
 
     const Workspace *m_workspace;
     QWidget *m_window;

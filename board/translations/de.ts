@@ -584,22 +584,6 @@
         <translation>Nächste Seite</translation>
     </message>
     <message>
-        <source>Export pages as pictures…</source>
-        <translation>Seiten als Bilder ausgeben…</translation>
-    </message>
-    <message>
-        <source>Export pages as SVG drawings…</source>
-        <translation>Seiten als SVG-Zeichnungen ausgeben…</translation>
-    </message>
-    <message>
-        <source>Not all pages could be exported.</source>
-        <translation>Nicht alle Seiten konnten ausgegeben werden.</translation>
-    </message>
-    <message>
-        <source>%1 pages written to %2</source>
-        <translation>%1 Seiten nach %2 geschrieben</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>Beenden</translation>
     </message>
@@ -1315,6 +1299,98 @@
     <message>
         <source>My shapes</source>
         <translation>Meine Formen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Ausgeben…</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>Diese Seite</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Selected objects</source>
+        <translation>Ausgewählte Objekte</translation>
+    </message>
+    <message>
+        <source>As</source>
+        <translation>Als</translation>
+    </message>
+    <message>
+        <source>Picture (PNG)</source>
+        <translation>Bild (PNG)</translation>
+    </message>
+    <message>
+        <source>Drawing (SVG)</source>
+        <translation>Zeichnung (SVG)</translation>
+    </message>
+    <message>
+        <source>Document (PDF)</source>
+        <translation>Dokument (PDF)</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Sharp at any size</source>
+        <translation>In jeder Größe scharf</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Ausgeben</translation>
+    </message>
+    <message>
+        <source>Writing the pages…</source>
+        <translation>Die Seiten werden geschrieben…</translation>
+    </message>
+    <message>
+        <source>%1 files written to %2</source>
+        <translation>%1 Dateien nach %2 geschrieben</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>Not everything could be exported.</source>
+        <translation>Nicht alles konnte ausgegeben werden.</translation>
+    </message>
+    <message>
+        <source>The export was cancelled.</source>
+        <translation>Die Ausgabe wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Seiten je Blatt</translation>
+    </message>
+    <message>
+        <source>Printing the pages…</source>
+        <translation>Die Seiten werden gedruckt…</translation>
+    </message>
+    <message>
+        <source>The pages could not be printed.</source>
+        <translation>Die Seiten konnten nicht gedruckt werden.</translation>
     </message>
 </context>
 </TS>

@@ -23,6 +23,8 @@
 #include "documents/droppeddocument.h"
 #include "documents/recovery.h"
 #include "documents/shapenotices.h"
+#include "exporting/exporter.h"
+#include "exporting/printing.h"
 #include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
@@ -44,7 +46,6 @@
 #include "window/fieldundo.h"
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
-#include "window/pageexporting.h"
 #include "window/shapefolder.h"
 #include "window/shapetool.h"
 #include "window/shelf.h"
@@ -472,9 +473,10 @@ void MainWindow::connectParts()
         return !droppedDocument(data).isEmpty() || !droppedPdf(data).isEmpty() || m_clipboard->accepts(data);
     });
     connect(m_view, &PageView::dataDropped, this, &MainWindow::takeDrop);
-    auto *exporting = new PageExporting(m_workspace, m_documents, m_notices, this);
-    connect(m_actions->exportPages, &QAction::triggered, this, [=] { exporting->ask(PageFormat::Png); });
-    connect(m_actions->exportSvg, &QAction::triggered, this, [=] { exporting->ask(PageFormat::Svg); });
+    auto *exporter = new Exporter(m_workspace, m_documents, m_notices, this);
+    m_commands->perform(Command::Export, exporter, [=] { exporter->ask(); });
+    auto *printing = new Printing(m_workspace, m_documents, m_notices, this);
+    m_commands->perform(Command::Print, printing, [=] { printing->ask(); });
     connect(m_actions->about, &QAction::triggered, this, &MainWindow::showAbout);
     m_commands->perform(Command::AllProperties, this, [this] { raisePanel(properties()); });
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);

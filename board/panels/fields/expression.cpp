@@ -74,28 +74,26 @@ private:
     double sum()
     {
         double value = product();
-        while (!m_failed) {
+        while (!m_failed)
             if (take('+'))
                 value += product();
             else if (take('-'))
                 value -= product();
             else
                 break;
-        }
         return value;
     }
 
     double product()
     {
         double value = factor();
-        while (!m_failed) {
+        while (!m_failed)
             if (take('*'))
                 value *= factor();
             else if (take('/'))
                 value = divided(value, factor());
             else
                 break;
-        }
         return value;
     }
 

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void exportWritesThePages();
     void exportWritesTheBoardThatIsGiven();
     void exportWritesDrawings();
+    void exportWritesOnePdf();
     void thumbnailShowsTheFirstPage();
     void thumbnailOfAThinPageHasAPixelAcross();
     void shapeFileIsTriedOnABlankPage();
@@ -225,6 +226,24 @@ void TestProgram::exportWritesDrawings()
     const double ofAllKinds = (differences.at(0) + differences.at(1)) / 2;
     QVERIFY2(ofAllKinds < mostDifference, qPrintable(QString::number(ofAllKinds)));
     QVERIFY2(differences.at(2) < mostDifference, qPrintable(QString::number(differences.at(2))));
+}
+
+void TestProgram::exportWritesOnePdf()
+{
+    QTemporaryDir folder;
+    QCOMPARE(run({"--export", folder.path()}).code, 0);
+    const Outcome outcome = run({"--export", folder.path(), "--format", "pdf"});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out, folder.filePath("pages.pdf") + "\n");
+    // A pixel per scene unit, drawn by another program.
+    QCOMPARE(QProcess::execute("pdftocairo", {"-png", "-r", "96", outcome.out.trimmed(), folder.filePath("drawn")}),
+             0);
+    for (const int page : {1, 2, 3}) {
+        const QImage drawn(folder.filePath(QString("drawn-%1.png").arg(page)));
+        QCOMPARE(drawn.size(), QSize(1280, 720));
+        const double difference = meanDifference(QImage(folder.filePath(QString("page-%1.png").arg(page))), drawn);
+        QVERIFY2(difference < 2, qPrintable(QString("%1: %2").arg(page).arg(difference)));
+    }
 }
 
 /// A board with a page of one colour and another page.

@@ -1,14 +1,10 @@
 // SVG drawings of objects and pages, put together from what the objects give.
 
+#include "drawnpage.h"
+
 #include <output/pageexport.h>
 #include <output/svgdrawing.h>
 #include <output/svgfragment.h>
-
-#include <pagehost/document.h>
-#include <pagehost/objectregistry.h>
-#include <pagehost/page.h>
-
-#include <framework/cbaseobject.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QXmlStreamReader>
@@ -25,11 +21,6 @@ static QByteArray fragment(const QByteArray &source, bool *written = nullptr)
     return bytes;
 }
 
-static QByteArray svg(const QByteArray &content)
-{
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 2 1\">" + content + "</svg>";
-}
-
 /// The contents of the root of such a document's fragment.
 static QByteArray inner(const QByteArray &content)
 {
@@ -38,52 +29,14 @@ static QByteArray inner(const QByteArray &content)
     return whole.mid(start, whole.lastIndexOf("</svg>") - start);
 }
 
-class DrawnObject : public CBaseObject
-{
-public:
-    DrawnObject()
-        : CBaseObject(1, true, nullptr, nullptr)
-    {
-        CPSRootObject::setSize(QSizeF(40, 30), false, false);
-    }
-    QString kindName() const override { return QStringLiteral("IDS_DRAWN"); }
-};
+namespace {
 
-/// Gives every object as the SVG document `look`.
-class DrawingPlugin : public pagehost::ObjectPlugin
+struct SvgPage : DrawnPage
 {
-public:
-    QVector<pagehost::ObjectKind> objectKinds() const override { return {{"drawn", "IDS_DRAWN", {}}}; }
-    CBaseObject *createObject(const QString &) const override { return new DrawnObject; }
-    pagehost::TextTable texts(const QString &) const override { return {{"IDS_DRAWN", "Drawn"}}; }
-    QByteArray dataOf(CBaseObject *, const QString &type) const override
-    {
-        return type == "image/svg+xml" ? look : QByteArray();
-    }
-    QByteArray look = svg("<g id=\"a\"/>");
-};
-
-struct DrawnPage
-{
-    DrawnPage()
-        : page(document.appendPage(QSizeF(200, 100)))
-    {
-        registry.addPlugin(&plugin, "test");
-    }
-    CBaseObject *add(const QPointF &pos)
-    {
-        CBaseObject *object = registry.createObject("drawn");
-        page->addObject(object);
-        object->CPSRootObject::setPos(pos, false);
-        return object;
-    }
     QByteArray drawing() { return board::svgOfPage(page, registry); }
-
-    DrawingPlugin plugin;
-    pagehost::ObjectRegistry registry;
-    pagehost::Document document;
-    pagehost::Page *page;
 };
+
+} // namespace
 
 class TestSvgDrawing : public QObject
 {
@@ -186,7 +139,7 @@ void TestSvgDrawing::whatIsNoSvgIsRefused()
 
 void TestSvgDrawing::pageHasItsSizeAndBackground()
 {
-    DrawnPage t;
+    SvgPage t;
     CPageBgProp background(nullptr);
     background.setFillEnable(true);
     background.setFillColor(QColor(255, 0, 16));
@@ -199,7 +152,7 @@ void TestSvgDrawing::pageHasItsSizeAndBackground()
 
 void TestSvgDrawing::gradientBackgroundIsAPicture()
 {
-    DrawnPage t;
+    SvgPage t;
     CPageBgProp background(nullptr);
     background.setFillEnable(true);
     background.setFillType(CPageBgProp::GradientFill);
@@ -211,7 +164,7 @@ void TestSvgDrawing::gradientBackgroundIsAPicture()
 
 void TestSvgDrawing::objectsStandAtTheirPlaces()
 {
-    DrawnPage t;
+    SvgPage t;
     t.add({10, 20});
     const QByteArray drawing = t.drawing();
     QVERIFY2(drawing.contains("<g transform=\"matrix(1 0 0 1 10 20)\"><svg"), drawing.constData());
@@ -220,7 +173,7 @@ void TestSvgDrawing::objectsStandAtTheirPlaces()
 
 void TestSvgDrawing::mirroredAndTurnedObjects()
 {
-    DrawnPage t;
+    SvgPage t;
     CBaseObject *mirrored = t.add({10, 20});
     // Left to right about the middle of its 40 units: x becomes 10 + 40 - x.
     mirrored->setMirror(true, false, false);
@@ -237,7 +190,7 @@ void TestSvgDrawing::mirroredAndTurnedObjects()
 
 void TestSvgDrawing::sameIdsOfTwoObjectsDontMeet()
 {
-    DrawnPage t;
+    SvgPage t;
     t.add({10, 20});
     t.add({60, 20});
     const QByteArray drawing = t.drawing();
@@ -251,7 +204,7 @@ void TestSvgDrawing::sameIdsOfTwoObjectsDontMeet()
 
 void TestSvgDrawing::hiddenObjectsAreLeftOut()
 {
-    DrawnPage t;
+    SvgPage t;
     t.add({10, 20})->setVisible(false);
     QVERIFY(!t.drawing().contains("matrix"));
     QVERIFY(t.drawing().contains("</svg>") || t.drawing().contains("/>"));
@@ -259,7 +212,7 @@ void TestSvgDrawing::hiddenObjectsAreLeftOut()
 
 void TestSvgDrawing::objectWithoutALookMakesNoDrawing()
 {
-    DrawnPage t;
+    SvgPage t;
     t.add({10, 20});
     t.plugin.look.clear();
     QCOMPARE(t.drawing(), QByteArray());
@@ -269,7 +222,7 @@ void TestSvgDrawing::objectWithoutALookMakesNoDrawing()
 
 void TestSvgDrawing::exportWritesDrawings()
 {
-    DrawnPage t;
+    SvgPage t;
     t.add({10, 20});
     t.document.appendPage(QSizeF(300, 100));
     const QTemporaryDir folder;
@@ -284,7 +237,7 @@ void TestSvgDrawing::exportWritesDrawings()
 
 void TestSvgDrawing::exportTellsOfPagesThatCantBeDrawn()
 {
-    DrawnPage t;
+    SvgPage t;
     t.plugin.look.clear();
     t.document.appendPage(QSizeF(300, 100));
     t.add({10, 20});
