@@ -10,7 +10,7 @@ namespace line {
 
 namespace {
 
-/// A right-angled line leaves an object by at least this, document units.
+/// A right-angled line leaves an object by at least this where there is room, document units.
 constexpr double shortestStub = 20;
 /// A bend costs as much as this length.
 constexpr double costOfBend = 1e4;
@@ -42,6 +42,16 @@ QVector<QPointF> simplified(const QVector<QPointF> &points)
     return way;
 }
 
+/// Half the gap between ends that face each other closely, so that neither stub reaches into the other object.
+double stubBetween(QPointF start, QPointF startOut, QPointF end, QPointF endOut)
+{
+    const double gap = dot(end - start, startOut);
+    const bool isFacing = !startOut.isNull() && startOut == -endOut && gap > 0;
+    return isFacing ? std::min(shortestStub, gap / 2) : shortestStub;
+}
+
+} // namespace
+
 double costOf(const QVector<QPointF> &way)
 {
     double cost = 0;
@@ -55,8 +65,6 @@ double costOf(const QVector<QPointF> &way)
     return cost;
 }
 
-} // namespace
-
 QPointF mainAxis(QPointF way)
 {
     if (std::abs(way.x()) >= std::abs(way.y()))
@@ -66,8 +74,9 @@ QPointF mainAxis(QPointF way)
 
 QVector<QPointF> angledWay(QPointF start, QPointF startOut, QPointF end, QPointF endOut)
 {
-    const QPointF a = start + startOut * shortestStub;
-    const QPointF b = end + endOut * shortestStub;
+    const double stub = stubBetween(start, startOut, end, endOut);
+    const QPointF a = start + startOut * stub;
+    const QPointF b = end + endOut * stub;
     const QPointF middle = (a + b) / 2;
     const QVector<QVector<QPointF>> ways{{start, a, {middle.x(), a.y()}, {middle.x(), b.y()}, b, end},
                                          {start, a, {a.x(), middle.y()}, {b.x(), middle.y()}, b, end},

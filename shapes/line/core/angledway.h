@@ -12,4 +12,7 @@ QPointF mainAxis(QPointF way);
 /// direction.
 QVector<QPointF> angledWay(QPointF start, QPointF startOut, QPointF end, QPointF endOut);
 
+/// Cost of a way, of which angledWay() takes the least: bends first, then length.
+double costOf(const QVector<QPointF> &way);
+
 } // namespace line

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace line {
 
@@ -55,6 +56,68 @@ QPointF sideTowards(const QRectF &box, QPointF point)
     const double gapX = std::abs(way.x()) - box.width() / 2;
     const double gapY = std::abs(way.y()) - box.height() / 2;
     return gapX >= gapY ? QPointF(way.x() < 0 ? -1 : 1, 0) : QPointF(0, way.y() < 0 ? -1 : 1);
+}
+
+constexpr std::array<QPointF, 4> sides{QPointF(1, 0), QPointF(0, 1), QPointF(-1, 0), QPointF(0, -1)};
+/// Ends may lie this far inside of a box that has round corners or a slanted side, document units.
+constexpr double touchingDepth = 0.5;
+
+/// Whether a part of the way is inside of the box.
+bool crosses(const QVector<QPointF> &way, const QRectF &box)
+{
+    const QRectF inner = box.adjusted(touchingDepth, touchingDepth, -touchingDepth, -touchingDepth);
+    for (int i = 1; i < way.size(); ++i) {
+        const QPointF one = way.at(i - 1);
+        const QPointF other = way.at(i);
+        if (std::max(one.x(), other.x()) > inner.left() && std::min(one.x(), other.x()) < inner.right() &&
+            std::max(one.y(), other.y()) > inner.top() && std::min(one.y(), other.y()) < inner.bottom())
+            return true;
+    }
+    return false;
+}
+
+bool crossesAny(const QVector<QPointF> &way, const QVector<std::optional<JoinedObject>> &objects)
+{
+    return std::any_of(objects.begin(), objects.end(), [&way](const std::optional<JoinedObject> &object) {
+        return object && crosses(way, object->outline.boundingRect());
+    });
+}
+
+/// The present end, and for one on an outline those in the middles of its sides.
+QVector<JoinedEnd> possibleEnds(const JoinedEnd &present, const std::optional<JoinedObject> &object,
+                                const QString &place)
+{
+    QVector<JoinedEnd> ends{present};
+    if (!object || object->placeNamed(place))
+        return ends;
+    const QPointF centre = object->outline.boundingRect().center();
+    for (const QPointF &side : sides)
+        ends.append({edge(object->outline, centre, side), side});
+    return ends;
+}
+
+/// Takes other sides where the way between the present ones leads through an object, and another doesn't.
+void avoidObjects(std::array<JoinedEnd, 2> &ends, const Joints &joints,
+                  const QVector<std::optional<JoinedObject>> &objects)
+{
+    const auto wayBetween = [](const JoinedEnd &start, const JoinedEnd &end) {
+        return angledWay(start.point, start.out, end.point, end.out);
+    };
+    if (!crossesAny(wayBetween(ends[0], ends[1]), objects))
+        return;
+    const QVector<JoinedEnd> starts = possibleEnds(ends[0], objects.value(0), joints[0].place);
+    const QVector<JoinedEnd> others = possibleEnds(ends[1], objects.value(1), joints[1].place);
+    double least = std::numeric_limits<double>::infinity();
+    for (const JoinedEnd &start : starts) {
+        for (const JoinedEnd &end : others) {
+            const QVector<QPointF> way = wayBetween(start, end);
+            const double cost = costOf(way);
+            if (cost >= least || crossesAny(way, objects))
+                continue;
+            least = cost;
+            ends = {start, end};
+        }
+    }
 }
 
 QPointF vectorAt(double degrees)
@@ -143,12 +206,15 @@ void follow(LineCourse &course, Joints &joints, const QVector<std::optional<Join
     for (int i = 0; i < objects.size() && i < 2; ++i)
         if (objects.at(i))
             aims[i] = objects.at(i)->aim(joints[i].place);
-    for (int i = 0; i < objects.size() && i < 2; ++i) {
-        if (!objects.at(i))
-            continue;
-        const JoinedEnd end = joinedEnd(*objects.at(i), joints[i].place, aims[1 - i], course.isAngled);
-        *ends[i] = end.point;
-        joints[i].out = end.out;
+    std::array<JoinedEnd, 2> joined{JoinedEnd{course.start, joints[0].out}, JoinedEnd{course.end, joints[1].out}};
+    for (int i = 0; i < objects.size() && i < 2; ++i)
+        if (objects.at(i))
+            joined[i] = joinedEnd(*objects.at(i), joints[i].place, aims[1 - i], course.isAngled);
+    if (course.isAngled)
+        avoidObjects(joined, joints, objects);
+    for (int i = 0; i < 2; ++i) {
+        *ends[i] = joined[i].point;
+        joints[i].out = joined[i].out;
     }
 }
 

@@ -41,6 +41,10 @@ private Q_SLOTS:
     void aCornerIsOneBend();
     void aWayGoesRoundRatherThanBack();
     void aWayToItsOwnStartHasADirection();
+    void aNarrowGapIsCrossedWithoutTouchingTheOtherShape();
+    void aLineGoesRoundItsOwnShapes();
+    void aLineBetweenOverlappingShapesGoesRoundBoth();
+    void aLineIntoAShapeAroundTheOtherTakesTheSidesThatFace();
     void unusedJointsTakeNoBytes();
     void damagedJointsAreFree();
     void damagedObjectsAreNone();
@@ -132,6 +136,56 @@ void TestJoints::aWayGoesRoundRatherThanBack()
 {
     QCOMPARE(line::angledWay({0, 0}, toRight, {-200, 100}, toRight),
              (QVector<QPointF>{{0, 0}, {20, 0}, {20, 100}, {-200, 100}}));
+}
+
+/// Ten between them: stubs of five, not of twenty.
+void TestJoints::aNarrowGapIsCrossedWithoutTouchingTheOtherShape()
+{
+    QCOMPARE(line::angledWay({100, 30}, toRight, {110, 30}, toLeft), (QVector<QPointF>{{100, 30}, {110, 30}}));
+    QCOMPARE(line::angledWay({100, 30}, toRight, {110, 50}, toLeft),
+             (QVector<QPointF>{{100, 30}, {105, 30}, {105, 50}, {110, 50}}));
+}
+
+/// From the top of a box to the one below it: the side that faces would lead down through the first one.
+void TestJoints::aLineGoesRoundItsOwnShapes()
+{
+    LineCourse course{{0, 0}, {50, 200}};
+    course.isAngled = true;
+    Joints joints;
+    joints[0].object = 1;
+    joints[0].place = "top";
+    joints[1].object = 2;
+    JoinedObject above = box({0, 0, 100, 60});
+    above.places = {{"top", {50, 0}, -90}};
+    follow(course, joints, {above, box({0, 160, 100, 60})});
+    course.startOut = joints[0].out;
+    course.endOut = joints[1].out;
+    QCOMPARE(course.corners(), (QVector<QPointF>{{50, 0}, {50, -20}, {120, -20}, {120, 190}, {100, 190}}));
+}
+
+void TestJoints::aLineBetweenOverlappingShapesGoesRoundBoth()
+{
+    LineCourse course{{0, 0}, {50, 200}};
+    course.isAngled = true;
+    Joints joints;
+    joints[0].object = 1;
+    joints[1].object = 2;
+    follow(course, joints, {box({0, 0, 100, 60}), box({20, 10, 100, 60})});
+    course.startOut = joints[0].out;
+    course.endOut = joints[1].out;
+    QCOMPARE(course.corners(), (QVector<QPointF>{{0, 30}, {-20, 30}, {-20, 90}, {70, 90}, {70, 70}}));
+}
+
+void TestJoints::aLineIntoAShapeAroundTheOtherTakesTheSidesThatFace()
+{
+    LineCourse course{{0, 0}, {50, 200}};
+    course.isAngled = true;
+    Joints joints;
+    joints[0].object = 1;
+    joints[1].object = 2;
+    follow(course, joints, {box({0, 0, 200, 200}), box({50, 60, 20, 20})});
+    QCOMPARE(joints[0].out, toLeft);
+    QCOMPARE(joints[1].out, toRight);
 }
 
 void TestJoints::aWayToItsOwnStartHasADirection()
