@@ -87,7 +87,11 @@ void TimeLine::mousePressEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton)
         return event->ignore();
     setSliderDown(true);
+    const int before = value();
     want(event->x());
+    // The knob of a lesson that isn't shown stands at its beginning, too.
+    if (value() == before)
+        Q_EMIT momentWanted(before);
 }
 
 void TimeLine::mouseMoveEvent(QMouseEvent *event)

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void barShowsWhatCanBeDone();
     void pausedRecordingGoesOn();
     void timeLineGoesToAnyMoment();
+    void pressAtTheBeginningRewindsALessonThatWasJustRecorded();
     void timeLineIsMovedByKeys();
     void severalLessonsAreChosenFromAList();
     void deletedLessonIsGone();
@@ -207,6 +208,17 @@ void TestLessons::timeLineGoesToAnyMoment()
     QCOMPARE(driver.view().page()->objectCount(), 1);
     QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(0, line->height() / 2));
     QCOMPARE(lessons(driver).position(), qint64(0));
+    QCOMPARE(driver.view().page()->objectCount(), 0);
+}
+
+void TestLessons::pressAtTheBeginningRewindsALessonThatWasJustRecorded()
+{
+    BoardDriver driver;
+    record(driver);
+    QCOMPARE(driver.view().page()->objectCount(), 1);
+    board::TimeLine *line = driver.window().lessonBar()->timeLine();
+    QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(0, line->height() / 2));
+    QCOMPARE(lessons(driver).state(), LessonController::Showing);
     QCOMPARE(driver.view().page()->objectCount(), 0);
 }
 
