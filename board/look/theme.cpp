@@ -60,6 +60,7 @@ QToolButton { border: 1px solid transparent; border-radius: 8px; padding: 5px; }
 QToolButton:hover { background: %hover; }
 QToolButton:pressed { background: %border; }
 QToolButton:checked { background: %soft; color: %accent; }
+QToolButton[isPrimary="true"] { background: %accent; color: %onAccent; font-weight: bold; }
 QToolButton:focus { border: 2px solid %accent; padding: 4px; }
 QToolButton::menu-indicator { image: none; }
 QMenuBar { background: %bar; border: none; }
@@ -89,6 +90,7 @@ QToolTip { border: none; padding: 4px 6px; }
     sheet.replace("%border", rgbaText(colors.border));
     sheet.replace("%faint", rgbaText(colors.faint));
     sheet.replace("%disabled", rgbaText(colors.disabled));
+    sheet.replace("%onAccent", rgbaText(colors.onAccent));
     sheet.replace("%accent", rgbaText(colors.accent));
     sheet.replace("%bar", rgbaText(colors.bar));
     sheet.replace("%text", rgbaText(colors.text));

@@ -124,7 +124,7 @@ MainWindow::MainWindow(Workspace *workspace)
     addMenus();
     connectPanels();
     m_topBar->addCommand(m_lessonMenu->record);
-    m_topBar->addCommand(m_commands->action(Command::Present));
+    m_topBar->addPrimary(m_commands->action(Command::Present), Icon::Present);
     m_topBar->addPageSwitch(m_commands->action(Command::PageStrip));
     m_topBar->addSwitch(m_commands->action(Command::Panel));
     for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages(), static_cast<QWidget *>(m_pages),

@@ -14,6 +14,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 namespace board {
@@ -128,6 +129,20 @@ void TopBar::addCommand(QAction *action)
     connect(action, &QAction::changed, this, &TopBar::measure);
     applyHeight();
     measure();
+}
+
+void TopBar::addPrimary(QAction *action, Icon picture)
+{
+    addCommand(action);
+    QToolButton *button = m_commands.last();
+    button->setProperty("isPrimary", true);
+    // Its size has been asked for, and the style settled, before.
+    style()->unpolish(button);
+    style()->polish(button);
+    // A change of the action brings the action's picture back.
+    const auto showPicture = [=] { button->setIcon(icon(picture, QPalette::HighlightedText)); };
+    connect(action, &QAction::changed, button, showPicture);
+    showPicture();
 }
 
 void TopBar::addSwitch(QAction *action)

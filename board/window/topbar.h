@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/iconnames.h"
+
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
@@ -33,6 +35,8 @@ public:
     QMenu *addMenu(const QString &title);
     /// Adds a button with the action's short text, which is left out where there is no room.
     void addCommand(QAction *action);
+    /// Adds such a button that stands out, with a picture of its own.
+    void addPrimary(QAction *action, Icon picture);
     /// Adds a button with the action's picture only.
     void addSwitch(QAction *action);
     /// Adds a button beside the number of the page.

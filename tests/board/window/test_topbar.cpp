@@ -3,6 +3,7 @@
 #include <board/boarddriver.h>
 
 #include <core/actions.h>
+#include <look/theme.h>
 #include <window/mainwindow.h>
 #include <window/topbar.h>
 #include <window/zoomcontrol.h>
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void pageNumberFollowsThePages();
     void savedStateFollowsTheBoard();
     void narrowBarFoldsInOrder();
+    void presentStandsOut();
     void hintTellsHowTheWaitingShapeIsDrawn();
 };
 
@@ -99,6 +101,18 @@ void TestTopBar::narrowBarFoldsInOrder()
         before = folds;
     }
     QCOMPARE(before, order);
+}
+
+void TestTopBar::presentStandsOut()
+{
+    board::applyTheme(board::Theme::Light);
+    BoardDriver board;
+    const QList<QToolButton *> buttons = board.window().topBar()->findChildren<QToolButton *>();
+    QStringList primary;
+    for (QToolButton *button : buttons)
+        if (button->grab().toImage().pixelColor(4, button->height() / 2) == board::themeColors().accent)
+            primary.append(button->text());
+    QCOMPARE(primary, QStringList{"Present"});
 }
 
 void TestTopBar::hintTellsHowTheWaitingShapeIsDrawn()
