@@ -43,9 +43,9 @@ MenuPlan editPlan()
 
 MenuPlan arrangePlan()
 {
-    return {orderMenu(),       alignMenu(),       separator(),        Command::MirrorAcross,
-            Command::MirrorUp, Command::TurnLeft, Command::TurnRight, separator(),
-            Command::Group,    Command::Ungroup,  separator(),        Command::Lock};
+    return {orderMenu(),       alignMenu(),       Command::BringBack, separator(), Command::MirrorAcross,
+            Command::MirrorUp, Command::TurnLeft, Command::TurnRight, separator(), Command::Group,
+            Command::Ungroup,  separator(),       Command::Lock};
 }
 
 MenuEntry paperMenu()
@@ -132,10 +132,25 @@ MenuPlan orderMenuPlan()
 
 MenuPlan objectMenuPlan()
 {
-    return {Command::EditText,      separator(),   Command::Cut,   Command::Copy,     Command::Paste,
-            Command::Duplicate,     separator(),   orderMenu(),    alignMenu(),       Command::Group,
-            Command::Ungroup,       Command::Lock, separator(),    Command::CopyLook, Command::PasteLook,
-            Command::AllProperties, separator(),   Command::Delete};
+    return {Command::EditText,
+            separator(),
+            Command::Cut,
+            Command::Copy,
+            Command::Paste,
+            Command::Duplicate,
+            separator(),
+            orderMenu(),
+            alignMenu(),
+            Command::BringBack,
+            Command::Group,
+            Command::Ungroup,
+            Command::Lock,
+            separator(),
+            Command::CopyLook,
+            Command::PasteLook,
+            Command::AllProperties,
+            separator(),
+            Command::Delete};
 }
 
 MenuPlan pageMenuPlan()

@@ -106,6 +106,7 @@ void Actions::makeAlignActions()
     arrange(Command::DistributeAcross, [this](const auto &objects) { distribute(units(objects), Qt::Horizontal); });
     arrange(Command::DistributeDown, [this](const auto &objects) { distribute(units(objects), Qt::Vertical); });
     arrange(Command::SameSize, [](const auto &objects) { makeSameSize(objects); });
+    arrange(Command::BringBack, [this](const auto &objects) { bringBack(units(objects), m_view->page()->rect()); });
     arrange(Command::Group, [this](const auto &objects) { pagehost::groupObjects(m_view->page(), objects); });
     arrange(Command::Ungroup, [this](const auto &objects) { pagehost::ungroupObjects(m_view->page(), objects); });
     arrange(Command::Lock, [](const auto &objects) { pagehost::setObjectsLocked(objects, !areLocked(objects)); });
@@ -208,6 +209,7 @@ void Actions::enableArranging()
     needs(2, {Command::Group, Command::AlignLeft, Command::AlignCenter, Command::AlignRight, Command::AlignTop,
               Command::AlignMiddle, Command::AlignBottom, Command::SameSize});
     needs(3, {Command::DistributeAcross, Command::DistributeDown});
+    m_commands->action(Command::BringBack)->setEnabled(page && !objects.isEmpty() && isOff(objects, page->rect()));
     m_commands->action(Command::Ungroup)->setEnabled(page && pagehost::hasGroup(*page, objects));
     m_commands->action(Command::EditText)->setEnabled(m_view->canWriteLabel());
     selectAll->setEnabled(page && page->objectCount() > objects.size());

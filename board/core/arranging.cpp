@@ -72,6 +72,14 @@ QPointF deltaTo(const QRectF &all, const QRectF &box, Edge edge)
     }
 }
 
+/// Along one axis.
+double wayInto(double pageStart, double pageEnd, double start, double end)
+{
+    if (end - start > pageEnd - pageStart)
+        return (pageStart + pageEnd - start - end) / 2;
+    return std::max(pageStart - start, 0.0) + std::min(pageEnd - end, 0.0);
+}
+
 double startOf(const QRectF &box, Qt::Orientation direction)
 {
     return direction == Qt::Horizontal ? box.left() : box.top();
@@ -134,6 +142,23 @@ bool distribute(const QVector<Unit> &units, Qt::Orientation direction)
         place += lengthOf(boxOf(unit), direction) + gap;
     }
     return move(shifts, QStringLiteral("IDS_BOARD_DISTRIBUTE"));
+}
+
+bool isOff(const Unit &unit, const QRectF &page)
+{
+    return !page.contains(boxOf(unit));
+}
+
+bool bringBack(const QVector<Unit> &units, const QRectF &page)
+{
+    QVector<Shift> shifts;
+    for (const Unit &unit : units) {
+        const QRectF box = boxOf(unit);
+        shifts.append({unit,
+                       {wayInto(page.left(), page.right(), box.left(), box.right()),
+                        wayInto(page.top(), page.bottom(), box.top(), box.bottom())}});
+    }
+    return move(shifts, QStringLiteral("IDS_BOARD_BRING_BACK"));
 }
 
 bool makeSameSize(const QVector<CBaseObject *> &objects)

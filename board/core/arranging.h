@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QRectF>
 #include <QtCore/QVector>
 #include <QtCore/Qt>
 
@@ -25,6 +26,10 @@ enum class Edge { Left, Center, Right, Top, Middle, Bottom };
 bool align(const QVector<Unit> &units, Edge edge);
 /// Makes the gaps equal; the outermost two stay. Nothing for fewer than three.
 bool distribute(const QVector<Unit> &units, Qt::Orientation direction);
+/// Moves each as little as brings it onto the page, to the middle along a side that is longer than the page.
+bool bringBack(const QVector<Unit> &units, const QRectF &page);
+/// Whether it hangs off the page.
+bool isOff(const Unit &unit, const QRectF &page);
 /// Gives all the size of the largest, each keeping its top left corner.
 bool makeSameSize(const QVector<CBaseObject *> &objects);
 

@@ -59,6 +59,7 @@ constexpr CommandFacts commands[] = {
     {Command::MirrorUp, Group::Arrange, "mirrorUp", "IDS_BOARD_MIRROR_V", "Ctrl+Shift+M", Icon::MirrorVertical},
     {Command::TurnLeft, Group::Arrange, "turnLeft", "IDS_BOARD_ROTATE_LEFT", "Ctrl+Shift+R", Icon::RotateLeft},
     {Command::TurnRight, Group::Arrange, "turnRight", "IDS_BOARD_ROTATE_RIGHT", "Ctrl+R", Icon::RotateRight},
+    {Command::BringBack, Group::Arrange, "bringBack", "IDS_BOARD_BRING_BACK", "", Icon::BringBack},
     {Command::Group, Group::Arrange, "group", "IDS_BOARD_GROUP", "Ctrl+G"},
     {Command::Ungroup, Group::Arrange, "ungroup", "IDS_BOARD_UNGROUP", "Ctrl+Shift+G"},
     {Command::Lock, Group::Arrange, "lock", "IDS_BOARD_LOCK", "Ctrl+L", Icon::Lock},

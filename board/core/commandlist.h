@@ -40,6 +40,7 @@ enum class Command {
     MirrorUp,
     TurnLeft,
     TurnRight,
+    BringBack,
     Group,
     Ungroup,
     Lock,

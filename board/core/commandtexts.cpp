@@ -10,6 +10,8 @@ QVector<TextEntry> commandTexts()
         {"IDS_BOARD_EDIT_TEXT", QT_TRANSLATE_NOOP("board", "Edit text")},
         {"IDS_BOARD_LOCK", QT_TRANSLATE_NOOP("board", "Lock")},
         {"IDS_BOARD_UNLOCK", QT_TRANSLATE_NOOP("board", "Unlock")},
+        {"IDS_BOARD_BRING_BACK", QT_TRANSLATE_NOOP("board", "Bring back")},
+        {"IDS_BOARD_BRING_BACK_WORDS", QT_TRANSLATE_NOOP("board", "onto the page outside lost")},
         {"IDS_BOARD_GROUP", QT_TRANSLATE_NOOP("board", "Group")},
         {"IDS_BOARD_UNGROUP", QT_TRANSLATE_NOOP("board", "Ungroup")},
         {"IDS_BOARD_GROUP_WORDS", QT_TRANSLATE_NOOP("board", "combine together")},

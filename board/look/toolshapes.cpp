@@ -227,6 +227,41 @@ IconShape lockShape()
     return shape;
 }
 
+IconShape unlockedShape()
+{
+    IconShape shape;
+    shape.lines.addRoundedRect(QRectF(5.5, 10.5, 13, 10), 2, 2);
+    shape.lines.moveTo(8.5, 10.5);
+    shape.lines.lineTo(8.5, 6);
+    shape.lines.arcTo(QRectF(8.5, 2.5, 7, 7), 180, -150);
+    return shape;
+}
+
+IconShape eyeShape(bool isOpen)
+{
+    IconShape shape;
+    shape.lines.moveTo(3, 12);
+    shape.lines.quadTo(12, isOpen ? 22 : 20, 21, 12);
+    if (!isOpen) {
+        for (const double x : {6.5, 12.0, 17.5})
+            addPolyline(shape.lines, {{x, x == 12.0 ? 16.0 : 15.0}, {x + (x - 12) / 4, 19.5}});
+        return shape;
+    }
+    shape.lines.quadTo(12, 2, 3, 12);
+    shape.lines.addEllipse(QPointF(12, 12), 3, 3);
+    return shape;
+}
+
+/// An arrow from outside onto a page.
+IconShape bringBackShape()
+{
+    IconShape shape;
+    addPolyline(shape.lines, {{12, 4.5}, {4.5, 4.5}, {4.5, 19.5}, {12, 19.5}});
+    addPolyline(shape.lines, {{20.5, 12}, {9.5, 12}});
+    addPolyline(shape.lines, {{13.5, 8}, {9.5, 12}, {13.5, 16}});
+    return shape;
+}
+
 } // namespace
 
 IconShape toolShape(Icon which)
@@ -278,6 +313,14 @@ IconShape toolShape(Icon which)
         return lineWidthShape();
     case Icon::EndPresenting:
         return endPresentingShape();
+    case Icon::Eye:
+        return eyeShape(true);
+    case Icon::EyeClosed:
+        return eyeShape(false);
+    case Icon::Unlocked:
+        return unlockedShape();
+    case Icon::BringBack:
+        return bringBackShape();
     default:
         return arrangingShape(which);
     }

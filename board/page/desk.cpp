@@ -2,7 +2,13 @@
 
 #include "look/theme.h"
 
+#include <pagehost/page.h>
+#include <pagehost/pagescene.h>
+
+#include <QtCore/QVector>
 #include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtWidgets/QGraphicsItem>
 
 namespace board {
 
@@ -14,6 +20,23 @@ constexpr Qt::GlobalColor paperColor = Qt::white;
 /// How far beyond the area to repaint the canvas is filled, pixels: that area's edges lie beside the pixels' own,
 /// and a smooth edge would leave a line.
 constexpr int repaintMargin = 2;
+/// Of the desk's colour over what hangs off the page.
+constexpr double veilOpacity = 0.6;
+
+/// The parts of `exposed` that lie left, right, above and below of the page, without overlaps.
+QVector<QRectF> sidesOf(const QRectF &page, const QRectF &exposed)
+{
+    const QRectF middle(exposed.left(), page.top(), exposed.width(), page.height());
+    const QRectF parts[] = {{exposed.topLeft(), QPointF(exposed.right(), page.top())},
+                            {QPointF(exposed.left(), page.bottom()), exposed.bottomRight()},
+                            QRectF(exposed.topLeft(), QPointF(page.left(), exposed.bottom())) & middle,
+                            QRectF(QPointF(page.right(), exposed.top()), exposed.bottomRight()) & middle};
+    QVector<QRectF> sides;
+    for (const QRectF &part : parts)
+        if (part.isValid() && part.intersects(exposed))
+            sides.append(part & exposed);
+    return sides;
+}
 
 } // namespace
 
@@ -41,6 +64,23 @@ void paintShadow(QPainter *painter, const QRectF &page, double zoom)
 void paintPaper(QPainter *painter, const QRectF &page)
 {
     painter->fillRect(page, paperColor);
+}
+
+void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &page)
+{
+    const QRectF paper = page.rect();
+    if (paper.contains(exposed))
+        return;
+    QPainterPath outside;
+    outside.setFillRule(Qt::WindingFill);
+    for (const QRectF &side : sidesOf(paper, exposed)) {
+        const QList<QGraphicsItem *> items = page.scene()->items(side, Qt::IntersectsItemBoundingRect);
+        for (const QGraphicsItem *item : items)
+            outside.addRect(item->sceneBoundingRect() & side);
+    }
+    QColor veil = themeColors().desk;
+    veil.setAlphaF(veilOpacity);
+    painter->fillPath(outside, veil);
 }
 
 } // namespace board

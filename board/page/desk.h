@@ -4,6 +4,10 @@
 
 class QPainter;
 
+namespace pagehost {
+class Page;
+} // namespace pagehost
+
 namespace board {
 
 /// Paints around a page: the desk, or black where the page stands `isBare`, over `exposed` and a little more. All
@@ -12,5 +16,7 @@ void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, bool isBar
 /// Paints the page's shadow on the desk, and the paper that its background lies on.
 void paintShadow(QPainter *painter, const QRectF &page, double zoom);
 void paintPaper(QPainter *painter, const QRectF &page);
+/// Fades the parts of objects that lie outside of their page.
+void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &page);
 
 } // namespace board

@@ -510,6 +510,14 @@ void PageView::drawBackground(QPainter *painter, const QRectF &rect)
     QGraphicsView::drawBackground(painter, rect);
 }
 
+/// Fades objects off the page, below frames and handles.
+void PageView::drawForeground(QPainter *painter, const QRectF &rect)
+{
+    if (m_page && !m_isBare)
+        paintVeil(painter, rect, *m_page);
+    QGraphicsView::drawForeground(painter, rect);
+}
+
 /// Whoever has a second page has begun.
 bool PageView::isNewBoard() const
 {

@@ -5,16 +5,20 @@
 #include <pagehost/page.h>
 
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
 
+class CBaseObject;
 class QLabel;
-class QListWidget;
+class QTreeWidgetItem;
 
 namespace board {
 
+class OutlineTree;
 class Workspace;
 
-/// The objects of the page, the topmost first. Choosing in the list selects on the page.
+/// Objects and groups of the page as a tree, the topmost first, with eye and lock. Choosing rows selects on the
+/// page, dragging them changes order and groups, F2 and a double click rename.
 class OutlinePanel : public QWidget
 {
     Q_OBJECT
@@ -23,16 +27,42 @@ public:
     explicit OutlinePanel(const Workspace *workspace, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
-    QListWidget *list() const { return m_list; }
+    OutlineTree *tree() const { return m_tree; }
 
 private:
+    struct Row
+    {
+        int depth = 0;
+        quint32 group = 0;             ///< 0 for an object
+        CBaseObject *object = nullptr; ///< null for a group
+        QString title;
+        bool isVisible = true;
+        bool isLocked = false;
+
+        bool operator==(const Row &other) const;
+    };
+
     void refresh();
+    void addRows(QVector<Row> &rows, quint32 level, int depth) const;
+    void rebuild();
+    QTreeWidgetItem *addItem(const Row &row, int index, QTreeWidgetItem *parent);
+    quint32 groupOf(const QTreeWidgetItem *item) const;
+    void showSelection();
     void select();
+    void rename(QTreeWidgetItem *item);
+    void toggleVisible(QTreeWidgetItem *item);
+    void toggleLock(QTreeWidgetItem *item);
+    void drop(QTreeWidgetItem *parent, QTreeWidgetItem *below);
+    QVector<CBaseObject *> objectsOf(const QTreeWidgetItem *item) const;
+    QVector<CBaseObject *> chosenObjects() const;
+    bool canChange() const;
 
     const Workspace *m_workspace;
     QPointer<pagehost::Page> m_page;
     QLabel *m_nothing;
-    QListWidget *m_list;
+    OutlineTree *m_tree;
+    QVector<Row> m_rows;
+    QSet<quint32> m_folded; ///< groups of this page
     PanelRefresh m_refresh;
 };
 

@@ -832,6 +832,26 @@
         <translation>trennen auflösen</translation>
     </message>
     <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>onto the page outside lost</source>
+        <translation>auf die Seite außerhalb verloren</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Einblenden</translation>
+    </message>
+    <message>
+        <source>Group (%1)</source>
+        <translation>Gruppe (%1)</translation>
+    </message>
+    <message>
         <source>Align left edges</source>
         <translation>Linke Kanten ausrichten</translation>
     </message>

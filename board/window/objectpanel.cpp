@@ -1,5 +1,6 @@
 #include "window/objectpanel.h"
 
+#include "core/objectnames.h"
 #include "core/workspace.h"
 #include "look/theme.h"
 #include "panels/foldingsection.h"
@@ -59,7 +60,8 @@ void ObjectPanel::setPage(pagehost::Page *page)
         disconnect(m_page, nullptr, this, nullptr);
     m_page = page;
     if (page)
-        connect(page, &pagehost::Page::selectionChanged, this, [this] { m_refresh.request(); });
+        for (const auto signal : {&pagehost::Page::selectionChanged, &pagehost::Page::contentChanged})
+            connect(page, signal, this, [this] { m_refresh.request(); });
     m_style->setPage(page);
     m_settings->setPage(page);
     m_properties->setPage(page);
@@ -85,10 +87,8 @@ void ObjectPanel::refresh()
     const QVector<CBaseObject *> objects = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
     if (objects.isEmpty())
         m_title->setText(m_workspace->text("IDS_BOARD_PAGE"));
-    else if (objects.size() == 1)
-        m_title->setText(m_workspace->text(objects.first()->kindName()));
     else
-        m_title->setText(m_workspace->text("IDS_BOARD_SEVERAL").arg(objects.size()));
+        m_title->setText(titleOf(*m_workspace, *m_page, objects));
     m_settings->setVisible(!objects.isEmpty());
     m_allProperties->setVisible(!objects.isEmpty());
     widget()->layout()->activate();

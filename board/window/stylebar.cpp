@@ -1,6 +1,7 @@
 #include "window/stylebar.h"
 
 #include "commands/menuplan.h"
+#include "core/arranging.h"
 #include "core/commands.h"
 #include "core/workspace.h"
 #include "look/icons.h"
@@ -149,6 +150,8 @@ void StyleBar::addCommands()
         QToolButton *button = addButton(picture, {});
         button->setDefaultAction(m_commands->action(command));
     };
+    m_bringBack = addButton(Icon::BringBack, {});
+    m_bringBack->setDefaultAction(m_commands->action(Command::BringBack));
     addMenu(Icon::ToFront, "IDS_BOARD_ORDER", orderMenuPlan());
     addCommand(Icon::Duplicate, Command::Duplicate);
     addCommand(Icon::Lock, Command::Lock);
@@ -211,6 +214,7 @@ void StyleBar::arrange()
     m_setting->refresh();
     m_setting->setVisible(!m_setting->isEmpty());
     m_settingLine->setVisible(!m_setting->isEmpty());
+    m_bringBack->setVisible(isOff(selection(), m_page->rect()));
     place();
     show();
     raise();

@@ -67,6 +67,7 @@ private:
     QWidget *m_lookLine = nullptr; ///< behind the look
     SettingsPanel *m_setting;
     QWidget *m_settingLine = nullptr;
+    QToolButton *m_bringBack = nullptr; ///< only where the selection hangs off the page
     OncePerTurn m_arrange;
     bool m_isReplaced = false;
     bool m_isPressed = false; ///< the mouse, on the page

@@ -1,4 +1,5 @@
 #include <pagehost/commands.h>
+#include <pagehost/outline.h>
 
 #include <framework/cbaseobject.h>
 #include <framework/cundoredo.h>
@@ -126,6 +127,68 @@ ObjectGroups withoutGroup(ObjectGroups groups, quint32 number)
     return groups;
 }
 
+/// Parents before the groups in them.
+ObjectGroups inOrder(const ObjectGroups &groups)
+{
+    QHash<quint32, quint32> parents;
+    for (const ObjectGroup &group : groups)
+        parents.insert(group.number, group.parent);
+    const auto depth = [&](quint32 group) {
+        int steps = 0;
+        for (; group != 0; group = parents.value(group))
+            ++steps;
+        return steps;
+    };
+    ObjectGroups ordered = groups;
+    std::stable_sort(ordered.begin(), ordered.end(), [&](const ObjectGroup &one, const ObjectGroup &other) {
+        return depth(one.number) < depth(other.number);
+    });
+    return ordered;
+}
+
+/// `units` become members of the group `target`, 0 for the page.
+ObjectGroups withMembers(ObjectGroups groups, quint32 target, const QVector<GroupUnit> &units)
+{
+    QVector<quint32> members;
+    QSet<quint32> inner;
+    for (const GroupUnit &unit : units)
+        unit.group == 0 ? members.append(objectId(unit.objects.first())) : (void)inner.insert(unit.group);
+    for (ObjectGroup &group : groups) {
+        if (inner.contains(group.number))
+            group.parent = target;
+        group.members.erase(std::remove_if(group.members.begin(), group.members.end(),
+                                           [&](quint32 member) { return members.contains(member); }),
+                            group.members.end());
+        if (group.number == target)
+            group.members += members;
+    }
+    return inOrder(groups);
+}
+
+bool isWithin(const Grouping &grouping, quint32 group, const QVector<GroupUnit> &units)
+{
+    const auto isUnit = [&](const GroupUnit &unit) { return unit.group == group; };
+    for (; group != 0; group = grouping.parentOf(group))
+        if (std::any_of(units.begin(), units.end(), isUnit))
+            return true;
+    return false;
+}
+
+/// Index among `rest`, which lack the moved objects, directly above the unit that holds `lower`, or above the next
+/// one below it that stays; at the bottom of the level without one.
+int placeAbove(const Grouping &grouping, quint32 level, const Objects &rest, CBaseObject *lower)
+{
+    const QVector<GroupUnit> units = grouping.unitsOf(level);
+    const auto holdsLower = [&](const GroupUnit &unit) { return lower && unit.objects.contains(lower); };
+    auto unit = std::find_if(units.rbegin(), units.rend(), holdsLower);
+    for (; unit != units.rend(); ++unit)
+        if (rest.contains(unit->objects.last()))
+            return rest.indexOf(unit->objects.last()) + 1;
+    const auto bottom =
+        std::find_if(rest.begin(), rest.end(), [&](CBaseObject *object) { return grouping.holds(level, object); });
+    return int(bottom - rest.begin());
+}
+
 } // namespace
 
 bool groupObjects(Page *page, const QVector<CBaseObject *> &objects)
@@ -166,6 +229,45 @@ bool hasGroup(const Page &page, const QVector<CBaseObject *> &objects)
 {
     const QVector<GroupUnit> units = page.grouping().unitsHolding(objects);
     return std::any_of(units.begin(), units.end(), [](const GroupUnit &unit) { return unit.group != 0; });
+}
+
+bool placeObjects(Page *page, const QVector<CBaseObject *> &objects, quint32 group, CBaseObject *lower)
+{
+    const Document *document = page->document();
+    const Grouping grouping = page->grouping();
+    const QVector<GroupUnit> units = grouping.unitsHolding(onPage(*page, objects));
+    const bool isThere = group == 0 || grouping.contains(group);
+    if (!document || units.isEmpty() || !isThere || isWithin(grouping, group, units))
+        return false;
+    const Objects moved = objectsOf(units);
+    if (group != 0)
+        ensureObjectIds(moved, *document);
+    Objects order = page->objects();
+    const QSet<CBaseObject *> chosen(moved.begin(), moved.end());
+    order.erase(
+        std::remove_if(order.begin(), order.end(), [&](CBaseObject *object) { return chosen.contains(object); }),
+        order.end());
+    int place = placeAbove(grouping, group, order, lower);
+    for (CBaseObject *object : moved)
+        order.insert(place++, object);
+    const ObjectGroups groups = withMembers(grouping.groups(), group, units);
+    if (order == page->objects() && groups == grouping.groups())
+        return false;
+    CUndoRedo::GetInstance()->push(new GroupsCommand(page, QStringLiteral("IDS_UNDO_STACKING"), order, groups));
+    return true;
+}
+
+bool renameGroup(Page *page, quint32 group, const QString &name)
+{
+    ObjectGroups groups = page->grouping().groups();
+    const auto renamed =
+        std::find_if(groups.begin(), groups.end(), [=](const ObjectGroup &one) { return one.number == group; });
+    if (renamed == groups.end() || renamed->name == name)
+        return false;
+    renamed->name = name;
+    CUndoRedo::GetInstance()->push(
+        new GroupsCommand(page, QStringLiteral("IDS_UNDO_RENAME"), page->objects(), groups));
+    return true;
 }
 
 } // namespace pagehost

@@ -175,9 +175,10 @@ void TestContextMenus::objectMenuInOrder()
 {
     TwoShapes t;
     rightClick(t.board, {350, 350});
-    QCOMPARE(textsOf(menu(t.board, "objectMenu")),
-             (QStringList{"Edit text", "|", "Cut", "Copy", "Paste", "Duplicate", "|", "Order", "Align", "Group",
-                          "Ungroup", "Lock", "|", "Copy look", "Paste look", "All properties", "|", "Delete"}));
+    QCOMPARE(
+        textsOf(menu(t.board, "objectMenu")),
+        (QStringList{"Edit text", "|", "Cut", "Copy", "Paste", "Duplicate", "|", "Order", "Align", "Bring back",
+                     "Group", "Ungroup", "Lock", "|", "Copy look", "Paste look", "All properties", "|", "Delete"}));
 }
 
 void TestContextMenus::thumbnailMenuActsOnThePageUnderIt()
@@ -207,11 +208,11 @@ void TestContextMenus::menuKeysOpenTheMenuOfTheSelection()
     QFETCH(bool, shift);
     BoardDriver board;
     // So far left and up that the menu fits the screen below it.
-    board.draw(rectangle, {150, -105}, {250, -45});
+    board.draw(rectangle, {150, -135}, {250, -75});
     const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
     board.key(static_cast<Qt::Key>(key), modifiers);
     QCOMPARE(openMenu(board), QString("objectMenu"));
-    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, -45)));
+    const QPoint corner = board.view().viewport()->mapToGlobal(board.view().mapFromScene(QPointF(150, -75)));
     QCOMPARE(menu(board, "objectMenu")->pos(), corner);
     menu(board, "objectMenu")->close();
     board.page().select({});

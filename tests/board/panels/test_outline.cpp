@@ -1,0 +1,232 @@
+// The outline in the panel: rows, eyes, locks, names, order and groups.
+
+#include <board/boarddriver.h>
+
+#include <panels/outlinepanel.h>
+#include <panels/outlinetree.h>
+#include <panels/settings/settingspanel.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QUndoStack>
+
+#include <algorithm>
+
+using namespace boardtest;
+using board::OutlineTree;
+
+using Objects = QVector<CBaseObject *>;
+
+namespace {
+
+/// A rectangle, a group of a rectangle and an arrow, and a rectangle on top; nothing is selected.
+struct Outline
+{
+    BoardDriver board;
+    Objects shapes{board.draw(rectangle, {100, 100}, {200, 160}), board.draw(rectangle, {250, 300}, {450, 420}),
+                   board.draw(arrow, {500, 300}, {600, 360}), board.draw(rectangle, {700, 200}, {760, 240})};
+    OutlineTree *tree = nullptr;
+
+    Outline()
+    {
+        auto *panel = board.window().findChild<board::OutlinePanel *>();
+        board.window().raisePanel(panel);
+        tree = panel->tree();
+        board.page().select(shapes.mid(1, 2));
+        board.key(Qt::Key_G, Qt::ControlModifier);
+        board.page().select({});
+        board.history().clear();
+        settle();
+    }
+    /// The panel follows in the next turn of the event loop.
+    void settle() const
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+    QStringList rows(const QTreeWidgetItem *parent = nullptr) const
+    {
+        QStringList texts;
+        const QTreeWidgetItem *above = parent ? parent : tree->invisibleRootItem();
+        for (int i = 0; i < above->childCount(); ++i)
+            texts.append(above->child(i)->text(OutlineTree::NameColumn));
+        return texts;
+    }
+    QPoint place(QTreeWidgetItem *item, OutlineTree::Column column) const
+    {
+        const QRect row = tree->visualItemRect(item);
+        const int x =
+            column == OutlineTree::NameColumn ? row.left() + 20 : tree->columnViewportPosition(column) + 10;
+        return {x, row.center().y()};
+    }
+    void click(QTreeWidgetItem *item, OutlineTree::Column column = OutlineTree::NameColumn) const
+    {
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place(item, column));
+        settle();
+    }
+    QTreeWidgetItem *row(int index) const { return tree->topLevelItem(index); }
+    void rename(QTreeWidgetItem *item, const QString &name) const
+    {
+        tree->setCurrentItem(item);
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_F2);
+        QWidget *editor = QApplication::focusWidget();
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(editor, Qt::Key_Delete);
+        QTest::keyClicks(editor, name);
+        QTest::keyClick(editor, Qt::Key_Return);
+        settle();
+    }
+};
+
+} // namespace
+
+class TestOutline : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void topmostObjectComesFirstAndGroupsHoldTheirMembers();
+    void rowOfAGroupSelectsItsObjects();
+    void rowOfAMemberSelectsItAloneAndEntersItsGroup();
+    void selectionOfThePageIsShown();
+    void eyeHidesWithoutSelecting();
+    void lockLocksTheGroup();
+    void keyRenamesAnObject();
+    void namesOfGroupsAndTheirKind();
+    void nameStandsInThePanelsHead();
+    void droppedRowChangesOrderAndGroup();
+    void spaceBarPressesTheEye();
+    void pressedRowStaysWhileThePanelFollows();
+};
+
+void TestOutline::topmostObjectComesFirstAndGroupsHoldTheirMembers()
+{
+    const Outline t;
+    QCOMPARE(t.rows(), (QStringList{"Rounded rectangle", "Group (2)", "Rounded rectangle"}));
+    QCOMPARE(t.rows(t.row(1)), (QStringList{"Block arrow", "Rounded rectangle"}));
+    QVERIFY(t.row(1)->isExpanded());
+}
+
+void TestOutline::rowOfAGroupSelectsItsObjects()
+{
+    const Outline t;
+    t.click(t.row(1));
+    QCOMPARE(t.board.selection(), t.shapes.mid(1, 2));
+}
+
+void TestOutline::rowOfAMemberSelectsItAloneAndEntersItsGroup()
+{
+    Outline t;
+    t.click(t.row(1)->child(0));
+    QCOMPARE(t.board.selection(), Objects{t.shapes[2]});
+    t.board.click({350, 360});
+    QCOMPARE(t.board.selection(), Objects{t.shapes[1]});
+}
+
+void TestOutline::selectionOfThePageIsShown()
+{
+    Outline t;
+    t.board.click({550, 330});
+    t.settle();
+    QCOMPARE(t.tree->selectedItems(), QList<QTreeWidgetItem *>{t.row(1)});
+    t.board.click({150, 130});
+    t.settle();
+    QCOMPARE(t.tree->selectedItems(), QList<QTreeWidgetItem *>{t.row(2)});
+}
+
+void TestOutline::eyeHidesWithoutSelecting()
+{
+    Outline t;
+    t.click(t.row(2), OutlineTree::EyeColumn);
+    QVERIFY(!t.shapes[0]->QGraphicsItem::isVisible());
+    QCOMPARE(t.board.selection(), Objects{});
+    t.click(t.row(2), OutlineTree::EyeColumn);
+    QVERIFY(t.shapes[0]->QGraphicsItem::isVisible());
+    QCOMPARE(t.board.history().count(), 2);
+}
+
+void TestOutline::lockLocksTheGroup()
+{
+    const Outline t;
+    t.click(t.row(1), OutlineTree::LockColumn);
+    QVERIFY(t.shapes[1]->isLocked() && t.shapes[2]->isLocked());
+    QVERIFY(!t.shapes[0]->isLocked() && !t.shapes[3]->isLocked());
+}
+
+void TestOutline::keyRenamesAnObject()
+{
+    Outline t;
+    t.rename(t.row(0), QStringLiteral("Moon"));
+    QCOMPARE(t.shapes[3]->getObjName(), QStringLiteral("Moon"));
+    QCOMPARE(t.rows().at(0), QStringLiteral("Moon"));
+    QCOMPARE(t.board.history().count(), 1);
+    t.board.history().undo();
+    t.settle();
+    QCOMPARE(t.rows().at(0), QStringLiteral("Rounded rectangle"));
+}
+
+void TestOutline::namesOfGroupsAndTheirKind()
+{
+    Outline t;
+    t.rename(t.row(1), QStringLiteral("Car"));
+    QCOMPARE(t.rows().at(1), QStringLiteral("Car"));
+    // The kind is no name.
+    t.rename(t.row(1), QStringLiteral("Group (2)"));
+    QCOMPARE(t.board.page().grouping().groups().constFirst().name, QString());
+    t.rename(t.row(1), QString());
+    QCOMPARE(t.rows().at(1), QStringLiteral("Group (2)"));
+}
+
+void TestOutline::nameStandsInThePanelsHead()
+{
+    Outline t;
+    t.rename(t.row(0), QStringLiteral("Moon"));
+    t.board.window().raisePanel(t.board.window().settings());
+    t.board.click({730, 220});
+    t.settle();
+    const QList<QLabel *> labels = t.board.window().findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(),
+                        [](const QLabel *label) { return label->isVisible() && label->text() == "Moon"; }));
+}
+
+void TestOutline::droppedRowChangesOrderAndGroup()
+{
+    Outline t;
+    t.click(t.row(0));
+    // Between the arrow and the rectangle of the group.
+    Q_EMIT t.tree->rowsDropped(t.row(1), t.row(1)->child(1));
+    t.settle();
+    QCOMPARE(t.board.page().objects(), (Objects{t.shapes[0], t.shapes[1], t.shapes[3], t.shapes[2]}));
+    QCOMPARE(t.rows(), (QStringList{"Group (3)", "Rounded rectangle"}));
+    QCOMPARE(t.board.history().count(), 1);
+}
+
+void TestOutline::spaceBarPressesTheEye()
+{
+    Outline t;
+    t.tree->setCurrentItem(t.row(2));
+    t.settle();
+    t.tree->setCurrentItem(t.row(2));
+    QTest::keyClick(t.tree, Qt::Key_Space);
+    QVERIFY(!t.shapes[0]->QGraphicsItem::isVisible());
+}
+
+/// Otherwise it could not be dragged.
+void TestOutline::pressedRowStaysWhileThePanelFollows()
+{
+    Outline t;
+    const QTreeWidgetItem *row = t.row(0);
+    t.click(t.row(0));
+    t.click(t.row(2));
+    QVERIFY(t.row(0) == row);
+    QCOMPARE(t.board.selection(), Objects{t.shapes[0]});
+}
+
+QTEST_MAIN(TestOutline)
+#include "test_outline.moc"
