@@ -2,12 +2,17 @@
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
 
 #include <framework/cbaseobject.h>
 
 namespace board {
 
 namespace {
+
+constexpr double usualStep = 8;
+constexpr double fineStep = 1;
+constexpr double stepsWithShift = 10;
 
 QVector<CBaseObject *> movable(const pagehost::Page *page)
 {
@@ -28,6 +33,15 @@ QVector<CBaseObject *> objectsOf(const QVector<pagehost::GeometrySnapshot> &snap
 }
 
 } // namespace
+
+double keyStep(const pagehost::Page &page, Qt::KeyboardModifiers modifiers)
+{
+    if (modifiers & Qt::AltModifier)
+        return fineStep;
+    const double grid = page.scene()->grid();
+    const double step = grid > 0 ? grid : usualStep;
+    return modifiers & Qt::ShiftModifier ? stepsWithShift * step : step;
+}
 
 bool Nudging::move(pagehost::Page *page, const QPointF &delta)
 {

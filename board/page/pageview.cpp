@@ -37,10 +37,6 @@ constexpr int shelfMargin = 8;
 constexpr int lowHeight = 680;
 /// A click this far beside a selected object (logical pixels) was meant for it and does not deselect it.
 constexpr int nearMiss = 6;
-/// An arrow key moves by the lines of the grid, without grid by this, with Alt by a pixel; scene units.
-constexpr double arrowStep = 8;
-constexpr double fineArrowStep = 1;
-constexpr double arrowStepsWithShift = 10;
 /// Zoom by one notch of the wheel.
 constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
@@ -52,6 +48,7 @@ constexpr double zoomEpsilon = 1e-6;
 PageView::PageView(QWidget *parent)
     : QGraphicsView(parent)
     , m_band(this)
+    , m_keys(this)
     , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
@@ -78,6 +75,7 @@ void PageView::setPage(pagehost::Page *page)
         disconnect(m_page->scene(), nullptr, this, nullptr);
     }
     m_page = page;
+    m_keys.setPage(page);
     setScene(page ? page->scene() : nullptr);
     if (page)
         followPage();
@@ -205,7 +203,7 @@ void PageView::updateSceneArea()
 
 void PageView::settle()
 {
-    m_nudging.finish();
+    finishKeys();
     m_writing->end();
     if (!m_page)
         return;
@@ -222,7 +220,7 @@ void PageView::cancel()
         return;
     if (m_page->scene()->tool())
         Q_EMIT toolGivenUp();
-    else
+    else if (!m_keys.goBack())
         m_page->select({});
 }
 
@@ -246,7 +244,7 @@ void PageView::panTo(const QPoint &pos)
 
 void PageView::mousePressEvent(QMouseEvent *event)
 {
-    m_nudging.finish();
+    finishKeys();
     if (wantsToPan(event)) {
         m_panning = true;
         m_panPos = event->pos();
@@ -374,18 +372,9 @@ void PageView::wheelEvent(QWheelEvent *event)
     QGraphicsView::wheelEvent(event);
 }
 
-double PageView::nudgeStep(Qt::KeyboardModifiers modifiers) const
-{
-    if (modifiers & Qt::AltModifier)
-        return fineArrowStep;
-    const double grid = m_page->scene()->grid();
-    const double step = grid > 0 ? grid : arrowStep;
-    return modifiers & Qt::ShiftModifier ? arrowStepsWithShift * step : step;
-}
-
 bool PageView::nudge(const QKeyEvent *event)
 {
-    const double step = nudgeStep(event->modifiers());
+    const double step = keyStep(*m_page, event->modifiers());
     switch (event->key()) {
     case Qt::Key_Left:
         return m_nudging.move(m_page, {-step, 0});
@@ -400,13 +389,36 @@ bool PageView::nudge(const QKeyEvent *event)
     }
 }
 
+void PageView::finishKeys()
+{
+    m_nudging.finish();
+    m_keys.finish();
+}
+
+/// Keys that can be held, and those that walk.
+bool PageView::useKeyOfPage(const QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
+        return m_keys.walkObjects(event->key() == Qt::Key_Tab);
+    return m_keys.keyPress(*event) || nudge(event);
+}
+
+bool PageView::focusNextPrevChild(bool next)
+{
+    return m_keys.walk(next) || QGraphicsView::focusNextPrevChild(next);
+}
+
 void PageView::keyPressEvent(QKeyEvent *event)
 {
     if (!m_page)
         return QGraphicsView::keyPressEvent(event);
-    if (isEditable() && nudge(event))
+    if (event->key() == Qt::Key_Escape && m_page->scene()->isBusy()) {
+        cancel();
         return event->accept();
-    m_nudging.finish();
+    }
+    if (isEditable() && useKeyOfPage(event))
+        return event->accept();
+    finishKeys();
     if (event->key() == Qt::Key_Escape) {
         cancel();
         return event->accept();
@@ -423,7 +435,7 @@ void PageView::keyReleaseEvent(QKeyEvent *event)
 {
     if (event->isAutoRepeat())
         return event->accept();
-    m_nudging.finish();
+    finishKeys();
     if (event->key() == Qt::Key_Space) {
         m_spaceDown = false;
         updateCursor(viewport()->mapFromGlobal(QCursor::pos()));
@@ -433,7 +445,7 @@ void PageView::keyReleaseEvent(QKeyEvent *event)
 
 void PageView::focusOutEvent(QFocusEvent *event)
 {
-    m_nudging.finish();
+    finishKeys();
     m_spaceDown = false;
     QGraphicsView::focusOutEvent(event);
 }
@@ -527,9 +539,12 @@ bool PageView::isNewBoard() const
 void PageView::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);
-    if (m_isBare || !isNewBoard() || m_page->scene()->isBusy())
+    if (m_isBare || !m_page)
         return;
     QPainter painter(viewport());
+    m_keys.paint(&painter);
+    if (!isNewBoard() || m_page->scene()->isBusy())
+        return;
     paintEmptyHint(&painter, mapFromScene(m_page->rect()).boundingRect(), m_hint);
 }
 

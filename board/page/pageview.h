@@ -2,6 +2,7 @@
 
 #include "page/bandselection.h"
 #include "page/emptyhint.h"
+#include "page/keyhand.h"
 #include "page/nudging.h"
 
 #include <pagehost/page.h>
@@ -42,6 +43,7 @@ public:
     /// Shows nothing but the page, as large as it fits, on black.
     void setBare(bool bare);
     void setEmptyHint(const EmptyHint &hint);
+    KeyHand *keys() { return &m_keys; }
 
     /// Scene units to logical pixels.
     double zoom() const { return m_zoom; }
@@ -100,6 +102,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -121,8 +124,9 @@ private:
     bool usePen(QTabletEvent *event);
     bool isNearSelection(const QPoint &pos) const;
     void updateCursor(const QPoint &pos);
-    double nudgeStep(Qt::KeyboardModifiers modifiers) const;
     bool nudge(const QKeyEvent *event);
+    bool useKeyOfPage(const QKeyEvent *event);
+    void finishKeys();
     void followPage();
     void applyZoom(double rate);
     void updateSceneArea();
@@ -133,6 +137,7 @@ private:
     EmptyHint m_hint;
     BandSelection m_band;
     Nudging m_nudging;
+    KeyHand m_keys;
     double m_zoom = 1;
     Qt::Edge m_shelfEdge = Qt::TopEdge;
     int m_shelfMargin = 0; ///< between it and the page, logical pixels

@@ -246,6 +246,11 @@ QString Shape::dragHint()
     return index < 0 ? QString() : hint(index + 1);
 }
 
+QString Shape::pointHint(int number)
+{
+    return hint(number);
+}
+
 QByteArray Shape::toSvg()
 {
     settleDrawing();

@@ -30,6 +30,12 @@ constexpr int lastHostFilledType = 26;
 constexpr int extraHostFilledType = 1000;
 /// Action of undo steps that hold the page object's whole fill; never recorded.
 constexpr int pageFillAction = 1990;
+/// The library's margin around a control point that can be pressed, and where a press is clearly within it,
+/// document units.
+constexpr double pointMargin = 6;
+constexpr double rimOfPoint = 5;
+/// Where a press on a control point is tried: at its middle, then at its rim.
+constexpr QPointF pressSides[] = {{0, 0}, {-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}};
 /// Added to the width of a line so that it can be hit, document units.
 constexpr double lineHitMargin = 6;
 /// The library widens the pen by this much in the region, item units.
@@ -333,6 +339,10 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
         out << connectionOutline();
         return true;
     }
+    if (propId == pagehost::ControlPoints && document) {
+        writeControlPoints(out);
+        return true;
+    }
     if (propId == pagehost::LabelPlaces && document) {
         writeLabels(out);
         return true;
@@ -418,15 +428,74 @@ QVector<Connection> StyledShape::connections()
             {QStringLiteral("bottom"), {box.center().x(), box.bottom()}, 90}};
 }
 
-QTransform StyledShape::seenMapping()
+QTransform StyledShape::mirroring() const
 {
     const QRectF target = owner->getClientRect();
     const bool acrossX = owner->isMirrored();
     const bool acrossY = owner->isFlipped();
     const double shiftX = acrossX ? target.left() + target.right() : 0;
     const double shiftY = acrossY ? target.top() + target.bottom() : 0;
-    return stretching(drawnArea(), target) * QTransform::fromScale(acrossX ? -1 : 1, acrossY ? -1 : 1) *
-           QTransform::fromTranslate(shiftX, shiftY);
+    return QTransform::fromScale(acrossX ? -1 : 1, acrossY ? -1 : 1) * QTransform::fromTranslate(shiftX, shiftY);
+}
+
+QTransform StyledShape::seenMapping()
+{
+    return stretching(drawnArea(), owner->getClientRect()) * mirroring();
+}
+
+QTransform StyledShape::seenPointMapping()
+{
+    return stretching(document->viewBox(), owner->getClientRect()) * mirroring();
+}
+
+/// The library takes the last point whose rectangle is as near as its margin.
+int StyledShape::pressedPoint(QPointF place) const
+{
+    int pressed = -1;
+    for (int i = 0; i < int(controlPointCount); ++i) {
+        const QZeSvgNode *point = controlPoints[i];
+        const QRectF reach =
+            point ? point->boundingRect().adjusted(-pointMargin, -pointMargin, pointMargin, pointMargin) : QRectF();
+        if (point && point->isVisible() && reach.contains(place))
+            pressed = i;
+    }
+    return pressed;
+}
+
+/// Points overlap where a shape is small; then the rim of one may still be its own.
+QPointF StyledShape::pressPlace(int index, const QTransform &toObject) const
+{
+    const QRectF rect = controlPoints[index]->boundingRect();
+    const double reachX = rect.width() / 2 + rimOfPoint;
+    const double reachY = rect.height() / 2 + rimOfPoint;
+    const QRectF client = owner->getClientRect();
+    for (const QPointF &side : pressSides) {
+        const QPointF place = rect.center() + QPointF(side.x() * reachX, side.y() * reachY);
+        if (pressedPoint(place) == index && client.contains(toObject.map(place)))
+            return toObject.map(place);
+    }
+    return toObject.map(rect.center());
+}
+
+void StyledShape::writeControlPoints(QDataStream &out)
+{
+    settleDrawing();
+    const QTransform toObject = seenPointMapping();
+    QVector<int> visible;
+    for (int i = 0; i < int(controlPointCount); ++i)
+        if (controlPoints[i] && controlPoints[i]->isVisible())
+            visible.append(i);
+    out << qint32(visible.size());
+    for (const int i : qAsConst(visible)) {
+        QZeSvgNode *point = controlPoints[i];
+        const QRectF rect = point->boundingRect();
+        const QPointF half(rect.width() / 2, rect.height() / 2);
+        const QRectF range(QPointF(getXMin(point), getYMin(point)) + half,
+                           QPointF(getXMax(point), getYMax(point)) + half);
+        out << qint32(i + 1) << pointHint(i + 1) << toObject.map(rect.center()) << pressPlace(i, toObject)
+            << toObject.mapRect(range) << (point->canMoveHorizontally() && range.width() > 0)
+            << (point->canMoveVertically() && range.height() > 0);
+    }
 }
 
 void StyledShape::writeConnections(QDataStream &out)

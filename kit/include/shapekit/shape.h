@@ -51,6 +51,7 @@ public:
     bool getOutlinePath(QPainterPath *path) override;
     QRectF paintedArea() override;
     QString dragHint() override;
+    QString pointHint(int number) override;
     QByteArray toSvg() override;
     void settleDrawing() override;
     double getXMin(QZeSvgNode *node) override;

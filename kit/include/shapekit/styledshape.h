@@ -106,6 +106,12 @@ public:
     virtual QRectF paintedArea();
     /// Tells the user the effect of the present drag; empty for nothing to say.
     virtual QString dragHint() { return {}; }
+    /// Tells the user what a control point sets at present; empty for nothing to say.
+    virtual QString pointHint(int number)
+    {
+        Q_UNUSED(number)
+        return {};
+    }
     /// Places for lines to other objects: the middles of the sides, named "left", "top", "right" and "bottom".
     virtual QVector<Connection> connections();
     /// Texts that are written on the page, last drawn last.
@@ -133,6 +139,8 @@ protected:
     bool isFilledByPageObject() const;
     /// The mapping of the drawing to the page object as it is seen: mirroring is part of how a shape is painted.
     QTransform seenMapping();
+    /// The same for control points, which a drawing scale leaves alone.
+    QTransform seenPointMapping();
     /// The mapping that stretches a non-empty view box over a rectangle.
     static QTransform stretching(const QRectF &box, const QRectF &target);
     /// Painted area of a node with all that it contains, document units; empty while it is hidden.
@@ -143,7 +151,11 @@ protected:
     void reportError(const char *code, const QString &element, const QString &text) const;
 
 private:
+    QTransform mirroring() const;
     void writeConnections(QDataStream &out);
+    void writeControlPoints(QDataStream &out);
+    QPointF pressPlace(int index, const QTransform &toObject) const;
+    int pressedPoint(QPointF place) const;
     QPainterPath connectionOutline();
     void writeLabels(QDataStream &out);
     bool writeLabel(QDataStream &in, bool record);

@@ -283,7 +283,7 @@ void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     if (moveTool(toolPointer(*event, pixel()))) {
         event->accept();
-    } else if (isDragging()) {
+    } else if (isDragging() && event->buttons()) {
         lead(event);
         event->accept();
     } else if (!event->buttons()) {
@@ -347,6 +347,40 @@ void PageScene::endDrag()
     m_frameDrag.reset();
     endSnapping();
     updateOverlay();
+}
+
+bool PageScene::beginPointDrag(CBaseObject *object, const QPointF &scenePos)
+{
+    CObjAction::ACT_Def action = CObjAction::ACT_None;
+    const bool isPoint = object->CheckHitTestHandlers(scenePos, action) && action == CObjAction::ACT_None;
+    if (isBusy() || !isEditable() || object->isLocked() || !object->isSelected() || !isPoint)
+        return false;
+    QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
+    press.setButton(Qt::LeftButton);
+    press.setButtons(Qt::LeftButton);
+    press.setScenePos(scenePos);
+    pressGrip({Grip::ControlPoint, object, CObjAction::ACT_None, {}}, &press);
+    return true;
+}
+
+void PageScene::dragPointTo(const QPointF &scenePos)
+{
+    if (!isDragging())
+        return;
+    QGraphicsSceneMouseEvent move(QEvent::GraphicsSceneMouseMove);
+    move.setButtons(Qt::LeftButton);
+    move.setScenePos(scenePos);
+    deliver(&move, {});
+}
+
+void PageScene::endPointDrag()
+{
+    if (!isDragging())
+        return;
+    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+    release.setButton(Qt::LeftButton);
+    deliver(&release, {});
+    endDrag();
 }
 
 void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
@@ -544,6 +578,12 @@ bool PageScene::showsOldPlace() const
 QRectF PageScene::frameBounds() const
 {
     return pagehost::frameBounds(*m_page);
+}
+
+QPointF PageScene::handlePlace(CBaseObject *object, CObjAction::ACT_Def handle)
+{
+    const HandleLayout layout(object->getClientRect(), object->getCurZoomRate());
+    return object->mapToScene(layout.position(handle));
 }
 
 void PageScene::repaintOverlay()

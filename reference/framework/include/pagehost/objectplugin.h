@@ -94,7 +94,13 @@ enum SpecialProperty {
     FollowedPlaces = 2912,
     /// QPainterPath, read only, item coordinates as they are seen: the outline where lines to other objects end.
     /// Without the property they end at the client rectangle.
-    ConnectionOutline = 2913
+    ConnectionOutline = 2913,
+    /// Read only: the control points that users see on the selected object: a qint32 count, then for each its
+    /// number
+    /// (qint32, from 1), what it sets at present for the user to read (QString, as DragHint; may be empty), its
+    /// centre, a place where a press takes it and no other, and the range of its centre (two QPointF and a QRectF,
+    /// item coordinates as they are seen), and whether it moves across and down the document (bool each).
+    ControlPoints = 2914
 };
 
 /// Texts by localisation key.

@@ -117,6 +117,16 @@ public:
     /// still can be. False when none runs. The Esc key does the same.
     bool cancelDrag();
 
+    /// @name A drag without a mouse
+    /// As a mouse drags a control point of a selected object from a press to a release; scene coordinates. The
+    /// first is false, without effect, where a press there would not take a control point, and while another drag
+    /// runs.
+    /// @{
+    bool beginPointDrag(CBaseObject *object, const QPointF &scenePos);
+    void dragPointTo(const QPointF &scenePos);
+    void endPointDrag();
+    /// @}
+
     enum Highlight {
         ObjectOnly,
         ObjectAndPlaces ///< with its ConnectionPlaces
@@ -129,6 +139,8 @@ public:
 
     /// Bounds of the selected objects' frames and handles, scene coordinates; null without any.
     QRectF frameBounds() const;
+    /// Centre of a handle of a selected object, scene coordinates.
+    static QPointF handlePlace(CBaseObject *object, CObjAction::ACT_Def handle);
     /// Repaints frames and handles after an object has changed position or size. Objects call it themselves.
     void updateOverlay();
     /// Ends any action with an object that is about to leave the page.
