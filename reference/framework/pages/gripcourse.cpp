@@ -4,10 +4,13 @@
 
 #include <pagehost/selection.h>
 
+#include <host/controlpointplaces.h>
 #include <host/geometry.h>
 #include <host/gripdrag.h>
 #include <host/handlelayout.h>
 #include <pages/snapper.h>
+
+#include <QtCore/QLineF>
 
 #include <algorithm>
 #include <cmath>
@@ -75,9 +78,30 @@ GripCourse::GripCourse(const Grip &grip, const QPointF &press, const QVector<CBa
     , m_moving(moving)
     , m_startBox(boundsOf(moving))
 {
-    m_snapper.begin(moving);
-    if (isResize())
+    const bool isPoint = grip.kind == Grip::ControlPoint;
+    m_snapper.begin(isPoint ? QVector<CBaseObject *>{grip.object} : moving);
+    if (isPoint)
+        takePoint();
+    else if (isResize())
         takeCorners();
+}
+
+/// The point that is nearest to the press.
+void GripCourse::takePoint()
+{
+    const QVector<ControlPointPlace> places = controlPointPlaces(*m_grip.object);
+    for (int i = 0; i < places.size(); ++i) {
+        const double distance = QLineF(places[i].centre, m_press).length();
+        if (m_point < 0 || distance < QLineF(places[m_point].centre, m_press).length())
+            m_point = i;
+    }
+    if (m_point < 0)
+        return;
+    const ControlPointPlace &place = places[m_point];
+    m_pointStart = {{place.centre, QSizeF(0, 0)}, place.movesAcross ? NearPart : 0, place.movesDown ? NearPart : 0};
+    // Along slanting axes a point can reach a line only where it is free.
+    if (m_grip.object->rotation() != 0 && !(place.movesAcross && place.movesDown))
+        m_pointStart.across = m_pointStart.down = 0;
 }
 
 void GripCourse::takeCorners()
@@ -107,6 +131,8 @@ bool GripCourse::isDragAt(const QPointF &scenePos) const
 {
     if (m_grip.kind == Grip::FrameHandle)
         return true;
+    if (m_grip.kind == Grip::ControlPoint)
+        return m_point >= 0;
     const GripDrag *drag = GripDrag::running(*m_grip.object);
     return drag && drag->isDragAt(scenePos);
 }
@@ -120,6 +146,8 @@ QPointF GripCourse::lead(const DragPointer &pointer)
         return pointer.pos;
     if (m_grip.kind == Grip::Body)
         return leadBody(pointer);
+    if (m_grip.kind == Grip::ControlPoint)
+        return leadPoint(pointer);
     return isResize() ? leadCorner(pointer) : pointer.pos;
 }
 
@@ -132,6 +160,14 @@ QPointF GripCourse::leadBody(const DragPointer &pointer)
     if (pointer.modifiers.testFlag(Qt::ShiftModifier))
         (way.x() == 0 ? subject.across : subject.down) = 0;
     return m_press + way + snapOffset(subject, pointer);
+}
+
+/// The point may have limits, which it keeps.
+QPointF GripCourse::leadPoint(const DragPointer &pointer)
+{
+    SnapSubject subject = m_pointStart;
+    subject.box.translate(pointer.pos - m_press);
+    return pointer.pos + snapOffset(subject, pointer);
 }
 
 QPointF GripCourse::leadCorner(const DragPointer &pointer)
@@ -190,6 +226,11 @@ void GripCourse::showGuides()
 {
     if (!m_subject) {
         m_snapper.clearGuides();
+        return;
+    }
+    if (m_grip.kind == Grip::ControlPoint) {
+        m_subject->box.moveTopLeft(controlPointPlaces(*m_grip.object).value(m_point).centre);
+        m_snapper.showGuides(*m_subject);
         return;
     }
     const bool isPoint = m_grip.kind == Grip::Handle && m_sceneSide.isNull();

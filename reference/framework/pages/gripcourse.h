@@ -39,6 +39,8 @@ private:
     bool isDragAt(const QPointF &scenePos) const;
     bool isResize() const;
     void takeCorners();
+    void takePoint();
+    QPointF leadPoint(const DragPointer &pointer);
     bool isCorner() const { return m_side.x() != 0 && m_side.y() != 0; }
     std::optional<SnapSubject> cornerSubject(const QPointF &corner) const;
     QPointF snapOffset(const SnapSubject &subject, const DragPointer &pointer);
@@ -47,13 +49,15 @@ private:
     QPointF m_press; ///< scene coordinates
     Snapper &m_snapper;
     QVector<CBaseObject *> m_moving;
-    QRectF m_startBox;    ///< of the moving objects, scene coordinates
-    QSizeF m_startSize;   ///< of the resized object, item units, or of the frame
-    double m_degrees = 0; ///< by which these are turned
-    QPointF m_side;       ///< of the resized object, see HandleLayout::side()
-    QPointF m_sceneSide;  ///< the same as it is turned, for objects that are turned by quarters; else null
-    QPointF m_corner;     ///< dragged corner or side of the resized object at the press, scene coordinates
-    QPointF m_fixed;      ///< the one opposite
+    QRectF m_startBox;        ///< of the moving objects, scene coordinates
+    QSizeF m_startSize;       ///< of the resized object, item units, or of the frame
+    double m_degrees = 0;     ///< by which these are turned
+    QPointF m_side;           ///< of the resized object, see HandleLayout::side()
+    QPointF m_sceneSide;      ///< the same as it is turned, for objects that are turned by quarters; else null
+    QPointF m_corner;         ///< dragged corner or side of the resized object at the press, scene coordinates
+    QPointF m_fixed;          ///< the one opposite
+    int m_point = -1;         ///< index of the dragged control point; below 0 where the object doesn't tell
+    SnapSubject m_pointStart; ///< its centre at the press
     bool m_isDrag = false;
     std::optional<SnapSubject> m_subject; ///< of the last move
 };

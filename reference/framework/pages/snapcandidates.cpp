@@ -6,6 +6,7 @@
 #include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
 
+#include <host/controlpointplaces.h>
 #include <host/followedobjects.h>
 
 #include <QtCore/QSet>
@@ -51,6 +52,9 @@ QVector<QPointF> pointsOf(CBaseObject &object)
     const QVector<ConnectionPlace> places = connectionPlaces(object);
     for (const ConnectionPlace &place : places)
         points.append(place.point);
+    const QVector<ControlPointPlace> controlPoints = controlPointPlaces(object);
+    for (const ControlPointPlace &place : controlPoints)
+        points.append(place.centre);
     return points;
 }
 

@@ -1,3 +1,4 @@
+#include <pagehost/objectplugin.h>
 #include <pagehost/recorder.h>
 
 #include "framework/editor.h"
@@ -47,6 +48,24 @@ struct Desk : Editor
     TestObject *other;
 };
 
+/// Tells of its control point, which moves as it is told.
+class TellingObject : public ControlPointObject
+{
+public:
+    using ControlPointObject::ControlPointObject;
+
+    bool GetSpecialProperty(int id, QDataStream &out) override
+    {
+        if (id != pagehost::ControlPoints)
+            return ControlPointObject::GetSpecialProperty(id, out);
+        out << qint32(1) << qint32(1) << QString() << controlPoint << controlPoint << QRectF(0, 0, 200, 100)
+            << movesAcross << true;
+        return true;
+    }
+
+    bool movesAcross = true;
+};
+
 /// A place on a circle around the middle of an object, clockwise from the top.
 QPointF around(const QPointF &centre, double degrees)
 {
@@ -78,6 +97,9 @@ private Q_SLOTS:
     void resizedCornerOfATurnedObjectCatches();
     void turningCatchesAtFifteenDegrees_data();
     void turningCatchesAtFifteenDegrees();
+    void draggedControlPointCatches();
+    void controlPointCatchesOnlyAlongItsAxes();
+    void movedObjectCatchesAtAControlPoint();
     void shiftMovesAlongAnAxis();
     void shiftKeepsProportionsAtACorner_data();
     void shiftKeepsProportionsAtACorner();
@@ -293,6 +315,41 @@ void TestSnappedDrags::turningCatchesAtFifteenDegrees()
         QVERIFY2(std::abs(desk.object->rotation() - turned) < 0.3,
                  qPrintable(QString::number(desk.object->rotation())));
     QVERIFY(isNear(desk.object->mapToScene(QPointF(50, 30)), centre, 1e-6));
+}
+
+void TestSnappedDrags::draggedControlPointCatches()
+{
+    Desk desk;
+    auto *object = desk.add<TellingObject>(QSizeF(200, 100), QPointF(250, 450));
+    desk.page->select({object});
+    // The point is at (300, 480); the press misses its middle by (2, 1).
+    desk.press({302, 481});
+    desk.moveTo({302 + 97, 481 - 20});
+    QCOMPARE(object->controlPoint, QPointF(150, 10));
+    desk.moveTo({302 + 97, 481 - 20}, Qt::AltModifier);
+    QCOMPARE(object->controlPoint, QPointF(147, 10));
+}
+
+void TestSnappedDrags::controlPointCatchesOnlyAlongItsAxes()
+{
+    Desk desk;
+    auto *object = desk.add<TellingObject>(QSizeF(200, 100), QPointF(250, 450));
+    object->movesAcross = false;
+    desk.page->select({object});
+    desk.press({300, 480});
+    desk.moveTo({300 + 97, 480 - 118});
+    QCOMPARE(object->controlPoint, QPointF(147, 30 - 120));
+}
+
+void TestSnappedDrags::movedObjectCatchesAtAControlPoint()
+{
+    Desk desk;
+    desk.page->removeObject(desk.other);
+    auto *partner = desk.add<TellingObject>(QSizeF(200, 100), QPointF(700, 500));
+    partner->controlPoint = {70, 30};
+    // The left side comes near the point at 770.
+    desk.carryTo({773, 300});
+    QCOMPARE(desk.object->getPos(), QPointF(770, 300));
 }
 
 void TestSnappedDrags::shiftMovesAlongAnAxis()
