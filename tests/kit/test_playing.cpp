@@ -2,6 +2,7 @@
 
 #include <framework/editor.h>
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <shapekit/shape.h>
@@ -388,7 +389,7 @@ void TestPlaying::playerTellsWhetherSomethingMoves()
     QCOMPARE(told.count(), 0);
     stage.page->removeObject(stage.object);
     QCOMPARE(told.count(), 0);
-    stage.page->removeObject(stage.page->objects().first());
+    stage.page->removeObject(stage.page->objects().constFirst());
     QCOMPARE(told.count(), 1);
     QVERIFY(!stage.player->hasAnimation());
     stage.page->addObject(new Counted(resting, {0, 0}));
@@ -419,13 +420,13 @@ void TestPlaying::listenerMayTakeTheObjectAway()
     stage.page->addObject(new Counted(moving, {300, 300}));
     QObject::connect(stage.page, &pagehost::Page::objectPropertyChanged, stage.player.get(),
                      [&](CBaseObject *object) {
-                         for (CBaseObject *each : stage.page->objects())
+                         for (CBaseObject *each : support::listed(stage.page->objects()))
                              if (each != object)
                                  stage.page->removeObject(each);
                      });
     stage.player->setPlaying(true);
     QCOMPARE(stage.page->objectCount(), 1);
-    QVERIFY(static_cast<Counted *>(stage.page->objects().first())->runs());
+    QVERIFY(static_cast<Counted *>(stage.page->objects().constFirst())->runs());
 }
 
 void TestPlaying::propertyIsNotRecordedNorUndone()

@@ -1,3 +1,4 @@
+#include <support/listed.h>
 #include <support/shapefixture.h>
 
 #include <QtGui/QPainter>
@@ -128,7 +129,7 @@ void TestShell::theEdgeHandlesAreDisabled()
 {
     const TestObject object;
     QVariantList handles;
-    for (const recording::Call &call : recording::calls("object", "setHandlesDisable")) {
+    for (const recording::Call &call : support::listed(recording::calls("object", "setHandlesDisable"))) {
         handles.append(call.arguments.value(0));
         QCOMPARE(call.arguments.value(1), QVariant(true));
     }

@@ -1,4 +1,5 @@
 #include <support/exact.h>
+#include <support/listed.h>
 #include <support/shapefixture.h>
 
 #include <QtTest/QtTest>
@@ -295,7 +296,7 @@ void TestSizing::aRealResizeOfARewritingShapeRendersTwice()
     fixture.object.setSize({160, 70}, false, false);
     QCOMPARE(recording::count("OnQPainterDraw"), 2);
     QCOMPARE(recording::count("notifyObjPropertyChanged"), 2);
-    for (const recording::Call &call : recording::calls("object", "notifyObjPropertyChanged"))
+    for (const recording::Call &call : support::listed(recording::calls("object", "notifyObjPropertyChanged")))
         QCOMPARE(call.arguments, QVariantList({105, ""}));
 }
 

@@ -1,4 +1,5 @@
 #include <support/exact.h>
+#include <support/listed.h>
 #include <support/shapefixture.h>
 #include <support/streams.h>
 
@@ -142,7 +143,7 @@ void TestPlacing::onlyTheChangedCoordinateIsWritten()
     Loaded fixture;
     fixture.place(pos);
     QString names;
-    for (const recording::Call &call : writes())
+    for (const recording::Call &call : support::listed(writes()))
         names += call.arguments.value(0).toString();
     QCOMPARE(names, written);
     QCOMPARE(exact(recording::lastArguments("updateSVG").value(1).toPointF()), exact(delta));
@@ -257,7 +258,7 @@ void TestPlacing::aSizeIsWrittenInOrder()
     Loaded fixture;
     fixture.shape->changeControlPointSize(fixture.shape->point(1), 20, false);
     QVariantList written;
-    for (const recording::Call &call : writes())
+    for (const recording::Call &call : support::listed(writes()))
         written.append(QVariant(call.arguments));
     QCOMPARE(written,
              QVariantList({QVariant(QVariantList({"x", 4.0})), QVariant(QVariantList({"y", 14.0})),

@@ -4,6 +4,8 @@
 
 #include <checklist/check.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 
 Q_DECLARE_METATYPE(checklist::Check)
@@ -16,7 +18,7 @@ inline void addChecklistRows(const QVector<checklist::Check> &checks)
     QTest::addColumn<checklist::Check>("check");
     QTest::addColumn<QString>("name");
     for (const checklist::Check &check : checks)
-        for (const QString &name : allShapeNames())
+        for (const QString &name : support::listed(allShapeNames()))
             QTest::newRow(qPrintable(QStringLiteral("%1: %2").arg(QLatin1String(check.promise), name)))
                 << check << name;
 }

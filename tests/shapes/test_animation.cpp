@@ -7,6 +7,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 
 using shapetest::ShapeDriver;
@@ -62,7 +64,7 @@ private Q_SLOTS:
 void TestAnimation::clockPendulumAndGearsMove_data()
 {
     QTest::addColumn<bool>("moves");
-    for (const QString &name : shapetest::allShapeNames())
+    for (const QString &name : support::listed(shapetest::allShapeNames()))
         QTest::newRow(qPrintable(name)) << QStringList{"clock", "gears", "pendulum"}.contains(name);
 }
 

@@ -6,6 +6,8 @@
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
+#include <support/listed.h>
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
@@ -76,7 +78,7 @@ void TestBounds::everythingPaintedLiesWithin_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("penWidth");
     QTest::addColumn<QSizeF>("size");
-    for (const QString &name : allShapeNames()) {
+    for (const QString &name : support::listed(allShapeNames())) {
         for (const int penWidth : {2, 8, 30}) {
             QTest::newRow(qPrintable(QStringLiteral("%1, pen %2").arg(name).arg(penWidth)))
                 << name << penWidth << QSizeF(180, 140);
@@ -136,7 +138,7 @@ void TestBounds::theBoundsShrinkWithThePen()
 void TestBounds::theBoundsGrowOnlyWhileAThickPenIsThere_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : allShapeNames())
+    for (const QString &name : support::listed(allShapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 

@@ -10,6 +10,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -52,7 +54,7 @@ private:
 void TestControlPoints::addShapeRows()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::shapeNames())
+    for (const QString &name : support::listed(shapetest::shapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 

@@ -7,6 +7,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
@@ -87,7 +89,7 @@ void TestCreation::clickGivesTheDefaultSize()
 void TestCreation::dragGivesTheDraggedSize_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : fittedShapes())
+    for (const QString &name : support::listed(fittedShapes()))
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -146,7 +148,7 @@ void TestCreation::tinyDragGivesThirtyByThirty()
 void TestCreation::newShapeHasThePenOfThePageObject_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::shapeNames())
+    for (const QString &name : support::listed(shapetest::shapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 

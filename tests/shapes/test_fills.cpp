@@ -7,6 +7,8 @@
 
 #include <framework/cpagebgprop.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -59,7 +61,7 @@ void offersFills()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("type");
-    for (const QString &name : allShapeNames()) {
+    for (const QString &name : support::listed(allShapeNames())) {
         ShapeDriver shape(name);
         shape.createByClick();
         if (!shape.core().findPropItemByPropID(PROP_SVG_FILLCOLOR))

@@ -10,6 +10,8 @@
 #include <svgbase/qzesvgstructurenode.h>
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtWidgets/QUndoStack>
 
 using shapetest::ShapeDriver;
@@ -40,7 +42,7 @@ QStringList boundPoints()
 QVector<const QZeSvgNode *> partsOf(const QZeSvgStructureNode &root)
 {
     QVector<const QZeSvgNode *> parts;
-    for (const QZeSvgNode *node : root.children())
+    for (const QZeSvgNode *node : support::listed(root.children()))
         if (node->type() == QZeSvgNode::Group)
             parts += partsOf(*static_cast<const QZeSvgStructureNode *>(node));
         else if (!node->nodeId().startsWith(QLatin1String("control_")))
@@ -72,7 +74,7 @@ private:
 void TestForms::addShapeRows()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::allShapeNames())
+    for (const QString &name : support::listed(shapetest::allShapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -85,7 +87,7 @@ void TestForms::linesAreAsWideAsTheyAreOnceTheyAreSaved()
     const double saved = shape.core().getPenWidth();
     QVERIFY(saved != otherWidth);
     QVector<QPair<const QZeSvgNode *, double>> widths;
-    for (const QZeSvgNode *part : partsOf(shape.document()))
+    for (const QZeSvgNode *part : support::listed(partsOf(shape.document())))
         widths.append({part, part->strokeWidth()});
     shape.document().setAllStrokeWidth(otherWidth);
     int followers = 0;
@@ -103,7 +105,7 @@ void TestForms::controlPointGoesWhereItCanBeDragged_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("pose");
-    for (const QString &name : shapetest::allShapeNames()) {
+    for (const QString &name : support::listed(shapetest::allShapeNames())) {
         for (int pose = 0; pose < checklist::poseCount; ++pose)
             QTest::newRow(qPrintable(name + QStringLiteral(", ") + QLatin1String(checklist::poses[pose].name)))
                 << name << pose;

@@ -11,6 +11,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -79,7 +81,7 @@ CPageBgProp solidFill(const QColor &color)
 void TestLook::addShapeRows()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::shapeNames())
+    for (const QString &name : support::listed(shapetest::shapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 

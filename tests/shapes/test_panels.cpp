@@ -22,7 +22,7 @@ private Q_SLOTS:
 void TestPanels::settingsAreNamedInBothLanguages_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::allShapeNames())
+    for (const QString &name : support::listed(shapetest::allShapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -45,10 +45,12 @@ void TestPanels::settingsAreNamedInBothLanguages()
         if (!title.startsWith(QStringLiteral("IDS_SHAPE_")))
             continue;
         QVERIFY2(!english.value(title).isEmpty() && !german.value(title).isEmpty(), qPrintable(title));
-        for (const QJsonValue &entry : control[QStringLiteral("texts")].toArray())
+        for (const QJsonValue &entry : support::listed(control[QStringLiteral("texts")].toArray()))
             QVERIFY2(english.contains(entry.toString()) && german.contains(entry.toString()), qPrintable(title));
     }
 }
 
 QTEST_MAIN(TestPanels)
 #include "test_panels.moc"
+
+#include <support/listed.h>

@@ -7,6 +7,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 
 using shapetest::ShapeDriver;
@@ -43,7 +45,7 @@ private:
 void TestResizing::addShapeRows()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : shapetest::shapeNames())
+    for (const QString &name : support::listed(shapetest::shapeNames()))
         QTest::newRow(qPrintable(name)) << name;
 }
 

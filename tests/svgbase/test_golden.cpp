@@ -4,6 +4,8 @@
 #include "svgbase/goldencases.h"
 #include "svgbase/svgdrawing.h"
 
+#include <support/listed.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
 #include <QtTest>
@@ -206,7 +208,7 @@ private slots:
 void TestGolden::looksAsExpected_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &file : goldencases::namesWith(QStringLiteral(".expect"))) {
+    for (const QString &file : support::listed(goldencases::namesWith(QStringLiteral(".expect")))) {
         const QString name = goldencases::caseOf(file);
         QTest::newRow(qPrintable(name)) << name;
     }
@@ -236,7 +238,7 @@ void TestGolden::looksAsExpected()
 void TestGolden::looksTheSame_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &file : goldencases::namesWith(QStringLiteral(".same.svg"))) {
+    for (const QString &file : support::listed(goldencases::namesWith(QStringLiteral(".same.svg")))) {
         const QString name = goldencases::caseOf(file);
         QTest::newRow(qPrintable(name)) << name;
     }
@@ -266,7 +268,7 @@ void TestGolden::momentsLookTheSameHoweverTheyAreReached_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("time");
-    for (const QString &file : goldencases::namesWith(QStringLiteral(".expect"))) {
+    for (const QString &file : support::listed(goldencases::namesWith(QStringLiteral(".expect")))) {
         const std::optional<double> time = readExpectations(file).time;
         const QString name = goldencases::caseOf(file);
         if (time)

@@ -14,6 +14,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QMimeData>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QClipboard>
@@ -61,7 +63,7 @@ struct CopyDesk
     }
     int newSteps() { return board.history().count() - steps; }
     QVector<CBaseObject *> objects() { return board.page().objects(); }
-    QRectF placeOfLast() { return board.placeOf(objects().last()); }
+    QRectF placeOfLast() { return board.placeOf(objects().constLast()); }
 
     BoardDriver board;
     CBaseObject *shape;
@@ -113,7 +115,7 @@ void TestClipboard::pastedShapeStandsBesideTheCopied()
     desk.paste();
     QCOMPARE(desk.objects().size(), 2);
     QCOMPARE(desk.placeOfLast(), QRectF(520, 320, 200, 120));
-    QCOMPARE(desk.board.selection(), QVector<CBaseObject *>{desk.objects().last()});
+    QCOMPARE(desk.board.selection(), QVector<CBaseObject *>{desk.objects().constLast()});
     QCOMPARE(desk.newSteps(), 1);
 }
 
@@ -195,7 +197,7 @@ void TestClipboard::pasteIntoAnotherBoard()
     other.paste();
     QCOMPARE(other.objects().size(), 2);
     QCOMPARE(other.placeOfLast(), QRectF(520, 320, 200, 120));
-    QCOMPARE(pagehost::styleOf(other.objects().last()).penColor, QColor(200, 10, 20));
+    QCOMPARE(pagehost::styleOf(other.objects().constLast()).penColor, QColor(200, 10, 20));
 }
 
 void TestClipboard::copyGivesAPictureToOtherPrograms()
@@ -303,7 +305,7 @@ void TestClipboard::nothingUsableIsTold()
     QCOMPARE(desk.objects().size(), 1);
     QCOMPARE(desk.newSteps(), 0);
     QStringList texts;
-    for (const QLabel *label : desk.board.window().notices()->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(desk.board.window().notices()->findChildren<QLabel *>()))
         texts.append(label->text());
     QVERIFY2(texts.join(' ').contains("letter.txt"), qPrintable(texts.join(' ')));
 }

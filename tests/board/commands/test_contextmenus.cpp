@@ -13,6 +13,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QListWidget>
@@ -58,7 +60,7 @@ QString openMenu(const BoardDriver &board)
 QStringList textsOf(const QMenu *menu)
 {
     QStringList texts;
-    for (const QAction *action : menu->actions())
+    for (const QAction *action : support::listed(menu->actions()))
         if (action->isVisible())
             texts.append(action->isSeparator() ? "|" : action->text());
     return texts;

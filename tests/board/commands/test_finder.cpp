@@ -11,6 +11,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
@@ -75,7 +77,7 @@ void TestFinder::bestMatchesComeFirst()
                                 {"Lock", {}, "Lock", Command::Lock, {}},
                                 {"Page", {}, "Page", Command::AddPage, {}}};
     QStringList found;
-    for (const Findable &findable : board::findMatches(all, " lOCk "))
+    for (const Findable &findable : support::listed(board::findMatches(all, " lOCk ")))
         found.append(findable.name);
     QCOMPARE(found, (QStringList{"Lock", "Key lock", "Unlock", "Protect"}));
     QCOMPARE(board::findMatches(all, QString()).size(), 5);

@@ -8,6 +8,8 @@
 
 #include <pagehost/page.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -42,7 +44,7 @@ struct Changing
     }
     void push(const QString &text) const
     {
-        for (QPushButton *button : dialog().findChildren<QPushButton *>())
+        for (QPushButton *button : support::listed(dialog().findChildren<QPushButton *>()))
             if (button->text() == text)
                 QTest::mouseClick(button, Qt::LeftButton);
     }
@@ -56,7 +58,7 @@ struct Changing
     }
     QString keysOf(const QString &name) const
     {
-        for (const QTreeWidgetItem *row : rows())
+        for (const QTreeWidgetItem *row : support::listed(rows()))
             if (row->text(0) == name)
                 return row->text(1);
         return "no such row";
@@ -105,8 +107,8 @@ void TestKeysDialog::searchFindsByNameAndByKey()
     QCOMPARE(t.rows().size(), 2);
     t.dialog().search()->setText("ctrl+shift+d");
     QCOMPARE(t.rows().size(), 1);
-    QCOMPARE(t.rows().first()->text(0), QString("Duplicate page"));
-    QCOMPARE(t.rows().first()->parent()->isHidden(), false);
+    QCOMPARE(t.rows().constFirst()->text(0), QString("Duplicate page"));
+    QCOMPARE(t.rows().constFirst()->parent()->isHidden(), false);
     int titles = 0;
     for (int i = 0; i < t.dialog().list()->topLevelItemCount(); ++i)
         titles += t.dialog().list()->topLevelItem(i)->isHidden() ? 0 : 1;
@@ -190,7 +192,7 @@ void TestKeysDialog::buttonsNeedACommand()
 {
     const Changing t;
     const auto isOn = [&](const QString &text) {
-        for (const QPushButton *button : t.dialog().findChildren<QPushButton *>())
+        for (const QPushButton *button : support::listed(t.dialog().findChildren<QPushButton *>()))
             if (button->text() == text)
                 return button->isEnabled();
         return false;

@@ -11,6 +11,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
@@ -160,11 +162,11 @@ void TestArranging::lockKeyLocksAndUnlocks()
     Three t;
     pagehost::setObjectsLocked({t.shapes[0]}, true);
     t.board.key(Qt::Key_L, Qt::ControlModifier);
-    for (const CBaseObject *shape : t.shapes)
+    for (const CBaseObject *shape : support::listed(t.shapes))
         QVERIFY(shape->isLocked());
     QCOMPARE(t.action(Command::Lock)->text(), QString("Unlock"));
     t.board.key(Qt::Key_L, Qt::ControlModifier);
-    for (const CBaseObject *shape : t.shapes)
+    for (const CBaseObject *shape : support::listed(t.shapes))
         QVERIFY(!shape->isLocked());
     QCOMPARE(t.action(Command::Lock)->text(), QString("Lock"));
     t.board.key(Qt::Key_Z, Qt::ControlModifier);
@@ -206,7 +208,7 @@ void TestArranging::duplicatedPageIsACopyInOneStep()
     QCOMPARE(document.currentIndex(), 1);
     QCOMPARE(t.board.history().count(), 1);
     Rects copies;
-    for (const CBaseObject *shape : t.board.page().objects())
+    for (const CBaseObject *shape : support::listed(t.board.page().objects()))
         copies.append(t.board.placeOf(shape));
     QCOMPARE(copies, t.before);
     QCOMPARE(t.board.page().background().fillColor(), QColor(Qt::yellow));

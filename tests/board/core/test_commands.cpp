@@ -10,6 +10,8 @@
 
 #include <pagehost/page.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
@@ -88,7 +90,7 @@ void TestCommands::everyCommandHasItsRowAndAName()
 {
     const Alone board;
     QStringList ids;
-    for (const Command command : allCommands()) {
+    for (const Command command : support::listed(allCommands())) {
         QCOMPARE(board::factsOf(command).command, command);
         const char *textKey = board::factsOf(command).textKey;
         QVERIFY2(board.workspace.localizer().hasText("en", textKey), textKey);
@@ -120,7 +122,7 @@ void TestCommands::keysOfTheList()
     QFETCH(Command, command);
     QFETCH(QStringList, keys);
     QStringList found;
-    for (const QKeySequence &key : board::defaultKeys(command))
+    for (const QKeySequence &key : support::listed(board::defaultKeys(command)))
         found.append(key.toString(QKeySequence::PortableText));
     QCOMPARE(found, keys);
 }
@@ -129,8 +131,8 @@ void TestCommands::noTwoCommandsShareAKey()
 {
     const Alone board;
     int keys = 0;
-    for (const Command command : allCommands()) {
-        for (const QKeySequence &key : board.commands.keys(command)) {
+    for (const Command command : support::listed(allCommands())) {
+        for (const QKeySequence &key : support::listed(board.commands.keys(command))) {
             QVERIFY2(!board.commands.otherWithKey(command, key), qPrintable(key.toString()));
             ++keys;
         }
@@ -332,7 +334,7 @@ void TestCommands::allKeysAreReset()
     QSignalSpy changes(&board.commands, &Commands::keysChanged);
     board.commands.resetAllKeys();
     QCOMPARE(changes.count(), 1);
-    for (const Command command : allCommands())
+    for (const Command command : support::listed(allCommands()))
         QCOMPARE(board.commands.keys(command), board::defaultKeys(command));
     QVERIFY(QSettings().allKeys().filter("keys/of").isEmpty());
 }
@@ -349,7 +351,7 @@ void TestCommands::manualListsEveryKey()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
     const Alone board;
-    for (const Command command : allCommands()) {
+    for (const Command command : support::listed(allCommands())) {
         const QString keys = QString(board::factsOf(command).keys).replace(' ', ", ");
         if (keys.isEmpty())
             continue;

@@ -4,6 +4,8 @@
 #include <core/texts.h>
 #include <core/workspace.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QtTest>
@@ -41,7 +43,7 @@ QStringList marksOf(const QString &text)
 void TestTexts::noKeyStandsForTwoTexts()
 {
     QStringList keys;
-    for (const board::TextEntry &entry : board::textEntries())
+    for (const board::TextEntry &entry : support::listed(board::textEntries()))
         keys.append(QLatin1String(entry.key));
     QVERIFY(keys.size() > 100);
     const QStringList all = keys;
@@ -62,7 +64,7 @@ void TestTexts::everyTranslationIsALanguage()
 void TestTexts::everyTextIsTranslated_data()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &code : board::boardLanguages())
+    for (const QString &code : support::listed(board::boardLanguages()))
         QTest::newRow(qPrintable(code)) << code;
 }
 
@@ -70,7 +72,7 @@ void TestTexts::everyTextIsTranslated()
 {
     QFETCH(QString, language);
     const pagehost::TextTable texts = board::boardTexts(language);
-    for (const board::TextEntry &entry : board::textEntries()) {
+    for (const board::TextEntry &entry : support::listed(board::textEntries())) {
         const QString text = texts.value(QLatin1String(entry.key));
         QVERIFY2(!text.isEmpty(), entry.key);
         QCOMPARE(marksOf(text), marksOf(QString::fromUtf8(entry.english)));
@@ -108,7 +110,7 @@ void TestTexts::unknownLanguageHasNoTexts()
 
 void TestTexts::languagesOfTheBoardCanBeAskedFor()
 {
-    for (const QString &code : board::boardLanguages())
+    for (const QString &code : support::listed(board::boardLanguages()))
         QCOMPARE(board::parseCommandLine({"board", "--language", code}).language, code);
     const board::Options options = board::parseCommandLine({"board", "--language", "xx"});
     QVERIFY(options.failed);

@@ -4,6 +4,7 @@
 
 #include <pagehost/autosave.h>
 
+#include <support/listed.h>
 #include <support/patience.h>
 
 #include <QtCore/QLocale>
@@ -19,7 +20,7 @@ static void leaveCopy(Desk &desk)
     QVERIFY(QFile::exists(copy));
     QDir folder = QFileInfo(copy).dir();
     const QString stem = QFileInfo(copy).baseName();
-    for (const QString &name : folder.entryList({stem + "*"}, QDir::Files))
+    for (const QString &name : support::listed(folder.entryList({stem + "*"}, QDir::Files)))
         if (!name.endsWith(".lock"))
             QVERIFY(QFile::copy(folder.filePath(name), folder.filePath("crashed" + name.mid(stem.size()))));
 }
@@ -72,7 +73,7 @@ void TestRecovery::offersOfWorkAreToldApart()
     QVERIFY2(desk.notices().contains("“lesson.board” from " + time + ", 2 pages"), qPrintable(desk.notices()));
     // The picture of the page with the rectangle: 120 pixels of 1280 units, the rectangle from 500 to 700.
     QImage picture;
-    for (const QLabel *label : desk.board.window().notices()->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(desk.board.window().notices()->findChildren<QLabel *>()))
         if (label->pixmap(Qt::ReturnByValue).width() == 120)
             picture = label->pixmap(Qt::ReturnByValue).toImage();
     QVERIFY(!picture.isNull());

@@ -7,6 +7,8 @@
 
 #include <pagehost/documentfile.h>
 
+#include <support/listed.h>
+
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
@@ -55,7 +57,7 @@ void TestShapeFiles::save(const QString &name, const QByteArray &content)
 bool TestShapeFiles::isInPalette(Desk &desk, const QString &name)
 {
     const auto *palette = desk.board.window().findChild<board::PalettePanel *>();
-    for (const board::PaletteButton *button : palette->buttons())
+    for (const board::PaletteButton *button : support::listed(palette->buttons()))
         if (button->text() == name)
             return true;
     return false;

@@ -2,6 +2,7 @@
 
 #include "board/boarddriver.h"
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <lessons/lessoncontroller.h>
@@ -127,7 +128,7 @@ void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
             [&](CBaseObject *object) { ++pictures[object]; });
     support::pass(someTime);
     QStringList playing;
-    for (CBaseObject *object : kinds.keys()) {
+    for (CBaseObject *object : support::listed(kinds.keys())) {
         if (plays(object))
             QVERIFY(pictures.value(object) > 1);
         else

@@ -13,6 +13,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
@@ -131,7 +133,7 @@ void TestDrawing::newShapeIsSelectedAndTheToolRests()
     BoardDriver board;
     CBaseObject *object = board.draw(rectangle, {500, 300}, {700, 420});
     QCOMPARE(board.selection(), QVector<CBaseObject *>{object});
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         QVERIFY(!button->isChecked());
     board.drag({800, 500}, {900, 600});
     QCOMPARE(board.page().objectCount(), 1);
@@ -265,12 +267,12 @@ void TestDrawing::searchWithoutAHitOffersAllShapes()
     QLineEdit *search = searchOf(board);
     QTest::keyClicks(search, "xyzzy");
     QStringList shown;
-    for (const QLabel *label : board.window().palettePanel()->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(board.window().palettePanel()->findChildren<QLabel *>()))
         if (label->isVisible())
             shown.append(label->text());
     QCOMPARE(shown, QStringList{"No shape called “xyzzy”."});
     QTest::mouseClick(board.button("All shapes"), Qt::LeftButton);
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         QVERIFY(button->isVisible());
 }
 
@@ -309,7 +311,7 @@ void TestDrawing::lastUsedShapesComeFirst()
     board.draw(flask, {700, 300}, {790, 420});
     QCoreApplication::processEvents();
     QStringList recent;
-    for (const board::PaletteButton *button : board.window().palettePanel()->recentButtons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->recentButtons()))
         recent.append(button->kindId());
     QCOMPARE(recent, QStringList({flask, arrow}));
 }
@@ -320,10 +322,10 @@ void TestDrawing::paletteSearchHidesOtherKinds()
     QLineEdit *search = searchOf(board);
     QVERIFY(search);
     QTest::keyClicks(search, "flas");
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         QCOMPARE(button->isVisible(), button->kindId() == flask);
     search->clear();
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         QVERIFY(button->isVisible());
 }
 
@@ -333,7 +335,7 @@ void TestDrawing::paletteSearchKnowsOtherWordsForAShape()
     QLineEdit *search = searchOf(board);
     QVERIFY(search);
     QTest::keyClicks(search, "Plus");
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         QCOMPARE(button->isVisible(), button->kindId() == QLatin1String("declared.cross"));
 }
 
@@ -358,11 +360,11 @@ void TestDrawing::paletteBeginsWithTheBasicShapes()
     BoardDriver board(language);
     QStringList captions;
     const auto *scrolled = board.window().palettePanel()->findChild<QScrollArea *>();
-    for (const QLabel *label : scrolled->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(scrolled->findChildren<QLabel *>()))
         captions.append(label->text());
     QCOMPARE(captions, groups);
     QStringList names;
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons().mid(0, 3))
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons().mid(0, 3)))
         names.append(button->text());
     QCOMPARE(names, firstNames);
 }
@@ -380,11 +382,11 @@ void TestDrawing::namesInThePaletteCanBeRead()
     BoardDriver board(language);
     QFont usual = QApplication::font();
     usual.setPointSizeF(9.5); // of a desktop
-    for (board::PaletteButton *button : board.window().palettePanel()->buttons()) {
+    for (board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons())) {
         button->setFont(usual);
         const QFont font = button->nameFont();
         QVERIFY2(font.pointSizeF() >= 8, qPrintable(button->text()));
-        for (const QString &word : button->text().split(' '))
+        for (const QString &word : support::listed(button->text().split(' ')))
             QVERIFY2(QFontMetrics(font).horizontalAdvance(word) <= button->width(), qPrintable(word));
     }
 }

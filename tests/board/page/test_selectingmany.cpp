@@ -17,6 +17,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QDataStream>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -82,20 +84,21 @@ struct Crowd
             board.page().addObject(object);
         }
         QCoreApplication::processEvents();
-        QObject::connect(&board.page(), &pagehost::Page::selectionChanged, [this] { ++signalCount; });
+        QObject::connect(&board.page(), &pagehost::Page::selectionChanged, &board.page(),
+                         [this] { ++signalCount; });
         forget();
     }
     QVector<AskedObject *> objects() const
     {
         QVector<AskedObject *> all;
-        for (CBaseObject *object : board.page().objects())
+        for (CBaseObject *object : support::listed(board.page().objects()))
             all.append(static_cast<AskedObject *>(object));
         return all;
     }
     void forget()
     {
         signalCount = 0;
-        for (AskedObject *object : objects())
+        for (AskedObject *object : support::listed(objects()))
             object->settingsAsked = object->propertyAsked = object->styleAsked = 0;
     }
     /// How often each was asked, where all were asked equally often; -1 else.
@@ -196,9 +199,9 @@ void TestSelectingMany::styleOfEachShapeIsLookedAtOnce()
     style.board.page().select({});
     QCoreApplication::processEvents();
     style.forget();
-    style.board.page().select({style.objects().first()});
+    style.board.page().select({style.objects().constFirst()});
     QCoreApplication::processEvents();
-    QCOMPARE(style.objects().first()->styleAsked, asked);
+    QCOMPARE(style.objects().constFirst()->styleAsked, asked);
 }
 
 void TestSelectingMany::theBandIsOneLookAtEachShapeHoweverOftenItMoves()

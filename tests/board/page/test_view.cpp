@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 #include <render/messagecatcher.h>
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <core/actions.h>
@@ -233,7 +234,8 @@ void TestView::aPatternChosenForAWhitePageIsSeen()
     BoardDriver board;
     QCoreApplication::processEvents();
     const auto chooseFill = [&](const QString &name) {
-        for (QToolButton *button : board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>())
+        for (QToolButton *button :
+             support::listed(board.window().findChild<board::StylePanel *>()->findChildren<QToolButton *>()))
             if (button->isVisible() && button->accessibleName() == name)
                 button->click();
     };
@@ -289,7 +291,7 @@ void TestView::everyControlHasANameForScreenReaders()
     BoardDriver board;
     board.draw(rectangle, {500, 300}, {700, 420});
     QStringList nameless;
-    for (QWidget *widget : board.window().findChildren<QWidget *>()) {
+    for (QWidget *widget : support::listed(board.window().findChildren<QWidget *>())) {
         const bool isControl = qobject_cast<QToolButton *>(widget) || qobject_cast<QAbstractSpinBox *>(widget) ||
                                qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSlider *>(widget) ||
                                qobject_cast<QGraphicsView *>(widget) || qobject_cast<QListView *>(widget);

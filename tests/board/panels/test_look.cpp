@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <page/pageview.h>
@@ -416,7 +417,7 @@ static void makeRed(StyledShape &t)
 static QCheckBox *forNewOnes(const StyledShape &t)
 {
     support::deliverEvents();
-    for (auto *box : t.panel->findChildren<QCheckBox *>())
+    for (auto *box : support::listed(t.panel->findChildren<QCheckBox *>()))
         if (box->text() == "Use for new ones" && box->isVisibleTo(t.panel))
             return box;
     return nullptr;
@@ -480,7 +481,7 @@ void TestLook::turnMirrorAndLockStandBesideThePosition()
 {
     StyledShape t;
     const auto press = [&](const QString &text) {
-        for (auto *button : t.panel->findChildren<QToolButton *>())
+        for (auto *button : support::listed(t.panel->findChildren<QToolButton *>()))
             if (button->defaultAction() && button->defaultAction()->text().remove('&') == text)
                 QTest::mouseClick(button, Qt::LeftButton);
     };
@@ -502,7 +503,7 @@ void TestLook::foldedSectionStaysFolded()
     {
         StyledShape t;
         QVERIFY(sectionOf(t));
-        for (auto *title : t.panel->findChildren<QToolButton *>())
+        for (auto *title : support::listed(t.panel->findChildren<QToolButton *>()))
             if (title->text() == "Position and size")
                 QTest::mouseClick(title, Qt::LeftButton);
         QVERIFY(!sectionOf(t));

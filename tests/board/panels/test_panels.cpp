@@ -3,6 +3,7 @@
 #include <board/boarddriver.h>
 
 #include <board/panelobject.h>
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <panels/colorbutton.h>
@@ -67,7 +68,7 @@ struct PanelDesk
     QStringList captions() const
     {
         QStringList texts;
-        for (const QLabel *label : panel->findChildren<QLabel *>())
+        for (const QLabel *label : support::listed(panel->findChildren<QLabel *>()))
             if (label->isVisible())
                 texts.append(label->text());
         return texts;
@@ -291,11 +292,11 @@ void TestPanels::severalObjectsAreOneStep()
 {
     PanelDesk t(PanelDesk::Settings, 3);
     QTest::mouseClick(t.widget<board::ToggleSwitch>("On"), Qt::LeftButton);
-    for (const PanelObject *object : t.objects)
+    for (const PanelObject *object : support::listed(t.objects))
         QCOMPARE(object->settings["on"], QString("true"));
     QCOMPARE(t.history().count(), 1);
     t.undo();
-    for (const PanelObject *object : t.objects)
+    for (const PanelObject *object : support::listed(t.objects))
         QCOMPARE(object->settings["on"], QString("false"));
 }
 
@@ -545,7 +546,7 @@ void TestPanels::panelsInGerman()
     board.window().raisePanel(board.window().properties());
     QCoreApplication::processEvents();
     QStringList texts;
-    for (const QLabel *label : board.window().properties()->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(board.window().properties()->findChildren<QLabel *>()))
         texts.append(label->text());
     QVERIFY2(texts.contains("Linienbreite"), qPrintable(texts.join(' ')));
     QVERIFY(texts.contains("Füllfarbe"));

@@ -13,6 +13,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtGui/QClipboard>
@@ -32,7 +34,7 @@ struct Desk : BoardDriver
     /// The editor that is open; null for none.
     board::LabelEditor *editor() const
     {
-        for (auto *editor : view().findChildren<board::LabelEditor *>())
+        for (auto *editor : support::listed(view().findChildren<board::LabelEditor *>()))
             if (editor->isVisible())
                 return editor;
         return nullptr;
@@ -42,7 +44,7 @@ struct Desk : BoardDriver
     QString written(int index) const
     {
         CBaseObject *object = page().objects().value(index);
-        return object ? board::labelsOf(*object).first().text : QString("no text");
+        return object ? board::labelsOf(*object).constFirst().text : QString("no text");
     }
 };
 

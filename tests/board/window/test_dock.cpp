@@ -11,6 +11,8 @@
 #include <window/mainwindow.h>
 #include <window/topbar.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -161,7 +163,7 @@ void TestDock::undoAndRedoStandAtTheFarEnd()
     FullDock t;
     t.dock.resize(56, 728);
     const auto placeOf = [&](const QAction *action) {
-        for (const board::DockButton *button : t.dock.findChildren<board::DockButton *>())
+        for (const board::DockButton *button : support::listed(t.dock.findChildren<board::DockButton *>()))
             if (button->defaultAction() == action)
                 return button->geometry();
         return QRect();
@@ -195,7 +197,7 @@ void TestDock::foldedToolIsChosenInTheMenu()
     FullDock t;
     t.dock.resize(56, 459);
     QStringList names;
-    for (QAction *action : t.dock.moreButton()->menu()->actions())
+    for (QAction *action : support::listed(t.dock.moreButton()->menu()->actions()))
         names.append(action->text());
     QCOMPARE(names, QStringList({"Highlighter", "Connector", "Insert"}));
     t.dock.moreButton()->menu()->actions().at(1)->trigger();

@@ -11,6 +11,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDoubleSpinBox>
@@ -289,7 +291,7 @@ void TestKeys::clickInTheHistoryGoesBack()
 QDoubleSpinBox *widthField(const BoardDriver &board)
 {
     QCoreApplication::processEvents();
-    for (QDoubleSpinBox *box : board.window().findChildren<QDoubleSpinBox *>()) {
+    for (QDoubleSpinBox *box : support::listed(board.window().findChildren<QDoubleSpinBox *>())) {
         if (box->accessibleName() == "Width" && box->isVisible()) {
             board.window().activateWindow();
             box->setFocus();

@@ -8,6 +8,7 @@
 #include <window/mainwindow.h>
 #include <window/shapefolder.h>
 
+#include <support/listed.h>
 #include <support/patience.h>
 
 #include <pagehost/page.h>
@@ -52,7 +53,7 @@ void TestShapeFolder::init()
     // The folder itself stays, since it is watched.
     QDir folder(board::userShapeFolder());
     folder.mkpath(".");
-    for (const QString &file : folder.entryList(QDir::Files))
+    for (const QString &file : support::listed(folder.entryList(QDir::Files)))
         folder.remove(file);
     m_opened.clear();
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
@@ -79,7 +80,7 @@ void TestShapeFolder::newShapeIsInThePalette()
 {
     BoardDriver board;
     const auto isThere = [&board] {
-        for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+        for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
             if (button->text() == "Small <kite>")
                 return true;
         return false;
@@ -106,8 +107,8 @@ void TestShapeFolder::ownShapesStandLastInAGroupOfTheirOwn()
         return titles;
     };
     QTRY_VERIFY_WITH_TIMEOUT(groups().contains("My shapes: Kite"), support::patience);
-    QVERIFY(groups().last().startsWith("My shapes"));
-    QCOMPARE(groups().first(), QString("Basic shapes"));
+    QVERIFY(groups().constLast().startsWith("My shapes"));
+    QCOMPARE(groups().constFirst(), QString("Basic shapes"));
 }
 
 void TestShapeFolder::searchWithoutAHitSaysSoAndLeadsBack()
@@ -120,7 +121,7 @@ void TestShapeFolder::searchWithoutAHitSaysSoAndLeadsBack()
     QVERIFY(search->hasFocus());
     QTest::keyClicks(search, "qqq");
     const auto isSaid = [&] {
-        for (const QLabel *label : palette.findChildren<QLabel *>())
+        for (const QLabel *label : support::listed(palette.findChildren<QLabel *>()))
             if (label->isVisible() && label->text() == "No shape called “qqq”.")
                 return true;
         return false;
@@ -132,7 +133,7 @@ void TestShapeFolder::searchWithoutAHitSaysSoAndLeadsBack()
     QCoreApplication::processEvents();
     QVERIFY(!isSaid());
     QCOMPARE(search->text(), QString());
-    QVERIFY(palette.buttons().first()->isVisible());
+    QVERIFY(palette.buttons().constFirst()->isVisible());
 }
 
 void TestShapeFolder::secondShapeOfANameLeavesTheFirst()

@@ -9,6 +9,8 @@
 #include <window/shelf.h>
 #include <window/shelfbutton.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QMenu>
@@ -39,7 +41,7 @@ board::Shelf *shelf(const BoardDriver &board)
 
 board::ShelfButton *button(const BoardDriver &board, const QString &name)
 {
-    for (board::ShelfButton *candidate : shelf(board)->findChildren<board::ShelfButton *>())
+    for (board::ShelfButton *candidate : support::listed(shelf(board)->findChildren<board::ShelfButton *>()))
         if (candidate->accessibleName() == name && candidate->isVisible())
             return candidate;
     return nullptr;
@@ -90,13 +92,13 @@ void TestShelf::variantsOfTheEraserAreInItsMenu()
     BoardDriver board;
     board.key(Qt::Key_E);
     QMenu *menu = nullptr;
-    for (const QToolButton *candidate : shelf(board)->findChildren<QToolButton *>())
+    for (const QToolButton *candidate : support::listed(shelf(board)->findChildren<QToolButton *>()))
         if (candidate->menu() && candidate->isVisible())
             menu = candidate->menu();
     QVERIFY(menu);
     QCOMPARE(menu->actions().size(), 2);
-    QVERIFY(menu->actions().first()->isChecked());
-    menu->actions().last()->trigger();
+    QVERIFY(menu->actions().constFirst()->isChecked());
+    menu->actions().constLast()->trigger();
     QCOMPARE(board.window().toolSettings()->variant(Tool::Eraser), 1);
 }
 

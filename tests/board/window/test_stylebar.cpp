@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <core/commands.h>
@@ -265,7 +266,7 @@ void TestStyleBar::outlineAndWidthAreChosenInTheBar()
     Q_EMIT t.control<board::ColorButton>("Outline colour")->colorPicked(QColor(200, 10, 20));
     QCOMPARE(t.style().penColor, QColor(200, 10, 20));
     const auto *width = t.control<board::WidthButton>("Outline width");
-    for (QAction *action : width->menu()->actions())
+    for (QAction *action : support::listed(width->menu()->actions()))
         if (action->text() == "6 px")
             action->trigger();
     QCOMPARE(t.style().penWidth, 6);
@@ -296,7 +297,7 @@ void TestStyleBar::orderIsChosenInTheBar()
     t.board.draw(rectangle, {900, 300}, {1000, 420});
     t.board.click({600, 360});
     QCOMPARE(t.board.page().indexOf(t.shape), 0);
-    for (QAction *action : t.control("Order")->menu()->actions())
+    for (QAction *action : support::listed(t.control("Order")->menu()->actions()))
         if (action->text() == "Bring to front")
             action->trigger();
     QCOMPARE(t.board.page().indexOf(t.shape), 1);
@@ -317,7 +318,7 @@ void TestStyleBar::restOfTheMenuIsInTheBar()
 {
     StyledShape t;
     QStringList texts;
-    for (const QAction *action : t.control("More")->menu()->actions())
+    for (const QAction *action : support::listed(t.control("More")->menu()->actions()))
         texts.append(action->text());
     QVERIFY(texts.contains("Copy look"));
     QVERIFY(texts.contains("Delete"));

@@ -8,6 +8,8 @@
 #include <window/topbar.h>
 #include <window/zoomcontrol.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
@@ -32,7 +34,7 @@ namespace {
 
 QLabel *label(const BoardDriver &board, const QString &text)
 {
-    for (QLabel *candidate : board.window().findChildren<QLabel *>())
+    for (QLabel *candidate : support::listed(board.window().findChildren<QLabel *>()))
         if (candidate->text() == text && candidate->isVisible())
             return candidate;
     return nullptr;
@@ -44,15 +46,15 @@ QStringList foldsOf(board::TopBar &bar)
     QStringList folds;
     if (!bar.menus()->isVisible())
         folds.append("menus");
-    for (const QLabel *text : bar.findChildren<QLabel *>())
+    for (const QLabel *text : support::listed(bar.findChildren<QLabel *>()))
         if (text->text() == "Not saved" && !text->isVisible())
             folds.append("saved");
-    for (const QToolButton *button : bar.findChildren<QToolButton *>())
+    for (const QToolButton *button : support::listed(bar.findChildren<QToolButton *>()))
         if (button->text() == "Record" && button->toolButtonStyle() == Qt::ToolButtonIconOnly)
             folds.append("commands");
     const auto *zoom = bar.findChild<board::ZoomControl *>();
     int steps = 0;
-    for (const QToolButton *button : zoom->findChildren<QToolButton *>())
+    for (const QToolButton *button : support::listed(zoom->findChildren<QToolButton *>()))
         steps += button->isVisible();
     if (steps == 1)
         folds.append("zoom");

@@ -3,6 +3,7 @@
 #include <board/boarddriver.h>
 #include <board/desk.h>
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <core/actions.h>
@@ -123,7 +124,7 @@ void TestWindow::shapesUsedMostComeFirstInTheirGroup()
 {
     BoardDriver board;
     QStringList kinds;
-    for (const board::PaletteButton *button : board.window().palettePanel()->buttons())
+    for (const board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
         kinds.append(button->kindId());
     QCOMPARE(QStringList(kinds.mid(0, 7)),
              QStringList({"shapes.roundedrectangle", "shapes.ellipse", "shapes.triangle", "shapes.blockarrow",
@@ -236,7 +237,7 @@ void TestWindow::smallWindowCutsNothingOff()
     QCOMPARE(window.lessonBar()->isVisible(), takes > 0);
     QCOMPARE(window.size(), size);
     QStringList cut;
-    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+    for (const QWidget *widget : support::listed(window.findChildren<QWidget *>())) {
         const QWidget *parent = widget->parentWidget();
         if (!widget->isVisible() || widget->isWindow() || isInScrollArea(widget))
             continue;
@@ -283,7 +284,7 @@ void TestWindow::shapeWhosePluginFailsIsToldOfAndTheBoardGoesOn()
     support::deliverEvents();
     QCOMPARE(board.page().objectCount(), 0);
     QStringList notices;
-    for (const QLabel *label : board.window().notices()->findChildren<QLabel *>())
+    for (const QLabel *label : support::listed(board.window().notices()->findChildren<QLabel *>()))
         notices.append(label->text());
     const QString told = notices.join('\n');
     QVERIFY2(told.contains("promise.so could be used: createObject(\"promise\") threw an exception: nothing there"),

@@ -1,5 +1,7 @@
 #include "framework/files/filetest.h"
 
+#include <support/listed.h>
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 
@@ -44,9 +46,9 @@ int lineOf(const QByteArray &text, const QByteArray &part)
 QList<QList<double>> placesIn(const OpenResult &opened)
 {
     QList<QList<double>> places;
-    for (const Page *page : opened.document->pages()) {
+    for (const Page *page : support::listed(opened.document->pages())) {
         places.append(QList<double>());
-        for (const CBaseObject *object : page->objects())
+        for (const CBaseObject *object : support::listed(page->objects()))
             if (!isPlaceholder(object))
                 places.last().append(object->pos().x());
     }
@@ -56,7 +58,7 @@ QList<QList<double>> placesIn(const OpenResult &opened)
 QStringList lessonNames(const OpenResult &opened)
 {
     QStringList names;
-    for (const LessonData &lesson : opened.document->lessons())
+    for (const LessonData &lesson : support::listed(opened.document->lessons()))
         names.append(lesson.name);
     return names;
 }
@@ -64,7 +66,7 @@ QStringList lessonNames(const OpenResult &opened)
 QList<QByteArray> damagedParts(const ExtraData &extra)
 {
     QList<QByteArray> parts;
-    for (const QJsonValue &part : extra.members.value(QLatin1String("damaged")).toArray())
+    for (const QJsonValue &part : support::listed(extra.members.value(QLatin1String("damaged")).toArray()))
         parts.append(QByteArray::fromBase64(part.toString().toLatin1()));
     return parts;
 }
@@ -290,7 +292,7 @@ void TestDamagedText::objectsOfAOneLineFileAreFoundBehindDamage()
     const OpenResult opened = decodeDocument(text, m_registry);
     QVERIFY(opened.document);
     QList<double> all;
-    for (const QList<double> &places : placesIn(opened))
+    for (const QList<double> &places : support::listed(placesIn(opened)))
         all += places;
     QCOMPARE(all, (QList<double>{1, 2, 3, 4}));
     QCOMPARE(lessonNames(opened), bothLessons);

@@ -1,5 +1,7 @@
 #include "framework/files/filetest.h"
 
+#include <support/listed.h>
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
 
@@ -97,8 +99,8 @@ Sample sampleOf(DocumentFormat format)
         }
     }
     int number = 0;
-    for (Page *page : document->pages()) {
-        for (CBaseObject *object : page->objects()) {
+    for (Page *page : support::listed(document->pages())) {
+        for (CBaseObject *object : support::listed(page->objects())) {
             sample.objects.insert(object->getPos().x(), objects.value(number++));
             sample.states.insert(object->getPos().x(), stateOf(object));
         }
@@ -177,7 +179,7 @@ bool hasPlaceForEach(const FileMessage &message)
 int countOfObjects(const Document &document)
 {
     int count = 0;
-    for (const Page *page : document.pages())
+    for (const Page *page : support::listed(document.pages()))
         count += page->objectCount();
     return count;
 }
@@ -273,8 +275,8 @@ QString TestEveryDamage::problemAfter(const Sample &sample, DocumentFormat forma
 QString TestEveryDamage::lossIn(const OpenResult &opened, const Sample &sample, int from, int to) const
 {
     QVector<QJsonObject> found;
-    for (const Page *page : opened.document->pages())
-        for (CBaseObject *object : page->objects())
+    for (const Page *page : support::listed(opened.document->pages()))
+        for (CBaseObject *object : support::listed(page->objects()))
             found.append(isPlaceholder(object) ? QJsonObject() : stateOf(object));
     for (auto object = sample.objects.begin(); object != sample.objects.end(); ++object) {
         const int times = found.count(sample.states.value(object.key()));

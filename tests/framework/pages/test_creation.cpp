@@ -51,9 +51,9 @@ struct Workshop : Editor
         , tool(&registry)
     {
         registry.addPlugin(&plugin, QStringLiteral("test"));
-        QObject::connect(&tool, &pagehost::CreationTool::created,
+        QObject::connect(&tool, &pagehost::CreationTool::created, &tool,
                          [this](CBaseObject *object) { created.append(object); });
-        QObject::connect(&tool, &pagehost::CreationTool::cancelled, [this] { ++cancellations; });
+        QObject::connect(&tool, &pagehost::CreationTool::cancelled, &tool, [this] { ++cancellations; });
     }
     bool begin(const char *kind) { return tool.begin(page->scene(), QString::fromLatin1(kind)); }
     CreatedObject *last() const { return dynamic_cast<CreatedObject *>(created.value(created.size() - 1)); }

@@ -5,6 +5,7 @@
 
 #include "framework/testobject.h"
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <QtCore/QMutex>
@@ -63,7 +64,7 @@ struct Pictures
 {
     explicit Pictures(ThumbnailPainter &painter)
     {
-        QObject::connect(&painter, &ThumbnailPainter::ready, [this](Page *page, const QImage &picture) {
+        QObject::connect(&painter, &ThumbnailPainter::ready, &painter, [this](Page *page, const QImage &picture) {
             pages.append(page);
             images.append(picture);
         });
@@ -330,11 +331,11 @@ void TestPainting::changedPageIsBegunAnew()
     ThumbnailPainter painter;
     const Pictures pictures(painter);
     painter.request(&page, QSize(50, 25));
-    auto *first = static_cast<PictureObject *>(page.objects().first());
+    auto *first = static_cast<PictureObject *>(page.objects().constFirst());
     support::pass(untilTheFirstWindow);
     QCOMPARE(first->pictures, 1);
     QVERIFY(pictures.images.isEmpty());
-    for (CBaseObject *object : page.objects())
+    for (CBaseObject *object : support::listed(page.objects()))
         object->CPSRootObject::setPos(QPointF(50, 0), false);
     painter.finish();
     QCOMPARE(first->pictures, 2);
@@ -434,7 +435,7 @@ void TestPainting::listenerMayAskForMore()
     SmallPage page;
     ThumbnailPainter painter;
     int count = 0;
-    connect(&painter, &ThumbnailPainter::ready, [&](Page *ready) {
+    connect(&painter, &ThumbnailPainter::ready, &painter, [&](Page *ready) {
         if (++count < 3)
             painter.request(ready, QSize(10, 5));
     });

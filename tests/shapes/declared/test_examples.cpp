@@ -8,6 +8,8 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtTest/QtTest>
@@ -225,7 +227,7 @@ void TestExamples::ticksAndFiguresAreThereForEachRound()
     shape.createByClick();
     shape.painted();
     int shown = 0;
-    for (const QZeSvgNode *child : shape.document().children()) {
+    for (const QZeSvgNode *child : support::listed(shape.document().children())) {
         if (child->type() != QZeSvgNode::Group)
             continue;
         const QList<QZeSvgNode *> figures = static_cast<const QZeSvgStructureNode *>(child)->children();
@@ -247,10 +249,11 @@ void TestExamples::figuresGetTheColourOfThePen()
     shape.createByClick();
     shape.painted();
     shape.core().setPenColor(QColor(200, 0, 0), false);
-    for (const QZeSvgNode *child : shape.document().children()) {
+    for (const QZeSvgNode *child : support::listed(shape.document().children())) {
         if (child->type() != QZeSvgNode::Group)
             continue;
-        for (const QZeSvgNode *figure : static_cast<const QZeSvgStructureNode *>(child)->children())
+        for (const QZeSvgNode *figure :
+             support::listed(static_cast<const QZeSvgStructureNode *>(child)->children()))
             QCOMPARE(figure->attribute(QStringLiteral("fill")), QStringLiteral("#c80000"));
     }
 }
@@ -261,9 +264,13 @@ void TestExamples::figuresAreWhatTheirPropertiesSay()
     shape.createByClick();
     shape.painted();
     const auto firstFigure = [&] {
-        for (const QZeSvgNode *child : shape.document().children())
+        for (const QZeSvgNode *child : support::listed(shape.document().children()))
             if (child->type() == QZeSvgNode::Group)
-                return static_cast<const QZeSvgStructureNode *>(child)->children().first()->boundingRect().width();
+                return static_cast<const QZeSvgStructureNode *>(child)
+                    ->children()
+                    .constFirst()
+                    ->boundingRect()
+                    .width();
         return 0.0;
     };
     const double one = firstFigure();
@@ -288,7 +295,7 @@ void TestExamples::figuresOfTheClockDisappear()
     shape.createByClick();
     const auto figures = [&]() -> const QZeSvgNode * {
         shape.painted();
-        for (const QZeSvgNode *child : shape.document().children())
+        for (const QZeSvgNode *child : support::listed(shape.document().children()))
             if (child->type() == QZeSvgNode::Group)
                 return child;
         return nullptr;

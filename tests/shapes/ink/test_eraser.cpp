@@ -2,6 +2,8 @@
 
 #include "shapes/writingdesk.h"
 
+#include <support/listed.h>
+
 using pagehost::ToolRole;
 
 namespace {
@@ -19,7 +21,7 @@ struct Lines : WritingDesk
     QVector<QRectF> places() const
     {
         QVector<QRectF> places;
-        for (const CBaseObject *object : page->objects())
+        for (const CBaseObject *object : support::listed(page->objects()))
             places.append(placeOf(object));
         return places;
     }

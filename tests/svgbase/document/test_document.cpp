@@ -2,6 +2,8 @@
 #include "grammar/inputlimits.h"
 #include "svgbase/svgdrawing.h"
 
+#include <support/listed.h>
+
 #include <QtTest>
 
 using namespace Svg;
@@ -16,7 +18,7 @@ QZeSvgStructureNode *group(QZeSvgTinyDocument &document, const QString &id)
 QStringList childIds(const QZeSvgStructureNode &node)
 {
     QStringList ids;
-    for (const QZeSvgNode *child : node.children())
+    for (const QZeSvgNode *child : support::listed(node.children()))
         ids.append(child->nodeId());
     return ids;
 }
@@ -322,10 +324,10 @@ void TestDocument::cloneTakesChildrenAttributesStylingAndFlags()
     const auto *copiedGroup = dynamic_cast<QZeSvgStructureNode *>(copy);
     QVERIFY(copiedGroup);
     QCOMPARE(childIds(*copiedGroup), QStringList({"a", "h"}));
-    const auto *inner = dynamic_cast<QZeSvgStructureNode *>(copiedGroup->children().last());
+    const auto *inner = dynamic_cast<QZeSvgStructureNode *>(copiedGroup->children().constLast());
     QVERIFY(inner);
-    QVERIFY(!inner->children().first()->isFillEnabled());
-    QCOMPARE(inner->children().first()->boundingRect(), QRectF(40, 0, 9, 9));
+    QVERIFY(!inner->children().constFirst()->isFillEnabled());
+    QCOMPARE(inner->children().constFirst()->boundingRect(), QRectF(40, 0, 9, 9));
     document->removeChild(document->namedNode("g"));
     QCOMPARE(drawn(*document).pixelColor(4, 4), QColor(0, 0, 255));
 }
@@ -449,7 +451,7 @@ void TestDocument::addingRefusesToNestTooDeeply()
     QVERIFY(document);
     auto *deepest = group(*document, "g");
     while (!deepest->children().isEmpty())
-        deepest = dynamic_cast<QZeSvgStructureNode *>(deepest->children().first());
+        deepest = dynamic_cast<QZeSvgStructureNode *>(deepest->children().constFirst());
     deepest->addChild(document->namedNode("h"), "x");
     QVERIFY(deepest->children().isEmpty());
     QVERIFY(document->namedNode("h"));

@@ -5,6 +5,8 @@
 #include "svgbase/document/limitdocuments.h"
 #include "svgbase/svgdrawing.h"
 
+#include <support/listed.h>
+
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
@@ -39,7 +41,7 @@ QByteArray contentOf(const char *path)
 double product(const QString &text)
 {
     double result = 1;
-    for (const QString &factor : text.split('*'))
+    for (const QString &factor : support::listed(text.split('*')))
         result *= factor.toDouble();
     return result;
 }
@@ -439,7 +441,7 @@ void TestLimits::documentedCodesExist()
 {
     const QMap<QString, QString> codes = matches("/src/host/svgbase/qzesvgtinydocument.h", "([A-Z]\\w+) = (\\d+),");
     QSet<QString> used;
-    for (const Limit &limit : documentedLimits()) {
+    for (const Limit &limit : support::listed(documentedLimits())) {
         if (!limit.code.isEmpty())
             used.insert(limit.code);
         QVERIFY2(limit.code.isEmpty() || codes.contains(limit.code), qPrintable(limit.code));

@@ -4,6 +4,8 @@
 #include "svgbase/goldencases.h"
 #include "svgbase/tree/treereading.h"
 
+#include <support/listed.h>
+
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
@@ -22,7 +24,7 @@ QByteArray inRoot(const QByteArray &content)
 QVector<QByteArray> knownTexts()
 {
     QVector<QByteArray> texts;
-    for (const QString &name : goldencases::namesWith(QStringLiteral(".svg")))
+    for (const QString &name : support::listed(goldencases::namesWith(QStringLiteral(".svg"))))
         texts.append(goldencases::contents(name));
     return texts;
 }

@@ -1,6 +1,8 @@
 #include "grammar/inputlimits.h"
 #include "svgbase/svgdrawing.h"
 
+#include <support/listed.h>
+
 #include <QtTest>
 
 using namespace Svg;
@@ -186,13 +188,13 @@ void TestReading::childrenAreTheDrawableOnesInOrder()
         "<title>t</title><desc>d</desc><defs><rect/></defs><style>x{}</style><rect id='a'/><linearGradient/>"
         "<g id='b'><circle id='c'/></g><metadata/><animate/><text id='d'/><use id='e'/>");
     QStringList ids;
-    for (const QZeSvgNode *child : document->children())
+    for (const QZeSvgNode *child : support::listed(document->children()))
         ids.append(child->nodeId());
     QCOMPARE(ids, QStringList({"a", "b", "d", "e"}));
     auto *group = dynamic_cast<QZeSvgStructureNode *>(document->namedNode("b"));
     QVERIFY(group);
     QCOMPARE(group->children().size(), 1);
-    QCOMPARE(group->children().first(), document->namedNode("c"));
+    QCOMPARE(group->children().constFirst(), document->namedNode("c"));
 }
 
 void TestReading::elementsDirectlyUnderTheDocumentHaveNoParent()

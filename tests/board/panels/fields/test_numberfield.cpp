@@ -10,6 +10,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QUndoStack>
@@ -29,7 +31,7 @@ struct MeasuredShape
 
     board::NumberField *field(const QString &name) const
     {
-        for (board::NumberField *candidate : board.window().findChildren<board::NumberField *>())
+        for (board::NumberField *candidate : support::listed(board.window().findChildren<board::NumberField *>()))
             if (candidate->accessibleName() == name && candidate->isVisible())
                 return candidate;
         return nullptr;
