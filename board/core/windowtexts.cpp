@@ -27,7 +27,6 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_GROUP_OF", QT_TRANSLATE_NOOP("board", "Group (%1)")},
         {"IDS_BOARD_OUTLINE_EMPTY", QT_TRANSLATE_NOOP("board", "Nothing on this page yet.")},
         {"IDS_BOARD_HISTORY_EMPTY", QT_TRANSLATE_NOOP("board", "Changes will be listed here.")},
-        {"IDS_SHAPEGROUP_OWN", QT_TRANSLATE_NOOP("board", "My shapes")},
         {"IDS_BOARD_LAST_USED", QT_TRANSLATE_NOOP("board", "Last used")},
         {"IDS_BOARD_NO_SUCH_SHAPE", QT_TRANSLATE_NOOP("board", "No shape called “%1”.")},
         {"IDS_BOARD_ALL_SHAPES", QT_TRANSLATE_NOOP("board", "All shapes")},

@@ -1317,10 +1317,6 @@
         <translation>Die Werkzeuge können große Knöpfe für Finger haben. Unter „Ansicht“ geht es zurück.</translation>
     </message>
     <message>
-        <source>My shapes</source>
-        <translation>Meine Formen</translation>
-    </message>
-    <message>
         <source>Export…</source>
         <translation>Ausgeben…</translation>
     </message>

@@ -40,6 +40,7 @@ constexpr Entry entries[] = {
     {"IDS_UNDO_BACKGROUND", "Change background", "Hintergrund ändern"},
     {"IDS_UNDO_STYLE", "Change look", "Aussehen ändern"},
     {"IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"},
+    {"IDS_SHAPEGROUP_OWN", "My shapes", "Meine Formen"},
     {"IDS_UNDO_FILL", "Change fill", "Füllung ändern"},
     {"IDS_UNDO_ADD_PAGE", "Add page", "Seite hinzufügen"},
     {"IDS_UNDO_REMOVE_PAGE", "Delete page", "Seite löschen"},

@@ -17,7 +17,7 @@ namespace pagehost {
 
 /// The palette group of basic shapes, which precedes all others.
 constexpr char basicGroup[] = "IDS_SHAPEGROUP_BASIC";
-/// Localisation key of the palette group of shapes that users have made; applications name it, and show it last.
+/// Localisation key of the palette group of shapes that users have made, which applications show last.
 constexpr char ownGroup[] = "IDS_SHAPEGROUP_OWN";
 
 /// A PNG picture for palettes (ObjectPlugin::dataOf()); empty where palettes show the look of a new object.
