@@ -11,8 +11,8 @@ class Page;
 
 namespace board {
 
-/// How far an arrow key moves, scene units: by the lines of the grid or a usual step, with Shift ten times as far, with
-/// Alt by a pixel.
+/// How far an arrow key moves, scene units: by the lines of the grid or a usual step, with Shift ten times as far,
+/// with Alt by a pixel.
 double keyStep(const pagehost::Page &page, Qt::KeyboardModifiers modifiers);
 
 /// Moving the selection with the arrow keys. A key that is held down repeats; all of its repeats are one undo step.

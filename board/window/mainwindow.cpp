@@ -456,9 +456,9 @@ void MainWindow::addStyleBar()
     auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
     connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
     bar->setReplaced(m_panel->isOpen());
-    new WindowParts(m_commands,
-                    {m_view, bar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar, m_topBar, m_notices},
-                    this);
+    new WindowParts(
+        m_commands,
+        {m_view, bar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar, m_topBar, m_notices}, this);
 }
 
 void MainWindow::connectParts()
