@@ -47,6 +47,16 @@ double heightOf(const ShapeDriver &shape, int number)
     return shape.controlPoint(number).center().y();
 }
 
+/// Within the digits that path data has.
+bool hasNumbers(const QString &text, const QVector<double> &expected)
+{
+    const QStringList words = text.simplified().split(QLatin1Char(' '));
+    bool isEqual = words.size() == expected.size();
+    for (int i = 0; isEqual && i < words.size(); ++i)
+        isEqual = qAbs(words[i].toDouble() - expected[i]) < 1e-6;
+    return isEqual;
+}
+
 } // namespace
 
 class TestNumberText : public QObject
@@ -68,6 +78,7 @@ private Q_SLOTS:
     void undoOfADragGivesTheTextBack();
     void undoOfATextPutsThePointsBack();
     void valuesKeepTheirMeaningAtAnotherSize();
+    void curveIsSmoothAndStaysBetweenItsPoints();
 };
 
 void TestNumberText::calloutOfItsOwnSizeIsAsInItsTemplate()
@@ -218,6 +229,26 @@ void TestNumberText::valuesKeepTheirMeaningAtAnotherSize()
     QCOMPARE(shape.controlPoint(1).center(), QPointF(8, 58));
     QCOMPARE(shape.controlPoint(2).center(), QPointF(48, 208));
     QCOMPARE(valuesOf(shape), QStringLiteral("5 -10 0 0 0 0 0 0 0 0 0 0"));
+}
+
+// A third of the way between points is 20 / 3. At the left end the parabola through (8, 60), (28, 8) and (48, 8)
+// has the slope -3.9; beside level pieces and where it turns the curve is level. Between slopes of -2.6 and -1.3 it
+// has their harmonic mean, -26 / 15, and the right end -0.65.
+void TestNumberText::curveIsSmoothAndStaysBetweenItsPoints()
+{
+    ShapeDriver shape(QStringLiteral("curve"));
+    shape.createByClick();
+    writeValues(shape, QStringLiteral("0 10 10 0 0 0 0 0 0 -10 0 5"));
+    QString path = shape.document().namedNode(QStringLiteral("figure"))->attribute(QStringLiteral("d"));
+    const QStringList pieces = path.remove(QLatin1Char('M')).split(QLatin1Char('C'));
+    QCOMPARE(pieces.size(), 12);
+    QVERIFY(hasNumbers(pieces[0], {8, 60}));
+    QVERIFY(hasNumbers(pieces[1], {8 + 20 / 3.0, 34, 28 - 20 / 3.0, 8, 28, 8}));
+    QVERIFY(hasNumbers(pieces[2], {28 + 20 / 3.0, 8, 48 - 20 / 3.0, 8, 48, 8}));
+    QVERIFY(hasNumbers(pieces[3], {48 + 20 / 3.0, 8, 68 - 20 / 3.0, 60, 68, 60}));
+    const double rise = 20 / 3.0 * 26 / 15;
+    QVERIFY(hasNumbers(pieces[10], {188 + 20 / 3.0, 112, 208 - 20 / 3.0, 60 + rise, 208, 60}));
+    QVERIFY(hasNumbers(pieces[11], {208 + 20 / 3.0, 60 - rise, 228 - 20 / 3.0, 34 + 13 / 3.0, 228, 34}));
 }
 
 QTEST_MAIN(TestNumberText)
