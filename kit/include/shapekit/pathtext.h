@@ -5,6 +5,7 @@
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
 #include <QtCore/QString>
+#include <QtCore/QVector>
 
 #include <initializer_list>
 
@@ -33,6 +34,9 @@ public:
     PathText &polygon(std::initializer_list<QPointF> corners);
     PathText &ellipse(const QRectF &box);
     PathText &roundedRectangle(const QRectF &box, double radius);
+    /// The graph of a function through at least two points, given from left to right: smooth, and level where it
+    /// turns, so that it stays between its points.
+    PathText &graph(const QVector<QPointF> &points);
     /// The outlines of text whose digits have that height, centred on a point.
     PathText &text(QPointF centre, const QString &text, double height);
     /// Letters of a font size on a line that begins at `start`, or lies with that part of its length before it.
