@@ -291,8 +291,9 @@ void KeyHand::answer()
 
 bool KeyHand::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_field || event->type() != QEvent::KeyPress ||
-        static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+    // The field is asked for last: events of its destruction come here, too, when it is no line edit any more.
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape ||
+        watched != m_field)
         return false;
     m_view->setFocus();
     return true;
