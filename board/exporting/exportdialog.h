@@ -34,7 +34,7 @@ public:
     ExportChoice choice() const;
 
 Q_SIGNALS:
-    void chosen(const ExportChoice &choice);
+    void chosen(const board::ExportChoice &choice);
 
 private:
     QButtonGroup *addChoices(QGridLayout *grid, const char *nameKey, const QVector<const char *> &choiceKeys);

@@ -73,7 +73,8 @@ void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &p
         return;
     QPainterPath outside;
     outside.setFillRule(Qt::WindingFill);
-    for (const QRectF &side : sidesOf(paper, exposed)) {
+    const auto sides = sidesOf(paper, exposed);
+    for (const QRectF &side : sides) {
         const QList<QGraphicsItem *> items = page.scene()->items(side, Qt::IntersectsItemBoundingRect);
         for (const QGraphicsItem *item : items)
             outside.addRect(item->sceneBoundingRect() & side);

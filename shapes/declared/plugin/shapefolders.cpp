@@ -33,7 +33,7 @@ SharedDeclaration readFile(const QString &path, const pagehost::MessageListener 
     QVector<Message> messages;
     const QString name = QFileInfo(path).fileName().chopped(suffix.size());
     // One byte more than there may be, so that a file that is too large is told from one that isn't.
-    const SharedDeclaration declaration = readShape(file.read(limits::fileBytes + 1), name, &messages);
+    SharedDeclaration declaration = readShape(file.read(limits::fileBytes + 1), name, &messages);
     for (const Message &message : qAsConst(messages))
         if (message.severity == Message::Error)
             listener(pluginMessage(message, path));

@@ -104,7 +104,7 @@ QByteArray pagesOf(pagehost::Document &document)
     const QVector<pagehost::LessonData> kept = document.lessons();
     const QSignalBlocker quiet(&document);
     document.setLessons({});
-    const QByteArray bytes = pagehost::encodeDocument(document, pagehost::DocumentFormat::Binary);
+    QByteArray bytes = pagehost::encodeDocument(document, pagehost::DocumentFormat::Binary);
     document.setLessons(kept);
     return bytes;
 }
