@@ -22,10 +22,10 @@ if(GLIOLOLOK_REFERENCE_HOST)
             COMPONENT development)
 endif()
 
-# Documents and examples, in folders that keep the links between them.
+# Documents and examples, in folders that keep the links between them. The index leads to files of the repository, too.
 if(GLIOLOLOK_REFERENCE_HOST)
     install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT tools
-            PATTERN refresh EXCLUDE PATTERN abi.txt EXCLUDE)
+            PATTERN README.md EXCLUDE PATTERN refresh EXCLUDE PATTERN abi.txt EXCLUDE)
 endif()
 
 # The file derives its prefix from its own location, so that an installation can be moved.
