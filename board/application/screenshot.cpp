@@ -104,6 +104,37 @@ void startDrawing(MainWindow &window, const QString &kindId)
         sendMouse(window.view(), QEvent::MouseMove, {400 + step * 42.0, 220 + step * 26.0});
 }
 
+void waitFor(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void drag(PageView *view, const QPointF &from, const QPointF &to)
+{
+    sendMouse(view, QEvent::MouseButtonPress, from);
+    for (int step = 1; step <= 10; ++step)
+        sendMouse(view, QEvent::MouseMove, from + (to - from) * step / 10.0);
+}
+
+void drawBox(MainWindow &window, const QRectF &box)
+{
+    window.beginCreation(QStringLiteral("shapes.roundedrectangle"));
+    drag(window.view(), box.topLeft(), box.bottomRight());
+    sendMouse(window.view(), QEvent::MouseButtonRelease, box.bottomRight());
+}
+
+/// Leaves the mouse down, over a connector that is about to reach the second of two boxes.
+void startConnecting(MainWindow &window)
+{
+    drawBox(window, {280, 200, 240, 130});
+    drawBox(window, {760, 380, 240, 130});
+    waitFor(lessonStep); // until the guides of the last drag are gone
+    window.tools()->choose(Tool::Connector);
+    drag(window.view(), {500, 265}, {764, 445});
+}
+
 /// How far the object is from the middle of its page, scene units.
 double distanceFromMiddle(const CBaseObject *object, const pagehost::Page *page)
 {
@@ -141,13 +172,6 @@ void selectRichest(pagehost::Page *page)
     page->select({*std::max_element(objects.begin(), objects.end(), [](CBaseObject *one, CBaseObject *other) {
         return std::make_pair(settingCount(one), areaOf(one)) < std::make_pair(settingCount(other), areaOf(other));
     })});
-}
-
-void waitFor(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 /// Leaves the recorder running.
@@ -196,6 +220,13 @@ void pinPanel(MainWindow &window, const QWidget *part)
     QApplication::processEvents();
 }
 
+/// States in which a page of few shapes shows more of the window's parts.
+bool needsFewShapes(const QString &state)
+{
+    return state == QLatin1String("playing") || state == QLatin1String("palette") ||
+           state == QLatin1String("presenting");
+}
+
 bool isAboutOneShape(const QString &state)
 {
     return state == QLatin1String("selection") || state == QLatin1String("selected") ||
@@ -214,6 +245,8 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
         selectRichest(page);
     if (state == QLatin1String("selected") && page->objectCount() > 1)
         changeMiddle(page);
+    if (state == QLatin1String("connecting"))
+        startConnecting(window);
     if (state == QLatin1String("text"))
         startText(window);
     if (state == QLatin1String("presenting"))
@@ -244,11 +277,14 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
-            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
-            QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
-            QStringLiteral("recording"), QStringLiteral("playing"),    QStringLiteral("selected"),
-            QStringLiteral("text"),      QStringLiteral("presenting"), allSituations};
+    return {QStringLiteral("empty"),      QStringLiteral("shapes"),
+            QStringLiteral("selection"),  QStringLiteral("settings"),
+            QStringLiteral("properties"), QStringLiteral("palette"),
+            QStringLiteral("pages"),      QStringLiteral("writing"),
+            QStringLiteral("drag"),       QStringLiteral("recording"),
+            QStringLiteral("playing"),    QStringLiteral("selected"),
+            QStringLiteral("text"),       QStringLiteral("connecting"),
+            QStringLiteral("presenting"), allSituations};
 }
 
 namespace {
@@ -276,11 +312,11 @@ bool take(Workspace &workspace, const Situation &situation, const QString &file,
     QCoreApplication::setApplicationName(QStringLiteral("gliololok-board-picture"));
     QSettings().clear();
     const QStringList emptyStates{QStringLiteral("empty"), QStringLiteral("drag"), QStringLiteral("writing"),
-                                  QStringLiteral("text")};
+                                  QStringLiteral("text"), QStringLiteral("connecting")};
     if (document.isEmpty() && !emptyStates.contains(state)) {
         fillWithDemo(workspace);
-        // The last page shows the selected shape large.
-        if (isAboutOneShape(state))
+        // The last page shows few shapes, and the selected one large.
+        if (isAboutOneShape(state) || needsFewShapes(state))
             workspace.document()->setCurrentIndex(workspace.document()->pageCount() - 1);
     }
     useDesktopFont();

@@ -3,6 +3,7 @@
 installed documents link to installed files alone.
 """
 
+import fnmatch
 import os
 import re
 import sys
@@ -15,8 +16,11 @@ from check_rules import text_files  # noqa: E402
 
 INDEX = "docs/README.md"
 PICTURES = "docs/images"
-# The folders that are installed; the index is not.
+LARGEST_PICTURE = 150 * 1024  # of the teachers' guide, bytes
+# The folders that are installed, and the files of them that are not.
 INSTALLED = ("docs/", "examples/")
+KEPT_BACK = {INDEX, "docs/abi.txt", "docs/images/refresh"}
+PACKAGES = ("gliololok-board", "libgliololok-dev", "libgliololok1")
 
 FENCE = re.compile(r"^( *)(```+).*?^\1\2`*$", re.MULTILINE | re.DOTALL)
 CODE = re.compile(r"(`+)(?!`).+?(?<!`)\1(?!`)", re.DOTALL)
@@ -97,6 +101,21 @@ class TestDocuments(unittest.TestCase):
         left = [(path, link) for path, link in self.links if path.startswith(INSTALLED) and path != INDEX
                 and not target_of(path, link)[0].startswith(INSTALLED)]
         self.assertEqual(left, [])
+
+    def test_every_installed_file_is_in_one_package(self):
+        patterns = [line[len("usr/share/doc/gliololok/") :] for package in PACKAGES
+                    for line in read(f"debian/{package}.install").splitlines() if "/doc/" in line]
+        for folder in INSTALLED:
+            for directory, _, files in os.walk(os.path.join(ROOT, folder)):
+                for path in (os.path.relpath(os.path.join(directory, name), ROOT) for name in files):
+                    found = [p for p in patterns if fnmatch.fnmatch(path, p) or path.startswith(p + "/")]
+                    self.assertEqual(len(found), 0 if path in KEPT_BACK and not found else 1, path)
+
+    def test_pictures_of_the_guide_are_small(self):
+        pictures = [name for name in os.listdir(os.path.join(ROOT, PICTURES)) if name.startswith("guide-")]
+        self.assertGreater(len(pictures), 5)
+        for name in pictures:
+            self.assertLess(os.path.getsize(os.path.join(ROOT, PICTURES, name)), LARGEST_PICTURE, name)
 
     def test_links_in_code_are_none(self):
         self.assertEqual(links_of("`[a](b.md)`\n\n```\n[c](d.md)\n```\n"), [])

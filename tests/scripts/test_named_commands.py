@@ -12,7 +12,7 @@ sys.path.insert(0, os.path.join(ROOT, "scripts"))
 from check_rules import text_files  # noqa: E402
 
 # Documents, and the section of each that names commands; none for the whole document.
-DOCUMENTS = {"docs/board.md": "Usual functions, and where they are"}
+DOCUMENTS = {"docs/board.md": "Usual functions, and where they are", "docs/teachers-guide.md": ""}
 
 BOLD = re.compile(r"\*\*([^*]+)\*\*(?: \(([^)]+)\))?")
 BOARD_TEXT = re.compile(r'\{"(\w+)",\s*QT_TRANSLATE_NOOP\("board",\s*((?:"[^"]*"\s*)+)\)')
