@@ -295,4 +295,14 @@ step_board() {
     ls "$work"/pages/*.png >/dev/null || fail "the installed board painted no page: $output"
 }
 
+# The commands of the documents, as their readers type them.
+step_documents() {
+    python3 "$source/tests/package/documents.py" "$prefix" "$CXX" || fail "a document's command"
+}
+
+# Manual pages and completions against the help of the programs.
+step_manuals() {
+    python3 "$source/tests/package/manuals.py" "$prefix" || fail "a manual page or a completion"
+}
+
 "step_$step"

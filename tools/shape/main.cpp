@@ -39,8 +39,9 @@ QString usage()
                 .arg(QLatin1String(command.name), QLatin1String(command.arguments), QLatin1String(command.summary));
     return text +
            QStringLiteral(
-               "\n\"gliololok-shape COMMAND --help\" tells more about a command. How a shape is made\n"
-               "is told by shape-author.md and shape-reference.md, installed in share/doc/gliololok/docs.\n\n"
+               "\n\"gliololok-shape COMMAND --help\" tells more about a command, \"gliololok-shape --version\"\n"
+               "the version. How a shape is made is told by shape-author.md and shape-reference.md,\n"
+               "installed in share/doc/gliololok/docs.\n\n"
                "Exit codes: 0 all is well, 1 there are findings, 2 the command could not run.\n");
 }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void schemaNoticesWhatIsWrong_data();
     void schemaNoticesWhatIsWrong();
     void documentationNamesEveryTag();
+    void exampleOfTheDocumentationFollowsTheSchema();
     void numbersComeBackFromJson_data();
     void numbersComeBackFromJson();
     void textOfUnknownObjectsStays();
@@ -158,6 +159,20 @@ void TestFormat::documentationNamesEveryTag()
     // Version, members and chunk of the document, two lessons, page, its members and chunk, three objects, the end.
     QCOMPARE(chunks, 12);
     QCOMPARE(offset, bytes.size());
+}
+
+void TestFormat::exampleOfTheDocumentationFollowsTheSchema()
+{
+    const QString page = QString::fromUtf8(contentsOf(QStringLiteral(PROJECT_DIR "/docs/board-format.md")));
+    const QString block = page.section(QStringLiteral("```json\n"), 1, 1);
+    const QByteArray example = block.section(QStringLiteral("```"), 0, 0).toUtf8();
+    QCOMPARE(schemaProblem(QJsonDocument::fromJson(example).object(), schema()), QString());
+    FileTestRegistry registry;
+    const OpenResult opened = decodeDocument(example, registry);
+    QVERIFY(opened.document);
+    QCOMPARE(opened.document->pageCount(), 1);
+    QCOMPARE(opened.document->page(0)->objectCount(), 1);
+    QCOMPARE(opened.document->lessons().size(), 1);
 }
 
 void TestFormat::numbersComeBackFromJson_data()
