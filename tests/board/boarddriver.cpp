@@ -194,6 +194,8 @@ void BoardDriver::pick(const QString &kindId)
 {
     if (!m_window->palette()->isOpen())
         m_window->commands()->action(board::Command::Shapes)->trigger();
+    // The shapes that were last used have new buttons from the next turn of the event loop on.
+    QCoreApplication::processEvents();
     const auto buttons = m_window->palettePanel()->buttons();
     for (board::PaletteButton *button : buttons)
         if (button->kindId() == kindId)
