@@ -8,6 +8,7 @@ QVector<TextEntry> clipboardTexts()
 {
     return {
         {"IDS_BOARD_ADD_WORKSHEET", QT_TRANSLATE_NOOP("board", "Add worksheet")},
+        {"IDS_BOARD_INSERTABLE", QT_TRANSLATE_NOOP("board", "Pictures, drawings and worksheets")},
         {"IDS_BOARD_WORKSHEETS", QT_TRANSLATE_NOOP("board", "Worksheets")},
         {"IDS_BOARD_READING_PDF", QT_TRANSLATE_NOOP("board", "Reading “%1” …")},
         {"IDS_BOARD_STOP_READING", QT_TRANSLATE_NOOP("board", "Stop")},

@@ -29,7 +29,7 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const bool isLive = m_which == Icon::Record && mode != QIcon::Disabled;
+        const bool isLive = (m_which == Icon::Record || m_which == Icon::Stop) && mode != QIcon::Disabled;
         const QColor color = isLive ? themeColors().record : QApplication::palette().color(group, m_role);
         QColor shade = color;
         shade.setAlpha(shadeAlpha);

@@ -8,6 +8,10 @@
         <translation>Arbeitsblatt hinzufügen</translation>
     </message>
     <message>
+        <source>Pictures, drawings and worksheets</source>
+        <translation>Bilder, Zeichnungen und Arbeitsblätter</translation>
+    </message>
+    <message>
         <source>Worksheets</source>
         <translation>Arbeitsblätter</translation>
     </message>

@@ -590,7 +590,7 @@ void MainWindow::askAndInsert()
     auto *dialog = new QFileDialog(this, m_commands->name(Command::InsertAnything), m_documents->folder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilter(m_workspace->text("IDS_BOARD_PICTURES") +
+    dialog->setNameFilter(m_workspace->text("IDS_BOARD_INSERTABLE") +
                           QStringLiteral(" (*.svg *.png *.jpg *.jpeg *.gif *.bmp *.pdf)"));
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &file) {
         QMimeData data;

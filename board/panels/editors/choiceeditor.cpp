@@ -18,7 +18,9 @@ ChoiceEditor::ChoiceEditor(const QVector<ChoiceEntry> &entries, const QSize &ico
     for (const ChoiceEntry &entry : entries)
         m_box->addItem(entry.icon, entry.text);
     m_box->setIconSize(iconSize);
-    m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // As wide as its longest entry where there is room, in narrow panels as wide as these are.
+    m_box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_box->setMinimumContentsLength(1);
     m_box->setFocusPolicy(Qt::StrongFocus);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -24,9 +24,11 @@
 
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QStyleOptionComboBox>
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
@@ -104,6 +106,7 @@ private Q_SLOTS:
     void duplicateAndLockAreInTheBar();
     void restOfTheMenuIsInTheBar();
     void coloursThatDifferAreShownAsADash();
+    void aChoiceShowsItsLongestText();
 };
 
 void TestStyleBar::init()
@@ -334,6 +337,26 @@ void TestStyleBar::coloursThatDifferAreShownAsADash()
     QCOMPARE(t.board.selection().size(), 2);
     QVERIFY(t.control<board::ColorButton>("Outline colour")->isMixed());
     QVERIFY(!t.control<board::ColorButton>("Fill colour")->isMixed());
+}
+
+void TestStyleBar::aChoiceShowsItsLongestText()
+{
+    StyledShape t;
+    t.board.key(Qt::Key_L);
+    t.board.drag({300, 600}, {700, 600});
+    QVERIFY(t.isShown());
+    const auto *box = t.bar->findChild<QComboBox *>();
+    QVERIFY(box && box->isVisible());
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    option.iconSize = box->iconSize();
+    const int room =
+        box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box).width();
+    int widest = 0;
+    for (int entry = 0; entry < box->count(); ++entry)
+        widest = qMax(widest, box->fontMetrics().horizontalAdvance(box->itemText(entry)));
+    QVERIFY(box->count() > 1);
+    QVERIFY2(room >= widest, qPrintable(QStringLiteral("%1 of %2 pixels").arg(room).arg(widest)));
 }
 
 QTEST_MAIN(TestStyleBar)
