@@ -25,9 +25,12 @@ double slopeAtEnd(double outer, double inner)
     return std::abs(slope) > 3 * std::abs(outer) ? 3 * outer : slope;
 }
 
+/// Points that are closer side by side have no slope to speak of, document units.
+constexpr double closest = 1e-6;
+
 double slopeOf(QPointF from, QPointF to)
 {
-    return (to.y() - from.y()) / std::max(1.0, to.x() - from.x());
+    return (to.y() - from.y()) / std::max(closest, to.x() - from.x());
 }
 
 double slopeAt(int point, const QVector<double> &pieces)

@@ -1,17 +1,29 @@
 #include "panels/editors/texteditor.h"
 
-#include <QtWidgets/QHBoxLayout>
+#include "look/theme.h"
+
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
 
 namespace board {
 
 TextEditor::TextEditor(QWidget *parent)
     : ValueEditor(parent)
     , m_line(new QLineEdit(this))
+    , m_note(new QLabel(this))
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_line);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(smallGap);
+    column->addWidget(m_line);
+    column->addWidget(m_note);
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->setWordWrap(true);
+    QPalette colors = m_note->palette();
+    colors.setColor(QPalette::WindowText, themeColors().bad);
+    m_note->setPalette(colors);
+    m_note->hide();
     connect(m_line, &QLineEdit::editingFinished, this, &TextEditor::finish);
 }
 
@@ -39,6 +51,13 @@ void TextEditor::showMixed()
         return;
     m_line->clear();
     m_line->setPlaceholderText(QStringLiteral("—"));
+}
+
+void TextEditor::showNote(const QString &note)
+{
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+    m_line->setAccessibleDescription(note);
 }
 
 void TextEditor::setName(const QString &name)

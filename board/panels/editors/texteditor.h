@@ -2,11 +2,13 @@
 
 #include "panels/editors/valueeditor.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace board {
 
-/// A line of text, taken over by Enter or when the user goes elsewhere.
+/// A line of text, taken over by Enter or when the user goes elsewhere, with room for a
+/// note below it.
 class TextEditor : public ValueEditor
 {
     Q_OBJECT
@@ -16,12 +18,14 @@ public:
 
     void showValue(const QVariant &value) override;
     void showMixed() override;
+    void showNote(const QString &note) override;
     void setName(const QString &name) override;
 
 private:
     void finish();
 
     QLineEdit *m_line;
+    QLabel *m_note;
 };
 
 } // namespace board

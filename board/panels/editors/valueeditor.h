@@ -17,6 +17,8 @@ public:
     virtual void showValue(const QVariant &value) = 0;
     /// Shows that the objects have different values.
     virtual void showMixed() = 0;
+    /// Says what is wrong with the value; empty for nothing.
+    virtual void showNote(const QString &note) { Q_UNUSED(note) }
     /// Whether a caption is needed to say what is edited.
     virtual bool hasCaption() const { return true; }
     /// Sets the name of the value for screen readers and tool tips.

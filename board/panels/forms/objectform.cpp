@@ -45,6 +45,7 @@ void ObjectForm::showRows(const QVector<FormRow> &rows)
     }
     for (int i = 0; i < rows.size(); ++i) {
         m_editors[i]->setEnabled(rows[i].isEnabled);
+        m_editors[i]->showNote(rows[i].note);
         if (rows[i].isMixed)
             m_editors[i]->showMixed();
         else

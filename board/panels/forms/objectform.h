@@ -21,6 +21,7 @@ struct FormRow
     QVariant value;
     bool isMixed = false; ///< the objects have different values
     bool isEnabled = true;
+    QString note; ///< what is wrong with the value; empty for nothing
 };
 
 /// Captions and editors, one below the other. Editors stay while their rows keep their structure, so that nobody is

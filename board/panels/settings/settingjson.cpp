@@ -112,6 +112,8 @@ Reading readControl(const QJsonObject &object)
     SettingControl control;
     control.id = object[QLatin1String("id")].toString();
     control.titleKey = object[QLatin1String("title")].toString();
+    control.messageKey = object[QLatin1String("message")].toString();
+    control.messageArguments = textsIn(object[QLatin1String("arguments")]);
     if (control.id.isEmpty())
         return {};
     const QString type = object[QLatin1String("type")].toString();
@@ -159,6 +161,17 @@ QVector<SettingControl> parseSettings(const QString &json)
             controls.append(*control);
     }
     return controls;
+}
+
+QString filledIn(const QString &text, const QStringList &arguments)
+{
+    QString filled;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPlace = text.at(i) == QLatin1Char('%') && i + 1 < text.size() && text.at(i + 1).isDigit();
+        filled += isPlace ? arguments.value(text.at(i + 1).digitValue() - 1) : QString(text.at(i));
+        i += isPlace ? 1 : 0;
+    }
+    return filled;
 }
 
 QString settingAnswer(const SettingControl &control, const QVariant &value)

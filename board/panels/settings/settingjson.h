@@ -23,6 +23,10 @@ struct SettingControl
     QStringList icons; ///< paths of a choice's pictures; as many as `texts`, or one of both is empty
     QStringList texts; ///< localisation keys of a choice's entries
     NumberRange range; ///< of numbers
+    /// Localisation key of what is wrong with the present value; empty for nothing. Its "%1" and so on stand for
+    /// the arguments.
+    QString messageKey;
+    QStringList messageArguments;
     QString unit;
 
     int entryCount() const { return qMax(icons.size(), texts.size()); }
@@ -31,6 +35,9 @@ struct SettingControl
 /// The controls of a panel in their order, at most 1000. Controls that make no sense (no id, an unknown kind, a
 /// colour that is none, bounds that are no numbers) are passed over; text that is no settings panel gives none.
 QVector<SettingControl> parseSettings(const QString &json);
+
+/// A text with its "%1", "%2" and so on replaced, each once.
+QString filledIn(const QString &text, const QStringList &arguments);
 
 /// The answer of a panel for SetSettingJson() after the user has chosen `value` for a control.
 QString settingAnswer(const SettingControl &control, const QVariant &value);

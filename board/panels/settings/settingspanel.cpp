@@ -78,6 +78,8 @@ FormRow SettingsPanel::rowOf(const SettingControl &control, bool isMixed) const
     row.makeEditor = [this, control] { return makeEditor(control); };
     row.value = control.value;
     row.isMixed = isMixed;
+    if (!isMixed)
+        row.note = filledIn(workspace().text(control.messageKey), control.messageArguments);
     return row;
 }
 

@@ -120,6 +120,7 @@ class TestPanels : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void aFormulaThatCantBeReadIsTold();
     void everySettingHasItsWidget();
     void choosingAnEntry();
     void pickingAColour();
@@ -550,6 +551,39 @@ void TestPanels::panelsInGerman()
         texts.append(label->text());
     QVERIFY2(texts.contains("Linienbreite"), qPrintable(texts.join(' ')));
     QVERIFY(texts.contains("Füllfarbe"));
+}
+
+void TestPanels::aFormulaThatCantBeReadIsTold()
+{
+    BoardDriver board;
+    CBaseObject *curve = board.draw(QStringLiteral("shapes.curve"), {100, 300}, {400, 500});
+    board.page().select({curve});
+    curve->SetSettingJson(QStringLiteral("{\"idFunction\": \"1\"}"), true, true);
+    board::SelectionPanel *panel = board.window().settings();
+    board.window().raisePanel(panel);
+    panel->refresh();
+    const auto field = [panel]() -> QLineEdit * {
+        for (QLineEdit *line : support::listed(panel->findChildren<QLineEdit *>()))
+            if (line->accessibleName() == QLatin1String("Formula"))
+                return line;
+        return nullptr;
+    };
+    const auto write = [&](const char *text) {
+        field()->selectAll();
+        QTest::keyClicks(field(), QLatin1String(text));
+        QTest::keyClick(field(), Qt::Key_Return);
+        panel->refresh();
+    };
+    const auto note = [&] { return field()->parentWidget()->findChild<QLabel *>(); };
+    QVERIFY(field());
+    QVERIFY(note()->isHidden());
+    write("x + qq");
+    QCOMPARE(note()->text(), QStringLiteral("There is no “qq” (character 5)."));
+    QVERIFY(!note()->isHidden());
+    QCOMPARE(field()->accessibleDescription(), note()->text());
+    QCOMPARE(field()->text(), QStringLiteral("x + qq"));
+    write("x + 1");
+    QVERIFY(note()->isHidden());
 }
 
 QTEST_MAIN(TestPanels)

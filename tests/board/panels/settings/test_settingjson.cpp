@@ -29,6 +29,8 @@ private Q_SLOTS:
     void choiceBesideItsEntriesIsNone();
     void colorIsRead();
     void inputOfTextIsRead();
+    void messageOfAnInputIsRead();
+    void messagesTakeTheirArguments();
     void inputOfNumbersIsRead();
     void switchIsRead();
     void sliderIsRead();
@@ -79,6 +81,20 @@ void TestSettingJson::inputOfTextIsRead()
     const SettingControl control = only(R"({"type":"input","id":"a","value":"12","valueType":"text"})");
     QCOMPARE(control.kind, SettingControl::Text);
     QCOMPARE(control.value, QVariant(QString("12")));
+}
+
+void TestSettingJson::messageOfAnInputIsRead()
+{
+    const SettingControl control = only(
+        R"({"type":"input","id":"idA","title":"IDS_A","value":"x","valueType":"text","message":"IDS_M","arguments":["3","x"]})");
+    QCOMPARE(control.messageKey, QString("IDS_M"));
+    QCOMPARE(control.messageArguments, (QStringList{"3", "x"}));
+}
+
+void TestSettingJson::messagesTakeTheirArguments()
+{
+    QCOMPARE(board::filledIn("%2 at %1: %2 %", {"4", "%1"}), QString("%1 at 4: %1 %"));
+    QCOMPARE(board::filledIn("%3", {"4"}), QString());
 }
 
 void TestSettingJson::inputOfNumbersIsRead()
