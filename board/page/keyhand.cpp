@@ -10,6 +10,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
+#include <QtCore/QLineF>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -35,6 +36,10 @@ constexpr double bubbleRadius = 8;
 constexpr int fieldWidth = 120;
 /// Places at which a typed value is looked for.
 constexpr int mostTries = 6;
+/// The longest step for a point that snaps, in steps of a key.
+constexpr int mostSteps = 128;
+/// A point that moves by less stands still, item units.
+constexpr double standing = 1e-6;
 
 double turnOf(const QKeyEvent &event)
 {
@@ -215,11 +220,19 @@ bool KeyHand::movePoint(const QKeyEvent &event)
     return true;
 }
 
+/// A point that snaps stays where it is for a small step: then the step grows until the point goes to its next
+/// place.
 bool KeyHand::moveBy(const QPointF &sceneStep)
 {
     CBaseObject *moved = object();
-    const QPointF place = moved->mapToScene(controlPointOf(*moved, m_stop.number).place);
-    m_drag.movePoint(m_page, moved, m_stop.number, place + sceneStep);
+    const QPointF before = controlPointOf(*moved, m_stop.number).place;
+    const QPointF place = moved->mapToScene(before);
+    for (int times = 1; times <= mostSteps; times *= 2) {
+        m_drag.movePoint(m_page, moved, m_stop.number, place + sceneStep * times);
+        if (QLineF(before, controlPointOf(*moved, m_stop.number).place).length() > standing)
+            return true;
+    }
+    m_drag.movePoint(m_page, moved, m_stop.number, place);
     return true;
 }
 

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void protractorEndsAtItsBaseLine();
     void tableHasItsRowsAndColumns();
     void numberLineCountsFromItsFirstNumber();
+    void markerOfTheNumberLineGoesFromNumberToNumber();
+    void pointOfTheNumberLineStandsAtItsMarker();
     void axesGetMoreTicksNotLongerOnes();
     void axesOfADamagedSizeAreNotDrawn_data();
     void axesOfADamagedSizeAreNotDrawn();
@@ -245,6 +247,41 @@ void TestParticulars::numberLineCountsFromItsFirstNumber()
     QCOMPARE(textsOf(line).join(QLatin1Char(' ')), QStringLiteral("-100 -97.5 -95"));
     line.object().setSize(QSizeF(70, 52), false, true);
     QCOMPARE(textsOf(line), QStringList());
+}
+
+void TestParticulars::markerOfTheNumberLineGoesFromNumberToNumber()
+{
+    ShapeDriver line(QStringLiteral("numberline"));
+    line.createByClick();
+    line.select();
+    // Its numbers are 26.4 apart, the first one at 12.
+    QVERIFY(isNear(line.controlPoint(1).center(), {91.2, 18}));
+    line.dragControlPoint(1, QPointF(40, 0));
+    QVERIFY(isNear(line.controlPoint(1).center(), {144, 18}));
+    line.dragControlPoint(1, QPointF(500, 0));
+    QVERIFY(isNear(line.controlPoint(1).center(), {276, 18}));
+    answer(line, "{\"idMarkerGoes\": \"1\"}");
+    line.dragControlPoint(1, QPointF(-4, 0));
+    QVERIFY(isNear(line.controlPoint(1).center(), {270.72, 18}));
+    // It goes to where it was put, 4 before the end.
+    answer(line, "{\"idMarkerGoes\": \"2\"}");
+    QVERIFY(isNear(line.controlPoint(1).center(), {272, 18}));
+    line.dragControlPoint(1, QPointF(-1, 0));
+    QVERIFY(isNear(line.controlPoint(1).center(), {271, 18}));
+}
+
+/// The tip of the marker is 2 above the line, 2 below the middle; its point stands 8 higher.
+void TestParticulars::pointOfTheNumberLineStandsAtItsMarker()
+{
+    ShapeDriver line(QStringLiteral("numberline"));
+    line.createByClick();
+    for (const QSizeF size : {QSizeF(300, 52), QSizeF(300, 200), QSizeF(500, 40)}) {
+        line.object().setSize(size, false, true);
+        line.painted();
+        const QPointF centre = line.controlPoint(1).center();
+        QVERIFY(pathOf(line, "marker").contains(centre));
+        QVERIFY(isNear(centre, {12 + (size.width() - 36) * 0.3, size.height() / 2 - 8}));
+    }
 }
 
 void TestParticulars::axesGetMoreTicksNotLongerOnes()

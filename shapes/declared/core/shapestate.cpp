@@ -12,6 +12,9 @@ namespace declared {
 
 namespace {
 
+/// A range whose last step is missing by as little as rounding takes has it, in steps.
+constexpr double partOfStep = 1e-9;
+
 /// To the last bit: the operators of QPointF forgive small differences.
 bool isSamePoint(QPointF a, QPointF b)
 {
@@ -198,8 +201,8 @@ double ShapeState::steppedFrom(double low, double value, double high, const Expr
     const double width = step.isValid() ? valueOf(step).number() : 0;
     if (!(width > 0) || !qIsFinite(width))
         return within;
-    const double rounded = low + wholeOf((within - low) / width) * width;
-    return rounded > high ? low + std::floor((high - low) / width) * width : rounded;
+    const double most = std::floor((high - low) / width + partOfStep);
+    return std::min(low + std::min(wholeOf((within - low) / width), most) * width, std::max(low, high));
 }
 
 QPointF ShapeState::settled(int number, QPointF at, const QRectF &limits)

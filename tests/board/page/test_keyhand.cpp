@@ -87,6 +87,7 @@ private Q_SLOTS:
     void arrowsMoveAPoint();
     void heldArrowMovesAPointInOneStep();
     void arrowAtTheLimitTurnsAtOnce();
+    void arrowsMoveAPointThatSnapsToItsNextPlace();
     void homeAndEndGoToTheLimits();
     void digitsTypeWhatAPointSets();
     void digitsTypeThePlaceOfAPointThatSaysNothing();
@@ -216,6 +217,31 @@ void TestKeyHand::arrowAtTheLimitTurnsAtOnce()
         QApplication::sendEvent(&t.board.view(), &press);
     }
     QCOMPARE(t.corner().place, QPointF(60, 12));
+}
+
+/// The number line has ten gaps of 26.4; a new one's marker stands at 3.
+void TestKeyHand::arrowsMoveAPointThatSnapsToItsNextPlace()
+{
+    BoardDriver board;
+    CBaseObject *line = board.draw(QStringLiteral("shapes.numberline"), {100, 300}, {400, 352});
+    board.page().select({});
+    const auto marker = [line] { return board::controlPointOf(*line, 1).hint; };
+    board.key(Qt::Key_Tab);
+    board.key(Qt::Key_Tab);
+    QCOMPARE(board.view().keys()->part(), board::KeyHand::Point);
+    QCOMPARE(marker(), QStringLiteral("3"));
+    board.key(Qt::Key_Right);
+    QCOMPARE(marker(), QStringLiteral("4"));
+    board.key(Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(marker(), QStringLiteral("3"));
+    for (int number = 2; number >= 0; --number) {
+        board.key(Qt::Key_Left);
+        QCOMPARE(marker(), QString::number(number));
+    }
+    board.key(Qt::Key_Left);
+    QCOMPARE(marker(), QStringLiteral("0"));
+    board.key(Qt::Key_End);
+    QCOMPARE(marker(), QStringLiteral("10"));
 }
 
 void TestKeyHand::homeAndEndGoToTheLimits()

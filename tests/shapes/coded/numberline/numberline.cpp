@@ -1,10 +1,16 @@
 #include <shapekit/shape.h>
 
+#include <cmath>
+
 using namespace shapekit;
 
 const Text firstText("First number", "Erste Zahl");
 const Text stepText("Step", "Schritt");
 const Text markerText("Marker", "Marke");
+const Text snapText("Marker goes", "Marke springt");
+const Text numbersText("From number to number", "Von Zahl zu Zahl");
+const Text tenthsText("To tenths between them", "Auch auf Zehntel");
+const Text anywhereText("Anywhere", "Überallhin");
 
 /// A number line of ten steps with a movable marker.
 class NumberLine : public ShapeOfType<32>
@@ -14,7 +20,16 @@ public:
 
 protected:
     QSizeF smallestSize() const override { return {48, 36}; }
-    QRectF range(int) override { return between({margin, 8}, {width() - 2 * margin, 8}); }
+    QRectF range(int) override
+    {
+        return between({margin, middle().y() - 8}, {width() - 2 * margin, middle().y() - 8});
+    }
+    QPointF settled(int number, QPointF centre) override
+    {
+        const QPointF place = ShapeOfType::settled(number, centre);
+        const double gap = (width() - 3 * margin) / (snap == 1 ? 100 : 10);
+        return snap == 2 ? place : QPointF(margin + std::round((place.x() - margin) / gap) * gap, place.y());
+    }
     void draw() override
     {
         const double y = middle().y() + 2, end = width() - 3;
@@ -41,6 +56,7 @@ private:
     WholeNumber first{this, firstText, 0, -1000, 1000};
     RealNumber step{this, stepText, 1, 0.1, 100, 0.1};
     ColorValue marker{this, markerText, 0xffd9534f};
+    Choice snap{this, snapText, 0, {&numbersText, &tenthsText, &anywhereText}};
 };
 
 SHAPEKIT_PLUGIN(NumberLine, "Number line", "Zahlenstrahl", Mathematics)
