@@ -87,7 +87,7 @@ COMPONENTS = [
     Component(
         ["shapes/line"],
         prefixes=("line/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
-        headers=("pagehost/objectplugin.h", "pagehost/pagetool.h"),
+        headers=("pagehost/draggedend.h", "pagehost/objectplugin.h", "pagehost/pagetool.h"),
     ),
     Component(
         ["shapes/text"],

@@ -26,6 +26,7 @@ QVector<ControlPointPlace> controlPointPlaces(CBaseObject &object)
         if (in.status() != QDataStream::Ok)
             break;
         place.centre = object.mapToScene(place.centre);
+        place.number = number;
         places.append(place);
     }
     return places;

@@ -8,6 +8,7 @@ class CBaseObject;
 /// A control point as users see it (pagehost::ControlPoints).
 struct ControlPointPlace
 {
+    int number = 0; ///< from 1
     QPointF centre; ///< scene coordinates
     bool movesAcross = false;
     bool movesDown = false; ///< both along the axes of the object

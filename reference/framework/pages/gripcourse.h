@@ -2,9 +2,13 @@
 
 #include <pagehost/pagescene.h>
 
+#include <pages/enddrag.h>
 #include <pages/snapping.h>
 
 #include <QtCore/QSizeF>
+
+#include <memory>
+#include <utility>
 
 namespace pagehost {
 
@@ -31,6 +35,9 @@ public:
     /// The object has got it: shows guides where things lie now.
     void showGuides();
     void forget(CBaseObject *object) { m_moving.removeOne(object); }
+    /// A drag of an end that follows objects, which gets no mouse; null for any other drag.
+    void setEndDrag(std::unique_ptr<EndDrag> drag) { m_endDrag = std::move(drag); }
+    EndDrag *endDrag() const { return m_endDrag.get(); }
 
 private:
     QPointF leadBody(const DragPointer &pointer);
@@ -59,6 +66,7 @@ private:
     int m_point = -1;         ///< index of the dragged control point; below 0 where the object doesn't tell
     SnapSubject m_pointStart; ///< its centre at the press
     bool m_isDrag = false;
+    std::unique_ptr<EndDrag> m_endDrag;
     std::optional<SnapSubject> m_subject; ///< of the last move
 };
 

@@ -11,6 +11,7 @@
 #include <host/handlelayout.h>
 #include <host/objectplace.h>
 #include <host/undocapture.h>
+#include <pages/enddrag.h>
 #include <pages/eventcopy.h>
 #include <pages/framedrag.h>
 #include <pages/gripcourse.h>
@@ -213,12 +214,17 @@ void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
     m_lastPos = m_pressPos;
     m_dragModifiers = {};
     event->accept();
+    std::unique_ptr<EndDrag> end;
     if (grip.kind == Grip::FrameHandle)
         m_frameDrag = std::make_unique<FrameDrag>(framedObjects(*m_page), grip.action, m_pressPos);
-    else
+    else if (grip.kind == Grip::ControlPoint)
+        end = EndDrag::begin(m_page, grip.object, m_pressPos + grip.offset);
+    if (!m_frameDrag && !end)
         deliver(event, m_drag.offset);
-    if (isDragging())
+    if (isDragging()) {
         m_course = std::make_unique<GripCourse>(grip, m_pressPos + grip.offset, draggedObjects(), *m_snapper);
+        m_course->setEndDrag(std::move(end));
+    }
     updateOverlay();
 }
 
@@ -271,6 +277,8 @@ void PageScene::lead(QGraphicsSceneMouseEvent *event)
     const QPointF led = m_course->lead(pointer);
     if (m_frameDrag)
         m_frameDrag->moveTo(led, event->modifiers());
+    else if (EndDrag *end = m_course->endDrag())
+        end->moveTo(pointer.pos, led, pixel());
     else
         deliver(event, led - event->scenePos());
     // The object may have left the page.
@@ -318,6 +326,8 @@ void PageScene::releaseGrip(QGraphicsSceneMouseEvent *event)
     lead(event);
     if (m_frameDrag)
         m_frameDrag->finish();
+    if (m_course && m_course->endDrag())
+        m_course->endDrag()->finish();
     endDrag();
 }
 
@@ -370,7 +380,10 @@ void PageScene::dragPointTo(const QPointF &scenePos)
     QGraphicsSceneMouseEvent move(QEvent::GraphicsSceneMouseMove);
     move.setButtons(Qt::LeftButton);
     move.setScenePos(scenePos);
-    deliver(&move, {});
+    if (EndDrag *end = m_course ? m_course->endDrag() : nullptr)
+        end->moveTo(scenePos, scenePos, pixel());
+    else
+        deliver(&move, {});
 }
 
 void PageScene::endPointDrag()
@@ -379,7 +392,10 @@ void PageScene::endPointDrag()
         return;
     QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
     release.setButton(Qt::LeftButton);
-    deliver(&release, {});
+    if (EndDrag *end = m_course ? m_course->endDrag() : nullptr)
+        end->finish();
+    else
+        deliver(&release, {});
     endDrag();
 }
 
@@ -486,6 +502,8 @@ bool PageScene::takeBack()
         return false;
     if (m_frameDrag) {
         m_frameDrag->cancel();
+    } else if (m_course && m_course->endDrag()) {
+        m_course->endDrag()->cancel();
     } else if (GripDrag *drag = GripDrag::running(*m_drag.object)) {
         drag->cancel();
         GripDrag::forget(*m_drag.object);

@@ -59,23 +59,6 @@ QPointF sideTowards(const QRectF &box, QPointF point)
 }
 
 constexpr std::array<QPointF, 4> sides{QPointF(1, 0), QPointF(0, 1), QPointF(-1, 0), QPointF(0, -1)};
-/// Ends may lie this far inside of a box that has round corners or a slanted side, document units.
-constexpr double touchingDepth = 0.5;
-
-/// Whether a part of the way is inside of the box.
-bool crosses(const QVector<QPointF> &way, const QRectF &box)
-{
-    const QRectF inner = box.adjusted(touchingDepth, touchingDepth, -touchingDepth, -touchingDepth);
-    for (int i = 1; i < way.size(); ++i) {
-        const QPointF one = way.at(i - 1);
-        const QPointF other = way.at(i);
-        if (std::max(one.x(), other.x()) > inner.left() && std::min(one.x(), other.x()) < inner.right() &&
-            std::max(one.y(), other.y()) > inner.top() && std::min(one.y(), other.y()) < inner.bottom())
-            return true;
-    }
-    return false;
-}
-
 bool crossesAny(const QVector<QPointF> &way, const QVector<std::optional<JoinedObject>> &objects)
 {
     return std::any_of(objects.begin(), objects.end(), [&way](const std::optional<JoinedObject> &object) {
@@ -118,6 +101,21 @@ void avoidObjects(std::array<JoinedEnd, 2> &ends, const Joints &joints,
             ends = {start, end};
         }
     }
+}
+
+/// The corners of a way round the objects, where the usual one leads through them and another one doesn't.
+QVector<QPointF> detourBetween(const std::array<JoinedEnd, 2> &ends,
+                               const QVector<std::optional<JoinedObject>> &objects)
+{
+    const bool isKnown = !ends[0].out.isNull() && !ends[1].out.isNull();
+    if (!isKnown || !crossesAny(angledWay(ends[0].point, ends[0].out, ends[1].point, ends[1].out), objects))
+        return {};
+    QVector<QRectF> boxes;
+    for (const std::optional<JoinedObject> &object : objects)
+        if (object)
+            boxes.append(object->outline.boundingRect());
+    const QVector<QPointF> way = wayAround(boxes, ends[0].point, ends[0].out, ends[1].point, ends[1].out);
+    return way.mid(1, std::max(0, way.size() - 2));
 }
 
 QPointF vectorAt(double degrees)
@@ -212,6 +210,7 @@ void follow(LineCourse &course, Joints &joints, const QVector<std::optional<Join
             joined[i] = joinedEnd(*objects.at(i), joints[i].place, aims[1 - i], course.isAngled);
     if (course.isAngled)
         avoidObjects(joined, joints, objects);
+    course.detour = course.isAngled ? detourBetween(joined, objects) : QVector<QPointF>();
     for (int i = 0; i < 2; ++i) {
         *ends[i] = joined[i].point;
         joints[i].out = joined[i].out;

@@ -6,6 +6,7 @@
 
 #include <framework/operationtype.h>
 
+#include <pagehost/draggedend.h>
 #include <pagehost/objectplugin.h>
 
 #include <QtCore/QDataStream>
@@ -31,6 +32,9 @@ const Text wayText("Way", "Führung");
 const Text directText("Direct", "Direkt");
 const Text angledText("Right-angled", "Rechtwinklig");
 const Text jointsText("Joined ends", "Verbundene Enden");
+const Text detourText("Way round", "Umweg");
+const Text labelText("Label", "Beschriftung");
+const Text labelSizeText("Label size", "Schriftgröße");
 
 /// A QByteArray: the course as encoded().
 constexpr int courseAction = 1191;
@@ -49,6 +53,10 @@ constexpr double coveredPart = 0.7;
 constexpr double dotRadius = 0.4;
 /// Room around the ends, so that their control points are inside of the box, document units.
 constexpr double smallestMargin = 8;
+/// Letters of the label, document units.
+constexpr double usualLabelSize = 16;
+constexpr double smallestLabelSize = 4;
+constexpr double largestLabelSize = 200;
 
 } // namespace
 
@@ -60,7 +68,11 @@ Line::Line(CSVGObj *owner)
     , m_saved(this, courseText)
     , m_way(this, wayText, Direct, {&directText, &angledText})
     , m_savedJoints(this, jointsText)
+    , m_savedDetour(this, detourText)
+    , m_label(this, labelText, QString())
+    , m_labelSize(this, labelSizeText, usualLabelSize, smallestLabelSize, largestLabelSize, 1)
 {
+    m_savedDetour.setPanels(false, false);
     m_saved.setPanels(false, false);
     m_savedJoints.setPanels(false, false);
 }
@@ -82,11 +94,15 @@ void Line::begin(QPointF place, const QColor &color, double width, End end, Way 
     owner->setPos(place + document->viewBox().topLeft(), false);
 }
 
+QPointF Line::origin()
+{
+    return owner->getPos() - document->viewBox().topLeft();
+}
+
 void Line::drawTo(QPointF end, QPointF bend)
 {
-    const QPointF origin = owner->getPos() - document->viewBox().topLeft();
     LineCourse course = m_course;
-    course.end = end - origin;
+    course.end = end - origin();
     course.bend = bend;
     take(course);
     QByteArray record;
@@ -107,7 +123,7 @@ void Line::drawTo(QPointF end, quint32 object, const QString &place)
 {
     join(1, object, place);
     LineCourse course = m_course;
-    course.end = end - (owner->getPos() - document->viewBox().topLeft());
+    course.end = end - origin();
     const QByteArray joints = encoded(m_joints);
     take(course);
     QByteArray record;
@@ -120,6 +136,8 @@ bool Line::DoPlaybackActionEx(int actionId, QDataStream &in)
 {
     if (actionId == jointAction)
         return replayJoint(in);
+    if (actionId == endsAction)
+        return takeEndState(in);
     if (actionId != courseAction)
         return ShapeOfType::DoPlaybackActionEx(actionId, in);
     QByteArray bytes;
@@ -153,6 +171,13 @@ bool Line::replayJoint(QDataStream &in)
 
 bool Line::GetSpecialProperty(int propId, QDataStream &out)
 {
+    if (propId == pagehost::FollowingEnds) {
+        const qint32 count = isUpright() ? 2 : 0;
+        out << count;
+        for (qint32 number = 1; number <= count; ++number)
+            out << number;
+        return true;
+    }
     if (propId != pagehost::FollowedObjects)
         return ShapeOfType::GetSpecialProperty(propId, out);
     out << qint32(m_joints.size());
@@ -167,6 +192,8 @@ bool Line::SetSpecialProperty(int propId, QDataStream &in, bool record)
         follow(readJoinedObjects(in));
         return true;
     }
+    if (propId == pagehost::DraggedEnd)
+        return dragEnd(in);
     if (propId != pagehost::FollowedObjects)
         return ShapeOfType::SetSpecialProperty(propId, in, record);
     qint32 count = 0;
@@ -187,17 +214,18 @@ void Line::follow(const QVector<std::optional<JoinedObject>> &objects)
         return;
     LineCourse course = m_course;
     if (!wasJoined) {
-        const QPointF origin = owner->getPos() - document->viewBox().topLeft();
-        course.start += origin;
-        course.end += origin;
-        document->setViewBox(document->viewBox().translated(origin));
+        const QPointF shift = origin();
+        course.start += shift;
+        course.end += shift;
+        document->setViewBox(document->viewBox().translated(shift));
     }
     Joints joints = m_joints;
     line::follow(course, joints, objects);
-    const QByteArray before = QByteArray(m_saved) + QByteArray(m_savedJoints);
+    const QVector<QByteArray> before{m_saved, m_savedJoints, m_savedDetour};
     keepJoints(joints);
+    keepDetour(course.detour);
     keep(course);
-    if (isOnPage() && before == QByteArray(m_saved) + QByteArray(m_savedJoints))
+    if (isOnPage() && before == QVector<QByteArray>{m_saved, m_savedJoints, m_savedDetour})
         return;
     putOnPage();
     ShapeOfType::propertyChanged(nullptr);
@@ -230,6 +258,17 @@ void Line::keepJoints(const Joints &joints)
 {
     m_joints = joints;
     m_savedJoints = encoded(joints);
+    for (size_t i = 0; i < joints.size(); ++i)
+        m_isEndJoined[i] = m_isEndJoined[i] && joints[i].object != 0;
+    completeCourse();
+}
+
+void Line::keepDetour(const QVector<QPointF> &detour)
+{
+    LineCourse course;
+    course.detour = detour;
+    m_detour = course.rounded().detour;
+    m_savedDetour = encoded(m_detour);
     completeCourse();
 }
 
@@ -238,6 +277,7 @@ void Line::completeCourse()
     m_course.isAngled = m_way == Angled;
     m_course.startOut = m_joints[0].out;
     m_course.endOut = m_joints[1].out;
+    m_course.detour = m_detour;
 }
 
 void Line::keep(const LineCourse &course)
@@ -258,21 +298,24 @@ void Line::take(const LineCourse &course)
 
 void Line::propertyChanged(const shapekit::Property *property)
 {
-    const bool changesWay = property == &m_way && !isBeingLoaded;
-    const QRectF before = changesWay ? fittingBox() : QRectF();
+    const bool changesBox =
+        (property == &m_way || property == &m_label || property == &m_labelSize) && !isBeingLoaded;
+    const QRectF before = changesBox ? fittingBox() : QRectF();
     if (const std::optional<LineCourse> course = decoded(m_saved))
         m_course = *course;
-    m_joints = decodedJoints(m_savedJoints);
-    completeCourse();
+    m_detour = decodedDetour(m_savedDetour);
+    keepJoints(decodedJoints(m_savedJoints));
+    measureLabel();
     ShapeOfType::propertyChanged(property);
-    if (changesWay)
+    if (changesBox)
         fitBox(before);
 }
 
 QRectF Line::fittingBox()
 {
     const double room = margin();
-    return m_course.bounds().adjusted(-room, -room, room, room);
+    const QRectF box = m_course.bounds().adjusted(-room, -room, room, room);
+    return hasLabel() ? box.united(labelBox()) : box;
 }
 
 QRectF Line::boxOfSize(const QSizeF &size)
@@ -323,8 +366,10 @@ void Line::setSize(QSizeF, QSizeF newSize)
     // Its objects hold it.
     if (!document || newSize.isEmpty() || isJoined())
         return;
-    const double room = 2 * margin();
-    keep(m_course.stretchedTo(newSize - QSizeF(room, room)));
+    const QSizeF room = fittingBox().size() - m_course.bounds().size();
+    const LineCourse course = m_course.stretchedTo(newSize - room);
+    keepDetour(course.detour);
+    keep(course);
     document->setViewBox(boxOfSize(newSize));
     ShapeOfType::propertyChanged(nullptr);
 }
@@ -339,19 +384,16 @@ int Line::getMaxPenWidth()
     return widestPen;
 }
 
-/// Whether a control point stays where it is: an end on an object, and the middle of a right-angled line. Damaged
-/// data may claim further points, which are nobody's.
+/// The middle of a right-angled line. Damaged data may claim further points, which are nobody's.
 bool Line::isFixed(int number) const
 {
-    switch (number) {
-    case 1:
-    case 2:
-        return m_isEndJoined[size_t(number) - 1];
-    case 3:
-        return m_course.isAngled;
-    default:
-        return true;
-    }
+    return number < 1 || number > 3 || (number == 3 && m_course.isAngled);
+}
+
+/// An end on an object; a drag that takes it off comes as DraggedEnd.
+bool Line::isHeld(int number) const
+{
+    return (number == 1 || number == 2) && m_isEndJoined[size_t(number) - 1];
 }
 
 QRectF Line::range(int number)
@@ -368,8 +410,10 @@ QPointF Line::wantedPoint(int number)
 
 void Line::pointMoved(int number, QPointF centre)
 {
-    if (isFixed(number))
+    if (isFixed(number) || isHeld(number))
         return;
+    if (number != 3 && !isBeingLoaded)
+        keepDetour({});
     LineCourse course = m_course;
     if (number == 1)
         course.start = centre;
@@ -411,22 +455,14 @@ void Line::draw()
     const QPointF start = m_course.start + m_course.directionAtStart() * (startsWithArrow ? covered : 0);
     const QPointF end = m_course.end - m_course.directionAtEnd() * (endsWithArrow ? covered : 0);
     PathText figure;
-    figure.moveTo(start);
-    if (m_course.isAngled) {
-        const QVector<QPointF> corners = m_course.corners();
-        for (int i = 1; i + 1 < corners.size(); ++i)
-            figure.lineTo(corners.at(i));
-        figure.lineTo(end);
-    } else if (m_course.isStraight())
-        figure.lineTo(end);
-    else
-        figure.curveTo(m_course.controlPoint(), end);
+    addWay(figure, start, end);
     setPath("figure", figure);
     PathText heads;
     addHead(heads, End(int(m_startEnd)), m_course.start, -m_course.directionAtStart());
     addHead(heads, End(int(m_endEnd)), m_course.end, m_course.directionAtEnd());
     setPath("heads", heads);
     set("control_3", "visibility", m_course.isAngled ? QStringLiteral("hidden") : QStringLiteral("visible"));
+    drawLabel();
 }
 
 } // namespace line

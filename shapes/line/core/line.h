@@ -42,6 +42,10 @@ public:
     QSizeF getDefaultSVGSize() override;
     int getMaxPenWidth() override;
     bool permits(OperationType operation) override;
+    /// The text in the middle of the way, which leaves room for it.
+    QVector<shapekit::LabelPlace> labelPlaces() override;
+    /// Those of the label in the section of letters.
+    bool GetSettingArray(QJsonArray &settings) override;
 
 protected:
     QRectF range(int number) override;
@@ -58,10 +62,31 @@ private:
     void take(const LineCourse &course);
     bool replayJoint(QDataStream &in);
     void keepJoints(const Joints &joints);
+    void keepDetour(const QVector<QPointF> &detour);
+    /// Scene coordinates of the origin of the document, of a line that is not turned.
+    QPointF origin();
+    /// @name The drag of an end (pagehost::DraggedEnd)
+    /// @{
+    /// Its data are those of endState().
+    static constexpr int endsAction = 1193;
+    bool isUpright() const;
+    bool dragEnd(QDataStream &in);
+    bool moveEnd(int end, QPointF place, quint32 object, const QString &name);
+    void finishEndDrag();
+    QByteArray endState();
+    bool takeEndState(QDataStream &in);
+    /// @}
+    bool hasLabel() const { return !m_labelExtent.isEmpty(); }
+    QRectF labelBox() const;
+    void measureLabel();
+    void addWay(shapekit::PathText &path, QPointF start, QPointF end);
+    void drawLabel();
     /// Gives the course the parts that are saved elsewhere.
     void completeCourse();
     bool isJoined() const { return m_isEndJoined[0] || m_isEndJoined[1]; }
+    /// A point that stays where it is whatever the user does.
     bool isFixed(int number) const;
+    bool isHeld(int number) const;
     void follow(const QVector<std::optional<JoinedObject>> &objects);
     void putOnPage();
     bool isOnPage();
@@ -80,6 +105,12 @@ private:
     shapekit::Choice m_way;
     Joints m_joints; ///< decoded from the property
     shapekit::DataValue m_savedJoints;
+    shapekit::DataValue m_savedDetour;
+    shapekit::TextValue m_label;
+    shapekit::RealNumber m_labelSize;
+    QVector<QPointF> m_detour;           ///< decoded from the property
+    QSizeF m_labelExtent;                ///< document units; empty without a label
+    QByteArray m_endsBefore;             ///< the drag of an end
     std::array<bool, 2> m_isEndJoined{}; ///< to an object that is there
 };
 

@@ -22,6 +22,8 @@ constexpr double placesPerUnit = 1 << 10;
 constexpr double bendsPerLength = 1 << 14;
 /// No line reaches farther, document units.
 constexpr double farthest = 1e5;
+/// Of a detour; more are damage.
+constexpr int mostCorners = 32;
 
 double lengthOf(QPointF vector)
 {
@@ -101,7 +103,26 @@ QPointF LineCourse::controlPoint() const
 
 QVector<QPointF> LineCourse::corners() const
 {
-    return angledWay(start, startOut, end, endOut);
+    if (detour.isEmpty())
+        return angledWay(start, startOut, end, endOut);
+    return simplified(QVector<QPointF>{start} + detour + QVector<QPointF>{end});
+}
+
+QPointF LineCourse::middle() const
+{
+    if (!isAngled)
+        return isStraight() ? (start + end) / 2 : (start + controlPoint() * 2 + end) / 4;
+    const QVector<QPointF> way = corners();
+    double left = 0;
+    for (int i = 1; i < way.size(); ++i)
+        left += lengthOf(way.at(i) - way.at(i - 1)) / 2;
+    for (int i = 1; i < way.size(); ++i) {
+        const QPointF piece = way.at(i) - way.at(i - 1);
+        if (lengthOf(piece) >= left)
+            return way.at(i - 1) + unit(piece) * left;
+        left -= lengthOf(piece);
+    }
+    return end;
 }
 
 QPointF LineCourse::directionAtStart() const
@@ -147,6 +168,8 @@ LineCourse LineCourse::rounded() const
     course.start = roundedTo(start, placesPerUnit);
     course.end = roundedTo(end, placesPerUnit);
     course.bend = roundedTo(bend, bendsPerLength);
+    for (QPointF &corner : course.detour)
+        corner = roundedTo(corner, placesPerUnit);
     return course;
 }
 
@@ -162,9 +185,34 @@ LineCourse LineCourse::stretchedTo(const QSizeF &size) const
     LineCourse course = *this;
     course.start = stretched(start);
     course.end = stretched(end);
+    for (QPointF &corner : course.detour)
+        corner = stretched(corner);
     if (!isStraight())
         course.bendThrough(stretched(bendPoint()));
     return course;
+}
+
+QByteArray encoded(const QVector<QPointF> &detour)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    for (const QPointF &corner : detour)
+        out << corner;
+    return bytes;
+}
+
+QVector<QPointF> decodedDetour(const QByteArray &bytes)
+{
+    QVector<QPointF> detour;
+    QDataStream in(bytes);
+    while (!in.atEnd()) {
+        QPointF corner;
+        in >> corner;
+        if (in.status() != QDataStream::Ok || !isOnPaper(corner) || detour.size() == mostCorners)
+            return {};
+        detour.append(corner);
+    }
+    return detour;
 }
 
 QByteArray encoded(const LineCourse &course)

@@ -21,6 +21,8 @@ struct LineCourse
     /// The directions in which a right-angled line leaves its ends, along an axis; (0, 0) for any.
     QPointF startOut{};
     QPointF endOut{};
+    /// Its corners where it leads round objects; else they follow from the ends.
+    QVector<QPointF> detour{};
 
     bool isStraight() const { return bend.y() == 0; }
     QPointF bendPoint() const;
@@ -28,6 +30,8 @@ struct LineCourse
     QVector<QPointF> corners() const;
     /// A bend next to the straight way makes the line straight. Without a way nothing changes.
     void bendThrough(QPointF point);
+    /// Halfway along the line.
+    QPointF middle() const;
     /// Of the quadratic curve.
     QPointF controlPoint() const;
     /// Directions in which the line leaves its ends, of length 1.
@@ -41,6 +45,9 @@ struct LineCourse
     LineCourse stretchedTo(const QSizeF &size) const;
 };
 
+/// The corners of a detour, in the form in which lines are saved; none for damaged data.
+QByteArray encoded(const QVector<QPointF> &detour);
+QVector<QPointF> decodedDetour(const QByteArray &bytes);
 /// Ends and bend, in the form in which lines are saved and recorded.
 QByteArray encoded(const LineCourse &course);
 /// Nothing for data that are damaged, or of a line that no page has room for.
