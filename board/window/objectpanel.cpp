@@ -26,6 +26,8 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     , m_workspace(workspace)
     , m_title(new QLabel)
     , m_settings(new SettingsPanel(workspace))
+    , m_text(new SettingsPanel(workspace, SettingsPanel::Text))
+    , m_textSection(new FoldingSection(workspace->text("IDS_TOOL_TEXT"), m_text))
     , m_style(new StylePanel(workspace, commands, newLook))
     , m_properties(new PropertyPanel(workspace))
     , m_allProperties(new FoldingSection(workspace->text("IDS_BOARD_ALL_PROPERTIES"), m_properties))
@@ -41,9 +43,11 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     m_title->setFont(font);
     m_title->setWordWrap(true);
     m_title->setTextFormat(Qt::PlainText);
+    m_textSection->remember(QStringLiteral("text"), true);
     m_allProperties->remember(QStringLiteral("allProperties"), false);
     for (QWidget *part : {static_cast<QWidget *>(m_title), static_cast<QWidget *>(m_settings),
-                          static_cast<QWidget *>(m_style), static_cast<QWidget *>(m_allProperties)})
+                          static_cast<QWidget *>(m_textSection), static_cast<QWidget *>(m_style),
+                          static_cast<QWidget *>(m_allProperties)})
         column->addWidget(part);
     column->addStretch();
     setWidget(content);
@@ -64,6 +68,7 @@ void ObjectPanel::setPage(pagehost::Page *page)
             connect(page, signal, this, [this] { m_refresh.request(); });
     m_style->setPage(page);
     m_settings->setPage(page);
+    m_text->setPage(page);
     m_properties->setPage(page);
     refresh();
 }
@@ -71,6 +76,7 @@ void ObjectPanel::setPage(pagehost::Page *page)
 void ObjectPanel::settle()
 {
     m_settings->settle();
+    m_text->settle();
     m_properties->settle();
 }
 
@@ -90,6 +96,9 @@ void ObjectPanel::refresh()
     else
         m_title->setText(titleOf(*m_workspace, *m_page, objects));
     m_settings->setVisible(!objects.isEmpty());
+    // Hidden panels don't follow; whether there is a section is known only afterwards.
+    m_text->refresh();
+    m_textSection->setVisible(!objects.isEmpty() && !m_text->isEmpty());
     m_allProperties->setVisible(!objects.isEmpty());
     widget()->layout()->activate();
     m_settings->comeToFront();

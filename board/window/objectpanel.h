@@ -19,8 +19,8 @@ class SettingsPanel;
 class StylePanel;
 class Workspace;
 
-/// All about the selected objects: name, their own settings, look, position, and all properties, which are folded
-/// at first. Without a selection, about the page.
+/// All about the selected objects: name, their own settings, their letters, look, position, and all properties,
+/// which are folded at first. Without a selection, about the page.
 class ObjectPanel : public QScrollArea
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ public:
     /// Takes back what is shown only while the user chooses.
     void settle();
     SettingsPanel *settings() const { return m_settings; }
+    SettingsPanel *text() const { return m_text; }
     PropertyPanel *properties() const { return m_properties; }
 
 private:
@@ -43,6 +44,8 @@ private:
     QPointer<pagehost::Page> m_page;
     QLabel *m_title;
     SettingsPanel *m_settings;
+    SettingsPanel *m_text;
+    FoldingSection *m_textSection;
     StylePanel *m_style;
     PropertyPanel *m_properties;
     FoldingSection *m_allProperties;

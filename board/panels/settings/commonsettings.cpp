@@ -16,8 +16,8 @@ const SettingControl *find(const QVector<SettingControl> &panel, const QString &
 bool isAlike(const SettingControl &one, const SettingControl &other)
 {
     const bool isCommand = one.kind == SettingControl::Command;
-    return one.kind == other.kind && one.icons == other.icons && one.texts == other.texts &&
-           one.unit == other.unit && (!isCommand || one.value == other.value);
+    return one.kind == other.kind && one.section == other.section && one.icons == other.icons &&
+           one.texts == other.texts && one.unit == other.unit && (!isCommand || one.value == other.value);
 }
 
 /// False when one of the panels has no such control.

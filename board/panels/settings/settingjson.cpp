@@ -112,6 +112,7 @@ Reading readControl(const QJsonObject &object)
     SettingControl control;
     control.id = object[QLatin1String("id")].toString();
     control.titleKey = object[QLatin1String("title")].toString();
+    control.section = object[QLatin1String("section")].toString();
     control.messageKey = object[QLatin1String("message")].toString();
     control.messageArguments = textsIn(object[QLatin1String("arguments")]);
     if (control.id.isEmpty())

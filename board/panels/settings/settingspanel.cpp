@@ -22,6 +22,8 @@ namespace {
 const QStringList lookSettings{QStringLiteral("idLineStyle"), QStringLiteral("idOutlineColor"),
                                QStringLiteral("idFillColor")};
 
+const QString textSection = QStringLiteral("text");
+
 QString rangeText(const NumberRange &range)
 {
     return QStringLiteral("%1 %2 %3 %4").arg(range.minimum).arg(range.maximum).arg(range.step).arg(range.decimals);
@@ -41,8 +43,10 @@ bool SettingsPanel::isListed(const SettingControl &control) const
 {
     if (lookSettings.contains(control.id))
         return false;
+    if (m_extent != First)
+        return (control.section == textSection) == (m_extent == Text);
     const bool fitsIntoBar = control.kind != SettingControl::Text && control.kind != SettingControl::Command;
-    return m_extent == All || (m_controls.isEmpty() && fitsIntoBar);
+    return m_controls.isEmpty() && fitsIntoBar;
 }
 
 QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)

@@ -6,18 +6,20 @@
 namespace board {
 
 /// Panel of the settings (CPSRootObject::GetSettingJson()) that all selected objects have, but for those of the
-/// look.
+/// look. Those of letters, in the section "text", have a panel of their own.
 class SettingsPanel : public SelectionPanel
 {
     Q_OBJECT
 
 public:
     enum Extent {
-        All,
+        All,  ///< but those of letters
+        Text, ///< those of letters
         First ///< one that fits into a bar
     };
     explicit SettingsPanel(const Workspace *workspace, Extent extent = All, QWidget *parent = nullptr);
 
+    /// As of the last refresh; without a selection there are none.
     bool isEmpty() const { return m_controls.isEmpty(); }
 
 protected:

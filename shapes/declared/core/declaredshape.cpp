@@ -11,6 +11,7 @@
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
@@ -412,6 +413,19 @@ QVector<shapekit::LabelPlace> DeclaredShape::labelPlaces()
 QByteArray DeclaredShape::toSvg()
 {
     return m_labels.withTexts(Shape::toSvg());
+}
+
+bool DeclaredShape::GetSettingArray(QJsonArray &settings)
+{
+    Shape::GetSettingArray(settings);
+    for (int i = 0; i < settings.size(); ++i) {
+        QJsonObject control = settings.at(i).toObject();
+        if (!m_labels.hasControl(control.value(QLatin1String("id")).toString()))
+            continue;
+        control[QStringLiteral("section")] = QStringLiteral("text");
+        settings[i] = control;
+    }
+    return true;
 }
 
 QString DeclaredShape::hint(int number)

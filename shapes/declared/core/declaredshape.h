@@ -69,6 +69,8 @@ public:
     QVector<shapekit::Connection> connections() override;
     QVector<shapekit::LabelPlace> labelPlaces() override;
     QByteArray toSvg() override;
+    /// Those of labels in the section of letters.
+    bool GetSettingArray(QJsonArray &settings) override;
     /// A picture for palettes, SVG; empty: the look of a new shape.
     QByteArray icon() const { return m_declaration.icon; }
 

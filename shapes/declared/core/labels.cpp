@@ -355,6 +355,16 @@ void Labels::writeText(QXmlStreamWriter &writer, const Found &found)
     }
 }
 
+bool Labels::hasControl(const QString &id) const
+{
+    for (const Label &label : m_labels)
+        for (const shapekit::Property *property : std::initializer_list<const shapekit::Property *>{
+                 label.text.get(), label.size.get(), label.bold.get(), label.colour.get(), label.alignment.get()})
+            if (property && property->controlId() == id)
+                return true;
+    return false;
+}
+
 QJsonObject Labels::toJson() const
 {
     QJsonObject labels;

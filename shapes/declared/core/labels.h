@@ -55,6 +55,8 @@ public:
     QByteArray withTexts(const QByteArray &svg) const;
     /// By id, of repeated labels those that the user has written; empty without any.
     QJsonObject toJson() const;
+    /// Whether a control of the settings panel sets letters of a label.
+    bool hasControl(const QString &id) const;
     void fromJson(const QJsonObject &labels);
 
 private:
