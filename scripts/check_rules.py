@@ -92,7 +92,7 @@ COMPONENTS = [
     Component(
         ["shapes/text"],
         prefixes=("text/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
-        headers=("pagehost/listmark.h", "pagehost/objectplugin.h", "pagehost/pagetool.h"),
+        headers=("pagehost/listmark.h", "pagehost/objectplugin.h", "pagehost/pagetool.h", "pagehost/textlinks.h"),
     ),
     Component(["shapes"], prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"), own=("shapes",)),
     Component(

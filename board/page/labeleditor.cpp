@@ -1,18 +1,24 @@
 #include "page/labeleditor.h"
 
 #include "page/formulatyping.h"
+#include "page/linkediting.h"
+#include "page/links.h"
 #include "page/listediting.h"
 
+#include <pagehost/attributestream.h>
 #include <pagehost/objectplugin.h>
 
 #include <framework/cbaseobject.h>
+#include <framework/iframework.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QGraphicsView>
+#include <QtWidgets/QLineEdit>
 
 #include <algorithm>
 #include <cmath>
@@ -26,10 +32,16 @@ constexpr int margin = 3;
 constexpr int smallestFont = 6;
 /// Of the editor, logical pixels.
 constexpr int smallestWidth = 40;
+constexpr int linkFieldWidth = 220;
 /// Of paper that dark letters are written on, and of the other one.
 constexpr int lightLetters = 170;
 const QString lightPaper = QStringLiteral("#ffffff");
 const QString darkPaper = QStringLiteral("#404040");
+
+bool isLinkKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_K && event.modifiers() == Qt::ControlModifier;
+}
 
 } // namespace
 
@@ -79,12 +91,21 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     document()->setDefaultTextOption(option);
     document()->setDocumentMargin(0);
     setPlainText(label.text);
+    const LabelLinkState links = linksOf(*object, label.propertyId);
+    m_linksId = links.propertyId;
+    m_linksBefore = links.links;
+    showLinks(*document(), links.links);
     selectAll();
 
     takePlace();
     connect(this, &QTextEdit::textChanged, this, [this] {
         type(toPlainText(), true);
+        sendLinks(linksIn(*document()), true);
         followLabel();
+    });
+    connect(this, &QTextEdit::cursorPositionChanged, this, [this] {
+        if (isBehindLink(textCursor()))
+            setCurrentCharFormat({});
     });
     show();
     setFocus();
@@ -135,20 +156,129 @@ void LabelEditor::finish()
 {
     if (m_isFinished)
         return;
-    const QString text = toPlainText();
-    const bool makesStep = m_object && !m_isNewObject && text != m_label.text;
-    if (makesStep) {
-        type(m_label.text, false);
-        QByteArray bytes;
-        QDataStream out(&bytes, QIODevice::WriteOnly);
-        out << text;
-        QDataStream in(&bytes, QIODevice::ReadWrite);
-        m_object->SetAttribute(m_label.propertyId, in, false);
-    }
+    const bool hasChanged = toPlainText() != m_label.text || linksIn(*document()) != m_linksBefore;
+    const bool makesStep = m_object && !m_isNewObject && hasChanged;
+    if (makesStep)
+        setForGood();
     m_isFinished = true;
+    if (m_linkField) {
+        m_linkField->removeEventFilter(this);
+        m_linkField->hide();
+        m_linkField->deleteLater();
+    }
     hide();
     deleteLater();
     Q_EMIT finished(m_object, makesStep);
+}
+
+/// One step from the text and the links of the beginning to the present ones.
+void LabelEditor::setForGood()
+{
+    const QString text = toPlainText();
+    const QVector<pagehost::TextLink> links = linksIn(*document());
+    type(m_label.text, false);
+    sendLinks(m_linksBefore, false);
+    const auto set = [this](qint32 id, const auto &value) {
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << value;
+        QDataStream in(&bytes, QIODevice::ReadWrite);
+        m_object->SetAttribute(id, in, false);
+    };
+    const bool changesBoth = text != m_label.text && links != m_linksBefore;
+    const auto described = changesBoth ? pagehost::attributeOf(m_object, m_label.propertyId) : std::nullopt;
+    if (changesBoth)
+        GetFramework()->beginUndoGroup(described ? described->nameKey : QString());
+    if (text != m_label.text)
+        set(m_label.propertyId, text);
+    if (links != m_linksBefore)
+        set(m_linksId, pagehost::encodedLinks(links));
+    if (changesBoth)
+        GetFramework()->endUndoGroup();
+}
+
+void LabelEditor::sendLinks(const QVector<pagehost::TextLink> &links, bool record)
+{
+    if (!m_object || m_isFinished || !mayHaveLinks())
+        return;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << m_label.propertyId << pagehost::encodedLinks(links);
+    QDataStream in(bytes);
+    m_object->SetSpecialProperty(pagehost::LabelLinks, in, record);
+}
+
+/// In a field below the letters: the return key makes the link, without an address none; Esc leaves it as it is.
+void LabelEditor::askForLink()
+{
+    QTextCursor cursor = textCursor();
+    selectLink(cursor);
+    setTextCursor(cursor);
+    QTextCursor first(document());
+    first.setPosition(cursor.selectionStart() + (cursor.hasSelection() ? 1 : 0));
+    m_linkField = new QLineEdit(first.charFormat().anchorHref(), parentWidget());
+    m_linkField->setObjectName(QStringLiteral("linkAddress"));
+    m_linkField->setPlaceholderText(QStringLiteral("https://"));
+    m_linkField->setAccessibleName(QStringLiteral("https://"));
+    m_linkField->installEventFilter(this);
+    m_linkField->setGeometry(x(), geometry().bottom() + margin, std::max(width(), linkFieldWidth),
+                             m_linkField->sizeHint().height());
+    connect(m_linkField, &QLineEdit::returnPressed, this, &LabelEditor::takeLink);
+    m_linkField->show();
+    m_linkField->setFocus(Qt::PopupFocusReason);
+    m_linkField->selectAll();
+}
+
+void LabelEditor::takeLink()
+{
+    const QString typed = m_linkField->text().trimmed();
+    const QString address = linkAddress(typed);
+    // An address that nothing may open stays in the field.
+    if (address.isEmpty() && !typed.isEmpty()) {
+        m_linkField->selectAll();
+        return;
+    }
+    setLink(textCursor(), address);
+    closeLinkField();
+}
+
+void LabelEditor::closeLinkField()
+{
+    m_linkField->removeEventFilter(this);
+    m_linkField->hide();
+    m_linkField->deleteLater();
+    m_linkField.clear();
+    setFocus();
+}
+
+bool LabelEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_linkField)
+        return QTextEdit::eventFilter(watched, event);
+    const bool isEscape =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (isEscape)
+        closeLinkField();
+    else if (event->type() == QEvent::FocusOut &&
+             static_cast<QFocusEvent *>(event)->reason() != Qt::ActiveWindowFocusReason)
+        finish();
+    return isEscape;
+}
+
+/// Ctrl+K is a command of the window elsewhere.
+bool LabelEditor::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && mayHaveLinks() && isLinkKey(*static_cast<QKeyEvent *>(event)))
+        event->accept();
+    return QTextEdit::event(event);
+}
+
+void LabelEditor::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QString address = event->modifiers() & Qt::ControlModifier ? anchorAt(event->pos()) : QString();
+    QTextEdit::mouseReleaseEvent(event);
+    if (!address.isEmpty() && event->button() == Qt::LeftButton)
+        openLink(address);
 }
 
 void LabelEditor::keyPressEvent(QKeyEvent *event)
@@ -160,6 +290,8 @@ void LabelEditor::keyPressEvent(QKeyEvent *event)
         finish();
         return;
     }
+    if (mayHaveLinks() && isLinkKey(*event))
+        return askForLink();
     if (event->key() == Qt::Key_V && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
         return pastePlain();
     if (m_label.hasManyLines && editList(*event))

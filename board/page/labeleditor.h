@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/textlinks.h>
+
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
@@ -8,6 +10,7 @@
 
 class CBaseObject;
 class QGraphicsView;
+class QLineEdit;
 
 namespace board {
 
@@ -32,7 +35,8 @@ QVector<EditableLabel> labelsOf(CBaseObject &object);
 ///
 /// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line. In
 /// other texts there are lists (page/listediting.h). Pasted text loses its formats but for lists, with Ctrl+Shift+V
-/// those, too. Exponents and indices become raised and lowered characters (page/formulatyping.h).
+/// those, too. Exponents and indices become raised and lowered characters (page/formulatyping.h). Where the object
+/// keeps links, Ctrl+K makes one of the selected letters, and Ctrl and a click open it.
 class LabelEditor : public QTextEdit
 {
     Q_OBJECT
@@ -52,11 +56,20 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
     bool editList(const QKeyEvent &event);
+    bool mayHaveLinks() const { return m_linksId != 0; }
+    void askForLink();
+    void takeLink();
+    void closeLinkField();
+    void sendLinks(const QVector<pagehost::TextLink> &links, bool record);
+    void setForGood();
     void pastePlain();
     void type(const QString &text, bool record);
     void takePlace();
@@ -67,6 +80,9 @@ private:
     QGraphicsView *m_view;
     bool m_isNewObject;
     bool m_isFinished = false;
+    qint32 m_linksId = 0;                      ///< the property of the links; 0 for none
+    QVector<pagehost::TextLink> m_linksBefore; ///< at the beginning
+    QPointer<QLineEdit> m_linkField;           ///< while an address is asked for
 };
 
 } // namespace board

@@ -4,6 +4,7 @@
 #include "page/desk.h"
 #include "page/draghint.h"
 #include "page/labelwriting.h"
+#include "page/links.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -42,6 +43,16 @@ constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
 constexpr std::array<double, 14> zoomSteps{0.1, 0.25, 0.33, 0.5, 0.67, 0.75, 1, 1.25, 1.5, 2, 3, 4, 6, 8};
 constexpr double zoomEpsilon = 1e-6;
+
+/// Of the topmost object there.
+bool openLinkAt(const QGraphicsView &view, const QPoint &pos)
+{
+    const QList<QGraphicsItem *> items = view.items(pos);
+    for (QGraphicsItem *item : items)
+        if (auto *object = dynamic_cast<CBaseObject *>(item))
+            return openLink(linkAt(*object, view.mapToScene(pos)));
+    return false;
+}
 
 } // namespace
 
@@ -245,9 +256,9 @@ void PageView::panTo(const QPoint &pos)
 void PageView::mousePressEvent(QMouseEvent *event)
 {
     finishKeys();
+    m_panPos = event->pos();
     if (wantsToPan(event)) {
         m_panning = true;
-        m_panPos = event->pos();
         viewport()->setCursor(Qt::ClosedHandCursor);
         return;
     }
@@ -296,6 +307,9 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
     showHint(event->globalPos());
     const std::optional<QPoint> doubleClicked = std::exchange(m_doubleClicked, std::nullopt);
     const bool usesTool = m_page && m_page->scene()->tool();
+    const bool isClick = (event->pos() - m_panPos).manhattanLength() < QApplication::startDragDistance();
+    if (m_isBare && !usesTool && isClick && event->button() == Qt::LeftButton && openLinkAt(*this, event->pos()))
+        return;
     if (doubleClicked && !usesTool &&
         (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
         m_writing->writeAt(event->pos());

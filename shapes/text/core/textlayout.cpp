@@ -34,11 +34,22 @@ struct MeasuredLine
     QString text;
     double width = 0;  ///< layout pixels
     double indent = 0; ///< layout pixels
+    int start = 0;
+    QVector<double> advances; ///< layout pixels
 };
+
+QVector<double> advancesOf(const QTextLine &line)
+{
+    QVector<double> advances;
+    for (int i = 0; i <= line.textLength(); ++i)
+        advances.append(line.cursorToX(line.textStart() + i) - line.cursorToX(line.textStart()));
+    return advances;
+}
 
 QVector<MeasuredLine> linesOf(const TextLook &look, const QFont &font, double lineWidth)
 {
     QVector<MeasuredLine> lines;
+    int paragraphStart = 0;
     const QStringList paragraphs = look.text.split(QLatin1Char('\n'));
     for (const QString &paragraph : paragraphs) {
         QTextLayout layout(paragraph, font);
@@ -53,10 +64,12 @@ QVector<MeasuredLine> linesOf(const TextLook &look, const QFont &font, double li
         for (QTextLine line = layout.createLine(); line.isValid() && lines.size() < mostLines;
              line = layout.createLine()) {
             line.setLineWidth(std::max(lineWidth - indent, 1.0));
-            lines.append({paragraph.mid(line.textStart(), line.textLength()), line.naturalTextWidth(), indent});
+            lines.append({paragraph.mid(line.textStart(), line.textLength()), line.naturalTextWidth(), indent,
+                          paragraphStart + line.textStart(), advancesOf(line)});
             indent = hang;
         }
         layout.endLayout();
+        paragraphStart += paragraph.size() + 1;
     }
     return lines;
 }
@@ -78,9 +91,22 @@ TextLayout layOut(const TextLook &look)
     const double x = look.alignment == Alignment::Left ? 0 : look.alignment == Alignment::Right ? width : width / 2;
     TextLayout layout;
     layout.size = {width, lines.size() * metrics.height() * scale};
-    for (int i = 0; i < lines.size(); ++i)
-        layout.lines.append({lines.at(i).text,
-                             {x + lines.at(i).indent * scale, (i * metrics.height() + metrics.ascent()) * scale}});
+    for (int i = 0; i < lines.size(); ++i) {
+        const MeasuredLine &measured = lines.at(i);
+        TextLine line{measured.text,
+                      {x + measured.indent * scale, (i * metrics.height() + metrics.ascent()) * scale},
+                      measured.start,
+                      {},
+                      {}};
+        for (const double advance : measured.advances)
+            line.advances.append(advance * scale);
+        const double before = look.alignment == Alignment::Left    ? 0
+                              : look.alignment == Alignment::Right ? measured.width
+                                                                   : measured.width / 2;
+        line.box = {line.anchor.x() - before * scale, i * metrics.height() * scale, measured.width * scale,
+                    metrics.height() * scale};
+        layout.lines.append(line);
+    }
     return layout;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QPointF>
+#include <QtCore/QRectF>
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
 #include <QtCore/QVector>
@@ -17,6 +18,7 @@ struct TextLook
     bool isBold = false;
     bool isItalic = false;
     Alignment alignment = Alignment::Left;
+    bool isUnderlined = false;
     double wrapWidth = 0; ///< lines are broken to that width; 0 for no breaks but the text's own
 };
 
@@ -25,6 +27,9 @@ struct TextLine
 {
     QString text;
     QPointF anchor;
+    int start = 0;            ///< of its letters in the text
+    QVector<double> advances; ///< from its left end to the left of each letter, and to its right end
+    QRectF box;
 };
 
 struct TextLayout

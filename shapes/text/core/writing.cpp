@@ -3,6 +3,7 @@
 #include <shapekit/shapeobject.h>
 
 #include <pagehost/objectplugin.h>
+#include <pagehost/textlinks.h>
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
@@ -24,6 +25,8 @@ const Text alignmentText("Alignment", "Ausrichtung");
 const Text leftText("Left", "Links");
 const Text middleText("Middle", "Mitte");
 const Text rightText("Right", "Rechts");
+const Text underlinedText("Underlined", "Unterstrichen");
+const Text linksText("Links", "Verweise");
 const Text wrapText("Line width", "Zeilenbreite");
 
 constexpr double smallestFont = 4;
@@ -79,7 +82,27 @@ void writeBox(QXmlStreamWriter &writer, const QSizeF &size, bool isShown)
     writer.writeAttribute(QStringLiteral("keeps"), QStringLiteral("stroke"));
 }
 
-void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<TextLine> &lines)
+/// The letters of a line, those of links underlined.
+void writeLetters(QXmlStreamWriter &writer, const TextLine &line, const QVector<pagehost::TextLink> &links)
+{
+    int written = 0;
+    for (const pagehost::TextLink &link : links) {
+        const int first = std::max(link.start - line.start, written);
+        const int last = std::min(link.start + link.length - line.start, line.text.size());
+        if (first >= last)
+            continue;
+        writer.writeCharacters(line.text.mid(written, first - written));
+        writer.writeStartElement(QStringLiteral("tspan"));
+        writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
+        writer.writeCharacters(line.text.mid(first, last - first));
+        writer.writeEndElement();
+        written = last;
+    }
+    writer.writeCharacters(line.text.mid(written));
+}
+
+void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<TextLine> &lines,
+                const QVector<pagehost::TextLink> &links)
 {
     writer.writeStartElement(QStringLiteral("text"));
     writer.writeAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
@@ -89,13 +112,15 @@ void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<Te
         writer.writeAttribute(QStringLiteral("font-weight"), QStringLiteral("bold"));
     if (look.isItalic)
         writer.writeAttribute(QStringLiteral("font-style"), QStringLiteral("italic"));
+    if (look.isUnderlined)
+        writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
     writer.writeAttribute(QStringLiteral("text-anchor"), anchorName(look.alignment));
     writer.writeAttribute(QStringLiteral("fill_follows"), QStringLiteral("pen"));
     for (const TextLine &line : lines) {
         writer.writeStartElement(QStringLiteral("tspan"));
         writer.writeAttribute(QStringLiteral("x"), number(line.anchor.x()));
         writer.writeAttribute(QStringLiteral("y"), number(line.anchor.y()));
-        writer.writeCharacters(line.text);
+        writeLetters(writer, line, links);
         writer.writeEndElement();
     }
     writer.writeEndElement();
@@ -111,7 +136,10 @@ Writing::Writing(CSVGObj *owner)
     , m_italic(this, italicText, false)
     , m_alignment(this, alignmentText, 0, {&leftText, &middleText, &rightText})
     , m_wrapWidth(this, wrapText, 0, 0, widestLine, 10)
+    , m_underlined(this, underlinedText, false)
+    , m_links(this, linksText)
 {
+    m_links.setPanels(false, false);
     propPenStyleEnabled = propPenWidthEnabled = false;
 }
 
@@ -139,7 +167,8 @@ void Writing::wrapTo(double width)
 
 TextLook Writing::look() const
 {
-    return {printable(m_text), m_fontSize, m_bold, m_italic, Alignment(int(m_alignment)), m_wrapWidth};
+    return {printable(m_text),           m_fontSize,   m_bold,     m_italic,
+            Alignment(int(m_alignment)), m_underlined, m_wrapWidth};
 }
 
 QString Writing::getSVG()
@@ -157,7 +186,7 @@ QString Writing::getSVG()
         QStringLiteral("0 0 %1 %2").arg(number(layout.size.width())).arg(number(layout.size.height())));
     // A text without letters has something to be seen and taken hold of.
     writeBox(writer, layout.size, present.text.isEmpty());
-    writeLines(writer, present, layout.lines);
+    writeLines(writer, present, layout.lines, pagehost::decodedLinks(m_links));
     writer.writeEndElement();
     return svg;
 }
@@ -200,10 +229,65 @@ QVector<shapekit::LabelPlace> Writing::labelPlaces()
 
 bool Writing::GetSpecialProperty(int propId, QDataStream &out)
 {
+    if (propId == pagehost::LabelLinks) {
+        out << qint32(1) << qint32(m_text.id()) << qint32(m_links.id()) << QByteArray(m_links);
+        return true;
+    }
+    if (propId == pagehost::LinkAreas && document) {
+        writeLinkAreas(out);
+        return true;
+    }
     if (propId != pagehost::VanishesEmpty)
         return ShapeOfType::GetSpecialProperty(propId, out);
     out << printable(m_text).trimmed().isEmpty();
     return true;
+}
+
+bool Writing::SetSpecialProperty(int propId, QDataStream &in, bool record)
+{
+    return propId == pagehost::LabelLinks ? takeLinks(in, record)
+                                          : ShapeOfType::SetSpecialProperty(propId, in, record);
+}
+
+/// While they are typed: recorded, but no step to take back.
+bool Writing::takeLinks(QDataStream &in, bool record)
+{
+    qint32 label = 0;
+    QByteArray links;
+    in >> label >> links;
+    if (in.status() != QDataStream::Ok || label != m_text.id())
+        return false;
+    if (links == QByteArray(m_links))
+        return true;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << links;
+    QDataStream value(bytes);
+    return SetAttribute(m_links.id(), value, record, false);
+}
+
+/// A box for each line that a link is on.
+void Writing::writeLinkAreas(QDataStream &out)
+{
+    const QVector<pagehost::TextLink> links = pagehost::decodedLinks(m_links);
+    const QTransform toObject = seenMapping();
+    const QVector<TextLine> lines = links.isEmpty() ? QVector<TextLine>() : layOut(look()).lines;
+    QVector<QPair<QRectF, QString>> areas;
+    for (const TextLine &line : lines) {
+        for (const pagehost::TextLink &link : links) {
+            const int first = std::max(link.start - line.start, 0);
+            const int last = std::min(link.start + link.length - line.start, line.text.size());
+            if (first >= last)
+                continue;
+            QRectF box = line.box;
+            box.setLeft(line.box.left() + line.advances.at(first));
+            box.setRight(line.box.left() + line.advances.at(last));
+            areas.append({toObject.mapRect(box.normalized()), link.address});
+        }
+    }
+    out << qint32(areas.size());
+    for (const auto &area : qAsConst(areas))
+        out << area.first << area.second;
 }
 
 } // namespace text

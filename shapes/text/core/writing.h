@@ -26,6 +26,11 @@ public:
     QSizeF getDefaultSVGSize() override;
     QVector<shapekit::LabelPlace> labelPlaces() override;
     bool GetSpecialProperty(int propId, QDataStream &out) override;
+    bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
+    /// With the colour of the letters and the kind of list, which aren't properties of their own.
+    bool GetSettingArray(QJsonArray &settings) override;
+    bool SetSettingArray(QMap<QString, QString> &values, bool record, bool undo) override;
+    QVector<const shapekit::Text *> texts() const override;
 
 protected:
     QSizeF smallestSize() const override { return {4, 4}; }
@@ -34,6 +39,8 @@ protected:
 private:
     TextLook look() const;
     void rebuild();
+    void writeLinkAreas(QDataStream &out);
+    bool takeLinks(QDataStream &in, bool record);
 
     shapekit::TextValue m_text;
     shapekit::RealNumber m_fontSize;
@@ -41,6 +48,8 @@ private:
     shapekit::Switch m_italic;
     shapekit::Choice m_alignment;
     shapekit::RealNumber m_wrapWidth;
+    shapekit::Switch m_underlined;
+    shapekit::DataValue m_links;
 };
 
 } // namespace text

@@ -5,6 +5,7 @@
 #include <core/toolchoice.h>
 #include <page/labeleditor.h>
 #include <page/pageview.h>
+#include <panels/settings/settingspanel.h>
 #include <tools/toolsettings.h>
 #include <window/mainwindow.h>
 
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void initTestCase() { boardtest::useOwnFolders(); }
     void init() { QSettings().clear(); }
     void aClickAndKeysMakeAText();
+    void lettersAreSetInASectionOfThePanel();
     void theTextAndItsObjectAreOneStep();
     void aTextThatStaysEmptyVanishesWithoutATrace();
     void aTextThatIsEmptiedVanishesInOneStep();
@@ -89,6 +91,31 @@ void TestTextWriting::aClickAndKeysMakeAText()
     QCOMPARE(desk.page().objectCount(), 1);
     QCOMPARE(desk.written(0), QString("Light"));
     QCOMPARE(desk.selection(), desk.page().objects());
+}
+
+void TestTextWriting::lettersAreSetInASectionOfThePanel()
+{
+    Desk desk;
+    desk.click({200, 200});
+    desk.type("wonderful");
+    desk.end();
+    board::SettingsPanel *settings = desk.window().settings();
+    desk.window().raisePanel(settings);
+    QCoreApplication::processEvents();
+    const auto letters = [&desk]() -> board::SettingsPanel * {
+        for (auto *panel : support::listed(desk.window().findChildren<board::SettingsPanel *>()))
+            if (panel->isVisible() && panel->form()->editors().size() == 9)
+                return panel;
+        return nullptr;
+    };
+    QVERIFY(letters());
+    QVERIFY(letters() != settings);
+    QVERIFY(settings->isEmpty());
+    // Shapes without letters have no such section.
+    CBaseObject *box = desk.draw(boardtest::rectangle, {500, 300}, {700, 420});
+    desk.page().select({box});
+    QCoreApplication::processEvents();
+    QVERIFY(!letters());
 }
 
 void TestTextWriting::theTextAndItsObjectAreOneStep()

@@ -3,13 +3,18 @@
 #include "shapes/writingdesk.h"
 
 #include <pagehost/objectplugin.h>
+#include <pagehost/textlinks.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
 using pagehost::ToolRole;
 
 namespace {
 
 /// Property ids of a text, in the order of its panel.
-enum : int { TextId = 5101, SizeId, BoldId, ItalicId, AlignmentId, WidthId };
+enum : int { TextId = 5101, SizeId, BoldId, ItalicId, AlignmentId, WidthId, UnderlinedId, LinksId };
 
 struct Desk : WritingDesk
 {
@@ -60,6 +65,12 @@ private Q_SLOTS:
     void theBoxGrowsWithTheText();
     void aLargerTextKeepsItsMagnification();
     void everySettingShows();
+    void thePanelHasASectionForItsLetters();
+    void aListIsChosenInThePanel();
+    void theColourIsChosenInThePanel();
+    void linksAreUnderlinedAndTellWhereTheyAre();
+    void linksAreTakenBackSavedAndRecorded();
+    void brokenLinksAreNone();
     void aTextIsExportedAsText();
     void signsOfXmlAreWrittenAsTheyAre();
     void onlyATextWithoutLettersIsEmpty();
@@ -141,10 +152,161 @@ void TestWriting::everySettingShows()
     QVERIFY(desk.svgOf(text).contains("font-style=\"italic\""));
     QVERIFY(pagehost::setPenColor({text}, QColor("#c9252d")));
     QVERIFY(desk.svgOf(text).contains("fill=\"#c9252d\""));
+    desk.set(text, UnderlinedId, true);
+    QVERIFY(desk.svgOf(text).contains("text-decoration=\"underline\""));
     desk.set(text, AlignmentId, qint32(1));
     QVERIFY(desk.svgOf(text).contains("text-anchor=\"middle\""));
     desk.set(text, WidthId, 400.0);
     QCOMPARE(desk.placeOf(text).width(), 400.0);
+}
+
+namespace {
+
+QJsonArray settingsOf(CBaseObject *text)
+{
+    QString json;
+    text->GetSettingJson(json);
+    return QJsonDocument::fromJson(json.toUtf8())[QLatin1String("settings")].toArray();
+}
+
+QJsonObject settingOf(CBaseObject *text, const QString &id)
+{
+    for (const QJsonValue &control : settingsOf(text))
+        if (control[QLatin1String("id")] == id)
+            return control.toObject();
+    return {};
+}
+
+QString lettersOf(CBaseObject *text)
+{
+    return settingOf(text, QStringLiteral("idText"))[QLatin1String("value")].toString();
+}
+
+/// "see there", whose second word leads somewhere.
+const QVector<pagehost::TextLink> oneLink{{4, 5, QStringLiteral("https://example.org/")}};
+
+QVector<QPair<QRectF, QString>> linkAreasOf(CBaseObject *text)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!text->GetSpecialProperty(pagehost::LinkAreas, out))
+        qFatal("a text tells where its links are");
+    QDataStream in(bytes);
+    QVector<QPair<QRectF, QString>> areas;
+    qint32 count = 0;
+    in >> count;
+    for (qint32 i = 0; i < count; ++i) {
+        QPair<QRectF, QString> area;
+        in >> area.first >> area.second;
+        areas.append(area);
+    }
+    return areas;
+}
+
+} // namespace
+
+void TestWriting::thePanelHasASectionForItsLetters()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    QStringList ids;
+    for (const QJsonValue &control : settingsOf(text))
+        if (control[QLatin1String("section")] == QLatin1String("text"))
+            ids.append(control[QLatin1String("id")].toString());
+    QCOMPARE(ids, (QStringList{"idText", "idFontSize", "idBold", "idItalic", "idUnderlined", "idTextColour",
+                               "idAlignment", "idList", "idLineWidth"}));
+}
+
+void TestWriting::aListIsChosenInThePanel()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("one\ntwo"));
+    const auto choose = [text](const char *kind) {
+        text->SetSettingJson(QStringLiteral("{\"idList\": \"%1\"}").arg(QLatin1String(kind)), true, true);
+    };
+    choose("1");
+    QCOMPARE(lettersOf(text), QStringLiteral("\u2022 one\n\u2022 two"));
+    QCOMPARE(settingOf(text, QStringLiteral("idList"))[QLatin1String("index")].toInt(), 1);
+    choose("2");
+    QCOMPARE(lettersOf(text), QStringLiteral("1. one\n2. two"));
+    QCOMPARE(settingOf(text, QStringLiteral("idList"))[QLatin1String("index")].toInt(), 2);
+    choose("0");
+    QCOMPARE(lettersOf(text), QStringLiteral("one\ntwo"));
+    undoStack()->undo();
+    QCOMPARE(lettersOf(text), QStringLiteral("1. one\n2. two"));
+    choose("7");
+    QCOMPARE(lettersOf(text), QStringLiteral("1. one\n2. two"));
+}
+
+void TestWriting::theColourIsChosenInThePanel()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("wonderful"));
+    text->SetSettingJson(QStringLiteral("{\"idTextColour\": \"#ffc9252d\"}"), true, true);
+    QVERIFY(desk.svgOf(text).contains("fill=\"#c9252d\""));
+    undoStack()->undo();
+    QVERIFY(desk.svgOf(text).contains("fill=\"#2563cf\""));
+}
+
+void TestWriting::linksAreUnderlinedAndTellWhereTheyAre()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("see there"));
+    QVERIFY(linkAreasOf(text).isEmpty());
+    desk.set(text, LinksId, pagehost::encodedLinks(oneLink));
+    const QRegularExpression underlined(
+        QStringLiteral("see <tspan text-decoration=\"underline\"[^>]*>there</tspan></tspan>"));
+    QVERIFY2(underlined.match(desk.svgOf(text)).hasMatch(), qPrintable(desk.svgOf(text)));
+    const auto areas = linkAreasOf(text);
+    QCOMPARE(areas.size(), 1);
+    QCOMPARE(areas[0].second, oneLink[0].address);
+    const QRectF box({0, 0}, desk.placeOf(text).size());
+    QVERIFY(qAbs(areas[0].first.right() - box.right()) < 1);
+    QVERIFY(areas[0].first.left() > box.width() / 3 && areas[0].first.left() < box.width() / 2);
+    QCOMPARE(areas[0].first.height(), box.height());
+    // On two lines there are two parts.
+    desk.type(text, QStringLiteral("see th\nre"));
+    QCOMPARE(linkAreasOf(text).size(), 2);
+}
+
+void TestWriting::linksAreTakenBackSavedAndRecorded()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("see there"));
+    const QByteArray before = savedState(text);
+    desk.recorder.start(&desk.document);
+    desk.set(text, LinksId, pagehost::encodedLinks(oneLink));
+    const QByteArray after = savedState(text);
+    QVERIFY(after != before);
+    const QStringList drawn = savedState(desk.document);
+    QCOMPARE(desk.played(desk.recorder.stop()), drawn);
+    undoStack()->undo();
+    QCOMPARE(savedState(text), before);
+    undoStack()->redo();
+    QCOMPARE(savedState(text), after);
+}
+
+void TestWriting::brokenLinksAreNone()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("see there"));
+    desk.set(text, LinksId, QByteArray("\0\0\0", 3));
+    QVERIFY(linkAreasOf(text).isEmpty());
+    // Overlapping, backwards, and beyond the text.
+    desk.set(text, LinksId, pagehost::encodedLinks({{4, 5, "a:"}, {5, 2, "b:"}}));
+    QVERIFY(linkAreasOf(text).isEmpty());
+    desk.set(text, LinksId, pagehost::encodedLinks({{-4, 5, "a:"}}));
+    QVERIFY(linkAreasOf(text).isEmpty());
+    desk.set(text, LinksId, pagehost::encodedLinks({{6, 500, "a:"}}));
+    QCOMPARE(linkAreasOf(text).size(), 1);
+    desk.set(text, LinksId, pagehost::encodedLinks({{600, 500, "a:"}}));
+    QVERIFY(linkAreasOf(text).isEmpty());
+    QVERIFY(desk.svgOf(text).contains("see there"));
 }
 
 void TestWriting::aTextIsExportedAsText()

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDataStream>
+#include <QtCore/QIODevice>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+namespace pagehost {
+
+/// Letters of a text that lead to an address, UTF-16 units.
+struct TextLink
+{
+    int start = 0;
+    int length = 0;
+    QString address;
+
+    bool operator==(const TextLink &other) const
+    {
+        return start == other.start && length == other.length && address == other.address;
+    }
+};
+
+/// Special properties, beside those of pagehost::SpecialProperty, of objects whose labels (LabelPlaces) may have
+/// links.
+enum TextLinkProperty {
+    /// Read: a qint32 count, then for each such label its property and that of its links (qint32 each), whose value
+    /// is a
+    /// QByteArray (encodedLinks()). Write: the links of a label while it is typed, as LabelText: the label's
+    /// property
+    /// (qint32) and the links (QByteArray).
+    LabelLinks = 2917,
+    /// Read only: where links stand: a qint32 count, then for each a box (QRectF, item coordinates as they are
+    /// seen) and
+    /// the address (QString). Nobody has checked the addresses.
+    LinkAreas = 2918
+};
+
+/// Further links, and longer addresses, are left out.
+constexpr int mostLinks = 500;
+constexpr int longestAddress = 2000;
+
+inline QByteArray encodedLinks(const QVector<TextLink> &links)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    for (const TextLink &link : links)
+        out << qint32(link.start) << qint32(link.length) << link.address;
+    return bytes;
+}
+
+/// In the order of the text, without overlaps; none for damaged data.
+inline QVector<TextLink> decodedLinks(const QByteArray &bytes)
+{
+    QVector<TextLink> links;
+    QDataStream in(bytes);
+    int end = 0;
+    while (!in.atEnd() && links.size() < mostLinks) {
+        qint32 start = 0;
+        qint32 length = 0;
+        QString address;
+        in >> start >> length >> address;
+        if (in.status() != QDataStream::Ok || start < end || length <= 0 || length > (1 << 24) || start > (1 << 24))
+            return {};
+        end = start + length;
+        if (address.size() <= longestAddress)
+            links.append({start, length, address});
+    }
+    return links;
+}
+
+} // namespace pagehost
