@@ -26,7 +26,8 @@ namespace {
 /// Pixels. The mouse is at whole ones, half a pixel from the place that is meant along each axis.
 constexpr double tolerance = 1;
 constexpr double partOfRoom = 0.4;
-constexpr double longestDrag = 40;
+/// Far enough for points that snap.
+constexpr double longestDrag = 60;
 constexpr double leastWay = 2;
 const QPointF middle(640, 360);
 
