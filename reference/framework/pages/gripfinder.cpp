@@ -78,16 +78,17 @@ Grip exactGrip(CBaseObject *object, const QPointF &scenePos)
     return grip.kind == Grip::ControlPoint ? controlPointGrip(object, scenePos, {}) : grip;
 }
 
-/// The topmost object there that is not locked: clicks pass through the others.
-CBaseObject *freeObjectAt(const Page &page, const QPointF &scenePos)
+/// The objects there that are not locked, the topmost first: clicks pass through the others.
+QVector<CBaseObject *> freeObjectsAt(const Page &page, const QPointF &scenePos)
 {
+    QVector<CBaseObject *> objects;
     const QList<QGraphicsItem *> items = page.scene()->items(scenePos);
     for (QGraphicsItem *item : items) {
         auto *object = dynamic_cast<CBaseObject *>(item);
         if (object && object->GetPage() == &page && !object->isLocked())
-            return object;
+            objects.append(object);
     }
-    return nullptr;
+    return objects;
 }
 
 CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPointF &scenePos)
@@ -139,10 +140,31 @@ Grip findGrip(const Page &page, const QPointF &scenePos)
                 return grip;
         }
     }
-    CBaseObject *object = freeObjectAt(page, scenePos);
+    CBaseObject *object = freeObjectsAt(page, scenePos).value(0);
     if (!object)
         object = selectedAround(selected, scenePos);
     return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}} : Grip();
+}
+
+ObjectsBelow findBelow(const Page &page, const QPointF &scenePos)
+{
+    ObjectsBelow below;
+    QVector<QVector<CBaseObject *>> units;
+    int place = 0; // of the selected one
+    const QVector<CBaseObject *> objects = freeObjectsAt(page, scenePos);
+    for (CBaseObject *object : objects) {
+        const QVector<CBaseObject *> unit = page.unitOf(object);
+        if (!units.contains(unit))
+            units.append(unit);
+        if (below.selected || !object->isSelected())
+            continue;
+        below.selected = object;
+        place = units.indexOf(unit);
+    }
+    if (!below.selected || units.size() < 2)
+        return {};
+    below.next = units.at((place + 1) % units.size());
+    return below;
 }
 
 QCursor cursorFor(const Grip &grip, bool pressed)

@@ -189,12 +189,18 @@ void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
         QGraphicsScene::mousePressEvent(event);
         return;
     }
-    const Grip grip = gripAt(event->scenePos());
+    Grip grip = gripAt(event->scenePos());
     if (grip.kind == Grip::Nothing) {
         event->ignore();
         return;
     }
+    const bool reachesBelow = grip.kind == Grip::Body && event->modifiers().testFlag(Qt::ControlModifier) &&
+                              !event->modifiers().testFlag(Qt::ShiftModifier);
+    CBaseObject *selected = reachesBelow ? findBelow(*m_page, event->scenePos()).selected : nullptr;
+    if (selected)
+        grip.object = selected;
     pressGrip(grip, event);
+    m_takesBelow = selected != nullptr;
 }
 
 void PageScene::beginGesture()
@@ -323,6 +329,8 @@ void PageScene::releaseGrip(QGraphicsSceneMouseEvent *event)
         dropCopy(event->modifiers());
         return;
     }
+    if (takeBelow())
+        return;
     lead(event);
     if (m_frameDrag)
         m_frameDrag->finish();
@@ -335,6 +343,18 @@ bool PageScene::canDropCopy() const
 {
     const GripDrag *drag = m_drag.kind == Grip::Body ? GripDrag::running(*m_drag.object) : nullptr;
     return drag && drag->hasMoved() && !drag->before().isEmpty();
+}
+
+/// Ends a press with Ctrl that has not become a drag.
+bool PageScene::takeBelow()
+{
+    GripDrag *drag = m_takesBelow ? GripDrag::running(*m_drag.object) : nullptr;
+    if (!drag || drag->hasMoved())
+        return false;
+    GripDrag::forget(*m_drag.object);
+    endDrag();
+    m_page->select(findBelow(*m_page, m_pressPos).next);
+    return true;
 }
 
 /// The objects return, and whoever can copy them makes copies where they were dragged to.
@@ -353,6 +373,7 @@ void PageScene::dropCopy(Qt::KeyboardModifiers modifiers)
 void PageScene::endDrag()
 {
     m_drag = {};
+    m_takesBelow = false;
     m_course.reset();
     m_frameDrag.reset();
     endSnapping();

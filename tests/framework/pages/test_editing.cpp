@@ -5,6 +5,24 @@
 #include "framework/editor.h"
 #include "framework/handlepoints.h"
 
+namespace {
+
+/// Three objects above each other.
+struct Pile
+{
+    static constexpr QPointF place{100, 80};
+    CBaseObject *bottom, *middle, *top;
+
+    explicit Pile(Editor &editor)
+        : bottom(editor.add(QSizeF(100, 60), QPointF(50, 50)))
+        , middle(editor.add(QSizeF(100, 60), QPointF(50, 50)))
+        , top(editor.add(QSizeF(100, 60), QPointF(50, 50)))
+    {
+    }
+};
+
+} // namespace
+
 class TestEditing : public QObject
 {
     Q_OBJECT
@@ -15,6 +33,12 @@ private Q_SLOTS:
     void clickOnEmptyPageDeselects();
     void shiftClickAddsAndRemoves();
     void controlClickAddsAndRemoves();
+    void controlClicksGoDownAndBeginAgainAtTheTop();
+    void controlClickPassesLockedAndHiddenObjects();
+    void controlClickBelowEndsOtherSelections();
+    void controlDragOfACoveredObjectCopiesIt();
+    void tremblingControlClickTakesTheOneBelow();
+    void shiftAndControlAddAnObjectAboveTheSelectedOne();
     void clickInAMultipleSelectionSelectsOnlyThatOne();
     void rubberBandSelectsWhatItTouches();
     void topmostObjectIsSelected();
@@ -93,6 +117,81 @@ void TestEditing::controlClickAddsAndRemoves()
     QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{left});
     editor.click(QPointF(100, 80), Qt::ControlModifier);
     QVERIFY(editor.page->selectedObjects().isEmpty());
+}
+
+void TestEditing::controlClicksGoDownAndBeginAgainAtTheTop()
+{
+    Editor editor;
+    const Pile pile(editor);
+    editor.click(Pile::place);
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{pile.top});
+    for (CBaseObject *next : {pile.middle, pile.bottom, pile.top, pile.middle}) {
+        editor.click(Pile::place, Qt::ControlModifier);
+        QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{next});
+    }
+    QCOMPARE(undoStack()->count(), 0);
+    QVERIFY(!editor.page->scene()->isDragging());
+}
+
+void TestEditing::controlClickPassesLockedAndHiddenObjects()
+{
+    Editor editor;
+    const Pile pile(editor);
+    auto *lowest = editor.add(QSizeF(100, 60), QPointF(50, 50));
+    editor.page->moveObject(lowest, 0);
+    pile.middle->setLocked(true);
+    pile.bottom->QGraphicsItem::setVisible(false);
+    editor.click(Pile::place);
+    editor.click(Pile::place, Qt::ControlModifier);
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{lowest});
+    editor.click(Pile::place, Qt::ControlModifier);
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{pile.top});
+}
+
+void TestEditing::controlClickBelowEndsOtherSelections()
+{
+    Editor editor;
+    const Pile pile(editor);
+    auto *aside = editor.add(QSizeF(100, 60), QPointF(300, 50));
+    editor.page->select({pile.top, aside});
+    editor.click(Pile::place, Qt::ControlModifier);
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{pile.middle});
+}
+
+void TestEditing::controlDragOfACoveredObjectCopiesIt()
+{
+    Editor editor;
+    const Pile pile(editor);
+    editor.page->select({pile.bottom});
+    QVector<QPointF> drops;
+    connect(editor.page->scene(), &pagehost::PageScene::copyDropped, this,
+            [&drops](const QPointF &way) { drops.append(way); });
+    editor.drag(Pile::place, Pile::place + QPointF(130, 100), Qt::ControlModifier);
+    QCOMPARE(drops, QVector<QPointF>{QPointF(130, 100)});
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{pile.bottom});
+}
+
+void TestEditing::tremblingControlClickTakesTheOneBelow()
+{
+    Editor editor;
+    const Pile pile(editor);
+    editor.page->select({pile.top});
+    QSignalSpy drops(editor.page->scene(), &pagehost::PageScene::copyDropped);
+    editor.press(Pile::place, Qt::ControlModifier);
+    editor.moveTo(Pile::place + QPointF(2, 0), Qt::ControlModifier);
+    editor.release(Pile::place + QPointF(2, 0), Qt::ControlModifier);
+    QCOMPARE(drops.count(), 0);
+    QCOMPARE(editor.page->selectedObjects(), QVector<CBaseObject *>{pile.middle});
+    QCOMPARE(pile.top->getPos(), QPointF(50, 50));
+}
+
+void TestEditing::shiftAndControlAddAnObjectAboveTheSelectedOne()
+{
+    Editor editor;
+    const Pile pile(editor);
+    editor.page->select({pile.bottom});
+    editor.click(Pile::place, Qt::ShiftModifier | Qt::ControlModifier);
+    QCOMPARE(editor.page->selectedObjects(), (QVector<CBaseObject *>{pile.bottom, pile.top}));
 }
 
 void TestEditing::clickInAMultipleSelectionSelectsOnlyThatOne()

@@ -49,7 +49,8 @@ struct Grip
 ///
 /// A press goes to handles and control points of the selected objects first, so that a near miss of one does not
 /// deselect; then to the object under the point; a press on empty page is left to the view, whose rubber band it
-/// starts. Shift or Ctrl adds to the selection and takes from it. A press on a member takes its group, a double
+/// starts. Shift adds to the selection and takes from it. So does Ctrl, unless the selected object lies above or
+/// below others: then a click takes the one below it, a drag copies the selected ones. A press on a member takes its group, a double
 /// click enters the group. While a tool is set, it gets the mouse. Views show hover and cursors once mouse tracking
 /// is on for their viewport.
 class FRAMEWORK_EXPORT PageScene : public QGraphicsScene
@@ -177,6 +178,7 @@ private:
     void releaseGrip(QGraphicsSceneMouseEvent *event);
     void leadAgain(Qt::KeyboardModifiers modifiers);
     bool canDropCopy() const;
+    bool takeBelow();
     void dropCopy(Qt::KeyboardModifiers modifiers);
     bool showsOldPlace() const;
     QVector<GeometrySnapshot> dragStart() const;
@@ -201,6 +203,7 @@ private:
     CBaseObject *m_highlight = nullptr;
     Highlight m_highlightedParts = ObjectOnly;
     QPointF m_pressPos; ///< scene coordinates
+    bool m_takesBelow = false; ///< the drag that is going on, if it ends as a click
     QPointF m_lastPos;  ///< of the mouse in the drag that is going on, scene coordinates
     std::unique_ptr<Snapper> m_snapper;
     std::unique_ptr<GripCourse> m_course;   ///< of the drag that is going on
