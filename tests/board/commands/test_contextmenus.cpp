@@ -4,6 +4,7 @@
 
 #include <commands/menuplan.h>
 #include <core/commands.h>
+#include <core/mnemonics.h>
 #include <page/pageview.h>
 #include <panels/pagepanel.h>
 #include <window/mainwindow.h>
@@ -62,7 +63,7 @@ QStringList textsOf(const QMenu *menu)
     QStringList texts;
     for (const QAction *action : support::listed(menu->actions()))
         if (action->isVisible())
-            texts.append(action->isSeparator() ? "|" : action->text());
+            texts.append(action->isSeparator() ? "|" : board::withoutMnemonic(action->text()));
     return texts;
 }
 
