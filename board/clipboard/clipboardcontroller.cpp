@@ -196,7 +196,8 @@ void ClipboardController::add(const Pasted &pasted)
     if (pasted.objects.isEmpty())
         return;
     GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_PASTE"));
-    pagehost::addObjects(m_view->page(), pasted.objects, pasted.groups);
+    pagehost::Page *page = m_view->page();
+    pagehost::addObjects(page, pasted.objects, pasted.groups, page->enteredGroup());
     GetFramework()->endUndoGroup();
     m_view->setFocus();
 }

@@ -105,7 +105,7 @@ void Actions::makeAlignActions()
         arrange(row.command, [this, edge = row.edge](const auto &objects) { align(units(objects), edge); });
     arrange(Command::DistributeAcross, [this](const auto &objects) { distribute(units(objects), Qt::Horizontal); });
     arrange(Command::DistributeDown, [this](const auto &objects) { distribute(units(objects), Qt::Vertical); });
-    arrange(Command::SameSize, [](const auto &objects) { makeSameSize(objects); });
+    arrange(Command::SameSize, [this](const auto &objects) { makeSameSize(units(objects)); });
     arrange(Command::BringBack, [this](const auto &objects) { bringBack(units(objects), m_view->page()->rect()); });
     arrange(Command::Group, [this](const auto &objects) { pagehost::groupObjects(m_view->page(), objects); });
     arrange(Command::Ungroup, [this](const auto &objects) { pagehost::ungroupObjects(m_view->page(), objects); });
@@ -266,13 +266,13 @@ void Actions::restackSelection(pagehost::StackingMove move)
 void Actions::mirrorSelection(bool horizontally)
 {
     if (!isDragging())
-        pagehost::mirrorObjects(m_view->page()->selectedObjects(), horizontally);
+        pagehost::mirrorUnits(units(m_view->page()->selectedObjects()), horizontally);
 }
 
 void Actions::rotateSelection(double degrees)
 {
     if (!isDragging())
-        pagehost::rotateObjects(m_view->page()->selectedObjects(), degrees);
+        pagehost::rotateUnits(units(m_view->page()->selectedObjects()), degrees);
 }
 
 void Actions::zoomToSelection()

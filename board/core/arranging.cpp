@@ -1,6 +1,7 @@
 #include "core/arranging.h"
 
 #include <pagehost/commands.h>
+#include <pagehost/objectframe.h>
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
 
@@ -22,17 +23,18 @@ struct Shift
     QPointF delta;
 };
 
-QVector<CBaseObject *> unlocked(const QVector<CBaseObject *> &objects)
-{
-    QVector<CBaseObject *> free;
-    std::copy_if(objects.begin(), objects.end(), std::back_inserter(free),
-                 [](const CBaseObject *object) { return !object->isLocked(); });
-    return free;
-}
-
 bool isLocked(const Unit &unit)
 {
     return std::any_of(unit.begin(), unit.end(), [](const CBaseObject *object) { return object->isLocked(); });
+}
+
+/// Those of a group that don't just follow others.
+Unit movable(const Unit &unit)
+{
+    Unit found;
+    std::copy_if(unit.begin(), unit.end(), std::back_inserter(found),
+                 [&](CBaseObject *object) { return unit.size() == 1 || object->canDo(OperationMove); });
+    return found;
 }
 
 QRectF boxOf(const Unit &unit)
@@ -90,10 +92,34 @@ double lengthOf(const QRectF &box, Qt::Orientation direction)
     return direction == Qt::Horizontal ? box.width() : box.height();
 }
 
-double areaOf(const CBaseObject *object)
+QSizeF sizeOf(const Unit &unit)
 {
-    const QSizeF size = object->getClientRect().size();
-    return size.width() * size.height();
+    return unit.size() == 1 ? unit.first()->getClientRect().size() : boxOf(unit).size();
+}
+
+double areaOf(const Unit &unit)
+{
+    return sizeOf(unit).width() * sizeOf(unit).height();
+}
+
+double growthOf(double length, double wanted)
+{
+    return length > 0 ? wanted / length : 1;
+}
+
+/// Keeps the top left corner.
+void resize(const QVector<GeometrySnapshot> &before, const Unit &unit, const QSizeF &size)
+{
+    const QSizeF present = sizeOf(unit);
+    if (present == size)
+        return;
+    if (unit.size() > 1) {
+        pagehost::scaleTogether(before, boxOf(unit).topLeft(), growthOf(present.width(), size.width()),
+                                growthOf(present.height(), size.height()));
+        return;
+    }
+    unit.first()->setSize(size, true, false);
+    unit.first()->setPos(before.first().pos(), true);
 }
 
 } // namespace
@@ -161,22 +187,19 @@ bool bringBack(const QVector<Unit> &units, const QRectF &page)
     return move(shifts, QStringLiteral("IDS_BOARD_BRING_BACK"));
 }
 
-bool makeSameSize(const QVector<CBaseObject *> &objects)
+bool makeSameSize(const QVector<Unit> &units)
 {
-    if (objects.isEmpty())
+    if (units.isEmpty())
         return false;
-    const CBaseObject *largest =
-        *std::max_element(objects.begin(), objects.end(), [](const CBaseObject *one, const CBaseObject *other) {
-            return areaOf(one) < areaOf(other);
-        });
-    const QSizeF size = largest->getClientRect().size();
-    const QVector<GeometrySnapshot> before =
-        pagehost::takeSnapshots(unlocked(objects), GeometrySnapshot::WithContent);
-    for (const GeometrySnapshot &snapshot : before) {
-        if (snapshot.size() == size)
+    const auto isSmaller = [](const Unit &one, const Unit &other) { return areaOf(one) < areaOf(other); };
+    const QSizeF size = sizeOf(*std::max_element(units.begin(), units.end(), isSmaller));
+    QVector<GeometrySnapshot> before;
+    for (const Unit &unit : units) {
+        if (isLocked(unit))
             continue;
-        snapshot.object()->setSize(size, true, false);
-        snapshot.object()->setPos(snapshot.pos(), true);
+        const auto snapshots = pagehost::takeSnapshots(movable(unit), GeometrySnapshot::WithContent);
+        resize(snapshots, unit, size);
+        before += snapshots;
     }
     return pagehost::pushGeometryChange(before, QStringLiteral("IDS_BOARD_SAME_SIZE"));
 }

@@ -30,7 +30,8 @@ bool distribute(const QVector<Unit> &units, Qt::Orientation direction);
 bool bringBack(const QVector<Unit> &units, const QRectF &page);
 /// Whether it hangs off the page.
 bool isOff(const Unit &unit, const QRectF &page);
-/// Gives all the size of the largest, each keeping its top left corner.
-bool makeSameSize(const QVector<CBaseObject *> &objects);
+/// Gives all the size of the largest, each keeping its top left corner. The size of a group is that of the box
+/// around it, which is scaled as a whole.
+bool makeSameSize(const QVector<Unit> &units);
 
 } // namespace board

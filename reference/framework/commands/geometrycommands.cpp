@@ -6,7 +6,9 @@
 
 #include <commands/pagecommand.h>
 #include <host/geometry.h>
+#include <pagehost/objectframe.h>
 #include <pagehost/page.h>
+#include <pagehost/selection.h>
 
 #include <algorithm>
 #include <cmath>
@@ -76,6 +78,57 @@ QVector<CBaseObject *> unlocked(const QVector<CBaseObject *> &objects)
     return found;
 }
 
+using Objects = QVector<CBaseObject *>;
+
+/// Those that don't just follow others.
+Objects movable(const Objects &objects)
+{
+    Objects found;
+    std::copy_if(objects.begin(), objects.end(), std::back_inserter(found),
+                 [](CBaseObject *object) { return object->canDo(OperationMove); });
+    return found;
+}
+
+void rotateAlone(const QVector<GeometrySnapshot> &before, double degrees)
+{
+    for (const GeometrySnapshot &snapshot : before) {
+        CBaseObject *object = snapshot.object();
+        object->setRotateByPoint(normalizedDegrees(snapshot.rotation() + degrees), object->getClientRect().center(),
+                                 true);
+    }
+}
+
+void mirrorAlone(const QVector<GeometrySnapshot> &before, bool horizontally)
+{
+    for (const GeometrySnapshot &snapshot : before)
+        snapshot.object()->setMirror(snapshot.isMirrored() != horizontally, snapshot.isFlipped() == horizontally,
+                                     true);
+}
+
+QVector<Objects> eachAlone(const Objects &objects)
+{
+    QVector<Objects> units;
+    for (CBaseObject *object : objects)
+        units.append({object});
+    return units;
+}
+
+/// Changes objects by `alone` and groups by `together`, which gets their centre too; one step for all.
+template<typename Alone, typename Together>
+bool changeUnits(const QVector<Objects> &units, const QString &textKey, const Alone &alone,
+                 const Together &together)
+{
+    QVector<GeometrySnapshot> before;
+    for (const Objects &unit : units) {
+        const bool isGroup = unit.size() > 1;
+        const Objects changed = unlocked(isGroup ? movable(unit) : unit);
+        const QVector<GeometrySnapshot> snapshots = takeSnapshots(changed, GeometrySnapshot::PlaceOnly);
+        isGroup ? together(snapshots, boundsOf(movable(unit)).center()) : alone(snapshots);
+        before += snapshots;
+    }
+    return pushGeometryChange(before, textKey);
+}
+
 } // namespace
 
 bool pushGeometryChange(const QVector<GeometrySnapshot> &before, const QString &textKey)
@@ -106,13 +159,14 @@ bool moveObjects(const QVector<CBaseObject *> &objects, const QPointF &delta)
 
 bool rotateObjects(const QVector<CBaseObject *> &objects, double degrees)
 {
-    const QVector<GeometrySnapshot> before = takeSnapshots(unlocked(objects), GeometrySnapshot::PlaceOnly);
-    for (const GeometrySnapshot &snapshot : before) {
-        CBaseObject *object = snapshot.object();
-        object->setRotateByPoint(normalizedDegrees(snapshot.rotation() + degrees), object->getClientRect().center(),
-                                 true);
-    }
-    return pushGeometryChange(before, QStringLiteral("IDS_UNDO_ROTATE"));
+    return rotateUnits(eachAlone(objects), degrees);
+}
+
+bool rotateUnits(const QVector<QVector<CBaseObject *>> &units, double degrees)
+{
+    return changeUnits(
+        units, QStringLiteral("IDS_UNDO_ROTATE"), [=](const auto &before) { rotateAlone(before, degrees); },
+        [=](const auto &before, const QPointF &centre) { turnTogether(before, centre, degrees); });
 }
 
 bool resizeObject(CBaseObject *object, const QSizeF &size)
@@ -127,12 +181,14 @@ bool resizeObject(CBaseObject *object, const QSizeF &size)
 
 bool mirrorObjects(const QVector<CBaseObject *> &objects, bool horizontally)
 {
-    const QVector<GeometrySnapshot> before = takeSnapshots(unlocked(objects), GeometrySnapshot::PlaceOnly);
-    for (const GeometrySnapshot &snapshot : before) {
-        snapshot.object()->setMirror(snapshot.isMirrored() != horizontally, snapshot.isFlipped() == horizontally,
-                                     true);
-    }
-    return pushGeometryChange(before, QStringLiteral("IDS_UNDO_MIRROR"));
+    return mirrorUnits(eachAlone(objects), horizontally);
+}
+
+bool mirrorUnits(const QVector<QVector<CBaseObject *>> &units, bool horizontally)
+{
+    return changeUnits(
+        units, QStringLiteral("IDS_UNDO_MIRROR"), [=](const auto &before) { mirrorAlone(before, horizontally); },
+        [=](const auto &before, const QPointF &centre) { mirrorTogether(before, centre, horizontally); });
 }
 
 bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked)

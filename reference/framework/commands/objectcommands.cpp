@@ -4,6 +4,7 @@
 #include <framework/cundoredo.h>
 
 #include <commands/pagecommand.h>
+#include <pagehost/objectid.h>
 #include <pagehost/page.h>
 
 #include <QtCore/QSet>
@@ -45,15 +46,40 @@ void takeOff(Page &page, const QVector<CBaseObject *> &objects)
         page.removeObject(*object);
 }
 
+/// Index directly above the objects of a group; of the page for 0.
+int placeOnTop(const Page &page, quint32 group)
+{
+    return group == 0 ? page.objectCount() : page.indexOf(page.grouping().objectsOf(group).last()) + 1;
+}
+
+/// Makes new objects and groups, those from the index `first` on, members of the group.
+void putInto(ObjectGroups &groups, int first, const QVector<CBaseObject *> &objects, quint32 group)
+{
+    QSet<quint32> grouped;
+    for (int index = first; index < groups.size(); ++index) {
+        if (groups.at(index).parent == 0)
+            groups[index].parent = group;
+        grouped.unite({groups.at(index).members.begin(), groups.at(index).members.end()});
+    }
+    const auto target =
+        std::find_if(groups.begin(), groups.end(), [=](const ObjectGroup &one) { return one.number == group; });
+    for (const CBaseObject *object : objects)
+        if (!grouped.contains(objectId(object)))
+            target->members.append(objectId(object));
+}
+
 class AddObjectsCommand : public PageCommand
 {
 public:
-    AddObjectsCommand(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups)
+    /// `group`: 0 for the page.
+    AddObjectsCommand(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups, quint32 group)
         : PageCommand(page, objects, QStringLiteral("IDS_UNDO_ADD_OBJECTS"))
-        , m_first(page->objectCount())
+        , m_first(placeOnTop(*page, group))
         , m_before(page->groups())
         , m_after(m_before + renumbered(groups, highestNumber(m_before)))
     {
+        if (group != 0)
+            putInto(m_after, m_before.size(), objects, group);
     }
 
     void undo() override
@@ -172,7 +198,7 @@ QVector<CBaseObject *> withUnits(QVector<CBaseObject *> objects, const QVector<G
 
 } // namespace
 
-bool addObjects(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups)
+bool addObjects(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups, quint32 group)
 {
     QVector<CBaseObject *> added;
     QSet<CBaseObject *> seen{nullptr};
@@ -184,7 +210,10 @@ bool addObjects(Page *page, const QVector<CBaseObject *> &objects, const ObjectG
     }
     if (added.isEmpty())
         return false;
-    CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added, groups));
+    const bool isInGroup = page->document() && page->grouping().contains(group);
+    if (isInGroup)
+        ensureObjectIds(added, *page->document());
+    CUndoRedo::GetInstance()->push(new AddObjectsCommand(page, added, groups, isInGroup ? group : 0));
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include <framework/cbaseobject.h>
 
 #include <pagehost/commands.h>
+#include <pagehost/objectframe.h>
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
 
@@ -29,27 +30,6 @@ double angleOf(const QPointF &vector)
 double growthOf(double length, double change)
 {
     return length > 0 ? qBound(smallestSide, length + change, longestSide) / length : 1;
-}
-
-QPointF centreOf(const GeometrySnapshot &snapshot)
-{
-    const QRectF rect({0, 0}, snapshot.size());
-    return snapshot.pos() + rotated(rect.center(), snapshot.rotation());
-}
-
-void putCentre(CBaseObject &object, const QPointF &centre)
-{
-    object.CPSRootObject::setPos(centre - rotated(object.getClientRect().center(), object.rotation()), true);
-}
-
-/// Of an object whose page grows by these factors along its axes; an object that is turned can't become oblique.
-QSizeF grownSize(const GeometrySnapshot &snapshot, double across, double down)
-{
-    const double angle = snapshot.rotation() / degreesPerRadian;
-    const double ownAcross = std::hypot(across * std::cos(angle), down * std::sin(angle));
-    const double ownDown = std::hypot(across * std::sin(angle), down * std::cos(angle));
-    const QSizeF size(snapshot.size().width() * ownAcross, snapshot.size().height() * ownDown);
-    return possibleSize(size).expandedTo({smallestSide, smallestSide});
 }
 
 } // namespace
@@ -97,13 +77,7 @@ void FrameDrag::scale(const QPointF &way) const
     const double across = growthOf(m_frame.width(), side.x() * way.x());
     const double down = growthOf(m_frame.height(), side.y() * way.y());
     const QPointF fixed = m_frame.center() - QPointF(side.x() * m_frame.width(), side.y() * m_frame.height()) / 2;
-    for (const GeometrySnapshot &snapshot : m_before) {
-        CBaseObject &object = *snapshot.object();
-        if (object.canDo(OperationResize))
-            object.setSize(grownSize(snapshot, across, down), true, false);
-        const QPointF away = centreOf(snapshot) - fixed;
-        putCentre(object, fixed + QPointF(away.x() * across, away.y() * down));
-    }
+    scaleTogether(m_before, fixed, across, down);
 }
 
 void FrameDrag::turn(const QPointF &scenePos, Qt::KeyboardModifiers modifiers)
@@ -111,14 +85,7 @@ void FrameDrag::turn(const QPointF &scenePos, Qt::KeyboardModifiers modifiers)
     const QPointF centre = m_frame.center();
     const double wanted = angleOf(scenePos - centre) - angleOf(m_press - centre);
     m_degrees = normalizedDegrees(caughtTurn(wanted, modifiers, *m_before.first().object()));
-    for (const GeometrySnapshot &snapshot : qAsConst(m_before)) {
-        CBaseObject &object = *snapshot.object();
-        if (object.canDo(OperationRotate)) {
-            const double degrees = normalizedDegrees(snapshot.rotation() + m_degrees);
-            object.setRotateByPoint(degrees, object.getClientRect().center(), true);
-        }
-        putCentre(object, centre + rotated(centreOf(snapshot) - centre, m_degrees));
-    }
+    turnTogether(m_before, centre, m_degrees);
 }
 
 void FrameDrag::finish() const

@@ -52,7 +52,7 @@ QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *regi
     const QVector<CBaseObject *> copies = cloneObjects(page->selectedObjects(), registry, &groups);
     for (CBaseObject *copy : copies)
         copy->CPSRootObject::setPos(copy->getPos() + offset, false);
-    addObjects(page, copies, groups);
+    addObjects(page, copies, groups, page->enteredGroup());
     return copies;
 }
 

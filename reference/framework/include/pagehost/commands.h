@@ -21,9 +21,10 @@ class Document;
 class Page;
 struct LessonData;
 
-/// Adds objects on top, in this order, with groups of theirs, and selects them.
-FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects,
-                                 const ObjectGroups &groups = {});
+/// Adds objects on top, in this order, with groups of theirs, and selects them. With the number of a `group` of the
+/// page they belong to it, at its top.
+FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objects, const ObjectGroups &groups = {},
+                                 quint32 group = 0);
 /// Removes those objects that are on the page; undo restores their places in stacking order.
 FRAMEWORK_EXPORT bool removeObjects(Page *page, const QVector<CBaseObject *> &objects);
 
@@ -47,10 +48,16 @@ FRAMEWORK_EXPORT bool pushGeometryChange(const QVector<GeometrySnapshot> &before
 FRAMEWORK_EXPORT bool moveObjects(const QVector<CBaseObject *> &objects, const QPointF &delta);
 /// Turns each object about its own centre by `degrees`, clockwise on screen. Locked objects stay.
 FRAMEWORK_EXPORT bool rotateObjects(const QVector<CBaseObject *> &objects, double degrees);
+/// Turns objects and groups by `degrees`, clockwise on screen: each object alone about its own centre, the objects
+/// of a group about the centre of the box around them. Locked objects stay.
+FRAMEWORK_EXPORT bool rotateUnits(const QVector<QVector<CBaseObject *>> &units, double degrees);
 /// Resizes an object and keeps its top-left corner in place on the page; the object may keep its aspect ratio.
 FRAMEWORK_EXPORT bool resizeObject(CBaseObject *object, const QSizeF &size);
 /// Mirrors each object about its own centre: left to right (`horizontally`) or top to bottom.
 FRAMEWORK_EXPORT bool mirrorObjects(const QVector<CBaseObject *> &objects, bool horizontally);
+/// Mirrors objects and groups: each object alone about its own centre, the objects of a group as one, at the line
+/// through the middle of the box around them. Locked objects stay.
+FRAMEWORK_EXPORT bool mirrorUnits(const QVector<QVector<CBaseObject *>> &units, bool horizontally);
 FRAMEWORK_EXPORT bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked);
 
 /// Whether an object is made of the present version of the file that it comes from; true for objects of no file.

@@ -22,7 +22,8 @@ FRAMEWORK_EXPORT bool nudgeSelection(Page *page, const QPointF &delta);
 /// Deletes the selected objects; locked ones stay.
 FRAMEWORK_EXPORT bool deleteSelection(Page *page);
 /// Copies the selected objects by saving each and loading it into a new object of its kind, `offset` (scene units)
-/// away, on top and selected. Objects of unknown kinds are skipped. Returns the copies.
+/// away, on top, in the group that the user has entered, and selected. Objects of unknown kinds are skipped.
+/// Returns the copies.
 FRAMEWORK_EXPORT QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry,
                                                            const QPointF &offset = duplicateOffset);
 FRAMEWORK_EXPORT void selectAll(Page *page);
