@@ -1,6 +1,7 @@
 #include "panels/outlinepanel.h"
 
 #include "core/objectnames.h"
+#include "core/selecting.h"
 #include "core/workspace.h"
 #include "look/icons.h"
 #include "look/theme.h"
@@ -13,6 +14,7 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -74,6 +76,7 @@ void OutlinePanel::setPage(pagehost::Page *page)
     m_rows.clear();
     m_tree->clear();
     m_folded.clear();
+    m_shown.clear();
     const auto request = [this] { m_refresh.request(); };
     if (page) {
         connect(page, &pagehost::Page::selectionChanged, this, request);
@@ -100,12 +103,16 @@ void OutlinePanel::refresh()
     if (m_page)
         addRows(rows, 0, 0);
     if (rows != m_rows) {
+        const int scrolled = m_tree->verticalScrollBar()->value();
         m_rows = rows;
         rebuild();
+        m_tree->doItemsLayout();
+        m_tree->verticalScrollBar()->setValue(scrolled);
     }
     m_nothing->setVisible(rows.isEmpty());
     m_tree->setVisible(!rows.isEmpty());
     showSelection();
+    scrollToSelection();
 }
 
 void OutlinePanel::addRows(QVector<Row> &rows, quint32 level, int depth) const
@@ -166,6 +173,28 @@ void OutlinePanel::showSelection()
     }
 }
 
+/// Only to another selection: the user may have scrolled away since.
+void OutlinePanel::scrollToSelection()
+{
+    const QVector<CBaseObject *> selected = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
+    if (selected == m_shown)
+        return;
+    m_shown = selected;
+    const QList<QTreeWidgetItem *> rows = m_tree->selectedItems();
+    if (rows.isEmpty())
+        return;
+    unfoldAround(rows.first());
+    m_tree->scrollToItem(rows.first());
+}
+
+void OutlinePanel::unfoldAround(const QTreeWidgetItem *item)
+{
+    for (QTreeWidgetItem *group = item->parent(); group; group = group->parent()) {
+        m_folded.remove(groupOf(group));
+        group->setExpanded(true);
+    }
+}
+
 quint32 OutlinePanel::groupOf(const QTreeWidgetItem *item) const
 {
     return item ? m_rows.value(item->data(OutlineTree::NameColumn, rowRole).toInt()).group : 0;
@@ -196,18 +225,10 @@ bool OutlinePanel::canChange() const
     return document && document->editingBlocked() == 0;
 }
 
-/// Enters the group that a chosen member is in, so that a click on the page takes that member, too.
 void OutlinePanel::select()
 {
-    if (!m_page)
-        return;
-    const QVector<CBaseObject *> chosen = chosenObjects();
-    const quint32 level = m_page->grouping().levelOf(chosen);
-    if (level != m_page->enteredGroup() && level != 0)
-        m_page->select({});
-    while (level != 0 && m_page->enteredGroup() != level && m_page->enterGroupOf(chosen.first())) {
-    }
-    m_page->select(chosen);
+    if (m_page)
+        selectMembers(*m_page, chosenObjects());
 }
 
 void OutlinePanel::rename(QTreeWidgetItem *item)

@@ -48,6 +48,8 @@ private:
     QTreeWidgetItem *addItem(const Row &row, int index, QTreeWidgetItem *parent);
     quint32 groupOf(const QTreeWidgetItem *item) const;
     void showSelection();
+    void scrollToSelection();
+    void unfoldAround(const QTreeWidgetItem *item);
     void select();
     void rename(QTreeWidgetItem *item);
     void toggleVisible(QTreeWidgetItem *item);
@@ -62,7 +64,8 @@ private:
     QLabel *m_nothing;
     OutlineTree *m_tree;
     QVector<Row> m_rows;
-    QSet<quint32> m_folded; ///< groups of this page
+    QSet<quint32> m_folded;         ///< groups of this page
+    QVector<CBaseObject *> m_shown; ///< the selected objects that the tree was scrolled to
     PanelRefresh m_refresh;
 };
 

@@ -10,7 +10,9 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -35,7 +37,6 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
 {
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(largeGap, largeGap, largeGap, largeGap);
     column->setSpacing(largeGap);
     QFont font = m_title->font();
     font.setPixelSize(headingPixels);
@@ -53,6 +54,8 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     setWidget(content);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->installEventFilter(this);
+    makeRoom(false);
     // The page keeps the keys while the mouse is used here.
     setFocusPolicy(Qt::NoFocus);
     refresh();
@@ -71,6 +74,24 @@ void ObjectPanel::setPage(pagehost::Page *page)
     m_text->setPage(page);
     m_properties->setPage(page);
     refresh();
+}
+
+/// The scroll bar takes the place of the margin, so that rows keep their width.
+bool ObjectPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == verticalScrollBar() && event->type() == QEvent::Show)
+        makeRoom(true);
+    else if (watched == verticalScrollBar() && event->type() == QEvent::Hide)
+        makeRoom(false);
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void ObjectPanel::makeRoom(bool isScrollBarShown)
+{
+    const int extent = verticalScrollBar()->sizeHint().width();
+    const int margin = qMax(largeGap, extent);
+    widget()->layout()->setContentsMargins(largeGap, largeGap, isScrollBarShown ? margin - extent : margin,
+                                           largeGap);
 }
 
 void ObjectPanel::settle()

@@ -37,8 +37,12 @@ public:
     SettingsPanel *text() const { return m_text; }
     PropertyPanel *properties() const { return m_properties; }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void refresh();
+    void makeRoom(bool isScrollBarShown);
 
     const Workspace *m_workspace;
     QPointer<pagehost::Page> m_page;

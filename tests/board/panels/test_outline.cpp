@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 
+#include <core/selecting.h>
 #include <panels/outlinepanel.h>
 #include <panels/outlinetree.h>
 #include <panels/settings/settingspanel.h>
@@ -13,6 +14,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QUndoStack>
 
 #include <algorithm>
@@ -84,6 +86,23 @@ struct Outline
     }
 };
 
+/// With more rows than fit.
+struct LongOutline : Outline
+{
+    LongOutline()
+    {
+        for (int copies = 0; copies < 5; ++copies) {
+            board.key(Qt::Key_A, Qt::ControlModifier);
+            board.key(Qt::Key_D, Qt::ControlModifier);
+        }
+        board.page().select({});
+        settle();
+    }
+    int last() const { return tree->topLevelItemCount() - 1; }
+    QRect area() const { return tree->viewport()->rect(); }
+    int scrolled() const { return tree->verticalScrollBar()->value(); }
+};
+
 } // namespace
 
 class TestOutline : public QObject
@@ -103,6 +122,9 @@ private Q_SLOTS:
     void droppedRowChangesOrderAndGroup();
     void spaceBarPressesTheEye();
     void pressedRowStaysWhileThePanelFollows();
+    void rowOfTheSelectedObjectIsScrolledTo();
+    void rowsStayWhereTheyAreWhenNothingElseIsSelected();
+    void foldedGroupOpensForItsSelectedMember();
 };
 
 void TestOutline::topmostObjectComesFirstAndGroupsHoldTheirMembers()
@@ -226,6 +248,48 @@ void TestOutline::pressedRowStaysWhileThePanelFollows()
     t.click(t.row(2));
     QVERIFY(t.row(0) == row);
     QCOMPARE(t.board.selection(), Objects{t.shapes[0]});
+}
+
+void TestOutline::rowOfTheSelectedObjectIsScrolledTo()
+{
+    LongOutline t;
+    const auto isSeen = [&](int row) { return t.area().contains(t.tree->visualItemRect(t.row(row))); };
+    QVERIFY(isSeen(0) && !isSeen(t.last()));
+    t.board.page().select({t.shapes[0]});
+    t.settle();
+    QVERIFY(isSeen(t.last()));
+    t.board.page().select({t.board.page().objects().last()});
+    t.settle();
+    QVERIFY(isSeen(0));
+}
+
+void TestOutline::rowsStayWhereTheyAreWhenNothingElseIsSelected()
+{
+    LongOutline t;
+    t.board.page().select({t.shapes[0]});
+    t.settle();
+    const int bottom = t.scrolled();
+    QVERIFY(bottom > 0);
+    // An eye makes the rows anew.
+    t.click(t.row(t.last()), OutlineTree::EyeColumn);
+    QCOMPARE(t.scrolled(), bottom);
+    t.tree->verticalScrollBar()->setValue(0);
+    t.board.page().noteChange();
+    t.settle();
+    QCOMPARE(t.scrolled(), 0);
+}
+
+void TestOutline::foldedGroupOpensForItsSelectedMember()
+{
+    Outline t;
+    t.row(1)->setExpanded(false);
+    board::selectMembers(t.board.page(), {t.shapes[1]});
+    t.settle();
+    QVERIFY(t.row(1)->isExpanded());
+    QVERIFY(t.row(1)->child(1)->isSelected());
+    // It stays open when the rows are made anew.
+    t.click(t.row(0), OutlineTree::EyeColumn);
+    QVERIFY(t.row(1)->isExpanded());
 }
 
 QTEST_MAIN(TestOutline)

@@ -9,9 +9,11 @@
 #include <panels/fields/numberfield.h>
 #include <panels/historypanel.h>
 #include <panels/outlinepanel.h>
+#include <panels/properties/propertypanel.h>
 #include <panels/settings/settingspanel.h>
 #include <window/drawer.h>
 #include <window/mainwindow.h>
+#include <window/objectpanel.h>
 
 #include <pagehost/page.h>
 
@@ -63,6 +65,8 @@ private Q_SLOTS:
     void aCaptionGoesAboveWhenItsFontGrows();
     void severalObjectsAreAlignedByButtons();
     void squeezedPanelComesBackWhole();
+    void rowsEndBeforeTheScrollBar_data();
+    void rowsEndBeforeTheScrollBar();
     void newBoardSaysHowToBeginAndAFullOneDoesnt();
     void outlineAndHistorySayWhatWillBeThere();
     void lessonMenuSaysHowToRecordUntilThereIsALesson();
@@ -139,6 +143,33 @@ void TestSidePanel::severalObjectsAreAlignedByButtons()
     QTest::mouseClick(button(), Qt::LeftButton);
     QCOMPARE(board.placeOf(one), QRectF(300, 200, 100, 60));
     QCOMPARE(board.placeOf(other), QRectF(300, 400, 120, 80));
+}
+
+void TestSidePanel::rowsEndBeforeTheScrollBar_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << "en";
+    QTest::newRow("German") << "de";
+}
+
+void TestSidePanel::rowsEndBeforeTheScrollBar()
+{
+    QFETCH(QString, language);
+    BoardDriver board(language);
+    board.draw(star, {500, 300}, {700, 500});
+    const auto *panel = board.window().findChild<board::ObjectPanel *>();
+    support::deliverEvents();
+    QVERIFY(!panel->verticalScrollBar()->isVisible());
+    const int width = board.window().settings()->width();
+    board.window().raisePanel(board.window().properties());
+    board.window().resize(1024, 600);
+    support::deliverEvents();
+    QVERIFY(panel->verticalScrollBar()->isVisible());
+    const QVector<QRect> places = placesIn(*panel->widget());
+    QVERIFY(places.size() > 40);
+    for (const QRect &place : places)
+        QVERIFY(place.right() < panel->viewport()->width());
+    QCOMPARE(board.window().settings()->width(), width);
 }
 
 void TestSidePanel::squeezedPanelComesBackWhole()
