@@ -35,10 +35,12 @@ MenuPlan filePlan()
 
 MenuPlan editPlan()
 {
-    return {Command::Undo,      Command::Redo,          separator(),        Command::Cut,
-            Command::Copy,      Command::Paste,         Command::Duplicate, Command::Delete,
-            separator(),        Command::CopyLook,      Command::PasteLook, separator(),
-            Command::SelectAll, Command::SelectNothing, Command::EditText,  Command::ContextMenu};
+    return {Command::Undo,        Command::Redo,          separator(),          Command::Cut,
+            Command::Copy,        Command::Paste,         Command::Duplicate,   Command::Delete,
+            separator(),          Command::CopyLook,      Command::PasteLook,   separator(),
+            Command::SelectAll,   Command::SelectNothing, Command::EditText,    Command::ContextMenu,
+            separator(),          Command::FindText,      Command::ReplaceText, Command::FindNext,
+            Command::FindPrevious};
 }
 
 MenuPlan arrangePlan()

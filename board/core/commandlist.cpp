@@ -47,6 +47,11 @@ constexpr CommandFacts commands[] = {
      Keys::UnknownKey,
      false,
      KeyScope::Page},
+    {Command::FindText, Group::Edit, "findText", "IDS_BOARD_FIND_TEXT", "Ctrl+F", {}, Keys::Find},
+    {Command::ReplaceText, Group::Edit, "replaceText", "IDS_BOARD_REPLACE_TEXT", "Ctrl+H", {}, Keys::Replace},
+    {Command::FindNext, Group::Edit, "findNext", "IDS_BOARD_FIND_NEXT", "F3", Icon::Next, Keys::FindNext},
+    {Command::FindPrevious, Group::Edit, "findPrevious", "IDS_BOARD_FIND_PREVIOUS", "Shift+F3", Icon::Previous,
+     Keys::FindPrevious},
 
     {Command::BringToFront, Group::Arrange, "bringToFront", "IDS_BOARD_TO_FRONT", "Ctrl+Shift+] Ctrl+Shift+PgUp",
      Icon::ToFront},

@@ -31,6 +31,10 @@ enum class Command {
     SelectAll,
     SelectNothing,
     EditText,
+    FindText,
+    ReplaceText,
+    FindNext,
+    FindPrevious,
 
     BringToFront,
     BringForward,

@@ -8,6 +8,12 @@ QVector<TextEntry> commandTexts()
 {
     return {
         {"IDS_BOARD_EDIT_TEXT", QT_TRANSLATE_NOOP("board", "Edit text")},
+        {"IDS_BOARD_FIND_TEXT", QT_TRANSLATE_NOOP("board", "Find…")},
+        {"IDS_BOARD_FIND_TEXT_WORDS", QT_TRANSLATE_NOOP("board", "search text word")},
+        {"IDS_BOARD_REPLACE_TEXT", QT_TRANSLATE_NOOP("board", "Replace…")},
+        {"IDS_BOARD_REPLACE_TEXT_WORDS", QT_TRANSLATE_NOOP("board", "exchange substitute text word")},
+        {"IDS_BOARD_FIND_NEXT", QT_TRANSLATE_NOOP("board", "Find next")},
+        {"IDS_BOARD_FIND_PREVIOUS", QT_TRANSLATE_NOOP("board", "Find previous")},
         {"IDS_BOARD_LOCK", QT_TRANSLATE_NOOP("board", "Lock")},
         {"IDS_BOARD_UNLOCK", QT_TRANSLATE_NOOP("board", "Unlock")},
         {"IDS_BOARD_BRING_BACK", QT_TRANSLATE_NOOP("board", "Bring back")},

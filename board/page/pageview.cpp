@@ -60,6 +60,7 @@ PageView::PageView(QWidget *parent)
     : QGraphicsView(parent)
     , m_band(this)
     , m_keys(this)
+    , m_textMark(this)
     , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
@@ -271,6 +272,9 @@ void PageView::mousePressEvent(QMouseEvent *event)
 
 void PageView::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    // Quick clicks with Ctrl go further down.
+    if (event->modifiers() & Qt::ControlModifier)
+        return mousePressEvent(event);
     // Somebody who clicks and then quickly drags means a drag: after the object has seen the double click, its
     // second press is a press like any other.
     const quint32 group = m_page ? m_page->enteredGroup() : 0;
@@ -556,6 +560,7 @@ void PageView::paintEvent(QPaintEvent *event)
     if (m_isBare || !m_page)
         return;
     QPainter painter(viewport());
+    m_textMark.paint(&painter);
     m_keys.paint(&painter);
     if (!isNewBoard() || m_page->scene()->isBusy())
         return;

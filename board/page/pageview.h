@@ -4,6 +4,7 @@
 #include "page/emptyhint.h"
 #include "page/keyhand.h"
 #include "page/nudging.h"
+#include "page/textmark.h"
 
 #include <pagehost/page.h>
 
@@ -73,6 +74,10 @@ public:
     bool canWriteLabel() const;
     /// Begins to write the first label of the only selected object. False where there is none.
     bool writeFirstLabel(bool ofNewObject = false);
+    /// Marks a text of an object, in place of the one that was marked; null for none.
+    void markText(CBaseObject *object, qint32 propertyId) { m_textMark.set(object, propertyId); }
+    /// The box around it, scene coordinates; null where none is marked on the page.
+    QRectF markedText() const { return m_textMark.box(); }
 
 Q_SIGNALS:
     /// page() is another one.
@@ -138,6 +143,7 @@ private:
     BandSelection m_band;
     Nudging m_nudging;
     KeyHand m_keys;
+    TextMark m_textMark;
     double m_zoom = 1;
     Qt::Edge m_shelfEdge = Qt::TopEdge;
     int m_shelfMargin = 0; ///< between it and the page, logical pixels

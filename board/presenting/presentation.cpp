@@ -41,9 +41,12 @@ ScreenPlan presentScreens(const QWidget *window)
 }
 
 /// Commands whose windows would open behind the presentation, or that concern what it hides.
-bool actsWhilePresenting(CommandGroup group)
+bool actsWhilePresenting(Command command)
 {
-    return group != CommandGroup::File && group != CommandGroup::View && group != CommandGroup::Help;
+    const CommandGroup group = factsOf(command).group;
+    const bool finds = command == Command::FindText || command == Command::ReplaceText ||
+                       command == Command::FindNext || command == Command::FindPrevious;
+    return !finds && group != CommandGroup::File && group != CommandGroup::View && group != CommandGroup::Help;
 }
 
 void showOver(QWidget *window, const QRect &screen)
@@ -118,8 +121,7 @@ void Presentation::showOnTwoScreens(const ScreenPlan &plan)
 void Presentation::lendKeys(QWidget *shown)
 {
     for (const Command command : m_commands->performed()) {
-        const CommandFacts &facts = factsOf(command);
-        if (facts.scope == KeyScope::Window && actsWhilePresenting(facts.group))
+        if (factsOf(command).scope == KeyScope::Window && actsWhilePresenting(command))
             shown->addAction(m_commands->action(command));
     }
 }

@@ -1,6 +1,7 @@
 #include "tools/toolbox.h"
 
 #include "core/workspace.h"
+#include "page/labels.h"
 #include "page/pageview.h"
 #include "tools/toolsettings.h"
 
@@ -36,18 +37,6 @@ std::optional<pagehost::ToolRole> roleOf(Tool tool)
         if (entry.tool == tool)
             return entry.role;
     return std::nullopt;
-}
-
-bool vanishesEmpty(CBaseObject &object)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    if (!object.GetSpecialProperty(pagehost::VanishesEmpty, out))
-        return false;
-    bool isEmpty = false;
-    QDataStream in(bytes);
-    in >> isEmpty;
-    return isEmpty;
 }
 
 } // namespace

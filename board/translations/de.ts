@@ -804,6 +804,30 @@
         <translation>Text bearbeiten</translation>
     </message>
     <message>
+        <source>Find…</source>
+        <translation>Suchen…</translation>
+    </message>
+    <message>
+        <source>search text word</source>
+        <translation>suchen Text Wort</translation>
+    </message>
+    <message>
+        <source>Replace…</source>
+        <translation>Ersetzen…</translation>
+    </message>
+    <message>
+        <source>exchange substitute text word</source>
+        <translation>austauschen Text Wort</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
         <source>Lock</source>
         <translation>Sperren</translation>
     </message>
@@ -1266,6 +1290,62 @@
     <message>
         <source>All shapes</source>
         <translation>Alle Formen</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Find in texts</source>
+        <translation>In Texten suchen</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>Match ca&amp;se</source>
+        <translation>&amp;Groß/klein</translation>
+    </message>
+    <message>
+        <source>&amp;Whole words</source>
+        <translation>Gan&amp;ze Wörter</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Repla&amp;ce all</source>
+        <translation>Alle e&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>Replace text</source>
+        <translation>Text ersetzen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2, hidden</source>
+        <translation>%1 von %2, ausgeblendet</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 ersetzt</translation>
+    </message>
+    <message>
+        <source>%1 replaced, %2 locked</source>
+        <translation>%1 ersetzt, %2 gesperrt</translation>
     </message>
     <message>
         <source>Outline</source>

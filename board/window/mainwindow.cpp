@@ -9,6 +9,7 @@
 #include "commands/shapecommands.h"
 #include "core/actions.h"
 #include "core/commands.h"
+#include "core/mnemonics.h"
 #include "core/newlook.h"
 #include "core/notices.h"
 #include "core/paperactions.h"
@@ -30,6 +31,8 @@
 #include "lessons/lessonmenu.h"
 #include "look/theme.h"
 #include "page/pageview.h"
+#include "panels/findbar.h"
+#include "panels/finding.h"
 #include "panels/historypanel.h"
 #include "panels/outlinepanel.h"
 #include "panels/pagepanel.h"
@@ -40,6 +43,7 @@
 #include "tools/toolbox.h"
 #include "tools/toolkeys.h"
 #include "tools/toolsettings.h"
+#include "window/altkeys.h"
 #include "window/dock.h"
 #include "window/dockbutton.h"
 #include "window/drawer.h"
@@ -71,6 +75,7 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -117,6 +122,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_dock(new Dock(workspace, m_commands, m_tools))
     , m_hint(new HintPill(m_view))
     , m_shelf(new Shelf(workspace, m_tools, m_toolSettings, m_view))
+    , m_findBar(new FindBar(workspace, m_commands))
     , m_describeSelection([this] { describeSelection(); })
 {
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
@@ -129,7 +135,8 @@ MainWindow::MainWindow(Workspace *workspace)
     m_topBar->addPageSwitch(m_commands->action(Command::PageStrip));
     m_topBar->addSwitch(m_commands->action(Command::Panel));
     for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages(), static_cast<QWidget *>(m_pages),
-                          static_cast<QWidget *>(m_palette), static_cast<QWidget *>(m_sidePanel)})
+                          static_cast<QWidget *>(m_palette), static_cast<QWidget *>(m_sidePanel),
+                          static_cast<QWidget *>(m_findBar)})
         m_lock.add(part);
     connectParts();
     connectTools();
@@ -140,7 +147,9 @@ MainWindow::MainWindow(Workspace *workspace)
     new Toolbox(m_workspace, m_view, m_tools, m_toolSettings, this);
     new PaperActions(m_commands, m_view, this);
     new SnapActions(m_commands, m_view, this);
+    new Finding(m_workspace, m_commands, m_view, m_findBar, this);
     new FieldUndo(this);
+    new AltKeys(this);
     new ToolCommands(m_commands, m_tools, this);
     new ToolKeys(m_commands, m_tools, m_toolSettings, this);
     auto *contextMenus = new ContextMenus(m_workspace, m_commands, m_view, this);
@@ -166,6 +175,7 @@ void MainWindow::layOut()
     auto *column = new QVBoxLayout;
     column->setSpacing(0);
     column->addWidget(m_notices);
+    column->addWidget(m_findBar);
     column->addWidget(m_view, 1);
     column->addWidget(m_pages);
     column->addWidget(m_lessonBar);
@@ -368,9 +378,22 @@ void MainWindow::addMenus()
         if (QLatin1String(entry.titleKey) == QLatin1String("IDS_LESSON_MENU"))
             m_lessonMenu->addHint(menu);
     }
+    markMenus();
     menus()->actions().first()->menu()->insertMenu(m_commands->action(Command::SaveBoard),
                                                    m_documentMenu->recentMenu());
     addDockMenu();
+}
+
+/// The titles, which can be seen all the time.
+void MainWindow::markMenus()
+{
+    QStringList titles;
+    const QList<QAction *> actions = menus()->actions();
+    for (const QAction *action : actions)
+        titles.append(action->text());
+    titles = withMnemonics(titles);
+    for (int index = 0; index < actions.size(); ++index)
+        actions.at(index)->setText(titles.at(index));
 }
 
 void MainWindow::addDockMenu()
@@ -456,9 +479,10 @@ void MainWindow::addStyleBar()
     auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
     connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
     bar->setReplaced(m_panel->isOpen());
-    new WindowParts(
-        m_commands,
-        {m_view, bar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar, m_topBar, m_notices}, this);
+    new WindowParts(m_commands,
+                    {m_view, bar, m_findBar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar,
+                     m_topBar, m_notices},
+                    this);
 }
 
 void MainWindow::connectParts()
@@ -602,8 +626,14 @@ void MainWindow::askAndInsert()
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(this, m_workspace->text("IDS_BOARD_TITLE"),
-                       m_workspace->text("IDS_BOARD_ABOUT_TEXT").arg(QCoreApplication::applicationVersion()));
+    auto *box =
+        new QMessageBox(QMessageBox::NoIcon, m_workspace->text("IDS_BOARD_TITLE"),
+                        m_workspace->text("IDS_BOARD_ABOUT_TEXT").arg(QCoreApplication::applicationVersion()),
+                        QMessageBox::Ok, this);
+    const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, box);
+    box->setIconPixmap(windowIcon().pixmap(side, side));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 } // namespace board

@@ -24,6 +24,7 @@ class Dock;
 class DocumentController;
 class DocumentMenu;
 class Drawer;
+class FindBar;
 class HintPill;
 class LessonBar;
 class LessonController;
@@ -79,6 +80,7 @@ public:
     pagehost::AnimationPlayer *animation() const { return m_animation; }
     ToolChoice *tools() const { return m_tools; }
     ToolSettings *toolSettings() const { return m_toolSettings; }
+    FindBar *findBar() const { return m_findBar; }
     Dock *dock() const { return m_dock; }
     TopBar *topBar() const { return m_topBar; }
     QMenuBar *menus() const;
@@ -101,6 +103,7 @@ private:
     void connectPanels();
     void addMenus();
     void addDockMenu();
+    void markMenus();
     void offerLargeTools();
     void addStyleBar();
     void layOut();
@@ -147,6 +150,7 @@ private:
     Dock *m_dock;
     HintPill *m_hint;
     Shelf *m_shelf;
+    FindBar *m_findBar;
     QMenu *m_viewMenu = nullptr;
     QWidget *m_middle = nullptr; ///< all but the bar at the top and the dock
     QWidget *m_leftSlot = nullptr;

@@ -16,6 +16,8 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
+#include <functional>
+
 using namespace boardtest;
 using board::Command;
 
@@ -44,6 +46,11 @@ struct Grouped
             picked.append(shapes.at(index));
         return picked;
     }
+    /// Also of a shape that is turned.
+    QPointF centre(int index) const
+    {
+        return shapes.at(index)->mapToScene(shapes.at(index)->getClientRect().center());
+    }
     QPointF middle(int index) const { return board.placeOf(shapes.at(index)).center(); }
     void doubleClick(int index)
     {
@@ -55,6 +62,8 @@ struct Grouped
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Grouped &)>)
 
 class TestGrouping : public QObject
 {
@@ -77,6 +86,20 @@ private Q_SLOTS:
     void pastedGroupIsAGroup();
     void duplicatedGroupIsAGroup();
     void duplicatedPageHasGroupsPaperAndConnectors();
+    void controlClickTakesTheGroupBelow();
+    void quickControlClicksStayOutsideOfTheGroup();
+    void keyTurnsTheGroupAboutItsMiddle();
+    void keyMirrorsTheGroupAsOne();
+    void mirroredGroupHasTurnedMembersMirrored();
+    void groupTurnsAsOneBesideOthersThatTurnAlone();
+    void lockedMemberStaysWhenTheGroupTurns();
+    void connectorOfATurnedGroupFollowsIt();
+    void memberOfAnEnteredGroupTurnsAlone();
+    void sameSizeScalesTheGroupAsOne();
+    void sameSizeTakesTheSizeOfTheGroup();
+    void copyMadeInAGroupBelongsToIt_data();
+    void copyMadeInAGroupBelongsToIt();
+    void groupCopiedInAGroupIsAGroupInIt();
 };
 
 void TestGrouping::keysGroupAndUngroup()
@@ -286,6 +309,200 @@ void TestGrouping::duplicatedPageHasGroupsPaperAndConnectors()
     t.board.key(Qt::Key_Z, Qt::ControlModifier);
     t.board.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(t.board.workspace().document()->pageCount(), 1);
+}
+
+void TestGrouping::controlClickTakesTheGroupBelow()
+{
+    Grouped t;
+    CBaseObject *above = t.board.draw(rectangle, {80, 80}, {220, 180});
+    QCOMPARE(t.board.selection(), Objects{above});
+    t.board.click(t.middle(0), Qt::ControlModifier);
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
+    t.board.click(t.middle(0), Qt::ControlModifier);
+    QCOMPARE(t.board.selection(), Objects{above});
+}
+
+void TestGrouping::quickControlClicksStayOutsideOfTheGroup()
+{
+    Grouped t;
+    CBaseObject *above = t.board.draw(rectangle, {80, 80}, {220, 180});
+    t.board.click(t.middle(0), Qt::ControlModifier);
+    const QPoint pos = t.board.view().mapFromScene(t.middle(0));
+    QTest::mouseDClick(t.board.view().viewport(), Qt::LeftButton, Qt::ControlModifier, pos);
+    t.board.release(t.middle(0), Qt::ControlModifier);
+    QCOMPARE(t.board.selection(), Objects{above});
+    QCOMPARE(t.board.page().enteredGroup(), 0u);
+}
+
+/// The box around the group is (100, 100) to (450, 420), its middle (275, 260).
+void TestGrouping::keyTurnsTheGroupAboutItsMiddle()
+{
+    Grouped t;
+    t.board.click(t.middle(0));
+    t.board.key(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(t.shapes[0]->rotation(), 90.0);
+    QCOMPARE(t.shapes[1]->rotation(), 90.0);
+    // (-125, -130) from the middle turns to (130, -125), (75, 100) to (-100, 75).
+    QCOMPARE(t.centre(0), QPointF(405, 135));
+    QCOMPARE(t.centre(1), QPointF(175, 335));
+    QCOMPARE(t.centre(2), QPointF(730, 220));
+    QCOMPARE(t.board.history().count(), 1);
+    t.board.key(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(100, 100, 100, 60));
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.shapes[1]->rotation(), 0.0);
+    QCOMPARE(t.centre(1), QPointF(350, 360));
+}
+
+void TestGrouping::keyMirrorsTheGroupAsOne()
+{
+    Grouped t;
+    t.board.click(t.middle(0));
+    t.board.key(Qt::Key_M, Qt::ControlModifier);
+    QVERIFY(t.shapes[0]->isMirrored() && t.shapes[1]->isMirrored());
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(350, 100, 100, 60));
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(100, 300, 200, 120));
+    t.board.key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(t.shapes[0]->isFlipped() && t.shapes[1]->isFlipped());
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(350, 360, 100, 60));
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(100, 100, 200, 120));
+    QCOMPARE(t.board.history().count(), 2);
+}
+
+void TestGrouping::mirroredGroupHasTurnedMembersMirrored()
+{
+    Grouped t;
+    pagehost::rotateObjects({t.shapes[1]}, 90);
+    t.board.click(t.middle(0));
+    t.board.key(Qt::Key_M, Qt::ControlModifier);
+    // The turned one covers (290, 260) to (410, 460), so that the middle of the group is at 255 across.
+    QCOMPARE(t.shapes[1]->rotation(), 270.0);
+    QVERIFY(t.shapes[1]->isMirrored());
+    QCOMPARE(t.centre(1), QPointF(160, 360));
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(310, 100, 100, 60));
+}
+
+void TestGrouping::groupTurnsAsOneBesideOthersThatTurnAlone()
+{
+    Grouped t;
+    t.board.key(Qt::Key_A, Qt::ControlModifier);
+    t.board.key(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(t.centre(0), QPointF(405, 135));
+    QCOMPARE(t.centre(2), QPointF(730, 220));
+    QCOMPARE(t.shapes[2]->rotation(), 90.0);
+    QCOMPARE(t.board.history().count(), 1);
+}
+
+void TestGrouping::lockedMemberStaysWhenTheGroupTurns()
+{
+    Grouped t;
+    pagehost::setObjectsLocked({t.shapes[1]}, true);
+    t.board.page().select(t.pick({0, 1}));
+    t.board.key(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(t.centre(0), QPointF(405, 135));
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(250, 300, 200, 120));
+    QCOMPARE(t.shapes[1]->rotation(), 0.0);
+}
+
+void TestGrouping::connectorOfATurnedGroupFollowsIt()
+{
+    Grouped t;
+    t.board.key(Qt::Key_C);
+    t.board.drag(t.middle(0), t.middle(1));
+    CBaseObject *connector = t.board.page().objects().last();
+    t.board.page().select(t.pick({0, 1}) + Objects{connector});
+    t.board.key(Qt::Key_G, Qt::ControlModifier);
+    t.board.key(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(t.centre(0), QPointF(405, 135));
+    QCOMPARE(t.centre(1), QPointF(175, 335));
+    QCOMPARE(connector->rotation(), 0.0);
+}
+
+void TestGrouping::memberOfAnEnteredGroupTurnsAlone()
+{
+    Grouped t;
+    t.doubleClick(0);
+    t.board.key(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(t.centre(0), QPointF(150, 130));
+    QCOMPARE(t.shapes[0]->rotation(), 90.0);
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(250, 300, 200, 120));
+}
+
+/// The large one is twice as long on each side as the box around the group.
+void TestGrouping::sameSizeScalesTheGroupAsOne()
+{
+    Grouped t;
+    CBaseObject *large = t.board.draw(rectangle, {500, 40}, {1200, 680});
+    t.board.page().select(t.pick({0, 1}) + Objects{large});
+    t.action(Command::SameSize)->trigger();
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(100, 100, 200, 120));
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(400, 500, 400, 240));
+    QCOMPARE(t.board.placeOf(large), QRectF(500, 40, 700, 640));
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(250, 300, 200, 120));
+}
+
+void TestGrouping::sameSizeTakesTheSizeOfTheGroup()
+{
+    Grouped t;
+    t.board.key(Qt::Key_A, Qt::ControlModifier);
+    t.action(Command::SameSize)->trigger();
+    QCOMPARE(t.board.placeOf(t.shapes[0]), QRectF(100, 100, 100, 60));
+    QCOMPARE(t.board.placeOf(t.shapes[1]), QRectF(250, 300, 200, 120));
+    QCOMPARE(t.board.placeOf(t.shapes[2]), QRectF(700, 200, 350, 320));
+}
+
+void TestGrouping::copyMadeInAGroupBelongsToIt_data()
+{
+    using Copy = std::function<void(Grouped &)>;
+    QTest::addColumn<Copy>("copy");
+    QTest::newRow("Ctrl+D") << Copy([](Grouped &t) { t.board.key(Qt::Key_D, Qt::ControlModifier); });
+    QTest::newRow("paste") << Copy([](Grouped &t) {
+        t.board.key(Qt::Key_C, Qt::ControlModifier);
+        t.board.key(Qt::Key_V, Qt::ControlModifier);
+    });
+    QTest::newRow("drag with Ctrl") << Copy(
+        [](Grouped &t) { t.board.drag(t.middle(0), t.middle(0) + QPointF(0, 200), Qt::ControlModifier); });
+}
+
+void TestGrouping::copyMadeInAGroupBelongsToIt()
+{
+    QFETCH(std::function<void(Grouped &)>, copy);
+    Grouped t;
+    t.doubleClick(0);
+    copy(t);
+    QCOMPARE(t.board.selection().size(), 1);
+    CBaseObject *made = t.board.selection().first();
+    QVERIFY(!t.shapes.contains(made));
+    QCOMPARE(t.board.page().objects(), (Objects{t.shapes[0], t.shapes[1], made, t.shapes[2]}));
+    QVERIFY(t.board.page().enteredGroup() != 0);
+    QCOMPARE(t.board.history().count(), 1);
+    t.board.key(Qt::Key_Escape);
+    QCOMPARE(t.board.selection(), (Objects{t.shapes[0], t.shapes[1], made}));
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.board.page().objects(), t.shapes);
+    t.board.click(t.middle(0));
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
+    t.board.key(Qt::Key_Y, Qt::ControlModifier);
+    t.board.click(t.middle(1));
+    QCOMPARE(t.board.selection(), (Objects{t.shapes[0], t.shapes[1], made}));
+}
+
+void TestGrouping::groupCopiedInAGroupIsAGroupInIt()
+{
+    Grouped t;
+    t.board.key(Qt::Key_A, Qt::ControlModifier);
+    t.board.key(Qt::Key_G, Qt::ControlModifier);
+    t.doubleClick(0);
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
+    t.board.key(Qt::Key_D, Qt::ControlModifier);
+    const Objects copies = t.board.selection();
+    QCOMPARE(copies.size(), 2);
+    QCOMPARE(t.groupCount(), 3);
+    QCOMPARE(t.board.page().unitOf(copies.first()), copies);
+    t.board.key(Qt::Key_Escape);
+    QCOMPARE(t.board.selection().size(), 5);
 }
 
 QTEST_MAIN(TestGrouping)
