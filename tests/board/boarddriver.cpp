@@ -12,10 +12,13 @@
 #include <framework/cbaseobject.h>
 #include <framework/cundoredo.h>
 
+#include <support/patience.h>
+
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QUndoStack>
 
 #include <algorithm>
@@ -34,6 +37,16 @@ constexpr int dragSteps = 5;
 constexpr int handleReach = 60;
 /// Finer than a handle is large.
 constexpr int coarseStep = 8;
+
+/// Layouts move widgets for some turns of the event loop.
+void waitUntilStill(const QWidget *widget)
+{
+    QPoint before;
+    do {
+        before = widget->mapToGlobal(QPoint());
+        QCoreApplication::processEvents();
+    } while (widget->mapToGlobal(QPoint()) != before);
+}
 
 std::unique_ptr<board::Workspace> makeWorkspace(const QString &language)
 {
@@ -55,13 +68,14 @@ void useOwnFolders()
 }
 
 BoardDriver::BoardDriver(const QString &language)
-    : m_workspace(makeWorkspace(language))
+    : m_hands(hands())
+    , m_workspace(makeWorkspace(language))
 {
     m_workspace->loadPlugins({QStringLiteral(SHAPE_FOLDER)});
     m_window = std::make_unique<board::MainWindow>(m_workspace.get());
     m_window->resize(1700, 1100);
     m_window->show();
-    if (!QTest::qWaitForWindowExposed(m_window.get()))
+    if (!QTest::qWaitForWindowExposed(m_window.get(), support::patience))
         qFatal("the window is not shown");
     m_window->commands()->action(board::Command::Snapping)->setChecked(false);
     m_window->commands()->action(board::Command::Grid)->setChecked(false);
@@ -103,15 +117,13 @@ QPoint BoardDriver::at(const QPointF &pos) const
 
 void BoardDriver::sendMove(const QPointF &pos, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers)
 {
-    QMouseEvent event(QEvent::MouseMove, at(pos), view().viewport()->mapToGlobal(at(pos)), Qt::NoButton, held,
-                      modifiers);
-    QApplication::sendEvent(view().viewport(), &event);
+    m_hands->move(view().viewport(), at(pos), held, modifiers);
 }
 
 void BoardDriver::press(const QPointF &pos, Qt::KeyboardModifiers modifiers)
 {
     sendMove(pos, Qt::NoButton, modifiers);
-    QTest::mousePress(view().viewport(), Qt::LeftButton, modifiers, at(pos));
+    m_hands->press(view().viewport(), at(pos), modifiers);
 }
 
 void BoardDriver::moveTo(const QPointF &pos, Qt::KeyboardModifiers modifiers)
@@ -121,7 +133,7 @@ void BoardDriver::moveTo(const QPointF &pos, Qt::KeyboardModifiers modifiers)
 
 void BoardDriver::release(const QPointF &pos, Qt::KeyboardModifiers modifiers)
 {
-    QTest::mouseRelease(view().viewport(), Qt::LeftButton, modifiers, at(pos));
+    m_hands->release(view().viewport(), at(pos), modifiers);
 }
 
 void BoardDriver::click(const QPointF &pos, Qt::KeyboardModifiers modifiers)
@@ -130,10 +142,16 @@ void BoardDriver::click(const QPointF &pos, Qt::KeyboardModifiers modifiers)
     release(pos, modifiers);
 }
 
-void BoardDriver::doubleClick(const QPointF &pos)
+void BoardDriver::pressTwice(const QPointF &pos)
 {
     click(pos);
-    QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, at(pos));
+    m_hands->pressAgain(view().viewport(), at(pos));
+}
+
+void BoardDriver::doubleClick(const QPointF &pos)
+{
+    pressTwice(pos);
+    release(pos);
 }
 
 void BoardDriver::hold(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers)
@@ -156,20 +174,49 @@ void BoardDriver::hover(const QPointF &pos)
 
 void BoardDriver::wheel(const QPointF &pos, int notches, Qt::KeyboardModifiers modifiers)
 {
-    const QPoint local = at(pos);
-    QWheelEvent event(local, view().viewport()->mapToGlobal(local), QPoint(), QPoint(0, 120 * notches),
-                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(view().viewport(), &event);
+    m_hands->wheel(view().viewport(), at(pos), notches, modifiers);
+}
+
+bool BoardDriver::pen(QEvent::Type type, const QPointF &pos, double pressure)
+{
+    return m_hands->pen(view().viewport(), type, view().viewportTransform().map(pos), pressure);
 }
 
 void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     m_window->activateWindow();
     // After a dialog it takes a turn of the event loop.
-    if (!QTest::qWaitForWindowActive(m_window.get()))
+    if (!QTest::qWaitForWindowActive(m_window.get(), support::patience))
         qFatal("the window is not active");
     view().setFocus();
-    QTest::keyClick(&view(), key, modifiers);
+    m_hands->key(&view(), key, modifiers);
+}
+
+void BoardDriver::keyIn(QWidget *focused, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    m_hands->key(focused, key, modifiers);
+}
+
+void BoardDriver::type(QWidget *focused, const QString &text)
+{
+    m_hands->type(focused, text);
+}
+
+void BoardDriver::clickOn(QWidget *widget, const QPoint &pos, Qt::KeyboardModifiers modifiers)
+{
+    m_hands->press(widget, pos, modifiers);
+    m_hands->release(widget, pos, modifiers);
+}
+
+/// Scrolls it into view first.
+void BoardDriver::clickOn(QWidget *widget)
+{
+    waitUntilStill(widget);
+    for (QWidget *around = widget->parentWidget(); around; around = around->parentWidget())
+        if (auto *scrolled = qobject_cast<QScrollArea *>(around))
+            scrolled->ensureWidgetVisible(widget);
+    waitUntilStill(widget);
+    clickOn(widget, widget->rect().center());
 }
 
 QAction *BoardDriver::action(const QString &text) const
@@ -198,8 +245,8 @@ void BoardDriver::pick(const QString &kindId)
     QCoreApplication::processEvents();
     const auto buttons = m_window->palettePanel()->buttons();
     for (board::PaletteButton *button : buttons)
-        if (button->kindId() == kindId)
-            QTest::mouseClick(button, Qt::LeftButton);
+        if (button->kindId() == kindId && button->isVisible())
+            return clickOn(button);
 }
 
 QVector<pagehost::ObjectKind> BoardDriver::drawableKinds() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <board/hands.h>
+
 #include <core/workspace.h>
 
 #include <framework/cobjaction.h>
@@ -59,6 +61,8 @@ public:
     void moveTo(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void release(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void click(const QPointF &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// A double click whose second press is held.
+    void pressTwice(const QPointF &pos);
     void doubleClick(const QPointF &pos);
     /// Press, several moves, release.
     void drag(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -67,9 +71,20 @@ public:
     void hover(const QPointF &pos);
     /// Turns the wheel by a notch; away from the user for +1.
     void wheel(const QPointF &pos, int notches, Qt::KeyboardModifiers modifiers);
+    /// A pen, 0 to 1 hard. True if the event was used as one of a pen.
+    bool pen(QEvent::Type type, const QPointF &pos, double pressure);
     /// @}
 
+    /// @name Keys, and other widgets than the page
+    /// @{
+    /// Presses the key on the page of the active window.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Presses the key in a widget that has the focus.
+    void keyIn(QWidget *focused, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(QWidget *focused, const QString &text);
+    void clickOn(QWidget *widget, const QPoint &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void clickOn(QWidget *widget);
+    /// @}
 
     /// @name Widgets by their texts; null when there is none
     /// @{
@@ -98,6 +113,7 @@ private:
     void sendMove(const QPointF &pos, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers);
     QPoint at(const QPointF &pos) const;
 
+    std::unique_ptr<Hands> m_hands;
     std::unique_ptr<board::Workspace> m_workspace;
     std::unique_ptr<board::MainWindow> m_window;
 };

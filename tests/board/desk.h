@@ -40,7 +40,7 @@ struct Desk
     {
         QPushButton *button = board.button(buttonText);
         QVERIFY2(button, qPrintable(buttonText));
-        QTest::mouseClick(button, Qt::LeftButton);
+        board.clickOn(button);
     }
     /// Writes the name into the open file dialog and agrees.
     void answerFile(const QString &file)
@@ -48,10 +48,12 @@ struct Desk
         auto *dialog = board.window().findChild<QFileDialog *>();
         QVERIFY(dialog);
         auto *line = dialog->findChild<QLineEdit *>();
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        // Without a window manager nobody else does.
+        dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(dialog, support::patience));
         line->setFocus();
         line->setText(file);
-        QTest::keyClick(line, Qt::Key_Return);
+        board.keyIn(line, Qt::Key_Return);
         QTRY_VERIFY_WITH_TIMEOUT(!board.window().findChild<QFileDialog *>(), support::patience);
     }
     bool isAsked() const { return board.window().findChild<QMessageBox *>() != nullptr; }

@@ -42,8 +42,8 @@ struct Teacher : Desk
         board.key(Qt::Key_S);
         auto *search = board.window().palettePanel()->findChild<QLineEdit *>();
         QVERIFY(search->hasFocus());
-        QTest::keyClicks(search, word);
-        QTest::keyClick(search, Qt::Key_Return);
+        board.type(search, word);
+        board.keyIn(search, Qt::Key_Return);
     }
     void write(const QPointF &pos, const QString &text)
     {
@@ -51,8 +51,8 @@ struct Teacher : Desk
         board.click(pos);
         auto *editor = board.view().findChild<board::LabelEditor *>();
         QVERIFY(editor);
-        QTest::keyClicks(editor, text);
-        QTest::keyClick(editor, Qt::Key_Escape);
+        board.type(editor, text);
+        board.keyIn(editor, Qt::Key_Escape);
         // The editor goes in the next turn of the event loop.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -82,14 +82,14 @@ struct Teacher : Desk
     void clickTimeLine(double part)
     {
         board::TimeLine *line = board.window().lessonBar()->timeLine();
-        QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(qRound((line->width() - 1) * part), line->height() / 2));
+        board.clickOn(line, QPoint(qRound((line->width() - 1) * part), line->height() / 2));
     }
     void pressWhilePresenting(Qt::Key key)
     {
         board::PageView *view = board.window().presentation()->stage()->view();
         QApplication::setActiveWindow(view->window());
         view->setFocus();
-        QTest::keyClick(view, key);
+        board.keyIn(view, key);
     }
     void open(const QString &name)
     {
@@ -128,6 +128,10 @@ void TestWalk::aLessonIsGivenFromTheFirstLabelToTheOpenedFile()
     board.key(Qt::Key_P);
     board.drag({300, 300}, {500, 340});
     QCOMPARE(board.page().objectCount(), 2);
+    QVERIFY(board.pen(QEvent::TabletPress, {300, 400}, 0.5));
+    QVERIFY(board.pen(QEvent::TabletMove, {500, 440}, 0.8));
+    QVERIFY(board.pen(QEvent::TabletRelease, {500, 440}, 0));
+    QCOMPARE(board.page().objectCount(), 3);
 
     // Connect two boxes.
     board.key(Qt::Key_V);

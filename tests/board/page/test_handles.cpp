@@ -90,12 +90,7 @@ void TestHandles::draggingMovesAllSelectedShapes()
 void TestHandles::quickSecondPressDragsToo()
 {
     OneShape t;
-    t.board.click({600, 360});
-    // The event of a window system for a second press soon after the first.
-    const QPoint pos = t.board.view().mapFromScene(QPointF(600, 360));
-    QMouseEvent again(QEvent::MouseButtonDblClick, pos, t.board.view().viewport()->mapToGlobal(pos), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(t.board.view().viewport(), &again);
+    t.board.pressTwice({600, 360});
     t.board.moveTo({620, 365});
     t.board.moveTo({640, 370});
     t.board.release({640, 370});

@@ -34,11 +34,9 @@ struct OneNote
                 return editor;
         return nullptr;
     }
-    void doubleClick(const QPointF &pos)
-    {
-        board.doubleClick(pos);
-        board.release(pos);
-    }
+    void doubleClick(const QPointF &pos) { board.doubleClick(pos); }
+    void type(const QString &text) { board.type(editor(), text); }
+    void strike(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { board.keyIn(editor(), key, modifiers); }
     /// The whole text through an input method.
     void compose(const QString &preedit, const QString &committed)
     {
@@ -96,7 +94,7 @@ void TestLabels::doubleClickWritesTheTextInItsPlace()
     QCOMPARE(t.editor()->toPlainText(), QStringLiteral("Hello"));
     const QPoint middle = t.editor()->geometry().center();
     QVERIFY((middle - t.board.view().mapFromScene(QPointF(600, 350))).manhattanLength() <= 2);
-    QTest::keyClicks(t.editor(), "Nut");
+    t.type("Nut");
     QCOMPARE(t.text(), QStringLiteral("Nut"));
 }
 
@@ -105,9 +103,9 @@ void TestLabels::writtenTextIsTakenBackInOneStep()
     OneNote t;
     const int steps = t.board.history().count();
     t.doubleClick({600, 350});
-    QTest::keyClicks(t.editor(), "Nut");
+    t.type("Nut");
     QCOMPARE(t.board.history().count(), steps);
-    QTest::keyClick(t.editor(), Qt::Key_Escape);
+    t.strike(Qt::Key_Escape);
     QVERIFY(!t.editor());
     QCOMPARE(t.board.history().count(), steps + 1);
     t.board.history().undo();
@@ -142,11 +140,11 @@ void TestLabels::enterWritesTheTextOfTheSelectedShape()
     t.board.key(Qt::Key_Return);
     QVERIFY(t.editor());
     // Another line, not the end.
-    QTest::keyClicks(t.editor(), "a");
-    QTest::keyClick(t.editor(), Qt::Key_Return);
-    QTest::keyClicks(t.editor(), "b");
+    t.type("a");
+    t.strike(Qt::Key_Return);
+    t.type("b");
     QCOMPARE(t.text(), QStringLiteral("a\nb"));
-    QTest::keyClick(t.editor(), Qt::Key_Return, Qt::ControlModifier);
+    t.strike(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(!t.editor());
 }
 
@@ -163,7 +161,7 @@ void TestLabels::escapeWithoutAChangeMakesNoStep()
     OneNote t;
     const int steps = t.board.history().count();
     t.doubleClick({600, 350});
-    QTest::keyClick(t.editor(), Qt::Key_Escape);
+    t.strike(Qt::Key_Escape);
     QCOMPARE(t.board.history().count(), steps);
 }
 
@@ -172,7 +170,7 @@ void TestLabels::clickElsewhereEndsWriting()
     OneNote t;
     const int steps = t.board.history().count();
     t.doubleClick({600, 350});
-    QTest::keyClicks(t.editor(), "x");
+    t.type("x");
     t.board.view().setFocus(Qt::MouseFocusReason);
     QVERIFY(!t.editor());
     QCOMPARE(t.board.history().count(), steps + 1);
@@ -181,7 +179,7 @@ void TestLabels::clickElsewhereEndsWriting()
 void TestLabels::quickSecondPressThatDragsMoves()
 {
     OneNote t;
-    t.board.doubleClick({600, 350});
+    t.board.pressTwice({600, 350});
     t.board.moveTo({620, 350});
     t.board.moveTo({640, 350});
     t.board.release({640, 350});
@@ -207,7 +205,7 @@ void TestLabels::chineseIsWrittenThroughAnInputMethod()
     QCOMPARE(t.text(), QString());
     t.compose(QStringLiteral("san jiao"), QString::fromUtf8("三角形"));
     QCOMPARE(t.text(), QString::fromUtf8("三角形"));
-    QTest::keyClick(t.editor(), Qt::Key_Escape);
+    t.strike(Qt::Key_Escape);
     QCOMPARE(t.text(), QString::fromUtf8("三角形"));
 }
 
@@ -225,7 +223,7 @@ void TestLabels::otherActionsEndWriting()
 {
     OneNote t;
     t.doubleClick({600, 350});
-    QTest::keyClicks(t.editor(), "x");
+    t.type("x");
     board::LabelEditor *editor = t.editor();
     t.board.page().select({t.note});
     t.board.view().settle();
