@@ -13,6 +13,7 @@ class SVGOBJ_EXPORT CSVGAnimate : public QObject
     Q_OBJECT
 
 public:
+    /// Stopped. `shape` is not owned and must outlive the timer.
     CSVGAnimate(QObject *parent, CSVGBase *shape);
     ~CSVGAnimate() override;
 
@@ -21,6 +22,7 @@ public:
     void startAnimate();
     /// Stops the timer; the document's own animation is left as it is.
     void stopAnimate();
+    /// Whether the timer runs.
     bool isRunning() const { return m_running; }
 
 Q_SIGNALS:

@@ -24,17 +24,26 @@ public:
     CSVGBaseUndoCmd(CSVGBase *shape, int actionId, QUndoCommand *parent, bool alreadyApplied);
     ~CSVGBaseUndoCmd() override;
 
+    /// Replays the old value.
     void undo() override;
+    /// Replays the new value; nothing during the push of a change that has been made already.
     void redo() override;
 
     /// @name Old and new value
     /// Called once on a fresh command, with the kind of value that the property's action replays.
     /// @{
+
+    /// For properties that replay a truth value.
     void setBool(bool oldValue, bool newValue);
+    /// For properties that replay a qint32.
     void setInt(int oldValue, int newValue);
+    /// For properties that replay a double.
     void setDouble(double oldValue, double newValue);
+    /// For properties that replay a QColor.
     void setColor(QColor oldValue, QColor newValue);
+    /// For properties that replay a QBrush.
     void setBrush(const QBrush &oldValue, const QBrush &newValue);
+    /// For properties that replay a QString.
     void setString(QString oldValue, QString newValue);
     /// For properties whose value is already a stream: the bytes are kept as they are.
     void setDataBuffer(const QByteArray &oldData, const QByteArray &newData);

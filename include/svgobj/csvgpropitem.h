@@ -28,10 +28,10 @@ public:
     /// The item's own editor description; null when it holds no byte.
     QByteArray *getExtraData();
 
-    int propId;
-    QString propName; ///< localisation key
-    int actionId;
-    DATA_TYPE dataType;
-    QByteArray extraData;
-    bool isAttribute;
+    int propId;           ///< see PropId; shapes have ids of their own besides
+    QString propName;     ///< localisation key
+    int actionId;         ///< under which changes are recorded
+    DATA_TYPE dataType;   ///< of the value
+    QByteArray extraData; ///< see getExtraData()
+    bool isAttribute;     ///< offered through the page object's attribute ids
 };

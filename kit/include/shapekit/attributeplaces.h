@@ -14,6 +14,7 @@ namespace shapekit {
 class SHAPEKIT_EXPORT AttributePlaces
 {
 public:
+    /// Reads the tags of an SVG text, which may be faulty.
     explicit AttributePlaces(const QString &text);
 
     /// Nothing where the attribute isn't known.

@@ -17,6 +17,7 @@ namespace shapekit {
 class SHAPEKIT_EXPORT Formula
 {
 public:
+    /// Why a text is no formula.
     enum Fault {
         None,
         Empty,
@@ -34,15 +35,19 @@ public:
     /// A formula that isn't readable has a fault and no values.
     explicit Formula(const QString &text = QString());
 
+    /// The first fault of the text.
     Fault fault() const { return m_fault; }
+    /// Whether there is a function to draw.
     bool isReadable() const { return m_fault == None; }
     /// Where the fault is: an index into the text, and the sign or name that stands there.
     int faultOffset() const { return m_faultOffset; }
+    /// See faultOffset().
     QString faultyText() const { return m_faultyText; }
 
     /// The value at x; not finite where the function has none.
     double at(double x) const;
 
+    /// Names of the functions that a formula may use.
     static QStringList functionNames();
 
 private:

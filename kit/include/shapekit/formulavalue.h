@@ -15,6 +15,7 @@ public:
 
     /// The function to draw.
     const Formula &formula() const { return m_formula; }
+    /// The text as the user has written it, readable or not.
     QString text() const { return m_text; }
 
     QVector<const Text *> texts() const override;

@@ -14,11 +14,14 @@ namespace shapekit {
 class SHAPEKIT_EXPORT MessageLog
 {
 public:
+    /// Hears of faults.
     using Listener = std::function<void(const pagehost::PluginMessage &)>;
 
     /// Ignored when the same has been reported.
     void report(const pagehost::PluginMessage &message);
+    /// Whether a fault of that code has been reported of the element with that id.
     bool has(const QString &code, const QString &element) const;
+    /// In the order in which they were reported.
     const QVector<pagehost::PluginMessage> &messages() const { return m_messages; }
     /// Hears of the messages that follow.
     void setListener(const Listener &listener) { m_listener = listener; }

@@ -12,6 +12,7 @@ namespace shapekit {
 /// How a control point follows changes of the size along one axis.
 struct SHAPEKIT_EXPORT Following
 {
+    /// Reference of the coordinate.
     enum Rule {
         Side,          ///< in proportion to the side
         Start,         ///< keeps its distance from the left or top
@@ -29,7 +30,7 @@ struct SHAPEKIT_EXPORT Following
     /// New coordinate of a point that was at `at` when the side was `side` and the shorter side `shorter`.
     double moved(double at, double side, double shorter, double newSide, double newShorter) const;
 
-    Rule rule = Side;
+    Rule rule = Side;     ///< which one applies
     double offset = 0;    ///< the measured stretch begins that far from the start ...
     double endOffset = 0; ///< ... and ends that far from the end; document units
 };
@@ -38,9 +39,10 @@ struct SHAPEKIT_EXPORT Following
 /// that, so that restoring the size restores the place.
 struct SHAPEKIT_EXPORT Place
 {
-    QPointF centre;
-    QSizeF size;
+    QPointF centre; ///< document units
+    QSizeF size;    ///< document units
 
+    /// The place at another size, along each axis by its rule.
     QPointF at(const QSizeF &newSize, const Following &x, const Following &y) const;
 };
 

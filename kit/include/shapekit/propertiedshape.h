@@ -16,11 +16,16 @@ public:
     /// Id of the property that scales the drawing of a shape of type 26.
     static constexpr int drawingScaleId = 26;
 
+    /// Without properties; those that follow as members register themselves.
     using StyledShape::StyledShape;
 
+    /// As CSVGBase::save(), then the values.
     bool save(QDataStream &out) override;
+    /// Reads what save() writes; values that are missing stay.
     bool load(QDataStream &in) override;
+    /// As CSVGBase::saveJson(), then the values by Property::jsonKey().
     bool saveJson(QJsonObject &object) override;
+    /// Reads what saveJson() writes; values that are missing stay.
     bool loadJson(QJsonObject &object) override;
     bool getInnerProperty(int propId, QDataStream &out) override;
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
@@ -39,14 +44,20 @@ protected:
     virtual void propertyChanged(const Property *property) = 0;
     /// @name Values behind the data that every shape saves
     /// @{
+
+    /// Writes their count and the bytes of each; nothing without properties.
     virtual void saveValues(QDataStream &out);
+    /// Reads what saveValues() writes.
     virtual void loadValues(QDataStream &in);
+    /// Adds each under its key.
     virtual void saveValues(QJsonObject &object);
+    /// Reads them by their keys.
     virtual void loadValues(const QJsonObject &object);
     /// @}
     /// A value behind those of the properties, such as one that a later version has added; empty for none, as in
     /// data without one.
     virtual QByteArray furtherValue() const { return {}; }
+    /// Takes what furtherValue() has given when the data were saved.
     virtual void takeFurtherValue(const QByteArray &) {}
     /// Item units per drawn unit; 1 for a shape without a `DrawingScale`.
     double drawingScale() const;

@@ -28,14 +28,19 @@ public:
     Property(const Property &) = delete;
     Property &operator=(const Property &) = delete;
 
+    /// The property's id, unique within the shape.
     int id() const { return m_id; }
+    /// The action under which its changes are recorded.
     int actionId() const { return m_actionId; }
     /// Replaces the ids that the shape has given; before the first object of the shape is there.
     void setIds(int id, int actionId);
     /// The panels that offer the property; both unless told otherwise.
     void setPanels(bool properties, bool settings);
+    /// See setPanels().
     bool isInPropertyPanel() const { return m_inPropertyPanel; }
+    /// See setPanels().
     bool isInSettings() const { return m_inSettings; }
+    /// Localisation key of the name.
     QString nameKey() const;
     /// The texts that panels show for it.
     virtual QVector<const Text *> texts() const { return {&m_text}; }
@@ -44,26 +49,34 @@ public:
     /// The id of the control in the settings panel.
     QString controlId() const { return QStringLiteral("id") + m_text.name(); }
 
+    /// Decides the editor of the property panel.
     virtual DATA_TYPE dataType() const = 0;
     /// The editor description for the type; empty when the type needs none.
     virtual QByteArray editor() const { return {}; }
+    /// Writes the value alone.
     virtual void write(QDataStream &out) const = 0;
     /// Reads a value and limits it to the property's bounds. A value that can't be read changes nothing.
     virtual void read(QDataStream &in) = 0;
+    /// The value as saved JSON has it.
     virtual QJsonValue toJson() const = 0;
+    /// Takes a value from saved JSON, limited to the bounds. A value of another type changes nothing.
     virtual void fromJson(const QJsonValue &value) = 0;
     /// The control of the settings panel; an empty object for none.
     virtual QJsonObject control(CSVGObj &object) const = 0;
     /// Applies the text that the control answered.
     virtual void takeAnswer(const QString &text) = 0;
 
+    /// The value as write() writes it.
     QByteArray bytes() const;
+    /// Takes a value as read() reads it.
     void setBytes(const QByteArray &bytes);
 
 protected:
     /// An id of 0 means the next free one of the shape.
     Property(PropertiedShape *shape, const Text &text, int id = 0);
+    /// The shape that the property is a member of.
     PropertiedShape *shape() const { return m_shape; }
+    /// Localisation key of one of the shape's texts.
     QString keyOf(const Text &text) const;
 
 private:
@@ -79,7 +92,9 @@ private:
 class SHAPEKIT_EXPORT Switch : public Property
 {
 public:
+    /// Registers itself at the shape, initially `on`.
     Switch(PropertiedShape *shape, const Text &text, bool on);
+    /// The value.
     operator bool() const { return m_on; }
 
     DATA_TYPE dataType() const override { return DATA_TYPE_0; }
@@ -98,8 +113,11 @@ private:
 class SHAPEKIT_EXPORT WholeNumber : public Property
 {
 public:
+    /// Registers itself at the shape. `value` is the initial one, between the bounds.
     WholeNumber(PropertiedShape *shape, const Text &text, int value, int lowest, int highest);
+    /// The value.
     operator int() const { return m_value; }
+    /// Sets the value, limited to the bounds; draws and records nothing.
     void operator=(int value);
 
     DATA_TYPE dataType() const override { return DATA_TYPE_INT; }
@@ -121,9 +139,13 @@ private:
 class SHAPEKIT_EXPORT RealNumber : public Property
 {
 public:
+    /// Registers itself at the shape. `value` is the initial one, between the bounds; an `id` of 0 means the next
+    /// free one.
     RealNumber(PropertiedShape *shape, const Text &text, double value, double lowest, double highest, double step,
                int id = 0);
+    /// The value.
     operator double() const { return m_value; }
+    /// Sets the value, limited to the bounds; draws and records nothing.
     void operator=(double value);
 
     DATA_TYPE dataType() const override { return DATA_TYPE_REAL; }
@@ -146,6 +168,7 @@ private:
 class SHAPEKIT_EXPORT DrawingScale : public RealNumber
 {
 public:
+    /// Registers itself at the shape, under PropertiedShape::drawingScaleId.
     DrawingScale(PropertiedShape *shape, const Text &text, double value, double lowest, double highest,
                  double step);
 };
@@ -154,7 +177,9 @@ public:
 class SHAPEKIT_EXPORT Choice : public Property
 {
 public:
+    /// Registers itself at the shape. `index` is the entry chosen initially, from 0.
     Choice(PropertiedShape *shape, const Text &text, int index, const QVector<const Text *> &entries);
+    /// Index of the chosen entry, from 0.
     operator int() const { return m_index; }
 
     QVector<const Text *> texts() const override { return Property::texts() + m_entries; }
@@ -180,7 +205,9 @@ private:
 class SHAPEKIT_EXPORT ColorValue : public Property
 {
 public:
+    /// Registers itself at the shape, with its initial colour.
     ColorValue(PropertiedShape *shape, const Text &text, QRgb color);
+    /// The value.
     operator QColor() const { return m_color; }
 
     DATA_TYPE dataType() const override { return DATA_TYPE_COLOR; }
@@ -199,8 +226,11 @@ private:
 class SHAPEKIT_EXPORT TextValue : public Property
 {
 public:
+    /// Registers itself at the shape, with its initial text.
     TextValue(PropertiedShape *shape, const Text &text, const QString &value);
+    /// The value.
     operator QString() const { return m_value; }
+    /// Sets the value; draws and records nothing.
     void operator=(const QString &value) { m_value = value; }
 
     DATA_TYPE dataType() const override { return DATA_TYPE_4; }
@@ -221,8 +251,10 @@ private:
 class SHAPEKIT_EXPORT NumberList : public TextValue
 {
 public:
+    /// Registers itself at the shape, with `count` zeros.
     NumberList(PropertiedShape *shape, const Text &text, int count, double lowest, double highest);
 
+    /// The numbers, always as many as the list has.
     const QVector<double> &numbers() const;
     /// Sets the number at an index (from 0); ignores an index out of range.
     void setNumber(int index, double number);
@@ -247,8 +279,11 @@ private:
 class SHAPEKIT_EXPORT DataValue : public Property
 {
 public:
+    /// Registers itself at the shape, without a byte.
     DataValue(PropertiedShape *shape, const Text &text);
+    /// The value.
     operator QByteArray() const { return m_value; }
+    /// Sets the value; draws and records nothing.
     void operator=(const QByteArray &value) { m_value = value; }
 
     DATA_TYPE dataType() const override { return DATA_TYPE_5; }

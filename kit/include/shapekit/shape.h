@@ -33,6 +33,7 @@ public:
         Stretched ///< stretched like a picture, in its own proportions
     };
 
+    /// Without a document until loadSVG(); `type` decides who fills the shape (StyledShape).
     Shape(CSVGObj *owner, int type, Sizing sizing = Redrawn);
 
     bool loadSVG(bool initGlobals) override;
@@ -97,16 +98,25 @@ protected:
 
     /// The centre of a control point; (0, 0) for one that the template lacks.
     QPointF point(int number) const;
+    /// Number of control points.
     int pointCount() const;
+    /// Size of the drawing, document units.
     QSizeF size() const;
+    /// Width of the drawing, document units.
     double width() const { return size().width(); }
+    /// Height of the drawing, document units.
     double height() const { return size().height(); }
+    /// The smaller of width() and height(), document units.
     double shorterSide() const;
+    /// Middle of the drawing, document units.
     QPointF middle() const { return {width() / 2, height() / 2}; }
     /// The frame inset by half the pen, so that lines along it stay inside.
     QRectF frame() const;
+    /// Gives a node of the template this path data. An unknown id is reported, once for all shapes of the kind.
     void setPath(const char *id, const PathText &path);
+    /// Sets an attribute of a node of the template, with the same report.
     void set(const char *id, const char *attribute, const QString &value);
+    /// The same from a number.
     void set(const char *id, const char *attribute, double value);
     /// Turns a node clockwise about a point.
     void rotate(const char *id, double degrees, QPointF about);
@@ -145,6 +155,7 @@ private:
 template<int Type, Shape::Sizing sizing = Shape::Redrawn> class ShapeOfType : public Shape
 {
 public:
+    /// The core of this page object.
     explicit ShapeOfType(CSVGObj *object)
         : Shape(object, Type, sizing)
     {

@@ -16,11 +16,13 @@ public:
     /// A new object with a core of its own, filled with the template's colour.
     explicit ShapeObject(const Kind &kind);
 
+    /// The kind that it was made as.
     const Kind &kind() const { return m_kind; }
     QString kindName() const override { return m_kind.nameKey(); }
     /// Creates a core unless there is already one of that type. A type of another shape leaves no core.
     bool createSVGBase(int type, bool initGlobals) override;
     void OnQPainterDraw(QPainter *painter) override;
+    /// As its core permits.
     bool canDo(OperationType operation) override;
 
     /// Null after loading the type of another shape.

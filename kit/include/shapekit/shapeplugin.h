@@ -18,6 +18,7 @@ class SHAPEKIT_EXPORT ShapePlugin : public QObject, public pagehost::ObjectPlugi
     Q_INTERFACES(pagehost::ObjectPlugin)
 
 public:
+    /// Offers these kinds.
     explicit ShapePlugin(const QVector<Kind> &kinds);
     ~ShapePlugin() override;
 
@@ -32,6 +33,7 @@ public:
     void setMessageListener(const pagehost::MessageListener &listener) override;
 
 protected:
+    /// By its index among the kinds, from 0.
     const Kind &kind(int index) const { return m_kinds.at(index); }
     /// Texts of the first kind besides those of its properties, such as the titles of undo steps.
     virtual QVector<const Text *> furtherTexts() const { return {}; }

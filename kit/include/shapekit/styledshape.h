@@ -17,22 +17,22 @@ class Text;
 /// A place where a line to another object may end, document units.
 struct Connection
 {
-    QString name;
-    QPointF place;
+    QString name;   ///< unique within the shape; saved with the line that ends there
+    QPointF place;  ///< where it ends
     double out = 0; ///< the direction of a line that leaves, degrees clockwise from the right; NaN for any
 };
 
 /// A text of a shape that the user writes, document units.
 struct LabelPlace
 {
-    int propertyId = 0; ///< of the text
-    QString text;
-    QRectF box;
-    double fontSize = 0;
-    bool isBold = false;
-    bool hasManyLines = true;
-    QColor color;
-    Qt::Alignment alignment;
+    int propertyId = 0;       ///< of the text
+    QString text;             ///< as it stands
+    QRectF box;               ///< the lines break within it
+    double fontSize = 0;      ///< height of the font
+    bool isBold = false;      ///< weight of the font
+    bool hasManyLines = true; ///< whether it may have several lines
+    QColor color;             ///< of the letters
+    Qt::Alignment alignment;  ///< in the box
 };
 
 /// A shape that takes its look from the template: which nodes follow the user's pen and fill, and who fills it.
@@ -53,10 +53,12 @@ public:
     /// Whether the shape shows dropped and pasted pictures (takePicture()).
     static constexpr bool takesPictures = false;
 
+    /// Without a document until loadSVG().
     StyledShape(CSVGObj *owner, int type);
 
     /// The kind as which the page object was made; it outlives the core. Null before that is set.
     const Kind *kind() const { return m_kind; }
+    /// Sets it, once, before the template is loaded.
     void setKind(const Kind &kind) { m_kind = &kind; }
     /// Whether the page object can do an operation at present, of those that shapes can do.
     virtual bool permits(OperationType operation)
@@ -136,6 +138,7 @@ protected:
     /// Set while the shape reads its data; it draws and repaints once, when everything is read.
     bool isBeingLoaded = false;
 
+    /// Whether the type is one that the page object fills.
     bool isFilledByPageObject() const;
     /// The mapping of the drawing to the page object as it is seen: mirroring is part of how a shape is painted.
     QTransform seenMapping();

@@ -17,9 +17,9 @@ struct RawAttribute
 /// A start tag as it stands in a file.
 struct SHAPEKIT_EXPORT RawTag
 {
-    QString name;   ///< with its prefix
-    int offset = 0; ///< of its "<"
-    QVector<RawAttribute> attributes;
+    QString name;                     ///< with its prefix
+    int offset = 0;                   ///< of its "<"
+    QVector<RawAttribute> attributes; ///< in their order
 
     /// Where the value of an attribute begins; the tag itself if there is no such attribute.
     int offsetOf(const QString &attribute) const;
@@ -33,6 +33,7 @@ SHAPEKIT_EXPORT QString valueAt(const QString &text, int start);
 class SHAPEKIT_EXPORT TagScanner
 {
 public:
+    /// Begins before the first tag.
     explicit TagScanner(const QString &text);
 
     /// False at the end of the text.

@@ -22,6 +22,7 @@ class SHAPEKIT_EXPORT Text
 public:
     /// UTF-8. The joined English words form the key: they must be unique within the shape.
     Text(const char *english, const char *german);
+    /// The same for any languages; English must be among them.
     explicit Text(const Words &words);
     /// A text that its owner passes to the host under that key, and that has that name.
     Text(const QString &key, const QString &name);
@@ -32,6 +33,7 @@ public:
     QString key(const Kind *kind) const;
     /// The English words joined without spaces: "Corner count" gives "CornerCount".
     QString name() const;
+    /// The words of a text, each with a capital letter, without what stands between them.
     static QString joinedWords(const QString &text);
     /// Empty for a text that its owner passes to the host.
     const Words &words() const { return m_words; }

@@ -22,16 +22,25 @@ public:
     using QGraphicsTextItem::setPos;
     using QGraphicsTextItem::update;
 
+    /// All that the object paints, with its handles; item coordinates.
     QRectF boundingRect() const override;
+    /// Where the object can be hit, item coordinates.
     QPainterPath shape() const override;
+    /// Whether shape() contains the point.
     bool contains(const QPointF &point) const override;
     /// Paints the content through OnQPainterDraw() and nothing else; handles belong to the view.
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+    /// QGraphicsItem::UserType and above.
     int type() const override;
+    /// Starts what the handle or the body under the mouse offers.
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Goes on with it.
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Ends it with one undo step.
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Accepts the event, and does nothing.
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Ignores the event.
     void keyPressEvent(QKeyEvent *event) override;
 
     // Redeclared so that these can be called through the graphics item's virtual table too; the order is fixed.
@@ -43,12 +52,15 @@ public:
     bool saveJson(QJsonObject &object) override;
     bool loadJson(QJsonObject &object) override;
     void setSize(QSizeF size, bool flag, bool redraw) override;
+    /// Keeps the host informed of moves and of the selection.
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void regenRegionShape(QGraphicsItem *item) override;
 
     /// The host's number of the object type: type() less QGraphicsItem::UserType.
     int GetType() const;
+    /// The number given to the constructor.
     int kind() const;
+    /// The object as a graphics item.
     QGraphicsItem *GetGraphicsItemPtr();
 
 private:

@@ -4,6 +4,7 @@
 class CObjAction
 {
 public:
+    /// The numbers are part of the interface.
     enum ACT_Def {
         ACT_None = 0,
         ACT_Move = 1,

@@ -15,6 +15,7 @@ class QJsonObject;
 class FRAMEWORK_EXPORT CPageBgProp
 {
 public:
+    /// Kinds of fill; the numbers are saved.
     enum FillType { NoFill = 0, SolidFill = 1, GradientFill = 2, PatternFill = 3, PictureFill = 4 };
 
     /// A disabled solid white fill of full opacity. `page` is the page whose background the fill may show through;
@@ -23,11 +24,15 @@ public:
 
     /// While on, the area shows its page's background instead of a fill of its own. Off after construction.
     bool isFollowingPage() const { return m_followsPage; }
+    /// See isFollowingPage().
     void setFollowingPage(bool on) { m_followsPage = on; }
     /// A FillType number.
     int fillType() const { return m_fillType; }
+    /// Takes a FillType number.
     void setFillType(int type) { m_fillType = type; }
+    /// Whether anything is filled.
     bool isFillEnable() const { return m_fillEnabled; }
+    /// See isFillEnable().
     void setFillEnable(bool on) { m_fillEnabled = on; }
 
     /// The fill colour; opaque, its transparency stands in opacity().
@@ -41,15 +46,19 @@ public:
 
     /// Second colour of a gradient fill; the first is fillColor().
     QColor gradientColor() const { return m_gradientColor; }
+    /// See gradientColor().
     void setGradientColor(const QColor &color) { m_gradientColor = color; }
     /// Direction of a gradient fill in degrees, counter-clockwise from left to right.
     double gradientAngle() const { return m_gradientAngle; }
+    /// See gradientAngle().
     void setGradientAngle(double degrees) { m_gradientAngle = degrees; }
     /// Pattern of a pattern fill.
     Qt::BrushStyle pattern() const { return m_pattern; }
+    /// See pattern().
     void setPattern(Qt::BrushStyle pattern) { m_pattern = pattern; }
     /// Picture of a picture fill; null when there is none.
     QPixmap pixmap() const { return m_pixmap; }
+    /// See pixmap().
     void setPixmap(const QPixmap &pixmap) { m_pixmap = pixmap; }
 
     /// True when the brush depends on the filled rectangle and must be recreated for each: enabled gradient fills.
@@ -60,12 +69,16 @@ public:
     /// itself.
     QBrush createBrushByProp(const QRectF &rect, bool forTexture) const;
 
+    /// Equal in every value, the page included.
     bool operator==(const CPageBgProp &other) const;
+    /// The opposite.
     bool operator!=(const CPageBgProp &other) const { return !(*this == other); }
 
+    /// Writes all values; false where the stream fails.
     bool save(QDataStream &out) const;
     /// False when the stream ends early or holds invalid values; the fill is then unchanged.
     bool load(QDataStream &in);
+    /// Adds all values to the object.
     bool saveJson(QJsonObject &object) const;
     /// Missing and mistyped members keep their present values; false when there were any.
     bool loadJson(const QJsonObject &object);

@@ -9,6 +9,7 @@ class QUndoStack;
 class FRAMEWORK_EXPORT CUndoRedo
 {
 public:
+    /// The only instance; never null.
     static CUndoRedo *GetInstance();
 
     /// Takes ownership of the command and calls its redo() once. The command outlives the call: the stack never

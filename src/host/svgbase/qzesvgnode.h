@@ -48,6 +48,7 @@ public:
     QZeSvgNode(const QZeSvgNode &) = delete;
     QZeSvgNode &operator=(const QZeSvgNode &) = delete;
 
+    /// The kind of the node.
     Type type() const;
     /// The node's "id" attribute; empty when it has none.
     QString nodeId() const;
@@ -66,7 +67,9 @@ public:
     void setFillEnabled(bool on) { m_fillEnabled = on; }
     /// Document-wide stroke settings reach the node only while this is on; drawing ignores it.
     void setStrokeEnabled(bool on) { m_strokeEnabled = on; }
+    /// See setFillEnabled().
     bool isFillEnabled() const { return m_fillEnabled; }
+    /// See setStrokeEnabled().
     bool isStrokeEnabled() const { return m_strokeEnabled; }
 
     /// The text of an attribute as the template or a later write gives it, presentation attributes included; empty
@@ -99,6 +102,7 @@ public:
     QZeSvgNode *clone() const;
 
 protected:
+    /// For the library alone.
     explicit QZeSvgNode(std::unique_ptr<QZeSvgNodePrivate> record);
 
 private:

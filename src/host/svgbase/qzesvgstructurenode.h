@@ -21,5 +21,6 @@ public:
     void removeChild(QZeSvgNode *node);
 
 protected:
+    /// For the library alone.
     explicit QZeSvgStructureNode(std::unique_ptr<QZeSvgNodePrivate> record);
 };

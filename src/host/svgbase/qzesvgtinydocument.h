@@ -18,6 +18,7 @@ public:
     /// A message of parsing or drawing. Line and column count from 1; 0 when there is no position.
     struct Message
     {
+        /// With an error there is no document.
         enum Severity { Warning, Error };
         /// Stable identification for programs; names and numbers never change.
         enum Code {
@@ -74,20 +75,20 @@ public:
             ListTooLong = 132,
             /// @}
         };
-        Severity severity = Warning;
-        QString text;
-        qint64 line = 0;
-        qint64 column = 0;
-        QString elementId;
-        Code code = Unspecified;
+        Severity severity = Warning; ///< how bad it is
+        QString text;                ///< in English for people
+        qint64 line = 0;             ///< of the text
+        qint64 column = 0;           ///< in the line
+        QString elementId;           ///< id of the element; empty where there is none
+        Code code = Unspecified;     ///< what it is about
     };
 
     /// Arguments of the last draw().
     struct DrawRecord
     {
-        QRectF target;
-        float scale = 0;
-        bool viewFlag = false;
+        QRectF target;         ///< painter units
+        float scale = 0;       ///< see draw()
+        bool viewFlag = false; ///< see draw()
     };
 
     /// Parses UTF-8 SVG text into a new document that the caller owns. Null when the text is not well-formed XML
@@ -106,6 +107,7 @@ public:
     /// The visible part, document units. While the stored one is null (width and height both 0), the transformed
     /// bounds are computed, stored as the view box and returned.
     QRectF viewBox() const;
+    /// Sets the visible part, document units; a null one is computed when it is asked for.
     void setViewBox(const QRectF &box);
 
     /// Stores a function that draw() calls with its painter, before the first node is drawn and with the painter in
@@ -117,13 +119,22 @@ public:
     /// of the first such node in document order that has one (control points, whose flags are off, aside), else the
     /// initial values: black, solid, 1, no brush.
     /// @{
+
+    /// Of every stroke.
     void setAllStrokeColor(QColor color);
+    /// Of every stroke.
     void setAllStrokeStyle(Qt::PenStyle style);
+    /// Of every stroke, user units.
     void setAllStrokeWidth(double width);
+    /// Of every fill.
     void setAllFillBrush(const QBrush &brush);
+    /// Of the strokes.
     QColor getAllStrokeColor() const;
+    /// Of the strokes.
     Qt::PenStyle getAllStrokeStyle() const;
+    /// Of the strokes, user units.
     double getAllStrokeWidth() const;
+    /// Of the fills.
     QBrush getAllFillBrush() const;
     /// @}
 
@@ -137,14 +148,18 @@ public:
 
     /// 1 while the shape is selected, else 0.
     int selectionState() const;
+    /// See selectionState().
     void setSelectionState(int state);
     /// Asks the next draw() to settle pending changes before it draws; draw() clears the flag.
     bool isBeforeDraw() const;
+    /// See isBeforeDraw().
     void setBeforeDraw(bool on);
+    /// All zeros before the first one.
     DrawRecord lastDraw() const;
 
     /// @name Animation
     /// @{
+
     /// Whether the document contains animation elements, running or not.
     bool animated() const;
     /// Starts the document's clock, or resumes it where it was stopped. Before the first start nothing is animated;

@@ -30,7 +30,9 @@ public:
 
     /// The page that the view shows; null for none. Animations of the page before stop.
     void setPage(Page *page);
+    /// Whether objects play while they are visible; initially true.
     bool isPlaying() const { return m_playing; }
+    /// Plays or pauses all objects; paused ones stop where they are.
     void setPlaying(bool playing);
     /// Whether the page has animated objects, playing or not.
     bool hasAnimation() const { return !m_moving.isEmpty(); }
@@ -38,10 +40,13 @@ public:
     /// loop.
     void settle();
 
+    /// Watches the view and its window: what is visible may have changed.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /// setPlaying() has changed it.
     void playingChanged(bool playing);
+    /// The first animated object has come, or the last one has gone.
     void hasAnimationChanged(bool hasAnimation);
 
 private:

@@ -15,14 +15,18 @@ namespace pagehost {
 class FRAMEWORK_EXPORT AssetStore
 {
 public:
-    static constexpr int keySize = 32;
+    static constexpr int keySize = 32; ///< characters of a key
 
+    /// The key of these contents.
     static QByteArray keyOf(const QByteArray &contents);
+    /// Whether the text could be a key, of an asset or not.
     static bool isKey(const QByteArray &text);
     /// The keys that data name, and whatever else looks like one.
     static QSet<QByteArray> keysIn(const QByteArray &data);
 
+    /// Whether nothing is kept.
     bool isEmpty() const { return m_compressed.isEmpty(); }
+    /// Whether contents of this key are kept.
     bool contains(const QByteArray &key) const { return m_compressed.contains(key); }
     /// In the order of the keys.
     QList<QByteArray> keys() const { return m_compressed.keys(); }

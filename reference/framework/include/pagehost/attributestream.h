@@ -19,24 +19,27 @@ namespace pagehost {
 /// A property as its object describes it.
 struct AttributeDescription
 {
+    /// How the value is edited; see `value` for its type.
     enum Kind { Choice, Color, Brush, Whole, Real, WholeRange, RealRange, Switch, Text };
 
+    /// An entry of a choice.
     struct Entry
     {
         QString text; ///< localisation key or plain text
         QPixmap icon; ///< null for none
     };
+    /// Bounds and step of a number.
     struct Range
     {
-        double minimum = 0;
-        double maximum = 0;
-        double step = 0; ///< 0 for any number in between
+        double minimum = 0; ///< smallest value
+        double maximum = 0; ///< largest value
+        double step = 0;    ///< 0 for any number in between
     };
 
-    Kind kind = Text;
-    int id = 0;
-    QString nameKey; ///< localisation key
-    bool isEnabled = true;
+    Kind kind = Text;      ///< decides the type of the value
+    int id = 0;            ///< of the property
+    QString nameKey;       ///< localisation key
+    bool isEnabled = true; ///< whether the user may change it
     /// The index of the entry (Choice), a QColor (Color, Brush), an int (Whole, WholeRange), a double (Real,
     /// RealRange), a bool (Switch), or text (Text). -1 for a choice of no entry; transparent for a brush without a
     /// colour.

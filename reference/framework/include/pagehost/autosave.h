@@ -58,12 +58,14 @@ public:
     /// Milliseconds between two checks of the document. A check makes a copy when the document is modified and has
     /// changed since the last copy, or that copy is gone.
     void setInterval(int milliseconds);
+    /// See setInterval().
     int interval() const { return m_timer.interval(); }
     /// Checks now. False when a copy was needed and could not be made; failed() tells why.
     bool saveNow();
     /// Removes the copy and the lock and watches nothing.
     void close();
 
+    /// Where copies are kept.
     QString folder() const { return m_folder; }
     /// The copy's absolute path, whether it exists or not; empty while nothing is watched.
     QString recoveryFile() const;
@@ -81,7 +83,9 @@ public:
 Q_SIGNALS:
     /// Emitted before a copy is made: receivers bring the document up to date.
     void aboutToLook();
+    /// A copy has been made.
     void saved(const QString &recoveryFile);
+    /// A copy was needed and could not be made.
     void failed(const pagehost::FileMessage &problem);
 
 private:

@@ -28,6 +28,7 @@ FRAMEWORK_EXPORT bool addObjects(Page *page, const QVector<CBaseObject *> &objec
 /// Removes those objects that are on the page; undo restores their places in stacking order.
 FRAMEWORK_EXPORT bool removeObjects(Page *page, const QVector<CBaseObject *> &objects);
 
+/// Ways in stacking order.
 enum class StackingMove { ToFront, Forward, Backward, ToBack };
 /// Moves the objects in stacking order; their own order stays. Forward and Backward pass one object that is not
 /// among them. A group moves and is passed as one; objects of a group move within it.
@@ -58,6 +59,7 @@ FRAMEWORK_EXPORT bool mirrorObjects(const QVector<CBaseObject *> &objects, bool 
 /// Mirrors objects and groups: each object alone about its own centre, the objects of a group as one, at the line
 /// through the middle of the box around them. Locked objects stay.
 FRAMEWORK_EXPORT bool mirrorUnits(const QVector<QVector<CBaseObject *>> &units, bool horizontally);
+/// Locks or unlocks objects; locked ones stay where they are, and clicks pass through them.
 FRAMEWORK_EXPORT bool setObjectsLocked(const QVector<CBaseObject *> &objects, bool locked);
 
 /// Whether an object is made of the present version of the file that it comes from; true for objects of no file.
@@ -65,6 +67,7 @@ FRAMEWORK_EXPORT bool isPresentVersion(CBaseObject &object);
 /// Makes objects be of the present version of their files.
 FRAMEWORK_EXPORT bool updateVersion(const QVector<CBaseObject *> &objects);
 
+/// Gives a page this background.
 FRAMEWORK_EXPORT bool setPageBackground(Page *page, const CPageBgProp &background);
 /// Fills objects with any fill, pictures and gradients included; plain colours go through pagehost/style.h.
 FRAMEWORK_EXPORT bool setObjectsFill(const QVector<CBaseObject *> &objects, const CPageBgProp &fill);
@@ -73,10 +76,12 @@ FRAMEWORK_EXPORT bool setObjectsFill(const QVector<CBaseObject *> &objects, cons
 FRAMEWORK_EXPORT Page *addPage(Document *document, int index, const QSizeF &size);
 /// Never removes the last page.
 FRAMEWORK_EXPORT bool removePage(Document *document, int index);
+/// Moves a page from one index to another; false for an index out of range.
 FRAMEWORK_EXPORT bool movePage(Document *document, int from, int to);
 
 /// Appends a lesson.
 FRAMEWORK_EXPORT bool addLesson(Document *document, const LessonData &lesson);
+/// Removes a lesson; false for an index out of range.
 FRAMEWORK_EXPORT bool removeLesson(Document *document, int index);
 /// Renames a lesson.
 FRAMEWORK_EXPORT bool renameLesson(Document *document, int index, const QString &name);

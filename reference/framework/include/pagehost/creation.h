@@ -40,6 +40,7 @@ public:
     bool begin(PageScene *scene, const QString &kindId);
     /// Waiting for a press, or drawing.
     bool isActive() const { return m_scene != nullptr; }
+    /// The kind being drawn or waited for; empty when not active.
     QString kindId() const { return m_kindId; }
     /// Removes the unfinished object without a trace and stops waiting; false when not active.
     bool cancel() override;
@@ -57,6 +58,7 @@ Q_SIGNALS:
     void finishing(CBaseObject *object);
     /// The object stands on the page and its undo step on the stack; the tool waits no longer.
     void created(CBaseObject *object);
+    /// The tool waits no longer, and nothing is left of the object.
     void cancelled();
 
 private:

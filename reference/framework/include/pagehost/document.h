@@ -26,6 +26,7 @@ struct LessonData
     bool isDamaged = false; ///< the data are known to differ from those that were saved
 };
 
+/// Same name, same bytes, and both or none damaged.
 inline bool operator==(const LessonData &one, const LessonData &other)
 {
     return one.name == other.name && one.data == other.data && one.isDamaged == other.isDamaged;
@@ -64,9 +65,11 @@ public:
     /// its own.
     void setZoomFixed(bool fixed) { m_zoomFixed = fixed; }
 
+    /// Number of pages in order.
     int pageCount() const { return m_pages.size(); }
     /// Null for an index out of range.
     Page *page(int index) const;
+    /// The pages in order.
     QVector<Page *> pages() const { return m_pages; }
     /// -1 for a page that is not in the document.
     int indexOf(const Page *page) const;
@@ -97,10 +100,12 @@ public:
     /// Keeps a page alive outside the order of pages until the matching release(): undo steps and lessons have
     /// plain pointers.
     void retain(Page *page);
+    /// Ends a retain(); a page that nobody retains and that is not in the order of pages is deleted later.
     void release(Page *page);
 
     /// @name Changes since the document was saved
     /// @{
+
     /// True when the undo stack is not where it was at markSaved(), or noteChange() was called since. Steps made
     /// while another document is current count for that one.
     bool isModified() const { return m_modified; }
@@ -117,31 +122,44 @@ public:
 
     /// @name Data saved with the pages
     /// @{
+
+    /// In the order in which users see them.
     QVector<LessonData> lessons() const { return m_lessons; }
     /// pagehost/commands.h has the undoable changes.
     void setLessons(const QVector<LessonData> &lessons);
     /// The lesson being recorded, as far as it goes: saved after the others, so that nothing of it is lost, but not
     /// yet a lesson of the document. Without data there is none.
     void setUnfinishedLesson(const LessonData &lesson);
+    /// lessons(), and the unfinished one behind them.
     QVector<LessonData> lessonsToSave() const;
     /// Whatever objects and lessons have named so far; files hold what they name when they are written.
     AssetStore &assets() { return m_assets; }
+    /// The same, read only.
     const AssetStore &assets() const { return m_assets; }
+    /// Parts of the file that this version does not know.
     ExtraData extraData() const { return m_extraData; }
+    /// Replaces them, without a change that counts as a modification.
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
     /// @}
 
 Q_SIGNALS:
+    /// isModified() has changed.
     void modifiedChanged(bool modified);
+    /// lessons() has changed.
     void lessonsChanged();
+    /// The page stands at `index` and is the current one.
     void pageInserted(int index);
     /// After the page has left the order.
     void pageRemoved(int index);
+    /// The page that was at `from` is at `to`.
     void pageMoved(int from, int to);
     /// -1 after the last page was removed.
     void currentPageChanged(int index);
+    /// See setDocumentState().
     void documentStateChanged(int state);
+    /// See setEditingBlocked().
     void editingBlockedChanged(int blocked);
+    /// See setZoomRate().
     void zoomRateChanged(double rate);
 
 private:

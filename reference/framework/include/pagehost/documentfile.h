@@ -24,6 +24,7 @@ namespace pagehost {
 
 class ObjectRegistry;
 
+/// The two formats of files.
 enum class DocumentFormat {
     Binary, ///< ".board"
     Json    ///< ".board.json"
@@ -35,37 +36,40 @@ FRAMEWORK_EXPORT DocumentFormat documentFormatOf(const QString &fileName);
 /// A problem of a file that was read or written.
 struct FRAMEWORK_EXPORT FileMessage
 {
+    /// How bad a problem is.
     enum Severity {
         Warning, ///< the document exists, but without everything that was saved
         Error    ///< there is no document, or it was not saved
     };
-    Severity severity = Warning;
-    QString textKey;       ///< localisation key; its text names the arguments %1, %2 ...
-    QStringList arguments; ///< file names, kinds, numbers, and the system's own messages
-    int page = 0;          ///< from 1; 0 when it concerns no particular page
-    int object = 0;        ///< from 1, from the bottom of the page; 0 when it concerns no particular object
-    qint64 offset = -1;    ///< bytes from the start of the file; -1 when unknown
-    int line = 0;          ///< of a JSON text, from 1; 0 for the binary format
-    int column = 0;        ///< of a JSON text, from 1, in bytes
+    Severity severity = Warning; ///< how bad it is
+    QString textKey;             ///< localisation key; its text names the arguments %1, %2 ...
+    QStringList arguments;       ///< file names, kinds, numbers, and the system's own messages
+    int page = 0;                ///< from 1; 0 when it concerns no particular page
+    int object = 0;              ///< from 1, from the bottom of the page; 0 when it concerns no particular object
+    qint64 offset = -1;          ///< bytes from the start of the file; -1 when unknown
+    int line = 0;                ///< of a JSON text, from 1; 0 for the binary format
+    int column = 0;              ///< of a JSON text, from 1, in bytes
 };
 
 /// The message for people, in the localizer's language, with its location where known.
 FRAMEWORK_EXPORT QString describe(const FileMessage &message, const ILocalize &localizer);
 
+/// Result of saving.
 struct SaveResult
 {
-    bool saved = false;
+    bool saved = false;      ///< whether the file has the new contents
     bool isConflict = false; ///< not saved, since the file differs from the expected one
     FileMessage problem;     ///< of a failed save
     FileStamp stamp;         ///< of the saved file
 };
 
+/// Result of opening.
 struct OpenResult
 {
     /// Null when nothing could be read; the messages then say why.
     std::unique_ptr<Document> document;
-    QVector<FileMessage> messages;
-    FileStamp stamp; ///< of the document's file when it had these contents
+    QVector<FileMessage> messages; ///< everything that was left out, or the reason why there is no document
+    FileStamp stamp;               ///< of the document's file when it had these contents
 };
 
 /// Writes the document to `file` in the format of its name. The new file replaces the old one in one step once it
@@ -86,6 +90,7 @@ FRAMEWORK_EXPORT OpenResult openDocument(const QString &file, const ObjectRegist
 /// The contents of such a file; empty, with `problem` set when given, for a document too large for one file.
 FRAMEWORK_EXPORT QByteArray encodeDocument(Document &document, DocumentFormat format,
                                            FileMessage *problem = nullptr);
+/// Reads contents as openDocument() reads those of a file.
 FRAMEWORK_EXPORT OpenResult decodeDocument(const QByteArray &bytes, const ObjectRegistry &registry);
 
 /// The MIME type of encodeObjects().

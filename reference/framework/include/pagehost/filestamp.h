@@ -12,8 +12,8 @@ namespace pagehost {
 /// other contents, have replaced it.
 struct FRAMEWORK_EXPORT FileStamp
 {
-    quint64 device = 0;
-    quint64 inode = 0;
+    quint64 device = 0;  ///< the device that holds the file
+    quint64 inode = 0;   ///< its number there
     qint64 size = -1;    ///< bytes
     qint64 modified = 0; ///< time of the last change of the contents, nanoseconds since 1970
     qint64 touched =
@@ -34,6 +34,7 @@ struct FRAMEWORK_EXPORT FileStamp
     /// The stamp of an open file with these contents.
     static FileStamp of(int descriptor, const QByteArray &contents);
 
+    /// For the files that describe recovery copies.
     QJsonObject toJson() const;
     /// Null for a JSON object that is not a stamp.
     static FileStamp fromJson(const QJsonObject &object);
@@ -45,6 +46,7 @@ struct ReplacementEffects
     int otherNames = 0;        ///< other hard links, which keep the old contents
     bool changesOwner = false; ///< only its owner and the administrator can keep the owner
 };
+/// Effects of saving over this file; none for a file that does not exist.
 FRAMEWORK_EXPORT ReplacementEffects effectsOfReplacing(const QString &file);
 
 /// Deletes unfinished files in a folder that saves of ended processes left; returns their number.

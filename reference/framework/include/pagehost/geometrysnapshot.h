@@ -15,20 +15,26 @@ namespace pagehost {
 class FRAMEWORK_EXPORT GeometrySnapshot
 {
 public:
+    /// How much of the object the snapshot holds.
     enum Content {
         PlaceOnly,  ///< for changes that leave the size alone
         WithContent ///< with the object's own state, which a change of size may rewrite
     };
 
     GeometrySnapshot() = default;
+    /// Takes the present state of an object, which must outlive the snapshot.
     GeometrySnapshot(CBaseObject *object, Content content);
 
+    /// Null for a default one.
     CBaseObject *object() const { return m_object; }
     QPointF pos() const { return m_pos; }  ///< scene coordinates
     QSizeF size() const { return m_size; } ///< item units
+    /// Taken WithContent.
     bool hasContent() const { return m_hasContent; }
     double rotation() const { return m_rotation; } ///< degrees
+    /// Left to right.
     bool isMirrored() const { return m_mirrored; }
+    /// Top to bottom.
     bool isFlipped() const { return m_flipped; }
 
     /// Restores the snapshot to the last bit: sizes go through the object's virtual setSize(), and what the object

@@ -20,6 +20,7 @@ struct ObjectGroup
     QVector<quint32> members; ///< numbers of the objects that are in no inner group
 };
 
+/// Equal in every member.
 inline bool operator==(const ObjectGroup &one, const ObjectGroup &other)
 {
     return one.number == other.number && one.parent == other.parent && one.name == other.name &&
@@ -40,10 +41,11 @@ FRAMEWORK_EXPORT quint32 highestNumber(const ObjectGroups &groups);
 /// An object, or all objects of a group.
 struct GroupUnit
 {
-    quint32 group = 0; ///< 0 for an object that is no part of a group there
-    QVector<CBaseObject *> objects;
+    quint32 group = 0;              ///< 0 for an object that is no part of a group there
+    QVector<CBaseObject *> objects; ///< in stacking order
 };
 
+/// Equal in both members.
 inline bool operator==(const GroupUnit &one, const GroupUnit &other)
 {
     return one.group == other.group && one.objects == other.objects;
@@ -58,12 +60,17 @@ public:
     /// `objects` in stacking order. Of objects of the same number, the lowest is the member.
     Grouping(const ObjectGroups &groups, const QVector<CBaseObject *> &objects);
 
+    /// The groups with two members at least.
     const ObjectGroups &groups() const { return m_groups; }
+    /// Whether a group of this number is there.
     bool contains(quint32 group) const { return m_indices.contains(group); }
+    /// The name that the user has given; empty without one.
     QString nameOf(quint32 group) const;
+    /// The group around this one; 0 for an outermost group.
     quint32 parentOf(quint32 group) const;
     /// The innermost group of the object.
     quint32 groupOf(const CBaseObject *object) const { return m_innermost.value(object); }
+    /// Whether the object is in the group or in one inside it.
     bool holds(quint32 group, const CBaseObject *object) const;
     /// All objects of the group and of those in it, in stacking order.
     QVector<CBaseObject *> objectsOf(quint32 group) const;

@@ -22,75 +22,81 @@ namespace pagehost {
 /// An object recorded an action (CPSRootObject::RecordAction()).
 struct ObjectActed
 {
-    quint32 object = 0;
+    quint32 object = 0; ///< its number
+    /// HostAction, or the object's own.
     qint32 actionId = 0;
-    QByteArray payload;
+    QByteArray payload; ///< as it was recorded
 };
 
 /// An object was put on a page, at this index in its stacking order.
 struct ObjectAppeared
 {
-    quint32 object = 0;
-    qint32 page = 0;
-    qint32 place = 0;
-    QByteArray data; ///< the payload of an object's chunk, see docs/board-format.md
+    quint32 object = 0; ///< a new number, or that of an object that returns
+    qint32 page = 0;    ///< index of the page
+    qint32 place = 0;   ///< index in stacking order
+    QByteArray data;    ///< the payload of an object's chunk, see docs/board-format.md
 };
 
+/// An object was taken off its page.
 struct ObjectVanished
 {
-    quint32 object = 0;
+    quint32 object = 0; ///< its number
 };
 
 /// An object has reached a state that its recorded actions do not lead to: by undo and redo, which record nothing,
 /// or by changes that have no action.
 struct ObjectSettled
 {
-    quint32 object = 0;
-    QByteArray data; ///< as in ObjectAppeared
+    quint32 object = 0; ///< its number
+    QByteArray data;    ///< as in ObjectAppeared
 };
 
 /// The objects of a page have this order now, bottom one first.
 struct PageRestacked
 {
-    qint32 page = 0;
-    QVector<quint32> objects;
+    qint32 page = 0;          ///< index of the page
+    QVector<quint32> objects; ///< their numbers
 };
 
 /// An empty page was inserted and is the current one.
 struct PageAppeared
 {
-    qint32 page = 0;
+    qint32 page = 0;       ///< its index
     QSizeF size;           ///< scene units
     QByteArray background; ///< what CPageBgProp::save() writes
 };
 
+/// A page was removed.
 struct PageVanished
 {
-    qint32 page = 0;
+    qint32 page = 0; ///< the index that it had
 };
 
+/// A page was moved.
 struct PageMoved
 {
-    qint32 from = 0;
-    qint32 to = 0;
+    qint32 from = 0; ///< the index that it had
+    qint32 to = 0;   ///< the index that it has now
 };
 
+/// A page has another size.
 struct PageResized
 {
-    qint32 page = 0;
-    QSizeF size; ///< scene units
+    qint32 page = 0; ///< its index
+    QSizeF size;     ///< scene units
 };
 
+/// A page has another background.
 struct PageBackgroundChanged
 {
-    qint32 page = 0;
-    QByteArray background;
+    qint32 page = 0;       ///< its index
+    QByteArray background; ///< as in PageAppeared
 };
 
 /// Another page became current.
 struct PageTurned
 {
-    qint32 page = 0;
+    qint32 page = 0; ///< its index
 };
 
 /// The editing view zoomed; objects keep their control points at one size on screen, so the zoom changes them.
@@ -102,7 +108,7 @@ struct ZoomChanged
 /// The groups of a page have changed; those of objects that are gone are there, too, since they may come back.
 struct PageGrouped
 {
-    qint32 page = 0;
+    qint32 page = 0;   ///< its index
     QByteArray groups; ///< for each group its length and the payload of its chunk, see docs/board-format.md
 };
 /// @}
@@ -112,10 +118,11 @@ using LessonStep =
     std::variant<ObjectActed, ObjectAppeared, ObjectVanished, ObjectSettled, PageRestacked, PageAppeared,
                  PageVanished, PageMoved, PageResized, PageBackgroundChanged, PageTurned, ZoomChanged, PageGrouped>;
 
+/// A step and its time.
 struct LessonEvent
 {
     qint64 time = 0; ///< milliseconds from the start without pauses; never less than the previous event's
-    LessonStep step;
+    LessonStep step; ///< the event itself
 };
 
 /// How much of the stored data is a lesson.
@@ -129,17 +136,19 @@ enum class LessonExtent {
 class FRAMEWORK_EXPORT Lesson
 {
 public:
-    QString title;
+    QString title; ///< for people
     /// Steps that make the initial state from a document without pages.
     QVector<LessonStep> start;
-    QVector<LessonEvent> events;
-    qint64 duration = 0; ///< milliseconds, at least the time of the last event
+    QVector<LessonEvent> events; ///< in order of time
+    qint64 duration = 0;         ///< milliseconds, at least the time of the last event
 
+    /// The lesson in its binary form.
     QByteArray toBytes() const;
     /// False, with the lesson unchanged, unless the data is one whole lesson. Counts are compared with the
     /// remaining bytes before anything is allocated.
     bool fromBytes(const QByteArray &bytes);
 
+    /// The lesson in its readable form.
     QJsonObject toJson() const;
     /// False, with the lesson unchanged, unless the object is one whole lesson.
     bool fromJson(const QJsonObject &object);

@@ -18,8 +18,11 @@ public:
     /// Stopped at 0. Without a source it runs on the system's steady clock.
     explicit LessonClock(const MillisecondSource &source = {});
 
+    /// Whether time passes.
     bool isRunning() const { return m_running; }
+    /// Lets time pass from time() on.
     void run();
+    /// Stops at the present time().
     void halt();
     /// Milliseconds.
     qint64 time() const;
@@ -27,6 +30,7 @@ public:
     void setTime(qint64 time);
     /// Milliseconds that pass for each one of the source; initially 1. Rates that are not positive are ignored.
     void setRate(double rate);
+    /// See setRate().
     double rate() const { return m_rate; }
 
 private:

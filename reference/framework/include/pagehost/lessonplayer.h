@@ -42,6 +42,7 @@ public:
     void setAssets(const AssetStore &assets) { m_assets = assets; }
     /// Stops, and shows the start of this lesson in a new document.
     void setLesson(const Lesson &lesson);
+    /// The lesson that is played; without events before the first setLesson().
     const Lesson &lesson() const { return m_lesson; }
     /// The lesson's pages at position(); null before the first setLesson(). Deleted when a new one replaces it
     /// (documentReplaced()).
@@ -49,10 +50,13 @@ public:
 
     /// Continues from position(), or from the start when that is the end.
     void play();
+    /// Stops at position(), where play() goes on.
     void pause();
+    /// Whether the lesson is playing in real time.
     bool isPlaying() const { return m_clock.isRunning(); }
     /// Milliseconds of the lesson per millisecond of real time, positive; initially 1. Other rates are ignored.
     void setSpeed(double speed);
+    /// See setSpeed().
     double speed() const { return m_clock.rate(); }
     /// Shows the lesson at this moment, in milliseconds, limited to 0 to duration(); continues playing if it was.
     void seek(qint64 time);
@@ -60,12 +64,15 @@ public:
     void playToEnd();
 
     qint64 position() const { return m_position; } ///< milliseconds
+    /// Milliseconds.
     qint64 duration() const { return m_lesson.duration; }
 
 Q_SIGNALS:
     /// Another document shows the lesson; the previous one still exists while this is emitted.
     void documentReplaced();
+    /// Milliseconds, as position() gives them.
     void positionChanged(qint64 time);
+    /// See isPlaying().
     void playingChanged(bool playing);
     /// The end has been reached.
     void finished();

@@ -38,19 +38,24 @@ public:
     bool start(Document *document);
     /// Stops the time. Changes are still recorded, as if all of them happened at the moment of resume().
     void pause();
+    /// Ends pause().
     void resume();
     /// The lesson as stop() would return it now; one without start and events when nothing is being recorded.
     Lesson soFar();
     /// Ends the recording and returns the lesson; one without start and events when nothing was being recorded.
     Lesson stop();
 
+    /// True between start() and stop(), pauses included.
     bool isRecording() const { return m_recording != nullptr; }
+    /// True between pause() and resume().
     bool isPaused() const;
     /// Time recorded so far, milliseconds without pauses.
     qint64 elapsed() const { return m_clock.time(); }
 
 Q_SIGNALS:
+    /// See isRecording().
     void recordingChanged(bool recording);
+    /// See isPaused().
     void pausedChanged(bool paused);
 
 private:

@@ -23,11 +23,13 @@ public:
     /// The text in the current language, or else in English. A key without a text gives the words of the key
     /// without its prefix, since users must never see a raw key; other text is returned unchanged.
     QString text(const QString &key) const override;
+    /// Whether the table of exactly this language has the key.
     bool hasText(const QString &language, const QString &key) const;
 
     /// A language code such as "en" or "de_AT"; without a table for it, the part before "_" is used, and English
     /// without that, too.
     void setLanguage(const QString &language);
+    /// As set, whether there is a table of it or not.
     QString language() const { return m_language; }
     /// Codes in alphabetical order.
     QStringList languages() const { return m_tables.keys(); }
@@ -47,6 +49,7 @@ class FRAMEWORK_EXPORT LocalizedDelegate : public QStyledItemDelegate
 public:
     /// The localizer must outlive the delegate.
     explicit LocalizedDelegate(const ILocalize *localizer, QObject *parent = nullptr);
+    /// The text of a key.
     QString displayText(const QVariant &value, const QLocale &locale) const override;
 
 private:

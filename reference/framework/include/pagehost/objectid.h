@@ -14,6 +14,7 @@ class Document;
 /// A number that identifies an object in its document. It is saved, so that lessons find the object again. 0 while
 /// it has none, as for new and pasted objects.
 FRAMEWORK_EXPORT quint32 objectId(const CBaseObject *object);
+/// Gives an object this number, which no other object of its document may have.
 FRAMEWORK_EXPORT void setObjectId(CBaseObject *object, quint32 id);
 /// The object's number; assigns one that is free in the document when it has none.
 FRAMEWORK_EXPORT quint32 ensureObjectId(CBaseObject *object, const Document &document);

@@ -39,19 +39,16 @@ struct ObjectKind
 enum SpecialProperty {
     /// bool: whether the object plays its animation; off for a new object. While on, it reports every frame with
     /// AppearanceChanged; switched off, it stops where it is, and continues from there. Objects without animation
-    /// lack
-    /// the property.
+    /// lack the property.
     AnimationRuns = 2901,
     /// QRectF, item coordinates, read only: a box around everything that the object paints and can be hit at, with
-    /// its
-    /// editing aids while it is selected. Read when size, look or selection have changed. Without the property the
-    /// host
-    /// uses the region and a margin around the client rectangle.
+    /// its editing aids while it is selected. Read when size, look or selection have changed. Without the property
+    /// the host uses the region and a margin around the client rectangle.
     PaintedArea = 2902,
     /// QMap<QByteArray, QByteArray>, read only: the texts that the object is made of beside its saved data, such as
     /// the file that declares a shape, by the first 32 hexadecimal digits of their SHA-256. The object names each
-    /// of
-    /// these keys in its data. The host asks for them before it saves the object, and keeps them with the document.
+    /// of these keys in its data. The host asks for them before it saves the object, and keeps them with the
+    /// document.
     NeededTexts = 2903,
     /// The same, write only, of an object that nothing has been read into yet: the texts that its data name. The
     /// host tells every new object, if only of no text: an object that has been told leaves its texts to the host,
@@ -73,33 +70,29 @@ enum SpecialProperty {
     /// box (qint32, Qt::Alignment).
     LabelPlaces = 2908,
     /// Write only: one of these texts while it is typed: its property (qint32) and the text (QString). Recorded
-    /// where
-    /// that is asked for, without an undo step: at the end the host puts the first text back in this way, and sets
-    /// the
-    /// property to the last one.
+    /// where that is asked for, without an undo step: at the end the host puts the first text back in this way, and
+    /// sets the property to the last one.
     LabelText = 2909,
     /// bool, read only: whether nothing of the object is to be seen, so that it leaves the page when the user has
     /// ended writing it. Objects without such texts lack the property.
     VanishesEmpty = 2910,
     /// Of an object that follows others, as a line does that connects two of them: a qint32 count, then for each
-    /// end
-    /// the number of the object that it follows (quint32, ToolPage::numberOf()), 0 for none. The object saves the
-    /// numbers. The host writes others into a copy whose originals were copied along, and 0 where they were not.
+    /// end the number of the object that it follows (quint32, ToolPage::numberOf()), 0 for none. The object saves
+    /// the numbers. The host writes others into a copy whose originals were copied along, and 0 where they were
+    /// not.
     FollowedObjects = 2911,
     /// Write only: where those objects are, in the same order: a qint32 count, then for each whether it is on the
     /// page (bool), and if so its outline (QPainterPath) and its ConnectionPlaces, all in scene coordinates. The
-    /// host
-    /// writes it whenever one of them or the object itself has changed. The object follows unrecorded and without
-    /// undo steps, and is the same whenever it is told the same.
+    /// host writes it whenever one of them or the object itself has changed. The object follows unrecorded and
+    /// without undo steps, and is the same whenever it is told the same.
     FollowedPlaces = 2912,
     /// QPainterPath, read only, item coordinates as they are seen: the outline where lines to other objects end.
     /// Without the property they end at the client rectangle.
     ConnectionOutline = 2913,
     /// Read only: the control points that users see on the selected object: a qint32 count, then for each its
-    /// number
-    /// (qint32, from 1), what it sets at present for the user to read (QString, as DragHint; may be empty), its
-    /// centre, a place where a press takes it and no other, and the range of its centre (two QPointF and a QRectF,
-    /// item coordinates as they are seen), and whether it moves across and down the document (bool each).
+    /// number (qint32, from 1), what it sets at present for the user to read (QString, as DragHint; may be empty),
+    /// its centre, a place where a press takes it and no other, and the range of its centre (two QPointF and a
+    /// QRectF, item coordinates as they are seen), and whether it moves across and down the document (bool each).
     ControlPoints = 2914
 };
 
@@ -158,10 +151,12 @@ public:
 class KindSource
 {
 public:
+    /// Extent of a change.
     enum Change {
         TextsChanged, ///< texts() has further ones
         KindsChanged  ///< kinds, their looks, texts or faults have changed
     };
+    /// Hears of changes.
     using Listener = std::function<void(Change change)>;
 
     virtual ~KindSource() = default;
@@ -181,6 +176,7 @@ public:
 /// A fault of a file that a plug-in makes objects of, or of their drawing.
 struct PluginMessage
 {
+    /// How bad a fault is: with an error there is no object, or not all of it.
     enum Severity { Warning, Error };
 
     /// "star.shape.svg:14:22: error C07: ...", without the line where that is unknown.
@@ -191,15 +187,16 @@ struct PluginMessage
         return QStringLiteral("%1%2: %3 %4: %5").arg(file, place, kind, code, text);
     }
 
-    Severity severity = Warning;
-    QString code; ///< of a documented list of the plug-in: "K03"
-    QString file;
-    qint64 line = 0; ///< from 1; 0 when it is unknown
-    qint64 column = 0;
-    QString element; ///< id of the element, if it has one
-    QString text;    ///< in English for people
+    Severity severity = Warning; ///< how bad it is
+    QString code;                ///< of a documented list of the plug-in: "K03"
+    QString file;                ///< its name, without a folder
+    qint64 line = 0;             ///< from 1; 0 when it is unknown
+    qint64 column = 0;           ///< from 1; 0 when it is unknown
+    QString element;             ///< id of the element, if it has one
+    QString text;                ///< in English for people
 };
 
+/// Hears of faults.
 using MessageListener = std::function<void(const PluginMessage &)>;
 
 /// A second interface, optional for plug-ins: faults of what they make objects of.

@@ -23,8 +23,8 @@ class Localizer;
 /// Result of loading one plug-in file.
 struct PluginReport
 {
-    QString file; ///< absolute path
-    bool loaded = false;
+    QString file;        ///< absolute path
+    bool loaded = false; ///< whether its kinds can be used
     /// Why it was not loaded, or which part of it could not be used, in English for people; empty without a
     /// problem.
     QString problem;
@@ -47,6 +47,7 @@ public:
     /// Loads every library of a directory, by name, and reports on each. A directory that does not exist or cannot
     /// be read is reported as one file that was not loaded; files loaded before are skipped.
     QVector<PluginReport> loadDirectory(const QString &path);
+    /// Loads one library and reports on it.
     PluginReport loadFile(const QString &file);
     /// Registers a plug-in that is part of the program. `name` replaces the file's name; the plug-in must outlive
     /// the registry. Reports like loadFile().
@@ -67,6 +68,7 @@ public:
 
     /// All kinds, in order of registration.
     QVector<ObjectKind> kinds() const { return m_kinds; }
+    /// Whether the kind is on offer.
     bool hasKind(const QString &kindId) const { return m_plugins.contains(kindId); }
     /// Whether an object of that kind can be made, which may be on offer no more.
     bool canMake(const QString &kindId) const { return sourceOf(kindId).plugin != nullptr; }

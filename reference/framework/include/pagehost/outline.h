@@ -19,6 +19,7 @@ FRAMEWORK_EXPORT bool placeObjects(Page *page, const QVector<CBaseObject *> &obj
                                    CBaseObject *lower);
 /// Empty for no name.
 FRAMEWORK_EXPORT bool renameObject(Page *page, CBaseObject *object, const QString &name);
+/// Empty for no name; false for an unknown group.
 FRAMEWORK_EXPORT bool renameGroup(Page *page, quint32 group, const QString &name);
 /// Hidden objects are neither drawn nor selected.
 FRAMEWORK_EXPORT bool setObjectsVisible(Page *page, const QVector<CBaseObject *> &objects, bool visible);

@@ -39,6 +39,7 @@ public:
     Document *document() const override { return m_document; }
     /// Never null; owned by the page.
     PageScene *scene() const { return m_scene.get(); }
+    /// Scene units.
     QSizeF size() const { return m_size; }
     /// (0, 0) to size(), scene units.
     QRectF rect() const { return {QPointF(0, 0), m_size}; }
@@ -46,13 +47,16 @@ public:
     void setSize(const QSizeF &size);
     /// Initially opaque white.
     const CPageBgProp &background() const { return m_background; }
+    /// The fill of the whole page.
     void setBackground(const CPageBgProp &background);
 
     /// Objects in stacking order, the bottom one first.
     QVector<CBaseObject *> objects() const { return m_objects; }
+    /// Number of objects on the page.
     int objectCount() const { return m_objects.size(); }
     /// Index in stacking order; -1 for an object that is not on the page.
     int indexOf(const CBaseObject *object) const;
+    /// Whether the object is on the page.
     bool contains(const CBaseObject *object) const { return m_members.contains(object); }
     /// The selected objects in stacking order.
     QVector<CBaseObject *> selectedObjects() const;
@@ -78,12 +82,14 @@ public:
 
     /// Keeps an object alive off the page until the matching release(): undo steps and lessons have plain pointers.
     void retain(CBaseObject *object);
+    /// Ends a retain(); an object that nobody retains and that is off the page is deleted later.
     void release(CBaseObject *object);
     /// The objects of the page that are kept off it.
     QVector<CBaseObject *> keptObjects() const { return m_outside; }
 
     /// @name Groups
     /// @{
+
     /// Also groups and members that are not there, since undo may bring them back.
     ObjectGroups groups() const { return m_groups; }
     /// Takes them as normalized() makes them.
@@ -102,7 +108,9 @@ public:
     QVector<CBaseObject *> unitOf(CBaseObject *object) const;
     /// @}
 
+    /// Parts of the file that this version does not know.
     ExtraData extraData() const { return m_extraData; }
+    /// Replaces them.
     void setExtraData(const ExtraData &extraData) { m_extraData = extraData; }
 
     /// Increases with every visible change of the page.
@@ -111,11 +119,17 @@ public:
     void noteChange();
 
 Q_SIGNALS:
+    /// The object is on the page.
     void objectAdded(CBaseObject *object);
+    /// The object is off the page and still exists.
     void objectRemoved(CBaseObject *object);
+    /// objects() has another order.
     void stackingChanged();
+    /// groups() has changed.
     void groupsChanged();
+    /// background() has changed.
     void backgroundChanged();
+    /// Scene units.
     void sizeChanged(const QSizeF &size);
     /// Once for each select(), addObjects(), removeObjects() and action of the user; at once.
     void selectionChanged();

@@ -30,6 +30,7 @@ struct ToolPointer;
 /// The editable thing at a point of the page.
 struct Grip
 {
+    /// Sorts of grips.
     enum Kind {
         Nothing,      ///< empty page
         Body,         ///< an object that a press would select or move
@@ -38,9 +39,9 @@ struct Grip
         FrameHandle   ///< a handle of the frame around several selected objects, see `action`; `object` is one of
                       ///< them
     };
-    Kind kind = Nothing;
-    CBaseObject *object = nullptr;
-    CObjAction::ACT_Def action = CObjAction::ACT_None;
+    Kind kind = Nothing;                               ///< sort of the grip
+    CBaseObject *object = nullptr;                     ///< null for empty page
+    CObjAction::ACT_Def action = CObjAction::ACT_None; ///< of a handle
     /// Offset from the point asked for to the one that the object responds to, scene units: fingers miss slightly.
     QPointF offset;
 };
@@ -50,35 +51,44 @@ struct Grip
 /// A press goes to handles and control points of the selected objects first, so that a near miss of one does not
 /// deselect; then to the object under the point; a press on empty page is left to the view, whose rubber band it
 /// starts. Shift adds to the selection and takes from it. So does Ctrl, unless the selected object lies above or
-/// below others: then a click takes the one below it, a drag copies the selected ones. A press on a member takes its group, a double
-/// click enters the group. While a tool is set, it gets the mouse. Views show hover and cursors once mouse tracking
-/// is on for their viewport.
+/// below others: then a click takes the one below it, a drag copies the selected ones. A press on a member takes
+/// its group, a double click enters the group. While a tool is set, it gets the mouse. Views show hover and cursors
+/// once mouse tracking is on for their viewport.
 class FRAMEWORK_EXPORT PageScene : public QGraphicsScene
 {
     Q_OBJECT
 
 public:
+    /// The scene of this page, which owns it.
     explicit PageScene(Page *page);
     ~PageScene() override;
 
+    /// The page that is shown.
     Page *page() const { return m_page; }
 
+    /// The grip that a press at `scenePos` (scene coordinates) would take.
     Grip gripAt(const QPointF &scenePos) const;
     /// The cursor that shows what a press at `scenePos` would do, for handles by their direction on screen, for
     /// control points, bodies, and the tool.
     QCursor cursorAt(const QPointF &scenePos) const;
     /// Handle under the mouse; ACT_None without one.
     CObjAction::ACT_Def hoveredHandle() const { return m_hover.action; }
+    /// The grip under the mouse.
     Grip hovered() const { return m_hover; }
 
     /// A tool that gets the mouse before any object; null for none. Not owned.
     void setTool(PageTool *tool);
+    /// Null for none.
     PageTool *tool() const;
     /// @name A pen that the view hands on itself, since scenes get no events of pens
     /// False, without effect, where no tool can be used.
     /// @{
+
+    /// The pen touches the page.
     bool pressTool(const ToolPointer &pointer);
+    /// The pen moves.
     bool moveTool(const ToolPointer &pointer);
+    /// The pen is lifted.
     bool releaseTool(const ToolPointer &pointer);
     /// @}
 
@@ -86,10 +96,14 @@ public:
     /// Moved, resized and newly drawn objects catch at others, at the page and at the grid, turned ones at steps
     /// of 15 degrees, unless Alt is held.
     /// @{
+
+    /// Switches snapping on or off.
     void setSnapping(bool on);
+    /// Whether it is on; Alt doesn't count.
     bool isSnapping() const;
     /// Shows a grid with lines at this distance, scene units; 0 for none. Visible in views only.
     void setGrid(double distance);
+    /// See setGrid().
     double grid() const;
     /// Of this scene's tools.
     Snapper &snapper() const { return *m_snapper; }
@@ -106,12 +120,14 @@ public:
     /// Figures of the drag of a grip, for people to read.
     struct DragFigures
     {
+        /// Figures that say something.
         enum Kind { None, Place, Size, Turn };
-        Kind kind = None;
+        Kind kind = None;   ///< which of them do
         QPointF place;      ///< top-left of what is moved, scene coordinates
         QSizeF size;        ///< of the resized object, item units, or of the frame
         double degrees = 0; ///< of the turned object, or by which several have been turned
     };
+    /// Of the drag that is going on; None without one.
     DragFigures dragFigures() const;
     /// Cancels a running drag without a trace: objects and control points return to where they were, a tool takes
     /// back its drawing, the selection is the one before the press; no undo step remains, what could be redone
@@ -123,11 +139,16 @@ public:
     /// first is false, without effect, where a press there would not take a control point, and while another drag
     /// runs.
     /// @{
+
+    /// Presses at a control point of the object.
     bool beginPointDrag(CBaseObject *object, const QPointF &scenePos);
+    /// Moves there.
     void dragPointTo(const QPointF &scenePos);
+    /// Releases: one undo step.
     void endPointDrag();
     /// @}
 
+    /// Highlighted parts.
     enum Highlight {
         ObjectOnly,
         ObjectAndPlaces ///< with its ConnectionPlaces
@@ -136,6 +157,7 @@ public:
     /// reset with null or the object leaves the page. Visible in views only, not in thumbnails, exported pages or
     /// saved data.
     void setHighlight(CBaseObject *object, Highlight parts = ObjectOnly);
+    /// Null for none.
     CBaseObject *highlight() const { return m_highlight; }
 
     /// Bounds of the selected objects' frames and handles, scene coordinates; null without any.
@@ -158,13 +180,21 @@ Q_SIGNALS:
     void copyDropped(const QPointF &way);
 
 protected:
+    /// Gives the press to the tool or to the grip there.
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Leads the drag, or shows what is hovered.
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Ends the drag.
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Enters a group, or goes to the object.
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
+    /// Esc, the modifiers of a drag, keys of the tool; other keys go to the one selected object.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Modifiers of a drag.
     void keyReleaseEvent(QKeyEvent *event) override;
+    /// The page's background and the grid.
     void drawBackground(QPainter *painter, const QRectF &rect) override;
+    /// Selection frames, handles, guides and highlight.
     void drawForeground(QPainter *painter, const QRectF &rect) override;
 
 private:
@@ -202,9 +232,9 @@ private:
     Grip m_drag;
     CBaseObject *m_highlight = nullptr;
     Highlight m_highlightedParts = ObjectOnly;
-    QPointF m_pressPos; ///< scene coordinates
+    QPointF m_pressPos;        ///< scene coordinates
     bool m_takesBelow = false; ///< the drag that is going on, if it ends as a click
-    QPointF m_lastPos;  ///< of the mouse in the drag that is going on, scene coordinates
+    QPointF m_lastPos;         ///< of the mouse in the drag that is going on, scene coordinates
     std::unique_ptr<Snapper> m_snapper;
     std::unique_ptr<GripCourse> m_course;   ///< of the drag that is going on
     std::unique_ptr<FrameDrag> m_frameDrag; ///< of a FrameHandle

@@ -18,26 +18,30 @@ enum class ToolRole { Pen, Highlighter, Eraser, Text, Line, Connector };
 /// The settings of a tool that the user chooses before using it.
 struct ToolStyle
 {
-    QColor color;
+    QColor color;     ///< of the line or the letters
     double width = 0; ///< of the line, of the eraser, or the height of letters, scene units
     int variant = 0;  ///< 0 for the usual one; see the role's variants
 };
 
 /// @name Variants of tools
 /// @{
+
+/// Of ToolRole::Eraser.
 enum EraserVariant { WholeStrokes, StrokeParts };
+/// Of ToolRole::Line.
 enum LineVariant { PlainLine, ArrowLine, CurvedLine };
+/// Of ToolRole::Connector.
 enum ConnectorVariant { StraightConnector, AngledConnector };
 /// @}
 
 /// One position of the mouse, the pen or a finger.
 struct ToolPointer
 {
-    QPointF pos;          ///< scene coordinates
-    double pressure = -1; ///< 0 to 1; below 0 for a device that measures none
-    double pixel = 1;     ///< a pixel of the view, scene units
-    Qt::KeyboardModifiers modifiers;
-    bool movesStart = false; ///< a drag moves the place where it began along with the pointer
+    QPointF pos;                     ///< scene coordinates
+    double pressure = -1;            ///< 0 to 1; below 0 for a device that measures none
+    double pixel = 1;                ///< a pixel of the view, scene units
+    Qt::KeyboardModifiers modifiers; ///< held keys
+    bool movesStart = false;         ///< a drag moves the place where it began along with the pointer
 };
 
 /// The page as tools see it. Changes show at once; those since the last commit() are one undo step.
@@ -53,8 +57,8 @@ public:
     /// Where a line is joined to an object; without an object it is not.
     struct Connection
     {
-        CBaseObject *object = nullptr;
-        QString place; ///< the name of one of its ConnectionPlaces; empty for its outline
+        CBaseObject *object = nullptr; ///< null where the line is not joined
+        QString place;                 ///< the name of one of its ConnectionPlaces; empty for its outline
     };
 
     virtual ~ToolPage() = default;
@@ -101,8 +105,11 @@ public:
         return Qt::CrossCursor;
     }
 
+    /// The main button, the pen or a finger goes down.
     virtual void press(const ToolPointer &pointer) = 0;
+    /// It moves.
     virtual void move(const ToolPointer &pointer) = 0;
+    /// It goes up.
     virtual void release(const ToolPointer &pointer) = 0;
     /// Between press and release, or between the clicks of one drawing.
     virtual bool isDrawing() const = 0;
@@ -126,6 +133,7 @@ class ToolPlugin
 {
 public:
     virtual ~ToolPlugin() = default;
+    /// The tools that the plug-in has.
     virtual QVector<ToolRole> toolRoles() const = 0;
     /// A tool that works on `page`, which outlives it; the caller owns it. Null for a role that is not among
     /// toolRoles().

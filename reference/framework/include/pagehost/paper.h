@@ -17,6 +17,7 @@ enum class Paper { Blank, Ruled, Squared, Dotted, Music, Millimetre };
 /// hold it: the type ends with 31.
 constexpr int firstPaperPattern = 26;
 
+/// Whether a pattern number (CPageBgProp::pattern()) is that of a paper.
 FRAMEWORK_EXPORT bool isPaperPattern(int pattern);
 /// Blank for backgrounds of any other kind.
 FRAMEWORK_EXPORT Paper paperOf(const CPageBgProp &background);
@@ -26,9 +27,9 @@ FRAMEWORK_EXPORT void setPaper(CPageBgProp &background, Paper paper);
 /// Lines of one width with round ends, scene units. Dots are lines of hardly any length.
 struct PaperLines
 {
-    QVector<QLineF> lines;
-    double width = 1;
-    QColor color;
+    QVector<QLineF> lines; ///< scene units
+    double width = 1;      ///< scene units
+    QColor color;          ///< of the lines
 };
 /// All that is printed on a page of this size whose paper has this colour.
 FRAMEWORK_EXPORT QVector<PaperLines> paperLines(Paper paper, const QSizeF &page, const QColor &ground);

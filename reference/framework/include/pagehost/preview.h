@@ -22,7 +22,9 @@ public:
 
     /// Reverts the change shown before and runs `change`, which must be completely undoable.
     void show(const std::function<void()> &change);
+    /// Reverts the shown change; does nothing without one.
     void takeBack();
+    /// Whether a change is shown.
     bool isShowing() const { return m_capture != nullptr; }
 
 private:

@@ -31,6 +31,7 @@ public:
 
 /// Sets the process's only sink and returns the previous one; null for none. The caller keeps ownership.
 FRAMEWORK_EXPORT ActionSink *setActionSink(ActionSink *sink);
+/// The present sink; null for none.
 FRAMEWORK_EXPORT ActionSink *actionSink();
 
 /// Replays one recorded action: this host's own kinds through the base class, all others through the object.

@@ -26,6 +26,7 @@ FRAMEWORK_EXPORT bool deleteSelection(Page *page);
 /// Returns the copies.
 FRAMEWORK_EXPORT QVector<CBaseObject *> duplicateSelection(Page *page, const ObjectRegistry *registry,
                                                            const QPointF &offset = duplicateOffset);
+/// Selects every visible object.
 FRAMEWORK_EXPORT void selectAll(Page *page);
 /// Bounding rectangle of rotated objects, scene coordinates; null without objects.
 FRAMEWORK_EXPORT QRectF boundsOf(const QVector<CBaseObject *> &objects);

@@ -26,7 +26,9 @@ enum StyleProperty : int {
 /// The recorded action of a changed fill: objects record its colour, a QColor, and replay a QBrush.
 constexpr int FillAction = 1005;
 
+/// The colour of the outline.
 FRAMEWORK_EXPORT bool setPenColor(const QVector<CBaseObject *> &objects, const QColor &color);
+/// Qt::SolidLine to Qt::DashDotDotLine.
 FRAMEWORK_EXPORT bool setPenStyle(const QVector<CBaseObject *> &objects, Qt::PenStyle style);
 /// Whole units, at least 1.
 FRAMEWORK_EXPORT bool setPenWidth(const QVector<CBaseObject *> &objects, int width);
@@ -36,16 +38,17 @@ FRAMEWORK_EXPORT bool setFill(const QVector<CBaseObject *> &objects, const QColo
 /// Pen and fill of an object. Each value has a flag that tells whether the object has it.
 struct ObjectStyle
 {
-    bool hasPenColor = false;
-    QColor penColor;
-    bool hasPenStyle = false;
-    Qt::PenStyle penStyle = Qt::SolidLine;
-    bool hasPenWidth = false;
-    int penWidth = 1;
-    int maxPenWidth = 1; ///< largest width that the object offers
-    bool hasFill = false;
-    QBrush fill;
+    bool hasPenColor = false;              ///< whether it has a pen colour
+    QColor penColor;                       ///< of the outline
+    bool hasPenStyle = false;              ///< whether it has a pen style
+    Qt::PenStyle penStyle = Qt::SolidLine; ///< of the outline
+    bool hasPenWidth = false;              ///< whether it has a pen width
+    int penWidth = 1;                      ///< whole units
+    int maxPenWidth = 1;                   ///< largest width that the object offers
+    bool hasFill = false;                  ///< whether it has a fill
+    QBrush fill;                           ///< of the inside
 };
+/// Reads pen and fill of an object; without any flag for one that has neither.
 FRAMEWORK_EXPORT ObjectStyle styleOf(CBaseObject *object);
 
 /// A look by the names of the attribute map (CPSRootObject::getAllAttributes()), with values as setAllAttributes()

@@ -11,10 +11,11 @@ namespace pagehost {
 /// Letters of a text that lead to an address, UTF-16 units.
 struct TextLink
 {
-    int start = 0;
-    int length = 0;
-    QString address;
+    int start = 0;   ///< of the first letter
+    int length = 0;  ///< number of letters
+    QString address; ///< as the user has written it
 
+    /// Equal in all three.
     bool operator==(const TextLink &other) const
     {
         return start == other.start && length == other.length && address == other.address;
@@ -38,8 +39,10 @@ enum TextLinkProperty {
 
 /// Further links, and longer addresses, are left out.
 constexpr int mostLinks = 500;
+/// Longer addresses are left out, UTF-16 units.
 constexpr int longestAddress = 2000;
 
+/// The links as LabelLinks has them.
 inline QByteArray encodedLinks(const QVector<TextLink> &links)
 {
     QByteArray bytes;

@@ -26,6 +26,7 @@ class FRAMEWORK_EXPORT ThumbnailPainter : public QObject
     Q_OBJECT
 
 public:
+    /// Without a request, idle.
     explicit ThumbnailPainter(QObject *parent = nullptr);
     ~ThumbnailPainter() override;
 
@@ -33,6 +34,7 @@ public:
     /// already waiting keeps its place with the new size; one that changes while it is being painted is started
     /// again.
     void request(Page *page, const QSize &size);
+    /// Whether no page waits.
     bool isIdle() const { return m_jobs.empty(); }
     /// Paints all waiting pages before it returns.
     void finish();

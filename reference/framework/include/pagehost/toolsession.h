@@ -25,7 +25,7 @@ public:
     struct Result
     {
         QVector<CBaseObject *> objects; ///< those that were added
-        Afterwards afterwards = Stay;
+        Afterwards afterwards = Stay;   ///< how the change is followed up
     };
 
     /// The registry must outlive the session.
