@@ -127,7 +127,9 @@ void Callout::propertyChanged(const shapekit::Property *property)
     const bool isFrame = in.status() == QDataStream::Ok && frame.width() > 0 && frame.height() > 0 &&
                          frame.width() <= width() && frame.height() <= height();
     m_frame = isFrame ? frame : QSizeF();
-    m_tip.size = balloonFrame();
+    // It was put where the data have it, for the size that they have.
+    if (pointCount() > 0)
+        m_tip = {point(1), balloonFrame()};
     ShapeOfType::propertyChanged(property);
 }
 
@@ -214,7 +216,8 @@ QByteArray Callout::state() const
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     if (document)
-        out << document->viewBox() << owner->getClientRect().size() << balloonFrame() << m_tip.centre << m_tip.size;
+        out << document->viewBox() << owner->getClientRect().size() << balloonFrame() << m_tip.centre << m_tip.size
+            << owner->getPos();
     return bytes;
 }
 
@@ -224,7 +227,8 @@ bool Callout::takeState(QDataStream &in)
     QSizeF size;
     QSizeF frame;
     shapekit::Place tip;
-    in >> box >> size >> frame >> tip.centre >> tip.size;
+    QPointF pos;
+    in >> box >> size >> frame >> tip.centre >> tip.size >> pos;
     if (in.status() != QDataStream::Ok || !document || box.isEmpty() || size.isEmpty() || frame.isEmpty())
         return false;
     m_tip = tip;
@@ -234,6 +238,7 @@ bool Callout::takeState(QDataStream &in)
     document->setViewBox(box);
     if (owner->getClientRect().size() != size)
         owner->setSize2(size, false);
+    owner->setPos(pos, false);
     ShapeOfType::propertyChanged(nullptr);
     updateOutlineRegion();
     invalidate();
