@@ -8,7 +8,7 @@
 
 // Distances on screen that the handles promise.
 constexpr double frameMargin = 6;
-constexpr double stem = 26;
+constexpr double stem = 28;
 constexpr double hitRadius = 12;
 
 /// Centre of a corner handle of an unrotated object; `side` is -1 or 1 per axis.

@@ -1,10 +1,12 @@
 #include <framework/cbaseobject.h>
 
+#include <pagehost/pointer.h>
+
 #include <host/baseobject.h>
 #include <host/gripdrag.h>
-#include <host/handlelayout.h>
 #include <host/objectpage.h>
 #include <host/rootobjectprivate.h>
+#include <host/shownhandles.h>
 
 #include <QtWidgets/QGraphicsScene>
 #include <QtWidgets/QGraphicsSceneMouseEvent>
@@ -44,14 +46,14 @@ bool CPSRootObject::isHandleDisabled(CObjAction::ACT_Def handle) const
 
 bool CPSRootObject::CheckHitTestHandlers(const QPointF &scenePos, CObjAction::ACT_Def &action)
 {
-    const CBaseObject *item = baseObject(*this);
+    CBaseObject *item = baseObject(*this);
     if (!item || !isOnlySelected(*item) || isLocked() || isEditingBlocked(*this))
         return false;
-    const HandleLayout layout(clientRect, getCurZoomRate());
-    const CObjAction::ACT_Def hit = layout.hit(item->mapFromScene(scenePos), offeredHandles(*this));
-    if (hit == CObjAction::ACT_None)
+    const HandleLayout::Hit hit =
+        layoutOf(*item).hit(item->mapFromScene(scenePos), shownHandles(*item), hitSize(pagehost::Pointer::Mouse));
+    if (hit.handle == CObjAction::ACT_None)
         return false;
-    action = hit;
+    action = hit.handle;
     return true;
 }
 

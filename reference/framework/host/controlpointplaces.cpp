@@ -19,14 +19,14 @@ QVector<ControlPointPlace> controlPointPlaces(CBaseObject &object)
     for (int i = 0; i < count; ++i) {
         qint32 number = 0;
         QString hint;
-        QPointF press;
         QRectF range;
         ControlPointPlace place;
-        in >> number >> hint >> place.centre >> press >> range >> place.movesAcross >> place.movesDown;
+        in >> number >> hint >> place.centre >> place.press >> range >> place.movesAcross >> place.movesDown;
         if (in.status() != QDataStream::Ok)
             break;
         place.centre = object.mapToScene(place.centre);
         place.number = number;
+        place.press = object.mapToScene(place.press);
         places.append(place);
     }
     return places;

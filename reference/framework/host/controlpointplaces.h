@@ -10,6 +10,7 @@ struct ControlPointPlace
 {
     int number = 0; ///< from 1
     QPointF centre; ///< scene coordinates
+    QPointF press;  ///< where a press takes it and no other, scene coordinates
     bool movesAcross = false;
     bool movesDown = false; ///< both along the axes of the object
 };

@@ -20,7 +20,8 @@ using pagehost::GeometrySnapshot;
 
 namespace {
 
-constexpr double dragThresholdPixels = 3;
+/// Rounding must not count as a way.
+constexpr double leastWayPixels = 0.5;
 constexpr double smallestSide = 1;
 constexpr double radiansToDegrees = 180 / 3.14159265358979323846;
 
@@ -70,7 +71,7 @@ GripDrag::GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraph
     : m_object(object)
     , m_action(action)
     , m_press(press.scenePos())
-    , m_threshold(action == CObjAction::ACT_Move ? dragThresholdPixels / object.getCurZoomRate() : 0)
+    , m_threshold(leastWayPixels / object.getCurZoomRate())
     , m_click(click)
 {
     if (action == CObjAction::ACT_Move) {
@@ -79,6 +80,11 @@ GripDrag::GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraph
         const bool isResize = HandleLayout::isResize(action);
         m_before.append({&object, isResize ? GeometrySnapshot::WithContent : GeometrySnapshot::PlaceOnly});
     }
+}
+
+void GripDrag::begin(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press)
+{
+    CPSRootObjectPrivate::of(object).drag = std::make_unique<GripDrag>(object, action, press, NoEffect);
 }
 
 GripDrag *GripDrag::running(CBaseObject &object)

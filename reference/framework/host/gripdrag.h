@@ -25,6 +25,8 @@ public:
     GripDrag(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press,
              ClickEffect click);
 
+    /// A drag of a handle, whose press the object doesn't get.
+    static void begin(CBaseObject &object, CObjAction::ACT_Def action, const QGraphicsSceneMouseEvent &press);
     /// The running drag of the object; null without one.
     static GripDrag *running(CBaseObject &object);
     /// Ends it and leaves the object where it is.
@@ -33,7 +35,7 @@ public:
     CObjAction::ACT_Def action() const { return m_action; }
     /// The objects that it changes.
     QVector<CBaseObject *> objects() const;
-    /// Whether a pointer there (scene coordinates) drags: one that trembles does not.
+    /// Whether a pointer there (scene coordinates) has left the press.
     bool isDragAt(const QPointF &scenePos) const;
     void moveTo(const QGraphicsSceneMouseEvent &event);
     /// Ends the drag, with one undo step when something has changed.
@@ -56,7 +58,7 @@ private:
     CBaseObject &m_object;
     CObjAction::ACT_Def m_action;
     QPointF m_press;    ///< scene coordinates
-    double m_threshold; ///< distance of the mouse from the press that starts the drag, scene units
+    double m_threshold; ///< a shorter way from the press is none, scene units
     ClickEffect m_click;
     bool m_moved = false;
     QVector<pagehost::GeometrySnapshot> m_before;

@@ -1,31 +1,31 @@
 #include <host/handlelayout.h>
 
-#include <framework/cpsrootobject.h>
-
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
-/// On objects smaller than this on screen, presses inside go to the object.
-constexpr double smallObjectPixels = 3 * HandleLayout::hitRadiusPixels;
+constexpr HandleSizes usualSizes{24, 9, {14, 6}, 20, 28, 12};
+constexpr HandleSizes largeSizes{44, 16, {26, 10}, 36, 44, 20};
+/// A side shorter than so many hit areas has no handle in its middle.
+constexpr double hitSizesOfASide = 3;
+/// Nor has one with a control point this near to it, pixels.
+constexpr double pointDistance = 12;
+/// Distances that differ by less are equal, pixels.
+constexpr double tie = 1e-6;
 
 double distance(const QPointF &from, const QPointF &to)
 {
     return std::hypot(to.x() - from.x(), to.y() - from.y());
 }
 
-OperationType operationOf(CObjAction::ACT_Def handle)
-{
-    if (HandleLayout::isResize(handle))
-        return OperationResize;
-    return handle == CObjAction::ACT_Rotate ? OperationRotate : OperationMirror;
-}
-
 } // namespace
 
-HandleLayout::HandleLayout(const QRectF &clientRect, double zoom)
+HandleLayout::HandleLayout(const QRectF &clientRect, double zoom, bool isLarge)
     : m_rect(clientRect)
     , m_zoom(std::isfinite(zoom) && zoom > 0 ? zoom : 1)
+    , m_sizes(isLarge ? largeSizes : usualSizes)
 {
 }
 
@@ -42,6 +42,18 @@ const QVector<CObjAction::ACT_Def> &HandleLayout::handles()
 bool HandleLayout::isResize(CObjAction::ACT_Def handle)
 {
     return handle >= CObjAction::ACT_ResizeTopLeft && handle <= CObjAction::ACT_ResizeBottomRight;
+}
+
+bool HandleLayout::isSide(CObjAction::ACT_Def handle)
+{
+    return isResize(handle) && (side(handle).x() == 0 || side(handle).y() == 0);
+}
+
+int HandleLayout::rank(CObjAction::ACT_Def handle)
+{
+    if (!isResize(handle))
+        return 3;
+    return isSide(handle) ? 2 : 1;
 }
 
 QPoint HandleLayout::side(CObjAction::ACT_Def handle)
@@ -74,55 +86,62 @@ QPoint HandleLayout::side(CObjAction::ACT_Def handle)
 QPointF HandleLayout::position(CObjAction::ACT_Def handle) const
 {
     const QPointF towards(side(handle));
-    const double stem = isResize(handle) ? 0 : fromPixels(stemPixels);
+    const double stem = isResize(handle) ? 0 : fromPixels(m_sizes.stem);
     const QRectF around = frame();
     return {around.center().x() + towards.x() * (around.width() / 2 + stem),
             around.center().y() + towards.y() * (around.height() / 2 + stem)};
 }
 
-CObjAction::ACT_Def HandleLayout::hit(const QPointF &itemPos, const QVector<CObjAction::ACT_Def> &enabled) const
+bool HandleLayout::isHidden(CObjAction::ACT_Def handle, const QVector<QPointF> &points) const
 {
-    const bool isSmall = qMin(m_rect.width(), m_rect.height()) < fromPixels(smallObjectPixels);
-    if (isSmall && m_rect.contains(itemPos))
-        return CObjAction::ACT_None;
-    CObjAction::ACT_Def nearest = CObjAction::ACT_None;
-    double best = fromPixels(hitRadiusPixels);
-    for (const CObjAction::ACT_Def handle : enabled) {
-        const double away = distance(position(handle), itemPos);
-        if (away <= best) {
-            best = away;
-            nearest = handle;
-        }
+    if (!isSide(handle))
+        return false;
+    const double length = side(handle).x() == 0 ? frame().width() : frame().height();
+    const QPointF centre = position(handle);
+    const double least = fromPixels(pointDistance);
+    return length < fromPixels(hitSizesOfASide * m_sizes.hit) ||
+           std::any_of(points.begin(), points.end(),
+                       [&](const QPointF &point) { return distance(centre, point) <= least; });
+}
+
+QVector<CObjAction::ACT_Def> HandleLayout::unhidden(const QVector<CObjAction::ACT_Def> &handles,
+                                                    const QVector<QPointF> &points) const
+{
+    QVector<CObjAction::ACT_Def> shown;
+    std::copy_if(handles.begin(), handles.end(), std::back_inserter(shown),
+                 [&](CObjAction::ACT_Def handle) { return !isHidden(handle, points); });
+    return shown;
+}
+
+HandleLayout::Hit HandleLayout::hit(const QPointF &itemPos, const QVector<CObjAction::ACT_Def> &shown,
+                                    double hitSize) const
+{
+    Hit nearest;
+    for (const CObjAction::ACT_Def handle : shown) {
+        const double away = distance(position(handle), itemPos) * m_zoom;
+        const bool isFirst = nearest.handle == CObjAction::ACT_None;
+        const bool isEqual = std::abs(away - nearest.distance) < tie;
+        if (away > hitSize / 2)
+            continue;
+        if (isFirst || (isEqual ? rank(handle) < rank(nearest.handle) : away < nearest.distance))
+            nearest = {handle, away};
     }
-    return nearest;
+    const bool isBody =
+        m_rect.contains(itemPos) && distance(m_rect.center(), itemPos) * m_zoom < nearest.distance - tie;
+    return isBody ? Hit() : nearest;
 }
 
 QRectF HandleLayout::frame() const
 {
+    const double least = fromPixels(m_sizes.hit);
     const double margin = fromPixels(frameMarginPixels);
-    return m_rect.adjusted(-margin, -margin, margin, margin);
+    const double across = std::max(margin, (least - m_rect.width()) / 2);
+    const double down = std::max(margin, (least - m_rect.height()) / 2);
+    return m_rect.adjusted(-across, -down, across, down);
 }
 
 QRectF HandleLayout::bounds() const
 {
-    const double reach = fromPixels(stemPixels + hitRadiusPixels);
+    const double reach = fromPixels(m_sizes.stem + m_sizes.hit / 2);
     return frame().adjusted(-reach, -reach, reach, reach);
-}
-
-QVector<CObjAction::ACT_Def> offeredHandles(CPSRootObject &object)
-{
-    QVector<CObjAction::ACT_Def> offered;
-    for (const CObjAction::ACT_Def handle : HandleLayout::handles())
-        if (!object.isHandleDisabled(handle) && object.canDo(operationOf(handle)))
-            offered.append(handle);
-    return offered;
-}
-
-QVector<CObjAction::ACT_Def> frameHandles()
-{
-    QVector<CObjAction::ACT_Def> handles;
-    for (const CObjAction::ACT_Def handle : HandleLayout::handles())
-        if (operationOf(handle) != OperationMirror)
-            handles.append(handle);
-    return handles;
 }

@@ -10,9 +10,6 @@ namespace pagehost {
 
 namespace {
 
-/// A press and release closer together than this are a click.
-constexpr double clickPixels = 4;
-
 /// Limited to the largest size of an object.
 QPointF possibleWay(const QPointF &way)
 {
@@ -45,7 +42,7 @@ bool CreationCourse::follow(const ToolPointer &pointer)
     const QPointF away = pointer.pos - m_pressed;
     const QPointF step = pointer.pos - m_last;
     m_last = pointer.pos;
-    m_isDrag = m_isDrag || std::hypot(away.x(), away.y()) >= clickPixels * pointer.pixel;
+    m_isDrag = m_isDrag || std::hypot(away.x(), away.y()) >= dragStart(pointer.kind) * pointer.pixel;
     if (!m_isDrag)
         return false;
     if (pointer.movesStart)
@@ -101,7 +98,7 @@ QPointF CreationCourse::snapOffset(const SnapSubject &subject, const ToolPointer
 {
     // Whoever moves the start looks at both corners.
     const bool isSuspended = pointer.movesStart || pointer.modifiers.testFlag(Qt::AltModifier);
-    return m_snapper.offsetOf(subject, pointer.pixel, Snapper::Fine, isSuspended);
+    return m_snapper.offsetOf(subject, pointer.pixel, pointer.kind, isSuspended);
 }
 
 } // namespace pagehost

@@ -5,6 +5,7 @@
 #include <pagehost/commands.h>
 #include <pagehost/objectframe.h>
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
 
 #include <host/geometry.h>
@@ -42,6 +43,13 @@ QVector<CBaseObject *> framedObjects(const Page &page)
         if (!object->isLocked() && object->canDo(OperationMove))
             objects.append(object);
     return objects.size() > 1 ? objects : QVector<CBaseObject *>();
+}
+
+HandleLayout layoutOfFrame(const QVector<CBaseObject *> &objects)
+{
+    const CBaseObject *any = objects.first();
+    const auto *scene = dynamic_cast<const PageScene *>(any->scene());
+    return {boundsOf(objects), any->getCurZoomRate(), scene && scene->hasLargeHandles()};
 }
 
 FrameDrag::FrameDrag(const QVector<CBaseObject *> &objects, CObjAction::ACT_Def handle, const QPointF &press)

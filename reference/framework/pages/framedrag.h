@@ -9,6 +9,7 @@
 #include <QtCore/QVector>
 
 class CBaseObject;
+class HandleLayout;
 
 namespace pagehost {
 
@@ -16,6 +17,8 @@ class Page;
 
 /// The selected objects that one frame scales and turns; empty unless there are several.
 QVector<CBaseObject *> framedObjects(const Page &page);
+/// Of the frame around objects (at least one), in scene coordinates.
+HandleLayout layoutOfFrame(const QVector<CBaseObject *> &objects);
 
 /// One drag of a handle of the frame around several objects. Every step starts from the places at the press.
 class FrameDrag

@@ -10,8 +10,6 @@
 #include <host/handlelayout.h>
 #include <pages/snapper.h>
 
-#include <QtCore/QLineF>
-
 #include <algorithm>
 #include <cmath>
 
@@ -19,8 +17,6 @@ namespace pagehost {
 
 namespace {
 
-/// A pointer that trembles by less than this while it clicks is not led elsewhere.
-constexpr double dragPixels = 3;
 constexpr double quarter = 90;
 /// Objects turned by less than this beside a quarter stand upright, degrees.
 constexpr double uprightTolerance = 1e-6;
@@ -86,16 +82,11 @@ GripCourse::GripCourse(const Grip &grip, const QPointF &press, const QVector<CBa
         takeCorners();
 }
 
-/// The point that is nearest to the press.
 void GripCourse::takePoint()
 {
     const QVector<ControlPointPlace> places = controlPointPlaces(*m_grip.object);
-    for (int i = 0; i < places.size(); ++i) {
-        const double distance = QLineF(places[i].centre, m_press).length();
-        if (m_point < 0 || distance < QLineF(places[m_point].centre, m_press).length())
-            m_point = i;
-    }
-    if (m_point < 0)
+    m_point = m_grip.point;
+    if (m_point < 0 || m_point >= places.size())
         return;
     const ControlPointPlace &place = places[m_point];
     m_pointStart = {{place.centre, QSizeF(0, 0)}, place.movesAcross ? NearPart : 0, place.movesDown ? NearPart : 0};
@@ -127,23 +118,28 @@ bool GripCourse::isResize() const
            HandleLayout::isResize(m_grip.action);
 }
 
-bool GripCourse::isDragAt(const QPointF &scenePos) const
+/// Whether the grip can be led elsewhere than the pointer.
+bool GripCourse::canDrag() const
 {
     if (m_grip.kind == Grip::FrameHandle)
         return true;
     if (m_grip.kind == Grip::ControlPoint)
         return m_point >= 0;
-    const GripDrag *drag = GripDrag::running(*m_grip.object);
-    return drag && drag->isDragAt(scenePos);
+    return GripDrag::running(*m_grip.object) != nullptr;
 }
 
 QPointF GripCourse::lead(const DragPointer &pointer)
 {
     m_subject.reset();
     const QPointF away = pointer.pos - m_press;
-    m_isDrag = m_isDrag || std::hypot(away.x(), away.y()) >= dragPixels * pointer.pixel;
-    if (!m_isDrag || !isDragAt(pointer.pos))
-        return pointer.pos;
+    m_isDrag = m_isDrag || std::hypot(away.x(), away.y()) >= dragStart(pointer.kind) * pointer.pixel;
+    if (!m_isDrag)
+        return m_press;
+    return canDrag() ? leadDrag(pointer) : pointer.pos;
+}
+
+QPointF GripCourse::leadDrag(const DragPointer &pointer)
+{
     if (m_grip.kind == Grip::Body)
         return leadBody(pointer);
     if (m_grip.kind == Grip::ControlPoint)
@@ -218,8 +214,7 @@ std::optional<SnapSubject> GripCourse::cornerSubject(const QPointF &corner) cons
 QPointF GripCourse::snapOffset(const SnapSubject &subject, const DragPointer &pointer)
 {
     m_subject = subject;
-    return m_snapper.offsetOf(subject, pointer.pixel, pointer.isFinger ? Snapper::Finger : Snapper::Fine,
-                              pointer.modifiers.testFlag(Qt::AltModifier));
+    return m_snapper.offsetOf(subject, pointer.pixel, pointer.kind, pointer.modifiers.testFlag(Qt::AltModifier));
 }
 
 void GripCourse::showGuides()

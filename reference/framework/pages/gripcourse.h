@@ -20,7 +20,7 @@ struct DragPointer
     QPointF pos; ///< scene coordinates
     Qt::KeyboardModifiers modifiers;
     double pixel = 1; ///< a pixel of the view, scene units
-    bool isFinger = false;
+    Pointer kind = Pointer::Mouse;
 };
 
 /// Leads a drag of a grip: the objects get the mouse where the modifiers and what they snap to put it.
@@ -30,7 +30,8 @@ public:
     /// Of a press that has begun the drag of the objects.
     GripCourse(const Grip &grip, const QPointF &press, const QVector<CBaseObject *> &moving, Snapper &snapper);
 
-    /// The place that the object gets, scene coordinates.
+    /// The place that the object gets, scene coordinates; that of the press until the pointer has moved far enough
+    /// to mean a drag.
     QPointF lead(const DragPointer &pointer);
     /// The object has got it: shows guides where things lie now.
     void showGuides();
@@ -40,10 +41,11 @@ public:
     EndDrag *endDrag() const { return m_endDrag.get(); }
 
 private:
+    QPointF leadDrag(const DragPointer &pointer);
     QPointF leadBody(const DragPointer &pointer);
     QPointF leadCorner(const DragPointer &pointer);
     QPointF proportional(const QPointF &way) const;
-    bool isDragAt(const QPointF &scenePos) const;
+    bool canDrag() const;
     bool isResize() const;
     void takeCorners();
     void takePoint();

@@ -6,29 +6,55 @@
 #include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
 
+#include <host/controlpointplaces.h>
 #include <host/geometry.h>
-#include <host/handlelayout.h>
+#include <host/shownhandles.h>
 #include <pages/framedrag.h>
 
+#include <QtCore/QLineF>
+
+#include <algorithm>
 #include <cmath>
 
 namespace pagehost {
 
 namespace {
 
-/// Distance by which fingers miss a control point.
-constexpr double nearMissPixels = 8;
+/// Objects that don't tell of their control points answer this near to one, about; the rest is searched, pixels.
+constexpr double ownReachPixels = 4;
 constexpr int probeDirections = 8;
 constexpr int probeRings = 2;
 /// Above this number of selected objects only exact hits count: searching around each would slow down hovering.
 constexpr int mostProbedObjects = 16;
+/// Distances that differ by less are equal, pixels.
+constexpr double tie = 1e-6;
+constexpr int rankOfPoints = 0;
+
+/// A grip within the reach of the pointer.
+struct Candidate
+{
+    Grip grip;
+    double distance = 0; ///< pixels
+    int rank = 0;        ///< of equally near ones, the lower rank is taken
+};
+
+/// The nearest candidate so far.
+void take(Candidate &best, const Candidate &other)
+{
+    if (!other.grip.object)
+        return;
+    const bool isEqual = std::abs(other.distance - best.distance) < tie;
+    const bool isBetter = isEqual ? other.rank < best.rank : other.distance < best.distance;
+    if (!best.grip.object || isBetter)
+        best = other;
+}
 
 Grip askObject(CBaseObject *object, const QPointF &scenePos)
 {
     CObjAction::ACT_Def action = CObjAction::ACT_None;
     if (object->isLocked() || !object->CheckHitTestHandlers(scenePos, action))
         return {};
-    return {action == CObjAction::ACT_None ? Grip::ControlPoint : Grip::Handle, object, action, {}};
+    return {action == CObjAction::ACT_None ? Grip::ControlPoint : Grip::Handle, object, action, {}, -1};
 }
 
 /// An object accepts a press on its control point only inside its client rectangle, but the point's margin extends
@@ -52,30 +78,76 @@ Grip controlPointGrip(CBaseObject *object, const QPointF &scenePos, const QPoint
     return grip;
 }
 
-QPointF probe(int ring, int direction, double zoom)
+QPointF probe(int ring, int direction, double radius)
 {
-    const double radius = nearMissPixels * (ring + 1) / probeRings / zoom;
     const double angle = direction * 2 * 3.14159265358979323846 / probeDirections;
-    return {radius * std::cos(angle), radius * std::sin(angle)};
+    return QPointF(std::cos(angle), std::sin(angle)) * (radius * (ring + 1) / probeRings);
 }
 
-Grip nearbyControlPoint(CBaseObject *object, const QPointF &scenePos)
+/// Of an object that doesn't tell of its points.
+Candidate searchedPoint(CBaseObject *object, const QPointF &scenePos, double reach)
 {
     const double zoom = object->getCurZoomRate();
+    const double farthest = reach - ownReachPixels;
     for (int ring = 0; ring < probeRings; ++ring) {
         for (int direction = 0; direction < probeDirections; ++direction) {
-            const Grip grip = controlPointGrip(object, scenePos, probe(ring, direction, zoom));
+            const QPointF aside = probe(ring, direction, farthest / zoom);
+            const Grip grip = controlPointGrip(object, scenePos, aside);
             if (grip.object)
-                return grip;
+                return {grip, std::hypot(aside.x(), aside.y()) * zoom, rankOfPoints};
         }
     }
     return {};
 }
 
-Grip exactGrip(CBaseObject *object, const QPointF &scenePos)
+/// The index of the nearest control point.
+int nearestPlace(const QVector<ControlPointPlace> &places, const QPointF &scenePos)
 {
-    const Grip grip = askObject(object, scenePos);
-    return grip.kind == Grip::ControlPoint ? controlPointGrip(object, scenePos, {}) : grip;
+    const auto isNearer = [&scenePos](const ControlPointPlace &one, const ControlPointPlace &other) {
+        return QLineF(one.centre, scenePos).length() < QLineF(other.centre, scenePos).length();
+    };
+    return int(std::min_element(places.begin(), places.end(), isNearer) - places.begin());
+}
+
+/// The point is pressed in its middle, where the object takes no other.
+Candidate toldPoint(CBaseObject *object, const QPointF &scenePos, const ControlPointPlace &place, int index)
+{
+    const QPointF offset = place.press + offsetIntoObject(object, place.press) - scenePos;
+    const double distance = QLineF(place.centre, scenePos).length() * object->getCurZoomRate();
+    return {{Grip::ControlPoint, object, CObjAction::ACT_None, offset, index}, distance, rankOfPoints};
+}
+
+/// `reach` in pixels; 0 for what the object itself takes.
+Candidate pointCandidate(CBaseObject *object, const QPointF &scenePos, double reach)
+{
+    if (object->isLocked())
+        return {};
+    const bool isExact = askObject(object, scenePos).kind == Grip::ControlPoint;
+    const double aside = reach / object->getCurZoomRate();
+    const QRectF around = object->sceneBoundingRect().adjusted(-aside, -aside, aside, aside);
+    if (!isExact && (reach <= 0 || !around.contains(scenePos)))
+        return {};
+    const QVector<ControlPointPlace> places = controlPointPlaces(*object);
+    if (places.isEmpty() && isExact)
+        return {controlPointGrip(object, scenePos, {}), 0, rankOfPoints};
+    if (places.isEmpty())
+        return searchedPoint(object, scenePos, reach);
+    const int index = nearestPlace(places, scenePos);
+    const Candidate point = toldPoint(object, scenePos, places.at(index), index);
+    // An object that has just been mirrored may still answer for where the point was.
+    const bool isItsOwn = isExact && askObject(object, places.at(index).press).kind == Grip::ControlPoint;
+    return isItsOwn || point.distance <= reach ? point : Candidate();
+}
+
+Candidate handleCandidate(CBaseObject *object, const QPointF &scenePos, Pointer pointer)
+{
+    if (object->isLocked())
+        return {};
+    const HandleLayout::Hit hit =
+        layoutOf(*object).hit(object->mapFromScene(scenePos), shownHandles(*object), hitSize(pointer));
+    if (hit.handle == CObjAction::ACT_None)
+        return {};
+    return {{Grip::Handle, object, hit.handle, {}, -1}, hit.distance, HandleLayout::rank(hit.handle)};
 }
 
 /// The objects there that are not locked, the topmost first: clicks pass through the others.
@@ -99,14 +171,31 @@ CBaseObject *selectedAround(const QVector<CBaseObject *> &selected, const QPoint
     return nullptr;
 }
 
-Grip handleOfFrame(const Page &page, const QPointF &scenePos)
+Candidate frameCandidate(const Page &page, const QPointF &scenePos, Pointer pointer)
 {
     const QVector<CBaseObject *> framed = framedObjects(page);
     if (framed.isEmpty())
         return {};
-    const HandleLayout layout(boundsOf(framed), framed.last()->getCurZoomRate());
-    const CObjAction::ACT_Def handle = layout.hit(scenePos, frameHandles());
-    return handle == CObjAction::ACT_None ? Grip() : Grip{Grip::FrameHandle, framed.last(), handle, {}};
+    const HandleLayout layout = layoutOfFrame(framed);
+    const HandleLayout::Hit hit = layout.hit(scenePos, frameHandles(layout), hitSize(pointer));
+    if (hit.handle == CObjAction::ACT_None)
+        return {};
+    return {{Grip::FrameHandle, framed.last(), hit.handle, {}, -1}, hit.distance, HandleLayout::rank(hit.handle)};
+}
+
+/// The topmost one of the equally near grips of the selected objects.
+Candidate nearestGrip(const Page &page, const QPointF &scenePos, Pointer pointer)
+{
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    const double reach = selected.size() <= mostProbedObjects ? hitSize(pointer) / 2 : 0;
+    Candidate best;
+    for (auto object = selected.rbegin(); object != selected.rend(); ++object)
+        take(best, pointCandidate(*object, scenePos, reach));
+    if (selected.size() == 1)
+        take(best, handleCandidate(selected.first(), scenePos, pointer));
+    else
+        take(best, frameCandidate(page, scenePos, pointer));
+    return best;
 }
 
 QCursor resizeCursor(const Grip &grip)
@@ -122,28 +211,15 @@ QCursor resizeCursor(const Grip &grip)
 
 } // namespace
 
-Grip findGrip(const Page &page, const QPointF &scenePos)
+Grip findGrip(const Page &page, const QPointF &scenePos, Pointer pointer)
 {
-    const QVector<CBaseObject *> selected = page.selectedObjects();
-    for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
-        const Grip grip = exactGrip(*object, scenePos);
-        if (grip.object)
-            return grip;
-    }
-    const Grip frameGrip = handleOfFrame(page, scenePos);
-    if (frameGrip.object)
-        return frameGrip;
-    if (selected.size() <= mostProbedObjects) {
-        for (auto object = selected.rbegin(); object != selected.rend(); ++object) {
-            const Grip grip = nearbyControlPoint(*object, scenePos);
-            if (grip.object)
-                return grip;
-        }
-    }
+    const Candidate nearest = nearestGrip(page, scenePos, pointer);
+    if (nearest.grip.object)
+        return nearest.grip;
     CBaseObject *object = freeObjectsAt(page, scenePos).value(0);
     if (!object)
-        object = selectedAround(selected, scenePos);
-    return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}} : Grip();
+        object = selectedAround(page.selectedObjects(), scenePos);
+    return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}, -1} : Grip();
 }
 
 ObjectsBelow findBelow(const Page &page, const QPointF &scenePos)

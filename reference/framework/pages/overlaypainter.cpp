@@ -5,7 +5,8 @@
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
 
-#include <host/handlelayout.h>
+#include <host/controlpointplaces.h>
+#include <host/shownhandles.h>
 #include <pages/framedrag.h>
 
 #include <QtGui/QPainter>
@@ -18,16 +19,33 @@ namespace {
 constexpr double framePenPixels = 1.5;
 /// Objects may paint beyond their boxes.
 constexpr double oldPlaceReach = 16; ///< pixels
-constexpr double buttonPixels = 16;  ///< diameter of the rotation and mirror handles
+constexpr double cornerRadius = 2;
+/// Around a control point under the pointer, pixels.
+constexpr double haloPixels = 5;
+constexpr double pointPenPixels = 2;
+constexpr int haloAlpha = 80;
+const QColor pointColor(0xb4, 0x50, 0x0b);
 
-double sideOf(CObjAction::ACT_Def handle)
+QRectF around(const QPointF &center, const QSizeF &size)
 {
-    return HandleLayout::isResize(handle) ? HandleLayout::handlePixels : buttonPixels;
+    return {center - QPointF(size.width(), size.height()) / 2, size};
 }
 
-QRectF squareAround(const QPointF &center, double side)
+QRectF grown(const QRectF &rect, double aside)
 {
-    return {center - QPointF(side, side) / 2, QSizeF(side, side)};
+    return rect.adjusted(-aside, -aside, aside, aside);
+}
+
+/// Size of a handle, item units.
+QSizeF sizeOf(CObjAction::ACT_Def handle, const HandleLayout &layout)
+{
+    const HandleSizes &sizes = layout.sizes();
+    QSizeF pixels(sizes.corner, sizes.corner);
+    if (!HandleLayout::isResize(handle))
+        pixels = {sizes.round, sizes.round};
+    else if (HandleLayout::isSide(handle))
+        pixels = HandleLayout::side(handle).x() == 0 ? sizes.side : sizes.side.transposed();
+    return pixels * layout.fromPixels(1);
 }
 
 /// Draws in item coordinates; lengths are screen pixels converted to item units.
@@ -55,15 +73,36 @@ public:
         m_painter.setPen(m_pen);
         m_painter.setBrush(hovered ? m_accent : QColor(Qt::white));
         const QPointF center = m_layout.position(handle);
-        const QRectF place = squareAround(center, m_layout.fromPixels(sideOf(handle)));
+        const QRectF place = around(center, sizeOf(handle, m_layout));
         if (HandleLayout::isResize(handle)) {
-            m_painter.drawRect(place);
+            const double radius = HandleLayout::isSide(handle) ? qMin(place.width(), place.height()) / 2
+                                                               : m_layout.fromPixels(cornerRadius);
+            m_painter.drawRoundedRect(place, radius, radius);
             return;
         }
         if (handle == CObjAction::ACT_Rotate)
             m_painter.drawLine(QPointF(center.x(), m_layout.frame().top()), center);
         m_painter.drawEllipse(place);
         drawGlyph(handle, center, hovered ? QColor(Qt::white) : m_accent);
+    }
+
+    /// `center` in item coordinates.
+    void drawPoint(const QPointF &center, bool hovered)
+    {
+        const double side = m_layout.fromPixels(m_layout.sizes().point - pointPenPixels);
+        if (hovered) {
+            QColor halo = pointColor;
+            halo.setAlpha(haloAlpha);
+            m_painter.setPen(Qt::NoPen);
+            m_painter.setBrush(halo);
+            const double halfHalo = side / 2 + m_layout.fromPixels(haloPixels);
+            m_painter.drawEllipse(center, halfHalo, halfHalo);
+        }
+        QPen pen(pointColor, pointPenPixels);
+        pen.setCosmetic(true);
+        m_painter.setPen(pen);
+        m_painter.setBrush(hovered ? pointColor : QColor(Qt::white));
+        m_painter.drawEllipse(center, side / 2, side / 2);
     }
 
 private:
@@ -105,9 +144,15 @@ private:
     QPen m_pen;
 };
 
-HandleLayout layoutOf(const CBaseObject &object)
+/// Over those that the object draws, whose size follows its lines.
+void paintPoints(CBaseObject &object, HandlePainter &aids, const Grip &hovered)
 {
-    return {object.getClientRect(), object.getCurZoomRate()};
+    const QVector<ControlPointPlace> places = controlPointPlaces(object);
+    for (int i = 0; i < places.size(); ++i) {
+        const bool isHovered =
+            hovered.kind == Grip::ControlPoint && hovered.object == &object && hovered.point == i;
+        aids.drawPoint(object.mapFromScene(places.at(i).centre), isHovered);
+    }
 }
 
 void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &accent, const Grip &hovered,
@@ -119,17 +164,12 @@ void paintObjectOverlay(CBaseObject &object, QPainter &painter, const QColor &ac
     HandlePainter aids(painter, layout, accent);
     aids.drawFrame();
     if (withHandles) {
-        const QVector<CObjAction::ACT_Def> handles = offeredHandles(object);
+        const QVector<CObjAction::ACT_Def> handles = shownHandles(object);
         for (const CObjAction::ACT_Def handle : handles)
             aids.drawHandle(handle, hovered.object == &object && hovered.action == handle);
+        paintPoints(object, aids, hovered);
     }
     painter.restore();
-}
-
-/// Of the frame around several objects, in scene coordinates.
-HandleLayout layoutOfFrame(const QVector<CBaseObject *> &objects)
-{
-    return {boundsOf(objects), objects.first()->getCurZoomRate()};
 }
 
 void paintCommonFrame(const QVector<CBaseObject *> &objects, QPainter &painter, const QColor &accent,
@@ -138,7 +178,7 @@ void paintCommonFrame(const QVector<CBaseObject *> &objects, QPainter &painter, 
     const HandleLayout layout = layoutOfFrame(objects);
     HandlePainter aids(painter, layout, accent);
     aids.drawFrame();
-    const QVector<CObjAction::ACT_Def> handles = frameHandles();
+    const QVector<CObjAction::ACT_Def> handles = frameHandles(layout);
     for (const CObjAction::ACT_Def handle : handles)
         aids.drawHandle(handle, hovered.kind == Grip::FrameHandle && hovered.action == handle);
 }
@@ -148,7 +188,7 @@ QRectF handleBounds(const HandleLayout &layout, const QVector<CObjAction::ACT_De
 {
     QRectF bounds = layout.frame();
     for (const CObjAction::ACT_Def handle : handles)
-        bounds |= squareAround(layout.position(handle), layout.fromPixels(sideOf(handle)));
+        bounds |= around(layout.position(handle), sizeOf(handle, layout));
     return bounds;
 }
 
@@ -164,9 +204,9 @@ QRectF frameBoundsOf(CBaseObject &object, bool withHandles)
     QRectF bounds = object.mapRectToScene(layout.frame());
     if (!withHandles)
         return bounds;
-    const QVector<CObjAction::ACT_Def> handles = offeredHandles(object);
+    const QVector<CObjAction::ACT_Def> handles = shownHandles(object);
     for (const CObjAction::ACT_Def handle : handles)
-        bounds |= object.mapRectToScene(squareAround(layout.position(handle), layout.fromPixels(sideOf(handle))));
+        bounds |= object.mapRectToScene(around(layout.position(handle), sizeOf(handle, layout)));
     return bounds;
 }
 
@@ -227,6 +267,23 @@ QRectF overlayBounds(const Page &page)
     return framed.isEmpty() ? bounds : bounds.united(layoutOfFrame(framed).bounds());
 }
 
+bool isInFrame(const Page &page, const QPointF &scenePos, double reach)
+{
+    const QVector<CBaseObject *> selected = page.selectedObjects();
+    for (const CBaseObject *object : selected) {
+        const HandleLayout layout = layoutOf(*object);
+        if (grown(layout.frame(), layout.fromPixels(reach)).contains(object->mapFromScene(scenePos)))
+            return true;
+    }
+    const QVector<CBaseObject *> framed = framedObjects(page);
+    if (framed.isEmpty())
+        return false;
+    // Between the objects there is empty page.
+    const HandleLayout layout = layoutOfFrame(framed);
+    const double aside = layout.fromPixels(reach);
+    return grown(layout.frame(), aside).contains(scenePos) && !grown(layout.frame(), -aside).contains(scenePos);
+}
+
 QRectF frameBounds(const Page &page)
 {
     QRectF bounds;
@@ -234,7 +291,10 @@ QRectF frameBounds(const Page &page)
     for (CBaseObject *object : selected)
         bounds |= frameBoundsOf(*object, selected.size() == 1 && !object->isLocked());
     const QVector<CBaseObject *> framed = framedObjects(page);
-    return framed.isEmpty() ? bounds : bounds.united(handleBounds(layoutOfFrame(framed), frameHandles()));
+    if (framed.isEmpty())
+        return bounds;
+    const HandleLayout layout = layoutOfFrame(framed);
+    return bounds.united(handleBounds(layout, frameHandles(layout)));
 }
 
 } // namespace pagehost

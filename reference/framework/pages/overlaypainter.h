@@ -14,6 +14,9 @@ void paintOldPlace(const QVector<GeometrySnapshot> &start, QPainter &painter, bo
 QRectF oldPlaceBounds(const QVector<GeometrySnapshot> &start, double pixel);
 /// Area to repaint for paintOverlay(), scene coordinates.
 QRectF overlayBounds(const Page &page);
+/// Whether a place is in the frame of a selected object, or beside it or that of several by `reach` (pixels) at
+/// most.
+bool isInFrame(const Page &page, const QPointF &scenePos, double reach);
 /// Bounds of the frames and of the handles that are shown, scene coordinates.
 QRectF frameBounds(const Page &page);
 

@@ -8,8 +8,8 @@
 #include <pagehost/selection.h>
 
 #include <host/gripdrag.h>
-#include <host/handlelayout.h>
 #include <host/objectplace.h>
+#include <host/shownhandles.h>
 #include <host/undocapture.h>
 #include <pages/enddrag.h>
 #include <pages/eventcopy.h>
@@ -61,9 +61,25 @@ PageScene::PageScene(Page *page)
 
 PageScene::~PageScene() = default;
 
-Grip PageScene::gripAt(const QPointF &scenePos) const
+Grip PageScene::gripAt(const QPointF &scenePos, Pointer pointer) const
 {
-    return isEditable() ? findGrip(*m_page, scenePos) : Grip();
+    return isEditable() ? findGrip(*m_page, scenePos, pointer) : Grip();
+}
+
+bool PageScene::isNearFrame(const QPointF &scenePos, Pointer pointer) const
+{
+    return isInFrame(*m_page, scenePos, frameReach(pointer));
+}
+
+Pointer PageScene::pointerOf(Qt::MouseEventSource source) const
+{
+    return source == Qt::MouseEventNotSynthesized ? Pointer::Mouse : m_madeMouse;
+}
+
+void PageScene::setLargeHandles(bool large)
+{
+    m_hasLargeHandles = large;
+    updateOverlay();
 }
 
 bool PageScene::isEditable() const
@@ -181,7 +197,7 @@ void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     if (usesTool()) {
         if (event->button() == Qt::LeftButton)
-            pressTool(toolPointer(*event, pixel()));
+            pressTool(toolPointer(*event, pixel(), pointerOf(event->source())));
         event->accept();
         return;
     }
@@ -189,7 +205,7 @@ void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
         QGraphicsScene::mousePressEvent(event);
         return;
     }
-    Grip grip = gripAt(event->scenePos());
+    Grip grip = gripAt(event->scenePos(), pointerOf(event->source()));
     if (grip.kind == Grip::Nothing) {
         event->ignore();
         return;
@@ -225,7 +241,10 @@ void PageScene::pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event)
         m_frameDrag = std::make_unique<FrameDrag>(framedObjects(*m_page), grip.action, m_pressPos);
     else if (grip.kind == Grip::ControlPoint)
         end = EndDrag::begin(m_page, grip.object, m_pressPos + grip.offset);
-    if (!m_frameDrag && !end)
+    else if (grip.kind == Grip::Handle)
+        // To the object, the same place may be its body, or one of its control points.
+        GripDrag::begin(*grip.object, grip.action, *event);
+    if (!m_frameDrag && !end && grip.kind != Grip::Handle)
         deliver(event, m_drag.offset);
     if (isDragging()) {
         m_course = std::make_unique<GripCourse>(grip, m_pressPos + grip.offset, draggedObjects(), *m_snapper);
@@ -274,10 +293,10 @@ void PageScene::deliver(QGraphicsSceneMouseEvent *event, const QPointF &offset) 
 }
 
 /// Hands a move or the release of a drag to the object, where the drag's course leads it.
-void PageScene::lead(QGraphicsSceneMouseEvent *event)
+void PageScene::lead(QGraphicsSceneMouseEvent *event, Pointer kind)
 {
-    const bool isFinger = event->source() != Qt::MouseEventNotSynthesized;
-    const DragPointer pointer{event->scenePos() + m_drag.offset, event->modifiers(), pixel(), isFinger};
+    const DragPointer pointer{event->scenePos() + m_drag.offset, event->modifiers(), pixel(), kind};
+    m_dragPointer = kind;
     m_lastPos = event->scenePos();
     m_dragModifiers = event->modifiers();
     const QPointF led = m_course->lead(pointer);
@@ -286,7 +305,7 @@ void PageScene::lead(QGraphicsSceneMouseEvent *event)
     else if (EndDrag *end = m_course->endDrag())
         end->moveTo(pointer.pos, led, pixel());
     else
-        deliver(event, led - event->scenePos());
+        deliver(event, led == pointer.pos ? m_drag.offset : led - event->scenePos());
     // The object may have left the page.
     if (m_course)
         m_course->showGuides();
@@ -295,13 +314,13 @@ void PageScene::lead(QGraphicsSceneMouseEvent *event)
 
 void PageScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (moveTool(toolPointer(*event, pixel()))) {
+    if (moveTool(toolPointer(*event, pixel(), pointerOf(event->source())))) {
         event->accept();
     } else if (isDragging() && event->buttons()) {
-        lead(event);
+        lead(event, pointerOf(event->source()));
         event->accept();
     } else if (!event->buttons()) {
-        setHover(gripAt(event->scenePos()));
+        setHover(gripAt(event->scenePos(), pointerOf(event->source())));
     }
     if (QWidget *viewport = event->widget())
         viewport->setCursor(cursorAt(event->scenePos()));
@@ -311,7 +330,7 @@ void PageScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     if (usesTool()) {
         if (event->button() == Qt::LeftButton)
-            releaseTool(toolPointer(*event, pixel()));
+            releaseTool(toolPointer(*event, pixel(), pointerOf(event->source())));
         event->accept();
         return;
     }
@@ -331,7 +350,7 @@ void PageScene::releaseGrip(QGraphicsSceneMouseEvent *event)
     }
     if (takeBelow())
         return;
-    lead(event);
+    lead(event, pointerOf(event->source()));
     if (m_frameDrag)
         m_frameDrag->finish();
     if (m_course && m_course->endDrag())
@@ -390,7 +409,7 @@ bool PageScene::beginPointDrag(CBaseObject *object, const QPointF &scenePos)
     press.setButton(Qt::LeftButton);
     press.setButtons(Qt::LeftButton);
     press.setScenePos(scenePos);
-    pressGrip({Grip::ControlPoint, object, CObjAction::ACT_None, {}}, &press);
+    pressGrip({Grip::ControlPoint, object, CObjAction::ACT_None, {}, -1}, &press);
     return true;
 }
 
@@ -422,7 +441,9 @@ void PageScene::endPointDrag()
 
 void PageScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
-    const Grip grip = usesTool() || event->button() != Qt::LeftButton ? Grip() : gripAt(event->scenePos());
+    const Grip grip = usesTool() || event->button() != Qt::LeftButton
+                          ? Grip()
+                          : gripAt(event->scenePos(), pointerOf(event->source()));
     if (!grip.object || grip.kind == Grip::FrameHandle) {
         event->ignore();
         return;
@@ -483,7 +504,7 @@ void PageScene::leadAgain(Qt::KeyboardModifiers modifiers)
     move.setButtonDownScenePos(Qt::LeftButton, m_pressPos);
     move.setButtons(Qt::LeftButton);
     move.setModifiers(modifiers);
-    lead(&move);
+    lead(&move, m_dragPointer);
 }
 
 bool PageScene::useToolKey(QKeyEvent *event)
@@ -567,7 +588,8 @@ void PageScene::forget(CBaseObject *object)
 
 void PageScene::setHover(const Grip &grip)
 {
-    const bool same = grip.object == m_hover.object && grip.kind == m_hover.kind && grip.action == m_hover.action;
+    const bool same = grip.object == m_hover.object && grip.kind == m_hover.kind && grip.action == m_hover.action &&
+                      grip.point == m_hover.point;
     m_hover = grip;
     if (!same)
         updateOverlay();
@@ -621,8 +643,7 @@ QRectF PageScene::frameBounds() const
 
 QPointF PageScene::handlePlace(CBaseObject *object, CObjAction::ACT_Def handle)
 {
-    const HandleLayout layout(object->getClientRect(), object->getCurZoomRate());
-    return object->mapToScene(layout.position(handle));
+    return object->mapToScene(layoutOf(*object).position(handle));
 }
 
 void PageScene::repaintOverlay()

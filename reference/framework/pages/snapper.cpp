@@ -12,9 +12,9 @@ constexpr double letGoPixels = 10;
 constexpr double fingerCatchPixels = 10;
 constexpr double fingerLetGoPixels = 14;
 
-SnapReach reachOf(Snapper::Pointer pointer, double pixel)
+SnapReach reachOf(Pointer pointer, double pixel)
 {
-    if (pointer == Snapper::Finger)
+    if (pointer == Pointer::Finger)
         return {fingerCatchPixels * pixel, fingerLetGoPixels * pixel, advantagePixels * pixel};
     return {catchPixels * pixel, letGoPixels * pixel, advantagePixels * pixel};
 }

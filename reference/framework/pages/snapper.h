@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/pointer.h>
+
 #include <pages/snapcandidates.h>
 #include <pages/snapping.h>
 
@@ -9,8 +11,6 @@ namespace pagehost {
 class Snapper
 {
 public:
-    enum Pointer { Fine, Finger };
-
     explicit Snapper(const Page *page)
         : m_page(page)
     {

@@ -95,12 +95,13 @@ void ToolInput::waitForStillness(const ToolPointer &pointer)
         m_still.start(m_tool->stillTime());
 }
 
-ToolPointer toolPointer(const QGraphicsSceneMouseEvent &event, double pixel)
+ToolPointer toolPointer(const QGraphicsSceneMouseEvent &event, double pixel, Pointer kind)
 {
     ToolPointer pointer;
     pointer.pos = event.scenePos();
     pointer.pixel = pixel;
     pointer.modifiers = event.modifiers();
+    pointer.kind = kind;
     return pointer;
 }
 

@@ -39,6 +39,6 @@ private:
 };
 
 /// `pixel` is a pixel of the view, scene units.
-ToolPointer toolPointer(const QGraphicsSceneMouseEvent &event, double pixel);
+ToolPointer toolPointer(const QGraphicsSceneMouseEvent &event, double pixel, Pointer kind);
 
 } // namespace pagehost

@@ -153,7 +153,7 @@ void TestStyleBar::barStandsAboveTheSelectedShape()
 {
     StyledShape t;
     QVERIFY(t.isShown());
-    QCOMPARE(t.place().bottom(), 300.0 - 6 - 26 - 8 - 12);
+    QCOMPARE(t.place().bottom(), 300.0 - 6 - 28 - 10 - 12);
     QCOMPARE(t.place().height(), 40.0);
     QVERIFY(qAbs(t.place().center().x() - 600) <= roundingPixels);
 }

@@ -344,7 +344,7 @@ void TestLessonRecorder::changesWhilePausedHappenAtResume()
     classroom.recorder.pause();
     for (int i = 0; i < 5; ++i) {
         classroom.now += 1000;
-        dragControlPoint(classroom, object, QPointF(3, 2));
+        dragControlPoint(classroom, object, QPointF(4, 3));
         pagehost::moveObjects({object}, QPointF(10, 0));
         Classroom::letTimersRun();
     }

@@ -504,8 +504,8 @@ void TestEditing::cursorFollowsHandleAndRotation_data()
     QTest::newRow("corner turned by an eighth") << 45.0 << corner << int(Qt::SizeVerCursor);
     QTest::newRow("edge") << 0.0 << right << int(Qt::SizeHorCursor);
     QTest::newRow("edge turned by a quarter") << 90.0 << right << int(Qt::SizeVerCursor);
-    QTest::newRow("rotation") << 0.0 << QPointF(100, -32) << int(Qt::OpenHandCursor);
-    QTest::newRow("mirror") << 0.0 << QPointF(232, 50) << int(Qt::PointingHandCursor);
+    QTest::newRow("rotation") << 0.0 << QPointF(100, -34) << int(Qt::OpenHandCursor);
+    QTest::newRow("mirror") << 0.0 << QPointF(234, 50) << int(Qt::PointingHandCursor);
     QTest::newRow("body") << 0.0 << QPointF(150, 50) << int(Qt::SizeAllCursor);
     QTest::newRow("control point") << 0.0 << QPointF(50, 30) << int(Qt::CrossCursor);
     QTest::newRow("empty page") << 0.0 << QPointF(400, 300) << int(Qt::ArrowCursor);

@@ -4,6 +4,7 @@
 #include <framework/framework_global.h>
 
 #include <pagehost/geometrysnapshot.h>
+#include <pagehost/pointer.h>
 
 #include <QtCore/QPointF>
 #include <QtCore/QPointer>
@@ -42,18 +43,20 @@ struct Grip
     Kind kind = Nothing;                               ///< sort of the grip
     CBaseObject *object = nullptr;                     ///< null for empty page
     CObjAction::ACT_Def action = CObjAction::ACT_None; ///< of a handle
-    /// Offset from the point asked for to the one that the object responds to, scene units: fingers miss slightly.
+    /// Offset from the point asked for to the one that the object responds to, scene units: pointers miss slightly.
     QPointF offset;
+    int point = -1; ///< index of the control point in ControlPoints; below 0 where the object doesn't tell of it
 };
 
 /// The scene of a page: brings mouse and keys to the objects and draws selection frames and handles.
 ///
-/// A press goes to handles and control points of the selected objects first, so that a near miss of one does not
-/// deselect; then to the object under the point; a press on empty page is left to the view, whose rubber band it
-/// starts. Shift adds to the selection and takes from it. So does Ctrl, unless the selected object lies above or
-/// below others: then a click takes the one below it, a drag copies the selected ones. A press on a member takes
-/// its group, a double click enters the group. While a tool is set, it gets the mouse. Views show hover and cursors
-/// once mouse tracking is on for their viewport.
+/// A press goes to handles and control points of the selected objects first: to the one with the nearest centre
+/// within hitSize() of the device that points, so that a near miss of one does not deselect; then to the object
+/// under the point; a press on empty page is left to the view, whose rubber band it starts. Shift adds to the
+/// selection and takes from it. So does Ctrl, unless the selected object lies above or below others: then a click
+/// takes the one below it, a drag copies the selected ones. A press on a member takes its group, a double click
+/// enters the group. While a tool is set, it gets the mouse. Views show hover and cursors once mouse tracking is on
+/// for their viewport.
 class FRAMEWORK_EXPORT PageScene : public QGraphicsScene
 {
     Q_OBJECT
@@ -66,8 +69,18 @@ public:
     /// The page that is shown.
     Page *page() const { return m_page; }
 
-    /// The grip that a press at `scenePos` (scene coordinates) would take.
-    Grip gripAt(const QPointF &scenePos) const;
+    /// The grip that a press of `pointer` at `scenePos` (scene coordinates) would take.
+    Grip gripAt(const QPointF &scenePos, Pointer pointer = Pointer::Mouse) const;
+    /// Whether a press there, on no object, was meant for the frame of the selected objects.
+    bool isNearFrame(const QPointF &scenePos, Pointer pointer) const;
+    /// The device behind mouse events that have been made of others: a finger, unless the view says otherwise.
+    void setMadeMouse(Pointer pointer) { m_madeMouse = pointer; }
+    /// The device behind a mouse event from this source.
+    Pointer pointerOf(Qt::MouseEventSource source) const;
+    /// Draws handles as large as fingers need them.
+    void setLargeHandles(bool large);
+    /// See setLargeHandles().
+    bool hasLargeHandles() const { return m_hasLargeHandles; }
     /// The cursor that shows what a press at `scenePos` would do, for handles by their direction on screen, for
     /// control points, bodies, and the tool.
     QCursor cursorAt(const QPointF &scenePos) const;
@@ -203,7 +216,7 @@ private:
     double pixel() const;
     void pressGrip(const Grip &grip, QGraphicsSceneMouseEvent *event);
     void deliver(QGraphicsSceneMouseEvent *event, const QPointF &offset) const;
-    void lead(QGraphicsSceneMouseEvent *event);
+    void lead(QGraphicsSceneMouseEvent *event, Pointer pointer);
     void endDrag();
     void releaseGrip(QGraphicsSceneMouseEvent *event);
     void leadAgain(Qt::KeyboardModifiers modifiers);
@@ -239,6 +252,9 @@ private:
     std::unique_ptr<GripCourse> m_course;   ///< of the drag that is going on
     std::unique_ptr<FrameDrag> m_frameDrag; ///< of a FrameHandle
     Qt::KeyboardModifiers m_dragModifiers;
+    Pointer m_madeMouse = Pointer::Finger;
+    Pointer m_dragPointer = Pointer::Mouse;
+    bool m_hasLargeHandles = false;
     QTimer m_guideTimer;
     QVector<QPointer<CBaseObject>> m_selectedBefore; ///< before the last gesture
     GeometrySnapshot m_reshaped;                     ///< the object of a dragged control point, before the drag

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pagehost/pointer.h>
+
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
 #include <QtCore/QString>
@@ -42,6 +44,7 @@ struct ToolPointer
     double pixel = 1;                ///< a pixel of the view, scene units
     Qt::KeyboardModifiers modifiers; ///< held keys
     bool movesStart = false;         ///< a drag moves the place where it began along with the pointer
+    Pointer kind = Pointer::Mouse;   ///< the device
 };
 
 /// The page as tools see it. Changes show at once; those since the last commit() are one undo step.
