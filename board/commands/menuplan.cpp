@@ -101,6 +101,7 @@ MenuPlan viewPlan()
             separator(),
             Command::Grid,
             Command::Snapping,
+            Command::FingersDraw,
             Command::Animations,
             separator(),
             Command::Panel,

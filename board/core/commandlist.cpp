@@ -151,6 +151,7 @@ constexpr CommandFacts commands[] = {
     {Command::ZoomToSelection, Group::View, "zoomToSelection", "IDS_BOARD_ZOOM_SELECTION", "Ctrl+8"},
     {Command::Grid, Group::View, "grid", "IDS_BOARD_GRID", "G", {}, Keys::UnknownKey, true},
     {Command::Snapping, Group::View, "snapping", "IDS_BOARD_SNAPPING", "N", {}, Keys::UnknownKey, true},
+    {Command::FingersDraw, Group::View, "fingersDraw", "IDS_BOARD_FINGERS_DRAW", "", {}, Keys::UnknownKey, true},
     {Command::Animations, Group::View, "animations", "IDS_BOARD_ANIMATION", "F7", Icon::Animation, Keys::UnknownKey,
      true},
     {Command::DarkColors, Group::View, "darkColors", "IDS_BOARD_DARK", "", {}, Keys::UnknownKey, true},

@@ -112,6 +112,7 @@ enum class Command {
     ZoomToSelection,
     Grid,
     Snapping,
+    FingersDraw,
     Animations,
     DarkColors,
     Panel,

@@ -57,6 +57,7 @@ QVector<TextEntry> commandTexts()
         {"IDS_BOARD_ZOOM_SELECTION", QT_TRANSLATE_NOOP("board", "Zoom to the selection")},
         {"IDS_BOARD_GRID", QT_TRANSLATE_NOOP("board", "Grid")},
         {"IDS_BOARD_SNAPPING", QT_TRANSLATE_NOOP("board", "Snapping")},
+        {"IDS_BOARD_FINGERS_DRAW", QT_TRANSLATE_NOOP("board", "Fingers draw, too")},
         {"IDS_BOARD_PANEL", QT_TRANSLATE_NOOP("board", "Panel")},
         {"IDS_BOARD_NEXT_PART", QT_TRANSLATE_NOOP("board", "Next part of the window")},
         {"IDS_BOARD_PREVIOUS_PART", QT_TRANSLATE_NOOP("board", "Previous part of the window")},

@@ -17,6 +17,7 @@ const QString largeToolsKey = QStringLiteral("window/largeTools");
 const QString largeToolsOfferedKey = QStringLiteral("window/largeToolsOffered");
 const QString darkKey = QStringLiteral("window/dark");
 const QString snappingKey = QStringLiteral("window/snapping");
+const QString fingersDrawKey = QStringLiteral("window/fingersDraw");
 const QString gridKey = QStringLiteral("window/grid");
 /// Title bar and borders, which the window manager adds, logical pixels.
 constexpr QSize frameRoom(16, 40);
@@ -105,6 +106,16 @@ bool remembersSnapping()
 void rememberSnapping(bool on)
 {
     QSettings().setValue(snappingKey, on);
+}
+
+bool remembersFingersDraw()
+{
+    return QSettings().value(fingersDrawKey).toBool();
+}
+
+void rememberFingersDraw(bool draw)
+{
+    QSettings().setValue(fingersDrawKey, draw);
 }
 
 bool remembersGrid()

@@ -34,6 +34,10 @@ void rememberDarkColors(bool dark);
 bool remembersSnapping();
 void rememberSnapping(bool on);
 
+/// Whether fingers draw where there is a pen, too; at first they don't.
+bool remembersFingersDraw();
+void rememberFingersDraw(bool draw);
+
 /// Whether pages show a grid; at first they don't.
 bool remembersGrid();
 void rememberGrid(bool shown);

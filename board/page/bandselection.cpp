@@ -4,7 +4,7 @@
 
 #include <framework/cbaseobject.h>
 
-#include <QtWidgets/QApplication>
+#include <QtCore/QLineF>
 #include <QtWidgets/QGraphicsView>
 
 namespace board {
@@ -15,10 +15,11 @@ BandSelection::BandSelection(QGraphicsView *view)
 {
 }
 
-void BandSelection::begin(pagehost::Page *page, const QPoint &pos, bool extend)
+void BandSelection::begin(pagehost::Page *page, const QPoint &pos, bool extend, double least)
 {
     m_page = page;
     m_start = pos;
+    m_least = least;
     m_before = page->selectedObjects();
     m_kept = extend ? m_before : QVector<CBaseObject *>();
     m_band.hide();
@@ -28,7 +29,7 @@ void BandSelection::moveTo(const QPoint &pos)
 {
     if (!isActive())
         return;
-    if (!isBand() && (pos - m_start).manhattanLength() < QApplication::startDragDistance())
+    if (!isBand() && QLineF(m_start, pos).length() < m_least)
         return;
     m_band.setGeometry(QRect(m_start, pos).normalized());
     m_band.show();

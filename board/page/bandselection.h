@@ -20,8 +20,9 @@ public:
     /// The view must outlive the band.
     explicit BandSelection(QGraphicsView *view);
 
-    /// A press at `pos` (viewport coordinates). With `extend` what is selected now stays selected.
-    void begin(pagehost::Page *page, const QPoint &pos, bool extend);
+    /// A press at `pos` (viewport coordinates). With `extend` what is selected now stays selected. A pointer that
+    /// has not moved by `least` (pixels) clicks.
+    void begin(pagehost::Page *page, const QPoint &pos, bool extend, double least);
     void moveTo(const QPoint &pos);
     void finish();
     /// Brings the selection back that was there at the press.
@@ -37,6 +38,7 @@ private:
     QRubberBand m_band;
     pagehost::Page *m_page = nullptr;
     QPoint m_start; ///< viewport coordinates
+    double m_least = 0;
     QVector<CBaseObject *> m_before;
     QVector<CBaseObject *> m_kept;
 };

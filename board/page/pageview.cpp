@@ -13,8 +13,10 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QMimeData>
+#include <QtGui/QContextMenuEvent>
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QTouchEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
@@ -36,8 +38,6 @@ constexpr int sideMargin = 16;
 constexpr int shelfMargin = 8;
 /// A view in a window of 720.
 constexpr int lowHeight = 680;
-/// A click this far beside a selected object (logical pixels) was meant for it and does not deselect it.
-constexpr int nearMiss = 6;
 /// Zoom by one notch of the wheel.
 constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
@@ -61,6 +61,7 @@ PageView::PageView(QWidget *parent)
     , m_band(this)
     , m_keys(this)
     , m_textMark(this)
+    , m_touch(viewport())
     , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
@@ -73,6 +74,11 @@ PageView::PageView(QWidget *parent)
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     connect(m_writing, &LabelWriting::ended, this, &PageView::writingEnded);
+    connect(&m_touch, &TouchInput::withdrawn, this, &PageView::takeBack);
+    connect(&m_touch, &TouchInput::held, this, &PageView::hold);
+    connect(&m_touch, &TouchInput::pulled, this, &PageView::pull);
+    connect(&m_touch, &TouchInput::restedLong, this, &PageView::openMenu);
+    connect(&m_touch, &TouchInput::penLeft, this, [this] { setPenErases(false); });
 }
 
 void PageView::setPage(pagehost::Page *page)
@@ -106,6 +112,7 @@ void PageView::followPage()
     // The scene leaves out what it takes to be covered.
     connect(m_page, &pagehost::Page::backgroundChanged, viewport(), QOverload<>::of(&QWidget::update));
     connect(m_page->scene(), &pagehost::PageScene::copyDropped, this, &PageView::copyDropped);
+    m_page->scene()->setLargeHandles(m_hasLargeGrips);
     connect(m_page, &pagehost::Page::sizeChanged, this, [this] { m_fitted ? showFitted() : updateSceneArea(); });
     m_fitted ? showFitted() : updateSceneArea();
     if (m_page->document())
@@ -123,6 +130,13 @@ void PageView::setBare(bool bare)
 {
     m_isBare = bare;
     m_fitted ? showFitted() : viewport()->update();
+}
+
+void PageView::setLargeGrips(bool large)
+{
+    m_hasLargeGrips = large;
+    if (m_page)
+        m_page->scene()->setLargeHandles(large);
 }
 
 void PageView::setEmptyHint(const EmptyHint &hint)
@@ -145,14 +159,25 @@ void PageView::setZoom(double rate, const QPoint &anchor)
 {
     if (!m_page)
         return;
+    beginZooming();
+    const QPointF fixedPoint = mapToScene(anchor);
+    applyZoom(qBound(smallestZoom, rate, largestZoom));
+    bringTo(fixedPoint, anchor);
+}
+
+void PageView::beginZooming()
+{
     m_fitted = false;
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    const QPointF fixedPoint = mapToScene(anchor);
-    applyZoom(qBound(smallestZoom, rate, largestZoom));
-    const QPointF moved = viewportTransform().map(fixedPoint);
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x() - anchor.x()));
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y() - anchor.y()));
+}
+
+/// Scrolls a place to `pos`, viewport coordinates.
+void PageView::bringTo(const QPointF &scenePos, const QPointF &pos)
+{
+    const QPointF moved = viewportTransform().map(scenePos);
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x() - pos.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y() - pos.y()));
 }
 
 void PageView::setZoom(double rate)
@@ -222,6 +247,44 @@ void PageView::settle()
     m_page->scene()->cancelDrag();
 }
 
+/// A finger has begun what it was not meant to.
+void PageView::takeBack()
+{
+    m_doubleClicked.reset();
+    m_panning = false;
+    m_band.cancel();
+    if (m_page)
+        m_page->scene()->cancelDrag();
+}
+
+void PageView::hold(const QPointF &pos)
+{
+    m_heldPlace = viewportTransform().inverted().map(pos);
+    m_heldZoom = m_zoom;
+}
+
+/// Everything is reckoned from where the fingers took hold, so that rounding does not add up.
+void PageView::pull(const QPointF &pos, double factor)
+{
+    if (!m_page)
+        return;
+    const double rate = qBound(smallestZoom, m_heldZoom * factor, largestZoom);
+    if (rate != m_zoom) {
+        beginZooming();
+        applyZoom(rate);
+    }
+    bringTo(m_heldPlace, pos);
+}
+
+void PageView::openMenu(const QPoint &pos)
+{
+    if (!m_page || m_page->scene()->tool())
+        return;
+    m_touch.drop();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, pos, viewport()->mapToGlobal(pos));
+    QApplication::sendEvent(viewport(), &event);
+}
+
 void PageView::cancel()
 {
     if (!m_page)
@@ -267,7 +330,8 @@ void PageView::mousePressEvent(QMouseEvent *event)
     if (event->isAccepted() || event->button() != Qt::LeftButton || !isEditable())
         return;
     event->accept();
-    m_band.begin(m_page, event->pos(), event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
+    const bool extend = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+    m_band.begin(m_page, event->pos(), extend, pagehost::dragStart(pointerOf(event)));
 }
 
 void PageView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -349,22 +413,15 @@ void PageView::showHint(const QPoint &pointer)
 void PageView::endBand(const QMouseEvent *event)
 {
     const bool extend = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
-    if (!m_band.isBand() && !extend && !isNearSelection(event->pos()))
+    const bool isNear = m_page->scene()->isNearFrame(mapToScene(event->pos()), pointerOf(event));
+    if (!m_band.isBand() && !extend && !isNear)
         m_page->select({});
     m_band.finish();
 }
 
-bool PageView::isNearSelection(const QPoint &pos) const
+pagehost::Pointer PageView::pointerOf(const QMouseEvent *event) const
 {
-    const QRect around(pos - QPoint(nearMiss, nearMiss), QSize(2 * nearMiss + 1, 2 * nearMiss + 1));
-    QPainterPath area;
-    area.addPolygon(mapToScene(around));
-    area.closeSubpath();
-    const QVector<CBaseObject *> selected = m_page->selectedObjects();
-    for (const CBaseObject *object : selected)
-        if (object->mapToScene(object->shape()).intersects(area))
-            return true;
-    return false;
+    return m_page ? m_page->scene()->pointerOf(event->source()) : pagehost::Pointer::Mouse;
 }
 
 void PageView::updateCursor(const QPoint &pos)
@@ -482,6 +539,19 @@ bool PageView::viewportEvent(QEvent *event)
     case QEvent::Leave:
         Q_EMIT pointerLeft();
         break;
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        useTouch(static_cast<QTouchEvent *>(event));
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        if (m_touch.isCopy(*static_cast<QMouseEvent *>(event)))
+            return true;
+        break;
     case QEvent::TabletPress:
     case QEvent::TabletMove:
     case QEvent::TabletRelease:
@@ -494,13 +564,51 @@ bool PageView::viewportEvent(QEvent *event)
     return QGraphicsView::viewportEvent(event);
 }
 
-/// Of a pen, the mouse events that Qt makes lack pressure and parts of pixels. A pen without a tool is a mouse.
+/// Accepted even where it does nothing: else Qt makes a mouse of it.
+void PageView::useTouch(QTouchEvent *event)
+{
+    if (m_page)
+        m_page->scene()->setMadeMouse(pagehost::Pointer::Finger);
+    m_touch.touch(*event);
+    event->accept();
+}
+
+void PageView::setPenErases(bool erases)
+{
+    if (erases == m_penErases)
+        return;
+    m_penErases = erases;
+    Q_EMIT penErases(erases);
+}
+
+/// Notes which end of the pen is used, and its button. True for presses of the button, which do nothing else.
+bool PageView::turnPen(const QTabletEvent *event)
+{
+    constexpr Qt::MouseButtons barrel = Qt::RightButton | Qt::MiddleButton;
+    if (!m_penIsDown)
+        setPenErases(event->pointerType() == QTabletEvent::Eraser || event->buttons() & barrel);
+    if (event->button() == Qt::LeftButton)
+        m_penIsDown = event->type() == QEvent::TabletPress;
+    return event->button() & barrel;
+}
+
+/// Of a pen, the mouse events that Qt makes lack pressure and parts of pixels. A pen without a tool is a mouse, and
+/// so is one in the air.
 bool PageView::usePen(QTabletEvent *event)
 {
     event->ignore();
+    m_touch.seePen();
     if (!m_page)
         return false;
+    m_page->scene()->setMadeMouse(pagehost::Pointer::Pen);
+    if (turnPen(event)) {
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::TabletMove && event->buttons() == Qt::NoButton)
+        return false;
     pagehost::ToolPointer pointer;
+    pointer.kind = pagehost::Pointer::Pen;
     pointer.pos = viewportTransform().inverted().map(event->posF());
     pointer.pressure = event->pressure();
     pointer.pixel = 1 / m_zoom;

@@ -5,8 +5,10 @@
 #include "page/keyhand.h"
 #include "page/nudging.h"
 #include "page/textmark.h"
+#include "page/touchinput.h"
 
 #include <pagehost/page.h>
+#include <pagehost/pointer.h>
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QGraphicsView>
@@ -17,6 +19,7 @@
 class CBaseObject;
 class QMimeData;
 class QTabletEvent;
+class QTouchEvent;
 
 namespace board {
 
@@ -25,7 +28,7 @@ class LabelWriting;
 /// The view that a page is edited in. Its object name is the one that page objects show their control points in.
 ///
 /// A press that no object wants begins a rubber band; the middle button, or the left one with the space bar held
-/// down, pans; Ctrl and the wheel zoom about the cursor.
+/// down, pans; Ctrl and the wheel zoom about the cursor. Touches are what TouchJudge takes them for.
 class PageView : public QGraphicsView
 {
     Q_OBJECT
@@ -43,6 +46,10 @@ public:
     bool isEditable() const;
     /// Shows nothing but the page, as large as it fits, on black.
     void setBare(bool bare);
+    /// Shows grips as large as fingers need them.
+    void setLargeGrips(bool large);
+    /// A finger uses the tool even where there is a pen.
+    void setFingersDraw(bool draw) { m_touch.setFingersDraw(draw); }
     void setEmptyHint(const EmptyHint &hint);
     KeyHand *keys() { return &m_keys; }
 
@@ -87,6 +94,8 @@ Q_SIGNALS:
     void writingEnded(CBaseObject *object, bool madeStep);
     /// The Esc key was pressed while a tool waited.
     void toolGivenUp();
+    /// The pen's button is held, or its other end is used; or no longer.
+    void penErases(bool erases);
     /// See PageScene::copyDropped().
     void copyDropped(const QPointF &way);
     void zoomChanged(double rate);
@@ -127,7 +136,16 @@ private:
     void endBand(const QMouseEvent *event);
     void showHint(const QPoint &pointer);
     bool usePen(QTabletEvent *event);
-    bool isNearSelection(const QPoint &pos) const;
+    bool turnPen(const QTabletEvent *event);
+    void setPenErases(bool erases);
+    void useTouch(QTouchEvent *event);
+    void takeBack();
+    void hold(const QPointF &pos);
+    void pull(const QPointF &pos, double factor);
+    void bringTo(const QPointF &scenePos, const QPointF &pos);
+    void beginZooming();
+    void openMenu(const QPoint &pos);
+    pagehost::Pointer pointerOf(const QMouseEvent *event) const;
     void updateCursor(const QPoint &pos);
     bool nudge(const QKeyEvent *event);
     bool useKeyOfPage(const QKeyEvent *event);
@@ -144,15 +162,21 @@ private:
     Nudging m_nudging;
     KeyHand m_keys;
     TextMark m_textMark;
+    TouchInput m_touch;
     double m_zoom = 1;
     Qt::Edge m_shelfEdge = Qt::TopEdge;
     int m_shelfMargin = 0; ///< between it and the page, logical pixels
     bool m_fitted = true;
     bool m_isBare = false;
+    bool m_hasLargeGrips = false;
     bool m_spaceDown = false;
     bool m_panning = false;
     bool m_showsHint = false;
-    QPoint m_panPos; ///< viewport coordinates
+    bool m_penIsDown = false;
+    bool m_penErases = false;
+    QPointF m_heldPlace;   ///< of the page between the fingers, scene coordinates
+    double m_heldZoom = 1; ///< when they took hold of it
+    QPoint m_panPos;       ///< viewport coordinates
     /// Of a double click that is going on, viewport coordinates.
     std::optional<QPoint> m_doubleClicked;
     LabelWriting *m_writing;

@@ -1040,6 +1040,10 @@
         <translation>Einrasten</translation>
     </message>
     <message>
+        <source>Fingers draw, too</source>
+        <translation>Auch Finger zeichnen</translation>
+    </message>
+    <message>
         <source>Panel</source>
         <translation>Seitenleiste</translation>
     </message>

@@ -17,6 +17,7 @@
 #include "core/snapactions.h"
 #include "core/toolchoice.h"
 #include "core/toolcommands.h"
+#include "core/touchactions.h"
 #include "core/windowmemory.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
@@ -40,6 +41,7 @@
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "presenting/presentation.h"
+#include "tools/helderaser.h"
 #include "tools/toolbox.h"
 #include "tools/toolkeys.h"
 #include "tools/toolsettings.h"
@@ -148,10 +150,12 @@ MainWindow::MainWindow(Workspace *workspace)
     new PaperActions(m_commands, m_view, this);
     new SnapActions(m_commands, m_view, this);
     new Finding(m_workspace, m_commands, m_view, m_findBar, this);
+    new TouchActions(m_commands, m_view, this);
     new FieldUndo(this);
     new AltKeys(this);
     new ToolCommands(m_commands, m_tools, this);
     new ToolKeys(m_commands, m_tools, m_toolSettings, this);
+    new HeldEraser(m_view, m_tools, this);
     auto *contextMenus = new ContextMenus(m_workspace, m_commands, m_view, this);
     contextMenus->addThumbnails(m_pages->list());
     const auto *help = new HelpCommands(m_workspace, m_commands, this);
@@ -223,6 +227,7 @@ void MainWindow::setLargeTools(bool large)
 {
     m_dock->setLarge(large);
     m_topBar->setLarge(large);
+    m_view->setLargeGrips(large);
     rememberLargeTools(large);
 }
 

@@ -186,14 +186,14 @@ void TestSelecting::topmostShapeIsSelected()
 
 void TestSelecting::controlPointsShowOnlyWhileSelected()
 {
-    // The outline of control points has this colour in the templates, and nothing else on the page.
+    // The outline of control points has this colour, and nothing else on the page.
     const auto countControlPixels = [](BoardDriver &board) {
         const QImage picture = board.view().viewport()->grab().toImage();
         int count = 0;
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
                 const QColor color = picture.pixelColor(x, y);
-                count += qAbs(color.red() - 0xe8) < 12 && qAbs(color.green() - 0x71) < 24 && color.blue() < 60;
+                count += qAbs(color.red() - 0xb4) < 12 && qAbs(color.green() - 0x50) < 24 && color.blue() < 60;
             }
         }
         return count;
