@@ -75,7 +75,9 @@ constexpr Situation situations[] = {{"01-first-start", "empty"},
                                     {"13-dark", "selected", pictureSize, Theme::Dark},
                                     {"14-dark-palette", "palette", pictureSize, Theme::Dark},
                                     {"15-1024x600", "settings", QSize(1024, 600)},
-                                    {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2}};
+                                    {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2},
+                                    {"17-large-buttons", "large", QSize(1920, 1080)},
+                                    {"18-one-large-bar", "onebar", QSize(1920, 1080)}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -230,20 +232,23 @@ bool needsFewShapes(const QString &state)
 bool isAboutOneShape(const QString &state)
 {
     return state == QLatin1String("selection") || state == QLatin1String("selected") ||
-           state == QLatin1String("settings") || state == QLatin1String("properties");
+           state == QLatin1String("settings") || state == QLatin1String("properties") ||
+           state == QLatin1String("large");
 }
 
 void bring(MainWindow &window, Workspace &workspace, const QString &state)
 {
     pagehost::Page *page = workspace.document()->currentPage();
-    const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties");
+    const bool isAboutPanels = state == QLatin1String("settings") || state == QLatin1String("properties") ||
+                               state == QLatin1String("large");
     if (state == QLatin1String("selection") && page->objectCount() > 1) {
         changeMiddle(page);
         pinPanel(window, window.settings());
     }
     if (isAboutPanels && page->objectCount() > 0)
         selectRichest(page);
-    if (state == QLatin1String("selected") && page->objectCount() > 1)
+    const bool isAboutOne = state == QLatin1String("selected") || state == QLatin1String("onebar");
+    if (isAboutOne && page->objectCount() > 1)
         changeMiddle(page);
     if (state == QLatin1String("connecting"))
         startConnecting(window);
@@ -257,6 +262,16 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
         pinPanel(window, window.properties());
     if (state == QLatin1String("palette"))
         window.commands()->action(Command::Shapes)->trigger();
+    if (state == QLatin1String("large")) {
+        window.setLargeTools(true);
+        window.commands()->action(Command::PageStrip)->trigger();
+        pinPanel(window, window.settings());
+        window.commands()->action(Command::Shapes)->trigger();
+    }
+    if (state == QLatin1String("onebar")) {
+        window.setLargeTools(true);
+        window.setDockEdge(Qt::BottomEdge);
+    }
     if (state == QLatin1String("pages"))
         window.commands()->action(Command::PageStrip)->trigger();
     if (state == QLatin1String("writing"))
@@ -277,14 +292,12 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"),      QStringLiteral("shapes"),
-            QStringLiteral("selection"),  QStringLiteral("settings"),
-            QStringLiteral("properties"), QStringLiteral("palette"),
-            QStringLiteral("pages"),      QStringLiteral("writing"),
-            QStringLiteral("drag"),       QStringLiteral("recording"),
-            QStringLiteral("playing"),    QStringLiteral("selected"),
-            QStringLiteral("text"),       QStringLiteral("connecting"),
-            QStringLiteral("presenting"), allSituations};
+    return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
+            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
+            QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
+            QStringLiteral("recording"), QStringLiteral("playing"),    QStringLiteral("selected"),
+            QStringLiteral("text"),      QStringLiteral("connecting"), QStringLiteral("presenting"),
+            QStringLiteral("large"),     QStringLiteral("onebar"),     allSituations};
 }
 
 namespace {
@@ -345,6 +358,7 @@ bool takeAll(Workspace &workspace, const QString &folder)
     }
     bool areTaken = true;
     for (const Situation &situation : situations) {
+        applyLargeSizes(false);
         applyTheme(situation.theme);
         workspace.replaceDocument(std::make_unique<pagehost::Document>());
         const QString file = QDir(folder).filePath(QLatin1String(situation.name) + QStringLiteral(".png"));

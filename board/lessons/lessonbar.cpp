@@ -5,6 +5,8 @@
 #include "lessons/lessonmenu.h"
 #include "lessons/timeline.h"
 #include "look/icons.h"
+#include "look/sizedbuttons.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtCore/QSignalBlocker>
@@ -24,7 +26,6 @@ namespace board {
 
 namespace {
 
-constexpr QSize buttonIconSize(20, 20);
 constexpr int clockMilliseconds = 200;
 constexpr int secondsInMinute = 60;
 constexpr int listLength = 18; ///< letters
@@ -43,7 +44,7 @@ QToolButton *buttonOf(QAction *action)
 {
     auto *button = new QToolButton;
     button->setDefaultAction(action);
-    button->setIconSize(buttonIconSize);
+    sizeAsBarButton(button);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     return button;
@@ -118,6 +119,7 @@ void LessonBar::layOut(const LessonMenu &menu)
     row->addWidget(m_name);
     row->addWidget(m_remove);
     row->addWidget(m_close);
+    followSizes(this, [this] { setMinimumHeight(sizes().lessonBar); });
 }
 
 void LessonBar::connectParts(const LessonMenu &menu)

@@ -1,5 +1,6 @@
 #include "lessons/timeline.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtCore/QSignalBlocker>
@@ -12,7 +13,6 @@ namespace board {
 
 namespace {
 
-constexpr int widgetHeight = 26;
 constexpr int smallestWidth = 120;
 constexpr int usualWidth = 320;
 constexpr double handleRadius = 6.5;
@@ -57,12 +57,12 @@ void TimeLine::setMoments(const QVector<qint64> &moments)
 
 QSize TimeLine::sizeHint() const
 {
-    return {usualWidth, widgetHeight};
+    return {usualWidth, sizes().timeLine};
 }
 
 QSize TimeLine::minimumSizeHint() const
 {
-    return {smallestWidth, widgetHeight};
+    return {smallestWidth, sizes().timeLine};
 }
 
 QRectF TimeLine::groove() const

@@ -1,5 +1,6 @@
 #include "look/controlstyle.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
@@ -16,6 +17,8 @@ constexpr double edgeWidth = 1;
 constexpr double roundEdgeWidth = 1.35;
 constexpr double focusWidth = 2;
 constexpr int boxSide = 16;
+/// Above and below the text of a row, at least.
+constexpr int menuRowEdges = 8;
 constexpr double signWidth = 1.75;
 /// Half of a chevron.
 constexpr double chevronWidth = 3.5;
@@ -138,6 +141,12 @@ void paintPushButton(QPainter *painter, const QStyleOption &option)
     paintBox(painter, option.rect, option, isPressed ? colors.soft : isHovered ? colors.hover : colors.surface);
 }
 
+bool isSeparator(const QStyleOption *option)
+{
+    const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    return item && item->menuItemType == QStyleOptionMenuItem::Separator;
+}
+
 } // namespace
 
 ControlStyle::ControlStyle()
@@ -253,7 +262,9 @@ QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
 {
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
     const bool isField = type == CT_ComboBox || type == CT_PushButton;
-    return isField ? usual.expandedTo({0, fieldHeight}) : usual;
+    if (type == CT_MenuItem && !isSeparator(option))
+        return {usual.width(), qMax(sizes().menuRow, option->fontMetrics.height() + menuRowEdges)};
+    return isField ? usual.expandedTo({0, sizes().field}) : usual;
 }
 
 } // namespace board

@@ -1,5 +1,6 @@
 #include "look/surface.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
@@ -8,12 +9,14 @@ namespace board {
 
 namespace {
 
-constexpr int radius = 10;
+constexpr int usualRadius = 10;
+constexpr int largeRadius = 14;
 
 } // namespace
 
 void paintSurface(QPainter *painter, const QRect &rect)
 {
+    const int radius = areSizesLarge() ? largeRadius : usualRadius;
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(themeColors().border);
     painter->setBrush(themeColors().surface);

@@ -1,6 +1,7 @@
 #include "look/theme.h"
 
 #include "look/controlstyle.h"
+#include "look/sizes.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
@@ -10,6 +11,7 @@ namespace board {
 namespace {
 
 Theme theCurrentTheme = Theme::Light;
+bool isThemed = false;
 
 const ThemeColors lightColors{QColor(0xfff7f8fa), QColor(0xffffffff),  QColor(0xffe4e8ee),  QColor(0xffffffff),
                               QColor(0xff1f2630), QColor(0xff566070),  QColor(0xff8f98a4),  QColor(0xff2563cf),
@@ -43,6 +45,9 @@ QPalette paletteOf(const ThemeColors &colors)
     return palette;
 }
 
+/// Border and padding of a field, above and below its text.
+constexpr int edgesOfField = 10;
+
 QString rgbaText(const QColor &color)
 {
     return QStringLiteral("rgba(%1, %2, %3, %4)")
@@ -73,9 +78,10 @@ QListView { background: %bar; }
 QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }
 QUndoView::item:selected { background: %soft; color: %text; }
 QUndoView::item:hover { background: %hover; }
-QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 4px 6px; background: %field; }
+QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 4px 6px; background: %field;
+            min-height: %linepx; }
 QLineEdit:focus { border-color: %accent; }
-QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; }
+QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; min-height: 0; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
 QScrollBar::handle { background: %control; border-radius: 3px; margin: 3px; min-width: 32px; min-height: 32px; }
@@ -87,6 +93,7 @@ QToolTip { border: none; padding: 4px 6px; }
 )");
     const ThemeColors colors = themeColors();
     QString sheet = pattern;
+    sheet.replace("%line", QString::number(sizes().field - edgesOfField));
     sheet.replace("%border", rgbaText(colors.border));
     sheet.replace("%faint", rgbaText(colors.faint));
     sheet.replace("%disabled", rgbaText(colors.disabled));
@@ -106,6 +113,7 @@ QToolTip { border: none; padding: 4px 6px; }
 void applyTheme(Theme theme)
 {
     theCurrentTheme = theme;
+    isThemed = true;
     QApplication::setStyle(new ControlStyle);
     QApplication::setPalette(paletteOf(themeColors()));
     qApp->setStyleSheet(styleSheet());
@@ -114,6 +122,22 @@ void applyTheme(Theme theme)
 Theme currentTheme()
 {
     return theCurrentTheme;
+}
+
+void applyLargeSizes(bool large)
+{
+    static const QFont usualFont = QApplication::font();
+    if (large == areSizesLarge())
+        return;
+    setLargeSizes(large);
+    QFont font = usualFont;
+    if (sizes().letters > 0)
+        font.setPixelSize(sizes().letters);
+    QApplication::setFont(font);
+    // Else widgets keep the sizes that the style gave them.
+    if (isThemed)
+        applyTheme(theCurrentTheme);
+    applySizes();
 }
 
 ThemeColors themeColors()

@@ -10,6 +10,9 @@ enum class Theme { Light, Dark };
 void applyTheme(Theme theme);
 Theme currentTheme();
 
+/// Makes letters and all parts of the window large enough for fingers, or as usual.
+void applyLargeSizes(bool large);
+
 /// Colours by what they are for. Text on bars, surfaces and fields has a contrast of 4.5:1 at least, an edge of
 /// 3:1.
 struct ThemeColors
@@ -39,17 +42,6 @@ constexpr int smallGap = 4;
 constexpr int mediumGap = 8;
 constexpr int largeGap = 12;
 
-/// Sizes of the window, logical pixels.
-constexpr int topBarHeight = 40;
-constexpr int barButtonSide = 32;
-constexpr int barIconSide = 20;
-constexpr int dockThickness = 56;
-constexpr int largeDockThickness = 96;
-constexpr int largeTopBarHeight = 56;
-constexpr int largeBarButtonSide = 44;
-constexpr int largeBarIconSide = 28;
-constexpr int shelfThickness = 40;
 constexpr int buttonRadius = 8;
-constexpr int fieldHeight = 28;
 
 } // namespace board

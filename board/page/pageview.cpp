@@ -1,5 +1,6 @@
 #include "page/pageview.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "page/desk.h"
 #include "page/draghint.h"
@@ -149,7 +150,7 @@ void PageView::setShelfEdge(Qt::Edge edge)
 {
     m_shelfEdge = edge;
     m_shelfMargin = edge == Qt::LeftEdge || edge == Qt::RightEdge ? shelfMargin : sideMargin;
-    const auto room = [edge](Qt::Edge one) { return edge == one ? shelfThickness : 0; };
+    const auto room = [edge](Qt::Edge one) { return edge == one ? sizes().shelf : 0; };
     setViewportMargins(room(Qt::LeftEdge), room(Qt::TopEdge), room(Qt::RightEdge), room(Qt::BottomEdge));
     if (m_fitted)
         showFitted();

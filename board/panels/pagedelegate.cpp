@@ -1,5 +1,6 @@
 #include "panels/pagedelegate.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
@@ -8,7 +9,7 @@ namespace board {
 
 namespace {
 
-constexpr int margin = 7;
+constexpr int margin = 4;
 constexpr int numberHeight = 18;
 constexpr double frameRadius = 3;
 constexpr double currentFrameWidth = 2;
@@ -23,6 +24,11 @@ QRectF placeOf(const QImage &picture, const QRectF &room)
 }
 
 } // namespace
+
+QSize PageDelegate::thumbnailSize()
+{
+    return {sizes().thumbnail, sizes().thumbnail * 9 / 16};
+}
 
 QSize PageDelegate::itemSize()
 {

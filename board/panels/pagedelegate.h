@@ -14,7 +14,7 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     /// Room for the thumbnail, logical pixels.
-    static QSize thumbnailSize() { return {144, 81}; }
+    static QSize thumbnailSize();
     /// With number and margins.
     static QSize itemSize();
 

@@ -1,6 +1,7 @@
 #include "panels/pagepanel.h"
 
 #include "core/workspace.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "panels/pagedelegate.h"
 
@@ -44,6 +45,10 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
     makeList();
     connectList();
     connectDocument();
+    followSizes(this, [this] {
+        setFixedHeight(sizes().pageStrip);
+        rebuild();
+    });
     connect(workspace, &Workspace::documentReplaced, this, &PagePanel::connectDocument);
 }
 
@@ -57,8 +62,6 @@ void PagePanel::makeList()
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setDragDropMode(QAbstractItemView::InternalMove);
-    m_list->setFixedHeight(PageDelegate::itemSize().height() + m_list->horizontalScrollBar()->sizeHint().height());
-    setFixedHeight(m_list->height() + 2 * mediumGap);
     m_list->setAccessibleName(m_workspace->text("IDS_BOARD_PAGES"));
     m_list->viewport()->setAutoFillBackground(false);
 }

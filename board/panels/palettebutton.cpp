@@ -1,5 +1,6 @@
 #include "panels/palettebutton.h"
 
+#include "look/sizes.h"
 #include "page/pageview.h"
 
 #include <QtCore/QMimeData>
@@ -13,7 +14,8 @@ namespace board {
 
 namespace {
 
-constexpr QSize buttonSize(92, 98);
+/// How much higher than wide.
+constexpr int extraHeight = 6;
 constexpr int edge = 5;
 /// Smaller letters cannot be read; a longer word is cut into two lines instead.
 constexpr double smallestPointSize = 8;
@@ -54,7 +56,7 @@ bool PaletteButton::isFoundBy(const QString &searched) const
 
 QSize PaletteButton::sizeHint() const
 {
-    return buttonSize;
+    return {sizes().kind, sizes().kind + extraHeight};
 }
 
 QFont PaletteButton::nameFont() const

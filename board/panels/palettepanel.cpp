@@ -2,6 +2,8 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizedbuttons.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "objects/objectpictures.h"
 #include "panels/buttonflow.h"
@@ -25,17 +27,22 @@ namespace board {
 
 namespace {
 
-constexpr QSize pictureSize(52, 46);
+/// Beside and below the picture of a shape.
+constexpr QSize roomBesidePicture(40, 46);
 constexpr int columnsShown = 3;
 constexpr int mostRecent = 8;
 const QString recentKey = QStringLiteral("palette/lastUsed");
+
+QSize pictureSize()
+{
+    return QSize(sizes().kind, sizes().kind) - roomBesidePicture;
+}
 
 QToolButton *headButton(Icon picture, const QString &name)
 {
     auto *button = new QToolButton;
     button->setIcon(icon(picture));
-    button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedSize(barButtonSide, barButtonSide);
+    sizeAsBarButton(button);
     button->setToolTip(name);
     button->setAccessibleName(name);
     button->setFocusPolicy(Qt::TabFocus);
@@ -72,9 +79,10 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     column->addWidget(m_scroll, 1);
     fill();
     // In the smallest window one column is still whole.
-    m_scroll->setMinimumWidth(widthOfColumns(1));
-    paintPictures();
-    filter({});
+    followSizes(this, [this] {
+        showKinds();
+        m_scroll->setMinimumWidth(widthOfColumns(1));
+    });
 }
 
 QWidget *PalettePanel::makeHead()
@@ -204,7 +212,7 @@ PaletteButton *PalettePanel::makeButton(ButtonFlow *flow, const PaletteEntry &en
     const QString kindId = entry.kindId;
     auto *button = new PaletteButton(kindId, entry.name, flow);
     button->setSearchWords(entry.words);
-    button->setIconSize(pictureSize);
+    button->setIconSize(pictureSize());
     button->setToolTip(m_workspace->text("IDS_BOARD_KIND_TIP").arg(button->text()));
     connect(button, &PaletteButton::clicked, this,
             [this, kindId](bool down) { Q_EMIT kindPicked(down ? kindId : QString()); });
@@ -217,7 +225,7 @@ void PalettePanel::paintPictures()
 {
     for (PaletteButton *button : m_buttons + m_recentButtons)
         button->setIcon(
-            QIcon(pictureOfKind(m_workspace->registry(), button->kindId(), pictureSize, devicePixelRatioF())));
+            QIcon(pictureOfKind(m_workspace->registry(), button->kindId(), pictureSize(), devicePixelRatioF())));
 }
 
 void PalettePanel::showWaitingKind(const QString &kindId)

@@ -3,6 +3,7 @@
 #include "core/commands.h"
 #include "core/newlook.h"
 #include "core/workspace.h"
+#include "look/sizedbuttons.h"
 #include "look/theme.h"
 #include "panels/fields/captionedrow.h"
 #include "panels/fillcontrols.h"
@@ -61,8 +62,7 @@ QWidget *makeButtonRow(const Commands &commands, const QVector<Command> &shown)
         auto *button = new QToolButton(part);
         button->setDefaultAction(commands.action(command));
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-        button->setIconSize(QSize(barIconSide, barIconSide));
-        button->setFixedSize(barButtonSide, barButtonSide);
+        sizeAsBarButton(button);
         button->setFocusPolicy(Qt::TabFocus);
         layout->addWidget(button);
     }

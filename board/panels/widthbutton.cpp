@@ -2,7 +2,6 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
-#include "look/theme.h"
 
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QMenu>
@@ -19,7 +18,6 @@ WidthButton::WidthButton(const Workspace *workspace, QWidget *parent)
     : QToolButton(parent)
 {
     setIcon(board::icon(Icon::LineWidth));
-    setIconSize(QSize(barIconSide, barIconSide));
     setToolTip(workspace->text("IDS_BOARD_PEN_WIDTH"));
     setAccessibleName(toolTip());
     setPopupMode(InstantPopup);

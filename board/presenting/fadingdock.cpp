@@ -1,5 +1,6 @@
 #include "presenting/fadingdock.h"
 
+#include "look/sizes.h"
 #include "look/surface.h"
 #include "look/theme.h"
 
@@ -13,6 +14,8 @@ namespace board {
 namespace {
 
 constexpr int distanceFromEdges = 24;
+constexpr int thickness = 56;
+constexpr int largeThickness = 80;
 
 bool isPointer(QEvent::Type type)
 {
@@ -28,7 +31,7 @@ FadingDock::FadingDock(QWidget *under)
     , m_opacity(new QGraphicsOpacityEffect(this))
 {
     setObjectName(QStringLiteral("presentingDock"));
-    setFixedHeight(dockThickness);
+    setFixedHeight(areSizesLarge() ? largeThickness : thickness);
     m_row->setContentsMargins(mediumGap, mediumGap, mediumGap, mediumGap);
     m_row->setSpacing(smallGap);
     setGraphicsEffect(m_opacity);

@@ -2,6 +2,7 @@
 
 #include "core/commands.h"
 #include "core/workspace.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "window/dockbutton.h"
 
@@ -20,8 +21,6 @@ namespace board {
 namespace {
 
 constexpr int edgeGap = 8;
-constexpr int pictureSide = 22;
-constexpr int largePictureSide = 32;
 /// From a button to that of the next group.
 constexpr int groupGap = 12;
 /// Of a line between groups, along the buttons.
@@ -72,8 +71,8 @@ Dock::Dock(const Workspace *workspace, const Commands *commands, ToolChoice *too
     connect(tools, &ToolChoice::offersChanged, this, &Dock::showOffers);
     connect(commands, &Commands::keysChanged, this, &Dock::describeTools);
     describeTools();
-    showOffers();
     showChoice();
+    followSizes(this, [this] { showOffers(); });
 }
 
 void Dock::addTools()
@@ -166,13 +165,6 @@ void Dock::setEdge(Qt::Edge edge)
     update();
 }
 
-void Dock::setLarge(bool large)
-{
-    m_isLarge = large;
-    updateGeometry();
-    arrange();
-}
-
 bool Dock::isVertical() const
 {
     return m_edge == Qt::LeftEdge || m_edge == Qt::RightEdge;
@@ -194,9 +186,10 @@ int Dock::needed(const Measure &measure) const
 
 QVector<Dock::Measure> Dock::measures() const
 {
-    if (m_isLarge)
-        return {{64, 8, false}, {64, 0, false}, {56, 0, false}, {56, 0, true}, {44, 0, true}};
-    return {{40, 4, false}, {40, 0, false}, {36, 0, false}, {36, 0, true}};
+    const int side = sizes().dockButton;
+    if (areSizesLarge())
+        return {{side, sizes().dockGap, false}, {side, 0, false}, {56, 0, false}, {56, 0, true}, {44, 0, true}};
+    return {{side, sizes().dockGap, false}, {side, 0, false}, {36, 0, false}, {36, 0, true}};
 }
 
 Dock::Measure Dock::fitting() const
@@ -209,7 +202,7 @@ Dock::Measure Dock::fitting() const
 
 int Dock::thickness() const
 {
-    return m_isLarge ? largeDockThickness : dockThickness;
+    return sizes().dock;
 }
 
 QSize Dock::minimumSizeHint() const
@@ -229,7 +222,7 @@ QSize Dock::sizeHint() const
 void Dock::put(DockButton *button, int start, int side)
 {
     const int across = (thickness() - side) / 2;
-    button->setPictureSide(m_isLarge ? largePictureSide : pictureSide);
+    button->setPictureSide(sizes().dockIcon);
     const QRect place = isVertical() ? QRect(across, start, side, side) : QRect(start, across, side, side);
     button->setGeometry(QStyle::visualRect(isVertical() ? Qt::LeftToRight : layoutDirection(), rect(), place));
 }

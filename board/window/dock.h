@@ -29,9 +29,6 @@ public:
     /// The edge of the window that the bar lies at.
     void setEdge(Qt::Edge edge);
     Qt::Edge edge() const { return m_edge; }
-    /// Buttons large enough for fingers.
-    void setLarge(bool large);
-    bool isLarge() const { return m_isLarge; }
     /// Across the edge, logical pixels.
     int thickness() const;
     DockButton *buttonOf(Tool tool) const;
@@ -99,7 +96,6 @@ private:
     QVector<DockButton *> m_ends; ///< from the far end
     QVector<int> m_lines;         ///< along the bar
     Qt::Edge m_edge = Qt::LeftEdge;
-    bool m_isLarge = false;
     bool m_dragging = false;
 };
 

@@ -15,6 +15,7 @@ Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
     , m_area(area)
     , m_slot(slot)
     , m_column(new QVBoxLayout(this))
+    , m_usualWidth(width)
     , m_width(width)
     , m_inset(inset)
     , m_tallest(tallest)
@@ -30,9 +31,17 @@ Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
 void Drawer::setContent(QWidget *content)
 {
     m_column->addWidget(content);
+    setUsualWidth(m_usualWidth);
+}
+
+void Drawer::setUsualWidth(int width)
+{
+    m_usualWidth = width;
+    m_column->activate();
     // Texts of some languages are longer.
-    m_width = qMax(m_width, minimumSizeHint().width());
+    m_width = qMax(width, minimumSizeHint().width());
     m_slot->setFixedWidth(m_width);
+    place();
 }
 
 void Drawer::setSide(Qt::Edge side)

@@ -19,6 +19,7 @@ public:
 
     /// The drawer becomes wider where the content needs it.
     void setContent(QWidget *content);
+    void setUsualWidth(int width);
     /// The side of the area that an unpinned drawer stands at: Qt::LeftEdge or Qt::RightEdge.
     void setSide(Qt::Edge side);
     /// A press on it does not close the drawer, since it does so itself.
@@ -46,6 +47,7 @@ private:
     QWidget *m_slot;
     QWidget *m_opener = nullptr;
     QVBoxLayout *m_column;
+    int m_usualWidth;
     int m_width;
     int m_inset;
     int m_tallest;

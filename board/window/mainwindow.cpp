@@ -30,6 +30,7 @@
 #include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/findbar.h"
@@ -90,9 +91,6 @@ namespace {
 constexpr QSize firstSize(1400, 900);
 /// Half of what a new shape measures, about.
 constexpr QPointF halfUsualSize(60, 50);
-/// The panel, and shapes with three beside each other, logical pixels.
-constexpr int panelWidth = 296;
-constexpr int paletteWidth = 344;
 constexpr int tallestPalette = 560;
 constexpr int paletteInset = 8;
 
@@ -225,8 +223,7 @@ void MainWindow::setDockEdge(Qt::Edge edge)
 
 void MainWindow::setLargeTools(bool large)
 {
-    m_dock->setLarge(large);
-    m_topBar->setLarge(large);
+    applyLargeSizes(large);
     m_view->setLargeGrips(large);
     rememberLargeTools(large);
 }
@@ -234,7 +231,7 @@ void MainWindow::setLargeTools(bool large)
 /// Once, to those who use fingers.
 void MainWindow::offerLargeTools()
 {
-    if (m_dock->isLarge() || remembersOfferOfLargeTools())
+    if (areSizesLarge() || remembersOfferOfLargeTools())
         return;
     rememberOfferOfLargeTools();
     m_notices->add({m_workspace->text("IDS_BOARD_LARGE_TOOLS_OFFER"),
@@ -324,13 +321,18 @@ void MainWindow::addPanels()
     m_sidePanel->addTab(m_workspace->text("IDS_BOARD_OBJECT"), m_object);
     m_sidePanel->addTab(m_workspace->text("IDS_BOARD_OUTLINE"), m_outline);
     m_sidePanel->addTab(m_workspace->text("IDS_BOARD_HISTORY"), new HistoryPanel(m_workspace));
-    m_panel = new Drawer(m_middle, m_rightSlot, panelWidth, 0, QWIDGETSIZE_MAX);
+    m_panel = new Drawer(m_middle, m_rightSlot, sizes().panel, 0, QWIDGETSIZE_MAX);
     m_panel->setContent(m_sidePanel);
-    m_paletteDrawer = new Drawer(m_middle, m_leftSlot, paletteWidth, paletteInset, tallestPalette);
+    m_paletteDrawer = new Drawer(m_middle, m_leftSlot, sizes().palette, paletteInset, tallestPalette);
     m_paletteDrawer->setContent(m_palette);
     m_palette->setAccessibleName(m_workspace->text("IDS_BOARD_SHAPES"));
     addShapeFolderActions(m_palette->menu(), m_workspace, this);
     m_paletteDrawer->setOpener(m_dock->buttonOf(Tool::Shape));
+    followSizes(this, [this] {
+        m_panel->setUsualWidth(sizes().panel);
+        m_paletteDrawer->setUsualWidth(sizes().palette);
+        m_view->setShelfEdge(m_dock->edge());
+    });
 }
 
 void MainWindow::connectPanels()
@@ -422,7 +424,7 @@ void MainWindow::addDockMenu()
     QAction *large = menu->addAction(m_workspace->text("IDS_BOARD_LARGE_TOOLS"));
     large->setCheckable(true);
     connect(large, &QAction::triggered, this, &MainWindow::setLargeTools);
-    connect(menu, &QMenu::aboutToShow, large, [this, large] { large->setChecked(m_dock->isLarge()); });
+    connect(menu, &QMenu::aboutToShow, large, [this, large] { large->setChecked(areSizesLarge()); });
 }
 
 void MainWindow::connectLessons()

@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizes.h"
 #include "look/surface.h"
 #include "look/theme.h"
 #include "tools/toolsettings.h"
@@ -40,7 +41,7 @@ Shelf::Shelf(const Workspace *workspace, const ToolChoice *tools, ToolSettings *
     view->installEventFilter(this);
     connect(tools, &ToolChoice::changed, this, &Shelf::rebuild);
     connect(settings, &ToolSettings::changed, this, &Shelf::rebuild);
-    rebuild();
+    followSizes(this, [this] { rebuild(); });
 }
 
 void Shelf::setEdge(Qt::Edge edge)
@@ -90,6 +91,7 @@ void Shelf::addColors(Tool tool)
     const QVector<QColor> colors = m_settings->colors(tool);
     for (const QColor &color : colors) {
         auto *button = new ShelfButton(color, color.name(), m_content);
+        button->setSide(sizes().shelf - 2 * sideGap);
         button->setChecked(color == m_settings->color(tool));
         connect(button, &QToolButton::clicked, this, [this, tool, color] { m_settings->setColor(tool, color); });
         m_content->layout()->addWidget(button);
@@ -103,6 +105,7 @@ void Shelf::addWidths(Tool tool)
         const double width = widths.at(i);
         const double thickness = thinnest + (thickest - thinnest) * i / qMax(1, widths.size() - 1);
         auto *button = new ShelfButton(thickness, m_workspace->text("IDS_BOARD_TOOL_WIDTH").arg(width), m_content);
+        button->setSide(sizes().shelf - 2 * sideGap);
         button->setChecked(qFuzzyCompare(width, m_settings->width(tool)));
         connect(button, &QToolButton::clicked, this, [this, tool, width] { m_settings->setWidth(tool, width); });
         m_content->layout()->addWidget(button);
@@ -113,8 +116,8 @@ void Shelf::addVariants(Tool tool)
 {
     auto *button = new QToolButton(m_content);
     button->setIcon(icon(Icon::More));
-    button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedSize(shelfThickness - 2 * sideGap, shelfThickness - 2 * sideGap);
+    button->setIconSize(QSize(sizes().barIcon, sizes().barIcon));
+    button->setFixedSize(sizes().shelf - 2 * sideGap, sizes().shelf - 2 * sideGap);
     button->setFocusPolicy(Qt::TabFocus);
     button->setToolTip(m_workspace->text("IDS_BOARD_MORE"));
     button->setAccessibleName(button->toolTip());
@@ -136,7 +139,7 @@ void Shelf::addVariants(Tool tool)
 void Shelf::addLine()
 {
     auto *line = new QWidget(m_content);
-    const int length = shelfThickness - 2 * sideGap - 2 * lineInset;
+    const int length = sizes().shelf - 2 * sideGap - 2 * lineInset;
     line->setFixedSize(isVertical() ? length : 1, isVertical() ? 1 : length);
     line->setAutoFillBackground(true);
     line->setBackgroundRole(QPalette::Mid);
@@ -154,10 +157,10 @@ void Shelf::place()
     const int start = qMax(0, qMin(startGap, available - length));
     QPoint pos = isVertical() ? QPoint(0, start) : QPoint(start, 0);
     if (m_edge == Qt::RightEdge)
-        pos.setX(room.width() - shelfThickness);
+        pos.setX(room.width() - sizes().shelf);
     if (m_edge == Qt::BottomEdge)
-        pos.setY(room.height() - shelfThickness);
-    setGeometry(QRect(pos, isVertical() ? QSize(shelfThickness, length) : QSize(length, shelfThickness)));
+        pos.setY(room.height() - sizes().shelf);
+    setGeometry(QRect(pos, isVertical() ? QSize(sizes().shelf, length) : QSize(length, sizes().shelf)));
 }
 
 bool Shelf::eventFilter(QObject *watched, QEvent *event)

@@ -9,7 +9,7 @@ namespace board {
 
 namespace {
 
-constexpr int side = 28;
+constexpr int usualSide = 28;
 constexpr double colorRadius = 9;
 constexpr double ringRadius = 13;
 constexpr double ringWidth = 2;
@@ -32,11 +32,16 @@ ShelfButton::ShelfButton(double thickness, const QString &name, QWidget *parent)
 
 void ShelfButton::describe(const QString &name)
 {
-    setFixedSize(side, side);
+    setSide(usualSide);
     setCheckable(true);
     setFocusPolicy(Qt::TabFocus);
     setToolTip(name);
     setAccessibleName(name);
+}
+
+void ShelfButton::setSide(int side)
+{
+    setFixedSize(side, side);
 }
 
 void ShelfButton::paintEvent(QPaintEvent *)
@@ -55,14 +60,15 @@ void ShelfButton::paintEvent(QPaintEvent *)
 void ShelfButton::paintColor(QPainter *painter) const
 {
     const QPointF middle = QRectF(rect()).center();
+    const double scale = width() / double(usualSide);
     painter->setPen(Qt::NoPen);
     painter->setBrush(m_color);
-    painter->drawEllipse(middle, colorRadius, colorRadius);
+    painter->drawEllipse(middle, colorRadius * scale, colorRadius * scale);
     if (!isChecked())
         return;
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(themeColors().accent, ringWidth));
-    painter->drawEllipse(middle, ringRadius, ringRadius);
+    painter->drawEllipse(middle, ringRadius * scale, ringRadius * scale);
 }
 
 void ShelfButton::paintStroke(QPainter *painter) const
@@ -73,6 +79,7 @@ void ShelfButton::paintStroke(QPainter *painter) const
         painter->setBrush(colors.soft);
         painter->drawRoundedRect(rect(), buttonRadius, buttonRadius);
     }
+    painter->scale(width() / double(usualSide), height() / double(usualSide));
     QPainterPath wave(QPointF(7, 17));
     wave.cubicTo(11, 6, 14, 10, 14, 14);
     wave.cubicTo(14, 18, 17, 22, 21, 11);

@@ -15,6 +15,9 @@ public:
     /// `thickness` of the stroke that is shown, logical pixels.
     ShelfButton(double thickness, const QString &name, QWidget *parent);
 
+    /// Logical pixels; at first 28. Its picture grows with it.
+    void setSide(int side);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizedbuttons.h"
 #include "look/theme.h"
 
 #include <QtWidgets/QButtonGroup>
@@ -21,8 +22,7 @@ SidePanel::SidePanel(const Workspace *workspace, QWidget *parent)
 {
     setAccessibleName(workspace->text("IDS_BOARD_PANEL"));
     m_pin->setIcon(icon(Icon::Pin));
-    m_pin->setIconSize(QSize(barIconSide, barIconSide));
-    m_pin->setFixedSize(barButtonSide, barButtonSide);
+    sizeAsBarButton(m_pin);
     m_pin->setCheckable(true);
     m_pin->setToolTip(workspace->text("IDS_BOARD_PIN"));
     m_pin->setAccessibleName(m_pin->toolTip());
@@ -46,7 +46,7 @@ void SidePanel::addTab(const QString &title, QWidget *part)
     tab->setText(title);
     tab->setCheckable(true);
     tab->setChecked(index == 0);
-    tab->setFixedHeight(barButtonSide);
+    sizeAsTextButton(tab);
     tab->setFocusPolicy(Qt::TabFocus);
     m_tabs->addButton(tab, index);
     m_tabRow->insertWidget(index, tab);

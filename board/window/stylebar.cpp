@@ -5,6 +5,8 @@
 #include "core/commands.h"
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizedbuttons.h"
+#include "look/sizes.h"
 #include "look/surface.h"
 #include "look/theme.h"
 #include "page/pageview.h"
@@ -33,7 +35,6 @@ namespace board {
 
 namespace {
 
-constexpr int barHeight = 40;
 constexpr int lineLength = 20;
 /// Between the bar and the edges of the view.
 constexpr int roomMargin = 4;
@@ -111,7 +112,9 @@ StyleBar::StyleBar(const Workspace *workspace, const Commands *commands, const T
 void StyleBar::addLook()
 {
     m_outline->showAsOutline();
-    m_width->setFixedSize(barButtonSide, barButtonSide);
+    sizeAsStyleButton(m_width);
+    for (ColorButton *button : {m_fill, m_outline})
+        followSizes(button, [button] { button->setMinimumHeight(sizes().styleButton); });
     for (QToolButton *button : {static_cast<QToolButton *>(m_fill), static_cast<QToolButton *>(m_outline),
                                 static_cast<QToolButton *>(m_width)}) {
         button->setFocusPolicy(Qt::TabFocus);
@@ -129,8 +132,7 @@ QToolButton *StyleBar::addButton(Icon picture, const QString &name)
 {
     auto *button = new QToolButton(this);
     button->setIcon(icon(picture));
-    button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedSize(barButtonSide, barButtonSide);
+    sizeAsStyleButton(button);
     button->setFocusPolicy(Qt::TabFocus);
     button->setToolTip(name);
     button->setAccessibleName(name);
@@ -149,12 +151,20 @@ void StyleBar::addCommands()
     const auto addCommand = [this](Icon picture, Command command) {
         QToolButton *button = addButton(picture, {});
         button->setDefaultAction(m_commands->action(command));
+        return button;
     };
     m_bringBack = addButton(Icon::BringBack, {});
     m_bringBack->setDefaultAction(m_commands->action(Command::BringBack));
     addMenu(Icon::ToFront, "IDS_BOARD_ORDER", orderMenuPlan());
     addCommand(Icon::Duplicate, Command::Duplicate);
-    addCommand(Icon::Lock, Command::Lock);
+    // Who has no keys deletes more often than locks.
+    QToolButton *lock = addCommand(Icon::Lock, Command::Lock);
+    QToolButton *remove = addCommand(Icon::Delete, Command::Delete);
+    followSizes(this, [=] {
+        lock->setVisible(!areSizesLarge());
+        remove->setVisible(areSizesLarge());
+        m_arrange.request();
+    });
     addMenu(Icon::More, "IDS_BOARD_MORE", objectMenuPlan());
 }
 
@@ -273,7 +283,7 @@ void StyleBar::place()
         boxes.append(boxOf(pagehost::boundsOf({object})));
     }
     layout()->activate();
-    setGeometry(styleBarPlace(QSize(sizeHint().width(), barHeight), around));
+    setGeometry(styleBarPlace(QSize(sizeHint().width(), sizes().styleBar), around));
 }
 
 bool StyleBar::eventFilter(QObject *watched, QEvent *event)

@@ -3,6 +3,7 @@
 #include "core/actions.h"
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "window/zoomcontrol.h"
@@ -30,9 +31,6 @@ QToolButton *barButton(QAction *action, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setDefaultAction(action);
-    button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedHeight(barButtonSide);
-    button->setMinimumWidth(barButtonSide);
     button->setFocusPolicy(Qt::TabFocus);
     return button;
 }
@@ -66,8 +64,6 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     m_menus->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_menuButton->setText(workspace->text("IDS_BOARD_MENU"));
     m_menuButton->setIcon(icon(Icon::Menu));
-    m_menuButton->setIconSize(QSize(barIconSide, barIconSide));
-    m_menuButton->setFixedHeight(barButtonSide);
     m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_allMenus);
@@ -85,8 +81,11 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     addLine(this);
     m_row->addWidget(m_zoom);
     addLine(this);
-    applyHeight();
     followDocument();
+    followSizes(this, [this] {
+        applyHeight();
+        measure();
+    });
     connect(workspace, &Workspace::documentReplaced, this, &TopBar::followDocument);
     showSaved(true, false);
 }
@@ -182,18 +181,9 @@ void TopBar::giveTools()
     update();
 }
 
-void TopBar::setLarge(bool large)
-{
-    m_isLarge = large;
-    applyHeight();
-    measure();
-}
-
 int TopBar::barHeight() const
 {
-    if (m_tools)
-        return m_isLarge ? largeDockThickness : dockThickness;
-    return m_isLarge ? largeTopBarHeight : topBarHeight;
+    return m_tools ? sizes().dock : sizes().topBar;
 }
 
 void TopBar::applyHeight()
@@ -201,8 +191,8 @@ void TopBar::applyHeight()
     setFixedHeight(barHeight());
     // A line at the side of the page.
     m_row->setContentsMargins(mediumGap - 2, 0, mediumGap, m_tools ? 0 : 1);
-    const int side = m_isLarge ? largeBarButtonSide : barButtonSide;
-    const int picture = m_isLarge ? largeBarIconSide : barIconSide;
+    const int side = sizes().barButton;
+    const int picture = sizes().barIcon;
     const QList<QToolButton *> buttons = findChildren<QToolButton *>();
     for (QToolButton *button : buttons) {
         if (m_tools && m_tools->isAncestorOf(button))

@@ -48,8 +48,6 @@ public:
     void takeTools(QWidget *tools, Qt::Edge edge);
     /// Gives the tools to the caller's layout.
     void giveTools();
-    /// Height of the bar and of its buttons.
-    void setLarge(bool large);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -86,7 +84,6 @@ private:
     QVector<QToolButton *> m_switches;
     QVector<int> m_widths; ///< that are needed with so many folds
     int m_leastWidth = 0;
-    bool m_isLarge = false;
     bool m_showsSaved = false;
 };
 

@@ -3,7 +3,8 @@
 #include "core/actions.h"
 #include "core/workspace.h"
 #include "look/icons.h"
-#include "look/theme.h"
+#include "look/sizedbuttons.h"
+#include "look/sizes.h"
 #include "page/pageview.h"
 
 #include <QtWidgets/QAction>
@@ -24,9 +25,7 @@ QToolButton *buttonOf(QAction *action, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setDefaultAction(action);
-    button->setIconSize(QSize(barIconSide, barIconSide));
-    button->setFixedHeight(barButtonSide);
-    button->setMinimumWidth(barButtonSide);
+    sizeAsTextButton(button);
     button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(action->text());
     return button;
@@ -47,9 +46,11 @@ ZoomControl::ZoomControl(const Workspace *workspace, const Actions *actions, Pag
     m_rate->setPopupMode(QToolButton::InstantPopup);
     m_rate->setToolTip(workspace->text("IDS_BOARD_ZOOM"));
     m_rate->setAccessibleName(m_rate->toolTip());
-    m_rate->setFixedHeight(barButtonSide);
     m_rate->setFocusPolicy(Qt::TabFocus);
-    m_rate->setMinimumWidth(m_rate->fontMetrics().horizontalAdvance(percentText(8)) + 20);
+    followSizes(m_rate, [this] {
+        m_rate->setFixedHeight(sizes().barButton);
+        m_rate->setMinimumWidth(m_rate->fontMetrics().horizontalAdvance(percentText(8)) + 20);
+    });
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

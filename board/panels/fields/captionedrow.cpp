@@ -1,5 +1,6 @@
 #include "panels/fields/captionedrow.h"
 
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtCore/QEvent>
@@ -36,7 +37,7 @@ void CaptionedRow::arrange()
     // Beside the first line of fields that have several.
     m_layout->setAlignment(m_caption, isBeside ? Qt::AlignTop : Qt::Alignment());
     m_caption->setWordWrap(!isBeside);
-    m_caption->setMinimumSize(isBeside ? captionWidth : 0, isBeside ? fieldHeight : 0);
+    m_caption->setMinimumSize(isBeside ? captionWidth : 0, isBeside ? sizes().field : 0);
     m_caption->setMaximumWidth(isBeside ? captionWidth : QWIDGETSIZE_MAX);
 }
 

@@ -1,7 +1,7 @@
 #include "panels/fields/numberfield.h"
 
 #include "core/workspace.h"
-#include "look/theme.h"
+#include "look/sizes.h"
 #include "panels/fields/expression.h"
 
 #include <QtGui/QKeyEvent>
@@ -72,7 +72,7 @@ void NumberField::showMixed()
 /// As high as other fields.
 QSize NumberField::sizeHint() const
 {
-    return QDoubleSpinBox::sizeHint().expandedTo({0, fieldHeight});
+    return QDoubleSpinBox::sizeHint().expandedTo({0, sizes().field});
 }
 
 QString NumberField::textFromValue(double number) const

@@ -5,6 +5,8 @@
 #include <core/actions.h>
 #include <core/commands.h>
 #include <core/toolchoice.h>
+#include <look/sizes.h>
+#include <look/theme.h>
 #include <page/pageview.h>
 #include <window/dock.h>
 #include <window/dockbutton.h>
@@ -95,6 +97,7 @@ void TestDock::init()
 {
     useOwnFolders();
     QSettings().clear();
+    board::applyLargeSizes(false);
 }
 
 void TestDock::toolsThatNobodyOffersAreLeftOut()
@@ -316,7 +319,7 @@ void TestDock::largeToolsAreLargeEnoughForFingers()
         QCOMPARE(board.window().topBar()->height(), 96);
     }
     BoardDriver again;
-    QVERIFY(again.window().dock()->isLarge());
+    QVERIFY(board::areSizesLarge());
     QCOMPARE(smallButtons(*again.window().topBar()), QString());
     again.window().setLargeTools(false);
     QCoreApplication::processEvents();
@@ -327,7 +330,7 @@ void TestDock::largeToolsAreLargeEnoughForFingers()
 void TestDock::largeToolsShrinkThenFoldWhereTheyAreTooLong()
 {
     FullDock t;
-    t.dock.setLarge(true);
+    board::applyLargeSizes(true);
     // 16 at the edges, 11 × 64, four gaps of 12 around groups, and eight others of 8.
     t.dock.resize(96, 832);
     QCOMPARE(t.place(Tool::Pen).height(), 64);
@@ -357,7 +360,7 @@ void TestDock::firstTouchOffersLargeToolsOnce()
     touch(board.window().dock()->buttonOf(Tool::Text));
     QVERIFY(board.button("Large buttons"));
     QTest::mouseClick(board.button("Large buttons"), Qt::LeftButton);
-    QVERIFY(board.window().dock()->isLarge());
+    QVERIFY(board::areSizesLarge());
     board.window().setLargeTools(false);
     touch(board.window().dock()->buttonOf(Tool::Pen));
     QVERIFY(!board.button("Large buttons"));

@@ -1,0 +1,208 @@
+// "Large buttons": every part of the window as large as fingers need it.
+
+#include <board/boarddriver.h>
+
+#include <core/commands.h>
+#include <lessons/lessonbar.h>
+#include <look/sizes.h>
+#include <look/theme.h>
+#include <panels/colorbutton.h>
+#include <panels/fields/numberfield.h>
+#include <panels/pagepanel.h>
+#include <panels/palettebutton.h>
+#include <panels/palettepanel.h>
+#include <window/drawer.h>
+#include <window/mainwindow.h>
+#include <window/stylebar.h>
+
+#include <pagehost/pagescene.h>
+
+#include <support/listed.h>
+
+#include <QtCore/QSettings>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QToolButton>
+
+using board::Command;
+using boardtest::BoardDriver;
+
+namespace {
+
+/// The board with a selected shape.
+struct Desk : BoardDriver
+{
+    explicit Desk(bool large)
+    {
+        window().setLargeTools(large);
+        draw(boardtest::rectangle, {500, 300}, {700, 420});
+        QCoreApplication::processEvents();
+    }
+    board::StyleBar *styleBar() const
+    {
+        window().panel()->setOpen(false);
+        QCoreApplication::processEvents();
+        return window().findChild<board::StyleBar *>();
+    }
+    QToolButton *buttonOf(const QWidget *part, Command command) const
+    {
+        const QList<QToolButton *> buttons = part->findChildren<QToolButton *>();
+        for (QToolButton *button : buttons)
+            if (button->defaultAction() == window().commands()->action(command))
+                return button;
+        return nullptr;
+    }
+};
+
+void addSizeRows()
+{
+    QTest::addColumn<bool>("large");
+    QTest::newRow("usual") << false;
+    QTest::newRow("large") << true;
+}
+
+} // namespace
+
+class TestLargeSizes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void styleBar_data() { addSizeRows(); }
+    void styleBar();
+    void styleBarDeletesInsteadOfLocking();
+    void panel_data() { addSizeRows(); }
+    void panel();
+    void palette_data() { addSizeRows(); }
+    void palette();
+    void pageStrip_data() { addSizeRows(); }
+    void pageStrip();
+    void lessonBar_data() { addSizeRows(); }
+    void lessonBar();
+    void menuRows_data() { addSizeRows(); }
+    void menuRows();
+    void lettersGrowAndShrinkAgain();
+    void handlesOnThePage();
+};
+
+void TestLargeSizes::initTestCase()
+{
+    boardtest::useOwnFolders();
+    board::applyTheme(board::Theme::Light);
+}
+
+void TestLargeSizes::init()
+{
+    QSettings().clear();
+    board::applyLargeSizes(false);
+}
+
+void TestLargeSizes::styleBar()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    const board::StyleBar *bar = desk.styleBar();
+    QCOMPARE(bar->height(), large ? 64 : 40);
+    const int side = large ? 56 : 32;
+    QCOMPARE(desk.buttonOf(bar, Command::Duplicate)->size(), QSize(side, side));
+    for (const board::ColorButton *button : support::listed(bar->findChildren<board::ColorButton *>()))
+        QVERIFY(button->height() >= side);
+}
+
+void TestLargeSizes::styleBarDeletesInsteadOfLocking()
+{
+    const Desk desk(true);
+    const board::StyleBar *bar = desk.styleBar();
+    QVERIFY(!desk.buttonOf(bar, Command::Lock)->isVisible());
+    QVERIFY(desk.buttonOf(bar, Command::Delete)->isVisible());
+    desk.window().setLargeTools(false);
+    QVERIFY(desk.buttonOf(bar, Command::Lock)->isVisible());
+    QVERIFY(!desk.buttonOf(bar, Command::Delete)->isVisible());
+}
+
+void TestLargeSizes::panel()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    const board::Drawer *panel = desk.window().panel();
+    QCOMPARE(panel->width(), large ? 360 : 296);
+    const auto fields = panel->findChildren<board::NumberField *>();
+    QVERIFY(!fields.isEmpty());
+    for (const board::NumberField *field : fields)
+        if (field->isVisible())
+            QVERIFY(field->height() >= (large ? 44 : 28));
+}
+
+void TestLargeSizes::palette()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    desk.window().commands()->action(Command::Shapes)->trigger();
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.window().palette()->width(), large ? 440 : 344);
+    const board::PaletteButton *button = desk.window().palettePanel()->buttons().first();
+    QCOMPARE(button->sizeHint().width(), large ? 124 : 92);
+    // Three beside each other.
+    QSet<int> columns;
+    for (const board::PaletteButton *one : desk.window().palettePanel()->buttons())
+        columns.insert(one->x());
+    QCOMPARE(columns.size(), 3);
+}
+
+void TestLargeSizes::pageStrip()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    desk.window().commands()->action(Command::PageStrip)->trigger();
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.window().pages()->height(), large ? 144 : 104);
+}
+
+void TestLargeSizes::lessonBar()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    desk.window().commands()->action(Command::Record)->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(desk.window().lessonBar()->isVisible());
+    QCOMPARE(desk.window().lessonBar()->height(), large ? 88 : 64);
+    QCOMPARE(desk.buttonOf(desk.window().lessonBar(), Command::Record)->height(), large ? 44 : 32);
+}
+
+void TestLargeSizes::menuRows()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    QMenu *menu = desk.window().menus()->actions().first()->menu();
+    menu->popup({0, 0});
+    QCOMPARE(menu->actionGeometry(desk.window().commands()->action(Command::SaveBoard)).height(), large ? 48 : 28);
+    menu->close();
+}
+
+void TestLargeSizes::lettersGrowAndShrinkAgain()
+{
+    const QFont usual = QApplication::font();
+    const Desk desk(true);
+    QCOMPARE(QFontInfo(desk.window().font()).pixelSize(), 18);
+    desk.window().setLargeTools(false);
+    QCOMPARE(desk.window().font(), usual);
+}
+
+void TestLargeSizes::handlesOnThePage()
+{
+    Desk desk(true);
+    QVERIFY(desk.scene().hasLargeHandles());
+    desk.window().setLargeTools(false);
+    QVERIFY(!desk.scene().hasLargeHandles());
+    // Pages that are shown later have them, too.
+    desk.window().setLargeTools(true);
+    desk.window().commands()->action(Command::AddPage)->trigger();
+    QVERIFY(desk.scene().hasLargeHandles());
+}
+
+QTEST_MAIN(TestLargeSizes)
+#include "test_largesizes.moc"
