@@ -154,6 +154,13 @@ void Dock::showChoice()
     }
 }
 
+void Dock::setColors(QWidget *colors)
+{
+    m_colors = colors;
+    colors->setParent(this);
+    arrange();
+}
+
 void Dock::setEdge(Qt::Edge edge)
 {
     m_edge = edge;
@@ -195,9 +202,32 @@ QVector<Dock::Measure> Dock::measures() const
 Dock::Measure Dock::fitting() const
 {
     const QVector<Measure> all = measures();
-    const auto fit = std::find_if(all.begin(), all.end(),
-                                  [this](const Measure &measure) { return needed(measure) <= length(); });
-    return fit == all.end() ? all.last() : *fit;
+    for (const int more : {neededForColors(), 0})
+        for (const Measure &measure : all)
+            if (needed(measure) + more <= length())
+                return measure;
+    return all.last();
+}
+
+int Dock::neededForColors() const
+{
+    return m_colors && !isVertical() ? 2 * groupGap + m_colors->sizeHint().width() : 0;
+}
+
+/// Between the tools and the far end.
+void Dock::putColors(int start, int end)
+{
+    if (!m_colors)
+        return;
+    const bool isShown = !isVertical() && start + neededForColors() <= end;
+    m_colors->setVisible(isShown);
+    if (!isShown)
+        return;
+    const QSize size = m_colors->sizeHint();
+    const QRect place(QPoint(start + groupGap, (thickness() - size.height()) / 2), size);
+    m_colors->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    m_lines.append(start + groupGap / 2);
+    m_lines.append(place.right() + groupGap / 2);
 }
 
 int Dock::thickness() const
@@ -215,7 +245,7 @@ QSize Dock::minimumSizeHint() const
 QSize Dock::sizeHint() const
 {
     const QVector<Measure> all = measures();
-    const int usual = needed(all.first());
+    const int usual = needed(all.first()) + neededForColors();
     return isVertical() ? QSize(thickness(), usual) : QSize(usual, thickness());
 }
 
@@ -247,14 +277,17 @@ void Dock::arrange()
         at += measure.side + measure.gap;
     }
     fillMore(measure.isFolded);
-    if (measure.isFolded)
+    if (measure.isFolded) {
         put(m_more, at, measure.side);
+        at += measure.side + measure.gap;
+    }
     int end = length() - edgeGap;
     for (DockButton *button : qAsConst(m_ends)) {
         end -= measure.side;
         put(button, end, measure.side);
         end -= measure.gap;
     }
+    putColors(at - measure.gap, end);
     update();
 }
 

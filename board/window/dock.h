@@ -26,6 +26,8 @@ public:
     /// All must outlive this.
     Dock(const Workspace *workspace, const Commands *commands, ToolChoice *tools, QWidget *parent = nullptr);
 
+    /// Stands behind the tools while the bar lies at the top or the bottom and has room for it.
+    void setColors(QWidget *colors);
     /// The edge of the window that the bar lies at.
     void setEdge(Qt::Edge edge);
     Qt::Edge edge() const { return m_edge; }
@@ -80,6 +82,8 @@ private:
     bool isVertical() const;
     int length() const { return isVertical() ? height() : width(); }
     int needed(const Measure &measure) const;
+    int neededForColors() const;
+    void putColors(int start, int end);
     /// From the widest to the shortest.
     QVector<Measure> measures() const;
     Measure fitting() const;
@@ -93,6 +97,7 @@ private:
     DockButton *m_insert = nullptr;
     DockButton *m_more;
     QMenu *m_moreMenu;
+    QWidget *m_colors = nullptr;
     QVector<DockButton *> m_ends; ///< from the far end
     QVector<int> m_lines;         ///< along the bar
     Qt::Edge m_edge = Qt::LeftEdge;

@@ -53,6 +53,7 @@
 #include "window/fieldundo.h"
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
+#include "window/pencolors.h"
 #include "window/shapefolder.h"
 #include "window/shapetool.h"
 #include "window/shelf.h"
@@ -199,6 +200,7 @@ void MainWindow::layOut()
     m_frame->addLayout(m_body, 1);
     setCentralWidget(centre);
     addPanels();
+    m_dock->setColors(new PenColors(m_tools, m_toolSettings));
     setLargeTools(remembersLargeTools());
     setDockEdge(rememberedDockEdge());
 }

@@ -8,9 +8,11 @@
 #include <look/sizes.h>
 #include <look/theme.h>
 #include <page/pageview.h>
+#include <tools/toolsettings.h>
 #include <window/dock.h>
 #include <window/dockbutton.h>
 #include <window/mainwindow.h>
+#include <window/pencolors.h>
 #include <window/topbar.h>
 
 #include <support/listed.h>
@@ -49,6 +51,8 @@ private Q_SLOTS:
     void barIsAtTheTopAgainWhenTheToolsStandAtASide();
     void largeToolsAreLargeEnoughForFingers();
     void largeToolsShrinkThenFoldWhereTheyAreTooLong();
+    void colorsOfThePenStandInTheOneBar();
+    void aColourInTheBarTakesThePen();
     void firstTouchOffersLargeToolsOnce();
 };
 
@@ -343,6 +347,46 @@ void TestDock::largeToolsShrinkThenFoldWhereTheyAreTooLong()
     QVERIFY(t.dock.moreButton()->isVisible());
     QCOMPARE(t.place(Tool::Pen).height(), 44);
     QVERIFY(t.dock.minimumSizeHint().height() <= 484);
+}
+
+void TestDock::colorsOfThePenStandInTheOneBar()
+{
+    BoardDriver board;
+    board::MainWindow &window = board.window();
+    auto *colors = window.findChild<board::PenColors *>();
+    QVERIFY(!colors->isVisible());
+    window.setDockEdge(Qt::BottomEdge);
+    QCoreApplication::processEvents();
+    QVERIFY(colors->isVisible());
+    const auto buttons = colors->findChildren<QToolButton *>();
+    QCOMPARE(buttons.size(), window.toolSettings()->colors(Tool::Pen).size());
+    const QRect place = colors->geometry();
+    QVERIFY(place.left() > window.dock()->insertButton()->geometry().right());
+    QVERIFY(window.dock()->rect().contains(place));
+    window.resize(960, 540);
+    QCoreApplication::processEvents();
+    QVERIFY(!colors->isVisible());
+}
+
+void TestDock::aColourInTheBarTakesThePen()
+{
+    BoardDriver board;
+    board::MainWindow &window = board.window();
+    window.setDockEdge(Qt::BottomEdge);
+    const auto buttons = window.findChild<board::PenColors *>()->findChildren<QToolButton *>();
+    const QVector<QColor> offered = window.toolSettings()->colors(Tool::Pen);
+    clickOn(buttons.at(2));
+    QCOMPARE(window.tools()->tool(), Tool::Pen);
+    QCOMPARE(window.toolSettings()->color(Tool::Pen), offered.at(2));
+    QVERIFY(buttons.at(2)->isChecked());
+    clickOn(buttons.at(3));
+    QVERIFY(!buttons.at(2)->isChecked());
+    QVERIFY(buttons.at(3)->isChecked());
+    // A press on the present one keeps it.
+    clickOn(buttons.at(3));
+    QVERIFY(buttons.at(3)->isChecked());
+    window.tools()->choose(Tool::Select);
+    QVERIFY(!buttons.at(3)->isChecked());
 }
 
 void TestDock::firstTouchOffersLargeToolsOnce()
