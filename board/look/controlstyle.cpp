@@ -18,7 +18,7 @@ constexpr double roundEdgeWidth = 1.35;
 constexpr double focusWidth = 2;
 constexpr int boxSide = 16;
 /// Above and below the text of a row, at least.
-constexpr int menuRowEdges = 8;
+constexpr int menuRowEdges = 6;
 constexpr double signWidth = 1.75;
 /// Half of a chevron.
 constexpr double chevronWidth = 3.5;
