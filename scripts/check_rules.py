@@ -158,7 +158,8 @@ ROOMS = {
         "panels/settings": "core panels/editors panels/forms",
         "panels/properties": "core panels/editors panels/forms panels/settings",
         "exporting": "look output core documents panels/fields",
-        "window": "look output page core commands presenting clipboard documents exporting lessons tools panels "
+        "accessible": "look page core panels/settings",
+        "window": "look output page core accessible commands presenting clipboard documents exporting lessons tools panels "
         "panels/settings panels/properties",
         "application": "look output objects page core presenting documents lessons panels panels/settings "
         "panels/properties window",

@@ -58,6 +58,7 @@ struct Situation
     QSize size = pictureSize;
     Theme theme = Theme::Light;
     double pixels = 1;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
 constexpr Situation situations[] = {{"01-first-start", "empty"},
@@ -77,7 +78,9 @@ constexpr Situation situations[] = {{"01-first-start", "empty"},
                                     {"15-1024x600", "settings", QSize(1024, 600)},
                                     {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2},
                                     {"17-large-buttons", "large", QSize(1920, 1080)},
-                                    {"18-one-large-bar", "onebar", QSize(1920, 1080)}};
+                                    {"18-one-large-bar", "onebar", QSize(1920, 1080)},
+                                    {"19-right-to-left", "settings", pictureSize, Theme::Light, 1, Qt::RightToLeft},
+                                    {"20-high-contrast", "selected", pictureSize, Theme::HighContrast}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -360,6 +363,7 @@ bool takeAll(Workspace &workspace, const QString &folder)
     for (const Situation &situation : situations) {
         applyLargeSizes(false);
         applyTheme(situation.theme);
+        QApplication::setLayoutDirection(situation.direction);
         workspace.replaceDocument(std::make_unique<pagehost::Document>());
         const QString file = QDir(folder).filePath(QLatin1String(situation.name) + QStringLiteral(".png"));
         areTaken &= take(workspace, situation, file, {});

@@ -12,6 +12,7 @@
 #include "documents/recovery.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonexport.h"
+#include "look/motion.h"
 #include "look/theme.h"
 #include "output/pageexport.h"
 #include "presenting/presentation.h"
@@ -178,6 +179,15 @@ int work(Workspace &workspace, const Options &options)
     }
 }
 
+/// Pictures don't depend on who takes them.
+Theme themeFor(const Options &options)
+{
+    const bool isSeen = options.action == Options::OpenWindow;
+    if (isSeen && remembersHighContrast() && !options.dark)
+        return Theme::HighContrast;
+    return options.dark || (isSeen && remembersDarkColors()) ? Theme::Dark : Theme::Light;
+}
+
 } // namespace
 
 int runBoard(int argc, char **argv)
@@ -193,10 +203,12 @@ int runBoard(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("org.gliololok.Board"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.gliololok.Board")));
     QApplication::setApplicationVersion(QStringLiteral(BOARD_VERSION));
-    const bool dark = options.dark || (options.action == Options::OpenWindow && remembersDarkColors());
-    applyTheme(dark ? Theme::Dark : Theme::Light);
+    applyTheme(themeFor(options));
+    setMotionReduced(remembersReducedMotion());
 
     Workspace workspace(options.language.isEmpty() ? QLocale::system().name() : options.language);
+    if (QLocale(workspace.localizer().language()).textDirection() == Qt::RightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
     workspace.registry().addFolders(options.shapeFolders);
     // Only folders that are there can be watched.
     QDir().mkpath(userShapeFolder());

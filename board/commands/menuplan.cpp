@@ -111,7 +111,9 @@ MenuPlan viewPlan()
             Command::NextPart,
             Command::PreviousPart,
             separator(),
-            Command::DarkColors};
+            Command::DarkColors,
+            Command::HighContrast,
+            Command::ReducedMotion};
 }
 
 MenuPlan helpPlan()

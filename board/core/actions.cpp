@@ -6,6 +6,7 @@
 #include "core/shortcuts.h"
 #include "core/windowmemory.h"
 #include "core/workspace.h"
+#include "look/motion.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 
@@ -135,11 +136,35 @@ void Actions::makeViewActions()
     fitPage = m_commands->perform(Command::FitPage, this, [this] { m_view->fitPage(); });
     m_commands->perform(Command::ZoomToSelection, this, [this] { zoomToSelection(); });
     playAnimation = m_commands->perform(Command::Animations);
+    makeLookActions();
+}
+
+void Actions::makeLookActions()
+{
     darkColors = m_commands->perform(Command::DarkColors, this, [this] {
-        applyTheme(darkColors->isChecked() ? Theme::Dark : Theme::Light);
         rememberDarkColors(darkColors->isChecked());
+        showTheme();
     });
-    darkColors->setChecked(currentTheme() == Theme::Dark);
+    darkColors->setChecked(currentTheme() == Theme::Dark ||
+                           (currentTheme() == Theme::HighContrast && remembersDarkColors()));
+    highContrast = m_commands->perform(Command::HighContrast, this, [this] {
+        rememberHighContrast(highContrast->isChecked());
+        showTheme();
+    });
+    highContrast->setChecked(currentTheme() == Theme::HighContrast);
+    QAction *motion = m_commands->perform(Command::ReducedMotion);
+    motion->setChecked(isMotionReduced());
+    connect(motion, &QAction::toggled, this, [](bool reduced) {
+        rememberReducedMotion(reduced);
+        setMotionReduced(reduced);
+    });
+}
+
+/// High contrast has the colours of the desktop, light or dark.
+void Actions::showTheme()
+{
+    const Theme usual = darkColors->isChecked() ? Theme::Dark : Theme::Light;
+    applyTheme(highContrast->isChecked() ? Theme::HighContrast : usual);
 }
 
 void Actions::makePageActions()

@@ -35,7 +35,7 @@ public:
     QAction *mirrorHorizontally, *mirrorVertically, *rotateLeft, *rotateRight;
     QAction *zoomIn, *zoomOut, *actualSize, *fitPage, *playAnimation;
     QAction *addPage, *removePage, *previousPage, *nextPage;
-    QAction *darkColors, *quit, *about;
+    QAction *darkColors, *highContrast, *quit, *about;
 
 Q_SIGNALS:
     /// Undo or redo comes next: what is only shown must go first.
@@ -48,6 +48,8 @@ private:
     void arrange(Command command, const std::function<void(const QVector<CBaseObject *> &)> &work);
     QVector<QVector<CBaseObject *>> units(const QVector<CBaseObject *> &objects) const;
     void makeViewActions();
+    void makeLookActions();
+    void showTheme();
     void makePageActions();
     void makeProgramActions();
     void nameHistory();

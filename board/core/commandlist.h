@@ -115,6 +115,8 @@ enum class Command {
     FingersDraw,
     Animations,
     DarkColors,
+    HighContrast,
+    ReducedMotion,
     Panel,
     AllProperties,
     NextPart,

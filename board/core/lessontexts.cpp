@@ -31,6 +31,8 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_HINT",
          QT_TRANSLATE_NOOP(
              "board", "A lesson is shown, your board stays as it is · F8 plays and pauses · Shift+F8 goes back")},
+        {"IDS_LESSON_BEGUN", QT_TRANSLATE_NOOP("board", "Recording has begun")},
+        {"IDS_LESSON_ENDED", QT_TRANSLATE_NOOP("board", "Recording has ended")},
         {"IDS_LESSON_RECORDING", QT_TRANSLATE_NOOP("board", "Recording  %1")},
         {"IDS_LESSON_RECORDING_PAUSED", QT_TRANSLATE_NOOP("board", "Recording paused  %1")},
         {"IDS_LESSON_TIME", QT_TRANSLATE_NOOP("board", "%1 / %2")},

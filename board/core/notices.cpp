@@ -1,6 +1,7 @@
 #include "core/notices.h"
 
 #include "core/workspace.h"
+#include "look/accessiblerole.h"
 #include "look/icons.h"
 #include "look/theme.h"
 
@@ -39,6 +40,8 @@ Notices::Notices(const Workspace *workspace, QWidget *parent)
 {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(1);
+    setAccessibleRole(this, QAccessible::Pane);
+    setAccessibleName(workspace->text("IDS_BOARD_MESSAGES"));
     hide();
 }
 
@@ -48,6 +51,7 @@ QWidget *Notices::add(const Notice &notice)
     QWidget *bar = makeBar(notice);
     m_column->addWidget(bar);
     show();
+    announce(bar, bar->accessibleName());
     return bar;
 }
 
@@ -73,7 +77,9 @@ QWidget *Notices::makeBar(const Notice &notice)
 {
     auto *bar = new QFrame(this);
     bar->setObjectName(notice.id);
-    bar->setAccessibleName(notice.text);
+    setAccessibleRole(bar, QAccessible::AlertMessage);
+    bar->setAccessibleName(
+        QStringList{notice.text, notice.details.join(QStringLiteral(". "))}.join(QLatin1Char(' ')).trimmed());
     bar->setAutoFillBackground(true);
     bar->setBackgroundRole(QPalette::AlternateBase);
     auto *row = new QHBoxLayout(bar);

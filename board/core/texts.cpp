@@ -56,6 +56,8 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_FIT_PAGE", QT_TRANSLATE_NOOP("board", "Fit page")},
     {"IDS_BOARD_ANIMATION", QT_TRANSLATE_NOOP("board", "Play animations")},
     {"IDS_BOARD_DARK", QT_TRANSLATE_NOOP("board", "Dark colours")},
+    {"IDS_BOARD_HIGH_CONTRAST", QT_TRANSLATE_NOOP("board", "High contrast")},
+    {"IDS_BOARD_REDUCED_MOTION", QT_TRANSLATE_NOOP("board", "Reduced motion")},
     {"IDS_BOARD_ADD_PAGE", QT_TRANSLATE_NOOP("board", "Add page")},
     {"IDS_BOARD_REMOVE_PAGE", QT_TRANSLATE_NOOP("board", "Remove page")},
     {"IDS_BOARD_PREVIOUS_PAGE", QT_TRANSLATE_NOOP("board", "Previous page")},
@@ -75,8 +77,6 @@ constexpr TextEntry entries[] = {
     {"IDS_BOARD_HISTORY_START", QT_TRANSLATE_NOOP("board", "Start")},
     {"IDS_BOARD_PAGE", QT_TRANSLATE_NOOP("board", "Page")},
     {"IDS_BOARD_SEVERAL", QT_TRANSLATE_NOOP("board", "%1 objects")},
-
-    {"IDS_BOARD_SELECTED", QT_TRANSLATE_NOOP("board", "selected: %1")},
 
     {"IDS_BOARD_FILL", QT_TRANSLATE_NOOP("board", "Fill")},
     {"IDS_BOARD_FILL_NONE", QT_TRANSLATE_NOOP("board", "No fill")},
@@ -133,6 +133,7 @@ QVector<TextEntry> textEntries()
     all += clipboardTexts();
     all += commandTexts();
     all += formTexts();
+    all += readerTexts();
     all += windowTexts();
     all += lessonTexts();
     all += toolTexts();

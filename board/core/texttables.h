@@ -23,6 +23,8 @@ QVector<TextEntry> lessonTexts();
 QVector<TextEntry> windowTexts();
 /// Texts of the panels that list what can be set.
 QVector<TextEntry> formTexts();
+/// Words for screen readers.
+QVector<TextEntry> readerTexts();
 /// Texts of the tools that draw on the page, and of their settings.
 QVector<TextEntry> toolTexts();
 

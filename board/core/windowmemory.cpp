@@ -1,5 +1,7 @@
 #include "core/windowmemory.h"
 
+#include "look/desktopwishes.h"
+
 #include <QtCore/QSettings>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -16,6 +18,8 @@ const QString dockKey = QStringLiteral("window/dock");
 const QString largeToolsKey = QStringLiteral("window/largeTools");
 const QString largeToolsOfferedKey = QStringLiteral("window/largeToolsOffered");
 const QString darkKey = QStringLiteral("window/dark");
+const QString highContrastKey = QStringLiteral("window/highContrast");
+const QString reducedMotionKey = QStringLiteral("window/reducedMotion");
 const QString snappingKey = QStringLiteral("window/snapping");
 const QString fingersDrawKey = QStringLiteral("window/fingersDraw");
 const QString gridKey = QStringLiteral("window/grid");
@@ -47,10 +51,10 @@ void rememberWindow(const QMainWindow *window)
 Qt::Edge rememberedDockEdge()
 {
     const int edge = QSettings().value(dockKey).toInt();
-    for (const Qt::Edge known : {Qt::TopEdge, Qt::RightEdge, Qt::BottomEdge})
+    for (const Qt::Edge known : {Qt::TopEdge, Qt::LeftEdge, Qt::RightEdge, Qt::BottomEdge})
         if (known == edge)
             return known;
-    return Qt::LeftEdge;
+    return QGuiApplication::isRightToLeft() ? Qt::RightEdge : Qt::LeftEdge;
 }
 
 void rememberDockEdge(Qt::Edge edge)
@@ -96,6 +100,28 @@ bool remembersDarkColors()
 void rememberDarkColors(bool dark)
 {
     QSettings().setValue(darkKey, dark);
+}
+
+bool remembersHighContrast()
+{
+    const QVariant chosen = QSettings().value(highContrastKey);
+    return chosen.isValid() ? chosen.toBool() : desktopWantsHighContrast();
+}
+
+void rememberHighContrast(bool high)
+{
+    QSettings().setValue(highContrastKey, high);
+}
+
+bool remembersReducedMotion()
+{
+    const QVariant chosen = QSettings().value(reducedMotionKey);
+    return chosen.isValid() ? chosen.toBool() : desktopWantsReducedMotion();
+}
+
+void rememberReducedMotion(bool reduced)
+{
+    QSettings().setValue(reducedMotionKey, reduced);
 }
 
 bool remembersSnapping()

@@ -11,7 +11,7 @@ namespace board {
 void restoreWindow(QMainWindow *window);
 void rememberWindow(const QMainWindow *window);
 
-/// The edge of the window that the user's tools lie at; at first the left one.
+/// The edge of the window that the user's tools lie at; at first the one where lines of text begin.
 Qt::Edge rememberedDockEdge();
 void rememberDockEdge(Qt::Edge edge);
 
@@ -29,6 +29,12 @@ void rememberPinned(Pane pane, bool pinned);
 /// Whether the user has chosen dark colours.
 bool remembersDarkColors();
 void rememberDarkColors(bool dark);
+
+/// Whether colours shall have the highest contrast, and nothing shall move; at first what the desktop wants.
+bool remembersHighContrast();
+void rememberHighContrast(bool high);
+bool remembersReducedMotion();
+void rememberReducedMotion(bool reduced);
 
 /// Whether drags snap; at first they do.
 bool remembersSnapping();

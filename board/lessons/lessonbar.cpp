@@ -4,6 +4,7 @@
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
 #include "lessons/timeline.h"
+#include "look/accessiblerole.h"
 #include "look/icons.h"
 #include "look/sizedbuttons.h"
 #include "look/sizes.h"
@@ -68,6 +69,7 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     , m_close(new QPushButton(menu->close->text()))
 {
     setObjectName(QStringLiteral("lessonBar"));
+    setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_LESSON_BAR"));
     m_timeLine->setAccessibleName(workspace->text("IDS_LESSON_TIMELINE"));
     m_list->setAccessibleName(workspace->text("IDS_LESSON_CHOOSE"));
@@ -76,6 +78,8 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_time->setMinimumWidth(m_time->fontMetrics().horizontalAdvance(QStringLiteral("00:00 / 00:00")));
     m_time->setAlignment(Qt::AlignCenter);
+    m_time->setLayoutDirection(Qt::LeftToRight);
+    setAccessibleRole(m_message, QAccessible::AlertMessage);
     makeSpeeds();
     makeName();
     layOut(*menu);
@@ -194,6 +198,10 @@ void LessonBar::showState()
     m_message->setVisible(!playable);
     m_message->setForegroundRole(recording ? QPalette::WindowText : QPalette::PlaceholderText);
     m_close->setVisible(m_lessons->isShowing());
+    // Not with every second.
+    if (recording != m_toldRecording)
+        announce(m_message, m_workspace->text(recording ? "IDS_LESSON_BEGUN" : "IDS_LESSON_ENDED"));
+    m_toldRecording = recording;
     if (recording)
         m_clock.start();
     else

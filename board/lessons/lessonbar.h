@@ -64,6 +64,7 @@ private:
     QToolButton *m_remove;
     QPushButton *m_close;
     QTimer m_clock; ///< while recording
+    bool m_toldRecording = false;
 };
 
 } // namespace board

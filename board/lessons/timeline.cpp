@@ -31,6 +31,8 @@ TimeLine::TimeLine(QWidget *parent)
     setSingleStep(keyStep);
     setPageStep(largeKeyStep);
     setFocusPolicy(Qt::StrongFocus);
+    // Time runs to the right in every language.
+    setLayoutDirection(Qt::LeftToRight);
     // Keys and the wheel change the value; what a program sets goes through setPosition().
     connect(this, &QSlider::valueChanged, this, [this](int time) { Q_EMIT momentWanted(time); });
 }

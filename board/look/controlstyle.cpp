@@ -1,5 +1,6 @@
 #include "look/controlstyle.h"
 
+#include "look/motion.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 
@@ -12,7 +13,6 @@ namespace board {
 namespace {
 
 constexpr double fieldRadius = 4;
-constexpr double edgeWidth = 1;
 /// Round edges are paler where they cross pixels.
 constexpr double roundEdgeWidth = 1.35;
 constexpr double focusWidth = 2;
@@ -55,7 +55,7 @@ QColor signColor(bool enabled)
 void paintBox(QPainter *painter, const QRect &rect, const QStyleOption &option, const QColor &background,
               double radius = fieldRadius)
 {
-    const double usual = radius > fieldRadius ? roundEdgeWidth : edgeWidth;
+    const double usual = radius > fieldRadius ? roundEdgeWidth * edgeWidth() : edgeWidth();
     const double width = hasFocus(option) ? focusWidth : usual;
     painter->setPen(QPen(edgeColor(option), width));
     painter->setBrush(background);
@@ -255,6 +255,13 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, co
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+int ControlStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                            QStyleHintReturn *returned) const
+{
+    const bool isMotion = hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration;
+    return isMotion && isMotionReduced() ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,

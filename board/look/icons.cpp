@@ -15,6 +15,12 @@ namespace {
 constexpr double lineWidth = 1.75;
 constexpr int shadeAlpha = 70;
 
+/// Pictures of before and after.
+bool pointsAlongText(Icon which)
+{
+    return which == Icon::Previous || which == Icon::Next || which == Icon::Undo || which == Icon::Redo;
+}
+
 class ShapeIconEngine : public QIconEngine
 {
 public:
@@ -38,6 +44,8 @@ public:
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());
         painter->scale(rect.width() / iconGrid, rect.height() / iconGrid);
+        if (pointsAlongText(m_which) && QGuiApplication::isRightToLeft())
+            painter->setTransform(QTransform(-1, 0, 0, 1, iconGrid, 0), true);
         painter->fillPath(shape.shades, shade);
         painter->fillPath(shape.areas, color);
         painter->strokePath(shape.lines, QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -18,10 +18,11 @@ void paintSurface(QPainter *painter, const QRect &rect)
 {
     const int radius = areSizesLarge() ? largeRadius : usualRadius;
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(themeColors().border);
+    painter->setPen(QPen(themeColors().border, edgeWidth()));
     painter->setBrush(themeColors().surface);
-    // Half a pixel inside, so that the border covers whole pixels.
-    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    // Half of it inside, so that the border covers whole pixels.
+    const double half = edgeWidth() / 2.0;
+    painter->drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), radius, radius);
 }
 
 } // namespace board

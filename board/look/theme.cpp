@@ -1,5 +1,6 @@
 #include "look/theme.h"
 
+#include "look/contrast.h"
 #include "look/controlstyle.h"
 #include "look/sizes.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 Theme theCurrentTheme = Theme::Light;
 bool isThemed = false;
+ThemeColors theHighContrast;
 
 const ThemeColors lightColors{QColor(0xfff7f8fa), QColor(0xffffffff),  QColor(0xffe4e8ee),  QColor(0xffffffff),
                               QColor(0xff1f2630), QColor(0xff566070),  QColor(0xff8f98a4),  QColor(0xff2563cf),
@@ -23,7 +25,7 @@ const ThemeColors darkColors{QColor(0xff22262d), QColor(0xff2a2f37),   QColor(0x
                              QColor(0xff0f1725), QColor(0xff29395a),   QColor(0xff3c434e),   QColor(0xff7f8a99),
                              QColor(0xff333943), QColor(0xffff8f87),   QColor(0xff6fd39a),   QColor(0xfff0c05a),
                              QColor(0xffff6b6b), QColor(0, 0, 0, 128), QColor(0, 0, 0, 110), QColor(0xffc9d1da)};
-/// Bubbles are dark in every theme.
+/// Bubbles are dark in light and dark themes.
 constexpr QRgb bubbleColor = 0xff1f2630;
 constexpr QRgb bubbleText = 0xfff2f4f6;
 
@@ -37,8 +39,9 @@ QPalette paletteOf(const ThemeColors &colors)
     palette.setColor(QPalette::HighlightedText, colors.onAccent);
     palette.setColor(QPalette::Link, colors.accent);
     palette.setColor(QPalette::PlaceholderText, colors.faint);
-    palette.setColor(QPalette::ToolTipBase, QColor(bubbleColor));
-    palette.setColor(QPalette::ToolTipText, QColor(bubbleText));
+    const bool isHigh = theCurrentTheme == Theme::HighContrast;
+    palette.setColor(QPalette::ToolTipBase, isHigh ? colors.text : QColor(bubbleColor));
+    palette.setColor(QPalette::ToolTipText, isHigh ? colors.bar : QColor(bubbleText));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, colors.disabled);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, colors.border);
@@ -57,11 +60,19 @@ QString rgbaText(const QColor &color)
         .arg(color.alpha());
 }
 
+/// All backgrounds are the same: edges tell what is chosen, and which control has the focus.
+const QString highContrastRules = QStringLiteral(R"(
+QToolButton:hover, QToolButton:checked { border: 2px solid %text; padding: 4px; }
+QToolButton:focus { border: 2px dashed %accent; padding: 4px; }
+QMenuBar::item:selected, QMenuBar::item:pressed { border: 2px solid %text; padding: 5px 8px; }
+QUndoView::item:selected { border: 2px solid %text; }
+)");
+
 /// Only what the Fusion style can't be told through the palette.
 QString styleSheet()
 {
     static const QString pattern = QStringLiteral(R"(
-QToolButton { border: 1px solid transparent; border-radius: 8px; padding: 5px; }
+QToolButton { border: %edge solid transparent; border-radius: 8px; padding: 5px; }
 QToolButton:hover { background: %hover; }
 QToolButton:pressed { background: %border; }
 QToolButton:checked { background: %soft; color: %accent; }
@@ -78,7 +89,7 @@ QListView { background: %bar; }
 QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }
 QUndoView::item:selected { background: %soft; color: %text; }
 QUndoView::item:hover { background: %hover; }
-QLineEdit { border: 1px solid %control; border-radius: 4px; padding: 4px 6px; background: %field;
+QLineEdit { border: %edge solid %control; border-radius: 4px; padding: 4px 6px; background: %field;
             min-height: %linepx; }
 QLineEdit:focus { border-color: %accent; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; min-height: 0; }
@@ -92,8 +103,9 @@ QAbstractScrollArea::corner { background: transparent; }
 QToolTip { border: none; padding: 4px 6px; }
 )");
     const ThemeColors colors = themeColors();
-    QString sheet = pattern;
+    QString sheet = theCurrentTheme == Theme::HighContrast ? pattern + highContrastRules : pattern;
     sheet.replace("%line", QString::number(sizes().field - edgesOfField));
+    sheet.replace("%edge", QStringLiteral("%1px").arg(edgeWidth()));
     sheet.replace("%border", rgbaText(colors.border));
     sheet.replace("%faint", rgbaText(colors.faint));
     sheet.replace("%disabled", rgbaText(colors.disabled));
@@ -112,8 +124,11 @@ QToolTip { border: none; padding: 4px 6px; }
 
 void applyTheme(Theme theme)
 {
+    // Before the first palette of our own.
+    static const QPalette desktop = QGuiApplication::palette();
     theCurrentTheme = theme;
     isThemed = true;
+    theHighContrast = highContrastColors(desktop);
     QApplication::setStyle(new ControlStyle);
     QApplication::setPalette(paletteOf(themeColors()));
     qApp->setStyleSheet(styleSheet());
@@ -142,7 +157,14 @@ void applyLargeSizes(bool large)
 
 ThemeColors themeColors()
 {
+    if (theCurrentTheme == Theme::HighContrast)
+        return theHighContrast;
     return theCurrentTheme == Theme::Dark ? darkColors : lightColors;
+}
+
+int edgeWidth()
+{
+    return theCurrentTheme == Theme::HighContrast ? 2 : 1;
 }
 
 } // namespace board

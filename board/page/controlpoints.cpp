@@ -7,6 +7,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 namespace board {
@@ -98,6 +99,37 @@ QString valueOf(const ControlPoint &point)
     if (point.movesDown)
         numbers.append(numberText(point.place.y()));
     return numbers.join(separator + QLatin1Char(' '));
+}
+
+std::optional<double> numberIn(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("[-−]?[0-9]+([.,][0-9]+)?"));
+    const QRegularExpressionMatch first = pattern.match(text);
+    if (!first.hasMatch() || pattern.match(text, first.capturedEnd()).hasMatch())
+        return std::nullopt;
+    QString number = first.captured();
+    return number.replace(QChar(u'−'), QLatin1Char('-')).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
+}
+
+std::optional<QPair<double, double>> valueRangeOf(CBaseObject &object, int number)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!object.GetSpecialProperty(pagehost::ControlPointEnds, out))
+        return std::nullopt;
+    QDataStream in(bytes);
+    qint32 count = 0;
+    in >> count;
+    for (int i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        qint32 which = 0;
+        QString start, end;
+        in >> which >> start >> end;
+        const std::optional<double> first = numberIn(start);
+        const std::optional<double> second = numberIn(end);
+        if (which == number && first && second)
+            return qMakePair(qMin(*first, *second), qMax(*first, *second));
+    }
+    return std::nullopt;
 }
 
 QPointF placeFrom(const QString &text, const ControlPoint &point)

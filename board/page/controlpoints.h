@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QtCore/QPair>
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
 #include <QtCore/QString>
 #include <QtCore/QVector>
+
+#include <optional>
 
 class CBaseObject;
 
@@ -35,6 +38,11 @@ ControlPoint controlPointOf(CBaseObject &object, int number);
 QRectF limitsOf(const ControlPoint &point, const CBaseObject &object);
 /// The value that it sets, or its place in the object: "120", "120; 40".
 QString valueOf(const ControlPoint &point);
+/// The only number of a text; none where it has several.
+std::optional<double> numberIn(const QString &text);
+/// The numbers in what a point that moves one way sets at the ends of its range, the smaller one first; none where
+/// the shape doesn't say.
+std::optional<QPair<double, double>> valueRangeOf(CBaseObject &object, int number);
 /// The place that such a text names; the present one where the text is none.
 QPointF placeFrom(const QString &text, const ControlPoint &point);
 

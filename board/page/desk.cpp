@@ -23,6 +23,13 @@ constexpr int repaintMargin = 2;
 /// Of the desk's colour over what hangs off the page.
 constexpr double veilOpacity = 0.6;
 
+/// Paper covers all but the edge itself.
+QRectF edgeAround(const QRectF &page, double zoom)
+{
+    const double width = edgeWidth() / zoom;
+    return page.adjusted(-width, -width, width, width);
+}
+
 /// The parts of `exposed` that lie left, right, above and below of the page, without overlaps.
 QVector<QRectF> sidesOf(const QRectF &page, const QRectF &exposed)
 {
@@ -50,6 +57,8 @@ void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, bool isBar
 void paintShadow(QPainter *painter, const QRectF &page, double zoom)
 {
     painter->save();
+    if (currentTheme() == Theme::HighContrast)
+        painter->fillRect(edgeAround(page, zoom), themeColors().border);
     painter->setPen(Qt::NoPen);
     QColor shadow = themeColors().pageShadow;
     shadow.setAlpha(shadow.alpha() / shadowSize);
@@ -69,7 +78,7 @@ void paintPaper(QPainter *painter, const QRectF &page)
 void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &page)
 {
     const QRectF paper = page.rect();
-    if (paper.contains(exposed))
+    if (paper.contains(exposed) || currentTheme() == Theme::HighContrast)
         return;
     QPainterPath outside;
     outside.setFillRule(Qt::WindingFill);

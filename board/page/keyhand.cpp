@@ -11,7 +11,6 @@
 #include <pagehost/pagescene.h>
 
 #include <QtCore/QLineF>
-#include <QtCore/QRegularExpression>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsView>
@@ -63,17 +62,6 @@ QPointF wayOf(int key)
     default:
         return {};
     }
-}
-
-/// The only number of a text.
-std::optional<double> numberIn(const QString &text)
-{
-    static const QRegularExpression pattern(QStringLiteral("[-−]?[0-9]+([.,][0-9]+)?"));
-    const QRegularExpressionMatch first = pattern.match(text);
-    if (!first.hasMatch() || pattern.match(text, first.capturedEnd()).hasMatch())
-        return std::nullopt;
-    QString number = first.captured();
-    return number.replace(QChar(u'−'), QLatin1Char('-')).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
 }
 
 bool beginsNumber(const QString &text)
@@ -245,13 +233,42 @@ bool KeyHand::moveTo(const QPointF &place)
 
 bool KeyHand::putPoint(CBaseObject *object, int number, const QPointF &place)
 {
-    finish();
-    if (this->object() != object)
-        focus(object, {});
+    if (!take(object, Point, number))
+        return false;
     const bool isMoved = m_drag.movePoint(m_page, object, number, object->mapToScene(place));
     finish();
     m_view->viewport()->update();
+    Q_EMIT focusMoved();
     return isMoved;
+}
+
+bool KeyHand::take(CBaseObject *object, Part part, int number)
+{
+    if (!isEditable() || !m_page->contains(object) || !stopsOf(object).contains({part, number}))
+        return false;
+    focus(object, {part, number});
+    return true;
+}
+
+bool KeyHand::putValue(CBaseObject *object, int number, double value)
+{
+    const ControlPoint point = controlPointOf(*object, number);
+    if (point.movesAcross == point.movesDown || !numberIn(point.hint) || !take(object, Point, number))
+        return false;
+    approach(point, value);
+    Q_EMIT focusMoved();
+    return true;
+}
+
+bool KeyHand::turnTo(CBaseObject *object, double degrees)
+{
+    if (!take(object, Turn))
+        return false;
+    m_drag.turn(object, degrees - object->rotation());
+    finish();
+    m_view->viewport()->update();
+    Q_EMIT focusMoved();
+    return true;
 }
 
 bool KeyHand::resize(const QKeyEvent &event)
@@ -280,7 +297,7 @@ void KeyHand::ask(const QString &firstLetter)
     delete m_field;
     m_field = new QLineEdit(firstLetter, m_view->viewport());
     m_field->setObjectName(QStringLiteral("pointValue"));
-    m_field->setAccessibleName(told());
+    m_field->setAccessibleName(told(object(), m_stop.number));
     m_field->setFixedWidth(fieldWidth);
     m_field->move(m_view->mapFromScene(placeOfFocus()) + QPoint(bubbleGap, bubbleGap));
     connect(m_field, &QLineEdit::returnPressed, this, &KeyHand::answer);
@@ -295,7 +312,7 @@ void KeyHand::answer()
     const ControlPoint point = part() == Point ? controlPointOf(*object(), m_stop.number) : ControlPoint();
     const std::optional<double> wanted = numberIn(m_field->text());
     if (point.number != 0 && wanted && point.movesAcross != point.movesDown && numberIn(point.hint))
-        putValue(point, *wanted);
+        approach(point, *wanted);
     else if (point.number != 0)
         putPoint(object(), point.number, placeFrom(m_field->text(), point));
     m_view->setFocus();
@@ -314,7 +331,7 @@ bool KeyHand::eventFilter(QObject *watched, QEvent *event)
 
 /// The value of the point is a number that only the shape can work out. It mostly grows evenly along the way, so
 /// that the value at one end leads to the place, or near it.
-void KeyHand::putValue(const ControlPoint &point, double wanted)
+void KeyHand::approach(const ControlPoint &point, double wanted)
 {
     const QRectF limits = limitsOf(point, *object());
     const QPointF farther = point.place.x() + point.place.y() - limits.left() - limits.top() >
@@ -353,9 +370,9 @@ QPointF KeyHand::placeOfFocus() const
     }
 }
 
-QString KeyHand::told() const
+QString KeyHand::told(CBaseObject *object, int number) const
 {
-    const ControlPoint point = controlPointOf(*object(), m_stop.number);
+    const ControlPoint point = controlPointOf(*object, number);
     if (!point.hint.isEmpty())
         return point.hint;
     return m_pointName.arg(point.number) + QStringLiteral(": ") + valueOf(point);
@@ -382,7 +399,7 @@ void KeyHand::paintRing(QPainter *painter, const QPoint &middle) const
 
 void KeyHand::paintBubble(QPainter *painter, const QPoint &top) const
 {
-    const QString text = told();
+    const QString text = told(object(), m_stop.number);
     const QPalette palette = m_view->palette();
     QRect bubble = painter->fontMetrics().boundingRect(text).marginsAdded(bubbleInside);
     bubble.moveTopLeft(

@@ -33,6 +33,8 @@ public:
 
     /// How points without a meaning are called ("Point %1").
     void setPointName(const QString &pattern) { m_pointName = pattern; }
+    /// The present one of the object: what it sets, else its name and place.
+    QString told(CBaseObject *object, int number) const;
     /// To the next thing on the page, from the last to the first; false on an empty page.
     bool walk(bool forward);
     /// To the next object.
@@ -43,8 +45,14 @@ public:
     bool goBack();
     /// The key was let go: what it has done is one undo step.
     void finish() { m_drag.finish(); }
-    /// Moves a point as keys do, as an undo step of its own; item coordinates.
+    /// Selects the object and takes it, or a part of it. False where the page can't be edited.
+    bool take(CBaseObject *object, Part part = Whole, int number = 0);
+    /// Moves a point as keys do, as an undo step of its own, and takes it; item coordinates.
     bool putPoint(CBaseObject *object, int number, const QPointF &place);
+    /// The same to where it sets a number, for a point whose hint has one and that moves one way.
+    bool putValue(CBaseObject *object, int number, double value);
+    /// Turns an object that can be turned to an angle, in degrees, as an undo step of its own.
+    bool turnTo(CBaseObject *object, double degrees);
 
     Part part() const;
     /// Number of the control point that has the focus; 0 without one.
@@ -79,9 +87,8 @@ private:
     bool turn(const QKeyEvent &event);
     void ask(const QString &firstLetter);
     void answer();
-    void putValue(const ControlPoint &point, double wanted);
+    void approach(const ControlPoint &point, double wanted);
     QPointF placeOfFocus() const;
-    QString told() const;
     void paintRing(QPainter *painter, const QPoint &middle) const;
     void paintBubble(QPainter *painter, const QPoint &top) const;
 

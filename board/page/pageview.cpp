@@ -65,6 +65,8 @@ PageView::PageView(QWidget *parent)
     , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
+    // A page is the same for readers of every language; bars on it say for themselves how they run.
+    setLayoutDirection(Qt::LeftToRight);
     setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
     setTransformationAnchor(NoAnchor);
     setResizeAnchor(NoAnchor);

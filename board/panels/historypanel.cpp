@@ -12,9 +12,29 @@
 
 namespace board {
 
+namespace {
+
+/// Qt tells screen readers of each new row as if it had the focus.
+class QuietUndoView : public QUndoView
+{
+public:
+    using QUndoView::QUndoView;
+
+protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override
+    {
+        if (hasFocus())
+            QUndoView::currentChanged(current, previous);
+        else
+            QAbstractItemView::currentChanged(current, previous);
+    }
+};
+
+} // namespace
+
 HistoryPanel::HistoryPanel(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
-    , m_view(new QUndoView(CUndoRedo::GetInstance()->stack(), this))
+    , m_view(new QuietUndoView(CUndoRedo::GetInstance()->stack(), this))
 {
     m_view->setItemDelegate(new pagehost::LocalizedDelegate(&workspace->localizer(), m_view));
     m_view->setEmptyLabel(workspace->text("IDS_BOARD_HISTORY_START"));

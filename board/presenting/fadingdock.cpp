@@ -1,9 +1,11 @@
 #include "presenting/fadingdock.h"
 
+#include "look/motion.h"
 #include "look/sizes.h"
 #include "look/surface.h"
 #include "look/theme.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QGraphicsOpacityEffect>
@@ -31,12 +33,12 @@ FadingDock::FadingDock(QWidget *under)
     , m_opacity(new QGraphicsOpacityEffect(this))
 {
     setObjectName(QStringLiteral("presentingDock"));
+    setLayoutDirection(QGuiApplication::layoutDirection());
     setFixedHeight(areSizesLarge() ? largeThickness : thickness);
     m_row->setContentsMargins(mediumGap, mediumGap, mediumGap, mediumGap);
     m_row->setSpacing(smallGap);
     setGraphicsEffect(m_opacity);
     m_opacity->setOpacity(1);
-    m_fading.setDuration(fadeTime);
     connect(&m_fading, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { m_opacity->setOpacity(value.toDouble()); });
     connect(&m_fading, &QVariantAnimation::finished, this, [this] { setVisible(m_isShown); });
@@ -89,6 +91,8 @@ void FadingDock::setShown(bool shown)
     if (shown)
         show();
     m_fading.stop();
+    const bool fades = currentTheme() != Theme::HighContrast;
+    m_fading.setDuration(fades ? timeOf(Motion::PresentingBar) : 0);
     m_fading.setStartValue(m_opacity->opacity());
     m_fading.setEndValue(shown ? 1.0 : 0.0);
     m_fading.start();

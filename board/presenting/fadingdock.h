@@ -18,7 +18,6 @@ class FadingDock : public QWidget
 public:
     /// Milliseconds.
     static constexpr int patience = 3000;
-    static constexpr int fadeTime = 300;
     /// How near the pointer must come, logical pixels.
     static constexpr int reach = 120;
 

@@ -1,5 +1,7 @@
 #include "presenting/lasertrail.h"
 
+#include "look/motion.h"
+
 #include <algorithm>
 
 namespace board {
@@ -11,7 +13,8 @@ void LaserTrail::add(const QPointF &pos, qint64 now)
 
 QVector<LaserTrail::Place> LaserTrail::places(qint64 now)
 {
-    const auto isVisible = [now](const Point &point) { return now - point.time < duration; };
+    const int duration = timeOf(Motion::LaserTrail);
+    const auto isVisible = [=](const Point &point) { return now - point.time < duration; };
     m_points.erase(m_points.begin(), std::find_if(m_points.begin(), m_points.end(), isVisible));
     QVector<Place> places;
     for (const Point &point : qAsConst(m_points))

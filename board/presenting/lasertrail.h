@@ -5,12 +5,11 @@
 
 namespace board {
 
-/// The places where a laser pointer was within the last second. Times are milliseconds of any clock.
+/// The places where a laser pointer was within the last second; none while motion is reduced. Times are
+/// milliseconds of any clock.
 class LaserTrail
 {
 public:
-    static constexpr qint64 duration = 1000;
-
     struct Place
     {
         QPointF pos;        ///< scene coordinates

@@ -640,10 +640,6 @@
         <translation>%1 Objekte</translation>
     </message>
     <message>
-        <source>selected: %1</source>
-        <translation>ausgewählt: %1</translation>
-    </message>
-    <message>
         <source>Fill</source>
         <translation>Füllung</translation>
     </message>
@@ -1495,6 +1491,62 @@
     <message>
         <source>The pages could not be printed.</source>
         <translation>Die Seiten konnten nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>1 object</source>
+        <translation>1 Objekt</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: yes</source>
+        <translation>%1: ja</translation>
+    </message>
+    <message>
+        <source>%1: no</source>
+        <translation>%1: nein</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>at %1, %2</source>
+        <translation>bei %1, %2</translation>
+    </message>
+    <message>
+        <source>turned by %1°</source>
+        <translation>um %1° gedreht</translation>
+    </message>
+    <message>
+        <source>Point %1</source>
+        <translation>Punkt %1</translation>
+    </message>
+    <message>
+        <source>%1, across</source>
+        <translation>%1, waagerecht</translation>
+    </message>
+    <message>
+        <source>%1, down</source>
+        <translation>%1, senkrecht</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Reduced motion</source>
+        <translation>Weniger Bewegung</translation>
+    </message>
+    <message>
+        <source>Recording has begun</source>
+        <translation>Die Aufnahme läuft</translation>
+    </message>
+    <message>
+        <source>Recording has ended</source>
+        <translation>Die Aufnahme ist beendet</translation>
     </message>
 </context>
 </TS>

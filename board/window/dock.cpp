@@ -2,6 +2,7 @@
 
 #include "core/commands.h"
 #include "core/workspace.h"
+#include "look/accessiblerole.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "window/dockbutton.h"
@@ -55,6 +56,7 @@ Dock::Dock(const Workspace *workspace, const Commands *commands, ToolChoice *too
     , m_moreMenu(new QMenu(m_more))
 {
     setObjectName(QStringLiteral("dock"));
+    setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_BOARD_TOOLS"));
     addTools();
     m_more->setPicture(Icon::More);
@@ -330,17 +332,18 @@ void Dock::paintEvent(QPaintEvent *)
     for (const int at : qAsConst(m_lines)) {
         const int across = (thickness() - lineLength) / 2;
         const QRect place = isVertical() ? QRect(across, at, lineLength, 1) : QRect(at, across, 1, lineLength);
-        painter.fillRect(place, line);
+        painter.fillRect(QStyle::visualRect(isVertical() ? Qt::LeftToRight : layoutDirection(), rect(), place),
+                         line);
     }
     switch (m_edge) {
     case Qt::LeftEdge:
-        return painter.fillRect(QRect(width() - 1, 0, 1, height()), line);
+        return painter.fillRect(QRect(width() - edgeWidth(), 0, edgeWidth(), height()), line);
     case Qt::RightEdge:
-        return painter.fillRect(QRect(0, 0, 1, height()), line);
+        return painter.fillRect(QRect(0, 0, edgeWidth(), height()), line);
     case Qt::TopEdge:
-        return painter.fillRect(QRect(0, height() - 1, width(), 1), line);
+        return painter.fillRect(QRect(0, height() - edgeWidth(), width(), edgeWidth()), line);
     default:
-        return painter.fillRect(QRect(0, 0, width(), 1), line);
+        return painter.fillRect(QRect(0, 0, width(), edgeWidth()), line);
     }
 }
 

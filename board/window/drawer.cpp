@@ -20,12 +20,25 @@ Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
     , m_inset(inset)
     , m_tallest(tallest)
 {
-    // A line at the side, or all round.
-    m_column->setContentsMargins(1, inset > 0 ? 1 : 0, 1, inset > 0 ? 1 : 0);
+    keepEdges();
     slot->hide();
     slot->installEventFilter(this);
     area->installEventFilter(this);
     hide();
+}
+
+/// A line at the side, or all round.
+void Drawer::keepEdges()
+{
+    const int around = m_inset > 0 ? edgeWidth() : 0;
+    m_column->setContentsMargins(edgeWidth(), around, edgeWidth(), around);
+}
+
+void Drawer::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        keepEdges();
 }
 
 void Drawer::setContent(QWidget *content)
@@ -74,6 +87,9 @@ void Drawer::arrange()
     if (m_isOpen && !m_isPinned)
         qApp->installEventFilter(this);
     m_slot->setVisible(m_isOpen && m_isPinned);
+    // Else the focus would go through whatever comes next.
+    if (!m_isOpen && m_heir && isAncestorOf(window()->focusWidget()))
+        m_heir->setFocus();
     setVisible(m_isOpen);
     raise();
     place();
@@ -124,7 +140,7 @@ void Drawer::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (m_isPinned || m_inset == 0) {
         painter.fillRect(rect(), colors.border);
-        return painter.fillRect(rect().adjusted(1, 0, -1, 0), colors.bar);
+        return painter.fillRect(rect().adjusted(edgeWidth(), 0, -edgeWidth(), 0), colors.bar);
     }
     paintSurface(&painter, rect());
 }

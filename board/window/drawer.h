@@ -24,6 +24,8 @@ public:
     void setSide(Qt::Edge side);
     /// A press on it does not close the drawer, since it does so itself.
     void setOpener(QWidget *opener) { m_opener = opener; }
+    /// Gets the focus from a drawer that closes.
+    void setHeir(QWidget *heir) { m_heir = heir; }
     void setOpen(bool open);
     bool isOpen() const { return m_isOpen; }
     void setPinned(bool pinned);
@@ -36,9 +38,11 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void keepEdges();
     void arrange();
     void place();
     bool isOutside(const QObject *watched) const;
@@ -46,6 +50,7 @@ private:
     QWidget *m_area;
     QWidget *m_slot;
     QWidget *m_opener = nullptr;
+    QWidget *m_heir = nullptr;
     QVBoxLayout *m_column;
     int m_usualWidth;
     int m_width;

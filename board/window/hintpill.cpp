@@ -1,6 +1,9 @@
 #include "window/hintpill.h"
 
+#include "look/accessiblerole.h"
+
 #include <QtCore/QEvent>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 
 namespace board {
@@ -16,6 +19,8 @@ HintPill::HintPill(QWidget *view)
     : QLabel(view)
 {
     setObjectName(QStringLiteral("hintPill"));
+    setLayoutDirection(QGuiApplication::layoutDirection());
+    setAccessibleRole(this, QAccessible::AlertMessage);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setContentsMargins(inside);
     setTextFormat(Qt::PlainText);
@@ -26,9 +31,12 @@ HintPill::HintPill(QWidget *view)
 
 void HintPill::showHint(const QString &text)
 {
+    const bool isNews = !text.isEmpty() && (text != this->text() || !isVisible());
     setText(text);
     setVisible(!text.isEmpty());
     place();
+    if (isNews)
+        announce(this, text);
 }
 
 /// Long hints are cut off rather than wider than the view.

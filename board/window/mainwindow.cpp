@@ -1,5 +1,6 @@
 #include "window/mainwindow.h"
 
+#include "accessible/screenreading.h"
 #include "clipboard/clipboardcontroller.h"
 #include "clipboard/clipboardmenu.h"
 #include "clipboard/worksheets.h"
@@ -30,6 +31,7 @@
 #include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
+#include "look/accessiblerole.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "page/pageview.h"
@@ -101,6 +103,7 @@ MainWindow::MainWindow(Workspace *workspace)
     : m_workspace(workspace)
     , m_commands(new Commands(workspace, this))
     , m_view(new PageView)
+    , m_screenReading(new ScreenReading(workspace, m_commands, m_view, this))
     , m_actions(new Actions(workspace, m_commands, m_view, this))
     , m_notices(new Notices(workspace, this))
     , m_documents(new DocumentController(workspace, this, m_notices))
@@ -124,9 +127,10 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_hint(new HintPill(m_view))
     , m_shelf(new Shelf(workspace, m_tools, m_toolSettings, m_view))
     , m_findBar(new FindBar(workspace, m_commands))
-    , m_describeSelection([this] { describeSelection(); })
+    , m_refreshHint([this] { showHint(); })
 {
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
+    m_view->keys()->setPointName(workspace->text("IDS_BOARD_POINT_NAME"));
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});
     layOut();
     addMenus();
@@ -209,7 +213,9 @@ void MainWindow::setDockEdge(Qt::Edge edge)
 {
     m_dock->setEdge(edge);
     m_frame->setDirection(edge == Qt::BottomEdge ? QBoxLayout::BottomToTop : QBoxLayout::TopToBottom);
-    m_body->setDirection(edge == Qt::RightEdge ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+    // Layouts mirror themselves where texts run to the left.
+    const bool isAtEnd = edge == (isRightToLeft() ? Qt::LeftEdge : Qt::RightEdge);
+    m_body->setDirection(isAtEnd ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
     // At the top and the bottom, tools and bar are one.
     if (edge == Qt::TopEdge || edge == Qt::BottomEdge) {
         m_topBar->takeTools(m_dock, edge);
@@ -219,7 +225,8 @@ void MainWindow::setDockEdge(Qt::Edge edge)
     }
     m_view->setShelfEdge(edge);
     m_shelf->setEdge(edge);
-    m_paletteDrawer->setSide(edge == Qt::RightEdge ? Qt::RightEdge : Qt::LeftEdge);
+    const Qt::Edge start = isRightToLeft() ? Qt::RightEdge : Qt::LeftEdge;
+    m_paletteDrawer->setSide(edge == Qt::LeftEdge || edge == Qt::RightEdge ? edge : start);
     rememberDockEdge(edge);
 }
 
@@ -325,9 +332,10 @@ void MainWindow::addPanels()
     m_sidePanel->addTab(m_workspace->text("IDS_BOARD_HISTORY"), new HistoryPanel(m_workspace));
     m_panel = new Drawer(m_middle, m_rightSlot, sizes().panel, 0, QWIDGETSIZE_MAX);
     m_panel->setContent(m_sidePanel);
+    m_panel->setSide(isRightToLeft() ? Qt::LeftEdge : Qt::RightEdge);
     m_paletteDrawer = new Drawer(m_middle, m_leftSlot, sizes().palette, paletteInset, tallestPalette);
     m_paletteDrawer->setContent(m_palette);
-    m_palette->setAccessibleName(m_workspace->text("IDS_BOARD_SHAPES"));
+    namePanes();
     addShapeFolderActions(m_palette->menu(), m_workspace, this);
     m_paletteDrawer->setOpener(m_dock->buttonOf(Tool::Shape));
     followSizes(this, [this] {
@@ -337,9 +345,21 @@ void MainWindow::addPanels()
     });
 }
 
+/// For screen readers.
+void MainWindow::namePanes()
+{
+    const QPair<QWidget *, const char *> panes[] = {
+        {m_panel, "IDS_BOARD_PANEL"}, {m_paletteDrawer, "IDS_BOARD_SHAPES"}, {m_pages, "IDS_BOARD_PAGES"}};
+    for (const auto &pane : panes) {
+        setAccessibleRole(pane.first, QAccessible::Pane);
+        pane.first->setAccessibleName(m_workspace->text(pane.second));
+    }
+}
+
 void MainWindow::connectPanels()
 {
     const auto follow = [this](Drawer *drawer, QToolButton *pin, Pane pane) {
+        drawer->setHeir(m_view);
         connect(pin, &QToolButton::toggled, drawer, &Drawer::setPinned);
         connect(drawer, &Drawer::pinnedChanged, pin, &QToolButton::setChecked);
         connect(drawer, &Drawer::openChanged, this, [this](bool open) {
@@ -553,30 +573,7 @@ void MainWindow::showSelection()
     // At once: the next key that is pressed may be theirs.
     m_actions->update();
     m_clipboardMenu->update();
-    m_describeSelection.request();
-}
-
-void MainWindow::describeSelection()
-{
-    describeView();
-    showHint();
-}
-
-/// Shapes are no widgets: screen readers learn through the view what is on the page and what is selected.
-void MainWindow::describeView()
-{
-    const pagehost::Page *page = m_view->page();
-    if (!page)
-        return;
-    QStringList selected;
-    const QVector<CBaseObject *> objects = page->selectedObjects();
-    for (CBaseObject *object : objects)
-        selected.append(m_workspace->text(object->kindName()));
-    QString text = m_workspace->text("IDS_BOARD_SEVERAL").arg(page->objectCount());
-    if (!selected.isEmpty())
-        text +=
-            QStringLiteral("; ") + m_workspace->text("IDS_BOARD_SELECTED").arg(selected.join(QStringLiteral(", ")));
-    m_view->setAccessibleDescription(text);
+    m_refreshHint.request();
 }
 
 void MainWindow::showHint()

@@ -39,6 +39,7 @@ class Presentation;
 class PalettePanel;
 class PropertyPanel;
 class Recovery;
+class ScreenReading;
 class SettingsPanel;
 class ShapeTool;
 class Shelf;
@@ -100,6 +101,7 @@ private:
     void settle();
     void showPluginProblems();
     void addPanels();
+    void namePanes();
     void connectPanels();
     void addMenus();
     void addDockMenu();
@@ -118,8 +120,6 @@ private:
     void takeDrop(const QMimeData &data, const QPointF &scenePos);
     void showCurrentPage();
     void showSelection();
-    void describeSelection();
-    void describeView();
     void showHint();
     void placeInMiddle(const QString &kindId);
     void askAndInsert();
@@ -128,6 +128,8 @@ private:
     Workspace *m_workspace;
     Commands *m_commands;
     PageView *m_view;
+    /// Before all that has a name for readers.
+    ScreenReading *m_screenReading;
     Actions *m_actions;
     Notices *m_notices;
     DocumentController *m_documents;
@@ -164,7 +166,7 @@ private:
     QBoxLayout *m_body = nullptr;  ///< the dock, its shelf, and the page
     PagePanel *m_pages = nullptr;
     PalettePanel *m_palette = nullptr;
-    OncePerTurn m_describeSelection;
+    OncePerTurn m_refreshHint;
     bool m_mayClose = false; ///< the user gave unsaved changes up
 };
 

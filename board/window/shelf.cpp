@@ -1,6 +1,7 @@
 #include "window/shelf.h"
 
 #include "core/workspace.h"
+#include "look/accessiblerole.h"
 #include "look/icons.h"
 #include "look/sizes.h"
 #include "look/surface.h"
@@ -9,6 +10,7 @@
 #include "window/shelfbutton.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QBoxLayout>
@@ -36,6 +38,8 @@ Shelf::Shelf(const Workspace *workspace, const ToolChoice *tools, ToolSettings *
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom, this))
 {
     setObjectName(QStringLiteral("shelf"));
+    setLayoutDirection(QGuiApplication::layoutDirection());
+    setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_BOARD_SHELF"));
     m_row->setContentsMargins(0, 0, 0, 0);
     view->installEventFilter(this);

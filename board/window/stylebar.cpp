@@ -4,6 +4,7 @@
 #include "core/arranging.h"
 #include "core/commands.h"
 #include "core/workspace.h"
+#include "look/accessiblerole.h"
 #include "look/icons.h"
 #include "look/sizedbuttons.h"
 #include "look/sizes.h"
@@ -22,6 +23,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAction>
@@ -88,6 +90,8 @@ StyleBar::StyleBar(const Workspace *workspace, const Commands *commands, const T
     , m_arrange([this] { arrange(); })
 {
     setObjectName(QStringLiteral("styleBar"));
+    setLayoutDirection(QGuiApplication::layoutDirection());
+    setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_BOARD_STYLE_BAR"));
     m_row->setContentsMargins(smallGap, 0, smallGap, 0);
     m_row->setSpacing(smallGap);

@@ -2,6 +2,7 @@
 
 #include "core/actions.h"
 #include "core/workspace.h"
+#include "look/accessiblerole.h"
 #include "look/icons.h"
 #include "look/sizes.h"
 #include "look/theme.h"
@@ -59,6 +60,7 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     , m_zoom(new ZoomControl(workspace, actions, view, this))
 {
     setObjectName(QStringLiteral("topBar"));
+    setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_BOARD_TOP_BAR"));
     m_menus->setNativeMenuBar(false);
     m_menus->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -68,6 +70,7 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_allMenus);
     m_saved->setForegroundRole(QPalette::PlaceholderText);
+    setAccessibleRole(m_saved, QAccessible::AlertMessage);
     m_dot->setFixedSize(dotSide, dotSide);
     m_row->setContentsMargins(mediumGap - 2, 0, mediumGap, 1);
     m_row->setSpacing(smallGap);
@@ -206,7 +209,11 @@ void TopBar::applyHeight()
 void TopBar::showSaved(bool isSaved, bool hasFile)
 {
     const ThemeColors colors = themeColors();
-    m_saved->setText(m_workspace->text(isSaved ? "IDS_BOARD_IS_SAVED" : "IDS_BOARD_UNSAVED"));
+    const QString text = m_workspace->text(isSaved ? "IDS_BOARD_IS_SAVED" : "IDS_BOARD_UNSAVED");
+    if (isSaved && hasFile && text != m_saved->text())
+        announce(m_saved, text);
+    m_saved->setAccessibleName(text);
+    m_saved->setText(text);
     m_dot->setToolTip(m_saved->text());
     m_dot->setAccessibleName(m_saved->text());
     m_dot->setStyleSheet(QStringLiteral("background: %1; border-radius: %2px")
@@ -300,7 +307,8 @@ void TopBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), themeColors().bar);
-    painter.fillRect(QRect(0, m_edge == Qt::TopEdge ? height() - 1 : 0, width(), 1), themeColors().border);
+    painter.fillRect(QRect(0, m_edge == Qt::TopEdge ? height() - edgeWidth() : 0, width(), edgeWidth()),
+                     themeColors().border);
 }
 
 } // namespace board

@@ -8,6 +8,7 @@
 #include "panels/editors/switcheditor.h"
 #include "panels/editors/texteditor.h"
 #include "panels/settings/commonsettings.h"
+#include "panels/settings/ownsettings.h"
 #include "panels/settings/settingicons.h"
 
 #include <framework/cbaseobject.h>
@@ -17,10 +18,6 @@
 namespace board {
 
 namespace {
-
-/// Settings that every shape has for its pen and fill. They are set as the look, for all shapes alike.
-const QStringList lookSettings{QStringLiteral("idLineStyle"), QStringLiteral("idOutlineColor"),
-                               QStringLiteral("idFillColor")};
 
 const QString textSection = QStringLiteral("text");
 
@@ -41,12 +38,11 @@ SettingsPanel::SettingsPanel(const Workspace *workspace, Extent extent, QWidget 
 
 bool SettingsPanel::isListed(const SettingControl &control) const
 {
-    if (lookSettings.contains(control.id))
+    if (!isOwnSetting(control))
         return false;
     if (m_extent != First)
         return (control.section == textSection) == (m_extent == Text);
-    const bool fitsIntoBar = control.kind != SettingControl::Text && control.kind != SettingControl::Command;
-    return m_controls.isEmpty() && fitsIntoBar;
+    return m_controls.isEmpty() && isShort(control);
 }
 
 QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)

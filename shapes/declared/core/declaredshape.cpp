@@ -8,6 +8,8 @@
 
 #include <framework/idocument.h>
 
+#include <pagehost/objectplugin.h>
+
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
@@ -435,6 +437,45 @@ QString DeclaredShape::hint(int number)
         return {};
     const Value hint = presentState().valueOf(declared);
     return hint.isFinite() ? hint.text : QString();
+}
+
+QString DeclaredShape::hintAt(int number, QPointF centre)
+{
+    updateState();
+    // A copy, since what is asked here happens to nobody.
+    ShapeState state = m_state;
+    QVector<QPointF> points = standingPoints();
+    points[number - 1] = state.settled(number, centre, Shape::range(number));
+    state.setPoints(points);
+    const Value hint = state.valueOf(m_declaration.point(number).hint);
+    return hint.isFinite() ? hint.text : QString();
+}
+
+void DeclaredShape::writePointEnds(QDataStream &out)
+{
+    settleDrawing();
+    QVector<int> telling;
+    for (int number = 1; number <= pointCount(); ++number) {
+        const QZeSvgNode *point = controlPoints[number - 1];
+        const QRectF ends = range(number);
+        const bool isOneWay = point && (point->canMoveHorizontally() && ends.width() > 0) !=
+                                           (point->canMoveVertically() && ends.height() > 0);
+        if (isOneWay && m_declaration.point(number).hint.isValid())
+            telling.append(number);
+    }
+    out << qint32(telling.size());
+    for (const int number : qAsConst(telling)) {
+        const QRectF ends = range(number);
+        out << qint32(number) << hintAt(number, ends.topLeft()) << hintAt(number, ends.bottomRight());
+    }
+}
+
+bool DeclaredShape::GetSpecialProperty(int propId, QDataStream &out)
+{
+    if (propId != pagehost::ControlPointEnds || !document)
+        return Shape::GetSpecialProperty(propId, out);
+    writePointEnds(out);
+    return true;
 }
 
 QVector<shapekit::Connection> DeclaredShape::connections()

@@ -61,6 +61,7 @@ public:
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
     int actionIdToPropId(int actionId) override;
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
+    bool GetSpecialProperty(int propId, QDataStream &out) override;
     int getMaxPenWidth() override { return m_declaration.widestPen; }
     void setPenColor(QColor color, bool record) override;
     void setFillBrush(const QBrush &brush, bool record, bool notify) override;
@@ -116,6 +117,9 @@ private:
     void updateState();
     void updateProperty(int index);
     void finishDrag();
+    /// The hint of a point that were put to `centre`; document units.
+    QString hintAt(int number, QPointF centre);
+    void writePointEnds(QDataStream &out);
     bool writeRound(int id, QDataStream &in, bool record, bool addUndo);
     void putPoints(const Places &places);
     QJsonObject values() const;

@@ -45,7 +45,6 @@ private Q_SLOTS:
     void iconsFollowTheColours();
     void iconsOfNoSizeAreNoTrouble();
     void everyControlHasANameForScreenReaders();
-    void screenReadersLearnWhatIsSelected();
 };
 
 void TestView::viewHasTheNameThatControlPointsShowIn()
@@ -306,18 +305,6 @@ void TestView::everyControlHasANameForScreenReaders()
                     .arg(widget->metaObject()->className(), widget->parentWidget()->metaObject()->className()));
     }
     QCOMPARE(nameless, QStringList());
-}
-
-void TestView::screenReadersLearnWhatIsSelected()
-{
-    BoardDriver board;
-    board.draw(rectangle, {500, 300}, {700, 420});
-    board.draw(flask, {300, 300}, {390, 420});
-    QCoreApplication::processEvents();
-    QCOMPARE(board.view().accessibleDescription(), QString("2 objects; selected: Flask"));
-    board.key(Qt::Key_Escape);
-    QCoreApplication::processEvents();
-    QCOMPARE(board.view().accessibleDescription(), QString("2 objects"));
 }
 
 QTEST_MAIN(TestView)

@@ -93,7 +93,11 @@ enum SpecialProperty {
     /// number (qint32, from 1), what it sets at present for the user to read (QString, as DragHint; may be empty),
     /// its centre, a place where a press takes it and no other, and the range of its centre (two QPointF and a
     /// QRectF, item coordinates as they are seen), and whether it moves across and down the document (bool each).
-    ControlPoints = 2914
+    ControlPoints = 2914,
+    /// Read only: what control points that move along one way would set at the ends of their range: a qint32 count,
+    /// then for each its number (qint32, as in ControlPoints) and two QString, as the hint there. Points that say
+    /// nothing are left out.
+    ControlPointEnds = 2915
 };
 
 /// Texts by localisation key.

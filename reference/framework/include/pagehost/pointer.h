@@ -7,6 +7,7 @@ enum class Pointer { Mouse, Pen, Finger };
 
 /// @name How exactly a device points, logical pixels of the view
 /// @{
+
 /// Side of the area around the centre of a grip where a press takes it.
 constexpr double hitSize(Pointer pointer)
 {

@@ -1,0 +1,168 @@
+// A lesson that somebody gives who neither sees the board nor holds a mouse: every key that is pressed, and every
+// word that a screen reader says to it.
+
+#include <board/boarddriver.h>
+#include <board/readerdriver.h>
+
+#include <lessons/lessoncontroller.h>
+#include <page/controlpoints.h>
+#include <page/pageview.h>
+#include <presenting/presentation.h>
+#include <presenting/stage.h>
+#include <window/mainwindow.h>
+
+#include <pagehost/document.h>
+#include <pagehost/page.h>
+
+#include <support/listed.h>
+#include <support/patience.h>
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+
+#include <utility>
+
+using namespace boardtest;
+
+namespace {
+
+/// Keys go where the focus is, as on a desktop.
+struct KeyTeacher
+{
+    KeyTeacher() { reader.said(); }
+
+    void press(const QString &name, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        transcript.append(name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        listen();
+    }
+    void type(const QString &text)
+    {
+        transcript.append("“" + text + "”");
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        listen();
+    }
+    /// As the window manager does when another window has come or gone.
+    void activate(board::PageView *view)
+    {
+        QApplication::setActiveWindow(view->window());
+        view->setFocus();
+        listen();
+    }
+    void listen()
+    {
+        for (const QString &line : support::listed(reader.said()))
+            transcript.append("  " + line);
+    }
+    /// All that was pressed and heard since the last call.
+    QStringList heard()
+    {
+        qInfo("%s", qPrintable(transcript.join('\n')));
+        return std::exchange(transcript, {});
+    }
+
+    BoardDriver board;
+    ReaderDriver reader;
+    QTemporaryDir folder;
+    QStringList transcript;
+};
+
+} // namespace
+
+class TestByKeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLessonIsGivenByKeysAlone();
+};
+
+void TestByKeys::aLessonIsGivenByKeysAlone()
+{
+    KeyTeacher t;
+    pagehost::Document &document = *t.board.workspace().document();
+
+    // A shape is found, and put in the middle.
+    t.press("S", Qt::Key_S);
+    t.type("rounded");
+    t.press("Ctrl+Return", Qt::Key_Return, Qt::ControlModifier);
+    // The lesson is recorded while its corners become round.
+    t.press("F9", Qt::Key_F9);
+    t.press("Tab", Qt::Key_Tab);
+    t.press("Right", Qt::Key_Right);
+    t.press("4", Qt::Key_4);
+    t.type("0");
+    t.press("Return", Qt::Key_Return);
+    t.press("Tab", Qt::Key_Tab);
+    t.press("Down", Qt::Key_Down);
+    t.press("F9", Qt::Key_F9);
+    QCOMPARE(t.heard(), QStringLiteral(R"(S
+  focus: Search shapes, field
+“rounded”
+Ctrl+Return
+  focus: Page 1 of 1, 0 objects, page
+  focus: Rounded rectangle, graphic, at 579, 309, 120 × 80
+  page: Page 1 of 1, 1 object
+F9
+  alert: Recording has begun
+Tab
+  focus: Corner radius, slider, 16
+Right
+  value: 24
+4
+  focus: Corner radius 24, field
+“0”
+Return
+  focus: Page 1 of 1, 1 object, page
+  focus: Corner radius, slider, 40
+Tab
+  focus: Size, grip, 120 × 80
+Down
+  now: 120 × 88
+F9
+  alert: Recording has ended)")
+                            .split('\n'));
+    QCOMPARE(t.board.page().objectCount(), 1);
+    QCOMPARE(document.lessons().size(), 1);
+
+    // It is saved.
+    t.press("Ctrl+S", Qt::Key_S, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), t.folder.filePath("lesson.board"));
+    t.reader.said();
+    t.press("Return", Qt::Key_Return);
+    t.activate(&t.board.view());
+    QCOMPARE(t.heard(), QStringLiteral(R"(Ctrl+S
+  focus: File name:, field
+Return
+  alert: Saved)")
+                            .split('\n'));
+    QVERIFY(QFileInfo(t.folder.filePath("lesson.board")).size() > 0);
+
+    // It is presented.
+    t.press("F5", Qt::Key_F5);
+    QVERIFY(t.board.window().presentation()->isRunning());
+    t.activate(t.board.window().presentation()->stage()->view());
+    t.press("Escape", Qt::Key_Escape);
+    t.activate(&t.board.view());
+    QVERIFY(!t.board.window().presentation()->isRunning());
+    t.press("F8", Qt::Key_F8);
+    QCOMPARE(t.heard(), QStringLiteral(R"(F5
+  focus: Page 1 of 1, 1 object, page
+Escape
+  focus: Size, grip, 120 × 88
+F8
+  alert: A lesson is shown)")
+                            .split('\n'));
+
+    // All that has been taught is in the lesson.
+    QTRY_VERIFY_WITH_TIMEOUT(!t.board.window().lessons()->isPlaying(), support::patience);
+    CBaseObject *shown = t.board.view().page()->objects().first();
+    QCOMPARE(board::controlPointOf(*shown, 1).hint, QString("Corner radius 40"));
+    QCOMPARE(t.board.placeOf(shown).size(), QSizeF(120, 88));
+}
+
+QTEST_MAIN(TestByKeys)
+#include "test_bykeys.moc"
