@@ -4,6 +4,7 @@
 
 #include <commands/keysdialog.h>
 #include <core/commands.h>
+#include <core/mnemonics.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>
@@ -45,7 +46,7 @@ struct Changing
     void push(const QString &text) const
     {
         for (QPushButton *button : support::listed(dialog().findChildren<QPushButton *>()))
-            if (button->text() == text)
+            if (board::withoutMnemonic(button->text()) == text)
                 QTest::mouseClick(button, Qt::LeftButton);
     }
     QVector<QTreeWidgetItem *> rows() const
@@ -193,7 +194,7 @@ void TestKeysDialog::buttonsNeedACommand()
     const Changing t;
     const auto isOn = [&](const QString &text) {
         for (const QPushButton *button : support::listed(t.dialog().findChildren<QPushButton *>()))
-            if (button->text() == text)
+            if (board::withoutMnemonic(button->text()) == text)
                 return button->isEnabled();
         return false;
     };

@@ -2,6 +2,7 @@
 
 #include <board/boarddriver.h>
 
+#include <core/mnemonics.h>
 #include <core/notices.h>
 #include <documents/documentcontroller.h>
 #include <exporting/exportdialog.h>
@@ -68,7 +69,7 @@ struct ExportDesk
     {
         const QList<QAbstractButton *> buttons = dialog()->findChildren<QAbstractButton *>();
         for (QAbstractButton *button : buttons)
-            if (button->text() == text)
+            if (board::withoutMnemonic(button->text()) == text)
                 return QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
         QFAIL(qPrintable("There is no button " + text));
     }
