@@ -344,18 +344,7 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
         return;
     if (doubleClicked && !usesTool &&
         (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
-        writeAfter(event);
-}
-
-/// A touch gives the view the focus after its last event, and would end the writing.
-void PageView::writeAfter(const QMouseEvent *event)
-{
-    const QPoint pos = event->pos();
-    if (event->source() == Qt::MouseEventSynthesizedByApplication)
-        QMetaObject::invokeMethod(
-            this, [this, pos] { m_writing->writeAt(pos); }, Qt::QueuedConnection);
-    else
-        m_writing->writeAt(pos);
+        m_writing->writeAt(event->pos());
 }
 
 bool PageView::isWriting() const

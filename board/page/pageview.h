@@ -138,7 +138,6 @@ private:
     bool usePen(QTabletEvent *event);
     bool turnPen(const QTabletEvent *event);
     void setPenErases(bool erases);
-    void writeAfter(const QMouseEvent *event);
     void useTouch(QTouchEvent *event);
     void takeBack();
     void hold(const QPointF &pos);

@@ -5,6 +5,7 @@
 
 #include <core/commands.h>
 #include <core/toolchoice.h>
+#include <page/labeleditor.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 
@@ -198,13 +199,14 @@ void TestTouch::aFingerSelectsAndMovesShapes()
 void TestTouch::aDoubleTapIsADoubleClick()
 {
     Desk desk;
-    desk.draw(QStringLiteral("declared.note"), {500, 300}, {700, 400});
-    desk.tap({600, 350});
+    CBaseObject *table = desk.draw(QStringLiteral("shapes.table"), {500, 300}, {680, 390});
+    const QPointF cell = table->mapToScene(board::labelsOf(*table).first().box.center());
+    desk.tap(cell);
     support::pass(QApplication::doubleClickInterval());
-    desk.tap({600, 350});
+    desk.tap(cell);
     QVERIFY(!desk.view().isWriting());
     support::pass(QApplication::doubleClickInterval() - 1);
-    desk.tap({605, 350});
+    desk.tap(cell + QPointF(2, 0));
     QVERIFY(desk.view().isWriting());
 }
 
