@@ -1,6 +1,7 @@
 #include "panels/pagepanel.h"
 
 #include "core/workspace.h"
+#include "look/sizedbuttons.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "panels/pagedelegate.h"
@@ -35,6 +36,7 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
         auto *button = new QToolButton(this);
         button->setDefaultAction(action);
         button->setAccessibleName(action->text());
+        sizeAsBarButton(button);
         buttons->addWidget(button);
     }
     buttons->addStretch();

@@ -56,7 +56,8 @@ bool PaletteButton::isFoundBy(const QString &searched) const
 
 QSize PaletteButton::sizeHint() const
 {
-    return {sizes().kind, sizes().kind + extraHeight};
+    const int twoLines = iconSize().height() + 2 * fontMetrics().lineSpacing() + 4 * edge;
+    return {sizes().kind, qMax(sizes().kind + extraHeight, twoLines)};
 }
 
 QFont PaletteButton::nameFont() const

@@ -146,6 +146,9 @@ void TestLargeSizes::palette()
     QCOMPARE(desk.window().palette()->width(), large ? 440 : 344);
     const board::PaletteButton *button = desk.window().palettePanel()->buttons().first();
     QCOMPARE(button->sizeHint().width(), large ? 124 : 92);
+    // Names of two lines stand below the picture.
+    const int below = button->sizeHint().height() - button->iconSize().height();
+    QVERIFY(below >= 2 * button->fontMetrics().lineSpacing());
     // Three beside each other.
     QSet<int> columns;
     for (const board::PaletteButton *one : desk.window().palettePanel()->buttons())
@@ -160,6 +163,7 @@ void TestLargeSizes::pageStrip()
     desk.window().commands()->action(Command::PageStrip)->trigger();
     QCoreApplication::processEvents();
     QCOMPARE(desk.window().pages()->height(), large ? 144 : 104);
+    QCOMPARE(desk.buttonOf(desk.window().pages(), Command::AddPage)->height(), large ? 44 : 32);
 }
 
 void TestLargeSizes::lessonBar()
