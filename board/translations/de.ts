@@ -300,6 +300,11 @@
         <translation>Wiederherstellen</translation>
     </message>
     <message>
+        <source>Bring back</source>
+        <comment>IDS_BOARD_BRING_BACK</comment>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
         <source>Delete…</source>
         <translation>Löschen…</translation>
     </message>
@@ -854,10 +859,6 @@
     <message>
         <source>take apart dissolve</source>
         <translation>trennen auflösen</translation>
-    </message>
-    <message>
-        <source>Bring back</source>
-        <translation>Zurückholen</translation>
     </message>
     <message>
         <source>onto the page outside lost</source>
