@@ -3,14 +3,11 @@
 
 #include <shapes/shapedriver.h>
 
-#include <checklist/states.h>
-
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
 #include <svgbase/qzesvgtinydocument.h>
 
-#include <QtCore/QJsonObject>
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -50,12 +47,6 @@ double heightOf(const ShapeDriver &shape, int number)
     return shape.controlPoint(number).center().y();
 }
 
-/// To a place of the document; the box of the callout follows.
-void dragTip(ShapeDriver &shape, QPointF place)
-{
-    shape.dragInScene(1, shape.object().getPos() - shape.document().viewBox().topLeft() + place);
-}
-
 /// Within the digits that path data has.
 bool hasNumbers(const QString &text, const QVector<double> &expected)
 {
@@ -79,15 +70,6 @@ private Q_SLOTS:
     void tailFollowsItsTip();
     void tailKeepsItsRootWidth();
     void widerPenMovesTheBalloonInwards();
-    void tipLeavesTheFrameAndTheBoxGrows_data();
-    void tipLeavesTheFrameAndTheBoxGrows();
-    void tipInsideTheBalloonHasNoTail();
-    void tipComesBackWithUndo();
-    void tipOutsideKeepsItsDistance();
-    void tipOutsideIsSaved_data();
-    void tipOutsideIsSaved();
-    void tailOutsideIsFilledAndHit();
-    void calloutWithItsTipInsideIsSavedAsBefore();
     void writtenValuesMoveThePoints();
     void draggedPointWritesItsValue();
     void zeroStaysApartFromTheNumberBeforeIt();
@@ -160,148 +142,6 @@ void TestNumberText::widerPenMovesTheBalloonInwards()
     shape.core().setPenWidth(6, false);
     QVERIFY2(calloutPath(shape).startsWith(QStringLiteral("M13,3h116a10,10 0 0 1 10,10v56a")),
              qPrintable(calloutPath(shape)));
-}
-
-void TestNumberText::tipLeavesTheFrameAndTheBoxGrows_data()
-{
-    QTest::addColumn<QPointF>("tip");
-    QTest::addColumn<QRectF>("box");
-    QTest::addColumn<QString>("tail");
-    // The balloon is 1 inside of its frame of 142 x 112, of which 30 are below it. There are 4 around the tip.
-    QTest::newRow("left") << QPointF(-60, 41) << QRectF(-64, 0, 206, 112) << "L1 51 L-60 41 L1 31 ";
-    QTest::newRow("right") << QPointF(200, 41) << QRectF(0, 0, 204, 112) << "L141 31 L200 41 L141 51 ";
-    QTest::newRow("above") << QPointF(71, -100) << QRectF(0, -104, 142, 216) << "L29 1 L71 -100 L49 1 ";
-    QTest::newRow("below") << QPointF(24, 200) << QRectF(0, 0, 142, 204) << "h-82l-25,119l5-119l-18,0";
-    QTest::newRow("far left, a bit below")
-        << QPointF(-160, 90) << QRectF(-164, 0, 306, 112) << "L1 51 L-160 90 L1 31 ";
-}
-
-void TestNumberText::tipLeavesTheFrameAndTheBoxGrows()
-{
-    QFETCH(QPointF, tip);
-    QFETCH(QRectF, box);
-    QFETCH(QString, tail);
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    const QPointF before = shape.object().getPos();
-    dragTip(shape, tip);
-    QCOMPARE(shape.controlPoint(1).center(), tip);
-    QCOMPARE(shape.document().viewBox(), box);
-    QCOMPARE(shape.object().getClientRect().size(), box.size());
-    // The balloon stays where it is.
-    QCOMPARE(shape.object().getPos() - before, box.topLeft());
-    shape.painted();
-    QVERIFY2(calloutPath(shape).contains(tail), qPrintable(calloutPath(shape)));
-}
-
-void TestNumberText::tipInsideTheBalloonHasNoTail()
-{
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    shape.dragControlPoint(1, QPointF(40, -60));
-    shape.painted();
-    const QPainterPath figure = shape.document().namedNode(QStringLiteral("figure"))->path();
-    QCOMPARE(figure.boundingRect(), QRectF(1, 1, 140, 80));
-    QVERIFY(figure.contains(QPointF(64, 46)));
-}
-
-void TestNumberText::tipComesBackWithUndo()
-{
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    const QByteArray before = checklist::savedBytes(shape);
-    dragTip(shape, {-66, -44});
-    const QByteArray after = checklist::savedBytes(shape);
-    shape.undoStack().undo();
-    QCOMPARE(checklist::savedBytes(shape), before);
-    shape.undoStack().redo();
-    QCOMPARE(checklist::savedBytes(shape), after);
-}
-
-void TestNumberText::tipOutsideKeepsItsDistance()
-{
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    shape.dragControlPoint(1, QPointF(176, -65));
-    // 58 to the right of the frame, which is 142 wide.
-    QCOMPARE(shape.object().getClientRect().size(), QSizeF(204, 112));
-    shape.object().setSize(QSizeF(304, 162), false, false);
-    QCOMPARE(shape.controlPoint(1).center(), QPointF(300, 91));
-    QCOMPARE(shape.document().viewBox(), QRectF(0, 0, 304, 162));
-    shape.object().setSize(QSizeF(204, 112), false, false);
-    QCOMPARE(shape.controlPoint(1).center(), QPointF(200, 41));
-    // Balloon and tail have room in the smallest size, too.
-    shape.object().setSize(QSizeF(1, 1), false, false);
-    QCOMPARE(shape.object().getClientRect().size(), QSizeF(72 + 62, 60));
-}
-
-void TestNumberText::tipOutsideIsSaved_data()
-{
-    QTest::addColumn<bool>("isJson");
-    QTest::newRow("binary") << false;
-    QTest::newRow("JSON") << true;
-}
-
-void TestNumberText::tipOutsideIsSaved()
-{
-    QFETCH(bool, isJson);
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    dragTip(shape, {-166, -194});
-    shape.painted();
-    ShapeDriver opened(QStringLiteral("callout"));
-    if (isJson) {
-        QJsonObject json;
-        shape.object().saveJson(json);
-        QVERIFY(opened.object().loadJson(json));
-    } else {
-        QVERIFY(checklist::open(opened, checklist::savedBytes(shape)));
-        QCOMPARE(checklist::savedBytes(opened), checklist::savedBytes(shape));
-    }
-    opened.painted();
-    QCOMPARE(calloutPath(opened), calloutPath(shape));
-    QCOMPARE(opened.document().viewBox(), shape.document().viewBox());
-    // And the tip goes on from there.
-    opened.select();
-    dragTip(opened, {24, 106});
-    QCOMPARE(opened.document().viewBox(), QRectF(0, 0, 142, 112));
-}
-
-void TestNumberText::tailOutsideIsFilledAndHit()
-{
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByClick();
-    shape.select();
-    shape.dragControlPoint(1, QPointF(176, -65));
-    shape.object().setSelected(false);
-    QCOMPARE(shape.colorAt(QPoint(160, 41)), QColor(0xff, 0xf3, 0xc9));
-    QVERIFY(shape.object().shape().contains(QPointF(160, 41)));
-    QVERIFY(!shape.object().shape().contains(QPointF(180, 80)));
-}
-
-void TestNumberText::calloutWithItsTipInsideIsSavedAsBefore()
-{
-    ShapeDriver shape(QStringLiteral("callout"));
-    shape.createByDrag(QSizeF(300, 200));
-    shape.select();
-    shape.dragControlPoint(1, QPointF(100, -5));
-    shape.painted();
-    QJsonObject json;
-    shape.object().saveJson(json);
-    const QString later = QStringLiteral("SVG_FrameOfTheBalloon");
-    QCOMPARE(json.value(later).toString(QStringLiteral("missing")), QString());
-    // A file of an earlier version.
-    json.remove(later);
-    ShapeDriver opened(QStringLiteral("callout"));
-    QVERIFY(opened.object().loadJson(json));
-    opened.painted();
-    QCOMPARE(calloutPath(opened), calloutPath(shape));
-    QCOMPARE(opened.controlPoint(1), shape.controlPoint(1));
 }
 
 void TestNumberText::writtenValuesMoveThePoints()
