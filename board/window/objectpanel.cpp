@@ -86,6 +86,12 @@ bool ObjectPanel::eventFilter(QObject *watched, QEvent *event)
     return QScrollArea::eventFilter(watched, event);
 }
 
+void ObjectPanel::showEvent(QShowEvent *event)
+{
+    QScrollArea::showEvent(event);
+    m_refresh.request();
+}
+
 void ObjectPanel::makeRoom(bool isScrollBarShown)
 {
     const int extent = verticalScrollBar()->sizeHint().width();
@@ -117,8 +123,9 @@ void ObjectPanel::refresh()
     else
         m_title->setText(titleOf(*m_workspace, *m_page, objects));
     m_settings->setVisible(!objects.isEmpty());
-    // Hidden panels don't follow; whether there is a section is known only afterwards.
-    m_text->refresh();
+    // Whether there is a section is known only afterwards, and hidden panels don't follow.
+    if (isVisible())
+        m_text->refresh();
     m_textSection->setVisible(!objects.isEmpty() && !m_text->isEmpty());
     m_allProperties->setVisible(!objects.isEmpty());
     widget()->layout()->activate();
