@@ -24,7 +24,7 @@ def with_display(work):
     """Calls work() with the name of a display that lives meanwhile. The server chooses a free number."""
     reading, writing = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset"],
         pass_fds=[writing],
         stderr=subprocess.DEVNULL,
     )
