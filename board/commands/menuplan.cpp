@@ -90,30 +90,18 @@ MenuPlan lessonPlan()
 
 MenuPlan viewPlan()
 {
-    return {Command::Present,
-            Command::PresentFromStart,
-            separator(),
-            Command::ZoomIn,
-            Command::ZoomOut,
-            Command::ActualSize,
-            Command::FitPage,
-            Command::ZoomToSelection,
-            separator(),
-            Command::Grid,
-            Command::Snapping,
-            Command::FingersDraw,
-            Command::Animations,
-            separator(),
-            Command::Panel,
-            Command::AllProperties,
-            Command::PageStrip,
-            Command::Menus,
-            Command::NextPart,
-            Command::PreviousPart,
-            separator(),
-            Command::DarkColors,
-            Command::HighContrast,
-            Command::ReducedMotion};
+    return {Command::Present,      Command::PresentFromStart,
+            separator(),           Command::ZoomIn,
+            Command::ZoomOut,      Command::ActualSize,
+            Command::FitPage,      Command::ZoomToSelection,
+            separator(),           Command::Grid,
+            Command::Snapping,     Command::FingersDraw,
+            Command::Animations,   separator(),
+            Command::Panel,        Command::AllProperties,
+            Command::PageStrip,    Command::Menus,
+            Command::NextPart,     Command::PreviousPart,
+            separator(),           Command::DarkColors,
+            Command::HighContrast, Command::ReducedMotion};
 }
 
 MenuPlan helpPlan()
