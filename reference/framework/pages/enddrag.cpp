@@ -6,11 +6,10 @@
 #include <pagehost/objectid.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
-#include <pagehost/recorder.h>
 
 #include <host/controlpointplaces.h>
-#include <host/payload.h>
 #include <pages/connectionfinder.h>
+#include <pages/followednumber.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QLineF>
@@ -113,20 +112,9 @@ ToolPage::Connection EndDrag::connectionAt(const QPointF &pointer, double pixel)
     return pagehost::connectionAt(objects, at);
 }
 
-/// In a lesson, too, the object is followed by its number.
 quint32 EndDrag::numberOf(CBaseObject *object)
 {
-    const Document *document = m_page->document();
-    if (!document)
-        return 0;
-    const bool isNew = objectId(object) == 0;
-    const quint32 number = ensureObjectId(object, *document);
-    if (isNew) {
-        m_numbered.append(object);
-        QByteArray payload = payloadOf(number);
-        object->RecordAction(ActionNumbered, &payload);
-    }
-    return number;
+    return followedNumber(object, m_page->document(), &m_numbered);
 }
 
 bool EndDrag::send(int phase, const QPointF &place, quint32 followed, const QString &name)

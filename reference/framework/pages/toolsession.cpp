@@ -6,10 +6,9 @@
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
-#include <pagehost/recorder.h>
 
-#include <host/payload.h>
 #include <pages/connectionfinder.h>
+#include <pages/followednumber.h>
 
 #include <utility>
 
@@ -82,18 +81,7 @@ ToolPage::Connection ToolSession::connectionAt(const ToolPointer &pointer) const
 
 quint32 ToolSession::numberOf(CBaseObject *object)
 {
-    const Document *document = m_page ? m_page->document() : nullptr;
-    if (!document)
-        return 0;
-    const bool isNew = objectId(object) == 0;
-    const quint32 number = ensureObjectId(object, *document);
-    if (isNew) {
-        m_numbered.append(object);
-        // In a lesson, too, the object is followed by its number.
-        QByteArray payload = payloadOf(number);
-        object->RecordAction(ActionNumbered, &payload);
-    }
-    return number;
+    return followedNumber(object, m_page ? m_page->document() : nullptr, &m_numbered);
 }
 
 void ToolSession::highlight(CBaseObject *object)
