@@ -33,6 +33,18 @@ QByteArray textOf(const QByteArray &svg)
     return drawing ? drawing->toSvg() : QByteArray();
 }
 
+/// Where kinds come from that were just read, by the hash of their text.
+QHash<QString, QString> filesOf(const std::vector<std::unique_ptr<ShapeKind>> &kinds, const GoodFiles &good)
+{
+    QHash<const Declaration *, QString> paths;
+    for (auto file = good.begin(); file != good.end(); ++file)
+        paths.insert(file.value().get(), file.key());
+    QHash<QString, QString> files;
+    for (const auto &kind : kinds)
+        files.insert(kind->declaration().hash, paths.value(&kind->declaration()));
+    return files;
+}
+
 } // namespace
 
 DeclaredPlugin::DeclaredPlugin()
@@ -59,7 +71,9 @@ void DeclaredPlugin::read()
                                        qWarning("%s", qPrintable(fault.told()));
                                        log->report(fault);
                                    }};
-    m_library->offer(readFolders(m_folders, listeners, m_good));
+    auto kinds = readFolders(m_folders, listeners, m_good);
+    m_files = filesOf(kinds, m_good);
+    m_library->offer(std::move(kinds));
     m_watch.watch(m_folders);
 }
 
@@ -72,7 +86,12 @@ void DeclaredPlugin::reload()
         return;
     }
     const ShapeLibrary::Kinds before = m_library->offered();
+    const QHash<QString, QString> filesBefore = m_files;
+    const QStringList faultsBefore = m_faults;
     read();
+    // The watch also notices files that are none of ours, as in the folder above one that isn't there yet.
+    if (m_library->offered() == before && m_files == filesBefore && m_faults == faultsBefore)
+        return;
     followFiles(before);
     if (m_listener)
         m_listener(KindsChanged);
@@ -133,20 +152,21 @@ void DeclaredPlugin::addFolders(const QStringList &folders)
 
 QString DeclaredPlugin::kindOfFile(const QString &path) const
 {
-    const SharedDeclaration declaration = m_good.value(QFileInfo(path).absoluteFilePath());
+    const QString file = QFileInfo(path).absoluteFilePath();
     for (const ShapeKind *shape : m_library->offered())
-        if (&shape->declaration() == declaration.get())
+        if (fileOf(*shape) == file)
             return shape->kind().id();
     return {};
 }
 
+QString DeclaredPlugin::fileOf(const ShapeKind &shape) const
+{
+    return m_files.value(shape.declaration().hash);
+}
+
 bool DeclaredPlugin::isOwn(const ShapeKind &shape) const
 {
-    const QString folder = QFileInfo(userFolder()).absoluteFilePath();
-    for (auto file = m_good.begin(); file != m_good.end(); ++file)
-        if (file.value().get() == &shape.declaration())
-            return QFileInfo(file.key()).absolutePath() == folder;
-    return false;
+    return QFileInfo(fileOf(shape)).absolutePath() == QFileInfo(userFolder()).absoluteFilePath();
 }
 
 QVector<pagehost::ObjectKind> DeclaredPlugin::objectKinds() const

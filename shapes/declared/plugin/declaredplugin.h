@@ -48,11 +48,13 @@ public:
     void setMessageListener(const pagehost::MessageListener &listener) override { m_log->setListener(listener); }
 
     /// Reads all files again. Objects that are made of what a file declared before follow it; not while the user
-    /// drags one of them.
+    /// drags one of them. Silent where nothing has changed.
     void reload();
 
 private:
     void read();
+    /// The file that declares a shape on offer.
+    QString fileOf(const ShapeKind &shape) const;
     /// Whether a file of the user's folder declares the shape.
     bool isOwn(const ShapeKind &shape) const;
     void followFiles(const QVector<const ShapeKind *> &before);
@@ -60,6 +62,7 @@ private:
     std::shared_ptr<ShapeLibrary> m_library;
     ShapeWatch m_watch;
     GoodFiles m_good;
+    QHash<QString, QString> m_files; ///< of the shapes on offer, by the hash of their text
     QStringList m_folders;
     QStringList m_faults;
     /// Kinds live as long as their objects, and report there.

@@ -28,6 +28,10 @@ private Q_SLOTS:
 
     void savedFileIsLiveInPaletteAndOnPages();
     void newFileIsOnOfferAndARemovedOneIsNot();
+    void otherFilesInTheFolderChangeNothing();
+    void fileIsKnownByItsShapeHoweverOftenItIsRead();
+    void movedFileIsKnownByItsNewPlace();
+    void ownShapesStayOwn();
     void objectsOfEarlierVersionsStayAsTheyAre();
     void pointsAndValuesStay();
     void faultyFileKeepsItsLastGoodLook();
@@ -127,11 +131,11 @@ void TestReloading::savedFileIsLiveInPaletteAndOnPages()
     int changes = 0;
     m_machine->registry().setKindsListener([&] { ++changes; });
     m_document->page(0)->select({});
-    QCOMPARE(colourOf(inside), QColor("#ff0000"));
+    QCOMPARE(colourOf(inside), QColor(Qt::red));
     save(barFile("#ff0000").replace("name='Bar'", "name='Rod'").replace("V{h}", "V{h / 2}"));
     QCOMPARE(changes, 1);
     QCOMPARE(m_machine->localizer().text(m_machine->registry().kind(barKind).nameKey), QStringLiteral("Rod"));
-    QCOMPARE(colourOf({110, 130}), QColor("#ff0000"));
+    QCOMPARE(colourOf({110, 130}), QColor(Qt::red));
     QCOMPARE(colourOf({110, 150}), QColor(Qt::white));
 }
 
@@ -143,7 +147,60 @@ void TestReloading::newFileIsOnOfferAndARemovedOneIsNot()
     QVERIFY(m_machine->registry().hasKind(QStringLiteral("declared.nut")));
     QVERIFY(!m_machine->registry().hasKind(barKind));
     m_document->page(0)->select({});
-    QCOMPARE(colourOf(inside), QColor("#ff0000"));
+    QCOMPARE(colourOf(inside), QColor(Qt::red));
+}
+
+void TestReloading::otherFilesInTheFolderChangeNothing()
+{
+    int changes = 0;
+    m_machine->registry().setKindsListener([&] { ++changes; });
+    QFile notes(m_machine->pathOf(name) + QStringLiteral(".txt"));
+    QVERIFY(notes.open(QIODevice::WriteOnly));
+    m_machine->plugin().reload();
+    QCOMPARE(changes, 0);
+    save("<svg");
+    QCOMPARE(changes, 1);
+    m_machine->plugin().reload();
+    QCOMPARE(changes, 1);
+}
+
+void TestReloading::fileIsKnownByItsShapeHoweverOftenItIsRead()
+{
+    for (const char *colour : {"#ff0000", "#00ff00", "#ff0000"}) {
+        save(barFile(colour));
+        QCOMPARE(m_machine->plugin().kindOfFile(m_machine->pathOf(name)), barKind);
+    }
+}
+
+void TestReloading::movedFileIsKnownByItsNewPlace()
+{
+    const QByteArray text = barFile("#ff0000").replace("name='Bar'", "name='Bar' id='bar'");
+    save(text);
+    const QString place = m_machine->pathOf(QStringLiteral("rod"));
+    int changes = 0;
+    m_machine->registry().setKindsListener([&] { ++changes; });
+    QVERIFY(QFile::rename(m_machine->pathOf(name), place));
+    m_machine->plugin().reload();
+    QCOMPARE(changes, 1);
+    QCOMPARE(m_machine->plugin().kindOfFile(place), barKind);
+    QCOMPARE(m_machine->plugin().kindOfFile(m_machine->pathOf(name)), QString());
+}
+
+void TestReloading::ownShapesStayOwn()
+{
+    const QDir own(userFolder());
+    QVERIFY(QDir().mkpath(own.path()));
+    const QString path = own.filePath(QStringLiteral("owned.shape.svg"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(fileOf(""));
+    file.close();
+    m_machine->plugin().reload();
+    m_machine->plugin().reload();
+    const QString group = m_machine->registry().kind(QStringLiteral("declared.owned")).group;
+    QVERIFY(QFile::remove(path));
+    QCOMPARE(group, QString::fromLatin1(pagehost::ownGroup));
+    QVERIFY(m_machine->registry().kind(barKind).group != group);
 }
 
 /// Only objects of the text that the file had go along with it.
@@ -275,12 +332,12 @@ void TestReloading::fillMayMoveToThePage()
     dragTo(90);
     m_document->page(0)->select({});
     save(barFile("#ff0000").replace("name='Bar'", "name='Bar' filled='page'"));
-    QCOMPARE(colourOf(inside), QColor("#ff0000"));
+    QCOMPARE(colourOf(inside), QColor(Qt::red));
     stack().undo();
     QCOMPARE(pointX(), 60.0);
     stack().redo();
     QCOMPARE(pointX(), 90.0);
-    QCOMPARE(colourOf(inside), QColor("#ff0000"));
+    QCOMPARE(colourOf(inside), QColor(Qt::red));
 }
 
 void TestReloading::randomStepsAreUndoneAcrossChangesOfTheFile_data()
