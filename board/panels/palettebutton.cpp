@@ -114,12 +114,13 @@ void PaletteButton::keyPressEvent(QKeyEvent *event)
     event->accept();
 }
 
+/// A file of shapes that changes meanwhile builds the palette anew, and this button is no more when the drag ends.
 void PaletteButton::dragOut()
 {
     setDown(false);
     auto *data = new QMimeData;
     data->setData(kindMimeType, m_kindId.toUtf8());
-    auto *drag = new QDrag(this);
+    auto *drag = new QDrag(window());
     drag->setMimeData(data);
     drag->setPixmap(icon().pixmap(iconSize()));
     drag->exec(Qt::CopyAction);

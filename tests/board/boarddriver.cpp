@@ -14,6 +14,7 @@
 
 #include <support/patience.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -38,14 +39,26 @@ constexpr int handleReach = 60;
 /// Finer than a handle is large.
 constexpr int coarseStep = 8;
 
-/// Layouts move widgets for some turns of the event loop.
-void waitUntilStill(const QWidget *widget)
+/// Layouts move widgets for some turns of the event loop, and some of these turns delete widgets.
+void waitUntilStill(const QPointer<QWidget> &widget)
 {
     QPoint before;
-    do {
+    while (widget) {
         before = widget->mapToGlobal(QPoint());
         QCoreApplication::processEvents();
-    } while (widget->mapToGlobal(QPoint()) != before);
+        if (widget && widget->mapToGlobal(QPoint()) == before)
+            return;
+    }
+}
+
+/// Scrolls it into view, and waits until what slides has arrived. The widget may be gone afterwards.
+void bringIntoView(const QPointer<QWidget> &widget)
+{
+    waitUntilStill(widget);
+    for (QWidget *around = widget ? widget->parentWidget() : nullptr; around; around = around->parentWidget())
+        if (auto *scrolled = qobject_cast<QScrollArea *>(around))
+            scrolled->ensureWidgetVisible(widget);
+    waitUntilStill(widget);
 }
 
 std::unique_ptr<board::Workspace> makeWorkspace(const QString &language)
@@ -208,14 +221,9 @@ void BoardDriver::clickOn(QWidget *widget, const QPoint &pos, Qt::KeyboardModifi
     m_hands->release(widget, pos, modifiers);
 }
 
-/// Scrolls it into view first.
 void BoardDriver::clickOn(QWidget *widget)
 {
-    waitUntilStill(widget);
-    for (QWidget *around = widget->parentWidget(); around; around = around->parentWidget())
-        if (auto *scrolled = qobject_cast<QScrollArea *>(around))
-            scrolled->ensureWidgetVisible(widget);
-    waitUntilStill(widget);
+    bringIntoView(widget);
     clickOn(widget, widget->rect().center());
 }
 
@@ -243,10 +251,24 @@ void BoardDriver::pick(const QString &kindId)
         m_window->commands()->action(board::Command::Shapes)->trigger();
     // The shapes that were last used have new buttons from the next turn of the event loop on.
     QCoreApplication::processEvents();
+    // So have all shapes when a file of shapes has changed while the palette slides in.
+    QPointer<board::PaletteButton> button;
+    do {
+        button = paletteButton(kindId);
+        if (!button)
+            return;
+        bringIntoView(button.data());
+    } while (!button);
+    clickOn(button, button->rect().center());
+}
+
+board::PaletteButton *BoardDriver::paletteButton(const QString &kindId) const
+{
     const auto buttons = m_window->palettePanel()->buttons();
     for (board::PaletteButton *button : buttons)
         if (button->kindId() == kindId && button->isVisible())
-            return clickOn(button);
+            return button;
+    return nullptr;
 }
 
 QVector<pagehost::ObjectKind> BoardDriver::drawableKinds() const

@@ -25,6 +25,7 @@ class PageScene;
 namespace board {
 class MainWindow;
 class PageView;
+class PaletteButton;
 } // namespace board
 
 namespace boardtest {
@@ -99,6 +100,8 @@ public:
     CBaseObject *draw(const QString &kindId, const QPointF &from, const QPointF &to);
     /// Picks a kind in the palette and waits.
     void pick(const QString &kindId);
+    /// Null while the palette is closed, and for a kind that it lacks.
+    board::PaletteButton *paletteButton(const QString &kindId) const;
     CBaseObject *only() const;
     QVector<CBaseObject *> selection() const;
     /// Where the object's client rectangle is on the page, for objects that are not turned.
