@@ -48,6 +48,11 @@ void PropertiedShape::loadValues(QDataStream &in)
 {
     if (m_properties.isEmpty())
         return;
+    // A shape may have had no properties in earlier versions.
+    if (in.atEnd()) {
+        propertyChanged(nullptr);
+        return;
+    }
     qint32 count = 0;
     in >> count;
     QByteArray further;

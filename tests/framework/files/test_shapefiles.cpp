@@ -48,18 +48,31 @@ void fillWith(CBaseObject *object, CPageBgProp::FillType type)
     setObjectsFill({object}, fill);
 }
 
-/// As recorded steps of a user who drags each control point to a place of its own.
-void moveControlPoints(CBaseObject *object)
+/// As a recorded step of a user who drags a control point; `place` in terms of the size.
+void moveControlPoint(CBaseObject *object, int number, QPointF place)
 {
     constexpr int controlPointMoved = 1001;
-    const QRectF rect = object->getClientRect();
-    for (int number = 1; number <= 32; ++number) {
-        QByteArray step;
-        QDataStream out(&step, QIODevice::WriteOnly);
-        out << QStringLiteral("control_%1").arg(number)
-            << QPointF(rect.width() * (0.2 + 0.019 * number), rect.height() * (0.7 - 0.013 * number));
-        replayAction(object, controlPointMoved, step);
-    }
+    const QSizeF size = object->getClientRect().size();
+    QByteArray step;
+    QDataStream out(&step, QIODevice::WriteOnly);
+    out << QStringLiteral("control_%1").arg(number) << QPointF(size.width() * place.x(), size.height() * place.y());
+    replayAction(object, controlPointMoved, step);
+}
+
+constexpr int mostControlPoints = 32;
+
+/// Each to a place of its own.
+void moveControlPoints(CBaseObject *object)
+{
+    for (int number = 1; number <= mostControlPoints; ++number)
+        moveControlPoint(object, number, {0.2 + 0.019 * number, 0.7 - 0.013 * number});
+}
+
+/// Most have limits; boxes of others grow.
+void moveControlPointsOut(CBaseObject *object)
+{
+    for (int number = 1; number <= mostControlPoints; ++number)
+        moveControlPoint(object, number, {1.7, -0.63});
 }
 
 struct Mode
@@ -92,6 +105,7 @@ const Mode modes[] = {
     {"locked", [](CBaseObject *object) { setObjectsLocked({object}, true); }},
     {"hidden", [](CBaseObject *object) { object->hide(); }},
     {"control points moved", moveControlPoints},
+    {"control points moved out of the frame", moveControlPointsOut},
     {"everything at once", changeEverything},
 };
 

@@ -448,7 +448,7 @@ void TestLessonPlayer::everyActionIdIsReplayed()
         pagehost::setPenStyle({object}, Qt::DotLine);           // 1003
         pagehost::setPenWidth({object}, 6);                     // 1004
         room.page->select({object});
-        room.drag(QPointF(124, 214), QPointF(150, 205));     // 1001
+        room.drag(QPointF(124, 214), QPointF(150, 205));     // 1001, and 1192 for where the tip was put
         pagehost::moveObjects({object}, QPointF(12.25, -3)); // 101
         pagehost::resizeObject(object, QSizeF(260, 171));    // 102
         pagehost::rotateObjects({object}, 41);               // 103
@@ -465,7 +465,7 @@ void TestLessonPlayer::everyActionIdIsReplayed()
     QSet<int> ids;
     for (const pagehost::LessonEvent &event : qAsConst(lesson.events))
         ids.insert(std::get<pagehost::ObjectActed>(event.step).actionId);
-    QCOMPARE(ids, (QSet<int>{1001, 1002, 1003, 1004, 1005, 101, 102, 103, 104, 105, 106}));
+    QCOMPARE(ids, (QSet<int>{1001, 1002, 1003, 1004, 1005, 1192, 101, 102, 103, 104, 105, 106}));
     QVERIFY(savedState(object) != before);
     room.player.setLesson(lesson);
     QCOMPARE(savedState(room.player.document()->page(0)->objects().first()), before);
