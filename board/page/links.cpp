@@ -6,33 +6,22 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QStringList>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 
 namespace board {
 
-namespace {
-
-/// Files and programs of this computer are nobody's to open from a board.
-const QStringList allowedSchemes{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto")};
-
-} // namespace
-
 QString linkAddress(const QString &typed)
 {
     static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*:(?![0-9])"));
     QString address = typed.trimmed();
-    if (address.isEmpty() || address.size() > pagehost::longestAddress)
+    if (address.isEmpty())
         return {};
     if (!scheme.match(address).hasMatch()) {
         const bool isMail = address.contains(QLatin1Char('@')) && !address.contains(QLatin1Char('/'));
         address.prepend(isMail ? QStringLiteral("mailto:") : QStringLiteral("https://"));
     }
-    const QUrl url(address, QUrl::StrictMode);
-    const bool isMail = url.scheme() == QLatin1String("mailto");
-    const bool leadsSomewhere = isMail ? !url.path().isEmpty() : !url.host().isEmpty();
-    return url.isValid() && leadsSomewhere && allowedSchemes.contains(url.scheme()) ? address : QString();
+    return pagehost::isLinkAddress(address) ? address : QString();
 }
 
 bool openLink(const QString &address)

@@ -82,6 +82,16 @@ void writeBox(QXmlStreamWriter &writer, const QSizeF &size, bool isShown)
     writer.writeAttribute(QStringLiteral("keeps"), QStringLiteral("stroke"));
 }
 
+/// Begins a part of the line that is underlined, and leads to the address where that may be followed.
+void beginLink(QXmlStreamWriter &writer, const QString &address)
+{
+    const bool leadsSomewhere = pagehost::isLinkAddress(address);
+    writer.writeStartElement(leadsSomewhere ? QStringLiteral("a") : QStringLiteral("tspan"));
+    if (leadsSomewhere)
+        writer.writeAttribute(QStringLiteral("xlink:href"), printable(address));
+    writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
+}
+
 /// The letters of a line, those of links underlined.
 void writeLetters(QXmlStreamWriter &writer, const TextLine &line, const QVector<pagehost::TextLink> &links)
 {
@@ -92,8 +102,7 @@ void writeLetters(QXmlStreamWriter &writer, const TextLine &line, const QVector<
         if (first >= last)
             continue;
         writer.writeCharacters(line.text.mid(written, first - written));
-        writer.writeStartElement(QStringLiteral("tspan"));
-        writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
+        beginLink(writer, link.address);
         writer.writeCharacters(line.text.mid(first, last - first));
         writer.writeEndElement();
         written = last;
@@ -179,6 +188,7 @@ QString Writing::getSVG()
     QXmlStreamWriter writer(&svg);
     writer.writeStartElement(QStringLiteral("svg"));
     writer.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
+    writer.writeAttribute(QStringLiteral("xmlns:xlink"), QStringLiteral("http://www.w3.org/1999/xlink"));
     writer.writeAttribute(QStringLiteral("width"), number(layout.size.width()));
     writer.writeAttribute(QStringLiteral("height"), number(layout.size.height()));
     writer.writeAttribute(

@@ -20,7 +20,7 @@ public:
     DrawnObject()
         : CBaseObject(1, true, nullptr, nullptr)
     {
-        CPSRootObject::setSize(QSizeF(40, 30), false, false);
+        CBaseObject::setSize(QSizeF(40, 30), false, false);
     }
     QString kindName() const override { return QStringLiteral("IDS_DRAWN"); }
     /// Without a painter, it is told that its look changed.

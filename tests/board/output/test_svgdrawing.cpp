@@ -49,6 +49,7 @@ private Q_SLOTS:
     void referencesFollow();
     void unknownIdsStay();
     void textIsKept();
+    void addressesOfLinksAreKept();
     void styleSheetsStayAmongThemselves();
     void whatIsNoSvgIsRefused_data();
     void whatIsNoSvgIsRefused();
@@ -108,6 +109,12 @@ void TestSvgDrawing::textIsKept()
 {
     QCOMPARE(inner("<text>1 &lt; 2 <tspan> ü </tspan></text>"),
              QByteArray("<text>1 &lt; 2 <tspan> ü </tspan></text>"));
+}
+
+void TestSvgDrawing::addressesOfLinksAreKept()
+{
+    const QByteArray link("<text>see <a xlink:href=\"https://example.org/#a\">there</a></text><g id=\"%1a\"/>");
+    QCOMPARE(inner(QByteArray(link).replace("%1", "")), QByteArray(link).replace("%1", "p-"));
 }
 
 void TestSvgDrawing::styleSheetsStayAmongThemselves()
@@ -184,7 +191,7 @@ void TestSvgDrawing::mirroredAndTurnedObjects()
     mirrored->setRotation(90);
     // Clockwise about its origin: right becomes down, down becomes left.
     const QByteArray drawing = t.drawing();
-    const QRegularExpression quarter("matrix\\((0|[-\\d.]+e-1\\d) 1 -1 (0|[-\\d.]+e-1\\d) 10 20\\)");
+    static const QRegularExpression quarter("matrix\\((0|[-\\d.]+e-1\\d) 1 -1 (0|[-\\d.]+e-1\\d) 10 20\\)");
     QVERIFY2(quarter.match(drawing).hasMatch(), drawing.constData());
 }
 

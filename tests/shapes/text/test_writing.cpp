@@ -5,6 +5,8 @@
 #include <pagehost/objectplugin.h>
 #include <pagehost/textlinks.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -19,7 +21,7 @@ enum : int { TextId = 5101, SizeId, BoldId, ItalicId, AlignmentId, WidthId, Unde
 struct Desk : WritingDesk
 {
     Desk()
-        : WritingDesk(ToolRole::Text, {QColor("#2563cf"), 20, 0})
+        : WritingDesk(ToolRole::Text, {QColor(0x25, 0x63, 0xcf), 20, 0})
     {
     }
     CBaseObject *clicked()
@@ -69,6 +71,8 @@ private Q_SLOTS:
     void aListIsChosenInThePanel();
     void theColourIsChosenInThePanel();
     void linksAreUnderlinedAndTellWhereTheyAre();
+    void drawingsLeadOnlyToTheWebAndToMail_data();
+    void drawingsLeadOnlyToTheWebAndToMail();
     void linksAreTakenBackSavedAndRecorded();
     void brokenLinksAreNone();
     void aTextIsExportedAsText();
@@ -150,7 +154,7 @@ void TestWriting::everySettingShows()
     QVERIFY(desk.svgOf(text).contains("font-weight=\"bold\""));
     desk.set(text, ItalicId, true);
     QVERIFY(desk.svgOf(text).contains("font-style=\"italic\""));
-    QVERIFY(pagehost::setPenColor({text}, QColor("#c9252d")));
+    QVERIFY(pagehost::setPenColor({text}, QColor(0xc9, 0x25, 0x2d)));
     QVERIFY(desk.svgOf(text).contains("fill=\"#c9252d\""));
     desk.set(text, UnderlinedId, true);
     QVERIFY(desk.svgOf(text).contains("text-decoration=\"underline\""));
@@ -171,7 +175,7 @@ QJsonArray settingsOf(CBaseObject *text)
 
 QJsonObject settingOf(CBaseObject *text, const QString &id)
 {
-    for (const QJsonValue &control : settingsOf(text))
+    for (const QJsonValue &control : support::listed(settingsOf(text)))
         if (control[QLatin1String("id")] == id)
             return control.toObject();
     return {};
@@ -210,7 +214,7 @@ void TestWriting::thePanelHasASectionForItsLetters()
     Desk desk;
     CBaseObject *text = desk.clicked();
     QStringList ids;
-    for (const QJsonValue &control : settingsOf(text))
+    for (const QJsonValue &control : support::listed(settingsOf(text)))
         if (control[QLatin1String("section")] == QLatin1String("text"))
             ids.append(control[QLatin1String("id")].toString());
     QCOMPARE(ids, (QStringList{"idText", "idFontSize", "idBold", "idItalic", "idUnderlined", "idTextColour",
@@ -257,8 +261,8 @@ void TestWriting::linksAreUnderlinedAndTellWhereTheyAre()
     desk.type(text, QStringLiteral("see there"));
     QVERIFY(linkAreasOf(text).isEmpty());
     desk.set(text, LinksId, pagehost::encodedLinks(oneLink));
-    const QRegularExpression underlined(
-        QStringLiteral("see <tspan text-decoration=\"underline\"[^>]*>there</tspan></tspan>"));
+    const QRegularExpression underlined(QStringLiteral(
+        "see <a xlink:href=\"https://example.org/\" text-decoration=\"underline\"[^>]*>there</a></tspan>"));
     QVERIFY2(underlined.match(desk.svgOf(text)).hasMatch(), qPrintable(desk.svgOf(text)));
     const auto areas = linkAreasOf(text);
     QCOMPARE(areas.size(), 1);
@@ -270,6 +274,44 @@ void TestWriting::linksAreUnderlinedAndTellWhereTheyAre()
     // On two lines there are two parts.
     desk.type(text, QStringLiteral("see th\nre"));
     QCOMPARE(linkAreasOf(text).size(), 2);
+}
+
+void TestWriting::drawingsLeadOnlyToTheWebAndToMail_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("written");
+    const QString none;
+    QTest::newRow("web") << "http://example.org"
+                         << "http://example.org";
+    QTest::newRow("signs of XML") << "https://example.org/?a=1&b=\"2\"" << none;
+    QTest::newRow("ampersand") << "https://example.org/?a=1&b=2"
+                               << "https://example.org/?a=1&amp;b=2";
+    QTest::newRow("capitals") << "HTTPS://EXAMPLE.ORG/A"
+                              << "HTTPS://EXAMPLE.ORG/A";
+    QTest::newRow("mail") << "mailto:a@example.org"
+                          << "mailto:a@example.org";
+    QTest::newRow("nobody's mail") << "mailto:" << none;
+    QTest::newRow("no host") << "https:///a" << none;
+    QTest::newRow("script") << "javascript:alert(1)" << none;
+    QTest::newRow("file") << "file:///etc/passwd" << none;
+    QTest::newRow("data") << "data:text/html,a" << none;
+    QTest::newRow("no scheme") << "example.org" << none;
+    QTest::newRow("too long") << "https://example.org/" + QString(pagehost::longestAddress, 'a') << none;
+}
+
+void TestWriting::drawingsLeadOnlyToTheWebAndToMail()
+{
+    QFETCH(QString, address);
+    QFETCH(QString, written);
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("see there"));
+    desk.set(text, LinksId, pagehost::encodedLinks({{4, 5, address}}));
+    const QRegularExpression link(QStringLiteral("<a xlink:href=\"([^\"]*)\"[^>]*>there</a>"));
+    const QString drawing = desk.svgOf(text);
+    QCOMPARE(link.match(drawing).captured(1), written);
+    QVERIFY2(drawing.contains("there<"), qPrintable(drawing));
+    QCOMPARE(drawing.contains("<a"), !written.isEmpty());
 }
 
 void TestWriting::linksAreTakenBackSavedAndRecorded()

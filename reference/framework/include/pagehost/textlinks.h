@@ -4,6 +4,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
 #include <QtCore/QString>
+#include <QtCore/QUrl>
 #include <QtCore/QVector>
 
 namespace pagehost {
@@ -70,6 +71,20 @@ inline QVector<TextLink> decodedLinks(const QByteArray &bytes)
             links.append({start, length, address});
     }
     return links;
+}
+
+/// Whether an address leads into the web or to a mail box: one with http, https or mailto. Files and programs of
+/// this computer are nobody's to open from a page.
+inline bool isLinkAddress(const QString &address)
+{
+    if (address.size() > longestAddress)
+        return false;
+    const QUrl url(address, QUrl::StrictMode);
+    const QString scheme = url.scheme();
+    if (scheme == QLatin1String("mailto"))
+        return url.isValid() && !url.path().isEmpty();
+    return url.isValid() && (scheme == QLatin1String("http") || scheme == QLatin1String("https")) &&
+           !url.host().isEmpty();
 }
 
 } // namespace pagehost
