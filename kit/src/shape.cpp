@@ -208,6 +208,18 @@ void Shape::notifyObjectCreated()
         invalidate();
 }
 
+void Shape::growBox(const QRectF &before, const QRectF &after)
+{
+    if (before == after || !owner->isCreateFinished())
+        return;
+    // Only presses of the mouse tell the shape how it is mirrored; replayed steps and settings have none.
+    setFlipOn(owner->isMirrored(), owner->isFlipped());
+    const QRectF box = document->viewBox();
+    adjustSvgPosition({box.topLeft() + after.topLeft() - before.topLeft(),
+                       box.bottomRight() + after.bottomRight() - before.bottomRight()},
+                      true);
+}
+
 /// Opening a shape sets its pen width after its control points. A point that keeps its size and centre then must
 /// keep its exact corner, or saving again would not reproduce the file.
 void Shape::setPenWidth(int width, bool record)

@@ -91,6 +91,11 @@ protected:
     /// Puts the points there, as many as the shape has; further ones stay.
     void takePlaces(const QVector<Place> &places);
     QRectF drawnArea() override;
+    /// Grows the view box by what the box around the drawing has grown by, from `before` to `after` (document
+    /// units), and moves and resizes the page object with it, so that the drawing stays where it is on the page,
+    /// however the object is turned and mirrored. In differences, so that a view box which the user has stretched
+    /// comes back exactly when the drawing does. Nothing changes while the object is being created.
+    void growBox(const QRectF &before, const QRectF &after);
     /// @}
 
     /// @name Tools for drawing

@@ -161,25 +161,13 @@ bool Callout::updateSVG(QZeSvgNode *node, QPointF delta, bool refresh)
     if (!isBeingLoaded)
         m_frame = balloonFrame();
     const bool isPoint = ShapeOfType::updateSVG(node, delta, false);
-    if (isPoint && !isBeingLoaded)
-        fitBox(before);
+    if (isPoint && !isBeingLoaded) {
+        keepFrame(m_frame);
+        growBox(before, fittingBox());
+    }
     if (refresh)
         invalidate();
     return isPoint;
-}
-
-/// By differences, so that the box comes back exactly when the tip does.
-void Callout::fitBox(const QRectF &before)
-{
-    keepFrame(m_frame);
-    const QRectF present = fittingBox();
-    const QRectF box = document->viewBox();
-    // A replayed drag has no press that tells how the object is mirrored.
-    setFlipOn(owner->isMirrored(), owner->isFlipped());
-    if (owner->isCreateFinished() && present != before)
-        adjustSvgPosition({box.topLeft() + present.topLeft() - before.topLeft(),
-                           box.bottomRight() + present.bottomRight() - before.bottomRight()},
-                          true);
 }
 
 bool Callout::mousePressEvent(QGraphicsSceneMouseEvent *event)

@@ -37,7 +37,6 @@ private:
     QSizeF balloonFrame() const;
     QRectF fittingBox() const;
     void keepFrame(const QSizeF &size);
-    void fitBox(const QRectF &before);
     QByteArray state() const;
     bool takeState(QDataStream &in);
     QString pathWithTailBelow(const QRectF &box);

@@ -112,7 +112,7 @@ bool Line::takeEndState(QDataStream &in)
     keepDetour(decodedDetour(detour));
     keep(*course);
     ShapeOfType::propertyChanged(nullptr);
-    fitBox(before);
+    growBox(before, fittingBox());
     invalidate();
     return true;
 }

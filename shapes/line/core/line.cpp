@@ -292,7 +292,7 @@ void Line::take(const LineCourse &course)
     const QRectF before = fittingBox();
     keep(course);
     ShapeOfType::propertyChanged(nullptr);
-    fitBox(before);
+    growBox(before, fittingBox());
     invalidate();
 }
 
@@ -308,7 +308,7 @@ void Line::propertyChanged(const shapekit::Property *property)
     measureLabel();
     ShapeOfType::propertyChanged(property);
     if (changesBox)
-        fitBox(before);
+        growBox(before, fittingBox());
 }
 
 QRectF Line::fittingBox()
@@ -334,22 +334,10 @@ bool Line::updateSVG(QZeSvgNode *node, QPointF delta, bool refresh)
     const QRectF before = fittingBox();
     const bool isPoint = ShapeOfType::updateSVG(node, delta, false);
     if (isPoint && !isBeingLoaded)
-        fitBox(before);
+        growBox(before, fittingBox());
     if (refresh)
         invalidate();
     return isPoint;
-}
-
-/// By differences, so that a box which the user has stretched comes back exactly when the line does.
-void Line::fitBox(const QRectF &before)
-{
-    const QRectF present = fittingBox();
-    if (!owner->isCreateFinished() || present == before)
-        return;
-    const QRectF box = document->viewBox();
-    adjustSvgPosition({box.topLeft() + present.topLeft() - before.topLeft(),
-                       box.bottomRight() + present.bottomRight() - before.bottomRight()},
-                      true);
 }
 
 /// Heads grow with the pen.
@@ -358,7 +346,7 @@ void Line::setPenWidth(int width, bool record)
     const QRectF before = fittingBox();
     ShapeOfType::setPenWidth(width, record);
     if (!isBeingLoaded)
-        fitBox(before);
+        growBox(before, fittingBox());
 }
 
 void Line::setSize(QSizeF, QSizeF newSize)

@@ -94,8 +94,6 @@ private:
     QRectF fittingBox();
     /// The view box of an object of that size, with the line in its middle.
     QRectF boxOfSize(const QSizeF &size);
-    /// Changes the box as the fitting one has changed since `before`; the line stays where it is on the page.
-    void fitBox(const QRectF &before);
     void addHead(shapekit::PathText &path, End end, QPointF tip, QPointF direction);
 
     LineCourse m_course; ///< decoded from the property

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void aLevelLineStaysInTheMiddleOfAHigherBox();
     void aWiderPenMakesRoomForItsHead();
     void theOtherEndOfATurnedLineStays();
+    void theOtherEndOfAMirroredLineStays();
+    void aMirroredLineIsDraggedInALesson();
     void aLineThatIsSavedAndOpenedIsTheSame();
     void aLessonShowsTheLineGrow();
     void aDamagedLineOpens();
@@ -178,6 +180,43 @@ void TestLine::theOtherEndOfATurnedLineStays()
     QCOMPARE(line->getClientRect().size(), QSizeF(146, 16));
     QCOMPARE(line->mapToScene(QPointF(8, 8)), QPointF(150, 70));
     QCOMPARE(line->mapToScene(QPointF(138, 8)), QPointF(150, 200));
+}
+
+/// It goes down to the left then, from (200, 120).
+void TestLine::theOtherEndOfAMirroredLineStays()
+{
+    Desk desk;
+    CBaseObject *line = desk.drawnTo({200, 180});
+    desk.putToolDown();
+    QVERIFY(pagehost::mirrorObjects({line}, true));
+    desk.drag({100, 180}, {60, 160});
+    QCOMPARE(desk.placeOf(line), QRectF(52, 112, 156, 56));
+    undoStack()->undo();
+    QCOMPARE(desk.placeOf(line), QRectF(92, 112, 116, 76));
+}
+
+void TestLine::aMirroredLineIsDraggedInALesson()
+{
+    Desk desk;
+    CBaseObject *line = desk.drawnTo({200, 180});
+    desk.putToolDown();
+    QVERIFY(pagehost::mirrorObjects({line}, true));
+    desk.recorder.start(&desk.document);
+    desk.press({100, 180});
+    desk.letTimersRun();
+    desk.now = 1000;
+    desk.moveTo({60, 160});
+    desk.letTimersRun();
+    desk.now = 2000;
+    desk.release({60, 160});
+    const QRectF dragged(52, 112, 156, 56);
+    QCOMPARE(desk.placeOf(line), dragged);
+    const QStringList drawn = savedState(desk.document);
+    const pagehost::Lesson lesson = desk.recorder.stop();
+    desk.player.setLesson(lesson);
+    desk.player.seek(1500);
+    QCOMPARE(desk.placeOf(desk.player.document()->page(0)->objects().first()), dragged);
+    QCOMPARE(desk.played(lesson), drawn);
 }
 
 void TestLine::aLineThatIsSavedAndOpenedIsTheSame()
