@@ -134,13 +134,13 @@ void TestDrawings::iconFollowsPenAndFill()
     DeclaredObject *object =
         drop(drawing("viewBox='-8 -8 16 16'", "<rect x='-8' y='-8' width='16' height='16' " + fill + "/>"));
     QVERIFY(object);
-    pagehost::setFill({object}, QColor("#ff0000"));
-    QCOMPARE(colourAt({0.25, 0.25}), QColor("#ff0000"));
+    pagehost::setFill({object}, QColor(Qt::red));
+    QCOMPARE(colourAt({0.25, 0.25}), QColor(Qt::red));
     DeclaredObject *line = drop(
         drawing("viewBox='0 0 16 16' fill='none' stroke='currentColor' stroke-width='4'", "<path d='M0 8H16'/>"));
-    pagehost::setPenColor({line}, QColor("#00ff00"));
-    QCOMPARE(colourAt({0.5, 0.5}), QColor("#00ff00"));
-    QCOMPARE(colourAt({0.5, 0.1}), QColor("#ff0000"));
+    pagehost::setPenColor({line}, QColor(Qt::green));
+    QCOMPARE(colourAt({0.5, 0.5}), QColor(Qt::green));
+    QCOMPARE(colourAt({0.5, 0.1}), QColor(Qt::red));
 }
 
 void TestDrawings::drawingOfSeveralColoursKeepsThem_data()
@@ -158,9 +158,9 @@ void TestDrawings::drawingOfSeveralColoursKeepsThem()
     QFETCH(QByteArray, content);
     DeclaredObject *object = drop(drawing("viewBox='0 0 16 16'", content));
     QVERIFY(object);
-    pagehost::setFill({object}, QColor("#ff0000"));
-    QCOMPARE(colourAt({0.25, 0.5}), QColor("#0000ff"));
-    QCOMPARE(colourAt({0.75, 0.5}), QColor("#ffff00"));
+    pagehost::setFill({object}, QColor(Qt::red));
+    QCOMPARE(colourAt({0.25, 0.5}), QColor(Qt::blue));
+    QCOMPARE(colourAt({0.75, 0.5}), QColor(0xff, 0xff, 0x00));
 }
 
 void TestDrawings::idsOfADrawingMeanNothing()
@@ -176,9 +176,9 @@ void TestDrawings::idsOfADrawingMeanNothing()
     const Declaration &declaration = object->shapeKind().declaration();
     QCOMPARE(declaration.points.size(), 0);
     QCOMPARE(declaration.labels.size(), 0);
-    QCOMPARE(colourAt({0.25, 0.25}), QColor("#00ff00"));
+    QCOMPARE(colourAt({0.25, 0.25}), QColor(Qt::green));
     QCOMPARE(colourAt({0.75, 0.25}), QColor(Qt::white));
-    QCOMPARE(colourAt({0.75, 0.75}), QColor("#0000ff"));
+    QCOMPARE(colourAt({0.75, 0.75}), QColor(Qt::blue));
 }
 
 void TestDrawings::widthOfALineBelongsToTheDrawing()

@@ -275,7 +275,7 @@ void TestTexts::lookOfAPageFilledVersionCanBeTaken()
     QVERIFY(objectOn(*opened.document));
     setCurrentDocument(opened.document.get());
     opened.document->page(0)->select({});
-    QCOMPARE(pictureOf(*opened.document).pixelColor(110, 120), QColor("#f00"));
+    QCOMPARE(pictureOf(*opened.document).pixelColor(110, 120), QColor(Qt::red));
 }
 
 QTEST_MAIN(TestTexts)

@@ -73,7 +73,7 @@ void TestPen::aClickMakesADot()
 
 void TestPen::theColourIsThatOfTheTool()
 {
-    WritingDesk desk(ToolRole::Pen, {QColor("#2563cf"), 5, 0});
+    WritingDesk desk(ToolRole::Pen, {QColor(0x25, 0x63, 0xcf), 5, 0});
     desk.drawAlong({{100, 120}, {160, 120}});
     QVERIFY(desk.svgOf(desk.object(0)).contains("#2563cf", Qt::CaseInsensitive));
 }

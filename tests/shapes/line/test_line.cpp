@@ -10,7 +10,7 @@ namespace {
 struct Desk : WritingDesk
 {
     explicit Desk(int variant = pagehost::PlainLine)
-        : WritingDesk(ToolRole::Line, {QColor("#2563cf"), 2, variant})
+        : WritingDesk(ToolRole::Line, {QColor(0x25, 0x63, 0xcf), 2, variant})
     {
     }
     /// From (100, 120).

@@ -276,7 +276,7 @@ void TestRepainting::paintingLeavesOpacityAsItWas()
         loadContent("<rect id='control_1' x='10' y='10' width='8' height='8' fill='#ff0000'/>"
                     "<rect x='50' y='50' width='20' height='20' fill='blue' opacity='.5'/>");
     document->setSelectionState(1);
-    QCOMPARE(drawn(*document, QSize(100, 100), true).pixelColor(14, 14), QColor("#ff0000"));
+    QCOMPARE(drawn(*document, QSize(100, 100), true).pixelColor(14, 14), QColor(Qt::red));
 }
 
 QTEST_MAIN(TestRepainting)
