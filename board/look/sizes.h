@@ -28,6 +28,7 @@ struct Sizes
     int lessonBar;
     int timeLine;
     int menuRow;
+    int listRow; ///< height of rows of the outline and the history
     int letters; ///< height of the font; 0 for that of the system
 };
 

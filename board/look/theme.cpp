@@ -65,7 +65,7 @@ const QString highContrastRules = QStringLiteral(R"(
 QToolButton:hover, QToolButton:checked { border: 2px solid %text; padding: 4px; }
 QToolButton:focus { border: 2px dashed %accent; padding: 4px; }
 QMenuBar::item:selected, QMenuBar::item:pressed { border: 2px solid %text; padding: 5px 8px; }
-QUndoView::item:selected { border: 2px solid %text; }
+board--HistoryList::item:selected { border: 2px solid %text; }
 )");
 
 /// Only what the Fusion style can't be told through the palette.
@@ -84,11 +84,11 @@ QMenuBar::item { background: transparent; padding: 7px 10px; border-radius: 8px;
 QMenuBar::item:selected { background: %hover; }
 QMenuBar::item:pressed { background: %soft; color: %accent; }
 QMenuBar::item:disabled { color: %disabled; }
-QGraphicsView, QScrollArea, QListView, QUndoView { border: none; }
+QGraphicsView, QScrollArea, QListView { border: none; }
 QListView { background: %bar; }
-QUndoView::item { padding: 4px 6px; border-radius: 4px; color: %text; }
-QUndoView::item:selected { background: %soft; color: %text; }
-QUndoView::item:hover { background: %hover; }
+board--HistoryList::item { padding: 4px 6px; border-radius: 4px; color: %text; }
+board--HistoryList::item:selected { background: %soft; color: %text; }
+board--HistoryList::item:hover { background: %hover; }
 QLineEdit { border: %edge solid %control; border-radius: 4px; padding: 4px 6px; background: %field;
             min-height: %linepx; }
 QLineEdit:focus { border-color: %accent; }

@@ -1,13 +1,10 @@
 #pragma once
 
-#include <pagehost/localizer.h>
-
 #include <QtWidgets/QWidget>
-
-class QUndoView;
 
 namespace board {
 
+class HistoryList;
 class Workspace;
 
 /// The undo steps by name; a click goes back or forth to that moment.
@@ -18,10 +15,10 @@ class HistoryPanel : public QWidget
 public:
     explicit HistoryPanel(const Workspace *workspace, QWidget *parent = nullptr);
 
-    QUndoView *view() const { return m_view; }
+    HistoryList *list() const { return m_list; }
 
 private:
-    QUndoView *m_view;
+    HistoryList *m_list;
 };
 
 } // namespace board

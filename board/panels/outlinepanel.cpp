@@ -25,7 +25,6 @@ namespace {
 
 /// Of an item: the index of its row.
 constexpr int rowRole = Qt::UserRole;
-constexpr int rowHeight = 28;
 
 bool areVisible(const QVector<CBaseObject *> &objects)
 {
@@ -37,6 +36,18 @@ bool areLocked(const QVector<CBaseObject *> &objects)
 {
     return std::all_of(objects.begin(), objects.end(),
                        [](const CBaseObject *object) { return object->isLocked(); });
+}
+
+int indexOf(const QTreeWidgetItem *item)
+{
+    return item->data(OutlineTree::NameColumn, rowRole).toInt();
+}
+
+/// Its column shows a picture alone.
+void nameButton(QTreeWidgetItem *row, OutlineTree::Column column, const QString &name)
+{
+    row->setToolTip(column, name);
+    row->setData(column, Qt::AccessibleTextRole, name);
 }
 
 } // namespace
@@ -143,14 +154,15 @@ QTreeWidgetItem *OutlinePanel::addItem(const Row &row, int index, QTreeWidgetIte
     const Qt::ItemFlags drops = row.group == 0 ? Qt::NoItemFlags : Qt::ItemIsDropEnabled;
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled | drops);
     item->setText(OutlineTree::NameColumn, row.title);
-    item->setSizeHint(OutlineTree::NameColumn, {0, rowHeight});
+    // In groups there is little room for it.
+    item->setToolTip(OutlineTree::NameColumn, row.title);
     item->setData(OutlineTree::NameColumn, rowRole, index);
     item->setIcon(OutlineTree::EyeColumn, icon(row.isVisible ? Icon::Eye : Icon::EyeClosed, QPalette::Text));
-    item->setToolTip(OutlineTree::EyeColumn,
-                     m_workspace->text(row.isVisible ? "IDS_BOARD_HIDE" : "IDS_BOARD_SHOW"));
+    nameButton(item, OutlineTree::EyeColumn,
+               m_workspace->text(row.isVisible ? "IDS_BOARD_HIDE" : "IDS_BOARD_SHOW"));
     item->setIcon(OutlineTree::LockColumn, icon(row.isLocked ? Icon::Lock : Icon::Unlocked, QPalette::Text));
-    item->setToolTip(OutlineTree::LockColumn,
-                     m_workspace->text(row.isLocked ? "IDS_BOARD_UNLOCK" : "IDS_BOARD_LOCK"));
+    nameButton(item, OutlineTree::LockColumn,
+               m_workspace->text(row.isLocked ? "IDS_BOARD_UNLOCK" : "IDS_BOARD_LOCK"));
     item->setExpanded(!m_folded.contains(row.group));
     return item;
 }
@@ -197,14 +209,14 @@ void OutlinePanel::unfoldAround(const QTreeWidgetItem *item)
 
 quint32 OutlinePanel::groupOf(const QTreeWidgetItem *item) const
 {
-    return item ? m_rows.value(item->data(OutlineTree::NameColumn, rowRole).toInt()).group : 0;
+    return item ? m_rows.value(indexOf(item)).group : 0;
 }
 
 QVector<CBaseObject *> OutlinePanel::objectsOf(const QTreeWidgetItem *item) const
 {
     if (!m_page)
         return {};
-    const Row row = m_rows.value(item->data(OutlineTree::NameColumn, rowRole).toInt());
+    const Row row = m_rows.value(indexOf(item));
     if (row.group != 0)
         return m_page->grouping().objectsOf(row.group);
     return m_page->contains(row.object) ? QVector<CBaseObject *>{row.object} : QVector<CBaseObject *>();
@@ -244,8 +256,7 @@ void OutlinePanel::rename(QTreeWidgetItem *item)
     }
     // The page tells the name that holds.
     const QSignalBlocker quiet(m_tree);
-    item->setText(OutlineTree::NameColumn,
-                  m_rows.value(item->data(OutlineTree::NameColumn, rowRole).toInt()).title);
+    item->setText(OutlineTree::NameColumn, m_rows.value(indexOf(item)).title);
     m_refresh.request();
 }
 

@@ -1,5 +1,8 @@
 #include "panels/outlinetree.h"
 
+#include "look/sizes.h"
+#include "panels/rowdelegate.h"
+
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QHeaderView>
 
@@ -7,8 +10,10 @@ namespace board {
 
 namespace {
 
-constexpr int buttonColumnWidth = 28;
-constexpr int iconSide = 16;
+/// Where rows are folded, for the mouse; fingers get as much as the row is high.
+constexpr int foldWidth = 24;
+/// Of the height of a row.
+constexpr double iconPart = 0.57;
 
 } // namespace
 
@@ -17,19 +22,31 @@ OutlineTree::OutlineTree(QWidget *parent)
 {
     setColumnCount(LockColumn + 1);
     setHeaderHidden(true);
-    header()->setMinimumSectionSize(buttonColumnWidth);
+    // Readers would tell the numbers of the columns.
+    setHeaderLabels({{}, {}, {}});
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    for (const int column : {EyeColumn, LockColumn}) {
+    for (const int column : {EyeColumn, LockColumn})
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
-        header()->resizeSection(column, buttonColumnWidth);
-    }
-    setIconSize(QSize(iconSide, iconSide));
     setSelectionMode(ExtendedSelection);
     setEditTriggers(EditKeyPressed | DoubleClicked);
     setDragDropMode(InternalMove);
     setExpandsOnDoubleClick(false);
     setUniformRowHeights(true);
+    setItemDelegate(new RowDelegate(this));
+    followSizes(this, [this] { applySizes(); });
+}
+
+void OutlineTree::applySizes()
+{
+    const int side = sizes().listRow;
+    header()->setMinimumSectionSize(side);
+    for (const int column : {EyeColumn, LockColumn})
+        header()->resizeSection(column, side);
+    setIndentation(areSizesLarge() ? side : foldWidth);
+    const int iconSide = qRound(side * iconPart);
+    setIconSize(QSize(iconSide, iconSide));
+    doItemsLayout();
 }
 
 bool OutlineTree::pressButton(const QMouseEvent *event)

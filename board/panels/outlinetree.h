@@ -32,6 +32,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void applySizes();
     bool pressButton(const QMouseEvent *event);
     void dropAt(QTreeWidgetItem *target, DropIndicatorPosition position);
 };

@@ -9,6 +9,10 @@
 #include <page/keyhand.h>
 #include <page/labeleditor.h>
 #include <page/pageview.h>
+#include <panels/historylist.h>
+#include <panels/historypanel.h>
+#include <panels/outlinepanel.h>
+#include <panels/outlinetree.h>
 #include <panels/settings/ownsettings.h>
 #include <window/dock.h>
 #include <window/dockbutton.h>
@@ -132,6 +136,9 @@ private Q_SLOTS:
     void hintsAndNoticesAreAlerts();
     void partsOfTheWindowAreNamedToolBarsAndPanes();
     void buttonsTellTheirKeysAndWhetherTheyArePressed();
+    void rowsOfTheHistoryReadAsTheyAreShown();
+    void rowsOfTheHistoryGetNoFocusWhileThePageHasIt();
+    void rowsOfTheOutlineReadWithEyeAndLock();
 };
 
 void TestReading::thePageTellsWhichItIsAndHowManyObjectsItHas()
@@ -410,9 +417,9 @@ void TestReading::theFocusComesBackWithThePage()
     ReadBoard t;
     t.tab(2);
     t.board.window().dock()->buttonOf(board::Tool::Pen)->setFocus();
-    QCOMPARE(t.reader.said().last(), QString("focus: Pen, check box"));
+    QCOMPARE(t.reader.said().constLast(), QString("focus: Pen, check box"));
     t.board.view().setFocus();
-    QCOMPARE(t.reader.said().last(), QString("focus: Corner radius, slider, 24"));
+    QCOMPARE(t.reader.said().constLast(), QString("focus: Corner radius, slider, 24"));
 }
 
 void TestReading::whatKeysChangeIsTold()
@@ -562,6 +569,51 @@ void TestReading::buttonsTellTheirKeysAndWhetherTheyArePressed()
             silent.append(t.name(ReaderDriver::of(button)));
     }
     QCOMPARE(silent, QStringList());
+}
+
+void TestReading::rowsOfTheHistoryReadAsTheyAreShown()
+{
+    ReadBoard t;
+    t.board.page().select({t.box});
+    t.board.key(Qt::Key_Right);
+    t.board.key(Qt::Key_M, Qt::ControlModifier);
+    auto *history = t.board.window().findChild<board::HistoryPanel *>();
+    t.board.window().raisePanel(history);
+    QCOMPARE(t.childNames(ReaderDriver::of(history->list())), (QStringList{"Start", "Move with keys", "Mirror"}));
+}
+
+void TestReading::rowsOfTheHistoryGetNoFocusWhileThePageHasIt()
+{
+    ReadBoard t;
+    t.board.page().select({t.box});
+    auto *history = t.board.window().findChild<board::HistoryPanel *>();
+    t.board.window().raisePanel(history);
+    t.board.key(Qt::Key_Right);
+    static int focusedRows;
+    focusedRows = 0;
+    const auto count = [](QAccessibleEvent *event) {
+        const QAccessibleInterface *told = event->accessibleInterface();
+        focusedRows += event->type() == QAccessible::Focus && told && told->role() == QAccessible::ListItem;
+    };
+    const QAccessible::UpdateHandler reader = QAccessible::installUpdateHandler(count);
+    t.board.key(Qt::Key_Right);
+    QCOMPARE(focusedRows, 0);
+    history->list()->setFocus();
+    t.board.keyIn(history->list(), Qt::Key_Up);
+    QVERIFY(focusedRows > 0);
+    QAccessible::installUpdateHandler(reader);
+}
+
+void TestReading::rowsOfTheOutlineReadWithEyeAndLock()
+{
+    ReadBoard t;
+    t.figure->setLocked(true);
+    auto *outline = t.board.window().findChild<board::OutlinePanel *>();
+    t.board.window().raisePanel(outline);
+    t.reader.said();
+    const QStringList heads{QString(), QString(), QString()};
+    QCOMPARE(t.childNames(ReaderDriver::of(outline->tree())),
+             (heads + QStringList{"Star", "Hide", "Unlock", "Rounded rectangle", "Hide", "Lock"}));
 }
 
 QTEST_MAIN(TestReading)

@@ -133,6 +133,7 @@ void TestOutline::topmostObjectComesFirstAndGroupsHoldTheirMembers()
     QCOMPARE(t.rows(), (QStringList{"Rounded rectangle", "Group (2)", "Rounded rectangle"}));
     QCOMPARE(t.rows(t.row(1)), (QStringList{"Block arrow", "Rounded rectangle"}));
     QVERIFY(t.row(1)->isExpanded());
+    QCOMPARE(t.row(1)->child(1)->toolTip(OutlineTree::NameColumn), QString("Rounded rectangle"));
 }
 
 void TestOutline::rowOfAGroupSelectsItsObjects()

@@ -4,6 +4,7 @@
 
 #include <core/actions.h>
 #include <page/pageview.h>
+#include <panels/historylist.h>
 #include <panels/historypanel.h>
 #include <window/mainwindow.h>
 
@@ -17,7 +18,6 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QUndoStack>
-#include <QtWidgets/QUndoView>
 
 using namespace boardtest;
 
@@ -55,6 +55,7 @@ private Q_SLOTS:
     void historyShowsWordsInTheUsersLanguage_data();
     void historyShowsWordsInTheUsersLanguage();
     void clickInTheHistoryGoesBack();
+    void arrowsInTheHistoryGoBackAndForth();
     void undoRightAfterTypingAWidthTakesItBack();
     void undoWhileTypingTakesTheTypingBack();
 };
@@ -266,12 +267,10 @@ void TestKeys::historyShowsWordsInTheUsersLanguage()
     board.key(Qt::Key_Right);
     board.key(Qt::Key_M, Qt::ControlModifier);
     board.key(Qt::Key_Delete);
-    const QUndoView *view = board.window().findChild<board::HistoryPanel *>()->view();
+    const QAbstractItemModel &rows = *board.window().findChild<board::HistoryPanel *>()->list()->model();
     QStringList shown;
-    for (int row = 0; row < view->model()->rowCount(); ++row) {
-        const QVariant text = view->model()->index(row, 0).data();
-        shown.append(static_cast<QStyledItemDelegate *>(view->itemDelegate())->displayText(text, QLocale()));
-    }
+    for (int row = 0; row < rows.rowCount(); ++row)
+        shown.append(rows.index(row, 0).data().toString());
     QCOMPARE(shown, words);
     QVERIFY(board.window().actions()->undo->text().endsWith(words.last()));
 }
@@ -281,10 +280,35 @@ void TestKeys::clickInTheHistoryGoesBack()
     OneShape t;
     t.board.key(Qt::Key_Right);
     t.board.key(Qt::Key_Right);
-    QUndoView *view = t.board.window().findChild<board::HistoryPanel *>()->view();
-    const QModelIndex drawn = view->model()->index(1, 0);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(drawn).center());
+    auto *panel = t.board.window().findChild<board::HistoryPanel *>();
+    t.board.window().raisePanel(panel);
+    QCoreApplication::processEvents();
+    board::HistoryList &list = *panel->list();
+    QCOMPARE(list.currentIndex().row(), 3);
+    const QModelIndex drawn = list.model()->index(1, 0);
+    t.board.clickOn(list.viewport(), list.visualRect(drawn).center());
     QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+    QCOMPARE(t.board.history().index(), 1);
+    // A step that was taken back can still be chosen.
+    QCOMPARE(list.model()->rowCount(), 4);
+    t.redo();
+    QCOMPARE(list.currentIndex().row(), 2);
+    QVERIFY(list.selectionModel()->isRowSelected(2, QModelIndex()));
+}
+
+void TestKeys::arrowsInTheHistoryGoBackAndForth()
+{
+    OneShape t;
+    t.board.key(Qt::Key_Right);
+    auto *panel = t.board.window().findChild<board::HistoryPanel *>();
+    t.board.window().raisePanel(panel);
+    panel->list()->setFocus();
+    t.board.keyIn(panel->list(), Qt::Key_Up);
+    QCOMPARE(t.place().topLeft(), QPointF(500, 300));
+    t.board.keyIn(panel->list(), Qt::Key_Up);
+    QCOMPARE(t.board.page().objectCount(), 0);
+    t.board.keyIn(panel->list(), Qt::Key_End);
+    QCOMPARE(t.place().topLeft(), QPointF(508, 300));
 }
 
 /// The field for the width in the panel that is in front, its text selected.

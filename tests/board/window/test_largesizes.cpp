@@ -8,6 +8,10 @@
 #include <look/theme.h>
 #include <panels/colorbutton.h>
 #include <panels/fields/numberfield.h>
+#include <panels/historylist.h>
+#include <panels/historypanel.h>
+#include <panels/outlinepanel.h>
+#include <panels/outlinetree.h>
 #include <panels/pagepanel.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
@@ -45,6 +49,22 @@ struct Desk : BoardDriver
         window().panel()->setOpen(false);
         QCoreApplication::processEvents();
         return window().findChild<board::StyleBar *>();
+    }
+    /// Brought to the front of the panel.
+    const board::OutlineTree &outline() const
+    {
+        auto *panel = window().findChild<board::OutlinePanel *>();
+        window().raisePanel(panel);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return *panel->tree();
+    }
+    const board::HistoryList &historyList() const
+    {
+        auto *panel = window().findChild<board::HistoryPanel *>();
+        window().raisePanel(panel);
+        QCoreApplication::processEvents();
+        return *panel->list();
     }
     QToolButton *buttonOf(const QWidget *part, Command command) const
     {
@@ -85,6 +105,9 @@ private Q_SLOTS:
     void lessonBar();
     void menuRows_data() { addSizeRows(); }
     void menuRows();
+    void rowsOfOutlineAndHistory_data() { addSizeRows(); }
+    void rowsOfOutlineAndHistory();
+    void rowsGrowWhileTheyAreShown();
     void lettersGrowAndShrinkAgain();
     void handlesOnThePage();
 };
@@ -185,6 +208,33 @@ void TestLargeSizes::menuRows()
     menu->popup({0, 0});
     QCOMPARE(menu->actionGeometry(desk.window().commands()->action(Command::SaveBoard)).height(), large ? 48 : 28);
     menu->close();
+}
+
+void TestLargeSizes::rowsOfOutlineAndHistory()
+{
+    QFETCH(bool, large);
+    const Desk desk(large);
+    const int side = large ? 44 : 28;
+    const board::OutlineTree &tree = desk.outline();
+    QCOMPARE(tree.visualItemRect(tree.topLevelItem(0)).height(), side);
+    QCOMPARE(tree.columnWidth(board::OutlineTree::EyeColumn), side);
+    QCOMPARE(tree.columnWidth(board::OutlineTree::LockColumn), side);
+    QCOMPARE(tree.indentation(), large ? 44 : 24);
+    const board::HistoryList &history = desk.historyList();
+    for (int row = 0; row < 2; ++row)
+        QCOMPARE(history.visualRect(history.model()->index(row, 0)).height(), side);
+}
+
+void TestLargeSizes::rowsGrowWhileTheyAreShown()
+{
+    const Desk desk(false);
+    const board::OutlineTree &tree = desk.outline();
+    desk.window().setLargeTools(true);
+    QCOMPARE(tree.visualItemRect(tree.topLevelItem(0)).height(), 44);
+    const board::HistoryList &history = desk.historyList();
+    desk.window().setLargeTools(false);
+    QCOMPARE(history.visualRect(history.model()->index(0, 0)).height(), 28);
+    QCOMPARE(tree.visualItemRect(tree.topLevelItem(0)).height(), 28);
 }
 
 void TestLargeSizes::lettersGrowAndShrinkAgain()
