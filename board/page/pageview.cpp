@@ -62,6 +62,7 @@ PageView::PageView(QWidget *parent)
     , m_keys(this)
     , m_textMark(this)
     , m_touch(viewport())
+    , m_penRest(pagehost::Pointer::Pen)
     , m_writing(new LabelWriting(this))
 {
     setObjectName(QStringLiteral("mainGraphicsView"));
@@ -80,6 +81,7 @@ PageView::PageView(QWidget *parent)
     connect(&m_touch, &TouchInput::held, this, &PageView::hold);
     connect(&m_touch, &TouchInput::pulled, this, &PageView::pull);
     connect(&m_touch, &TouchInput::restedLong, this, &PageView::openMenu);
+    connect(&m_penRest, &Resting::rested, this, &PageView::openMenu);
     connect(&m_touch, &TouchInput::penLeft, this, [this] { setPenErases(false); });
 }
 

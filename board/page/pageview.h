@@ -137,6 +137,7 @@ private:
     void showHint(const QPoint &pointer);
     bool usePen(QTabletEvent *event);
     bool turnPen(const QTabletEvent *event);
+    void waitForRest(const QTabletEvent *event);
     void setPenErases(bool erases);
     void useTouch(QTouchEvent *event);
     void takeBack();
@@ -163,6 +164,7 @@ private:
     KeyHand m_keys;
     TextMark m_textMark;
     TouchInput m_touch;
+    Resting m_penRest;
     double m_zoom = 1;
     Qt::Edge m_shelfEdge = Qt::TopEdge;
     int m_shelfMargin = 0; ///< between it and the page, logical pixels

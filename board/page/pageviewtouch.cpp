@@ -42,11 +42,14 @@ void PageView::pull(const QPointF &pos, double factor)
     bringTo(m_heldPlace, pos);
 }
 
+/// In place of what the press has begun. A tool goes on: a stroke that is held becomes straight. So does a drag
+/// where there are no menus, while presenting.
 void PageView::openMenu(const QPoint &pos)
 {
-    if (!m_page || m_page->scene()->tool())
+    if (!m_page || m_page->scene()->tool() || contextMenuPolicy() != Qt::CustomContextMenu)
         return;
     m_touch.drop();
+    takeBack();
     QContextMenuEvent event(QContextMenuEvent::Mouse, pos, viewport()->mapToGlobal(pos));
     QApplication::sendEvent(viewport(), &event);
 }
@@ -79,6 +82,16 @@ bool PageView::turnPen(const QTabletEvent *event)
     return event->button() & barrel;
 }
 
+void PageView::waitForRest(const QTabletEvent *event)
+{
+    if (event->button() == Qt::LeftButton && event->type() == QEvent::TabletPress)
+        m_penRest.press(event->posF());
+    else if (event->type() == QEvent::TabletMove)
+        m_penRest.move(event->posF());
+    else
+        m_penRest.end();
+}
+
 /// Of a pen, the mouse events that Qt makes lack pressure and parts of pixels. A pen without a tool is a mouse, and
 /// so is one in the air.
 bool PageView::usePen(QTabletEvent *event)
@@ -88,6 +101,7 @@ bool PageView::usePen(QTabletEvent *event)
     if (!m_page)
         return false;
     m_page->scene()->setMadeMouse(pagehost::Pointer::Pen);
+    waitForRest(event);
     if (turnPen(event)) {
         event->accept();
         return true;

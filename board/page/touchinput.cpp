@@ -17,9 +17,6 @@ constexpr double millimetresPerInch = 25.4;
 /// For a screen that doesn't know its size.
 constexpr double usualDotsPerInch = 96;
 constexpr double leastDotsPerInch = 20;
-/// A finger that rests this long, milliseconds, without moving so far, pixels.
-constexpr int restTime = 500;
-constexpr double restReach = 8;
 /// Between two taps of a double click, pixels.
 constexpr double doubleTapReach = 24;
 
@@ -52,16 +49,12 @@ double spreadOf(const QVector<Contact> &fingers)
 TouchInput::TouchInput(QWidget *viewport)
     : QObject(viewport)
     , m_viewport(viewport)
+    , m_rest(pagehost::Pointer::Finger)
 {
     viewport->setAttribute(Qt::WA_AcceptTouchEvents);
     viewport->setAttribute(Qt::WA_TabletTracking);
     m_clock.start();
-    m_rest.setSingleShot(true);
-    m_rest.setTimerType(Qt::PreciseTimer);
-    connect(&m_rest, &QTimer::timeout, this, [this] {
-        if (m_resting)
-            Q_EMIT restedLong(m_resting->toPoint());
-    });
+    connect(&m_rest, &Resting::rested, this, &TouchInput::restedLong);
     // Only the application hears that a pen comes near.
     qApp->installEventFilter(this);
 }
@@ -129,7 +122,7 @@ void TouchInput::move(const Contact &finger)
 {
     if (std::exchange(m_pos, finger.pos) == finger.pos)
         return;
-    m_isTap = m_isTap && QLineF(m_pressed, finger.pos).length() < restReach;
+    m_isTap = m_isTap && QLineF(m_pressed, finger.pos).length() < pagehost::dragStart(pagehost::Pointer::Finger);
     send(QEvent::MouseMove, finger.pos);
 }
 
@@ -152,20 +145,10 @@ void TouchInput::pull(const QVector<Contact> &fingers)
 /// Of a single finger from where it came down.
 void TouchInput::waitForRest(const QVector<Contact> &fingers)
 {
-    if (fingers.size() != 1 || m_judge.use() == TouchJudge::Use::Nothing) {
-        m_resting.reset();
-        m_rest.stop();
-        return;
-    }
-    const QPointF pos = fingers.first().pos;
+    if (fingers.size() != 1 || m_judge.use() == TouchJudge::Use::Nothing)
+        return m_rest.end();
     const bool hasBegun = m_finger == fingers.first().id || !m_holding.isEmpty();
-    if (!hasBegun) {
-        m_resting = pos;
-        m_rest.start(restTime);
-    } else if (m_resting && QLineF(*m_resting, pos).length() >= restReach) {
-        m_resting.reset();
-        m_rest.stop();
-    }
+    hasBegun ? m_rest.move(fingers.first().pos) : m_rest.press(fingers.first().pos);
 }
 
 void TouchInput::send(QEvent::Type type, const QPointF &pos)
@@ -180,9 +163,10 @@ void TouchInput::send(QEvent::Type type, const QPointF &pos)
 
 void TouchInput::drop()
 {
+    if (m_judge.use() == TouchJudge::Use::Nothing)
+        return;
     m_judge.drop();
-    m_rest.stop();
-    m_resting.reset();
+    m_rest.end();
     m_holding.clear();
     if (m_finger)
         lift({});
@@ -191,8 +175,7 @@ void TouchInput::drop()
 void TouchInput::seePen()
 {
     m_judge.seePen(m_clock.elapsed());
-    if (m_judge.use() != TouchJudge::Use::Nothing)
-        drop();
+    drop();
 }
 
 bool TouchInput::isCopy(const QMouseEvent &event) const

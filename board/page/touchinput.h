@@ -1,11 +1,11 @@
 #pragma once
 
+#include "page/resting.h"
 #include "page/touchjudge.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QEvent>
 #include <QtCore/QObject>
-#include <QtCore/QTimer>
 
 #include <optional>
 
@@ -69,8 +69,7 @@ private:
     QPointF m_lastTap;
     QVector<int> m_holding; ///< fingers that hold the page
     double m_spread = 0;    ///< their distance from their middle at held(), pixels
-    QTimer m_rest;
-    std::optional<QPointF> m_resting;
+    Resting m_rest;
 };
 
 } // namespace board

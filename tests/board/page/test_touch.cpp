@@ -70,14 +70,13 @@ struct Desk : BoardDriver
     {
         {
             QTest::QTouchEventSequence sequence = QTest::touchEvent(viewport(), glass(), false);
-            for (const Finger &finger : fingers) {
+            for (const Finger &finger : fingers)
                 if (finger.state == Qt::TouchPointPressed)
                     sequence.press(finger.id, finger.pos, viewport());
                 else if (finger.state == Qt::TouchPointMoved)
                     sequence.move(finger.id, finger.pos, viewport());
                 else
                     sequence.release(finger.id, finger.pos, viewport());
-            }
             sequence.commit(false);
         }
         QCoreApplication::processEvents();
@@ -116,6 +115,13 @@ struct Desk : BoardDriver
         QApplication::sendEvent(viewport(), &event);
         return event.isAccepted();
     }
+    /// Without a tool; Qt makes a mouse of it.
+    void pressPen(const QPointF &pos) const
+    {
+        pen(QEvent::TabletPress, pos, Qt::LeftButton, Qt::LeftButton);
+        copiedMouse(QEvent::MouseButtonPress, pos);
+    }
+    QMenu *menu(const char *name) const { return window().findChild<QMenu *>(QLatin1String(name)); }
     void penStroke(const QPointF &from, const QPointF &to, QTabletEvent::PointerType end = QTabletEvent::Pen) const
     {
         pen(QEvent::TabletPress, from, Qt::LeftButton, Qt::LeftButton, end);
@@ -174,6 +180,11 @@ private Q_SLOTS:
     void aFingerThatRestsOpensTheMenu();
     void aFingerThatMovesOpensNoMenu();
     void aFingerThatRestsWithAToolOpensNoMenu();
+    void aPenThatRestsOpensTheMenu();
+    void aPenThatMovesOpensNoMenu();
+    void aPenThatIsLiftedOpensNoMenu();
+    void aPenThatRestsWithAToolOpensNoMenu();
+    void fingersWorkAfterThePensMenu();
 };
 
 void TestTouch::aFingerWritesWithThePen()
@@ -418,7 +429,7 @@ void TestTouch::aFingerThatRestsOpensTheMenu()
     desk.tap({300, 250});
     desk.touch({pressed(1, desk.at({600, 360}))});
     desk.touch({moved(1, desk.at({607, 360}))});
-    const auto *menu = desk.window().findChild<QMenu *>(QStringLiteral("objectMenu"));
+    const QMenu *menu = desk.menu("objectMenu");
     support::pass(499);
     QVERIFY(!menu->isVisible());
     support::pass(1);
@@ -436,7 +447,7 @@ void TestTouch::aFingerThatMovesOpensNoMenu()
     desk.touch({pressed(1, desk.at({600, 360}))});
     desk.touch({moved(1, desk.at({608, 360}))});
     support::pass(1000);
-    QVERIFY(!desk.window().findChild<QMenu *>(QStringLiteral("objectMenu"))->isVisible());
+    QVERIFY(!desk.menu("objectMenu")->isVisible());
 }
 
 void TestTouch::aFingerThatRestsWithAToolOpensNoMenu()
@@ -445,8 +456,87 @@ void TestTouch::aFingerThatRestsWithAToolOpensNoMenu()
     desk.tools().choose(Tool::Eraser);
     desk.touch({pressed(1, desk.at({600, 360}))});
     support::pass(1000);
-    QVERIFY(!desk.window().findChild<QMenu *>(QStringLiteral("pageMenu"))->isVisible());
+    QVERIFY(!desk.menu("pageMenu")->isVisible());
     QVERIFY(desk.scene().isBusy());
+}
+
+void TestTouch::aPenThatRestsOpensTheMenu()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(rectangle, {500, 300}, {700, 420});
+    desk.tap({300, 250});
+    desk.pressPen({600, 360});
+    desk.pen(QEvent::TabletMove, {603.9, 360}, Qt::NoButton, Qt::LeftButton);
+    support::pass(499);
+    QVERIFY(!desk.menu("objectMenu")->isVisible());
+    support::pass(1);
+    QVERIFY(desk.menu("objectMenu")->isVisible());
+    QCOMPARE(desk.selection(), QVector<CBaseObject *>{shape});
+    desk.pen(QEvent::TabletRelease, {600, 360}, Qt::LeftButton, Qt::NoButton);
+    QVERIFY(desk.menu("objectMenu")->isVisible());
+    desk.menu("objectMenu")->close();
+    // The drag that the press has begun does not go on.
+    desk.hover({640, 390});
+    QCOMPARE(desk.placeOf(shape), QRectF(500, 300, 200, 120));
+    QCOMPARE(desk.history().count(), 1);
+}
+
+void TestTouch::aPenThatMovesOpensNoMenu()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(rectangle, {500, 300}, {700, 420});
+    desk.pressPen({600, 360});
+    desk.pen(QEvent::TabletMove, {604, 360}, Qt::NoButton, Qt::LeftButton);
+    desk.copiedMouse(QEvent::MouseMove, {604, 360});
+    // Neither where it rests then, nor back where it was.
+    support::pass(1000);
+    desk.pen(QEvent::TabletMove, {600, 360}, Qt::NoButton, Qt::LeftButton);
+    support::pass(1000);
+    QVERIFY(!desk.menu("objectMenu")->isVisible());
+    QCOMPARE(desk.placeOf(shape).topLeft(), QPointF(504, 300));
+}
+
+void TestTouch::aPenThatIsLiftedOpensNoMenu()
+{
+    Desk desk;
+    desk.pressPen({600, 360});
+    support::pass(499);
+    desk.pen(QEvent::TabletRelease, {600, 360}, Qt::LeftButton, Qt::NoButton);
+    desk.copiedMouse(QEvent::MouseButtonRelease, {600, 360});
+    desk.pen(QEvent::TabletMove, {600, 360}, Qt::NoButton, Qt::NoButton);
+    support::pass(1000);
+    QVERIFY(!desk.menu("pageMenu")->isVisible());
+}
+
+void TestTouch::aPenThatRestsWithAToolOpensNoMenu()
+{
+    Desk desk;
+    desk.tools().choose(Tool::Pen);
+    desk.pen(QEvent::TabletPress, {500, 300}, Qt::LeftButton, Qt::LeftButton);
+    desk.pen(QEvent::TabletMove, {503, 300}, Qt::NoButton, Qt::LeftButton);
+    support::pass(1000);
+    QVERIFY(!desk.menu("pageMenu")->isVisible());
+    desk.pen(QEvent::TabletRelease, {503, 300}, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(desk.page().objectCount(), 1);
+    // Neither does the end that erases.
+    desk.pen(QEvent::TabletPress, {550, 350}, Qt::LeftButton, Qt::LeftButton, QTabletEvent::Eraser);
+    support::pass(1000);
+    QVERIFY(!desk.menu("pageMenu")->isVisible());
+}
+
+void TestTouch::fingersWorkAfterThePensMenu()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(rectangle, {500, 300}, {700, 420});
+    desk.window().commands()->action(board::Command::FingersDraw)->setChecked(true);
+    desk.pressPen({300, 250});
+    support::pass(500);
+    QVERIFY(desk.menu("pageMenu")->isVisible());
+    desk.pen(QEvent::TabletRelease, {300, 250}, Qt::LeftButton, Qt::NoButton);
+    desk.menu("pageMenu")->close();
+    support::pass(300);
+    desk.tap({600, 360});
+    QCOMPARE(desk.selection(), QVector<CBaseObject *>{shape});
 }
 
 QTEST_MAIN(TestTouch)

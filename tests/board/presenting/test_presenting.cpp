@@ -1,6 +1,7 @@
 // Presenting: the page over a whole screen, with keys, clickers, curtain, laser pointer and a bar that fades.
 
 #include <board/boarddriver.h>
+#include <board/hands.h>
 
 #include <support/virtualtime.h>
 
@@ -116,6 +117,7 @@ private Q_SLOTS:
     void presentKeyEndsIt();
     void windowIsAsItWas();
     void shapesAreEditedAndTakenBack();
+    void aPenThatRestsGoesOnDragging();
     void curtainKeys_data();
     void curtainKeys();
     void curtainIsDraggedFromItsSides();
@@ -282,6 +284,21 @@ void TestPresenting::shapesAreEditedAndTakenBack()
     QCOMPARE(t.board.page().objectCount(), 0);
     t.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(t.board.page().objectCount(), 1);
+}
+
+/// Elsewhere it would open a menu.
+void TestPresenting::aPenThatRestsGoesOnDragging()
+{
+    const Show t;
+    const QPoint from = t.at({600, 360});
+    const QPoint to = t.at({640, 400});
+    Hands &user = t.board.user();
+    user.pen(t.viewport(), QEvent::TabletPress, from, 0.5);
+    user.press(t.viewport(), from, Qt::NoModifier);
+    support::pass(600);
+    user.move(t.viewport(), to, Qt::LeftButton, Qt::NoModifier);
+    user.release(t.viewport(), to, Qt::NoModifier);
+    QCOMPARE(t.board.placeOf(t.shape), QRectF(540, 340, 200, 120));
 }
 
 void TestPresenting::curtainKeys_data()
