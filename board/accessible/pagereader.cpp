@@ -38,6 +38,8 @@ PageReader::PageReader(const Workspace *workspace, PageView *view)
     connect(view, &PageView::pageShown, this, &PageReader::followPage);
     connect(view->keys(), &KeyHand::focusMoved, this, &PageReader::tellFocus);
     followPage();
+    // Whoever has just found the view reads its name.
+    m_toldPage = pageName();
 }
 
 PageReader::~PageReader()
@@ -138,12 +140,16 @@ void PageReader::tellRemoved(CBaseObject *object)
     m_tellPage.request();
 }
 
+QString PageReader::pageName() const
+{
+    return m_page ? nameOf(*m_page, workspace()) : QString();
+}
+
 void PageReader::tellPage()
 {
-    const QString name = m_page ? nameOf(*m_page, workspace()) : QString();
-    if (name == m_toldPage)
+    if (pageName() == m_toldPage)
         return;
-    m_toldPage = name;
+    m_toldPage = pageName();
     QAccessibleEvent event(view(), QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
 }

@@ -38,6 +38,7 @@ private:
     void followPage();
     void tellAdded(CBaseObject *object);
     void tellRemoved(CBaseObject *object);
+    QString pageName() const;
     void tellPage();
     void tellSelection();
     void tellFocus();

@@ -4,6 +4,7 @@
 #include "core/toolchoice.h"
 #include "core/workspace.h"
 #include "look/theme.h"
+#include "look/voice.h"
 #include "page/pageview.h"
 #include "presenting/audiencewindow.h"
 #include "presenting/fadingdock.h"
@@ -65,6 +66,7 @@ Presentation::Presentation(const Workspace *workspace, Commands *commands, ToolC
     , m_tools(tools)
     , m_view(view)
     , m_window(window)
+    , m_voice(new Voice(window))
 {
     new LaserPointer(view, tools);
     tools->offer(Tool::Laser);
@@ -86,13 +88,14 @@ void Presentation::start(const ScreenPlan &plan)
     if (isRunning())
         return;
     m_view->settle();
-    m_stage = new Stage(m_commands, m_tools);
+    m_stage = new Stage(m_workspace, m_commands, m_tools);
     showPage();
     connect(m_stage, &Stage::endRequested, this, &Presentation::end);
     plan.presenter ? showOnTwoScreens(plan) : showOnOneScreen(plan.page);
     lendKeys(m_stage->window());
     m_stage->window()->activateWindow();
     m_stage->setFocus();
+    m_stage->voice()->say(m_workspace->text("IDS_BOARD_PRESENTING_BEGUN"));
 }
 
 void Presentation::showOnOneScreen(const QRect &screen)
@@ -120,10 +123,9 @@ void Presentation::showOnTwoScreens(const ScreenPlan &plan)
 /// Keys of commands act in windows that have their actions.
 void Presentation::lendKeys(QWidget *shown)
 {
-    for (const Command command : m_commands->performed()) {
+    for (const Command command : m_commands->performed())
         if (factsOf(command).scope == KeyScope::Window && actsWhilePresenting(command))
             shown->addAction(m_commands->action(command));
-    }
 }
 
 void Presentation::showPage()
@@ -155,6 +157,7 @@ void Presentation::end()
         m_view->page()->document()->setZoomRate(m_view->zoom());
     m_window->activateWindow();
     m_view->setFocus();
+    m_voice->say(m_workspace->text("IDS_BOARD_PRESENTING_ENDED"));
 }
 
 } // namespace board

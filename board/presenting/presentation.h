@@ -14,6 +14,7 @@ namespace board {
 class Commands;
 class PageView;
 class ToolChoice;
+class Voice;
 class Workspace;
 
 /// Shows the page of the window alone, over a whole screen, and follows it. The window stays as it is.
@@ -48,6 +49,7 @@ private:
     ToolChoice *m_tools;
     PageView *m_view;
     QWidget *m_window;
+    Voice *m_voice;
     QPointer<QWidget> m_single; ///< with one screen
     QPointer<PresenterWindow> m_presenter;
     QPointer<AudienceWindow> m_audience;

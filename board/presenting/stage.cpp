@@ -2,6 +2,8 @@
 
 #include "core/commands.h"
 #include "core/toolchoice.h"
+#include "core/workspace.h"
+#include "look/voice.h"
 #include "page/pageview.h"
 #include "presenting/curtain.h"
 #include "presenting/laserpointer.h"
@@ -15,13 +17,15 @@
 
 namespace board {
 
-Stage::Stage(Commands *commands, ToolChoice *tools, QWidget *parent)
+Stage::Stage(const Workspace *workspace, Commands *commands, ToolChoice *tools, QWidget *parent)
     : QWidget(parent)
+    , m_workspace(workspace)
     , m_commands(commands)
     , m_tools(tools)
     , m_view(new PageView(this))
     , m_curtain(new Curtain(m_view->viewport()))
     , m_laser(new LaserPointer(m_view, tools))
+    , m_voice(new Voice(this))
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -29,6 +33,7 @@ Stage::Stage(Commands *commands, ToolChoice *tools, QWidget *parent)
     setFocusProxy(m_view);
     m_view->setBare(true);
     m_view->installEventFilter(this);
+    connect(m_curtain, &Curtain::changed, this, &Stage::tellCurtain);
     connect(m_view, &PageView::toolGivenUp, tools, [tools] { tools->choose(Tool::Select); });
 }
 
@@ -69,15 +74,29 @@ bool Stage::useKey(const QKeyEvent &event)
     }
 }
 
+/// Readers tell the new page by themselves.
 bool Stage::turn(bool forwards)
 {
-    return run(forwards ? Command::NextPage : Command::PreviousPage);
+    const pagehost::Page *before = m_view->page();
+    run(forwards ? Command::NextPage : Command::PreviousPage);
+    if (m_view->page() == before)
+        m_voice->say(m_workspace->text(forwards ? "IDS_BOARD_NEXT_IS_NONE" : "IDS_BOARD_PREVIOUS_IS_NONE"));
+    return true;
 }
 
 bool Stage::run(Command command)
 {
     m_commands->action(command)->trigger();
     return true;
+}
+
+/// Not while it is dragged.
+void Stage::tellCurtain()
+{
+    if (m_isCovered == m_curtain->isDrawn())
+        return;
+    m_isCovered = m_curtain->isDrawn();
+    m_voice->say(m_workspace->text(m_isCovered ? "IDS_BOARD_CURTAIN_DRAWN" : "IDS_BOARD_CURTAIN_OPEN"));
 }
 
 /// False while the view has something to take back first.

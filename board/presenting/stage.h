@@ -11,6 +11,8 @@ class Curtain;
 class LaserPointer;
 class PageView;
 class ToolChoice;
+class Voice;
+class Workspace;
 
 /// A page on black that is presented and drawn on: keys and clickers turn the pages, with a curtain and a laser
 /// pointer.
@@ -19,12 +21,13 @@ class Stage : public QWidget
     Q_OBJECT
 
 public:
-    /// Both must outlive this.
-    Stage(Commands *commands, ToolChoice *tools, QWidget *parent = nullptr);
+    /// All must outlive this.
+    Stage(const Workspace *workspace, Commands *commands, ToolChoice *tools, QWidget *parent = nullptr);
 
     PageView *view() const { return m_view; }
     Curtain *curtain() const { return m_curtain; }
     LaserPointer *laser() const { return m_laser; }
+    Voice *voice() const { return m_voice; }
 
 Q_SIGNALS:
     void endRequested();
@@ -37,12 +40,16 @@ private:
     bool turn(bool forwards);
     bool run(Command command);
     bool escape();
+    void tellCurtain();
 
+    const Workspace *m_workspace;
     Commands *m_commands;
     ToolChoice *m_tools;
     PageView *m_view;
     Curtain *m_curtain;
     LaserPointer *m_laser;
+    Voice *m_voice;
+    bool m_isCovered = false; ///< as readers were told
 };
 
 } // namespace board

@@ -1438,6 +1438,26 @@
         <translation>Dokument (PDF)</translation>
     </message>
     <message>
+        <source>Presenting has begun</source>
+        <translation>Die Vorführung läuft</translation>
+    </message>
+    <message>
+        <source>Presenting has ended</source>
+        <translation>Die Vorführung ist beendet</translation>
+    </message>
+    <message>
+        <source>This is the first page</source>
+        <translation>Dies ist die erste Seite</translation>
+    </message>
+    <message>
+        <source>The curtain is drawn</source>
+        <translation>Der Vorhang ist zu</translation>
+    </message>
+    <message>
+        <source>The curtain is open</source>
+        <translation>Der Vorhang ist offen</translation>
+    </message>
+    <message>
         <source>Size</source>
         <translation>Größe</translation>
     </message>

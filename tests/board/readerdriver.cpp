@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMap>
+#include <QtWidgets/QWidget>
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
@@ -33,6 +34,13 @@ QString roleName(QAccessible::Role role)
     return names.value(role, QString::number(int(role)));
 }
 
+/// Readers keep silent about other windows.
+bool isInActiveWindow(const QAccessibleInterface &interface)
+{
+    const auto *widget = qobject_cast<const QWidget *>(interface.object());
+    return widget && widget->isActiveWindow();
+}
+
 void append(const QString &line)
 {
     lines.append(line);
@@ -62,7 +70,7 @@ void listen(QAccessibleEvent *event)
             append("now: " + interface->text(QAccessible::Description));
         return;
     case QAccessible::NameChanged:
-        if (interface->role() == QAccessible::Canvas)
+        if (interface->role() == QAccessible::Canvas && isInActiveWindow(*interface))
             append("page: " + interface->text(QAccessible::Name));
         return;
     default:

@@ -5,6 +5,7 @@
 #include <board/readerdriver.h>
 
 #include <page/pageview.h>
+#include <presenting/presentation.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/document.h>
@@ -73,6 +74,7 @@ class TestByKeys : public QObject
 
 private Q_SLOTS:
     void aLessonIsGivenByKeysAlone();
+    void itIsPresentedByKeysAlone();
 };
 
 void TestByKeys::aLessonIsGivenByKeysAlone()
@@ -138,6 +140,61 @@ Return
   focus: Size, grip, 120 × 88)")
                             .split('\n'));
     QVERIFY(QFileInfo(t.folder.filePath("lesson.board")).size() > 0);
+}
+
+void TestByKeys::itIsPresentedByKeysAlone()
+{
+    KeyTeacher t;
+    // A shape on the first of two pages.
+    t.press("S", Qt::Key_S);
+    t.type("rounded");
+    t.press("Ctrl+Return", Qt::Key_Return, Qt::ControlModifier);
+    t.press("Ctrl+Shift+N", Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    t.heard();
+
+    t.press("Shift+F5", Qt::Key_F5, Qt::ShiftModifier);
+    t.activate(t.board.window().presentation()->stage()->view());
+    t.press("Space", Qt::Key_Space);
+    t.press("Space", Qt::Key_Space);
+    t.press("PgUp", Qt::Key_PageUp);
+    t.press("Left", Qt::Key_Left);
+    t.press("End", Qt::Key_End);
+    t.press("B", Qt::Key_B);
+    t.press("B", Qt::Key_B);
+    t.press("Home", Qt::Key_Home);
+    t.press("Tab", Qt::Key_Tab);
+    t.press("Esc", Qt::Key_Escape);
+    t.press("Esc", Qt::Key_Escape);
+    t.activate(&t.board.view());
+    QCOMPARE(t.heard(), QStringLiteral(R"(Shift+F5
+  alert: Presenting has begun
+  page: Page 1 of 2, 1 object
+  focus: Page 1 of 2, 1 object, page
+Space
+  page: Page 2 of 2, 0 objects
+Space
+  alert: This is the last page
+PgUp
+  page: Page 1 of 2, 1 object
+Left
+  alert: This is the first page
+End
+  page: Page 2 of 2, 0 objects
+B
+  alert: The curtain is drawn
+B
+  alert: The curtain is open
+Home
+  page: Page 1 of 2, 1 object
+Tab
+  focus: Rounded rectangle, graphic, at 579, 309, 120 × 80
+Esc
+  focus: Page 1 of 2, 1 object, page
+Esc
+  alert: Presenting has ended
+  focus: Page 1 of 2, 1 object, page)")
+                            .split('\n'));
+    QVERIFY(!t.board.window().presentation()->isRunning());
 }
 
 QTEST_MAIN(TestByKeys)
