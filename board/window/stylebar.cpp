@@ -290,6 +290,15 @@ void StyleBar::place()
     setGeometry(styleBarPlace(QSize(sizeHint().width(), sizes().styleBar), around));
 }
 
+/// Other effects of keys are told by the page and the tools.
+void StyleBar::setKeyMoves(bool moves)
+{
+    if (moves == m_keyMoves)
+        return;
+    m_keyMoves = moves;
+    m_arrange.request();
+}
+
 bool StyleBar::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -306,12 +315,10 @@ bool StyleBar::eventFilter(QObject *watched, QEvent *event)
         m_arrange.request();
         break;
     case QEvent::KeyPress:
-        m_keyMoves |= watched == m_view && isArrow(static_cast<QKeyEvent *>(event)->key());
-        m_arrange.request();
+        setKeyMoves(m_keyMoves || (watched == m_view && isArrow(static_cast<QKeyEvent *>(event)->key())));
         break;
     case QEvent::KeyRelease:
-        m_keyMoves &= static_cast<QKeyEvent *>(event)->isAutoRepeat();
-        m_arrange.request();
+        setKeyMoves(m_keyMoves && static_cast<QKeyEvent *>(event)->isAutoRepeat());
         break;
     case QEvent::FocusOut:
         m_keyMoves = false;

@@ -52,6 +52,7 @@ private:
     void arrange();
     void showValues(const QVector<CBaseObject *> &objects);
     void place();
+    void setKeyMoves(bool moves);
     QRect boxOf(const QRectF &sceneRect) const;
     QVector<CBaseObject *> selection() const;
 
