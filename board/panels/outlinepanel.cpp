@@ -185,7 +185,7 @@ void OutlinePanel::showSelection()
     }
 }
 
-/// Only to another selection: the user may have scrolled away since.
+/// To its topmost row, and only to another selection: the user may have scrolled away since.
 void OutlinePanel::scrollToSelection()
 {
     const QVector<CBaseObject *> selected = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
@@ -195,8 +195,12 @@ void OutlinePanel::scrollToSelection()
     const QList<QTreeWidgetItem *> rows = m_tree->selectedItems();
     if (rows.isEmpty())
         return;
-    unfoldAround(rows.first());
-    m_tree->scrollToItem(rows.first());
+    const auto isAbove = [](const QTreeWidgetItem *one, const QTreeWidgetItem *other) {
+        return indexOf(one) < indexOf(other);
+    };
+    const QTreeWidgetItem *topmost = *std::min_element(rows.begin(), rows.end(), isAbove);
+    unfoldAround(topmost);
+    m_tree->scrollToItem(topmost);
 }
 
 void OutlinePanel::unfoldAround(const QTreeWidgetItem *item)

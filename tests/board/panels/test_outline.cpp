@@ -123,6 +123,7 @@ private Q_SLOTS:
     void spaceBarPressesTheEye();
     void pressedRowStaysWhileThePanelFollows();
     void rowOfTheSelectedObjectIsScrolledTo();
+    void topmostOfSeveralSelectedRowsIsScrolledTo();
     void rowsStayWhereTheyAreWhenNothingElseIsSelected();
     void foldedGroupOpensForItsSelectedMember();
 };
@@ -262,6 +263,17 @@ void TestOutline::rowOfTheSelectedObjectIsScrolledTo()
     t.board.page().select({t.board.page().objects().last()});
     t.settle();
     QVERIFY(isSeen(0));
+}
+
+void TestOutline::topmostOfSeveralSelectedRowsIsScrolledTo()
+{
+    LongOutline t;
+    t.board.page().select({t.shapes[0]});
+    t.settle();
+    QVERIFY(t.scrolled() > 0);
+    t.board.page().select(t.board.page().objects());
+    t.settle();
+    QCOMPARE(t.scrolled(), 0);
 }
 
 void TestOutline::rowsStayWhereTheyAreWhenNothingElseIsSelected()
