@@ -198,7 +198,10 @@ QVector<Dock::Measure> Dock::measures() const
     const int side = sizes().dockButton;
     if (areSizesLarge())
         return {{side, sizes().dockGap, false}, {side, 0, false}, {56, 0, false}, {56, 0, true}, {44, 0, true}};
-    return {{side, sizes().dockGap, false}, {side, 0, false}, {36, 0, false}, {36, 0, true}};
+    return {{side, sizes().dockGap, false},
+            {side, 0, false},
+            {DockButton::smallestSide, 0, false},
+            {DockButton::smallestSide, 0, true}};
 }
 
 Dock::Measure Dock::fitting() const

@@ -12,6 +12,9 @@ class DockButton : public QToolButton
     Q_OBJECT
 
 public:
+    /// Where the dock is short, for the mouse; logical pixels.
+    static constexpr int smallestSide = 36;
+
     explicit DockButton(QWidget *parent = nullptr);
 
     void setPicture(Icon picture) { m_picture = picture; }
@@ -22,6 +25,7 @@ public:
     void setKept(bool kept);
     bool isKept() const { return m_kept; }
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {smallestSide, smallestSide}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

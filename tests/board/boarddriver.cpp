@@ -80,6 +80,14 @@ void useOwnFolders()
     QCoreApplication::setApplicationName(QStringLiteral("gliololok-board"));
 }
 
+bool activate(QWidget &window)
+{
+    if (!QTest::qWaitForWindowExposed(&window, support::patience))
+        return false;
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window, support::patience);
+}
+
 BoardDriver::BoardDriver(const QString &language)
     : m_hands(hands())
     , m_workspace(makeWorkspace(language))
@@ -88,8 +96,8 @@ BoardDriver::BoardDriver(const QString &language)
     m_window = std::make_unique<board::MainWindow>(m_workspace.get());
     m_window->resize(1700, 1100);
     m_window->show();
-    if (!QTest::qWaitForWindowExposed(m_window.get(), support::patience))
-        qFatal("the window is not shown");
+    if (!activate(*m_window))
+        qFatal("the window is not active");
     m_window->commands()->action(board::Command::Snapping)->setChecked(false);
     m_window->commands()->action(board::Command::Grid)->setChecked(false);
     m_window->panel()->setPinned(true);
@@ -197,9 +205,8 @@ bool BoardDriver::pen(QEvent::Type type, const QPointF &pos, double pressure)
 
 void BoardDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    m_window->activateWindow();
     // After a dialog it takes a turn of the event loop.
-    if (!QTest::qWaitForWindowActive(m_window.get(), support::patience))
+    if (!activate(*m_window))
         qFatal("the window is not active");
     view().setFocus();
     m_hands->key(&view(), key, modifiers);

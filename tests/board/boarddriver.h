@@ -38,6 +38,9 @@ extern const QString flask;
 /// Folders of this process for settings and data, so that those of the user who runs the tests are left alone.
 void useOwnFolders();
 
+/// Makes the shown window the one that keys go to; without a window manager nobody else does. False if it never is.
+bool activate(QWidget &window);
+
 /// The board's window with its panel pinned, without snapping, an empty page at 100 %, and the user's hands.
 /// Positions are scene coordinates; at 100 % they are whole pixels. The middle of the page, (640, 360), is in the
 /// middle of the view.
@@ -55,6 +58,9 @@ public:
     pagehost::Page &page() const;
     pagehost::PageScene &scene() const;
     QUndoStack &history() const;
+
+    /// Whoever uses this board.
+    Hands &user() const { return *m_hands; }
 
     /// @name Mouse
     /// @{

@@ -48,9 +48,7 @@ struct Desk
         auto *dialog = board.window().findChild<QFileDialog *>();
         QVERIFY(dialog);
         auto *line = dialog->findChild<QLineEdit *>();
-        // Without a window manager nobody else does.
-        dialog->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(dialog, support::patience));
+        QVERIFY(activate(*dialog));
         line->setFocus();
         line->setText(file);
         board.keyIn(line, Qt::Key_Return);

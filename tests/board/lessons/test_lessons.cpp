@@ -74,7 +74,7 @@ LessonController &lessons(const BoardDriver &driver)
 
 void pressInTheBar(const BoardDriver &driver, Qt::Key key)
 {
-    driver.window().activateWindow();
+    QVERIFY(activate(driver.window()));
     QComboBox *list = driver.window().lessonBar()->list();
     list->setFocus();
     QTest::keyClick(list, key);

@@ -52,7 +52,7 @@ struct Show
             return;
         board.key(Qt::Key_F5);
         // Over the dock the pointer would keep it.
-        QCursor::setPos(viewport()->mapToGlobal(farAway()));
+        movePointer(farAway());
     }
     pagehost::Document &document() { return *board.workspace().document(); }
     void run(Command command) const { board.window().commands()->action(command)->trigger(); }
@@ -63,16 +63,11 @@ struct Show
     int page() { return document().currentIndex(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
-        QApplication::setActiveWindow(stage().window());
+        QVERIFY(activate(*stage().window()));
         stage().view()->setFocus();
         QTest::keyClick(stage().view(), key, modifiers);
     }
-    void movePointer(const QPoint &pos) const
-    {
-        QMouseEvent event(QEvent::MouseMove, pos, viewport()->mapToGlobal(pos), Qt::NoButton, Qt::NoButton,
-                          Qt::NoModifier);
-        QApplication::sendEvent(viewport(), &event);
-    }
+    void movePointer(const QPoint &pos) const { board.user().move(viewport(), pos, Qt::NoButton, Qt::NoModifier); }
     QPoint at(const QPointF &scenePos) const { return stage().view()->mapFromScene(scenePos); }
     /// Far from the dock.
     QPoint farAway() const { return {viewport()->width() - 10, 10}; }
@@ -83,7 +78,10 @@ struct TwoScreens
 {
     Show show{false};
 
-    TwoScreens() { show.presentation().start({{0, 0, 800, 600}, QRect(800, 0, 1366, 768)}); }
+    explicit TwoScreens(const QSize &presenter = {1366, 768})
+    {
+        show.presentation().start({{0, 0, 800, 600}, QRect(QPoint(800, 0), presenter)});
+    }
     board::AudienceWindow &audience() const { return *show.presentation().audience(); }
 };
 
@@ -530,10 +528,9 @@ void TestPresenting::audienceSeesCurtainAndLaser()
     QCOMPARE(t.audience().laser()->trail().first().pos, t.show.stage().laser()->trail().first().pos);
 }
 
-/// The presenter's screen is 800 × 600.
 void TestPresenting::barOfThePresenterFitsASmallScreen()
 {
-    TwoScreens t;
+    TwoScreens t({800, 600});
     support::deliverEvents();
     QWidget *window = t.show.presentation().presenter();
     QCOMPARE(window->size(), QSize(800, 600));
