@@ -61,7 +61,7 @@ void applySizes()
 void followSizes(QObject *context, const std::function<void()> &apply)
 {
     followers().append({context, apply});
-    QObject::connect(context, &QObject::destroyed, [](const QObject *gone) { forget(gone); });
+    QObject::connect(context, &QObject::destroyed, context, [](const QObject *gone) { forget(gone); });
     apply();
 }
 

@@ -4,6 +4,7 @@
 #include "look/controlstyle.h"
 #include "look/sizes.h"
 
+#include <QtGui/QFont>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 

@@ -70,7 +70,7 @@ void TouchInput::touch(const QTouchEvent &event)
     const bool isCancelled = event.type() == QEvent::TouchCancel;
     QVector<Contact> down;
     std::optional<QPointF> lifted;
-    const QList<QTouchEvent::TouchPoint> points = event.touchPoints();
+    const QList<QTouchEvent::TouchPoint> &points = event.touchPoints();
     for (const QTouchEvent::TouchPoint &point : points) {
         const bool isDown = point.state() != Qt::TouchPointReleased && !isCancelled;
         if (isDown)

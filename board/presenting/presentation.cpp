@@ -123,7 +123,8 @@ void Presentation::showOnTwoScreens(const ScreenPlan &plan)
 /// Keys of commands act in windows that have their actions.
 void Presentation::lendKeys(QWidget *shown)
 {
-    for (const Command command : m_commands->performed())
+    const QVector<Command> performed = m_commands->performed();
+    for (const Command command : performed)
         if (factsOf(command).scope == KeyScope::Window && actsWhilePresenting(command))
             shown->addAction(m_commands->action(command));
 }

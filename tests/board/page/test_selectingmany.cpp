@@ -42,7 +42,7 @@ public:
     AskedObject()
         : CBaseObject(1, true, nullptr, nullptr)
     {
-        CPSRootObject::setSize(QSizeF(40, 30), false, false);
+        CBaseObject::setSize(QSizeF(40, 30), false, false);
         attributeIds = {ownId};
     }
     QString kindName() const override { return QStringLiteral("IDS_TEST_ASKED"); }

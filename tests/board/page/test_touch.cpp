@@ -211,7 +211,7 @@ void TestTouch::aDoubleTapIsADoubleClick()
 {
     Desk desk;
     CBaseObject *table = desk.draw(QStringLiteral("shapes.table"), {500, 300}, {680, 390});
-    const QPointF cell = table->mapToScene(board::labelsOf(*table).first().box.center());
+    const QPointF cell = table->mapToScene(board::labelsOf(*table).constFirst().box.center());
     desk.tap(cell);
     support::pass(QApplication::doubleClickInterval());
     desk.tap(cell);

@@ -174,7 +174,7 @@ void TestLargeSizes::palette()
     QVERIFY(below >= 2 * button->fontMetrics().lineSpacing());
     // Three beside each other.
     QSet<int> columns;
-    for (const board::PaletteButton *one : desk.window().palettePanel()->buttons())
+    for (const board::PaletteButton *one : support::listed(desk.window().palettePanel()->buttons()))
         columns.insert(one->x());
     QCOMPARE(columns.size(), 3);
 }
