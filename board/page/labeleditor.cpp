@@ -7,6 +7,7 @@
 
 #include <pagehost/attributestream.h>
 #include <pagehost/objectplugin.h>
+#include <pagehost/writing.h>
 
 #include <framework/cbaseobject.h>
 #include <framework/iframework.h>
@@ -109,17 +110,41 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     });
     show();
     setFocus();
+    pagehost::setBeingWritten(*object, true);
 }
 
-/// A label of a turned object is written upright, about its middle.
-void LabelEditor::takePlace()
+LabelEditor::~LabelEditor()
+{
+    releaseObject();
+}
+
+/// Gives the object its grips back.
+void LabelEditor::releaseObject()
+{
+    if (m_object)
+        pagehost::setBeingWritten(*m_object, false);
+}
+
+/// Around the whole object.
+QRect LabelEditor::frameInView() const
+{
+    return m_view->mapFromScene(m_object->mapToScene(m_object->getClientRect())).boundingRect();
+}
+
+/// A label of a turned object is written upright, about its middle. Room for a further letter at its end covers
+/// nothing.
+void LabelEditor::takePlace(double furtherRoom)
 {
     const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
-    const QPoint middle = m_view->mapFromScene(m_object->mapToScene(m_label.box.center()));
-    const QSize size = (m_label.box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
+    const QRectF box = m_label.box.adjusted(0, 0, furtherRoom, 0);
+    const QPoint middle = m_view->mapFromScene(m_object->mapToScene(box.center()));
+    const QSize size = (box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
     QRect place(QPoint(), size.expandedTo({smallestWidth, font().pixelSize() + 2 * margin + 4}));
     place.moveCenter(middle);
     setGeometry(place);
+    clearMask();
+    if (furtherRoom > 0)
+        setMask(frameInView().adjusted(1, 1, -1, -1).translated(-pos()) & rect());
 }
 
 /// The box of a text that is as large as its letters grows with them. A letter more than there are has room, so
@@ -136,10 +161,7 @@ void LabelEditor::followLabel()
         return;
     const bool isWider = present->box.width() != m_label.box.width();
     m_label.box = present->box;
-    if (isWider)
-        m_label.box.setWidth(m_label.box.width() + m_label.fontSize);
-    takePlace();
-    m_label.box = present->box;
+    takePlace(isWider ? m_label.fontSize : 0);
 }
 
 void LabelEditor::type(const QString &text, bool record)
@@ -161,6 +183,7 @@ void LabelEditor::finish()
     if (makesStep)
         setForGood();
     m_isFinished = true;
+    releaseObject();
     if (m_linkField) {
         m_linkField->removeEventFilter(this);
         m_linkField->hide();

@@ -45,6 +45,7 @@ public:
     /// Covers the label in the view, with all of its text selected. The text of a new object belongs to the step
     /// that has added it, and makes none.
     LabelEditor(CBaseObject *object, const EditableLabel &label, bool isNewObject, QGraphicsView *view);
+    ~LabelEditor() override;
 
     /// Makes the step and deletes the editor in the next turn of the event loop.
     void finish();
@@ -72,7 +73,9 @@ private:
     void setForGood();
     void pastePlain();
     void type(const QString &text, bool record);
-    void takePlace();
+    void releaseObject();
+    QRect frameInView() const;
+    void takePlace(double furtherRoom = 0);
     void followLabel();
 
     QPointer<CBaseObject> m_object;

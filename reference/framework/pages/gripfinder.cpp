@@ -5,6 +5,7 @@
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
+#include <pagehost/writing.h>
 
 #include <host/controlpointplaces.h>
 #include <host/geometry.h>
@@ -120,7 +121,7 @@ Candidate toldPoint(CBaseObject *object, const QPointF &scenePos, const ControlP
 /// `reach` in pixels; 0 for what the object itself takes.
 Candidate pointCandidate(CBaseObject *object, const QPointF &scenePos, double reach)
 {
-    if (object->isLocked())
+    if (object->isLocked() || isBeingWritten(*object))
         return {};
     const bool isExact = askObject(object, scenePos).kind == Grip::ControlPoint;
     const double aside = reach / object->getCurZoomRate();
@@ -141,7 +142,7 @@ Candidate pointCandidate(CBaseObject *object, const QPointF &scenePos, double re
 
 Candidate handleCandidate(CBaseObject *object, const QPointF &scenePos, Pointer pointer)
 {
-    if (object->isLocked())
+    if (object->isLocked() || isBeingWritten(*object))
         return {};
     const HandleLayout::Hit hit =
         layoutOf(*object).hit(object->mapFromScene(scenePos), shownHandles(*object), hitSize(pointer));

@@ -4,6 +4,7 @@
 
 #include <pagehost/page.h>
 #include <pagehost/selection.h>
+#include <pagehost/writing.h>
 
 #include <host/controlpointplaces.h>
 #include <host/shownhandles.h>
@@ -221,8 +222,10 @@ void paintOverlay(const Page &page, QPainter &painter, const Grip &hovered, bool
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor accent = page.scene()->palette().color(QPalette::Highlight);
     const bool single = selected.size() == 1;
-    for (CBaseObject *object : selected)
-        paintObjectOverlay(*object, painter, accent, hovered, single && !framesOnly && !object->isLocked());
+    for (CBaseObject *object : selected) {
+        const bool hasHandles = single && !framesOnly && !object->isLocked() && !isBeingWritten(*object);
+        paintObjectOverlay(*object, painter, accent, hovered, hasHandles);
+    }
     const QVector<CBaseObject *> framed = framedObjects(page);
     if (!framed.isEmpty() && !framesOnly)
         paintCommonFrame(framed, painter, accent, hovered);

@@ -11,6 +11,7 @@
 
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
+#include <pagehost/pagescene.h>
 
 #include <framework/cbaseobject.h>
 
@@ -67,6 +68,8 @@ private Q_SLOTS:
     void aChangedTextIsAStep();
     void aClickElsewhereEndsTheText();
     void theEditorGrowsWithTheText();
+    void aTextThatIsWrittenHasNoGrips();
+    void theEditorStaysWithinItsText();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -190,6 +193,33 @@ void TestTextWriting::theEditorGrowsWithTheText()
     QVERIFY(desk.editor()->width() > before);
     QVERIFY(desk.editor()->width() > desk.placeOf(desk.page().objects().first()).width());
     desk.end();
+}
+
+void TestTextWriting::aTextThatIsWrittenHasNoGrips()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    CBaseObject *text = desk.page().objects().constFirst();
+    QVERIFY(text->isSelected());
+    const QPointF corner = desk.placeOf(text).bottomRight();
+    QVERIFY(desk.scene().gripAt(corner).kind != pagehost::Grip::Handle);
+    desk.end();
+    QCOMPARE(desk.scene().gripAt(corner).kind, pagehost::Grip::Handle);
+}
+
+/// Room for the next letter covers nothing.
+void TestTextWriting::theEditorStaysWithinItsText()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    const CBaseObject *text = desk.page().objects().constFirst();
+    const int end = desk.view().mapFromScene(desk.placeOf(text).bottomRight()).x();
+    const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
+    QVERIFY(!covered.isEmpty());
+    QVERIFY(covered.boundingRect().right() < end);
+    QVERIFY(desk.editor()->geometry().right() > end);
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()
