@@ -8,12 +8,15 @@
 #include "lessons/lessoncontroller.h"
 #include "look/theme.h"
 #include "page/pageview.h"
+#include "panels/outlinepanel.h"
 #include "panels/pagepanel.h"
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingjson.h"
 #include "panels/settings/settingspanel.h"
 #include "presenting/fadingdock.h"
+#include "presenting/pagepictures.h"
 #include "presenting/presentation.h"
+#include "presenting/presenterwindow.h"
 #include "presenting/stage.h"
 #include "window/drawer.h"
 #include "window/mainwindow.h"
@@ -61,26 +64,32 @@ struct Situation
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
-constexpr Situation situations[] = {{"01-first-start", "empty"},
-                                    {"02-shapes", "shapes"},
-                                    {"03-selected", "selected"},
-                                    {"04-panel", "settings"},
-                                    {"05-all-properties", "properties"},
-                                    {"06-palette", "palette"},
-                                    {"07-pages", "pages"},
-                                    {"08-ink", "writing"},
-                                    {"09-text", "text"},
-                                    {"10-recording", "recording"},
-                                    {"11-lesson-playing", "playing"},
-                                    {"12-presenting", "presenting"},
-                                    {"13-dark", "selected", pictureSize, Theme::Dark},
-                                    {"14-dark-palette", "palette", pictureSize, Theme::Dark},
-                                    {"15-1024x600", "settings", QSize(1024, 600)},
-                                    {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2},
-                                    {"17-large-buttons", "large", QSize(1920, 1080)},
-                                    {"18-one-large-bar", "onebar", QSize(1920, 1080)},
-                                    {"19-right-to-left", "settings", pictureSize, Theme::Light, 1, Qt::RightToLeft},
-                                    {"20-high-contrast", "selected", pictureSize, Theme::HighContrast}};
+constexpr Situation situations[] = {
+    {"01-first-start", "empty"},
+    {"02-shapes", "shapes"},
+    {"03-selected", "selected"},
+    {"04-panel", "settings"},
+    {"05-all-properties", "properties"},
+    {"06-palette", "palette"},
+    {"07-pages", "pages"},
+    {"08-ink", "writing"},
+    {"09-text", "text"},
+    {"10-recording", "recording"},
+    {"11-lesson-playing", "playing"},
+    {"12-presenting", "presenting"},
+    {"13-dark", "selected", pictureSize, Theme::Dark},
+    {"14-dark-palette", "palette", pictureSize, Theme::Dark},
+    {"15-1024x600", "settings", QSize(1024, 600)},
+    {"16-200-percent", "selected", QSize(960, 540), Theme::Light, 2},
+    {"17-large-buttons", "large", QSize(1920, 1080)},
+    {"18-one-large-bar", "onebar", QSize(1920, 1080)},
+    {"19-right-to-left", "settings", pictureSize, Theme::Light, 1, Qt::RightToLeft},
+    {"20-high-contrast", "selected", pictureSize, Theme::HighContrast},
+    {"21-right-to-left-palette", "palette", pictureSize, Theme::Light, 1, Qt::RightToLeft},
+    {"22-dragging", "dragging"},
+    {"23-outline", "outline"},
+    {"24-finding", "finding"},
+    {"25-presenter", "presenter", pictureSize, Theme::Dark}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -146,14 +155,18 @@ double distanceFromMiddle(const CBaseObject *object, const pagehost::Page *page)
     return QLineF(object->sceneBoundingRect().center(), page->rect().center()).length();
 }
 
+CBaseObject *middleOf(pagehost::Page *page)
+{
+    const QVector<CBaseObject *> objects = page->objects();
+    return *std::min_element(objects.begin(), objects.end(), [page](CBaseObject *one, CBaseObject *other) {
+        return distanceFromMiddle(one, page) < distanceFromMiddle(other, page);
+    });
+}
+
 /// Selects a shape that has been worked on, so that the history has something to show.
 void changeMiddle(pagehost::Page *page)
 {
-    const QVector<CBaseObject *> objects = page->objects();
-    CBaseObject *object =
-        *std::min_element(objects.begin(), objects.end(), [page](CBaseObject *one, CBaseObject *other) {
-            return distanceFromMiddle(one, page) < distanceFromMiddle(other, page);
-        });
+    CBaseObject *object = middleOf(page);
     pagehost::rotateObjects({object}, -8);
     pagehost::moveObjects({object}, {10, -14});
     page->select({object});
@@ -218,6 +231,14 @@ void startPresenting(MainWindow &window)
     window.presentation()->stage()->findChild<FadingDock *>()->graphicsEffect()->setEnabled(false);
 }
 
+/// Leaves the mouse down, over a shape that is being moved.
+void startDragging(MainWindow &window, pagehost::Page *page)
+{
+    const CBaseObject *object = middleOf(page);
+    const QPointF middle = object->sceneBoundingRect().center();
+    drag(window.view(), middle, middle + QPointF(60, 24));
+}
+
 void pinPanel(MainWindow &window, const QWidget *part)
 {
     window.panel()->setPinned(true);
@@ -229,7 +250,8 @@ void pinPanel(MainWindow &window, const QWidget *part)
 bool needsFewShapes(const QString &state)
 {
     return state == QLatin1String("playing") || state == QLatin1String("palette") ||
-           state == QLatin1String("presenting");
+           state == QLatin1String("presenting") || state == QLatin1String("dragging") ||
+           state == QLatin1String("outline") || state == QLatin1String("presenter");
 }
 
 bool isAboutOneShape(const QString &state)
@@ -253,8 +275,18 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
     const bool isAboutOne = state == QLatin1String("selected") || state == QLatin1String("onebar");
     if (isAboutOne && page->objectCount() > 1)
         changeMiddle(page);
+    if (state == QLatin1String("empty"))
+        window.tools()->choose(Tool::Pen);
     if (state == QLatin1String("connecting"))
         startConnecting(window);
+    if (state == QLatin1String("dragging") && page->objectCount() > 1)
+        startDragging(window, page);
+    if (state == QLatin1String("outline"))
+        pinPanel(window, window.findChild<OutlinePanel *>());
+    if (state == QLatin1String("finding"))
+        window.commands()->action(Command::ReplaceText)->trigger();
+    if (state == QLatin1String("presenter"))
+        window.presentation()->start({QRect(QPoint(), window.size()), QRect(QPoint(), window.size())});
     if (state == QLatin1String("text"))
         startText(window);
     if (state == QLatin1String("presenting"))
@@ -295,12 +327,17 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"),     QStringLiteral("shapes"),     QStringLiteral("selection"),
-            QStringLiteral("settings"),  QStringLiteral("properties"), QStringLiteral("palette"),
-            QStringLiteral("pages"),     QStringLiteral("writing"),    QStringLiteral("drag"),
-            QStringLiteral("recording"), QStringLiteral("playing"),    QStringLiteral("selected"),
-            QStringLiteral("text"),      QStringLiteral("connecting"), QStringLiteral("presenting"),
-            QStringLiteral("large"),     QStringLiteral("onebar"),     allSituations};
+    return {QStringLiteral("empty"),      QStringLiteral("shapes"),
+            QStringLiteral("selection"),  QStringLiteral("settings"),
+            QStringLiteral("properties"), QStringLiteral("palette"),
+            QStringLiteral("pages"),      QStringLiteral("writing"),
+            QStringLiteral("drag"),       QStringLiteral("recording"),
+            QStringLiteral("playing"),    QStringLiteral("selected"),
+            QStringLiteral("text"),       QStringLiteral("connecting"),
+            QStringLiteral("presenting"), QStringLiteral("large"),
+            QStringLiteral("onebar"),     QStringLiteral("dragging"),
+            QStringLiteral("outline"),    QStringLiteral("finding"),
+            QStringLiteral("presenter"),  allSituations};
 }
 
 namespace {
@@ -319,6 +356,15 @@ QPixmap pictureOf(QWidget *window, double pixels)
     picture.setDevicePixelRatio(pixels);
     window->render(&picture);
     return picture;
+}
+
+/// That of the presentation while there is one; with two screens the presenter's.
+QWidget *shownWindow(MainWindow &window)
+{
+    const Presentation *presentation = window.presentation();
+    if (presentation->presenter())
+        return presentation->presenter();
+    return presentation->isRunning() ? presentation->stage()->window() : &window;
 }
 
 bool take(Workspace &workspace, const Situation &situation, const QString &file, const QString &document)
@@ -346,8 +392,11 @@ bool take(Workspace &workspace, const Situation &situation, const QString &file,
     // Parts that have just opened are laid out first, then fill themselves.
     QApplication::processEvents();
     window.pages()->thumbnails()->finish();
+    const QList<PagePictures *> pictures = shownWindow(window)->findChildren<PagePictures *>();
+    for (PagePictures *one : pictures)
+        one->thumbnails()->finish();
     QApplication::processEvents();
-    QWidget *shown = window.presentation()->isRunning() ? window.presentation()->stage()->window() : &window;
+    QWidget *shown = shownWindow(window);
     shown->setFixedSize(situation.size);
     QApplication::processEvents();
     return save(pictureOf(shown, situation.pixels), file);

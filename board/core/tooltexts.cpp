@@ -7,6 +7,18 @@ namespace board {
 QVector<TextEntry> toolTexts()
 {
     return {
+        {"IDS_COLOR_BLACK", QT_TRANSLATE_NOOP("board", "Black")},
+        {"IDS_COLOR_RED", QT_TRANSLATE_NOOP("board", "Red")},
+        {"IDS_COLOR_BLUE", QT_TRANSLATE_NOOP("board", "Blue")},
+        {"IDS_COLOR_GREEN", QT_TRANSLATE_NOOP("board", "Green")},
+        {"IDS_COLOR_ORANGE", QT_TRANSLATE_NOOP("board", "Orange")},
+        {"IDS_COLOR_PURPLE", QT_TRANSLATE_NOOP("board", "Purple")},
+        {"IDS_COLOR_YELLOW", QT_TRANSLATE_NOOP("board", "Yellow")},
+        {"IDS_COLOR_LIGHT_GREEN", QT_TRANSLATE_NOOP("board", "Light green")},
+        {"IDS_COLOR_LIGHT_BLUE", QT_TRANSLATE_NOOP("board", "Light blue")},
+        {"IDS_COLOR_PINK", QT_TRANSLATE_NOOP("board", "Pink")},
+        {"IDS_COLOR_LIGHT_ORANGE", QT_TRANSLATE_NOOP("board", "Light orange")},
+        {"IDS_COLOR_LIGHT_PURPLE", QT_TRANSLATE_NOOP("board", "Light purple")},
         {"IDS_BOARD_ERASER_STROKES", QT_TRANSLATE_NOOP("board", "Whole strokes")},
         {"IDS_BOARD_ERASER_PARTS", QT_TRANSLATE_NOOP("board", "Parts of strokes")},
         {"IDS_BOARD_LINE_PLAIN", QT_TRANSLATE_NOOP("board", "Straight line")},

@@ -11,7 +11,7 @@ namespace board {
 void restoreWindow(QMainWindow *window);
 void rememberWindow(const QMainWindow *window);
 
-/// The edge of the window that the user's tools lie at; at first the one where lines of text begin.
+/// The edge of the window that the user has chosen for the tools; until then the one where lines of text begin.
 Qt::Edge rememberedDockEdge();
 void rememberDockEdge(Qt::Edge edge);
 

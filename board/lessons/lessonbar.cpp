@@ -31,6 +31,7 @@ constexpr int clockMilliseconds = 200;
 constexpr int secondsInMinute = 60;
 constexpr int listLength = 18; ///< letters
 constexpr int longestName = 200;
+constexpr int playSide = 44;
 constexpr std::array<double, 5> speeds{0.5, 1, 1.5, 2, 4};
 
 QString timeText(qint64 milliseconds)
@@ -124,6 +125,8 @@ void LessonBar::layOut(const LessonMenu &menu)
     row->addWidget(m_remove);
     row->addWidget(m_close);
     followSizes(this, [this] { setMinimumHeight(sizes().lessonBar); });
+    m_play->setProperty("isRound", true);
+    followSizes(m_play, [this] { m_play->setFixedSize(playSide, playSide); });
 }
 
 void LessonBar::connectParts(const LessonMenu &menu)
@@ -138,6 +141,12 @@ void LessonBar::connectParts(const LessonMenu &menu)
     connect(m_list, QOverload<int>::of(&QComboBox::activated), m_lessons, &LessonController::choose);
     connect(m_speed, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { m_lessons->setSpeed(m_speed->itemData(index).toDouble()); });
+    // A change of the action brings the action's picture back.
+    const auto showPlay = [this] {
+        m_play->setIcon(icon(m_lessons->isPlaying() ? Icon::Pause : Icon::Play, QPalette::HighlightedText));
+    };
+    connect(menu.play, &QAction::changed, m_play, showPlay);
+    showPlay();
     addAction(menu.rename);
     connect(menu.rename, &QAction::triggered, this, &LessonBar::beginRenaming);
     connect(m_name, &QLineEdit::editingFinished, this, [this] { endRenaming(true); });

@@ -32,11 +32,13 @@ public:
 
     QIconEngine *clone() const override { return new ShapeIconEngine(m_which, m_role); }
 
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const bool isLive = (m_which == Icon::Record || m_which == Icon::Stop) && mode != QIcon::Disabled;
-        const QColor color = isLive ? themeColors().record : QApplication::palette().color(group, m_role);
+        const bool isChosen = state == QIcon::On && mode != QIcon::Disabled && m_role == QPalette::ButtonText;
+        const QColor usual = isChosen ? themeColors().accent : QApplication::palette().color(group, m_role);
+        const QColor color = isLive ? themeColors().record : usual;
         QColor shade = color;
         shade.setAlpha(shadeAlpha);
         const IconShape shape = iconShape(m_which);

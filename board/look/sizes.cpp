@@ -9,7 +9,7 @@ namespace board {
 
 namespace {
 
-constexpr Sizes usualSizes{40, 32, 20, 56, 40, 22, 4, 40, 40, 32, 296, 344, 92, 28, 104, 80, 64, 32, 28, 28, 0};
+constexpr Sizes usualSizes{40, 32, 20, 56, 40, 22, 4, 40, 40, 32, 296, 320, 92, 28, 104, 120, 64, 32, 28, 28, 0};
 constexpr Sizes largeSizes{56, 44, 28, 96, 64, 32, 8, 56, 64, 56, 360, 440, 124, 44, 144, 144, 88, 48, 48, 44, 18};
 
 struct Follower

@@ -32,6 +32,9 @@ struct Sizes
     int letters; ///< height of the font; 0 for that of the system
 };
 
+/// Between the dock and the shelf, and between the shelf and the page, logical pixels.
+constexpr int shelfGap = 4;
+
 /// The present ones: for mouse and pen, or for fingers.
 const Sizes &sizes();
 bool areSizesLarge();

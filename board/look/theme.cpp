@@ -78,6 +78,7 @@ QToolButton:hover { background: %hover; }
 QToolButton:pressed { background: %border; }
 QToolButton:checked { background: %soft; color: %accent; }
 QToolButton[isPrimary="true"] { background: %accent; color: %onAccent; font-weight: bold; }
+QToolButton[isRound="true"] { background: %accent; border-radius: 22px; }
 QToolButton:focus { border: 2px solid %accent; padding: 4px; }
 QToolButton::menu-indicator { image: none; }
 QMenuBar { background: %bar; border: none; }
@@ -85,8 +86,8 @@ QMenuBar::item { background: transparent; padding: 7px 10px; border-radius: 8px;
 QMenuBar::item:selected { background: %hover; }
 QMenuBar::item:pressed { background: %soft; color: %accent; }
 QMenuBar::item:disabled { color: %disabled; }
-QGraphicsView, QScrollArea, QListView { border: none; }
-QListView { background: %bar; }
+QGraphicsView, QScrollArea, QListView, QTreeView { border: none; }
+QListView, QTreeView { background: %bar; }
 board--HistoryList::item { padding: 4px 6px; border-radius: 4px; color: %text; }
 board--HistoryList::item:selected { background: %soft; color: %text; }
 board--HistoryList::item:hover { background: %hover; }

@@ -14,7 +14,11 @@ namespace board {
 
 namespace {
 
-constexpr int shadowSize = 7;
+/// Parts of the shadow's darkness that each pixel farther away from the page loses: a soft edge of 8 pixels, of
+/// which half would lie below the page.
+constexpr double shadowSteps[] = {0.099, 0.092, 0.082, 0.068, 0.053, 0.039, 0.027, 0.017};
+/// Below the page, pixels.
+constexpr double shadowShift = 1;
 /// In every theme.
 constexpr Qt::GlobalColor paperColor = Qt::white;
 /// How far beyond the area to repaint the canvas is filled, pixels: that area's edges lie beside the pixels' own,
@@ -61,11 +65,14 @@ void paintShadow(QPainter *painter, const QRectF &page, double zoom)
         painter->fillRect(edgeAround(page, zoom), themeColors().border);
     painter->setPen(Qt::NoPen);
     QColor shadow = themeColors().pageShadow;
-    shadow.setAlpha(shadow.alpha() / shadowSize);
-    painter->setBrush(shadow);
-    for (int i = 1; i <= shadowSize; ++i) {
-        const double grow = i / zoom;
-        painter->drawRoundedRect(page.adjusted(-grow, -grow / 2, grow, grow * 1.5), grow, grow);
+    const double darkness = shadow.alphaF();
+    double grow = 0;
+    for (const double step : shadowSteps) {
+        grow += 1 / zoom;
+        shadow.setAlphaF(darkness * step);
+        painter->setBrush(shadow);
+        const QRectF place = page.translated(0, shadowShift / zoom);
+        painter->drawRoundedRect(place.adjusted(-grow, -grow, grow, grow), grow, grow);
     }
     painter->restore();
 }

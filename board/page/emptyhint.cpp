@@ -9,8 +9,8 @@ namespace {
 
 // The page is paper in every theme, so the hint has its own greys.
 constexpr QRgb figureColor = 0xffb9c2cc;
-constexpr QRgb titleColor = 0xff5c6773;
-constexpr QRgb adviceColor = 0xff7f8a96;
+constexpr QRgb titleColor = 0xff1f2630;
+constexpr QRgb adviceColor = 0xff566070;
 constexpr int smallestHeight = 170;
 constexpr int smallestWidth = 280;
 constexpr double figureWidth = 146;
@@ -18,6 +18,8 @@ constexpr double figureHeight = 52;
 constexpr double figurePen = 3;
 constexpr int titlePointSize = 15;
 constexpr int lineGap = 10;
+/// The middle of the hint lies above that of the page.
+constexpr int lift = 30;
 
 /// A line as a pen draws it.
 void paintFigure(QPainter *painter, const QPointF &topLeft)
@@ -49,7 +51,7 @@ void paintEmptyHint(QPainter *painter, const QRect &page, const EmptyHint &hint)
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const QPoint centre = page.center();
+    const QPoint centre = page.center() - QPoint(0, lift);
     paintFigure(painter, QPointF(centre.x() - figureWidth / 2, centre.y() - figureHeight - lineGap * 2));
 
     QRect line(page.left(), centre.y() + lineGap, page.width(), page.bottom() - centre.y() - lineGap);

@@ -30,14 +30,16 @@ const char *const kindMimeType = "application/x-gliololok-kind";
 
 namespace {
 
-/// Above and below a page that is shown as a whole, in a low view, and at its sides, logical pixels.
+/// Above and below a page that is shown as a whole, with large buttons, in a low window, and at its sides, logical
+/// pixels.
 constexpr int usualMargin = 8;
+constexpr int largeMargin = 16;
 constexpr int lowMargin = 4;
 constexpr int sideMargin = 16;
 /// Between a page and the shelf.
-constexpr int shelfMargin = 8;
-/// A view in a window of 720.
-constexpr int lowHeight = 680;
+constexpr int shelfMargin = shelfGap;
+/// A window below this is low.
+constexpr int lowHeight = 720;
 /// Zoom by one notch of the wheel.
 constexpr double wheelFactor = 1.2;
 constexpr double degreesPerNotch = 120;
@@ -153,7 +155,7 @@ void PageView::setShelfEdge(Qt::Edge edge)
 {
     m_shelfEdge = edge;
     m_shelfMargin = edge == Qt::LeftEdge || edge == Qt::RightEdge ? shelfMargin : sideMargin;
-    const auto room = [edge](Qt::Edge one) { return edge == one ? sizes().shelf : 0; };
+    const auto room = [edge](Qt::Edge one) { return edge == one ? shelfGap + sizes().shelf : 0; };
     setViewportMargins(room(Qt::LeftEdge), room(Qt::TopEdge), room(Qt::RightEdge), room(Qt::BottomEdge));
     if (m_fitted)
         showFitted();
@@ -215,7 +217,8 @@ void PageView::showFitted()
         return;
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const int margin = height() < lowHeight ? lowMargin : usualMargin;
+    const int highMargin = areSizesLarge() ? largeMargin : usualMargin;
+    const int margin = window()->height() < lowHeight ? lowMargin : highMargin;
     const QSize margins = m_isBare ? QSize(0, 0) : QSize(m_shelfMargin + sideMargin, 2 * margin);
     const QSizeF room = viewport()->size() - margins;
     const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());

@@ -1,5 +1,6 @@
 #include "panels/buttonflow.h"
 
+#include "look/linestart.h"
 #include "look/theme.h"
 
 #include <QtWidgets/QGridLayout>
@@ -12,7 +13,10 @@ ButtonFlow::ButtonFlow(const QString &caption, QWidget *parent)
     , m_grid(new QGridLayout)
 {
     auto *label = new QLabel(caption, this);
-    label->setForegroundRole(QPalette::PlaceholderText);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->setAlignment(lineStart() | Qt::AlignVCenter);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(smallGap);

@@ -1,10 +1,10 @@
 #include "panels/foldingsection.h"
 
 #include "look/theme.h"
+#include "panels/foldtitle.h"
 
 #include <QtCore/QSettings>
 #include <QtGui/QPainter>
-#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -20,24 +20,16 @@ QString keyOf(const QString &name)
 
 FoldingSection::FoldingSection(const QString &title, QWidget *content, QWidget *parent)
     : QWidget(parent)
-    , m_title(new QToolButton(this))
+    , m_title(new FoldTitle(title, this))
     , m_content(content)
 {
-    m_title->setText(title);
-    m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    QFont font = m_title->font();
-    font.setBold(true);
-    m_title->setFont(font);
-    m_title->setAutoRaise(true);
-    m_title->setFocusPolicy(Qt::TabFocus);
-    m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto *column = new QVBoxLayout(this);
     // Below the line above the section.
     column->setContentsMargins(0, mediumGap, 0, 0);
     column->setSpacing(smallGap + 2);
     column->addWidget(m_title);
     column->addWidget(content);
-    connect(m_title, &QToolButton::clicked, this, [this] { setOpen(!m_isOpen); });
+    connect(m_title, &FoldTitle::clicked, this, [this] { setOpen(!m_isOpen); });
     setOpen(true);
 }
 
@@ -55,7 +47,7 @@ void FoldingSection::paintEvent(QPaintEvent *)
 void FoldingSection::setOpen(bool open)
 {
     m_isOpen = open;
-    m_title->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+    m_title->setOpen(open);
     m_content->setVisible(open);
     if (!m_name.isEmpty())
         QSettings().setValue(keyOf(m_name), open);

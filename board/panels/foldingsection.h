@@ -2,9 +2,9 @@
 
 #include <QtWidgets/QWidget>
 
-class QToolButton;
-
 namespace board {
+
+class FoldTitle;
 
 /// A part of a panel below a title that folds it.
 class FoldingSection : public QWidget
@@ -26,7 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QToolButton *m_title;
+    FoldTitle *m_title;
     QWidget *m_content;
     QString m_name; ///< in the settings; empty where nothing is remembered
     bool m_isOpen = true;

@@ -56,7 +56,7 @@ void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(place.adjusted(-width / 2, -width / 2, width / 2, width / 2), frameRadius,
                              frameRadius);
-    painter->setPen(current ? option.palette.color(QPalette::Text) : themeColors().faint);
+    painter->setPen(current ? themeColors().accent : themeColors().faint);
     const QRectF line(option.rect.left(), room.bottom() + 3, option.rect.width(), numberHeight);
     painter->drawText(line, Qt::AlignCenter, index.data(Qt::DisplayRole).toString());
     painter->restore();

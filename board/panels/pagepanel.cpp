@@ -9,6 +9,7 @@
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QListWidget>
@@ -41,7 +42,7 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
     }
     buttons->addStretch();
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(largeGap, mediumGap, largeGap, mediumGap);
+    row->setContentsMargins(largeGap, smallGap, largeGap, smallGap);
     row->addLayout(buttons);
     row->addWidget(m_list, 1);
     makeList();
@@ -106,6 +107,12 @@ void PagePanel::rebuild()
         requestThumbnail(page);
     }
     m_list->setCurrentRow(document->currentIndex());
+}
+
+/// A line towards the desk.
+void PagePanel::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(QRect(0, 0, width(), edgeWidth()), themeColors().border);
 }
 
 void PagePanel::showCurrent(int index)

@@ -27,6 +27,9 @@ public:
     QListWidget *list() const { return m_list; }
     pagehost::ThumbnailPainter *thumbnails() { return &m_thumbnails; }
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void makeList();
     void connectList();

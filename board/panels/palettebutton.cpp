@@ -20,18 +20,21 @@ constexpr int edge = 5;
 /// Smaller letters cannot be read; a longer word is cut into two lines instead.
 constexpr double smallestPointSize = 8;
 
-/// The font, smaller where the longest word of `text` would be wider than `width`.
-QFont fittingFont(QFont font, const QString &text, int width)
+bool fits(const QString &text, const QFont &font, const QSize &room)
 {
-    const auto isTooWide = [&] {
-        const QFontMetrics metrics(font);
-        const QStringList words = text.split(QLatin1Char(' '));
-        for (const QString &word : words)
-            if (metrics.horizontalAdvance(word) > width)
-                return true;
-        return false;
-    };
-    while (isTooWide() && font.pointSizeF() > smallestPointSize)
+    const QFontMetrics metrics(font);
+    const QStringList words = text.split(QLatin1Char(' '));
+    for (const QString &word : words)
+        if (metrics.horizontalAdvance(word) > room.width())
+            return false;
+    const QRect lines = metrics.boundingRect(QRect(0, 0, room.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, text);
+    return lines.height() <= room.height();
+}
+
+/// The font, smaller where the longest word of `text` would be wider than `room`, or all of it higher.
+QFont fittingFont(QFont font, const QString &text, const QSize &room)
+{
+    while (!fits(text, font, room) && font.pointSizeF() > smallestPointSize)
         font.setPointSizeF(font.pointSizeF() - 0.5);
     return font;
 }
@@ -62,7 +65,8 @@ QSize PaletteButton::sizeHint() const
 
 QFont PaletteButton::nameFont() const
 {
-    return fittingFont(font(), text(), sizeHint().width() - 2 * edge);
+    const QSize size = sizeHint();
+    return fittingFont(font(), text(), {size.width() - 2 * edge, size.height() - iconSize().height() - 3 * edge});
 }
 
 /// Names are wrapped to two lines, which a tool button does not do by itself.

@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/linestart.h"
 #include "look/sizedbuttons.h"
 #include "look/sizes.h"
 #include "look/theme.h"
@@ -64,6 +65,7 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     m_search->setPlaceholderText(workspace->text("IDS_BOARD_SEARCH"));
     m_search->setAccessibleName(workspace->text("IDS_BOARD_SEARCH"));
     m_search->setClearButtonEnabled(true);
+    m_search->addAction(icon(Icon::Search, QPalette::PlaceholderText), QLineEdit::LeadingPosition);
     m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &PalettePanel::filter);
 
@@ -72,7 +74,8 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->viewport()->setAutoFillBackground(false);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(largeGap, largeGap, largeGap, largeGap);
+    // The scroll bar stands in the margin.
+    column->setContentsMargins(alongLines(largeGap, largeGap, smallGap, largeGap));
     column->setSpacing(largeGap);
     column->addWidget(makeHead());
     column->addWidget(makeNothing());
@@ -93,7 +96,7 @@ QWidget *PalettePanel::makeHead()
     more->setPopupMode(QToolButton::InstantPopup);
     auto *head = new QWidget(this);
     auto *row = new QHBoxLayout(head);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(alongLines(0, 0, largeGap - smallGap, 0));
     row->setSpacing(smallGap);
     row->addWidget(m_search, 1);
     row->addWidget(m_pin);
@@ -110,7 +113,7 @@ QWidget *PalettePanel::makeNothing()
     connect(m_all, &QPushButton::clicked, m_search, &QLineEdit::clear);
     auto *part = new QWidget(this);
     auto *column = new QVBoxLayout(part);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(alongLines(0, 0, largeGap - smallGap, 0));
     column->addWidget(m_nothing);
     column->addWidget(m_all, 0, Qt::AlignLeft);
     return part;

@@ -90,6 +90,7 @@ StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, New
                                     Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper})))
     , m_refresh(this, [this] { refresh(); })
 {
+    m_paperPart->putCaptionAbove();
     QVBoxLayout *look = columnIn(m_lookSection->content());
     look->addWidget(m_fill);
     look->addWidget(m_pen);

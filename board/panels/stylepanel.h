@@ -12,6 +12,7 @@ class QCheckBox;
 
 namespace board {
 
+class CaptionedRow;
 class Commands;
 class FillControls;
 class FoldingSection;
@@ -54,7 +55,7 @@ private:
     FoldingSection *m_lookSection;
     FoldingSection *m_alignSection; ///< of several objects
     FoldingSection *m_placeSection;
-    QWidget *m_paperPart;
+    CaptionedRow *m_paperPart;
     PanelRefresh m_refresh;
 };
 

@@ -130,7 +130,8 @@ void FadingDock::leaveEvent(QEvent *event)
 void FadingDock::layOut()
 {
     adjustSize();
-    move(distanceFromEdges, m_under->height() - height() - distanceFromEdges);
+    const int end = m_under->width() - width() - distanceFromEdges;
+    move(isRightToLeft() ? end : distanceFromEdges, m_under->height() - height() - distanceFromEdges);
     raise();
 }
 

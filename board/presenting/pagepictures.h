@@ -28,6 +28,7 @@ public:
     QListWidget *list() const { return m_list; }
     /// Names the next page.
     QLabel *nextName() const { return m_nextName; }
+    pagehost::ThumbnailPainter *thumbnails() { return &m_painter; }
 
 private:
     void makeList();

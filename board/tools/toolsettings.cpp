@@ -9,18 +9,28 @@ namespace board {
 
 namespace {
 
+struct Ink
+{
+    QRgb color;
+    const char *nameKey;
+};
+
 struct ToolOffer
 {
     Tool tool;
     const char *name; ///< in the remembered settings
-    QVector<QRgb> colors;
+    QVector<Ink> colors;
     QVector<double> widths; ///< ascending
     int usualWidth;         ///< index
     QVector<QString> variants;
 };
 
-const QVector<QRgb> inks{0xff1f2630, 0xffc9252d, 0xff2563cf, 0xff1c7a43, 0xffd9730d, 0xff7b3fa0};
-const QVector<QRgb> brightInks{0xffffd43b, 0xff8ce99a, 0xff74c0fc, 0xfffaa2c1, 0xffffa94d, 0xffb197fc};
+const QVector<Ink> inks{{0xff1f2630, "IDS_COLOR_BLACK"},  {0xffc9252d, "IDS_COLOR_RED"},
+                        {0xff2563cf, "IDS_COLOR_BLUE"},   {0xff1c7a43, "IDS_COLOR_GREEN"},
+                        {0xffd9730d, "IDS_COLOR_ORANGE"}, {0xff7b3fa0, "IDS_COLOR_PURPLE"}};
+const QVector<Ink> brightInks{{0xffffd43b, "IDS_COLOR_YELLOW"},       {0xff8ce99a, "IDS_COLOR_LIGHT_GREEN"},
+                              {0xff74c0fc, "IDS_COLOR_LIGHT_BLUE"},   {0xfffaa2c1, "IDS_COLOR_PINK"},
+                              {0xffffa94d, "IDS_COLOR_LIGHT_ORANGE"}, {0xffb197fc, "IDS_COLOR_LIGHT_PURPLE"}};
 
 const QVector<ToolOffer> &offers()
 {
@@ -73,7 +83,7 @@ ToolSettings::ToolSettings(QObject *parent)
         Setting &setting = m_chosen[offer.tool];
         setting.width = offer.widths.at(offer.usualWidth);
         if (!offer.colors.isEmpty())
-            setting.color = QColor(offer.colors.first());
+            setting.color = QColor(offer.colors.first().color);
         // Each setter remembers all values.
         const QColor color(remembered.value(keyOf(offer, "color")).toString());
         const double width = remembered.value(keyOf(offer, "width"), setting.width).toDouble();
@@ -87,9 +97,19 @@ ToolSettings::ToolSettings(QObject *parent)
 QVector<QColor> ToolSettings::colors(Tool tool) const
 {
     QVector<QColor> colors;
-    for (const QRgb color : offerOf(tool).colors)
-        colors.append(QColor(color));
+    const QVector<Ink> offered = offerOf(tool).colors;
+    for (const Ink &ink : offered)
+        colors.append(QColor(ink.color));
     return colors;
+}
+
+QString ToolSettings::colorKey(const QColor &color)
+{
+    const QVector<Ink> all = inks + brightInks;
+    for (const Ink &ink : all)
+        if (ink.color == color.rgb())
+            return QLatin1String(ink.nameKey);
+    return {};
 }
 
 QVector<double> ToolSettings::widths(Tool tool) const

@@ -20,6 +20,8 @@ public:
 
     /// Colours on offer; empty for a tool without colour.
     QVector<QColor> colors(Tool tool) const;
+    /// The localisation key of the name of a colour on offer; empty for others.
+    static QString colorKey(const QColor &color);
     /// Widths on offer, scene units, in ascending order: of a line, of the eraser, the height of letters. Empty for
     /// a tool without width.
     QVector<double> widths(Tool tool) const;

@@ -13,12 +13,13 @@ constexpr int cornerMark = 4;
 /// From a mark to the button's edges.
 constexpr double markInset = 4.5;
 constexpr int lockSide = 11;
+constexpr int lockInset = 3;
 constexpr double focusWidth = 2;
 
 QColor backgroundOf(const DockButton &button)
 {
     const ThemeColors colors = themeColors();
-    if (button.isChecked())
+    if (button.isChecked() && button.isEnabled())
         return colors.accent;
     if (button.isDown())
         return colors.soft;
@@ -69,24 +70,30 @@ void DockButton::paintEvent(QPaintEvent *)
         painter.setPen(QPen(themeColors().accent, focusWidth));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
-    const QPalette::ColorRole role = isChecked() ? QPalette::HighlightedText : QPalette::ButtonText;
+    const bool isFilled = isChecked() && isEnabled();
+    const QPalette::ColorRole role = isFilled ? QPalette::HighlightedText : QPalette::ButtonText;
     QRect picture(0, 0, m_pictureSide, m_pictureSide);
     picture.moveCenter(rect().center());
     board::icon(m_picture, role)
         .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    paintMarks(&painter, isChecked() ? QPalette::HighlightedText : QPalette::PlaceholderText);
+    paintMarks(&painter, isFilled ? QPalette::HighlightedText : QPalette::PlaceholderText);
 }
 
 void DockButton::paintMarks(QPainter *painter, QPalette::ColorRole role) const
 {
-    const QPointF corner(width() - markInset, height() - markInset);
+    // At the end of lines.
+    const bool isMirrored = isRightToLeft();
+    const QPointF corner(isMirrored ? markInset : width() - markInset, height() - markInset);
+    const QPointF inwards(isMirrored ? -cornerMark : cornerMark, 0);
     if (m_opensMore) {
         painter->setPen(Qt::NoPen);
         painter->setBrush(palette().color(role));
-        painter->drawPolygon(QPolygonF({corner, corner - QPointF(0, cornerMark), corner - QPointF(cornerMark, 0)}));
+        painter->drawPolygon(QPolygonF({corner, corner - QPointF(0, cornerMark), corner - inwards}));
     }
     if (m_kept)
-        board::icon(Icon::Lock, role).paint(painter, QRect(width() - lockSide - 3, 3, lockSide, lockSide));
+        board::icon(Icon::Lock, role)
+            .paint(painter,
+                   QRect(isMirrored ? lockInset : width() - lockSide - lockInset, lockInset, lockSide, lockSide));
 }
 
 } // namespace board

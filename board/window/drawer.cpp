@@ -41,6 +41,14 @@ void Drawer::changeEvent(QEvent *event)
         keepEdges();
 }
 
+/// Its parts may need more room in other letters.
+bool Drawer::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        setUsualWidth(m_usualWidth);
+    return QFrame::event(event);
+}
+
 void Drawer::setContent(QWidget *content)
 {
     m_column->addWidget(content);
@@ -50,6 +58,10 @@ void Drawer::setContent(QWidget *content)
 void Drawer::setUsualWidth(int width)
 {
     m_usualWidth = width;
+    // Styles give buttons their sizes, before they are shown for the first time.
+    const QList<QWidget *> parts = findChildren<QWidget *>();
+    for (const QWidget *part : parts)
+        part->ensurePolished();
     m_column->activate();
     // Texts of some languages are longer.
     m_width = qMax(width, minimumSizeHint().width());
@@ -68,6 +80,7 @@ void Drawer::setOpen(bool open)
     if (open == m_isOpen)
         return;
     m_isOpen = open;
+    setUsualWidth(m_usualWidth);
     arrange();
     Q_EMIT openChanged(open);
 }

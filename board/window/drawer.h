@@ -36,6 +36,7 @@ Q_SIGNALS:
     void pinnedChanged(bool pinned);
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;

@@ -204,12 +204,18 @@ void MainWindow::layOut()
     m_frame->addLayout(m_body, 1);
     setCentralWidget(centre);
     addPanels();
-    m_dock->setColors(new PenColors(m_tools, m_toolSettings));
+    m_dock->setColors(new PenColors(*m_workspace, m_tools, m_toolSettings));
     setLargeTools(remembersLargeTools());
-    setDockEdge(rememberedDockEdge());
+    showDockAt(rememberedDockEdge());
 }
 
 void MainWindow::setDockEdge(Qt::Edge edge)
+{
+    showDockAt(edge);
+    rememberDockEdge(edge);
+}
+
+void MainWindow::showDockAt(Qt::Edge edge)
 {
     m_dock->setEdge(edge);
     m_frame->setDirection(edge == Qt::BottomEdge ? QBoxLayout::BottomToTop : QBoxLayout::TopToBottom);
@@ -227,7 +233,6 @@ void MainWindow::setDockEdge(Qt::Edge edge)
     m_shelf->setEdge(edge);
     const Qt::Edge start = isRightToLeft() ? Qt::RightEdge : Qt::LeftEdge;
     m_paletteDrawer->setSide(edge == Qt::LeftEdge || edge == Qt::RightEdge ? edge : start);
-    rememberDockEdge(edge);
 }
 
 void MainWindow::setLargeTools(bool large)
@@ -373,6 +378,9 @@ void MainWindow::connectPanels()
     };
     follow(m_panel, m_sidePanel->pin(), Pane::Panel);
     follow(m_paletteDrawer, m_palette->pin(), Pane::Palette);
+    const auto giveWay = [this] { m_shelf->setCovered(m_paletteDrawer->isOpen() && !m_paletteDrawer->isPinned()); };
+    connect(m_paletteDrawer, &Drawer::openChanged, m_shelf, giveWay);
+    connect(m_paletteDrawer, &Drawer::pinnedChanged, m_shelf, giveWay);
     QAction *panel = m_commands->perform(Command::Panel);
     connect(panel, &QAction::triggered, m_panel, &Drawer::setOpen);
     connect(m_panel, &Drawer::openChanged, panel, &QAction::setChecked);

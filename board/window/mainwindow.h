@@ -85,7 +85,7 @@ public:
     Dock *dock() const { return m_dock; }
     TopBar *topBar() const { return m_topBar; }
     QMenuBar *menus() const;
-    /// Puts the tools at another edge of the window.
+    /// Puts the tools at another edge of the window, for good.
     void setDockEdge(Qt::Edge edge);
     /// Makes tools and bar large enough for fingers, or as usual.
     void setLargeTools(bool large);
@@ -109,6 +109,7 @@ private:
     void offerLargeTools();
     void addStyleBar();
     void layOut();
+    void showDockAt(Qt::Edge edge);
     void followDrag(const QPoint &pos);
     void chooseShape();
     void connectParts();

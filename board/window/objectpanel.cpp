@@ -2,6 +2,8 @@
 
 #include "core/objectnames.h"
 #include "core/workspace.h"
+#include "look/linestart.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "panels/foldingsection.h"
 #include "panels/properties/propertypanel.h"
@@ -11,6 +13,7 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
@@ -20,6 +23,7 @@ namespace board {
 namespace {
 
 constexpr int headingPixels = 15;
+constexpr int largeHeadingPixels = 21;
 
 } // namespace
 
@@ -38,10 +42,13 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
     column->setSpacing(largeGap);
-    QFont font = m_title->font();
-    font.setPixelSize(headingPixels);
-    font.setBold(true);
-    m_title->setFont(font);
+    followSizes(m_title, [this] {
+        QFont font = QApplication::font();
+        font.setPixelSize(areSizesLarge() ? largeHeadingPixels : headingPixels);
+        font.setBold(true);
+        m_title->setFont(font);
+    });
+    m_title->setAlignment(lineStart() | Qt::AlignVCenter);
     m_title->setWordWrap(true);
     m_title->setTextFormat(Qt::PlainText);
     m_textSection->remember(QStringLiteral("text"), true);
@@ -96,8 +103,8 @@ void ObjectPanel::makeRoom(bool isScrollBarShown)
 {
     const int extent = verticalScrollBar()->sizeHint().width();
     const int margin = qMax(largeGap, extent);
-    widget()->layout()->setContentsMargins(largeGap, largeGap, isScrollBarShown ? margin - extent : margin,
-                                           largeGap);
+    const int end = isScrollBarShown ? margin - extent : margin;
+    widget()->layout()->setContentsMargins(alongLines(largeGap, largeGap, end, largeGap));
 }
 
 void ObjectPanel::settle()

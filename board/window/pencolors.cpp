@@ -1,6 +1,7 @@
 #include "window/pencolors.h"
 
 #include "core/toolchoice.h"
+#include "core/workspace.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "tools/toolsettings.h"
@@ -10,7 +11,7 @@
 
 namespace board {
 
-PenColors::PenColors(ToolChoice *tools, ToolSettings *settings, QWidget *parent)
+PenColors::PenColors(const Workspace &workspace, ToolChoice *tools, ToolSettings *settings, QWidget *parent)
     : QWidget(parent)
     , m_tools(tools)
     , m_settings(settings)
@@ -18,17 +19,17 @@ PenColors::PenColors(ToolChoice *tools, ToolSettings *settings, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(smallGap);
-    addColors();
+    addColors(workspace);
     connect(tools, &ToolChoice::changed, this, &PenColors::showChoice);
     connect(settings, &ToolSettings::changed, this, &PenColors::showChoice);
     showChoice();
 }
 
-void PenColors::addColors()
+void PenColors::addColors(const Workspace &workspace)
 {
     const QVector<QColor> colors = m_settings->colors(Tool::Pen);
     for (const QColor &color : colors) {
-        auto *button = new ShelfButton(color, color.name(), this);
+        auto *button = new ShelfButton(color, workspace.text(ToolSettings::colorKey(color)), this);
         followSizes(button, [button] { button->setSide(sizes().barButton); });
         connect(button, &QToolButton::clicked, this, [this, color] {
             m_settings->setColor(Tool::Pen, color);

@@ -6,6 +6,7 @@ namespace board {
 
 class ToolChoice;
 class ToolSettings;
+class Workspace;
 
 /// The colours of the pen in a row. A press on one takes the pen in that colour.
 class PenColors : public QWidget
@@ -13,11 +14,11 @@ class PenColors : public QWidget
     Q_OBJECT
 
 public:
-    /// Both must outlive this.
-    PenColors(ToolChoice *tools, ToolSettings *settings, QWidget *parent = nullptr);
+    /// All must outlive this.
+    PenColors(const Workspace &workspace, ToolChoice *tools, ToolSettings *settings, QWidget *parent = nullptr);
 
 private:
-    void addColors();
+    void addColors(const Workspace &workspace);
     void showChoice();
 
     ToolChoice *m_tools;

@@ -54,6 +54,12 @@ void Shelf::setEdge(Qt::Edge edge)
     rebuild();
 }
 
+void Shelf::setCovered(bool covered)
+{
+    m_isCovered = covered;
+    rebuild();
+}
+
 bool Shelf::isVertical() const
 {
     return m_edge == Qt::LeftEdge || m_edge == Qt::RightEdge;
@@ -69,7 +75,8 @@ void Shelf::rebuild()
         m_row->removeWidget(m_content);
         m_content = nullptr;
     }
-    const bool isNeeded = !m_settings->colors(tool).isEmpty() || !m_settings->widths(tool).isEmpty();
+    const bool hasChoices = !m_settings->colors(tool).isEmpty() || !m_settings->widths(tool).isEmpty();
+    const bool isNeeded = hasChoices && !m_isCovered;
     setVisible(isNeeded);
     if (!isNeeded)
         return;
@@ -94,7 +101,7 @@ void Shelf::addColors(Tool tool)
 {
     const QVector<QColor> colors = m_settings->colors(tool);
     for (const QColor &color : colors) {
-        auto *button = new ShelfButton(color, color.name(), m_content);
+        auto *button = new ShelfButton(color, m_workspace->text(ToolSettings::colorKey(color)), m_content);
         button->setSide(sizes().shelf - 2 * sideGap);
         button->setChecked(color == m_settings->color(tool));
         connect(button, &QToolButton::clicked, this, [this, tool, color] { m_settings->setColor(tool, color); });
@@ -159,11 +166,11 @@ void Shelf::place()
     const int length = isVertical() ? size.height() : size.width();
     const int available = isVertical() ? room.height() : room.width();
     const int start = qMax(0, qMin(startGap, available - length));
-    QPoint pos = isVertical() ? QPoint(0, start) : QPoint(start, 0);
+    QPoint pos = isVertical() ? QPoint(shelfGap, start) : QPoint(start, shelfGap);
     if (m_edge == Qt::RightEdge)
-        pos.setX(room.width() - sizes().shelf);
+        pos.setX(room.width() - sizes().shelf - shelfGap);
     if (m_edge == Qt::BottomEdge)
-        pos.setY(room.height() - sizes().shelf);
+        pos.setY(room.height() - sizes().shelf - shelfGap);
     setGeometry(QRect(pos, isVertical() ? QSize(sizes().shelf, length) : QSize(length, sizes().shelf)));
 }
 

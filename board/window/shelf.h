@@ -22,6 +22,8 @@ public:
 
     /// Puts the shelf at an edge of the view.
     void setEdge(Qt::Edge edge);
+    /// Hides it while something else stands in its place.
+    void setCovered(bool covered);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -41,6 +43,7 @@ private:
     ToolSettings *m_settings;
     QBoxLayout *m_row;
     QWidget *m_content = nullptr; ///< null while there is nothing to choose
+    bool m_isCovered = false;
     Qt::Edge m_edge = Qt::LeftEdge;
 };
 

@@ -3,6 +3,7 @@
 #include "core/workspace.h"
 #include "look/icons.h"
 #include "look/sizedbuttons.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtWidgets/QButtonGroup>
@@ -46,7 +47,8 @@ void SidePanel::addTab(const QString &title, QWidget *part)
     tab->setText(title);
     tab->setCheckable(true);
     tab->setChecked(index == 0);
-    sizeAsTextButton(tab);
+    // A least width would let it become narrower than its text.
+    followSizes(tab, [tab] { tab->setFixedHeight(sizes().barButton); });
     tab->setFocusPolicy(Qt::TabFocus);
     m_tabs->addButton(tab, index);
     m_tabRow->insertWidget(index, tab);

@@ -7,6 +7,8 @@
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "page/pageview.h"
+#include "window/barbutton.h"
+#include "window/menurow.h"
 #include "window/zoomcontrol.h"
 
 #include <QtGui/QPainter>
@@ -16,7 +18,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 namespace board {
@@ -28,9 +29,9 @@ enum Fold { MenusFold = 1, SavedFold, CommandsFold, ZoomFold, SwitchesFold };
 constexpr int lineLength = 20;
 constexpr int dotSide = 8;
 
-QToolButton *barButton(QAction *action, QWidget *parent)
+BarButton *barButton(QAction *action, QWidget *parent)
 {
-    auto *button = new QToolButton(parent);
+    auto *button = new BarButton(parent);
     button->setDefaultAction(action);
     button->setFocusPolicy(Qt::TabFocus);
     return button;
@@ -50,9 +51,9 @@ TopBar::TopBar(Workspace *workspace, const Actions *actions, PageView *view, QWi
     : QWidget(parent)
     , m_workspace(workspace)
     , m_row(new QHBoxLayout(this))
-    , m_menus(new QMenuBar(this))
+    , m_menus(new MenuRow(this))
     , m_allMenus(new QMenu(this))
-    , m_menuButton(new QToolButton(this))
+    , m_menuButton(new BarButton(this))
     , m_saved(new QLabel(this))
     , m_dot(new QLabel(this))
     , m_pages(new QWidget(this))
@@ -124,7 +125,7 @@ QMenu *TopBar::addMenu(const QString &title)
 
 void TopBar::addCommand(QAction *action)
 {
-    QToolButton *button = barButton(action, this);
+    BarButton *button = barButton(action, this);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_row->addWidget(button);
     m_commands.append(button);
@@ -136,11 +137,8 @@ void TopBar::addCommand(QAction *action)
 void TopBar::addPrimary(QAction *action, Icon picture)
 {
     addCommand(action);
-    QToolButton *button = m_commands.last();
-    button->setProperty("isPrimary", true);
-    // Its size has been asked for, and the style settled, before.
-    style()->unpolish(button);
-    style()->polish(button);
+    BarButton *button = m_commands.last();
+    button->setPrimary(true);
     // A change of the action brings the action's picture back.
     const auto showPicture = [=] { button->setIcon(icon(picture, QPalette::HighlightedText)); };
     connect(action, &QAction::changed, button, showPicture);
@@ -301,6 +299,16 @@ QSize TopBar::minimumSizeHint() const
 void TopBar::resizeEvent(QResizeEvent *)
 {
     fold();
+}
+
+/// Only now styles have given the buttons their sizes.
+void TopBar::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    const QList<QWidget *> parts = findChildren<QWidget *>();
+    for (const QWidget *part : parts)
+        part->ensurePolished();
+    measure();
 }
 
 void TopBar::paintEvent(QPaintEvent *)

@@ -15,6 +15,7 @@ class QToolButton;
 namespace board {
 
 class Actions;
+class BarButton;
 class PageView;
 class Workspace;
 class ZoomControl;
@@ -53,6 +54,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -72,7 +74,7 @@ private:
     QHBoxLayout *m_row;
     QMenuBar *m_menus;
     QMenu *m_allMenus;
-    QToolButton *m_menuButton;
+    BarButton *m_menuButton;
     QLabel *m_saved;
     QLabel *m_dot;
     QWidget *m_pages;
@@ -80,7 +82,7 @@ private:
     ZoomControl *m_zoom;
     QWidget *m_tools = nullptr; ///< null while they have a bar of their own
     Qt::Edge m_edge = Qt::TopEdge;
-    QVector<QToolButton *> m_commands;
+    QVector<BarButton *> m_commands;
     QVector<QToolButton *> m_switches;
     QVector<int> m_widths; ///< that are needed with so many folds
     int m_leastWidth = 0;

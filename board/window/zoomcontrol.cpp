@@ -31,6 +31,16 @@ QToolButton *buttonOf(QAction *action, QWidget *parent)
     return button;
 }
 
+/// With a picture of its own, which a change of the action would replace.
+QToolButton *stepButton(QAction *action, Icon picture, QWidget *parent)
+{
+    QToolButton *button = buttonOf(action, parent);
+    const auto showPicture = [=] { button->setIcon(icon(picture)); };
+    QObject::connect(action, &QAction::changed, button, showPicture);
+    showPicture();
+    return button;
+}
+
 } // namespace
 
 ZoomControl::ZoomControl(const Workspace *workspace, const Actions *actions, PageView *view, QWidget *parent)
@@ -55,7 +65,8 @@ ZoomControl::ZoomControl(const Workspace *workspace, const Actions *actions, Pag
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    m_steps = {buttonOf(actions->zoomOut, this), buttonOf(actions->zoomIn, this), buttonOf(actions->fitPage, this)};
+    m_steps = {stepButton(actions->zoomOut, Icon::Remove, this), stepButton(actions->zoomIn, Icon::Add, this),
+               buttonOf(actions->fitPage, this)};
     row->addWidget(m_steps[0]);
     row->addWidget(m_rate);
     row->addWidget(m_steps[1]);

@@ -1,5 +1,6 @@
 #include "panels/fields/captionedrow.h"
 
+#include "look/linestart.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 
@@ -23,15 +24,24 @@ CaptionedRow::CaptionedRow(const QString &caption, QWidget *field, QWidget *pare
 {
     m_caption->setForegroundRole(QPalette::PlaceholderText);
     m_caption->setTextFormat(Qt::PlainText);
+    m_caption->setAlignment(lineStart() | Qt::AlignVCenter);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->addWidget(m_caption);
     m_layout->addWidget(field, 1);
     arrange();
 }
 
+void CaptionedRow::putCaptionAbove()
+{
+    m_isAbove = true;
+    arrange();
+}
+
 void CaptionedRow::arrange()
 {
-    const bool isBeside = m_caption->fontMetrics().horizontalAdvance(m_caption->text()) <= captionWidth;
+    // Of the caption in one line.
+    m_caption->setWordWrap(false);
+    const bool isBeside = !m_isAbove && m_caption->sizeHint().width() <= captionWidth;
     m_layout->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_layout->setSpacing(isBeside ? mediumGap : smallGap);
     // Beside the first line of fields that have several.

@@ -1,6 +1,7 @@
 #include "panels/fields/numberfield.h"
 
 #include "core/workspace.h"
+#include "look/linestart.h"
 #include "look/sizes.h"
 #include "panels/fields/expression.h"
 
@@ -38,6 +39,7 @@ NumberField::NumberField(const Workspace *workspace, const NumberRange &range, c
     setRange(range.minimum, range.maximum);
     setSingleStep(range.step);
     setKeyboardTracking(false);
+    setAlignment(lineStart());
     setFocusPolicy(Qt::StrongFocus);
     if (!unit.isEmpty())
         setSuffix(unit == degreeSign ? unit : QLatin1Char(' ') + unit);

@@ -166,7 +166,7 @@ void TestLargeSizes::palette()
     const Desk desk(large);
     desk.window().commands()->action(Command::Shapes)->trigger();
     QCoreApplication::processEvents();
-    QCOMPARE(desk.window().palette()->width(), large ? 440 : 344);
+    QCOMPARE(desk.window().palette()->width(), large ? 440 : 320);
     const board::PaletteButton *button = desk.window().palettePanel()->buttons().first();
     QCOMPARE(button->sizeHint().width(), large ? 124 : 92);
     // Names of two lines stand below the picture.

@@ -8,6 +8,8 @@
 #include <lessons/timeline.h>
 #include <look/icons.h>
 #include <page/pageview.h>
+#include <panels/fields/captionedrow.h>
+#include <panels/foldtitle.h>
 #include <window/dock.h>
 #include <window/drawer.h>
 #include <window/mainwindow.h>
@@ -18,10 +20,13 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QToolButton>
 
@@ -59,9 +64,13 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void toolsLieAtTheRight();
+    void anEdgeThatNobodyChoseFollowsTheLanguage();
     void anEdgeThatIsChosenStays_data();
     void anEdgeThatIsChosenStays();
     void theBarBeginsAtTheRight();
+    void menusHaveTheirRoom();
+    void titlesOfThePanelBeginAtTheRight();
+    void captionsBeginAtTheRightInAnyLetters();
     void thePanelOpensAtTheLeft();
     void shapesOpenBesideTheTools();
     void theBarAtTheSelectionBeginsAtTheRight();
@@ -97,6 +106,18 @@ void TestRightToLeft::toolsLieAtTheRight()
     QVERIFY(leftOf(&m_board->view()) + m_board->view().width() <= leftOf(dock));
 }
 
+void TestRightToLeft::anEdgeThatNobodyChoseFollowsTheLanguage()
+{
+    m_board.reset();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    m_board = std::make_unique<BoardDriver>();
+    QCOMPARE(m_board->window().dock()->edge(), Qt::LeftEdge);
+    m_board.reset();
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    m_board = std::make_unique<BoardDriver>();
+    QCOMPARE(m_board->window().dock()->edge(), Qt::RightEdge);
+}
+
 void TestRightToLeft::anEdgeThatIsChosenStays_data()
 {
     QTest::addColumn<Qt::Edge>("edge");
@@ -123,6 +144,40 @@ void TestRightToLeft::theBarBeginsAtTheRight()
 {
     QVERIFY(leftOf(m_board->window().menus()) > m_board->window().width() / 2);
     QVERIFY(leftOf(m_board->window().topBar()->pages()) < m_board->window().width() / 2);
+}
+
+void TestRightToLeft::menusHaveTheirRoom()
+{
+    QMenuBar *menus = m_board->window().menus();
+    QVERIFY(menus->isVisible());
+    int end = menus->width();
+    const QList<QAction *> titles = menus->actions();
+    for (QAction *title : titles) {
+        const QRect place = menus->actionGeometry(title);
+        QVERIFY2(menus->rect().contains(place), qPrintable(title->text()));
+        // One after the other.
+        QVERIFY(place.right() < end);
+        end = place.left();
+    }
+    // The button of what has no room.
+    for (const QToolButton *button : support::listed(menus->findChildren<QToolButton *>()))
+        QVERIFY(!button->isVisible());
+}
+
+void TestRightToLeft::titlesOfThePanelBeginAtTheRight()
+{
+    const auto *title = m_board->window().panel()->findChild<board::FoldTitle *>();
+    QVERIFY(title);
+    QCOMPARE(title->textPlace().right(), title->width() - 1);
+    QCOMPARE(title->arrowPlace().left(), 0);
+    QVERIFY(!title->textPlace().intersects(title->arrowPlace()));
+}
+
+void TestRightToLeft::captionsBeginAtTheRightInAnyLetters()
+{
+    const board::CaptionedRow row("Width", new QWidget);
+    const auto *caption = row.findChild<QLabel *>();
+    QCOMPARE(caption->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight | Qt::AlignAbsolute);
 }
 
 void TestRightToLeft::thePanelOpensAtTheLeft()

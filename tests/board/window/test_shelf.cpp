@@ -5,12 +5,14 @@
 #include <core/toolchoice.h>
 #include <page/pageview.h>
 #include <tools/toolsettings.h>
+#include <window/drawer.h>
 #include <window/mainwindow.h>
 #include <window/shelf.h>
 #include <window/shelfbutton.h>
 
 #include <support/listed.h>
 
+#include <QtCore/QSet>
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QMenu>
@@ -30,6 +32,9 @@ private Q_SLOTS:
     void variantsOfTheEraserAreInItsMenu();
     void shelfCoversNoPartOfThePage_data();
     void shelfCoversNoPartOfThePage();
+    void shelfStandsBetweenToolsAndPage();
+    void shapesThatOpenTakeItsPlace();
+    void coloursHaveNames();
 };
 
 namespace {
@@ -61,7 +66,7 @@ void TestShelf::shelfIsThereForToolsWithSomethingToChoose()
     QVERIFY(!shelf(board)->isVisible());
     board.key(Qt::Key_P);
     QVERIFY(shelf(board)->isVisible());
-    QVERIFY(button(board, "#1f2630")->isChecked());
+    QVERIFY(button(board, "Black")->isChecked());
     QVERIFY(button(board, "Width 4")->isChecked());
     board.key(Qt::Key_V);
     QVERIFY(!shelf(board)->isVisible());
@@ -71,10 +76,10 @@ void TestShelf::pressOnAColourGivesItToThePen()
 {
     BoardDriver board;
     board.key(Qt::Key_P);
-    QTest::mouseClick(button(board, "#c9252d"), Qt::LeftButton);
+    QTest::mouseClick(button(board, "Red"), Qt::LeftButton);
     QCOMPARE(board.window().toolSettings()->color(Tool::Pen), QColor(0xc9, 0x25, 0x2d));
-    QVERIFY(button(board, "#c9252d")->isChecked());
-    QVERIFY(!button(board, "#1f2630")->isChecked());
+    QVERIFY(button(board, "Red")->isChecked());
+    QVERIFY(!button(board, "Black")->isChecked());
 }
 
 void TestShelf::pressOnAWidthGivesItToThePen()
@@ -120,6 +125,46 @@ void TestShelf::shelfCoversNoPartOfThePage()
     QCoreApplication::processEvents();
     QVERIFY(!shelf(board)->geometry().intersects(board.view().viewport()->geometry()));
     QVERIFY(board.view().rect().contains(shelf(board)->geometry()));
+}
+
+void TestShelf::shelfStandsBetweenToolsAndPage()
+{
+    BoardDriver board;
+    board.key(Qt::Key_P);
+    board.view().fitPage();
+    QCOMPARE(shelf(board)->x(), 4);
+    const QPoint page = board.view().viewport()->mapTo(&board.view(), board.view().mapFromScene(QPointF(0, 0)));
+    QVERIFY(page.x() >= shelf(board)->geometry().right() + 1 + 4);
+}
+
+void TestShelf::shapesThatOpenTakeItsPlace()
+{
+    BoardDriver board;
+    board.key(Qt::Key_P);
+    board::Drawer *palette = board.window().palette();
+    palette->setOpen(true);
+    QVERIFY(!shelf(board)->isVisible());
+    palette->setOpen(false);
+    QVERIFY(shelf(board)->isVisible());
+    // Beside pinned shapes there is room for it.
+    palette->setOpen(true);
+    palette->setPinned(true);
+    QVERIFY(shelf(board)->isVisible());
+}
+
+void TestShelf::coloursHaveNames()
+{
+    BoardDriver board;
+    for (const Tool tool : {Tool::Pen, Tool::Highlighter}) {
+        board.window().tools()->choose(tool);
+        QStringList names;
+        for (const auto *one : support::listed(shelf(board)->findChildren<board::ShelfButton *>()))
+            if (one->isVisible() && !one->accessibleName().startsWith("Width"))
+                names.append(one->accessibleName());
+        QCOMPARE(names.size(), 6);
+        QCOMPARE(QSet<QString>(names.begin(), names.end()).size(), 6);
+        QVERIFY(!names.contains(QString()));
+    }
 }
 
 QTEST_MAIN(TestShelf)
