@@ -59,7 +59,7 @@ COMPONENTS = [
     Component(
         ["kit"],
         prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"),
-        headers=("pagehost/objectplugin.h",),
+        headers=("pagehost/objectplugin.h", "pagehost/outlinehits.h"),
     ),
     Component(
         ["shapes/declared/core"],

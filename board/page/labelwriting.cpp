@@ -29,12 +29,17 @@ bool LabelWriting::writeAt(const QPoint &pos)
     return false;
 }
 
-/// The topmost one; handles and other aids are none.
+/// The topmost one, or the selected one around it; handles and other aids are none.
 CBaseObject *LabelWriting::objectAt(const QPoint &pos) const
 {
     const QList<QGraphicsItem *> found = m_view->items(pos);
     for (QGraphicsItem *item : found)
         if (auto *object = dynamic_cast<CBaseObject *>(item))
+            return object;
+    const QPointF scenePos = m_view->mapToScene(pos);
+    const QVector<CBaseObject *> selected = m_view->page()->selectedObjects();
+    for (CBaseObject *object : selected)
+        if (object->getClientRect().contains(object->mapFromScene(scenePos)))
             return object;
     return nullptr;
 }

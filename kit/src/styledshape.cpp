@@ -11,12 +11,14 @@
 
 #include <framework/cpagebgprop.h>
 #include <pagehost/objectplugin.h>
+#include <pagehost/outlinehits.h>
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QPointer>
 #include <QtGui/QPainterPath>
-#include <QtGui/QPainterPathStroker>
+
+#include "figures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,8 +38,6 @@ constexpr double pointMargin = 6;
 constexpr double rimOfPoint = 5;
 /// Where a press on a control point is tried: at its middle, then at its rim.
 constexpr QPointF pressSides[] = {{0, 0}, {-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}};
-/// Added to the width of a line so that it can be hit, document units.
-constexpr double lineHitMargin = 6;
 /// The library widens the pen by this much in the region, item units.
 constexpr double regionPenMargin = 2;
 /// Reach of a line beyond its middle, in widths: half of it, and with mitred corners as far as SVG's default miter
@@ -58,40 +58,6 @@ QByteArray bytesOf(const CPageBgProp &fill)
     QDataStream out(&bytes, QIODevice::WriteOnly);
     fill.save(out);
     return bytes;
-}
-
-QPainterPath outlineOf(const QZeSvgNode &node)
-{
-    QPainterPath outline;
-    switch (node.type()) {
-    case QZeSvgNode::Path:
-        return node.path();
-    case QZeSvgNode::Polygon:
-        outline.addPolygon(node.polygon());
-        outline.closeSubpath();
-        return outline;
-    case QZeSvgNode::Circle:
-    case QZeSvgNode::Ellipse:
-        outline.addEllipse(node.boundingRect());
-        return outline;
-    default:
-        outline.addRect(node.boundingRect());
-        return outline;
-    }
-}
-
-QPainterPath hitAreaOfLine(const QZeSvgNode &node)
-{
-    QPainterPathStroker stroker;
-    stroker.setCapStyle(Qt::RoundCap);
-    stroker.setJoinStyle(Qt::RoundJoin);
-    stroker.setWidth(node.strokeWidth() + lineHitMargin);
-    return stroker.createStroke(outlineOf(node));
-}
-
-QString areaId()
-{
-    return QStringLiteral("area");
 }
 
 /// An inherited attribute.
@@ -121,11 +87,6 @@ QRectF paintedBounds(const QZeSvgNode &node, double reachOfItsLine)
 bool isControlPoint(const QString &id)
 {
     return id.startsWith(QLatin1String("control_"));
-}
-
-bool isFigure(const QString &id)
-{
-    return id == QLatin1String("figure") || id == areaId() || id.startsWith(QLatin1String("figure_"));
 }
 
 } // namespace
@@ -347,6 +308,10 @@ bool StyledShape::GetSpecialProperty(int propId, QDataStream &out)
         writeLabels(out);
         return true;
     }
+    if (propId == pagehost::HitAtOutline && document) {
+        out << !isHitInside();
+        return true;
+    }
     if (propId == pagehost::DragHint) {
         const QString hint = dragHint();
         if (!hint.isEmpty())
@@ -374,20 +339,6 @@ bool StyledShape::SetSpecialProperty(int propId, QDataStream &in, bool record)
     if (in.status() == QDataStream::Ok && on != isAnimating())
         play(on);
     return true;
-}
-
-void StyledShape::updateOutlineRegion()
-{
-    if (m_figures.isEmpty()) {
-        CSVGBase::updateOutlineRegion();
-        return;
-    }
-    delete outlineRegion;
-    outlineRegion = new QPainterPath;
-    outlineRegion->setFillRule(Qt::WindingFill);
-    for (const QZeSvgNode *figure : qAsConst(m_figures))
-        outlineRegion->addPath(propFillEnabled || figure->nodeId() == areaId() ? outlineOf(*figure)
-                                                                               : hitAreaOfLine(*figure));
 }
 
 void StyledShape::takePageFill()
@@ -521,18 +472,6 @@ QRectF StyledShape::paintedBoundsOf(const QZeSvgNode &node)
     for (const QZeSvgNode *child : children)
         painted |= paintedBoundsOf(*child);
     return painted;
-}
-
-/// The figures; of a shape without any, the frame.
-QPainterPath StyledShape::connectionOutline()
-{
-    settleDrawing();
-    QPainterPath outline;
-    for (const QZeSvgNode *figure : qAsConst(m_figures))
-        outline.addPath(outlineOf(*figure));
-    if (outline.isEmpty())
-        outline.addRect(drawnArea());
-    return seenMapping().map(outline);
 }
 
 /// Letters as they are typed are recorded, but no steps to take back.

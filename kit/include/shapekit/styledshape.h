@@ -103,6 +103,8 @@ public:
     /// The outline is that of the nodes whose id is "figure" or begins with "figure_"; without such nodes, of the
     /// whole template except control points, which are never filled.
     void updateOutlineRegion() override;
+    /// Without a fill, that of the lines and of labels with letters alone.
+    bool getOutlinePath(QPainterPath *path) override;
     /// Answer to pagehost::PaintedArea: a box, item coordinates, around all lines and texts with their pens, and
     /// around the area where the shape can be hit.
     virtual QRectF paintedArea();
@@ -160,6 +162,9 @@ private:
     QPointF pressPlace(int index, const QTransform &toObject) const;
     int pressedPoint(QPointF place) const;
     QPainterPath connectionOutline();
+    /// Whether presses between the lines are meant for the shape.
+    bool isHitInside();
+    bool takeLines(QPainterPath *path);
     void writeLabels(QDataStream &out);
     bool writeLabel(QDataStream &in, bool record);
     void play(bool on);

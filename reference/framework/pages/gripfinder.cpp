@@ -2,6 +2,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <pagehost/outlinehits.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
@@ -12,7 +13,9 @@
 #include <host/shownhandles.h>
 #include <pages/framedrag.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QLineF>
+#include <QtGui/QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -151,14 +154,40 @@ Candidate handleCandidate(CBaseObject *object, const QPointF &scenePos, Pointer 
     return {{Grip::Handle, object, hit.handle, {}, -1}, hit.distance, HandleLayout::rank(hit.handle)};
 }
 
-/// The objects there that are not locked, the topmost first: clicks pass through the others.
-QVector<CBaseObject *> freeObjectsAt(const Page &page, const QPointF &scenePos)
+bool isHitAtOutline(CBaseObject &object)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    if (!object.GetSpecialProperty(HitAtOutline, out))
+        return false;
+    bool isHit = false;
+    QDataStream(bytes) >> isHit;
+    return isHit;
+}
+
+/// `reach`: farthest from the lines of an object that is hit there only, scene units.
+bool isHit(CBaseObject &object, const QPointF &scenePos, double reach)
+{
+    const QPainterPath region = object.shape();
+    const QPointF pos = object.mapFromScene(scenePos);
+    if (region.contains(pos))
+        return true;
+    QPainterPath around;
+    around.addEllipse(pos, reach, reach);
+    return isHitAtOutline(object) && region.intersects(around);
+}
+
+/// The objects there, or with their lines at most `reach` pixels away, that are not locked, the topmost first:
+/// clicks pass through the others.
+QVector<CBaseObject *> freeObjectsAt(const Page &page, const QPointF &scenePos, double reach)
 {
     QVector<CBaseObject *> objects;
-    const QList<QGraphicsItem *> items = page.scene()->items(scenePos);
+    const double aside = page.document() ? reach / page.document()->zoomRate() : reach;
+    const QRectF around(scenePos - QPointF(aside, aside), scenePos + QPointF(aside, aside));
+    const QList<QGraphicsItem *> items = page.scene()->items(around, Qt::IntersectsItemBoundingRect);
     for (QGraphicsItem *item : items) {
         auto *object = dynamic_cast<CBaseObject *>(item);
-        if (object && object->GetPage() == &page && !object->isLocked())
+        if (object && object->GetPage() == &page && !object->isLocked() && isHit(*object, scenePos, aside))
             objects.append(object);
     }
     return objects;
@@ -217,9 +246,12 @@ Grip findGrip(const Page &page, const QPointF &scenePos, Pointer pointer)
     const Candidate nearest = nearestGrip(page, scenePos, pointer);
     if (nearest.grip.object)
         return nearest.grip;
-    CBaseObject *object = freeObjectsAt(page, scenePos).value(0);
+    CBaseObject *object = freeObjectsAt(page, scenePos, frameReach(pointer)).value(0);
     if (!object)
         object = selectedAround(page.selectedObjects(), scenePos);
+    // Lines are as wide as other targets where nothing else is.
+    if (!object)
+        object = freeObjectsAt(page, scenePos, hitSize(pointer) / 2).value(0);
     return object ? Grip{Grip::Body, object, CObjAction::ACT_Move, {}, -1} : Grip();
 }
 
@@ -228,7 +260,7 @@ ObjectsBelow findBelow(const Page &page, const QPointF &scenePos)
     ObjectsBelow below;
     QVector<QVector<CBaseObject *>> units;
     int place = 0; // of the selected one
-    const QVector<CBaseObject *> objects = freeObjectsAt(page, scenePos);
+    const QVector<CBaseObject *> objects = freeObjectsAt(page, scenePos, frameReach(Pointer::Mouse));
     for (CBaseObject *object : objects) {
         const QVector<CBaseObject *> unit = page.unitOf(object);
         if (!units.contains(unit))

@@ -8,6 +8,7 @@
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>
+#include <pagehost/style.h>
 
 #include <framework/cbaseobject.h>
 
@@ -59,6 +60,8 @@ private Q_SLOTS:
     void doubleClickWritesTheTextInItsPlace();
     void writtenTextIsTakenBackInOneStep();
     void doubleClickBesideTheTextWritesNothing();
+    void lettersOfAShapeWithoutFillTakeIt();
+    void aShapeWithoutFillThatIsSelectedIsWrittenByADoubleClick();
     void menuOffersToEditTheTextOfAShapeThatHasOne();
     void enterWritesTheTextOfTheSelectedShape();
     void enterDoesNothingForOtherShapes();
@@ -124,6 +127,28 @@ void TestLabels::menuOffersToEditTheTextOfAShapeThatHasOne()
     t.board.page().select({t.note});
     QVERIFY(edit->isEnabled());
     edit->trigger();
+    QVERIFY(t.editor());
+}
+
+void TestLabels::lettersOfAShapeWithoutFillTakeIt()
+{
+    OneNote t;
+    pagehost::setFill({t.note}, Qt::transparent);
+    t.board.page().select({});
+    t.board.click({600, 350});
+    QCOMPARE(t.board.selection(), QVector<CBaseObject *>{t.note});
+}
+
+void TestLabels::aShapeWithoutFillThatIsSelectedIsWrittenByADoubleClick()
+{
+    OneNote t;
+    pagehost::setFill({t.note}, Qt::transparent);
+    t.doubleClick({600, 350});
+    t.type(" ");
+    t.strike(Qt::Key_Backspace);
+    t.strike(Qt::Key_Escape);
+    QCOMPARE(t.text(), QString());
+    t.doubleClick({600, 350});
     QVERIFY(t.editor());
 }
 
