@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/icons.h"
+#include "look/sizedbuttons.h"
 #include "look/theme.h"
 #include "panels/colorbutton.h"
 #include "panels/fields/captionedrow.h"
@@ -117,7 +118,7 @@ QHBoxLayout *FillControls::makeTypeButtons()
         auto *button = new QToolButton(this);
         button->setCheckable(true);
         button->setIcon(icon(entry.icon));
-        button->setIconSize(QSize(20, 20));
+        sizeAsBarButton(button);
         button->setToolTip(m_workspace->text(entry.nameKey));
         button->setAccessibleName(button->toolTip());
         m_types->addButton(button, entry.type);

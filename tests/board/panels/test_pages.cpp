@@ -61,7 +61,7 @@ void TestPages::thumbnailShowsThePage()
     CBaseObject *shape = board.draw(rectangle, {400, 200}, {800, 500});
     pagehost::setFill({shape}, QColor(200, 30, 40));
     support::deliverEvents();
-    QCOMPARE(thumbnail(board, 0).size(), QSize(80, 45));
+    QCOMPARE(thumbnail(board, 0).size(), QSize(119, 67));
     QCOMPARE(thumbnailColor(board, 0, {600, 350}), QColor(200, 30, 40));
     QCOMPARE(thumbnailColor(board, 0, {100, 100}), QColor(Qt::white));
 }

@@ -26,6 +26,7 @@
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QToolButton>
@@ -34,6 +35,8 @@ using board::Command;
 using boardtest::BoardDriver;
 
 namespace {
+
+constexpr double fontPoints = 9.5;
 
 /// The board with a selected shape.
 struct Desk : BoardDriver
@@ -115,6 +118,10 @@ private Q_SLOTS:
 void TestLargeSizes::initTestCase()
 {
     boardtest::useOwnFolders();
+    // Without a desktop, letters are larger than any desktop's.
+    QFont font = QApplication::font();
+    font.setPointSizeF(fontPoints);
+    QApplication::setFont(font);
     board::applyTheme(board::Theme::Light);
 }
 
