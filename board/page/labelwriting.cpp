@@ -53,15 +53,15 @@ bool LabelWriting::canWriteSelected() const
 {
     const QVector<CBaseObject *> selected =
         m_view->isEditable() ? m_view->page()->selectedObjects() : QVector<CBaseObject *>();
-    return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.first()).isEmpty();
+    return selected.size() == 1 && !selected.first()->isLocked() && !labelsOf(*selected.constFirst()).isEmpty();
 }
 
 bool LabelWriting::writeSelected(bool isNewObject)
 {
     if (!canWriteSelected())
         return false;
-    CBaseObject *object = m_view->page()->selectedObjects().first();
-    write(object, labelsOf(*object).first(), isNewObject);
+    CBaseObject *object = m_view->page()->selectedObjects().constFirst();
+    write(object, labelsOf(*object).constFirst(), isNewObject);
     return true;
 }
 

@@ -60,6 +60,12 @@ bool Curtain::eventFilter(QObject *, QEvent *event)
     return false;
 }
 
+/// A view that scrolls takes what lies on it along.
+void Curtain::moveEvent(QMoveEvent *)
+{
+    layOut();
+}
+
 void Curtain::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

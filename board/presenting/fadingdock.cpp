@@ -55,6 +55,12 @@ FadingDock::FadingDock(QWidget *under)
     under->installEventFilter(this);
 }
 
+/// A view that scrolls takes what lies on it along.
+void FadingDock::moveEvent(QMoveEvent *)
+{
+    layOut();
+}
+
 void FadingDock::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

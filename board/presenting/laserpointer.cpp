@@ -121,6 +121,12 @@ bool LaserPointer::usePointer(QEvent *event)
     }
 }
 
+/// A view that scrolls takes what lies on it along.
+void LaserPointer::moveEvent(QMoveEvent *)
+{
+    move(0, 0);
+}
+
 void LaserPointer::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

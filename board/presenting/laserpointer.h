@@ -40,6 +40,7 @@ protected:
     /// Watches the viewport.
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
 
 private:
     bool isInUse() const;

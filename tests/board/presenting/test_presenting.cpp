@@ -121,6 +121,7 @@ private Q_SLOTS:
     void curtainIsDraggedFromItsSides();
     void curtainThatIsDraggedAwayIsOpen();
     void dockShowsThePageNumber();
+    void dockAndCurtainStayWhenThePageIsMoved();
     void dockFadesAfterThreeSeconds();
     void dockComesBackWhenThePointerIsNear();
     void dockStaysAwayWhenThePointerIsFar();
@@ -357,6 +358,18 @@ void TestPresenting::dockShowsThePageNumber()
     const QRect under = t.viewport()->rect();
     QCOMPARE(t.dock().geometry().left(), 24);
     QCOMPARE(t.dock().geometry().bottom(), under.bottom() - 24);
+}
+
+void TestPresenting::dockAndCurtainStayWhenThePageIsMoved()
+{
+    const Show t;
+    t.press(Qt::Key_B);
+    t.stage().view()->setZoom(3);
+    t.stage().view()->centerOn(0, 0);
+    t.stage().view()->centerOn(1280, 720);
+    QCOMPARE(t.dock().geometry().left(), 24);
+    QCOMPARE(t.dock().geometry().bottom(), t.viewport()->rect().bottom() - 24);
+    QCOMPARE(t.stage().curtain()->geometry(), t.viewport()->rect());
 }
 
 void TestPresenting::dockFadesAfterThreeSeconds()
