@@ -226,7 +226,8 @@ PaletteButton *PalettePanel::makeButton(ButtonFlow *flow, const PaletteEntry &en
 
 void PalettePanel::paintPictures()
 {
-    for (PaletteButton *button : m_buttons + m_recentButtons)
+    const QVector<PaletteButton *> all = m_buttons + m_recentButtons;
+    for (PaletteButton *button : all)
         button->setIcon(
             QIcon(pictureOfKind(m_workspace->registry(), button->kindId(), pictureSize(), devicePixelRatioF())));
 }
@@ -234,7 +235,8 @@ void PalettePanel::paintPictures()
 void PalettePanel::showWaitingKind(const QString &kindId)
 {
     m_waitingKind = kindId;
-    for (PaletteButton *button : m_buttons + m_recentButtons)
+    const QVector<PaletteButton *> all = m_buttons + m_recentButtons;
+    for (PaletteButton *button : all)
         button->setChecked(button->kindId() == kindId);
 }
 

@@ -454,7 +454,7 @@ void MainWindow::addDockMenu()
     QAction *large = menu->addAction(m_workspace->text("IDS_BOARD_LARGE_TOOLS"));
     large->setCheckable(true);
     connect(large, &QAction::triggered, this, &MainWindow::setLargeTools);
-    connect(menu, &QMenu::aboutToShow, large, [this, large] { large->setChecked(areSizesLarge()); });
+    connect(menu, &QMenu::aboutToShow, large, [large] { large->setChecked(areSizesLarge()); });
 }
 
 void MainWindow::connectLessons()

@@ -14,7 +14,6 @@
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
-using pagehost::Grip;
 using pagehost::Pointer;
 
 using Objects = QVector<CBaseObject *>;
