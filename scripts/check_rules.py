@@ -59,7 +59,7 @@ COMPONENTS = [
     Component(
         ["kit"],
         prefixes=("shapekit/", "svgobj/", "framework/", "svgbase/"),
-        headers=("pagehost/objectplugin.h", "pagehost/outlinehits.h"),
+        headers=("pagehost/objectplugin.h",),
     ),
     Component(
         ["shapes/declared/core"],
@@ -87,7 +87,7 @@ COMPONENTS = [
     Component(
         ["shapes/line"],
         prefixes=("line/", "shapekit/", "svgobj/", "framework/", "svgbase/"),
-        headers=("pagehost/draggedend.h", "pagehost/objectplugin.h", "pagehost/pagetool.h"),
+        headers=("pagehost/objectplugin.h", "pagehost/pagetool.h", "pagehost/specialproperty.h"),
     ),
     Component(
         ["shapes/text"],

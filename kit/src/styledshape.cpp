@@ -11,7 +11,6 @@
 
 #include <framework/cpagebgprop.h>
 #include <pagehost/objectplugin.h>
-#include <pagehost/outlinehits.h>
 #include <svgbase/qzesvgtinydocument.h>
 
 #include <QtCore/QDataStream>

@@ -2,10 +2,10 @@
 
 #include <framework/cbaseobject.h>
 
-#include <pagehost/draggedend.h>
 #include <pagehost/objectid.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+#include <pagehost/specialproperty.h>
 
 #include <host/controlpointplaces.h>
 #include <pages/connectionfinder.h>

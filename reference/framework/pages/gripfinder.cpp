@@ -2,10 +2,10 @@
 
 #include <framework/cbaseobject.h>
 
-#include <pagehost/outlinehits.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 #include <pagehost/selection.h>
+#include <pagehost/specialproperty.h>
 #include <pagehost/writing.h>
 
 #include <host/controlpointplaces.h>

@@ -7,7 +7,7 @@
 
 #include <svgbase/qzesvgtinydocument.h>
 
-#include <pagehost/draggedend.h>
+#include <pagehost/specialproperty.h>
 
 #include <QtCore/QDataStream>
 

@@ -6,7 +6,6 @@
 
 #include <framework/operationtype.h>
 
-#include <pagehost/draggedend.h>
 #include <pagehost/objectplugin.h>
 
 #include <QtCore/QDataStream>

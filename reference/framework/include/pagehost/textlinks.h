@@ -23,21 +23,6 @@ struct TextLink
     }
 };
 
-/// Special properties, beside those of pagehost::SpecialProperty, of objects whose labels (LabelPlaces) may have
-/// links.
-enum TextLinkProperty {
-    /// Read: a qint32 count, then for each such label its property and that of its links (qint32 each), whose value
-    /// is a
-    /// QByteArray (encodedLinks()). Write: the links of a label while it is typed, as LabelText: the label's
-    /// property
-    /// (qint32) and the links (QByteArray).
-    LabelLinks = 2917,
-    /// Read only: where links stand: a qint32 count, then for each a box (QRectF, item coordinates as they are
-    /// seen) and
-    /// the address (QString). Nobody has checked the addresses.
-    LinkAreas = 2918
-};
-
 /// Further links, and longer addresses, are left out.
 constexpr int mostLinks = 500;
 /// Longer addresses are left out, UTF-16 units.
