@@ -1,5 +1,7 @@
 #include "page/linkediting.h"
 
+#include <pagehost/specialproperty.h>
+
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QDataStream>

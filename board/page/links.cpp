@@ -1,5 +1,6 @@
 #include "page/links.h"
 
+#include <pagehost/specialproperty.h>
 #include <pagehost/textlinks.h>
 
 #include <framework/cbaseobject.h>
