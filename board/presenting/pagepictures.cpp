@@ -18,6 +18,14 @@ constexpr QSize nextSize(286, 161);
 constexpr QSize smallSize(124, 70);
 constexpr QSize cellSize(132, 98);
 
+/// The page that is shown keeps its colours in the list; styles tint selected pictures.
+QIcon untintedIcon(const QPixmap &picture)
+{
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
+
 } // namespace
 
 PagePictures::PagePictures(const Workspace *workspace, Stage *stage, QWidget *middle, QWidget *parent)
@@ -108,7 +116,7 @@ void PagePictures::showPicture(pagehost::Page *page, const QImage &picture)
 {
     const int row = m_pages.indexOf(page);
     if (QListWidgetItem *item = m_list->item(row))
-        item->setIcon(QPixmap::fromImage(picture));
+        item->setIcon(untintedIcon(QPixmap::fromImage(picture)));
     if (!document() || row != document()->indexOf(m_stage->view()->page()) + 1)
         return;
     QPixmap large = QPixmap::fromImage(picture);

@@ -73,9 +73,11 @@ void ObjectPanel::setPage(pagehost::Page *page)
     if (m_page)
         disconnect(m_page, nullptr, this, nullptr);
     m_page = page;
-    if (page)
-        for (const auto signal : {&pagehost::Page::selectionChanged, &pagehost::Page::contentChanged})
-            connect(page, signal, this, [this] { m_refresh.request(); });
+    if (page) {
+        const auto refreshSoon = [this] { m_refresh.request(); };
+        connect(page, &pagehost::Page::selectionChanged, this, refreshSoon);
+        connect(page, &pagehost::Page::contentChanged, this, refreshSoon);
+    }
     m_style->setPage(page);
     m_settings->setPage(page);
     m_text->setPage(page);

@@ -137,6 +137,7 @@ private Q_SLOTS:
     void audienceSeesCurtainAndLaser();
     void barOfThePresenterFitsASmallScreen();
     void presenterSeesTheNextPage();
+    void pictureOfTheShownPageKeepsItsColours();
     void presenterTurnsToAPageByAClick();
     void presenterSeesTheTimeSinceTheStart();
     void timeSinceTheStart_data();
@@ -580,6 +581,17 @@ void TestPresenting::presenterSeesTheNextPage()
     t.show.run(Command::AddPage);
     QCOMPARE(pictures.list()->count(), 4);
     QCOMPARE(pictures.list()->currentRow(), 3);
+}
+
+void TestPresenting::pictureOfTheShownPageKeepsItsColours()
+{
+    TwoScreens t;
+    QListWidget *list = t.show.presentation().presenter()->pictures()->list();
+    const auto picture = [list](QIcon::Mode mode) {
+        return list->currentItem()->icon().pixmap(list->iconSize(), mode).toImage();
+    };
+    QVERIFY(support::passUntil([&] { return !picture(QIcon::Normal).isNull(); }));
+    QCOMPARE(picture(QIcon::Selected), picture(QIcon::Normal));
 }
 
 void TestPresenting::presenterTurnsToAPageByAClick()
