@@ -93,6 +93,7 @@ constexpr Situation situations[] = {
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
+constexpr int chapterSteps = 2;
 
 void useDesktopFont()
 {
@@ -197,6 +198,8 @@ void recordLesson(MainWindow &window, pagehost::Page *page)
 {
     window.lessons()->recordOrStop();
     for (int step = 0; step < lessonSteps; ++step) {
+        if (step % chapterSteps == 0)
+            window.lessons()->beginChapter();
         waitFor(lessonStep);
         CBaseObject *object = page->objects().at(step % page->objectCount());
         pagehost::moveObjects({object}, {14, -9});

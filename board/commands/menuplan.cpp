@@ -83,9 +83,26 @@ MenuPlan toolPlan()
 
 MenuPlan lessonPlan()
 {
-    return {Command::Record,       Command::PauseRecording, separator(),
-            Command::PlayLesson,   Command::CloseLesson,    separator(),
-            Command::RenameLesson, Command::CutLesson,      Command::RemoveLesson};
+    return {Command::Record,
+            Command::PauseRecording,
+            separator(),
+            Command::PlayLesson,
+            Command::CloseLesson,
+            Command::TakeOver,
+            separator(),
+            Command::GestureBack,
+            Command::GestureForward,
+            Command::ChapterBack,
+            Command::ChapterForward,
+            Command::SlowerLesson,
+            Command::FasterLesson,
+            separator(),
+            Command::BeginChapter,
+            Command::RenameChapter,
+            separator(),
+            Command::RenameLesson,
+            Command::CutLesson,
+            Command::RemoveLesson};
 }
 
 MenuPlan viewPlan()

@@ -176,8 +176,7 @@ void Actions::makePageActions()
     removePage = m_commands->perform(Command::RemovePage, this, [this] {
         pagehost::removePage(m_workspace->document(), m_workspace->document()->currentIndex());
     });
-    m_commands->perform(Command::DuplicatePage, this,
-                        [this] { duplicatePage(m_workspace->document(), m_workspace->registry()); });
+    m_commands->perform(Command::DuplicatePage, this, [this] { duplicatePage(); });
     m_commands->perform(Command::MovePageBack, this, [this] { movePage(-1); });
     m_commands->perform(Command::MovePageOn, this, [this] { movePage(1); });
     const auto index = [this] { return m_workspace->document()->currentIndex(); };
@@ -298,6 +297,13 @@ void Actions::rotateSelection(double degrees)
 {
     if (!isDragging())
         pagehost::rotateUnits(units(m_view->page()->selectedObjects()), degrees);
+}
+
+void Actions::duplicatePage()
+{
+    pagehost::Document *document = m_workspace->document();
+    addPageCopy(document, *document->currentPage(), m_workspace->registry(),
+                QStringLiteral("IDS_BOARD_DUPLICATE_PAGE"));
 }
 
 void Actions::zoomToSelection()

@@ -63,6 +63,7 @@ private:
     void restackSelection(pagehost::StackingMove move);
     void mirrorSelection(bool horizontally);
     void rotateSelection(double degrees);
+    void duplicatePage();
     void zoomToSelection();
     void showPage(int index);
     void movePage(int by);

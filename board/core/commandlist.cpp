@@ -11,6 +11,13 @@ namespace {
 using Group = CommandGroup;
 using Keys = QKeySequence;
 
+/// Acts while a lesson is shown in place of the page.
+constexpr CommandFacts ofLesson(Command command, const char *id, const char *textKey, const char *keys,
+                                std::optional<Icon> icon = {})
+{
+    return {command, Group::Lesson, id, textKey, keys, icon, Keys::UnknownKey, false, KeyScope::LessonPage};
+}
+
 /// In the order of the enumeration.
 constexpr CommandFacts commands[] = {
     {Command::NewBoard, Group::File, "new", "IDS_BOARD_NEW", "Ctrl+N", {}, Keys::New},
@@ -143,6 +150,16 @@ constexpr CommandFacts commands[] = {
      KeyScope::LessonBar},
     {Command::CutLesson, Group::Lesson, "cutLesson", "IDS_LESSON_CUT", ""},
     {Command::RemoveLesson, Group::Lesson, "removeLesson", "IDS_LESSON_REMOVE", "", Icon::Delete},
+    {Command::BeginChapter, Group::Lesson, "beginChapter", "IDS_LESSON_BEGIN_CHAPTER", "Ctrl+F9", Icon::Chapter},
+    {Command::RenameChapter, Group::Lesson, "renameChapter", "IDS_LESSON_RENAME_CHAPTER", ""},
+    ofLesson(Command::GestureBack, "gestureBack", "IDS_LESSON_GESTURE_BACK", "Left", Icon::GestureBack),
+    ofLesson(Command::GestureForward, "gestureForward", "IDS_LESSON_GESTURE_FORWARD", "Right",
+             Icon::GestureForward),
+    ofLesson(Command::ChapterBack, "chapterBack", "IDS_LESSON_CHAPTER_BACK", "Ctrl+Left"),
+    ofLesson(Command::ChapterForward, "chapterForward", "IDS_LESSON_CHAPTER_FORWARD", "Ctrl+Right"),
+    ofLesson(Command::SlowerLesson, "slowerLesson", "IDS_LESSON_SLOWER", "-"),
+    ofLesson(Command::FasterLesson, "fasterLesson", "IDS_LESSON_FASTER", "+"),
+    ofLesson(Command::TakeOver, "takeOver", "IDS_LESSON_TAKE_OVER", "Return Enter", Icon::TakeOver),
 
     {Command::ZoomIn, Group::View, "zoomIn", "IDS_BOARD_ZOOM_IN", "Ctrl++ Ctrl+=", Icon::ZoomIn, Keys::ZoomIn},
     {Command::ZoomOut, Group::View, "zoomOut", "IDS_BOARD_ZOOM_OUT", "Ctrl+-", Icon::ZoomOut, Keys::ZoomOut},

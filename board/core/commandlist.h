@@ -104,6 +104,15 @@ enum class Command {
     RenameLesson,
     CutLesson,
     RemoveLesson,
+    BeginChapter,
+    RenameChapter,
+    GestureBack,
+    GestureForward,
+    ChapterBack,
+    ChapterForward,
+    SlowerLesson,
+    FasterLesson,
+    TakeOver,
 
     ZoomIn,
     ZoomOut,
@@ -140,8 +149,9 @@ enum class CommandGroup { File, Edit, Arrange, Page, Tools, Lesson, View, Presen
 /// The keys that are given to a command act there.
 enum class KeyScope {
     Window,
-    Page,     ///< only while the page has the focus
-    LessonBar ///< only while a part of that bar has the focus
+    Page,       ///< only while the page has the focus
+    LessonBar,  ///< only while a part of that bar has the focus
+    LessonPage, ///< only while the page has the focus and shows a lesson, when nothing can be edited
 };
 
 /// Constant facts of a command.

@@ -52,6 +52,7 @@ Qt::ShortcutContext contextOf(KeyScope scope)
 {
     switch (scope) {
     case KeyScope::Page:
+    case KeyScope::LessonPage:
         return Qt::WidgetShortcut;
     case KeyScope::LessonBar:
         return Qt::WidgetWithChildrenShortcut;
@@ -60,10 +61,16 @@ Qt::ShortcutContext contextOf(KeyScope scope)
     }
 }
 
-/// Whether a key of both would act for both.
-bool overlap(KeyScope one, KeyScope other)
+/// Whether both can act at a time.
+bool meet(const CommandFacts &one, const CommandFacts &other)
 {
-    return one == other || one == KeyScope::Window || other == KeyScope::Window;
+    if (one.scope == other.scope)
+        return true;
+    if (one.scope == KeyScope::LessonPage && changesTheBoard(other.group))
+        return false;
+    if (other.scope == KeyScope::LessonPage && changesTheBoard(one.group))
+        return false;
+    return one.scope == KeyScope::Window || other.scope == KeyScope::Window;
 }
 
 /// Lists are searched by typing.
@@ -192,8 +199,7 @@ std::optional<Command> Commands::otherWithKey(Command command, const QKeySequenc
 {
     for (int i = 0; i < commandCount; ++i) {
         const auto other = static_cast<Command>(i);
-        const bool clashes = other != command && overlap(factsOf(other).scope, factsOf(command).scope);
-        if (clashes && keys(other).contains(key))
+        if (other != command && meet(factsOf(other), factsOf(command)) && keys(other).contains(key))
             return other;
     }
     return {};

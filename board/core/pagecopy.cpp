@@ -9,13 +9,13 @@
 
 namespace board {
 
-void duplicatePage(pagehost::Document *document, const pagehost::ObjectRegistry &registry)
+void addPageCopy(pagehost::Document *document, const pagehost::Page &page, const pagehost::ObjectRegistry &registry,
+                 const QString &stepKey)
 {
-    const pagehost::Page *page = document->currentPage();
-    const QByteArray bytes = pagehost::encodeObjects(page->objects());
-    GetFramework()->beginUndoGroup(QStringLiteral("IDS_BOARD_DUPLICATE_PAGE"));
-    pagehost::Page *copy = pagehost::addPage(document, document->currentIndex() + 1, page->size());
-    pagehost::setPageBackground(copy, page->background());
+    const QByteArray bytes = pagehost::encodeObjects(page.objects());
+    GetFramework()->beginUndoGroup(stepKey);
+    pagehost::Page *copy = pagehost::addPage(document, document->currentIndex() + 1, page.size());
+    pagehost::setPageBackground(copy, page.background());
     pagehost::ObjectGroups groups;
     const QVector<CBaseObject *> objects = pagehost::decodeObjects(bytes, registry, nullptr, copy, &groups);
     pagehost::addObjects(copy, objects, groups);

@@ -18,10 +18,9 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
-
-#include <array>
 
 namespace board {
 
@@ -32,7 +31,6 @@ constexpr int secondsInMinute = 60;
 constexpr int listLength = 18; ///< letters
 constexpr int longestName = 200;
 constexpr int playSide = 44;
-constexpr std::array<double, 5> speeds{0.5, 1, 1.5, 2, 4};
 
 QString timeText(qint64 milliseconds)
 {
@@ -64,10 +62,12 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     , m_list(new QComboBox)
     , m_name(new QLineEdit)
     , m_speed(new QComboBox)
-    , m_pauseRecording(buttonOf(menu->pauseRecording))
+    , m_recordingParts({buttonOf(menu->record), buttonOf(menu->pauseRecording), buttonOf(menu->beginChapter)})
+    , m_playingParts({buttonOf(menu->gestureBack), buttonOf(menu->gestureForward)})
+    , m_chapters(new QToolButton)
     , m_play(buttonOf(menu->play))
-    , m_remove(buttonOf(menu->remove))
-    , m_close(new QPushButton(menu->close->text()))
+    , m_takeOver(new QPushButton(menu->takeOver->icon(), menu->takeOver->iconText()))
+    , m_close(buttonOf(menu->close))
 {
     setObjectName(QStringLiteral("lessonBar"));
     setAccessibleRole(this, QAccessible::ToolBar);
@@ -83,8 +83,10 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     setAccessibleRole(m_message, QAccessible::AlertMessage);
     makeSpeeds();
     makeName();
-    layOut(*menu);
+    makeChapters(*menu);
+    layOut();
     connectParts(*menu);
+    connectNames(*menu);
     showLessons();
 }
 
@@ -92,41 +94,67 @@ void LessonBar::makeSpeeds()
 {
     m_speed->setAccessibleName(m_workspace->text("IDS_LESSON_SPEED"));
     m_speed->setToolTip(m_speed->accessibleName());
+    const QVector<double> speeds = LessonController::speeds();
     for (const double speed : speeds)
         m_speed->addItem(QStringLiteral("%1 ×").arg(QLocale(m_workspace->localizer().language()).toString(speed)),
                          speed);
-    m_speed->setCurrentIndex(m_speed->findData(m_lessons->speed()));
 }
 
 void LessonBar::makeName()
 {
-    m_name->setAccessibleName(m_workspace->text("IDS_LESSON_NEW_NAME"));
     m_name->setMaxLength(longestName);
     m_name->installEventFilter(this);
     m_name->hide();
 }
 
-void LessonBar::layOut(const LessonMenu &menu)
+void LessonBar::makeChapters(const LessonMenu &menu)
+{
+    m_chapters->setIcon(icon(Icon::Chapter));
+    m_chapters->setAccessibleName(m_workspace->text("IDS_LESSON_CHAPTERS"));
+    m_chapters->setToolTip(m_chapters->accessibleName());
+    m_chapters->setPopupMode(QToolButton::InstantPopup);
+    m_chapters->setAutoRaise(true);
+    m_chapters->setFocusPolicy(Qt::TabFocus);
+    sizeAsBarButton(m_chapters);
+    m_chapters->setMenu(new QMenu(m_chapters));
+    connect(m_chapters->menu(), &QMenu::aboutToShow, this, [this, &menu] { listChapters(menu); });
+}
+
+void LessonBar::listChapters(const LessonMenu &menu)
+{
+    QMenu *list = m_chapters->menu();
+    list->clear();
+    const QVector<Chapter> chapters = m_lessons->chapters();
+    for (const Chapter &chapter : chapters) {
+        QString name = chapter.name;
+        const QString text = m_workspace->text("IDS_LESSON_CHAPTER_ENTRY");
+        list->addAction(text.arg(name.replace(QLatin1Char('&'), QStringLiteral("&&")), timeText(chapter.start)),
+                        m_lessons, [this, start = chapter.start] { m_lessons->seek(start); });
+    }
+    list->addSeparator();
+    list->addActions({menu.beginChapter, menu.renameChapter});
+}
+
+void LessonBar::layOut()
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(mediumGap, smallGap, mediumGap, smallGap);
     row->setSpacing(smallGap);
-    row->addWidget(buttonOf(menu.record));
-    row->addWidget(m_pauseRecording);
+    for (QToolButton *part : qAsConst(m_recordingParts))
+        row->addWidget(part);
     // A long message may be cut off before it keeps the window from becoming smaller.
     m_message->setMinimumWidth(1);
     row->addWidget(m_message, 1);
+    row->addWidget(m_playingParts.first());
     row->addWidget(m_play);
+    row->addWidget(m_playingParts.last());
     row->addWidget(m_timeLine, 1);
-    row->addWidget(m_time);
-    row->addWidget(m_speed);
-    row->addWidget(m_list);
-    row->addWidget(m_name);
-    row->addWidget(m_remove);
-    row->addWidget(m_close);
+    for (QWidget *part : QVector<QWidget *>{m_time, m_chapters, m_speed, m_list, m_name, m_takeOver, m_close})
+        row->addWidget(part);
     followSizes(this, [this] { setMinimumHeight(sizes().lessonBar); });
     m_play->setProperty("isRound", true);
     followSizes(m_play, [this] { m_play->setFixedSize(playSide, playSide); });
+    sizeAsTextButton(m_takeOver);
 }
 
 void LessonBar::connectParts(const LessonMenu &menu)
@@ -136,7 +164,7 @@ void LessonBar::connectParts(const LessonMenu &menu)
     connect(m_lessons, &LessonController::stateChanged, this, &LessonBar::showState);
     connect(m_lessons, &LessonController::lessonsChanged, this, &LessonBar::showLessons);
     connect(m_lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
-    connect(m_close, &QPushButton::clicked, menu.close, &QAction::trigger);
+    connect(m_takeOver, &QPushButton::clicked, menu.takeOver, &QAction::trigger);
     connect(m_timeLine, &TimeLine::momentWanted, m_lessons, &LessonController::seek);
     connect(m_list, QOverload<int>::of(&QComboBox::activated), m_lessons, &LessonController::choose);
     connect(m_speed, QOverload<int>::of(&QComboBox::activated), this,
@@ -147,28 +175,62 @@ void LessonBar::connectParts(const LessonMenu &menu)
     };
     connect(menu.play, &QAction::changed, m_play, showPlay);
     showPlay();
-    addAction(menu.rename);
-    connect(menu.rename, &QAction::triggered, this, &LessonBar::beginRenaming);
-    connect(m_name, &QLineEdit::editingFinished, this, [this] { endRenaming(true); });
 }
 
-void LessonBar::beginRenaming()
+void LessonBar::connectNames(const LessonMenu &menu)
 {
+    addAction(menu.rename);
+    connect(menu.rename, &QAction::triggered, this,
+            [this] { beginNaming(Named::Lesson, m_lessons->names().value(m_lessons->chosen())); });
+    connect(menu.beginChapter, &QAction::triggered, this, &LessonBar::beginChapter);
+    connect(menu.renameChapter, &QAction::triggered, this, &LessonBar::renameChapter);
+    connect(m_name, &QLineEdit::editingFinished, this, [this] { endNaming(true); });
+    connect(m_lessons, &LessonController::chapterBegun, this, [this](const QString &name) {
+        announce(m_message, m_workspace->text("IDS_LESSON_CHAPTER_BEGUN").arg(name));
+        showTime();
+    });
+}
+
+/// At the moment that is shown, which waits for the name. While recording it has a number.
+void LessonBar::beginChapter()
+{
+    if (!m_lessons->isShowing())
+        return;
+    if (m_lessons->isPlaying())
+        m_lessons->playOrPause();
+    m_namedStart = m_lessons->position();
+    beginNaming(Named::Chapter, m_lessons->nextChapterName());
+}
+
+void LessonBar::renameChapter()
+{
+    const Chapter chapter = m_lessons->chapters().value(m_lessons->chapter());
+    m_namedStart = chapter.start;
+    beginNaming(Named::Chapter, chapter.name);
+}
+
+void LessonBar::beginNaming(Named what, const QString &name)
+{
+    m_named = what;
+    m_name->setAccessibleName(
+        m_workspace->text(what == Named::Lesson ? "IDS_LESSON_NEW_NAME" : "IDS_LESSON_CHAPTER_NAME"));
     m_name->setFixedWidth(m_list->width());
-    m_name->setText(m_lessons->names().value(m_lessons->chosen()));
+    m_name->setText(name);
     m_name->selectAll();
     m_list->hide();
     m_name->show();
     m_name->setFocus();
 }
 
-void LessonBar::endRenaming(bool takeName)
+void LessonBar::endNaming(bool takeName)
 {
     if (!m_name->isVisibleTo(this))
         return;
     m_name->hide();
-    if (takeName)
+    if (takeName && m_named == Named::Lesson)
         m_lessons->renameChosen(m_name->text());
+    else if (takeName)
+        m_lessons->setChapter(m_namedStart, m_name->text());
     showState();
 }
 
@@ -176,7 +238,7 @@ bool LessonBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return QWidget::eventFilter(watched, event);
-    endRenaming(false);
+    endNaming(false);
     return true;
 }
 
@@ -190,7 +252,8 @@ void LessonBar::showLessons()
             m_workspace->text("IDS_LESSON_ENTRY").arg(names[i], timeText(m_lessons->durations().value(i))));
     m_list->setCurrentIndex(m_lessons->chosen());
     m_timeLine->setDuration(m_lessons->duration());
-    m_timeLine->setMoments(m_lessons->moments());
+    m_timeLine->setGestures(m_lessons->gestures());
+    m_timeLine->setChapters(m_lessons->chapters());
     showState();
 }
 
@@ -198,14 +261,19 @@ void LessonBar::showState()
 {
     const bool recording = m_lessons->isRecording();
     const bool playable = m_lessons->chosen() >= 0 && !recording;
-    const QList<QWidget *> parts = {m_play, m_timeLine, m_time, m_speed, m_remove};
+    const QList<QWidget *> parts = {m_play, m_timeLine, m_time, m_chapters, m_speed};
     for (QWidget *part : parts)
         part->setVisible(playable);
+    for (QToolButton *part : qAsConst(m_playingParts))
+        part->setVisible(playable);
+    for (QToolButton *part : qAsConst(m_recordingParts))
+        part->setVisible(recording);
+    m_speed->setCurrentIndex(m_speed->findData(m_lessons->speed()));
     m_name->setVisible(playable && m_name->isVisibleTo(this));
     m_list->setVisible(playable && !m_name->isVisibleTo(this));
-    m_pauseRecording->setVisible(recording);
     m_message->setVisible(!playable);
     m_message->setForegroundRole(recording ? QPalette::WindowText : QPalette::PlaceholderText);
+    m_takeOver->setVisible(m_lessons->isShowing());
     m_close->setVisible(m_lessons->isShowing());
     // Not with every second.
     if (recording != m_toldRecording)
@@ -219,19 +287,21 @@ void LessonBar::showState()
     update();
 }
 
+QString LessonBar::recordingText(const QString &now) const
+{
+    if (!m_lessons->isRecording())
+        return {};
+    const bool isPaused = m_lessons->state() == LessonController::RecordingPaused;
+    const QString text =
+        m_workspace->text(isPaused ? "IDS_LESSON_RECORDING_PAUSED" : "IDS_LESSON_RECORDING").arg(now);
+    const QString chapter = m_lessons->begunChapter();
+    return chapter.isEmpty() ? text : m_workspace->text("IDS_LESSON_CHAPTER_ENTRY").arg(text, chapter);
+}
+
 void LessonBar::showTime()
 {
     const QString now = timeText(m_lessons->position());
-    switch (m_lessons->state()) {
-    case LessonController::Recording:
-        m_message->setText(m_workspace->text("IDS_LESSON_RECORDING").arg(now));
-        break;
-    case LessonController::RecordingPaused:
-        m_message->setText(m_workspace->text("IDS_LESSON_RECORDING_PAUSED").arg(now));
-        break;
-    default:
-        m_message->clear();
-    }
+    m_message->setText(recordingText(now));
     m_time->setText(m_workspace->text("IDS_LESSON_TIME").arg(now, timeText(m_lessons->duration())));
     m_timeLine->setPosition(m_lessons->isRecording() ? 0 : m_lessons->position());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QTimer>
+#include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
 class QComboBox;
@@ -29,8 +30,10 @@ public:
     TimeLine *timeLine() const { return m_timeLine; }
     QComboBox *list() const { return m_list; }
     QComboBox *speed() const { return m_speed; }
-    /// In place of the list while the chosen lesson gets another name; Return takes it, Escape does not.
+    /// In place of the list while the chosen lesson or a chapter gets a name; Return takes it, Escape does not.
     QLineEdit *name() const { return m_name; }
+    /// Lists the chapters; choosing one goes there.
+    QToolButton *chapters() const { return m_chapters; }
     /// "0:12 / 1:04".
     QLabel *time() const { return m_time; }
     QLabel *message() const { return m_message; }
@@ -41,15 +44,24 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Owner of the name in the field.
+    enum class Named { Lesson, Chapter };
+
     void showState();
     void showLessons();
     void showTime();
-    void layOut(const LessonMenu &menu);
+    QString recordingText(const QString &now) const;
+    void layOut();
     void makeSpeeds();
     void makeName();
+    void makeChapters(const LessonMenu &menu);
+    void listChapters(const LessonMenu &menu);
     void connectParts(const LessonMenu &menu);
-    void beginRenaming();
-    void endRenaming(bool takeName);
+    void connectNames(const LessonMenu &menu);
+    void beginChapter();
+    void renameChapter();
+    void beginNaming(Named what, const QString &name);
+    void endNaming(bool takeName);
 
     const Workspace *m_workspace;
     LessonController *m_lessons;
@@ -58,11 +70,15 @@ private:
     QLabel *m_message; ///< in place of the time line while there is nothing to play
     QComboBox *m_list;
     QLineEdit *m_name;
+    Named m_named = Named::Lesson;
+    qint64 m_namedStart = 0; ///< of the chapter that gets a name, milliseconds
     QComboBox *m_speed;
-    QToolButton *m_pauseRecording;
+    QVector<QToolButton *> m_recordingParts;
+    QVector<QToolButton *> m_playingParts;
+    QToolButton *m_chapters;
     QToolButton *m_play;
-    QToolButton *m_remove;
-    QPushButton *m_close;
+    QPushButton *m_takeOver;
+    QToolButton *m_close;
     QTimer m_clock; ///< while recording
     bool m_toldRecording = false;
 };

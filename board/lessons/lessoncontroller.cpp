@@ -1,6 +1,7 @@
 #include "lessons/lessoncontroller.h"
 
 #include "core/notices.h"
+#include "core/pagecopy.h"
 #include "core/workspace.h"
 
 #include <pagehost/commands.h>
@@ -14,8 +15,6 @@ namespace board {
 namespace {
 
 const QString noticeId = QStringLiteral("lessonNotice");
-/// Events within this time, in milliseconds, share one mark on the timeline.
-constexpr qint64 momentLength = 400;
 
 pagehost::Lesson lessonOf(const pagehost::LessonData &data)
 {
@@ -60,6 +59,7 @@ void LessonController::followDocument()
     connect(m_workspace->document(), &pagehost::Document::lessonsChanged, this, &LessonController::followLessons);
     readLessons();
     m_chosen = m_names.size() - 1;
+    outline();
     Q_EMIT lessonsChanged();
     Q_EMIT stateChanged();
 }
@@ -83,6 +83,7 @@ void LessonController::followLessons()
     readLessons();
     const auto difference = std::mismatch(before.begin(), before.end(), m_lessons.begin(), m_lessons.end());
     m_chosen = qMin(int(difference.second - m_lessons.begin()), m_lessons.size() - 1);
+    outline();
     Q_EMIT lessonsChanged();
 }
 
@@ -92,22 +93,15 @@ void LessonController::choose(int lesson)
         return;
     close();
     m_chosen = lesson;
+    outline();
     Q_EMIT lessonsChanged();
 }
 
-QVector<qint64> LessonController::moments() const
+void LessonController::outline()
 {
-    QVector<qint64> times;
-    if (m_chosen < 0)
-        return times;
-    qint64 last = -momentLength - 1;
-    const pagehost::Lesson lesson = m_showing ? m_player.lesson() : lessonOf(m_lessons.at(m_chosen));
-    for (const pagehost::LessonEvent &event : lesson.events) {
-        if (event.time - last > momentLength)
-            times.append(event.time);
-        last = event.time;
-    }
-    return times;
+    const pagehost::Lesson lesson = m_chosen >= 0 ? lessonOf(m_lessons.at(m_chosen)) : pagehost::Lesson();
+    m_gestures = gesturesOf(lesson);
+    m_chapters = chaptersOf(lesson);
 }
 
 qint64 LessonController::position() const
@@ -125,6 +119,7 @@ void LessonController::recordOrStop()
         pagehost::addLesson(m_workspace->document(), lesson);
     } else {
         close();
+        m_begunChapters = 0;
         m_recorder.start(m_workspace->document());
     }
     Q_EMIT stateChanged();
@@ -201,6 +196,66 @@ void LessonController::seek(qint64 time)
         m_player.seek(time);
 }
 
+void LessonController::stepBack()
+{
+    seek(gestureBefore(m_gestures, position()));
+}
+
+void LessonController::stepForward()
+{
+    seek(gestureAfter(m_gestures, position(), duration()));
+}
+
+void LessonController::chapterBack()
+{
+    seek(chapterBefore(m_chapters, position()));
+}
+
+void LessonController::chapterForward()
+{
+    seek(chapterAfter(m_chapters, position(), duration()));
+}
+
+QString LessonController::nextChapterName() const
+{
+    const int count = isRecording() ? m_begunChapters : m_chapters.size();
+    return m_workspace->text("IDS_LESSON_CHAPTER").arg(count + 1);
+}
+
+QString LessonController::begunChapter() const
+{
+    return m_begunChapters > 0 ? m_workspace->text("IDS_LESSON_CHAPTER").arg(m_begunChapters) : QString();
+}
+
+void LessonController::beginChapter()
+{
+    if (!isRecording())
+        return;
+    const QString name = nextChapterName();
+    m_recorder.beginChapter(name);
+    ++m_begunChapters;
+    Q_EMIT chapterBegun(name);
+}
+
+void LessonController::setChapter(qint64 time, const QString &name)
+{
+    if (isRecording())
+        return;
+    const qint64 shown = position();
+    const bool wasShowing = m_showing;
+    if (pagehost::setChapter(m_workspace->document(), m_chosen, time, name.trimmed()) && wasShowing)
+        seek(shown);
+}
+
+void LessonController::takeOver()
+{
+    if (!m_showing)
+        return;
+    const pagehost::Page *page = m_player.document()->currentPage();
+    close();
+    addPageCopy(m_workspace->document(), *page, m_workspace->registry(), QStringLiteral("IDS_LESSON_TAKE_OVER"));
+}
+
 void LessonController::close()
 {
     if (!m_showing)
@@ -216,6 +271,18 @@ void LessonController::setSpeed(double speed)
 {
     m_player.setSpeed(speed);
     Q_EMIT stateChanged();
+}
+
+void LessonController::playSlower()
+{
+    const QVector<double> all = speeds();
+    setSpeed(all.at(qMax(0, all.indexOf(speed()) - 1)));
+}
+
+void LessonController::playFaster()
+{
+    const QVector<double> all = speeds();
+    setSpeed(all.at(qMin(all.size() - 1, all.indexOf(speed()) + 1)));
 }
 
 void LessonController::renameChosen(const QString &name)

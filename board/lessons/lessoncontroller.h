@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lessons/lessonoutline.h"
+
 #include <pagehost/document.h>
 #include <pagehost/lessonplayer.h>
 #include <pagehost/lessonrecorder.h>
@@ -42,8 +44,11 @@ public:
     /// The lesson that is played; -1 when there is none.
     int chosen() const { return m_chosen; }
     void choose(int lesson);
-    /// Milliseconds; where something happens in the chosen lesson.
-    QVector<qint64> moments() const;
+    /// Of the chosen lesson.
+    QVector<Gesture> gestures() const { return m_gestures; }
+    QVector<Chapter> chapters() const { return m_chapters; }
+    /// Index of the chapter that is shown; -1 before the first.
+    int chapter() const { return chapterAt(m_chapters, position()); }
     /// Milliseconds: of the recording, else of the lesson.
     qint64 position() const;
     qint64 duration() const { return m_durations.value(m_chosen); }
@@ -54,6 +59,24 @@ public:
     void playOrPause();
     /// Shows the chosen lesson at this moment, in milliseconds.
     void seek(qint64 time);
+    /// @name From the moment that is shown to another one
+    /// @{
+    void stepBack();
+    void stepForward();
+    void chapterBack();
+    void chapterForward();
+    /// @}
+    /// While recording a chapter begins at this moment, with a number for a name.
+    void beginChapter();
+    /// Of the recording; empty before the first.
+    QString begunChapter() const;
+    /// The name of the next chapter until somebody has another one.
+    QString nextChapterName() const;
+    /// Has a chapter begin there in the chosen lesson, milliseconds, or gives the one that begins there another
+    /// name; without a name it goes. What is shown stays.
+    void setChapter(qint64 time, const QString &name);
+    /// Shows the document again, with a copy of the lesson's page after the current one.
+    void takeOver();
     /// Shows the document again.
     void close();
     void removeChosen();
@@ -65,6 +88,10 @@ public:
     /// Milliseconds of a lesson for one of real time.
     double speed() const { return m_player.speed(); }
     void setSpeed(double speed);
+    /// The speeds to choose from, in order.
+    static QVector<double> speeds() { return {0.5, 1, 1.5, 2, 4}; }
+    void playSlower();
+    void playFaster();
     /// Has what is being recorded saved with the document, as far as it goes.
     void keepSoFar();
 
@@ -72,12 +99,15 @@ Q_SIGNALS:
     void stateChanged();
     void lessonsChanged();
     void positionChanged();
+    /// While recording.
+    void chapterBegun(const QString &name);
     /// shownDocument() or its current page is another.
     void shownPageChanged();
 
 private:
     void followDocument();
     void readLessons();
+    void outline();
     void followLessons();
     pagehost::LessonData named(pagehost::Lesson lesson) const;
     bool show();
@@ -91,6 +121,9 @@ private:
     QStringList m_names;
     QVector<qint64> m_durations;
     int m_chosen = -1;
+    QVector<Gesture> m_gestures;
+    QVector<Chapter> m_chapters;
+    int m_begunChapters = 0; ///< of the recording
     bool m_showing = false;
 };
 

@@ -8,6 +8,7 @@
 
 #include <QtWidgets/QAction>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QShortcut>
 
 namespace board {
 
@@ -23,14 +24,53 @@ LessonMenu::LessonMenu(const Workspace *workspace, Commands *commands, LessonCon
     pauseRecording = perform(Command::PauseRecording, &LessonController::pauseOrResumeRecording);
     play = perform(Command::PlayLesson, &LessonController::playOrPause);
     close = perform(Command::CloseLesson, &LessonController::close);
+    close->setIcon(icon(Icon::Close));
     // The bar has the field for the name.
     rename = commands->perform(Command::RenameLesson);
     cut = perform(Command::CutLesson, &LessonController::cutChosen);
     remove = perform(Command::RemoveLesson, &LessonController::removeChosen);
+    makeWays(commands);
     connect(lessons, &LessonController::stateChanged, this, &LessonMenu::update);
     connect(lessons, &LessonController::lessonsChanged, this, &LessonMenu::update);
-    connect(lessons, &LessonController::positionChanged, this, [this] { cut->setEnabled(m_lessons->canCut()); });
+    connect(lessons, &LessonController::positionChanged, this, [this] {
+        cut->setEnabled(m_lessons->canCut());
+        renameChapter->setEnabled(m_lessons->isShowing() && m_lessons->chapter() >= 0);
+    });
     update();
+}
+
+void LessonMenu::makeWays(Commands *commands)
+{
+    const auto perform = [&](Command command, void (LessonController::*work)()) {
+        return commands->perform(command, m_lessons, [lessons = m_lessons, work] { (lessons->*work)(); });
+    };
+    gestureBack = perform(Command::GestureBack, &LessonController::stepBack);
+    gestureForward = perform(Command::GestureForward, &LessonController::stepForward);
+    chapterBack = perform(Command::ChapterBack, &LessonController::chapterBack);
+    chapterForward = perform(Command::ChapterForward, &LessonController::chapterForward);
+    slower = perform(Command::SlowerLesson, &LessonController::playSlower);
+    faster = perform(Command::FasterLesson, &LessonController::playFaster);
+    takeOver = perform(Command::TakeOver, &LessonController::takeOver);
+    takeOver->setIconText(m_workspace->text("IDS_LESSON_TAKE_OVER_SHORT"));
+    // The bar has the field for the name of a chapter of a lesson that is shown.
+    beginChapter = perform(Command::BeginChapter, &LessonController::beginChapter);
+    renameChapter = commands->perform(Command::RenameChapter);
+}
+
+QList<QAction *> LessonMenu::ways() const
+{
+    return {gestureBack, gestureForward, chapterBack, chapterForward, slower, faster, takeOver};
+}
+
+void LessonMenu::addKeysTo(QWidget *page) const
+{
+    page->addActions(ways());
+    // Beside the key that plays anywhere.
+    auto *space = new QShortcut(Qt::Key_Space, page, nullptr, nullptr, Qt::WidgetShortcut);
+    space->setEnabled(false);
+    connect(space, &QShortcut::activated, play, &QAction::trigger);
+    connect(m_lessons, &LessonController::stateChanged, space,
+            [this, space] { space->setEnabled(m_lessons->isShowing()); });
 }
 
 void LessonMenu::addHint(QMenu *menu)
@@ -67,8 +107,15 @@ void LessonMenu::update()
     rename->setEnabled(hasLesson && !recording);
     cut->setEnabled(m_lessons->canCut());
     remove->setEnabled(hasLesson && !recording);
-    for (QAction *action : {record, pauseRecording, play, close, rename, cut, remove})
+    beginChapter->setEnabled(recording || m_lessons->isShowing());
+    renameChapter->setEnabled(m_lessons->isShowing() && m_lessons->chapter() >= 0);
+    const QList<QAction *> shown = ways();
+    for (QAction *way : shown)
+        way->setEnabled(m_lessons->isShowing());
+    for (QAction *action : {record, pauseRecording, play, close, rename, cut, remove, beginChapter, renameChapter})
         describe(action);
+    for (QAction *way : shown)
+        describe(way);
 }
 
 } // namespace board

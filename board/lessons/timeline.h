@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QtCore/QVector>
+#include "lessons/lessonoutline.h"
+
 #include <QtWidgets/QSlider>
 
 namespace board {
 
-/// A lesson from its start to its end: where playing is, where something happens, and a click or a key goes
-/// elsewhere.
+/// A lesson from its start to its end, in chapters: where playing is, where something happens, and a click or a key
+/// goes elsewhere.
 class TimeLine : public QSlider
 {
     Q_OBJECT
@@ -18,8 +19,12 @@ public:
     void setDuration(qint64 duration);
     /// Does not count as the user's wish.
     void setPosition(qint64 time);
-    /// Where something happens, milliseconds.
-    void setMoments(const QVector<qint64> &moments);
+    /// Each has a mark where it begins.
+    void setGestures(const QVector<Gesture> &gestures);
+    /// Each is a piece of the line with its name above; without any the line is one piece.
+    void setChapters(const QVector<Chapter> &chapters);
+    /// The pieces from the left to the right, widget coordinates.
+    QVector<QRectF> pieces() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -37,9 +42,16 @@ protected:
 private:
     QRectF groove() const;
     double xOf(qint64 time) const;
+    QVector<qint64> bounds() const;
     void want(int x);
+    int namesHeight() const;
+    void paintPieces(QPainter &painter, const QColor &accent) const;
+    void paintMarks(QPainter &painter, const QColor &accent) const;
+    void paintNames(QPainter &painter) const;
+    void paintKnob(QPainter &painter, const QColor &accent) const;
 
-    QVector<qint64> m_moments;
+    QVector<Gesture> m_gestures;
+    QVector<Chapter> m_chapters;
 };
 
 } // namespace board

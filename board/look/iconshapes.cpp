@@ -1,5 +1,6 @@
 #include "look/iconshapes.h"
 
+#include "look/lessonshapes.h"
 #include "look/toolshapes.h"
 
 #include <QtGui/QTransform>
@@ -355,6 +356,12 @@ IconShape iconShape(Icon which)
         return playShape();
     case Icon::Pause:
         return pauseShape();
+    case Icon::GestureBack:
+    case Icon::GestureForward:
+    case Icon::Chapter:
+    case Icon::TakeOver:
+    case Icon::Close:
+        return lessonShape(which);
     case Icon::Animation:
         return animationShape();
     default:

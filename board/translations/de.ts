@@ -465,6 +465,66 @@
         <translation>Lektion umbenennen</translation>
     </message>
     <message>
+        <source>Begin a chapter here</source>
+        <translation>Kapitel hier beginnen</translation>
+    </message>
+    <message>
+        <source>Rename the chapter</source>
+        <translation>Kapitel umbenennen</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation>Kapitel %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Name of the chapter</source>
+        <translation>Name des Kapitels</translation>
+    </message>
+    <message>
+        <source>%1 has begun</source>
+        <translation>%1 hat begonnen</translation>
+    </message>
+    <message>
+        <source>One step back</source>
+        <translation>Einen Schritt zurück</translation>
+    </message>
+    <message>
+        <source>One step forward</source>
+        <translation>Einen Schritt vor</translation>
+    </message>
+    <message>
+        <source>Chapter before</source>
+        <translation>Voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Nächstes Kapitel</translation>
+    </message>
+    <message>
+        <source>Play slower</source>
+        <translation>Langsamer abspielen</translation>
+    </message>
+    <message>
+        <source>Play faster</source>
+        <translation>Schneller abspielen</translation>
+    </message>
+    <message>
+        <source>Take the page over</source>
+        <translation>Seite übernehmen</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
         <source>Name of the lesson</source>
         <translation>Name der Lektion</translation>
     </message>

@@ -459,6 +459,7 @@ void MainWindow::addDockMenu()
 
 void MainWindow::connectLessons()
 {
+    m_lessonMenu->addKeysTo(m_view);
     connect(m_lessons, &LessonController::shownPageChanged, this, [this] {
         m_lock.setLocked(m_lessons->isShowing());
         m_commands->setEditingBlocked(m_lessons->isShowing());

@@ -49,6 +49,18 @@ bool hasLesson(const Document &document, int index)
     return index >= 0 && index < document.lessons().size();
 }
 
+bool readLesson(const Document &document, int index, Lesson &lesson)
+{
+    return hasLesson(document, index) && lesson.fromData(document.lessons().at(index).data);
+}
+
+bool replaceLesson(Document *document, int index, const Lesson &lesson, const QString &textKey)
+{
+    QVector<LessonData> lessons = document->lessons();
+    lessons[index].data = lesson.toBytes();
+    return push(document, lessons, textKey);
+}
+
 } // namespace
 
 bool addLesson(Document *document, const LessonData &lesson)
@@ -81,18 +93,34 @@ bool renameLesson(Document *document, int index, const QString &name)
     return push(document, lessons, QStringLiteral("IDS_UNDO_RENAME_LESSON"));
 }
 
+bool setChapter(Document *document, int index, qint64 time, const QString &name)
+{
+    Lesson lesson;
+    if (!readLesson(*document, index, lesson) || time < 0 || time > lesson.duration)
+        return false;
+    QVector<LessonEvent> &events = lesson.events;
+    const auto isFormer = [time](const LessonEvent &event) {
+        return event.time == time && std::holds_alternative<ChapterBegan>(event.step);
+    };
+    const auto former = std::remove_if(events.begin(), events.end(), isFormer);
+    if (former == events.end() && name.isEmpty())
+        return false;
+    events.erase(former, events.end());
+    const auto isNotEarlier = [time](const LessonEvent &event) { return event.time >= time; };
+    if (!name.isEmpty())
+        events.insert(std::find_if(events.begin(), events.end(), isNotEarlier), {time, ChapterBegan{name}});
+    return replaceLesson(document, index, lesson, QStringLiteral("IDS_UNDO_CHAPTER"));
+}
+
 bool cutLesson(Document *document, int index, qint64 time)
 {
     Lesson lesson;
-    if (!hasLesson(*document, index) || !lesson.fromData(document->lessons().at(index).data) || time < 0 ||
-        time >= lesson.duration)
+    if (!readLesson(*document, index, lesson) || time < 0 || time >= lesson.duration)
         return false;
     const auto isLater = [time](const LessonEvent &event) { return event.time > time; };
     lesson.events.erase(std::find_if(lesson.events.begin(), lesson.events.end(), isLater), lesson.events.end());
     lesson.duration = time;
-    QVector<LessonData> lessons = document->lessons();
-    lessons[index].data = lesson.toBytes();
-    return push(document, lessons, QStringLiteral("IDS_UNDO_CUT_LESSON"));
+    return replaceLesson(document, index, lesson, QStringLiteral("IDS_UNDO_CUT_LESSON"));
 }
 
 } // namespace pagehost

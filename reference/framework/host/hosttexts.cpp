@@ -49,6 +49,7 @@ constexpr Entry entries[] = {
     {"IDS_UNDO_REMOVE_LESSON", "Delete lesson", "Lektion löschen"},
     {"IDS_UNDO_RENAME_LESSON", "Rename lesson", "Lektion umbenennen"},
     {"IDS_UNDO_CUT_LESSON", "Cut lesson", "Lektion kürzen"},
+    {"IDS_UNDO_CHAPTER", "Change chapters", "Kapitel ändern"},
     // Files
     {"IDS_PLACEHOLDER_OBJECT", "Unreadable object", "Nicht lesbares Objekt"},
     {"IDS_FILE_WHERE_PAGE", "page %1", "Seite %1"},

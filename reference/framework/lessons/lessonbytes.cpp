@@ -32,6 +32,11 @@ bool readCount(QDataStream &in, qint64 bytesEach, quint32 &count)
     return in.status() == QDataStream::Ok && qint64(count) * bytesEach <= in.device()->bytesAvailable();
 }
 
+QString presentText(const QString &text)
+{
+    return text.isNull() ? QString(QLatin1String("")) : text;
+}
+
 class Writer
 {
 public:
@@ -40,8 +45,9 @@ public:
     {
     }
     template<typename Value> void operator()(const char *, const Value &value) { m_out << value; }
-    /// Null and empty data are written alike.
+    /// Null and empty data are written alike, as are texts.
     void operator()(const char *, const QByteArray &bytes) { m_out << (bytes.isNull() ? QByteArray("") : bytes); }
+    void operator()(const char *, const QString &text) { m_out << presentText(text); }
     void operator()(const char *, const QVector<quint32> &values)
     {
         m_out << quint32(values.size());
@@ -169,8 +175,7 @@ QByteArray Lesson::toBytes() const
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     prepare(out);
-    out << magic << currentVersion << (title.isNull() ? QString(QLatin1String("")) : title) << duration
-        << quint32(start.size());
+    out << magic << currentVersion << presentText(title) << duration << quint32(start.size());
     for (const LessonStep &step : start)
         write(out, step);
     out << quint32(events.size());

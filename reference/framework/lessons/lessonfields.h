@@ -89,12 +89,17 @@ template<typename Archive> void visit(Archive &archive, PageGrouped &step)
     archive("groups", step.groups);
 }
 
+template<typename Archive> void visit(Archive &archive, ChapterBegan &step)
+{
+    archive("name", step.name);
+}
+
 /// The name of each kind in JSON, in the order of LessonStep.
 const std::array<QLatin1String, std::variant_size_v<LessonStep>> kindNames{
     {QLatin1String("acted"), QLatin1String("appeared"), QLatin1String("vanished"), QLatin1String("settled"),
      QLatin1String("restacked"), QLatin1String("pageAppeared"), QLatin1String("pageVanished"),
      QLatin1String("pageMoved"), QLatin1String("pageResized"), QLatin1String("backgroundChanged"),
-     QLatin1String("pageTurned"), QLatin1String("zoomed"), QLatin1String("grouped")}};
+     QLatin1String("pageTurned"), QLatin1String("zoomed"), QLatin1String("grouped"), QLatin1String("chapter")}};
 
 template<std::size_t... Indices>
 bool makeStep(std::size_t kind, LessonStep &step, std::index_sequence<Indices...> /*all*/)

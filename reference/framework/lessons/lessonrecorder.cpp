@@ -41,6 +41,12 @@ void LessonRecorder::resume()
     Q_EMIT pausedChanged(false);
 }
 
+void LessonRecorder::beginChapter(const QString &name)
+{
+    if (isRecording())
+        m_recording->beginChapter(name);
+}
+
 Lesson LessonRecorder::soFar()
 {
     return isRecording() ? m_recording->settled() : Lesson();

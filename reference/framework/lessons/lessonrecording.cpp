@@ -211,6 +211,13 @@ Lesson LessonRecording::settled()
     return m_lesson;
 }
 
+void LessonRecording::beginChapter(const QString &name)
+{
+    // Changes until now belong to the chapter before.
+    settle();
+    append(ChapterBegan{name});
+}
+
 void LessonRecording::append(const LessonStep &step)
 {
     noteZoom();

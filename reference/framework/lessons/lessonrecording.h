@@ -37,6 +37,7 @@ public:
     void settle();
     /// The same for all objects of the document; returns the lesson so far.
     Lesson settled();
+    void beginChapter(const QString &name);
 
 private:
     void actionRecorded(CPSRootObject *object, int actionId, const QByteArray &payload) override;

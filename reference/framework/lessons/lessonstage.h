@@ -46,6 +46,7 @@ private:
     CBaseObject *perform(const PageGrouped &step);
     CBaseObject *perform(const PageTurned &step);
     CBaseObject *perform(const ZoomChanged &step);
+    static CBaseObject *perform(const ChapterBegan &) { return nullptr; }
 
     /// Never null; a placeholder for an object that cannot be made.
     CBaseObject *makeObject(ObjectRecord record, Page *page) const;

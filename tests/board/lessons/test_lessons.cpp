@@ -174,9 +174,9 @@ void TestLessons::barShowsWhatCanBeDone()
     QVERIFY(!bar->message()->isVisible());
     QVERIFY(bar->timeLine()->isVisible());
     QVERIFY(driver.action(QStringLiteral("Play the lesson"))->isEnabled());
-    QVERIFY(!driver.button(QStringLiteral("Back to the board")));
+    QVERIFY(!driver.button(QStringLiteral("Take over")));
     lessons(driver).seek(0);
-    QVERIFY(driver.button(QStringLiteral("Back to the board")));
+    QVERIFY(driver.button(QStringLiteral("Take over")));
 }
 
 void TestLessons::pausedRecordingGoesOn()
@@ -518,7 +518,7 @@ void TestLessons::boardIsBackAfterTheLesson()
     BoardDriver driver;
     record(driver);
     lessons(driver).seek(0);
-    driver.button(QStringLiteral("Back to the board"))->click();
+    driver.action(QStringLiteral("Back to the board"))->trigger();
     QCOMPARE(driver.view().page(), driver.workspace().document()->currentPage());
     driver.drag({560, 260}, {600, 300});
     QCOMPARE(driver.placeOf(driver.only()).topLeft(), QPointF(540, 260));

@@ -66,7 +66,7 @@ private Q_SLOTS:
 void showAll(BoardDriver &board)
 {
     board.window().commands()->action(board::Command::PageStrip)->setChecked(true);
-    board.window().lessonBar()->show();
+    board.window().commands()->action(board::Command::Record)->trigger();
     board.key(Qt::Key_P);
 }
 

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void nameStandsInTheLessonToo();
     void dataThatCannotBeReadStayWhenTheyAreRenamed();
     void cutLessonEndsWhereItWasCutUntilUndone();
+    void chapterBeginsBeforeWhatHappensThenUntilUndone();
+    void chapterGetsAnotherName();
+    void chapterWithoutANameIsTakenAway();
     void whatChangesNothingLeavesNoStep();
     void stepsMarkTheDocumentUntilTheyAreUndone();
     void unfinishedLessonIsSavedAndNoLessonYet_data();
@@ -130,8 +133,57 @@ void TestLessonCommands::cutLessonEndsWhereItWasCutUntilUndone()
     QVERIFY(m_document->lessons() == before);
 }
 
+/// "1000: Roots", for each chapter, and the number of other events before it.
+static QStringList chaptersOf(const LessonData &data)
+{
+    Lesson lesson;
+    lesson.fromData(data.data);
+    QStringList chapters;
+    int others = 0;
+    for (const LessonEvent &event : qAsConst(lesson.events)) {
+        if (const auto *chapter = std::get_if<ChapterBegan>(&event.step))
+            chapters.append(QStringLiteral("%1: %2 after %3").arg(event.time).arg(chapter->name).arg(others));
+        else
+            ++others;
+    }
+    return chapters;
+}
+
+void TestLessonCommands::chapterBeginsBeforeWhatHappensThenUntilUndone()
+{
+    const QVector<LessonData> before = m_document->lessons();
+    QVERIFY(setChapter(m_document.get(), 1, 2000, QStringLiteral("Roots")));
+    QVERIFY(setChapter(m_document.get(), 1, 5000, QStringLiteral("End")));
+    QVERIFY(setChapter(m_document.get(), 1, 0, QStringLiteral("Start")));
+    QCOMPARE(chaptersOf(m_document->lessons().at(1)),
+             QStringList({"0: Start after 0", "2000: Roots after 2", "5000: End after 4"}));
+    QCOMPARE(stepTexts(), QStringList({"IDS_UNDO_CHAPTER", "IDS_UNDO_CHAPTER", "IDS_UNDO_CHAPTER"}));
+    undoStack()->setIndex(0);
+    QVERIFY(m_document->lessons() == before);
+}
+
+void TestLessonCommands::chapterGetsAnotherName()
+{
+    QVERIFY(setChapter(m_document.get(), 1, 2000, QStringLiteral("Roots")));
+    QVERIFY(setChapter(m_document.get(), 1, 2000, QStringLiteral("Powers")));
+    QCOMPARE(chaptersOf(m_document->lessons().at(1)), QStringList{"2000: Powers after 2"});
+}
+
+void TestLessonCommands::chapterWithoutANameIsTakenAway()
+{
+    const QVector<LessonData> before = m_document->lessons();
+    QVERIFY(setChapter(m_document.get(), 1, 2000, QStringLiteral("Roots")));
+    QVERIFY(setChapter(m_document.get(), 1, 2000, QString()));
+    QVERIFY(m_document->lessons() == before);
+}
+
 void TestLessonCommands::whatChangesNothingLeavesNoStep()
 {
+    QVERIFY(!setChapter(m_document.get(), 1, 1000, QString()));
+    QVERIFY(!setChapter(m_document.get(), 1, -1, QStringLiteral("x")));
+    QVERIFY(!setChapter(m_document.get(), 1, 5001, QStringLiteral("x")));
+    QVERIFY(!setChapter(m_document.get(), 0, 0, QStringLiteral("x"))); // no lesson that can be read
+    QVERIFY(!setChapter(m_document.get(), 3, 0, QStringLiteral("x")));
     QVERIFY(!removeLesson(m_document.get(), 3));
     QVERIFY(!removeLesson(m_document.get(), -1));
     QVERIFY(!renameLesson(m_document.get(), 0, QStringLiteral("a")));

@@ -64,7 +64,8 @@ QVector<LessonStep> everyStep()
             pagehost::PageBackgroundChanged{11, "blue"},
             pagehost::PageTurned{12},
             pagehost::ZoomChanged{1.0 / 3},
-            pagehost::PageGrouped{13, "groups"}};
+            pagehost::PageGrouped{13, "groups"},
+            pagehost::ChapterBegan{QStringLiteral("Größe")}};
 }
 
 Lesson everyLesson()
@@ -114,6 +115,10 @@ struct SameStep
     {
         const auto &b = std::get<pagehost::PageGrouped>(other);
         return a.page == b.page && a.groups == b.groups;
+    }
+    bool operator()(const pagehost::ChapterBegan &a) const
+    {
+        return a.name == std::get<pagehost::ChapterBegan>(other).name;
     }
     bool operator()(const pagehost::PageAppeared &a) const
     {
@@ -225,7 +230,7 @@ void TestLessonData::jsonIsReadable()
 {
     const QJsonObject object = everyLesson().toJson();
     QCOMPARE(object.value(QStringLiteral("version")), QJsonValue(1));
-    QCOMPARE(object.value(QStringLiteral("duration")), QJsonValue(3250));
+    QCOMPARE(object.value(QStringLiteral("duration")), QJsonValue(3500));
     const QJsonObject acted = object.value(QStringLiteral("events")).toArray().at(0).toObject();
     const QJsonObject expected{{QStringLiteral("time"), 0},
                                {QStringLiteral("kind"), QStringLiteral("acted")},
@@ -236,6 +241,10 @@ void TestLessonData::jsonIsReadable()
     const QJsonObject restacked = object.value(QStringLiteral("events")).toArray().at(4).toObject();
     QCOMPARE(restacked.value(QStringLiteral("objects")).toArray(), (QJsonArray{9, 8, 7}));
     QCOMPARE(restacked.value(QStringLiteral("time")), QJsonValue(1000));
+    const QJsonObject chapter = object.value(QStringLiteral("events")).toArray().at(13).toObject();
+    QCOMPARE(chapter, (QJsonObject{{QStringLiteral("time"), 3250},
+                                   {QStringLiteral("kind"), QStringLiteral("chapter")},
+                                   {QStringLiteral("name"), QStringLiteral("Größe")}}));
 }
 
 void TestLessonData::storedDataOfEitherFormIsRead()
@@ -421,7 +430,7 @@ void TestLessonData::countsBeyondTheBytesAreRefused()
             damaged.replace(place, 4, QByteArray(count, 4));
             Lesson lesson;
             lesson.fromBytes(damaged);
-            QVERIFY(lesson.events.size() <= 13);
+            QVERIFY(lesson.events.size() <= 14);
         }
     }
     // A page with four thousand million objects.

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void changeWithoutActionIsNoted();
     void deletedObjectComesBackUnderItsNumber();
     void timesAreThoseOfTheClock();
+    void chapterBeginsAtItsMomentAndChangesNothing();
+    void chapterOfNoRecordingIsNone();
     void pausedTimeDoesNotCount();
     void changesWhilePausedHappenAtResume();
     void cancelledDragLeavesTheObjectAsItWas();
@@ -313,6 +315,32 @@ void TestLessonRecorder::timesAreThoseOfTheClock()
     QCOMPARE(lesson.events[0].time, qint64(250));
     QCOMPARE(lesson.events[1].time, qint64(3000));
     QCOMPARE(lesson.duration, qint64(4500));
+}
+
+void TestLessonRecorder::chapterBeginsAtItsMomentAndChangesNothing()
+{
+    Classroom classroom;
+    CBaseObject *object = classroom.drawArrow();
+    classroom.recorder.start(&classroom.document);
+    classroom.now = 100;
+    pagehost::setPenColor({object}, Qt::red);
+    classroom.now = 700;
+    classroom.recorder.beginChapter(QStringLiteral("Roots"));
+    classroom.now = 900;
+    const Lesson lesson = classroom.recorder.stop();
+    QCOMPARE(lesson.events.size(), 2);
+    QCOMPARE(lesson.events.last().time, qint64(700));
+    QCOMPARE(std::get<pagehost::ChapterBegan>(lesson.events.last().step).name, QStringLiteral("Roots"));
+    QCOMPARE(classroom.played(lesson), savedState(classroom.document));
+}
+
+void TestLessonRecorder::chapterOfNoRecordingIsNone()
+{
+    Classroom classroom;
+    classroom.drawArrow();
+    classroom.recorder.beginChapter(QStringLiteral("Roots"));
+    classroom.recorder.start(&classroom.document);
+    QCOMPARE(classroom.recorder.stop().events.size(), 0);
 }
 
 void TestLessonRecorder::pausedTimeDoesNotCount()

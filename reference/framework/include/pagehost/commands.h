@@ -85,6 +85,9 @@ FRAMEWORK_EXPORT bool addLesson(Document *document, const LessonData &lesson);
 FRAMEWORK_EXPORT bool removeLesson(Document *document, int index);
 /// Renames a lesson.
 FRAMEWORK_EXPORT bool renameLesson(Document *document, int index, const QString &name);
+/// Has a chapter of that name begin at `time` of a lesson, milliseconds, in place of one that begins there; an
+/// empty name only takes that one away. False for a time beyond the lesson and for lessons that can't be read.
+FRAMEWORK_EXPORT bool setChapter(Document *document, int index, qint64 time, const QString &name);
 /// Removes the events of a lesson after `time`, milliseconds.
 FRAMEWORK_EXPORT bool cutLesson(Document *document, int index, qint64 time);
 

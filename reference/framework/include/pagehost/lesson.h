@@ -111,12 +111,18 @@ struct PageGrouped
     qint32 page = 0;   ///< its index
     QByteArray groups; ///< for each group its length and the payload of its chunk, see docs/board-format.md
 };
+
+/// A chapter begins; nothing changes on the pages.
+struct ChapterBegan
+{
+    QString name; ///< for people
+};
 /// @}
 
 /// Stored by the index of the alternative: the order is fixed, new ones are appended.
-using LessonStep =
-    std::variant<ObjectActed, ObjectAppeared, ObjectVanished, ObjectSettled, PageRestacked, PageAppeared,
-                 PageVanished, PageMoved, PageResized, PageBackgroundChanged, PageTurned, ZoomChanged, PageGrouped>;
+using LessonStep = std::variant<ObjectActed, ObjectAppeared, ObjectVanished, ObjectSettled, PageRestacked,
+                                PageAppeared, PageVanished, PageMoved, PageResized, PageBackgroundChanged,
+                                PageTurned, ZoomChanged, PageGrouped, ChapterBegan>;
 
 /// A step and its time.
 struct LessonEvent

@@ -40,6 +40,8 @@ public:
     void pause();
     /// Ends pause().
     void resume();
+    /// Begins a chapter of that name at this moment; without effect while nothing is being recorded.
+    void beginChapter(const QString &name);
     /// The lesson as stop() would return it now; one without start and events when nothing is being recorded.
     Lesson soFar();
     /// Ends the recording and returns the lesson; one without start and events when nothing was being recorded.
