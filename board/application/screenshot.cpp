@@ -5,7 +5,9 @@
 #include "core/toolchoice.h"
 #include "core/workspace.h"
 #include "documents/documentcontroller.h"
+#include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
+#include "lessons/timeline.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/outlinepanel.h"
@@ -208,6 +210,16 @@ void recordLesson(MainWindow &window, pagehost::Page *page)
     waitFor(lessonStep);
 }
 
+/// At an earlier moment than the one that is shown.
+void pointAtTimeLine(MainWindow &window)
+{
+    TimeLine *line = window.lessonBar()->timeLine();
+    const QPoint place(line->width() / 4, line->height() / 2);
+    QMouseEvent event(QEvent::MouseMove, place, line->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(line, &event);
+}
+
 /// Leaves the mouse down, over a line that is being written.
 void startWriting(MainWindow &window)
 {
@@ -320,7 +332,8 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
         recordLesson(window, page);
         window.lessons()->recordOrStop();
         window.lessons()->playOrPause();
-        waitFor(2 * lessonStep + lessonStep / 4);
+        pointAtTimeLine(window);
+        waitFor(3 * lessonStep + lessonStep / 4);
     }
     if (state == QLatin1String("drag") && !workspace.registry().kinds().isEmpty())
         startDrawing(window, workspace.registry().kinds().first().id);

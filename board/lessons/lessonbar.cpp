@@ -3,6 +3,8 @@
 #include "core/workspace.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
+#include "lessons/momentcard.h"
+#include "lessons/momentpainter.h"
 #include "lessons/timeline.h"
 #include "look/accessiblerole.h"
 #include "look/icons.h"
@@ -68,6 +70,7 @@ LessonBar::LessonBar(const Workspace *workspace, LessonController *lessons, cons
     , m_play(buttonOf(menu->play))
     , m_takeOver(new QPushButton(menu->takeOver->icon(), menu->takeOver->iconText()))
     , m_close(buttonOf(menu->close))
+    , m_moments(new MomentPainter(&workspace->registry(), this))
 {
     setObjectName(QStringLiteral("lessonBar"));
     setAccessibleRole(this, QAccessible::ToolBar);
@@ -166,6 +169,8 @@ void LessonBar::connectParts(const LessonMenu &menu)
     connect(m_lessons, &LessonController::positionChanged, this, &LessonBar::showTime);
     connect(m_takeOver, &QPushButton::clicked, menu.takeOver, &QAction::trigger);
     connect(m_timeLine, &TimeLine::momentWanted, m_lessons, &LessonController::seek);
+    connect(m_timeLine, &TimeLine::pointedAt, this, &LessonBar::showMoment);
+    connect(m_timeLine, &TimeLine::left, this, &LessonBar::hideMoment);
     connect(m_list, QOverload<int>::of(&QComboBox::activated), m_lessons, &LessonController::choose);
     connect(m_speed, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { m_lessons->setSpeed(m_speed->itemData(index).toDouble()); });
@@ -207,6 +212,36 @@ void LessonBar::renameChapter()
     const Chapter chapter = m_lessons->chapters().value(m_lessons->chapter());
     m_namedStart = chapter.start;
     beginNaming(Named::Chapter, chapter.name);
+}
+
+/// The picture follows as soon as the lesson has been played up to there.
+void LessonBar::showMoment(qint64 time, int x)
+{
+    if (!m_card) {
+        m_card = new MomentCard(window());
+        connect(m_moments, &MomentPainter::ready, m_card, &MomentCard::setPicture);
+    }
+    if (!m_paintsChosen)
+        m_moments->setLesson(m_lessons->chosenLesson(), m_workspace->document()->assets());
+    m_paintsChosen = true;
+    m_moments->request(time, m_card->pictureSize());
+    m_card->showAt({m_timeLine->mapTo(window(), QPoint(x, 0)).x(), mapTo(window(), QPoint()).y()}, captionOf(time));
+}
+
+void LessonBar::hideMoment()
+{
+    m_moments->cancel();
+    if (m_card)
+        m_card->hide();
+}
+
+/// "Roots · 1:48".
+QString LessonBar::captionOf(qint64 time) const
+{
+    const QVector<Chapter> chapters = m_lessons->chapters();
+    const QString name = chapters.value(chapterAt(chapters, time)).name;
+    return name.isEmpty() ? timeText(time)
+                          : m_workspace->text("IDS_LESSON_CHAPTER_ENTRY").arg(name, timeText(time));
 }
 
 void LessonBar::beginNaming(Named what, const QString &name)
@@ -254,6 +289,8 @@ void LessonBar::showLessons()
     m_timeLine->setDuration(m_lessons->duration());
     m_timeLine->setGestures(m_lessons->gestures());
     m_timeLine->setChapters(m_lessons->chapters());
+    m_paintsChosen = false;
+    hideMoment();
     showState();
 }
 

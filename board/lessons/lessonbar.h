@@ -14,6 +14,8 @@ namespace board {
 
 class LessonController;
 class LessonMenu;
+class MomentCard;
+class MomentPainter;
 class TimeLine;
 class Workspace;
 
@@ -32,6 +34,8 @@ public:
     QComboBox *speed() const { return m_speed; }
     /// In place of the list while the chosen lesson or a chapter gets a name; Return takes it, Escape does not.
     QLineEdit *name() const { return m_name; }
+    /// Shows the moment of the time line that the mouse points at; null before the first.
+    MomentCard *card() const { return m_card; }
     /// Lists the chapters; choosing one goes there.
     QToolButton *chapters() const { return m_chapters; }
     /// "0:12 / 1:04".
@@ -58,6 +62,9 @@ private:
     void listChapters(const LessonMenu &menu);
     void connectParts(const LessonMenu &menu);
     void connectNames(const LessonMenu &menu);
+    void showMoment(qint64 time, int x);
+    void hideMoment();
+    QString captionOf(qint64 time) const;
     void beginChapter();
     void renameChapter();
     void beginNaming(Named what, const QString &name);
@@ -79,7 +86,10 @@ private:
     QToolButton *m_play;
     QPushButton *m_takeOver;
     QToolButton *m_close;
-    QTimer m_clock; ///< while recording
+    MomentPainter *m_moments;
+    MomentCard *m_card = nullptr;
+    bool m_paintsChosen = false; ///< whether m_moments has the chosen lesson
+    QTimer m_clock;              ///< while recording
     bool m_toldRecording = false;
 };
 

@@ -97,9 +97,14 @@ void LessonController::choose(int lesson)
     Q_EMIT lessonsChanged();
 }
 
+pagehost::Lesson LessonController::chosenLesson() const
+{
+    return m_chosen >= 0 ? lessonOf(m_lessons.at(m_chosen)) : pagehost::Lesson();
+}
+
 void LessonController::outline()
 {
-    const pagehost::Lesson lesson = m_chosen >= 0 ? lessonOf(m_lessons.at(m_chosen)) : pagehost::Lesson();
+    const pagehost::Lesson lesson = chosenLesson();
     m_gestures = gesturesOf(lesson);
     m_chapters = chaptersOf(lesson);
 }

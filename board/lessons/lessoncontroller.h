@@ -44,6 +44,8 @@ public:
     /// The lesson that is played; -1 when there is none.
     int chosen() const { return m_chosen; }
     void choose(int lesson);
+    /// As far as it can be read; empty when there is none.
+    pagehost::Lesson chosenLesson() const;
     /// Of the chosen lesson.
     QVector<Gesture> gestures() const { return m_gestures; }
     QVector<Chapter> chapters() const { return m_chapters; }

@@ -40,6 +40,7 @@ TimeLine::TimeLine(QWidget *parent)
     setSingleStep(keyStep);
     setPageStep(largeKeyStep);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     // Time runs to the right in every language.
     setLayoutDirection(Qt::LeftToRight);
     // Keys and the wheel change the value; what a program sets goes through setPosition().
@@ -95,12 +96,12 @@ QRectF TimeLine::groove() const
     return {side, (height() + namesHeight() - grooveHeight) / 2, width() - 2 * side, grooveHeight};
 }
 
-/// Where chapters begin, and the end.
+/// Where chapters begin, as far as the one before has room for a piece, and the end.
 QVector<qint64> TimeLine::bounds() const
 {
     QVector<qint64> times{0};
     for (const Chapter &chapter : m_chapters)
-        if (chapter.start > times.last())
+        if (xOf(chapter.start) - xOf(times.last()) > 2 * chapterGap)
             times.append(chapter.start);
     times.append(maximum());
     return times;
@@ -124,10 +125,15 @@ double TimeLine::xOf(qint64 time) const
     return maximum() > 0 ? groove().left() + groove().width() * double(time) / maximum() : groove().left();
 }
 
-void TimeLine::want(int x)
+int TimeLine::timeAt(int x) const
 {
     const double share = (x - groove().left()) / groove().width();
-    setValue(qRound(qBound(0.0, share, 1.0) * maximum()));
+    return qRound(qBound(0.0, share, 1.0) * maximum());
+}
+
+void TimeLine::want(int x)
+{
+    setValue(timeAt(x));
 }
 
 void TimeLine::mousePressEvent(QMouseEvent *event)
@@ -146,6 +152,12 @@ void TimeLine::mouseMoveEvent(QMouseEvent *event)
 {
     if (isSliderDown())
         want(event->x());
+    Q_EMIT pointedAt(timeAt(event->x()), event->x());
+}
+
+void TimeLine::leaveEvent(QEvent *)
+{
+    Q_EMIT left();
 }
 
 void TimeLine::mouseReleaseEvent(QMouseEvent *)

@@ -32,16 +32,22 @@ public:
 Q_SIGNALS:
     /// The user wants to see this moment, milliseconds.
     void momentWanted(qint64 time);
+    /// The mouse rests over or moves along this moment, milliseconds, at `x` (widget coordinates).
+    void pointedAt(qint64 time, int x);
+    /// The mouse has left the line.
+    void left();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
     QRectF groove() const;
     double xOf(qint64 time) const;
+    int timeAt(int x) const;
     QVector<qint64> bounds() const;
     void want(int x);
     int namesHeight() const;

@@ -6,6 +6,7 @@
 
 #include <lessons/lessonbar.h>
 #include <lessons/lessoncontroller.h>
+#include <lessons/momentcard.h>
 #include <lessons/timeline.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
@@ -110,6 +111,9 @@ private Q_SLOTS:
     void emptyNameTakesTheChapterAway();
     void chaptersAreListed();
     void lineIsInPiecesOfChapters();
+    void mouseOverTheLineShowsTheMoment();
+    void pictureOfAnEarlierMomentIsShown();
+    void cardGoesWithTheMouse();
     void returnTakesThePageOver();
     void buttonTakesThePageOver();
     void nothingIsTakenOverWithoutALesson();
@@ -335,6 +339,64 @@ void TestLessonSteps::lineIsInPiecesOfChapters()
     QCOMPARE(pieces[1].left(), pieces[0].right() + 4);
     QCOMPARE(pieces[1].width(), all / 2 - 4);
     QCOMPARE(pieces[2].width(), all / 6 - 4);
+}
+
+/// Points at that part of the time line.
+static void pointAt(const Classroom &room, double share)
+{
+    board::TimeLine *line = room.bar()->timeLine();
+    const QRectF whole = line->pieces().first().united(line->pieces().last());
+    const QPoint place(qRound(whole.left() + share * whole.width()), line->height() / 2);
+    QMouseEvent event(QEvent::MouseMove, place, line->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(line, &event);
+}
+
+/// How many pixels of the card's picture are darker than paper.
+static int inkOf(const Classroom &room)
+{
+    const QImage picture = room.bar()->card()->picture()->pixmap(Qt::ReturnByValue).toImage();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            count += qGray(picture.pixel(x, y)) < 245;
+    return count;
+}
+
+void TestLessonSteps::mouseOverTheLineShowsTheMoment()
+{
+    Classroom room;
+    room.giveChapters();
+    QVERIFY(!room.bar()->card());
+    pointAt(room, 0.5);
+    const board::MomentCard *card = room.bar()->card();
+    QVERIFY(card->isVisible());
+    QCOMPARE(card->caption()->text(), QStringLiteral("Roots · 0:03"));
+    QVERIFY(support::passUntil([card] { return card->picture()->pixmap(Qt::ReturnByValue).width() == 160; }));
+    QVERIFY(inkOf(room) > 0);
+    // The lesson is not shown for that.
+    QCOMPARE(room.lessons().state(), LessonController::Idle);
+    QCOMPARE(card->geometry().bottom() + 1, room.bar()->mapTo(&room.driver.window(), QPoint()).y() - 8);
+}
+
+void TestLessonSteps::pictureOfAnEarlierMomentIsShown()
+{
+    Classroom room;
+    pointAt(room, 1);
+    QVERIFY(support::passUntil([&room] { return inkOf(room) > 0; }));
+    pointAt(room, 0);
+    QCOMPARE(room.bar()->card()->caption()->text(), QStringLiteral("0:00"));
+    QVERIFY(support::passUntil([&room] { return inkOf(room) == 0; }));
+}
+
+void TestLessonSteps::cardGoesWithTheMouse()
+{
+    Classroom room;
+    pointAt(room, 0.5);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(room.bar()->timeLine(), &leave);
+    QVERIFY(!room.bar()->card()->isVisible());
+    QVERIFY(room.bar()->card()->picture()->pixmap(Qt::ReturnByValue).isNull());
 }
 
 void TestLessonSteps::returnTakesThePageOver()
