@@ -18,6 +18,7 @@ namespace {
 constexpr int distanceFromEdges = 24;
 constexpr int thickness = 56;
 constexpr int largeThickness = 80;
+constexpr int endGap = 6;
 
 bool isPointer(QEvent::Type type)
 {
@@ -35,7 +36,7 @@ FadingDock::FadingDock(QWidget *under)
     setObjectName(QStringLiteral("presentingDock"));
     setLayoutDirection(QGuiApplication::layoutDirection());
     setFixedHeight(areSizesLarge() ? largeThickness : thickness);
-    m_row->setContentsMargins(mediumGap, mediumGap, mediumGap, mediumGap);
+    m_row->setContentsMargins(endGap, 0, endGap, 0);
     m_row->setSpacing(smallGap);
     setGraphicsEffect(m_opacity);
     m_opacity->setOpacity(1);

@@ -46,7 +46,11 @@ PagePictures::PagePictures(const Workspace *workspace, Stage *stage, QWidget *mi
     column->addWidget(m_nextName);
     column->addWidget(m_next);
     column->addWidget(middle);
-    column->addWidget(new QLabel(workspace->text("IDS_BOARD_PAGES"), this));
+    auto *heading = new QLabel(workspace->text("IDS_BOARD_PAGES"), this);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    column->addWidget(heading);
     column->addWidget(m_list, 1);
     connect(stage->view(), &PageView::pageShown, this, &PagePictures::showPage);
     connect(&m_painter, &pagehost::ThumbnailPainter::ready, this, &PagePictures::showPicture);

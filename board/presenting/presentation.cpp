@@ -3,7 +3,7 @@
 #include "core/commands.h"
 #include "core/toolchoice.h"
 #include "core/workspace.h"
-#include "look/theme.h"
+#include "look/sizes.h"
 #include "look/voice.h"
 #include "page/pageview.h"
 #include "presenting/audiencewindow.h"
@@ -25,7 +25,8 @@ namespace board {
 
 namespace {
 
-constexpr int buttonSide = 40;
+constexpr PresentingBar::ButtonSizes usualButtons{44, 24};
+constexpr PresentingBar::ButtonSizes largeButtons{64, 32};
 
 ScreenPlan presentScreens(const QWidget *window)
 {
@@ -106,7 +107,8 @@ void Presentation::showOnOneScreen(const QRect &screen)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_stage);
     auto *dock = new FadingDock(m_stage->view()->viewport());
-    new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(), buttonSide);
+    new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(),
+                      areSizesLarge() ? largeButtons : usualButtons);
     showOver(m_single, screen);
 }
 

@@ -1,12 +1,14 @@
 #include "presenting/presenterwindow.h"
 
 #include "core/workspace.h"
+#include "look/surface.h"
 #include "look/theme.h"
 #include "presenting/pagepictures.h"
 #include "presenting/presentingbar.h"
 #include "presenting/stage.h"
 
 #include <QtCore/QTime>
+#include <QtGui/QPainter>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -18,10 +20,28 @@ namespace {
 
 constexpr int barHeight = 72;
 /// Of the bar's buttons, the largest that fit.
-constexpr int buttonSides[] = {56, 48, 40, 36};
+constexpr PresentingBar::ButtonSizes buttonSizes[] = {{56, 26}, {48, 24}, {40, 22}, {36, 22}};
 constexpr int timePixels = 40;
 constexpr int secondsPerHour = 3600;
 constexpr int milliseconds = 1000;
+
+/// Looks like what floats over the page elsewhere.
+class BarArea : public QWidget
+{
+public:
+    explicit BarArea(QWidget *parent)
+        : QWidget(parent)
+    {
+        setFixedHeight(barHeight);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paintSurface(&painter, rect());
+    }
+};
 
 QLabel *makeTime(QWidget *parent)
 {
@@ -30,6 +50,13 @@ QLabel *makeTime(QWidget *parent)
     font.setPixelSize(timePixels);
     label->setFont(font);
     return label;
+}
+
+void makeBold(QLabel *label)
+{
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
 }
 
 QLabel *makeCaption(const QString &text, QWidget *parent)
@@ -57,12 +84,11 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     , m_timeOfDay(makeTime(this))
 {
     setAutoFillBackground(true);
-    m_barArea = new QWidget(this);
-    m_barArea->setFixedHeight(barHeight);
+    m_barArea = new BarArea(this);
     auto *row = new QHBoxLayout(m_barArea);
     row->setSpacing(smallGap);
-    row->setContentsMargins(0, 0, 0, 0);
-    m_bar = new PresentingBar(workspace, commands, stage, row, buttonSides[0]);
+    row->setContentsMargins(smallGap, 0, smallGap, 0);
+    m_bar = new PresentingBar(workspace, commands, stage, row, buttonSizes[0]);
     row->addStretch();
     m_pictures = new PagePictures(workspace, stage, makeTimes(workspace), this);
     auto *grid = new QGridLayout(this);
@@ -88,8 +114,8 @@ void PresenterWindow::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const QMargins margins = layout()->contentsMargins();
     const int room = width() - margins.left() - margins.right() - m_pictures->width() - mediumGap;
-    for (const int side : buttonSides) {
-        m_bar->setButtonSide(side);
+    for (const PresentingBar::ButtonSizes &sizes : buttonSizes) {
+        m_bar->setButtonSizes(sizes);
         m_barArea->layout()->invalidate();
         if (m_barArea->layout()->minimumSize().width() <= room)
             return;
@@ -101,7 +127,9 @@ QWidget *PresenterWindow::makeTop(const Workspace *workspace, Stage *stage)
     auto *top = new QWidget(this);
     auto *row = new QHBoxLayout(top);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new QLabel(workspace->text("IDS_BOARD_ON_OTHER_SCREEN"), top));
+    auto *title = new QLabel(workspace->text("IDS_BOARD_ON_OTHER_SCREEN"), top);
+    makeBold(title);
+    row->addWidget(title);
     row->addStretch();
     auto *end = new QPushButton(workspace->text("IDS_BOARD_END_WITH_KEY"), top);
     end->setFocusPolicy(Qt::TabFocus);

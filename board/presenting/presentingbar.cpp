@@ -1,8 +1,9 @@
 #include "presenting/presentingbar.h"
 
+#include "core/commandlist.h"
 #include "core/commands.h"
 #include "core/workspace.h"
-#include "look/icons.h"
+#include "look/dockbutton.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "presenting/curtain.h"
@@ -13,39 +14,34 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QToolButton>
 
 namespace board {
 
 namespace {
 
 /// Of the side of a button.
-constexpr double iconPart = 0.55;
-
-void addLine(QHBoxLayout *row)
-{
-    auto *line = new QWidget(row->parentWidget());
-    line->setFixedWidth(1);
-    QPalette colors = line->palette();
-    colors.setColor(QPalette::Window, themeColors().border);
-    line->setPalette(colors);
-    line->setAutoFillBackground(true);
-    row->addSpacing(smallGap);
-    row->addWidget(line);
-    row->addSpacing(smallGap);
-}
+constexpr double linePart = 0.64;
+/// Of the side of a button, the width of the page number at least.
+constexpr double numberPart = 1.5;
+constexpr int numberPixels = 15;
 
 } // namespace
 
 PresentingBar::PresentingBar(const Workspace *workspace, const Commands &commands, Stage *stage, QHBoxLayout *row,
-                             int buttonSide)
+                             const ButtonSizes &sizes)
     : QObject(row->parentWidget())
     , m_stage(stage)
     , m_pageNumber(new QLabel(row->parentWidget()))
 {
-    const auto add = [&](Command command) { addButton(row, commands.action(command)); };
+    const auto add = [&](Command command) {
+        addButton(row, commands.action(command), factsOf(command).icon.value_or(Icon::More));
+    };
     add(Command::PreviousPage);
     m_pageNumber->setAlignment(Qt::AlignCenter);
+    QFont font = m_pageNumber->font();
+    font.setPixelSize(numberPixels);
+    font.setBold(true);
+    m_pageNumber->setFont(font);
     row->addWidget(m_pageNumber);
     add(Command::NextPage);
     addLine(row);
@@ -53,44 +49,56 @@ PresentingBar::PresentingBar(const Workspace *workspace, const Commands &command
          {Command::SelectTool, Command::PenTool, Command::HighlighterTool, Command::EraserTool, Command::LaserTool})
         add(command);
     addLine(row);
-    auto *curtain = new QAction(icon(Icon::Curtain), workspace->text("IDS_BOARD_CURTAIN"), this);
+    auto *curtain = new QAction(workspace->text("IDS_BOARD_CURTAIN"), this);
     curtain->setToolTip(QStringLiteral("%1 (B)").arg(curtain->text()));
     curtain->setCheckable(true);
     connect(curtain, &QAction::triggered, stage->curtain(), &Curtain::setDrawn);
     connect(stage->curtain(), &Curtain::changed, curtain,
             [=] { curtain->setChecked(stage->curtain()->isDrawn()); });
-    addButton(row, curtain);
-    auto *end = new QAction(icon(Icon::EndPresenting), workspace->text("IDS_BOARD_END_PRESENTING"), this);
+    addButton(row, curtain, Icon::Curtain);
+    auto *end = new QAction(workspace->text("IDS_BOARD_END_PRESENTING"), this);
     end->setToolTip(QStringLiteral("%1 (Esc)").arg(end->text()));
     connect(end, &QAction::triggered, stage, &Stage::endRequested);
-    addButton(row, end);
-    setButtonSide(buttonSide);
+    addLine(row);
+    addButton(row, end, Icon::EndPresenting);
+    setButtonSizes(sizes);
     connect(stage->view(), &PageView::pageShown, this, &PresentingBar::showPage);
     showPage();
 }
 
-void PresentingBar::addButton(QHBoxLayout *row, QAction *action)
+void PresentingBar::addButton(QHBoxLayout *row, QAction *action, Icon picture)
 {
-    auto *button = new QToolButton(row->parentWidget());
+    auto *button = new DockButton(row->parentWidget());
     button->setDefaultAction(action);
-    button->setAutoRaise(true);
+    button->setPicture(picture);
     button->setAccessibleName(action->text());
-    // The page keeps the keys.
-    button->setFocusPolicy(Qt::TabFocus);
     // A tool that nobody offers has no button.
     button->setVisible(action->isVisible());
     row->addWidget(button);
     m_buttons.append(button);
 }
 
-void PresentingBar::setButtonSide(int side)
+void PresentingBar::addLine(QHBoxLayout *row)
 {
-    const int iconSide = qRound(side * iconPart);
-    for (QToolButton *button : qAsConst(m_buttons)) {
-        button->setFixedSize(side, side);
-        button->setIconSize({iconSide, iconSide});
+    auto *line = new QWidget(row->parentWidget());
+    line->setFixedWidth(1);
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::Mid);
+    row->addSpacing(smallGap);
+    row->addWidget(line);
+    row->addSpacing(smallGap);
+    m_lines.append(line);
+}
+
+void PresentingBar::setButtonSizes(const ButtonSizes &sizes)
+{
+    for (DockButton *button : qAsConst(m_buttons)) {
+        button->setFixedSize(sizes.button, sizes.button);
+        button->setPictureSide(sizes.picture);
     }
-    m_pageNumber->setMinimumWidth(2 * side);
+    for (QWidget *line : qAsConst(m_lines))
+        line->setFixedHeight(qRound(sizes.button * linePart));
+    m_pageNumber->setMinimumWidth(qRound(sizes.button * numberPart));
 }
 
 void PresentingBar::showPage()

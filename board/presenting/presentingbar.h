@@ -1,16 +1,19 @@
 #pragma once
 
+#include "look/icons.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QVector>
 
 class QAction;
 class QHBoxLayout;
 class QLabel;
-class QToolButton;
+class QWidget;
 
 namespace board {
 
 class Commands;
+class DockButton;
 class Stage;
 class Workspace;
 
@@ -20,21 +23,28 @@ class PresentingBar : public QObject
     Q_OBJECT
 
 public:
+    /// Sides of a button and of the picture on it, logical pixels.
+    struct ButtonSizes
+    {
+        int button;
+        int picture;
+    };
     /// Appends them to `row`, to whose widget this belongs.
     PresentingBar(const Workspace *workspace, const Commands &commands, Stage *stage, QHBoxLayout *row,
-                  int buttonSide);
+                  const ButtonSizes &sizes);
 
-    /// Of all its buttons, logical pixels.
-    void setButtonSide(int side);
+    void setButtonSizes(const ButtonSizes &sizes);
     QLabel *pageNumber() const { return m_pageNumber; }
 
 private:
-    void addButton(QHBoxLayout *row, QAction *action);
+    void addButton(QHBoxLayout *row, QAction *action, Icon picture);
+    void addLine(QHBoxLayout *row);
     void showPage();
 
     Stage *m_stage;
     QLabel *m_pageNumber;
-    QVector<QToolButton *> m_buttons;
+    QVector<DockButton *> m_buttons;
+    QVector<QWidget *> m_lines;
 };
 
 } // namespace board

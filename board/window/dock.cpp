@@ -3,9 +3,9 @@
 #include "core/commands.h"
 #include "core/workspace.h"
 #include "look/accessiblerole.h"
+#include "look/dockbutton.h"
 #include "look/sizes.h"
 #include "look/theme.h"
-#include "window/dockbutton.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QMouseEvent>

@@ -5,6 +5,7 @@
 
 #include <core/commands.h>
 #include <core/notices.h>
+#include <look/dockbutton.h>
 #include <page/controlpoints.h>
 #include <page/keyhand.h>
 #include <page/labeleditor.h>
@@ -15,7 +16,6 @@
 #include <panels/outlinetree.h>
 #include <panels/settings/ownsettings.h>
 #include <window/dock.h>
-#include <window/dockbutton.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/commands.h>

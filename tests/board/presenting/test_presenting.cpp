@@ -3,11 +3,14 @@
 #include <board/boarddriver.h>
 #include <board/hands.h>
 
+#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <application/commandline.h>
 #include <core/commands.h>
 #include <core/toolchoice.h>
+#include <look/dockbutton.h>
+#include <look/theme.h>
 #include <page/pageview.h>
 #include <presenting/curtain.h>
 #include <presenting/fadingdock.h>
@@ -121,6 +124,8 @@ private Q_SLOTS:
     void curtainIsDraggedFromItsSides();
     void curtainThatIsDraggedAwayIsOpen();
     void dockShowsThePageNumber();
+    void chosenToolOfTheDockIsFilled();
+    void buttonsOfTheDockAreAsLargeAsFingersNeed();
     void dockAndCurtainStayWhenThePageIsMoved();
     void dockFadesAfterThreeSeconds();
     void dockComesBackWhenThePointerIsNear();
@@ -136,6 +141,7 @@ private Q_SLOTS:
     void audienceFollowsThePresenter();
     void audienceSeesCurtainAndLaser();
     void barOfThePresenterFitsASmallScreen();
+    void barOfThePresenterIsASurface();
     void presenterSeesTheNextPage();
     void pictureOfTheShownPageKeepsItsColours();
     void presenterTurnsToAPageByAClick();
@@ -361,6 +367,38 @@ void TestPresenting::dockShowsThePageNumber()
     QCOMPARE(t.dock().geometry().bottom(), under.bottom() - 24);
 }
 
+void TestPresenting::chosenToolOfTheDockIsFilled()
+{
+    const Show t;
+    const auto pixels = [&](Command command) {
+        const QAction *action = t.board.window().commands()->action(command);
+        for (board::DockButton *button : support::listed(t.dock().findChildren<board::DockButton *>()))
+            if (button->defaultAction() == action)
+                return button->grab().toImage();
+        return QImage();
+    };
+    const board::ThemeColors colors = board::themeColors();
+    const QPoint besideThePicture(22, 3);
+    t.press(Qt::Key_K);
+    QCOMPARE(pixels(Command::LaserTool).pixelColor(besideThePicture), colors.accent);
+    // The dot in the middle of the picture.
+    QCOMPARE(pixels(Command::LaserTool).pixelColor(22, 22), colors.onAccent);
+    t.press(Qt::Key_Escape);
+    QCOMPARE(pixels(Command::SelectTool).pixelColor(besideThePicture), colors.accent);
+    QVERIFY(pixels(Command::LaserTool).pixelColor(besideThePicture) != colors.accent);
+}
+
+void TestPresenting::buttonsOfTheDockAreAsLargeAsFingersNeed()
+{
+    Show t(false);
+    board::applyLargeSizes(true);
+    t.board.key(Qt::Key_F5);
+    QCOMPARE(t.dock().height(), 80);
+    for (const board::DockButton *button : support::listed(t.dock().findChildren<board::DockButton *>()))
+        QCOMPARE(button->size(), QSize(64, 64));
+    board::applyLargeSizes(false);
+}
+
 void TestPresenting::dockAndCurtainStayWhenThePageIsMoved()
 {
     const Show t;
@@ -566,6 +604,16 @@ void TestPresenting::barOfThePresenterFitsASmallScreen()
         ++count;
     }
     QCOMPARE(count, 9);
+}
+
+void TestPresenting::barOfThePresenterIsASurface()
+{
+    TwoScreens t;
+    QWidget *bar = t.show.presentation().presenter()->findChild<board::DockButton *>()->parentWidget();
+    QCOMPARE(bar->height(), 72);
+    const QImage picture = bar->grab().toImage();
+    QCOMPARE(picture.pixelColor(500, 0), board::themeColors().border);
+    QCOMPARE(picture.pixelColor(500, 2), board::themeColors().surface);
 }
 
 void TestPresenting::presenterSeesTheNextPage()

@@ -5,12 +5,12 @@
 #include <core/actions.h>
 #include <core/commands.h>
 #include <core/toolchoice.h>
+#include <look/dockbutton.h>
 #include <look/sizes.h>
 #include <look/theme.h>
 #include <page/pageview.h>
 #include <tools/toolsettings.h>
 #include <window/dock.h>
-#include <window/dockbutton.h>
 #include <window/mainwindow.h>
 #include <window/pencolors.h>
 #include <window/topbar.h>

@@ -1,4 +1,4 @@
-#include "window/dockbutton.h"
+#include "look/dockbutton.h"
 
 #include "look/theme.h"
 
