@@ -1,11 +1,14 @@
 #include "window/objectpanel.h"
 
-#include "core/objectnames.h"
+#include "commands/menuplan.h"
 #include "core/workspace.h"
+#include "look/icons.h"
 #include "look/linestart.h"
+#include "look/sizedbuttons.h"
 #include "look/sizes.h"
 #include "look/theme.h"
 #include "panels/foldingsection.h"
+#include "panels/objecthead.h"
 #include "panels/properties/propertypanel.h"
 #include "panels/settings/settingspanel.h"
 #include "panels/stylepanel.h"
@@ -13,24 +16,19 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QEvent>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
 
-namespace {
-
-constexpr int headingPixels = 15;
-constexpr int largeHeadingPixels = 21;
-
-} // namespace
-
 ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent)
     : QScrollArea(parent)
     , m_workspace(workspace)
-    , m_title(new QLabel)
+    , m_head(new ObjectHead(workspace))
+    , m_more(new QToolButton)
     , m_settings(new SettingsPanel(workspace))
     , m_text(new SettingsPanel(workspace, SettingsPanel::Text))
     , m_textSection(new FoldingSection(workspace->text("IDS_TOOL_TEXT"), m_text))
@@ -42,20 +40,11 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
     column->setSpacing(largeGap);
-    followSizes(m_title, [this] {
-        QFont font = QApplication::font();
-        font.setPixelSize(areSizesLarge() ? largeHeadingPixels : headingPixels);
-        font.setBold(true);
-        m_title->setFont(font);
-    });
-    m_title->setAlignment(lineStart() | Qt::AlignVCenter);
-    m_title->setWordWrap(true);
-    m_title->setTextFormat(Qt::PlainText);
     m_textSection->remember(QStringLiteral("text"), true);
     m_allProperties->remember(QStringLiteral("allProperties"), false);
-    for (QWidget *part : {static_cast<QWidget *>(m_title), static_cast<QWidget *>(m_settings),
-                          static_cast<QWidget *>(m_textSection), static_cast<QWidget *>(m_style),
-                          static_cast<QWidget *>(m_allProperties)})
+    for (QWidget *part :
+         {makeTop(*commands), static_cast<QWidget *>(m_settings), static_cast<QWidget *>(m_textSection),
+          static_cast<QWidget *>(m_style), static_cast<QWidget *>(m_allProperties)})
         column->addWidget(part);
     column->addStretch();
     setWidget(content);
@@ -66,6 +55,26 @@ ObjectPanel::ObjectPanel(const Workspace *workspace, const Commands *commands, N
     // The page keeps the keys while the mouse is used here.
     setFocusPolicy(Qt::NoFocus);
     refresh();
+}
+
+/// The menu of the objects stands at their name.
+QWidget *ObjectPanel::makeTop(const Commands &commands)
+{
+    m_more->setIcon(icon(Icon::More));
+    m_more->setToolTip(m_workspace->text("IDS_BOARD_MORE"));
+    m_more->setAccessibleName(m_more->toolTip());
+    m_more->setFocusPolicy(Qt::TabFocus);
+    m_more->setPopupMode(QToolButton::InstantPopup);
+    m_more->setMenu(new QMenu(m_more));
+    fillMenu(m_more->menu(), objectMenuPlan(), commands, *m_workspace);
+    sizeAsBarButton(m_more);
+    auto *top = new QWidget;
+    followSizes(top, [top] { top->setMinimumHeight(sizes().barButton); });
+    auto *row = new QHBoxLayout(top);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_head, 1);
+    row->addWidget(m_more, 0, Qt::AlignTop);
+    return top;
 }
 
 void ObjectPanel::setPage(pagehost::Page *page)
@@ -127,17 +136,17 @@ void ObjectPanel::showAllProperties()
 void ObjectPanel::refresh()
 {
     const QVector<CBaseObject *> objects = m_page ? m_page->selectedObjects() : QVector<CBaseObject *>();
-    if (objects.isEmpty())
-        m_title->setText(m_workspace->text("IDS_BOARD_PAGE"));
-    else
-        m_title->setText(titleOf(*m_workspace, *m_page, objects));
+    m_head->showSelection(m_page);
+    m_more->setVisible(!objects.isEmpty());
     m_settings->setVisible(!objects.isEmpty());
     // Whether there is a section is known only afterwards, and hidden panels don't follow.
     if (isVisible())
         m_text->refresh();
     m_textSection->setVisible(!objects.isEmpty() && !m_text->isEmpty());
     m_allProperties->setVisible(!objects.isEmpty());
-    widget()->layout()->activate();
+    // A name of several lines takes its room at once, from the inside to the outside.
+    for (QWidget *part = m_head; part != viewport(); part = part->parentWidget())
+        part->layout()->activate();
     m_settings->comeToFront();
     m_properties->comeToFront();
 }

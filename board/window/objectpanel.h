@@ -7,13 +7,14 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QScrollArea>
 
-class QLabel;
+class QToolButton;
 
 namespace board {
 
 class Commands;
 class FoldingSection;
 class NewLook;
+class ObjectHead;
 class PropertyPanel;
 class SettingsPanel;
 class StylePanel;
@@ -33,6 +34,7 @@ public:
     void showAllProperties();
     /// Takes back what is shown only while the user chooses.
     void settle();
+    ObjectHead *head() const { return m_head; }
     SettingsPanel *settings() const { return m_settings; }
     SettingsPanel *text() const { return m_text; }
     PropertyPanel *properties() const { return m_properties; }
@@ -42,12 +44,14 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    QWidget *makeTop(const Commands &commands);
     void refresh();
     void makeRoom(bool isScrollBarShown);
 
     const Workspace *m_workspace;
     QPointer<pagehost::Page> m_page;
-    QLabel *m_title;
+    ObjectHead *m_head;
+    QToolButton *m_more; ///< the menu of the objects
     SettingsPanel *m_settings;
     SettingsPanel *m_text;
     FoldingSection *m_textSection;

@@ -4,10 +4,14 @@
 
 #include <support/virtualtime.h>
 
+#include <core/mnemonics.h>
+#include <core/toolchoice.h>
+#include <objects/objectpictures.h>
 #include <page/pageview.h>
 #include <panels/fields/captionedrow.h>
 #include <panels/fields/numberfield.h>
 #include <panels/historypanel.h>
+#include <panels/objecthead.h>
 #include <panels/outlinepanel.h>
 #include <panels/properties/propertypanel.h>
 #include <panels/settings/settingspanel.h>
@@ -15,6 +19,7 @@
 #include <window/mainwindow.h>
 #include <window/objectpanel.h>
 
+#include <pagehost/outline.h>
 #include <pagehost/page.h>
 
 #include <QtCore/QSettings>
@@ -60,6 +65,11 @@ class TestSidePanel : public QObject
 
 private Q_SLOTS:
     void init();
+    void headTellsTheShapeWithAPictureOfItsKind();
+    void headTellsTheNameAndTheKindOfANamedShape();
+    void headTellsHowManyObjectsThereAre();
+    void headTellsTextsWithoutAPicture();
+    void headHasTheMenuOfTheObject();
     void captionsStandBesideTheirFields();
     void aLongCaptionStandsAboveItsField();
     void aCaptionGoesAboveWhenItsFontGrows();
@@ -76,6 +86,95 @@ void TestSidePanel::init()
 {
     useOwnFolders();
     QSettings().clear();
+}
+
+void TestSidePanel::headTellsTheShapeWithAPictureOfItsKind()
+{
+    BoardDriver board;
+    const board::ObjectHead &head = *board.window().findChild<board::ObjectPanel *>()->head();
+    QCOMPARE(head.title()->text(), QString("Page"));
+    QVERIFY(!head.picture()->isVisible());
+    board.draw(star, {500, 300}, {700, 500});
+    support::deliverEvents();
+    QCOMPARE(head.title()->text(), QString("Star"));
+    QCOMPARE(head.title()->font().pixelSize(), 15);
+    QVERIFY(!head.kind()->isVisible());
+    QVERIFY(head.picture()->isVisible());
+    QCOMPARE(head.picture()->size(), QSize(28, 28));
+    QCOMPARE(head.picture()->pixmap(Qt::ReturnByValue).toImage(),
+             board::pictureOfKind(board.workspace().registry(), star, {28, 28}, 1).toImage());
+    QVERIFY(placeIn(head, head.picture()).right() < placeIn(head, head.title()).left());
+    board.page().select({});
+    support::deliverEvents();
+    QCOMPARE(head.title()->text(), QString("Page"));
+    QVERIFY(!head.picture()->isVisible());
+}
+
+void TestSidePanel::headTellsTheNameAndTheKindOfANamedShape()
+{
+    BoardDriver board;
+    CBaseObject *shape = board.draw(star, {500, 300}, {700, 500});
+    pagehost::renameObject(&board.page(), shape, "Sun");
+    support::deliverEvents();
+    const board::ObjectHead &head = *board.window().findChild<board::ObjectPanel *>()->head();
+    QCOMPARE(head.title()->text(), QString("Sun"));
+    QVERIFY(head.kind()->isVisible());
+    QCOMPARE(head.kind()->text(), QString("Star"));
+    QVERIFY(placeIn(head, head.kind()).top() > placeIn(head, head.title()).bottom());
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    support::deliverEvents();
+    QCOMPARE(head.title()->text(), QString("Star"));
+    QVERIFY(!head.kind()->isVisible());
+}
+
+void TestSidePanel::headTellsHowManyObjectsThereAre()
+{
+    BoardDriver board;
+    board.draw(star, {300, 200}, {400, 260});
+    board.draw(rectangle, {600, 400}, {720, 480});
+    board.key(Qt::Key_A, Qt::ControlModifier);
+    support::deliverEvents();
+    const board::ObjectHead &head = *board.window().findChild<board::ObjectPanel *>()->head();
+    QCOMPARE(head.title()->text(), QString("2 objects"));
+    QVERIFY(!head.picture()->isVisible() && !head.kind()->isVisible());
+}
+
+/// Before it is written, it looks like nothing.
+void TestSidePanel::headTellsTextsWithoutAPicture()
+{
+    BoardDriver board;
+    board.window().tools()->choose(board::Tool::Text);
+    board.click({500, 300});
+    board.type(board.window().focusWidget(), "Sun");
+    board.keyIn(board.window().focusWidget(), Qt::Key_Escape);
+    QCOMPARE(board.selection().size(), 1);
+    support::deliverEvents();
+    const board::ObjectHead &head = *board.window().findChild<board::ObjectPanel *>()->head();
+    QCOMPARE(head.title()->text(), QString("Text"));
+    QVERIFY(!head.picture()->isVisible());
+}
+
+void TestSidePanel::headHasTheMenuOfTheObject()
+{
+    BoardDriver board;
+    board.draw(star, {500, 300}, {700, 500});
+    support::deliverEvents();
+    const board::ObjectPanel &panel = *board.window().findChild<board::ObjectPanel *>();
+    QToolButton *more = nullptr;
+    const QList<QToolButton *> buttons = panel.findChildren<QToolButton *>();
+    for (auto *button : buttons)
+        if (button->toolTip() == "More" && button->menu())
+            more = button;
+    QVERIFY(more && more->isVisible());
+    QCOMPARE(placeIn(panel, more).top(), placeIn(panel, panel.head()).top());
+    QStringList entries;
+    const QList<QAction *> actions = more->menu()->actions();
+    for (const QAction *action : actions)
+        entries.append(board::withoutMnemonic(action->text()));
+    QVERIFY(entries.contains("Duplicate") && entries.contains("Delete"));
+    board.page().select({});
+    support::deliverEvents();
+    QVERIFY(!more->isVisible());
 }
 
 void TestSidePanel::captionsStandBesideTheirFields()
