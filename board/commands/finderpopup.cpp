@@ -2,10 +2,14 @@
 
 #include "core/commands.h"
 #include "core/workspace.h"
+#include "look/surface.h"
+#include "look/surfaceoutline.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 #include "objects/objectpictures.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
@@ -40,7 +44,6 @@ FinderPopup::FinderPopup(const Workspace *workspace, Commands *commands, QWidget
     , m_list(new QTreeWidget(this))
     , m_nothing(new QLabel(this))
 {
-    setFrameShape(StyledPanel);
     m_field->setPlaceholderText(workspace->text("IDS_BOARD_FIND_COMMAND"));
     m_field->setAccessibleName(m_field->placeholderText());
     m_field->setClearButtonEnabled(true);
@@ -74,6 +77,7 @@ void FinderPopup::open()
     const QWidget *window = parentWidget();
     resize(popupSize.boundedTo(window->size()));
     move(window->mapToGlobal(QPoint((window->width() - width()) / 2, distanceFromTop)));
+    new SurfaceShadow(this, parentWidget());
     show();
     m_field->setFocus();
 }
@@ -118,6 +122,18 @@ void FinderPopup::run()
         m_commands->action(*chosen.command)->trigger();
     else
         Q_EMIT kindChosen(chosen.kindId);
+}
+
+void FinderPopup::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    setMask(surfaceRegion(rect()));
+}
+
+void FinderPopup::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    paintSurface(&painter, rect());
 }
 
 bool FinderPopup::eventFilter(QObject *, QEvent *event)

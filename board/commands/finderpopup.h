@@ -34,6 +34,8 @@ Q_SIGNALS:
 protected:
     /// Brings the keys that choose from the field to the list.
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void showFound();

@@ -2,9 +2,11 @@
 
 #include "look/motion.h"
 #include "look/sizes.h"
+#include "look/surfaceoutline.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
+#include <QtGui/QRegion>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOption>
 
@@ -169,6 +171,11 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
     case PE_PanelButtonCommand:
         paintPushButton(painter, *option);
         break;
+    case PE_PanelMenu:
+        paintOutlined(painter, option->rect, themeColors().surface, themeColors().border, edgeWidth());
+        break;
+    case PE_FrameMenu:
+        break;
     default:
         painter->restore();
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -260,6 +267,11 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, co
 int ControlStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                             QStyleHintReturn *returned) const
 {
+    auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(returned);
+    if (hint == SH_Menu_Mask && option && mask) {
+        mask->region = surfaceRegion(option->rect);
+        return true;
+    }
     const bool isMotion = hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration;
     return isMotion && isMotionReduced() ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }

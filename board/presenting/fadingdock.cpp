@@ -3,6 +3,7 @@
 #include "look/motion.h"
 #include "look/sizes.h"
 #include "look/surface.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 
 #include <QtGui/QGuiApplication>
@@ -32,6 +33,7 @@ FadingDock::FadingDock(QWidget *under)
     , m_under(under)
     , m_row(new QHBoxLayout(this))
     , m_opacity(new QGraphicsOpacityEffect(this))
+    , m_shadow(new SurfaceShadow(this, under))
 {
     setObjectName(QStringLiteral("presentingDock"));
     setLayoutDirection(QGuiApplication::layoutDirection());
@@ -40,8 +42,10 @@ FadingDock::FadingDock(QWidget *under)
     m_row->setSpacing(smallGap);
     setGraphicsEffect(m_opacity);
     m_opacity->setOpacity(1);
-    connect(&m_fading, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &value) { m_opacity->setOpacity(value.toDouble()); });
+    connect(&m_fading, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+        m_opacity->setOpacity(value.toDouble());
+        m_shadow->setStrength(value.toDouble());
+    });
     connect(&m_fading, &QVariantAnimation::finished, this, [this] { setVisible(m_isShown); });
     for (QTimer *timer : {&m_patience, &m_pointerPatience}) {
         timer->setSingleShot(true);

@@ -9,6 +9,8 @@ class QHBoxLayout;
 
 namespace board {
 
+class SurfaceShadow;
+
 /// A small bar in the lower left corner of a widget. It fades when the pointer has been away for a while, and comes
 /// back when the pointer moves near it or somebody presses there. With it, the pointer hides.
 class FadingDock : public QWidget
@@ -45,6 +47,7 @@ private:
     QWidget *m_under;
     QHBoxLayout *m_row;
     QGraphicsOpacityEffect *m_opacity;
+    SurfaceShadow *m_shadow;
     QVariantAnimation m_fading;
     QTimer m_patience;
     QTimer m_pointerPatience;

@@ -1,6 +1,7 @@
 #include "window/drawer.h"
 
 #include "look/surface.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 
 #include <QtGui/QKeyEvent>
@@ -12,6 +13,7 @@ namespace board {
 
 Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
     : QFrame(area)
+    , m_shadow(new SurfaceShadow(this, area))
     , m_area(area)
     , m_slot(slot)
     , m_column(new QVBoxLayout(this))
@@ -21,6 +23,7 @@ Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
     , m_tallest(tallest)
 {
     keepEdges();
+    m_shadow->setCast(floats());
     slot->hide();
     slot->installEventFilter(this);
     area->installEventFilter(this);
@@ -103,6 +106,7 @@ void Drawer::arrange()
     // Else the focus would go through whatever comes next.
     if (!m_isOpen && m_heir && isAncestorOf(window()->focusWidget()))
         m_heir->setFocus();
+    m_shadow->setCast(floats());
     setVisible(m_isOpen);
     raise();
     place();
@@ -151,7 +155,7 @@ void Drawer::paintEvent(QPaintEvent *)
 {
     const ThemeColors colors = themeColors();
     QPainter painter(this);
-    if (m_isPinned || m_inset == 0) {
+    if (!floats()) {
         painter.fillRect(rect(), colors.border);
         return painter.fillRect(rect().adjusted(edgeWidth(), 0, -edgeWidth(), 0), colors.bar);
     }

@@ -6,6 +6,8 @@ class QVBoxLayout;
 
 namespace board {
 
+class SurfaceShadow;
+
 /// A part of the window that opens over the page and closes with Esc or a press outside. Pinned, it takes room of
 /// its own and stays.
 class Drawer : public QFrame
@@ -44,10 +46,12 @@ protected:
 
 private:
     void keepEdges();
+    bool floats() const { return m_inset > 0 && !m_isPinned; }
     void arrange();
     void place();
     bool isOutside(const QObject *watched) const;
 
+    SurfaceShadow *m_shadow;
     QWidget *m_area;
     QWidget *m_slot;
     QWidget *m_opener = nullptr;

@@ -34,6 +34,7 @@
 #include "look/accessiblerole.h"
 #include "look/dockbutton.h"
 #include "look/sizes.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/findbar.h"
@@ -129,6 +130,7 @@ MainWindow::MainWindow(Workspace *workspace)
     , m_findBar(new FindBar(workspace, m_commands))
     , m_refreshHint([this] { showHint(); })
 {
+    castShadowsOfMenus();
     m_view->setAccessibleName(workspace->text("IDS_BOARD_PAGE"));
     m_view->keys()->setPointName(workspace->text("IDS_BOARD_POINT_NAME"));
     m_view->setEmptyHint({workspace->text("IDS_BOARD_HINT_TITLE"), workspace->text("IDS_BOARD_HINT_ADVICE")});

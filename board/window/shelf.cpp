@@ -5,6 +5,7 @@
 #include "look/icons.h"
 #include "look/sizes.h"
 #include "look/surface.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 #include "tools/toolsettings.h"
 #include "window/shelfbutton.h"
@@ -42,6 +43,7 @@ Shelf::Shelf(const Workspace *workspace, const ToolChoice *tools, ToolSettings *
     setAccessibleRole(this, QAccessible::ToolBar);
     setAccessibleName(workspace->text("IDS_BOARD_SHELF"));
     m_row->setContentsMargins(0, 0, 0, 0);
+    new SurfaceShadow(this, view);
     view->installEventFilter(this);
     connect(tools, &ToolChoice::changed, this, &Shelf::rebuild);
     connect(settings, &ToolSettings::changed, this, &Shelf::rebuild);

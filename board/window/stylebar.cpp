@@ -9,6 +9,7 @@
 #include "look/sizedbuttons.h"
 #include "look/sizes.h"
 #include "look/surface.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "panels/colorbutton.h"
@@ -100,6 +101,7 @@ StyleBar::StyleBar(const Workspace *workspace, const Commands *commands, const T
     m_row->addWidget(m_setting);
     m_settingLine = addLine();
     addCommands();
+    new SurfaceShadow(this, view);
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
     const auto request = [this] { m_arrange.request(); };
