@@ -1,6 +1,7 @@
 #include "lessons/momentcard.h"
 
 #include "look/surface.h"
+#include "look/surfaceshadow.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
@@ -33,6 +34,7 @@ MomentCard::MomentCard(QWidget *window)
     column->addWidget(m_caption);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
+    new SurfaceShadow(this, window);
 }
 
 QSize MomentCard::pictureSize() const
@@ -61,6 +63,9 @@ void MomentCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     paintSurface(&painter, rect());
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(m_picture->geometry().adjusted(-1, -1, 0, 0));
 }
 
 } // namespace board
