@@ -15,6 +15,7 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_SHELF", QT_TRANSLATE_NOOP("board", "Colours and widths")},
         {"IDS_BOARD_TOOL_WIDTH", QT_TRANSLATE_NOOP("board", "Width %1")},
         {"IDS_BOARD_STYLE_BAR", QT_TRANSLATE_NOOP("board", "Bar at the selection")},
+        {"IDS_BOARD_LINK", QT_TRANSLATE_NOOP("board", "Link")},
         {"IDS_BOARD_NEW_SHAPE", QT_TRANSLATE_NOOP("board", "New shape…")},
         {"IDS_BOARD_SHAPE_NAME", QT_TRANSLATE_NOOP("board", "Name of the shape")},
         {"IDS_BOARD_OPEN_SHAPES", QT_TRANSLATE_NOOP("board", "Open folder of shapes")},

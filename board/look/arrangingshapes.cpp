@@ -129,6 +129,48 @@ IconShape millimetreShape()
     return shape;
 }
 
+/// Long and short lines; `part` of the room of a short one is before it.
+IconShape linesOfText(double part)
+{
+    constexpr double start = 4;
+    constexpr double all = 16;
+    IconShape shape;
+    double y = 6;
+    for (const double length : {all, 10.0, all, 8.0}) {
+        const double x = start + part * (all - length);
+        addPolyline(shape.lines, {{x, y}, {x + length, y}});
+        y += 4;
+    }
+    return shape;
+}
+
+IconShape listShape()
+{
+    IconShape shape;
+    for (const double y : {6.0, 12.0, 18.0}) {
+        shape.areas.addEllipse(QPointF(5, y), 1.5, 1.5);
+        addPolyline(shape.lines, {{9.5, y}, {20, y}});
+    }
+    return shape;
+}
+
+/// Two links of a chain.
+IconShape linkShape()
+{
+    IconShape shape;
+    shape.lines.moveTo(10.5, 6.5);
+    shape.lines.lineTo(13, 4.8);
+    shape.lines.cubicTo(17, 2.2, 21.5, 7.5, 18.6, 10.9);
+    shape.lines.lineTo(15.4, 14.1);
+    shape.lines.cubicTo(13.6, 15.8, 11, 15.4, 9.6, 13.4);
+    shape.lines.moveTo(13.5, 17.5);
+    shape.lines.lineTo(11, 19.2);
+    shape.lines.cubicTo(7, 21.8, 2.5, 16.5, 5.4, 13.1);
+    shape.lines.lineTo(8.6, 9.9);
+    shape.lines.cubicTo(10.4, 8.2, 13, 8.6, 14.4, 10.6);
+    return shape;
+}
+
 } // namespace
 
 IconShape arrangingShape(Icon which)
@@ -164,6 +206,16 @@ IconShape arrangingShape(Icon which)
         return musicShape();
     case Icon::MillimetrePaper:
         return millimetreShape();
+    case Icon::TextLeft:
+        return linesOfText(0);
+    case Icon::TextMiddle:
+        return linesOfText(0.5);
+    case Icon::TextRight:
+        return linesOfText(1);
+    case Icon::List:
+        return listShape();
+    case Icon::Link:
+        return linkShape();
     default:
         return {};
     }

@@ -83,7 +83,12 @@ enum class Icon {
     SquaredPaper,
     DottedPaper,
     MusicPaper,
-    MillimetrePaper
+    MillimetrePaper,
+    TextLeft,
+    TextMiddle,
+    TextRight,
+    List,
+    Link
 };
 
 } // namespace board

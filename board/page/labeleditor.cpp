@@ -75,21 +75,12 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     , m_view(view)
     , m_isNewObject(isNewObject)
 {
-    const double zoom = std::hypot(view->transform().m11(), view->transform().m12());
-    QFont font(QStringLiteral("sans-serif"));
-    font.setPixelSize(std::max(smallestFont, qRound(label.fontSize * zoom)));
-    font.setBold(label.isBold);
-    setFont(font);
     setAcceptRichText(false);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setLineWrapMode(label.hasManyLines ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
-    setStyleSheet(QStringLiteral("QTextEdit { color: %1; background: %2; }")
-                      .arg(label.color.name(), label.color.lightness() > lightLetters ? darkPaper : lightPaper));
-    QTextOption option = document()->defaultTextOption();
-    option.setAlignment(label.alignment & Qt::AlignHorizontal_Mask);
-    document()->setDefaultTextOption(option);
+    showLetters();
     document()->setDocumentMargin(0);
     setPlainText(label.text);
     const LabelLinkState links = linksOf(*object, label.propertyId);
@@ -111,6 +102,38 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     show();
     setFocus();
     pagehost::setBeingWritten(*object, true);
+}
+
+void LabelEditor::showLetters(bool isItalic, bool isUnderlined)
+{
+    const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
+    QFont font(QStringLiteral("sans-serif"));
+    font.setPixelSize(std::max(smallestFont, qRound(m_label.fontSize * zoom)));
+    font.setBold(m_label.isBold);
+    font.setItalic(isItalic);
+    font.setUnderline(isUnderlined);
+    setFont(font);
+    setStyleSheet(
+        QStringLiteral("QTextEdit { color: %1; background: %2; }")
+            .arg(m_label.color.name(), m_label.color.lightness() > lightLetters ? darkPaper : lightPaper));
+    QTextOption option = document()->defaultTextOption();
+    option.setAlignment(m_label.alignment & Qt::AlignHorizontal_Mask);
+    document()->setDefaultTextOption(option);
+}
+
+void LabelEditor::followLook(bool isItalic, bool isUnderlined)
+{
+    const std::optional<EditableLabel> present = presentLabel();
+    if (!present)
+        return;
+    // The text of the beginning stays for the step at the end.
+    const QString before = m_label.text;
+    m_label = *present;
+    m_label.text = before;
+    // Nothing is typed by it.
+    const QSignalBlocker blocker(this);
+    showLetters(isItalic, isUnderlined);
+    takePlace();
 }
 
 LabelEditor::~LabelEditor()
@@ -147,17 +170,26 @@ void LabelEditor::takePlace(double furtherRoom)
         setMask(frameInView().adjusted(1, 1, -1, -1).translated(-pos()) & rect());
 }
 
+CBaseObject *LabelEditor::object() const
+{
+    return m_isFinished ? nullptr : m_object.data();
+}
+
+std::optional<EditableLabel> LabelEditor::presentLabel() const
+{
+    const QVector<EditableLabel> labels = object() ? labelsOf(*m_object) : QVector<EditableLabel>();
+    const auto present = std::find_if(labels.begin(), labels.end(), [this](const EditableLabel &label) {
+        return label.propertyId == m_label.propertyId;
+    });
+    return present == labels.end() ? std::nullopt : std::optional<EditableLabel>(*present);
+}
+
 /// The box of a text that is as large as its letters grows with them. A letter more than there are has room, so
 /// that no line is broken where the label doesn't break it.
 void LabelEditor::followLabel()
 {
-    if (!m_object || m_isFinished)
-        return;
-    const QVector<EditableLabel> labels = labelsOf(*m_object);
-    const auto present = std::find_if(labels.begin(), labels.end(), [this](const EditableLabel &label) {
-        return label.propertyId == m_label.propertyId;
-    });
-    if (present == labels.end() || present->box.size() == m_label.box.size())
+    const std::optional<EditableLabel> present = presentLabel();
+    if (!present || present->box.size() == m_label.box.size())
         return;
     const bool isWider = present->box.width() != m_label.box.width();
     m_label.box = present->box;
@@ -234,6 +266,8 @@ void LabelEditor::sendLinks(const QVector<pagehost::TextLink> &links, bool recor
 /// In a field below the letters: the return key makes the link, without an address none; Esc leaves it as it is.
 void LabelEditor::askForLink()
 {
+    if (m_linkField)
+        return;
     QTextCursor cursor = textCursor();
     selectLink(cursor);
     setTextCursor(cursor);
@@ -335,14 +369,19 @@ void LabelEditor::pastePlain()
     ensureCursorVisible();
 }
 
+void LabelEditor::toggleList()
+{
+    changeList(textCursor());
+}
+
 bool LabelEditor::editList(const QKeyEvent &event)
 {
-    QTextCursor cursor = textCursor();
-    bool isEdited = false;
     if (event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && event.key() == Qt::Key_L) {
-        changeList(cursor);
+        toggleList();
         return true;
     }
+    QTextCursor cursor = textCursor();
+    bool isEdited = false;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         isEdited = !(event.modifiers() & Qt::ShiftModifier) && continueList(cursor);
     else if (event.key() == Qt::Key_Space)

@@ -8,6 +8,8 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QTextEdit>
 
+#include <optional>
+
 class CBaseObject;
 class QGraphicsView;
 class QLineEdit;
@@ -47,6 +49,19 @@ public:
     LabelEditor(CBaseObject *object, const EditableLabel &label, bool isNewObject, QGraphicsView *view);
     ~LabelEditor() override;
 
+    /// Whose text it is; null for an object that is gone, and after the end.
+    CBaseObject *object() const;
+    /// Whose changes belong to the step that has added it.
+    bool isOfNewObject() const { return m_isNewObject; }
+    /// Shows the letters as the object has them now; what is not part of its labels is told.
+    void followLook(bool isItalic, bool isUnderlined);
+    /// Whether there may be several lines, and so lists.
+    bool mayHaveLists() const { return m_label.hasManyLines; }
+    /// Makes the selected lines items, those numbered ones, and those plain lines (page/listediting.h).
+    void toggleList();
+    bool mayHaveLinks() const { return m_linksId != 0; }
+    /// Asks for the address of a link of the selected letters.
+    void askForLink();
     /// Makes the step and deletes the editor in the next turn of the event loop.
     void finish();
 
@@ -65,8 +80,8 @@ protected:
 
 private:
     bool editList(const QKeyEvent &event);
-    bool mayHaveLinks() const { return m_linksId != 0; }
-    void askForLink();
+    std::optional<EditableLabel> presentLabel() const;
+    void showLetters(bool isItalic = false, bool isUnderlined = false);
     void takeLink();
     void closeLinkField();
     void sendLinks(const QVector<pagehost::TextLink> &links, bool record);

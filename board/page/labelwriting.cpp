@@ -49,6 +49,11 @@ bool LabelWriting::isWriting() const
     return m_editor;
 }
 
+LabelEditor *LabelWriting::editor() const
+{
+    return m_editor;
+}
+
 bool LabelWriting::canWriteSelected() const
 {
     const QVector<CBaseObject *> selected =
@@ -76,6 +81,7 @@ void LabelWriting::write(CBaseObject *object, const EditableLabel &label, bool i
     end();
     m_editor = new LabelEditor(object, label, isNewObject, m_view);
     connect(m_editor, &LabelEditor::finished, this, &LabelWriting::ended);
+    Q_EMIT begun();
 }
 
 } // namespace board

@@ -22,6 +22,8 @@ public:
     explicit LabelWriting(PageView *view);
 
     bool isWriting() const;
+    /// The one that is open; null while nothing is written.
+    LabelEditor *editor() const;
     /// Whether the only selected object has a label that can be written.
     bool canWriteSelected() const;
     /// Begins to write the first label of the only selected object. False where there is none.
@@ -31,6 +33,7 @@ public:
     void end();
 
 Q_SIGNALS:
+    void begun();
     /// Null for an object that is gone. `madeStep` unless the text has stayed as it was.
     void ended(CBaseObject *object, bool madeStep);
 

@@ -77,6 +77,7 @@ public:
     /// deselects.
     void cancel();
     bool isWriting() const;
+    LabelWriting *writing() const { return m_writing; }
     /// Whether the only selected object has a label that can be written.
     bool canWriteLabel() const;
     /// Begins to write the first label of the only selected object. False where there is none.

@@ -1490,6 +1490,10 @@
         <translation>Leiste an der Auswahl</translation>
     </message>
     <message>
+        <source>Link</source>
+        <translation>Verweis</translation>
+    </message>
+    <message>
         <source>“%1” is no number. Type one such as 40, 120/3 or +10.</source>
         <translation>„%1“ ist keine Zahl. Richtig wäre zum Beispiel 40, 120/3 oder +10.</translation>
     </message>

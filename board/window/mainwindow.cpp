@@ -63,6 +63,7 @@
 #include "window/sidepanel.h"
 #include "window/stylebar.h"
 #include "window/topbar.h"
+#include "window/typingbar.h"
 #include "window/windowparts.h"
 
 #include <pagehost/animationplayer.h>
@@ -519,6 +520,7 @@ void MainWindow::addStyleBar()
     auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
     connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
     bar->setReplaced(m_panel->isOpen());
+    new TypingBar(m_workspace, m_view);
     new WindowParts(m_commands,
                     {m_view, bar, m_findBar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar,
                      m_topBar, m_notices},

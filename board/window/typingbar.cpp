@@ -1,0 +1,353 @@
+#include "window/typingbar.h"
+
+#include "core/workspace.h"
+#include "look/accessiblerole.h"
+#include "look/icons.h"
+#include "look/sizedbuttons.h"
+#include "look/sizes.h"
+#include "look/surface.h"
+#include "look/surfaceshadow.h"
+#include "look/theme.h"
+#include "page/labeleditor.h"
+#include "page/labelwriting.h"
+#include "page/pageview.h"
+#include "panels/colorbutton.h"
+#include "window/stylebarplace.h"
+
+#include <pagehost/page.h>
+
+#include <framework/cbaseobject.h>
+#include <framework/iframework.h>
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+
+#include <algorithm>
+
+namespace board {
+
+namespace {
+
+const QString textSection = QStringLiteral("text");
+const QString boldId = QStringLiteral("idBold");
+const QString italicId = QStringLiteral("idItalic");
+const QString underlinedId = QStringLiteral("idUnderlined");
+const QString alignmentId = QStringLiteral("idAlignment");
+/// Lines become items in the editor, which has the letters.
+const QString listId = QStringLiteral("idList");
+constexpr int offeredSizes[] = {12, 14, 16, 18, 20, 24, 28, 32, 40, 48, 64, 96};
+constexpr Icon alignmentIcons[] = {Icon::TextLeft, Icon::TextMiddle, Icon::TextRight};
+/// Between the bar and the edges of the view.
+constexpr int roomMargin = 4;
+constexpr int sizeWidth = 52;
+
+bool isOn(const QVector<SettingControl> &controls, const QString &id)
+{
+    return std::any_of(controls.begin(), controls.end(), [&](const SettingControl &control) {
+        return control.id == id && control.kind == SettingControl::Switch && control.value.toBool();
+    });
+}
+
+bool isNumber(const SettingControl &control)
+{
+    return control.kind == SettingControl::Number || control.kind == SettingControl::Slider;
+}
+
+QFont letterFont(const QToolButton &button, const QString &id)
+{
+    QFont font = button.font();
+    font.setBold(id == boldId);
+    font.setItalic(id == italicId);
+    font.setUnderline(id == underlinedId);
+    return font;
+}
+
+} // namespace
+
+TypingBar::TypingBar(const Workspace *workspace, PageView *view)
+    : QWidget(view)
+    , m_workspace(workspace)
+    , m_view(view)
+    , m_row(new QHBoxLayout(this))
+{
+    setObjectName(QStringLiteral("typingBar"));
+    setLayoutDirection(QGuiApplication::layoutDirection());
+    setAccessibleRole(this, QAccessible::ToolBar);
+    setAccessibleName(workspace->text("IDS_TOOL_TEXT"));
+    m_row->setContentsMargins(smallGap, 0, smallGap, 0);
+    new SurfaceShadow(this, view);
+    connect(view->writing(), &LabelWriting::begun, this, &TypingBar::begin);
+    connect(view->writing(), &LabelWriting::ended, this, &TypingBar::end);
+    hide();
+}
+
+LabelEditor *TypingBar::editor() const
+{
+    return m_view->writing()->editor();
+}
+
+/// Of the letters alone.
+QVector<SettingControl> TypingBar::controls() const
+{
+    QString json;
+    if (!editor() || !editor()->object() || !editor()->object()->GetSettingJson(json))
+        return {};
+    QVector<SettingControl> found = parseSettings(json);
+    found.erase(std::remove_if(found.begin(), found.end(),
+                               [](const SettingControl &control) { return control.section != textSection; }),
+                found.end());
+    return found;
+}
+
+void TypingBar::begin()
+{
+    m_controls = controls();
+    build();
+    if (m_updates.isEmpty())
+        return;
+    editor()->installEventFilter(this);
+    leaveFocus();
+    showValues();
+    show();
+    raise();
+    place();
+}
+
+/// A press on the bar would give the view the focus, unless its proxy has it: the text or the address of a link.
+void TypingBar::leaveFocus()
+{
+    QWidget *present = QApplication::focusWidget();
+    if (present && present->parentWidget() == m_view->viewport())
+        setFocusProxy(present);
+}
+
+void TypingBar::end()
+{
+    hide();
+}
+
+void TypingBar::build()
+{
+    // One of its buttons may have ended the writing.
+    if (m_content) {
+        m_content->hide();
+        m_content->deleteLater();
+    }
+    m_updates.clear();
+    m_content = new QWidget(this);
+    auto *row = new QHBoxLayout(m_content);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(smallGap);
+    const auto addAll = [this](const auto &isWanted, const auto &add) {
+        for (int i = 0; i < m_controls.size(); ++i)
+            if (isWanted(m_controls.at(i)))
+                add(i);
+    };
+    const auto isOfKind = [](SettingControl::Kind kind) {
+        return [kind](const SettingControl &control) { return control.kind == kind && control.id != listId; };
+    };
+    // The first one is the size; the other is the width of lines, which is dragged.
+    const auto size = std::find_if(m_controls.constBegin(), m_controls.constEnd(), isNumber);
+    if (size != m_controls.constEnd())
+        addSize(int(size - m_controls.constBegin()));
+    addAll(isOfKind(SettingControl::Switch), [this](int index) { addSwitch(index); });
+    addTextCommands();
+    addAll(isOfKind(SettingControl::Choice), [this](int index) { addChoice(index); });
+    addAll(isOfKind(SettingControl::Color), [this](int index) { addColor(index); });
+    m_row->addWidget(m_content);
+    m_content->show();
+}
+
+QToolButton *TypingBar::addButton(const QString &name)
+{
+    auto *button = new QToolButton(m_content);
+    sizeAsStyleButton(button);
+    // The text keeps the focus, else it would be done.
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    m_content->layout()->addWidget(button);
+    return button;
+}
+
+void TypingBar::addSize(int index)
+{
+    const SettingControl control = m_controls.at(index);
+    QToolButton *button = addButton(m_workspace->text(control.titleKey));
+    followSizes(button, [button] { button->setFixedWidth(qMax(sizeWidth, sizes().styleButton)); });
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(new QMenu(button));
+    for (const int size : offeredSizes)
+        if (size >= control.range.minimum && size <= control.range.maximum)
+            button->menu()->addAction(QString::number(size), this, [=] { apply(index, double(size)); });
+    m_updates.append(
+        [this, button, index] { button->setText(QString::number(qRound(m_controls.at(index).value.toDouble()))); });
+}
+
+/// The first letter of its name, in its own look.
+void TypingBar::addSwitch(int index)
+{
+    const SettingControl control = m_controls.at(index);
+    QToolButton *button = addButton(m_workspace->text(control.titleKey));
+    button->setText(button->toolTip().left(1).toUpper());
+    button->setFont(letterFont(*button, control.id));
+    button->setCheckable(true);
+    connect(button, &QToolButton::clicked, this, [=](bool on) { apply(index, on); });
+    m_updates.append([this, button, index] { button->setChecked(m_controls.at(index).value.toBool()); });
+}
+
+void TypingBar::addColor(int index)
+{
+    auto *button = new ColorButton(m_workspace, m_workspace->text(m_controls.at(index).titleKey), m_content);
+    button->setFocusPolicy(Qt::NoFocus);
+    followSizes(button, [button] { button->setMinimumHeight(sizes().styleButton); });
+    m_content->layout()->addWidget(button);
+    connect(button, &ColorButton::colorPicked, this, [=](const QColor &color) { apply(index, color); });
+    m_updates.append([this, button, index] { button->setColor(m_controls.at(index).value.value<QColor>()); });
+}
+
+/// Its picture is that of the present entry, where there are pictures of the entries.
+void TypingBar::addChoice(int index)
+{
+    const SettingControl control = m_controls.at(index);
+    QToolButton *button = addButton(m_workspace->text(control.titleKey));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(new QMenu(button));
+    const bool isAlignment = control.id == alignmentId && control.entryCount() == int(std::size(alignmentIcons));
+    for (int i = 0; i < control.texts.size(); ++i) {
+        const QString text = m_workspace->text(control.texts.at(i));
+        const QIcon picture = isAlignment ? icon(alignmentIcons[i]) : QIcon();
+        button->menu()->addAction(picture, text, this, [=] { apply(index, i); });
+    }
+    m_updates.append([=] {
+        const int present = m_controls.at(index).value.toInt();
+        button->setIcon(isAlignment && present >= 0 ? icon(alignmentIcons[present]) : icon(Icon::More));
+    });
+}
+
+void TypingBar::addTextCommands()
+{
+    const auto list = std::find_if(m_controls.constBegin(), m_controls.constEnd(),
+                                   [](const SettingControl &control) { return control.id == listId; });
+    if (list != m_controls.constEnd() && editor()->mayHaveLists()) {
+        QToolButton *button = addButton(m_workspace->text(list->titleKey));
+        button->setIcon(icon(Icon::List));
+        connect(button, &QToolButton::clicked, editor(), &LabelEditor::toggleList);
+    }
+    if (!editor()->mayHaveLinks())
+        return;
+    QToolButton *button = addButton(m_workspace->text("IDS_BOARD_LINK"));
+    button->setIcon(icon(Icon::Link));
+    connect(button, &QToolButton::clicked, editor(), &LabelEditor::askForLink);
+}
+
+/// Changes of a new text belong to the step that has added it.
+void TypingBar::apply(int index, const QVariant &value)
+{
+    CBaseObject *object = editor() ? editor()->object() : nullptr;
+    if (!object)
+        return;
+    const SettingControl control = m_controls.at(index);
+    const bool isOwnStep = !editor()->isOfNewObject();
+    if (isOwnStep)
+        GetFramework()->beginUndoGroup(control.titleKey);
+    object->SetSettingJson(settingAnswer(control, value), true, isOwnStep);
+    if (isOwnStep)
+        GetFramework()->endUndoGroup();
+    showValues();
+}
+
+void TypingBar::showValues()
+{
+    const QVector<SettingControl> present = controls();
+    // Settings come and go with others; the bar is built once for a text.
+    for (SettingControl &control : m_controls) {
+        const auto same = std::find_if(present.begin(), present.end(), [&control](const SettingControl &candidate) {
+            return candidate.id == control.id && candidate.kind == control.kind;
+        });
+        if (same != present.end())
+            control.value = same->value;
+    }
+    for (const auto &update : qAsConst(m_updates))
+        update();
+    editor()->followLook(isOn(present, italicId), isOn(present, underlinedId));
+}
+
+/// It stays where it is while the text grows beside it.
+void TypingBar::place()
+{
+    const CBaseObject *object = editor() ? editor()->object() : nullptr;
+    if (!object || !m_view->page())
+        return;
+    const QPoint corner = m_view->viewport()->pos();
+    // Without room for grips, which a text that is written has not.
+    const auto boxOf = [&](const CBaseObject *drawn) {
+        const QPolygonF outline = drawn->mapToScene(drawn->getClientRect());
+        return m_view->mapFromScene(outline).boundingRect().translated(corner);
+    };
+    StyleBarSurroundings around;
+    around.room = m_view->viewport()->geometry().adjusted(roomMargin, roomMargin, -roomMargin, -roomMargin);
+    around.frame = boxOf(object) | editor()->geometry().translated(corner);
+    around.selection = {around.frame};
+    layout()->activate();
+    const QSize size(sizeHint().width(), sizes().styleBar);
+    const bool mayStay = this->size() == size && around.room.contains(geometry()) && isVisible();
+    if (mayStay && !geometry().intersects(around.frame.adjusted(-largeGap, -largeGap, largeGap, largeGap)))
+        return;
+    const QVector<CBaseObject *> objects = m_view->page()->objects();
+    for (const CBaseObject *other : objects)
+        if (other != object)
+            around.others.append(boxOf(other));
+    setGeometry(styleBarPlace(size, around));
+}
+
+/// Ctrl and the letter that text programs use.
+bool TypingBar::useKey(int key)
+{
+    const QString id = key == Qt::Key_B   ? boldId
+                       : key == Qt::Key_I ? italicId
+                       : key == Qt::Key_U ? underlinedId
+                                          : QString();
+    for (int i = 0; i < m_controls.size(); ++i) {
+        const SettingControl &control = m_controls.at(i);
+        if (control.kind != SettingControl::Switch || control.id != id)
+            continue;
+        apply(i, !control.value.toBool());
+        return true;
+    }
+    return false;
+}
+
+bool TypingBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != editor())
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+        place();
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        leaveFocus();
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isOurs = key->modifiers() == Qt::ControlModifier &&
+                        (key->key() == Qt::Key_B || key->key() == Qt::Key_I || key->key() == Qt::Key_U);
+    if (!isOurs)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        return useKey(key->key());
+    event->accept();
+    return true;
+}
+
+void TypingBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    paintSurface(&painter, rect());
+}
+
+} // namespace board

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "panels/settings/settingjson.h"
+
+#include <QtWidgets/QWidget>
+
+#include <functional>
+
+class CBaseObject;
+class QHBoxLayout;
+class QToolButton;
+
+namespace board {
+
+class LabelEditor;
+class PageView;
+class Workspace;
+
+/// A bar beside the text that is being written, for its letters: size, weight and the like, list, alignment, link,
+/// colour, as far as the object has settings of them. It leaves the focus in the text.
+class TypingBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive this; the bar lies on `view`.
+    TypingBar(const Workspace *workspace, PageView *view);
+
+protected:
+    /// Follows the text, and takes keys for what the bar has.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    LabelEditor *editor() const;
+    QVector<SettingControl> controls() const;
+    void begin();
+    void end();
+    void leaveFocus();
+    void build();
+    void showValues();
+    void place();
+    void addSize(int index);
+    void addSwitch(int index);
+    void addColor(int index);
+    void addChoice(int index);
+    void addTextCommands();
+    QToolButton *addButton(const QString &name);
+    void apply(int index, const QVariant &value);
+    bool useKey(int key);
+
+    const Workspace *m_workspace;
+    PageView *m_view;
+    QHBoxLayout *m_row;
+    QWidget *m_content = nullptr;
+    QVector<SettingControl> m_controls;       ///< of the letters, with the values shown
+    QVector<std::function<void()>> m_updates; ///< of the controls that are in the bar
+};
+
+} // namespace board
