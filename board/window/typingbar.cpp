@@ -194,7 +194,7 @@ void TypingBar::addSwitch(int index)
 {
     const SettingControl control = m_controls.at(index);
     QToolButton *button = addButton(m_workspace->text(control.titleKey));
-    button->setText(button->toolTip().left(1).toUpper());
+    button->setText(button->toolTip().mid(0, 1).toUpper());
     button->setFont(letterFont(*button, control.id));
     button->setCheckable(true);
     connect(button, &QToolButton::clicked, this, [=](bool on) { apply(index, on); });

@@ -2,7 +2,6 @@
 
 #include <board/boarddriver.h>
 
-#include <core/commands.h>
 #include <core/toolchoice.h>
 #include <look/surface.h>
 #include <look/surfaceshadow.h>
@@ -17,11 +16,9 @@
 #include <QtCore/QSettings>
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QMenu>
 
 using namespace boardtest;
-using board::Command;
 using board::SurfaceShadow;
 using board::Theme;
 
