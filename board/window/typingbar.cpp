@@ -88,7 +88,7 @@ TypingBar::TypingBar(const Workspace *workspace, PageView *view)
 
 LabelEditor *TypingBar::editor() const
 {
-    return m_view->writing()->editor();
+    return m_editor;
 }
 
 /// Of the letters alone.
@@ -106,6 +106,12 @@ QVector<SettingControl> TypingBar::controls() const
 
 void TypingBar::begin()
 {
+    m_editor = m_view->writing()->editor();
+    // The next text may have begun before the editor of this one is deleted.
+    connect(m_editor, &QObject::destroyed, this, [this, gone = m_editor] {
+        if (m_editor == gone)
+            m_editor = nullptr;
+    });
     m_controls = controls();
     build();
     if (m_updates.isEmpty())
@@ -122,12 +128,13 @@ void TypingBar::begin()
 void TypingBar::leaveFocus()
 {
     QWidget *present = QApplication::focusWidget();
-    if (present && present->parentWidget() == m_view->viewport())
+    if (present && present->parentWidget() == m_editor->parentWidget())
         setFocusProxy(present);
 }
 
 void TypingBar::end()
 {
+    m_editor = nullptr;
     hide();
 }
 

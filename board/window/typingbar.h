@@ -51,6 +51,8 @@ private:
 
     const Workspace *m_workspace;
     PageView *m_view;
+    /// Kept here since the view can't be asked while it is being deleted, when its editor still sends events.
+    LabelEditor *m_editor = nullptr;
     QHBoxLayout *m_row;
     QWidget *m_content = nullptr;
     QVector<SettingControl> m_controls;       ///< of the letters, with the values shown
