@@ -152,7 +152,8 @@ void LessonBar::layOut()
     row->addWidget(m_play);
     row->addWidget(m_playingParts.last());
     row->addWidget(m_timeLine, 1);
-    for (QWidget *part : QVector<QWidget *>{m_time, m_chapters, m_speed, m_list, m_name, m_takeOver, m_close})
+    const QVector<QWidget *> others{m_time, m_chapters, m_speed, m_list, m_name, m_takeOver, m_close};
+    for (QWidget *part : others)
         row->addWidget(part);
     followSizes(this, [this] { setMinimumHeight(sizes().lessonBar); });
     m_play->setProperty("isRound", true);

@@ -140,12 +140,11 @@ static QStringList chaptersOf(const LessonData &data)
     lesson.fromData(data.data);
     QStringList chapters;
     int others = 0;
-    for (const LessonEvent &event : qAsConst(lesson.events)) {
+    for (const LessonEvent &event : qAsConst(lesson.events))
         if (const auto *chapter = std::get_if<ChapterBegan>(&event.step))
             chapters.append(QStringLiteral("%1: %2 after %3").arg(event.time).arg(chapter->name).arg(others));
         else
             ++others;
-    }
     return chapters;
 }
 
