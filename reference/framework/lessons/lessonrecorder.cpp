@@ -56,7 +56,7 @@ Lesson LessonRecorder::stop()
 {
     if (!isRecording())
         return {};
-    const Lesson lesson = m_recording->settled();
+    Lesson lesson = m_recording->settled();
     const bool wasPaused = isPaused();
     m_recording.reset();
     m_clock.halt();

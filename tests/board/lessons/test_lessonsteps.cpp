@@ -320,7 +320,7 @@ void TestLessonSteps::chaptersAreListed()
     QCOMPARE(list->actions().at(1)->text(), QStringLiteral("Powers · 0:05"));
     list->actions().at(1)->trigger();
     QCOMPARE(room.position(), qint64(5000));
-    QCOMPARE(list->actions().last()->text(), QStringLiteral("Rename the chapter"));
+    QCOMPARE(list->actions().constLast()->text(), QStringLiteral("Rename the chapter"));
 }
 
 void TestLessonSteps::lineIsInPiecesOfChapters()
@@ -345,7 +345,8 @@ void TestLessonSteps::lineIsInPiecesOfChapters()
 static void pointAt(const Classroom &room, double share)
 {
     board::TimeLine *line = room.bar()->timeLine();
-    const QRectF whole = line->pieces().first().united(line->pieces().last());
+    const QVector<QRectF> pieces = line->pieces();
+    const QRectF whole = pieces.first().united(pieces.last());
     const QPoint place(qRound(whole.left() + share * whole.width()), line->height() / 2);
     QMouseEvent event(QEvent::MouseMove, place, line->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
                       Qt::NoModifier);
