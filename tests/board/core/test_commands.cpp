@@ -74,6 +74,7 @@ private Q_SLOTS:
     void letterQKeepsTheTool();
     void changedKeysActAndAreRemembered();
     void keyIsTakenFromWhoHadIt();
+    void keyOfALessonIsTakenOnlyFromWhatActsThen();
     void oneCommandIsReset();
     void allKeysAreReset();
     void settingsWithoutSenseGiveNoKeys();
@@ -314,6 +315,20 @@ void TestCommands::keyIsTakenFromWhoHadIt()
     QVERIFY(!board.commands.keys(Command::Redo).contains(QKeySequence("Ctrl+Y")));
     QVERIFY(board.commands.keys(Command::Redo).contains(QKeySequence("Ctrl+Shift+Z")));
     QVERIFY(!Alone().commands.keys(Command::Redo).contains(QKeySequence("Ctrl+Y")));
+}
+
+/// While a lesson is shown, nothing changes the board.
+void TestCommands::keyOfALessonIsTakenOnlyFromWhatActsThen()
+{
+    Alone board;
+    const auto holder = [&](const char *key) { return board.commands.otherWithKey(Command::FasterLesson, {key}); };
+    QVERIFY(!holder("P"));
+    QVERIFY(!holder("Ctrl+D"));
+    QVERIFY(!holder("F2"));
+    QCOMPARE(holder("F9").value(), Command::Record);
+    QCOMPARE(holder("Left").value(), Command::GestureBack);
+    QVERIFY(!board.commands.otherWithKey(Command::PenTool, QKeySequence("Left")));
+    QCOMPARE(board.commands.otherWithKey(Command::Record, QKeySequence("Left")).value(), Command::GestureBack);
 }
 
 void TestCommands::oneCommandIsReset()

@@ -115,6 +115,7 @@ private Q_SLOTS:
     void pictureOfAnEarlierMomentIsShown();
     void cardGoesWithTheMouse();
     void returnTakesThePageOver();
+    void pageTakenOverAtAnotherZoomIsTheSame();
     void buttonTakesThePageOver();
     void nothingIsTakenOverWithoutALesson();
 };
@@ -372,6 +373,7 @@ void TestLessonSteps::mouseOverTheLineShowsTheMoment()
     pointAt(room, 0.5);
     const board::MomentCard *card = room.bar()->card();
     QVERIFY(card->isVisible());
+    QVERIFY(room.driver.window().rect().contains(card->geometry()));
     QCOMPARE(card->caption()->text(), QStringLiteral("Roots · 0:03"));
     QVERIFY(support::passUntil([card] { return card->picture()->pixmap(Qt::ReturnByValue).width() == 160; }));
     QVERIFY(inkOf(room) > 0);
@@ -414,6 +416,27 @@ void TestLessonSteps::returnTakesThePageOver()
     QCOMPARE(room.driver.history().undoText(), QStringLiteral("IDS_LESSON_TAKE_OVER"));
     room.driver.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(room.document().pageCount(), 1);
+}
+
+/// Of the first object of a page, after the view has shown it.
+static QByteArray shownState(Classroom &room, int page)
+{
+    room.document().setCurrentIndex(page);
+    room.driver.view().grab();
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    room.document().page(page)->objects().first()->save(out);
+    return bytes;
+}
+
+void TestLessonSteps::pageTakenOverAtAnotherZoomIsTheSame()
+{
+    Classroom room;
+    room.driver.view().setZoom(3);
+    const QByteArray original = shownState(room, 0);
+    room.lessons().seek(6000);
+    room.driver.key(Qt::Key_Return);
+    QCOMPARE(shownState(room, 1), original);
 }
 
 void TestLessonSteps::buttonTakesThePageOver()
