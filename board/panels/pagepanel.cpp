@@ -1,10 +1,10 @@
 #include "panels/pagepanel.h"
 
 #include "core/workspace.h"
+#include "look/pagedelegate.h"
 #include "look/sizedbuttons.h"
 #include "look/sizes.h"
 #include "look/theme.h"
-#include "panels/pagedelegate.h"
 
 #include <pagehost/commands.h>
 #include <pagehost/page.h>
@@ -50,6 +50,7 @@ PagePanel::PagePanel(Workspace *workspace, const QList<QAction *> &actions, QWid
     connectDocument();
     followSizes(this, [this] {
         setFixedHeight(sizes().pageStrip);
+        m_list->setIconSize({sizes().thumbnail, sizes().thumbnail * 9 / 16});
         rebuild();
     });
     connect(workspace, &Workspace::documentReplaced, this, &PagePanel::connectDocument);
@@ -125,7 +126,7 @@ void PagePanel::showCurrent(int index)
 
 void PagePanel::requestThumbnail(pagehost::Page *page)
 {
-    m_thumbnails.request(page, PageDelegate::thumbnailSize() * devicePixelRatioF() * oversampling);
+    m_thumbnails.request(page, m_list->iconSize() * devicePixelRatioF() * oversampling);
 }
 
 void PagePanel::showThumbnail(pagehost::Page *page, const QImage &picture)

@@ -1,6 +1,5 @@
-#include "panels/pagedelegate.h"
+#include "look/pagedelegate.h"
 
-#include "look/sizes.h"
 #include "look/theme.h"
 
 #include <QtGui/QPainter>
@@ -25,24 +24,19 @@ QRectF placeOf(const QImage &picture, const QRectF &room)
 
 } // namespace
 
-QSize PageDelegate::thumbnailSize()
+QSize PageDelegate::itemSize(const QSize &thumbnail)
 {
-    return {sizes().thumbnail, sizes().thumbnail * 9 / 16};
+    return thumbnail + QSize(2 * margin, 2 * margin + numberHeight);
 }
 
-QSize PageDelegate::itemSize()
+QSize PageDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    return thumbnailSize() + QSize(2 * margin, 2 * margin + numberHeight);
-}
-
-QSize PageDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
-{
-    return itemSize();
+    return itemSize(option.decorationSize);
 }
 
 void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    const QRectF room(QPointF(option.rect.topLeft()) + QPointF(margin, margin), QSizeF(thumbnailSize()));
+    const QRectF room(QPointF(option.rect.topLeft()) + QPointF(margin, margin), QSizeF(option.decorationSize));
     const QImage picture = index.data(Qt::DecorationRole).value<QImage>();
     const QRectF place = picture.isNull() ? room : placeOf(picture, room);
     const bool current = option.state & QStyle::State_Selected;

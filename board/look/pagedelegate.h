@@ -5,7 +5,8 @@
 
 namespace board {
 
-/// Paints a page's thumbnail (the item's decoration, a QImage) with its number below; the current one is framed.
+/// Paints a page's thumbnail (the item's decoration, a QImage) in the room of the view's icon size, with its number
+/// below; the current one is framed.
 class PageDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -13,10 +14,8 @@ class PageDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Room for the thumbnail, logical pixels.
-    static QSize thumbnailSize();
-    /// With number and margins.
-    static QSize itemSize();
+    /// Room for the thumbnail with number and margins, logical pixels.
+    static QSize itemSize(const QSize &thumbnail);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
