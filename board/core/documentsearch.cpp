@@ -71,12 +71,11 @@ QString textOf(const FoundText &found)
 int movedPlace(int place, const QVector<TextMatch> &matches, int length, bool isBehind)
 {
     int by = 0;
-    for (const TextMatch &match : matches) {
+    for (const TextMatch &match : matches)
         if (match.start + match.length <= place)
             by += length - match.length;
         else if (match.start < place)
             return match.start + by + (isBehind ? length : 0);
-    }
     return place + by;
 }
 
