@@ -133,7 +133,7 @@ void FinderPopup::resizeEvent(QResizeEvent *event)
 void FinderPopup::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 bool FinderPopup::eventFilter(QObject *, QEvent *event)

@@ -62,7 +62,7 @@ void MomentCard::setPicture(const QImage &picture)
 void MomentCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(m_picture->geometry().adjusted(-1, -1, 0, 0));

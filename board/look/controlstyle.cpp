@@ -40,26 +40,25 @@ bool hasFocus(const QStyleOption &option)
     return isEnabled(option) && (option.state & QStyle::State_HasFocus);
 }
 
-QColor edgeColor(const QStyleOption &option)
+QColor edgeColor(const QStyleOption &option, const ThemeColors &colors)
 {
-    const ThemeColors colors = themeColors();
     if (!isEnabled(option))
         return colors.border;
     return hasFocus(option) ? colors.accent : colors.control;
 }
 
-QColor signColor(bool enabled)
+QColor signColor(bool enabled, const ThemeColors &colors)
 {
-    return enabled ? themeColors().text : themeColors().disabled;
+    return enabled ? colors.text : colors.disabled;
 }
 
 /// Whole pixels of `rect`, an edge of the option's state around them.
-void paintBox(QPainter *painter, const QRect &rect, const QStyleOption &option, const QColor &background,
-              double radius = fieldRadius)
+void paintBox(QPainter *painter, const QRect &rect, const QStyleOption &option, const ThemeColors &colors,
+              const QColor &background, double radius = fieldRadius)
 {
     const double usual = radius > fieldRadius ? roundEdgeWidth * edgeWidth() : edgeWidth();
     const double width = hasFocus(option) ? focusWidth : usual;
-    painter->setPen(QPen(edgeColor(option), width));
+    painter->setPen(QPen(edgeColor(option, colors), width));
     painter->setBrush(background);
     painter->drawRoundedRect(QRectF(rect).adjusted(width / 2, width / 2, -width / 2, -width / 2), radius, radius);
 }
@@ -71,14 +70,14 @@ void paintLine(QPainter *painter, const QVector<QPointF> &line, const QColor &co
     painter->drawPolyline(line.constData(), line.size());
 }
 
-void paintChevron(QPainter *painter, const QRect &rect, bool pointsUp, bool enabled)
+void paintChevron(QPainter *painter, const QRect &rect, bool pointsUp, const QColor &color)
 {
     const QPointF centre = QRectF(rect).center();
     const double tip = pointsUp ? -chevronHeight : chevronHeight;
     paintLine(
         painter,
         {centre + QPointF(-chevronWidth, -tip), centre + QPointF(0, tip), centre + QPointF(chevronWidth, -tip)},
-        signColor(enabled));
+        color);
 }
 
 /// In the middle of `rect`.
@@ -90,57 +89,58 @@ QRect squareIn(const QRect &rect)
     return square;
 }
 
-QColor boxBackground(const QStyleOption &option)
+QColor boxBackground(const QStyleOption &option, const ThemeColors &colors)
 {
-    const ThemeColors colors = themeColors();
     if (!(option.state & QStyle::State_On))
         return colors.field;
     return isEnabled(option) ? colors.accent : colors.border;
 }
 
-QColor markColor(const QStyleOption &option)
+QColor markColor(const QStyleOption &option, const ThemeColors &colors)
 {
-    return isEnabled(option) ? themeColors().onAccent : themeColors().disabled;
+    return isEnabled(option) ? colors.onAccent : colors.disabled;
 }
 
-void paintCheckBox(QPainter *painter, const QStyleOption &option)
+void paintCheckBox(QPainter *painter, const QStyleOption &option, const ThemeColors &colors)
 {
     const QRect box = squareIn(option.rect);
-    paintBox(painter, box, option, boxBackground(option));
+    paintBox(painter, box, option, colors, boxBackground(option, colors));
     const QPointF corner = QRectF(box).topLeft();
     const double unit = box.width() / double(boxSide);
     if (option.state & QStyle::State_On)
         paintLine(
             painter,
             {corner + QPointF(4, 8.25) * unit, corner + QPointF(7, 11.25) * unit, corner + QPointF(12, 5) * unit},
-            markColor(option));
+            markColor(option, colors));
     else if (option.state & QStyle::State_NoChange)
         paintLine(painter, {corner + QPointF(4.5, 8) * unit, corner + QPointF(11.5, 8) * unit},
-                  signColor(isEnabled(option)));
+                  signColor(isEnabled(option), colors));
 }
 
-void paintRadioButton(QPainter *painter, const QStyleOption &option)
+void paintRadioButton(QPainter *painter, const QStyleOption &option, const ThemeColors &colors)
 {
     const QRect box = squareIn(option.rect);
-    paintBox(painter, box, option, boxBackground(option), box.width() / 2.0);
+    paintBox(painter, box, option, colors, boxBackground(option, colors), box.width() / 2.0);
     if (!(option.state & QStyle::State_On))
         return;
     const double radius = box.width() * dotShare / 2;
     painter->setPen(Qt::NoPen);
-    painter->setBrush(markColor(option));
+    painter->setBrush(markColor(option, colors));
     painter->drawEllipse(QRectF(box).center(), radius, radius);
 }
 
-void paintPushButton(QPainter *painter, const QStyleOption &option)
+void paintPushButton(QPainter *painter, const QStyleOption &option, const ThemeColors &colors)
 {
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
     const bool isFlat = button && (button->features & QStyleOptionButton::Flat);
-    const ThemeColors colors = themeColors();
     const bool isPressed = option.state & (QStyle::State_Sunken | QStyle::State_On);
     const bool isHovered = isEnabled(option) && (option.state & QStyle::State_MouseOver);
     if (isFlat && !isPressed)
         return;
-    paintBox(painter, option.rect, option, isPressed ? colors.soft : isHovered ? colors.hover : colors.surface);
+    paintBox(painter, option.rect, option, colors,
+             isPressed   ? colors.soft
+             : isHovered ? colors.hover
+                         : colors.surface);
 }
 
 bool isSeparator(const QStyleOption *option)
@@ -159,20 +159,21 @@ ControlStyle::ControlStyle()
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                  const QWidget *widget) const
 {
+    const ThemeColors colors = themeColors(widget);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     switch (element) {
     case PE_IndicatorCheckBox:
-        paintCheckBox(painter, *option);
+        paintCheckBox(painter, *option, colors);
         break;
     case PE_IndicatorRadioButton:
-        paintRadioButton(painter, *option);
+        paintRadioButton(painter, *option, colors);
         break;
     case PE_PanelButtonCommand:
-        paintPushButton(painter, *option);
+        paintPushButton(painter, *option, colors);
         break;
     case PE_PanelMenu:
-        paintOutlined(painter, option->rect, themeColors().surface, themeColors().border, edgeWidth());
+        paintOutlined(painter, option->rect, colors.surface, colors.border, edgeWidth());
         break;
     case PE_FrameMenu:
         break;
@@ -205,14 +206,16 @@ void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 void ControlStyle::paintCombo(const QStyleOptionComplex &option, QPainter *painter, const QWidget *widget) const
 {
-    paintBox(painter, option.rect, option, themeColors().field);
+    const ThemeColors colors = themeColors(widget);
+    paintBox(painter, option.rect, option, colors, colors.field);
     const QRect arrow = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
-    paintChevron(painter, arrow, false, isEnabled(option));
+    paintChevron(painter, arrow, false, signColor(isEnabled(option), colors));
 }
 
 void ControlStyle::paintSpinBox(const QStyleOptionSpinBox &option, QPainter *painter, const QWidget *widget) const
 {
-    paintBox(painter, option.rect, option, themeColors().field);
+    const ThemeColors colors = themeColors(widget);
+    paintBox(painter, option.rect, option, colors, colors.field);
     if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
         return;
     for (const SubControl button : {SC_SpinBoxUp, SC_SpinBoxDown}) {
@@ -220,14 +223,14 @@ void ControlStyle::paintSpinBox(const QStyleOptionSpinBox &option, QPainter *pai
         const bool isUsable =
             option.stepEnabled & (isUp ? QAbstractSpinBox::StepUpEnabled : QAbstractSpinBox::StepDownEnabled);
         const QRect place = proxy()->subControlRect(CC_SpinBox, &option, button, widget);
-        paintChevron(painter, place, isUp, isUsable && isEnabled(option));
+        paintChevron(painter, place, isUp, signColor(isUsable && isEnabled(option), colors));
     }
 }
 
 /// The groove is filled up to the knob.
 void ControlStyle::paintSlider(const QStyleOptionSlider &option, QPainter *painter, const QWidget *widget) const
 {
-    const ThemeColors colors = themeColors();
+    const ThemeColors colors = themeColors(widget);
     const QColor filled = isEnabled(option) ? colors.accent : colors.border;
     const QRectF knob = squareIn(proxy()->subControlRect(CC_Slider, &option, SC_SliderHandle, widget));
     QRectF groove(option.rect.left(), 0, option.rect.width(), grooveWidth);

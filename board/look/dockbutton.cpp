@@ -18,9 +18,9 @@ constexpr double focusWidth = 2;
 
 QColor backgroundOf(const DockButton &button)
 {
-    const ThemeColors colors = themeColors();
+    const ThemeColors colors = themeColors(&button);
     if (button.isChecked() && button.isEnabled())
-        return colors.accent;
+        return button.isSwitch() ? colors.soft : colors.accent;
     if (button.isDown())
         return colors.soft;
     return button.isEnabled() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
@@ -67,15 +67,16 @@ void DockButton::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(rect(), buttonRadius, buttonRadius);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(themeColors().accent, focusWidth));
+        painter.setPen(QPen(themeColors(this).accent, focusWidth));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
-    const bool isFilled = isChecked() && isEnabled();
-    const QPalette::ColorRole role = isFilled ? QPalette::HighlightedText : QPalette::ButtonText;
+    const bool isOn = isChecked() && isEnabled();
+    const bool isFilled = isOn && !m_isSwitch;
+    const QPalette::ColorRole ofSwitch = isOn ? QPalette::Highlight : QPalette::ButtonText;
+    const QPalette::ColorRole role = isFilled ? QPalette::HighlightedText : ofSwitch;
     QRect picture(0, 0, m_pictureSide, m_pictureSide);
     picture.moveCenter(rect().center());
-    board::icon(m_picture, role)
-        .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    paintIcon(&painter, picture, m_picture, palette().color(role));
     paintMarks(&painter, isFilled ? QPalette::HighlightedText : QPalette::PlaceholderText);
 }
 
@@ -91,9 +92,8 @@ void DockButton::paintMarks(QPainter *painter, QPalette::ColorRole role) const
         painter->drawPolygon(QPolygonF({corner, corner - QPointF(0, cornerMark), corner - inwards}));
     }
     if (m_kept)
-        board::icon(Icon::Lock, role)
-            .paint(painter,
-                   QRect(isMirrored ? lockInset : width() - lockSide - lockInset, lockInset, lockSide, lockSide));
+        paintIcon(painter, {isMirrored ? lockInset : width() - lockSide - lockInset, lockInset, lockSide, lockSide},
+                  Icon::Lock, palette().color(role));
 }
 
 } // namespace board

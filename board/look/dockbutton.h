@@ -22,6 +22,9 @@ public:
     void setPictureSide(int side);
     /// Shows by a mark in the corner that the button opens something.
     void setOpensMore(bool opens);
+    /// Paler while it is on than a tool that is chosen.
+    void setSwitch(bool isSwitch) { m_isSwitch = isSwitch; }
+    bool isSwitch() const { return m_isSwitch; }
     void setKept(bool kept);
     bool isKept() const { return m_kept; }
     QSize sizeHint() const override;
@@ -37,6 +40,7 @@ private:
     int m_pictureSide = 22;
     bool m_opensMore = false;
     bool m_kept = false;
+    bool m_isSwitch = false;
 };
 
 } // namespace board

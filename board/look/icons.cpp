@@ -38,20 +38,7 @@ public:
         const bool isLive = (m_which == Icon::Record || m_which == Icon::Stop) && mode != QIcon::Disabled;
         const bool isChosen = state == QIcon::On && mode != QIcon::Disabled && m_role == QPalette::ButtonText;
         const QColor usual = isChosen ? themeColors().accent : QApplication::palette().color(group, m_role);
-        const QColor color = isLive ? themeColors().record : usual;
-        QColor shade = color;
-        shade.setAlpha(shadeAlpha);
-        const IconShape shape = iconShape(m_which);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / iconGrid, rect.height() / iconGrid);
-        if (pointsAlongText(m_which) && QGuiApplication::isRightToLeft())
-            painter->setTransform(QTransform(-1, 0, 0, 1, iconGrid, 0), true);
-        painter->fillPath(shape.shades, shade);
-        painter->fillPath(shape.areas, color);
-        painter->strokePath(shape.lines, QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->restore();
+        paintIcon(painter, rect, m_which, isLive ? themeColors().record : usual);
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
@@ -76,6 +63,23 @@ private:
 QIcon icon(Icon which, QPalette::ColorRole role)
 {
     return QIcon(new ShapeIconEngine(which, role));
+}
+
+void paintIcon(QPainter *painter, const QRect &rect, Icon which, const QColor &color)
+{
+    QColor shade = color;
+    shade.setAlpha(shadeAlpha);
+    const IconShape shape = iconShape(which);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(rect.topLeft());
+    painter->scale(rect.width() / iconGrid, rect.height() / iconGrid);
+    if (pointsAlongText(which) && QGuiApplication::isRightToLeft())
+        painter->setTransform(QTransform(-1, 0, 0, 1, iconGrid, 0), true);
+    painter->fillPath(shape.shades, shade);
+    painter->fillPath(shape.areas, color);
+    painter->strokePath(shape.lines, QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->restore();
 }
 
 } // namespace board

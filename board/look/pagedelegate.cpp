@@ -40,17 +40,18 @@ void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     const QImage picture = index.data(Qt::DecorationRole).value<QImage>();
     const QRectF place = picture.isNull() ? room : placeOf(picture, room);
     const bool current = option.state & QStyle::State_Selected;
+    const ThemeColors colors = themeColors(option.widget);
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->fillRect(place, Qt::white);
     painter->drawImage(place, picture);
-    const QColor edge = current ? option.palette.color(QPalette::Highlight) : themeColors().control;
+    const QColor edge = current ? colors.accent : colors.control;
     const double width = current ? currentFrameWidth : 1;
     painter->setPen(QPen(edge, width));
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(place.adjusted(-width / 2, -width / 2, width / 2, width / 2), frameRadius,
                              frameRadius);
-    painter->setPen(current ? themeColors().accent : themeColors().faint);
+    painter->setPen(current ? colors.accent : colors.faint);
     const QRectF line(option.rect.left(), room.bottom() + 3, option.rect.width(), numberHeight);
     painter->drawText(line, Qt::AlignCenter, index.data(Qt::DisplayRole).toString());
     painter->restore();

@@ -8,6 +8,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 #include <QtGui/QPixmapCache>
+#include <QtWidgets/QWidget>
 
 #include <cmath>
 
@@ -67,9 +68,10 @@ QVector<double> cuts(double start, double end, double fixed)
 
 } // namespace
 
-void paintSurface(QPainter *painter, const QRect &rect)
+void paintSurface(QPainter *painter, const QWidget &widget)
 {
-    paintOutlined(painter, rect, themeColors().surface, themeColors().border, edgeWidth());
+    const ThemeColors colors = themeColors(&widget);
+    paintOutlined(painter, widget.rect(), colors.surface, colors.border, edgeWidth());
 }
 
 QMargins surfaceShadowMargins()

@@ -3,11 +3,12 @@
 class QMargins;
 class QPainter;
 class QRect;
+class QWidget;
 
 namespace board {
 
-/// Fills a rectangle as bars and drawers that float over the page look, in the theme's colours.
-void paintSurface(QPainter *painter, const QRect &rect);
+/// Fills a widget as bars and drawers that float over the page look, in the colours of its window.
+void paintSurface(QPainter *painter, const QWidget &widget);
 
 /// How far the shadow of a surface reaches beyond it, logical pixels.
 QMargins surfaceShadowMargins();

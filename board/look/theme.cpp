@@ -7,6 +7,7 @@
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 namespace board {
 
@@ -69,8 +70,11 @@ QMenuBar::item:selected, QMenuBar::item:pressed { border: 2px solid %text; paddi
 board--HistoryList::item:selected { border: 2px solid %text; }
 )");
 
+/// Set for a window that is dark in every theme.
+constexpr char keepsDark[] = "keepsDark";
+
 /// Only what the Fusion style can't be told through the palette.
-QString styleSheet()
+QString styleSheet(const ThemeColors &colors)
 {
     static const QString pattern = QStringLiteral(R"(
 QToolButton { border: %edge solid transparent; border-radius: 8px; padding: 5px; }
@@ -104,7 +108,6 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; }
 QToolTip { border: none; padding: 4px 6px; }
 )");
-    const ThemeColors colors = themeColors();
     QString sheet = theCurrentTheme == Theme::HighContrast ? pattern + highContrastRules : pattern;
     sheet.replace("%line", QString::number(sizes().field - edgesOfField));
     sheet.replace("%edge", QStringLiteral("%1px").arg(edgeWidth()));
@@ -133,7 +136,7 @@ void applyTheme(Theme theme)
     theHighContrast = highContrastColors(desktop);
     QApplication::setStyle(new ControlStyle);
     QApplication::setPalette(paletteOf(themeColors()));
-    qApp->setStyleSheet(styleSheet());
+    qApp->setStyleSheet(styleSheet(themeColors()));
 }
 
 Theme currentTheme()
@@ -157,11 +160,27 @@ void applyLargeSizes(bool large)
     applySizes();
 }
 
-ThemeColors themeColors()
+void keepDark(QWidget *window)
+{
+    if (theCurrentTheme == Theme::HighContrast)
+        return;
+    window->setProperty(keepsDark, true);
+    window->setStyleSheet(styleSheet(darkColors));
+    const QPalette palette = paletteOf(darkColors);
+    window->setPalette(palette);
+    // Widgets with style sheets don't take over the palette of their parents.
+    const QList<QWidget *> parts = window->findChildren<QWidget *>();
+    for (QWidget *part : parts)
+        part->setPalette(palette);
+}
+
+ThemeColors themeColors(const QWidget *widget)
 {
     if (theCurrentTheme == Theme::HighContrast)
         return theHighContrast;
-    return theCurrentTheme == Theme::Dark ? darkColors : lightColors;
+    const bool isDark =
+        theCurrentTheme == Theme::Dark || (widget && widget->window()->property(keepsDark).toBool());
+    return isDark ? darkColors : lightColors;
 }
 
 int edgeWidth()

@@ -2,6 +2,8 @@
 
 #include "look/themecolors.h"
 
+class QWidget;
+
 namespace board {
 
 enum class Theme {
@@ -17,7 +19,11 @@ Theme currentTheme();
 /// Makes letters and all parts of the window large enough for fingers, or as usual.
 void applyLargeSizes(bool large);
 
-ThemeColors themeColors();
+/// Gives a window and its present parts the dark colours whatever the theme is. Those of high contrast stay.
+void keepDark(QWidget *window);
+
+/// Those of the window that `widget` is in; null stands for the theme's.
+ThemeColors themeColors(const QWidget *widget = nullptr);
 /// Of lines around fields, surfaces and parts of the window, logical pixels.
 int edgeWidth();
 

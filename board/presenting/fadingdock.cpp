@@ -69,7 +69,7 @@ void FadingDock::moveEvent(QMoveEvent *)
 void FadingDock::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 /// Above a curtain, too.

@@ -159,7 +159,7 @@ void Drawer::paintEvent(QPaintEvent *)
         painter.fillRect(rect(), colors.border);
         return painter.fillRect(rect().adjusted(edgeWidth(), 0, -edgeWidth(), 0), colors.bar);
     }
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 } // namespace board

@@ -186,7 +186,7 @@ bool Shelf::eventFilter(QObject *watched, QEvent *event)
 void Shelf::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 } // namespace board

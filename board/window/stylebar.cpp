@@ -338,7 +338,7 @@ bool StyleBar::eventFilter(QObject *watched, QEvent *event)
 void StyleBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 } // namespace board

@@ -354,7 +354,7 @@ bool TypingBar::eventFilter(QObject *watched, QEvent *event)
 void TypingBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSurface(&painter, rect());
+    paintSurface(&painter, *this);
 }
 
 } // namespace board
