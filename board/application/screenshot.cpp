@@ -91,7 +91,7 @@ constexpr Situation situations[] = {
     {"22-dragging", "dragging"},
     {"23-outline", "outline"},
     {"24-finding", "finding"},
-    {"25-presenter", "presenter", pictureSize, Theme::Dark}};
+    {"25-presenter", "presenter"}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;

@@ -51,11 +51,10 @@ QVector<QRectF> sidesOf(const QRectF &page, const QRectF &exposed)
 
 } // namespace
 
-void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, bool isBare)
+void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, const QColor &color)
 {
     const double margin = repaintMargin / zoom;
-    painter->fillRect(exposed.adjusted(-margin, -margin, margin, margin),
-                      isBare ? QColor(Qt::black) : themeColors().desk);
+    painter->fillRect(exposed.adjusted(-margin, -margin, margin, margin), color);
 }
 
 void paintShadow(QPainter *painter, const QRectF &page, double zoom)

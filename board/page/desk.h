@@ -2,6 +2,7 @@
 
 #include <QtCore/QRectF>
 
+class QColor;
 class QPainter;
 
 namespace pagehost {
@@ -10,9 +11,9 @@ class Page;
 
 namespace board {
 
-/// Paints around a page: the desk, or black where the page stands `isBare`, over `exposed` and a little more. All
-/// in scene coordinates; `zoom` is pixels per scene unit.
-void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, bool isBare);
+/// Paints what is around a page, over `exposed` and a little more. All in scene coordinates; `zoom` is pixels per
+/// scene unit.
+void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, const QColor &color);
 /// Paints the page's shadow on the desk, and the paper that its background lies on.
 void paintShadow(QPainter *painter, const QRectF &page, double zoom);
 void paintPaper(QPainter *painter, const QRectF &page);

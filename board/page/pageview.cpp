@@ -138,6 +138,12 @@ void PageView::setBare(bool bare)
     m_fitted ? showFitted() : viewport()->update();
 }
 
+void PageView::setBareColor(const QColor &color)
+{
+    m_bareColor = color;
+    viewport()->update();
+}
+
 void PageView::setLargeGrips(bool large)
 {
     m_hasLargeGrips = large;
@@ -543,7 +549,7 @@ void PageView::resizeEvent(QResizeEvent *event)
 
 void PageView::drawBackground(QPainter *painter, const QRectF &rect)
 {
-    paintDesk(painter, rect, m_zoom, m_isBare);
+    paintDesk(painter, rect, m_zoom, m_isBare ? m_bareColor : themeColors().desk);
     if (!m_page)
         return;
     if (!m_isBare)

@@ -44,8 +44,9 @@ public:
     pagehost::Page *page() const { return m_page; }
     /// False while the page only plays a lesson.
     bool isEditable() const;
-    /// Shows nothing but the page, as large as it fits, on black.
+    /// Shows nothing but the page, as large as it fits, on black or another colour.
     void setBare(bool bare);
+    void setBareColor(const QColor &color);
     /// Shows grips as large as fingers need them.
     void setLargeGrips(bool large);
     /// A finger uses the tool even where there is a pen.
@@ -171,6 +172,7 @@ private:
     int m_shelfMargin = 0; ///< between it and the page, logical pixels
     bool m_fitted = true;
     bool m_isBare = false;
+    QColor m_bareColor = Qt::black;
     bool m_hasLargeGrips = false;
     bool m_spaceDown = false;
     bool m_panning = false;

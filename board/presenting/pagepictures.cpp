@@ -1,6 +1,7 @@
 #include "presenting/pagepictures.h"
 
 #include "core/workspace.h"
+#include "look/pagedelegate.h"
 #include "look/theme.h"
 #include "page/pageview.h"
 #include "presenting/stage.h"
@@ -16,15 +17,6 @@ namespace {
 constexpr QSize nextSize(286, 161);
 /// Two in a row beside a scroll bar.
 constexpr QSize smallSize(124, 70);
-constexpr QSize cellSize(132, 98);
-
-/// The page that is shown keeps its colours in the list; styles tint selected pictures.
-QIcon untintedIcon(const QPixmap &picture)
-{
-    QIcon icon(picture);
-    icon.addPixmap(picture, QIcon::Selected);
-    return icon;
-}
 
 } // namespace
 
@@ -46,24 +38,38 @@ PagePictures::PagePictures(const Workspace *workspace, Stage *stage, QWidget *mi
     column->addWidget(m_nextName);
     column->addWidget(m_next);
     column->addWidget(middle);
-    auto *heading = new QLabel(workspace->text("IDS_BOARD_PAGES"), this);
-    QFont font = heading->font();
-    font.setBold(true);
-    heading->setFont(font);
-    column->addWidget(heading);
+    addHeading(column);
     column->addWidget(m_list, 1);
     connect(stage->view(), &PageView::pageShown, this, &PagePictures::showPage);
     connect(&m_painter, &pagehost::ThumbnailPainter::ready, this, &PagePictures::showPicture);
     showPage();
 }
 
+/// Below a line that divides it from the times.
+void PagePictures::addHeading(QVBoxLayout *column)
+{
+    auto *line = new QWidget(this);
+    line->setFixedHeight(edgeWidth());
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::Mid);
+    column->addWidget(line);
+    column->addSpacing(mediumGap);
+    auto *heading = new QLabel(m_workspace->text("IDS_BOARD_PAGES"), this);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    column->addWidget(heading);
+}
+
 void PagePictures::makeList()
 {
+    m_list->setItemDelegate(new PageDelegate(m_list));
+    m_list->setStyleSheet(QStringLiteral("QListView { background: transparent }"));
     m_list->setViewMode(QListView::IconMode);
     m_list->setMovement(QListView::Static);
     m_list->setResizeMode(QListView::Adjust);
     m_list->setIconSize(smallSize);
-    m_list->setGridSize(cellSize);
+    m_list->setGridSize(PageDelegate::itemSize(smallSize));
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The page keeps the keys.
@@ -102,7 +108,6 @@ void PagePictures::rebuild()
     m_list->clear();
     for (pagehost::Page *page : qAsConst(m_pages)) {
         auto *item = new QListWidgetItem(QString::number(m_list->count() + 1), m_list);
-        item->setSizeHint(cellSize);
         item->setData(Qt::AccessibleTextRole, m_workspace->text("IDS_BOARD_PAGE_NUMBER").arg(m_list->count()));
         connect(page, &pagehost::Page::contentChanged, this, [this, page] { request(page); });
         // A page may be deleted later than it leaves the document, which is noticed here.
@@ -120,7 +125,7 @@ void PagePictures::showPicture(pagehost::Page *page, const QImage &picture)
 {
     const int row = m_pages.indexOf(page);
     if (QListWidgetItem *item = m_list->item(row))
-        item->setIcon(untintedIcon(QPixmap::fromImage(picture)));
+        item->setData(Qt::DecorationRole, picture);
     if (!document() || row != document()->indexOf(m_stage->view()->page()) + 1)
         return;
     QPixmap large = QPixmap::fromImage(picture);

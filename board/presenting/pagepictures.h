@@ -6,6 +6,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 
+class QVBoxLayout;
+
 namespace pagehost {
 class Document;
 class Page;
@@ -36,6 +38,7 @@ private:
     void rebuild();
     void request(pagehost::Page *page);
     void showPicture(pagehost::Page *page, const QImage &picture);
+    void addHeading(QVBoxLayout *column);
     pagehost::Document *document() const;
 
     const Workspace *m_workspace;

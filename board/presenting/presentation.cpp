@@ -107,8 +107,9 @@ void Presentation::showOnOneScreen(const QRect &screen)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_stage);
     auto *dock = new FadingDock(m_stage->view()->viewport());
-    new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(),
-                      areSizesLarge() ? largeButtons : usualButtons);
+    auto *bar = new PresentingBar(m_workspace, *m_commands, m_stage, dock->row(),
+                                  areSizesLarge() ? largeButtons : usualButtons);
+    bar->addEnd(m_workspace);
     showOver(m_single, screen);
 }
 

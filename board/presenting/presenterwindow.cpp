@@ -1,14 +1,18 @@
 #include "presenting/presenterwindow.h"
 
+#include "core/commands.h"
 #include "core/workspace.h"
+#include "look/dockbutton.h"
 #include "look/surface.h"
 #include "look/theme.h"
+#include "page/pageview.h"
 #include "presenting/pagepictures.h"
 #include "presenting/presentingbar.h"
 #include "presenting/stage.h"
 
 #include <QtCore/QTime>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -18,6 +22,7 @@ namespace board {
 
 namespace {
 
+constexpr int headHeight = 40;
 constexpr int barHeight = 72;
 /// Of the bar's buttons, the largest that fit.
 constexpr PresentingBar::ButtonSizes buttonSizes[] = {{56, 26}, {48, 24}, {40, 22}, {36, 22}};
@@ -39,7 +44,27 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        paintSurface(&painter, rect());
+        paintSurface(&painter, *this);
+    }
+};
+
+/// With a line towards what is below.
+class Head : public QWidget
+{
+public:
+    explicit Head(QWidget *parent)
+        : QWidget(parent)
+    {
+        setFixedHeight(headHeight);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        const ThemeColors colors = themeColors(this);
+        QPainter painter(this);
+        painter.fillRect(rect(), colors.bar);
+        painter.fillRect(QRect(0, height() - edgeWidth(), width(), edgeWidth()), colors.border);
     }
 };
 
@@ -83,25 +108,32 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     , m_elapsed(makeTime(this))
     , m_timeOfDay(makeTime(this))
 {
-    setAutoFillBackground(true);
+    makeBold(m_elapsed);
     m_barArea = new BarArea(this);
     auto *row = new QHBoxLayout(m_barArea);
     row->setSpacing(smallGap);
     row->setContentsMargins(smallGap, 0, smallGap, 0);
     m_bar = new PresentingBar(workspace, commands, stage, row, buttonSizes[0]);
+    m_bar->addButton(makePagesSwitch(commands), Icon::Pages)->setSwitch(true);
     row->addStretch();
     m_pictures = new PagePictures(workspace, stage, makeTimes(workspace), this);
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(2 * mediumGap, mediumGap, mediumGap, mediumGap);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeTop(workspace, stage));
+    auto *grid = new QGridLayout;
+    grid->setContentsMargins(2 * mediumGap, 2 * mediumGap, mediumGap, 2 * mediumGap);
     grid->setSpacing(mediumGap);
-    grid->addWidget(makeTop(workspace, stage), 0, 0, 1, 2);
-    grid->addWidget(stage, 1, 0);
-    grid->addWidget(m_barArea, 2, 0);
-    // A screen may be smaller than the parts are at first.
-    grid->setSizeConstraint(QLayout::SetNoConstraint);
-    grid->addWidget(m_pictures, 1, 1, 2, 1);
+    grid->addWidget(stage, 0, 0);
+    grid->addWidget(m_barArea, 1, 0);
+    grid->addWidget(m_pictures, 0, 1, 2, 1);
     grid->setColumnStretch(0, 1);
-    grid->setRowStretch(1, 1);
+    grid->setRowStretch(0, 1);
+    column->addLayout(grid, 1);
+    // A screen may be smaller than the parts are at first.
+    column->setSizeConstraint(QLayout::SetNoConstraint);
+    keepDark(this);
+    showDesk(stage);
     m_sinceStart.start();
     m_seconds.setTimerType(Qt::PreciseTimer);
     m_seconds.start(milliseconds);
@@ -109,11 +141,26 @@ PresenterWindow::PresenterWindow(const Workspace *workspace, const Commands &com
     showTime();
 }
 
+/// Around the page, too.
+void PresenterWindow::showDesk(Stage *stage)
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, themeColors(this).desk);
+    setPalette(colors);
+    setAutoFillBackground(true);
+    stage->view()->setBareColor(themeColors(this).desk);
+}
+
 void PresenterWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    const QMargins margins = layout()->contentsMargins();
-    const int room = width() - margins.left() - margins.right() - m_pictures->width() - mediumGap;
+    fitBar();
+}
+
+/// With the largest buttons that have room beside the pages.
+void PresenterWindow::fitBar()
+{
+    const int room = width() - 4 * mediumGap - (m_pictures->isHidden() ? 0 : m_pictures->width());
     for (const PresentingBar::ButtonSizes &sizes : buttonSizes) {
         m_bar->setButtonSizes(sizes);
         m_barArea->layout()->invalidate();
@@ -122,11 +169,28 @@ void PresenterWindow::resizeEvent(QResizeEvent *event)
     }
 }
 
+/// Gives the page the room of the pages, the next one and the time.
+QAction *PresenterWindow::makePagesSwitch(const Commands &commands)
+{
+    const QAction *strip = commands.action(Command::PageStrip);
+    auto *action = new QAction(strip->text(), this);
+    action->setToolTip(strip->toolTip());
+    action->setShortcuts(strip->shortcuts());
+    action->setCheckable(true);
+    action->setChecked(true);
+    addAction(action);
+    connect(action, &QAction::toggled, this, [this](bool shown) {
+        m_pictures->setVisible(shown);
+        fitBar();
+    });
+    return action;
+}
+
 QWidget *PresenterWindow::makeTop(const Workspace *workspace, Stage *stage)
 {
-    auto *top = new QWidget(this);
+    auto *top = new Head(this);
     auto *row = new QHBoxLayout(top);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(2 * mediumGap, 0, mediumGap, 0);
     auto *title = new QLabel(workspace->text("IDS_BOARD_ON_OTHER_SCREEN"), top);
     makeBold(title);
     row->addWidget(title);

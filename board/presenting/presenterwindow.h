@@ -4,6 +4,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+class QAction;
 class QLabel;
 
 namespace board {
@@ -18,7 +19,7 @@ class Workspace;
 QString elapsedText(qint64 milliseconds);
 
 /// The window of who presents, while the audience looks at another screen: the page to draw on, the next one, the
-/// time, and all pages.
+/// time, and all pages. It is dark, so that it doesn't shine into a dim room.
 class PresenterWindow : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,9 @@ protected:
 
 private:
     QWidget *makeTop(const Workspace *workspace, Stage *stage);
+    QAction *makePagesSwitch(const Commands &commands);
+    void fitBar();
+    void showDesk(Stage *stage);
     QWidget *makeTimes(const Workspace *workspace);
     void showTime();
 

@@ -31,10 +31,12 @@ PresentingBar::PresentingBar(const Workspace *workspace, const Commands &command
                              const ButtonSizes &sizes)
     : QObject(row->parentWidget())
     , m_stage(stage)
+    , m_row(row)
+    , m_sizes(sizes)
     , m_pageNumber(new QLabel(row->parentWidget()))
 {
     const auto add = [&](Command command) {
-        addButton(row, commands.action(command), factsOf(command).icon.value_or(Icon::More));
+        addButton(commands.action(command), factsOf(command).icon.value_or(Icon::More));
     };
     add(Command::PreviousPage);
     m_pageNumber->setAlignment(Qt::AlignCenter);
@@ -44,54 +46,68 @@ PresentingBar::PresentingBar(const Workspace *workspace, const Commands &command
     m_pageNumber->setFont(font);
     row->addWidget(m_pageNumber);
     add(Command::NextPage);
-    addLine(row);
+    addLine();
     for (const Command command :
          {Command::SelectTool, Command::PenTool, Command::HighlighterTool, Command::EraserTool, Command::LaserTool})
         add(command);
-    addLine(row);
-    auto *curtain = new QAction(workspace->text("IDS_BOARD_CURTAIN"), this);
-    curtain->setToolTip(QStringLiteral("%1 (B)").arg(curtain->text()));
-    curtain->setCheckable(true);
-    connect(curtain, &QAction::triggered, stage->curtain(), &Curtain::setDrawn);
-    connect(stage->curtain(), &Curtain::changed, curtain,
-            [=] { curtain->setChecked(stage->curtain()->isDrawn()); });
-    addButton(row, curtain, Icon::Curtain);
-    auto *end = new QAction(workspace->text("IDS_BOARD_END_PRESENTING"), this);
-    end->setToolTip(QStringLiteral("%1 (Esc)").arg(end->text()));
-    connect(end, &QAction::triggered, stage, &Stage::endRequested);
-    addLine(row);
-    addButton(row, end, Icon::EndPresenting);
-    setButtonSizes(sizes);
+    addLine();
+    addCurtain(workspace);
+    addButton(stage->fit(), Icon::ZoomFit);
+    m_pageNumber->setMinimumWidth(qRound(sizes.button * numberPart));
     connect(stage->view(), &PageView::pageShown, this, &PresentingBar::showPage);
     showPage();
 }
 
-void PresentingBar::addButton(QHBoxLayout *row, QAction *action, Icon picture)
+void PresentingBar::addCurtain(const Workspace *workspace)
 {
-    auto *button = new DockButton(row->parentWidget());
+    const Curtain *curtain = m_stage->curtain();
+    auto *action = new QAction(workspace->text("IDS_BOARD_CURTAIN"), this);
+    action->setToolTip(QStringLiteral("%1 (B)").arg(action->text()));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, curtain, &Curtain::setDrawn);
+    connect(curtain, &Curtain::changed, action, [=] { action->setChecked(curtain->isDrawn()); });
+    addButton(action, Icon::Curtain)->setSwitch(true);
+}
+
+void PresentingBar::addEnd(const Workspace *workspace)
+{
+    auto *end = new QAction(workspace->text("IDS_BOARD_END_PRESENTING"), this);
+    end->setToolTip(QStringLiteral("%1 (Esc)").arg(end->text()));
+    connect(end, &QAction::triggered, m_stage, &Stage::endRequested);
+    addLine();
+    addButton(end, Icon::EndPresenting);
+}
+
+DockButton *PresentingBar::addButton(QAction *action, Icon picture)
+{
+    auto *button = new DockButton(m_row->parentWidget());
     button->setDefaultAction(action);
     button->setPicture(picture);
+    button->setFixedSize(m_sizes.button, m_sizes.button);
+    button->setPictureSide(m_sizes.picture);
     button->setAccessibleName(action->text());
     // A tool that nobody offers has no button.
     button->setVisible(action->isVisible());
-    row->addWidget(button);
+    m_row->addWidget(button);
     m_buttons.append(button);
+    return button;
 }
 
-void PresentingBar::addLine(QHBoxLayout *row)
+void PresentingBar::addLine()
 {
-    auto *line = new QWidget(row->parentWidget());
-    line->setFixedWidth(1);
+    auto *line = new QWidget(m_row->parentWidget());
+    line->setFixedSize(1, qRound(m_sizes.button * linePart));
     line->setAutoFillBackground(true);
     line->setBackgroundRole(QPalette::Mid);
-    row->addSpacing(smallGap);
-    row->addWidget(line);
-    row->addSpacing(smallGap);
+    m_row->addSpacing(smallGap);
+    m_row->addWidget(line);
+    m_row->addSpacing(smallGap);
     m_lines.append(line);
 }
 
 void PresentingBar::setButtonSizes(const ButtonSizes &sizes)
 {
+    m_sizes = sizes;
     for (DockButton *button : qAsConst(m_buttons)) {
         button->setFixedSize(sizes.button, sizes.button);
         button->setPictureSide(sizes.picture);

@@ -17,7 +17,7 @@ class DockButton;
 class Stage;
 class Workspace;
 
-/// The buttons of a presentation: pages, pens, laser pointer, curtain, end.
+/// The buttons of a presentation: pages, pens, laser pointer, curtain, whole page, and what is appended.
 class PresentingBar : public QObject
 {
     Q_OBJECT
@@ -33,15 +33,19 @@ public:
     PresentingBar(const Workspace *workspace, const Commands &commands, Stage *stage, QHBoxLayout *row,
                   const ButtonSizes &sizes);
 
+    DockButton *addButton(QAction *action, Icon picture);
+    void addEnd(const Workspace *workspace);
     void setButtonSizes(const ButtonSizes &sizes);
     QLabel *pageNumber() const { return m_pageNumber; }
 
 private:
-    void addButton(QHBoxLayout *row, QAction *action, Icon picture);
-    void addLine(QHBoxLayout *row);
+    void addCurtain(const Workspace *workspace);
+    void addLine();
     void showPage();
 
     Stage *m_stage;
+    QHBoxLayout *m_row;
+    ButtonSizes m_sizes;
     QLabel *m_pageNumber;
     QVector<DockButton *> m_buttons;
     QVector<QWidget *> m_lines;

@@ -34,7 +34,26 @@ Stage::Stage(const Workspace *workspace, Commands *commands, ToolChoice *tools, 
     m_view->setBare(true);
     m_view->installEventFilter(this);
     connect(m_curtain, &Curtain::changed, this, &Stage::tellCurtain);
+    addZoom(Command::ZoomIn, [this] { m_view->zoomIn(); });
+    addZoom(Command::ZoomOut, [this] { m_view->zoomOut(); });
+    addZoom(Command::ActualSize, [this] { m_view->setZoom(1); });
+    m_fit = addZoom(Command::FitPage, [this] { m_view->fitPage(); });
+    m_fit->setEnabled(false);
+    connect(m_view, &PageView::zoomChanged, this, [this] { m_fit->setEnabled(!m_view->isFitted()); });
     connect(m_view, &PageView::toolGivenUp, tools, [tools] { tools->choose(Tool::Select); });
+}
+
+/// The commands' own actions zoom the page behind.
+template<typename Slot> QAction *Stage::addZoom(Command command, Slot slot)
+{
+    const QAction *original = m_commands->action(command);
+    auto *action = new QAction(original->text(), this);
+    action->setToolTip(original->toolTip());
+    action->setShortcuts(original->shortcuts());
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, slot);
+    addAction(action);
+    return action;
 }
 
 bool Stage::eventFilter(QObject *, QEvent *event)

@@ -4,6 +4,8 @@
 
 #include <QtWidgets/QWidget>
 
+class QAction;
+
 namespace board {
 
 class Commands;
@@ -28,6 +30,8 @@ public:
     Curtain *curtain() const { return m_curtain; }
     LaserPointer *laser() const { return m_laser; }
     Voice *voice() const { return m_voice; }
+    /// Shows the whole page again.
+    QAction *fit() const { return m_fit; }
 
 Q_SIGNALS:
     void endRequested();
@@ -36,6 +40,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    template<typename Slot> QAction *addZoom(Command command, Slot slot);
     bool useKey(const QKeyEvent &event);
     bool turn(bool forwards);
     bool run(Command command);
@@ -49,6 +54,7 @@ private:
     Curtain *m_curtain;
     LaserPointer *m_laser;
     Voice *m_voice;
+    QAction *m_fit;
     bool m_isCovered = false; ///< as readers were told
 };
 

@@ -1,7 +1,6 @@
 // Presenting: the page over a whole screen, with keys, clickers, curtain, laser pointer and a bar that fades.
 
-#include <board/boarddriver.h>
-#include <board/hands.h>
+#include "show.h"
 
 #include <support/listed.h>
 #include <support/virtualtime.h>
@@ -15,9 +14,7 @@
 #include <presenting/curtain.h>
 #include <presenting/fadingdock.h>
 #include <presenting/laserpointer.h>
-#include <presenting/pagepictures.h>
 #include <presenting/presentation.h>
-#include <presenting/screenplan.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/commands.h>
@@ -34,59 +31,7 @@ using namespace boardtest;
 using board::Command;
 using board::Tool;
 
-using Rects = QVector<QRect>;
-
 namespace {
-
-/// Three pages, the second one with a rectangle of 200 × 120 at (500, 300), presented.
-struct Show
-{
-    BoardDriver board;
-    CBaseObject *shape = nullptr;
-
-    explicit Show(bool isStarted = true)
-    {
-        run(Command::AddPage);
-        run(Command::AddPage);
-        document().setCurrentIndex(1);
-        shape = board.draw(rectangle, {500, 300}, {700, 420});
-        board.page().select({});
-        if (!isStarted)
-            return;
-        board.key(Qt::Key_F5);
-        // Over the dock the pointer would keep it.
-        movePointer(farAway());
-    }
-    pagehost::Document &document() { return *board.workspace().document(); }
-    void run(Command command) const { board.window().commands()->action(command)->trigger(); }
-    board::Presentation &presentation() const { return *board.window().presentation(); }
-    board::Stage &stage() const { return *presentation().stage(); }
-    QWidget *viewport() const { return stage().view()->viewport(); }
-    board::FadingDock &dock() const { return *stage().findChild<board::FadingDock *>(); }
-    int page() { return document().currentIndex(); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QVERIFY(activate(*stage().window()));
-        stage().view()->setFocus();
-        QTest::keyClick(stage().view(), key, modifiers);
-    }
-    void movePointer(const QPoint &pos) const { board.user().move(viewport(), pos, Qt::NoButton, Qt::NoModifier); }
-    QPoint at(const QPointF &scenePos) const { return stage().view()->mapFromScene(scenePos); }
-    /// Far from the dock.
-    QPoint farAway() const { return {viewport()->width() - 10, 10}; }
-};
-
-/// The same with the page on a second screen.
-struct TwoScreens
-{
-    Show show{false};
-
-    explicit TwoScreens(const QSize &presenter = {1366, 768})
-    {
-        show.presentation().start({{0, 0, 800, 600}, QRect(QPoint(800, 0), presenter)});
-    }
-    board::AudienceWindow &audience() const { return *show.presentation().audience(); }
-};
 
 void drag(QWidget *widget, const QPoint &from, const QPoint &to)
 {
@@ -127,6 +72,9 @@ private Q_SLOTS:
     void chosenToolOfTheDockIsFilled();
     void buttonsOfTheDockAreAsLargeAsFingersNeed();
     void dockAndCurtainStayWhenThePageIsMoved();
+    void keysZoomThePresentedPage();
+    void wholePageIsShownAgainByTheDock();
+    void curtainOfTheDockIsASwitch();
     void dockFadesAfterThreeSeconds();
     void dockComesBackWhenThePointerIsNear();
     void dockStaysAwayWhenThePointerIsFar();
@@ -135,20 +83,6 @@ private Q_SLOTS:
     void laserPointsAndMovesNothing();
     void laserIsPutAwayAtTheEnd();
     void trailFadesWithinASecond();
-    void pageGoesToTheOtherScreen_data();
-    void pageGoesToTheOtherScreen();
-    void audienceSeesThePageAlone();
-    void audienceFollowsThePresenter();
-    void audienceSeesCurtainAndLaser();
-    void barOfThePresenterFitsASmallScreen();
-    void barOfThePresenterIsASurface();
-    void presenterSeesTheNextPage();
-    void pictureOfTheShownPageKeepsItsColours();
-    void presenterTurnsToAPageByAClick();
-    void presenterSeesTheTimeSinceTheStart();
-    void timeSinceTheStart_data();
-    void timeSinceTheStart();
-    void escapeEndsBothScreens();
     void presentingFromTheCommandLine();
 };
 
@@ -411,6 +345,55 @@ void TestPresenting::dockAndCurtainStayWhenThePageIsMoved()
     QCOMPARE(t.stage().curtain()->geometry(), t.viewport()->rect());
 }
 
+void TestPresenting::keysZoomThePresentedPage()
+{
+    const Show t;
+    board::PageView &view = *t.stage().view();
+    const double behind = t.board.view().zoom();
+    const double fitted = view.zoom();
+    t.press(Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(view.zoom(), 1.0);
+    t.press(Qt::Key_Equal, Qt::ControlModifier);
+    QCOMPARE(view.zoom(), 1.25);
+    t.press(Qt::Key_Minus, Qt::ControlModifier);
+    QCOMPARE(view.zoom(), 1.0);
+    t.press(Qt::Key_9, Qt::ControlModifier);
+    QCOMPARE(view.zoom(), fitted);
+    QCOMPARE(t.board.view().zoom(), behind);
+}
+
+void TestPresenting::wholePageIsShownAgainByTheDock()
+{
+    const Show t;
+    board::PageView &view = *t.stage().view();
+    const double fitted = view.zoom();
+    board::DockButton *fit = nullptr;
+    for (board::DockButton *button : support::listed(t.dock().findChildren<board::DockButton *>()))
+        if (button->defaultAction() == t.stage().fit())
+            fit = button;
+    QVERIFY(fit);
+    QVERIFY2(!fit->isEnabled(), "nothing to do yet");
+    view.setZoom(3);
+    QVERIFY(fit->isEnabled());
+    QTest::mouseClick(fit, Qt::LeftButton);
+    QCOMPARE(view.zoom(), fitted);
+    QVERIFY(!fit->isEnabled());
+}
+
+/// Only the tool in use is filled.
+void TestPresenting::curtainOfTheDockIsASwitch()
+{
+    const Show t;
+    t.press(Qt::Key_B);
+    for (board::DockButton *button : support::listed(t.dock().findChildren<board::DockButton *>()))
+        if (button->isChecked() && button->isSwitch()) {
+            QCOMPARE(button->text(), QString("Curtain"));
+            QCOMPARE(button->grab().toImage().pixelColor(22, 3), board::themeColors().soft);
+            return;
+        }
+    QFAIL("The curtain's button isn't on.");
+}
+
 void TestPresenting::dockFadesAfterThreeSeconds()
 {
     const Show t;
@@ -510,182 +493,6 @@ void TestPresenting::trailFadesWithinASecond()
     QCOMPARE(trail.places(5999).size(), 2);
     QCOMPARE(trail.places(6000).size(), 1);
     QCOMPARE(trail.places(6250).size(), 0);
-}
-
-void TestPresenting::pageGoesToTheOtherScreen_data()
-{
-    QTest::addColumn<Rects>("screens");
-    QTest::addColumn<int>("own");
-    QTest::addColumn<QRect>("page");
-    QTest::addColumn<QRect>("presenter");
-    const QRect laptop(0, 0, 1366, 768);
-    const QRect projector(1366, 0, 1920, 1080);
-    QTest::newRow("one screen") << Rects{laptop} << 0 << laptop << QRect();
-    QTest::newRow("window on the first") << Rects{laptop, projector} << 0 << projector << laptop;
-    QTest::newRow("window on the second") << Rects{laptop, projector} << 1 << laptop << projector;
-    QTest::newRow("three") << Rects{laptop, projector, {-1024, 0, 1024, 768}} << 1 << laptop << projector;
-    QTest::newRow("the same on both") << Rects{laptop, {0, 0, 1024, 768}} << 0 << laptop << QRect();
-}
-
-void TestPresenting::pageGoesToTheOtherScreen()
-{
-    QFETCH(Rects, screens);
-    QFETCH(int, own);
-    QFETCH(QRect, page);
-    QFETCH(QRect, presenter);
-    const board::ScreenPlan plan = board::planScreens(screens, own);
-    QCOMPARE(plan.page, page);
-    QCOMPARE(plan.presenter.value_or(QRect()), presenter);
-}
-
-void TestPresenting::audienceSeesThePageAlone()
-{
-    TwoScreens t;
-    t.show.board.page().select({t.show.shape});
-    board::AudienceView &view = *t.audience().view();
-    QCOMPARE(view.page(), &t.show.board.page());
-    const double rate = qMin(view.viewport()->width() / 1280.0, view.viewport()->height() / 720.0);
-    QCOMPARE(view.transform().m11(), rate);
-    // The corner of the selected shape has a handle in the presenter's view.
-    const QPointF beside(497, 297);
-    const QImage picture = view.viewport()->grab().toImage();
-    QCOMPARE(picture.pixelColor(view.mapFromScene(beside)),
-             picture.pixelColor(view.mapFromScene(QPointF(100, 100))));
-    const QImage presented = t.show.viewport()->grab().toImage();
-    QVERIFY(presented.pixelColor(t.show.at(beside)) != presented.pixelColor(t.show.at({100, 100})));
-}
-
-void TestPresenting::audienceFollowsThePresenter()
-{
-    TwoScreens t;
-    t.show.press(Qt::Key_PageDown);
-    QCOMPARE(t.show.page(), 2);
-    QCOMPARE(t.audience().view()->page(), t.show.document().page(2));
-    // Not the audience's: handles have the size of the presenter's view.
-    QCOMPARE(t.show.document().zoomRate(), t.show.stage().view()->zoom());
-}
-
-void TestPresenting::audienceSeesCurtainAndLaser()
-{
-    TwoScreens t;
-    t.show.press(Qt::Key_B);
-    QVERIFY(t.audience().curtain()->isVisible());
-    t.show.stage().curtain()->setPart({0, 0.5, 1, 0.5});
-    QCOMPARE(t.audience().curtain()->part(), QRectF(0, 0.5, 1, 0.5));
-    t.show.press(Qt::Key_B);
-    QVERIFY(!t.audience().curtain()->isVisible());
-    t.show.press(Qt::Key_K);
-    t.show.movePointer(t.show.at({100, 100}));
-    QCOMPARE(t.audience().laser()->trail().size(), 1);
-    QCOMPARE(t.audience().laser()->trail().first().pos, t.show.stage().laser()->trail().first().pos);
-}
-
-void TestPresenting::barOfThePresenterFitsASmallScreen()
-{
-    TwoScreens t({800, 600});
-    support::deliverEvents();
-    QWidget *window = t.show.presentation().presenter();
-    QCOMPARE(window->size(), QSize(800, 600));
-    const auto placeOf = [window](const QWidget *widget) {
-        return QRect(widget->mapTo(window, QPoint()), widget->size());
-    };
-    const QRect pictures = placeOf(t.show.presentation().presenter()->pictures());
-    int right = 0;
-    int count = 0;
-    const QList<QToolButton *> buttons = window->findChildren<QToolButton *>();
-    for (const QToolButton *button : buttons) {
-        if (!button->isVisible())
-            continue;
-        const QRect place = placeOf(button);
-        QVERIFY(place.left() >= right);
-        QVERIFY(place.right() < pictures.left());
-        QVERIFY(place.width() >= 36 && place.height() == place.width());
-        right = place.right() + 1;
-        ++count;
-    }
-    QCOMPARE(count, 9);
-}
-
-void TestPresenting::barOfThePresenterIsASurface()
-{
-    TwoScreens t;
-    QWidget *bar = t.show.presentation().presenter()->findChild<board::DockButton *>()->parentWidget();
-    QCOMPARE(bar->height(), 72);
-    const QImage picture = bar->grab().toImage();
-    QCOMPARE(picture.pixelColor(500, 0), board::themeColors().border);
-    QCOMPARE(picture.pixelColor(500, 2), board::themeColors().surface);
-}
-
-void TestPresenting::presenterSeesTheNextPage()
-{
-    TwoScreens t;
-    const board::PagePictures &pictures = *t.show.presentation().presenter()->pictures();
-    QCOMPARE(pictures.nextName()->text(), QString("Next: page 3"));
-    QCOMPARE(pictures.list()->count(), 3);
-    QCOMPARE(pictures.list()->currentRow(), 1);
-    t.show.press(Qt::Key_PageDown);
-    QCOMPARE(pictures.nextName()->text(), QString("This is the last page"));
-    QCOMPARE(pictures.list()->currentRow(), 2);
-    t.show.run(Command::AddPage);
-    QCOMPARE(pictures.list()->count(), 4);
-    QCOMPARE(pictures.list()->currentRow(), 3);
-}
-
-void TestPresenting::pictureOfTheShownPageKeepsItsColours()
-{
-    TwoScreens t;
-    QListWidget *list = t.show.presentation().presenter()->pictures()->list();
-    const auto picture = [list](QIcon::Mode mode) {
-        return list->currentItem()->icon().pixmap(list->iconSize(), mode).toImage();
-    };
-    QVERIFY(support::passUntil([&] { return !picture(QIcon::Normal).isNull(); }));
-    QCOMPARE(picture(QIcon::Selected), picture(QIcon::Normal));
-}
-
-void TestPresenting::presenterTurnsToAPageByAClick()
-{
-    TwoScreens t;
-    QListWidget *list = t.show.presentation().presenter()->pictures()->list();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      list->visualItemRect(list->item(0)).center());
-    QCOMPARE(t.show.page(), 0);
-}
-
-void TestPresenting::presenterSeesTheTimeSinceTheStart()
-{
-    const TwoScreens t;
-    const QLabel *elapsed = t.show.presentation().presenter()->elapsed();
-    QCOMPARE(elapsed->text(), QString("00:00"));
-    support::pass(61000);
-    QCOMPARE(elapsed->text(), QString("01:01"));
-}
-
-void TestPresenting::timeSinceTheStart_data()
-{
-    QTest::addColumn<qint64>("time");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("start") << qint64(999) << "00:00";
-    QTest::newRow("minutes") << qint64(1450000) << "24:10";
-    QTest::newRow("just below an hour") << qint64(3599999) << "59:59";
-    QTest::newRow("hours") << qint64(5050000) << "1:24:10";
-}
-
-void TestPresenting::timeSinceTheStart()
-{
-    QFETCH(qint64, time);
-    QFETCH(QString, text);
-    QCOMPARE(board::elapsedText(time), text);
-}
-
-void TestPresenting::escapeEndsBothScreens()
-{
-    TwoScreens t;
-    t.show.press(Qt::Key_Escape);
-    QVERIFY(!t.show.presentation().isRunning());
-    support::deliverEvents();
-    QCOMPARE(t.show.board.window().findChildren<board::AudienceWindow *>().size(), 0);
-    QCOMPARE(t.show.board.window().findChildren<board::PresenterWindow *>().size(), 0);
-    QCOMPARE(t.show.document().zoomRate(), t.show.board.view().zoom());
 }
 
 void TestPresenting::presentingFromTheCommandLine()
