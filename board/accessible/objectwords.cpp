@@ -27,7 +27,7 @@ const QString comma = QStringLiteral(", ");
 QString lowered(const QString &caption, const Workspace &workspace)
 {
     const bool isGerman = workspace.localizer().language().startsWith(QLatin1String("de"));
-    return isGerman ? caption : caption.left(1).toLower() + caption.mid(1);
+    return isGerman || caption.isEmpty() ? caption : caption.at(0).toLower() + caption.mid(1);
 }
 
 QString entryOf(const SettingControl &setting, const Workspace &workspace)

@@ -2,10 +2,10 @@
 
 #include "core/workspace.h"
 #include "look/theme.h"
+#include "panels/fields/letteredfield.h"
 #include "panels/fields/numberfield.h"
 
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QLabel>
 
 #include <cmath>
 
@@ -29,7 +29,6 @@ double normalizedDegrees(double degrees)
 
 PlaceControls::PlaceControls(const Workspace *workspace, QWidget *parent)
     : QWidget(parent)
-    , m_workspace(workspace)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -37,11 +36,15 @@ PlaceControls::PlaceControls(const Workspace *workspace, QWidget *parent)
     const NumberRange place{-farthest, farthest, 1, 1};
     const NumberRange side{smallestSide, farthest, 1, 1};
     const NumberRange angle{0, 360 - tenth, 15, 1};
-    m_x = addField(grid, 0, 0, {QStringLiteral("X"), "IDS_BOARD_LEFT"}, place);
-    m_y = addField(grid, 0, 2, {QStringLiteral("Y"), "IDS_BOARD_TOP"}, place);
-    m_width = addField(grid, 1, 0, {workspace->text("IDS_BOARD_WIDTH_LETTER"), "IDS_BOARD_WIDTH"}, side);
-    m_height = addField(grid, 1, 2, {workspace->text("IDS_BOARD_HEIGHT_LETTER"), "IDS_BOARD_HEIGHT"}, side);
-    m_rotation = addField(grid, 2, 0, {QStringLiteral("∠"), "IDS_BOARD_ROTATION"}, angle, degreeSign);
+    const auto addField = [&](int row, int column, const FieldLetter &name, const NumberRange &range) {
+        return addLetteredField(workspace, grid, {row, column}, name, range);
+    };
+    m_x = addField(0, 0, {QStringLiteral("X"), "IDS_BOARD_LEFT"}, place);
+    m_y = addField(0, 2, {QStringLiteral("Y"), "IDS_BOARD_TOP"}, place);
+    m_width = addField(1, 0, {workspace->text("IDS_BOARD_WIDTH_LETTER"), "IDS_BOARD_WIDTH"}, side);
+    m_height = addField(1, 2, {workspace->text("IDS_BOARD_HEIGHT_LETTER"), "IDS_BOARD_HEIGHT"}, side);
+    m_rotation =
+        addLetteredField(workspace, grid, {2, 0}, {QStringLiteral("∠"), "IDS_BOARD_ROTATION"}, angle, degreeSign);
     m_rotation->takeAngles();
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
@@ -52,22 +55,6 @@ PlaceControls::PlaceControls(const Workspace *workspace, QWidget *parent)
     connect(m_width, &NumberField::numberPicked, this, pickSize);
     connect(m_height, &NumberField::numberPicked, this, pickSize);
     connect(m_rotation, &NumberField::numberPicked, this, &PlaceControls::rotationPicked);
-}
-
-NumberField *PlaceControls::addField(QGridLayout *grid, int row, int column, const Label &label,
-                                     const NumberRange &range, const QString &unit)
-{
-    const QString name = m_workspace->text(label.nameKey);
-    auto *caption = new QLabel(label.letter, this);
-    auto *field = new NumberField(m_workspace, range, unit, this);
-    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    field->setAccessibleName(name);
-    field->setToolTip(name);
-    caption->setBuddy(field);
-    caption->setToolTip(name);
-    grid->addWidget(caption, row, column);
-    grid->addWidget(field, row, column + 1);
-    return field;
 }
 
 void PlaceControls::showPos(const QPointF &pos)

@@ -3,12 +3,9 @@
 #include <QtCore/QRectF>
 #include <QtWidgets/QWidget>
 
-class QGridLayout;
-
 namespace board {
 
 class NumberField;
-struct NumberRange;
 class Workspace;
 
 /// Where the selection is, how large and how turned, as numbers.
@@ -32,16 +29,6 @@ Q_SIGNALS:
     void rotationPicked(double degrees);
 
 private:
-    struct Label
-    {
-        QString letter;
-        const char *nameKey;
-    };
-
-    NumberField *addField(QGridLayout *grid, int row, int column, const Label &label, const NumberRange &range,
-                          const QString &unit = QStringLiteral("px"));
-
-    const Workspace *m_workspace;
     QPointF m_pos;
     NumberField *m_x;
     NumberField *m_y;

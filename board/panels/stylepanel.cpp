@@ -8,6 +8,7 @@
 #include "panels/fields/captionedrow.h"
 #include "panels/fillcontrols.h"
 #include "panels/foldingsection.h"
+#include "panels/pagesizecontrols.h"
 #include "panels/pencontrols.h"
 #include "panels/placecontrols.h"
 #include "panels/selectionfill.h"
@@ -70,6 +71,17 @@ QWidget *makeButtonRow(const Commands &commands, const QVector<Command> &shown)
     return part;
 }
 
+QWidget *makeSwitch(const Commands &commands, Command command)
+{
+    const QAction *action = commands.action(command);
+    auto *box = new QCheckBox(commands.name(command));
+    box->setToolTip(action->toolTip());
+    box->setChecked(action->isChecked());
+    QObject::connect(action, &QAction::toggled, box, &QCheckBox::setChecked);
+    QObject::connect(box, &QCheckBox::clicked, action, &QAction::trigger);
+    return box;
+}
+
 } // namespace
 
 StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent)
@@ -78,24 +90,22 @@ StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, New
     , m_pen(new PenControls(workspace))
     , m_fill(new FillControls(workspace, "IDS_BOARD_FILL"))
     , m_background(new FillControls(workspace, "IDS_BOARD_BACKGROUND"))
+    , m_pageSize(new PageSizeControls(workspace))
     , m_place(new PlaceControls(workspace))
     , m_newLook(newLook)
     , m_forNewOnes(new QCheckBox(workspace->text("IDS_BOARD_FOR_NEW_ONES")))
     , m_lookSection(new FoldingSection(workspace->text("IDS_BOARD_LOOK"), new QWidget))
     , m_alignSection(new FoldingSection(workspace->text("IDS_BOARD_ALIGN"), new QWidget))
     , m_placeSection(new FoldingSection(workspace->text("IDS_BOARD_PLACE"), new QWidget))
-    , m_paperPart(new CaptionedRow(
-          workspace->text("IDS_BOARD_PAPER"),
-          makeButtonRow(*commands, {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper,
-                                    Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper})))
+    , m_pagePart(new QWidget)
     , m_refresh(this, [this] { refresh(); })
 {
-    m_paperPart->putCaptionAbove();
     QVBoxLayout *look = columnIn(m_lookSection->content());
     look->addWidget(m_fill);
     look->addWidget(m_pen);
     look->addWidget(m_forNewOnes);
     addAlignment(*commands);
+    addPagePart(*commands);
     QVBoxLayout *place = columnIn(m_placeSection->content());
     place->addWidget(m_place);
     place->addWidget(makeButtonRow(*commands, {Command::TurnLeft, Command::TurnRight, Command::MirrorAcross,
@@ -105,13 +115,29 @@ StylePanel::StylePanel(const Workspace *workspace, const Commands *commands, New
     column->addWidget(m_lookSection);
     column->addWidget(m_alignSection);
     column->addWidget(m_placeSection);
-    column->addWidget(m_paperPart);
-    column->addWidget(m_background);
+    column->addWidget(m_pagePart);
     m_lookSection->remember(QStringLiteral("look"), true);
     m_alignSection->remember(QStringLiteral("align"), true);
     m_placeSection->remember(QStringLiteral("place"), true);
     m_forNewOnes->setToolTip(workspace->text("IDS_BOARD_FOR_NEW_ONES_TIP"));
     connectControls();
+}
+
+void StylePanel::addPagePart(const Commands &commands)
+{
+    auto *paper = new CaptionedRow(
+        m_workspace->text("IDS_BOARD_PAPER"),
+        makeButtonRow(commands, {Command::BlankPaper, Command::RuledPaper, Command::SquaredPaper,
+                                 Command::DottedPaper, Command::MusicPaper, Command::MillimetrePaper}));
+    auto *size = new CaptionedRow(m_workspace->text("IDS_BOARD_PAGE_SIZE"), m_pageSize);
+    QVBoxLayout *column = columnIn(m_pagePart);
+    column->setSpacing(largeGap);
+    for (CaptionedRow *row : {paper, size})
+        row->putCaptionAbove();
+    column->addWidget(paper);
+    column->addWidget(m_background);
+    column->addWidget(size);
+    column->addWidget(makeSwitch(commands, Command::Grid));
 }
 
 void StylePanel::addAlignment(const Commands &commands)
@@ -147,6 +173,10 @@ void StylePanel::connectControls()
         fill.setOpacity(opacity);
         pagehost::setPageBackground(m_page, fill);
     });
+    connect(m_pageSize, &PageSizeControls::sizePicked, this, [this](const QSizeF &size) {
+        if (m_page)
+            pagehost::setPageSize(m_page, size);
+    });
     connect(m_place, &PlaceControls::movePicked, this,
             [this](const QPointF &delta) { pagehost::moveObjects(selection(), delta); });
     connect(m_place, &PlaceControls::sizePicked, this, [this](const QSizeF &size) {
@@ -169,6 +199,7 @@ void StylePanel::setPage(pagehost::Page *page)
         connect(page, &pagehost::Page::selectionChanged, this, request);
         connect(page, &pagehost::Page::contentChanged, this, [this] { m_refresh.refreshNow(); });
         connect(page, &pagehost::Page::backgroundChanged, this, request);
+        connect(page, &pagehost::Page::sizeChanged, this, request);
     }
     m_refresh.request();
 }
@@ -215,14 +246,15 @@ void StylePanel::refresh()
     m_lookSection->setVisible(any);
     m_alignSection->setVisible(objects.size() > 1);
     m_placeSection->setVisible(any);
-    m_paperPart->setVisible(!any);
-    m_background->setVisible(!any);
+    m_pagePart->setVisible(!any);
     if (any) {
         showObjects(objects);
         return;
     }
-    if (m_page)
-        m_background->showFill(m_page->background());
+    if (!m_page)
+        return;
+    m_background->showFill(m_page->background());
+    m_pageSize->showSize(m_page->size());
 }
 
 void StylePanel::showObjects(const QVector<CBaseObject *> &objects)

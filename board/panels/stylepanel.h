@@ -12,16 +12,17 @@ class QCheckBox;
 
 namespace board {
 
-class CaptionedRow;
 class Commands;
 class FillControls;
 class FoldingSection;
 class NewLook;
 class PenControls;
+class PageSizeControls;
 class PlaceControls;
 class Workspace;
 
-/// Shows and changes the selected objects' look and place; without a selection, the page's background.
+/// Shows and changes the selected objects' look and place; without a selection, the page's paper, background, size
+/// and grid.
 class StylePanel : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,7 @@ public:
     void comeToFront() { m_refresh.finish(); }
 
 private:
+    void addPagePart(const Commands &commands);
     void addAlignment(const Commands &commands);
     void useForNewOnes(bool use);
     void showNewLook();
@@ -49,13 +51,14 @@ private:
     PenControls *m_pen;
     FillControls *m_fill;
     FillControls *m_background;
+    PageSizeControls *m_pageSize;
     PlaceControls *m_place;
     NewLook *m_newLook;
     QCheckBox *m_forNewOnes;
     FoldingSection *m_lookSection;
     FoldingSection *m_alignSection; ///< of several objects
     FoldingSection *m_placeSection;
-    CaptionedRow *m_paperPart;
+    QWidget *m_pagePart; ///< without a selection
     PanelRefresh m_refresh;
 };
 

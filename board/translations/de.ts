@@ -1681,5 +1681,45 @@
         <source>Recording has ended</source>
         <translation>Die Aufnahme ist beendet</translation>
     </message>
+    <message>
+        <source>Page size</source>
+        <translation>Seitengröße</translation>
+    </message>
+    <message>
+        <source>Width of the page</source>
+        <translation>Breite der Seite</translation>
+    </message>
+    <message>
+        <source>Height of the page</source>
+        <translation>Höhe der Seite</translation>
+    </message>
+    <message>
+        <source>Screen 16 : 9</source>
+        <translation>Bildschirm 16 : 9</translation>
+    </message>
+    <message>
+        <source>Screen 4 : 3</source>
+        <translation>Bildschirm 4 : 3</translation>
+    </message>
+    <message>
+        <source>A4 portrait</source>
+        <translation>A4 Hochformat</translation>
+    </message>
+    <message>
+        <source>A4 landscape</source>
+        <translation>A4 Querformat</translation>
+    </message>
+    <message>
+        <source>Letter portrait</source>
+        <translation>Letter Hochformat</translation>
+    </message>
+    <message>
+        <source>Letter landscape</source>
+        <translation>Letter Querformat</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
+    </message>
 </context>
 </TS>

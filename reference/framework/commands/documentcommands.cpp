@@ -5,6 +5,7 @@
 #include <commands/pagecommand.h>
 #include <pagehost/document.h>
 #include <pagehost/page.h>
+#include <pagehost/pagelimits.h>
 
 namespace pagehost {
 
@@ -72,7 +73,35 @@ private:
     int m_to;
 };
 
+class PageSizeCommand : public PageCommand
+{
+public:
+    PageSizeCommand(Page *page, const QSizeF &size)
+        : PageCommand(page, {}, QStringLiteral("IDS_UNDO_PAGE_SIZE"))
+        , m_before(page->size())
+        , m_after(size)
+    {
+    }
+
+    void undo() override { page()->setSize(m_before); }
+
+protected:
+    void apply() override { page()->setSize(m_after); }
+
+private:
+    QSizeF m_before;
+    QSizeF m_after;
+};
+
 } // namespace
+
+bool setPageSize(Page *page, const QSizeF &size)
+{
+    if (!isPageSize(size) || size == page->size())
+        return false;
+    CUndoRedo::GetInstance()->push(new PageSizeCommand(page, size));
+    return true;
+}
 
 Page *addPage(Document *document, int index, const QSizeF &size)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <pagehost/documentfile.h>
+#include <pagehost/pagelimits.h>
 
 #include <framework/iframework.h>
 
@@ -53,11 +54,6 @@ std::unique_ptr<Document> read(const QByteArray &bytes, const ObjectFactory &fac
 } // namespace jsonformat
 
 constexpr quint32 formatVersion = 1;
-
-/// Page sizes beyond these count as damage, scene units.
-constexpr double smallestPageSide = 1;
-constexpr double largestPageSide = 100000;
-bool isPageSize(const QSizeF &size);
 
 FileMessage warning(const QString &textKey, const QStringList &arguments = {});
 FileMessage error(const QString &textKey, const QStringList &arguments = {});

@@ -38,6 +38,7 @@ constexpr Entry entries[] = {
     {"IDS_UNDO_LOCK", "Lock", "Sperren"},
     {"IDS_UNDO_UNLOCK", "Unlock", "Entsperren"},
     {"IDS_UNDO_BACKGROUND", "Change background", "Hintergrund ändern"},
+    {"IDS_UNDO_PAGE_SIZE", "Change page size", "Seitengröße ändern"},
     {"IDS_UNDO_STYLE", "Change look", "Aussehen ändern"},
     {"IDS_SHAPEGROUP_BASIC", "Basic shapes", "Grundformen"},
     {"IDS_SHAPEGROUP_OWN", "My shapes", "Meine Formen"},

@@ -5,6 +5,7 @@
 #include <support/listed.h>
 #include <support/virtualtime.h>
 
+#include <core/commands.h>
 #include <page/pageview.h>
 #include <panels/colorbutton.h>
 #include <panels/fillcontrols.h>
@@ -81,6 +82,10 @@ private Q_SLOTS:
     void panelShowsTheSelectedShape();
     void panelShowsThePageWithoutASelection();
     void pageBackground();
+    void pageGetsAUsualSize();
+    void pageGetsATypedSize();
+    void sizeOfThePageFollowsUndoAndOtherPages();
+    void gridIsSwitchedWhereThePageIs();
     void placeAsNumbers();
     void severalShapesAreOneStep();
     void valuesThatDifferAreShownAsADash();
@@ -215,7 +220,7 @@ void TestLook::pictureFillsTheShape()
     // That of the page's background is hidden.
     const QList<board::FillControls *> both = t.panel->findChildren<board::FillControls *>();
     for (auto *controls : both)
-        if (!controls->isHidden())
+        if (controls->isVisibleTo(t.panel))
             Q_EMIT controls->fillPicked(fill);
     QCOMPARE(t.shape->getFillProp()->fillType(), int(CPageBgProp::PictureFill));
     QCOMPARE(t.pixelAt({600, 360}), QColor(20, 160, 90));
@@ -258,6 +263,82 @@ void TestLook::pageBackground()
     QCOMPARE(t.pixelAt({5, 5}), QColor(Qt::white));
     t.redo();
     QCOMPARE(t.pixelAt({5, 5}), QColor(10, 20, 30));
+}
+
+void TestLook::pageGetsAUsualSize()
+{
+    StyledShape t;
+    t.board.page().select({});
+    t.board.view().fitPage();
+    auto *names = t.control<QComboBox>("Page size");
+    QCOMPARE(names->currentText(), QString("Screen 16 : 9"));
+    const int portrait = names->findText("A4 portrait");
+    names->setCurrentIndex(portrait);
+    Q_EMIT names->activated(portrait);
+    QCOMPARE(t.board.page().size(), QSizeF(794, 1123));
+    QCOMPARE(t.newSteps(), 1);
+    support::deliverEvents();
+    QCOMPARE(t.control<QDoubleSpinBox>("Width of the page")->value(), 794.0);
+    QCOMPARE(t.control<QDoubleSpinBox>("Height of the page")->value(), 1123.0);
+    // The whole page is still shown.
+    const QRect shown = t.board.view().mapFromScene(t.board.page().rect()).boundingRect();
+    QVERIFY(t.board.view().viewport()->rect().contains(shown));
+    QCOMPARE(t.board.history().undoText(), QString("IDS_UNDO_PAGE_SIZE"));
+}
+
+void TestLook::pageGetsATypedSize()
+{
+    StyledShape t;
+    t.board.page().select({});
+    t.control<QDoubleSpinBox>("Width of the page")->setValue(640);
+    QCOMPARE(t.board.page().size(), QSizeF(640, 720));
+    support::deliverEvents();
+    QCOMPARE(t.control<QComboBox>("Page size")->currentText(), QString("Other"));
+    t.control<QDoubleSpinBox>("Height of the page")->setValue(400);
+    QCOMPARE(t.board.page().size(), QSizeF(640, 400));
+    QCOMPARE(t.newSteps(), 2);
+    // Out of reach.
+    t.control<QDoubleSpinBox>("Height of the page")->setValue(20000);
+    QCOMPARE(t.board.page().size(), QSizeF(640, 10000));
+    t.control<QDoubleSpinBox>("Height of the page")->setValue(1);
+    QCOMPARE(t.board.page().size(), QSizeF(640, 50));
+}
+
+void TestLook::sizeOfThePageFollowsUndoAndOtherPages()
+{
+    StyledShape t;
+    t.board.page().select({});
+    t.control<QDoubleSpinBox>("Width of the page")->setValue(640);
+    t.undo();
+    QCOMPARE(t.board.page().size(), QSizeF(1280, 720));
+    support::deliverEvents();
+    QCOMPARE(t.control<QComboBox>("Page size")->currentText(), QString("Screen 16 : 9"));
+    t.redo();
+    t.board.window().commands()->action(board::Command::AddPage)->trigger();
+    pagehost::setPageSize(&t.board.page(), {1056, 816});
+    support::deliverEvents();
+    QCOMPARE(t.control<QComboBox>("Page size")->currentText(), QString("Letter landscape"));
+    t.board.window().commands()->action(board::Command::PreviousPage)->trigger();
+    support::deliverEvents();
+    QCOMPARE(t.control<QDoubleSpinBox>("Width of the page")->value(), 640.0);
+}
+
+void TestLook::gridIsSwitchedWhereThePageIs()
+{
+    StyledShape t;
+    t.board.page().select({});
+    QAction *grid = t.board.window().commands()->action(board::Command::Grid);
+    QCoreApplication::processEvents();
+    QCheckBox *box = nullptr;
+    for (QCheckBox *candidate : support::listed(t.panel->findChildren<QCheckBox *>()))
+        if (candidate->text() == QString("Grid") && candidate->isVisibleTo(t.panel))
+            box = candidate;
+    QVERIFY(box);
+    QVERIFY(!box->isChecked());
+    box->click();
+    QVERIFY(grid->isChecked() && box->isChecked());
+    grid->trigger();
+    QVERIFY(!box->isChecked());
 }
 
 void TestLook::placeAsNumbers()

@@ -89,6 +89,9 @@ private Q_SLOTS:
     void geometryStepHoldsOnlyWhatChanged();
 
     void backgroundIsUndoable();
+    void pageSizeIsUndoableAndLeavesObjects();
+    void pageHasNoSizeThatFilesRefuse_data();
+    void pageHasNoSizeThatFilesRefuse();
     void fillIsUndoableEvenToAnEqualColor();
     void fillIsRecordedOnce();
     void equalFillLeavesNoStep();
@@ -363,6 +366,41 @@ void TestCommands::backgroundIsUndoable()
     QCOMPARE(editor.page->background().fillColor(), QColor(Qt::yellow));
     undoStack()->undo();
     QCOMPARE(editor.page->background().fillColor(), QColor(Qt::white));
+}
+
+void TestCommands::pageSizeIsUndoableAndLeavesObjects()
+{
+    Editor editor;
+    auto *object = editor.add();
+    object->CPSRootObject::setPos(QPointF(1000, 600), false);
+    QVERIFY(!pagehost::setPageSize(editor.page, {1280, 720}));
+    QVERIFY(pagehost::setPageSize(editor.page, {794, 1123}));
+    QCOMPARE(editor.page->size(), QSizeF(794, 1123));
+    QCOMPARE(editor.page->scene()->sceneRect(), QRectF(0, 0, 794, 1123));
+    QCOMPARE(object->getPos(), QPointF(1000, 600));
+    QCOMPARE(stepTexts(), QStringList{QStringLiteral("IDS_UNDO_PAGE_SIZE")});
+    undoStack()->undo();
+    QCOMPARE(editor.page->size(), QSizeF(1280, 720));
+    undoStack()->redo();
+    QCOMPARE(editor.page->size(), QSizeF(794, 1123));
+}
+
+void TestCommands::pageHasNoSizeThatFilesRefuse_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("flat") << QSizeF(100, 0.5);
+    QTest::newRow("narrow") << QSizeF(0, 100);
+    QTest::newRow("endless") << QSizeF(100000.5, 100);
+    QTest::newRow("no number") << QSizeF(std::nan(""), 100);
+}
+
+void TestCommands::pageHasNoSizeThatFilesRefuse()
+{
+    QFETCH(QSizeF, size);
+    Editor editor;
+    QVERIFY(!pagehost::setPageSize(editor.page, size));
+    QCOMPARE(editor.page->size(), QSizeF(1280, 720));
+    QVERIFY(pagehost::setPageSize(editor.page, {100000, 1}));
 }
 
 void TestCommands::fillIsUndoableEvenToAnEqualColor()

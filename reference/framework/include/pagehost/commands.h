@@ -69,6 +69,9 @@ FRAMEWORK_EXPORT bool updateVersion(const QVector<CBaseObject *> &objects);
 
 /// Gives a page this background.
 FRAMEWORK_EXPORT bool setPageBackground(Page *page, const CPageBgProp &background);
+/// Gives a page this size (scene units); its objects stay where they are. False for sizes that no page can have,
+/// see isPageSize().
+FRAMEWORK_EXPORT bool setPageSize(Page *page, const QSizeF &size);
 /// Fills objects with any fill, pictures and gradients included; plain colours go through pagehost/style.h.
 FRAMEWORK_EXPORT bool setObjectsFill(const QVector<CBaseObject *> &objects, const CPageBgProp &fill);
 
