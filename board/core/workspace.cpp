@@ -20,7 +20,8 @@ Workspace::Workspace(const QString &language)
     : m_registry(&m_localizer)
     , m_document(std::make_unique<pagehost::Document>())
 {
-    for (const QString &code : boardLanguages())
+    const QStringList languages = boardLanguages();
+    for (const QString &code : languages)
         m_localizer.addTexts(code, boardTexts(code));
     m_localizer.setLanguage(language);
     qRegisterMetaType<pagehost::PluginReport>();

@@ -18,7 +18,7 @@ QVariant settingOf(const QString &key)
     for (const QString &file : {user, fileOfSystem}) {
         if (!QFileInfo(file).isFile())
             continue;
-        const QVariant value = QSettings(file, QSettings::IniFormat).value(QStringLiteral("Settings/") + key);
+        QVariant value = QSettings(file, QSettings::IniFormat).value(QStringLiteral("Settings/") + key);
         if (value.isValid())
             return value;
     }
