@@ -24,9 +24,8 @@ struct Findable
 /// Commands that somebody performs, in the order of the list; then the kinds of shape.
 QVector<Findable> findables(const Workspace &workspace, const Commands &commands);
 
-/// Those that have every word of `text` somewhere, without regard to case. Best ones first: names that begin with
-/// the text, then names with a word that begins with it, then names with it, then all others; equal ones in their
-/// order.
+/// Those that have every word of `text` somewhere, without regard to case. Best ones first by nameRank(), equal
+/// ones in their order.
 QVector<Findable> findMatches(const QVector<Findable> &all, const QString &text);
 
 } // namespace board

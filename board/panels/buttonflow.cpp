@@ -29,7 +29,19 @@ ButtonFlow::ButtonFlow(const QString &caption, QWidget *parent)
 void ButtonFlow::addWidget(QWidget *widget)
 {
     m_widgets.append(widget);
+    m_shown.append(widget);
     m_columns = 0;
+}
+
+void ButtonFlow::showOnly(const QVector<QWidget *> &widgets)
+{
+    m_shown = widgets;
+    for (QWidget *widget : qAsConst(m_widgets)) {
+        m_grid->removeWidget(widget);
+        widget->setVisible(widgets.contains(widget));
+    }
+    rearrange();
+    setVisible(!widgets.isEmpty());
 }
 
 int ButtonFlow::widthOfColumns(int columns) const
@@ -54,15 +66,10 @@ int ButtonFlow::columnCount() const
 void ButtonFlow::rearrange()
 {
     m_columns = columnCount();
-    int index = 0;
-    for (QWidget *widget : qAsConst(m_widgets)) {
-        m_grid->removeWidget(widget);
-        if (widget->isHidden())
-            continue;
-        m_grid->addWidget(widget, index / m_columns, index % m_columns);
-        ++index;
+    for (int index = 0; index < m_shown.size(); ++index) {
+        m_grid->removeWidget(m_shown[index]);
+        m_grid->addWidget(m_shown[index], index / m_columns, index % m_columns);
     }
-    setVisible(index > 0);
 }
 
 void ButtonFlow::resizeEvent(QResizeEvent *event)

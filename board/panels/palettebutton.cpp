@@ -1,5 +1,6 @@
 #include "panels/palettebutton.h"
 
+#include "core/searchwords.h"
 #include "look/sizes.h"
 #include "page/pageview.h"
 
@@ -54,7 +55,7 @@ PaletteButton::PaletteButton(const QString &kindId, const QString &name, QWidget
 
 bool PaletteButton::isFoundBy(const QString &searched) const
 {
-    return text().contains(searched, Qt::CaseInsensitive) || m_searchWords.contains(searched, Qt::CaseInsensitive);
+    return hasAllWords(m_searchWords, searched);
 }
 
 QSize PaletteButton::sizeHint() const

@@ -15,7 +15,7 @@ public:
 
     QString kindId() const { return m_kindId; }
     void setSearchWords(const QString &words) { m_searchWords = words; }
-    /// Whether the name or the search words contain a text.
+    /// Whether every word of a text is in the search words.
     bool isFoundBy(const QString &searched) const;
     QSize sizeHint() const override;
     /// The button's font, smaller where the longest word of the name needs it.

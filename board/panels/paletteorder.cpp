@@ -1,5 +1,6 @@
 #include "panels/paletteorder.h"
 
+#include "core/searchwords.h"
 #include "core/workspace.h"
 
 #include <QtCore/QCollator>
@@ -8,20 +9,6 @@
 
 namespace board {
 
-namespace {
-
-/// Of the user's language, else English; kinds needn't have any.
-QString searchWords(const Workspace &workspace, const pagehost::ObjectKind &kind)
-{
-    const QString key = kind.nameKey + QStringLiteral("_WORDS");
-    const pagehost::Localizer &localizer = workspace.localizer();
-    const bool hasWords =
-        localizer.hasText(localizer.language(), key) || localizer.hasText(QStringLiteral("en"), key);
-    return hasWords ? localizer.text(key) : QString();
-}
-
-} // namespace
-
 QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
 {
     QVector<PaletteEntry> entries;
@@ -29,7 +16,7 @@ QVector<PaletteEntry> paletteEntries(const Workspace &workspace)
     for (const pagehost::ObjectKind &kind : kinds)
         if (!kind.group.isEmpty())
             entries.append({kind.id, workspace.text(kind.nameKey), workspace.text(kind.group),
-                            searchWords(workspace, kind), kind.rank});
+                            searchWords(workspace, kind.nameKey), kind.rank});
     const QString basic = workspace.text(pagehost::basicGroup);
     const QString own = workspace.text(pagehost::ownGroup);
     const QCollator collator(QLocale(workspace.localizer().language()));

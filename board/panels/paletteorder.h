@@ -13,7 +13,7 @@ struct PaletteEntry
     QString kindId;
     QString name;
     QString group;
-    QString words; ///< that it is found by, besides its name
+    QString words; ///< that it is found by: names and others, in all languages of the board
     int rank = 0;  ///< place in the group by use; 0 for kinds that follow by name
 };
 

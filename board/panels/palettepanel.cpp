@@ -1,5 +1,6 @@
 #include "panels/palettepanel.h"
 
+#include "core/searchwords.h"
 #include "core/workspace.h"
 #include "look/icons.h"
 #include "look/linestart.h"
@@ -136,6 +137,7 @@ void PalettePanel::showKinds()
 {
     const int place = m_scroll->verticalScrollBar()->value();
     m_buttons.clear();
+    m_found.clear();
     m_recentButtons.clear();
     m_flows.clear();
     m_recentFlow = nullptr;
@@ -248,23 +250,47 @@ void PalettePanel::startSearch()
 
 PaletteButton *PalettePanel::firstHit() const
 {
-    for (PaletteButton *button : m_buttons)
-        if (!button->isHidden())
-            return button;
-    return nullptr;
+    return m_found.value(0);
 }
 
 void PalettePanel::filter(const QString &words)
 {
     const QString searched = words.trimmed();
-    for (PaletteButton *button : qAsConst(m_buttons))
-        button->setHidden(!button->isFoundBy(searched));
-    for (ButtonFlow *flow : qAsConst(m_flows))
-        flow->rearrange();
+    m_found.clear();
+    std::copy_if(m_buttons.begin(), m_buttons.end(), std::back_inserter(m_found),
+                 [&](const PaletteButton *button) { return button->isFoundBy(searched); });
+    std::stable_sort(m_found.begin(), m_found.end(), [&](const PaletteButton *one, const PaletteButton *other) {
+        return nameRank(one->text(), searched) < nameRank(other->text(), searched);
+    });
+    showFound();
     if (m_recentFlow)
         m_recentFlow->setVisible(searched.isEmpty());
     m_nothing->setText(m_workspace->text("IDS_BOARD_NO_SUCH_SHAPE").arg(searched));
     m_nothing->parentWidget()->setVisible(!m_buttons.isEmpty() && !firstHit());
+}
+
+/// Groups with better hits stand above the others.
+void PalettePanel::showFound()
+{
+    QVector<ButtonFlow *> flows = m_flows;
+    const auto bestOf = [this](const ButtonFlow *flow) {
+        return std::find_if(m_found.begin(), m_found.end(),
+                            [flow](const PaletteButton *button) { return button->parentWidget() == flow; });
+    };
+    if (!m_search->text().trimmed().isEmpty())
+        std::stable_sort(flows.begin(), flows.end(), [&](const ButtonFlow *one, const ButtonFlow *other) {
+            return bestOf(one) < bestOf(other);
+        });
+    auto *column = static_cast<QVBoxLayout *>(m_scroll->widget()->layout());
+    for (ButtonFlow *flow : qAsConst(flows)) {
+        QVector<QWidget *> shown;
+        std::copy_if(m_found.begin(), m_found.end(), std::back_inserter(shown),
+                     [flow](const PaletteButton *button) { return button->parentWidget() == flow; });
+        flow->showOnly(shown);
+        column->removeWidget(flow);
+        // Above the stretch at the end.
+        column->insertWidget(column->count() - 1, flow);
+    }
 }
 
 /// The return key draws the first shape that was found; with Ctrl it puts it in the middle.

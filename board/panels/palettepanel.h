@@ -62,6 +62,7 @@ private:
     QWidget *makeHead();
     QWidget *makeNothing();
     PaletteButton *firstHit() const;
+    void showFound();
     int widthOfColumns(int columns) const;
     void paintPictures();
     void filter(const QString &words);
@@ -75,6 +76,7 @@ private:
     QPushButton *m_all;
     QString m_waitingKind;
     QVector<PaletteButton *> m_buttons;
+    QVector<PaletteButton *> m_found; ///< by the search, best ones first
     QVector<PaletteButton *> m_recentButtons;
     ButtonFlow *m_recentFlow = nullptr; ///< null while no kind has been used
     QVector<ButtonFlow *> m_flows;

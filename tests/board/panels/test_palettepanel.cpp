@@ -2,6 +2,8 @@
 
 #include <board/boarddriver.h>
 
+#include <support/listed.h>
+
 #include <core/commands.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
@@ -13,8 +15,49 @@
 #include <QtGui/QDrag>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QLineEdit>
 
 using namespace boardtest;
+
+namespace {
+
+/// The shown shapes, line by line.
+QStringList shownNames(const board::PalettePanel &palette)
+{
+    QCoreApplication::processEvents();
+    QVector<const board::PaletteButton *> shown;
+    for (const board::PaletteButton *button : support::listed(palette.buttons()))
+        if (button->isVisible())
+            shown.append(button);
+    const auto placeOf = [&](const board::PaletteButton *button) { return button->mapTo(&palette, QPoint()); };
+    std::sort(shown.begin(), shown.end(), [&](const board::PaletteButton *one, const board::PaletteButton *other) {
+        const QPoint a = placeOf(one);
+        const QPoint b = placeOf(other);
+        return a.y() != b.y() ? a.y() < b.y() : a.x() < b.x();
+    });
+    QStringList names;
+    for (const board::PaletteButton *button : qAsConst(shown))
+        names.append(button->text());
+    return names;
+}
+
+/// The open palette with a text in its search.
+struct Searching
+{
+    explicit Searching(const QString &text)
+    {
+        board.window().commands()->action(board::Command::Shapes)->trigger();
+        type(text);
+    }
+    QLineEdit *field() const { return palette->findChild<QLineEdit *>(); }
+    void type(const QString &text) const { QTest::keyClicks(field(), text); }
+    QStringList names() const { return shownNames(*palette); }
+
+    BoardDriver board;
+    board::PalettePanel *palette = board.window().findChild<board::PalettePanel *>();
+};
+
+} // namespace
 
 class TestPalettePanel : public QObject
 {
@@ -23,6 +66,11 @@ class TestPalettePanel : public QObject
 private Q_SLOTS:
     void shapeIsDrawnFromAPaletteThatWasBuiltAnew();
     void buttonMayGoWhileItsShapeIsDraggedOut();
+    void bestHitStandsFirstAndIsDrawn();
+    void groupOfTheBestHitStandsFirst();
+    void wordsOfAnyLanguageFindAShape();
+    void everyWordMustBeFound();
+    void shapesStandInTheirOrderAfterASearch();
 };
 
 void TestPalettePanel::shapeIsDrawnFromAPaletteThatWasBuiltAnew()
@@ -61,6 +109,48 @@ void TestPalettePanel::buttonMayGoWhileItsShapeIsDraggedOut()
     QCOMPARE(board.page().objectCount(), 0);
     board.draw(rectangle, {500, 300}, {700, 420});
     QCOMPARE(board.page().objectCount(), 1);
+}
+
+/// A battery is found by the word, too.
+void TestPalettePanel::bestHitStandsFirstAndIsDrawn()
+{
+    Searching t("cell");
+    QCOMPARE(t.names(), (QStringList{"Cell", "Battery"}));
+    QSignalSpy picked(t.palette, &board::PalettePanel::kindPicked);
+    QTest::keyClick(t.field(), Qt::Key_Return);
+    QCOMPARE(picked.size(), 1);
+    const QString kindId = picked.first().first().toString();
+    QCOMPARE(t.board.workspace().text(t.board.workspace().registry().kind(kindId).nameKey), QString("Cell"));
+}
+
+/// Rectangles and triangles have it in their names.
+void TestPalettePanel::groupOfTheBestHitStandsFirst()
+{
+    const Searching t("angle");
+    QCOMPARE(t.names().first(), QString("Angle"));
+    QVERIFY(t.names().contains("Triangle"));
+}
+
+void TestPalettePanel::wordsOfAnyLanguageFindAShape()
+{
+    const Searching t("Dreieck");
+    QVERIFY(t.names().contains("Triangle"));
+}
+
+void TestPalettePanel::everyWordMustBeFound()
+{
+    const Searching t("arrow block");
+    QCOMPARE(t.names(), QStringList("Block arrow"));
+}
+
+void TestPalettePanel::shapesStandInTheirOrderAfterASearch()
+{
+    const Searching t("");
+    const QStringList all = t.names();
+    t.type("cell");
+    QVERIFY(t.names() != all);
+    t.field()->clear();
+    QCOMPARE(t.names(), all);
 }
 
 QTEST_MAIN(TestPalettePanel)
