@@ -160,7 +160,7 @@ ROOMS = {
         "exporting": "look output core documents panels/fields",
         "accessible": "look page core panels/settings",
         "window": "look output page core accessible commands presenting clipboard documents exporting lessons tools panels "
-        "panels/settings panels/properties",
+        "panels/fields panels/settings panels/properties",
         "application": "look output objects page core presenting documents lessons panels panels/settings "
         "panels/properties window",
         "": "application",

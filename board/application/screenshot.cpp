@@ -91,7 +91,8 @@ constexpr Situation situations[] = {
     {"22-dragging", "dragging"},
     {"23-outline", "outline"},
     {"24-finding", "finding"},
-    {"25-presenter", "presenter"}};
+    {"25-presenter", "presenter"},
+    {"26-pen-options", "penoptions"}};
 /// Milliseconds.
 constexpr int lessonStep = 450;
 constexpr int lessonSteps = 5;
@@ -300,6 +301,8 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
         pinPanel(window, window.findChild<OutlinePanel *>());
     if (state == QLatin1String("finding"))
         window.commands()->action(Command::ReplaceText)->trigger();
+    if (state == QLatin1String("penoptions"))
+        window.commands()->action(Command::PenOptions)->trigger();
     if (state == QLatin1String("presenter"))
         window.presentation()->start({QRect(QPoint(), window.size()), QRect(QPoint(), window.size())});
     if (state == QLatin1String("text"))
@@ -343,17 +346,29 @@ void bring(MainWindow &window, Workspace &workspace, const QString &state)
 
 QStringList screenshotStates()
 {
-    return {QStringLiteral("empty"),      QStringLiteral("shapes"),
-            QStringLiteral("selection"),  QStringLiteral("settings"),
-            QStringLiteral("properties"), QStringLiteral("palette"),
-            QStringLiteral("pages"),      QStringLiteral("writing"),
-            QStringLiteral("drag"),       QStringLiteral("recording"),
-            QStringLiteral("playing"),    QStringLiteral("selected"),
-            QStringLiteral("text"),       QStringLiteral("connecting"),
-            QStringLiteral("presenting"), QStringLiteral("large"),
-            QStringLiteral("onebar"),     QStringLiteral("dragging"),
-            QStringLiteral("outline"),    QStringLiteral("finding"),
-            QStringLiteral("presenter"),  allSituations};
+    return {QStringLiteral("empty"),
+            QStringLiteral("shapes"),
+            QStringLiteral("selection"),
+            QStringLiteral("settings"),
+            QStringLiteral("properties"),
+            QStringLiteral("palette"),
+            QStringLiteral("pages"),
+            QStringLiteral("writing"),
+            QStringLiteral("drag"),
+            QStringLiteral("recording"),
+            QStringLiteral("playing"),
+            QStringLiteral("selected"),
+            QStringLiteral("text"),
+            QStringLiteral("connecting"),
+            QStringLiteral("presenting"),
+            QStringLiteral("large"),
+            QStringLiteral("onebar"),
+            QStringLiteral("dragging"),
+            QStringLiteral("outline"),
+            QStringLiteral("finding"),
+            QStringLiteral("presenter"),
+            QStringLiteral("penoptions"),
+            allSituations};
 }
 
 namespace {

@@ -69,7 +69,7 @@ MenuEntry colorMenu()
 {
     return {"IDS_TOOL_COLOR_AND_WIDTH",
             {Command::Color1, Command::Color2, Command::Color3, Command::Color4, Command::Color5, Command::Color6,
-             separator(), Command::Wider, Command::Narrower}};
+             separator(), Command::Wider, Command::Narrower, separator(), Command::PenOptions}};
 }
 
 MenuPlan toolPlan()

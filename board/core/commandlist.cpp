@@ -128,6 +128,7 @@ constexpr CommandFacts commands[] = {
     {Command::Color6, Group::Tools, "color6", "IDS_TOOL_COLOR_6", "6"},
     {Command::Wider, Group::Tools, "wider", "IDS_TOOL_WIDER", "+"},
     {Command::Narrower, Group::Tools, "narrower", "IDS_TOOL_NARROWER", "-"},
+    {Command::PenOptions, Group::Tools, "penOptions", "IDS_BOARD_TOOL_OPTIONS", "Shift+P"},
     {Command::Shapes, Group::Tools, "shapes", "IDS_BOARD_SHAPES", "S", Icon::Shapes},
     {Command::InsertAnything, Group::Tools, "insert", "IDS_BOARD_INSERT", "I", Icon::Insert},
     {Command::Rectangle, Group::Tools, "rectangle", "IDS_TOOL_RECTANGLE", "R"},

@@ -91,6 +91,7 @@ enum class Command {
     Color6,
     Wider,
     Narrower,
+    PenOptions,
     Shapes,
     InsertAnything,
     Rectangle,

@@ -105,7 +105,8 @@ void Toolbox::putDown()
 void Toolbox::applySettings()
 {
     if (m_tool)
-        m_tool->setStyle({m_settings->color(m_inHand), m_settings->width(m_inHand), m_settings->variant(m_inHand)});
+        m_tool->setStyle({m_settings->color(m_inHand), m_settings->width(m_inHand), m_settings->variant(m_inHand),
+                          m_settings->usesPressure(m_inHand), m_settings->straightens(m_inHand)});
 }
 
 void Toolbox::followUp()

@@ -9,7 +9,15 @@
 
 namespace board {
 
-/// Colour, width and variant of each tool, remembered from one start to the next.
+/// The colour and the width that a tool draws with.
+struct PenLook
+{
+    QColor color;
+    double width = 0; ///< scene units
+};
+
+/// Colour, width and variant of each tool, remembered from one start to the next. A tool may have several pens, one
+/// of them in hand: what is set is the look of that one.
 class ToolSettings : public QObject
 {
     Q_OBJECT
@@ -20,6 +28,8 @@ public:
 
     /// Colours on offer; empty for a tool without colour.
     QVector<QColor> colors(Tool tool) const;
+    /// The same and others, for who looks further.
+    QVector<QColor> moreColors(Tool tool) const;
     /// The localisation key of the name of a colour on offer; empty for others.
     static QString colorKey(const QColor &color);
     /// Widths on offer, scene units, in ascending order: of a line, of the eraser, the height of letters. Empty for
@@ -28,9 +38,23 @@ public:
     /// Localisation keys of the variants on offer, in the order of their numbers; empty for a tool with one kind.
     QVector<QString> variants(Tool tool) const;
 
-    QColor color(Tool tool) const { return m_chosen.value(tool).color; }
-    double width(Tool tool) const { return m_chosen.value(tool).width; }
+    QColor color(Tool tool) const { return look(tool).color; }
+    double width(Tool tool) const { return look(tool).width; }
     int variant(Tool tool) const { return m_chosen.value(tool).variant; }
+
+    /// Looks of the tool's pens; one for a tool without several.
+    QVector<PenLook> pens(Tool tool) const { return m_chosen.value(tool).pens; }
+    /// The one in hand, its number.
+    int pen(Tool tool) const { return m_chosen.value(tool).pen; }
+    /// Ignored for numbers that there are not.
+    void takePen(Tool tool, int pen);
+
+    /// Whether strokes become wider under more pressure; true until somebody sets it.
+    bool usesPressure(Tool tool) const { return m_chosen.value(tool).usesPressure; }
+    void setUsesPressure(Tool tool, bool uses);
+    /// Whether a stroke becomes straight when the pen is held still; true until somebody sets it.
+    bool straightens(Tool tool) const { return m_chosen.value(tool).straightens; }
+    void setStraightens(Tool tool, bool straightens);
 
     /// Any colour, not only those on offer. Ignored for a tool without colour and for invalid ones.
     void setColor(Tool tool, const QColor &color);
@@ -47,12 +71,17 @@ Q_SIGNALS:
 private:
     struct Setting
     {
-        QColor color;
-        double width = 0;
+        QVector<PenLook> pens;
+        int pen = 0;
         int variant = 0;
+        bool usesPressure = true;
+        bool straightens = true;
     };
 
+    static bool isEqual(const Setting &one, const Setting &other);
+    PenLook look(Tool tool) const { return m_chosen.value(tool).pens.value(pen(tool)); }
     void set(Tool tool, const Setting &setting);
+    static void remember(Tool tool, const Setting &setting);
 
     QMap<Tool, Setting> m_chosen;
 };

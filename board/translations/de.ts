@@ -1721,5 +1721,53 @@
         <source>Other</source>
         <translation>Andere</translation>
     </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Petrol</translation>
+    </message>
+    <message>
+        <source>Olive</source>
+        <translation>Oliv</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <translation>Braun</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>My pens</source>
+        <translation>Meine Stifte</translation>
+    </message>
+    <message>
+        <source>Pen %1</source>
+        <translation>Stift %1</translation>
+    </message>
+    <message>
+        <source>Any colour</source>
+        <translation>Beliebige Farbe</translation>
+    </message>
+    <message>
+        <source>Pressure changes width</source>
+        <translation>Druck ändert die Breite</translation>
+    </message>
+    <message>
+        <source>Straighten when held still</source>
+        <translation>Gerade, wenn man stillhält</translation>
+    </message>
+    <message>
+        <source>Pen options</source>
+        <translation>Stiftoptionen</translation>
+    </message>
 </context>
 </TS>

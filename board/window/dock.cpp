@@ -46,6 +46,12 @@ constexpr ToolEntry toolEntries[] = {{Tool::Select, Icon::Select, Command::Selec
                                      {Tool::Shape, Icon::Shapes, Command::Shapes, 3, false},
                                      {{}, Icon::Insert, Command::InsertAnything, 3, true}};
 
+/// Tools that stay in use anyway.
+bool hasOptions(Tool tool)
+{
+    return tool == Tool::Pen || tool == Tool::Highlighter;
+}
+
 } // namespace
 
 Dock::Dock(const Workspace *workspace, const Commands *commands, ToolChoice *tools, QWidget *parent)
@@ -83,7 +89,7 @@ void Dock::addTools()
         auto *button = new DockButton(this);
         button->setCheckable(entry.tool.has_value());
         button->setPicture(entry.icon);
-        button->setOpensMore(entry.tool == Tool::Shape);
+        button->setOpensMore(entry.tool == Tool::Shape || (entry.tool && hasOptions(*entry.tool)));
         if (!entry.tool)
             m_insert = button;
         const std::optional<Tool> tool = entry.tool;
@@ -122,13 +128,16 @@ DockButton *Dock::buttonOf(Tool tool) const
     return found == m_entries.end() ? nullptr : found->button;
 }
 
-/// A second press keeps the tool, or ends keeping it. Shapes are chosen first.
+/// A second press keeps the tool, or ends keeping it; pens stay anyway, and show their options. Shapes are chosen
+/// first.
 void Dock::press(std::optional<Tool> tool)
 {
     if (!tool)
         m_commands->action(Command::InsertAnything)->trigger();
     else if (tool == Tool::Shape)
         Q_EMIT shapesRequested();
+    else if (m_tools->tool() == *tool && hasOptions(*tool))
+        Q_EMIT optionsRequested();
     else if (m_tools->tool() == *tool)
         m_tools->keep(!m_tools->isKept());
     else

@@ -42,6 +42,8 @@ public:
 Q_SIGNALS:
     /// The user wants to choose a shape.
     void shapesRequested();
+    /// The pen or the highlighter was pressed again.
+    void optionsRequested();
     /// The user drags the bar by its empty part; global coordinates.
     void dragged(const QPoint &pos);
     /// A finger has come down on a button.

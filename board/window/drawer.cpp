@@ -9,7 +9,18 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace board {
+
+namespace {
+
+bool isPress(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::TabletPress || type == QEvent::TouchBegin;
+}
+
+} // namespace
 
 Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
     : QFrame(area)
@@ -24,8 +35,10 @@ Drawer::Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest)
 {
     keepEdges();
     m_shadow->setCast(floats());
-    slot->hide();
-    slot->installEventFilter(this);
+    if (slot) {
+        slot->hide();
+        slot->installEventFilter(this);
+    }
     area->installEventFilter(this);
     hide();
 }
@@ -68,7 +81,8 @@ void Drawer::setUsualWidth(int width)
     m_column->activate();
     // Texts of some languages are longer.
     m_width = qMax(width, minimumSizeHint().width());
-    m_slot->setFixedWidth(m_width);
+    if (m_slot)
+        m_slot->setFixedWidth(m_width);
     place();
 }
 
@@ -90,7 +104,7 @@ void Drawer::setOpen(bool open)
 
 void Drawer::setPinned(bool pinned)
 {
-    if (pinned == m_isPinned)
+    if (pinned == m_isPinned || !m_slot)
         return;
     m_isPinned = pinned;
     arrange();
@@ -102,7 +116,8 @@ void Drawer::arrange()
     qApp->removeEventFilter(this);
     if (m_isOpen && !m_isPinned)
         qApp->installEventFilter(this);
-    m_slot->setVisible(m_isOpen && m_isPinned);
+    if (m_slot)
+        m_slot->setVisible(m_isOpen && m_isPinned);
     // Else the focus would go through whatever comes next.
     if (!m_isOpen && m_heir && isAncestorOf(window()->focusWidget()))
         m_heir->setFocus();
@@ -116,6 +131,8 @@ void Drawer::place()
 {
     if (m_isPinned)
         return setGeometry(m_slot->geometry());
+    if (m_place)
+        return setGeometry(m_place({m_width, minimumSizeHint().height()}));
     const QRect room = m_area->rect().adjusted(m_inset, m_inset, -m_inset, -m_inset);
     const int height = qMin(room.height(), m_tallest);
     const int left = m_side == Qt::LeftEdge ? room.left() : room.right() + 1 - m_width;
@@ -126,7 +143,11 @@ void Drawer::place()
 bool Drawer::isOutside(const QObject *watched) const
 {
     const auto *widget = qobject_cast<const QWidget *>(watched);
-    return widget && widget->window() == window() && widget != this && widget != m_opener && !isAncestorOf(widget);
+    if (!widget || widget->window() != window() || widget == this || isAncestorOf(widget))
+        return false;
+    return std::none_of(m_openers.begin(), m_openers.end(), [widget](const QWidget *opener) {
+        return widget == opener || opener->isAncestorOf(widget);
+    });
 }
 
 bool Drawer::eventFilter(QObject *watched, QEvent *event)
@@ -136,7 +157,7 @@ bool Drawer::eventFilter(QObject *watched, QEvent *event)
         place();
     if (!m_isOpen || m_isPinned || !isOutside(watched))
         return false;
-    if (event->type() == QEvent::MouseButtonPress)
+    if (isPress(event->type()))
         setOpen(false);
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return false;

@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QFrame>
 
+#include <functional>
+
 class QVBoxLayout;
 
 namespace board {
@@ -16,7 +18,8 @@ class Drawer : public QFrame
 
 public:
     /// Lies in `area`. `slot` is a part of the area's layout, at its left or right, that keeps room for a pinned
-    /// drawer. An unpinned one stands `inset` pixels from the area's edges, and is `tallest` pixels high at most.
+    /// drawer; null for one that is never pinned. An unpinned one stands `inset` pixels from the area's edges, and
+    /// is `tallest` pixels high at most.
     Drawer(QWidget *area, QWidget *slot, int width, int inset, int tallest);
 
     /// The drawer becomes wider where the content needs it.
@@ -24,8 +27,10 @@ public:
     void setUsualWidth(int width);
     /// The side of the area that an unpinned drawer stands at: Qt::LeftEdge or Qt::RightEdge.
     void setSide(Qt::Edge side);
-    /// A press on it does not close the drawer, since it does so itself.
-    void setOpener(QWidget *opener) { m_opener = opener; }
+    /// Puts an unpinned drawer somewhere else: `place` gives its rectangle (the area's coordinates) from its size.
+    void setPlace(const std::function<QRect(const QSize &)> &place) { m_place = place; }
+    /// A press on it or in it does not close the drawer, since it does so itself.
+    void addOpener(QWidget *opener) { m_openers.append(opener); }
     /// Gets the focus from a drawer that closes.
     void setHeir(QWidget *heir) { m_heir = heir; }
     void setOpen(bool open);
@@ -54,7 +59,8 @@ private:
     SurfaceShadow *m_shadow;
     QWidget *m_area;
     QWidget *m_slot;
-    QWidget *m_opener = nullptr;
+    QVector<QWidget *> m_openers;
+    std::function<QRect(const QSize &)> m_place;
     QWidget *m_heir = nullptr;
     QVBoxLayout *m_column;
     int m_usualWidth;

@@ -57,6 +57,7 @@
 #include "window/hintpill.h"
 #include "window/objectpanel.h"
 #include "window/pencolors.h"
+#include "window/penoptions.h"
 #include "window/shapefolder.h"
 #include "window/shapetool.h"
 #include "window/shelf.h"
@@ -345,7 +346,11 @@ void MainWindow::addPanels()
     m_paletteDrawer->setContent(m_palette);
     namePanes();
     addShapeFolderActions(m_palette->menu(), m_workspace, this);
-    m_paletteDrawer->setOpener(m_dock->buttonOf(Tool::Shape));
+    m_paletteDrawer->addOpener(m_dock->buttonOf(Tool::Shape));
+    m_penOptions = new PenOptions({m_workspace, m_commands, m_tools, m_toolSettings, m_shelf}, m_view);
+    for (const Tool tool : {Tool::Pen, Tool::Highlighter})
+        m_penOptions->addOpener(m_dock->buttonOf(tool));
+    connect(m_dock, &Dock::optionsRequested, m_penOptions, &PenOptions::toggle);
     followSizes(this, [this] {
         m_panel->setUsualWidth(sizes().panel);
         m_paletteDrawer->setUsualWidth(sizes().palette);
@@ -522,8 +527,8 @@ void MainWindow::addStyleBar()
     bar->setReplaced(m_panel->isOpen());
     new TypingBar(m_workspace, m_view);
     new WindowParts(m_commands,
-                    {m_view, bar, m_findBar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar,
-                     m_topBar, m_notices},
+                    {m_view, bar, m_findBar, m_dock, m_shelf, m_penOptions, m_paletteDrawer, m_panel, m_pages,
+                     m_lessonBar, m_topBar, m_notices},
                     this);
 }
 

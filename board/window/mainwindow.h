@@ -34,6 +34,7 @@ class Notices;
 class ObjectPanel;
 class OutlinePanel;
 class PagePanel;
+class PenOptions;
 class PageView;
 class Presentation;
 class PalettePanel;
@@ -158,6 +159,7 @@ private:
     QWidget *m_middle = nullptr; ///< all but the bar at the top and the dock
     QWidget *m_leftSlot = nullptr;
     QWidget *m_rightSlot = nullptr;
+    PenOptions *m_penOptions = nullptr;
     Drawer *m_paletteDrawer = nullptr;
     Drawer *m_panel = nullptr;
     SidePanel *m_sidePanel = nullptr;

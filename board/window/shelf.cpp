@@ -94,6 +94,10 @@ void Shelf::rebuild()
         addLine();
         addVariants(tool);
     }
+    if (m_settings->pens(tool).size() > 1) {
+        addLine();
+        addOptions();
+    }
     m_row->addWidget(m_content);
     m_content->show();
     place();
@@ -125,15 +129,28 @@ void Shelf::addWidths(Tool tool)
     }
 }
 
-void Shelf::addVariants(Tool tool)
+QToolButton *Shelf::addMore(const QString &name)
 {
     auto *button = new QToolButton(m_content);
     button->setIcon(icon(Icon::More));
     button->setIconSize(QSize(sizes().barIcon, sizes().barIcon));
     button->setFixedSize(sizes().shelf - 2 * sideGap, sizes().shelf - 2 * sideGap);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setToolTip(m_workspace->text("IDS_BOARD_MORE"));
-    button->setAccessibleName(button->toolTip());
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    m_content->layout()->addWidget(button);
+    return button;
+}
+
+void Shelf::addOptions()
+{
+    QToolButton *button = addMore(m_workspace->text("IDS_BOARD_TOOL_OPTIONS"));
+    connect(button, &QToolButton::clicked, this, &Shelf::optionsRequested);
+}
+
+void Shelf::addVariants(Tool tool)
+{
+    QToolButton *button = addMore(m_workspace->text("IDS_BOARD_MORE"));
     button->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(button);
     auto *group = new QActionGroup(menu);
@@ -146,7 +163,6 @@ void Shelf::addVariants(Tool tool)
         group->addAction(action);
     }
     button->setMenu(menu);
-    m_content->layout()->addWidget(button);
 }
 
 void Shelf::addLine()

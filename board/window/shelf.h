@@ -5,6 +5,7 @@
 #include <QtWidgets/QWidget>
 
 class QBoxLayout;
+class QToolButton;
 
 namespace board {
 
@@ -24,6 +25,11 @@ public:
     void setEdge(Qt::Edge edge);
     /// Hides it while something else stands in its place.
     void setCovered(bool covered);
+    Qt::Edge edge() const { return m_edge; }
+
+Q_SIGNALS:
+    /// The user wants to see more of what the tool can do.
+    void optionsRequested();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -34,6 +40,8 @@ private:
     void addColors(Tool tool);
     void addWidths(Tool tool);
     void addVariants(Tool tool);
+    void addOptions();
+    QToolButton *addMore(const QString &name);
     void addLine();
     void place();
     bool isVertical() const;

@@ -13,6 +13,8 @@ constexpr int usualSide = 28;
 constexpr double colorRadius = 9;
 constexpr double ringRadius = 13;
 constexpr double ringWidth = 2;
+/// Lighter ones can't be told from the shelf.
+constexpr int lightestWithoutEdge = 240;
 
 } // namespace
 
@@ -44,6 +46,13 @@ void ShelfButton::setSide(int side)
     setFixedSize(side, side);
 }
 
+void ShelfButton::setStroke(const QColor &color, double thickness)
+{
+    m_strokeColor = color;
+    m_thickness = thickness;
+    update();
+}
+
 void ShelfButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -61,7 +70,8 @@ void ShelfButton::paintColor(QPainter *painter) const
 {
     const QPointF middle = QRectF(rect()).center();
     const double scale = width() / double(usualSide);
-    painter->setPen(Qt::NoPen);
+    const bool needsEdge = m_color.lightness() > lightestWithoutEdge;
+    painter->setPen(needsEdge ? QPen(themeColors().control, 1) : QPen(Qt::NoPen));
     painter->setBrush(m_color);
     painter->drawEllipse(middle, colorRadius * scale, colorRadius * scale);
     if (!isChecked())
@@ -83,9 +93,10 @@ void ShelfButton::paintStroke(QPainter *painter) const
     QPainterPath wave(QPointF(7, 17));
     wave.cubicTo(11, 6, 14, 10, 14, 14);
     wave.cubicTo(14, 18, 17, 22, 21, 11);
+    const QColor usual = isChecked() ? colors.accent : colors.text;
+    const QColor color = m_strokeColor.isValid() ? m_strokeColor : usual;
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(
-        QPen(isChecked() ? colors.accent : colors.text, m_thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(QPen(color, m_thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(wave);
 }
 

@@ -17,6 +17,8 @@ public:
 
     /// Logical pixels; at first 28. Its picture grows with it.
     void setSide(int side);
+    /// Of a width: shows it in a colour.
+    void setStroke(const QColor &color, double thickness);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -26,7 +28,8 @@ private:
     void paintColor(QPainter *painter) const;
     void paintStroke(QPainter *painter) const;
 
-    QColor m_color; ///< invalid for a width
+    QColor m_color;       ///< invalid for a width
+    QColor m_strokeColor; ///< invalid for that of the letters
     double m_thickness = 0;
 };
 

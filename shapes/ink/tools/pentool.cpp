@@ -17,10 +17,7 @@ constexpr int holdingTime = 500;
 /// Nearer points say nothing about the line, pixels.
 constexpr double shortestStep = 0.75;
 
-StrokePoint pointOf(const pagehost::ToolPointer &pointer)
-{
-    return {pointer.pos, pointer.pressure};
-}
+constexpr double noPressure = -1;
 
 } // namespace
 
@@ -37,6 +34,13 @@ void PenTool::setStyle(const pagehost::ToolStyle &style)
     if (m_isHighlighter)
         m_color.setAlpha(highlighterAlpha);
     m_width = style.width;
+    m_usesPressure = style.usesPressure;
+    m_straightens = style.straightens;
+}
+
+StrokePoint PenTool::pointOf(const pagehost::ToolPointer &pointer) const
+{
+    return {pointer.pos, m_usesPressure ? pointer.pressure : noPressure};
 }
 
 QCursor PenTool::cursor(double pixel) const
@@ -103,7 +107,7 @@ bool PenTool::cancel()
 
 int PenTool::stillTime() const
 {
-    return holdingTime;
+    return m_straightens ? holdingTime : 0;
 }
 
 void PenTool::heldStill()

@@ -30,6 +30,7 @@ public:
     void heldStill() override;
 
 private:
+    StrokePoint pointOf(const pagehost::ToolPointer &pointer) const;
     void follow(const pagehost::ToolPointer &pointer);
     void show();
 
@@ -38,6 +39,8 @@ private:
     bool m_isHighlighter;
     QColor m_color;
     double m_width = 1;
+    bool m_usesPressure = true;
+    bool m_straightens = true;
     Ink *m_stroke = nullptr; ///< while it is drawn
     QVector<StrokePoint> m_points;
     bool m_isStraight = false; ///< since the pen was held still

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void everyToolBeginsWithSomethingOnOffer();
     void colorsAndWidthsAreRemembered();
     void penAndLineHaveColorsOfTheirOwn();
+    void severalPensKeepTheirLooks();
+    void penInHandIsRemembered();
+    void switchesOfAToolAreRemembered();
     void aWidthOffTheScaleIsLimited();
     void theNextWidthIsWiderOrNarrower();
     void onlyVariantsOnOfferAreTaken();
@@ -59,6 +62,50 @@ void TestToolSettings::penAndLineHaveColorsOfTheirOwn()
     ToolSettings settings;
     settings.setColor(Tool::Line, QColor(Qt::red));
     QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).first());
+}
+
+void TestToolSettings::severalPensKeepTheirLooks()
+{
+    {
+        ToolSettings settings;
+        QCOMPARE(settings.pens(Tool::Pen).size(), 3);
+        QCOMPARE(settings.pens(Tool::Line).size(), 1);
+        settings.takePen(Tool::Pen, 1);
+        settings.setColor(Tool::Pen, QColor(Qt::green));
+        settings.setWidth(Tool::Pen, 12);
+        settings.takePen(Tool::Pen, 0);
+        QCOMPARE(settings.color(Tool::Pen), QColor(0x1f, 0x26, 0x30));
+        settings.takePen(Tool::Pen, 3);
+        settings.takePen(Tool::Pen, -1);
+        settings.takePen(Tool::Select, 0);
+        QCOMPARE(settings.pen(Tool::Pen), 0);
+    }
+    const ToolSettings settings;
+    QCOMPARE(settings.width(Tool::Pen), 4.0);
+    QCOMPARE(settings.pens(Tool::Pen).at(1).color, QColor(Qt::green));
+    QCOMPARE(settings.pens(Tool::Pen).at(1).width, 12.0);
+    QCOMPARE(settings.pens(Tool::Pen).at(2).color, QColor(0xc9, 0x25, 0x2d));
+}
+
+void TestToolSettings::penInHandIsRemembered()
+{
+    ToolSettings().takePen(Tool::Highlighter, 2);
+    QCOMPARE(ToolSettings().pen(Tool::Highlighter), 2);
+    QCOMPARE(ToolSettings().width(Tool::Highlighter), 32.0);
+    QSettings().setValue("tools/highlighter/pen", 7);
+    QCOMPARE(ToolSettings().pen(Tool::Highlighter), 0);
+}
+
+void TestToolSettings::switchesOfAToolAreRemembered()
+{
+    QVERIFY(ToolSettings().usesPressure(Tool::Pen));
+    QVERIFY(ToolSettings().straightens(Tool::Pen));
+    ToolSettings().setUsesPressure(Tool::Pen, false);
+    QVERIFY(!ToolSettings().usesPressure(Tool::Pen));
+    QVERIFY(ToolSettings().straightens(Tool::Pen));
+    ToolSettings().setStraightens(Tool::Pen, false);
+    QVERIFY(!ToolSettings().straightens(Tool::Pen));
+    QVERIFY(ToolSettings().straightens(Tool::Highlighter));
 }
 
 void TestToolSettings::aWidthOffTheScaleIsLimited()

@@ -36,6 +36,19 @@ struct Desk : BoardDriver
     board::ToolChoice &tools() const { return *window().tools(); }
 
     CBaseObject *stroke() { return page().objects().value(0); }
+    /// Pixels across a stroke under a pressure, which is taken back; those at its edges are less dark.
+    int darkAcrossAStroke(double pressure)
+    {
+        pen(QEvent::TabletPress, {500, 300}, pressure);
+        pen(QEvent::TabletMove, {600, 300}, pressure);
+        pen(QEvent::TabletRelease, {600, 300}, 0);
+        const QImage seen = view().viewport()->grab().toImage();
+        int dark = 0;
+        for (int y = -10; y <= 10; ++y)
+            dark += QColor(seen.pixel(view().mapFromScene(QPointF(550, 300)) + QPoint(0, y))).lightness() < 128;
+        history().undo();
+        return dark;
+    }
 };
 
 } // namespace
@@ -58,7 +71,9 @@ private Q_SLOTS:
     void anotherToolDuringAStrokeTakesItBack();
     void aDoubleClickMakesTwoDots();
     void aPenThatIsPressedWritesWider();
+    void pressureChangesNothingWhereItIsOff();
     void aPenHeldStillMakesItsStrokeStraight();
+    void aPenHeldStillLeavesItsStrokeWhereThatIsOff();
     void theEraserTakesWholeStrokesOrParts();
     void aConnectorFollowsItsShapes();
     void pastedConnectorsFollowPastedShapes();
@@ -165,25 +180,21 @@ void TestWriting::aDoubleClickMakesTwoDots()
     QCOMPARE(desk.page().objectCount(), 2);
 }
 
-/// Across the stroke; pixels at its edges are less dark.
 void TestWriting::aPenThatIsPressedWritesWider()
 {
     Desk desk;
-    const auto strokeOf = [&desk](double pressure) {
-        desk.pen(QEvent::TabletPress, {500, 300}, pressure);
-        desk.pen(QEvent::TabletMove, {600, 300}, pressure);
-        desk.pen(QEvent::TabletRelease, {600, 300}, 0);
-        const QImage seen = desk.view().viewport()->grab().toImage();
-        int dark = 0;
-        for (int y = -10; y <= 10; ++y)
-            dark +=
-                QColor(seen.pixel(desk.view().mapFromScene(QPointF(550, 300)) + QPoint(0, y))).lightness() < 128;
-        desk.history().undo();
-        return dark;
-    };
-    const int light = strokeOf(0.1);
-    const int full = strokeOf(1);
+    const int light = desk.darkAcrossAStroke(0.1);
+    const int full = desk.darkAcrossAStroke(1);
     QVERIFY2(light >= 1 && full >= light + 3, qPrintable(QStringLiteral("%1 %2").arg(light).arg(full)));
+}
+
+void TestWriting::pressureChangesNothingWhereItIsOff()
+{
+    Desk desk;
+    desk.window().toolSettings()->setUsesPressure(Tool::Pen, false);
+    const int light = desk.darkAcrossAStroke(0.1);
+    QVERIFY(light >= 4);
+    QCOMPARE(desk.darkAcrossAStroke(1), light);
 }
 
 void TestWriting::aPenHeldStillMakesItsStrokeStraight()
@@ -198,6 +209,18 @@ void TestWriting::aPenHeldStillMakesItsStrokeStraight()
     QCOMPARE(desk.placeOf(desk.stroke()), QRectF(496, 296, 108, 8));
     desk.release({600, 300});
     QCOMPARE(desk.history().count(), 1);
+}
+
+void TestWriting::aPenHeldStillLeavesItsStrokeWhereThatIsOff()
+{
+    Desk desk;
+    desk.window().toolSettings()->setStraightens(Tool::Pen, false);
+    desk.press({500, 300});
+    desk.moveTo({550, 340});
+    desk.moveTo({600, 300});
+    support::pass(5000);
+    QCOMPARE(desk.placeOf(desk.stroke()).bottom(), 344.0);
+    desk.release({600, 300});
 }
 
 void TestWriting::theEraserTakesWholeStrokesOrParts()

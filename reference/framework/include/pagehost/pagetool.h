@@ -20,9 +20,11 @@ enum class ToolRole { Pen, Highlighter, Eraser, Text, Line, Connector };
 /// The settings of a tool that the user chooses before using it.
 struct ToolStyle
 {
-    QColor color;     ///< of the line or the letters
-    double width = 0; ///< of the line, of the eraser, or the height of letters, scene units
-    int variant = 0;  ///< 0 for the usual one; see the role's variants
+    QColor color;             ///< of the line or the letters
+    double width = 0;         ///< of the line, of the eraser, or the height of letters, scene units
+    int variant = 0;          ///< 0 for the usual one; see the role's variants
+    bool usesPressure = true; ///< strokes are wider under more pressure
+    bool straightens = true;  ///< a stroke becomes straight when the pen is held still
 };
 
 /// @name Variants of tools
