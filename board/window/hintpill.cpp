@@ -12,6 +12,7 @@ namespace {
 
 constexpr QMargins inside(14, 7, 14, 7);
 constexpr int footGap = 24;
+constexpr int headGap = 12;
 
 } // namespace
 
@@ -29,8 +30,9 @@ HintPill::HintPill(QWidget *view)
     hide();
 }
 
-void HintPill::showHint(const QString &text)
+void HintPill::showHint(const QString &text, Qt::Edge edge)
 {
+    m_edge = edge;
     const bool isNews = !text.isEmpty() && (text != this->text() || !isVisible());
     setText(text);
     setVisible(!text.isEmpty());
@@ -44,8 +46,8 @@ void HintPill::place()
 {
     const QSize room = parentWidget()->size();
     const QSize size = sizeHint().boundedTo(room);
-    setGeometry((room.width() - size.width()) / 2, room.height() - size.height() - footGap, size.width(),
-                size.height());
+    const int top = m_edge == Qt::TopEdge ? headGap : room.height() - size.height() - footGap;
+    setGeometry((room.width() - size.width()) / 2, top, size.width(), size.height());
 }
 
 bool HintPill::eventFilter(QObject *watched, QEvent *event)

@@ -4,7 +4,7 @@
 
 namespace board {
 
-/// A hint at the foot of the page: how the waiting tool is used.
+/// A hint at the foot or the head of the page: how the waiting tool is used, or what is shown.
 class HintPill : public QLabel
 {
     Q_OBJECT
@@ -13,8 +13,8 @@ public:
     /// Lies over `view`, which gets all presses on it.
     explicit HintPill(QWidget *view);
 
-    /// Hides for an empty text.
-    void showHint(const QString &text);
+    /// Hides for an empty text. Stands at the top or the bottom edge of the view.
+    void showHint(const QString &text, Qt::Edge edge = Qt::BottomEdge);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -22,6 +22,8 @@ protected:
 
 private:
     void place();
+
+    Qt::Edge m_edge = Qt::BottomEdge;
 };
 
 } // namespace board

@@ -597,9 +597,10 @@ void MainWindow::showSelection()
 void MainWindow::showHint()
 {
     QString hint;
+    // The timeline shows moments at the foot.
     if (m_lessons->isShowing())
-        hint = m_workspace->text("IDS_LESSON_HINT");
-    else if (!m_shapeTool->waitingKind().isEmpty())
+        return m_hint->showHint(m_workspace->text("IDS_LESSON_HINT"), Qt::TopEdge);
+    if (!m_shapeTool->waitingKind().isEmpty())
         hint = m_workspace->text("IDS_BOARD_HINT_DRAW")
                    .arg(m_workspace->text(m_workspace->registry().kind(m_shapeTool->waitingKind()).nameKey));
     m_hint->showHint(hint);

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void newNameIsTakenBackByUndo();
     void lessonIsCutOffWhereItStandsUntilUndone();
     void undoWhileRecordingLeavesWhatIsRecorded();
+    void hintStandsAboveWhereMomentsAreShown();
     void nothingCanBeEditedWhileALessonIsShown();
     void boardIsBackAfterTheLesson();
     void anotherDocumentEndsEverything();
@@ -490,6 +491,23 @@ void TestLessons::undoWhileRecordingLeavesWhatIsRecorded()
     QCOMPARE(lessons(driver).names(), QStringList({QStringLiteral("Lesson 1"), QStringLiteral("Lesson 2")}));
     lessons(driver).seek(lessons(driver).duration());
     QCOMPARE(driver.view().page()->objectCount(), 2);
+}
+
+void TestLessons::hintStandsAboveWhereMomentsAreShown()
+{
+    BoardDriver driver;
+    record(driver);
+    lessons(driver).seek(0);
+    support::deliverEvents();
+    const auto *hint = driver.window().findChild<QLabel *>("hintPill");
+    QVERIFY(hint->isVisible());
+    QCOMPARE(hint->y(), 12);
+    lessons(driver).close();
+    support::deliverEvents();
+    QVERIFY(!hint->isVisible());
+    driver.pick(rectangle);
+    support::deliverEvents();
+    QCOMPARE(hint->geometry().bottom() + 1 + 24, driver.view().height());
 }
 
 void TestLessons::nothingCanBeEditedWhileALessonIsShown()
