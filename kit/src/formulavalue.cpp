@@ -78,7 +78,7 @@ void FormulaValue::read(QDataStream &in)
         return;
     if (!in.atEnd())
         in >> inForce;
-    take(text.isNull() ? QStringLiteral("") : text, inForce);
+    take(text.isNull() ? QString(QLatin1String("")) : text, inForce);
 }
 
 QJsonValue FormulaValue::toJson() const
@@ -91,7 +91,7 @@ void FormulaValue::fromJson(const QJsonValue &value)
     if (value.isString())
         take(value.toString(), QString());
     else if (value.isArray())
-        take(value[0].toString(QStringLiteral("")), value[1].toString());
+        take(value[0].toString(QLatin1String("")), value[1].toString());
 }
 
 QJsonObject FormulaValue::control(CSVGObj &object) const

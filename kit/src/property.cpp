@@ -314,7 +314,7 @@ TextValue::TextValue(PropertiedShape *shape, const Text &text, const QString &va
 void TextValue::write(QDataStream &out) const
 {
     // JSON doesn't tell null from empty: both formats must open to the same bytes.
-    out << (m_value.isNull() ? QStringLiteral("") : m_value);
+    out << (m_value.isNull() ? QString(QLatin1String("")) : m_value);
 }
 
 void TextValue::read(QDataStream &in)

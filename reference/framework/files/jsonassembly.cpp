@@ -101,7 +101,7 @@ QByteArray behindKey(const QByteArray &text, const char *key)
 /// The data of a lesson whose text is broken, for the player to read as far as possible.
 QByteArray dataOfBroken(const QByteArray &text)
 {
-    const QByteArray object = behindKey(text, dataName);
+    QByteArray object = behindKey(text, dataName);
     if (object.startsWith('{'))
         return object;
     QByteArray digits = behindKey(text, bytesName);
