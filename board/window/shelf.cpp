@@ -2,7 +2,7 @@
 
 #include "core/workspace.h"
 #include "look/accessiblerole.h"
-#include "look/icons.h"
+#include "look/dockbutton.h"
 #include "look/sizes.h"
 #include "look/surface.h"
 #include "look/surfaceshadow.h"
@@ -25,6 +25,8 @@ namespace {
 constexpr int startGap = 60;
 constexpr int sideGap = 6;
 constexpr int lineInset = 4;
+/// Dots are equal in pictures of such sides.
+constexpr int pictureStep = 12;
 /// Strokes that stand for widths, the narrowest and the widest.
 constexpr double thinnest = 2;
 constexpr double thickest = 9;
@@ -131,11 +133,11 @@ void Shelf::addWidths(Tool tool)
 
 QToolButton *Shelf::addMore(const QString &name)
 {
-    auto *button = new QToolButton(m_content);
-    button->setIcon(icon(Icon::More));
-    button->setIconSize(QSize(sizes().barIcon, sizes().barIcon));
-    button->setFixedSize(sizes().shelf - 2 * sideGap, sizes().shelf - 2 * sideGap);
-    button->setFocusPolicy(Qt::TabFocus);
+    auto *button = new DockButton(m_content);
+    const int side = sizes().shelf - 2 * sideGap;
+    button->setPicture(Icon::More);
+    button->setPictureSide(side / pictureStep * pictureStep);
+    button->setFixedSize(side, side);
     button->setToolTip(name);
     button->setAccessibleName(name);
     m_content->layout()->addWidget(button);
