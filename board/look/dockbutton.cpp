@@ -2,6 +2,7 @@
 
 #include "look/theme.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 namespace board {
@@ -19,11 +20,11 @@ constexpr double focusWidth = 2;
 QColor backgroundOf(const DockButton &button)
 {
     const ThemeColors colors = themeColors();
-    if (button.isChecked() && button.isEnabled())
+    if (button.isChecked() && !button.isGrey())
         return colors.accent;
     if (button.isDown())
         return colors.soft;
-    return button.isEnabled() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
+    return !button.isGrey() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
 }
 
 } // namespace
@@ -47,6 +48,12 @@ void DockButton::setPictureSide(int side)
     update();
 }
 
+void DockButton::setGrey(bool grey)
+{
+    m_grey = grey;
+    update();
+}
+
 void DockButton::setKept(bool kept)
 {
     m_kept = kept;
@@ -56,6 +63,15 @@ void DockButton::setKept(bool kept)
 QSize DockButton::sizeHint() const
 {
     return {usualSide, usualSide};
+}
+
+void DockButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || event->isAutoRepeat())
+        return QToolButton::keyPressEvent(event);
+    event->accept();
+    click();
 }
 
 void DockButton::paintEvent(QPaintEvent *)
@@ -70,12 +86,12 @@ void DockButton::paintEvent(QPaintEvent *)
         painter.setPen(QPen(themeColors().accent, focusWidth));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
-    const bool isFilled = isChecked() && isEnabled();
+    const bool isFilled = isChecked() && !isGrey();
     const QPalette::ColorRole role = isFilled ? QPalette::HighlightedText : QPalette::ButtonText;
     QRect picture(0, 0, m_pictureSide, m_pictureSide);
     picture.moveCenter(rect().center());
     board::icon(m_picture, role)
-        .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+        .paint(&painter, picture, Qt::AlignCenter, isGrey() ? QIcon::Disabled : QIcon::Normal);
     paintMarks(&painter, isFilled ? QPalette::HighlightedText : QPalette::PlaceholderText);
 }
 

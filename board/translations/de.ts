@@ -1681,5 +1681,9 @@
         <source>Recording has ended</source>
         <translation>Die Aufnahme ist beendet</translation>
     </message>
+    <message>
+        <source>A lesson stays as it is. Take the page over to use “%1” on it.</source>
+        <translation>Eine Lektion bleibt, wie sie ist. Übernehmen Sie die Seite, um „%1“ zu benutzen.</translation>
+    </message>
 </context>
 </TS>
