@@ -214,14 +214,14 @@ void Writing::propertyChanged(const shapekit::Property *)
 /// The box takes the size of the new text at the present magnification.
 void Writing::rebuild()
 {
-    const double before = document ? document->viewBox().width() : 0;
+    const QSizeF before = document ? document->viewBox().size() : QSizeF();
     const QColor color = getPenColor();
     reloadTemplate();
     setPenColor(color, false);
-    if (isBeingLoaded || !owner->isCreateFinished() || before <= 0)
+    if (isBeingLoaded || !owner->isCreateFinished() || before.isEmpty())
         return;
-    const double magnification = owner->getClientRect().width() / before;
-    owner->setSize2(document->viewBox().size() * magnification, false);
+    const QSizeF size = owner->getClientRect().size();
+    owner->setSize2(m_magnification.sizeFor(document->viewBox().size(), before, size), false);
 }
 
 QVector<shapekit::LabelPlace> Writing::labelPlaces()
