@@ -532,7 +532,11 @@ void MainWindow::addStyleBar()
     auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
     connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
     bar->setReplaced(m_panel->isOpen());
-    new TypingBar(m_workspace, m_view);
+    const auto *typing = new TypingBar(m_workspace, m_commands, m_view);
+    connect(typing, &TypingBar::settingsRequested, this, [this] {
+        raisePanel(m_object);
+        m_object->showText();
+    });
     new WindowParts(m_commands,
                     {m_view, bar, m_findBar, m_dock, m_shelf, m_paletteDrawer, m_panel, m_pages, m_lessonBar,
                      m_topBar, m_notices},

@@ -51,6 +51,7 @@ private:
     shapekit::RealNumber m_wrapWidth;
     shapekit::Switch m_underlined;
     shapekit::DataValue m_links;
+    shapekit::TextValue m_font;
     Magnification m_magnification;
 };
 
