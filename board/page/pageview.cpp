@@ -56,6 +56,20 @@ bool openLinkAt(const QGraphicsView &view, const QPoint &pos)
     return false;
 }
 
+double fittingRate(const QSizeF &page, const QSizeF &room)
+{
+    return qMin(room.width() / page.width(), room.height() / page.height());
+}
+
+/// Of a page that fits but for less than a pixel, nothing of the desk is seen.
+double coveringRate(const QSizeF &page, const QSizeF &room)
+{
+    const double fitting = fittingRate(page, room);
+    const QSizeF left = room - page * fitting;
+    const bool isCovered = left.width() < 1 && left.height() < 1;
+    return isCovered ? qMax(room.width() / page.width(), room.height() / page.height()) : fitting;
+}
+
 } // namespace
 
 PageView::PageView(QWidget *parent)
@@ -221,7 +235,7 @@ void PageView::showFitted()
     const int margin = window()->height() < lowHeight ? lowMargin : highMargin;
     const QSize margins = m_isBare ? QSize(0, 0) : QSize(m_shelfMargin + sideMargin, 2 * margin);
     const QSizeF room = viewport()->size() - margins;
-    const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
+    const double rate = m_isBare ? coveringRate(m_page->size(), room) : fittingRate(m_page->size(), room);
     applyZoom(qBound(smallestZoom, rate, largestZoom));
     const double aside = m_isBare ? 0 : (sideMargin - m_shelfMargin) / 2.0 / m_zoom;
     centerOn(m_page->rect().center() + QPointF(m_shelfEdge == Qt::RightEdge ? -aside : aside, 0));
