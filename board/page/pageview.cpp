@@ -6,6 +6,7 @@
 #include "page/draghint.h"
 #include "page/labelwriting.h"
 #include "page/links.h"
+#include "page/pagefit.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -54,20 +55,6 @@ bool openLinkAt(const QGraphicsView &view, const QPoint &pos)
         if (auto *object = dynamic_cast<CBaseObject *>(item))
             return openLink(linkAt(*object, view.mapToScene(pos)));
     return false;
-}
-
-double fittingRate(const QSizeF &page, const QSizeF &room)
-{
-    return qMin(room.width() / page.width(), room.height() / page.height());
-}
-
-/// Of a page that fits but for less than a pixel, nothing of the desk is seen.
-double coveringRate(const QSizeF &page, const QSizeF &room)
-{
-    const double fitting = fittingRate(page, room);
-    const QSizeF left = room - page * fitting;
-    const bool isCovered = left.width() < 1 && left.height() < 1;
-    return isCovered ? qMax(room.width() / page.width(), room.height() / page.height()) : fitting;
 }
 
 } // namespace
