@@ -39,6 +39,8 @@ QVector<TextEntry> lessonTexts()
         {"IDS_LESSON_FASTER", QT_TRANSLATE_NOOP("board", "Play faster")},
         {"IDS_LESSON_TAKE_OVER", QT_TRANSLATE_NOOP("board", "Take the page over")},
         {"IDS_LESSON_TAKE_OVER_SHORT", QT_TRANSLATE_NOOP("board", "Take over")},
+        {"IDS_LESSON_TOOLS_WAIT",
+         QT_TRANSLATE_NOOP("board", "A lesson stays as it is. Take the page over to use “%1” on it.")},
         {"IDS_LESSON_NEW_NAME", QT_TRANSLATE_NOOP("board", "Name of the lesson")},
         {"IDS_LESSON_SPEED", QT_TRANSLATE_NOOP("board", "Speed of the lesson")},
         {"IDS_LESSON_CHOOSE", QT_TRANSLATE_NOOP("board", "Which lesson is played")},

@@ -275,6 +275,9 @@ int ControlStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
         mask->region = surfaceRegion(option->rect);
         return true;
     }
+    // Else menus that are too long for the screen have columns, beside it.
+    if (hint == SH_Menu_Scrollable)
+        return true;
     const bool isMotion = hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration;
     return isMotion && isMotionReduced() ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }

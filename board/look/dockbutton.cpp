@@ -2,6 +2,7 @@
 
 #include "look/theme.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 namespace board {
@@ -19,11 +20,11 @@ constexpr double focusWidth = 2;
 QColor backgroundOf(const DockButton &button)
 {
     const ThemeColors colors = themeColors(&button);
-    if (button.isChecked() && button.isEnabled())
+    if (button.isChecked() && !button.isGrey())
         return button.isSwitch() ? colors.soft : colors.accent;
     if (button.isDown())
         return colors.soft;
-    return button.isEnabled() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
+    return !button.isGrey() && button.underMouse() ? colors.hover : QColor(Qt::transparent);
 }
 
 } // namespace
@@ -47,6 +48,12 @@ void DockButton::setPictureSide(int side)
     update();
 }
 
+void DockButton::setGrey(bool grey)
+{
+    m_grey = grey;
+    update();
+}
+
 void DockButton::setKept(bool kept)
 {
     m_kept = kept;
@@ -56,6 +63,15 @@ void DockButton::setKept(bool kept)
 QSize DockButton::sizeHint() const
 {
     return {usualSide, usualSide};
+}
+
+void DockButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || event->isAutoRepeat())
+        return QToolButton::keyPressEvent(event);
+    event->accept();
+    click();
 }
 
 void DockButton::paintEvent(QPaintEvent *)
@@ -70,13 +86,14 @@ void DockButton::paintEvent(QPaintEvent *)
         painter.setPen(QPen(themeColors(this).accent, focusWidth));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
-    const bool isOn = isChecked() && isEnabled();
+    const bool isOn = isChecked() && !isGrey();
     const bool isFilled = isOn && !m_isSwitch;
     const QPalette::ColorRole ofSwitch = isOn ? QPalette::Highlight : QPalette::ButtonText;
     const QPalette::ColorRole role = isFilled ? QPalette::HighlightedText : ofSwitch;
+    const QPalette::ColorGroup group = isGrey() ? QPalette::Disabled : QPalette::Active;
     QRect picture(0, 0, m_pictureSide, m_pictureSide);
     picture.moveCenter(rect().center());
-    paintIcon(&painter, picture, m_picture, palette().color(role));
+    paintIcon(&painter, picture, m_picture, palette().color(group, role));
     paintMarks(&painter, isFilled ? QPalette::HighlightedText : QPalette::PlaceholderText);
 }
 

@@ -25,12 +25,17 @@ public:
     /// Paler while it is on than a tool that is chosen.
     void setSwitch(bool isSwitch) { m_isSwitch = isSwitch; }
     bool isSwitch() const { return m_isSwitch; }
+    /// Grey as if it were disabled, but it can be pressed.
+    void setGrey(bool grey);
+    bool isGrey() const { return m_grey || !isEnabled(); }
     void setKept(bool kept);
     bool isKept() const { return m_kept; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {smallestSide, smallestSide}; }
 
 protected:
+    /// Enter and Return press it, as the space bar does.
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -39,6 +44,7 @@ private:
     Icon m_picture = Icon::More;
     int m_pictureSide = 22;
     bool m_opensMore = false;
+    bool m_grey = false;
     bool m_kept = false;
     bool m_isSwitch = false;
 };

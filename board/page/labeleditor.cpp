@@ -104,14 +104,17 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     pagehost::setBeingWritten(*object, true);
 }
 
-void LabelEditor::showLetters(bool isItalic, bool isUnderlined)
+void LabelEditor::showLetters(const LetterLook &look)
 {
     const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
-    QFont font(QStringLiteral("sans-serif"));
+    const QString usual = QStringLiteral("sans-serif");
+    QFont font(usual);
+    if (!look.family.isEmpty())
+        font.setFamilies({look.family, usual});
     font.setPixelSize(std::max(smallestFont, qRound(m_label.fontSize * zoom)));
     font.setBold(m_label.isBold);
-    font.setItalic(isItalic);
-    font.setUnderline(isUnderlined);
+    font.setItalic(look.isItalic);
+    font.setUnderline(look.isUnderlined);
     setFont(font);
     setStyleSheet(
         QStringLiteral("QTextEdit { color: %1; background: %2; }")
@@ -121,7 +124,7 @@ void LabelEditor::showLetters(bool isItalic, bool isUnderlined)
     document()->setDefaultTextOption(option);
 }
 
-void LabelEditor::followLook(bool isItalic, bool isUnderlined)
+void LabelEditor::followLook(const LetterLook &look)
 {
     const std::optional<EditableLabel> present = presentLabel();
     if (!present)
@@ -132,7 +135,7 @@ void LabelEditor::followLook(bool isItalic, bool isUnderlined)
     m_label.text = before;
     // Nothing is typed by it.
     const QSignalBlocker blocker(this);
-    showLetters(isItalic, isUnderlined);
+    showLetters(look);
     takePlace();
 }
 
@@ -359,7 +362,6 @@ void LabelEditor::keyPressEvent(QKeyEvent *event)
         raiseOrLower(textCursor());
 }
 
-/// Without the marks of lists.
 void LabelEditor::pastePlain()
 {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();

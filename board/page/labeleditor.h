@@ -29,6 +29,14 @@ struct EditableLabel
     Qt::Alignment alignment;
 };
 
+/// The part of the look of letters that is not told with a label.
+struct LetterLook
+{
+    bool isItalic = false;
+    bool isUnderlined = false;
+    QString family; ///< empty for the usual one
+};
+
 /// In drawing order; empty for an object without such texts.
 QVector<EditableLabel> labelsOf(CBaseObject &object);
 
@@ -53,12 +61,14 @@ public:
     CBaseObject *object() const;
     /// Whose changes belong to the step that has added it.
     bool isOfNewObject() const { return m_isNewObject; }
-    /// Shows the letters as the object has them now; what is not part of its labels is told.
-    void followLook(bool isItalic, bool isUnderlined);
+    /// Shows the letters as the object has them now.
+    void followLook(const LetterLook &look);
     /// Whether there may be several lines, and so lists.
     bool mayHaveLists() const { return m_label.hasManyLines; }
     /// Makes the selected lines items, those numbered ones, and those plain lines (page/listediting.h).
     void toggleList();
+    /// The letters in the clipboard, without formats and marks of lists.
+    void pastePlain();
     bool mayHaveLinks() const { return m_linksId != 0; }
     /// Asks for the address of a link of the selected letters.
     void askForLink();
@@ -81,12 +91,11 @@ protected:
 private:
     bool editList(const QKeyEvent &event);
     std::optional<EditableLabel> presentLabel() const;
-    void showLetters(bool isItalic = false, bool isUnderlined = false);
+    void showLetters(const LetterLook &look = {});
     void takeLink();
     void closeLinkField();
     void sendLinks(const QVector<pagehost::TextLink> &links, bool record);
     void setForGood();
-    void pastePlain();
     void type(const QString &text, bool record);
     void releaseObject();
     QRect frameInView() const;

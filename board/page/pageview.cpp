@@ -6,6 +6,7 @@
 #include "page/draghint.h"
 #include "page/labelwriting.h"
 #include "page/links.h"
+#include "page/pagefit.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -227,7 +228,7 @@ void PageView::showFitted()
     const int margin = window()->height() < lowHeight ? lowMargin : highMargin;
     const QSize margins = m_isBare ? QSize(0, 0) : QSize(m_shelfMargin + sideMargin, 2 * margin);
     const QSizeF room = viewport()->size() - margins;
-    const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
+    const double rate = m_isBare ? coveringRate(m_page->size(), room) : fittingRate(m_page->size(), room);
     applyZoom(qBound(smallestZoom, rate, largestZoom));
     const double aside = m_isBare ? 0 : (sideMargin - m_shelfMargin) / 2.0 / m_zoom;
     centerOn(m_page->rect().center() + QPointF(m_shelfEdge == Qt::RightEdge ? -aside : aside, 0));

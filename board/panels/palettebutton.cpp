@@ -35,6 +35,9 @@ bool fits(const QString &text, const QFont &font, const QSize &room)
 /// The font, smaller where the longest word of `text` would be wider than `room`, or all of it higher.
 QFont fittingFont(QFont font, const QString &text, const QSize &room)
 {
+    // Large letters are so many pixels high.
+    if (font.pointSizeF() <= 0)
+        font.setPointSizeF(QFontInfo(font).pointSizeF());
     while (!fits(text, font, room) && font.pointSizeF() > smallestPointSize)
         font.setPointSizeF(font.pointSizeF() - 0.5);
     return font;
@@ -64,10 +67,15 @@ QSize PaletteButton::sizeHint() const
     return {sizes().kind, qMax(sizes().kind + extraHeight, twoLines)};
 }
 
-QFont PaletteButton::nameFont() const
+QSize PaletteButton::nameRoom() const
 {
     const QSize size = sizeHint();
-    return fittingFont(font(), text(), {size.width() - 2 * edge, size.height() - iconSize().height() - 3 * edge});
+    return {size.width() - 2 * edge, size.height() - iconSize().height() - 3 * edge};
+}
+
+QFont PaletteButton::nameFont() const
+{
+    return fittingFont(font(), text(), nameRoom());
 }
 
 /// Names are wrapped to two lines, which a tool button does not do by itself.

@@ -18,6 +18,8 @@ public:
     /// Whether every word of a text is in the search words.
     bool isFoundBy(const QString &searched) const;
     QSize sizeHint() const override;
+    /// For the name, below the picture; logical pixels.
+    QSize nameRoom() const;
     /// The button's font, smaller where the longest word of the name needs it.
     QFont nameFont() const;
 

@@ -1,5 +1,6 @@
 #include "presenting/audiencewindow.h"
 
+#include "page/pagefit.h"
 #include "page/pageview.h"
 #include "presenting/curtain.h"
 #include "presenting/laserpointer.h"
@@ -35,8 +36,7 @@ void AudienceView::fit()
     if (!m_page)
         return;
     setSceneRect(m_page->rect());
-    const QSizeF room = viewport()->size();
-    const double rate = qMin(room.width() / m_page->size().width(), room.height() / m_page->size().height());
+    const double rate = coveringRate(m_page->size(), viewport()->size());
     setTransform(QTransform::fromScale(rate, rate));
 }
 

@@ -1769,5 +1769,21 @@
         <source>Pen options</source>
         <translation>Stiftoptionen</translation>
     </message>
+    <message>
+        <source>A lesson stays as it is. Take the page over to use “%1” on it.</source>
+        <translation>Eine Lektion bleibt, wie sie ist. Übernehmen Sie die Seite, um „%1“ zu benutzen.</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Paste letters alone</source>
+        <translation>Nur Buchstaben einfügen</translation>
+    </message>
+    <message>
+        <source>All settings of the text</source>
+        <translation>Alle Einstellungen des Textes</translation>
+    </message>
 </context>
 </TS>

@@ -128,21 +128,40 @@ DockButton *Dock::buttonOf(Tool tool) const
     return found == m_entries.end() ? nullptr : found->button;
 }
 
-/// A second press keeps the tool, or ends keeping it; pens stay anyway, and show their options. Shapes are chosen
-/// first.
+/// A second press keeps the tool, or ends keeping it; pens stay anyway, and show their options.
 void Dock::press(std::optional<Tool> tool)
+{
+    if (m_blocked)
+        Q_EMIT pressedInVain(tool ? buttonOf(*tool)->accessibleName() : m_insert->accessibleName(), tool);
+    else if (tool && m_tools->tool() == *tool && hasOptions(*tool))
+        Q_EMIT optionsRequested();
+    else if (tool && tool != Tool::Shape && m_tools->tool() == *tool)
+        m_tools->keep(!m_tools->isKept());
+    else
+        use(tool);
+    // The press has checked or unchecked its button.
+    showChoice();
+}
+
+/// Shapes are chosen first.
+void Dock::use(std::optional<Tool> tool)
 {
     if (!tool)
         m_commands->action(Command::InsertAnything)->trigger();
     else if (tool == Tool::Shape)
         Q_EMIT shapesRequested();
-    else if (m_tools->tool() == *tool && hasOptions(*tool))
-        Q_EMIT optionsRequested();
-    else if (m_tools->tool() == *tool)
-        m_tools->keep(!m_tools->isKept());
-    else
+    else if (m_tools->tool() != *tool)
         m_tools->choose(*tool);
-    showChoice();
+}
+
+void Dock::setBlocked(bool blocked)
+{
+    m_blocked = blocked;
+    for (const Entry &entry : qAsConst(m_entries))
+        entry.button->setGrey(blocked);
+    m_more->setGrey(blocked);
+    if (m_colors)
+        m_colors->setEnabled(!blocked);
 }
 
 bool Dock::isOffered(const Entry &entry) const

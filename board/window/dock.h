@@ -28,6 +28,10 @@ public:
 
     /// Stands behind the tools while the bar lies at the top or the bottom and has room for it.
     void setColors(QWidget *colors);
+    /// While blocked, tools are grey, and a press on one only says so.
+    void setBlocked(bool blocked);
+    /// Does as a first press on the tool; without a tool, on the last entry of the bar.
+    void use(std::optional<Tool> tool);
     /// The edge of the window that the bar lies at.
     void setEdge(Qt::Edge edge);
     Qt::Edge edge() const { return m_edge; }
@@ -40,6 +44,8 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// A tool has been pressed while all are blocked; without one, the last entry of the bar.
+    void pressedInVain(const QString &name, std::optional<board::Tool> tool);
     /// The user wants to choose a shape.
     void shapesRequested();
     /// The pen or the highlighter was pressed again.
@@ -103,6 +109,7 @@ private:
     QVector<DockButton *> m_ends; ///< from the far end
     QVector<int> m_lines;         ///< along the bar
     Qt::Edge m_edge = Qt::LeftEdge;
+    bool m_blocked = false;
     bool m_dragging = false;
 };
 

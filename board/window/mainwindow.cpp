@@ -31,6 +31,7 @@
 #include "lessons/lessonbar.h"
 #include "lessons/lessoncontroller.h"
 #include "lessons/lessonmenu.h"
+#include "lessons/takeoveroffer.h"
 #include "look/accessiblerole.h"
 #include "look/dockbutton.h"
 #include "look/sizes.h"
@@ -84,6 +85,7 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
@@ -143,9 +145,8 @@ MainWindow::MainWindow(Workspace *workspace)
     m_topBar->addPrimary(m_commands->action(Command::Present), Icon::Present);
     m_topBar->addPageSwitch(m_commands->action(Command::PageStrip));
     m_topBar->addSwitch(m_commands->action(Command::Panel));
-    for (QWidget *part : {static_cast<QWidget *>(m_dock), m_topBar->pages(), static_cast<QWidget *>(m_pages),
-                          static_cast<QWidget *>(m_palette), static_cast<QWidget *>(m_sidePanel),
-                          static_cast<QWidget *>(m_findBar)})
+    for (QWidget *part : {m_topBar->pages(), static_cast<QWidget *>(m_pages), static_cast<QWidget *>(m_palette),
+                          static_cast<QWidget *>(m_sidePanel), static_cast<QWidget *>(m_findBar)})
         m_lock.add(part);
     connectParts();
     connectTools();
@@ -470,10 +471,21 @@ void MainWindow::connectLessons()
     m_lessonMenu->addKeysTo(m_view);
     connect(m_lessons, &LessonController::shownPageChanged, this, [this] {
         m_lock.setLocked(m_lessons->isShowing());
+        m_dock->setBlocked(m_lessons->isShowing());
         m_commands->setEditingBlocked(m_lessons->isShowing());
         showCurrentPage();
     });
     m_recovery->setCompletion([this] { m_lessons->keepSoFar(); });
+    auto *offer = new TakeOverOffer(m_workspace, m_notices, m_lessons, this);
+    connect(m_dock, &Dock::pressedInVain, this, [=](const QString &name, std::optional<Tool> tool) {
+        QPushButton *answer = offer->make(name, [=] {
+            m_view->setFocus();
+            m_dock->use(tool);
+        });
+        // Who has pressed a key goes on with keys.
+        if (answer && m_dock->isAncestorOf(QApplication::focusWidget()))
+            answer->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 void MainWindow::connectAnimation()
@@ -525,7 +537,11 @@ void MainWindow::addStyleBar()
     auto *bar = new StyleBar(m_workspace, m_commands, m_tools, m_view);
     connect(m_panel, &Drawer::openChanged, bar, &StyleBar::setReplaced);
     bar->setReplaced(m_panel->isOpen());
-    new TypingBar(m_workspace, m_view);
+    const auto *typing = new TypingBar(m_workspace, m_commands, m_view);
+    connect(typing, &TypingBar::settingsRequested, this, [this] {
+        raisePanel(m_object);
+        m_object->showText();
+    });
     new WindowParts(m_commands,
                     {m_view, bar, m_findBar, m_dock, m_shelf, m_penOptions, m_paletteDrawer, m_panel, m_pages,
                      m_lessonBar, m_topBar, m_notices},

@@ -125,6 +125,14 @@ void ObjectPanel::settle()
     m_properties->settle();
 }
 
+void ObjectPanel::showText()
+{
+    m_textSection->setOpen(true);
+    refresh();
+    widget()->layout()->activate();
+    ensureWidgetVisible(m_textSection);
+}
+
 void ObjectPanel::showAllProperties()
 {
     m_allProperties->setOpen(true);

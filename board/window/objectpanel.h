@@ -31,6 +31,8 @@ public:
     ObjectPanel(const Workspace *workspace, const Commands *commands, NewLook *newLook, QWidget *parent = nullptr);
 
     void setPage(pagehost::Page *page);
+    /// Opens the section of the letters, and scrolls to it.
+    void showText();
     void showAllProperties();
     /// Takes back what is shown only while the user chooses.
     void settle();

@@ -1,5 +1,6 @@
 #include "window/typingbar.h"
 
+#include "core/commands.h"
 #include "core/workspace.h"
 #include "look/accessiblerole.h"
 #include "look/icons.h"
@@ -12,6 +13,8 @@
 #include "page/labelwriting.h"
 #include "page/pageview.h"
 #include "panels/colorbutton.h"
+#include "window/fontmenu.h"
+#include "window/menufield.h"
 #include "window/stylebarplace.h"
 
 #include <pagehost/page.h>
@@ -44,13 +47,22 @@ constexpr int offeredSizes[] = {12, 14, 16, 18, 20, 24, 28, 32, 40, 48, 64, 96};
 constexpr Icon alignmentIcons[] = {Icon::TextLeft, Icon::TextMiddle, Icon::TextRight};
 /// Between the bar and the edges of the view.
 constexpr int roomMargin = 4;
-constexpr int sizeWidth = 52;
+constexpr int sizeWidth = 60;
+constexpr int fontWidth = 120;
 
 bool isOn(const QVector<SettingControl> &controls, const QString &id)
 {
     return std::any_of(controls.begin(), controls.end(), [&](const SettingControl &control) {
         return control.id == id && control.kind == SettingControl::Switch && control.value.toBool();
     });
+}
+
+QString familyIn(const QVector<SettingControl> &controls)
+{
+    const auto font = std::find_if(controls.begin(), controls.end(), [](const SettingControl &control) {
+        return control.kind == SettingControl::Font;
+    });
+    return font == controls.end() ? QString() : font->value.toString();
 }
 
 bool isNumber(const SettingControl &control)
@@ -69,9 +81,10 @@ QFont letterFont(const QToolButton &button, const QString &id)
 
 } // namespace
 
-TypingBar::TypingBar(const Workspace *workspace, PageView *view)
+TypingBar::TypingBar(const Workspace *workspace, const Commands *commands, PageView *view)
     : QWidget(view)
     , m_workspace(workspace)
+    , m_commands(commands)
     , m_view(view)
     , m_row(new QHBoxLayout(this))
 {
@@ -158,6 +171,7 @@ void TypingBar::build()
     const auto isOfKind = [](SettingControl::Kind kind) {
         return [kind](const SettingControl &control) { return control.kind == kind && control.id != listId; };
     };
+    addAll(isOfKind(SettingControl::Font), [this](int index) { addFont(index); });
     // The first one is the size; the other is the width of lines, which is dragged.
     const auto size = std::find_if(m_controls.constBegin(), m_controls.constEnd(), isNumber);
     if (size != m_controls.constEnd())
@@ -166,6 +180,8 @@ void TypingBar::build()
     addTextCommands();
     addAll(isOfKind(SettingControl::Choice), [this](int index) { addChoice(index); });
     addAll(isOfKind(SettingControl::Color), [this](int index) { addColor(index); });
+    if (!m_updates.isEmpty())
+        addMore();
     m_row->addWidget(m_content);
     m_content->show();
 }
@@ -174,26 +190,49 @@ QToolButton *TypingBar::addButton(const QString &name)
 {
     auto *button = new QToolButton(m_content);
     sizeAsStyleButton(button);
-    // The text keeps the focus, else it would be done.
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setToolTip(name);
-    button->setAccessibleName(name);
-    m_content->layout()->addWidget(button);
+    nameControl(button, name);
     return button;
+}
+
+MenuField *TypingBar::addField(const QString &name, int width)
+{
+    auto *field = new MenuField(m_content);
+    followSizes(field, [=] { field->setFixedSize(qMax(width, sizes().styleButton), sizes().field); });
+    nameControl(field, name);
+    return field;
+}
+
+void TypingBar::nameControl(QToolButton *control, const QString &name)
+{
+    // The text keeps the focus, else it would be done.
+    control->setFocusPolicy(Qt::NoFocus);
+    control->setToolTip(name);
+    control->setAccessibleName(name);
+    m_content->layout()->addWidget(control);
+}
+
+void TypingBar::addFont(int index)
+{
+    MenuField *field = addField(m_workspace->text(m_controls.at(index).titleKey), fontWidth);
+    auto *menu = new FontMenu(m_workspace, field);
+    field->setMenu(menu);
+    connect(menu, &FontMenu::familyPicked, this, [=](const QString &family) { apply(index, family); });
+    m_updates.append([=] {
+        const QString family = m_controls.at(index).value.toString();
+        menu->setFamily(family);
+        field->setValue(menu->nameOf(family));
+    });
 }
 
 void TypingBar::addSize(int index)
 {
     const SettingControl control = m_controls.at(index);
-    QToolButton *button = addButton(m_workspace->text(control.titleKey));
-    followSizes(button, [button] { button->setFixedWidth(qMax(sizeWidth, sizes().styleButton)); });
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setMenu(new QMenu(button));
+    MenuField *field = addField(m_workspace->text(control.titleKey), sizeWidth);
+    field->setMenu(new QMenu(field));
     for (const int size : offeredSizes)
         if (size >= control.range.minimum && size <= control.range.maximum)
-            button->menu()->addAction(QString::number(size), this, [=] { apply(index, double(size)); });
-    m_updates.append(
-        [this, button, index] { button->setText(QString::number(qRound(m_controls.at(index).value.toDouble()))); });
+            field->menu()->addAction(QString::number(size), this, [=] { apply(index, double(size)); });
+    m_updates.append([=] { field->setValue(QString::number(qRound(m_controls.at(index).value.toDouble()))); });
 }
 
 /// The first letter of its name, in its own look.
@@ -253,6 +292,26 @@ void TypingBar::addTextCommands()
     connect(button, &QToolButton::clicked, editor(), &LabelEditor::askForLink);
 }
 
+/// Whatever else belongs to the text.
+void TypingBar::addMore()
+{
+    QToolButton *button = addButton(m_workspace->text("IDS_BOARD_MORE"));
+    button->setIcon(icon(Icon::More));
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(button);
+    button->setMenu(menu);
+    const QString keys = QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V).toString(QKeySequence::NativeText);
+    QAction *paste = menu->addAction(m_workspace->text("IDS_BOARD_PASTE_PLAIN") + QLatin1Char('\t') + keys,
+                                     editor(), &LabelEditor::pastePlain);
+    connect(menu, &QMenu::aboutToShow, paste,
+            [this, paste] { paste->setEnabled(editor() && editor()->canPaste()); });
+    menu->addSeparator();
+    menu->addAction(m_commands->action(Command::FindText));
+    menu->addAction(m_commands->action(Command::ReplaceText));
+    menu->addSeparator();
+    menu->addAction(m_workspace->text("IDS_BOARD_TEXT_SETTINGS"), this, &TypingBar::settingsRequested);
+}
+
 /// Changes of a new text belong to the step that has added it.
 void TypingBar::apply(int index, const QVariant &value)
 {
@@ -282,7 +341,7 @@ void TypingBar::showValues()
     }
     for (const auto &update : qAsConst(m_updates))
         update();
-    editor()->followLook(isOn(present, italicId), isOn(present, underlinedId));
+    editor()->followLook({isOn(present, italicId), isOn(present, underlinedId), familyIn(present)});
 }
 
 /// It stays where it is while the text grows beside it.

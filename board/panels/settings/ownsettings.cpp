@@ -18,7 +18,8 @@ bool isOwnSetting(const SettingControl &control)
 
 bool isShort(const SettingControl &control)
 {
-    return control.kind != SettingControl::Text && control.kind != SettingControl::Command;
+    return control.kind != SettingControl::Text && control.kind != SettingControl::Font &&
+           control.kind != SettingControl::Command;
 }
 
 std::optional<SettingControl> firstOwnSetting(CBaseObject &object)

@@ -72,7 +72,7 @@ Reading readInput(SettingControl control, const QJsonObject &object)
 {
     const QString type = object[QLatin1String("valueType")].toString();
     if (type != QLatin1String("int") && type != QLatin1String("double")) {
-        control.kind = SettingControl::Text;
+        control.kind = type == QLatin1String("font") ? SettingControl::Font : SettingControl::Text;
         control.value = object[QLatin1String("value")].toString();
         return control;
     }

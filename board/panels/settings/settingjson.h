@@ -12,13 +12,13 @@ namespace board {
 /// One control of a settings panel, as an object describes it (CPSRootObject::GetSettingJson()).
 struct SettingControl
 {
-    enum Kind { Choice, Color, Text, Number, Switch, Slider, Command };
+    enum Kind { Choice, Color, Text, Font, Number, Switch, Slider, Command };
 
     Kind kind = Command;
     QString id;       ///< never empty
     QString titleKey; ///< localisation key
-    /// The number of the entry (Choice; -1 for none), a QColor (Color), text (Text), a double (Number, Slider), a
-    /// bool (Switch), or the command (Command).
+    /// The number of the entry (Choice; -1 for none), a QColor (Color), text (Text), the name of a family or an
+    /// empty text for the usual one (Font), a double (Number, Slider), a bool (Switch), or the command (Command).
     QVariant value;
     QStringList icons; ///< paths of a choice's pictures; as many as `texts`, or one of both is empty
     QStringList texts; ///< localisation keys of a choice's entries

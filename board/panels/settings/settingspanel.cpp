@@ -1,9 +1,11 @@
 #include "panels/settings/settingspanel.h"
 
+#include "core/fontfamilies.h"
 #include "core/workspace.h"
 #include "panels/editors/choiceeditor.h"
 #include "panels/editors/coloreditor.h"
 #include "panels/editors/commandeditor.h"
+#include "panels/editors/fonteditor.h"
 #include "panels/editors/slidereditor.h"
 #include "panels/editors/switcheditor.h"
 #include "panels/editors/texteditor.h"
@@ -90,6 +92,8 @@ ValueEditor *SettingsPanel::makeEditor(const SettingControl &control) const
         return makeChoice(control);
     case SettingControl::Color:
         return new ColorEditor(&workspace());
+    case SettingControl::Font:
+        return new FontEditor(workspace().text("IDS_BOARD_USUAL_FONT"), fontFamilies());
     case SettingControl::Number:
         return new NumberEditor(&workspace(), control.range, control.unit);
     case SettingControl::Switch:

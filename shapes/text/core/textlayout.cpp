@@ -3,6 +3,7 @@
 #include <pagehost/listmark.h>
 
 #include <QtGui/QFont>
+#include <QtGui/QFontInfo>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
 
@@ -20,9 +21,20 @@ constexpr double unlimited = 1e6;
 /// Width of a box without a letter, in font sizes.
 constexpr double emptyWidth = 0.5;
 
+/// As drawings choose: the family if there is one of this very name.
+bool isInstalled(const QString &family)
+{
+    QFont font(family);
+    font.setPixelSize(layoutPixels);
+    return QFontInfo(font).family().compare(family, Qt::CaseInsensitive) == 0;
+}
+
 QFont fontOf(const TextLook &look)
 {
-    QFont font(QStringLiteral("sans-serif"));
+    const QString usual = QStringLiteral("sans-serif");
+    QFont font(usual);
+    if (!look.family.isEmpty() && isInstalled(look.family))
+        font.setFamilies({look.family, usual});
     font.setPixelSize(layoutPixels);
     font.setBold(look.isBold);
     font.setItalic(look.isItalic);

@@ -20,6 +20,7 @@ struct TextLook
     Alignment alignment = Alignment::Left;
     bool isUnderlined = false;
     double wrapWidth = 0; ///< lines are broken to that width; 0 for no breaks but the text's own
+    QString family{}; ///< of the letters; empty for the usual one, which also stands for one that is not installed
 };
 
 /// A line of the text, with the end or the middle of its baseline that the alignment leaves in place.

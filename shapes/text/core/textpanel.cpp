@@ -49,8 +49,11 @@ bool Writing::GetSettingArray(QJsonArray &settings)
     QString listTitle = listText.key(kind());
     QList<QString> icons;
     QList<QString> entries{noListText.key(kind()), bulletsText.key(kind()), numbersText.key(kind())};
+    QJsonObject font = m_font.control(*owner);
+    font[QStringLiteral("valueType")] = QStringLiteral("font");
     const QVector<QJsonObject> controls{
         m_text.control(*owner),
+        font,
         m_fontSize.control(*owner),
         m_bold.control(*owner),
         m_italic.control(*owner),

@@ -18,6 +18,7 @@ namespace {
 using shapekit::Text;
 
 const Text textText("Text", "Text");
+const Text fontText("Font", "Schriftart");
 const Text sizeText("Font size", "Schriftgröße");
 const Text boldText("Bold", "Fett");
 const Text italicText("Italic", "Kursiv");
@@ -37,17 +38,34 @@ constexpr double widestLine = 4000;
 constexpr double boxInset = 0.5;
 /// Longer texts are cut.
 constexpr int mostCharacters = 20000;
+constexpr int longestFamily = 100;
 
 /// Without the characters that XML can't have, which are never seen.
 QString printable(const QString &text)
 {
     QString allowed;
-    for (const QChar character : text.left(mostCharacters))
+    const QString kept = text.left(mostCharacters);
+    for (const QChar character : kept)
         if (character == QLatin1Char('\n') || character == QLatin1Char('\t') ||
             (character.unicode() >= 0x20 && character.unicode() < 0xfffe))
             allowed.append(character);
-    const QString whole = QString::fromUtf8(allowed.toUtf8()); // replaces halves of surrogate pairs
-    return whole;
+    return QString::fromUtf8(allowed.toUtf8()); // replaces halves of surrogate pairs
+}
+
+/// Without signs that mean something in lists of families.
+QString familyOf(const QString &chosen)
+{
+    QString family = printable(chosen.left(longestFamily)).simplified();
+    for (const char sign : {'"', '\'', '\\', ',', ';'})
+        family.remove(QLatin1Char(sign));
+    return family;
+}
+
+/// With the usual one for a machine that hasn't got it.
+QString familyList(const QString &family)
+{
+    const QString usual = QStringLiteral("sans-serif");
+    return family.isEmpty() ? usual : QStringLiteral("'%1', %2").arg(family, usual);
 }
 
 QString anchorName(Alignment alignment)
@@ -115,7 +133,7 @@ void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<Te
 {
     writer.writeStartElement(QStringLiteral("text"));
     writer.writeAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
-    writer.writeAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
+    writer.writeAttribute(QStringLiteral("font-family"), familyList(look.family));
     writer.writeAttribute(QStringLiteral("font-size"), number(look.fontSize));
     if (look.isBold)
         writer.writeAttribute(QStringLiteral("font-weight"), QStringLiteral("bold"));
@@ -147,6 +165,7 @@ Writing::Writing(CSVGObj *owner)
     , m_wrapWidth(this, wrapText, 0, 0, widestLine, 10)
     , m_underlined(this, underlinedText, false)
     , m_links(this, linksText)
+    , m_font(this, fontText, QString())
 {
     m_links.setPanels(false, false);
     propPenStyleEnabled = propPenWidthEnabled = false;
@@ -176,8 +195,8 @@ void Writing::wrapTo(double width)
 
 TextLook Writing::look() const
 {
-    return {printable(m_text),           m_fontSize,   m_bold,     m_italic,
-            Alignment(int(m_alignment)), m_underlined, m_wrapWidth};
+    return {printable(m_text),           m_fontSize,   m_bold,      m_italic,
+            Alignment(int(m_alignment)), m_underlined, m_wrapWidth, familyOf(m_font)};
 }
 
 QString Writing::getSVG()
@@ -193,7 +212,7 @@ QString Writing::getSVG()
     writer.writeAttribute(QStringLiteral("height"), number(layout.size.height()));
     writer.writeAttribute(
         QStringLiteral("viewBox"),
-        QStringLiteral("0 0 %1 %2").arg(number(layout.size.width())).arg(number(layout.size.height())));
+        QStringLiteral("0 0 %1 %2").arg(number(layout.size.width()), number(layout.size.height())));
     // A text without letters has something to be seen and taken hold of.
     writeBox(writer, layout.size, present.text.isEmpty());
     writeLines(writer, present, layout.lines, pagehost::decodedLinks(m_links));
@@ -214,14 +233,14 @@ void Writing::propertyChanged(const shapekit::Property *)
 /// The box takes the size of the new text at the present magnification.
 void Writing::rebuild()
 {
-    const double before = document ? document->viewBox().width() : 0;
+    const QSizeF before = document ? document->viewBox().size() : QSizeF();
     const QColor color = getPenColor();
     reloadTemplate();
     setPenColor(color, false);
-    if (isBeingLoaded || !owner->isCreateFinished() || before <= 0)
+    if (isBeingLoaded || !owner->isCreateFinished() || before.isEmpty())
         return;
-    const double magnification = owner->getClientRect().width() / before;
-    owner->setSize2(document->viewBox().size() * magnification, false);
+    const QSizeF size = owner->getClientRect().size();
+    owner->setSize2(m_magnification.sizeFor(document->viewBox().size(), before, size), false);
 }
 
 QVector<shapekit::LabelPlace> Writing::labelPlaces()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/core/magnification.h"
 #include "text/core/textlayout.h"
 
 #include <shapekit/shape.h>
@@ -50,6 +51,8 @@ private:
     shapekit::RealNumber m_wrapWidth;
     shapekit::Switch m_underlined;
     shapekit::DataValue m_links;
+    shapekit::TextValue m_font;
+    Magnification m_magnification;
 };
 
 } // namespace text

@@ -4,10 +4,12 @@
 #include <look/theme.h>
 
 #include <QtGui/QPainter>
+#include <QtGui/QScreen>
 #include <QtTest/QtTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
@@ -137,6 +139,7 @@ private Q_SLOTS:
     void checkedBoxIsFilledWithTheAccentAndItsTickStandsOut();
     void sliderIsFilledUpToItsKnob();
     void fieldsAreAtLeastSoHigh();
+    void menusThatAreTooLongScroll();
 };
 
 void TestControlStyle::lettersCanBeReadOnEveryGround_data()
@@ -250,6 +253,22 @@ void TestControlStyle::fieldsAreAtLeastSoHigh()
         control->setFont(font);
         QVERIFY2(control->sizeHint().height() == 28, maker.name);
     }
+}
+
+void TestControlStyle::menusThatAreTooLongScroll()
+{
+    board::applyTheme(Theme::Light);
+    QMenu menu;
+    const int screen = QGuiApplication::primaryScreen()->geometry().height();
+    for (int height = 0; height < 2 * screen; height += 10)
+        menu.addAction(QStringLiteral("DejaVu Sans"));
+    menu.popup(QPoint());
+    QVERIFY(menu.height() <= screen);
+    // In columns it would be wider.
+    QMenu one;
+    one.addAction(QStringLiteral("DejaVu Sans"));
+    QCOMPARE(menu.width(), one.sizeHint().width());
+    menu.hide();
 }
 
 QTEST_MAIN(TestControlStyle)

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void zoomStaysInItsRange();
     void objectsLearnTheZoom();
     void fitShowsTheWholePage();
+    void presentedPageCoversScreensOfNearlyItsForm_data();
+    void presentedPageCoversScreensOfNearlyItsForm();
     void fitFollowsTheWindowUntilTheUserZooms();
     void fullSizeIsOnePixelPerUnit();
     void zoomStepsGoUpAndDown();
@@ -105,6 +107,48 @@ void TestView::fitShowsTheWholePage()
     // The shelf stands in the margin of the other side.
     const int differs = (window.right() - page.right()) - (page.left() - window.left());
     QVERIFY(qAbs(differs - 12) <= 3);
+}
+
+void TestView::presentedPageCoversScreensOfNearlyItsForm_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<QVector<int>>("black"); // lines at the left, above, at the right, below
+    QTest::newRow("of its form") << QSize(1280, 720) << QVector<int>{0, 0, 0, 0};
+    QTest::newRow("0.67 wider") << QSize(1366, 768) << QVector<int>{0, 0, 0, 0};
+    QTest::newRow("0.62 higher") << QSize(1366, 769) << QVector<int>{0, 0, 0, 0};
+    QTest::newRow("0.75 higher") << QSize(1364, 768) << QVector<int>{0, 0, 0, 0};
+    QTest::newRow("a pixel higher") << QSize(1280, 721) << QVector<int>{0, 0, 0, 1};
+    QTest::newRow("2 wider") << QSize(1282, 720) << QVector<int>{1, 0, 1, 0};
+    QTest::newRow("3 higher") << QSize(1360, 768) << QVector<int>{0, 1, 0, 2};
+}
+
+/// A page of 1280 × 720.
+void TestView::presentedPageCoversScreensOfNearlyItsForm()
+{
+    QFETCH(QSize, screen);
+    QFETCH(QVector<int>, black);
+    BoardDriver board;
+    board::PageView view;
+    view.setBare(true);
+    view.setPage(&board.page());
+    view.resize(screen);
+    view.show();
+    QCoreApplication::processEvents();
+    QCOMPARE(view.viewport()->size(), screen);
+    const QImage picture = view.viewport()->grab().toImage();
+    const auto linesFrom = [&picture](QPoint at, const QPoint &step) {
+        int lines = 0;
+        for (; picture.pixelColor(at) == QColor(Qt::black); at += step)
+            ++lines;
+        // No line between black and the white page.
+        return picture.pixelColor(at) == QColor(Qt::white) ? lines : -1;
+    };
+    const QPoint middle(screen.width() / 2, screen.height() / 2);
+    const QVector<int> found{linesFrom({0, middle.y()}, {1, 0}), linesFrom({middle.x(), 0}, {0, 1}),
+                             linesFrom({screen.width() - 1, middle.y()}, {-1, 0}),
+                             linesFrom({middle.x(), screen.height() - 1}, {0, -1})};
+    QCOMPARE(found, black);
+    view.setPage(nullptr);
 }
 
 void TestView::fitFollowsTheWindowUntilTheUserZooms()

@@ -5,17 +5,25 @@
 #include <support/listed.h>
 
 #include <core/commands.h>
+#include <core/texts.h>
+#include <look/theme.h>
 #include <panels/palettebutton.h>
 #include <panels/palettepanel.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/page.h>
 
+#include <support/listed.h>
+
 #include <QtCore/QPointer>
 #include <QtGui/QDrag>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QTextLayout>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLineEdit>
+
+#include <algorithm>
 
 using namespace boardtest;
 
@@ -64,6 +72,10 @@ class TestPalettePanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+    void cleanupTestCase() { board::applyLargeSizes(false); }
+    void namesHaveTwoLinesAtMost_data();
+    void namesHaveTwoLinesAtMost();
     void shapeIsDrawnFromAPaletteThatWasBuiltAnew();
     void buttonMayGoWhileItsShapeIsDraggedOut();
     void bestHitStandsFirstAndIsDrawn();
@@ -72,6 +84,69 @@ private Q_SLOTS:
     void everyWordMustBeFound();
     void shapesStandInTheirOrderAfterASearch();
 };
+
+/// Without a desktop, letters are larger than any desktop's.
+constexpr double fontPoints = 9.5;
+
+static int linesOf(const board::PaletteButton &button)
+{
+    QTextLayout layout(button.text(), button.nameFont());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+        line.setLineWidth(button.nameRoom().width());
+    layout.endLayout();
+    return layout.lineCount();
+}
+
+static bool cutsAWord(const board::PaletteButton &button)
+{
+    const QFontMetrics metrics(button.nameFont());
+    const QStringList words = button.text().split(' ');
+    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
+        return metrics.horizontalAdvance(word) > button.nameRoom().width();
+    });
+}
+
+void TestPalettePanel::init()
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(fontPoints);
+    QApplication::setFont(font);
+    board::applyLargeSizes(false);
+}
+
+void TestPalettePanel::namesHaveTwoLinesAtMost_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("large");
+    for (const QString &code : support::listed(board::boardLanguages())) {
+        QTest::newRow(qPrintable(code)) << code << false;
+        QTest::newRow(qPrintable(code + " for fingers")) << code << true;
+    }
+}
+
+void TestPalettePanel::namesHaveTwoLinesAtMost()
+{
+    QFETCH(QString, language);
+    QFETCH(bool, large);
+    BoardDriver board(language);
+    board.window().setLargeTools(large);
+    board.window().commands()->action(board::Command::Shapes)->trigger();
+    QCoreApplication::processEvents();
+    const QList<board::PaletteButton *> buttons =
+        board.window().palettePanel()->findChildren<board::PaletteButton *>();
+    QVERIFY(buttons.size() >= board.drawableKinds().size());
+    QStringList faults;
+    for (const board::PaletteButton *button : buttons) {
+        const int height = linesOf(*button) * QFontMetrics(button->nameFont()).height();
+        if (linesOf(*button) > 2 || height > button->nameRoom().height() || (large && cutsAWord(*button)))
+            faults.append(button->text());
+    }
+    QCOMPARE(faults.join(", "), QString());
+}
 
 void TestPalettePanel::shapeIsDrawnFromAPaletteThatWasBuiltAnew()
 {

@@ -108,7 +108,7 @@ void TestTextWriting::lettersAreSetInASectionOfThePanel()
     QCoreApplication::processEvents();
     const auto letters = [&desk]() -> board::SettingsPanel * {
         for (auto *panel : support::listed(desk.window().findChildren<board::SettingsPanel *>()))
-            if (panel->isVisible() && panel->form()->editors().size() == 9)
+            if (panel->isVisible() && panel->form()->editors().size() == 10)
                 return panel;
         return nullptr;
     };

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void toolsThatNobodyOffersAreLeftOut();
     void offeredToolComesToItsPlace();
     void pressOnAToolChoosesIt();
+    void keysPressATool_data();
+    void keysPressATool();
     void secondPressKeepsTheTool();
     void toolsStandInTheirOrderFromTheTop();
     void undoAndRedoStandAtTheFarEnd();
@@ -135,6 +137,25 @@ void TestDock::pressOnAToolChoosesIt()
     QCOMPARE(t.tools.tool(), Tool::Pen);
     QVERIFY(t.dock.buttonOf(Tool::Pen)->isChecked());
     QVERIFY(!t.dock.buttonOf(Tool::Select)->isChecked());
+}
+
+void TestDock::keysPressATool_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("space") << int(Qt::Key_Space);
+    QTest::newRow("return") << int(Qt::Key_Return);
+    QTest::newRow("enter") << int(Qt::Key_Enter);
+}
+
+void TestDock::keysPressATool()
+{
+    QFETCH(int, key);
+    FullDock t;
+    QTest::keyClick(t.dock.buttonOf(Tool::Eraser), static_cast<Qt::Key>(key));
+    QCOMPARE(t.tools.tool(), Tool::Eraser);
+    QVERIFY(!t.tools.isKept());
+    QTest::keyClick(t.dock.buttonOf(Tool::Eraser), static_cast<Qt::Key>(key));
+    QVERIFY(t.tools.isKept());
 }
 
 void TestDock::secondPressKeepsTheTool()

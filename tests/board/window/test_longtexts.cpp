@@ -13,6 +13,9 @@
 #include <exporting/exportdialog.h>
 #include <lessons/lessoncontroller.h>
 #include <look/theme.h>
+#include <page/labeleditor.h>
+#include <page/labelwriting.h>
+#include <page/pageview.h>
 #include <panels/historypanel.h>
 #include <panels/outlinepanel.h>
 #include <panels/properties/propertypanel.h>
@@ -20,6 +23,7 @@
 #include <window/dock.h>
 #include <window/drawer.h>
 #include <window/mainwindow.h>
+#include <window/typingbar.h>
 
 #include <pagehost/page.h>
 
@@ -68,6 +72,7 @@ private Q_SLOTS:
     void toolsWithTheirShelf_data();
     void toolsWithTheirShelf();
     void selectedShapes();
+    void textsThatAreWritten();
     void outlineAndHistory();
     void settingsOfThePage();
     void palette();
@@ -178,6 +183,24 @@ void TestLongTexts::selectedShapes()
     }
     // The bar at the selection.
     m_window->panel()->setOpen(false);
+    VERIFY_NONE(faults());
+}
+
+void TestLongTexts::textsThatAreWritten()
+{
+    trigger(Command::AddPage);
+    m_window->tools()->choose(board::Tool::Text);
+    QTest::mouseClick(m_window->view()->viewport(), Qt::LeftButton, {},
+                      m_window->view()->viewport()->rect().center());
+    const auto *bar = m_window->findChild<board::TypingBar *>();
+    QVERIFY(bar && bar->isVisible());
+    VERIFY_NONE(boardtest::untranslatedTexts(*bar));
+    board::LabelEditor *editor = m_window->view()->writing()->editor();
+    QTest::keyClicks(editor, QStringLiteral("1"));
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QVERIFY(!bar->isVisible());
+    m_window->panel()->setPinned(true);
+    m_window->raisePanel(m_window->settings());
     VERIFY_NONE(faults());
 }
 

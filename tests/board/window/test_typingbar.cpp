@@ -3,10 +3,15 @@
 #include <board/boarddriver.h>
 
 #include <core/toolchoice.h>
+#include <look/theme.h>
 #include <page/labeleditor.h>
 #include <page/labelwriting.h>
 #include <page/pageview.h>
 #include <panels/colorbutton.h>
+#include <panels/findbar.h>
+#include <panels/foldingsection.h>
+#include <panels/settings/settingspanel.h>
+#include <window/drawer.h>
 #include <window/mainwindow.h>
 #include <window/typingbar.h>
 
@@ -19,7 +24,9 @@
 #include <support/virtualtime.h>
 
 #include <QtCore/QSettings>
+#include <QtGui/QClipboard>
 #include <QtTest/QtTest>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
@@ -77,6 +84,43 @@ struct Writing
                 action->trigger();
         support::deliverEvents();
     }
+    /// The entries as they are shown, without the letters for Alt.
+    QMenu *open(const QString &name) const
+    {
+        QMenu *menu = control(name) ? control(name)->menu() : nullptr;
+        if (menu)
+            Q_EMIT menu->aboutToShow();
+        return menu;
+    }
+    QAction *family(const QString &name) const
+    {
+        for (QAction *action : support::listed(open("Font")->actions()))
+            if (!action->isSeparator() && action->data().toString() == name)
+                return action;
+        return nullptr;
+    }
+    void chooseFamily(const QString &name)
+    {
+        QVERIFY2(family(name), qPrintable(name));
+        family(name)->trigger();
+        support::deliverEvents();
+    }
+    QString chosenFamily() const
+    {
+        QString json;
+        text()->GetSettingJson(json);
+        for (const board::SettingControl &setting : support::listed(board::parseSettings(json)))
+            if (setting.id == "idFont")
+                return setting.value.toString();
+        return QStringLiteral("no such setting");
+    }
+    QAction *entry(const QString &text) const
+    {
+        for (QAction *action : support::listed(open("More")->actions()))
+            if (action->text().section('\t', 0, 0) == text)
+                return action;
+        return nullptr;
+    }
     board::EditableLabel label() const { return board::labelsOf(*text()).constFirst(); }
     bool isSet(const QString &id) const
     {
@@ -100,12 +144,34 @@ class TestTypingBar : public QObject
 
 private Q_SLOTS:
     void initTestCase() { useOwnFolders(); }
-    void init() { QSettings().clear(); }
+    void init()
+    {
+        QSettings().clear();
+        board::applyLargeSizes(false);
+    }
+    void cleanup() { QApplication::setLayoutDirection(Qt::LeftToRight); }
     void barShowsWhileATextIsWritten();
     void barHasTheLettersOfTheText();
     void barStandsBesideTheTextAndStaysWhileItGrows();
     void pressedButtonLeavesTheKeysInTheText();
     void sizeIsChosenWhileTheTextIsWritten();
+    void fontsAreThoseOfTheMachine();
+    void fontsAreShownInThemselves();
+    void presentFontIsChecked();
+    void fontThatIsElsewhereStaysInTheMenu();
+    void fontIsChosenWhileTheTextIsWritten();
+    void fontOfATextIsThatOfItsEditorAgain();
+    void fontOfAnOlderTextIsAStepOfItsOwn();
+    void presentFontAgainIsNoStep();
+    void longNameOfAFontIsCut();
+    void fontIsChosenInThePanel();
+    void plainLettersArePastedFromTheMenu();
+    void nothingIsPastedFromAnEmptyClipboard();
+    void findingBeginsFromTheMenu();
+    void panelOpensAtTheSettingsOfTheText();
+    void barFitsSmallWindows_data();
+    void barFitsSmallWindows();
+    void barBeginsAtTheRight();
     void italicAndUnderlineShowInTheEditor();
     void colourIsChosenWhileTheTextIsWritten();
     void alignmentIsChosenWhileTheTextIsWritten();
@@ -136,8 +202,9 @@ void TestTypingBar::barShowsWhileATextIsWritten()
 void TestTypingBar::barHasTheLettersOfTheText()
 {
     const Writing t;
-    QCOMPARE(t.names(), (QStringList{"Font size", "Bold", "Italic", "Underlined", "List", "Link", "Alignment",
-                                     "Text colour"}));
+    QCOMPARE(t.names(), (QStringList{"Font", "Font size", "Bold", "Italic", "Underlined", "List", "Link",
+                                     "Alignment", "Text colour", "More"}));
+    QCOMPARE(t.control("Font")->text(), QString("Standard"));
     QCOMPARE(t.control("Font size")->text(), QString("24"));
     QCOMPARE(t.control("Bold")->text(), QString("B"));
     QVERIFY(!t.control("Bold")->isChecked());
@@ -187,6 +254,248 @@ void TestTypingBar::sizeIsChosenWhileTheTextIsWritten()
     QVERIFY(t.editor()->font().pixelSize() > before);
     QVERIFY(t.editor()->height() > t.editor()->font().pixelSize());
     QVERIFY(t.editor()->hasFocus());
+}
+
+void TestTypingBar::fontsAreThoseOfTheMachine()
+{
+    const Writing t;
+    QStringList families;
+    QStringList shown;
+    for (const QAction *action : support::listed(t.open("Font")->actions())) {
+        families.append(action->isSeparator() ? QString("-") : action->data().toString());
+        shown.append(action->text());
+    }
+    QCOMPARE(families.mid(0, 2), (QStringList{"", "-"}));
+    QCOMPARE(shown.first(), QString("Standard"));
+    for (const char *family : {"DejaVu Sans", "DejaVu Sans Mono", "DejaVu Serif"})
+        QCOMPARE(families.count(family), 1);
+    QStringList once = families;
+    once.removeDuplicates();
+    QCOMPARE(families, once);
+    for (const char *alias : {"Serif", "Sans Serif", "Monospace"})
+        QVERIFY2(!families.contains(alias), alias);
+    QVERIFY(!families.join('|').contains('['));
+}
+
+void TestTypingBar::fontsAreShownInThemselves()
+{
+    const Writing t;
+    QCOMPARE(t.family("DejaVu Serif")->font().family(), QString("DejaVu Serif"));
+    QCOMPARE(t.family("DejaVu Sans Mono")->font().family(), QString("DejaVu Sans Mono"));
+    QCOMPARE(t.family("")->font().family(), t.control("Font")->menu()->font().family());
+}
+
+void TestTypingBar::presentFontIsChecked()
+{
+    Writing t;
+    QVERIFY(t.family("")->isChecked());
+    t.chooseFamily("DejaVu Serif");
+    QVERIFY(t.family("DejaVu Serif")->isChecked());
+    QVERIFY(!t.family("")->isChecked() && !t.family("DejaVu Sans")->isChecked());
+}
+
+void TestTypingBar::fontThatIsElsewhereStaysInTheMenu()
+{
+    Writing t;
+    t.type("Light");
+    t.end();
+    t.text()->SetSettingJson("{\"idFont\": \"Letters of Elsewhere\"}", true, true);
+    t.writeAgain();
+    QVERIFY(t.family("Letters of Elsewhere") && t.family("Letters of Elsewhere")->isChecked());
+    t.chooseFamily("");
+    QCOMPARE(t.chosenFamily(), QString());
+    QVERIFY(!t.family("Letters of Elsewhere"));
+}
+
+void TestTypingBar::fontIsChosenWhileTheTextIsWritten()
+{
+    Writing t;
+    t.type("illi");
+    const double before = t.text()->getClientRect().width();
+    t.chooseFamily("DejaVu Sans Mono");
+    QCOMPARE(t.chosenFamily(), QString("DejaVu Sans Mono"));
+    QCOMPARE(t.control("Font")->accessibleDescription(), QString("DejaVu Sans Mono"));
+    QVERIFY(t.editor()->hasFocus());
+    QCOMPARE(QFontInfo(t.editor()->font()).family(), QString("DejaVu Sans Mono"));
+    QVERIFY(t.text()->getClientRect().width() > 1.5 * before);
+    t.type("x");
+    QCOMPARE(t.label().text, QString("illix"));
+    t.chooseFamily("");
+    QCOMPARE(t.control("Font")->text(), QString("Standard"));
+    QCOMPARE(QFontInfo(t.editor()->font()).family(), QFontInfo(QFont("sans-serif")).family());
+    t.end();
+    QCOMPARE(t.board.history().count(), 1);
+}
+
+void TestTypingBar::fontOfATextIsThatOfItsEditorAgain()
+{
+    Writing t;
+    t.type("Light");
+    t.chooseFamily("DejaVu Serif");
+    t.end();
+    t.writeAgain();
+    QCOMPARE(t.control("Font")->accessibleDescription(), QString("DejaVu Serif"));
+    QCOMPARE(QFontInfo(t.editor()->font()).family(), QString("DejaVu Serif"));
+}
+
+void TestTypingBar::fontOfAnOlderTextIsAStepOfItsOwn()
+{
+    Writing t;
+    t.type("Light");
+    t.end();
+    t.writeAgain();
+    t.chooseFamily("DejaVu Serif");
+    t.end();
+    QCOMPARE(t.board.history().count(), 2);
+    t.board.history().undo();
+    QCOMPARE(t.chosenFamily(), QString());
+    t.board.history().redo();
+    QCOMPARE(t.chosenFamily(), QString("DejaVu Serif"));
+}
+
+void TestTypingBar::presentFontAgainIsNoStep()
+{
+    Writing t;
+    t.type("Light");
+    t.end();
+    t.writeAgain();
+    t.chooseFamily("");
+    QCOMPARE(t.board.history().count(), 1);
+}
+
+void TestTypingBar::longNameOfAFontIsCut()
+{
+    Writing t;
+    const int width = t.control("Font")->width();
+    t.type("Light");
+    t.end();
+    t.text()->SetSettingJson("{\"idFont\": \"Letters of Elsewhere With a Long Name\"}", true, true);
+    t.writeAgain();
+    QCOMPARE(t.control("Font")->width(), width);
+    QVERIFY(t.control("Font")->text().endsWith(QChar(0x2026)));
+    QVERIFY(t.control("Font")->fontMetrics().horizontalAdvance(t.control("Font")->text()) < width);
+    QCOMPARE(t.control("Font")->accessibleDescription(), QString("Letters of Elsewhere With a Long Name"));
+}
+
+void TestTypingBar::fontIsChosenInThePanel()
+{
+    Writing t;
+    t.type("Light");
+    t.end();
+    QComboBox *box = nullptr;
+    for (QComboBox *candidate : support::listed(t.board.window().panel()->findChildren<QComboBox *>()))
+        if (candidate->accessibleName() == "Font")
+            box = candidate;
+    QVERIFY(box);
+    QCOMPARE(box->currentText(), QString("Standard"));
+    const int index = box->findText("DejaVu Serif");
+    QVERIFY(index > 0);
+    Q_EMIT box->activated(index);
+    support::deliverEvents();
+    QCOMPARE(t.chosenFamily(), QString("DejaVu Serif"));
+    QCOMPARE(box->currentText(), QString("DejaVu Serif"));
+    t.text()->SetSettingJson("{\"idFont\": \"Letters of Elsewhere\"}", true, true);
+    support::deliverEvents();
+    QCOMPARE(box->currentText(), QString("Letters of Elsewhere"));
+}
+
+void TestTypingBar::plainLettersArePastedFromTheMenu()
+{
+    Writing t;
+    QGuiApplication::clipboard()->setText(QString(u8"• Light"));
+    QVERIFY(t.entry("Paste letters alone") && t.entry("Paste letters alone")->isEnabled());
+    t.entry("Paste letters alone")->trigger();
+    QCOMPARE(t.label().text, QString(u8"• Light"));
+    QVERIFY(t.editor()->hasFocus());
+}
+
+void TestTypingBar::nothingIsPastedFromAnEmptyClipboard()
+{
+    const Writing t;
+    QGuiApplication::clipboard()->clear();
+    QVERIFY(!t.entry("Paste letters alone")->isEnabled());
+}
+
+void TestTypingBar::findingBeginsFromTheMenu()
+{
+    Writing t;
+    t.type("Light");
+    QVERIFY(t.entry(QString(u8"Replace…")));
+    t.entry(QString(u8"Find…"))->trigger();
+    support::deliverEvents();
+    QVERIFY(t.board.window().findBar()->isVisible());
+    QCOMPARE(t.label().text, QString("Light"));
+}
+
+void TestTypingBar::panelOpensAtTheSettingsOfTheText()
+{
+    Writing t;
+    t.type("Light");
+    board::Drawer *panel = t.board.window().panel();
+    panel->setPinned(false);
+    panel->setOpen(false);
+    board::FoldingSection *section = nullptr;
+    for (board::FoldingSection *candidate : support::listed(panel->findChildren<board::FoldingSection *>()))
+        if (qobject_cast<board::SettingsPanel *>(candidate->content()))
+            section = candidate;
+    QVERIFY(section);
+    section->setOpen(false);
+    t.writeAgain();
+    t.board.keyIn(t.editor(), Qt::Key_End);
+    t.entry("All settings of the text")->trigger();
+    support::deliverEvents();
+    QVERIFY(panel->isOpen());
+    QVERIFY(section->isVisible() && section->isOpen());
+    QVERIFY(!section->visibleRegion().isEmpty());
+    QVERIFY(t.editor() && t.editor()->hasFocus());
+    t.type(" rays");
+    QCOMPARE(t.label().text, QString("Light rays"));
+}
+
+void TestTypingBar::barFitsSmallWindows_data()
+{
+    QTest::addColumn<bool>("large");
+    QTest::newRow("mouse") << false;
+    QTest::newRow("fingers") << true;
+}
+
+void TestTypingBar::barFitsSmallWindows()
+{
+    QFETCH(bool, large);
+    Writing t;
+    t.end();
+    t.board.window().setLargeTools(large);
+    t.board.window().panel()->setPinned(false);
+    t.board.window().panel()->setOpen(false);
+    t.board.window().resize(960, 540);
+    support::deliverEvents();
+    t.board.view().fitPage();
+    for (const QPointF &place : {QPointF(60, 60), QPointF(1100, 60), QPointF(60, 650), QPointF(1100, 650)}) {
+        t.board.window().tools()->choose(Tool::Text);
+        t.board.click(place);
+        support::deliverEvents();
+        const QRect room = t.board.view().viewport()->geometry();
+        QVERIFY2(t.bar->isVisible() && room.contains(t.bar->geometry()),
+                 qPrintable(QTest::toString(t.bar->geometry())));
+        for (const QToolButton *button : support::listed(t.bar->findChildren<QToolButton *>()))
+            QVERIFY2(!button->isVisible() ||
+                         t.bar->rect().contains(QRect(button->mapTo(t.bar, QPoint()), button->size())),
+                     qPrintable(button->accessibleName()));
+        t.end();
+    }
+}
+
+void TestTypingBar::barBeginsAtTheRight()
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const Writing t;
+    int end = t.bar->width();
+    for (const QString &name : support::listed(t.names())) {
+        const QWidget *button = t.control(name);
+        const int left = button->mapTo(t.bar, QPoint()).x();
+        QVERIFY2(left + button->width() <= end, qPrintable(name));
+        end = left;
+    }
 }
 
 void TestTypingBar::italicAndUnderlineShowInTheEditor()

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void anEmptyTextHasRoomForACursor();
     void twiceTheFontSizeIsTwiceTheBox();
     void boldLettersAreWider();
+    void lettersAreThoseOfTheFamily();
+    void familyThatIsNotInstalledHasTheUsualLetters();
     void theAlignmentIsThatOfTheAnchors();
     void endlessTextsHaveAnEnd();
     void brokenItemsHangUnderTheirText_data();
@@ -89,6 +91,25 @@ void TestTextLayout::boldLettersAreWider()
     const double before = layOut(look).size.width();
     look.isBold = true;
     QVERIFY(layOut(look).size.width() > before);
+}
+
+/// In document units: fonts are 24 high, and measured at 100.
+void TestTextLayout::lettersAreThoseOfTheFamily()
+{
+    TextLook look = lookOf("wonderful");
+    look.family = QStringLiteral("DejaVu Sans Mono");
+    QFont font(look.family);
+    font.setPixelSize(100);
+    const QFontMetricsF metrics(font);
+    QCOMPARE(layOut(look).size.width(), metrics.horizontalAdvance(look.text) * 24 / 100);
+    QVERIFY(layOut(look).size.width() != layOut(lookOf("wonderful")).size.width());
+}
+
+void TestTextLayout::familyThatIsNotInstalledHasTheUsualLetters()
+{
+    TextLook look = lookOf("wonderful");
+    look.family = QStringLiteral("Nobody's Letters Mono");
+    QCOMPARE(layOut(look).size, layOut(lookOf("wonderful")).size);
 }
 
 void TestTextLayout::theAlignmentIsThatOfTheAnchors()

@@ -16,7 +16,7 @@ using pagehost::ToolRole;
 namespace {
 
 /// Property ids of a text, in the order of its panel.
-enum : int { TextId = 5101, SizeId, BoldId, ItalicId, AlignmentId, WidthId, UnderlinedId, LinksId };
+enum : int { TextId = 5101, SizeId, BoldId, ItalicId, AlignmentId, WidthId, UnderlinedId, LinksId, FontId };
 
 struct Desk : WritingDesk
 {
@@ -70,6 +70,12 @@ private Q_SLOTS:
     void thePanelHasASectionForItsLetters();
     void aListIsChosenInThePanel();
     void theColourIsChosenInThePanel();
+    void theFontIsChosenInThePanel();
+    void theBoxFitsTheLettersOfTheFont();
+    void theFontIsTakenBackSavedAndRecorded();
+    void namesOfFontsCannotWriteIntoTheDrawing_data();
+    void namesOfFontsCannotWriteIntoTheDrawing();
+    void aTextWithoutAFontOpensWithTheUsualOne();
     void linksAreUnderlinedAndTellWhereTheyAre();
     void drawingsLeadOnlyToTheWebAndToMail_data();
     void drawingsLeadOnlyToTheWebAndToMail();
@@ -217,8 +223,8 @@ void TestWriting::thePanelHasASectionForItsLetters()
     for (const QJsonValue &control : support::listed(settingsOf(text)))
         if (control[QLatin1String("section")] == QLatin1String("text"))
             ids.append(control[QLatin1String("id")].toString());
-    QCOMPARE(ids, (QStringList{"idText", "idFontSize", "idBold", "idItalic", "idUnderlined", "idTextColour",
-                               "idAlignment", "idList", "idLineWidth"}));
+    QCOMPARE(ids, (QStringList{"idText", "idFont", "idFontSize", "idBold", "idItalic", "idUnderlined",
+                               "idTextColour", "idAlignment", "idList", "idLineWidth"}));
 }
 
 void TestWriting::aListIsChosenInThePanel()
@@ -252,6 +258,103 @@ void TestWriting::theColourIsChosenInThePanel()
     QVERIFY(desk.svgOf(text).contains("fill=\"#c9252d\""));
     undoStack()->undo();
     QVERIFY(desk.svgOf(text).contains("fill=\"#2563cf\""));
+}
+
+void TestWriting::theFontIsChosenInThePanel()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("wonderful"));
+    QVERIFY(desk.svgOf(text).contains("font-family=\"sans-serif\""));
+    const QJsonObject control = settingOf(text, QStringLiteral("idFont"));
+    QCOMPARE(control[QLatin1String("valueType")].toString(), QStringLiteral("font"));
+    QCOMPARE(control[QLatin1String("value")].toString(), QString());
+    text->SetSettingJson(QStringLiteral("{\"idFont\": \"DejaVu Serif\"}"), true, true);
+    QVERIFY2(desk.svgOf(text).contains("font-family=\"'DejaVu Serif', sans-serif\""), qPrintable(desk.svgOf(text)));
+    QCOMPARE(settingOf(text, QStringLiteral("idFont"))[QLatin1String("value")].toString(),
+             QStringLiteral("DejaVu Serif"));
+    text->SetSettingJson(QStringLiteral("{\"idFont\": \"\"}"), true, true);
+    QVERIFY(desk.svgOf(text).contains("font-family=\"sans-serif\""));
+}
+
+void TestWriting::theBoxFitsTheLettersOfTheFont()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("iiiiiiii"));
+    const double usual = desk.placeOf(text).width();
+    desk.set(text, FontId, QStringLiteral("DejaVu Sans Mono"));
+    QVERIFY(desk.placeOf(text).width() > 1.5 * usual);
+    undoStack()->undo();
+    QCOMPARE(desk.placeOf(text).width(), usual);
+}
+
+void TestWriting::theFontIsTakenBackSavedAndRecorded()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("wonderful"));
+    const QByteArray before = savedState(text);
+    desk.recorder.start(&desk.document);
+    desk.set(text, FontId, QStringLiteral("DejaVu Serif"));
+    const QByteArray after = savedState(text);
+    QVERIFY(after != before);
+    const QStringList drawn = savedState(desk.document);
+    QCOMPARE(desk.played(desk.recorder.stop()), drawn);
+    undoStack()->undo();
+    QCOMPARE(savedState(text), before);
+    undoStack()->redo();
+    QCOMPARE(savedState(text), after);
+    QJsonObject json;
+    text->saveJson(json);
+    const std::unique_ptr<CBaseObject> opened(shapes().createObject(QStringLiteral("shapes.text")));
+    opened->loadJson(json);
+    QCOMPARE(desk.svgOf(opened.get()), desk.svgOf(text));
+}
+
+void TestWriting::namesOfFontsCannotWriteIntoTheDrawing_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("quotes") << "a'b\"c"
+                            << "'abc', sans-serif";
+    QTest::newRow("list") << "a, b;c"
+                          << "'a bc', sans-serif";
+    QTest::newRow("escape") << "a\\27 b"
+                            << "'a27 b', sans-serif";
+    QTest::newRow("lines") << " a\n\tb\x01 "
+                           << "'a b', sans-serif";
+    QTest::newRow("nothing else") << "','"
+                                  << "sans-serif";
+    QTest::newRow("too long") << QString(200, 'a') << "'" + QString(100, 'a') + "', sans-serif";
+}
+
+void TestWriting::namesOfFontsCannotWriteIntoTheDrawing()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, written);
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("wonderful"));
+    desk.set(text, FontId, chosen);
+    const QRegularExpression family(QStringLiteral("font-family=\"([^\"]*)\""));
+    QCOMPARE(family.match(desk.svgOf(text)).captured(1), written);
+}
+
+/// Texts had no such property once.
+void TestWriting::aTextWithoutAFontOpensWithTheUsualOne()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.type(text, QStringLiteral("wonderful"));
+    desk.set(text, FontId, QStringLiteral("DejaVu Serif"));
+    QJsonObject json;
+    text->saveJson(json);
+    QVERIFY(json.contains(QStringLiteral("SVG_Font")));
+    json.remove(QStringLiteral("SVG_Font"));
+    const std::unique_ptr<CBaseObject> opened(shapes().createObject(QStringLiteral("shapes.text")));
+    opened->loadJson(json);
+    QVERIFY(desk.svgOf(opened.get()).contains("font-family=\"sans-serif\""));
 }
 
 void TestWriting::linksAreUnderlinedAndTellWhereTheyAre()

@@ -1,6 +1,7 @@
 // The description of a settings panel read, and its answers written.
 
 #include <panels/settings/commonsettings.h>
+#include <panels/settings/ownsettings.h>
 #include <panels/settings/settingjson.h>
 
 #include <QtGui/QColor>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void choiceBesideItsEntriesIsNone();
     void colorIsRead();
     void inputOfTextIsRead();
+    void fontIsRead();
     void messageOfAnInputIsRead();
     void messagesTakeTheirArguments();
     void inputOfNumbersIsRead();
@@ -81,6 +83,15 @@ void TestSettingJson::inputOfTextIsRead()
     const SettingControl control = only(R"({"type":"input","id":"a","value":"12","valueType":"text"})");
     QCOMPARE(control.kind, SettingControl::Text);
     QCOMPARE(control.value, QVariant(QString("12")));
+}
+
+void TestSettingJson::fontIsRead()
+{
+    const SettingControl control =
+        only(R"({"type":"input","id":"a","value":"DejaVu Serif","valueType":"font","section":"text"})");
+    QCOMPARE(control.kind, SettingControl::Font);
+    QCOMPARE(control.value, QVariant(QString("DejaVu Serif")));
+    QVERIFY(!board::isShort(control));
 }
 
 void TestSettingJson::messageOfAnInputIsRead()
@@ -223,6 +234,8 @@ void TestSettingJson::answers_data()
                             << QVariant(QColor(1, 2, 3, 128)) << R"({"a":"#80010203"})";
     QTest::newRow("text") << R"({"type":"input","id":"a","value":"x"})" << QVariant(QString("say \"hi\""))
                           << R"({"a":"say \"hi\""})";
+    QTest::newRow("font") << R"({"type":"input","id":"a","value":"","valueType":"font"})"
+                          << QVariant(QString("DejaVu Serif")) << R"({"a":"DejaVu Serif"})";
     QTest::newRow("number") << R"({"type":"input","id":"a","value":"1","valueType":"int"})" << QVariant(12.0)
                             << R"({"a":"12"})";
     QTest::newRow("switch") << R"({"type":"switch","id":"a","on":false})" << QVariant(true) << R"({"a":"true"})";
@@ -259,8 +272,8 @@ void TestSettingJson::differentValuesAreMixed()
 {
     const QVector<SettingControl> on = parseSettings(panel(R"({"type":"switch","id":"a","on":true})"));
     const QVector<SettingControl> off = parseSettings(panel(R"({"type":"switch","id":"a","on":false})"));
-    QVERIFY(board::commonSettings({on, on, off}).first().isMixed);
-    QVERIFY(!board::commonSettings({off, off}).first().isMixed);
+    QVERIFY(board::commonSettings({on, on, off}).constFirst().isMixed);
+    QVERIFY(!board::commonSettings({off, off}).constFirst().isMixed);
 }
 
 void TestSettingJson::boundsAreThoseThatAllTake()
@@ -268,7 +281,7 @@ void TestSettingJson::boundsAreThoseThatAllTake()
     const QString slider = R"({"type":"slider","id":"a","value":"4","minimum":"%1","maximum":"%2","step":"1"})";
     const QVector<SettingControl> low = parseSettings(panel(slider.arg(1).arg(6)));
     const QVector<SettingControl> high = parseSettings(panel(slider.arg(3).arg(9)));
-    const board::NumberRange range = board::commonSettings({low, high}).first().control.range;
+    const board::NumberRange range = board::commonSettings({low, high}).constFirst().control.range;
     QCOMPARE(range.minimum, 3.0);
     QCOMPARE(range.maximum, 6.0);
     const QVector<SettingControl> higher = parseSettings(panel(slider.arg(7).arg(9)));
