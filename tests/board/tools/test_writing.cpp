@@ -243,7 +243,7 @@ void TestWriting::aRingHeldStillBecomesACircle()
     desk.drawAlong(ring());
     support::pass(600);
     QVERIFY(desk.strokeFills({535, 335, 130, 130}));
-    desk.release(ring().last());
+    desk.release(ring().constLast());
     QVERIFY(desk.strokeFills({535, 335, 130, 130}));
     QCOMPARE(desk.history().count(), 1);
     desk.history().undo();
@@ -291,7 +291,7 @@ void TestWriting::aRingThatIsReleasedAtOnceStaysAsItWasDrawn()
     Desk desk;
     desk.drawAlong(ring());
     support::pass(400);
-    desk.release(ring().last());
+    desk.release(ring().constLast());
     support::pass(600);
     QCOMPARE(desk.placeOf(desk.stroke()), QRectF(531, 331, 138, 138));
 }

@@ -197,7 +197,7 @@ void TestPen::holdingStillMakesARoundStrokeACircle()
     QVERIFY(std::abs(place.width() - place.height()) <= 0.25);
     QVERIFY(std::abs(place.width() - 8 - 206) <= 1);
     QVERIFY(std::abs(place.center().x() - 300) <= 1 && std::abs(place.center().y() - 300) <= 1);
-    desk.release(around({106, 100}, 10, 340).last());
+    desk.release(around({106, 100}, 10, 340).constLast());
     QCOMPARE(desk.placeOf(desk.object(0)), place);
 }
 
@@ -332,8 +332,7 @@ void TestPen::aCircleIsOneStepAndSavedAsItIs()
     QCOMPARE(undoStack()->count(), 1);
     const QByteArray drawn = savedState(desk.object(0));
     const std::unique_ptr<CBaseObject> opened(shapes().createObject(QStringLiteral("shapes.ink")));
-    QByteArray bytes = drawn;
-    QDataStream in(bytes);
+    QDataStream in(drawn);
     opened->load(in);
     QCOMPARE(savedState(opened.get()), drawn);
     QVERIFY(fills(opened.get(), {170, 170, 260, 260}));
