@@ -1,6 +1,7 @@
 #include "ink/tools/pentool.h"
 
 #include "ink/core/ink.h"
+#include "ink/core/strokefit.h"
 #include "ink/tools/steptexts.h"
 #include "ink/tools/tipcursor.h"
 
@@ -18,6 +19,14 @@ constexpr int holdingTime = 500;
 constexpr double shortestStep = 0.75;
 
 constexpr double noPressure = -1;
+
+QVector<QPointF> placesOf(const QVector<StrokePoint> &points)
+{
+    QVector<QPointF> places;
+    for (const StrokePoint &point : points)
+        places.append(point.place);
+    return places;
+}
 
 } // namespace
 
@@ -56,7 +65,7 @@ void PenTool::press(const pagehost::ToolPointer &pointer)
     if (!m_stroke)
         return;
     m_points = {pointOf(pointer)};
-    m_isStraight = false;
+    m_form.reset();
     m_hasShift = false;
     m_stroke->begin(m_points, m_color, m_width);
     m_page->add(object);
@@ -78,12 +87,25 @@ void PenTool::follow(const pagehost::ToolPointer &pointer)
     show();
 }
 
-/// A straight line has the pressure of its start all along.
 void PenTool::show()
 {
-    if (!m_isStraight && !m_hasShift)
-        return m_stroke->redraw(m_points);
-    m_stroke->redraw({m_points.first(), {m_points.last().place, m_points.first().pressure}});
+    const QPointF last = m_points.last().place;
+    if (m_hasShift)
+        showForm(lineBetween(m_points.first().place, last));
+    else if (m_form)
+        showForm(draggedForm(*m_form, m_restingPlace, last));
+    else
+        m_stroke->redraw(m_points);
+}
+
+/// A form has the pressure of the stroke's start all along.
+void PenTool::showForm(const StrokeForm &form)
+{
+    QVector<StrokePoint> points;
+    const QVector<QPointF> places = placesAlong(form);
+    for (const QPointF &place : places)
+        points.append({place, m_points.first().pressure});
+    m_stroke->redraw(points);
 }
 
 void PenTool::release(const pagehost::ToolPointer &pointer)
@@ -112,9 +134,10 @@ int PenTool::stillTime() const
 
 void PenTool::heldStill()
 {
-    if (!m_stroke || m_points.size() < 2)
+    if (!m_stroke || m_points.size() < 2 || m_form)
         return;
-    m_isStraight = true;
+    m_restingPlace = m_points.last().place;
+    m_form = m_hasShift ? lineBetween(m_points.first().place, m_restingPlace) : formOf(placesOf(m_points));
     show();
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "ink/core/strokedata.h"
+#include "ink/core/strokeform.h"
 
 #include <pagehost/pagetool.h>
+
+#include <optional>
 
 namespace shapekit {
 struct Kind;
@@ -12,7 +15,8 @@ namespace ink {
 
 class Ink;
 
-/// Draws strokes, one undo step each. Shift, or holding the pen still, makes a stroke a straight line.
+/// Draws strokes, one undo step each. Shift makes a stroke a straight line, holding the pen still makes it the form
+/// that it was meant to be.
 class PenTool : public pagehost::PageTool
 {
 public:
@@ -33,6 +37,7 @@ private:
     StrokePoint pointOf(const pagehost::ToolPointer &pointer) const;
     void follow(const pagehost::ToolPointer &pointer);
     void show();
+    void showForm(const StrokeForm &form);
 
     pagehost::ToolPage *m_page;
     const shapekit::Kind &m_kind;
@@ -43,7 +48,8 @@ private:
     bool m_straightens = true;
     Ink *m_stroke = nullptr; ///< while it is drawn
     QVector<StrokePoint> m_points;
-    bool m_isStraight = false; ///< since the pen was held still
+    std::optional<StrokeForm> m_form; ///< since the pen was held still
+    QPointF m_restingPlace;           ///< where it was
     bool m_hasShift = false;
 };
 

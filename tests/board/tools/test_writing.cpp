@@ -20,6 +20,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QUndoStack>
 
+#include <cmath>
+
 using board::Tool;
 using boardtest::BoardDriver;
 
@@ -49,7 +51,37 @@ struct Desk : BoardDriver
         history().undo();
         return dark;
     }
+    /// Whether the points of the stroke fill the box, but for the rounding of their coordinates and what chords are
+    /// off.
+    bool strokeFills(const QRectF &box)
+    {
+        const QRectF place = placeOf(stroke()).adjusted(4, 4, -4, -4);
+        const auto isNear = [](double one, double other) { return std::abs(one - other) <= 0.12; };
+        return isNear(place.left(), box.left()) && isNear(place.top(), box.top()) &&
+               isNear(place.right(), box.right()) && isNear(place.bottom(), box.bottom());
+    }
+    /// Leaves the button down.
+    void drawAlong(const QVector<QPointF> &places)
+    {
+        press(places.first());
+        for (const QPointF &place : places)
+            moveTo(place);
+    }
 };
+
+/// Whole pixels that are exactly 65 from (600, 400), once around.
+QVector<QPointF> ring()
+{
+    const QVector<QPointF> quarter{{65, 0},  {63, 16}, {60, 25}, {56, 33}, {52, 39},
+                                   {39, 52}, {33, 56}, {25, 60}, {16, 63}};
+    QVector<QPointF> places;
+    for (const QTransform &turn : {QTransform(), QTransform(0, 1, -1, 0, 0, 0), QTransform(-1, 0, 0, -1, 0, 0),
+                                   QTransform(0, -1, 1, 0, 0, 0)})
+        for (const QPointF &place : quarter)
+            places.append(turn.map(place) + QPointF(600, 400));
+    places.append(places.constFirst());
+    return places;
+}
 
 } // namespace
 
@@ -74,6 +106,11 @@ private Q_SLOTS:
     void pressureChangesNothingWhereItIsOff();
     void aPenHeldStillMakesItsStrokeStraight();
     void aPenHeldStillLeavesItsStrokeWhereThatIsOff();
+    void aRingHeldStillBecomesACircle();
+    void aBowHeldStillBecomesAnArc();
+    void aZigZagHeldStillBecomesALine();
+    void aHeldCircleIsPulledLarger();
+    void aRingThatIsReleasedAtOnceStaysAsItWasDrawn();
     void theEraserTakesWholeStrokesOrParts();
     void aConnectorFollowsItsShapes();
     void pastedConnectorsFollowPastedShapes();
@@ -221,6 +258,65 @@ void TestWriting::aPenHeldStillLeavesItsStrokeWhereThatIsOff()
     support::pass(5000);
     QCOMPARE(desk.placeOf(desk.stroke()).bottom(), 344.0);
     desk.release({600, 300});
+}
+
+void TestWriting::aRingHeldStillBecomesACircle()
+{
+    Desk desk;
+    desk.drawAlong(ring());
+    support::pass(600);
+    QVERIFY(desk.strokeFills({535, 335, 130, 130}));
+    desk.release(ring().constLast());
+    QVERIFY(desk.strokeFills({535, 335, 130, 130}));
+    QCOMPARE(desk.history().count(), 1);
+    desk.history().undo();
+    QCOMPARE(desk.page().objectCount(), 0);
+}
+
+void TestWriting::aBowHeldStillBecomesAnArc()
+{
+    Desk desk;
+    desk.drawAlong(ring().mid(0, ring().size() / 2 + 1));
+    support::pass(600);
+    QVERIFY(desk.strokeFills({535, 400, 130, 65}));
+    // The bow is pulled along.
+    desk.moveTo({405, 400});
+    QVERIFY(desk.strokeFills({405, 400, 260, 130}));
+    desk.release({405, 400});
+    QCOMPARE(desk.history().count(), 1);
+}
+
+void TestWriting::aZigZagHeldStillBecomesALine()
+{
+    Desk desk;
+    desk.drawAlong({{500, 300}, {520, 340}, {540, 300}, {560, 340}, {580, 300}});
+    support::pass(600);
+    QCOMPARE(desk.placeOf(desk.stroke()), QRectF(496, 296, 88, 8));
+    desk.release({580, 300});
+}
+
+void TestWriting::aHeldCircleIsPulledLarger()
+{
+    Desk desk;
+    desk.drawAlong(ring());
+    support::pass(600);
+    desk.moveTo({730, 400});
+    QVERIFY(desk.strokeFills({470, 270, 260, 260}));
+    // With Shift it is a line all the same.
+    desk.moveTo({765, 400}, Qt::ShiftModifier);
+    QCOMPARE(desk.placeOf(desk.stroke()), QRectF(661, 396, 108, 8));
+    desk.release({730, 400});
+    QVERIFY(desk.strokeFills({470, 270, 260, 260}));
+}
+
+void TestWriting::aRingThatIsReleasedAtOnceStaysAsItWasDrawn()
+{
+    Desk desk;
+    desk.drawAlong(ring());
+    support::pass(400);
+    desk.release(ring().constLast());
+    support::pass(600);
+    QCOMPARE(desk.placeOf(desk.stroke()), QRectF(531, 331, 138, 138));
 }
 
 void TestWriting::theEraserTakesWholeStrokesOrParts()
