@@ -52,7 +52,7 @@ public:
     /// Whether strokes become wider under more pressure; true until somebody sets it.
     bool usesPressure(Tool tool) const { return m_chosen.value(tool).usesPressure; }
     void setUsesPressure(Tool tool, bool uses);
-    /// Whether a stroke becomes straight when the pen is held still; true until somebody sets it.
+    /// Whether holding the pen still makes a stroke a line, an arc or a circle; true until somebody sets it.
     bool straightens(Tool tool) const { return m_chosen.value(tool).straightens; }
     void setStraightens(Tool tool, bool straightens);
 

@@ -24,6 +24,8 @@ constexpr double roundestRatio = 1.2;
 constexpr double flattestRatio = 10;
 /// An ellipse beside a circle that fits, too, must deviate this many times less.
 constexpr double clearlyBetter = 2;
+/// Least way from the beginning of a line to its end, as a part of the diagonal of its box.
+constexpr double leastWay = 0.3;
 /// Determinant of the spread of places over the square of its trace, below which they are on a line.
 constexpr double leastSpread = 1e-6;
 /// Strokes that aren't higher and wider are lines.
@@ -236,6 +238,15 @@ StrokeForm formOf(const QVector<QPointF> &places)
         return closedForm(circle, even, kept);
     const bool isBent = std::abs(std::tan(circle.sweep / 4)) >= 2 * leastHeight;
     return circle.holds() && isBent ? arcForm(circle, even, kept) : line;
+}
+
+bool leadsAway(const QVector<QPointF> &places)
+{
+    const Places kept = usable(places);
+    if (kept.isEmpty())
+        return false;
+    const QRectF box = boxOf(kept);
+    return lengthOf(kept.last() - kept.first()) >= leastWay * std::hypot(box.width(), box.height());
 }
 
 } // namespace ink

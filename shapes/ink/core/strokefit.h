@@ -14,4 +14,7 @@ namespace ink {
 /// linear in the number of places. Places that aren't measurable are passed over.
 StrokeForm formOf(const QVector<QPointF> &places);
 
+/// Whether a stroke ends far enough from where it began to be meant as a line. A drawn square doesn't.
+bool leadsAway(const QVector<QPointF> &places);
+
 } // namespace ink

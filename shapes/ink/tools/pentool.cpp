@@ -136,8 +136,13 @@ void PenTool::heldStill()
 {
     if (!m_stroke || m_points.size() < 2 || m_form)
         return;
-    m_restingPlace = m_points.last().place;
-    m_form = m_hasShift ? lineBetween(m_points.first().place, m_restingPlace) : formOf(placesOf(m_points));
+    const QVector<QPointF> places = placesOf(m_points);
+    const StrokeForm form = m_hasShift ? lineBetween(places.first(), places.last()) : formOf(places);
+    // Closed strokes that are no circle stay as they were drawn.
+    if (form.kind == StrokeForm::Line && !m_hasShift && !leadsAway(places))
+        return;
+    m_restingPlace = places.last();
+    m_form = form;
     show();
 }
 

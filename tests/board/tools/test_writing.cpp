@@ -109,6 +109,7 @@ private Q_SLOTS:
     void aRingHeldStillBecomesACircle();
     void aBowHeldStillBecomesAnArc();
     void aZigZagHeldStillBecomesALine();
+    void aSquareHeldStillStaysAsItWasDrawn();
     void aHeldCircleIsPulledLarger();
     void aRingThatIsReleasedAtOnceStaysAsItWasDrawn();
     void theEraserTakesWholeStrokesOrParts();
@@ -293,6 +294,18 @@ void TestWriting::aZigZagHeldStillBecomesALine()
     support::pass(600);
     QCOMPARE(desk.placeOf(desk.stroke()), QRectF(496, 296, 88, 8));
     desk.release({580, 300});
+}
+
+void TestWriting::aSquareHeldStillStaysAsItWasDrawn()
+{
+    Desk desk;
+    const QVector<QPointF> corners{{500, 300}, {600, 300}, {600, 400}, {500, 400}, {500, 310}};
+    desk.drawAlong(corners);
+    const QRectF drawn = desk.placeOf(desk.stroke());
+    support::pass(600);
+    QCOMPARE(desk.placeOf(desk.stroke()), drawn);
+    desk.release(corners.constLast());
+    QCOMPARE(desk.placeOf(desk.stroke()), drawn);
 }
 
 void TestWriting::aHeldCircleIsPulledLarger()

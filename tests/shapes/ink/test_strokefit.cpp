@@ -114,6 +114,7 @@ private Q_SLOTS:
     void farAwayCirclesAreRound();
     void strokesOfAnySizeGiveNumbers_data();
     void strokesOfAnySizeGiveNumbers();
+    void squareLeadsNowhereAndAZigZagAway();
 };
 
 void TestStrokeFit::linesAndScrawlsAreStraight_data()
@@ -385,6 +386,18 @@ void TestStrokeFit::strokesOfAnySizeGiveNumbers()
         for (const QPointF &place : places)
             QVERIFY(std::isfinite(place.x()) && std::isfinite(place.y()));
     }
+}
+
+void TestStrokeFit::squareLeadsNowhereAndAZigZagAway()
+{
+    QVERIFY(!ink::leadsAway({{0, 0}, {100, 0}, {100, 100}, {0, 100}, {0, 10}}));
+    QVERIFY(ink::leadsAway({{0, 0}, {20, 40}, {40, 0}, {60, 40}, {80, 0}}));
+    // Three tenths of the diagonal of the box are just enough.
+    QVERIFY(ink::leadsAway({{0, 0}, {60, 80}, {18, 24}}));
+    QVERIFY(!ink::leadsAway({{0, 0}, {60, 80}, {17, 24}}));
+    QVERIFY(!ink::leadsAway({}));
+    const double none = std::nan("");
+    QVERIFY(!ink::leadsAway({{none, 0}}));
 }
 
 QTEST_APPLESS_MAIN(TestStrokeFit)

@@ -24,7 +24,7 @@ struct ToolStyle
     double width = 0;         ///< of the line, of the eraser, or the height of letters, scene units
     int variant = 0;          ///< 0 for the usual one; see the role's variants
     bool usesPressure = true; ///< strokes are wider under more pressure
-    bool straightens = true;  ///< a stroke becomes straight when the pen is held still
+    bool straightens = true;  ///< holding the pen still makes a stroke a line, an arc or a circle
 };
 
 /// @name Variants of tools
