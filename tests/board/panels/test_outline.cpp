@@ -124,6 +124,7 @@ private Q_SLOTS:
     void namesOfGroupsAndTheirKind();
     void nameStandsInThePanelsHead();
     void droppedRowChangesOrderAndGroup();
+    void draggedRowGoesWhereItIsDropped();
     void spaceBarPressesTheEye();
     void pressedRowStaysWhileThePanelFollows();
     void rowOfTheSelectedObjectIsScrolledTo();
@@ -235,6 +236,23 @@ void TestOutline::droppedRowChangesOrderAndGroup()
     QCOMPARE(t.board.page().objects(), (Objects{t.shapes[0], t.shapes[1], t.shapes[3], t.shapes[2]}));
     QCOMPARE(t.rows(), (QStringList{"Group (3)", "Rounded rectangle"}));
     QCOMPARE(t.board.history().count(), 1);
+}
+
+/// Offscreen there is no drag and drop: there the tree tells of a drop as it does after one.
+void TestOutline::draggedRowGoesWhereItIsDropped()
+{
+    Outline t;
+    t.click(t.row(2));
+    const QPoint from = t.place(t.row(2), OutlineTree::NameColumn);
+    const QPoint aboveAll(from.x(), t.tree->visualItemRect(t.row(0)).top() + 1);
+    if (!t.board.user().dragAndDrop(t.tree->viewport(), from, aboveAll))
+        Q_EMIT t.tree->rowsDropped(nullptr, t.row(0));
+    t.settle();
+    QCOMPARE(t.board.page().objects(), (Objects{t.shapes[1], t.shapes[2], t.shapes[3], t.shapes[0]}));
+    QCOMPARE(t.rows(), (QStringList{"Rounded rectangle", "Rounded rectangle", "Group (2)"}));
+    QCOMPARE(t.board.history().count(), 1);
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.board.page().objects(), t.shapes);
 }
 
 void TestOutline::spaceBarPressesTheEye()
