@@ -71,7 +71,9 @@ struct Outline
     }
     void click(QTreeWidgetItem *item, OutlineTree::Column column = OutlineTree::NameColumn) const
     {
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place(item, column));
+        const QPoint pos = place(item, column);
+        board.user().press(tree->viewport(), pos, Qt::NoModifier);
+        board.user().release(tree->viewport(), pos, Qt::NoModifier);
         settle();
     }
     QTreeWidgetItem *row(int index) const { return tree->topLevelItem(index); }
