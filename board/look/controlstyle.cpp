@@ -19,6 +19,9 @@ constexpr double fieldRadius = 4;
 constexpr double roundEdgeWidth = 1.35;
 constexpr double focusWidth = 2;
 constexpr int boxSide = 16;
+/// Least height of what is hit, by mice and by fingers.
+constexpr int mouseTarget = 24;
+constexpr int fingerTarget = 44;
 /// Above and below the text of a row, at least.
 constexpr int menuRowEdges = 6;
 constexpr double signWidth = 1.75;
@@ -289,7 +292,18 @@ QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
     const bool isField = type == CT_ComboBox || type == CT_PushButton;
     if (type == CT_MenuItem && !isSeparator(option))
         return {usual.width(), qMax(sizes().menuRow, option->fontMetrics.height() + menuRowEdges)};
+    const bool isTarget = type == CT_CheckBox || type == CT_RadioButton || type == CT_Slider;
+    if (isTarget)
+        return usual.expandedTo({0, areSizesLarge() ? fingerTarget : mouseTarget});
     return isField ? usual.expandedTo({0, sizes().field}) : usual;
+}
+
+/// A press above or below the box and its words counts, too.
+QRect ControlStyle::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+    const bool isTarget = element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect;
+    return isTarget ? QRect(usual.left(), option->rect.top(), usual.width(), option->rect.height()) : usual;
 }
 
 } // namespace board

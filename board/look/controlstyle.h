@@ -26,6 +26,8 @@ public:
                   QStyleHintReturn *returned = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget = nullptr) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget = nullptr) const override;
 
 private:
     void paintCombo(const QStyleOptionComplex &option, QPainter *painter, const QWidget *widget) const;

@@ -37,7 +37,9 @@ public:
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const bool isLive = (m_which == Icon::Record || m_which == Icon::Stop) && mode != QIcon::Disabled;
         const bool isChosen = state == QIcon::On && mode != QIcon::Disabled && m_role == QPalette::ButtonText;
-        const QColor usual = isChosen ? themeColors().accent : QApplication::palette().color(group, m_role);
+        // Lists ask for it on their selected rows, which have the accent behind them.
+        const QPalette::ColorRole role = mode == QIcon::Selected ? QPalette::HighlightedText : m_role;
+        const QColor usual = isChosen ? themeColors().accent : QApplication::palette().color(group, role);
         paintIcon(painter, rect, m_which, isLive ? themeColors().record : usual);
     }
 

@@ -480,6 +480,9 @@ void PageView::keyPressEvent(QKeyEvent *event)
         return event->accept();
     }
     QGraphicsView::keyPressEvent(event);
+    // Of a drag that the key has changed.
+    if (m_page->scene()->isDragging())
+        showHint(QCursor::pos());
 }
 
 void PageView::keyReleaseEvent(QKeyEvent *event)
@@ -492,6 +495,8 @@ void PageView::keyReleaseEvent(QKeyEvent *event)
         updateCursor(viewport()->mapFromGlobal(QCursor::pos()));
     }
     QGraphicsView::keyReleaseEvent(event);
+    if (m_page && m_page->scene()->isDragging())
+        showHint(QCursor::pos());
 }
 
 void PageView::focusOutEvent(QFocusEvent *event)
@@ -506,6 +511,12 @@ bool PageView::event(QEvent *event)
     // The shelf is part of the desk.
     if (event->type() == QEvent::Paint)
         QPainter(this).fillRect(rect(), themeColors().desk);
+    // During a drag the key lets go of what is caught; otherwise it goes to the menus.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt &&
+        m_page && m_page->scene()->isBusy()) {
+        event->accept();
+        return true;
+    }
     return QGraphicsView::event(event);
 }
 

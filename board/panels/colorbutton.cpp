@@ -1,5 +1,6 @@
 #include "panels/colorbutton.h"
 
+#include "look/sizes.h"
 #include "panels/colorpopup.h"
 
 #include <QtGui/QPainter>
@@ -26,6 +27,7 @@ ColorButton::ColorButton(const Workspace *workspace, const QString &name, QWidge
     setAccessibleName(name);
     setMenu(m_popup);
     setPopupMode(InstantPopup);
+    followSizes(this, [this] { updateGeometry(); });
     connect(m_popup, &ColorPopup::colorPicked, this, [this](const QColor &color) {
         setColor(color);
         Q_EMIT colorPicked(color);
@@ -56,7 +58,7 @@ void ColorButton::showAsOutline()
 
 QSize ColorButton::sizeHint() const
 {
-    return buttonSize;
+    return buttonSize.expandedTo({0, sizes().field});
 }
 
 void ColorButton::paintEvent(QPaintEvent *event)

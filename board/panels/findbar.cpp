@@ -2,6 +2,7 @@
 
 #include "core/commands.h"
 #include "core/workspace.h"
+#include "look/sizes.h"
 #include "look/theme.h"
 #include "panels/fields/remarkfield.h"
 
@@ -39,6 +40,7 @@ QToolButton *buttonOf(QAction *action)
     button->setIconSize(buttonIconSize);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
+    followSizes(button, [button] { button->setMinimumSize(sizes().field, sizes().field); });
     return button;
 }
 

@@ -310,10 +310,12 @@ QRectF BoardDriver::placeOf(const CBaseObject *object) const
 
 QPointF BoardDriver::handle(CObjAction::ACT_Def action) const
 {
-    const auto selected = selection();
-    if (selected.size() != 1)
+    QRectF bounds;
+    const QVector<CBaseObject *> selected = selection();
+    for (const CBaseObject *object : selected)
+        bounds |= object->mapToScene(object->getClientRect()).boundingRect();
+    if (bounds.isNull())
         return {};
-    const QRectF bounds = selected.first()->mapToScene(selected.first()->getClientRect()).boundingRect();
     const QRect area = bounds.adjusted(-handleReach, -handleReach, handleReach, handleReach).toAlignedRect();
     const QVector<QPoint> found = answering(action, area, coarseStep);
     if (found.isEmpty())

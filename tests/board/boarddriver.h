@@ -112,8 +112,8 @@ public:
     QVector<CBaseObject *> selection() const;
     /// Where the object's client rectangle is on the page, for objects that are not turned.
     QRectF placeOf(const CBaseObject *object) const;
-    /// The centre of a handle of the only selected object, found by asking the page around it what a press would
-    /// do. Null when there is none.
+    /// The centre of a handle of the selected object, or of the frame of several, found by asking the page around
+    /// them what a press would do. Null when there is none.
     QPointF handle(CObjAction::ACT_Def action) const;
     /// @}
 

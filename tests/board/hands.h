@@ -31,6 +31,8 @@ public:
     virtual void key(QWidget *focused, Qt::Key key, Qt::KeyboardModifiers modifiers) = 0;
     /// Types characters that a keyboard of the United States has.
     virtual void type(QWidget *focused, const QString &text) = 0;
+    /// Drags something out of a widget and drops it there, which takes a window system: false where there is none.
+    virtual bool dragAndDrop(QWidget *in, const QPoint &from, const QPoint &to) = 0;
     /// Touches the widget with a pen, 0 to 1 hard. True if the program has used the event as one of a pen.
     virtual bool pen(QWidget *on, QEvent::Type type, const QPointF &pos, double pressure) = 0;
 };

@@ -3,7 +3,9 @@
 
 #include <support/patience.h>
 
+#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QAbstractNativeEventFilter>
+#include <QtGui/QDrag>
 #include <QtGui/QTabletEvent>
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
@@ -68,6 +70,7 @@ public:
     void wheel(QWidget *over, const QPoint &pos, int notches, Qt::KeyboardModifiers modifiers) override;
     void key(QWidget *focused, Qt::Key key, Qt::KeyboardModifiers modifiers) override;
     void type(QWidget *focused, const QString &text) override;
+    bool dragAndDrop(QWidget *in, const QPoint &from, const QPoint &to) override;
     bool pen(QWidget *on, QEvent::Type type, const QPointF &pos, double pressure) override;
 
 private:
@@ -226,6 +229,39 @@ void RealHands::type(QWidget *, const QString &text)
 {
     for (const QChar character : text)
         strike(character.unicode(), Qt::NoModifier);
+}
+
+/// A drag has an event loop of its own, in which the hand goes on.
+bool RealHands::dragAndDrop(QWidget *in, const QPoint &from, const QPoint &to)
+{
+    const auto isDragging = [in] { return in->window()->findChild<QDrag *>() != nullptr; };
+    bool isOnItsWay = false;
+    bool isDropped = false;
+    const auto drop = [&] {
+        move(in, (from + to) / 2, Qt::LeftButton, Qt::NoModifier);
+        move(in, to, Qt::LeftButton, Qt::NoModifier);
+        release(in, to, Qt::NoModifier);
+        isDropped = true;
+    };
+    const auto goOn = [&] {
+        if (isOnItsWay || !isDragging())
+            return;
+        isOnItsWay = true;
+        QMetaObject::invokeMethod(in, drop, Qt::QueuedConnection);
+    };
+    // Timers don't run where the tests' clock stands still.
+    const QMetaObject::Connection waiting =
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, in, goOn);
+    press(in, from, Qt::NoModifier);
+    const int step = QApplication::startDragDistance() + 2;
+    // The first move takes hold of it.
+    for (const int moves : {1, 2})
+        move(in, from + QPoint(moves * step, 0), Qt::LeftButton, Qt::NoModifier);
+    const bool isDone = QTest::qWaitFor([&] { return isDropped && !isDragging(); }, support::patience);
+    QObject::disconnect(waiting);
+    if (!isDone)
+        qFatal("nothing was dragged");
+    return true;
 }
 
 bool RealHands::pen(QWidget *on, QEvent::Type type, const QPointF &pos, double pressure)

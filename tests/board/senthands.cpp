@@ -40,6 +40,7 @@ public:
         QTest::keyClick(focused, key, modifiers);
     }
     void type(QWidget *focused, const QString &text) override { QTest::keyClicks(focused, text); }
+    bool dragAndDrop(QWidget *, const QPoint &, const QPoint &) override { return false; }
     bool pen(QWidget *on, QEvent::Type type, const QPointF &pos, double pressure) override
     {
         const bool isMove = type == QEvent::TabletMove;

@@ -12,11 +12,13 @@
 #include <pagehost/page.h>
 
 #include <support/listed.h>
+#include <support/patience.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
 
 #include <utility>
 
@@ -32,20 +34,32 @@ struct KeyTeacher
     void press(const QString &name, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         transcript.append(name);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        board.keyIn(QApplication::focusWidget(), Qt::Key(key), modifiers);
         listen();
     }
     void type(const QString &text)
     {
         transcript.append("“" + text + "”");
-        QTest::keyClicks(QApplication::focusWidget(), text);
+        board.type(QApplication::focusWidget(), text);
         listen();
     }
     /// As the window manager does when another window has come or gone.
     void activate(board::PageView *view)
     {
-        QApplication::setActiveWindow(view->window());
+        // A dialog that is done goes first.
+        QVERIFY(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }, support::patience));
+        QVERIFY(boardtest::activate(*view->window()));
         view->setFocus();
+        listen();
+    }
+    /// A dialog gets the keys when the window system says so.
+    template<typename Dialog> void awaitFocusIn()
+    {
+        const auto hasFocus = [] {
+            const QWidget *focused = QApplication::focusWidget();
+            return focused && qobject_cast<Dialog *>(focused->window());
+        };
+        QVERIFY(QTest::qWaitFor(hasFocus, support::patience));
         listen();
     }
     void listen()
@@ -128,6 +142,7 @@ F9
 
     // It is saved.
     t.press("Ctrl+S", Qt::Key_S, Qt::ControlModifier);
+    t.awaitFocusIn<QFileDialog>();
     QTest::keyClicks(QApplication::focusWidget(), t.folder.filePath("lesson.board"));
     t.reader.said();
     t.press("Return", Qt::Key_Return);

@@ -19,6 +19,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
 #include <cmath>
 
 using checklist::RandomEdits;
@@ -86,6 +87,17 @@ QImage paintedWithoutFigures(const ShapeDriver &shape)
     for (const auto &[node, display] : hidden)
         node->setAttribute(QStringLiteral("display"), display);
     return picture;
+}
+
+/// Coded shapes have no letters that users set.
+const QString lettersSection = QStringLiteral("text");
+constexpr int firstIdOfLetters = 1048569;
+
+QList<int> attributesWithoutLetters(const ShapeDriver &shape)
+{
+    QList<int> ids = shape.object().getAttributeIds();
+    ids.erase(std::remove_if(ids.begin(), ids.end(), [](int id) { return id >= firstIdOfLetters; }), ids.end());
+    return ids;
 }
 
 /// A declared shape and its predecessor, in the same hands.
@@ -163,7 +175,7 @@ void TestTwins::newTwinsAreTheSame()
     COMPARE_TWINS(twins);
     QCOMPARE(twins.declared.core().getSVGType(), twins.coded.core().getSVGType());
     QCOMPARE(twins.declared.object().kindName(), twins.coded.object().kindName());
-    QCOMPARE(twins.declared.object().getAttributeIds(), twins.coded.object().getAttributeIds());
+    QCOMPARE(attributesWithoutLetters(twins.declared), twins.coded.object().getAttributeIds());
 }
 
 void TestTwins::draggedTwinsAreTheSame()
@@ -214,6 +226,7 @@ void TestTwins::editedTwinsAreTheSame()
         });
         RandomEdits edits(twins.declared, seed);
         RandomEdits same(twins.coded, seed);
+        edits.leaveOut(lettersSection);
         for (int i = 0; i < editsOfSeed; ++i) {
             edits.edit();
             same.edit();
@@ -232,7 +245,11 @@ void TestTwins::twinsUndoTheSame()
     });
     QUndoStack &stack = twins.declared.undoStack();
     stack.clear();
-    twins.both([](ShapeDriver &shape) { RandomEdits(shape, seeds).edit(editsOfSeed); });
+    twins.both([](ShapeDriver &shape) {
+        RandomEdits edits(shape, seeds);
+        edits.leaveOut(lettersSection);
+        edits.edit(editsOfSeed);
+    });
     COMPARE_TWINS(twins);
     while (stack.canUndo())
         stack.undo();

@@ -104,10 +104,14 @@ void RandomEdits::answerAnyControl()
 {
     QString json;
     m_shape.object().GetSettingJson(json);
-    const QJsonArray controls = QJsonDocument::fromJson(json.toUtf8())[QStringLiteral("settings")].toArray();
+    const QJsonArray all = QJsonDocument::fromJson(json.toUtf8())[QStringLiteral("settings")].toArray();
+    QVector<QJsonObject> controls;
+    for (const QJsonValue &control : all)
+        if (m_leftOut.isEmpty() || control.toObject()[QStringLiteral("section")].toString() != m_leftOut)
+            controls.append(control.toObject());
     if (controls.isEmpty())
         return;
-    const QJsonObject control = controls.at(upTo(controls.size() - 1)).toObject();
+    const QJsonObject control = controls.at(upTo(controls.size() - 1));
     const QJsonObject answer{{control[QStringLiteral("id")].toString(), answerTo(control)}};
     m_shape.object().SetSettingJson(QString::fromUtf8(QJsonDocument(answer).toJson()), true, true);
 }

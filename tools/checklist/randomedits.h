@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QJsonObject>
+#include <QtCore/QString>
 
 #include <random>
 
@@ -15,6 +16,8 @@ class RandomEdits
 public:
     RandomEdits(const ShapeDriver &shape, unsigned startValue);
 
+    /// Answers no control of that section of the settings panel from now on.
+    void leaveOut(const QString &section) { m_leftOut = section; }
     void edit();
     void edit(int count);
     /// An answer to a control of the settings panel that differs from what it shows, as far as it can.
@@ -31,6 +34,7 @@ private:
 
     const ShapeDriver &m_shape;
     std::mt19937 m_random;
+    QString m_leftOut;
 };
 
 } // namespace checklist

@@ -320,6 +320,10 @@ void DeclaredShape::putPoints(const Places &places)
 
 bool DeclaredShape::getInnerProperty(int propId, QDataStream &out)
 {
+    if (const auto part = m_labels.letters().partOf(propId)) {
+        m_labels.letters().write(*part, getPenColor(), out);
+        return true;
+    }
     if (!m_labels.hasRound(propId))
         return Shape::getInnerProperty(propId, out);
     out << m_labels.textOfRound(propId);
@@ -328,7 +332,8 @@ bool DeclaredShape::getInnerProperty(int propId, QDataStream &out)
 
 int DeclaredShape::actionIdToPropId(int actionId)
 {
-    return m_labels.hasRound(actionId) ? actionId : Shape::actionIdToPropId(actionId);
+    const bool isOfLabels = m_labels.hasRound(actionId) || m_labels.letters().partOf(actionId);
+    return isOfLabels ? actionId : Shape::actionIdToPropId(actionId);
 }
 
 bool DeclaredShape::writeRound(int id, QDataStream &in, bool record, bool addUndo)
@@ -355,6 +360,8 @@ bool DeclaredShape::setInnerProperty(int propId, QDataStream &in, bool record, b
     m_mayHaveUndoSteps = m_mayHaveUndoSteps || addUndo;
     if (m_labels.hasRound(propId))
         return writeRound(propId, in, record, addUndo);
+    if (const auto part = m_labels.letters().partOf(propId))
+        return setLetters(*part, in, record, addUndo);
     return Shape::setInnerProperty(propId, in, record, addUndo);
 }
 
@@ -427,6 +434,7 @@ bool DeclaredShape::GetSettingArray(QJsonArray &settings)
         control[QStringLiteral("section")] = QStringLiteral("text");
         settings[i] = control;
     }
+    addLetterControls(settings);
     return true;
 }
 

@@ -60,6 +60,7 @@ public:
     bool getInnerProperty(int propId, QDataStream &out) override;
     bool setInnerProperty(int propId, QDataStream &in, bool record, bool addUndo) override;
     int actionIdToPropId(int actionId) override;
+    void initSpecialPropItems() override;
     bool DoPlaybackActionEx(int actionId, QDataStream &in) override;
     bool GetSpecialProperty(int propId, QDataStream &out) override;
     int getMaxPenWidth() override { return m_declaration.widestPen; }
@@ -72,6 +73,8 @@ public:
     QByteArray toSvg() override;
     /// Those of labels in the section of letters.
     bool GetSettingArray(QJsonArray &settings) override;
+    bool SetSettingArray(QMap<QString, QString> &values, bool record, bool undo) override;
+    QString getPropName(int propId) override;
     /// A picture for palettes, SVG; empty: the look of a new shape.
     QByteArray icon() const { return m_declaration.icon; }
 
@@ -120,6 +123,8 @@ private:
     /// The hint of a point that were put to `centre`; document units.
     QString hintAt(int number, QPointF centre);
     void writePointEnds(QDataStream &out);
+    void addLetterControls(QJsonArray &settings);
+    bool setLetters(LetterStyle::Part part, QDataStream &in, bool record, bool addUndo);
     bool writeRound(int id, QDataStream &in, bool record, bool addUndo);
     void putPoints(const Places &places);
     QJsonObject values() const;

@@ -24,9 +24,9 @@ Typesetting lettersFor(const LabelLook &look, double size, const Typesetting &kn
 {
     const QString text = look.text.left(limits::drawnLetters);
     const double room = std::max(narrowest, look.box.width() / scaleOf(size));
-    const bool isSame =
-        known.text == text && known.isBold == look.isBold && known.hasManyLines == look.hasManyLines;
-    return isSame && known.isFor(room) ? known : typeset(text, look.isBold, look.hasManyLines, room);
+    const LetterForm form{look.isBold, look.isItalic, look.isUnderlined};
+    const bool isSame = known.text == text && known.form == form && known.hasManyLines == look.hasManyLines;
+    return isSame && known.isFor(room) ? known : typeset(text, form, look.hasManyLines, room);
 }
 
 bool isInBox(const Typesetting &letters, const LabelLook &look, double size)
@@ -84,7 +84,8 @@ bool LabelLook::operator==(const LabelLook &other) const
 {
     return text == other.text && box.width() == other.box.width() && box.height() == other.box.height() &&
            size == other.size && smallest == other.smallest && isBold == other.isBold &&
-           hasManyLines == other.hasManyLines && alignment == other.alignment && vertical == other.vertical;
+           isItalic == other.isItalic && isUnderlined == other.isUnderlined && hasManyLines == other.hasManyLines &&
+           alignment == other.alignment && vertical == other.vertical;
 }
 
 LabelLayout layOut(const LabelLook &look, const Typesetting &known)

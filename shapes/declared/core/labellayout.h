@@ -16,6 +16,8 @@ struct LabelLook
     double size = 12;    ///< of the font; the largest one where it fits the box
     double smallest = 0; ///< above 0: the text gets smaller, down to this, until it fits
     bool isBold = false;
+    bool isItalic = false;
+    bool isUnderlined = false;
     bool hasManyLines = true;
     LabelAlignment alignment = LabelAlignment::Middle;
     LabelAlignment vertical = LabelAlignment::Middle;

@@ -18,13 +18,13 @@ namespace declared {
 
 namespace {
 
-constexpr double smallestFont = 2;
-constexpr double largestFont = 400;
 /// Coordinates of letters are whole multiples of 1 / this.
 constexpr double letterPrecision = 100;
 const QString nothing = QStringLiteral("M0 0");
 /// On the node of a label: the id of its text, until an export replaces the letters.
 const QString writingAttribute = QStringLiteral("label-text");
+/// In saved JSON. Ids of labels begin with "label_".
+const QString lettersKey = QStringLiteral("letters");
 
 QString pathText(const QPainterPath &outline, QPointF corner)
 {
@@ -76,6 +76,16 @@ void writeStart(QXmlStreamWriter &writer, const QXmlStreamReader &reader, const 
             writer.writeAttribute(attribute);
 }
 
+/// A line's box gets higher with its letters, away from the side that they are aligned to.
+QRectF grown(const QRectF &box, double growth, LabelAlignment vertical)
+{
+    const double further = box.height() * (growth - 1);
+    const double above = vertical == LabelAlignment::Start ? 0
+                         : vertical == LabelAlignment::End ? further
+                                                           : further / 2;
+    return box.adjusted(0, -above, 0, further - above);
+}
+
 QString anchorName(LabelAlignment alignment)
 {
     return alignment == LabelAlignment::Start ? QStringLiteral("start")
@@ -98,6 +108,7 @@ Qt::Alignment alignmentOf(const LabelLook &look)
 
 Labels::Labels(shapekit::PropertiedShape *shape, const QVector<LabelDeclaration> &declarations,
                const std::vector<LabelTitles> &titles)
+    : m_letters(declarations)
 {
     for (int i = 0; i < declarations.size(); ++i) {
         Label label;
@@ -112,8 +123,8 @@ void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const
 {
     const LabelDeclaration &declared = *label.declared;
     label.text = std::make_unique<shapekit::TextValue>(shape, *titles.text, declared.text);
-    label.size =
-        std::make_unique<shapekit::RealNumber>(shape, *titles.size, declared.size, smallestFont, largestFont, 1);
+    label.size = std::make_unique<shapekit::RealNumber>(shape, *titles.size, declared.size,
+                                                        LetterStyle::smallestFont, LetterStyle::largestFont, 1);
     label.bold = std::make_unique<shapekit::Switch>(shape, *titles.bold, declared.isBold);
     label.colour = std::make_unique<shapekit::ColorValue>(shape, *titles.colour, declared.colour.rgb());
     label.alignment = std::make_unique<shapekit::Choice>(
@@ -129,25 +140,25 @@ void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const
     label.writings.front().id = label.text->id();
 }
 
-LabelLook Labels::lookOf(const Label &label, const QString &text, QSizeF box)
+LabelLook Labels::lookOf(const Label &label, const QString &text, QSizeF box) const
 {
     LabelLook look;
     look.text = text;
     look.box = box;
-    look.size = label.size ? double(*label.size) : label.declared->size;
+    look.size = label.size ? double(*label.size) : m_letters.sizeOf(*label.declared);
     look.smallest = label.declared->smallest;
-    look.isBold = label.bold ? bool(*label.bold) : label.declared->isBold;
+    look.isBold = label.bold ? bool(*label.bold) : m_letters.isBold(*label.declared);
+    look.isItalic = !label.text && m_letters.isItalic();
+    look.isUnderlined = !label.text && m_letters.isUnderlined();
     look.hasManyLines = label.declared->hasManyLines;
     look.alignment = label.alignment ? LabelAlignment(int(*label.alignment)) : label.declared->alignment;
     look.vertical = label.declared->vertical;
     return look;
 }
 
-QColor Labels::colourOf(const Label &label, const ShapeState &state)
+QColor Labels::colourOf(const Label &label, const ShapeState &state) const
 {
-    if (label.declared->followsPen)
-        return state.penColour();
-    return label.colour ? QColor(*label.colour) : label.declared->colour;
+    return label.colour ? QColor(*label.colour) : m_letters.colourOf(*label.declared, state.penColour());
 }
 
 void Labels::draw(QZeSvgTinyDocument &document, ShapeState &state)
@@ -203,7 +214,7 @@ void Labels::drawRound(int repeat, QZeSvgNode &copy, const QVector<double> &valu
     }
 }
 
-std::optional<QRectF> Labels::boxOf(const Label &label, ShapeState &state)
+std::optional<QRectF> Labels::boxOf(const Label &label, ShapeState &state) const
 {
     double sides[4] = {};
     for (int i = 0; i < 4; ++i) {
@@ -212,11 +223,13 @@ std::optional<QRectF> Labels::boxOf(const Label &label, ShapeState &state)
             return {};
         sides[i] = side.number();
     }
-    return QRectF(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3]));
+    const QRectF box(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3]));
+    const bool growsAlong = !label.text && !label.declared->hasManyLines && m_letters.growth() > 1;
+    return growsAlong ? grown(box, m_letters.growth(), label.declared->vertical) : box;
 }
 
 /// Most steps of a drag leave most texts where they are.
-void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &box)
+void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &box) const
 {
     const LabelLook look = lookOf(label, writing.text, box.size());
     const bool isAtPlace = writing.corner.x() == box.x() && writing.corner.y() == box.y();
@@ -229,7 +242,7 @@ void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &b
     writing.path = pathText(writing.layout.outline, writing.corner);
 }
 
-void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state)
+void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state) const
 {
     const std::optional<QRectF> box = boxOf(label, state);
     if (box)
@@ -309,6 +322,13 @@ void Labels::setTextOfRound(int id, const QString &text)
     label->hasChanged = true;
 }
 
+void Labels::setLetters(const LetterStyle &letters)
+{
+    m_letters = letters;
+    for (Label &label : m_labels)
+        label.hasChanged = true;
+}
+
 QByteArray Labels::withTexts(const QByteArray &svg) const
 {
     if (m_labels.empty())
@@ -342,6 +362,10 @@ void Labels::writeText(QXmlStreamWriter &writer, const Found &found)
     writer.writeAttribute(QStringLiteral("font-size"), numberText(writing.layout.size));
     if (writing.look.isBold)
         writer.writeAttribute(QStringLiteral("font-weight"), QStringLiteral("bold"));
+    if (writing.look.isItalic)
+        writer.writeAttribute(QStringLiteral("font-style"), QStringLiteral("italic"));
+    if (writing.look.isUnderlined)
+        writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
     writer.writeAttribute(QStringLiteral("text-anchor"), anchorName(writing.look.alignment));
     for (const LabelLine &line : writing.layout.lines) {
         const QPointF anchor = writing.box.topLeft() + line.anchor;
@@ -380,12 +404,16 @@ QJsonObject Labels::toJson() const
                         {QStringLiteral("colour"), label.colour->toJson()},
                         {QStringLiteral("align"), anchorName(LabelAlignment(int(*label.alignment)))}};
     }
+    const QJsonObject letters = m_letters.toJson();
+    if (!letters.isEmpty())
+        labels[lettersKey] = letters;
     return labels;
 }
 
 /// Values that are missing keep those of a new shape.
 void Labels::fromJson(const QJsonObject &labels)
 {
+    m_letters.fromJson(labels.value(lettersKey).toObject());
     for (Label &label : m_labels) {
         label.ownTexts.clear();
         label.hasChanged = true;

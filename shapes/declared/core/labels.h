@@ -3,6 +3,7 @@
 #include <declared/core/figure.h>
 #include <declared/core/labellayout.h>
 #include <declared/core/labeltitles.h>
+#include <declared/core/letterstyle.h>
 #include <declared/core/shapestate.h>
 
 #include <shapekit/property.h>
@@ -21,7 +22,7 @@ class QZeSvgTinyDocument;
 namespace declared {
 
 /// The labels of one shape: texts in boxes that the user writes, each with its size, weight, colour and alignment
-/// as properties. A repeated label has a text for each round, and the look that its file gives it.
+/// as properties. A repeated label has a text for each round; the look is one for all repeated labels.
 ///
 /// The document shows their letters as outlines, so that they look alike everywhere; exported pictures have them as
 /// SVG text.
@@ -49,11 +50,14 @@ public:
     QString textOfRound(int id) const;
     void setTextOfRound(int id, const QString &text);
     /// @}
+    /// The look of all repeated labels.
+    const LetterStyle &letters() const { return m_letters; }
+    void setLetters(const LetterStyle &letters);
     /// Where the labels stand, document units; those without a box are left out.
     QVector<shapekit::LabelPlace> places() const;
     /// An exported picture with text instead of outlines.
     QByteArray withTexts(const QByteArray &svg) const;
-    /// By id, of repeated labels those that the user has written; empty without any.
+    /// By id, of repeated labels those that the user has written, under "letters" their look; empty without any.
     QJsonObject toJson() const;
     /// Whether a control of the settings panel sets letters of a label.
     bool hasControl(const QString &id) const;
@@ -95,18 +99,19 @@ private:
     static void readLabel(Label &label, const QJsonObject &saved);
     static void readRounds(Label &label, const QJsonObject &labels);
     void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
-    static LabelLook lookOf(const Label &label, const QString &text, QSizeF box);
+    LabelLook lookOf(const Label &label, const QString &text, QSizeF box) const;
     /// None where a side is not finite.
-    static std::optional<QRectF> boxOf(const Label &label, ShapeState &state);
-    static void layOutWriting(const Label &label, Writing &writing, const QRectF &box);
-    static QColor colourOf(const Label &label, const ShapeState &state);
-    static void drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state);
+    std::optional<QRectF> boxOf(const Label &label, ShapeState &state) const;
+    void layOutWriting(const Label &label, Writing &writing, const QRectF &box) const;
+    QColor colourOf(const Label &label, const ShapeState &state) const;
+    void drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state) const;
     static void writeText(QXmlStreamWriter &writer, const Found &found);
     Found writingWithId(int id) const;
     Label *labelOfRound(int id);
     const Label *labelOfRound(int id) const { return const_cast<Labels *>(this)->labelOfRound(id); }
 
     std::vector<Label> m_labels;
+    LetterStyle m_letters;
 };
 
 /// The labels of a drawing, for its figure.

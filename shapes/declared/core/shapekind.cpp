@@ -54,6 +54,7 @@ ShapeKind::ShapeKind(const SharedDeclaration &declaration)
     m_kind.makeCore = [this](CSVGObj *owner) -> shapekit::StyledShape * { return new DeclaredShape(owner, *this); };
     for (const LabelDeclaration &label : declaration->labels)
         m_labelTitles.push_back(makeLabelTitles(label));
+    m_letterTitles = makeLetterTitles();
     m_entries.resize(size_t(declaration->properties.size()));
     for (int i = 0; i < declaration->properties.size(); ++i) {
         const PropertyDeclaration &property = declaration->properties.at(i);
@@ -73,6 +74,31 @@ LabelTitles ShapeKind::makeLabelTitles(const LabelDeclaration &label) const
     };
     return {title(""),       title("_size"),  title("_bold"),   title("_colour"),
             title("_align"), title("_start"), title("_middle"), title("_end")};
+}
+
+LetterTitles ShapeKind::makeLetterTitles() const
+{
+    const auto title = [&](const char *part) {
+        // No property has such a name.
+        const QString key = m_kind.keyPrefix + m_declaration->id + QLatin1String("_letters-") + QLatin1String(part);
+        return std::make_unique<shapekit::Text>(key, QLatin1String(part));
+    };
+    return {title("size"), title("bold"), title("italic"), title("underlined"), title("colour")};
+}
+
+void ShapeKind::addLetterTexts(QMap<QString, QString> &table, const QString &language) const
+{
+    const bool isGerman = language == QLatin1String("de");
+    if (!isGerman && language != english)
+        return;
+    const auto add = [&](const shapekit::Text &text, const char *inEnglish, const char *inGerman) {
+        table.insert(text.key(&m_kind), QString::fromUtf8(isGerman ? inGerman : inEnglish));
+    };
+    add(*m_letterTitles.size, "Font size", "Schriftgröße");
+    add(*m_letterTitles.bold, "Bold", "Fett");
+    add(*m_letterTitles.italic, "Italic", "Kursiv");
+    add(*m_letterTitles.underlined, "Underlined", "Unterstrichen");
+    add(*m_letterTitles.colour, "Text colour", "Textfarbe");
 }
 
 /// The properties are named after the label: "Caption", "Caption: bold".
@@ -159,6 +185,7 @@ QMap<QString, QString> ShapeKind::texts(const QString &language) const
         for (int entry = 0; entry < property.entries.size(); ++entry)
             addText(table, entryKey(i, entry), property.entryTitles.at(entry), language);
     }
+    addLetterTexts(table, language);
     for (int label = 0; label < m_declaration->labels.size(); ++label)
         addLabelTexts(table, label, language);
     const KnownGroup *known = knownGroup(m_declaration->group);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <declared/core/labeltitles.h>
+#include <declared/core/letterstyle.h>
 #include <declared/reader/declaration.h>
 #include <declared/reader/message.h>
 
@@ -27,6 +28,8 @@ public:
     const shapekit::Text &title(int property) const { return *m_titles.at(size_t(property)); }
     QVector<const shapekit::Text *> entries(int property) const;
     const std::vector<LabelTitles> &labelTitles() const { return m_labelTitles; }
+    /// Of the look that repeated labels have together.
+    const LetterTitles &letterTitles() const { return m_letterTitles; }
     /// In a language, else in English where that is wanted.
     QMap<QString, QString> texts(const QString &language) const;
     /// Something that is wrong with a drawing of the shape, as values of the user have made it. The listener gets
@@ -42,6 +45,8 @@ private:
     QString propertyKey(int property) const;
     QString entryKey(int property, int entry) const;
     LabelTitles makeLabelTitles(const LabelDeclaration &label) const;
+    LetterTitles makeLetterTitles() const;
+    void addLetterTexts(QMap<QString, QString> &table, const QString &language) const;
     void addLabelTexts(QMap<QString, QString> &table, int label, const QString &language) const;
 
     SharedDeclaration m_declaration;
@@ -51,6 +56,7 @@ private:
     std::vector<std::unique_ptr<shapekit::Text>> m_titles;
     std::vector<std::vector<std::unique_ptr<shapekit::Text>>> m_entries; ///< by property
     std::vector<LabelTitles> m_labelTitles;
+    LetterTitles m_letterTitles;
 };
 
 } // namespace declared

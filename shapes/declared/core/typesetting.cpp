@@ -18,12 +18,32 @@ constexpr double unlimited = 1e6;
 /// Qt rounds widths to less than this.
 constexpr double tolerance = 1;
 
-QFont fontFor(bool isBold)
+QFont fontFor(const LetterForm &form)
 {
     QFont font(QStringLiteral("sans-serif"));
     font.setPixelSize(Typesetting::fontPixels);
-    font.setBold(isBold);
+    font.setBold(form.isBold);
+    font.setItalic(form.isItalic);
     return font;
+}
+
+/// Twice the area inside, below 0 where it lies left of the way.
+double signedArea(const QPainterPath &path)
+{
+    double area = 0;
+    const QList<QPolygonF> polygons = path.toSubpathPolygons();
+    for (const QPolygonF &polygon : polygons)
+        for (int i = 1; i < polygon.size(); ++i)
+            area += polygon.at(i - 1).x() * polygon.at(i).y() - polygon.at(i).x() * polygon.at(i - 1).y();
+    return area;
+}
+
+/// Goes round as the letters do: where both lie above each other nothing is left out.
+QPainterPath underlineOf(const QPainterPath &letters, double width, const QFontMetricsF &metrics)
+{
+    QPainterPath line;
+    line.addRect(0, metrics.underlinePos() - metrics.lineWidth() / 2, width, metrics.lineWidth());
+    return signedArea(letters) * signedArea(line) < 0 ? line.toReversed() : line;
 }
 
 QPainterPath outlineOf(const QTextLine &line, QPointF origin)
@@ -52,8 +72,11 @@ void addLine(Typesetting &setting, const QString &text, const QTextLine &line)
     setting.breaksWords = setting.breaksWords || (line.textLength() > 0 && breaksWord(text, end));
     const double width = line.naturalTextWidth();
     setting.widest = std::max(setting.widest, width);
-    setting.lines.append({text.mid(line.textStart(), line.textLength()).trimmed(), text.isRightToLeft(), width,
-                          outlineOf(line, {-line.naturalTextRect().left(), -line.ascent()})});
+    QPainterPath outline = outlineOf(line, {-line.naturalTextRect().left(), -line.ascent()});
+    if (setting.form.isUnderlined && width > 0)
+        outline.addPath(underlineOf(outline, width, QFontMetricsF(fontFor(setting.form))));
+    setting.lines.append(
+        {text.mid(line.textStart(), line.textLength()).trimmed(), text.isRightToLeft(), width, outline});
 }
 
 void addParagraph(Typesetting &setting, const QString &text, const QFont &font)
@@ -82,13 +105,13 @@ bool Typesetting::isFor(double otherRoom) const
     return room == otherRoom || !hasManyLines || (!isBroken && widest + tolerance <= otherRoom);
 }
 
-Typesetting typeset(const QString &text, bool isBold, bool hasManyLines, double room)
+Typesetting typeset(const QString &text, const LetterForm &form, bool hasManyLines, double room)
 {
-    const QFont font = fontFor(isBold);
+    const QFont font = fontFor(form);
     const QFontMetricsF metrics(font);
     Typesetting setting;
     setting.text = text;
-    setting.isBold = isBold;
+    setting.form = form;
     setting.hasManyLines = hasManyLines;
     setting.room = room;
     setting.lineHeight = metrics.height();

@@ -6,6 +6,18 @@
 
 namespace declared {
 
+struct LetterForm
+{
+    bool isBold = false;
+    bool isItalic = false;
+    bool isUnderlined = false;
+
+    bool operator==(const LetterForm &other) const
+    {
+        return isBold == other.isBold && isItalic == other.isItalic && isUnderlined == other.isUnderlined;
+    }
+};
+
 /// A text in lines, at one size of the font: scaled letters don't show hinting. Layout pixels.
 struct Typesetting
 {
@@ -20,7 +32,7 @@ struct Typesetting
     };
 
     QString text;
-    bool isBold = false;
+    LetterForm form;
     bool hasManyLines = true;
     double room = 0; ///< width at which lines are broken
     QVector<Line> lines;
@@ -34,6 +46,6 @@ struct Typesetting
     bool isFor(double otherRoom) const;
 };
 
-Typesetting typeset(const QString &text, bool isBold, bool hasManyLines, double room);
+Typesetting typeset(const QString &text, const LetterForm &form, bool hasManyLines, double room);
 
 } // namespace declared

@@ -4,6 +4,7 @@
 Usage: test_atspi.py BOARD [TEST...]. Starts a display and a session bus of its own; needs neither a desktop nor a user.
 """
 
+import json
 import os
 import re
 import shutil
@@ -18,6 +19,9 @@ PATIENCE = 600
 # Between two looks.
 PAUSE = 0.05
 INSIDE = "GLIOLOLOK_ATSPI_INSIDE"
+# Symbols of keys.
+PAGE_UP = 0xFF55
+PAGE_DOWN = 0xFF56
 
 
 def with_display(work):
@@ -70,13 +74,14 @@ def run_outside(arguments):
         shutil.rmtree(home, ignore_errors=True)
 
 
-class TestBoard(unittest.TestCase):
+class BoardCase(unittest.TestCase):
+    """A running board, which a class starts with arguments of its own."""
+
     program = ""
 
     @classmethod
-    def setUpClass(cls):
-        cls.board = subprocess.Popen([cls.program, "--demo", "--language", "en"])
-        cls.page = cls.waited(cls.found_page)
+    def start(cls, *arguments):
+        cls.board = subprocess.Popen([cls.program, "--language", "en", *arguments])
 
     @classmethod
     def tearDownClass(cls):
@@ -103,8 +108,19 @@ class TestBoard(unittest.TestCase):
     def found_page(cls):
         for application in children(pyatspi.Registry.getDesktop(0)):
             if application.name == "gliololok-board":
-                return below(application, lambda item: item.getRole() == pyatspi.ROLE_CANVAS)
+                return below(application, cls.is_page)
         return None
+
+    @staticmethod
+    def is_page(item):
+        return item.getRole() == pyatspi.ROLE_CANVAS
+
+
+class TestBoard(BoardCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.start("--demo")
+        cls.page = cls.waited(cls.found_page)
 
     def objects(self):
         return [item for item in children(self.page) if item.getRole() == pyatspi.ROLE_IMAGE]
@@ -166,6 +182,44 @@ class TestBoard(unittest.TestCase):
         self.waited(is_selected)
 
 
+class TestPresentedFile(BoardCase):
+    """`--present FILE`."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory()
+        file = os.path.join(cls.folder.name, "lesson.board.json")
+        pages = [{"page": number, "width": 640, "height": 360, "objectCount": 0, "objects": []} for number in (1, 2)]
+        with open(file, "w", encoding="utf-8") as out:
+            json.dump({"format": "gliololok board", "version": 1, "pageCount": 2, "pages": pages}, out)
+        cls.start("--present", file)
+        cls.page = cls.waited(cls.found_page)
+
+    @classmethod
+    def tearDownClass(cls):
+        super().tearDownClass()
+        cls.folder.cleanup()
+
+    @staticmethod
+    def is_page(item):
+        """The one over the screen, as large as it gets without a window manager. The window's has bars around it."""
+        if not BoardCase.is_page(item):
+            return False
+        place = item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return place.x == 0 and place.y == 0
+
+    def test_keys_of_clickers_turn_the_pages_of_the_file(self):
+        self.assertEqual(self.page.name, "Page 1 of 2, 0 objects")
+        for key, name in ((PAGE_DOWN, "Page 2 of 2, 0 objects"), (PAGE_UP, "Page 1 of 2, 0 objects")):
+            pyatspi.Registry.generateKeyboardEvent(key, None, pyatspi.KEY_SYM)
+
+            def is_turned(expected=name):
+                self.page.clear_cache()
+                return self.page.name == expected
+
+            self.waited(is_turned)
+
+
 def children(item):
     return [child for child in (item[i] for i in range(item.childCount)) if child]
 
@@ -191,5 +245,5 @@ if __name__ == "__main__":
         sys.exit(run_outside(sys.argv[1:]))
     import pyatspi
 
-    TestBoard.program = sys.argv.pop(1)
+    BoardCase.program = sys.argv.pop(1)
     unittest.main(verbosity=2)

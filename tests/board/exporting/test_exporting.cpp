@@ -175,6 +175,7 @@ private Q_SLOTS:
     void oneFileIsReplacedOnlyWhenTheUserAgrees();
     void allPagesGoIntoOnePdf();
     void selectedObjectsGoAlone();
+    void pointsOfASelectedShapeAreInNoPicture();
     void theSelectionIsOfferedFirst();
     void nothingSelectedCannotBeExported();
     void widthAndPercentFollowEachOther();
@@ -376,6 +377,30 @@ void TestExporting::selectedObjectsGoAlone()
     QVERIFY2(qAbs(picture.width() - 100) <= 4 && qAbs(picture.height() - 60) <= 4,
              qPrintable(QString("%1 x %2").arg(picture.width()).arg(picture.height())));
     QVERIFY(picture.hasAlphaChannel());
+}
+
+void TestExporting::pointsOfASelectedShapeAreInNoPicture()
+{
+    ExportDesk t;
+    t.board.draw(rectangle, {100, 100}, {300, 220});
+    QCOMPARE(t.board.selection().size(), 1);
+    t.ask({"Selected objects", "Picture (PNG)"});
+    t.go();
+    t.type(t.path("selected.png"));
+    t.ask({"This page", "Picture (PNG)"});
+    t.go();
+    t.type(t.path("page.png"));
+    t.board.click({400, 300});
+    QVERIFY(t.board.selection().isEmpty());
+    t.ask({"This page", "Picture (PNG)"});
+    t.go();
+    t.type(t.path("unselected.png"));
+    QCOMPARE(QImage(t.path("page.png")), QImage(t.path("unselected.png")));
+    // The inside has one colour, also where the point of the corners is.
+    const QImage shape(t.path("selected.png"));
+    for (int y = 10; y < 110; ++y)
+        for (int x = 10; x < 190; ++x)
+            QCOMPARE(shape.pixelColor(x, y), shape.pixelColor(100, 60));
 }
 
 void TestExporting::theSelectionIsOfferedFirst()

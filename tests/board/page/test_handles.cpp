@@ -39,6 +39,8 @@ private Q_SLOTS:
     void cornerHandlesResize_data();
     void cornerHandlesResize();
     void escapeDuringAResizePutsItBack();
+    void shiftKeepsProportionsAtACorner_data();
+    void shiftKeepsProportionsAtACorner();
     void rotationHandleTurnsAboutTheCentre();
     void resizingATurnedShapeKeepsTheOppositeCorner();
     void mirroringIsACommand_data();
@@ -152,12 +154,40 @@ void TestHandles::escapeDuringAResizePutsItBack()
     QCOMPARE(t.board.history().count(), 1);
 }
 
+void TestHandles::shiftKeepsProportionsAtACorner_data()
+{
+    QTest::addColumn<int>("handle");
+    QTest::addColumn<QPointF>("way");
+    QTest::addColumn<QRectF>("place");
+    // 200 × 120; the axis that grows more decides.
+    QTest::newRow("across") << int(CObjAction::ACT_ResizeBottomRight) << QPointF(50, 6)
+                            << QRectF(500, 300, 250, 150);
+    QTest::newRow("down") << int(CObjAction::ACT_ResizeBottomRight) << QPointF(10, 60)
+                          << QRectF(500, 300, 300, 180);
+    QTest::newRow("top left") << int(CObjAction::ACT_ResizeTopLeft) << QPointF(-50, 0)
+                              << QRectF(450, 270, 250, 150);
+}
+
+void TestHandles::shiftKeepsProportionsAtACorner()
+{
+    QFETCH(int, handle);
+    QFETCH(QPointF, way);
+    OneShape t;
+    const QPointF pos = t.board.handle(static_cast<CObjAction::ACT_Def>(handle));
+    t.board.drag(pos, pos + way, Qt::ShiftModifier);
+    QTEST(t.place(), "place");
+    t.undo();
+    QCOMPARE(t.place(), QRectF(500, 300, 200, 120));
+}
+
 void TestHandles::rotationHandleTurnsAboutTheCentre()
 {
     OneShape t;
     const QPointF centre(600, 360);
     const QPointF pos = t.board.handle(CObjAction::ACT_Rotate);
     QCOMPARE(pos.x(), 600.0);
+    // Outside the frame.
+    QVERIFY(pos.y() < 290);
     const double radius = centre.y() - pos.y();
     t.board.drag(pos, centre + QPointF(radius, 0));
     QVERIFY(qAbs(t.shape->rotation() - 90) < 1e-6);

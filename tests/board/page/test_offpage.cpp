@@ -14,6 +14,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QToolButton>
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void barHasTheButtonOffThePageOnly();
     void groupComesBackAsOne();
     void partsOffThePageAreFaded();
+    void whatIsDraggedOffThePageComesBackByOneClick();
 };
 
 void TestOffPage::objectComesBackOntoThePage_data()
@@ -124,6 +127,34 @@ void TestOffPage::partsOffThePageAreFaded()
     QVERIFY(qAbs(faded.red() - (0.4 * 255 + 0.6 * desk.red())) <= 2);
     QVERIFY(qAbs(faded.green() - 0.6 * desk.green()) <= 2);
     QVERIFY(qAbs(faded.blue() - 0.6 * desk.blue()) <= 2);
+}
+
+void TestOffPage::whatIsDraggedOffThePageComesBackByOneClick()
+{
+    BoardDriver board;
+    CBaseObject *object = board.draw(rectangle, {100, 300}, {300, 400});
+    pagehost::setFill({object}, QColor(255, 0, 0));
+    board.window().panel()->setOpen(false);
+    QCoreApplication::processEvents();
+    const auto colorAt = [&](const QPointF &pos) {
+        return board.view().viewport()->grab().toImage().pixelColor(board.view().mapFromScene(pos));
+    };
+    board.drag({280, 380}, {130, 380});
+    QCOMPARE(board.placeOf(object), QRectF(-50, 300, 200, 100));
+    QCOMPARE(colorAt({20, 350}), QColor(255, 0, 0));
+    QVERIFY(colorAt({-20, 350}) != QColor(255, 0, 0));
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    for (QToolButton *button : support::listed(board.view().findChildren<QToolButton *>())) {
+        if (button->isVisible() && button->text() == QLatin1String("Bring back")) {
+            board.clickOn(button);
+            break;
+        }
+    }
+    QCOMPARE(board.placeOf(object), QRectF(0, 300, 200, 100));
+    QCOMPARE(colorAt({20, 350}), QColor(255, 0, 0));
+    board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(board.placeOf(object), QRectF(-50, 300, 200, 100));
 }
 
 QTEST_MAIN(TestOffPage)

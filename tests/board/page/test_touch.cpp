@@ -163,6 +163,7 @@ private Q_SLOTS:
     void aFingerWritesWithThePen();
     void aFingerSelectsAndMovesShapes();
     void aDoubleTapIsADoubleClick();
+    void aFingerTakesAGripFromFurtherAwayThanTheMouse();
     void aFingerMovesThePageWhereThereIsAPen();
     void fingersDrawTooWhenTheMenuSaysSo();
     void twoFingersPullThePage();
@@ -211,6 +212,8 @@ void TestTouch::aDoubleTapIsADoubleClick()
 {
     Desk desk;
     CBaseObject *table = desk.draw(QStringLiteral("shapes.table"), {500, 300}, {680, 390});
+    // A real mouse has made each of its presses a single one.
+    QApplication::setDoubleClickInterval(400);
     const QPointF cell = table->mapToScene(board::labelsOf(*table).constFirst().box.center());
     desk.tap(cell);
     support::pass(QApplication::doubleClickInterval());
@@ -219,6 +222,23 @@ void TestTouch::aDoubleTapIsADoubleClick()
     support::pass(QApplication::doubleClickInterval() - 1);
     desk.tap(cell + QPointF(2, 0));
     QVERIFY(desk.view().isWriting());
+}
+
+/// Targets are 44 pixels wide for fingers and 24 for mice.
+void TestTouch::aFingerTakesAGripFromFurtherAwayThanTheMouse()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(rectangle, {400, 200}, {600, 320});
+    const QPointF beside = desk.handle(CObjAction::ACT_ResizeBottomRight) + QPointF(20, 0);
+    desk.drag(beside, beside + QPointF(40, 30));
+    QCOMPARE(desk.placeOf(shape), QRectF(400, 200, 240, 150));
+    desk.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.placeOf(shape), QRectF(400, 200, 200, 120));
+    desk.BoardDriver::drag(beside, beside + QPointF(40, 30));
+    QCOMPARE(desk.placeOf(shape), QRectF(400, 200, 200, 120));
+    desk.page().select({shape});
+    desk.BoardDriver::drag(beside - QPointF(10, 0), beside + QPointF(30, 30));
+    QCOMPARE(desk.placeOf(shape), QRectF(400, 200, 240, 150));
 }
 
 void TestTouch::aFingerMovesThePageWhereThereIsAPen()

@@ -3,6 +3,8 @@
 #include <board/boarddriver.h>
 
 #include <core/selecting.h>
+#include <look/contrast.h>
+#include <look/theme.h>
 #include <panels/outlinepanel.h>
 #include <panels/outlinetree.h>
 #include <panels/settings/settingspanel.h>
@@ -12,6 +14,7 @@
 
 #include <framework/cbaseobject.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollBar>
@@ -68,7 +71,9 @@ struct Outline
     }
     void click(QTreeWidgetItem *item, OutlineTree::Column column = OutlineTree::NameColumn) const
     {
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place(item, column));
+        const QPoint pos = place(item, column);
+        board.user().press(tree->viewport(), pos, Qt::NoModifier);
+        board.user().release(tree->viewport(), pos, Qt::NoModifier);
         settle();
     }
     QTreeWidgetItem *row(int index) const { return tree->topLevelItem(index); }
@@ -110,6 +115,7 @@ class TestOutline : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { board::applyTheme(board::Theme::Light); }
     void topmostObjectComesFirstAndGroupsHoldTheirMembers();
     void rowOfAGroupSelectsItsObjects();
     void rowOfAMemberSelectsItAloneAndEntersItsGroup();
@@ -120,12 +126,15 @@ private Q_SLOTS:
     void namesOfGroupsAndTheirKind();
     void nameStandsInThePanelsHead();
     void droppedRowChangesOrderAndGroup();
+    void draggedRowGoesWhereItIsDropped();
     void spaceBarPressesTheEye();
     void pressedRowStaysWhileThePanelFollows();
     void rowOfTheSelectedObjectIsScrolledTo();
     void topmostOfSeveralSelectedRowsIsScrolledTo();
     void rowsStayWhereTheyAreWhenNothingElseIsSelected();
     void foldedGroupOpensForItsSelectedMember();
+    void eyeAndLockStandOutFromTheirRow_data();
+    void eyeAndLockStandOutFromTheirRow();
 };
 
 void TestOutline::topmostObjectComesFirstAndGroupsHoldTheirMembers()
@@ -231,6 +240,23 @@ void TestOutline::droppedRowChangesOrderAndGroup()
     QCOMPARE(t.board.history().count(), 1);
 }
 
+/// Offscreen there is no drag and drop: there the tree tells of a drop as it does after one.
+void TestOutline::draggedRowGoesWhereItIsDropped()
+{
+    Outline t;
+    t.click(t.row(2));
+    const QPoint from = t.place(t.row(2), OutlineTree::NameColumn);
+    const QPoint aboveAll(from.x(), t.tree->visualItemRect(t.row(0)).top() + 1);
+    if (!t.board.user().dragAndDrop(t.tree->viewport(), from, aboveAll))
+        Q_EMIT t.tree->rowsDropped(nullptr, t.row(0));
+    t.settle();
+    QCOMPARE(t.board.page().objects(), (Objects{t.shapes[1], t.shapes[2], t.shapes[3], t.shapes[0]}));
+    QCOMPARE(t.rows(), (QStringList{"Rounded rectangle", "Rounded rectangle", "Group (2)"}));
+    QCOMPARE(t.board.history().count(), 1);
+    t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(t.board.page().objects(), t.shapes);
+}
+
 void TestOutline::spaceBarPressesTheEye()
 {
     Outline t;
@@ -303,6 +329,47 @@ void TestOutline::foldedGroupOpensForItsSelectedMember()
     // It stays open when the rows are made anew.
     t.click(t.row(0), OutlineTree::EyeColumn);
     QVERIFY(t.row(1)->isExpanded());
+}
+
+void TestOutline::eyeAndLockStandOutFromTheirRow_data()
+{
+    QTest::addColumn<int>("theme");
+    QTest::newRow("light") << int(board::Theme::Light);
+    QTest::newRow("dark") << int(board::Theme::Dark);
+    QTest::newRow("high contrast") << int(board::Theme::HighContrast);
+}
+
+void TestOutline::eyeAndLockStandOutFromTheirRow()
+{
+    QFETCH(int, theme);
+    const Outline t;
+    board::applyTheme(board::Theme(theme));
+    // Of pixels in the picture of a row's button, so large that lines cover some of them wholly.
+    const auto countOf = [&](QTreeWidgetItem *row, OutlineTree::Column column, const QColor &color) {
+        const QRect line = t.tree->visualItemRect(row);
+        const QRect cell(t.tree->columnViewportPosition(column), line.top(), t.tree->columnWidth(column),
+                         line.height());
+        constexpr int magnified = 4;
+        QImage picture(cell.size() * magnified, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        painter.scale(magnified, magnified);
+        t.tree->viewport()->render(&painter, QPoint(), cell);
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                count += picture.pixelColor(x, y) == color ? 1 : 0;
+        return count;
+    };
+    t.click(t.row(0));
+    const board::ThemeColors colors = board::themeColors();
+    for (const OutlineTree::Column column : {OutlineTree::EyeColumn, OutlineTree::LockColumn}) {
+        QVERIFY(countOf(t.row(0), column, colors.accent) > 1000);
+        QVERIFY(countOf(t.row(0), column, colors.onAccent) > 100);
+        QVERIFY(countOf(t.row(2), column, colors.bar) > 1000);
+        QVERIFY(countOf(t.row(2), column, colors.text) > 100);
+    }
+    QVERIFY(board::contrastOf(colors.onAccent, colors.accent) >= 3);
+    QVERIFY(board::contrastOf(colors.text, colors.bar) >= 3);
 }
 
 QTEST_MAIN(TestOutline)

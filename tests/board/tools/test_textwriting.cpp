@@ -62,6 +62,7 @@ private Q_SLOTS:
     void init() { QSettings().clear(); }
     void aClickAndKeysMakeAText();
     void lettersAreSetInASectionOfThePanel();
+    void lettersOfAllFiguresAreSetInTheSameSection();
     void theTextAndItsObjectAreOneStep();
     void aTextThatStaysEmptyVanishesWithoutATrace();
     void aTextThatIsEmptiedVanishesInOneStep();
@@ -120,6 +121,29 @@ void TestTextWriting::lettersAreSetInASectionOfThePanel()
     desk.page().select({box});
     QCoreApplication::processEvents();
     QVERIFY(!letters());
+}
+
+void TestTextWriting::lettersOfAllFiguresAreSetInTheSameSection()
+{
+    Desk desk;
+    desk.window().raisePanel(desk.window().settings());
+    const auto letters = [&desk] {
+        QStringList names;
+        for (const auto *panel : support::listed(desk.window().findChildren<board::SettingsPanel *>()))
+            if (panel->isVisible() && panel != desk.window().settings())
+                for (const QWidget *editor : support::listed(panel->findChildren<QWidget *>()))
+                    if (!editor->accessibleName().isEmpty() && editor->isVisible())
+                        names.append(editor->accessibleName());
+        return names;
+    };
+    for (const char *kind : {"shapes.table", "shapes.numberline", "shapes.clock"}) {
+        desk.page().select({desk.draw(QLatin1String(kind), {300, 200}, {600, 400})});
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        for (const char *name : {"Font size", "Bold", "Italic", "Underlined", "Text colour"})
+            QVERIFY2(letters().contains(QLatin1String(name)),
+                     qPrintable(QLatin1String(kind) + letters().join(';')));
+    }
 }
 
 void TestTextWriting::theTextAndItsObjectAreOneStep()

@@ -25,10 +25,15 @@
 
 #include <QtCore/QSettings>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QSlider>
 #include <QtWidgets/QToolButton>
 
 using board::Command;
@@ -79,6 +84,36 @@ struct Desk : BoardDriver
     }
 };
 
+#define VERIFY_NONE(texts)                                                                                         \
+    do {                                                                                                           \
+        const QStringList found = texts;                                                                           \
+        QVERIFY2(found.isEmpty(), qPrintable(found.join('\n')));                                                   \
+    } while (false)
+
+/// Visible controls that are narrower or lower than this, as texts.
+QStringList controlsBelow(int least, const QWidget &window)
+{
+    QStringList small;
+    for (const auto *control : support::listed(window.findChildren<QWidget *>())) {
+        const bool isControl = qobject_cast<const QAbstractButton *>(control) ||
+                               qobject_cast<const QComboBox *>(control) ||
+                               qobject_cast<const QAbstractSpinBox *>(control) ||
+                               qobject_cast<const QLineEdit *>(control) || qobject_cast<const QSlider *>(control);
+        // Fields are parts of boxes, which have their height.
+        const bool isPart = qobject_cast<const QAbstractSpinBox *>(control->parentWidget()) ||
+                            qobject_cast<const QComboBox *>(control->parentWidget()) ||
+                            qobject_cast<const QLineEdit *>(control->parentWidget());
+        if (isControl && !isPart && control->isVisible() && qMin(control->width(), control->height()) < least)
+            small.append(QStringLiteral("%1 “%2” in %3: %4 × %5")
+                             .arg(QLatin1String(control->metaObject()->className()), control->toolTip(),
+                                  QLatin1String(control->parentWidget()->metaObject()->className()))
+                             .arg(control->width())
+                             .arg(control->height()));
+    }
+    small.removeDuplicates();
+    return small;
+}
+
 void addSizeRows()
 {
     QTest::addColumn<bool>("large");
@@ -113,6 +148,8 @@ private Q_SLOTS:
     void rowsGrowWhileTheyAreShown();
     void lettersGrowAndShrinkAgain();
     void handlesOnThePage();
+    void everyControlCanBeHit_data() { addSizeRows(); }
+    void everyControlCanBeHit();
 };
 
 void TestLargeSizes::initTestCase()
@@ -263,6 +300,36 @@ void TestLargeSizes::handlesOnThePage()
     desk.window().setLargeTools(true);
     desk.window().commands()->action(Command::AddPage)->trigger();
     QVERIFY(desk.scene().hasLargeHandles());
+}
+
+/// By mice and by fingers.
+void TestLargeSizes::everyControlCanBeHit()
+{
+    QFETCH(bool, large);
+    const int least = large ? 44 : 24;
+    Desk desk(large);
+    board::MainWindow &window = desk.window();
+    const auto run = [&window](Command command) { window.commands()->action(command)->trigger(); };
+    run(Command::PageStrip);
+    run(Command::Record);
+    run(Command::FindText);
+    QCoreApplication::processEvents();
+    const auto small = [&] {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return controlsBelow(least, window);
+    };
+    VERIFY_NONE(small());
+    window.raisePanel(window.findChild<board::OutlinePanel *>());
+    VERIFY_NONE(small());
+    window.raisePanel(window.findChild<board::HistoryPanel *>());
+    VERIFY_NONE(small());
+    run(Command::Shapes);
+    VERIFY_NONE(small());
+    window.panel()->setOpen(false);
+    VERIFY_NONE(small());
+    run(Command::Record);
+    run(Command::PageStrip);
 }
 
 QTEST_MAIN(TestLargeSizes)

@@ -54,8 +54,8 @@ namespace {
 constexpr QSize windowSize(1366, 768);
 /// Without a desktop, letters are larger than any desktop's.
 constexpr double fontPoints = 9.5;
-/// Parts that have just opened are laid out first, then fill themselves.
-constexpr int turnsOfLayouts = 3;
+/// Parts that have just opened are laid out first, then fill themselves, and scroll where they are too high.
+constexpr int turnsOfLayouts = 6;
 
 } // namespace
 

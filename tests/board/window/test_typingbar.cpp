@@ -1,6 +1,7 @@
 // The bar beside a text that is being written: what it shows, what it changes, and that the text keeps the keys.
 
 #include <board/boarddriver.h>
+#include <board/panelobject.h>
 
 #include <core/toolchoice.h>
 #include <look/theme.h>
@@ -136,6 +137,20 @@ struct Writing
     board::TypingBar *bar = board.window().findChild<board::TypingBar *>();
 };
 
+/// With a text, and with settings that have nothing to do with it.
+class LabelledObject : public PanelObject
+{
+public:
+    bool GetSpecialProperty(int id, QDataStream &out) override
+    {
+        if (id != pagehost::LabelPlaces)
+            return PanelObject::GetSpecialProperty(id, out);
+        out << qint32(1) << qint32(textId) << text << QRectF(0, 0, 80, 60) << 12.0 << false << true
+            << QColor(Qt::black) << qint32(Qt::AlignCenter);
+        return true;
+    }
+};
+
 } // namespace
 
 class TestTypingBar : public QObject
@@ -183,6 +198,7 @@ private Q_SLOTS:
     void emptyTextWithALookVanishesWithoutATrace();
     void lookOfAnOlderTextIsAStepOfItsOwn();
     void labelWithoutSettingsHasNoBar();
+    void lettersOfOneCellAreThoseOfAllCells();
 };
 
 void TestTypingBar::barShowsWhileATextIsWritten()
@@ -630,12 +646,45 @@ void TestTypingBar::labelWithoutSettingsHasNoBar()
 {
     Writing t;
     t.end();
-    CBaseObject *clock = t.board.draw("shapes.clock", {300, 200}, {500, 400});
-    QVERIFY(clock);
-    t.board.page().select({clock});
+    auto *object = new LabelledObject;
+    t.board.page().addObject(object);
+    t.board.page().select({object});
     QVERIFY(t.board.view().writeFirstLabel());
     support::deliverEvents();
+    QVERIFY(t.editor());
     QVERIFY(!t.bar->isVisible());
+    t.end();
+}
+
+void TestTypingBar::lettersOfOneCellAreThoseOfAllCells()
+{
+    Writing t;
+    t.end();
+    CBaseObject *table = t.board.draw("shapes.table", {300, 200}, {480, 320});
+    t.board.history().clear();
+    const auto cell = [&](int index) { return board::labelsOf(*table).at(index); };
+    t.board.doubleClick(table->mapToScene(cell(4).box.center()));
+    support::deliverEvents();
+    t.type("Sum");
+    QVERIFY(t.bar->isVisible());
+    QCOMPARE(t.control("Font size")->text(), QString("12"));
+    t.board.keyIn(t.editor(), Qt::Key_B, Qt::ControlModifier);
+    t.press("Italic");
+    t.choose("Font size", "16");
+    QVERIFY(t.editor()->font().bold() && t.editor()->font().italic());
+    t.end();
+    for (int index = 0; index < 12; ++index) {
+        QVERIFY(cell(index).isBold);
+        QCOMPARE(cell(index).fontSize, 16.0);
+    }
+    QCOMPARE(cell(4).text, QString("Sum"));
+    // Bold, italic, size and the text.
+    QCOMPARE(t.board.history().count(), 4);
+    for (int step = 0; step < 4; ++step)
+        t.board.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(cell(4).text, QString());
+    QVERIFY(!cell(4).isBold);
+    QCOMPARE(cell(4).fontSize, 12.0);
 }
 
 QTEST_MAIN(TestTypingBar)
