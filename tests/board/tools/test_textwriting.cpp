@@ -70,6 +70,7 @@ private Q_SLOTS:
     void theEditorGrowsWithTheText();
     void aTextThatIsWrittenHasNoGrips();
     void theEditorStaysWithinItsText();
+    void theFirstLetterIsWhole();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -220,6 +221,27 @@ void TestTextWriting::theEditorStaysWithinItsText()
     QVERIFY(!covered.isEmpty());
     QVERIFY(covered.boundingRect().right() < end);
     QVERIFY(desk.editor()->geometry().right() > end);
+}
+
+/// While they are written, and whatever comes next.
+void TestTextWriting::theFirstLetterIsWhole()
+{
+    Desk desk;
+    desk.view().setZoom(0.93);
+    const auto start = [&desk] {
+        QTextCursor cursor(desk.editor()->document());
+        return desk.editor()->viewport()->mapToParent(desk.editor()->cursorRect(cursor).topLeft()) +
+               desk.editor()->pos();
+    };
+    const auto corner = [&desk] {
+        return desk.view().mapFromScene(desk.placeOf(desk.page().objects().constFirst()).topLeft());
+    };
+    desk.click({500, 300});
+    QVERIFY((start() - corner()).manhattanLength() <= 2);
+    desk.type("Light");
+    QVERIFY((start() - corner()).manhattanLength() <= 2);
+    const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
+    QVERIFY(covered.boundingRect().left() <= start().x() + 1);
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()
