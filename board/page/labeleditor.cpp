@@ -175,7 +175,16 @@ void LabelEditor::takePlace(double furtherRoom)
     setGeometry(place);
     clearMask();
     if (furtherRoom > 0)
-        setMask(frameInView().adjusted(1, 1, -1, -1).translated(-pos()) & rect());
+        setMask((QRegion(frameInView().adjusted(1, 1, -1, -1).translated(-pos())) | lettersAtCorner()) & rect());
+}
+
+/// On the screen, letters may be a little larger than their box.
+QRect LabelEditor::lettersAtCorner() const
+{
+    if (viewportMargins().isNull())
+        return {};
+    const QSizeF size(document()->idealWidth() + cursorWidth(), document()->size().height());
+    return {viewport()->pos(), size.toSize()};
 }
 
 CBaseObject *LabelEditor::object() const
