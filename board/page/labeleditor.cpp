@@ -158,19 +158,33 @@ QRect LabelEditor::frameInView() const
 }
 
 /// A label of a turned object is written upright, about its middle. Room for a further letter at its end covers
-/// nothing.
+/// nothing. Letters that begin at a corner of their box stand where the object has them.
 void LabelEditor::takePlace(double furtherRoom)
 {
     const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
     const QRectF box = m_label.box.adjusted(0, 0, furtherRoom, 0);
     const QPoint middle = m_view->mapFromScene(m_object->mapToScene(box.center()));
     const QSize size = (box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
-    QRect place(QPoint(), size.expandedTo({smallestWidth, font().pixelSize() + 2 * margin + 4}));
+    const QSize least(smallestWidth, font().pixelSize() + 2 * margin + 4);
+    const bool isAtCorner = (m_label.alignment & Qt::AlignLeft) && (m_label.alignment & Qt::AlignTop);
+    QRect place(QPoint(), isAtCorner ? size : size.expandedTo(least));
     place.moveCenter(middle);
+    if (isAtCorner)
+        place.setSize(size.expandedTo(least) + QSize(margin, margin));
+    setViewportMargins(isAtCorner ? margin : 0, isAtCorner ? margin : 0, 0, 0);
     setGeometry(place);
     clearMask();
     if (furtherRoom > 0)
-        setMask(frameInView().adjusted(1, 1, -1, -1).translated(-pos()) & rect());
+        setMask((QRegion(frameInView().adjusted(1, 1, -1, -1).translated(-pos())) | lettersAtCorner()) & rect());
+}
+
+/// On the screen, letters may be a little larger than their box.
+QRect LabelEditor::lettersAtCorner() const
+{
+    if (viewportMargins().isNull())
+        return {};
+    const QSizeF size(document()->idealWidth() + cursorWidth(), document()->size().height());
+    return {viewport()->pos(), size.toSize()};
 }
 
 CBaseObject *LabelEditor::object() const

@@ -99,6 +99,7 @@ private:
     void type(const QString &text, bool record);
     void releaseObject();
     QRect frameInView() const;
+    QRect lettersAtCorner() const;
     void takePlace(double furtherRoom = 0);
     void followLabel();
 

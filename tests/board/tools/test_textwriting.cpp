@@ -71,6 +71,8 @@ private Q_SLOTS:
     void theEditorGrowsWithTheText();
     void aTextThatIsWrittenHasNoGrips();
     void theEditorStaysWithinItsText();
+    void lettersAreWholeAndInTheirPlace_data();
+    void lettersAreWholeAndInTheirPlace();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -242,8 +244,43 @@ void TestTextWriting::theEditorStaysWithinItsText()
     const int end = desk.view().mapFromScene(desk.placeOf(text).bottomRight()).x();
     const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
     QVERIFY(!covered.isEmpty());
-    QVERIFY(covered.boundingRect().right() < end);
-    QVERIFY(desk.editor()->geometry().right() > end);
+    const board::LabelEditor &editor = *desk.editor();
+    // Beside the letters there is the cursor.
+    const int letters = QFontMetrics(editor.font()).horizontalAdvance("Light") + editor.cursorWidth();
+    const int start = editor.x() + editor.viewport()->x();
+    QVERIFY(covered.boundingRect().right() <= qMax(end, start + letters));
+    QVERIFY(editor.geometry().right() > end + editor.fontMetrics().averageCharWidth());
+}
+
+void TestTextWriting::lettersAreWholeAndInTheirPlace_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("93 %") << 0.93;
+    QTest::newRow("57 %, where they are larger than their box") << 0.57;
+}
+
+void TestTextWriting::lettersAreWholeAndInTheirPlace()
+{
+    QFETCH(double, zoom);
+    Desk desk;
+    desk.view().setZoom(zoom);
+    const auto start = [&desk] {
+        QTextCursor cursor(desk.editor()->document());
+        return desk.editor()->viewport()->mapToParent(desk.editor()->cursorRect(cursor).topLeft()) +
+               desk.editor()->pos();
+    };
+    const auto corner = [&desk] {
+        return desk.view().mapFromScene(desk.placeOf(desk.page().objects().constFirst()).topLeft());
+    };
+    desk.click({500, 300});
+    QVERIFY((start() - corner()).manhattanLength() <= 2);
+    desk.type("Light");
+    QVERIFY((start() - corner()).manhattanLength() <= 2);
+    const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
+    QVERIFY(covered.boundingRect().left() <= start().x() + 1);
+    const QFontMetrics letters(desk.editor()->font());
+    QVERIFY(covered.contains(
+        QRect(start() + QPoint(1, 1), QSize(letters.horizontalAdvance("Light"), letters.height() - 1))));
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()
