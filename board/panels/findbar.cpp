@@ -136,13 +136,12 @@ SearchOptions FindBar::options() const
 void FindBar::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape) {
+    if (event->key() == Qt::Key_Escape)
         Q_EMIT closeWanted();
-    } else if (isReturn && m_sought->hasFocus()) {
+    else if (isReturn && m_sought->hasFocus())
         event->modifiers() & Qt::ShiftModifier ? Q_EMIT previousWanted() : Q_EMIT nextWanted();
-    } else {
+    else
         QWidget::keyPressEvent(event);
-    }
 }
 
 /// A line below the bar.
