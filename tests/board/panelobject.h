@@ -41,7 +41,7 @@ public:
     PanelObject()
         : CBaseObject(1, true, nullptr, nullptr)
     {
-        CPSRootObject::setSize(QSizeF(80, 60), false, false);
+        CBaseObject::setSize(QSizeF(80, 60), false, false);
         attributeIds = {wholeId, realId, switchId, textId, colorId, dataId, lockedId};
     }
 

@@ -83,7 +83,7 @@ QImage paintedWithoutFigures(const ShapeDriver &shape)
             node->setAttribute(QStringLiteral("display"), QStringLiteral("none"));
         }
     }
-    const QImage picture = shape.painted();
+    QImage picture = shape.painted();
     for (const auto &[node, display] : hidden)
         node->setAttribute(QStringLiteral("display"), display);
     return picture;

@@ -166,7 +166,8 @@ QRectF DeclaredShape::paintedArea()
     if (!document || document->viewBox().isEmpty())
         return area;
     const QTransform toObject = stretching(document->viewBox(), owner->getClientRect());
-    for (const QZeSvgStructureNode *group : m_figure.repeatedGroups())
+    const QVector<QZeSvgStructureNode *> groups = m_figure.repeatedGroups();
+    for (const QZeSvgStructureNode *group : groups)
         area |= toObject.mapRect(paintedBoundsOf(*group));
     return area;
 }
@@ -507,7 +508,8 @@ void DeclaredShape::draw()
     LabelRounds rounds(m_labels, m_state);
     m_figure.write(*document, m_state, rounds);
     m_labels.draw(*document, m_state);
-    for (const Message &note : m_state.takeNotes())
+    const QVector<Message> notes = m_state.takeNotes();
+    for (const Message &note : notes)
         m_kind.tell(note);
 }
 

@@ -13,6 +13,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <support/listed.h>
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QUndoStack>
 
@@ -45,7 +47,7 @@ struct Teacher : BoardDriver
     {
         const QByteArray saved = pagehost::encodeDocument(*workspace().document(), pagehost::DocumentFormat::Json);
         QStringList lines = QString::fromUtf8(saved).split('\n');
-        for (CBaseObject *object : selection())
+        for (CBaseObject *object : support::listed(selection()))
             lines.append(QStringLiteral("%1 is selected").arg(page().objects().indexOf(object)));
         lines.append(QStringLiteral("step %1 of %2, next \"%3\"")
                          .arg(history().index())

@@ -67,6 +67,7 @@ class TestGrouping : public QObject
 
 private Q_SLOTS:
     void keysGroupAndUngroup();
+    void groupsAreNestedAndOpenedLevelByLevel();
     void groupingNeedsTwo();
     void clickTakesTheGroup();
     void doubleClickGoesInAndEscapeComesOut();
@@ -115,6 +116,32 @@ void TestGrouping::keysGroupAndUngroup()
     QCOMPARE(board.page().grouping().groups().size(), 1);
     board.key(Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(board.page().grouping().groups().isEmpty());
+}
+
+void TestGrouping::groupsAreNestedAndOpenedLevelByLevel()
+{
+    Grouped t;
+    t.board.click(t.middle(1));
+    t.board.click(t.middle(2), Qt::ShiftModifier);
+    t.board.key(Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(t.groupCount(), 2);
+    t.board.key(Qt::Key_Escape);
+    t.board.click(t.middle(0));
+    QCOMPARE(t.board.selection(), t.shapes);
+    t.doubleClick(0);
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
+    t.doubleClick(0);
+    QCOMPARE(t.board.selection(), t.pick({0}));
+    t.board.key(Qt::Key_Escape);
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
+    t.board.key(Qt::Key_Escape);
+    QCOMPARE(t.board.selection(), t.shapes);
+    t.board.key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(t.groupCount(), 1);
+    t.board.click(t.middle(2));
+    QCOMPARE(t.board.selection(), t.pick({2}));
+    t.board.click(t.middle(0));
+    QCOMPARE(t.board.selection(), t.pick({0, 1}));
 }
 
 void TestGrouping::groupingNeedsTwo()

@@ -263,7 +263,7 @@ void TestLetters::lettersThatNobodySetAreNotSaved()
     const Shape t;
     const QByteArray before = bytesOf(t.object());
     QVERIFY(savedLabels(t.object()).isEmpty());
-    const QString size = letterControls(t.shape())["idFontSize"].value(QLatin1String("value")).toString();
+    const QString size = letterControls(t.shape()).value("idFontSize").value(QLatin1String("value")).toString();
     t.answer(everything);
     const QColor given = Shape().shape().core()->labelPlaces().constFirst().color;
     t.answer(QStringLiteral(R"({"idFontSize": "%1", "idBold": "false", "idItalic": "false",
@@ -371,7 +371,7 @@ void TestLetters::sizeOutOfBoundsIsTheNearestOne()
 {
     const Shape t(QStringLiteral("table"));
     const auto size = [&t] {
-        return letterControls(t.shape())["idFontSize"].value(QLatin1String("value")).toString();
+        return letterControls(t.shape()).value("idFontSize").value(QLatin1String("value")).toString();
     };
     t.answer(QStringLiteral(R"({"idFontSize": "1"})"));
     QCOMPARE(size(), QStringLiteral("2"));
@@ -407,7 +407,8 @@ void TestLetters::partsHaveTitles()
     const pagehost::TextTable english = t.plugin()->texts(QStringLiteral("en"));
     const pagehost::TextTable german = t.plugin()->texts(QStringLiteral("de"));
     QStringList titles;
-    for (const QJsonObject &control : letterControls(t.shape())) {
+    const QMap<QString, QJsonObject> controls = letterControls(t.shape());
+    for (const QJsonObject &control : controls) {
         const QString key = control.value(QLatin1String("title")).toString();
         titles.append(english.value(key) + QLatin1Char('/') + german.value(key));
     }
