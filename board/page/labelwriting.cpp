@@ -29,6 +29,14 @@ bool LabelWriting::writeAt(const QPoint &pos)
     return false;
 }
 
+bool LabelWriting::isFree(const QPoint &pos) const
+{
+    if (!m_view->isEditable() || !m_view->page()->rect().contains(m_view->mapToScene(pos)))
+        return false;
+    CBaseObject *object = objectAt(pos);
+    return !object || object->isLocked() || labelsOf(*object).isEmpty();
+}
+
 /// The topmost one, or the selected one around it; handles and other aids are none.
 CBaseObject *LabelWriting::objectAt(const QPoint &pos) const
 {

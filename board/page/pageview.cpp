@@ -356,7 +356,13 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
         return;
     if (doubleClicked && !usesTool &&
         (event->pos() - *doubleClicked).manhattanLength() < QApplication::startDragDistance())
-        m_writing->writeAt(event->pos());
+        writeAt(event->pos());
+}
+
+void PageView::writeAt(const QPoint &pos)
+{
+    if (!m_writing->writeAt(pos) && m_writing->isFree(pos))
+        Q_EMIT textWanted(mapToScene(pos));
 }
 
 bool PageView::isWriting() const

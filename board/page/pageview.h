@@ -94,6 +94,8 @@ Q_SIGNALS:
     /// The user has ended writing a text of an object; null for one that is gone. `madeStep` unless the text has
     /// stayed as it was.
     void writingEnded(CBaseObject *object, bool madeStep);
+    /// A double click where no label is, and where a text may begin; scene coordinates.
+    void textWanted(const QPointF &scenePos);
     /// The Esc key was pressed while a tool waited.
     void toolGivenUp();
     /// The pen's button is held, or its other end is used; or no longer.
@@ -157,6 +159,7 @@ private:
     void applyZoom(double rate);
     void updateSceneArea();
     void showFitted();
+    void writeAt(const QPoint &pos);
 
     QPointer<pagehost::Page> m_page;
     std::function<bool(const QMimeData &)> m_dropTest;

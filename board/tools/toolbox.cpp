@@ -58,6 +58,7 @@ Toolbox::Toolbox(const Workspace *workspace, PageView *view, ToolChoice *choice,
     });
     connect(view, &PageView::pageShown, this, &Toolbox::takeUp);
     connect(view, &PageView::toolGivenUp, this, [this] { m_choice->choose(Tool::Select); });
+    connect(view, &PageView::textWanted, this, &Toolbox::typeAt);
     connect(view, &PageView::writingEnded, this, &Toolbox::removeIfEmpty);
     connect(settings, &ToolSettings::changed, this, &Toolbox::applySettings);
     takeUp();
@@ -118,6 +119,20 @@ void Toolbox::followUp()
     if (result->afterwards != pagehost::ToolPage::Write || !m_view->writeFirstLabel(true))
         return;
     m_new = result->objects.value(0);
+}
+
+/// As a click with the text tool does.
+void Toolbox::typeAt(const QPointF &pos)
+{
+    m_choice->choose(Tool::Text);
+    if (!m_tool || m_inHand != Tool::Text)
+        return;
+    pagehost::ToolPointer pointer;
+    pointer.pos = pos;
+    pointer.pixel = 1 / m_view->zoom();
+    m_tool->press(pointer);
+    m_tool->release(pointer);
+    followUp();
 }
 
 /// A new object leaves no trace. Another one comes back with its text when its removal is undone.

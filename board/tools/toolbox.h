@@ -34,6 +34,7 @@ private:
     void putDown();
     void applySettings();
     void followUp();
+    void typeAt(const QPointF &pos);
     void removeIfEmpty(CBaseObject *object, bool madeStep);
 
     const Workspace *m_workspace;

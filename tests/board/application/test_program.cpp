@@ -95,7 +95,7 @@ void TestProgram::picturesOfAllSituationsAreMadeByOneCommand()
         run({"--language", "en", "--screenshot", target, "--screenshot-state", "all"}, "offscreen");
     QCOMPARE(outcome.code, 0);
     const QStringList names = QDir(target).entryList({"*.png"});
-    QCOMPARE(names.size(), 25);
+    QCOMPARE(names.size(), 26);
     const auto sizeOf = [&](const QString &name) { return QImage(QDir(target).filePath(name)).size(); };
     QCOMPARE(sizeOf("01-first-start.png"), QSize(1366, 768));
     QCOMPARE(sizeOf("15-1024x600.png"), QSize(1024, 600));

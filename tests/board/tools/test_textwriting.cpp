@@ -9,6 +9,7 @@
 #include <tools/toolsettings.h>
 #include <window/mainwindow.h>
 
+#include <pagehost/commands.h>
 #include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -63,6 +64,11 @@ private Q_SLOTS:
     void aClickAndKeysMakeAText();
     void lettersAreSetInASectionOfThePanel();
     void lettersOfAllFiguresAreSetInTheSameSection();
+    void aDoubleClickOnTheEmptyPageTypesThere();
+    void aDoubleClickOnAShapeWithoutTextTypesOnIt();
+    void aDoubleClickOnALockedShapeTypesOnIt();
+    void aDoubleClickBesideThePageTypesNothing();
+    void aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace();
     void theTextAndItsObjectAreOneStep();
     void aTextThatStaysEmptyVanishesWithoutATrace();
     void aTextThatIsEmptiedVanishesInOneStep();
@@ -146,6 +152,74 @@ void TestTextWriting::lettersOfAllFiguresAreSetInTheSameSection()
             QVERIFY2(letters().contains(QLatin1String(name)),
                      qPrintable(QLatin1String(kind) + letters().join(';')));
     }
+}
+
+void TestTextWriting::aDoubleClickOnTheEmptyPageTypesThere()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("by the tool");
+    desk.end();
+    desk.tools().choose(Tool::Select);
+    desk.doubleClick({500, 500});
+    QVERIFY(desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Select);
+    desk.type("by the tool");
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 2);
+    QCOMPARE(desk.written(1), QString("by the tool"));
+    // Where a click with the tool would have put it.
+    QCOMPARE(desk.placeOf(desk.page().objects().at(1)),
+             desk.placeOf(desk.page().objects().at(0)).translated(0, 200));
+    QCOMPARE(desk.selection(), desk.page().objects().mid(1));
+}
+
+void TestTextWriting::aDoubleClickOnAShapeWithoutTextTypesOnIt()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
+    desk.doubleClick({400, 300});
+    desk.type("Base area");
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 2);
+    QCOMPARE(desk.page().objects().first(), shape);
+    QCOMPARE(desk.written(1), QString("Base area"));
+    QVERIFY(desk.placeOf(shape).contains(desk.placeOf(desk.page().objects().at(1))));
+}
+
+/// Such as the page of a worksheet.
+void TestTextWriting::aDoubleClickOnALockedShapeTypesOnIt()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
+    pagehost::setObjectsLocked({shape}, true);
+    desk.page().select({});
+    desk.doubleClick({400, 300});
+    QVERIFY(desk.editor());
+    desk.type("x");
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 2);
+}
+
+void TestTextWriting::aDoubleClickBesideThePageTypesNothing()
+{
+    Desk desk;
+    desk.tools().choose(Tool::Select);
+    desk.doubleClick({-4, 300});
+    QVERIFY(!desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Select);
+    desk.doubleClick({4, 300});
+    QVERIFY(desk.editor());
+}
+
+void TestTextWriting::aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace()
+{
+    Desk desk;
+    desk.tools().choose(Tool::Select);
+    desk.doubleClick({500, 300});
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 0);
+    QCOMPARE(desk.history().count(), 0);
 }
 
 void TestTextWriting::theTextAndItsObjectAreOneStep()

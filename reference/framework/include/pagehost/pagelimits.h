@@ -6,8 +6,9 @@
 
 namespace pagehost {
 
-/// Sides of pages, scene units. Others count as damage in files.
+/// The shortest side of a page, scene units. Shorter ones count as damage in files.
 constexpr double smallestPageSide = 1;
+/// The longest side of a page, scene units.
 constexpr double largestPageSide = 100000;
 
 /// False for sizes that are not finite, too.
