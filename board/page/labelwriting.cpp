@@ -34,7 +34,7 @@ bool LabelWriting::isFree(const QPoint &pos) const
     if (!m_view->isEditable() || !m_view->page()->rect().contains(m_view->mapToScene(pos)))
         return false;
     CBaseObject *object = objectAt(pos);
-    return !object || object->isLocked() || labelsOf(*object).isEmpty();
+    return !object || labelsOf(*object).isEmpty();
 }
 
 /// The topmost one, or the selected one around it; handles and other aids are none.

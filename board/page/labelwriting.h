@@ -30,8 +30,7 @@ public:
     bool writeSelected(bool isNewObject);
     /// Begins to write the label there (viewport coordinates). False where there is none.
     bool writeAt(const QPoint &pos);
-    /// Whether a new text may begin there: on the page, where no object has a label of its own. Locked objects are
-    /// passed by.
+    /// Whether a new text may begin there: on the page, where no object has a label of its own.
     bool isFree(const QPoint &pos) const;
     void end();
 

@@ -16,6 +16,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QWindow>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QPushButton>
@@ -84,8 +85,13 @@ bool activate(QWidget &window)
 {
     if (!QTest::qWaitForWindowExposed(&window, support::patience))
         return false;
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window, support::patience);
+    // A dialog that is closing may take the focus along once more.
+    const auto isActive = [&window] {
+        if (!window.windowHandle()->isActive())
+            window.activateWindow();
+        return window.windowHandle()->isActive();
+    };
+    return QTest::qWaitFor(isActive, support::patience);
 }
 
 BoardDriver::BoardDriver(const QString &language)

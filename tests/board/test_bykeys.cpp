@@ -49,7 +49,10 @@ struct KeyTeacher
         // A dialog that is done goes first.
         QVERIFY(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }, support::patience));
         QVERIFY(boardtest::activate(*view->window()));
+        // Without a window manager nobody may tell the application.
+        QApplication::setActiveWindow(view->window());
         view->setFocus();
+        QVERIFY(QTest::qWaitFor([view] { return view->hasFocus(); }, support::patience));
         listen();
     }
     /// A dialog gets the keys when the window system says so.
