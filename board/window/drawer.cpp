@@ -145,8 +145,8 @@ bool Drawer::isOutside(const QObject *watched) const
     const auto *widget = qobject_cast<const QWidget *>(watched);
     if (!widget || widget->window() != window() || widget == this || isAncestorOf(widget))
         return false;
-    return std::none_of(m_openers.begin(), m_openers.end(), [widget](const QWidget *opener) {
-        return widget == opener || opener->isAncestorOf(widget);
+    return std::none_of(m_openers.begin(), m_openers.end(), [widget](const QPointer<QWidget> &opener) {
+        return opener && (widget == opener || opener->isAncestorOf(widget));
     });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtCore/QPointer>
+#include <QtCore/QVector>
 #include <QtWidgets/QFrame>
 
 #include <functional>
@@ -59,7 +61,8 @@ private:
     SurfaceShadow *m_shadow;
     QWidget *m_area;
     QWidget *m_slot;
-    QVector<QWidget *> m_openers;
+    /// Some are gone before an open drawer is, which still looks for presses.
+    QVector<QPointer<QWidget>> m_openers;
     std::function<QRect(const QSize &)> m_place;
     QWidget *m_heir = nullptr;
     QVBoxLayout *m_column;

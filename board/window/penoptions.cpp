@@ -206,7 +206,7 @@ QWidget *PenOptions::makeBoxes()
 void PenOptions::showSettings()
 {
     const QVector<PenLook> pens = m_settings->pens(m_tool);
-    const double widest = m_settings->widths(m_tool).last();
+    const double widest = m_width->maximum();
     for (int i = 0; i < pens.size(); ++i) {
         m_pens.at(i)->setStroke(pens.at(i).color, 1 + (widestStroke - 1) * pens.at(i).width / widest);
         m_pens.at(i)->setChecked(i == m_settings->pen(m_tool));

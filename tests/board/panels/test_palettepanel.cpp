@@ -13,8 +13,6 @@
 
 #include <pagehost/page.h>
 
-#include <support/listed.h>
-
 #include <QtCore/QPointer>
 #include <QtGui/QDrag>
 #include <QtGui/QFontMetrics>
@@ -202,8 +200,9 @@ void TestPalettePanel::bestHitStandsFirstAndIsDrawn()
 void TestPalettePanel::groupOfTheBestHitStandsFirst()
 {
     const Searching t("angle");
-    QCOMPARE(t.names().first(), QString("Angle"));
-    QVERIFY(t.names().contains("Triangle"));
+    const QStringList names = t.names();
+    QCOMPARE(names.first(), QString("Angle"));
+    QVERIFY(names.contains("Triangle"));
 }
 
 void TestPalettePanel::wordsOfAnyLanguageFindAShape()
