@@ -85,13 +85,15 @@ bool activate(QWidget &window)
 {
     if (!QTest::qWaitForWindowExposed(&window, support::patience))
         return false;
+    // A window counts as active while a dialog over it is.
+    window.activateWindow();
     // A dialog that is closing may take the focus along once more.
     const auto isActive = [&window] {
         if (!window.windowHandle()->isActive())
             window.activateWindow();
         return window.windowHandle()->isActive();
     };
-    return QTest::qWaitFor(isActive, support::patience);
+    return QTest::qWaitFor(isActive, support::patience) && QTest::qWaitForWindowActive(&window, support::patience);
 }
 
 BoardDriver::BoardDriver(const QString &language)
