@@ -9,6 +9,7 @@
 #include "presenting/pagepictures.h"
 #include "presenting/presentingbar.h"
 #include "presenting/stage.h"
+#include "presenting/twinaction.h"
 
 #include <QtCore/QTime>
 #include <QtGui/QPainter>
@@ -172,10 +173,7 @@ void PresenterWindow::fitBar()
 /// Gives the page the room of the pages, the next one and the time.
 QAction *PresenterWindow::makePagesSwitch(const Commands &commands)
 {
-    const QAction *strip = commands.action(Command::PageStrip);
-    auto *action = new QAction(strip->text(), this);
-    action->setToolTip(strip->toolTip());
-    action->setShortcuts(strip->shortcuts());
+    QAction *action = makeTwin(*commands.action(Command::PageStrip), this);
     action->setCheckable(true);
     action->setChecked(true);
     addAction(action);

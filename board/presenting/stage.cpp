@@ -7,6 +7,7 @@
 #include "page/pageview.h"
 #include "presenting/curtain.h"
 #include "presenting/laserpointer.h"
+#include "presenting/twinaction.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
@@ -46,10 +47,7 @@ Stage::Stage(const Workspace *workspace, Commands *commands, ToolChoice *tools, 
 /// The commands' own actions zoom the page behind.
 template<typename Slot> QAction *Stage::addZoom(Command command, Slot slot)
 {
-    const QAction *original = m_commands->action(command);
-    auto *action = new QAction(original->text(), this);
-    action->setToolTip(original->toolTip());
-    action->setShortcuts(original->shortcuts());
+    QAction *action = makeTwin(*m_commands->action(command), this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, slot);
     addAction(action);
