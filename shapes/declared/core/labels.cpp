@@ -16,6 +16,10 @@
 
 namespace declared {
 
+using shapekit::LabelLayout;
+using shapekit::LabelLine;
+using shapekit::LabelLook;
+
 namespace {
 
 /// Coordinates of letters are whole multiples of 1 / this.

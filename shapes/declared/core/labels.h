@@ -1,11 +1,11 @@
 #pragma once
 
 #include <declared/core/figure.h>
-#include <declared/core/labellayout.h>
 #include <declared/core/labeltitles.h>
 #include <declared/core/letterstyle.h>
 #include <declared/core/shapestate.h>
 
+#include <shapekit/labellayout.h>
 #include <shapekit/property.h>
 #include <shapekit/styledshape.h>
 
@@ -72,8 +72,8 @@ private:
         QString givenText; ///< of a round: until the user writes another one
         QRectF box;        ///< null while it has none
         QColor colour;
-        LabelLook look;
-        LabelLayout layout; ///< for that look
+        shapekit::LabelLook look;
+        shapekit::LabelLayout layout; ///< for that look
         QPointF corner;
         QString path; ///< of the layout, with that corner; empty before it is drawn
     };
@@ -99,7 +99,7 @@ private:
     static void readLabel(Label &label, const QJsonObject &saved);
     static void readRounds(Label &label, const QJsonObject &labels);
     void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
-    LabelLook lookOf(const Label &label, const QString &text, QSizeF box) const;
+    shapekit::LabelLook lookOf(const Label &label, const QString &text, QSizeF box) const;
     /// None where a side is not finite.
     std::optional<QRectF> boxOf(const Label &label, ShapeState &state) const;
     void layOutWriting(const Label &label, Writing &writing, const QRectF &box) const;

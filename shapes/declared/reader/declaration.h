@@ -2,6 +2,8 @@
 
 #include <declared/expressions/compiler.h>
 
+#include <shapekit/labellayout.h>
+
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
 #include <QtCore/QSizeF>
@@ -148,7 +150,7 @@ struct RepeatDeclaration
     QVector<qint32> inputs;
 };
 
-enum class LabelAlignment { Start, Middle, End };
+using shapekit::LabelAlignment;
 
 /// A text in a box that the user writes.
 struct LabelDeclaration

@@ -2,6 +2,8 @@
 
 #include <declared/expressions/limits.h>
 
+#include <shapekit/typesetting.h>
+
 namespace declared::limits {
 
 /// @name One file
@@ -26,7 +28,7 @@ constexpr int textCharacters = 10000;
 /// @{
 constexpr int repeatedElements = 1000;
 /// Of one text that is drawn as outlines.
-constexpr int drawnLetters = 1000;
+constexpr int drawnLetters = shapekit::Typesetting::mostLetters;
 /// @}
 
 } // namespace declared::limits

@@ -5,7 +5,6 @@
 #include <checklist/recordedactions.h>
 #include <shapes/shapedriver.h>
 
-#include <declared/core/labellayout.h>
 #include <declared/core/shapekind.h>
 
 #include <pagehost/objectplugin.h>
@@ -28,23 +27,6 @@ const QByteArray cloud = "<path id='figure' fill='#fff' d='M0 0H120V80H0Z' shape
                          "<text id='label_1' x='60' y='44' font-size='10' text-anchor='middle' fill='#334455' "
                          "shape:box='10; 20; w - 20; h - 40' shape:title='Caption'>Hello</text>";
 
-LabelLook lookOf(const QString &text)
-{
-    LabelLook look;
-    look.text = text;
-    look.box = {100, 50};
-    look.size = 10;
-    return look;
-}
-
-QStringList textsOf(const LabelLayout &layout)
-{
-    QStringList texts;
-    for (const LabelLine &line : layout.lines)
-        texts.append(line.text);
-    return texts;
-}
-
 QByteArray bytesOf(CSVGObj &object)
 {
     QByteArray bytes;
@@ -60,18 +42,6 @@ class TestLabels : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textStandsInTheMiddleOfItsBox();
-    void textStandsAtTheSideItIsAlignedTo_data();
-    void textStandsAtTheSideItIsAlignedTo();
-    void longTextIsBrokenAtTheBox();
-    void lineBreaksAreKept();
-    void textThatFitsGetsAsLargeAsItMay();
-    void textOfOneLineHasOneLine();
-    void textStandsAlikeInWhicheverBoxItStoodBefore_data();
-    void textStandsAlikeInWhicheverBoxItStoodBefore();
-    void boldLettersAreWider();
-    void arabicBeginsAtTheRight();
-    void chineseIsBrokenBetweenSigns();
     void labelIsDrawnInItsBox();
     void labelFollowsTheSize();
     void panelOffersTextAndLook();
@@ -104,147 +74,6 @@ private:
 
     const ShapeKind m_kind{declaredtest::readOf(declaredtest::fileOf(cloud))};
 };
-
-void TestLabels::textStandsInTheMiddleOfItsBox()
-{
-    const LabelLayout layout = layOut(lookOf(QStringLiteral("Hello")));
-    QCOMPARE(textsOf(layout), QStringList({QStringLiteral("Hello")}));
-    QCOMPARE(layout.size, 10.0);
-    QCOMPARE(layout.lines.first().anchor.x(), 50.0);
-    const QRectF letters = layout.outline.boundingRect();
-    QVERIFY(qAbs(letters.center().x() - 50) < 1);
-    QVERIFY(qAbs(letters.center().y() - 25) < 2);
-    QVERIFY(letters.height() > 6 && letters.height() < 10);
-}
-
-void TestLabels::textStandsAtTheSideItIsAlignedTo_data()
-{
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<int>("vertical");
-    QTest::newRow("top left") << int(LabelAlignment::Start) << int(LabelAlignment::Start);
-    QTest::newRow("bottom right") << int(LabelAlignment::End) << int(LabelAlignment::End);
-}
-
-void TestLabels::textStandsAtTheSideItIsAlignedTo()
-{
-    QFETCH(int, alignment);
-    QFETCH(int, vertical);
-    LabelLook look = lookOf(QStringLiteral("Hello"));
-    look.alignment = LabelAlignment(alignment);
-    look.vertical = LabelAlignment(vertical);
-    const LabelLayout layout = layOut(look);
-    const QRectF letters = layout.outline.boundingRect();
-    const bool isStart = look.alignment == LabelAlignment::Start;
-    QCOMPARE(layout.lines.first().anchor.x(), isStart ? 0.0 : 100.0);
-    QVERIFY(isStart ? letters.left() >= 0 && letters.left() < 2 : letters.right() <= 100 && letters.right() > 98);
-    QVERIFY(isStart ? letters.bottom() < 14 : letters.top() > 36);
-}
-
-void TestLabels::longTextIsBrokenAtTheBox()
-{
-    LabelLook look = lookOf(QStringLiteral("The quick brown fox jumps over the lazy dog"));
-    const LabelLayout broken = layOut(look);
-    QVERIFY(broken.lines.size() >= 2);
-    QCOMPARE(textsOf(broken).join(QLatin1Char(' ')), look.text);
-    QVERIFY(broken.outline.boundingRect().width() <= 100);
-    look.hasManyLines = false;
-    QCOMPARE(textsOf(layOut(look)), QStringList({look.text}));
-}
-
-void TestLabels::lineBreaksAreKept()
-{
-    const LabelLayout layout = layOut(lookOf(QStringLiteral("one\ntwo")));
-    QCOMPARE(textsOf(layout), QStringList({QStringLiteral("one"), QStringLiteral("two")}));
-    QVERIFY(layout.lines.at(1).anchor.y() > layout.lines.at(0).anchor.y() + 8);
-}
-
-void TestLabels::textThatFitsGetsAsLargeAsItMay()
-{
-    LabelLook look = lookOf(QStringLiteral("A"));
-    look.size = 30;
-    look.smallest = 6;
-    QCOMPARE(layOut(look).size, 30.0);
-    look.text = QStringLiteral("The quick brown fox jumps over the lazy dog and sleeps");
-    const LabelLayout smaller = layOut(look);
-    QVERIFY(smaller.size > 6 && smaller.size < 30);
-    const QRectF letters = smaller.outline.boundingRect();
-    QVERIFY(QRectF(0, 0, 100, 50).contains(letters));
-    look.text = QString(QStringLiteral("many words ")).repeated(80);
-    QCOMPARE(layOut(look).size, 6.0);
-}
-
-void TestLabels::textOfOneLineHasOneLine()
-{
-    LabelLook look = lookOf(QStringLiteral("one\ntwo"));
-    look.hasManyLines = false;
-    QCOMPARE(textsOf(layOut(look)), QStringList({QStringLiteral("one two")}));
-}
-
-void TestLabels::textStandsAlikeInWhicheverBoxItStoodBefore_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("hasManyLines");
-    QTest::addColumn<double>("smallest");
-    QTest::newRow("a word") << QStringLiteral("Radius") << true << 0.0;
-    QTest::newRow("a word that gets smaller") << QStringLiteral("Radius") << true << 4.0;
-    QTest::newRow("one line") << QStringLiteral("12.5 and more") << false << 4.0;
-    QTest::newRow("many words") << QStringLiteral("The quick brown fox jumps\nover the dog") << true << 0.0;
-    QTest::newRow("many words that get smaller") << QStringLiteral("The quick brown fox\njumps ") << true << 4.0;
-    QTest::newRow("Arabic") << QString::fromUtf8("مرحبا بالعالم") << true << 4.0;
-}
-
-void TestLabels::textStandsAlikeInWhicheverBoxItStoodBefore()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, hasManyLines);
-    QFETCH(double, smallest);
-    LabelLook look = lookOf(text);
-    look.hasManyLines = hasManyLines;
-    look.smallest = smallest;
-    LabelLayout before;
-    for (const double width : {100.0, 20.0, 60.0, 61.0, 240.0, 5.0, 36.0}) {
-        look.box.setWidth(width);
-        const LabelLayout fresh = layOut(look);
-        before = layOut(look, before.letters);
-        QCOMPARE(before.size, fresh.size);
-        QCOMPARE(textsOf(before), textsOf(fresh));
-        QCOMPARE(before.outline, fresh.outline);
-    }
-    look.isBold = true;
-    QCOMPARE(layOut(look, before.letters).outline, layOut(look).outline);
-    look.text += QLatin1Char('.');
-    QCOMPARE(layOut(look, before.letters).outline, layOut(look).outline);
-}
-
-void TestLabels::boldLettersAreWider()
-{
-    LabelLook look = lookOf(QStringLiteral("Hello"));
-    const double plain = layOut(look).outline.boundingRect().width();
-    look.isBold = true;
-    QVERIFY(layOut(look).outline.boundingRect().width() > plain);
-}
-
-void TestLabels::arabicBeginsAtTheRight()
-{
-    LabelLook look = lookOf(QString::fromUtf8("مرحبا بالعالم"));
-    look.alignment = LabelAlignment::Start;
-    const LabelLayout layout = layOut(look);
-    QCOMPARE(layout.lines.size(), 1);
-    QVERIFY(layout.lines.first().isRightToLeft);
-    QCOMPARE(layout.lines.first().anchor.x(), 100.0);
-    QVERIFY(layout.outline.boundingRect().right() > 96);
-    look.alignment = LabelAlignment::End;
-    QVERIFY(layOut(look).outline.boundingRect().left() < 4);
-}
-
-void TestLabels::chineseIsBrokenBetweenSigns()
-{
-    // Long enough for every font, one without these signs included.
-    LabelLook look = lookOf(QString::fromUtf8("三角形的内角和等于一百八十度").repeated(4));
-    const LabelLayout layout = layOut(look);
-    QVERIFY(layout.lines.size() >= 2);
-    QCOMPARE(textsOf(layout).join(QString()), look.text);
-}
 
 void TestLabels::labelIsDrawnInItsBox()
 {

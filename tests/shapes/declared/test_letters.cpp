@@ -5,10 +5,10 @@
 #include <checklist/recordedactions.h>
 #include <shapes/shapedriver.h>
 
-#include <declared/core/labellayout.h>
 #include <declared/core/letterstyle.h>
 #include <declared/core/shapekind.h>
 
+#include <shapekit/labellayout.h>
 #include <shapekit/shapeobject.h>
 
 #include <framework/cundoredo.h>
@@ -22,6 +22,8 @@ using namespace declared;
 
 namespace {
 
+using shapekit::LabelLayout;
+using shapekit::LabelLook;
 using shapekit::LabelPlace;
 using shapekit::ShapeObject;
 

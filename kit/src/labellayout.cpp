@@ -1,12 +1,10 @@
-#include <declared/core/labellayout.h>
-
-#include <declared/reader/filelimits.h>
+#include <shapekit/labellayout.h>
 
 #include <QtGui/QTransform>
 
 #include <algorithm>
 
-namespace declared {
+namespace shapekit {
 
 namespace {
 
@@ -22,7 +20,7 @@ double scaleOf(double size)
 /// The letters for a size of the font: those that are known, where they would come out again.
 Typesetting lettersFor(const LabelLook &look, double size, const Typesetting &known)
 {
-    const QString text = look.text.left(limits::drawnLetters);
+    const QString text = look.text.left(Typesetting::mostLetters);
     const double room = std::max(narrowest, look.box.width() / scaleOf(size));
     const LetterForm form{look.isBold, look.isItalic, look.isUnderlined};
     const bool isSame = known.text == text && known.form == form && known.hasManyLines == look.hasManyLines;
@@ -80,6 +78,13 @@ LabelLayout placed(const Typesetting &letters, const LabelLook &look, double siz
 
 } // namespace
 
+Qt::Alignment LabelLook::flags() const
+{
+    static constexpr Qt::AlignmentFlag across[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+    static constexpr Qt::AlignmentFlag downwards[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
+    return across[int(alignment)] | downwards[int(vertical)];
+}
+
 bool LabelLook::operator==(const LabelLook &other) const
 {
     return text == other.text && box.width() == other.box.width() && box.height() == other.box.height() &&
@@ -108,4 +113,4 @@ LabelLayout layOut(const LabelLook &look, const Typesetting &known)
     return placed(lettersFor(look, size, letters), look, size);
 }
 
-} // namespace declared
+} // namespace shapekit

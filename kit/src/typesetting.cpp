@@ -1,4 +1,4 @@
-#include <declared/core/typesetting.h>
+#include <shapekit/typesetting.h>
 
 #include <QtGui/QFont>
 #include <QtGui/QFontMetricsF>
@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace declared {
+namespace shapekit {
 
 namespace {
 
@@ -126,4 +126,4 @@ Typesetting typeset(const QString &text, const LetterForm &form, bool hasManyLin
     return setting;
 }
 
-} // namespace declared
+} // namespace shapekit
