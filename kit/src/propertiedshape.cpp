@@ -4,8 +4,10 @@
 #include <svgobj/csvgobj.h>
 
 #include <QtCore/QDataStream>
+#include <QtCore/QIODevice>
 
 #include <algorithm>
+#include <iterator>
 
 namespace shapekit {
 
@@ -15,6 +17,37 @@ constexpr int firstPropertyId = 5101;
 constexpr int firstActionId = 1101;
 /// No shape has more; a larger count in a stream means damage.
 constexpr qint32 mostProperties = 64;
+/// In front of the further value of a shape without properties, whose data had ended there before: what follows in
+/// the stream may be the host's.
+constexpr int markSize = 8;
+constexpr char furtherMark[markSize + 1] = "\x89SVGmore";
+
+QByteArray markedValue(QDataStream &in)
+{
+    QByteArray value;
+    if (!in.device() || in.device()->peek(markSize) != furtherMark)
+        return value;
+    in.skipRawData(markSize);
+    in >> value;
+    return value;
+}
+
+/// Returns the value behind those of the properties.
+QByteArray loadInOrder(const QVector<Property *> &properties, QDataStream &in)
+{
+    qint32 count = 0;
+    in >> count;
+    QByteArray further;
+    for (int i = 0; i < qMin(count, mostProperties) && in.status() == QDataStream::Ok; ++i) {
+        QByteArray bytes;
+        in >> bytes;
+        if (i < properties.size())
+            properties.at(i)->setBytes(bytes);
+        else if (i == properties.size())
+            further = bytes;
+    }
+    return further;
+}
 
 } // namespace
 
@@ -27,11 +60,13 @@ bool PropertiedShape::save(QDataStream &out)
 
 void PropertiedShape::saveValues(QDataStream &out)
 {
-    if (m_properties.isEmpty())
-        return;
+    const QVector<Property *> properties = savedProperties();
     const QByteArray further = furtherValue();
-    out << qint32(m_properties.size() + (further.isEmpty() ? 0 : 1));
-    for (const Property *property : qAsConst(m_properties))
+    if (properties.isEmpty() && !further.isEmpty())
+        out.writeRawData(furtherMark, markSize);
+    if (!properties.isEmpty())
+        out << qint32(properties.size() + (further.isEmpty() ? 0 : 1));
+    for (const Property *property : properties)
         out << property->bytes();
     if (!further.isEmpty())
         out << further;
@@ -48,23 +83,12 @@ void PropertiedShape::loadValues(QDataStream &in)
 {
     if (m_properties.isEmpty())
         return;
+    const QVector<Property *> properties = savedProperties();
     // A shape may have had no properties in earlier versions.
-    if (in.atEnd()) {
-        propertyChanged(nullptr);
-        return;
-    }
-    qint32 count = 0;
-    in >> count;
-    QByteArray further;
-    for (int i = 0; i < qMin(count, mostProperties) && in.status() == QDataStream::Ok; ++i) {
-        QByteArray bytes;
-        in >> bytes;
-        if (i < m_properties.size())
-            m_properties.at(i)->setBytes(bytes);
-        else if (i == m_properties.size())
-            further = bytes;
-    }
-    takeFurtherValue(further);
+    if (properties.isEmpty())
+        takeFurtherValue(markedValue(in));
+    else if (!in.atEnd())
+        takeFurtherValue(loadInOrder(properties, in));
     propertyChanged(nullptr);
 }
 
@@ -77,7 +101,8 @@ bool PropertiedShape::saveJson(QJsonObject &object)
 
 void PropertiedShape::saveValues(QJsonObject &object)
 {
-    for (const Property *property : qAsConst(m_properties))
+    const QVector<Property *> properties = savedProperties();
+    for (const Property *property : properties)
         object[property->jsonKey()] = property->toJson();
 }
 
@@ -90,7 +115,8 @@ bool PropertiedShape::loadJson(QJsonObject &object)
 
 void PropertiedShape::loadValues(const QJsonObject &object)
 {
-    for (Property *property : qAsConst(m_properties))
+    const QVector<Property *> properties = savedProperties();
+    for (Property *property : properties)
         property->fromJson(object.value(property->jsonKey()));
     if (!m_properties.isEmpty())
         propertyChanged(nullptr);
@@ -194,6 +220,14 @@ double PropertiedShape::drawingScale() const
 {
     const auto *scale = dynamic_cast<const DrawingScale *>(propertyWithId(drawingScaleId));
     return scale ? double(*scale) : 1;
+}
+
+QVector<Property *> PropertiedShape::savedProperties() const
+{
+    QVector<Property *> saved;
+    std::copy_if(m_properties.cbegin(), m_properties.cend(), std::back_inserter(saved),
+                 [](const Property *property) { return !property->isSavedByShape(); });
+    return saved;
 }
 
 Property *PropertiedShape::propertyWithId(int id) const

@@ -45,7 +45,8 @@ protected:
     /// @name Values behind the data that every shape saves
     /// @{
 
-    /// Writes their count and the bytes of each; nothing without properties.
+    /// Writes their count and the bytes of each; without properties the further value alone, behind a mark, or
+    /// nothing.
     virtual void saveValues(QDataStream &out);
     /// Reads what saveValues() writes.
     virtual void loadValues(QDataStream &in);
@@ -64,6 +65,8 @@ protected:
 
 private:
     Property *propertyWithId(int id) const;
+    /// Those that aren't saved by the shape itself.
+    QVector<Property *> savedProperties() const;
 
     QVector<Property *> m_properties; ///< not owned: members of the derived class
 };

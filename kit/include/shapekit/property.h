@@ -40,6 +40,10 @@ public:
     bool isInPropertyPanel() const { return m_inPropertyPanel; }
     /// See setPanels().
     bool isInSettings() const { return m_inSettings; }
+    /// Leaves saving to the shape, which does it without PropertiedShape.
+    void leaveSavingToShape() { m_isSavedByShape = true; }
+    /// See leaveSavingToShape().
+    bool isSavedByShape() const { return m_isSavedByShape; }
     /// Localisation key of the name.
     QString nameKey() const;
     /// The texts that panels show for it.
@@ -86,6 +90,7 @@ private:
     int m_actionId;
     bool m_inPropertyPanel = true;
     bool m_inSettings = true;
+    bool m_isSavedByShape = false;
 };
 
 /// On or off.

@@ -81,11 +81,13 @@ DeclaredShape::DeclaredShape(CSVGObj *owner, const ShapeKind &kind)
     , m_declaration(kind.declaration())
     , m_state(kind.declaration())
     , m_figure(kind.declaration())
-    , m_labels(this, kind.declaration().labels, kind.labelTitles())
+    , m_labels(kind.declaration().labels)
 {
     keepAspectRatio = m_declaration.keepsAspect;
     setExternalFilled(m_declaration.type == externallyFilledType);
     addProperties(kind);
+    // Behind the others, whose ids go by their order.
+    m_labels.addProperties(this, kind.labelTitles());
 }
 
 void DeclaredShape::addProperties(const ShapeKind &kind)
@@ -533,7 +535,7 @@ QJsonObject DeclaredShape::values() const
         saved[pointsKey] = toJson(places());
     if (m_isTextInlined)
         saved[QStringLiteral("inline")] = inlined(m_declaration.text);
-    const QJsonObject labels = m_labels.toJson();
+    const QJsonObject labels = m_labels.toJson(Labels::AllSingle);
     if (!labels.isEmpty())
         saved[labelsKey] = labels;
     return saved;
@@ -594,7 +596,7 @@ void DeclaredShape::saveValues(QJsonObject &object)
         return;
     }
     Shape::saveValues(object);
-    const QJsonObject labels = m_labels.toJson();
+    const QJsonObject labels = m_labels.toJson(Labels::ChangedSingle);
     if (!labels.isEmpty())
         object[savedKey] = QJsonObject{{labelsKey, labels}};
 }
@@ -612,7 +614,7 @@ void DeclaredShape::loadValues(const QJsonObject &object)
 
 QByteArray DeclaredShape::furtherValue() const
 {
-    const QJsonObject labels = m_labels.toJson();
+    const QJsonObject labels = m_labels.toJson(Labels::ChangedSingle);
     return labels.isEmpty() ? QByteArray() : QJsonDocument(labels).toJson(QJsonDocument::Compact);
 }
 

@@ -97,82 +97,79 @@ QString anchorName(LabelAlignment alignment)
                                               : QStringLiteral("middle");
 }
 
-Qt::Alignment alignmentOf(const LabelLook &look)
+LabelLook newLook(const LabelDeclaration &declared)
 {
-    const Qt::Alignment horizontal = look.alignment == LabelAlignment::Start ? Qt::AlignLeft
-                                     : look.alignment == LabelAlignment::End ? Qt::AlignRight
-                                                                             : Qt::AlignHCenter;
-    const Qt::Alignment vertical = look.vertical == LabelAlignment::Start ? Qt::AlignTop
-                                   : look.vertical == LabelAlignment::End ? Qt::AlignBottom
-                                                                          : Qt::AlignVCenter;
-    return horizontal | vertical;
+    LabelLook look;
+    look.text = declared.text;
+    look.size = declared.size;
+    look.smallest = declared.smallest;
+    look.isBold = declared.isBold;
+    look.hasManyLines = declared.hasManyLines;
+    look.alignment = declared.alignment;
+    look.vertical = declared.vertical;
+    return look;
 }
 
 } // namespace
 
-Labels::Labels(shapekit::PropertiedShape *shape, const QVector<LabelDeclaration> &declarations,
-               const std::vector<LabelTitles> &titles)
+Labels::Labels(const QVector<LabelDeclaration> &declarations)
     : m_letters(declarations)
 {
-    for (int i = 0; i < declarations.size(); ++i) {
-        Label label;
-        label.declared = &declarations.at(i);
-        if (label.declared->repeat < 0)
-            addProperties(shape, label, titles.at(size_t(i)));
-        m_labels.push_back(std::move(label));
+    for (const LabelDeclaration &declared : declarations) {
+        m_labels.emplace_back();
+        m_labels.back().declared = &declared;
     }
+}
+
+void Labels::addProperties(shapekit::PropertiedShape *shape, const std::vector<LabelTitles> &titles)
+{
+    for (size_t i = 0; i < m_labels.size(); ++i)
+        if (m_labels.at(i).declared->repeat < 0)
+            addProperties(shape, m_labels.at(i), titles.at(i));
 }
 
 void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles)
 {
     const LabelDeclaration &declared = *label.declared;
-    label.text = std::make_unique<shapekit::TextValue>(shape, *titles.text, declared.text);
-    label.size = std::make_unique<shapekit::RealNumber>(shape, *titles.size, declared.size,
-                                                        LetterStyle::smallestFont, LetterStyle::largestFont, 1);
-    label.bold = std::make_unique<shapekit::Switch>(shape, *titles.bold, declared.isBold);
-    label.colour = std::make_unique<shapekit::ColorValue>(shape, *titles.colour, declared.colour.rgb());
-    label.alignment = std::make_unique<shapekit::Choice>(
-        shape, *titles.alignment, int(declared.alignment),
-        QVector<const shapekit::Text *>{titles.start.get(), titles.middle.get(), titles.end.get()});
-    int part = 0;
-    for (shapekit::Property *property : std::initializer_list<shapekit::Property *>{
-             label.text.get(), label.size.get(), label.bold.get(), label.colour.get(), label.alignment.get()}) {
-        property->setIds(declared.ids[size_t(part)], declared.ids[size_t(part)]);
+    const shapekit::LabelTexts texts{
+        titles.text.get(),   titles.size.get(),      titles.bold.get(),
+        titles.colour.get(), titles.alignment.get(), {titles.start.get(), titles.middle.get(), titles.end.get()}};
+    label.own = std::make_unique<shapekit::Label>(shape, texts, newLook(declared), declared.colour);
+    size_t part = 0;
+    for (shapekit::Property *property : label.own->properties()) {
+        property->setIds(declared.ids[part], declared.ids[part]);
+        property->leaveSavingToShape();
         ++part;
     }
     label.writings.resize(1);
-    label.writings.front().id = label.text->id();
+    label.writings.front().id = declared.ids.front();
 }
 
-LabelLook Labels::lookOf(const Label &label, const QString &text, QSizeF box) const
+LabelLook Labels::lookOf(const Label &label, const QString &text, const QSizeF &box) const
 {
-    LabelLook look;
+    if (label.own)
+        return label.own->look(box);
+    LabelLook look = newLook(*label.declared);
     look.text = text;
     look.box = box;
-    look.size = label.size ? double(*label.size) : m_letters.sizeOf(*label.declared);
-    look.smallest = label.declared->smallest;
-    look.isBold = label.bold ? bool(*label.bold) : m_letters.isBold(*label.declared);
-    look.isItalic = !label.text && m_letters.isItalic();
-    look.isUnderlined = !label.text && m_letters.isUnderlined();
-    look.hasManyLines = label.declared->hasManyLines;
-    look.alignment = label.alignment ? LabelAlignment(int(*label.alignment)) : label.declared->alignment;
-    look.vertical = label.declared->vertical;
+    look.size = m_letters.sizeOf(*label.declared);
+    look.isBold = m_letters.isBold(*label.declared);
+    look.isItalic = m_letters.isItalic();
+    look.isUnderlined = m_letters.isUnderlined();
     return look;
 }
 
 QColor Labels::colourOf(const Label &label, const ShapeState &state) const
 {
-    return label.colour ? QColor(*label.colour) : m_letters.colourOf(*label.declared, state.penColour());
+    return label.own ? label.own->color() : m_letters.colourOf(*label.declared, state.penColour());
 }
 
 void Labels::draw(QZeSvgTinyDocument &document, ShapeState &state)
 {
     for (Label &label : m_labels) {
-        QZeSvgNode *node = label.text ? document.namedNode(label.declared->id) : nullptr;
-        if (!node)
-            continue;
-        label.writings.front().text = *label.text;
-        drawWriting(label, label.writings.front(), *node, state);
+        QZeSvgNode *node = label.own ? document.namedNode(label.declared->id) : nullptr;
+        if (node)
+            drawWriting(label, label.writings.front(), *node, state);
     }
 }
 
@@ -228,7 +225,7 @@ std::optional<QRectF> Labels::boxOf(const Label &label, ShapeState &state) const
         sides[i] = side.number();
     }
     const QRectF box(sides[0], sides[1], std::max(0.0, sides[2]), std::max(0.0, sides[3]));
-    const bool growsAlong = !label.text && !label.declared->hasManyLines && m_letters.growth() > 1;
+    const bool growsAlong = !label.own && !label.declared->hasManyLines && m_letters.growth() > 1;
     return growsAlong ? grown(box, m_letters.growth(), label.declared->vertical) : box;
 }
 
@@ -254,7 +251,7 @@ void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node,
     writing.box = box && isShown(node) ? *box : QRectF();
     writing.colour = colourOf(label, state);
     // Empty cells of a table share their node with all tables.
-    if (writing.text.isEmpty() && node.attribute(QStringLiteral("d")).isEmpty())
+    if (writing.look.text.isEmpty() && node.attribute(QStringLiteral("d")).isEmpty())
         return;
     setAttribute(node, QStringLiteral("d"), box ? writing.path : nothing);
     setAttribute(node, QStringLiteral("fill"), writing.colour.name());
@@ -268,16 +265,8 @@ QVector<shapekit::LabelPlace> Labels::places() const
         for (const Writing &writing : label.writings) {
             if (writing.box.isNull() || writing.id == 0)
                 continue;
-            shapekit::LabelPlace place;
-            place.propertyId = writing.id;
-            place.text = writing.text;
-            place.box = writing.box;
-            place.fontSize = writing.layout.size;
-            place.isBold = writing.look.isBold;
-            place.color = writing.colour;
-            place.alignment = alignmentOf(writing.look);
-            place.hasManyLines = label.declared->hasManyLines;
-            places.append(place);
+            places.append(
+                shapekit::placeOf(writing.id, writing.look, writing.corner, writing.layout.size, writing.colour));
         }
     }
     return places;
@@ -385,28 +374,25 @@ void Labels::writeText(QXmlStreamWriter &writer, const Found &found)
 
 bool Labels::hasControl(const QString &id) const
 {
-    for (const Label &label : m_labels)
-        for (const shapekit::Property *property : std::initializer_list<const shapekit::Property *>{
-                 label.text.get(), label.size.get(), label.bold.get(), label.colour.get(), label.alignment.get()})
-            if (property && property->controlId() == id)
-                return true;
+    for (const Label &label : m_labels) {
+        if (!label.own)
+            continue;
+        const auto properties = qAsConst(*label.own).properties();
+        const auto isIt = [&id](const shapekit::Property *property) { return property->controlId() == id; };
+        if (std::any_of(properties.begin(), properties.end(), isIt))
+            return true;
+    }
     return false;
 }
 
-QJsonObject Labels::toJson() const
+QJsonObject Labels::toJson(Saved saved) const
 {
     QJsonObject labels;
     for (const Label &label : m_labels) {
         for (auto own = label.ownTexts.begin(); own != label.ownTexts.end(); ++own)
             labels[nameOfRound(*label.declared, own.key())] = QJsonObject{{QStringLiteral("text"), *own}};
-        if (!label.text)
-            continue;
-        labels[label.declared->id] =
-            QJsonObject{{QStringLiteral("text"), label.text->toJson()},
-                        {QStringLiteral("size"), label.size->toJson()},
-                        {QStringLiteral("bold"), label.bold->toJson()},
-                        {QStringLiteral("colour"), label.colour->toJson()},
-                        {QStringLiteral("align"), anchorName(LabelAlignment(int(*label.alignment)))}};
+        if (label.own && (saved == AllSingle || !label.own->isAsNew()))
+            labels[label.declared->id] = label.own->toJson();
     }
     const QJsonObject letters = m_letters.toJson();
     if (!letters.isEmpty())
@@ -421,10 +407,10 @@ void Labels::fromJson(const QJsonObject &labels)
     for (Label &label : m_labels) {
         label.ownTexts.clear();
         label.hasChanged = true;
-        if (!label.text)
-            readRounds(label, labels);
+        if (label.own)
+            label.own->fromJson(labels.value(label.declared->id).toObject());
         else
-            readLabel(label, labels.value(label.declared->id).toObject());
+            readRounds(label, labels);
     }
 }
 
@@ -436,18 +422,6 @@ void Labels::readRounds(Label &label, const QJsonObject &labels)
         if (id != 0 && text.isString())
             label.ownTexts.insert(id, text.toString().left(limits::textCharacters));
     }
-}
-
-void Labels::readLabel(Label &label, const QJsonObject &saved)
-{
-    static const QStringList alignments{QStringLiteral("start"), QStringLiteral("middle"), QStringLiteral("end")};
-    label.text->fromJson(saved.value(QLatin1String("text")));
-    label.size->fromJson(saved.value(QLatin1String("size")));
-    label.bold->fromJson(saved.value(QLatin1String("bold")));
-    label.colour->fromJson(saved.value(QLatin1String("colour")));
-    const int alignment = alignments.indexOf(saved.value(QLatin1String("align")).toString());
-    if (alignment >= 0)
-        label.alignment->fromJson(alignment);
 }
 
 } // namespace declared

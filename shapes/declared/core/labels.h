@@ -5,8 +5,7 @@
 #include <declared/core/letterstyle.h>
 #include <declared/core/shapestate.h>
 
-#include <shapekit/labellayout.h>
-#include <shapekit/property.h>
+#include <shapekit/label.h>
 #include <shapekit/styledshape.h>
 
 #include <QtCore/QJsonObject>
@@ -29,9 +28,13 @@ namespace declared {
 class Labels
 {
 public:
-    /// Registers the properties. The declarations and their titles outlive the labels.
-    Labels(shapekit::PropertiedShape *shape, const QVector<LabelDeclaration> &declarations,
-           const std::vector<LabelTitles> &titles);
+    /// Which labels that aren't repeated are saved.
+    enum Saved { AllSingle, ChangedSingle };
+
+    /// The declarations outlive the labels.
+    explicit Labels(const QVector<LabelDeclaration> &declarations);
+    /// Registers the properties, once. Their titles outlive the labels.
+    void addProperties(shapekit::PropertiedShape *shape, const std::vector<LabelTitles> &titles);
 
     /// Draws those that aren't repeated.
     void draw(QZeSvgTinyDocument &document, ShapeState &state);
@@ -58,7 +61,7 @@ public:
     /// An exported picture with text instead of outlines.
     QByteArray withTexts(const QByteArray &svg) const;
     /// By id, of repeated labels those that the user has written, under "letters" their look; empty without any.
-    QJsonObject toJson() const;
+    QJsonObject toJson(Saved saved) const;
     /// Whether a control of the settings panel sets letters of a label.
     bool hasControl(const QString &id) const;
     void fromJson(const QJsonObject &labels);
@@ -68,7 +71,7 @@ private:
     struct Writing
     {
         int id = 0; ///< of its property; 0 for a round that can't be written
-        QString text;
+        QString text;      ///< of a round
         QString givenText; ///< of a round: until the user writes another one
         QRectF box;        ///< null while it has none
         QColor colour;
@@ -80,12 +83,8 @@ private:
     struct Label
     {
         const LabelDeclaration *declared = nullptr;
-        std::unique_ptr<shapekit::TextValue> text;
-        std::unique_ptr<shapekit::RealNumber> size;
-        std::unique_ptr<shapekit::Switch> bold;
-        std::unique_ptr<shapekit::ColorValue> colour;
-        std::unique_ptr<shapekit::Choice> alignment;
-        std::vector<Writing> writings; ///< one, or one for each round
+        std::unique_ptr<shapekit::Label> own; ///< null for a repeated one
+        std::vector<Writing> writings;        ///< one, or one for each round
         size_t shownRounds = 0;
         QMap<int, QString> ownTexts; ///< of rounds, by id
         bool hasChanged = false;     ///< its rounds have to be drawn
@@ -96,10 +95,9 @@ private:
         const Writing *writing = nullptr;
     };
 
-    static void readLabel(Label &label, const QJsonObject &saved);
     static void readRounds(Label &label, const QJsonObject &labels);
-    void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
-    shapekit::LabelLook lookOf(const Label &label, const QString &text, QSizeF box) const;
+    static void addProperties(shapekit::PropertiedShape *shape, Label &label, const LabelTitles &titles);
+    shapekit::LabelLook lookOf(const Label &label, const QString &text, const QSizeF &box) const;
     /// None where a side is not finite.
     std::optional<QRectF> boxOf(const Label &label, ShapeState &state) const;
     void layOutWriting(const Label &label, Writing &writing, const QRectF &box) const;

@@ -36,11 +36,6 @@ void FileReader::readLabel(int index, int repeat, const QVector<int> &path)
 {
     const Element &element = m_elements.at(index);
     const bool isRepeated = repeat >= 0;
-    // Binary data of such a shape have a place for further values behind its properties only.
-    if (m_shape.isSuccessor() && (!isRepeated || m_shape.properties.isEmpty())) {
-        error("C51", element, QStringLiteral("a shape with a layout has repeated labels only, and properties"));
-        return;
-    }
     if (m_shape.labels.size() == limits::labels) {
         error("C17", element, QStringLiteral("a file has at most 256 labels"));
         return;

@@ -17,7 +17,6 @@ private Q_SLOTS:
     void faultsInsideStandWhereTheyAre();
     void faultsOfAboutStandWhereTheyAre_data();
     void faultsOfAboutStandWhereTheyAre();
-    void successorsHaveRepeatedLabelsOnly();
     void successorsHaveNoFormerNames();
     void messageSaysWhyANameIsRefused_data();
     void messageSaysWhyANameIsRefused();
@@ -226,17 +225,6 @@ void TestReadingFaults::faultsOfAboutStandWhereTheyAre()
 {
     QFETCH(QString, fault);
     QCOMPARE(firstError(declaredtest::fileAbout(QTest::currentDataTag(), "")), fault);
-}
-
-void TestReadingFaults::successorsHaveRepeatedLabelsOnly()
-{
-    const char *about = "name='Nut' layout='kit' type='30'";
-    const QByteArray property = "<shape:property name='a' type='whole' value='1' from='0' to='5' title='A'/>";
-    const QByteArray label = "<text id='label_1' shape:box='1; 2; 3; 4'/>";
-    const QByteArray repeated = "<g shape:repeat='i in 0..1'>" + label + "</g>";
-    QCOMPARE(firstError(declaredtest::fileAbout(about, property + label)), QStringLiteral("3:76 C51"));
-    QCOMPARE(firstError(declaredtest::fileAbout(about, repeated)), QStringLiteral("3:29 C51"));
-    QCOMPARE(firstError(declaredtest::fileAbout(about, property + repeated)), QString());
 }
 
 void TestReadingFaults::successorsHaveNoFormerNames()

@@ -29,6 +29,11 @@ const QByteArray contentOfNut =
     "shape:visible=\"face != ''\"/>"
     "<rect id='control_1' x='56' y='36' width='8' height='8' shape:range-x='8 .. w - 8' shape:range-y='h / 2'/>";
 
+/// Another one, which a user labels.
+const char *aboutPlate = "name='Plate' type='9' layout='kit' filled='page'";
+const QByteArray contentOfPlate = "<path id='figure' fill='#fff' stroke='#000' d='M0 0H120V80Z'/>";
+const QByteArray label = "<text id='label_text' shape:box='10; 10; w - 20; h - 20'/>";
+
 /// The same shape, written in C++.
 class CodedNut : public shapekit::ShapeOfType<8>
 {
@@ -45,6 +50,26 @@ private:
     shapekit::WholeNumber m_teeth{this, teethText, 5, 3, 24};
     shapekit::Choice m_face{this, faceText, 1, {&gladText, &sadText}};
 };
+
+SharedDeclaration shapeWith(const char *about, const QByteArray &content)
+{
+    return declaredtest::readOf(declaredtest::fileAbout(about, content));
+}
+
+void write(CSVGObj &object, const QString &text)
+{
+    object.SetSettingJson(
+        QStringLiteral(R"({"idDeclared_label_text": "%1", "idDeclared_label_text_size": "30"})").arg(text), false,
+        false);
+}
+
+/// Written text and size of letters.
+QString labelOf(const shapekit::ShapeObject &object)
+{
+    const QVector<shapekit::LabelPlace> places = object.core()->labelPlaces();
+    return places.size() == 1 ? QStringLiteral("%1 %2").arg(places.first().text).arg(places.first().fontSize)
+                              : QString();
+}
 
 shapekit::Kind codedKind()
 {
@@ -83,9 +108,18 @@ private Q_SLOTS:
     void propertiesHaveTheIdsOfTheirOrder();
     void controlsHaveTheIdsOfTheirTitles();
     void textsHaveTheKeysOfTheCodedShape();
+    void emptyLabelIsNotSaved();
+    void labelOfAShapeWithoutPropertiesIsSavedAndOpened();
+    void labelOfAShapeWithPropertiesIsSavedAndOpened();
+    void labelIsSavedInJson();
+    void dataFromBeforeItsLabelEmptyIt();
+    void whatFollowsAShapeWithALabelInTheStreamStays();
     void onlyInstalledFilesSucceed();
 
 private:
+    const ShapeKind m_plainPlate{shapeWith(aboutPlate, contentOfPlate)};
+    const ShapeKind m_plate{shapeWith(aboutPlate, contentOfPlate + label)};
+    const ShapeKind m_labelledNut{shapeWith(aboutNut, contentOfNut + label)};
     const ShapeKind m_declared{declaredtest::readOf(declaredtest::fileAbout(aboutNut, contentOfNut))};
     const shapekit::Kind m_coded = codedKind();
 };
@@ -164,6 +198,110 @@ void TestSuccessors::textsHaveTheKeysOfTheCodedShape()
     QCOMPARE(german.value(QStringLiteral("IDS_SHAPE_NUT")), QStringLiteral("Mutter"));
     QCOMPARE(german.value(teethText.key(&m_coded)), QStringLiteral("Zähne"));
     QCOMPARE(m_declared.texts(QStringLiteral("en")).value(sadText.key(&m_coded)), QStringLiteral("Sad"));
+}
+
+void TestSuccessors::emptyLabelIsNotSaved()
+{
+    shapekit::ShapeObject plate(m_plate.kind());
+    shapekit::ShapeObject plainPlate(m_plainPlate.kind());
+    QCOMPARE(savedBytes(plate), savedBytes(plainPlate));
+    QCOMPARE(savedJson(plate), savedJson(plainPlate));
+    shapekit::ShapeObject nut(m_labelledNut.kind());
+    shapekit::ShapeObject plainNut(m_declared.kind());
+    QCOMPARE(savedBytes(nut), savedBytes(plainNut));
+    QCOMPARE(savedJson(nut), savedJson(plainNut));
+}
+
+void TestSuccessors::labelOfAShapeWithoutPropertiesIsSavedAndOpened()
+{
+    shapekit::ShapeObject plate(m_plate.kind());
+    const QByteArray empty = savedBytes(plate);
+    write(plate, QStringLiteral("Water"));
+    QCOMPARE(labelOf(plate), QStringLiteral("Water 30"));
+    const QByteArray bytes = savedBytes(plate);
+    QVERIFY(bytes.startsWith(empty + "\x89SVGmore"));
+    shapekit::ShapeObject opened(m_plate.kind());
+    QDataStream in(bytes);
+    QVERIFY(opened.load(in));
+    QVERIFY(in.atEnd());
+    QCOMPARE(labelOf(opened), QStringLiteral("Water 30"));
+    QCOMPARE(savedBytes(opened), bytes);
+}
+
+void TestSuccessors::labelOfAShapeWithPropertiesIsSavedAndOpened()
+{
+    shapekit::ShapeObject nut(m_labelledNut.kind());
+    QCOMPARE(nut.core()->actionIdToPropId(1101), 5101);
+    nut.SetSettingJson(QStringLiteral(R"({"idToothCount": "7"})"), false, false);
+    write(nut, QStringLiteral("Steel"));
+    shapekit::ShapeObject opened(m_labelledNut.kind());
+    const QByteArray bytes = savedBytes(nut);
+    QDataStream in(bytes);
+    QVERIFY(opened.load(in));
+    QVERIFY(in.atEnd());
+    QCOMPARE(labelOf(opened), QStringLiteral("Steel 30"));
+    QCOMPARE(savedBytes(opened), bytes);
+    shapekit::ShapeObject coded(m_coded);
+    coded.SetSettingJson(QStringLiteral(R"({"idToothCount": "7"})"), false, false);
+    QDataStream again(bytes);
+    QVERIFY(coded.load(again));
+    QCOMPARE(savedJson(coded).value(QLatin1String("SVG_ToothCount")).toInt(), 7);
+}
+
+void TestSuccessors::labelIsSavedInJson()
+{
+    for (const ShapeKind *kind : {&m_plate, &m_labelledNut}) {
+        shapekit::ShapeObject shape(kind->kind());
+        write(shape, QStringLiteral("Water"));
+        QJsonObject json = savedJson(shape);
+        const QJsonObject labels =
+            json.value(QLatin1String("SVG_Declared")).toObject().value(QLatin1String("labels")).toObject();
+        QCOMPARE(labels.value(QLatin1String("label_text")).toObject().value(QLatin1String("text")).toString(),
+                 QStringLiteral("Water"));
+        shapekit::ShapeObject opened(kind->kind());
+        QVERIFY(opened.loadJson(json));
+        QCOMPARE(labelOf(opened), QStringLiteral("Water 30"));
+        QCOMPARE(savedJson(opened), json);
+    }
+}
+
+void TestSuccessors::dataFromBeforeItsLabelEmptyIt()
+{
+    for (const auto &[plain, labelled] :
+         {std::pair(&m_plainPlate, &m_plate), std::pair(&m_declared, &m_labelledNut)}) {
+        shapekit::ShapeObject old(plain->kind());
+        const QByteArray bytes = savedBytes(old);
+        QJsonObject json = savedJson(old);
+        shapekit::ShapeObject shape(labelled->kind());
+        write(shape, QStringLiteral("Water"));
+        QDataStream in(bytes);
+        QVERIFY(shape.load(in));
+        QCOMPARE(labelOf(shape), QStringLiteral(" 12"));
+        QCOMPARE(savedBytes(shape), bytes);
+        write(shape, QStringLiteral("Water"));
+        QVERIFY(shape.loadJson(json));
+        QCOMPARE(labelOf(shape), QStringLiteral(" 12"));
+    }
+}
+
+void TestSuccessors::whatFollowsAShapeWithALabelInTheStreamStays()
+{
+    for (const QString &text : {QString(), QStringLiteral("Water")}) {
+        shapekit::ShapeObject plate(m_plate.kind());
+        if (!text.isEmpty())
+            write(plate, text);
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        plate.save(out);
+        out << QStringLiteral("next");
+        QDataStream in(bytes);
+        shapekit::ShapeObject opened(m_plate.kind());
+        QVERIFY(opened.load(in));
+        QString next;
+        in >> next;
+        QCOMPARE(next, QStringLiteral("next"));
+        QCOMPARE(labelOf(opened), text.isEmpty() ? QStringLiteral(" 12") : QStringLiteral("Water 30"));
+    }
 }
 
 void TestSuccessors::onlyInstalledFilesSucceed()
