@@ -17,6 +17,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QGraphicsView>
 #include <QtWidgets/QLineEdit>
@@ -80,6 +81,7 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setLineWrapMode(label.hasManyLines ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
+    pagehost::setBeingWritten(*object, true);
     showLetters();
     document()->setDocumentMargin(0);
     setPlainText(label.text);
@@ -101,27 +103,33 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     });
     show();
     setFocus();
-    pagehost::setBeingWritten(*object, true);
 }
 
-void LabelEditor::showLetters(const LetterLook &look)
+void LabelEditor::showLetters()
 {
     const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
     const QString usual = QStringLiteral("sans-serif");
     QFont font(usual);
-    if (!look.family.isEmpty())
-        font.setFamilies({look.family, usual});
+    if (!m_look.family.isEmpty())
+        font.setFamilies({m_look.family, usual});
     font.setPixelSize(std::max(smallestFont, qRound(m_label.fontSize * zoom)));
     font.setBold(m_label.isBold);
-    font.setItalic(look.isItalic);
-    font.setUnderline(look.isUnderlined);
+    font.setItalic(m_look.isItalic);
+    font.setUnderline(m_look.isUnderlined);
     setFont(font);
-    setStyleSheet(
-        QStringLiteral("QTextEdit { color: %1; background: %2; }")
-            .arg(m_label.color.name(), m_label.color.lightness() > lightLetters ? darkPaper : lightPaper));
+    setColors();
     QTextOption option = document()->defaultTextOption();
     option.setAlignment(m_label.alignment & Qt::AlignHorizontal_Mask);
     document()->setDefaultTextOption(option);
+}
+
+void LabelEditor::setColors()
+{
+    const QString paper = m_label.color.lightness() > lightLetters ? darkPaper : lightPaper;
+    const QString colors = QStringLiteral("QTextEdit { color: %1; background: %2; }")
+                               .arg(m_label.color.name(), m_paper.isNull() ? paper : QStringLiteral("transparent"));
+    if (styleSheet() != colors)
+        setStyleSheet(colors);
 }
 
 void LabelEditor::followLook(const LetterLook &look)
@@ -135,7 +143,8 @@ void LabelEditor::followLook(const LetterLook &look)
     m_label.text = before;
     // Nothing is typed by it.
     const QSignalBlocker blocker(this);
-    showLetters(look);
+    m_look = look;
+    showLetters();
     takePlace();
 }
 
@@ -166,16 +175,60 @@ void LabelEditor::takePlace(double furtherRoom)
     const QPoint middle = m_view->mapFromScene(m_object->mapToScene(box.center()));
     const QSize size = (box.size() * zoom).toSize() + QSize(2 * margin, 2 * margin);
     const QSize least(smallestWidth, font().pixelSize() + 2 * margin + 4);
-    const bool isAtCorner = (m_label.alignment & Qt::AlignLeft) && (m_label.alignment & Qt::AlignTop);
-    QRect place(QPoint(), isAtCorner ? size : size.expandedTo(least));
+    QRect place(QPoint(), isAtCorner() ? size : size.expandedTo(least));
     place.moveCenter(middle);
-    if (isAtCorner)
+    if (isAtCorner())
         place.setSize(size.expandedTo(least) + QSize(margin, margin));
-    setViewportMargins(isAtCorner ? margin : 0, isAtCorner ? margin : 0, 0, 0);
+    setViewportMargins(isAtCorner() ? margin : 0, isAtCorner() ? margin : 0, 0, 0);
     setGeometry(place);
+    takePaper();
+    placeLines();
     clearMask();
     if (furtherRoom > 0)
         setMask((QRegion(frameInView().adjusted(1, 1, -1, -1).translated(-pos())) | lettersAtCorner()) & rect());
+}
+
+/// The view as it is behind the editor, without the letters.
+void LabelEditor::takePaper()
+{
+    m_paper = QPixmap();
+    if (!hideDrawnLetters(true))
+        return;
+    m_paper = QPixmap(size() * devicePixelRatioF());
+    m_paper.setDevicePixelRatio(devicePixelRatioF());
+    QPainter painter(&m_paper);
+    painter.setRenderHints(m_view->renderHints());
+    m_view->render(&painter, QRectF(QPointF(0, 0), size()), geometry());
+    hideDrawnLetters(false);
+    setColors();
+}
+
+bool LabelEditor::hideDrawnLetters(bool areHidden)
+{
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << (areHidden ? m_label.propertyId : 0);
+    QDataStream in(bytes);
+    return m_object->SetSpecialProperty(pagehost::HiddenLabel, in, false);
+}
+
+void LabelEditor::paintPaper()
+{
+    QPainter(this).drawPixmap(0, 0, m_paper);
+}
+
+/// Lines stand in the box as the object aligns them; on plain paper they begin at the top.
+void LabelEditor::placeLines()
+{
+    if (isAtCorner() || m_paper.isNull())
+        return;
+    const int room = std::max(0, height() - 2 * margin - qCeil(document()->size().height()));
+    const int above = m_label.alignment & Qt::AlignBottom ? room : m_label.alignment & Qt::AlignTop ? 0 : room / 2;
+    setViewportMargins(margin, margin + above, margin, 0);
+}
+
+bool LabelEditor::isAtCorner() const
+{
+    return (m_label.alignment & Qt::AlignLeft) && (m_label.alignment & Qt::AlignTop);
 }
 
 /// On the screen, letters may be a little larger than their box.
@@ -206,6 +259,12 @@ std::optional<EditableLabel> LabelEditor::presentLabel() const
 void LabelEditor::followLabel()
 {
     const std::optional<EditableLabel> present = presentLabel();
+    if (present && present->fontSize != m_label.fontSize) {
+        m_label.fontSize = present->fontSize;
+        const QSignalBlocker blocker(this);
+        showLetters();
+    }
+    placeLines();
     if (!present || present->box.size() == m_label.box.size())
         return;
     const bool isWider = present->box.width() != m_label.box.width();
@@ -342,6 +401,8 @@ bool LabelEditor::eventFilter(QObject *watched, QEvent *event)
 /// Ctrl+K is a command of the window elsewhere.
 bool LabelEditor::event(QEvent *event)
 {
+    if (event->type() == QEvent::Paint && !m_paper.isNull())
+        paintPaper();
     if (event->type() == QEvent::ShortcutOverride && mayHaveLinks() && isLinkKey(*static_cast<QKeyEvent *>(event)))
         event->accept();
     return QTextEdit::event(event);

@@ -6,6 +6,7 @@
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
 #include <QtGui/QColor>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QTextEdit>
 
 #include <optional>
@@ -41,7 +42,8 @@ struct LetterLook
 QVector<EditableLabel> labelsOf(CBaseObject &object);
 
 /// Writes a text of an object in its place on the page, with input methods. The object shows and records every
-/// letter; the end makes one step to take back.
+/// letter; the end makes one step to take back. The letters stand on the object as it looks without them, where it
+/// knows pagehost::HiddenLabel, and else on paper.
 ///
 /// Esc, Ctrl and the return key, and a click elsewhere end it; so does the return key in a text of one line. In
 /// other texts there are lists (page/listediting.h). Pasted text loses its formats but for lists, with Ctrl+Shift+V
@@ -91,7 +93,8 @@ protected:
 private:
     bool editList(const QKeyEvent &event);
     std::optional<EditableLabel> presentLabel() const;
-    void showLetters(const LetterLook &look = {});
+    void showLetters();
+    void setColors();
     void takeLink();
     void closeLinkField();
     void sendLinks(const QVector<pagehost::TextLink> &links, bool record);
@@ -101,15 +104,22 @@ private:
     QRect frameInView() const;
     QRect lettersAtCorner() const;
     void takePlace(double furtherRoom = 0);
+    bool isAtCorner() const;
+    void takePaper();
+    void placeLines();
+    bool hideDrawnLetters(bool areHidden);
+    void paintPaper();
     void followLabel();
 
     QPointer<CBaseObject> m_object;
     EditableLabel m_label;
     QGraphicsView *m_view;
+    LetterLook m_look;
     bool m_isNewObject;
     bool m_isFinished = false;
     qint32 m_linksId = 0;                      ///< the property of the links; 0 for none
     QVector<pagehost::TextLink> m_linksBefore; ///< at the beginning
+    QPixmap m_paper;                           ///< the object behind the editor; null for plain paper
     QPointer<QLineEdit> m_linkField;           ///< while an address is asked for
 };
 

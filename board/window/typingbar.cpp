@@ -13,6 +13,7 @@
 #include "page/labelwriting.h"
 #include "page/pageview.h"
 #include "panels/colorbutton.h"
+#include "panels/settings/ownsettings.h"
 #include "window/fontmenu.h"
 #include "window/menufield.h"
 #include "window/stylebarplace.h"
@@ -36,13 +37,15 @@ namespace board {
 
 namespace {
 
-const QString textSection = QStringLiteral("text");
-const QString boldId = QStringLiteral("idBold");
-const QString italicId = QStringLiteral("idItalic");
-const QString underlinedId = QStringLiteral("idUnderlined");
-const QString alignmentId = QStringLiteral("idAlignment");
+/// @name Roles of controls
+/// @{
+const QString boldRole = QStringLiteral("bold");
+const QString italicRole = QStringLiteral("italic");
+const QString underlinedRole = QStringLiteral("underlined");
+const QString alignmentRole = QStringLiteral("alignment");
 /// Lines become items in the editor, which has the letters.
-const QString listId = QStringLiteral("idList");
+const QString listRole = QStringLiteral("list");
+/// @}
 constexpr int offeredSizes[] = {12, 14, 16, 18, 20, 24, 28, 32, 40, 48, 64, 96};
 constexpr Icon alignmentIcons[] = {Icon::TextLeft, Icon::TextMiddle, Icon::TextRight};
 /// Between the bar and the edges of the view.
@@ -50,10 +53,10 @@ constexpr int roomMargin = 4;
 constexpr int sizeWidth = 60;
 constexpr int fontWidth = 120;
 
-bool isOn(const QVector<SettingControl> &controls, const QString &id)
+bool isOn(const QVector<SettingControl> &controls, const QString &role)
 {
     return std::any_of(controls.begin(), controls.end(), [&](const SettingControl &control) {
-        return control.id == id && control.kind == SettingControl::Switch && control.value.toBool();
+        return control.role == role && control.kind == SettingControl::Switch && control.value.toBool();
     });
 }
 
@@ -70,12 +73,12 @@ bool isNumber(const SettingControl &control)
     return control.kind == SettingControl::Number || control.kind == SettingControl::Slider;
 }
 
-QFont letterFont(const QToolButton &button, const QString &id)
+QFont letterFont(const QToolButton &button, const QString &role)
 {
     QFont font = button.font();
-    font.setBold(id == boldId);
-    font.setItalic(id == italicId);
-    font.setUnderline(id == underlinedId);
+    font.setBold(role == boldRole);
+    font.setItalic(role == italicRole);
+    font.setUnderline(role == underlinedRole);
     return font;
 }
 
@@ -112,7 +115,7 @@ QVector<SettingControl> TypingBar::controls() const
         return {};
     QVector<SettingControl> found = parseSettings(json);
     found.erase(std::remove_if(found.begin(), found.end(),
-                               [](const SettingControl &control) { return control.section != textSection; }),
+                               [](const SettingControl &control) { return !isOfLetters(control); }),
                 found.end());
     return found;
 }
@@ -169,7 +172,7 @@ void TypingBar::build()
                 add(i);
     };
     const auto isOfKind = [](SettingControl::Kind kind) {
-        return [kind](const SettingControl &control) { return control.kind == kind && control.id != listId; };
+        return [kind](const SettingControl &control) { return control.kind == kind && control.role != listRole; };
     };
     addAll(isOfKind(SettingControl::Font), [this](int index) { addFont(index); });
     // The first one is the size; the other is the width of lines, which is dragged.
@@ -241,7 +244,7 @@ void TypingBar::addSwitch(int index)
     const SettingControl control = m_controls.at(index);
     QToolButton *button = addButton(m_workspace->text(control.titleKey));
     button->setText(button->toolTip().mid(0, 1).toUpper());
-    button->setFont(letterFont(*button, control.id));
+    button->setFont(letterFont(*button, control.role));
     button->setCheckable(true);
     connect(button, &QToolButton::clicked, this, [=](bool on) { apply(index, on); });
     m_updates.append([this, button, index] { button->setChecked(m_controls.at(index).value.toBool()); });
@@ -264,7 +267,8 @@ void TypingBar::addChoice(int index)
     QToolButton *button = addButton(m_workspace->text(control.titleKey));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(new QMenu(button));
-    const bool isAlignment = control.id == alignmentId && control.entryCount() == int(std::size(alignmentIcons));
+    const bool isAlignment =
+        control.role == alignmentRole && control.entryCount() == int(std::size(alignmentIcons));
     for (int i = 0; i < control.texts.size(); ++i) {
         const QString text = m_workspace->text(control.texts.at(i));
         const QIcon picture = isAlignment ? icon(alignmentIcons[i]) : QIcon();
@@ -279,7 +283,7 @@ void TypingBar::addChoice(int index)
 void TypingBar::addTextCommands()
 {
     const auto list = std::find_if(m_controls.constBegin(), m_controls.constEnd(),
-                                   [](const SettingControl &control) { return control.id == listId; });
+                                   [](const SettingControl &control) { return control.role == listRole; });
     if (list != m_controls.constEnd() && editor()->mayHaveLists()) {
         QToolButton *button = addButton(m_workspace->text(list->titleKey));
         button->setIcon(icon(Icon::List));
@@ -341,7 +345,7 @@ void TypingBar::showValues()
     }
     for (const auto &update : qAsConst(m_updates))
         update();
-    editor()->followLook({isOn(present, italicId), isOn(present, underlinedId), familyIn(present)});
+    editor()->followLook({isOn(present, italicRole), isOn(present, underlinedRole), familyIn(present)});
 }
 
 /// It stays where it is while the text grows beside it.
@@ -375,13 +379,13 @@ void TypingBar::place()
 /// Ctrl and the letter that text programs use.
 bool TypingBar::useKey(int key)
 {
-    const QString id = key == Qt::Key_B   ? boldId
-                       : key == Qt::Key_I ? italicId
-                       : key == Qt::Key_U ? underlinedId
-                                          : QString();
-    for (int i = 0; i < m_controls.size(); ++i) {
+    const QString role = key == Qt::Key_B   ? boldRole
+                         : key == Qt::Key_I ? italicRole
+                         : key == Qt::Key_U ? underlinedRole
+                                            : QString();
+    for (int i = 0; !role.isEmpty() && i < m_controls.size(); ++i) {
         const SettingControl &control = m_controls.at(i);
-        if (control.kind != SettingControl::Switch || control.id != id)
+        if (control.kind != SettingControl::Switch || control.role != role)
             continue;
         apply(i, !control.value.toBool());
         return true;

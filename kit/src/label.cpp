@@ -1,5 +1,7 @@
 #include <shapekit/label.h>
 
+#include <utility>
+
 namespace shapekit {
 
 namespace {
@@ -67,9 +69,17 @@ std::array<Property *, 5> Label::properties()
     return {&m_text, &m_size, &m_bold, &m_color, &m_alignment};
 }
 
-std::array<const Property *, 5> Label::properties() const
+std::optional<LetterPart> Label::partOfControl(const QString &id) const
 {
-    return {&m_text, &m_size, &m_bold, &m_color, &m_alignment};
+    const std::pair<const Property *, LetterPart> parts[] = {{&m_text, LetterPart::Text},
+                                                             {&m_size, LetterPart::Size},
+                                                             {&m_bold, LetterPart::Bold},
+                                                             {&m_color, LetterPart::Colour},
+                                                             {&m_alignment, LetterPart::Alignment}};
+    for (const auto &[property, part] : parts)
+        if (property->controlId() == id)
+            return part;
+    return {};
 }
 
 bool Label::isAsNew() const

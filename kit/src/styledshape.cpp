@@ -329,6 +329,11 @@ bool StyledShape::SetSpecialProperty(int propId, QDataStream &in, bool record)
 {
     if (propId == pagehost::LabelText)
         return writeLabel(in, record);
+    if (propId == pagehost::HiddenLabel) {
+        qint32 label = 0;
+        in >> label;
+        return document && hideLabel(label);
+    }
     if (propId != pagehost::AnimationRuns)
         return CSVGBase::SetSpecialProperty(propId, in, record);
     if (!document || !document->animated())

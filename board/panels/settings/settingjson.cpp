@@ -113,6 +113,7 @@ Reading readControl(const QJsonObject &object)
     control.id = object[QLatin1String("id")].toString();
     control.titleKey = object[QLatin1String("title")].toString();
     control.section = object[QLatin1String("section")].toString();
+    control.role = object[QLatin1String("role")].toString();
     control.messageKey = object[QLatin1String("message")].toString();
     control.messageArguments = textsIn(object[QLatin1String("arguments")]);
     if (control.id.isEmpty())

@@ -23,6 +23,7 @@ struct SettingControl
     QStringList icons; ///< paths of a choice's pictures; as many as `texts`, or one of both is empty
     QStringList texts; ///< localisation keys of a choice's entries
     QString section;   ///< of the panel: "text" for those of letters; empty for all others
+    QString role;      ///< of letters: what it sets, such as "bold"; may be empty
     NumberRange range; ///< of numbers
     /// Localisation key of what is wrong with the present value; empty for nothing. Its "%1" and so on stand for
     /// the arguments.

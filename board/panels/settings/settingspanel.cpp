@@ -9,7 +9,6 @@
 #include "panels/editors/slidereditor.h"
 #include "panels/editors/switcheditor.h"
 #include "panels/editors/texteditor.h"
-#include "panels/settings/commonsettings.h"
 #include "panels/settings/ownsettings.h"
 #include "panels/settings/settingicons.h"
 
@@ -17,11 +16,11 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
+
 namespace board {
 
 namespace {
-
-const QString textSection = QStringLiteral("text");
 
 QString rangeText(const NumberRange &range)
 {
@@ -38,13 +37,19 @@ SettingsPanel::SettingsPanel(const Workspace *workspace, Extent extent, QWidget 
         makeCompact();
 }
 
-bool SettingsPanel::isListed(const SettingControl &control) const
+QVector<CommonSetting> SettingsPanel::listed(QVector<CommonSetting> settings) const
 {
-    if (!isOwnSetting(control))
-        return false;
-    if (m_extent != First)
-        return (control.section == textSection) == (m_extent == Text);
-    return m_controls.isEmpty() && isShort(control);
+    QVector<SettingControl> controls;
+    for (const CommonSetting &setting : qAsConst(settings))
+        controls.append(setting.control);
+    const std::optional<SettingControl> first = firstOwnSetting(controls);
+    const auto isElsewhere = [&](const CommonSetting &setting) {
+        if (m_extent == First)
+            return !first || setting.control.id != first->id;
+        return !isOwnSetting(setting.control) || isOfLetters(setting.control) != (m_extent == Text);
+    };
+    settings.erase(std::remove_if(settings.begin(), settings.end(), isElsewhere), settings.end());
+    return settings;
 }
 
 QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
@@ -56,10 +61,8 @@ QVector<FormRow> SettingsPanel::describe(const QVector<CBaseObject *> &objects)
     }
     QVector<FormRow> rows;
     m_controls.clear();
-    const QVector<CommonSetting> settings = commonSettings(panels);
+    const QVector<CommonSetting> settings = listed(commonSettings(panels));
     for (const CommonSetting &setting : settings) {
-        if (!isListed(setting.control))
-            continue;
         m_controls.append(setting.control);
         rows.append(rowOf(setting.control, setting.isMixed));
     }

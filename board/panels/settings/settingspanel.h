@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/forms/selectionpanel.h"
-#include "panels/settings/settingjson.h"
+#include "panels/settings/commonsettings.h"
 
 namespace board {
 
@@ -32,7 +32,7 @@ private:
     ValueEditor *makeChoice(const SettingControl &control) const;
     FormRow rowOf(const SettingControl &control, bool isMixed) const;
 
-    bool isListed(const SettingControl &control) const;
+    QVector<CommonSetting> listed(QVector<CommonSetting> settings) const;
 
     Extent m_extent;
     QVector<SettingControl> m_controls; ///< row by row

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <shapekit/labellayout.h>
+#include <shapekit/lettercontrol.h>
 #include <shapekit/property.h>
 #include <shapekit/shapekit_global.h>
 #include <shapekit/styledshape.h>
 
 #include <array>
+#include <optional>
 
 namespace shapekit {
 
@@ -48,8 +50,8 @@ public:
     LabelPlace place(const QRectF &box, double fontSize) const;
     /// Text, size, weight, colour and alignment.
     std::array<Property *, 5> properties();
-    /// See properties().
-    std::array<const Property *, 5> properties() const;
+    /// What a control of the settings panel (Property::controlId()) sets; none for one of another property.
+    std::optional<LetterPart> partOfControl(const QString &id) const;
 
     /// Whether text and look are those of a new shape.
     bool isAsNew() const;

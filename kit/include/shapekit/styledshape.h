@@ -120,6 +120,13 @@ public:
     virtual QVector<Connection> connections();
     /// Texts that are written on the page, last drawn last.
     virtual QVector<LabelPlace> labelPlaces() { return {}; }
+    /// Draws the shape without the letters of the label with that property until it is called again; 0 for with
+    /// all. False for a shape that can't.
+    virtual bool hideLabel(int propertyId)
+    {
+        Q_UNUSED(propertyId)
+        return false;
+    }
     /// Whether the shape is reading its data; its owner renders its picture afterwards.
     bool isReadingData() const { return isBeingLoaded; }
     /// Brings the document up to date before it is used; for shapes that defer drawing.

@@ -229,7 +229,7 @@ std::optional<qint32> codeOf(Kind kind)
 std::optional<AttributeDescription> readAttribute(int id, const QByteArray &bytes)
 {
     if (const auto head = readAttributeHead(id, bytes)) {
-        if (const Reading reading = readCoded(id, *head))
+        if (Reading reading = readCoded(id, *head))
             return reading;
     }
     // Without a code, the name stands in its place.

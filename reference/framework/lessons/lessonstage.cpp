@@ -60,7 +60,7 @@ LessonStage::~LessonStage() = default;
 CBaseObject *LessonStage::perform(const LessonStep &step)
 {
     const CurrentDocument current(m_document.get());
-    return std::visit([this](const auto &kind) { return perform(kind); }, step);
+    return std::visit([this](const auto &kind) { return this->perform(kind); }, step);
 }
 
 CBaseObject *LessonStage::perform(const ObjectActed &step)

@@ -2,6 +2,8 @@
 
 #include <declared/core/declaredshape.h>
 
+#include <shapekit/lettercontrol.h>
+
 #include <svgobj/csvgbaseundocmd.h>
 #include <svgobj/csvgobj.h>
 
@@ -38,9 +40,8 @@ void DeclaredShape::addLetterControls(QJsonArray &settings)
         if (!m_labels.letters().partOf(LetterStyle::idOf(part)))
             continue;
         const QString title = LetterStyle::titleOf(part, m_kind.letterTitles()).key(&m_kind.kind());
-        QJsonObject control = m_labels.letters().control(part, *owner, title, getPenColor());
-        control[QStringLiteral("section")] = QStringLiteral("text");
-        settings.append(control);
+        settings.append(shapekit::letterControl(m_labels.letters().control(part, *owner, title, getPenColor()),
+                                                LetterStyle::roleOf(part)));
     }
 }
 

@@ -422,6 +422,14 @@ QVector<shapekit::LabelPlace> DeclaredShape::labelPlaces()
     return m_labels.places();
 }
 
+bool DeclaredShape::hideLabel(int propertyId)
+{
+    m_labels.hide(propertyId);
+    updateSVG(false);
+    invalidate();
+    return true;
+}
+
 QByteArray DeclaredShape::toSvg()
 {
     return m_labels.withTexts(Shape::toSvg());
@@ -431,11 +439,9 @@ bool DeclaredShape::GetSettingArray(QJsonArray &settings)
 {
     Shape::GetSettingArray(settings);
     for (int i = 0; i < settings.size(); ++i) {
-        QJsonObject control = settings.at(i).toObject();
-        if (!m_labels.hasControl(control.value(QLatin1String("id")).toString()))
-            continue;
-        control[QStringLiteral("section")] = QStringLiteral("text");
-        settings[i] = control;
+        const QJsonObject control = settings.at(i).toObject();
+        if (const auto part = m_labels.partOfControl(control.value(QLatin1String("id")).toString()))
+            settings[i] = shapekit::letterControl(control, *part);
     }
     addLetterControls(settings);
     return true;

@@ -70,6 +70,7 @@ public:
     /// Those of the file, if it has any.
     QVector<shapekit::Connection> connections() override;
     QVector<shapekit::LabelPlace> labelPlaces() override;
+    bool hideLabel(int propertyId) override;
     QByteArray toSvg() override;
     /// Those of labels in the section of letters.
     bool GetSettingArray(QJsonArray &settings) override;

@@ -253,7 +253,7 @@ void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node,
     // Empty cells of a table share their node with all tables.
     if (writing.look.text.isEmpty() && node.attribute(QStringLiteral("d")).isEmpty())
         return;
-    setAttribute(node, QStringLiteral("d"), box ? writing.path : nothing);
+    setAttribute(node, QStringLiteral("d"), box && writing.id != m_hidden ? writing.path : nothing);
     setAttribute(node, QStringLiteral("fill"), writing.colour.name());
     setAttribute(node, writingAttribute, QString::number(writing.id));
 }
@@ -318,6 +318,17 @@ void Labels::setTextOfRound(int id, const QString &text)
 void Labels::setLetters(const LetterStyle &letters)
 {
     m_letters = letters;
+    drawAllAgain();
+}
+
+void Labels::hide(int id)
+{
+    m_hidden = id;
+    drawAllAgain();
+}
+
+void Labels::drawAllAgain()
+{
     for (Label &label : m_labels)
         label.hasChanged = true;
 }
@@ -372,17 +383,12 @@ void Labels::writeText(QXmlStreamWriter &writer, const Found &found)
     }
 }
 
-bool Labels::hasControl(const QString &id) const
+std::optional<shapekit::LetterPart> Labels::partOfControl(const QString &id) const
 {
-    for (const Label &label : m_labels) {
-        if (!label.own)
-            continue;
-        const auto properties = qAsConst(*label.own).properties();
-        const auto isIt = [&id](const shapekit::Property *property) { return property->controlId() == id; };
-        if (std::any_of(properties.begin(), properties.end(), isIt))
-            return true;
-    }
-    return false;
+    for (const Label &label : m_labels)
+        if (const auto part = label.own ? label.own->partOfControl(id) : std::nullopt)
+            return part;
+    return {};
 }
 
 QJsonObject Labels::toJson(Saved saved) const

@@ -56,21 +56,23 @@ public:
     /// The look of all repeated labels.
     const LetterStyle &letters() const { return m_letters; }
     void setLetters(const LetterStyle &letters);
+    /// The text with that id isn't drawn any more, all others are; 0 for none.
+    void hide(int id);
     /// Where the labels stand, document units; those without a box are left out.
     QVector<shapekit::LabelPlace> places() const;
     /// An exported picture with text instead of outlines.
     QByteArray withTexts(const QByteArray &svg) const;
     /// By id, of repeated labels those that the user has written, under "letters" their look; empty without any.
     QJsonObject toJson(Saved saved) const;
-    /// Whether a control of the settings panel sets letters of a label.
-    bool hasControl(const QString &id) const;
+    /// What a control of the settings panel sets of a label; none for one that sets something else.
+    std::optional<shapekit::LetterPart> partOfControl(const QString &id) const;
     void fromJson(const QJsonObject &labels);
 
 private:
     /// A text in its box.
     struct Writing
     {
-        int id = 0; ///< of its property; 0 for a round that can't be written
+        int id = 0;        ///< of its property; 0 for a round that can't be written
         QString text;      ///< of a round
         QString givenText; ///< of a round: until the user writes another one
         QRectF box;        ///< null while it has none
@@ -105,11 +107,13 @@ private:
     void drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state) const;
     static void writeText(QXmlStreamWriter &writer, const Found &found);
     Found writingWithId(int id) const;
+    void drawAllAgain();
     Label *labelOfRound(int id);
     const Label *labelOfRound(int id) const { return const_cast<Labels *>(this)->labelOfRound(id); }
 
     std::vector<Label> m_labels;
     LetterStyle m_letters;
+    int m_hidden = 0; ///< text that isn't drawn
 };
 
 /// The labels of a drawing, for its figure.

@@ -200,6 +200,14 @@ QJsonObject LetterStyle::control(Part part, CSVGObj &object, const QString &titl
     return object.GetSettingJsonSlider(id, title, value, smallest, largest, step, unit);
 }
 
+shapekit::LetterPart LetterStyle::roleOf(Part part)
+{
+    using shapekit::LetterPart;
+    static constexpr LetterPart roles[] = {LetterPart::Size, LetterPart::Bold, LetterPart::Italic,
+                                           LetterPart::Underlined, LetterPart::Colour};
+    return roles[part];
+}
+
 DATA_TYPE LetterStyle::dataType(Part part)
 {
     return part == Size ? DATA_TYPE_REAL : part == Colour ? DATA_TYPE_COLOR : DATA_TYPE_0;

@@ -2,6 +2,7 @@
 
 #include <declared/reader/declaration.h>
 
+#include <shapekit/lettercontrol.h>
 #include <shapekit/text.h>
 
 #include <svgobj/csvgpropitem.h>
@@ -81,6 +82,7 @@ public:
     /// @{
     QJsonObject control(Part part, CSVGObj &object, const QString &titleKey, const QColor &pen) const;
     static QString controlId(Part part);
+    static shapekit::LetterPart roleOf(Part part);
     /// The value of a control's answer as read() takes it; empty for an answer that is no value.
     QByteArray bytesOfAnswer(Part part, const QString &answer) const;
     /// @}

@@ -101,23 +101,25 @@ void ShapeKind::addLetterTexts(QMap<QString, QString> &table, const QString &lan
     add(*m_letterTitles.colour, "Text colour", "Textfarbe");
 }
 
-/// The properties are named after the label: "Caption", "Caption: bold".
+/// The properties are named after the label, if it has a name: "Caption", "Caption: bold".
 void ShapeKind::addLabelTexts(QMap<QString, QString> &table, int label, const QString &language) const
 {
     const bool isGerman = language == QLatin1String("de");
-    const Texts &given = m_declaration->labels.at(label).title;
-    const QString own = given.value(language, given.value(english, QStringLiteral("Text")));
     if (!isGerman && language != english)
         return;
+    const Texts &given = m_declaration->labels.at(label).title;
+    const QString name = given.value(language, given.value(english));
     const LabelTitles &titles = m_labelTitles.at(size_t(label));
     const auto add = [&](const shapekit::Text &text, const char *inEnglish, const char *inGerman) {
-        table.insert(text.key(&m_kind),
-                     own + QStringLiteral(": ") + QString::fromUtf8(isGerman ? inGerman : inEnglish));
+        QString title = QString::fromUtf8(isGerman ? inGerman : inEnglish);
+        if (name.isEmpty())
+            title[0] = title.at(0).toUpper();
+        table.insert(text.key(&m_kind), name.isEmpty() ? title : name + QStringLiteral(": ") + title);
     };
-    table.insert(titles.text->key(&m_kind), own);
+    table.insert(titles.text->key(&m_kind), name.isEmpty() ? QStringLiteral("Text") : name);
     add(*titles.size, "font size", "Schriftgröße");
     add(*titles.bold, "bold", "fett");
-    add(*titles.colour, "colour", "Farbe");
+    add(*titles.colour, name.isEmpty() ? "text colour" : "colour", name.isEmpty() ? "Textfarbe" : "Farbe");
     add(*titles.alignment, "alignment", "Ausrichtung");
     table.insert(titles.start->key(&m_kind), isGerman ? QStringLiteral("Am Anfang") : QStringLiteral("Start"));
     table.insert(titles.middle->key(&m_kind), isGerman ? QStringLiteral("In der Mitte") : QStringLiteral("Middle"));

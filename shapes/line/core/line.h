@@ -44,6 +44,7 @@ public:
     bool permits(OperationType operation) override;
     /// The text in the middle of the way, which leaves room for it.
     QVector<shapekit::LabelPlace> labelPlaces() override;
+    bool hideLabel(int propertyId) override;
     /// Those of the label in the section of letters.
     bool GetSettingArray(QJsonArray &settings) override;
 
@@ -110,6 +111,7 @@ private:
     QSizeF m_labelExtent;                ///< document units; empty without a label
     QByteArray m_endsBefore;             ///< the drag of an end
     std::array<bool, 2> m_isEndJoined{}; ///< to an object that is there
+    bool m_isLabelHidden = false;        ///< its letters; the line leaves room for them
 };
 
 } // namespace line

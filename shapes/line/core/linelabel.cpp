@@ -2,6 +2,8 @@
 
 #include "line/core/line.h"
 
+#include <shapekit/lettercontrol.h>
+
 #include <svgobj/csvgobj.h>
 
 #include <QtCore/QJsonArray>
@@ -11,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 namespace line {
 
@@ -135,17 +136,21 @@ QVector<shapekit::LabelPlace> Line::labelPlaces()
     return {place};
 }
 
+bool Line::hideLabel(int propertyId)
+{
+    m_isLabelHidden = propertyId == m_label.id();
+    ShapeOfType::updateSVG(false);
+    invalidate();
+    return true;
+}
+
 bool Line::GetSettingArray(QJsonArray &settings)
 {
     m_label.setPanels(true, false);
     m_labelSize.setPanels(true, false);
     ShapeOfType::GetSettingArray(settings);
-    for (const shapekit::Property *property :
-         std::initializer_list<const shapekit::Property *>{&m_label, &m_labelSize}) {
-        QJsonObject control = property->control(*owner);
-        control[QStringLiteral("section")] = QStringLiteral("text");
-        settings.append(control);
-    }
+    settings.append(shapekit::letterControl(m_label.control(*owner), shapekit::LetterPart::Text));
+    settings.append(shapekit::letterControl(m_labelSize.control(*owner), shapekit::LetterPart::Size));
     return true;
 }
 
@@ -173,7 +178,7 @@ void Line::drawLabel()
     const QFontMetricsF font = metrics();
     const double scale = m_labelSize / layoutPixels;
     PathText letters;
-    const QStringList lines = hasLabel() ? linesOf(m_label) : QStringList();
+    const QStringList lines = hasLabel() && !m_isLabelHidden ? linesOf(m_label) : QStringList();
     double baseline = box.center().y() + (font.ascent() - lines.size() * font.height() / 2) * scale;
     for (const QString &line : lines) {
         letters.line({box.center().x(), baseline}, line, m_labelSize, 0.5);

@@ -3,16 +3,21 @@
 #include "text/core/lists.h"
 #include "text/core/writing.h"
 
+#include <shapekit/lettercontrol.h>
+
 #include <svgobj/csvgobj.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
+#include <utility>
+
 namespace text {
 
 namespace {
 
+using shapekit::LetterPart;
 using shapekit::Text;
 
 const Text colourText("Text colour", "Textfarbe");
@@ -51,21 +56,21 @@ bool Writing::GetSettingArray(QJsonArray &settings)
     QList<QString> entries{noListText.key(kind()), bulletsText.key(kind()), numbersText.key(kind())};
     QJsonObject font = m_font.control(*owner);
     font[QStringLiteral("valueType")] = QStringLiteral("font");
-    const QVector<QJsonObject> controls{
-        m_text.control(*owner),
-        font,
-        m_fontSize.control(*owner),
-        m_bold.control(*owner),
-        m_italic.control(*owner),
-        m_underlined.control(*owner),
-        owner->GetSettingJsonColorPicker(colourControl, colourTitle, colour),
-        m_alignment.control(*owner),
-        owner->GetSettingJsonComboBox(listControl, listTitle, int(listKindOf(m_text)), icons, entries),
-        m_wrapWidth.control(*owner)};
-    for (QJsonObject control : controls) {
-        control[QStringLiteral("section")] = QStringLiteral("text");
-        settings.append(control);
-    }
+    const QJsonObject picker = owner->GetSettingJsonColorPicker(colourControl, colourTitle, colour);
+    const QJsonObject list =
+        owner->GetSettingJsonComboBox(listControl, listTitle, int(listKindOf(m_text)), icons, entries);
+    const std::pair<QJsonObject, LetterPart> controls[] = {{m_text.control(*owner), LetterPart::Text},
+                                                           {font, LetterPart::Font},
+                                                           {m_fontSize.control(*owner), LetterPart::Size},
+                                                           {m_bold.control(*owner), LetterPart::Bold},
+                                                           {m_italic.control(*owner), LetterPart::Italic},
+                                                           {m_underlined.control(*owner), LetterPart::Underlined},
+                                                           {picker, LetterPart::Colour},
+                                                           {m_alignment.control(*owner), LetterPart::Alignment},
+                                                           {list, LetterPart::List},
+                                                           {m_wrapWidth.control(*owner), LetterPart::Width}};
+    for (const auto &[control, part] : controls)
+        settings.append(shapekit::letterControl(control, part));
     return true;
 }
 

@@ -215,7 +215,8 @@ QString Writing::getSVG()
         QStringLiteral("0 0 %1 %2").arg(number(layout.size.width()), number(layout.size.height())));
     // A text without letters has something to be seen and taken hold of.
     writeBox(writer, layout.size, present.text.isEmpty());
-    writeLines(writer, present, layout.lines, pagehost::decodedLinks(m_links));
+    if (!m_areLettersHidden)
+        writeLines(writer, present, layout.lines, pagehost::decodedLinks(m_links));
     writer.writeEndElement();
     return svg;
 }
@@ -241,6 +242,14 @@ void Writing::rebuild()
         return;
     const QSizeF size = owner->getClientRect().size();
     owner->setSize2(m_magnification.sizeFor(document->viewBox().size(), before, size), false);
+}
+
+bool Writing::hideLabel(int propertyId)
+{
+    m_areLettersHidden = propertyId == m_text.id();
+    rebuild();
+    invalidate();
+    return true;
 }
 
 QVector<shapekit::LabelPlace> Writing::labelPlaces()

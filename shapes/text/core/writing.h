@@ -26,6 +26,7 @@ public:
     QString getSVG() override;
     QSizeF getDefaultSVGSize() override;
     QVector<shapekit::LabelPlace> labelPlaces() override;
+    bool hideLabel(int propertyId) override;
     bool GetSpecialProperty(int propId, QDataStream &out) override;
     bool SetSpecialProperty(int propId, QDataStream &in, bool record) override;
     /// With the colour of the letters and the kind of list, which aren't properties of their own.
@@ -53,6 +54,7 @@ private:
     shapekit::DataValue m_links;
     shapekit::TextValue m_font;
     Magnification m_magnification;
+    bool m_areLettersHidden = false;
 };
 
 } // namespace text

@@ -3,22 +3,34 @@
 #include <board/boarddriver.h>
 
 #include <core/commands.h>
+#include <core/toolchoice.h>
 #include <page/labeleditor.h>
+#include <page/labelwriting.h>
 #include <page/pageview.h>
+
 #include <window/mainwindow.h>
 
+#include <pagehost/commands.h>
 #include <pagehost/page.h>
 #include <pagehost/style.h>
 
 #include <framework/cbaseobject.h>
+#include <framework/cpagebgprop.h>
 
 #include <QtCore/QDir>
+#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
 using namespace boardtest;
+
+Q_DECLARE_METATYPE(board::Tool)
+
+namespace {
+
+const QString ring = QStringLiteral("shapes.ring");
 
 /// One note, 200 × 100 at (500, 300), with "Hello" in its box from (510, 320) to (690, 380).
 struct OneNote
@@ -51,6 +63,34 @@ struct OneNote
     }
 };
 
+/// A box that has just been drawn, 300 × 200 at (200, 200), whose text is being written.
+struct OneBox
+{
+    explicit OneBox(const QString &kind = rectangle)
+        : box(board.draw(kind, {200, 200}, {500, 400}))
+    {
+        board.key(Qt::Key_Return);
+    }
+    board::LabelEditor *editor() const { return board.view().writing()->editor(); }
+    board::EditableLabel label() const { return board::labelsOf(*box).value(0); }
+    QImage picture() const { return editor()->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    BoardDriver board;
+    CBaseObject *box;
+};
+
+/// Like paper of a chalkboard.
+QColor colourPage(BoardDriver &board)
+{
+    const QColor green(20, 60, 40);
+    CPageBgProp background = board.page().background();
+    background.setFillColor(green);
+    pagehost::setPageBackground(&board.page(), background);
+    return green;
+}
+
+} // namespace
+
 class TestLabels : public QObject
 {
     Q_OBJECT
@@ -72,6 +112,16 @@ private Q_SLOTS:
     void chineseIsWrittenThroughAnInputMethod();
     void arabicIsWrittenFromTheRight();
     void otherActionsEndWriting();
+    void boxIsLabelledRightAfterItIsDrawn_data();
+    void boxIsLabelledRightAfterItIsDrawn();
+    void lettersOfABoxStandOnItsFill();
+    void lettersOfABoxStandInItsMiddleWhileTheyAreTyped();
+    void boxShowsItsLettersWhileTheyAreTyped();
+    void lettersGetSmallerWhileALongTextIsTyped();
+    void labelOfALineIsWrittenOnThePaperOfThePage();
+    void textIsWrittenOnThePaperOfThePage();
+    void lettersBehindTheEditorAreHidden_data();
+    void lettersBehindTheEditorAreHidden();
 
 private:
     QTemporaryDir m_shapes;
@@ -122,7 +172,7 @@ void TestLabels::menuOffersToEditTheTextOfAShapeThatHasOne()
     OneNote t;
     QAction *edit = t.board.window().commands()->action(board::Command::EditText);
     QVERIFY(edit->isEnabled());
-    t.board.draw(arrow, {800, 300}, {900, 400});
+    t.board.draw(ring, {800, 300}, {900, 400});
     QVERIFY(!edit->isEnabled());
     t.board.page().select({t.note});
     QVERIFY(edit->isEnabled());
@@ -176,7 +226,7 @@ void TestLabels::enterWritesTheTextOfTheSelectedShape()
 void TestLabels::enterDoesNothingForOtherShapes()
 {
     OneNote t;
-    t.board.draw(rectangle, {100, 100}, {200, 200});
+    t.board.draw(ring, {100, 100}, {200, 200});
     t.board.key(Qt::Key_Return);
     QVERIFY(!t.editor());
 }
@@ -254,6 +304,158 @@ void TestLabels::otherActionsEndWriting()
     t.board.view().settle();
     QVERIFY(editor->isHidden());
     QCOMPARE(t.text(), QStringLiteral("x"));
+}
+
+void TestLabels::boxIsLabelledRightAfterItIsDrawn_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind :
+         {"shapes.roundedrectangle", "shapes.ellipse", "shapes.triangle", "shapes.blockarrow", "shapes.polygon",
+          "shapes.star", "shapes.cylinder", "declared.diamond", "declared.terminator", "declared.subprocess",
+          "declared.document", "declared.parallelogram", "declared.trapezoid", "declared.chevron", "declared.cloud",
+          "declared.heart", "declared.cross", "declared.wave", "declared.righttriangle"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void TestLabels::boxIsLabelledRightAfterItIsDrawn()
+{
+    QFETCH(QString, kind);
+    OneBox t(kind);
+    QVERIFY(t.editor());
+    t.board.type(t.editor(), QStringLiteral("Sun"));
+    t.board.keyIn(t.editor(), Qt::Key_Escape);
+    QCOMPARE(t.label().text, QStringLiteral("Sun"));
+    QCOMPARE(t.label().fontSize, 20.0);
+    // Inside of the figure: that is where the next double click is expected to write.
+    const QRectF frame = t.box->getClientRect();
+    QVERIFY(frame.contains(t.label().box));
+    QVERIFY(t.box->shape().contains(t.label().box.center()));
+    t.board.history().undo();
+    QCOMPARE(t.label().text, QString());
+    t.board.doubleClick(t.box->mapToScene(t.label().box.center()));
+    QVERIFY(t.editor());
+}
+
+void TestLabels::lettersOfABoxStandOnItsFill()
+{
+    OneBox t;
+    const QColor fill(0x33, 0x66, 0x99);
+    t.board.keyIn(t.editor(), Qt::Key_Escape);
+    pagehost::setFill({t.box}, fill);
+    t.board.key(Qt::Key_Return);
+    t.board.type(t.editor(), QStringLiteral("Sun"));
+    const QImage picture = t.picture();
+    QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() / 6), fill);
+    QCOMPARE(picture.pixelColor(picture.width() / 6, picture.height() / 2), fill);
+}
+
+void TestLabels::lettersOfABoxStandInItsMiddleWhileTheyAreTyped()
+{
+    OneBox t;
+    t.board.type(t.editor(), QStringLiteral("Sun"));
+    const auto middleOfLines = [&] {
+        const QRect first = t.editor()->cursorRect(QTextCursor(t.editor()->document()->begin()));
+        const QRect last = t.editor()->cursorRect();
+        return t.editor()->viewport()->mapToParent((first | last).center()).y();
+    };
+    QVERIFY(qAbs(middleOfLines() - t.editor()->height() / 2) <= 2);
+    t.board.keyIn(t.editor(), Qt::Key_Return);
+    t.board.type(t.editor(), QStringLiteral("heats"));
+    t.board.keyIn(t.editor(), Qt::Key_Return);
+    t.board.type(t.editor(), QStringLiteral("water"));
+    QVERIFY(qAbs(middleOfLines() - t.editor()->height() / 2) <= 2);
+}
+
+void TestLabels::boxShowsItsLettersWhileTheyAreTyped()
+{
+    OneBox t;
+    const auto drawn = [&] {
+        QImage picture(300, 200, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        t.board.view().scene()->render(&painter, picture.rect(), QRectF(200, 200, 300, 200));
+        painter.end();
+        return picture;
+    };
+    const QImage before = drawn();
+    t.board.type(t.editor(), QStringLiteral("Sun"));
+    const QImage after = drawn();
+    QVERIFY(after != before);
+    t.board.window().resize(t.board.window().size() + QSize(20, 20));
+    QVERIFY(drawn() == after);
+}
+
+void TestLabels::lettersGetSmallerWhileALongTextIsTyped()
+{
+    OneBox t;
+    t.board.type(t.editor(), QStringLiteral("Sun"));
+    const int size = t.editor()->font().pixelSize();
+    t.board.type(t.editor(), QStringLiteral("Water of lakes and oceans rises. ").repeated(12));
+    QVERIFY(t.label().fontSize < 20);
+    const double zoom = t.board.view().transform().m11();
+    QCOMPARE(t.editor()->font().pixelSize(), qRound(t.label().fontSize * zoom));
+    QVERIFY(t.editor()->font().pixelSize() < size);
+}
+
+void TestLabels::labelOfALineIsWrittenOnThePaperOfThePage()
+{
+    BoardDriver board;
+    const QColor paper = colourPage(board);
+    board.window().tools()->choose(board::Tool::Line);
+    board.drag({200, 200}, {600, 300});
+    board.doubleClick({400, 250});
+    QVERIFY(board.view().writing()->editor());
+    board.type(board.view().writing()->editor(), QStringLiteral("Sun"));
+    const QImage picture = board.view().writing()->editor()->grab().toImage();
+    QCOMPARE(picture.pixelColor(2, 2), paper);
+    QCOMPARE(picture.pixelColor(picture.width() - 3, picture.height() - 3), paper);
+}
+
+void TestLabels::textIsWrittenOnThePaperOfThePage()
+{
+    BoardDriver board;
+    const QColor paper = colourPage(board);
+    board.window().tools()->choose(board::Tool::Text);
+    board.click({500, 300});
+    board.type(board.view().writing()->editor(), QStringLiteral("Sun and water"));
+    const QImage picture = board.view().writing()->editor()->grab().toImage();
+    QCOMPARE(picture.pixelColor(2, 2), paper);
+    QCOMPARE(picture.pixelColor(picture.width() - 3, picture.height() - 3), paper);
+}
+
+void TestLabels::lettersBehindTheEditorAreHidden_data()
+{
+    QTest::addColumn<board::Tool>("tool");
+    QTest::newRow("box") << board::Tool::Shape;
+    QTest::newRow("line") << board::Tool::Line;
+    QTest::newRow("text") << board::Tool::Text;
+}
+
+void TestLabels::lettersBehindTheEditorAreHidden()
+{
+    QFETCH(board::Tool, tool);
+    BoardDriver board;
+    if (tool == board::Tool::Shape)
+        board.draw(rectangle, {200, 200}, {500, 400});
+    else
+        board.window().tools()->choose(tool);
+    if (tool == board::Tool::Line)
+        board.drag({200, 200}, {500, 400});
+    if (tool == board::Tool::Text)
+        board.click({350, 300});
+    else
+        board.doubleClick({350, 300});
+    board.type(board.view().writing()->editor(), QStringLiteral("Sun"));
+    board.keyIn(board.view().writing()->editor(), Qt::Key_Escape);
+    QVERIFY(board.view().writeFirstLabel());
+    board::LabelEditor *editor = board.view().writing()->editor();
+    // The object keeps its letters.
+    const QSignalBlocker blocker(editor);
+    editor->clear();
+    editor->setCursorWidth(0);
+    const QImage picture = editor->grab().toImage();
+    for (int x = 0; x < picture.width(); ++x)
+        QCOMPARE(picture.pixelColor(x, picture.height() / 2), picture.pixelColor(0, picture.height() / 2));
 }
 
 QTEST_MAIN(TestLabels)

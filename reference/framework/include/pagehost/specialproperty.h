@@ -94,7 +94,11 @@ enum SpecialProperty {
     /// Read only: the control points that DraggedEnd drags, in the order of FollowedObjects: a qint32 count, then
     /// their
     /// numbers (qint32, from 1).
-    FollowingEnds
+    FollowingEnds,
+    /// Write only: the property (qint32) of the text among LabelPlaces whose letters aren't drawn for now; 0 for
+    /// none. The host looks at the object without them while it has an editor in their place. Neither saved nor
+    /// recorded. Objects without the property draw their letters.
+    HiddenLabel
 };
 
 /// Phases of the drag of an end (DraggedEnd).
