@@ -14,6 +14,15 @@ const QString alignmentKey = QStringLiteral("align");
 /// Saved names, in the order of LabelAlignment.
 const QStringList alignmentNames{QStringLiteral("start"), QStringLiteral("middle"), QStringLiteral("end")};
 
+const Text textText("Text", "Text");
+const Text sizeText("Font size", "Schriftgröße");
+const Text boldText("Bold", "Fett");
+const Text colourText("Text colour", "Textfarbe");
+const Text alignmentText("Alignment", "Ausrichtung");
+const Text startText("Start", "Am Anfang");
+const Text middleText("Middle", "In der Mitte");
+const Text endText("End", "Am Ende");
+
 /// The value of a new shape where none, or none that can be read, was saved.
 void take(Property &property, const QJsonValue &saved, const QJsonValue &ofNewShape)
 {
@@ -22,6 +31,13 @@ void take(Property &property, const QJsonValue &saved, const QJsonValue &ofNewSh
 }
 
 } // namespace
+
+const LabelTexts &usualLabelTexts()
+{
+    static const LabelTexts texts{&textText,   &sizeText,      &boldText,
+                                  &colourText, &alignmentText, {&startText, &middleText, &endText}};
+    return texts;
+}
 
 LabelPlace placeOf(int propertyId, const LabelLook &look, QPointF corner, double fontSize, const QColor &color)
 {
@@ -46,6 +62,8 @@ Label::Label(PropertiedShape *shape, const LabelTexts &texts, const LabelLook &l
     , m_color(shape, *texts.colour, color.rgb())
     , m_alignment(shape, *texts.alignment, int(look.alignment), texts.alignments)
 {
+    for (Property *property : properties())
+        property->leaveSavingToShape();
 }
 
 LabelLook Label::look(const QSizeF &box) const

@@ -1,8 +1,11 @@
 #include <shapekit/labellayout.h>
 
+#include <shapekit/pathtext.h>
+
 #include <QtGui/QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace shapekit {
 
@@ -11,6 +14,8 @@ namespace {
 /// Steps of sizes that are tried for a text that fits its box.
 constexpr double sizeStep = 0.5;
 constexpr double narrowest = 1; ///< box, in layout pixels
+/// Coordinates of letters are whole multiples of 1 / this.
+constexpr double letterPrecision = 100;
 
 double scaleOf(double size)
 {
@@ -111,6 +116,32 @@ LabelLayout layOut(const LabelLook &look, const Typesetting &known)
     }
     const double size = smallest + fits * sizeStep;
     return placed(lettersFor(look, size, letters), look, size);
+}
+
+QString pathOfLetters(const QPainterPath &outline, QPointF corner)
+{
+    const auto placed = [&](int i) {
+        const QPointF point = corner + QPointF(outline.elementAt(i));
+        return QPointF(std::round(point.x() * letterPrecision), std::round(point.y() * letterPrecision)) /
+               letterPrecision;
+    };
+    PathText text;
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        switch (outline.elementAt(i).type) {
+        case QPainterPath::MoveToElement:
+            text.moveTo(placed(i));
+            break;
+        case QPainterPath::LineToElement:
+            text.lineTo(placed(i));
+            break;
+        case QPainterPath::CurveToElement:
+            text.curveTo(placed(i), placed(i + 1), placed(i + 2));
+            break;
+        case QPainterPath::CurveToDataElement:
+            break;
+        }
+    }
+    return outline.isEmpty() ? QStringLiteral("M0 0") : text.text();
 }
 
 } // namespace shapekit

@@ -87,8 +87,8 @@ void PropertiedShape::loadValues(QDataStream &in)
     // A shape may have had no properties in earlier versions.
     if (properties.isEmpty())
         takeFurtherValue(markedValue(in));
-    else if (!in.atEnd())
-        takeFurtherValue(loadInOrder(properties, in));
+    else
+        takeFurtherValue(in.atEnd() ? QByteArray() : loadInOrder(properties, in));
     propertyChanged(nullptr);
 }
 

@@ -5,6 +5,8 @@
 
 #include <checklist/states.h>
 
+#include <shapekit/shapeobject.h>
+
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
@@ -76,6 +78,26 @@ struct Callout : ShapeDriver
     }
 };
 
+/// Its text, as the page sees it.
+shapekit::LabelPlace labelOf(const ShapeDriver &shape)
+{
+    return static_cast<shapekit::ShapeObject &>(shape.object()).core()->labelPlaces().value(0);
+}
+
+void write(const ShapeDriver &shape, const QString &text)
+{
+    shape.object().SetSettingJson(
+        QStringLiteral(R"({"idText": "%1", "idFontSize": "30", "idBold": "true", "idTextColour": "#ff112233"})")
+            .arg(text),
+        true, true);
+}
+
+QString lettersOf(const ShapeDriver &shape)
+{
+    shape.painted();
+    return shape.document().namedNode(QStringLiteral("label"))->attribute(QStringLiteral("d"));
+}
+
 } // namespace
 
 class TestCallout : public QObject
@@ -99,6 +121,12 @@ private Q_SLOTS:
     void drawingHasTheWholeTail();
     void calloutWithItsTipInsideIsSavedAsBefore();
     void binaryDataOfEarlierVersionsOpen();
+    void textStandsInTheBalloon();
+    void textStaysInTheBalloonWhileTheTipIsDragged();
+    void writtenTextIsTakenBackInOneStep();
+    void textIsSavedAndOpened_data();
+    void textIsSavedAndOpened();
+    void hiddenTextIsNotDrawn();
 
 private:
     static void addPoses();
@@ -332,6 +360,97 @@ void TestCallout::binaryDataOfEarlierVersionsOpen()
     ShapeDriver opened(QStringLiteral("callout"));
     QVERIFY(checklist::open(opened, bytes.chopped(countAndEmptyValue)));
     QCOMPARE(checklist::savedBytes(opened), bytes);
+}
+
+void TestCallout::textStandsInTheBalloon()
+{
+    Callout shape;
+    QCOMPARE(labelOf(shape).text, QString());
+    QCOMPARE(labelOf(shape).fontSize, 20.0);
+    QCOMPARE(labelOf(shape).alignment, Qt::Alignment(Qt::AlignCenter));
+    QCOMPARE(labelOf(shape).box, QRectF(7, 7, 128, 68));
+    QCOMPARE(lettersOf(shape), QStringLiteral("M0 0"));
+    write(shape, QStringLiteral("Hi"));
+    lettersOf(shape);
+    const QZeSvgNode *letters = shape.document().namedNode(QStringLiteral("label"));
+    QVERIFY(qAbs(letters->boundingRect().center().x() - 71) < 1);
+    QVERIFY(qAbs(letters->boundingRect().center().y() - 41) < 4);
+    QCOMPARE(letters->attribute(QStringLiteral("fill")), QStringLiteral("#112233"));
+    QCOMPARE(labelOf(shape).fontSize, 30.0);
+    QVERIFY(labelOf(shape).isBold);
+    write(shape, QStringLiteral("A text that has no room in letters of this size"));
+    lettersOf(shape);
+    QVERIFY(labelOf(shape).fontSize < 30 && labelOf(shape).fontSize >= 8);
+}
+
+void TestCallout::textStaysInTheBalloonWhileTheTipIsDragged()
+{
+    Callout shape;
+    write(shape, QStringLiteral("Hi"));
+    const QString letters = lettersOf(shape);
+    dragTip(shape, {-166, -194});
+    QCOMPARE(lettersOf(shape), letters);
+    QCOMPARE(labelOf(shape).box, QRectF(7, 7, 128, 68));
+}
+
+void TestCallout::writtenTextIsTakenBackInOneStep()
+{
+    Callout shape;
+    dragTip(shape, {-60, 41});
+    shape.undoStack().clear();
+    const QByteArray before = checklist::savedBytes(shape);
+    shape.object().SetSettingJson(QStringLiteral(R"({"idText": "Hi"})"), true, true);
+    QCOMPARE(shape.undoStack().count(), 1);
+    QCOMPARE(labelOf(shape).text, QStringLiteral("Hi"));
+    shape.undoStack().undo();
+    QCOMPARE(labelOf(shape).text, QString());
+    QCOMPARE(checklist::savedBytes(shape), before);
+}
+
+void TestCallout::textIsSavedAndOpened_data()
+{
+    QTest::addColumn<bool>("isJson");
+    QTest::newRow("binary") << false;
+    QTest::newRow("JSON") << true;
+}
+
+void TestCallout::textIsSavedAndOpened()
+{
+    QFETCH(bool, isJson);
+    Callout empty;
+    Callout shape;
+    QJsonObject emptyJson, json;
+    const QByteArray emptyBytes = checklist::savedBytes(empty);
+    empty.object().saveJson(emptyJson);
+    QVERIFY(!emptyJson.contains(QStringLiteral("SVG_Label")));
+    write(shape, QStringLiteral("Hi"));
+    shape.object().saveJson(json);
+    ShapeDriver opened(QStringLiteral("callout"));
+    QVERIFY(isJson ? opened.object().loadJson(json) : checklist::open(opened, checklist::savedBytes(shape)));
+    QCOMPARE(lettersOf(opened), lettersOf(shape));
+    QCOMPARE(labelOf(opened).text, QStringLiteral("Hi"));
+    QVERIFY(labelOf(opened).isBold);
+    // Data without a text take it away.
+    QVERIFY(isJson ? opened.object().loadJson(emptyJson) : checklist::open(opened, emptyBytes));
+    QCOMPARE(labelOf(opened).text, QString());
+    QCOMPARE(checklist::savedBytes(opened), emptyBytes);
+}
+
+void TestCallout::hiddenTextIsNotDrawn()
+{
+    Callout shape;
+    write(shape, QStringLiteral("Hi"));
+    const QString letters = lettersOf(shape);
+    const auto hide = [&](qint32 property) {
+        QByteArray bytes;
+        QDataStream(&bytes, QIODevice::WriteOnly) << property;
+        QDataStream in(bytes);
+        return shape.object().SetSpecialProperty(pagehost::HiddenLabel, in, false);
+    };
+    QVERIFY(hide(labelOf(shape).propertyId));
+    QCOMPARE(lettersOf(shape), QStringLiteral("M0 0"));
+    QVERIFY(hide(0));
+    QCOMPARE(lettersOf(shape), letters);
 }
 
 QTEST_MAIN(TestCallout)

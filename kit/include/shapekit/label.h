@@ -23,6 +23,9 @@ struct LabelTexts
     QVector<const Text *> alignments;
 };
 
+/// "Text", "Font size", "Bold", "Text colour" and "Alignment", for a shape with one label.
+SHAPEKIT_EXPORT const LabelTexts &usualLabelTexts();
+
 /// A text where it stands, for StyledShape::labelPlaces(). The corner is that of the box; document units.
 SHAPEKIT_EXPORT LabelPlace placeOf(int propertyId, const LabelLook &look, QPointF corner, double fontSize,
                                    const QColor &color);
@@ -39,6 +42,7 @@ public:
     static constexpr double largestFont = 400;
 
     /// Registers the properties at the shape, in the order of properties(). Text and look are those of a new shape.
+    /// The shape saves them itself, by toJson().
     Label(PropertiedShape *shape, const LabelTexts &texts, const LabelLook &look, const QColor &color);
 
     /// Text and look in a box of that size, document units.

@@ -58,4 +58,8 @@ struct LabelLayout
 /// Text that has no room stands out of the box. Letters that are known from before are used again where they fit.
 SHAPEKIT_EXPORT LabelLayout layOut(const LabelLook &look, const Typesetting &known = {});
 
+/// Path data of an outline (LabelLayout::outline) in a box with that corner, document units: whole hundredths; a
+/// single move for an empty one.
+SHAPEKIT_EXPORT QString pathOfLetters(const QPainterPath &outline, QPointF corner);
+
 } // namespace shapekit

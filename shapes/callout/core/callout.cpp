@@ -33,6 +33,18 @@ constexpr double farthest = 5000;
 constexpr QSizeF smallestBalloon(72, 60);
 /// The data of state().
 constexpr int stateAction = 1192;
+constexpr double labelSize = 20;
+/// A long text gets smaller, down to this.
+constexpr double smallestLabel = 8;
+const QColor labelColor(0x1f, 0x26, 0x30);
+
+shapekit::LabelLook newLabel()
+{
+    shapekit::LabelLook look;
+    look.size = labelSize;
+    look.smallest = smallestLabel;
+    return look;
+}
 
 enum class Side { None, Top, Right, Bottom, Left };
 
@@ -93,6 +105,7 @@ PathText balloon(const QRectF &box, Side side, QPointF tip)
 Callout::Callout(CSVGObj *owner)
     : ShapeOfType(owner)
     , m_savedFrame(this, frameText)
+    , m_label(this, shapekit::usualLabelTexts(), newLabel(), labelColor)
 {
     m_savedFrame.setPanels(false, false);
 }
@@ -120,6 +133,13 @@ void Callout::keepFrame(const QSizeF &size)
 
 void Callout::propertyChanged(const shapekit::Property *property)
 {
+    if (!property || property == &m_savedFrame)
+        takeFrame();
+    ShapeOfType::propertyChanged(property);
+}
+
+void Callout::takeFrame()
+{
     QDataStream in(m_savedFrame);
     QSizeF frame;
     in >> frame;
@@ -129,7 +149,6 @@ void Callout::propertyChanged(const shapekit::Property *property)
     // It was put where the data have it, for the size that they have.
     if (pointCount() > 0)
         m_tip = {point(1), balloonFrame()};
-    ShapeOfType::propertyChanged(property);
 }
 
 void Callout::setSize(QSizeF, QSizeF newSize)
@@ -288,15 +307,21 @@ QString Callout::pathWithTailBelow(const QRectF &box)
     return changePathBeginPoint(path, box.left(), box.top());
 }
 
-void Callout::draw()
+QRectF Callout::balloonBox()
 {
     const double inset = frame().left();
-    const QRectF box = QRectF(QPointF(0, 0), balloonFrame()).adjusted(inset, inset, -inset, -inset - tailHeight);
+    return QRectF(QPointF(0, 0), balloonFrame()).adjusted(inset, inset, -inset, -inset - tailHeight);
+}
+
+void Callout::draw()
+{
+    const QRectF box = balloonBox();
     const Side side = sideOfTail(box, point(1));
     if (side == Side::Bottom)
         set("figure", "d", pathWithTailBelow(box));
     else
         setPath("figure", balloon(box, side, point(1)));
+    drawLabel();
 }
 
 } // namespace callout

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <shapekit/label.h>
 #include <shapekit/shape.h>
 
 namespace callout {
@@ -24,6 +25,9 @@ public:
     /// @}
     bool updateSVG(QZeSvgNode *node, QPointF delta, bool refresh) override;
     QVector<shapekit::Connection> connections() override;
+    QVector<shapekit::LabelPlace> labelPlaces() override;
+    bool hideLabel(int propertyId) override;
+    bool GetSettingArray(QJsonArray &settings) override;
 
 protected:
     QRectF range(int number) override;
@@ -32,6 +36,15 @@ protected:
     void pointMoved(int number, QPointF centre) override;
     void propertyChanged(const shapekit::Property *property) override;
     void draw() override;
+    /// @name The label, where it isn't that of a new callout
+    /// @{
+    using ShapeOfType::loadValues;
+    using ShapeOfType::saveValues;
+    void saveValues(QJsonObject &object) override;
+    void loadValues(const QJsonObject &object) override;
+    QByteArray furtherValue() const override;
+    void takeFurtherValue(const QByteArray &bytes) override;
+    /// @}
 
 private:
     QSizeF balloonFrame() const;
@@ -40,12 +53,19 @@ private:
     QByteArray state() const;
     bool takeState(QDataStream &in);
     QString pathWithTailBelow(const QRectF &box);
+    QRectF balloonBox();
+    QRectF labelBox();
+    void takeFrame();
+    void drawLabel();
 
     QSizeF m_frame;                               ///< of the balloon; empty for the whole view box
     shapekit::Place m_tip{{24, 106}, {142, 112}}; ///< where it was put, and the frame of that time
     QByteArray m_beforeDrag;                      ///< the state
     /// The frame, where it isn't the whole view box; files of earlier versions lack it.
     shapekit::DataValue m_savedFrame;
+    shapekit::Label m_label;
+    shapekit::LabelLayout m_letters;
+    bool m_isLabelHidden = false;
 };
 
 } // namespace callout

@@ -3,7 +3,6 @@
 #include <declared/core/roundids.h>
 #include <declared/reader/filelimits.h>
 
-#include <shapekit/pathtext.h>
 #include <shapekit/propertiedshape.h>
 
 #include <svgbase/qzesvgtinydocument.h>
@@ -12,7 +11,6 @@
 #include <QtCore/QXmlStreamWriter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace declared {
 
@@ -22,39 +20,11 @@ using shapekit::LabelLook;
 
 namespace {
 
-/// Coordinates of letters are whole multiples of 1 / this.
-constexpr double letterPrecision = 100;
-const QString nothing = QStringLiteral("M0 0");
+const QString nothing = shapekit::pathOfLetters({}, {});
 /// On the node of a label: the id of its text, until an export replaces the letters.
 const QString writingAttribute = QStringLiteral("label-text");
 /// In saved JSON. Ids of labels begin with "label_".
 const QString lettersKey = QStringLiteral("letters");
-
-QString pathText(const QPainterPath &outline, QPointF corner)
-{
-    const auto placed = [&](int i) {
-        const QPointF point = corner + QPointF(outline.elementAt(i));
-        return QPointF(std::round(point.x() * letterPrecision), std::round(point.y() * letterPrecision)) /
-               letterPrecision;
-    };
-    shapekit::PathText text;
-    for (int i = 0; i < outline.elementCount(); ++i) {
-        switch (outline.elementAt(i).type) {
-        case QPainterPath::MoveToElement:
-            text.moveTo(placed(i));
-            break;
-        case QPainterPath::LineToElement:
-            text.lineTo(placed(i));
-            break;
-        case QPainterPath::CurveToElement:
-            text.curveTo(placed(i), placed(i + 1), placed(i + 2));
-            break;
-        case QPainterPath::CurveToDataElement:
-            break;
-        }
-    }
-    return outline.isEmpty() ? nothing : text.text();
-}
 
 void setAttribute(QZeSvgNode &node, const QString &name, const QString &value)
 {
@@ -138,7 +108,6 @@ void Labels::addProperties(shapekit::PropertiedShape *shape, Label &label, const
     size_t part = 0;
     for (shapekit::Property *property : label.own->properties()) {
         property->setIds(declared.ids[part], declared.ids[part]);
-        property->leaveSavingToShape();
         ++part;
     }
     label.writings.resize(1);
@@ -240,7 +209,7 @@ void Labels::layOutWriting(const Label &label, Writing &writing, const QRectF &b
         writing.layout = layOut(look, writing.layout.letters);
     writing.look = look;
     writing.corner = box.topLeft();
-    writing.path = pathText(writing.layout.outline, writing.corner);
+    writing.path = shapekit::pathOfLetters(writing.layout.outline, writing.corner);
 }
 
 void Labels::drawWriting(const Label &label, Writing &writing, QZeSvgNode &node, ShapeState &state) const

@@ -448,7 +448,9 @@ void Line::draw()
     addHead(heads, End(int(m_startEnd)), m_course.start, -m_course.directionAtStart());
     addHead(heads, End(int(m_endEnd)), m_course.end, m_course.directionAtEnd());
     setPath("heads", heads);
-    set("control_3", "visibility", m_course.isAngled ? QStringLiteral("hidden") : QStringLiteral("visible"));
+    // The point in the middle would stand among the letters.
+    const bool hasPointInMiddle = !m_course.isAngled && !m_isLabelHidden;
+    set("control_3", "visibility", hasPointInMiddle ? QStringLiteral("visible") : QStringLiteral("hidden"));
     drawLabel();
 }
 

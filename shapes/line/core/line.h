@@ -111,7 +111,7 @@ private:
     QSizeF m_labelExtent;                ///< document units; empty without a label
     QByteArray m_endsBefore;             ///< the drag of an end
     std::array<bool, 2> m_isEndJoined{}; ///< to an object that is there
-    bool m_isLabelHidden = false;        ///< its letters; the line leaves room for them
+    bool m_isLabelHidden = false;        ///< its letters and the point among them
 };
 
 } // namespace line
