@@ -17,7 +17,7 @@ void insertMoment(std::vector<ClockTime> *moments, ClockTime time)
     const auto place = std::lower_bound(moments->begin(), moments->end(), time);
     if (place == moments->end() || *place != time)
         moments->insert(place, time);
-    if (moments->size() > size_t(2 * Limits::animationConditions))
+    if (moments->size() > 2 * size_t(Limits::animationConditions))
         moments->erase(moments->begin());
 }
 

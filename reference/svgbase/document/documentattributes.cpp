@@ -81,7 +81,7 @@ bool setsSize(AttributeId side)
 
 QString Document::attribute(NodeIndex index, const QString &name) const
 {
-    const QString value = m_tree.node(index).attributes.value(name);
+    QString value = m_tree.node(index).attributes.value(name);
     if (value.isEmpty() && name == QLatin1String("title"))
         return titleOf(m_tree, index);
     return value;

@@ -199,7 +199,7 @@ QString fillText(const QBrush &brush, PaintDefinitions *paints)
 QString PaintDefinitions::freshId()
 {
     for (;;) {
-        const QString id = QStringLiteral("paint_%1").arg(++m_lastNumber);
+        QString id = QStringLiteral("paint_%1").arg(++m_lastNumber);
         if (m_tree.findId(id) == noNode)
             return id;
     }

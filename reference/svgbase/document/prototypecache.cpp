@@ -41,9 +41,9 @@ private:
 PrototypePointer knownPrototype(const QByteArray &text, Messages *messages)
 {
     static PrototypeCache cache;
-    if (const PrototypePointer known = cache.find(text))
+    if (PrototypePointer known = cache.find(text))
         return known;
-    const PrototypePointer fresh = makePrototype(text, messages);
+    PrototypePointer fresh = makePrototype(text, messages);
     if (!fresh)
         return nullptr;
     // A copy of the bytes: the text may be data of a plug-in that is unloaded later.

@@ -160,7 +160,7 @@ QString takeSpaceName(Cursor &cursor)
     const char *begin = cursor.at;
     while (isLetter(cursor.peek()) || isDigit(cursor.peek()) || cursor.peek() == '-')
         ++cursor.at;
-    const QString name = QString::fromLatin1(begin, int(cursor.at - begin)).toLower();
+    QString name = QString::fromLatin1(begin, int(cursor.at - begin)).toLower();
     cursor.skipSpace();
     return name;
 }

@@ -94,7 +94,7 @@ QImage decodedPicture(const ImagePointer &content)
         if (const auto *known = decodedPictures().object(content.get()))
             return known->second;
     }
-    const QImage picture = decode(*content);
+    QImage picture = decode(*content);
     const std::lock_guard lock(decodedMutex);
     decodedPictures().insert(content.get(), new QPair<ImagePointer, QImage>(content, picture),
                              int(picture.sizeInBytes() / bytesPerKibibyte) + 1);

@@ -9,12 +9,10 @@ namespace Svg {
 class PatternBrushes
 {
 public:
+    virtual ~PatternBrushes() = default;
     /// A brush that paints the pattern in the units of its target, fine enough for a painter that `transform` maps
     /// these to. No brush when there is no room for another tile.
     virtual QBrush brush(const Pattern &pattern, const QTransform &transform) = 0;
-
-protected:
-    ~PatternBrushes() = default;
 };
 
 /// Maps outlines, fills and pens to the painter's coordinates where that is still to be done, and measures groups.

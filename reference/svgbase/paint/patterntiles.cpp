@@ -71,7 +71,7 @@ QImage PatternTiles::picture(const Pattern &pattern, const QSize &size, const QT
         return QImage();
     }
     m_pixelsLeft -= pixels;
-    const QImage made = painted(pattern, size, tileToPicture);
+    QImage made = painted(pattern, size, tileToPicture);
     m_pictures.insert(key, made);
     return made;
 }

@@ -109,7 +109,7 @@ void CustomProperties::insert(const QString &name, const QString &value)
         fresh->depth = m_level ? m_level->depth + 1 : 1;
         m_level = QExplicitlySharedDataPointer<Level>(fresh);
     }
-    m_level->values.insert(name, value.isNull() ? QStringLiteral("") : value);
+    m_level->values.insert(name, value.isNull() ? QLatin1String("") : value);
 }
 
 void CustomProperties::settle(int *charactersLeft)

@@ -270,7 +270,7 @@ QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
     const auto styled = [&style](AttributeId id) {
         return styledAttribute(Attributes(), style.attributes, id).text();
     };
-    const QTransform whole = transform.value_or(QTransform()) *
+    QTransform whole = transform.value_or(QTransform()) *
                              individualTransforms(styled(AttributeId::Translate), styled(AttributeId::Rotate),
                                                   styled(AttributeId::Scale), context);
     if (whole.isIdentity())
@@ -348,7 +348,7 @@ std::optional<QBrush> Resolver::servedBrush(NodeIndex server, double opacity, co
         return QBrush(Qt::transparent);
     }
     const GradientTarget target{facts.localBounds, facts.viewport, opacity};
-    const std::optional<QBrush> brush = gradientBrush(m_tree, server, target, m_services.gradients);
+    std::optional<QBrush> brush = gradientBrush(m_tree, server, target, m_services.gradients);
     if (m_services.gradients->hasCutChain())
         warn(m_tree.node(server), {Message::GradientChainTooLong,
                                    QStringLiteral("Gradients beyond %1 that refer to each other are left out.")
@@ -452,7 +452,7 @@ bool Resolver::keepsGeometry(NodeIndex index, const KeptFacts &kept, const Facts
 void Resolver::keepGeometry(const Node &node, const Facts &kept, Facts *facts) const
 {
     const bool isText = node.kind == ElementKind::Text;
-    ComputedStyle style = *facts->style;
+    ComputedStyle style = static_cast<const ComputedStyle &>(*facts->style);
     if (isText)
         style.fillRule = textFillRule;
     facts->hasGeometry = kept.hasGeometry;
@@ -500,7 +500,7 @@ ImagePointer Resolver::image(const QString &reference, Problem *problem) const
     const auto known = m_images.constFind(reference);
     if (known != m_images.constEnd())
         return *known;
-    const ImagePointer content = readImage(reference, m_services.documents, problem);
+    ImagePointer content = readImage(reference, m_services.documents, problem);
     if (content)
         m_images.insert(reference, content);
     return content;

@@ -23,14 +23,12 @@ enum class ContentUse {
 class ContentBuilder
 {
 public:
+    virtual ~ContentBuilder() = default;
     /// The items of an element's children as drawn under the given facts.
     virtual DisplayItems children(BuildContext &context, NodeIndex holder, const FactsPointer &facts,
                                   ContentUse use) const = 0;
     /// The items of an element, the root for a whole document, under the given facts.
     virtual DisplayItems element(BuildContext &context, NodeIndex node, const FactsPointer &facts) const = 0;
-
-protected:
-    ~ContentBuilder() = default;
 };
 
 /// State shared by all parts of a list while it is built.

@@ -52,7 +52,7 @@ ImagePointer FilterBuilder::image(NodeIndex node)
     if (known != m_context.filterImages.constEnd())
         return *known;
     Problem problem;
-    const ImagePointer read = m_context.document.resolver().image(imageReference(element(node)), &problem);
+    ImagePointer read = m_context.document.resolver().image(imageReference(element(node)), &problem);
     m_context.filterImages.insert(node, read);
     return read;
 }

@@ -66,7 +66,7 @@ PatternPointer PatternBuilder::build()
     if (m_chain.isTileOfBounds() || m_chain.isContentOfBounds())
         m_pattern.bounds = m_target.bounds;
     m_pattern.viewport = m_target.viewport;
-    if (const PatternPointer pattern = known())
+    if (PatternPointer pattern = known())
         return pattern;
     if (m_context.patterns.size() >= Limits::patterns) {
         m_context.report.add(Message::TooManyPatterns,
