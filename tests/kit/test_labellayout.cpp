@@ -44,6 +44,8 @@ private Q_SLOTS:
     void boldLettersAreWider();
     void arabicBeginsAtTheRight();
     void chineseIsBrokenBetweenSigns();
+    void alignmentsAreThoseOfQt();
+    void pathOfLettersHasHundredths();
 };
 
 void TestLabelLayout::textStandsInTheMiddleOfItsBox()
@@ -185,6 +187,27 @@ void TestLabelLayout::chineseIsBrokenBetweenSigns()
     const LabelLayout layout = layOut(look);
     QVERIFY(layout.lines.size() >= 2);
     QCOMPARE(textsOf(layout).join(QString()), look.text);
+}
+
+void TestLabelLayout::alignmentsAreThoseOfQt()
+{
+    LabelLook look;
+    QCOMPARE(look.flags(), Qt::Alignment(Qt::AlignCenter));
+    look.alignment = LabelAlignment::Start;
+    look.vertical = LabelAlignment::End;
+    QCOMPARE(look.flags(), Qt::AlignLeft | Qt::AlignBottom);
+    look.alignment = LabelAlignment::End;
+    look.vertical = LabelAlignment::Start;
+    QCOMPARE(look.flags(), Qt::AlignRight | Qt::AlignTop);
+}
+
+void TestLabelLayout::pathOfLettersHasHundredths()
+{
+    QPainterPath outline;
+    outline.moveTo(0.123456, 1);
+    outline.lineTo(2, 3.999);
+    QCOMPARE(pathOfLetters(outline, {10, 20}), QStringLiteral("M10.12 21 L12 24"));
+    QCOMPARE(pathOfLetters({}, {10, 20}), QStringLiteral("M0 0"));
 }
 
 QTEST_MAIN(TestLabelLayout)

@@ -6,7 +6,7 @@
 
 namespace shapekit {
 
-/// What a control of the settings panel sets of a text that the user writes on the page.
+/// The part of a text, written on the page by the user, that a control of the settings panel sets.
 enum class LetterPart {
     Text,       ///< the text itself
     Font,       ///< name of the font

@@ -64,7 +64,7 @@ public:
     QByteArray withTexts(const QByteArray &svg) const;
     /// By id, of repeated labels those that the user has written, under "letters" their look; empty without any.
     QJsonObject toJson(Saved saved) const;
-    /// What a control of the settings panel sets of a label; none for one that sets something else.
+    /// The part of a label that a control of the settings panel sets; none for one that sets something else.
     std::optional<shapekit::LetterPart> partOfControl(const QString &id) const;
     void fromJson(const QJsonObject &labels);
 

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void hostIsToldWhereALabelStands();
     void typedTextIsNoStepOfItsOwn();
     void titlesNameTheLabel();
+    void titlesOfALabelWithoutAName();
     void everyCellHasATextOfItsOwn();
     void cellsAreSavedAndOpened();
     void figureWrittenOnThePageIsUndone_data() { addFigureRows(); }
@@ -224,6 +225,21 @@ void TestLabels::titlesNameTheLabel()
     QCOMPARE(english.value(QStringLiteral("IDS_DECLARED_nut_label_1_bold")), QStringLiteral("Caption: bold"));
     QCOMPARE(m_kind.texts(QStringLiteral("de")).value(QStringLiteral("IDS_DECLARED_nut_label_1_colour")),
              QStringLiteral("Caption: Farbe"));
+}
+
+void TestLabels::titlesOfALabelWithoutAName()
+{
+    const ShapeKind kind(declaredtest::readOf(
+        declaredtest::fileOf("<path d='M0 0H120V80H0Z'/><text id='label_1' shape:box='0; 0; w; h'/>")));
+    const QMap<QString, QString> english = kind.texts(QStringLiteral("en"));
+    const QMap<QString, QString> german = kind.texts(QStringLiteral("de"));
+    const QString key = QStringLiteral("IDS_DECLARED_nut_label_1");
+    QCOMPARE(english.value(key), QStringLiteral("Text"));
+    QCOMPARE(english.value(key + QStringLiteral("_size")), QStringLiteral("Font size"));
+    QCOMPARE(english.value(key + QStringLiteral("_colour")), QStringLiteral("Text colour"));
+    QCOMPARE(german.value(key + QStringLiteral("_bold")), QStringLiteral("Fett"));
+    QCOMPARE(german.value(key + QStringLiteral("_colour")), QStringLiteral("Textfarbe"));
+    QCOMPARE(german.value(key + QStringLiteral("_align")), QStringLiteral("Ausrichtung"));
 }
 
 namespace {

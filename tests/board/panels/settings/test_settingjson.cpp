@@ -87,11 +87,12 @@ void TestSettingJson::inputOfTextIsRead()
 
 void TestSettingJson::fontIsRead()
 {
-    const SettingControl control =
-        only(R"({"type":"input","id":"a","value":"DejaVu Serif","valueType":"font","section":"text"})");
+    const SettingControl control = only(
+        R"({"type":"input","id":"a","value":"DejaVu Serif","valueType":"font","section":"text","role":"font"})");
     QCOMPARE(control.kind, SettingControl::Font);
     QCOMPARE(control.value, QVariant(QString("DejaVu Serif")));
-    QVERIFY(!board::isShort(control));
+    QCOMPARE(control.section, QString("text"));
+    QCOMPARE(control.role, QString("font"));
 }
 
 void TestSettingJson::messageOfAnInputIsRead()
