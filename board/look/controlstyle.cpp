@@ -24,6 +24,9 @@ constexpr int mouseTarget = 24;
 constexpr int fingerTarget = 44;
 /// Above and below the text of a row, at least.
 constexpr int menuRowEdges = 6;
+/// Of a line between entries with the room above and below it, and from its ends to the edges of the menu.
+constexpr int separatorHeight = 5;
+constexpr int separatorMargin = 5;
 constexpr double signWidth = 1.75;
 /// Half of a chevron.
 constexpr double chevronWidth = 3.5;
@@ -152,6 +155,15 @@ bool isSeparator(const QStyleOption *option)
     return item && item->menuItemType == QStyleOptionMenuItem::Separator;
 }
 
+/// In the middle of its place.
+void paintSeparator(QPainter *painter, const QStyleOption &option, const ThemeColors &colors)
+{
+    QRect line = option.rect.adjusted(separatorMargin, 0, -separatorMargin, 0);
+    line.setHeight(edgeWidth());
+    line.moveTop(option.rect.top() + (option.rect.height() - line.height()) / 2);
+    painter->fillRect(line, colors.border);
+}
+
 } // namespace
 
 ControlStyle::ControlStyle()
@@ -185,6 +197,15 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
     painter->restore();
+}
+
+void ControlStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                               const QWidget *widget) const
+{
+    if (element == CE_MenuItem && isSeparator(option))
+        paintSeparator(painter, *option, themeColors(widget));
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -290,7 +311,9 @@ QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
 {
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
     const bool isField = type == CT_ComboBox || type == CT_PushButton;
-    if (type == CT_MenuItem && !isSeparator(option))
+    if (type == CT_MenuItem && isSeparator(option))
+        return {usual.width(), separatorHeight};
+    if (type == CT_MenuItem)
         return {usual.width(), qMax(sizes().menuRow, option->fontMetrics.height() + menuRowEdges)};
     const bool isTarget = type == CT_CheckBox || type == CT_RadioButton || type == CT_Slider;
     if (isTarget)

@@ -8,7 +8,7 @@ class QStyleOptionSpinBox;
 namespace board {
 
 /// Draws boxes, fields, push buttons and sliders with edges of the theme. Those that the Fusion style derives from
-/// the colour of a dark window can't be seen.
+/// the colour of a dark window can't be seen. So do lines in menus.
 class ControlStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -18,6 +18,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,

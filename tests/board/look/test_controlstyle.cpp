@@ -3,6 +3,8 @@
 #include <look/controlstyle.h>
 #include <look/theme.h>
 
+#include <support/listed.h>
+
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
@@ -140,6 +142,7 @@ private Q_SLOTS:
     void sliderIsFilledUpToItsKnob();
     void fieldsAreAtLeastSoHigh();
     void menusThatAreTooLongScroll();
+    void everyLineBetweenEntriesOfAMenuIsDrawn();
 };
 
 void TestControlStyle::lettersCanBeReadOnEveryGround_data()
@@ -269,6 +272,32 @@ void TestControlStyle::menusThatAreTooLongScroll()
     one.addAction(QStringLiteral("DejaVu Sans"));
     QCOMPARE(menu.width(), one.sizeHint().width());
     menu.hide();
+}
+
+void TestControlStyle::everyLineBetweenEntriesOfAMenuIsDrawn()
+{
+    board::applyTheme(Theme::Light);
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    QMenu menu;
+    menu.addAction(QStringLiteral("Delete"))->setIcon(picture);
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Copy look"));
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Grid"))->setCheckable(true);
+    menu.addSeparator();
+    menu.addMenu(QStringLiteral("Order"));
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Select all"));
+    const QImage drawn = menu.grab().toImage();
+    for (QAction *action : support::listed(menu.actions())) {
+        if (!action->isSeparator())
+            continue;
+        const QRect place = menu.actionGeometry(action);
+        QCOMPARE(drawn.pixelColor(place.center()), board::themeColors().border);
+        QCOMPARE(drawn.pixelColor(place.center() - QPoint(0, 1)), board::themeColors().surface);
+        QCOMPARE(drawn.pixelColor(place.center() + QPoint(0, 1)), board::themeColors().surface);
+    }
 }
 
 QTEST_MAIN(TestControlStyle)
