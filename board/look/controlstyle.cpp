@@ -7,6 +7,7 @@
 
 #include <QtGui/QPainter>
 #include <QtGui/QRegion>
+#include <QtGui/QWindow>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOption>
 
@@ -164,6 +165,19 @@ void paintSeparator(QPainter *painter, const QStyleOption &option, const ThemeCo
     painter->fillRect(line, colors.border);
 }
 
+/// The row with its picture and its arrow in the colour of letters on the accent. A picture that is checked has a
+/// ground of its own.
+QStyleOptionMenuItem onAccent(const QStyleOptionMenuItem &row, int iconSide, const QWidget *widget)
+{
+    QStyleOptionMenuItem shown = row;
+    shown.palette.setColor(QPalette::WindowText, row.palette.color(QPalette::HighlightedText));
+    if (row.icon.isNull() || row.checked)
+        return shown;
+    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
+    shown.icon = QIcon(row.icon.pixmap(window, QSize(iconSide, iconSide), QIcon::Selected));
+    return shown;
+}
+
 } // namespace
 
 ControlStyle::ControlStyle()
@@ -202,10 +216,14 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
 void ControlStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                const QWidget *widget) const
 {
-    if (element == CE_MenuItem && isSeparator(option))
-        paintSeparator(painter, *option, themeColors(widget));
-    else
-        QProxyStyle::drawControl(element, option, painter, widget);
+    const auto *item = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem *>(option) : nullptr;
+    if (item && isSeparator(item))
+        return paintSeparator(painter, *item, themeColors(widget));
+    const bool isHighlighted = item && isEnabled(*item) && (item->state & State_Selected);
+    if (!isHighlighted)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    const QStyleOptionMenuItem shown = onAccent(*item, pixelMetric(PM_SmallIconSize, item, widget), widget);
+    QProxyStyle::drawControl(element, &shown, painter, widget);
 }
 
 void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,

@@ -1,6 +1,7 @@
 // Whether what the theme and its controls paint can be told from what is behind it.
 
 #include <look/controlstyle.h>
+#include <look/icons.h>
 #include <look/theme.h>
 
 #include <support/listed.h>
@@ -125,6 +126,17 @@ struct Shown
     QWidget *control;
 };
 
+/// Whether the left end of a row, where its picture is, has pixels of this colour.
+bool hasInPicture(const QMenu &menu, const QImage &drawn, const QColor &color)
+{
+    const QRect row = menu.actionGeometry(menu.actions().constFirst());
+    for (int y = row.top(); y <= row.bottom(); ++y)
+        for (int x = row.left(); x < row.left() + row.height(); ++x)
+            if (drawn.pixelColor(x, y) == color)
+                return true;
+    return false;
+}
+
 } // namespace
 
 class TestControlStyle : public QObject
@@ -143,6 +155,7 @@ private Q_SLOTS:
     void fieldsAreAtLeastSoHigh();
     void menusThatAreTooLongScroll();
     void everyLineBetweenEntriesOfAMenuIsDrawn();
+    void thePictureOfAHighlightedEntryStandsOut();
 };
 
 void TestControlStyle::lettersCanBeReadOnEveryGround_data()
@@ -298,6 +311,20 @@ void TestControlStyle::everyLineBetweenEntriesOfAMenuIsDrawn()
         QCOMPARE(drawn.pixelColor(place.center() - QPoint(0, 1)), board::themeColors().surface);
         QCOMPARE(drawn.pixelColor(place.center() + QPoint(0, 1)), board::themeColors().surface);
     }
+}
+
+void TestControlStyle::thePictureOfAHighlightedEntryStandsOut()
+{
+    board::applyTheme(Theme::Light);
+    QMenu menu;
+    QAction *entry = menu.addAction(QStringLiteral("Play the lesson"));
+    entry->setIcon(board::icon(board::Icon::Play));
+    const ThemeColors &colors = board::themeColors();
+    QVERIFY(hasInPicture(menu, menu.grab().toImage(), colors.text));
+    menu.setActiveAction(entry);
+    const QImage highlighted = menu.grab().toImage();
+    QVERIFY(hasInPicture(menu, highlighted, colors.onAccent));
+    QVERIFY(!hasInPicture(menu, highlighted, colors.text));
 }
 
 QTEST_MAIN(TestControlStyle)
