@@ -178,11 +178,25 @@ QStyleOptionMenuItem onAccent(const QStyleOptionMenuItem &row, int iconSide, con
     return shown;
 }
 
+/// The window that a combo box opens has no public class.
+bool isListOfCombo(const QWidget *widget)
+{
+    return widget && widget->inherits("QComboBoxPrivateContainer");
+}
+
 } // namespace
 
 ControlStyle::ControlStyle()
     : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
+}
+
+/// Else the rows of a list would cover its edge.
+void ControlStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (isListOfCombo(widget))
+        widget->setContentsMargins(edgeWidth(), edgeWidth(), edgeWidth(), edgeWidth());
 }
 
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -202,6 +216,10 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         paintPushButton(painter, *option, colors);
         break;
     case PE_PanelMenu:
+        if (isListOfCombo(widget)) {
+            painter->fillRect(option->rect, colors.control);
+            break;
+        }
         paintOutlined(painter, option->rect, colors.surface, colors.border, edgeWidth());
         break;
     case PE_FrameMenu:
@@ -313,6 +331,9 @@ int ControlStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
                             QStyleHintReturn *returned) const
 {
     auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(returned);
+    // Without corners cut off, it draws its panel itself.
+    if (hint == SH_Menu_Mask && isListOfCombo(widget))
+        return false;
     if (hint == SH_Menu_Mask && option && mask) {
         mask->region = surfaceRegion(option->rect);
         return true;

@@ -9,6 +9,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
@@ -156,6 +157,7 @@ private Q_SLOTS:
     void menusThatAreTooLongScroll();
     void everyLineBetweenEntriesOfAMenuIsDrawn();
     void thePictureOfAHighlightedEntryStandsOut();
+    void theListOfAComboBoxHasAnEdge();
 };
 
 void TestControlStyle::lettersCanBeReadOnEveryGround_data()
@@ -325,6 +327,25 @@ void TestControlStyle::thePictureOfAHighlightedEntryStandsOut()
     const QImage highlighted = menu.grab().toImage();
     QVERIFY(hasInPicture(menu, highlighted, colors.onAccent));
     QVERIFY(!hasInPicture(menu, highlighted, colors.text));
+}
+
+void TestControlStyle::theListOfAComboBoxHasAnEdge()
+{
+    board::applyTheme(Theme::Light);
+    QComboBox combo;
+    combo.addItems({"None", "Arrow head", "Dot"});
+    combo.show();
+    combo.showPopup();
+    // Its arrows are hidden when they have nothing to scroll.
+    QCoreApplication::processEvents();
+    QWidget *list = combo.view()->parentWidget();
+    const QImage drawn = list->grab().toImage();
+    const QPoint middle = drawn.rect().center();
+    for (const QPoint &edge : {QPoint(0, middle.y()), QPoint(drawn.width() - 1, middle.y()), QPoint(middle.x(), 0),
+                               QPoint(middle.x(), drawn.height() - 1)})
+        QCOMPARE(drawn.pixelColor(edge), board::themeColors().control);
+    QVERIFY(drawn.pixelColor(middle.x(), middle.y()) != board::themeColors().control);
+    combo.hidePopup();
 }
 
 QTEST_MAIN(TestControlStyle)
