@@ -17,6 +17,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QGraphicsView>
 #include <QtWidgets/QLineEdit>
@@ -104,6 +105,12 @@ LabelEditor::LabelEditor(CBaseObject *object, const EditableLabel &label, bool i
     pagehost::setBeingWritten(*object, true);
 }
 
+/// The colour behind the letters.
+QString LabelEditor::paper() const
+{
+    return m_label.color.lightness() > lightLetters ? darkPaper : lightPaper;
+}
+
 void LabelEditor::showLetters(const LetterLook &look)
 {
     const double zoom = std::hypot(m_view->transform().m11(), m_view->transform().m12());
@@ -116,9 +123,7 @@ void LabelEditor::showLetters(const LetterLook &look)
     font.setItalic(look.isItalic);
     font.setUnderline(look.isUnderlined);
     setFont(font);
-    setStyleSheet(
-        QStringLiteral("QTextEdit { color: %1; background: %2; }")
-            .arg(m_label.color.name(), m_label.color.lightness() > lightLetters ? darkPaper : lightPaper));
+    setStyleSheet(QStringLiteral("QTextEdit { color: %1; background: %2; }").arg(m_label.color.name(), paper()));
     QTextOption option = document()->defaultTextOption();
     option.setAlignment(m_label.alignment & Qt::AlignHorizontal_Mask);
     document()->setDefaultTextOption(option);
@@ -174,8 +179,10 @@ void LabelEditor::takePlace(double furtherRoom)
     setViewportMargins(isAtCorner ? margin : 0, isAtCorner ? margin : 0, 0, 0);
     setGeometry(place);
     clearMask();
-    if (furtherRoom > 0)
-        setMask((QRegion(frameInView().adjusted(1, 1, -1, -1).translated(-pos())) | lettersAtCorner()) & rect());
+    // The frame of the selection is outside of the margin.
+    const QRect drawn = frameInView().adjusted(-margin, -margin, 0, 0).translated(-pos());
+    if (furtherRoom > 0 || isAtCorner)
+        setMask((QRegion(drawn) | lettersAtCorner()) & rect());
 }
 
 /// On the screen, letters may be a little larger than their box.
@@ -344,6 +351,9 @@ bool LabelEditor::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride && mayHaveLinks() && isLinkKey(*static_cast<QKeyEvent *>(event)))
         event->accept();
+    // The letters of the object may reach under the margin, which the style leaves as it is.
+    if (event->type() == QEvent::Paint)
+        QPainter(this).fillRect(rect(), QColor(paper()));
     return QTextEdit::event(event);
 }
 

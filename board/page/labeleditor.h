@@ -91,6 +91,7 @@ protected:
 private:
     bool editList(const QKeyEvent &event);
     std::optional<EditableLabel> presentLabel() const;
+    QString paper() const;
     void showLetters(const LetterLook &look = {});
     void takeLink();
     void closeLinkField();

@@ -77,6 +77,8 @@ private Q_SLOTS:
     void theEditorGrowsWithTheText();
     void aTextThatIsWrittenHasNoGrips();
     void theEditorStaysWithinItsText();
+    void theFrameOfATextIsSeenFromTheBeginning();
+    void lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped();
     void lettersAreWholeAndInTheirPlace_data();
     void lettersAreWholeAndInTheirPlace();
     void aKeptToolWritesTheNextText();
@@ -324,6 +326,40 @@ void TestTextWriting::theEditorStaysWithinItsText()
     const int start = editor.x() + editor.viewport()->x();
     QVERIFY(covered.boundingRect().right() <= qMax(end, start + letters));
     QVERIFY(editor.geometry().right() > end + editor.fontMetrics().averageCharWidth());
+}
+
+/// Also after a line has been begun, which leaves the width as it is.
+void TestTextWriting::theFrameOfATextIsSeenFromTheBeginning()
+{
+    Desk desk;
+    desk.click({500, 300});
+    const auto isWithinItsText = [&desk] {
+        constexpr int inside = 3;
+        const QRectF place = desk.placeOf(desk.page().objects().constFirst());
+        const QRect box = desk.view().mapFromScene(place).boundingRect().adjusted(-inside, -inside, inside, inside);
+        const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
+        return !covered.isEmpty() && box.contains(covered.boundingRect());
+    };
+    QVERIFY(isWithinItsText());
+    desk.type("Light");
+    QVERIFY(isWithinItsText());
+    desk.strike(Qt::Key_Return);
+    QVERIFY(isWithinItsText());
+}
+
+void TestTextWriting::lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped()
+{
+    Desk desk;
+    desk.window().toolSettings()->setColor(Tool::Text, Qt::white);
+    desk.click({500, 300});
+    desk.type("Light");
+    const QImage drawn = desk.view().viewport()->grab().toImage();
+    // Behind white letters the paper is dark, also left of them and above.
+    const QPoint letters = desk.editor()->viewport()->mapTo(desk.view().viewport(), QPoint());
+    const QColor paper = drawn.pixelColor(letters + QPoint(1, 1));
+    QVERIFY(paper.lightness() < 100);
+    QCOMPARE(drawn.pixelColor(letters.x() - 1, letters.y() + 5), paper);
+    QCOMPARE(drawn.pixelColor(letters.x() + 5, letters.y() - 1), paper);
 }
 
 void TestTextWriting::lettersAreWholeAndInTheirPlace_data()
