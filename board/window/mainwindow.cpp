@@ -37,6 +37,7 @@
 #include "look/sizes.h"
 #include "look/surfaceshadow.h"
 #include "look/theme.h"
+#include "page/labelwriting.h"
 #include "page/pageview.h"
 #include "panels/findbar.h"
 #include "panels/finding.h"
@@ -516,6 +517,9 @@ void MainWindow::connectTools()
     connect(m_dock, &Dock::dragged, this, &MainWindow::followDrag);
     // The bar of notices changes the layout below the finger only after its press.
     connect(m_dock, &Dock::touched, this, &MainWindow::offerLargeTools, Qt::QueuedConnection);
+    connect(m_view->writing(), &LabelWriting::begun, m_dock, [this] { m_dock->setWriting(true); });
+    connect(m_view->writing(), &LabelWriting::ended, m_dock, [this] { m_dock->setWriting(false); });
+    connect(m_dock, &Dock::writingDone, m_view->writing(), &LabelWriting::end);
     m_commands->perform(Command::Shapes, this, [this] { chooseShape(); });
     m_commands->perform(Command::InsertAnything, this, [this] { askAndInsert(); });
     connect(m_dock, &Dock::shapesRequested, m_commands->action(Command::Shapes), &QAction::trigger);

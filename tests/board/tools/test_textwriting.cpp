@@ -2,11 +2,14 @@
 
 #include "board/boarddriver.h"
 
+#include <core/commands.h>
 #include <core/toolchoice.h>
+#include <look/dockbutton.h>
 #include <page/labeleditor.h>
 #include <page/pageview.h>
 #include <panels/settings/settingspanel.h>
 #include <tools/toolsettings.h>
+#include <window/dock.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/commands.h>
@@ -23,6 +26,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
 using board::Tool;
@@ -34,6 +38,7 @@ struct Desk : BoardDriver
 {
     Desk() { tools().choose(Tool::Text); }
     board::ToolChoice &tools() const { return *window().tools(); }
+    board::DockButton *button(Tool tool) const { return window().findChild<board::Dock *>()->buttonOf(tool); }
     /// The editor that is open; null for none.
     board::LabelEditor *editor() const
     {
@@ -81,6 +86,10 @@ private Q_SLOTS:
     void lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped();
     void lettersAreWholeAndInTheirPlace_data();
     void lettersAreWholeAndInTheirPlace();
+    void theTextToolIsShownWhileLettersAreWritten();
+    void pressingAToolEndsTheText_data();
+    void pressingAToolEndsTheText();
+    void aToolFromTheMenuEndsTheText();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -391,6 +400,52 @@ void TestTextWriting::lettersAreWholeAndInTheirPlace()
     const QFontMetrics letters(desk.editor()->font());
     QVERIFY(covered.contains(
         QRect(start() + QPoint(1, 1), QSize(letters.horizontalAdvance("Light"), letters.height() - 1))));
+}
+
+void TestTextWriting::theTextToolIsShownWhileLettersAreWritten()
+{
+    Desk desk;
+    desk.click({500, 300});
+    QVERIFY(desk.button(Tool::Text)->isChecked() && !desk.button(Tool::Select)->isChecked());
+    desk.type("Light");
+    QVERIFY(desk.button(Tool::Text)->isChecked());
+    desk.end();
+    QVERIFY(!desk.button(Tool::Text)->isChecked() && desk.button(Tool::Select)->isChecked());
+    desk.doubleClick({505, 300});
+    QVERIFY(desk.editor());
+    QVERIFY(desk.button(Tool::Text)->isChecked());
+}
+
+void TestTextWriting::pressingAToolEndsTheText_data()
+{
+    QTest::addColumn<int>("tool");
+    QTest::newRow("Select") << int(Tool::Select);
+    QTest::newRow("Pen") << int(Tool::Pen);
+    QTest::newRow("Text") << int(Tool::Text);
+}
+
+void TestTextWriting::pressingAToolEndsTheText()
+{
+    QFETCH(int, tool);
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.clickOn(desk.button(Tool(tool)));
+    QVERIFY(!desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool(tool));
+    QVERIFY(desk.button(Tool(tool))->isChecked());
+    QCOMPARE(desk.written(0), QString("Light"));
+}
+
+void TestTextWriting::aToolFromTheMenuEndsTheText()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.window().commands()->action(board::Command::PenTool)->trigger();
+    QVERIFY(!desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Pen);
+    QCOMPARE(desk.written(0), QString("Light"));
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()
