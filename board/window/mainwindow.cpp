@@ -388,7 +388,11 @@ void MainWindow::connectPanels()
     };
     follow(m_panel, m_sidePanel->pin(), Pane::Panel);
     follow(m_paletteDrawer, m_palette->pin(), Pane::Palette);
-    const auto giveWay = [this] { m_shelf->setCovered(m_paletteDrawer->isOpen() && !m_paletteDrawer->isPinned()); };
+    const auto giveWay = [this] {
+        const bool isBehindShapes = m_paletteDrawer->isOpen() && !m_paletteDrawer->isPinned();
+        m_shelf->setCovered(isBehindShapes || m_lessons->isShowing());
+    };
+    connect(m_lessons, &LessonController::shownPageChanged, m_shelf, giveWay);
     connect(m_paletteDrawer, &Drawer::openChanged, m_shelf, giveWay);
     connect(m_paletteDrawer, &Drawer::pinnedChanged, m_shelf, giveWay);
     QAction *panel = m_commands->perform(Command::Panel);
