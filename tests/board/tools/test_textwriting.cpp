@@ -38,7 +38,7 @@ struct Desk : BoardDriver
 {
     Desk() { tools().choose(Tool::Text); }
     board::ToolChoice &tools() const { return *window().tools(); }
-    board::DockButton *button(Tool tool) const { return window().findChild<board::Dock *>()->buttonOf(tool); }
+    board::DockButton *button(Tool tool) const { return window().dock()->buttonOf(tool); }
     /// The editor that is open; null for none.
     board::LabelEditor *editor() const
     {
