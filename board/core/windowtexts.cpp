@@ -14,6 +14,7 @@ QVector<TextEntry> windowTexts()
         {"IDS_BOARD_PAGE_OF", QT_TRANSLATE_NOOP("board", "Page %1 of %2")},
         {"IDS_BOARD_SHELF", QT_TRANSLATE_NOOP("board", "Colours and widths")},
         {"IDS_BOARD_TOOL_WIDTH", QT_TRANSLATE_NOOP("board", "Width %1")},
+        {"IDS_BOARD_TOOL_LETTERS", QT_TRANSLATE_NOOP("board", "Letters of size %1")},
         {"IDS_BOARD_STYLE_BAR", QT_TRANSLATE_NOOP("board", "Bar at the selection")},
         {"IDS_BOARD_LINK", QT_TRANSLATE_NOOP("board", "Link")},
         {"IDS_BOARD_USUAL_FONT", QT_TRANSLATE_NOOP("board", "Standard")},

@@ -7,6 +7,7 @@
 
 #include <QtGui/QPainter>
 #include <QtGui/QRegion>
+#include <QtGui/QWindow>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOption>
 
@@ -24,6 +25,9 @@ constexpr int mouseTarget = 24;
 constexpr int fingerTarget = 44;
 /// Above and below the text of a row, at least.
 constexpr int menuRowEdges = 6;
+/// Of a line between entries with the room above and below it, and from its ends to the edges of the menu.
+constexpr int separatorHeight = 5;
+constexpr int separatorMargin = 5;
 constexpr double signWidth = 1.75;
 /// Half of a chevron.
 constexpr double chevronWidth = 3.5;
@@ -152,11 +156,47 @@ bool isSeparator(const QStyleOption *option)
     return item && item->menuItemType == QStyleOptionMenuItem::Separator;
 }
 
+/// In the middle of its place.
+void paintSeparator(QPainter *painter, const QStyleOption &option, const ThemeColors &colors)
+{
+    QRect line = option.rect.adjusted(separatorMargin, 0, -separatorMargin, 0);
+    line.setHeight(edgeWidth());
+    line.moveTop(option.rect.top() + (option.rect.height() - line.height()) / 2);
+    painter->fillRect(line, colors.border);
+}
+
+/// The row with its picture and its arrow in the colour of letters on the accent. A picture that is checked has a
+/// ground of its own.
+QStyleOptionMenuItem onAccent(const QStyleOptionMenuItem &row, int iconSide, const QWidget *widget)
+{
+    QStyleOptionMenuItem shown = row;
+    shown.palette.setColor(QPalette::WindowText, row.palette.color(QPalette::HighlightedText));
+    if (row.icon.isNull() || row.checked)
+        return shown;
+    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
+    shown.icon = QIcon(row.icon.pixmap(window, QSize(iconSide, iconSide), QIcon::Selected));
+    return shown;
+}
+
+/// The window that a combo box opens has no public class.
+bool isListOfCombo(const QWidget *widget)
+{
+    return widget && widget->inherits("QComboBoxPrivateContainer");
+}
+
 } // namespace
 
 ControlStyle::ControlStyle()
     : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
+}
+
+/// Else the rows of a list would cover its edge.
+void ControlStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (isListOfCombo(widget))
+        widget->setContentsMargins(edgeWidth(), edgeWidth(), edgeWidth(), edgeWidth());
 }
 
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -176,6 +216,10 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         paintPushButton(painter, *option, colors);
         break;
     case PE_PanelMenu:
+        if (isListOfCombo(widget)) {
+            painter->fillRect(option->rect, colors.control);
+            break;
+        }
         paintOutlined(painter, option->rect, colors.surface, colors.border, edgeWidth());
         break;
     case PE_FrameMenu:
@@ -185,6 +229,19 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
     painter->restore();
+}
+
+void ControlStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                               const QWidget *widget) const
+{
+    const auto *item = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem *>(option) : nullptr;
+    if (item && isSeparator(item))
+        return paintSeparator(painter, *item, themeColors(widget));
+    const bool isHighlighted = item && isEnabled(*item) && (item->state & State_Selected);
+    if (!isHighlighted)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    const QStyleOptionMenuItem shown = onAccent(*item, pixelMetric(PM_SmallIconSize, item, widget), widget);
+    QProxyStyle::drawControl(element, &shown, painter, widget);
 }
 
 void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -274,6 +331,9 @@ int ControlStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
                             QStyleHintReturn *returned) const
 {
     auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(returned);
+    // Without corners cut off, it draws its panel itself.
+    if (hint == SH_Menu_Mask && isListOfCombo(widget))
+        return false;
     if (hint == SH_Menu_Mask && option && mask) {
         mask->region = surfaceRegion(option->rect);
         return true;
@@ -290,7 +350,9 @@ QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
 {
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
     const bool isField = type == CT_ComboBox || type == CT_PushButton;
-    if (type == CT_MenuItem && !isSeparator(option))
+    if (type == CT_MenuItem && isSeparator(option))
+        return {usual.width(), separatorHeight};
+    if (type == CT_MenuItem)
         return {usual.width(), qMax(sizes().menuRow, option->fontMetrics.height() + menuRowEdges)};
     const bool isTarget = type == CT_CheckBox || type == CT_RadioButton || type == CT_Slider;
     if (isTarget)

@@ -8,7 +8,7 @@ class QStyleOptionSpinBox;
 namespace board {
 
 /// Draws boxes, fields, push buttons and sliders with edges of the theme. Those that the Fusion style derives from
-/// the colour of a dark window can't be seen.
+/// the colour of a dark window can't be seen. So do lines in menus, and lists of combo boxes have an edge.
 class ControlStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -16,8 +16,12 @@ class ControlStyle : public QProxyStyle
 public:
     ControlStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,

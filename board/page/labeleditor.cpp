@@ -37,8 +37,8 @@ constexpr int smallestWidth = 40;
 constexpr int linkFieldWidth = 220;
 /// Of paper that dark letters are written on, and of the other one.
 constexpr int lightLetters = 170;
-const QString lightPaper = QStringLiteral("#ffffff");
-const QString darkPaper = QStringLiteral("#404040");
+constexpr QRgb lightPaper = 0xffffffff;
+constexpr QRgb darkPaper = 0xff404040;
 
 bool isLinkKey(const QKeyEvent &event)
 {
@@ -123,11 +123,11 @@ void LabelEditor::showLetters()
     document()->setDefaultTextOption(option);
 }
 
+/// The letters stand on what paintPaper() paints.
 void LabelEditor::setColors()
 {
-    const QString paper = m_label.color.lightness() > lightLetters ? darkPaper : lightPaper;
-    const QString colors = QStringLiteral("QTextEdit { color: %1; background: %2; }")
-                               .arg(m_label.color.name(), m_paper.isNull() ? paper : QStringLiteral("transparent"));
+    const QString colors =
+        QStringLiteral("QTextEdit { color: %1; background: transparent; }").arg(m_label.color.name());
     if (styleSheet() != colors)
         setStyleSheet(colors);
 }
@@ -184,8 +184,10 @@ void LabelEditor::takePlace(double furtherRoom)
     takePaper();
     placeLines();
     clearMask();
-    if (furtherRoom > 0)
-        setMask((QRegion(frameInView().adjusted(1, 1, -1, -1).translated(-pos())) | lettersAtCorner()) & rect());
+    // The frame of the selection is outside of the margin.
+    const QRect drawn = frameInView().adjusted(-margin, -margin, 0, 0).translated(-pos());
+    if (furtherRoom > 0 || isAtCorner())
+        setMask((QRegion(drawn) | lettersAtCorner()) & rect());
 }
 
 /// The view as it is behind the editor, without the letters.
@@ -200,7 +202,6 @@ void LabelEditor::takePaper()
     painter.setRenderHints(m_view->renderHints());
     m_view->render(&painter, QRectF(QPointF(0, 0), size()), geometry());
     hideDrawnLetters(false);
-    setColors();
 }
 
 bool LabelEditor::hideDrawnLetters(bool areHidden)
@@ -211,9 +212,14 @@ bool LabelEditor::hideDrawnLetters(bool areHidden)
     return m_object->SetSpecialProperty(pagehost::HiddenLabel, in, false);
 }
 
+/// Below the margin, too, where letters of the object may reach.
 void LabelEditor::paintPaper()
 {
-    QPainter(this).drawPixmap(0, 0, m_paper);
+    QPainter painter(this);
+    if (m_paper.isNull())
+        painter.fillRect(rect(), QColor(m_label.color.lightness() > lightLetters ? darkPaper : lightPaper));
+    else
+        painter.drawPixmap(0, 0, m_paper);
 }
 
 /// Lines stand in the box as the object aligns them; on plain paper they begin at the top.
@@ -401,10 +407,10 @@ bool LabelEditor::eventFilter(QObject *watched, QEvent *event)
 /// Ctrl+K is a command of the window elsewhere.
 bool LabelEditor::event(QEvent *event)
 {
-    if (event->type() == QEvent::Paint && !m_paper.isNull())
-        paintPaper();
     if (event->type() == QEvent::ShortcutOverride && mayHaveLinks() && isLinkKey(*static_cast<QKeyEvent *>(event)))
         event->accept();
+    if (event->type() == QEvent::Paint)
+        paintPaper();
     return QTextEdit::event(event);
 }
 

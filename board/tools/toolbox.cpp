@@ -2,6 +2,7 @@
 
 #include "core/workspace.h"
 #include "page/labels.h"
+#include "page/labelwriting.h"
 #include "page/pageview.h"
 #include "tools/toolsettings.h"
 
@@ -53,8 +54,11 @@ Toolbox::Toolbox(const Workspace *workspace, PageView *view, ToolChoice *choice,
         if (workspace->registry().hasTool(entry.role))
             choice->offer(entry.tool);
     connect(choice, &ToolChoice::changed, this, [this] {
-        if (m_choice->tool() != m_inHand)
-            takeUp();
+        if (m_choice->tool() == m_inHand)
+            return;
+        // Who takes another tool has written enough.
+        m_view->writing()->end();
+        takeUp();
     });
     connect(view, &PageView::pageShown, this, &Toolbox::takeUp);
     connect(view, &PageView::toolGivenUp, this, [this] { m_choice->choose(Tool::Select); });

@@ -1470,6 +1470,10 @@
         <translation>Breite %1</translation>
     </message>
     <message>
+        <source>Letters of size %1</source>
+        <translation>Buchstaben der Größe %1</translation>
+    </message>
+    <message>
         <source>New shape…</source>
         <translation>Neue Form…</translation>
     </message>

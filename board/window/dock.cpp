@@ -131,6 +131,8 @@ DockButton *Dock::buttonOf(Tool tool) const
 /// A second press keeps the tool, or ends keeping it; pens stay anyway, and show their options.
 void Dock::press(std::optional<Tool> tool)
 {
+    if (m_isWriting)
+        Q_EMIT writingDone();
     if (m_blocked)
         Q_EMIT pressedInVain(tool ? buttonOf(*tool)->accessibleName() : m_insert->accessibleName(), tool);
     else if (tool && m_tools->tool() == *tool && hasOptions(*tool))
@@ -140,6 +142,12 @@ void Dock::press(std::optional<Tool> tool)
     else
         use(tool);
     // The press has checked or unchecked its button.
+    showChoice();
+}
+
+void Dock::setWriting(bool isWriting)
+{
+    m_isWriting = isWriting;
     showChoice();
 }
 
@@ -177,8 +185,9 @@ void Dock::showOffers()
 
 void Dock::showChoice()
 {
+    const Tool shown = m_isWriting ? Tool::Text : m_tools->tool();
     for (const Entry &entry : qAsConst(m_entries)) {
-        const bool isChosen = entry.tool == m_tools->tool();
+        const bool isChosen = entry.tool == shown;
         entry.button->setChecked(isChosen);
         entry.button->setKept(isChosen && m_tools->isKept());
     }

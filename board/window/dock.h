@@ -30,6 +30,8 @@ public:
     void setColors(QWidget *colors);
     /// While blocked, tools are grey, and a press on one only says so.
     void setBlocked(bool blocked);
+    /// While letters are written, Text is shown as the chosen tool.
+    void setWriting(bool isWriting);
     /// Does as a first press on the tool; without a tool, on the last entry of the bar.
     void use(std::optional<Tool> tool);
     /// The edge of the window that the bar lies at.
@@ -46,6 +48,8 @@ public:
 Q_SIGNALS:
     /// A tool has been pressed while all are blocked; without one, the last entry of the bar.
     void pressedInVain(const QString &name, std::optional<board::Tool> tool);
+    /// A tool has been pressed while letters are written: they are done before it is used.
+    void writingDone();
     /// The user wants to choose a shape.
     void shapesRequested();
     /// The pen or the highlighter was pressed again.
@@ -110,6 +114,7 @@ private:
     QVector<int> m_lines;         ///< along the bar
     Qt::Edge m_edge = Qt::LeftEdge;
     bool m_blocked = false;
+    bool m_isWriting = false;
     bool m_dragging = false;
 };
 

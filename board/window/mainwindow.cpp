@@ -37,6 +37,7 @@
 #include "look/sizes.h"
 #include "look/surfaceshadow.h"
 #include "look/theme.h"
+#include "page/labelwriting.h"
 #include "page/pageview.h"
 #include "panels/findbar.h"
 #include "panels/finding.h"
@@ -387,7 +388,11 @@ void MainWindow::connectPanels()
     };
     follow(m_panel, m_sidePanel->pin(), Pane::Panel);
     follow(m_paletteDrawer, m_palette->pin(), Pane::Palette);
-    const auto giveWay = [this] { m_shelf->setCovered(m_paletteDrawer->isOpen() && !m_paletteDrawer->isPinned()); };
+    const auto giveWay = [this] {
+        const bool isBehindShapes = m_paletteDrawer->isOpen() && !m_paletteDrawer->isPinned();
+        m_shelf->setCovered(isBehindShapes || m_lessons->isShowing());
+    };
+    connect(m_lessons, &LessonController::shownPageChanged, m_shelf, giveWay);
     connect(m_paletteDrawer, &Drawer::openChanged, m_shelf, giveWay);
     connect(m_paletteDrawer, &Drawer::pinnedChanged, m_shelf, giveWay);
     QAction *panel = m_commands->perform(Command::Panel);
@@ -516,6 +521,9 @@ void MainWindow::connectTools()
     connect(m_dock, &Dock::dragged, this, &MainWindow::followDrag);
     // The bar of notices changes the layout below the finger only after its press.
     connect(m_dock, &Dock::touched, this, &MainWindow::offerLargeTools, Qt::QueuedConnection);
+    connect(m_view->writing(), &LabelWriting::begun, m_dock, [this] { m_dock->setWriting(true); });
+    connect(m_view->writing(), &LabelWriting::ended, m_dock, [this] { m_dock->setWriting(false); });
+    connect(m_dock, &Dock::writingDone, m_view->writing(), &LabelWriting::end);
     m_commands->perform(Command::Shapes, this, [this] { chooseShape(); });
     m_commands->perform(Command::InsertAnything, this, [this] { askAndInsert(); });
     connect(m_dock, &Dock::shapesRequested, m_commands->action(Command::Shapes), &QAction::trigger);

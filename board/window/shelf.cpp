@@ -30,6 +30,9 @@ constexpr int pictureStep = 12;
 /// Strokes that stand for widths, the narrowest and the widest.
 constexpr double thinnest = 2;
 constexpr double thickest = 9;
+/// Letters that stand for their sizes.
+constexpr double lowest = 11;
+constexpr double highest = 23;
 
 } // namespace
 
@@ -122,8 +125,12 @@ void Shelf::addWidths(Tool tool)
     const QVector<double> widths = m_settings->widths(tool);
     for (int i = 0; i < widths.size(); ++i) {
         const double width = widths.at(i);
-        const double thickness = thinnest + (thickest - thinnest) * i / qMax(1, widths.size() - 1);
-        auto *button = new ShelfButton(thickness, m_workspace->text("IDS_BOARD_TOOL_WIDTH").arg(width), m_content);
+        const double step = i / double(qMax(1, widths.size() - 1));
+        const char *nameKey = tool == Tool::Text ? "IDS_BOARD_TOOL_LETTERS" : "IDS_BOARD_TOOL_WIDTH";
+        auto *button = new ShelfButton(thinnest + (thickest - thinnest) * step,
+                                       m_workspace->text(nameKey).arg(width), m_content);
+        if (tool == Tool::Text)
+            button->setLetter(qRound(lowest + (highest - lowest) * step));
         button->setSide(sizes().shelf - 2 * sideGap);
         button->setChecked(qFuzzyCompare(width, m_settings->width(tool)));
         connect(button, &QToolButton::clicked, this, [this, tool, width] { m_settings->setWidth(tool, width); });

@@ -53,6 +53,12 @@ void ShelfButton::setStroke(const QColor &color, double thickness)
     update();
 }
 
+void ShelfButton::setLetter(int height)
+{
+    m_letter = height;
+    update();
+}
+
 void ShelfButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -63,7 +69,7 @@ void ShelfButton::paintEvent(QPaintEvent *)
         painter.setBrush(underMouse() ? colors.hover : QColor(Qt::transparent));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius, buttonRadius);
     }
-    m_color.isValid() ? paintColor(&painter) : paintStroke(&painter);
+    m_color.isValid() ? paintColor(&painter) : paintChoice(&painter);
 }
 
 void ShelfButton::paintColor(QPainter *painter) const
@@ -81,7 +87,7 @@ void ShelfButton::paintColor(QPainter *painter) const
     painter->drawEllipse(middle, ringRadius * scale, ringRadius * scale);
 }
 
-void ShelfButton::paintStroke(QPainter *painter) const
+void ShelfButton::paintChoice(QPainter *painter) const
 {
     const ThemeColors colors = themeColors();
     if (isChecked()) {
@@ -90,14 +96,28 @@ void ShelfButton::paintStroke(QPainter *painter) const
         painter->drawRoundedRect(rect(), buttonRadius, buttonRadius);
     }
     painter->scale(width() / double(usualSide), height() / double(usualSide));
+    const QColor usual = isChecked() ? colors.accent : colors.text;
+    m_letter > 0 ? paintLetter(painter, usual) : paintStroke(painter, usual);
+}
+
+void ShelfButton::paintStroke(QPainter *painter, const QColor &usual) const
+{
     QPainterPath wave(QPointF(7, 17));
     wave.cubicTo(11, 6, 14, 10, 14, 14);
     wave.cubicTo(14, 18, 17, 22, 21, 11);
-    const QColor usual = isChecked() ? colors.accent : colors.text;
     const QColor color = m_strokeColor.isValid() ? m_strokeColor : usual;
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(color, m_thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(wave);
+}
+
+void ShelfButton::paintLetter(QPainter *painter, const QColor &color) const
+{
+    QFont letters = font();
+    letters.setPixelSize(m_letter);
+    painter->setFont(letters);
+    painter->setPen(color);
+    painter->drawText(QRect(0, 0, usualSide, usualSide), Qt::AlignCenter, QStringLiteral("A"));
 }
 
 } // namespace board

@@ -135,9 +135,10 @@ void TypingBar::begin()
     editor()->installEventFilter(this);
     leaveFocus();
     showValues();
+    // While it is hidden, it doesn't stay where the text before was.
+    place();
     show();
     raise();
-    place();
 }
 
 /// A press on the bar would give the view the focus, unless its proxy has it: the text or the address of a link.

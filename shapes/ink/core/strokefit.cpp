@@ -24,8 +24,10 @@ constexpr double roundestRatio = 1.2;
 constexpr double flattestRatio = 10;
 /// An ellipse beside a circle that fits, too, must deviate this many times less.
 constexpr double clearlyBetter = 2;
-/// Least way from the beginning of a line to its end, as a part of the diagonal of its box.
-constexpr double leastWay = 0.3;
+/// Farthest that a stroke meant as a line may be beside it, as a part of the line.
+constexpr double largestBend = 0.2;
+/// Longest way of such a stroke in lines. A line of handwriting is longer.
+constexpr double longestWay = 1.5;
 /// Determinant of the spread of places over the square of its trace, below which they are on a line.
 constexpr double leastSpread = 1e-6;
 /// Strokes that aren't higher and wider are lines.
@@ -240,13 +242,23 @@ StrokeForm formOf(const QVector<QPointF> &places)
     return circle.holds() && isBent ? arcForm(circle, even, kept) : line;
 }
 
-bool leadsAway(const QVector<QPointF> &places)
+bool runsStraight(const QVector<QPointF> &places)
 {
     const Places kept = usable(places);
     if (kept.isEmpty())
         return false;
-    const QRectF box = boxOf(kept);
-    return lengthOf(kept.last() - kept.first()) >= leastWay * std::hypot(box.width(), box.height());
+    const QPointF line = kept.last() - kept.first();
+    const double length = lengthOf(line);
+    double way = 0;
+    QPointF before = kept.first();
+    for (const QPointF &place : kept) {
+        way += lengthOf(place - before);
+        before = place;
+        // The area of a parallelogram: the line by the distance from it.
+        if (std::abs(cross(line, place - kept.first())) > largestBend * length * length)
+            return false;
+    }
+    return length > 0 && way <= longestWay * length;
 }
 
 } // namespace ink

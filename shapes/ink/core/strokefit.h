@@ -14,7 +14,8 @@ namespace ink {
 /// linear in the number of places. Places that aren't measurable are passed over.
 StrokeForm formOf(const QVector<QPointF> &places);
 
-/// Whether a stroke ends far enough from where it began to be meant as a line. A drawn square doesn't.
-bool leadsAway(const QVector<QPointF> &places);
+/// Whether a stroke goes from its beginning to its end near enough to the line between them, and without detours,
+/// to be meant as that line. Letters, words and a drawn square don't.
+bool runsStraight(const QVector<QPointF> &places);
 
 } // namespace ink

@@ -7,6 +7,9 @@
 
 #include <shapekit/kind.h>
 
+#include <QtGui/QPolygonF>
+
+#include <algorithm>
 #include <cmath>
 
 namespace ink {
@@ -18,7 +21,17 @@ constexpr int holdingTime = 500;
 /// Nearer points say nothing about the line, pixels.
 constexpr double shortestStep = 0.75;
 
+/// Smaller strokes are a rest before writing, pixels.
+constexpr double leastHeld = 24;
+
 constexpr double noPressure = -1;
+
+/// The longer side of their box.
+double sizeOf(const QVector<QPointF> &places)
+{
+    const QRectF box = QPolygonF(places).boundingRect();
+    return std::max(box.width(), box.height());
+}
 
 QVector<QPointF> placesOf(const QVector<StrokePoint> &points)
 {
@@ -65,6 +78,7 @@ void PenTool::press(const pagehost::ToolPointer &pointer)
     if (!m_stroke)
         return;
     m_points = {pointOf(pointer)};
+    m_pixel = pointer.pixel;
     m_form.reset();
     m_hasShift = false;
     m_stroke->begin(m_points, m_color, m_width);
@@ -137,9 +151,11 @@ void PenTool::heldStill()
     if (!m_stroke || m_points.size() < 2 || m_form)
         return;
     const QVector<QPointF> places = placesOf(m_points);
+    if (!m_hasShift && sizeOf(places) < leastHeld * m_pixel)
+        return;
     const StrokeForm form = m_hasShift ? lineBetween(places.first(), places.last()) : formOf(places);
-    // Closed strokes that are no circle stay as they were drawn.
-    if (form.kind == StrokeForm::Line && !m_hasShift && !leadsAway(places))
+    // Who rests while writing goes on writing.
+    if (form.kind == StrokeForm::Line && !m_hasShift && !runsStraight(places))
         return;
     m_restingPlace = places.last();
     m_form = form;

@@ -48,6 +48,7 @@ private:
     bool m_straightens = true;
     Ink *m_stroke = nullptr; ///< while it is drawn
     QVector<StrokePoint> m_points;
+    double m_pixel = 1;               ///< of the screen, units of the page
     std::optional<StrokeForm> m_form; ///< since the pen was held still
     QPointF m_restingPlace;           ///< where it was
     bool m_hasShift = false;

@@ -143,6 +143,8 @@ void writeLines(QXmlStreamWriter &writer, const TextLook &look, const QVector<Te
         writer.writeAttribute(QStringLiteral("text-decoration"), QStringLiteral("underline"));
     writer.writeAttribute(QStringLiteral("text-anchor"), anchorName(look.alignment));
     writer.writeAttribute(QStringLiteral("fill_follows"), QStringLiteral("pen"));
+    // A line around them would make them bold.
+    writer.writeAttribute(QStringLiteral("keeps"), QStringLiteral("stroke"));
     for (const TextLine &line : lines) {
         writer.writeStartElement(QStringLiteral("tspan"));
         writer.writeAttribute(QStringLiteral("x"), number(line.anchor.x()));

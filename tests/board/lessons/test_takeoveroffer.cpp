@@ -13,6 +13,7 @@
 #include <window/drawer.h>
 #include <window/mainwindow.h>
 #include <window/pencolors.h>
+#include <window/shelf.h>
 
 #include <pagehost/page.h>
 
@@ -111,6 +112,7 @@ private Q_SLOTS:
     void refusedOfferLeavesTheLesson();
     void offerGoesWithTheLesson();
     void toolsLookGreyOnlyWhileALessonIsShown();
+    void coloursOfTheToolAreAwayWhileALessonIsShown();
     void foldedToolOffersToo();
     void coloursInTheBarWait();
     void offerIsSaidToReaders();
@@ -293,6 +295,20 @@ void TestTakeOverOffer::toolsLookGreyOnlyWhileALessonIsShown()
     QVERIFY(!room.dock().buttonOf(Tool::Select)->isGrey());
     QVERIFY(!room.dock().insertButton()->isGrey());
     QCOMPARE(room.middleOf(Tool::Select), accent);
+}
+
+void TestTakeOverOffer::coloursOfTheToolAreAwayWhileALessonIsShown()
+{
+    Classroom room;
+    const auto *shelf = room.driver.window().findChild<board::Shelf *>();
+    room.lessons().close();
+    room.tools().choose(Tool::Pen);
+    QVERIFY(shelf->isVisible());
+    room.lessons().seek(0);
+    QVERIFY(room.lessons().isShowing());
+    QVERIFY(!shelf->isVisible());
+    room.lessons().close();
+    QVERIFY(shelf->isVisible());
 }
 
 void TestTakeOverOffer::foldedToolOffersToo()

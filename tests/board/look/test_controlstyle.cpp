@@ -1,11 +1,15 @@
 // Whether what the theme and its controls paint can be told from what is behind it.
 
 #include <look/controlstyle.h>
+#include <look/icons.h>
 #include <look/theme.h>
+
+#include <support/listed.h>
 
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
@@ -123,6 +127,17 @@ struct Shown
     QWidget *control;
 };
 
+/// Whether the left end of a row, where its picture is, has pixels of this colour.
+bool hasInPicture(const QMenu &menu, const QImage &drawn, const QColor &color)
+{
+    const QRect row = menu.actionGeometry(menu.actions().constFirst());
+    for (int y = row.top(); y <= row.bottom(); ++y)
+        for (int x = row.left(); x < row.left() + row.height(); ++x)
+            if (drawn.pixelColor(x, y) == color)
+                return true;
+    return false;
+}
+
 } // namespace
 
 class TestControlStyle : public QObject
@@ -140,6 +155,9 @@ private Q_SLOTS:
     void sliderIsFilledUpToItsKnob();
     void fieldsAreAtLeastSoHigh();
     void menusThatAreTooLongScroll();
+    void everyLineBetweenEntriesOfAMenuIsDrawn();
+    void thePictureOfAHighlightedEntryStandsOut();
+    void theListOfAComboBoxHasAnEdge();
 };
 
 void TestControlStyle::lettersCanBeReadOnEveryGround_data()
@@ -269,6 +287,65 @@ void TestControlStyle::menusThatAreTooLongScroll()
     one.addAction(QStringLiteral("DejaVu Sans"));
     QCOMPARE(menu.width(), one.sizeHint().width());
     menu.hide();
+}
+
+void TestControlStyle::everyLineBetweenEntriesOfAMenuIsDrawn()
+{
+    board::applyTheme(Theme::Light);
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    QMenu menu;
+    menu.addAction(QStringLiteral("Delete"))->setIcon(picture);
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Copy look"));
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Grid"))->setCheckable(true);
+    menu.addSeparator();
+    menu.addMenu(QStringLiteral("Order"));
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Select all"));
+    const QImage drawn = menu.grab().toImage();
+    for (QAction *action : support::listed(menu.actions())) {
+        if (!action->isSeparator())
+            continue;
+        const QRect place = menu.actionGeometry(action);
+        QCOMPARE(drawn.pixelColor(place.center()), board::themeColors().border);
+        QCOMPARE(drawn.pixelColor(place.center() - QPoint(0, 1)), board::themeColors().surface);
+        QCOMPARE(drawn.pixelColor(place.center() + QPoint(0, 1)), board::themeColors().surface);
+    }
+}
+
+void TestControlStyle::thePictureOfAHighlightedEntryStandsOut()
+{
+    board::applyTheme(Theme::Light);
+    QMenu menu;
+    QAction *entry = menu.addAction(QStringLiteral("Play the lesson"));
+    entry->setIcon(board::icon(board::Icon::Play));
+    const ThemeColors &colors = board::themeColors();
+    QVERIFY(hasInPicture(menu, menu.grab().toImage(), colors.text));
+    menu.setActiveAction(entry);
+    const QImage highlighted = menu.grab().toImage();
+    QVERIFY(hasInPicture(menu, highlighted, colors.onAccent));
+    QVERIFY(!hasInPicture(menu, highlighted, colors.text));
+}
+
+void TestControlStyle::theListOfAComboBoxHasAnEdge()
+{
+    board::applyTheme(Theme::Light);
+    QComboBox combo;
+    combo.addItems({"None", "Arrow head", "Dot"});
+    combo.show();
+    combo.showPopup();
+    // Its arrows are hidden when they have nothing to scroll.
+    QCoreApplication::processEvents();
+    QWidget *list = combo.view()->parentWidget();
+    const QImage drawn = list->grab().toImage();
+    const QPoint middle = drawn.rect().center();
+    for (const QPoint &edge : {QPoint(0, middle.y()), QPoint(drawn.width() - 1, middle.y()), QPoint(middle.x(), 0),
+                               QPoint(middle.x(), drawn.height() - 1)})
+        QCOMPARE(drawn.pixelColor(edge), board::themeColors().control);
+    QVERIFY(drawn.pixelColor(middle.x(), middle.y()) != board::themeColors().control);
+    combo.hidePopup();
 }
 
 QTEST_MAIN(TestControlStyle)

@@ -2,11 +2,14 @@
 
 #include "board/boarddriver.h"
 
+#include <core/commands.h>
 #include <core/toolchoice.h>
+#include <look/dockbutton.h>
 #include <page/labeleditor.h>
 #include <page/pageview.h>
 #include <panels/settings/settingspanel.h>
 #include <tools/toolsettings.h>
+#include <window/dock.h>
 #include <window/mainwindow.h>
 
 #include <pagehost/commands.h>
@@ -23,6 +26,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
 using board::Tool;
@@ -34,6 +38,7 @@ struct Desk : BoardDriver
 {
     Desk() { tools().choose(Tool::Text); }
     board::ToolChoice &tools() const { return *window().tools(); }
+    board::DockButton *button(Tool tool) const { return window().dock()->buttonOf(tool); }
     /// The editor that is open; null for none.
     board::LabelEditor *editor() const
     {
@@ -77,8 +82,14 @@ private Q_SLOTS:
     void theEditorGrowsWithTheText();
     void aTextThatIsWrittenHasNoGrips();
     void theEditorStaysWithinItsText();
+    void theFrameOfATextIsSeenFromTheBeginning();
+    void lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped();
     void lettersAreWholeAndInTheirPlace_data();
     void lettersAreWholeAndInTheirPlace();
+    void theTextToolIsShownWhileLettersAreWritten();
+    void pressingAToolEndsTheText_data();
+    void pressingAToolEndsTheText();
+    void aToolFromTheMenuEndsTheText();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -326,6 +337,40 @@ void TestTextWriting::theEditorStaysWithinItsText()
     QVERIFY(editor.geometry().right() > end + editor.fontMetrics().averageCharWidth());
 }
 
+/// Also after a line has been begun, which leaves the width as it is.
+void TestTextWriting::theFrameOfATextIsSeenFromTheBeginning()
+{
+    Desk desk;
+    desk.click({500, 300});
+    const auto isWithinItsText = [&desk] {
+        constexpr int inside = 3;
+        const QRectF place = desk.placeOf(desk.page().objects().constFirst());
+        const QRect box = desk.view().mapFromScene(place).boundingRect().adjusted(-inside, -inside, inside, inside);
+        const QRegion covered = desk.editor()->mask().translated(desk.editor()->pos());
+        return !covered.isEmpty() && box.contains(covered.boundingRect());
+    };
+    QVERIFY(isWithinItsText());
+    desk.type("Light");
+    QVERIFY(isWithinItsText());
+    desk.strike(Qt::Key_Return);
+    QVERIFY(isWithinItsText());
+}
+
+void TestTextWriting::lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped()
+{
+    Desk desk;
+    desk.window().toolSettings()->setColor(Tool::Text, Qt::white);
+    desk.click({500, 300});
+    desk.type("Light");
+    const QImage drawn = desk.view().viewport()->grab().toImage();
+    // Behind white letters the paper is dark, also left of them and above.
+    const QPoint letters = desk.editor()->viewport()->mapTo(desk.view().viewport(), QPoint());
+    const QColor paper = drawn.pixelColor(letters + QPoint(1, 1));
+    QVERIFY(paper.lightness() < 100);
+    QCOMPARE(drawn.pixelColor(letters.x() - 1, letters.y() + 5), paper);
+    QCOMPARE(drawn.pixelColor(letters.x() + 5, letters.y() - 1), paper);
+}
+
 void TestTextWriting::lettersAreWholeAndInTheirPlace_data()
 {
     QTest::addColumn<double>("zoom");
@@ -355,6 +400,52 @@ void TestTextWriting::lettersAreWholeAndInTheirPlace()
     const QFontMetrics letters(desk.editor()->font());
     QVERIFY(covered.contains(
         QRect(start() + QPoint(1, 1), QSize(letters.horizontalAdvance("Light"), letters.height() - 1))));
+}
+
+void TestTextWriting::theTextToolIsShownWhileLettersAreWritten()
+{
+    Desk desk;
+    desk.click({500, 300});
+    QVERIFY(desk.button(Tool::Text)->isChecked() && !desk.button(Tool::Select)->isChecked());
+    desk.type("Light");
+    QVERIFY(desk.button(Tool::Text)->isChecked());
+    desk.end();
+    QVERIFY(!desk.button(Tool::Text)->isChecked() && desk.button(Tool::Select)->isChecked());
+    desk.doubleClick({505, 300});
+    QVERIFY(desk.editor());
+    QVERIFY(desk.button(Tool::Text)->isChecked());
+}
+
+void TestTextWriting::pressingAToolEndsTheText_data()
+{
+    QTest::addColumn<int>("tool");
+    QTest::newRow("Select") << int(Tool::Select);
+    QTest::newRow("Pen") << int(Tool::Pen);
+    QTest::newRow("Text") << int(Tool::Text);
+}
+
+void TestTextWriting::pressingAToolEndsTheText()
+{
+    QFETCH(int, tool);
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.clickOn(desk.button(Tool(tool)));
+    QVERIFY(!desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool(tool));
+    QVERIFY(desk.button(Tool(tool))->isChecked());
+    QCOMPARE(desk.written(0), QString("Light"));
+}
+
+void TestTextWriting::aToolFromTheMenuEndsTheText()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.window().commands()->action(board::Command::PenTool)->trigger();
+    QVERIFY(!desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Pen);
+    QCOMPARE(desk.written(0), QString("Light"));
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()

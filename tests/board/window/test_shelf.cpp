@@ -29,6 +29,7 @@ private Q_SLOTS:
     void shelfIsThereForToolsWithSomethingToChoose();
     void pressOnAColourGivesItToThePen();
     void pressOnAWidthGivesItToThePen();
+    void sizesOfLettersAreShownAsLetters();
     void variantsOfTheEraserAreInItsMenu();
     void shelfCoversNoPartOfThePage_data();
     void shelfCoversNoPartOfThePage();
@@ -90,6 +91,31 @@ void TestShelf::pressOnAWidthGivesItToThePen()
     QCOMPARE(board.window().toolSettings()->width(Tool::Pen), 14.0);
     QVERIFY(button(board, "Width 14")->isChecked());
     QVERIFY(!button(board, "Width 4")->isChecked());
+}
+
+void TestShelf::sizesOfLettersAreShownAsLetters()
+{
+    BoardDriver board;
+    board.key(Qt::Key_T);
+    const board::ShelfButton *usual = button(board, "Letters of size 24");
+    QVERIFY(usual && usual->isChecked());
+    QVERIFY(!button(board, "Width 24"));
+    const auto inkOf = [&board](const char *name) {
+        const QImage drawn = button(board, name)->grab().toImage();
+        QRegion ink;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                if (drawn.pixelColor(x, y).lightness() < 128)
+                    ink |= QRect(x, y, 1, 1);
+        return ink;
+    };
+    const QRegion large = inkOf("Letters of size 60");
+    const int middling = inkOf("Letters of size 36").boundingRect().height();
+    QVERIFY(large.boundingRect().height() > middling);
+    QVERIFY(middling > inkOf("Letters of size 16").boundingRect().height());
+    // It stands on two feet.
+    const QRect box = large.boundingRect();
+    QCOMPARE((large & QRect(box.left(), box.bottom(), box.width(), 1)).rectCount(), 2);
 }
 
 void TestShelf::variantsOfTheEraserAreInItsMenu()

@@ -20,6 +20,9 @@ private Q_SLOTS:
     void theHighlighterIsTranslucent();
     void shiftMakesAStraightLineAndLettingGoBringsTheStrokeBack();
     void holdingStillMakesAStraightLine();
+    void aRestWhileWritingChangesNothing();
+    void aRestBeforeWritingChangesNothing_data();
+    void aRestBeforeWritingChangesNothing();
     void holdingStillMakesARoundStrokeACircle();
     void theCircleGrowsAsThePenMovesOn();
     void aBowHeldStillIsAnArcThatFollowsThePen();
@@ -175,7 +178,7 @@ void TestPen::holdingStillMakesAStraightLine()
     WritingDesk desk(ToolRole::Pen);
     QCOMPARE(desk.pageTool->stillTime(), 500);
     desk.press({100, 120});
-    desk.moveTo({150, 300});
+    desk.moveTo({150, 135});
     desk.moveTo({200, 120});
     desk.pageTool->heldStill();
     QCOMPARE(desk.placeOf(desk.object(0)), QRectF(96, 116, 108, 8));
@@ -186,6 +189,45 @@ void TestPen::holdingStillMakesAStraightLine()
     // The next stroke is free again.
     desk.drawAlong({{100, 420}, {150, 600}, {200, 420}});
     QCOMPARE(desk.placeOf(desk.object(1)), QRectF(96, 416, 108, 188));
+}
+
+void TestPen::aRestWhileWritingChangesNothing()
+{
+    WritingDesk desk(ToolRole::Pen);
+    drawAndHold(desk, {{100, 120}, {120, 160}, {140, 120}, {160, 160}, {180, 120}});
+    QCOMPARE(desk.placeOf(desk.object(0)), QRectF(96, 116, 88, 48));
+    // The rest of the word.
+    desk.moveTo({200, 200});
+    desk.release({220, 120});
+    QCOMPARE(desk.placeOf(desk.object(0)), QRectF(96, 116, 128, 88));
+}
+
+void TestPen::aRestBeforeWritingChangesNothing_data()
+{
+    QTest::addColumn<double>("pixel");
+    QTest::addColumn<double>("length");
+    QTest::addColumn<bool>("isStraightened");
+    QTest::newRow("23 pixels") << 1.0 << 23.0 << false;
+    QTest::newRow("24 pixels") << 1.0 << 24.0 << true;
+    QTest::newRow("near") << 0.5 << 12.0 << true;
+    QTest::newRow("from afar") << 2.0 << 47.0 << false;
+}
+
+void TestPen::aRestBeforeWritingChangesNothing()
+{
+    QFETCH(double, pixel);
+    QFETCH(double, length);
+    QFETCH(bool, isStraightened);
+    WritingDesk desk(ToolRole::Pen);
+    pagehost::PageScene *scene = desk.page->scene();
+    scene->pressTool({{100, 120}, -1, pixel, Qt::NoModifier});
+    scene->moveTool({{100 + length, 120}, -1, pixel, Qt::NoModifier});
+    desk.pageTool->heldStill();
+    // A line ends where the pen goes on to, other strokes go there by the way.
+    scene->moveTool({{100 + length, 220}, -1, pixel, Qt::NoModifier});
+    scene->moveTool({{100, 420}, -1, pixel, Qt::NoModifier});
+    scene->releaseTool({{100, 420}, -1, pixel, Qt::NoModifier});
+    QCOMPARE(desk.placeOf(desk.object(0)).width() < 8 + length, isStraightened);
 }
 
 void TestPen::holdingStillMakesARoundStrokeACircle()

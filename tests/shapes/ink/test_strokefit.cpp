@@ -114,7 +114,9 @@ private Q_SLOTS:
     void farAwayCirclesAreRound();
     void strokesOfAnySizeGiveNumbers_data();
     void strokesOfAnySizeGiveNumbers();
-    void squareLeadsNowhereAndAZigZagAway();
+    void onlyStrokesThatGoStraightAreMeantAsLines();
+    void writingIsNoLine_data();
+    void writingIsNoLine();
 };
 
 void TestStrokeFit::linesAndScrawlsAreStraight_data()
@@ -388,16 +390,39 @@ void TestStrokeFit::strokesOfAnySizeGiveNumbers()
     }
 }
 
-void TestStrokeFit::squareLeadsNowhereAndAZigZagAway()
+void TestStrokeFit::onlyStrokesThatGoStraightAreMeantAsLines()
 {
-    QVERIFY(!ink::leadsAway({{0, 0}, {100, 0}, {100, 100}, {0, 100}, {0, 10}}));
-    QVERIFY(ink::leadsAway({{0, 0}, {20, 40}, {40, 0}, {60, 40}, {80, 0}}));
-    // Three tenths of the diagonal of the box are just enough.
-    QVERIFY(ink::leadsAway({{0, 0}, {60, 80}, {18, 24}}));
-    QVERIFY(!ink::leadsAway({{0, 0}, {60, 80}, {17, 24}}));
-    QVERIFY(!ink::leadsAway({}));
-    const double none = std::nan("");
-    QVERIFY(!ink::leadsAway({{none, 0}}));
+    QVERIFY(ink::runsStraight({{5, 5}, {90, 60}}));
+    QVERIFY(ink::runsStraight(trembling(along({{0, 0}, {300, 100}}), 2)));
+    // A fifth of the line beside it is just near enough.
+    QVERIFY(ink::runsStraight({{0, 0}, {50, 20}, {100, 0}}));
+    QVERIFY(!ink::runsStraight({{0, 0}, {50, 21}, {100, 0}}));
+    // So is a way that is longer by a half.
+    QVERIFY(ink::runsStraight({{0, 0}, {100, 0}, {75, 0}, {100, 0}}));
+    QVERIFY(!ink::runsStraight({{0, 0}, {100, 0}, {74, 0}, {100, 0}}));
+}
+
+void TestStrokeFit::writingIsNoLine_data()
+{
+    QTest::addColumn<Places>("stroke");
+    QTest::newRow("square") << Places{{0, 0}, {100, 0}, {100, 100}, {0, 100}, {0, 10}};
+    QTest::newRow("closed square") << Places{{0, 0}, {100, 0}, {100, 100}, {0, 100}, {0, 0}};
+    QTest::newRow("letter W") << Places{{0, 0}, {20, 40}, {40, 0}, {60, 40}, {80, 0}};
+    QTest::newRow("letter L") << Places{{0, 0}, {0, 60}, {40, 60}};
+    QTest::newRow("dot") << Places{{5, 5}, {5, 5}};
+    QTest::newRow("nothing") << Places{};
+    QTest::newRow("no number") << Places{{std::nan(""), 0}};
+    Places word;
+    for (int i = 0; i <= 40; ++i)
+        word.append({i * 8.0, i % 2 ? 20.0 : 0.0});
+    QTest::newRow("low letters of a word") << word;
+}
+
+void TestStrokeFit::writingIsNoLine()
+{
+    QFETCH(Places, stroke);
+    QVERIFY(!ink::runsStraight(stroke));
+    QVERIFY(!ink::runsStraight(reversed(stroke)));
 }
 
 QTEST_APPLESS_MAIN(TestStrokeFit)

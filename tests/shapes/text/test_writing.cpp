@@ -10,6 +10,10 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+
+#include <cmath>
 
 using pagehost::ToolRole;
 
@@ -70,6 +74,7 @@ private Q_SLOTS:
     void thePanelHasASectionForItsLetters();
     void aListIsChosenInThePanel();
     void theColourIsChosenInThePanel();
+    void lettersAreAsWideAsTheFontHasThem();
     void theFontIsChosenInThePanel();
     void theBoxFitsTheLettersOfTheFont();
     void theFontIsTakenBackSavedAndRecorded();
@@ -258,6 +263,33 @@ void TestWriting::theColourIsChosenInThePanel()
     QVERIFY(desk.svgOf(text).contains("fill=\"#c9252d\""));
     undoStack()->undo();
     QVERIFY(desk.svgOf(text).contains("fill=\"#2563cf\""));
+}
+
+/// A line around them would make them bold.
+void TestWriting::lettersAreAsWideAsTheFontHasThem()
+{
+    Desk desk;
+    CBaseObject *text = desk.clicked();
+    desk.set(text, SizeId, 100.0);
+    desk.set(text, FontId, QStringLiteral("DejaVu Sans"));
+    desk.type(text, QStringLiteral("l"));
+    text->SetSettingJson(QStringLiteral("{\"idTextColour\": \"#ff000000\"}"), true, true);
+    desk.page->scene()->clearSelection();
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(100);
+    QPainterPath letter;
+    letter.addText({}, font, QStringLiteral("l"));
+    // A row of pixels through the middle of the letter.
+    const QRectF place = desk.placeOf(text);
+    QImage row(int(place.width()), 1, QImage::Format_RGB32);
+    row.fill(Qt::white);
+    QPainter painter(&row);
+    desk.page->scene()->render(&painter, row.rect(),
+                               {place.left(), std::floor(place.center().y()), row.width() / 1.0, 1});
+    double ink = 0;
+    for (int x = 0; x < row.width(); ++x)
+        ink += 1 - row.pixelColor(x, 0).lightnessF();
+    QVERIFY2(std::abs(ink - letter.boundingRect().width()) < 0.1, qPrintable(QString::number(ink)));
 }
 
 void TestWriting::theFontIsChosenInThePanel()
