@@ -5,6 +5,8 @@
 
 #include <framework/cbaseobject.h>
 
+#include <algorithm>
+
 namespace board {
 
 LabelWriting::LabelWriting(PageView *view)
@@ -34,7 +36,10 @@ bool LabelWriting::isFree(const QPoint &pos) const
     if (!m_view->isEditable() || !m_view->page()->rect().contains(m_view->mapToScene(pos)))
         return false;
     CBaseObject *object = objectAt(pos);
-    return !object || labelsOf(*object).isEmpty();
+    const QVector<EditableLabel> labels = object ? labelsOf(*object) : QVector<EditableLabel>();
+    // A locked shape is paper to write on, unless a click is meant for its own text.
+    return std::all_of(labels.begin(), labels.end(),
+                       [object](const EditableLabel &label) { return object->isLocked() && label.text.isEmpty(); });
 }
 
 /// The topmost one, or the selected one around it; handles and other aids are none.

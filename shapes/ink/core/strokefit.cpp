@@ -25,9 +25,9 @@ constexpr double flattestRatio = 10;
 /// An ellipse beside a circle that fits, too, must deviate this many times less.
 constexpr double clearlyBetter = 2;
 /// Farthest that a stroke meant as a line may be beside it, as a part of the line.
-constexpr double largestBend = 0.2;
+constexpr double largestBend = 0.45;
 /// Longest way of such a stroke in lines. A line of handwriting is longer.
-constexpr double longestWay = 1.5;
+constexpr double longestWay = 2;
 /// Determinant of the spread of places over the square of its trace, below which they are on a line.
 constexpr double leastSpread = 1e-6;
 /// Strokes that aren't higher and wider are lines.

@@ -394,12 +394,12 @@ void TestStrokeFit::onlyStrokesThatGoStraightAreMeantAsLines()
 {
     QVERIFY(ink::runsStraight({{5, 5}, {90, 60}}));
     QVERIFY(ink::runsStraight(trembling(along({{0, 0}, {300, 100}}), 2)));
-    // A fifth of the line beside it is just near enough.
-    QVERIFY(ink::runsStraight({{0, 0}, {50, 20}, {100, 0}}));
-    QVERIFY(!ink::runsStraight({{0, 0}, {50, 21}, {100, 0}}));
-    // So is a way that is longer by a half.
-    QVERIFY(ink::runsStraight({{0, 0}, {100, 0}, {75, 0}, {100, 0}}));
-    QVERIFY(!ink::runsStraight({{0, 0}, {100, 0}, {74, 0}, {100, 0}}));
+    // Something less than half of the line beside it is just near enough.
+    QVERIFY(ink::runsStraight({{0, 0}, {50, 45}, {100, 0}}));
+    QVERIFY(!ink::runsStraight({{0, 0}, {50, 46}, {100, 0}}));
+    // So is a way of twice its length.
+    QVERIFY(ink::runsStraight({{0, 0}, {100, 0}, {50, 0}, {100, 0}}));
+    QVERIFY(!ink::runsStraight({{0, 0}, {100, 0}, {49, 0}, {100, 0}}));
 }
 
 void TestStrokeFit::writingIsNoLine_data()
