@@ -159,10 +159,11 @@ PathText Curve::graph() const
     const QVector<QVector<QPointF>> pieces =
         shapekit::graphPieces([&formula](double x) { return formula.at(x); }, shown);
     PathText path;
-    for (QVector<QPointF> piece : pieces) {
-        for (QPointF &point : piece)
-            point = placed(point, shown);
-        path.graph(piece);
+    for (const QVector<QPointF> &piece : pieces) {
+        QVector<QPointF> drawn;
+        for (const QPointF &point : piece)
+            drawn.append(placed(point, shown));
+        path.graph(drawn);
     }
     return path;
 }

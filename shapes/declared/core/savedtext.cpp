@@ -29,8 +29,7 @@ QJsonObject savedAhead(QDataStream &in)
             continue;
         // As a byte array, its size stands before it.
         const quint32 size = qFromBigEndian<quint32>(ahead.constData() + place - sizeBytes);
-        const QJsonObject saved =
-            QJsonDocument::fromJson(ahead.mid(place, int(qMin(size, quint32(mostBytes))))).object();
+        QJsonObject saved = QJsonDocument::fromJson(ahead.mid(place, int(qMin(size, quint32(mostBytes))))).object();
         if (!saved.isEmpty())
             return saved;
     }

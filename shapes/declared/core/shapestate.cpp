@@ -150,7 +150,7 @@ Value ShapeState::valueOf(const Expression &expression)
     if (!m_letsAreValid)
         evaluateLets();
     const bool wasExhausted = m_budget.isExhausted;
-    const Value value = Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(expression);
+    Value value = Evaluator(m_declaration.program, m_inputs, m_budget).valueOf(expression);
     if (m_budget.isExhausted && !wasExhausted)
         note("C41", expression.place, QStringLiteral("the drawing takes too many steps, or too much text"));
     else if (!value.isFinite() && !m_budget.isExhausted)
