@@ -1,3 +1,6 @@
+#include "pages/snapper.h"
+
+#include <pagehost/pagescene.h>
 #include <pagehost/writing.h>
 
 #include <framework/cbaseobject.h>
@@ -18,6 +21,10 @@ void setBeingWritten(CBaseObject &object, bool isWritten)
     if (isWritten == isBeingWritten(object))
         return;
     object.setProperty(propertyName, isWritten);
+    if (auto *scene = dynamic_cast<PageScene *>(object.scene()); scene && isWritten) {
+        scene->snapper().clearGuides();
+        scene->updateGuides();
+    }
     // Frames and grips lie on top of the whole page.
     if (object.scene())
         object.scene()->update();

@@ -1,5 +1,6 @@
 #include <pagehost/objectplugin.h>
 #include <pagehost/recorder.h>
+#include <pagehost/writing.h>
 
 #include "framework/editor.h"
 #include "framework/handlepoints.h"
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void shiftedCornerCatchesInProportion();
     void shiftCountsWithoutAMove();
     void guideIsSeenUntilAMomentAfterTheDrop();
+    void writingTakesTheGuideAway();
     void escapeTakesTheGuideAway();
     void gridIsSeen();
 };
@@ -426,6 +428,17 @@ void TestSnappedDrags::guideIsSeenUntilAMomentAfterTheDrop()
     support::pass(390);
     QVERIFY(desk.showsGuideAt({400, 420}));
     support::pass(20);
+    QVERIFY(!desk.showsGuideAt({400, 420}));
+}
+
+/// Whoever looks at the object behind the letters sees it without.
+void TestSnappedDrags::writingTakesTheGuideAway()
+{
+    Desk desk;
+    desk.carryTo({403, 500});
+    desk.release({453, 530});
+    QVERIFY(desk.showsGuideAt({400, 420}));
+    pagehost::setBeingWritten(*desk.object, true);
     QVERIFY(!desk.showsGuideAt({400, 420}));
 }
 
