@@ -63,7 +63,7 @@ bool Evaluator::exhausted()
 
 Value Evaluator::argument(const Step &step, int index)
 {
-    return run(m_program.arguments[size_t(step.firstArgument + index)]);
+    return run(m_program.arguments[size_t(step.firstArgument) + size_t(index)]);
 }
 
 Value Evaluator::run(qint32 index)
@@ -72,7 +72,7 @@ Value Evaluator::run(qint32 index)
         return Value::notFinite();
     --m_stepsLeft;
     const Step &step = m_program.steps[size_t(index)];
-    const Value result = resultOf(step);
+    Value result = resultOf(step);
     // Charge each piece of text once, where it is made.
     if (step.type == Type::Text && !isComposed(step.operation))
         payFor(result.text.size());
@@ -207,7 +207,7 @@ Value Evaluator::called(const Step &step)
         arguments.append(argument(step, i));
     const QScopedValueRollback<int> frame(m_frame, m_locals.size());
     m_locals.append(arguments.constData(), arguments.size());
-    const Value result = run(function.step);
+    Value result = run(function.step);
     m_locals.resize(m_frame);
     return result;
 }
@@ -225,7 +225,7 @@ Value Evaluator::joined(const Step &step)
     QString text;
     bool isFinite = true;
     for (int i = 0; i < step.argumentCount && !m_budget.isExhausted; ++i) {
-        const qint32 part = m_program.arguments[size_t(step.firstArgument + i)];
+        const qint32 part = m_program.arguments[size_t(step.firstArgument) + size_t(i)];
         isFinite &= appendPart(text, run(part), m_program.steps[size_t(part)].type);
     }
     return isFinite ? Value(text) : Value::notFinite();

@@ -2,6 +2,7 @@
 
 #include <declared/reader/filereader.h>
 
+#include <QtCore/QRectF>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
 #include <QtCore/QXmlStreamWriter>
