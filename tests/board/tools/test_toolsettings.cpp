@@ -39,6 +39,7 @@ void TestToolSettings::everyToolBeginsWithSomethingOnOffer()
     for (const Tool tool : {Tool::Pen, Tool::Eraser, Tool::Text, Tool::Line})
         QVERIFY(settings.widths(tool).contains(settings.width(tool)));
     QCOMPARE(settings.variants(Tool::Line).size(), 3);
+    QCOMPARE(settings.variants(Tool::Connector).size(), 4);
     QVERIFY(settings.colors(Tool::Eraser).isEmpty());
     QVERIFY(settings.widths(Tool::Select).isEmpty());
 }
