@@ -62,7 +62,7 @@ void TestToolSettings::penAndLineHaveColorsOfTheirOwn()
 {
     ToolSettings settings;
     settings.setColor(Tool::Line, QColor(Qt::red));
-    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).first());
+    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).constFirst());
 }
 
 void TestToolSettings::severalPensKeepTheirLooks()
@@ -155,7 +155,7 @@ void TestToolSettings::rememberedNonsenseIsIgnored()
     remembered.setValue("tools/pen/width", "nan");
     remembered.setValue("tools/line/variant", 77);
     const ToolSettings settings;
-    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).first());
+    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).constFirst());
     QCOMPARE(settings.width(Tool::Pen), 4.0);
     QCOMPARE(settings.variant(Tool::Line), 0);
 }
