@@ -38,6 +38,8 @@ QVector<TextEntry> toolTexts()
         {"IDS_BOARD_LINE_CURVE", QT_TRANSLATE_NOOP("board", "Curved line")},
         {"IDS_BOARD_CONNECTOR_STRAIGHT", QT_TRANSLATE_NOOP("board", "Straight connector")},
         {"IDS_BOARD_CONNECTOR_ANGLED", QT_TRANSLATE_NOOP("board", "Right-angled connector")},
+        {"IDS_BOARD_CONNECTOR_ARROW", QT_TRANSLATE_NOOP("board", "Straight arrow")},
+        {"IDS_BOARD_CONNECTOR_ANGLED_ARROW", QT_TRANSLATE_NOOP("board", "Right-angled arrow")},
     };
 }
 

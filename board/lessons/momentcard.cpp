@@ -6,6 +6,7 @@
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 namespace board {
@@ -57,6 +58,18 @@ void MomentCard::setPicture(const QImage &picture)
     QPixmap pixmap = QPixmap::fromImage(picture);
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     m_picture->setPixmap(pixmap);
+    update();
+}
+
+/// Of the picture, so that pages of any shape have their edge; of the room for it while there is none.
+QRect MomentCard::framedRect() const
+{
+    const QRect room = m_picture->geometry();
+    const QPixmap picture = m_picture->pixmap(Qt::ReturnByValue);
+    if (picture.isNull())
+        return room;
+    const QSize size = picture.size() / picture.devicePixelRatio();
+    return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, room) & room;
 }
 
 void MomentCard::paintEvent(QPaintEvent *)
@@ -65,7 +78,7 @@ void MomentCard::paintEvent(QPaintEvent *)
     paintSurface(&painter, *this);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(m_picture->geometry().adjusted(-1, -1, 0, 0));
+    painter.drawRect(framedRect().adjusted(-1, -1, 0, 0));
 }
 
 } // namespace board

@@ -27,6 +27,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect framedRect() const;
+
     QLabel *m_picture;
     QLabel *m_caption;
 };

@@ -23,12 +23,13 @@ constexpr double smallestPointSize = 8;
 
 bool fits(const QString &text, const QFont &font, const QSize &room)
 {
-    const QFontMetrics metrics(font);
+    // Drawn letters aren't rounded: a word may be a part of a pixel wider than the sum of rounded ones.
+    const QFontMetricsF metrics(font);
     const QStringList words = text.split(QLatin1Char(' '));
     for (const QString &word : words)
         if (metrics.horizontalAdvance(word) > room.width())
             return false;
-    const QRect lines = metrics.boundingRect(QRect(0, 0, room.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, text);
+    const QRectF lines = metrics.boundingRect(QRectF(0, 0, room.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, text);
     return lines.height() <= room.height();
 }
 

@@ -87,7 +87,8 @@ const QVector<ToolOffer> &offers()
          inks,
          {2, 4, 8},
          0,
-         {QStringLiteral("IDS_BOARD_CONNECTOR_STRAIGHT"), QStringLiteral("IDS_BOARD_CONNECTOR_ANGLED")},
+         {QStringLiteral("IDS_BOARD_CONNECTOR_STRAIGHT"), QStringLiteral("IDS_BOARD_CONNECTOR_ANGLED"),
+          QStringLiteral("IDS_BOARD_CONNECTOR_ARROW"), QStringLiteral("IDS_BOARD_CONNECTOR_ANGLED_ARROW")},
          {},
          {}}};
     return offers;

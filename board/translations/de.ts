@@ -164,6 +164,14 @@
         <translation>Rechtwinklige Verbindung</translation>
     </message>
     <message>
+        <source>Straight arrow</source>
+        <translation>Gerader Pfeil</translation>
+    </message>
+    <message>
+        <source>Right-angled arrow</source>
+        <translation>Rechtwinkliger Pfeil</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>

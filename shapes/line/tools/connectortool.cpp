@@ -18,8 +18,11 @@ const shapekit::Text &ConnectorTool::stepText()
 void ConnectorTool::begin(Line &line, const pagehost::ToolPointer &pointer)
 {
     m_from = page().connectionAt(pointer);
-    const bool isAngled = style().variant == pagehost::AngledConnector;
-    line.begin(pointer.pos, style().color, style().width, Line::Plain, isAngled ? Line::Angled : Line::Direct);
+    const int variant = style().variant;
+    const bool isAngled = variant == pagehost::AngledConnector || variant == pagehost::AngledArrow;
+    const bool isArrow = variant == pagehost::StraightArrow || variant == pagehost::AngledArrow;
+    line.begin(pointer.pos, style().color, style().width, isArrow ? Line::Arrow : Line::Plain,
+               isAngled ? Line::Angled : Line::Direct);
     line.join(0, numberOf(m_from), m_from.place);
     page().highlight(m_from.object);
 }

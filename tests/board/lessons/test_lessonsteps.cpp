@@ -8,6 +8,7 @@
 #include <lessons/lessoncontroller.h>
 #include <lessons/momentcard.h>
 #include <lessons/timeline.h>
+#include <look/theme.h>
 #include <page/pageview.h>
 #include <window/mainwindow.h>
 
@@ -113,6 +114,7 @@ private Q_SLOTS:
     void lineIsInPiecesOfChapters();
     void mouseOverTheLineShowsTheMoment();
     void pictureOfAnEarlierMomentIsShown();
+    void pictureOfATallPageHasAFrame();
     void cardGoesWithTheMouse();
     void returnTakesThePageOver();
     void pageTakenOverAtAnotherZoomIsTheSame();
@@ -390,6 +392,24 @@ void TestLessonSteps::pictureOfAnEarlierMomentIsShown()
     pointAt(room, 0);
     QCOMPARE(room.bar()->card()->caption()->text(), QStringLiteral("0:00"));
     QVERIFY(support::passUntil([&room] { return inkOf(room) == 0; }));
+}
+
+void TestLessonSteps::pictureOfATallPageHasAFrame()
+{
+    QWidget window;
+    board::MomentCard card(&window);
+    card.showAt({200, 200}, QStringLiteral("0:00"));
+    QImage page(60, 90, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    card.setPicture(page);
+    const QImage drawn = card.grab().toImage();
+    const QRect room = card.picture()->geometry();
+    const QRect picture(room.center().x() - 29, room.top(), 60, 90);
+    const QColor border = board::themeColors().border;
+    for (const QPoint &edge : {picture.topLeft() + QPoint(-1, 40), picture.topRight() + QPoint(1, 40),
+                               picture.topLeft() + QPoint(30, -1), picture.bottomLeft() + QPoint(30, 1)})
+        QCOMPARE(drawn.pixelColor(edge), border);
+    QCOMPARE(drawn.pixelColor(room.left() - 1, room.center().y()), board::themeColors().surface);
 }
 
 void TestLessonSteps::cardGoesWithTheMouse()

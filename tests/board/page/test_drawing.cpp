@@ -17,6 +17,7 @@
 
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
+#include <QtGui/QTextLayout>
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
@@ -55,6 +56,8 @@ private Q_SLOTS:
     void paletteBeginsWithTheBasicShapes();
     void namesInThePaletteCanBeRead_data();
     void namesInThePaletteCanBeRead();
+    void wordsInThePaletteAreNotBroken_data();
+    void wordsInThePaletteAreNotBroken();
 };
 
 void TestDrawing::dragInAnyDirectionFillsTheDraggedRectangle_data()
@@ -389,6 +392,38 @@ void TestDrawing::namesInThePaletteCanBeRead()
         for (const QString &word : support::listed(button->text().split(' ')))
             QVERIFY2(QFontMetrics(font).horizontalAdvance(word) <= button->width(), qPrintable(word));
     }
+}
+
+void TestDrawing::wordsInThePaletteAreNotBroken_data()
+{
+    namesInThePaletteCanBeRead_data();
+}
+
+/// With the letters of any desktop that fit at all.
+void TestDrawing::wordsInThePaletteAreNotBroken()
+{
+    QFETCH(QString, language);
+    BoardDriver board(language);
+    for (board::PaletteButton *button : support::listed(board.window().palettePanel()->buttons()))
+        for (double size = 8; size <= 14; size += 0.5) {
+            QFont usual = QApplication::font();
+            usual.setPointSizeF(size);
+            button->setFont(usual);
+            QTextLayout layout(button->text(), button->nameFont());
+            QTextOption wrapped;
+            wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+            layout.setTextOption(wrapped);
+            layout.beginLayout();
+            constexpr int edges = 10;
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+                line.setLineWidth(button->width() - edges);
+                const int end = line.textStart() + line.textLength();
+                const bool isWhole = end == button->text().size() || button->text().at(end - 1) == ' ' ||
+                                     button->text().at(end - 1) == '-';
+                QVERIFY2(isWhole || button->nameFont().pointSizeF() <= 8, qPrintable(button->text()));
+            }
+            layout.endLayout();
+        }
 }
 
 QTEST_MAIN(TestDrawing)

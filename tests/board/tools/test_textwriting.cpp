@@ -11,6 +11,7 @@
 #include <tools/toolsettings.h>
 #include <window/dock.h>
 #include <window/mainwindow.h>
+#include <window/typingbar.h>
 
 #include <pagehost/commands.h>
 #include <pagehost/objectregistry.h>
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void pressingAToolEndsTheText_data();
     void pressingAToolEndsTheText();
     void aToolFromTheMenuEndsTheText();
+    void theBarOfLettersMovesToTheNextText();
     void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
@@ -451,6 +453,24 @@ void TestTextWriting::aToolFromTheMenuEndsTheText()
     QVERIFY(!desk.editor());
     QCOMPARE(desk.tools().tool(), Tool::Pen);
     QCOMPARE(desk.written(0), QString("Light"));
+}
+
+void TestTextWriting::theBarOfLettersMovesToTheNextText()
+{
+    Desk desk;
+    const auto *bar = desk.window().findChild<board::TypingBar *>();
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    const QRect before = bar->geometry();
+    desk.tools().choose(Tool::Text);
+    desk.click({900, 600});
+    QCoreApplication::processEvents();
+    QVERIFY(bar->isVisible());
+    const QRect frame = desk.editor()->geometry().translated(desk.view().viewport()->pos());
+    QCOMPARE(frame.top() - bar->geometry().bottom() - 1, 12);
+    QVERIFY(bar->geometry().left() > before.left());
+    QCOMPARE(bar->geometry().size(), before.size());
 }
 
 void TestTextWriting::aKeptToolWritesTheNextText()

@@ -39,6 +39,7 @@ void TestToolSettings::everyToolBeginsWithSomethingOnOffer()
     for (const Tool tool : {Tool::Pen, Tool::Eraser, Tool::Text, Tool::Line})
         QVERIFY(settings.widths(tool).contains(settings.width(tool)));
     QCOMPARE(settings.variants(Tool::Line).size(), 3);
+    QCOMPARE(settings.variants(Tool::Connector).size(), 4);
     QVERIFY(settings.colors(Tool::Eraser).isEmpty());
     QVERIFY(settings.widths(Tool::Select).isEmpty());
 }
@@ -61,7 +62,7 @@ void TestToolSettings::penAndLineHaveColorsOfTheirOwn()
 {
     ToolSettings settings;
     settings.setColor(Tool::Line, QColor(Qt::red));
-    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).first());
+    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).constFirst());
 }
 
 void TestToolSettings::severalPensKeepTheirLooks()
@@ -154,7 +155,7 @@ void TestToolSettings::rememberedNonsenseIsIgnored()
     remembered.setValue("tools/pen/width", "nan");
     remembered.setValue("tools/line/variant", 77);
     const ToolSettings settings;
-    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).first());
+    QCOMPARE(settings.color(Tool::Pen), settings.colors(Tool::Pen).constFirst());
     QCOMPARE(settings.width(Tool::Pen), 4.0);
     QCOMPARE(settings.variant(Tool::Line), 0);
 }

@@ -168,7 +168,6 @@ private Q_SLOTS:
     void barShowsWhileATextIsWritten();
     void barHasTheLettersOfTheText();
     void barStandsBesideTheTextAndStaysWhileItGrows();
-    void barMovesToTheNextText();
     void pressedButtonLeavesTheKeysInTheText();
     void sizeIsChosenWhileTheTextIsWritten();
     void fontsAreThoseOfTheMachine();
@@ -240,22 +239,6 @@ void TestTypingBar::barStandsBesideTheTextAndStaysWhileItGrows()
     t.choose("Font size", "96");
     QVERIFY(!t.bar->geometry().intersects(frame()));
     QVERIFY(t.board.view().rect().contains(t.bar->geometry()));
-}
-
-void TestTypingBar::barMovesToTheNextText()
-{
-    Writing t;
-    t.type("Light");
-    t.end();
-    const QRect before = t.bar->geometry();
-    t.board.window().tools()->choose(Tool::Text);
-    t.board.click({900, 600});
-    support::deliverEvents();
-    QVERIFY(t.bar->isVisible());
-    const QRect frame = t.editor()->geometry().translated(t.board.view().viewport()->pos());
-    QCOMPARE(frame.top() - t.bar->geometry().bottom() - 1, 12);
-    QVERIFY(t.bar->geometry().left() > before.left());
-    QCOMPARE(t.bar->geometry().size(), before.size());
 }
 
 void TestTypingBar::pressedButtonLeavesTheKeysInTheText()

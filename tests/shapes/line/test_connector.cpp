@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aClickDrawsNothing();
     void aShapeIsNotConnectedWithItself();
     void aRightAngledConnectorLeavesTheSidesThatFace();
+    void arrowsPointAtTheSecondShape();
     void theWayIsChangedInThePanel();
     void theConnectorFollowsADraggedShape();
     void theConnectorFollowsASize();
@@ -123,6 +124,18 @@ void TestConnector::aRightAngledConnectorLeavesTheSidesThatFace()
     // Below each other, the sides between them are nearer.
     QVERIFY(pagehost::moveObjects({desk.two}, {-300, 0}));
     QCOMPARE(cornersOf(connector), (QVector<QPointF>{{150, 159}, {150, 301}}));
+}
+
+/// A line ends 7 before the tip of its head.
+void TestConnector::arrowsPointAtTheSecondShape()
+{
+    Desk straight(pagehost::StraightArrow);
+    CBaseObject *arrow = straight.connectPlaces();
+    QCOMPARE(cornersOf(arrow), (QVector<QPointF>{{200, 130}, {200, 293}}));
+    QVERIFY(pagehost::moveObjects({straight.two}, {0, 20}));
+    QCOMPARE(cornersOf(arrow), (QVector<QPointF>{{200, 130}, {200, 313}}));
+    Desk angled(pagehost::AngledArrow, farRight);
+    QCOMPARE(cornersOf(angled.connectBoth()), (QVector<QPointF>{{199, 130}, {300, 130}, {300, 330}, {394, 330}}));
 }
 
 void TestConnector::theWayIsChangedInThePanel()

@@ -34,8 +34,8 @@ struct ToolStyle
 enum EraserVariant { WholeStrokes, StrokeParts };
 /// Of ToolRole::Line.
 enum LineVariant { PlainLine, ArrowLine, CurvedLine };
-/// Of ToolRole::Connector.
-enum ConnectorVariant { StraightConnector, AngledConnector };
+/// Of ToolRole::Connector; arrows have a head at the end.
+enum ConnectorVariant { StraightConnector, AngledConnector, StraightArrow, AngledArrow };
 /// @}
 
 /// One position of the mouse, the pen or a finger.
