@@ -1,5 +1,7 @@
 #include "panels/editors/switcheditor.h"
 
+#include "look/sizes.h"
+
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 
@@ -19,6 +21,7 @@ ToggleSwitch::ToggleSwitch(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QAbstractButton::toggled, this, [this] { setMixed(false); });
+    followSizes(this, [this] { updateGeometry(); });
 }
 
 void ToggleSwitch::setMixed(bool mixed)
@@ -27,9 +30,10 @@ void ToggleSwitch::setMixed(bool mixed)
     update();
 }
 
+/// With room for fingers around it.
 QSize ToggleSwitch::sizeHint() const
 {
-    return switchSize;
+    return switchSize.expandedTo({sizes().field, sizes().field});
 }
 
 bool ToggleSwitch::hitButton(const QPoint &pos) const
@@ -41,7 +45,9 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
 {
     const bool isOn = isChecked() && !m_mixed;
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    const QRectF groove = QRectF(rect()).adjusted(1, 1, -1, -1);
+    QRectF groove(QPointF(0, 0), switchSize);
+    groove.moveCenter(QRectF(rect()).center());
+    groove.adjust(1, 1, -1, -1);
     const double side = groove.height() - 2 * knobInset;
     const double way = groove.width() - 2 * knobInset - side;
     const double part = m_mixed ? 0.5 : (isOn ? 1 : 0);

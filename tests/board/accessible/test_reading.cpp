@@ -266,7 +266,8 @@ void TestReading::anObjectIsSelectedByItsAction()
 void TestReading::aTextIsEditedByItsAction()
 {
     ReadBoard t;
-    QVERIFY(!t.object(1)->actionInterface()->actionNames().contains("edit"));
+    t.board.draw("shapes.ring", {900, 100}, {1000, 200});
+    QVERIFY(!t.object(2)->actionInterface()->actionNames().contains("edit"));
     t.board.key(Qt::Key_T);
     t.board.click({100, 100});
     auto *editor = t.board.view().findChild<board::LabelEditor *>();
@@ -275,7 +276,7 @@ void TestReading::aTextIsEditedByItsAction()
     QTest::keyClick(editor, Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!t.board.view().isWriting());
-    QAccessibleActionInterface *actions = t.object(2)->actionInterface();
+    QAccessibleActionInterface *actions = t.object(3)->actionInterface();
     QVERIFY(actions->actionNames().contains("edit"));
     actions->doAction("edit");
     QVERIFY(t.board.view().isWriting());
