@@ -206,7 +206,7 @@ void TestLabelLayout::pathOfLettersHasHundredths()
     QPainterPath outline;
     outline.moveTo(0.123456, 1);
     outline.lineTo(2, 3.999);
-    QCOMPARE(pathOfLetters(outline, {10, 20}), QStringLiteral("M10.12 21 L12 24"));
+    QCOMPARE(pathOfLetters(outline, {10, 20}), QStringLiteral("M10.12 21 L12 24 "));
     QCOMPARE(pathOfLetters({}, {10, 20}), QStringLiteral("M0 0"));
 }
 
