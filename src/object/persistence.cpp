@@ -135,5 +135,6 @@ void CSVGObj::regenRegionShape(QGraphicsItem *item)
         svgBase && svgBase->getSVGType() != RectangularRegionShape && svgBase->getOutlinePath(regionPath);
     if (!hasOutline)
         regionPath->addRect(clientRect);
-    CPSRootObject::regenRegionShape(item); // Deliberately the root's. clazy:exclude=skipped-base-method
+    // Deliberately the root's.
+    CPSRootObject::regenRegionShape(item); // NOLINT(bugprone-parent-virtual-call) clazy:exclude=skipped-base-method
 }

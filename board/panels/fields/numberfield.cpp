@@ -77,12 +77,6 @@ QSize NumberField::sizeHint() const
     return QDoubleSpinBox::sizeHint().expandedTo({0, sizes().field});
 }
 
-/// A low panel scrolls.
-QSize NumberField::minimumSizeHint() const
-{
-    return QDoubleSpinBox::minimumSizeHint().expandedTo({0, sizes().field});
-}
-
 QString NumberField::textFromValue(double number) const
 {
     return m_mixed ? mixedSign : numberText(number);

@@ -26,7 +26,6 @@ public:
     /// Takes angles of any size, as those from 0 to below 360.
     void takeAngles();
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
     /// Shows a number without telling anybody.
     void showNumber(double number);
     void showMixed();

@@ -197,6 +197,7 @@ void TestLargeSizes::panel()
     const Desk desk(large);
     const board::Drawer *panel = desk.window().panel();
     QCOMPARE(panel->width(), large ? 360 : 296);
+    QCoreApplication::processEvents();
     const auto fields = panel->findChildren<board::NumberField *>();
     QVERIFY(!fields.isEmpty());
     for (const board::NumberField *field : fields)
