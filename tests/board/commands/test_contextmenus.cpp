@@ -52,7 +52,7 @@ QMenu *menu(const BoardDriver &board, const QString &name)
 QString openMenu(const BoardDriver &board)
 {
     QStringList open;
-    for (const QString name : {"objectMenu", "pageMenu", "thumbnailMenu"})
+    for (const char *name : {"objectMenu", "pageMenu", "thumbnailMenu"})
         if (menu(board, name)->isVisible())
             open.append(name);
     return open.join(' ');
