@@ -14,6 +14,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QMimeData>
+#include <QtCore/QtMath>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
