@@ -2,7 +2,6 @@
 
 #include "board/boarddriver.h"
 
-#include <support/listed.h>
 #include <support/virtualtime.h>
 
 #include <lessons/lessoncontroller.h>
@@ -16,6 +15,7 @@
 #include <framework/cbaseobject.h>
 
 #include <QtCore/QDataStream>
+#include <QtCore/QHash>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QScrollBar>
@@ -115,8 +115,8 @@ void TestAnimation::drawnPendulumSwings()
 void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
 {
     BoardDriver driver;
-    QMap<CBaseObject *, int> pictures;
-    QMap<CBaseObject *, QString> kinds;
+    QHash<CBaseObject *, int> pictures;
+    QHash<CBaseObject *, QString> kinds;
     const QVector<pagehost::ObjectKind> drawable = driver.drawableKinds();
     for (const pagehost::ObjectKind &kind : drawable) {
         const QPointF corner(20 + kinds.size() % 6 * 120, 20 + kinds.size() / 6 * 120);
@@ -128,13 +128,14 @@ void TestAnimation::clockGearsAndPendulumPlayAndNothingElse()
             [&](CBaseObject *object) { ++pictures[object]; });
     support::pass(someTime);
     QStringList playing;
-    for (CBaseObject *object : support::listed(kinds.keys())) {
+    for (auto kind = kinds.cbegin(); kind != kinds.cend(); ++kind) {
+        CBaseObject *object = kind.key();
         if (plays(object))
             QVERIFY(pictures.value(object) > 1);
         else
             QVERIFY(pictures.value(object) <= 1);
         if (plays(object))
-            playing.append(kinds.value(object));
+            playing.append(*kind);
     }
     playing.sort();
     QCOMPARE(playing, QStringList({"shapes.clock", "shapes.gears", pendulum}));

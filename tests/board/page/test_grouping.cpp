@@ -494,7 +494,7 @@ void TestGrouping::copyMadeInAGroupBelongsToIt()
     t.doubleClick(0);
     copy(t);
     QCOMPARE(t.board.selection().size(), 1);
-    CBaseObject *made = t.board.selection().first();
+    CBaseObject *made = t.board.selection().constFirst();
     QVERIFY(!t.shapes.contains(made));
     QCOMPARE(t.board.page().objects(), (Objects{t.shapes[0], t.shapes[1], made, t.shapes[2]}));
     QVERIFY(t.board.page().enteredGroup() != 0);

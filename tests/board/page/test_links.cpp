@@ -187,9 +187,9 @@ void TestLinks::theLinkIsOneStepWithTheLetters()
     QTest::keyClicks(desk.editor(), QStringLiteral("I "));
     desk.end();
     QCOMPARE(desk.history().count(), steps + 1);
-    QCOMPARE(board::labelsOf(*desk.text)[0].text, QStringLiteral("I see there"));
+    QCOMPARE(board::labelsOf(*desk.text).at(0).text, QStringLiteral("I see there"));
     desk.history().undo();
-    QCOMPARE(board::labelsOf(*desk.text)[0].text, QStringLiteral("see there"));
+    QCOMPARE(board::labelsOf(*desk.text).at(0).text, QStringLiteral("see there"));
     QCOMPARE(desk.linkThere(), QString());
     desk.history().redo();
     QCOMPARE(desk.linkThere(), address);
