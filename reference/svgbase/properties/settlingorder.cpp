@@ -40,12 +40,12 @@ SettlingOrder::SettlingOrder(const QHash<QString, QString> &values)
         places.insert(at.key(), m_entries.size());
         m_entries.append({at.key(), {}});
     }
-    for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
-        const QString value = values.value(entry->name);
-        for (const QString &name : referencedNames(value)) {
+    for (Entry &entry : m_entries) {
+        const auto names = referencedNames(values.value(entry.name));
+        for (const QString &name : names) {
             const auto place = places.constFind(name);
             if (place != places.constEnd())
-                entry->references.append(*place);
+                entry.references.append(*place);
         }
     }
 }

@@ -14,7 +14,6 @@
 
 namespace declared {
 
-using shapekit::LabelLayout;
 using shapekit::LabelLine;
 using shapekit::LabelLook;
 
