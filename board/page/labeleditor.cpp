@@ -191,17 +191,21 @@ void LabelEditor::takePlace(double furtherRoom)
         setMask((QRegion(drawn) | lettersAtCorner()) & rect());
 }
 
-/// The view as it is behind the editor, without the letters.
+/// The view as it is behind the editor, without the letters. An editor may be many times larger than the view.
 void LabelEditor::takePaper()
 {
     m_paper = QPixmap();
     if (!hideDrawnLetters(true))
         return;
-    m_paper = QPixmap(size() * devicePixelRatioF());
-    m_paper.setDevicePixelRatio(devicePixelRatioF());
-    QPainter painter(&m_paper);
-    painter.setRenderHints(m_view->renderHints());
-    m_view->render(&painter, QRectF(QPointF(0, 0), size()), geometry());
+    const QRect seen = geometry() & m_view->viewport()->rect();
+    if (!seen.isEmpty()) {
+        m_paper = QPixmap(seen.size() * devicePixelRatioF());
+        m_paper.setDevicePixelRatio(devicePixelRatioF());
+        m_paperCorner = seen.topLeft() - pos();
+        QPainter painter(&m_paper);
+        painter.setRenderHints(m_view->renderHints());
+        m_view->render(&painter, QRectF(QPointF(0, 0), seen.size()), seen);
+    }
     hideDrawnLetters(false);
 }
 
@@ -220,7 +224,7 @@ void LabelEditor::paintPaper()
     if (m_paper.isNull())
         painter.fillRect(rect(), QColor(m_label.color.lightness() > lightLetters ? darkPaper : lightPaper));
     else
-        painter.drawPixmap(0, 0, m_paper);
+        painter.drawPixmap(m_paperCorner, m_paper);
 }
 
 /// Lines stand in the box as the object aligns them; on plain paper they begin at the top.

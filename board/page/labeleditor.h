@@ -120,6 +120,7 @@ private:
     qint32 m_linksId = 0;                      ///< the property of the links; 0 for none
     QVector<pagehost::TextLink> m_linksBefore; ///< at the beginning
     QPixmap m_paper;                           ///< the object behind the editor; null for plain paper
+    QPoint m_paperCorner;                      ///< of its upper left corner
     QPointer<QLineEdit> m_linkField;           ///< while an address is asked for
 };
 

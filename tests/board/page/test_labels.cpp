@@ -120,6 +120,7 @@ private Q_SLOTS:
     void lettersGetSmallerWhileALongTextIsTyped();
     void labelOfALineIsWrittenOnThePaperOfThePage();
     void textIsWrittenOnThePaperOfThePage();
+    void boxThatReachesOutOfTheViewIsWrittenAsItStands();
     void lettersBehindTheEditorAreHidden_data();
     void lettersBehindTheEditorAreHidden();
 
@@ -421,6 +422,25 @@ void TestLabels::textIsWrittenOnThePaperOfThePage()
     const QImage picture = board.view().writing()->editor()->grab().toImage();
     QCOMPARE(picture.pixelColor(2, 2), paper);
     QCOMPARE(picture.pixelColor(picture.width() - 3, picture.height() - 3), paper);
+}
+
+void TestLabels::boxThatReachesOutOfTheViewIsWrittenAsItStands()
+{
+    BoardDriver board;
+    CBaseObject *box = board.draw(QStringLiteral("shapes.ellipse"), {200, 200}, {500, 400});
+    board.view().setZoom(6);
+    // Its right end, where the outline crosses the box of the letters.
+    board.view().centerOn(QPointF(460, 300));
+    const QImage before = board.view().viewport()->grab().toImage();
+    board.key(Qt::Key_Return);
+    board::LabelEditor *editor = board.view().writing()->editor();
+    QVERIFY(editor);
+    editor->setCursorWidth(0);
+    const QRect place =
+        board.view().mapFromScene(box->mapToScene(board::labelsOf(*box).value(0).box)).boundingRect();
+    const QRect seen = place & board.view().viewport()->rect();
+    QVERIFY(place.left() < 0 && place.right() < board.view().viewport()->width());
+    QCOMPARE(board.view().viewport()->grab().toImage().copy(seen), before.copy(seen));
 }
 
 void TestLabels::lettersBehindTheEditorAreHidden_data()
