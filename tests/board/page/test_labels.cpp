@@ -82,7 +82,7 @@ struct OneBox
 /// Like paper of a chalkboard.
 QColor colourPage(BoardDriver &board)
 {
-    const QColor green(20, 60, 40);
+    QColor green(20, 60, 40);
     CPageBgProp background = board.page().background();
     background.setFillColor(green);
     pagehost::setPageBackground(&board.page(), background);
