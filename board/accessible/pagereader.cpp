@@ -107,8 +107,8 @@ void PageReader::followPage()
         return;
     const pagehost::Document *document = m_page->document();
     disconnect(document, nullptr, this, nullptr);
-    for (const auto signal : {&pagehost::Document::pageInserted, &pagehost::Document::pageRemoved})
-        connect(document, signal, this, [this] { m_tellPage.request(); });
+    connect(document, &pagehost::Document::pageInserted, this, [this] { m_tellPage.request(); });
+    connect(document, &pagehost::Document::pageRemoved, this, [this] { m_tellPage.request(); });
 }
 
 /// Objects of other pages keep theirs.
