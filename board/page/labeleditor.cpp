@@ -133,6 +133,11 @@ void LabelEditor::setColors()
         setStyleSheet(colors);
 }
 
+void LabelEditor::putCursorAt(const QPoint &pos)
+{
+    setTextCursor(cursorForPosition(viewport()->mapFromParent(mapFromParent(pos))));
+}
+
 void LabelEditor::followLook(const LetterLook &look)
 {
     const std::optional<EditableLabel> present = presentLabel();

@@ -63,6 +63,8 @@ public:
     CBaseObject *object() const;
     /// Whose changes belong to the step that has added it.
     bool isOfNewObject() const { return m_isNewObject; }
+    /// Selects nothing, and has the cursor beside the letter there (viewport coordinates of the view).
+    void putCursorAt(const QPoint &pos);
     /// Shows the letters as the object has them now.
     void followLook(const LetterLook &look);
     /// Whether there may be several lines, and so lists.

@@ -17,18 +17,44 @@ LabelWriting::LabelWriting(PageView *view)
 
 bool LabelWriting::writeAt(const QPoint &pos)
 {
-    CBaseObject *object = m_view->isEditable() ? objectAt(pos) : nullptr;
-    if (!object || object->isLocked())
+    CBaseObject *object = objectAt(pos);
+    const std::optional<EditableLabel> label = labelAt(object, pos);
+    if (!label)
         return false;
+    write(object, *label, false);
+    return true;
+}
+
+bool LabelWriting::hasTextAt(const QPoint &pos) const
+{
+    const std::optional<EditableLabel> label = labelAt(objectAt(pos), pos);
+    return label && !label->text.isEmpty();
+}
+
+bool LabelWriting::goOnAt(const QPoint &pos)
+{
+    if (!hasTextAt(pos))
+        return false;
+    CBaseObject *object = objectAt(pos);
+    pagehost::Page *page = m_view->page();
+    while (page->enterGroupOf(object))
+        continue;
+    page->select({object});
+    write(object, *labelAt(object, pos), false);
+    m_editor->putCursorAt(pos);
+    return true;
+}
+
+/// The topmost label that can be written. `object` may be null.
+std::optional<EditableLabel> LabelWriting::labelAt(CBaseObject *object, const QPoint &pos) const
+{
+    if (!object || object->isLocked() || !m_view->isEditable())
+        return std::nullopt;
     const QPointF place = object->mapFromScene(m_view->mapToScene(pos));
     const QVector<EditableLabel> labels = labelsOf(*object);
-    for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
-        if (!label->box.contains(place))
-            continue;
-        write(object, *label, false);
-        return true;
-    }
-    return false;
+    const auto found = std::find_if(labels.rbegin(), labels.rend(),
+                                    [place](const EditableLabel &label) { return label.box.contains(place); });
+    return found == labels.rend() ? std::nullopt : std::make_optional(*found);
 }
 
 bool LabelWriting::isFree(const QPoint &pos) const

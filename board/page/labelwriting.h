@@ -5,6 +5,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
+#include <optional>
+
 class CBaseObject;
 
 namespace board {
@@ -30,6 +32,10 @@ public:
     bool writeSelected(bool isNewObject);
     /// Begins to write the label there (viewport coordinates). False where there is none.
     bool writeAt(const QPoint &pos);
+    /// Whether there are letters that goOnAt() can go on with (viewport coordinates).
+    bool hasTextAt(const QPoint &pos) const;
+    /// Selects the object there and opens its text with the cursor at the letter there. False where hasTextAt() is.
+    bool goOnAt(const QPoint &pos);
     /// Whether a new text may begin there: on the page, where no object has a label of its own.
     bool isFree(const QPoint &pos) const;
     void end();
@@ -41,6 +47,7 @@ Q_SIGNALS:
 
 private:
     CBaseObject *objectAt(const QPoint &pos) const;
+    std::optional<EditableLabel> labelAt(CBaseObject *object, const QPoint &pos) const;
     void write(CBaseObject *object, const EditableLabel &label, bool isNewObject);
 
     PageView *m_view;

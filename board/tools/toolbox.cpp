@@ -82,7 +82,9 @@ void Toolbox::takeUp()
     if (!role || !page)
         return;
     page->scene()->cancelDrag();
-    m_session = std::make_unique<pagehost::ToolSession>(page, &m_workspace->registry());
+    m_session = std::make_unique<pagehost::ToolSession>(
+        page, &m_workspace->registry(),
+        [this](const QPointF &pos) { return m_view->writing()->hasTextAt(m_view->mapFromScene(pos)); });
     m_tool = m_workspace->registry().createTool(*role, m_session.get());
     if (!m_tool)
         return;
@@ -120,6 +122,10 @@ void Toolbox::followUp()
     if (!result || result->afterwards == pagehost::ToolPage::Stay)
         return;
     m_choice->finish();
+    if (result->writtenText) {
+        m_view->writing()->goOnAt(m_view->mapFromScene(*result->writtenText));
+        return;
+    }
     if (result->afterwards != pagehost::ToolPage::Write || !m_view->writeFirstLabel(true))
         return;
     m_new = result->objects.value(0);

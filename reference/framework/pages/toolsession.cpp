@@ -14,9 +14,10 @@
 
 namespace pagehost {
 
-ToolSession::ToolSession(Page *page, const ObjectRegistry *registry)
+ToolSession::ToolSession(Page *page, const ObjectRegistry *registry, TextTest hasTextAt)
     : m_page(page)
     , m_registry(registry)
+    , m_hasTextAt(std::move(hasTextAt))
     , m_change(page)
 {
 }
@@ -63,7 +64,15 @@ void ToolSession::commit(const QString &textKey, Afterwards afterwards)
         return;
     if (afterwards != Stay)
         m_page->select(added);
-    m_result = Result{added, afterwards};
+    m_result = Result{added, afterwards, std::nullopt};
+}
+
+bool ToolSession::writeAt(const QPointF &pos)
+{
+    if (!m_hasTextAt || !m_hasTextAt(pos))
+        return false;
+    m_result = Result{{}, Write, pos};
+    return true;
 }
 
 void ToolSession::revert()

@@ -41,25 +41,16 @@ QCursor TextTool::cursor(double) const
 void TextTool::press(const pagehost::ToolPointer &pointer)
 {
     cancel();
-    CBaseObject *object = m_page->createObject(m_kind.id());
-    Writing *writing = Writing::of(object);
-    if (!writing)
-        return;
-    writing->begin(m_style.color, m_style.width);
     m_start = pointer.pos;
-    m_isWide = false;
-    object->CPSRootObject::setPos(m_start - QPointF(0, halfLine * m_style.width), false);
-    m_page->add(object);
-    m_object = object;
+    m_isPressed = true;
 }
 
 void TextTool::move(const pagehost::ToolPointer &pointer)
 {
-    if (!m_object)
+    if (!m_isPressed)
         return;
     const double width = std::abs(pointer.pos.x() - m_start.x());
-    m_isWide = m_isWide || width >= clickPixels * pointer.pixel;
-    if (!m_isWide)
+    if (!m_object && (width < clickPixels * pointer.pixel || !addText()))
         return;
     const QPointF corner(std::min(pointer.pos.x(), m_start.x()), m_start.y());
     m_object->CPSRootObject::setPos(corner, true);
@@ -69,16 +60,34 @@ void TextTool::move(const pagehost::ToolPointer &pointer)
 void TextTool::release(const pagehost::ToolPointer &pointer)
 {
     move(pointer);
-    if (!m_object)
+    if (!m_isPressed)
+        return;
+    m_isPressed = false;
+    if (!m_object && (m_page->writeAt(m_start) || !addText()))
         return;
     m_object = nullptr;
     m_page->commit(stepText().key(&m_kind), pagehost::ToolPage::Write);
 }
 
+/// Where a click has its first line. False where there is no such kind.
+bool TextTool::addText()
+{
+    CBaseObject *object = m_page->createObject(m_kind.id());
+    Writing *writing = Writing::of(object);
+    if (!writing)
+        return false;
+    writing->begin(m_style.color, m_style.width);
+    object->CPSRootObject::setPos(m_start - QPointF(0, halfLine * m_style.width), false);
+    m_page->add(object);
+    m_object = object;
+    return true;
+}
+
 bool TextTool::cancel()
 {
-    if (!m_object)
+    if (!m_isPressed)
         return false;
+    m_isPressed = false;
     m_object = nullptr;
     m_page->revert();
     return true;

@@ -11,7 +11,8 @@ struct Kind;
 
 namespace text {
 
-/// Puts a text on the page: where it is clicked, as wide as it grows; over a drag, with lines of that width.
+/// Puts a text on the page: where it is clicked, as wide as it grows; over a drag, with lines of that width. A click on
+/// a text that is there goes on with that one.
 class TextTool : public pagehost::PageTool
 {
 public:
@@ -26,16 +27,18 @@ public:
     void press(const pagehost::ToolPointer &pointer) override;
     void move(const pagehost::ToolPointer &pointer) override;
     void release(const pagehost::ToolPointer &pointer) override;
-    bool isDrawing() const override { return m_object != nullptr; }
+    bool isDrawing() const override { return m_isPressed; }
     bool cancel() override;
 
 private:
+    bool addText();
+
     pagehost::ToolPage *m_page;
     const shapekit::Kind &m_kind;
     pagehost::ToolStyle m_style;
-    CBaseObject *m_object = nullptr; ///< between press and release
+    CBaseObject *m_object = nullptr; ///< of a drag that is farther than a click
     QPointF m_start;                 ///< scene coordinates
-    bool m_isWide = false;           ///< dragged farther than a click
+    bool m_isPressed = false;
 };
 
 } // namespace text

@@ -6,6 +6,7 @@
 #include <core/toolchoice.h>
 #include <look/dockbutton.h>
 #include <page/labeleditor.h>
+#include <page/labels.h>
 #include <page/pageview.h>
 #include <panels/settings/settingspanel.h>
 #include <tools/toolsettings.h>
@@ -76,6 +77,13 @@ private Q_SLOTS:
     void aDoubleClickOnALockedShapeTypesOnIt();
     void aDoubleClickBesideThePageTypesNothing();
     void aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace();
+    void aClickWithTheToolGoesOnWithAText();
+    void aClickWithTheToolGoesOnWithALabel();
+    void aClickWithTheToolOnAnEmptyShapeWritesOnIt();
+    void aClickWithTheToolOnALockedTextWritesOnIt();
+    void aClickWithTheToolGoesOnWithATextOfAGroup();
+    void aDragWithTheToolOverATextMakesAnother();
+    void aKeptToolStaysAfterATextIsGoneOnWith();
     void theTextAndItsObjectAreOneStep();
     void aTextThatStaysEmptyVanishesWithoutATrace();
     void aTextThatIsEmptiedVanishesInOneStep();
@@ -234,6 +242,125 @@ void TestTextWriting::aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace()
     desk.end();
     QCOMPARE(desk.page().objectCount(), 0);
     QCOMPARE(desk.history().count(), 0);
+}
+
+void TestTextWriting::aClickWithTheToolGoesOnWithAText()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    CBaseObject *text = desk.page().objects().constFirst();
+    const QRectF place = desk.placeOf(text);
+    desk.tools().choose(Tool::Text);
+    desk.click({place.right() - 1, place.center().y()});
+    QVERIFY(desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Select);
+    QCOMPARE(desk.selection(), desk.page().objects());
+    desk.type("s");
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 1);
+    QCOMPARE(desk.written(0), QString("Lights"));
+    desk.tools().choose(Tool::Text);
+    desk.click({place.left() + 1, place.center().y()});
+    desk.type("S");
+    desk.end();
+    QCOMPARE(desk.written(0), QString("SLights"));
+    QCOMPARE(desk.history().count(), 3);
+    desk.history().undo();
+    QCOMPARE(desk.written(0), QString("Lights"));
+}
+
+void TestTextWriting::aClickWithTheToolGoesOnWithALabel()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
+    board::setLabelText(*shape, board::labelsOf(*shape).constFirst().propertyId, "Base");
+    desk.tools().choose(Tool::Text);
+    desk.click({500, 350});
+    QVERIFY(desk.editor());
+    QCOMPARE(desk.editor()->object(), shape);
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 1);
+}
+
+/// So that something can be labelled at its edge.
+void TestTextWriting::aClickWithTheToolOnAnEmptyShapeWritesOnIt()
+{
+    Desk desk;
+    desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
+    desk.tools().choose(Tool::Text);
+    desk.click({500, 350});
+    desk.type("Base");
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 2);
+    QCOMPARE(desk.written(0), QString());
+    QCOMPARE(desk.written(1), QString("Base"));
+}
+
+void TestTextWriting::aClickWithTheToolOnALockedTextWritesOnIt()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    pagehost::setObjectsLocked(desk.page().objects(), true);
+    desk.tools().choose(Tool::Text);
+    desk.click({505, 300});
+    desk.type("Shadow");
+    desk.end();
+    QCOMPARE(desk.written(0), QString("Light"));
+    QCOMPARE(desk.written(1), QString("Shadow"));
+}
+
+void TestTextWriting::aClickWithTheToolGoesOnWithATextOfAGroup()
+{
+    Desk desk;
+    CBaseObject *shape = desk.draw("shapes.ring", {700, 200}, {900, 400});
+    desk.tools().choose(Tool::Text);
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    CBaseObject *text = desk.page().objects().at(1);
+    QVERIFY(pagehost::groupObjects(&desk.page(), {shape, text}));
+    desk.tools().choose(Tool::Text);
+    desk.click({505, 300});
+    QVERIFY(desk.editor());
+    QCOMPARE(desk.editor()->object(), text);
+    QCOMPARE(desk.selection(), QVector<CBaseObject *>{text});
+    QVERIFY(desk.page().enteredGroup() != 0);
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 2);
+}
+
+void TestTextWriting::aDragWithTheToolOverATextMakesAnother()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    desk.tools().choose(Tool::Text);
+    desk.drag({505, 300}, {700, 320});
+    desk.type("Shadow");
+    desk.end();
+    QCOMPARE(desk.written(0), QString("Light"));
+    QCOMPARE(desk.written(1), QString("Shadow"));
+}
+
+void TestTextWriting::aKeptToolStaysAfterATextIsGoneOnWith()
+{
+    Desk desk;
+    desk.click({500, 300});
+    desk.type("Light");
+    desk.end();
+    desk.tools().choose(Tool::Text);
+    desk.tools().keep(true);
+    desk.click({505, 300});
+    QVERIFY(desk.editor());
+    QCOMPARE(desk.tools().tool(), Tool::Text);
+    desk.end();
+    QCOMPARE(desk.page().objectCount(), 1);
+    QCOMPARE(desk.history().count(), 1);
 }
 
 void TestTextWriting::theTextAndItsObjectAreOneStep()

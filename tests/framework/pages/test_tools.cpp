@@ -115,6 +115,8 @@ private Q_SLOTS:
     void aKeyOfTheToolDoesNotReachTheObjects();
     void aToolMaySelectItsObject();
     void aToolThatStaysSelectsNothing();
+    void aTextThatIsThereIsLeftToTheUser();
+    void aSessionMayKnowOfNoTexts();
     void aPenBringsItsPressure();
     void aBlockedDocumentKeepsToolsOut();
     void aPointerThatRestsIsTold();
@@ -205,6 +207,32 @@ void TestTools::aToolThatStaysSelectsNothing()
     workshop.drag({100, 120}, {140, 150});
     QCOMPARE(workshop.page->objectCount(), 1);
     QVERIFY(workshop.page->selectedObjects().isEmpty());
+}
+
+void TestTools::aTextThatIsThereIsLeftToTheUser()
+{
+    Workshop workshop;
+    const QPointF written(100, 120);
+    pagehost::ToolSession session(workshop.page, &workshop.registry,
+                                  [written](const QPointF &pos) { return pos == written; });
+    QVERIFY(!session.writeAt({100, 121}));
+    QVERIFY(!session.takeResult());
+    QVERIFY(session.writeAt(written));
+    const auto result = session.takeResult();
+    QVERIFY(result);
+    QCOMPARE(*result->writtenText, written);
+    QCOMPARE(result->afterwards, pagehost::ToolPage::Write);
+    QVERIFY(result->objects.isEmpty());
+    QVERIFY(!session.takeResult());
+}
+
+void TestTools::aSessionMayKnowOfNoTexts()
+{
+    Workshop workshop;
+    QVERIFY(!workshop.session.writeAt({100, 120}));
+    QVERIFY(!workshop.session.takeResult());
+    workshop.drag({100, 120}, {140, 150});
+    QVERIFY(!workshop.session.takeResult()->writtenText);
 }
 
 void TestTools::aPenBringsItsPressure()

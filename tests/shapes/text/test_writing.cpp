@@ -66,6 +66,10 @@ class TestWriting : public QObject
 
 private Q_SLOTS:
     void aClickMakesATextThatIsSelected();
+    void aPressAloneMakesNoText();
+    void aClickOnATextMakesNone();
+    void aDragOnATextMakesAnother();
+    void aTextThatIsBeingDraggedIsTakenBack();
     void aDragMakesLinesOfItsWidth();
     void aDragToTheLeftDoesTheSame();
     void theBoxGrowsWithTheText();
@@ -105,6 +109,74 @@ void TestWriting::aClickMakesATextThatIsSelected()
     QCOMPARE(desk.page->selectedObjects(), QVector<CBaseObject *>{text});
     QCOMPARE(desk.session.takeResult()->afterwards, pagehost::ToolPage::Write);
     QCOMPARE(undoStack()->count(), 1);
+}
+
+void TestWriting::aPressAloneMakesNoText()
+{
+    Desk desk;
+    desk.press({100, 112});
+    QVERIFY(desk.pageTool->isDrawing());
+    QCOMPARE(desk.page->objectCount(), 0);
+    QVERIFY(desk.pageTool->cancel());
+    QVERIFY(!desk.pageTool->isDrawing());
+    QVERIFY(!desk.pageTool->cancel());
+    desk.release({100, 112});
+    QCOMPARE(desk.page->objectCount(), 0);
+    QCOMPARE(undoStack()->count(), 0);
+}
+
+namespace {
+
+/// The page has a text at (100, 112).
+struct WrittenDesk : Desk
+{
+    WrittenDesk()
+        : written(page, &shapes(), [](const QPointF &pos) { return pos == QPointF(100, 112); })
+        , tool(shapes().createTool(ToolRole::Text, &written))
+    {
+        page->scene()->setTool(tool.get());
+    }
+    ~WrittenDesk() { page->scene()->setTool(nullptr); }
+
+    pagehost::ToolSession written;
+    std::unique_ptr<pagehost::PageTool> tool;
+};
+
+} // namespace
+
+void TestWriting::aClickOnATextMakesNone()
+{
+    WrittenDesk desk;
+    desk.click({100, 112});
+    QCOMPARE(desk.page->objectCount(), 0);
+    QCOMPARE(undoStack()->count(), 0);
+    QVERIFY(!desk.tool->isDrawing());
+    QCOMPARE(*desk.written.takeResult()->writtenText, QPointF(100, 112));
+    desk.click({100, 212});
+    QCOMPARE(desk.page->objectCount(), 1);
+}
+
+void TestWriting::aDragOnATextMakesAnother()
+{
+    WrittenDesk desk;
+    desk.drawAlong({{100, 112}, {103, 112}, {100, 112}});
+    QVERIFY(desk.written.takeResult()->writtenText);
+    desk.drawAlong({{100, 112}, {104, 112}, {100, 112}});
+    QCOMPARE(desk.page->objectCount(), 1);
+    QVERIFY(!desk.written.takeResult()->writtenText);
+}
+
+void TestWriting::aTextThatIsBeingDraggedIsTakenBack()
+{
+    Desk desk;
+    desk.press({100, 112});
+    desk.moveTo({200, 112});
+    QCOMPARE(desk.page->objectCount(), 1);
+    QVERIFY(desk.pageTool->cancel());
+    QCOMPARE(desk.page->objectCount(), 0);
+    desk.release({200, 112});
+    QCOMPARE(desk.page->objectCount(), 0);
+    QCOMPARE(undoStack()->count(), 0);
 }
 
 void TestWriting::aDragMakesLinesOfItsWidth()

@@ -79,6 +79,9 @@ public:
     virtual QVector<CBaseObject *> objectsIn(const QRectF &area) const = 0;
     /// Makes the changes an undo step. `textKey` is its localisation key. Without a change nothing happens.
     virtual void commit(const QString &textKey, Afterwards afterwards) = 0;
+    /// Has the user go on with the text that an object has at the position (scene coordinates), as with Write. False
+    /// where there is none.
+    virtual bool writeAt(const QPointF &pos) = 0;
     /// Takes the changes back, without a trace.
     virtual void revert() = 0;
     /// The object that a line which ends at the pointer can be joined to, and where. Objects that can follow others

@@ -5,9 +5,11 @@
 
 #include <framework/framework_global.h>
 
+#include <QtCore/QPointF>
 #include <QtCore/QPointer>
 #include <QtCore/QVector>
 
+#include <functional>
 #include <optional>
 
 class CBaseObject;
@@ -21,17 +23,20 @@ class Page;
 class FRAMEWORK_EXPORT ToolSession : public ToolPage
 {
 public:
-    /// A change that a tool has made an undo step.
+    /// A change that a tool has made an undo step, or the text that it leaves to the user.
     struct Result
     {
-        QVector<CBaseObject *> objects; ///< those that were added
-        Afterwards afterwards = Stay;   ///< how the change is followed up
+        QVector<CBaseObject *> objects;     ///< those that were added
+        Afterwards afterwards = Stay;       ///< how the change is followed up
+        std::optional<QPointF> writtenText; ///< writeAt()'s position; nothing after a commit
     };
+    /// Whether the user can write a text that an object already has at a position, scene coordinates.
+    using TextTest = std::function<bool(const QPointF &pos)>;
 
-    /// The registry must outlive the session.
-    ToolSession(Page *page, const ObjectRegistry *registry);
+    /// The registry must outlive the session. Without `hasTextAt` there are no such texts.
+    ToolSession(Page *page, const ObjectRegistry *registry, TextTest hasTextAt = {});
 
-    /// The last commit since the last call; nothing without one.
+    /// The last commit or text since the last call; nothing without one.
     std::optional<Result> takeResult();
 
     CBaseObject *createObject(const QString &kindId) override;
@@ -39,6 +44,7 @@ public:
     void remove(CBaseObject *object) override;
     QVector<CBaseObject *> objectsIn(const QRectF &area) const override;
     void commit(const QString &textKey, Afterwards afterwards) override;
+    bool writeAt(const QPointF &pos) override;
     void revert() override;
     Connection connectionAt(const ToolPointer &pointer) const override;
     quint32 numberOf(CBaseObject *object) override;
@@ -47,6 +53,7 @@ public:
 private:
     QPointer<Page> m_page;
     const ObjectRegistry *m_registry;
+    TextTest m_hasTextAt;
     PageChange m_change;
     QVector<QPointer<CBaseObject>> m_numbered; ///< since the last commit
     std::optional<Result> m_result;
