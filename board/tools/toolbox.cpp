@@ -82,9 +82,10 @@ void Toolbox::takeUp()
     if (!role || !page)
         return;
     page->scene()->cancelDrag();
-    m_session = std::make_unique<pagehost::ToolSession>(
-        page, &m_workspace->registry(),
-        [this](const QPointF &pos) { return m_view->writing()->hasTextAt(m_view->mapFromScene(pos)); });
+    const auto hasTextAt = [this](const QPointF &pos) {
+        return m_view->writing()->hasTextAt(m_view->mapFromScene(pos));
+    };
+    m_session = std::make_unique<pagehost::ToolSession>(page, &m_workspace->registry(), hasTextAt);
     m_tool = m_workspace->registry().createTool(*role, m_session.get());
     if (!m_tool)
         return;
