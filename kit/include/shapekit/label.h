@@ -54,7 +54,8 @@ public:
     LabelPlace place(const QRectF &box, double fontSize) const;
     /// Text, size, weight, colour and alignment.
     std::array<Property *, 5> properties();
-    /// The part that a control of the settings panel (Property::controlId()) sets; none for one of another property.
+    /// The part that a control of the settings panel (Property::controlId()) sets; none for one of another
+    /// property.
     std::optional<LetterPart> partOfControl(const QString &id) const;
 
     /// Whether text and look are those of a new shape.

@@ -270,9 +270,9 @@ QTransform Resolver::ownTransform(NodeIndex index, const Facts &facts) const
     const auto styled = [&style](AttributeId id) {
         return styledAttribute(Attributes(), style.attributes, id).text();
     };
-    QTransform whole = transform.value_or(QTransform()) *
-                             individualTransforms(styled(AttributeId::Translate), styled(AttributeId::Rotate),
-                                                  styled(AttributeId::Scale), context);
+    QTransform whole = transform.value_or(QTransform()) * individualTransforms(styled(AttributeId::Translate),
+                                                                               styled(AttributeId::Rotate),
+                                                                               styled(AttributeId::Scale), context);
     if (whole.isIdentity())
         return whole;
     const QPointF origin = transformOrigin(node, style, box, context);

@@ -11,8 +11,8 @@ struct Kind;
 
 namespace text {
 
-/// Puts a text on the page: where it is clicked, as wide as it grows; over a drag, with lines of that width. A click on
-/// a text that is there goes on with that one.
+/// Puts a text on the page: where it is clicked, as wide as it grows; over a drag, with lines of that width. A
+/// click on a text that is there goes on with that one.
 class TextTool : public pagehost::PageTool
 {
 public:

@@ -1,21 +1,14 @@
 // Texts written on the page in the board's window, with mouse and keys.
 
-#include "board/boarddriver.h"
+#include "board/textdesk.h"
 
-#include <core/commands.h>
-#include <core/toolchoice.h>
-#include <look/dockbutton.h>
 #include <page/labeleditor.h>
-#include <page/labels.h>
-#include <page/pageview.h>
 #include <panels/settings/settingspanel.h>
 #include <tools/toolsettings.h>
-#include <window/dock.h>
 #include <window/mainwindow.h>
 #include <window/typingbar.h>
 
 #include <pagehost/commands.h>
-#include <pagehost/objectregistry.h>
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
 
@@ -33,34 +26,7 @@
 #include <QtWidgets/QUndoStack>
 
 using board::Tool;
-using boardtest::BoardDriver;
-
-namespace {
-
-struct Desk : BoardDriver
-{
-    Desk() { tools().choose(Tool::Text); }
-    board::ToolChoice &tools() const { return *window().tools(); }
-    board::DockButton *button(Tool tool) const { return window().dock()->buttonOf(tool); }
-    /// The editor that is open; null for none.
-    board::LabelEditor *editor() const
-    {
-        for (auto *editor : support::listed(view().findChildren<board::LabelEditor *>()))
-            if (editor->isVisible())
-                return editor;
-        return nullptr;
-    }
-    void type(const QString &text) { BoardDriver::type(editor(), text); }
-    void end() { strike(Qt::Key_Escape); }
-    void strike(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { keyIn(editor(), key, modifiers); }
-    QString written(int index) const
-    {
-        CBaseObject *object = page().objects().value(index);
-        return object ? board::labelsOf(*object).constFirst().text : QString("no text");
-    }
-};
-
-} // namespace
+using Desk = boardtest::TextDesk;
 
 class TestTextWriting : public QObject
 {
@@ -72,18 +38,6 @@ private Q_SLOTS:
     void aClickAndKeysMakeAText();
     void lettersAreSetInASectionOfThePanel();
     void lettersOfAllFiguresAreSetInTheSameSection();
-    void aDoubleClickOnTheEmptyPageTypesThere();
-    void aDoubleClickOnAShapeWithoutTextTypesOnIt();
-    void aDoubleClickOnALockedShapeTypesOnIt();
-    void aDoubleClickBesideThePageTypesNothing();
-    void aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace();
-    void aClickWithTheToolGoesOnWithAText();
-    void aClickWithTheToolGoesOnWithALabel();
-    void aClickWithTheToolOnAnEmptyShapeWritesOnIt();
-    void aClickWithTheToolOnALockedTextWritesOnIt();
-    void aClickWithTheToolGoesOnWithATextOfAGroup();
-    void aDragWithTheToolOverATextMakesAnother();
-    void aKeptToolStaysAfterATextIsGoneOnWith();
     void theTextAndItsObjectAreOneStep();
     void aTextThatStaysEmptyVanishesWithoutATrace();
     void aTextThatIsEmptiedVanishesInOneStep();
@@ -96,12 +50,7 @@ private Q_SLOTS:
     void lettersOfTheObjectAreNotSeenBesideThoseThatAreTyped();
     void lettersAreWholeAndInTheirPlace_data();
     void lettersAreWholeAndInTheirPlace();
-    void theTextToolIsShownWhileLettersAreWritten();
-    void pressingAToolEndsTheText_data();
-    void pressingAToolEndsTheText();
-    void aToolFromTheMenuEndsTheText();
     void theBarOfLettersMovesToTheNextText();
-    void aKeptToolWritesTheNextText();
     void aHyphenAndASpaceBeginAList();
     void theReturnKeyContinuesAList();
     void itemsAreNumberedAnew();
@@ -174,193 +123,6 @@ void TestTextWriting::lettersOfAllFiguresAreSetInTheSameSection()
             QVERIFY2(letters().contains(QLatin1String(name)),
                      qPrintable(QLatin1String(kind) + letters().join(';')));
     }
-}
-
-void TestTextWriting::aDoubleClickOnTheEmptyPageTypesThere()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("by the tool");
-    desk.end();
-    desk.tools().choose(Tool::Select);
-    desk.doubleClick({500, 500});
-    QVERIFY(desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool::Select);
-    desk.type("by the tool");
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 2);
-    QCOMPARE(desk.written(1), QString("by the tool"));
-    // Where a click with the tool would have put it.
-    QCOMPARE(desk.placeOf(desk.page().objects().at(1)),
-             desk.placeOf(desk.page().objects().at(0)).translated(0, 200));
-    QCOMPARE(desk.selection(), desk.page().objects().mid(1));
-}
-
-void TestTextWriting::aDoubleClickOnAShapeWithoutTextTypesOnIt()
-{
-    Desk desk;
-    CBaseObject *shape = desk.draw("shapes.ring", {300, 200}, {700, 500});
-    desk.doubleClick({400, 300});
-    desk.type("Base area");
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 2);
-    QCOMPARE(desk.page().objects().first(), shape);
-    QCOMPARE(desk.written(1), QString("Base area"));
-    QVERIFY(desk.placeOf(shape).contains(desk.placeOf(desk.page().objects().at(1))));
-}
-
-/// Such as the page of a worksheet.
-void TestTextWriting::aDoubleClickOnALockedShapeTypesOnIt()
-{
-    Desk desk;
-    CBaseObject *shape = desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
-    pagehost::setObjectsLocked({shape}, true);
-    desk.page().select({});
-    desk.doubleClick({400, 300});
-    QVERIFY(desk.editor());
-    desk.type("x");
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 2);
-}
-
-void TestTextWriting::aDoubleClickBesideThePageTypesNothing()
-{
-    Desk desk;
-    desk.tools().choose(Tool::Select);
-    desk.doubleClick({-4, 300});
-    QVERIFY(!desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool::Select);
-    desk.doubleClick({4, 300});
-    QVERIFY(desk.editor());
-}
-
-void TestTextWriting::aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace()
-{
-    Desk desk;
-    desk.tools().choose(Tool::Select);
-    desk.doubleClick({500, 300});
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 0);
-    QCOMPARE(desk.history().count(), 0);
-}
-
-void TestTextWriting::aClickWithTheToolGoesOnWithAText()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
-    CBaseObject *text = desk.page().objects().constFirst();
-    const QRectF place = desk.placeOf(text);
-    desk.tools().choose(Tool::Text);
-    desk.click({place.right() - 1, place.center().y()});
-    QVERIFY(desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool::Select);
-    QCOMPARE(desk.selection(), desk.page().objects());
-    desk.type("s");
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 1);
-    QCOMPARE(desk.written(0), QString("Lights"));
-    desk.tools().choose(Tool::Text);
-    desk.click({place.left() + 1, place.center().y()});
-    desk.type("S");
-    desk.end();
-    QCOMPARE(desk.written(0), QString("SLights"));
-    QCOMPARE(desk.history().count(), 3);
-    desk.history().undo();
-    QCOMPARE(desk.written(0), QString("Lights"));
-}
-
-void TestTextWriting::aClickWithTheToolGoesOnWithALabel()
-{
-    Desk desk;
-    CBaseObject *shape = desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
-    board::setLabelText(*shape, board::labelsOf(*shape).constFirst().propertyId, "Base");
-    desk.tools().choose(Tool::Text);
-    desk.click({500, 350});
-    QVERIFY(desk.editor());
-    QCOMPARE(desk.editor()->object(), shape);
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 1);
-}
-
-/// So that something can be labelled at its edge.
-void TestTextWriting::aClickWithTheToolOnAnEmptyShapeWritesOnIt()
-{
-    Desk desk;
-    desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
-    desk.tools().choose(Tool::Text);
-    desk.click({500, 350});
-    desk.type("Base");
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 2);
-    QCOMPARE(desk.written(0), QString());
-    QCOMPARE(desk.written(1), QString("Base"));
-}
-
-void TestTextWriting::aClickWithTheToolOnALockedTextWritesOnIt()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
-    pagehost::setObjectsLocked(desk.page().objects(), true);
-    desk.tools().choose(Tool::Text);
-    desk.click({505, 300});
-    desk.type("Shadow");
-    desk.end();
-    QCOMPARE(desk.written(0), QString("Light"));
-    QCOMPARE(desk.written(1), QString("Shadow"));
-}
-
-void TestTextWriting::aClickWithTheToolGoesOnWithATextOfAGroup()
-{
-    Desk desk;
-    CBaseObject *shape = desk.draw("shapes.ring", {700, 200}, {900, 400});
-    desk.tools().choose(Tool::Text);
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
-    CBaseObject *text = desk.page().objects().at(1);
-    QVERIFY(pagehost::groupObjects(&desk.page(), {shape, text}));
-    desk.tools().choose(Tool::Text);
-    desk.click({505, 300});
-    QVERIFY(desk.editor());
-    QCOMPARE(desk.editor()->object(), text);
-    QCOMPARE(desk.selection(), QVector<CBaseObject *>{text});
-    QVERIFY(desk.page().enteredGroup() != 0);
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 2);
-}
-
-void TestTextWriting::aDragWithTheToolOverATextMakesAnother()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
-    desk.tools().choose(Tool::Text);
-    desk.drag({505, 300}, {700, 320});
-    desk.type("Shadow");
-    desk.end();
-    QCOMPARE(desk.written(0), QString("Light"));
-    QCOMPARE(desk.written(1), QString("Shadow"));
-}
-
-void TestTextWriting::aKeptToolStaysAfterATextIsGoneOnWith()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
-    desk.tools().choose(Tool::Text);
-    desk.tools().keep(true);
-    desk.click({505, 300});
-    QVERIFY(desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool::Text);
-    desk.end();
-    QCOMPARE(desk.page().objectCount(), 1);
-    QCOMPARE(desk.history().count(), 1);
 }
 
 void TestTextWriting::theTextAndItsObjectAreOneStep()
@@ -536,52 +298,6 @@ void TestTextWriting::lettersAreWholeAndInTheirPlace()
         QRect(start() + QPoint(1, 1), QSize(letters.horizontalAdvance("Light"), letters.height() - 1))));
 }
 
-void TestTextWriting::theTextToolIsShownWhileLettersAreWritten()
-{
-    Desk desk;
-    desk.click({500, 300});
-    QVERIFY(desk.button(Tool::Text)->isChecked() && !desk.button(Tool::Select)->isChecked());
-    desk.type("Light");
-    QVERIFY(desk.button(Tool::Text)->isChecked());
-    desk.end();
-    QVERIFY(!desk.button(Tool::Text)->isChecked() && desk.button(Tool::Select)->isChecked());
-    desk.doubleClick({505, 300});
-    QVERIFY(desk.editor());
-    QVERIFY(desk.button(Tool::Text)->isChecked());
-}
-
-void TestTextWriting::pressingAToolEndsTheText_data()
-{
-    QTest::addColumn<int>("tool");
-    QTest::newRow("Select") << int(Tool::Select);
-    QTest::newRow("Pen") << int(Tool::Pen);
-    QTest::newRow("Text") << int(Tool::Text);
-}
-
-void TestTextWriting::pressingAToolEndsTheText()
-{
-    QFETCH(int, tool);
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.clickOn(desk.button(Tool(tool)));
-    QVERIFY(!desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool(tool));
-    QVERIFY(desk.button(Tool(tool))->isChecked());
-    QCOMPARE(desk.written(0), QString("Light"));
-}
-
-void TestTextWriting::aToolFromTheMenuEndsTheText()
-{
-    Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.window().commands()->action(board::Command::PenTool)->trigger();
-    QVERIFY(!desk.editor());
-    QCOMPARE(desk.tools().tool(), Tool::Pen);
-    QCOMPARE(desk.written(0), QString("Light"));
-}
-
 void TestTextWriting::theBarOfLettersMovesToTheNextText()
 {
     Desk desk;
@@ -598,20 +314,6 @@ void TestTextWriting::theBarOfLettersMovesToTheNextText()
     QCOMPARE(frame.top() - bar->geometry().bottom() - 1, 12);
     QVERIFY(bar->geometry().left() > before.left());
     QCOMPARE(bar->geometry().size(), before.size());
-}
-
-void TestTextWriting::aKeptToolWritesTheNextText()
-{
-    Desk desk;
-    desk.tools().keep(true);
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.click({500, 500});
-    desk.type("Shadow");
-    desk.end();
-    QCOMPARE(desk.written(0), QString("Light"));
-    QCOMPARE(desk.written(1), QString("Shadow"));
-    QCOMPARE(desk.tools().tool(), Tool::Text);
 }
 
 void TestTextWriting::aHyphenAndASpaceBeginAList()

@@ -79,8 +79,8 @@ public:
     virtual QVector<CBaseObject *> objectsIn(const QRectF &area) const = 0;
     /// Makes the changes an undo step. `textKey` is its localisation key. Without a change nothing happens.
     virtual void commit(const QString &textKey, Afterwards afterwards) = 0;
-    /// Has the user go on with the text that an object has at the position (scene coordinates), as with Write. False
-    /// where there is none.
+    /// Has the user go on with the text that an object has at the position (scene coordinates), as with Write.
+    /// False where there is none.
     virtual bool writeAt(const QPointF &pos) = 0;
     /// Takes the changes back, without a trace.
     virtual void revert() = 0;
