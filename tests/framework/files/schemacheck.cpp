@@ -70,7 +70,7 @@ private:
     QString itemProblem(const QJsonArray &items, const QJsonObject &schema, const QString &path) const
     {
         for (int i = 0; schema.contains(key("items")) && i < items.size(); ++i) {
-            const QString found =
+            QString found =
                 problem(items[i], schema.value(key("items")).toObject(), path + QStringLiteral("[%1]").arg(i));
             if (!found.isEmpty())
                 return found;
@@ -93,7 +93,7 @@ private:
                     return path + key(": knows no ") + name;
                 continue;
             }
-            const QString found =
+            QString found =
                 problem(object.value(name), properties.value(name).toObject(), path + QLatin1Char('/') + name);
             if (!found.isEmpty())
                 return found;

@@ -268,7 +268,7 @@ void TestAssets::clipboardCarriesTheTextsOfPlaceholders()
     Document target;
     Page *page = target.appendPage();
     page->appendObjects(decodeObjects(bytes, m_ignorant, nullptr, page));
-    QVERIFY(isPlaceholder(page->objects().first()));
+    QVERIFY(isPlaceholder(page->objects().constFirst()));
     const OpenResult opened = decodeDocument(encodeDocument(target, DocumentFormat::Binary), *m_registry);
     QCOMPARE(textOf(*opened.document, 0), QByteArray("one"));
 }

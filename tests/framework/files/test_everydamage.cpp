@@ -261,7 +261,7 @@ QString TestEveryDamage::problemAfter(const Sample &sample, DocumentFormat forma
         const bool isNewer = textKeys(opened.messages) == QStringList{QStringLiteral("IDS_FILE_NEWER_VERSION")};
         return isNewer ? QString() : QStringLiteral("not opened");
     }
-    const QString loss = lossIn(opened, sample, place, place + length);
+    QString loss = lossIn(opened, sample, place, place + length);
     if (!loss.isEmpty())
         return loss;
     if (format == DocumentFormat::Binary && bytes != sample.bytes && opened.messages.isEmpty())
@@ -292,7 +292,7 @@ QString TestEveryDamage::lossIn(const OpenResult &opened, const Sample &sample, 
         return {};
     const bool isAllThere = countOfObjects(*opened.document) == sample.objects.size() && lessons.size() == 2 &&
                             opened.document->pageCount() == sample.pages &&
-                            opened.document->extraData().members.size() >= 1 &&
+                            !opened.document->extraData().members.isEmpty() &&
                             opened.document->extraData().chunks.size() == 1;
     return isAllThere ? QString() : QStringLiteral("lost without a message");
 }

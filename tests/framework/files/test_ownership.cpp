@@ -76,7 +76,7 @@ private Q_SLOTS:
     void aPageHearsNothingOfWhatIsRead();
 
 private:
-    CBaseObject *original() const { return m_page->objects().first(); }
+    CBaseObject *original() const { return m_page->objects().constFirst(); }
 
     Plugin m_plugin;
     ObjectRegistry m_registry;

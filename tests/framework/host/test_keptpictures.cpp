@@ -51,7 +51,7 @@ struct Shown : Editor
         pagehost::CreationTool tool(&registry());
         tool.begin(page->scene(), kindId);
         drag(QPointF(200, 150), QPointF(420, 300));
-        object = page->objects().first();
+        object = page->objects().constFirst();
         picture(view);
     }
     /// Without the edges, where scroll bars come and go.

@@ -466,10 +466,11 @@ void TestPageObject::notificationsReachThePage()
     auto *object = new TestObject;
     page.addObject(object);
     QVector<QPair<int, QString>> heard;
-    connect(&page, &pagehost::Page::objectPropertyChanged, [&](CBaseObject *sender, int id, const QString &value) {
-        QCOMPARE(sender, static_cast<CBaseObject *>(object));
-        heard.append({id, value});
-    });
+    connect(&page, &pagehost::Page::objectPropertyChanged, &page,
+            [&](CBaseObject *sender, int id, const QString &value) {
+                QCOMPARE(sender, static_cast<CBaseObject *>(object));
+                heard.append({id, value});
+            });
     const quint64 before = page.revision();
     object->notifyObjPropertyChanged(105, QStringLiteral("text"));
     const QVector<QPair<int, QString>> expected{{105, QStringLiteral("text")}};

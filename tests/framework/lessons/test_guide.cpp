@@ -35,7 +35,7 @@ void TestLessonGuide::codeRecordsAndPlays()
     player.play(); // pause(), seek(milliseconds), playToEnd()
 
     QCOMPARE(document.lessons().size(), 1);
-    QCOMPARE(document.lessons().first().name, QStringLiteral("Fractions"));
+    QCOMPARE(document.lessons().constFirst().name, QStringLiteral("Fractions"));
     QVERIFY(player.isPlaying());
     player.playToEnd();
     QCOMPARE(savedState(*player.document()), savedState(document));

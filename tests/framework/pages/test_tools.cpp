@@ -47,12 +47,16 @@ public:
         m_page->revert();
         return true;
     }
+    void hover(const pagehost::ToolPointer &pointer) override { hovered.append(pointer.pos); }
+    void hoverEnd() override { ++leaves; }
     int stillTime() const override { return 500; }
     void heldStill() override { ++rests; }
     bool keyPress(int key) override { return key == Qt::Key_Return; }
 
     QStringList events;
     pagehost::ToolPointer last;
+    QVector<QPointF> hovered;
+    int leaves = 0;
     int rests = 0;
     pagehost::ToolPage::Afterwards afterwards = pagehost::ToolPage::Stay;
 
@@ -109,6 +113,7 @@ class TestTools : public QObject
 
 private Q_SLOTS:
     void aPressTheMovesAndTheReleaseReachTheTool();
+    void aPointerThatIsNotPressedHovers();
     void otherButtonsReachNoTool();
     void aDrawingIsOneStepThatUndoAndRedoRepeat();
     void escapeTakesTheDrawingBack();
@@ -140,6 +145,32 @@ void TestTools::aPressTheMovesAndTheReleaseReachTheTool()
     workshop.hover({200, 200});
     QCOMPARE(workshop.tool.events.size(), 3);
     QCOMPARE(workshop.tool.last.pressure, -1.0);
+}
+
+void TestTools::aPointerThatIsNotPressedHovers()
+{
+    Workshop workshop;
+    const auto leave = [&workshop] {
+        QEvent event(QEvent::Leave);
+        QCoreApplication::sendEvent(workshop.view.viewport(), &event);
+    };
+    workshop.hover({200, 200});
+    QCOMPARE(workshop.tool.hovered, QVector<QPointF>{QPointF(200, 200)});
+    QVERIFY(workshop.tool.events.isEmpty());
+    leave();
+    QCOMPARE(workshop.tool.leaves, 1);
+    workshop.press({100, 120});
+    workshop.tool.hovered.clear();
+    workshop.moveTo({110, 130});
+    leave();
+    QCOMPARE(workshop.tool.leaves, 1);
+    QVERIFY(workshop.tool.hovered.isEmpty());
+    workshop.release({110, 130});
+    workshop.page->scene()->setTool(nullptr);
+    workshop.hover({200, 200});
+    leave();
+    QCOMPARE(workshop.tool.leaves, 1);
+    QVERIFY(workshop.tool.hovered.isEmpty());
 }
 
 void TestTools::otherButtonsReachNoTool()
