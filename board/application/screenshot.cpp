@@ -38,6 +38,8 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QGraphicsEffect>
+#include <QtWidgets/QGraphicsItem>
+#include <QtWidgets/QGraphicsView>
 #include <QtWidgets/QTextEdit>
 
 #include <algorithm>
@@ -381,11 +383,24 @@ bool save(const QPixmap &picture, const QString &file)
     return false;
 }
 
+/// Views keep pictures of objects in the pixels of the screen.
+void setKeepsPictures(const QWidget &window, bool keeps)
+{
+    const QList<QGraphicsView *> views = window.findChildren<QGraphicsView *>();
+    for (const QGraphicsView *view : views) {
+        const QList<QGraphicsItem *> items = view->items();
+        for (QGraphicsItem *item : items)
+            item->setCacheMode(keeps ? QGraphicsItem::DeviceCoordinateCache : QGraphicsItem::NoCache);
+    }
+}
+
 QPixmap pictureOf(QWidget *window, double pixels)
 {
     QPixmap picture(window->size() * pixels);
     picture.setDevicePixelRatio(pixels);
+    setKeepsPictures(*window, false);
     window->render(&picture);
+    setKeepsPictures(*window, true);
     return picture;
 }
 

@@ -100,6 +100,17 @@ void TestProgram::picturesOfAllSituationsAreMadeByOneCommand()
     QCOMPARE(sizeOf("01-first-start.png"), QSize(1366, 768));
     QCOMPARE(sizeOf("15-1024x600.png"), QSize(1024, 600));
     QCOMPARE(sizeOf("16-200-percent.png"), QSize(1920, 1080));
+    // The battery's line has edges of a pixel each, though the screen has half as many pixels.
+    const QImage sharp(QDir(target).filePath("16-200-percent.png"));
+    int mixed = 0;
+    int full = 0;
+    for (int y = 910; y < 950; ++y) {
+        const QColor color = sharp.pixelColor(1000, y);
+        full += color == QColor(0x1f, 0x5f, 0xa8);
+        mixed += color != QColor(0x1f, 0x5f, 0xa8) && color != QColor(0xfd, 0xfd, 0xfb);
+    }
+    QCOMPARE(full, 3);
+    QCOMPARE(mixed, 2);
     // Bars are light in one theme and dark in the other.
     const auto barOf = [&](const QString &name) { return QImage(QDir(target).filePath(name)).pixelColor(600, 10); };
     QCOMPARE(barOf("03-selected.png"), QColor(0xf7, 0xf8, 0xfa));
