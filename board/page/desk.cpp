@@ -1,9 +1,12 @@
 #include "page/desk.h"
 
+#include "core/arranging.h"
 #include "look/theme.h"
 
 #include <pagehost/page.h>
 #include <pagehost/pagescene.h>
+
+#include <framework/cbaseobject.h>
 
 #include <QtCore/QVector>
 #include <QtGui/QPainter>
@@ -91,8 +94,12 @@ void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &p
     const auto sides = sidesOf(paper, exposed);
     for (const QRectF &side : sides) {
         const QList<QGraphicsItem *> items = page.scene()->items(side, Qt::IntersectsItemBoundingRect);
-        for (const QGraphicsItem *item : items)
-            outside.addRect(item->sceneBoundingRect() & side);
+        for (QGraphicsItem *item : items) {
+            auto *object = dynamic_cast<CBaseObject *>(item);
+            // The bounds of one that is on the page may reach beyond, and nothing is drawn there but the shadow.
+            if (object && isOff({object}, paper))
+                outside.addRect(item->sceneBoundingRect() & side);
+        }
     }
     QColor veil = themeColors().desk;
     veil.setAlphaF(veilOpacity);

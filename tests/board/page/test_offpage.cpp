@@ -35,6 +35,7 @@ private Q_SLOTS:
     void barHasTheButtonOffThePageOnly();
     void groupComesBackAsOne();
     void partsOffThePageAreFaded();
+    void theShadowBesideAnObjectOnThePageStays();
     void whatIsDraggedOffThePageComesBackByOneClick();
 };
 
@@ -127,6 +128,20 @@ void TestOffPage::partsOffThePageAreFaded()
     QVERIFY(qAbs(faded.red() - (0.4 * 255 + 0.6 * desk.red())) <= 2);
     QVERIFY(qAbs(faded.green() - 0.6 * desk.green()) <= 2);
     QVERIFY(qAbs(faded.blue() - 0.6 * desk.blue()) <= 2);
+}
+
+void TestOffPage::theShadowBesideAnObjectOnThePageStays()
+{
+    BoardDriver board;
+    // Its hands turn, so that it may paint farther than its face.
+    CBaseObject *clock = board.draw("shapes.clock", {500, 20}, {600, 120});
+    QVERIFY(clock->sceneBoundingRect().top() < 0);
+    board.page().select({});
+    const QImage picture = board.view().viewport()->grab().toImage();
+    const QPoint edge = board.view().mapFromScene(QPointF(550, 0)) - QPoint(0, 2);
+    const QPoint elsewhere = board.view().mapFromScene(QPointF(200, 0)) - QPoint(0, 2);
+    QVERIFY(picture.pixelColor(elsewhere) != board::themeColors().desk);
+    QCOMPARE(picture.pixelColor(edge), picture.pixelColor(elsewhere));
 }
 
 void TestOffPage::whatIsDraggedOffThePageComesBackByOneClick()
