@@ -14,6 +14,7 @@
 
 #include <QtCore/QSettings>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
@@ -86,6 +87,7 @@ PalettePanel::PalettePanel(const Workspace *workspace, QWidget *parent)
     followSizes(this, [this] {
         showKinds();
         m_scroll->setMinimumWidth(widthOfColumns(1));
+        letWheelGoByRows();
     });
 }
 
@@ -153,6 +155,14 @@ int PalettePanel::widthOfColumns(int columns) const
 {
     const int frame = 2 * m_scroll->frameWidth() + m_scroll->verticalScrollBar()->sizeHint().width();
     return frame + (m_flows.isEmpty() ? 0 : m_flows.first()->widthOfColumns(columns));
+}
+
+void PalettePanel::letWheelGoByRows()
+{
+    if (m_buttons.isEmpty())
+        return;
+    const int row = m_buttons.first()->sizeHint().height() + smallGap;
+    m_scroll->verticalScrollBar()->setSingleStep(row / std::max(1, QApplication::wheelScrollLines()));
 }
 
 QSize PalettePanel::sizeHint() const

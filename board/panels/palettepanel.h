@@ -64,6 +64,7 @@ private:
     PaletteButton *firstHit() const;
     void showFound();
     int widthOfColumns(int columns) const;
+    void letWheelGoByRows();
     void paintPictures();
     void filter(const QString &words);
 

@@ -20,6 +20,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollArea>
 
 #include <algorithm>
 
@@ -81,6 +82,8 @@ private Q_SLOTS:
     void wordsOfAnyLanguageFindAShape();
     void everyWordMustBeFound();
     void shapesStandInTheirOrderAfterASearch();
+    void aNotchOfTheWheelGoesByARow_data();
+    void aNotchOfTheWheelGoesByARow();
 };
 
 /// Without a desktop, letters are larger than any desktop's.
@@ -225,6 +228,36 @@ void TestPalettePanel::shapesStandInTheirOrderAfterASearch()
     QVERIFY(t.names() != all);
     t.field()->clear();
     QCOMPARE(t.names(), all);
+}
+
+void TestPalettePanel::aNotchOfTheWheelGoesByARow_data()
+{
+    QTest::addColumn<bool>("large");
+    QTest::newRow("usual buttons") << false;
+    QTest::newRow("large buttons") << true;
+}
+
+void TestPalettePanel::aNotchOfTheWheelGoesByARow()
+{
+    QFETCH(bool, large);
+    board::applyLargeSizes(large);
+    const Searching palette({});
+    QCoreApplication::processEvents();
+    const QVector<board::PaletteButton *> buttons = palette.palette->buttons();
+    const auto heightOf = [&](int index) { return buttons.at(index)->mapTo(palette.palette, QPoint()).y(); };
+    int below = 0;
+    while (heightOf(below) == heightOf(0))
+        ++below;
+    const int second = heightOf(below);
+    const int row = second - heightOf(0);
+    const QPointF pos(10, 10);
+    QWidget *viewport = palette.palette->findChild<QScrollArea *>()->viewport();
+    QWheelEvent wheel(pos, viewport->mapToGlobal(pos.toPoint()), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(viewport, &wheel);
+    // A notch is three steps of whole pixels.
+    QVERIFY(second - heightOf(below) <= row);
+    QVERIFY(second - heightOf(below) > row - 3);
 }
 
 QTEST_MAIN(TestPalettePanel)
