@@ -190,6 +190,13 @@ bool PageScene::isDragging() const
     return m_drag.object != nullptr;
 }
 
+bool PageScene::event(QEvent *event)
+{
+    if (event->type() == QEvent::Leave)
+        m_tool->leave();
+    return QGraphicsScene::event(event);
+}
+
 void PageScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     if (usesTool()) {

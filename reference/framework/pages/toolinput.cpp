@@ -52,6 +52,14 @@ void ToolInput::move(const ToolPointer &pointer)
         waitForStillness(pointer);
     if (m_isPressed || m_tool->isDrawing())
         m_tool->move(m_pointer);
+    else
+        m_tool->hover(m_pointer);
+}
+
+void ToolInput::leave()
+{
+    if (m_tool && !m_isPressed && !m_tool->isDrawing())
+        m_tool->hoverEnd();
 }
 
 void ToolInput::release(const ToolPointer &pointer)

@@ -19,7 +19,10 @@ public:
     /// Not owned; null for none. A press that is going on is forgotten.
     void setTool(PageTool *tool);
     void press(const ToolPointer &pointer);
+    /// With and without a press.
     void move(const ToolPointer &pointer);
+    /// The pointer leaves the view.
+    void leave();
     void release(const ToolPointer &pointer);
     bool cancel();
     /// The keys that modify a drawing have changed. False where nothing is drawn.

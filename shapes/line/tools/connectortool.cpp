@@ -15,6 +15,17 @@ const shapekit::Text &ConnectorTool::stepText()
     return text;
 }
 
+/// Shows where a line would begin.
+void ConnectorTool::hover(const pagehost::ToolPointer &pointer)
+{
+    page().highlight(page().connectionAt(pointer).object);
+}
+
+void ConnectorTool::hoverEnd()
+{
+    page().highlight(nullptr);
+}
+
 void ConnectorTool::begin(Line &line, const pagehost::ToolPointer &pointer)
 {
     m_from = page().connectionAt(pointer);

@@ -13,6 +13,9 @@ public:
     /// The title of the undo step.
     static const shapekit::Text &stepText();
 
+    void hover(const pagehost::ToolPointer &pointer) override;
+    void hoverEnd() override;
+
 protected:
     void begin(Line &line, const pagehost::ToolPointer &pointer) override;
     void draw(Line &line, const pagehost::ToolPointer &pointer) override;

@@ -59,8 +59,11 @@ void DraggedLineTool::release(const pagehost::ToolPointer &pointer)
 
 bool DraggedLineTool::cancel()
 {
-    if (!m_line)
+    if (!m_line) {
+        // Whoever puts the tool down may not move the pointer.
+        hoverEnd();
         return false;
+    }
     end();
     m_page->revert();
     return true;

@@ -10,6 +10,8 @@ private Q_SLOTS:
     void aDragConnectsTheOutlinesOfTwoShapes();
     void aPlaceWithinReachIsTaken();
     void theObjectAndItsPlacesAreHighlightedWhileDragging();
+    void theObjectUnderTheWaitingPointerIsHighlighted();
+    void aToolThatIsPutDownHighlightsNothing();
     void aConnectorToEmptyPageHasAFreeEnd();
     void escapeLeavesNoTrace();
     void aClickDrawsNothing();
@@ -71,6 +73,36 @@ void TestConnector::theObjectAndItsPlacesAreHighlightedWhileDragging()
     QCOMPARE(QColor(seen.pixel(desk.at({250, 330}))), QColor(Qt::white));
     QCOMPARE(QColor(seen.pixel(desk.at({254, 330}))), QColor(255, 149, 0));
     desk.release({200, 330});
+    QCOMPARE(desk.page->scene()->highlight(), nullptr);
+}
+
+void TestConnector::theObjectUnderTheWaitingPointerIsHighlighted()
+{
+    Desk desk;
+    desk.hover({150, 130});
+    QCOMPARE(desk.page->scene()->highlight(), desk.one);
+    desk.hover({150, 330});
+    QCOMPARE(desk.page->scene()->highlight(), desk.two);
+    desk.hover({300, 230});
+    QCOMPARE(desk.page->scene()->highlight(), nullptr);
+    desk.hover({150, 130});
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(desk.view.viewport(), &leave);
+    QCOMPARE(desk.page->scene()->highlight(), nullptr);
+    QCOMPARE(desk.page->objectCount(), 2);
+    // A line that is drawn stays joined to what is outside of the view.
+    desk.press({150, 130});
+    desk.moveTo({200, 330});
+    QCoreApplication::sendEvent(desk.view.viewport(), &leave);
+    QCOMPARE(desk.page->scene()->highlight(), desk.two);
+}
+
+void TestConnector::aToolThatIsPutDownHighlightsNothing()
+{
+    Desk desk;
+    desk.hover({150, 130});
+    QCOMPARE(desk.page->scene()->highlight(), desk.one);
+    QVERIFY(!desk.pageTool->cancel());
     QCOMPARE(desk.page->scene()->highlight(), nullptr);
 }
 

@@ -193,6 +193,8 @@ Q_SIGNALS:
     void copyDropped(const QPointF &way);
 
 protected:
+    /// Tells the tool when the pointer leaves the view.
+    bool event(QEvent *event) override;
     /// Gives the press to the tool or to the grip there.
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     /// Leads the drag, or shows what is hovered.
