@@ -33,7 +33,7 @@ QByteArray encodedString(const QString &value)
     if (value == QLatin1String("null"))
         return bigEndian(0xffffffff, 4);
     const QString text = value.mid(1, value.size() - 2); // without its quotation marks
-    QByteArray bytes = bigEndian(quint64(2 * text.size()), 4);
+    QByteArray bytes = bigEndian(2 * quint64(text.size()), 4);
     for (const QChar character : text)
         bytes += bigEndian(character.unicode(), 2);
     return bytes;

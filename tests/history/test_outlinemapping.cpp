@@ -169,7 +169,7 @@ void TestMapping::anEmptyObjectLeavesTheViewBoxAlone()
     fixture.object.place({0, 0, 0, 50});
     QPainterPath path;
     fixture.shape->getOutlineRegion(&path);
-    fixture.shape->document->children().first()->setNumericAttribute("width", 90);
+    fixture.shape->document->children().constFirst()->setNumericAttribute("width", 90);
     // Settled only now, from the wider drawing.
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(10, 20, 90, 5));
 }
@@ -191,7 +191,7 @@ void TestMapping::aMissingViewBoxIsSettledFirst()
     QPainterPath path;
     QVERIFY(fixture.shape->getOutlineRegion(&path));
     QCOMPARE(corners(path), corners(pathOf({0, 0, 60, 10})));
-    fixture.shape->document->children().first()->setNumericAttribute("width", 90);
+    fixture.shape->document->children().constFirst()->setNumericAttribute("width", 90);
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(10, 20, 30, 5)); // it stays
 }
 

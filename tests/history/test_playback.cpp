@@ -165,7 +165,7 @@ void TestPlayback::aFillAsRecordedIsReplayedAsOpaqueBlack()
     FullShape full;
     full.shape->setFillBrush(QBrush(Qt::yellow, Qt::CrossPattern), true, true);
     QCOMPARE(recording::lastArguments("RecordAction"), QVariantList({1005, bytesOf(QColor(Qt::yellow))}));
-    const QByteArray recorded = recording::lastArguments("RecordAction").last().toByteArray();
+    const QByteArray recorded = recording::lastArguments("RecordAction").constLast().toByteArray();
     full.object.onSetFillProp = [](CPageBgProp *, bool) {};
     Input input(recorded);
     QVERIFY(full.shape->DoPlaybackActionEx(1005, input));

@@ -1,6 +1,7 @@
 #include "shape/controlpointsize.h"
 
 #include <support/exact.h>
+#include <support/listed.h>
 #include <support/shapefixture.h>
 #include <support/streams.h>
 
@@ -427,7 +428,7 @@ void TestStyling::attributesAreWrittenInOrder()
     Following following;
     following.shape->setPenWidth(20, false);
     QStringList written;
-    for (const recording::Call &call : recording::calls({"setNumericAttribute"}))
+    for (const recording::Call &call : support::listed(recording::calls({"setNumericAttribute"})))
         written.append(call.object + ' ' + call.arguments.first().toString());
     QCOMPARE(written, QStringList({"control_1 x", "control_1 rx", "control_1 y", "control_1 ry", "control_1 width",
                                    "control_1 height", "control_2 x", "control_2 rx", "control_2 y", "control_2 ry",
@@ -439,7 +440,7 @@ void TestStyling::theRectangleIsReadAgainForY()
     Following following;
     following.shape->setPenWidth(20, false);
     QStringList steps;
-    for (const recording::Call &call : recording::calls({"setNumericAttribute", "boundingRect"}))
+    for (const recording::Call &call : support::listed(recording::calls({"setNumericAttribute", "boundingRect"})))
         if (call.object == "control_2")
             steps.append(call.arguments.isEmpty() ? "read" : call.arguments.first().toString());
     QCOMPARE(steps, QStringList({"read", "x", "rx", "read", "y", "ry", "width", "height"}));
@@ -480,7 +481,7 @@ void TestStyling::withACountOfZeroOnlyTheSizeIsStored()
     following.shape->controlPointCount = 0;
     following.shape->setPenWidth(20, false);
     QCOMPARE(recording::count("setNumericAttribute"), 0);
-    QCOMPARE(recording::lastArguments("updateAfterPenWidthChanged").first().toInt(), 20);
+    QCOMPARE(recording::lastArguments("updateAfterPenWidthChanged").constFirst().toInt(), 20);
     QCOMPARE(following.shape->controlPointSize, 20.0);
 }
 

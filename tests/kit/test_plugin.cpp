@@ -115,7 +115,7 @@ void TestPlugin::shapesHaveGroupsIdsAndKeysOfTheirOwn()
     kind.keyPrefix = QStringLiteral("IDS_WORKSHOP_");
     kind.group = {QStringLiteral("IDS_TOOLS"), shapekit::inEnglishAndGerman("Tools", "Werkzeug")};
     const shapekit::ShapePlugin plugin({kind});
-    const pagehost::ObjectKind offered = plugin.objectKinds().first();
+    const pagehost::ObjectKind offered = plugin.objectKinds().constFirst();
     QCOMPARE(offered.id, QStringLiteral("workshop.nut"));
     QCOMPARE(offered.nameKey, QStringLiteral("IDS_WORKSHOP_NUT"));
     QCOMPARE(offered.group, QStringLiteral("IDS_TOOLS"));
@@ -209,7 +209,7 @@ void TestPlugin::listenerHearsOfLaterFaults()
     kind.log->report({pagehost::PluginMessage::Warning, QStringLiteral("K03"), QStringLiteral("f"), 0, 0, QString(),
                       QStringLiteral("unheard")});
     QCOMPARE(heard.size(), 1);
-    QCOMPARE(plugin.messages().last().told(), QStringLiteral("f: warning K03: unheard"));
+    QCOMPARE(plugin.messages().constLast().told(), QStringLiteral("f: warning K03: unheard"));
 }
 
 void TestPlugin::logIsBounded()

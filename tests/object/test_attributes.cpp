@@ -272,7 +272,8 @@ void TestAttributes::theDocumentFollowsTheHostsFill()
     fixture.object.setFillProp(&prop, true);
     const QBrush hostBrush(QColor(10, 20, 30, 128));
     QCOMPARE(fixture.object.fillBrush, hostBrush);
-    QCOMPARE(recording::calls("shape", "setFillBrush").first().arguments, QVariantList({hostBrush, false, true}));
+    QCOMPARE(recording::calls("shape", "setFillBrush").constFirst().arguments,
+             QVariantList({hostBrush, false, true}));
     QCOMPARE(fixture.shape->document->getAllFillBrush().color(), QColor(10, 20, 30, 128));
 }
 
@@ -287,7 +288,7 @@ void TestAttributes::theHostTakesTheFillBeforeTheCore()
         fixture.object.setFillProp(&prop, record);
         QCOMPARE(recording::names({"setFillProp", "setFillBrush"}),
                  QStringList({"object.setFillProp", "shape.setFillBrush"}));
-        QCOMPARE(recording::lastArguments("setFillProp").last(), QVariant(record));
+        QCOMPARE(recording::lastArguments("setFillProp").constLast(), QVariant(record));
     }
 }
 

@@ -9,9 +9,7 @@
 
 using support::exact;
 using support::ShapeFixture;
-using support::svgText;
 using support::TestObject;
-using support::TestShape;
 using support::twoPointTemplate;
 
 /// Which size a page object really gets when the host asks for one.

@@ -161,7 +161,8 @@ void TestAccess::aBrushIsApplied()
 {
     FullShape full;
     QVERIFY(full.shape->setInnerProperty(5005, inputOf(patternedGreen), false, false));
-    QCOMPARE(recording::calls({"setFillBrush"}).first().arguments, QVariantList({patternedGreen, false, true}));
+    QCOMPARE(recording::calls({"setFillBrush"}).constFirst().arguments,
+             QVariantList({patternedGreen, false, true}));
 }
 
 void TestAccess::theRecordFlagReachesTheSetter_data()
@@ -183,7 +184,7 @@ void TestAccess::theRecordFlagReachesTheSetter()
     FullShape full;
     full.shape->setInnerProperty(propId, Input(value), true, false);
     QCOMPARE(recording::count("RecordAction"), 1);
-    QCOMPARE(recording::lastArguments("RecordAction").first().toInt(), actionId);
+    QCOMPARE(recording::lastArguments("RecordAction").constFirst().toInt(), actionId);
     FullShape other;
     other.shape->setInnerProperty(propId, Input(value), false, false);
     QCOMPARE(recording::count("RecordAction"), 0);

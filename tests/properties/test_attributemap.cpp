@@ -86,7 +86,7 @@ void TestAttributeMap::aColourBecomesASolidFill()
 {
     QVERIFY(fixture->shape->setAllAttributes(Map{{"fill_color", QColor(Qt::green)}}, false));
     QCOMPARE(fixture->shape->document->getAllFillBrush(), QBrush(QColor(Qt::green)));
-    QCOMPARE(recording::calls("shape", "setFillBrush").first().arguments,
+    QCOMPARE(recording::calls("shape", "setFillBrush").constFirst().arguments,
              QVariantList({QBrush(QColor(Qt::green)), false, true}));
 }
 

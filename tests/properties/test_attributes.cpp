@@ -1,6 +1,7 @@
 #include "properties/attributedescription.h"
 
 #include <properties/fullshape.h>
+#include <support/listed.h>
 #include <support/shapefixture.h>
 #include <support/streams.h>
 
@@ -340,7 +341,7 @@ void TestAttributes::aRestorePassesTheRecordFlag()
     FullShape full;
     full.shape->SetAttribute(2805, Input({}), true, true);
     QList<int> recorded;
-    for (const recording::Call &call : recording::calls({"RecordAction"}))
+    for (const recording::Call &call : support::listed(recording::calls({"RecordAction"})))
         recorded.append(call.arguments.first().toInt());
     QCOMPARE(recorded, QList<int>({1003, 1002, 1005}));
 }

@@ -15,7 +15,6 @@
 
 using support::bytesOf;
 using support::Input;
-using support::Output;
 using support::valueOf;
 
 /// Colours and brushes whose bytes claim what they do not hold.

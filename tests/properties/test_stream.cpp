@@ -208,7 +208,7 @@ void TestStream::theFillComesFromThePageObject()
     QColor expected(10, 20, 30);
     expected.setAlphaF(51 / 255.0);
     QCOMPARE(fixture.shape->document->getAllFillBrush(), QBrush(expected));
-    QCOMPARE(recording::calls("shape", "setFillBrush").first().arguments,
+    QCOMPARE(recording::calls("shape", "setFillBrush").constFirst().arguments,
              QVariantList({QBrush(expected), false, true}));
 }
 

@@ -486,7 +486,7 @@ void TestCorePainting::aShapeThatIsGoneIsNotTouched()
     IDocument *const *known = &shape->belongDoc;
     const auto offset = reinterpret_cast<const char *>(known) - memory;
     shape->~TestShape();
-    IDocument *const address = document.get();
+    const auto address = reinterpret_cast<quintptr>(document.get());
     std::memcpy(memory + offset, &address, sizeof address);
     document.reset();
     QVERIFY(!std::memcmp(memory + offset, &address, sizeof address)); // the memory is somebody else's by now

@@ -1,3 +1,4 @@
+#include <support/listed.h>
 #include <support/shapefixture.h>
 
 #include <svgobj/csvgpropitem.h>
@@ -74,7 +75,7 @@ namespace {
 QStringList lookups()
 {
     QStringList ids;
-    for (const recording::Call &call : recording::calls({"namedNode"}))
+    for (const recording::Call &call : support::listed(recording::calls({"namedNode"})))
         ids.append(call.arguments.value(0).toString());
     return ids;
 }
@@ -147,7 +148,7 @@ void TestDocument::loadingTakesTheTemplateAsUtf8()
     ShapeFixture fixture(svgText("0 0 30 20", QString::fromUtf8("<rect id='größe'/>")));
     QVERIFY(fixture.shape->loadSVG(false));
     QCOMPARE(recording::count("getSVG"), 1);
-    QCOMPARE(recording::calls({"load"}).first().arguments.first().toByteArray(),
+    QCOMPARE(recording::calls({"load"}).constFirst().arguments.first().toByteArray(),
              fixture.shape->templateText.toUtf8());
     QCOMPARE(recording::count("document", "load"), 1);
     QCOMPARE(fixture.shape->document->viewBox(), QRectF(0, 0, 30, 20));
@@ -326,7 +327,7 @@ void TestDocument::atMostThirtyTwoControlPointsAreFound()
     fixture.shape->loadSVG(false);
     QCOMPARE(fixture.shape->controlPointCount, 32u);
     QCOMPARE(fixture.shape->point(32)->nodeId(), QString("control_32"));
-    QCOMPARE(lookups().last(), QString("control_32"));
+    QCOMPARE(lookups().constLast(), QString("control_32"));
     QVERIFY(fixture.shape->node("control_33")->isStrokeEnabled());
 }
 
@@ -426,7 +427,7 @@ void TestDocument::loadingEndsWithRedrawAndNotification()
 {
     ShapeFixture fixture(twoPointTemplate());
     fixture.shape->loadSVG(false);
-    QCOMPARE(recording::calls().last().operation, QString("notifyObjPropertyChanged"));
+    QCOMPARE(recording::calls().constLast().operation, QString("notifyObjPropertyChanged"));
     QCOMPARE(recording::lastArguments("notifyObjPropertyChanged"), QVariantList({1002, QString("")}));
     QCOMPARE(recording::lastArguments("OnQPainterDraw"), QVariantList({false}));
     QCOMPARE(recording::count("OnQPainterDraw"), 1);

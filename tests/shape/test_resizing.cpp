@@ -420,7 +420,7 @@ void TestResizing::theCentreCountsFromTheClientRectangle()
     recording::clear();
     placed.shape->adjustSvgPosition(QPointF(10, 0), 0, 0, true);
     // The centre (55, 31) lies at (−31, 55); half the size, not the centre, is taken off.
-    QCOMPARE(recording::calls({"setPos"}).first().arguments.first().toPointF(), QPointF(-81, 30));
+    QCOMPARE(recording::calls({"setPos"}).constFirst().arguments.first().toPointF(), QPointF(-81, 30));
     QCOMPARE(recording::lastArguments("setRotateByPoint"), QVariantList({90.0, QPointF(45, 31), false}));
 }
 

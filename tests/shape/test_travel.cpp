@@ -274,7 +274,7 @@ void TestTravel::entriesWithoutNodeAreSkipped()
     fixture.shape->controlPoints[0] = nullptr;
     fixture.shape->setSize({100, 50}, {150, 50});
     QCOMPARE(recording::count("updateSVG"), 1);
-    QCOMPARE(recording::lastArguments("updateSVG").first().toString(), QString("control_2"));
+    QCOMPARE(recording::lastArguments("updateSVG").constFirst().toString(), QString("control_2"));
 }
 
 void TestTravel::aCountBeyondTheTableEndsAtTheTable()

@@ -6,6 +6,8 @@
 #include <checklist/recordedactions.h>
 #include <checklist/states.h>
 
+#include <support/listed.h>
+
 #include <svgobj/csvgbase.h>
 #include <svgobj/csvgobj.h>
 
@@ -56,7 +58,7 @@ struct Curve : ShapeDriver
     int pieces() const { return text().count(QLatin1Char('M')); }
     QJsonObject control(const QString &id) const
     {
-        for (const QJsonValue &control : checklist::settingsOf(*this))
+        for (const QJsonValue &control : support::listed(checklist::settingsOf(*this)))
             if (control[QStringLiteral("id")] == id)
                 return control.toObject();
         return {};
@@ -64,7 +66,7 @@ struct Curve : ShapeDriver
     QStringList controls() const
     {
         QStringList ids;
-        for (const QJsonValue &control : checklist::settingsOf(*this))
+        for (const QJsonValue &control : support::listed(checklist::settingsOf(*this)))
             ids.append(control[QStringLiteral("id")].toString());
         return ids;
     }

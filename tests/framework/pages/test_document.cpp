@@ -429,7 +429,7 @@ void TestDocument::addedObjectKnowsItsPage()
     Page page(nullptr);
     auto *object = new TestObject;
     QVector<CBaseObject *> added;
-    connect(&page, &Page::objectAdded, [&](CBaseObject *other) { added.append(other); });
+    connect(&page, &Page::objectAdded, &page, [&](CBaseObject *other) { added.append(other); });
     page.addObject(object);
     QCOMPARE(object->GetPage(), static_cast<IPsPage *>(&page));
     QCOMPARE(object->scene(), page.scene());

@@ -247,7 +247,8 @@ void TestGripFinder::frameOfASmallObjectGrows()
     Desk desk;
     const auto *object = desk.addSelected(QSizeF(2, 2));
     const auto corner = [&] {
-        return pagehost::PageScene::handlePlace(desk.page->objects().first(), CObjAction::ACT_ResizeBottomRight);
+        return pagehost::PageScene::handlePlace(desk.page->objects().constFirst(),
+                                                CObjAction::ACT_ResizeBottomRight);
     };
     QCOMPARE(corner(), object->getPos() + QPointF(13, 13));
     desk.page->scene()->setLargeHandles(true);

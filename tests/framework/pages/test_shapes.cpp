@@ -38,7 +38,7 @@ struct Workshop : Editor
     {
         tool.begin(page->scene(), kindId);
         drag(from, to);
-        return page->objects().isEmpty() ? nullptr : page->objects().last();
+        return page->objects().isEmpty() ? nullptr : page->objects().constLast();
     }
     pagehost::CreationTool tool;
 };
@@ -168,7 +168,7 @@ void TestShapes::clickedShapeHasItsDefaultSize()
     workshop.tool.begin(workshop.page->scene(), kind);
     workshop.click(QPointF(300, 200));
     QCOMPARE(workshop.page->objectCount(), 1);
-    CBaseObject *object = workshop.page->objects().first();
+    CBaseObject *object = workshop.page->objects().constFirst();
     QCOMPARE(object->getPos(), QPointF(300, 200));
     QVERIFY(object->getClientRect().width() >= 10 && object->getClientRect().height() >= 10);
     QVERIFY(object->isCreateFinished());

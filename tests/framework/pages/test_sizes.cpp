@@ -119,7 +119,7 @@ void TestSizes::drawnObjectEndsAtTheLongestSide()
     tool.begin(editor.page->scene(), QStringLiteral("test.created"));
     editor.drag(QPointF(500, 100), QPointF(500 - 40000, 180));
     QCOMPARE(editor.page->objectCount(), 1);
-    CBaseObject *object = editor.page->objects().first();
+    CBaseObject *object = editor.page->objects().constFirst();
     QCOMPARE(object->getClientRect().size(), QSizeF(longest, 80));
     QCOMPARE(object->getPos(), QPointF(500 - longest, 100));
 }

@@ -247,7 +247,7 @@ void TestStyle::styleMapHasTheLookAlone()
     QCOMPARE(map[QStringLiteral("pen_width")], QVariant(2));
     QCOMPARE(map[QStringLiteral("fill_color")], QVariant(QColor(Qt::yellow)));
     object.fill = Qt::NoBrush;
-    QCOMPARE(pagehost::styleMapOf(&object)[QStringLiteral("fill_color")], QVariant(QColor(Qt::transparent)));
+    QCOMPARE(pagehost::styleMapOf(&object).value(QStringLiteral("fill_color")), QVariant(QColor(Qt::transparent)));
 }
 
 void TestStyle::styleMapIsGivenAsOneStep()

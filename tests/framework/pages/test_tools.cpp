@@ -185,7 +185,7 @@ void TestTools::aDrawingIsOneStepThatUndoAndRedoRepeat()
     Workshop workshop;
     workshop.drag({100, 120}, {140, 150});
     QCOMPARE(workshop.page->objectCount(), 1);
-    CBaseObject *object = workshop.page->objects().first();
+    CBaseObject *object = workshop.page->objects().constFirst();
     QCOMPARE(object->getPos(), QPointF(140, 150));
     QCOMPARE(stepTexts(), QStringList{"IDS_STAMPED"});
     undoStack()->undo();
@@ -403,7 +403,7 @@ void TestTools::aToolThatCannotBeMadeIsReported()
 {
     Workshop workshop;
     QCOMPARE(workshop.registry.createTool(pagehost::ToolRole::Line, &workshop.session), nullptr);
-    QCOMPARE(workshop.registry.reports().first().problem,
+    QCOMPARE(workshop.registry.reports().constFirst().problem,
              QStringLiteral("createTool() threw an exception: no lines today"));
 }
 

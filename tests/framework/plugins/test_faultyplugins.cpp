@@ -162,7 +162,7 @@ void TestFaultyPlugins::throwingCreationGivesNoObjectAndIsReported()
     room.plugin.failIn(QStringLiteral("createObject"));
     QCOMPARE(room.registry.createObject(kindId), nullptr);
     QCOMPARE(room.problem(), QStringLiteral("createObject(\"faulty\") threw an exception: out of order"));
-    QVERIFY(room.registry.reports().first().loaded);
+    QVERIFY(room.registry.reports().constFirst().loaded);
     room.plugin.failIn({});
     const std::unique_ptr<CBaseObject> object(room.registry.createObject(kindId));
     QVERIFY(object);

@@ -491,7 +491,7 @@ void TestRegistry::laterFaultIsToldOnceAndNotAfterTheRegistry()
         plugin.tell({pagehost::PluginMessage::Error, QStringLiteral("K04"), QStringLiteral("a.svg"), 0, 0,
                      QString(), QStringLiteral("no node")});
         QCOMPARE(told, QStringList{QStringLiteral("a.svg:4:7: warning K03: unknown; a.svg: error K04: no node")});
-        QCOMPARE(registry.reports().first().messages.size(), 2);
+        QCOMPARE(registry.reports().constFirst().messages.size(), 2);
     }
     QVERIFY(!plugin.tell);
     QCOMPARE(told.size(), 1);

@@ -82,7 +82,7 @@ DeclaredObject *TestDrawings::drop(const QByteArray &svg)
 QColor TestDrawings::colourAt(QPointF part)
 {
     m_document->page(0)->select({});
-    const CBaseObject *object = m_document->page(0)->objects().last();
+    const CBaseObject *object = m_document->page(0)->objects().constLast();
     const QSizeF size = object->getClientRect().size();
     const QPointF place = object->mapToScene(QPointF(part.x() * size.width(), part.y() * size.height()));
     return pictureOf(*m_document).pixelColor(place.toPoint());

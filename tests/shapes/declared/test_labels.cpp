@@ -385,7 +385,7 @@ void TestLabels::roundsFarFromZeroArentWritten()
         "<text id='label_n' shape:box='0; 0; 60; 80'>a</text><text/></g>")));
     shapekit::ShapeObject object(kind.kind());
     QCOMPARE(object.core()->labelPlaces().size(), 1);
-    write(object, object.core()->labelPlaces().first().propertyId, "b");
+    write(object, object.core()->labelPlaces().constFirst().propertyId, "b");
     QCOMPARE(labelsIn(object).keys(), QStringList{QStringLiteral("label_n_511_-512")});
     QCOMPARE(object.core()->toSvg().count("<text "), 1);
 }

@@ -484,7 +484,7 @@ void TestReloading::faultOfDrawingIsToldWithItsPlace()
     pictureOf(*m_document);
     const QString fault = m_machine->pathOf(name) + QStringLiteral(":6:51: warning C40: the value is not finite");
     QCOMPARE(told, QStringList{fault});
-    QCOMPARE(m_machine->registry().reports().first().messages.last().column, 51);
+    QCOMPARE(m_machine->registry().reports().constFirst().messages.last().column, 51);
 }
 
 void TestReloading::faultOfAFileIsToldOnce()
@@ -494,8 +494,8 @@ void TestReloading::faultOfAFileIsToldOnce()
         [&](const pagehost::PluginReport &report) { told.append(report.problem); });
     save(barFile("#ff0000").replace("{p1.x}", "{p1.z}"));
     QCOMPARE(m_machine->registry().faults().size(), 1);
-    QCOMPARE(m_machine->registry().reports().first().messages.last().told(),
-             m_machine->registry().faults().first());
+    QCOMPARE(m_machine->registry().reports().constFirst().messages.last().told(),
+             m_machine->registry().faults().constFirst());
     QCOMPARE(told, QStringList());
 }
 

@@ -512,7 +512,7 @@ void TestPen::aLessonShowsWhenAStrokeBecameACircle()
     desk.player.setLesson(lesson);
     const auto shownAt = [&](qint64 time) {
         desk.player.seek(time);
-        return desk.placeOf(desk.player.document()->page(0)->objects().first()).size() - QSizeF(8, 8);
+        return desk.placeOf(desk.player.document()->page(0)->objects().constFirst()).size() - QSizeF(8, 8);
     };
     QVERIFY(std::abs(shownAt(1500).width() - 212) < 0.1 && std::abs(shownAt(1500).height() - 200) < 0.1);
     QVERIFY(std::abs(shownAt(2500).width() - 206) < 1 && std::abs(shownAt(2500).height() - 206) < 1);

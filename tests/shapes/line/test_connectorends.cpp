@@ -67,7 +67,7 @@ void TestConnectorEnds::anEndIsDraggedToAnotherShape()
     QCOMPARE(cornersOf(connector), (QVector<QPointF>{{200, 130}, {400, 130}}));
     // Dropped on the shape's inside, it ends at the outline.
     desk.drag({400, 130}, {450, 145});
-    QCOMPARE(cornersOf(connector).last().x(), 401.0);
+    QCOMPARE(cornersOf(connector).constLast().x(), 401.0);
 }
 
 void TestConnectorEnds::theObjectGlowsWhileAnEndIsDraggedToIt()

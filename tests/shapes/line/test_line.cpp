@@ -215,7 +215,7 @@ void TestLine::aMirroredLineIsDraggedInALesson()
     const pagehost::Lesson lesson = desk.recorder.stop();
     desk.player.setLesson(lesson);
     desk.player.seek(1500);
-    QCOMPARE(desk.placeOf(desk.player.document()->page(0)->objects().first()), dragged);
+    QCOMPARE(desk.placeOf(desk.player.document()->page(0)->objects().constFirst()), dragged);
     QCOMPARE(desk.played(lesson), drawn);
 }
 
@@ -248,7 +248,7 @@ void TestLine::aLessonShowsTheLineGrow()
     const pagehost::Lesson lesson = desk.recorder.stop();
     desk.player.setLesson(lesson);
     desk.player.seek(1500);
-    QCOMPARE(desk.placeOf(desk.player.document()->page(0)->objects().first()), QRectF(92, 112, 66, 16));
+    QCOMPARE(desk.placeOf(desk.player.document()->page(0)->objects().constFirst()), QRectF(92, 112, 66, 16));
     QCOMPARE(desk.played(lesson), drawn);
 }
 

@@ -634,7 +634,7 @@ void TestWriting::aLessonShowsTheTextAsItIsTyped()
     const pagehost::Lesson lesson = desk.recorder.stop();
     desk.player.setLesson(lesson);
     desk.player.seek(2000);
-    const QString svg = desk.svgOf(desk.player.document()->page(0)->objects().first());
+    const QString svg = desk.svgOf(desk.player.document()->page(0)->objects().constFirst());
     QVERIFY2(svg.contains(">on</tspan>"), qPrintable(svg));
     QCOMPARE(desk.played(lesson), written);
 }

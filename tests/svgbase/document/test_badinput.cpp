@@ -201,7 +201,7 @@ void TestBadInput::tenMegabytesOfPathDataAreCut()
     QVERIFY(document);
     QCOMPARE(document->namedNode("p")->path().elementCount(), Limits::pathSegments);
     QCOMPARE(document->messages().size(), 1);
-    QCOMPARE(document->messages().first().elementId, QStringLiteral("p"));
+    QCOMPARE(document->messages().constFirst().elementId, QStringLiteral("p"));
     exercise(text);
 }
 

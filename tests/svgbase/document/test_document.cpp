@@ -102,7 +102,7 @@ void TestDocument::nodeObjectsStayTheSame()
     const DocumentPointer document = loadContent("<g id='g'><rect id='a'/></g>");
     QZeSvgNode *node = document->namedNode("a");
     QCOMPARE(document->namedNode("a"), node);
-    QCOMPARE(group(*document, "g")->children().first(), node);
+    QCOMPARE(group(*document, "g")->children().constFirst(), node);
     QCOMPARE(node->parent(), group(*document, "g"));
 }
 

@@ -368,7 +368,7 @@ void TestLimits::firstOfEveryKindIsKeptAmongManyMessages()
     const DocumentPointer document = loadContent(QString("<rect fill='nonsense'/>").repeated(500) +
                                                  pathOf(Limits::pathSegments + 1).repeated(2));
     QCOMPARE(document->messages().size(), Limits::messages + 1);
-    QCOMPARE(document->messages().last().code, Message::TooManySegments);
+    QCOMPARE(document->messages().constLast().code, Message::TooManySegments);
 }
 
 void TestLimits::messagesOfADrawingGoWhenItsCauseGoes()

@@ -164,7 +164,7 @@ void TestImages::hugeImageIsLeftOutWithAMessage()
                     "'/><rect width='50' height='50' fill='#0f0'/>");
     QCOMPARE(drawn(*document).pixelColor(25, 25), QColor(0, 255, 0));
     QCOMPARE(document->messages().size(), 1);
-    QCOMPARE(document->messages().first().elementId, QStringLiteral("huge"));
+    QCOMPARE(document->messages().constFirst().elementId, QStringLiteral("huge"));
 }
 
 void TestImages::imagesOfADrawingAreBoundedTogether()
