@@ -120,7 +120,7 @@ QString singleNumbersDifference(const QString &text, const ExactText &exact)
 QString comparison::numbersDifference(const QString &text)
 {
     const ExactText exact(text, true);
-    const QString found = singleNumbersDifference(text, exact);
+    QString found = singleNumbersDifference(text, exact);
     if (!found.isEmpty())
         return found;
     const QChar *str = exact.units();

@@ -51,7 +51,7 @@ QString difference(const QString &text, const comparison::Edit &edit)
 QString truncationDifference(const QString &text, const comparison::Edit &edit)
 {
     for (int size = text.size(); size >= 0; --size) {
-        const QString found = difference(text.left(size), edit);
+        QString found = difference(text.left(size), edit);
         if (!found.isEmpty())
             return found;
     }

@@ -197,7 +197,7 @@ void TestTravel::theOffsetIsZeroWhereBoundsFollow()
 {
     OnePoint fixture({40, 10, 20, 10});
     fixture.shape->setSize({100, 50}, {150, 100});
-    QCOMPARE(exact(recording::lastArguments("updateSVG")[1].toPointF()), exact(QPointF(0, 0)));
+    QCOMPARE(exact(recording::lastArguments("updateSVG").at(1).toPointF()), exact(QPointF(0, 0)));
 }
 
 void TestTravel::theOffsetIsTheRestWhereBoundsLag()
@@ -205,7 +205,7 @@ void TestTravel::theOffsetIsTheRestWhereBoundsLag()
     OnePoint fixture({40, 10, 20, 10});
     recording::svg().boundsFollow = false;
     fixture.shape->setSize({100, 50}, {150, 100});
-    QCOMPARE(exact(recording::lastArguments("updateSVG")[1].toPointF()), exact(QPointF(31.25, 18.75)));
+    QCOMPARE(exact(recording::lastArguments("updateSVG").at(1).toPointF()), exact(QPointF(31.25, 18.75)));
 }
 
 void TestTravel::aMissingViewBoxIsSettledFirst()

@@ -11,7 +11,6 @@ using support::exact;
 using support::Input;
 using support::Output;
 using support::ShapeFixture;
-using support::TestShape;
 using support::twoPointTemplate;
 
 /// A shape whose document could not be loaded, neither the template nor what stands in for it.

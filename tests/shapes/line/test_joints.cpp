@@ -209,7 +209,7 @@ void TestJoints::unusedJointsTakeNoBytes()
     QCOMPARE(read[1].out, upwards);
     // The end of an object that is gone keeps its direction.
     joints[1].object = 0;
-    QCOMPARE(line::decodedJoints(encoded(joints))[1].out, upwards);
+    QCOMPARE(line::decodedJoints(encoded(joints)).at(1).out, upwards);
 }
 
 void TestJoints::damagedJointsAreFree()
@@ -218,9 +218,9 @@ void TestJoints::damagedJointsAreFree()
     joints[0] = {7, QStringLiteral("nose"), upwards};
     const QByteArray bytes = encoded(joints);
     for (int size = 0; size < bytes.size(); ++size)
-        QCOMPARE(line::decodedJoints(bytes.left(size))[0].object, 0u);
+        QCOMPARE(line::decodedJoints(bytes.left(size)).at(0).object, 0u);
     joints[0].out = {3, qQNaN()};
-    QCOMPARE(line::decodedJoints(encoded(joints))[0].out, downwards);
+    QCOMPARE(line::decodedJoints(encoded(joints)).at(0).out, downwards);
 }
 
 void TestJoints::damagedObjectsAreNone()
