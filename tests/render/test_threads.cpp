@@ -11,7 +11,6 @@
 #include <memory>
 #include <vector>
 
-using support::ShapeFixture;
 using support::TestShape;
 using support::twoPointTemplate;
 
