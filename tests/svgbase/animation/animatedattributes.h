@@ -15,7 +15,7 @@ public:
 
     QString attribute(const QString &name) const { return m_shown.attribute(m_index, name); }
     Svg::FactsPointer facts() const { return m_shown.facts(m_index); }
-    Svg::ComputedStyle style() const { return *facts()->style; }
+    Svg::ComputedStyle style() const { return static_cast<const Svg::ComputedStyle &>(*facts()->style); }
     QRectF bounds() const { return facts()->bounds; }
     QPointF mapped(double x, double y) const { return facts()->toDocument.map(QPointF(x, y)); }
 

@@ -147,8 +147,9 @@ void TestBadInput::attributesInCommentsAndDataDoNotCount()
 void TestBadInput::crowdedTagsAreFoundBehindWhatLooksLikeQuotes()
 {
     const QByteArray crowded = "<g " + QByteArray("a='1' ").repeated(300) + "/></svg>";
-    for (const QByteArray start : {"<!DOCTYPE svg [<!-- ' -->]><svg>", "<!DOCTYPE svg [<?pi ' ?>]><svg>",
-                                   "<!DOCTYPE svg [<!--> ' -->]><svg>"}) {
+    const QByteArrayList starts{"<!DOCTYPE svg [<!-- ' -->]><svg>", "<!DOCTYPE svg [<?pi ' ?>]><svg>",
+                                "<!DOCTYPE svg [<!--> ' -->]><svg>"};
+    for (const QByteArray &start : starts) {
         const std::optional<QByteArray> thinned = withoutCrowdedTags(start + crowded);
         QVERIFY(thinned);
         QCOMPARE(thinned->size(), start.size() + crowded.size());

@@ -48,8 +48,10 @@ void TestThreads::documentsOfOneTextInManyThreads()
                 ++different;
         }
     };
+    constexpr int threadCount = 4;
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
+    threads.reserve(threadCount);
+    for (int i = 0; i < threadCount; ++i)
         threads.emplace_back(work);
     for (std::thread &thread : threads)
         thread.join();
