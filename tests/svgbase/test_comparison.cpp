@@ -37,7 +37,7 @@ double momentOf(const QString &name)
         QString::fromUtf8(goldencases::contents(name + QStringLiteral(".expect"))).split(QLatin1Char('\n'));
     for (const QString &line : lines)
         if (line.startsWith(QLatin1String("time ")))
-            return line.mid(5).toDouble();
+            return line.midRef(5).toDouble();
     return 0;
 }
 

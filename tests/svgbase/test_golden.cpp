@@ -182,7 +182,7 @@ int difference(const QImage &a, const QImage &b)
 QString kept(const QImage &image, const QString &name)
 {
     QDir().mkpath(QStringLiteral(FAILURE_DIR));
-    const QString path = QStringLiteral(FAILURE_DIR "/") + name + QStringLiteral(".png");
+    QString path = QStringLiteral(FAILURE_DIR "/") + name + QStringLiteral(".png");
     image.save(path);
     return path;
 }
