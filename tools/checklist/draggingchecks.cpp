@@ -147,7 +147,7 @@ void pointsFollowTheMouse(const Subject &subject, Report &report)
 QImage paintedUnselected(ShapeDriver &shape)
 {
     shape.object().setSelected(false);
-    const QImage picture = shape.painted();
+    QImage picture = shape.painted();
     shape.select();
     return picture;
 }

@@ -59,7 +59,8 @@ void templateIsDrawnAsItStands(const Subject &subject, Report &report)
         report.expect(distance.manhattanLength() < 0.01,
                       QStringLiteral("control_%1 stands elsewhere than in the template").arg(number));
     }
-    for (const QZeSvgNode *node : plain->children()) {
+    const auto children = plain->children();
+    for (const QZeSvgNode *node : children) {
         const QZeSvgNode *own = node->nodeId().isEmpty() ? nullptr : shape.document().namedNode(node->nodeId());
         const QRectF expected = node->transformedBounds();
         // Letters that change, and repeated parts, are only there once they are drawn.

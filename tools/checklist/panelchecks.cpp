@@ -53,7 +53,8 @@ void settingsHaveIdsAndTitles(const Subject &subject, Report &report)
         ids.insert(id);
         const QString title = control.toObject()[QStringLiteral("title")].toString();
         report.expect(isTold(title, english), QStringLiteral("\"%1\" has no English text").arg(title));
-        for (const QJsonValue &entry : control.toObject()[QStringLiteral("texts")].toArray())
+        const QJsonArray texts = control.toObject()[QStringLiteral("texts")].toArray();
+        for (const QJsonValue &entry : texts)
             report.expect(isTold(entry.toString(), english),
                           QStringLiteral("\"%1\" has no English text").arg(entry.toString()));
     }
@@ -64,7 +65,8 @@ void everyAnswerIsOneStepAndIsTakenBack(const Subject &subject, Report &report)
     ShapeDriver shape(subject.plugin, subject.kindId);
     shape.createByClick();
     RandomEdits answers(shape, startValue);
-    for (const QJsonValue &control : settingsOf(shape)) {
+    const QJsonArray settings = settingsOf(shape);
+    for (const QJsonValue &control : settings) {
         const QString id = idOf(control);
         const QByteArray before = savedBytes(shape);
         const int steps = shape.undoStack().count();
@@ -88,7 +90,8 @@ void allAnswersTogetherAreOneStep(const Subject &subject, Report &report)
     shape.createByClick();
     RandomEdits answers(shape, startValue);
     QJsonObject all;
-    for (const QJsonValue &control : settingsOf(shape))
+    const QJsonArray settings = settingsOf(shape);
+    for (const QJsonValue &control : settings)
         all[idOf(control)] = answers.answerTo(control.toObject());
     const QByteArray before = savedBytes(shape);
     report.expect(answer(shape, all) && savedBytes(shape) != before, QStringLiteral("answers have no effect"));
@@ -110,7 +113,8 @@ void nonsenseIsNoAnswer(const Subject &subject, Report &report)
     report.expect(savedBytes(shape) == before && shape.undoStack().count() == 0,
                   QStringLiteral("nonsense changes the shape"));
     // Numbers far outside the bounds, and words where numbers belong: the shape stays one that can be drawn.
-    for (const QJsonValue &control : settingsOf(shape))
+    const QJsonArray settings = settingsOf(shape);
+    for (const QJsonValue &control : settings)
         if (idOf(control) != QLatin1String("idLineStyle"))
             for (const char *text : {"-1e9", "1e9", "nan", "word", ""})
                 answer(shape, {{idOf(control), QString::fromLatin1(text)}});

@@ -54,7 +54,8 @@ QString titleOf(const QString &path)
 QString freeName(const QString &path, QSet<QString> &taken)
 {
     QString name;
-    for (const QChar character : shapeName(path))
+    const QString written = shapeName(path);
+    for (const QChar character : written)
         if (character.unicode() < 128 && character.isLetterOrNumber())
             name += character.toLower();
     if (name.isEmpty() || !name.at(0).isLetter())

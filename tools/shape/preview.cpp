@@ -59,7 +59,7 @@ int runPreview(const QStringList &arguments)
         return *end;
     if (parser.positionalArguments().size() != 1)
         return complain(QStringLiteral("preview needs one file; --help tells more."));
-    const QString path = parser.positionalArguments().first();
+    const QString path = parser.positionalArguments().constFirst();
     if (!parser.isSet(png) && !parser.isSet(sheet))
         return showWindow(path);
     const Subjects subjects(path);

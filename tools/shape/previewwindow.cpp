@@ -135,7 +135,8 @@ void PreviewWindow::showSettings()
 {
     while (m_settings->rowCount() > 0)
         m_settings->removeRow(0);
-    for (const QJsonValue &control : checklist::settingsOf(*m_shape))
+    const QJsonArray settings = checklist::settingsOf(*m_shape);
+    for (const QJsonValue &control : settings)
         addControl(control.toObject());
 }
 
