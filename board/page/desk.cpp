@@ -1,6 +1,5 @@
 #include "page/desk.h"
 
-#include "core/arranging.h"
 #include "look/theme.h"
 
 #include <pagehost/page.h>
@@ -52,6 +51,12 @@ QVector<QRectF> sidesOf(const QRectF &page, const QRectF &exposed)
     return sides;
 }
 
+/// Around the whole object, scene coordinates.
+QRectF placeOf(const CBaseObject &object)
+{
+    return object.mapToScene(object.getClientRect()).boundingRect();
+}
+
 } // namespace
 
 void paintDesk(QPainter *painter, const QRectF &exposed, double zoom, const QColor &color)
@@ -97,7 +102,7 @@ void paintVeil(QPainter *painter, const QRectF &exposed, const pagehost::Page &p
         for (QGraphicsItem *item : items) {
             auto *object = dynamic_cast<CBaseObject *>(item);
             // The bounds of one that is on the page may reach beyond, and nothing is drawn there but the shadow.
-            if (object && isOff({object}, paper))
+            if (object && !paper.contains(placeOf(*object)))
                 outside.addRect(item->sceneBoundingRect() & side);
         }
     }
