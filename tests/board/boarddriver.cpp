@@ -85,15 +85,15 @@ bool activate(QWidget &window)
 {
     if (!QTest::qWaitForWindowExposed(&window, support::patience))
         return false;
-    // A window counts as active while a dialog over it is.
     window.activateWindow();
-    // A dialog that is closing may take the focus along once more.
+    // For QWindow, a dialog is active while its window is, and the window while its dialog is. A dialog that is
+    // closing may take the focus along once more.
     const auto isActive = [&window] {
-        if (!window.windowHandle()->isActive())
+        if (QApplication::activeWindow() != &window)
             window.activateWindow();
-        return window.windowHandle()->isActive();
+        return QApplication::activeWindow() == &window;
     };
-    return QTest::qWaitFor(isActive, support::patience) && QTest::qWaitForWindowActive(&window, support::patience);
+    return QTest::qWaitFor(isActive, support::patience);
 }
 
 BoardDriver::BoardDriver(const QString &language)

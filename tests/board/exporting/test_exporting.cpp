@@ -61,7 +61,7 @@ struct ExportDesk
     {
         board.action("Export…")->trigger();
         QVERIFY(dialog());
-        QVERIFY(QTest::qWaitForWindowActive(dialog()));
+        QVERIFY(activate(*dialog()));
         for (const QString &text : texts)
             press(text);
     }
@@ -83,7 +83,7 @@ struct ExportDesk
     void type(const QString &name)
     {
         QVERIFY(fileDialog());
-        QVERIFY(QTest::qWaitForWindowActive(fileDialog()));
+        QVERIFY(activate(*fileDialog()));
         auto *line = fileDialog()->findChild<QLineEdit *>();
         line->setText(name);
         QTest::keyClick(line, Qt::Key_Return);
@@ -217,7 +217,7 @@ void TestExporting::returnOnTheQuestionReplacesNothing()
     t.write("page-1.png", somebodysWork);
     t.exportPictures();
     QVERIFY(t.question());
-    QVERIFY(QTest::qWaitForWindowActive(t.question()));
+    QVERIFY(activate(*t.question()));
     QTest::keyClick(t.question(), Qt::Key_Return);
     QTRY_VERIFY_WITH_TIMEOUT(!t.question(), support::patience);
     QCOMPARE(t.files(), QStringList{"page-1.png"});
