@@ -33,14 +33,15 @@ bool LabelWriting::hasTextAt(const QPoint &pos) const
 
 bool LabelWriting::goOnAt(const QPoint &pos)
 {
-    if (!hasTextAt(pos))
-        return false;
     CBaseObject *object = objectAt(pos);
+    const std::optional<EditableLabel> label = labelAt(object, pos);
+    if (!label || label->text.isEmpty())
+        return false;
     pagehost::Page *page = m_view->page();
     while (page->enterGroupOf(object))
         continue;
     page->select({object});
-    write(object, *labelAt(object, pos), false);
+    write(object, *label, false);
     m_editor->putCursorAt(pos);
     return true;
 }
@@ -48,7 +49,7 @@ bool LabelWriting::goOnAt(const QPoint &pos)
 /// The topmost label that can be written. `object` may be null.
 std::optional<EditableLabel> LabelWriting::labelAt(CBaseObject *object, const QPoint &pos) const
 {
-    if (!object || object->isLocked() || !m_view->isEditable())
+    if (!object || object->isLocked())
         return std::nullopt;
     const QPointF place = object->mapFromScene(m_view->mapToScene(pos));
     const QVector<EditableLabel> labels = labelsOf(*object);
@@ -68,9 +69,12 @@ bool LabelWriting::isFree(const QPoint &pos) const
                        [object](const EditableLabel &label) { return object->isLocked() && label.text.isEmpty(); });
 }
 
-/// The topmost one, or the selected one around it; handles and other aids are none.
+/// The topmost one, or the selected one around it; handles and other aids are none. Null where nothing may be
+/// written.
 CBaseObject *LabelWriting::objectAt(const QPoint &pos) const
 {
+    if (!m_view->isEditable())
+        return nullptr;
     const QList<QGraphicsItem *> found = m_view->items(pos);
     for (QGraphicsItem *item : found)
         if (auto *object = dynamic_cast<CBaseObject *>(item))

@@ -30,6 +30,13 @@ struct TextDesk : BoardDriver
         return nullptr;
     }
     void type(const QString &text) { BoardDriver::type(editor(), text); }
+    /// With a click and keys.
+    void write(const QPointF &pos, const QString &text)
+    {
+        click(pos);
+        type(text);
+        end();
+    }
     void end() { strike(Qt::Key_Escape); }
     void strike(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { keyIn(editor(), key, modifiers); }
     /// The first label of the page's object.

@@ -4,6 +4,7 @@
 
 #include <core/commands.h>
 #include <page/labels.h>
+#include <page/labelwriting.h>
 
 #include <pagehost/commands.h>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void aDoubleClickOnAShapeWithoutTextTypesOnIt();
     void aDoubleClickOnALockedShapeTypesOnIt();
     void aDoubleClickBesideThePageTypesNothing();
+    void aViewWithoutAPageHasNoTexts();
     void aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace();
     void aClickWithTheToolGoesOnWithAText();
     void aClickWithTheToolGoesOnWithALabel();
@@ -46,9 +48,7 @@ private Q_SLOTS:
 void TestTextTool::aDoubleClickOnTheEmptyPageTypesThere()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("by the tool");
-    desk.end();
+    desk.write({500, 300}, "by the tool");
     desk.tools().choose(Tool::Select);
     desk.doubleClick({500, 500});
     QVERIFY(desk.editor());
@@ -101,6 +101,18 @@ void TestTextTool::aDoubleClickBesideThePageTypesNothing()
     QVERIFY(desk.editor());
 }
 
+void TestTextTool::aViewWithoutAPageHasNoTexts()
+{
+    Desk desk;
+    desk.tools().choose(Tool::Select);
+    desk.view().setPage(nullptr);
+    const board::LabelWriting &texts = *desk.view().writing();
+    QVERIFY(!desk.view().writing()->writeAt({300, 300}));
+    QVERIFY(!texts.hasTextAt({300, 300}));
+    QVERIFY(!desk.view().writing()->goOnAt({300, 300}));
+    QVERIFY(!texts.isFree({300, 300}));
+}
+
 void TestTextTool::aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace()
 {
     Desk desk;
@@ -114,9 +126,7 @@ void TestTextTool::aDoubleClickThatIsNotFollowedByLettersLeavesNoTrace()
 void TestTextTool::aClickWithTheToolGoesOnWithAText()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     CBaseObject *text = desk.page().objects().constFirst();
     const QRectF place = desk.placeOf(text);
     desk.tools().choose(Tool::Text);
@@ -129,9 +139,7 @@ void TestTextTool::aClickWithTheToolGoesOnWithAText()
     QCOMPARE(desk.page().objectCount(), 1);
     QCOMPARE(desk.written(0), QString("Lights"));
     desk.tools().choose(Tool::Text);
-    desk.click({place.left() + 1, place.center().y()});
-    desk.type("S");
-    desk.end();
+    desk.write({place.left() + 1, place.center().y()}, "S");
     QCOMPARE(desk.written(0), QString("SLights"));
     QCOMPARE(desk.history().count(), 3);
     desk.history().undo();
@@ -157,9 +165,7 @@ void TestTextTool::aClickWithTheToolOnAnEmptyShapeWritesOnIt()
     Desk desk;
     desk.draw(boardtest::rectangle, {300, 200}, {700, 500});
     desk.tools().choose(Tool::Text);
-    desk.click({500, 350});
-    desk.type("Base");
-    desk.end();
+    desk.write({500, 350}, "Base");
     QCOMPARE(desk.page().objectCount(), 2);
     QCOMPARE(desk.written(0), QString());
     QCOMPARE(desk.written(1), QString("Base"));
@@ -168,14 +174,10 @@ void TestTextTool::aClickWithTheToolOnAnEmptyShapeWritesOnIt()
 void TestTextTool::aClickWithTheToolOnALockedTextWritesOnIt()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     pagehost::setObjectsLocked(desk.page().objects(), true);
     desk.tools().choose(Tool::Text);
-    desk.click({505, 300});
-    desk.type("Shadow");
-    desk.end();
+    desk.write({505, 300}, "Shadow");
     QCOMPARE(desk.written(0), QString("Light"));
     QCOMPARE(desk.written(1), QString("Shadow"));
 }
@@ -185,9 +187,7 @@ void TestTextTool::aClickWithTheToolGoesOnWithATextOfAGroup()
     Desk desk;
     CBaseObject *shape = desk.draw("shapes.ring", {700, 200}, {900, 400});
     desk.tools().choose(Tool::Text);
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     CBaseObject *text = desk.page().objects().at(1);
     QVERIFY(pagehost::groupObjects(&desk.page(), {shape, text}));
     desk.tools().choose(Tool::Text);
@@ -203,9 +203,7 @@ void TestTextTool::aClickWithTheToolGoesOnWithATextOfAGroup()
 void TestTextTool::aDragWithTheToolOverATextMakesAnother()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     desk.tools().choose(Tool::Text);
     desk.drag({505, 300}, {700, 320});
     desk.type("Shadow");
@@ -217,9 +215,7 @@ void TestTextTool::aDragWithTheToolOverATextMakesAnother()
 void TestTextTool::aKeptToolStaysAfterATextIsGoneOnWith()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     desk.tools().choose(Tool::Text);
     desk.tools().keep(true);
     desk.click({505, 300});
@@ -282,9 +278,7 @@ void TestTextTool::aKeptToolWritesTheNextText()
     desk.tools().keep(true);
     desk.click({500, 300});
     desk.type("Light");
-    desk.click({500, 500});
-    desk.type("Shadow");
-    desk.end();
+    desk.write({500, 500}, "Shadow");
     QCOMPARE(desk.written(0), QString("Light"));
     QCOMPARE(desk.written(1), QString("Shadow"));
     QCOMPARE(desk.tools().tool(), Tool::Text);

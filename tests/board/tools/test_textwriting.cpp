@@ -80,9 +80,7 @@ void TestTextWriting::aClickAndKeysMakeAText()
 void TestTextWriting::lettersAreSetInASectionOfThePanel()
 {
     Desk desk;
-    desk.click({200, 200});
-    desk.type("wonderful");
-    desk.end();
+    desk.write({200, 200}, "wonderful");
     board::SettingsPanel *settings = desk.window().settings();
     desk.window().raisePanel(settings);
     QCoreApplication::processEvents();
@@ -128,9 +126,7 @@ void TestTextWriting::lettersOfAllFiguresAreSetInTheSameSection()
 void TestTextWriting::theTextAndItsObjectAreOneStep()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     QCOMPARE(desk.history().count(), 1);
     desk.history().undo();
     QCOMPARE(desk.page().objectCount(), 0);
@@ -150,9 +146,7 @@ void TestTextWriting::aTextThatStaysEmptyVanishesWithoutATrace()
 void TestTextWriting::aTextThatIsEmptiedVanishesInOneStep()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     desk.view().writeFirstLabel();
     desk.strike(Qt::Key_Delete);
     desk.end();
@@ -165,9 +159,7 @@ void TestTextWriting::aTextThatIsEmptiedVanishesInOneStep()
 void TestTextWriting::aChangedTextIsAStep()
 {
     Desk desk;
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     desk.doubleClick({505, 300});
     QVERIFY(desk.editor());
     desk.type("Shadow");
@@ -302,9 +294,7 @@ void TestTextWriting::theBarOfLettersMovesToTheNextText()
 {
     Desk desk;
     const auto *bar = desk.window().findChild<board::TypingBar *>();
-    desk.click({500, 300});
-    desk.type("Light");
-    desk.end();
+    desk.write({500, 300}, "Light");
     const QRect before = bar->geometry();
     desk.tools().choose(Tool::Text);
     desk.click({900, 600});
