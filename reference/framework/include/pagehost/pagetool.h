@@ -124,9 +124,9 @@ public:
     /// Takes back the drawing that is going on, or ends waiting. False when there was nothing to cancel.
     virtual bool cancel() = 0;
 
-    /// It moves over the page without being pressed, while nothing is drawn.
+    /// The pointer moves over the page without being pressed, while nothing is drawn.
     virtual void hover(const ToolPointer &pointer) { Q_UNUSED(pointer) }
-    /// It has left the view in which it hovered.
+    /// The pointer has left the view in which it hovered.
     virtual void hoverEnd() {}
     /// Milliseconds after which heldStill() is due while the pressed pointer rests; 0 for never.
     virtual int stillTime() const { return 0; }
